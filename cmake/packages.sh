@@ -1,0 +1,48 @@
+# SPDX-FileCopyrightText: Corvel print dialog authors
+# SPDX-License-Identifier: Apache-2.0
+#
+# What ./run and ./test share: the Debian packages, and how to get and build what is missing. Sourced, not run.
+
+corvel_build_packages=(
+    cmake ninja-build g++ pkg-config python3
+    qt6-base-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools
+    libqt6opengl6-dev libgl-dev libopengl-dev libvulkan-dev
+    libcups2-dev libcairo2-dev fonts-dejavu-core
+)
+corvel_test_packages=(cups cups-client cups-filters poppler-utils)
+
+# corvel_install PACKAGE...: installs those that are not there; costs a few milliseconds when all are.
+corvel_install() {
+    local missing=() package
+    local -A installed=()
+    if command -v dpkg-query >/dev/null; then
+        while read -r package; do installed[$package]=1; done < <(
+            dpkg-query -W -f '${db:Status-Abbrev}${Package}\n' "$@" 2>/dev/null | sed -n 's/^ii *//p')
+    fi
+    for package in "$@"; do
+        [ -n "${installed[$package]:-}" ] || missing+=("$package")
+    done
+    [ ${#missing[@]} -gt 0 ] || return 0
+
+    local sudo=()
+    if [ "$(id -u)" -ne 0 ]; then
+        sudo=(sudo)
+        [ -t 0 ] || sudo+=(-n) # nobody is there to type a password
+    fi
+    local command="apt-get install -y --no-install-recommends ${missing[*]}"
+    echo "Installing: ${missing[*]}" >&2
+    if ! { "${sudo[@]}" apt-get update -qq &&
+            "${sudo[@]}" env DEBIAN_FRONTEND=noninteractive $command; } >/dev/null 2>&1; then
+        echo "Missing packages: ${missing[*]}. Get them with: sudo $command" >&2
+        return 1
+    fi
+}
+
+# corvel_build ROOT PRESET TARGET...: configures the build folder when it is new, and builds the targets.
+corvel_build() {
+    local root=$1 preset=$2
+    shift 2
+    local folder=$root/build/$preset
+    [ -f "$folder/build.ninja" ] || (cd "$root" && cmake --preset "$preset")
+    cmake --build "$folder" --target "$@"
+}
