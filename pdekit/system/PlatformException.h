@@ -1,0 +1,33 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include "pdekit_export.h"
+
+#include <QtCore/QString>
+
+#include <exception>
+
+namespace pdekit {
+
+/// The exception that the platform's services raise. A guard around a call of the platform catches this class
+/// and lets every other exception pass.
+class PDEKIT_EXPORT PlatformException : public std::exception
+{
+public:
+    explicit PlatformException(const QString &description)
+        : description_(description)
+        , utf8_(description.toUtf8())
+    {
+    }
+
+    const QString &description() const { return description_; }
+    const char *what() const noexcept override { return utf8_.constData(); }
+
+private:
+    QString description_;
+    QByteArray utf8_;
+};
+
+} // namespace pdekit

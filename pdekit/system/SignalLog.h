@@ -1,0 +1,21 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include "pdekit_export.h"
+
+#include <cstddef>
+
+namespace pdekit {
+
+/// Makes ready for systemLogFromSignal: a pipe, and its reader on the main thread's event loop. Called on the
+/// main thread before a handler that logs is installed; further calls do nothing. False: no pipe could be
+/// had, and what handlers log is lost.
+PDEKIT_EXPORT bool prepareSignalLog();
+
+/// Logs one line from a signal handler: async-signal-safe (signal-safety(7)), errno is kept. The line reaches
+/// the system log when the event loop runs next. At most 255 bytes; lost when thousands are waiting already.
+PDEKIT_EXPORT void systemLogFromSignal(const char *text, std::size_t length) noexcept;
+
+} // namespace pdekit

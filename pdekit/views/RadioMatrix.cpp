@@ -1,0 +1,69 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "RadioMatrix.h"
+
+#include <QtCore/QChildEvent>
+#include <QtCore/QVariant>
+#include <QtWidgets/QAbstractButton>
+
+namespace pdekit {
+
+RadioMatrix::RadioMatrix(QWidget *parent)
+    : QWidget(parent)
+{
+}
+
+QList<QAbstractButton *> RadioMatrix::cells() const
+{
+    return findChildren<QAbstractButton *>(Qt::FindDirectChildrenOnly);
+}
+
+QAbstractButton *RadioMatrix::selectedCell() const
+{
+    const QList<QAbstractButton *> all = cells();
+    for (QAbstractButton *cell : all) {
+        if (cell->isChecked())
+            return cell;
+    }
+    return nullptr;
+}
+
+bool RadioMatrix::selectCellWithTag(int wanted)
+{
+    const QList<QAbstractButton *> all = cells();
+    for (QAbstractButton *cell : all) {
+        if (cell->property("cellTag").isValid() && cellTag(cell) == wanted) {
+            cell->setChecked(true);
+            return true;
+        }
+    }
+    return false;
+}
+
+QString RadioMatrix::toolTipForCell(const QAbstractButton *cell) const
+{
+    return cell->toolTip();
+}
+
+void RadioMatrix::setToolTipForCell(const QString &toolTip, QAbstractButton *cell)
+{
+    cell->setToolTip(toolTip);
+}
+
+int RadioMatrix::cellTag(const QAbstractButton *cell)
+{
+    return cell ? cell->property("cellTag").toInt() : 0;
+}
+
+void RadioMatrix::childEvent(QChildEvent *event)
+{
+    // A cell that is being added may not be a button yet; at polishing it is whole.
+    if (event->polished()) {
+        if (auto *cell = qobject_cast<QAbstractButton *>(event->child()))
+            connect(cell, &QAbstractButton::clicked, this, &RadioMatrix::cellClicked, Qt::UniqueConnection);
+    }
+    QWidget::childEvent(event);
+}
+
+} // namespace pdekit

@@ -1,0 +1,58 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "TextFieldEvents.h"
+
+#include <QtGui/QKeyEvent>
+#include <QtWidgets/QLineEdit>
+
+#include <utility>
+
+namespace pdekit {
+
+TextFieldEvents *TextFieldEvents::attach(QLineEdit *field)
+{
+    qDeleteAll(field->findChildren<TextFieldEvents *>(Qt::FindDirectChildrenOnly));
+    return new TextFieldEvents(field);
+}
+
+TextFieldEvents::TextFieldEvents(QLineEdit *field)
+    : QObject(field)
+{
+    connect(field, &QLineEdit::textEdited, this, &TextFieldEvents::noteEdit);
+    connect(field, &QLineEdit::returnPressed, this, [this] { returnPressed_ = true; });
+    connect(field, &QLineEdit::editingFinished, this, &TextFieldEvents::finishEditing);
+    field->installEventFilter(this);
+}
+
+void TextFieldEvents::noteEdit()
+{
+    edited_ = true;
+    Q_EMIT textDidChange();
+}
+
+// QLineEdit tells of Return before it tells that editing has finished; and it tells of the latter also when
+// only a program has changed the text.
+void TextFieldEvents::finishEditing()
+{
+    const bool byReturn = std::exchange(returnPressed_, false);
+    if (std::exchange(edited_, false) || byReturn)
+        Q_EMIT textDidEndEditing();
+    if (byReturn)
+        Q_EMIT action();
+}
+
+// Return belongs to the field: it must not reach the dialog, whose default button would print.
+bool TextFieldEvents::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() != QEvent::KeyPress)
+        return QObject::eventFilter(watched, event);
+    const int key = static_cast<QKeyEvent *>(event)->key();
+    if (key != Qt::Key_Return && key != Qt::Key_Enter)
+        return QObject::eventFilter(watched, event);
+    watched->event(event);
+    event->accept();
+    return true;
+}
+
+} // namespace pdekit

@@ -1,0 +1,41 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "ViewTags.h"
+
+#include <QtCore/QVariant>
+#include <QtWidgets/QWidget>
+
+namespace pdekit {
+
+namespace {
+
+constexpr char tagProperty[] = "tag";
+
+} // namespace
+
+int tag(const QWidget *view)
+{
+    const QVariant value = view->property(tagProperty);
+    return value.isValid() ? value.toInt() : noTag;
+}
+
+void setTag(QWidget *view, int tag)
+{
+    view->setProperty(tagProperty, tag);
+}
+
+QWidget *viewWithTag(QWidget *view, int wanted)
+{
+    if (!view || tag(view) == wanted)
+        return view;
+    for (QObject *child : view->children()) {
+        if (!child->isWidgetType())
+            continue;
+        if (QWidget *found = viewWithTag(static_cast<QWidget *>(child), wanted))
+            return found;
+    }
+    return nullptr;
+}
+
+} // namespace pdekit
