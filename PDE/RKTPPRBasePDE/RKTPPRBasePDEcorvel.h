@@ -1,0 +1,151 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include "Bundle.h"
+#include "ChoiceReceiver.h"
+#include "PrintDialogPanel.h"
+
+#include <QtCore/QHash>
+#include <QtCore/QPointer>
+
+#include <memory>
+#include <optional>
+
+struct ppd_file_s;
+
+namespace pdekit {
+class PrintDialogCallback;
+}
+
+/// The base of the plug-in's panels: all that they share of the dialog's protocol, of the road from a control
+/// to a recorded choice and back, and of the access to the print system. A concrete panel overrides hooks
+/// only.
+///
+/// A panel works in one of two modes, fixed at construction. Constraint-handling mode: the dialog owns the
+/// PPD, marks choices in it and rules on each; the panel reads the marks and never writes the print settings.
+/// Print-settings mode: the panel takes the PPD from the print session and keeps its choices in the print
+/// settings itself.
+///
+/// Controls are found by tag: option controls 1, 2, 3, ...; the partner that shows the same value as control
+/// N at N ^ 80; the defaults button 16; the enabler check box 32. Main thread only.
+class RKTPPRBasePDEcorvel : public QObject, public pdekit::PrintDialogPanel, public pdekit::ChoiceReceiver
+{
+    Q_OBJECT
+    Q_INTERFACES(pdekit::PrintDialogPanel pdekit::ChoiceReceiver)
+
+public:
+    static constexpr int defaultsTag = 16;
+    static constexpr int enablerTag = 32;
+    static constexpr int partnerBits = 80;
+
+    /// A choice or a key that may be missing.
+    using Text = std::optional<QString>;
+
+    RKTPPRBasePDEcorvel() = default;
+    ~RKTPPRBasePDEcorvel() override;
+    Q_DISABLE_COPY_MOVE(RKTPPRBasePDEcorvel)
+
+    /// A panel of the class over the dialog's callback object; null when no PPD can be had for the printer.
+    template <class Panel>
+    static std::unique_ptr<Panel> make(const std::shared_ptr<QObject> &callback)
+    {
+        auto panel = std::make_unique<Panel>();
+        if (!panel->initWithCallback(callback))
+            panel.reset();
+        return panel;
+    }
+
+    /// Called once, right after construction. False: there is no PPD, and the panel is of no use.
+    virtual bool initWithCallback(const std::shared_ptr<QObject> &callback);
+
+    // Print settings and PPD.
+    /// The bytes of the printer's PPD file, without a terminating NUL.
+    virtual std::optional<QByteArray> ppdDataCopy();
+    /// "usb://" as long as the printer's own is not known.
+    virtual QString printerDeviceURI();
+
+    // Hooks and operations on a loaded view.
+    virtual Text ppdOptionKeyForTag(int tag) const;
+    virtual void enableTextFieldsForEditingInView(QWidget *view);
+    /// True when the view's own title or text was replaced.
+    virtual bool localizeStringsInViewAndSubviewsResizeTofit(QWidget *view, bool subviews, bool resize);
+    virtual void setChoiceForKey(const Text &choice, const Text &key);
+    virtual Text ppdChoiceForTag(int cellTag) const;
+
+    // From a control to a recorded choice.
+    virtual Text newChoiceForSender(QWidget *sender);
+    virtual void setToolTipFromSender(const QString &toolTip, QWidget *sender);
+    virtual bool validateChoiceForPPDOptionKeyFromSender(const QString &choice, const QString &key,
+                                                         QWidget *sender);
+    virtual void rejectChoiceForPPDOptionKeyFromSender(const Text &choice, const Text &key, QWidget *sender);
+    virtual QString displayStringForValueForPPDOptionKey(const QString &value, const QString &key) const;
+    /// True when a choice and a key were given and the print system did not refuse. A typed number that is
+    /// out of range is put back, and the answer is true all the same.
+    bool markChoiceForPPDOptionKeyFromSender(const Text &choice, const Text &key, QWidget *sender) override;
+
+    // From the recorded choices to the controls.
+    /// The tag of the radio cell that stands for the choice; 0 when none does.
+    virtual int tagForStringValue(const Text &value) const;
+    bool shouldShowHelp() override;
+    /// Non-zero enables the option controls.
+    virtual int enablerState(QWidget *enabler) const;
+    virtual void setControlsEnabledByToggle(QWidget *enabler);
+    virtual void updateControlWithValue(QWidget *control, const Text &value);
+    virtual void updateUI();
+    virtual void setDefaults();
+
+    // Actions.
+    /// The hook for an immediate printer command; does nothing.
+    Q_INVOKABLE virtual void sendPrinterCommand(QObject *sender);
+    /// The action of every control that stands for a printer setting.
+    Q_INVOKABLE virtual void changePrinterSetting(QObject *sender);
+    /// The user has left the text field `object`.
+    virtual void controlTextDidEndEditing(QWidget *object);
+    /// The user has changed the text of the field `object`.
+    virtual void controlTextDidChange(QWidget *object);
+
+    // The dialog's protocol.
+    void willShow() override;
+    bool shouldHide() override;
+    bool saveValuesAndReturnError(QString *error) override;
+    bool restoreValuesAndReturnError(QString *error) override;
+    QStringList supportedPPDOptionKeys() override;
+    void PPDOptionKeyValueDidChangePpdChoice(const Text &key, const Text &choice) override;
+    Text nibName() override;
+    QWidget *panelView() override;
+    Text panelName() override;
+    Text panelKind() const override;
+    std::optional<Summary> summaryInfo() override;
+
+    // The road to the print settings of a dialog without constraint handling.
+    /// The print session's PPD record, which stays the session's; null when it cannot be had.
+    virtual ppd_file_s *getPPDOnTiger();
+    /// True writes the recorded choices to the print settings, false reads them from there.
+    virtual void usePPDSettingsFromPrintSettingsOnTiger(bool write);
+    virtual void getPPDSettingsFromPrintSettingsOnTiger();
+    virtual void writePPDSettingsToPrintSettingsOnTiger();
+
+protected:
+    /// `tag`, or the tag of the option control whose partner it is.
+    static int foldedTag(int tag) { return (tag & partnerBits) != 0 ? tag ^ partnerBits : tag; }
+
+    /// The keyword of the choice marked in the PPD.
+    Text markedChoice(const QString &key) const;
+    Text recordedChoice(const Text &key) const;
+
+    std::shared_ptr<QObject> pdePluginCallbackObject_; ///< the dialog's
+    Text thePDEName_;                                  ///< filled by the concrete panel's panelName
+    std::optional<pdekit::Bundle> pdeBundle_;          ///< holds the concrete panel's class
+    std::optional<QHash<QString, QString>> choiceDict_;
+    std::optional<QStringList> supportedPPDOptionKeys_;
+    bool useConstraintHandling_ = false;
+    Text deviceURI_;
+    ppd_file_s *ppd_ = nullptr; ///< borrowed from the dialog or the session
+    QPointer<QWidget> PDEView_;
+
+private:
+    pdekit::PrintDialogCallback *callback() const;
+    bool offerToPrintSystem(const QString &choice, const QString &key, QWidget *sender);
+};
