@@ -1,0 +1,9 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+// The PPD interface of libcups, for the sources of this folder only. CUPS marks it as deprecated without
+// offering another way to read a queue's options, so the warning is off here and nowhere else.
+#include <cups/ppd.h>
+#pragma GCC diagnostic ignored "-Wdeprecated-declarations"

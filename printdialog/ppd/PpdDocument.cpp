@@ -1,0 +1,109 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "PpdDocument.h"
+#include "PpdDocument_p.h"
+#include "PpdText.h"
+
+#include <algorithm>
+
+namespace printdialog {
+
+namespace {
+
+bool isPlainFileName(const QString &name)
+{
+    const auto plain = [](QChar character) {
+        return character.isPrint() && character != u'\\';
+    };
+    return !name.isEmpty() && name.size() <= 255 && !name.startsWith(u'.') &&
+           plainPpdText(name, 255) == name && std::all_of(name.begin(), name.end(), plain);
+}
+
+} // namespace
+
+PpdDocument::PpdDocument(PpdDocument &&) noexcept = default;
+PpdDocument &PpdDocument::operator=(PpdDocument &&) noexcept = default;
+PpdDocument::~PpdDocument() = default;
+
+void PpdDocument::RecordCloser::operator()(ppd_file_s *record) const
+{
+    ppdClose(record);
+}
+
+QString PpdDocument::modelName() const
+{
+    for (const char *name : {record_->nickname, record_->modelname}) {
+        if (const QString text = plainPpdText(QString::fromUtf8(name)); !text.isEmpty())
+            return text;
+    }
+    return {};
+}
+
+QString PpdDocument::optionText(const QString &key) const
+{
+    const auto option = options_.constFind(key);
+    return option == options_.cend() ? QString() : (*option)->text;
+}
+
+QList<PpdChoice> PpdDocument::choices(const QString &key) const
+{
+    const auto option = options_.constFind(key);
+    return option == options_.cend() ? QList<PpdChoice>() : (*option)->choices;
+}
+
+const PpdChoice *PpdDocument::choice(const QString &key, const QString &keyword) const
+{
+    const auto option = options_.constFind(key);
+    if (option == options_.cend())
+        return nullptr;
+    const qsizetype index = (*option)->indexOf.value(keyword.toLower(), -1);
+    if (index < 0 || (*option)->choices.at(index).keyword != keyword)
+        return nullptr;
+    return &(*option)->choices.at(index);
+}
+
+std::optional<QString> PpdDocument::defaultChoice(const QString &key) const
+{
+    const auto option = options_.constFind(key);
+    if (option == options_.cend())
+        return std::nullopt;
+    const qsizetype index =
+        (*option)->indexOf.value(QString::fromUtf8((*option)->record->defchoice).toLower(), -1);
+    if (index < 0)
+        return std::nullopt;
+    return (*option)->choices.at(index).keyword;
+}
+
+std::optional<QString> PpdDocument::markedChoice(const QString &key) const
+{
+    const auto option = options_.constFind(key);
+    if (option == options_.cend())
+        return std::nullopt;
+    const ppd_choice_t *marked = ppdFindMarkedChoice(record_.get(), (*option)->record->keyword);
+    if (!marked)
+        return std::nullopt;
+    return QString::fromLatin1(marked->choice);
+}
+
+std::optional<PageSize> PpdDocument::pageSize(const QString &keyword) const
+{
+    const auto index = pageSizeOf_.constFind(keyword);
+    if (index == pageSizeOf_.cend())
+        return std::nullopt;
+    return pageSizes_.at(*index);
+}
+
+std::optional<QString> PpdDocument::requestedBundle() const
+{
+    for (const ppd_attr_t *attribute = ppdFindAttr(record_.get(), "APDialogExtension", nullptr); attribute;
+         attribute = ppdFindNextAttr(record_.get(), "APDialogExtension", nullptr)) {
+        const QString path = QString::fromUtf8(attribute->value);
+        const QString name = path.sliced(path.lastIndexOf(u'/') + 1);
+        if (isPlainFileName(name))
+            return name;
+    }
+    return std::nullopt;
+}
+
+} // namespace printdialog

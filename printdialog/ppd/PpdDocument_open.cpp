@@ -1,0 +1,221 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "PpdDocument.h"
+#include "PpdDocument_p.h"
+#include "PpdFile.h"
+#include "PpdText.h"
+
+#include <QtCore/QCoreApplication>
+
+#include <cmath>
+#include <span>
+
+namespace printdialog {
+
+namespace {
+
+constexpr qint64 translationCost = 10'000'000; // comparisons; about 0.1 s
+constexpr float largestSide = 72'000;          // points: 1,000 inches, beyond every sheet and roll
+
+struct Text
+{
+    Q_DECLARE_TR_FUNCTIONS(PpdDocument)
+};
+
+QString decoded(const char *text, const QString &keyword)
+{
+    const QString plain = plainPpdText(QString::fromUtf8(text));
+    return plain.isEmpty() ? keyword : plain;
+}
+
+/// To find the translation of one choice, libcups goes through all translations of the option.
+qint64 costOfLocalizing(const ppd_file_t &record)
+{
+    QHash<QByteArrayView, qint64> translations;
+    for (const ppd_attr_t *attribute : std::span(record.attrs, static_cast<size_t>(record.num_attrs))) {
+        const QByteArrayView name(attribute->name);
+        if (const qsizetype dot = name.indexOf('.'); dot > 0)
+            ++translations[name.sliced(dot + 1)];
+    }
+    qint64 cost = 0;
+    for (const ppd_group_t &group : std::span(record.groups, static_cast<size_t>(record.num_groups))) {
+        for (const ppd_option_t &option : std::span(group.options, static_cast<size_t>(group.num_options)))
+            cost += option.num_choices * translations.value(QByteArrayView(option.keyword));
+    }
+    return cost;
+}
+
+bool isPrintable(const ppd_size_t &size)
+{
+    const auto isSide = [](float points) {
+        return points >= 1 && points <= largestSide;
+    };
+    return isSide(size.width) && isSide(size.length);
+}
+
+QRectF imageableArea(const ppd_size_t &size)
+{
+    const QRectF sheet(0, 0, size.width, size.length);
+    for (const float edge : {size.left, size.bottom, size.right, size.top}) {
+        if (!std::isfinite(edge))
+            return sheet;
+    }
+    // The PPD's origin is the bottom left.
+    const QRectF area(QPointF(size.left, size.length - size.top),
+                      QPointF(size.right, size.length - size.bottom));
+    const QRectF reachable = area.isValid() ? area & sheet : QRectF();
+    return reachable.isEmpty() ? sheet : reachable;
+}
+
+} // namespace
+
+Result<PpdDocument, PpdFault> PpdDocument::openFile(const QString &path)
+{
+    auto bytes = readPpdFile(path);
+    if (!bytes)
+        return bytes.failure();
+    return fromData(*bytes, path);
+}
+
+Result<PpdDocument, PpdFault> PpdDocument::fromData(const QByteArray &data, const QString &name)
+{
+    auto inspection = inspectPpd(data, name);
+    if (!inspection)
+        return inspection.failure();
+    const int descriptor = ppdInMemory(inspection->bytes);
+    if (descriptor < 0)
+        return ppdNotReadable(name, errno);
+    ppdSetConformance(PPD_CONFORM_RELAXED);
+    // Closes the descriptor.
+    std::unique_ptr<ppd_file_t, RecordCloser> record(ppdOpenFd(descriptor));
+    if (!record) {
+        int line = 0;
+        const QString reason = plainPpdText(QString::fromUtf8(ppdErrorString(ppdLastError(&line))));
+        return Failure<PpdFault>{
+            PpdFault::Malformed,
+            Text::tr("The PPD \"%1\" cannot be used: line %2: %3; correct it or fetch another from "
+                     "the printer's maker.")
+                .arg(plainPpdText(name, 300), QString::number(line), reason),
+            {}};
+    }
+    PpdDocument document(data, name, record.release());
+    document.notes_ = inspection->notes;
+    document.localize();
+    document.indexOptions();
+    document.indexPageSizes();
+    if (document.pageSizes_.isEmpty())
+        return Failure<PpdFault>{
+            PpdFault::NoPageSize,
+            Text::tr("The PPD \"%1\" has no page size that can be printed on; correct it or fetch another "
+                     "from the printer's maker.")
+                .arg(plainPpdText(name, 300)),
+            {}};
+    document.markDefaults();
+    return document;
+}
+
+PpdDocument::PpdDocument(const QByteArray &data, const QString &name, ppd_file_s *record)
+    : data_(data)
+    , name_(name)
+    , record_(record)
+{
+}
+
+void PpdDocument::localize()
+{
+    if (costOfLocalizing(*record_) <= translationCost)
+        ppdLocalize(record_.get());
+    else
+        notes_ += Text::tr("The translations are left out: there are too many.");
+}
+
+void PpdDocument::indexOptions()
+{
+    // libcups knows one level of groups below the groups.
+    const auto indexGroup = [this](const ppd_group_t &group) {
+        for (ppd_option_t &option : std::span(group.options, static_cast<size_t>(group.num_options)))
+            indexOption(option);
+    };
+    for (const ppd_group_t &group : std::span(record_->groups, static_cast<size_t>(record_->num_groups))) {
+        indexGroup(group);
+        for (const ppd_group_t &inner : std::span(group.subgroups, static_cast<size_t>(group.num_subgroups)))
+            indexGroup(inner);
+    }
+}
+
+void PpdDocument::indexOption(ppd_option_s &option)
+{
+    // An option that stands in two groups is two records, of which libcups marks only one.
+    if (ppdFindOption(record_.get(), option.keyword) != &option)
+        return;
+    option.ui = option.ui == PPD_UI_PICKMANY ? PPD_UI_PICKONE : option.ui;
+    const QString keyword = QString::fromLatin1(option.keyword);
+    const bool hasCustom = ppdFindCustomOption(record_.get(), option.keyword) != nullptr;
+    auto indexed = std::make_shared<Option>(Option{&option, decoded(option.text, keyword), {}, {}});
+    const std::span choices(option.choices, static_cast<size_t>(option.num_choices));
+    indexed->choices.reserve(option.num_choices);
+    indexed->indexOf.reserve(option.num_choices);
+    qsizetype repeated = 0;
+    for (const ppd_choice_t &choice : choices) {
+        const QString choiceKeyword = QString::fromLatin1(choice.choice);
+        if (hasCustom && choiceKeyword.compare(QLatin1String("Custom"), Qt::CaseInsensitive) == 0)
+            continue;
+        const qsizetype before = indexed->indexOf.size();
+        qsizetype &index = indexed->indexOf[choiceKeyword.toLower()];
+        if (indexed->indexOf.size() == before) {
+            ++repeated;
+            continue;
+        }
+        index = indexed->choices.size();
+        indexed->choices += {choiceKeyword, decoded(choice.text, choiceKeyword)};
+    }
+    if (repeated > 0)
+        notes_ += Text::tr("The option \"%1\" repeats %2 of its choices; the first of each counts.")
+                      .arg(keyword, QString::number(repeated));
+    if (indexed->choices.isEmpty()) {
+        notes_ += Text::tr("The option \"%1\" is left out: it has no choices.").arg(keyword);
+        return;
+    }
+    keywords_ += keyword;
+    options_.insert(keyword, std::move(indexed));
+}
+
+void PpdDocument::indexPageSizes()
+{
+    QHash<QByteArrayView, const ppd_size_t *> sizes;
+    for (const ppd_size_t &size : std::span(record_->sizes, static_cast<size_t>(record_->num_sizes)))
+        sizes.insert(QByteArrayView(size.name), &size);
+    qsizetype unusable = 0;
+    for (const PpdChoice &choice : choices(QStringLiteral("PageSize"))) {
+        const ppd_size_t *size = sizes.value(choice.keyword.toLatin1());
+        if (!size || !isPrintable(*size)) {
+            ++unusable;
+            continue;
+        }
+        pageSizeOf_.insert(choice.keyword, pageSizes_.size());
+        pageSizes_ += {choice.keyword, choice.text, QSizeF(size->width, size->length), imageableArea(*size)};
+    }
+    if (unusable > 0)
+        notes_ += Text::tr("%1 page sizes are left out: they have no dimensions.").arg(unusable);
+}
+
+void PpdDocument::markDefaults()
+{
+    ppdMarkDefaults(record_.get());
+    const auto mark = [this](const QString &key, const QString &choice) {
+        ppdMarkOption(record_.get(), key.toLatin1().constData(), choice.toLatin1().constData());
+    };
+    for (const QString &key : std::as_const(keywords_)) {
+        if (const auto marked = markedChoice(key); marked && !choice(key, *marked))
+            mark(key, choices(key).constFirst().keyword);
+    }
+    const QString pageSizeKey = QStringLiteral("PageSize");
+    if (!pageSizeOf_.contains(markedChoice(pageSizeKey).value_or(QString()))) {
+        notes_ += Text::tr("The default page size is not one of the printer's; \"%1\" takes its place.")
+                      .arg(pageSizes_.constFirst().keyword);
+        mark(pageSizeKey, pageSizes_.constFirst().keyword);
+    }
+}
+
+} // namespace printdialog

@@ -1,0 +1,245 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "PpdDocument.h"
+#include "SmallPpd.h"
+
+#include <QtCore/QFile>
+#include <QtCore/QTemporaryDir>
+#include <QtTest/QTest>
+
+#include <sys/stat.h>
+
+using namespace printdialog;
+using namespace smallppd;
+using namespace Qt::StringLiterals;
+
+Q_DECLARE_METATYPE(printdialog::PpdFault)
+
+class PpdDocumentTest : public QObject
+{
+    Q_OBJECT
+
+    static PpdDocument opened(const QByteArray &data)
+    {
+        auto document = PpdDocument::fromData(data, u"queue"_s);
+        if (!document)
+            qFatal("%s", qPrintable(document.failure().text));
+        return *std::move(document);
+    }
+
+private Q_SLOTS:
+    void refusesFiles_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<PpdFault>("fault");
+        QTest::addColumn<QString>("reason");
+        QTest::newRow("missing") << u"none.ppd"_s << PpdFault::NotFound << u"There is no"_s;
+        QTest::newRow("below a file") << u"empty.ppd/x"_s << PpdFault::NotFound << u"There is no"_s;
+        QTest::newRow("directory") << u"folder"_s << PpdFault::NotReadable << u"is a directory"_s;
+        QTest::newRow("pipe that nobody writes to")
+            << u"pipe"_s << PpdFault::NotReadable << u"device or a pipe"_s;
+        QTest::newRow("device") << u"../../dev/zero"_s << PpdFault::NotReadable << u"device or a pipe"_s;
+        QTest::newRow("empty") << u"empty.ppd"_s << PpdFault::Empty << u"is empty"_s;
+        QTest::newRow("sparse, huge") << u"huge.ppd"_s << PpdFault::TooLarge << u"larger than 32 MiB"_s;
+    }
+
+    void refusesFiles()
+    {
+        QFETCH(QString, name);
+        const QTemporaryDir folder(u"/tmp/ppdXXXXXX"_s);
+        const auto path = [&](const QString &file) {
+            return folder.filePath(file);
+        };
+        QVERIFY(QDir(folder.path()).mkdir(u"folder"_s));
+        QCOMPARE(::mkfifo(qPrintable(path(u"pipe"_s)), 0600), 0);
+        QFile empty(path(u"empty.ppd"_s));
+        QFile huge(path(u"huge.ppd"_s));
+        QVERIFY(empty.open(QFile::WriteOnly) && huge.open(QFile::WriteOnly) && huge.resize(1LL << 40));
+        const auto document = PpdDocument::openFile(path(name));
+        QVERIFY(!document);
+        QTEST(document.failure().reason, "fault");
+        QFETCH(QString, reason);
+        QVERIFY2(document.failure().text.contains(reason), qPrintable(document.failure().text));
+        QVERIFY2(document.failure().text.contains(name), qPrintable(document.failure().text));
+    }
+
+    void refusesData_data()
+    {
+        QTest::addColumn<QByteArray>("data");
+        QTest::addColumn<PpdFault>("fault");
+        QTest::addColumn<QString>("reason");
+        const auto row = [](const char *name, const QByteArray &data, PpdFault fault, const QString &reason) {
+            QTest::newRow(name) << data << fault << reason;
+        };
+        QByteArrayList twoThousand;
+        QByteArray options;
+        for (int i = 0; i < 100'000; ++i)
+            options += option("O" + QByteArray::number(i), {"a"});
+        const QByteArray manyChoices = option("Big", numbered(0, 200'000));
+        const QByteArray big = option("Big", numbered(0, 100'000, "c"));
+        row("other text", "Hello\n", PpdFault::NotAPpd, u"is not a PPD"_s);
+        row("compressed", "\x1f\x8b\x08", PpdFault::NotAPpd, u"gunzip"_s);
+        row("NUL", minimal() + QByteArray("\0\n", 2), PpdFault::NotAPpd, u"is not a PPD"_s);
+        row("control bytes", minimal() + QByteArray(200, '\x02') + "\n", PpdFault::NotAPpd,
+            u"is not a PPD"_s);
+        row("cut in a quote", minimal() + "*Foo: \"abc\n", PpdFault::CutOff, u"line 16"_s);
+        row("cut in a line", minimal() + "*Foo: ab", PpdFault::CutOff, u"line 16"_s);
+        row("cut in an option", minimal() + "*OpenUI *Red/R: PickOne\n*Red 1: \"\"\n", PpdFault::CutOff,
+            u"\"Red\""_s);
+        row("cut in a group", minimal() + "*OpenGroup: G/g\n", PpdFault::CutOff,
+            u"group opened in line 16"_s);
+        row("100,000 options", minimal() + options, PpdFault::TooManyOptions, u"2000 options"_s);
+        row("200,001 choices", minimal() + manyChoices, PpdFault::TooManyChoices, u"200000 choices"_s);
+        row("5,000 page sizes", header + option("PageSize", numbered(1, 5'000, "s")),
+            PpdFault::TooManyChoices, u"page sizes"_s);
+        row("20,001 constraints", minimal() + QByteArray("*UIConstraints: *A b *C d\n").repeated(20'001),
+            PpdFault::TooManyConstraints, u"20000 constraints"_s);
+        row("costly constraints",
+            minimal() + big + QByteArray("*UIConstraints: *Big c1 *A b\n").repeated(600),
+            PpdFault::TooManyConstraints, u"too many choices"_s);
+        row("many other entries", minimal() + QByteArray("*A: \"\"\n").repeated(100'001), PpdFault::Malformed,
+            u"100000 entries"_s);
+        row("UTF-8 option keyword", minimal() + option("R\xc3\xb6t", {"1"}), PpdFault::BadKeyword,
+            u"line 16"_s);
+        row("long option keyword", minimal() + option(QByteArray(41, 'k'), {"1"}), PpdFault::BadKeyword,
+            u"40"_s);
+        row("option without keyword", minimal() + "*OpenUI: PickOne\n", PpdFault::BadKeyword,
+            u"no keyword"_s);
+        row("long line", minimal() + "*Foo: " + QByteArray(5'000, 'x') + "\n", PpdFault::Malformed,
+            u"4096"_s);
+        row("long value", minimal() + "*Foo: \"" + QByteArray("abc\n").repeated(70'000) + "\"\n",
+            PpdFault::Malformed, u"250000"_s);
+        row("told by libcups", minimal() + "*Foo \xff: \"a\nb\"\n*End\nnot an entry\n", PpdFault::Malformed,
+            u"line 19: Missing asterisk"_s);
+        row("no page size", header + option("Red", {"1"}), PpdFault::NoPageSize, u"no page size"_s);
+        row("page size without dimensions", header + option("PageSize", {"A4"}), PpdFault::NoPageSize,
+            u"no page size"_s);
+        for (const char *size : {"1e30 200", "100 nan", "-100 200", "0 200"})
+            row(qPrintable(u"page size "_s + QLatin1String(size)),
+                header + option("PageSize", {"A4"}) + "*PaperDimension A4: \"" + size + "\"\n",
+                PpdFault::NoPageSize, u"no page size"_s);
+    }
+
+    void refusesData()
+    {
+        QFETCH(QByteArray, data);
+        QFETCH(QString, reason);
+        const auto document = PpdDocument::fromData(data, u"my\u202equeue\n"_s);
+        QVERIFY(!document);
+        QTEST(document.failure().reason, "fault");
+        const QString text = document.failure().text;
+        QVERIFY2(text.contains(reason) && text.contains(u"\"myqueue\""_s), qPrintable(text));
+    }
+
+    void keepsOddPpds_data()
+    {
+        QTest::addColumn<QByteArray>("data");
+        QTest::addColumn<QString>("note");
+        const QByteArray odd = minimal() + option("Red", {"1", "2(b)/Two (b)"});
+        QTest::newRow("LF, parentheses") << odd << QString();
+        QTest::newRow("quotes that open nothing") << odd + "*% a: \"\n*Foo \"a\n" << QString();
+        QTest::newRow("CR") << QByteArray(odd).replace('\n', '\r') << QString();
+        QTest::newRow("CRLF, Ctrl-Z") << QByteArray(odd).replace("\n", "\r\n") + "\x1a" << QString();
+        QTest::newRow("bad choice") << QByteArray(odd).replace("*Red 1:",
+                                                               "*Red \xc3\xa9:\x20\"a\nb\"\n*End\n*Red 1:")
+                                    << u"Line 18: the choice \"é\" of the option \"Red\" is left out"_s;
+        QTest::newRow("long choice") << QByteArray(odd).replace("*Red 1:", "*Red " + QByteArray(41, 'a') +
+                                                                               ": \"\"\n*Red 1:")
+                                     << u"longer than 40 characters"_s;
+        QTest::newRow("long lines") << odd + "*%" + QByteArray(300, 'x') + "\n*Foo: \"\n" +
+                                           QByteArray(9'000, 'x') + "\"\n*End\n"
+                                    << u"\"Foo\""_s;
+        QTest::newRow("many languages")
+            << odd + QByteArray("*de.Foo a/b: \"\"\n*fr.Foo a/b: \"\"\n").repeated(60'000) << QString();
+        QTest::newRow("bad entry") << odd + "*ImageableArea \xff: \"0 0 1 1\"\n" << u"ImageableArea"_s;
+        QTest::newRow("repeated choice")
+            << QByteArray(odd).replace("*CloseUI: *Red", "*Red 1: \"\"\n*CloseUI: *Red") << u"repeats 1"_s;
+        QTest::newRow("option without choices") << odd + "*OpenUI *Nil: PickOne\n*CloseUI: *Nil\n"
+                                                << u"\"Nil\""_s;
+        QTest::newRow("many bad entries")
+            << odd + QByteArray("*Foo \xff: \"\"\n").repeated(1'000) << u"950 more entries"_s;
+    }
+
+    void keepsOddPpds()
+    {
+        QFETCH(QByteArray, data);
+        QFETCH(QString, note);
+        const PpdDocument document = opened(data);
+        QCOMPARE(document.data(), data);
+        QCOMPARE(document.options(), QStringList({u"PageSize"_s, u"Red"_s}));
+        const QList<PpdChoice> choices{{u"1"_s, u"1"_s}, {u"2(b)"_s, u"Two (b)"_s}};
+        QCOMPARE(document.choices(u"Red"_s), choices);
+        QVERIFY2(note.isEmpty() ? document.notes().isEmpty() : document.notes().join(u'\n').contains(note),
+                 qPrintable(document.notes().join(u'\n')));
+        QVERIFY(document.notes().size() <= PpdLimits::notes + 1);
+    }
+
+    void tellsWhatThePpdHas()
+    {
+        const PpdDocument document = opened(
+            header + pageSizes() + "*OpenGroup: Photo/Photo\n" +
+            option("Overcoat", {"Glossy/Gl\xe4nzend", "Matte/\x01"}, "Lamination").replace("\x01", "<01>") +
+            option("Lacking", {"Nope/n", "Yes"}).replace("*Lacking Nope/n: \"\"\n", "") +
+            option("Many", {"a", "b", "c"}).replace("PickOne", "PickMany") + "*CloseGroup: Photo\n");
+        QCOMPARE(document.options(), QStringList({u"PageSize"_s, u"Overcoat"_s, u"Lacking"_s, u"Many"_s}));
+        QCOMPARE(document.modelName(), u"Photo 9"_s);
+        QCOMPARE(document.optionText(u"Overcoat"_s), u"Lamination"_s);
+        QCOMPARE(document.choice(u"Overcoat"_s, u"Glossy"_s)->text, u"Glänzend"_s);
+        QCOMPARE(document.choice(u"Overcoat"_s, u"Matte"_s)->text,
+                 u"Matte"_s); // nothing of the text may be shown
+        QVERIFY(!document.choice(u"Overcoat"_s, u"matte"_s) && !document.choice(u"overcoat"_s, u"Matte"_s));
+        QCOMPARE(document.markedChoice(u"Overcoat"_s), u"Glossy"_s);
+        QCOMPARE(document.defaultChoice(u"Overcoat"_s), u"Glossy"_s);
+        QVERIFY(!document.defaultChoice(u"Lacking"_s) && !document.markedChoice(u"Nope"_s));
+        QVERIFY(!document.requestedBundle());
+    }
+
+    void pageSizesRunFromTheTopLeft()
+    {
+        const PpdDocument document =
+            opened(header + option("PageSize", {"Gone", "w288h432/4 x 6", "Spill", "Bare"}) +
+                   "*ImageableArea w288h432: \"6 12 280 420\"\n*PaperDimension w288h432: \"288 432\"\n"
+                   "*ImageableArea Spill: \"-9 -9 109 209\"\n*PaperDimension Spill: \"100 200\"\n"
+                   "*PaperDimension Bare: \"100 200\"\n*CustomPageSize True: \"pop\"\n");
+        QCOMPARE(document.pageSizes().size(), 3);
+        const PageSize first = document.pageSizes().constFirst();
+        QCOMPARE(first.text, u"4 x 6"_s);
+        QCOMPARE(first.points, QSizeF(288, 432));
+        QCOMPARE(first.imageable, QRectF(6, 12, 274, 408));
+        QCOMPARE(document.pageSize(u"Spill"_s)->imageable, QRectF(0, 0, 100, 200));
+        QCOMPARE(document.pageSize(u"Bare"_s)->imageable, QRectF(0, 0, 100, 200));
+        QVERIFY(!document.pageSize(u"Gone"_s) && !document.choice(u"PageSize"_s, u"Custom"_s));
+        QCOMPARE(document.markedChoice(u"PageSize"_s), u"w288h432"_s); // the default cannot be printed on
+    }
+
+    void believesOnlyTheBundlesName_data()
+    {
+        QTest::addColumn<QByteArray>("value");
+        QTest::addColumn<QString>("bundle");
+        QTest::newRow("plain") << QByteArray("Corvel9031.bundle") << u"Corvel9031.bundle"_s;
+        QTest::newRow("upwards") << QByteArray("../../evil.bundle") << u"evil.bundle"_s;
+        QTest::newRow("absolute") << QByteArray("/x/y/Corvel9031.bundle") << u"Corvel9031.bundle"_s;
+        for (const char *none : {"", "/x/y/", "..", "/x/..", "/x/.hidden", "a\\b", "a\x1b[1m", "a\nb"})
+            QTest::addRow("none in %s", QByteArray(none).toPercentEncoding().constData())
+                << QByteArray(none) << QString();
+    }
+
+    void believesOnlyTheBundlesName()
+    {
+        QFETCH(QByteArray, value);
+        const PpdDocument document = opened(minimal() + "*APDialogExtension: \"" + value + "\"\n");
+        QTEST(document.requestedBundle().value_or(QString()), "bundle");
+    }
+
+    void survivesAMove()
+    {
+        PpdDocument first = opened(minimal());
+        PpdDocument second = opened(header + pageSizes() + option("Red", {"1"}));
+        first = std::move(second);
+        QCOMPARE(first.markedChoice(u"Red"_s), u"1"_s);
+    }
+};
+
+QTEST_GUILESS_MAIN(PpdDocumentTest)
+#include "PpdDocumentTest.moc"
