@@ -1,0 +1,159 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "CupsConnection.h"
+
+#include "CleanText.h"
+
+#include <QtCore/QCoreApplication>
+#include <QtCore/QFileInfo>
+
+#include <algorithm>
+#include <array>
+#include <csignal>
+#include <mutex>
+
+using namespace std::chrono_literals;
+
+namespace printdialog {
+
+namespace {
+
+constexpr auto cancelInterval = 100ms;
+/// A server on this machine accepts at once or not at all.
+constexpr auto loopbackLimit = 250ms;
+/// A name that is longer cannot be one of a queue (CUPS allows 127 bytes).
+constexpr qsizetype queueNameLimit = 127;
+
+/// libcups sets SIGPIPE to be ignored when it is first used; a handler that somebody installed stays in
+/// force.
+void initializeCups()
+{
+    static std::once_flag once;
+    std::call_once(once, [] {
+        struct sigaction before = {};
+        sigaction(SIGPIPE, nullptr, &before);
+        httpInitialize();
+        if (before.sa_handler != SIG_DFL)
+            sigaction(SIGPIPE, &before, nullptr);
+    });
+}
+
+const char *noPassword(const char *, http_t *, const char *, const char *, void *)
+{
+    return nullptr;
+}
+
+QueueFault faultOf(ipp_status_t status)
+{
+    switch (status) {
+    case IPP_STATUS_ERROR_NOT_FOUND:
+    case IPP_STATUS_ERROR_GONE:
+        return QueueFault::NotFound;
+    case IPP_STATUS_ERROR_NOT_ACCEPTING_JOBS:
+        return QueueFault::NotAccepting;
+    case IPP_STATUS_ERROR_FORBIDDEN:
+    case IPP_STATUS_ERROR_NOT_AUTHENTICATED:
+    case IPP_STATUS_ERROR_NOT_AUTHORIZED:
+    case IPP_STATUS_ERROR_CUPS_AUTHENTICATION_CANCELED:
+        return QueueFault::Refused;
+    default:
+        return QueueFault::Failed;
+    }
+}
+
+QByteArray textOf(ipp_t *answer, const char *name)
+{
+    ipp_attribute_t *attribute = ippFindAttribute(answer, name, IPP_TAG_ZERO);
+    const char *text = attribute ? ippGetString(attribute, 0, nullptr) : nullptr;
+    return text ? QByteArray(text) : QByteArray();
+}
+
+} // namespace
+
+CupsConnection::CupsConnection(std::chrono::milliseconds limit, int *cancel)
+    : limit_(limit)
+    , cancel_(cancel)
+{
+    extend();
+    initializeCups();
+    cupsSetPasswordCB2(noPassword, nullptr);
+    // libcups keeps the server's name for the life of a thread; a socket that appears later must be seen.
+    cupsSetServer(nullptr);
+    server_ = QFile::decodeName(cupsServer());
+    const bool isSocket = server_.startsWith(u'/');
+    if (isSocket && !QFileInfo::exists(server_))
+        return;
+    const bool isLocal = isSocket || server_ == QLatin1String("localhost");
+    const auto connectLimit = isLocal ? std::min<std::chrono::milliseconds>(limit, loopbackLimit) : limit;
+    http_.reset(httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, cupsEncryption(), 1,
+                             static_cast<int>(connectLimit.count()), cancel));
+    if (http_)
+        httpSetTimeout(http_.get(), std::chrono::duration<double>(cancelInterval).count(), goesOn, this);
+}
+
+void CupsConnection::extend()
+{
+    deadline_ = std::chrono::steady_clock::now() + limit_;
+}
+
+int CupsConnection::goesOn(http_t *, void *self)
+{
+    auto *connection = static_cast<CupsConnection *>(self);
+    const bool cancelled = connection->cancel_ && *connection->cancel_ != 0;
+    connection->timedOut_ = cancelled || std::chrono::steady_clock::now() >= connection->deadline_;
+    return connection->timedOut_ ? 0 : 1;
+}
+
+QString CupsConnection::unreachableReason() const
+{
+    return QCoreApplication::translate("CupsConnection", "nothing answers at %1").arg(server_);
+}
+
+Failure<QueueFault> CupsConnection::lastFailure(const QString &queue) const
+{
+    if (timedOut_) {
+        const double seconds = std::chrono::duration<double>(limit_).count();
+        return queueFailure(
+            QueueFault::TimedOut, queue,
+            QCoreApplication::translate("CupsConnection", "it was silent for %1 s").arg(seconds));
+    }
+    return queueFailure(faultOf(cupsLastError()), queue, QString::fromUtf8(cupsLastErrorString()));
+}
+
+IppPointer CupsConnection::answerTo(IppPointer request, const char *resource)
+{
+    return IppPointer(cupsDoRequest(http_.get(), request.release(), resource));
+}
+
+Result<QueueRecord, QueueFault> queueRecord(CupsConnection &connection, const QString &queueId)
+{
+    QueueRecord record;
+    record.name = queueId.section(u'/', 0, 0).toUtf8();
+    record.instance = queueId.section(u'/', 1).toUtf8();
+    if (record.name.isEmpty() || record.name.size() > queueNameLimit || hasControls(queueId))
+        return queueFailure(QueueFault::NotFound, queueId,
+                            QCoreApplication::translate("CupsConnection", "no printer can have this name"));
+    std::array<char, 1024> uri = {};
+    httpAssembleURIf(HTTP_URI_CODING_ALL, uri.data(), static_cast<int>(uri.size()), "ipp", nullptr,
+                     "localhost", 0, "/printers/%s", record.name.constData());
+    static constexpr std::array wanted = {"printer-uri-supported", "printer-is-accepting-jobs",
+                                          "printer-state-message"};
+    IppPointer request(ippNewRequest(IPP_OP_GET_PRINTER_ATTRIBUTES));
+    ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_URI, "printer-uri", nullptr, uri.data());
+    ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "requesting-user-name", nullptr, cupsUser());
+    ippAddStrings(request.get(), IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes",
+                  static_cast<int>(wanted.size()), nullptr, wanted.data());
+    const IppPointer answer = connection.answerTo(std::move(request), "/");
+    if (!answer || cupsLastError() > IPP_STATUS_OK_CONFLICTING)
+        return connection.lastFailure(queueId);
+    record.uri = textOf(answer.get(), "printer-uri-supported");
+    if (record.uri.isEmpty())
+        record.uri = uri.data();
+    record.stateMessage = QString::fromUtf8(textOf(answer.get(), "printer-state-message"));
+    ipp_attribute_t *accepts = ippFindAttribute(answer.get(), "printer-is-accepting-jobs", IPP_TAG_BOOLEAN);
+    record.acceptsJobs = !accepts || ippGetBoolean(accepts, 0) != 0;
+    return record;
+}
+
+} // namespace printdialog

@@ -1,0 +1,170 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "PpdFetcher.h"
+
+#include "BoundedWorker.h"
+#include "CupsConnection.h"
+
+#include <QtCore/QUrl>
+
+#include <fcntl.h>
+#include <sys/mman.h>
+#include <unistd.h>
+
+using namespace std::chrono_literals;
+
+namespace printdialog {
+
+namespace {
+
+constexpr auto endPatience = 50ms;
+/// What the memory file can hold: whole pages beyond the limit, so that what is too large is told from what
+/// fits.
+constexpr qsizetype memoryLimit = fetchedPpdLimit + qsizetype(64) * 1024;
+
+/// A file without a name, in memory, that cannot grow beyond its limit: libcups writes into it.
+class MemoryFile
+{
+public:
+    MemoryFile()
+        : descriptor_(memfd_create("ppd", MFD_CLOEXEC | MFD_ALLOW_SEALING))
+    {
+        if (ftruncate(descriptor_, memoryLimit) != 0 || fcntl(descriptor_, F_ADD_SEALS, F_SEAL_GROW) != 0) {
+            close(descriptor_);
+            descriptor_ = -1;
+        }
+    }
+    ~MemoryFile() { close(descriptor_); }
+    Q_DISABLE_COPY_MOVE(MemoryFile)
+
+    int descriptor() const { return descriptor_; }
+
+    QByteArray content() const
+    {
+        QByteArray bytes(qMax<qsizetype>(lseek(descriptor_, 0, SEEK_CUR), 0), Qt::Uninitialized);
+        const ssize_t count = pread(descriptor_, bytes.data(), static_cast<size_t>(bytes.size()), 0);
+        bytes.truncate(qMax<qsizetype>(count, 0));
+        return bytes;
+    }
+
+private:
+    int descriptor_;
+};
+
+QueueFault faultOf(http_status_t status)
+{
+    switch (status) {
+    case HTTP_STATUS_NOT_FOUND:
+        return QueueFault::NoPpd;
+    case HTTP_STATUS_FORBIDDEN:
+    case HTTP_STATUS_UNAUTHORIZED:
+    case HTTP_STATUS_CUPS_AUTHORIZATION_CANCELED:
+        return QueueFault::Refused;
+    default:
+        return QueueFault::Failed;
+    }
+}
+
+QString tooLargeReason()
+{
+    return PpdFetcher::tr("its PPD is larger than %1 MiB").arg(fetchedPpdLimit / 1024 / 1024);
+}
+
+Result<QByteArray, QueueFault> fetchHere(const QString &queue, std::chrono::milliseconds limit, int *cancel)
+{
+    CupsConnection connection(limit, cancel);
+    if (!connection.isOpen())
+        return queueFailure(QueueFault::NoServer, queue, connection.unreachableReason());
+    const auto record = queueRecord(connection, queue);
+    if (!record)
+        return record.failure();
+
+    // Not cupsGetPPD3: on a local socket it links to whatever lies under the queue's name in this machine's
+    // own /etc/cups/ppd, and it opens a second connection, which has no time limit.
+    const QByteArray resource =
+        "/printers/" + QUrl::toPercentEncoding(QString::fromUtf8(record->name)) + ".ppd";
+    const MemoryFile file;
+    if (file.descriptor() < 0)
+        return queueFailure(QueueFault::Failed, queue, PpdFetcher::tr("there is no memory for its PPD"));
+    const http_status_t status = cupsGetFd(connection.http(), resource.constData(), file.descriptor());
+    if (status != HTTP_STATUS_OK) {
+        const auto failure = connection.lastFailure(queue);
+        if (failure.reason == QueueFault::TimedOut)
+            return failure;
+        return queueFailure(faultOf(status), queue, QString::fromUtf8(httpStatus(status)));
+    }
+    QByteArray ppd = file.content();
+    if (ppd.size() > fetchedPpdLimit)
+        return queueFailure(QueueFault::Failed, queue, tooLargeReason());
+    // The connection goes back to waiting only when the whole body was read.
+    if (httpGetState(connection.http()) != HTTP_STATE_WAITING)
+        return queueFailure(QueueFault::Failed, queue,
+                            PpdFetcher::tr("the connection broke in the middle of its PPD"));
+    if (ppd.isEmpty())
+        return queueFailure(QueueFault::NoPpd, queue, PpdFetcher::tr("what the print server keeps is empty"));
+    return ppd;
+}
+
+QString limitReason(std::chrono::milliseconds limit)
+{
+    return PpdFetcher::tr("its PPD did not arrive within %1 s")
+        .arg(std::chrono::duration<double>(limit).count());
+}
+
+} // namespace
+
+Result<QByteArray, QueueFault> fetchPpd(const QString &queue, std::chrono::milliseconds limit)
+{
+    auto outcome = callWithin<Result<QByteArray, QueueFault>>(
+        limit, [queue, limit](int *cancel) { return fetchHere(queue, limit, cancel); });
+    return outcome ? std::move(*outcome) : queueFailure(QueueFault::TimedOut, queue, limitReason(limit));
+}
+
+PpdFetcher::PpdFetcher(QObject *parent, std::chrono::milliseconds limit)
+    : QObject(parent)
+{
+    limit_.setSingleShot(true);
+    limit_.setInterval(limit);
+    connect(&limit_, &QTimer::timeout, this, [this] {
+        take(queueFailure(QueueFault::TimedOut, queueId_, limitReason(limit_.intervalAsDuration())));
+    });
+}
+
+PpdFetcher::~PpdFetcher()
+{
+    limit_.stop();
+    if (worker_)
+        worker_->release(endPatience);
+}
+
+quint64 PpdFetcher::fetch(const QString &queueId)
+{
+    cancel();
+    queueId_ = queueId;
+    worker_ = std::make_shared<BoundedWorker>(this);
+    worker_->run([this, queueId, limit = limit_.intervalAsDuration()](BoundedWorker &self) {
+        auto outcome = fetchHere(queueId, limit, self.cancelFlag());
+        self.post([this, outcome = std::move(outcome)] { take(outcome); });
+    });
+    limit_.start();
+    return ++number_;
+}
+
+void PpdFetcher::cancel()
+{
+    limit_.stop();
+    if (const auto worker = std::exchange(worker_, nullptr))
+        worker->release({});
+}
+
+void PpdFetcher::take(const Result<QByteArray, QueueFault> &outcome)
+{
+    cancel();
+    if (outcome)
+        Q_EMIT fetched(number_, *outcome);
+    else
+        Q_EMIT failed(number_, outcome.failure().text);
+}
+
+} // namespace printdialog

@@ -1,0 +1,60 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include "QueueFault.h"
+
+#include <QtCore/QByteArray>
+#include <QtCore/QObject>
+#include <QtCore/QTimer>
+
+#include <chrono>
+#include <memory>
+
+namespace printdialog {
+
+class BoundedWorker;
+
+/// The largest PPD that is taken from a server, in bytes.
+constexpr qsizetype fetchedPpdLimit = qsizetype(32) * 1024 * 1024;
+
+/// The PPD of a queue, of a class that of its first member, as the server hands it out: untrusted, unparsed.
+/// Blocks, at most for the limit. It never lies in a file that another process could see or that could be
+/// left behind. Failures: all of QueueFault but NotAccepting.
+/// @param queue a queue's id; its instance makes no difference
+Result<QByteArray, QueueFault> fetchPpd(const QString &queue, std::chrono::milliseconds limit);
+
+/// Fetches PPDs without blocking. Everything about it happens on the thread that made it, where it needs an
+/// event loop; the server is asked by a worker thread that is left behind when it does not answer.
+class PpdFetcher : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// @param limit for one fetch
+    explicit PpdFetcher(QObject *parent = nullptr,
+                        std::chrono::milliseconds limit = std::chrono::seconds(10));
+    ~PpdFetcher() override;
+
+    /// Starts, and gives up any earlier fetch: of that one nothing is heard any more. Returns the number
+    /// under which the outcome is announced, exactly once, after this has returned.
+    quint64 fetch(const QString &queueId);
+    /// Gives up the fetch under way; nothing is announced.
+    void cancel();
+
+Q_SIGNALS:
+    void fetched(quint64 number, const QByteArray &ppd);
+    /// One sentence for people, see queueFailure().
+    void failed(quint64 number, const QString &text);
+
+private:
+    void take(const Result<QByteArray, QueueFault> &outcome);
+
+    QTimer limit_; // for what the worker's own limit does not cover
+    QString queueId_;
+    quint64 number_ = 0;
+    std::shared_ptr<BoundedWorker> worker_; // null when nothing is under way
+};
+
+} // namespace printdialog

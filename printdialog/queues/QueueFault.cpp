@@ -1,0 +1,101 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "QueueFault.h"
+
+#include "CleanText.h"
+
+#include <QtCore/QCoreApplication>
+
+namespace printdialog {
+
+namespace {
+
+struct Text
+{
+    Q_DECLARE_TR_FUNCTIONS(QueueFault)
+};
+
+/// What is said when the server gave no reason.
+QString ownReason(QueueFault fault)
+{
+    switch (fault) {
+    case QueueFault::NotFound:
+        return Text::tr("the print server does not know it");
+    case QueueFault::NoServer:
+        return Text::tr("nothing answers at its address");
+    case QueueFault::NoPpd:
+        return Text::tr("the print server keeps none for it");
+    case QueueFault::NotAccepting:
+        return Text::tr("it is set to reject them");
+    case QueueFault::Refused:
+        return Text::tr("no permission");
+    case QueueFault::TimedOut:
+        return Text::tr("time limit reached");
+    case QueueFault::Failed:
+        break;
+    }
+    return Text::tr("the print server gave no reason");
+}
+
+QString sentence(QueueFault fault)
+{
+    switch (fault) {
+    case QueueFault::NotFound:
+        return Text::tr(
+            "The printer \"%1\" does not exist (%2); choose another one, or add it in the printer settings.");
+    case QueueFault::NoServer:
+        return Text::tr(
+            "The printer \"%1\" cannot be reached, because no print server is running (%2); start CUPS or "
+            "check the server's name.");
+    case QueueFault::NoPpd:
+        return Text::tr("The printer \"%1\" has no PPD file (%2); set it up again with its driver.");
+    case QueueFault::NotAccepting:
+        return Text::tr(
+            "The printer \"%1\" does not accept jobs (%2); let it accept them in the printer settings, or "
+            "choose another one.");
+    case QueueFault::Refused:
+        return Text::tr(
+            "The print server refused the request for the printer \"%1\" (%2); ask whoever manages it.");
+    case QueueFault::TimedOut:
+        return Text::tr(
+            "The print server did not answer about the printer \"%1\" in time (%2); try again, or restart "
+            "CUPS.");
+    case QueueFault::Failed:
+        break;
+    }
+    return Text::tr(
+        "The print server could not serve the printer \"%1\" (%2); try again, or look into its log.");
+}
+
+QString serverSentence(QueueFault fault)
+{
+    switch (fault) {
+    case QueueFault::NoServer:
+        return Text::tr("No print server is running (%1); start CUPS or check the server's name.");
+    case QueueFault::Refused:
+        return Text::tr("The print server refused to list its printers (%1); ask whoever manages it.");
+    case QueueFault::TimedOut:
+        return Text::tr("The print server did not answer in time (%1); try again, or restart CUPS.");
+    default:
+        return Text::tr(
+            "The print server could not list its printers (%1); try again, or look into its log.");
+    }
+}
+
+} // namespace
+
+Failure<QueueFault> queueFailure(QueueFault fault, const QString &queue, const QString &words)
+{
+    QString reason = cleanText(words);
+    while (reason.endsWith(u'.'))
+        reason.chop(1);
+    const QString detail = reason;
+    if (reason.isEmpty())
+        reason = ownReason(fault);
+    const QString text = queue.isEmpty() ? serverSentence(fault).arg(reason)
+                                         : sentence(fault).arg(cleanText(queue, 128), reason);
+    return {fault, text, detail};
+}
+
+} // namespace printdialog

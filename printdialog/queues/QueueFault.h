@@ -1,0 +1,26 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include "Result.h"
+
+namespace printdialog {
+
+/// Why a queue could not be used.
+enum class QueueFault {
+    NotFound,     ///< The server has no queue of this name.
+    NoServer,     ///< Nobody listens where the print server should.
+    NoPpd,        ///< The queue has no PPD (a raw queue, or a class of them).
+    NotAccepting, ///< The queue rejects jobs.
+    Refused,      ///< Not allowed by the server, or unfit to be sent to it.
+    TimedOut,     ///< The server was silent for too long.
+    Failed        ///< Anything else; the server's own words say what.
+};
+
+/// The failure with its sentence: the queue by its name, the reason, the remedy.
+/// @param queue the queue's id; empty when the server itself is meant (NoServer, TimedOut, Refused, Failed)
+/// @param words the server's own message, or another reason; untrusted, cleaned here; may be empty
+Failure<QueueFault> queueFailure(QueueFault fault, const QString &queue, const QString &words = {});
+
+} // namespace printdialog

@@ -1,0 +1,122 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "QueueFinder.h"
+
+#include "BoundedWorker.h"
+#include "QueueList.h"
+
+#include <QtCore/QPointer>
+
+#include <algorithm>
+
+using namespace std::chrono_literals;
+
+namespace printdialog {
+
+namespace {
+
+constexpr auto answerLimit = 5s;
+/// For what no limit of libcups covers: the look-up of a server's name, an answer that never ends.
+constexpr auto firstLookLimit = 8s;
+/// Long enough for an idle worker to end in an orderly way, too short to be felt.
+constexpr auto endPatience = 50ms;
+
+auto withId(const QString &id)
+{
+    return [id](const Queue &queue) {
+        return queue.id() == id;
+    };
+}
+
+} // namespace
+
+QueueFinder::QueueFinder(QObject *parent, std::chrono::milliseconds interval)
+    : QObject(parent)
+    , interval_(interval)
+{
+    firstLook_.setSingleShot(true);
+    firstLook_.setInterval(firstLookLimit);
+    connect(&firstLook_, &QTimer::timeout, this,
+            [this] { takeFailure(queueFailure(QueueFault::TimedOut, {}).text); });
+}
+
+QueueFinder::~QueueFinder()
+{
+    stop();
+}
+
+void QueueFinder::start()
+{
+    if (worker_)
+        return;
+    queues_.clear();
+    lastFailure_.clear();
+    firstLookPending_ = true;
+    firstLook_.start();
+    worker_ = std::make_shared<BoundedWorker>(this);
+    worker_->run([this, interval = interval_](BoundedWorker &self) {
+        // This object is only named here: what is posted runs on its thread, and not after it is gone.
+        do {
+            auto swept = sweepQueues(answerLimit, self.cancelFlag());
+            if (swept)
+                self.post([this, queues = *swept] { takeQueues(queues); });
+            else
+                self.post([this, text = swept.failure().text] { takeFailure(text); });
+        } while (self.pause(interval));
+    });
+}
+
+void QueueFinder::stop()
+{
+    firstLook_.stop();
+    if (const auto worker = std::exchange(worker_, nullptr))
+        worker->release(endPatience);
+}
+
+std::optional<QString> QueueFinder::defaultQueue() const
+{
+    return printdialog::defaultQueue(queues_);
+}
+
+void QueueFinder::takeQueues(const QList<Queue> &queues)
+{
+    // A slot may stop, restart or destroy this object: then the rest of the news is old.
+    const QPointer<QueueFinder> self(this);
+    const auto worker = worker_;
+    const auto isCurrent = [&] {
+        return self && worker_ == worker;
+    };
+    const QList<Queue> before = std::exchange(queues_, queues);
+    lastFailure_.clear();
+    for (const Queue &queue : before) {
+        if (isCurrent() && std::none_of(queues.cbegin(), queues.cend(), withId(queue.id())))
+            Q_EMIT queueRemoved(queue.id());
+    }
+    for (const Queue &queue : queues) {
+        if (isCurrent() && !before.contains(queue))
+            Q_EMIT queueFound(queue);
+    }
+    if (isCurrent())
+        endFirstLook();
+}
+
+void QueueFinder::takeFailure(const QString &text)
+{
+    const QPointer<QueueFinder> self(this);
+    const auto worker = worker_;
+    if (text != std::exchange(lastFailure_, text))
+        Q_EMIT failed(text);
+    if (self && worker_ == worker)
+        endFirstLook();
+}
+
+void QueueFinder::endFirstLook()
+{
+    if (std::exchange(firstLookPending_, false)) {
+        firstLook_.stop();
+        Q_EMIT finished();
+    }
+}
+
+} // namespace printdialog

@@ -1,0 +1,66 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include <QtCore/QByteArray>
+#include <QtCore/QProcess>
+#include <QtCore/QString>
+#include <QtCore/QStringList>
+#include <QtCore/QTemporaryDir>
+
+namespace testing_support {
+
+/// What the recorder backend was started with.
+struct RecordedJob
+{
+    QByteArray title;
+    QByteArray copies;
+    QByteArray options; ///< The fifth argument, with the scheduler's quoting.
+    QByteArray environment;
+    QByteArray document;
+};
+
+/// A print server of a test's own: a folder under /tmp, a socket in it, its own queues, no network. Works for
+/// root and for an ordinary user. Ends with the object, or with the test program. While it lives CUPS_SERVER
+/// points to it.
+class PrivateCupsd
+{
+public:
+    PrivateCupsd() = default;
+    ~PrivateCupsd();
+    Q_DISABLE_COPY_MOVE(PrivateCupsd)
+
+    /// Lays out the folder, starts the scheduler and waits for it. Empty, or one line that says what is in
+    /// the way.
+    QString start();
+    void stop();
+
+    QString socketPath() const;
+    /// Adds a queue, or replaces it, on the recorder backend. Without a PPD it is a raw queue.
+    bool addQueue(const QString &name, const QByteArray &ppd = {}, const QStringList &lpadminArguments = {});
+    bool deleteQueue(const QString &name);
+    /// Runs a program of CUPS against this server (lpadmin, cupsreject, cupsdisable, lpoptions...).
+    bool run(const QString &program, const QStringList &arguments);
+
+    /// Waits for the backend to have finished the job.
+    bool waitForJob(int id, int milliseconds = 10000) const;
+    RecordedJob job(int id) const;
+    /// The ids of the jobs that the scheduler has not finished, as lpstat shows them.
+    QByteArray activeJobs();
+
+private:
+    QString path(const char *name) const;
+    bool layOut();
+    bool waitForAnswer();
+
+    QTemporaryDir folder_{QStringLiteral("/tmp/private-cupsd-XXXXXX")};
+    QProcess scheduler_; // killed by its destructor, and by the kernel when the test program dies
+    QByteArray serverBefore_;
+    bool started_ = false;
+};
+
+/// A small PPD in which only the last lines differ from case to case: takes JPEG and PDF, one page size.
+QByteArray smallPpd(const QByteArray &moreLines = {});
+
+} // namespace testing_support

@@ -1,0 +1,295 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "JobSubmission.h"
+#include "PpdFetcher.h"
+#include "PrivateCupsd.h"
+#include "QueueFinder.h"
+#include "QueueList.h"
+
+#include <QtCore/QDir>
+#include <QtCore/QElapsedTimer>
+#include <QtCore/QFile>
+#include <QtCore/QTemporaryDir>
+#include <QtTest/QSignalSpy>
+#include <QtTest/QTest>
+
+#include <cups/cups.h>
+
+using namespace printdialog;
+using namespace std::chrono_literals;
+using namespace Qt::StringLiterals;
+using testing_support::PrivateCupsd;
+
+Q_DECLARE_METATYPE(QueueFault)
+
+namespace {
+
+const QByteArray finishOption = "*OpenUI *Finish/Finish: PickOne\n*DefaultFinish: Glossy\n"
+                                "*Finish Glossy/Glossy: \"\"\n*Finish Matte/Matte: \"\"\n*CloseUI: *Finish\n";
+
+SubmittedDocument jpeg(const QByteArray &bytes)
+{
+    return {{}, bytes, "image/jpeg", u"photo.jpg"_s};
+}
+
+QStringList idsOf(const QList<Queue> &queues)
+{
+    QStringList ids;
+    for (const Queue &queue : queues)
+        ids.append(queue.id());
+    return ids;
+}
+
+/// The backend's fifth argument, read as CUPS reads it.
+QMap<QString, QString> optionsOf(const QByteArray &argument)
+{
+    cups_option_t *options = nullptr;
+    const int count = cupsParseOptions(argument.constData(), 0, &options);
+    QMap<QString, QString> map;
+    for (int i = 0; i < count; ++i)
+        map.insert(QString::fromUtf8(options[i].name), QString::fromUtf8(options[i].value));
+    cupsFreeOptions(count, options);
+    return map;
+}
+
+} // namespace
+
+/// Queues, their PPDs and jobs, with a real print server.
+class QueuesEndToEndTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void finderSeesServerAndQueuesComeAndGo();
+    void queuesAreListedWithWhatTheServerSays();
+    void defaultIsTheUsersOrTheServers();
+    void ppdIsThatOfTheQueue();
+    void fetcherAnnouncesThePpd();
+    void jobArrivesByteForByteWithExactOptions_data();
+    void jobArrivesByteForByteWithExactOptions();
+    void stoppedQueueKeepsTheJob();
+    void failedSubmissionLeavesNothing_data();
+    void failedSubmissionLeavesNothing();
+
+private:
+    QTemporaryDir home_;
+    PrivateCupsd cupsd_;
+};
+
+void QueuesEndToEndTest::initTestCase()
+{
+    for (const char *name : {"LPDEST", "PRINTER"})
+        qunsetenv(name);
+    // The home of nobody's lpoptions.
+    QVERIFY(QDir(home_.path()).mkdir(u".cups"_s));
+    qputenv("HOME", QFile::encodeName(home_.path()));
+}
+
+void QueuesEndToEndTest::finderSeesServerAndQueuesComeAndGo()
+{
+    QueueFinder finder(nullptr, 50ms);
+    const QSignalSpy found(&finder, &QueueFinder::queueFound);
+    const QSignalSpy removed(&finder, &QueueFinder::queueRemoved);
+    const QSignalSpy finished(&finder, &QueueFinder::finished);
+    finder.start();
+    QTRY_COMPARE(finished.size(), 1);
+
+    const QString trouble = cupsd_.start();
+    QVERIFY2(trouble.isEmpty(), qPrintable(trouble));
+    QVERIFY(cupsd_.addQueue(u"photo"_s, testing_support::smallPpd(finishOption),
+                            {u"-D"_s, u"Photo \u202eprinter"_s, u"-L"_s, u"Büro"_s}));
+    QTRY_COMPARE(idsOf(finder.queues()), QStringList{u"photo"_s});
+    const qsizetype sightings = found.size();
+    QVERIFY(cupsd_.run(u"cupsdisable"_s, {u"photo"_s}));
+    QTRY_COMPARE(finder.queues().at(0).state, Queue::State::Stopped);
+    QVERIFY(found.size() > sightings);
+    QVERIFY(cupsd_.run(u"cupsenable"_s, {u"photo"_s}));
+    QCOMPARE(removed.size(), 0);
+
+    // The last queue too: an empty server is an answer, not a failure.
+    QVERIFY(cupsd_.deleteQueue(u"photo"_s));
+    QTRY_COMPARE(removed.size(), 1);
+    QCOMPARE(removed.at(0).at(0).toString(), u"photo"_s);
+    QCOMPARE(finished.size(), 1);
+    QVERIFY(cupsd_.addQueue(u"photo"_s, testing_support::smallPpd(finishOption),
+                            {u"-D"_s, u"Photo \u202eprinter"_s, u"-L"_s, u"Büro"_s}));
+    QVERIFY(cupsd_.addQueue(u"raw"_s));
+    QVERIFY(cupsd_.run(u"lpadmin"_s, {u"-p"_s, u"photo"_s, u"-c"_s, u"group"_s}));
+    QTRY_COMPARE(finder.queues().size(), 3);
+}
+
+void QueuesEndToEndTest::queuesAreListedWithWhatTheServerSays()
+{
+    QElapsedTimer timer;
+    timer.start();
+    const QList<Queue> queues = listQueues(5s);
+    qInfo("listQueues with a server: %.2f ms", static_cast<double>(timer.nsecsElapsed()) / 1e6);
+    QCOMPARE(idsOf(queues), (QStringList{u"group"_s, u"photo"_s, u"raw"_s}));
+    QVERIFY(queues.at(0).isClass);
+    const Queue &photo = queues.at(1);
+    QCOMPARE(photo.info, u"Photo printer"_s);
+    QCOMPARE(photo.location, u"Büro"_s);
+    QCOMPARE(photo.makeAndModel, u"Small"_s);
+    QCOMPARE(photo.deviceUri, u"recorder:/"_s);
+    QCOMPARE(photo.state, Queue::State::Idle);
+    QVERIFY(photo.stateReasons.isEmpty());
+    QVERIFY(photo.acceptsJobs && !photo.isClass && !photo.isBuiltIn);
+    QVERIFY(cupsd_.run(u"cupsreject"_s, {u"raw"_s}));
+    QVERIFY(!listQueues(5s).at(2).acceptsJobs);
+    QVERIFY(cupsd_.run(u"cupsaccept"_s, {u"raw"_s}));
+}
+
+void QueuesEndToEndTest::defaultIsTheUsersOrTheServers()
+{
+    const auto chosen = [] {
+        return defaultQueue(listQueues(5s)).value_or(QString());
+    };
+    QCOMPARE(chosen(), QString());
+    QVERIFY(cupsd_.run(u"lpadmin"_s, {u"-d"_s, u"raw"_s}));
+    QCOMPARE(chosen(), u"raw"_s);
+    QFile lpoptions(home_.filePath(u".cups/lpoptions"_s));
+    QVERIFY(lpoptions.open(QIODevice::WriteOnly));
+    // No later job may carry these options: they were not asked for.
+    lpoptions.write("Dest photo Stray=1\nDefault photo/borderless Stray=1\n");
+    lpoptions.close();
+    QCOMPARE(chosen(), u"photo/borderless"_s);
+    for (const char *printer : {"photo", "photo/borderless"}) {
+        qputenv("PRINTER", printer);
+        QCOMPARE(chosen(), QString::fromLatin1(printer));
+    }
+    qputenv("LPDEST", "group");
+    QCOMPARE(chosen(), u"group"_s);
+    qunsetenv("LPDEST");
+    qunsetenv("PRINTER");
+}
+
+void QueuesEndToEndTest::ppdIsThatOfTheQueue()
+{
+    QElapsedTimer timer;
+    timer.start();
+    const auto photo = fetchPpd(u"photo"_s, 5s);
+    qInfo("fetchPpd with a server: %.2f ms", static_cast<double>(timer.nsecsElapsed()) / 1e6);
+    QVERIFY2(photo, photo ? "" : qPrintable(photo.failure().text));
+    QCOMPARE(*photo, testing_support::smallPpd(finishOption));
+    for (const QString &id : {u"photo/borderless"_s, u"group"_s}) {
+        const auto same = fetchPpd(id, 5s);
+        QVERIFY2(same && *same == *photo, qPrintable(id));
+    }
+    const auto raw = fetchPpd(u"raw"_s, 5s);
+    QVERIFY(!raw);
+    QCOMPARE(raw.failure().reason, QueueFault::NoPpd);
+    const auto gone = fetchPpd(u"gone"_s, 5s);
+    QVERIFY(!gone);
+    QCOMPARE(gone.failure().reason, QueueFault::NotFound);
+    QCOMPARE(gone.failure().text,
+             u"The printer \"gone\" does not exist (The printer or class does not exist); "
+             "choose another one, or add it in the printer settings."_s);
+}
+
+void QueuesEndToEndTest::fetcherAnnouncesThePpd()
+{
+    PpdFetcher fetcher;
+    const QSignalSpy fetched(&fetcher, &PpdFetcher::fetched);
+    const QSignalSpy failed(&fetcher, &PpdFetcher::failed);
+    fetcher.fetch(u"raw"_s);
+    const quint64 number = fetcher.fetch(u"photo"_s);
+    QTRY_COMPARE(fetched.size(), 1);
+    QCOMPARE(fetched.at(0).at(0).toULongLong(), number);
+    QVERIFY(fetched.at(0).at(1).toByteArray().contains("*DefaultFinish: Glossy"));
+    const quint64 next = fetcher.fetch(u"gone"_s);
+    QTRY_COMPARE(failed.size(), 1);
+    QCOMPARE(failed.at(0).at(0).toULongLong(), next);
+    QCOMPARE(fetched.size(), 1);
+}
+
+void QueuesEndToEndTest::jobArrivesByteForByteWithExactOptions_data()
+{
+    using Options = QMap<QString, QString>;
+    QTest::addColumn<Options>("options");
+    QTest::newRow("choices") << Options{{u"PageSize"_s, u"w288h432"_s}, {u"Finish"_s, u"Matte"_s}};
+    QTest::newRow("numbers") << Options{{u"Green"_s, u"-5"_s}, {u"Gamma"_s, u"1.00"_s}};
+    QTest::newRow("spaces") << Options{{u"Finish"_s, u" two  words "_s}};
+    QTest::newRow("quotes") << Options{
+        {u"Single"_s, u"it's"_s}, {u"Double"_s, u"\"so\""_s}, {u"All"_s, u"'\"' \""_s}};
+    QTest::newRow("backslashes") << Options{{u"Finish"_s, u"a\\b\\\\c\\"_s}, {u"Other"_s, u"\\\"\\'"_s}};
+    QTest::newRow("what a parser might take")
+        << Options{{u"Braces"_s, u"a{b=c}"_s}, {u"Comma"_s, u"a,b"_s}, {u"Shell"_s, u"$(id);`id`|&<>*"_s}};
+    QTest::newRow("as long as can be") << Options{{u"Finish"_s, QString(255, u'x')}};
+    QTest::newRow("beyond ASCII") << Options{{u"Finish"_s, u"Glänzend 光沢"_s}};
+    QTest::newRow("truth values") << Options{
+        {u"On"_s, u"True"_s}, {u"Off"_s, u"false"_s}, {u"NoEdge"_s, u"True"_s}, {u"noise"_s, u"false"_s}};
+}
+
+void QueuesEndToEndTest::jobArrivesByteForByteWithExactOptions()
+{
+    using Options = QMap<QString, QString>;
+    QFETCH(Options, options);
+    QByteArray bytes(200'000, Qt::Uninitialized);
+    for (qsizetype i = 0; i < bytes.size(); ++i)
+        bytes[i] = static_cast<char>((i * 7919) >> 3);
+    const auto id = submitJob(u"photo/borderless"_s, u"My\nphoto"_s, jpeg(bytes), options, 3);
+    QVERIFY2(id, id ? "" : qPrintable(id.failure().text));
+    QVERIFY(cupsd_.waitForJob(*id));
+    const auto job = cupsd_.job(*id);
+    QVERIFY(job.document == bytes);
+    QCOMPARE(job.title, QByteArray("My photo"));
+    QCOMPARE(job.copies, QByteArray("3"));
+    Options arrived = optionsOf(job.options);
+    // What the scheduler itself adds to every job.
+    arrived.removeIf([](const std::pair<const QString &, QString &> &option) {
+        return option.first.startsWith(u"job-"_s) || option.first.contains(u"time-at-"_s) ||
+               option.first.startsWith(u"document-"_s);
+    });
+    QCOMPARE(arrived, options);
+}
+
+void QueuesEndToEndTest::stoppedQueueKeepsTheJob()
+{
+    QVERIFY(cupsd_.run(u"cupsdisable"_s, {u"photo"_s}));
+    const auto id = submitJob(u"photo"_s, u"later"_s, jpeg("bytes"), {}, 1);
+    QVERIFY(id);
+    QVERIFY(cupsd_.activeJobs().contains("photo-" + QByteArray::number(*id)));
+    QVERIFY(cupsd_.run(u"cupsenable"_s, {u"photo"_s}));
+    QVERIFY(cupsd_.waitForJob(*id));
+    QTRY_COMPARE(cupsd_.activeJobs(), QByteArray());
+}
+
+void QueuesEndToEndTest::failedSubmissionLeavesNothing_data()
+{
+    QTest::addColumn<QString>("queue");
+    QTest::addColumn<QString>("path");
+    QTest::addColumn<QByteArray>("type");
+    QTest::addColumn<QueueFault>("fault");
+    QTest::addColumn<QString>("words");
+    const QByteArray good = "image/jpeg";
+    QTest::newRow("queue vanished") << u"gone"_s << QString() << good << QueueFault::NotFound
+                                    << u"\"gone\""_s;
+    QTest::newRow("queue rejects") << u"raw"_s << QString() << good << QueueFault::NotAccepting
+                                   << u"(out of ribbon)"_s;
+    QTest::newRow("type refused") << u"photo"_s << QString() << QByteArray("image/x-nobody")
+                                  << QueueFault::Failed << u"image/x-nobody"_s;
+    QTest::newRow("file missing") << u"photo"_s << u"/nonexistent/a.jpg"_s << good << QueueFault::Failed
+                                  << u"\"/nonexistent/a.jpg\""_s;
+    // It opens, and its first bytes cannot be read: the job exists by then.
+    QTest::newRow("file breaks off") << u"photo"_s << u"/proc/self/mem"_s << good << QueueFault::Failed
+                                     << u"to its end"_s;
+}
+
+void QueuesEndToEndTest::failedSubmissionLeavesNothing()
+{
+    QFETCH(QString, queue);
+    QFETCH(QString, path);
+    QFETCH(QByteArray, type);
+    QFETCH(QString, words);
+    QVERIFY(cupsd_.run(u"cupsreject"_s, {u"-r"_s, u"out of ribbon"_s, u"raw"_s}));
+    const auto id = submitJob(queue, u"title"_s, {path, "bytes", type, u"a.jpg"_s}, {}, 1);
+    QVERIFY(!id);
+    QTEST(id.failure().reason, "fault");
+    QVERIFY2(id.failure().text.contains(words), qPrintable(id.failure().text));
+    QCOMPARE(cupsd_.activeJobs(), QByteArray());
+}
+
+QTEST_GUILESS_MAIN(QueuesEndToEndTest)
+#include "QueuesEndToEndTest.moc"

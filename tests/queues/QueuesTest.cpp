@@ -1,0 +1,233 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "CleanText.h"
+#include "JobSubmission.h"
+#include "PpdFetcher.h"
+#include "QueueFinder.h"
+#include "QueueList.h"
+#include "StubServer.h"
+
+#include <QtCore/QElapsedTimer>
+#include <QtTest/QSignalSpy>
+#include <QtTest/QTest>
+
+#include <csignal>
+
+using namespace printdialog;
+using namespace std::chrono_literals;
+using namespace Qt::StringLiterals;
+using testing_support::StubServer;
+
+Q_DECLARE_METATYPE(QueueFault)
+
+/// Everything that needs no print server, and what becomes of servers that misbehave.
+class QueuesTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void handlerOfBrokenPipesStaysInForce();
+    void textFromOutsideIsCleaned_data();
+    void textFromOutsideIsCleaned();
+    void failuresNameTheQueueAndKeepPlaceholdersApart();
+    void unfitOptionIsRefusedBeforeAnythingIsSent_data();
+    void unfitOptionIsRefusedBeforeAnythingIsSent();
+    void badServerCostsOneSentenceInTime_data();
+    void badServerCostsOneSentenceInTime();
+    void finderNeverBlocks_data();
+    void finderNeverBlocks();
+    void onlyTheLatestFetchIsAnnounced();
+    void noServerIsToldAtOnce();
+};
+
+void QueuesTest::handlerOfBrokenPipesStaysInForce()
+{
+    // libcups would have the signal ignored from its first use on, which is here.
+    const auto handler = [](int) {
+    };
+    struct sigaction installed = {};
+    installed.sa_handler = handler;
+    sigaction(SIGPIPE, &installed, nullptr);
+    QVERIFY(listQueues(1s).isEmpty());
+    struct sigaction found = {};
+    sigaction(SIGPIPE, nullptr, &found);
+    QVERIFY(found.sa_handler == installed.sa_handler);
+}
+
+void QueuesTest::textFromOutsideIsCleaned_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("expected");
+    QTest::newRow("plain, with accents") << u"Büro (2. OG)"_s << u"Büro (2. OG)"_s;
+    QTest::newRow("line breaks and tabs") << u" a\r\n\tb "_s << u"a b"_s;
+    QTest::newRow("controls, C0 and C1") << u"a\u0007\u001b[1m\u0085\u009bb"_s << u"a[1m b"_s;
+    QTest::newRow("writing direction") << u"a\u202egpj.\u202c\u2066b\u200f"_s << u"agpj.b"_s;
+    QTest::newRow("too long") << QString(400, u'x') << QString(299, u'x') + QChar(0x2026);
+    QTest::newRow("too long, a pair at the cut")
+        << QString(298, u'x') + u"\U0001f5a8yy"_s << QString(298, u'x') + QChar(0x2026);
+}
+
+void QueuesTest::textFromOutsideIsCleaned()
+{
+    QFETCH(QString, text);
+    QTEST(cleanText(text), "expected");
+}
+
+void QueuesTest::failuresNameTheQueueAndKeepPlaceholdersApart()
+{
+    const QString text = queueFailure(QueueFault::NotFound, u"a%2b"_s, u"Gone\nfor good."_s).text;
+    QVERIFY2(text.contains(u"\"a%2b\" does not exist (Gone for good);"_s), qPrintable(text));
+}
+
+void QueuesTest::unfitOptionIsRefusedBeforeAnythingIsSent_data()
+{
+    QTest::addColumn<QString>("keyword");
+    QTest::addColumn<QString>("value");
+    QTest::newRow("line feed in a value") << u"Finish"_s << u"Matte\nStray=1"_s;
+    QTest::newRow("carriage return") << u"Finish"_s << u"\rMatte"_s;
+    QTest::newRow("NUL") << u"Finish"_s << u"Mat"_s + QChar(0) + u"te"_s;
+    QTest::newRow("delete") << u"Finish"_s << u"Matte\u007f"_s;
+    QTest::newRow("C1 control") << u"Finish"_s << u"\u0085"_s;
+    QTest::newRow("line separator") << u"Finish"_s << u"\u2028"_s;
+    QTest::newRow("endless value") << u"Finish"_s << QString(128, u'\u00e4');
+    QTest::newRow("value that CUPS takes for a collection") << u"Finish"_s << u"{a=b}"_s;
+    QTest::newRow("line feed in a keyword") << u"Fin\nish"_s << u"Matte"_s;
+    QTest::newRow("space in a keyword") << u"Finish Stray"_s << u"1"_s;
+    QTest::newRow("value in a keyword") << u"Finish=1"_s << u"1"_s;
+    QTest::newRow("no keyword") << QString() << u"1"_s;
+    QTest::newRow("copies, which have a place of their own") << u"copies"_s << u"2"_s;
+}
+
+void QueuesTest::unfitOptionIsRefusedBeforeAnythingIsSent()
+{
+    QFETCH(QString, keyword);
+    QFETCH(QString, value);
+    // With a server that is not there: any other outcome would be NoServer.
+    const auto job =
+        submitJob(u"photo"_s, u"title"_s, {{}, "x", "image/jpeg", u"x"_s}, {{keyword, value}}, 1);
+    QVERIFY(!job);
+    QCOMPARE(job.failure().reason, QueueFault::Refused);
+    const QString text = job.failure().text;
+    QVERIFY2(text.contains(u'"' + cleanText(keyword) + u'"'), qPrintable(text));
+    QVERIFY(!hasControls(text));
+}
+
+void QueuesTest::badServerCostsOneSentenceInTime_data()
+{
+    QTest::addColumn<StubServer::Manner>("manner");
+    QTest::addColumn<QueueFault>("fault");
+    QTest::addColumn<QString>("reason");
+    QTest::newRow("silent") << StubServer::Manner::Silent << QueueFault::TimedOut << u"0.3 s"_s;
+    QTest::newRow("one byte at a time")
+        << StubServer::Manner::Trickling << QueueFault::TimedOut << u"0.3 s"_s;
+    QTest::newRow("closes in a PPD") << StubServer::Manner::BreakingOff << QueueFault::Failed
+                                     << u"in the middle"_s;
+    QTest::newRow("PPD too large") << StubServer::Manner::Overflowing << QueueFault::Failed << u"32 MiB"_s;
+}
+
+void QueuesTest::badServerCostsOneSentenceInTime()
+{
+    QFETCH(StubServer::Manner, manner);
+    QFETCH(QueueFault, fault);
+    QFETCH(QString, reason);
+    const StubServer server(manner);
+    const auto limit = fault == QueueFault::TimedOut ? 300ms : 10000ms;
+    QElapsedTimer timer;
+    timer.start();
+    const auto ppd = fetchPpd(u"photo"_s, limit);
+    QVERIFY(timer.elapsed() < limit.count() + 200);
+    QVERIFY(!ppd);
+    QCOMPARE(ppd.failure().reason, fault);
+    const QString text = ppd.failure().text;
+    QVERIFY2(text.contains(u"\"photo\""_s) && text.contains(reason), qPrintable(text));
+    if (fault != QueueFault::TimedOut)
+        return;
+    timer.start();
+    QVERIFY(listQueues(limit).isEmpty());
+    QVERIFY(timer.elapsed() < limit.count() + 200);
+    if (manner != StubServer::Manner::Silent)
+        return;
+    const auto job = submitJob(u"photo"_s, u"t"_s, {{}, "x", "image/jpeg", u"x"_s}, {}, 1, limit);
+    QVERIFY(!job);
+    QCOMPARE(job.failure().reason, fault);
+}
+
+void QueuesTest::finderNeverBlocks_data()
+{
+    QTest::addColumn<StubServer::Manner>("manner");
+    QTest::newRow("silent") << StubServer::Manner::Silent;
+    QTest::newRow("one byte at a time") << StubServer::Manner::Trickling;
+}
+
+void QueuesTest::finderNeverBlocks()
+{
+    QFETCH(StubServer::Manner, manner);
+    const StubServer server(manner);
+    QElapsedTimer timer;
+    const auto takesLong = [&timer] {
+        return timer.restart() >= 100;
+    };
+    auto finder = std::make_unique<QueueFinder>();
+    const QSignalSpy finished(finder.get(), &QueueFinder::finished);
+    timer.start();
+    finder->start();
+    QVERIFY(!takesLong());
+    QTest::qWait(50); // the worker is in the middle of its wait now
+    timer.start();
+    finder->stop();
+    QVERIFY(!takesLong());
+    finder->start();
+    QVERIFY(!takesLong());
+    finder.reset();
+    QVERIFY(!takesLong());
+    QTest::qWait(300); // time for a worker that would touch what is gone
+    QCOMPARE(finished.size(), 0);
+}
+
+void QueuesTest::onlyTheLatestFetchIsAnnounced()
+{
+    PpdFetcher fetcher(nullptr, 200ms);
+    const QSignalSpy failed(&fetcher, &PpdFetcher::failed);
+    fetcher.fetch(
+        u"none"_s); // fails at once, for want of a server: its outcome is under way and must not arrive
+    QTest::qSleep(100);
+    const StubServer server(StubServer::Manner::Silent);
+    const quint64 first = fetcher.fetch(u"one"_s);
+    const quint64 second = fetcher.fetch(u"two"_s);
+    QVERIFY(first != second);
+    QTRY_COMPARE(failed.size(), 1);
+    QTest::qWait(300);
+    QCOMPARE(failed.size(), 1);
+    QCOMPARE(failed.at(0).at(0).toULongLong(), second);
+    QVERIFY(failed.at(0).at(1).toString().contains(u"\"two\""_s));
+}
+
+void QueuesTest::noServerIsToldAtOnce()
+{
+    QElapsedTimer timer;
+    timer.start();
+    QVERIFY(listQueues(5s).isEmpty());
+    const qint64 listed = timer.nsecsElapsed();
+    QVERIFY(listed < 100'000'000);
+    qInfo("listQueues without a server: %.2f ms", static_cast<double>(listed) / 1e6);
+
+    QueueFinder finder(nullptr, 10ms);
+    const QSignalSpy finished(&finder, &QueueFinder::finished);
+    const QSignalSpy failed(&finder, &QueueFinder::failed);
+    timer.start();
+    finder.start();
+    QTRY_COMPARE(finished.size(), 1);
+    QVERIFY(timer.elapsed() < 100);
+    QTest::qWait(100); // several more looks: each reason is said once
+    QCOMPARE(finished.size(), 1);
+    QCOMPARE(failed.size(), 1);
+    QVERIFY(failed.at(0).at(0).toString().contains(u"nothing answers at /nonexistent/cups.sock"_s));
+
+    const auto ppd = fetchPpd(u"photo"_s, 5s);
+    QVERIFY(!ppd);
+    QCOMPARE(ppd.failure().reason, QueueFault::NoServer);
+}
+
+QTEST_GUILESS_MAIN(QueuesTest)
+#include "QueuesTest.moc"
