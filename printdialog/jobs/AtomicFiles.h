@@ -1,0 +1,70 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include "FileDescriptor.h"
+#include "OutputFault.h"
+#include "Result.h"
+
+#include <QtCore/QIODevice>
+#include <QtCore/QString>
+#include <QtCore/QStringList>
+
+#include <memory>
+#include <optional>
+#include <vector>
+
+namespace printdialog {
+
+class DescriptorDevice;
+
+/// A set of files in one folder that appear together or not at all. Each is written beside its final name,
+/// under a hidden name that nobody else has, with the permissions that any new file of this user gets. Unless
+/// commit() succeeds, the folder is left as it was: earlier files of the same names untouched or put back,
+/// nothing temporary, and no folder that was made for this.
+class AtomicFiles
+{
+public:
+    /// Opens the folder. A missing one is made, with the folders above it, as `mkdir -p` does.
+    static Result<AtomicFiles, OutputFault> open(const QString &folder);
+    /// Removes what was not committed.
+    ~AtomicFiles();
+    AtomicFiles(AtomicFiles &&) noexcept;
+    AtomicFiles &operator=(AtomicFiles &&) = delete;
+
+    /// Begins a file. `name` is its final name, without a folder. The device belongs to this object and is
+    /// valid until commit().
+    Result<QIODevice *, OutputFault> add(const QString &name);
+    /// The failure of the first file that could not be written, by its final name.
+    std::optional<Failure<OutputFault>> writeFailure() const;
+    /// Brings all files to the disk, then gives them their names, replacing earlier files. Answers their
+    /// absolute paths in the order of add(). May be called once.
+    Result<QStringList, OutputFault> commit();
+
+private:
+    struct File
+    {
+        QByteArray name;      ///< The final one, in the file system's encoding.
+        QByteArray temporary; ///< Where it is written.
+        QByteArray
+            earlier; ///< Where an earlier file of that name is kept meanwhile; empty when there is none.
+        std::unique_ptr<DescriptorDevice> device;
+        bool isInPlace = false;
+    };
+
+    AtomicFiles();
+
+    int makeFolders();
+    QString pathOf(const QByteArray &name) const;
+    int putInPlace(File &file) const;
+    void takeBack(File &file) const;
+    void discard();
+
+    QString folder_; ///< Absolute.
+    FileDescriptor descriptor_;
+    std::vector<QByteArray> madeFolders_; ///< From the top down.
+    std::vector<File> files_;
+};
+
+} // namespace printdialog

@@ -1,0 +1,51 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include "OutputFault.h"
+#include "PageGeometry.h"
+#include "Photo.h"
+#include "PrintedNames.h"
+#include "Result.h"
+
+#include <QtCore/QMap>
+#include <QtCore/QString>
+
+namespace printdialog {
+
+/// What is asked of a printer besides the photo.
+struct PrintJob
+{
+    QString printer; ///< The printer's name.
+    PageGeometry page;
+    QMap<QString, QString> options; ///< Option keyword to choice keyword.
+    QMap<QString, QString> summary; ///< What people are shown: label to text.
+    int copies = 1;
+};
+
+/// The files that a job has left; absolute paths.
+struct PrintedFiles
+{
+    QString pdf;
+    QString ticket;
+};
+
+/// The printer that needs no printer: for photo.jpg it leaves photo.pdf, the page, and photo.ticket.json, the
+/// job.
+class BuiltInPrinter
+{
+public:
+    /// Leaves both files in the folder, or none. A missing folder is made, with the folders above it; when
+    /// the job fails it is removed again. Files of an earlier run with the same names are replaced. `names`
+    /// keeps the names of this run apart and takes the new one when the job has succeeded; without it every
+    /// photo has its plain name. Copies are counted in the ticket; the PDF has one page. May run on any
+    /// thread, one call per `names`.
+    ///
+    /// The ticket is a JSON object, UTF-8 and indented: "printer", "document" (the photo's absolute path),
+    /// "options" and "summary" (objects of texts), "copies" (a number).
+    static Result<PrintedFiles, OutputFault> print(const Photo &photo, const PrintJob &job,
+                                                   const QString &folder, PrintedNames *names = nullptr);
+};
+
+} // namespace printdialog

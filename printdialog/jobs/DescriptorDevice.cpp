@@ -1,0 +1,47 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "DescriptorDevice.h"
+
+#include <cerrno>
+
+namespace printdialog {
+
+DescriptorDevice::DescriptorDevice(FileDescriptor descriptor)
+    : descriptor_(std::move(descriptor))
+{
+    open(QIODevice::WriteOnly | QIODevice::Unbuffered);
+}
+
+int DescriptorDevice::finish()
+{
+    if (error_ == 0 && ::fsync(descriptor_.value()) != 0)
+        error_ = errno;
+    // Network file systems tell only now that they could not store it.
+    if (::close(descriptor_.release()) != 0 && error_ == 0 && errno != EINTR)
+        error_ = errno;
+    return error_;
+}
+
+qint64 DescriptorDevice::readData(char *, qint64)
+{
+    return -1;
+}
+
+qint64 DescriptorDevice::writeData(const char *data, qint64 size)
+{
+    qint64 done = 0;
+    while (done < size && error_ == 0) {
+        const ssize_t count =
+            ::write(descriptor_.value(), data + done, static_cast<std::size_t>(size - done));
+        if (count >= 0) {
+            done += count;
+        } else if (errno != EINTR) {
+            error_ = errno;
+            setErrorString(qt_error_string(error_));
+        }
+    }
+    return error_ == 0 ? done : -1;
+}
+
+} // namespace printdialog

@@ -1,0 +1,44 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include <QtCore/QByteArrayView>
+#include <QtGui/QImage>
+#include <QtGui/QImageIOHandler>
+#include <QtGui/QTransform>
+
+namespace printdialog {
+
+/// How the pixels of a photo, as they are stored, are turned and mirrored to be seen upright: one of the
+/// eight values of the Exif tag Orientation (0x0112). The default is 1, upright as stored.
+class ExifOrientation
+{
+public:
+    ExifOrientation() = default;
+
+    /// From the tag's value; anything but 1 to 8 counts as 1.
+    static ExifOrientation fromValue(int value);
+    /// From the content of an Exif block: a TIFF header and its first directory. Untrusted: whatever cannot
+    /// be read in it counts as 1.
+    static ExifOrientation fromTiff(QByteArrayView tiff);
+    /// From what an image reader says.
+    static ExifOrientation fromTransformations(QImageIOHandler::Transformations transformations);
+
+    int value() const { return value_; }
+    /// Whether width and height change places.
+    bool swapsSides() const { return value_ >= 5; }
+    /// The size as seen, from the size as stored.
+    QSize seenSize(const QSize &stored) const { return swapsSides() ? stored.transposed() : stored; }
+    /// From the unit square of the stored photo to the unit square of the upright one; y runs down in both.
+    QTransform transform() const;
+    /// The upright copy of a stored image.
+    QImage applied(const QImage &stored) const;
+
+    bool operator==(const ExifOrientation &) const = default;
+
+private:
+    int value_ = 1;
+};
+
+} // namespace printdialog

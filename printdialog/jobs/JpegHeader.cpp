@@ -1,0 +1,172 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "JpegHeader.h"
+
+#include <cstring>
+
+namespace printdialog {
+namespace {
+
+enum Marker : int {
+    Temporary = 0x01,
+    FirstFrame = 0xc0,
+    ProgressiveFrame = 0xc2,
+    HuffmanTables = 0xc4,
+    FrameExtension = 0xc8,
+    ArithmeticTables = 0xcc,
+    LastFrame = 0xcf,
+    FirstRestart = 0xd0,
+    StartOfImage = 0xd8,
+    EndOfImage = 0xd9,
+    StartOfScan = 0xda,
+    App0 = 0xe0,
+    App1 = 0xe1,
+    App14 = 0xee,
+};
+
+bool isFrame(int marker)
+{
+    return marker >= FirstFrame && marker <= LastFrame && marker != HuffmanTables &&
+           marker != FrameExtension && marker != ArithmeticTables;
+}
+
+class JpegReader
+{
+public:
+    explicit JpegReader(QByteArrayView bytes)
+        : bytes_(bytes)
+    {
+    }
+
+    JpegHeader read()
+    {
+        header_.state = readSegments();
+        header_.isEmbeddable = isPlain_ && hasPlainColours();
+        return header_;
+    }
+
+private:
+    using State = JpegHeader::State;
+
+    int byteAt(qsizetype position) const { return static_cast<quint8>(bytes_[position]); }
+    int wordAt(qsizetype position) const { return byteAt(position) << 8 | byteAt(position + 1); }
+
+    State readSegments()
+    {
+        while (const int marker = nextMarker()) {
+            if (marker == Temporary || (marker >= FirstRestart && marker <= StartOfImage))
+                continue;
+            if (marker == EndOfImage)
+                return State::Broken;
+            if (position_ + 2 > bytes_.size())
+                return State::Truncated;
+            const int length = wordAt(position_);
+            if (length < 2)
+                return State::Broken;
+            if (position_ + length > bytes_.size())
+                return State::Truncated;
+            const QByteArrayView content = bytes_.sliced(position_ + 2, length - 2);
+            position_ += length;
+            if (marker == StartOfScan)
+                return header_.size.isEmpty() ? State::Broken : findEnd();
+            if (isFrame(marker) && !readFrame(marker, content))
+                return State::Broken;
+            readApplicationData(marker, content);
+        }
+        return State::Truncated;
+    }
+
+    /// Goes behind the next marker and answers it; 0 at the end of the bytes.
+    int nextMarker()
+    {
+        while (position_ < bytes_.size()) {
+            const int byte = byteAt(position_++);
+            if (byte == 0xff && position_ < bytes_.size() && byteAt(position_) != 0 &&
+                byteAt(position_) != 0xff)
+                return byteAt(position_++);
+            isPlain_ = false; // padding between segments: decoders skip it, not every PDF program does
+        }
+        return 0;
+    }
+
+    bool readFrame(int marker, QByteArrayView content)
+    {
+        if (content.size() < 6)
+            return false;
+        const auto at = [content](qsizetype i) {
+            return static_cast<quint8>(content[i]);
+        };
+        header_.size = QSize(at(3) << 8 | at(4), at(1) << 8 | at(2));
+        components_ = at(5);
+        if (header_.size.isEmpty() || components_ == 0 || content.size() < 6 + 3 * components_)
+            return false;
+        namesRgb_ = components_ == 3 && at(6) == 'R' && at(9) == 'G' && at(12) == 'B';
+        isPlain_ = isPlain_ && marker <= ProgressiveFrame && at(0) == 8;
+        return true;
+    }
+
+    void readApplicationData(int marker, QByteArrayView content)
+    {
+        constexpr QByteArrayView exif("Exif\0\0", 6);
+        if (marker == App0)
+            tellsColours_ = tellsColours_ || content.startsWith("JFIF");
+        else if (marker == App14)
+            tellsColours_ = tellsColours_ || content.startsWith("Adobe");
+        else if (marker == App1 && !hasExif_ && content.startsWith(exif)) {
+            hasExif_ = true;
+            header_.orientation = ExifOrientation::fromTiff(content.sliced(exif.size()));
+        }
+    }
+
+    /// Components named R, G and B are not converted from luminance and chrominance by decoders, but by PDF
+    /// readers.
+    bool hasPlainColours() const
+    {
+        return components_ == 1 || (components_ == 3 && (!namesRgb_ || tellsColours_));
+    }
+
+    /// From behind the first scan's header to the end of the picture, over the compressed data.
+    State findEnd()
+    {
+        if (bytes_.endsWith("\xff\xd9"))
+            return State::Complete;
+        while (position_ + 1 < bytes_.size()) {
+            const void *found = std::memchr(bytes_.data() + position_, 0xff,
+                                            static_cast<std::size_t>(bytes_.size() - position_ - 1));
+            if (!found)
+                break;
+            position_ = static_cast<const char *>(found) - bytes_.data() + 1;
+            const int marker = byteAt(position_);
+            if (marker == EndOfImage)
+                return State::Complete;
+            if (marker == 0xff)
+                continue;
+            ++position_;
+            if (marker > Temporary && (marker < FirstRestart || marker > StartOfImage)) {
+                if (position_ + 2 > bytes_.size())
+                    break;
+                position_ += wordAt(position_);
+            }
+        }
+        return State::Truncated;
+    }
+
+    QByteArrayView bytes_;
+    qsizetype position_ = 0;
+    JpegHeader header_;
+    int components_ = 0;
+    bool isPlain_ = true;
+    bool namesRgb_ = false;
+    bool tellsColours_ = false;
+    bool hasExif_ = false;
+};
+
+} // namespace
+
+JpegHeader JpegHeader::read(QByteArrayView bytes)
+{
+    return JpegReader(bytes).read();
+}
+
+} // namespace printdialog

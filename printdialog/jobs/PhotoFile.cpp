@@ -1,0 +1,117 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "PhotoFile.h"
+
+#include "PlainText.h"
+
+#include <QtCore/QFile>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+
+#include <cerrno>
+#include <optional>
+
+namespace printdialog {
+namespace {
+
+Failure<PhotoFault> systemFailure(int error, const QString &path)
+{
+    const QString name = plainText(path);
+    switch (error) {
+    case ENOENT:
+    case ENOTDIR:
+    case ENAMETOOLONG:
+        return {PhotoFault::NotFound,
+                PhotoFile::tr("There is no photo \"%1\". Check its name and folder.").arg(name),
+                {}};
+    case EACCES:
+    case EPERM:
+        return {
+            PhotoFault::NotReadable,
+            PhotoFile::tr("You may not read \"%1\". Ask its owner for the permission to read it.").arg(name),
+            qt_error_string(error)};
+    default:
+        return {PhotoFault::NotReadable,
+                PhotoFile::tr("\"%1\" could not be read: %2. Check the disk or card that it is on.")
+                    .arg(name, qt_error_string(error)),
+                {}};
+    }
+}
+
+std::optional<Failure<PhotoFault>> kindFailure(mode_t mode, const QString &path)
+{
+    if (S_ISREG(mode))
+        return std::nullopt;
+    const QString text =
+        S_ISDIR(mode)
+            ? PhotoFile::tr("\"%1\" is a folder. Choose a photo inside it.")
+            : PhotoFile::tr("\"%1\" is not a file but a device, a pipe or a socket. Choose a photo.");
+    return Failure<PhotoFault>{PhotoFault::NotReadable, text.arg(plainText(path)), {}};
+}
+
+/// Reads until the buffer is full or the file has ended, and answers the number of bytes, or -1.
+qint64 readFully(int descriptor, QByteArray &buffer)
+{
+    qint64 done = 0;
+    while (done < buffer.size()) {
+        const ssize_t count =
+            ::pread(descriptor, buffer.data() + done, static_cast<std::size_t>(buffer.size() - done), done);
+        if (count < 0 && errno == EINTR)
+            continue;
+        if (count < 0)
+            return -1;
+        if (count == 0)
+            break;
+        done += count;
+    }
+    return done;
+}
+
+} // namespace
+
+Result<PhotoFile, PhotoFault> PhotoFile::open(const QString &path)
+{
+    const QByteArray encoded = QFile::encodeName(path);
+    struct stat status = {};
+    // Asked before it is opened, since opening is enough to disturb some devices.
+    if (::stat(encoded.constData(), &status) != 0)
+        return systemFailure(errno, path);
+    if (auto failure = kindFailure(status.st_mode, path))
+        return *failure;
+
+    PhotoFile file(path,
+                   FileDescriptor(::open(encoded.constData(), O_RDONLY | O_CLOEXEC | O_NOCTTY | O_NONBLOCK)));
+    if (!file.descriptor_.isValid() || ::fstat(file.descriptor_.value(), &status) != 0)
+        return systemFailure(errno, path);
+    if (auto failure = kindFailure(status.st_mode, path))
+        return *failure;
+    if (status.st_size == 0)
+        return Failure<PhotoFault>{
+            PhotoFault::Empty,
+            tr("\"%1\" is empty. Copy the photo again from where it came from.").arg(plainText(path)),
+            {}};
+    file.size_ = status.st_size;
+    file.modified_ = QDateTime::fromSecsSinceEpoch(status.st_mtim.tv_sec, Qt::UTC);
+    return file;
+}
+
+QByteArray PhotoFile::head(qint64 bytes) const
+{
+    QByteArray buffer(qMin(bytes, size_), Qt::Uninitialized);
+    buffer.resize(qMax(qint64(0), readFully(descriptor_.value(), buffer)));
+    return buffer;
+}
+
+Result<QByteArray, PhotoFault> PhotoFile::content() const
+{
+    QByteArray buffer(size_, Qt::Uninitialized);
+    const qint64 count = readFully(descriptor_.value(), buffer);
+    if (count < 0)
+        return systemFailure(errno, path_);
+    buffer.resize(count);
+    return buffer;
+}
+
+} // namespace printdialog

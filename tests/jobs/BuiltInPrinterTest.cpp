@@ -1,0 +1,207 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "BuiltInPrinter.h"
+#include "SamplePhotos.h"
+
+#include <QtCore/QDirIterator>
+#include <QtCore/QJsonDocument>
+#include <QtCore/QJsonObject>
+#include <QtCore/QTemporaryDir>
+#include <QtTest/QTest>
+
+#include <sys/resource.h>
+#include <unistd.h>
+
+#include <csignal>
+
+using namespace printdialog;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+PrintJob usualJob()
+{
+    PrintJob job;
+    job.printer = u"Booth \"A\""_s;
+    job.page = {QSizeF(288, 432), QRectF(0, 0, 288, 432)};
+    job.options = {{u"PageSize"_s, u"w288h432"_s}, {u"Note"_s, u"a\\b \n\u00e9"_s}};
+    job.summary = {{u"Finish"_s, u"Matte"_s}};
+    job.copies = 3;
+    return job;
+}
+
+/// Every file and folder below a folder, with the files' content.
+QMap<QString, QByteArray> contentOf(const QString &folder)
+{
+    QMap<QString, QByteArray> content;
+    QDirIterator entries(folder, QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot,
+                         QDirIterator::Subdirectories);
+    while (entries.hasNext()) {
+        const QString path = entries.next();
+        content.insert(path, entries.fileInfo().isFile() ? samples::load(path) : QByteArray());
+    }
+    return content;
+}
+
+/// While it lives, no file of this process can get longer.
+class FullDisk
+{
+public:
+    FullDisk()
+    {
+        std::signal(SIGXFSZ, SIG_IGN);
+        getrlimit(RLIMIT_FSIZE, &before_);
+        const rlimit small{2000, before_.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &small);
+    }
+    ~FullDisk() { setrlimit(RLIMIT_FSIZE, &before_); }
+
+private:
+    rlimit before_ = {};
+};
+
+} // namespace
+
+class BuiltInPrinterTest : public QObject
+{
+    Q_OBJECT
+
+private:
+    QString pathOf(const QString &name) const { return folder_->filePath(name); }
+
+    std::unique_ptr<QTemporaryDir> folder_;
+
+private Q_SLOTS:
+    void init() { folder_ = std::make_unique<QTemporaryDir>(); }
+    void leavesThePair();
+    void names_data();
+    void names();
+    void failuresLeaveNothing_data();
+    void failuresLeaveNothing();
+};
+
+void BuiltInPrinterTest::leavesThePair()
+{
+    const QByteArray jpeg = samples::encoded(samples::quarters(QSize(30, 20)), "jpeg");
+    PrintedNames names;
+    const QString output = pathOf(u"new/out"_s);
+    for (const QString &source : {u"a"_s, u"b"_s}) {
+        QDir(folder_->path()).mkdir(source);
+        samples::store(pathOf(source + u"/photo.jpg"_s), jpeg);
+        const auto photo = Photo::open(pathOf(source + u"/photo.jpg"_s));
+        const auto files = BuiltInPrinter::print(*photo, usualJob(), output, &names);
+        QVERIFY2(files, files ? "" : qPrintable(files.failure().text));
+        const QString name = source == u"a" ? u"photo"_s : u"photo-2"_s;
+        QCOMPARE(files->pdf, output + u'/' + name + u".pdf"_s);
+        QCOMPARE(files->ticket, output + u'/' + name + u".ticket.json"_s);
+        QVERIFY(samples::load(files->pdf).endsWith("%%EOF\n"));
+
+        const QByteArray ticket = samples::load(files->ticket);
+        const QJsonObject expected{
+            {u"printer"_s, u"Booth \"A\""_s},
+            {u"document"_s, pathOf(source + u"/photo.jpg"_s)},
+            {u"options"_s, QJsonObject{{u"PageSize"_s, u"w288h432"_s}, {u"Note"_s, u"a\\b \n\u00e9"_s}}},
+            {u"summary"_s, QJsonObject{{u"Finish"_s, u"Matte"_s}}},
+            {u"copies"_s, 3}};
+        QCOMPARE(QJsonDocument::fromJson(ticket).object(), expected);
+        QVERIFY(ticket.contains("\n    \"printer\""));
+    }
+    // A later run replaces what an earlier one left.
+    samples::store(output + u"/photo.pdf"_s, "old");
+    QVERIFY(BuiltInPrinter::print(*Photo::open(pathOf(u"a/photo.jpg"_s)), usualJob(), output));
+    QVERIFY(samples::load(output + u"/photo.pdf"_s).startsWith("%PDF"));
+    QCOMPARE(contentOf(output).size(), 4);
+}
+
+void BuiltInPrinterTest::names_data()
+{
+    QTest::addColumn<QString>("photo");
+    QTest::addColumn<QString>("name");
+    QTest::newRow("usual") << u"/a/photo.jpg"_s << u"photo"_s;
+    QTest::newRow("dots, spaces, letters")
+        << u"/a/Tag 1.v2 \u65e5\U0001f600.JPG"_s << u"Tag 1.v2 \u65e5\U0001f600"_s;
+    QTest::newRow("no suffix") << u"/a/photo"_s << u"photo"_s;
+    QTest::newRow("hidden") << u"/a/..photo.jpg"_s << u"photo"_s;
+    QTest::newRow("hidden by a control character") << u"/a/\n.x.jpg"_s << u"x"_s;
+    QTest::newRow("nothing but a suffix") << u"/a/.jpg"_s << u"photo"_s;
+    QTest::newRow("controls and turned text") << u"/a/x\r\n\u202egpj\u2028.jpg"_s << u"xgpj"_s;
+    QTest::newRow("taken twice") << u"/a/taken.jpg"_s << u"taken-3"_s;
+}
+
+void BuiltInPrinterTest::names()
+{
+    QFETCH(const QString, photo);
+    QFETCH(const QString, name);
+    PrintedNames names;
+    names.take(u"taken"_s);
+    names.take(u"taken-2"_s);
+    QCOMPARE(names.nameFor(photo), name);
+}
+
+void BuiltInPrinterTest::failuresLeaveNothing_data()
+{
+    QTest::addColumn<QString>("output"); // within the test's folder
+    QTest::addColumn<QString>("named");  // what the message names
+    QTest::addColumn<OutputFault>("fault");
+    QTest::newRow("folder is a file") << u"file"_s << u"file"_s << OutputFault::NotAFolder;
+    QTest::newRow("folder below a file") << u"file/new"_s << u"file/new"_s << OutputFault::NotAFolder;
+    QTest::newRow("link to nowhere") << u"link"_s << u"link"_s << OutputFault::FolderMissing;
+    QTest::newRow("no permission") << u"locked"_s << u"locked/photo.pdf"_s << OutputFault::NotWritable;
+    QTest::newRow("no permission to make it")
+        << u"locked/new"_s << u"locked/new"_s << OutputFault::NotWritable;
+    QTest::newRow("folder in the ticket's place")
+        << u"taken"_s << u"photo.ticket.json"_s << OutputFault::NameTaken;
+    QTest::newRow("name too long") << u"new/out"_s << u"nnn.ticket.json"_s << OutputFault::NameTooLong;
+    QTest::newRow("disk full, in new folders") << u"new/out"_s << u"photo.pdf"_s << OutputFault::DiskFull;
+    QTest::newRow("disk full, over an earlier pair") << u"pair"_s << u"photo.pdf"_s << OutputFault::DiskFull;
+    QTest::newRow("damaged photo") << u"pair"_s << u"photo.jpg"_s << OutputFault::PhotoUnusable;
+    QTest::newRow("no page") << u"new/out"_s << u"page"_s << OutputFault::PageUnusable;
+}
+
+void BuiltInPrinterTest::failuresLeaveNothing()
+{
+    QFETCH(const QString, output);
+    QFETCH(const QString, named);
+    QFETCH(const OutputFault, fault);
+    QDir folder(folder_->path());
+    for (const QString &name : {u"pair"_s, u"taken"_s, u"locked"_s, u"taken/photo.ticket.json"_s})
+        QVERIFY(folder.mkdir(name));
+    for (const QString &name : {u"file"_s, u"pair/photo.pdf"_s, u"pair/photo.ticket.json"_s,
+                                u"taken/photo.pdf"_s, u"taken/photo.ticket.json/inside"_s})
+        samples::store(pathOf(name), "earlier");
+    QVERIFY(QFile::link(u"/nonexistent/folder"_s, pathOf(u"link"_s)));
+    const QByteArray content = fault == OutputFault::PhotoUnusable
+                                   ? samples::undecodableJpeg()
+                                   : samples::encoded(samples::quarters(QSize(300, 200)), "jpeg");
+    const QString source = fault == OutputFault::NameTooLong ? QString(250, u'n') : u"photo"_s;
+    samples::store(pathOf(source + u".jpg"_s), content);
+    const auto photo = Photo::open(pathOf(source + u".jpg"_s));
+    QVERIFY(photo);
+    PrintJob job = usualJob();
+    if (fault == OutputFault::PageUnusable)
+        job.page = {};
+
+    const auto before = contentOf(folder_->path());
+    PrintedNames names;
+    const auto files = [&] {
+        std::optional<FullDisk> fullDisk;
+        std::optional<samples::OrdinaryRights> rights;
+        if (fault == OutputFault::DiskFull)
+            fullDisk.emplace();
+        if (fault == OutputFault::NotWritable) {
+            QFile::setPermissions(folder_->path(), QFile::Permissions(0x7755));
+            QFile::setPermissions(pathOf(u"locked"_s), QFile::Permissions(0x5555));
+            rights.emplace();
+        }
+        return BuiltInPrinter::print(*photo, job, pathOf(output), &names);
+    }();
+    QVERIFY(!files);
+    QCOMPARE(files.failure().reason, fault);
+    QVERIFY2(files.failure().text.contains(named), qPrintable(files.failure().text));
+    QCOMPARE(contentOf(folder_->path()), before);
+    QCOMPARE(names.nameFor(u"photo.jpg"_s), u"photo"_s);
+}
+
+QTEST_GUILESS_MAIN(BuiltInPrinterTest)
+#include "BuiltInPrinterTest.moc"

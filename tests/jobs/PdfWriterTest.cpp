@@ -1,0 +1,223 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "PdfWriter.h"
+#include "PhotoPlacement.h"
+#include "SamplePhotos.h"
+
+#include <QtCore/QBuffer>
+#include <QtCore/QProcess>
+#include <QtCore/QRegularExpression>
+#include <QtCore/QTemporaryDir>
+#include <QtGui/QImageWriter>
+#include <QtTest/QTest>
+
+#include <limits>
+
+using namespace printdialog;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const PageGeometry portraitPage{QSizeF(288, 432), QRectF(20, 10, 250, 400)};
+const PageGeometry landscapePage{QSizeF(432, 288), QRectF(20, 10, 400, 250)};
+
+QString run(const QString &program, const QStringList &arguments)
+{
+    QProcess process;
+    process.start(program, arguments);
+    if (!process.waitForFinished() || process.exitCode() != 0)
+        qFatal("%s of poppler-utils failed", qPrintable(program));
+    return QString::fromUtf8(process.readAllStandardOutput());
+}
+
+} // namespace
+
+class PdfWriterTest : public QObject
+{
+    Q_OBJECT
+
+private:
+    QString pathOf(const QString &name) const { return folder_.filePath(name); }
+
+    Photo photoOf(const QByteArray &content, const QString &name = u"photo"_s)
+    {
+        samples::store(pathOf(name), content);
+        return *Photo::open(pathOf(name));
+    }
+
+    QByteArray pdfOf(const Photo &photo, const PageGeometry &page, PdfWriter::Embedding expected)
+    {
+        QBuffer buffer;
+        buffer.open(QIODevice::WriteOnly);
+        const auto embedding = PdfWriter::write(photo, page, buffer);
+        if (!embedding || *embedding != expected)
+            QTest::qFail("not embedded as expected", __FILE__, __LINE__);
+        samples::store(pathOf(u"photo.pdf"_s), buffer.data());
+        return buffer.data();
+    }
+
+    /// The page as pixels, one for each point.
+    QImage rendered()
+    {
+        run(u"pdftoppm"_s,
+            {u"-r"_s, u"72"_s, u"-png"_s, u"-singlefile"_s, pathOf(u"photo.pdf"_s), pathOf(u"page"_s)});
+        return QImage(pathOf(u"page.png"_s));
+    }
+
+    /// The only image in the PDF, as it is stored there.
+    QByteArray embedded(const QString &suffix)
+    {
+        run(u"pdfimages"_s, {u"-all"_s, pathOf(u"photo.pdf"_s), pathOf(u"image"_s)});
+        if (QDir(folder_.path()).entryList({u"image-*"_s}).size() != 1)
+            QTest::qFail("not one image", __FILE__, __LINE__);
+        const QByteArray content = samples::load(pathOf(u"image-000."_s + suffix));
+        QFile::remove(pathOf(u"image-000."_s + suffix));
+        return content;
+    }
+
+    QTemporaryDir folder_;
+
+private Q_SLOTS:
+    void jpegGoesInUntouchedAndUpright_data();
+    void jpegGoesInUntouchedAndUpright();
+    void panorama();
+    void cmykKeepsItsColours();
+    void pixelsAreLossless();
+    void tiffIsTurnedOnce();
+    void metadata();
+    void faults_data();
+    void faults();
+};
+
+void PdfWriterTest::jpegGoesInUntouchedAndUpright_data()
+{
+    QTest::addColumn<int>("orientation");
+    QTest::addColumn<bool>("isPortrait");
+    for (int i = 1; i <= 8; ++i) {
+        QTest::addRow("Exif orientation %d on a portrait page", i) << i << true;
+        QTest::addRow("Exif orientation %d on a landscape page", i) << i << false;
+    }
+}
+
+void PdfWriterTest::jpegGoesInUntouchedAndUpright()
+{
+    QFETCH(const int, orientation);
+    QFETCH(const bool, isPortrait);
+    const QByteArray jpeg =
+        samples::withOrientation(samples::encoded(samples::quarters(QSize(300, 200)), "jpeg"), orientation);
+    const PageGeometry &page = isPortrait ? portraitPage : landscapePage;
+    pdfOf(photoOf(jpeg), page, PdfWriter::Embedding::OriginalJpeg);
+    QVERIFY(embedded(u"jpg"_s) == jpeg);
+
+    QString corners = samples::seenCorners[std::size_t(orientation)];
+    const bool isTurned = (orientation >= 5) != isPortrait;
+    if (isTurned) // a quarter clockwise: the left side is the top
+        corners = u"%1%2%3%4"_s.arg(corners[2], corners[0], corners[3], corners[1]);
+    // 2:3 within 250 x 400 points at (20, 10)
+    const QRectF target = isPortrait ? QRectF(20, 22.5, 250, 375) : QRectF(32.5, 10, 375, 250);
+    const QImage pixels = rendered();
+    QCOMPARE(pixels.size(), page.size.toSize());
+    QCOMPARE(samples::cornersOf(pixels, target, 3), corners);
+    QCOMPARE(samples::cornersOf(pixels, target, -3), u"WWWW"_s);
+}
+
+/// Wider than the images that cairo has itself.
+void PdfWriterTest::panorama()
+{
+    const QByteArray jpeg = samples::encoded(samples::quarters(QSize(40000, 40)), "jpeg");
+    pdfOf(photoOf(jpeg), landscapePage, PdfWriter::Embedding::OriginalJpeg);
+    QVERIFY(embedded(u"jpg"_s) == jpeg);
+}
+
+void PdfWriterTest::cmykKeepsItsColours()
+{
+    pdfOf(photoOf(samples::redCmykJpeg()), portraitPage, PdfWriter::Embedding::Pixels);
+    QCOMPARE(samples::cornersOf(rendered(), QRectF(20, 85, 250, 250), 5), u"RRRR"_s);
+}
+
+void PdfWriterTest::pixelsAreLossless()
+{
+    QImage picture(64, 48, QImage::Format_ARGB32);
+    QImage expected(picture.size(), QImage::Format_RGB32);
+    quint32 noise = 1;
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x) {
+            noise = noise * 1664525 + 1013904223;
+            const QRgb colour = noise >> 8;
+            picture.setPixel(x, y, x < 32 ? colour | 0xff000000 : colour & 0x00ffffff);
+            expected.setPixel(x, y, x < 32 ? colour | 0xff000000 : 0xffffffff);
+        }
+    }
+    pdfOf(photoOf(samples::encoded(picture, "png")), portraitPage, PdfWriter::Embedding::Pixels);
+    QCOMPARE(QImage::fromData(embedded(u"png"_s)).convertToFormat(QImage::Format_RGB32), expected);
+}
+
+void PdfWriterTest::tiffIsTurnedOnce()
+{
+    QByteArray tiff;
+    QBuffer buffer(&tiff);
+    QImageWriter writer(&buffer, "tiff");
+    if (!writer.canWrite())
+        QSKIP("no image plug-in for TIFF here");
+    writer.setTransformation(QImageIOHandler::TransformationRotate90);
+    QVERIFY(writer.write(samples::quarters(QSize(300, 200))));
+    const Photo photo = photoOf(tiff);
+    QCOMPARE(photo.orientation().value(), 6);
+    pdfOf(photo, portraitPage, PdfWriter::Embedding::Pixels);
+    QCOMPARE(samples::cornersOf(rendered(), QRectF(20, 22.5, 250, 375), 3), samples::seenCorners[6]);
+}
+
+void PdfWriterTest::metadata()
+{
+    const QByteArray jpeg = samples::encoded(samples::quarters(QSize(30, 20)), "jpeg");
+    const Photo photo = photoOf(jpeg, u"Zo\u00eb\n\u202e(1).jpg"_s);
+    const QByteArray pdf = pdfOf(photo, portraitPage, PdfWriter::Embedding::OriginalJpeg);
+    const QString information = run(u"pdfinfo"_s, {u"-enc"_s, u"UTF-8"_s, pathOf(u"photo.pdf"_s)});
+    for (const QString &line : {u"Title: +Zo\u00eb\\(1\\)\\.jpg"_s, u"Creator: +corvel-print"_s,
+                                u"Pages: +1"_s, u"Page size: +288 x 432 pts.*"_s})
+        QVERIFY2(information.contains(
+                     QRegularExpression(u"^%1$"_s.arg(line), QRegularExpression::MultilineOption)),
+                 qPrintable(information));
+    QTest::qWait(1100); // the clock's second, which must not get into the file
+    QVERIFY(pdfOf(photo, portraitPage, PdfWriter::Embedding::OriginalJpeg) == pdf);
+}
+
+void PdfWriterTest::faults_data()
+{
+    QTest::addColumn<QSizeF>("size");
+    QTest::addColumn<QRectF>("imageable");
+    QTest::addColumn<QString>("device");
+    QTest::addColumn<int>("fault");
+    const QSizeF size(288, 432);
+    const QRectF whole(QPointF(0, 0), size);
+    const int page = int(PdfFault::PageUnusable);
+    const QString null = u"/dev/null"_s;
+    QTest::newRow("page without a size") << QSizeF() << whole << null << page;
+    QTest::newRow("page of no number")
+        << QSizeF(std::numeric_limits<double>::quiet_NaN(), 432) << whole << null << page;
+    QTest::newRow("page beyond what a PDF has") << QSizeF(288, 1e9) << whole << null << page;
+    QTest::newRow("nothing imageable") << size << QRectF(10, 10, 0, 400) << null << page;
+    QTest::newRow("full disk") << size << whole << u"/dev/full"_s << int(PdfFault::WriteFailed);
+    QTest::newRow("pixels that cannot be decoded") << size << whole << null << int(PdfFault::PhotoUnusable);
+}
+
+void PdfWriterTest::faults()
+{
+    QFETCH(const QSizeF, size);
+    QFETCH(const QRectF, imageable);
+    QFETCH(const QString, device);
+    QFETCH(const int, fault);
+    const QByteArray content = fault == int(PdfFault::PhotoUnusable)
+                                   ? samples::undecodableJpeg()
+                                   : samples::encoded(samples::quarters(QSize(30, 20)), "jpeg");
+    QFile file(device);
+    QVERIFY(file.open(QIODevice::WriteOnly | QIODevice::Unbuffered));
+    const auto written = PdfWriter::write(photoOf(content), {size, imageable}, file);
+    QVERIFY(!written);
+    QCOMPARE(int(written.failure().reason), fault);
+    QVERIFY(!written.failure().text.isEmpty());
+}
+
+QTEST_GUILESS_MAIN(PdfWriterTest)
+#include "PdfWriterTest.moc"

@@ -1,0 +1,266 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "Photo.h"
+#include "JpegHeader.h"
+#include "PhotoPlacement.h"
+#include "SamplePhotos.h"
+
+#include <QtCore/QTemporaryDir>
+#include <QtTest/QTest>
+
+#include <sys/resource.h>
+#include <sys/stat.h>
+
+using namespace printdialog;
+using namespace Qt::StringLiterals;
+
+Q_DECLARE_METATYPE(printdialog::PhotoFault)
+
+class PhotoTest : public QObject
+{
+    Q_OBJECT
+
+private:
+    QString pathOf(const QString &name) const { return QDir(folder_.path()).filePath(name); }
+
+    QTemporaryDir folder_;
+
+private Q_SLOTS:
+    void faults_data();
+    void faults();
+    void zerosAreNotRead();
+    void wholeJpegs_data();
+    void wholeJpegs();
+    void damagedHeadersAreSafe();
+    void orientations_data();
+    void orientations();
+    void placement_data();
+    void placement();
+};
+
+void PhotoTest::faults_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<PhotoFault>("fault");
+
+    const QImage picture = samples::quarters(QSize(120, 80));
+    const QByteArray jpeg = samples::encoded(picture, "jpeg");
+    const QByteArray progressive = samples::encoded(picture, "jpeg", true);
+    const QByteArray png = samples::encoded(picture, "png");
+    QByteArray immense = jpeg;
+    immense.replace(jpeg.indexOf("\xff\xc0") + 5, 4, "\xea\x60\xea\x60");
+    QByteArray commented = progressive; // a comment between scans that holds an end marker
+    commented.insert(commented.lastIndexOf("\xff\xda"), QByteArray("\xff\xfe\0\x04\xff\xd9", 6));
+    QByteArray damagedPng = png;
+    damagedPng[png.indexOf("IDAT") + 6] ^= 1;
+
+    QTest::newRow("missing") << u"missing.jpg"_s << QByteArray() << PhotoFault::NotFound;
+    QTest::newRow("below a file") << u"text.jpg/photo.jpg"_s << QByteArray() << PhotoFault::NotFound;
+    QTest::newRow("folder") << u"folder.jpg"_s << QByteArray() << PhotoFault::NotReadable;
+    QTest::newRow("pipe that nobody writes to") << u"pipe.jpg"_s << QByteArray() << PhotoFault::NotReadable;
+    QTest::newRow("device") << u"/dev/zero"_s << QByteArray() << PhotoFault::NotReadable;
+    QTest::newRow("no permission") << u"locked.jpg"_s << QByteArray() << PhotoFault::NotReadable;
+    QTest::newRow("empty") << u"empty.jpg"_s << QByteArray() << PhotoFault::Empty;
+    QTest::newRow("too many bytes") << u"long.jpg"_s << QByteArray() << PhotoFault::TooLarge;
+    QTest::newRow("JPEG of too many pixels") << u"immense.jpg"_s << immense << PhotoFault::TooLarge;
+    QTest::newRow("PNG too wide") << u"wide.png"_s
+                                  << samples::encoded(QImage(40000, 1, QImage::Format_Mono), "png")
+                                  << PhotoFault::TooLarge;
+    QTest::newRow("text named .jpg") << u"text.jpg"_s << QByteArray("Dear all,") << PhotoFault::UnknownType;
+    QTest::newRow("drawing") << u"d.svg"_s << QByteArray("<?xml version='1.0'?><svg/>")
+                             << PhotoFault::UnknownType;
+    QTest::newRow("JPEG without its last half")
+        << u"half.jpg"_s << jpeg.first(jpeg.size() / 2) << PhotoFault::Truncated;
+    QTest::newRow("JPEG without its last byte") << u"last.jpg"_s << jpeg.chopped(1) << PhotoFault::Truncated;
+    QTest::newRow("JPEG half copied, the rest zeros")
+        << u"zeros.jpg"_s << jpeg.first(jpeg.size() / 2) + QByteArray(jpeg.size(), '\0')
+        << PhotoFault::Truncated;
+    QTest::newRow("progressive JPEG without its last scans")
+        << u"scans.jpg"_s << progressive.first(progressive.size() * 3 / 4) << PhotoFault::Truncated;
+    QTest::newRow("JPEG cut in its headers") << u"head.jpg"_s << jpeg.first(100) << PhotoFault::Truncated;
+    QTest::newRow("JPEG with an end marker in a comment")
+        << u"comment.jpg"_s << commented.chopped(1) << PhotoFault::Truncated;
+    QTest::newRow("BMP without its last row")
+        << u"half.bmp"_s << samples::encoded(picture, "bmp").chopped(360) << PhotoFault::Truncated;
+    QTest::newRow("GIF without its trailer")
+        << u"half.gif"_s
+        << QByteArray("GIF89a\1\0\1\0\x80\0\0\0\0\0\xff\xff\xff,\0\0\0\0\1\0\1\0\0\2\2D\1\0", 34)
+        << PhotoFault::Truncated;
+    QTest::newRow("PNG without its end") << u"half.png"_s << png.chopped(12) << PhotoFault::Truncated;
+    QTest::newRow("JPEG without a picture")
+        << u"none.jpg"_s << jpeg.first(20) + "\xff\xd9" << PhotoFault::Broken;
+    QTest::newRow("PNG with a changed pixel") << u"pixel.png"_s << damagedPng << PhotoFault::Broken;
+}
+
+void PhotoTest::faults()
+{
+    QFETCH(const QString, name);
+    QFETCH(const QByteArray, content);
+    QFETCH(const PhotoFault, fault);
+    const QString path = pathOf(name);
+    if (name == u"folder.jpg")
+        QVERIFY(QDir().mkdir(path));
+    else if (name == u"pipe.jpg")
+        QCOMPARE(mkfifo(path.toLocal8Bit().constData(), 0600), 0);
+    else if (fault != PhotoFault::NotFound && !name.startsWith(u'/'))
+        samples::store(path, content);
+    if (name == u"long.jpg") {
+        samples::store(path, samples::encoded(samples::quarters(QSize(8, 8)), "jpeg"));
+        QVERIFY(QFile::resize(path, Photo::maximumFileSize + 1));
+    }
+    if (name == u"locked.jpg")
+        QVERIFY(QFile::setPermissions(path, {}));
+
+    std::optional<samples::OrdinaryRights> rights;
+    if (name == u"locked.jpg")
+        rights.emplace();
+    const auto photo = Photo::open(path);
+    QVERIFY(!photo);
+    QCOMPARE(photo.failure().reason, fault);
+    QVERIFY2(photo.failure().text.contains(QFileInfo(path).fileName()), qPrintable(photo.failure().text));
+    QVERIFY2(photo.failure().text.endsWith(u'.'), qPrintable(photo.failure().text));
+}
+
+void PhotoTest::zerosAreNotRead()
+{
+    samples::store(pathOf(u"zeros.jpg"_s), {});
+    QVERIFY(QFile::resize(pathOf(u"zeros.jpg"_s), qint64(1) << 30));
+    rusage before = {};
+    rusage after = {};
+    getrusage(RUSAGE_SELF, &before);
+    const auto photo = Photo::open(pathOf(u"zeros.jpg"_s));
+    getrusage(RUSAGE_SELF, &after);
+    QVERIFY(!photo);
+    QCOMPARE(photo.failure().reason, PhotoFault::UnknownType);
+    QVERIFY(after.ru_maxrss - before.ru_maxrss < 50'000); // kilobytes
+}
+
+void PhotoTest::wholeJpegs_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<bool>("isEmbeddable");
+
+    const QImage picture = samples::quarters(QSize(120, 80));
+    const QByteArray jpeg = samples::encoded(picture, "jpeg");
+    const QByteArray progressive = samples::encoded(picture, "jpeg", true);
+    QByteArray arithmetic = jpeg;
+    arithmetic[jpeg.indexOf("\xff\xc0") + 1] = '\xc9';
+    QByteArray rgb = jpeg.first(2) + jpeg.sliced(20); // without the JFIF segment, which tells the colours
+    const qsizetype frame = rgb.indexOf("\xff\xc0");
+    rgb[frame + 10] = 'R';
+    rgb[frame + 13] = 'G';
+    rgb[frame + 16] = 'B';
+
+    QTest::newRow("baseline") << jpeg << true;
+    QTest::newRow("progressive") << progressive << true;
+    QTest::newRow("grey") << samples::encoded(picture.convertToFormat(QImage::Format_Grayscale8), "jpeg")
+                          << true;
+    QTest::newRow("with a film behind the picture") << jpeg + "\0\0\0\x18"
+                                                              "ftypmp42"
+                                                    << true;
+    QTest::newRow("progressive, with zeros behind it") << progressive + QByteArray(5000, '\0') << true;
+    QTest::newRow("padding before a segment") << jpeg.first(2) + "\xff\xff" + jpeg.sliced(2) << false;
+    QTest::newRow("12 bits") << samples::undecodableJpeg() << false;
+    QTest::newRow("arithmetic coding") << arithmetic << false;
+    QTest::newRow("RGB by its components' names alone") << rgb << false;
+    QTest::newRow("CMYK") << samples::redCmykJpeg() << false;
+}
+
+void PhotoTest::wholeJpegs()
+{
+    QFETCH(const QByteArray, content);
+    QFETCH(const bool, isEmbeddable);
+    samples::store(pathOf(u"photo"_s), content);
+    const auto photo = Photo::open(pathOf(u"photo"_s));
+    QVERIFY2(photo, photo ? "" : qPrintable(photo.failure().text));
+    QCOMPARE(photo->format(), "jpeg");
+    QCOMPARE(photo->isEmbeddable(), isEmbeddable);
+    QVERIFY(photo->content() == content);
+}
+
+/// Each byte of the headers replaced by values that make lengths, counts and offsets extreme.
+void PhotoTest::damagedHeadersAreSafe()
+{
+    const QByteArray jpeg = samples::encoded(samples::quarters(QSize(16, 16)), "jpeg");
+    for (const bool bigEndian : {false, true}) {
+        const QByteArray whole = samples::withOrientation(jpeg, 6, bigEndian);
+        QCOMPARE(JpegHeader::read(whole).orientation.value(), 6);
+        for (qsizetype i = 2; i < whole.size(); ++i) {
+            for (const char value : {'\0', '\x01', '\x7f', '\xda', '\xff'}) {
+                QByteArray damaged = whole;
+                damaged[i] = value;
+                const int orientation = JpegHeader::read(damaged).orientation.value();
+                QVERIFY(orientation >= 1 && orientation <= 8);
+            }
+            // The heap block ends with the bytes, so that a sanitizer sees the first one read behind them.
+            QVERIFY(JpegHeader::read(std::vector<char>(whole.begin(), whole.begin() + i)).state !=
+                    JpegHeader::State::Complete);
+        }
+    }
+}
+
+void PhotoTest::orientations_data()
+{
+    QTest::addColumn<int>("orientation");
+    QTest::addColumn<int>("seenAs");
+    QTest::addColumn<bool>("bigEndian");
+    for (int i = 1; i <= 8; ++i)
+        QTest::addRow("Exif orientation %d", i) << i << i << (i % 2 == 0);
+    QTest::newRow("Exif orientation 0, which does not exist") << 0 << 1 << false;
+    QTest::newRow("Exif orientation 9, which does not exist") << 9 << 1 << true;
+}
+
+void PhotoTest::orientations()
+{
+    QFETCH(const int, orientation);
+    QFETCH(const int, seenAs);
+    QFETCH(const bool, bigEndian);
+    const QByteArray jpeg = samples::encoded(samples::quarters(QSize(300, 200)), "jpeg");
+    samples::store(pathOf(u"photo.jpg"_s), samples::withOrientation(jpeg, orientation, bigEndian));
+    const auto photo = Photo::open(pathOf(u"photo.jpg"_s));
+    QVERIFY(photo);
+    QCOMPARE(photo->orientation().value(), seenAs);
+    const QSize seen = seenAs >= 5 ? QSize(200, 300) : QSize(300, 200);
+    QCOMPARE(photo->orientedSize(), seen);
+
+    const QImage large = photo->preview(QSize(1000, 1000));
+    QCOMPARE(large.size(), seen);
+    QCOMPARE(samples::cornersOf(large, large.rect(), 20), samples::seenCorners[std::size_t(seenAs)]);
+    const QImage small = photo->preview(QSize(60, 1000));
+    QCOMPARE(small.size(), seen.scaled(60, 1000, Qt::KeepAspectRatio));
+    QCOMPARE(samples::cornersOf(small, small.rect(), 10), samples::seenCorners[std::size_t(seenAs)]);
+}
+
+void PhotoTest::placement_data()
+{
+    QTest::addColumn<QSize>("photo");
+    QTest::addColumn<QRectF>("imageable");
+    QTest::addColumn<QRectF>("target");
+    QTest::addColumn<int>("quarterTurns");
+
+    const QRectF portrait(10, 20, 200, 300);
+    const QRectF landscape(10, 20, 300, 200);
+    QTest::newRow("same shape") << QSize(2000, 3000) << portrait << portrait << 0;
+    QTest::newRow("landscape on portrait") << QSize(3000, 2000) << portrait << portrait << 1;
+    QTest::newRow("portrait on landscape") << QSize(2000, 3000) << landscape << landscape << 1;
+    QTest::newRow("square") << QSize(999, 999) << portrait << QRectF(10, 70, 200, 200) << 0;
+    QTest::newRow("any shape on a square")
+        << QSize(400, 200) << QRectF(0, 0, 100, 100) << QRectF(0, 25, 100, 50) << 0;
+    QTest::newRow("panorama, enlarged") << QSize(30, 10) << portrait << QRectF(60, 20, 100, 300) << 1;
+}
+
+void PhotoTest::placement()
+{
+    QFETCH(const QSize, photo);
+    QFETCH(const QRectF, imageable);
+    QFETCH(const QRectF, target);
+    QFETCH(const int, quarterTurns);
+    const auto placement = PhotoPlacement::fit(photo, {QSizeF(500, 500), imageable});
+    QCOMPARE(placement.target, target);
+    QCOMPARE(placement.quarterTurns, quarterTurns);
+}
+
+QTEST_GUILESS_MAIN(PhotoTest)
+#include "PhotoTest.moc"

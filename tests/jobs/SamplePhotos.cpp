@@ -1,0 +1,119 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "SamplePhotos.h"
+
+#include <QtCore/QBuffer>
+#include <QtCore/QFile>
+#include <QtGui/QImageWriter>
+#include <QtGui/QPainter>
+
+#include <unistd.h>
+
+namespace samples {
+
+QImage quarters(const QSize &size)
+{
+    QImage image(size, QImage::Format_RGB32);
+    const QRect quarter(QPoint(0, 0), size / 2);
+    QPainter painter(&image);
+    painter.fillRect(image.rect(), Qt::yellow);
+    painter.fillRect(quarter, Qt::red);
+    painter.fillRect(quarter.translated(quarter.width(), 0), Qt::green);
+    painter.fillRect(quarter.translated(0, quarter.height()), Qt::blue);
+    return image;
+}
+
+QString cornersOf(const QImage &image, const QRectF &area, double inside)
+{
+    const QRectF inner = area.adjusted(inside, inside, -inside, -inside);
+    QString names;
+    for (const QPointF &corner :
+         {inner.topLeft(), inner.topRight(), inner.bottomLeft(), inner.bottomRight()}) {
+        const QColor colour = image.pixelColor(corner.toPoint());
+        const bool red = colour.red() > 128;
+        const bool green = colour.green() > 128;
+        const bool blue = colour.blue() > 128;
+        names += red && green && blue ? u'W'
+                 : red && green       ? u'Y'
+                 : red                ? u'R'
+                 : green              ? u'G'
+                 : blue               ? u'B'
+                                      : u'?';
+    }
+    return names;
+}
+
+QByteArray encoded(const QImage &image, const char *format, bool progressive)
+{
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    QImageWriter writer(&buffer, format);
+    writer.setProgressiveScanWrite(progressive);
+    if (!writer.write(image))
+        qFatal("cannot make a %s", format);
+    return bytes;
+}
+
+QByteArray withOrientation(const QByteArray &jpeg, int orientation, bool bigEndian)
+{
+    const char value = static_cast<char>(orientation);
+    // Two entries: one of another tag (ImageWidth), then the orientation.
+    QByteArray tiff = bigEndian ? QByteArray("MM\0*\0\0\0\x08\0\x02"
+                                             "\x01\0\0\x03\0\0\0\x01\0\x07\0\0"
+                                             "\x01\x12\0\x03\0\0\0\x01\0",
+                                             31)
+                                : QByteArray("II*\0\x08\0\0\0\x02\0"
+                                             "\0\x01\x03\0\x01\0\0\0\x07\0\0\0"
+                                             "\x12\x01\x03\0\x01\0\0\0",
+                                             30);
+    tiff += value;
+    tiff += QByteArray(bigEndian ? 6 : 7, '\0');
+    QByteArray segment("\xff\xe1\0\0Exif\0\0", 10);
+    segment += tiff;
+    segment[3] = static_cast<char>(segment.size() - 2);
+    return jpeg.first(2) + segment + jpeg.sliced(2);
+}
+
+QByteArray redCmykJpeg()
+{
+    return QByteArray::fromBase64(
+        "/9j/7gAOQWRvYmUAZAAAAAAC/9sAQwADAgIDAgIDAwMDBAMDBAUIBQUEBAUKBwcGCAwKDAwLCgsLDQ4SEA0OEQ4LCxAWEBETFBUV"
+        "FQwPFxgWFBgSFBUU/9sAQwEDBAQFBAUJBQUJFA0LDRQUFBQUFBQUFBQUFBQUFBQUFBQUFBQUFBQUFBQUFBQUFBQUFBQUFBQUFBQU"
+        "FBQUFBQU/8AAFAgAEAAQBAERAAIRAQMRAQQRAP/EABYAAQEBAAAAAAAAAAAAAAAAAAAICf/EABQQAQAAAAAAAAAAAAAAAAAAAAD/"
+        "xAAWAQEBAQAAAAAAAAAAAAAAAAAABwn/xAAUEQEAAAAAAAAAAAAAAAAAAAAA/9oADgQBAAIRAxEEAAA/AKIXNlU1TAAAAf/Z");
+}
+
+QByteArray undecodableJpeg()
+{
+    QByteArray jpeg = encoded(quarters(QSize(300, 200)), "jpeg");
+    jpeg[jpeg.indexOf("\xff\xc0") + 4] = 12;
+    return jpeg;
+}
+
+void store(const QString &path, const QByteArray &content)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
+        qFatal("cannot store %s", qPrintable(path));
+}
+
+QByteArray load(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+OrdinaryRights::OrdinaryRights()
+{
+    if (getuid() == 0 && seteuid(65534) != 0)
+        qFatal("cannot give up the rights of root");
+}
+
+OrdinaryRights::~OrdinaryRights()
+{
+    if (seteuid(getuid()) != 0)
+        qFatal("cannot take the rights back");
+}
+
+} // namespace samples

@@ -1,0 +1,58 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include <QtCore/QByteArray>
+#include <QtCore/QString>
+#include <QtGui/QImage>
+
+#include <array>
+
+/// Photos for tests, whose corners tell how they were turned and mirrored.
+namespace samples {
+
+/// The corners top left, top right, bottom left, bottom right of the picture as stored: red, green, blue,
+/// yellow.
+inline const QString storedCorners = QStringLiteral("RGBY");
+
+/// The same corners when a photo of an Exif orientation (1 to 8) is seen upright.
+inline const std::array<QString, 9> seenCorners{
+    QString(),
+    QStringLiteral("RGBY"), // upright
+    QStringLiteral("GRYB"), // mirrored
+    QStringLiteral("YBGR"), // upside down
+    QStringLiteral("BYRG"), // upside down and mirrored
+    QStringLiteral("RBGY"), // on its side and mirrored
+    QStringLiteral("BRYG"), // its top is on the right
+    QStringLiteral("YGBR"), // on its other side and mirrored
+    QStringLiteral("GYRB"), // its top is on the left
+};
+
+/// Four quarters in the colours of storedCorners.
+QImage quarters(const QSize &size);
+/// The colours of the four corners of an area of an image, that many pixels inside it; W is white, ? another
+/// one.
+QString cornersOf(const QImage &image, const QRectF &area, double inside);
+
+QByteArray encoded(const QImage &image, const char *format, bool progressive = false);
+/// A JPEG with an Exif block that holds an orientation, in either byte order.
+QByteArray withOrientation(const QByteArray &jpeg, int orientation, bool bigEndian = false);
+/// A red JPEG of 16 x 16 pixels in CMYK, inverted as photo programs store it.
+QByteArray redCmykJpeg();
+
+/// A JPEG whose headers are whole and whose pixels no decoder here reads: they have 12 bits per colour.
+QByteArray undecodableJpeg();
+
+void store(const QString &path, const QByteArray &content);
+QByteArray load(const QString &path);
+
+/// While it lives, the process has no more rights than any user, even in a test that root runs.
+class OrdinaryRights
+{
+public:
+    OrdinaryRights();
+    ~OrdinaryRights();
+};
+
+} // namespace samples
