@@ -1,0 +1,191 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "DialogSession.h"
+
+#include "CallbackObject.h"
+#include "ChoiceReceiver.h"
+
+#include <utility>
+
+namespace printdialog {
+
+namespace {
+
+const QString pageSizeKey = QStringLiteral("PageSize");
+
+QObject *objectOf(pdekit::PrintDialogPanel &panel)
+{
+    return dynamic_cast<QObject *>(&panel);
+}
+
+} // namespace
+
+DialogSession::DialogSession(const PrinterDescription &printer, PpdDocument ppd, PanelMode mode)
+    : printer_(printer)
+    , ppd_(std::move(ppd))
+    , mode_(mode)
+    , marker_(ppd_)
+    , sessionPrinter_(printer, ppd_)
+{
+    if (mode == PanelMode::Constraint) {
+        callback_ = std::make_shared<ConstrainingCallbackObject>(
+            ppd_, sessionPrinter_, ticket_,
+            [this](const QString &key, const QString &choice) { return rule(key, choice); });
+    } else {
+        callback_ = std::make_shared<CallbackObject>(ppd_, sessionPrinter_, ticket_);
+    }
+}
+
+DialogSession::~DialogSession() = default;
+
+std::optional<Failure<PluginFault>> DialogSession::loadPanels()
+{
+    const std::optional<QString> name = ppd_.requestedBundle();
+    if (!name)
+        return std::nullopt;
+    const auto plugin = PluginLoader::load(*name);
+    if (!plugin)
+        return plugin.failure();
+    auto panels = PluginLoader::panels(*plugin, callback_);
+    if (!panels)
+        return panels.failure();
+    panels_ = *std::move(panels);
+    for (const pdekit::PanelPointer &panel : panels_)
+        panel->restoreValuesAndReturnError(nullptr);
+    return std::nullopt;
+}
+
+// Choices
+
+// A panel's question, in constraint-handling mode.
+bool DialogSession::rule(const QString &key, const QString &choice)
+{
+    lastRuling_ = marker_.mark(key, choice);
+    const bool let = lastRuling_.verdict == Verdict::Accepted || lastRuling_.verdict == Verdict::Incomplete;
+    if (let)
+        Q_EMIT choiceMade(key);
+    else
+        Q_EMIT choiceRefused(lastRuling_);
+    return let;
+}
+
+Ruling DialogSession::choose(const QString &key, const QString &choice)
+{
+    Ruling ruling = marker_.check(key, choice);
+    // The tickets' choices are weighed against each other when the job is made, since only then all of them
+    // are there.
+    if (mode_ == PanelMode::Settings && ruling.verdict == Verdict::Conflict)
+        ruling.verdict = Verdict::Accepted;
+    if (ruling.verdict != Verdict::Accepted)
+        return ruling;
+    if (pdekit::PrintDialogPanel *panel = panelFor(key))
+        return chooseThroughPanel(*panel, ruling);
+    return chooseDirectly(ruling);
+}
+
+Ruling DialogSession::chooseThroughPanel(pdekit::PrintDialogPanel &panel, const Ruling &offered)
+{
+    auto *receiver = qobject_cast<pdekit::ChoiceReceiver *>(objectOf(panel));
+    if (!receiver) {
+        const Ruling ruling = chooseDirectly(offered);
+        panel.PPDOptionKeyValueDidChangePpdChoice(offered.key, offered.choice);
+        return ruling;
+    }
+    lastRuling_ = offered;
+    receiver->markChoiceForPPDOptionKeyFromSender(offered.choice, offered.key, nullptr);
+    return lastRuling_;
+}
+
+Ruling DialogSession::chooseDirectly(const Ruling &offered)
+{
+    const Ruling ruling =
+        mode_ == PanelMode::Constraint ? marker_.mark(offered.key, offered.choice) : offered;
+    if (ruling.verdict != Verdict::Accepted)
+        return ruling;
+    if (mode_ == PanelMode::Settings)
+        ticket_.options().insert(offered.key, offered.choice);
+    if (!directKeys_.contains(offered.key))
+        directKeys_.append(offered.key);
+    Q_EMIT choiceMade(offered.key);
+    return ruling;
+}
+
+void DialogSession::restoreChoices(const QMap<QString, QString> &choices)
+{
+    // One choice may be in another's way until a third is made, so go round as long as that helps.
+    QMap<QString, QString> waiting = choices;
+    for (qsizetype before = 0; before != waiting.size();) {
+        before = waiting.size();
+        for (auto entry = waiting.begin(); entry != waiting.end();) {
+            const bool isMade = choose(entry.key(), entry.value()).verdict == Verdict::Accepted;
+            entry = isMade ? waiting.erase(entry) : std::next(entry);
+        }
+    }
+}
+
+pdekit::PrintDialogPanel *DialogSession::panelFor(const QString &key) const
+{
+    for (const pdekit::PanelPointer &panel : panels_) {
+        if (panel->supportedPPDOptionKeys().contains(key))
+            return panel.get();
+    }
+    return nullptr;
+}
+
+std::optional<QString> DialogSession::chosen(const QString &key) const
+{
+    if (mode_ == PanelMode::Settings) {
+        const auto entry = ticket_.options().constFind(key);
+        if (entry != ticket_.options().cend())
+            return *entry;
+    }
+    return ppd_.markedChoice(key);
+}
+
+// The job
+
+QList<QPair<QString, QString>> DialogSession::summary()
+{
+    QList<QPair<QString, QString>> entries;
+    for (const pdekit::PanelPointer &panel : panels_) {
+        const auto info = panel->summaryInfo();
+        if (!info)
+            continue;
+        for (auto entry = info->cbegin(); entry != info->cend(); ++entry)
+            entries.append({entry.key(), entry.value()});
+    }
+    return entries;
+}
+
+QStringList DialogSession::jobKeys() const
+{
+    QStringList keys = {pageSizeKey};
+    for (const pdekit::PanelPointer &panel : panels_)
+        keys += panel->supportedPPDOptionKeys();
+    keys += directKeys_;
+    keys.removeDuplicates();
+    return keys;
+}
+
+Result<JobOptions, Verdict> DialogSession::jobOptions()
+{
+    for (const pdekit::PanelPointer &panel : panels_)
+        panel->saveValuesAndReturnError(nullptr);
+    JobOptions job;
+    if (mode_ == PanelMode::Settings) {
+        const QList<Ruling> unmarked = marker_.markTogether(ticket_.options());
+        for (const Ruling &ruling : unmarked)
+            job.dropped.append(ruling.text);
+    }
+    if (const std::optional<Ruling> conflict = marker_.firstConflict())
+        return Failure<Verdict>{conflict->verdict, conflict->text, {}};
+    const QStringList keys = jobKeys();
+    for (const QString &key : keys) {
+        if (const std::optional<QString> choice = ppd_.markedChoice(key))
+            job.options.insert(key, *choice);
+    }
+    return job;
+}
+
+} // namespace printdialog

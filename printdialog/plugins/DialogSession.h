@@ -1,0 +1,90 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include "ChoiceMarker.h"
+#include "PluginLoader.h"
+#include "PpdDocument.h"
+#include "PrintDialogPlugin.h"
+#include "PrinterDescription.h"
+#include "SessionPrinter.h"
+#include "SessionTicket.h"
+
+#include <QtCore/QMap>
+#include <QtCore/QObject>
+
+namespace printdialog {
+
+/// What is sent with a job.
+struct JobOptions
+{
+    QMap<QString, QString> options; ///< option keyword to choice keyword, each one the PPD's
+    QStringList dropped;            ///< a sentence for each recorded choice that is none of the PPD's
+};
+
+/// One opened printer: its PPD, its panels, and the choices made for the next job. The print system that the
+/// panels talk to. Main thread only.
+class DialogSession : public QObject
+{
+    Q_OBJECT
+
+public:
+    DialogSession(const PrinterDescription &printer, PpdDocument ppd, PanelMode mode);
+    ~DialogSession() override;
+
+    const PrinterDescription &printer() const { return printer_; }
+    const PpdDocument &ppd() const { return ppd_; }
+    PanelMode mode() const { return mode_; }
+
+    /// Loads the panels that the PPD asks for, and restores them. Without them the session prints all the
+    /// same. Nothing when the PPD asks for none or all went well.
+    std::optional<Failure<PluginFault>> loadPanels();
+    const pdekit::PanelList &panels() const { return panels_; }
+
+    /// Makes a choice as the user would: through the panel that supports the option, else with the print
+    /// system itself. `choice` may be any text that stands for one of the option's choices. A choice that is
+    /// refused leaves everything as it was.
+    Ruling choose(const QString &key, const QString &choice);
+
+    /// Makes the choices that the PPD still has and allows together, in whatever order that takes; the others
+    /// are left out. For choices that were kept from an earlier time.
+    void restoreChoices(const QMap<QString, QString> &choices);
+
+    /// The job's choice of an option: what is recorded for it, else what is marked in the PPD.
+    std::optional<QString> chosen(const QString &key) const;
+
+    /// The panels' entries, in the panels' order.
+    QList<QPair<QString, QString>> summary();
+
+    /// Saves the panels, and checks what they and the user have chosen against the PPD: the choice of every
+    /// option that a panel supports, the page size, and whatever else was chosen. Fails when choices stand in
+    /// each other's way, or the page size is none of the PPD's.
+    Result<JobOptions, Verdict> jobOptions();
+
+Q_SIGNALS:
+    /// The print system has refused a choice of the user's.
+    void choiceRefused(const printdialog::Ruling &ruling);
+    /// A choice of the option has been made.
+    void choiceMade(const QString &key);
+
+private:
+    bool rule(const QString &key, const QString &choice);
+    Ruling chooseThroughPanel(pdekit::PrintDialogPanel &panel, const Ruling &offered);
+    Ruling chooseDirectly(const Ruling &offered);
+    pdekit::PrintDialogPanel *panelFor(const QString &key) const;
+    QStringList jobKeys() const;
+
+    PrinterDescription printer_;
+    PpdDocument ppd_;
+    PanelMode mode_;
+    ChoiceMarker marker_;
+    SessionTicket ticket_;
+    SessionPrinter sessionPrinter_;
+    pdekit::HostInfo callback_;
+    pdekit::PanelList panels_; ///< after what they are made from, so that they go first
+    QStringList directKeys_;   ///< options chosen that no panel supports
+    Ruling lastRuling_;
+};
+
+} // namespace printdialog

@@ -1,0 +1,130 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "PluginLoader.h"
+
+#include "CorvelPaths.h"
+
+#include <QtCore/QCoreApplication>
+#include <QtCore/QDir>
+#include <QtCore/QFileInfo>
+#include <QtCore/QJsonObject>
+#include <QtCore/QPluginLoader>
+
+namespace printdialog {
+
+namespace {
+
+QString tr(const char *text)
+{
+    return QCoreApplication::translate("PluginLoader", text);
+}
+
+Failure<PluginFault> failure(PluginFault fault, const QString &text, const QString &detail = {})
+{
+    return {fault, text, detail};
+}
+
+bool isPlainName(const QString &name)
+{
+    return name.endsWith(QLatin1String(".bundle")) && !name.startsWith(QLatin1Char('.')) &&
+           !name.contains(QLatin1Char('/')) && !name.contains(QChar::Null);
+}
+
+std::optional<QString> findBundle(const QString &name)
+{
+    const QStringList folders = PluginLoader::folders();
+    for (const QString &folder : folders) {
+        const QString path = QDir(folder).absoluteFilePath(name);
+        if (QFileInfo(path).isDir())
+            return path;
+    }
+    return std::nullopt;
+}
+
+QString reasonText(pdekit::BundleFault fault)
+{
+    switch (fault) {
+    case pdekit::BundleFault::NotFound:
+        return tr("it is not a folder");
+    case pdekit::BundleFault::NoInfo:
+        return tr("it has no readable Contents/Info.json");
+    case pdekit::BundleFault::InfoTooLarge:
+        return tr("its Info.json is larger than 64 KiB");
+    case pdekit::BundleFault::BrokenInfo:
+        return tr("its Info.json is not a JSON object");
+    case pdekit::BundleFault::NoIdentifier:
+        return tr("its Info.json has no \"CFBundleIdentifier\"");
+    case pdekit::BundleFault::BadExecutable:
+        return tr("the \"CFBundleExecutable\" of its Info.json is not a plain file name");
+    }
+    return {};
+}
+
+Failure<PluginFault> unusable(PluginFault fault, const QString &path, const QString &reason)
+{
+    return failure(fault,
+                   tr("The plug-in bundle \"%1\" cannot be used: %2. Install it again.").arg(path, reason));
+}
+
+} // namespace
+
+QStringList PluginLoader::folders()
+{
+    QStringList folders = qEnvironmentVariable("CORVEL_PDE_PATH").split(QLatin1Char(':'), Qt::SkipEmptyParts);
+    folders.append(QStringLiteral(CORVEL_PDE_INSTALL_DIR));
+    return folders;
+}
+
+Result<LoadedPlugin, PluginFault> PluginLoader::load(const QString &name)
+{
+    if (!isPlainName(name)) {
+        return failure(PluginFault::BadName,
+                       tr("The printer's PPD asks for the plug-in bundle \"%1\", which is no bundle's name. "
+                          "Use a PPD made for this printer.")
+                           .arg(name));
+    }
+    const std::optional<QString> path = findBundle(name);
+    if (!path) {
+        return failure(PluginFault::NotFound,
+                       tr("The plug-in bundle \"%1\" was not found in %2. Install it there.")
+                           .arg(name, folders().join(QLatin1String(", "))));
+    }
+    pdekit::BundleFault fault = {};
+    std::optional<pdekit::Bundle> bundle = pdekit::Bundle::open(*path, &fault);
+    if (!bundle)
+        return unusable(PluginFault::BrokenInfo, *path, reasonText(fault));
+
+    const QString module = bundle->executablePath() + QLatin1String(".so");
+    if (!QFileInfo(module).isFile())
+        return unusable(PluginFault::NotLoadable, *path, tr("it has no module \"%1\"").arg(module));
+    QPluginLoader loader(module);
+    loader.setLoadHints(QLibrary::PreventUnloadHint);
+    if (loader.metaData().value(QLatin1String("IID")).toString() != QLatin1String(PrintDialogPlugin_iid))
+        return unusable(PluginFault::NotAPlugin, *path, tr("its module is no print-dialog plug-in"));
+    QObject *root = loader.instance();
+    if (!root)
+        return unusable(PluginFault::NotLoadable, *path, loader.errorString());
+    auto *plugin = qobject_cast<pdekit::PrintDialogPlugin *>(root);
+    if (!plugin)
+        return unusable(PluginFault::NotAPlugin, *path, tr("its module is no print-dialog plug-in"));
+    if (!plugin->initWithBundle(*bundle)) {
+        return unusable(PluginFault::Refused, *path,
+                        tr("its identifier \"%1\" is not the one that its module was built for")
+                            .arg(bundle->identifier()));
+    }
+    return LoadedPlugin{*bundle, plugin};
+}
+
+Result<pdekit::PanelList, PluginFault> PluginLoader::panels(const LoadedPlugin &plugin,
+                                                            const pdekit::HostInfo &hostInfo)
+{
+    auto panels =
+        plugin.plugin->PDEPanelsForTypeWithHostInfo(QString::fromLatin1(pdekit::PrinterPanelsType), hostInfo);
+    if (!panels || panels->empty())
+        return unusable(PluginFault::NoPanels, plugin.bundle.path(),
+                        tr("it offers no panel for this printer"));
+    return *std::move(panels);
+}
+
+} // namespace printdialog

@@ -1,0 +1,49 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include "Bundle.h"
+#include "PrintDialogPlugin.h"
+#include "Result.h"
+
+#include <QtCore/QStringList>
+
+namespace printdialog {
+
+/// Why a plug-in offers no panels.
+enum class PluginFault {
+    BadName,     ///< the name asked for is not a plain file name
+    NotFound,    ///< no plug-in folder holds a bundle of that name
+    BrokenInfo,  ///< its Info.json is missing, too large, not JSON, or lacks what a bundle needs
+    NotLoadable, ///< its module is missing or the dynamic linker refuses it
+    NotAPlugin,  ///< its module is no print-dialog plug-in
+    Refused,     ///< the plug-in does not take the bundle for its own
+    NoPanels,    ///< it offers no panel for this printer
+};
+
+/// A plug-in in its bundle.
+struct LoadedPlugin
+{
+    pdekit::Bundle bundle;
+    pdekit::PrintDialogPlugin *plugin; ///< Lives as long as the process: a plug-in is never unloaded.
+};
+
+/// Finds and loads plug-in bundles. Main thread only.
+class PluginLoader
+{
+public:
+    /// The folders that are searched, in order: those named by the environment variable CORVEL_PDE_PATH
+    /// (separated by colons; for development), then the installed one.
+    static QStringList folders();
+
+    /// Loads the bundle `name` (a plain file name) from the first folder that has it. Its Info.json is
+    /// checked, and the metadata of its module, before any of its code runs.
+    static Result<LoadedPlugin, PluginFault> load(const QString &name);
+
+    /// The plug-in's panels over the callback object; at least one.
+    static Result<pdekit::PanelList, PluginFault> panels(const LoadedPlugin &plugin,
+                                                         const pdekit::HostInfo &hostInfo);
+};
+
+} // namespace printdialog

@@ -1,0 +1,25 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include <QtCore/QString>
+
+namespace printdialog {
+
+/// The printer that a session is for.
+struct PrinterDescription
+{
+    QString name;      ///< the queue's name, or that of the built-in printer
+    QString text;      ///< what people call it
+    QString deviceUri; ///< empty when it is not known
+    bool isBuiltIn = false;
+};
+
+/// How the dialog works with its panels.
+enum class PanelMode {
+    Constraint, ///< the dialog owns the PPD's marks and rules on each choice
+    Settings,   ///< the panels keep their choices in the job ticket, and the dialog checks it before printing
+};
+
+} // namespace printdialog

@@ -1,0 +1,28 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include "Printer.h"
+#include "PrinterDescription.h"
+
+namespace printdialog {
+
+class PpdDocument;
+
+/// What the panels learn of the printer. The PPD is borrowed and must outlive it.
+class SessionPrinter final : public pdekit::Printer
+{
+public:
+    SessionPrinter(const PrinterDescription &printer, const PpdDocument &ppd);
+
+    std::optional<QUrl> PMPrinterCopyDescriptionURL(const QString &type) override;
+    std::optional<QByteArray> PMCopyPPDData(const QUrl &url) override;
+    std::optional<pdekit::URLReference> PMPrinterCopyDeviceURI() override;
+
+private:
+    PrinterDescription printer_;
+    const PpdDocument &ppd_;
+};
+
+} // namespace printdialog

@@ -1,0 +1,109 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "PanelTabs.h"
+
+#include "DialogSession.h"
+#include "PlatformException.h"
+#include "PrintDialogPanel.h"
+#include "SummaryPage.h"
+#include "SystemLog.h"
+
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QVBoxLayout>
+
+namespace printdialog {
+
+namespace {
+
+QWidget *viewOf(pdekit::PrintDialogPanel &panel)
+{
+    try {
+        return panel.panelView();
+    } catch (const pdekit::PlatformException &exception) {
+        pdekit::systemLog(exception.description());
+        return nullptr;
+    }
+}
+
+} // namespace
+
+PanelTabs::PanelTabs(QWidget *parent)
+    : QTabWidget(parent)
+    , summary_(new SummaryPage(this))
+{
+    summary_->hide();
+    connect(this, &QTabWidget::currentChanged, this, &PanelTabs::showPage);
+}
+
+void PanelTabs::setSession(DialogSession *session)
+{
+    const QSignalBlocker blocker(this);
+    session_ = session;
+    clear();
+    for (const Page &page : std::as_const(pages_))
+        delete page.holder;
+    pages_.clear();
+    if (!session)
+        return;
+    for (const pdekit::PanelPointer &panel : session->panels()) {
+        auto *holder = new QWidget;
+        auto *layout = new QVBoxLayout(holder);
+        layout->setContentsMargins(8, 8, 8, 8);
+        pages_.append({panel.get(), holder});
+        addTab(holder, panel->panelName().value_or(tr("Options")));
+    }
+    addTab(summary_, tr("Summary"));
+    setCurrentIndex(0);
+    showPage(0);
+}
+
+pdekit::PrintDialogPanel *PanelTabs::currentPanel() const
+{
+    const int page = currentIndex();
+    return page >= 0 && page < pages_.size() ? pages_.at(page).panel : nullptr;
+}
+
+QString PanelTabs::kindSuffix(int page) const
+{
+    if (page < 0 || page >= pages_.size())
+        return {};
+    return pages_.at(page).panel->panelKind().value_or(QString()).section(QLatin1Char('.'), -1);
+}
+
+void PanelTabs::showPage(int index)
+{
+    if (!session_)
+        return;
+    if (index >= 0 && index < pages_.size())
+        fillPage(pages_[index]);
+    else
+        summary_->setEntries(session_->summary());
+}
+
+// Each panel is told once for each opening of the dialog that it is about to be shown: one that moves its
+// controls does so each time it is told.
+void PanelTabs::fillPage(Page &page)
+{
+    if (page.wasShown)
+        return;
+    page.wasShown = true;
+    if (QWidget *view = viewOf(*page.panel)) {
+        page.holder->layout()->addWidget(view);
+        page.panel->willShow();
+        view->show();
+        return;
+    }
+    const QString text =
+        tr("The panel \"%1\" cannot be shown: its form is missing from the plug-in bundle or damaged. "
+           "Install the bundle again. Everything else works.")
+            .arg(page.panel->panelName().value_or(QString()));
+    auto *label = new QLabel(text, page.holder);
+    label->setTextFormat(Qt::PlainText);
+    label->setWordWrap(true);
+    label->setAlignment(Qt::AlignTop | Qt::AlignLeading);
+    page.holder->layout()->addWidget(label);
+    Q_EMIT panelFailed(text);
+}
+
+} // namespace printdialog

@@ -1,0 +1,53 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include <QtWidgets/QTabWidget>
+
+namespace pdekit {
+class PrintDialogPanel;
+}
+
+namespace printdialog {
+
+class DialogSession;
+class SummaryPage;
+
+/// The pages of one session: a tab for each panel in the plug-in's order, and the summary. A panel's view is
+/// loaded when its page is first shown.
+class PanelTabs : public QTabWidget
+{
+    Q_OBJECT
+
+public:
+    explicit PanelTabs(QWidget *parent = nullptr);
+
+    /// Shows the session, which must outlive this or the next call; null shows nothing.
+    void setSession(DialogSession *session);
+    /// The panel whose page is shown; null for the summary.
+    pdekit::PrintDialogPanel *currentPanel() const;
+    /// The last component of the kind of the panel on the page, such as "coloradjust"; empty for the summary.
+    QString kindSuffix(int page) const;
+
+Q_SIGNALS:
+    /// A panel's view cannot be shown: one sentence for people.
+    void panelFailed(const QString &text);
+
+private:
+    struct Page
+    {
+        pdekit::PrintDialogPanel *panel;
+        QWidget *holder;
+        bool wasShown = false;
+    };
+
+    void showPage(int page);
+    void fillPage(Page &page);
+
+    DialogSession *session_ = nullptr;
+    QList<Page> pages_;
+    SummaryPage *summary_;
+};
+
+} // namespace printdialog

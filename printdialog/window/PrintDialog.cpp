@@ -1,0 +1,147 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "PrintDialog.h"
+
+#include "DialogSession.h"
+#include "PpdFetcher.h"
+#include "PrintWorker.h"
+#include "QueueSettings.h"
+#include "SessionOpening.h"
+#include "ui_PrintDialog.h"
+
+#include <QtCore/QDir>
+#include <QtGui/QKeyEvent>
+#include <QtWidgets/QFileDialog>
+#include <QtWidgets/QMessageBox>
+
+namespace printdialog {
+
+namespace {
+
+const QString pageSizeKey = QStringLiteral("PageSize");
+
+} // namespace
+
+PrintDialog::PrintDialog(const PrintDialogSetup &setup, QWidget *parent)
+    : QDialog(parent)
+    , setup_(setup)
+    , ui_(std::make_unique<Ui::PrintDialog>())
+    , fetcher_(new PpdFetcher(this))
+    , worker_(new PrintWorker(this))
+{
+    ui_->setupUi(this);
+    ui_->folder->setText(QDir::toNativeSeparators(QDir(setup.outputFolder).absolutePath()));
+    connect(ui_->printer, &PrinterChooser::printerChosen, this, &PrintDialog::openPrinter);
+    connect(ui_->printer, &PrinterChooser::searchFailed, this,
+            [this](const QString &text) { ui_->message->show(MessageBar::Kind::Error, text); });
+    connect(ui_->printer, &PrinterChooser::currentRemoved, this,
+            [this](const QString &text) { ui_->message->show(MessageBar::Kind::Warning, text); });
+    connect(ui_->pageSize, &QComboBox::activated, this, &PrintDialog::choosePageSize);
+    connect(ui_->browse, &QPushButton::clicked, this, &PrintDialog::browseFolder);
+    connect(ui_->panels, &PanelTabs::panelFailed, this,
+            [this](const QString &text) { ui_->message->show(MessageBar::Kind::Error, text); });
+    connect(ui_->help, &QPushButton::clicked, this, &PrintDialog::showHelp);
+    connect(ui_->save, &QPushButton::clicked, this, &PrintDialog::saveSettings);
+    connect(ui_->cancel, &QPushButton::clicked, this, &PrintDialog::reject);
+    connect(ui_->print, &QPushButton::clicked, this, &PrintDialog::print);
+    connect(fetcher_, &PpdFetcher::fetched, this, &PrintDialog::takePpd);
+    connect(fetcher_, &PpdFetcher::failed, this,
+            [this](quint64 /*number*/, const QString &text) { closeSession(text); });
+    connect(worker_, &PrintWorker::finished, this, &PrintDialog::finishPrinting);
+    showPhoto();
+    openPrinter(ui_->printer->current());
+}
+
+PrintDialog::~PrintDialog()
+{
+    ui_->panels->setSession(nullptr);
+}
+
+void PrintDialog::searchPrinters()
+{
+    if (!setup_.ppdFile)
+        ui_->printer->search(setup_.printer);
+}
+
+QString PrintDialog::message() const
+{
+    return ui_->message->text();
+}
+
+int PrintDialog::pageCount() const
+{
+    return ui_->panels->count();
+}
+
+void PrintDialog::showPage(int page)
+{
+    ui_->panels->setCurrentIndex(page);
+}
+
+QString PrintDialog::pageKindSuffix(int page) const
+{
+    return ui_->panels->kindSuffix(page);
+}
+
+bool PrintDialog::isPreviewReady() const
+{
+    return setup_.photos.isEmpty() || ui_->preview->isReady();
+}
+
+void PrintDialog::showPhoto()
+{
+    const auto count = setup_.photos.size();
+    if (count == 0) {
+        ui_->photoLabel->setText(tr("Start corvel-print with a photo to print it."));
+        setWindowTitle(tr("Print Photo"));
+        return;
+    }
+    const Photo &first = setup_.photos.constFirst();
+    ui_->preview->setPhoto(first);
+    ui_->photoLabel->setText(
+        count == 1 ? first.fileName()
+                   : tr("%1 and %n more", nullptr, static_cast<int>(count) - 1).arg(first.fileName()));
+    setWindowTitle(tr("Print %1").arg(first.fileName()));
+}
+
+void PrintDialog::browseFolder()
+{
+    const QString folder =
+        QFileDialog::getExistingDirectory(this, tr("Folder for Printed Files"), ui_->folder->text());
+    if (!folder.isEmpty())
+        ui_->folder->setText(QDir::toNativeSeparators(folder));
+}
+
+void PrintDialog::showHelp()
+{
+    pdekit::PrintDialogPanel *panel = ui_->panels->currentPanel();
+    if (panel && !panel->shouldShowHelp())
+        return;
+    QMessageBox::information(
+        this, tr("Help"),
+        tr("Choose a printer and a paper size, adjust the photo on the pages of the printer, and "
+           "press Print. The built-in printer leaves a PDF file and a job ticket in the folder."));
+}
+
+// Ctrl+P prints, as in every program; Enter does so through the default button.
+void PrintDialog::keyPressEvent(QKeyEvent *event)
+{
+    if (event->matches(QKeySequence::Print) && ui_->print->isEnabled())
+        print();
+    else
+        QDialog::keyPressEvent(event);
+}
+
+void PrintDialog::reject()
+{
+    if (worker_->isBusy()) {
+        ui_->message->show(MessageBar::Kind::Warning,
+                           tr("Printing is under way. The window closes when it is done."));
+        connect(worker_, &PrintWorker::finished, this, [this] { QDialog::reject(); });
+        return;
+    }
+    QDialog::reject();
+}
+
+} // namespace printdialog

@@ -1,0 +1,109 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include "Photo.h"
+#include "PrinterDescription.h"
+#include "Queue.h"
+
+#include <QtCore/QList>
+#include <QtCore/QPair>
+#include <QtWidgets/QDialog>
+
+#include <memory>
+#include <optional>
+
+namespace Ui {
+class PrintDialog;
+}
+
+namespace printdialog {
+
+class DialogSession;
+class PpdFetcher;
+class PrintWorker;
+struct PrintJob;
+
+/// What a print dialog is opened with.
+struct PrintDialogSetup
+{
+    QList<Photo> photos;
+    PanelMode mode = PanelMode::Constraint;
+    std::optional<QString> printer;         ///< a queue's id; without it the user's default
+    std::optional<QString> ppdFile;         ///< for the built-in printer, instead of its own
+    QList<QPair<QString, QString>> options; ///< choices to begin with, in order
+    QString outputFolder;                   ///< where the built-in printer leaves its files
+};
+
+/// The print dialog: the photo on its page, the printer, the panels of the printer's plug-in. It works at
+/// once with the built-in printer; whatever a print server has to say comes later and blocks nothing.
+class PrintDialog : public QDialog
+{
+    Q_OBJECT
+
+public:
+    explicit PrintDialog(const PrintDialogSetup &setup, QWidget *parent = nullptr);
+    ~PrintDialog() override;
+
+    /// Starts to look for the print server's queues; until then there is the built-in printer alone.
+    void searchPrinters();
+
+    /// The id of the printer that is shown.
+    QString printer() const { return queue_.id(); }
+    /// Whether the printer's options are there.
+    bool isReady() const { return session_ != nullptr; }
+    /// Why it cannot print; empty when it can.
+    QString whyNotReady() const { return whyNotReady_; }
+    /// What the user is being told; empty when nothing is.
+    QString message() const;
+
+    int pageCount() const;
+    void showPage(int page);
+    /// See PanelTabs::kindSuffix.
+    QString pageKindSuffix(int page) const;
+    /// Whether the photo's preview is there.
+    bool isPreviewReady() const;
+
+public Q_SLOTS:
+    void print();
+    void saveSettings();
+    void reject() override;
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+
+private:
+    // The printer
+    void openPrinter(const Queue &queue);
+    void takePpd(quint64 number, const QByteArray &ppd);
+    void takeSession(std::unique_ptr<DialogSession> session);
+    void closeSession(const QString &reason);
+    void applySavedSettings();
+    void applyOptions();
+
+    // The page
+    void fillPageSizes();
+    void choosePageSize(int index);
+    void showPageSize();
+
+    // Printing
+    void finishPrinting(const QStringList &printed, const QString &failure);
+    std::optional<PrintJob> makeJob(QStringList &dropped);
+    void updateButtons();
+
+    void showPhoto();
+    void browseFolder();
+    void showHelp();
+
+    PrintDialogSetup setup_;
+    std::unique_ptr<Ui::PrintDialog> ui_;
+    std::unique_ptr<DialogSession> session_;
+    PpdFetcher *fetcher_;
+    PrintWorker *worker_;
+    Queue queue_;         ///< the printer that is shown
+    QString whyNotReady_; ///< why Print is off; empty when it is on
+    bool optionsApplied_ = false;
+};
+
+} // namespace printdialog

@@ -1,0 +1,127 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "DialogSession.h"
+#include "PpdFetcher.h"
+#include "PrintDialog.h"
+#include "QueueSettings.h"
+#include "SessionOpening.h"
+#include "ui_PrintDialog.h"
+
+namespace printdialog {
+
+namespace {
+
+const QString pageSizeKey = QStringLiteral("PageSize");
+
+} // namespace
+
+void PrintDialog::openPrinter(const Queue &queue)
+{
+    queue_ = queue;
+    ui_->message->clear();
+    ui_->folderLabel->setVisible(queue.isBuiltIn);
+    ui_->folder->setVisible(queue.isBuiltIn);
+    ui_->browse->setVisible(queue.isBuiltIn);
+    if (!queue.isBuiltIn) {
+        closeSession({});
+        whyNotReady_ = tr("The options of \"%1\" are being fetched from the print server.").arg(queue.id());
+        updateButtons();
+        fetcher_->fetch(queue.id());
+        return;
+    }
+    fetcher_->cancel();
+    SessionResult session = openBuiltInPrinter(setup_.ppdFile, setup_.mode);
+    if (session)
+        takeSession(*std::move(session));
+    else
+        closeSession(session.failure().text);
+}
+
+void PrintDialog::takePpd(quint64 /*number*/, const QByteArray &ppd)
+{
+    SessionResult session = openQueue(queue_, ppd, setup_.mode);
+    if (session)
+        takeSession(*std::move(session));
+    else
+        closeSession(session.failure().text);
+}
+
+void PrintDialog::closeSession(const QString &reason)
+{
+    ui_->panels->setSession(nullptr);
+    session_.reset();
+    whyNotReady_ = reason;
+    ui_->pageSize->clear();
+    if (!reason.isEmpty())
+        ui_->message->show(MessageBar::Kind::Error, reason);
+    updateButtons();
+}
+
+void PrintDialog::takeSession(std::unique_ptr<DialogSession> session)
+{
+    ui_->panels->setSession(nullptr);
+    session_ = std::move(session);
+    whyNotReady_.clear();
+    connect(session_.get(), &DialogSession::choiceRefused, this,
+            [this](const Ruling &ruling) { ui_->message->show(MessageBar::Kind::Warning, ruling.text); });
+    connect(session_.get(), &DialogSession::choiceMade, this, [this](const QString &key) {
+        ui_->message->clear();
+        if (key == pageSizeKey)
+            showPageSize();
+    });
+    const auto noPanels = session_->loadPanels();
+    session_->restoreChoices(QueueSettings::load(session_->printer().name));
+    applyOptions();
+    fillPageSizes();
+    ui_->panels->setSession(session_.get());
+    if (noPanels)
+        ui_->message->show(MessageBar::Kind::Error, noPanels->text);
+    else if (session_->panels().empty())
+        ui_->message->show(MessageBar::Kind::Information,
+                           tr("This printer has no panels of its own; it prints with its defaults."));
+    updateButtons();
+}
+
+// The command line's options are the first printer's; a printer chosen later has choices of its own.
+void PrintDialog::applyOptions()
+{
+    if (optionsApplied_)
+        return;
+    optionsApplied_ = true;
+    for (const auto &[key, choice] : std::as_const(setup_.options)) {
+        const Ruling ruling = session_->choose(key, choice);
+        if (ruling.verdict != Verdict::Accepted)
+            ui_->message->show(MessageBar::Kind::Warning, ruling.text);
+    }
+}
+
+// The page
+
+void PrintDialog::fillPageSizes()
+{
+    ui_->pageSize->clear();
+    for (const PageSize &size : session_->ppd().pageSizes())
+        ui_->pageSize->addItem(size.text, size.keyword);
+    showPageSize();
+}
+
+void PrintDialog::choosePageSize(int index)
+{
+    if (!session_)
+        return;
+    const Ruling ruling = session_->choose(pageSizeKey, ui_->pageSize->itemData(index).toString());
+    if (ruling.verdict != Verdict::Accepted)
+        ui_->message->show(MessageBar::Kind::Warning, ruling.text);
+    showPageSize();
+}
+
+void PrintDialog::showPageSize()
+{
+    const QString chosen = session_->chosen(pageSizeKey).value_or(QString());
+    ui_->pageSize->setCurrentIndex(ui_->pageSize->findData(chosen));
+    if (const auto size = session_->ppd().pageSize(chosen))
+        ui_->preview->setPage({size->points, size->imageable});
+}
+
+} // namespace printdialog

@@ -1,0 +1,96 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "DialogSession.h"
+#include "PrintDialog.h"
+#include "PrintWorker.h"
+#include "QueueSettings.h"
+#include "ui_PrintDialog.h"
+
+#include <QtCore/QFileInfo>
+
+namespace printdialog {
+
+void PrintDialog::updateButtons()
+{
+    QString reason = whyNotReady_;
+    if (reason.isEmpty() && setup_.photos.isEmpty())
+        reason = tr("There is no photo to print.");
+    if (reason.isEmpty() && worker_->isBusy())
+        reason = tr("Printing is under way.");
+    ui_->print->setEnabled(reason.isEmpty());
+    ui_->print->setToolTip(reason);
+    ui_->save->setEnabled(session_ != nullptr);
+}
+
+std::optional<PrintJob> PrintDialog::makeJob(QStringList &dropped)
+{
+    const auto options = session_->jobOptions();
+    if (!options) {
+        ui_->message->show(MessageBar::Kind::Warning, options.failure().text);
+        return std::nullopt;
+    }
+    dropped = options->dropped;
+    const auto size = session_->ppd().pageSize(options->options.value(QStringLiteral("PageSize")));
+    if (!size) {
+        ui_->message->show(MessageBar::Kind::Warning, tr("No paper size is chosen. Choose one."));
+        return std::nullopt;
+    }
+    PrintJob job;
+    job.printer = session_->printer().name;
+    job.page = {size->points, size->imageable};
+    job.options = options->options;
+    job.copies = ui_->copies->value();
+    for (const auto &[option, choice] : session_->summary())
+        job.summary.insert(option, choice);
+    return job;
+}
+
+void PrintDialog::print()
+{
+    if (!session_ || worker_->isBusy() || setup_.photos.isEmpty())
+        return;
+    QStringList dropped;
+    const std::optional<PrintJob> job = makeJob(dropped);
+    if (!job)
+        return;
+    ui_->message->show(dropped.isEmpty() ? MessageBar::Kind::Information : MessageBar::Kind::Warning,
+                       (QStringList(tr("Printing…")) + dropped).join(QLatin1Char('\n')));
+    PrintTarget target;
+    if (session_->printer().isBuiltIn)
+        target.outputFolder = ui_->folder->text();
+    else
+        target.queue = session_->printer().name;
+    worker_->print(setup_.photos, target, *job);
+    updateButtons();
+}
+
+void PrintDialog::finishPrinting(const QStringList &printed, const QString &failure)
+{
+    updateButtons();
+    if (!failure.isEmpty()) {
+        ui_->message->show(MessageBar::Kind::Error, (printed + QStringList(failure)).join(QLatin1Char('\n')));
+        return;
+    }
+    ui_->cancel->setText(tr("Close"));
+    ui_->message->showWithFolder(MessageBar::Kind::Information, printed.join(QLatin1Char('\n')),
+                                 queue_.isBuiltIn ? QFileInfo(ui_->folder->text()).absoluteFilePath()
+                                                  : QString());
+}
+
+void PrintDialog::saveSettings()
+{
+    const auto options = session_->jobOptions();
+    if (!options) {
+        ui_->message->show(MessageBar::Kind::Warning, options.failure().text);
+        return;
+    }
+    const auto saved = QueueSettings::save(session_->printer().name, options->options);
+    if (saved)
+        ui_->message->show(MessageBar::Kind::Information,
+                           tr("The settings are saved for \"%1\".").arg(session_->printer().text));
+    else
+        ui_->message->show(MessageBar::Kind::Error, saved.failure().text);
+}
+
+} // namespace printdialog
