@@ -1,0 +1,233 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "CommandLine.h"
+
+#include "Queue.h"
+
+#include <QtCore/QCommandLineParser>
+#include <QtCore/QCoreApplication>
+
+#include <array>
+
+namespace printdialog {
+
+namespace {
+
+struct Text
+{
+    Q_DECLARE_TR_FUNCTIONS(CommandLine)
+};
+
+struct OptionRow
+{
+    const char *names; ///< separated by commas, the short one first
+    const char *value; ///< how the help calls its value; null: it has none
+    const char *text;  ///< a line break is kept
+};
+
+constexpr std::array optionRows = {
+    OptionRow{"printer", "QUEUE",
+              QT_TRANSLATE_NOOP("CommandLine", "a print queue, or \"built-in\" for the built-in printer;\n"
+                                               "otherwise your default queue, or else the built-in printer")},
+    OptionRow{"ppd", "FILE",
+              QT_TRANSLATE_NOOP("CommandLine", "the built-in printer, with this PPD instead of its own")},
+    OptionRow{"mode", "constraint|settings",
+              QT_TRANSLATE_NOOP("CommandLine",
+                                "refuse a conflicting choice at once (constraint, the default),\n"
+                                "or check all choices together before printing (settings)")},
+    OptionRow{"o,option", "KEY=CHOICE",
+              QT_TRANSLATE_NOOP("CommandLine", "choose for an option of the printer; repeatable, in order")},
+    OptionRow{"output", "DIR",
+              QT_TRANSLATE_NOOP("CommandLine", "where the built-in printer leaves its files\n"
+                                               "(otherwise the current folder)")},
+    OptionRow{"batch", nullptr,
+              QT_TRANSLATE_NOOP("CommandLine",
+                                "no window: apply the options, print, exit; what the window has\n"
+                                "saved is not used, so that a script gets the same each time")},
+    OptionRow{"list-printers", nullptr,
+              QT_TRANSLATE_NOOP("CommandLine", "list the printers, one per line: name, description, state,\n"
+                                               "\"default\"; separated by tabs")},
+    OptionRow{"list-options", nullptr,
+              QT_TRANSLATE_NOOP("CommandLine", "list the printer's options with their choices and panels")},
+    OptionRow{"summary", nullptr,
+              QT_TRANSLATE_NOOP("CommandLine", "show what the panels say about the choices; with --batch\n"
+                                               "as well as printing")},
+    OptionRow{"json", nullptr, QT_TRANSLATE_NOOP("CommandLine", "lists and summary as JSON")},
+    OptionRow{"screenshot", "DIR",
+              QT_TRANSLATE_NOOP("CommandLine", "save a picture of the dialog with each panel in DIR, exit")},
+    OptionRow{"h,help", nullptr, QT_TRANSLATE_NOOP("CommandLine", "show this help")},
+    OptionRow{"v,version", nullptr, QT_TRANSLATE_NOOP("CommandLine", "show the version")},
+};
+
+QString latin1(const char *text)
+{
+    return QString::fromLatin1(text);
+}
+
+void addOptions(QCommandLineParser &parser)
+{
+    for (const OptionRow &row : optionRows)
+        parser.addOption({latin1(row.names).split(u','), QString(), latin1(row.value)});
+}
+
+using Fault = std::optional<Failure<UsageFault>>;
+
+Failure<UsageFault> fault(UsageFault reason, const QString &text)
+{
+    return {reason, text, {}};
+}
+
+/// A value may be anything but nothing at all.
+Fault readValue(const QCommandLineParser &parser, const char *name, std::optional<QString> &value)
+{
+    if (!parser.isSet(latin1(name)))
+        return std::nullopt;
+    value = parser.value(latin1(name));
+    if (value->isEmpty())
+        return fault(UsageFault::Syntax, Text::tr("The value of --%1 is empty.").arg(latin1(name)));
+    return std::nullopt;
+}
+
+Fault readMode(const QCommandLineParser &parser, PanelMode &mode)
+{
+    std::optional<QString> name;
+    if (Fault found = readValue(parser, "mode", name); found || !name)
+        return found;
+    if (*name != QLatin1String("constraint") && *name != QLatin1String("settings")) {
+        return fault(UsageFault::Value,
+                     Text::tr("There is no mode \"%1\"; it is either constraint or settings.").arg(*name));
+    }
+    mode = *name == QLatin1String("settings") ? PanelMode::Settings : PanelMode::Constraint;
+    return std::nullopt;
+}
+
+Fault readChoices(const QCommandLineParser &parser, QList<RequestedChoice> &choices)
+{
+    const QStringList values = parser.values(QStringLiteral("option"));
+    for (const QString &value : values) {
+        const qsizetype equals = value.indexOf(u'=');
+        if (equals < 1) {
+            return fault(UsageFault::Value,
+                         Text::tr("\"%1\" chooses nothing; an option is given as KEY=CHOICE.").arg(value));
+        }
+        choices.append({value.left(equals), value.mid(equals + 1)});
+    }
+    return std::nullopt;
+}
+
+/// The tasks that are asked for, as they are written on the command line.
+QStringList tasksOf(const CommandLine &line)
+{
+    QStringList tasks;
+    if (line.batch)
+        tasks.append(QStringLiteral("--batch"));
+    if (line.listPrinters)
+        tasks.append(QStringLiteral("--list-printers"));
+    if (line.listOptions)
+        tasks.append(QStringLiteral("--list-options"));
+    if (line.screenshot)
+        tasks.append(QStringLiteral("--screenshot"));
+    if (line.summary && !line.batch)
+        tasks.append(QStringLiteral("--summary"));
+    return tasks;
+}
+
+Fault contradiction(const CommandLine &line)
+{
+    if (line.ppd && line.printer && !line.asksForBuiltInPrinter()) {
+        return fault(UsageFault::Combination,
+                     Text::tr("--ppd is for the built-in printer, and --printer names the queue \"%1\".")
+                         .arg(*line.printer));
+    }
+    const QStringList tasks = tasksOf(line);
+    if (tasks.size() > 1) {
+        return fault(UsageFault::Combination,
+                     Text::tr("%1 and %2 exclude each other.").arg(tasks.at(0), tasks.at(1)));
+    }
+    if (line.batch && line.photos.isEmpty())
+        return fault(UsageFault::Missing, Text::tr("--batch needs a photo to print."));
+    if (line.json && (line.batch || line.screenshot || tasks.isEmpty())) {
+        return fault(UsageFault::Combination,
+                     Text::tr("--json is for --list-printers, --list-options and --summary."));
+    }
+    return std::nullopt;
+}
+
+QString syntaxOf(const OptionRow &row)
+{
+    QStringList names = latin1(row.names).split(u',');
+    for (QString &name : names)
+        name.prepend(name.size() == 1 ? QLatin1String("-") : QLatin1String("--"));
+    const QString syntax = names.join(QLatin1String(", "));
+    return row.value ? syntax + u' ' + latin1(row.value) : syntax;
+}
+
+} // namespace
+
+Result<CommandLine, UsageFault> CommandLine::parse(const QStringList &arguments)
+{
+    QCommandLineParser parser;
+    addOptions(parser);
+    if (!parser.parse(arguments))
+        return fault(UsageFault::Syntax, parser.errorText());
+
+    CommandLine line;
+    line.photos = parser.positionalArguments();
+    line.batch = parser.isSet(QStringLiteral("batch"));
+    line.listPrinters = parser.isSet(QStringLiteral("list-printers"));
+    line.listOptions = parser.isSet(QStringLiteral("list-options"));
+    line.summary = parser.isSet(QStringLiteral("summary"));
+    line.json = parser.isSet(QStringLiteral("json"));
+    line.help = parser.isSet(QStringLiteral("help"));
+    line.version = parser.isSet(QStringLiteral("version"));
+    if (line.help || line.version)
+        return line;
+
+    std::optional<QString> output;
+    for (const Fault &found :
+         {readValue(parser, "printer", line.printer), readValue(parser, "ppd", line.ppd),
+          readValue(parser, "output", output), readValue(parser, "screenshot", line.screenshot),
+          readMode(parser, line.mode), readChoices(parser, line.options), contradiction(line)}) {
+        if (found)
+            return *found;
+    }
+    line.output = output.value_or(line.output);
+    return line;
+}
+
+QString CommandLine::helpText()
+{
+    constexpr int column = 28;
+    QString help = Text::tr("Usage: corvel-print [options] PHOTO...\n"
+                            "Prints photos on a photo printer: from a window, or at once with --batch.\n\n"
+                            "Options:\n");
+    for (const OptionRow &row : optionRows) {
+        QString left = QLatin1String("  ") + syntaxOf(row);
+        if (left.size() > column - 2) {
+            help += left + u'\n';
+            left.clear();
+        }
+        const QStringList lines = Text::tr(row.text).split(u'\n');
+        for (const QString &text : lines) {
+            help += left.leftJustified(column) + text + u'\n';
+            left.clear();
+        }
+    }
+    help += Text::tr(
+        "\nExit status:\n"
+        "  0  printed, or done what was asked for\n"
+        "  1  refused or failed; one line on standard error says what and why\n"
+        "  2  wrong usage\n"
+        "\nExamples:\n"
+        "  corvel-print --printer built-in holiday.jpg\n"
+        "  corvel-print --batch -o Red=12 -o Quality=Fine -o Overcoat=Matte --output prints *.jpg\n");
+    return help;
+}
+
+bool CommandLine::asksForBuiltInPrinter() const
+{
+    return printer == Queue::builtIn().name;
+}
+
+} // namespace printdialog

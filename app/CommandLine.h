@@ -1,0 +1,70 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include "PrinterDescription.h"
+#include "Result.h"
+
+#include <QtCore/QList>
+#include <QtCore/QStringList>
+
+#include <optional>
+
+namespace printdialog {
+
+/// What the program ends with.
+enum ExitStatus {
+    exitDone = 0,
+    exitFailed = 1, ///< refused or failed, and said why
+    exitWrongUsage = 2,
+};
+
+/// Why a command line is wrong.
+enum class UsageFault {
+    Syntax,      ///< an unknown option, or one without its value
+    Value,       ///< a value that the option cannot have
+    Missing,     ///< something that has to be there as well
+    Combination, ///< options that exclude each other
+};
+
+/// A choice that is asked for on the command line.
+struct RequestedChoice
+{
+    QString key;
+    QString choice; ///< any text that may stand for a choice; nothing in it is checked yet
+};
+
+/// What the program is asked to do. A plain value. At most one of batch, listPrinters, listOptions and
+/// screenshot is set, and summary beside none of them but batch; without any of them it is the window.
+struct CommandLine
+{
+    QStringList photos;
+    std::optional<QString> printer; ///< a queue's id, or the built-in printer's name
+    std::optional<QString> ppd;     ///< a file, for the built-in printer
+    PanelMode mode = PanelMode::Constraint;
+    QList<RequestedChoice> options; ///< in the order given
+    QString output = QStringLiteral(".");
+    bool batch = false;
+    bool listPrinters = false;
+    bool listOptions = false;
+    bool summary = false;
+    bool json = false;
+    std::optional<QString> screenshot; ///< the folder for the pictures
+    bool help = false;
+    bool version = false;
+
+    /// Reads the arguments, the program's name first. Needs no application object. With help or version
+    /// nothing else is checked but that every option is known and has its value.
+    static Result<CommandLine, UsageFault> parse(const QStringList &arguments);
+
+    /// What --help shows; ends with a line feed.
+    static QString helpText();
+
+    /// Whether the printer is by its very name the built-in one.
+    bool asksForBuiltInPrinter() const;
+    /// Whether the task needs no display.
+    bool runsWithoutDisplay() const { return batch || listPrinters || listOptions || summary; }
+};
+
+} // namespace printdialog

@@ -1,0 +1,149 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "Listings.h"
+
+#include "Console.h"
+#include "OptionTable.h"
+#include "QueueList.h"
+#include "RequestedSession.h"
+#include "SummaryLines.h"
+
+#include <QtCore/QCoreApplication>
+#include <QtCore/QJsonArray>
+#include <QtCore/QJsonObject>
+
+#include <algorithm>
+
+using namespace std::chrono_literals;
+
+namespace printdialog {
+
+namespace {
+
+constexpr auto listPatience = 2s;
+
+struct Text
+{
+    Q_DECLARE_TR_FUNCTIONS(Listings)
+};
+
+/// The built-in printer first; it is the default when no queue is.
+QList<Queue> allPrinters()
+{
+    QList<Queue> queues = listQueues(listPatience);
+    Queue builtIn = Queue::builtIn();
+    builtIn.isDefault = !defaultQueue(queues);
+    queues.prepend(builtIn);
+    return queues;
+}
+
+QString stateKeyword(Queue::State state)
+{
+    switch (state) {
+    case Queue::State::Idle:
+        return QStringLiteral("idle");
+    case Queue::State::Processing:
+        return QStringLiteral("processing");
+    case Queue::State::Stopped:
+        return QStringLiteral("stopped");
+    case Queue::State::Unknown:
+        break;
+    }
+    return QStringLiteral("unknown");
+}
+
+QString stateText(const Queue &queue)
+{
+    if (!queue.acceptsJobs)
+        return Text::tr("rejects jobs");
+    switch (queue.state) {
+    case Queue::State::Idle:
+        return Text::tr("ready");
+    case Queue::State::Processing:
+        return Text::tr("printing");
+    case Queue::State::Stopped:
+        return Text::tr("stopped");
+    case Queue::State::Unknown:
+        break;
+    }
+    return Text::tr("unknown");
+}
+
+QJsonObject jsonOf(const Queue &queue)
+{
+    return {
+        {QStringLiteral("name"), queue.id()},
+        {QStringLiteral("description"), queue.info},
+        {QStringLiteral("location"), queue.location},
+        {QStringLiteral("model"), queue.makeAndModel},
+        {QStringLiteral("state"), stateKeyword(queue.state)},
+        {QStringLiteral("stateReasons"), QJsonArray::fromStringList(queue.stateReasons)},
+        {QStringLiteral("acceptsJobs"), queue.acceptsJobs},
+        {QStringLiteral("default"), queue.isDefault},
+        {QStringLiteral("builtIn"), queue.isBuiltIn},
+    };
+}
+
+int fail(Console &console, const QString &sentence)
+{
+    console.complain(sentence);
+    return exitFailed;
+}
+
+} // namespace
+
+int listPrinters(const CommandLine &commandLine, Console &console)
+{
+    QList<QStringList> rows;
+    QJsonArray array;
+    for (const Queue &queue : allPrinters()) {
+        const QString mark = queue.isDefault ? Text::tr("default") : QString();
+        rows.append({queue.id(), queue.info, stateText(queue), mark});
+        array.append(jsonOf(queue));
+    }
+    if (commandLine.json)
+        console.writeJson(array);
+    else
+        console.writeRows(rows);
+    return exitDone;
+}
+
+int listOptions(const CommandLine &commandLine, Console &console)
+{
+    const auto session = openRequestedSession(commandLine);
+    if (!session)
+        return fail(console, session.failure().text);
+    // The panels keep their choices to themselves until they are saved. Without any choice of the command
+    // line a printer whose own defaults are in conflict is shown all the same.
+    const auto job = (*session)->jobOptions();
+    if (!job && !commandLine.options.isEmpty())
+        return fail(console, job.failure().text);
+    const OptionTable table(**session);
+    if (commandLine.json)
+        console.writeJson(table.json());
+    else
+        console.writeLines(table.lines());
+    return exitDone;
+}
+
+int showSummary(const CommandLine &commandLine, Console &console)
+{
+    const auto session = openRequestedSession(commandLine);
+    if (!session)
+        return fail(console, session.failure().text);
+    if (const auto job = (*session)->jobOptions(); !job)
+        return fail(console, job.failure().text);
+    const SummaryEntries entries = (*session)->summary();
+    if (!commandLine.json) {
+        console.writeLines(summaryLines(entries));
+        return exitDone;
+    }
+    QJsonObject object;
+    for (const auto &[label, text] : entries)
+        object.insert(label, text);
+    console.writeJson(object);
+    return exitDone;
+}
+
+} // namespace printdialog

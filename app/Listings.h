@@ -1,0 +1,29 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include "CommandLine.h"
+
+namespace printdialog {
+
+class Console;
+
+/// The runs that only show something, as text or as JSON. Each writes to the console, complains when it
+/// fails, and returns the exit status. Main thread; they block while the print server is asked, for a few
+/// seconds at most.
+
+/// The built-in printer and the queues. Text: a line for each, its cells separated by tabs. JSON: an array of
+/// objects with "name", "description", "location", "model", "state", "stateReasons", "acceptsJobs", "default"
+/// and "builtIn". A print server that does not answer is no failure: it has no queues to show.
+int listPrinters(const CommandLine &commandLine, Console &console);
+
+/// The options of the printer asked for, after the choices of the command line. Text: a table. JSON: an array
+/// of objects with "keyword", "text", "choice", "default" (null when there is none), "panel" (its name, or
+/// null) and "choices" (objects with "keyword" and "text").
+int listOptions(const CommandLine &commandLine, Console &console);
+
+/// What the panels say about the choices of the command line. JSON: an object of label to text.
+int showSummary(const CommandLine &commandLine, Console &console);
+
+} // namespace printdialog

@@ -1,0 +1,113 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "OptionTable.h"
+
+#include "DialogSession.h"
+#include "NumericChoices.h"
+#include "PrintDialogPanel.h"
+
+#include <QtCore/QJsonObject>
+
+#include <algorithm>
+#include <array>
+
+namespace printdialog {
+
+namespace {
+
+/// By option keyword.
+QHash<QString, QString> panelNames(const DialogSession &session)
+{
+    QHash<QString, QString> names;
+    for (const pdekit::PanelPointer &panel : session.panels()) {
+        const QString name = panel->panelName().value_or(QString());
+        const QStringList keys = panel->supportedPPDOptionKeys();
+        for (const QString &key : keys) {
+            if (!names.contains(key))
+                names.insert(key, name);
+        }
+    }
+    return names;
+}
+
+QJsonValue orNull(const std::optional<QString> &text)
+{
+    return text ? QJsonValue(*text) : QJsonValue(QJsonValue::Null);
+}
+
+QString orDash(const std::optional<QString> &text)
+{
+    return text.value_or(QStringLiteral("-"));
+}
+
+} // namespace
+
+OptionTable::OptionTable(const DialogSession &session)
+{
+    const QHash<QString, QString> panels = panelNames(session);
+    const PpdDocument &ppd = session.ppd();
+    for (const QString &key : ppd.options()) {
+        const auto panel = panels.constFind(key);
+        rows_.append({key, ppd.optionText(key), session.chosen(key), ppd.defaultChoice(key),
+                      panel == panels.cend() ? std::nullopt : std::optional(*panel), ppd.choices(key)});
+    }
+}
+
+QString OptionTable::shortened(const QList<PpdChoice> &choices)
+{
+    QStringList keywords;
+    for (const PpdChoice &choice : choices)
+        keywords.append(choice.keyword);
+    const QString range = NumericChoices(keywords).range();
+    if (!range.isEmpty()) {
+        keywords.removeIf([](const QString &keyword) { return decimalText(keyword) == DecimalText::Number; });
+        keywords.append(range);
+    }
+    return keywords.join(QLatin1String(", "));
+}
+
+QStringList OptionTable::lines() const
+{
+    using Cells = std::array<QString, 5>;
+    QList<Cells> table = {{tr("Option"), tr("Text"), tr("Choice"), tr("Panel"), tr("Choices")}};
+    for (const Row &row : rows_)
+        table.append({row.keyword, row.text, orDash(row.choice), orDash(row.panel), shortened(row.choices)});
+
+    std::array<qsizetype, 5> widths = {};
+    for (const Cells &cells : table) {
+        for (std::size_t i = 0; i < cells.size(); ++i)
+            widths[i] = std::max(widths[i], cells[i].size());
+    }
+    QStringList lines;
+    for (const Cells &cells : table) {
+        QString line;
+        for (std::size_t i = 0; i + 1 < cells.size(); ++i)
+            line += cells[i].leftJustified(widths[i] + 2);
+        lines.append(line + cells.back());
+    }
+    return lines;
+}
+
+QJsonArray OptionTable::json() const
+{
+    QJsonArray array;
+    for (const Row &row : rows_) {
+        QJsonArray choices;
+        for (const PpdChoice &choice : row.choices) {
+            choices.append(QJsonObject{{QStringLiteral("keyword"), choice.keyword},
+                                       {QStringLiteral("text"), choice.text}});
+        }
+        array.append(QJsonObject{
+            {QStringLiteral("keyword"), row.keyword},
+            {QStringLiteral("text"), row.text},
+            {QStringLiteral("choice"), orNull(row.choice)},
+            {QStringLiteral("default"), orNull(row.defaultChoice)},
+            {QStringLiteral("panel"), orNull(row.panel)},
+            {QStringLiteral("choices"), choices},
+        });
+    }
+    return array;
+}
+
+} // namespace printdialog

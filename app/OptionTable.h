@@ -1,0 +1,44 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include "PpdDocument.h"
+
+#include <QtCore/QCoreApplication>
+#include <QtCore/QJsonArray>
+#include <QtCore/QStringList>
+
+namespace printdialog {
+
+class DialogSession;
+
+/// The options of a printer as they stand in a session, for people and for programs. A snapshot.
+class OptionTable
+{
+    Q_DECLARE_TR_FUNCTIONS(OptionTable)
+
+public:
+    explicit OptionTable(const DialogSession &session);
+
+    /// A headed table with aligned columns; the numbers of an option are shortened to their range.
+    QStringList lines() const;
+    QJsonArray json() const;
+
+private:
+    struct Row
+    {
+        QString keyword;
+        QString text;
+        std::optional<QString> choice;
+        std::optional<QString> defaultChoice;
+        std::optional<QString> panel; ///< the name of the panel that handles it
+        QList<PpdChoice> choices;
+    };
+
+    static QString shortened(const QList<PpdChoice> &choices);
+
+    QList<Row> rows_;
+};
+
+} // namespace printdialog

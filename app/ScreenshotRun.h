@@ -1,0 +1,4 @@
+#pragma once
+#include "CommandLine.h"
+class QApplication;
+namespace printdialog { int runScreenshot(const CommandLine &, QApplication &); }

@@ -1,0 +1,2 @@
+#include "WindowRun.h"
+namespace printdialog { int runWindow(const CommandLine &, QApplication &) { return 0; } }

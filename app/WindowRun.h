@@ -1,0 +1,4 @@
+#pragma once
+#include "CommandLine.h"
+class QApplication;
+namespace printdialog { int runWindow(const CommandLine &, QApplication &); }

@@ -1,0 +1,274 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "BuiltPanel.h"
+#include "LVCorvelMainPDE.h"
+#include "PanelHarness.h"
+#include "RadioMatrix.h"
+
+#include <QtCore/QLocale>
+#include <QtTest/QTest>
+#include <QtWidgets/QCheckBox>
+#include <QtWidgets/QGroupBox>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QRadioButton>
+
+/// What a panel makes of a view: the walks by tag, the wiring of text fields, the localisation.
+class PanelViewsTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() { QLocale::setDefault(QLocale(QLocale::German)); }
+    void cleanup() { QLocale::setDefault(QLocale::c()); }
+    void updateUIWalksTwoRuns();
+    void enablerValues_data();
+    void enablerValues();
+    void toggleReaches_data();
+    void toggleReaches();
+    void textFieldsWired_data();
+    void textFieldsWired();
+    void lastChildDecides();
+    void titleBeforeText();
+    void toolTips();
+    void resizedOnlyWhenAsked();
+    void germanPanel();
+};
+
+using Tags = QList<int>;
+
+void PanelViewsTest::updateUIWalksTwoRuns()
+{
+    PanelHarness dialog(Mode::Settings);
+    auto panel = dialog.make<BuiltPanel>();
+    panel->updateUI(); // no view yet
+    for (const int tag : {1, 2, 4})
+        panel->add<QLineEdit>(tag);
+    auto *box = panel->add<QCheckBox>(32);
+    panel->add<QLabel>(82);
+    for (const char *key : {"Key1", "Key2", "Key4"})
+        panel->setChoiceForKey(QStringLiteral("9"), QString::fromLatin1(key));
+    panel->setChoiceForKey(QStringLiteral("tRUE"), QStringLiteral("Enabler"));
+    panel->updateUI();
+    const auto text = [&](int tag) {
+        return pdekit::stringValue(pdekit::viewWithTag(panel->root(), tag));
+    };
+    QCOMPARE(text(1), QStringLiteral("9"));
+    QCOMPARE(text(2), QStringLiteral("9"));
+    QCOMPARE(text(82), QStringLiteral("9")); // follows its option control
+    QCOMPARE(text(4), QString());            // behind the gap
+    QVERIFY(box->isChecked());
+    // A view that is no control is a gap too; a tag without a choice keeps its control.
+    pdekit::setTag(panel->add<QWidget>(90), 3);
+    pdekit::viewWithTag(panel->root(), 1)->setToolTip(QStringLiteral("kept"));
+    panel->choiceDict_->remove(QStringLiteral("Key1"));
+    panel->updateUI();
+    QCOMPARE(text(4), QString());
+    QCOMPARE(text(1), QStringLiteral("9"));
+    // No run of tags, however full, keeps the walk from ending.
+    for (int tag = 33; tag < 64; ++tag)
+        panel->add<QLabel>(tag);
+    panel->updateUI();
+}
+
+void PanelViewsTest::enablerValues_data()
+{
+    QTest::addColumn<bool>("on");
+    QTest::newRow("True") << true;
+    QTest::newRow("TRUE") << true;
+    QTest::newRow("Yes") << false;
+    QTest::newRow("1") << false;
+    QTest::newRow("True ") << false;
+    QTest::newRow("False") << false;
+}
+
+void PanelViewsTest::enablerValues()
+{
+    QFETCH(bool, on);
+    PanelHarness dialog(Mode::Settings);
+    auto panel = dialog.make<BuiltPanel>();
+    auto *box = panel->add<QCheckBox>(32);
+    auto *slider = panel->add<QSlider>(1);
+    box->setChecked(!on);
+    panel->updateControlWithValue(box, QString::fromLatin1(QTest::currentDataTag()));
+    QCOMPARE(box->isChecked(), on);
+    QCOMPARE(slider->isEnabled(), on);
+    QVERIFY(box->toolTip().isEmpty());
+    panel->updateControlWithValue(box, std::nullopt);
+    panel->updateControlWithValue(nullptr, QStringLiteral("True"));
+    QCOMPARE(box->isChecked(), on);
+}
+
+void PanelViewsTest::toggleReaches_data()
+{
+    QTest::addColumn<int>("options");
+    QTest::addColumn<std::optional<int>>("state");
+    QTest::addColumn<Tags>("disabled");
+    const std::optional<int> off;
+    QTest::newRow("gap at 4 goes on to the partners") << 3 << off << Tags{1, 2, 3, 81, 82};
+    QTest::newRow("no options") << 0 << off << Tags{81, 82};
+    QTest::newRow("gap at 14 goes on")
+        << 13 << off << Tags{1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 81, 82};
+    QTest::newRow("gap at 15 ends the walk")
+        << 14 << off << Tags{1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14};
+    QTest::newRow("gap at 16 ends the walk")
+        << 15 << off << Tags{1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15};
+    QTest::newRow("mixed enables") << 3 << std::optional(-1) << Tags{};
+    QTest::newRow("any state enables") << 3 << std::optional(2) << Tags{};
+    QTest::newRow("of which one byte counts") << 1 << std::optional(256) << Tags{1, 81, 82};
+}
+
+void PanelViewsTest::toggleReaches()
+{
+    QFETCH(int, options);
+    QFETCH(std::optional<int>, state);
+    QFETCH(Tags, disabled);
+    PanelHarness dialog(Mode::Settings);
+    auto panel = dialog.make<BuiltPanel>();
+    panel->fixedEnablerState = state;
+    auto *group = panel->add<QWidget>(pdekit::noTag);
+    auto *box = panel->add<QCheckBox>(32, group);
+    Tags tags = {81, 82, 84};
+    for (int tag = options; tag > 0; --tag)
+        tags.prepend(tag);
+    for (const int tag : std::as_const(tags))
+        panel->add<QWidget>(tag, group);              // any kind of view is enabled
+    auto *outside = panel->add<QSlider>(options + 1); // not beside the check box
+    panel->setControlsEnabledByToggle(box);
+    Tags found;
+    for (const int tag : std::as_const(tags)) {
+        if (!pdekit::viewWithTag(group, tag)->isEnabled())
+            found << tag;
+    }
+    QCOMPARE(found, disabled);
+    QVERIFY(outside->isEnabled() && box->isEnabled());
+}
+
+void PanelViewsTest::textFieldsWired_data()
+{
+    QTest::addColumn<Tags>("present");
+    QTest::addColumn<Tags>("wired");
+    QTest::newRow("none") << Tags{1, 79} << Tags{};
+    QTest::newRow("80, 82") << Tags{80, 82} << Tags{80, 82};
+    QTest::newRow("only 82") << Tags{82} << Tags{};
+    QTest::newRow("81 without 80") << Tags{81, 82, 83} << Tags{81, 82, 83};
+    QTest::newRow("two missing") << Tags{80, 83} << Tags{80};
+    QTest::newRow("single gaps") << Tags{81, 83, 85, 88} << Tags{81, 83, 85};
+}
+
+void PanelViewsTest::textFieldsWired()
+{
+    QFETCH(Tags, present);
+    QFETCH(Tags, wired);
+    PanelHarness dialog(Mode::Settings);
+    auto panel = dialog.make<BuiltPanel>();
+    QPalette dark;
+    dark.setColor(QPalette::Base, Qt::black);
+    for (const int tag : std::as_const(present)) {
+        auto *field = panel->add<QLineEdit>(tag);
+        field->setReadOnly(true);
+        field->setPalette(dark);
+    }
+    panel->enableTextFieldsForEditingInView(panel->root());
+    panel->enableTextFieldsForEditingInView(panel->root()); // wires once, however often it is asked
+    Tags found;
+    for (const int tag : std::as_const(present)) {
+        auto *field = qobject_cast<QLineEdit *>(pdekit::viewWithTag(panel->root(), tag));
+        panel->events.clear();
+        QTest::keyClick(field, Qt::Key_4);
+        if (panel->events.isEmpty())
+            continue;
+        QCOMPARE(panel->events.size(), 1);
+        QCOMPARE(field->palette().color(QPalette::Base), QColor(Qt::white));
+        found << tag;
+    }
+    QCOMPARE(found, wired);
+}
+
+void PanelViewsTest::lastChildDecides()
+{
+    PanelHarness dialog(Mode::Settings);
+    auto panel = dialog.make<BuiltPanel>();
+    auto *first = new QLabel(QStringLiteral("Red"), panel->root());
+    QVERIFY(panel->localizeStringsInViewAndSubviewsResizeTofit(panel->root(), true, false));
+    QCOMPARE(first->text(), QStringLiteral("Rot"));
+    first->setText(QStringLiteral("Green"));
+    new QLabel(QStringLiteral("no entry"), panel->root());
+    QVERIFY(!panel->localizeStringsInViewAndSubviewsResizeTofit(panel->root(), true, false));
+    QCOMPARE(first->text(), QStringLiteral("Grün"));
+    first->setText(QStringLiteral("Blue"));
+    QVERIFY(!panel->localizeStringsInViewAndSubviewsResizeTofit(panel->root(), false, false));
+    QCOMPARE(first->text(), QStringLiteral("Blue"));
+    QGroupBox box(QStringLiteral("Red")); // the view's own text counts, whatever its last child was
+    new QLabel(QStringLiteral("no entry"), &box);
+    QVERIFY(panel->localizeStringsInViewAndSubviewsResizeTofit(&box, true, false));
+    QVERIFY(!panel->localizeStringsInViewAndSubviewsResizeTofit(&box, true, false));
+}
+
+void PanelViewsTest::titleBeforeText()
+{
+    PanelHarness dialog(Mode::Settings);
+    auto panel = dialog.make<BuiltPanel>();
+    QCheckBox box(QStringLiteral("Red"));
+    box.setChecked(true); // its string value is its state
+    QVERIFY(panel->localizeStringsInViewAndSubviewsResizeTofit(&box, true, false));
+    QCOMPARE(box.text(), QStringLiteral("Rot"));
+    QVERIFY(box.isChecked());
+    QPushButton untitled;
+    QVERIFY(!panel->localizeStringsInViewAndSubviewsResizeTofit(&untitled, true, false));
+}
+
+void PanelViewsTest::toolTips()
+{
+    PanelHarness dialog(Mode::Settings);
+    auto panel = dialog.make<BuiltPanel>();
+    QWidget view;
+    view.setToolTip(QStringLiteral("Red"));
+    QVERIFY(!panel->localizeStringsInViewAndSubviewsResizeTofit(&view, true, true)); // no change of the text
+    QCOMPARE(view.toolTip(), QStringLiteral("Rot"));
+
+    // In the test's own table "first" is "second", and "second" is "third": nothing is looked up twice.
+    QLocale::setDefault(QLocale(QLocale::Swedish));
+    auto *matrix = panel->add<pdekit::RadioMatrix>(1);
+    auto *cell = new QRadioButton(text("first"), matrix);
+    cell->setToolTip(text("first"));
+    auto *notACell = new QLabel(text("first"), matrix);
+    QVERIFY(panel->localizeStringsInViewAndSubviewsResizeTofit(matrix, true, false));
+    QCOMPARE(cell->text(), text("second"));
+    QCOMPARE(cell->toolTip(), text("second"));
+    QCOMPARE(notACell->text(), text("first"));
+}
+
+void PanelViewsTest::resizedOnlyWhenAsked()
+{
+    PanelHarness dialog(Mode::Settings);
+    auto panel = dialog.make<BuiltPanel>();
+    for (const bool resize : {false, true}) {
+        auto *label = new QLabel(QStringLiteral("UsePrinterPanel"), panel->root());
+        auto *same = new QLabel(QStringLiteral("no entry"), panel->root());
+        label->resize(1, 1);
+        same->resize(1, 1);
+        panel->localizeStringsInViewAndSubviewsResizeTofit(panel->root(), true, resize);
+        QCOMPARE(label->size(), resize ? label->sizeHint() : QSize(1, 1));
+        QCOMPARE(same->size(), QSize(1, 1));
+    }
+}
+
+void PanelViewsTest::germanPanel()
+{
+    PanelHarness dialog(Mode::Constraint);
+    auto panel = dialog.make<LVCorvelMainPDE>();
+    dialog.show(*panel);
+    QCOMPARE(panel->panelName(), QStringLiteral("Farbanpassung"));
+    QCOMPARE(dialog.view->findChild<QLabel *>(QStringLiteral("redLabel"))->text(), QStringLiteral("Rot"));
+    QCOMPARE(pdekit::stringValue(dialog.control(81)), QStringLiteral("0"));
+    QCOMPARE(dialog.control(81)->accessibleName(), QStringLiteral("Wert für Rot"));
+    const auto summary = panel->summaryInfo();
+    QCOMPARE(summary->value(QStringLiteral("Farben anpassen")), QStringLiteral("Ein"));
+    QCOMPARE(summary->value(QStringLiteral("Sättigung")), QStringLiteral("Level 0"));
+    QLocale::setDefault(QLocale(QLocale::French));
+    QCOMPARE(panel->panelName(), QStringLiteral("Farbanpassung")); // kept once it is known
+}
+
+QTEST_MAIN(PanelViewsTest)
+#include "PanelViewsTest.moc"

@@ -1,0 +1,32 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include <QtCore/QObject>
+
+/// The kit that dialog and plug-in share.
+class KitTest : public QObject
+{
+    Q_OBJECT
+
+public:
+    Q_INVOKABLE void act(QObject *sender) { actedOn << sender; }
+    QObjectList actedOn;
+
+private Q_SLOTS:
+    void leadingNumbers_data();
+    void leadingNumbers();
+    void bundleFaults_data();
+    void bundleFaults();
+    void bundleFiles();
+    void languages();
+    void signalLog();
+    void forms();
+    void sliderValues_data();
+    void sliderValues();
+    void otherValues();
+    void actionsOfUsersOnly();
+    void textFieldEvents();
+    void viewsByTag();
+};

@@ -1,0 +1,195 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "ControlAction.h"
+#include "ControlValues.h"
+#include "KitTest.h"
+#include "RadioMatrix.h"
+#include "TextFieldEvents.h"
+#include "ViewTags.h"
+#include "ViewTexts.h"
+
+#include <QtCore/QVariant>
+#include <QtGui/QAccessible>
+#include <QtTest/QSignalSpy>
+#include <QtTest/QTest>
+#include <QtWidgets/QCheckBox>
+#include <QtWidgets/QComboBox>
+#include <QtWidgets/QGroupBox>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QLineEdit>
+#include <QtWidgets/QPushButton>
+#include <QtWidgets/QRadioButton>
+#include <QtWidgets/QSlider>
+
+namespace {
+
+QString text(const char *latin1)
+{
+    return QString::fromLatin1(latin1);
+}
+
+} // namespace
+
+void KitTest::sliderValues_data()
+{
+    QTest::addColumn<QVariant>("decimals");
+    QTest::addColumn<QString>("set");
+    QTest::addColumn<QString>("value");
+    const auto row = [](const QVariant &decimals, const char *set, const char *value) {
+        QTest::newRow(set) << decimals << text(set) << text(value);
+    };
+    row(3, "1.234", "1.234");
+    row(3, "1.2345", "1.235");
+    row(3, "0.5 mm", "0.5");
+    row(3, "1e999", "100000");
+    row(2, "-1e999", "-25");
+    row(2, "-", "0");
+    row(2, "29", "29");
+    row(2, "0.29", "0.29");
+    row(QVariant(), "7.6", "8");
+    row(QVariant(), "150000000", "100000000");
+    row(-4, "12", "12");
+    row(text("many"), "13", "13");
+}
+
+void KitTest::sliderValues()
+{
+    QFETCH(QVariant, decimals);
+    QFETCH(QString, set);
+    QSlider slider;
+    slider.setRange(-2500, 100'000'000);
+    slider.setProperty("decimals", decimals);
+    slider.setValue(5);
+    QVERIFY(pdekit::setStringValue(&slider, set));
+    QTEST(pdekit::stringValue(&slider).value(), "value");
+    QCOMPARE(pdekit::minValue(&slider), decimals.toInt() == 3   ? -2.5
+                                        : decimals.toInt() == 2 ? -25.0
+                                                                : -2500.0);
+}
+
+void KitTest::otherValues()
+{
+    QComboBox combo;
+    combo.addItem(text("Normal"), text("Standard"));
+    combo.addItem(text("Fine"));
+    QVERIFY(pdekit::setStringValue(&combo, text("Fine")));
+    QCOMPARE(combo.currentIndex(), 1);
+    pdekit::setStringValue(&combo, text("Normal")); // a text whose choice is another
+    QCOMPARE(combo.currentIndex(), 1);
+    pdekit::setStringValue(&combo, text("Standard"));
+    QCOMPARE(pdekit::stringValue(&combo), text("Standard"));
+
+    QCheckBox box;
+    QVERIFY(pdekit::setState(&box, -1)); // has two states only: it is on
+    QCOMPARE(pdekit::state(&box), 1);
+    box.setTristate();
+    pdekit::setState(&box, -1);
+    QCOMPARE(pdekit::state(&box), -1);
+    pdekit::setStringValue(&box, text("1"));
+    QCOMPARE(pdekit::stringValue(&box), text("1"));
+    QPushButton button;
+    QVERIFY(!pdekit::setState(&button, 1) && !pdekit::state(&button));
+
+    QWidget plain;
+    QGroupBox group;
+    QVERIFY(!pdekit::isControl(&plain) && !pdekit::isControl(nullptr) && !pdekit::isControl(&group));
+    QVERIFY(!pdekit::stringValue(&plain) && !pdekit::setStringValue(&plain, text("1")));
+    QVERIFY(!pdekit::maxValue(&combo) && !pdekit::title(&plain) && !pdekit::sizeToFit(&plain));
+    QLabel label;
+    QLineEdit field;
+    QVERIFY(pdekit::isControl(&label) && !pdekit::isTextField(&label) && pdekit::isTextField(&field));
+}
+
+void KitTest::actionsOfUsersOnly()
+{
+    int actions = 0;
+    const auto count = [&actions] {
+        ++actions;
+    };
+    QObject context;
+    QSlider slider(Qt::Horizontal);
+    QCheckBox box;
+    QComboBox combo;
+    combo.addItems({text("a"), text("b")});
+    pdekit::RadioMatrix matrix;
+    auto *cell = new QRadioButton(&matrix);
+    cell->setProperty("cellTag", 7);
+    QLineEdit field;
+    for (QWidget *control : {static_cast<QWidget *>(&slider), static_cast<QWidget *>(&box),
+                             static_cast<QWidget *>(&combo), static_cast<QWidget *>(&matrix)})
+        QVERIFY(pdekit::connectAction(control, &context, count));
+    QVERIFY(!pdekit::connectAction(&field, &context, count));
+
+    pdekit::setStringValue(&slider, text("9"));
+    pdekit::setState(&box, 1);
+    pdekit::setStringValue(&combo, text("b"));
+    QVERIFY(matrix.selectCellWithTag(7) && !matrix.selectCellWithTag(0));
+    QCOMPARE(actions, 0);
+
+    QAccessibleInterface *accessible = QAccessible::queryAccessibleInterface(&slider);
+    QVERIFY(accessible && accessible->valueInterface());
+    accessible->valueInterface()->setCurrentValue(33);
+    QCOMPARE(slider.value(), 33);
+    QCOMPARE(actions, 1);
+    accessible = QAccessible::queryAccessibleInterface(&box);
+    accessible->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
+    QVERIFY(!box.isChecked());
+    QCOMPARE(actions, 2);
+    matrix.show();
+    QTest::mouseClick(cell, Qt::LeftButton, {}, {8, cell->height() / 2});
+    QCOMPARE(actions, 3);
+    combo.show();
+    QTest::keyClick(&combo, Qt::Key_Up);
+    QCOMPARE(pdekit::stringValue(&combo), text("a"));
+    QCOMPARE(actions, 4);
+}
+
+void KitTest::textFieldEvents()
+{
+    QWidget window;
+    QLineEdit field(&window);
+    QLineEdit other(&window);
+    pdekit::TextFieldEvents::attach(&field);
+    auto *events = pdekit::TextFieldEvents::attach(&field); // the first one is gone
+    QCOMPARE(field.findChildren<pdekit::TextFieldEvents *>().size(), 1);
+    QSignalSpy changes(events, &pdekit::TextFieldEvents::textDidChange);
+    QSignalSpy ends(events, &pdekit::TextFieldEvents::textDidEndEditing);
+    QSignalSpy actions(events, &pdekit::TextFieldEvents::action);
+    const auto counts = [&] {
+        return QList<qsizetype>{changes.size(), ends.size(), actions.size()};
+    };
+    window.show();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    field.setFocus();
+    field.setText(text("program"));
+    other.setFocus();
+    QCOMPARE(counts(), QList<qsizetype>({0, 0, 0}));
+    field.setFocus();
+    QTest::keyClicks(&field, text("ab"));
+    QTest::keyClick(&field, Qt::Key_Return);
+    QCOMPARE(counts(), QList<qsizetype>({2, 1, 1}));
+    other.setFocus(); // editing ended with Return already
+    QCOMPARE(counts(), QList<qsizetype>({2, 1, 1}));
+    field.setFocus();
+    QTest::keyClick(&field, Qt::Key_Enter); // Return without an edit
+    QCOMPARE(counts(), QList<qsizetype>({2, 2, 2}));
+    QTest::keyClick(&field, Qt::Key_C);
+    other.setFocus();
+    QCOMPARE(counts(), QList<qsizetype>({3, 3, 2}));
+}
+
+void KitTest::viewsByTag()
+{
+    QWidget view;
+    QWidget first(&view);
+    QWidget inner(&first);
+    QWidget second(&view);
+    QCOMPARE(pdekit::tag(&view), pdekit::noTag);
+    pdekit::setTag(&inner, 5);
+    pdekit::setTag(&second, 5);
+    QCOMPARE(pdekit::viewWithTag(&view, 5), &inner); // in the depth before in the width
+    pdekit::setTag(&view, 5);
+    QCOMPARE(pdekit::viewWithTag(&view, 5), &view);
+    QVERIFY(!pdekit::viewWithTag(&view, 6) && !pdekit::viewWithTag(nullptr, 5));
+}
