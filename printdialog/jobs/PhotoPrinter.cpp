@@ -25,8 +25,7 @@ QString printedText(const Photo &photo, const PrintTarget &target, const Printed
     if (const auto *files = std::get_if<PrintedFiles>(&printed))
         return PhotoPrinter::tr("Printed %1: %2").arg(photo.fileName(), files->pdf);
     return PhotoPrinter::tr("Sent %1 to %2 as job %3")
-        .arg(photo.fileName(), target.queue)
-        .arg(std::get<int>(printed));
+        .arg(photo.fileName(), target.queue, QString::number(std::get<int>(printed)));
 }
 
 PhotoPrinter::PhotoPrinter(const PrintTarget &target)

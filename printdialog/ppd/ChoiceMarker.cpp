@@ -4,8 +4,8 @@
 #include "ChoiceMarker.h"
 
 #include "CupsPpd.h"
+#include "PlainText.h"
 #include "PpdDocument.h"
-#include "PpdText.h"
 
 #include <QtCore/QCoreApplication>
 
@@ -56,8 +56,8 @@ ChoiceMarker::ChoiceMarker(PpdDocument &document)
 
 Ruling ChoiceMarker::check(const QString &key, const QString &choice) const
 {
-    const QString shownKey = plainPpdText(key, mostQuoted);
-    const QString shownChoice = plainPpdText(choice, mostQuoted);
+    const QString shownKey = plainText(key, mostQuoted);
+    const QString shownChoice = plainText(choice, mostQuoted);
     if (!document_.hasOption(key))
         return {Verdict::UnknownOption,
                 shownKey,

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include "PpdDocument.h"
+#include "PlainText.h"
 #include "PpdDocument_p.h"
-#include "PpdText.h"
 
 #include <algorithm>
 
@@ -16,8 +16,8 @@ bool isPlainFileName(const QString &name)
     const auto plain = [](QChar character) {
         return character.isPrint() && character != u'\\';
     };
-    return !name.isEmpty() && name.size() <= 255 && !name.startsWith(u'.') &&
-           plainPpdText(name, 255) == name && std::all_of(name.begin(), name.end(), plain);
+    return !name.isEmpty() && name.size() <= 255 && !name.startsWith(u'.') && plainText(name, 255) == name &&
+           std::all_of(name.begin(), name.end(), plain);
 }
 
 } // namespace
@@ -34,7 +34,8 @@ void PpdDocument::RecordCloser::operator()(ppd_file_s *record) const
 QString PpdDocument::modelName() const
 {
     for (const char *name : {record_->nickname, record_->modelname}) {
-        if (const QString text = plainPpdText(QString::fromUtf8(name)); !text.isEmpty())
+        if (const QString text = plainText(QString::fromUtf8(name).trimmed(), shownTextLimit);
+            !text.isEmpty())
             return text;
     }
     return {};

@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: Corvel print dialog authors
 // SPDX-License-Identifier: Apache-2.0
 
+#include "PlainText.h"
 #include "PpdDocument.h"
 #include "PpdDocument_p.h"
 #include "PpdFile.h"
-#include "PpdText.h"
 
 #include <QtCore/QCoreApplication>
 
@@ -18,6 +18,8 @@ namespace {
 constexpr qint64 translationCost = 10'000'000; // comparisons; about 0.1 s
 constexpr float largestSide = 72'000;          // points: 1,000 inches, beyond every sheet and roll
 
+constexpr qsizetype shownText = 200; // UTF-16 units of an option's or a choice's text
+
 struct Text
 {
     Q_DECLARE_TR_FUNCTIONS(PpdDocument)
@@ -25,7 +27,7 @@ struct Text
 
 QString decoded(const char *text, const QString &keyword)
 {
-    const QString plain = plainPpdText(QString::fromUtf8(text));
+    const QString plain = plainText(QString::fromUtf8(text).trimmed(), shownText);
     return plain.isEmpty() ? keyword : plain;
 }
 
@@ -91,12 +93,12 @@ Result<PpdDocument, PpdFault> PpdDocument::fromData(const QByteArray &data, cons
     std::unique_ptr<ppd_file_t, RecordCloser> record(ppdOpenFd(descriptor));
     if (!record) {
         int line = 0;
-        const QString reason = plainPpdText(QString::fromUtf8(ppdErrorString(ppdLastError(&line))));
+        const QString reason = plainText(QString::fromUtf8(ppdErrorString(ppdLastError(&line))));
         return Failure<PpdFault>{
             PpdFault::Malformed,
             Text::tr("The PPD \"%1\" cannot be used: line %2: %3; correct it or fetch another from "
                      "the printer's maker.")
-                .arg(plainPpdText(name, 300), QString::number(line), reason),
+                .arg(plainText(name, 300), QString::number(line), reason),
             {}};
     }
     PpdDocument document(data, name, record.release());
@@ -109,7 +111,7 @@ Result<PpdDocument, PpdFault> PpdDocument::fromData(const QByteArray &data, cons
             PpdFault::NoPageSize,
             Text::tr("The PPD \"%1\" has no page size that can be printed on; correct it or fetch another "
                      "from the printer's maker.")
-                .arg(plainPpdText(name, 300)),
+                .arg(plainText(name, 300)),
             {}};
     document.markDefaults();
     return document;

@@ -3,7 +3,7 @@
 
 #include "PpdFile.h"
 
-#include "PpdText.h"
+#include "PlainText.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QFile>
@@ -47,7 +47,7 @@ private:
 
 Failure<PpdFault> failure(PpdFault fault, const QString &text, const QString &path)
 {
-    return {fault, text.arg(plainPpdText(path, 300)), {}};
+    return {fault, text.arg(plainText(path, 300)), {}};
 }
 
 Failure<PpdFault> notRegular(const QString &path, mode_t mode)
@@ -67,7 +67,7 @@ Failure<PpdFault> ppdNotReadable(const QString &name, int error)
         return failure(PpdFault::NotFound, Text::tr("There is no PPD \"%1\"; check the path."), name);
     return {PpdFault::NotReadable,
             Text::tr("The PPD \"%1\" cannot be read: %2; check the file and its permissions.")
-                .arg(plainPpdText(name, 300), qt_error_string(error)),
+                .arg(plainText(name, 300), qt_error_string(error)),
             {}};
 }
 

@@ -3,8 +3,8 @@
 
 #include "PpdInspection.h"
 
+#include "PlainText.h"
 #include "PpdScanner.h"
-#include "PpdText.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QHash>
@@ -21,7 +21,7 @@ using Limits = PpdLimits;
 
 QString shown(QByteArrayView bytes)
 {
-    return plainPpdText(QString::fromUtf8(bytes), 60);
+    return plainText(QString::fromUtf8(bytes), 60);
 }
 
 QString number(qint64 value)
@@ -70,7 +70,7 @@ class Inspector
 public:
     Inspector(const QByteArray &data, const QString &name)
         : data_(data)
-        , name_(plainPpdText(name, 300))
+        , name_(plainText(name, 300))
     {
     }
 

@@ -3,7 +3,7 @@
 
 #include "CupsConnection.h"
 
-#include "CleanText.h"
+#include "PlainText.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QFileInfo>

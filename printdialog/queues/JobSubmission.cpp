@@ -3,8 +3,8 @@
 
 #include "JobSubmission.h"
 
-#include "CleanText.h"
 #include "CupsConnection.h"
+#include "PlainText.h"
 
 #include <QtCore/QBuffer>
 #include <QtCore/QCoreApplication>
@@ -49,7 +49,7 @@ std::optional<Failure<QueueFault>> objection(const SubmittedDocument &document,
                                              const QMap<QString, QString> &options, int copies)
 {
     for (auto option = options.cbegin(); option != options.cend(); ++option) {
-        const QString keyword = cleanText(option.key(), 80);
+        const QString keyword = plainText(option.key(), 80);
         if (!isKeyword(option.key()) || option.key() == QLatin1String("copies"))
             return refusal(Text::tr("The option \"%1\" is not sent, because this cannot be an option's "
                                     "keyword; leave it out.")
@@ -75,7 +75,7 @@ std::optional<Failure<QueueFault>> objection(const SubmittedDocument &document,
     if (hasControls(QString::fromLatin1(document.mimeType)))
         return refusal(
             Text::tr("The document \"%1\" is not sent, because its type has a control character in it.")
-                .arg(cleanText(document.name)));
+                .arg(plainText(document.name, shownTextLimit)));
     if (copies < 1 || copies > copiesLimit)
         return refusal(Text::tr("%1 copies cannot be printed; choose a number from 1 to %2.")
                            .arg(QString::number(copies), QString::number(copiesLimit)));
@@ -143,7 +143,7 @@ public:
         http_t *http = connection_.http();
         cups_dest_t *destination = list_.destinations;
         connection_.extend();
-        const QByteArray name = cleanText(document.name, titleLimit).toUtf8();
+        const QByteArray name = plainText(document.name, titleLimit).toUtf8();
         if (cupsStartDestDocument(http, destination, info_.get(), id_, name.constData(),
                                   document.mimeType.constData(), 0, nullptr, 1) != HTTP_STATUS_CONTINUE)
             return connection_.lastFailure(queue_);
@@ -158,7 +158,8 @@ public:
             return Failure<QueueFault>{
                 QueueFault::Failed,
                 Text::tr("The file \"%1\" could not be read to its end (%2); nothing is printed.")
-                    .arg(cleanText(document.path), cleanText(source.errorString())),
+                    .arg(plainText(document.path, shownTextLimit),
+                         plainText(source.errorString(), shownTextLimit)),
                 {}};
         connection_.extend();
         if (cupsFinishDestDocument(http, destination, info_.get()) > IPP_STATUS_OK_CONFLICTING)
@@ -176,7 +177,7 @@ private:
         ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "requesting-user-name", nullptr,
                      cupsUser());
         ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "job-name", nullptr,
-                     cleanText(title, titleLimit).toUtf8().constData());
+                     plainText(title, titleLimit).toUtf8().constData());
         ippAddInteger(request.get(), IPP_TAG_JOB, IPP_TAG_INTEGER, "copies", copies);
         for (auto option = options.cbegin(); option != options.cend(); ++option)
             addOption(request.get(), option.key().toUtf8(), option.value().toUtf8());
@@ -213,7 +214,8 @@ Result<int, QueueFault> submitJob(const QString &queue, const QString &title,
     if (!source.open(QIODevice::ReadOnly))
         return Failure<QueueFault>{QueueFault::Failed,
                                    Text::tr("The file \"%1\" cannot be read (%2); nothing is printed.")
-                                       .arg(cleanText(document.path), cleanText(source.errorString())),
+                                       .arg(plainText(document.path, shownTextLimit),
+                                            plainText(source.errorString(), shownTextLimit)),
                                    {}};
 
     CupsConnection connection(patience);

@@ -3,7 +3,7 @@
 
 #include "QueueFault.h"
 
-#include "CleanText.h"
+#include "PlainText.h"
 
 #include <QtCore/QCoreApplication>
 
@@ -87,14 +87,14 @@ QString serverSentence(QueueFault fault)
 
 Failure<QueueFault> queueFailure(QueueFault fault, const QString &queue, const QString &words)
 {
-    QString reason = cleanText(words);
+    QString reason = plainText(words.simplified(), shownTextLimit);
     while (reason.endsWith(u'.'))
         reason.chop(1);
     const QString detail = reason;
     if (reason.isEmpty())
         reason = ownReason(fault);
     const QString text = queue.isEmpty() ? serverSentence(fault).arg(reason)
-                                         : sentence(fault).arg(cleanText(queue, 128), reason);
+                                         : sentence(fault).arg(plainText(queue, 128), reason);
     return {fault, text, detail};
 }
 

@@ -4,8 +4,8 @@
 #include "QueueList.h"
 
 #include "BoundedWorker.h"
-#include "CleanText.h"
 #include "CupsConnection.h"
+#include "PlainText.h"
 
 #include <algorithm>
 
@@ -51,7 +51,7 @@ Queue queueOf(const cups_dest_t &destination)
         return QByteArray(cupsGetOption(name, destination.num_options, destination.options));
     };
     const auto text = [&option](const char *name) {
-        return cleanText(QString::fromUtf8(option(name)));
+        return plainText(QString::fromUtf8(option(name)).simplified(), shownTextLimit);
     };
     Queue queue;
     queue.name = QString::fromUtf8(destination.name);

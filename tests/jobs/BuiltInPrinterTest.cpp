@@ -125,7 +125,7 @@ void BuiltInPrinterTest::names_data()
     QTest::newRow("hidden") << u"/a/..photo.jpg"_s << u"photo"_s;
     QTest::newRow("hidden by a control character") << u"/a/\n.x.jpg"_s << u"x"_s;
     QTest::newRow("nothing but a suffix") << u"/a/.jpg"_s << u"photo"_s;
-    QTest::newRow("controls and turned text") << u"/a/x\r\n\u202egpj\u2028.jpg"_s << u"xgpj"_s;
+    QTest::newRow("controls and turned text") << u"/a/x\r\n\u202egpj\u2028.jpg"_s << u"x gpj"_s;
     QTest::newRow("taken twice") << u"/a/taken.jpg"_s << u"taken-3"_s;
 }
 
