@@ -1,7 +1,106 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
 #include "ScreenshotRun.h"
+
+#include "Console.h"
+#include "WindowRun.h"
+
+#include <QtCore/QDeadlineTimer>
+#include <QtCore/QDir>
+#include <QtCore/QSaveFile>
+#include <QtCore/QThread>
+#include <QtGui/QPixmap>
+#include <QtWidgets/QApplication>
+
+#include <chrono>
+
 namespace printdialog {
-int runScreenshot(const CommandLine &, QApplication &)
+
+namespace {
+
+struct Text
 {
-    return 0;
+    Q_DECLARE_TR_FUNCTIONS(ScreenshotRun)
+};
+
+constexpr std::chrono::seconds patience(15);
+
+template <class Condition>
+void waitFor(QApplication &application, Condition condition)
+{
+    const QDeadlineTimer deadline(patience);
+    while (!condition() && !deadline.hasExpired()) {
+        application.processEvents();
+        QThread::msleep(5);
+    }
 }
+
+/// The sentence for what went wrong; empty when the picture is there.
+QString save(const QPixmap &picture, const QString &path)
+{
+    QSaveFile file(path);
+    if (file.open(QIODevice::WriteOnly) && picture.save(&file, "PNG") && file.commit())
+        return {};
+    return Text::tr("The picture %1 could not be written: %2. Choose a folder that can be written.")
+        .arg(path, file.errorString());
+}
+
+QString renderPages(PrintDialog &dialog, QApplication &application, const QDir &folder)
+{
+    for (int page = 0; page < dialog.pageCount(); ++page) {
+        dialog.showPage(page);
+        application.processEvents();
+        const QString suffix = dialog.pageKindSuffix(page);
+        const QString name = suffix.isEmpty() ? QStringLiteral("summary") : suffix;
+        const QString failure = save(dialog.grab(), folder.filePath(name + QLatin1String(".png")));
+        if (!failure.isEmpty())
+            return failure;
+    }
+    return {};
+}
+
+/// The sentence for why the printer's options are not there; empty when they are.
+QString openPrinter(PrintDialog &dialog, QApplication &application, const CommandLine &commandLine)
+{
+    if (commandLine.printer && !commandLine.asksForBuiltInPrinter()) {
+        dialog.searchPrinters();
+        waitFor(application, [&dialog, &commandLine] {
+            return (dialog.printer() == *commandLine.printer && dialog.isReady()) ||
+                   !dialog.message().isEmpty();
+        });
+        if (dialog.printer() != *commandLine.printer)
+            return dialog.message();
+    }
+    return dialog.isReady() ? QString() : dialog.whyNotReady();
+}
+
+} // namespace
+
+int runScreenshot(const CommandLine &commandLine, QApplication &application)
+{
+    Console console;
+    const auto endWith = [&console](const QString &failure) {
+        if (failure.isEmpty())
+            return static_cast<int>(exitDone);
+        console.complain(failure);
+        return static_cast<int>(exitFailed);
+    };
+    const auto setup = windowSetup(commandLine);
+    if (!setup)
+        return endWith(setup.failure().text);
+    const QDir folder(*commandLine.screenshot);
+    if (!folder.mkpath(QStringLiteral(".")))
+        return endWith(Text::tr("The folder %1 cannot be made. Choose another one for the pictures.")
+                           .arg(folder.path()));
+
+    PrintDialog dialog(*setup);
+    dialog.resize(dialog.sizeHint());
+    dialog.show();
+    if (const QString failure = openPrinter(dialog, application, commandLine); !failure.isEmpty())
+        return endWith(failure);
+    waitFor(application, [&dialog] { return dialog.isPreviewReady(); });
+    return endWith(renderPages(dialog, application, folder));
+}
+
 } // namespace printdialog

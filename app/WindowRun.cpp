@@ -1,2 +1,50 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
 #include "WindowRun.h"
-namespace printdialog { int runWindow(const CommandLine &, QApplication &) { return 0; } }
+
+#include "Console.h"
+
+#include <QtCore/QTimer>
+#include <QtWidgets/QApplication>
+
+namespace printdialog {
+
+Result<PrintDialogSetup, PhotoFault> windowSetup(const CommandLine &commandLine)
+{
+    PrintDialogSetup setup;
+    for (const QString &path : commandLine.photos) {
+        const auto photo = Photo::open(path);
+        if (!photo)
+            return photo.failure();
+        setup.photos.append(*photo);
+    }
+    setup.mode = commandLine.mode;
+    setup.printer = commandLine.printer;
+    setup.ppdFile = commandLine.ppd;
+    for (const RequestedChoice &option : commandLine.options)
+        setup.options.append({option.key, option.choice});
+    setup.outputFolder = commandLine.output;
+    return setup;
+}
+
+int runWindow(const CommandLine &commandLine, QApplication & /*application*/)
+{
+    Console console;
+    const auto setup = windowSetup(commandLine);
+    if (!setup) {
+        console.complain(setup.failure().text);
+        return exitFailed;
+    }
+    PrintDialog dialog(*setup);
+    if (commandLine.ppd && !dialog.isReady()) {
+        console.complain(dialog.whyNotReady());
+        return exitFailed;
+    }
+    // Queues are looked for once the window is there; none of it may hold up the first picture.
+    QTimer::singleShot(0, &dialog, &PrintDialog::searchPrinters);
+    dialog.exec();
+    return exitDone;
+}
+
+} // namespace printdialog
