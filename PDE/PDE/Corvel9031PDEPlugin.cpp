@@ -5,10 +5,10 @@
 
 #include "Bundle.h"
 #include "BundleIdentifier.h"
+#include "LVCorvelLaminationPDE.h"
 #include "LVCorvelMainPDE.h"
+#include "LVSharpnessCorvelPDE.h"
 #include "SystemLog.h"
-
-#include <array>
 
 bool Corvel9031PDEPlugin::initWithBundle(const pdekit::Bundle &bundle)
 {
@@ -25,15 +25,17 @@ Corvel9031PDEPlugin::PDEPanelsForTypeWithHostInfo(const QString &type, const pde
 {
     if (type != QLatin1String(pdekit::PrinterPanelsType))
         return std::nullopt;
-    std::array<pdekit::PanelPointer, 1> offered = {
-        RKTPPRBasePDEcorvel::make<LVCorvelMainPDE>(hostInfo),
-    };
-    // A panel that could not be made ends the list: those after it are not offered either.
+    pdekit::PanelPointer lamination = RKTPPRBasePDEcorvel::make<LVCorvelLaminationPDE>(hostInfo);
+    pdekit::PanelPointer sharpness = RKTPPRBasePDEcorvel::make<LVSharpnessCorvelPDE>(hostInfo);
+    pdekit::PanelPointer colorAdjustment = RKTPPRBasePDEcorvel::make<LVCorvelMainPDE>(hostInfo);
+
+    // Made last, offered first. A panel that could not be made ends the list: those after it are not offered
+    // either.
     pdekit::PanelList panels;
-    for (pdekit::PanelPointer &panel : offered) {
-        if (!panel)
+    for (pdekit::PanelPointer *panel : {&colorAdjustment, &sharpness, &lamination}) {
+        if (!*panel)
             break;
-        panels.push_back(std::move(panel));
+        panels.push_back(std::move(*panel));
     }
     return panels;
 }

@@ -5,6 +5,7 @@
 
 #include "Bundle.h"
 #include "ChoiceReceiver.h"
+#include "KeyValueObject.h"
 #include "PrintDialogPanel.h"
 
 #include <QtCore/QHash>
@@ -17,7 +18,8 @@ struct ppd_file_s;
 
 namespace pdekit {
 class PrintDialogCallback;
-}
+class RadioMatrix;
+} // namespace pdekit
 
 /// The base of the plug-in's panels: all that they share of the dialog's protocol, of the road from a control
 /// to a recorded choice and back, and of the access to the print system. A concrete panel overrides hooks
@@ -30,7 +32,9 @@ class PrintDialogCallback;
 ///
 /// Controls are found by tag: option controls 1, 2, 3, ...; the partner that shows the same value as control
 /// N at N ^ 80; the defaults button 16; the enabler check box 32. Main thread only.
-class RKTPPRBasePDEcorvel : public QObject, public pdekit::PrintDialogPanel, public pdekit::ChoiceReceiver
+class RKTPPRBasePDEcorvel : public pdekit::KeyValueObject,
+                            public pdekit::PrintDialogPanel,
+                            public pdekit::ChoiceReceiver
 {
     Q_OBJECT
     Q_INTERFACES(pdekit::PrintDialogPanel pdekit::ChoiceReceiver)
@@ -106,6 +110,10 @@ public:
     /// The user has changed the text of the field `object`.
     virtual void controlTextDidChange(QWidget *object);
 
+    // The form's bindings.
+    std::optional<QString> valueOfBoundControl(QWidget *control) override;
+    void showValueInBoundControl(QWidget *control, const QString &value) override;
+
     // The dialog's protocol.
     void willShow() override;
     bool shouldHide() override;
@@ -134,6 +142,10 @@ protected:
     /// The keyword of the choice marked in the PPD.
     Text markedChoice(const QString &key) const;
     Text recordedChoice(const Text &key) const;
+    /// The choice of a radio group's selected cell, or that for the tag of any other control.
+    Text cellChoice(QWidget *sender) const;
+    /// Selects the cell that stands for the choice.
+    void selectCell(pdekit::RadioMatrix *matrix, const Text &value);
 
     std::shared_ptr<QObject> pdePluginCallbackObject_; ///< the dialog's
     Text thePDEName_;                                  ///< filled by the concrete panel's panelName

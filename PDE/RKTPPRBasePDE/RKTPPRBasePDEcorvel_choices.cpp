@@ -62,12 +62,19 @@ void RKTPPRBasePDEcorvel::controlTextDidEndEditing(QWidget *object)
 
 RKTPPRBasePDEcorvel::Text RKTPPRBasePDEcorvel::newChoiceForSender(QWidget *sender)
 {
-    if (const auto *matrix = qobject_cast<pdekit::RadioMatrix *>(sender))
-        return ppdChoiceForTag(pdekit::RadioMatrix::cellTag(matrix->selectedCell()));
+    if (qobject_cast<pdekit::RadioMatrix *>(sender))
+        return cellChoice(sender);
     const Text text = pdekit::stringValue(sender);
     if (!text || !pdekit::isTextField(sender) || *text == loneMinus)
         return text;
     return QString::number(pdekit::leadingInteger(*text));
+}
+
+RKTPPRBasePDEcorvel::Text RKTPPRBasePDEcorvel::cellChoice(QWidget *sender) const
+{
+    const auto *matrix = qobject_cast<pdekit::RadioMatrix *>(sender);
+    return ppdChoiceForTag(matrix ? pdekit::RadioMatrix::cellTag(matrix->selectedCell())
+                                  : pdekit::tag(sender));
 }
 
 // The choice's way into the record, or back to the control

@@ -61,8 +61,7 @@ void RKTPPRBasePDEcorvel::updateControlWithValue(QWidget *control, const Text &v
         return;
     }
     if (auto *matrix = qobject_cast<pdekit::RadioMatrix *>(control)) {
-        matrix->selectCellWithTag(tagForStringValue(value));
-        matrix->setToolTip(QString());
+        selectCell(matrix, value);
         return;
     }
     pdekit::setStringValue(control, *value);
@@ -71,6 +70,22 @@ void RKTPPRBasePDEcorvel::updateControlWithValue(QWidget *control, const Text &v
         pdekit::setStringValue(partner, *value);
         partner->setToolTip(*value);
     }
+}
+
+void RKTPPRBasePDEcorvel::selectCell(pdekit::RadioMatrix *matrix, const Text &value)
+{
+    matrix->selectCellWithTag(tagForStringValue(value));
+    matrix->setToolTip(QString());
+}
+
+std::optional<QString> RKTPPRBasePDEcorvel::valueOfBoundControl(QWidget *control)
+{
+    return newChoiceForSender(control);
+}
+
+void RKTPPRBasePDEcorvel::showValueInBoundControl(QWidget *control, const QString &value)
+{
+    updateControlWithValue(control, value);
 }
 
 void RKTPPRBasePDEcorvel::updateUI()

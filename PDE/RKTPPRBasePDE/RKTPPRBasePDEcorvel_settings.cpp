@@ -51,7 +51,8 @@ std::optional<QByteArray> RKTPPRBasePDEcorvel::ppdDataCopy()
 QString RKTPPRBasePDEcorvel::printerDeviceURI()
 {
     if (!deviceURI_ && callback() && callback()->PMPrinter()) {
-        if (const auto uri = callback()->PMPrinter()->PMPrinterCopyDeviceURI()) {
+        pdekit::Printer *printer = callback()->PMPrinter();
+        if (const auto uri = printer ? printer->PMPrinterCopyDeviceURI() : std::nullopt) {
             const QString text = uri->absolute();
             if (!text.isEmpty())
                 deviceURI_ = text;

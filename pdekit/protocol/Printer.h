@@ -11,8 +11,8 @@
 
 namespace pdekit {
 
-/// A URL as a print system hands it out: possibly relative to a base. It is kept as text, since QUrl refuses or
-/// rewrites what device URIs are made of: upper case and "%20" in the place of the host.
+/// A URL as a print system hands it out: possibly relative to a base. It is kept as text, since QUrl refuses
+/// or rewrites what device URIs are made of: upper case and "%20" in the place of the host.
 struct URLReference
 {
     explicit URLReference(const QString &reference, const std::optional<QString> &baseText = std::nullopt)

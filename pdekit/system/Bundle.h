@@ -38,7 +38,7 @@ public:
     /// The bundle at `path`. Where there is none, nothing, with the reason in `fault` unless it is null.
     static std::optional<Bundle> open(const QString &path, BundleFault *fault = nullptr);
     /// The bundle of the module or program that holds the class; when that stands in none, an empty bundle
-    /// with the program's folder as its path.
+    /// with the folder of that file as its path.
     static Bundle bundleForClass(const QMetaObject &metaObject);
 
     /// Absolute.

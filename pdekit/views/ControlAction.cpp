@@ -10,7 +10,31 @@
 #include <QtWidgets/QAbstractSlider>
 #include <QtWidgets/QComboBox>
 
+#include <utility>
+
 namespace pdekit {
+
+namespace {
+
+// A click toggles a button first; an assistive tool only toggles it. Each is one action.
+void connectButton(QAbstractButton *button, QObject *context, const std::function<void()> &action)
+{
+    const auto acted = std::make_shared<bool>(false);
+    QObject::connect(button, &QAbstractButton::pressed, context, [acted] { *acted = false; });
+    QObject::connect(button, &QAbstractButton::toggled, context, [button, action, acted](bool on) {
+        // A radio button goes off because another one was picked.
+        if (isBeingSet(button) || (!on && button->autoExclusive()))
+            return;
+        *acted = true;
+        action();
+    });
+    QObject::connect(button, &QAbstractButton::clicked, context, [action, acted] {
+        if (!std::exchange(*acted, false))
+            action();
+    });
+}
+
+} // namespace
 
 bool connectAction(QWidget *control, QObject *context, const std::function<void()> &action)
 {
@@ -23,7 +47,7 @@ bool connectAction(QWidget *control, QObject *context, const std::function<void(
         return true;
     }
     if (auto *button = qobject_cast<QAbstractButton *>(control)) {
-        QObject::connect(button, &QAbstractButton::clicked, context, action);
+        connectButton(button, context, action);
         return true;
     }
     if (auto *matrix = qobject_cast<RadioMatrix *>(control)) {

@@ -85,6 +85,11 @@ bool isControl(const QWidget *view)
            qobject_cast<const QComboBox *>(view) || qobject_cast<const RadioMatrix *>(view);
 }
 
+bool isSlider(const QWidget *view)
+{
+    return qobject_cast<const QAbstractSlider *>(view) != nullptr;
+}
+
 bool isTextField(const QWidget *view)
 {
     return qobject_cast<const QLineEdit *>(view) != nullptr;

@@ -21,6 +21,8 @@ namespace pdekit {
 
 /// A control is a slider, text field, label, pop-up (QComboBox), button, or radio group.
 PDEKIT_EXPORT bool isControl(const QWidget *view);
+/// A slider is a QAbstractSlider.
+PDEKIT_EXPORT bool isSlider(const QWidget *view);
 /// A text field is a QLineEdit.
 PDEKIT_EXPORT bool isTextField(const QWidget *view);
 

@@ -3,8 +3,10 @@
 
 #include "FormLoader.h"
 
+#include "Bindings.h"
 #include "Bundle.h"
 #include "ControlAction.h"
+#include "KeyValueObject.h"
 #include "PlatformException.h"
 #include "RadioMatrix.h"
 
@@ -79,7 +81,7 @@ void localizeAccessibleTexts(QWidget *view, const Bundle &bundle)
 
 } // namespace
 
-std::unique_ptr<QWidget> loadForm(const Bundle &bundle, const QString &name, QObject *owner)
+std::unique_ptr<QWidget> loadForm(const Bundle &bundle, const QString &name, KeyValueObject *owner)
 {
     const std::optional<QString> path = bundle.pathForResource(name, QStringLiteral("ui"));
     if (!path)
@@ -96,6 +98,7 @@ std::unique_ptr<QWidget> loadForm(const Bundle &bundle, const QString &name, QOb
         connectToOwner(each, owner);
         localizeAccessibleTexts(each, bundle);
     }
+    bindControls(view.get(), owner);
     return view;
 }
 

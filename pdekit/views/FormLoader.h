@@ -7,22 +7,23 @@
 
 #include <memory>
 
-class QObject;
 class QString;
 class QWidget;
 
 namespace pdekit {
 
 class Bundle;
+class KeyValueObject;
 
 /// Loads the form `name` (Qt Designer, `name`.ui) from the bundle's resources, with `owner` as the receiver
 /// of its actions: where a control's dynamic property `action` names an invokable member of `owner` that
 /// takes a QObject *, each action of the user on the control calls it with the control. Accessible names and
-/// descriptions are keys of the bundle's strings table and are localised here. The form's root is the view,
-/// named `PDEView`.
+/// descriptions are keys of the bundle's strings table and are localised here. Controls are bound to the
+/// owner's values (bindControls). The form's root is the view, named `PDEView`.
 ///
 /// Null when the bundle has no such form, or it cannot be read as one. Throws PlatformException when the form
 /// names an action that `owner` does not have.
-PDEKIT_EXPORT std::unique_ptr<QWidget> loadForm(const Bundle &bundle, const QString &name, QObject *owner);
+PDEKIT_EXPORT std::unique_ptr<QWidget> loadForm(const Bundle &bundle, const QString &name,
+                                                KeyValueObject *owner);
 
 } // namespace pdekit

@@ -3,6 +3,9 @@
 
 #include "RadioMatrix.h"
 
+#include "ControlAction.h"
+#include "ControlValues.h"
+
 #include <QtCore/QChildEvent>
 #include <QtCore/QVariant>
 #include <QtWidgets/QAbstractButton>
@@ -33,10 +36,9 @@ bool RadioMatrix::selectCellWithTag(int wanted)
 {
     const QList<QAbstractButton *> all = cells();
     for (QAbstractButton *cell : all) {
-        if (cell->property("cellTag").isValid() && cellTag(cell) == wanted) {
-            cell->setChecked(true);
-            return true;
-        }
+        connectCell(cell);
+        if (cell->property("cellTag").isValid() && cellTag(cell) == wanted)
+            return setState(cell, 1);
     }
     return false;
 }
@@ -56,12 +58,25 @@ int RadioMatrix::cellTag(const QAbstractButton *cell)
     return cell ? cell->property("cellTag").toInt() : 0;
 }
 
+void RadioMatrix::connectCell(QAbstractButton *cell)
+{
+    if (connectedCells_.contains(cell))
+        return;
+    connectedCells_.insert(cell);
+    // In this order: who follows the selection sees it as the action has left it.
+    connectAction(cell, this, [this] { Q_EMIT cellClicked(); });
+    connect(cell, &QAbstractButton::toggled, this, [this](bool on) {
+        if (on)
+            Q_EMIT selectionChanged();
+    });
+}
+
 void RadioMatrix::childEvent(QChildEvent *event)
 {
     // A cell that is being added may not be a button yet; at polishing it is whole.
     if (event->polished()) {
         if (auto *cell = qobject_cast<QAbstractButton *>(event->child()))
-            connect(cell, &QAbstractButton::clicked, this, &RadioMatrix::cellClicked, Qt::UniqueConnection);
+            connectCell(cell);
     }
     QWidget::childEvent(event);
 }

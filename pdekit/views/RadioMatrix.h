@@ -5,6 +5,7 @@
 
 #include "pdekit_export.h"
 
+#include <QtCore/QSet>
 #include <QtWidgets/QWidget>
 
 class QAbstractButton;
@@ -36,9 +37,16 @@ public:
 Q_SIGNALS:
     /// The user has picked a cell.
     void cellClicked();
+    /// Another cell is selected, whoever has selected it; after cellClicked when it was the user.
+    void selectionChanged();
 
 protected:
     void childEvent(QChildEvent *event) override;
+
+private:
+    void connectCell(QAbstractButton *cell);
+
+    QSet<const QObject *> connectedCells_;
 };
 
 } // namespace pdekit

@@ -51,8 +51,12 @@ std::optional<Failure<PluginFault>> DialogSession::loadPanels()
     if (!panels)
         return panels.failure();
     panels_ = *std::move(panels);
-    for (const pdekit::PanelPointer &panel : panels_)
+    for (const pdekit::PanelPointer &panel : panels_) {
         panel->restoreValuesAndReturnError(nullptr);
+        const QStringList keys = panel->supportedPPDOptionKeys();
+        for (const QString &key : keys)
+            knownMarks_.insert(key, ppd_.markedChoice(key).value_or(QString()));
+    }
     return std::nullopt;
 }
 
@@ -63,11 +67,34 @@ bool DialogSession::rule(const QString &key, const QString &choice)
 {
     lastRuling_ = marker_.mark(key, choice);
     const bool let = lastRuling_.verdict == Verdict::Accepted || lastRuling_.verdict == Verdict::Incomplete;
-    if (let)
+    if (let) {
+        announceChangedMarks(key);
         Q_EMIT choiceMade(key);
-    else
+    } else
         Q_EMIT choiceRefused(lastRuling_);
     return let;
+}
+
+// Marking one choice may change the mark of another option. The panel that has asked records its own choice
+// itself.
+void DialogSession::announceChangedMarks(const QString &askedKey)
+{
+    for (const pdekit::PanelPointer &panel : panels_) {
+        bool hasChanged = false;
+        const QStringList keys = panel->supportedPPDOptionKeys();
+        for (const QString &key : keys) {
+            const std::optional<QString> marked = ppd_.markedChoice(key);
+            if (!marked || knownMarks_.value(key) == *marked)
+                continue;
+            knownMarks_.insert(key, *marked);
+            if (key == askedKey)
+                continue;
+            panel->PPDOptionKeyValueDidChangePpdChoice(key, marked);
+            hasChanged = true;
+        }
+        if (hasChanged)
+            panel->restoreValuesAndReturnError(nullptr);
+    }
 }
 
 Ruling DialogSession::choose(const QString &key, const QString &choice)
@@ -103,7 +130,9 @@ Ruling DialogSession::chooseDirectly(const Ruling &offered)
         mode_ == PanelMode::Constraint ? marker_.mark(offered.key, offered.choice) : offered;
     if (ruling.verdict != Verdict::Accepted)
         return ruling;
-    if (mode_ == PanelMode::Settings)
+    if (mode_ == PanelMode::Constraint)
+        announceChangedMarks({});
+    else
         ticket_.options().insert(offered.key, offered.choice);
     if (!directKeys_.contains(offered.key))
         directKeys_.append(offered.key);
@@ -121,6 +150,15 @@ void DialogSession::restoreChoices(const QMap<QString, QString> &choices)
             const bool isMade = choose(entry.key(), entry.value()).verdict == Verdict::Accepted;
             entry = isMade ? waiting.erase(entry) : std::next(entry);
         }
+    }
+}
+
+// A panel restores from where its mode keeps the choices, so what it has recorded goes there first.
+void DialogSession::refreshPanels()
+{
+    for (const pdekit::PanelPointer &panel : panels_) {
+        panel->saveValuesAndReturnError(nullptr);
+        panel->restoreValuesAndReturnError(nullptr);
     }
 }
 

@@ -51,6 +51,9 @@ public:
     /// are left out. For choices that were kept from an earlier time.
     void restoreChoices(const QMap<QString, QString> &choices);
 
+    /// Lets the panels' controls show choices that did not come from them.
+    void refreshPanels();
+
     /// The job's choice of an option: what is recorded for it, else what is marked in the PPD.
     std::optional<QString> chosen(const QString &key) const;
 
@@ -70,6 +73,7 @@ Q_SIGNALS:
 
 private:
     bool rule(const QString &key, const QString &choice);
+    void announceChangedMarks(const QString &askedKey);
     Ruling chooseThroughPanel(pdekit::PrintDialogPanel &panel, const Ruling &offered);
     Ruling chooseDirectly(const Ruling &offered);
     pdekit::PrintDialogPanel *panelFor(const QString &key) const;
@@ -85,6 +89,7 @@ private:
     pdekit::PanelList panels_; ///< after what they are made from, so that they go first
     QStringList directKeys_;   ///< options chosen that no panel supports
     Ruling lastRuling_;
+    QHash<QString, QString> knownMarks_; ///< what the panels know to be marked
 };
 
 } // namespace printdialog

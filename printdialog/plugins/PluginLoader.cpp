@@ -15,10 +15,10 @@ namespace printdialog {
 
 namespace {
 
-QString tr(const char *text)
+struct Text
 {
-    return QCoreApplication::translate("PluginLoader", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(PluginLoader)
+};
 
 Failure<PluginFault> failure(PluginFault fault, const QString &text, const QString &detail = {})
 {
@@ -46,25 +46,25 @@ QString reasonText(pdekit::BundleFault fault)
 {
     switch (fault) {
     case pdekit::BundleFault::NotFound:
-        return tr("it is not a folder");
+        return Text::tr("it is not a folder");
     case pdekit::BundleFault::NoInfo:
-        return tr("it has no readable Contents/Info.json");
+        return Text::tr("it has no readable Contents/Info.json");
     case pdekit::BundleFault::InfoTooLarge:
-        return tr("its Info.json is larger than 64 KiB");
+        return Text::tr("its Info.json is larger than 64 KiB");
     case pdekit::BundleFault::BrokenInfo:
-        return tr("its Info.json is not a JSON object");
+        return Text::tr("its Info.json is not a JSON object");
     case pdekit::BundleFault::NoIdentifier:
-        return tr("its Info.json has no \"CFBundleIdentifier\"");
+        return Text::tr("its Info.json has no \"CFBundleIdentifier\"");
     case pdekit::BundleFault::BadExecutable:
-        return tr("the \"CFBundleExecutable\" of its Info.json is not a plain file name");
+        return Text::tr("the \"CFBundleExecutable\" of its Info.json is not a plain file name");
     }
     return {};
 }
 
 Failure<PluginFault> unusable(PluginFault fault, const QString &path, const QString &reason)
 {
-    return failure(fault,
-                   tr("The plug-in bundle \"%1\" cannot be used: %2. Install it again.").arg(path, reason));
+    return failure(
+        fault, Text::tr("The plug-in bundle \"%1\" cannot be used: %2. Install it again.").arg(path, reason));
 }
 
 } // namespace
@@ -79,15 +79,16 @@ QStringList PluginLoader::folders()
 Result<LoadedPlugin, PluginFault> PluginLoader::load(const QString &name)
 {
     if (!isPlainName(name)) {
-        return failure(PluginFault::BadName,
-                       tr("The printer's PPD asks for the plug-in bundle \"%1\", which is no bundle's name. "
-                          "Use a PPD made for this printer.")
-                           .arg(name));
+        return failure(
+            PluginFault::BadName,
+            Text::tr("The printer's PPD asks for the plug-in bundle \"%1\", which is no bundle's name. "
+                     "Use a PPD made for this printer.")
+                .arg(name));
     }
     const std::optional<QString> path = findBundle(name);
     if (!path) {
         return failure(PluginFault::NotFound,
-                       tr("The plug-in bundle \"%1\" was not found in %2. Install it there.")
+                       Text::tr("The plug-in bundle \"%1\" was not found in %2. Install it there.")
                            .arg(name, folders().join(QLatin1String(", "))));
     }
     pdekit::BundleFault fault = {};
@@ -97,20 +98,20 @@ Result<LoadedPlugin, PluginFault> PluginLoader::load(const QString &name)
 
     const QString module = bundle->executablePath() + QLatin1String(".so");
     if (!QFileInfo(module).isFile())
-        return unusable(PluginFault::NotLoadable, *path, tr("it has no module \"%1\"").arg(module));
+        return unusable(PluginFault::NotLoadable, *path, Text::tr("it has no module \"%1\"").arg(module));
     QPluginLoader loader(module);
     loader.setLoadHints(QLibrary::PreventUnloadHint);
     if (loader.metaData().value(QLatin1String("IID")).toString() != QLatin1String(PrintDialogPlugin_iid))
-        return unusable(PluginFault::NotAPlugin, *path, tr("its module is no print-dialog plug-in"));
+        return unusable(PluginFault::NotAPlugin, *path, Text::tr("its module is no print-dialog plug-in"));
     QObject *root = loader.instance();
     if (!root)
         return unusable(PluginFault::NotLoadable, *path, loader.errorString());
     auto *plugin = qobject_cast<pdekit::PrintDialogPlugin *>(root);
     if (!plugin)
-        return unusable(PluginFault::NotAPlugin, *path, tr("its module is no print-dialog plug-in"));
+        return unusable(PluginFault::NotAPlugin, *path, Text::tr("its module is no print-dialog plug-in"));
     if (!plugin->initWithBundle(*bundle)) {
         return unusable(PluginFault::Refused, *path,
-                        tr("its identifier \"%1\" is not the one that its module was built for")
+                        Text::tr("its identifier \"%1\" is not the one that its module was built for")
                             .arg(bundle->identifier()));
     }
     return LoadedPlugin{*bundle, plugin};
@@ -123,7 +124,7 @@ Result<pdekit::PanelList, PluginFault> PluginLoader::panels(const LoadedPlugin &
         plugin.plugin->PDEPanelsForTypeWithHostInfo(QString::fromLatin1(pdekit::PrinterPanelsType), hostInfo);
     if (!panels || panels->empty())
         return unusable(PluginFault::NoPanels, plugin.bundle.path(),
-                        tr("it offers no panel for this printer"));
+                        Text::tr("it offers no panel for this printer"));
     return *std::move(panels);
 }
 

@@ -16,6 +16,9 @@ namespace printdialog {
 
 namespace {
 
+constexpr int pageMargin = 8;
+constexpr int handPlacedMargin = 17; // about what a view with a layout keeps free in the page
+
 QWidget *viewOf(pdekit::PrintDialogPanel &panel)
 {
     try {
@@ -32,6 +35,7 @@ PanelTabs::PanelTabs(QWidget *parent)
     : QTabWidget(parent)
     , summary_(new SummaryPage(this))
 {
+    setUsesScrollButtons(false); // every page stays in sight
     summary_->hide();
     connect(this, &QTabWidget::currentChanged, this, &PanelTabs::showPage);
 }
@@ -49,7 +53,7 @@ void PanelTabs::setSession(DialogSession *session)
     for (const pdekit::PanelPointer &panel : session->panels()) {
         auto *holder = new QWidget;
         auto *layout = new QVBoxLayout(holder);
-        layout->setContentsMargins(8, 8, 8, 8);
+        layout->setContentsMargins(pageMargin, pageMargin, pageMargin, pageMargin);
         pages_.append({panel.get(), holder});
         addTab(holder, panel->panelName().value_or(tr("Options")));
     }
@@ -89,8 +93,16 @@ void PanelTabs::fillPage(Page &page)
         return;
     page.wasShown = true;
     if (QWidget *view = viewOf(*page.panel)) {
-        page.holder->layout()->addWidget(view);
-        page.panel->willShow();
+        if (view->layout()) {
+            page.holder->layout()->addWidget(view);
+            page.panel->willShow();
+        } else {
+            // A panel that places its controls by hand has the size that it gives itself.
+            view->setParent(page.holder);
+            page.panel->willShow();
+            view->move(handPlacedMargin, handPlacedMargin);
+            page.holder->setMinimumSize(view->size() + QSize(2 * handPlacedMargin, 2 * handPlacedMargin));
+        }
         view->show();
         return;
     }

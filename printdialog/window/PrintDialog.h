@@ -79,8 +79,7 @@ private:
     void takePpd(quint64 number, const QByteArray &ppd);
     void takeSession(std::unique_ptr<DialogSession> session);
     void closeSession(const QString &reason);
-    void applySavedSettings();
-    void applyOptions();
+    bool applyOptions();
 
     // The page
     void fillPageSizes();

@@ -71,8 +71,11 @@ void PrintDialog::takeSession(std::unique_ptr<DialogSession> session)
             showPageSize();
     });
     const auto noPanels = session_->loadPanels();
-    session_->restoreChoices(QueueSettings::load(session_->printer().name));
-    applyOptions();
+    const QMap<QString, QString> saved = QueueSettings::load(session_->printer().name);
+    session_->restoreChoices(saved);
+    const bool hasOptions = applyOptions();
+    if (hasOptions || !saved.isEmpty())
+        session_->refreshPanels();
     fillPageSizes();
     ui_->panels->setSession(session_.get());
     if (noPanels)
@@ -84,16 +87,17 @@ void PrintDialog::takeSession(std::unique_ptr<DialogSession> session)
 }
 
 // The command line's options are the first printer's; a printer chosen later has choices of its own.
-void PrintDialog::applyOptions()
+bool PrintDialog::applyOptions()
 {
     if (optionsApplied_)
-        return;
+        return false;
     optionsApplied_ = true;
     for (const auto &[key, choice] : std::as_const(setup_.options)) {
         const Ruling ruling = session_->choose(key, choice);
         if (ruling.verdict != Verdict::Accepted)
             ui_->message->show(MessageBar::Kind::Warning, ruling.text);
     }
+    return !setup_.options.isEmpty();
 }
 
 // The page

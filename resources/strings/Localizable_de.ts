@@ -163,5 +163,13 @@
         <source>corvelGammaValue</source>
         <translation>Wert für Gamma</translation>
     </message>
+    <message>
+        <source>corvelRadiusValue</source>
+        <translation>Wert für den Schärferadius</translation>
+    </message>
+    <message>
+        <source>corvelIntensityValue</source>
+        <translation>Wert für die Schärfeintensität</translation>
+    </message>
 </context>
 </TS>

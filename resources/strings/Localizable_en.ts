@@ -163,5 +163,13 @@
         <source>corvelGammaValue</source>
         <translation>Gamma value</translation>
     </message>
+    <message>
+        <source>corvelRadiusValue</source>
+        <translation>Sharpness radius value</translation>
+    </message>
+    <message>
+        <source>corvelIntensityValue</source>
+        <translation>Sharpness intensity value</translation>
+    </message>
 </context>
 </TS>

@@ -163,5 +163,13 @@
         <source>corvelGammaValue</source>
         <translation>Valor de gamma</translation>
     </message>
+    <message>
+        <source>corvelRadiusValue</source>
+        <translation>Valor del radio de nitidez</translation>
+    </message>
+    <message>
+        <source>corvelIntensityValue</source>
+        <translation>Valor de la intensidad de nitidez</translation>
+    </message>
 </context>
 </TS>

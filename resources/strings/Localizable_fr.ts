@@ -163,5 +163,13 @@
         <source>corvelGammaValue</source>
         <translation>Valeur du gamma</translation>
     </message>
+    <message>
+        <source>corvelRadiusValue</source>
+        <translation>Valeur du rayon de netteté</translation>
+    </message>
+    <message>
+        <source>corvelIntensityValue</source>
+        <translation>Valeur de l’intensité de netteté</translation>
+    </message>
 </context>
 </TS>

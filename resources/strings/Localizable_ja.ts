@@ -163,5 +163,13 @@
         <source>corvelGammaValue</source>
         <translation>ガンマの値</translation>
     </message>
+    <message>
+        <source>corvelRadiusValue</source>
+        <translation>シャープネスの半径の値</translation>
+    </message>
+    <message>
+        <source>corvelIntensityValue</source>
+        <translation>シャープネスの強さの値</translation>
+    </message>
 </context>
 </TS>

@@ -3,10 +3,12 @@
 
 #pragma once
 
+#include "KeyValueObject.h"
+
 #include <QtCore/QObject>
 
 /// The kit that dialog and plug-in share.
-class KitTest : public QObject
+class KitTest : public pdekit::KeyValueObject
 {
     Q_OBJECT
 

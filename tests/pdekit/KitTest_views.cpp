@@ -22,6 +22,8 @@
 #include <QtWidgets/QRadioButton>
 #include <QtWidgets/QSlider>
 
+#include <utility>
+
 namespace {
 
 QString text(const char *latin1)
@@ -115,6 +117,8 @@ void KitTest::actionsOfUsersOnly()
     pdekit::RadioMatrix matrix;
     auto *cell = new QRadioButton(&matrix);
     cell->setProperty("cellTag", 7);
+    auto *cell2 = new QRadioButton(&matrix);
+    cell2->move(0, 40);
     QLineEdit field;
     for (QWidget *control : {static_cast<QWidget *>(&slider), static_cast<QWidget *>(&box),
                              static_cast<QWidget *>(&combo), static_cast<QWidget *>(&matrix)})
@@ -132,17 +136,33 @@ void KitTest::actionsOfUsersOnly()
     accessible->valueInterface()->setCurrentValue(33);
     QCOMPARE(slider.value(), 33);
     QCOMPARE(actions, 1);
-    accessible = QAccessible::queryAccessibleInterface(&box);
-    accessible->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
+    const auto toggle = [](QWidget *button) {
+        QAccessible::queryAccessibleInterface(button)->actionInterface()->doAction(
+            QAccessibleActionInterface::toggleAction());
+    };
+    toggle(&box);
     QVERIFY(!box.isChecked());
     QCOMPARE(actions, 2);
+    box.setTristate(); // off, mixed, on: each click is one action, also where nothing is toggled
+    for (const int state : {-1, 1, 0, -1}) {
+        box.click();
+        QCOMPARE(pdekit::state(&box), state);
+    }
+    QCOMPARE(std::exchange(actions, 0), 6);
+
+    matrix.resize(200, 100);
     matrix.show();
-    QTest::mouseClick(cell, Qt::LeftButton, {}, {8, cell->height() / 2});
-    QCOMPARE(actions, 3);
+    QTest::mouseClick(cell, Qt::LeftButton, {}, {8, cell->height() / 2}); // selected already
+    QCOMPARE(actions, 1);
+    QTest::mouseClick(cell2, Qt::LeftButton, {}, {8, cell2->height() / 2});
+    QCOMPARE(actions, 2);
+    toggle(cell);
+    QCOMPARE(matrix.selectedCell(), cell);
+    QCOMPARE(std::exchange(actions, 0), 3);
     combo.show();
     QTest::keyClick(&combo, Qt::Key_Up);
     QCOMPARE(pdekit::stringValue(&combo), text("a"));
-    QCOMPARE(actions, 4);
+    QCOMPARE(actions, 1);
 }
 
 void KitTest::textFieldEvents()

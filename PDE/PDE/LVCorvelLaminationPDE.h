@@ -1,0 +1,67 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include "RKTPPRBasePDEcorvel.h"
+
+#include <cstdint>
+
+/// The panel of the print quality and the surface finish. For the K9031, whose finish cannot be chosen, it
+/// retires the controls of the finish.
+///
+/// Its bound values (Quality, Overcoat, MatteValue, qual, isMatte) follow the controls through the form's
+/// bindings.
+class LVCorvelLaminationPDE : public RKTPPRBasePDEcorvel
+{
+    Q_OBJECT
+    Q_PROPERTY(QString MatteValue READ matteValue WRITE setMatteValue)
+    Q_PROPERTY(QString Quality READ quality WRITE setQuality)
+    Q_PROPERTY(QString Overcoat READ overcoat WRITE setOvercoat)
+    Q_PROPERTY(int qual READ qual WRITE setQual)
+    Q_PROPERTY(bool isMatte READ isMatte)
+
+public:
+    /// Does not refresh the controls. For the K9031 each call moves the defaults button 100 points up and
+    /// takes 100 points of the panel's height.
+    void willShow() override;
+    Text nibName() override;
+    Text panelName() override;
+    Text panelKind() const override;
+    QStringList supportedPPDOptionKeys() override;
+    Text ppdOptionKeyForTag(int tag) const override;
+    Text ppdChoiceForTag(int cellTag) const override;
+    int tagForStringValue(const Text &value) const override;
+    /// Inverted: a ticked box disables the option controls.
+    int enablerState(QWidget *enabler) const override;
+
+    /// A change of "Overcoat" is a change of "isMatte", too.
+    void willChangeValueForKey(const QString &key) override;
+    void didChangeValueForKey(const QString &key) override;
+
+    Q_INVOKABLE std::int32_t qual() const { return qual_; }
+    /// Keeps `qual` within -25 to 25; tells of the change when the value had to be clamped.
+    void setQual(std::int32_t value);
+    Q_INVOKABLE bool isMatte() const;
+
+    QString matteValue() const { return MatteValue_; }
+    void setMatteValue(const QString &value);
+    QString quality() const { return Quality_; }
+    void setQuality(const QString &value);
+    QString overcoat() const { return Overcoat_; }
+    void setOvercoat(const QString &value);
+
+    /// Stores a bound value as the choice for the option, after asking the print system in
+    /// constraint-handling mode. A refusal is answered with an alert, and nothing is stored or put back. An
+    /// invokable member without arguments that is named `key` is called first, and its answer dropped.
+    Q_INVOKABLE void setValueForBoundControlWithKey(const QString &value, const QString &key);
+
+private:
+    void retireControls(QWidget *view);
+    void setBoundValue(QString &field, const QString &key, const QString &value);
+
+    QString MatteValue_;
+    QString Quality_;
+    QString Overcoat_;
+    std::int32_t qual_ = 0;
+};

@@ -1,0 +1,28 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include "RKTPPRBasePDEcorvel.h"
+
+/// The panel of the printer's sharpening: the radius, a whole number, and the intensity, a number with two
+/// decimals.
+class LVSharpnessCorvelPDE : public RKTPPRBasePDEcorvel
+{
+    Q_OBJECT
+
+public:
+    Text nibName() override;
+    Text panelName() override;
+    Text panelKind() const override;
+    QStringList supportedPPDOptionKeys() override;
+    Text ppdOptionKeyForTag(int tag) const override;
+    Text ppdChoiceForTag(int cellTag) const override;
+    int tagForStringValue(const Text &value) const override;
+
+    /// A whole number, but for the intensity: its slider gives two decimals without a sign, its field the
+    /// text as it is typed.
+    Text newChoiceForSender(QWidget *sender) override;
+    /// Rewrites the intensity with two decimals, and offers it once more.
+    void controlTextDidEndEditing(QWidget *object) override;
+};
