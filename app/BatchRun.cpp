@@ -46,8 +46,8 @@ int BatchRun::run()
     const PpdDocument &ppd = (*session)->ppd();
     const std::optional<PageSize> page = ppd.pageSize(options->options.value(pageSizeKey));
     if (!page) {
-        return fail(tr("No page size is chosen, and the printer has none of its own accord. Choose one with "
-                       "-o PageSize=%1 or another one of --list-options.")
+        return fail(tr("No page size is chosen. Choose one with -o PageSize=%1 or another one of "
+                       "--list-options.")
                         .arg(ppd.pageSizes().constFirst().keyword));
     }
     for (const QString &dropped : options->dropped)

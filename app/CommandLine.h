@@ -63,8 +63,8 @@ struct CommandLine
 
     /// Whether the printer is by its very name the built-in one.
     bool asksForBuiltInPrinter() const;
-    /// Whether the task needs no display.
-    bool runsWithoutDisplay() const { return batch || listPrinters || listOptions || summary; }
+    /// Whether the task is done without any widget on a screen or in a picture.
+    bool runsWithoutWindow() const { return batch || listPrinters || listOptions || summary; }
 };
 
 } // namespace printdialog

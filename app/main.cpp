@@ -14,6 +14,7 @@
 #include <QtWidgets/QApplication>
 
 #include <csignal>
+#include <unistd.h>
 
 using namespace printdialog;
 
@@ -36,10 +37,16 @@ void loadTranslations(QCoreApplication &application)
     }
 }
 
-/// What Qt itself has to say belongs into the log: standard error holds one clear line, or nothing.
-void logQtMessage(QtMsgType /*type*/, const QMessageLogContext & /*context*/, const QString &message)
+/// What Qt itself has to say belongs into the log: standard error holds one clear line, or nothing. Qt gives
+/// up where it finds no display, which is no reason to leave a core file.
+void takeQtMessage(QtMsgType type, const QMessageLogContext & /*context*/, const QString &message)
 {
     pdekit::systemLog(message);
+    if (type != QtFatalMsg)
+        return;
+    Console().complain(
+        QCoreApplication::translate("main", "The program cannot start: %1").arg(message.simplified()));
+    _exit(exitFailed);
 }
 
 /// The runs that need neither a display nor the application's other parts.
@@ -61,7 +68,7 @@ int runWithoutApplication(const QStringList &arguments, int &argc, char **argv)
     return console.finish(exitDone);
 }
 
-int runWithoutDisplay(const CommandLine &commandLine)
+int runWithoutWindow(const CommandLine &commandLine)
 {
     // A reader of the output that has gone is an error like any other, not the end of the program.
     std::signal(SIGPIPE, SIG_IGN);
@@ -84,19 +91,21 @@ int main(int argc, char *argv[])
         arguments.append(QString::fromLocal8Bit(argv[i]));
     argc = 1; // none of them is meant for Qt
 
-    qInstallMessageHandler(logQtMessage);
+    qInstallMessageHandler(takeQtMessage);
     QCoreApplication::setApplicationName(QStringLiteral("corvel-print"));
     QCoreApplication::setApplicationVersion(QStringLiteral(CORVEL_PRINT_VERSION));
     const auto commandLine = CommandLine::parse(arguments);
     if (!commandLine || commandLine->help || commandLine->version)
         return runWithoutApplication(arguments, argc, argv);
 
-    if (commandLine->runsWithoutDisplay() && !qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
+    // Pictures of the dialog look the same with and without a display, too.
+    const bool needsDisplay = !commandLine->runsWithoutWindow() && !commandLine->screenshot;
+    if (!needsDisplay && !qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication application(argc, argv);
     loadTranslations(application);
-    if (commandLine->runsWithoutDisplay())
-        return runWithoutDisplay(*commandLine);
+    if (commandLine->runsWithoutWindow())
+        return runWithoutWindow(*commandLine);
     return commandLine->screenshot ? runScreenshot(*commandLine, application)
                                    : runWindow(*commandLine, application);
 }

@@ -76,8 +76,7 @@ private Q_SLOTS:
         for (const QString &choice : {u"99"_s, u"1.5"_s, u"1e1"_s, u"0x5"_s, u"nan"_s, u"inf"_s, u" 5"_s,
                                       u"1.2.3"_s, u"--1"_s, u"٣"_s, u"5%1"_s, u"18446744073709551621"_s})
             row(u"Red"_s, choice, Verdict::UnknownChoice,
-                u"The option \"Red\" has no choice \""_s + choice.trimmed() +
-                    u"\"; allowed are -25 to 25."_s);
+                u"The option \"Red\" has no choice \""_s + choice + u"\"; allowed are -25 to 25."_s);
         row(u"Gamma"_s, u"3.01"_s, Verdict::UnknownChoice,
             u"The option \"Gamma\" has no choice \"3.01\"; "
             "allowed are 0.00 to 3.00 in steps of 0.01."_s);

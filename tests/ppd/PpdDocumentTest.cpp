@@ -125,7 +125,7 @@ private Q_SLOTS:
     {
         QFETCH(QByteArray, data);
         QFETCH(QString, reason);
-        const auto document = PpdDocument::fromData(data, u"my\u202equeue\n"_s);
+        const auto document = PpdDocument::fromData(data, u"my\u202equ\u001beue"_s);
         QVERIFY(!document);
         QTEST(document.failure().reason, "fault");
         const QString text = document.failure().text;
@@ -138,7 +138,8 @@ private Q_SLOTS:
         QTest::addColumn<QString>("note");
         const QByteArray odd = minimal() + option("Red", {"1", "2(b)/Two (b)"});
         QTest::newRow("LF, parentheses") << odd << QString();
-        QTest::newRow("quotes that open nothing") << odd + "*% a: \"\n*Foo \"a\n" << QString();
+        QTest::newRow("quote in a comment") << odd + "*% a: \"\n" << QString();
+        QTest::newRow("quote before the colon") << odd + "*Foo \"a\n" << QString();
         QTest::newRow("CR") << QByteArray(odd).replace('\n', '\r') << QString();
         QTest::newRow("CRLF, Ctrl-Z") << QByteArray(odd).replace("\n", "\r\n") + "\x1a" << QString();
         QTest::newRow("bad choice") << QByteArray(odd).replace("*Red 1:",

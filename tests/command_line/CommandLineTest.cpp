@@ -1,0 +1,253 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "ProgramRun.h"
+
+#include <QtCore/QDir>
+#include <QtCore/QFile>
+#include <QtCore/QJsonArray>
+#include <QtCore/QJsonObject>
+#include <QtCore/QProcess>
+#include <QtCore/QTemporaryDir>
+#include <QtTest/QTest>
+
+using namespace testing_support;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString samplePhoto = QStringLiteral(CORVEL_SAMPLE_PHOTO);
+
+QStringList optionArguments(const QStringList &options)
+{
+    QStringList arguments;
+    for (const QString &option : options)
+        arguments += {u"-o"_s, option};
+    return arguments;
+}
+
+/// --list-options --json, by keyword.
+QMap<QString, QJsonObject> listedOptions(const QStringList &arguments)
+{
+    QMap<QString, QJsonObject> options;
+    for (const QJsonValue &value :
+         runProgram(arguments + QStringList{u"--list-options"_s, u"--json"_s}).json().array())
+        options.insert(value[u"keyword"].toString(), value.toObject());
+    return options;
+}
+
+} // namespace
+
+/// What corvel-print prints and lists, without a print server.
+class CommandLineTest : public QObject
+{
+    Q_OBJECT
+
+private:
+    QString pathOf(const QString &name) const { return folder_->filePath(name); }
+    ProgramRun print(const QStringList &arguments) const
+    {
+        return runProgram(QStringList{u"--batch"_s, u"--output"_s, pathOf(u"out"_s)} + arguments);
+    }
+
+    std::unique_ptr<QTemporaryDir> folder_;
+
+private Q_SLOTS:
+    void init() { folder_ = std::make_unique<QTemporaryDir>(); }
+    void printsThePhotoWithItsTicket_data();
+    void printsThePhotoWithItsTicket();
+    void takesChoicesInAnySpelling_data();
+    void takesChoicesInAnySpelling();
+    void keepsPhotosOfOneNameApart();
+    void namesWhatWasPrintedBeforeAFailure();
+    void listsOptions();
+    void listsTheBuiltInPrinter();
+    void showsTheSummary();
+    void helpAndVersionGoToStandardOutput();
+    void keepsControlCharactersFromTheTerminal();
+    void failsWhenItsOutputCannotBeWritten_data();
+    void failsWhenItsOutputCannotBeWritten();
+};
+
+void CommandLineTest::printsThePhotoWithItsTicket_data()
+{
+    QTest::addColumn<QString>("mode");
+    QTest::newRow("constraint handling") << u"constraint"_s;
+    QTest::newRow("print settings") << u"settings"_s;
+}
+
+void CommandLineTest::printsThePhotoWithItsTicket()
+{
+    QFETCH(QString, mode);
+    QMap<QString, QString> expected{{u"PageSize"_s, u"4x6.Fullbleed"_s}};
+    const auto options = listedOptions({u"--mode"_s, mode});
+    for (const QJsonObject &option : options) {
+        if (option[u"panel"_s].isString())
+            expected.insert(option[u"keyword"_s].toString(), option[u"default"_s].toString());
+    }
+    QVERIFY(expected.contains(u"Red"_s) && expected.contains(u"Gamma"_s) && expected.contains(u"Contrast"_s));
+    expected.insert({{u"Red"_s, u"12"_s}, {u"Gamma"_s, u"-3"_s}});
+
+    const ProgramRun run =
+        print({u"--mode"_s, mode, u"-o"_s, u"Red=12"_s, u"--option"_s, u"Gamma=-3"_s, samplePhoto});
+    QCOMPARE(run.err, QByteArray());
+    QCOMPARE(run.status, 0);
+    const QString pdf = pathOf(u"out/sample.pdf"_s);
+    QCOMPARE(QString::fromUtf8(run.out), u"Printed sample.jpg: %1\n"_s.arg(pdf));
+    const QString ticket = pathOf(u"out/sample.ticket.json"_s);
+    QCOMPARE(ticketEntries(ticket), expected);
+    QCOMPARE(ticketEntries(ticket, u"summary"_s).value(u"Red"_s), u"12"_s);
+    const QJsonDocument json = QJsonDocument::fromJson(contentOf(ticket));
+    QCOMPARE(json[u"printer"].toString(), u"built-in"_s);
+    QCOMPARE(json[u"document"].toString(), samplePhoto);
+
+    QCOMPARE(QProcess::execute(u"pdfimages"_s, {u"-all"_s, pdf, pathOf(u"image"_s)}), 0);
+    QVERIFY(contentOf(pathOf(u"image-000.jpg"_s)) == contentOf(samplePhoto));
+}
+
+void CommandLineTest::takesChoicesInAnySpelling_data()
+{
+    QTest::addColumn<QStringList>("options");
+    QTest::addColumn<QString>("key");
+    QTest::addColumn<QString>("choice");
+    QTest::newRow("plus sign") << QStringList{u"Red=+12"_s} << u"Red"_s << u"12"_s;
+    QTest::newRow("leading zero") << QStringList{u"Red=012"_s} << u"Red"_s << u"12"_s;
+    QTest::newRow("fewer decimals") << QStringList{u"SharpnessIntensity=1.5"_s} << u"SharpnessIntensity"_s
+                                    << u"1.50"_s;
+    QTest::newRow("last one counts") << QStringList{u"Red=1"_s, u"Red=2"_s} << u"Red"_s << u"2"_s;
+    QTest::newRow("option of no panel")
+        << QStringList{u"Resolution=300x600dpi"_s} << u"Resolution"_s << u"300x600dpi"_s;
+    QTest::newRow("page size") << QStringList{u"PageSize=5x7"_s} << u"PageSize"_s << u"5x7"_s;
+    QTest::newRow("conflict resolved before")
+        << QStringList{u"Quality=Fine"_s, u"Overcoat=Matte"_s} << u"Overcoat"_s << u"Matte"_s;
+}
+
+void CommandLineTest::takesChoicesInAnySpelling()
+{
+    QFETCH(QStringList, options);
+    QFETCH(QString, key);
+    QFETCH(QString, choice);
+    for (const QString &mode : {u"constraint"_s, u"settings"_s}) {
+        const ProgramRun run = print(QStringList{u"--mode"_s, mode, samplePhoto} + optionArguments(options));
+        QCOMPARE(run.err, QByteArray());
+        QCOMPARE(ticketEntries(pathOf(u"out/sample.ticket.json"_s)).value(key), choice);
+        QVERIFY(QFile::remove(pathOf(u"out/sample.ticket.json"_s)));
+    }
+}
+
+void CommandLineTest::keepsPhotosOfOneNameApart()
+{
+    QVERIFY(QDir(folder_->path()).mkdir(u"other"_s) &&
+            QFile::copy(samplePhoto, pathOf(u"other/sample.jpg"_s)));
+    const ProgramRun run = print({samplePhoto, pathOf(u"other/sample.jpg"_s)});
+    QCOMPARE(run.status, 0);
+    QCOMPARE(run.out.count('\n'), 2);
+    QCOMPARE(QDir(pathOf(u"out"_s)).entryList({u"*.pdf"_s}).size(), 2);
+}
+
+void CommandLineTest::namesWhatWasPrintedBeforeAFailure()
+{
+    QVERIFY(QFile::copy(samplePhoto, pathOf(u"second.jpg"_s)));
+    QVERIFY(QDir(folder_->path()).mkpath(u"out/second.pdf"_s));
+    const ProgramRun run = print({samplePhoto, pathOf(u"second.jpg"_s), samplePhoto});
+    QCOMPARE(run.out.count('\n'), 1);
+    const QByteArray wrong = wrongInRefusal({run.status, {}, run.err}, 1, {u"second.pdf"_s, u"sample.jpg"_s});
+    QVERIFY2(wrong.isEmpty(), wrong.constData());
+    QCOMPARE(QDir(pathOf(u"out"_s)).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
+             QStringList({u"sample.pdf"_s, u"sample.ticket.json"_s, u"second.pdf"_s}));
+}
+
+void CommandLineTest::listsOptions()
+{
+    const auto options = listedOptions({u"-o"_s, u"Red=7"_s, u"--mode"_s, u"settings"_s});
+    const QJsonObject red = options[u"Red"_s];
+    QCOMPARE(red[u"choice"_s].toString(), u"7"_s);
+    QCOMPARE(red[u"default"_s].toString(), u"0"_s);
+    QCOMPARE(red[u"panel"_s].toString(), u"Color Adjustments"_s);
+    QCOMPARE(red[u"choices"_s].toArray().size(), 51);
+    QCOMPARE(options[u"Overcoat"_s][u"choices"_s].toArray().at(1),
+             QJsonValue(QJsonObject{{u"keyword"_s, u"Matte"_s}, {u"text"_s, u"Matte"_s}}));
+    QVERIFY(options[u"PageSize"_s][u"panel"_s].isNull());
+
+    const ProgramRun text = runProgram({u"--list-options"_s});
+    QCOMPARE(text.status, 0);
+    QCOMPARE(text.out.count('\n'), options.size() + 1);
+    QVERIFY(text.out.contains("-25 to 25\n") && text.out.contains("  Standard, Fine\n"));
+}
+
+void CommandLineTest::listsTheBuiltInPrinter()
+{
+    QCOMPARE(runProgram({u"--list-printers"_s}).out, "built-in\tBuilt-in printer (files)\tready\tdefault\n");
+    const QJsonArray printers = runProgram({u"--list-printers"_s, u"--json"_s}).json().array();
+    QCOMPARE(printers.size(), 1);
+    QCOMPARE(printers[0][u"name"].toString(), u"built-in"_s);
+    QCOMPARE(printers[0][u"default"].toBool(), true);
+}
+
+void CommandLineTest::showsTheSummary()
+{
+    const QStringList choice{u"-o"_s, u"Red=7"_s};
+    QVERIFY(runProgram(choice + QStringList{u"--summary"_s}).out.contains("\nRed: 7\n"));
+    const ProgramRun json = runProgram(choice + QStringList{u"--summary"_s, u"--json"_s});
+    QCOMPARE(json.json()[u"Red"].toString(), u"7"_s);
+    QVERIFY(print(choice + QStringList{u"--summary"_s, samplePhoto}).out.contains("\nRed: 7\n"));
+}
+
+void CommandLineTest::helpAndVersionGoToStandardOutput()
+{
+    const ProgramRun help = runProgram({u"--help"_s});
+    QCOMPARE(help.status, 0);
+    for (const char *part : {"--printer QUEUE", "--ppd FILE", "--mode constraint|settings",
+                             "-o, --option KEY=CHOICE", "--output DIR", "--batch", "--list-printers",
+                             "--list-options", "--summary", "--json", "--screenshot DIR", "--version"})
+        QVERIFY2(help.out.contains(part), part);
+    QVERIFY(runProgram({u"--version"_s}).out.startsWith("corvel-print "));
+}
+
+void CommandLineTest::keepsControlCharactersFromTheTerminal()
+{
+    const QString name = u"a\x1b[31m\nb\tc\u009b.jpg"_s;
+    QVERIFY(QFile::copy(samplePhoto, pathOf(name)));
+    const ProgramRun run = print({pathOf(name)});
+    QCOMPARE(run.status, 0);
+    QVERIFY2(run.out.startsWith("Printed a[31m b c.jpg: ") && run.out.endsWith(".pdf\n"), run.out.constData());
+    QCOMPARE(run.out.count('\n'), 1);
+    QVERIFY(!run.out.contains('\x1b') && !run.out.contains("\xc2\x9b"));
+
+    QByteArray ppd = contentOf(QStringLiteral(CORVEL_PPD));
+    ppd.replace("*OpenUI *Quality/Print Quality", "*OpenUI *Quality/Print\x1b[31m\xc2\x9bQuality");
+    QVERIFY(store(pathOf(u"odd.ppd"_s), ppd));
+    for (const QStringList &more : {QStringList(), QStringList{u"--json"_s}}) {
+        const ProgramRun list =
+            runProgram(QStringList{u"--ppd"_s, pathOf(u"odd.ppd"_s), u"--list-options"_s} + more);
+        QVERIFY(list.out.contains("Print") && !list.out.contains('\x1b') && !list.out.contains("\xc2\x9b"));
+    }
+}
+
+void CommandLineTest::failsWhenItsOutputCannotBeWritten_data()
+{
+    QTest::addColumn<QString>("command");
+    QTest::newRow("full disk") << u"\"$@\" > /dev/full"_s;
+    QTest::newRow("closed") << u"\"$@\" >&-"_s;
+    QTest::newRow("all closed but errors") << u"\"$@\" <&- >&-"_s;
+    QTest::newRow("reader gone") << u"{ sleep 0.1; \"$@\"; echo $? >&3; } 3>&2 | true; false"_s;
+}
+
+// No file may take the number of a closed stream either: the line would end up in the photo.
+void CommandLineTest::failsWhenItsOutputCannotBeWritten()
+{
+    QFETCH(QString, command);
+    const bool toldInLine = command.contains(u"echo"_s); // the status of the program, behind its line
+    ProgramRun run = runInShell(command, {u"--batch"_s, u"--output"_s, pathOf(u"out"_s), samplePhoto});
+    if (toldInLine) {
+        QVERIFY2(run.err.endsWith("1\n"), run.err.constData());
+        run.err.chop(2);
+    }
+    const QByteArray wrong = wrongInRefusal(run, 1, {u"Standard output"_s});
+    QVERIFY2(wrong.isEmpty(), wrong.constData());
+    QVERIFY(contentOf(pathOf(u"out/sample.pdf"_s)).startsWith("%PDF-"));
+    QVERIFY(runInShell(u"\"$@\" --list-options > /dev/full"_s, {}).status == 1);
+}
+
+QTEST_GUILESS_MAIN(CommandLineTest)
+#include "CommandLineTest.moc"

@@ -1,0 +1,41 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include <QtCore/QByteArray>
+#include <QtCore/QJsonDocument>
+#include <QtCore/QMap>
+#include <QtCore/QString>
+#include <QtCore/QStringList>
+
+namespace testing_support {
+
+/// What one run of corvel-print left behind it.
+struct ProgramRun
+{
+    int status = -1; ///< -1: it crashed or did not end
+    QByteArray out;
+    QByteArray err;
+
+    QJsonDocument json() const { return QJsonDocument::fromJson(out); }
+};
+
+/// Runs corvel-print in the folder, with environment variables that take the place of the test's.
+ProgramRun runProgram(const QStringList &arguments, const QMap<QString, QString> &environment = {},
+                      const QString &folder = {});
+
+/// Through the shell, `"$@"` being the program and its arguments: for redirections.
+ProgramRun runInShell(const QString &command, const QStringList &arguments);
+
+/// What stands against a proper refusal: nothing printed on standard output, one line on standard error that
+/// holds all the words and no control character. Empty: nothing does.
+QByteArray wrongInRefusal(const ProgramRun &run, int status, const QStringList &words);
+
+QByteArray contentOf(const QString &path);
+bool store(const QString &path, const QByteArray &content);
+
+/// The built-in printer's ticket: "options" or another object of texts in it.
+QMap<QString, QString> ticketEntries(const QString &path, const QString &object = QStringLiteral("options"));
+
+} // namespace testing_support
