@@ -16,6 +16,7 @@ namespace printdialog {
 namespace {
 
 constexpr qsizetype mostListed = 12;
+constexpr qsizetype mostOptionsListed = 20;
 constexpr qsizetype mostQuoted = 60; // characters of what somebody asked for
 
 struct Text
@@ -62,7 +63,7 @@ Ruling ChoiceMarker::check(const QString &key, const QString &choice) const
         return {Verdict::UnknownOption,
                 shownKey,
                 shownChoice,
-                Text::tr("The printer has no option \"%1\".").arg(shownKey),
+                Text::tr("The printer has no option \"%1\"; it has %2.").arg(shownKey, optionsList()),
                 {},
                 {}};
     const auto canonical = canonicalChoice(key, choice);
@@ -163,6 +164,15 @@ const NumericChoices &ChoiceMarker::numbers(const QString &key) const
     for (const PpdChoice &choice : document_.choices(key))
         keywords += choice.keyword;
     return *numbers_.insert(key, NumericChoices(keywords));
+}
+
+QString ChoiceMarker::optionsList() const
+{
+    QStringList keywords = document_.options().mid(0, mostOptionsListed);
+    keywords.sort();
+    if (document_.options().size() > mostOptionsListed)
+        keywords.append(QString(QChar(0x2026)));
+    return keywords.join(QStringLiteral(", "));
 }
 
 QString ChoiceMarker::allowed(const QString &key) const

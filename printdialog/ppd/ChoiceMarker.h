@@ -72,6 +72,7 @@ public:
 
 private:
     const NumericChoices &numbers(const QString &key) const;
+    QString optionsList() const;
     QString allowed(const QString &key) const;
     QString optionLabel(const QString &key) const;
     QString choiceLabel(const QString &key, const QString &choice) const;

@@ -215,12 +215,12 @@ void CommandLineTest::keepsControlCharactersFromTheTerminal()
     QVERIFY(!run.out.contains('\x1b') && !run.out.contains("\xc2\x9b"));
 
     QByteArray ppd = contentOf(QStringLiteral(CORVEL_PPD));
-    ppd.replace("*OpenUI *Quality/Print Quality", "*OpenUI *Quality/Print\x1b[31m\xc2\x9bQuality");
+    ppd.replace("*OpenUI *Quality/Print Quality", "*OpenUI *Quality/Print\xc2\x9b31m Quality");
     QVERIFY(store(pathOf(u"odd.ppd"_s), ppd));
     for (const QStringList &more : {QStringList(), QStringList{u"--json"_s}}) {
         const ProgramRun list =
             runProgram(QStringList{u"--ppd"_s, pathOf(u"odd.ppd"_s), u"--list-options"_s} + more);
-        QVERIFY(list.out.contains("Print") && !list.out.contains('\x1b') && !list.out.contains("\xc2\x9b"));
+        QVERIFY(list.out.contains("Print") && !list.out.contains("\xc2\x9b"));
     }
 }
 
