@@ -34,8 +34,7 @@ void PpdDocument::RecordCloser::operator()(ppd_file_s *record) const
 QString PpdDocument::modelName() const
 {
     for (const char *name : {record_->nickname, record_->modelname}) {
-        if (const QString text = plainText(QString::fromUtf8(name).trimmed(), shownTextLimit);
-            !text.isEmpty())
+        if (QString text = plainText(QString::fromUtf8(name).trimmed(), shownTextLimit); !text.isEmpty())
             return text;
     }
     return {};

@@ -180,7 +180,7 @@ void PpdDocument::indexOption(ppd_option_s &option)
         return;
     }
     keywords_ += keyword;
-    options_.insert(keyword, std::move(indexed));
+    options_.insert(keyword, indexed);
 }
 
 void PpdDocument::indexPageSizes()

@@ -30,7 +30,7 @@ enum class PpdFault {
 /// its lists from the start for each new entry, opens a file at the limit within seconds.
 struct PpdLimits
 {
-    static constexpr qsizetype bytes = 32 * 1024 * 1024;
+    static constexpr qsizetype bytes = qsizetype(32) << 20;
     static constexpr qsizetype lineBytes = 4096;        ///< Of a line outside quotes.
     static constexpr qsizetype entryBytes = 250'000;    ///< Of an entry with its quoted value.
     static constexpr qsizetype readableLineBytes = 255; ///< libcups gives up at a line that is longer.

@@ -215,7 +215,7 @@ void CommandLineTest::keepsControlCharactersFromTheTerminal()
     QVERIFY(!run.out.contains('\x1b') && !run.out.contains("\xc2\x9b"));
 
     QByteArray ppd = contentOf(QStringLiteral(CORVEL_PPD));
-    ppd.replace("*OpenUI *Quality/Print Quality", "*OpenUI *Quality/Print\xc2\x9b31m Quality");
+    ppd.replace("*OpenUI *Quality/Print Quality", "*OpenUI *Quality/Print\xc2\x9b[31m Quality");
     QVERIFY(store(pathOf(u"odd.ppd"_s), ppd));
     for (const QStringList &more : {QStringList(), QStringList{u"--json"_s}}) {
         const ProgramRun list =
