@@ -10,7 +10,7 @@ target_compile_definitions(corvel_settings INTERFACE
     QT_DISABLE_DEPRECATED_BEFORE=0x060400)
 target_compile_options(corvel_settings INTERFACE
     -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wnon-virtual-dtor -Woverloaded-virtual
-    -Wcast-qual -Wformat=2 -Wnull-dereference
+    -Wcast-qual -Wformat=2
     $<$<BOOL:${CORVEL_WARNINGS_AS_ERRORS}>:-Werror>)
 if(CORVEL_SANITIZE)
     target_compile_options(corvel_settings INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=all

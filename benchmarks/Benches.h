@@ -1,0 +1,17 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include <QtCore/QString>
+
+/// Process start to painted dialog, ours beside Qt's with its PPD options; each run in a process of its own.
+void benchOpening();
+/// What such a process does: `which` is "ours" or "qt". Ends the process at the first paint.
+int runOpeningChild(const QString &which);
+
+/// A keystroke, and restoring with the summary, with PPDs of different sizes.
+void benchPanels();
+
+/// A 24-megapixel JPEG to PDF.
+void benchPdf();
