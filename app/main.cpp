@@ -10,6 +10,7 @@
 #include "SystemLog.h"
 #include "WindowRun.h"
 
+#include <QtCore/QLibraryInfo>
 #include <QtCore/QTranslator>
 #include <QtWidgets/QApplication>
 
@@ -20,18 +21,27 @@ using namespace printdialog;
 
 namespace {
 
-/// Installs the program's texts in the first of the user's languages that it has. The texts in the source are
-/// the English ones.
+bool installTranslation(QCoreApplication &application, const QString &file)
+{
+    auto translator = std::make_unique<QTranslator>();
+    if (!translator->load(file) || !QCoreApplication::installTranslator(translator.get()))
+        return false;
+    translator.release()->setParent(&application);
+    return true;
+}
+
+/// Installs the program's texts in the first of the user's languages that it has, and Qt's own (file dialogs,
+/// buttons) in the same one, where they are installed. The texts in the source are the English ones, but for
+/// their plural forms.
 void loadTranslations(QCoreApplication &application)
 {
-    auto *translator = new QTranslator(&application);
-    const QStringList languages = QLocale().uiLanguages();
+    const QString qtFolder = QLibraryInfo::path(QLibraryInfo::TranslationsPath);
+    const QStringList languages = QLocale().uiLanguages() << QStringLiteral("en");
     for (const QString &language : languages) {
         const QString code = language.section(u'-', 0, 0);
-        if (code == QLatin1String("en"))
-            return;
-        if (translator->load(QStringLiteral(":/corvel-print/i18n/corvel-print_%1.qm").arg(code))) {
-            QCoreApplication::installTranslator(translator);
+        if (installTranslation(application,
+                               QStringLiteral(":/corvel-print/i18n/corvel-print_%1.qm").arg(code))) {
+            installTranslation(application, QStringLiteral("%1/qtbase_%2.qm").arg(qtFolder, code));
             return;
         }
     }

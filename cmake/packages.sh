@@ -5,9 +5,9 @@
 
 corvel_build_packages=(
     cmake ninja-build g++ pkg-config python3
-    qt6-base-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools
+    qt6-base-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools qt6-translations-l10n
     libqt6opengl6-dev libgl-dev libopengl-dev libvulkan-dev
-    libcups2-dev libcairo2-dev fonts-dejavu-core
+    libcups2-dev libcairo2-dev libglib2.0-dev fonts-dejavu-core
 )
 corvel_test_packages=(cups cups-client cups-filters poppler-utils)
 

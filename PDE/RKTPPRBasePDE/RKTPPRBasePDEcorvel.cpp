@@ -43,6 +43,7 @@ RKTPPRBasePDEcorvel::~RKTPPRBasePDEcorvel()
     choiceDict_.reset();
     supportedPPDOptionKeys_.reset();
     deviceURI_.reset();
+    takeDownBackend();
     delete PDEView_;
 }
 

@@ -4,17 +4,22 @@
 #pragma once
 
 #include "Bundle.h"
+#include "ChildProcess.h"
 #include "ChoiceReceiver.h"
+#include "InputStream.h"
 #include "KeyValueObject.h"
+#include "PendingWaits.h"
 #include "PrintDialogPanel.h"
 
 #include <QtCore/QHash>
 #include <QtCore/QPointer>
 
+#include <cstdint>
 #include <memory>
 #include <optional>
 
 struct ppd_file_s;
+struct veltaTaskContext_s;
 
 namespace pdekit {
 class PrintDialogCallback;
@@ -110,6 +115,23 @@ public:
     /// The user has changed the text of the field `object`.
     virtual void controlTextDidChange(QWidget *object);
 
+    // The backend runner.
+    /// Interrupts the backend until it ends, and lets go of it.
+    virtual void killCurrentTask();
+    virtual void bytesAvailableForStreamIN(pdekit::InputStream *stream);
+    virtual void streamINHandleEvent(pdekit::InputStream *stream, quintptr event);
+    /// Waits, within limits, for the completion of the command; the event loop runs meanwhile.
+    virtual void streamERRHandleEvent(pdekit::InputStream *stream, quintptr event);
+    /// The streams' delegate: on to the two above.
+    virtual void streamHandleEvent(pdekit::InputStream *stream, quintptr event);
+    /// Starts the backend "velta" with the arguments, and writes the record's command to it. 0: done, or a
+    /// pipe was not to be had; 1: refused (no arguments, no executable backend); -1: another run is in
+    /// progress. Throws PlatformException when the backend cannot be launched. `context` is required.
+    virtual std::int32_t performTaskwithVeltaWithArgsAndContext(const std::optional<QStringList> &arguments,
+                                                                veltaTaskContext_s *context);
+    /// The same in utility mode, for the printer's device URI.
+    virtual std::int32_t performUtilityTaskWithVeltaTaskContext(veltaTaskContext_s *context);
+
     // The form's bindings.
     std::optional<QString> valueOfBoundControl(QWidget *control) override;
     void showValueInBoundControl(QWidget *control, const QString &value) override;
@@ -153,11 +175,22 @@ protected:
     std::optional<QHash<QString, QString>> choiceDict_;
     std::optional<QStringList> supportedPPDOptionKeys_;
     bool useConstraintHandling_ = false;
+    bool waitForCommandCompletion_ = false; ///< from a launch to the first end of one of its streams
     Text deviceURI_;
-    ppd_file_s *ppd_ = nullptr; ///< borrowed from the dialog or the session
+    ppd_file_s *ppd_ = nullptr;                      ///< borrowed from the dialog or the session
+    std::unique_ptr<pdekit::ChildProcess> task_;     ///< the backend of this run or the last one
+    std::unique_ptr<pdekit::InputStream> streamIN_;  ///< the backend's standard output, until its end
+    std::unique_ptr<pdekit::InputStream> streamERR_; ///< the backend's standard error, until its end
     QPointer<QWidget> PDEView_;
 
 private:
     pdekit::PrintDialogCallback *callback() const;
+    void waitForCompletion();
+    bool runEventLoopOnce();
+    void takeDownBackend();
     bool offerToPrintSystem(const QString &choice, const QString &key, QWidget *sender);
+
+    PendingWaits pendingWaits_;
+    bool isDrivingWaits_ = false; ///< a handler further up the stack drives the pending waits
+    std::uint64_t streamEvents_ = 0;
 };

@@ -128,7 +128,7 @@ QString Bundle::executablePath() const
 std::optional<QString> Bundle::pathForAuxiliaryExecutable(const QString &name) const
 {
     const QFileInfo file(content_->path + QLatin1String("/Contents/Linux/") + name);
-    if (!isPlainFileName(name) || !file.isFile() || !file.isExecutable())
+    if (!isPlainFileName(name) || !file.isFile())
         return std::nullopt;
     return file.absoluteFilePath();
 }

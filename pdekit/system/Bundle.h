@@ -49,7 +49,7 @@ public:
 
     /// The absolute path of the bundle's module; the file need not exist.
     QString executablePath() const;
-    /// The executable `name` that lies beside the module.
+    /// The file `name` that lies beside the module; whether it can be executed is not looked at.
     std::optional<QString> pathForAuxiliaryExecutable(const QString &name) const;
     /// The resource `name`.`type`; the name may lead into folders.
     std::optional<QString> pathForResource(const QString &name, const QString &type) const;

@@ -22,6 +22,8 @@ public:
     {
     }
 
+    ~PlatformException() override;
+
     const QString &description() const { return description_; }
     const char *what() const noexcept override { return utf8_.constData(); }
 

@@ -173,6 +173,13 @@ void PanelActionsTest::mixedEnablerIsTrue()
         QCOMPARE(panel->recorded(QStringLiteral("Enabler")), QString::fromLatin1(choice));
         QCOMPARE(slider->isEnabled(), state != Qt::Unchecked);
     }
+    if (!dialog.constraints)
+        return;
+    // Refused, with no mark in the PPD to go back to: box and controls stay as the user left them.
+    dialog.constraints->refused << QStringLiteral("Enabler");
+    box->setCheckState(Qt::Unchecked);
+    panel->changePrinterSetting(box);
+    QVERIFY(!box->isChecked() && !slider->isEnabled());
 }
 
 void PanelActionsTest::sendersThatAreNoControls()

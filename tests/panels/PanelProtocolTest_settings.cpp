@@ -103,13 +103,15 @@ void PanelProtocolTest::saving()
     panel->writePPDSettingsToPrintSettingsOnTiger();
     QCOMPARE(dialog.session.ticket.options, before);
     panel->setChoiceForKey(text("8"), text("Red"));
+    panel->setChoiceForKey(text("7"), text("Blue"));
     dialog.session.ticketStatus = -1;
     QVERIFY(panel->saveValuesAndReturnError(nullptr));
     QCOMPARE(dialog.session.ticket.options, before);
     dialog.session.ticketStatus = 0;
     QVERIFY(panel->saveValuesAndReturnError(nullptr));
-    QCOMPARE(dialog.session.ticket.options,
-             Dictionary({{text("Red"), text("8")}, {text("PageSize"), text("4x6")}}));
+    QCOMPARE(
+        dialog.session.ticket.options,
+        Dictionary({{text("Blue"), text("7")}, {text("Red"), text("8")}, {text("PageSize"), text("4x6")}}));
 }
 
 void PanelProtocolTest::defaultsOfThePpd()

@@ -1,0 +1,151 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "RKTPPRBasePDEcorvel.h"
+#include "SystemLog.h"
+
+#include <QtCore/QCoreApplication>
+#include <QtCore/QEventLoop>
+#include <QtCore/QPointer>
+#include <QtCore/QTimer>
+
+#include <array>
+#include <chrono>
+#include <unistd.h>
+
+using pdekit::InputStream;
+
+namespace {
+
+constexpr std::size_t readSize = 1024;       // bytes, at most, of one event
+constexpr useconds_t interruptPause = 1'000; // microseconds
+constexpr int mostInterrupts = 5'000;
+constexpr std::chrono::milliseconds longestPass(1000);
+
+/// Ends a stream that may be telling just that.
+void closeAndRelease(std::unique_ptr<InputStream> &stream)
+{
+    if (!stream)
+        return;
+    stream->close();
+    stream->disconnect();
+    stream.release()->deleteLater();
+}
+
+} // namespace
+
+void RKTPPRBasePDEcorvel::streamHandleEvent(InputStream *stream, quintptr event)
+{
+    ++streamEvents_;
+    if (stream && stream == streamIN_.get())
+        streamINHandleEvent(stream, event);
+    else if (stream && stream == streamERR_.get())
+        streamERRHandleEvent(stream, event);
+}
+
+void RKTPPRBasePDEcorvel::bytesAvailableForStreamIN(InputStream *stream)
+{
+    // The backend's standard output is never interpreted.
+    std::array<char, readSize> buffer;
+    stream->read(buffer.data(), buffer.size());
+}
+
+void RKTPPRBasePDEcorvel::streamINHandleEvent(InputStream *stream, quintptr event)
+{
+    if (event == pdekit::StreamEventHasBytesAvailable) {
+        bytesAvailableForStreamIN(stream);
+    } else if (event == pdekit::StreamEventEndEncountered) {
+        waitForCommandCompletion_ = false;
+        closeAndRelease(streamIN_);
+    }
+}
+
+void RKTPPRBasePDEcorvel::streamERRHandleEvent(InputStream *stream, quintptr event)
+{
+    if (event == pdekit::StreamEventHasBytesAvailable) {
+        std::array<char, readSize> buffer;
+        const std::ptrdiff_t count = stream->read(buffer.data(), buffer.size());
+        if (count > 0) {
+            const QString text = QString::fromUtf8(buffer.data(), count);
+            pdekit::systemLog(QStringLiteral("backend err = %1").arg(text));
+            if (text.contains(QLatin1String("STATE: +offline-error")))
+                killCurrentTask();
+        }
+    } else if (event == pdekit::StreamEventEndEncountered) {
+        waitForCommandCompletion_ = false;
+        closeAndRelease(streamERR_);
+    }
+    waitForCompletion();
+}
+
+// Each standard-error event waits for the command's completion in a loop of its own: at most 11 passes of the
+// event loop, each until a stream tells something or a second is over. Events that come meanwhile begin waits
+// inside this one. Were they nested on the stack, a backend that writes a line every microsecond would
+// overflow it, so the waits that have begun are kept in a container, and the handler that began the first of
+// them drives all: the innermost makes its passes; when it is over, the pass of the one around it is, too.
+// Order, limits, log and interrupts are those of plain nesting.
+void RKTPPRBasePDEcorvel::waitForCompletion()
+{
+    if (!waitForCommandCompletion_)
+        return;
+    pendingWaits_.begin();
+    if (isDrivingWaits_)
+        return;
+    isDrivingWaits_ = true;
+    const QPointer<RKTPPRBasePDEcorvel> self(this);
+    while (!pendingWaits_.isEmpty()) {
+        const std::uint64_t begunBefore = pendingWaits_.begun();
+        const bool hasRun = runEventLoopOnce();
+        if (!self)
+            return; // the panel went during the pass
+        if (!waitForCommandCompletion_ || !hasRun) {
+            pendingWaits_.clear();
+            break;
+        }
+        if (pendingWaits_.begun() != begunBefore)
+            continue; // the innermost goes first
+        while (!pendingWaits_.isEmpty() && pendingWaits_.endPass()) {
+            if (task_) {
+                task_->interrupt();
+                task_->interrupt();
+            }
+        }
+    }
+    isDrivingWaits_ = false;
+}
+
+// False when there is nothing that could tell anything. What the user does meanwhile waits: it could lead
+// back here.
+bool RKTPPRBasePDEcorvel::runEventLoopOnce()
+{
+    if (!streamIN_ && !streamERR_)
+        return false;
+    const QPointer<RKTPPRBasePDEcorvel> self(this);
+    const std::uint64_t eventsBefore = streamEvents_;
+    QTimer limit;
+    limit.setTimerType(Qt::PreciseTimer);
+    limit.setSingleShot(true);
+    limit.start(longestPass);
+    while (self && streamEvents_ == eventsBefore && limit.isActive())
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents | QEventLoop::ExcludeUserInputEvents);
+    return true;
+}
+
+void RKTPPRBasePDEcorvel::killCurrentTask()
+{
+    for (int i = 0; task_ && task_->isRunning(); ++i) {
+        task_->interrupt();
+        usleep(interruptPause);
+        // A backend that no interrupt ends would hold the dialog for ever.
+        if (i >= mostInterrupts)
+            task_->takeDown(std::chrono::milliseconds(0));
+    }
+    task_.reset();
+}
+
+void RKTPPRBasePDEcorvel::takeDownBackend()
+{
+    streamIN_.reset();
+    streamERR_.reset();
+    task_.reset();
+}

@@ -1,0 +1,67 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include <QtCore/QtGlobal>
+
+#include <fcntl.h>
+#include <optional>
+#include <unistd.h>
+#include <utility>
+
+namespace pdekit {
+
+/// Owner of a file descriptor; move-only.
+class FileDescriptor
+{
+public:
+    FileDescriptor() = default;
+    explicit FileDescriptor(int descriptor)
+        : descriptor_(descriptor)
+    {
+    }
+    ~FileDescriptor() { close(); }
+    FileDescriptor(FileDescriptor &&other) noexcept
+        : descriptor_(std::exchange(other.descriptor_, -1))
+    {
+    }
+    FileDescriptor &operator=(FileDescriptor &&other) noexcept
+    {
+        if (this != &other) {
+            close();
+            descriptor_ = std::exchange(other.descriptor_, -1);
+        }
+        return *this;
+    }
+    Q_DISABLE_COPY(FileDescriptor)
+
+    bool isOpen() const { return descriptor_ >= 0; }
+    int number() const { return descriptor_; }
+    void close()
+    {
+        if (isOpen())
+            ::close(std::exchange(descriptor_, -1));
+    }
+
+private:
+    int descriptor_ = -1;
+};
+
+/// The two ends of a pipe, both close-on-exec.
+struct Pipe
+{
+    FileDescriptor reading;
+    FileDescriptor writing;
+
+    /// Nothing when the system has none to give.
+    static std::optional<Pipe> make()
+    {
+        int ends[2] = {-1, -1};
+        if (pipe2(ends, O_CLOEXEC) != 0)
+            return std::nullopt;
+        return Pipe{FileDescriptor(ends[0]), FileDescriptor(ends[1])};
+    }
+};
+
+} // namespace pdekit

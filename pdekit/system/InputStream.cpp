@@ -1,0 +1,72 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "InputStream.h"
+
+#include <QtCore/QFile>
+#include <QtCore/QSocketNotifier>
+
+#include <cerrno>
+#include <poll.h>
+
+namespace pdekit {
+
+InputStream::InputStream(const QString &path)
+    : path_(path)
+{
+}
+
+InputStream::~InputStream()
+{
+    close();
+}
+
+bool InputStream::open()
+{
+    descriptor_ =
+        FileDescriptor(::open(QFile::encodeName(path_).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
+    if (!descriptor_.isOpen())
+        return false;
+    notifier_ = new QSocketNotifier(descriptor_.number(), QSocketNotifier::Read, this);
+    connect(notifier_, &QSocketNotifier::activated, this, &InputStream::tellWhatIsThere);
+    return true;
+}
+
+void InputStream::close()
+{
+    if (notifier_) {
+        // It may be the one that is just telling us.
+        notifier_->setEnabled(false);
+        notifier_->setParent(nullptr);
+        notifier_->deleteLater();
+        notifier_ = nullptr;
+    }
+    descriptor_.close();
+}
+
+std::ptrdiff_t InputStream::read(char *buffer, std::size_t size)
+{
+    for (;;) {
+        const std::ptrdiff_t count = ::read(descriptor_.number(), buffer, size);
+        if (count >= 0 || errno != EINTR)
+            return count;
+    }
+}
+
+void InputStream::tellWhatIsThere()
+{
+    pollfd state = {descriptor_.number(), POLLIN, 0};
+    if (poll(&state, 1, 0) <= 0)
+        return;
+    const bool hasBytes = (state.revents & POLLIN) != 0;
+    const bool hasEnded = !hasBytes && (state.revents & POLLHUP) != 0;
+    // The end would be told for ever.
+    if (!hasBytes)
+        notifier_->setEnabled(false);
+    // Whoever hears this may delete the stream: nothing of it is touched afterwards.
+    Q_EMIT handleEvent(hasBytes   ? StreamEventHasBytesAvailable
+                       : hasEnded ? StreamEventEndEncountered
+                                  : StreamEventErrorOccurred);
+}
+
+} // namespace pdekit

@@ -1,0 +1,54 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include "FileDescriptor.h"
+#include "pdekit_export.h"
+
+#include <QtCore/QObject>
+#include <QtCore/QString>
+
+#include <cstddef>
+
+class QSocketNotifier;
+
+namespace pdekit {
+
+/// What happens on a stream.
+enum StreamEvent : quintptr {
+    StreamEventHasBytesAvailable = 2,
+    StreamEventErrorOccurred = 8,
+    StreamEventEndEncountered = 16,
+};
+
+/// Reads from a path with a descriptor of its own, and tells on the thread's event loop when there is
+/// something to read.
+class PDEKIT_EXPORT InputStream : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit InputStream(const QString &path);
+    ~InputStream() override;
+
+    /// Opens the path and schedules the stream on this thread's event loop. False: it cannot be opened.
+    bool open();
+    /// No event comes any more.
+    void close();
+    /// At most `size` bytes of what is there; 0 at the end, -1 when there is nothing or reading fails. Never
+    /// blocks.
+    std::ptrdiff_t read(char *buffer, std::size_t size);
+
+Q_SIGNALS:
+    void handleEvent(quintptr event);
+
+private:
+    void tellWhatIsThere();
+
+    QString path_;
+    FileDescriptor descriptor_;
+    QSocketNotifier *notifier_ = nullptr;
+};
+
+} // namespace pdekit

@@ -1,0 +1,988 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de" sourcelanguage="en">
+<context>
+    <name>BatchRun</name>
+    <message>
+        <source>No page size is chosen. Choose one with -o PageSize=%1 or another one of --list-options.</source>
+        <translation>Es ist kein Papierformat gewählt. Wählen Sie eines mit -o PageSize=%1 oder ein anderes aus --list-options.</translation>
+    </message>
+    <message>
+        <source>%1 Printed before it: %2.</source>
+        <translation>%1 Davor gedruckt: %2.</translation>
+    </message>
+</context>
+<context>
+    <name>ChoiceMarker</name>
+    <message>
+        <source>&quot;%1&quot;</source>
+        <translation>„%1“</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; (%2)</source>
+        <translation>„%1“ (%2)</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is only the beginning of a number; allowed for the option %2 are %3.</source>
+        <translation>„%1“ ist nur der Anfang einer Zahl; für die Option %2 erlaubt: %3.</translation>
+    </message>
+    <message>
+        <source>The option %1 has no choice &quot;%2&quot;; allowed are %3.</source>
+        <translation>Die Option %1 hat keine Auswahl „%2“; erlaubt: %3.</translation>
+    </message>
+    <message>
+        <source>%1 and %2 more</source>
+        <translation>%1 und %2 weitere</translation>
+    </message>
+    <message>
+        <source>%1 is %2</source>
+        <translation>%1 auf %2 steht</translation>
+    </message>
+    <message>
+        <source>%1 and %2</source>
+        <translation>%1 und %2</translation>
+    </message>
+    <message>
+        <source>%1 cannot be %2 while %3.</source>
+        <translation>%1 kann nicht auf %2 stehen, solange %3.</translation>
+    </message>
+    <message>
+        <source>The printer has no option &quot;%1&quot;; it has %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>CommandLine</name>
+    <message>
+        <source>a print queue, or &quot;built-in&quot; for the built-in printer;
+otherwise your default queue, or else the built-in printer</source>
+        <translation>eine Druckerwarteschlange, oder „built-in“ für den eingebauten
+Drucker; sonst Ihre Standardwarteschlange oder der eingebaute</translation>
+    </message>
+    <message>
+        <source>the built-in printer, with this PPD instead of its own</source>
+        <translation>der eingebaute Drucker, mit dieser PPD-Datei statt seiner eigenen</translation>
+    </message>
+    <message>
+        <source>refuse a conflicting choice at once (constraint, the default),
+or check all choices together before printing (settings)</source>
+        <translation>eine unverträgliche Auswahl sofort ablehnen (constraint, Standard)
+oder vor dem Drucken alles zusammen prüfen (settings)</translation>
+    </message>
+    <message>
+        <source>choose for an option of the printer; repeatable, in order</source>
+        <translation>Auswahl für eine Option des Druckers; mehrfach, der Reihe nach</translation>
+    </message>
+    <message>
+        <source>where the built-in printer leaves its files
+(otherwise the current folder)</source>
+        <translation>wo der eingebaute Drucker seine Dateien ablegt
+(sonst im aktuellen Ordner)</translation>
+    </message>
+    <message>
+        <source>no window: apply the options, print, exit; what the window has
+saved is not used, so that a script gets the same each time</source>
+        <translation>ohne Fenster: Optionen anwenden, drucken, beenden; was im Fenster
+gespeichert wurde, gilt nicht, damit Skripte stets Gleiches tun</translation>
+    </message>
+    <message>
+        <source>list the printers, one per line: name, description, state,
+&quot;default&quot;; separated by tabs</source>
+        <translation>Drucker auflisten, einer je Zeile: Name, Beschreibung, Zustand,
+„Standard“; durch Tabulatoren getrennt</translation>
+    </message>
+    <message>
+        <source>list the printer&apos;s options with their choices and panels</source>
+        <translation>die Optionen des Druckers mit Auswahl und Seiten auflisten</translation>
+    </message>
+    <message>
+        <source>show what the panels say about the choices; with --batch
+as well as printing</source>
+        <translation>zeigen, was die Seiten zur Auswahl sagen; mit --batch
+zusätzlich zum Drucken</translation>
+    </message>
+    <message>
+        <source>lists and summary as JSON</source>
+        <translation>Listen und Zusammenfassung als JSON</translation>
+    </message>
+    <message>
+        <source>save a picture of the dialog with each panel in DIR, exit</source>
+        <translation>je Seite ein Bild des Dialogs in DIR speichern, beenden</translation>
+    </message>
+    <message>
+        <source>show this help</source>
+        <translation>diese Hilfe zeigen</translation>
+    </message>
+    <message>
+        <source>show the version</source>
+        <translation>die Version zeigen</translation>
+    </message>
+    <message>
+        <source>The value of --%1 is empty.</source>
+        <translation>Der Wert von --%1 ist leer.</translation>
+    </message>
+    <message>
+        <source>There is no mode &quot;%1&quot;; it is either constraint or settings.</source>
+        <translation>Es gibt keinen Modus „%1“; möglich sind constraint und settings.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; chooses nothing; an option is given as KEY=CHOICE.</source>
+        <translation>„%1“ wählt nichts aus; eine Option wird als KEY=CHOICE angegeben.</translation>
+    </message>
+    <message>
+        <source>--ppd is for the built-in printer, and --printer names the queue &quot;%1&quot;.</source>
+        <translation>--ppd gilt für den eingebauten Drucker, --printer nennt aber die Warteschlange „%1“.</translation>
+    </message>
+    <message>
+        <source>%1 and %2 exclude each other.</source>
+        <translation>%1 und %2 schließen einander aus.</translation>
+    </message>
+    <message>
+        <source>--batch needs a photo to print.</source>
+        <translation>--batch braucht ein Foto zum Drucken.</translation>
+    </message>
+    <message>
+        <source>--json is for --list-printers, --list-options and --summary.</source>
+        <translation>--json gilt für --list-printers, --list-options und --summary.</translation>
+    </message>
+    <message>
+        <source>Usage: corvel-print [options] PHOTO...
+Prints photos on a photo printer: from a window, or at once with --batch.
+
+Options:
+</source>
+        <translation>Aufruf: corvel-print [Optionen] FOTO...
+Druckt Fotos auf einem Fotodrucker: aus einem Fenster, oder mit --batch sofort.
+
+Optionen:
+</translation>
+    </message>
+    <message>
+        <source>
+Exit status:
+  0  printed, or done what was asked for
+  1  refused or failed; one line on standard error says what and why
+  2  wrong usage
+
+Examples:
+  corvel-print --printer built-in holiday.jpg
+  corvel-print --batch -o Red=12 -o Quality=Fine -o Overcoat=Matte --output prints *.jpg
+</source>
+        <translation>
+Rückgabewert:
+  0  gedruckt oder das Verlangte getan
+  1  abgelehnt oder fehlgeschlagen; eine Zeile auf der Standardfehlerausgabe sagt, was und warum
+  2  falscher Aufruf
+
+Beispiele:
+  corvel-print --printer built-in urlaub.jpg
+  corvel-print --batch -o Red=12 -o Quality=Fine -o Overcoat=Matte --output abzuege *.jpg
+</translation>
+    </message>
+</context>
+<context>
+    <name>Console</name>
+    <message>
+        <source>Standard output could not be written to: %1. Send it to another place.</source>
+        <translation>Die Standardausgabe konnte nicht geschrieben werden: %1. Leiten Sie sie an einen anderen Ort.</translation>
+    </message>
+</context>
+<context>
+    <name>CupsConnection</name>
+    <message>
+        <source>nothing answers at %1</source>
+        <translation>unter %1 antwortet nichts</translation>
+    </message>
+    <message>
+        <source>it was silent for %1 s</source>
+        <translation>er schwieg %1 s lang</translation>
+    </message>
+    <message>
+        <source>no printer can have this name</source>
+        <translation>kein Drucker kann so heißen</translation>
+    </message>
+</context>
+<context>
+    <name>JobSubmission</name>
+    <message>
+        <source>The option &quot;%1&quot; is not sent, because this cannot be an option&apos;s keyword; leave it out.</source>
+        <translation>Die Option „%1“ wird nicht gesendet, weil so kein Schlüsselwort einer Option heißen kann; lassen Sie sie weg.</translation>
+    </message>
+    <message>
+        <source>The option &quot;%1&quot; is not sent, because its value has a line break or another control character in it; choose another value.</source>
+        <translation>Die Option „%1“ wird nicht gesendet, weil ihr Wert einen Zeilenumbruch oder ein anderes Steuerzeichen enthält; wählen Sie einen anderen Wert.</translation>
+    </message>
+    <message>
+        <source>The option &quot;%1&quot; is not sent, because CUPS misreads a value that begins with a brace; choose another value.</source>
+        <translation>Die Option „%1“ wird nicht gesendet, weil CUPS einen Wert falsch liest, der mit einer geschweiften Klammer beginnt; wählen Sie einen anderen Wert.</translation>
+    </message>
+    <message>
+        <source>The option &quot;%1&quot; is not sent, because its value is longer than %2 bytes; choose another value.</source>
+        <translation>Die Option „%1“ wird nicht gesendet, weil ihr Wert länger als %2 Byte ist; wählen Sie einen anderen Wert.</translation>
+    </message>
+    <message>
+        <source>The document &quot;%1&quot; is not sent, because its type has a control character in it.</source>
+        <translation>Das Dokument „%1“ wird nicht gesendet, weil sein Typ ein Steuerzeichen enthält.</translation>
+    </message>
+    <message>
+        <source>%1 copies cannot be printed; choose a number from 1 to %2.</source>
+        <translation>%1 Exemplare können nicht gedruckt werden; wählen Sie eine Zahl von 1 bis %2.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; could not be read to its end (%2); nothing is printed.</source>
+        <translation>Die Datei „%1“ konnte nicht bis zum Ende gelesen werden (%2); es wird nichts gedruckt.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; cannot be read (%2); nothing is printed.</source>
+        <translation>Die Datei „%1“ kann nicht gelesen werden (%2); es wird nichts gedruckt.</translation>
+    </message>
+</context>
+<context>
+    <name>Listings</name>
+    <message>
+        <source>rejects jobs</source>
+        <translation>nimmt keine Aufträge an</translation>
+    </message>
+    <message>
+        <source>ready</source>
+        <translation>bereit</translation>
+    </message>
+    <message>
+        <source>printing</source>
+        <translation>druckt</translation>
+    </message>
+    <message>
+        <source>stopped</source>
+        <translation>angehalten</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>unbekannt</translation>
+    </message>
+    <message>
+        <source>default</source>
+        <translation>Standard</translation>
+    </message>
+</context>
+<context>
+    <name>NumericChoices</name>
+    <message>
+        <source>%1 to %2</source>
+        <translation>%1 bis %2</translation>
+    </message>
+    <message>
+        <source>%1 to %2 in steps of %3</source>
+        <translation>%1 bis %2 in Schritten von %3</translation>
+    </message>
+</context>
+<context>
+    <name>OptionTable</name>
+    <message>
+        <source>Option</source>
+        <translation>Option</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>Choice</source>
+        <translation>Auswahl</translation>
+    </message>
+    <message>
+        <source>Panel</source>
+        <translation>Seite</translation>
+    </message>
+    <message>
+        <source>Choices</source>
+        <translation>Auswahlmöglichkeiten</translation>
+    </message>
+</context>
+<context>
+    <name>PluginLoader</name>
+    <message>
+        <source>it is not a folder</source>
+        <translation>es ist kein Ordner</translation>
+    </message>
+    <message>
+        <source>it has no readable Contents/Info.json</source>
+        <translation>es hat keine lesbare Contents/Info.json</translation>
+    </message>
+    <message>
+        <source>its Info.json is larger than 64 KiB</source>
+        <translation>seine Info.json ist größer als 64 KiB</translation>
+    </message>
+    <message>
+        <source>its Info.json is not a JSON object</source>
+        <translation>seine Info.json ist kein JSON-Objekt</translation>
+    </message>
+    <message>
+        <source>its Info.json has no &quot;CFBundleIdentifier&quot;</source>
+        <translation>seine Info.json hat kein „CFBundleIdentifier“</translation>
+    </message>
+    <message>
+        <source>the &quot;CFBundleExecutable&quot; of its Info.json is not a plain file name</source>
+        <translation>„CFBundleExecutable“ in seiner Info.json ist kein einfacher Dateiname</translation>
+    </message>
+    <message>
+        <source>The plug-in bundle &quot;%1&quot; cannot be used: %2. Install it again.</source>
+        <translation>Das Plug-in-Paket „%1“ kann nicht verwendet werden: %2. Installieren Sie es erneut.</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s PPD asks for the plug-in bundle &quot;%1&quot;, which is no bundle&apos;s name. Use a PPD made for this printer.</source>
+        <translation>Die PPD-Datei des Druckers verlangt das Plug-in-Paket „%1“; so kann kein Paket heißen. Verwenden Sie eine PPD-Datei, die für diesen Drucker gemacht ist.</translation>
+    </message>
+    <message>
+        <source>The plug-in bundle &quot;%1&quot; was not found in %2. Install it there.</source>
+        <translation>Das Plug-in-Paket „%1“ wurde in %2 nicht gefunden. Installieren Sie es dort.</translation>
+    </message>
+    <message>
+        <source>it has no module &quot;%1&quot;</source>
+        <translation>es hat kein Modul „%1“</translation>
+    </message>
+    <message>
+        <source>its module is no print-dialog plug-in</source>
+        <translation>sein Modul ist kein Plug-in für den Druckdialog</translation>
+    </message>
+    <message>
+        <source>its identifier &quot;%1&quot; is not the one that its module was built for</source>
+        <translation>sein Bezeichner „%1“ ist nicht der, für den das Modul gebaut wurde</translation>
+    </message>
+    <message>
+        <source>it offers no panel for this printer</source>
+        <translation>es bietet keine Seite für diesen Drucker</translation>
+    </message>
+</context>
+<context>
+    <name>PpdDocument</name>
+    <message>
+        <source>The PPD &quot;%1&quot; cannot be used: line %2: %3; correct it or fetch another from the printer&apos;s maker.</source>
+        <translation>Die PPD-Datei „%1“ kann nicht verwendet werden: Zeile %2: %3; korrigieren Sie sie oder holen Sie eine andere vom Hersteller des Druckers.</translation>
+    </message>
+    <message>
+        <source>The PPD &quot;%1&quot; has no page size that can be printed on; correct it or fetch another from the printer&apos;s maker.</source>
+        <translation>Die PPD-Datei „%1“ hat kein bedruckbares Papierformat; korrigieren Sie sie oder holen Sie eine andere vom Hersteller des Druckers.</translation>
+    </message>
+    <message>
+        <source>The translations are left out: there are too many.</source>
+        <translation>Die Übersetzungen wurden weggelassen: Es sind zu viele.</translation>
+    </message>
+    <message>
+        <source>The option &quot;%1&quot; repeats %2 of its choices; the first of each counts.</source>
+        <translation>Mehrfach vorhandene Auswahlmöglichkeiten der Option „%1“: %2; jeweils die erste gilt.</translation>
+    </message>
+    <message>
+        <source>The option &quot;%1&quot; is left out: it has no choices.</source>
+        <translation>Die Option „%1“ wurde weggelassen: Sie hat keine Auswahlmöglichkeiten.</translation>
+    </message>
+    <message>
+        <source>%1 page sizes are left out: they have no dimensions.</source>
+        <translation>Papierformate ohne Maße, die weggelassen wurden: %1.</translation>
+    </message>
+    <message>
+        <source>The default page size is not one of the printer&apos;s; &quot;%1&quot; takes its place.</source>
+        <translation>Das Standardpapierformat gehört nicht zu diesem Drucker; „%1“ tritt an seine Stelle.</translation>
+    </message>
+</context>
+<context>
+    <name>PpdFile</name>
+    <message>
+        <source>&quot;%1&quot; is a directory; name the PPD file itself.</source>
+        <translation>„%1“ ist ein Ordner; nennen Sie die PPD-Datei selbst.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a device or a pipe, not a file; name the printer&apos;s PPD file.</source>
+        <translation>„%1“ ist ein Gerät oder eine Pipe, keine Datei; nennen Sie die PPD-Datei des Druckers.</translation>
+    </message>
+    <message>
+        <source>There is no PPD &quot;%1&quot;; check the path.</source>
+        <translation>Es gibt keine PPD-Datei „%1“; prüfen Sie den Pfad.</translation>
+    </message>
+    <message>
+        <source>The PPD &quot;%1&quot; cannot be read: %2; check the file and its permissions.</source>
+        <translation>Die PPD-Datei „%1“ kann nicht gelesen werden: %2; prüfen Sie die Datei und ihre Zugriffsrechte.</translation>
+    </message>
+</context>
+<context>
+    <name>PpdInspection</name>
+    <message>
+        <source>it is not printable ASCII</source>
+        <translation>nicht nur druckbare ASCII-Zeichen</translation>
+    </message>
+    <message>
+        <source>it is longer than %1 characters</source>
+        <translation>länger als %1 Zeichen</translation>
+    </message>
+    <message>
+        <source>it is empty</source>
+        <translation>sie ist leer</translation>
+    </message>
+    <message>
+        <source>it is larger than %1 MiB</source>
+        <translation>sie ist größer als %1 MiB</translation>
+    </message>
+    <message>
+        <source>The PPD &quot;%1&quot; is compressed; unpack it with gunzip first.</source>
+        <translation>Die PPD-Datei „%1“ ist komprimiert; entpacken Sie sie zuerst mit gunzip.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a PPD, which is a text that begins with &quot;*PPD-Adobe:&quot;; name the printer&apos;s PPD file.</source>
+        <translation>„%1“ ist keine PPD-Datei, also kein Text, der mit „*PPD-Adobe:“ beginnt; nennen Sie die PPD-Datei des Druckers.</translation>
+    </message>
+    <message>
+        <source>it is cut off: the quote opened in line %1 never closes</source>
+        <translation>sie ist abgeschnitten: das in Zeile %1 geöffnete Anführungszeichen wird nie geschlossen</translation>
+    </message>
+    <message>
+        <source>it is cut off in line %1</source>
+        <translation>sie ist in Zeile %1 abgeschnitten</translation>
+    </message>
+    <message>
+        <source>the value in line %1 is longer than %2 bytes</source>
+        <translation>der Wert in Zeile %1 ist länger als %2 Byte</translation>
+    </message>
+    <message>
+        <source>line %1 is longer than %2 bytes</source>
+        <translation>Zeile %1 ist länger als %2 Byte</translation>
+    </message>
+    <message>
+        <source>a line of it is longer than %1 characters</source>
+        <translation>eine Zeile darin ist länger als %1 Zeichen</translation>
+    </message>
+    <message>
+        <source>its text has control characters</source>
+        <translation>der Text enthält Steuerzeichen</translation>
+    </message>
+    <message>
+        <source>its keyword cannot be read</source>
+        <translation>das Schlüsselwort ist nicht lesbar</translation>
+    </message>
+    <message>
+        <source>line %1 has control characters</source>
+        <translation>Zeile %1 enthält Steuerzeichen</translation>
+    </message>
+    <message>
+        <source>groups of options</source>
+        <translation>Optionsgruppen</translation>
+    </message>
+    <message>
+        <source>the option in line %1 has no keyword</source>
+        <translation>die Option in Zeile %1 hat kein Schlüsselwort</translation>
+    </message>
+    <message>
+        <source>the keyword of the option &quot;%1&quot; in line %2 is bad: %3</source>
+        <translation>das Schlüsselwort der Option „%1“ in Zeile %2 ist fehlerhaft: %3</translation>
+    </message>
+    <message>
+        <source>options</source>
+        <translation>Optionen</translation>
+    </message>
+    <message>
+        <source>choices</source>
+        <translation>Auswahlmöglichkeiten</translation>
+    </message>
+    <message>
+        <source>page sizes</source>
+        <translation>Papierformate</translation>
+    </message>
+    <message>
+        <source>parameters of custom choices</source>
+        <translation>Parameter benutzerdefinierter Auswahlmöglichkeiten</translation>
+    </message>
+    <message>
+        <source>translations into one language</source>
+        <translation>Übersetzungen in eine Sprache</translation>
+    </message>
+    <message>
+        <source>entries beside its options</source>
+        <translation>Einträge neben den Optionen</translation>
+    </message>
+    <message>
+        <source>constraints</source>
+        <translation>Einschränkungen</translation>
+    </message>
+    <message>
+        <source>it is cut off: the option &quot;%1&quot; opened in line %2 never closes</source>
+        <translation>sie ist abgeschnitten: die in Zeile %2 begonnene Option „%1“ wird nie beendet</translation>
+    </message>
+    <message>
+        <source>it is cut off: the group opened in line %1 never closes</source>
+        <translation>sie ist abgeschnitten: die in Zeile %1 begonnene Gruppe wird nie beendet</translation>
+    </message>
+    <message>
+        <source>its constraints name options with too many choices</source>
+        <translation>die Einschränkungen betreffen Optionen mit zu vielen Auswahlmöglichkeiten</translation>
+    </message>
+    <message>
+        <source>Line %1: the choice &quot;%2&quot; of the option &quot;%3&quot; is left out: %4.</source>
+        <translation>Zeile %1: Die Auswahl „%2“ der Option „%3“ wurde weggelassen: %4.</translation>
+    </message>
+    <message>
+        <source>Line %1: the entry &quot;%3&quot; &quot;%2&quot; is left out: %4.</source>
+        <translation>Zeile %1: Der Eintrag „%3“ „%2“ wurde weggelassen: %4.</translation>
+    </message>
+    <message>
+        <source>%1 more entries are left out.</source>
+        <translation>Weitere weggelassene Einträge: %1.</translation>
+    </message>
+    <message>
+        <source>fetch the printer&apos;s PPD again</source>
+        <translation>holen Sie die PPD-Datei des Druckers erneut</translation>
+    </message>
+    <message>
+        <source>correct it or fetch another from the printer&apos;s maker</source>
+        <translation>korrigieren Sie sie oder holen Sie eine andere vom Hersteller des Druckers</translation>
+    </message>
+    <message>
+        <source>it has more than %1 %2</source>
+        <translation>zu viele %2: mehr als %1</translation>
+    </message>
+    <message>
+        <source>The PPD &quot;%1&quot; cannot be used: %2; %3.</source>
+        <translation>Die PPD-Datei „%1“ kann nicht verwendet werden: %2; %3.</translation>
+    </message>
+</context>
+<context>
+    <name>PrintDialog</name>
+    <message>
+        <source>P&amp;rinter:</source>
+        <translation>D&amp;rucker:</translation>
+    </message>
+    <message>
+        <source>Paper &amp;size:</source>
+        <translation>Papier&amp;format:</translation>
+    </message>
+    <message>
+        <source>&amp;Copies:</source>
+        <translation>&amp;Exemplare:</translation>
+    </message>
+    <message>
+        <source>&amp;Folder:</source>
+        <translation>&amp;Ordner:</translation>
+    </message>
+    <message>
+        <source>Where the built-in printer leaves its files</source>
+        <translation>Hier legt der eingebaute Drucker seine Dateien ab</translation>
+    </message>
+    <message>
+        <source>&amp;Browse…</source>
+        <translation>D&amp;urchsuchen…</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Hilfe</translation>
+    </message>
+    <message>
+        <source>Sa&amp;ve Settings</source>
+        <translation>Einstellungen &amp;speichern</translation>
+    </message>
+    <message>
+        <source>Keep these settings for the next time with this printer</source>
+        <translation>Diese Einstellungen für das nächste Mal mit diesem Drucker behalten</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>&amp;Print</source>
+        <translation>&amp;Drucken</translation>
+    </message>
+</context>
+<context>
+    <name>Queue</name>
+    <message>
+        <source>Built-in printer (files)</source>
+        <translation>Eingebauter Drucker (Dateien)</translation>
+    </message>
+</context>
+<context>
+    <name>QueueFault</name>
+    <message>
+        <source>the print server does not know it</source>
+        <translation>der Druckserver kennt ihn nicht</translation>
+    </message>
+    <message>
+        <source>nothing answers at its address</source>
+        <translation>unter seiner Adresse antwortet nichts</translation>
+    </message>
+    <message>
+        <source>the print server keeps none for it</source>
+        <translation>der Druckserver hat keine für ihn</translation>
+    </message>
+    <message>
+        <source>it is set to reject them</source>
+        <translation>er ist so eingestellt, dass er sie ablehnt</translation>
+    </message>
+    <message>
+        <source>no permission</source>
+        <translation>keine Berechtigung</translation>
+    </message>
+    <message>
+        <source>time limit reached</source>
+        <translation>Zeitlimit erreicht</translation>
+    </message>
+    <message>
+        <source>the print server gave no reason</source>
+        <translation>der Druckserver nannte keinen Grund</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; does not exist (%2); choose another one, or add it in the printer settings.</source>
+        <translation>Den Drucker „%1“ gibt es nicht (%2); wählen Sie einen anderen oder fügen Sie ihn in den Druckereinstellungen hinzu.</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; cannot be reached, because no print server is running (%2); start CUPS or check the server&apos;s name.</source>
+        <translation>Der Drucker „%1“ ist nicht erreichbar, weil kein Druckserver läuft (%2); starten Sie CUPS oder prüfen Sie den Namen des Servers.</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; has no PPD file (%2); set it up again with its driver.</source>
+        <translation>Der Drucker „%1“ hat keine PPD-Datei (%2); richten Sie ihn mit seinem Treiber neu ein.</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; does not accept jobs (%2); let it accept them in the printer settings, or choose another one.</source>
+        <translation>Der Drucker „%1“ nimmt keine Aufträge an (%2); erlauben Sie es in den Druckereinstellungen oder wählen Sie einen anderen.</translation>
+    </message>
+    <message>
+        <source>The print server refused the request for the printer &quot;%1&quot; (%2); ask whoever manages it.</source>
+        <translation>Der Druckserver hat die Anfrage für den Drucker „%1“ abgelehnt (%2); fragen Sie, wer ihn verwaltet.</translation>
+    </message>
+    <message>
+        <source>The print server did not answer about the printer &quot;%1&quot; in time (%2); try again, or restart CUPS.</source>
+        <translation>Der Druckserver hat zum Drucker „%1“ nicht rechtzeitig geantwortet (%2); versuchen Sie es erneut oder starten Sie CUPS neu.</translation>
+    </message>
+    <message>
+        <source>The print server could not serve the printer &quot;%1&quot; (%2); try again, or look into its log.</source>
+        <translation>Der Druckserver konnte den Drucker „%1“ nicht bedienen (%2); versuchen Sie es erneut oder sehen Sie in sein Protokoll.</translation>
+    </message>
+    <message>
+        <source>No print server is running (%1); start CUPS or check the server&apos;s name.</source>
+        <translation>Es läuft kein Druckserver (%1); starten Sie CUPS oder prüfen Sie den Namen des Servers.</translation>
+    </message>
+    <message>
+        <source>The print server refused to list its printers (%1); ask whoever manages it.</source>
+        <translation>Der Druckserver will seine Drucker nicht auflisten (%1); fragen Sie, wer ihn verwaltet.</translation>
+    </message>
+    <message>
+        <source>The print server did not answer in time (%1); try again, or restart CUPS.</source>
+        <translation>Der Druckserver hat nicht rechtzeitig geantwortet (%1); versuchen Sie es erneut oder starten Sie CUPS neu.</translation>
+    </message>
+    <message>
+        <source>The print server could not list its printers (%1); try again, or look into its log.</source>
+        <translation>Der Druckserver konnte seine Drucker nicht auflisten (%1); versuchen Sie es erneut oder sehen Sie in sein Protokoll.</translation>
+    </message>
+</context>
+<context>
+    <name>RequestedSession</name>
+    <message>
+        <source>%1 It is your default printer; --printer names another one.</source>
+        <translation>%1 Dies ist Ihr Standarddrucker; mit --printer nennen Sie einen anderen.</translation>
+    </message>
+</context>
+<context>
+    <name>ScreenshotRun</name>
+    <message>
+        <source>The picture %1 could not be written: %2. Choose a folder that can be written.</source>
+        <translation>Das Bild %1 konnte nicht geschrieben werden: %2. Wählen Sie einen Ordner, in den geschrieben werden kann.</translation>
+    </message>
+    <message>
+        <source>The folder %1 cannot be made. Choose another one for the pictures.</source>
+        <translation>Der Ordner %1 kann nicht angelegt werden. Wählen Sie einen anderen für die Bilder.</translation>
+    </message>
+</context>
+<context>
+    <name>SummaryLines</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>main</name>
+    <message>
+        <source>The program cannot start: %1</source>
+        <translation>Das Programm kann nicht starten: %1</translation>
+    </message>
+    <message>
+        <source>%1 See corvel-print --help.</source>
+        <translation>%1 Siehe corvel-print --help.</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::MessageBar</name>
+    <message>
+        <source>Open Folder</source>
+        <translation>Ordner öffnen</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::OutputFault</name>
+    <message>
+        <source>&quot;%1&quot; is not a folder: it is a file, or below one. Choose another folder.</source>
+        <translation>„%1“ ist kein Ordner, sondern eine Datei oder liegt unter einer. Wählen Sie einen anderen Ordner.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be made: there is no such folder. Choose another folder.</source>
+        <translation>„%1“ kann nicht angelegt werden: Den Ordner gibt es nicht. Wählen Sie einen anderen Ordner.</translation>
+    </message>
+    <message>
+        <source>You may not write &quot;%1&quot;. Choose a folder that you may write to.</source>
+        <translation>Sie dürfen „%1“ nicht schreiben. Wählen Sie einen Ordner, in den Sie schreiben dürfen.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is already there and is not a file that could be replaced. Rename it, or choose another folder.</source>
+        <translation>„%1“ ist schon da und keine Datei, die ersetzt werden könnte. Benennen Sie es um oder wählen Sie einen anderen Ordner.</translation>
+    </message>
+    <message>
+        <source>The name &quot;%1&quot; is too long. Rename the photo, or choose another folder.</source>
+        <translation>Der Name „%1“ ist zu lang. Benennen Sie das Foto um oder wählen Sie einen anderen Ordner.</translation>
+    </message>
+    <message>
+        <source>There is no space for &quot;%1&quot;. Delete other files, or choose another folder.</source>
+        <translation>Für „%1“ ist kein Platz. Löschen Sie andere Dateien oder wählen Sie einen anderen Ordner.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; could not be written: %2. Check the disk, or choose another folder.</source>
+        <translation>„%1“ konnte nicht geschrieben werden: %2. Prüfen Sie den Datenträger oder wählen Sie einen anderen Ordner.</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::PanelTabs</name>
+    <message>
+        <source>Options</source>
+        <translation>Optionen</translation>
+    </message>
+    <message>
+        <source>Summary</source>
+        <translation>Zusammenfassung</translation>
+    </message>
+    <message>
+        <source>The panel &quot;%1&quot; cannot be shown: its form is missing from the plug-in bundle or damaged. Install the bundle again. Everything else works.</source>
+        <translation>Die Seite „%1“ kann nicht angezeigt werden: Ihr Formular fehlt im Plug-in-Paket oder ist beschädigt. Installieren Sie das Paket erneut. Alles andere funktioniert.</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::PdfWriter</name>
+    <message>
+        <source>The page of %1 x %2 points cannot be printed on. Choose another page size.</source>
+        <translation>Auf die Seite von %1 × %2 Punkt kann nicht gedruckt werden. Wählen Sie ein anderes Papierformat.</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for &quot;%1&quot;. Scale it down in a photo program.</source>
+        <translation>Für „%1“ reicht der Speicher nicht. Verkleinern Sie es in einem Fotoprogramm.</translation>
+    </message>
+    <message>
+        <source>The PDF of &quot;%1&quot; could not be written: %2. Check the disk that it goes to.</source>
+        <translation>Die PDF-Datei von „%1“ konnte nicht geschrieben werden: %2. Prüfen Sie den Zieldatenträger.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; could not be put on a page. Save it anew in a photo program.</source>
+        <translation>„%1“ konnte nicht auf eine Seite gesetzt werden. Speichern Sie es in einem Fotoprogramm neu.</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::Photo</name>
+    <message>
+        <source>&quot;%1&quot; is not a photo of a known kind, whatever its name says. Save it as JPEG or PNG.</source>
+        <translation>„%1“ ist kein Foto bekannter Art, was immer der Name besagt. Speichern Sie es als JPEG oder PNG.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is too large: %2, where a photo may have %3. Save it with fewer pixels, or as JPEG.</source>
+        <translation>„%1“ ist zu groß: %2; erlaubt sind %3. Speichern Sie es mit weniger Pixeln oder als JPEG.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is too large: %2 x %3 pixels. Scale it down in a photo program.</source>
+        <translation>„%1“ ist zu groß: %2 × %3 Pixel. Verkleinern Sie es in einem Fotoprogramm.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is cut short: its end is missing. Copy it again from where it came from.</source>
+        <translation>„%1“ ist unvollständig: Das Ende fehlt. Kopieren Sie es erneut von der Quelle.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is damaged and cannot be shown. Copy it again, or save it anew in a photo program.</source>
+        <translation>„%1“ ist beschädigt und kann nicht angezeigt werden. Kopieren Sie es erneut oder speichern Sie es in einem Fotoprogramm neu.</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::PhotoFile</name>
+    <message>
+        <source>There is no photo &quot;%1&quot;. Check its name and folder.</source>
+        <translation>Es gibt kein Foto „%1“. Prüfen Sie Namen und Ordner.</translation>
+    </message>
+    <message>
+        <source>You may not read &quot;%1&quot;. Ask its owner for the permission to read it.</source>
+        <translation>Sie dürfen „%1“ nicht lesen. Bitten Sie den Eigentümer um Leserechte.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; could not be read: %2. Check the disk or card that it is on.</source>
+        <translation>„%1“ konnte nicht gelesen werden: %2. Prüfen Sie den Datenträger oder die Karte.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a folder. Choose a photo inside it.</source>
+        <translation>„%1“ ist ein Ordner. Wählen Sie ein Foto darin.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a file but a device, a pipe or a socket. Choose a photo.</source>
+        <translation>„%1“ ist keine Datei, sondern ein Gerät, eine Pipe oder ein Socket. Wählen Sie ein Foto.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is empty. Copy the photo again from where it came from.</source>
+        <translation>„%1“ ist leer. Kopieren Sie das Foto erneut von der Quelle.</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::PhotoPrinter</name>
+    <message>
+        <source>Printed %1: %2</source>
+        <translation>%1 gedruckt: %2</translation>
+    </message>
+    <message>
+        <source>Sent %1 to %2 as job %3</source>
+        <translation>%1 als Auftrag %3 an %2 gesendet</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::PpdFetcher</name>
+    <message>
+        <source>its PPD is larger than %1 MiB</source>
+        <translation>seine PPD-Datei ist größer als %1 MiB</translation>
+    </message>
+    <message>
+        <source>there is no memory for its PPD</source>
+        <translation>für seine PPD-Datei fehlt der Speicher</translation>
+    </message>
+    <message>
+        <source>the connection broke in the middle of its PPD</source>
+        <translation>die Verbindung brach mitten in seiner PPD-Datei ab</translation>
+    </message>
+    <message>
+        <source>what the print server keeps is empty</source>
+        <translation>was der Druckserver hat, ist leer</translation>
+    </message>
+    <message>
+        <source>its PPD did not arrive within %1 s</source>
+        <translation>seine PPD-Datei kam nicht innerhalb von %1 s an</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::PreviewWidget</name>
+    <message>
+        <source>Preview of %1</source>
+        <translation>Vorschau von %1</translation>
+    </message>
+    <message>
+        <source>No photo</source>
+        <translation>Kein Foto</translation>
+    </message>
+    <message>
+        <source>This photo cannot be shown</source>
+        <translation>Dieses Foto kann nicht angezeigt werden</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::PrintDialog</name>
+    <message>
+        <source>Start corvel-print with a photo to print it.</source>
+        <translation>Starten Sie corvel-print mit einem Foto, um es zu drucken.</translation>
+    </message>
+    <message>
+        <source>Print Photo</source>
+        <translation>Foto drucken</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 and %n more</source>
+        <translation>
+            <numerusform>%1 und %n weiteres</numerusform>
+            <numerusform>%1 und %n weitere</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Print %1</source>
+        <translation>%1 drucken</translation>
+    </message>
+    <message>
+        <source>Folder for Printed Files</source>
+        <translation>Ordner für gedruckte Dateien</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Hilfe</translation>
+    </message>
+    <message>
+        <source>Choose a printer and a paper size, adjust the photo on the pages of the printer, and press Print. The built-in printer leaves a PDF file and a job ticket in the folder.</source>
+        <translation>Wählen Sie einen Drucker und ein Papierformat, passen Sie das Foto auf den Seiten des Druckers an und klicken Sie auf „Drucken“. Der eingebaute Drucker legt eine PDF-Datei und ein Auftragsticket im Ordner ab.</translation>
+    </message>
+    <message>
+        <source>Printing is under way. The window closes when it is done.</source>
+        <translation>Der Druck läuft. Das Fenster schließt sich, wenn er fertig ist.</translation>
+    </message>
+    <message>
+        <source>The options of &quot;%1&quot; are being fetched from the print server.</source>
+        <translation>Die Optionen von „%1“ werden vom Druckserver geholt.</translation>
+    </message>
+    <message>
+        <source>This printer has no panels of its own; it prints with its defaults.</source>
+        <translation>Dieser Drucker hat keine eigenen Einstellungsseiten; er druckt mit seinen Standardwerten.</translation>
+    </message>
+    <message>
+        <source>There is no photo to print.</source>
+        <translation>Es gibt kein Foto zu drucken.</translation>
+    </message>
+    <message>
+        <source>Printing is under way.</source>
+        <translation>Der Druck läuft.</translation>
+    </message>
+    <message>
+        <source>No paper size is chosen. Choose one.</source>
+        <translation>Es ist kein Papierformat gewählt. Wählen Sie eines.</translation>
+    </message>
+    <message>
+        <source>Printing…</source>
+        <translation>Wird gedruckt…</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>The settings are saved for &quot;%1&quot;.</source>
+        <translation>Die Einstellungen für „%1“ wurden gespeichert.</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::PrinterChooser</name>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; is no longer there. Choose another one.</source>
+        <translation>Der Drucker „%1“ ist nicht mehr da. Wählen Sie einen anderen.</translation>
+    </message>
+    <message>
+        <source>There is no printer &quot;%1&quot;. Choose another one, or see --list-printers for those that there are.</source>
+        <translation>Es gibt keinen Drucker „%1“. Wählen Sie einen anderen; --list-printers zeigt die vorhandenen.</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::QueueSettings</name>
+    <message>
+        <source>The settings for &quot;%1&quot; could not be saved in %2: %3. Make room there, or make it writable.</source>
+        <translation>Die Einstellungen für „%1“ konnten nicht in %2 gespeichert werden: %3. Schaffen Sie dort Platz oder Schreibrechte.</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::SummaryPage</name>
+    <message>
+        <source>Option</source>
+        <translation>Option</translation>
+    </message>
+    <message>
+        <source>Choice</source>
+        <translation>Auswahl</translation>
+    </message>
+    <message>
+        <source>Summary of the job</source>
+        <translation>Zusammenfassung des Auftrags</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,988 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="es" sourcelanguage="en">
+<context>
+    <name>BatchRun</name>
+    <message>
+        <source>No page size is chosen. Choose one with -o PageSize=%1 or another one of --list-options.</source>
+        <translation>No se ha elegido ningún tamaño de papel. Elija uno con -o PageSize=%1 u otro de --list-options.</translation>
+    </message>
+    <message>
+        <source>%1 Printed before it: %2.</source>
+        <translation>%1 Impreso antes: %2.</translation>
+    </message>
+</context>
+<context>
+    <name>ChoiceMarker</name>
+    <message>
+        <source>&quot;%1&quot;</source>
+        <translation>«%1»</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; (%2)</source>
+        <translation>«%1» (%2)</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is only the beginning of a number; allowed for the option %2 are %3.</source>
+        <translation>«%1» es solo el comienzo de un número; valores posibles de la opción %2: %3.</translation>
+    </message>
+    <message>
+        <source>The option %1 has no choice &quot;%2&quot;; allowed are %3.</source>
+        <translation>La opción %1 no tiene el valor «%2»; valores posibles: %3.</translation>
+    </message>
+    <message>
+        <source>%1 and %2 more</source>
+        <translation>%1 y %2 más</translation>
+    </message>
+    <message>
+        <source>%1 is %2</source>
+        <translation>%1 sea %2</translation>
+    </message>
+    <message>
+        <source>%1 and %2</source>
+        <translation>%1 y %2</translation>
+    </message>
+    <message>
+        <source>%1 cannot be %2 while %3.</source>
+        <translation>%1 no puede ser %2 mientras %3.</translation>
+    </message>
+    <message>
+        <source>The printer has no option &quot;%1&quot;; it has %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>CommandLine</name>
+    <message>
+        <source>a print queue, or &quot;built-in&quot; for the built-in printer;
+otherwise your default queue, or else the built-in printer</source>
+        <translation>una cola de impresión, o «built-in» para la impresora integrada;
+si no, su cola predeterminada o, si no hay, la integrada</translation>
+    </message>
+    <message>
+        <source>the built-in printer, with this PPD instead of its own</source>
+        <translation>la impresora integrada, con este PPD en lugar del suyo</translation>
+    </message>
+    <message>
+        <source>refuse a conflicting choice at once (constraint, the default),
+or check all choices together before printing (settings)</source>
+        <translation>rechazar al momento un valor incompatible (constraint, lo normal)
+o comprobarlos todos juntos antes de imprimir (settings)</translation>
+    </message>
+    <message>
+        <source>choose for an option of the printer; repeatable, in order</source>
+        <translation>valor de una opción de la impresora; repetible, en orden</translation>
+    </message>
+    <message>
+        <source>where the built-in printer leaves its files
+(otherwise the current folder)</source>
+        <translation>dónde guarda sus archivos la impresora integrada
+(si no, en la carpeta actual)</translation>
+    </message>
+    <message>
+        <source>no window: apply the options, print, exit; what the window has
+saved is not used, so that a script gets the same each time</source>
+        <translation>sin ventana: aplicar las opciones, imprimir y salir; no se usa lo
+guardado en la ventana, para que un guion dé siempre lo mismo</translation>
+    </message>
+    <message>
+        <source>list the printers, one per line: name, description, state,
+&quot;default&quot;; separated by tabs</source>
+        <translation>listar las impresoras, una por línea: nombre, descripción, estado,
+«predeterminada»; separados por tabuladores</translation>
+    </message>
+    <message>
+        <source>list the printer&apos;s options with their choices and panels</source>
+        <translation>listar las opciones de la impresora con sus valores y paneles</translation>
+    </message>
+    <message>
+        <source>show what the panels say about the choices; with --batch
+as well as printing</source>
+        <translation>mostrar lo que los paneles dicen de los valores; con --batch,
+además de imprimir</translation>
+    </message>
+    <message>
+        <source>lists and summary as JSON</source>
+        <translation>listas y resumen en JSON</translation>
+    </message>
+    <message>
+        <source>save a picture of the dialog with each panel in DIR, exit</source>
+        <translation>guardar en DIR una imagen del diálogo con cada panel y salir</translation>
+    </message>
+    <message>
+        <source>show this help</source>
+        <translation>mostrar esta ayuda</translation>
+    </message>
+    <message>
+        <source>show the version</source>
+        <translation>mostrar la versión</translation>
+    </message>
+    <message>
+        <source>The value of --%1 is empty.</source>
+        <translation>El valor de --%1 está vacío.</translation>
+    </message>
+    <message>
+        <source>There is no mode &quot;%1&quot;; it is either constraint or settings.</source>
+        <translation>No hay ningún modo «%1»; puede ser constraint o settings.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; chooses nothing; an option is given as KEY=CHOICE.</source>
+        <translation>«%1» no elige nada; una opción se indica como KEY=CHOICE.</translation>
+    </message>
+    <message>
+        <source>--ppd is for the built-in printer, and --printer names the queue &quot;%1&quot;.</source>
+        <translation>--ppd es para la impresora integrada, pero --printer indica la cola «%1».</translation>
+    </message>
+    <message>
+        <source>%1 and %2 exclude each other.</source>
+        <translation>%1 y %2 se excluyen mutuamente.</translation>
+    </message>
+    <message>
+        <source>--batch needs a photo to print.</source>
+        <translation>--batch necesita una foto que imprimir.</translation>
+    </message>
+    <message>
+        <source>--json is for --list-printers, --list-options and --summary.</source>
+        <translation>--json es para --list-printers, --list-options y --summary.</translation>
+    </message>
+    <message>
+        <source>Usage: corvel-print [options] PHOTO...
+Prints photos on a photo printer: from a window, or at once with --batch.
+
+Options:
+</source>
+        <translation>Uso: corvel-print [opciones] FOTO...
+Imprime fotos en una impresora fotográfica: desde una ventana, o al momento con --batch.
+
+Opciones:
+</translation>
+    </message>
+    <message>
+        <source>
+Exit status:
+  0  printed, or done what was asked for
+  1  refused or failed; one line on standard error says what and why
+  2  wrong usage
+
+Examples:
+  corvel-print --printer built-in holiday.jpg
+  corvel-print --batch -o Red=12 -o Quality=Fine -o Overcoat=Matte --output prints *.jpg
+</source>
+        <translation>
+Estado de salida:
+  0  impreso, o hecho lo que se pedía
+  1  rechazado o fallido; una línea en la salida de error dice qué y por qué
+  2  uso incorrecto
+
+Ejemplos:
+  corvel-print --printer built-in vacaciones.jpg
+  corvel-print --batch -o Red=12 -o Quality=Fine -o Overcoat=Matte --output copias *.jpg
+</translation>
+    </message>
+</context>
+<context>
+    <name>Console</name>
+    <message>
+        <source>Standard output could not be written to: %1. Send it to another place.</source>
+        <translation>No se ha podido escribir en la salida estándar: %1. Diríjala a otro lugar.</translation>
+    </message>
+</context>
+<context>
+    <name>CupsConnection</name>
+    <message>
+        <source>nothing answers at %1</source>
+        <translation>nada responde en %1</translation>
+    </message>
+    <message>
+        <source>it was silent for %1 s</source>
+        <translation>sin respuesta durante %1 s</translation>
+    </message>
+    <message>
+        <source>no printer can have this name</source>
+        <translation>ninguna impresora puede llamarse así</translation>
+    </message>
+</context>
+<context>
+    <name>JobSubmission</name>
+    <message>
+        <source>The option &quot;%1&quot; is not sent, because this cannot be an option&apos;s keyword; leave it out.</source>
+        <translation>La opción «%1» no se envía, porque no puede ser la palabra clave de una opción; quítela.</translation>
+    </message>
+    <message>
+        <source>The option &quot;%1&quot; is not sent, because its value has a line break or another control character in it; choose another value.</source>
+        <translation>La opción «%1» no se envía, porque su valor contiene un salto de línea u otro carácter de control; elija otro valor.</translation>
+    </message>
+    <message>
+        <source>The option &quot;%1&quot; is not sent, because CUPS misreads a value that begins with a brace; choose another value.</source>
+        <translation>La opción «%1» no se envía, porque CUPS interpreta mal un valor que empieza por una llave; elija otro valor.</translation>
+    </message>
+    <message>
+        <source>The option &quot;%1&quot; is not sent, because its value is longer than %2 bytes; choose another value.</source>
+        <translation>La opción «%1» no se envía, porque su valor ocupa más de %2 bytes; elija otro valor.</translation>
+    </message>
+    <message>
+        <source>The document &quot;%1&quot; is not sent, because its type has a control character in it.</source>
+        <translation>El documento «%1» no se envía, porque su tipo contiene un carácter de control.</translation>
+    </message>
+    <message>
+        <source>%1 copies cannot be printed; choose a number from 1 to %2.</source>
+        <translation>No se pueden imprimir %1 copias; elija un número de 1 a %2.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; could not be read to its end (%2); nothing is printed.</source>
+        <translation>No se ha podido leer el archivo «%1» hasta el final (%2); no se imprime nada.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; cannot be read (%2); nothing is printed.</source>
+        <translation>No se puede leer el archivo «%1» (%2); no se imprime nada.</translation>
+    </message>
+</context>
+<context>
+    <name>Listings</name>
+    <message>
+        <source>rejects jobs</source>
+        <translation>rechaza trabajos</translation>
+    </message>
+    <message>
+        <source>ready</source>
+        <translation>lista</translation>
+    </message>
+    <message>
+        <source>printing</source>
+        <translation>imprimiendo</translation>
+    </message>
+    <message>
+        <source>stopped</source>
+        <translation>detenida</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>desconocido</translation>
+    </message>
+    <message>
+        <source>default</source>
+        <translation>predeterminada</translation>
+    </message>
+</context>
+<context>
+    <name>NumericChoices</name>
+    <message>
+        <source>%1 to %2</source>
+        <translation>de %1 a %2</translation>
+    </message>
+    <message>
+        <source>%1 to %2 in steps of %3</source>
+        <translation>de %1 a %2 en pasos de %3</translation>
+    </message>
+</context>
+<context>
+    <name>OptionTable</name>
+    <message>
+        <source>Option</source>
+        <translation>Opción</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Texto</translation>
+    </message>
+    <message>
+        <source>Choice</source>
+        <translation>Elección</translation>
+    </message>
+    <message>
+        <source>Panel</source>
+        <translation>Panel</translation>
+    </message>
+    <message>
+        <source>Choices</source>
+        <translation>Valores posibles</translation>
+    </message>
+</context>
+<context>
+    <name>PluginLoader</name>
+    <message>
+        <source>it is not a folder</source>
+        <translation>no es una carpeta</translation>
+    </message>
+    <message>
+        <source>it has no readable Contents/Info.json</source>
+        <translation>no tiene un Contents/Info.json legible</translation>
+    </message>
+    <message>
+        <source>its Info.json is larger than 64 KiB</source>
+        <translation>su Info.json ocupa más de 64 KiB</translation>
+    </message>
+    <message>
+        <source>its Info.json is not a JSON object</source>
+        <translation>su Info.json no es un objeto JSON</translation>
+    </message>
+    <message>
+        <source>its Info.json has no &quot;CFBundleIdentifier&quot;</source>
+        <translation>su Info.json no tiene «CFBundleIdentifier»</translation>
+    </message>
+    <message>
+        <source>the &quot;CFBundleExecutable&quot; of its Info.json is not a plain file name</source>
+        <translation>«CFBundleExecutable» en su Info.json no es un simple nombre de archivo</translation>
+    </message>
+    <message>
+        <source>The plug-in bundle &quot;%1&quot; cannot be used: %2. Install it again.</source>
+        <translation>No se puede usar el complemento «%1»: %2. Instálelo de nuevo.</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s PPD asks for the plug-in bundle &quot;%1&quot;, which is no bundle&apos;s name. Use a PPD made for this printer.</source>
+        <translation>El PPD de la impresora pide el complemento «%1», que no es el nombre de un complemento. Use un PPD hecho para esta impresora.</translation>
+    </message>
+    <message>
+        <source>The plug-in bundle &quot;%1&quot; was not found in %2. Install it there.</source>
+        <translation>No se ha encontrado el complemento «%1» en %2. Instálelo allí.</translation>
+    </message>
+    <message>
+        <source>it has no module &quot;%1&quot;</source>
+        <translation>no tiene el módulo «%1»</translation>
+    </message>
+    <message>
+        <source>its module is no print-dialog plug-in</source>
+        <translation>su módulo no es un complemento del diálogo de impresión</translation>
+    </message>
+    <message>
+        <source>its identifier &quot;%1&quot; is not the one that its module was built for</source>
+        <translation>su identificador «%1» no es aquel para el que se construyó su módulo</translation>
+    </message>
+    <message>
+        <source>it offers no panel for this printer</source>
+        <translation>no ofrece ningún panel para esta impresora</translation>
+    </message>
+</context>
+<context>
+    <name>PpdDocument</name>
+    <message>
+        <source>The PPD &quot;%1&quot; cannot be used: line %2: %3; correct it or fetch another from the printer&apos;s maker.</source>
+        <translation>No se puede usar el PPD «%1»: línea %2: %3; corríjalo u obtenga otro del fabricante de la impresora.</translation>
+    </message>
+    <message>
+        <source>The PPD &quot;%1&quot; has no page size that can be printed on; correct it or fetch another from the printer&apos;s maker.</source>
+        <translation>El PPD «%1» no tiene ningún tamaño de papel imprimible; corríjalo u obtenga otro del fabricante de la impresora.</translation>
+    </message>
+    <message>
+        <source>The translations are left out: there are too many.</source>
+        <translation>Se omiten las traducciones: hay demasiadas.</translation>
+    </message>
+    <message>
+        <source>The option &quot;%1&quot; repeats %2 of its choices; the first of each counts.</source>
+        <translation>Valores repetidos de la opción «%1»: %2; cuenta el primero de cada uno.</translation>
+    </message>
+    <message>
+        <source>The option &quot;%1&quot; is left out: it has no choices.</source>
+        <translation>Se omite la opción «%1»: no tiene valores.</translation>
+    </message>
+    <message>
+        <source>%1 page sizes are left out: they have no dimensions.</source>
+        <translation>Tamaños de papel omitidos por no tener dimensiones: %1.</translation>
+    </message>
+    <message>
+        <source>The default page size is not one of the printer&apos;s; &quot;%1&quot; takes its place.</source>
+        <translation>El tamaño de papel predeterminado no es de esta impresora; se usa «%1» en su lugar.</translation>
+    </message>
+</context>
+<context>
+    <name>PpdFile</name>
+    <message>
+        <source>&quot;%1&quot; is a directory; name the PPD file itself.</source>
+        <translation>«%1» es una carpeta; indique el archivo PPD mismo.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a device or a pipe, not a file; name the printer&apos;s PPD file.</source>
+        <translation>«%1» es un dispositivo o una tubería, no un archivo; indique el archivo PPD de la impresora.</translation>
+    </message>
+    <message>
+        <source>There is no PPD &quot;%1&quot;; check the path.</source>
+        <translation>No existe el PPD «%1»; compruebe la ruta.</translation>
+    </message>
+    <message>
+        <source>The PPD &quot;%1&quot; cannot be read: %2; check the file and its permissions.</source>
+        <translation>No se puede leer el PPD «%1»: %2; compruebe el archivo y sus permisos.</translation>
+    </message>
+</context>
+<context>
+    <name>PpdInspection</name>
+    <message>
+        <source>it is not printable ASCII</source>
+        <translation>contiene caracteres que no son ASCII imprimible</translation>
+    </message>
+    <message>
+        <source>it is longer than %1 characters</source>
+        <translation>tiene más de %1 caracteres</translation>
+    </message>
+    <message>
+        <source>it is empty</source>
+        <translation>está vacío</translation>
+    </message>
+    <message>
+        <source>it is larger than %1 MiB</source>
+        <translation>ocupa más de %1 MiB</translation>
+    </message>
+    <message>
+        <source>The PPD &quot;%1&quot; is compressed; unpack it with gunzip first.</source>
+        <translation>El PPD «%1» está comprimido; descomprímalo antes con gunzip.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a PPD, which is a text that begins with &quot;*PPD-Adobe:&quot;; name the printer&apos;s PPD file.</source>
+        <translation>«%1» no es un PPD, es decir, un texto que empieza por «*PPD-Adobe:»; indique el archivo PPD de la impresora.</translation>
+    </message>
+    <message>
+        <source>it is cut off: the quote opened in line %1 never closes</source>
+        <translation>está cortado: las comillas abiertas en la línea %1 no se cierran</translation>
+    </message>
+    <message>
+        <source>it is cut off in line %1</source>
+        <translation>está cortado en la línea %1</translation>
+    </message>
+    <message>
+        <source>the value in line %1 is longer than %2 bytes</source>
+        <translation>el valor de la línea %1 ocupa más de %2 bytes</translation>
+    </message>
+    <message>
+        <source>line %1 is longer than %2 bytes</source>
+        <translation>la línea %1 ocupa más de %2 bytes</translation>
+    </message>
+    <message>
+        <source>a line of it is longer than %1 characters</source>
+        <translation>una de sus líneas tiene más de %1 caracteres</translation>
+    </message>
+    <message>
+        <source>its text has control characters</source>
+        <translation>su texto contiene caracteres de control</translation>
+    </message>
+    <message>
+        <source>its keyword cannot be read</source>
+        <translation>su palabra clave no se puede leer</translation>
+    </message>
+    <message>
+        <source>line %1 has control characters</source>
+        <translation>la línea %1 contiene caracteres de control</translation>
+    </message>
+    <message>
+        <source>groups of options</source>
+        <translation>grupos de opciones</translation>
+    </message>
+    <message>
+        <source>the option in line %1 has no keyword</source>
+        <translation>la opción de la línea %1 no tiene palabra clave</translation>
+    </message>
+    <message>
+        <source>the keyword of the option &quot;%1&quot; in line %2 is bad: %3</source>
+        <translation>la palabra clave de la opción «%1» de la línea %2 es incorrecta: %3</translation>
+    </message>
+    <message>
+        <source>options</source>
+        <translation>opciones</translation>
+    </message>
+    <message>
+        <source>choices</source>
+        <translation>valores</translation>
+    </message>
+    <message>
+        <source>page sizes</source>
+        <translation>tamaños de papel</translation>
+    </message>
+    <message>
+        <source>parameters of custom choices</source>
+        <translation>parámetros de valores personalizados</translation>
+    </message>
+    <message>
+        <source>translations into one language</source>
+        <translation>traducciones a un idioma</translation>
+    </message>
+    <message>
+        <source>entries beside its options</source>
+        <translation>entradas aparte de las opciones</translation>
+    </message>
+    <message>
+        <source>constraints</source>
+        <translation>restricciones</translation>
+    </message>
+    <message>
+        <source>it is cut off: the option &quot;%1&quot; opened in line %2 never closes</source>
+        <translation>está cortado: la opción «%1» abierta en la línea %2 no se cierra</translation>
+    </message>
+    <message>
+        <source>it is cut off: the group opened in line %1 never closes</source>
+        <translation>está cortado: el grupo abierto en la línea %1 no se cierra</translation>
+    </message>
+    <message>
+        <source>its constraints name options with too many choices</source>
+        <translation>sus restricciones se refieren a opciones con demasiados valores</translation>
+    </message>
+    <message>
+        <source>Line %1: the choice &quot;%2&quot; of the option &quot;%3&quot; is left out: %4.</source>
+        <translation>Línea %1: se omite el valor «%2» de la opción «%3»: %4.</translation>
+    </message>
+    <message>
+        <source>Line %1: the entry &quot;%3&quot; &quot;%2&quot; is left out: %4.</source>
+        <translation>Línea %1: se omite la entrada «%3» «%2»: %4.</translation>
+    </message>
+    <message>
+        <source>%1 more entries are left out.</source>
+        <translation>Otras entradas omitidas: %1.</translation>
+    </message>
+    <message>
+        <source>fetch the printer&apos;s PPD again</source>
+        <translation>obtenga de nuevo el PPD de la impresora</translation>
+    </message>
+    <message>
+        <source>correct it or fetch another from the printer&apos;s maker</source>
+        <translation>corríjalo u obtenga otro del fabricante de la impresora</translation>
+    </message>
+    <message>
+        <source>it has more than %1 %2</source>
+        <translation>tiene más de %1 %2</translation>
+    </message>
+    <message>
+        <source>The PPD &quot;%1&quot; cannot be used: %2; %3.</source>
+        <translation>No se puede usar el PPD «%1»: %2; %3.</translation>
+    </message>
+</context>
+<context>
+    <name>PrintDialog</name>
+    <message>
+        <source>P&amp;rinter:</source>
+        <translation>Impreso&amp;ra:</translation>
+    </message>
+    <message>
+        <source>Paper &amp;size:</source>
+        <translation>&amp;Tamaño de papel:</translation>
+    </message>
+    <message>
+        <source>&amp;Copies:</source>
+        <translation>&amp;Copias:</translation>
+    </message>
+    <message>
+        <source>&amp;Folder:</source>
+        <translation>Car&amp;peta:</translation>
+    </message>
+    <message>
+        <source>Where the built-in printer leaves its files</source>
+        <translation>Aquí guarda sus archivos la impresora integrada</translation>
+    </message>
+    <message>
+        <source>&amp;Browse…</source>
+        <translation>&amp;Examinar…</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>A&amp;yuda</translation>
+    </message>
+    <message>
+        <source>Sa&amp;ve Settings</source>
+        <translation>&amp;Guardar ajustes</translation>
+    </message>
+    <message>
+        <source>Keep these settings for the next time with this printer</source>
+        <translation>Conservar estos ajustes para la próxima vez que use esta impresora</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>&amp;Print</source>
+        <translation>&amp;Imprimir</translation>
+    </message>
+</context>
+<context>
+    <name>Queue</name>
+    <message>
+        <source>Built-in printer (files)</source>
+        <translation>Impresora integrada (archivos)</translation>
+    </message>
+</context>
+<context>
+    <name>QueueFault</name>
+    <message>
+        <source>the print server does not know it</source>
+        <translation>el servidor de impresión no la conoce</translation>
+    </message>
+    <message>
+        <source>nothing answers at its address</source>
+        <translation>nada responde en su dirección</translation>
+    </message>
+    <message>
+        <source>the print server keeps none for it</source>
+        <translation>el servidor de impresión no tiene ninguno para ella</translation>
+    </message>
+    <message>
+        <source>it is set to reject them</source>
+        <translation>está configurada para rechazarlos</translation>
+    </message>
+    <message>
+        <source>no permission</source>
+        <translation>sin permiso</translation>
+    </message>
+    <message>
+        <source>time limit reached</source>
+        <translation>tiempo agotado</translation>
+    </message>
+    <message>
+        <source>the print server gave no reason</source>
+        <translation>el servidor de impresión no dio ningún motivo</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; does not exist (%2); choose another one, or add it in the printer settings.</source>
+        <translation>La impresora «%1» no existe (%2); elija otra o añádala en la configuración de impresoras.</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; cannot be reached, because no print server is running (%2); start CUPS or check the server&apos;s name.</source>
+        <translation>No se puede acceder a la impresora «%1», porque no hay ningún servidor de impresión en marcha (%2); inicie CUPS o compruebe el nombre del servidor.</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; has no PPD file (%2); set it up again with its driver.</source>
+        <translation>La impresora «%1» no tiene archivo PPD (%2); configúrela de nuevo con su controlador.</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; does not accept jobs (%2); let it accept them in the printer settings, or choose another one.</source>
+        <translation>La impresora «%1» no acepta trabajos (%2); permítalo en la configuración de impresoras o elija otra.</translation>
+    </message>
+    <message>
+        <source>The print server refused the request for the printer &quot;%1&quot; (%2); ask whoever manages it.</source>
+        <translation>El servidor de impresión ha rechazado la petición para la impresora «%1» (%2); consulte a su administrador.</translation>
+    </message>
+    <message>
+        <source>The print server did not answer about the printer &quot;%1&quot; in time (%2); try again, or restart CUPS.</source>
+        <translation>El servidor de impresión no ha respondido a tiempo sobre la impresora «%1» (%2); inténtelo de nuevo o reinicie CUPS.</translation>
+    </message>
+    <message>
+        <source>The print server could not serve the printer &quot;%1&quot; (%2); try again, or look into its log.</source>
+        <translation>El servidor de impresión no ha podido atender a la impresora «%1» (%2); inténtelo de nuevo o consulte su registro.</translation>
+    </message>
+    <message>
+        <source>No print server is running (%1); start CUPS or check the server&apos;s name.</source>
+        <translation>No hay ningún servidor de impresión en marcha (%1); inicie CUPS o compruebe el nombre del servidor.</translation>
+    </message>
+    <message>
+        <source>The print server refused to list its printers (%1); ask whoever manages it.</source>
+        <translation>El servidor de impresión se niega a listar sus impresoras (%1); consulte a su administrador.</translation>
+    </message>
+    <message>
+        <source>The print server did not answer in time (%1); try again, or restart CUPS.</source>
+        <translation>El servidor de impresión no ha respondido a tiempo (%1); inténtelo de nuevo o reinicie CUPS.</translation>
+    </message>
+    <message>
+        <source>The print server could not list its printers (%1); try again, or look into its log.</source>
+        <translation>El servidor de impresión no ha podido listar sus impresoras (%1); inténtelo de nuevo o consulte su registro.</translation>
+    </message>
+</context>
+<context>
+    <name>RequestedSession</name>
+    <message>
+        <source>%1 It is your default printer; --printer names another one.</source>
+        <translation>%1 Es su impresora predeterminada; con --printer puede indicar otra.</translation>
+    </message>
+</context>
+<context>
+    <name>ScreenshotRun</name>
+    <message>
+        <source>The picture %1 could not be written: %2. Choose a folder that can be written.</source>
+        <translation>No se ha podido escribir la imagen %1: %2. Elija una carpeta en la que se pueda escribir.</translation>
+    </message>
+    <message>
+        <source>The folder %1 cannot be made. Choose another one for the pictures.</source>
+        <translation>No se puede crear la carpeta %1. Elija otra para las imágenes.</translation>
+    </message>
+</context>
+<context>
+    <name>SummaryLines</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>main</name>
+    <message>
+        <source>The program cannot start: %1</source>
+        <translation>El programa no puede iniciarse: %1</translation>
+    </message>
+    <message>
+        <source>%1 See corvel-print --help.</source>
+        <translation>%1 Consulte corvel-print --help.</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::MessageBar</name>
+    <message>
+        <source>Open Folder</source>
+        <translation>Abrir carpeta</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::OutputFault</name>
+    <message>
+        <source>&quot;%1&quot; is not a folder: it is a file, or below one. Choose another folder.</source>
+        <translation>«%1» no es una carpeta: es un archivo, o está bajo uno. Elija otra carpeta.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be made: there is no such folder. Choose another folder.</source>
+        <translation>No se puede crear «%1»: no existe esa carpeta. Elija otra carpeta.</translation>
+    </message>
+    <message>
+        <source>You may not write &quot;%1&quot;. Choose a folder that you may write to.</source>
+        <translation>No tiene permiso para escribir «%1». Elija una carpeta en la que pueda escribir.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is already there and is not a file that could be replaced. Rename it, or choose another folder.</source>
+        <translation>«%1» ya existe y no es un archivo que se pueda reemplazar. Cámbiele el nombre o elija otra carpeta.</translation>
+    </message>
+    <message>
+        <source>The name &quot;%1&quot; is too long. Rename the photo, or choose another folder.</source>
+        <translation>El nombre «%1» es demasiado largo. Cambie el nombre de la foto o elija otra carpeta.</translation>
+    </message>
+    <message>
+        <source>There is no space for &quot;%1&quot;. Delete other files, or choose another folder.</source>
+        <translation>No hay espacio para «%1». Elimine otros archivos o elija otra carpeta.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; could not be written: %2. Check the disk, or choose another folder.</source>
+        <translation>No se ha podido escribir «%1»: %2. Compruebe el disco o elija otra carpeta.</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::PanelTabs</name>
+    <message>
+        <source>Options</source>
+        <translation>Opciones</translation>
+    </message>
+    <message>
+        <source>Summary</source>
+        <translation>Resumen</translation>
+    </message>
+    <message>
+        <source>The panel &quot;%1&quot; cannot be shown: its form is missing from the plug-in bundle or damaged. Install the bundle again. Everything else works.</source>
+        <translation>No se puede mostrar el panel «%1»: su formulario falta en el complemento o está dañado. Instale de nuevo el complemento. Todo lo demás funciona.</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::PdfWriter</name>
+    <message>
+        <source>The page of %1 x %2 points cannot be printed on. Choose another page size.</source>
+        <translation>No se puede imprimir en una página de %1 × %2 puntos. Elija otro tamaño de papel.</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for &quot;%1&quot;. Scale it down in a photo program.</source>
+        <translation>No hay memoria suficiente para «%1». Redúzcala en un programa de fotografía.</translation>
+    </message>
+    <message>
+        <source>The PDF of &quot;%1&quot; could not be written: %2. Check the disk that it goes to.</source>
+        <translation>No se ha podido escribir el PDF de «%1»: %2. Compruebe el disco de destino.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; could not be put on a page. Save it anew in a photo program.</source>
+        <translation>No se ha podido colocar «%1» en una página. Guárdela de nuevo en un programa de fotografía.</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::Photo</name>
+    <message>
+        <source>&quot;%1&quot; is not a photo of a known kind, whatever its name says. Save it as JPEG or PNG.</source>
+        <translation>«%1» no es una foto de un tipo conocido, diga lo que diga su nombre. Guárdela como JPEG o PNG.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is too large: %2, where a photo may have %3. Save it with fewer pixels, or as JPEG.</source>
+        <translation>«%1» es demasiado grande: %2, y el máximo es %3. Guárdela con menos píxeles o como JPEG.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is too large: %2 x %3 pixels. Scale it down in a photo program.</source>
+        <translation>«%1» es demasiado grande: %2 × %3 píxeles. Redúzcala en un programa de fotografía.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is cut short: its end is missing. Copy it again from where it came from.</source>
+        <translation>«%1» está incompleta: falta el final. Cópiela de nuevo desde su origen.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is damaged and cannot be shown. Copy it again, or save it anew in a photo program.</source>
+        <translation>«%1» está dañada y no se puede mostrar. Cópiela de nuevo o guárdela otra vez en un programa de fotografía.</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::PhotoFile</name>
+    <message>
+        <source>There is no photo &quot;%1&quot;. Check its name and folder.</source>
+        <translation>No existe la foto «%1». Compruebe su nombre y su carpeta.</translation>
+    </message>
+    <message>
+        <source>You may not read &quot;%1&quot;. Ask its owner for the permission to read it.</source>
+        <translation>No tiene permiso para leer «%1». Pídaselo a su propietario.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; could not be read: %2. Check the disk or card that it is on.</source>
+        <translation>No se ha podido leer «%1»: %2. Compruebe el disco o la tarjeta en que está.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a folder. Choose a photo inside it.</source>
+        <translation>«%1» es una carpeta. Elija una foto que esté dentro.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a file but a device, a pipe or a socket. Choose a photo.</source>
+        <translation>«%1» no es un archivo, sino un dispositivo, una tubería o un socket. Elija una foto.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is empty. Copy the photo again from where it came from.</source>
+        <translation>«%1» está vacía. Copie de nuevo la foto desde su origen.</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::PhotoPrinter</name>
+    <message>
+        <source>Printed %1: %2</source>
+        <translation>%1 impresa: %2</translation>
+    </message>
+    <message>
+        <source>Sent %1 to %2 as job %3</source>
+        <translation>%1 enviada a %2 como trabajo %3</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::PpdFetcher</name>
+    <message>
+        <source>its PPD is larger than %1 MiB</source>
+        <translation>su PPD ocupa más de %1 MiB</translation>
+    </message>
+    <message>
+        <source>there is no memory for its PPD</source>
+        <translation>no hay memoria para su PPD</translation>
+    </message>
+    <message>
+        <source>the connection broke in the middle of its PPD</source>
+        <translation>la conexión se cortó en medio de su PPD</translation>
+    </message>
+    <message>
+        <source>what the print server keeps is empty</source>
+        <translation>el que tiene el servidor de impresión está vacío</translation>
+    </message>
+    <message>
+        <source>its PPD did not arrive within %1 s</source>
+        <translation>su PPD no llegó en %1 s</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::PreviewWidget</name>
+    <message>
+        <source>Preview of %1</source>
+        <translation>Vista previa de %1</translation>
+    </message>
+    <message>
+        <source>No photo</source>
+        <translation>Ninguna foto</translation>
+    </message>
+    <message>
+        <source>This photo cannot be shown</source>
+        <translation>No se puede mostrar esta foto</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::PrintDialog</name>
+    <message>
+        <source>Start corvel-print with a photo to print it.</source>
+        <translation>Inicie corvel-print con una foto para imprimirla.</translation>
+    </message>
+    <message>
+        <source>Print Photo</source>
+        <translation>Imprimir foto</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 and %n more</source>
+        <translation>
+            <numerusform>%1 y %n más</numerusform>
+            <numerusform>%1 y %n más</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Print %1</source>
+        <translation>Imprimir %1</translation>
+    </message>
+    <message>
+        <source>Folder for Printed Files</source>
+        <translation>Carpeta para los archivos impresos</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Ayuda</translation>
+    </message>
+    <message>
+        <source>Choose a printer and a paper size, adjust the photo on the pages of the printer, and press Print. The built-in printer leaves a PDF file and a job ticket in the folder.</source>
+        <translation>Elija una impresora y un tamaño de papel, ajuste la foto en las pestañas de la impresora y pulse «Imprimir». La impresora integrada guarda en la carpeta un archivo PDF y una ficha del trabajo.</translation>
+    </message>
+    <message>
+        <source>Printing is under way. The window closes when it is done.</source>
+        <translation>Impresión en curso. La ventana se cerrará cuando termine.</translation>
+    </message>
+    <message>
+        <source>The options of &quot;%1&quot; are being fetched from the print server.</source>
+        <translation>Se están obteniendo del servidor de impresión las opciones de «%1».</translation>
+    </message>
+    <message>
+        <source>This printer has no panels of its own; it prints with its defaults.</source>
+        <translation>Esta impresora no tiene paneles propios; imprime con sus valores predeterminados.</translation>
+    </message>
+    <message>
+        <source>There is no photo to print.</source>
+        <translation>No hay ninguna foto que imprimir.</translation>
+    </message>
+    <message>
+        <source>Printing is under way.</source>
+        <translation>Impresión en curso.</translation>
+    </message>
+    <message>
+        <source>No paper size is chosen. Choose one.</source>
+        <translation>No se ha elegido ningún tamaño de papel. Elija uno.</translation>
+    </message>
+    <message>
+        <source>Printing…</source>
+        <translation>Imprimiendo…</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Cerrar</translation>
+    </message>
+    <message>
+        <source>The settings are saved for &quot;%1&quot;.</source>
+        <translation>Se han guardado los ajustes de «%1».</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::PrinterChooser</name>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; is no longer there. Choose another one.</source>
+        <translation>La impresora «%1» ya no está. Elija otra.</translation>
+    </message>
+    <message>
+        <source>There is no printer &quot;%1&quot;. Choose another one, or see --list-printers for those that there are.</source>
+        <translation>No hay ninguna impresora «%1». Elija otra; --list-printers muestra las que hay.</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::QueueSettings</name>
+    <message>
+        <source>The settings for &quot;%1&quot; could not be saved in %2: %3. Make room there, or make it writable.</source>
+        <translation>No se han podido guardar los ajustes de «%1» en %2: %3. Libere espacio allí o permita la escritura.</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::SummaryPage</name>
+    <message>
+        <source>Option</source>
+        <translation>Opción</translation>
+    </message>
+    <message>
+        <source>Choice</source>
+        <translation>Elección</translation>
+    </message>
+    <message>
+        <source>Summary of the job</source>
+        <translation>Resumen del trabajo</translation>
+    </message>
+</context>
+</TS>

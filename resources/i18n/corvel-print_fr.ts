@@ -1,0 +1,988 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="fr" sourcelanguage="en">
+<context>
+    <name>BatchRun</name>
+    <message>
+        <source>No page size is chosen. Choose one with -o PageSize=%1 or another one of --list-options.</source>
+        <translation>Aucun format de papier n’est choisi. Choisissez-en un avec -o PageSize=%1 ou un autre de --list-options.</translation>
+    </message>
+    <message>
+        <source>%1 Printed before it: %2.</source>
+        <translation>%1 Imprimé auparavant&#x202f;: %2.</translation>
+    </message>
+</context>
+<context>
+    <name>ChoiceMarker</name>
+    <message>
+        <source>&quot;%1&quot;</source>
+        <translation>«&#x202f;%1&#x202f;»</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; (%2)</source>
+        <translation>«&#x202f;%1&#x202f;» (%2)</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is only the beginning of a number; allowed for the option %2 are %3.</source>
+        <translation>«&#x202f;%1&#x202f;» n’est que le début d’un nombre&#x202f;; valeurs possibles pour l’option %2&#x202f;: %3.</translation>
+    </message>
+    <message>
+        <source>The option %1 has no choice &quot;%2&quot;; allowed are %3.</source>
+        <translation>L’option %1 n’a pas de choix «&#x202f;%2&#x202f;»&#x202f;; choix possibles&#x202f;: %3.</translation>
+    </message>
+    <message>
+        <source>%1 and %2 more</source>
+        <translation>%1 et %2 de plus</translation>
+    </message>
+    <message>
+        <source>%1 is %2</source>
+        <translation>%1 est réglé sur %2</translation>
+    </message>
+    <message>
+        <source>%1 and %2</source>
+        <translation>%1 et que %2</translation>
+    </message>
+    <message>
+        <source>%1 cannot be %2 while %3.</source>
+        <translation>%1 ne peut pas être réglé sur %2 tant que %3.</translation>
+    </message>
+    <message>
+        <source>The printer has no option &quot;%1&quot;; it has %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>CommandLine</name>
+    <message>
+        <source>a print queue, or &quot;built-in&quot; for the built-in printer;
+otherwise your default queue, or else the built-in printer</source>
+        <translation>une file d’impression, ou «&#x202f;built-in&#x202f;» pour l’imprimante intégrée&#x202f;;
+sinon votre file par défaut, ou à défaut l’imprimante intégrée</translation>
+    </message>
+    <message>
+        <source>the built-in printer, with this PPD instead of its own</source>
+        <translation>l’imprimante intégrée, avec ce PPD au lieu du sien</translation>
+    </message>
+    <message>
+        <source>refuse a conflicting choice at once (constraint, the default),
+or check all choices together before printing (settings)</source>
+        <translation>refuser aussitôt un choix incompatible (constraint, par défaut),
+ou vérifier tous les choix avant d’imprimer (settings)</translation>
+    </message>
+    <message>
+        <source>choose for an option of the printer; repeatable, in order</source>
+        <translation>choix pour une option de l’imprimante&#x202f;; répétable, dans l’ordre</translation>
+    </message>
+    <message>
+        <source>where the built-in printer leaves its files
+(otherwise the current folder)</source>
+        <translation>où l’imprimante intégrée enregistre ses fichiers
+(sinon le dossier courant)</translation>
+    </message>
+    <message>
+        <source>no window: apply the options, print, exit; what the window has
+saved is not used, so that a script gets the same each time</source>
+        <translation>sans fenêtre&#x202f;: appliquer les options, imprimer, quitter&#x202f;; ce que la
+fenêtre a enregistré ne compte pas&#x202f;: un script est reproductible</translation>
+    </message>
+    <message>
+        <source>list the printers, one per line: name, description, state,
+&quot;default&quot;; separated by tabs</source>
+        <translation>lister les imprimantes, une par ligne&#x202f;: nom, description, état,
+«&#x202f;par défaut&#x202f;»&#x202f;; séparés par des tabulations</translation>
+    </message>
+    <message>
+        <source>list the printer&apos;s options with their choices and panels</source>
+        <translation>lister les options de l’imprimante, leurs choix et leurs onglets</translation>
+    </message>
+    <message>
+        <source>show what the panels say about the choices; with --batch
+as well as printing</source>
+        <translation>afficher ce que les onglets disent des choix&#x202f;; avec --batch,
+en plus de l’impression</translation>
+    </message>
+    <message>
+        <source>lists and summary as JSON</source>
+        <translation>listes et récapitulatif en JSON</translation>
+    </message>
+    <message>
+        <source>save a picture of the dialog with each panel in DIR, exit</source>
+        <translation>enregistrer une image de chaque onglet dans DIR, quitter</translation>
+    </message>
+    <message>
+        <source>show this help</source>
+        <translation>afficher cette aide</translation>
+    </message>
+    <message>
+        <source>show the version</source>
+        <translation>afficher la version</translation>
+    </message>
+    <message>
+        <source>The value of --%1 is empty.</source>
+        <translation>La valeur de --%1 est vide.</translation>
+    </message>
+    <message>
+        <source>There is no mode &quot;%1&quot;; it is either constraint or settings.</source>
+        <translation>Il n’y a pas de mode «&#x202f;%1&#x202f;»&#x202f;; c’est constraint ou settings.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; chooses nothing; an option is given as KEY=CHOICE.</source>
+        <translation>«&#x202f;%1&#x202f;» ne choisit rien&#x202f;; une option s’écrit KEY=CHOICE.</translation>
+    </message>
+    <message>
+        <source>--ppd is for the built-in printer, and --printer names the queue &quot;%1&quot;.</source>
+        <translation>--ppd concerne l’imprimante intégrée, mais --printer désigne la file «&#x202f;%1&#x202f;».</translation>
+    </message>
+    <message>
+        <source>%1 and %2 exclude each other.</source>
+        <translation>%1 et %2 s’excluent mutuellement.</translation>
+    </message>
+    <message>
+        <source>--batch needs a photo to print.</source>
+        <translation>--batch a besoin d’une photo à imprimer.</translation>
+    </message>
+    <message>
+        <source>--json is for --list-printers, --list-options and --summary.</source>
+        <translation>--json s’emploie avec --list-printers, --list-options et --summary.</translation>
+    </message>
+    <message>
+        <source>Usage: corvel-print [options] PHOTO...
+Prints photos on a photo printer: from a window, or at once with --batch.
+
+Options:
+</source>
+        <translation>Utilisation&#x202f;: corvel-print [options] PHOTO...
+Imprime des photos sur une imprimante photo&#x202f;: depuis une fenêtre, ou aussitôt avec --batch.
+
+Options&#x202f;:
+</translation>
+    </message>
+    <message>
+        <source>
+Exit status:
+  0  printed, or done what was asked for
+  1  refused or failed; one line on standard error says what and why
+  2  wrong usage
+
+Examples:
+  corvel-print --printer built-in holiday.jpg
+  corvel-print --batch -o Red=12 -o Quality=Fine -o Overcoat=Matte --output prints *.jpg
+</source>
+        <translation>
+Code de retour&#x202f;:
+  0  imprimé, ou tâche demandée accomplie
+  1  refusé ou échoué&#x202f;; une ligne sur l’erreur standard dit quoi et pourquoi
+  2  mauvaise utilisation
+
+Exemples&#x202f;:
+  corvel-print --printer built-in vacances.jpg
+  corvel-print --batch -o Red=12 -o Quality=Fine -o Overcoat=Matte --output tirages *.jpg
+</translation>
+    </message>
+</context>
+<context>
+    <name>Console</name>
+    <message>
+        <source>Standard output could not be written to: %1. Send it to another place.</source>
+        <translation>Impossible d’écrire sur la sortie standard&#x202f;: %1. Redirigez-la ailleurs.</translation>
+    </message>
+</context>
+<context>
+    <name>CupsConnection</name>
+    <message>
+        <source>nothing answers at %1</source>
+        <translation>rien ne répond à l’adresse %1</translation>
+    </message>
+    <message>
+        <source>it was silent for %1 s</source>
+        <translation>silence pendant %1 s</translation>
+    </message>
+    <message>
+        <source>no printer can have this name</source>
+        <translation>aucune imprimante ne peut porter ce nom</translation>
+    </message>
+</context>
+<context>
+    <name>JobSubmission</name>
+    <message>
+        <source>The option &quot;%1&quot; is not sent, because this cannot be an option&apos;s keyword; leave it out.</source>
+        <translation>L’option «&#x202f;%1&#x202f;» n’est pas envoyée, car ce ne peut être le mot-clé d’une option&#x202f;; ne l’indiquez pas.</translation>
+    </message>
+    <message>
+        <source>The option &quot;%1&quot; is not sent, because its value has a line break or another control character in it; choose another value.</source>
+        <translation>L’option «&#x202f;%1&#x202f;» n’est pas envoyée, car sa valeur contient un saut de ligne ou un autre caractère de contrôle&#x202f;; choisissez une autre valeur.</translation>
+    </message>
+    <message>
+        <source>The option &quot;%1&quot; is not sent, because CUPS misreads a value that begins with a brace; choose another value.</source>
+        <translation>L’option «&#x202f;%1&#x202f;» n’est pas envoyée, car CUPS interprète mal une valeur qui commence par une accolade&#x202f;; choisissez une autre valeur.</translation>
+    </message>
+    <message>
+        <source>The option &quot;%1&quot; is not sent, because its value is longer than %2 bytes; choose another value.</source>
+        <translation>L’option «&#x202f;%1&#x202f;» n’est pas envoyée, car sa valeur dépasse %2 octets&#x202f;; choisissez une autre valeur.</translation>
+    </message>
+    <message>
+        <source>The document &quot;%1&quot; is not sent, because its type has a control character in it.</source>
+        <translation>Le document «&#x202f;%1&#x202f;» n’est pas envoyé, car son type contient un caractère de contrôle.</translation>
+    </message>
+    <message>
+        <source>%1 copies cannot be printed; choose a number from 1 to %2.</source>
+        <translation>Impossible d’imprimer en %1 copies&#x202f;; choisissez un nombre de 1 à %2.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; could not be read to its end (%2); nothing is printed.</source>
+        <translation>Le fichier «&#x202f;%1&#x202f;» n’a pas pu être lu jusqu’au bout (%2)&#x202f;; rien n’est imprimé.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; cannot be read (%2); nothing is printed.</source>
+        <translation>Le fichier «&#x202f;%1&#x202f;» ne peut pas être lu (%2)&#x202f;; rien n’est imprimé.</translation>
+    </message>
+</context>
+<context>
+    <name>Listings</name>
+    <message>
+        <source>rejects jobs</source>
+        <translation>refuse les travaux</translation>
+    </message>
+    <message>
+        <source>ready</source>
+        <translation>prête</translation>
+    </message>
+    <message>
+        <source>printing</source>
+        <translation>imprime</translation>
+    </message>
+    <message>
+        <source>stopped</source>
+        <translation>arrêtée</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>inconnu</translation>
+    </message>
+    <message>
+        <source>default</source>
+        <translation>par défaut</translation>
+    </message>
+</context>
+<context>
+    <name>NumericChoices</name>
+    <message>
+        <source>%1 to %2</source>
+        <translation>%1 à %2</translation>
+    </message>
+    <message>
+        <source>%1 to %2 in steps of %3</source>
+        <translation>%1 à %2 par pas de %3</translation>
+    </message>
+</context>
+<context>
+    <name>OptionTable</name>
+    <message>
+        <source>Option</source>
+        <translation>Option</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Texte</translation>
+    </message>
+    <message>
+        <source>Choice</source>
+        <translation>Choix</translation>
+    </message>
+    <message>
+        <source>Panel</source>
+        <translation>Onglet</translation>
+    </message>
+    <message>
+        <source>Choices</source>
+        <translation>Choix possibles</translation>
+    </message>
+</context>
+<context>
+    <name>PluginLoader</name>
+    <message>
+        <source>it is not a folder</source>
+        <translation>ce n’est pas un dossier</translation>
+    </message>
+    <message>
+        <source>it has no readable Contents/Info.json</source>
+        <translation>il n’a pas de Contents/Info.json lisible</translation>
+    </message>
+    <message>
+        <source>its Info.json is larger than 64 KiB</source>
+        <translation>son Info.json dépasse 64 Kio</translation>
+    </message>
+    <message>
+        <source>its Info.json is not a JSON object</source>
+        <translation>son Info.json n’est pas un objet JSON</translation>
+    </message>
+    <message>
+        <source>its Info.json has no &quot;CFBundleIdentifier&quot;</source>
+        <translation>son Info.json n’a pas de «&#x202f;CFBundleIdentifier&#x202f;»</translation>
+    </message>
+    <message>
+        <source>the &quot;CFBundleExecutable&quot; of its Info.json is not a plain file name</source>
+        <translation>«&#x202f;CFBundleExecutable&#x202f;» dans son Info.json n’est pas un simple nom de fichier</translation>
+    </message>
+    <message>
+        <source>The plug-in bundle &quot;%1&quot; cannot be used: %2. Install it again.</source>
+        <translation>Le module «&#x202f;%1&#x202f;» est inutilisable&#x202f;: %2. Réinstallez-le.</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s PPD asks for the plug-in bundle &quot;%1&quot;, which is no bundle&apos;s name. Use a PPD made for this printer.</source>
+        <translation>Le PPD de l’imprimante demande le module «&#x202f;%1&#x202f;», qui n’est pas un nom de module. Utilisez un PPD fait pour cette imprimante.</translation>
+    </message>
+    <message>
+        <source>The plug-in bundle &quot;%1&quot; was not found in %2. Install it there.</source>
+        <translation>Le module «&#x202f;%1&#x202f;» est introuvable dans %2. Installez-l’y.</translation>
+    </message>
+    <message>
+        <source>it has no module &quot;%1&quot;</source>
+        <translation>la bibliothèque «&#x202f;%1&#x202f;» y manque</translation>
+    </message>
+    <message>
+        <source>its module is no print-dialog plug-in</source>
+        <translation>sa bibliothèque n’est pas une extension de la boîte de dialogue d’impression</translation>
+    </message>
+    <message>
+        <source>its identifier &quot;%1&quot; is not the one that its module was built for</source>
+        <translation>son identifiant «&#x202f;%1&#x202f;» n’est pas celui pour lequel sa bibliothèque a été construite</translation>
+    </message>
+    <message>
+        <source>it offers no panel for this printer</source>
+        <translation>il ne propose aucun onglet pour cette imprimante</translation>
+    </message>
+</context>
+<context>
+    <name>PpdDocument</name>
+    <message>
+        <source>The PPD &quot;%1&quot; cannot be used: line %2: %3; correct it or fetch another from the printer&apos;s maker.</source>
+        <translation>Le PPD «&#x202f;%1&#x202f;» est inutilisable&#x202f;: ligne %2&#x202f;: %3&#x202f;; corrigez-le ou procurez-vous-en un autre auprès du fabricant de l’imprimante.</translation>
+    </message>
+    <message>
+        <source>The PPD &quot;%1&quot; has no page size that can be printed on; correct it or fetch another from the printer&apos;s maker.</source>
+        <translation>Le PPD «&#x202f;%1&#x202f;» n’a aucun format de papier imprimable&#x202f;; corrigez-le ou procurez-vous-en un autre auprès du fabricant de l’imprimante.</translation>
+    </message>
+    <message>
+        <source>The translations are left out: there are too many.</source>
+        <translation>Les traductions sont ignorées&#x202f;: il y en a trop.</translation>
+    </message>
+    <message>
+        <source>The option &quot;%1&quot; repeats %2 of its choices; the first of each counts.</source>
+        <translation>Choix répétés de l’option «&#x202f;%1&#x202f;»&#x202f;: %2&#x202f;; le premier de chacun compte.</translation>
+    </message>
+    <message>
+        <source>The option &quot;%1&quot; is left out: it has no choices.</source>
+        <translation>L’option «&#x202f;%1&#x202f;» est ignorée&#x202f;: elle n’a aucun choix.</translation>
+    </message>
+    <message>
+        <source>%1 page sizes are left out: they have no dimensions.</source>
+        <translation>Formats de papier ignorés, car sans dimensions&#x202f;: %1.</translation>
+    </message>
+    <message>
+        <source>The default page size is not one of the printer&apos;s; &quot;%1&quot; takes its place.</source>
+        <translation>Le format de papier par défaut n’est pas de cette imprimante&#x202f;; «&#x202f;%1&#x202f;» le remplace.</translation>
+    </message>
+</context>
+<context>
+    <name>PpdFile</name>
+    <message>
+        <source>&quot;%1&quot; is a directory; name the PPD file itself.</source>
+        <translation>«&#x202f;%1&#x202f;» est un dossier&#x202f;; indiquez le fichier PPD lui-même.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a device or a pipe, not a file; name the printer&apos;s PPD file.</source>
+        <translation>«&#x202f;%1&#x202f;» est un périphérique ou un tube, pas un fichier&#x202f;; indiquez le fichier PPD de l’imprimante.</translation>
+    </message>
+    <message>
+        <source>There is no PPD &quot;%1&quot;; check the path.</source>
+        <translation>Il n’y a pas de PPD «&#x202f;%1&#x202f;»&#x202f;; vérifiez le chemin.</translation>
+    </message>
+    <message>
+        <source>The PPD &quot;%1&quot; cannot be read: %2; check the file and its permissions.</source>
+        <translation>Le PPD «&#x202f;%1&#x202f;» ne peut pas être lu&#x202f;: %2&#x202f;; vérifiez le fichier et ses droits d’accès.</translation>
+    </message>
+</context>
+<context>
+    <name>PpdInspection</name>
+    <message>
+        <source>it is not printable ASCII</source>
+        <translation>caractères autres que l’ASCII imprimable</translation>
+    </message>
+    <message>
+        <source>it is longer than %1 characters</source>
+        <translation>plus de %1 caractères</translation>
+    </message>
+    <message>
+        <source>it is empty</source>
+        <translation>il est vide</translation>
+    </message>
+    <message>
+        <source>it is larger than %1 MiB</source>
+        <translation>il dépasse %1 Mio</translation>
+    </message>
+    <message>
+        <source>The PPD &quot;%1&quot; is compressed; unpack it with gunzip first.</source>
+        <translation>Le PPD «&#x202f;%1&#x202f;» est compressé&#x202f;; décompressez-le d’abord avec gunzip.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a PPD, which is a text that begins with &quot;*PPD-Adobe:&quot;; name the printer&apos;s PPD file.</source>
+        <translation>«&#x202f;%1&#x202f;» n’est pas un PPD, c’est-à-dire un texte qui commence par «&#x202f;*PPD-Adobe:&#x202f;»&#x202f;; indiquez le fichier PPD de l’imprimante.</translation>
+    </message>
+    <message>
+        <source>it is cut off: the quote opened in line %1 never closes</source>
+        <translation>il est tronqué&#x202f;: le guillemet ouvert à la ligne %1 n’est jamais fermé</translation>
+    </message>
+    <message>
+        <source>it is cut off in line %1</source>
+        <translation>il est tronqué à la ligne %1</translation>
+    </message>
+    <message>
+        <source>the value in line %1 is longer than %2 bytes</source>
+        <translation>la valeur de la ligne %1 dépasse %2 octets</translation>
+    </message>
+    <message>
+        <source>line %1 is longer than %2 bytes</source>
+        <translation>la ligne %1 dépasse %2 octets</translation>
+    </message>
+    <message>
+        <source>a line of it is longer than %1 characters</source>
+        <translation>une de ses lignes dépasse %1 caractères</translation>
+    </message>
+    <message>
+        <source>its text has control characters</source>
+        <translation>son texte contient des caractères de contrôle</translation>
+    </message>
+    <message>
+        <source>its keyword cannot be read</source>
+        <translation>son mot-clé est illisible</translation>
+    </message>
+    <message>
+        <source>line %1 has control characters</source>
+        <translation>la ligne %1 contient des caractères de contrôle</translation>
+    </message>
+    <message>
+        <source>groups of options</source>
+        <translation>groupes d’options</translation>
+    </message>
+    <message>
+        <source>the option in line %1 has no keyword</source>
+        <translation>l’option de la ligne %1 n’a pas de mot-clé</translation>
+    </message>
+    <message>
+        <source>the keyword of the option &quot;%1&quot; in line %2 is bad: %3</source>
+        <translation>le mot-clé de l’option «&#x202f;%1&#x202f;» à la ligne %2 est incorrect&#x202f;: %3</translation>
+    </message>
+    <message>
+        <source>options</source>
+        <translation>options</translation>
+    </message>
+    <message>
+        <source>choices</source>
+        <translation>choix</translation>
+    </message>
+    <message>
+        <source>page sizes</source>
+        <translation>formats de papier</translation>
+    </message>
+    <message>
+        <source>parameters of custom choices</source>
+        <translation>paramètres de choix personnalisés</translation>
+    </message>
+    <message>
+        <source>translations into one language</source>
+        <translation>traductions dans une langue</translation>
+    </message>
+    <message>
+        <source>entries beside its options</source>
+        <translation>entrées hors options</translation>
+    </message>
+    <message>
+        <source>constraints</source>
+        <translation>contraintes</translation>
+    </message>
+    <message>
+        <source>it is cut off: the option &quot;%1&quot; opened in line %2 never closes</source>
+        <translation>il est tronqué&#x202f;: l’option «&#x202f;%1&#x202f;» ouverte à la ligne %2 n’est jamais fermée</translation>
+    </message>
+    <message>
+        <source>it is cut off: the group opened in line %1 never closes</source>
+        <translation>il est tronqué&#x202f;: le groupe ouvert à la ligne %1 n’est jamais fermé</translation>
+    </message>
+    <message>
+        <source>its constraints name options with too many choices</source>
+        <translation>ses contraintes portent sur des options aux choix trop nombreux</translation>
+    </message>
+    <message>
+        <source>Line %1: the choice &quot;%2&quot; of the option &quot;%3&quot; is left out: %4.</source>
+        <translation>Ligne %1&#x202f;: le choix «&#x202f;%2&#x202f;» de l’option «&#x202f;%3&#x202f;» est ignoré&#x202f;: %4.</translation>
+    </message>
+    <message>
+        <source>Line %1: the entry &quot;%3&quot; &quot;%2&quot; is left out: %4.</source>
+        <translation>Ligne %1&#x202f;: l’entrée «&#x202f;%3&#x202f;» «&#x202f;%2&#x202f;» est ignorée&#x202f;: %4.</translation>
+    </message>
+    <message>
+        <source>%1 more entries are left out.</source>
+        <translation>Autres entrées ignorées&#x202f;: %1.</translation>
+    </message>
+    <message>
+        <source>fetch the printer&apos;s PPD again</source>
+        <translation>procurez-vous de nouveau le PPD de l’imprimante</translation>
+    </message>
+    <message>
+        <source>correct it or fetch another from the printer&apos;s maker</source>
+        <translation>corrigez-le ou procurez-vous-en un autre auprès du fabricant de l’imprimante</translation>
+    </message>
+    <message>
+        <source>it has more than %1 %2</source>
+        <translation>plus de %1 %2</translation>
+    </message>
+    <message>
+        <source>The PPD &quot;%1&quot; cannot be used: %2; %3.</source>
+        <translation>Le PPD «&#x202f;%1&#x202f;» est inutilisable&#x202f;: %2&#x202f;; %3.</translation>
+    </message>
+</context>
+<context>
+    <name>PrintDialog</name>
+    <message>
+        <source>P&amp;rinter:</source>
+        <translation>Imp&amp;rimante&#x202f;:</translation>
+    </message>
+    <message>
+        <source>Paper &amp;size:</source>
+        <translation>&amp;Format du papier&#x202f;:</translation>
+    </message>
+    <message>
+        <source>&amp;Copies:</source>
+        <translation>&amp;Copies&#x202f;:</translation>
+    </message>
+    <message>
+        <source>&amp;Folder:</source>
+        <translation>&amp;Dossier&#x202f;:</translation>
+    </message>
+    <message>
+        <source>Where the built-in printer leaves its files</source>
+        <translation>Dossier où l’imprimante intégrée enregistre ses fichiers</translation>
+    </message>
+    <message>
+        <source>&amp;Browse…</source>
+        <translation>&amp;Parcourir…</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Aide</translation>
+    </message>
+    <message>
+        <source>Sa&amp;ve Settings</source>
+        <translation>&amp;Enregistrer les réglages</translation>
+    </message>
+    <message>
+        <source>Keep these settings for the next time with this printer</source>
+        <translation>Conserver ces réglages pour la prochaine utilisation de cette imprimante</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>&amp;Print</source>
+        <translation>&amp;Imprimer</translation>
+    </message>
+</context>
+<context>
+    <name>Queue</name>
+    <message>
+        <source>Built-in printer (files)</source>
+        <translation>Imprimante intégrée (fichiers)</translation>
+    </message>
+</context>
+<context>
+    <name>QueueFault</name>
+    <message>
+        <source>the print server does not know it</source>
+        <translation>le serveur d’impression ne la connaît pas</translation>
+    </message>
+    <message>
+        <source>nothing answers at its address</source>
+        <translation>rien ne répond à son adresse</translation>
+    </message>
+    <message>
+        <source>the print server keeps none for it</source>
+        <translation>le serveur d’impression n’en a pas pour elle</translation>
+    </message>
+    <message>
+        <source>it is set to reject them</source>
+        <translation>elle est configurée pour les refuser</translation>
+    </message>
+    <message>
+        <source>no permission</source>
+        <translation>autorisation manquante</translation>
+    </message>
+    <message>
+        <source>time limit reached</source>
+        <translation>délai dépassé</translation>
+    </message>
+    <message>
+        <source>the print server gave no reason</source>
+        <translation>le serveur d’impression n’a pas donné de raison</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; does not exist (%2); choose another one, or add it in the printer settings.</source>
+        <translation>L’imprimante «&#x202f;%1&#x202f;» n’existe pas (%2)&#x202f;; choisissez-en une autre ou ajoutez-la dans les paramètres d’impression.</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; cannot be reached, because no print server is running (%2); start CUPS or check the server&apos;s name.</source>
+        <translation>L’imprimante «&#x202f;%1&#x202f;» est injoignable, car aucun serveur d’impression ne fonctionne (%2)&#x202f;; démarrez CUPS ou vérifiez le nom du serveur.</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; has no PPD file (%2); set it up again with its driver.</source>
+        <translation>L’imprimante «&#x202f;%1&#x202f;» n’a pas de fichier PPD (%2)&#x202f;; configurez-la de nouveau avec son pilote.</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; does not accept jobs (%2); let it accept them in the printer settings, or choose another one.</source>
+        <translation>L’imprimante «&#x202f;%1&#x202f;» n’accepte pas de travaux (%2)&#x202f;; autorisez-les dans les paramètres d’impression ou choisissez-en une autre.</translation>
+    </message>
+    <message>
+        <source>The print server refused the request for the printer &quot;%1&quot; (%2); ask whoever manages it.</source>
+        <translation>Le serveur d’impression a refusé la demande pour l’imprimante «&#x202f;%1&#x202f;» (%2)&#x202f;; adressez-vous à son administrateur.</translation>
+    </message>
+    <message>
+        <source>The print server did not answer about the printer &quot;%1&quot; in time (%2); try again, or restart CUPS.</source>
+        <translation>Le serveur d’impression n’a pas répondu à temps au sujet de l’imprimante «&#x202f;%1&#x202f;» (%2)&#x202f;; réessayez ou redémarrez CUPS.</translation>
+    </message>
+    <message>
+        <source>The print server could not serve the printer &quot;%1&quot; (%2); try again, or look into its log.</source>
+        <translation>Le serveur d’impression n’a pas pu traiter la demande pour l’imprimante «&#x202f;%1&#x202f;» (%2)&#x202f;; réessayez ou consultez son journal.</translation>
+    </message>
+    <message>
+        <source>No print server is running (%1); start CUPS or check the server&apos;s name.</source>
+        <translation>Aucun serveur d’impression ne fonctionne (%1)&#x202f;; démarrez CUPS ou vérifiez le nom du serveur.</translation>
+    </message>
+    <message>
+        <source>The print server refused to list its printers (%1); ask whoever manages it.</source>
+        <translation>Le serveur d’impression a refusé de lister ses imprimantes (%1)&#x202f;; adressez-vous à son administrateur.</translation>
+    </message>
+    <message>
+        <source>The print server did not answer in time (%1); try again, or restart CUPS.</source>
+        <translation>Le serveur d’impression n’a pas répondu à temps (%1)&#x202f;; réessayez ou redémarrez CUPS.</translation>
+    </message>
+    <message>
+        <source>The print server could not list its printers (%1); try again, or look into its log.</source>
+        <translation>Le serveur d’impression n’a pas pu lister ses imprimantes (%1)&#x202f;; réessayez ou consultez son journal.</translation>
+    </message>
+</context>
+<context>
+    <name>RequestedSession</name>
+    <message>
+        <source>%1 It is your default printer; --printer names another one.</source>
+        <translation>%1 C’est votre imprimante par défaut&#x202f;; --printer permet d’en nommer une autre.</translation>
+    </message>
+</context>
+<context>
+    <name>ScreenshotRun</name>
+    <message>
+        <source>The picture %1 could not be written: %2. Choose a folder that can be written.</source>
+        <translation>L’image %1 n’a pas pu être écrite&#x202f;: %2. Choisissez un dossier accessible en écriture.</translation>
+    </message>
+    <message>
+        <source>The folder %1 cannot be made. Choose another one for the pictures.</source>
+        <translation>Le dossier %1 ne peut pas être créé. Choisissez-en un autre pour les images.</translation>
+    </message>
+</context>
+<context>
+    <name>SummaryLines</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1&#x202f;: %2</translation>
+    </message>
+</context>
+<context>
+    <name>main</name>
+    <message>
+        <source>The program cannot start: %1</source>
+        <translation>Le programme ne peut pas démarrer&#x202f;: %1</translation>
+    </message>
+    <message>
+        <source>%1 See corvel-print --help.</source>
+        <translation>%1 Voir corvel-print --help.</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::MessageBar</name>
+    <message>
+        <source>Open Folder</source>
+        <translation>Ouvrir le dossier</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::OutputFault</name>
+    <message>
+        <source>&quot;%1&quot; is not a folder: it is a file, or below one. Choose another folder.</source>
+        <translation>«&#x202f;%1&#x202f;» n’est pas un dossier&#x202f;: c’est un fichier, ou il se trouve sous un fichier. Choisissez un autre dossier.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be made: there is no such folder. Choose another folder.</source>
+        <translation>«&#x202f;%1&#x202f;» ne peut pas être créé&#x202f;: ce dossier n’existe pas. Choisissez un autre dossier.</translation>
+    </message>
+    <message>
+        <source>You may not write &quot;%1&quot;. Choose a folder that you may write to.</source>
+        <translation>Vous n’avez pas le droit d’écrire «&#x202f;%1&#x202f;». Choisissez un dossier accessible en écriture.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is already there and is not a file that could be replaced. Rename it, or choose another folder.</source>
+        <translation>«&#x202f;%1&#x202f;» existe déjà et n’est pas un fichier remplaçable. Renommez-le ou choisissez un autre dossier.</translation>
+    </message>
+    <message>
+        <source>The name &quot;%1&quot; is too long. Rename the photo, or choose another folder.</source>
+        <translation>Le nom «&#x202f;%1&#x202f;» est trop long. Renommez la photo ou choisissez un autre dossier.</translation>
+    </message>
+    <message>
+        <source>There is no space for &quot;%1&quot;. Delete other files, or choose another folder.</source>
+        <translation>Il n’y a pas assez de place pour «&#x202f;%1&#x202f;». Supprimez d’autres fichiers ou choisissez un autre dossier.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; could not be written: %2. Check the disk, or choose another folder.</source>
+        <translation>«&#x202f;%1&#x202f;» n’a pas pu être écrit&#x202f;: %2. Vérifiez le disque ou choisissez un autre dossier.</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::PanelTabs</name>
+    <message>
+        <source>Options</source>
+        <translation>Options</translation>
+    </message>
+    <message>
+        <source>Summary</source>
+        <translation>Récapitulatif</translation>
+    </message>
+    <message>
+        <source>The panel &quot;%1&quot; cannot be shown: its form is missing from the plug-in bundle or damaged. Install the bundle again. Everything else works.</source>
+        <translation>L’onglet «&#x202f;%1&#x202f;» ne peut pas être affiché&#x202f;: son formulaire manque dans le module ou est endommagé. Réinstallez le module. Tout le reste fonctionne.</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::PdfWriter</name>
+    <message>
+        <source>The page of %1 x %2 points cannot be printed on. Choose another page size.</source>
+        <translation>Impossible d’imprimer sur une page de %1 × %2 points. Choisissez un autre format de papier.</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for &quot;%1&quot;. Scale it down in a photo program.</source>
+        <translation>La mémoire ne suffit pas pour «&#x202f;%1&#x202f;». Réduisez la photo dans un logiciel de retouche.</translation>
+    </message>
+    <message>
+        <source>The PDF of &quot;%1&quot; could not be written: %2. Check the disk that it goes to.</source>
+        <translation>Le PDF de «&#x202f;%1&#x202f;» n’a pas pu être écrit&#x202f;: %2. Vérifiez le disque de destination.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; could not be put on a page. Save it anew in a photo program.</source>
+        <translation>«&#x202f;%1&#x202f;» n’a pas pu être placée sur une page. Enregistrez-la de nouveau dans un logiciel de retouche.</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::Photo</name>
+    <message>
+        <source>&quot;%1&quot; is not a photo of a known kind, whatever its name says. Save it as JPEG or PNG.</source>
+        <translation>«&#x202f;%1&#x202f;» n’est pas une photo d’un type connu, quoi qu’en dise son nom. Enregistrez-la en JPEG ou PNG.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is too large: %2, where a photo may have %3. Save it with fewer pixels, or as JPEG.</source>
+        <translation>«&#x202f;%1&#x202f;» est trop volumineuse&#x202f;: %2, pour un maximum de %3. Enregistrez-la avec moins de pixels, ou en JPEG.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is too large: %2 x %3 pixels. Scale it down in a photo program.</source>
+        <translation>«&#x202f;%1&#x202f;» est trop grande&#x202f;: %2 × %3 pixels. Réduisez-la dans un logiciel de retouche.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is cut short: its end is missing. Copy it again from where it came from.</source>
+        <translation>«&#x202f;%1&#x202f;» est incomplète&#x202f;: la fin manque. Copiez-la de nouveau depuis sa source.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is damaged and cannot be shown. Copy it again, or save it anew in a photo program.</source>
+        <translation>«&#x202f;%1&#x202f;» est endommagée et ne peut pas être affichée. Copiez-la de nouveau ou enregistrez-la de nouveau dans un logiciel de retouche.</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::PhotoFile</name>
+    <message>
+        <source>There is no photo &quot;%1&quot;. Check its name and folder.</source>
+        <translation>Il n’y a pas de photo «&#x202f;%1&#x202f;». Vérifiez son nom et son dossier.</translation>
+    </message>
+    <message>
+        <source>You may not read &quot;%1&quot;. Ask its owner for the permission to read it.</source>
+        <translation>Vous n’avez pas le droit de lire «&#x202f;%1&#x202f;». Demandez-le à son propriétaire.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; could not be read: %2. Check the disk or card that it is on.</source>
+        <translation>«&#x202f;%1&#x202f;» n’a pas pu être lue&#x202f;: %2. Vérifiez le disque ou la carte où elle se trouve.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a folder. Choose a photo inside it.</source>
+        <translation>«&#x202f;%1&#x202f;» est un dossier. Choisissez une photo qui s’y trouve.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a file but a device, a pipe or a socket. Choose a photo.</source>
+        <translation>«&#x202f;%1&#x202f;» n’est pas un fichier mais un périphérique, un tube ou un socket. Choisissez une photo.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is empty. Copy the photo again from where it came from.</source>
+        <translation>«&#x202f;%1&#x202f;» est vide. Copiez de nouveau la photo depuis sa source.</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::PhotoPrinter</name>
+    <message>
+        <source>Printed %1: %2</source>
+        <translation>%1 imprimée&#x202f;: %2</translation>
+    </message>
+    <message>
+        <source>Sent %1 to %2 as job %3</source>
+        <translation>%1 envoyée à %2 (travail %3)</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::PpdFetcher</name>
+    <message>
+        <source>its PPD is larger than %1 MiB</source>
+        <translation>son PPD dépasse %1 Mio</translation>
+    </message>
+    <message>
+        <source>there is no memory for its PPD</source>
+        <translation>la mémoire manque pour son PPD</translation>
+    </message>
+    <message>
+        <source>the connection broke in the middle of its PPD</source>
+        <translation>la connexion a été coupée au milieu de son PPD</translation>
+    </message>
+    <message>
+        <source>what the print server keeps is empty</source>
+        <translation>celui du serveur d’impression est vide</translation>
+    </message>
+    <message>
+        <source>its PPD did not arrive within %1 s</source>
+        <translation>son PPD n’est pas arrivé en %1 s</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::PreviewWidget</name>
+    <message>
+        <source>Preview of %1</source>
+        <translation>Aperçu de %1</translation>
+    </message>
+    <message>
+        <source>No photo</source>
+        <translation>Aucune photo</translation>
+    </message>
+    <message>
+        <source>This photo cannot be shown</source>
+        <translation>Cette photo ne peut pas être affichée</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::PrintDialog</name>
+    <message>
+        <source>Start corvel-print with a photo to print it.</source>
+        <translation>Lancez corvel-print avec une photo pour l’imprimer.</translation>
+    </message>
+    <message>
+        <source>Print Photo</source>
+        <translation>Imprimer une photo</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 and %n more</source>
+        <translation>
+            <numerusform>%1 et %n autre</numerusform>
+            <numerusform>%1 et %n autres</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Print %1</source>
+        <translation>Imprimer %1</translation>
+    </message>
+    <message>
+        <source>Folder for Printed Files</source>
+        <translation>Dossier des fichiers imprimés</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Aide</translation>
+    </message>
+    <message>
+        <source>Choose a printer and a paper size, adjust the photo on the pages of the printer, and press Print. The built-in printer leaves a PDF file and a job ticket in the folder.</source>
+        <translation>Choisissez une imprimante et un format de papier, réglez la photo dans les onglets de l’imprimante, puis cliquez sur «&#x202f;Imprimer&#x202f;». L’imprimante intégrée enregistre un fichier PDF et une fiche de travail dans le dossier.</translation>
+    </message>
+    <message>
+        <source>Printing is under way. The window closes when it is done.</source>
+        <translation>Impression en cours. La fenêtre se fermera une fois l’impression terminée.</translation>
+    </message>
+    <message>
+        <source>The options of &quot;%1&quot; are being fetched from the print server.</source>
+        <translation>Les options de «&#x202f;%1&#x202f;» sont en cours de lecture sur le serveur d’impression.</translation>
+    </message>
+    <message>
+        <source>This printer has no panels of its own; it prints with its defaults.</source>
+        <translation>Cette imprimante n’a pas d’onglets propres&#x202f;; elle imprime avec ses réglages par défaut.</translation>
+    </message>
+    <message>
+        <source>There is no photo to print.</source>
+        <translation>Il n’y a aucune photo à imprimer.</translation>
+    </message>
+    <message>
+        <source>Printing is under way.</source>
+        <translation>Impression en cours.</translation>
+    </message>
+    <message>
+        <source>No paper size is chosen. Choose one.</source>
+        <translation>Aucun format de papier n’est choisi. Choisissez-en un.</translation>
+    </message>
+    <message>
+        <source>Printing…</source>
+        <translation>Impression…</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>The settings are saved for &quot;%1&quot;.</source>
+        <translation>Les réglages de «&#x202f;%1&#x202f;» ont été enregistrés.</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::PrinterChooser</name>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; is no longer there. Choose another one.</source>
+        <translation>L’imprimante «&#x202f;%1&#x202f;» n’est plus là. Choisissez-en une autre.</translation>
+    </message>
+    <message>
+        <source>There is no printer &quot;%1&quot;. Choose another one, or see --list-printers for those that there are.</source>
+        <translation>Il n’y a pas d’imprimante «&#x202f;%1&#x202f;». Choisissez-en une autre&#x202f;; --list-printers indique celles qui existent.</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::QueueSettings</name>
+    <message>
+        <source>The settings for &quot;%1&quot; could not be saved in %2: %3. Make room there, or make it writable.</source>
+        <translation>Les réglages de «&#x202f;%1&#x202f;» n’ont pas pu être enregistrés dans %2&#x202f;: %3. Libérez-y de la place ou rendez-le accessible en écriture.</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::SummaryPage</name>
+    <message>
+        <source>Option</source>
+        <translation>Option</translation>
+    </message>
+    <message>
+        <source>Choice</source>
+        <translation>Choix</translation>
+    </message>
+    <message>
+        <source>Summary of the job</source>
+        <translation>Récapitulatif du travail</translation>
+    </message>
+</context>
+</TS>

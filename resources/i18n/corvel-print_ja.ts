@@ -1,0 +1,987 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ja" sourcelanguage="en">
+<context>
+    <name>BatchRun</name>
+    <message>
+        <source>No page size is chosen. Choose one with -o PageSize=%1 or another one of --list-options.</source>
+        <translation>用紙サイズが選ばれていません。-o PageSize=%1 か、--list-options にあるほかのサイズを指定してください。</translation>
+    </message>
+    <message>
+        <source>%1 Printed before it: %2.</source>
+        <translation>%1 それまでに印刷したもの: %2。</translation>
+    </message>
+</context>
+<context>
+    <name>ChoiceMarker</name>
+    <message>
+        <source>&quot;%1&quot;</source>
+        <translation>「%1」</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; (%2)</source>
+        <translation>「%1」(%2)</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is only the beginning of a number; allowed for the option %2 are %3.</source>
+        <translation>「%1」は数値の途中です。オプション%2に指定できるのは %3 です。</translation>
+    </message>
+    <message>
+        <source>The option %1 has no choice &quot;%2&quot;; allowed are %3.</source>
+        <translation>オプション%1に「%2」という選択肢はありません。指定できるのは %3 です。</translation>
+    </message>
+    <message>
+        <source>%1 and %2 more</source>
+        <translation>%1、ほか %2 件</translation>
+    </message>
+    <message>
+        <source>%1 is %2</source>
+        <translation>%1が%2</translation>
+    </message>
+    <message>
+        <source>%1 and %2</source>
+        <translation>%1、%2</translation>
+    </message>
+    <message>
+        <source>%1 cannot be %2 while %3.</source>
+        <translation>%3の間は、%1を%2にできません。</translation>
+    </message>
+    <message>
+        <source>The printer has no option &quot;%1&quot;; it has %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>CommandLine</name>
+    <message>
+        <source>a print queue, or &quot;built-in&quot; for the built-in printer;
+otherwise your default queue, or else the built-in printer</source>
+        <translation>印刷キュー。内蔵プリンターは &quot;built-in&quot;。
+省略すると既定のキュー、なければ内蔵プリンター</translation>
+    </message>
+    <message>
+        <source>the built-in printer, with this PPD instead of its own</source>
+        <translation>内蔵プリンターを、この PPD で使う</translation>
+    </message>
+    <message>
+        <source>refuse a conflicting choice at once (constraint, the default),
+or check all choices together before printing (settings)</source>
+        <translation>両立しない選択をすぐに拒む (constraint、既定)、
+または印刷前にまとめて確認する (settings)</translation>
+    </message>
+    <message>
+        <source>choose for an option of the printer; repeatable, in order</source>
+        <translation>プリンターのオプションを選ぶ。繰り返し可、順に適用</translation>
+    </message>
+    <message>
+        <source>where the built-in printer leaves its files
+(otherwise the current folder)</source>
+        <translation>内蔵プリンターがファイルを保存する場所
+(省略すると現在のフォルダー)</translation>
+    </message>
+    <message>
+        <source>no window: apply the options, print, exit; what the window has
+saved is not used, so that a script gets the same each time</source>
+        <translation>ウィンドウなし: オプションを適用し、印刷して終了する。
+スクリプトの結果が変わらないよう、ウィンドウで保存した設定は使わない</translation>
+    </message>
+    <message>
+        <source>list the printers, one per line: name, description, state,
+&quot;default&quot;; separated by tabs</source>
+        <translation>プリンターを 1 行に 1 台ずつ表示する: 名前、説明、状態、
+「既定」(タブ区切り)</translation>
+    </message>
+    <message>
+        <source>list the printer&apos;s options with their choices and panels</source>
+        <translation>プリンターのオプションを、選択肢と画面とともに表示する</translation>
+    </message>
+    <message>
+        <source>show what the panels say about the choices; with --batch
+as well as printing</source>
+        <translation>選択した内容を画面の言葉で表示する。
+--batch と併用すると印刷もする</translation>
+    </message>
+    <message>
+        <source>lists and summary as JSON</source>
+        <translation>一覧と設定内容を JSON で出力する</translation>
+    </message>
+    <message>
+        <source>save a picture of the dialog with each panel in DIR, exit</source>
+        <translation>各画面の画像を DIR に保存して終了する</translation>
+    </message>
+    <message>
+        <source>show this help</source>
+        <translation>このヘルプを表示する</translation>
+    </message>
+    <message>
+        <source>show the version</source>
+        <translation>バージョンを表示する</translation>
+    </message>
+    <message>
+        <source>The value of --%1 is empty.</source>
+        <translation>--%1 の値が空です。</translation>
+    </message>
+    <message>
+        <source>There is no mode &quot;%1&quot;; it is either constraint or settings.</source>
+        <translation>「%1」というモードはありません。constraint か settings を指定してください。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; chooses nothing; an option is given as KEY=CHOICE.</source>
+        <translation>「%1」では何も選択されません。オプションは KEY=CHOICE の形で指定してください。</translation>
+    </message>
+    <message>
+        <source>--ppd is for the built-in printer, and --printer names the queue &quot;%1&quot;.</source>
+        <translation>--ppd は内蔵プリンター用ですが、--printer でキュー「%1」が指定されています。</translation>
+    </message>
+    <message>
+        <source>%1 and %2 exclude each other.</source>
+        <translation>%1 と %2 は同時に指定できません。</translation>
+    </message>
+    <message>
+        <source>--batch needs a photo to print.</source>
+        <translation>--batch には印刷する写真が必要です。</translation>
+    </message>
+    <message>
+        <source>--json is for --list-printers, --list-options and --summary.</source>
+        <translation>--json は --list-printers、--list-options、--summary とともに使います。</translation>
+    </message>
+    <message>
+        <source>Usage: corvel-print [options] PHOTO...
+Prints photos on a photo printer: from a window, or at once with --batch.
+
+Options:
+</source>
+        <translation>使い方: corvel-print [オプション] 写真...
+フォトプリンターで写真を印刷します (ウィンドウから、または --batch ですぐに)。
+
+オプション:
+</translation>
+    </message>
+    <message>
+        <source>
+Exit status:
+  0  printed, or done what was asked for
+  1  refused or failed; one line on standard error says what and why
+  2  wrong usage
+
+Examples:
+  corvel-print --printer built-in holiday.jpg
+  corvel-print --batch -o Red=12 -o Quality=Fine -o Overcoat=Matte --output prints *.jpg
+</source>
+        <translation>
+終了ステータス:
+  0  印刷した、または指示された処理を終えた
+  1  拒否または失敗 (何がなぜかを標準エラーに 1 行で出力)
+  2  使い方の誤り
+
+例:
+  corvel-print --printer built-in holiday.jpg
+  corvel-print --batch -o Red=12 -o Quality=Fine -o Overcoat=Matte --output prints *.jpg
+</translation>
+    </message>
+</context>
+<context>
+    <name>Console</name>
+    <message>
+        <source>Standard output could not be written to: %1. Send it to another place.</source>
+        <translation>標準出力に書き込めませんでした: %1。別の出力先を指定してください。</translation>
+    </message>
+</context>
+<context>
+    <name>CupsConnection</name>
+    <message>
+        <source>nothing answers at %1</source>
+        <translation>%1 から応答がありません</translation>
+    </message>
+    <message>
+        <source>it was silent for %1 s</source>
+        <translation>%1 秒間応答がありません</translation>
+    </message>
+    <message>
+        <source>no printer can have this name</source>
+        <translation>この名前のプリンターはありえません</translation>
+    </message>
+</context>
+<context>
+    <name>JobSubmission</name>
+    <message>
+        <source>The option &quot;%1&quot; is not sent, because this cannot be an option&apos;s keyword; leave it out.</source>
+        <translation>「%1」はオプションのキーワードになりえないため、送りません。指定しないでください。</translation>
+    </message>
+    <message>
+        <source>The option &quot;%1&quot; is not sent, because its value has a line break or another control character in it; choose another value.</source>
+        <translation>オプション「%1」の値に改行などの制御文字が含まれているため、送りません。別の値を選んでください。</translation>
+    </message>
+    <message>
+        <source>The option &quot;%1&quot; is not sent, because CUPS misreads a value that begins with a brace; choose another value.</source>
+        <translation>波かっこで始まる値は CUPS が正しく読めないため、オプション「%1」は送りません。別の値を選んでください。</translation>
+    </message>
+    <message>
+        <source>The option &quot;%1&quot; is not sent, because its value is longer than %2 bytes; choose another value.</source>
+        <translation>オプション「%1」の値が %2 バイトを超えているため、送りません。別の値を選んでください。</translation>
+    </message>
+    <message>
+        <source>The document &quot;%1&quot; is not sent, because its type has a control character in it.</source>
+        <translation>文書「%1」の種類に制御文字が含まれているため、送りません。</translation>
+    </message>
+    <message>
+        <source>%1 copies cannot be printed; choose a number from 1 to %2.</source>
+        <translation>%1 部は印刷できません。1 から %2 までの数を選んでください。</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; could not be read to its end (%2); nothing is printed.</source>
+        <translation>ファイル「%1」を最後まで読めませんでした (%2)。何も印刷しません。</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; cannot be read (%2); nothing is printed.</source>
+        <translation>ファイル「%1」を読めません (%2)。何も印刷しません。</translation>
+    </message>
+</context>
+<context>
+    <name>Listings</name>
+    <message>
+        <source>rejects jobs</source>
+        <translation>ジョブを受け付けていません</translation>
+    </message>
+    <message>
+        <source>ready</source>
+        <translation>準備完了</translation>
+    </message>
+    <message>
+        <source>printing</source>
+        <translation>印刷中</translation>
+    </message>
+    <message>
+        <source>stopped</source>
+        <translation>停止中</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>不明</translation>
+    </message>
+    <message>
+        <source>default</source>
+        <translation>既定</translation>
+    </message>
+</context>
+<context>
+    <name>NumericChoices</name>
+    <message>
+        <source>%1 to %2</source>
+        <translation>%1～%2</translation>
+    </message>
+    <message>
+        <source>%1 to %2 in steps of %3</source>
+        <translation>%1～%2 (%3 刻み)</translation>
+    </message>
+</context>
+<context>
+    <name>OptionTable</name>
+    <message>
+        <source>Option</source>
+        <translation>オプション</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>表示名</translation>
+    </message>
+    <message>
+        <source>Choice</source>
+        <translation>選択</translation>
+    </message>
+    <message>
+        <source>Panel</source>
+        <translation>画面</translation>
+    </message>
+    <message>
+        <source>Choices</source>
+        <translation>選択肢</translation>
+    </message>
+</context>
+<context>
+    <name>PluginLoader</name>
+    <message>
+        <source>it is not a folder</source>
+        <translation>フォルダーではありません</translation>
+    </message>
+    <message>
+        <source>it has no readable Contents/Info.json</source>
+        <translation>Contents/Info.json がないか、読めません</translation>
+    </message>
+    <message>
+        <source>its Info.json is larger than 64 KiB</source>
+        <translation>Info.json が 64 KiB を超えています</translation>
+    </message>
+    <message>
+        <source>its Info.json is not a JSON object</source>
+        <translation>Info.json が JSON オブジェクトではありません</translation>
+    </message>
+    <message>
+        <source>its Info.json has no &quot;CFBundleIdentifier&quot;</source>
+        <translation>Info.json に「CFBundleIdentifier」がありません</translation>
+    </message>
+    <message>
+        <source>the &quot;CFBundleExecutable&quot; of its Info.json is not a plain file name</source>
+        <translation>Info.json の「CFBundleExecutable」が単純なファイル名ではありません</translation>
+    </message>
+    <message>
+        <source>The plug-in bundle &quot;%1&quot; cannot be used: %2. Install it again.</source>
+        <translation>プラグイン「%1」は使えません: %2。再インストールしてください。</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s PPD asks for the plug-in bundle &quot;%1&quot;, which is no bundle&apos;s name. Use a PPD made for this printer.</source>
+        <translation>プリンターの PPD がプラグイン「%1」を求めていますが、これはプラグインの名前ではありません。このプリンター用の PPD を使ってください。</translation>
+    </message>
+    <message>
+        <source>The plug-in bundle &quot;%1&quot; was not found in %2. Install it there.</source>
+        <translation>プラグイン「%1」が %2 に見つかりません。そこにインストールしてください。</translation>
+    </message>
+    <message>
+        <source>it has no module &quot;%1&quot;</source>
+        <translation>モジュール「%1」がありません</translation>
+    </message>
+    <message>
+        <source>its module is no print-dialog plug-in</source>
+        <translation>モジュールが印刷ダイアログのプラグインではありません</translation>
+    </message>
+    <message>
+        <source>its identifier &quot;%1&quot; is not the one that its module was built for</source>
+        <translation>識別子「%1」が、モジュールの作られたときのものと違います</translation>
+    </message>
+    <message>
+        <source>it offers no panel for this printer</source>
+        <translation>このプリンター用の画面がありません</translation>
+    </message>
+</context>
+<context>
+    <name>PpdDocument</name>
+    <message>
+        <source>The PPD &quot;%1&quot; cannot be used: line %2: %3; correct it or fetch another from the printer&apos;s maker.</source>
+        <translation>PPD「%1」は使えません: %2 行目: %3。修正するか、プリンターのメーカーから別のものを入手してください。</translation>
+    </message>
+    <message>
+        <source>The PPD &quot;%1&quot; has no page size that can be printed on; correct it or fetch another from the printer&apos;s maker.</source>
+        <translation>PPD「%1」には印刷できる用紙サイズがありません。修正するか、プリンターのメーカーから別のものを入手してください。</translation>
+    </message>
+    <message>
+        <source>The translations are left out: there are too many.</source>
+        <translation>翻訳が多すぎるため、省きました。</translation>
+    </message>
+    <message>
+        <source>The option &quot;%1&quot; repeats %2 of its choices; the first of each counts.</source>
+        <translation>オプション「%1」で重複している選択肢: %2 件。それぞれ最初のものを使います。</translation>
+    </message>
+    <message>
+        <source>The option &quot;%1&quot; is left out: it has no choices.</source>
+        <translation>オプション「%1」は選択肢がないため、省きました。</translation>
+    </message>
+    <message>
+        <source>%1 page sizes are left out: they have no dimensions.</source>
+        <translation>寸法がないため省いた用紙サイズ: %1 件。</translation>
+    </message>
+    <message>
+        <source>The default page size is not one of the printer&apos;s; &quot;%1&quot; takes its place.</source>
+        <translation>既定の用紙サイズはこのプリンターのものではありません。代わりに「%1」を使います。</translation>
+    </message>
+</context>
+<context>
+    <name>PpdFile</name>
+    <message>
+        <source>&quot;%1&quot; is a directory; name the PPD file itself.</source>
+        <translation>「%1」はフォルダーです。PPD ファイルそのものを指定してください。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a device or a pipe, not a file; name the printer&apos;s PPD file.</source>
+        <translation>「%1」はファイルではなく、デバイスかパイプです。プリンターの PPD ファイルを指定してください。</translation>
+    </message>
+    <message>
+        <source>There is no PPD &quot;%1&quot;; check the path.</source>
+        <translation>PPD「%1」はありません。パスを確認してください。</translation>
+    </message>
+    <message>
+        <source>The PPD &quot;%1&quot; cannot be read: %2; check the file and its permissions.</source>
+        <translation>PPD「%1」を読めません: %2。ファイルとそのアクセス権を確認してください。</translation>
+    </message>
+</context>
+<context>
+    <name>PpdInspection</name>
+    <message>
+        <source>it is not printable ASCII</source>
+        <translation>印字可能な ASCII 文字ではありません</translation>
+    </message>
+    <message>
+        <source>it is longer than %1 characters</source>
+        <translation>%1 文字を超えています</translation>
+    </message>
+    <message>
+        <source>it is empty</source>
+        <translation>空です</translation>
+    </message>
+    <message>
+        <source>it is larger than %1 MiB</source>
+        <translation>%1 MiB を超えています</translation>
+    </message>
+    <message>
+        <source>The PPD &quot;%1&quot; is compressed; unpack it with gunzip first.</source>
+        <translation>PPD「%1」は圧縮されています。先に gunzip で展開してください。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a PPD, which is a text that begins with &quot;*PPD-Adobe:&quot;; name the printer&apos;s PPD file.</source>
+        <translation>「%1」は PPD (「*PPD-Adobe:」で始まるテキスト) ではありません。プリンターの PPD ファイルを指定してください。</translation>
+    </message>
+    <message>
+        <source>it is cut off: the quote opened in line %1 never closes</source>
+        <translation>途中で切れています: %1 行目の引用符が閉じられていません</translation>
+    </message>
+    <message>
+        <source>it is cut off in line %1</source>
+        <translation>%1 行目で切れています</translation>
+    </message>
+    <message>
+        <source>the value in line %1 is longer than %2 bytes</source>
+        <translation>%1 行目の値が %2 バイトを超えています</translation>
+    </message>
+    <message>
+        <source>line %1 is longer than %2 bytes</source>
+        <translation>%1 行目が %2 バイトを超えています</translation>
+    </message>
+    <message>
+        <source>a line of it is longer than %1 characters</source>
+        <translation>%1 文字を超える行があります</translation>
+    </message>
+    <message>
+        <source>its text has control characters</source>
+        <translation>テキストに制御文字が含まれています</translation>
+    </message>
+    <message>
+        <source>its keyword cannot be read</source>
+        <translation>キーワードを読めません</translation>
+    </message>
+    <message>
+        <source>line %1 has control characters</source>
+        <translation>%1 行目に制御文字が含まれています</translation>
+    </message>
+    <message>
+        <source>groups of options</source>
+        <translation>オプショングループ</translation>
+    </message>
+    <message>
+        <source>the option in line %1 has no keyword</source>
+        <translation>%1 行目のオプションにキーワードがありません</translation>
+    </message>
+    <message>
+        <source>the keyword of the option &quot;%1&quot; in line %2 is bad: %3</source>
+        <translation>%2 行目のオプション「%1」のキーワードが不正です: %3</translation>
+    </message>
+    <message>
+        <source>options</source>
+        <translation>オプション</translation>
+    </message>
+    <message>
+        <source>choices</source>
+        <translation>選択肢</translation>
+    </message>
+    <message>
+        <source>page sizes</source>
+        <translation>用紙サイズ</translation>
+    </message>
+    <message>
+        <source>parameters of custom choices</source>
+        <translation>カスタム選択肢のパラメーター</translation>
+    </message>
+    <message>
+        <source>translations into one language</source>
+        <translation>1 言語への翻訳</translation>
+    </message>
+    <message>
+        <source>entries beside its options</source>
+        <translation>オプション以外の項目</translation>
+    </message>
+    <message>
+        <source>constraints</source>
+        <translation>制約</translation>
+    </message>
+    <message>
+        <source>it is cut off: the option &quot;%1&quot; opened in line %2 never closes</source>
+        <translation>途中で切れています: %2 行目のオプション「%1」が閉じられていません</translation>
+    </message>
+    <message>
+        <source>it is cut off: the group opened in line %1 never closes</source>
+        <translation>途中で切れています: %1 行目のグループが閉じられていません</translation>
+    </message>
+    <message>
+        <source>its constraints name options with too many choices</source>
+        <translation>制約が、選択肢の多すぎるオプションに関わっています</translation>
+    </message>
+    <message>
+        <source>Line %1: the choice &quot;%2&quot; of the option &quot;%3&quot; is left out: %4.</source>
+        <translation>%1 行目: オプション「%3」の選択肢「%2」を省きました: %4。</translation>
+    </message>
+    <message>
+        <source>Line %1: the entry &quot;%3&quot; &quot;%2&quot; is left out: %4.</source>
+        <translation>%1 行目: 項目「%3」「%2」を省きました: %4。</translation>
+    </message>
+    <message>
+        <source>%1 more entries are left out.</source>
+        <translation>ほかに省いた項目: %1 件。</translation>
+    </message>
+    <message>
+        <source>fetch the printer&apos;s PPD again</source>
+        <translation>プリンターの PPD を取得し直してください</translation>
+    </message>
+    <message>
+        <source>correct it or fetch another from the printer&apos;s maker</source>
+        <translation>修正するか、プリンターのメーカーから別のものを入手してください</translation>
+    </message>
+    <message>
+        <source>it has more than %1 %2</source>
+        <translation>%2が %1 を超えています</translation>
+    </message>
+    <message>
+        <source>The PPD &quot;%1&quot; cannot be used: %2; %3.</source>
+        <translation>PPD「%1」は使えません: %2。%3。</translation>
+    </message>
+</context>
+<context>
+    <name>PrintDialog</name>
+    <message>
+        <source>P&amp;rinter:</source>
+        <translation>プリンター(&amp;R):</translation>
+    </message>
+    <message>
+        <source>Paper &amp;size:</source>
+        <translation>用紙サイズ(&amp;S):</translation>
+    </message>
+    <message>
+        <source>&amp;Copies:</source>
+        <translation>部数(&amp;C):</translation>
+    </message>
+    <message>
+        <source>&amp;Folder:</source>
+        <translation>フォルダー(&amp;F):</translation>
+    </message>
+    <message>
+        <source>Where the built-in printer leaves its files</source>
+        <translation>内蔵プリンターがファイルを保存する場所</translation>
+    </message>
+    <message>
+        <source>&amp;Browse…</source>
+        <translation>参照(&amp;B)…</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>ヘルプ(&amp;H)</translation>
+    </message>
+    <message>
+        <source>Sa&amp;ve Settings</source>
+        <translation>設定を保存(&amp;V)</translation>
+    </message>
+    <message>
+        <source>Keep these settings for the next time with this printer</source>
+        <translation>次回このプリンターを使うときのために、この設定を保存します</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>&amp;Print</source>
+        <translation>印刷(&amp;P)</translation>
+    </message>
+</context>
+<context>
+    <name>Queue</name>
+    <message>
+        <source>Built-in printer (files)</source>
+        <translation>内蔵プリンター (ファイルに保存)</translation>
+    </message>
+</context>
+<context>
+    <name>QueueFault</name>
+    <message>
+        <source>the print server does not know it</source>
+        <translation>プリントサーバーに登録されていません</translation>
+    </message>
+    <message>
+        <source>nothing answers at its address</source>
+        <translation>そのアドレスから応答がありません</translation>
+    </message>
+    <message>
+        <source>the print server keeps none for it</source>
+        <translation>プリントサーバーにありません</translation>
+    </message>
+    <message>
+        <source>it is set to reject them</source>
+        <translation>拒否するように設定されています</translation>
+    </message>
+    <message>
+        <source>no permission</source>
+        <translation>権限がありません</translation>
+    </message>
+    <message>
+        <source>time limit reached</source>
+        <translation>制限時間に達しました</translation>
+    </message>
+    <message>
+        <source>the print server gave no reason</source>
+        <translation>プリントサーバーは理由を示しませんでした</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; does not exist (%2); choose another one, or add it in the printer settings.</source>
+        <translation>プリンター「%1」はありません (%2)。別のプリンターを選ぶか、プリンターの設定で追加してください。</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; cannot be reached, because no print server is running (%2); start CUPS or check the server&apos;s name.</source>
+        <translation>プリントサーバーが動いていないため、プリンター「%1」に接続できません (%2)。CUPS を起動するか、サーバーの名前を確認してください。</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; has no PPD file (%2); set it up again with its driver.</source>
+        <translation>プリンター「%1」には PPD ファイルがありません (%2)。ドライバーを使って設定し直してください。</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; does not accept jobs (%2); let it accept them in the printer settings, or choose another one.</source>
+        <translation>プリンター「%1」はジョブを受け付けていません (%2)。プリンターの設定で受け付けるようにするか、別のプリンターを選んでください。</translation>
+    </message>
+    <message>
+        <source>The print server refused the request for the printer &quot;%1&quot; (%2); ask whoever manages it.</source>
+        <translation>プリントサーバーがプリンター「%1」への要求を拒否しました (%2)。管理者に問い合わせてください。</translation>
+    </message>
+    <message>
+        <source>The print server did not answer about the printer &quot;%1&quot; in time (%2); try again, or restart CUPS.</source>
+        <translation>プリントサーバーがプリンター「%1」について時間内に応答しませんでした (%2)。やり直すか、CUPS を再起動してください。</translation>
+    </message>
+    <message>
+        <source>The print server could not serve the printer &quot;%1&quot; (%2); try again, or look into its log.</source>
+        <translation>プリントサーバーがプリンター「%1」の要求を処理できませんでした (%2)。やり直すか、サーバーのログを確認してください。</translation>
+    </message>
+    <message>
+        <source>No print server is running (%1); start CUPS or check the server&apos;s name.</source>
+        <translation>プリントサーバーが動いていません (%1)。CUPS を起動するか、サーバーの名前を確認してください。</translation>
+    </message>
+    <message>
+        <source>The print server refused to list its printers (%1); ask whoever manages it.</source>
+        <translation>プリントサーバーがプリンターの一覧を拒否しました (%1)。管理者に問い合わせてください。</translation>
+    </message>
+    <message>
+        <source>The print server did not answer in time (%1); try again, or restart CUPS.</source>
+        <translation>プリントサーバーが時間内に応答しませんでした (%1)。やり直すか、CUPS を再起動してください。</translation>
+    </message>
+    <message>
+        <source>The print server could not list its printers (%1); try again, or look into its log.</source>
+        <translation>プリントサーバーがプリンターの一覧を作れませんでした (%1)。やり直すか、サーバーのログを確認してください。</translation>
+    </message>
+</context>
+<context>
+    <name>RequestedSession</name>
+    <message>
+        <source>%1 It is your default printer; --printer names another one.</source>
+        <translation>%1 これは既定のプリンターです。別のプリンターは --printer で指定できます。</translation>
+    </message>
+</context>
+<context>
+    <name>ScreenshotRun</name>
+    <message>
+        <source>The picture %1 could not be written: %2. Choose a folder that can be written.</source>
+        <translation>画像 %1 を書き込めませんでした: %2。書き込めるフォルダーを選んでください。</translation>
+    </message>
+    <message>
+        <source>The folder %1 cannot be made. Choose another one for the pictures.</source>
+        <translation>フォルダー %1 を作れません。画像用に別のフォルダーを選んでください。</translation>
+    </message>
+</context>
+<context>
+    <name>SummaryLines</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>main</name>
+    <message>
+        <source>The program cannot start: %1</source>
+        <translation>プログラムを起動できません: %1</translation>
+    </message>
+    <message>
+        <source>%1 See corvel-print --help.</source>
+        <translation>%1 corvel-print --help をご覧ください。</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::MessageBar</name>
+    <message>
+        <source>Open Folder</source>
+        <translation>フォルダーを開く</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::OutputFault</name>
+    <message>
+        <source>&quot;%1&quot; is not a folder: it is a file, or below one. Choose another folder.</source>
+        <translation>「%1」はフォルダーではなく、ファイルかその下のパスです。別のフォルダーを選んでください。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be made: there is no such folder. Choose another folder.</source>
+        <translation>「%1」を作れません。そのフォルダーはありません。別のフォルダーを選んでください。</translation>
+    </message>
+    <message>
+        <source>You may not write &quot;%1&quot;. Choose a folder that you may write to.</source>
+        <translation>「%1」に書き込む権限がありません。書き込めるフォルダーを選んでください。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is already there and is not a file that could be replaced. Rename it, or choose another folder.</source>
+        <translation>「%1」はすでにあり、置き換えられるファイルではありません。名前を変えるか、別のフォルダーを選んでください。</translation>
+    </message>
+    <message>
+        <source>The name &quot;%1&quot; is too long. Rename the photo, or choose another folder.</source>
+        <translation>名前「%1」が長すぎます。写真の名前を変えるか、別のフォルダーを選んでください。</translation>
+    </message>
+    <message>
+        <source>There is no space for &quot;%1&quot;. Delete other files, or choose another folder.</source>
+        <translation>「%1」のための空き容量がありません。ほかのファイルを削除するか、別のフォルダーを選んでください。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; could not be written: %2. Check the disk, or choose another folder.</source>
+        <translation>「%1」に書き込めませんでした: %2。ディスクを確認するか、別のフォルダーを選んでください。</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::PanelTabs</name>
+    <message>
+        <source>Options</source>
+        <translation>オプション</translation>
+    </message>
+    <message>
+        <source>Summary</source>
+        <translation>設定の一覧</translation>
+    </message>
+    <message>
+        <source>The panel &quot;%1&quot; cannot be shown: its form is missing from the plug-in bundle or damaged. Install the bundle again. Everything else works.</source>
+        <translation>「%1」の画面を表示できません。プラグインの中にフォームがないか、壊れています。プラグインを再インストールしてください。ほかの機能は使えます。</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::PdfWriter</name>
+    <message>
+        <source>The page of %1 x %2 points cannot be printed on. Choose another page size.</source>
+        <translation>%1 × %2 ポイントのページには印刷できません。別の用紙サイズを選んでください。</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for &quot;%1&quot;. Scale it down in a photo program.</source>
+        <translation>「%1」を扱うメモリが足りません。写真ソフトで縮小してください。</translation>
+    </message>
+    <message>
+        <source>The PDF of &quot;%1&quot; could not be written: %2. Check the disk that it goes to.</source>
+        <translation>「%1」の PDF を書き込めませんでした: %2。書き込み先のディスクを確認してください。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; could not be put on a page. Save it anew in a photo program.</source>
+        <translation>「%1」をページに配置できませんでした。写真ソフトで保存し直してください。</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::Photo</name>
+    <message>
+        <source>&quot;%1&quot; is not a photo of a known kind, whatever its name says. Save it as JPEG or PNG.</source>
+        <translation>「%1」は、名前にかかわらず、対応している種類の写真ではありません。JPEG か PNG で保存してください。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is too large: %2, where a photo may have %3. Save it with fewer pixels, or as JPEG.</source>
+        <translation>「%1」は大きすぎます: %2 (上限は %3)。ピクセル数を減らすか、JPEG で保存してください。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is too large: %2 x %3 pixels. Scale it down in a photo program.</source>
+        <translation>「%1」は大きすぎます: %2 × %3 ピクセル。写真ソフトで縮小してください。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is cut short: its end is missing. Copy it again from where it came from.</source>
+        <translation>「%1」は途中で切れていて、終わりがありません。元の場所からもう一度コピーしてください。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is damaged and cannot be shown. Copy it again, or save it anew in a photo program.</source>
+        <translation>「%1」は壊れていて表示できません。もう一度コピーするか、写真ソフトで保存し直してください。</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::PhotoFile</name>
+    <message>
+        <source>There is no photo &quot;%1&quot;. Check its name and folder.</source>
+        <translation>写真「%1」はありません。名前とフォルダーを確認してください。</translation>
+    </message>
+    <message>
+        <source>You may not read &quot;%1&quot;. Ask its owner for the permission to read it.</source>
+        <translation>「%1」を読む権限がありません。所有者に許可を求めてください。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; could not be read: %2. Check the disk or card that it is on.</source>
+        <translation>「%1」を読めませんでした: %2。ディスクやカードを確認してください。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a folder. Choose a photo inside it.</source>
+        <translation>「%1」はフォルダーです。その中の写真を選んでください。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a file but a device, a pipe or a socket. Choose a photo.</source>
+        <translation>「%1」はファイルではなく、デバイス、パイプ、またはソケットです。写真を選んでください。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is empty. Copy the photo again from where it came from.</source>
+        <translation>「%1」は空です。元の場所から写真をもう一度コピーしてください。</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::PhotoPrinter</name>
+    <message>
+        <source>Printed %1: %2</source>
+        <translation>%1 を印刷しました: %2</translation>
+    </message>
+    <message>
+        <source>Sent %1 to %2 as job %3</source>
+        <translation>%1 を %2 に送りました (ジョブ %3)</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::PpdFetcher</name>
+    <message>
+        <source>its PPD is larger than %1 MiB</source>
+        <translation>PPD が %1 MiB を超えています</translation>
+    </message>
+    <message>
+        <source>there is no memory for its PPD</source>
+        <translation>PPD のためのメモリが足りません</translation>
+    </message>
+    <message>
+        <source>the connection broke in the middle of its PPD</source>
+        <translation>PPD の途中で接続が切れました</translation>
+    </message>
+    <message>
+        <source>what the print server keeps is empty</source>
+        <translation>プリントサーバーにあるものは空です</translation>
+    </message>
+    <message>
+        <source>its PPD did not arrive within %1 s</source>
+        <translation>%1 秒以内に PPD が届きませんでした</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::PreviewWidget</name>
+    <message>
+        <source>Preview of %1</source>
+        <translation>%1 のプレビュー</translation>
+    </message>
+    <message>
+        <source>No photo</source>
+        <translation>写真がありません</translation>
+    </message>
+    <message>
+        <source>This photo cannot be shown</source>
+        <translation>この写真は表示できません</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::PrintDialog</name>
+    <message>
+        <source>Start corvel-print with a photo to print it.</source>
+        <translation>印刷するには、写真を指定して corvel-print を起動してください。</translation>
+    </message>
+    <message>
+        <source>Print Photo</source>
+        <translation>写真の印刷</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 and %n more</source>
+        <translation>
+            <numerusform>%1、ほか %n 枚</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Print %1</source>
+        <translation>%1 の印刷</translation>
+    </message>
+    <message>
+        <source>Folder for Printed Files</source>
+        <translation>印刷したファイルの保存先</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>ヘルプ</translation>
+    </message>
+    <message>
+        <source>Choose a printer and a paper size, adjust the photo on the pages of the printer, and press Print. The built-in printer leaves a PDF file and a job ticket in the folder.</source>
+        <translation>プリンターと用紙サイズを選び、プリンターの各タブで写真を調整してから［印刷］を押してください。内蔵プリンターは、PDF ファイルとジョブチケットをフォルダーに保存します。</translation>
+    </message>
+    <message>
+        <source>Printing is under way. The window closes when it is done.</source>
+        <translation>印刷中です。終わるとウィンドウが閉じます。</translation>
+    </message>
+    <message>
+        <source>The options of &quot;%1&quot; are being fetched from the print server.</source>
+        <translation>「%1」のオプションをプリントサーバーから取得しています。</translation>
+    </message>
+    <message>
+        <source>This printer has no panels of its own; it prints with its defaults.</source>
+        <translation>このプリンターには専用の設定画面がありません。初期設定で印刷します。</translation>
+    </message>
+    <message>
+        <source>There is no photo to print.</source>
+        <translation>印刷する写真がありません。</translation>
+    </message>
+    <message>
+        <source>Printing is under way.</source>
+        <translation>印刷中です。</translation>
+    </message>
+    <message>
+        <source>No paper size is chosen. Choose one.</source>
+        <translation>用紙サイズが選ばれていません。選んでください。</translation>
+    </message>
+    <message>
+        <source>Printing…</source>
+        <translation>印刷しています…</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>閉じる</translation>
+    </message>
+    <message>
+        <source>The settings are saved for &quot;%1&quot;.</source>
+        <translation>「%1」の設定を保存しました。</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::PrinterChooser</name>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; is no longer there. Choose another one.</source>
+        <translation>プリンター「%1」がなくなりました。別のプリンターを選んでください。</translation>
+    </message>
+    <message>
+        <source>There is no printer &quot;%1&quot;. Choose another one, or see --list-printers for those that there are.</source>
+        <translation>プリンター「%1」はありません。別のプリンターを選んでください。使えるプリンターは --list-printers で確認できます。</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::QueueSettings</name>
+    <message>
+        <source>The settings for &quot;%1&quot; could not be saved in %2: %3. Make room there, or make it writable.</source>
+        <translation>「%1」の設定を %2 に保存できませんでした: %3。空き容量を増やすか、書き込めるようにしてください。</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::SummaryPage</name>
+    <message>
+        <source>Option</source>
+        <translation>オプション</translation>
+    </message>
+    <message>
+        <source>Choice</source>
+        <translation>選択</translation>
+    </message>
+    <message>
+        <source>Summary of the job</source>
+        <translation>印刷ジョブの設定一覧</translation>
+    </message>
+</context>
+</TS>
