@@ -31,4 +31,7 @@ private Q_SLOTS:
     void actionsOfUsersOnly();
     void textFieldEvents();
     void viewsByTag();
+    void boundValueFollowsTheControl_data();
+    void boundValueFollowsTheControl();
+    void boundControlFollowsTheValue();
 };

@@ -1,0 +1,104 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+// A backend that behaves as the environment variable VELTA_BEHAVIOUR says; its input goes to the file
+// VELTA_INPUT.
+
+#include <csignal>
+#include <cstdio>
+#include <cstdlib>
+#include <fcntl.h>
+#include <fstream>
+#include <iostream>
+#include <iterator>
+#include <string>
+#include <unistd.h>
+
+namespace {
+
+volatile std::sig_atomic_t interrupts = 0;
+
+void note(const char *text)
+{
+    std::fputs(text, stderr);
+    std::fflush(stderr);
+}
+
+void keepInput()
+{
+    const std::string input{std::istreambuf_iterator<char>(std::cin), {}};
+    std::ofstream(std::getenv("VELTA_INPUT"), std::ios::binary) << input;
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    const std::string behaviour = std::getenv("VELTA_BEHAVIOUR");
+    std::setvbuf(stderr, nullptr, _IONBF, 0);
+    if (behaviour == "reads") {
+        keepInput();
+    } else if (behaviour == "arguments") {
+        for (int i = 1; i < argc; ++i)
+            std::fprintf(stderr, "[%s]", argv[i]);
+    } else if (behaviour == "both streams") {
+        keepInput();
+        std::printf("ignored\n");
+        std::fflush(stdout);
+        note("INFO: ready\n");
+    } else if (behaviour == "ends at once") {
+        return 0;
+    } else if (behaviour == "closes its input") {
+        close(STDIN_FILENO);
+        usleep(100'000);
+    } else if (behaviour == "offline") {
+        note("INFO: one\nSTATE: +offline-error\nINFO: two\n");
+        pause();
+    } else if (behaviour == "offline in lower case") {
+        note("state: +offline-error\n");
+        usleep(50'000);
+    } else if (behaviour == "offline in two pieces") {
+        note("STATE: +off");
+        usleep(200'000);
+        note("line-error\n");
+    } else if (behaviour == "ignores the first interrupt") {
+        std::signal(SIGINT, [](int) {
+            interrupts = interrupts + 1;
+            if (interrupts >= 2)
+                _exit(0);
+        });
+        note("STATE: +offline-error\n");
+        for (;;)
+            pause();
+    } else if (behaviour == "silent after one line") {
+        note("INFO: one\n");
+        pause();
+    } else if (behaviour == "silent") {
+        usleep(300'000);
+    } else if (behaviour == "floods standard output") {
+        const std::string line(1023, 'x');
+        for (int i = 0; i < 20'000; ++i)
+            std::puts(line.c_str());
+    } else if (behaviour == "floods standard error") {
+        for (int i = 0; i < 1'000'000; ++i)
+            note("x\n");
+    } else if (behaviour == "floods until interrupted") {
+        for (;;)
+            note("x\n");
+    } else if (behaviour == "closes standard output first") {
+        close(STDOUT_FILENO);
+        usleep(200'000);
+        note("INFO: late\n");
+    } else if (behaviour == "descriptors") {
+        for (int i = 0; i < 64; ++i) {
+            if (fcntl(i, F_GETFD) >= 0)
+                std::fprintf(stderr, "%d ", i);
+        }
+        sigset_t mask;
+        sigprocmask(SIG_SETMASK, nullptr, &mask);
+        struct sigaction pipeAction = {};
+        sigaction(SIGPIPE, nullptr, &pipeAction);
+        note(pipeAction.sa_handler == SIG_DFL && sigismember(&mask, SIGUSR1) == 0 ? "clean" : "unclean");
+    }
+    return 0;
+}
