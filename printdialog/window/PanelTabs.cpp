@@ -29,6 +29,17 @@ QWidget *viewOf(pdekit::PrintDialogPanel &panel)
     }
 }
 
+/// What the keyboard reaches in the view, in the order of its form.
+QList<QWidget *> focusChain(QWidget *view)
+{
+    QList<QWidget *> chain;
+    for (QWidget *widget = view->nextInFocusChain(); widget != view; widget = widget->nextInFocusChain()) {
+        if (view->isAncestorOf(widget) && widget->focusPolicy() != Qt::NoFocus)
+            chain.append(widget);
+    }
+    return chain;
+}
+
 } // namespace
 
 PanelTabs::PanelTabs(QWidget *parent)
@@ -42,15 +53,22 @@ PanelTabs::PanelTabs(QWidget *parent)
 
 void PanelTabs::setSession(DialogSession *session)
 {
-    const QSignalBlocker blocker(this);
     session_ = session;
+    makePages();
+    if (session)
+        showPage(currentIndex());
+}
+
+void PanelTabs::makePages()
+{
+    const QSignalBlocker blocker(this); // no page is shown before all are there
     clear();
     for (const Page &page : std::as_const(pages_))
         delete page.holder;
     pages_.clear();
-    if (!session)
+    if (!session_)
         return;
-    for (const pdekit::PanelPointer &panel : session->panels()) {
+    for (const pdekit::PanelPointer &panel : session_->panels()) {
         auto *holder = new QWidget;
         auto *layout = new QVBoxLayout(holder);
         layout->setContentsMargins(pageMargin, pageMargin, pageMargin, pageMargin);
@@ -59,7 +77,6 @@ void PanelTabs::setSession(DialogSession *session)
     }
     addTab(summary_, tr("Summary"));
     setCurrentIndex(0);
-    showPage(0);
 }
 
 pdekit::PrintDialogPanel *PanelTabs::currentPanel() const
@@ -93,6 +110,7 @@ void PanelTabs::fillPage(Page &page)
         return;
     page.wasShown = true;
     if (QWidget *view = viewOf(*page.panel)) {
+        const QList<QWidget *> order = focusChain(view);
         if (view->layout()) {
             page.holder->layout()->addWidget(view);
             page.panel->willShow();
@@ -104,6 +122,12 @@ void PanelTabs::fillPage(Page &page)
             page.holder->setMinimumSize(view->size() + QSize(2 * handPlacedMargin, 2 * handPlacedMargin));
         }
         view->show();
+        // A view that comes later would be the last in the tab order; its place is after the tabs.
+        QWidget *previous = tabBar();
+        for (QWidget *widget : order) {
+            setTabOrder(previous, widget);
+            previous = widget;
+        }
         return;
     }
     const QString text =

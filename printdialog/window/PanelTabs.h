@@ -42,6 +42,7 @@ private:
         bool wasShown = false;
     };
 
+    void makePages();
     void showPage(int page);
     void fillPage(Page &page);
 

@@ -12,6 +12,7 @@
 
 #include <QtCore/QDir>
 #include <QtGui/QKeyEvent>
+#include <QtGui/QShortcut>
 #include <QtWidgets/QFileDialog>
 #include <QtWidgets/QMessageBox>
 
@@ -42,6 +43,9 @@ PrintDialog::PrintDialog(const PrintDialogSetup &setup, QWidget *parent)
     connect(ui_->panels, &PanelTabs::panelFailed, this,
             [this](const QString &text) { ui_->message->show(MessageBar::Kind::Error, text); });
     connect(ui_->help, &QPushButton::clicked, this, &PrintDialog::showHelp);
+    // Not the button's own shortcut: that is the letter underlined in its text.
+    connect(new QShortcut(QKeySequence::HelpContents, this), &QShortcut::activated, this,
+            &PrintDialog::showHelp);
     connect(ui_->save, &QPushButton::clicked, this, &PrintDialog::saveSettings);
     connect(ui_->cancel, &QPushButton::clicked, this, &PrintDialog::reject);
     connect(ui_->print, &QPushButton::clicked, this, &PrintDialog::print);

@@ -1,7 +1,8 @@
 // SPDX-FileCopyrightText: Corvel print dialog authors
 // SPDX-License-Identifier: Apache-2.0
 
-#include "BuiltPanel.h"
+#include "LaminationTest.h"
+
 #include "LVCorvelLaminationPDE.h"
 #include "PanelHarness.h"
 #include "RKTPPRMatrixPDEcorvel.h"
@@ -11,9 +12,7 @@
 #include <QtWidgets/QCheckBox>
 #include <QtWidgets/QRadioButton>
 
-namespace {
-
-QByteArray laminationPpd()
+QByteArray LaminationTest::ppd()
 {
     QList<QByteArray> levels;
     for (int i = -25; i <= 25; ++i)
@@ -24,40 +23,23 @@ QByteArray laminationPpd()
                                   PanelHarness::ppdOption("UsePrinterPanel", "False", {"True", "False"}));
 }
 
-QRadioButton *cell(const PanelHarness &dialog, const char *name)
+QRadioButton *LaminationTest::cell(const PanelHarness &dialog, const char *name)
 {
     return dialog.view->findChild<QRadioButton *>(text(name));
 }
 
-/// The notices of a panel, as they come: "<" before a change of a key, ">" after it.
-void record(pdekit::KeyValueObject &panel, QStringList &notices)
+void LaminationTest::click(QRadioButton *cell)
+{
+    QTest::mouseClick(cell, Qt::LeftButton, {}, QPoint(8, cell->height() / 2));
+}
+
+void LaminationTest::record(pdekit::KeyValueObject &panel, QStringList &notices)
 {
     QObject::connect(&panel, &pdekit::KeyValueObject::valueWillChange,
                      [&notices](const QString &key) { notices << text("<") + key; });
     QObject::connect(&panel, &pdekit::KeyValueObject::valueDidChange,
                      [&notices](const QString &key) { notices << text(">") + key; });
 }
-
-} // namespace
-
-class LaminationTest : public QObject
-{
-    Q_OBJECT
-
-private Q_SLOTS:
-    void initTestCase_data();
-    void tables();
-    void cellsReachTheRecord();
-    void refusedCellIsNeverSeen();
-    void enablerIsInverted();
-    void matteLevelNeedsMatteAndTheEnabler();
-    void qualIsClamped();
-    void boundValueIsStored();
-    void boundValueIsRefused();
-    void modelRetiresControls();
-    void otherModelsKeepControls();
-    void matrixVariant();
-};
 
 void LaminationTest::initTestCase_data()
 {
@@ -69,7 +51,7 @@ void LaminationTest::initTestCase_data()
 void LaminationTest::tables()
 {
     QFETCH_GLOBAL(Mode, mode);
-    PanelHarness dialog(mode, laminationPpd());
+    PanelHarness dialog(mode, ppd());
     const auto panel = dialog.make<LVCorvelLaminationPDE>();
     const QHash<int, QString> keys = {
         {1, text("Quality")}, {2, text("Overcoat")}, {3, text("MatteValue")}, {32, text("UsePrinterPanel")}};
@@ -92,10 +74,10 @@ void LaminationTest::tables()
 void LaminationTest::cellsReachTheRecord()
 {
     QFETCH_GLOBAL(Mode, mode);
-    PanelHarness dialog(mode, laminationPpd());
+    PanelHarness dialog(mode, ppd());
     auto panel = dialog.make<LVCorvelLaminationPDE>();
     dialog.show(*panel);
-    QTest::mouseClick(cell(dialog, "fine"), Qt::LeftButton, {}, QPoint(8, 10));
+    click(cell(dialog, "fine"));
     QCOMPARE(panel->recorded(text("Quality")), text("Fine"));
     QCOMPARE(panel->property("Quality").toString(), text("Fine"));
     cell(dialog, "glossy")->setFocus();
@@ -110,18 +92,34 @@ void LaminationTest::cellsReachTheRecord()
 
 void LaminationTest::refusedCellIsNeverSeen()
 {
-    PanelHarness dialog(Mode::Constraint, laminationPpd());
+    PanelHarness dialog(Mode::Constraint, ppd());
     auto panel = dialog.make<LVCorvelLaminationPDE>();
     dialog.show(*panel);
     QStringList notices;
     record(*panel, notices);
     dialog.constraints->refused = {text("Overcoat")};
-    QTest::mouseClick(cell(dialog, "matte"), Qt::LeftButton, {}, QPoint(8, 10));
-    QVERIFY(cell(dialog, "glossy")->isChecked());
-    QCOMPARE(panel->recorded(text("Overcoat")), text("Glossy"));
+    for (const bool byKey : {false, true}) {
+        if (byKey)
+            QTest::keyClick(cell(dialog, "glossy"), Qt::Key_Right);
+        else
+            click(cell(dialog, "matte"));
+        QVERIFY(cell(dialog, "glossy")->isChecked());
+        QCOMPARE(panel->recorded(text("Overcoat")), text("Glossy"));
+        QCOMPARE(notices, QStringList());
+        QCOMPARE(std::exchange(dialog.feedback->beeps, 0), 1);
+    }
+    // A slider goes back, too, and with it both values that are bound to it.
+    dialog.constraints->refused << text("MatteValue");
+    panel->setOvercoat(text("Matte"));
+    notices.clear();
+    QTest::keyClick(dialog.slider(3), Qt::Key_End);
+    QCOMPARE(dialog.slider(3)->value(), 0);
     QCOMPARE(notices, QStringList());
+    QCOMPARE(panel->qual(), 0);
+    panel->setOvercoat(text("Glossy"));
+    notices.clear();
     dialog.constraints->refused.clear();
-    QTest::mouseClick(cell(dialog, "matte"), Qt::LeftButton, {}, QPoint(8, 10));
+    click(cell(dialog, "matte"));
     QCOMPARE(notices,
              QStringList({text("<Overcoat"), text("<isMatte"), text(">Overcoat"), text(">isMatte")}));
 }
@@ -129,7 +127,7 @@ void LaminationTest::refusedCellIsNeverSeen()
 void LaminationTest::enablerIsInverted()
 {
     QFETCH_GLOBAL(Mode, mode);
-    PanelHarness dialog(mode, laminationPpd());
+    PanelHarness dialog(mode, ppd());
     auto panel = dialog.make<LVCorvelLaminationPDE>();
     dialog.show(*panel);
     auto *box = qobject_cast<QCheckBox *>(dialog.control(32));
@@ -137,22 +135,28 @@ void LaminationTest::enablerIsInverted()
     QTest::keyClick(box, Qt::Key_Space);
     QCOMPARE(panel->recorded(text("UsePrinterPanel")), text("True"));
     QVERIFY(!dialog.control(1)->isEnabled() && !dialog.control(2)->isEnabled());
-    QCOMPARE(panel->enablerState(box), 0);
-    box->setTristate(true);
+    QVERIFY(dialog.control(16)->isEnabled());
+    for (const auto &[state, enabled] : {std::pair(Qt::PartiallyChecked, false),
+                                         std::pair(Qt::Checked, false), std::pair(Qt::Unchecked, true)}) {
+        box->setTristate();
+        box->setCheckState(state);
+        panel->changePrinterSetting(box); // which shows the box as it was recorded: mixed is on
+        QCOMPARE(panel->recorded(text("UsePrinterPanel")), enabled ? text("False") : text("True"));
+        QCOMPARE(dialog.control(1)->isEnabled(), enabled);
+        QCOMPARE(panel->enablerState(box), enabled ? 1 : 0);
+    }
     box->setCheckState(Qt::PartiallyChecked);
     QCOMPARE(panel->enablerState(box), 0);
-    box->setCheckState(Qt::Unchecked);
-    QCOMPARE(panel->enablerState(box), 1);
 }
 
 void LaminationTest::matteLevelNeedsMatteAndTheEnabler()
 {
     QFETCH_GLOBAL(Mode, mode);
-    PanelHarness dialog(mode, laminationPpd());
+    PanelHarness dialog(mode, ppd());
     auto panel = dialog.make<LVCorvelLaminationPDE>();
     dialog.show(*panel);
     QVERIFY(!dialog.slider(3)->isEnabled());
-    QTest::mouseClick(cell(dialog, "matte"), Qt::LeftButton, {}, QPoint(8, 10));
+    click(cell(dialog, "matte"));
     QVERIFY(dialog.slider(3)->isEnabled());
     QTest::keyClick(dialog.slider(3), Qt::Key_Left);
     QCOMPARE(panel->recorded(text("MatteValue")), text("-1"));
@@ -163,104 +167,76 @@ void LaminationTest::matteLevelNeedsMatteAndTheEnabler()
     QVERIFY(!dialog.slider(3)->isEnabled());
 }
 
-void LaminationTest::qualIsClamped()
-{
-    LVCorvelLaminationPDE panel;
-    QStringList notices;
-    record(panel, notices);
-    const QStringList told = {text("<qual"), text(">qual")};
-    const QList<std::tuple<int, int, QStringList>> rows = {
-        {25, 25, {}}, {26, 25, told}, {-25, -25, {}}, {-26, -25, told}, {INT_MIN, -25, told}};
-    for (const auto &[set, kept, expected] : rows) {
-        notices.clear();
-        panel.setQual(set);
-        QCOMPARE(panel.qual(), kept);
-        QCOMPARE(notices, expected);
-    }
-    for (const char *overcoat : {"Glossy", "matte", ""}) {
-        panel.setOvercoat(text(overcoat));
-        QVERIFY(!panel.isMatte());
-    }
-    panel.setOvercoat(text("Matte"));
-    QVERIFY(panel.isMatte());
-}
-
-void LaminationTest::boundValueIsStored()
-{
-    QFETCH_GLOBAL(Mode, mode);
-    PanelHarness dialog(mode, laminationPpd());
-    auto panel = dialog.make<LVCorvelLaminationPDE>();
-    dialog.show(*panel);
-    dialog.log.clear();
-    panel->setValueForBoundControlWithKey(text("Matte"), text("Overcoat"));
-    QCOMPARE(panel->recorded(text("Overcoat")), text("Matte"));
-    QCOMPARE(dialog.log,
-             dialog.constraints ? QStringList{text("changed Overcoat setting to Matte")} : QStringList());
-    QVERIFY(cell(dialog, "glossy")->isChecked());                   // no control is touched
-    panel->setValueForBoundControlWithKey(text("7"), text("qual")); // names a getter
-    QCOMPARE(panel->qual(), 0);
-}
-
-void LaminationTest::boundValueIsRefused()
-{
-    PanelHarness dialog(Mode::Constraint, laminationPpd());
-    auto panel = dialog.make<LVCorvelLaminationPDE>();
-    dialog.show(*panel);
-    dialog.constraints->refused = {text("Overcoat")};
-    dialog.log.clear();
-    panel->setValueForBoundControlWithKey(text("Matte"), text("Overcoat"));
-    QCOMPARE(dialog.log, QStringList{text("Failed to change Overcoat setting to = Matte")});
-    QCOMPARE(dialog.feedback->alerts, QStringList{text("setting change failed!")});
-    QCOMPARE(panel->recorded(text("Overcoat")), text("Glossy"));
-    QCOMPARE(dialog.feedback->beeps, 0);
-}
-
 void LaminationTest::modelRetiresControls()
 {
     QFETCH_GLOBAL(Mode, mode);
-    PanelHarness dialog(mode, laminationPpd());
+    PanelHarness dialog(mode, ppd());
     dialog.printer.description = QUrl(text("ppd:x"));
-    dialog.printer.data = "*ModelName: \"some k9031 here\"\n";
+    dialog.printer.data = "*ModelName: \"some k9031"; // lower case, and the data ends with it
     auto panel = dialog.make<LVCorvelLaminationPDE>();
-    QWidget *view = panel->panelView();
-    QWidget *button = pdekit::viewWithTag(view, 16);
-    const QPoint at = button->pos();
-    const QSize size = view->size();
-    for (int show = 1; show <= 2; ++show) {
+    dialog.view = panel->panelView(); // in no layout, which would have a say in its size
+    panel->restoreValuesAndReturnError(nullptr);
+    const auto frame = [&](int tag) {
+        return dialog.control(tag)->geometry();
+    };
+    const QRect button = frame(16);
+    const QRect quality = frame(1);
+    const QRect box = frame(32);
+    const QRect view = dialog.view->geometry();
+    for (int shows = 1; shows <= 2; ++shows) {
         panel->willShow();
-        QCOMPARE(button->pos(), at - QPoint(0, 100 * show));
-        QCOMPARE(view->size(), size - QSize(0, 100 * show));
+        QCOMPARE(frame(16), button.translated(0, -100 * shows));
+        QCOMPARE(dialog.view->geometry(), view.adjusted(0, 0, 0, -100 * shows));
+        for (const int tag : {2, 3, 83, 162, 163}) {
+            QVERIFY(!dialog.control(tag));
+            const QWidget *retired = dialog.control(tag | 256);
+            QVERIFY(retired && retired->isHidden() && retired->testAttribute(Qt::WA_ForceDisabled));
+        }
+        QCOMPARE(frame(1), quality);
+        QCOMPARE(frame(32), box);
+        QVERIFY(!dialog.control(1)->isHidden() && dialog.control(16)->isEnabled());
     }
-    for (const int tag : {2, 3, 83, 162, 163}) {
-        QVERIFY(!pdekit::viewWithTag(view, tag));
-        QWidget *retired = pdekit::viewWithTag(view, tag | 256);
-        QVERIFY(retired && retired->isHidden() && !retired->isEnabledTo(retired->parentWidget()));
-    }
-    QWidget *box = pdekit::viewWithTag(view, 32);
-    QVERIFY(pdekit::viewWithTag(view, 1)->isEnabled() && box && !box->isHidden());
-    pdekit::setState(box, 0);
-    panel->setControlsEnabledByToggle(box);
-    QWidget *overcoat = pdekit::viewWithTag(view, 2 | 256);
-    QVERIFY(!overcoat->isEnabledTo(overcoat->parentWidget()));
+    // Nothing brings a retired control back.
+    QTest::keyClick(dialog.control(32), Qt::Key_Space);
+    QVERIFY(!dialog.control(1)->isEnabled());
+    QTest::keyClick(dialog.control(32), Qt::Key_Space);
+    QTest::mouseClick(dialog.control(16), Qt::LeftButton);
+    panel->setOvercoat(text("Matte"));
+    QVERIFY(dialog.control(1)->isEnabled() && panel->isMatte());
+    for (const int tag : {258, 259})
+        QVERIFY(!dialog.control(tag)->isEnabled() && dialog.control(tag)->isHidden());
+}
+
+void LaminationTest::otherModelsKeepControls_data()
+{
+    QTest::addColumn<bool>("hasData");
+    QTest::addColumn<QByteArray>("data");
+    QTest::newRow("another model") << true << QByteArray("*ModelName: \"K9045\"\n");
+    QTest::newRow("cut off within the name") << true << QByteArray("*ModelName: \"K903");
+    QTest::newRow("no bytes") << true << QByteArray();
+    QTest::newRow("no data") << false << QByteArray();
 }
 
 void LaminationTest::otherModelsKeepControls()
 {
     QFETCH_GLOBAL(Mode, mode);
-    for (const auto &data :
-         {std::optional<QByteArray>("*ModelName: \"K9045\"\n"), std::optional<QByteArray>()}) {
-        PanelHarness dialog(mode, laminationPpd());
-        dialog.printer.description = QUrl(text("ppd:x"));
+    QFETCH(bool, hasData);
+    QFETCH(QByteArray, data);
+    PanelHarness dialog(mode, ppd());
+    dialog.printer.description = QUrl(text("ppd:x"));
+    if (hasData)
         dialog.printer.data = data;
-        auto panel = dialog.make<LVCorvelLaminationPDE>();
-        QWidget *view = panel->panelView();
-        const QRect before = view->geometry();
-        panel->setChoiceForKey(text("Fine"), text("Quality"));
-        panel->willShow();
-        QCOMPARE(view->geometry(), before);
-        QVERIFY(pdekit::viewWithTag(view, 2) && !pdekit::viewWithTag(view, 2)->isHidden());
-        QVERIFY(!view->findChild<QRadioButton *>(text("fine"))->isChecked()); // showing refreshes nothing
-    }
+    auto panel = dialog.make<LVCorvelLaminationPDE>();
+    dialog.view = panel->panelView();
+    const QRect before = dialog.view->geometry();
+    const QRect button = dialog.control(16)->geometry();
+    panel->setChoiceForKey(text("Fine"), text("Quality"));
+    panel->willShow();
+    QCOMPARE(dialog.view->geometry(), before);
+    QCOMPARE(dialog.control(16)->geometry(), button);
+    for (const int tag : {1, 2, 3, 16, 32, 83, 162, 163})
+        QVERIFY(dialog.control(tag) && !dialog.control(tag)->isHidden());
+    QVERIFY(!cell(dialog, "fine")->isChecked()); // showing refreshes nothing
 }
 
 void LaminationTest::matrixVariant()
@@ -299,4 +275,3 @@ void LaminationTest::matrixVariant()
 }
 
 QTEST_MAIN(LaminationTest)
-#include "LaminationTest.moc"

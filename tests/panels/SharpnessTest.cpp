@@ -4,24 +4,29 @@
 #include "LVSharpnessCorvelPDE.h"
 #include "PanelHarness.h"
 
+#include <QtGui/QClipboard>
+#include <QtGui/QGuiApplication>
 #include <QtTest/QTest>
 #include <QtWidgets/QCheckBox>
 
 namespace {
 
-/// The radius's choices, and the intensity's that the tests use; the print system takes the beginnings of
-/// numbers, too.
 QByteArray sharpnessPpd()
 {
-    QList<QByteArray> intensities = {"", "-", ".", "1.", "1.5", "1e"};
+    QList<QByteArray> intensities;
     for (int i = 0; i <= 300; ++i)
         intensities << QByteArray::number(i / 100.0, 'f', 2);
     return PanelHarness::colorPpd(PanelHarness::ppdOption("SharpnessRadius", "1", {"0", "1", "2", "3"}) +
-                                  PanelHarness::ppdOption("SharpnessIntensity", "1.00", intensities.mid(6)) +
+                                  PanelHarness::ppdOption("SharpnessIntensity", "1.00", intensities) +
                                   PanelHarness::ppdOption("SharpnessEnabled", "True", {"True", "False"}));
 }
 
 constexpr char intensity[] = "SharpnessIntensity";
+
+QString offerOf(const QString &choice)
+{
+    return text("SharpnessIntensity=") + choice;
+}
 
 } // namespace
 
@@ -37,6 +42,7 @@ private Q_SLOTS:
     void slider();
     void endOfEditing_data();
     void endOfEditing();
+    void endOfEditingOutOfRange();
     void typing_data();
     void typing();
     void radius();
@@ -107,6 +113,7 @@ void SharpnessTest::slider()
     QCOMPARE(panel->recorded(text(intensity)), choice);
     QCOMPARE(dialog.field(82)->text(), choice);
     QCOMPARE(slider->toolTip(), choice);
+    QCOMPARE(slider->value(), qRound(choice.toDouble() * 1000)); // follows what was recorded
 }
 
 void SharpnessTest::endOfEditing_data()
@@ -114,11 +121,12 @@ void SharpnessTest::endOfEditing_data()
     QTest::addColumn<QString>("typed");
     QTest::addColumn<QString>("shown");
     QTest::newRow("0.055, rounded from single precision") << text("0.055") << text("0.05");
-    QTest::newRow("1.234") << text("1.234") << text("1.23");
-    QTest::newRow("1.5") << text("1.5") << text("1.50");
-    QTest::newRow("a lone minus") << text("-") << text("0.00");
-    QTest::newRow("nothing") << QString() << text("0.00");
-    QTest::newRow("2.5") << text("2.5") << text("2.50");
+    QTest::newRow("a negative keeps its sign") << text("-0.5") << text("-0.50");
+    for (const auto &[typed, shown] :
+         {std::pair("1.234", "1.23"), std::pair("2.5", "2.50"), std::pair("-", "0.00"), std::pair("", "0.00"),
+          std::pair(".", "0.00"), std::pair("1e", "1.00"), std::pair("0x10", "0.00"),
+          std::pair("nan", "0.00")})
+        QTest::newRow(qPrintable(text("\"%1\"").arg(text(typed)))) << text(typed) << text(shown);
 }
 
 void SharpnessTest::endOfEditing()
@@ -130,39 +138,72 @@ void SharpnessTest::endOfEditing()
     auto panel = dialog.make<LVSharpnessCorvelPDE>();
     dialog.show(*panel);
     QLineEdit *field = dialog.field(82);
-    field->setText(typed);
-    panel->events.clear();
-    panel->controlTextDidEndEditing(field);
-    QCOMPARE(panel->events, QStringList({text("end"), text("change")}));
-    QCOMPARE(field->text(), shown);
-    QCOMPARE(panel->recorded(text(intensity)), shown);
-    if (dialog.constraints)
-        QCOMPARE(dialog.constraints->offers.constLast(), text("SharpnessIntensity=") + shown);
+    dialog.slider(2)->setMinimum(-100);
+    // Return offers the rewritten text twice: at the end of editing, and as the field's own action.
+    for (const auto &[key, changes] : {std::pair(Qt::Key_Return, 2), std::pair(Qt::Key_Tab, 1)}) {
+        dialog.type(82, typed);
+        if (typed.isEmpty())
+            QTest::keyClick(field, Qt::Key_Delete);
+        panel->events.clear();
+        if (dialog.constraints)
+            dialog.constraints->offers.clear();
+        QTest::keyClick(field, key);
+        QCOMPARE(panel->events, QStringList(text("end")) + QStringList(changes, text("change")));
+        QCOMPARE(field->text(), shown);
+        QCOMPARE(panel->recorded(text(intensity)), shown);
+        QCOMPARE(dialog.slider(2)->value(), qRound(shown.toDouble() * 100));
+        if (dialog.constraints)
+            QCOMPARE(dialog.constraints->offers, QStringList(changes, offerOf(shown)));
+    }
+    QCOMPARE(dialog.feedback->beeps, 0);
+}
+
+void SharpnessTest::endOfEditingOutOfRange()
+{
+    QFETCH_GLOBAL(Mode, mode);
+    PanelHarness dialog(mode, sharpnessPpd());
+    auto panel = dialog.make<LVSharpnessCorvelPDE>();
+    dialog.show(*panel);
+    dialog.field(82)->setText(text("3.005"));
+    QTest::keyClick(dialog.field(82), Qt::Key_Return); // in single precision 3.01 is nearer
+    QCOMPARE(dialog.field(82)->text(), text("1.00"));
+    QCOMPARE(panel->recorded(text(intensity)), text("1.00"));
+    QCOMPARE(dialog.feedback->beeps, 1);
 }
 
 void SharpnessTest::typing_data()
 {
     QTest::addColumn<QString>("typed");
-    QTest::addColumn<QString>("recorded"); // in print-settings mode
-    for (const char *number : {"-", ".", "1.", "1.5", "2.50"})
+    QTest::addColumn<QString>("recorded");
+    for (const char *number : {"-", ".", "1.", "1.5", "2.50", "-0"})
         QTest::newRow(number) << text(number) << text(number);
     QTest::newRow("hexadecimal begins with 0") << text("0x10") << text("0x10");
     QTest::newRow("no number is 0") << text("nan") << text("nan");
     QTest::newRow("out of range at the last key") << text("1e3") << text("1e");
+    QTest::newRow("below the range") << text("-0.5") << text("-0.");
     QTest::newRow("too large") << text("4") << text("1.00");
 }
 
 void SharpnessTest::typing()
 {
+    QFETCH_GLOBAL(Mode, mode);
     QFETCH(QString, typed);
     QFETCH(QString, recorded);
-    PanelHarness dialog(Mode::Settings, sharpnessPpd());
+    PanelHarness dialog(mode, sharpnessPpd());
     auto panel = dialog.make<LVSharpnessCorvelPDE>();
     dialog.show(*panel);
     dialog.type(82, typed);
+    const bool accepted = typed == recorded;
     QCOMPARE(panel->recorded(text(intensity)), recorded);
-    QCOMPARE(dialog.field(82)->text(), recorded);
-    QCOMPARE(dialog.feedback->beeps, typed == recorded ? 0 : 1);
+    QCOMPARE(dialog.feedback->beeps, accepted ? 0 : 1);
+    // Out of range, the print system's mark wins over what was recorded while typing.
+    QCOMPARE(dialog.field(82)->text(), accepted || !dialog.constraints ? recorded : text("1.00"));
+    if (dialog.constraints) { // each beginning was offered; what is out of range was not
+        QStringList offers;
+        for (qsizetype i = 1; i <= typed.size() - (accepted ? 0 : 1); ++i)
+            offers << offerOf(typed.left(i));
+        QCOMPARE(dialog.constraints->offers, offers);
+    }
 }
 
 void SharpnessTest::radius()
@@ -177,8 +218,11 @@ void SharpnessTest::radius()
     dialog.type(81, text("2"));
     QTest::keyClick(dialog.field(81), Qt::Key_Return);
     QCOMPARE(dialog.field(81)->text(), text("2")); // not reformatted
-    dialog.field(81)->setText(text("1.7"));
-    QCOMPARE(panel->newChoiceForSender(dialog.field(81)), text("1"));
+    QGuiApplication::clipboard()->setText(text("3.7"));
+    dialog.type(81, QString());
+    QTest::keySequence(dialog.field(81), QKeySequence::Paste);
+    QCOMPARE(panel->recorded(text("SharpnessRadius")), text("3"));
+    QCOMPARE(dialog.field(81)->text(), text("3"));
 }
 
 void SharpnessTest::enabler()

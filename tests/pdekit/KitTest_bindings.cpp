@@ -9,6 +9,7 @@
 #include "TextFieldEvents.h"
 
 #include <QtTest/QTest>
+#include <QtWidgets/QApplication>
 #include <QtWidgets/QCheckBox>
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QLineEdit>
@@ -35,11 +36,20 @@ class Owner : public pdekit::KeyValueObject
 
 public:
     QString first() const { return first_; }
-    void setFirst(const QString &value) { change("first", [&] { first_ = value; }); }
+    void setFirst(const QString &value)
+    {
+        change("first", [&] { first_ = value; });
+    }
     int second() const { return second_; }
-    void setSecond(int value) { change("second", [&] { second_ = value; }); }
+    void setSecond(int value)
+    {
+        change("second", [&] { second_ = value; });
+    }
     bool flag() const { return flag_; }
-    void setFlag(bool value) { change("flag", [&] { flag_ = value; }); }
+    void setFlag(bool value)
+    {
+        change("flag", [&] { flag_ = value; });
+    }
 
     std::optional<QString> valueOfBoundControl(QWidget *control) override
     {
@@ -109,7 +119,9 @@ Bound boundControl(Kind kind)
         (new QRadioButton(matrix))->setProperty("cellTag", tag);
     QApplication::sendPostedEvents();
     matrix->selectCellWithTag(4);
-    made.act = [matrix] { QTest::mouseClick(matrix->cells().constLast(), Qt::LeftButton, {}, {8, 8}); };
+    made.act = [matrix] {
+        QTest::mouseClick(matrix->cells().constLast(), Qt::LeftButton, {}, {8, 8});
+    };
     return made;
 }
 

@@ -18,13 +18,6 @@ QString fileFor(const QString &language)
     return QStringLiteral("%1/resources/i18n/corvel-print_%2.ts").arg(sourceDir, language);
 }
 
-QStringList sorted(const QSet<QString> &set)
-{
-    QStringList list(set.cbegin(), set.cend());
-    list.sort();
-    return list;
-}
-
 /// The places that values are put in, each as often as it occurs.
 QStringList placeholders(const QString &text)
 {
@@ -124,10 +117,10 @@ void TranslationsTest::holdsEveryTextOfTheSources()
     // It complains of a text whose context it cannot tell, and the program would not find the translation.
     QCOMPARE(lupdate.readAllStandardError(), QByteArray());
 
-    const QSet<QString> known = keysOf(readTs(fileFor(language)));
-    const QSet<QString> now = keysOf(readTs(copy));
-    QCOMPARE(sorted(now - known), QStringList());
-    QCOMPARE(sorted(known - now), QStringList());
+    const QList<TsEntry> known = readTs(fileFor(language));
+    const QList<TsEntry> now = readTs(copy);
+    QCOMPARE(keysMissingIn(known, now), QStringList());
+    QCOMPARE(keysMissingIn(now, known), QStringList());
 }
 
 void TranslationsTest::mnemonicsDoNotClash()

@@ -4,6 +4,7 @@
 #include "TsFile.h"
 
 #include <QtCore/QFile>
+#include <QtCore/QSet>
 #include <QtCore/QXmlStreamReader>
 
 QList<TsEntry> readTs(const QString &path)
@@ -36,10 +37,14 @@ QList<TsEntry> readTs(const QString &path)
     return reader.hasError() ? QList<TsEntry>() : entries;
 }
 
-QSet<QString> keysOf(const QList<TsEntry> &entries)
+QStringList keysMissingIn(const QList<TsEntry> &other, const QList<TsEntry> &entries)
 {
-    QSet<QString> keys;
+    QSet<QString> missing;
     for (const TsEntry &entry : entries)
-        keys.insert(entry.key());
+        missing.insert(entry.key());
+    for (const TsEntry &entry : other)
+        missing.remove(entry.key());
+    QStringList keys(missing.cbegin(), missing.cend());
+    keys.sort();
     return keys;
 }

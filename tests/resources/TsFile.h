@@ -4,7 +4,6 @@
 #pragma once
 
 #include <QtCore/QList>
-#include <QtCore/QSet>
 #include <QtCore/QStringList>
 
 /// One text of a translation file.
@@ -22,4 +21,5 @@ struct TsEntry
 /// Reads a translation file as translators write it. Empty when it cannot be read.
 QList<TsEntry> readTs(const QString &path);
 
-QSet<QString> keysOf(const QList<TsEntry> &entries);
+/// The keys of the texts that `other` lacks, sorted.
+QStringList keysMissingIn(const QList<TsEntry> &other, const QList<TsEntry> &entries);
