@@ -48,7 +48,7 @@
     </message>
     <message>
         <source>The printer has no option &quot;%1&quot;; it has %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Drucker hat keine Option „%1“; vorhanden: %2.</translation>
     </message>
 </context>
 <context>

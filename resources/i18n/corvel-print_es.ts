@@ -48,7 +48,7 @@
     </message>
     <message>
         <source>The printer has no option &quot;%1&quot;; it has %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>La impresora no tiene la opción «%1»; opciones disponibles: %2.</translation>
     </message>
 </context>
 <context>

@@ -48,7 +48,7 @@
     </message>
     <message>
         <source>The printer has no option &quot;%1&quot;; it has %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’imprimante n’a pas d’option «&#x202f;%1&#x202f;»&#x202f;; options disponibles&#x202f;: %2.</translation>
     </message>
 </context>
 <context>

@@ -48,7 +48,7 @@
     </message>
     <message>
         <source>The printer has no option &quot;%1&quot;; it has %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>このプリンターにオプション「%1」はありません。あるのは %2 です。</translation>
     </message>
 </context>
 <context>
