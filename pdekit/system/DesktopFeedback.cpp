@@ -43,7 +43,7 @@ void DesktopFeedback::alert(const Alert &alert)
                     QApplication::activeWindow());
     box.setTextFormat(Qt::PlainText);
     box.setInformativeText(alert.information);
-    box.addButton(alert.button, QMessageBox::AcceptRole);
+    box.setDefaultButton(box.addButton(alert.button, QMessageBox::AcceptRole));
     box.exec();
 }
 

@@ -3,6 +3,7 @@
 
 #include "Bindings.h"
 
+#include "ControlValues.h"
 #include "KeyValueObject.h"
 #include "RadioMatrix.h"
 
@@ -18,6 +19,16 @@ namespace pdekit {
 
 namespace {
 
+// A pop-up changes before it tells of the user's action, which may put it back.
+void connectPopUpChange(QComboBox *combo, QObject *context, const std::function<void()> &changed)
+{
+    QObject::connect(combo, &QComboBox::activated, context, changed);
+    QObject::connect(combo, &QComboBox::currentIndexChanged, context, [combo, changed] {
+        if (isBeingSet(combo))
+            changed();
+    });
+}
+
 /// Calls `changed` whenever the control shows another value, whoever has set it.
 void connectValueChange(QWidget *control, QObject *context, const std::function<void()> &changed)
 {
@@ -30,7 +41,7 @@ void connectValueChange(QWidget *control, QObject *context, const std::function<
     else if (auto *button = qobject_cast<QAbstractButton *>(control))
         QObject::connect(button, &QAbstractButton::toggled, context, changed);
     else if (auto *combo = qobject_cast<QComboBox *>(control))
-        QObject::connect(combo, &QComboBox::currentIndexChanged, context, changed);
+        connectPopUpChange(combo, context, changed);
 }
 
 void bindValue(QWidget *control, KeyValueObject *owner, const QString &key)

@@ -11,7 +11,7 @@ namespace printdialog {
 
 QString PrintedNames::nameFor(const QString &photoPath) const
 {
-    QString base = plainText(QFileInfo(photoPath).completeBaseName());
+    QString base = plainText(QFileInfo(photoPath).completeBaseName()).trimmed();
     while (base.startsWith(QLatin1Char('.')))
         base.remove(0, 1);
     if (base.isEmpty())

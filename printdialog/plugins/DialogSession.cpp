@@ -115,7 +115,7 @@ Ruling DialogSession::chooseThroughPanel(pdekit::PrintDialogPanel &panel, const 
 {
     auto *receiver = qobject_cast<pdekit::ChoiceReceiver *>(objectOf(panel));
     if (!receiver) {
-        const Ruling ruling = chooseDirectly(offered);
+        Ruling ruling = chooseDirectly(offered);
         panel.PPDOptionKeyValueDidChangePpdChoice(offered.key, offered.choice);
         return ruling;
     }
@@ -126,8 +126,7 @@ Ruling DialogSession::chooseThroughPanel(pdekit::PrintDialogPanel &panel, const 
 
 Ruling DialogSession::chooseDirectly(const Ruling &offered)
 {
-    const Ruling ruling =
-        mode_ == PanelMode::Constraint ? marker_.mark(offered.key, offered.choice) : offered;
+    Ruling ruling = mode_ == PanelMode::Constraint ? marker_.mark(offered.key, offered.choice) : offered;
     if (ruling.verdict != Verdict::Accepted)
         return ruling;
     if (mode_ == PanelMode::Constraint)

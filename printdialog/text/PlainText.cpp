@@ -55,7 +55,7 @@ QString withoutUnwanted(const QString &text)
 
 QString plainText(const QString &untrusted, qsizetype limit)
 {
-    QString plain = isPlainAscii(untrusted) ? untrusted : withoutUnwanted(untrusted).trimmed();
+    QString plain = isPlainAscii(untrusted) ? untrusted : withoutUnwanted(untrusted);
     if (plain.size() > limit) {
         const bool splitsPair = plain.at(limit - 2).isHighSurrogate();
         plain.truncate(limit - (splitsPair ? 2 : 1));

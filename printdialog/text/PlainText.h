@@ -14,8 +14,7 @@ inline constexpr qsizetype shownTextLimit = 300;
 
 /// Text from outside (a PPD, a server, a file's name, a command line) made fit to be shown or to name a file:
 /// tabs and line breaks become spaces; other control characters, the characters that turn the direction of
-/// writing, and halves of surrogate pairs are dropped, and then white space at the ends,
-/// too. What is longer than
+/// writing, and halves of surrogate pairs are dropped. What is longer than
 /// `limit` UTF-16 units ends in an ellipsis.
 QString plainText(const QString &untrusted, qsizetype limit = std::numeric_limits<qsizetype>::max());
 

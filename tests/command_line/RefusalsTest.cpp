@@ -42,6 +42,7 @@ private Q_SLOTS:
     void plugin_data();
     void plugin();
     void missingFormPrintsAllTheSame();
+    void noDisplay();
     void place_data();
     void place();
 };
@@ -211,6 +212,14 @@ void RefusalsTest::missingFormPrintsAllTheSame()
                    {{u"CORVEL_PDE_PATH"_s, folder_->path()}});
     QCOMPARE(run.err, QByteArray());
     QCOMPARE(ticketEntries(pathOf(u"out/sample.ticket.json"_s)).value(u"Red"_s), u"12"_s);
+}
+
+// Neither a crash nor Qt's advice to install the program again.
+void RefusalsTest::noDisplay()
+{
+    verifyRefusal(runInShell(u"env -u QT_QPA_PLATFORM -u DISPLAY -u WAYLAND_DISPLAY \"$@\""_s, {samplePhoto}),
+                  1, {u"no display"_s, u"--batch"_s});
+    verifyRefusal(runProgram({samplePhoto}, {{u"QT_QPA_PLATFORM"_s, u"nonesuch"_s}}), 1, {u"cannot start"_s});
 }
 
 void RefusalsTest::place_data()

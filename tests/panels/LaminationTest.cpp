@@ -99,6 +99,7 @@ void LaminationTest::refusedCellIsNeverSeen()
     record(*panel, notices);
     dialog.constraints->refused = {text("Overcoat")};
     for (const bool byKey : {false, true}) {
+        cell(dialog, "glossy")->setFocus();
         if (byKey)
             QTest::keyClick(cell(dialog, "glossy"), Qt::Key_Right);
         else

@@ -131,6 +131,7 @@ void LaminationTest::boundValueIsRefused()
     pdekit::Feedback::install(nullptr);
     QStringList shown;
     bool isModal = false;
+    bool wasDismissed = false;
     QTimer::singleShot(0, this, [&] {
         auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
         if (!box)
@@ -140,7 +141,10 @@ void LaminationTest::boundValueIsRefused()
         const QList<QAbstractButton *> buttons = box->buttons();
         for (const QAbstractButton *button : buttons)
             shown << button->text();
-        QTest::keyClick(box->focusWidget(), Qt::Key(key));
+        std::ignore = QTest::qWaitForWindowActive(box);
+        QTest::keyClick(box->windowHandle(), Qt::Key(key));
+        wasDismissed = !box->isVisible();
+        box->reject(); // lest the test hang
     });
     dialog.constraints->refused = {text("Overcoat")};
     dialog.log.clear();
@@ -150,7 +154,7 @@ void LaminationTest::boundValueIsRefused()
                                  text("I tried to make the change you requested but the printing system "
                                       "rejected my efforts. Sorry."),
                                  text("Bummer!")}));
-    QVERIFY(isModal && !QApplication::activeModalWidget());
+    QVERIFY(isModal && wasDismissed && !QApplication::activeModalWidget());
     QCOMPARE(dialog.log, QStringList{text("Failed to change Overcoat setting to = Matte")});
     QCOMPARE(panel->recorded(text("Overcoat")), text("Glossy"));
     QVERIFY(cell(dialog, "matte")->isChecked()); // no control is put back
