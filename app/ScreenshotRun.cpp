@@ -4,6 +4,7 @@
 #include "ScreenshotRun.h"
 
 #include "Console.h"
+#include "RequestedSession.h"
 #include "WindowRun.h"
 
 #include <QtCore/QDeadlineTimer>
@@ -61,18 +62,18 @@ QString renderPages(PrintDialog &dialog, QApplication &application, const QDir &
 }
 
 /// The sentence for why the printer's options are not there; empty when they are.
-QString openPrinter(PrintDialog &dialog, QApplication &application, const CommandLine &commandLine)
+QString openPrinter(PrintDialog &dialog, QApplication &application, const QString &id)
 {
-    if (commandLine.printer && !commandLine.asksForBuiltInPrinter()) {
+    const auto isOpen = [&dialog, &id] {
+        return dialog.printer() == id && dialog.isReady();
+    };
+    if (!isOpen()) {
         dialog.searchPrinters();
-        waitFor(application, [&dialog, &commandLine] {
-            return (dialog.printer() == *commandLine.printer && dialog.isReady()) ||
-                   !dialog.message().isEmpty();
-        });
-        if (dialog.printer() != *commandLine.printer)
-            return dialog.message();
+        waitFor(application, [&] { return isOpen() || !dialog.message().isEmpty(); });
     }
-    return dialog.isReady() ? QString() : dialog.whyNotReady();
+    if (isOpen())
+        return {};
+    return dialog.message().isEmpty() ? dialog.whyNotReady() : dialog.message();
 }
 
 } // namespace
@@ -86,9 +87,16 @@ int runScreenshot(const CommandLine &commandLine, QApplication &application)
         console.complain(failure);
         return static_cast<int>(exitFailed);
     };
-    const auto setup = windowSetup(commandLine);
+    auto setup = windowSetup(commandLine);
     if (!setup)
         return endWith(setup.failure().text);
+    // What the dialog only tells in its window (a choice refused, a plug-in missing) is a failure here.
+    auto session = openRequestedSession(commandLine);
+    if (!session)
+        return endWith(session.failure().text);
+    const QString printer = (*session)->printer().name;
+    (*session).reset();
+    setup->printer = printer;
     const QDir folder(*commandLine.screenshot);
     if (!folder.mkpath(QStringLiteral(".")))
         return endWith(Text::tr("The folder %1 cannot be made. Choose another one for the pictures.")
@@ -97,7 +105,7 @@ int runScreenshot(const CommandLine &commandLine, QApplication &application)
     PrintDialog dialog(*setup);
     dialog.resize(dialog.sizeHint());
     dialog.show();
-    if (const QString failure = openPrinter(dialog, application, commandLine); !failure.isEmpty())
+    if (const QString failure = openPrinter(dialog, application, printer); !failure.isEmpty())
         return endWith(failure);
     waitFor(application, [&dialog] { return dialog.isPreviewReady(); });
     return endWith(renderPages(dialog, application, folder));

@@ -93,6 +93,16 @@ bool choosePlatform(const CommandLine &commandLine)
     return qEnvironmentVariableIsSet("DISPLAY") || qEnvironmentVariableIsSet("WAYLAND_DISPLAY");
 }
 
+int failWithoutDisplay(int &argc, char **argv)
+{
+    const QCoreApplication application(argc, argv);
+    loadTranslations(*QCoreApplication::instance());
+    Console().complain(QCoreApplication::translate(
+        "main", "There is no display to open a window on. Start it in a desktop session, or print without a "
+                "window (--batch)."));
+    return exitFailed;
+}
+
 int runWithoutWindow(const CommandLine &commandLine)
 {
     // A reader of the output that has gone is an error like any other, not the end of the program.
@@ -123,12 +133,8 @@ int main(int argc, char *argv[])
     if (!commandLine || commandLine->help || commandLine->version)
         return runWithoutApplication(arguments, argc, argv);
 
-    if (!choosePlatform(*commandLine)) {
-        Console().complain(QCoreApplication::translate(
-            "main", "There is no display to open a window on. Start it in a desktop "
-                    "session, or print without a window (--batch)."));
-        return exitFailed;
-    }
+    if (!choosePlatform(*commandLine))
+        return failWithoutDisplay(argc, argv);
     QApplication application(argc, argv);
     loadTranslations(application);
     if (commandLine->runsWithoutWindow())

@@ -35,6 +35,7 @@ std::unique_ptr<DialogSession> openSession(int choices, PanelMode mode)
 double bareLibcups(ppd_file_t *ppd)
 {
     std::vector<double> times;
+    times.reserve(201);
     for (int i = 0; i < 201; ++i) {
         const QByteArray choice = QByteArray::number(i % 25);
         times.push_back(millisecondsOf([&] {
@@ -57,6 +58,7 @@ void benchKeystroke(int choices, PanelMode mode, const QString &name)
     auto *slider = qobject_cast<QSlider *>(pdekit::viewWithTag(view, 1));
     field->setFocus();
     std::vector<double> times;
+    times.reserve(201);
     for (int i = 0; i < 201; ++i) {
         field->selectAll();
         const auto digit = static_cast<Qt::Key>(Qt::Key_1 + i % 9);
@@ -75,6 +77,7 @@ double benchRestore(int choices, PanelMode mode, const QString &name)
 {
     const auto session = openSession(choices, mode);
     std::vector<double> times;
+    times.reserve(51);
     for (int i = 0; i < 51; ++i) {
         times.push_back(millisecondsOf([&] {
             session->refreshPanels();

@@ -11,7 +11,6 @@
 #include "ui_PrintDialog.h"
 
 #include <QtCore/QDir>
-#include <QtGui/QKeyEvent>
 #include <QtGui/QShortcut>
 #include <QtWidgets/QFileDialog>
 #include <QtWidgets/QMessageBox>
@@ -46,6 +45,7 @@ PrintDialog::PrintDialog(const PrintDialogSetup &setup, QWidget *parent)
     // Not the button's own shortcut: that is the letter underlined in its text.
     connect(new QShortcut(QKeySequence::HelpContents, this), &QShortcut::activated, this,
             &PrintDialog::showHelp);
+    connect(new QShortcut(QKeySequence::Print, this), &QShortcut::activated, this, &PrintDialog::print);
     connect(ui_->save, &QPushButton::clicked, this, &PrintDialog::saveSettings);
     connect(ui_->cancel, &QPushButton::clicked, this, &PrintDialog::reject);
     connect(ui_->print, &QPushButton::clicked, this, &PrintDialog::print);
@@ -54,7 +54,12 @@ PrintDialog::PrintDialog(const PrintDialogSetup &setup, QWidget *parent)
             [this](quint64 /*number*/, const QString &text) { closeSession(text); });
     connect(worker_, &PrintWorker::finished, this, &PrintDialog::finishPrinting);
     showPhoto();
-    openPrinter(ui_->printer->current());
+    if (setup.printer && *setup.printer != Queue::builtIn().id() && !setup.ppdFile) {
+        ui_->printer->await(*setup.printer);
+        awaitOptions(*setup.printer);
+    } else {
+        openPrinter(ui_->printer->current());
+    }
 }
 
 PrintDialog::~PrintDialog()
@@ -128,21 +133,16 @@ void PrintDialog::showHelp()
            "press Print. The built-in printer leaves a PDF file and a job ticket in the folder."));
 }
 
-// Ctrl+P prints, as in every program; Enter does so through the default button.
-void PrintDialog::keyPressEvent(QKeyEvent *event)
-{
-    if (event->matches(QKeySequence::Print) && ui_->print->isEnabled())
-        print();
-    else
-        QDialog::keyPressEvent(event);
-}
-
 void PrintDialog::reject()
 {
     if (worker_->isBusy()) {
         ui_->message->show(MessageBar::Kind::Warning,
                            tr("Printing is under way. The window closes when it is done."));
-        connect(worker_, &PrintWorker::finished, this, [this] { QDialog::reject(); });
+        const auto closeUnlessFailed = [this](const QStringList & /*printed*/, const QString &failure) {
+            if (failure.isEmpty())
+                QDialog::reject();
+        };
+        connect(worker_, &PrintWorker::finished, this, closeUnlessFailed, Qt::SingleShotConnection);
         return;
     }
     QDialog::reject();

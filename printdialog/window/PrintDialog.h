@@ -37,7 +37,8 @@ struct PrintDialogSetup
 };
 
 /// The print dialog: the photo on its page, the printer, the panels of the printer's plug-in. It works at
-/// once with the built-in printer; whatever a print server has to say comes later and blocks nothing.
+/// once with the built-in printer, unless a queue is asked for by its name: then it prints on no other one.
+/// Whatever a print server has to say comes later and blocks nothing.
 class PrintDialog : public QDialog
 {
     Q_OBJECT
@@ -46,10 +47,11 @@ public:
     explicit PrintDialog(const PrintDialogSetup &setup, QWidget *parent = nullptr);
     ~PrintDialog() override;
 
-    /// Starts to look for the print server's queues; until then there is the built-in printer alone.
+    /// Starts to look for the print server's queues. When the one asked for is not among them, the built-in
+    /// printer takes its place, and the user is told.
     void searchPrinters();
 
-    /// The id of the printer that is shown.
+    /// The id of the printer that is shown; empty while the one asked for is being looked for.
     QString printer() const { return queue_.id(); }
     /// Whether the printer's options are there.
     bool isReady() const { return session_ != nullptr; }
@@ -70,12 +72,11 @@ public Q_SLOTS:
     void saveSettings();
     void reject() override;
 
-protected:
-    void keyPressEvent(QKeyEvent *event) override;
-
 private:
     // The printer
     void openPrinter(const Queue &queue);
+    void awaitOptions(const QString &id);
+    void showFolder(bool isBuiltIn);
     void takePpd(quint64 number, const QByteArray &ppd);
     void takeSession(std::unique_ptr<DialogSession> session);
     void closeSession(const QString &reason);
@@ -102,7 +103,6 @@ private:
     PrintWorker *worker_;
     Queue queue_;         ///< the printer that is shown
     QString whyNotReady_; ///< why Print is off; empty when it is on
-    bool optionsApplied_ = false;
 };
 
 } // namespace printdialog

@@ -20,22 +20,33 @@ void PrintDialog::openPrinter(const Queue &queue)
 {
     queue_ = queue;
     ui_->message->clear();
-    ui_->folderLabel->setVisible(queue.isBuiltIn);
-    ui_->folder->setVisible(queue.isBuiltIn);
-    ui_->browse->setVisible(queue.isBuiltIn);
     if (!queue.isBuiltIn) {
-        closeSession({});
-        whyNotReady_ = tr("The options of \"%1\" are being fetched from the print server.").arg(queue.id());
-        updateButtons();
+        awaitOptions(queue.id());
         fetcher_->fetch(queue.id());
         return;
     }
     fetcher_->cancel();
+    showFolder(true);
     SessionResult session = openBuiltInPrinter(setup_.ppdFile, setup_.mode);
     if (session)
         takeSession(*std::move(session));
     else
         closeSession(session.failure().text);
+}
+
+void PrintDialog::awaitOptions(const QString &id)
+{
+    showFolder(false);
+    closeSession({});
+    whyNotReady_ = tr("The options of \"%1\" are being fetched from the print server.").arg(id);
+    updateButtons();
+}
+
+void PrintDialog::showFolder(bool isBuiltIn)
+{
+    ui_->folderLabel->setVisible(isBuiltIn);
+    ui_->folder->setVisible(isBuiltIn);
+    ui_->browse->setVisible(isBuiltIn);
 }
 
 void PrintDialog::takePpd(quint64 /*number*/, const QByteArray &ppd)
@@ -80,18 +91,17 @@ void PrintDialog::takeSession(std::unique_ptr<DialogSession> session)
     ui_->panels->setSession(session_.get());
     if (noPanels)
         ui_->message->show(MessageBar::Kind::Error, noPanels->text);
-    else if (session_->panels().empty())
+    else if (session_->panels().empty() && message().isEmpty())
         ui_->message->show(MessageBar::Kind::Information,
                            tr("This printer has no panels of its own; it prints with its defaults."));
     updateButtons();
 }
 
-// The command line's options are the first printer's; a printer chosen later has choices of its own.
+// The options asked for hold until the user chooses another printer, which has choices of its own.
 bool PrintDialog::applyOptions()
 {
-    if (optionsApplied_)
+    if (ui_->printer->wasChosenByUser())
         return false;
-    optionsApplied_ = true;
     for (const auto &[key, choice] : std::as_const(setup_.options)) {
         const Ruling ruling = session_->choose(key, choice);
         if (ruling.verdict != Verdict::Accepted)

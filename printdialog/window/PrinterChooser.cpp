@@ -28,11 +28,18 @@ PrinterChooser::PrinterChooser(QWidget *parent)
     addItem(label(builtIn), QVariant::fromValue(builtIn));
     connect(this, &QComboBox::activated, this, [this](int index) {
         isSettled_ = true;
+        wasChosenByUser_ = true;
         Q_EMIT printerChosen(itemData(index).value<Queue>());
     });
     connect(finder_, &QueueFinder::queueFound, this, &PrinterChooser::take);
     connect(finder_, &QueueFinder::queueRemoved, this, &PrinterChooser::remove);
     connect(finder_, &QueueFinder::finished, this, &PrinterChooser::endSearch);
+}
+
+void PrinterChooser::await(const QString &id)
+{
+    setPlaceholderText(id);
+    setCurrentIndex(-1);
 }
 
 void PrinterChooser::search(const std::optional<QString> &wanted)
@@ -92,6 +99,8 @@ void PrinterChooser::remove(const QString &id)
 void PrinterChooser::endSearch()
 {
     if (wanted_ && !isSettled_) {
+        if (currentIndex() < 0)
+            choose(0);
         Q_EMIT searchFailed(
             tr("There is no printer \"%1\". Choose another one, or see --list-printers for those that "
                "there are.")

@@ -22,10 +22,14 @@ class PrinterChooser : public QComboBox
 public:
     explicit PrinterChooser(QWidget *parent = nullptr);
 
+    /// Shows the queue's id with no printer chosen, until the search has found the queue or is over.
+    void await(const QString &id);
     /// Starts to look for queues. The queue `wanted`, or else the user's default, is chosen when it is found,
     /// unless the user has chosen by then.
     void search(const std::optional<QString> &wanted);
     Queue current() const;
+    /// Whether the user has chosen a printer, be it the one that was current anyway.
+    bool wasChosenByUser() const { return wasChosenByUser_; }
 
 Q_SIGNALS:
     /// Another printer is the current one now.
@@ -44,6 +48,7 @@ private:
 
     QueueFinder *finder_;
     std::optional<QString> wanted_;
+    bool wasChosenByUser_ = false;
     bool isSettled_ = false; ///< the user has chosen, or what was wanted has been found
 };
 

@@ -24,6 +24,8 @@ void PanelActionsTest::typing_data()
     QTest::newRow("leading zero") << "012" << no << "12" << 12 << 0;
     QTest::newRow("150 beeps at its last digit") << "150" << no << "15" << 15 << 1;
     QTest::newRow("letters are 0") << "abc" << no << "0" << 0 << 0;
+    QTest::newRow("a point is taken away at once") << "1.5" << no << "15" << 15 << 0;
+    QTest::newRow("3.7") << "3.7" << no << "3" << 3 << 1;
     QTest::newRow("ends of the range") << "25" << no << "25" << 25 << 0;
     QTest::newRow("pasted 3.7") << no << "3.7"
                                 << "3" << 3 << 0;
@@ -110,10 +112,16 @@ void PanelActionsTest::leavingTheField()
     QCOMPARE(panel->events, QStringList(QStringLiteral("end")));
     QCOMPARE(dialog.field(81)->text(), QStringLiteral("0"));
     QCOMPARE(panel->recorded(QStringLiteral("Red")), QStringLiteral("-"));
-    // Leaving a field that was not typed in is no end of editing.
+    // Leaving a field that was not typed in is no end of editing; that the panel has rewritten what was typed
+    // makes no difference.
     dialog.field(81)->setFocus();
     dialog.field(82)->setFocus();
     QCOMPARE(panel->events.size(), 1);
+    dialog.type(81, QStringLiteral("1."));
+    QCOMPARE(dialog.field(81)->text(), QStringLiteral("1"));
+    panel->events.clear();
+    dialog.field(82)->setFocus();
+    QCOMPARE(panel->events, QStringList(QStringLiteral("end")));
 }
 
 void PanelActionsTest::refusal()

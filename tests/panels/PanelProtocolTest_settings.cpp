@@ -172,6 +172,10 @@ void PanelProtocolTest::deviceUri()
     dialog.printer.deviceUri =
         pdekit::URLReference(text("../K9031?serial=1"), text("ipp://host:631/printers/x/"));
     QCOMPARE(panel->printerDeviceURI(), text("ipp://host:631/printers/K9031?serial=1"));
+    // An absolute one has no use for its base, and stays to the letter.
+    panel = dialog.make<LVCorvelMainPDE>();
+    dialog.printer.deviceUri = pdekit::URLReference(uri, text("ipp://host:631/printers/x/"));
+    QCOMPARE(panel->printerDeviceURI(), uri);
 }
 
 void PanelProtocolTest::ppdData()

@@ -13,6 +13,7 @@
 #include <QtCore/QFile>
 #include <QtCore/QLocale>
 #include <QtCore/QTemporaryDir>
+#include <QtCore/QTemporaryFile>
 #include <QtTest/QTest>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QSlider>
@@ -21,6 +22,7 @@
 #include <cmath>
 #include <limits>
 #include <sys/stat.h>
+#include <unistd.h>
 
 using pdekit::Bundle;
 using pdekit::BundleFault;
@@ -213,6 +215,22 @@ void KitTest::signalLog()
     QTest::qWait(1);
     QVERIFY(log.size() >= 200 && log.size() < 1000);
     QCOMPARE(log.count(QString(255, u'x')), log.size());
+}
+
+void KitTest::systemLogOnStandardError()
+{
+    QTemporaryFile file;
+    QVERIFY(file.open());
+    const int standardError = dup(STDERR_FILENO);
+    qputenv("PDEKIT_LOG_STDERR", "1");
+    dup2(file.handle(), STDERR_FILENO);
+    pdekit::systemLog(text("50 % of %s"));
+    pdekit::systemLog(text("fed\n"));
+    pdekit::systemLog(text("\033]0;title\a\tand\nmore"));
+    dup2(standardError, STDERR_FILENO);
+    close(standardError);
+    // Escape sequences of a terminal do not get there.
+    QCOMPARE(file.readAll(), QByteArray("50 % of %s\nfed\n?]0;title?\tand\nmore\n"));
 }
 
 void KitTest::forms()

@@ -24,6 +24,7 @@ private Q_SLOTS:
     void bundleFiles();
     void languages();
     void signalLog();
+    void systemLogOnStandardError();
     void forms();
     void sliderValues_data();
     void sliderValues();
