@@ -706,6 +706,10 @@ Beispiele:
         <source>%1 See corvel-print --help.</source>
         <translation>%1 Siehe corvel-print --help.</translation>
     </message>
+    <message>
+        <source>There is no display to open a window on. Start it in a desktop session, or print without a window (--batch).</source>
+        <translation>Es gibt keine Anzeige, auf der ein Fenster geöffnet werden könnte. Starten Sie das Programm in einer Arbeitsumgebung oder drucken Sie ohne Fenster (--batch).</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::MessageBar</name>

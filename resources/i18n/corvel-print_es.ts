@@ -706,6 +706,10 @@ Ejemplos:
         <source>%1 See corvel-print --help.</source>
         <translation>%1 Consulte corvel-print --help.</translation>
     </message>
+    <message>
+        <source>There is no display to open a window on. Start it in a desktop session, or print without a window (--batch).</source>
+        <translation>No hay ninguna pantalla en la que abrir una ventana. Inicie el programa en una sesión de escritorio o imprima sin ventana (--batch).</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::MessageBar</name>

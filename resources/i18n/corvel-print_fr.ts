@@ -706,6 +706,10 @@ Exemples&#x202f;:
         <source>%1 See corvel-print --help.</source>
         <translation>%1 Voir corvel-print --help.</translation>
     </message>
+    <message>
+        <source>There is no display to open a window on. Start it in a desktop session, or print without a window (--batch).</source>
+        <translation>Il n’y a pas d’affichage sur lequel ouvrir une fenêtre. Lancez le programme dans une session de bureau ou imprimez sans fenêtre (--batch).</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::MessageBar</name>

@@ -706,6 +706,10 @@ Examples:
         <source>%1 See corvel-print --help.</source>
         <translation>%1 corvel-print --help をご覧ください。</translation>
     </message>
+    <message>
+        <source>There is no display to open a window on. Start it in a desktop session, or print without a window (--batch).</source>
+        <translation>ウィンドウを開くディスプレイがありません。デスクトップセッションで起動するか、ウィンドウなしで印刷してください (--batch)。</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::MessageBar</name>
