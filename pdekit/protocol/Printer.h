@@ -4,6 +4,7 @@
 #pragma once
 
 #include <QtCore/QByteArray>
+#include <QtCore/QRegularExpression>
 #include <QtCore/QString>
 #include <QtCore/QUrl>
 
@@ -31,10 +32,13 @@ struct URLReference
     QString text;
     std::optional<QString> base; ///< of a relative reference
 
-    /// The URL made absolute where it has a base, and as it is otherwise.
+    /// The URL made absolute where it is relative to a base, and as it is otherwise.
     QString absolute() const
     {
-        return base ? QUrl(*base).resolved(QUrl(text)).toString(QUrl::FullyEncoded) : text;
+        static const QRegularExpression scheme(QStringLiteral("^[A-Za-z][A-Za-z0-9+.-]*:")); // RFC 3986, 3.1
+        if (!base || text.contains(scheme))
+            return text;
+        return QUrl(*base).resolved(QUrl(text)).toString(QUrl::FullyEncoded);
     }
 };
 

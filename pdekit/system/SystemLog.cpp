@@ -25,6 +25,16 @@ bool echoesToStandardError()
     return echoes;
 }
 
+/// A line may quote a file or a command line: what would steer a terminal is shown as "?".
+QString withoutTerminalControls(QString line)
+{
+    for (QChar &character : line) {
+        if (character.category() == QChar::Other_Control && character != u'\n' && character != u'\t')
+            character = u'?';
+    }
+    return line;
+}
+
 } // namespace
 
 void systemLog(const QString &line)
@@ -33,10 +43,11 @@ void systemLog(const QString &line)
         sink(line);
         return;
     }
-    const QByteArray utf8 = line.toUtf8();
-    syslog(LOG_USER | LOG_NOTICE, "%s", utf8.constData());
-    if (echoesToStandardError())
-        std::fprintf(stderr, utf8.endsWith('\n') ? "%s" : "%s\n", utf8.constData());
+    syslog(LOG_USER | LOG_NOTICE, "%s", line.toUtf8().constData());
+    if (!echoesToStandardError())
+        return;
+    const QByteArray shown = withoutTerminalControls(line).toUtf8();
+    std::fprintf(stderr, shown.endsWith('\n') ? "%s" : "%s\n", shown.constData());
 }
 
 LogSink setSystemLogSink(LogSink sink)

@@ -229,6 +229,7 @@ void KitTest::systemLogOnStandardError()
     pdekit::systemLog(text("\033]0;title\a\tand\nmore"));
     dup2(standardError, STDERR_FILENO);
     close(standardError);
+    QVERIFY(file.seek(0));
     // Escape sequences of a terminal do not get there.
     QCOMPARE(file.readAll(), QByteArray("50 % of %s\nfed\n?]0;title?\tand\nmore\n"));
 }
