@@ -38,7 +38,7 @@ std::optional<pdekit::URLReference> SessionPrinter::PMPrinterCopyDeviceURI()
 {
     if (printer_.deviceUri.isEmpty())
         return std::nullopt;
-    return pdekit::URLReference{QUrl(printer_.deviceUri), std::nullopt};
+    return pdekit::URLReference(printer_.deviceUri);
 }
 
 } // namespace printdialog
