@@ -10,6 +10,7 @@
 #include "RadioMatrix.h"
 #include "SystemLog.h"
 #include "ViewTags.h"
+#include "ViewTexts.h"
 
 #include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QWidget>
@@ -140,7 +141,7 @@ void RKTPPRBasePDEcorvel::rejectChoiceForPPDOptionKeyFromSender(const Text & /*c
 void RKTPPRBasePDEcorvel::setToolTipFromSender(const QString &toolTip, QWidget *sender)
 {
     if (sender)
-        sender->setToolTip(toolTip);
+        pdekit::setPlainToolTip(sender, toolTip);
 }
 
 // What is recorded, and what is marked

@@ -6,6 +6,7 @@
 #include "RKTPPRBasePDEcorvel.h"
 #include "RadioMatrix.h"
 #include "ViewTags.h"
+#include "ViewTexts.h"
 
 #include <QtWidgets/QWidget>
 
@@ -65,10 +66,10 @@ void RKTPPRBasePDEcorvel::updateControlWithValue(QWidget *control, const Text &v
         return;
     }
     pdekit::setStringValue(control, *value);
-    control->setToolTip(*value);
+    pdekit::setPlainToolTip(control, *value);
     if (QWidget *partner = siblingWithTag(control, tag ^ partnerBits)) {
         pdekit::setStringValue(partner, *value);
-        partner->setToolTip(*value);
+        pdekit::setPlainToolTip(partner, *value);
     }
 }
 

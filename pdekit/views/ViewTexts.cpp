@@ -5,6 +5,7 @@
 
 #include "ControlValues.h"
 
+#include <QtGui/QTextDocument>
 #include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QGroupBox>
 
@@ -30,6 +31,12 @@ bool setTitle(QWidget *view, const QString &title)
         return true;
     }
     return false;
+}
+
+void setPlainToolTip(QWidget *view, const QString &text)
+{
+    view->setToolTip(Qt::mightBeRichText(text) ? QStringLiteral("<p>%1</p>").arg(text.toHtmlEscaped())
+                                               : text);
 }
 
 bool sizeToFit(QWidget *view)

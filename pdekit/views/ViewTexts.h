@@ -17,6 +17,10 @@ namespace pdekit {
 PDEKIT_EXPORT std::optional<QString> title(const QWidget *view);
 PDEKIT_EXPORT bool setTitle(QWidget *view, const QString &title);
 
+/// Makes `text` the tool tip, shown as it is: a tool tip that looks like markup is otherwise taken for
+/// markup. For texts from outside, such as a PPD's keywords.
+PDEKIT_EXPORT void setPlainToolTip(QWidget *view, const QString &text);
+
 /// Gives a control its preferred size; false for a view that is no control.
 PDEKIT_EXPORT bool sizeToFit(QWidget *view);
 

@@ -62,6 +62,12 @@ void PanelActionsTest::typing()
         QCOMPARE(field->toolTip(), recorded);
         QCOMPARE(dialog.slider(1)->toolTip(), recorded);
     }
+    // A number that is as the panel writes it is left under the user's cursor.
+    dialog.type(81, QStringLiteral("15"));
+    QTest::keyClick(field, Qt::Key_Home);
+    QTest::keyClick(field, Qt::Key_Minus);
+    QCOMPARE(field->text(), QStringLiteral("-15"));
+    QCOMPARE(field->cursorPosition(), 1);
     // Emptied, the field is 0 at once.
     dialog.type(81, QString());
     QTest::keyClick(field, Qt::Key_Delete);

@@ -15,10 +15,10 @@
 pdekit::Status FakeTicket::PMTicketGetPPDDict(int firstNode, int secondNode,
                                               pdekit::PPDDictionary **dictionary)
 {
-    if (status != pdekit::noErr || firstNode != 0 || secondNode != 0)
-        return status != pdekit::noErr ? status : -50;
-    *dictionary = hasDictionary ? &options : nullptr;
-    return pdekit::noErr;
+    if (firstNode != 0 || secondNode != 0)
+        return -50;
+    *dictionary = hasDictionary ? &options : nullptr; // even when the status is an error
+    return status;
 }
 
 pdekit::Status FakeSession::GetPPDRefFromSession(ppd_file_s **place)

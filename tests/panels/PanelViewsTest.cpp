@@ -7,6 +7,7 @@
 #include "RadioMatrix.h"
 
 #include <QtCore/QLocale>
+#include <QtGui/QTextDocumentFragment>
 #include <QtTest/QTest>
 #include <QtWidgets/QCheckBox>
 #include <QtWidgets/QGroupBox>
@@ -226,6 +227,15 @@ void PanelViewsTest::toolTips()
     view.setToolTip(QStringLiteral("Red"));
     QVERIFY(!panel->localizeStringsInViewAndSubviewsResizeTofit(&view, true, true)); // no change of the text
     QCOMPARE(view.toolTip(), QStringLiteral("Rot"));
+
+    // A choice is not markup, even if it looks so.
+    const QString choice = text("<b><img src=/dev/zero>&amp;");
+    QLineEdit field;
+    panel->updateControlWithValue(&field, choice);
+    QCOMPARE(field.text(), choice);
+    QCOMPARE(QTextDocumentFragment::fromHtml(field.toolTip()).toPlainText(), choice);
+    panel->setToolTipFromSender(text("1<2"), &field);
+    QCOMPARE(field.toolTip(), text("1<2"));
 
     // In the test's own table "first" is "second", and "second" is "third": nothing is looked up twice.
     QLocale::setDefault(QLocale(QLocale::Swedish));
