@@ -11,6 +11,7 @@
 #include <QtCore/QJsonObject>
 
 #include <cerrno>
+#include <csignal>
 #include <cstddef>
 #include <fcntl.h>
 #include <unistd.h>
@@ -56,8 +57,9 @@ QString escaped(const QString &json)
 
 } // namespace
 
-void Console::holdStandardStreams()
+void Console::prepareStreams()
 {
+    std::signal(SIGPIPE, SIG_IGN);
     for (const int descriptor : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
         if (fcntl(descriptor, F_GETFD) == -1 && errno == EBADF) {
             // The lowest free number is this one. Open for reading, so that writing to it stays an error.

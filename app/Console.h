@@ -17,9 +17,10 @@ class Console
     Q_DECLARE_TR_FUNCTIONS(Console)
 
 public:
-    /// Makes sure that the three standard streams are taken: otherwise the next file opened would get the
-    /// number of a closed one, and with it the program's output. To be called before any file is opened.
-    static void holdStandardStreams();
+    /// Makes an error of what would otherwise do harm: of a reader that has gone, whose signal ends a
+    /// program, and of a closed standard stream, whose number, and with it the program's output, the next
+    /// file opened would get. To be called before any file is opened.
+    static void prepareStreams();
 
     /// Writes a line to standard output at once.
     void writeLine(const QString &text) { writeLines({text}); }

@@ -14,7 +14,6 @@
 #include <QtCore/QTranslator>
 #include <QtWidgets/QApplication>
 
-#include <csignal>
 #include <unistd.h>
 
 using namespace printdialog;
@@ -105,8 +104,6 @@ int failWithoutDisplay(int &argc, char **argv)
 
 int runWithoutWindow(const CommandLine &commandLine)
 {
-    // A reader of the output that has gone is an error like any other, not the end of the program.
-    std::signal(SIGPIPE, SIG_IGN);
     pdekit::Feedback::install(std::make_shared<QuietFeedback>());
     Console console;
     const int status = commandLine.batch          ? BatchRun(commandLine, console).run()
@@ -120,7 +117,7 @@ int runWithoutWindow(const CommandLine &commandLine)
 
 int main(int argc, char *argv[])
 {
-    Console::holdStandardStreams();
+    Console::prepareStreams();
     QStringList arguments;
     for (int i = 0; i < argc; ++i)
         arguments.append(QString::fromLocal8Bit(argv[i]));

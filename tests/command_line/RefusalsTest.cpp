@@ -45,6 +45,8 @@ private Q_SLOTS:
     void noDisplay();
     void place_data();
     void place();
+    void picture_data();
+    void picture();
 };
 
 void RefusalsTest::verifyRefusal(const ProgramRun &run, int status, const QStringList &words) const
@@ -229,6 +231,8 @@ void RefusalsTest::place_data()
     QTest::newRow("output is a file") << QStringList{u"--output"_s, samplePhoto} << u"sample.jpg"_s;
     QTest::newRow("output cannot be made")
         << QStringList{u"--output"_s, u"/proc/prints"_s} << u"/proc/prints"_s;
+    QTest::newRow("photo named like an option of Qt")
+        << QStringList{u"--"_s, u"-platform"_s, u"x"_s} << u"no photo \"-platform\""_s;
     QTest::newRow("unknown queue") << QStringList{u"--printer"_s, u"no\x1bwhere"_s} << u"\"nowhere\""_s;
 }
 
@@ -238,6 +242,24 @@ void RefusalsTest::place()
     QFETCH(QString, word);
     verifyRefusal(runProgram(QStringList{u"--batch"_s, samplePhoto} + arguments, {}, folder_->path()), 1,
                   {word});
+}
+
+void RefusalsTest::picture_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QString>("word");
+    QTest::newRow("photo") << QStringList{u"gone.jpg"_s} << u"gone.jpg"_s;
+    QTest::newRow("choice") << QStringList{u"-o"_s, u"Red=99"_s} << u"\"Red\""_s;
+    QTest::newRow("PPD") << QStringList{u"--ppd"_s, samplePhoto} << u"sample.jpg"_s;
+    QTest::newRow("queue") << QStringList{u"--printer"_s, u"nowhere"_s} << u"\"nowhere\""_s;
+    QTest::newRow("folder") << QStringList{u"--screenshot"_s, u"/proc/pictures"_s} << u"/proc/pictures"_s;
+}
+
+void RefusalsTest::picture()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(QString, word);
+    verifyRefusal(runProgram(QStringList{u"--screenshot"_s, pathOf(u"out"_s)} + arguments), 1, {word});
 }
 
 QTEST_GUILESS_MAIN(RefusalsTest)
