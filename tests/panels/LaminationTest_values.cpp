@@ -141,7 +141,7 @@ void LaminationTest::boundValueIsRefused()
         const QList<QAbstractButton *> buttons = box->buttons();
         for (const QAbstractButton *button : buttons)
             shown << button->text();
-        std::ignore = QTest::qWaitForWindowActive(box);
+        std::ignore = QTest::qWaitFor([box] { return box->isActiveWindow() && box->focusWidget(); });
         QTest::keyClick(box->windowHandle(), Qt::Key(key));
         wasDismissed = !box->isVisible();
         box->reject(); // lest the test hang

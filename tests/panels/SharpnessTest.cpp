@@ -6,6 +6,7 @@
 
 #include <QtGui/QClipboard>
 #include <QtGui/QGuiApplication>
+#include <QtTest/QSignalSpy>
 #include <QtTest/QTest>
 #include <QtWidgets/QCheckBox>
 
@@ -147,9 +148,11 @@ void SharpnessTest::endOfEditing()
         panel->events.clear();
         if (dialog.constraints)
             dialog.constraints->offers.clear();
+        const QSignalSpy texts(field, &QLineEdit::textChanged);
         QTest::keyClick(field, key);
         QCOMPARE(panel->events, QStringList(text("end")) + QStringList(changes, text("change")));
         QCOMPARE(field->text(), shown);
+        QCOMPARE(texts.first().first().toString(), typed == text("-") ? text("0") : shown);
         QCOMPARE(panel->recorded(text(intensity)), shown);
         QCOMPARE(dialog.slider(2)->value(), qRound(shown.toDouble() * 100));
         if (dialog.constraints)
@@ -216,8 +219,10 @@ void SharpnessTest::radius()
     QCOMPARE(panel->recorded(text("SharpnessRadius")), text("3"));
     QCOMPARE(dialog.field(81)->text(), text("3"));
     dialog.type(81, text("2"));
+    panel->events.clear();
     QTest::keyClick(dialog.field(81), Qt::Key_Return);
-    QCOMPARE(dialog.field(81)->text(), text("2")); // not reformatted
+    QCOMPARE(dialog.field(81)->text(), text("2")); // not reformatted, so not offered again
+    QCOMPARE(panel->events, QStringList({text("end"), text("change")}));
     QGuiApplication::clipboard()->setText(text("3.7"));
     dialog.type(81, QString());
     QTest::keySequence(dialog.field(81), QKeySequence::Paste);
