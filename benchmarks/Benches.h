@@ -13,5 +13,8 @@ int runOpeningChild(const QString &which);
 /// A keystroke, and restoring with the summary, with PPDs of different sizes.
 void benchPanels();
 
+/// Launching the backend, beside a bare posix_spawn of the same.
+void benchRunner();
+
 /// A 24-megapixel JPEG to PDF.
 void benchPdf();

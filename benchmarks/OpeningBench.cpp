@@ -5,8 +5,10 @@
 #include "Benches.h"
 #include "PrintDialog.h"
 
+#include <QtCore/QDirIterator>
 #include <QtCore/QFile>
 #include <QtCore/QProcess>
+#include <QtCore/QTemporaryDir>
 #include <QtCore/QTimer>
 #include <QtPrintSupport/QPrintDialog>
 #include <QtPrintSupport/QPrinter>
@@ -103,10 +105,32 @@ int openQts()
     return dialog.exec();
 }
 
+/// A copy of the built bundle in which two of the three panels have no form, and so no view.
+bool copyWithOneForm(const QString &folder)
+{
+    const QString source = QStringLiteral(CORVEL_PDE_BUILD_DIR);
+    QDirIterator files(source, QDir::Files, QDirIterator::Subdirectories);
+    while (files.hasNext()) {
+        const QFileInfo file(files.next());
+        if (file.fileName() == QLatin1String("corvelSharpness.ui") ||
+            file.fileName() == QLatin1String("corvelMatte.ui"))
+            continue;
+        const QString copy = folder + file.filePath().mid(source.size());
+        if (!QDir().mkpath(QFileInfo(copy).path()) || !QFile::copy(file.filePath(), copy))
+            return false;
+    }
+    return true;
+}
+
 /// Milliseconds from before the process is made to its first paint; 0 when it failed.
-double opening(const QString &which)
+double opening(const QString &which, const QString &bundles = {})
 {
     QProcess child;
+    if (!bundles.isEmpty()) {
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(QStringLiteral("CORVEL_PDE_PATH"), bundles);
+        child.setProcessEnvironment(environment);
+    }
     const double begin = monotonicMilliseconds();
     child.start(QApplication::applicationFilePath(), {QStringLiteral("--child"), which});
     child.waitForFinished();
@@ -133,11 +157,16 @@ void benchOpening()
 #endif
     std::vector<double> ours;
     std::vector<double> qts;
+    std::vector<double> alone;
+    const QTemporaryDir bundles;
+    const bool hasBundle = copyWithOneForm(bundles.path());
     for (int run = 0; run < 12; ++run) {
         const double own = opening(QStringLiteral("ours"));
         const double qt = hasPeer ? opening(QStringLiteral("qt")) : 0.0;
+        const double one = hasBundle ? opening(QStringLiteral("ours"), bundles.path()) : 0.0;
         if (run == 0)
             continue; // to warm up
+        alone.push_back(one);
         ours.push_back(own);
         qts.push_back(qt);
     }
@@ -150,4 +179,9 @@ void benchOpening()
         row.what += QStringLiteral(" (no peer: no cupsd)");
     }
     printRow(row);
+    printRow({QStringLiteral("the same (peer: without the forms of two of the panels)"),
+              median(ours),
+              median(alone),
+              1.3,
+              {}});
 }

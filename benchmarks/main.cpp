@@ -20,6 +20,7 @@ int main(int argc, char *argv[])
     printHeader();
     benchOpening();
     benchPanels();
+    benchRunner();
     benchPdf();
     return 0;
 }
