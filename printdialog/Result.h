@@ -15,7 +15,8 @@ template <class Reason>
 struct Failure
 {
     Reason reason;
-    QString text;   ///< One sentence or two for people: the thing by its name, the reason, the remedy. Plain text.
+    QString
+        text; ///< One sentence or two for people: the thing by its name, the reason, the remedy. Plain text.
     QString detail; ///< For the log, untranslated; may be empty.
 };
 
