@@ -6,7 +6,7 @@
 corvel_build_packages=(
     cmake ninja-build g++ pkg-config python3
     qt6-base-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools qt6-translations-l10n
-    libqt6opengl6-dev libgl-dev libopengl-dev libvulkan-dev
+    qt6-base-private-dev libqt6opengl6-dev libgl-dev libopengl-dev libvulkan-dev
     libcups2-dev libcairo2-dev libglib2.0-dev fonts-dejavu-core
 )
 corvel_test_packages=(cups cups-client cups-filters poppler-utils)

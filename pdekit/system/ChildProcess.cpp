@@ -8,6 +8,7 @@
 #include <QtCore/QCoreApplication>
 #include <QtCore/QFile>
 #include <QtCore/QSocketNotifier>
+#include <QtCore/QTimer>
 
 #include <algorithm>
 #include <cerrno>
@@ -24,6 +25,7 @@ namespace pdekit {
 namespace {
 
 constexpr std::chrono::milliseconds destructorPatience(500);
+constexpr std::chrono::milliseconds endPollInterval(50);
 
 /// Owner of what posix_spawn(3) takes.
 class SpawnSettings
@@ -110,17 +112,28 @@ void ChildProcess::launch()
 
 void ChildProcess::watchForEnd()
 {
-    // Without one (an old kernel, or no descriptor left) the child is reaped when it is asked for. The call
-    // goes by its number, since the C library declares the call without C linkage.
+    if (!QCoreApplication::instance())
+        return; // the child is reaped when it is asked for
+    // By its number, since the C library declares the call without C linkage.
     pidDescriptor_ = FileDescriptor(static_cast<int>(syscall(SYS_pidfd_open, pid_, 0)));
-    if (!pidDescriptor_.isOpen() || !QCoreApplication::instance())
+    if (pidDescriptor_.isOpen()) {
+        auto notifier = std::make_unique<QSocketNotifier>(pidDescriptor_.number(), QSocketNotifier::Read);
+        QObject::connect(notifier.get(), &QSocketNotifier::activated, notifier.get(), [this] { noteEnd(); });
+        endWatcher_ = std::move(notifier);
         return;
-    endNotifier_ = std::make_unique<QSocketNotifier>(pidDescriptor_.number(), QSocketNotifier::Read);
-    QObject::connect(endNotifier_.get(), &QSocketNotifier::activated, endNotifier_.get(), [this] {
-        if (isRunning() || !isLeftToItself_)
-            return;
-        std::erase_if(leftToThemselves(), [this](const auto &child) { return child.get() == this; });
-    });
+    }
+    // No descriptor left, or a kernel or sandbox that knows no such call.
+    auto timer = std::make_unique<QTimer>();
+    QObject::connect(timer.get(), &QTimer::timeout, timer.get(), [this] { noteEnd(); });
+    timer->start(endPollInterval);
+    endWatcher_ = std::move(timer);
+}
+
+void ChildProcess::noteEnd()
+{
+    if (isRunning() || !isLeftToItself_)
+        return;
+    std::erase_if(leftToThemselves(), [this](const auto &child) { return child.get() == this; });
 }
 
 bool ChildProcess::isRunning()
@@ -132,12 +145,7 @@ bool ChildProcess::isRunning()
     if (ended == 0)
         return true;
     pid_ = -1;
-    if (endNotifier_) {
-        // It may be the one that is just telling us.
-        endNotifier_->setEnabled(false);
-        endNotifier_.release()->deleteLater();
-    }
-    pidDescriptor_.close();
+    stopWatching();
     return false;
 }
 
@@ -162,7 +170,18 @@ void ChildProcess::takeDown(std::chrono::milliseconds patience)
     while (waitpid(pid_, &status, 0) < 0 && errno == EINTR) {
     }
     pid_ = -1;
-    endNotifier_.reset();
+    stopWatching();
+}
+
+// The watcher may be the one that is just telling us.
+void ChildProcess::stopWatching()
+{
+    if (auto *notifier = qobject_cast<QSocketNotifier *>(endWatcher_.get()))
+        notifier->setEnabled(false);
+    if (endWatcher_) {
+        endWatcher_->disconnect();
+        endWatcher_.release()->deleteLater();
+    }
     pidDescriptor_.close();
 }
 

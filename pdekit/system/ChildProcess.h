@@ -13,7 +13,7 @@
 #include <memory>
 #include <sys/types.h>
 
-class QSocketNotifier;
+class QObject;
 
 namespace pdekit {
 
@@ -49,6 +49,8 @@ public:
 
 private:
     void watchForEnd();
+    void stopWatching();
+    void noteEnd();
 
     QString path_;
     QStringList arguments_;
@@ -56,8 +58,8 @@ private:
     FileDescriptor standardOutput_;
     FileDescriptor standardError_;
     FileDescriptor pidDescriptor_;
-    std::unique_ptr<QSocketNotifier> endNotifier_;
-    pid_t pid_ = -1; ///< of the child until it is reaped
+    std::unique_ptr<QObject> endWatcher_; ///< tells the event loop that the child has ended
+    pid_t pid_ = -1;                      ///< of the child until it is reaped
     bool isLeftToItself_ = false;
 };
 

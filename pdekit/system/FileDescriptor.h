@@ -54,13 +54,21 @@ struct Pipe
     FileDescriptor reading;
     FileDescriptor writing;
 
-    /// Nothing when the system has none to give.
+    /// Neither end is one of the three standard descriptors, even in a process that runs without them: there
+    /// a child's descriptors would overwrite each other. Nothing when the system has none to give.
     static std::optional<Pipe> make()
     {
         int ends[2] = {-1, -1};
         if (pipe2(ends, O_CLOEXEC) != 0)
             return std::nullopt;
-        return Pipe{FileDescriptor(ends[0]), FileDescriptor(ends[1])};
+        Pipe pipe{FileDescriptor(ends[0]), FileDescriptor(ends[1])};
+        for (FileDescriptor *end : {&pipe.reading, &pipe.writing}) {
+            if (end->number() <= STDERR_FILENO)
+                *end = FileDescriptor(fcntl(end->number(), F_DUPFD_CLOEXEC, STDERR_FILENO + 1));
+            if (!end->isOpen())
+                return std::nullopt;
+        }
+        return pipe;
     }
 };
 

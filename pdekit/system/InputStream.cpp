@@ -25,8 +25,10 @@ bool InputStream::open()
 {
     descriptor_ =
         FileDescriptor(::open(QFile::encodeName(path_).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
-    if (!descriptor_.isOpen())
+    if (!descriptor_.isOpen()) {
+        tellFailureSoon();
         return false;
+    }
     notifier_ = new QSocketNotifier(descriptor_.number(), QSocketNotifier::Read, this);
     connect(notifier_, &QSocketNotifier::activated, this, &InputStream::tellWhatIsThere);
     return true;
@@ -63,10 +65,20 @@ void InputStream::tellWhatIsThere()
     // The end would be told for ever.
     if (!hasBytes)
         notifier_->setEnabled(false);
+    if (!hasBytes && !hasEnded) {
+        tellFailureSoon();
+        return;
+    }
     // Whoever hears this may delete the stream: nothing of it is touched afterwards.
-    Q_EMIT handleEvent(hasBytes   ? StreamEventHasBytesAvailable
-                       : hasEnded ? StreamEventEndEncountered
-                                  : StreamEventErrorOccurred);
+    Q_EMIT handleEvent(hasBytes ? StreamEventHasBytesAvailable : StreamEventEndEncountered);
+}
+
+// Each from the event loop: whoever hears of the error may wait there for the end.
+void InputStream::tellFailureSoon()
+{
+    for (const StreamEvent event : {StreamEventErrorOccurred, StreamEventEndEncountered})
+        QMetaObject::invokeMethod(
+            this, [this, event] { Q_EMIT handleEvent(event); }, Qt::QueuedConnection);
 }
 
 } // namespace pdekit

@@ -32,7 +32,8 @@ public:
     explicit InputStream(const QString &path);
     ~InputStream() override;
 
-    /// Opens the path and schedules the stream on this thread's event loop. False: it cannot be opened.
+    /// Opens the path and schedules the stream on this thread's event loop. False: it cannot be opened. A
+    /// stream that fails, here or later, tells an error and then its end, so that nobody waits for it.
     bool open();
     /// No event comes any more.
     void close();
@@ -45,6 +46,7 @@ Q_SIGNALS:
 
 private:
     void tellWhatIsThere();
+    void tellFailureSoon();
 
     QString path_;
     FileDescriptor descriptor_;

@@ -1,130 +1,13 @@
 // SPDX-FileCopyrightText: Corvel print dialog authors
 // SPDX-License-Identifier: Apache-2.0
 
-#include "PanelHarness.h"
+#include "RunnerTest.h"
+
+#include "BackendRun.h"
 #include "PlatformException.h"
 #include "SignalLog.h"
-#include "SystemLog.h"
-#include "veltaTaskContext.h"
 
-#include <QtCore/QDir>
-#include <QtCore/QElapsedTimer>
-#include <QtCore/QFile>
-#include <QtCore/QPointer>
-#include <QtCore/QTemporaryDir>
-#include <QtCore/QTimer>
 #include <QtTest/QTest>
-
-#include <csignal>
-#include <sys/wait.h>
-
-namespace {
-
-class RunnerPanel : public RKTPPRBasePDEcorvel
-{
-public:
-    using RKTPPRBasePDEcorvel::pdeBundle_;
-    using RKTPPRBasePDEcorvel::streamERR_;
-    using RKTPPRBasePDEcorvel::streamIN_;
-    using RKTPPRBasePDEcorvel::task_;
-    using RKTPPRBasePDEcorvel::waitForCommandCompletion_;
-};
-
-qsizetype openDescriptors()
-{
-    return QDir(text("/proc/self/fd"))
-        .entryList(QDir::NoDotAndDotDot | QDir::AllEntries | QDir::System)
-        .size();
-}
-
-bool hasChildren()
-{
-    siginfo_t info = {};
-    return waitid(P_ALL, 0, &info, WEXITED | WNOHANG | WNOWAIT) == 0;
-}
-
-/// A panel in a bundle of its own, whose backend behaves as told.
-class Run
-{
-public:
-    explicit Run(const char *behaviour, const QString &bundleName = text("Own.bundle"))
-        : dialog(Mode::Constraint)
-        , bundlePath(folder.filePath(text("PDEs/") + bundleName))
-    {
-        qputenv("VELTA_BEHAVIOUR", behaviour);
-        qputenv("VELTA_INPUT", folder.filePath(text("input")).toLocal8Bit());
-        QDir().mkpath(bundlePath + text("/Contents/Linux"));
-        QFile info(bundlePath + text("/Contents/Info.json"));
-        if (info.open(QIODevice::WriteOnly))
-            info.write(R"({"CFBundleIdentifier": "a.b", "CFBundleExecutable": "none"})");
-        info.close();
-        panel = RKTPPRBasePDEcorvel::make<RunnerPanel>(dialog.callback);
-        panel->pdeBundle_ = pdekit::Bundle::open(bundlePath);
-        initializeVeltaContext(&context);
-        dialog.log.clear();
-    }
-
-    void install(const QString &path)
-    {
-        QDir().mkpath(QFileInfo(path).path());
-        QFile::copy(QStringLiteral(VELTA_PROGRAM), path);
-    }
-    void installInBundle() { install(bundlePath + text("/Contents/Linux/velta")); }
-    QString inBundle() const { return bundlePath + text("/Contents/Linux/velta"); }
-
-    void command(const QByteArray &bytes)
-    {
-        std::copy(bytes.begin(), bytes.end(), context.command);
-        context.commandLength = static_cast<std::uint8_t>(bytes.size());
-    }
-    int start() { return panel->performUtilityTaskWithVeltaTaskContext(&context); }
-    bool isIdle() const { return !panel->streamIN_ && !panel->streamERR_; }
-    QByteArray input() const
-    {
-        QFile file(folder.filePath(text("input")));
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
-    /// The log of a launch, without the lines that come after it.
-    QStringList launchLines(int commandLength = 0) const
-    {
-        QStringList lines = {text("inside performUtilityTaskWithVeltaTaskContext"),
-                             text("Inside performTaskwithVeltaWithArgs..."),
-                             text("Found Executable at %1\n").arg(inBundle())};
-        if (commandLength > 0)
-            lines << text("writing %1 bytes to the velta backend.\n").arg(commandLength);
-        return lines;
-    }
-
-    QTemporaryDir folder;
-    PanelHarness dialog;
-    QString bundlePath;
-    std::unique_ptr<RunnerPanel> panel;
-    veltaTaskContext_s context = {};
-};
-
-} // namespace
-
-class RunnerTest : public QObject
-{
-    Q_OBJECT
-
-private Q_SLOTS:
-    void record();
-    void runs_data();
-    void runs();
-    void everyByteArrives();
-    void offlineStopsTheBackend_data();
-    void offlineStopsTheBackend();
-    void closedInputRaisesNothing();
-    void backendIsLookedFor_data();
-    void backendIsLookedFor();
-    void refusals();
-    void silenceAfterOneLine();
-    void floods_data();
-    void floods();
-    void destroyedWhileRunning();
-    void launchFails();
-};
 
 void RunnerTest::record()
 {
@@ -165,7 +48,10 @@ void RunnerTest::runs_data()
     QTest::newRow("offline in lower case") << false << QStringList{text("state: +offline-error\n")};
     QTest::newRow("offline in two pieces")
         << false << QStringList({text("STATE: +off"), text("line-error\n")});
+    QTest::newRow("does not read") << true << QStringList();
     QTest::newRow("closes standard output first") << false << QStringList{text("INFO: late\n")};
+    QTest::newRow("closes standard error first") << false << QStringList();
+    QTest::newRow("tells its input") << false << QStringList{QFile::symLinkTarget(text("/proc/self/fd/0"))};
     QTest::newRow("floods standard output") << false << QStringList();
 }
 
@@ -174,7 +60,7 @@ void RunnerTest::runs()
 {
     QFETCH(bool, hasCommand);
     QFETCH(QStringList, errors);
-    Run run(QTest::currentDataTag());
+    BackendRun run(QTest::currentDataTag());
     run.installInBundle();
     run.dialog.printer.deviceUri = pdekit::URLReference(text("usb://Own/1"));
     pdekit::prepareSignalLog();
@@ -185,7 +71,7 @@ void RunnerTest::runs()
     QVERIFY(run.panel->waitForCommandCompletion_);
     QVERIFY(run.panel->streamIN_ && run.panel->streamERR_ && run.panel->task_);
     QTRY_VERIFY_WITH_TIMEOUT(run.isIdle(), 10000);
-    QVERIFY(!run.panel->waitForCommandCompletion_);
+    QVERIFY(!run.panel->waitForCommandCompletion_ && run.panel->task_);
     QStringList lines = run.launchLines(hasCommand ? 6 : 0);
     for (const QString &error : errors)
         lines << text("backend err = ") + error;
@@ -193,12 +79,37 @@ void RunnerTest::runs()
     QTRY_VERIFY(!hasChildren());
     QCOMPARE(openDescriptors(), descriptors);
     if (hasCommand)
-        QCOMPARE(run.input(), QByteArray("print\n"));
+        QCOMPARE(run.input(), qstrcmp(QTest::currentDataTag(), "does not read") == 0 ? "" : "print\n");
+}
+
+// One stream has ended, the other not: the panel is busy, but no longer waits.
+void RunnerTest::drains()
+{
+    BackendRun run("closes standard error first");
+    run.installInBundle();
+    QCOMPARE(run.start(), 0);
+    QTRY_VERIFY(!run.panel->streamERR_);
+    QVERIFY(run.panel->streamIN_ && !run.panel->waitForCommandCompletion_);
+    QCOMPARE(run.start(), -1);
+    QVERIFY(!run.panel->waitForCommandCompletion_);
+    QTRY_VERIFY(run.isIdle());
+}
+
+// Nothing is written to a backend that has ended within the pause.
+void RunnerTest::endsWithinThePause()
+{
+    BackendRun run("ends at once");
+    run.installInBundle();
+    run.command("print\n");
+    const qsizetype descriptors = openDescriptors();
+    QVERIFY(run.logsOnceInTime(run.launchLines()));
+    QTRY_COMPARE(openDescriptors(), descriptors);
+    QVERIFY(!hasChildren());
 }
 
 void RunnerTest::everyByteArrives()
 {
-    Run run("reads");
+    BackendRun run("reads");
     run.installInBundle();
     QByteArray bytes;
     for (int i = 255; i > 0; --i)
@@ -220,7 +131,7 @@ void RunnerTest::offlineStopsTheBackend_data()
 
 void RunnerTest::offlineStopsTheBackend()
 {
-    Run run(QTest::currentDataTag());
+    BackendRun run(QTest::currentDataTag());
     run.installInBundle();
     QCOMPARE(run.start(), 0);
     QTRY_VERIFY(run.isIdle());
@@ -229,16 +140,14 @@ void RunnerTest::offlineStopsTheBackend()
     QTRY_VERIFY(!hasChildren());
 }
 
+// The write fails: the signal is logged, the exception dropped.
 void RunnerTest::closedInputRaisesNothing()
 {
-    Run run("closes its input");
+    BackendRun run("closes its input");
     run.installInBundle();
     run.command("print\n");
-    QCOMPARE(run.start(), 0);
-    QTRY_VERIFY(run.isIdle());
-    QStringList lines = run.launchLines(6);
-    lines << text("caught a signal 13\n");
-    QTRY_COMPARE(run.dialog.log, lines);
+    const QStringList lines = run.launchLines(6) << text("caught a signal 13\n");
+    QVERIFY(run.logsOnceInTime(lines));
 }
 
 void RunnerTest::backendIsLookedFor_data()
@@ -258,7 +167,7 @@ void RunnerTest::backendIsLookedFor()
     QFETCH(QString, bundle);
     QFETCH(QString, backend);
     QFETCH(bool, isFound);
-    Run run("descriptors", bundle);
+    BackendRun run("descriptors", bundle);
     const QString path = run.folder.filePath(backend.isEmpty() ? text("cups/backend/velta") : backend);
     if (isFound)
         run.install(path);
@@ -276,7 +185,7 @@ void RunnerTest::backendIsLookedFor()
 
 void RunnerTest::refusals()
 {
-    Run run("silent");
+    BackendRun run("silent");
     QCOMPARE(run.panel->performTaskwithVeltaWithArgsAndContext(std::nullopt, &run.context), 1);
     QCOMPARE(run.dialog.log.constLast(), text("error ... passing nil args into -[RKTPPRBasePDEcorvel "
                                               "performTaskwithVeltaWithArgs:andContext:]\n"));
@@ -294,69 +203,9 @@ void RunnerTest::refusals()
     QVERIFY(!run.panel->task_);
 }
 
-// Eleven passes of a second, then two interrupts, which end the backend.
-void RunnerTest::silenceAfterOneLine()
-{
-    Run run("silent after one line");
-    run.installInBundle();
-    QElapsedTimer timer;
-    timer.start();
-    QCOMPARE(run.start(), 0);
-    QTRY_VERIFY_WITH_TIMEOUT(run.isIdle(), 15000);
-    QVERIFY2(timer.elapsed() >= 11000 && timer.elapsed() < 12500,
-             qPrintable(QString::number(timer.elapsed())));
-    QTRY_VERIFY(!hasChildren());
-}
-
-void RunnerTest::floods_data()
-{
-    QTest::addColumn<qsizetype>("characters"); // that are logged, at least
-    QTest::newRow("floods standard error") << qsizetype(2'000'000);
-    QTest::newRow("floods until interrupted") << qsizetype(500'000);
-}
-
-void RunnerTest::floods()
-{
-    Run run(QTest::currentDataTag());
-    run.installInBundle();
-    qsizetype logged = 0;
-    const auto sink = pdekit::setSystemLogSink([&logged, &run](const QString &line) {
-        if (line.startsWith(text("backend err = ")))
-            logged += line.size() - 14;
-        if (logged > 500'000 && qgetenv("VELTA_BEHAVIOUR") == "floods until interrupted")
-            run.panel->task_->interrupt();
-    });
-    QCOMPARE(run.start(), 0);
-    QTRY_VERIFY_WITH_TIMEOUT(run.isIdle(), 60000);
-    pdekit::setSystemLogSink(sink);
-    QFETCH(qsizetype, characters);
-    QVERIFY(logged >= characters);
-    QTRY_VERIFY(!hasChildren());
-}
-
-// Also while its own wait is on the stack.
-void RunnerTest::destroyedWhileRunning()
-{
-    for (const bool isWaiting : {false, true}) {
-        auto run = std::make_unique<Run>("silent after one line");
-        run->installInBundle();
-        QCOMPARE(run->start(), 0);
-        QPointer<RunnerPanel> panel = run->panel.get();
-        if (isWaiting) {
-            QTimer::singleShot(200, run->panel.get(), [&run] { run->panel.reset(); });
-            QTRY_VERIFY(!panel);
-        }
-        QElapsedTimer timer;
-        timer.start();
-        run.reset();
-        QVERIFY(timer.elapsed() < 2000);
-        QVERIFY(!hasChildren());
-    }
-}
-
 void RunnerTest::launchFails()
 {
-    Run run("silent");
+    BackendRun run("silent");
     QFile broken(run.inBundle());
     QVERIFY(broken.open(QIODevice::WriteOnly));
     broken.write("\x7f"
@@ -368,4 +217,3 @@ void RunnerTest::launchFails()
 }
 
 QTEST_MAIN(RunnerTest)
-#include "RunnerTest.moc"

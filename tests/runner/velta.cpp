@@ -4,6 +4,7 @@
 // A backend that behaves as the environment variable VELTA_BEHAVIOUR says; its input goes to the file
 // VELTA_INPUT.
 
+#include <algorithm>
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
@@ -48,6 +49,12 @@ int main(int argc, char *argv[])
         note("INFO: ready\n");
     } else if (behaviour == "ends at once") {
         return 0;
+    } else if (behaviour == "does not read") {
+        usleep(100'000);
+    } else if (behaviour == "tells its input") {
+        std::string target(4096, '\0');
+        const ssize_t length = readlink("/proc/self/fd/0", target.data(), target.size());
+        note(target.substr(0, static_cast<std::size_t>(std::max<ssize_t>(length, 0))).c_str());
     } else if (behaviour == "closes its input") {
         close(STDIN_FILENO);
         usleep(100'000);
@@ -89,6 +96,10 @@ int main(int argc, char *argv[])
         close(STDOUT_FILENO);
         usleep(200'000);
         note("INFO: late\n");
+    } else if (behaviour == "closes standard error first") {
+        close(STDERR_FILENO);
+        usleep(300'000);
+        std::puts("late");
     } else if (behaviour == "descriptors") {
         for (int i = 0; i < 64; ++i) {
             if (fcntl(i, F_GETFD) >= 0)

@@ -1,0 +1,38 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include <QtWidgets/QWidget>
+#include <qpa/qwindowsysteminterface.h>
+
+/// A window that counts what reaches it.
+class InputWindow : public QWidget
+{
+public:
+    int paints = 0;
+    int inputs = 0; ///< presses and releases of keys and of the mouse
+
+    /// As the window system does it: the events wait in its queue.
+    void sendInput()
+    {
+        using System = QWindowSystemInterface;
+        const QPointF local(5, 5);
+        const QPointF global = mapToGlobal(local);
+        System::handleMouseEvent<System::AsynchronousDelivery>(windowHandle(), local, global, Qt::LeftButton,
+                                                               Qt::LeftButton, QEvent::MouseButtonPress);
+        System::handleMouseEvent<System::AsynchronousDelivery>(windowHandle(), local, global, Qt::NoButton,
+                                                               Qt::LeftButton, QEvent::MouseButtonRelease);
+        System::handleKeyEvent<System::AsynchronousDelivery>(windowHandle(), QEvent::KeyPress, Qt::Key_A,
+                                                             Qt::NoModifier);
+        System::handleKeyEvent<System::AsynchronousDelivery>(windowHandle(), QEvent::KeyRelease, Qt::Key_A,
+                                                             Qt::NoModifier);
+    }
+
+protected:
+    void paintEvent(QPaintEvent * /*event*/) override { ++paints; }
+    void mousePressEvent(QMouseEvent * /*event*/) override { ++inputs; }
+    void mouseReleaseEvent(QMouseEvent * /*event*/) override { ++inputs; }
+    void keyPressEvent(QKeyEvent * /*event*/) override { ++inputs; }
+    void keyReleaseEvent(QKeyEvent * /*event*/) override { ++inputs; }
+};

@@ -1,0 +1,33 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include <QtCore/QObject>
+
+class RunnerTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void record();
+    void runs_data();
+    void runs();
+    void drains();
+    void endsWithinThePause();
+    void everyByteArrives();
+    void offlineStopsTheBackend_data();
+    void offlineStopsTheBackend();
+    void closedInputRaisesNothing();
+    void backendIsLookedFor_data();
+    void backendIsLookedFor();
+    void refusals();
+    void silenceAfterOneLine();
+    void waitsPaintAndTakeNoInput();
+    void floods_data();
+    void floods();
+    void descriptorsRunOut_data();
+    void descriptorsRunOut();
+    void destroyedWhileRunning();
+    void launchFails();
+};

@@ -1,0 +1,193 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "BackendRun.h"
+#include "FileDescriptor.h"
+#include "InputWindow.h"
+#include "RunnerTest.h"
+#include "SystemLog.h"
+
+#include <QtCore/QElapsedTimer>
+#include <QtCore/QPointer>
+#include <QtCore/QTimer>
+#include <QtTest/QTest>
+
+#include <fcntl.h>
+#include <functional>
+#include <sys/resource.h>
+#include <vector>
+
+namespace {
+
+#if defined(__SANITIZE_ADDRESS__)
+constexpr qint64 mostGrowth = 512LL << 20; // bytes; what is freed is kept in quarantine
+#else
+constexpr qint64 mostGrowth = 8LL << 20; // bytes
+#endif
+
+/// Runs something with so many descriptors left to open.
+int withDescriptorsLeft(int left, const std::function<int()> &act)
+{
+    rlimit limit = {};
+    getrlimit(RLIMIT_NOFILE, &limit);
+    // The limit is on the number of a descriptor: fill the gaps below it.
+    std::vector<pdekit::FileDescriptor> fillers;
+    do {
+        fillers.emplace_back(open("/dev/null", O_RDONLY | O_CLOEXEC));
+    } while (fillers.back().number() < openDescriptors() - 2);
+    const rlimit low = {static_cast<rlim_t>(fillers.back().number() + 1 + left), limit.rlim_max};
+    setrlimit(RLIMIT_NOFILE, &low);
+    const int result = act();
+    setrlimit(RLIMIT_NOFILE, &limit);
+    return result;
+}
+
+/// The process's peak of memory so far, in bytes.
+qint64 peakMemory()
+{
+    rusage usage = {};
+    getrusage(RUSAGE_SELF, &usage);
+    return qint64(usage.ru_maxrss) * 1024;
+}
+
+/// How far apart the stack's ends were at the moments measured.
+class StackDepth
+{
+public:
+    void measure()
+    {
+        const auto here = reinterpret_cast<std::uintptr_t>(__builtin_frame_address(0));
+        lowest_ = std::min(lowest_, here);
+        highest_ = std::max(highest_, here);
+    }
+    qint64 bytes() const { return lowest_ < highest_ ? qint64(highest_ - lowest_) : 0; }
+
+private:
+    std::uintptr_t lowest_ = UINTPTR_MAX;
+    std::uintptr_t highest_ = 0;
+};
+
+} // namespace
+
+// Eleven passes of a second, then two interrupts, which end the backend.
+void RunnerTest::silenceAfterOneLine()
+{
+    BackendRun run("silent after one line");
+    run.installInBundle();
+    QElapsedTimer timer;
+    timer.start();
+    QCOMPARE(run.start(), 0);
+    QTRY_VERIFY_WITH_TIMEOUT(run.isIdle(), 15000);
+    QVERIFY2(timer.elapsed() >= 11000 && timer.elapsed() < 12500,
+             qPrintable(QString::number(timer.elapsed())));
+    QCOMPARE(run.dialog.log, run.launchLines() << text("backend err = INFO: one\n"));
+    QVERIFY(run.panel->task_ && !run.panel->waitForCommandCompletion_);
+    QTRY_VERIFY(!hasChildren());
+}
+
+// While a wait runs the window paints; what the user does comes after it, and nothing of it is lost.
+void RunnerTest::waitsPaintAndTakeNoInput()
+{
+    BackendRun run("silent after one line");
+    run.installInBundle();
+    InputWindow window;
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    QTRY_VERIFY(window.paints > 0);
+    bool isChecked = false;
+    QTimer::singleShot(300, run.panel.get(), [&] {
+        QVERIFY(run.isWaiting());
+        const int paintsBefore = window.paints;
+        window.update();
+        window.sendInput();
+        QTimer::singleShot(300, run.panel.get(), [&, paintsBefore] {
+            isChecked = true;
+            QVERIFY(run.isWaiting());
+            QVERIFY(window.paints > paintsBefore);
+            QCOMPARE(window.inputs, 0);
+            run.panel->killCurrentTask();
+        });
+    });
+    QCOMPARE(run.start(), 0);
+    QTRY_VERIFY(isChecked && run.isIdle());
+    QTRY_COMPARE(window.inputs, 4);
+}
+
+void RunnerTest::floods_data()
+{
+    QTest::addColumn<qsizetype>("characters"); // that are logged, at least
+    QTest::newRow("floods standard error") << qsizetype(2'000'000);
+    QTest::newRow("floods until interrupted") << qsizetype(500'000);
+}
+
+void RunnerTest::floods()
+{
+    BackendRun run(QTest::currentDataTag());
+    run.installInBundle();
+    qsizetype logged = 0;
+    StackDepth depth;
+    const qint64 memory = peakMemory();
+    const auto sink = pdekit::setSystemLogSink([&](const QString &line) {
+        depth.measure();
+        if (line.startsWith(text("backend err = ")))
+            logged += line.size() - 14;
+        if (logged > 500'000 && qgetenv("VELTA_BEHAVIOUR") == "floods until interrupted")
+            run.panel->task_->interrupt();
+    });
+    QCOMPARE(run.start(), 0);
+    QTRY_VERIFY_WITH_TIMEOUT(run.isIdle(), 60000);
+    pdekit::setSystemLogSink(sink);
+    QFETCH(qsizetype, characters);
+    QVERIFY(logged >= characters);
+    QVERIFY2(depth.bytes() < 64 * 1024, qPrintable(QString::number(depth.bytes())));
+    const qint64 grown = peakMemory() - memory;
+    QVERIFY2(grown < mostGrowth, qPrintable(QString::number(grown)));
+    QTRY_VERIFY(!hasChildren());
+}
+
+// Also while its own wait is on the stack.
+void RunnerTest::destroyedWhileRunning()
+{
+    for (const bool isWaiting : {false, true}) {
+        auto run = std::make_unique<BackendRun>("silent after one line");
+        run->installInBundle();
+        QCOMPARE(run->start(), 0);
+        QPointer<RunnerPanel> panel = run->panel.get();
+        if (isWaiting) {
+            QTimer::singleShot(200, run->panel.get(), [&run] { run->panel.reset(); });
+            QTRY_VERIFY(!panel);
+        }
+        QElapsedTimer timer;
+        timer.start();
+        run.reset();
+        QVERIFY(timer.elapsed() < 2000);
+        QVERIFY(!hasChildren());
+    }
+}
+
+void RunnerTest::descriptorsRunOut_data()
+{
+    QTest::addColumn<int>("left"); // descriptors
+    QTest::addColumn<bool>("starts");
+    QTest::newRow("for the pipes") << 3 << false;
+    QTest::newRow("for the streams") << 4 << true;
+    QTest::newRow("for one of the streams") << 5 << true;
+}
+
+// The panel comes to rest whatever is missing, and leaves no child and no descriptor behind.
+void RunnerTest::descriptorsRunOut()
+{
+    QFETCH(int, left);
+    QFETCH(bool, starts);
+    BackendRun run("silent");
+    run.installInBundle();
+    const qsizetype descriptors = openDescriptors();
+    QCOMPARE(withDescriptorsLeft(left, [&run] { return run.start(); }), 0);
+    QCOMPARE(hasChildren(), starts);
+    QTRY_VERIFY(run.isIdle());
+    QTRY_VERIFY(!hasChildren());
+    QCOMPARE(openDescriptors(), descriptors);
+    run.dialog.log.clear();
+    QCOMPARE(run.start(), 0);
+    QTRY_VERIFY(run.isIdle());
+}
