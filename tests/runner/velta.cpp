@@ -40,8 +40,10 @@ int main(int argc, char *argv[])
     if (behaviour == "reads") {
         keepInput();
     } else if (behaviour == "arguments") {
+        std::string report;
         for (int i = 1; i < argc; ++i)
-            std::fprintf(stderr, "[%s]", argv[i]);
+            report += '[' + std::string(argv[i]) + ']';
+        note(report.c_str());
     } else if (behaviour == "both streams") {
         keepInput();
         std::printf("ignored\n");
@@ -101,15 +103,17 @@ int main(int argc, char *argv[])
         usleep(300'000);
         std::puts("late");
     } else if (behaviour == "descriptors") {
+        std::string report;
         for (int i = 0; i < 64; ++i) {
             if (fcntl(i, F_GETFD) >= 0)
-                std::fprintf(stderr, "%d ", i);
+                report += std::to_string(i) + ' ';
         }
         sigset_t mask;
         sigprocmask(SIG_SETMASK, nullptr, &mask);
         struct sigaction pipeAction = {};
         sigaction(SIGPIPE, nullptr, &pipeAction);
-        note(pipeAction.sa_handler == SIG_DFL && sigismember(&mask, SIGUSR1) == 0 ? "clean" : "unclean");
+        const bool isClean = pipeAction.sa_handler == SIG_DFL && sigismember(&mask, SIGUSR1) == 0;
+        note((report + (isClean ? "clean" : "unclean")).c_str());
     }
     return 0;
 }
