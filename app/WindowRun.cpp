@@ -4,6 +4,7 @@
 #include "WindowRun.h"
 
 #include "Console.h"
+#include "WindowPlacement.h"
 
 #include <QtCore/QTimer>
 #include <QtWidgets/QApplication>
@@ -43,7 +44,10 @@ int runWindow(const CommandLine &commandLine, QApplication & /*application*/)
     }
     // Queues are looked for once the window is there; none of it may hold up the first picture.
     QTimer::singleShot(0, &dialog, &PrintDialog::searchPrinters);
+    if (const QByteArray geometry = WindowPlacement::load(); !geometry.isEmpty())
+        dialog.restoreGeometry(geometry);
     dialog.exec();
+    WindowPlacement::save(dialog.saveGeometry());
     return exitDone;
 }
 

@@ -1,0 +1,187 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "OpenedDialog.h"
+#include "SystemLog.h"
+#include "WindowPlacement.h"
+
+#include <QtCore/QTranslator>
+#include <QtGui/QAccessible>
+#include <QtTest/QTest>
+#include <QtWidgets/QAbstractButton>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QSlider>
+#include <QtWidgets/QTabBar>
+
+#include <algorithm>
+
+using namespace printdialog;
+using namespace testing_support;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// What a widget is called in a failure.
+QString nameOf(const QWidget *widget)
+{
+    return QStringLiteral("%1 \"%2\"")
+        .arg(QString::fromLatin1(widget->metaObject()->className()), widget->objectName());
+}
+
+QString textOf(const QWidget *widget)
+{
+    if (const auto *button = qobject_cast<const QAbstractButton *>(widget))
+        return button->text();
+    const auto *label = qobject_cast<const QLabel *>(widget);
+    return label ? label->text() : QString();
+}
+
+/// Every letter that Alt is pressed with in the window as it stands, with who has it.
+QMap<QString, QStringList> mnemonics(const QWidget &window)
+{
+    QMap<QString, QStringList> found;
+    const auto add = [&found](const QString &text, const QWidget *owner) {
+        const QKeySequence keys = QKeySequence::mnemonic(text);
+        if (!keys.isEmpty())
+            found[keys.toString()] << nameOf(owner);
+    };
+    for (const QWidget *widget : window.findChildren<QWidget *>()) {
+        if (!widget->isVisible())
+            continue;
+        const auto *label = qobject_cast<const QLabel *>(widget);
+        if (qobject_cast<const QAbstractButton *>(widget) || (label && label->buddy()))
+            add(textOf(widget), widget);
+        if (const auto *tabs = qobject_cast<const QTabBar *>(widget)) {
+            for (int i = 0; i < tabs->count(); ++i)
+                add(tabs->tabText(i), tabs);
+        }
+    }
+    return found;
+}
+
+} // namespace
+
+/// The window in each of its languages, on each of its pages: nothing cut off, no key taken twice, everything
+/// named for a screen reader.
+class LanguagesTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase_data();
+    void init();
+    void cleanup();
+    void textsFit();
+    void keysAreUnique();
+    void controlsAreNamed();
+    void placementIsKept();
+
+private:
+    QTranslator translator_;
+    QTemporaryDir config_;
+};
+
+void LanguagesTest::initTestCase_data()
+{
+    QTest::addColumn<QString>("language");
+    for (const QString &language : {u"en"_s, u"de"_s, u"fr"_s, u"es"_s, u"ja"_s})
+        QTest::newRow(qPrintable(language)) << language;
+}
+
+void LanguagesTest::init()
+{
+    QFETCH_GLOBAL(QString, language);
+    pdekit::setSystemLogSink([](const QString &) {});
+    qputenv("XDG_CONFIG_HOME", QFile::encodeName(config_.path()));
+    QLocale::setDefault(QLocale(language));
+    QVERIFY(translator_.load(
+        QStringLiteral("%1/corvel-print_%2.qm").arg(QStringLiteral(CORVEL_TRANSLATIONS_DIR), language)));
+    QCoreApplication::installTranslator(&translator_);
+}
+
+void LanguagesTest::cleanup()
+{
+    QCoreApplication::removeTranslator(&translator_);
+    QLocale::setDefault(QLocale::c());
+}
+
+void LanguagesTest::textsFit()
+{
+    const OpenedDialog opened(PanelMode::Constraint);
+    for (int page = 0; page < opened.dialog->pageCount(); ++page) {
+        opened.dialog->showPage(page);
+        QCoreApplication::processEvents();
+        for (const QWidget *widget : opened.dialog->findChildren<QWidget *>()) {
+            const auto *label = qobject_cast<const QLabel *>(widget);
+            if (!widget->isVisible() || textOf(widget).isEmpty() || (label && label->wordWrap()))
+                continue;
+            const QSize needed = label ? widget->minimumSizeHint() : widget->sizeHint();
+            QVERIFY2(widget->width() >= needed.width() && widget->height() >= needed.height(),
+                     qPrintable(nameOf(widget) + u": "_s + textOf(widget)));
+            // Nor cut off by what it stands in.
+            QCOMPARE(widget->visibleRegion().boundingRect().size(), widget->size());
+        }
+    }
+}
+
+void LanguagesTest::keysAreUnique()
+{
+    const OpenedDialog opened(PanelMode::Constraint);
+    for (int page = 0; page < opened.dialog->pageCount(); ++page) {
+        opened.dialog->showPage(page);
+        const auto found = mnemonics(*opened.dialog);
+        QVERIFY(!found.isEmpty());
+        for (auto entry = found.cbegin(); entry != found.cend(); ++entry)
+            QVERIFY2(entry->size() == 1, qPrintable(entry.key() + u": "_s + entry->join(u", "_s)));
+    }
+}
+
+// Through the interface that a screen reader asks: what it is, what it is called, what it stands for.
+void LanguagesTest::controlsAreNamed()
+{
+    const OpenedDialog opened(PanelMode::Constraint);
+    for (int page = 0; page < opened.dialog->pageCount(); ++page) {
+        opened.dialog->showPage(page);
+        for (QWidget *widget : opened.dialog->findChildren<QWidget *>()) {
+            // The parts of a widget are reached through it, a row of tabs through its tabs.
+            const bool isPart = widget->objectName().startsWith(u"qt_"_s) || widget->focusProxy();
+            if (!widget->isVisible() || widget->focusPolicy() == Qt::NoFocus || isPart)
+                continue;
+            QAccessibleInterface *accessible = QAccessible::queryAccessibleInterface(widget);
+            QVERIFY2(accessible, qPrintable(nameOf(widget)));
+            const auto role = accessible->role();
+            QVERIFY2(role != QAccessible::NoRole && role != QAccessible::Client, qPrintable(nameOf(widget)));
+            QVERIFY2(!accessible->text(QAccessible::Name).isEmpty(), qPrintable(nameOf(widget)));
+            if (qobject_cast<QSlider *>(widget))
+                QVERIFY2(accessible->valueInterface(), qPrintable(nameOf(widget)));
+        }
+        for (const QLabel *label : opened.dialog->findChildren<QLabel *>()) {
+            if (!label->isVisible() || !label->buddy())
+                continue;
+            const auto relations =
+                QAccessible::queryAccessibleInterface(label->buddy())->relations(QAccessible::Label);
+            const bool isLabelled =
+                std::any_of(relations.begin(), relations.end(),
+                            [label](const auto &pair) { return pair.first->object() == label; });
+            QVERIFY2(isLabelled, qPrintable(nameOf(label)));
+        }
+    }
+}
+
+void LanguagesTest::placementIsKept()
+{
+    QSize size;
+    {
+        const OpenedDialog opened(PanelMode::Constraint);
+        size = opened.dialog->size() + QSize(60, 40);
+        opened.dialog->resize(size);
+        QVERIFY(WindowPlacement::save(opened.dialog->saveGeometry()));
+    }
+    const OpenedDialog again(PanelMode::Constraint);
+    QVERIFY(again.dialog->restoreGeometry(WindowPlacement::load()));
+    QCOMPARE(again.dialog->size(), size);
+}
+
+QTEST_MAIN(LanguagesTest)
+#include "LanguagesTest.moc"
