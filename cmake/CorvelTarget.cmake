@@ -11,7 +11,9 @@ target_compile_definitions(corvel_settings INTERFACE
 target_compile_options(corvel_settings INTERFACE
     -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wnon-virtual-dtor -Woverloaded-virtual
     -Wcast-qual -Wformat=2
-    $<$<BOOL:${CORVEL_WARNINGS_AS_ERRORS}>:-Werror>)
+    $<$<BOOL:${CORVEL_WARNINGS_AS_ERRORS}>:-Werror>
+    # What is installed names no folder of the machine that built it.
+    -fmacro-prefix-map=${CMAKE_BINARY_DIR}/= -fmacro-prefix-map=${CMAKE_SOURCE_DIR}/=)
 if(CORVEL_SANITIZE)
     target_compile_options(corvel_settings INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=all
         -fno-omit-frame-pointer)
@@ -21,6 +23,7 @@ if(CORVEL_COVERAGE)
     target_compile_options(corvel_settings INTERFACE --coverage)
     target_link_options(corvel_settings INTERFACE --coverage)
 endif()
+include(CorvelHardening)
 
 # Applies the settings to a target, and a precompiled header of what nearly every file includes.
 function(corvel_target target)
