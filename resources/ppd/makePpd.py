@@ -147,8 +147,10 @@ CONSTRAINTS = (
 )
 
 
-def header(model, pluginFolder):
+def header(model):
     """The lines before the options, in the order in which PPD readers expect them.
+
+    The bundle is named without its folder, which differs from system to system.
 
     The encoding is that of the English texts, which are plain ASCII; with *cupsLanguages it has to be ISOLatin1, and
     the translations are UTF-8 all the same.
@@ -177,7 +179,7 @@ def header(model, pluginFolder):
 *cupsLanguages: "{' '.join(LANGUAGES[1:])}"
 *cupsFilter: "image/jpeg 0 -"
 *cupsFilter: "application/pdf 0 -"
-*APDialogExtension: "{pluginFolder}/{BUNDLE}"
+*APDialogExtension: "{BUNDLE}"
 '''.splitlines()
 
 
@@ -231,8 +233,8 @@ def groupLines(group, extraLines=()):
     yield from translations(group.keyword, group.texts, ())
 
 
-def ppdLines(model, groups, pluginFolder):
-    yield from header(model, pluginFolder)
+def ppdLines(model, groups):
+    yield from header(model)
     for option, choice, otherOption, otherChoice in CONSTRAINTS:
         yield f"*UIConstraints: *{option} {choice} *{otherOption} {otherChoice}"
         yield f"*UIConstraints: *{otherOption} {otherChoice} *{option} {choice}"
@@ -264,17 +266,15 @@ def write(path, lines):
 def main():
     parser = argparse.ArgumentParser(description="Writes the PPDs of the Corvel photo printers.")
     parser.add_argument("folder", type=pathlib.Path, help="where the PPDs are written")
-    parser.add_argument("--plugin-folder", default="/usr/lib/corvel-print/PDEs",
-                        help=f"the folder that the PPDs name for {BUNDLE}")
     parser.add_argument("--choices", type=int, metavar="N",
                         help="write one large PPD with about N choices instead")
     arguments = parser.parse_args()
     if arguments.choices is not None:
-        lines = ppdLines(MODELS[0], (*GROUPS, benchGroup(arguments.choices)), arguments.plugin_folder)
+        lines = ppdLines(MODELS[0], (*GROUPS, benchGroup(arguments.choices)))
         write(arguments.folder / f"Bench{arguments.choices}.ppd", lines)
         return
     for model in MODELS:
-        write(arguments.folder / model.file, ppdLines(model, GROUPS, arguments.plugin_folder))
+        write(arguments.folder / model.file, ppdLines(model, GROUPS))
 
 
 if __name__ == "__main__":
