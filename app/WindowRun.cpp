@@ -7,6 +7,7 @@
 #include "WindowPlacement.h"
 
 #include <QtCore/QTimer>
+#include <QtGui/QIcon>
 #include <QtWidgets/QApplication>
 
 namespace printdialog {
@@ -37,6 +38,9 @@ int runWindow(const CommandLine &commandLine, QApplication & /*application*/)
         console.complain(setup.failure().text);
         return exitFailed;
     }
+    // By these names of its desktop file and icon the desktop knows the window.
+    QGuiApplication::setDesktopFileName(QStringLiteral("org.corvel.print"));
+    QGuiApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("corvel-print")));
     PrintDialog dialog(*setup);
     if (commandLine.ppd && !dialog.isReady()) {
         console.complain(dialog.whyNotReady());

@@ -31,6 +31,13 @@ bool isPlainName(const QString &name)
            !name.contains(QLatin1Char('/')) && !name.contains(QChar::Null);
 }
 
+/// Seen from the program, so that a whole that was installed elsewhere, or moved, still finds its parts.
+QString installedFolder()
+{
+    return QDir::cleanPath(QCoreApplication::applicationDirPath() +
+                           QLatin1String("/" CORVEL_PDE_FROM_PROGRAM));
+}
+
 std::optional<QString> findBundle(const QString &name)
 {
     const QStringList folders = PluginLoader::folders();
@@ -72,7 +79,7 @@ Failure<PluginFault> unusable(PluginFault fault, const QString &path, const QStr
 QStringList PluginLoader::folders()
 {
     QStringList folders = qEnvironmentVariable("CORVEL_PDE_PATH").split(QLatin1Char(':'), Qt::SkipEmptyParts);
-    folders.append(QStringLiteral(CORVEL_PDE_INSTALL_DIR));
+    folders.append(installedFolder());
     return folders;
 }
 
