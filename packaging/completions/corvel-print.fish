@@ -1,0 +1,41 @@
+# SPDX-FileCopyrightText: Corvel print dialog authors
+# SPDX-License-Identifier: Apache-2.0
+#
+# fish completion for corvel-print.
+
+# The words of the command line that name the printer.
+function __corvel_print_printer
+    set -l words (commandline -opc)
+    for option in --printer --ppd
+        if set -l place (contains -i -- $option $words)
+            echo $option
+            echo $words[(math $place + 1)]
+        end
+    end
+    string match -- '--printer=*' $words
+    string match -- '--ppd=*' $words
+end
+
+# KEY=CHOICE for everything that the printer has to choose.
+function __corvel_print_choices
+    corvel-print (__corvel_print_printer) --list-options --json 2>/dev/null | awk -F'"' '
+        /^ +"keyword": / {
+            match($0, /^ +/)
+            if (RLENGTH > 8) choices[++count] = $4
+            else { for (i = 1; i <= count; i++) print $4 "=" choices[i]; count = 0 }
+        }'
+end
+
+complete -c corvel-print -l printer -x -a '(corvel-print --list-printers 2>/dev/null | cut -f1,2)' -d 'A print queue, or the built-in printer'
+complete -c corvel-print -l ppd -r -d 'The built-in printer, with this PPD instead of its own'
+complete -c corvel-print -l mode -x -a 'constraint settings' -d 'When a conflicting choice is refused'
+complete -c corvel-print -s o -l option -x -a '(__corvel_print_choices)' -d 'Choose for an option of the printer'
+complete -c corvel-print -l output -x -a '(__fish_complete_directories)' -d 'Where the built-in printer leaves its files'
+complete -c corvel-print -l batch -d 'No window: apply the options, print, exit'
+complete -c corvel-print -l list-printers -d 'List the printers'
+complete -c corvel-print -l list-options -d 'List the options with their choices and panels'
+complete -c corvel-print -l summary -d 'Show what the panels say about the choices'
+complete -c corvel-print -l json -d 'Lists and summary as JSON'
+complete -c corvel-print -l screenshot -x -a '(__fish_complete_directories)' -d 'Save a picture of the dialog with each panel'
+complete -c corvel-print -s h -l help -d 'Show the help'
+complete -c corvel-print -s v -l version -d 'Show the version'
