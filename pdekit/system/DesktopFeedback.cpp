@@ -10,6 +10,7 @@
 #include <QtCore/QUrl>
 #include <QtGui/QDesktopServices>
 #include <QtWidgets/QApplication>
+#include <QtWidgets/QLabel>
 #include <QtWidgets/QMessageBox>
 #include <QtWidgets/QPushButton>
 
@@ -43,6 +44,10 @@ void DesktopFeedback::alert(const Alert &alert)
                     QApplication::activeWindow());
     box.setTextFormat(Qt::PlainText);
     box.setInformativeText(alert.information);
+    // The text format above is that of the message alone.
+    const QList<QLabel *> labels = box.findChildren<QLabel *>();
+    for (QLabel *label : labels)
+        label->setTextFormat(Qt::PlainText);
     box.setDefaultButton(box.addButton(alert.button, QMessageBox::AcceptRole));
     box.exec();
 }

@@ -38,10 +38,12 @@ public:
 
     bool isOpen() const { return descriptor_ >= 0; }
     int number() const { return descriptor_; }
+    /// Gives the descriptor away; the caller closes it.
+    int release() { return std::exchange(descriptor_, -1); }
     void close()
     {
         if (isOpen())
-            ::close(std::exchange(descriptor_, -1));
+            ::close(release());
     }
 
 private:

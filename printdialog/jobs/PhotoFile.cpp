@@ -81,9 +81,9 @@ Result<PhotoFile, PhotoFault> PhotoFile::open(const QString &path)
     if (auto failure = kindFailure(status.st_mode, path))
         return *failure;
 
-    PhotoFile file(path,
-                   FileDescriptor(::open(encoded.constData(), O_RDONLY | O_CLOEXEC | O_NOCTTY | O_NONBLOCK)));
-    if (!file.descriptor_.isValid() || ::fstat(file.descriptor_.value(), &status) != 0)
+    PhotoFile file(path, pdekit::FileDescriptor(
+                             ::open(encoded.constData(), O_RDONLY | O_CLOEXEC | O_NOCTTY | O_NONBLOCK)));
+    if (!file.descriptor_.isOpen() || ::fstat(file.descriptor_.number(), &status) != 0)
         return systemFailure(errno, path);
     if (auto failure = kindFailure(status.st_mode, path))
         return *failure;
@@ -100,14 +100,14 @@ Result<PhotoFile, PhotoFault> PhotoFile::open(const QString &path)
 QByteArray PhotoFile::head(qint64 bytes) const
 {
     QByteArray buffer(qMin(bytes, size_), Qt::Uninitialized);
-    buffer.resize(qMax(qint64(0), readFully(descriptor_.value(), buffer)));
+    buffer.resize(qMax(qint64(0), readFully(descriptor_.number(), buffer)));
     return buffer;
 }
 
 Result<QByteArray, PhotoFault> PhotoFile::content() const
 {
     QByteArray buffer(size_, Qt::Uninitialized);
-    const qint64 count = readFully(descriptor_.value(), buffer);
+    const qint64 count = readFully(descriptor_.number(), buffer);
     if (count < 0)
         return systemFailure(errno, path_);
     buffer.resize(count);

@@ -41,14 +41,14 @@ public:
     Result<QByteArray, PhotoFault> content() const;
 
 private:
-    PhotoFile(const QString &path, FileDescriptor descriptor)
+    PhotoFile(const QString &path, pdekit::FileDescriptor descriptor)
         : path_(path)
         , descriptor_(std::move(descriptor))
     {
     }
 
     QString path_;
-    FileDescriptor descriptor_;
+    pdekit::FileDescriptor descriptor_;
     qint64 size_ = 0;
     QDateTime modified_;
 };

@@ -3,6 +3,7 @@
 
 #include "PpdFile.h"
 
+#include "FileDescriptor.h"
 #include "PlainText.h"
 
 #include <QtCore/QCoreApplication>
@@ -15,6 +16,8 @@
 #include <unistd.h>
 #include <utility>
 
+using pdekit::FileDescriptor;
+
 namespace printdialog {
 
 namespace {
@@ -22,27 +25,6 @@ namespace {
 struct Text
 {
     Q_DECLARE_TR_FUNCTIONS(PpdFile)
-};
-
-class Descriptor
-{
-public:
-    explicit Descriptor(int descriptor)
-        : descriptor_(descriptor)
-    {
-    }
-    ~Descriptor()
-    {
-        if (descriptor_ >= 0)
-            ::close(descriptor_);
-    }
-    Q_DISABLE_COPY_MOVE(Descriptor)
-
-    int value() const { return descriptor_; }
-    int release() { return std::exchange(descriptor_, -1); }
-
-private:
-    int descriptor_;
 };
 
 Failure<PpdFault> failure(PpdFault fault, const QString &text, const QString &path)
@@ -82,8 +64,8 @@ Result<QByteArray, PpdFault> readPpdFile(const QString &path)
         return ppdNotReadable(path, errno);
     if (!S_ISREG(status.st_mode))
         return notRegular(path, status.st_mode);
-    const Descriptor file(::open(nativePath.constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY));
-    if (file.value() < 0 || ::fstat(file.value(), &status) != 0)
+    const FileDescriptor file(::open(nativePath.constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY));
+    if (file.number() < 0 || ::fstat(file.number(), &status) != 0)
         return ppdNotReadable(path, errno);
     if (!S_ISREG(status.st_mode))
         return notRegular(path, status.st_mode);
@@ -96,7 +78,7 @@ Result<QByteArray, PpdFault> readPpdFile(const QString &path)
         if (size == bytes.size())
             bytes.resize(std::min(most, 2 * size));
         const ssize_t count =
-            ::read(file.value(), bytes.data() + size, static_cast<size_t>(bytes.size() - size));
+            ::read(file.number(), bytes.data() + size, static_cast<size_t>(bytes.size() - size));
         if (count < 0 && errno == EINTR)
             continue;
         if (count < 0)
@@ -111,17 +93,17 @@ Result<QByteArray, PpdFault> readPpdFile(const QString &path)
 
 int ppdInMemory(const QByteArray &bytes)
 {
-    Descriptor memory(::memfd_create("ppd", MFD_CLOEXEC));
-    if (memory.value() < 0)
+    FileDescriptor memory(::memfd_create("ppd", MFD_CLOEXEC));
+    if (memory.number() < 0)
         return -1;
     for (qsizetype written = 0; written < bytes.size();) {
-        const ssize_t count =
-            ::write(memory.value(), bytes.constData() + written, static_cast<size_t>(bytes.size() - written));
+        const ssize_t count = ::write(memory.number(), bytes.constData() + written,
+                                      static_cast<size_t>(bytes.size() - written));
         if (count < 0 && errno != EINTR)
             return -1;
         written += std::max<ssize_t>(count, 0);
     }
-    if (::lseek(memory.value(), 0, SEEK_SET) != 0)
+    if (::lseek(memory.number(), 0, SEEK_SET) != 0)
         return -1;
     return memory.release();
 }

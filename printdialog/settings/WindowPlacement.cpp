@@ -3,9 +3,10 @@
 
 #include "WindowPlacement.h"
 
-#include <QtCore/QDir>
+#include "AtomicFiles.h"
+
+#include <QtCore/QFile>
 #include <QtCore/QFileInfo>
-#include <QtCore/QSaveFile>
 #include <QtCore/QStandardPaths>
 
 namespace printdialog {
@@ -32,9 +33,12 @@ QByteArray WindowPlacement::load()
 
 bool WindowPlacement::save(const QByteArray &geometry)
 {
-    QDir().mkpath(QFileInfo(filePath()).path());
-    QSaveFile file(filePath());
-    return file.open(QIODevice::WriteOnly) && file.write(geometry) == geometry.size() && file.commit();
+    const QFileInfo path(filePath());
+    auto files = AtomicFiles::open(path.path());
+    if (!files)
+        return false;
+    const auto device = files->add(path.fileName(), AtomicFiles::Access::OwnerOnly);
+    return device && (*device)->write(geometry) == geometry.size() && files->commit();
 }
 
 } // namespace printdialog

@@ -10,21 +10,42 @@
 #include <QtCore/QLoggingCategory>
 #include <QtCore/QRandomGenerator>
 
+#include <dirent.h>
 #include <fcntl.h>
 #include <sys/stat.h>
 
 #include <algorithm>
 #include <cerrno>
 #include <cstdio>
+#include <ctime>
 
 namespace printdialog {
 namespace {
 
-Q_LOGGING_CATEGORY(jobsLog, "printdialog.jobs", QtWarningMsg)
+Q_LOGGING_CATEGORY(filesLog, "printdialog.files", QtWarningMsg)
+
+constexpr char hiddenPrefix[] = ".corvel-print-";
+constexpr time_t staleAge = 3600; // seconds
 
 QByteArray hiddenName()
 {
-    return ".corvel-print-" + QByteArray::number(QRandomGenerator::system()->generate64(), 36);
+    return hiddenPrefix + QByteArray::number(QRandomGenerator::system()->generate64(), 36);
+}
+
+/// Removes what a program that was killed has left under a hidden name: no file keeps one for long.
+void removeStale(const QString &folder)
+{
+    DIR *entries = ::opendir(QFile::encodeName(folder).constData());
+    if (!entries)
+        return;
+    while (const dirent *entry = ::readdir(entries)) {
+        struct stat status = {};
+        if (qstrncmp(entry->d_name, hiddenPrefix, sizeof hiddenPrefix - 1) == 0 &&
+            ::fstatat(::dirfd(entries), entry->d_name, &status, AT_SYMLINK_NOFOLLOW) == 0 &&
+            S_ISREG(status.st_mode) && status.st_mtime < ::time(nullptr) - staleAge)
+            ::unlinkat(::dirfd(entries), entry->d_name, 0);
+    }
+    ::closedir(entries);
 }
 
 } // namespace
@@ -43,10 +64,11 @@ Result<AtomicFiles, OutputFault> AtomicFiles::open(const QString &folder)
     files.folder_ = QDir::cleanPath(QDir(folder).absolutePath());
     if (const int error = files.makeFolders())
         return outputFailure(error, files.folder_);
-    files.descriptor_ = FileDescriptor(::open(QFile::encodeName(files.folder_).constData(),
-                                              O_RDONLY | O_DIRECTORY | O_CLOEXEC | O_NONBLOCK));
-    if (!files.descriptor_.isValid())
+    files.descriptor_ = pdekit::FileDescriptor(::open(QFile::encodeName(files.folder_).constData(),
+                                                      O_RDONLY | O_DIRECTORY | O_CLOEXEC | O_NONBLOCK));
+    if (!files.descriptor_.isOpen())
         return outputFailure(errno, files.folder_);
+    removeStale(files.folder_);
     return files;
 }
 
@@ -69,21 +91,27 @@ int AtomicFiles::makeFolders()
     return 0;
 }
 
-Result<QIODevice *, OutputFault> AtomicFiles::add(const QString &name)
+Result<QIODevice *, OutputFault> AtomicFiles::add(const QString &name, Access access)
 {
     Q_ASSERT(!name.isEmpty() && !name.contains(QLatin1Char('/')));
     File file;
     file.name = QFile::encodeName(name);
     // A name that is too long is better known before the work than after it.
     struct stat status = {};
-    if (::fstatat(descriptor_.value(), file.name.constData(), &status, AT_SYMLINK_NOFOLLOW) != 0 &&
+    if (::fstatat(descriptor_.number(), file.name.constData(), &status, AT_SYMLINK_NOFOLLOW) != 0 &&
         errno != ENOENT)
         return outputFailure(errno, pathOf(file.name));
 
-    file.temporary = hiddenName();
-    FileDescriptor descriptor(::openat(descriptor_.value(), file.temporary.constData(),
-                                       O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0666));
-    if (!descriptor.isValid())
+    const mode_t mode = access == Access::OwnerOnly ? 0600 : 0666;
+    pdekit::FileDescriptor descriptor(
+        ::openat(descriptor_.number(), ".", O_WRONLY | O_TMPFILE | O_CLOEXEC, mode));
+    if (!descriptor.isOpen()) {
+        file.temporary = hiddenName();
+        descriptor =
+            pdekit::FileDescriptor(::openat(descriptor_.number(), file.temporary.constData(),
+                                            O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, mode));
+    }
+    if (!descriptor.isOpen())
         return outputFailure(errno, pathOf(file.name));
     file.device = std::make_unique<DescriptorDevice>(std::move(descriptor));
     files_.push_back(std::move(file));
@@ -106,8 +134,8 @@ std::optional<Failure<OutputFault>> AtomicFiles::writeFailure() const
 
 Result<QStringList, OutputFault> AtomicFiles::commit()
 {
-    for (const File &file : files_) {
-        if (const int error = file.device->finish())
+    for (File &file : files_) {
+        if (const int error = finish(file))
             return outputFailure(error, pathOf(file.name));
     }
     QStringList paths;
@@ -121,27 +149,49 @@ Result<QStringList, OutputFault> AtomicFiles::commit()
     }
     for (const File &file : files_) {
         if (!file.earlier.isEmpty())
-            ::unlinkat(descriptor_.value(), file.earlier.constData(), 0);
+            ::unlinkat(descriptor_.number(), file.earlier.constData(), 0);
     }
-    ::fsync(descriptor_.value());
+    ::fsync(descriptor_.number());
     files_.clear();
     madeFolders_.clear();
     return paths;
 }
 
-/// Answers the system's error number, or 0.
-int AtomicFiles::putInPlace(File &file) const
+// These answer the system's error number, or 0.
+
+int AtomicFiles::finish(File &file) const
 {
-    const int folder = descriptor_.value();
+    if (file.temporary.isEmpty()) {
+        const QByteArray name = hiddenName();
+        if (const int error = file.device->link(descriptor_.number(), name))
+            return error;
+        file.temporary = name;
+    }
+    return file.device->finish();
+}
+
+/// A second name for the earlier file, if there is one.
+int AtomicFiles::keepEarlier(File &file) const
+{
+    const int folder = descriptor_.number();
     struct stat status = {};
     const bool exists = ::fstatat(folder, file.name.constData(), &status, AT_SYMLINK_NOFOLLOW) == 0;
-    if (exists && !S_ISDIR(status.st_mode)) {
-        const QByteArray aside = hiddenName();
-        if (::renameat(folder, file.name.constData(), folder, aside.constData()) != 0)
-            return errno;
-        file.earlier = aside;
-    }
-    // A folder is never moved out of the way: the renaming refuses.
+    if (!exists || S_ISDIR(status.st_mode))
+        return 0; // a folder is never moved out of the way: the renaming refuses
+    const QByteArray other = hiddenName();
+    // Some file systems know one name only for each file: there it is moved.
+    if (::linkat(folder, file.name.constData(), folder, other.constData(), 0) != 0 &&
+        ::renameat(folder, file.name.constData(), folder, other.constData()) != 0)
+        return errno;
+    file.earlier = other;
+    return 0;
+}
+
+int AtomicFiles::putInPlace(File &file) const
+{
+    if (const int error = keepEarlier(file))
+        return error;
+    const int folder = descriptor_.number();
     if (::renameat(folder, file.temporary.constData(), folder, file.name.constData()) != 0)
         return errno;
     file.isInPlace = true;
@@ -150,12 +200,21 @@ int AtomicFiles::putInPlace(File &file) const
 
 void AtomicFiles::takeBack(File &file) const
 {
-    const int folder = descriptor_.value();
-    ::unlinkat(folder, (file.isInPlace ? file.name : file.temporary).constData(), 0);
-    if (!file.earlier.isEmpty() &&
-        ::renameat(folder, file.earlier.constData(), folder, file.name.constData()) != 0)
-        qCWarning(jobsLog, "%s is left as %s: %s", qUtf8Printable(pathOf(file.name)),
+    const int folder = descriptor_.number();
+    if (!file.isInPlace && !file.temporary.isEmpty())
+        ::unlinkat(folder, file.temporary.constData(), 0);
+    if (file.earlier.isEmpty()) {
+        if (file.isInPlace)
+            ::unlinkat(folder, file.name.constData(), 0);
+        return;
+    }
+    if (::renameat(folder, file.earlier.constData(), folder, file.name.constData()) != 0) {
+        qCWarning(filesLog, "%s is left as %s: %s", qUtf8Printable(pathOf(file.name)),
                   file.earlier.constData(), qUtf8Printable(qt_error_string(errno)));
+        return;
+    }
+    // Renaming does nothing when both are names of the same file.
+    ::unlinkat(folder, file.earlier.constData(), 0);
 }
 
 void AtomicFiles::discard()

@@ -19,10 +19,11 @@ namespace printdialog {
 
 class DescriptorDevice;
 
-/// A set of files in one folder that appear together or not at all. Each is written beside its final name,
-/// under a hidden name that nobody else has, with the permissions that any new file of this user gets. Unless
-/// commit() succeeds, the folder is left as it was: earlier files of the same names untouched or put back,
-/// nothing temporary, and no folder that was made for this.
+/// A set of files in one folder that appear together or not at all. Each is written without a name (O_TMPFILE
+/// of open(2)), so that a crash leaves nothing behind; where the file system cannot do that, under a hidden
+/// name that nobody else has. Unless commit() succeeds, the folder is left as it was: earlier files of the
+/// same names untouched or put back, nothing temporary, and no folder that was made for this. A file never
+/// has a moment without either its earlier or its new content.
 class AtomicFiles
 {
 public:
@@ -33,9 +34,14 @@ public:
     AtomicFiles(AtomicFiles &&) noexcept;
     AtomicFiles &operator=(AtomicFiles &&) = delete;
 
+    /// Who may read a file.
+    enum class Access {
+        AnyNewFile, ///< as any new file of this user
+        OwnerOnly,
+    };
     /// Begins a file. `name` is its final name, without a folder. The device belongs to this object and is
     /// valid until commit().
-    Result<QIODevice *, OutputFault> add(const QString &name);
+    Result<QIODevice *, OutputFault> add(const QString &name, Access access = Access::AnyNewFile);
     /// The failure of the first file that could not be written, by its final name.
     std::optional<Failure<OutputFault>> writeFailure() const;
     /// Brings all files to the disk, then gives them their names, replacing earlier files. Answers their
@@ -46,9 +52,8 @@ private:
     struct File
     {
         QByteArray name;      ///< The final one, in the file system's encoding.
-        QByteArray temporary; ///< Where it is written.
-        QByteArray
-            earlier; ///< Where an earlier file of that name is kept meanwhile; empty when there is none.
+        QByteArray temporary; ///< Its hidden name; empty as long as it has none.
+        QByteArray earlier;   ///< Another name of an earlier file; empty when there is none.
         std::unique_ptr<DescriptorDevice> device;
         bool isInPlace = false;
     };
@@ -57,12 +62,14 @@ private:
 
     int makeFolders();
     QString pathOf(const QByteArray &name) const;
+    int finish(File &file) const;
+    int keepEarlier(File &file) const;
     int putInPlace(File &file) const;
     void takeBack(File &file) const;
     void discard();
 
     QString folder_; ///< Absolute.
-    FileDescriptor descriptor_;
+    pdekit::FileDescriptor descriptor_;
     std::vector<QByteArray> madeFolders_; ///< From the top down.
     std::vector<File> files_;
 };

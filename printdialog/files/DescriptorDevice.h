@@ -14,10 +14,12 @@ namespace printdialog {
 class DescriptorDevice final : public QIODevice
 {
 public:
-    explicit DescriptorDevice(FileDescriptor descriptor);
+    explicit DescriptorDevice(pdekit::FileDescriptor descriptor);
 
     /// The first error of a write, or 0.
     int error() const { return error_; }
+    /// Gives a file without a name the name `name` in the folder. Answers the error, or 0.
+    int link(int folder, const QByteArray &name) const;
     /// Brings what was written to the disk and closes the descriptor. Answers the first error of all, or 0.
     int finish();
 
@@ -26,7 +28,7 @@ protected:
     qint64 writeData(const char *data, qint64 size) override;
 
 private:
-    FileDescriptor descriptor_;
+    pdekit::FileDescriptor descriptor_;
     int error_ = 0;
 };
 

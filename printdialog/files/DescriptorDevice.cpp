@@ -4,18 +4,26 @@
 #include "DescriptorDevice.h"
 
 #include <cerrno>
+#include <fcntl.h>
+#include <unistd.h>
 
 namespace printdialog {
 
-DescriptorDevice::DescriptorDevice(FileDescriptor descriptor)
+DescriptorDevice::DescriptorDevice(pdekit::FileDescriptor descriptor)
     : descriptor_(std::move(descriptor))
 {
     open(QIODevice::WriteOnly | QIODevice::Unbuffered);
 }
 
+int DescriptorDevice::link(int folder, const QByteArray &name) const
+{
+    const QByteArray self = "/proc/self/fd/" + QByteArray::number(descriptor_.number());
+    return ::linkat(AT_FDCWD, self.constData(), folder, name.constData(), AT_SYMLINK_FOLLOW) == 0 ? 0 : errno;
+}
+
 int DescriptorDevice::finish()
 {
-    if (error_ == 0 && ::fsync(descriptor_.value()) != 0)
+    if (error_ == 0 && ::fsync(descriptor_.number()) != 0)
         error_ = errno;
     // Network file systems tell only now that they could not store it.
     if (::close(descriptor_.release()) != 0 && error_ == 0 && errno != EINTR)
@@ -33,7 +41,7 @@ qint64 DescriptorDevice::writeData(const char *data, qint64 size)
     qint64 done = 0;
     while (done < size && error_ == 0) {
         const ssize_t count =
-            ::write(descriptor_.value(), data + done, static_cast<std::size_t>(size - done));
+            ::write(descriptor_.number(), data + done, static_cast<std::size_t>(size - done));
         if (count >= 0) {
             done += count;
         } else if (errno != EINTR) {

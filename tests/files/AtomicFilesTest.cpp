@@ -1,0 +1,110 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "AtomicFiles.h"
+
+#include <QtCore/QDir>
+#include <QtCore/QFile>
+#include <QtCore/QRandomGenerator>
+#include <QtCore/QTemporaryDir>
+#include <QtTest/QTest>
+
+#include <csignal>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+using namespace printdialog;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr qsizetype contentSize = 300'000;
+constexpr int kills = 100;
+
+QByteArray contentOf(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+bool replace(const QString &folder, char letter, AtomicFiles::Access access = AtomicFiles::Access::AnyNewFile)
+{
+    auto files = AtomicFiles::open(folder);
+    if (!files)
+        return false;
+    auto device = files->add(u"file"_s, access);
+    return device && (*device)->write(QByteArray(contentSize, letter)) == contentSize && files->commit();
+}
+
+} // namespace
+
+class AtomicFilesTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void nothingIsSeenBeforeItIsWhole();
+    void killedAtAnyMoment();
+    void staleFilesGo();
+};
+
+void AtomicFilesTest::nothingIsSeenBeforeItIsWhole()
+{
+    const QTemporaryDir folder;
+    const auto seen = [&folder] {
+        return QDir(folder.path()).entryList(QDir::Files | QDir::Hidden, QDir::Name);
+    };
+    QVERIFY(replace(folder.path(), 'a'));
+    {
+        auto files = AtomicFiles::open(folder.path());
+        QVERIFY(files);
+        auto device = files->add(u"other"_s, AtomicFiles::Access::OwnerOnly);
+        QVERIFY(device && (*device)->write("x") == 1);
+        QCOMPARE(seen(), QStringList{u"file"_s});
+    }
+    QCOMPARE(seen(), QStringList{u"file"_s});
+    QVERIFY(replace(folder.path(), 'b', AtomicFiles::Access::OwnerOnly));
+    QCOMPARE(contentOf(folder.filePath(u"file"_s)), QByteArray(contentSize, 'b'));
+    QCOMPARE(seen(), QStringList{u"file"_s});
+    struct stat status = {};
+    QCOMPARE(::stat(QFile::encodeName(folder.filePath(u"file"_s)).constData(), &status), 0);
+    QCOMPARE(status.st_mode & 0777, mode_t(0600));
+}
+
+// A process that replaces the file again and again is killed: what is left is one of its contents, whole.
+void AtomicFilesTest::killedAtAnyMoment()
+{
+    const QTemporaryDir folder;
+    QVERIFY(replace(folder.path(), 'A'));
+    for (int kill = 0; kill < kills; ++kill) {
+        const pid_t child = fork();
+        if (child == 0) {
+            for (int i = 0;; ++i)
+                replace(folder.path(), static_cast<char>('a' + i % 26));
+        }
+        QVERIFY(child > 0);
+        usleep(static_cast<useconds_t>(QRandomGenerator::global()->bounded(200, 6000)));
+        QCOMPARE(::kill(child, SIGKILL), 0);
+        QCOMPARE(waitpid(child, nullptr, 0), child);
+        const QByteArray content = contentOf(folder.filePath(u"file"_s));
+        QCOMPARE(content.size(), contentSize);
+        QCOMPARE(content.count(content.front()), contentSize);
+    }
+}
+
+void AtomicFilesTest::staleFilesGo()
+{
+    const QTemporaryDir folder;
+    for (const auto &[name, age] : {std::pair(u".corvel-print-old"_s, 7200), {u".corvel-print-new"_s, 0}}) {
+        QFile file(folder.filePath(name));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        QVERIFY(file.setFileTime(QDateTime::currentDateTime().addSecs(-age), QFile::FileModificationTime));
+    }
+    QVERIFY(replace(folder.path(), 'a'));
+    QVERIFY(!QFile::exists(folder.filePath(u".corvel-print-old"_s)));
+    QVERIFY(QFile::exists(folder.filePath(u".corvel-print-new"_s)));
+}
+
+QTEST_GUILESS_MAIN(AtomicFilesTest)
+#include "AtomicFilesTest.moc"
