@@ -25,6 +25,12 @@ enum RunResult : std::int32_t {
     runBusy = -1,
 };
 
+#ifdef CORVEL_WRITES_BACKEND_COMMAND
+constexpr bool writesCommand = true;
+#else
+constexpr bool writesCommand = false;
+#endif
+
 constexpr useconds_t launchPause = 10'000; // microseconds, for the child to come up
 const QString backendName = QStringLiteral("velta");
 
@@ -77,15 +83,13 @@ void writeCommand(const pdekit::FileDescriptor &standardInput, const veltaTaskCo
         return;
     }
     systemLog(QStringLiteral("writing %1 bytes to the velta backend.\n").arg(length));
-#ifdef CORVEL_WRITES_BACKEND_COMMAND
+    if (!writesCommand)
+        return;
     try {
         writeData(standardInput, context.command, static_cast<std::size_t>(length));
     } catch (const pdekit::PlatformException &) {
         // A backend that does not read its command says so itself, on its standard error.
     }
-#else
-    Q_UNUSED(standardInput)
-#endif
 }
 
 } // namespace

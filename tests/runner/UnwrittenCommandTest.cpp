@@ -1,0 +1,31 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "BackendRun.h"
+
+#include <QtTest/QTest>
+
+class UnwrittenCommandTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void nothingIsWritten();
+};
+
+// The log is the same, and the backend sees the end of its input.
+void UnwrittenCommandTest::nothingIsWritten()
+{
+    BackendRun run("reads");
+    run.installInBundle();
+    run.command("print\n");
+    QCOMPARE(run.start(), 0);
+    QTRY_VERIFY(run.isIdle());
+    QCOMPARE(run.dialog.log, run.launchLines(6));
+    QFile input(run.folder.filePath(text("input")));
+    QVERIFY(input.open(QIODevice::ReadOnly));
+    QCOMPARE(input.readAll(), QByteArray());
+}
+
+QTEST_MAIN(UnwrittenCommandTest)
+#include "UnwrittenCommandTest.moc"
