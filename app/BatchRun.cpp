@@ -4,10 +4,13 @@
 #include "BatchRun.h"
 
 #include "Console.h"
+#include "JobPlan.h"
 #include "PhotoList.h"
 #include "PhotoPrinter.h"
 #include "RequestedSession.h"
 #include "SummaryLines.h"
+
+#include <QtCore/QJsonArray>
 
 namespace printdialog {
 
@@ -61,35 +64,106 @@ int BatchRun::run()
     job.page = {page->points, page->imageable};
     job.options = options->options;
     job.summary = summaryOf(summary);
-    return printAll(*photos, **session, job);
+    const PrinterDescription &printer = (*session)->printer();
+    job.queue = printer.hasPpd ? QueueTerms::ofPpd(ppd) : QueueTerms::withoutPpd();
+    return commandLine_.dryRun ? showPlan(*photos, printer, job) : printAll(*photos, printer, job);
 }
 
-int BatchRun::printAll(PhotoList &photos, const DialogSession &session, const PrintJob &job)
+int BatchRun::showPlan(PhotoList &photos, const PrinterDescription &printer, const PrintJob &job)
 {
-    const PrinterDescription &printer = session.printer();
-    const PrintTarget target{printer.isBuiltIn ? QString() : printer.name, commandLine_.output};
-    PhotoPrinter photoPrinter(target);
-    QStringList done;
-    const auto failAfter = [&](const QString &sentence) {
-        if (done.isEmpty())
-            return fail(sentence);
-        return fail(tr("%1 Printed before it: %2.").arg(sentence, done.join(QLatin1String(", "))));
-    };
+    PrintedNames names;
+    QJsonArray array;
+    QStringList lines;
     for (qsizetype i = 0; i < photos.size(); ++i) {
         const auto photo = photos.take(i);
         if (!photo)
-            return failAfter(photo.failure().text);
-        const auto printed = photoPrinter.print(*photo, job);
-        if (!printed)
-            return failAfter(printed.failure().text);
-        console_.writeLine(printedText(*photo, target, *printed));
-        done.append(photo->fileName());
+            return fail(photo.failure().text);
+        const auto plan = JobPlan::make(*photo, printer, job, commandLine_.output, names);
+        if (!plan)
+            return fail(plan.failure().text);
+        array.append(plan->json());
+        if (i > 0)
+            lines.append(QString());
+        lines += plan->lines();
     }
+    if (commandLine_.json)
+        console_.writeJson(array);
+    else
+        console_.writeLines(lines);
     return exitDone;
+}
+
+int BatchRun::printAll(PhotoList &photos, const PrinterDescription &printer, const PrintJob &job)
+{
+    const PrintTarget target{printer.isBuiltIn ? QString() : printer.name, commandLine_.output};
+    QString current;
+    JobControl control;
+    control.cancel = interrupt_.flag();
+    control.sent = [this, &current](qint64 sent, qint64 total) {
+        progress_.show(current, sent, total);
+    };
+    PhotoPrinter photoPrinter(target, control);
+    SentJobs jobs(target.queue);
+    for (qsizetype i = 0; i < photos.size(); ++i) {
+        const auto photo = photos.take(i);
+        if (!photo)
+            return failAfterDone(photo.failure().text);
+        if (interrupt_.isRaised())
+            return takeBack(jobs);
+        current = photo->fileName();
+        progress_.show(current);
+        const auto printed = photoPrinter.print(*photo, job);
+        if (!printed && interrupt_.isRaised())
+            return takeBack(jobs);
+        if (!printed)
+            return failAfterDone(printed.failure().text);
+        progress_.clear();
+        console_.writeLine(printedText(*photo, target, *printed));
+        if (const int *id = std::get_if<int>(&*printed))
+            jobs.add(current, *id);
+        done_.append(current);
+    }
+    return jobs.isEmpty() || commandLine_.wait == std::chrono::seconds(0) ? static_cast<int>(exitDone)
+                                                                          : followAll(jobs);
+}
+
+int BatchRun::followAll(const SentJobs &jobs)
+{
+    FollowLimits limits;
+    if (commandLine_.wait)
+        limits.total = *commandLine_.wait;
+    const auto show = [this](int photo, const QString &state) {
+        progress_.show(tr("%1: %2").arg(done_.value(photo), state));
+    };
+    const SentJobs::Outcome outcome = jobs.follow(limits, show, interrupt_.flag());
+    progress_.clear();
+    if (interrupt_.isRaised())
+        return takeBack(jobs);
+    for (const QString &waiting : outcome.waiting)
+        console_.complain(waiting);
+    return outcome.failure ? fail(*outcome.failure) : static_cast<int>(exitDone);
+}
+
+int BatchRun::takeBack(const SentJobs &jobs)
+{
+    progress_.clear();
+    const QStringList failures = jobs.cancel();
+    if (!failures.isEmpty())
+        return fail(failures.join(u' '));
+    return fail(jobs.isEmpty() ? tr("Cancelled; nothing more is printed.")
+                               : tr("Cancelled; the jobs sent were taken back from the printer."));
+}
+
+int BatchRun::failAfterDone(const QString &sentence)
+{
+    if (done_.isEmpty())
+        return fail(sentence);
+    return fail(tr("%1 Printed before it: %2.").arg(sentence, done_.join(QLatin1String(", "))));
 }
 
 int BatchRun::fail(const QString &sentence)
 {
+    progress_.clear();
     console_.complain(sentence);
     return exitFailed;
 }

@@ -5,6 +5,9 @@
 
 #include "CommandLine.h"
 #include "DialogSession.h"
+#include "InterruptFlag.h"
+#include "ProgressLine.h"
+#include "SentJobs.h"
 
 #include <QtCore/QCoreApplication>
 
@@ -15,7 +18,8 @@ class PhotoList;
 struct PrintJob;
 
 /// Printing without a window. Everything is looked at before anything is printed: the photos, the printer,
-/// each choice. Main thread; blocks until the last photo is printed.
+/// each choice. Main thread; blocks until the last photo is printed, or a queue's jobs have been followed as
+/// long as the command line has it. Interrupted, it cancels what it has sent and fails.
 class BatchRun
 {
     Q_DECLARE_TR_FUNCTIONS(BatchRun)
@@ -24,15 +28,23 @@ public:
     /// Both are borrowed.
     BatchRun(const CommandLine &commandLine, Console &console);
 
-    /// Prints, writes a line for each printed photo and complains about the first thing that went wrong.
+    /// Prints, writes a line for each printed photo and complains about the first thing that went wrong. A
+    /// dry run shows what would be sent instead.
     int run();
 
 private:
     int fail(const QString &sentence);
-    int printAll(PhotoList &photos, const DialogSession &session, const PrintJob &job);
+    int failAfterDone(const QString &sentence);
+    int showPlan(PhotoList &photos, const PrinterDescription &printer, const PrintJob &job);
+    int printAll(PhotoList &photos, const PrinterDescription &printer, const PrintJob &job);
+    int followAll(const SentJobs &jobs);
+    int takeBack(const SentJobs &jobs);
 
     const CommandLine &commandLine_;
     Console &console_;
+    InterruptFlag interrupt_;
+    ProgressLine progress_;
+    QStringList done_; ///< the names of the photos that were printed or sent
 };
 
 } // namespace printdialog

@@ -7,6 +7,7 @@
 
 #include <QtCore/QCommandLineParser>
 #include <QtCore/QCoreApplication>
+#include <QtCore/QRegularExpression>
 
 #include <array>
 
@@ -45,6 +46,16 @@ constexpr std::array optionRows = {
               QT_TRANSLATE_NOOP("CommandLine",
                                 "no window: apply the options, print, exit; what the window has\n"
                                 "saved is not used, so that a script gets the same each time")},
+    OptionRow{"dry-run", nullptr,
+              QT_TRANSLATE_NOOP("CommandLine", "show exactly what --batch would send, and send nothing")},
+    OptionRow{"wait", "SECONDS",
+              QT_TRANSLATE_NOOP("CommandLine",
+                                "how long --batch follows its jobs at most (0: not at all); otherwise to\n"
+                                "their end. It never waits longer than 10 seconds for a job that is held\n"
+                                "or whose printer is stopped, nor than 10 minutes without any news: such a\n"
+                                "job stays with the print server, and that is told, with exit status 0")},
+    OptionRow{"server", "HOST[:PORT]",
+              QT_TRANSLATE_NOOP("CommandLine", "the print server to ask, instead of this machine's own")},
     OptionRow{"list-printers", nullptr,
               QT_TRANSLATE_NOOP("CommandLine", "list the printers, one per line: name, description, state,\n"
                                                "\"default\"; separated by tabs")},
@@ -53,7 +64,7 @@ constexpr std::array optionRows = {
     OptionRow{"summary", nullptr,
               QT_TRANSLATE_NOOP("CommandLine", "show what the panels say about the choices; with --batch\n"
                                                "as well as printing")},
-    OptionRow{"json", nullptr, QT_TRANSLATE_NOOP("CommandLine", "lists and summary as JSON")},
+    OptionRow{"json", nullptr, QT_TRANSLATE_NOOP("CommandLine", "lists, summary and --dry-run as JSON")},
     OptionRow{"screenshot", "DIR",
               QT_TRANSLATE_NOOP("CommandLine", "save a picture of the dialog with each panel in DIR, exit")},
     OptionRow{"h,help", nullptr, QT_TRANSLATE_NOOP("CommandLine", "show this help")},
@@ -102,6 +113,37 @@ Fault readMode(const QCommandLineParser &parser, PanelMode &mode)
     return std::nullopt;
 }
 
+/// The address of a server as CUPS takes it: a name or number with a port if wanted, or a socket's path.
+Fault readServer(const QCommandLineParser &parser, std::optional<QString> &server)
+{
+    if (Fault found = readValue(parser, "server", server); found || !server)
+        return found;
+    static const QRegularExpression address(QStringLiteral(
+        "\\A(?:/[^\\x00-\\x1f]+|(?:[A-Za-z0-9._-]+|\\[[0-9A-Fa-f:.%]+\\])(?::([0-9]{1,5}))?)\\z"));
+    const QRegularExpressionMatch match = address.match(*server);
+    const int port = match.captured(1).isEmpty() ? 631 : match.captured(1).toInt();
+    if (match.hasMatch() && port >= 1 && port <= 65535)
+        return std::nullopt;
+    return fault(UsageFault::Value,
+                 Text::tr("\"%1\" is no print server; it is given as HOST or HOST:PORT.").arg(*server));
+}
+
+Fault readWait(const QCommandLineParser &parser, std::optional<std::chrono::seconds> &wait)
+{
+    std::optional<QString> text;
+    if (Fault found = readValue(parser, "wait", text); found || !text)
+        return found;
+    constexpr int longest = 7 * 24 * 60 * 60;
+    bool isNumber = false;
+    const int seconds = text->toInt(&isNumber);
+    if (!isNumber || seconds < 0 || seconds > longest)
+        return fault(UsageFault::Value,
+                     Text::tr("\"%1\" is no time to wait; it is a number of seconds from 0 to %2.")
+                         .arg(*text, QString::number(longest)));
+    wait = std::chrono::seconds(seconds);
+    return std::nullopt;
+}
+
 Fault readChoices(const QCommandLineParser &parser, QList<RequestedChoice> &choices)
 {
     const QStringList values = parser.values(QStringLiteral("option"));
@@ -128,7 +170,9 @@ QStringList tasksOf(const CommandLine &line)
         tasks.append(QStringLiteral("--list-options"));
     if (line.screenshot)
         tasks.append(QStringLiteral("--screenshot"));
-    if (line.summary && !line.batch)
+    if (line.dryRun && !line.batch)
+        tasks.append(QStringLiteral("--dry-run"));
+    if (line.summary && !line.batch && !line.dryRun)
         tasks.append(QStringLiteral("--summary"));
     return tasks;
 }
@@ -147,10 +191,14 @@ Fault contradiction(const CommandLine &line)
     }
     if (line.batch && line.photos.isEmpty())
         return fault(UsageFault::Missing, Text::tr("--batch needs a photo to print."));
-    if (line.json && (line.batch || line.screenshot || tasks.isEmpty())) {
+    if (line.dryRun && line.photos.isEmpty())
+        return fault(UsageFault::Missing, Text::tr("--dry-run needs a photo."));
+    if (line.json && !line.dryRun && (line.batch || line.screenshot || tasks.isEmpty())) {
         return fault(UsageFault::Combination,
-                     Text::tr("--json is for --list-printers, --list-options and --summary."));
+                     Text::tr("--json is for --list-printers, --list-options, --summary and --dry-run."));
     }
+    if (line.wait && !line.batch)
+        return fault(UsageFault::Combination, Text::tr("--wait is for --batch."));
     return std::nullopt;
 }
 
@@ -175,6 +223,7 @@ Result<CommandLine, UsageFault> CommandLine::parse(const QStringList &arguments)
     CommandLine line;
     line.photos = parser.positionalArguments();
     line.batch = parser.isSet(QStringLiteral("batch"));
+    line.dryRun = parser.isSet(QStringLiteral("dry-run"));
     line.listPrinters = parser.isSet(QStringLiteral("list-printers"));
     line.listOptions = parser.isSet(QStringLiteral("list-options"));
     line.summary = parser.isSet(QStringLiteral("summary"));
@@ -188,7 +237,8 @@ Result<CommandLine, UsageFault> CommandLine::parse(const QStringList &arguments)
     for (const Fault &found :
          {readValue(parser, "printer", line.printer), readValue(parser, "ppd", line.ppd),
           readValue(parser, "output", output), readValue(parser, "screenshot", line.screenshot),
-          readMode(parser, line.mode), readChoices(parser, line.options), contradiction(line)}) {
+          readServer(parser, line.server), readWait(parser, line.wait), readMode(parser, line.mode),
+          readChoices(parser, line.options), contradiction(line)}) {
         if (found)
             return *found;
     }

@@ -9,6 +9,7 @@
 #include <QtCore/QList>
 #include <QtCore/QStringList>
 
+#include <chrono>
 #include <optional>
 
 namespace printdialog {
@@ -36,7 +37,8 @@ struct RequestedChoice
 };
 
 /// What the program is asked to do. A plain value. At most one of batch, listPrinters, listOptions and
-/// screenshot is set, and summary beside none of them but batch; without any of them it is the window.
+/// screenshot is set, summary beside none of them but batch, and dryRun likewise; without any of them it is
+/// the window.
 struct CommandLine
 {
     QStringList photos;
@@ -46,6 +48,10 @@ struct CommandLine
     QList<RequestedChoice> options; ///< in the order given
     QString output = QStringLiteral(".");
     bool batch = false;
+    bool dryRun = false;
+    std::optional<QString> server; ///< "host", "host:port" or a socket's path, fit for CUPS_SERVER
+    /// How long a job is followed at most; without it to its end.
+    std::optional<std::chrono::seconds> wait;
     bool listPrinters = false;
     bool listOptions = false;
     bool summary = false;
@@ -64,7 +70,7 @@ struct CommandLine
     /// Whether the printer is by its very name the built-in one.
     bool asksForBuiltInPrinter() const;
     /// Whether the task is done without any widget on a screen or in a picture.
-    bool runsWithoutWindow() const { return batch || listPrinters || listOptions || summary; }
+    bool runsWithoutWindow() const { return batch || dryRun || listPrinters || listOptions || summary; }
 };
 
 } // namespace printdialog

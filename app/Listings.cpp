@@ -7,6 +7,7 @@
 #include "OptionTable.h"
 #include "QueueList.h"
 #include "RequestedSession.h"
+#include "StateText.h"
 #include "SummaryLines.h"
 
 #include <QtCore/QCoreApplication>
@@ -53,21 +54,15 @@ QString stateKeyword(Queue::State state)
     return QStringLiteral("unknown");
 }
 
-QString stateText(const Queue &queue)
+QJsonArray jsonOf(const QList<Supply> &supplies)
 {
-    if (!queue.acceptsJobs)
-        return Text::tr("rejects jobs");
-    switch (queue.state) {
-    case Queue::State::Idle:
-        return Text::tr("ready");
-    case Queue::State::Processing:
-        return Text::tr("printing");
-    case Queue::State::Stopped:
-        return Text::tr("stopped");
-    case Queue::State::Unknown:
-        break;
-    }
-    return Text::tr("unknown");
+    QJsonArray array;
+    for (const Supply &supply : supplies)
+        array.append(QJsonObject{{QStringLiteral("name"), supply.name},
+                                 {QStringLiteral("level"),
+                                  supply.level ? QJsonValue(*supply.level) : QJsonValue(QJsonValue::Null)},
+                                 {QStringLiteral("low"), supply.isLow}});
+    return array;
 }
 
 QJsonObject jsonOf(const Queue &queue)
@@ -79,7 +74,11 @@ QJsonObject jsonOf(const Queue &queue)
         {QStringLiteral("model"), queue.makeAndModel},
         {QStringLiteral("state"), stateKeyword(queue.state)},
         {QStringLiteral("stateReasons"), QJsonArray::fromStringList(queue.stateReasons)},
+        {QStringLiteral("stateText"), stateText(queue)},
         {QStringLiteral("acceptsJobs"), queue.acceptsJobs},
+        {QStringLiteral("supplies"), jsonOf(queue.supplies)},
+        {QStringLiteral("members"), QJsonArray::fromStringList(queue.members)},
+        {QStringLiteral("uri"), queue.uri},
         {QStringLiteral("default"), queue.isDefault},
         {QStringLiteral("builtIn"), queue.isBuiltIn},
     };

@@ -3,13 +3,10 @@
 
 #include "RequestedSession.h"
 
-#include "PpdFetcher.h"
 #include "QueueList.h"
 #include "SessionOpening.h"
 
 #include <QtCore/QCoreApplication>
-
-#include <algorithm>
 
 using namespace std::chrono_literals;
 
@@ -18,7 +15,7 @@ namespace printdialog {
 namespace {
 
 constexpr auto listPatience = 2s;
-constexpr auto ppdPatience = 10s;
+constexpr auto queuePatience = 10s;
 
 struct Text
 {
@@ -37,18 +34,13 @@ RequestedSessionResult orSentence(SessionResult session)
     return *std::move(session);
 }
 
-RequestedSessionResult openQueueNamed(const QString &id, const QList<Queue> &queues, PanelMode mode)
+RequestedSessionResult openQueueNamed(const QString &id, PanelMode mode)
 {
-    const auto queue =
-        std::find_if(queues.cbegin(), queues.cend(), [&id](const Queue &q) { return q.id() == id; });
-    const bool isListed = queue != queues.cend();
-    // Asked for its PPD the server says best what is wrong with a queue that it has not listed, or no more.
-    const auto ppd = fetchPpd(id, isListed ? ppdPatience : listPatience);
-    if (!ppd)
-        return refusal(ppd.failure().text);
-    if (!isListed)
-        return refusal(queueFailure(QueueFault::NotFound, id).text);
-    return orSentence(openQueue(*queue, *ppd, mode));
+    const auto opened = queueNamed(id, queuePatience);
+    if (!opened)
+        return refusal(opened.failure().text);
+    return orSentence(opened->hasPpd ? openQueue(opened->queue, opened->ppd, mode)
+                                     : openRawQueue(opened->queue, mode));
 }
 
 } // namespace
@@ -57,11 +49,10 @@ RequestedSessionResult openRequestedPrinter(const CommandLine &commandLine)
 {
     if (commandLine.ppd || commandLine.asksForBuiltInPrinter())
         return orSentence(openBuiltInPrinter(commandLine.ppd, commandLine.mode));
-    const QList<Queue> queues = listQueues(listPatience);
     if (commandLine.printer)
-        return openQueueNamed(*commandLine.printer, queues, commandLine.mode);
-    if (const std::optional<QString> id = defaultQueue(queues)) {
-        auto session = openQueueNamed(*id, queues, commandLine.mode);
+        return openQueueNamed(*commandLine.printer, commandLine.mode);
+    if (const std::optional<QString> id = defaultQueue(listQueues(listPatience))) {
+        auto session = openQueueNamed(*id, commandLine.mode);
         if (session)
             return session;
         return refusal(Text::tr("%1 It is your default printer; --printer names another one.")
@@ -77,6 +68,12 @@ RequestedSessionResult openRequestedSession(const CommandLine &commandLine)
         return session;
     if (const auto failure = (*session)->loadPanels())
         return refusal(failure->text);
+    const PrinterDescription &printer = (*session)->printer();
+    if (!printer.hasPpd && !commandLine.options.isEmpty())
+        return refusal(
+            Text::tr("The printer \"%1\" has no PPD file and so no option %2; leave it out, or set "
+                     "the printer up with its driver.")
+                .arg(printer.name, commandLine.options.constFirst().key));
     for (const RequestedChoice &requested : commandLine.options) {
         // Text that is only the beginning of a number is let through while somebody types; here nothing
         // follows it.

@@ -106,10 +106,10 @@ int runWithoutWindow(const CommandLine &commandLine)
 {
     pdekit::Feedback::install(std::make_shared<QuietFeedback>());
     Console console;
-    const int status = commandLine.batch          ? BatchRun(commandLine, console).run()
-                       : commandLine.listPrinters ? listPrinters(commandLine, console)
-                       : commandLine.listOptions  ? listOptions(commandLine, console)
-                                                  : showSummary(commandLine, console);
+    const int status = commandLine.batch || commandLine.dryRun ? BatchRun(commandLine, console).run()
+                       : commandLine.listPrinters              ? listPrinters(commandLine, console)
+                       : commandLine.listOptions               ? listOptions(commandLine, console)
+                                                               : showSummary(commandLine, console);
     return console.finish(status);
 }
 
@@ -130,6 +130,8 @@ int main(int argc, char *argv[])
     if (!commandLine || commandLine->help || commandLine->version)
         return runWithoutApplication(arguments, argc, argv);
 
+    if (commandLine->server)
+        qputenv("CUPS_SERVER", commandLine->server->toLocal8Bit());
     if (!choosePlatform(*commandLine))
         return failWithoutDisplay(argc, argv);
     QApplication application(argc, argv);

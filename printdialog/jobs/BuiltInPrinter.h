@@ -7,6 +7,7 @@
 #include "PageGeometry.h"
 #include "Photo.h"
 #include "PrintedNames.h"
+#include "QueueTerms.h"
 #include "Result.h"
 
 #include <QtCore/QMap>
@@ -22,6 +23,7 @@ struct PrintJob
     QMap<QString, QString> options; ///< Option keyword to choice keyword.
     QMap<QString, QString> summary; ///< What people are shown: label to text.
     int copies = 1;
+    QueueTerms queue; ///< Only for a queue.
 };
 
 /// The files that a job has left; absolute paths.

@@ -3,19 +3,21 @@
 
 #include "PhotoPrinter.h"
 
-#include "JobSubmission.h"
-#include "PdfWriter.h"
-
-#include <QtCore/QBuffer>
+#include "JobDocument.h"
 
 namespace printdialog {
 
 namespace {
 
-template <class Reason>
-Failure<std::monostate> sentenceOf(const Failure<Reason> &failure)
+Failure<PhotoPrinter::Fault> failureOf(const Failure<QueueFault> &failure)
 {
-    return {{}, failure.text, failure.detail};
+    return {failure.reason, failure.text, failure.detail};
+}
+
+template <class Reason>
+Failure<PhotoPrinter::Fault> sentenceOf(const Failure<Reason> &failure)
+{
+    return {std::nullopt, failure.text, failure.detail};
 }
 
 } // namespace
@@ -28,35 +30,46 @@ QString printedText(const Photo &photo, const PrintTarget &target, const Printed
         .arg(photo.fileName(), target.queue, QString::number(std::get<int>(printed)));
 }
 
-PhotoPrinter::PhotoPrinter(const PrintTarget &target)
+PhotoPrinter::PhotoPrinter(const PrintTarget &target, const JobControl &control)
     : target_(target)
+    , control_(control)
 {
 }
 
-Result<PrintedPhoto, std::monostate> PhotoPrinter::print(const Photo &photo, const PrintJob &job)
+Result<PrintedPhoto, PhotoPrinter::Fault> PhotoPrinter::print(const Photo &photo, const PrintJob &job)
 {
-    if (!target_.queue.isEmpty())
-        return submit(photo, job);
-    const auto files = BuiltInPrinter::print(photo, job, target_.outputFolder, &names_);
-    if (!files)
-        return sentenceOf(files.failure());
-    return PrintedPhoto(*files);
+    if (target_.queue.isEmpty()) {
+        const auto files = BuiltInPrinter::print(photo, job, target_.outputFolder, &names_);
+        if (!files)
+            return sentenceOf(files.failure());
+        return PrintedPhoto(*files);
+    }
+    const auto request = PhotoPrinter::request(photo, target_.queue, job);
+    if (!request)
+        return request.failure();
+    const auto id = submitJob(*request, control_);
+    if (!id)
+        return failureOf(id.failure());
+    return PrintedPhoto(*id);
 }
 
-Result<PrintedPhoto, std::monostate> PhotoPrinter::submit(const Photo &photo, const PrintJob &job)
+Result<JobRequest, PhotoPrinter::Fault> PhotoPrinter::request(const Photo &photo, const QString &queue,
+                                                              const PrintJob &job)
 {
-    SubmittedDocument document;
-    QBuffer buffer(&document.data);
-    buffer.open(QIODevice::WriteOnly);
-    const auto page = PdfWriter::write(photo, job.page, buffer);
-    if (!page)
-        return sentenceOf(page.failure());
-    document.mimeType = "application/pdf";
-    document.name = photo.fileName();
-    const auto jobId = submitJob(target_.queue, photo.fileName(), document, job.options, job.copies);
-    if (!jobId)
-        return sentenceOf(jobId.failure());
-    return PrintedPhoto(*jobId);
+    const auto document = jobDocument(photo, job);
+    if (!document)
+        return sentenceOf(document.failure());
+    JobRequest request;
+    request.queue = queue;
+    request.title = photo.fileName();
+    request.document = *document;
+    if (job.queue.hasPpd)
+        request.options = job.options;
+    request.copies = job.copies;
+    request.ppd = job.queue.ppd;
+    if (const auto unfit = whyUnfit(request))
+        return failureOf(*unfit);
+    return request;
 }
 
 } // namespace printdialog

@@ -4,7 +4,7 @@
 #pragma once
 
 #include "BuiltInPrinter.h"
-#include "QueueFault.h"
+#include "JobSubmission.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QStringList>
@@ -33,16 +33,21 @@ class PhotoPrinter
     Q_DECLARE_TR_FUNCTIONS(printdialog::PhotoPrinter)
 
 public:
-    explicit PhotoPrinter(const PrintTarget &target);
+    /// Why a photo was not printed, in one of the user's sentences. The reasons lie in too many places for
+    /// one enumeration to be of use; only the queue's own are told.
+    using Fault = std::optional<QueueFault>;
 
-    /// Prints the photo with the job's settings. The failure's reason is one of the user's sentences only:
-    /// what went wrong lies in too many places for one enumeration to be of use.
-    Result<PrintedPhoto, std::monostate> print(const Photo &photo, const PrintJob &job);
+    explicit PhotoPrinter(const PrintTarget &target, const JobControl &control = {});
+
+    /// Prints the photo with the job's settings: sends it to the queue, or leaves it as files.
+    Result<PrintedPhoto, Fault> print(const Photo &photo, const PrintJob &job);
+
+    /// What print() sends to the queue.
+    static Result<JobRequest, Fault> request(const Photo &photo, const QString &queue, const PrintJob &job);
 
 private:
-    Result<PrintedPhoto, std::monostate> submit(const Photo &photo, const PrintJob &job);
-
     PrintTarget target_;
+    JobControl control_;
     PrintedNames names_;
 };
 

@@ -14,6 +14,8 @@ struct PrinterDescription
     QString text;      ///< what people call it
     QString deviceUri; ///< empty when it is not known
     bool isBuiltIn = false;
+    bool hasPpd = true; ///< without one (a raw queue) there is nothing to choose
+    QString uri = {};   ///< the queue's address at its print server; empty for the built-in printer
 };
 
 /// How the dialog works with its panels.

@@ -3,6 +3,7 @@
 
 #include "SessionOpening.h"
 
+#include <QtCore/QCoreApplication>
 #include <QtCore/QFile>
 
 namespace printdialog {
@@ -11,7 +12,7 @@ namespace {
 
 PrinterDescription describe(const Queue &queue)
 {
-    return {queue.id(), queue.info, queue.deviceUri, queue.isBuiltIn};
+    return {queue.id(), queue.info, queue.deviceUri, queue.isBuiltIn, true, queue.uri};
 }
 
 SessionResult session(const Queue &queue, Result<PpdDocument, PpdFault> ppd, PanelMode mode)
@@ -27,6 +28,21 @@ QByteArray builtInPpd()
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
+/// What stands in for a PPD where there is none. Its page is for the preview only.
+QByteArray standIn()
+{
+    const QByteArray size = QCoreApplication::translate("SessionOpening", "As set at the printer").toUtf8();
+    return "*PPD-Adobe: \"4.3\"\n*FormatVersion: \"4.3\"\n*FileVersion: \"1.0\"\n"
+           "*LanguageVersion: English\n*LanguageEncoding: UTF-8\n*PCFileName: \"NONE.PPD\"\n"
+           "*Manufacturer: \"None\"\n*Product: \"(None)\"\n*ModelName: \"None\"\n*ShortNickName: \"None\"\n"
+           "*NickName: \"None\"\n*PSVersion: \"(3010.000) 0\"\n"
+           "*OpenUI *PageSize: PickOne\n*DefaultPageSize: AtPrinter\n*PageSize AtPrinter/" +
+           size +
+           ": \"\"\n*CloseUI: *PageSize\n*DefaultImageableArea: AtPrinter\n"
+           "*ImageableArea AtPrinter: \"0 0 288 432\"\n*DefaultPaperDimension: AtPrinter\n"
+           "*PaperDimension AtPrinter: \"288 432\"\n";
+}
+
 } // namespace
 
 SessionResult openBuiltInPrinter(const std::optional<QString> &ppdFile, PanelMode mode)
@@ -40,6 +56,16 @@ SessionResult openBuiltInPrinter(const std::optional<QString> &ppdFile, PanelMod
 SessionResult openQueue(const Queue &queue, const QByteArray &ppd, PanelMode mode)
 {
     return session(queue, PpdDocument::fromData(ppd, queue.id()), mode);
+}
+
+SessionResult openRawQueue(const Queue &queue, PanelMode mode)
+{
+    auto ppd = PpdDocument::fromData(standIn(), queue.id());
+    if (!ppd)
+        return ppd.failure();
+    PrinterDescription printer = describe(queue);
+    printer.hasPpd = false;
+    return std::make_unique<DialogSession>(printer, *std::move(ppd), mode);
 }
 
 } // namespace printdialog

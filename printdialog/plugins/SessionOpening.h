@@ -16,4 +16,8 @@ SessionResult openBuiltInPrinter(const std::optional<QString> &ppdFile, PanelMod
 /// A session for a queue with the PPD that the server has handed out. Panels are not loaded yet.
 SessionResult openQueue(const Queue &queue, const QByteArray &ppd, PanelMode mode);
 
+/// A session for a queue without a PPD: it has no options and no panels, and one page size, which stands for
+/// whatever is set at the printer.
+SessionResult openRawQueue(const Queue &queue, PanelMode mode);
+
 } // namespace printdialog

@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <array>
+#include <atomic>
 #include <csignal>
 #include <mutex>
 
@@ -71,11 +72,29 @@ QByteArray textOf(ipp_t *answer, const char *name)
 
 } // namespace
 
+IppPointer ippRequest(ipp_op_t operation, const QByteArray &uri)
+{
+    IppPointer request(ippNewRequest(operation));
+    ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_URI, "printer-uri", nullptr, uri.constData());
+    ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "requesting-user-name", nullptr, cupsUser());
+    return request;
+}
+
+QStringList textsOf(ipp_t *answer, const char *attribute)
+{
+    QStringList texts;
+    ipp_attribute_t *found = ippFindAttribute(answer, attribute, IPP_TAG_ZERO);
+    for (int i = 0; found && i < ippGetCount(found); ++i) {
+        if (const char *text = ippGetString(found, i, nullptr))
+            texts.append(QString::fromUtf8(text));
+    }
+    return texts;
+}
+
 CupsConnection::CupsConnection(std::chrono::milliseconds limit, int *cancel)
     : limit_(limit)
     , cancel_(cancel)
 {
-    extend();
     initializeCups();
     cupsSetPasswordCB2(noPassword, nullptr);
     // libcups keeps the server's name for the life of a thread; a socket that appears later must be seen.
@@ -88,21 +107,39 @@ CupsConnection::CupsConnection(std::chrono::milliseconds limit, int *cancel)
     const auto connectLimit = isLocal ? std::min<std::chrono::milliseconds>(limit, loopbackLimit) : limit;
     http_.reset(httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, cupsEncryption(), 1,
                              static_cast<int>(connectLimit.count()), cancel));
+    if (!http_)
+        return;
+    socketLimit_ = std::make_unique<SocketLimit>(http_.get(), SocketLimit::Clock::now() + limit_, cancel);
+    httpSetTimeout(http_.get(), std::chrono::duration<double>(cancelInterval).count(), goesOn, this);
+}
+
+CupsConnection::~CupsConnection()
+{
     if (http_)
-        httpSetTimeout(http_.get(), std::chrono::duration<double>(cancelInterval).count(), goesOn, this);
+        httpSetTimeout(http_.get(), std::chrono::duration<double>(cancelInterval).count(), nullptr, nullptr);
 }
 
 void CupsConnection::extend()
 {
-    deadline_ = std::chrono::steady_clock::now() + limit_;
+    if (socketLimit_)
+        socketLimit_->setDeadline(SocketLimit::Clock::now() + limit_);
+}
+
+bool CupsConnection::isCancelled() const
+{
+    return cancel_ && std::atomic_ref(*cancel_).load() != 0;
+}
+
+void CupsConnection::ignoreCancel()
+{
+    cancel_ = nullptr;
+    if (socketLimit_)
+        socketLimit_->ignoreCancel();
 }
 
 int CupsConnection::goesOn(http_t *, void *self)
 {
-    auto *connection = static_cast<CupsConnection *>(self);
-    const bool cancelled = connection->cancel_ && *connection->cancel_ != 0;
-    connection->timedOut_ = cancelled || std::chrono::steady_clock::now() >= connection->deadline_;
-    return connection->timedOut_ ? 0 : 1;
+    return static_cast<CupsConnection *>(self)->socketLimit_->isOver() ? 0 : 1;
 }
 
 QString CupsConnection::unreachableReason() const
@@ -112,11 +149,13 @@ QString CupsConnection::unreachableReason() const
 
 Failure<QueueFault> CupsConnection::lastFailure(const QString &queue) const
 {
-    if (timedOut_) {
+    if (isCancelled())
+        return queueFailure(QueueFault::Cancelled, queue);
+    if (socketLimit_ && socketLimit_->isOver()) {
         const double seconds = std::chrono::duration<double>(limit_).count();
         return queueFailure(
             QueueFault::TimedOut, queue,
-            QCoreApplication::translate("CupsConnection", "it was silent for %1 s").arg(seconds));
+            QCoreApplication::translate("CupsConnection", "it gave no answer within %1 s").arg(seconds));
     }
     return queueFailure(faultOf(cupsLastError()), queue, QString::fromUtf8(cupsLastErrorString()));
 }
@@ -138,10 +177,8 @@ Result<QueueRecord, QueueFault> queueRecord(CupsConnection &connection, const QS
     httpAssembleURIf(HTTP_URI_CODING_ALL, uri.data(), static_cast<int>(uri.size()), "ipp", nullptr,
                      "localhost", 0, "/printers/%s", record.name.constData());
     static constexpr std::array wanted = {"printer-uri-supported", "printer-is-accepting-jobs",
-                                          "printer-state-message"};
-    IppPointer request(ippNewRequest(IPP_OP_GET_PRINTER_ATTRIBUTES));
-    ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_URI, "printer-uri", nullptr, uri.data());
-    ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "requesting-user-name", nullptr, cupsUser());
+                                          "printer-state", "printer-state-message", "printer-state-reasons"};
+    IppPointer request = ippRequest(IPP_OP_GET_PRINTER_ATTRIBUTES, uri.data());
     ippAddStrings(request.get(), IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes",
                   static_cast<int>(wanted.size()), nullptr, wanted.data());
     const IppPointer answer = connection.answerTo(std::move(request), "/");
@@ -151,6 +188,10 @@ Result<QueueRecord, QueueFault> queueRecord(CupsConnection &connection, const QS
     if (record.uri.isEmpty())
         record.uri = uri.data();
     record.stateMessage = QString::fromUtf8(textOf(answer.get(), "printer-state-message"));
+    record.stateReasons = textsOf(answer.get(), "printer-state-reasons");
+    record.stateReasons.removeAll(QStringLiteral("none"));
+    ipp_attribute_t *state = ippFindAttribute(answer.get(), "printer-state", IPP_TAG_ENUM);
+    record.isStopped = state && ippGetInteger(state, 0) == IPP_PSTATE_STOPPED;
     ipp_attribute_t *accepts = ippFindAttribute(answer.get(), "printer-is-accepting-jobs", IPP_TAG_BOOLEAN);
     record.acceptsJobs = !accepts || ippGetBoolean(accepts, 0) != 0;
     return record;

@@ -3,9 +3,12 @@
 
 #pragma once
 
+#include "PipeSignalBlock.h"
 #include "QueueFault.h"
+#include "SocketLimit.h"
 
 #include <QtCore/QByteArray>
+#include <QtCore/QStringList>
 
 #include <cups/cups.h>
 
@@ -30,10 +33,12 @@ using IppPointer = std::unique_ptr<ipp_t, IppDeleter>;
 class CupsConnection
 {
 public:
-    /// Connects. The limit is for connecting and for everything afterwards, until extend() starts it anew.
-    /// @param cancel non-zero once it shall give up, looked at ten times a second; outlives the connection;
-    /// may be null
+    /// Connects. The limit is for connecting and for everything afterwards, until extend() starts it anew; it
+    /// holds for a server that sends a byte now and then as well as for a silent one.
+    /// @param cancel non-zero once it shall give up, looked at twenty times a second; outlives the
+    /// connection; may be null
     explicit CupsConnection(std::chrono::milliseconds limit, int *cancel = nullptr);
+    ~CupsConnection();
     Q_DISABLE_COPY_MOVE(CupsConnection)
 
     bool isOpen() const { return http_ != nullptr; }
@@ -42,6 +47,10 @@ public:
     void extend();
     /// Why nobody was reached, for people.
     QString unreachableReason() const;
+
+    bool isCancelled() const;
+    /// From now on only the time limit ends it.
+    void ignoreCancel();
 
     /// What libcups' last call on this thread and connection failed with. To be called right after it.
     Failure<QueueFault> lastFailure(const QString &queue) const;
@@ -53,12 +62,12 @@ public:
 private:
     static int goesOn(http_t *, void *self);
 
+    PipeSignalBlock pipeSignalBlock_; ///< outlives the connection
     std::chrono::milliseconds limit_;
-    std::chrono::steady_clock::time_point deadline_;
     int *cancel_;
-    bool timedOut_ = false;
     QString server_;
     std::unique_ptr<http_t, HttpCloser> http_;
+    std::unique_ptr<SocketLimit> socketLimit_; ///< after what it watches
 };
 
 /// What has to be known of a queue before it is used.
@@ -68,8 +77,17 @@ struct QueueRecord
     QByteArray instance;
     QByteArray uri; ///< The queue's own, as the server gives it.
     QString stateMessage;
+    QStringList stateReasons; ///< Keywords.
     bool acceptsJobs = false;
+    bool isStopped = false;
 };
+
+/// A request with what every request about a printer or job begins with.
+/// @param uri of the queue, or of the server ("ipp://localhost/")
+IppPointer ippRequest(ipp_op_t operation, const QByteArray &uri);
+
+/// The values of an attribute as texts, as the server sends them; none when it has no such attribute.
+QStringList textsOf(ipp_t *answer, const char *attribute);
 
 /// Asks the server about a queue. Failures: NotFound, Refused, TimedOut, Failed.
 Result<QueueRecord, QueueFault> queueRecord(CupsConnection &connection, const QString &queueId);

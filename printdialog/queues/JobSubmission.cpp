@@ -5,13 +5,16 @@
 
 #include "CupsConnection.h"
 #include "PlainText.h"
+#include "PpdFetcher.h"
 
 #include <QtCore/QBuffer>
 #include <QtCore/QCoreApplication>
 #include <QtCore/QFile>
+#include <QtCore/QUrl>
 
 #include <algorithm>
 #include <array>
+#include <atomic>
 #include <optional>
 
 using namespace std::chrono_literals;
@@ -24,7 +27,6 @@ constexpr qsizetype keywordLimit = 255; // bytes in IPP's keywords
 constexpr qsizetype valueLimit = 255;   // bytes in IPP's names
 constexpr qsizetype titleLimit = 120;
 constexpr int copiesLimit = 9999;
-constexpr auto cancelLimit = 2s;
 
 struct Text
 {
@@ -44,10 +46,115 @@ bool isKeyword(const QString &text)
                        [](QChar c) { return c > u' ' && c < QChar(0x7f) && !separators.contains(c); });
 }
 
-/// What must not reach a server, told before anything is sent.
-std::optional<Failure<QueueFault>> objection(const SubmittedDocument &document,
-                                             const QMap<QString, QString> &options, int copies)
+/// Adds an option as the text that it is. libcups' own encoding is for IPP's attributes, whose types it
+/// knows: of a PPD's True and False it makes booleans, and the scheduler then hands "NoEdge=true" to the
+/// printer as "Edge=false".
+void addOption(ipp_t *request, const QByteArray &keyword, const QByteArray &value)
 {
+    const IppPointer probe(ippNew());
+    ipp_attribute_t *known = cupsEncodeOption(probe.get(), IPP_TAG_JOB, keyword.constData(), "x");
+    if (known && ippGetValueTag(known) != IPP_TAG_NAME)
+        cupsEncodeOption(request, IPP_TAG_JOB, keyword.constData(), value.constData());
+    else
+        ippAddString(request, IPP_TAG_JOB, IPP_TAG_NAME, keyword.constData(), nullptr, value.constData());
+}
+
+Failure<QueueFault> notReadToItsEnd(const SubmittedDocument &document, const QString &reason)
+{
+    return {QueueFault::Failed,
+            Text::tr("The file \"%1\" could not be read to its end (%2); nothing is printed.")
+                .arg(plainText(document.path, shownTextLimit), plainText(reason, shownTextLimit)),
+            {}};
+}
+
+/// One job in one request, with its document: the server makes the job when it has the last byte, so that
+/// whatever breaks off before leaves no job behind. Create-Job and Send-Document would leave an empty one
+/// whenever the way to the server is lost between them.
+class JobInMaking
+{
+public:
+    JobInMaking(CupsConnection &connection, const JobControl &control, const QueueRecord &record)
+        : connection_(connection)
+        , control_(control)
+        , record_(record)
+        , resource_(QUrl::fromEncoded(record.uri).path(QUrl::FullyEncoded).toLatin1())
+    {
+    }
+
+    Result<int, QueueFault> send(const JobRequest &job, QIODevice &source)
+    {
+        const IppPointer request = printJob(job);
+        const qint64 total = source.size();
+        connection_.extend();
+        // With its length told, a document that is cut off is never taken for a whole one.
+        const size_t length = ippLength(request.get()) + static_cast<size_t>(total);
+        bool isTaken = cupsSendRequest(connection_.http(), request.get(), resource_.constData(), length) ==
+                       HTTP_STATUS_CONTINUE;
+        std::array<char, 65536> chunk = {};
+        for (qint64 sent = 0; isTaken && sent < total;) {
+            const qint64 size = source.read(chunk.data(), std::min<qint64>(chunk.size(), total - sent));
+            if (size <= 0)
+                return notReadToItsEnd(job.document, source.errorString());
+            connection_.extend();
+            isTaken = cupsWriteRequestData(connection_.http(), chunk.data(), static_cast<size_t>(size)) ==
+                      HTTP_STATUS_CONTINUE;
+            sent += size;
+            if (isTaken && control_.sent)
+                control_.sent(sent, total);
+            if (connection_.isCancelled())
+                return queueFailure(QueueFault::Cancelled, job.queue);
+        }
+        return takeAnswer(job.queue);
+    }
+
+private:
+    IppPointer printJob(const JobRequest &job) const
+    {
+        IppPointer request = ippRequest(IPP_OP_PRINT_JOB, record_.uri);
+        ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "job-name", nullptr,
+                     plainText(job.title, titleLimit).toUtf8().constData());
+        ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "document-name", nullptr,
+                     plainText(job.document.name, titleLimit).toUtf8().constData());
+        ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_MIMETYPE, "document-format", nullptr,
+                     job.document.mimeType.constData());
+        ippAddInteger(request.get(), IPP_TAG_JOB, IPP_TAG_INTEGER, "copies", job.copies);
+        for (auto option = job.options.cbegin(); option != job.options.cend(); ++option)
+            addOption(request.get(), option.key().toUtf8(), option.value().toUtf8());
+        return request;
+    }
+
+    /// The server may have the whole job now: it is waited for even when the job is given up, so as to know
+    /// what to cancel. Where the server has stopped taking the document it says why.
+    Result<int, QueueFault> takeAnswer(const QString &queue)
+    {
+        connection_.ignoreCancel();
+        connection_.extend();
+        const IppPointer answer(cupsGetResponse(connection_.http(), resource_.constData()));
+        if (!answer || cupsLastError() > IPP_STATUS_OK_CONFLICTING)
+            return connection_.lastFailure(queue);
+        ipp_attribute_t *id = ippFindAttribute(answer.get(), "job-id", IPP_TAG_INTEGER);
+        if (!id)
+            return queueFailure(QueueFault::Failed, queue);
+        if (control_.cancel && std::atomic_ref(*control_.cancel).load() != 0) {
+            connection_.extend();
+            cupsCancelJob2(connection_.http(), record_.name.constData(), ippGetInteger(id, 0), 0);
+            return queueFailure(QueueFault::Cancelled, queue);
+        }
+        return ippGetInteger(id, 0);
+    }
+
+    CupsConnection &connection_;
+    const JobControl &control_;
+    QueueRecord record_;
+    QByteArray resource_;
+};
+
+} // namespace
+
+std::optional<Failure<QueueFault>> whyUnfit(const JobRequest &job)
+{
+    const SubmittedDocument &document = job.document;
+    const QMap<QString, QString> &options = job.options;
     for (auto option = options.cbegin(); option != options.cend(); ++option) {
         const QString keyword = plainText(option.key(), 80);
         if (!isKeyword(option.key()) || option.key() == QLatin1String("copies"))
@@ -76,159 +183,47 @@ std::optional<Failure<QueueFault>> objection(const SubmittedDocument &document,
         return refusal(
             Text::tr("The document \"%1\" is not sent, because its type has a control character in it.")
                 .arg(plainText(document.name, shownTextLimit)));
-    if (copies < 1 || copies > copiesLimit)
+    if (job.copies < 1 || job.copies > copiesLimit)
         return refusal(Text::tr("%1 copies cannot be printed; choose a number from 1 to %2.")
-                           .arg(QString::number(copies), QString::number(copiesLimit)));
+                           .arg(QString::number(job.copies), QString::number(copiesLimit)));
     return std::nullopt;
 }
 
-/// Adds an option as the text that it is. libcups' own encoding is for IPP's attributes, whose types it
-/// knows: of a PPD's True and False it makes booleans, and the scheduler then hands "NoEdge=true" to the
-/// printer as "Edge=false".
-void addOption(ipp_t *request, const QByteArray &keyword, const QByteArray &value)
+Result<int, QueueFault> submitJob(const JobRequest &job, const JobControl &control,
+                                  std::chrono::milliseconds patience)
 {
-    const IppPointer probe(ippNew());
-    ipp_attribute_t *known = cupsEncodeOption(probe.get(), IPP_TAG_JOB, keyword.constData(), "x");
-    if (known && ippGetValueTag(known) != IPP_TAG_NAME)
-        cupsEncodeOption(request, IPP_TAG_JOB, keyword.constData(), value.constData());
-    else
-        ippAddString(request, IPP_TAG_JOB, IPP_TAG_NAME, keyword.constData(), nullptr, value.constData());
-}
-
-struct DestinationList
-{
-    ~DestinationList() { cupsFreeDests(count, destinations); }
-
-    int count = 0;
-    cups_dest_t *destinations = nullptr;
-};
-
-struct InfoDeleter
-{
-    void operator()(cups_dinfo_t *info) const { cupsFreeDestInfo(info); }
-};
-
-/// One job on its way. Unless its document was sent to the end, it is cancelled when this goes.
-class JobInMaking
-{
-public:
-    JobInMaking(CupsConnection &connection, const QString &queue, const QueueRecord &record)
-        : connection_(connection)
-        , queue_(queue)
-        , uri_(record.uri)
-    {
-        list_.count = cupsAddDest(record.name.constData(), nullptr, 0, &list_.destinations);
-        cups_dest_t &destination = *list_.destinations;
-        // Only the address: of the destination's own options (lpoptions) none shall slip into the job.
-        destination.num_options =
-            cupsAddOption("printer-uri-supported", record.uri.constData(), 0, &destination.options);
-        info_.reset(cupsCopyDestInfo(connection.http(), &destination));
-    }
-    ~JobInMaking()
-    {
-        if (id_ <= 0 || isFinished_)
-            return;
-        // The connection may be in the middle of the document, or dead.
-        const CupsConnection fresh(cancelLimit);
-        if (fresh.isOpen())
-            cupsCancelJob2(fresh.http(), list_.destinations->name, id_, 0);
-    }
-    Q_DISABLE_COPY_MOVE(JobInMaking)
-
-    Result<int, QueueFault> send(const QString &title, const SubmittedDocument &document, QIODevice &source,
-                                 const QMap<QString, QString> &options, int copies)
-    {
-        if (!info_ || !create(title, options, copies))
-            return connection_.lastFailure(queue_);
-        http_t *http = connection_.http();
-        cups_dest_t *destination = list_.destinations;
-        connection_.extend();
-        const QByteArray name = plainText(document.name, titleLimit).toUtf8();
-        if (cupsStartDestDocument(http, destination, info_.get(), id_, name.constData(),
-                                  document.mimeType.constData(), 0, nullptr, 1) != HTTP_STATUS_CONTINUE)
-            return connection_.lastFailure(queue_);
-        std::array<char, 65536> chunk = {};
-        qint64 size = 0;
-        while ((size = source.read(chunk.data(), chunk.size())) > 0) {
-            connection_.extend();
-            if (cupsWriteRequestData(http, chunk.data(), static_cast<size_t>(size)) != HTTP_STATUS_CONTINUE)
-                return connection_.lastFailure(queue_);
-        }
-        if (size < 0)
-            return Failure<QueueFault>{
-                QueueFault::Failed,
-                Text::tr("The file \"%1\" could not be read to its end (%2); nothing is printed.")
-                    .arg(plainText(document.path, shownTextLimit),
-                         plainText(source.errorString(), shownTextLimit)),
-                {}};
-        connection_.extend();
-        if (cupsFinishDestDocument(http, destination, info_.get()) > IPP_STATUS_OK_CONFLICTING)
-            return connection_.lastFailure(queue_);
-        isFinished_ = true;
-        return id_;
-    }
-
-private:
-    /// Makes the job, without its document. False: libcups knows why.
-    bool create(const QString &title, const QMap<QString, QString> &options, int copies)
-    {
-        IppPointer request(ippNewRequest(IPP_OP_CREATE_JOB));
-        ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_URI, "printer-uri", nullptr, uri_.constData());
-        ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "requesting-user-name", nullptr,
-                     cupsUser());
-        ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "job-name", nullptr,
-                     plainText(title, titleLimit).toUtf8().constData());
-        ippAddInteger(request.get(), IPP_TAG_JOB, IPP_TAG_INTEGER, "copies", copies);
-        for (auto option = options.cbegin(); option != options.cend(); ++option)
-            addOption(request.get(), option.key().toUtf8(), option.value().toUtf8());
-        connection_.extend();
-        const IppPointer answer = connection_.answerTo(std::move(request), "/");
-        if (!answer || cupsLastError() > IPP_STATUS_OK_CONFLICTING)
-            return false;
-        ipp_attribute_t *id = ippFindAttribute(answer.get(), "job-id", IPP_TAG_INTEGER);
-        id_ = id ? ippGetInteger(id, 0) : 0;
-        return id_ > 0;
-    }
-
-    CupsConnection &connection_;
-    QString queue_;
-    QByteArray uri_;
-    DestinationList list_;
-    std::unique_ptr<cups_dinfo_t, InfoDeleter> info_;
-    int id_ = 0;
-    bool isFinished_ = false;
-};
-
-} // namespace
-
-Result<int, QueueFault> submitJob(const QString &queue, const QString &title,
-                                  const SubmittedDocument &document, const QMap<QString, QString> &options,
-                                  int copies, std::chrono::milliseconds patience)
-{
-    if (const auto failure = objection(document, options, copies))
+    if (const auto failure = whyUnfit(job))
         return *failure;
-    QFile file(document.path);
+    QFile file(job.document.path);
     QBuffer buffer;
-    buffer.setData(document.data);
-    QIODevice &source = document.path.isEmpty() ? static_cast<QIODevice &>(buffer) : file;
+    buffer.setData(job.document.data);
+    QIODevice &source = job.document.path.isEmpty() ? static_cast<QIODevice &>(buffer) : file;
     if (!source.open(QIODevice::ReadOnly))
         return Failure<QueueFault>{QueueFault::Failed,
                                    Text::tr("The file \"%1\" cannot be read (%2); nothing is printed.")
-                                       .arg(plainText(document.path, shownTextLimit),
+                                       .arg(plainText(job.document.path, shownTextLimit),
                                             plainText(source.errorString(), shownTextLimit)),
                                    {}};
+    // Nothing, or no regular file, which has no length to rely on.
+    if (source.size() <= 0)
+        return notReadToItsEnd(job.document, Text::tr("it is empty"));
 
-    CupsConnection connection(patience);
+    CupsConnection connection(patience, control.cancel);
     if (!connection.isOpen())
-        return queueFailure(QueueFault::NoServer, queue, connection.unreachableReason());
-    const auto record = queueRecord(connection, queue);
+        return queueFailure(QueueFault::NoServer, job.queue, connection.unreachableReason());
+    const auto record = queueRecord(connection, job.queue);
     if (!record)
         return record.failure();
     if (!record->acceptsJobs)
-        return queueFailure(QueueFault::NotAccepting, queue, record->stateMessage);
-
-    JobInMaking job(connection, queue, *record);
-    return job.send(title, document, source, options, copies);
+        return queueFailure(QueueFault::NotAccepting, job.queue, record->stateMessage);
+    if (job.ppd) {
+        const auto ppd = ppdOf(connection, *record);
+        if (!ppd && ppd.failure().reason != QueueFault::NoPpd)
+            return ppd.failure();
+        if ((ppd ? *ppd : QByteArray()) != *job.ppd)
+            return queueFailure(QueueFault::Changed, job.queue);
+    }
+    return JobInMaking(connection, control, *record).send(job, source);
 }
 
 } // namespace printdialog

@@ -79,18 +79,30 @@ Result<QByteArray, QueueFault> fetchHere(const QString &queue, std::chrono::mill
     const auto record = queueRecord(connection, queue);
     if (!record)
         return record.failure();
+    return ppdOf(connection, *record);
+}
 
+QString limitReason(std::chrono::milliseconds limit)
+{
+    return PpdFetcher::tr("its PPD did not arrive within %1 s")
+        .arg(std::chrono::duration<double>(limit).count());
+}
+
+} // namespace
+
+Result<QByteArray, QueueFault> ppdOf(CupsConnection &connection, const QueueRecord &record)
+{
+    const QString queue = QString::fromUtf8(record.name);
     // Not cupsGetPPD3: on a local socket it links to whatever lies under the queue's name in this machine's
     // own /etc/cups/ppd, and it opens a second connection, which has no time limit.
-    const QByteArray resource =
-        "/printers/" + QUrl::toPercentEncoding(QString::fromUtf8(record->name)) + ".ppd";
+    const QByteArray resource = "/printers/" + QUrl::toPercentEncoding(queue) + ".ppd";
     const MemoryFile file;
     if (file.descriptor() < 0)
         return queueFailure(QueueFault::Failed, queue, PpdFetcher::tr("there is no memory for its PPD"));
     const http_status_t status = cupsGetFd(connection.http(), resource.constData(), file.descriptor());
     if (status != HTTP_STATUS_OK) {
         const auto failure = connection.lastFailure(queue);
-        if (failure.reason == QueueFault::TimedOut)
+        if (failure.reason == QueueFault::TimedOut || failure.reason == QueueFault::Cancelled)
             return failure;
         return queueFailure(faultOf(status), queue, QString::fromUtf8(httpStatus(status)));
     }
@@ -105,14 +117,6 @@ Result<QByteArray, QueueFault> fetchHere(const QString &queue, std::chrono::mill
         return queueFailure(QueueFault::NoPpd, queue, PpdFetcher::tr("what the print server keeps is empty"));
     return ppd;
 }
-
-QString limitReason(std::chrono::milliseconds limit)
-{
-    return PpdFetcher::tr("its PPD did not arrive within %1 s")
-        .arg(std::chrono::duration<double>(limit).count());
-}
-
-} // namespace
 
 Result<QByteArray, QueueFault> fetchPpd(const QString &queue, std::chrono::milliseconds limit)
 {
@@ -164,7 +168,7 @@ void PpdFetcher::take(const Result<QByteArray, QueueFault> &outcome)
     if (outcome)
         Q_EMIT fetched(number_, *outcome);
     else
-        Q_EMIT failed(number_, outcome.failure().text);
+        Q_EMIT failed(number_, outcome.failure().reason, outcome.failure().text);
 }
 
 } // namespace printdialog

@@ -15,6 +15,8 @@
 namespace printdialog {
 
 class BoundedWorker;
+class CupsConnection;
+struct QueueRecord;
 
 /// The largest PPD that is taken from a server, in bytes.
 constexpr qsizetype fetchedPpdLimit = qsizetype(32) * 1024 * 1024;
@@ -24,6 +26,9 @@ constexpr qsizetype fetchedPpdLimit = qsizetype(32) * 1024 * 1024;
 /// left behind. Failures: all of QueueFault but NotAccepting.
 /// @param queue a queue's id; its instance makes no difference
 Result<QByteArray, QueueFault> fetchPpd(const QString &queue, std::chrono::milliseconds limit);
+
+/// The same over a connection that is open, within its limit.
+Result<QByteArray, QueueFault> ppdOf(CupsConnection &connection, const QueueRecord &record);
 
 /// Fetches PPDs without blocking. Everything about it happens on the thread that made it, where it needs an
 /// event loop; the server is asked by a worker thread that is left behind when it does not answer.
@@ -45,8 +50,8 @@ public:
 
 Q_SIGNALS:
     void fetched(quint64 number, const QByteArray &ppd);
-    /// One sentence for people, see queueFailure().
-    void failed(quint64 number, const QString &text);
+    /// With one sentence for people, see queueFailure().
+    void failed(quint64 number, printdialog::QueueFault reason, const QString &text);
 
 private:
     void take(const Result<QByteArray, QueueFault> &outcome);

@@ -3,11 +3,25 @@
 
 #pragma once
 
+#include <QtCore/QList>
 #include <QtCore/QMetaType>
 #include <QtCore/QString>
 #include <QtCore/QStringList>
 
+#include <optional>
+
 namespace printdialog {
+
+/// A ribbon, ink or other supply of a printer, as far as its server knows it. It informs; it never keeps a
+/// job from being sent.
+struct Supply
+{
+    QString name;             ///< For people, in the server's own words.
+    std::optional<int> level; ///< In percent; nothing when the server does not know it.
+    bool isLow = false;       ///< Below what the printer itself takes for low.
+
+    friend bool operator==(const Supply &, const Supply &) = default;
+};
 
 /// A printer that can be chosen: a queue of the print server, with the user's instance of it, or the built-in
 /// one. A plain value. Every text in it is plain text, cleaned of control characters and limited in length.
@@ -21,8 +35,12 @@ struct Queue
     QString location;     ///< Where it stands; may be empty.
     QString makeAndModel; ///< May be empty.
     QString deviceUri;    ///< Where the server sends its jobs; may be empty.
+    QString uri;          ///< The queue's own address at its server; may be empty.
     State state = State::Unknown;
     QStringList stateReasons; ///< Keywords such as "media-empty-error"; empty when there is nothing to say.
+    QString stateMessage;     ///< The server's own words about the state; may be empty.
+    QList<Supply> supplies;   ///< Empty when the server knows of none, as before a queue's first job.
+    QStringList members;      ///< Of a class: the names of its queues.
     bool acceptsJobs = false;
     bool isDefault = false; ///< The user's default, or else the server's.
     bool isClass = false;

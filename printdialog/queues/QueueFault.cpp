@@ -32,6 +32,10 @@ QString ownReason(QueueFault fault)
         return Text::tr("no permission");
     case QueueFault::TimedOut:
         return Text::tr("time limit reached");
+    case QueueFault::Changed:
+        return Text::tr("its PPD file is a new one");
+    case QueueFault::Cancelled:
+        return Text::tr("nothing is printed");
     case QueueFault::Failed:
         break;
     }
@@ -61,6 +65,12 @@ QString sentence(QueueFault fault)
         return Text::tr(
             "The print server did not answer about the printer \"%1\" in time (%2); try again, or restart "
             "CUPS.");
+    case QueueFault::Changed:
+        return Text::tr(
+            "The options of the printer \"%1\" have changed since they were chosen (%2); look at them and "
+            "print again.");
+    case QueueFault::Cancelled:
+        return Text::tr("The job for the printer \"%1\" was cancelled (%2).");
     case QueueFault::Failed:
         break;
     }

@@ -14,7 +14,9 @@ enum class QueueFault {
     NoPpd,        ///< The queue has no PPD (a raw queue, or a class of them).
     NotAccepting, ///< The queue rejects jobs.
     Refused,      ///< Not allowed by the server, or unfit to be sent to it.
-    TimedOut,     ///< The server was silent for too long.
+    TimedOut,     ///< The server was silent, or slow, for too long.
+    Changed,      ///< The queue's PPD is another one than that which the options were chosen from.
+    Cancelled,    ///< Given up by whoever had begun it.
     Failed        ///< Anything else; the server's own words say what.
 };
 

@@ -6,27 +6,62 @@
 #include "BoundedWorker.h"
 #include "CupsConnection.h"
 #include "PlainText.h"
+#include "PpdFetcher.h"
+#include "UserDestinations.h"
+
+#include <QtCore/QHash>
 
 #include <algorithm>
+#include <array>
 
 namespace printdialog {
 
 namespace {
 
-struct DestinationDeleter
+/// The attributes of one queue in an answer that tells of many.
+class QueueAttributes
 {
-    void operator()(cups_dest_t *destination) const { cupsFreeDests(1, destination); }
+public:
+    void add(ipp_attribute_t *attribute) { attributes_.insert(ippGetName(attribute), attribute); }
+
+    QStringList texts(const char *name) const
+    {
+        QStringList texts;
+        ipp_attribute_t *attribute = attributes_.value(name);
+        for (int i = 0; attribute && i < ippGetCount(attribute); ++i)
+            texts.append(plainText(QString::fromUtf8(ippGetString(attribute, i, nullptr)).simplified(),
+                                   shownTextLimit));
+        return texts;
+    }
+    QString text(const char *name) const { return texts(name).value(0); }
+
+    /// Of an integer or enumeration; `otherwise` when there is no such value.
+    int number(const char *name, int otherwise, int index = 0) const
+    {
+        ipp_attribute_t *attribute = attributes_.value(name);
+        return attribute && index < ippGetCount(attribute) ? ippGetInteger(attribute, index) : otherwise;
+    }
+    bool isFalse(const char *name) const
+    {
+        ipp_attribute_t *attribute = attributes_.value(name);
+        return attribute && ippGetValueTag(attribute) == IPP_TAG_BOOLEAN && !ippGetBoolean(attribute, 0);
+    }
+
+private:
+    QHash<QByteArray, ipp_attribute_t *> attributes_;
 };
 
-struct Enumeration
-{
-    QList<Queue> queues;
-    int *cancel;
-};
+constexpr std::array wantedAttributes = {
+    "device-uri",        "marker-high-levels",     "marker-levels",
+    "marker-low-levels", "marker-names",           "marker-types",
+    "member-names",      "printer-info",           "printer-is-accepting-jobs",
+    "printer-location",  "printer-make-and-model", "printer-name",
+    "printer-state",     "printer-state-message",  "printer-state-reasons",
+    "printer-type",      "printer-uri-supported"};
 
-Queue::State stateOf(const QByteArray &printerState)
+Queue::State stateOf(int printerState)
 {
-    switch (printerState.toInt()) {
+    switch (printerState) {
     case IPP_PSTATE_IDLE:
         return Queue::State::Idle;
     case IPP_PSTATE_PROCESSING:
@@ -38,98 +73,170 @@ Queue::State stateOf(const QByteArray &printerState)
     }
 }
 
-QStringList reasonsOf(const QString &keywords)
+/// Levels beyond 0 to 100 stand for "unknown" and the like (RFC 3805).
+QList<Supply> suppliesOf(const QueueAttributes &attributes)
 {
-    QStringList reasons = keywords.split(u',', Qt::SkipEmptyParts);
-    reasons.removeAll(QStringLiteral("none"));
-    return reasons;
+    constexpr int defaultLowLevel = 10;
+    constexpr qsizetype most = 16;
+    QList<Supply> supplies;
+    const QStringList names = attributes.texts("marker-names");
+    const QStringList types = attributes.texts("marker-types");
+    for (qsizetype i = 0; i < std::min(names.size(), most); ++i) {
+        const int index = static_cast<int>(i);
+        const int level = attributes.number("marker-levels", -1, index);
+        Supply supply{names.at(i).isEmpty() ? types.value(i) : names.at(i), {}, false};
+        if (level >= 0 && level <= 100) {
+            supply.level = level;
+            // What collects waste is in trouble when it is full.
+            supply.isLow =
+                types.value(i).startsWith(QLatin1String("waste"))
+                    ? level >= attributes.number("marker-high-levels", 100 - defaultLowLevel, index)
+                    : level <= attributes.number("marker-low-levels", defaultLowLevel, index);
+        }
+        supplies.append(supply);
+    }
+    return supplies;
 }
 
-Queue queueOf(const cups_dest_t &destination)
+Queue queueOf(const QueueAttributes &attributes)
 {
-    const auto option = [&destination](const char *name) {
-        return QByteArray(cupsGetOption(name, destination.num_options, destination.options));
-    };
-    const auto text = [&option](const char *name) {
-        return plainText(QString::fromUtf8(option(name)).simplified(), shownTextLimit);
-    };
     Queue queue;
-    queue.name = QString::fromUtf8(destination.name);
-    queue.instance = QString::fromUtf8(destination.instance);
-    queue.info = text("printer-info");
+    queue.name = attributes.text("printer-name");
+    queue.info = attributes.text("printer-info");
     if (queue.info.isEmpty())
         queue.info = queue.name;
-    queue.location = text("printer-location");
-    queue.makeAndModel = text("printer-make-and-model");
-    queue.deviceUri = text("device-uri");
-    queue.state = stateOf(option("printer-state"));
-    queue.stateReasons = reasonsOf(text("printer-state-reasons"));
-    queue.acceptsJobs = option("printer-is-accepting-jobs") != "false";
-    queue.isDefault = destination.is_default != 0;
-    queue.isClass = (option("printer-type").toUInt() & CUPS_PRINTER_CLASS) != 0;
+    queue.location = attributes.text("printer-location");
+    queue.makeAndModel = attributes.text("printer-make-and-model");
+    queue.deviceUri = attributes.text("device-uri");
+    queue.uri = attributes.text("printer-uri-supported");
+    queue.state = stateOf(attributes.number("printer-state", 0));
+    queue.stateReasons = attributes.texts("printer-state-reasons");
+    queue.stateReasons.removeAll(QStringLiteral("none"));
+    queue.stateMessage = attributes.text("printer-state-message");
+    queue.supplies = suppliesOf(attributes);
+    queue.members = attributes.texts("member-names");
+    queue.acceptsJobs = !attributes.isFalse("printer-is-accepting-jobs");
+    queue.isClass = (attributes.number("printer-type", 0) & CUPS_PRINTER_CLASS) != 0;
     return queue;
 }
 
-int collect(void *userData, unsigned flags, cups_dest_t *destination)
+QList<Queue> queuesIn(ipp_t *answer)
 {
-    auto *enumeration = static_cast<Enumeration *>(userData);
-    const Queue queue = queueOf(*destination);
-    // A name that needs cleaning is no queue's: CUPS allows none, and it could not be handed back to the
-    // server.
-    if (!(flags & CUPS_DEST_FLAGS_REMOVED) && !hasControls(queue.id()))
-        enumeration->queues.append(queue);
-    return enumeration->cancel && *enumeration->cancel ? 0 : 1;
+    QList<Queue> queues;
+    QueueAttributes attributes;
+    const auto take = [&] {
+        // A name that needs cleaning is no queue's: CUPS allows none, and it could not be handed back to
+        // the server.
+        const Queue queue = queueOf(std::exchange(attributes, {}));
+        if (!queue.name.isEmpty() && !hasControls(queue.name))
+            queues.append(queue);
+    };
+    for (ipp_attribute_t *attribute = ippFirstAttribute(answer); attribute;
+         attribute = ippNextAttribute(answer)) {
+        if (ippGetGroupTag(attribute) == IPP_TAG_PRINTER && ippGetName(attribute))
+            attributes.add(attribute);
+        else
+            take();
+    }
+    take();
+    return queues;
 }
 
-/// Where a queue has instances, the enumeration of CUPS 2.4 marks no default but one from lpoptions. Looking
-/// up the unnamed destination finds the others.
-void markDefault(QList<Queue> &queues)
+/// Each queue is followed by the user's instances of it.
+QList<Queue> withInstances(const QList<Queue> &queues, const QStringList &instances)
 {
-    const auto isDefault = [](const Queue &queue) {
-        return queue.isDefault;
-    };
-    const auto isInstance = [](const Queue &queue) {
-        return !queue.instance.isEmpty();
-    };
-    if (std::any_of(queues.cbegin(), queues.cend(), isDefault) ||
-        std::none_of(queues.cbegin(), queues.cend(), isInstance))
-        return;
-    const std::unique_ptr<cups_dest_t, DestinationDeleter> found(
-        cupsGetNamedDest(CUPS_HTTP_DEFAULT, nullptr, nullptr));
-    if (!found)
-        return;
-    const Queue wanted = queueOf(*found);
-    for (Queue &queue : queues)
-        queue.isDefault = queue.id() == wanted.id();
-}
-
-/// Whether the server answers at all, asked over a connection that can time out: the enumeration's own
-/// cannot.
-std::optional<Failure<QueueFault>> silence(std::chrono::milliseconds limit, int *cancel)
-{
-    CupsConnection connection(limit, cancel);
-    if (!connection.isOpen())
-        return queueFailure(QueueFault::NoServer, {}, connection.unreachableReason());
-    if (!connection.answerTo(IppPointer(ippNewRequest(IPP_OP_CUPS_GET_DEFAULT)), "/"))
-        return connection.lastFailure({});
-    return std::nullopt;
+    QList<Queue> all;
+    for (const Queue &queue : queues) {
+        all.append(queue);
+        for (const QString &id : instances) {
+            if (id.section(u'/', 0, 0) != queue.name || hasControls(id))
+                continue;
+            all.append(queue);
+            all.last().instance = id.section(u'/', 1);
+        }
+    }
+    return all;
 }
 
 } // namespace
 
+// One connection with a limit asks for what is needed, and nothing else. cupsEnumDests has a connection of
+// its own without any limit, so that a server which falls silent holds its thread for good; it asks for more
+// of each queue, and leaves out the members of a class.
 Result<QList<Queue>, QueueFault> sweepQueues(std::chrono::milliseconds limit, int *cancel)
 {
-    if (const auto failure = silence(limit, cancel))
-        return *failure;
-    Enumeration enumeration{{}, cancel};
-    // Only what the server has: a printer seen on the network has neither a queue nor a PPD yet, and the
-    // search for them takes seconds.
-    const int done = cupsEnumDests(CUPS_DEST_FLAGS_NONE, static_cast<int>(limit.count()), cancel, 0,
-                                   CUPS_PRINTER_DISCOVERED, collect, &enumeration);
-    if (!done && cupsLastError() > IPP_STATUS_OK_CONFLICTING && cupsLastError() != IPP_STATUS_ERROR_NOT_FOUND)
-        return queueFailure(QueueFault::Failed, {}, QString::fromUtf8(cupsLastErrorString()));
-    markDefault(enumeration.queues);
-    return enumeration.queues;
+    CupsConnection connection(limit, cancel);
+    if (!connection.isOpen())
+        return queueFailure(QueueFault::NoServer, {}, connection.unreachableReason());
+    const auto isFailure = [](const IppPointer &answer) {
+        return !answer ||
+               (cupsLastError() > IPP_STATUS_OK_CONFLICTING && cupsLastError() != IPP_STATUS_ERROR_NOT_FOUND);
+    };
+    const IppPointer preset = connection.answerTo(IppPointer(ippNewRequest(IPP_OP_CUPS_GET_DEFAULT)), "/");
+    if (isFailure(preset))
+        return connection.lastFailure({});
+
+    IppPointer request(ippNewRequest(IPP_OP_CUPS_GET_PRINTERS));
+    ippAddStrings(request.get(), IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes",
+                  static_cast<int>(wantedAttributes.size()), nullptr, wantedAttributes.data());
+    ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "requesting-user-name", nullptr, cupsUser());
+    const IppPointer answer = connection.answerTo(std::move(request), "/");
+    if (isFailure(answer))
+        return connection.lastFailure({});
+
+    const UserDestinations user = UserDestinations::read();
+    QList<Queue> queues = withInstances(queuesIn(answer.get()), user.instances);
+    const QString chosen = user.defaultPrinter.value_or(textsOf(preset.get(), "printer-name").value(0));
+    for (Queue &queue : queues)
+        queue.isDefault = queue.id() == chosen;
+    return queues;
+}
+
+namespace {
+
+Result<OpenedQueue, QueueFault> openHere(const QString &id, std::chrono::milliseconds limit, int *cancel)
+{
+    CupsConnection connection(limit, cancel);
+    if (!connection.isOpen())
+        return queueFailure(QueueFault::NoServer, id, connection.unreachableReason());
+    const auto record = queueRecord(connection, id);
+    if (!record)
+        return record.failure();
+    if (!record->instance.isEmpty() && !UserDestinations::read().instances.contains(id))
+        return queueFailure(QueueFault::NotFound, id);
+    IppPointer request = ippRequest(IPP_OP_GET_PRINTER_ATTRIBUTES, record->uri);
+    ippAddStrings(request.get(), IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes",
+                  static_cast<int>(wantedAttributes.size()), nullptr, wantedAttributes.data());
+    const IppPointer answer = connection.answerTo(std::move(request), "/");
+    const QList<Queue> found = answer ? queuesIn(answer.get()) : QList<Queue>();
+    if (found.isEmpty())
+        return connection.lastFailure(id);
+    OpenedQueue opened{found.constFirst(), false, {}};
+    opened.queue.instance = QString::fromUtf8(record->instance);
+    const auto ppd = ppdOf(connection, *record);
+    if (!ppd && ppd.failure().reason != QueueFault::NoPpd)
+        return ppd.failure();
+    if (ppd) {
+        opened.hasPpd = true;
+        opened.ppd = *ppd;
+    }
+    return opened;
+}
+
+} // namespace
+
+Result<OpenedQueue, QueueFault> queueNamed(const QString &id, std::chrono::milliseconds limit)
+{
+    auto opened = callWithin<Result<OpenedQueue, QueueFault>>(
+        limit, [id, limit](int *cancel) { return openHere(id, limit, cancel); });
+    return opened ? *std::move(opened) : queueFailure(QueueFault::TimedOut, id);
+}
+
+QString printServerAddress()
+{
+    cupsSetServer(nullptr);
+    const QString server = QString::fromUtf8(cupsServer());
+    return server.startsWith(u'/') ? server : QStringLiteral("%1:%2").arg(server).arg(ippPort());
 }
 
 QList<Queue> listQueues(std::chrono::milliseconds limit)

@@ -6,6 +6,7 @@
 #include "Queue.h"
 #include "QueueFault.h"
 
+#include <QtCore/QByteArray>
 #include <QtCore/QList>
 
 #include <chrono>
@@ -18,10 +19,26 @@ namespace printdialog {
 /// not answer in time.
 QList<Queue> listQueues(std::chrono::milliseconds limit);
 
-/// The same, on the calling thread and with the reason when there are none. For a worker: a server that falls
-/// silent in the middle may hold it longer than the limit.
+/// The same, on the calling thread and with the reason when there are none. For a worker: the look-up of a
+/// server's name may hold it longer than the limit.
 /// @param cancel non-zero once it shall give up; may be null
 Result<QList<Queue>, QueueFault> sweepQueues(std::chrono::milliseconds limit, int *cancel);
+
+/// One queue and what its options come from.
+struct OpenedQueue
+{
+    Queue queue;
+    bool hasPpd = false; ///< A raw queue, or a class of them, has none.
+    QByteArray ppd;      ///< Untrusted, unparsed.
+};
+
+/// Asks for one queue and its PPD without listing the others. Blocks, at most for the limit. Failures: those
+/// of QueueFault but NoPpd.
+Result<OpenedQueue, QueueFault> queueNamed(const QString &id, std::chrono::milliseconds limit);
+
+/// Where the print server of this process is asked: a socket's path, or "host:port". Reads the configuration
+/// of CUPS.
+QString printServerAddress();
 
 /// The id of the default among queues: what the user set (LPDEST, PRINTER, lpoptions), or else the server's.
 /// Nothing when there is none, or when it names a queue that is not there.

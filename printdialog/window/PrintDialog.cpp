@@ -50,8 +50,9 @@ PrintDialog::PrintDialog(const PrintDialogSetup &setup, QWidget *parent)
     connect(ui_->cancel, &QPushButton::clicked, this, &PrintDialog::reject);
     connect(ui_->print, &QPushButton::clicked, this, &PrintDialog::print);
     connect(fetcher_, &PpdFetcher::fetched, this, &PrintDialog::takePpd);
-    connect(fetcher_, &PpdFetcher::failed, this,
-            [this](quint64 /*number*/, const QString &text) { closeSession(text); });
+    connect(
+        fetcher_, &PpdFetcher::failed, this,
+        [this](quint64 /*number*/, QueueFault reason, const QString &text) { takePpdFailure(reason, text); });
     connect(worker_, &PrintWorker::finished, this, &PrintDialog::finishPrinting);
     showPhoto();
     if (setup.printer && *setup.printer != Queue::builtIn().id() && !setup.ppdFile) {

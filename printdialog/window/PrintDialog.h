@@ -6,6 +6,7 @@
 #include "Photo.h"
 #include "PrinterDescription.h"
 #include "Queue.h"
+#include "QueueFault.h"
 
 #include <QtCore/QList>
 #include <QtCore/QPair>
@@ -78,6 +79,7 @@ private:
     void awaitOptions(const QString &id);
     void showFolder(bool isBuiltIn);
     void takePpd(quint64 number, const QByteArray &ppd);
+    void takePpdFailure(QueueFault reason, const QString &text);
     void takeSession(std::unique_ptr<DialogSession> session);
     void closeSession(const QString &reason);
     bool applyOptions();

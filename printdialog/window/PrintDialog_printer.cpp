@@ -58,6 +58,20 @@ void PrintDialog::takePpd(quint64 /*number*/, const QByteArray &ppd)
         closeSession(session.failure().text);
 }
 
+// A queue without a PPD prints as well: there is nothing to choose then.
+void PrintDialog::takePpdFailure(QueueFault reason, const QString &text)
+{
+    if (reason != QueueFault::NoPpd) {
+        closeSession(text);
+        return;
+    }
+    SessionResult session = openRawQueue(queue_, setup_.mode);
+    if (session)
+        takeSession(*std::move(session));
+    else
+        closeSession(session.failure().text);
+}
+
 void PrintDialog::closeSession(const QString &reason)
 {
     ui_->panels->setSession(nullptr);
@@ -91,6 +105,11 @@ void PrintDialog::takeSession(std::unique_ptr<DialogSession> session)
     ui_->panels->setSession(session_.get());
     if (noPanels)
         ui_->message->show(MessageBar::Kind::Error, noPanels->text);
+    else if (!session_->printer().hasPpd && message().isEmpty())
+        ui_->message->show(
+            MessageBar::Kind::Information,
+            tr("This printer has no PPD file and so no options: it gets the photo's file as it is, "
+               "and places it on the page itself."));
     else if (session_->panels().empty() && message().isEmpty())
         ui_->message->show(MessageBar::Kind::Information,
                            tr("This printer has no panels of its own; it prints with its defaults."));

@@ -41,6 +41,7 @@ std::optional<PrintJob> PrintDialog::makeJob(QStringList &dropped)
     job.page = {size->points, size->imageable};
     job.options = options->options;
     job.copies = ui_->copies->value();
+    job.queue = session_->printer().hasPpd ? QueueTerms::ofPpd(session_->ppd()) : QueueTerms::withoutPpd();
     for (const auto &[option, choice] : session_->summary())
         job.summary.insert(option, choice);
     return job;

@@ -11,6 +11,18 @@
         <source>%1 Printed before it: %2.</source>
         <translation>%1 Davor gedruckt: %2.</translation>
     </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Cancelled; nothing more is printed.</source>
+        <translation>Abgebrochen; es wird nichts mehr gedruckt.</translation>
+    </message>
+    <message>
+        <source>Cancelled; the jobs sent were taken back from the printer.</source>
+        <translation>Abgebrochen; die gesendeten Aufträge wurden vom Drucker zurückgenommen.</translation>
+    </message>
 </context>
 <context>
     <name>ChoiceMarker</name>
@@ -102,10 +114,6 @@ as well as printing</source>
 zusätzlich zum Drucken</translation>
     </message>
     <message>
-        <source>lists and summary as JSON</source>
-        <translation>Listen und Zusammenfassung als JSON</translation>
-    </message>
-    <message>
         <source>save a picture of the dialog with each panel in DIR, exit</source>
         <translation>je Seite ein Bild des Dialogs in DIR speichern, beenden</translation>
     </message>
@@ -142,10 +150,6 @@ zusätzlich zum Drucken</translation>
         <translation>--batch braucht ein Foto zum Drucken.</translation>
     </message>
     <message>
-        <source>--json is for --list-printers, --list-options and --summary.</source>
-        <translation>--json gilt für --list-printers, --list-options und --summary.</translation>
-    </message>
-    <message>
         <source>Usage: corvel-print [options] PHOTO...
 Prints photos on a photo printer: from a window, or at once with --batch.
 
@@ -179,6 +183,48 @@ Beispiele:
   corvel-print --batch -o Red=12 -o Quality=Fine -o Overcoat=Matte --output abzuege *.jpg
 </translation>
     </message>
+    <message>
+        <source>show exactly what --batch would send, and send nothing</source>
+        <translation>genau zeigen, was --batch senden würde, und nichts senden</translation>
+    </message>
+    <message>
+        <source>how long --batch follows its jobs at most (0: not at all); otherwise to
+their end. It never waits longer than 10 seconds for a job that is held
+or whose printer is stopped, nor than 10 minutes without any news: such a
+job stays with the print server, and that is told, with exit status 0</source>
+        <translation>wie lange --batch seine Aufträge höchstens verfolgt (0: gar nicht); sonst
+bis zum Ende. Auf einen angehaltenen Auftrag oder Drucker wird nie länger
+als 10 Sekunden gewartet, ohne jede Neuigkeit nie länger als 10 Minuten:
+So ein Auftrag bleibt beim Druckserver; das wird gemeldet, Status 0</translation>
+    </message>
+    <message>
+        <source>the print server to ask, instead of this machine&apos;s own</source>
+        <translation>der Druckserver, der gefragt wird, statt dem dieses Rechners</translation>
+    </message>
+    <message>
+        <source>lists, summary and --dry-run as JSON</source>
+        <translation>Listen, Zusammenfassung und --dry-run als JSON</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no print server; it is given as HOST or HOST:PORT.</source>
+        <translation>„%1“ ist kein Druckserver; er wird als HOST oder HOST:PORT angegeben.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no time to wait; it is a number of seconds from 0 to %2.</source>
+        <translation>„%1“ ist keine Wartezeit; sie ist eine Zahl von Sekunden von 0 bis %2.</translation>
+    </message>
+    <message>
+        <source>--dry-run needs a photo.</source>
+        <translation>--dry-run braucht ein Foto.</translation>
+    </message>
+    <message>
+        <source>--json is for --list-printers, --list-options, --summary and --dry-run.</source>
+        <translation>--json gehört zu --list-printers, --list-options, --summary und --dry-run.</translation>
+    </message>
+    <message>
+        <source>--wait is for --batch.</source>
+        <translation>--wait gehört zu --batch.</translation>
+    </message>
 </context>
 <context>
     <name>Console</name>
@@ -194,12 +240,90 @@ Beispiele:
         <translation>unter %1 antwortet nichts</translation>
     </message>
     <message>
-        <source>it was silent for %1 s</source>
-        <translation>er schwieg %1 s lang</translation>
-    </message>
-    <message>
         <source>no printer can have this name</source>
         <translation>kein Drucker kann so heißen</translation>
+    </message>
+    <message>
+        <source>it gave no answer within %1 s</source>
+        <translation>er hat innerhalb von %1 s nicht geantwortet</translation>
+    </message>
+</context>
+<context>
+    <name>JobFollowing</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>waiting for the printer</source>
+        <translation>wartet auf den Drucker</translation>
+    </message>
+    <message>
+        <source>held</source>
+        <translation>angehalten</translation>
+    </message>
+    <message>
+        <source>printing</source>
+        <translation>druckt</translation>
+    </message>
+    <message>
+        <source>cancelled</source>
+        <translation>abgebrochen</translation>
+    </message>
+    <message>
+        <source>failed</source>
+        <translation>fehlgeschlagen</translation>
+    </message>
+    <message>
+        <source>printed</source>
+        <translation>gedruckt</translation>
+    </message>
+</context>
+<context>
+    <name>JobPlan</name>
+    <message>
+        <source>Printer</source>
+        <translation>Drucker</translation>
+    </message>
+    <message>
+        <source>Photo</source>
+        <translation>Foto</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Datei</translation>
+    </message>
+    <message>
+        <source>Server</source>
+        <translation>Server</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>Adresse</translation>
+    </message>
+    <message>
+        <source>Format</source>
+        <translation>Format</translation>
+    </message>
+    <message>
+        <source>%1, the file as it is</source>
+        <translation>%1, die Datei unverändert</translation>
+    </message>
+    <message>
+        <source>Bytes</source>
+        <translation>Bytes</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Titel</translation>
+    </message>
+    <message>
+        <source>Copies</source>
+        <translation>Exemplare</translation>
+    </message>
+    <message>
+        <source>Option</source>
+        <translation>Option</translation>
     </message>
 </context>
 <context>
@@ -236,29 +360,13 @@ Beispiele:
         <source>The file &quot;%1&quot; cannot be read (%2); nothing is printed.</source>
         <translation>Die Datei „%1“ kann nicht gelesen werden (%2); es wird nichts gedruckt.</translation>
     </message>
+    <message>
+        <source>it is empty</source>
+        <translation>sie ist leer</translation>
+    </message>
 </context>
 <context>
     <name>Listings</name>
-    <message>
-        <source>rejects jobs</source>
-        <translation>nimmt keine Aufträge an</translation>
-    </message>
-    <message>
-        <source>ready</source>
-        <translation>bereit</translation>
-    </message>
-    <message>
-        <source>printing</source>
-        <translation>druckt</translation>
-    </message>
-    <message>
-        <source>stopped</source>
-        <translation>angehalten</translation>
-    </message>
-    <message>
-        <source>unknown</source>
-        <translation>unbekannt</translation>
-    </message>
     <message>
         <source>default</source>
         <translation>Standard</translation>
@@ -670,12 +778,32 @@ Beispiele:
         <source>The print server could not list its printers (%1); try again, or look into its log.</source>
         <translation>Der Druckserver konnte seine Drucker nicht auflisten (%1); versuchen Sie es erneut oder sehen Sie in sein Protokoll.</translation>
     </message>
+    <message>
+        <source>its PPD file is a new one</source>
+        <translation>seine PPD-Datei ist eine neue</translation>
+    </message>
+    <message>
+        <source>nothing is printed</source>
+        <translation>es wird nichts gedruckt</translation>
+    </message>
+    <message>
+        <source>The options of the printer &quot;%1&quot; have changed since they were chosen (%2); look at them and print again.</source>
+        <translation>Die Optionen des Druckers „%1“ haben sich geändert, seit sie gewählt wurden (%2); sehen Sie sie durch und drucken Sie noch einmal.</translation>
+    </message>
+    <message>
+        <source>The job for the printer &quot;%1&quot; was cancelled (%2).</source>
+        <translation>Der Auftrag für den Drucker „%1“ wurde abgebrochen (%2).</translation>
+    </message>
 </context>
 <context>
     <name>RequestedSession</name>
     <message>
         <source>%1 It is your default printer; --printer names another one.</source>
         <translation>%1 Dies ist Ihr Standarddrucker; mit --printer nennen Sie einen anderen.</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; has no PPD file and so no option %2; leave it out, or set the printer up with its driver.</source>
+        <translation>Der Drucker „%1“ hat keine PPD-Datei und deshalb keine Option %2; lassen Sie sie weg oder richten Sie den Drucker mit seinem Treiber ein.</translation>
     </message>
 </context>
 <context>
@@ -687,6 +815,224 @@ Beispiele:
     <message>
         <source>The folder %1 cannot be made. Choose another one for the pictures.</source>
         <translation>Der Ordner %1 kann nicht angelegt werden. Wählen Sie einen anderen für die Bilder.</translation>
+    </message>
+</context>
+<context>
+    <name>SessionOpening</name>
+    <message>
+        <source>As set at the printer</source>
+        <translation>Wie am Drucker eingestellt</translation>
+    </message>
+</context>
+<context>
+    <name>StateText</name>
+    <message>
+        <source>out of paper</source>
+        <translation>kein Papier</translation>
+    </message>
+    <message>
+        <source>paper has to be put in</source>
+        <translation>Papier einlegen</translation>
+    </message>
+    <message>
+        <source>paper low</source>
+        <translation>wenig Papier</translation>
+    </message>
+    <message>
+        <source>paper jam</source>
+        <translation>Papierstau</translation>
+    </message>
+    <message>
+        <source>paper tray missing</source>
+        <translation>Papierfach fehlt</translation>
+    </message>
+    <message>
+        <source>output tray missing</source>
+        <translation>Ausgabefach fehlt</translation>
+    </message>
+    <message>
+        <source>output tray almost full</source>
+        <translation>Ausgabefach fast voll</translation>
+    </message>
+    <message>
+        <source>output tray full</source>
+        <translation>Ausgabefach voll</translation>
+    </message>
+    <message>
+        <source>ribbon or ink low</source>
+        <translation>Farbband oder Tinte fast leer</translation>
+    </message>
+    <message>
+        <source>ribbon or ink used up</source>
+        <translation>Farbband oder Tinte aufgebraucht</translation>
+    </message>
+    <message>
+        <source>ribbon low</source>
+        <translation>Farbband fast leer</translation>
+    </message>
+    <message>
+        <source>ribbon used up</source>
+        <translation>Farbband aufgebraucht</translation>
+    </message>
+    <message>
+        <source>waste container almost full</source>
+        <translation>Auffangbehälter fast voll</translation>
+    </message>
+    <message>
+        <source>waste container full</source>
+        <translation>Auffangbehälter voll</translation>
+    </message>
+    <message>
+        <source>toner low</source>
+        <translation>wenig Toner</translation>
+    </message>
+    <message>
+        <source>toner used up</source>
+        <translation>Toner aufgebraucht</translation>
+    </message>
+    <message>
+        <source>cover open</source>
+        <translation>Abdeckung offen</translation>
+    </message>
+    <message>
+        <source>door open</source>
+        <translation>Klappe offen</translation>
+    </message>
+    <message>
+        <source>too hot</source>
+        <translation>zu heiß</translation>
+    </message>
+    <message>
+        <source>warming up</source>
+        <translation>wärmt auf</translation>
+    </message>
+    <message>
+        <source>offline</source>
+        <translation>offline</translation>
+    </message>
+    <message>
+        <source>connecting to the printer</source>
+        <translation>Verbindung zum Drucker wird aufgebaut</translation>
+    </message>
+    <message>
+        <source>the printer does not answer</source>
+        <translation>der Drucker antwortet nicht</translation>
+    </message>
+    <message>
+        <source>switched off</source>
+        <translation>ausgeschaltet</translation>
+    </message>
+    <message>
+        <source>paused</source>
+        <translation>angehalten</translation>
+    </message>
+    <message>
+        <source>pausing</source>
+        <translation>hält an</translation>
+    </message>
+    <message>
+        <source>new jobs are held</source>
+        <translation>neue Aufträge werden angehalten</translation>
+    </message>
+    <message>
+        <source>the print server&apos;s disk is full</source>
+        <translation>die Platte des Druckservers ist voll</translation>
+    </message>
+    <message>
+        <source>a filter of its driver is missing</source>
+        <translation>ein Filter seines Treibers fehlt</translation>
+    </message>
+    <message>
+        <source>a filter of its driver is not safe</source>
+        <translation>ein Filter seines Treibers ist unsicher</translation>
+    </message>
+    <message>
+        <source>trouble that it does not name</source>
+        <translation>eine Störung, die er nicht nennt</translation>
+    </message>
+    <message>
+        <source>the printer is stopped</source>
+        <translation>der Drucker ist angehalten</translation>
+    </message>
+    <message>
+        <source>a part of the printer is stopped</source>
+        <translation>ein Teil des Druckers ist angehalten</translation>
+    </message>
+    <message>
+        <source>held</source>
+        <translation>angehalten</translation>
+    </message>
+    <message>
+        <source>held until somebody signs in</source>
+        <translation>angehalten, bis sich jemand anmeldet</translation>
+    </message>
+    <message>
+        <source>what it needs is not ready</source>
+        <translation>was er braucht, ist nicht bereit</translation>
+    </message>
+    <message>
+        <source>the document could not be read</source>
+        <translation>das Dokument konnte nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>the document could not be printed</source>
+        <translation>das Dokument konnte nicht gedruckt werden</translation>
+    </message>
+    <message>
+        <source>the printer does not take this kind of document</source>
+        <translation>der Drucker nimmt diese Art von Dokument nicht</translation>
+    </message>
+    <message>
+        <source>cancelled by the user</source>
+        <translation>vom Benutzer abgebrochen</translation>
+    </message>
+    <message>
+        <source>cancelled by the operator</source>
+        <translation>von der Verwaltung abgebrochen</translation>
+    </message>
+    <message>
+        <source>cancelled at the printer</source>
+        <translation>am Drucker abgebrochen</translation>
+    </message>
+    <message>
+        <source>ended by the print server</source>
+        <translation>vom Druckserver beendet</translation>
+    </message>
+    <message>
+        <source>rejects jobs</source>
+        <translation>nimmt keine Aufträge an</translation>
+    </message>
+    <message>
+        <source>ready</source>
+        <translation>bereit</translation>
+    </message>
+    <message>
+        <source>printing</source>
+        <translation>druckt</translation>
+    </message>
+    <message>
+        <source>stopped</source>
+        <translation>angehalten</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>unbekannt</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1 unknown</source>
+        <translation>%1 unbekannt</translation>
+    </message>
+    <message>
+        <source>%1 %2 % (low)</source>
+        <translation>%1 %2 % (wenig)</translation>
+    </message>
+    <message>
+        <source>%1 %2 %</source>
+        <translation>%1 %2 %</translation>
     </message>
 </context>
 <context>
@@ -951,6 +1297,10 @@ Beispiele:
         <source>The settings are saved for &quot;%1&quot;.</source>
         <translation>Die Einstellungen für „%1“ wurden gespeichert.</translation>
     </message>
+    <message>
+        <source>This printer has no PPD file and so no options: it gets the photo&apos;s file as it is, and places it on the page itself.</source>
+        <translation>Dieser Drucker hat keine PPD-Datei und deshalb keine Optionen: Er bekommt die Fotodatei unverändert und setzt sie selbst auf das Blatt.</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::PrinterChooser</name>
@@ -972,6 +1322,41 @@ Beispiele:
     <message>
         <source>The settings for &quot;%1&quot; could not be saved in %2: %3. Make room there, or make it writable.</source>
         <translation>Die Einstellungen für „%1“ konnten nicht in %2 gespeichert werden: %3. Schaffen Sie dort Platz oder Schreibrechte.</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::SentJobs</name>
+    <message>
+        <source>What has become of %1 (job %2) is not known: %3</source>
+        <translation>Was aus %1 (Auftrag %2) geworden ist, ist nicht bekannt: %3</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; could not print %2 (job %3): %4. Look at the printer and print again.</source>
+        <translation>Der Drucker „%1“ konnte %2 (Auftrag %3) nicht drucken: %4. Sehen Sie nach dem Drucker und drucken Sie noch einmal.</translation>
+    </message>
+    <message>
+        <source>it gave no reason</source>
+        <translation>ohne Angabe von Gründen</translation>
+    </message>
+    <message>
+        <source>The job %3 for %2 on the printer &quot;%1&quot; was cancelled (%4).</source>
+        <translation>Der Auftrag %3 für %2 auf dem Drucker „%1“ wurde abgebrochen (%4).</translation>
+    </message>
+    <message>
+        <source>nobody said why</source>
+        <translation>ohne Angabe von Gründen</translation>
+    </message>
+    <message>
+        <source>Printed %1 on %2 (job %3)</source>
+        <translation>%1 auf %2 gedruckt (Auftrag %3)</translation>
+    </message>
+    <message>
+        <source>The job %1 for %2 could not be cancelled: %3</source>
+        <translation>Der Auftrag %1 für %2 konnte nicht abgebrochen werden: %3</translation>
+    </message>
+    <message>
+        <source>%1 (job %2) is not printed yet: %3. The print server keeps it; &quot;cancel %2&quot; takes it back.</source>
+        <translation>%1 (Auftrag %2) ist noch nicht gedruckt: %3. Der Druckserver behält ihn; „cancel %2“ nimmt ihn zurück.</translation>
     </message>
 </context>
 <context>

@@ -11,6 +11,18 @@
         <source>%1 Printed before it: %2.</source>
         <translation>%1 Impreso antes: %2.</translation>
     </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Cancelled; nothing more is printed.</source>
+        <translation>Cancelado; no se imprime nada más.</translation>
+    </message>
+    <message>
+        <source>Cancelled; the jobs sent were taken back from the printer.</source>
+        <translation>Cancelado; los trabajos enviados se han retirado de la impresora.</translation>
+    </message>
 </context>
 <context>
     <name>ChoiceMarker</name>
@@ -102,10 +114,6 @@ as well as printing</source>
 además de imprimir</translation>
     </message>
     <message>
-        <source>lists and summary as JSON</source>
-        <translation>listas y resumen en JSON</translation>
-    </message>
-    <message>
         <source>save a picture of the dialog with each panel in DIR, exit</source>
         <translation>guardar en DIR una imagen del diálogo con cada panel y salir</translation>
     </message>
@@ -142,10 +150,6 @@ además de imprimir</translation>
         <translation>--batch necesita una foto que imprimir.</translation>
     </message>
     <message>
-        <source>--json is for --list-printers, --list-options and --summary.</source>
-        <translation>--json es para --list-printers, --list-options y --summary.</translation>
-    </message>
-    <message>
         <source>Usage: corvel-print [options] PHOTO...
 Prints photos on a photo printer: from a window, or at once with --batch.
 
@@ -179,6 +183,48 @@ Ejemplos:
   corvel-print --batch -o Red=12 -o Quality=Fine -o Overcoat=Matte --output copias *.jpg
 </translation>
     </message>
+    <message>
+        <source>show exactly what --batch would send, and send nothing</source>
+        <translation>mostrar exactamente lo que enviaría --batch, sin enviar nada</translation>
+    </message>
+    <message>
+        <source>how long --batch follows its jobs at most (0: not at all); otherwise to
+their end. It never waits longer than 10 seconds for a job that is held
+or whose printer is stopped, nor than 10 minutes without any news: such a
+job stays with the print server, and that is told, with exit status 0</source>
+        <translation>cuánto tiempo sigue --batch sus trabajos como máximo (0: nada); si no,
+hasta el final. Nunca espera más de 10 segundos por un trabajo retenido o
+una impresora detenida, ni más de 10 minutos sin novedades: ese trabajo
+queda en el servidor de impresión, se avisa y el código de salida es 0</translation>
+    </message>
+    <message>
+        <source>the print server to ask, instead of this machine&apos;s own</source>
+        <translation>el servidor de impresión que se consulta, en lugar del de este equipo</translation>
+    </message>
+    <message>
+        <source>lists, summary and --dry-run as JSON</source>
+        <translation>listas, resumen y --dry-run como JSON</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no print server; it is given as HOST or HOST:PORT.</source>
+        <translation>«%1» no es un servidor de impresión; se indica como HOST o HOST:PORT.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no time to wait; it is a number of seconds from 0 to %2.</source>
+        <translation>«%1» no es un tiempo de espera; es un número de segundos de 0 a %2.</translation>
+    </message>
+    <message>
+        <source>--dry-run needs a photo.</source>
+        <translation>--dry-run necesita una foto.</translation>
+    </message>
+    <message>
+        <source>--json is for --list-printers, --list-options, --summary and --dry-run.</source>
+        <translation>--json es para --list-printers, --list-options, --summary y --dry-run.</translation>
+    </message>
+    <message>
+        <source>--wait is for --batch.</source>
+        <translation>--wait es para --batch.</translation>
+    </message>
 </context>
 <context>
     <name>Console</name>
@@ -194,12 +240,90 @@ Ejemplos:
         <translation>nada responde en %1</translation>
     </message>
     <message>
-        <source>it was silent for %1 s</source>
-        <translation>sin respuesta durante %1 s</translation>
-    </message>
-    <message>
         <source>no printer can have this name</source>
         <translation>ninguna impresora puede llamarse así</translation>
+    </message>
+    <message>
+        <source>it gave no answer within %1 s</source>
+        <translation>no ha respondido en %1 s</translation>
+    </message>
+</context>
+<context>
+    <name>JobFollowing</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>waiting for the printer</source>
+        <translation>a la espera de la impresora</translation>
+    </message>
+    <message>
+        <source>held</source>
+        <translation>retenido</translation>
+    </message>
+    <message>
+        <source>printing</source>
+        <translation>imprimiendo</translation>
+    </message>
+    <message>
+        <source>cancelled</source>
+        <translation>cancelado</translation>
+    </message>
+    <message>
+        <source>failed</source>
+        <translation>ha fallado</translation>
+    </message>
+    <message>
+        <source>printed</source>
+        <translation>impreso</translation>
+    </message>
+</context>
+<context>
+    <name>JobPlan</name>
+    <message>
+        <source>Printer</source>
+        <translation>Impresora</translation>
+    </message>
+    <message>
+        <source>Photo</source>
+        <translation>Foto</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Archivo</translation>
+    </message>
+    <message>
+        <source>Server</source>
+        <translation>Servidor</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>Dirección</translation>
+    </message>
+    <message>
+        <source>Format</source>
+        <translation>Formato</translation>
+    </message>
+    <message>
+        <source>%1, the file as it is</source>
+        <translation>%1, el archivo tal cual</translation>
+    </message>
+    <message>
+        <source>Bytes</source>
+        <translation>Bytes</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Título</translation>
+    </message>
+    <message>
+        <source>Copies</source>
+        <translation>Copias</translation>
+    </message>
+    <message>
+        <source>Option</source>
+        <translation>Opción</translation>
     </message>
 </context>
 <context>
@@ -236,29 +360,13 @@ Ejemplos:
         <source>The file &quot;%1&quot; cannot be read (%2); nothing is printed.</source>
         <translation>No se puede leer el archivo «%1» (%2); no se imprime nada.</translation>
     </message>
+    <message>
+        <source>it is empty</source>
+        <translation>está vacío</translation>
+    </message>
 </context>
 <context>
     <name>Listings</name>
-    <message>
-        <source>rejects jobs</source>
-        <translation>rechaza trabajos</translation>
-    </message>
-    <message>
-        <source>ready</source>
-        <translation>lista</translation>
-    </message>
-    <message>
-        <source>printing</source>
-        <translation>imprimiendo</translation>
-    </message>
-    <message>
-        <source>stopped</source>
-        <translation>detenida</translation>
-    </message>
-    <message>
-        <source>unknown</source>
-        <translation>desconocido</translation>
-    </message>
     <message>
         <source>default</source>
         <translation>predeterminada</translation>
@@ -670,12 +778,32 @@ Ejemplos:
         <source>The print server could not list its printers (%1); try again, or look into its log.</source>
         <translation>El servidor de impresión no ha podido listar sus impresoras (%1); inténtelo de nuevo o consulte su registro.</translation>
     </message>
+    <message>
+        <source>its PPD file is a new one</source>
+        <translation>su archivo PPD es otro</translation>
+    </message>
+    <message>
+        <source>nothing is printed</source>
+        <translation>no se imprime nada</translation>
+    </message>
+    <message>
+        <source>The options of the printer &quot;%1&quot; have changed since they were chosen (%2); look at them and print again.</source>
+        <translation>Las opciones de la impresora «%1» han cambiado desde que se eligieron (%2); revíselas e imprima de nuevo.</translation>
+    </message>
+    <message>
+        <source>The job for the printer &quot;%1&quot; was cancelled (%2).</source>
+        <translation>El trabajo para la impresora «%1» se ha cancelado (%2).</translation>
+    </message>
 </context>
 <context>
     <name>RequestedSession</name>
     <message>
         <source>%1 It is your default printer; --printer names another one.</source>
         <translation>%1 Es su impresora predeterminada; con --printer puede indicar otra.</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; has no PPD file and so no option %2; leave it out, or set the printer up with its driver.</source>
+        <translation>La impresora «%1» no tiene archivo PPD y por tanto ninguna opción %2; omítala o configure la impresora con su controlador.</translation>
     </message>
 </context>
 <context>
@@ -687,6 +815,224 @@ Ejemplos:
     <message>
         <source>The folder %1 cannot be made. Choose another one for the pictures.</source>
         <translation>No se puede crear la carpeta %1. Elija otra para las imágenes.</translation>
+    </message>
+</context>
+<context>
+    <name>SessionOpening</name>
+    <message>
+        <source>As set at the printer</source>
+        <translation>Según lo ajustado en la impresora</translation>
+    </message>
+</context>
+<context>
+    <name>StateText</name>
+    <message>
+        <source>out of paper</source>
+        <translation>sin papel</translation>
+    </message>
+    <message>
+        <source>paper has to be put in</source>
+        <translation>hay que poner papel</translation>
+    </message>
+    <message>
+        <source>paper low</source>
+        <translation>queda poco papel</translation>
+    </message>
+    <message>
+        <source>paper jam</source>
+        <translation>atasco de papel</translation>
+    </message>
+    <message>
+        <source>paper tray missing</source>
+        <translation>falta la bandeja de papel</translation>
+    </message>
+    <message>
+        <source>output tray missing</source>
+        <translation>falta la bandeja de salida</translation>
+    </message>
+    <message>
+        <source>output tray almost full</source>
+        <translation>bandeja de salida casi llena</translation>
+    </message>
+    <message>
+        <source>output tray full</source>
+        <translation>bandeja de salida llena</translation>
+    </message>
+    <message>
+        <source>ribbon or ink low</source>
+        <translation>queda poca cinta o tinta</translation>
+    </message>
+    <message>
+        <source>ribbon or ink used up</source>
+        <translation>cinta o tinta agotada</translation>
+    </message>
+    <message>
+        <source>ribbon low</source>
+        <translation>queda poca cinta</translation>
+    </message>
+    <message>
+        <source>ribbon used up</source>
+        <translation>cinta agotada</translation>
+    </message>
+    <message>
+        <source>waste container almost full</source>
+        <translation>depósito de residuos casi lleno</translation>
+    </message>
+    <message>
+        <source>waste container full</source>
+        <translation>depósito de residuos lleno</translation>
+    </message>
+    <message>
+        <source>toner low</source>
+        <translation>queda poco tóner</translation>
+    </message>
+    <message>
+        <source>toner used up</source>
+        <translation>tóner agotado</translation>
+    </message>
+    <message>
+        <source>cover open</source>
+        <translation>cubierta abierta</translation>
+    </message>
+    <message>
+        <source>door open</source>
+        <translation>puerta abierta</translation>
+    </message>
+    <message>
+        <source>too hot</source>
+        <translation>demasiado caliente</translation>
+    </message>
+    <message>
+        <source>warming up</source>
+        <translation>calentándose</translation>
+    </message>
+    <message>
+        <source>offline</source>
+        <translation>sin conexión</translation>
+    </message>
+    <message>
+        <source>connecting to the printer</source>
+        <translation>conectando con la impresora</translation>
+    </message>
+    <message>
+        <source>the printer does not answer</source>
+        <translation>la impresora no responde</translation>
+    </message>
+    <message>
+        <source>switched off</source>
+        <translation>apagada</translation>
+    </message>
+    <message>
+        <source>paused</source>
+        <translation>en pausa</translation>
+    </message>
+    <message>
+        <source>pausing</source>
+        <translation>pausándose</translation>
+    </message>
+    <message>
+        <source>new jobs are held</source>
+        <translation>los trabajos nuevos se retienen</translation>
+    </message>
+    <message>
+        <source>the print server&apos;s disk is full</source>
+        <translation>el disco del servidor de impresión está lleno</translation>
+    </message>
+    <message>
+        <source>a filter of its driver is missing</source>
+        <translation>falta un filtro de su controlador</translation>
+    </message>
+    <message>
+        <source>a filter of its driver is not safe</source>
+        <translation>un filtro de su controlador no es seguro</translation>
+    </message>
+    <message>
+        <source>trouble that it does not name</source>
+        <translation>un problema que no indica</translation>
+    </message>
+    <message>
+        <source>the printer is stopped</source>
+        <translation>la impresora está detenida</translation>
+    </message>
+    <message>
+        <source>a part of the printer is stopped</source>
+        <translation>una parte de la impresora está detenida</translation>
+    </message>
+    <message>
+        <source>held</source>
+        <translation>retenido</translation>
+    </message>
+    <message>
+        <source>held until somebody signs in</source>
+        <translation>retenido hasta que alguien se identifique</translation>
+    </message>
+    <message>
+        <source>what it needs is not ready</source>
+        <translation>lo que necesita no está listo</translation>
+    </message>
+    <message>
+        <source>the document could not be read</source>
+        <translation>no se ha podido leer el documento</translation>
+    </message>
+    <message>
+        <source>the document could not be printed</source>
+        <translation>no se ha podido imprimir el documento</translation>
+    </message>
+    <message>
+        <source>the printer does not take this kind of document</source>
+        <translation>la impresora no admite este tipo de documento</translation>
+    </message>
+    <message>
+        <source>cancelled by the user</source>
+        <translation>cancelado por el usuario</translation>
+    </message>
+    <message>
+        <source>cancelled by the operator</source>
+        <translation>cancelado por el operador</translation>
+    </message>
+    <message>
+        <source>cancelled at the printer</source>
+        <translation>cancelado en la impresora</translation>
+    </message>
+    <message>
+        <source>ended by the print server</source>
+        <translation>terminado por el servidor de impresión</translation>
+    </message>
+    <message>
+        <source>rejects jobs</source>
+        <translation>rechaza trabajos</translation>
+    </message>
+    <message>
+        <source>ready</source>
+        <translation>lista</translation>
+    </message>
+    <message>
+        <source>printing</source>
+        <translation>imprimiendo</translation>
+    </message>
+    <message>
+        <source>stopped</source>
+        <translation>detenida</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>desconocido</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1 unknown</source>
+        <translation>%1 desconocido</translation>
+    </message>
+    <message>
+        <source>%1 %2 % (low)</source>
+        <translation>%1 %2 % (bajo)</translation>
+    </message>
+    <message>
+        <source>%1 %2 %</source>
+        <translation>%1 %2 %</translation>
     </message>
 </context>
 <context>
@@ -951,6 +1297,10 @@ Ejemplos:
         <source>The settings are saved for &quot;%1&quot;.</source>
         <translation>Se han guardado los ajustes de «%1».</translation>
     </message>
+    <message>
+        <source>This printer has no PPD file and so no options: it gets the photo&apos;s file as it is, and places it on the page itself.</source>
+        <translation>Esta impresora no tiene archivo PPD y por tanto ninguna opción: recibe el archivo de la foto tal cual y lo coloca ella misma en la página.</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::PrinterChooser</name>
@@ -972,6 +1322,41 @@ Ejemplos:
     <message>
         <source>The settings for &quot;%1&quot; could not be saved in %2: %3. Make room there, or make it writable.</source>
         <translation>No se han podido guardar los ajustes de «%1» en %2: %3. Libere espacio allí o permita la escritura.</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::SentJobs</name>
+    <message>
+        <source>What has become of %1 (job %2) is not known: %3</source>
+        <translation>No se sabe qué ha sido de %1 (trabajo %2): %3</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; could not print %2 (job %3): %4. Look at the printer and print again.</source>
+        <translation>La impresora «%1» no ha podido imprimir %2 (trabajo %3): %4. Revise la impresora e imprima de nuevo.</translation>
+    </message>
+    <message>
+        <source>it gave no reason</source>
+        <translation>sin indicar el motivo</translation>
+    </message>
+    <message>
+        <source>The job %3 for %2 on the printer &quot;%1&quot; was cancelled (%4).</source>
+        <translation>El trabajo %3 para %2 en la impresora «%1» se ha cancelado (%4).</translation>
+    </message>
+    <message>
+        <source>nobody said why</source>
+        <translation>sin indicar el motivo</translation>
+    </message>
+    <message>
+        <source>Printed %1 on %2 (job %3)</source>
+        <translation>Se ha impreso %1 en %2 (trabajo %3)</translation>
+    </message>
+    <message>
+        <source>The job %1 for %2 could not be cancelled: %3</source>
+        <translation>El trabajo %1 para %2 no se ha podido cancelar: %3</translation>
+    </message>
+    <message>
+        <source>%1 (job %2) is not printed yet: %3. The print server keeps it; &quot;cancel %2&quot; takes it back.</source>
+        <translation>%1 (trabajo %2) no está impreso todavía: %3. El servidor de impresión lo conserva; «cancel %2» lo retira.</translation>
     </message>
 </context>
 <context>

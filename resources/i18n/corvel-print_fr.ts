@@ -11,6 +11,18 @@
         <source>%1 Printed before it: %2.</source>
         <translation>%1 Imprimé auparavant&#x202f;: %2.</translation>
     </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1 : %2</translation>
+    </message>
+    <message>
+        <source>Cancelled; nothing more is printed.</source>
+        <translation>Annulé ; rien de plus ne sera imprimé.</translation>
+    </message>
+    <message>
+        <source>Cancelled; the jobs sent were taken back from the printer.</source>
+        <translation>Annulé ; les tâches envoyées ont été retirées de l’imprimante.</translation>
+    </message>
 </context>
 <context>
     <name>ChoiceMarker</name>
@@ -102,10 +114,6 @@ as well as printing</source>
 en plus de l’impression</translation>
     </message>
     <message>
-        <source>lists and summary as JSON</source>
-        <translation>listes et récapitulatif en JSON</translation>
-    </message>
-    <message>
         <source>save a picture of the dialog with each panel in DIR, exit</source>
         <translation>enregistrer une image de chaque onglet dans DIR, quitter</translation>
     </message>
@@ -142,10 +150,6 @@ en plus de l’impression</translation>
         <translation>--batch a besoin d’une photo à imprimer.</translation>
     </message>
     <message>
-        <source>--json is for --list-printers, --list-options and --summary.</source>
-        <translation>--json s’emploie avec --list-printers, --list-options et --summary.</translation>
-    </message>
-    <message>
         <source>Usage: corvel-print [options] PHOTO...
 Prints photos on a photo printer: from a window, or at once with --batch.
 
@@ -179,6 +183,48 @@ Exemples&#x202f;:
   corvel-print --batch -o Red=12 -o Quality=Fine -o Overcoat=Matte --output tirages *.jpg
 </translation>
     </message>
+    <message>
+        <source>show exactly what --batch would send, and send nothing</source>
+        <translation>montrer exactement ce que --batch enverrait, sans rien envoyer</translation>
+    </message>
+    <message>
+        <source>how long --batch follows its jobs at most (0: not at all); otherwise to
+their end. It never waits longer than 10 seconds for a job that is held
+or whose printer is stopped, nor than 10 minutes without any news: such a
+job stays with the print server, and that is told, with exit status 0</source>
+        <translation>durée maximale du suivi des tâches par --batch (0 : aucun suivi) ; sinon
+jusqu’à leur fin. Jamais plus de 10 secondes pour une tâche retenue ou une
+imprimante arrêtée, ni plus de 10 minutes sans nouvelles : la tâche reste
+alors au serveur d’impression, ce qui est signalé, avec le code 0</translation>
+    </message>
+    <message>
+        <source>the print server to ask, instead of this machine&apos;s own</source>
+        <translation>le serveur d’impression à interroger, au lieu de celui de cette machine</translation>
+    </message>
+    <message>
+        <source>lists, summary and --dry-run as JSON</source>
+        <translation>listes, résumé et --dry-run en JSON</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no print server; it is given as HOST or HOST:PORT.</source>
+        <translation>« %1 » n’est pas un serveur d’impression ; indiquez HOST ou HOST:PORT.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no time to wait; it is a number of seconds from 0 to %2.</source>
+        <translation>« %1 » n’est pas une durée d’attente ; c’est un nombre de secondes de 0 à %2.</translation>
+    </message>
+    <message>
+        <source>--dry-run needs a photo.</source>
+        <translation>--dry-run a besoin d’une photo.</translation>
+    </message>
+    <message>
+        <source>--json is for --list-printers, --list-options, --summary and --dry-run.</source>
+        <translation>--json va avec --list-printers, --list-options, --summary et --dry-run.</translation>
+    </message>
+    <message>
+        <source>--wait is for --batch.</source>
+        <translation>--wait va avec --batch.</translation>
+    </message>
 </context>
 <context>
     <name>Console</name>
@@ -194,12 +240,90 @@ Exemples&#x202f;:
         <translation>rien ne répond à l’adresse %1</translation>
     </message>
     <message>
-        <source>it was silent for %1 s</source>
-        <translation>silence pendant %1 s</translation>
-    </message>
-    <message>
         <source>no printer can have this name</source>
         <translation>aucune imprimante ne peut porter ce nom</translation>
+    </message>
+    <message>
+        <source>it gave no answer within %1 s</source>
+        <translation>il n’a pas répondu en %1 s</translation>
+    </message>
+</context>
+<context>
+    <name>JobFollowing</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1 : %2</translation>
+    </message>
+    <message>
+        <source>waiting for the printer</source>
+        <translation>en attente de l’imprimante</translation>
+    </message>
+    <message>
+        <source>held</source>
+        <translation>retenue</translation>
+    </message>
+    <message>
+        <source>printing</source>
+        <translation>impression en cours</translation>
+    </message>
+    <message>
+        <source>cancelled</source>
+        <translation>annulée</translation>
+    </message>
+    <message>
+        <source>failed</source>
+        <translation>échec</translation>
+    </message>
+    <message>
+        <source>printed</source>
+        <translation>imprimée</translation>
+    </message>
+</context>
+<context>
+    <name>JobPlan</name>
+    <message>
+        <source>Printer</source>
+        <translation>Imprimante</translation>
+    </message>
+    <message>
+        <source>Photo</source>
+        <translation>Photo</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Fichier</translation>
+    </message>
+    <message>
+        <source>Server</source>
+        <translation>Serveur</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>Adresse</translation>
+    </message>
+    <message>
+        <source>Format</source>
+        <translation>Format</translation>
+    </message>
+    <message>
+        <source>%1, the file as it is</source>
+        <translation>%1, le fichier tel quel</translation>
+    </message>
+    <message>
+        <source>Bytes</source>
+        <translation>Octets</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Titre</translation>
+    </message>
+    <message>
+        <source>Copies</source>
+        <translation>Copies</translation>
+    </message>
+    <message>
+        <source>Option</source>
+        <translation>Option</translation>
     </message>
 </context>
 <context>
@@ -236,29 +360,13 @@ Exemples&#x202f;:
         <source>The file &quot;%1&quot; cannot be read (%2); nothing is printed.</source>
         <translation>Le fichier «&#x202f;%1&#x202f;» ne peut pas être lu (%2)&#x202f;; rien n’est imprimé.</translation>
     </message>
+    <message>
+        <source>it is empty</source>
+        <translation>il est vide</translation>
+    </message>
 </context>
 <context>
     <name>Listings</name>
-    <message>
-        <source>rejects jobs</source>
-        <translation>refuse les travaux</translation>
-    </message>
-    <message>
-        <source>ready</source>
-        <translation>prête</translation>
-    </message>
-    <message>
-        <source>printing</source>
-        <translation>imprime</translation>
-    </message>
-    <message>
-        <source>stopped</source>
-        <translation>arrêtée</translation>
-    </message>
-    <message>
-        <source>unknown</source>
-        <translation>inconnu</translation>
-    </message>
     <message>
         <source>default</source>
         <translation>par défaut</translation>
@@ -670,12 +778,32 @@ Exemples&#x202f;:
         <source>The print server could not list its printers (%1); try again, or look into its log.</source>
         <translation>Le serveur d’impression n’a pas pu lister ses imprimantes (%1)&#x202f;; réessayez ou consultez son journal.</translation>
     </message>
+    <message>
+        <source>its PPD file is a new one</source>
+        <translation>son fichier PPD a été remplacé</translation>
+    </message>
+    <message>
+        <source>nothing is printed</source>
+        <translation>rien n’est imprimé</translation>
+    </message>
+    <message>
+        <source>The options of the printer &quot;%1&quot; have changed since they were chosen (%2); look at them and print again.</source>
+        <translation>Les options de l’imprimante « %1 » ont changé depuis qu’elles ont été choisies (%2) ; vérifiez-les et relancez l’impression.</translation>
+    </message>
+    <message>
+        <source>The job for the printer &quot;%1&quot; was cancelled (%2).</source>
+        <translation>La tâche pour l’imprimante « %1 » a été annulée (%2).</translation>
+    </message>
 </context>
 <context>
     <name>RequestedSession</name>
     <message>
         <source>%1 It is your default printer; --printer names another one.</source>
         <translation>%1 C’est votre imprimante par défaut&#x202f;; --printer permet d’en nommer une autre.</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; has no PPD file and so no option %2; leave it out, or set the printer up with its driver.</source>
+        <translation>L’imprimante « %1 » n’a pas de fichier PPD, donc pas d’option %2 ; retirez-la ou installez l’imprimante avec son pilote.</translation>
     </message>
 </context>
 <context>
@@ -687,6 +815,224 @@ Exemples&#x202f;:
     <message>
         <source>The folder %1 cannot be made. Choose another one for the pictures.</source>
         <translation>Le dossier %1 ne peut pas être créé. Choisissez-en un autre pour les images.</translation>
+    </message>
+</context>
+<context>
+    <name>SessionOpening</name>
+    <message>
+        <source>As set at the printer</source>
+        <translation>Selon le réglage de l’imprimante</translation>
+    </message>
+</context>
+<context>
+    <name>StateText</name>
+    <message>
+        <source>out of paper</source>
+        <translation>plus de papier</translation>
+    </message>
+    <message>
+        <source>paper has to be put in</source>
+        <translation>papier à charger</translation>
+    </message>
+    <message>
+        <source>paper low</source>
+        <translation>bientôt plus de papier</translation>
+    </message>
+    <message>
+        <source>paper jam</source>
+        <translation>bourrage papier</translation>
+    </message>
+    <message>
+        <source>paper tray missing</source>
+        <translation>bac à papier absent</translation>
+    </message>
+    <message>
+        <source>output tray missing</source>
+        <translation>bac de sortie absent</translation>
+    </message>
+    <message>
+        <source>output tray almost full</source>
+        <translation>bac de sortie presque plein</translation>
+    </message>
+    <message>
+        <source>output tray full</source>
+        <translation>bac de sortie plein</translation>
+    </message>
+    <message>
+        <source>ribbon or ink low</source>
+        <translation>ruban ou encre bientôt épuisé</translation>
+    </message>
+    <message>
+        <source>ribbon or ink used up</source>
+        <translation>ruban ou encre épuisé</translation>
+    </message>
+    <message>
+        <source>ribbon low</source>
+        <translation>ruban bientôt épuisé</translation>
+    </message>
+    <message>
+        <source>ribbon used up</source>
+        <translation>ruban épuisé</translation>
+    </message>
+    <message>
+        <source>waste container almost full</source>
+        <translation>récupérateur presque plein</translation>
+    </message>
+    <message>
+        <source>waste container full</source>
+        <translation>récupérateur plein</translation>
+    </message>
+    <message>
+        <source>toner low</source>
+        <translation>bientôt plus de toner</translation>
+    </message>
+    <message>
+        <source>toner used up</source>
+        <translation>toner épuisé</translation>
+    </message>
+    <message>
+        <source>cover open</source>
+        <translation>capot ouvert</translation>
+    </message>
+    <message>
+        <source>door open</source>
+        <translation>porte ouverte</translation>
+    </message>
+    <message>
+        <source>too hot</source>
+        <translation>surchauffe</translation>
+    </message>
+    <message>
+        <source>warming up</source>
+        <translation>préchauffage</translation>
+    </message>
+    <message>
+        <source>offline</source>
+        <translation>hors ligne</translation>
+    </message>
+    <message>
+        <source>connecting to the printer</source>
+        <translation>connexion à l’imprimante</translation>
+    </message>
+    <message>
+        <source>the printer does not answer</source>
+        <translation>l’imprimante ne répond pas</translation>
+    </message>
+    <message>
+        <source>switched off</source>
+        <translation>éteinte</translation>
+    </message>
+    <message>
+        <source>paused</source>
+        <translation>en pause</translation>
+    </message>
+    <message>
+        <source>pausing</source>
+        <translation>mise en pause</translation>
+    </message>
+    <message>
+        <source>new jobs are held</source>
+        <translation>les nouvelles tâches sont retenues</translation>
+    </message>
+    <message>
+        <source>the print server&apos;s disk is full</source>
+        <translation>le disque du serveur d’impression est plein</translation>
+    </message>
+    <message>
+        <source>a filter of its driver is missing</source>
+        <translation>un filtre de son pilote manque</translation>
+    </message>
+    <message>
+        <source>a filter of its driver is not safe</source>
+        <translation>un filtre de son pilote n’est pas sûr</translation>
+    </message>
+    <message>
+        <source>trouble that it does not name</source>
+        <translation>un problème qu’elle ne précise pas</translation>
+    </message>
+    <message>
+        <source>the printer is stopped</source>
+        <translation>l’imprimante est arrêtée</translation>
+    </message>
+    <message>
+        <source>a part of the printer is stopped</source>
+        <translation>une partie de l’imprimante est arrêtée</translation>
+    </message>
+    <message>
+        <source>held</source>
+        <translation>retenue</translation>
+    </message>
+    <message>
+        <source>held until somebody signs in</source>
+        <translation>retenue jusqu’à une identification</translation>
+    </message>
+    <message>
+        <source>what it needs is not ready</source>
+        <translation>ce qu’il lui faut n’est pas prêt</translation>
+    </message>
+    <message>
+        <source>the document could not be read</source>
+        <translation>le document n’a pas pu être lu</translation>
+    </message>
+    <message>
+        <source>the document could not be printed</source>
+        <translation>le document n’a pas pu être imprimé</translation>
+    </message>
+    <message>
+        <source>the printer does not take this kind of document</source>
+        <translation>l’imprimante n’accepte pas ce type de document</translation>
+    </message>
+    <message>
+        <source>cancelled by the user</source>
+        <translation>annulée par l’utilisateur</translation>
+    </message>
+    <message>
+        <source>cancelled by the operator</source>
+        <translation>annulée par l’opérateur</translation>
+    </message>
+    <message>
+        <source>cancelled at the printer</source>
+        <translation>annulée sur l’imprimante</translation>
+    </message>
+    <message>
+        <source>ended by the print server</source>
+        <translation>arrêtée par le serveur d’impression</translation>
+    </message>
+    <message>
+        <source>rejects jobs</source>
+        <translation>refuse les tâches</translation>
+    </message>
+    <message>
+        <source>ready</source>
+        <translation>prête</translation>
+    </message>
+    <message>
+        <source>printing</source>
+        <translation>impression en cours</translation>
+    </message>
+    <message>
+        <source>stopped</source>
+        <translation>arrêtée</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>inconnu</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1 : %2</translation>
+    </message>
+    <message>
+        <source>%1 unknown</source>
+        <translation>%1 inconnu</translation>
+    </message>
+    <message>
+        <source>%1 %2 % (low)</source>
+        <translation>%1 %2 % (bas)</translation>
+    </message>
+    <message>
+        <source>%1 %2 %</source>
+        <translation>%1 %2 %</translation>
     </message>
 </context>
 <context>
@@ -951,6 +1297,10 @@ Exemples&#x202f;:
         <source>The settings are saved for &quot;%1&quot;.</source>
         <translation>Les réglages de «&#x202f;%1&#x202f;» ont été enregistrés.</translation>
     </message>
+    <message>
+        <source>This printer has no PPD file and so no options: it gets the photo&apos;s file as it is, and places it on the page itself.</source>
+        <translation>Cette imprimante n’a pas de fichier PPD, donc pas d’options : elle reçoit le fichier de la photo tel quel et le place elle-même sur la page.</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::PrinterChooser</name>
@@ -972,6 +1322,41 @@ Exemples&#x202f;:
     <message>
         <source>The settings for &quot;%1&quot; could not be saved in %2: %3. Make room there, or make it writable.</source>
         <translation>Les réglages de «&#x202f;%1&#x202f;» n’ont pas pu être enregistrés dans %2&#x202f;: %3. Libérez-y de la place ou rendez-le accessible en écriture.</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::SentJobs</name>
+    <message>
+        <source>What has become of %1 (job %2) is not known: %3</source>
+        <translation>On ne sait pas ce qu’est devenue %1 (tâche %2) : %3</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; could not print %2 (job %3): %4. Look at the printer and print again.</source>
+        <translation>L’imprimante « %1 » n’a pas pu imprimer %2 (tâche %3) : %4. Vérifiez l’imprimante et relancez l’impression.</translation>
+    </message>
+    <message>
+        <source>it gave no reason</source>
+        <translation>sans en donner la raison</translation>
+    </message>
+    <message>
+        <source>The job %3 for %2 on the printer &quot;%1&quot; was cancelled (%4).</source>
+        <translation>La tâche %3 pour %2 sur l’imprimante « %1 » a été annulée (%4).</translation>
+    </message>
+    <message>
+        <source>nobody said why</source>
+        <translation>sans raison indiquée</translation>
+    </message>
+    <message>
+        <source>Printed %1 on %2 (job %3)</source>
+        <translation>%1 imprimée sur %2 (tâche %3)</translation>
+    </message>
+    <message>
+        <source>The job %1 for %2 could not be cancelled: %3</source>
+        <translation>La tâche %1 pour %2 n’a pas pu être annulée : %3</translation>
+    </message>
+    <message>
+        <source>%1 (job %2) is not printed yet: %3. The print server keeps it; &quot;cancel %2&quot; takes it back.</source>
+        <translation>%1 (tâche %2) n’est pas encore imprimée : %3. Le serveur d’impression la garde ; « cancel %2 » la retire.</translation>
     </message>
 </context>
 <context>

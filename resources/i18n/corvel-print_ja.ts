@@ -11,6 +11,18 @@
         <source>%1 Printed before it: %2.</source>
         <translation>%1 それまでに印刷したもの: %2。</translation>
     </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Cancelled; nothing more is printed.</source>
+        <translation>中止しました。これ以上は印刷されません。</translation>
+    </message>
+    <message>
+        <source>Cancelled; the jobs sent were taken back from the printer.</source>
+        <translation>中止しました。送信したジョブはプリンターから取り消しました。</translation>
+    </message>
 </context>
 <context>
     <name>ChoiceMarker</name>
@@ -102,10 +114,6 @@ as well as printing</source>
 --batch と併用すると印刷もする</translation>
     </message>
     <message>
-        <source>lists and summary as JSON</source>
-        <translation>一覧と設定内容を JSON で出力する</translation>
-    </message>
-    <message>
         <source>save a picture of the dialog with each panel in DIR, exit</source>
         <translation>各画面の画像を DIR に保存して終了する</translation>
     </message>
@@ -142,10 +150,6 @@ as well as printing</source>
         <translation>--batch には印刷する写真が必要です。</translation>
     </message>
     <message>
-        <source>--json is for --list-printers, --list-options and --summary.</source>
-        <translation>--json は --list-printers、--list-options、--summary とともに使います。</translation>
-    </message>
-    <message>
         <source>Usage: corvel-print [options] PHOTO...
 Prints photos on a photo printer: from a window, or at once with --batch.
 
@@ -179,6 +183,48 @@ Examples:
   corvel-print --batch -o Red=12 -o Quality=Fine -o Overcoat=Matte --output prints *.jpg
 </translation>
     </message>
+    <message>
+        <source>show exactly what --batch would send, and send nothing</source>
+        <translation>--batch が送る内容をそのまま表示し、何も送らない</translation>
+    </message>
+    <message>
+        <source>how long --batch follows its jobs at most (0: not at all); otherwise to
+their end. It never waits longer than 10 seconds for a job that is held
+or whose printer is stopped, nor than 10 minutes without any news: such a
+job stays with the print server, and that is told, with exit status 0</source>
+        <translation>--batch がジョブを追跡する最長時間（0: 追跡しない）。指定がなければ
+終わるまで。保留中のジョブや停止中のプリンターは 10 秒、何も変化が
+ない場合は 10 分を超えて待たない。そのジョブはプリントサーバーに残り、
+その旨を知らせて終了コード 0 で終わる</translation>
+    </message>
+    <message>
+        <source>the print server to ask, instead of this machine&apos;s own</source>
+        <translation>このコンピューターのものの代わりに使うプリントサーバー</translation>
+    </message>
+    <message>
+        <source>lists, summary and --dry-run as JSON</source>
+        <translation>一覧、概要、--dry-run を JSON で出力する</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no print server; it is given as HOST or HOST:PORT.</source>
+        <translation>「%1」はプリントサーバーではありません。HOST または HOST:PORT の形で指定してください。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no time to wait; it is a number of seconds from 0 to %2.</source>
+        <translation>「%1」は待ち時間ではありません。0 から %2 までの秒数を指定してください。</translation>
+    </message>
+    <message>
+        <source>--dry-run needs a photo.</source>
+        <translation>--dry-run には写真が必要です。</translation>
+    </message>
+    <message>
+        <source>--json is for --list-printers, --list-options, --summary and --dry-run.</source>
+        <translation>--json は --list-printers、--list-options、--summary、--dry-run と一緒に使います。</translation>
+    </message>
+    <message>
+        <source>--wait is for --batch.</source>
+        <translation>--wait は --batch と一緒に使います。</translation>
+    </message>
 </context>
 <context>
     <name>Console</name>
@@ -194,12 +240,90 @@ Examples:
         <translation>%1 から応答がありません</translation>
     </message>
     <message>
-        <source>it was silent for %1 s</source>
-        <translation>%1 秒間応答がありません</translation>
-    </message>
-    <message>
         <source>no printer can have this name</source>
         <translation>この名前のプリンターはありえません</translation>
+    </message>
+    <message>
+        <source>it gave no answer within %1 s</source>
+        <translation>%1 秒以内に応答がありませんでした</translation>
+    </message>
+</context>
+<context>
+    <name>JobFollowing</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>waiting for the printer</source>
+        <translation>プリンターを待っています</translation>
+    </message>
+    <message>
+        <source>held</source>
+        <translation>保留中</translation>
+    </message>
+    <message>
+        <source>printing</source>
+        <translation>印刷中</translation>
+    </message>
+    <message>
+        <source>cancelled</source>
+        <translation>取り消されました</translation>
+    </message>
+    <message>
+        <source>failed</source>
+        <translation>失敗しました</translation>
+    </message>
+    <message>
+        <source>printed</source>
+        <translation>印刷しました</translation>
+    </message>
+</context>
+<context>
+    <name>JobPlan</name>
+    <message>
+        <source>Printer</source>
+        <translation>プリンター</translation>
+    </message>
+    <message>
+        <source>Photo</source>
+        <translation>写真</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>ファイル</translation>
+    </message>
+    <message>
+        <source>Server</source>
+        <translation>サーバー</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>アドレス</translation>
+    </message>
+    <message>
+        <source>Format</source>
+        <translation>形式</translation>
+    </message>
+    <message>
+        <source>%1, the file as it is</source>
+        <translation>%1（ファイルをそのまま）</translation>
+    </message>
+    <message>
+        <source>Bytes</source>
+        <translation>バイト数</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>タイトル</translation>
+    </message>
+    <message>
+        <source>Copies</source>
+        <translation>部数</translation>
+    </message>
+    <message>
+        <source>Option</source>
+        <translation>オプション</translation>
     </message>
 </context>
 <context>
@@ -236,29 +360,13 @@ Examples:
         <source>The file &quot;%1&quot; cannot be read (%2); nothing is printed.</source>
         <translation>ファイル「%1」を読めません (%2)。何も印刷しません。</translation>
     </message>
+    <message>
+        <source>it is empty</source>
+        <translation>空です</translation>
+    </message>
 </context>
 <context>
     <name>Listings</name>
-    <message>
-        <source>rejects jobs</source>
-        <translation>ジョブを受け付けていません</translation>
-    </message>
-    <message>
-        <source>ready</source>
-        <translation>準備完了</translation>
-    </message>
-    <message>
-        <source>printing</source>
-        <translation>印刷中</translation>
-    </message>
-    <message>
-        <source>stopped</source>
-        <translation>停止中</translation>
-    </message>
-    <message>
-        <source>unknown</source>
-        <translation>不明</translation>
-    </message>
     <message>
         <source>default</source>
         <translation>既定</translation>
@@ -670,12 +778,32 @@ Examples:
         <source>The print server could not list its printers (%1); try again, or look into its log.</source>
         <translation>プリントサーバーがプリンターの一覧を作れませんでした (%1)。やり直すか、サーバーのログを確認してください。</translation>
     </message>
+    <message>
+        <source>its PPD file is a new one</source>
+        <translation>PPD ファイルが新しくなりました</translation>
+    </message>
+    <message>
+        <source>nothing is printed</source>
+        <translation>何も印刷されません</translation>
+    </message>
+    <message>
+        <source>The options of the printer &quot;%1&quot; have changed since they were chosen (%2); look at them and print again.</source>
+        <translation>プリンター「%1」のオプションは、選択した後に変わりました（%2）。確認してからもう一度印刷してください。</translation>
+    </message>
+    <message>
+        <source>The job for the printer &quot;%1&quot; was cancelled (%2).</source>
+        <translation>プリンター「%1」へのジョブを取り消しました（%2）。</translation>
+    </message>
 </context>
 <context>
     <name>RequestedSession</name>
     <message>
         <source>%1 It is your default printer; --printer names another one.</source>
         <translation>%1 これは既定のプリンターです。別のプリンターは --printer で指定できます。</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; has no PPD file and so no option %2; leave it out, or set the printer up with its driver.</source>
+        <translation>プリンター「%1」には PPD ファイルがないため、オプション %2 はありません。指定を外すか、ドライバーを使ってプリンターを設定してください。</translation>
     </message>
 </context>
 <context>
@@ -687,6 +815,224 @@ Examples:
     <message>
         <source>The folder %1 cannot be made. Choose another one for the pictures.</source>
         <translation>フォルダー %1 を作れません。画像用に別のフォルダーを選んでください。</translation>
+    </message>
+</context>
+<context>
+    <name>SessionOpening</name>
+    <message>
+        <source>As set at the printer</source>
+        <translation>プリンターの設定どおり</translation>
+    </message>
+</context>
+<context>
+    <name>StateText</name>
+    <message>
+        <source>out of paper</source>
+        <translation>用紙切れ</translation>
+    </message>
+    <message>
+        <source>paper has to be put in</source>
+        <translation>用紙を入れてください</translation>
+    </message>
+    <message>
+        <source>paper low</source>
+        <translation>用紙残りわずか</translation>
+    </message>
+    <message>
+        <source>paper jam</source>
+        <translation>紙詰まり</translation>
+    </message>
+    <message>
+        <source>paper tray missing</source>
+        <translation>給紙トレイがありません</translation>
+    </message>
+    <message>
+        <source>output tray missing</source>
+        <translation>排紙トレイがありません</translation>
+    </message>
+    <message>
+        <source>output tray almost full</source>
+        <translation>排紙トレイがまもなくいっぱいです</translation>
+    </message>
+    <message>
+        <source>output tray full</source>
+        <translation>排紙トレイがいっぱいです</translation>
+    </message>
+    <message>
+        <source>ribbon or ink low</source>
+        <translation>リボンまたはインクの残りわずか</translation>
+    </message>
+    <message>
+        <source>ribbon or ink used up</source>
+        <translation>リボンまたはインク切れ</translation>
+    </message>
+    <message>
+        <source>ribbon low</source>
+        <translation>リボン残りわずか</translation>
+    </message>
+    <message>
+        <source>ribbon used up</source>
+        <translation>リボン切れ</translation>
+    </message>
+    <message>
+        <source>waste container almost full</source>
+        <translation>廃棄容器がまもなくいっぱいです</translation>
+    </message>
+    <message>
+        <source>waste container full</source>
+        <translation>廃棄容器がいっぱいです</translation>
+    </message>
+    <message>
+        <source>toner low</source>
+        <translation>トナー残りわずか</translation>
+    </message>
+    <message>
+        <source>toner used up</source>
+        <translation>トナー切れ</translation>
+    </message>
+    <message>
+        <source>cover open</source>
+        <translation>カバーが開いています</translation>
+    </message>
+    <message>
+        <source>door open</source>
+        <translation>ドアが開いています</translation>
+    </message>
+    <message>
+        <source>too hot</source>
+        <translation>温度が高すぎます</translation>
+    </message>
+    <message>
+        <source>warming up</source>
+        <translation>ウォームアップ中</translation>
+    </message>
+    <message>
+        <source>offline</source>
+        <translation>オフライン</translation>
+    </message>
+    <message>
+        <source>connecting to the printer</source>
+        <translation>プリンターに接続しています</translation>
+    </message>
+    <message>
+        <source>the printer does not answer</source>
+        <translation>プリンターが応答しません</translation>
+    </message>
+    <message>
+        <source>switched off</source>
+        <translation>電源が切れています</translation>
+    </message>
+    <message>
+        <source>paused</source>
+        <translation>一時停止中</translation>
+    </message>
+    <message>
+        <source>pausing</source>
+        <translation>一時停止しています</translation>
+    </message>
+    <message>
+        <source>new jobs are held</source>
+        <translation>新しいジョブは保留されます</translation>
+    </message>
+    <message>
+        <source>the print server&apos;s disk is full</source>
+        <translation>プリントサーバーのディスクがいっぱいです</translation>
+    </message>
+    <message>
+        <source>a filter of its driver is missing</source>
+        <translation>ドライバーのフィルターが見つかりません</translation>
+    </message>
+    <message>
+        <source>a filter of its driver is not safe</source>
+        <translation>ドライバーのフィルターが安全ではありません</translation>
+    </message>
+    <message>
+        <source>trouble that it does not name</source>
+        <translation>不明な問題</translation>
+    </message>
+    <message>
+        <source>the printer is stopped</source>
+        <translation>プリンターが停止しています</translation>
+    </message>
+    <message>
+        <source>a part of the printer is stopped</source>
+        <translation>プリンターの一部が停止しています</translation>
+    </message>
+    <message>
+        <source>held</source>
+        <translation>保留中</translation>
+    </message>
+    <message>
+        <source>held until somebody signs in</source>
+        <translation>サインインされるまで保留中</translation>
+    </message>
+    <message>
+        <source>what it needs is not ready</source>
+        <translation>必要なものの準備ができていません</translation>
+    </message>
+    <message>
+        <source>the document could not be read</source>
+        <translation>文書を読み取れませんでした</translation>
+    </message>
+    <message>
+        <source>the document could not be printed</source>
+        <translation>文書を印刷できませんでした</translation>
+    </message>
+    <message>
+        <source>the printer does not take this kind of document</source>
+        <translation>プリンターはこの種類の文書に対応していません</translation>
+    </message>
+    <message>
+        <source>cancelled by the user</source>
+        <translation>ユーザーが取り消しました</translation>
+    </message>
+    <message>
+        <source>cancelled by the operator</source>
+        <translation>管理者が取り消しました</translation>
+    </message>
+    <message>
+        <source>cancelled at the printer</source>
+        <translation>プリンターで取り消されました</translation>
+    </message>
+    <message>
+        <source>ended by the print server</source>
+        <translation>プリントサーバーが中止しました</translation>
+    </message>
+    <message>
+        <source>rejects jobs</source>
+        <translation>ジョブを受け付けません</translation>
+    </message>
+    <message>
+        <source>ready</source>
+        <translation>準備完了</translation>
+    </message>
+    <message>
+        <source>printing</source>
+        <translation>印刷中</translation>
+    </message>
+    <message>
+        <source>stopped</source>
+        <translation>停止中</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>不明</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1 unknown</source>
+        <translation>%1 不明</translation>
+    </message>
+    <message>
+        <source>%1 %2 % (low)</source>
+        <translation>%1 %2 %（残りわずか）</translation>
+    </message>
+    <message>
+        <source>%1 %2 %</source>
+        <translation>%1 %2 %</translation>
     </message>
 </context>
 <context>
@@ -950,6 +1296,10 @@ Examples:
         <source>The settings are saved for &quot;%1&quot;.</source>
         <translation>「%1」の設定を保存しました。</translation>
     </message>
+    <message>
+        <source>This printer has no PPD file and so no options: it gets the photo&apos;s file as it is, and places it on the page itself.</source>
+        <translation>このプリンターには PPD ファイルがないため、オプションはありません。写真のファイルがそのまま送られ、配置はプリンターが行います。</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::PrinterChooser</name>
@@ -971,6 +1321,41 @@ Examples:
     <message>
         <source>The settings for &quot;%1&quot; could not be saved in %2: %3. Make room there, or make it writable.</source>
         <translation>「%1」の設定を %2 に保存できませんでした: %3。空き容量を増やすか、書き込めるようにしてください。</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::SentJobs</name>
+    <message>
+        <source>What has become of %1 (job %2) is not known: %3</source>
+        <translation>%1（ジョブ %2）の結果は分かりません: %3</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; could not print %2 (job %3): %4. Look at the printer and print again.</source>
+        <translation>プリンター「%1」は %2（ジョブ %3）を印刷できませんでした: %4。プリンターを確認して、もう一度印刷してください。</translation>
+    </message>
+    <message>
+        <source>it gave no reason</source>
+        <translation>理由は示されていません</translation>
+    </message>
+    <message>
+        <source>The job %3 for %2 on the printer &quot;%1&quot; was cancelled (%4).</source>
+        <translation>プリンター「%1」の %2 のジョブ %3 は取り消されました（%4）。</translation>
+    </message>
+    <message>
+        <source>nobody said why</source>
+        <translation>理由は不明</translation>
+    </message>
+    <message>
+        <source>Printed %1 on %2 (job %3)</source>
+        <translation>%1 を %2 で印刷しました（ジョブ %3）</translation>
+    </message>
+    <message>
+        <source>The job %1 for %2 could not be cancelled: %3</source>
+        <translation>%2 のジョブ %1 を取り消せませんでした: %3</translation>
+    </message>
+    <message>
+        <source>%1 (job %2) is not printed yet: %3. The print server keeps it; &quot;cancel %2&quot; takes it back.</source>
+        <translation>%1（ジョブ %2）はまだ印刷されていません: %3。ジョブはプリントサーバーに残ります。「cancel %2」で取り消せます。</translation>
     </message>
 </context>
 <context>

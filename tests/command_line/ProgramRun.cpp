@@ -39,6 +39,11 @@ ProgramRun runProgram(const QStringList &arguments, const QMap<QString, QString>
     return finish(process);
 }
 
+QString printProgram()
+{
+    return QStringLiteral(CORVEL_PRINT_PROGRAM);
+}
+
 ProgramRun runInShell(const QString &command, const QStringList &arguments)
 {
     QProcess process;

@@ -25,6 +25,9 @@ struct ProgramRun
 ProgramRun runProgram(const QStringList &arguments, const QMap<QString, QString> &environment = {},
                       const QString &folder = {});
 
+/// The path of corvel-print.
+QString printProgram();
+
 /// Through the shell, `"$@"` being the program and its arguments: for redirections.
 ProgramRun runInShell(const QString &command, const QStringList &arguments);
 

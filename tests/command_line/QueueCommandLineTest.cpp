@@ -5,9 +5,16 @@
 #include "ProgramRun.h"
 
 #include <QtCore/QDir>
+#include <QtCore/QElapsedTimer>
 #include <QtCore/QJsonArray>
+#include <QtCore/QJsonObject>
+#include <QtCore/QProcess>
 #include <QtCore/QTemporaryDir>
+#include <QtGui/QImage>
 #include <QtTest/QTest>
+
+#include <algorithm>
+#include <csignal>
 
 using namespace testing_support;
 using namespace Qt::StringLiterals;
@@ -15,6 +22,22 @@ using namespace Qt::StringLiterals;
 namespace {
 
 const QString samplePhoto = QStringLiteral(CORVEL_SAMPLE_PHOTO);
+
+/// The backend's fifth argument without what the scheduler adds to every job, sorted.
+QByteArrayList optionsIn(const RecordedJob &job)
+{
+    QByteArrayList options = job.options.split(' ');
+    options.removeIf([](const QByteArray &option) {
+        return option.startsWith("job-") || option.contains("time-at-") || option.startsWith("document-");
+    });
+    std::sort(options.begin(), options.end());
+    return options;
+}
+
+int jobIn(const ProgramRun &run)
+{
+    return run.out.trimmed().split(' ').constLast().toInt();
+}
 
 } // namespace
 
@@ -24,6 +47,9 @@ class QueueCommandLineTest : public QObject
     Q_OBJECT
 
 private:
+    /// Of the shape of the sheet, so that nothing has to be placed.
+    QString uprightPhoto() const { return home_.filePath(u"upright.jpg"_s); }
+
     QTemporaryDir home_;
     PrivateCupsd cupsd_;
 
@@ -34,6 +60,13 @@ private Q_SLOTS:
     void printsToTheQueue();
     void refusesQueues_data();
     void refusesQueues();
+    void sendsWhatTheDryRunShows_data();
+    void sendsWhatTheDryRunShows();
+    void dryRunOfTheBuiltInPrinter();
+    void asksTheServerNamed();
+    void followsTheJob_data();
+    void followsTheJob();
+    void interruptedRunTakesItsJobsBack();
 };
 
 void QueueCommandLineTest::initTestCase()
@@ -41,13 +74,19 @@ void QueueCommandLineTest::initTestCase()
     for (const char *name : {"LPDEST", "PRINTER"})
         qunsetenv(name);
     qputenv("HOME", home_.path().toUtf8());
-    const QString trouble = cupsd_.start();
+    const QString trouble = cupsd_.start(PrivateCupsd::Reach::Network);
     QVERIFY2(trouble.isEmpty(), qPrintable(trouble));
     const QByteArray ppd = contentOf(QStringLiteral(CORVEL_PPD));
     QVERIFY(cupsd_.addQueue(u"photo"_s, ppd, {u"-D"_s, u"Photo corner"_s}));
     QVERIFY(cupsd_.addQueue(u"closed"_s, ppd));
     QVERIFY(cupsd_.run(u"cupsreject"_s, {u"closed"_s}));
     QVERIFY(cupsd_.addQueue(u"raw"_s));
+    QVERIFY(cupsd_.addQueue(u"odd"_s, ppd, {u"-v"_s, u"scripted:/"_s}));
+    QVERIFY(cupsd_.run(u"lpadmin"_s, {u"-p"_s, u"photo"_s, u"-c"_s, u"group"_s}));
+    QVERIFY(cupsd_.run(u"lpadmin"_s, {u"-p"_s, u"group"_s, u"-E"_s}));
+    QImage upright(600, 900, QImage::Format_RGB32);
+    upright.fill(Qt::darkCyan);
+    QVERIFY(upright.save(uprightPhoto(), "JPEG") && upright.save(home_.filePath(u"upright.webp"_s), "PNG"));
     QVERIFY(cupsd_.run(u"lpadmin"_s, {u"-d"_s, u"photo"_s}));
 }
 
@@ -57,7 +96,7 @@ void QueueCommandLineTest::listsQueues()
     QVERIFY(text.startsWith("built-in\tBuilt-in printer (files)\tready\t\n"));
     QVERIFY(text.contains("\nphoto\tPhoto corner\tready\tdefault\n"));
     QVERIFY(text.contains("\nclosed\tclosed\trejects jobs\t\n"));
-    QCOMPARE(runProgram({u"--list-printers"_s, u"--json"_s}).json().array().size(), 4);
+    QCOMPARE(runProgram({u"--list-printers"_s, u"--json"_s}).json().array().size(), 6);
 }
 
 void QueueCommandLineTest::printsToTheQueue_data()
@@ -105,6 +144,154 @@ void QueueCommandLineTest::refusesQueues()
     const QByteArray wrong = wrongInRefusal(run, 1, {word});
     QVERIFY2(wrong.isEmpty(), wrong.constData());
     QVERIFY2(cupsd_.activeJobs().isEmpty(), cupsd_.activeJobs().constData());
+}
+
+void QueueCommandLineTest::sendsWhatTheDryRunShows_data()
+{
+    QTest::addColumn<QString>("queue");
+    QTest::addColumn<QString>("photo");
+    QTest::addColumn<QStringList>("options");
+    QTest::addColumn<QString>("format");
+    const QStringList red = {u"-o"_s, u"Red=12"_s};
+    const QStringList small = {u"-o"_s, u"PageSize=4x6"_s};
+    QTest::newRow("placed") << u"photo"_s << samplePhoto << red << u"application/pdf"_s;
+    QTest::newRow("nothing to place") << u"photo"_s << uprightPhoto() << red << u"image/jpeg"_s;
+    QTest::newRow("class") << u"group"_s << uprightPhoto() << red << u"image/jpeg"_s;
+    QTest::newRow("with margins") << u"photo"_s << uprightPhoto() << small << u"application/pdf"_s;
+    QTest::newRow("no JPEG") << u"photo"_s << home_.filePath(u"upright.webp"_s) << red
+                             << u"application/pdf"_s;
+    QTest::newRow("without a PPD") << u"raw"_s << samplePhoto << QStringList() << u"image/jpeg"_s;
+}
+
+void QueueCommandLineTest::sendsWhatTheDryRunShows()
+{
+    QFETCH(QString, queue);
+    QFETCH(QString, photo);
+    QFETCH(QStringList, options);
+    const QStringList arguments = QStringList{u"--printer"_s, queue, photo} + options;
+    const QByteArray before = cupsd_.activeJobs();
+    const ProgramRun dry = runProgram(arguments + QStringList{u"--dry-run"_s, u"--json"_s});
+    QCOMPARE(dry.err, QByteArray());
+    const QJsonObject plan = dry.json().array().at(0).toObject();
+    QTEST(plan[u"format"_s].toString(), "format");
+    QCOMPARE(plan[u"queue"_s].toString(), queue);
+    QCOMPARE(plan[u"server"_s].toString(), cupsd_.socketPath());
+    QVERIFY(plan[u"uri"_s].toString().startsWith(u"ipp://"_s) && plan[u"uri"_s].toString().endsWith(queue));
+    QCOMPARE(cupsd_.activeJobs(), before);
+
+    const ProgramRun run = runProgram(arguments + QStringList{u"--batch"_s});
+    QCOMPARE(run.err, QByteArray());
+    QCOMPARE(run.status, 0);
+    QVERIFY(cupsd_.waitForJob(jobIn(run), 1)); // the run has followed it to its end
+    const RecordedJob job = cupsd_.job(jobIn(run));
+    const bool isUntouched = plan[u"untouched"_s].toBool();
+    QCOMPARE(isUntouched, plan[u"format"_s].toString() == u"image/jpeg"_s);
+    QCOMPARE(job.document.size(), plan[u"bytes"_s].toInteger());
+    QCOMPARE(job.document == contentOf(photo), isUntouched);
+    QVERIFY(isUntouched || job.document.contains(contentOf(photo)) || photo.endsWith(u".webp"_s));
+    const QByteArray type = "CONTENT_TYPE=" + plan[u"format"_s].toString().toLatin1();
+    QVERIFY2(job.environment.split('\n').contains(type), job.environment.constData());
+    QCOMPARE(QString::fromUtf8(job.title), plan[u"title"_s].toString());
+    QCOMPARE(job.copies.toInt(), plan[u"copies"_s].toInt());
+    QByteArrayList planned;
+    const QJsonObject choices = plan[u"options"_s].toObject();
+    for (auto choice = choices.begin(); choice != choices.end(); ++choice)
+        planned.append(choice.key().toUtf8() + '=' + choice->toString().toUtf8());
+    std::sort(planned.begin(), planned.end());
+    QCOMPARE(optionsIn(job).join(' '), planned.join(' '));
+
+    const QByteArray text = runProgram(arguments + QStringList{u"--dry-run"_s}).out;
+    for (const QByteArray &part : planned + QByteArrayList{QByteArray::number(job.document.size())})
+        QVERIFY2(text.contains(": " + part + '\n'), part.constData());
+}
+
+void QueueCommandLineTest::dryRunOfTheBuiltInPrinter()
+{
+    const QStringList arguments = {u"--printer"_s,           u"built-in"_s, u"--output"_s,
+                                   home_.filePath(u"out"_s), samplePhoto,   samplePhoto};
+    const ProgramRun dry = runProgram(arguments + QStringList{u"--dry-run"_s, u"--json"_s});
+    QVERIFY(!QDir(home_.filePath(u"out"_s)).exists());
+    QCOMPARE(runProgram(arguments + QStringList{u"--batch"_s}).status, 0);
+    const QJsonArray plans = dry.json().array();
+    QCOMPARE(plans.size(), 2);
+    for (const QJsonValue &plan : plans) {
+        const QJsonArray files = plan[u"files"_s].toArray();
+        QCOMPARE(files.size(), 2);
+        for (const QJsonValue &file : files)
+            QVERIFY2(QFile::exists(file.toString()), qPrintable(file.toString()));
+    }
+}
+
+void QueueCommandLineTest::asksTheServerNamed()
+{
+    const QMap<QString, QString> elsewhere = {{u"CUPS_SERVER"_s, u"/nonexistent/cups.sock"_s}};
+    const QStringList server = {u"--server"_s, cupsd_.networkAddress()};
+    QVERIFY(runProgram(server + QStringList{u"--list-printers"_s}, elsewhere).out.contains("\nphoto\t"));
+    const ProgramRun run = runProgram(
+        server + QStringList{u"--printer"_s, u"photo"_s, u"--batch"_s, u"-o"_s, u"Red=7"_s, samplePhoto},
+        elsewhere);
+    QCOMPARE(run.err, QByteArray());
+    QVERIFY(cupsd_.waitForJob(jobIn(run), 1));
+    QVERIFY(optionsIn(cupsd_.job(jobIn(run))).contains("Red=7"));
+    const ProgramRun none =
+        runProgram({u"--server"_s, u"127.0.0.1:9"_s, u"--printer"_s, u"photo"_s, u"--batch"_s, samplePhoto});
+    const QByteArray wrong = wrongInRefusal(none, 1, {u"127.0.0.1"_s, u"\"photo\""_s});
+    QVERIFY2(wrong.isEmpty(), wrong.constData());
+}
+
+void QueueCommandLineTest::followsTheJob_data()
+{
+    QTest::addColumn<QByteArray>("backend");
+    QTest::addColumn<bool>("isStopped");
+    QTest::addColumn<QStringList>("more");
+    QTest::addColumn<int>("status");
+    QTest::addColumn<QByteArrayList>("words");
+    const QByteArray slow = "sleep 2";
+    QTest::newRow("failing printer") << QByteArray("echo 'ERROR: Ribbon torn' >&2; exit 1") << false
+                                     << QStringList() << 1 << QByteArrayList{"\"odd\"", "Ribbon torn"};
+    QTest::newRow("stopped queue") << slow << true << QStringList{u"--wait"_s, u"1"_s} << 0
+                                   << QByteArrayList{"not printed yet", "out of ribbon"};
+    QTest::newRow("not followed") << slow << false << QStringList{u"--wait"_s, u"0"_s} << 0
+                                  << QByteArrayList();
+}
+
+void QueueCommandLineTest::followsTheJob()
+{
+    QFETCH(QByteArray, backend);
+    QFETCH(bool, isStopped);
+    QFETCH(QStringList, more);
+    QFETCH(QByteArrayList, words);
+    QVERIFY(cupsd_.setBackendScript(backend));
+    if (isStopped)
+        QVERIFY(cupsd_.run(u"cupsdisable"_s, {u"-r"_s, u"out of ribbon"_s, u"odd"_s}));
+    QElapsedTimer timer;
+    timer.start();
+    const ProgramRun run =
+        runProgram(QStringList{u"--printer"_s, u"odd"_s, u"--batch"_s, uprightPhoto()} + more);
+    QVERIFY(timer.elapsed() < 2000);
+    QVERIFY(run.out.startsWith("Sent upright.jpg to odd as job "));
+    QTEST(run.status, "status");
+    QCOMPARE(run.err.count('\n'), words.isEmpty() ? 0 : 1);
+    for (const QByteArray &word : words)
+        QVERIFY2(run.err.contains(word), run.err.constData());
+    QVERIFY(cupsd_.run(u"cancel"_s, {u"-a"_s, u"odd"_s}));
+    QVERIFY(cupsd_.run(u"cupsenable"_s, {u"odd"_s}));
+    QTRY_COMPARE(cupsd_.activeJobs(), QByteArray());
+}
+
+void QueueCommandLineTest::interruptedRunTakesItsJobsBack()
+{
+    QVERIFY(cupsd_.setBackendScript("trap 'exit 0' TERM; sleep 20 & wait"));
+    QProcess program;
+    program.start(printProgram(), {u"--printer"_s, u"odd"_s, u"--batch"_s, uprightPhoto(), uprightPhoto()});
+    QVERIFY(program.waitForStarted());
+    QTRY_COMPARE(cupsd_.activeJobs().count('\n'), 2);
+    ::kill(static_cast<pid_t>(program.processId()), SIGINT);
+    QVERIFY(program.waitForFinished(5000));
+    QCOMPARE(program.exitCode(), 1);
+    const QByteArray err = program.readAllStandardError();
+    QVERIFY2(err.count('\n') == 1 && err.contains("Cancelled"), err.constData());
+    QTRY_COMPARE(cupsd_.activeJobs(), QByteArray());
 }
 
 QTEST_GUILESS_MAIN(QueueCommandLineTest)

@@ -78,6 +78,14 @@ void RefusalsTest::wrongUsage_data()
     row("printing and pictures", {u"--batch"_s, u"--screenshot"_s, u"d"_s, samplePhoto}, u"--screenshot"_s);
     row("two lists", {u"--list-options"_s, u"--list-printers"_s}, u"--list-options"_s);
     row("JSON of nothing", {u"--json"_s, samplePhoto}, u"--json"_s);
+    row("dry run of nothing", {u"--dry-run"_s}, u"--dry-run"_s);
+    row("dry run of a list", {u"--dry-run"_s, u"--list-printers"_s, samplePhoto}, u"--dry-run"_s);
+    row("waiting for nothing", {u"--wait"_s, u"5"_s, samplePhoto}, u"--wait"_s);
+    row("waiting for no time", {u"--batch"_s, u"--wait"_s, u"-1"_s, samplePhoto}, u"\"-1\""_s);
+    row("waiting without a number", {u"--batch"_s, u"--wait"_s, u"1h"_s, samplePhoto}, u"\"1h\""_s);
+    row("server without a name", {u"--server"_s, u":631"_s, samplePhoto}, u"\":631\""_s);
+    row("server with a bad port", {u"--server"_s, u"host:99999"_s, samplePhoto}, u"host:99999"_s);
+    row("server with more in it", {u"--server"_s, u"host/ipp print"_s, samplePhoto}, u"HOST:PORT"_s);
     row("JSON of printing", {u"--json"_s, u"--summary"_s, u"--batch"_s, samplePhoto}, u"--json"_s);
 }
 

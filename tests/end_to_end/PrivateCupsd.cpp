@@ -9,9 +9,12 @@
 #include <QtCore/QStandardPaths>
 #include <QtCore/QThread>
 
+#include <arpa/inet.h>
 #include <csignal>
 #include <initializer_list>
+#include <netinet/in.h>
 #include <sys/prctl.h>
+#include <sys/socket.h>
 #include <unistd.h>
 
 namespace testing_support {
@@ -40,6 +43,20 @@ QByteArray readFile(const QString &path)
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
+/// A port that nobody listens at.
+int freePort()
+{
+    const int probe = socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
+    sockaddr_in address = {};
+    address.sin_family = AF_INET;
+    address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+    socklen_t length = sizeof address;
+    const bool isKnown = bind(probe, reinterpret_cast<sockaddr *>(&address), length) == 0 &&
+                         getsockname(probe, reinterpret_cast<sockaddr *>(&address), &length) == 0;
+    close(probe);
+    return isKnown ? ntohs(address.sin_port) : 0;
+}
+
 constexpr auto everybody = QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner | QFile::ReadGroup |
                            QFile::ExeGroup | QFile::ReadOther | QFile::ExeOther;
 
@@ -50,8 +67,10 @@ PrivateCupsd::~PrivateCupsd()
     stop();
 }
 
-QString PrivateCupsd::start()
+QString PrivateCupsd::start(Reach reach)
 {
+    if (reach == Reach::Network)
+        networkAddress_ = QStringLiteral("127.0.0.1:%1").arg(freePort());
     const QString cupsd = programPath(QStringLiteral("cupsd"));
     if (cupsd.isEmpty())
         return QStringLiteral("cupsd is missing: install the package cups (./test does)");
@@ -119,8 +138,10 @@ bool PrivateCupsd::layOut()
         "SyncOnClose No\n";
     if (geteuid() == 0)
         files += "User lp\nGroup lp\nSystemGroup root\n";
-    const QByteArray scheduler =
-        "Listen R/cups.sock\nBrowsing No\nWebInterface No\nDefaultAuthType None\nDefaultEncryption Never\n"
+    const QByteArray schedulerConf =
+        "Listen R/cups.sock\n" +
+        (networkAddress_.isEmpty() ? QByteArray() : "Listen " + networkAddress_.toLatin1() + '\n') +
+        "Browsing No\nWebInterface No\nDefaultAuthType None\nDefaultEncryption Never\n"
         "ErrorPolicy abort-job\nLogLevel warn\n<Location />\nOrder allow,deny\nAllow all\n</Location>\n"
         "<Policy default>\nJobPrivateAccess all\nJobPrivateValues none\nSubscriptionPrivateAccess all\n"
         "SubscriptionPrivateValues none\n<Limit All>\nOrder allow,deny\nAllow all\n</Limit>\n</Policy>\n";
@@ -134,9 +155,12 @@ bool PrivateCupsd::layOut()
         return text.replace("R/", root + '/');
     };
     done = done && writeFile(path("etc/cups-files.conf"), placed(files)) &&
-           writeFile(path("etc/cupsd.conf"), placed(scheduler)) &&
-           writeFile(path("bin/backend/recorder"), placed(recorder));
-    return done && QFile::setPermissions(path("bin/backend/recorder"), everybody);
+           writeFile(path("etc/cupsd.conf"), placed(schedulerConf)) &&
+           writeFile(path("bin/backend/recorder"), placed(recorder)) &&
+           writeFile(path("bin/backend/scripted"),
+                     placed("#!/bin/sh\n[ $# -eq 0 ] && exit 0\nexec /bin/sh R/script \"$@\"\n"));
+    return done && QFile::setPermissions(path("bin/backend/recorder"), everybody) &&
+           QFile::setPermissions(path("bin/backend/scripted"), everybody);
 }
 
 bool PrivateCupsd::waitForAnswer()
@@ -148,6 +172,21 @@ bool PrivateCupsd::waitForAnswer()
             return false;
     }
     return false;
+}
+
+bool PrivateCupsd::setBackendScript(const QByteArray &commands)
+{
+    return writeFile(path("script"), commands + '\n') && QFile::setPermissions(path("script"), everybody);
+}
+
+void PrivateCupsd::freeze()
+{
+    kill(static_cast<pid_t>(scheduler_.processId()), SIGSTOP);
+}
+
+void PrivateCupsd::thaw()
+{
+    kill(static_cast<pid_t>(scheduler_.processId()), SIGCONT);
 }
 
 bool PrivateCupsd::addQueue(const QString &name, const QByteArray &ppd, const QStringList &lpadminArguments)

@@ -21,9 +21,9 @@ struct RecordedJob
     QByteArray document;
 };
 
-/// A print server of a test's own: a folder under /tmp, a socket in it, its own queues, no network. Works for
-/// root and for an ordinary user. Ends with the object, or with the test program. While it lives CUPS_SERVER
-/// points to it.
+/// A print server of a test's own: a folder under /tmp, a socket in it, its own queues, no network unless
+/// asked for. Works for root and for an ordinary user. Ends with the object, or with the test program. While
+/// it lives CUPS_SERVER points to it.
 class PrivateCupsd
 {
 public:
@@ -31,12 +31,21 @@ public:
     ~PrivateCupsd();
     Q_DISABLE_COPY_MOVE(PrivateCupsd)
 
+    enum class Reach { Socket, Network };
+
     /// Lays out the folder, starts the scheduler and waits for it. Empty, or one line that says what is in
     /// the way.
-    QString start();
+    QString start(Reach reach = Reach::Socket);
     void stop();
+    /// Has the scheduler answer nothing any more, its connections open, and go on again.
+    void freeze();
+    void thaw();
 
     QString socketPath() const;
+    /// "127.0.0.1:port", with Reach::Network.
+    QString networkAddress() const { return networkAddress_; }
+    /// What the backend "scripted:/" does with a job: shell commands, with a backend's arguments.
+    bool setBackendScript(const QByteArray &commands);
     /// Adds a queue, or replaces it, on the recorder backend. Without a PPD it is a raw queue.
     bool addQueue(const QString &name, const QByteArray &ppd = {}, const QStringList &lpadminArguments = {});
     bool deleteQueue(const QString &name);
@@ -57,6 +66,7 @@ private:
     QTemporaryDir folder_{QStringLiteral("/tmp/private-cupsd-XXXXXX")};
     QProcess scheduler_; // killed by its destructor, and by the kernel when the test program dies
     QByteArray serverBefore_;
+    QString networkAddress_;
     bool started_ = false;
 };
 

@@ -12,7 +12,9 @@
 #include <QtTest/QSignalSpy>
 #include <QtTest/QTest>
 
+#include <atomic>
 #include <csignal>
+#include <thread>
 
 using namespace printdialog;
 using namespace std::chrono_literals;
@@ -104,8 +106,7 @@ void QueuesTest::unfitOptionIsRefusedBeforeAnythingIsSent()
     QFETCH(QString, keyword);
     QFETCH(QString, value);
     // With a server that is not there: any other outcome would be NoServer.
-    const auto job =
-        submitJob(u"photo"_s, u"title"_s, {{}, "x", "image/jpeg", u"x"_s}, {{keyword, value}}, 1);
+    const auto job = submitJob({u"photo"_s, u"title"_s, {{}, "x", "image/jpeg", u"x"_s}, {{keyword, value}}});
     QVERIFY(!job);
     QCOMPARE(job.failure().reason, QueueFault::Refused);
     const QString text = job.failure().text;
@@ -146,11 +147,25 @@ void QueuesTest::badServerCostsOneSentenceInTime()
     timer.start();
     QVERIFY(listQueues(limit).isEmpty());
     QVERIFY(timer.elapsed() < limit.count() + 200);
-    if (manner != StubServer::Manner::Silent)
-        return;
-    const auto job = submitJob(u"photo"_s, u"t"_s, {{}, "x", "image/jpeg", u"x"_s}, {}, 1, limit);
+    timer.start();
+    const auto job = submitJob({u"photo"_s, u"t"_s, {{}, "x", "image/jpeg", u"x"_s}, {}}, {}, limit);
+    QVERIFY(timer.elapsed() < limit.count() + 200);
     QVERIFY(!job);
     QCOMPARE(job.failure().reason, fault);
+
+    // Given up by another thread while the server keeps it waiting.
+    int cancel = 0;
+    std::thread canceller([&cancel] {
+        std::this_thread::sleep_for(100ms);
+        std::atomic_ref(cancel).store(1);
+    });
+    timer.start();
+    const auto cancelled =
+        submitJob({u"photo"_s, u"t"_s, {{}, "x", "image/jpeg", u"x"_s}, {}}, {{}, &cancel}, 10s);
+    canceller.join();
+    QVERIFY(timer.elapsed() < 400);
+    QVERIFY(!cancelled);
+    QCOMPARE(cancelled.failure().reason, QueueFault::Cancelled);
 }
 
 void QueuesTest::finderNeverBlocks_data()
@@ -200,7 +215,7 @@ void QueuesTest::onlyTheLatestFetchIsAnnounced()
     QTest::qWait(300);
     QCOMPARE(failed.size(), 1);
     QCOMPARE(failed.at(0).at(0).toULongLong(), second);
-    QVERIFY(failed.at(0).at(1).toString().contains(u"\"two\""_s));
+    QVERIFY(failed.at(0).at(2).toString().contains(u"\"two\""_s));
 }
 
 void QueuesTest::noServerIsToldAtOnce()

@@ -1,0 +1,30 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include <QtCore/QtGlobal>
+
+#include <csignal>
+
+namespace printdialog {
+
+/// While it lives, Ctrl+C and a request to end (SIGINT, SIGTERM) raise a flag instead of ending the program,
+/// so that it can take back what it has begun. A second one ends it at once. One at a time.
+class InterruptFlag
+{
+public:
+    InterruptFlag();
+    ~InterruptFlag();
+    Q_DISABLE_COPY_MOVE(InterruptFlag)
+
+    /// Non-zero once raised; as long as the program runs.
+    int *flag() const;
+    bool isRaised() const;
+
+private:
+    struct sigaction interruptBefore_ = {};
+    struct sigaction terminateBefore_ = {};
+};
+
+} // namespace printdialog

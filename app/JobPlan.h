@@ -1,0 +1,40 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include "PhotoPrinter.h"
+#include "PrinterDescription.h"
+
+#include <QtCore/QCoreApplication>
+#include <QtCore/QJsonObject>
+
+namespace printdialog {
+
+/// What printing one photo would send to a queue, or leave as files, told instead of done. A snapshot.
+class JobPlan
+{
+    Q_DECLARE_TR_FUNCTIONS(JobPlan)
+
+public:
+    /// Makes what would be sent, and sends nothing. For the built-in printer the names of the files are kept
+    /// apart in `names`.
+    static Result<JobPlan, PhotoPrinter::Fault> make(const Photo &photo, const PrinterDescription &printer,
+                                                     const PrintJob &job, const QString &folder,
+                                                     PrintedNames &names);
+
+    /// "label: value", one for each thing.
+    QStringList lines() const;
+    /// An object with "queue", "server", "uri", "document", "format", "bytes", "untouched", "title", "copies"
+    /// and "options"; for the built-in printer "queue", "files", "document", "copies" and "options".
+    QJsonObject json() const;
+
+private:
+    JobRequest request_;
+    PrinterDescription printer_;
+    QString server_;
+    QStringList files_;
+    bool isUntouched_ = false;
+};
+
+} // namespace printdialog

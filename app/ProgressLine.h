@@ -1,0 +1,36 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include <QtCore/QString>
+
+#include <chrono>
+
+namespace printdialog {
+
+/// One line at the bottom of a terminal that tells how far printing is, on standard error. Shows nothing when
+/// that is no terminal. Main thread only.
+class ProgressLine
+{
+public:
+    ProgressLine();
+    ~ProgressLine();
+    Q_DISABLE_COPY_MOVE(ProgressLine)
+
+    /// What is being done, without a bar.
+    void show(const QString &text);
+    /// The same with a bar.
+    void show(const QString &text, qint64 done, qint64 total);
+    /// Takes the line away, so that another one can be written.
+    void clear();
+
+private:
+    void write(const QString &line);
+
+    bool isTerminal_;
+    QString shown_;
+    std::chrono::steady_clock::time_point last_;
+};
+
+} // namespace printdialog

@@ -1,0 +1,235 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "JobFollowing.h"
+
+#include "CupsConnection.h"
+#include "PlainText.h"
+#include "StateText.h"
+
+#include <QtCore/QCoreApplication>
+
+#include <algorithm>
+#include <array>
+#include <atomic>
+#include <thread>
+
+using namespace std::chrono_literals;
+using Clock = std::chrono::steady_clock;
+
+namespace printdialog {
+
+namespace {
+
+constexpr auto firstInterval = 20ms;
+constexpr auto longestInterval = 1000ms;
+constexpr auto cancelInterval = 50ms;
+const QString printerStopped = QStringLiteral("printer-stopped");
+const QByteArray serverUri = "ipp://localhost/";
+
+struct Text
+{
+    Q_DECLARE_TR_FUNCTIONS(JobFollowing)
+};
+
+JobStatus::State stateOf(int jobState)
+{
+    switch (jobState) {
+    case IPP_JSTATE_HELD:
+        return JobStatus::State::Held;
+    case IPP_JSTATE_PROCESSING:
+        return JobStatus::State::Processing;
+    case IPP_JSTATE_STOPPED:
+        return JobStatus::State::Stopped;
+    case IPP_JSTATE_CANCELED:
+        return JobStatus::State::Canceled;
+    case IPP_JSTATE_ABORTED:
+        return JobStatus::State::Aborted;
+    case IPP_JSTATE_COMPLETED:
+        return JobStatus::State::Completed;
+    default:
+        return JobStatus::State::Pending;
+    }
+}
+
+Result<JobStatus, QueueFault> jobStatus(CupsConnection &connection, const QString &queue, int id)
+{
+    static constexpr std::array wanted = {"job-state", "job-state-reasons", "job-printer-state-message",
+                                          "job-printer-state-reasons"};
+    IppPointer request = ippRequest(IPP_OP_GET_JOB_ATTRIBUTES, serverUri);
+    ippAddInteger(request.get(), IPP_TAG_OPERATION, IPP_TAG_INTEGER, "job-id", id);
+    ippAddStrings(request.get(), IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes",
+                  static_cast<int>(wanted.size()), nullptr, wanted.data());
+    const IppPointer answer = connection.answerTo(std::move(request), "/");
+    JobStatus status;
+    if (cupsLastError() == IPP_STATUS_ERROR_NOT_FOUND) {
+        status.state = JobStatus::State::Gone;
+        return status;
+    }
+    if (!answer || cupsLastError() > IPP_STATUS_OK_CONFLICTING)
+        return connection.lastFailure(queue);
+    ipp_attribute_t *state = ippFindAttribute(answer.get(), "job-state", IPP_TAG_ENUM);
+    status.state = stateOf(state ? ippGetInteger(state, 0) : 0);
+    status.reasons =
+        textsOf(answer.get(), "job-state-reasons") + textsOf(answer.get(), "job-printer-state-reasons");
+    status.message =
+        plainText(textsOf(answer.get(), "job-printer-state-message").value(0).simplified(), shownTextLimit);
+    return status;
+}
+
+/// Of a job that was not begun the server does not say that its printer is stopped, nor ever why.
+void addPrintersWords(CupsConnection &connection, const QString &queue, JobStatus &status)
+{
+    const auto record = queueRecord(connection, queue);
+    if (!record || !record->isStopped)
+        return;
+    if (!status.reasons.contains(printerStopped))
+        status.reasons.prepend(printerStopped);
+    QStringList reasons = record->stateReasons;
+    reasons.removeAll(QStringLiteral("paused"));
+    status.reasons += reasons;
+    if (status.message.isEmpty())
+        status.message = plainText(record->stateMessage.simplified(), shownTextLimit);
+}
+
+class Following
+{
+public:
+    Following(const QString &queue, int id, const FollowLimits &limits, int *cancel)
+        : queue_(queue)
+        , id_(id)
+        , limits_(limits)
+        , cancel_(cancel)
+    {
+    }
+
+    Result<JobStatus, QueueFault> follow(const std::function<void(const JobStatus &)> &news)
+    {
+        const auto start = Clock::now();
+        std::optional<JobStatus> last;
+        auto changed = start;
+        auto moved = start; // when it was last seen not to wait
+        for (auto interval = std::chrono::milliseconds(firstInterval);;) {
+            const auto status = look();
+            const auto now = Clock::now();
+            if (!status && !isCancelled())
+                return status.failure();
+            if (status && (!last || *status != *last)) {
+                last = *status;
+                changed = now;
+                if (news)
+                    news(*last);
+            }
+            if (!last || !last->isWaiting())
+                moved = now;
+            if (isCancelled() || (last && last->isOver()) || now - start >= limits_.total ||
+                now - changed >= limits_.quiet || now - moved >= limits_.waiting)
+                return last.value_or(JobStatus());
+            pause(interval);
+            interval = std::min<std::chrono::milliseconds>(interval * 3 / 2, longestInterval);
+        }
+    }
+
+private:
+    bool isCancelled() const { return cancel_ && std::atomic_ref(*cancel_).load() != 0; }
+
+    void pause(std::chrono::milliseconds time) const
+    {
+        const auto end = Clock::now() + time;
+        while (!isCancelled() && Clock::now() < end)
+            std::this_thread::sleep_for(std::min<Clock::duration>(cancelInterval, end - Clock::now()));
+    }
+
+    /// A connection is kept as long as it lasts: servers close those that were idle.
+    Result<JobStatus, QueueFault> look()
+    {
+        if (connection_) {
+            connection_->extend();
+            if (auto status = lookOver(*connection_))
+                return status;
+        }
+        connection_ = std::make_unique<CupsConnection>(limits_.silent, cancel_);
+        if (!connection_->isOpen())
+            return queueFailure(QueueFault::NoServer, queue_, connection_->unreachableReason());
+        return lookOver(*connection_);
+    }
+
+    Result<JobStatus, QueueFault> lookOver(CupsConnection &connection) const
+    {
+        auto status = jobStatus(connection, queue_, id_);
+        if (status && !status->isOver() && status->state != JobStatus::State::Processing)
+            addPrintersWords(connection, queue_, *status);
+        return status;
+    }
+
+    QString queue_;
+    int id_;
+    const FollowLimits &limits_;
+    int *cancel_;
+    std::unique_ptr<CupsConnection> connection_;
+};
+
+} // namespace
+
+bool JobStatus::isWaiting() const
+{
+    return state == State::Held || state == State::Stopped ||
+           (state == State::Pending && reasons.contains(printerStopped));
+}
+
+QString JobStatus::detail() const
+{
+    const QString words = reasonsText(reasons);
+    // "Paused" is what CUPS says of every stopped printer.
+    const QString own = message == QLatin1String("Paused") ? QString() : message;
+    if (own.isEmpty() || words.isEmpty())
+        return words + own;
+    if (state == State::Aborted)
+        return own;
+    return isWaiting() ? Text::tr("%1: %2").arg(words, own) : words;
+}
+
+QString JobStatus::text() const
+{
+    const QString more = detail();
+    switch (state) {
+    case State::Pending:
+    case State::Stopped:
+        return more.isEmpty() ? Text::tr("waiting for the printer") : more;
+    case State::Held:
+        return more.isEmpty() ? Text::tr("held") : more;
+    case State::Processing:
+        return more.isEmpty() ? Text::tr("printing") : Text::tr("%1: %2").arg(Text::tr("printing"), more);
+    case State::Canceled:
+        return Text::tr("cancelled");
+    case State::Aborted:
+        return Text::tr("failed");
+    case State::Completed:
+    case State::Gone:
+        break;
+    }
+    return Text::tr("printed");
+}
+
+Result<JobStatus, QueueFault> followJob(const QString &queue, int id, const FollowLimits &limits,
+                                        const std::function<void(const JobStatus &)> &news, int *cancel)
+{
+    return Following(queue, id, limits, cancel).follow(news);
+}
+
+Result<bool, QueueFault> cancelJob(const QString &queue, int id, std::chrono::milliseconds limit)
+{
+    CupsConnection connection(limit);
+    if (!connection.isOpen())
+        return queueFailure(QueueFault::NoServer, queue, connection.unreachableReason());
+    IppPointer request = ippRequest(IPP_OP_CANCEL_JOB, serverUri);
+    ippAddInteger(request.get(), IPP_TAG_OPERATION, IPP_TAG_INTEGER, "job-id", id);
+    const IppPointer answer = connection.answerTo(std::move(request), "/jobs/");
+    const ipp_status_t status = cupsLastError();
+    const bool isOver = status == IPP_STATUS_ERROR_NOT_POSSIBLE || status == IPP_STATUS_ERROR_NOT_FOUND;
+    if (!isOver && (!answer || status > IPP_STATUS_OK_CONFLICTING))
+        return connection.lastFailure(queue);
+    return !isOver;
+}
+
+} // namespace printdialog

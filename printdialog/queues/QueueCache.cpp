@@ -1,0 +1,111 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "QueueCache.h"
+
+#include "PlainText.h"
+#include "PpdFetcher.h"
+
+#include <QtCore/QDir>
+#include <QtCore/QFile>
+#include <QtCore/QFileInfo>
+#include <QtCore/QJsonDocument>
+#include <QtCore/QJsonObject>
+#include <QtCore/QSaveFile>
+#include <QtCore/QStandardPaths>
+#include <QtCore/QUrl>
+
+#include <array>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace printdialog {
+
+namespace {
+
+constexpr int version = 1;
+constexpr auto onlyOwner = QFile::ReadOwner | QFile::WriteOwner;
+
+struct TextField
+{
+    const char *name;
+    QString Queue::*member;
+};
+
+constexpr std::array textFields = {
+    TextField{"name", &Queue::name},
+    TextField{"instance", &Queue::instance},
+    TextField{"info", &Queue::info},
+    TextField{"location", &Queue::location},
+    TextField{"model", &Queue::makeAndModel},
+    TextField{"device", &Queue::deviceUri},
+    TextField{"uri", &Queue::uri},
+};
+
+/// Whether the file is the user's own and nobody else's to write to.
+bool isPrivate(const QString &path)
+{
+    struct stat found = {};
+    return stat(QFile::encodeName(path).constData(), &found) == 0 && S_ISREG(found.st_mode) &&
+           found.st_uid == geteuid() && (found.st_mode & (S_IWGRP | S_IWOTH)) == 0;
+}
+
+} // namespace
+
+QString QueueCache::file()
+{
+    const QString folder = QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation);
+    const QByteArray server = QUrl::toPercentEncoding(qEnvironmentVariable("CUPS_SERVER", {}), {}, ".");
+    return QStringLiteral("%1/corvel-print/last-queue%2%3.json")
+        .arg(folder, QLatin1String(server.isEmpty() ? "" : "-"), QString::fromLatin1(server));
+}
+
+std::optional<RememberedQueue> QueueCache::load()
+{
+    const QString path = file();
+    QFile file(path);
+    // In base 64 the PPD is a third larger.
+    if (!isPrivate(path) || file.size() > fetchedPpdLimit * 3 / 2 || !file.open(QIODevice::ReadOnly))
+        return std::nullopt;
+    const QJsonObject content = QJsonDocument::fromJson(file.readAll()).object();
+    if (content[QLatin1String("version")].toInt() != version)
+        return std::nullopt;
+    RememberedQueue remembered;
+    for (const TextField &field : textFields)
+        remembered.queue.*field.member =
+            plainText(content[QLatin1String(field.name)].toString(), shownTextLimit);
+    if (remembered.queue.name.isEmpty())
+        return std::nullopt;
+    remembered.queue.isClass = content[QLatin1String("isClass")].toBool();
+    if (content[QLatin1String("isBuiltIn")].toBool())
+        remembered.queue = Queue::builtIn();
+    remembered.ppd = QByteArray::fromBase64(content[QLatin1String("ppd")].toString().toLatin1());
+    remembered.wasChosen = content[QLatin1String("wasChosen")].toBool();
+    return remembered;
+}
+
+void QueueCache::save(const RememberedQueue &remembered)
+{
+    QJsonObject content = {{QStringLiteral("version"), version},
+                           {QStringLiteral("isClass"), remembered.queue.isClass},
+                           {QStringLiteral("isBuiltIn"), remembered.queue.isBuiltIn},
+                           {QStringLiteral("wasChosen"), remembered.wasChosen},
+                           {QStringLiteral("ppd"), QString::fromLatin1(remembered.ppd.toBase64())}};
+    for (const TextField &field : textFields)
+        content.insert(QLatin1String(field.name), remembered.queue.*field.member);
+
+    const QString path = file();
+    const QByteArray bytes = QJsonDocument(content).toJson(QJsonDocument::Compact);
+    const QString folder = QFileInfo(path).path();
+    if (!QDir(folder).exists())
+        QDir().mkpath(QFileInfo(folder).path()) && QDir().mkdir(folder, onlyOwner | QFile::ExeOwner);
+    QFile before(path);
+    if (isPrivate(path) && before.open(QIODevice::ReadOnly) && before.readAll() == bytes)
+        return;
+    QSaveFile saved(path);
+    if (saved.open(QIODevice::WriteOnly) && saved.setPermissions(onlyOwner) &&
+        saved.write(bytes) == bytes.size())
+        saved.commit();
+}
+
+} // namespace printdialog

@@ -1,0 +1,269 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "JobFollowing.h"
+#include "JobSubmission.h"
+#include "PpdFetcher.h"
+#include "PrivateCupsd.h"
+#include "QueueList.h"
+#include "StateText.h"
+
+#include <QtCore/QDir>
+#include <QtCore/QElapsedTimer>
+#include <QtCore/QTemporaryDir>
+#include <QtTest/QTest>
+
+#include <atomic>
+
+using namespace printdialog;
+using namespace std::chrono_literals;
+using namespace Qt::StringLiterals;
+using testing_support::PrivateCupsd;
+using testing_support::smallPpd;
+
+namespace {
+
+JobRequest jobFor(const QString &queue, const QByteArray &bytes = "bytes")
+{
+    return {queue, u"title"_s, {{}, bytes, "image/jpeg", u"photo.jpg"_s}, {}};
+}
+
+/// Larger than every buffer on the way to the server.
+QByteArray muchData()
+{
+    return QByteArray(qsizetype(32) << 20, 'x');
+}
+
+} // namespace
+
+/// What becomes of jobs, with a real print server and printers that fail.
+class JobsEndToEndTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void jobIsFollowedToItsEnd_data();
+    void jobIsFollowedToItsEnd();
+    void waitingJobIsLeftInTime();
+    void cancelledJobs();
+    void suppliesAndReasons();
+    void changedPpdIsNoticed();
+    void overTheNetwork();
+    void serverFallsSilent();
+    void serverDiesWhileSending();
+
+private:
+    QTemporaryDir home_;
+    PrivateCupsd cupsd_;
+};
+
+void JobsEndToEndTest::initTestCase()
+{
+    QVERIFY(QDir(home_.path()).mkdir(u".cups"_s));
+    qputenv("HOME", home_.path().toUtf8());
+    const QString trouble = cupsd_.start(PrivateCupsd::Reach::Network);
+    QVERIFY2(trouble.isEmpty(), qPrintable(trouble));
+    QVERIFY(cupsd_.addQueue(u"photo"_s, smallPpd()));
+    QVERIFY(cupsd_.addQueue(u"odd"_s, smallPpd(), {u"-v"_s, u"scripted:/"_s}));
+    QVERIFY(cupsd_.run(u"lpadmin"_s, {u"-p"_s, u"odd"_s, u"-c"_s, u"group"_s}));
+    QVERIFY(cupsd_.run(u"lpadmin"_s, {u"-p"_s, u"group"_s, u"-E"_s}));
+}
+
+void JobsEndToEndTest::jobIsFollowedToItsEnd_data()
+{
+    QTest::addColumn<QString>("queue");
+    QTest::addColumn<QByteArray>("backend");
+    QTest::addColumn<int>("state");
+    QTest::addColumn<QString>("words");
+    const int completed = static_cast<int>(JobStatus::State::Completed);
+    const int aborted = static_cast<int>(JobStatus::State::Aborted);
+    QTest::newRow("done") << u"odd"_s << QByteArray("exit 0") << completed << QString();
+    QTest::newRow("done, by a class") << u"group"_s << QByteArray("exit 0") << completed << QString();
+    QTest::newRow("failed, with words of its own")
+        << u"odd"_s << QByteArray("printf 'ERROR: Ribbon \\033[1mtorn\\n' >&2; exit 1") << aborted
+        << u"Ribbon [1mtorn"_s;
+}
+
+void JobsEndToEndTest::jobIsFollowedToItsEnd()
+{
+    QFETCH(QString, queue);
+    QFETCH(QByteArray, backend);
+    QFETCH(QString, words);
+    // It is seen while it is being printed.
+    QVERIFY(cupsd_.setBackendScript("sleep 0.2\n" + backend));
+    const auto id = submitJob(jobFor(queue));
+    QVERIFY2(id, id ? "" : qPrintable(id.failure().text));
+    QList<JobStatus::State> states;
+    const auto status =
+        followJob(queue, *id, {}, [&states](const JobStatus &news) { states.append(news.state); });
+    QVERIFY2(status, status ? "" : qPrintable(status.failure().text));
+    QTEST(static_cast<int>(status->state), "state");
+    QVERIFY2(status->detail().contains(words), qPrintable(status->detail()));
+    QVERIFY(states.contains(JobStatus::State::Processing));
+    QCOMPARE(states.constLast(), status->state);
+}
+
+void JobsEndToEndTest::waitingJobIsLeftInTime()
+{
+    QVERIFY(cupsd_.run(u"cupsdisable"_s, {u"-r"_s, u"new ribbon on its way"_s, u"photo"_s}));
+    const auto id = submitJob(jobFor(u"photo"_s));
+    QVERIFY(id);
+    FollowLimits limits;
+    limits.waiting = 200ms;
+    QElapsedTimer timer;
+    timer.start();
+    const auto status = followJob(u"photo"_s, *id, limits);
+    QVERIFY(timer.elapsed() >= 200 && timer.elapsed() < 2000);
+    QVERIFY(status && !status->isOver() && status->isWaiting());
+    QVERIFY2(status->text().contains(u"printer is stopped"_s), qPrintable(status->text()));
+    QVERIFY(cupsd_.run(u"cupsenable"_s, {u"photo"_s}));
+    QVERIFY(cupsd_.waitForJob(*id));
+}
+
+// While it is being sent, and once the server has it.
+void JobsEndToEndTest::cancelledJobs()
+{
+    QVERIFY(cupsd_.setBackendScript("exit 0"));
+    const auto before = submitJob(jobFor(u"odd"_s));
+    QVERIFY(before && followJob(u"odd"_s, *before, {}));
+    QVERIFY(cupsd_.setBackendScript("trap 'exit 0' TERM; sleep 20 & wait"));
+    int cancel = 0;
+    JobControl control;
+    control.cancel = &cancel;
+    control.sent = [&cancel](qint64 sent, qint64 total) {
+        if (sent > total / 2)
+            std::atomic_ref(cancel).store(1);
+    };
+    const auto id = submitJob(jobFor(u"odd"_s, muchData()), control);
+    QVERIFY(!id);
+    QCOMPARE(id.failure().reason, QueueFault::Cancelled);
+
+    const auto printing = submitJob(jobFor(u"odd"_s));
+    QVERIFY(printing);
+    QCOMPARE(*printing, *before + 1); // the server has never made a job of it
+    cancel = 0;
+    const auto left = followJob(
+        u"odd"_s, *printing, {},
+        [&cancel](const JobStatus &news) {
+            if (news.state == JobStatus::State::Processing)
+                std::atomic_ref(cancel).store(1);
+        },
+        &cancel);
+    QVERIFY(left && !left->isOver());
+    const auto cancelled = cancelJob(u"odd"_s, *printing);
+    QVERIFY(cancelled && *cancelled);
+    const auto end = followJob(u"odd"_s, *printing, {});
+    QVERIFY(end);
+    QCOMPARE(end->state, JobStatus::State::Canceled);
+    const auto again = cancelJob(u"odd"_s, *printing);
+    QVERIFY(again && !*again);
+}
+
+// As a backend tells them to its server.
+void JobsEndToEndTest::suppliesAndReasons()
+{
+    const auto odd = [] {
+        const auto opened = queueNamed(u"odd"_s, 5s);
+        return opened ? opened->queue : Queue();
+    };
+    QCOMPARE(odd().supplies, QList<Supply>());
+    QCOMPARE(suppliesText(odd()), QString());
+    QVERIFY(cupsd_.setBackendScript(
+        "echo 'ATTR: marker-names=Ribbon,Paper,Waste marker-types=ribbon,unknown,waste-ink "
+        "marker-levels=8,-1,95 marker-low-levels=10,10,0 marker-high-levels=100,100,90' >&2\n"
+        "echo 'STATE: +media-empty-error,marker-supply-low-warning,corvel-odd-report' >&2\nexit 0"));
+    const auto id = submitJob(jobFor(u"odd"_s));
+    QVERIFY(id && followJob(u"odd"_s, *id, {}));
+    const Queue queue = odd();
+    QCOMPARE(queue.supplies.size(), 3);
+    QCOMPARE(queue.supplies.at(0), (Supply{u"Ribbon"_s, 8, true}));
+    QCOMPARE(queue.supplies.at(1).level, std::nullopt);
+    QVERIFY(queue.supplies.at(2).isLow);
+    QVERIFY(suppliesText(queue).startsWith(u"Ribbon 8 % (low), "_s));
+    QVERIFY(suppliesText(queue).contains(u"unknown"_s));
+    const QString text = stateText(queue);
+    for (const QString &words : {u"out of paper"_s, u"ribbon or ink low"_s, u"corvel-odd"_s})
+        QVERIFY2(text.contains(words), qPrintable(text));
+    // None of it keeps a job away.
+    QVERIFY(cupsd_.setBackendScript("echo 'STATE: -media-empty-error' >&2\nexit 0"));
+    const auto next = submitJob(jobFor(u"odd"_s));
+    QVERIFY(next && followJob(u"odd"_s, *next, {}));
+    QVERIFY(!stateText(odd()).contains(u"out of paper"_s));
+}
+
+void JobsEndToEndTest::changedPpdIsNoticed()
+{
+    JobRequest job = jobFor(u"photo"_s);
+    job.ppd = smallPpd();
+    QVERIFY(submitJob(job));
+    QVERIFY(cupsd_.addQueue(u"photo"_s, smallPpd("*% another one\n")));
+    const auto id = submitJob(job);
+    QVERIFY(!id);
+    QCOMPARE(id.failure().reason, QueueFault::Changed);
+    QVERIFY(cupsd_.addQueue(u"bare"_s));
+    JobRequest raw = jobFor(u"bare"_s);
+    raw.ppd = QByteArray();
+    QVERIFY(submitJob(raw));
+    QTRY_COMPARE(cupsd_.activeJobs(), QByteArray());
+}
+
+void JobsEndToEndTest::overTheNetwork()
+{
+    const QByteArray socket = qgetenv("CUPS_SERVER");
+    qputenv("CUPS_SERVER", cupsd_.networkAddress().toLatin1());
+    const QList<Queue> queues = listQueues(5s);
+    const auto opened = queueNamed(u"group"_s, 5s);
+    const auto id = submitJob(jobFor(u"photo"_s, muchData()));
+    const QString address = printServerAddress();
+    qputenv("CUPS_SERVER", socket);
+    QVERIFY(queues.size() >= 3);
+    QVERIFY(opened && opened->hasPpd);
+    QCOMPARE(opened->queue.members, QStringList{u"odd"_s});
+    QCOMPARE(address, cupsd_.networkAddress());
+    QVERIFY2(id, id ? "" : qPrintable(id.failure().text));
+    QVERIFY(cupsd_.waitForJob(*id));
+    QVERIFY(cupsd_.job(*id).document == muchData());
+}
+
+void JobsEndToEndTest::serverFallsSilent()
+{
+    const auto before = submitJob(jobFor(u"photo"_s));
+    JobControl control;
+    control.sent = [this](qint64 sent, qint64 total) {
+        if (sent > total / 2)
+            cupsd_.freeze();
+    };
+    QElapsedTimer timer;
+    timer.start();
+    const auto id = submitJob(jobFor(u"photo"_s, muchData()), control, 400ms);
+    const qint64 elapsed = timer.elapsed();
+    const bool isKnown = static_cast<bool>(followJob(u"photo"_s, 1, {.silent = 200ms}));
+    cupsd_.thaw();
+    QVERIFY(!id);
+    QCOMPARE(id.failure().reason, QueueFault::TimedOut);
+    QVERIFY(elapsed < 2000);
+    QVERIFY(!isKnown);
+    const auto after = submitJob(jobFor(u"photo"_s));
+    QVERIFY(before && after);
+    QCOMPARE(*after, *before + 1);
+}
+
+void JobsEndToEndTest::serverDiesWhileSending()
+{
+    JobControl control;
+    control.sent = [this](qint64 sent, qint64 total) {
+        if (sent > total / 2)
+            cupsd_.stop();
+    };
+    QElapsedTimer timer;
+    timer.start();
+    const auto id = submitJob(jobFor(u"photo"_s, muchData()), control);
+    QVERIFY(timer.elapsed() < 10000);
+    QVERIFY(!id);
+    QVERIFY2(id.failure().text.contains(u"\"photo\""_s), qPrintable(id.failure().text));
+    QVERIFY(!followJob(u"photo"_s, 1, {}));
+}
+
+QTEST_GUILESS_MAIN(JobsEndToEndTest)
+#include "JobsEndToEndTest.moc"
