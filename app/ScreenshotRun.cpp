@@ -97,6 +97,7 @@ int runScreenshot(const CommandLine &commandLine, QApplication &application)
     const QString printer = (*session)->printer().name;
     (*session).reset();
     setup->printer = printer;
+    setup->remembers = false;
     const QDir folder(*commandLine.screenshot);
     if (!folder.mkpath(QStringLiteral(".")))
         return endWith(Text::tr("The folder %1 cannot be made. Choose another one for the pictures.")

@@ -8,6 +8,7 @@
 #include "PrintWorker.h"
 #include "QueueSettings.h"
 #include "SessionOpening.h"
+#include "TouchWatch.h"
 #include "ui_PrintDialog.h"
 
 #include <QtCore/QDir>
@@ -54,13 +55,12 @@ PrintDialog::PrintDialog(const PrintDialogSetup &setup, QWidget *parent)
         fetcher_, &PpdFetcher::failed, this,
         [this](quint64 /*number*/, QueueFault reason, const QString &text) { takePpdFailure(reason, text); });
     connect(worker_, &PrintWorker::finished, this, &PrintDialog::finishPrinting);
+    connect(worker_, &PrintWorker::progress, ui_->progress, &PrintProgress::show);
+    connect(ui_->progress, &PrintProgress::stopped, worker_, &PrintWorker::cancel);
+    connect(ui_->printer, &PrinterChooser::currentUpdated, this, &PrintDialog::takeUpdate);
+    connect(new TouchWatch(this), &TouchWatch::touched, ui_->printer, &PrinterChooser::keepCurrent);
     showPhoto();
-    if (setup.printer && *setup.printer != Queue::builtIn().id() && !setup.ppdFile) {
-        ui_->printer->await(*setup.printer);
-        awaitOptions(*setup.printer);
-    } else {
-        openPrinter(ui_->printer->current());
-    }
+    openFirstPrinter();
 }
 
 PrintDialog::~PrintDialog()
@@ -136,11 +136,13 @@ void PrintDialog::showHelp()
 
 void PrintDialog::reject()
 {
-    if (worker_->isBusy()) {
+    // What the print server has goes on without the window.
+    if (worker_->isBusy() && !worker_->isFollowing()) {
         ui_->message->show(MessageBar::Kind::Warning,
                            tr("Printing is under way. The window closes when it is done."));
-        const auto closeUnlessFailed = [this](const QStringList & /*printed*/, const QString &failure) {
-            if (failure.isEmpty())
+        worker_->leave();
+        const auto closeUnlessFailed = [this](const PrintOutcome &outcome) {
+            if (outcome.failure.isEmpty())
                 QDialog::reject();
         };
         connect(worker_, &PrintWorker::finished, this, closeUnlessFailed, Qt::SingleShotConnection);

@@ -25,6 +25,8 @@ class DialogSession;
 class PpdFetcher;
 class PrintWorker;
 struct PrintJob;
+struct PrintOutcome;
+struct RememberedQueue;
 
 /// What a print dialog is opened with.
 struct PrintDialogSetup
@@ -35,11 +37,13 @@ struct PrintDialogSetup
     std::optional<QString> ppdFile;         ///< for the built-in printer, instead of its own
     QList<QPair<QString, QString>> options; ///< choices to begin with, in order
     QString outputFolder;                   ///< where the built-in printer leaves its files
+    bool remembers = true; ///< open with the printer used last, and remember the one used now
 };
 
 /// The print dialog: the photo on its page, the printer, the panels of the printer's plug-in. It works at
 /// once with the built-in printer, unless a queue is asked for by its name: then it prints on no other one.
-/// Whatever a print server has to say comes later and blocks nothing.
+/// The queue used last is shown at once, with its panels, and can be printed on once the print server has
+/// confirmed it. Whatever a print server has to say comes later and blocks nothing.
 class PrintDialog : public QDialog
 {
     Q_OBJECT
@@ -54,8 +58,8 @@ public:
 
     /// The id of the printer that is shown; empty while the one asked for is being looked for.
     QString printer() const { return queue_.id(); }
-    /// Whether the printer's options are there.
-    bool isReady() const { return session_ != nullptr; }
+    /// Whether the printer's options are there, and it can be printed on.
+    bool isReady() const { return session_ != nullptr && whyNotReady_.isEmpty(); }
     /// Why it cannot print; empty when it can.
     QString whyNotReady() const { return whyNotReady_; }
     /// What the user is being told; empty when nothing is.
@@ -75,11 +79,17 @@ public Q_SLOTS:
 
 private:
     // The printer
+    void openFirstPrinter();
     void openPrinter(const Queue &queue);
+    void openRemembered(const RememberedQueue &remembered);
+    void takeUpdate(const Queue &queue);
+    void remember(bool wasChosen);
     void awaitOptions(const QString &id);
     void showFolder(bool isBuiltIn);
     void takePpd(quint64 number, const QByteArray &ppd);
     void takePpdFailure(QueueFault reason, const QString &text);
+    void confirm();
+    void reopen(std::unique_ptr<DialogSession> session);
     void takeSession(std::unique_ptr<DialogSession> session);
     void closeSession(const QString &reason);
     bool applyOptions();
@@ -90,7 +100,7 @@ private:
     void showPageSize();
 
     // Printing
-    void finishPrinting(const QStringList &printed, const QString &failure);
+    void finishPrinting(const PrintOutcome &outcome);
     std::optional<PrintJob> makeJob(QStringList &dropped);
     void updateButtons();
 
@@ -103,8 +113,10 @@ private:
     std::unique_ptr<DialogSession> session_;
     PpdFetcher *fetcher_;
     PrintWorker *worker_;
-    Queue queue_;         ///< the printer that is shown
-    QString whyNotReady_; ///< why Print is off; empty when it is on
+    Queue queue_;               ///< the printer that is shown
+    bool isRemembered_ = false; ///< it comes from an earlier time, and the print server has not confirmed it
+    bool wasChosen_ = false;    ///< by the user, this time or an earlier one
+    QString whyNotReady_;       ///< why Print is off; empty when it is on
 };
 
 } // namespace printdialog

@@ -4,6 +4,7 @@
 #include "DialogSession.h"
 #include "PpdFetcher.h"
 #include "PrintDialog.h"
+#include "QueueCache.h"
 #include "QueueSettings.h"
 #include "SessionOpening.h"
 #include "ui_PrintDialog.h"
@@ -14,12 +15,68 @@ namespace {
 
 const QString pageSizeKey = QStringLiteral("PageSize");
 
+/// What differs from the PPD's defaults.
+QMap<QString, QString> ownChoices(DialogSession &session)
+{
+    // Has the panels hand over what they keep; whether it goes together does not matter here.
+    [[maybe_unused]] const auto job = session.jobOptions();
+    QMap<QString, QString> choices;
+    for (const QString &key : session.ppd().options()) {
+        const std::optional<QString> choice = session.chosen(key);
+        if (choice && choice != session.ppd().defaultChoice(key))
+            choices.insert(key, *choice);
+    }
+    return choices;
+}
+
 } // namespace
+
+// Which printer is shown
+
+void PrintDialog::openFirstPrinter()
+{
+    const Queue builtIn = Queue::builtIn();
+    std::optional<RememberedQueue> remembered;
+    if (setup_.remembers && !setup_.ppdFile)
+        remembered = QueueCache::load();
+    if (remembered && setup_.printer && *setup_.printer != remembered->queue.id())
+        remembered.reset();
+    if (remembered && !remembered->queue.isBuiltIn) {
+        openRemembered(*remembered);
+    } else if (setup_.printer && *setup_.printer != builtIn.id() && !setup_.ppdFile) {
+        ui_->printer->await(*setup_.printer);
+        awaitOptions(*setup_.printer);
+    } else {
+        if (remembered && remembered->wasChosen)
+            ui_->printer->keepCurrent();
+        openPrinter(builtIn);
+    }
+}
+
+void PrintDialog::openRemembered(const RememberedQueue &remembered)
+{
+    queue_ = remembered.queue;
+    wasChosen_ = remembered.wasChosen;
+    ui_->printer->recall(queue_, wasChosen_ || setup_.printer);
+    SessionResult session = remembered.ppd.isEmpty() ? openRawQueue(queue_, setup_.mode)
+                                                     : openQueue(queue_, remembered.ppd, setup_.mode);
+    awaitOptions(queue_.id());
+    ui_->status->showUnconfirmed();
+    if (session)
+        takeSession(*std::move(session));
+    isRemembered_ = true;
+    whyNotReady_ =
+        tr("The print server has not confirmed yet that the printer \"%1\" is there.").arg(queue_.id());
+    updateButtons();
+}
 
 void PrintDialog::openPrinter(const Queue &queue)
 {
     queue_ = queue;
+    isRemembered_ = false;
+    wasChosen_ = ui_->printer->wasChosenByUser();
     ui_->message->clear();
+    ui_->status->show(queue);
     if (!queue.isBuiltIn) {
         awaitOptions(queue.id());
         fetcher_->fetch(queue.id());
@@ -32,6 +89,25 @@ void PrintDialog::openPrinter(const Queue &queue)
         takeSession(*std::move(session));
     else
         closeSession(session.failure().text);
+    if (wasChosen_)
+        remember(true);
+}
+
+void PrintDialog::takeUpdate(const Queue &queue)
+{
+    queue_ = queue;
+    ui_->status->show(queue);
+    if (isRemembered_)
+        fetcher_->fetch(queue.id());
+}
+
+void PrintDialog::remember(bool wasChosen)
+{
+    wasChosen_ = wasChosen;
+    if (!setup_.remembers || setup_.ppdFile || !session_)
+        return;
+    const bool hasPpd = !queue_.isBuiltIn && session_->printer().hasPpd;
+    QueueCache::save({queue_, hasPpd ? session_->ppd().data() : QByteArray(), wasChosen});
 }
 
 void PrintDialog::awaitOptions(const QString &id)
@@ -49,11 +125,17 @@ void PrintDialog::showFolder(bool isBuiltIn)
     ui_->browse->setVisible(isBuiltIn);
 }
 
+// Its PPD
+
 void PrintDialog::takePpd(quint64 /*number*/, const QByteArray &ppd)
 {
+    if (session_ && session_->printer().hasPpd && session_->ppd().data() == ppd) {
+        confirm();
+        return;
+    }
     SessionResult session = openQueue(queue_, ppd, setup_.mode);
     if (session)
-        takeSession(*std::move(session));
+        reopen(*std::move(session));
     else
         closeSession(session.failure().text);
 }
@@ -61,15 +143,51 @@ void PrintDialog::takePpd(quint64 /*number*/, const QByteArray &ppd)
 // A queue without a PPD prints as well: there is nothing to choose then.
 void PrintDialog::takePpdFailure(QueueFault reason, const QString &text)
 {
+    if (reason == QueueFault::NoPpd && session_ && !session_->printer().hasPpd) {
+        confirm();
+        return;
+    }
     if (reason != QueueFault::NoPpd) {
         closeSession(text);
         return;
     }
     SessionResult session = openRawQueue(queue_, setup_.mode);
     if (session)
-        takeSession(*std::move(session));
+        reopen(*std::move(session));
     else
         closeSession(session.failure().text);
+}
+
+// What is shown from an earlier time is what the print server has.
+void PrintDialog::confirm()
+{
+    isRemembered_ = false;
+    whyNotReady_.clear();
+    remember(wasChosen_);
+    updateButtons();
+}
+
+// Shows the options that the print server has. Choices made from other ones are kept as far as there are any
+// such.
+void PrintDialog::reopen(std::unique_ptr<DialogSession> session)
+{
+    QMap<QString, QString> kept;
+    const bool wasShown = session_ != nullptr;
+    if (wasShown)
+        kept = ownChoices(*session_);
+    isRemembered_ = false;
+    takeSession(std::move(session));
+    if (wasShown) {
+        session_->restoreChoices(kept);
+        session_->refreshPanels();
+        fillPageSizes();
+        ui_->message->show(
+            MessageBar::Kind::Warning,
+            tr("The options of \"%1\" have changed. Your choices were kept as far as the printer "
+               "still has them; look at them before you print.")
+                .arg(queue_.id()));
+    }
+    remember(wasChosen_);
 }
 
 void PrintDialog::closeSession(const QString &reason)

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include "DialogSession.h"
+#include "PpdFetcher.h"
 #include "PrintDialog.h"
 #include "PrintWorker.h"
 #include "QueueSettings.h"
@@ -49,7 +50,7 @@ std::optional<PrintJob> PrintDialog::makeJob(QStringList &dropped)
 
 void PrintDialog::print()
 {
-    if (!session_ || worker_->isBusy() || setup_.photos.isEmpty())
+    if (!isReady() || worker_->isBusy() || setup_.photos.isEmpty())
         return;
     QStringList dropped;
     const std::optional<PrintJob> job = makeJob(dropped);
@@ -62,21 +63,30 @@ void PrintDialog::print()
         target.outputFolder = ui_->folder->text();
     else
         target.queue = session_->printer().name;
+    remember(true);
+    ui_->progress->show(tr("Printing…"));
     worker_->print(setup_.photos, target, *job);
     updateButtons();
 }
 
-void PrintDialog::finishPrinting(const QStringList &printed, const QString &failure)
+void PrintDialog::finishPrinting(const PrintOutcome &outcome)
 {
+    ui_->progress->hide();
     updateButtons();
-    if (!failure.isEmpty()) {
-        ui_->message->show(MessageBar::Kind::Error, (printed + QStringList(failure)).join(QLatin1Char('\n')));
+    const QStringList lines = outcome.printed + outcome.waiting;
+    if (!outcome.failure.isEmpty()) {
+        ui_->message->show(MessageBar::Kind::Error, (lines + QStringList(outcome.failure)).join(u'\n'));
+        if (outcome.hasOtherPpd) {
+            whyNotReady_ = outcome.failure;
+            updateButtons();
+            fetcher_->fetch(queue_.id());
+        }
         return;
     }
     ui_->cancel->setText(tr("Close"));
-    ui_->message->showWithFolder(MessageBar::Kind::Information, printed.join(QLatin1Char('\n')),
-                                 queue_.isBuiltIn ? QFileInfo(ui_->folder->text()).absoluteFilePath()
-                                                  : QString());
+    ui_->message->showWithFolder(
+        outcome.waiting.isEmpty() ? MessageBar::Kind::Information : MessageBar::Kind::Warning,
+        lines.join(u'\n'), queue_.isBuiltIn ? QFileInfo(ui_->folder->text()).absoluteFilePath() : QString());
 }
 
 void PrintDialog::saveSettings()

@@ -10,26 +10,46 @@
 
 namespace printdialog {
 
-/// Prints photos on a thread of its own. Signals come on the thread of this object.
+/// What has become of the photos of one run.
+struct PrintOutcome
+{
+    QStringList printed;      ///< A sentence for each photo that was printed.
+    QStringList waiting;      ///< A sentence for each whose job stands still at the print server.
+    QString failure;          ///< What stopped the rest; empty when nothing did.
+    bool hasOtherPpd = false; ///< The queue's PPD is no more that from which the options were chosen.
+};
+
+/// Prints photos on a thread of its own and follows a queue's jobs to their end. Signals come on the thread
+/// of this object.
 class PrintWorker : public QObject
 {
     Q_OBJECT
 
 public:
     explicit PrintWorker(QObject *parent = nullptr);
-    /// Waits for the photo that is being printed; the rest is not begun.
+    /// Takes back what is being sent; jobs that the print server has go on.
     ~PrintWorker() override;
 
     bool isBusy() const { return thread_ != nullptr; }
+    /// Whether the print server or the folder has everything.
+    bool isFollowing() const;
     /// Prints the photos with the job's settings, one after the other. Not while busy.
     void print(const QList<Photo> &photos, const PrintTarget &target, const PrintJob &job);
+    /// Sends nothing more, and takes back the jobs that are not over.
+    void cancel();
+    /// Once all is sent, follows the jobs no longer.
+    void leave();
 
 Q_SIGNALS:
-    /// All is done: a sentence for each photo that was printed, and what stopped the rest, or an empty text.
-    void finished(const QStringList &printed, const QString &failure);
+    /// What is being done, in words, and how much of it; total is 0 when that is not known.
+    void progress(const QString &text, qint64 done, qint64 total);
+    void finished(const printdialog::PrintOutcome &outcome);
 
 private:
+    struct Flags;
+
     std::unique_ptr<QThread> thread_;
+    std::shared_ptr<Flags> flags_; ///< of the run under way; shared with its thread
 };
 
 } // namespace printdialog

@@ -24,8 +24,7 @@ PrinterChooser::PrinterChooser(QWidget *parent)
 {
     setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     setMinimumContentsLength(24);
-    const Queue builtIn = Queue::builtIn();
-    addItem(label(builtIn), QVariant::fromValue(builtIn));
+    add(Queue::builtIn());
     connect(this, &QComboBox::activated, this, [this](int index) {
         isSettled_ = true;
         wasChosenByUser_ = true;
@@ -33,6 +32,7 @@ PrinterChooser::PrinterChooser(QWidget *parent)
     });
     connect(finder_, &QueueFinder::queueFound, this, &PrinterChooser::take);
     connect(finder_, &QueueFinder::queueRemoved, this, &PrinterChooser::remove);
+    connect(finder_, &QueueFinder::failed, this, [this](const QString &text) { failure_ = text; });
     connect(finder_, &QueueFinder::finished, this, &PrinterChooser::endSearch);
 }
 
@@ -42,11 +42,27 @@ void PrinterChooser::await(const QString &id)
     setCurrentIndex(-1);
 }
 
+void PrinterChooser::recall(const Queue &queue, bool wasChosen)
+{
+    add(queue);
+    unconfirmed_ = queue.id();
+    if (wasChosen)
+        keepCurrent();
+    setCurrentIndex(count() - 1);
+}
+
 void PrinterChooser::search(const std::optional<QString> &wanted)
 {
     wanted_ = wanted;
-    isSettled_ = wanted == Queue::builtIn().id();
+    if (wanted && (wanted == Queue::builtIn().id() || wanted == current().id()))
+        isSettled_ = true;
     finder_->start();
+}
+
+void PrinterChooser::keepCurrent()
+{
+    if (currentIndex() >= 0)
+        isSettled_ = true;
 }
 
 Queue PrinterChooser::current() const
@@ -54,26 +70,42 @@ Queue PrinterChooser::current() const
     return currentData().value<Queue>();
 }
 
-int PrinterChooser::indexOf(const QString &id) const
+bool PrinterChooser::isConfirmed() const
 {
-    for (int i = 0; i < count(); ++i) {
-        if (itemData(i).value<Queue>().id() == id)
-            return i;
-    }
-    return -1;
+    return currentIndex() >= 0 && current().id() != unconfirmed_;
 }
 
 void PrinterChooser::take(const Queue &queue)
 {
-    const int known = indexOf(queue.id());
-    if (known >= 0) {
-        setItemText(known, label(queue));
-        setItemData(known, QVariant::fromValue(queue));
-        return;
+    const QString id = queue.id();
+    const int known = indexOf(id);
+    if (known >= 0)
+        update(known, queue);
+    else
+        add(queue);
+    const int index = indexOf(id);
+    const bool isCurrent = index == currentIndex();
+    if (!isSettled_ && (wanted_ ? id == *wanted_ : queue.isDefault)) {
+        isSettled_ = true;
+        if (!isCurrent)
+            choose(index);
     }
+    if (isCurrent)
+        Q_EMIT currentUpdated(queue);
+}
+
+void PrinterChooser::add(const Queue &queue)
+{
+    indexes_.insert(queue.id(), count());
     addItem(label(queue), QVariant::fromValue(queue));
-    if (!isSettled_ && (wanted_ ? queue.id() == *wanted_ : queue.isDefault))
-        choose(count() - 1);
+}
+
+void PrinterChooser::update(int index, const Queue &queue)
+{
+    if (unconfirmed_ == queue.id())
+        unconfirmed_.reset();
+    setItemText(index, label(queue));
+    setItemData(index, QVariant::fromValue(queue));
 }
 
 void PrinterChooser::choose(int index)
@@ -92,19 +124,35 @@ void PrinterChooser::remove(const QString &id)
     if (wasCurrent)
         choose(0);
     removeItem(index);
+    indexes_.remove(id);
+    for (int &later : indexes_) {
+        if (later > index)
+            --later;
+    }
     if (wasCurrent)
         Q_EMIT currentRemoved(tr("The printer \"%1\" is no longer there. Choose another one.").arg(id));
 }
 
 void PrinterChooser::endSearch()
 {
+    // The finder goes on looking: once there is a server again it may have the queue.
+    if (unconfirmed_ && !failure_.isEmpty()) {
+        if (current().id() == *unconfirmed_)
+            Q_EMIT searchFailed(failure_);
+    } else if (unconfirmed_) {
+        const QString id = *unconfirmed_;
+        unconfirmed_.reset();
+        remove(id);
+    }
     if (wanted_ && !isSettled_) {
         if (currentIndex() < 0)
             choose(0);
         Q_EMIT searchFailed(
-            tr("There is no printer \"%1\". Choose another one, or see --list-printers for those that "
-               "there are.")
-                .arg(*wanted_));
+            !failure_.isEmpty()
+                ? failure_
+                : tr("There is no printer \"%1\". Choose another one, or see --list-printers for those that "
+                     "there are.")
+                      .arg(*wanted_));
     }
     isSettled_ = true;
 }

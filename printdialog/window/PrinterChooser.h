@@ -5,6 +5,7 @@
 
 #include "Queue.h"
 
+#include <QtCore/QHash>
 #include <QtWidgets/QComboBox>
 
 #include <optional>
@@ -13,8 +14,8 @@ namespace printdialog {
 
 class QueueFinder;
 
-/// The printers to choose from: the built-in one at once, and the queues of the print server as they are
-/// found and as long as they are there.
+/// The printers to choose from: the built-in one at once, with the one remembered from the last time, and the
+/// queues of the print server as they are found and as long as they are there.
 class PrinterChooser : public QComboBox
 {
     Q_OBJECT
@@ -24,30 +25,46 @@ public:
 
     /// Shows the queue's id with no printer chosen, until the search has found the queue or is over.
     void await(const QString &id);
+    /// Makes a queue from an earlier time the current one, before any server has been asked for it.
+    /// @param wasChosen by the user; otherwise another default takes its place
+    void recall(const Queue &queue, bool wasChosen);
     /// Starts to look for queues. The queue `wanted`, or else the user's default, is chosen when it is found,
-    /// unless the user has chosen by then.
+    /// unless keepCurrent() was called or the user has chosen by then.
     void search(const std::optional<QString> &wanted);
+    /// From now on no default takes the place of the current printer. One asked for by its name still does.
+    void keepCurrent();
     Queue current() const;
+    /// Whether the print server has said in this search that the current printer is there. The built-in one
+    /// is.
+    bool isConfirmed() const;
     /// Whether the user has chosen a printer, be it the one that was current anyway.
     bool wasChosenByUser() const { return wasChosenByUser_; }
 
 Q_SIGNALS:
     /// Another printer is the current one now.
     void printerChosen(const printdialog::Queue &queue);
+    /// The print server has something new to say about the current printer: its state, its supplies, or that
+    /// the recalled one is there.
+    void currentUpdated(const printdialog::Queue &queue);
     /// One sentence for people.
     void searchFailed(const QString &text);
-    /// The queue that was the current one is gone; the built-in printer is the current one now.
+    /// The queue that was the current one is gone; another one is the current one now.
     void currentRemoved(const QString &text);
 
 private:
     void take(const Queue &queue);
+    void add(const Queue &queue);
+    void update(int index, const Queue &queue);
     void remove(const QString &id);
     void endSearch();
     void choose(int index);
-    int indexOf(const QString &id) const;
+    int indexOf(const QString &id) const { return indexes_.value(id, -1); }
 
     QueueFinder *finder_;
+    QHash<QString, int> indexes_; ///< by id
     std::optional<QString> wanted_;
+    std::optional<QString> unconfirmed_; ///< the recalled queue's id, until the server knows of it
+    QString failure_;                    ///< why the server could not be asked
     bool wasChosenByUser_ = false;
     bool isSettled_ = false; ///< the user has chosen, or what was wanted has been found
 };

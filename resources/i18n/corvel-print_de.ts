@@ -1301,6 +1301,44 @@ So ein Auftrag bleibt beim Druckserver; das wird gemeldet, Status 0</translation
         <source>This printer has no PPD file and so no options: it gets the photo&apos;s file as it is, and places it on the page itself.</source>
         <translation>Dieser Drucker hat keine PPD-Datei und deshalb keine Optionen: Er bekommt die Fotodatei unverändert und setzt sie selbst auf das Blatt.</translation>
     </message>
+    <message>
+        <source>The print server has not confirmed yet that the printer &quot;%1&quot; is there.</source>
+        <translation>Der Druckserver hat noch nicht bestätigt, dass es den Drucker „%1“ gibt.</translation>
+    </message>
+    <message>
+        <source>The options of &quot;%1&quot; have changed. Your choices were kept as far as the printer still has them; look at them before you print.</source>
+        <translation>Die Optionen von „%1“ haben sich geändert. Ihre Auswahl blieb erhalten, soweit der Drucker sie noch kennt; sehen Sie sie durch, bevor Sie drucken.</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::PrintProgress</name>
+    <message>
+        <source>S&amp;top Printing</source>
+        <translation>Drucken s&amp;toppen</translation>
+    </message>
+    <message>
+        <source>Printing</source>
+        <translation>Drucken</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::PrintWorker</name>
+    <message>
+        <source>Writing %1</source>
+        <translation>%1 wird geschrieben</translation>
+    </message>
+    <message>
+        <source>Sending %1 to %2</source>
+        <translation>%1 wird an %2 gesendet</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Printing was stopped.</source>
+        <translation>Das Drucken wurde gestoppt.</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::PrinterChooser</name>
@@ -1315,6 +1353,17 @@ So ein Auftrag bleibt beim Druckserver; das wird gemeldet, Status 0</translation
     <message>
         <source>There is no printer &quot;%1&quot;. Choose another one, or see --list-printers for those that there are.</source>
         <translation>Es gibt keinen Drucker „%1“. Wählen Sie einen anderen; --list-printers zeigt die vorhandenen.</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::PrinterStatus</name>
+    <message>
+        <source>One of %1; its options are those of the first.</source>
+        <translation>Einer von %1; seine Optionen sind die des ersten.</translation>
+    </message>
+    <message>
+        <source>The print server is being asked for this printer.</source>
+        <translation>Der Druckserver wird nach diesem Drucker gefragt.</translation>
     </message>
 </context>
 <context>

@@ -1301,6 +1301,44 @@ queda en el servidor de impresión, se avisa y el código de salida es 0</transl
         <source>This printer has no PPD file and so no options: it gets the photo&apos;s file as it is, and places it on the page itself.</source>
         <translation>Esta impresora no tiene archivo PPD y por tanto ninguna opción: recibe el archivo de la foto tal cual y lo coloca ella misma en la página.</translation>
     </message>
+    <message>
+        <source>The print server has not confirmed yet that the printer &quot;%1&quot; is there.</source>
+        <translation>El servidor de impresión aún no ha confirmado que la impresora «%1» esté ahí.</translation>
+    </message>
+    <message>
+        <source>The options of &quot;%1&quot; have changed. Your choices were kept as far as the printer still has them; look at them before you print.</source>
+        <translation>Las opciones de «%1» han cambiado. Sus elecciones se han conservado en la medida en que la impresora aún las tiene; revíselas antes de imprimir.</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::PrintProgress</name>
+    <message>
+        <source>S&amp;top Printing</source>
+        <translation>De&amp;tener la impresión</translation>
+    </message>
+    <message>
+        <source>Printing</source>
+        <translation>Impresión</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::PrintWorker</name>
+    <message>
+        <source>Writing %1</source>
+        <translation>Escribiendo %1</translation>
+    </message>
+    <message>
+        <source>Sending %1 to %2</source>
+        <translation>Enviando %1 a %2</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Printing was stopped.</source>
+        <translation>Se ha detenido la impresión.</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::PrinterChooser</name>
@@ -1315,6 +1353,17 @@ queda en el servidor de impresión, se avisa y el código de salida es 0</transl
     <message>
         <source>There is no printer &quot;%1&quot;. Choose another one, or see --list-printers for those that there are.</source>
         <translation>No hay ninguna impresora «%1». Elija otra; --list-printers muestra las que hay.</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::PrinterStatus</name>
+    <message>
+        <source>One of %1; its options are those of the first.</source>
+        <translation>Una de %1; sus opciones son las de la primera.</translation>
+    </message>
+    <message>
+        <source>The print server is being asked for this printer.</source>
+        <translation>Se está preguntando al servidor de impresión por esta impresora.</translation>
     </message>
 </context>
 <context>

@@ -13,15 +13,15 @@
     </message>
     <message>
         <source>%1: %2</source>
-        <translation>%1 : %2</translation>
+        <translation>%1&#xa0;: %2</translation>
     </message>
     <message>
         <source>Cancelled; nothing more is printed.</source>
-        <translation>Annulé ; rien de plus ne sera imprimé.</translation>
+        <translation>Annulé&#xa0;; rien de plus ne sera imprimé.</translation>
     </message>
     <message>
         <source>Cancelled; the jobs sent were taken back from the printer.</source>
-        <translation>Annulé ; les tâches envoyées ont été retirées de l’imprimante.</translation>
+        <translation>Annulé&#xa0;; les tâches envoyées ont été retirées de l’imprimante.</translation>
     </message>
 </context>
 <context>
@@ -192,9 +192,9 @@ Exemples&#x202f;:
 their end. It never waits longer than 10 seconds for a job that is held
 or whose printer is stopped, nor than 10 minutes without any news: such a
 job stays with the print server, and that is told, with exit status 0</source>
-        <translation>durée maximale du suivi des tâches par --batch (0 : aucun suivi) ; sinon
+        <translation>durée maximale du suivi des tâches par --batch (0&#xa0;: aucun suivi)&#xa0;; sinon
 jusqu’à leur fin. Jamais plus de 10 secondes pour une tâche retenue ou une
-imprimante arrêtée, ni plus de 10 minutes sans nouvelles : la tâche reste
+imprimante arrêtée, ni plus de 10 minutes sans nouvelles&#xa0;: la tâche reste
 alors au serveur d’impression, ce qui est signalé, avec le code 0</translation>
     </message>
     <message>
@@ -207,11 +207,11 @@ alors au serveur d’impression, ce qui est signalé, avec le code 0</translatio
     </message>
     <message>
         <source>&quot;%1&quot; is no print server; it is given as HOST or HOST:PORT.</source>
-        <translation>« %1 » n’est pas un serveur d’impression ; indiquez HOST ou HOST:PORT.</translation>
+        <translation>«&#xa0;%1&#xa0;» n’est pas un serveur d’impression&#xa0;; indiquez HOST ou HOST:PORT.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no time to wait; it is a number of seconds from 0 to %2.</source>
-        <translation>« %1 » n’est pas une durée d’attente ; c’est un nombre de secondes de 0 à %2.</translation>
+        <translation>«&#xa0;%1&#xa0;» n’est pas une durée d’attente&#xa0;; c’est un nombre de secondes de 0 à %2.</translation>
     </message>
     <message>
         <source>--dry-run needs a photo.</source>
@@ -252,7 +252,7 @@ alors au serveur d’impression, ce qui est signalé, avec le code 0</translatio
     <name>JobFollowing</name>
     <message>
         <source>%1: %2</source>
-        <translation>%1 : %2</translation>
+        <translation>%1&#xa0;: %2</translation>
     </message>
     <message>
         <source>waiting for the printer</source>
@@ -788,11 +788,11 @@ alors au serveur d’impression, ce qui est signalé, avec le code 0</translatio
     </message>
     <message>
         <source>The options of the printer &quot;%1&quot; have changed since they were chosen (%2); look at them and print again.</source>
-        <translation>Les options de l’imprimante « %1 » ont changé depuis qu’elles ont été choisies (%2) ; vérifiez-les et relancez l’impression.</translation>
+        <translation>Les options de l’imprimante «&#xa0;%1&#xa0;» ont changé depuis qu’elles ont été choisies (%2)&#xa0;; vérifiez-les et relancez l’impression.</translation>
     </message>
     <message>
         <source>The job for the printer &quot;%1&quot; was cancelled (%2).</source>
-        <translation>La tâche pour l’imprimante « %1 » a été annulée (%2).</translation>
+        <translation>La tâche pour l’imprimante «&#xa0;%1&#xa0;» a été annulée (%2).</translation>
     </message>
 </context>
 <context>
@@ -803,7 +803,7 @@ alors au serveur d’impression, ce qui est signalé, avec le code 0</translatio
     </message>
     <message>
         <source>The printer &quot;%1&quot; has no PPD file and so no option %2; leave it out, or set the printer up with its driver.</source>
-        <translation>L’imprimante « %1 » n’a pas de fichier PPD, donc pas d’option %2 ; retirez-la ou installez l’imprimante avec son pilote.</translation>
+        <translation>L’imprimante «&#xa0;%1&#xa0;» n’a pas de fichier PPD, donc pas d’option %2&#xa0;; retirez-la ou installez l’imprimante avec son pilote.</translation>
     </message>
 </context>
 <context>
@@ -1020,7 +1020,7 @@ alors au serveur d’impression, ce qui est signalé, avec le code 0</translatio
     </message>
     <message>
         <source>%1: %2</source>
-        <translation>%1 : %2</translation>
+        <translation>%1&#xa0;: %2</translation>
     </message>
     <message>
         <source>%1 unknown</source>
@@ -1299,7 +1299,45 @@ alors au serveur d’impression, ce qui est signalé, avec le code 0</translatio
     </message>
     <message>
         <source>This printer has no PPD file and so no options: it gets the photo&apos;s file as it is, and places it on the page itself.</source>
-        <translation>Cette imprimante n’a pas de fichier PPD, donc pas d’options : elle reçoit le fichier de la photo tel quel et le place elle-même sur la page.</translation>
+        <translation>Cette imprimante n’a pas de fichier PPD, donc pas d’options&#xa0;: elle reçoit le fichier de la photo tel quel et le place elle-même sur la page.</translation>
+    </message>
+    <message>
+        <source>The print server has not confirmed yet that the printer &quot;%1&quot; is there.</source>
+        <translation>Le serveur d’impression n’a pas encore confirmé la présence de l’imprimante « %1 ».</translation>
+    </message>
+    <message>
+        <source>The options of &quot;%1&quot; have changed. Your choices were kept as far as the printer still has them; look at them before you print.</source>
+        <translation>Les options de « %1 » ont changé. Vos choix ont été conservés dans la mesure où l’imprimante les a encore ; vérifiez-les avant d’imprimer.</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::PrintProgress</name>
+    <message>
+        <source>S&amp;top Printing</source>
+        <translation>Arrê&amp;ter l’impression</translation>
+    </message>
+    <message>
+        <source>Printing</source>
+        <translation>Impression</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::PrintWorker</name>
+    <message>
+        <source>Writing %1</source>
+        <translation>Écriture de %1</translation>
+    </message>
+    <message>
+        <source>Sending %1 to %2</source>
+        <translation>Envoi de %1 à %2</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1 : %2</translation>
+    </message>
+    <message>
+        <source>Printing was stopped.</source>
+        <translation>L’impression a été arrêtée.</translation>
     </message>
 </context>
 <context>
@@ -1318,6 +1356,17 @@ alors au serveur d’impression, ce qui est signalé, avec le code 0</translatio
     </message>
 </context>
 <context>
+    <name>printdialog::PrinterStatus</name>
+    <message>
+        <source>One of %1; its options are those of the first.</source>
+        <translation>Une parmi %1 ; ses options sont celles de la première.</translation>
+    </message>
+    <message>
+        <source>The print server is being asked for this printer.</source>
+        <translation>Le serveur d’impression est interrogé sur cette imprimante.</translation>
+    </message>
+</context>
+<context>
     <name>printdialog::QueueSettings</name>
     <message>
         <source>The settings for &quot;%1&quot; could not be saved in %2: %3. Make room there, or make it writable.</source>
@@ -1328,11 +1377,11 @@ alors au serveur d’impression, ce qui est signalé, avec le code 0</translatio
     <name>printdialog::SentJobs</name>
     <message>
         <source>What has become of %1 (job %2) is not known: %3</source>
-        <translation>On ne sait pas ce qu’est devenue %1 (tâche %2) : %3</translation>
+        <translation>On ne sait pas ce qu’est devenue %1 (tâche %2)&#xa0;: %3</translation>
     </message>
     <message>
         <source>The printer &quot;%1&quot; could not print %2 (job %3): %4. Look at the printer and print again.</source>
-        <translation>L’imprimante « %1 » n’a pas pu imprimer %2 (tâche %3) : %4. Vérifiez l’imprimante et relancez l’impression.</translation>
+        <translation>L’imprimante «&#xa0;%1&#xa0;» n’a pas pu imprimer %2 (tâche %3)&#xa0;: %4. Vérifiez l’imprimante et relancez l’impression.</translation>
     </message>
     <message>
         <source>it gave no reason</source>
@@ -1340,7 +1389,7 @@ alors au serveur d’impression, ce qui est signalé, avec le code 0</translatio
     </message>
     <message>
         <source>The job %3 for %2 on the printer &quot;%1&quot; was cancelled (%4).</source>
-        <translation>La tâche %3 pour %2 sur l’imprimante « %1 » a été annulée (%4).</translation>
+        <translation>La tâche %3 pour %2 sur l’imprimante «&#xa0;%1&#xa0;» a été annulée (%4).</translation>
     </message>
     <message>
         <source>nobody said why</source>
@@ -1352,11 +1401,11 @@ alors au serveur d’impression, ce qui est signalé, avec le code 0</translatio
     </message>
     <message>
         <source>The job %1 for %2 could not be cancelled: %3</source>
-        <translation>La tâche %1 pour %2 n’a pas pu être annulée : %3</translation>
+        <translation>La tâche %1 pour %2 n’a pas pu être annulée&#xa0;: %3</translation>
     </message>
     <message>
         <source>%1 (job %2) is not printed yet: %3. The print server keeps it; &quot;cancel %2&quot; takes it back.</source>
-        <translation>%1 (tâche %2) n’est pas encore imprimée : %3. Le serveur d’impression la garde ; « cancel %2 » la retire.</translation>
+        <translation>%1 (tâche %2) n’est pas encore imprimée&#xa0;: %3. Le serveur d’impression la garde&#xa0;; «&#xa0;cancel %2&#xa0;» la retire.</translation>
     </message>
 </context>
 <context>

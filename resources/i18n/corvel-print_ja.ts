@@ -1300,6 +1300,44 @@ job stays with the print server, and that is told, with exit status 0</source>
         <source>This printer has no PPD file and so no options: it gets the photo&apos;s file as it is, and places it on the page itself.</source>
         <translation>このプリンターには PPD ファイルがないため、オプションはありません。写真のファイルがそのまま送られ、配置はプリンターが行います。</translation>
     </message>
+    <message>
+        <source>The print server has not confirmed yet that the printer &quot;%1&quot; is there.</source>
+        <translation>プリンター「%1」があることを、プリントサーバーはまだ確認していません。</translation>
+    </message>
+    <message>
+        <source>The options of &quot;%1&quot; have changed. Your choices were kept as far as the printer still has them; look at them before you print.</source>
+        <translation>「%1」のオプションが変わりました。プリンターにまだある選択はそのまま残しました。印刷する前に確認してください。</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::PrintProgress</name>
+    <message>
+        <source>S&amp;top Printing</source>
+        <translation>印刷を中止(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Printing</source>
+        <translation>印刷</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::PrintWorker</name>
+    <message>
+        <source>Writing %1</source>
+        <translation>%1 を書き込んでいます</translation>
+    </message>
+    <message>
+        <source>Sending %1 to %2</source>
+        <translation>%1 を %2 に送信しています</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Printing was stopped.</source>
+        <translation>印刷を中止しました。</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::PrinterChooser</name>
@@ -1314,6 +1352,17 @@ job stays with the print server, and that is told, with exit status 0</source>
     <message>
         <source>There is no printer &quot;%1&quot;. Choose another one, or see --list-printers for those that there are.</source>
         <translation>プリンター「%1」はありません。別のプリンターを選んでください。使えるプリンターは --list-printers で確認できます。</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::PrinterStatus</name>
+    <message>
+        <source>One of %1; its options are those of the first.</source>
+        <translation>%1 のいずれか。オプションは最初のプリンターのものです。</translation>
+    </message>
+    <message>
+        <source>The print server is being asked for this printer.</source>
+        <translation>このプリンターをプリントサーバーに問い合わせています。</translation>
     </message>
 </context>
 <context>

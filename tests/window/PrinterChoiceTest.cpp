@@ -7,6 +7,7 @@
 
 #include <QtCore/QDir>
 #include <QtCore/QFile>
+#include <QtCore/QRegularExpression>
 #include <QtTest/QTest>
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QPushButton>
@@ -68,6 +69,7 @@ void PrinterChoiceTest::init()
     pdekit::Feedback::install(std::make_shared<RecordingFeedback>());
     config_ = std::make_unique<QTemporaryDir>();
     qputenv("XDG_CONFIG_HOME", QFile::encodeName(config_->path()));
+    qputenv("XDG_CACHE_HOME", QFile::encodeName(config_->filePath(u"cache"_s)));
 }
 
 // As a user does: the list has the queue when it was found.
@@ -152,8 +154,9 @@ void PrinterChoiceTest::printsOnTheQueueAskedFor()
     QVERIFY(!opened.find<QWidget>(u"folder"_s)->isVisible());
     QCOMPARE(opened.fieldText(81), u"12"_s);
     QTest::keyClick(opened.dialog.get(), Qt::Key_Enter);
-    QTRY_VERIFY(opened.dialog->message().contains(u"photo"_s));
-    const int id = opened.dialog->message().split(u' ').constLast().toInt();
+    QTRY_VERIFY(opened.dialog->message().contains(u"Printed"_s));
+    static const QRegularExpression job(u"\\(job ([0-9]+)\\)"_s);
+    const int id = job.match(opened.dialog->message()).captured(1).toInt();
     QVERIFY2(cupsd_.waitForJob(id), qPrintable(opened.dialog->message()));
     QVERIFY(cupsd_.job(id).options.split(' ').contains("Red=12"));
     QVERIFY(!opened.hasPrinted());

@@ -1,0 +1,36 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "PrinterStatus.h"
+
+#include "StateText.h"
+
+namespace printdialog {
+
+PrinterStatus::PrinterStatus(QWidget *parent)
+    : QLabel(parent)
+{
+    setTextFormat(Qt::PlainText);
+    setWordWrap(true);
+    hide();
+}
+
+void PrinterStatus::show(const Queue &queue)
+{
+    QStringList lines = {stateText(queue)};
+    if (const QString supplies = suppliesText(queue); !supplies.isEmpty())
+        lines.append(supplies);
+    if (queue.isClass && !queue.members.isEmpty())
+        lines.append(tr("One of %1; its options are those of the first.")
+                         .arg(queue.members.join(QLatin1String(", "))));
+    setText(lines.join(u'\n'));
+    setVisible(!queue.isBuiltIn);
+}
+
+void PrinterStatus::showUnconfirmed()
+{
+    setText(tr("The print server is being asked for this printer."));
+    setVisible(true);
+}
+
+} // namespace printdialog

@@ -1,0 +1,301 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "OpenedDialog.h"
+#include "PrivateCupsd.h"
+#include "QueueCache.h"
+#include "SystemLog.h"
+
+#include <QtCore/QFile>
+#include <QtCore/QFileInfo>
+#include <QtCore/QRegularExpression>
+#include <QtTest/QTest>
+#include <QtWidgets/QComboBox>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QPushButton>
+
+using namespace printdialog;
+using namespace testing_support;
+using namespace Qt::StringLiterals;
+
+/// The window with a queue from an earlier time, with queues that change, and with jobs that fail.
+class QueueWindowTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void init();
+    void queueUsedLastIsShownAtOnce();
+    void rememberedPrivately();
+    void changedPpdKeepsWhatItCan();
+    void rememberedQueueThatIsGone();
+    void lateDefaultReplacesNothingTouched();
+    void rememberedDefaultGivesWayToTheDefault();
+    void ppdThatChangesBeforePrinting();
+    void queueWithoutPpd();
+    void statusIsShownInWords();
+    void failingAndStoppedJobs();
+
+private:
+    static PrintDialogSetup setup()
+    {
+        PrintDialogSetup setup = setupFor(PanelMode::Constraint);
+        setup.ppdFile = std::nullopt;
+        return setup;
+    }
+    static bool isListed(const OpenedDialog &opened, const QString &text);
+    static void choose(const OpenedDialog &opened, const QString &printer);
+    /// Uses the queue once.
+    static void remember(const QString &queue);
+    static int jobOf(const OpenedDialog &opened);
+
+    PrivateCupsd cupsd_;
+    QByteArray ppd_;
+    QByteArray reduced_; ///< the same without one choice
+    QTemporaryDir home_;
+    std::unique_ptr<QTemporaryDir> folder_;
+};
+
+void QueueWindowTest::initTestCase()
+{
+    pdekit::setSystemLogSink([](const QString &) {});
+    for (const char *name : {"LPDEST", "PRINTER"})
+        qunsetenv(name);
+    qputenv("HOME", QFile::encodeName(home_.path()));
+    QFile ppd(QStringLiteral(CORVEL_SIBLING_PPD));
+    QVERIFY(ppd.open(QIODevice::ReadOnly));
+    ppd_ = ppd.readAll();
+    reduced_ = QByteArray(ppd_).replace("*Red 9/9: \"\"\n", "");
+    QVERIFY(reduced_ != ppd_);
+    const QString trouble = cupsd_.start();
+    QVERIFY2(trouble.isEmpty(), qPrintable(trouble));
+    QVERIFY(cupsd_.addQueue(u"raw"_s));
+    QVERIFY(cupsd_.addQueue(u"odd"_s, ppd_, {u"-v"_s, u"scripted:/"_s}));
+}
+
+void QueueWindowTest::init()
+{
+    pdekit::Feedback::install(std::make_shared<RecordingFeedback>());
+    folder_ = std::make_unique<QTemporaryDir>();
+    qputenv("XDG_CONFIG_HOME", QFile::encodeName(folder_->path()));
+    qputenv("XDG_CACHE_HOME", QFile::encodeName(folder_->filePath(u"cache"_s)));
+    QVERIFY(cupsd_.addQueue(u"photo"_s, ppd_));
+}
+
+bool QueueWindowTest::isListed(const OpenedDialog &opened, const QString &text)
+{
+    return opened.find<QComboBox>(u"printer"_s)->findText(text, Qt::MatchContains) >= 0;
+}
+
+void QueueWindowTest::choose(const OpenedDialog &opened, const QString &printer)
+{
+    opened.dialog->searchPrinters();
+    QTRY_VERIFY(isListed(opened, printer));
+    auto *chooser = opened.find<QComboBox>(u"printer"_s);
+    chooser->setFocus();
+    QTest::keyClick(chooser, printer.at(0).toLatin1());
+    QTRY_VERIFY(opened.dialog->printer() == printer && opened.dialog->isReady());
+}
+
+void QueueWindowTest::remember(const QString &queue)
+{
+    const OpenedDialog opened(setup());
+    choose(opened, queue);
+}
+
+int QueueWindowTest::jobOf(const OpenedDialog &opened)
+{
+    static const QRegularExpression job(u"\\(job ([0-9]+)\\)"_s);
+    return job.match(opened.dialog->message()).captured(1).toInt();
+}
+
+// With its panels, which can be used; but nothing is printed on what the server may not have any more.
+void QueueWindowTest::queueUsedLastIsShownAtOnce()
+{
+    remember(u"photo"_s);
+    const OpenedDialog opened(setup());
+    QCOMPARE(opened.dialog->printer(), u"photo"_s);
+    QVERIFY(!opened.find<QWidget>(u"folder"_s)->isVisible());
+    opened.type(81, u"9"_s);
+    QVERIFY(!opened.find<QPushButton>(u"print"_s)->isEnabled());
+    opened.dialog->print();
+    QTest::keyClick(opened.dialog.get(), Qt::Key_P, Qt::ControlModifier);
+    QVERIFY2(cupsd_.activeJobs().isEmpty(), cupsd_.activeJobs().constData());
+    QVERIFY(opened.dialog->whyNotReady().contains(u"photo"_s));
+
+    opened.dialog->searchPrinters();
+    QTRY_VERIFY(opened.dialog->isReady());
+    QCOMPARE(opened.fieldText(81), u"9"_s);
+    QCOMPARE(opened.dialog->message(), QString());
+    opened.dialog->print();
+    QTRY_VERIFY(jobOf(opened) > 0);
+    QVERIFY(cupsd_.waitForJob(jobOf(opened)));
+    QVERIFY(cupsd_.job(jobOf(opened)).options.split(' ').contains("Red=9"));
+}
+
+void QueueWindowTest::rememberedPrivately()
+{
+    remember(u"photo"_s);
+    const QFileInfo file(QueueCache::file());
+    QVERIFY(file.filePath().startsWith(folder_->filePath(u"cache"_s)));
+    QCOMPARE(file.permissions() &
+                 (QFile::ReadGroup | QFile::ReadOther | QFile::WriteGroup | QFile::WriteOther),
+             QFile::Permissions());
+    QCOMPARE(QFileInfo(file.path()).permissions() & (QFile::ReadOther | QFile::ExeOther),
+             QFile::Permissions());
+    // Nobody else may put a printer there; what is broken is as good as nothing.
+    QVERIFY(QFile::setPermissions(file.filePath(), QFile::ReadOwner | QFile::WriteOwner | QFile::WriteOther));
+    QVERIFY(!QueueCache::load());
+    QVERIFY(QFile::setPermissions(file.filePath(), QFile::ReadOwner | QFile::WriteOwner));
+    QVERIFY(QueueCache::load());
+    QVERIFY(QFile::resize(file.filePath(), file.size() / 2));
+    const OpenedDialog opened(setup());
+    QCOMPARE(opened.dialog->printer(), u"built-in"_s);
+    // Another print server's queues are none of this one's.
+    const QByteArray server = qgetenv("CUPS_SERVER");
+    qputenv("CUPS_SERVER", "elsewhere.example:631");
+    const QString other = QueueCache::file();
+    qputenv("CUPS_SERVER", server);
+    QVERIFY(other != file.filePath());
+}
+
+void QueueWindowTest::changedPpdKeepsWhatItCan()
+{
+    remember(u"photo"_s);
+    QVERIFY(cupsd_.addQueue(u"photo"_s, reduced_));
+    const OpenedDialog opened(setup());
+    opened.type(81, u"9"_s);
+    opened.type(82, u"8"_s);
+    opened.dialog->searchPrinters();
+    QTRY_VERIFY(opened.dialog->isReady());
+    QVERIFY2(opened.dialog->message().contains(u"have changed"_s), qPrintable(opened.dialog->message()));
+    QCOMPARE(opened.fieldText(81), u"0"_s);
+    QCOMPARE(opened.fieldText(82), u"8"_s);
+}
+
+void QueueWindowTest::rememberedQueueThatIsGone()
+{
+    remember(u"photo"_s);
+    QVERIFY(cupsd_.deleteQueue(u"photo"_s));
+    const OpenedDialog opened(setup());
+    QCOMPARE(opened.dialog->printer(), u"photo"_s);
+    opened.dialog->searchPrinters();
+    QTRY_COMPARE(opened.dialog->printer(), u"built-in"_s);
+    QVERIFY(opened.dialog->isReady());
+    QVERIFY2(opened.dialog->message().contains(u"\"photo\""_s), qPrintable(opened.dialog->message()));
+    QVERIFY(!isListed(opened, u"photo"_s));
+}
+
+void QueueWindowTest::lateDefaultReplacesNothingTouched()
+{
+    QVERIFY(cupsd_.run(u"lpadmin"_s, {u"-d"_s, u"photo"_s}));
+    const OpenedDialog touched(setup());
+    touched.type(81, u"9"_s);
+    touched.dialog->searchPrinters();
+    QTRY_VERIFY(isListed(touched, u"photo"_s));
+    QTest::qWait(100);
+    QCOMPARE(touched.dialog->printer(), u"built-in"_s);
+    QCOMPARE(touched.fieldText(81), u"9"_s);
+    const OpenedDialog untouched(setup());
+    QTest::keyClick(untouched.dialog.get(), Qt::Key_Tab); // a look round
+    untouched.dialog->searchPrinters();
+    QTRY_COMPARE(untouched.dialog->printer(), u"photo"_s);
+    QVERIFY(cupsd_.run(u"lpadmin"_s, {u"-x"_s, u"photo"_s}));
+}
+
+// What the user has chosen stays; what was merely the default does not outlive it.
+void QueueWindowTest::rememberedDefaultGivesWayToTheDefault()
+{
+    for (const bool wasChosen : {false, true}) {
+        QueueCache::save({[] {
+                              Queue queue;
+                              queue.name = u"odd"_s;
+                              return queue;
+                          }(),
+                          ppd_, wasChosen});
+        QVERIFY(cupsd_.run(u"lpadmin"_s, {u"-d"_s, u"photo"_s}));
+        const OpenedDialog opened(setup());
+        QCOMPARE(opened.dialog->printer(), u"odd"_s);
+        opened.dialog->searchPrinters();
+        QTRY_VERIFY(isListed(opened, u"photo"_s) && opened.dialog->isReady());
+        QCOMPARE(opened.dialog->printer(), wasChosen ? u"odd"_s : u"photo"_s);
+    }
+}
+
+void QueueWindowTest::ppdThatChangesBeforePrinting()
+{
+    const OpenedDialog opened(setup());
+    choose(opened, u"photo"_s);
+    opened.type(81, u"9"_s);
+    opened.type(82, u"8"_s);
+    QVERIFY(cupsd_.addQueue(u"photo"_s, reduced_));
+    opened.dialog->print();
+    QTRY_VERIFY(opened.dialog->message().contains(u"kept as far"_s));
+    QVERIFY2(cupsd_.activeJobs().isEmpty(), cupsd_.activeJobs().constData());
+    QVERIFY(opened.dialog->isReady());
+    QCOMPARE(opened.fieldText(81), u"0"_s);
+    opened.dialog->print();
+    QTRY_VERIFY(jobOf(opened) > 0);
+    const QByteArrayList options = cupsd_.job(jobOf(opened)).options.split(' ');
+    QVERIFY(options.contains("Red=0") && options.contains("Green=8"));
+}
+
+void QueueWindowTest::queueWithoutPpd()
+{
+    const OpenedDialog opened(setup());
+    choose(opened, u"raw"_s);
+    QVERIFY(opened.dialog->message().contains(u"no PPD"_s));
+    QCOMPARE(opened.find<QComboBox>(u"pageSize"_s)->count(), 1);
+    opened.dialog->print();
+    QTRY_VERIFY(jobOf(opened) > 0);
+    const RecordedJob job = cupsd_.job(jobOf(opened));
+    QVERIFY(job.document == setup().photos.constFirst().content());
+    QVERIFY(!job.options.contains("PageSize"));
+}
+
+void QueueWindowTest::statusIsShownInWords()
+{
+    QVERIFY(
+        cupsd_.setBackendScript("echo 'ATTR: marker-names=Ribbon marker-types=ribbon marker-levels=42' >&2\n"
+                                "echo 'STATE: +media-empty-warning' >&2\nexit 0"));
+    const OpenedDialog opened(setup());
+    choose(opened, u"odd"_s);
+    auto *status = opened.find<QLabel>(u"status"_s);
+    QCOMPARE(status->text(), u"ready"_s);
+    opened.dialog->print();
+    QTRY_VERIFY(jobOf(opened) > 0);
+    QTRY_VERIFY_WITH_TIMEOUT(status->text().contains(u"out of paper"_s), 10000);
+    QVERIFY2(status->text().contains(u"Ribbon 42 %"_s), qPrintable(status->text()));
+    QVERIFY(opened.dialog->isReady());
+}
+
+void QueueWindowTest::failingAndStoppedJobs()
+{
+    const OpenedDialog opened(setup());
+    choose(opened, u"odd"_s);
+    QVERIFY(cupsd_.setBackendScript("echo 'ERROR: Ribbon torn' >&2; exit 1"));
+    opened.dialog->print();
+    QTRY_VERIFY(opened.dialog->message().contains(u"Ribbon torn"_s));
+    QVERIFY(cupsd_.setBackendScript("trap 'exit 0' TERM; sleep 20 & wait"));
+    opened.dialog->print();
+    QTRY_VERIFY(cupsd_.activeJobs().contains("odd-"));
+    QVERIFY(opened.find<QWidget>(u"progress"_s)->isVisible());
+    opened.click(u"stop"_s);
+    QTRY_VERIFY(opened.dialog->message().contains(u"stopped"_s));
+    QTRY_COMPARE(cupsd_.activeJobs(), QByteArray());
+    QVERIFY(!opened.find<QWidget>(u"progress"_s)->isVisible());
+    // Closed while the printer works, the window leaves the job alone.
+    opened.dialog->print();
+    QTRY_VERIFY(cupsd_.activeJobs().contains("odd-"));
+    QTRY_VERIFY(!opened.find<QLabel>(u"progress"_s) &&
+                opened.find<QPushButton>(u"stop"_s)->parentWidget()->findChild<QLabel *>()->text().contains(
+                    u"printing"_s));
+    QTest::keyClick(opened.dialog.get(), Qt::Key_Escape);
+    QVERIFY(opened.dialog->isHidden());
+    QVERIFY(cupsd_.activeJobs().contains("odd-"));
+    QVERIFY(cupsd_.run(u"cancel"_s, {u"-a"_s}));
+}
+
+QTEST_MAIN(QueueWindowTest)
+#include "QueueWindowTest.moc"
