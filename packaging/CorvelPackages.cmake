@@ -33,6 +33,7 @@ endif()
 
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_NAME corvel-print)
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "") # each package has a description of its own, whose first line this would be
 set(CPACK_PACKAGE_VENDOR "Corvel print dialog authors")
 set(CPACK_PACKAGE_DIRECTORY ${CMAKE_BINARY_DIR}/packages)
 set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
@@ -46,31 +47,34 @@ set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
 
-# dpkg-shlibdeps cannot know of a library that is packaged in the same go.
+# dpkg-shlibdeps cannot know of a library that is packaged in the same go: it is shown where that lies, and the package
+# is named here.
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS ${CMAKE_LIBRARY_OUTPUT_DIRECTORY})
 set(CPACK_DEBIAN_PROGRAM_PACKAGE_DEPENDS "${library} (= ${PROJECT_VERSION})")
 set(CPACK_DEBIAN_PROGRAM_PACKAGE_RECOMMENDS "qt6-image-formats-plugins, qt6-translations-l10n, qt6-wayland")
 set(CPACK_DEBIAN_PROGRAM_PACKAGE_SUGGESTS "cups")
 set(CPACK_DEBIAN_PROGRAM_PACKAGE_SECTION graphics)
 set(CPACK_DEBIAN_PROGRAM_DESCRIPTION "photo-print dialog for dye-sublimation printers
- Prints photos from a window that shows each one on its page, or at once from
- the command line, and gives the settings of a dye-sublimation photo printer:
- color adjustments, sharpness, print quality and surface finish.
- .
- It prints through CUPS, or without any printer into a PDF file with a job
- ticket beside it.")
+Prints photos from a window that shows each one on its page, or at once from
+the command line, and gives the settings of a dye-sublimation photo printer:
+color adjustments, sharpness, print quality and surface finish.
+
+It prints through CUPS, or without any printer into a PDF file with a job
+ticket beside it.")
 
 set(CPACK_DEBIAN_LIBRARY_PACKAGE_SECTION libs)
 set(CPACK_DEBIAN_LIBRARY_PACKAGE_GENERATE_SHLIBS ON)
 set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS ON)
 set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS_POLICY =)
+set(CPACK_DEBIAN_LIBRARY_PACKAGE_CONTROL_EXTRA ${CMAKE_CURRENT_SOURCE_DIR}/debian/triggers)
 set(CPACK_DEBIAN_LIBRARY_DESCRIPTION "kit that a photo-print dialog shares with its plug-ins
- The protocol between the print dialog corvel-print and the plug-ins that give
- it the panels of a printer, and what such a panel needs of a desktop.")
+The protocol between the print dialog corvel-print and the plug-ins that give
+it the panels of a printer, and what such a panel needs of a desktop.")
 
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SECTION libdevel)
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS "${library} (= ${PROJECT_VERSION}), qt6-base-dev")
 set(CPACK_DEBIAN_DEVELOPMENT_DESCRIPTION "kit for plug-ins of a photo-print dialog - development files
- What is needed to build a plug-in that gives the print dialog corvel-print the
- panels of a printer: the headers and a CMake package.")
+What is needed to build a plug-in that gives the print dialog corvel-print the
+panels of a printer: the headers and a CMake package.")
 
 include(CPack)

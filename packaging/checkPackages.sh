@@ -76,7 +76,7 @@ chmod 777 "$root/tmp/check"
 cp "$build"/packages/*.deb "$top/resources/photos/sample.jpg" "$root/tmp/check"
 
 inside apt-get update -qq
-inside sh -c 'apt-get install -y -qq --no-install-recommends /tmp/check/*.deb' >/dev/null
+inside sh -c 'apt-get install -y -qq --no-install-recommends -o Dpkg::Use-Pty=0 /tmp/check/*.deb' >/dev/null
 step "installed, with $(inside dpkg-query -f '.\n' -W | wc -l) packages in all"
 inside ldconfig -p | grep -q libpdekit || fail "the dynamic linker does not know libpdekit."
 inside setpriv --reuid=nobody --clear-groups \
@@ -85,8 +85,8 @@ grep -q '"Red": "7"' "$root/tmp/check/sample.ticket.json" || fail "the option di
 [ "$(head -c 5 "$root/tmp/check/sample.pdf")" = %PDF- ] || fail "sample.pdf is no PDF file."
 inside corvel-print --printer built-in --list-options | grep -q 'Color Adjustments' || fail "the plug-in was not found."
 step "prints"
-inside apt-get purge -y -qq corvel-print 'libpdekit*' >/dev/null
+inside apt-get purge -y -qq -o Dpkg::Use-Pty=0 corvel-print 'libpdekit*' >/dev/null
 left=$(names)
 [ -z "$left" ] || fail "left behind after removal: $left"
-inside apt-get autoremove --purge -y -qq >/dev/null
+inside apt-get autoremove --purge -y -qq -o Dpkg::Use-Pty=0 >/dev/null
 step "removed without a trace"
