@@ -4,6 +4,7 @@
 #include "PrintDialog.h"
 
 #include "DialogSession.h"
+#include "HelpWindow.h"
 #include "PpdFetcher.h"
 #include "PrintWorker.h"
 #include "QueueSettings.h"
@@ -14,7 +15,6 @@
 #include <QtCore/QDir>
 #include <QtGui/QShortcut>
 #include <QtWidgets/QFileDialog>
-#include <QtWidgets/QMessageBox>
 
 namespace printdialog {
 
@@ -128,10 +128,7 @@ void PrintDialog::showHelp()
     pdekit::PrintDialogPanel *panel = ui_->panels->currentPanel();
     if (panel && !panel->shouldShowHelp())
         return;
-    QMessageBox::information(
-        this, tr("Help"),
-        tr("Choose a printer and a paper size, adjust the photo on the pages of the printer, and "
-           "press Print. The built-in printer leaves a PDF file and a job ticket in the folder."));
+    HelpWindow::showFor(this);
 }
 
 void PrintDialog::reject()

@@ -1058,6 +1058,13 @@ So ein Auftrag bleibt beim Druckserver; das wird gemeldet, Status 0</translation
     </message>
 </context>
 <context>
+    <name>printdialog::HelpWindow</name>
+    <message>
+        <source>Help</source>
+        <translation>Hilfe</translation>
+    </message>
+</context>
+<context>
     <name>printdialog::MessageBar</name>
     <message>
         <source>Open Folder</source>
@@ -1252,14 +1259,6 @@ So ein Auftrag bleibt beim Druckserver; das wird gemeldet, Status 0</translation
     <message>
         <source>Folder for Printed Files</source>
         <translation>Ordner für gedruckte Dateien</translation>
-    </message>
-    <message>
-        <source>Help</source>
-        <translation>Hilfe</translation>
-    </message>
-    <message>
-        <source>Choose a printer and a paper size, adjust the photo on the pages of the printer, and press Print. The built-in printer leaves a PDF file and a job ticket in the folder.</source>
-        <translation>Wählen Sie einen Drucker und ein Papierformat, passen Sie das Foto auf den Seiten des Druckers an und klicken Sie auf „Drucken“. Der eingebaute Drucker legt eine PDF-Datei und ein Auftragsticket im Ordner ab.</translation>
     </message>
     <message>
         <source>Printing is under way. The window closes when it is done.</source>

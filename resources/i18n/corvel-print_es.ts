@@ -1058,6 +1058,13 @@ queda en el servidor de impresión, se avisa y el código de salida es 0</transl
     </message>
 </context>
 <context>
+    <name>printdialog::HelpWindow</name>
+    <message>
+        <source>Help</source>
+        <translation>Ayuda</translation>
+    </message>
+</context>
+<context>
     <name>printdialog::MessageBar</name>
     <message>
         <source>Open Folder</source>
@@ -1252,14 +1259,6 @@ queda en el servidor de impresión, se avisa y el código de salida es 0</transl
     <message>
         <source>Folder for Printed Files</source>
         <translation>Carpeta para los archivos impresos</translation>
-    </message>
-    <message>
-        <source>Help</source>
-        <translation>Ayuda</translation>
-    </message>
-    <message>
-        <source>Choose a printer and a paper size, adjust the photo on the pages of the printer, and press Print. The built-in printer leaves a PDF file and a job ticket in the folder.</source>
-        <translation>Elija una impresora y un tamaño de papel, ajuste la foto en las pestañas de la impresora y pulse «Imprimir». La impresora integrada guarda en la carpeta un archivo PDF y una ficha del trabajo.</translation>
     </message>
     <message>
         <source>Printing is under way. The window closes when it is done.</source>

@@ -1058,6 +1058,13 @@ alors au serveur d’impression, ce qui est signalé, avec le code 0</translatio
     </message>
 </context>
 <context>
+    <name>printdialog::HelpWindow</name>
+    <message>
+        <source>Help</source>
+        <translation>Aide</translation>
+    </message>
+</context>
+<context>
     <name>printdialog::MessageBar</name>
     <message>
         <source>Open Folder</source>
@@ -1252,14 +1259,6 @@ alors au serveur d’impression, ce qui est signalé, avec le code 0</translatio
     <message>
         <source>Folder for Printed Files</source>
         <translation>Dossier des fichiers imprimés</translation>
-    </message>
-    <message>
-        <source>Help</source>
-        <translation>Aide</translation>
-    </message>
-    <message>
-        <source>Choose a printer and a paper size, adjust the photo on the pages of the printer, and press Print. The built-in printer leaves a PDF file and a job ticket in the folder.</source>
-        <translation>Choisissez une imprimante et un format de papier, réglez la photo dans les onglets de l’imprimante, puis cliquez sur «&#x202f;Imprimer&#x202f;». L’imprimante intégrée enregistre un fichier PDF et une fiche de travail dans le dossier.</translation>
     </message>
     <message>
         <source>Printing is under way. The window closes when it is done.</source>

@@ -1058,6 +1058,13 @@ job stays with the print server, and that is told, with exit status 0</source>
     </message>
 </context>
 <context>
+    <name>printdialog::HelpWindow</name>
+    <message>
+        <source>Help</source>
+        <translation>ヘルプ</translation>
+    </message>
+</context>
+<context>
     <name>printdialog::MessageBar</name>
     <message>
         <source>Open Folder</source>
@@ -1251,14 +1258,6 @@ job stays with the print server, and that is told, with exit status 0</source>
     <message>
         <source>Folder for Printed Files</source>
         <translation>印刷したファイルの保存先</translation>
-    </message>
-    <message>
-        <source>Help</source>
-        <translation>ヘルプ</translation>
-    </message>
-    <message>
-        <source>Choose a printer and a paper size, adjust the photo on the pages of the printer, and press Print. The built-in printer leaves a PDF file and a job ticket in the folder.</source>
-        <translation>プリンターと用紙サイズを選び、プリンターの各タブで写真を調整してから［印刷］を押してください。内蔵プリンターは、PDF ファイルとジョブチケットをフォルダーに保存します。</translation>
     </message>
     <message>
         <source>Printing is under way. The window closes when it is done.</source>

@@ -20,7 +20,7 @@ namespace testing_support {
 bool RecordingFeedback::openHelpBook(const pdekit::Bundle & /*bundle*/, const QString &name)
 {
     helpBooks << name;
-    return true;
+    return opensHelp;
 }
 
 PrintDialogSetup setupFor(PanelMode mode)

@@ -21,6 +21,7 @@ public:
 
     int beeps = 0;
     QStringList helpBooks;
+    bool opensHelp = true;
 };
 
 /// The setup of a dialog with the sample photo, for the built-in printer with the PPD of the model that has
