@@ -38,9 +38,10 @@ int runWindow(const CommandLine &commandLine, QApplication & /*application*/)
         console.complain(setup.failure().text);
         return exitFailed;
     }
-    // By these names of its desktop file and icon the desktop knows the window.
+    // The desktop knows the window by its desktop file. The icon is the program's own: to look for it in the
+    // icon theme takes longer than all of the panels.
     QGuiApplication::setDesktopFileName(QStringLiteral("org.corvel.print"));
-    QGuiApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("corvel-print")));
+    QGuiApplication::setWindowIcon(QIcon(QStringLiteral(":/corvel-print/icons/corvel-print.png")));
     PrintDialog dialog(*setup);
     if (commandLine.ppd && !dialog.isReady()) {
         console.complain(dialog.whyNotReady());
