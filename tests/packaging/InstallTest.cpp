@@ -16,7 +16,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString manifest = QStringLiteral(CORVEL_BUILD_DIR "/install_manifest.txt");
 const QString samplePhoto = QStringLiteral(CORVEL_SAMPLE_PHOTO);
 
 QStringList filesIn(const QString &folder)
@@ -51,7 +50,6 @@ private Q_SLOTS:
     void worksWhereverItIsMovedTo();
     void takesAPlugInBuiltAgainstIt();
     void uninstalls();
-    void cleanupTestCase();
 
 private:
     QString inPrefix(const QString &path) const { return prefix_ + u'/' + path; }
@@ -60,28 +58,25 @@ private:
 
     QTemporaryDir folder_;
     QString prefix_;
-    QByteArray manifestBefore_; ///< of an installation that the user has made from this build
+    QString manifest_; ///< of what is installed in the prefix
 };
 
+// The list of what was installed is taken away at once: the user's own, of an installation from this build,
+// stays.
 void InstallTest::initTestCase()
 {
-    manifestBefore_ = contentOf(manifest);
+    const QString written = QStringLiteral(CORVEL_BUILD_DIR "/install_manifest.txt");
+    const QByteArray before = contentOf(written);
     prefix_ = folder_.filePath(u"in stalled"_s);
+    manifest_ = folder_.filePath(u"manifest.txt"_s);
     const CommandRun install =
         runCommand(QStringLiteral(CORVEL_CMAKE),
                    {u"--install"_s, QStringLiteral(CORVEL_BUILD_DIR), u"--prefix"_s, prefix_, u"--strip"_s});
     QVERIFY2(install.status == 0, install.output.constData());
-}
-
-// Nor does a user's own installation get lost over the test's.
-void InstallTest::cleanupTestCase()
-{
-    if (manifestBefore_.isEmpty()) {
-        QFile::remove(manifest);
-        return;
-    }
-    QFile file(manifest);
-    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(manifestBefore_) == manifestBefore_.size());
+    QVERIFY(QFile::rename(written, manifest_));
+    QFile file(written);
+    if (!before.isEmpty())
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(before) == before.size());
 }
 
 CommandRun InstallTest::run(const QStringList &arguments, const QMap<QString, QString> &environment) const
@@ -182,7 +177,7 @@ void InstallTest::uninstalls()
 {
     const CommandRun removed = runCommand(
         QStringLiteral(CORVEL_CMAKE),
-        {u"-DMANIFEST="_s + manifest, u"-P"_s, QStringLiteral(CORVEL_SOURCE_DIR "/cmake/uninstall.cmake")});
+        {u"-DMANIFEST="_s + manifest_, u"-P"_s, QStringLiteral(CORVEL_SOURCE_DIR "/cmake/uninstall.cmake")});
     QVERIFY2(removed.status == 0, removed.output.constData());
     const QStringList left = filesIn(prefix_);
     QVERIFY(!left.isEmpty());
@@ -192,7 +187,7 @@ void InstallTest::uninstalls()
         QVERIFY2(!path.contains("pdekit"_L1) && !path.contains("Corvel9031"_L1) &&
                      !path.endsWith("/ppd/corvel-print"_L1),
                  qPrintable(path));
-    QVERIFY(!QFile::exists(manifest));
+    QVERIFY(!QFile::exists(manifest_));
 }
 
 QTEST_GUILESS_MAIN(InstallTest)
