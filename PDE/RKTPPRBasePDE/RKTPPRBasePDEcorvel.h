@@ -169,6 +169,12 @@ protected:
     /// Selects the cell that stands for the choice.
     void selectCell(pdekit::RadioMatrix *matrix, const Text &value);
 
+    /// One pass of a wait: runs the event loop until one of the backend's streams tells something, or for a
+    /// second. False when there is no stream.
+    virtual bool runEventLoopOnce();
+    /// Sends the backend SIGINT, if it runs.
+    virtual void interruptBackend();
+
     std::shared_ptr<QObject> pdePluginCallbackObject_; ///< the dialog's
     Text thePDEName_;                                  ///< filled by the concrete panel's panelName
     std::optional<pdekit::Bundle> pdeBundle_;          ///< holds the concrete panel's class
@@ -186,7 +192,6 @@ protected:
 private:
     pdekit::PrintDialogCallback *callback() const;
     void waitForCompletion();
-    bool runEventLoopOnce();
     void takeDownBackend();
     bool offerToPrintSystem(const QString &choice, const QString &key, QWidget *sender);
 

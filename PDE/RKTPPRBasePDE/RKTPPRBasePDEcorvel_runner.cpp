@@ -44,7 +44,8 @@ QString backendPath(const pdekit::Bundle &bundle)
 {
     if (const auto own = bundle.pathForAuxiliaryExecutable(backendName))
         return *own;
-    return parentFolder(parentFolder(bundle.path())) + QLatin1String("/cups/backend/") + backendName;
+    return QDir(parentFolder(parentFolder(bundle.path())))
+        .filePath(QLatin1String("cups/backend/") + backendName);
 }
 
 bool isExecutableFile(const QString &path)

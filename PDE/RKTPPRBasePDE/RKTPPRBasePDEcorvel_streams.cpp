@@ -105,10 +105,8 @@ void RKTPPRBasePDEcorvel::waitForCompletion()
         if (pendingWaits_.begun() != begunBefore)
             continue; // the innermost goes first
         while (!pendingWaits_.isEmpty() && pendingWaits_.endPass()) {
-            if (task_) {
-                task_->interrupt();
-                task_->interrupt();
-            }
+            interruptBackend();
+            interruptBackend();
         }
     }
     isDrivingWaits_ = false;
@@ -129,6 +127,12 @@ bool RKTPPRBasePDEcorvel::runEventLoopOnce()
     while (self && streamEvents_ == eventsBefore && limit.isActive())
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents | QEventLoop::ExcludeUserInputEvents);
     return true;
+}
+
+void RKTPPRBasePDEcorvel::interruptBackend()
+{
+    if (task_)
+        task_->interrupt();
 }
 
 void RKTPPRBasePDEcorvel::killCurrentTask()

@@ -8,6 +8,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <type_traits>
 
 /// One command for the printer's backend. The caller owns the record and its storage. The order and the
 /// widths of the fields are an interface.
@@ -25,10 +26,16 @@ struct veltaTaskContext_s
     char deviceURIBuffer[1024]; ///< what deviceURIString is made from, with a NUL at its end
 };
 
+static_assert(std::is_standard_layout_v<veltaTaskContext_s>);
+static_assert(offsetof(veltaTaskContext_s, deviceURIString) == 0);
 static_assert(offsetof(veltaTaskContext_s, contextData) == sizeof(void *));
 static_assert(offsetof(veltaTaskContext_s, dataBytes) == 2 * sizeof(void *));
 static_assert(offsetof(veltaTaskContext_s, dataLength) == 3 * sizeof(void *));
+static_assert(std::is_same_v<decltype(veltaTaskContext_s::dataLength), std::ptrdiff_t>);
 static_assert(sizeof(veltaTaskContext_s::dataLength) == sizeof(void *));
+static_assert(std::is_same_v<decltype(veltaTaskContext_s::commandLength), std::uint8_t>);
+static_assert(std::is_same_v<decltype(veltaTaskContext_s::reservedByte), std::uint8_t>);
+static_assert(sizeof(veltaTaskContext_s::deviceURIBuffer) == 1024);
 static_assert(offsetof(veltaTaskContext_s, reservedBuffer) == 4 * sizeof(void *));
 static_assert(offsetof(veltaTaskContext_s, command) == 4 * sizeof(void *) + 256);
 static_assert(offsetof(veltaTaskContext_s, commandLength) == 4 * sizeof(void *) + 512);

@@ -18,6 +18,7 @@
 #include <sys/syscall.h>
 #include <sys/wait.h>
 #include <unistd.h>
+#include <utility>
 #include <vector>
 
 namespace pdekit {
@@ -25,6 +26,7 @@ namespace pdekit {
 namespace {
 
 constexpr std::chrono::milliseconds destructorPatience(500);
+constexpr std::chrono::milliseconds killPatience(500);
 constexpr std::chrono::milliseconds endPollInterval(50);
 
 /// Owner of what posix_spawn(3) takes.
@@ -155,22 +157,32 @@ void ChildProcess::interrupt()
         kill(pid_, SIGINT);
 }
 
-void ChildProcess::takeDown(std::chrono::milliseconds patience)
+bool ChildProcess::endsWithin(std::chrono::milliseconds patience)
 {
     constexpr std::chrono::milliseconds step(1);
-    interrupt();
-    for (auto waited = std::chrono::milliseconds(0); isRunning() && waited < patience; waited += step) {
+    for (auto waited = std::chrono::milliseconds(0); isRunning(); waited += step) {
+        if (waited >= patience)
+            return false;
         pollfd end = {pidDescriptor_.number(), POLLIN, 0};
         poll(&end, 1, static_cast<int>(step.count()));
     }
-    if (!isRunning())
+    return true;
+}
+
+void ChildProcess::takeDown(std::chrono::milliseconds patience)
+{
+    interrupt();
+    if (endsWithin(patience))
         return;
     kill(pid_, SIGKILL);
-    int status = 0;
-    while (waitpid(pid_, &status, 0) < 0 && errno == EINTR) {
-    }
-    pid_ = -1;
+    if (endsWithin(killPatience))
+        return;
+    // The kernel holds it, in a device that does not answer: it is reaped when that is over.
+    auto held = std::make_unique<ChildProcess>();
+    held->pid_ = std::exchange(pid_, -1);
     stopWatching();
+    held->watchForEnd();
+    leaveToItself(std::move(held));
 }
 
 // The watcher may be the one that is just telling us.

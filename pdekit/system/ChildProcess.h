@@ -40,7 +40,8 @@ public:
     bool isRunning();
     /// Sends SIGINT, if the child runs.
     void interrupt();
-    /// Interrupts the child, waits for its end, and kills it when that does not come in time.
+    /// Interrupts the child, waits for its end, and kills it when that does not come in time. One that not
+    /// even that ends at once (the kernel waits for a device) is reaped later.
     void takeDown(std::chrono::milliseconds patience);
     pid_t processIdentifier() const { return pid_; }
 
@@ -48,6 +49,7 @@ public:
     static void leaveToItself(std::unique_ptr<ChildProcess> child);
 
 private:
+    bool endsWithin(std::chrono::milliseconds patience);
     void watchForEnd();
     void stopWatching();
     void noteEnd();

@@ -25,8 +25,9 @@ bool echoesToStandardError()
     return echoes;
 }
 
-/// A line may quote a file or a command line: what would steer a terminal is shown as "?".
-QString withoutTerminalControls(QString line)
+/// A line may quote a file, a command line or what a backend prints: what would steer a terminal, or end the
+/// line early, is shown as "?".
+QString withoutControls(QString line)
 {
     for (QChar &character : line) {
         if (character.category() == QChar::Other_Control && character != u'\n' && character != u'\t')
@@ -43,10 +44,10 @@ void systemLog(const QString &line)
         sink(line);
         return;
     }
-    syslog(LOG_USER | LOG_NOTICE, "%s", line.toUtf8().constData());
+    const QByteArray shown = withoutControls(line).toUtf8();
+    syslog(LOG_USER | LOG_NOTICE, "%s", shown.constData());
     if (!echoesToStandardError())
         return;
-    const QByteArray shown = withoutTerminalControls(line).toUtf8();
     std::fprintf(stderr, shown.endsWith('\n') ? "%s" : "%s\n", shown.constData());
 }
 

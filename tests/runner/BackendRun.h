@@ -11,7 +11,10 @@
 #include <QtCore/QTemporaryDir>
 #include <QtTest/QTest>
 
+#include <csignal>
+#include <initializer_list>
 #include <sys/wait.h>
+#include <vector>
 
 class RunnerPanel : public RKTPPRBasePDEcorvel
 {
@@ -37,6 +40,34 @@ inline bool hasChildren()
     siginfo_t info = {};
     return waitid(P_ALL, 0, &info, WEXITED | WNOHANG | WNOWAIT) == 0;
 }
+
+/// Blocks some signals and ignores others, until it goes.
+class SignalSettings
+{
+public:
+    SignalSettings(std::initializer_list<int> blocked, std::initializer_list<int> ignored)
+        : ignored_(ignored)
+    {
+        sigset_t signals;
+        sigemptyset(&signals);
+        for (const int signal : blocked)
+            sigaddset(&signals, signal);
+        sigprocmask(SIG_BLOCK, &signals, &mask_);
+        for (const int signal : ignored_)
+            std::signal(signal, SIG_IGN);
+    }
+    ~SignalSettings()
+    {
+        sigprocmask(SIG_SETMASK, &mask_, nullptr);
+        for (const int signal : ignored_)
+            std::signal(signal, SIG_DFL);
+    }
+    Q_DISABLE_COPY_MOVE(SignalSettings)
+
+private:
+    std::vector<int> ignored_;
+    sigset_t mask_ = {};
+};
 
 /// A panel in a bundle of its own, whose backend behaves as told.
 class BackendRun

@@ -9,17 +9,33 @@
 
 #include <QtTest/QTest>
 
+#include <cstring>
+
 void RunnerTest::record()
 {
     PanelHarness dialog(Mode::Constraint);
-    veltaTaskContext_s context = {};
+    veltaTaskContext_s context;
+    std::memset(&context, 0x5a, sizeof context);
+    qunsetenv("DEVICE_URI");
+    initializeVeltaContext(&context);
+    QVERIFY(!context.deviceURIString && !context.contextData && !context.dataBytes);
+    QCOMPARE(context.dataLength, std::ptrdiff_t(0));
+    QCOMPARE(QByteArray(context.command, sizeof context.command), QByteArray(256, '\0'));
+    QCOMPARE(context.commandLength, std::uint8_t(0));
+    QCOMPARE(QByteArray(context.reservedBuffer, sizeof context.reservedBuffer), QByteArray(256, 'Z'));
+    QCOMPARE(context.reservedByte, std::uint8_t('Z'));
+    QCOMPARE(QByteArray(context.deviceURIBuffer, sizeof context.deviceURIBuffer), QByteArray(1024, 'Z'));
+
     for (const auto &[length, fits] : {std::pair(1023, true), std::pair(1024, false)}) {
-        qputenv("DEVICE_URI", QByteArray(length, 'u'));
+        const QByteArray uri(length, 'u');
+        qputenv("DEVICE_URI", uri);
         initializeVeltaContext(&context);
-        QCOMPARE(context.deviceURIString != nullptr, fits);
+        QCOMPARE(QByteArray(context.deviceURIString), fits ? uri : QByteArray());
         QCOMPARE(qstrlen(context.deviceURIBuffer), size_t(1023));
+        context.dataLength = 7;
         destroyVeltaJobContext(&context);
         destroyVeltaJobContext(&context);
+        QVERIFY(!context.deviceURIString && context.dataLength == 7);
     }
     QCOMPARE(dialog.log,
              QStringList{text("inadequate buffersize for device URI; needed 1024 bytes, had only 1024 \n")});
@@ -173,6 +189,8 @@ void RunnerTest::backendIsLookedFor()
         run.install(path);
     else
         QDir().mkpath(run.inBundle()); // a folder is no program
+    // What the dialog's process does with its signals is no business of the backend's.
+    const SignalSettings signals({SIGUSR1}, {SIGUSR2, SIGTERM});
     QCOMPARE(run.start(), isFound ? 0 : 1);
     QCOMPARE(run.dialog.log.constLast(),
              (isFound ? text("Found Executable at %1\n") : text("no executable at %1\n")).arg(path));
@@ -214,6 +232,36 @@ void RunnerTest::launchFails()
     QVERIFY(broken.setPermissions(QFile::ReadOwner | QFile::ExeOwner));
     QVERIFY_THROWS_EXCEPTION(pdekit::PlatformException, run.start());
     QTRY_VERIFY(run.isIdle());
+}
+
+// Never more than 1,024 bytes at a time.
+void RunnerTest::readsPieces()
+{
+    BackendRun run("writes 9000 bytes");
+    run.installInBundle();
+    QCOMPARE(run.start(), 0);
+    QTRY_VERIFY(run.isIdle());
+    QStringList lines = run.launchLines();
+    for (const qsizetype size : {1024, 1024, 1024, 1024, 1024, 1024, 1024, 1024, 808})
+        lines << text("backend err = ") + QString(size, u'x');
+    QCOMPARE(run.dialog.log, lines);
+}
+
+// Its streams have ended, and so has the run; it goes on beside the next one, and is reaped at its end.
+void RunnerTest::leavesTheLastBackendToItself()
+{
+    BackendRun run("lives on");
+    run.installInBundle();
+    const qsizetype descriptors = openDescriptors();
+    QCOMPARE(run.start(), 0);
+    QTRY_VERIFY(run.isIdle());
+    const pid_t first = run.panel->task_->processIdentifier();
+    QCOMPARE(run.start(), 0);
+    QVERIFY(run.panel->task_->processIdentifier() != first);
+    QCOMPARE(kill(first, 0), 0);
+    QTRY_VERIFY(!hasChildren());
+    QVERIFY(run.isIdle());
+    QTRY_COMPARE(openDescriptors(), descriptors);
 }
 
 QTEST_MAIN(RunnerTest)

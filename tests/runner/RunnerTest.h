@@ -22,12 +22,18 @@ private Q_SLOTS:
     void backendIsLookedFor_data();
     void backendIsLookedFor();
     void refusals();
+    void readsPieces();
+    void leavesTheLastBackendToItself();
     void silenceAfterOneLine();
+    void waitsNest_data();
+    void waitsNest();
+    void errorsWait();
     void waitsPaintAndTakeNoInput();
     void floods_data();
     void floods();
     void descriptorsRunOut_data();
     void descriptorsRunOut();
+    void destroyedWhileRunning_data();
     void destroyedWhileRunning();
     void launchFails();
 };

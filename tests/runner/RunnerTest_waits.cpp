@@ -5,6 +5,7 @@
 #include "FileDescriptor.h"
 #include "InputWindow.h"
 #include "RunnerTest.h"
+#include "ScriptedWaits.h"
 #include "SystemLog.h"
 
 #include <QtCore/QElapsedTimer>
@@ -88,6 +89,39 @@ void RunnerTest::silenceAfterOneLine()
     QTRY_VERIFY(!hasChildren());
 }
 
+void RunnerTest::waitsNest_data()
+{
+    QTest::addColumn<QByteArray>("passes"); // see ScriptedWaits.h
+    QTest::newRow("one wait") << QByteArray("...........");
+    QTest::newRow("one inside the first pass") << QByteArray("e.....................");
+    QTest::newRow("one inside the last pass") << QByteArray("..........e...........");
+    QTest::newRow("three deep, again and again") << QByteArray("ee...e..............e") + QByteArray(60, '.');
+    QTest::newRow("ends inside") << QByteArray("e..e...E");
+}
+
+// The waits kept in a container against waits that nest on the stack: the same passes, the same interrupts.
+void RunnerTest::waitsNest()
+{
+    QFETCH(QByteArray, passes);
+    NestedWaits nested;
+    nested.script = passes;
+    nested.wait();
+    ScriptedPanel panel(passes);
+    panel.streamERRHandleEvent(nullptr, pdekit::StreamEventErrorOccurred);
+    QCOMPARE(panel.interrupts, nested.interrupts);
+    QCOMPARE(panel.passes, nested.passes);
+}
+
+// An error event waits like any other one: here, until both streams have ended.
+void RunnerTest::errorsWait()
+{
+    BackendRun run("silent");
+    run.installInBundle();
+    QCOMPARE(run.start(), 0);
+    run.panel->streamERRHandleEvent(run.panel->streamERR_.get(), pdekit::StreamEventErrorOccurred);
+    QVERIFY(!run.panel->waitForCommandCompletion_);
+}
+
 // While a wait runs the window paints; what the user does comes after it, and nothing of it is lost.
 void RunnerTest::waitsPaintAndTakeNoInput()
 {
@@ -149,24 +183,35 @@ void RunnerTest::floods()
     QTRY_VERIFY(!hasChildren());
 }
 
-// Also while its own wait is on the stack.
+void RunnerTest::destroyedWhileRunning_data()
+{
+    QTest::addColumn<QString>("backend");
+    QTest::addColumn<bool>("isWaiting"); // its own wait is on the stack
+    QTest::newRow("idle") << text("silent after one line") << false;
+    QTest::newRow("waiting") << text("silent after one line") << true;
+    QTest::newRow("ignores interrupts") << text("ignores interrupts") << true;
+}
+
 void RunnerTest::destroyedWhileRunning()
 {
-    for (const bool isWaiting : {false, true}) {
-        auto run = std::make_unique<BackendRun>("silent after one line");
-        run->installInBundle();
-        QCOMPARE(run->start(), 0);
-        QPointer<RunnerPanel> panel = run->panel.get();
-        if (isWaiting) {
-            QTimer::singleShot(200, run->panel.get(), [&run] { run->panel.reset(); });
-            QTRY_VERIFY(!panel);
-        }
-        QElapsedTimer timer;
-        timer.start();
-        run.reset();
-        QVERIFY(timer.elapsed() < 2000);
-        QVERIFY(!hasChildren());
+    QFETCH(QString, backend);
+    QFETCH(bool, isWaiting);
+    auto run = std::make_unique<BackendRun>(backend.toLatin1().constData());
+    run->installInBundle();
+    QCOMPARE(run->start(), 0);
+    QPointer<RunnerPanel> panel = run->panel.get();
+    QElapsedTimer timer;
+    timer.start();
+    if (isWaiting) {
+        QTimer::singleShot(200, run->panel.get(), [&run, &timer] {
+            timer.restart();
+            run->panel.reset();
+        });
+        QTRY_VERIFY(!panel);
     }
+    run.reset();
+    QVERIFY(timer.elapsed() < 2000);
+    QVERIFY(!hasChildren());
 }
 
 void RunnerTest::descriptorsRunOut_data()

@@ -82,6 +82,16 @@ int main(int argc, char *argv[])
     } else if (behaviour == "silent after one line") {
         note("INFO: one\n");
         pause();
+    } else if (behaviour == "ignores interrupts") {
+        std::signal(SIGINT, SIG_IGN);
+        note("INFO: one\n");
+        pause();
+    } else if (behaviour == "lives on") {
+        for (int i = 0; i < 3; ++i)
+            close(i);
+        usleep(600'000);
+    } else if (behaviour == "writes 9000 bytes") {
+        note(std::string(9000, 'x').c_str());
     } else if (behaviour == "silent") {
         usleep(300'000);
     } else if (behaviour == "floods standard output") {
@@ -110,9 +120,12 @@ int main(int argc, char *argv[])
         }
         sigset_t mask;
         sigprocmask(SIG_SETMASK, nullptr, &mask);
-        struct sigaction pipeAction = {};
-        sigaction(SIGPIPE, nullptr, &pipeAction);
-        const bool isClean = pipeAction.sa_handler == SIG_DFL && sigismember(&mask, SIGUSR1) == 0;
+        bool isClean = true;
+        for (int signal = 1; signal < NSIG; ++signal) {
+            struct sigaction action = {};
+            if (sigaction(signal, nullptr, &action) == 0)
+                isClean &= action.sa_handler == SIG_DFL && sigismember(&mask, signal) == 0;
+        }
         note((report + (isClean ? "clean" : "unclean")).c_str());
     }
     return 0;
