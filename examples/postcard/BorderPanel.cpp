@@ -146,3 +146,5 @@ QStringList BorderPanel::supportedPPDOptionKeys()
 {
     return {borderKey};
 }
+
+#include "moc_BorderPanel.cpp"

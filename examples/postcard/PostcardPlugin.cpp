@@ -20,3 +20,5 @@ PostcardPlugin::PDEPanelsForTypeWithHostInfo(const QString &type, const pdekit::
     panels.push_back(std::make_unique<BorderPanel>(*bundle_, hostInfo));
     return panels;
 }
+
+#include "moc_PostcardPlugin.cpp"
