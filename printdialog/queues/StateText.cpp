@@ -157,8 +157,9 @@ QString stateText(const Queue &queue)
     // What CUPS itself puts there when nobody gave a reason.
     const bool saysMore = queue.stateMessage != QLatin1String("Rejecting Jobs") &&
                           queue.stateMessage != QLatin1String("Paused");
-    if (detail.isEmpty() && saysMore && (queue.state == Queue::State::Stopped || !queue.acceptsJobs))
-        detail = queue.stateMessage;
+    if (saysMore && !queue.stateMessage.isEmpty() &&
+        (queue.state == Queue::State::Stopped || !queue.acceptsJobs))
+        detail += (detail.isEmpty() ? QString() : QStringLiteral(", ")) + queue.stateMessage;
     return detail.isEmpty() ? stateWord(queue) : Text::tr("%1: %2").arg(stateWord(queue), detail);
 }
 
