@@ -10,6 +10,14 @@ void benchOpening();
 /// What such a process does: `which` is "ours" or "qt". Ends the process at the first paint.
 int runOpeningChild(const QString &which);
 
+/// What print servers add to the painted window: one that never answers, one with 500 queues.
+void benchQueues();
+/// What such a process does: opens the window and tells when it was painted and had listed the queues.
+int runQueueChild(int queues);
+
+/// Printing to a queue without a window, beside lp.
+void benchJobs();
+
 /// A keystroke, and restoring with the summary, with PPDs of different sizes.
 void benchPanels();
 

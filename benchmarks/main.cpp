@@ -15,12 +15,17 @@ int main(int argc, char *argv[])
     QApplication application(argc, argv);
     const QStringList arguments = QApplication::arguments();
     if (arguments.value(1) == QLatin1String("--child"))
-        return runOpeningChild(arguments.value(2));
+        return arguments.value(2) == QLatin1String("queues") ? runQueueChild(arguments.value(3).toInt())
+                                                             : runOpeningChild(arguments.value(2));
 
+    // With names of parts only those: corvel-bench queues jobs
+    const std::pair<const char *, void (*)()> parts[] = {{"opening", benchOpening}, {"queues", benchQueues},
+                                                         {"jobs", benchJobs},       {"panels", benchPanels},
+                                                         {"runner", benchRunner},   {"pdf", benchPdf}};
     printHeader();
-    benchOpening();
-    benchPanels();
-    benchRunner();
-    benchPdf();
+    for (const auto &[name, bench] : parts) {
+        if (arguments.size() < 2 || arguments.contains(QLatin1String(name)))
+            bench();
+    }
     return 0;
 }
