@@ -28,6 +28,28 @@ QByteArray mimeTypeOf(const Photo &photo)
     return isKnown ? "image/" + format : QByteArray("application/vnd.cups-raw");
 }
 
+/// Whether a JPEG is of the kind that every printer reads: its frame is baseline, of 8 bits, grey or colour.
+bool isBaseline(const QByteArray &jpeg)
+{
+    const auto byte = [&jpeg](qsizetype at) {
+        return at < jpeg.size() ? static_cast<quint8>(jpeg.at(at)) : 0;
+    };
+    for (qsizetype at = 2; byte(at) == 0xff;) {
+        const int marker = byte(at + 1);
+        if (marker == 0xff) { // padding
+            ++at;
+            continue;
+        }
+        if (marker == 0xc0)
+            return byte(at + 4) == 8 && (byte(at + 9) == 1 || byte(at + 9) == 3);
+        // Another kind of frame, or pixels before any; c4 and c8 are none.
+        if ((marker > 0xc0 && marker <= 0xcf && marker != 0xc4 && marker != 0xc8) || marker == 0xda)
+            return false;
+        at += 2 + (byte(at + 2) << 8 | byte(at + 3));
+    }
+    return false;
+}
+
 bool isSame(const QRectF &area, const QRectF &sheet)
 {
     return std::abs(area.left() - sheet.left()) < dot && std::abs(area.right() - sheet.right()) < dot &&
@@ -39,8 +61,8 @@ bool isSame(const QRectF &area, const QRectF &sheet)
 bool needsNoPlacement(const Photo &photo, const PageGeometry &page)
 {
     const QRectF sheet(QPointF(), page.size);
-    if (photo.format() != "jpeg" || !photo.isEmbeddable() || photo.orientation().value() != 1 ||
-        !isSame(page.imageable, sheet))
+    if (photo.format() != "jpeg" || !photo.isEmbeddable() || !isBaseline(photo.content()) ||
+        photo.orientation().value() != 1 || !isSame(page.imageable, sheet))
         return false;
     const QTransform toPage = PhotoPlacement::fit(photo.orientedSize(), page).toPage();
     const bool isStraight = qFuzzyIsNull(toPage.m12()) && qFuzzyIsNull(toPage.m21());

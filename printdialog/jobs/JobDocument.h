@@ -11,7 +11,8 @@ namespace printdialog {
 
 /// Whether the photo's own file, printed by itself, comes out as the placement on the page has it, however
 /// the printer places a picture: fitted, filled or stretched to the sheet. That is so when
-/// - the file is a JPEG of the plain kind that every printer reads, one picture without anything transparent,
+/// - the file is a baseline JPEG, grey or colour, which every printer reads: one picture, nothing
+/// transparent,
 /// - its pixels are stored upright, since what becomes of a note about their orientation is anybody's guess,
 /// - the whole sheet can be printed on, and
 /// - the placement turns nothing and covers the sheet to within a dot of 300 to the inch on each side.
