@@ -65,14 +65,24 @@ std::optional<Failure<PluginFault>> DialogSession::loadPanels()
 // A panel's question, in constraint-handling mode.
 bool DialogSession::rule(const QString &key, const QString &choice)
 {
-    lastRuling_ = marker_.mark(key, choice);
+    lastRuling_ = mark(key, choice);
     const bool let = lastRuling_.verdict == Verdict::Accepted || lastRuling_.verdict == Verdict::Incomplete;
     if (let) {
+        noteChosen(key);
         announceChangedMarks(key);
         Q_EMIT choiceMade(key);
     } else
         Q_EMIT choiceRefused(lastRuling_);
     return let;
+}
+
+Ruling DialogSession::mark(const QString &key, const QString &choice)
+{
+    const auto entry = together_.constFind(key);
+    if (entry == together_.cend() || *entry != choice)
+        return marker_.mark(key, choice);
+    marker_.markUnchecked(key, choice);
+    return {Verdict::Accepted, key, choice, {}, {}, {}};
 }
 
 // Marking one choice may change the mark of another option. The panel that has asked records its own choice
@@ -126,30 +136,18 @@ Ruling DialogSession::chooseThroughPanel(pdekit::PrintDialogPanel &panel, const 
 
 Ruling DialogSession::chooseDirectly(const Ruling &offered)
 {
-    Ruling ruling = mode_ == PanelMode::Constraint ? marker_.mark(offered.key, offered.choice) : offered;
+    Ruling ruling = mode_ == PanelMode::Constraint ? mark(offered.key, offered.choice) : offered;
     if (ruling.verdict != Verdict::Accepted)
         return ruling;
     if (mode_ == PanelMode::Constraint)
         announceChangedMarks({});
     else
         ticket_.options().insert(offered.key, offered.choice);
+    noteChosen(offered.key);
     if (!directKeys_.contains(offered.key))
         directKeys_.append(offered.key);
     Q_EMIT choiceMade(offered.key);
     return ruling;
-}
-
-void DialogSession::restoreChoices(const QMap<QString, QString> &choices)
-{
-    // One choice may be in another's way until a third is made, so go round as long as that helps.
-    QMap<QString, QString> waiting = choices;
-    for (qsizetype before = 0; before != waiting.size();) {
-        before = waiting.size();
-        for (auto entry = waiting.begin(); entry != waiting.end();) {
-            const bool isMade = choose(entry.key(), entry.value()).verdict == Verdict::Accepted;
-            entry = isMade ? waiting.erase(entry) : std::next(entry);
-        }
-    }
 }
 
 // A panel restores from where its mode keeps the choices, so what it has recorded goes there first.
@@ -215,8 +213,10 @@ Result<JobOptions, Verdict> DialogSession::jobOptions()
         for (const Ruling &ruling : unmarked)
             job.dropped.append(ruling.text);
     }
-    if (const std::optional<Ruling> conflict = marker_.firstConflict())
+    if (const std::optional<Ruling> conflict = marker_.firstConflict(chosenKeys_)) {
+        jobRefusal_ = *conflict;
         return Failure<Verdict>{conflict->verdict, conflict->text, {}};
+    }
     const QStringList keys = jobKeys();
     for (const QString &key : keys) {
         if (const std::optional<QString> choice = ppd_.markedChoice(key))

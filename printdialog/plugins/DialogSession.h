@@ -47,12 +47,29 @@ public:
     /// refused leaves everything as it was.
     Ruling choose(const QString &key, const QString &choice);
 
-    /// Makes the choices that the PPD still has and allows together, in whatever order that takes; the others
-    /// are left out. For choices that were kept from an earlier time.
-    void restoreChoices(const QMap<QString, QString> &choices);
+    /// What becomes of options that a set of kept choices does not name.
+    enum class Unnamed {
+        Kept,    ///< they stay as they are
+        Default, ///< they take the PPD's default: how CUPS prints with the set
+    };
+
+    /// Makes choices that were kept from an earlier time: those that the PPD still has and allows together.
+    /// Answers a ruling for each that is left out. The panels show them.
+    QList<Ruling> restoreChoices(const QMap<QString, QString> &choices, Unnamed unnamed = Unnamed::Kept);
+
+    /// Makes choices of the PPD together, whatever stands between them, through the panels that support them;
+    /// the panels show them. For a set that was there before, or that is known to be allowed.
+    void chooseTogether(const QMap<QString, QString> &choices);
 
     /// Lets the panels' controls show choices that did not come from them.
     void refreshPanels();
+
+    /// The present choice of every option of the PPD that has one.
+    QMap<QString, QString> choices();
+
+    /// The changes of other options that would allow a choice that was refused, or settle what makes
+    /// jobOptions() fail; nothing when there is no way. See ChoiceMarker::changesThatAllow.
+    QList<OptionChoice> changesThatAllow(const Ruling &refusal) const;
 
     /// The job's choice of an option: what is recorded for it, else what is marked in the PPD.
     std::optional<QString> chosen(const QString &key) const;
@@ -64,6 +81,12 @@ public:
     /// option that a panel supports, the page size, and whatever else was chosen. Fails when choices stand in
     /// each other's way, or the page size is none of the PPD's.
     Result<JobOptions, Verdict> jobOptions();
+    /// What made jobOptions() fail the last time. Its key is the option that was chosen last of those that
+    /// stand in each other's way.
+    const Ruling &jobRefusal() const { return jobRefusal_; }
+    /// The user has chosen an option. Only the dialog sees this when the panels keep their choices
+    /// themselves.
+    void noteChosen(const QString &key);
 
 Q_SIGNALS:
     /// The print system has refused a choice of the user's.
@@ -73,6 +96,7 @@ Q_SIGNALS:
 
 private:
     bool rule(const QString &key, const QString &choice);
+    Ruling mark(const QString &key, const QString &choice);
     void announceChangedMarks(const QString &askedKey);
     Ruling chooseThroughPanel(pdekit::PrintDialogPanel &panel, const Ruling &offered);
     Ruling chooseDirectly(const Ruling &offered);
@@ -86,9 +110,12 @@ private:
     SessionTicket ticket_;
     SessionPrinter sessionPrinter_;
     pdekit::HostInfo callback_;
-    pdekit::PanelList panels_; ///< after what they are made from, so that they go first
-    QStringList directKeys_;   ///< options chosen that no panel supports
+    pdekit::PanelList panels_;        ///< after what they are made from, so that they go first
+    QStringList directKeys_;          ///< options chosen that no panel supports
+    QStringList chosenKeys_;          ///< the last one first
+    QMap<QString, QString> together_; ///< being made together, so not weighed one by one
     Ruling lastRuling_;
+    Ruling jobRefusal_;
     QHash<QString, QString> knownMarks_; ///< what the panels know to be marked
 };
 

@@ -147,12 +147,20 @@ QStringList ChoiceMarker::conflicts() const
     return sentences;
 }
 
-std::optional<Ruling> ChoiceMarker::firstConflict() const
+std::optional<Ruling> ChoiceMarker::firstConflict(const QStringList &keys) const
 {
     const auto broken = constraints_.broken();
     if (broken.isEmpty())
         return std::nullopt;
-    return conflict(broken.constFirst().constFirst(), broken.constFirst().sliced(1));
+    QList<OptionChoice> together = broken.constFirst();
+    for (const QString &key : keys) {
+        const auto named = std::ranges::find(together, key, &OptionChoice::option);
+        if (named == together.end())
+            continue;
+        std::rotate(together.begin(), named, named + 1);
+        break;
+    }
+    return conflict(together.constFirst(), together.sliced(1));
 }
 
 const NumericChoices &ChoiceMarker::numbers(const QString &key) const
@@ -217,7 +225,8 @@ Ruling ChoiceMarker::conflict(const OptionChoice &choice, const QList<OptionChoi
             Text::tr("%1 cannot be %2 while %3.")
                 .arg(optionLabel(choice.option), choiceLabel(choice.option, choice.choice), conditions),
             first.option,
-            first.choice};
+            first.choice,
+            others};
 }
 
 bool ChoiceMarker::libcupsObjects(const QString &key, const QString &choice) const

@@ -29,12 +29,20 @@ struct Ruling
     QString key; ///< The option that was asked for; plain text.
     QString
         choice; ///< The choice's keyword in the PPD's spelling (`1.50` for `1.5`); unknown: as asked, plain.
-    QString text;        ///< One sentence for people, plain text; empty when accepted.
-    QString otherOption; ///< In a conflict: the keyword of the option that stands in the way,
-    QString otherChoice; ///< and of its marked choice.
+    QString text;                    ///< One sentence for people, plain text; empty when accepted.
+    QString otherOption;             ///< In a conflict: the keyword of the option that stands in the way,
+    QString otherChoice;             ///< and of its marked choice.
+    QList<OptionChoice> others = {}; ///< In a conflict: all that the choice may not be together with.
 
     /// Nothing stands against going on: accepted, or still being typed.
     bool letsThrough() const { return verdict == Verdict::Accepted || verdict == Verdict::Incomplete; }
+};
+
+/// What becomes of choices that were made another time.
+struct ChoicePlan
+{
+    QMap<QString, QString> choices; ///< those that can be made together, in the PPD's spelling
+    QList<Ruling> leftOut;          ///< a ruling for each of the others
 };
 
 /// The constraint handling: marks choices in one PPD and refuses what the PPD does not allow. Borrows the
@@ -59,6 +67,19 @@ public:
     /// ruling for each.
     QList<Ruling> markTogether(const QMap<QString, QString> &choices);
 
+    /// Marks choices of the PPD, also where they stand in each other's way.
+    void markUnchecked(const QString &key, const QString &choice);
+
+    /// Which of the wanted choices the PPD has, and allows together with the choices in `base`, which count
+    /// instead of what is marked. All of them when they go together, in whatever order; else as many as can
+    /// be made one after the other. Marks nothing.
+    ChoicePlan plan(const QMap<QString, QString> &wanted, const QMap<QString, QString> &base) const;
+
+    /// The changes of other options that would allow the choice that the ruling refuses, worked out by
+    /// libcups (cupsResolveConflicts) from what is marked: never of the page size, nor of the option itself.
+    /// Nothing when there is no such way. Marks nothing.
+    QList<OptionChoice> changesThatAllow(const Ruling &refusal) const;
+
     /// The choice's keyword in the PPD's spelling, or nothing when it is no choice of the option.
     std::optional<QString> canonicalChoice(const QString &key, const QString &choice) const;
 
@@ -67,8 +88,8 @@ public:
     /// A sentence for each conflict within the marked choices, mirrored constraints once; mostly empty.
     QStringList conflicts() const;
     /// The first conflict within the marked choices; its key and otherOption are the two that may not be
-    /// together.
-    std::optional<Ruling> firstConflict() const;
+    /// together. The key is the one of them that stands first in `keys`, if any does.
+    std::optional<Ruling> firstConflict(const QStringList &keys = {}) const;
 
 private:
     const NumericChoices &numbers(const QString &key) const;
@@ -77,7 +98,6 @@ private:
     QString optionLabel(const QString &key) const;
     QString choiceLabel(const QString &key, const QString &choice) const;
     Ruling conflict(const OptionChoice &choice, const QList<OptionChoice> &others) const;
-    void markUnchecked(const QString &key, const QString &choice);
     bool libcupsObjects(const QString &key, const QString &choice) const;
 
     PpdDocument &document_;

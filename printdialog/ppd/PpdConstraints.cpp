@@ -101,44 +101,55 @@ void PpdConstraints::add(Constraint constraint)
     constraints_ += std::move(constraint);
 }
 
-std::optional<OptionChoice> PpdConstraints::met(const Term &term, const OptionChoice &supposed) const
+std::optional<OptionChoice> PpdConstraints::present(const QString &option, const Supposed &supposed) const
 {
-    std::optional<OptionChoice> present;
-    if (!term.choice.isEmpty() && isPageOption(term.option)) {
-        if (isPageOption(supposed.option))
-            present = supposed;
-        for (const QString &option : {QStringLiteral("PageSize"), QStringLiteral("PageRegion")}) {
-            if (const auto marked = document_.markedChoice(option); marked && !present)
-                present = OptionChoice{option, *marked};
-        }
-    } else if (same(term.option, supposed.option)) {
-        present = supposed;
-    } else if (const auto marked = document_.markedChoice(term.option)) {
-        present = OptionChoice{term.option, *marked};
-    }
-    if (!present || (term.choice.isEmpty() ? isOff(present->choice) : !same(present->choice, term.choice)))
-        return std::nullopt;
-    return present;
+    if (const auto entry = supposed.constFind(option); entry != supposed.cend())
+        return OptionChoice{option, *entry};
+    if (const auto marked = document_.markedChoice(option))
+        return OptionChoice{option, *marked};
+    return std::nullopt;
 }
 
-QList<OptionChoice> PpdConstraints::against(const QString &option, const QString &choice) const
+std::optional<OptionChoice> PpdConstraints::met(const Term &term, const OptionChoice &asked,
+                                                const Supposed &supposed) const
 {
-    const OptionChoice supposed{option, choice};
+    std::optional<OptionChoice> choice;
+    if (!term.choice.isEmpty() && isPageOption(term.option)) {
+        if (isPageOption(asked.option))
+            choice = asked;
+        for (const QString &option : {QStringLiteral("PageSize"), QStringLiteral("PageRegion")}) {
+            if (!choice)
+                choice = present(option, supposed);
+        }
+    } else if (same(term.option, asked.option)) {
+        choice = asked;
+    } else {
+        choice = present(term.option, supposed);
+    }
+    if (!choice || (term.choice.isEmpty() ? isOff(choice->choice) : !same(choice->choice, term.choice)))
+        return std::nullopt;
+    return choice;
+}
+
+QList<OptionChoice> PpdConstraints::against(const QString &option, const QString &choice,
+                                            const Supposed &supposed) const
+{
+    const OptionChoice asked{option, choice};
     for (const qsizetype index : on_.value(option.toLower())) {
         QList<OptionChoice> others;
-        const bool broken = std::ranges::all_of(constraints_.at(index), [&](const Term &term) {
-            const auto present = met(term, supposed);
-            if (present && *present != supposed)
-                others += *present;
-            return present.has_value();
+        const bool isBroken = std::ranges::all_of(constraints_.at(index), [&](const Term &term) {
+            const auto choiceOfTerm = met(term, asked, supposed);
+            if (choiceOfTerm && *choiceOfTerm != asked)
+                others += *choiceOfTerm;
+            return choiceOfTerm.has_value();
         });
-        if (broken && !others.isEmpty())
+        if (isBroken && !others.isEmpty())
             return others;
     }
     return {};
 }
 
-QList<QList<OptionChoice>> PpdConstraints::broken() const
+QList<QList<OptionChoice>> PpdConstraints::broken(const Supposed &supposed) const
 {
     QList<QList<OptionChoice>> all;
     QSet<QString> seen; // constraints mostly come in two directions
@@ -146,12 +157,12 @@ QList<QList<OptionChoice>> PpdConstraints::broken() const
         QList<OptionChoice> together;
         QStringList names;
         const bool isBroken = std::ranges::all_of(constraint, [&](const Term &term) {
-            const auto present = met(term, {});
-            if (present) {
-                together += *present;
-                names += present->option + u'\n' + present->choice;
+            const auto choice = met(term, {}, supposed);
+            if (choice) {
+                together += *choice;
+                names += choice->option + u'\n' + choice->choice;
             }
-            return present.has_value();
+            return choice.has_value();
         });
         if (!isBroken)
             continue;

@@ -5,6 +5,7 @@
 
 #include <QtCore/QHash>
 #include <QtCore/QList>
+#include <QtCore/QMap>
 #include <QtCore/QString>
 
 #include <optional>
@@ -32,14 +33,18 @@ struct OptionChoice
 class PpdConstraints
 {
 public:
+    /// Choices by option keyword, in the PPD's spelling, that count instead of what is marked.
+    using Supposed = QMap<QString, QString>;
+
     explicit PpdConstraints(const PpdDocument &document);
 
-    /// What is marked and may not be together with the choice: the rest of the first constraint that would be
-    /// broken if the choice were marked. Empty when none would be.
-    QList<OptionChoice> against(const QString &option, const QString &choice) const;
-    /// Each broken constraint among the marked choices, as the choices that may not be together, each set
-    /// once.
-    QList<QList<OptionChoice>> broken() const;
+    /// What is marked or supposed and may not be together with the choice: the rest of the first constraint
+    /// that would be broken if the choice were marked. Empty when none would be.
+    QList<OptionChoice> against(const QString &option, const QString &choice,
+                                const Supposed &supposed = {}) const;
+    /// Each broken constraint among the marked and supposed choices, as the choices that may not be together,
+    /// each set once.
+    QList<QList<OptionChoice>> broken(const Supposed &supposed = {}) const;
 
 private:
     struct Term
@@ -51,7 +56,9 @@ private:
 
     void loadPairs(const ppd_file_s &record);
     void add(Constraint constraint);
-    std::optional<OptionChoice> met(const Term &term, const OptionChoice &supposed) const;
+    std::optional<OptionChoice> present(const QString &option, const Supposed &supposed) const;
+    std::optional<OptionChoice> met(const Term &term, const OptionChoice &asked,
+                                    const Supposed &supposed) const;
 
     const PpdDocument &document_;
     QList<Constraint> constraints_;

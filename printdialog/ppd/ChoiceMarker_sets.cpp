@@ -1,0 +1,103 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "ChoiceMarker.h"
+
+#include "CupsPpd.h"
+#include "PpdDocument.h"
+
+#include <algorithm>
+#include <span>
+
+namespace printdialog {
+
+namespace {
+
+/// `over` counts where both have a choice.
+QMap<QString, QString> merged(QMap<QString, QString> choices, const QMap<QString, QString> &over)
+{
+    choices.insert(over);
+    return choices;
+}
+
+/// libcups leaves the page size alone, but not its other name.
+bool isPageOption(const QString &key)
+{
+    return key == QLatin1String("PageSize") || key == QLatin1String("PageRegion");
+}
+
+bool namesOneOf(const QList<OptionChoice> &together, const QMap<QString, QString> &choices)
+{
+    return std::ranges::any_of(
+        together, [&](const OptionChoice &each) { return choices.value(each.option) == each.choice; });
+}
+
+} // namespace
+
+ChoicePlan ChoiceMarker::plan(const QMap<QString, QString> &wanted, const QMap<QString, QString> &base) const
+{
+    ChoicePlan plan;
+    QMap<QString, QString> waiting;
+    for (auto entry = wanted.cbegin(); entry != wanted.cend(); ++entry) {
+        if (const auto canonical = canonicalChoice(entry.key(), entry.value()))
+            waiting.insert(entry.key(), *canonical);
+        else
+            plan.leftOut += check(entry.key(), entry.value());
+    }
+    const auto broken = constraints_.broken(merged(base, waiting));
+    if (std::ranges::none_of(broken, [&](const auto &together) { return namesOneOf(together, waiting); })) {
+        plan.choices = waiting;
+        return plan;
+    }
+    // One choice may be in another's way until a third is made, so go round as long as that helps.
+    QMap<QString, QString> made = base;
+    for (qsizetype before = -1; before != waiting.size();) {
+        before = waiting.size();
+        for (auto entry = waiting.begin(); entry != waiting.end();) {
+            if (!constraints_.against(entry.key(), entry.value(), made).isEmpty()) {
+                ++entry;
+                continue;
+            }
+            made.insert(entry.key(), entry.value());
+            plan.choices.insert(entry.key(), entry.value());
+            entry = waiting.erase(entry);
+        }
+    }
+    for (auto entry = waiting.cbegin(); entry != waiting.cend(); ++entry)
+        plan.leftOut +=
+            conflict({entry.key(), entry.value()}, constraints_.against(entry.key(), entry.value(), made));
+    return plan;
+}
+
+QList<OptionChoice> ChoiceMarker::changesThatAllow(const Ruling &refusal) const
+{
+    if (refusal.verdict != Verdict::Conflict)
+        return {};
+    cups_option_t *options = nullptr;
+    int count = 0;
+    if (!cupsResolveConflicts(document_.record(), refusal.key.toLatin1().constData(),
+                              refusal.choice.toLatin1().constData(), &count, &options))
+        return {};
+    QMap<QString, QString> together = {{refusal.key, refusal.choice}};
+    QList<OptionChoice> changes;
+    bool isUsable = true;
+    for (const cups_option_t &option : std::span(options, static_cast<size_t>(count))) {
+        const QString key = QString::fromLatin1(option.name);
+        const QString choice = QString::fromLatin1(option.value);
+        if (key == refusal.key || document_.markedChoice(key) == choice)
+            continue;
+        isUsable = isUsable && document_.choice(key, choice) && !isPageOption(key);
+        together.insert(key, choice);
+        changes += OptionChoice{key, choice};
+    }
+    cupsFreeOptions(count, options);
+    // libcups gives up only after a while, and a resolver of the PPD's own may be wrong: what is offered has
+    // to work.
+    const auto broken = constraints_.broken(together);
+    if (!isUsable ||
+        std::ranges::any_of(broken, [&](const auto &each) { return namesOneOf(each, together); }))
+        return {};
+    return changes;
+}
+
+} // namespace printdialog
