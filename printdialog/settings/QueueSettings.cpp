@@ -3,11 +3,10 @@
 
 #include "QueueSettings.h"
 
-#include <QtCore/QDir>
-#include <QtCore/QFileInfo>
+#include "SettingsFile.h"
+#include "StoredChoices.h"
+
 #include <QtCore/QJsonDocument>
-#include <QtCore/QJsonObject>
-#include <QtCore/QSaveFile>
 #include <QtCore/QStandardPaths>
 #include <QtCore/QUrl>
 
@@ -15,7 +14,6 @@ namespace printdialog {
 
 namespace {
 
-constexpr qint64 largestFile = 1024 * 1024;
 constexpr int version = 1;
 
 } // namespace
@@ -29,41 +27,21 @@ QString QueueSettings::fileFor(const QString &printer)
 
 QMap<QString, QString> QueueSettings::load(const QString &printer)
 {
-    QFile file(fileFor(printer));
-    if (!QFileInfo(file).isFile() || !file.open(QIODevice::ReadOnly))
-        return {};
-    const QJsonObject content = QJsonDocument::fromJson(file.read(largestFile)).object();
+    const auto text = SettingsFile::read(fileFor(printer));
+    const QJsonObject content = QJsonDocument::fromJson(text ? *text : QByteArray()).object();
     if (content[QLatin1String("version")].toInt() != version)
         return {};
-    QMap<QString, QString> options;
-    const QJsonObject saved = content[QLatin1String("options")].toObject();
-    for (auto entry = saved.begin(); entry != saved.end(); ++entry) {
-        if (entry->isString())
-            options.insert(entry.key(), entry->toString());
-    }
-    return options;
+    return choicesFromJson(content[QLatin1String("options")].toObject());
 }
 
-Result<QString, SettingsFault> QueueSettings::save(const QString &printer,
-                                                   const QMap<QString, QString> &options)
+SettingsFailure QueueSettings::save(const QString &printer, const QMap<QString, QString> &options)
 {
-    QJsonObject saved;
-    for (auto entry = options.cbegin(); entry != options.cend(); ++entry)
-        saved.insert(entry.key(), entry.value());
-    const QJsonObject content = {{QStringLiteral("version"), version}, {QStringLiteral("options"), saved}};
-
-    const QString path = fileFor(printer);
-    QDir().mkpath(QFileInfo(path).path());
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(QJsonDocument(content).toJson()) < 0 ||
-        !file.commit()) {
-        return Failure<SettingsFault>{
-            SettingsFault::NotWritable,
-            tr("The settings for \"%1\" could not be saved in %2: %3. Make room there, or make it writable.")
-                .arg(printer, path, file.errorString()),
-            {}};
-    }
-    return path;
+    const QJsonObject content = {{QStringLiteral("version"), version},
+                                 {QStringLiteral("options"), jsonOfChoices(options)}};
+    return SettingsFile::change(
+        fileFor(printer), [&content](const QByteArray & /*before*/) -> Result<QByteArray, SettingsFault> {
+            return QJsonDocument(content).toJson();
+        });
 }
 
 } // namespace printdialog

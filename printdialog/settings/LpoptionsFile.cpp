@@ -1,0 +1,187 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "LpoptionsFile.h"
+
+#include "PresetName.h"
+
+#include <cups/cups.h>
+
+#include <algorithm>
+#include <optional>
+#include <span>
+
+namespace printdialog {
+
+namespace {
+
+/// The parts of one line; the options as they stand there.
+struct Line
+{
+    QByteArray keyword; // "Dest", or "Default" for the user's default
+    QString queue;
+    QString instance;
+    QByteArray options;
+
+    bool isOf(const QString &otherQueue, const QString &otherInstance) const
+    {
+        return PresetName::areSame(queue, otherQueue) && PresetName::areSame(instance, otherInstance);
+    }
+};
+
+bool isSpace(char c)
+{
+    return c == ' ' || (c >= '\t' && c <= '\r');
+}
+
+/// The text up to the next space, which goes with it.
+QByteArray takeWord(QByteArray &text)
+{
+    const auto end = std::find_if(text.cbegin(), text.cend(), isSpace);
+    const QByteArray word = text.first(end - text.cbegin());
+    text = text.sliced(word.size()).trimmed();
+    return word;
+}
+
+/// As libcups reads it: the first number sign begins a comment, or stands for itself after a backslash.
+QByteArray withoutComment(QByteArray line)
+{
+    const qsizetype sign = line.indexOf('#');
+    if (sign > 0 && line.at(sign - 1) == '\\')
+        return line.remove(sign - 1, 1);
+    return sign < 0 ? line : line.first(sign);
+}
+
+std::optional<Line> parsed(const QByteArray &text)
+{
+    QByteArray rest = withoutComment(text).trimmed();
+    Line line;
+    line.keyword = takeWord(rest);
+    if (line.keyword.compare("dest", Qt::CaseInsensitive) != 0 &&
+        line.keyword.compare("default", Qt::CaseInsensitive) != 0)
+        return std::nullopt;
+    const QString name = QString::fromUtf8(takeWord(rest));
+    line.queue = name.section(u'/', 0, 0);
+    line.instance = name.section(u'/', 1);
+    line.options = rest;
+    return line.queue.isEmpty() ? std::nullopt : std::optional(line);
+}
+
+QMap<QString, QString> optionsOf(const QByteArray &text)
+{
+    cups_option_t *options = nullptr;
+    const int count = cupsParseOptions(text.constData(), 0, &options);
+    QMap<QString, QString> map;
+    for (const cups_option_t &option : std::span(options, static_cast<size_t>(count)))
+        map.insert(QString::fromUtf8(option.name), QString::fromUtf8(option.value));
+    cupsFreeOptions(count, options);
+    return map;
+}
+
+bool isPlain(char c)
+{
+    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') || c == '.' ||
+           c == '_' || c == '-' || c == '+';
+}
+
+QByteArray quoted(const QByteArray &value)
+{
+    if (!value.isEmpty() && std::ranges::all_of(value, isPlain))
+        return value;
+    QByteArray text = "\"";
+    for (const char c : value) {
+        // The number sign, too: libcups would take it for a comment's beginning.
+        if (c == '"' || c == '\\' || c == '#')
+            text += '\\';
+        text += c;
+    }
+    return text + '"';
+}
+
+QByteArray nameOf(const QString &queue, const QString &instance)
+{
+    return (instance.isEmpty() ? queue : queue + u'/' + instance).toUtf8();
+}
+
+} // namespace
+
+LpoptionsFile::LpoptionsFile(const QByteArray &text)
+    : lines_(text.split('\n'))
+{
+    if (lines_.constLast().isEmpty())
+        lines_.removeLast();
+}
+
+QList<LpoptionsFile::Entry> LpoptionsFile::entries() const
+{
+    QList<Entry> entries;
+    for (const QByteArray &text : lines_) {
+        if (const auto line = parsed(text))
+            entries += {line->queue, line->instance, optionsOf(line->options)};
+    }
+    return entries;
+}
+
+bool LpoptionsFile::has(const QString &queue, const QString &instance) const
+{
+    return std::ranges::any_of(lines_, [&](const QByteArray &text) {
+        const auto line = parsed(text);
+        return line && line->isOf(queue, instance);
+    });
+}
+
+bool LpoptionsFile::set(const QString &queue, const QString &instance, const QMap<QString, QString> &options)
+{
+    QByteArray text;
+    for (auto option = options.cbegin(); option != options.cend(); ++option)
+        text += ' ' + option.key().toUtf8() + '=' + quoted(option.value().toUtf8());
+    const auto lineWith = [&](const QByteArray &keyword) {
+        return keyword + ' ' + nameOf(queue, instance) + text;
+    };
+    if (lineWith("Default").size() > longestLine)
+        return false;
+    // libcups adds up the lines of one entry.
+    bool isSet = false;
+    for (auto each = lines_.begin(); each != lines_.end();) {
+        const auto line = parsed(*each);
+        if (!line || !line->isOf(queue, instance)) {
+            ++each;
+        } else if (isSet) {
+            each = lines_.erase(each);
+        } else {
+            *each = lineWith(line->keyword);
+            isSet = true;
+        }
+    }
+    if (!isSet)
+        lines_ += lineWith("Dest");
+    return true;
+}
+
+void LpoptionsFile::rename(const QString &queue, const QString &instance, const QString &newInstance)
+{
+    for (QByteArray &text : lines_) {
+        const auto line = parsed(text);
+        if (!line || !line->isOf(queue, instance))
+            continue;
+        QByteArray rest = text.trimmed();
+        takeWord(rest);
+        takeWord(rest);
+        text = line->keyword + ' ' + nameOf(line->queue, newInstance) + ' ' + rest;
+    }
+}
+
+void LpoptionsFile::remove(const QString &queue, const QString &instance)
+{
+    lines_.removeIf([&](const QByteArray &text) {
+        const auto line = parsed(text);
+        return line && line->isOf(queue, instance);
+    });
+}
+
+QByteArray LpoptionsFile::text() const
+{
+    return lines_.isEmpty() ? QByteArray() : lines_.join('\n') + '\n';
+}
+
+} // namespace printdialog

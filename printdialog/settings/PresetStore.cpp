@@ -1,0 +1,81 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "PresetStore.h"
+
+#include "BuiltInPresets.h"
+#include "PresetName.h"
+#include "QueuePresets.h"
+
+#include <algorithm>
+
+namespace printdialog {
+
+std::unique_ptr<PresetStore> PresetStore::open(const QString &printer, bool isBuiltIn)
+{
+    if (isBuiltIn)
+        return std::make_unique<BuiltInPresets>();
+    return std::make_unique<QueuePresets>(printer);
+}
+
+SettingsFailure PresetStore::add(const QString &name, const QMap<QString, QString> &options)
+{
+    if (const auto objection = PresetName::objection(name))
+        return objection;
+    return write(name, options, true);
+}
+
+SettingsFailure PresetStore::update(const QString &name, const QMap<QString, QString> &options)
+{
+    return write(name, options, false);
+}
+
+SettingsFailure PresetStore::rename(const QString &name, const QString &newName)
+{
+    if (name == newName)
+        return std::nullopt;
+    if (const auto objection = PresetName::objection(newName))
+        return objection;
+    return writeName(name, newName);
+}
+
+SettingsFailure PresetStore::remove(const QString &name)
+{
+    return writeWithout(name);
+}
+
+const Preset *PresetStore::find(const Presets &presets, const QString &name)
+{
+    const auto found = std::ranges::find_if(
+        presets, [&name](const Preset &preset) { return PresetName::areSame(preset.name, name); });
+    return found == presets.end() ? nullptr : &*found;
+}
+
+SettingsFailure PresetStore::mayAdd(const Presets &presets, const QString &name)
+{
+    const Preset *taken = find(presets, name);
+    if (!taken)
+        return std::nullopt;
+    return Failure<SettingsFault>{
+        SettingsFault::NameTaken,
+        tr("There is a preset \"%1\" already. Choose another name.").arg(taken->name),
+        {}};
+}
+
+SettingsFailure PresetStore::mayChange(const Presets &presets, const QString &name)
+{
+    const Preset *preset = find(presets, name);
+    if (!preset)
+        return Failure<SettingsFault>{
+            SettingsFault::NotThere,
+            tr("There is no preset \"%1\" any more. Save it under a new name.").arg(name),
+            {}};
+    if (!preset->isWritable)
+        return Failure<SettingsFault>{
+            SettingsFault::ReadOnly,
+            tr("The preset \"%1\" is the system's. Save one of your own under a new name.").arg(name),
+            {}};
+    return std::nullopt;
+}
+
+} // namespace printdialog

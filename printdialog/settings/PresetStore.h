@@ -1,0 +1,63 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include "SettingsFault.h"
+
+#include <QtCore/QCoreApplication>
+#include <QtCore/QList>
+#include <QtCore/QMap>
+#include <QtCore/QString>
+
+#include <memory>
+
+namespace printdialog {
+
+/// A named set of choices for one printer.
+struct Preset
+{
+    QString name;
+    QMap<QString, QString> options;   ///< option keyword to choice keyword, and "copies"
+    QMap<QString, QString> inherited; ///< what the queue's own entry adds to those
+    bool isWritable = true;           ///< false: the system's, which only its administrator changes
+};
+
+/// The presets of one printer. Those of a queue are its instances in the user's lpoptions file, as
+/// lpoptions(1) makes them, so that "lp -d queue/preset" prints alike; those of the built-in printer are in a
+/// file of the dialog's own. Each change is whole or not made, and leaves everything else in the file as it
+/// is. Only small files are read and written; no server is asked.
+class PresetStore
+{
+    Q_DECLARE_TR_FUNCTIONS(printdialog::PresetStore)
+
+public:
+    /// For the queue, or the built-in printer.
+    static std::unique_ptr<PresetStore> open(const QString &printer, bool isBuiltIn);
+    virtual ~PresetStore() = default;
+
+    /// By name.
+    virtual Result<QList<Preset>, SettingsFault> presets() const = 0;
+
+    /// Adds a preset. Failures: BadName, NameTaken, and those of the file.
+    SettingsFailure add(const QString &name, const QMap<QString, QString> &options);
+    /// Gives a preset other choices.
+    SettingsFailure update(const QString &name, const QMap<QString, QString> &options);
+    SettingsFailure rename(const QString &name, const QString &newName);
+    SettingsFailure remove(const QString &name);
+
+protected:
+    using Presets = QList<Preset>;
+
+    virtual SettingsFailure write(const QString &name, const QMap<QString, QString> &options, bool isNew) = 0;
+    virtual SettingsFailure writeName(const QString &name, const QString &newName) = 0;
+    virtual SettingsFailure writeWithout(const QString &name) = 0;
+
+    static const Preset *find(const Presets &presets, const QString &name);
+    /// Whether there may be a new preset of the name.
+    static SettingsFailure mayAdd(const Presets &presets, const QString &name);
+    /// Whether there is a preset of the name that the user may change.
+    static SettingsFailure mayChange(const Presets &presets, const QString &name);
+};
+
+} // namespace printdialog

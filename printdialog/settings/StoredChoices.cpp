@@ -1,0 +1,26 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "StoredChoices.h"
+
+namespace printdialog {
+
+QJsonObject jsonOfChoices(const QMap<QString, QString> &choices)
+{
+    QJsonObject object;
+    for (auto entry = choices.cbegin(); entry != choices.cend(); ++entry)
+        object.insert(entry.key(), entry.value());
+    return object;
+}
+
+QMap<QString, QString> choicesFromJson(const QJsonObject &object)
+{
+    QMap<QString, QString> choices;
+    for (auto entry = object.begin(); entry != object.end(); ++entry) {
+        if (entry->isString())
+            choices.insert(entry.key(), entry->toString());
+    }
+    return choices;
+}
+
+} // namespace printdialog
