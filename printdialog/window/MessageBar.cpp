@@ -3,6 +3,8 @@
 
 #include "MessageBar.h"
 
+#include "MessageTint.h"
+
 #include <QtCore/QEvent>
 #include <QtCore/QUrl>
 #include <QtGui/QAccessible>
@@ -49,6 +51,7 @@ MessageBar::MessageBar(QWidget *parent)
     , icon_(new QLabel(this))
     , text_(new QLabel(this))
     , openFolder_(new QPushButton(tr("Open Folder"), this))
+    , actionButton_(new QPushButton(this))
 {
     setFrameShape(QFrame::StyledPanel);
     setAutoFillBackground(true);
@@ -56,13 +59,20 @@ MessageBar::MessageBar(QWidget *parent)
     text_->setWordWrap(true);
     text_->setTextInteractionFlags(Qt::TextSelectableByMouse);
     openFolder_->setAutoDefault(false);
+    actionButton_->setObjectName(QStringLiteral("messageAction"));
+    actionButton_->setAutoDefault(false);
     auto *layout = new QHBoxLayout(this);
     layout->setContentsMargins(8, 6, 8, 6);
     layout->addWidget(icon_);
     layout->addWidget(text_, 1);
     layout->addWidget(openFolder_);
+    layout->addWidget(actionButton_);
     connect(openFolder_, &QPushButton::clicked, this,
             [this] { QDesktopServices::openUrl(QUrl::fromLocalFile(folder_)); });
+    connect(actionButton_, &QPushButton::clicked, this, [this] {
+        if (const auto action = action_) // which may show another message
+            action();
+    });
     clear();
 }
 
@@ -73,9 +83,25 @@ void MessageBar::show(Kind kind, const QString &text)
 
 void MessageBar::showWithFolder(Kind kind, const QString &text, const QString &folder)
 {
-    kind_ = kind;
     folder_ = folder;
-    openFolder_->setVisible(!folder.isEmpty());
+    action_ = nullptr;
+    say(kind, text);
+}
+
+void MessageBar::showWithAction(Kind kind, const QString &text, const QString &actionText,
+                                const std::function<void()> &action)
+{
+    folder_.clear();
+    action_ = action;
+    actionButton_->setText(actionText);
+    say(kind, text);
+}
+
+void MessageBar::say(Kind kind, const QString &text)
+{
+    kind_ = kind;
+    openFolder_->setVisible(!folder_.isEmpty());
+    actionButton_->setVisible(static_cast<bool>(action_));
     text_->setText(text);
     applyColors();
     setVisible(true);
@@ -89,6 +115,7 @@ void MessageBar::clear()
 {
     text_->clear();
     folder_.clear();
+    action_ = nullptr;
     setVisible(false);
 }
 
@@ -104,20 +131,13 @@ void MessageBar::changeEvent(QEvent *event)
     QFrame::changeEvent(event);
 }
 
-// A tint over the window's own colour reads well in light and in dark themes.
 void MessageBar::applyColors()
 {
     const int side = style()->pixelMetric(QStyle::PM_SmallIconSize, nullptr, this);
     icon_->setPixmap(style()->standardIcon(iconOf(kind_), nullptr, this).pixmap(side, side));
-    const QColor window = parentWidget() ? parentWidget()->palette().color(QPalette::Window) : QColor();
-    const QColor tint = tintOf(kind_);
-    constexpr double share = 0.18;
-    const auto mix = [](int a, int b) {
-        return static_cast<int>(a * (1.0 - share) + b * share);
-    };
     QPalette colors = palette();
-    colors.setColor(QPalette::Window, QColor(mix(window.red(), tint.red()), mix(window.green(), tint.green()),
-                                             mix(window.blue(), tint.blue())));
+    if (parentWidget())
+        colors.setColor(QPalette::Window, tinted(parentWidget()->palette(), tintOf(kind_)));
     setPalette(colors);
 }
 

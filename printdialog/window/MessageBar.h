@@ -5,6 +5,8 @@
 
 #include <QtWidgets/QFrame>
 
+#include <functional>
+
 class QLabel;
 class QPushButton;
 
@@ -24,6 +26,9 @@ public:
     void show(Kind kind, const QString &text);
     /// The same, with a button that opens the folder in the desktop's file manager.
     void showWithFolder(Kind kind, const QString &text, const QString &folder);
+    /// The same, with a button for what can be done about it.
+    void showWithAction(Kind kind, const QString &text, const QString &actionText,
+                        const std::function<void()> &action);
     void clear();
 
     QString text() const;
@@ -32,11 +37,14 @@ protected:
     void changeEvent(QEvent *event) override;
 
 private:
+    void say(Kind kind, const QString &text);
     void applyColors();
 
     QLabel *icon_;
     QLabel *text_;
     QPushButton *openFolder_;
+    QPushButton *actionButton_;
+    std::function<void()> action_;
     QString folder_;
     Kind kind_ = Kind::Information;
 };

@@ -128,6 +128,7 @@ void PanelTabs::fillPage(Page &page)
             setTabOrder(previous, widget);
             previous = widget;
         }
+        Q_EMIT viewMade(view);
         return;
     }
     const QString text =

@@ -31,6 +31,8 @@ public:
     QString kindSuffix(int page) const;
 
 Q_SIGNALS:
+    /// A panel's view is about to be seen for the first time.
+    void viewMade(QWidget *view);
     /// A panel's view cannot be shown: one sentence for people.
     void panelFailed(const QString &text);
 

@@ -3,6 +3,7 @@
 
 #include "PrintDialog.h"
 
+#include "ChoiceController.h"
 #include "DialogSession.h"
 #include "HelpWindow.h"
 #include "PpdFetcher.h"
@@ -18,12 +19,6 @@
 
 namespace printdialog {
 
-namespace {
-
-const QString pageSizeKey = QStringLiteral("PageSize");
-
-} // namespace
-
 PrintDialog::PrintDialog(const PrintDialogSetup &setup, QWidget *parent)
     : QDialog(parent)
     , setup_(setup)
@@ -32,6 +27,9 @@ PrintDialog::PrintDialog(const PrintDialogSetup &setup, QWidget *parent)
     , worker_(new PrintWorker(this))
 {
     ui_->setupUi(this);
+    choices_ = new ChoiceController(
+        {this, ui_->panels, ui_->pageSize, ui_->copies, ui_->presetBar, ui_->undo, ui_->redo, ui_->message},
+        this);
     ui_->folder->setText(QDir::toNativeSeparators(QDir(setup.outputFolder).absolutePath()));
     connect(ui_->printer, &PrinterChooser::printerChosen, this, &PrintDialog::openPrinter);
     connect(ui_->printer, &PrinterChooser::searchFailed, this,
@@ -65,6 +63,7 @@ PrintDialog::PrintDialog(const PrintDialogSetup &setup, QWidget *parent)
 
 PrintDialog::~PrintDialog()
 {
+    choices_->setSession(nullptr);
     ui_->panels->setSession(nullptr);
 }
 
@@ -76,7 +75,8 @@ void PrintDialog::searchPrinters()
 
 QString PrintDialog::message() const
 {
-    return ui_->message->text();
+    const QString explanation = choices_->explanation();
+    return explanation.isEmpty() ? ui_->message->text() : explanation;
 }
 
 int PrintDialog::pageCount() const

@@ -21,6 +21,7 @@ class PrintDialog;
 
 namespace printdialog {
 
+class ChoiceController;
 class DialogSession;
 class PpdFetcher;
 class PrintWorker;
@@ -101,7 +102,7 @@ private:
 
     // Printing
     void finishPrinting(const PrintOutcome &outcome);
-    std::optional<PrintJob> makeJob(QStringList &dropped);
+    std::optional<PrintJob> makeJob(QStringList &remarks);
     void updateButtons();
 
     void showPhoto();
@@ -111,12 +112,14 @@ private:
     PrintDialogSetup setup_;
     std::unique_ptr<Ui::PrintDialog> ui_;
     std::unique_ptr<DialogSession> session_;
+    ChoiceController *choices_;
     PpdFetcher *fetcher_;
     PrintWorker *worker_;
     Queue queue_;               ///< the printer that is shown
     bool isRemembered_ = false; ///< it comes from an earlier time, and the print server has not confirmed it
     bool wasChosen_ = false;    ///< by the user, this time or an earlier one
     QString whyNotReady_;       ///< why Print is off; empty when it is on
+    QString notKept_;     ///< why the choices are not kept for the next time; mostly empty
 };
 
 } // namespace printdialog

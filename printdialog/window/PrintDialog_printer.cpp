@@ -1,11 +1,11 @@
 // SPDX-FileCopyrightText: Corvel print dialog authors
 // SPDX-License-Identifier: Apache-2.0
 
+#include "ChoiceController.h"
 #include "DialogSession.h"
 #include "PpdFetcher.h"
 #include "PrintDialog.h"
 #include "QueueCache.h"
-#include "QueueSettings.h"
 #include "SessionOpening.h"
 #include "ui_PrintDialog.h"
 
@@ -192,6 +192,7 @@ void PrintDialog::reopen(std::unique_ptr<DialogSession> session)
 
 void PrintDialog::closeSession(const QString &reason)
 {
+    choices_->setSession(nullptr);
     ui_->panels->setSession(nullptr);
     session_.reset();
     whyNotReady_ = reason;
@@ -203,23 +204,21 @@ void PrintDialog::closeSession(const QString &reason)
 
 void PrintDialog::takeSession(std::unique_ptr<DialogSession> session)
 {
+    choices_->setSession(nullptr);
     ui_->panels->setSession(nullptr);
     session_ = std::move(session);
     whyNotReady_.clear();
-    connect(session_.get(), &DialogSession::choiceRefused, this,
-            [this](const Ruling &ruling) { ui_->message->show(MessageBar::Kind::Warning, ruling.text); });
     connect(session_.get(), &DialogSession::choiceMade, this, [this](const QString &key) {
         ui_->message->clear();
         if (key == pageSizeKey)
             showPageSize();
     });
     const auto noPanels = session_->loadPanels();
-    const QMap<QString, QString> saved = QueueSettings::load(session_->printer().name);
-    session_->restoreChoices(saved);
-    const bool hasOptions = applyOptions();
-    if (hasOptions || !saved.isEmpty())
+    choices_->setSession(session_.get());
+    if (applyOptions())
         session_->refreshPanels();
     fillPageSizes();
+    choices_->start();
     ui_->panels->setSession(session_.get());
     if (noPanels)
         ui_->message->show(MessageBar::Kind::Error, noPanels->text);
@@ -259,12 +258,9 @@ void PrintDialog::fillPageSizes()
 
 void PrintDialog::choosePageSize(int index)
 {
-    if (!session_)
-        return;
-    const Ruling ruling = session_->choose(pageSizeKey, ui_->pageSize->itemData(index).toString());
-    if (ruling.verdict != Verdict::Accepted)
-        ui_->message->show(MessageBar::Kind::Warning, ruling.text);
-    showPageSize();
+    choices_->choosePageSize(ui_->pageSize->itemData(index).toString());
+    if (session_)
+        showPageSize();
 }
 
 void PrintDialog::showPageSize()

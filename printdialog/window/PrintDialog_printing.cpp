@@ -1,14 +1,16 @@
 // SPDX-FileCopyrightText: Corvel print dialog authors
 // SPDX-License-Identifier: Apache-2.0
 
+#include "ChoiceController.h"
 #include "DialogSession.h"
 #include "PpdFetcher.h"
 #include "PrintDialog.h"
 #include "PrintWorker.h"
-#include "QueueSettings.h"
 #include "ui_PrintDialog.h"
 
 #include <QtCore/QFileInfo>
+
+#include <utility>
 
 namespace printdialog {
 
@@ -24,14 +26,14 @@ void PrintDialog::updateButtons()
     ui_->save->setEnabled(session_ != nullptr);
 }
 
-std::optional<PrintJob> PrintDialog::makeJob(QStringList &dropped)
+std::optional<PrintJob> PrintDialog::makeJob(QStringList &remarks)
 {
     const auto options = session_->jobOptions();
     if (!options) {
-        ui_->message->show(MessageBar::Kind::Warning, options.failure().text);
+        choices_->explainJob();
         return std::nullopt;
     }
-    dropped = options->dropped;
+    remarks = options->dropped;
     const auto size = session_->ppd().pageSize(options->options.value(QStringLiteral("PageSize")));
     if (!size) {
         ui_->message->show(MessageBar::Kind::Warning, tr("No paper size is chosen. Choose one."));
@@ -45,6 +47,7 @@ std::optional<PrintJob> PrintDialog::makeJob(QStringList &dropped)
     job.queue = session_->printer().hasPpd ? QueueTerms::ofPpd(session_->ppd()) : QueueTerms::withoutPpd();
     for (const auto &[option, choice] : session_->summary())
         job.summary.insert(option, choice);
+    notKept_ = choices_->keep(*options);
     return job;
 }
 
@@ -52,12 +55,12 @@ void PrintDialog::print()
 {
     if (!isReady() || worker_->isBusy() || setup_.photos.isEmpty())
         return;
-    QStringList dropped;
-    const std::optional<PrintJob> job = makeJob(dropped);
+    QStringList remarks;
+    const std::optional<PrintJob> job = makeJob(remarks);
     if (!job)
         return;
-    ui_->message->show(dropped.isEmpty() ? MessageBar::Kind::Information : MessageBar::Kind::Warning,
-                       (QStringList(tr("Printing…")) + dropped).join(QLatin1Char('\n')));
+    ui_->message->show(remarks.isEmpty() ? MessageBar::Kind::Information : MessageBar::Kind::Warning,
+                       (QStringList(tr("Printing…")) + remarks).join(QLatin1Char('\n')));
     PrintTarget target;
     if (session_->printer().isBuiltIn)
         target.outputFolder = ui_->folder->text();
@@ -73,9 +76,14 @@ void PrintDialog::finishPrinting(const PrintOutcome &outcome)
 {
     ui_->progress->hide();
     updateButtons();
-    const QStringList lines = outcome.printed + outcome.waiting;
+    QStringList lines = outcome.printed + outcome.waiting;
+    const bool isFine = outcome.waiting.isEmpty() && notKept_.isEmpty();
+    for (const QString &line : {outcome.failure, std::exchange(notKept_, QString())}) {
+        if (!line.isEmpty())
+            lines += line;
+    }
     if (!outcome.failure.isEmpty()) {
-        ui_->message->show(MessageBar::Kind::Error, (lines + QStringList(outcome.failure)).join(u'\n'));
+        ui_->message->show(MessageBar::Kind::Error, lines.join(u'\n'));
         if (outcome.hasOtherPpd) {
             whyNotReady_ = outcome.failure;
             updateButtons();
@@ -85,23 +93,23 @@ void PrintDialog::finishPrinting(const PrintOutcome &outcome)
     }
     ui_->cancel->setText(tr("Close"));
     ui_->message->showWithFolder(
-        outcome.waiting.isEmpty() ? MessageBar::Kind::Information : MessageBar::Kind::Warning,
-        lines.join(u'\n'), queue_.isBuiltIn ? QFileInfo(ui_->folder->text()).absoluteFilePath() : QString());
+        isFine ? MessageBar::Kind::Information : MessageBar::Kind::Warning, lines.join(u'\n'),
+        queue_.isBuiltIn ? QFileInfo(ui_->folder->text()).absoluteFilePath() : QString());
 }
 
 void PrintDialog::saveSettings()
 {
     const auto options = session_->jobOptions();
     if (!options) {
-        ui_->message->show(MessageBar::Kind::Warning, options.failure().text);
+        choices_->explainJob();
         return;
     }
-    const auto saved = QueueSettings::save(session_->printer().name, options->options);
-    if (saved)
+    const QString failure = choices_->keep(*options);
+    if (failure.isEmpty())
         ui_->message->show(MessageBar::Kind::Information,
                            tr("The settings are saved for \"%1\".").arg(session_->printer().text));
     else
-        ui_->message->show(MessageBar::Kind::Error, saved.failure().text);
+        ui_->message->show(MessageBar::Kind::Error, failure);
 }
 
 } // namespace printdialog

@@ -49,7 +49,7 @@ private Q_SLOTS:
 
 private:
     std::shared_ptr<RecordingFeedback> feedback_;
-    QTemporaryDir config_;
+    std::unique_ptr<QTemporaryDir> config_;
 };
 
 void PrintDialogTest::initTestCase_data()
@@ -64,7 +64,8 @@ void PrintDialogTest::init()
     feedback_ = std::make_shared<RecordingFeedback>();
     pdekit::Feedback::install(feedback_);
     pdekit::setSystemLogSink([](const QString &) {});
-    qputenv("XDG_CONFIG_HOME", QFile::encodeName(config_.path()));
+    config_ = std::make_unique<QTemporaryDir>(); // what is printed with is kept
+    qputenv("XDG_CONFIG_HOME", QFile::encodeName(config_->path()));
 }
 
 // Sliders, typed numbers, radio buttons on all three pages; the same ticket in both modes.
@@ -214,8 +215,8 @@ void PrintDialogTest::tabOrderAndNames()
             QTest::keyClick(widget, Qt::Key_Tab);
         } while (QApplication::focusWidget() != first && order.size() < 60);
     };
-    const QStringList before = {u"printer"_s, u"pageSize"_s, u"copies"_s,
-                                u"folder"_s,  u"browse"_s,   u"qt_tabwidget_tabbar"_s};
+    const QStringList before = {u"printer"_s, u"presets"_s, u"managePresets"_s, u"pageSize"_s,
+                                u"copies"_s,  u"folder"_s,  u"browse"_s,        u"qt_tabwidget_tabbar"_s};
     const QStringList after = {u"help"_s, u"save"_s, u"cancel"_s, u"print"_s};
     QStringList color;
     for (int tag = 1; tag <= 7; ++tag)
@@ -268,7 +269,7 @@ void PrintDialogTest::missingFormDisablesOnePanel()
 void PrintDialogTest::missingBundle()
 {
     const QByteArray path = qgetenv("CORVEL_PDE_PATH");
-    qputenv("CORVEL_PDE_PATH", QFile::encodeName(config_.path()));
+    qputenv("CORVEL_PDE_PATH", QFile::encodeName(config_->path()));
     const auto back = qScopeGuard([path] { qputenv("CORVEL_PDE_PATH", path); });
     const OpenedDialog opened(PanelMode::Constraint);
     QVERIFY(opened.dialog->message().contains(u"Corvel9031.bundle"_s));
@@ -284,7 +285,7 @@ void PrintDialogTest::cancelLeavesNothing()
     QTest::keyClick(opened.dialog.get(), Qt::Key_Escape);
     QVERIFY(opened.dialog->isHidden());
     QVERIFY(!opened.hasPrinted());
-    QVERIFY(QDir(config_.path()).isEmpty());
+    QVERIFY(QDir(config_->path()).isEmpty());
 }
 
 QTEST_MAIN(PrintDialogTest)

@@ -1,0 +1,245 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "ChoiceCallout.h"
+#include "ChoiceController.h"
+#include "ChoiceExplanation.h"
+#include "DialogSession.h"
+#include "MessageBar.h"
+#include "PresetBar.h"
+#include "PresetName.h"
+#include "PresetStore.h"
+#include "QueueSettings.h"
+#include "StoredChoices.h"
+
+#include <QtCore/QTimer>
+#include <QtGui/QAction>
+#include <QtWidgets/QMenu>
+#include <QtWidgets/QSpinBox>
+
+#include <algorithm>
+
+namespace printdialog {
+
+namespace {
+
+/// A destination is a queue, or a queue and the user's instance of it, which is a preset.
+QString queueOf(const PrinterDescription &printer)
+{
+    return printer.isBuiltIn ? printer.name : printer.name.section(u'/', 0, 0);
+}
+
+QString presetOf(const PrinterDescription &printer)
+{
+    return printer.isBuiltIn ? QString() : printer.name.section(u'/', 1);
+}
+
+} // namespace
+
+void ChoiceController::setSession(DialogSession *session)
+{
+    callout_->dismiss();
+    pending_.reset();
+    session_ = session;
+    store_.reset();
+    widgets_.presets->setNames({});
+    widgets_.presets->setEnabled(session != nullptr);
+    history_->start({});
+    if (!session)
+        return;
+    connect(session, &DialogSession::choiceRefused, this, [this](const Ruling &ruling) {
+        if (!pending_)
+            QTimer::singleShot(0, this, [this] { explainPending(nullptr); });
+        pending_ = ruling;
+    });
+    setCopies(1);
+    const QString queue = queueOf(session->printer());
+    store_ = PresetStore::open(queue, session->printer().isBuiltIn);
+    loadPresets();
+    if (const QString preset = presetOf(session->printer()); !preset.isEmpty()) {
+        usePreset(preset);
+        return;
+    }
+    QMap<QString, QString> last = QueueSettings::load(queue);
+    QStringList leftOut;
+    if (const QString sentence = takeCopies(last); !sentence.isEmpty())
+        leftOut += sentence;
+    for (const Ruling &ruling : session->restoreChoices(last))
+        leftOut += ChoiceExplanation(session->ppd()).refusal(ruling);
+    sayLeftOut(tr("Of the choices used last, some are left out:"), leftOut);
+}
+
+QString ChoiceController::keep(const JobOptions &job) const
+{
+    QMap<QString, QString> choices = job.options;
+    choices.insert(QLatin1String(copiesOption), QString::number(widgets_.copies->value()));
+    const auto failure = QueueSettings::save(queueOf(session_->printer()), choices);
+    return failure ? failure->text : QString();
+}
+
+void ChoiceController::makePresetActions()
+{
+    PresetBar *presets = widgets_.presets;
+    connect(presets, &PresetBar::chosen, this, &ChoiceController::usePreset);
+    connect(presets, &PresetBar::addRequested, this, &ChoiceController::addPreset);
+    connect(presets, &PresetBar::updateRequested, this, &ChoiceController::updatePreset);
+    connect(presets, &PresetBar::renameRequested, this, &ChoiceController::renamePreset);
+    connect(presets, &PresetBar::removeRequested, this, &ChoiceController::removePreset);
+    connect(presets, &PresetBar::aboutToChoose, this, [this] {
+        if (store_)
+            loadPresets();
+    });
+    QMenu *menu = presets->menu();
+    menu->addSeparator();
+    revert_ = menu->addAction(tr("Re&vert to How the Dialog Opened"), history_, &ChoiceHistory::revert);
+}
+
+void ChoiceController::loadPresets()
+{
+    const auto presets = store_->presets();
+    QList<PresetBar::Name> names;
+    if (presets) {
+        for (const Preset &preset : *presets)
+            names += PresetBar::Name{preset.name, preset.isWritable};
+    }
+    const QString current = widgets_.presets->current();
+    widgets_.presets->setNames(names);
+    widgets_.presets->setCurrent(current, history_->current() != presetState_);
+    if (!presets)
+        widgets_.presets->showError(presets.failure().text);
+}
+
+void ChoiceController::markPreset(const QString &name)
+{
+    presetState_ = state();
+    widgets_.presets->setCurrent(name, false);
+}
+
+void ChoiceController::usePreset(const QString &name)
+{
+    callout_->dismiss();
+    widgets_.message->clear();
+    const QStringList leftOut = restorePreset(name);
+    sayLeftOut(tr("Of the preset \"%1\", some choices are left out:").arg(name), leftOut);
+}
+
+/// Answers what is left out.
+QStringList ChoiceController::restorePreset(const QString &name)
+{
+    const auto presets = store_->presets();
+    if (!presets)
+        return {presets.failure().text};
+    const auto preset = std::ranges::find_if(
+        *presets, [&name](const Preset &each) { return PresetName::areSame(each.name, name); });
+    if (preset == presets->end()) {
+        loadPresets();
+        widgets_.presets->showError(tr("There is no preset \"%1\" any more.").arg(name));
+        return {};
+    }
+    // What the queue's own entry adds counts where it is about the printer; most of it is about something
+    // else.
+    QMap<QString, QString> choices = preset->options;
+    for (auto entry = preset->inherited.cbegin(); entry != preset->inherited.cend(); ++entry) {
+        const bool isOurs =
+            entry.key() == QLatin1String(copiesOption) || session_->ppd().hasOption(entry.key());
+        if (isOurs && !choices.contains(entry.key()))
+            choices.insert(entry.key(), entry.value());
+    }
+    QStringList leftOut;
+    if (!choices.contains(QLatin1String(copiesOption)))
+        setCopies(1);
+    if (const QString sentence = takeCopies(choices); !sentence.isEmpty())
+        leftOut += sentence;
+    const auto rulings = session_->restoreChoices(choices, DialogSession::Unnamed::Default);
+    for (const Ruling &ruling : rulings)
+        leftOut += ChoiceExplanation(session_->ppd()).refusal(ruling);
+    noteStep(false);
+    markPreset(preset->name);
+    return leftOut;
+}
+
+/// Takes the number of copies out of the choices, and shows it. A sentence when it is none.
+QString ChoiceController::takeCopies(QMap<QString, QString> &choices)
+{
+    const QString text = choices.take(QLatin1String(copiesOption));
+    if (text.isNull())
+        return {};
+    bool isNumber = false;
+    const int copies = text.toInt(&isNumber);
+    if (!isNumber || copies < widgets_.copies->minimum() || copies > widgets_.copies->maximum())
+        return tr("%1 is no number of copies.").arg(text);
+    setCopies(copies);
+    return {};
+}
+
+void ChoiceController::sayLeftOut(const QString &introduction, const QStringList &sentences)
+{
+    constexpr qsizetype most = 4;
+    if (sentences.isEmpty())
+        return;
+    QStringList lines = QStringList(introduction) + sentences.first(std::min(sentences.size(), most));
+    if (sentences.size() > most)
+        lines += tr("And %n more.", nullptr, static_cast<int>(sentences.size() - most));
+    widgets_.message->show(MessageBar::Kind::Warning, lines.join(u'\n'));
+}
+
+/// The whole set of choices of a job; nothing when they do not go together, which the user is told.
+std::optional<QMap<QString, QString>> ChoiceController::kept()
+{
+    const auto job = session_->jobOptions();
+    if (!job) {
+        explainJob();
+        return std::nullopt;
+    }
+    QMap<QString, QString> choices = job->options;
+    choices.insert(QLatin1String(copiesOption), QString::number(widgets_.copies->value()));
+    return choices;
+}
+
+void ChoiceController::addPreset(const QString &name)
+{
+    const auto choices = kept();
+    if (!choices)
+        return;
+    if (const auto failure = store_->add(name, *choices)) {
+        widgets_.presets->showError(failure->text);
+        return;
+    }
+    widgets_.presets->endEditing();
+    loadPresets();
+    markPreset(name);
+}
+
+void ChoiceController::updatePreset(const QString &name)
+{
+    const auto choices = kept();
+    if (!choices)
+        return;
+    if (const auto failure = store_->update(name, *choices))
+        widgets_.presets->showError(failure->text);
+    else
+        markPreset(name);
+}
+
+void ChoiceController::renamePreset(const QString &name, const QString &newName)
+{
+    if (const auto failure = store_->rename(name, newName)) {
+        widgets_.presets->showError(failure->text);
+        return;
+    }
+    widgets_.presets->endEditing();
+    loadPresets();
+    widgets_.presets->setCurrent(newName, history_->current() != presetState_);
+}
+
+void ChoiceController::removePreset(const QString &name)
+{
+    if (const auto failure = store_->remove(name)) {
+        widgets_.presets->showError(failure->text);
+        return;
+    }
+    widgets_.presets->endEditing();
+    loadPresets();
+}
+
+} // namespace printdialog

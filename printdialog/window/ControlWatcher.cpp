@@ -1,0 +1,96 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "ControlWatcher.h"
+
+#include "ControlAction.h"
+#include "ControlValues.h"
+#include "ViewTags.h"
+
+#include <QtGui/QFocusEvent>
+#include <QtGui/QKeyEvent>
+#include <QtWidgets/QAbstractSpinBox>
+#include <QtWidgets/QLineEdit>
+
+namespace printdialog {
+
+namespace {
+
+/// A menu or another window takes the focus for a while only.
+bool isLeft(const QEvent *event)
+{
+    const Qt::FocusReason reason = static_cast<const QFocusEvent *>(event)->reason();
+    return reason != Qt::PopupFocusReason && reason != Qt::ActiveWindowFocusReason;
+}
+
+bool canGoOn(const QWidget *control)
+{
+    return pdekit::isTextField(control) || pdekit::isSlider(control) ||
+           qobject_cast<const QAbstractSpinBox *>(control);
+}
+
+bool isUndoOrRedo(const QEvent *event)
+{
+    const auto *key = static_cast<const QKeyEvent *>(event);
+    return key->matches(QKeySequence::Undo) || key->matches(QKeySequence::Redo);
+}
+
+} // namespace
+
+void ControlWatcher::watchView(QWidget *view)
+{
+    const QList<QWidget *> widgets = view->findChildren<QWidget *>();
+    for (QWidget *widget : widgets) {
+        if (pdekit::tag(widget) != pdekit::noTag && pdekit::isControl(widget))
+            watchControl(widget);
+    }
+}
+
+void ControlWatcher::watchControl(QWidget *control)
+{
+    control->installEventFilter(this);
+    if (auto *field = qobject_cast<QLineEdit *>(control)) {
+        connect(field, &QLineEdit::textEdited, this, [this, field] { note(field); });
+        connect(field, &QLineEdit::editingFinished, this, [this, field] { note(field); });
+        return;
+    }
+    pdekit::connectAction(control, this, [this, control] { note(control); });
+}
+
+void ControlWatcher::watchField(QWidget *field)
+{
+    field->installEventFilter(this);
+}
+
+void ControlWatcher::note(QWidget *control)
+{
+    const bool goesOn = control == last_ && canGoOn(control);
+    last_ = control;
+    Q_EMIT acted(control, goesOn);
+}
+
+bool ControlWatcher::eventFilter(QObject *watched, QEvent *event)
+{
+    switch (event->type()) {
+    case QEvent::FocusOut:
+        if (watched == last_ && isLeft(event))
+            endAct();
+        break;
+    case QEvent::MouseButtonPress:
+        if (watched == last_ && pdekit::isSlider(last_))
+            endAct();
+        break;
+    case QEvent::ShortcutOverride:
+        // A text field would take the key for itself.
+        if (isUndoOrRedo(event)) {
+            event->ignore();
+            return true;
+        }
+        break;
+    default:
+        break;
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+} // namespace printdialog
