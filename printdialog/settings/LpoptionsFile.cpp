@@ -135,10 +135,8 @@ bool LpoptionsFile::set(const QString &queue, const QString &instance, const QMa
     QByteArray text;
     for (auto option = options.cbegin(); option != options.cend(); ++option)
         text += ' ' + option.key().toUtf8() + '=' + quoted(option.value().toUtf8());
-    const auto lineWith = [&](const QByteArray &keyword) {
-        return keyword + ' ' + nameOf(queue, instance) + text;
-    };
-    if (lineWith("Default").size() > longestLine)
+    const QByteArray added = "Dest " + nameOf(queue, instance) + text;
+    if (added.size() + qsizetype(sizeof "Default") > longestLine)
         return false;
     // libcups adds up the lines of one entry.
     bool isSet = false;
@@ -149,12 +147,13 @@ bool LpoptionsFile::set(const QString &queue, const QString &instance, const QMa
         } else if (isSet) {
             each = lines_.erase(each);
         } else {
-            *each = lineWith(line->keyword);
+            *each = line->keyword + ' ' + nameOf(line->queue, line->instance) + text;
             isSet = true;
+            ++each;
         }
     }
     if (!isSet)
-        lines_ += lineWith("Dest");
+        lines_ += added;
     return true;
 }
 

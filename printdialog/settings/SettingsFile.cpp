@@ -79,9 +79,10 @@ SettingsFailure SettingsFile::change(const QString &path, const Change &change)
         return after.failure();
     if (*after == *before && QFileInfo::exists(path))
         return std::nullopt;
+    // Flushed by hand: commit() does not notice that what was still in its buffer could not be written.
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly) || !file.setPermissions(ownersFile) ||
-        file.write(*after) != after->size() || !file.commit())
+        file.write(*after) != after->size() || !file.flush() || !file.commit())
         return failure(SettingsFault::NotWritable, file.errorString());
     return std::nullopt;
 }

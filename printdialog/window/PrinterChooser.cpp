@@ -79,6 +79,9 @@ void PrinterChooser::take(const Queue &queue)
 {
     const QString id = queue.id();
     const int known = indexOf(id);
+    // A queue's instances are its presets, chosen as such.
+    if (known < 0 && !queue.instance.isEmpty() && !queue.isDefault && id != wanted_)
+        return;
     if (known >= 0)
         update(known, queue);
     else

@@ -696,6 +696,10 @@ So ein Auftrag bleibt beim Druckserver; das wird gemeldet, Status 0</translation
         <source>&amp;Print</source>
         <translation>&amp;Drucken</translation>
     </message>
+    <message>
+        <source>Pr&amp;eset:</source>
+        <translation>&amp;Voreinstellung:</translation>
+    </message>
 </context>
 <context>
     <name>Queue</name>
@@ -1058,6 +1062,98 @@ So ein Auftrag bleibt beim Druckserver; das wird gemeldet, Status 0</translation
     </message>
 </context>
 <context>
+    <name>printdialog::BuiltInPresets</name>
+    <message>
+        <source>The file %1 has no presets that this version understands. Move it away.</source>
+        <translation>Die Datei %1 enthält keine Voreinstellungen, die diese Version versteht. Verschieben Sie sie.</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::ChoiceCallout</name>
+    <message>
+        <source>Dismiss (Esc)</source>
+        <translation>Ausblenden (Esc)</translation>
+    </message>
+    <message>
+        <source>Dismiss</source>
+        <translation>Ausblenden</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::ChoiceController</name>
+    <message>
+        <source>Undo</source>
+        <translation>Rückgängig</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Wiederholen</translation>
+    </message>
+    <message>
+        <source>Als&amp;o change %1</source>
+        <translation>Auch ä&amp;ndern: %1</translation>
+    </message>
+    <message>
+        <source>Chan&amp;ge %1</source>
+        <translation>Ä&amp;ndern: %1</translation>
+    </message>
+    <message>
+        <source>Of the choices used last, some are left out:</source>
+        <translation>Von den zuletzt verwendeten Einstellungen entfallen einige:</translation>
+    </message>
+    <message>
+        <source>Re&amp;vert to How the Dialog Opened</source>
+        <translation>Auf den Stand beim &amp;Öffnen zurücksetzen</translation>
+    </message>
+    <message>
+        <source>Of the preset &quot;%1&quot;, some choices are left out:</source>
+        <translation>Von der Voreinstellung „%1“ entfällt einiges:</translation>
+    </message>
+    <message>
+        <source>There is no preset &quot;%1&quot; any more.</source>
+        <translation>Die Voreinstellung „%1“ gibt es nicht mehr.</translation>
+    </message>
+    <message>
+        <source>%1 is no number of copies.</source>
+        <translation>%1 ist keine mögliche Anzahl von Exemplaren.</translation>
+    </message>
+    <message numerus="yes">
+        <source>And %n more.</source>
+        <translation>
+            <numerusform>Und %n weitere.</numerusform>
+            <numerusform>Und %n weitere.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::ChoiceExplanation</name>
+    <message>
+        <source>&quot;%1&quot; is &quot;%2&quot;</source>
+        <comment>a condition</comment>
+        <translation>„%1“ auf „%2“ steht</translation>
+    </message>
+    <message>
+        <source>%1 and %2</source>
+        <comment>two conditions</comment>
+        <translation>%1 und %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be &quot;%2&quot; while %3.</source>
+        <comment>options, choices, and conditions</comment>
+        <translation>„%1“ kann nicht „%2“ sein, solange %3.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; to &quot;%2&quot;</source>
+        <comment>change an option to a choice</comment>
+        <translation>„%1“ auf „%2“</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <comment>between the parts of a list</comment>
+        <translation>, </translation>
+    </message>
+</context>
+<context>
     <name>printdialog::HelpWindow</name>
     <message>
         <source>Help</source>
@@ -1221,6 +1317,108 @@ So ein Auftrag bleibt beim Druckserver; das wird gemeldet, Status 0</translation
     </message>
 </context>
 <context>
+    <name>printdialog::PresetBar</name>
+    <message>
+        <source>Preset</source>
+        <translation>Voreinstellung</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <comment>no preset is in use</comment>
+        <translation>Keine</translation>
+    </message>
+    <message>
+        <source>M&amp;anage</source>
+        <translation>Ver&amp;walten</translation>
+    </message>
+    <message>
+        <source>Save, rename or delete presets; go back to earlier choices</source>
+        <translation>Voreinstellungen sichern, umbenennen oder löschen; zu früheren Einstellungen zurückkehren</translation>
+    </message>
+    <message>
+        <source>Name of the preset</source>
+        <translation>Name der Voreinstellung</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Löschen</translation>
+    </message>
+    <message>
+        <source>Save &amp;As…</source>
+        <translation>Sichern &amp;unter…</translation>
+    </message>
+    <message>
+        <source>&amp;Rename…</source>
+        <translation>U&amp;mbenennen…</translation>
+    </message>
+    <message>
+        <source>&amp;Delete…</source>
+        <translation>&amp;Löschen…</translation>
+    </message>
+    <message>
+        <source>%1 (changed)</source>
+        <translation>%1 (geändert)</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Sichern</translation>
+    </message>
+    <message>
+        <source>&amp;Save &quot;%1&quot;</source>
+        <translation>„%1“ &amp;sichern</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Sichern</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>Umbenennen</translation>
+    </message>
+    <message>
+        <source>Delete &quot;%1&quot;?</source>
+        <translation>„%1“ löschen?</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::PresetName</name>
+    <message>
+        <source>A preset needs a name.</source>
+        <translation>Eine Voreinstellung braucht einen Namen.</translation>
+    </message>
+    <message>
+        <source>The name is too long: CUPS allows %1 bytes.</source>
+        <translation>Der Name ist zu lang: CUPS erlaubt %1 Bytes.</translation>
+    </message>
+    <message>
+        <source>A preset&apos;s name may have letters, digits and signs, but no space and none of / \ ? &apos; &quot; #.</source>
+        <translation>Der Name darf Buchstaben, Ziffern und Zeichen enthalten, aber kein Leerzeichen und keines von / \ ? ' " #.</translation>
+    </message>
+    <message>
+        <source>%1 Try &quot;%2&quot;.</source>
+        <translation>%1 Versuchen Sie „%2“.</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::PresetStore</name>
+    <message>
+        <source>There is a preset &quot;%1&quot; already. Choose another name.</source>
+        <translation>Es gibt schon eine Voreinstellung „%1“. Wählen Sie einen anderen Namen.</translation>
+    </message>
+    <message>
+        <source>There is no preset &quot;%1&quot; any more. Save it under a new name.</source>
+        <translation>Die Voreinstellung „%1“ gibt es nicht mehr. Sichern Sie sie unter einem neuen Namen.</translation>
+    </message>
+    <message>
+        <source>The preset &quot;%1&quot; is the system&apos;s. Save one of your own under a new name.</source>
+        <translation>Die Voreinstellung „%1“ gehört zum System. Sichern Sie eine eigene unter einem neuen Namen.</translation>
+    </message>
+</context>
+<context>
     <name>printdialog::PreviewWidget</name>
     <message>
         <source>Preview of %1</source>
@@ -1366,10 +1564,10 @@ So ein Auftrag bleibt beim Druckserver; das wird gemeldet, Status 0</translation
     </message>
 </context>
 <context>
-    <name>printdialog::QueueSettings</name>
+    <name>printdialog::QueuePresets</name>
     <message>
-        <source>The settings for &quot;%1&quot; could not be saved in %2: %3. Make room there, or make it writable.</source>
-        <translation>Die Einstellungen für „%1“ konnten nicht in %2 gespeichert werden: %3. Schaffen Sie dort Platz oder Schreibrechte.</translation>
+        <source>The preset &quot;%1&quot; is not saved: with %2 options it is longer than the %3 bytes that CUPS reads. Save the settings instead.</source>
+        <translation>Die Voreinstellung „%1“ wird nicht gesichert: Mit %2 Optionen ist sie länger als die %3 Bytes, die CUPS liest. Speichern Sie stattdessen die Einstellungen.</translation>
     </message>
 </context>
 <context>
@@ -1405,6 +1603,37 @@ So ein Auftrag bleibt beim Druckserver; das wird gemeldet, Status 0</translation
     <message>
         <source>%1 (job %2) is not printed yet: %3. The print server keeps it; &quot;cancel %2&quot; takes it back.</source>
         <translation>%1 (Auftrag %2) ist noch nicht gedruckt: %3. Der Druckserver behält ihn; „cancel %2“ nimmt ihn zurück.</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::SettingsFile</name>
+    <message>
+        <source>The file %1 cannot be read: %2. Make it readable, or move it away.</source>
+        <translation>Die Datei %1 kann nicht gelesen werden: %2. Machen Sie sie lesbar, oder verschieben Sie sie.</translation>
+    </message>
+    <message>
+        <source>it is no file</source>
+        <translation>es ist keine Datei</translation>
+    </message>
+    <message>
+        <source>it is too large</source>
+        <translation>sie ist zu groß</translation>
+    </message>
+    <message>
+        <source>Nothing could be saved in %1: %2. Make room there, or make it writable.</source>
+        <translation>In %1 konnte nichts gespeichert werden: %2. Schaffen Sie dort Platz, oder machen Sie es beschreibbar.</translation>
+    </message>
+    <message>
+        <source>the folder cannot be made</source>
+        <translation>der Ordner kann nicht angelegt werden</translation>
+    </message>
+    <message>
+        <source>the folder cannot be written</source>
+        <translation>in den Ordner kann nicht geschrieben werden</translation>
+    </message>
+    <message>
+        <source>Nothing could be saved in %1: another program is writing there. Try again.</source>
+        <translation>In %1 konnte nichts gespeichert werden: Ein anderes Programm schreibt gerade dort. Versuchen Sie es noch einmal.</translation>
     </message>
 </context>
 <context>

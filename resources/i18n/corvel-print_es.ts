@@ -696,6 +696,10 @@ queda en el servidor de impresión, se avisa y el código de salida es 0</transl
         <source>&amp;Print</source>
         <translation>&amp;Imprimir</translation>
     </message>
+    <message>
+        <source>Pr&amp;eset:</source>
+        <translation>Prea&amp;juste:</translation>
+    </message>
 </context>
 <context>
     <name>Queue</name>
@@ -1058,6 +1062,98 @@ queda en el servidor de impresión, se avisa y el código de salida es 0</transl
     </message>
 </context>
 <context>
+    <name>printdialog::BuiltInPresets</name>
+    <message>
+        <source>The file %1 has no presets that this version understands. Move it away.</source>
+        <translation>El archivo %1 no contiene preajustes que esta versión entienda. Muévalo a otro lugar.</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::ChoiceCallout</name>
+    <message>
+        <source>Dismiss (Esc)</source>
+        <translation>Ocultar (Esc)</translation>
+    </message>
+    <message>
+        <source>Dismiss</source>
+        <translation>Ocultar</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::ChoiceController</name>
+    <message>
+        <source>Undo</source>
+        <translation>Deshacer</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Rehacer</translation>
+    </message>
+    <message>
+        <source>Als&amp;o change %1</source>
+        <translation>Cambiar ta&amp;mbién: %1</translation>
+    </message>
+    <message>
+        <source>Chan&amp;ge %1</source>
+        <translation>Cam&amp;biar: %1</translation>
+    </message>
+    <message>
+        <source>Of the choices used last, some are left out:</source>
+        <translation>De los últimos ajustes usados, algunos se omiten:</translation>
+    </message>
+    <message>
+        <source>Re&amp;vert to How the Dialog Opened</source>
+        <translation>&amp;Volver al estado inicial</translation>
+    </message>
+    <message>
+        <source>Of the preset &quot;%1&quot;, some choices are left out:</source>
+        <translation>Del preajuste «%1» se omiten algunas opciones:</translation>
+    </message>
+    <message>
+        <source>There is no preset &quot;%1&quot; any more.</source>
+        <translation>El preajuste «%1» ya no existe.</translation>
+    </message>
+    <message>
+        <source>%1 is no number of copies.</source>
+        <translation>%1 no es un número de copias posible.</translation>
+    </message>
+    <message numerus="yes">
+        <source>And %n more.</source>
+        <translation>
+            <numerusform>Y %n más.</numerusform>
+            <numerusform>Y %n más.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::ChoiceExplanation</name>
+    <message>
+        <source>&quot;%1&quot; is &quot;%2&quot;</source>
+        <comment>a condition</comment>
+        <translation>«%1» está en «%2»</translation>
+    </message>
+    <message>
+        <source>%1 and %2</source>
+        <comment>two conditions</comment>
+        <translation>%1 y %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be &quot;%2&quot; while %3.</source>
+        <comment>options, choices, and conditions</comment>
+        <translation>«%1» no puede ser «%2» mientras %3.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; to &quot;%2&quot;</source>
+        <comment>change an option to a choice</comment>
+        <translation>«%1» a «%2»</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <comment>between the parts of a list</comment>
+        <translation>, </translation>
+    </message>
+</context>
+<context>
     <name>printdialog::HelpWindow</name>
     <message>
         <source>Help</source>
@@ -1221,6 +1317,108 @@ queda en el servidor de impresión, se avisa y el código de salida es 0</transl
     </message>
 </context>
 <context>
+    <name>printdialog::PresetBar</name>
+    <message>
+        <source>Preset</source>
+        <translation>Preajuste</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <comment>no preset is in use</comment>
+        <translation>Ninguno</translation>
+    </message>
+    <message>
+        <source>M&amp;anage</source>
+        <translation>Gesti&amp;onar</translation>
+    </message>
+    <message>
+        <source>Save, rename or delete presets; go back to earlier choices</source>
+        <translation>Guardar, renombrar o eliminar preajustes; volver a opciones anteriores</translation>
+    </message>
+    <message>
+        <source>Name of the preset</source>
+        <translation>Nombre del preajuste</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Eliminar</translation>
+    </message>
+    <message>
+        <source>Save &amp;As…</source>
+        <translation>Guardar &amp;como…</translation>
+    </message>
+    <message>
+        <source>&amp;Rename…</source>
+        <translation>&amp;Renombrar…</translation>
+    </message>
+    <message>
+        <source>&amp;Delete…</source>
+        <translation>&amp;Eliminar…</translation>
+    </message>
+    <message>
+        <source>%1 (changed)</source>
+        <translation>%1 (modificado)</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Guardar</translation>
+    </message>
+    <message>
+        <source>&amp;Save &quot;%1&quot;</source>
+        <translation>&amp;Guardar «%1»</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Guardar</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>Renombrar</translation>
+    </message>
+    <message>
+        <source>Delete &quot;%1&quot;?</source>
+        <translation>¿Eliminar «%1»?</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::PresetName</name>
+    <message>
+        <source>A preset needs a name.</source>
+        <translation>Un preajuste necesita un nombre.</translation>
+    </message>
+    <message>
+        <source>The name is too long: CUPS allows %1 bytes.</source>
+        <translation>El nombre es demasiado largo: CUPS permite %1 bytes.</translation>
+    </message>
+    <message>
+        <source>A preset&apos;s name may have letters, digits and signs, but no space and none of / \ ? &apos; &quot; #.</source>
+        <translation>El nombre puede tener letras, dígitos y signos, pero no espacios ni / \ ? ' " #.</translation>
+    </message>
+    <message>
+        <source>%1 Try &quot;%2&quot;.</source>
+        <translation>%1 Pruebe con «%2».</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::PresetStore</name>
+    <message>
+        <source>There is a preset &quot;%1&quot; already. Choose another name.</source>
+        <translation>Ya hay un preajuste «%1». Elija otro nombre.</translation>
+    </message>
+    <message>
+        <source>There is no preset &quot;%1&quot; any more. Save it under a new name.</source>
+        <translation>El preajuste «%1» ya no existe. Guárdelo con un nombre nuevo.</translation>
+    </message>
+    <message>
+        <source>The preset &quot;%1&quot; is the system&apos;s. Save one of your own under a new name.</source>
+        <translation>El preajuste «%1» es del sistema. Guarde uno propio con un nombre nuevo.</translation>
+    </message>
+</context>
+<context>
     <name>printdialog::PreviewWidget</name>
     <message>
         <source>Preview of %1</source>
@@ -1366,10 +1564,10 @@ queda en el servidor de impresión, se avisa y el código de salida es 0</transl
     </message>
 </context>
 <context>
-    <name>printdialog::QueueSettings</name>
+    <name>printdialog::QueuePresets</name>
     <message>
-        <source>The settings for &quot;%1&quot; could not be saved in %2: %3. Make room there, or make it writable.</source>
-        <translation>No se han podido guardar los ajustes de «%1» en %2: %3. Libere espacio allí o permita la escritura.</translation>
+        <source>The preset &quot;%1&quot; is not saved: with %2 options it is longer than the %3 bytes that CUPS reads. Save the settings instead.</source>
+        <translation>El preajuste «%1» no se guarda: con %2 opciones supera los %3 bytes que CUPS lee. Guarde los ajustes en su lugar.</translation>
     </message>
 </context>
 <context>
@@ -1405,6 +1603,37 @@ queda en el servidor de impresión, se avisa y el código de salida es 0</transl
     <message>
         <source>%1 (job %2) is not printed yet: %3. The print server keeps it; &quot;cancel %2&quot; takes it back.</source>
         <translation>%1 (trabajo %2) no está impreso todavía: %3. El servidor de impresión lo conserva; «cancel %2» lo retira.</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::SettingsFile</name>
+    <message>
+        <source>The file %1 cannot be read: %2. Make it readable, or move it away.</source>
+        <translation>El archivo %1 no se puede leer: %2. Hágalo legible o muévalo a otro lugar.</translation>
+    </message>
+    <message>
+        <source>it is no file</source>
+        <translation>no es un archivo</translation>
+    </message>
+    <message>
+        <source>it is too large</source>
+        <translation>es demasiado grande</translation>
+    </message>
+    <message>
+        <source>Nothing could be saved in %1: %2. Make room there, or make it writable.</source>
+        <translation>No se pudo guardar nada en %1: %2. Libere espacio o permita escribir ahí.</translation>
+    </message>
+    <message>
+        <source>the folder cannot be made</source>
+        <translation>no se puede crear la carpeta</translation>
+    </message>
+    <message>
+        <source>the folder cannot be written</source>
+        <translation>no se puede escribir en la carpeta</translation>
+    </message>
+    <message>
+        <source>Nothing could be saved in %1: another program is writing there. Try again.</source>
+        <translation>No se pudo guardar nada en %1: otro programa está escribiendo ahí. Inténtelo de nuevo.</translation>
     </message>
 </context>
 <context>

@@ -696,6 +696,10 @@ alors au serveur d’impression, ce qui est signalé, avec le code 0</translatio
         <source>&amp;Print</source>
         <translation>&amp;Imprimer</translation>
     </message>
+    <message>
+        <source>Pr&amp;eset:</source>
+        <translation>Prérég&amp;lage :</translation>
+    </message>
 </context>
 <context>
     <name>Queue</name>
@@ -1058,6 +1062,98 @@ alors au serveur d’impression, ce qui est signalé, avec le code 0</translatio
     </message>
 </context>
 <context>
+    <name>printdialog::BuiltInPresets</name>
+    <message>
+        <source>The file %1 has no presets that this version understands. Move it away.</source>
+        <translation>Le fichier %1 ne contient pas de préréglages que cette version comprend. Déplacez-le.</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::ChoiceCallout</name>
+    <message>
+        <source>Dismiss (Esc)</source>
+        <translation>Masquer (Échap)</translation>
+    </message>
+    <message>
+        <source>Dismiss</source>
+        <translation>Masquer</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::ChoiceController</name>
+    <message>
+        <source>Undo</source>
+        <translation>Annuler la dernière action</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Rétablir</translation>
+    </message>
+    <message>
+        <source>Als&amp;o change %1</source>
+        <translation>Modifier a&amp;ussi : %1</translation>
+    </message>
+    <message>
+        <source>Chan&amp;ge %1</source>
+        <translation>&amp;Modifier : %1</translation>
+    </message>
+    <message>
+        <source>Of the choices used last, some are left out:</source>
+        <translation>Parmi les derniers réglages utilisés, certains ne sont pas repris :</translation>
+    </message>
+    <message>
+        <source>Re&amp;vert to How the Dialog Opened</source>
+        <translation>Re&amp;venir à l’état d’ouverture</translation>
+    </message>
+    <message>
+        <source>Of the preset &quot;%1&quot;, some choices are left out:</source>
+        <translation>Certains choix du préréglage « %1 » ne sont pas repris :</translation>
+    </message>
+    <message>
+        <source>There is no preset &quot;%1&quot; any more.</source>
+        <translation>Le préréglage « %1 » n’existe plus.</translation>
+    </message>
+    <message>
+        <source>%1 is no number of copies.</source>
+        <translation>%1 n’est pas un nombre de copies possible.</translation>
+    </message>
+    <message numerus="yes">
+        <source>And %n more.</source>
+        <translation>
+            <numerusform>Et %n autre.</numerusform>
+            <numerusform>Et %n autres.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::ChoiceExplanation</name>
+    <message>
+        <source>&quot;%1&quot; is &quot;%2&quot;</source>
+        <comment>a condition</comment>
+        <translation>« %1 » est sur « %2 »</translation>
+    </message>
+    <message>
+        <source>%1 and %2</source>
+        <comment>two conditions</comment>
+        <translation>%1 et que %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be &quot;%2&quot; while %3.</source>
+        <comment>options, choices, and conditions</comment>
+        <translation>« %1 » ne peut pas être « %2 » tant que %3.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; to &quot;%2&quot;</source>
+        <comment>change an option to a choice</comment>
+        <translation>« %1 » en « %2 »</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <comment>between the parts of a list</comment>
+        <translation>, </translation>
+    </message>
+</context>
+<context>
     <name>printdialog::HelpWindow</name>
     <message>
         <source>Help</source>
@@ -1221,6 +1317,108 @@ alors au serveur d’impression, ce qui est signalé, avec le code 0</translatio
     </message>
 </context>
 <context>
+    <name>printdialog::PresetBar</name>
+    <message>
+        <source>Preset</source>
+        <translation>Préréglage</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <comment>no preset is in use</comment>
+        <translation>Aucun</translation>
+    </message>
+    <message>
+        <source>M&amp;anage</source>
+        <translation>&amp;Gérer</translation>
+    </message>
+    <message>
+        <source>Save, rename or delete presets; go back to earlier choices</source>
+        <translation>Enregistrer, renommer ou supprimer des préréglages, revenir à des choix antérieurs</translation>
+    </message>
+    <message>
+        <source>Name of the preset</source>
+        <translation>Nom du préréglage</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Supprimer</translation>
+    </message>
+    <message>
+        <source>Save &amp;As…</source>
+        <translation>Enregistrer &amp;sous…</translation>
+    </message>
+    <message>
+        <source>&amp;Rename…</source>
+        <translation>&amp;Renommer…</translation>
+    </message>
+    <message>
+        <source>&amp;Delete…</source>
+        <translation>S&amp;upprimer…</translation>
+    </message>
+    <message>
+        <source>%1 (changed)</source>
+        <translation>%1 (modifié)</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Enregistrer</translation>
+    </message>
+    <message>
+        <source>&amp;Save &quot;%1&quot;</source>
+        <translation>&amp;Enregistrer « %1 »</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Enregistrer</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>Renommer</translation>
+    </message>
+    <message>
+        <source>Delete &quot;%1&quot;?</source>
+        <translation>Supprimer « %1 » ?</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::PresetName</name>
+    <message>
+        <source>A preset needs a name.</source>
+        <translation>Un préréglage doit avoir un nom.</translation>
+    </message>
+    <message>
+        <source>The name is too long: CUPS allows %1 bytes.</source>
+        <translation>Le nom est trop long : CUPS autorise %1 octets.</translation>
+    </message>
+    <message>
+        <source>A preset&apos;s name may have letters, digits and signs, but no space and none of / \ ? &apos; &quot; #.</source>
+        <translation>Le nom peut contenir des lettres, des chiffres et des signes, mais ni espace ni / \ ? ' " #.</translation>
+    </message>
+    <message>
+        <source>%1 Try &quot;%2&quot;.</source>
+        <translation>%1 Essayez « %2 ».</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::PresetStore</name>
+    <message>
+        <source>There is a preset &quot;%1&quot; already. Choose another name.</source>
+        <translation>Il existe déjà un préréglage « %1 ». Choisissez un autre nom.</translation>
+    </message>
+    <message>
+        <source>There is no preset &quot;%1&quot; any more. Save it under a new name.</source>
+        <translation>Le préréglage « %1 » n’existe plus. Enregistrez-le sous un nouveau nom.</translation>
+    </message>
+    <message>
+        <source>The preset &quot;%1&quot; is the system&apos;s. Save one of your own under a new name.</source>
+        <translation>Le préréglage « %1 » est celui du système. Enregistrez le vôtre sous un nouveau nom.</translation>
+    </message>
+</context>
+<context>
     <name>printdialog::PreviewWidget</name>
     <message>
         <source>Preview of %1</source>
@@ -1366,10 +1564,10 @@ alors au serveur d’impression, ce qui est signalé, avec le code 0</translatio
     </message>
 </context>
 <context>
-    <name>printdialog::QueueSettings</name>
+    <name>printdialog::QueuePresets</name>
     <message>
-        <source>The settings for &quot;%1&quot; could not be saved in %2: %3. Make room there, or make it writable.</source>
-        <translation>Les réglages de «&#x202f;%1&#x202f;» n’ont pas pu être enregistrés dans %2&#x202f;: %3. Libérez-y de la place ou rendez-le accessible en écriture.</translation>
+        <source>The preset &quot;%1&quot; is not saved: with %2 options it is longer than the %3 bytes that CUPS reads. Save the settings instead.</source>
+        <translation>Le préréglage « %1 » n’est pas enregistré : avec %2 options, il dépasse les %3 octets que CUPS lit. Enregistrez plutôt les réglages.</translation>
     </message>
 </context>
 <context>
@@ -1405,6 +1603,37 @@ alors au serveur d’impression, ce qui est signalé, avec le code 0</translatio
     <message>
         <source>%1 (job %2) is not printed yet: %3. The print server keeps it; &quot;cancel %2&quot; takes it back.</source>
         <translation>%1 (tâche %2) n’est pas encore imprimée&#xa0;: %3. Le serveur d’impression la garde&#xa0;; «&#xa0;cancel %2&#xa0;» la retire.</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::SettingsFile</name>
+    <message>
+        <source>The file %1 cannot be read: %2. Make it readable, or move it away.</source>
+        <translation>Le fichier %1 ne peut pas être lu : %2. Rendez-le lisible ou déplacez-le.</translation>
+    </message>
+    <message>
+        <source>it is no file</source>
+        <translation>ce n’est pas un fichier</translation>
+    </message>
+    <message>
+        <source>it is too large</source>
+        <translation>il est trop gros</translation>
+    </message>
+    <message>
+        <source>Nothing could be saved in %1: %2. Make room there, or make it writable.</source>
+        <translation>Rien n’a pu être enregistré dans %1 : %2. Libérez de la place ou rendez l’emplacement accessible en écriture.</translation>
+    </message>
+    <message>
+        <source>the folder cannot be made</source>
+        <translation>le dossier ne peut pas être créé</translation>
+    </message>
+    <message>
+        <source>the folder cannot be written</source>
+        <translation>le dossier n’est pas accessible en écriture</translation>
+    </message>
+    <message>
+        <source>Nothing could be saved in %1: another program is writing there. Try again.</source>
+        <translation>Rien n’a pu être enregistré dans %1 : un autre programme y écrit en ce moment. Réessayez.</translation>
     </message>
 </context>
 <context>

@@ -696,6 +696,10 @@ job stays with the print server, and that is told, with exit status 0</source>
         <source>&amp;Print</source>
         <translation>印刷(&amp;P)</translation>
     </message>
+    <message>
+        <source>Pr&amp;eset:</source>
+        <translation>プリセット(&amp;E):</translation>
+    </message>
 </context>
 <context>
     <name>Queue</name>
@@ -1058,6 +1062,97 @@ job stays with the print server, and that is told, with exit status 0</source>
     </message>
 </context>
 <context>
+    <name>printdialog::BuiltInPresets</name>
+    <message>
+        <source>The file %1 has no presets that this version understands. Move it away.</source>
+        <translation>ファイル %1 のプリセットはこのバージョンでは読み取れません。別の場所に移動してください。</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::ChoiceCallout</name>
+    <message>
+        <source>Dismiss (Esc)</source>
+        <translation>閉じる (Esc)</translation>
+    </message>
+    <message>
+        <source>Dismiss</source>
+        <translation>閉じる</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::ChoiceController</name>
+    <message>
+        <source>Undo</source>
+        <translation>元に戻す</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>やり直す</translation>
+    </message>
+    <message>
+        <source>Als&amp;o change %1</source>
+        <translation>あわせて%1変更(&amp;O)</translation>
+    </message>
+    <message>
+        <source>Chan&amp;ge %1</source>
+        <translation>%1変更(&amp;G)</translation>
+    </message>
+    <message>
+        <source>Of the choices used last, some are left out:</source>
+        <translation>前回使用した設定のうち、次のものは適用されませんでした:</translation>
+    </message>
+    <message>
+        <source>Re&amp;vert to How the Dialog Opened</source>
+        <translation>開いたときの状態に戻す(&amp;V)</translation>
+    </message>
+    <message>
+        <source>Of the preset &quot;%1&quot;, some choices are left out:</source>
+        <translation>プリセット「%1」のうち、次のものは適用されませんでした:</translation>
+    </message>
+    <message>
+        <source>There is no preset &quot;%1&quot; any more.</source>
+        <translation>プリセット「%1」はもうありません。</translation>
+    </message>
+    <message>
+        <source>%1 is no number of copies.</source>
+        <translation>%1 は部数として使えません。</translation>
+    </message>
+    <message numerus="yes">
+        <source>And %n more.</source>
+        <translation>
+            <numerusform>ほか %n 件。</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::ChoiceExplanation</name>
+    <message>
+        <source>&quot;%1&quot; is &quot;%2&quot;</source>
+        <comment>a condition</comment>
+        <translation>「%1」が「%2」</translation>
+    </message>
+    <message>
+        <source>%1 and %2</source>
+        <comment>two conditions</comment>
+        <translation>%1、%2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be &quot;%2&quot; while %3.</source>
+        <comment>options, choices, and conditions</comment>
+        <translation>%3の間は、「%1」を「%2」にできません。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; to &quot;%2&quot;</source>
+        <comment>change an option to a choice</comment>
+        <translation>「%1」を「%2」に</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <comment>between the parts of a list</comment>
+        <translation>、</translation>
+    </message>
+</context>
+<context>
     <name>printdialog::HelpWindow</name>
     <message>
         <source>Help</source>
@@ -1221,6 +1316,108 @@ job stays with the print server, and that is told, with exit status 0</source>
     </message>
 </context>
 <context>
+    <name>printdialog::PresetBar</name>
+    <message>
+        <source>Preset</source>
+        <translation>プリセット</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <comment>no preset is in use</comment>
+        <translation>なし</translation>
+    </message>
+    <message>
+        <source>M&amp;anage</source>
+        <translation>管理(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Save, rename or delete presets; go back to earlier choices</source>
+        <translation>プリセットの保存、名前の変更、削除、以前の設定に戻す操作</translation>
+    </message>
+    <message>
+        <source>Name of the preset</source>
+        <translation>プリセットの名前</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>削除</translation>
+    </message>
+    <message>
+        <source>Save &amp;As…</source>
+        <translation>名前を付けて保存(&amp;A)…</translation>
+    </message>
+    <message>
+        <source>&amp;Rename…</source>
+        <translation>名前の変更(&amp;R)…</translation>
+    </message>
+    <message>
+        <source>&amp;Delete…</source>
+        <translation>削除(&amp;D)…</translation>
+    </message>
+    <message>
+        <source>%1 (changed)</source>
+        <translation>%1 (変更あり)</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>保存(&amp;S)</translation>
+    </message>
+    <message>
+        <source>&amp;Save &quot;%1&quot;</source>
+        <translation>「%1」を保存(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>保存</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>変更</translation>
+    </message>
+    <message>
+        <source>Delete &quot;%1&quot;?</source>
+        <translation>「%1」を削除しますか?</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::PresetName</name>
+    <message>
+        <source>A preset needs a name.</source>
+        <translation>プリセットには名前が必要です。</translation>
+    </message>
+    <message>
+        <source>The name is too long: CUPS allows %1 bytes.</source>
+        <translation>名前が長すぎます。CUPS で使えるのは %1 バイトまでです。</translation>
+    </message>
+    <message>
+        <source>A preset&apos;s name may have letters, digits and signs, but no space and none of / \ ? &apos; &quot; #.</source>
+        <translation>名前には文字、数字、記号を使えますが、空白と / \ ? ' " # は使えません。</translation>
+    </message>
+    <message>
+        <source>%1 Try &quot;%2&quot;.</source>
+        <translation>%1「%2」ではどうでしょうか。</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::PresetStore</name>
+    <message>
+        <source>There is a preset &quot;%1&quot; already. Choose another name.</source>
+        <translation>プリセット「%1」はすでにあります。別の名前を選んでください。</translation>
+    </message>
+    <message>
+        <source>There is no preset &quot;%1&quot; any more. Save it under a new name.</source>
+        <translation>プリセット「%1」はもうありません。新しい名前で保存してください。</translation>
+    </message>
+    <message>
+        <source>The preset &quot;%1&quot; is the system&apos;s. Save one of your own under a new name.</source>
+        <translation>プリセット「%1」はシステムのものです。新しい名前で自分用に保存してください。</translation>
+    </message>
+</context>
+<context>
     <name>printdialog::PreviewWidget</name>
     <message>
         <source>Preview of %1</source>
@@ -1365,10 +1562,10 @@ job stays with the print server, and that is told, with exit status 0</source>
     </message>
 </context>
 <context>
-    <name>printdialog::QueueSettings</name>
+    <name>printdialog::QueuePresets</name>
     <message>
-        <source>The settings for &quot;%1&quot; could not be saved in %2: %3. Make room there, or make it writable.</source>
-        <translation>「%1」の設定を %2 に保存できませんでした: %3。空き容量を増やすか、書き込めるようにしてください。</translation>
+        <source>The preset &quot;%1&quot; is not saved: with %2 options it is longer than the %3 bytes that CUPS reads. Save the settings instead.</source>
+        <translation>プリセット「%1」は保存されません。オプションが %2 個あり、CUPS が読み取れる %3 バイトを超えています。代わりに設定を保存してください。</translation>
     </message>
 </context>
 <context>
@@ -1404,6 +1601,37 @@ job stays with the print server, and that is told, with exit status 0</source>
     <message>
         <source>%1 (job %2) is not printed yet: %3. The print server keeps it; &quot;cancel %2&quot; takes it back.</source>
         <translation>%1（ジョブ %2）はまだ印刷されていません: %3。ジョブはプリントサーバーに残ります。「cancel %2」で取り消せます。</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::SettingsFile</name>
+    <message>
+        <source>The file %1 cannot be read: %2. Make it readable, or move it away.</source>
+        <translation>ファイル %1 を読み取れません: %2。読み取れるようにするか、別の場所に移動してください。</translation>
+    </message>
+    <message>
+        <source>it is no file</source>
+        <translation>ファイルではありません</translation>
+    </message>
+    <message>
+        <source>it is too large</source>
+        <translation>大きすぎます</translation>
+    </message>
+    <message>
+        <source>Nothing could be saved in %1: %2. Make room there, or make it writable.</source>
+        <translation>%1 に保存できませんでした: %2。空き容量を作るか、書き込めるようにしてください。</translation>
+    </message>
+    <message>
+        <source>the folder cannot be made</source>
+        <translation>フォルダーを作成できません</translation>
+    </message>
+    <message>
+        <source>the folder cannot be written</source>
+        <translation>フォルダーに書き込めません</translation>
+    </message>
+    <message>
+        <source>Nothing could be saved in %1: another program is writing there. Try again.</source>
+        <translation>%1 に保存できませんでした。別のプログラムが書き込み中です。もう一度お試しください。</translation>
     </message>
 </context>
 <context>

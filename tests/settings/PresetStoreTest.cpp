@@ -1,0 +1,289 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "BuiltInPresets.h"
+#include "LpoptionsFile.h"
+#include "QueuePresets.h"
+#include "QueueSettings.h"
+
+#include <QtCore/QDir>
+#include <QtCore/QFile>
+#include <QtCore/QFileInfo>
+#include <QtCore/QLockFile>
+#include <QtCore/QScopeGuard>
+#include <QtCore/QTemporaryDir>
+#include <QtTest/QTest>
+
+#include <cups/cups.h>
+#include <cups/file.h>
+
+#include <array>
+#include <csignal>
+#include <sys/resource.h>
+#include <thread>
+
+using namespace printdialog;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using Options = QMap<QString, QString>;
+
+QByteArray content(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+void write(const QString &path, const QByteArray &text)
+{
+    QDir().mkpath(QFileInfo(path).path());
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size())
+        qFatal("cannot write %s", qPrintable(path));
+}
+
+/// The options of one destination, read with the parts of libcups that read its own file.
+Options readByCups(const QString &path, const QByteArray &destination)
+{
+    Options read;
+    cups_file_t *file = cupsFileOpen(QFile::encodeName(path).constData(), "r");
+    std::array<char, 8192> line = {};
+    char *value = nullptr;
+    int number = 0;
+    while (file && cupsFileGetConf(file, line.data(), line.size(), &value, &number)) {
+        const QByteArray words = value ? value : "";
+        if (!words.startsWith(destination + ' '))
+            continue;
+        cups_option_t *options = nullptr;
+        const int count = cupsParseOptions(words.constData() + destination.size(), 0, &options);
+        for (int i = 0; i < count; ++i)
+            read.insert(QString::fromUtf8(options[i].name), QString::fromUtf8(options[i].value));
+        cupsFreeOptions(count, options);
+    }
+    if (file)
+        cupsFileClose(file);
+    return read;
+}
+
+QStringList namesOf(const PresetStore &store)
+{
+    QStringList names;
+    const auto presets = store.presets();
+    if (presets) {
+        for (const Preset &preset : *presets)
+            names += preset.name;
+    }
+    return names;
+}
+
+} // namespace
+
+/// The files of presets and settings: what stays in them, and what becomes of them when something goes wrong.
+class PresetStoreTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void othersStayByteForByte();
+    void valuesComeBackAsCupsReadsThem();
+    void aTakenOrLostNameIsRefused();
+    void systemPresetsAreReadOnly();
+    void tooLongForCups();
+    void twoDialogsLoseNothing();
+    void failedWriteLeavesTheOldFile();
+    void unreadableFileIsNotWrittenOver();
+    void waitsNoLongerThanASecond();
+    void filesAreTheOwners();
+
+private:
+    std::unique_ptr<QTemporaryDir> home_;
+};
+
+void PresetStoreTest::init()
+{
+    home_ = std::make_unique<QTemporaryDir>();
+    qputenv("HOME", QFile::encodeName(home_->path()));
+    qputenv("XDG_CONFIG_HOME", QFile::encodeName(home_->filePath(u"config"_s)));
+    qputenv("CUPS_SERVERROOT", QFile::encodeName(home_->filePath(u"system"_s)));
+}
+
+void PresetStoreTest::othersStayByteForByte()
+{
+    const QByteArray others = "# mine\nDest office sides=two-sided-long-edge  media=A4\n\n"
+                              "Dest photo Stray=1 # why\nDefault office/draft  x='a b'\n"
+                              "Dest photo2/warm Red=1\ndest photo/Keep   odd=\"a \\\" b\"\nnonsense line\n";
+    write(QueuePresets::userFile(), others);
+    QueuePresets store(u"photo"_s);
+    QCOMPARE(namesOf(store), QStringList{u"Keep"_s});
+    QVERIFY(!store.add(u"warm"_s, {{u"Red"_s, u"5"_s}}));
+    QCOMPARE(content(QueuePresets::userFile()), others + "Dest photo/warm Red=5\n");
+    QVERIFY(!store.update(u"WARM"_s, {{u"Red"_s, u"6"_s}}));
+    QCOMPARE(content(QueuePresets::userFile()), others + "Dest photo/warm Red=6\n");
+    QVERIFY(!store.rename(u"warm"_s, u"hot"_s));
+    QCOMPARE(content(QueuePresets::userFile()), others + "Dest photo/hot Red=6\n");
+    QVERIFY(!store.rename(u"Keep"_s, u"kept"_s));
+    QVERIFY(content(QueuePresets::userFile()).contains("dest photo/kept odd=\"a \\\" b\"\n"));
+    QVERIFY(!store.rename(u"kept"_s, u"Keep"_s) && !store.remove(u"hot"_s));
+    QCOMPARE(content(QueuePresets::userFile()), QByteArray(others).replace("Keep   odd", "Keep odd"));
+    const auto presets = store.presets();
+    QCOMPARE(presets->constFirst().options, (Options{{u"odd"_s, u"a \" b"_s}}));
+    QCOMPARE(presets->constFirst().inherited, (Options{{u"Stray"_s, u"1"_s}}));
+}
+
+void PresetStoreTest::valuesComeBackAsCupsReadsThem()
+{
+    const Options options = {{u"Red"_s, u"-5"_s},
+                             {u"Gamma"_s, u"1.00"_s},
+                             {u"A"_s, u"two words"_s},
+                             {u"B"_s, u"a#b#c"_s},
+                             {u"C"_s, u"\"q\" 'r'"_s},
+                             {u"D"_s, u"back\\slash\\"_s},
+                             {u"E"_s, u"{x=y}"_s},
+                             {u"F"_s, u"a,b"_s},
+                             {u"G"_s, u"Glänzend 光沢"_s},
+                             {u"PageSize"_s, u"4x6.Fullbleed"_s},
+                             {u"H"_s, u"\\#"_s}};
+    QueuePresets store(u"photo"_s);
+    QVERIFY(!store.add(u"光沢"_s, options));
+    QCOMPARE(readByCups(QueuePresets::userFile(), u"photo/光沢"_s.toUtf8()), options);
+    QCOMPARE(store.presets()->constFirst().options, options);
+}
+
+void PresetStoreTest::aTakenOrLostNameIsRefused()
+{
+    QueuePresets queue(u"photo"_s);
+    BuiltInPresets builtIn;
+    for (PresetStore *store : {static_cast<PresetStore *>(&queue), static_cast<PresetStore *>(&builtIn)}) {
+        QVERIFY(!store->add(u"warm"_s, {{u"Red"_s, u"5"_s}}) && !store->add(u"cold"_s, {}));
+        QCOMPARE(store->add(u"Warm"_s, {})->reason, SettingsFault::NameTaken);
+        QCOMPARE(store->rename(u"cold"_s, u"WARM"_s)->reason, SettingsFault::NameTaken);
+        QCOMPARE(store->rename(u"gone"_s, u"new"_s)->reason, SettingsFault::NotThere);
+        QCOMPARE(store->update(u"gone"_s, {})->reason, SettingsFault::NotThere);
+        QCOMPARE(store->remove(u"gone"_s)->reason, SettingsFault::NotThere);
+        QCOMPARE(store->add(u"a b"_s, {})->reason, SettingsFault::BadName);
+        QVERIFY(!store->rename(u"warm"_s, u"Warm"_s)); // only its case
+        QCOMPARE(namesOf(*store), (QStringList{u"cold"_s, u"Warm"_s}));
+        QCOMPARE(store->presets()->constLast().options, (Options{{u"Red"_s, u"5"_s}}));
+    }
+}
+
+void PresetStoreTest::systemPresetsAreReadOnly()
+{
+    write(QueuePresets::systemFile(), "Dest photo Blue=2\nDest photo/house Red=1\n");
+    QueuePresets store(u"photo"_s);
+    QCOMPARE(namesOf(store), QStringList{u"house"_s});
+    QCOMPARE(store.presets()->constFirst().inherited, (Options{{u"Blue"_s, u"2"_s}}));
+    QCOMPARE(store.update(u"house"_s, {})->reason, SettingsFault::ReadOnly);
+    QCOMPARE(store.remove(u"house"_s)->reason, SettingsFault::ReadOnly);
+    QCOMPARE(store.add(u"house"_s, {})->reason, SettingsFault::NameTaken);
+    QVERIFY(!QFile::exists(QueuePresets::userFile()));
+}
+
+void PresetStoreTest::tooLongForCups()
+{
+    Options options;
+    for (int i = 0; i < 500; ++i)
+        options.insert(u"Option%1"_s.arg(i), QString(20, u'x'));
+    QueuePresets store(u"photo"_s);
+    QCOMPARE(store.add(u"long"_s, options)->reason, SettingsFault::TooLong);
+    QCOMPARE(content(QueuePresets::userFile()), QByteArray());
+}
+
+void PresetStoreTest::twoDialogsLoseNothing()
+{
+    constexpr int each = 15;
+    const auto work = [](const QString &prefix) {
+        QueuePresets store(u"photo"_s);
+        BuiltInPresets builtIn;
+        for (int i = 0; i < each; ++i) {
+            if (store.add(prefix + QString::number(i), {{u"Red"_s, u"1"_s}}) ||
+                builtIn.add(prefix + QString::number(i), {{u"Red"_s, u"1"_s}}))
+                return;
+        }
+    };
+    std::thread one(work, u"one"_s);
+    std::thread two(work, u"two"_s);
+    one.join();
+    two.join();
+    QCOMPARE(namesOf(QueuePresets(u"photo"_s)).size(), 2 * each);
+    QCOMPARE(namesOf(BuiltInPresets()).size(), 2 * each);
+    QCOMPARE(QDir(QFileInfo(QueuePresets::userFile()).path()).entryList(QDir::Files | QDir::Hidden),
+             QStringList{u"lpoptions"_s});
+}
+
+// As on a disk that is full: the write stops in the middle.
+void PresetStoreTest::failedWriteLeavesTheOldFile()
+{
+    QueuePresets store(u"photo"_s);
+    QVERIFY(!store.add(u"first"_s, {{u"Red"_s, QString(100, u'x')}}));
+    const QByteArray before = content(QueuePresets::userFile());
+    const auto handler = std::signal(SIGXFSZ, SIG_IGN);
+    rlimit limit = {};
+    getrlimit(RLIMIT_FSIZE, &limit);
+    const auto back = qScopeGuard([limit, handler] {
+        setrlimit(RLIMIT_FSIZE, &limit);
+        std::signal(SIGXFSZ, handler);
+    });
+    const rlimit small = {static_cast<rlim_t>(before.size() + 40), limit.rlim_max};
+    setrlimit(RLIMIT_FSIZE, &small);
+    const auto failure = store.add(u"second"_s, {{u"Red"_s, QString(3000, u'y')}});
+    setrlimit(RLIMIT_FSIZE, &limit);
+    QVERIFY(failure);
+    QCOMPARE(failure->reason, SettingsFault::NotWritable);
+    QVERIFY2(failure->text.contains(QueuePresets::userFile()), qPrintable(failure->text));
+    QCOMPARE(content(QueuePresets::userFile()), before);
+    QCOMPARE(QDir(QFileInfo(QueuePresets::userFile()).path()).entryList(QDir::Files | QDir::Hidden),
+             QStringList{u"lpoptions"_s});
+}
+
+void PresetStoreTest::unreadableFileIsNotWrittenOver()
+{
+    QVERIFY(QDir().mkpath(QueuePresets::userFile())); // a folder in the file's place
+    QueuePresets queue(u"photo"_s);
+    QCOMPARE(queue.presets().failure().reason, SettingsFault::NotReadable);
+    QCOMPARE(queue.add(u"warm"_s, {})->reason, SettingsFault::NotReadable);
+    BuiltInPresets builtIn;
+    for (const QByteArray other : {"{\"version\": 2, \"presets\": {}}", "not JSON"}) {
+        write(BuiltInPresets::file(), other);
+        QCOMPARE(builtIn.add(u"warm"_s, {})->reason, SettingsFault::NotReadable);
+        QCOMPARE(content(BuiltInPresets::file()), other);
+    }
+    write(home_->filePath(u"blocked"_s), {});
+    qputenv("XDG_CONFIG_HOME", QFile::encodeName(home_->filePath(u"blocked"_s)));
+    QCOMPARE(QueueSettings::save(u"photo"_s, {})->reason, SettingsFault::NotWritable);
+}
+
+void PresetStoreTest::waitsNoLongerThanASecond()
+{
+    QueuePresets store(u"photo"_s);
+    QVERIFY(!store.add(u"warm"_s, {}));
+    QLockFile other(QueuePresets::userFile() + u".lock"_s);
+    QVERIFY(other.lock());
+    QElapsedTimer timer;
+    timer.start();
+    QCOMPARE(store.add(u"cold"_s, {})->reason, SettingsFault::Busy);
+    QVERIFY(timer.elapsed() < 3000);
+    other.unlock();
+    QVERIFY(!store.add(u"cold"_s, {}));
+}
+
+void PresetStoreTest::filesAreTheOwners()
+{
+    write(QueuePresets::userFile(), "Dest photo Red=1\n");
+    QFile::setPermissions(QueuePresets::userFile(), QFile::ReadOwner | QFile::WriteOwner | QFile::ReadOther);
+    QVERIFY(!QueuePresets(u"photo"_s).add(u"warm"_s, {}));
+    QVERIFY(!BuiltInPresets().add(u"warm"_s, {}));
+    QVERIFY(!QueueSettings::save(u"photo"_s, {{u"Red"_s, u"1"_s}}));
+    QCOMPARE(QueueSettings::load(u"photo"_s), (Options{{u"Red"_s, u"1"_s}}));
+    QCOMPARE(QueueSettings::load(u"other"_s), Options());
+    for (const QString &path :
+         {QueuePresets::userFile(), BuiltInPresets::file(), QueueSettings::fileFor(u"photo"_s)}) {
+        const auto others = QFile::ReadGroup | QFile::WriteGroup | QFile::ReadOther | QFile::WriteOther;
+        QVERIFY2(!(QFileInfo(path).permissions() & others), qPrintable(path));
+    }
+}
+
+QTEST_GUILESS_MAIN(PresetStoreTest)
+#include "PresetStoreTest.moc"
