@@ -119,7 +119,7 @@ private:
     bool isRemembered_ = false; ///< it comes from an earlier time, and the print server has not confirmed it
     bool wasChosen_ = false;    ///< by the user, this time or an earlier one
     QString whyNotReady_;       ///< why Print is off; empty when it is on
-    QString notKept_;     ///< why the choices are not kept for the next time; mostly empty
+    QString notKept_;           ///< why the choices are not kept for the next time; mostly empty
 };
 
 } // namespace printdialog

@@ -175,12 +175,14 @@ void PrintDialog::reopen(std::unique_ptr<DialogSession> session)
     const bool wasShown = session_ != nullptr;
     if (wasShown)
         kept = ownChoices(*session_);
+    const int copies = ui_->copies->value();
     isRemembered_ = false;
     takeSession(std::move(session));
     if (wasShown) {
-        session_->restoreChoices(kept);
-        session_->refreshPanels();
+        session_->restoreChoices(kept, DialogSession::Unnamed::Default);
+        ui_->copies->setValue(copies);
         fillPageSizes();
+        choices_->start();
         ui_->message->show(
             MessageBar::Kind::Warning,
             tr("The options of \"%1\" have changed. Your choices were kept as far as the printer "

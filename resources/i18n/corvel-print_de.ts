@@ -1396,7 +1396,7 @@ So ein Auftrag bleibt beim Druckserver; das wird gemeldet, Status 0</translation
     </message>
     <message>
         <source>A preset&apos;s name may have letters, digits and signs, but no space and none of / \ ? &apos; &quot; #.</source>
-        <translation>Der Name darf Buchstaben, Ziffern und Zeichen enthalten, aber kein Leerzeichen und keines von / \ ? ' " #.</translation>
+        <translation>Der Name darf Buchstaben, Ziffern und Zeichen enthalten, aber kein Leerzeichen und keines von / \ ? &apos; &quot; #.</translation>
     </message>
     <message>
         <source>%1 Try &quot;%2&quot;.</source>

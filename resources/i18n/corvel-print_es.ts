@@ -1396,7 +1396,7 @@ queda en el servidor de impresión, se avisa y el código de salida es 0</transl
     </message>
     <message>
         <source>A preset&apos;s name may have letters, digits and signs, but no space and none of / \ ? &apos; &quot; #.</source>
-        <translation>El nombre puede tener letras, dígitos y signos, pero no espacios ni / \ ? ' " #.</translation>
+        <translation>El nombre puede tener letras, dígitos y signos, pero no espacios ni / \ ? &apos; &quot; #.</translation>
     </message>
     <message>
         <source>%1 Try &quot;%2&quot;.</source>

@@ -698,7 +698,7 @@ alors au serveur d’impression, ce qui est signalé, avec le code 0</translatio
     </message>
     <message>
         <source>Pr&amp;eset:</source>
-        <translation>Prérég&amp;lage :</translation>
+        <translation>Prérég&amp;lage&#x202f;:</translation>
     </message>
 </context>
 <context>
@@ -1091,15 +1091,15 @@ alors au serveur d’impression, ce qui est signalé, avec le code 0</translatio
     </message>
     <message>
         <source>Als&amp;o change %1</source>
-        <translation>Modifier a&amp;ussi : %1</translation>
+        <translation>Modifier a&amp;ussi&#x202f;: %1</translation>
     </message>
     <message>
         <source>Chan&amp;ge %1</source>
-        <translation>&amp;Modifier : %1</translation>
+        <translation>&amp;Modifier&#x202f;: %1</translation>
     </message>
     <message>
         <source>Of the choices used last, some are left out:</source>
-        <translation>Parmi les derniers réglages utilisés, certains ne sont pas repris :</translation>
+        <translation>Parmi les derniers réglages utilisés, certains ne sont pas repris&#x202f;:</translation>
     </message>
     <message>
         <source>Re&amp;vert to How the Dialog Opened</source>
@@ -1107,11 +1107,11 @@ alors au serveur d’impression, ce qui est signalé, avec le code 0</translatio
     </message>
     <message>
         <source>Of the preset &quot;%1&quot;, some choices are left out:</source>
-        <translation>Certains choix du préréglage « %1 » ne sont pas repris :</translation>
+        <translation>Certains choix du préréglage «&#x202f;%1&#x202f;» ne sont pas repris&#x202f;:</translation>
     </message>
     <message>
         <source>There is no preset &quot;%1&quot; any more.</source>
-        <translation>Le préréglage « %1 » n’existe plus.</translation>
+        <translation>Le préréglage «&#x202f;%1&#x202f;» n’existe plus.</translation>
     </message>
     <message>
         <source>%1 is no number of copies.</source>
@@ -1130,7 +1130,7 @@ alors au serveur d’impression, ce qui est signalé, avec le code 0</translatio
     <message>
         <source>&quot;%1&quot; is &quot;%2&quot;</source>
         <comment>a condition</comment>
-        <translation>« %1 » est sur « %2 »</translation>
+        <translation>«&#x202f;%1&#x202f;» est sur «&#x202f;%2&#x202f;»</translation>
     </message>
     <message>
         <source>%1 and %2</source>
@@ -1140,12 +1140,12 @@ alors au serveur d’impression, ce qui est signalé, avec le code 0</translatio
     <message>
         <source>&quot;%1&quot; cannot be &quot;%2&quot; while %3.</source>
         <comment>options, choices, and conditions</comment>
-        <translation>« %1 » ne peut pas être « %2 » tant que %3.</translation>
+        <translation>«&#x202f;%1&#x202f;» ne peut pas être «&#x202f;%2&#x202f;» tant que %3.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; to &quot;%2&quot;</source>
         <comment>change an option to a choice</comment>
-        <translation>« %1 » en « %2 »</translation>
+        <translation>«&#x202f;%1&#x202f;» en «&#x202f;%2&#x202f;»</translation>
     </message>
     <message>
         <source>, </source>
@@ -1369,7 +1369,7 @@ alors au serveur d’impression, ce qui est signalé, avec le code 0</translatio
     </message>
     <message>
         <source>&amp;Save &quot;%1&quot;</source>
-        <translation>&amp;Enregistrer « %1 »</translation>
+        <translation>&amp;Enregistrer «&#x202f;%1&#x202f;»</translation>
     </message>
     <message>
         <source>Save</source>
@@ -1381,7 +1381,7 @@ alors au serveur d’impression, ce qui est signalé, avec le code 0</translatio
     </message>
     <message>
         <source>Delete &quot;%1&quot;?</source>
-        <translation>Supprimer « %1 » ?</translation>
+        <translation>Supprimer «&#x202f;%1&#x202f;»&#x202f;?</translation>
     </message>
 </context>
 <context>
@@ -1392,30 +1392,30 @@ alors au serveur d’impression, ce qui est signalé, avec le code 0</translatio
     </message>
     <message>
         <source>The name is too long: CUPS allows %1 bytes.</source>
-        <translation>Le nom est trop long : CUPS autorise %1 octets.</translation>
+        <translation>Le nom est trop long&#x202f;: CUPS autorise %1 octets.</translation>
     </message>
     <message>
         <source>A preset&apos;s name may have letters, digits and signs, but no space and none of / \ ? &apos; &quot; #.</source>
-        <translation>Le nom peut contenir des lettres, des chiffres et des signes, mais ni espace ni / \ ? ' " #.</translation>
+        <translation>Le nom peut contenir des lettres, des chiffres et des signes, mais ni espace ni / \&#x202f;? &apos; &quot; #.</translation>
     </message>
     <message>
         <source>%1 Try &quot;%2&quot;.</source>
-        <translation>%1 Essayez « %2 ».</translation>
+        <translation>%1 Essayez «&#x202f;%2&#x202f;».</translation>
     </message>
 </context>
 <context>
     <name>printdialog::PresetStore</name>
     <message>
         <source>There is a preset &quot;%1&quot; already. Choose another name.</source>
-        <translation>Il existe déjà un préréglage « %1 ». Choisissez un autre nom.</translation>
+        <translation>Il existe déjà un préréglage «&#x202f;%1&#x202f;». Choisissez un autre nom.</translation>
     </message>
     <message>
         <source>There is no preset &quot;%1&quot; any more. Save it under a new name.</source>
-        <translation>Le préréglage « %1 » n’existe plus. Enregistrez-le sous un nouveau nom.</translation>
+        <translation>Le préréglage «&#x202f;%1&#x202f;» n’existe plus. Enregistrez-le sous un nouveau nom.</translation>
     </message>
     <message>
         <source>The preset &quot;%1&quot; is the system&apos;s. Save one of your own under a new name.</source>
-        <translation>Le préréglage « %1 » est celui du système. Enregistrez le vôtre sous un nouveau nom.</translation>
+        <translation>Le préréglage «&#x202f;%1&#x202f;» est celui du système. Enregistrez le vôtre sous un nouveau nom.</translation>
     </message>
 </context>
 <context>
@@ -1500,11 +1500,11 @@ alors au serveur d’impression, ce qui est signalé, avec le code 0</translatio
     </message>
     <message>
         <source>The print server has not confirmed yet that the printer &quot;%1&quot; is there.</source>
-        <translation>Le serveur d’impression n’a pas encore confirmé la présence de l’imprimante « %1 ».</translation>
+        <translation>Le serveur d’impression n’a pas encore confirmé la présence de l’imprimante «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>The options of &quot;%1&quot; have changed. Your choices were kept as far as the printer still has them; look at them before you print.</source>
-        <translation>Les options de « %1 » ont changé. Vos choix ont été conservés dans la mesure où l’imprimante les a encore ; vérifiez-les avant d’imprimer.</translation>
+        <translation>Les options de «&#xa0;%1&#xa0;» ont changé. Vos choix ont été conservés dans la mesure où l’imprimante les a encore&#xa0;; vérifiez-les avant d’imprimer.</translation>
     </message>
 </context>
 <context>
@@ -1522,15 +1522,15 @@ alors au serveur d’impression, ce qui est signalé, avec le code 0</translatio
     <name>printdialog::PrintWorker</name>
     <message>
         <source>Writing %1</source>
-        <translation>Écriture de %1</translation>
+        <translation>Écriture de&#xa0;%1</translation>
     </message>
     <message>
         <source>Sending %1 to %2</source>
-        <translation>Envoi de %1 à %2</translation>
+        <translation>Envoi de&#xa0;%1 à&#xa0;%2</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation>%1 : %2</translation>
+        <translation>%1&#xa0;:&#xa0;%2</translation>
     </message>
     <message>
         <source>Printing was stopped.</source>
@@ -1556,7 +1556,7 @@ alors au serveur d’impression, ce qui est signalé, avec le code 0</translatio
     <name>printdialog::PrinterStatus</name>
     <message>
         <source>One of %1; its options are those of the first.</source>
-        <translation>Une parmi %1 ; ses options sont celles de la première.</translation>
+        <translation>Une parmi&#xa0;%1&#xa0;; ses options sont celles de la première.</translation>
     </message>
     <message>
         <source>The print server is being asked for this printer.</source>
@@ -1567,7 +1567,7 @@ alors au serveur d’impression, ce qui est signalé, avec le code 0</translatio
     <name>printdialog::QueuePresets</name>
     <message>
         <source>The preset &quot;%1&quot; is not saved: with %2 options it is longer than the %3 bytes that CUPS reads. Save the settings instead.</source>
-        <translation>Le préréglage « %1 » n’est pas enregistré : avec %2 options, il dépasse les %3 octets que CUPS lit. Enregistrez plutôt les réglages.</translation>
+        <translation>Le préréglage «&#x202f;%1&#x202f;» n’est pas enregistré&#x202f;: avec %2 options, il dépasse les %3 octets que CUPS lit. Enregistrez plutôt les réglages.</translation>
     </message>
 </context>
 <context>
@@ -1609,7 +1609,7 @@ alors au serveur d’impression, ce qui est signalé, avec le code 0</translatio
     <name>printdialog::SettingsFile</name>
     <message>
         <source>The file %1 cannot be read: %2. Make it readable, or move it away.</source>
-        <translation>Le fichier %1 ne peut pas être lu : %2. Rendez-le lisible ou déplacez-le.</translation>
+        <translation>Le fichier %1 ne peut pas être lu&#x202f;: %2. Rendez-le lisible ou déplacez-le.</translation>
     </message>
     <message>
         <source>it is no file</source>
@@ -1621,7 +1621,7 @@ alors au serveur d’impression, ce qui est signalé, avec le code 0</translatio
     </message>
     <message>
         <source>Nothing could be saved in %1: %2. Make room there, or make it writable.</source>
-        <translation>Rien n’a pu être enregistré dans %1 : %2. Libérez de la place ou rendez l’emplacement accessible en écriture.</translation>
+        <translation>Rien n’a pu être enregistré dans %1&#x202f;: %2. Libérez de la place ou rendez l’emplacement accessible en écriture.</translation>
     </message>
     <message>
         <source>the folder cannot be made</source>
@@ -1633,7 +1633,7 @@ alors au serveur d’impression, ce qui est signalé, avec le code 0</translatio
     </message>
     <message>
         <source>Nothing could be saved in %1: another program is writing there. Try again.</source>
-        <translation>Rien n’a pu être enregistré dans %1 : un autre programme y écrit en ce moment. Réessayez.</translation>
+        <translation>Rien n’a pu être enregistré dans %1&#x202f;: un autre programme y écrit en ce moment. Réessayez.</translation>
     </message>
 </context>
 <context>

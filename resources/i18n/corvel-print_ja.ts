@@ -1395,7 +1395,7 @@ job stays with the print server, and that is told, with exit status 0</source>
     </message>
     <message>
         <source>A preset&apos;s name may have letters, digits and signs, but no space and none of / \ ? &apos; &quot; #.</source>
-        <translation>名前には文字、数字、記号を使えますが、空白と / \ ? ' " # は使えません。</translation>
+        <translation>名前には文字、数字、記号を使えますが、空白と / \ ? &apos; &quot; # は使えません。</translation>
     </message>
     <message>
         <source>%1 Try &quot;%2&quot;.</source>

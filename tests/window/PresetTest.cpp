@@ -9,6 +9,7 @@
 
 #include <QtCore/QDir>
 #include <QtCore/QFile>
+#include <QtCore/QRegularExpression>
 #include <QtTest/QTest>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QComboBox>
@@ -155,7 +156,8 @@ int PresetTest::print(const OpenedDialog &opened) const
 {
     opened.dialog->print();
     const auto id = [&opened] {
-        return opened.dialog->message().section(u'\n', 0, 0).section(u' ', -1).toInt();
+        static const QRegularExpression job(u"job (\\d+)"_s);
+        return job.match(opened.dialog->message()).captured(1).toInt();
     };
     return QTest::qWaitFor([&id] { return id() > 0; }) && cupsd_.waitForJob(id()) ? id() : 0;
 }

@@ -175,7 +175,9 @@ void PrintDialogTest::pageSize()
 void PrintDialogTest::help()
 {
     const OpenedDialog opened(PanelMode::Constraint);
-    const auto dialogsHelp = [&opened] { return opened.dialog->findChild<HelpWindow *>(); };
+    const auto dialogsHelp = [&opened] {
+        return opened.dialog->findChild<HelpWindow *>();
+    };
     QTest::keyClick(opened.dialog.get(), Qt::Key_F1);
     QCOMPARE(feedback_->helpBooks, QStringList{u"Corvel9031Help"_s});
     QVERIFY(!dialogsHelp());
