@@ -24,5 +24,7 @@ void benchPanels();
 /// Launching the backend, beside a bare posix_spawn of the same.
 void benchRunner();
 
-/// A 24-megapixel JPEG to PDF.
+/// Photos of three sizes to PDF, beside img2pdf, with the memory that it takes.
 void benchPdf();
+/// What such a process does: prints the photo into the folder once.
+int runPdfChild(const QString &path, const QString &folder);

@@ -14,6 +14,8 @@ int main(int argc, char *argv[])
         qputenv("CORVEL_PDE_PATH", CORVEL_PDE_BUILD_DIR);
     QApplication application(argc, argv);
     const QStringList arguments = QApplication::arguments();
+    if (arguments.value(1) == QLatin1String("--child") && arguments.value(2) == QLatin1String("pdf"))
+        return runPdfChild(arguments.value(3), arguments.value(4));
     if (arguments.value(1) == QLatin1String("--child"))
         return arguments.value(2) == QLatin1String("queues") ? runQueueChild(arguments.value(3).toInt())
                                                              : runOpeningChild(arguments.value(2));
