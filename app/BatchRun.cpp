@@ -62,6 +62,7 @@ int BatchRun::run()
     PrintJob job;
     job.printer = (*session)->printer().name;
     job.page = {page->points, page->imageable};
+    job.placement = commandLine_.placement;
     job.options = options->options;
     job.summary = summaryOf(summary);
     const PrinterDescription &printer = (*session)->printer();

@@ -39,6 +39,15 @@ constexpr std::array optionRows = {
                                 "or check all choices together before printing (settings)")},
     OptionRow{"o,option", "KEY=CHOICE",
               QT_TRANSLATE_NOOP("CommandLine", "choose for an option of the printer; repeatable, in order")},
+    OptionRow{"scaling", "fit|fill|actual",
+              QT_TRANSLATE_NOOP("CommandLine",
+                                "the whole photo on the page (fit, the default), the page filled\n"
+                                "and the photo cropped (fill), or the photo by its file's resolution\n"
+                                "(actual; 300 pixels per inch when the file names none)")},
+    OptionRow{"crop", "X,Y",
+              QT_TRANSLATE_NOOP("CommandLine",
+                                "which part of a cropped photo is kept, in per cent from its left\n"
+                                "and from its top (otherwise 50,50, the middle)")},
     OptionRow{"output", "DIR",
               QT_TRANSLATE_NOOP("CommandLine", "where the built-in printer leaves its files\n"
                                                "(otherwise the current folder)")},
@@ -144,6 +153,48 @@ Fault readWait(const QCommandLineParser &parser, std::optional<std::chrono::seco
     return std::nullopt;
 }
 
+Fault readScaling(const QCommandLineParser &parser, Scaling &scaling)
+{
+    std::optional<QString> name;
+    if (Fault found = readValue(parser, "scaling", name); found || !name)
+        return found;
+    if (*name == QLatin1String("fill"))
+        scaling = Scaling::Fill;
+    else if (*name == QLatin1String("actual"))
+        scaling = Scaling::ActualSize;
+    else if (*name != QLatin1String("fit"))
+        return fault(UsageFault::Value,
+                     Text::tr("There is no scaling \"%1\"; it is fit, fill or actual.").arg(*name));
+    return std::nullopt;
+}
+
+/// Behind readScaling().
+Fault readCrop(const QCommandLineParser &parser, PlacementChoice &placement)
+{
+    std::optional<QString> value;
+    if (Fault found = readValue(parser, "crop", value); found || !value)
+        return found;
+    const QStringList parts = value->split(u',');
+    bool isLeftNumber = false;
+    bool isTopNumber = false;
+    const double left = parts.value(0).toDouble(&isLeftNumber);
+    const double top = parts.value(1).toDouble(&isTopNumber);
+    const auto isPerCent = [](double number) {
+        return number >= 0 && number <= 100;
+    };
+    if (parts.size() != 2 || !isLeftNumber || !isTopNumber || !isPerCent(left) || !isPerCent(top)) {
+        return fault(
+            UsageFault::Value,
+            Text::tr("\"%1\" is no crop; it is two numbers from 0 to 100, such as 50,0.").arg(*value));
+    }
+    if (placement.scaling == Scaling::Fit) {
+        return fault(UsageFault::Combination,
+                     Text::tr("--crop is for --scaling fill or actual; with fit nothing is cropped."));
+    }
+    placement.crop = QPointF(left, top) / 100;
+    return std::nullopt;
+}
+
 Fault readChoices(const QCommandLineParser &parser, QList<RequestedChoice> &choices)
 {
     const QStringList values = parser.values(QStringLiteral("option"));
@@ -238,6 +289,7 @@ Result<CommandLine, UsageFault> CommandLine::parse(const QStringList &arguments)
          {readValue(parser, "printer", line.printer), readValue(parser, "ppd", line.ppd),
           readValue(parser, "output", output), readValue(parser, "screenshot", line.screenshot),
           readServer(parser, line.server), readWait(parser, line.wait), readMode(parser, line.mode),
+          readScaling(parser, line.placement.scaling), readCrop(parser, line.placement),
           readChoices(parser, line.options), contradiction(line)}) {
         if (found)
             return *found;

@@ -26,6 +26,7 @@ Result<PrintDialogSetup, PhotoFault> windowSetup(const CommandLine &commandLine)
     setup.ppdFile = commandLine.ppd;
     for (const RequestedChoice &option : commandLine.options)
         setup.options.append({option.key, option.choice});
+    setup.placement = commandLine.placement;
     setup.outputFolder = commandLine.output;
     return setup;
 }

@@ -4,6 +4,7 @@
 #include "BatchRun.h"
 #include "CommandLine.h"
 #include "Console.h"
+#include "FileName.h"
 #include "Listings.h"
 #include "QuietFeedback.h"
 #include "ScreenshotRun.h"
@@ -120,7 +121,7 @@ int main(int argc, char *argv[])
     Console::prepareStreams();
     QStringList arguments;
     for (int i = 0; i < argc; ++i)
-        arguments.append(QString::fromLocal8Bit(argv[i]));
+        arguments.append(fileNameFromBytes(argv[i]));
     argc = 1; // none of them is meant for Qt
 
     qInstallMessageHandler(takeQtMessage);

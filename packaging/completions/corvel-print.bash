@@ -42,6 +42,13 @@ _corvel_print()
             COMPREPLY=($(compgen -W "constraint settings" -- "$cur"))
             return
             ;;
+        --scaling)
+            COMPREPLY=($(compgen -W "fit fill actual" -- "$cur"))
+            return
+            ;;
+        --crop)
+            return
+            ;;
         --ppd)
             _filedir '@(ppd|PPD)'
             return
@@ -65,6 +72,6 @@ _corvel_print()
     if [[ $cur == -* ]]; then
         COMPREPLY=($(compgen -W "$(_parse_help "$1")" -- "$cur"))
     else
-        _filedir '@(jp?(e)g|JP?(E)G|png|PNG|tif?(f)|TIF?(F)|webp|WEBP|bmp|BMP|gif|GIF|p[bgp]m|P[BGP]M)'
+        _filedir '@(jp?(e)g|JP?(E)G|png|PNG|tif?(f)|TIF?(F)|webp|WEBP|hei[cf]|HEI[CF]|avif|AVIF|bmp|BMP|gif|GIF|p[bgp]m|P[BGP]M)'
     fi
 } && complete -F _corvel_print corvel-print

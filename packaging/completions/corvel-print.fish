@@ -29,6 +29,8 @@ end
 complete -c corvel-print -l printer -x -a '(corvel-print --list-printers 2>/dev/null | cut -f1,2)' -d 'A print queue, or the built-in printer'
 complete -c corvel-print -l ppd -r -d 'The built-in printer, with this PPD instead of its own'
 complete -c corvel-print -l mode -x -a 'constraint settings' -d 'When a conflicting choice is refused'
+complete -c corvel-print -l scaling -x -a 'fit fill actual' -d 'How large the photo is on the page'
+complete -c corvel-print -l crop -x -d 'Which part of a cropped photo is kept'
 complete -c corvel-print -s o -l option -x -a '(__corvel_print_choices)' -d 'Choose for an option of the printer'
 complete -c corvel-print -l output -x -a '(__fish_complete_directories)' -d 'Where the built-in printer leaves its files'
 complete -c corvel-print -l batch -d 'No window: apply the options, print, exit'

@@ -4,9 +4,9 @@
 #include "AtomicFiles.h"
 
 #include "DescriptorDevice.h"
+#include "FileName.h"
 
 #include <QtCore/QDir>
-#include <QtCore/QFile>
 #include <QtCore/QLoggingCategory>
 #include <QtCore/QRandomGenerator>
 
@@ -35,7 +35,7 @@ QByteArray hiddenName()
 /// Removes what a program that was killed has left under a hidden name: no file keeps one for long.
 void removeStale(const QString &folder)
 {
-    DIR *entries = ::opendir(QFile::encodeName(folder).constData());
+    DIR *entries = ::opendir(bytesOfFileName(folder).constData());
     if (!entries)
         return;
     while (const dirent *entry = ::readdir(entries)) {
@@ -61,10 +61,12 @@ AtomicFiles::~AtomicFiles()
 Result<AtomicFiles, OutputFault> AtomicFiles::open(const QString &folder)
 {
     AtomicFiles files;
-    files.folder_ = QDir::cleanPath(QDir(folder).absolutePath());
+    // By the text alone: QDir itself would make another name of one that is not UTF-8.
+    const bool isAbsolute = folder.startsWith(QLatin1Char('/'));
+    files.folder_ = QDir::cleanPath(isAbsolute ? folder : QDir::currentPath() + QLatin1Char('/') + folder);
     if (const int error = files.makeFolders())
         return outputFailure(error, files.folder_);
-    files.descriptor_ = pdekit::FileDescriptor(::open(QFile::encodeName(files.folder_).constData(),
+    files.descriptor_ = pdekit::FileDescriptor(::open(bytesOfFileName(files.folder_).constData(),
                                                       O_RDONLY | O_DIRECTORY | O_CLOEXEC | O_NONBLOCK));
     if (!files.descriptor_.isOpen())
         return outputFailure(errno, files.folder_);
@@ -76,11 +78,11 @@ int AtomicFiles::makeFolders()
 {
     std::vector<QByteArray> missing;
     struct stat status = {};
-    for (QString path = folder_; ::stat(QFile::encodeName(path).constData(), &status) != 0;
+    for (QString path = folder_; ::stat(bytesOfFileName(path).constData(), &status) != 0;
          path.truncate(std::max<qsizetype>(1, path.lastIndexOf(QLatin1Char('/'))))) {
         if (errno != ENOENT || path.size() <= 1)
             return errno;
-        missing.push_back(QFile::encodeName(path));
+        missing.push_back(bytesOfFileName(path));
     }
     for (auto path = missing.rbegin(); path != missing.rend(); ++path) {
         if (::mkdir(path->constData(), 0777) == 0)
@@ -95,7 +97,7 @@ Result<QIODevice *, OutputFault> AtomicFiles::add(const QString &name, Access ac
 {
     Q_ASSERT(!name.isEmpty() && !name.contains(QLatin1Char('/')));
     File file;
-    file.name = QFile::encodeName(name);
+    file.name = bytesOfFileName(name);
     // A name that is too long is better known before the work than after it.
     struct stat status = {};
     if (::fstatat(descriptor_.number(), file.name.constData(), &status, AT_SYMLINK_NOFOLLOW) != 0 &&
@@ -120,7 +122,8 @@ Result<QIODevice *, OutputFault> AtomicFiles::add(const QString &name, Access ac
 
 QString AtomicFiles::pathOf(const QByteArray &name) const
 {
-    return QDir(folder_).filePath(QFile::decodeName(name));
+    return (folder_.endsWith(QLatin1Char('/')) ? folder_ : folder_ + QLatin1Char('/')) +
+           fileNameFromBytes(name);
 }
 
 std::optional<Failure<OutputFault>> AtomicFiles::writeFailure() const

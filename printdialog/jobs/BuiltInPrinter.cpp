@@ -58,7 +58,7 @@ Result<PrintedFiles, OutputFault> BuiltInPrinter::print(const Photo &photo, cons
     if (!ticket)
         return ticket.failure();
 
-    const auto written = PdfWriter::write(photo, job.page, **pdf);
+    const auto written = PdfWriter::write(photo, job.page, **pdf, job.placement);
     if (auto failure = files->writeFailure())
         return *failure;
     if (!written)

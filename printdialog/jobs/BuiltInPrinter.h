@@ -6,6 +6,7 @@
 #include "OutputFault.h"
 #include "PageGeometry.h"
 #include "Photo.h"
+#include "PhotoPlacement.h"
 #include "PrintedNames.h"
 #include "QueueTerms.h"
 #include "Result.h"
@@ -20,6 +21,7 @@ struct PrintJob
 {
     QString printer; ///< The printer's name.
     PageGeometry page;
+    PlacementChoice placement;      ///< Of the photo on the page.
     QMap<QString, QString> options; ///< Option keyword to choice keyword.
     QMap<QString, QString> summary; ///< What people are shown: label to text.
     int copies = 1;

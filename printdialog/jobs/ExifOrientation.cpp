@@ -4,41 +4,6 @@
 #include "ExifOrientation.h"
 
 namespace printdialog {
-namespace {
-
-constexpr quint32 orientationTag = 0x0112;
-constexpr quint32 typeShort = 3;
-constexpr qsizetype entrySize = 12;
-
-/// Numbers of a TIFF block in its own byte order; nothing outside the block.
-class TiffNumbers
-{
-public:
-    explicit TiffNumbers(QByteArrayView block)
-        : block_(block)
-        , isBigEndian_(block.startsWith(QByteArrayView("MM\0*", 4)))
-    {
-    }
-
-    bool isTiff() const { return isBigEndian_ || block_.startsWith(QByteArrayView("II*\0", 4)); }
-
-    /// The number of that many bytes, or 0 where the block has ended.
-    quint32 at(qsizetype offset, int bytes) const
-    {
-        if (offset < 0 || offset > block_.size() - bytes)
-            return 0;
-        quint32 number = 0;
-        for (int i = 0; i < bytes; ++i)
-            number = number << 8 | static_cast<quint8>(block_[offset + (isBigEndian_ ? i : bytes - 1 - i)]);
-        return number;
-    }
-
-private:
-    QByteArrayView block_;
-    bool isBigEndian_;
-};
-
-} // namespace
 
 ExifOrientation ExifOrientation::fromValue(int value)
 {
@@ -46,24 +11,6 @@ ExifOrientation ExifOrientation::fromValue(int value)
     if (value >= 1 && value <= 8)
         orientation.value_ = value;
     return orientation;
-}
-
-ExifOrientation ExifOrientation::fromTiff(QByteArrayView tiff)
-{
-    const TiffNumbers numbers(tiff);
-    if (!numbers.isTiff())
-        return {};
-    const qsizetype directory = numbers.at(4, 4);
-    const auto count = static_cast<qsizetype>(numbers.at(directory, 2));
-    for (qsizetype i = 0; i < count; ++i) {
-        const qsizetype entry = directory + 2 + i * entrySize;
-        if (numbers.at(entry, 2) != orientationTag)
-            continue;
-        if (numbers.at(entry + 2, 2) != typeShort || numbers.at(entry + 4, 4) != 1)
-            break;
-        return fromValue(static_cast<int>(numbers.at(entry + 8, 2)));
-    }
-    return {};
 }
 
 ExifOrientation ExifOrientation::fromTransformations(QImageIOHandler::Transformations transformations)

@@ -3,7 +3,6 @@
 
 #pragma once
 
-#include <QtCore/QByteArrayView>
 #include <QtGui/QImage>
 #include <QtGui/QImageIOHandler>
 #include <QtGui/QTransform>
@@ -19,9 +18,6 @@ public:
 
     /// From the tag's value; anything but 1 to 8 counts as 1.
     static ExifOrientation fromValue(int value);
-    /// From the content of an Exif block: a TIFF header and its first directory. Untrusted: whatever cannot
-    /// be read in it counts as 1.
-    static ExifOrientation fromTiff(QByteArrayView tiff);
     /// From what an image reader says.
     static ExifOrientation fromTransformations(QImageIOHandler::Transformations transformations);
 

@@ -3,6 +3,7 @@
 
 #include "JobDocument.h"
 
+#include "JpegHeader.h"
 #include "PhotoPlacement.h"
 
 #include <QtCore/QBuffer>
@@ -28,28 +29,6 @@ QByteArray mimeTypeOf(const Photo &photo)
     return isKnown ? "image/" + format : QByteArray("application/vnd.cups-raw");
 }
 
-/// Whether a JPEG is of the kind that every printer reads: its frame is baseline, of 8 bits, grey or colour.
-bool isBaseline(const QByteArray &jpeg)
-{
-    const auto byte = [&jpeg](qsizetype at) {
-        return at < jpeg.size() ? static_cast<quint8>(jpeg.at(at)) : 0;
-    };
-    for (qsizetype at = 2; byte(at) == 0xff;) {
-        const int marker = byte(at + 1);
-        if (marker == 0xff) { // padding
-            ++at;
-            continue;
-        }
-        if (marker == 0xc0)
-            return byte(at + 4) == 8 && (byte(at + 9) == 1 || byte(at + 9) == 3);
-        // Another kind of frame, or pixels before any; c4 and c8 are none.
-        if ((marker > 0xc0 && marker <= 0xcf && marker != 0xc4 && marker != 0xc8) || marker == 0xda)
-            return false;
-        at += 2 + (byte(at + 2) << 8 | byte(at + 3));
-    }
-    return false;
-}
-
 bool isSame(const QRectF &area, const QRectF &sheet)
 {
     return std::abs(area.left() - sheet.left()) < dot && std::abs(area.right() - sheet.right()) < dot &&
@@ -58,13 +37,17 @@ bool isSame(const QRectF &area, const QRectF &sheet)
 
 } // namespace
 
-bool needsNoPlacement(const Photo &photo, const PageGeometry &page)
+bool needsNoPlacement(const Photo &photo, const PageGeometry &page, const PlacementChoice &choice)
 {
     const QRectF sheet(QPointF(), page.size);
-    if (photo.format() != "jpeg" || !photo.isEmbeddable() || !isBaseline(photo.content()) ||
-        photo.orientation().value() != 1 || !isSame(page.imageable, sheet))
+    if (photo.format() != "jpeg" || !photo.isEmbeddable() || photo.orientation().value() != 1 ||
+        !isSame(page.imageable, sheet))
         return false;
-    const QTransform toPage = PhotoPlacement::fit(photo.orientedSize(), page).toPage();
+    constexpr int cmyk = 4;
+    if (JpegHeader::read(photo.content()).components == cmyk)
+        return false;
+    const QTransform toPage =
+        PhotoPlacement::place(photo.orientedSize(), photo.printedResolution(), page, choice).toPage();
     const bool isStraight = qFuzzyIsNull(toPage.m12()) && qFuzzyIsNull(toPage.m21());
     return isStraight && toPage.m11() > 0 && toPage.m22() > 0 &&
            isSame(toPage.mapRect(QRectF(0, 0, 1, 1)), sheet);
@@ -75,14 +58,15 @@ Result<SubmittedDocument, PdfFault> jobDocument(const Photo &photo, const PrintJ
     SubmittedDocument document;
     document.name = photo.fileName();
     const QByteArray type = mimeTypeOf(photo);
-    if (!job.queue.hasPpd || (job.queue.directTypes.contains(type) && needsNoPlacement(photo, job.page))) {
+    if (!job.queue.hasPpd ||
+        (job.queue.directTypes.contains(type) && needsNoPlacement(photo, job.page, job.placement))) {
         document.mimeType = type;
         document.data = photo.content();
         return document;
     }
     QBuffer buffer(&document.data);
     buffer.open(QIODevice::WriteOnly);
-    const auto page = PdfWriter::write(photo, job.page, buffer);
+    const auto page = PdfWriter::write(photo, job.page, buffer, job.placement);
     if (!page)
         return page.failure();
     document.mimeType = "application/pdf";

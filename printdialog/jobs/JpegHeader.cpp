@@ -3,7 +3,10 @@
 
 #include "JpegHeader.h"
 
+#include "ExifData.h"
+
 #include <cstring>
+#include <map>
 
 namespace printdialog {
 namespace {
@@ -22,6 +25,7 @@ enum Marker : int {
     StartOfScan = 0xda,
     App0 = 0xe0,
     App1 = 0xe1,
+    App2 = 0xe2,
     App14 = 0xee,
 };
 
@@ -43,6 +47,10 @@ public:
     {
         header_.state = readSegments();
         header_.isEmbeddable = isPlain_ && hasPlainColours();
+        header_.isInverted = header_.components == 4 && isAdobes_;
+        header_.iccProfile = profile();
+        if (hasExif_ && header_.resolution == ExifData::unknownResolution)
+            header_.resolution.reset();
         return header_;
     }
 
@@ -98,10 +106,10 @@ private:
             return static_cast<quint8>(content[i]);
         };
         header_.size = QSize(at(3) << 8 | at(4), at(1) << 8 | at(2));
-        components_ = at(5);
-        if (header_.size.isEmpty() || components_ == 0 || content.size() < 6 + 3 * components_)
+        const int components = header_.components = at(5);
+        if (header_.size.isEmpty() || components == 0 || content.size() < 6 + 3 * components)
             return false;
-        namesRgb_ = components_ == 3 && at(6) == 'R' && at(9) == 'G' && at(12) == 'B';
+        namesRgb_ = components == 3 && at(6) == 'R' && at(9) == 'G' && at(12) == 'B';
         isPlain_ = isPlain_ && marker <= ProgressiveFrame && at(0) == 8;
         return true;
     }
@@ -109,21 +117,57 @@ private:
     void readApplicationData(int marker, QByteArrayView content)
     {
         constexpr QByteArrayView exif("Exif\0\0", 6);
-        if (marker == App0)
-            tellsColours_ = tellsColours_ || content.startsWith("JFIF");
-        else if (marker == App14)
-            tellsColours_ = tellsColours_ || content.startsWith("Adobe");
-        else if (marker == App1 && !hasExif_ && content.startsWith(exif)) {
+        constexpr QByteArrayView icc("ICC_PROFILE\0", 12);
+        if (marker == App0 && content.startsWith("JFIF")) {
+            isJfif_ = true;
+            readDensity(content);
+        } else if (marker == App14 && content.startsWith("Adobe")) {
+            isAdobes_ = true;
+        } else if (marker == App1 && !hasExif_ && content.startsWith(exif)) {
             hasExif_ = true;
-            header_.orientation = ExifOrientation::fromTiff(content.sliced(exif.size()));
+            const ExifData data = ExifData::fromTiff(content.sliced(exif.size()));
+            header_.orientation = data.orientation;
+            header_.resolution = data.resolution ? data.resolution : header_.resolution;
+        } else if (marker == App2 && content.size() > icc.size() + 2 && content.startsWith(icc)) {
+            profileParts_.emplace(static_cast<quint8>(content[icc.size()]), content.sliced(icc.size() + 2));
+            profileCount_ = static_cast<quint8>(content[icc.size() + 1]);
         }
+    }
+
+    void readDensity(QByteArrayView content)
+    {
+        constexpr double centimetresPerInch = 2.54;
+        constexpr qsizetype densitySize = 12;
+        if (content.size() < densitySize || header_.resolution)
+            return;
+        const auto wordOf = [content](qsizetype i) {
+            return static_cast<quint8>(content[i]) << 8 | static_cast<quint8>(content[i + 1]);
+        };
+        const int unit = content[7];
+        const double perInch = unit == 2 ? centimetresPerInch : 1;
+        if (unit == 1 || unit == 2)
+            header_.resolution = plausibleResolution(wordOf(8) * perInch, wordOf(10) * perInch);
+    }
+
+    /// The parts in their order; nothing when one is missing.
+    QByteArray profile() const
+    {
+        QByteArray whole;
+        if (profileParts_.size() != std::size_t(profileCount_) || profileParts_.empty() ||
+            profileParts_.begin()->first != 1 || profileParts_.rbegin()->first != profileCount_)
+            return whole;
+        for (const auto &[number, part] : profileParts_)
+            whole += part;
+        return whole;
     }
 
     /// Components named R, G and B are not converted from luminance and chrominance by decoders, but by PDF
     /// readers.
     bool hasPlainColours() const
     {
-        return components_ == 1 || (components_ == 3 && (!namesRgb_ || tellsColours_));
+        const int components = header_.components;
+        return components == 1 || components == 4 ||
+               (components == 3 && (!namesRgb_ || isJfif_ || isAdobes_));
     }
 
     /// From behind the first scan's header to the end of the picture, over the compressed data.
@@ -155,10 +199,12 @@ private:
     QByteArrayView bytes_;
     qsizetype position_ = 0;
     JpegHeader header_;
-    int components_ = 0;
+    std::map<int, QByteArrayView> profileParts_;
+    int profileCount_ = 0;
     bool isPlain_ = true;
     bool namesRgb_ = false;
-    bool tellsColours_ = false;
+    bool isJfif_ = false;
+    bool isAdobes_ = false;
     bool hasExif_ = false;
 };
 

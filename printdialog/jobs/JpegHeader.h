@@ -5,8 +5,11 @@
 
 #include "ExifOrientation.h"
 
+#include <QtCore/QByteArray>
 #include <QtCore/QByteArrayView>
 #include <QtCore/QSize>
+
+#include <optional>
 
 namespace printdialog {
 
@@ -20,11 +23,15 @@ struct JpegHeader
     };
 
     State state = State::Broken;
-    QSize size; ///< In pixels, as stored.
+    QSize size;         ///< In pixels, as stored.
+    int components = 0; ///< Numbers of a colour: 1 is grey, 3 colour, 4 CMYK.
     ExifOrientation orientation;
-    /// Whether every PDF reader shows these very bytes as they are meant: grey or colour of 8 bits,
-    /// sequential or progressive, Huffman coded. CMYK is not: whether its inks are inverted is told in a
-    /// place that PDF ignores.
+    std::optional<double> resolution; ///< In pixels per inch, of Exif or else of JFIF; see ExifData.
+    QByteArray iccProfile;            ///< Unchecked; empty when there is none.
+    /// Whether the numbers of a CMYK picture tell how much ink is missing, as Adobe's programs store them.
+    bool isInverted = false;
+    /// Whether every PDF reader shows these very bytes as they are meant, when it is told what they are:
+    /// grey, colour or CMYK of 8 bits, sequential or progressive, Huffman coded.
     bool isEmbeddable = false;
 
     /// Reads untrusted bytes. They begin with a JPEG signature. Of a complete picture, what follows its end

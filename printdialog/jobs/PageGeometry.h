@@ -13,7 +13,12 @@ namespace printdialog {
 struct PageGeometry
 {
     QSizeF size;
-    QRectF imageable;
+    QRectF imageable; ///< Larger than the page where the printer prints over the sheet's edges.
+
+    /// What is seen of a print: the imageable area on the sheet.
+    QRectF printed() const { return imageable & QRectF(QPointF(0, 0), size); }
+
+    bool operator==(const PageGeometry &) const = default;
 };
 
 } // namespace printdialog

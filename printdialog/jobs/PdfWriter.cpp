@@ -3,46 +3,14 @@
 
 #include "PdfWriter.h"
 
-#include "PhotoPlacement.h"
+#include "PdfFile.h"
 #include "PlainText.h"
 
-#include <QtGui/QPainter>
-
-#include <cairo-pdf.h>
-#include <cairo.h>
-
 #include <cmath>
-#include <memory>
-#include <optional>
+#include <initializer_list>
 
 namespace printdialog {
 namespace {
-
-struct SurfaceDeleter
-{
-    void operator()(cairo_surface_t *surface) const { cairo_surface_destroy(surface); }
-};
-struct ContextDeleter
-{
-    void operator()(cairo_t *context) const { cairo_destroy(context); }
-};
-using Surface = std::unique_ptr<cairo_surface_t, SurfaceDeleter>;
-using Context = std::unique_ptr<cairo_t, ContextDeleter>;
-
-struct Output
-{
-    QIODevice &device;
-    qint64 written = 0;
-};
-
-cairo_status_t writeOutput(void *closure, const unsigned char *data, unsigned int length)
-{
-    auto *output = static_cast<Output *>(closure);
-    if (output->device.write(reinterpret_cast<const char *>(data), length) != qint64(length))
-        return CAIRO_STATUS_WRITE_ERROR;
-    output->written += length;
-    return CAIRO_STATUS_SUCCESS;
-}
 
 bool isUsable(const PageGeometry &page)
 {
@@ -52,73 +20,44 @@ bool isUsable(const PageGeometry &page)
                size.height() <= longestSide;
     };
     return fits(page.size) && fits(page.imageable.size()) && std::isfinite(page.imageable.x()) &&
-           std::isfinite(page.imageable.y());
+           std::isfinite(page.imageable.y()) && !page.printed().isEmpty();
 }
 
-void setMetadata(cairo_surface_t *pdf, const Photo &photo)
+QByteArray numbers(std::initializer_list<double> values)
 {
-    cairo_pdf_surface_set_metadata(pdf, CAIRO_PDF_METADATA_TITLE,
-                                   plainText(photo.fileName()).toUtf8().constData());
-    cairo_pdf_surface_set_metadata(pdf, CAIRO_PDF_METADATA_CREATOR, "corvel-print");
-    const QByteArray date = photo.modified().toUTC().toString(Qt::ISODate).toLatin1();
-    cairo_pdf_surface_set_metadata(pdf, CAIRO_PDF_METADATA_CREATE_DATE, date.constData());
+    QByteArray text;
+    for (const double value : values)
+        text += PdfFile::number(value) + ' ';
+    return text;
 }
 
-/// Opaque pixels in the layout of CAIRO_FORMAT_RGB24; null when memory is short.
-QImage onWhite(QImage image)
+/// What draws the page: the image's unit square where the photo belongs, and nothing outside the imageable
+/// area. A PDF's y runs up, from the page's bottom and from the image's.
+QByteArray drawing(const Photo &photo, const PageGeometry &page, const PlacementChoice &choice)
 {
-    if (!image.hasAlphaChannel()) {
-        image.convertTo(QImage::Format_RGB32);
-        return image;
-    }
-    QImage white(image.size(), QImage::Format_RGB32);
-    if (white.isNull())
-        return white;
-    white.fill(Qt::white);
-    QPainter(&white).drawImage(QPoint(0, 0), image);
-    return white;
+    const PhotoPlacement placement =
+        PhotoPlacement::place(photo.orientedSize(), photo.printedResolution(), page, choice);
+    const QTransform matrix = QTransform(1, 0, 0, -1, 0, 1) * placement.toPage(photo.orientation()) *
+                              QTransform(1, 0, 0, -1, 0, page.size.height());
+    const QRectF &area = page.imageable;
+    return "q\n" + numbers({area.left(), page.size.height() - area.bottom(), area.width(), area.height()}) +
+           "re W n\n" +
+           numbers({matrix.m11(), matrix.m12(), matrix.m21(), matrix.m22(), matrix.dx(), matrix.dy()}) +
+           "cm\n/Photo Do\nQ\n";
 }
 
-/// A surface with the compressed photo behind a single pixel that is never drawn: cairo takes the image's
-/// size from the JPEG header, and larger surfaces cost memory for every pixel. `content` outlives the
-/// surface.
-Surface jpegSurface(const QByteArray &content)
+/// Text and dates of the document. The photo's date keeps two runs alike.
+QByteArray information(const Photo &photo)
 {
-    Surface surface(cairo_image_surface_create(CAIRO_FORMAT_RGB24, 1, 1));
-    const auto *bytes = reinterpret_cast<const unsigned char *>(content.constData());
-    cairo_surface_set_mime_data(surface.get(), CAIRO_MIME_TYPE_JPEG, bytes,
-                                static_cast<unsigned long>(content.size()), nullptr, nullptr);
-    return surface;
-}
-
-/// `pixels` outlives the surface.
-Surface pixelSurface(QImage &pixels)
-{
-    return Surface(cairo_image_surface_create_for_data(pixels.bits(), CAIRO_FORMAT_RGB24, pixels.width(),
-                                                       pixels.height(),
-                                                       static_cast<int>(pixels.bytesPerLine())));
-}
-
-/// Draws a surface over the area that the transform makes of the unit square.
-cairo_status_t drawPage(cairo_surface_t *pdf, cairo_surface_t *photo, const QTransform &unitToPage)
-{
-    cairo_matrix_t matrix;
-    cairo_matrix_init(&matrix, unitToPage.m11(), unitToPage.m12(), unitToPage.m21(), unitToPage.m22(),
-                      unitToPage.dx(), unitToPage.dy());
-    const Context context(cairo_create(pdf));
-    cairo_transform(context.get(), &matrix);
-    cairo_scale(context.get(), 1.0 / cairo_image_surface_get_width(photo),
-                1.0 / cairo_image_surface_get_height(photo));
-    cairo_set_source_surface(context.get(), photo, 0, 0);
-    cairo_paint(context.get());
-    cairo_show_page(context.get());
-    return cairo_status(context.get());
+    return "<< /Title " + PdfFile::string(plainText(photo.fileName())) +
+           " /Creator (corvel-print) /Producer (corvel-print) /CreationDate (D:" +
+           photo.modified().toUTC().toString(QStringLiteral("yyyyMMddHHmmss")).toLatin1() + "Z) >>";
 }
 
 } // namespace
 
 Result<PdfWriter::Embedding, PdfFault> PdfWriter::write(const Photo &photo, const PageGeometry &page,
-                                                        QIODevice &device)
+                                                        QIODevice &device, const PlacementChoice &choice)
 {
     if (!isUsable(page))
         return Failure<PdfFault>{
@@ -127,46 +66,34 @@ Result<PdfWriter::Embedding, PdfFault> PdfWriter::write(const Photo &photo, cons
                 .arg(page.size.width())
                 .arg(page.size.height()),
             {}};
-    const QByteArray content = photo.content();
-    QImage pixels;
-    if (!photo.isEmbeddable()) {
-        auto decoded = photo.decoded();
-        if (!decoded)
-            return Failure<PdfFault>{PdfFault::PhotoUnusable, decoded.failure().text,
-                                     decoded.failure().detail};
-        pixels = onWhite(*std::move(decoded));
-        if (pixels.isNull())
-            return Failure<PdfFault>{
-                PdfFault::PhotoUnusable,
-                tr("There is not enough memory for \"%1\". Scale it down in a photo program.")
-                    .arg(plainText(photo.path())),
-                {}};
-    }
+    const auto image = PdfImage::of(photo);
+    if (!image)
+        return Failure<PdfFault>{PdfFault::PhotoUnusable, image.failure().text, image.failure().detail};
 
-    Output output{device};
-    const Surface source = photo.isEmbeddable() ? jpegSurface(content) : pixelSurface(pixels);
-    const Surface pdf(
-        cairo_pdf_surface_create_for_stream(writeOutput, &output, page.size.width(), page.size.height()));
-    setMetadata(pdf.get(), photo);
-    const QTransform unitToPage = PhotoPlacement::fit(photo.orientedSize(), page).toPage(photo.orientation());
-    cairo_status_t status = drawPage(pdf.get(), source.get(), unitToPage);
-    cairo_surface_finish(pdf.get());
-    if (status == CAIRO_STATUS_SUCCESS)
-        status = cairo_surface_status(pdf.get());
-    // A JPEG that cairo cannot read is replaced by the surface's pixel without a word.
-    const bool lacksJpeg = photo.isEmbeddable() && output.written < content.size();
-    if (status == CAIRO_STATUS_WRITE_ERROR)
+    PdfFile file(device);
+    const int catalog = file.reserve();
+    const int pages = file.reserve();
+    const int onlyPage = file.reserve();
+    const int content = file.reserve();
+    const int facts = file.reserve();
+    const int picture = image->write(file);
+    file.beginStream(content, {});
+    file.writeData(drawing(photo, page, choice));
+    file.endStream();
+    file.writeObject(onlyPage, "<< /Type /Page /Parent " + PdfFile::reference(pages) + " /MediaBox [0 0 " +
+                                   numbers({page.size.width(), page.size.height()}) + "] /Contents " +
+                                   PdfFile::reference(content) + " /Resources << /XObject << /Photo " +
+                                   PdfFile::reference(picture) + " >> >> >>");
+    file.writeObject(pages, "<< /Type /Pages /Kids [" + PdfFile::reference(onlyPage) + "] /Count 1 >>");
+    file.writeObject(catalog, "<< /Type /Catalog /Pages " + PdfFile::reference(pages) + " >>");
+    file.writeObject(facts, information(photo));
+    if (!file.finish(catalog, facts))
         return Failure<PdfFault>{
             PdfFault::WriteFailed,
             tr("The PDF of \"%1\" could not be written: %2. Check the disk that it goes to.")
                 .arg(plainText(photo.path()), device.errorString()),
             {}};
-    if (status != CAIRO_STATUS_SUCCESS || lacksJpeg)
-        return Failure<PdfFault>{PdfFault::PhotoUnusable,
-                                 tr("\"%1\" could not be put on a page. Save it anew in a photo program.")
-                                     .arg(plainText(photo.path())),
-                                 QString::fromUtf8(cairo_status_to_string(status))};
-    return photo.isEmbeddable() ? Embedding::OriginalJpeg : Embedding::Pixels;
+    return image->embedding();
 }
 
 } // namespace printdialog

@@ -4,7 +4,9 @@
 #pragma once
 
 #include "PageGeometry.h"
+#include "PdfImage.h"
 #include "Photo.h"
+#include "PhotoPlacement.h"
 #include "Result.h"
 
 #include <QtCore/QCoreApplication>
@@ -25,15 +27,13 @@ class PdfWriter
     Q_DECLARE_TR_FUNCTIONS(printdialog::PdfWriter)
 
 public:
-    /// How the photo got into the PDF. Neither way loses anything of its 8 bits per colour.
-    enum class Embedding {
-        OriginalJpeg, ///< The file's own bytes, never decoded.
-        Pixels,       ///< Decoded, then compressed without loss; what is transparent is white.
-    };
+    using Embedding = PdfImage::Embedding;
 
-    /// Writes the PDF to an open device, which may have taken a part of it when this fails. The same photo
-    /// and page give the same bytes: the creation date is that of the photo's file. May run on any thread.
-    static Result<Embedding, PdfFault> write(const Photo &photo, const PageGeometry &page, QIODevice &device);
+    /// Writes the PDF to an open device, which may have taken a part of it when this fails. What of the photo
+    /// lies outside the page's imageable area is not shown. The same photo, page and choice give the same
+    /// bytes: the creation date is that of the photo's file. May run on any thread.
+    static Result<Embedding, PdfFault> write(const Photo &photo, const PageGeometry &page, QIODevice &device,
+                                             const PlacementChoice &choice = {});
 };
 
 } // namespace printdialog

@@ -3,10 +3,15 @@
 
 #include "Photo.h"
 
+#include "ExifData.h"
+#include "HeifPicture.h"
 #include "JpegHeader.h"
+#include "PhotoFormat.h"
 #include "PictureEnd.h"
 #include "PlainText.h"
 #include "PngChunks.h"
+#include "PngHeader.h"
+#include "WebpChunks.h"
 
 #include <QtCore/QBuffer>
 #include <QtCore/QFileInfo>
@@ -15,28 +20,12 @@
 #include <QtGui/QImageReader>
 
 #include <algorithm>
-#include <array>
 
 namespace printdialog {
 namespace {
 
 constexpr qint64 headSize = 4096;
-constexpr int maximumRasterSide = 32767; ///< In pixels; cairo's images are no larger.
-
-/// The picture's format by its first bytes; empty when it is none. Drawings and formats that are recognized
-/// by a file's name alone are left out.
-QByteArray formatOf(QByteArray head)
-{
-    static constexpr std::array photoFormats{"avif", "bmp", "gif", "heic", "heif", "jp2",  "jpeg", "jxl",
-                                             "pbm",  "pgm", "png", "ppm",  "tif",  "tiff", "webp"};
-    if (head.startsWith("\xff\xd8\xff"))
-        return QByteArrayLiteral("jpeg");
-    QBuffer buffer(&head);
-    buffer.open(QIODevice::ReadOnly);
-    const QByteArray format = QImageReader::imageFormat(&buffer);
-    return std::find(photoFormats.begin(), photoFormats.end(), format) != photoFormats.end() ? format
-                                                                                             : QByteArray();
-}
+constexpr int maximumRasterSide = 32767; ///< In pixels; painters reach no further.
 
 /// Lets the image reader allocate what this photo takes. The limit holds for the whole program and other
 /// threads may be decoding, so it only ever grows; maximumPixels is its ceiling.
@@ -84,13 +73,10 @@ Result<Photo, PhotoFault> Photo::open(const QString &path)
     Photo photo;
     photo.path_ = path;
     photo.modified_ = file->modified();
-    photo.format_ = formatOf(file->head(headSize));
-    if (photo.format_.isEmpty())
-        return Failure<PhotoFault>{
-            PhotoFault::UnknownType,
-            tr("\"%1\" is not a photo of a known kind, whatever its name says. Save it as JPEG or PNG.")
-                .arg(plainText(path)),
-            {}};
+    const PhotoFormat format = PhotoFormat::of(file->head(headSize));
+    if (!format.isReadable())
+        return format.failure(path);
+    photo.format_ = format.name();
     if (file->size() > maximumFileSize)
         return Failure<PhotoFault>{
             PhotoFault::TooLarge,
@@ -103,7 +89,10 @@ Result<Photo, PhotoFault> Photo::open(const QString &path)
     if (!content)
         return content.failure();
     photo.content_ = *std::move(content);
-    if (auto failure = photo.format_ == "jpeg" ? photo.inspectJpeg() : photo.inspectOther())
+    if (auto failure = photo.format_ == "jpeg"  ? photo.inspectJpeg()
+                       : photo.format_ == "png" ? photo.inspectPng()
+                       : format.isHeif()        ? photo.inspectHeif()
+                                                : photo.inspectOther())
         return *failure;
     if (auto failure = photo.checkPixels())
         return *failure;
@@ -124,22 +113,65 @@ std::optional<Failure<PhotoFault>> Photo::inspectJpeg()
         return broken(QStringLiteral("the JPEG segments make no picture"));
     storedSize_ = header.size;
     orientation_ = header.orientation;
+    resolution_ = header.resolution;
+    // Decoders make colour of CMYK, which a profile of another kind must not be taken for.
+    if (ColourProfile profile = ColourProfile::fromIcc(header.iccProfile);
+        profile.components() == header.components)
+        profile_ = std::move(profile);
     isEmbeddable_ = header.isEmbeddable;
+    return std::nullopt;
+}
+
+std::optional<Failure<PhotoFault>> Photo::inspectPng()
+{
+    const PngChunks chunks = checkPngChunks(content_);
+    if (chunks == PngChunks::Broken)
+        return broken(QStringLiteral("a PNG checksum does not match"));
+    if (chunks == PngChunks::Truncated)
+        return truncated();
+    const PngHeader header = PngHeader::read(content_);
+    if (header.size.isEmpty())
+        return broken(QStringLiteral("the PNG header names no size"));
+    storedSize_ = header.size;
+    orientation_ = header.orientation;
+    resolution_ = header.resolution;
+    profile_ = header.profile;
+    isEmbeddable_ = header.isEmbeddable;
+    return std::nullopt;
+}
+
+/// Whatever turns the picture is done when it is decoded; an Exif orientation repeats it and is not heeded.
+std::optional<Failure<PhotoFault>> Photo::inspectHeif()
+{
+    if (!hasPictureEnd(format_, content_))
+        return truncated();
+    const auto header = HeifPicture::read(content_);
+    if (!header)
+        return broken(header.failure().detail);
+    storedSize_ = header->size;
+    profile_ = header->profile;
     return std::nullopt;
 }
 
 std::optional<Failure<PhotoFault>> Photo::inspectOther()
 {
-    const PngChunks chunks = format_ == "png" ? checkPngChunks(content_) : PngChunks::Whole;
-    if (chunks == PngChunks::Broken)
-        return broken(QStringLiteral("a PNG checksum does not match"));
-    if (chunks == PngChunks::Truncated || !hasPictureEnd(format_, content_))
+    if (!hasPictureEnd(format_, content_))
         return truncated();
     ContentReader reader(content_, format_);
     storedSize_ = reader->size();
     if (storedSize_.isEmpty())
         return broken(reader->errorString());
     orientation_ = ExifOrientation::fromTransformations(reader->transformation());
+    if (format_ == "webp") {
+        orientation_ = ExifData::fromTiff(webpChunk(content_, "EXIF")).orientation;
+        profile_ = ColourProfile::fromIcc(webpChunk(content_, "ICCP").toByteArray());
+    } else if (format_ == "tiff") {
+        const ExifData data = ExifData::fromTiff(content_);
+        if (data.isReduced)
+            return PhotoFormat::ofCamera().failure(path_);
+        resolution_ = data.resolution;
+        profile_ = ColourProfile::fromIcc(data.iccProfile);
+    }
     return std::nullopt;
 }
 
@@ -172,13 +204,38 @@ Failure<PhotoFault> Photo::broken(const QString &detail) const
             detail};
 }
 
-Result<QImage, PhotoFault> Photo::decoded() const
+Failure<PhotoFault> Photo::memoryFailure() const
 {
+    return {
+        PhotoFault::TooLarge,
+        tr("There is not enough memory for \"%1\". Scale it down in a photo program.").arg(plainText(path_)),
+        {}};
+}
+
+/// Decodes, scaled down while reading where the format can do that and the bound is not empty.
+QImage Photo::decodedWithin(const QSize &storedBound, QString &error) const
+{
+    if (PhotoFormat::isHeif(format_)) {
+        auto picture = HeifPicture::decode(content_);
+        if (!picture)
+            error = picture.failure().detail;
+        return picture ? *std::move(picture) : QImage();
+    }
     allowDecoding(storedSize_);
     ContentReader reader(content_, format_);
+    if (!storedBound.isEmpty())
+        reader->setScaledSize(storedBound);
     QImage image = reader->read();
+    error = reader->errorString();
+    return image;
+}
+
+Result<QImage, PhotoFault> Photo::decoded() const
+{
+    QString error;
+    QImage image = decodedWithin({}, error);
     if (image.isNull())
-        return broken(reader->errorString());
+        return broken(error);
     return image;
 }
 
@@ -187,13 +244,14 @@ QImage Photo::preview(const QSize &bound) const
     const QSize seen = orientedSize();
     if (seen.isEmpty() || bound.isEmpty())
         return {};
-    allowDecoding(storedSize_);
-    ContentReader reader(content_, format_);
-    if (seen.width() > bound.width() || seen.height() > bound.height()) {
-        const QSize scaled = seen.scaled(bound, Qt::KeepAspectRatio).expandedTo(QSize(1, 1));
-        reader->setScaledSize(orientation_.seenSize(scaled));
-    }
-    return orientation_.applied(reader->read());
+    QSize scaled;
+    if (seen.width() > bound.width() || seen.height() > bound.height())
+        scaled = orientation_.seenSize(seen.scaled(bound, Qt::KeepAspectRatio).expandedTo(QSize(1, 1)));
+    QString error;
+    QImage image = decodedWithin(scaled, error);
+    if (!scaled.isEmpty() && !image.isNull() && image.size() != scaled)
+        image = image.scaled(scaled, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    return orientation_.applied(profile_.toScreen(image));
 }
 
 } // namespace printdialog

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "ColourProfile.h"
 #include "ExifOrientation.h"
 #include "PhotoFile.h"
 #include "Result.h"
@@ -24,25 +25,33 @@ class Photo
 public:
     static constexpr qint64 maximumFileSize = qint64(512) << 20; ///< In bytes.
     static constexpr qint64 maximumPixels = 400'000'000;
+    /// In pixels per inch, of a photo whose file names no resolution: that of most photo printers.
+    static constexpr double assumedResolution = 300;
 
     /// No photo.
     Photo() = default;
 
-    /// Reads the file and its headers, and makes sure that a JPEG, PNG, BMP, GIF or WebP file is whole.
-    /// Nothing is decoded, and of a file that is no picture only the first bytes are read. Formats: whichever
-    /// pixel formats the image reader has a plug-in for; what they are is told by the content and not by the
-    /// name. Every fault of PhotoFault can come of it.
+    /// Reads the file and its headers, and makes sure that a JPEG, PNG, HEIF, AVIF, BMP, GIF or WebP file is
+    /// whole. Nothing is decoded, and of a file that is no picture only the first bytes are read. What the
+    /// format is (see PhotoFormat) is told by the content and not by the name. Every fault of PhotoFault can
+    /// come of it.
     static Result<Photo, PhotoFault> open(const QString &path);
 
     QString path() const { return path_; } ///< As given to open().
     QString fileName() const;
-    QByteArray format() const { return format_; } ///< As the image reader names it: "jpeg", "png", ...
+    QByteArray format() const { return format_; } ///< "jpeg", "png", "heif", "avif", ...
     QByteArray content() const { return content_; }
     QDateTime modified() const { return modified_; }
     QSize storedSize() const { return storedSize_; } ///< In pixels.
     ExifOrientation orientation() const { return orientation_; }
     QSize orientedSize() const { return orientation_.seenSize(storedSize_); } ///< In pixels, as seen.
-    /// Whether content() can go into a PDF as it is, as a JPEG stream.
+    /// In pixels per inch, as the file names it; nothing when it names none.
+    std::optional<double> resolution() const { return resolution_; }
+    /// The resolution that makes the actual size, in pixels per inch.
+    double printedResolution() const { return resolution_.value_or(assumedResolution); }
+    /// What the numbers of the stored and of the decoded colours mean.
+    const ColourProfile &profile() const { return profile_; }
+    /// Whether the compressed pixels of content(), a JPEG or PNG file, can go into a PDF as they are.
     bool isEmbeddable() const { return isEmbeddable_; }
 
     /// The pixels as stored, not turned by orientation(). Takes seconds and gigabytes for the largest photos.
@@ -50,14 +59,21 @@ public:
     Result<QImage, PhotoFault> decoded() const;
     /// The photo upright, within the bound (in pixels) and never enlarged; a null image when it cannot be
     /// decoded. Takes a fraction of a second, so call it on a worker thread.
+    /// In the colours of a screen.
     QImage preview(const QSize &bound) const;
+
+    /// The failure when the content turns out to be damaged; the detail is for the log.
+    Failure<PhotoFault> broken(const QString &detail) const;
+    Failure<PhotoFault> memoryFailure() const;
 
 private:
     std::optional<Failure<PhotoFault>> inspectJpeg();
+    std::optional<Failure<PhotoFault>> inspectPng();
+    std::optional<Failure<PhotoFault>> inspectHeif();
     std::optional<Failure<PhotoFault>> inspectOther();
     std::optional<Failure<PhotoFault>> checkPixels() const;
+    QImage decodedWithin(const QSize &storedBound, QString &error) const;
     Failure<PhotoFault> truncated() const;
-    Failure<PhotoFault> broken(const QString &detail) const;
 
     QString path_;
     QByteArray format_;
@@ -65,6 +81,8 @@ private:
     QDateTime modified_;
     QSize storedSize_;
     ExifOrientation orientation_;
+    std::optional<double> resolution_;
+    ColourProfile profile_;
     bool isEmbeddable_ = false;
 };
 

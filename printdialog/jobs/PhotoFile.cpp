@@ -3,9 +3,8 @@
 
 #include "PhotoFile.h"
 
+#include "FileName.h"
 #include "PlainText.h"
-
-#include <QtCore/QFile>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -73,7 +72,7 @@ qint64 readFully(int descriptor, QByteArray &buffer)
 
 Result<PhotoFile, PhotoFault> PhotoFile::open(const QString &path)
 {
-    const QByteArray encoded = QFile::encodeName(path);
+    const QByteArray encoded = bytesOfFileName(path);
     struct stat status = {};
     // Asked before it is opened, since opening is enough to disturb some devices.
     if (::stat(encoded.constData(), &status) != 0)

@@ -14,13 +14,14 @@ namespace printdialog {
 
 /// Why a photo cannot be printed.
 enum class PhotoFault {
-    NotFound,    ///< No such file.
-    NotReadable, ///< A folder, a pipe, a device, or a file that may not or cannot be read.
-    Empty,       ///< A file without content.
-    TooLarge,    ///< More bytes or pixels than a photo may have.
-    UnknownType, ///< The content is no picture that can be printed, whatever the file's name says.
-    Truncated,   ///< The picture's end is missing.
-    Broken,      ///< The content contradicts its own format.
+    NotFound,     ///< No such file.
+    NotReadable,  ///< A folder, a pipe, a device, or a file that may not or cannot be read.
+    Empty,        ///< A file without content.
+    TooLarge,     ///< More bytes or pixels than a photo may have.
+    NeedsPackage, ///< A picture whose format needs a package that is not installed.
+    UnknownType,  ///< The content is no picture that can be printed, whatever the file's name says.
+    Truncated,    ///< The picture's end is missing.
+    Broken,       ///< The content contradicts its own format.
 };
 
 /// An open file that may hold a photo. Only a regular file is opened, so that no pipe or device can block.

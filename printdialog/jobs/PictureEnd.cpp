@@ -49,6 +49,26 @@ bool hasWebpEnd(QByteArrayView bytes)
     return bytes.size() >= headerSize && bytes.size() - headerSize >= numberAt<quint32>(bytes, 4);
 }
 
+/// The file is a row of boxes, each with its length. A length of 0 reaches to the file's end.
+bool hasBoxesEnd(QByteArrayView bytes)
+{
+    constexpr qsizetype headerSize = 8;
+    constexpr qsizetype largeHeaderSize = 16;
+    while (!bytes.isEmpty()) {
+        if (bytes.size() < headerSize)
+            return false;
+        quint64 size = qFromBigEndian<quint32>(bytes.data());
+        if (size == 1 && bytes.size() >= largeHeaderSize)
+            size = qFromBigEndian<quint64>(bytes.data() + headerSize);
+        if (size == 0)
+            return true;
+        if (size < quint64(headerSize) || size > quint64(bytes.size()))
+            return false;
+        bytes = bytes.sliced(static_cast<qsizetype>(size));
+    }
+    return true;
+}
+
 } // namespace
 
 bool hasPictureEnd(QByteArrayView format, QByteArrayView bytes)
@@ -57,6 +77,8 @@ bool hasPictureEnd(QByteArrayView format, QByteArrayView bytes)
         return hasBmpEnd(bytes);
     if (format == QByteArrayView("gif"))
         return hasGifEnd(bytes);
+    if (format == QByteArrayView("heif") || format == QByteArrayView("avif"))
+        return hasBoxesEnd(bytes);
     return format != QByteArrayView("webp") || hasWebpEnd(bytes);
 }
 

@@ -36,7 +36,9 @@ struct PageSize
     QString keyword;
     QString text;     ///< Plain text.
     QSizeF points;    ///< Of the sheet.
-    QRectF imageable; ///< The area that the printer can reach, in points; the origin is the sheet's top left.
+    /// The area that the printer can reach, in points; the origin is the sheet's top left. Where it prints
+    /// over the edges, it reaches beyond the sheet.
+    QRectF imageable;
 };
 
 /// Owner of one opened PPD and of the choices marked in it. Move-only; to be used by one thread at a time.

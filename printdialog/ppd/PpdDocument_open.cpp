@@ -56,9 +56,12 @@ bool isPrintable(const ppd_size_t &size)
     return isSide(size.width) && isSide(size.length);
 }
 
+/// The area may reach beyond the sheet, so that no edge stays white when the paper lies a little askew.
 QRectF imageableArea(const ppd_size_t &size)
 {
+    constexpr double largestBleed = 36; // points
     const QRectF sheet(0, 0, size.width, size.length);
+    const QRectF bleed = sheet.adjusted(-largestBleed, -largestBleed, largestBleed, largestBleed);
     for (const float edge : {size.left, size.bottom, size.right, size.top}) {
         if (!std::isfinite(edge))
             return sheet;
@@ -66,8 +69,8 @@ QRectF imageableArea(const ppd_size_t &size)
     // The PPD's origin is the bottom left.
     const QRectF area(QPointF(size.left, size.length - size.top),
                       QPointF(size.right, size.length - size.bottom));
-    const QRectF reachable = area.isValid() ? area & sheet : QRectF();
-    return reachable.isEmpty() ? sheet : reachable;
+    const QRectF reachable = area.isValid() ? area & bleed : QRectF();
+    return (reachable & sheet).isEmpty() ? sheet : reachable;
 }
 
 } // namespace

@@ -4,10 +4,10 @@
 #include "PpdFile.h"
 
 #include "FileDescriptor.h"
+#include "FileName.h"
 #include "PlainText.h"
 
 #include <QtCore/QCoreApplication>
-#include <QtCore/QFile>
 
 #include <cerrno>
 #include <fcntl.h>
@@ -57,7 +57,7 @@ Result<QByteArray, PpdFault> readPpdFile(const QString &path)
 {
     if (path.isEmpty() || path.contains(QChar(u'\0')))
         return ppdNotReadable(path, ENOENT);
-    const QByteArray nativePath = QFile::encodeName(path);
+    const QByteArray nativePath = bytesOfFileName(path);
     struct stat status = {};
     // Opening a device may already have an effect, so it is looked at by its name first.
     if (::stat(nativePath.constData(), &status) != 0)

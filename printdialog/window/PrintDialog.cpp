@@ -6,6 +6,7 @@
 #include "ChoiceController.h"
 #include "DialogSession.h"
 #include "HelpWindow.h"
+#include "PlainText.h"
 #include "PpdFetcher.h"
 #include "PrintWorker.h"
 #include "QueueSettings.h"
@@ -57,6 +58,10 @@ PrintDialog::PrintDialog(const PrintDialogSetup &setup, QWidget *parent)
     connect(ui_->progress, &PrintProgress::stopped, worker_, &PrintWorker::cancel);
     connect(ui_->printer, &PrinterChooser::currentUpdated, this, &PrintDialog::takeUpdate);
     connect(new TouchWatch(this), &TouchWatch::touched, ui_->printer, &PrinterChooser::keepCurrent);
+    connect(ui_->photos, &PhotoPane::photosChanged, this, &PrintDialog::showPhoto);
+    connect(ui_->photos, &PhotoPane::failed, this,
+            [this](const QString &text) { ui_->message->show(MessageBar::Kind::Error, text); });
+    ui_->photos->setPhotos(setup.photos, setup.placement);
     showPhoto();
     openFirstPrinter();
 }
@@ -96,23 +101,16 @@ QString PrintDialog::pageKindSuffix(int page) const
 
 bool PrintDialog::isPreviewReady() const
 {
-    return setup_.photos.isEmpty() || ui_->preview->isReady();
+    return ui_->photos->isReady();
 }
 
 void PrintDialog::showPhoto()
 {
-    const auto count = setup_.photos.size();
-    if (count == 0) {
-        ui_->photoLabel->setText(tr("Start corvel-print with a photo to print it."));
-        setWindowTitle(tr("Print Photo"));
-        return;
-    }
-    const Photo &first = setup_.photos.constFirst();
-    ui_->preview->setPhoto(first);
-    ui_->photoLabel->setText(
-        count == 1 ? first.fileName()
-                   : tr("%1 and %n more", nullptr, static_cast<int>(count) - 1).arg(first.fileName()));
-    setWindowTitle(tr("Print %1").arg(first.fileName()));
+    const QList<PlacedPhoto> &photos = ui_->photos->photos();
+    setWindowTitle(photos.isEmpty()
+                       ? tr("Print Photo")
+                       : tr("Print %1").arg(plainText(photos.at(ui_->photos->current()).photo.fileName())));
+    updateButtons();
 }
 
 void PrintDialog::browseFolder()

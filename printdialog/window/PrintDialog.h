@@ -4,6 +4,7 @@
 #pragma once
 
 #include "Photo.h"
+#include "PhotoPlacement.h"
 #include "PrinterDescription.h"
 #include "Queue.h"
 #include "QueueFault.h"
@@ -39,6 +40,7 @@ struct PrintDialogSetup
     QList<QPair<QString, QString>> options; ///< choices to begin with, in order
     QString outputFolder;                   ///< where the built-in printer leaves its files
     bool remembers = true; ///< open with the printer used last, and remember the one used now
+    PlacementChoice placement;              ///< of each photo, to begin with
 };
 
 /// The print dialog: the photo on its page, the printer, the panels of the printer's plug-in. It works at

@@ -270,7 +270,7 @@ void PrintDialog::showPageSize()
     const QString chosen = session_->chosen(pageSizeKey).value_or(QString());
     ui_->pageSize->setCurrentIndex(ui_->pageSize->findData(chosen));
     if (const auto size = session_->ppd().pageSize(chosen))
-        ui_->preview->setPage({size->points, size->imageable});
+        ui_->photos->setPage({size->points, size->imageable});
 }
 
 } // namespace printdialog

@@ -17,7 +17,7 @@ namespace printdialog {
 void PrintDialog::updateButtons()
 {
     QString reason = whyNotReady_;
-    if (reason.isEmpty() && setup_.photos.isEmpty())
+    if (reason.isEmpty() && ui_->photos->photos().isEmpty())
         reason = tr("There is no photo to print.");
     if (reason.isEmpty() && worker_->isBusy())
         reason = tr("Printing is under way.");
@@ -53,7 +53,7 @@ std::optional<PrintJob> PrintDialog::makeJob(QStringList &remarks)
 
 void PrintDialog::print()
 {
-    if (!isReady() || worker_->isBusy() || setup_.photos.isEmpty())
+    if (!isReady() || worker_->isBusy() || ui_->photos->photos().isEmpty())
         return;
     QStringList remarks;
     const std::optional<PrintJob> job = makeJob(remarks);
@@ -68,7 +68,7 @@ void PrintDialog::print()
         target.queue = session_->printer().name;
     remember(true);
     ui_->progress->show(tr("Printing…"));
-    worker_->print(setup_.photos, target, *job);
+    worker_->print(ui_->photos->photos(), target, *job);
     updateButtons();
 }
 

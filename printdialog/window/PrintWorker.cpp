@@ -25,8 +25,8 @@ namespace {
 using Progress = std::function<void(const QString &text, qint64 done, qint64 total)>;
 
 /// Sends the photos, until one fails or the run is cancelled. Answers the jobs of a queue.
-SentJobs sendAll(const QList<Photo> &photos, const PrintTarget &target, const PrintJob &job, int &cancel,
-                 const Progress &progress, PrintOutcome &outcome)
+SentJobs sendAll(const QList<PlacedPhoto> &photos, const PrintTarget &target, const PrintJob &job,
+                 int &cancel, const Progress &progress, PrintOutcome &outcome)
 {
     SentJobs jobs(target.queue);
     QString text;
@@ -36,14 +36,16 @@ SentJobs sendAll(const QList<Photo> &photos, const PrintTarget &target, const Pr
         progress(text, sent, total);
     };
     PhotoPrinter printer(target, control);
-    for (const Photo &photo : photos) {
+    PrintJob photoJob = job;
+    for (const auto &[photo, placement] : photos) {
         if (std::atomic_ref(cancel).load() != 0)
             break;
         text = target.queue.isEmpty()
                    ? PrintWorker::tr("Writing %1").arg(photo.fileName())
                    : PrintWorker::tr("Sending %1 to %2").arg(photo.fileName(), target.queue);
         progress(text, 0, 0);
-        const auto printed = printer.print(photo, job);
+        photoJob.placement = placement;
+        const auto printed = printer.print(photo, photoJob);
         if (!printed) {
             outcome.failure = printed.failure().text;
             outcome.hasOtherPpd = printed.failure().reason == QueueFault::Changed;
@@ -94,7 +96,7 @@ void PrintWorker::leave()
         Flags::raise(flags_->leave);
 }
 
-void PrintWorker::print(const QList<Photo> &photos, const PrintTarget &target, const PrintJob &job)
+void PrintWorker::print(const QList<PlacedPhoto> &photos, const PrintTarget &target, const PrintJob &job)
 {
     auto outcome = std::make_shared<PrintOutcome>();
     flags_ = std::make_shared<Flags>();
@@ -107,7 +109,7 @@ void PrintWorker::print(const QList<Photo> &photos, const PrintTarget &target, c
         Flags::raise(flags->following);
         if (!jobs.isEmpty() && outcome->failure.isEmpty()) {
             const auto show = [&](int photo, const QString &state) {
-                tell(tr("%1: %2").arg(photos.value(photo).fileName(), state), 0, 0);
+                tell(tr("%1: %2").arg(photos.value(photo).photo.fileName(), state), 0, 0);
             };
             const SentJobs::Outcome followed = jobs.follow({}, show, &flags->leave);
             outcome->printed = followed.printed;

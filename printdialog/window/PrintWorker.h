@@ -4,6 +4,7 @@
 #pragma once
 
 #include "PhotoPrinter.h"
+#include "PlacedPhoto.h"
 
 #include <QtCore/QObject>
 #include <QtCore/QThread>
@@ -33,8 +34,9 @@ public:
     bool isBusy() const { return thread_ != nullptr; }
     /// Whether the print server or the folder has everything.
     bool isFollowing() const;
-    /// Prints the photos with the job's settings, one after the other. Not while busy.
-    void print(const QList<Photo> &photos, const PrintTarget &target, const PrintJob &job);
+    /// Prints the photos, each where it is placed, with the job's settings, one after the other. Not while
+    /// busy.
+    void print(const QList<PlacedPhoto> &photos, const PrintTarget &target, const PrintJob &job);
     /// Sends nothing more, and takes back the jobs that are not over.
     void cancel();
     /// Once all is sent, follows the jobs no longer.

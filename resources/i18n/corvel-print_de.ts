@@ -225,6 +225,32 @@ So ein Auftrag bleibt beim Druckserver; das wird gemeldet, Status 0</translation
         <source>--wait is for --batch.</source>
         <translation>--wait gehört zu --batch.</translation>
     </message>
+    <message>
+        <source>the whole photo on the page (fit, the default), the page filled
+and the photo cropped (fill), or the photo by its file&apos;s resolution
+(actual; 300 pixels per inch when the file names none)</source>
+        <translation>das ganze Foto auf der Seite (fit, Vorgabe), die Seite gefüllt und das
+Foto beschnitten (fill) oder das Foto nach der Auflösung seiner Datei
+(actual; 300 Pixel pro Zoll, wenn die Datei keine nennt)</translation>
+    </message>
+    <message>
+        <source>which part of a cropped photo is kept, in per cent from its left
+and from its top (otherwise 50,50, the middle)</source>
+        <translation>welcher Teil eines beschnittenen Fotos bleibt, in Prozent von seinem
+linken und oberen Rand aus (sonst 50,50, die Mitte)</translation>
+    </message>
+    <message>
+        <source>There is no scaling &quot;%1&quot;; it is fit, fill or actual.</source>
+        <translation>Es gibt keine Größenanpassung „%1“; möglich sind fit, fill und actual.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no crop; it is two numbers from 0 to 100, such as 50,0.</source>
+        <translation>„%1“ ist kein Ausschnitt; es sind zwei Zahlen von 0 bis 100, etwa 50,0.</translation>
+    </message>
+    <message>
+        <source>--crop is for --scaling fill or actual; with fit nothing is cropped.</source>
+        <translation>--crop gehört zu --scaling fill oder actual; mit fit wird nichts beschnitten.</translation>
+    </message>
 </context>
 <context>
     <name>Console</name>
@@ -404,6 +430,29 @@ So ein Auftrag bleibt beim Druckserver; das wird gemeldet, Status 0</translation
     <message>
         <source>Choices</source>
         <translation>Auswahlmöglichkeiten</translation>
+    </message>
+</context>
+<context>
+    <name>PlacementText</name>
+    <message>
+        <source>%1 × %2 in</source>
+        <translation>%1 × %2 Zoll</translation>
+    </message>
+    <message>
+        <source>%1 × %2 cm</source>
+        <translation>%1 × %2 cm</translation>
+    </message>
+    <message>
+        <source>%1 pixels per inch (the file names none)</source>
+        <translation>%1 Pixel pro Zoll (die Datei nennt keine)</translation>
+    </message>
+    <message>
+        <source>%1 pixels per inch</source>
+        <translation>%1 Pixel pro Zoll</translation>
+    </message>
+    <message>
+        <source>%1 % cut off</source>
+        <translation>%1 % abgeschnitten</translation>
     </message>
 </context>
 <context>
@@ -1220,24 +1269,12 @@ So ein Auftrag bleibt beim Druckserver; das wird gemeldet, Status 0</translation
         <translation>Auf die Seite von %1 × %2 Punkt kann nicht gedruckt werden. Wählen Sie ein anderes Papierformat.</translation>
     </message>
     <message>
-        <source>There is not enough memory for &quot;%1&quot;. Scale it down in a photo program.</source>
-        <translation>Für „%1“ reicht der Speicher nicht. Verkleinern Sie es in einem Fotoprogramm.</translation>
-    </message>
-    <message>
         <source>The PDF of &quot;%1&quot; could not be written: %2. Check the disk that it goes to.</source>
         <translation>Die PDF-Datei von „%1“ konnte nicht geschrieben werden: %2. Prüfen Sie den Zieldatenträger.</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; could not be put on a page. Save it anew in a photo program.</source>
-        <translation>„%1“ konnte nicht auf eine Seite gesetzt werden. Speichern Sie es in einem Fotoprogramm neu.</translation>
     </message>
 </context>
 <context>
     <name>printdialog::Photo</name>
-    <message>
-        <source>&quot;%1&quot; is not a photo of a known kind, whatever its name says. Save it as JPEG or PNG.</source>
-        <translation>„%1“ ist kein Foto bekannter Art, was immer der Name besagt. Speichern Sie es als JPEG oder PNG.</translation>
-    </message>
     <message>
         <source>&quot;%1&quot; is too large: %2, where a photo may have %3. Save it with fewer pixels, or as JPEG.</source>
         <translation>„%1“ ist zu groß: %2; erlaubt sind %3. Speichern Sie es mit weniger Pixeln oder als JPEG.</translation>
@@ -1253,6 +1290,10 @@ So ein Auftrag bleibt beim Druckserver; das wird gemeldet, Status 0</translation
     <message>
         <source>&quot;%1&quot; is damaged and cannot be shown. Copy it again, or save it anew in a photo program.</source>
         <translation>„%1“ ist beschädigt und kann nicht angezeigt werden. Kopieren Sie es erneut oder speichern Sie es in einem Fotoprogramm neu.</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for &quot;%1&quot;. Scale it down in a photo program.</source>
+        <translation>Für „%1“ reicht der Speicher nicht. Verkleinern Sie es in einem Fotoprogramm.</translation>
     </message>
 </context>
 <context>
@@ -1283,6 +1324,52 @@ So ein Auftrag bleibt beim Druckserver; das wird gemeldet, Status 0</translation
     </message>
 </context>
 <context>
+    <name>printdialog::PhotoFormat</name>
+    <message>
+        <source>camera raw</source>
+        <translation>Kamera-Rohdaten</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a photo of the format %2, which needs the package %3. Install it, or save the photo as JPEG.</source>
+        <translation>„%1“ ist ein Foto im Format %2, das das Paket %3 braucht. Installieren Sie es, oder speichern Sie das Foto als JPEG.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is of the format %2, which cannot be printed. Save it as one of these: %3.</source>
+        <translation>„%1“ hat das Format %2, das nicht gedruckt werden kann. Speichern Sie es in einem von diesen: %3.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a photo of a known kind, whatever its name says. Save it as one of these: %2.</source>
+        <translation>„%1“ ist kein Foto einer bekannten Art, wie es auch heißt. Speichern Sie es in einem von diesen Formaten: %2.</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::PhotoPane</name>
+    <message>
+        <source>&amp;Add…</source>
+        <translation>Hin&amp;zufügen…</translation>
+    </message>
+    <message>
+        <source>Re&amp;move</source>
+        <translation>En&amp;tfernen</translation>
+    </message>
+    <message>
+        <source>Add photos to this job; they can be dropped on the window as well</source>
+        <translation>Fotos zu diesem Auftrag hinzufügen; sie lassen sich auch auf das Fenster ziehen</translation>
+    </message>
+    <message>
+        <source>Take the photo that is shown out of this job; its file stays</source>
+        <translation>Das gezeigte Foto aus diesem Auftrag nehmen; seine Datei bleibt</translation>
+    </message>
+    <message>
+        <source>Add Photos</source>
+        <translation>Fotos hinzufügen</translation>
+    </message>
+    <message>
+        <source>%1 (%2 of %3)</source>
+        <translation>%1 (%2 von %3)</translation>
+    </message>
+</context>
+<context>
     <name>printdialog::PhotoPrinter</name>
     <message>
         <source>Printed %1: %2</source>
@@ -1291,6 +1378,55 @@ So ein Auftrag bleibt beim Druckserver; das wird gemeldet, Status 0</translation
     <message>
         <source>Sent %1 to %2 as job %3</source>
         <translation>%1 als Auftrag %3 an %2 gesendet</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::PhotoStrip</name>
+    <message>
+        <source>Delete removes a photo; Alt with an arrow key moves it.</source>
+        <translation>Entf nimmt ein Foto heraus; Alt mit einer Pfeiltaste verschiebt es.</translation>
+    </message>
+    <message>
+        <source>%1, photo %2 of %3</source>
+        <translation>%1, Foto %2 von %3</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n photo(s) of this job</source>
+        <translation>
+            <numerusform>%n Foto dieses Auftrags</numerusform>
+            <numerusform>%n Fotos dieses Auftrags</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::PlacementBar</name>
+    <message>
+        <source>&amp;Turn</source>
+        <translation>Drehe&amp;n</translation>
+    </message>
+    <message>
+        <source>P&amp;lacement:</source>
+        <translation>&amp;Platzierung:</translation>
+    </message>
+    <message>
+        <source>Placement of the photo</source>
+        <translation>Platzierung des Fotos</translation>
+    </message>
+    <message>
+        <source>Fit on the page</source>
+        <translation>In die Seite einpassen</translation>
+    </message>
+    <message>
+        <source>Fill the page</source>
+        <translation>Seite füllen</translation>
+    </message>
+    <message>
+        <source>Actual size</source>
+        <translation>Tatsächliche Größe</translation>
+    </message>
+    <message>
+        <source>Turn the photo on the page by a quarter, clockwise</source>
+        <translation>Das Foto auf der Seite um ein Viertel im Uhrzeigersinn drehen</translation>
     </message>
 </context>
 <context>
@@ -1425,30 +1561,35 @@ So ein Auftrag bleibt beim Druckserver; das wird gemeldet, Status 0</translation
         <translation>Vorschau von %1</translation>
     </message>
     <message>
-        <source>No photo</source>
-        <translation>Kein Foto</translation>
-    </message>
-    <message>
         <source>This photo cannot be shown</source>
         <translation>Dieses Foto kann nicht angezeigt werden</translation>
+    </message>
+    <message>
+        <source>No photo. Drop photos here, or press Add.</source>
+        <translation>Kein Foto. Ziehen Sie Fotos hierher, oder drücken Sie Hinzufügen.</translation>
+    </message>
+    <message>
+        <source>Preview of the page</source>
+        <translation>Vorschau der Seite</translation>
+    </message>
+    <message>
+        <source>The whole photo is printed.</source>
+        <translation>Das ganze Foto wird gedruckt.</translation>
+    </message>
+    <message>
+        <source>%1 % of the photo is cut off.</source>
+        <translation>%1 % des Fotos werden abgeschnitten.</translation>
+    </message>
+    <message>
+        <source>Drag the photo, or press the arrow keys, to move it; Home puts it in the middle.</source>
+        <translation>Ziehen Sie das Foto oder drücken Sie die Pfeiltasten, um es zu verschieben; Pos1 legt es in die Mitte.</translation>
     </message>
 </context>
 <context>
     <name>printdialog::PrintDialog</name>
     <message>
-        <source>Start corvel-print with a photo to print it.</source>
-        <translation>Starten Sie corvel-print mit einem Foto, um es zu drucken.</translation>
-    </message>
-    <message>
         <source>Print Photo</source>
         <translation>Foto drucken</translation>
-    </message>
-    <message numerus="yes">
-        <source>%1 and %n more</source>
-        <translation>
-            <numerusform>%1 und %n weiteres</numerusform>
-            <numerusform>%1 und %n weitere</numerusform>
-        </translation>
     </message>
     <message>
         <source>Print %1</source>

@@ -12,12 +12,12 @@
     </message>
 </context>
 <context>
-    <name>printdialog::PrintDialog</name>
+    <name>printdialog::PhotoStrip</name>
     <message numerus="yes">
-        <source>%1 and %n more</source>
+        <source>%n photo(s) of this job</source>
         <translation>
-            <numerusform>%1 and %n more</numerusform>
-            <numerusform>%1 and %n more</numerusform>
+            <numerusform>%n photo of this job</numerusform>
+            <numerusform>%n photos of this job</numerusform>
         </translation>
     </message>
 </context>

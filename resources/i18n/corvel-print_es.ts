@@ -225,6 +225,32 @@ queda en el servidor de impresión, se avisa y el código de salida es 0</transl
         <source>--wait is for --batch.</source>
         <translation>--wait es para --batch.</translation>
     </message>
+    <message>
+        <source>the whole photo on the page (fit, the default), the page filled
+and the photo cropped (fill), or the photo by its file&apos;s resolution
+(actual; 300 pixels per inch when the file names none)</source>
+        <translation>la foto entera en la página (fit, lo predeterminado), la página llena y la
+foto recortada (fill) o la foto según la resolución de su archivo
+(actual; 300 píxeles por pulgada si el archivo no indica ninguna)</translation>
+    </message>
+    <message>
+        <source>which part of a cropped photo is kept, in per cent from its left
+and from its top (otherwise 50,50, the middle)</source>
+        <translation>qué parte de una foto recortada se conserva, en tanto por ciento desde su
+izquierda y desde arriba (si no, 50,50, el centro)</translation>
+    </message>
+    <message>
+        <source>There is no scaling &quot;%1&quot;; it is fit, fill or actual.</source>
+        <translation>No existe la escala «%1»; puede ser fit, fill o actual.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no crop; it is two numbers from 0 to 100, such as 50,0.</source>
+        <translation>«%1» no es un recorte; son dos números de 0 a 100, por ejemplo 50,0.</translation>
+    </message>
+    <message>
+        <source>--crop is for --scaling fill or actual; with fit nothing is cropped.</source>
+        <translation>--crop es para --scaling fill o actual; con fit no se recorta nada.</translation>
+    </message>
 </context>
 <context>
     <name>Console</name>
@@ -404,6 +430,29 @@ queda en el servidor de impresión, se avisa y el código de salida es 0</transl
     <message>
         <source>Choices</source>
         <translation>Valores posibles</translation>
+    </message>
+</context>
+<context>
+    <name>PlacementText</name>
+    <message>
+        <source>%1 × %2 in</source>
+        <translation>%1 × %2 pulg.</translation>
+    </message>
+    <message>
+        <source>%1 × %2 cm</source>
+        <translation>%1 × %2 cm</translation>
+    </message>
+    <message>
+        <source>%1 pixels per inch (the file names none)</source>
+        <translation>%1 píxeles por pulgada (el archivo no los indica)</translation>
+    </message>
+    <message>
+        <source>%1 pixels per inch</source>
+        <translation>%1 píxeles por pulgada</translation>
+    </message>
+    <message>
+        <source>%1 % cut off</source>
+        <translation>%1 % recortado</translation>
     </message>
 </context>
 <context>
@@ -1220,24 +1269,12 @@ queda en el servidor de impresión, se avisa y el código de salida es 0</transl
         <translation>No se puede imprimir en una página de %1 × %2 puntos. Elija otro tamaño de papel.</translation>
     </message>
     <message>
-        <source>There is not enough memory for &quot;%1&quot;. Scale it down in a photo program.</source>
-        <translation>No hay memoria suficiente para «%1». Redúzcala en un programa de fotografía.</translation>
-    </message>
-    <message>
         <source>The PDF of &quot;%1&quot; could not be written: %2. Check the disk that it goes to.</source>
         <translation>No se ha podido escribir el PDF de «%1»: %2. Compruebe el disco de destino.</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; could not be put on a page. Save it anew in a photo program.</source>
-        <translation>No se ha podido colocar «%1» en una página. Guárdela de nuevo en un programa de fotografía.</translation>
     </message>
 </context>
 <context>
     <name>printdialog::Photo</name>
-    <message>
-        <source>&quot;%1&quot; is not a photo of a known kind, whatever its name says. Save it as JPEG or PNG.</source>
-        <translation>«%1» no es una foto de un tipo conocido, diga lo que diga su nombre. Guárdela como JPEG o PNG.</translation>
-    </message>
     <message>
         <source>&quot;%1&quot; is too large: %2, where a photo may have %3. Save it with fewer pixels, or as JPEG.</source>
         <translation>«%1» es demasiado grande: %2, y el máximo es %3. Guárdela con menos píxeles o como JPEG.</translation>
@@ -1253,6 +1290,10 @@ queda en el servidor de impresión, se avisa y el código de salida es 0</transl
     <message>
         <source>&quot;%1&quot; is damaged and cannot be shown. Copy it again, or save it anew in a photo program.</source>
         <translation>«%1» está dañada y no se puede mostrar. Cópiela de nuevo o guárdela otra vez en un programa de fotografía.</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for &quot;%1&quot;. Scale it down in a photo program.</source>
+        <translation>No hay memoria suficiente para «%1». Redúzcala en un programa de fotos.</translation>
     </message>
 </context>
 <context>
@@ -1283,6 +1324,52 @@ queda en el servidor de impresión, se avisa y el código de salida es 0</transl
     </message>
 </context>
 <context>
+    <name>printdialog::PhotoFormat</name>
+    <message>
+        <source>camera raw</source>
+        <translation>RAW de cámara</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a photo of the format %2, which needs the package %3. Install it, or save the photo as JPEG.</source>
+        <translation>«%1» es una foto en el formato %2, que necesita el paquete %3. Instálelo o guarde la foto como JPEG.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is of the format %2, which cannot be printed. Save it as one of these: %3.</source>
+        <translation>«%1» está en el formato %2, que no se puede imprimir. Guárdelo en uno de estos: %3.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a photo of a known kind, whatever its name says. Save it as one of these: %2.</source>
+        <translation>«%1» no es una foto de un tipo conocido, sea cual sea su nombre. Guárdelo en uno de estos formatos: %2.</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::PhotoPane</name>
+    <message>
+        <source>&amp;Add…</source>
+        <translation>Aña&amp;dir…</translation>
+    </message>
+    <message>
+        <source>Re&amp;move</source>
+        <translation>&amp;Quitar</translation>
+    </message>
+    <message>
+        <source>Add photos to this job; they can be dropped on the window as well</source>
+        <translation>Añadir fotos a este trabajo; también se pueden soltar en la ventana</translation>
+    </message>
+    <message>
+        <source>Take the photo that is shown out of this job; its file stays</source>
+        <translation>Sacar de este trabajo la foto que se muestra; su archivo se conserva</translation>
+    </message>
+    <message>
+        <source>Add Photos</source>
+        <translation>Añadir fotos</translation>
+    </message>
+    <message>
+        <source>%1 (%2 of %3)</source>
+        <translation>%1 (%2 de %3)</translation>
+    </message>
+</context>
+<context>
     <name>printdialog::PhotoPrinter</name>
     <message>
         <source>Printed %1: %2</source>
@@ -1291,6 +1378,55 @@ queda en el servidor de impresión, se avisa y el código de salida es 0</transl
     <message>
         <source>Sent %1 to %2 as job %3</source>
         <translation>%1 enviada a %2 como trabajo %3</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::PhotoStrip</name>
+    <message>
+        <source>Delete removes a photo; Alt with an arrow key moves it.</source>
+        <translation>Supr quita una foto; Alt con una flecha la mueve.</translation>
+    </message>
+    <message>
+        <source>%1, photo %2 of %3</source>
+        <translation>%1, foto %2 de %3</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n photo(s) of this job</source>
+        <translation>
+            <numerusform>%n foto de este trabajo</numerusform>
+            <numerusform>%n fotos de este trabajo</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::PlacementBar</name>
+    <message>
+        <source>&amp;Turn</source>
+        <translation>Gir&amp;ar</translation>
+    </message>
+    <message>
+        <source>P&amp;lacement:</source>
+        <translation>Co&amp;locación:</translation>
+    </message>
+    <message>
+        <source>Placement of the photo</source>
+        <translation>Colocación de la foto</translation>
+    </message>
+    <message>
+        <source>Fit on the page</source>
+        <translation>Ajustar a la página</translation>
+    </message>
+    <message>
+        <source>Fill the page</source>
+        <translation>Llenar la página</translation>
+    </message>
+    <message>
+        <source>Actual size</source>
+        <translation>Tamaño real</translation>
+    </message>
+    <message>
+        <source>Turn the photo on the page by a quarter, clockwise</source>
+        <translation>Girar la foto en la página un cuarto de vuelta, en sentido horario</translation>
     </message>
 </context>
 <context>
@@ -1425,30 +1561,35 @@ queda en el servidor de impresión, se avisa y el código de salida es 0</transl
         <translation>Vista previa de %1</translation>
     </message>
     <message>
-        <source>No photo</source>
-        <translation>Ninguna foto</translation>
-    </message>
-    <message>
         <source>This photo cannot be shown</source>
         <translation>No se puede mostrar esta foto</translation>
+    </message>
+    <message>
+        <source>No photo. Drop photos here, or press Add.</source>
+        <translation>No hay fotos. Suelte fotos aquí o pulse Añadir.</translation>
+    </message>
+    <message>
+        <source>Preview of the page</source>
+        <translation>Vista previa de la página</translation>
+    </message>
+    <message>
+        <source>The whole photo is printed.</source>
+        <translation>Se imprime la foto entera.</translation>
+    </message>
+    <message>
+        <source>%1 % of the photo is cut off.</source>
+        <translation>Se recorta el %1 % de la foto.</translation>
+    </message>
+    <message>
+        <source>Drag the photo, or press the arrow keys, to move it; Home puts it in the middle.</source>
+        <translation>Arrastre la foto o use las flechas para moverla; Inicio la pone en el centro.</translation>
     </message>
 </context>
 <context>
     <name>printdialog::PrintDialog</name>
     <message>
-        <source>Start corvel-print with a photo to print it.</source>
-        <translation>Inicie corvel-print con una foto para imprimirla.</translation>
-    </message>
-    <message>
         <source>Print Photo</source>
         <translation>Imprimir foto</translation>
-    </message>
-    <message numerus="yes">
-        <source>%1 and %n more</source>
-        <translation>
-            <numerusform>%1 y %n más</numerusform>
-            <numerusform>%1 y %n más</numerusform>
-        </translation>
     </message>
     <message>
         <source>Print %1</source>

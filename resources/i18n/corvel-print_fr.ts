@@ -225,6 +225,32 @@ alors au serveur d’impression, ce qui est signalé, avec le code 0</translatio
         <source>--wait is for --batch.</source>
         <translation>--wait va avec --batch.</translation>
     </message>
+    <message>
+        <source>the whole photo on the page (fit, the default), the page filled
+and the photo cropped (fill), or the photo by its file&apos;s resolution
+(actual; 300 pixels per inch when the file names none)</source>
+        <translation>la photo entière sur la page (fit, par défaut), la page remplie et la
+photo rognée (fill), ou la photo selon la résolution de son fichier
+(actual&#x202f;; 300 pixels par pouce si le fichier n’en indique aucune)</translation>
+    </message>
+    <message>
+        <source>which part of a cropped photo is kept, in per cent from its left
+and from its top (otherwise 50,50, the middle)</source>
+        <translation>la partie conservée d’une photo rognée, en pour cent depuis sa gauche
+et depuis son haut (sinon 50,50, le milieu)</translation>
+    </message>
+    <message>
+        <source>There is no scaling &quot;%1&quot;; it is fit, fill or actual.</source>
+        <translation>La mise à l’échelle «&#x202f;%1&#x202f;» n’existe pas&#x202f;; c’est fit, fill ou actual.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no crop; it is two numbers from 0 to 100, such as 50,0.</source>
+        <translation>«&#x202f;%1&#x202f;» n’est pas un cadrage&#x202f;; il faut deux nombres de 0 à 100, par exemple 50,0.</translation>
+    </message>
+    <message>
+        <source>--crop is for --scaling fill or actual; with fit nothing is cropped.</source>
+        <translation>--crop va avec --scaling fill ou actual&#x202f;; avec fit, rien n’est rogné.</translation>
+    </message>
 </context>
 <context>
     <name>Console</name>
@@ -404,6 +430,29 @@ alors au serveur d’impression, ce qui est signalé, avec le code 0</translatio
     <message>
         <source>Choices</source>
         <translation>Choix possibles</translation>
+    </message>
+</context>
+<context>
+    <name>PlacementText</name>
+    <message>
+        <source>%1 × %2 in</source>
+        <translation>%1 × %2 po</translation>
+    </message>
+    <message>
+        <source>%1 × %2 cm</source>
+        <translation>%1 × %2 cm</translation>
+    </message>
+    <message>
+        <source>%1 pixels per inch (the file names none)</source>
+        <translation>%1 pixels par pouce (non indiqués par le fichier)</translation>
+    </message>
+    <message>
+        <source>%1 pixels per inch</source>
+        <translation>%1 pixels par pouce</translation>
+    </message>
+    <message>
+        <source>%1 % cut off</source>
+        <translation>%1 % rognés</translation>
     </message>
 </context>
 <context>
@@ -1220,24 +1269,12 @@ alors au serveur d’impression, ce qui est signalé, avec le code 0</translatio
         <translation>Impossible d’imprimer sur une page de %1 × %2 points. Choisissez un autre format de papier.</translation>
     </message>
     <message>
-        <source>There is not enough memory for &quot;%1&quot;. Scale it down in a photo program.</source>
-        <translation>La mémoire ne suffit pas pour «&#x202f;%1&#x202f;». Réduisez la photo dans un logiciel de retouche.</translation>
-    </message>
-    <message>
         <source>The PDF of &quot;%1&quot; could not be written: %2. Check the disk that it goes to.</source>
         <translation>Le PDF de «&#x202f;%1&#x202f;» n’a pas pu être écrit&#x202f;: %2. Vérifiez le disque de destination.</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; could not be put on a page. Save it anew in a photo program.</source>
-        <translation>«&#x202f;%1&#x202f;» n’a pas pu être placée sur une page. Enregistrez-la de nouveau dans un logiciel de retouche.</translation>
     </message>
 </context>
 <context>
     <name>printdialog::Photo</name>
-    <message>
-        <source>&quot;%1&quot; is not a photo of a known kind, whatever its name says. Save it as JPEG or PNG.</source>
-        <translation>«&#x202f;%1&#x202f;» n’est pas une photo d’un type connu, quoi qu’en dise son nom. Enregistrez-la en JPEG ou PNG.</translation>
-    </message>
     <message>
         <source>&quot;%1&quot; is too large: %2, where a photo may have %3. Save it with fewer pixels, or as JPEG.</source>
         <translation>«&#x202f;%1&#x202f;» est trop volumineuse&#x202f;: %2, pour un maximum de %3. Enregistrez-la avec moins de pixels, ou en JPEG.</translation>
@@ -1253,6 +1290,10 @@ alors au serveur d’impression, ce qui est signalé, avec le code 0</translatio
     <message>
         <source>&quot;%1&quot; is damaged and cannot be shown. Copy it again, or save it anew in a photo program.</source>
         <translation>«&#x202f;%1&#x202f;» est endommagée et ne peut pas être affichée. Copiez-la de nouveau ou enregistrez-la de nouveau dans un logiciel de retouche.</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for &quot;%1&quot;. Scale it down in a photo program.</source>
+        <translation>La mémoire ne suffit pas pour «&#x202f;%1&#x202f;». Réduisez-la dans un logiciel de photo.</translation>
     </message>
 </context>
 <context>
@@ -1283,6 +1324,52 @@ alors au serveur d’impression, ce qui est signalé, avec le code 0</translatio
     </message>
 </context>
 <context>
+    <name>printdialog::PhotoFormat</name>
+    <message>
+        <source>camera raw</source>
+        <translation>brut d’appareil photo</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a photo of the format %2, which needs the package %3. Install it, or save the photo as JPEG.</source>
+        <translation>«&#x202f;%1&#x202f;» est une photo au format %2, qui demande le paquet %3. Installez-le, ou enregistrez la photo en JPEG.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is of the format %2, which cannot be printed. Save it as one of these: %3.</source>
+        <translation>«&#x202f;%1&#x202f;» est au format %2, qui ne peut pas être imprimé. Enregistrez le fichier dans l’un de ceux-ci&#x202f;: %3.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a photo of a known kind, whatever its name says. Save it as one of these: %2.</source>
+        <translation>«&#x202f;%1&#x202f;» n’est pas une photo d’un type connu, quel que soit son nom. Enregistrez le fichier dans l’un de ces formats&#x202f;: %2.</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::PhotoPane</name>
+    <message>
+        <source>&amp;Add…</source>
+        <translation>A&amp;jouter…</translation>
+    </message>
+    <message>
+        <source>Re&amp;move</source>
+        <translation>E&amp;nlever</translation>
+    </message>
+    <message>
+        <source>Add photos to this job; they can be dropped on the window as well</source>
+        <translation>Ajouter des photos à ce travail&#x202f;; on peut aussi les déposer sur la fenêtre</translation>
+    </message>
+    <message>
+        <source>Take the photo that is shown out of this job; its file stays</source>
+        <translation>Retirer de ce travail la photo affichée&#x202f;; son fichier reste</translation>
+    </message>
+    <message>
+        <source>Add Photos</source>
+        <translation>Ajouter des photos</translation>
+    </message>
+    <message>
+        <source>%1 (%2 of %3)</source>
+        <translation>%1 (%2 sur %3)</translation>
+    </message>
+</context>
+<context>
     <name>printdialog::PhotoPrinter</name>
     <message>
         <source>Printed %1: %2</source>
@@ -1291,6 +1378,55 @@ alors au serveur d’impression, ce qui est signalé, avec le code 0</translatio
     <message>
         <source>Sent %1 to %2 as job %3</source>
         <translation>%1 envoyée à %2 (travail %3)</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::PhotoStrip</name>
+    <message>
+        <source>Delete removes a photo; Alt with an arrow key moves it.</source>
+        <translation>Suppr enlève une photo&#x202f;; Alt avec une flèche la déplace.</translation>
+    </message>
+    <message>
+        <source>%1, photo %2 of %3</source>
+        <translation>%1, photo %2 sur %3</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n photo(s) of this job</source>
+        <translation>
+            <numerusform>%n photo de ce travail</numerusform>
+            <numerusform>%n photos de ce travail</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::PlacementBar</name>
+    <message>
+        <source>&amp;Turn</source>
+        <translation>&amp;Tourner</translation>
+    </message>
+    <message>
+        <source>P&amp;lacement:</source>
+        <translation>P&amp;lacement&#x202f;:</translation>
+    </message>
+    <message>
+        <source>Placement of the photo</source>
+        <translation>Placement de la photo</translation>
+    </message>
+    <message>
+        <source>Fit on the page</source>
+        <translation>Ajuster à la page</translation>
+    </message>
+    <message>
+        <source>Fill the page</source>
+        <translation>Remplir la page</translation>
+    </message>
+    <message>
+        <source>Actual size</source>
+        <translation>Taille réelle</translation>
+    </message>
+    <message>
+        <source>Turn the photo on the page by a quarter, clockwise</source>
+        <translation>Tourner la photo d’un quart de tour sur la page, dans le sens horaire</translation>
     </message>
 </context>
 <context>
@@ -1425,30 +1561,35 @@ alors au serveur d’impression, ce qui est signalé, avec le code 0</translatio
         <translation>Aperçu de %1</translation>
     </message>
     <message>
-        <source>No photo</source>
-        <translation>Aucune photo</translation>
-    </message>
-    <message>
         <source>This photo cannot be shown</source>
         <translation>Cette photo ne peut pas être affichée</translation>
+    </message>
+    <message>
+        <source>No photo. Drop photos here, or press Add.</source>
+        <translation>Aucune photo. Déposez des photos ici ou appuyez sur Ajouter.</translation>
+    </message>
+    <message>
+        <source>Preview of the page</source>
+        <translation>Aperçu de la page</translation>
+    </message>
+    <message>
+        <source>The whole photo is printed.</source>
+        <translation>La photo entière est imprimée.</translation>
+    </message>
+    <message>
+        <source>%1 % of the photo is cut off.</source>
+        <translation>%1 % de la photo sont rognés.</translation>
+    </message>
+    <message>
+        <source>Drag the photo, or press the arrow keys, to move it; Home puts it in the middle.</source>
+        <translation>Faites glisser la photo ou utilisez les flèches pour la déplacer&#x202f;; Début la remet au milieu.</translation>
     </message>
 </context>
 <context>
     <name>printdialog::PrintDialog</name>
     <message>
-        <source>Start corvel-print with a photo to print it.</source>
-        <translation>Lancez corvel-print avec une photo pour l’imprimer.</translation>
-    </message>
-    <message>
         <source>Print Photo</source>
         <translation>Imprimer une photo</translation>
-    </message>
-    <message numerus="yes">
-        <source>%1 and %n more</source>
-        <translation>
-            <numerusform>%1 et %n autre</numerusform>
-            <numerusform>%1 et %n autres</numerusform>
-        </translation>
     </message>
     <message>
         <source>Print %1</source>

@@ -225,6 +225,32 @@ job stays with the print server, and that is told, with exit status 0</source>
         <source>--wait is for --batch.</source>
         <translation>--wait は --batch と一緒に使います。</translation>
     </message>
+    <message>
+        <source>the whole photo on the page (fit, the default), the page filled
+and the photo cropped (fill), or the photo by its file&apos;s resolution
+(actual; 300 pixels per inch when the file names none)</source>
+        <translation>写真全体をページに収める（fit、既定）、ページを写真で埋めて
+はみ出しを切り取る（fill）、ファイルの解像度どおりの大きさにする
+（actual、解像度の指定がなければ 1 インチあたり 300 ピクセル）</translation>
+    </message>
+    <message>
+        <source>which part of a cropped photo is kept, in per cent from its left
+and from its top (otherwise 50,50, the middle)</source>
+        <translation>切り取る写真のどの部分を残すか。左端と上端からの
+パーセント（指定がなければ中央の 50,50）</translation>
+    </message>
+    <message>
+        <source>There is no scaling &quot;%1&quot;; it is fit, fill or actual.</source>
+        <translation>「%1」という拡大縮小はありません。fit、fill、actual のいずれかです。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no crop; it is two numbers from 0 to 100, such as 50,0.</source>
+        <translation>「%1」は切り取り位置ではありません。50,0 のように 0 から 100 までの数を 2 つ指定します。</translation>
+    </message>
+    <message>
+        <source>--crop is for --scaling fill or actual; with fit nothing is cropped.</source>
+        <translation>--crop は --scaling fill または actual と使います。fit では何も切り取られません。</translation>
+    </message>
 </context>
 <context>
     <name>Console</name>
@@ -404,6 +430,29 @@ job stays with the print server, and that is told, with exit status 0</source>
     <message>
         <source>Choices</source>
         <translation>選択肢</translation>
+    </message>
+</context>
+<context>
+    <name>PlacementText</name>
+    <message>
+        <source>%1 × %2 in</source>
+        <translation>%1 × %2 インチ</translation>
+    </message>
+    <message>
+        <source>%1 × %2 cm</source>
+        <translation>%1 × %2 cm</translation>
+    </message>
+    <message>
+        <source>%1 pixels per inch (the file names none)</source>
+        <translation>1 インチあたり %1 ピクセル（ファイルに指定なし）</translation>
+    </message>
+    <message>
+        <source>%1 pixels per inch</source>
+        <translation>1 インチあたり %1 ピクセル</translation>
+    </message>
+    <message>
+        <source>%1 % cut off</source>
+        <translation>%1 % 切り取り</translation>
     </message>
 </context>
 <context>
@@ -1219,24 +1268,12 @@ job stays with the print server, and that is told, with exit status 0</source>
         <translation>%1 × %2 ポイントのページには印刷できません。別の用紙サイズを選んでください。</translation>
     </message>
     <message>
-        <source>There is not enough memory for &quot;%1&quot;. Scale it down in a photo program.</source>
-        <translation>「%1」を扱うメモリが足りません。写真ソフトで縮小してください。</translation>
-    </message>
-    <message>
         <source>The PDF of &quot;%1&quot; could not be written: %2. Check the disk that it goes to.</source>
         <translation>「%1」の PDF を書き込めませんでした: %2。書き込み先のディスクを確認してください。</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; could not be put on a page. Save it anew in a photo program.</source>
-        <translation>「%1」をページに配置できませんでした。写真ソフトで保存し直してください。</translation>
     </message>
 </context>
 <context>
     <name>printdialog::Photo</name>
-    <message>
-        <source>&quot;%1&quot; is not a photo of a known kind, whatever its name says. Save it as JPEG or PNG.</source>
-        <translation>「%1」は、名前にかかわらず、対応している種類の写真ではありません。JPEG か PNG で保存してください。</translation>
-    </message>
     <message>
         <source>&quot;%1&quot; is too large: %2, where a photo may have %3. Save it with fewer pixels, or as JPEG.</source>
         <translation>「%1」は大きすぎます: %2 (上限は %3)。ピクセル数を減らすか、JPEG で保存してください。</translation>
@@ -1252,6 +1289,10 @@ job stays with the print server, and that is told, with exit status 0</source>
     <message>
         <source>&quot;%1&quot; is damaged and cannot be shown. Copy it again, or save it anew in a photo program.</source>
         <translation>「%1」は壊れていて表示できません。もう一度コピーするか、写真ソフトで保存し直してください。</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for &quot;%1&quot;. Scale it down in a photo program.</source>
+        <translation>「%1」にはメモリが足りません。写真ソフトで縮小してください。</translation>
     </message>
 </context>
 <context>
@@ -1282,6 +1323,52 @@ job stays with the print server, and that is told, with exit status 0</source>
     </message>
 </context>
 <context>
+    <name>printdialog::PhotoFormat</name>
+    <message>
+        <source>camera raw</source>
+        <translation>カメラの RAW</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a photo of the format %2, which needs the package %3. Install it, or save the photo as JPEG.</source>
+        <translation>「%1」は %2 形式の写真で、パッケージ %3 が必要です。インストールするか、写真を JPEG で保存してください。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is of the format %2, which cannot be printed. Save it as one of these: %3.</source>
+        <translation>「%1」は %2 形式で、印刷できません。次のいずれかの形式で保存してください: %3。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a photo of a known kind, whatever its name says. Save it as one of these: %2.</source>
+        <translation>「%1」は、名前にかかわらず、既知の種類の写真ではありません。次のいずれかの形式で保存してください: %2。</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::PhotoPane</name>
+    <message>
+        <source>&amp;Add…</source>
+        <translation>追加(&amp;A)…</translation>
+    </message>
+    <message>
+        <source>Re&amp;move</source>
+        <translation>取り除く(&amp;M)</translation>
+    </message>
+    <message>
+        <source>Add photos to this job; they can be dropped on the window as well</source>
+        <translation>このジョブに写真を追加します。ウィンドウにドロップすることもできます</translation>
+    </message>
+    <message>
+        <source>Take the photo that is shown out of this job; its file stays</source>
+        <translation>表示中の写真をこのジョブから外します。ファイルは残ります</translation>
+    </message>
+    <message>
+        <source>Add Photos</source>
+        <translation>写真を追加</translation>
+    </message>
+    <message>
+        <source>%1 (%2 of %3)</source>
+        <translation>%1（%2／%3）</translation>
+    </message>
+</context>
+<context>
     <name>printdialog::PhotoPrinter</name>
     <message>
         <source>Printed %1: %2</source>
@@ -1290,6 +1377,54 @@ job stays with the print server, and that is told, with exit status 0</source>
     <message>
         <source>Sent %1 to %2 as job %3</source>
         <translation>%1 を %2 に送りました (ジョブ %3)</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::PhotoStrip</name>
+    <message>
+        <source>Delete removes a photo; Alt with an arrow key moves it.</source>
+        <translation>Delete キーで写真を外し、Alt と矢印キーで移動します。</translation>
+    </message>
+    <message>
+        <source>%1, photo %2 of %3</source>
+        <translation>%1、写真 %2／%3</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n photo(s) of this job</source>
+        <translation>
+            <numerusform>このジョブの写真 %n 枚</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::PlacementBar</name>
+    <message>
+        <source>&amp;Turn</source>
+        <translation>回転(&amp;T)</translation>
+    </message>
+    <message>
+        <source>P&amp;lacement:</source>
+        <translation>配置(&amp;L):</translation>
+    </message>
+    <message>
+        <source>Placement of the photo</source>
+        <translation>写真の配置</translation>
+    </message>
+    <message>
+        <source>Fit on the page</source>
+        <translation>ページに収める</translation>
+    </message>
+    <message>
+        <source>Fill the page</source>
+        <translation>ページいっぱい</translation>
+    </message>
+    <message>
+        <source>Actual size</source>
+        <translation>実際の大きさ</translation>
+    </message>
+    <message>
+        <source>Turn the photo on the page by a quarter, clockwise</source>
+        <translation>ページ上の写真を時計回りに 90 度回転します</translation>
     </message>
 </context>
 <context>
@@ -1424,29 +1559,35 @@ job stays with the print server, and that is told, with exit status 0</source>
         <translation>%1 のプレビュー</translation>
     </message>
     <message>
-        <source>No photo</source>
-        <translation>写真がありません</translation>
-    </message>
-    <message>
         <source>This photo cannot be shown</source>
         <translation>この写真は表示できません</translation>
+    </message>
+    <message>
+        <source>No photo. Drop photos here, or press Add.</source>
+        <translation>写真がありません。ここに写真をドロップするか、［追加］を押してください。</translation>
+    </message>
+    <message>
+        <source>Preview of the page</source>
+        <translation>ページのプレビュー</translation>
+    </message>
+    <message>
+        <source>The whole photo is printed.</source>
+        <translation>写真全体が印刷されます。</translation>
+    </message>
+    <message>
+        <source>%1 % of the photo is cut off.</source>
+        <translation>写真の %1 % が切り取られます。</translation>
+    </message>
+    <message>
+        <source>Drag the photo, or press the arrow keys, to move it; Home puts it in the middle.</source>
+        <translation>写真をドラッグするか矢印キーで移動します。Home キーで中央に戻ります。</translation>
     </message>
 </context>
 <context>
     <name>printdialog::PrintDialog</name>
     <message>
-        <source>Start corvel-print with a photo to print it.</source>
-        <translation>印刷するには、写真を指定して corvel-print を起動してください。</translation>
-    </message>
-    <message>
         <source>Print Photo</source>
         <translation>写真の印刷</translation>
-    </message>
-    <message numerus="yes">
-        <source>%1 and %n more</source>
-        <translation>
-            <numerusform>%1、ほか %n 枚</numerusform>
-        </translation>
     </message>
     <message>
         <source>Print %1</source>

@@ -67,6 +67,11 @@ void RefusalsTest::wrongUsage_data()
     row("value missing", {samplePhoto, u"--printer"_s}, u"printer"_s);
     row("value empty", {u"--batch"_s, u"--ppd="_s, samplePhoto}, u"--ppd"_s);
     row("value for a flag", {u"--batch=yes"_s, samplePhoto}, u"batch"_s);
+    row("unknown scaling", {u"--batch"_s, u"--scaling=big"_s, samplePhoto}, u"fit, fill or actual"_s);
+    row("crop of one number", {u"--batch"_s, u"--scaling=fill"_s, u"--crop=50"_s, samplePhoto}, u"\"50\""_s);
+    row("crop outside", {u"--batch"_s, u"--scaling=fill"_s, u"--crop=50,101"_s, samplePhoto}, u"101"_s);
+    row("crop of no number", {u"--batch"_s, u"--scaling=fill"_s, u"--crop=nan,5"_s, samplePhoto}, u"nan"_s);
+    row("crop without need", {u"--batch"_s, u"--crop=50,50"_s, samplePhoto}, u"--scaling"_s);
     row("choice without =", {u"--batch"_s, u"-o"_s, u"Red"_s, samplePhoto}, u"KEY=CHOICE"_s);
     row("choice without keyword", {u"--batch"_s, u"-o"_s, u"=12"_s, samplePhoto}, u"KEY=CHOICE"_s);
     row("mode", {u"--batch"_s, u"--mode"_s, u"strict"_s, samplePhoto}, u"strict"_s);

@@ -9,9 +9,14 @@
 #include <QtCore/QProcess>
 #include <QtCore/QRegularExpression>
 #include <QtCore/QTemporaryDir>
+#include <QtCore/QtEndian>
+#include <QtGui/QColorSpace>
 #include <QtGui/QImageWriter>
 #include <QtTest/QTest>
 
+#include <zlib.h>
+
+#include <cstdlib>
 #include <limits>
 
 using namespace printdialog;
@@ -46,11 +51,12 @@ private:
         return *Photo::open(pathOf(name));
     }
 
-    QByteArray pdfOf(const Photo &photo, const PageGeometry &page, PdfWriter::Embedding expected)
+    QByteArray pdfOf(const Photo &photo, const PageGeometry &page, PdfWriter::Embedding expected,
+                     const PlacementChoice &choice = {})
     {
         QBuffer buffer;
         buffer.open(QIODevice::WriteOnly);
-        const auto embedding = PdfWriter::write(photo, page, buffer);
+        const auto embedding = PdfWriter::write(photo, page, buffer, choice);
         if (!embedding || *embedding != expected)
             QTest::qFail("not embedded as expected", __FILE__, __LINE__);
         samples::store(pathOf(u"photo.pdf"_s), buffer.data());
@@ -84,6 +90,11 @@ private Q_SLOTS:
     void panorama();
     void cmykKeepsItsColours();
     void pixelsAreLossless();
+    void pngsOfAllKinds_data();
+    void pngsOfAllKinds();
+    void pngWithoutAllItsPixels();
+    void profileIsAppliedOnce_data();
+    void profileIsAppliedOnce();
     void tiffIsTurnedOnce();
     void metadata();
     void faults_data();
@@ -122,7 +133,7 @@ void PdfWriterTest::jpegGoesInUntouchedAndUpright()
     QCOMPARE(samples::cornersOf(pixels, target, -3), u"WWWW"_s);
 }
 
-/// Wider than the images that cairo has itself.
+/// Wider than image readers and painters go.
 void PdfWriterTest::panorama()
 {
     const QByteArray jpeg = samples::encoded(samples::quarters(QSize(40000, 40)), "jpeg");
@@ -132,7 +143,9 @@ void PdfWriterTest::panorama()
 
 void PdfWriterTest::cmykKeepsItsColours()
 {
-    pdfOf(photoOf(samples::redCmykJpeg()), portraitPage, PdfWriter::Embedding::Pixels);
+    const QByteArray jpeg = samples::redCmykJpeg();
+    pdfOf(photoOf(jpeg), portraitPage, PdfWriter::Embedding::OriginalJpeg);
+    QVERIFY(embedded(u"jpg"_s) == jpeg);
     QCOMPARE(samples::cornersOf(rendered(), QRectF(20, 85, 250, 250), 5), u"RRRR"_s);
 }
 
@@ -151,6 +164,105 @@ void PdfWriterTest::pixelsAreLossless()
     }
     pdfOf(photoOf(samples::encoded(picture, "png")), portraitPage, PdfWriter::Embedding::Pixels);
     QCOMPARE(QImage::fromData(embedded(u"png"_s)).convertToFormat(QImage::Format_RGB32), expected);
+}
+
+/// The compressed pixels of a PNG go in as they are, where a PDF knows the kind, and look alike either way.
+void PdfWriterTest::pngsOfAllKinds_data()
+{
+    QTest::addColumn<QImage>("picture");
+    QTest::addColumn<bool>("goesInUntouched");
+    const QImage picture = samples::quarters(QSize(301, 201));
+    const QImage grey = picture.convertToFormat(QImage::Format_Grayscale8);
+    QImage half = picture.convertToFormat(QImage::Format_ARGB32);
+    half.setAlphaChannel(QImage(half.size(), QImage::Format_Alpha8));
+    QTest::newRow("colour") << picture << true;
+    QTest::newRow("colour of 16 bits") << picture.convertToFormat(QImage::Format_RGBX64) << true;
+    QTest::newRow("grey") << grey << true;
+    QTest::newRow("grey of 16 bits") << picture.convertToFormat(QImage::Format_Grayscale16) << true;
+    QTest::newRow("palette") << picture.convertToFormat(QImage::Format_Indexed8) << true;
+    QTest::newRow("black and white") << grey.convertToFormat(QImage::Format_Mono, Qt::ThresholdDither)
+                                     << true;
+    QTest::newRow("opaque alpha") << picture.convertToFormat(QImage::Format_ARGB32) << false;
+}
+
+void PdfWriterTest::pngsOfAllKinds()
+{
+    QFETCH(const QImage, picture);
+    QFETCH(const bool, goesInUntouched);
+    const QByteArray png = samples::encoded(picture, "png");
+    const QByteArray pdf =
+        pdfOf(photoOf(png), landscapePage,
+              goesInUntouched ? PdfWriter::Embedding::OriginalPng : PdfWriter::Embedding::Pixels);
+    const QImage pixels = rendered();
+    const QImage expected = QImage::fromData(png).convertToFormat(QImage::Format_RGB32);
+    const QRectF target(33, 11, 374, 248);
+    for (const QPointF corner :
+         {QPointF(0.1, 0.1), QPointF(0.9, 0.1), QPointF(0.1, 0.9), QPointF(0.9, 0.9)}) {
+        const QColor found = pixels.pixelColor(
+            (target.topLeft() + QPointF(corner.x() * target.width(), corner.y() * target.height()))
+                .toPoint());
+        const QColor wanted = expected.pixelColor(int(corner.x() * 300), int(corner.y() * 200));
+        for (const int difference :
+             {found.red() - wanted.red(), found.green() - wanted.green(), found.blue() - wanted.blue()})
+            QVERIFY2(std::abs(difference) < 4, qPrintable(found.name() + wanted.name()));
+    }
+    QVERIFY(pdf.size() < png.size() + 2000);
+}
+
+/// Damage that the checksums do not show is found out before anything of it is printed.
+void PdfWriterTest::pngWithoutAllItsPixels()
+{
+    QByteArray png = samples::encoded(samples::quarters(QSize(30, 20)), "png");
+    const qsizetype height = png.indexOf("IHDR") + 8;
+    png[height + 3] = 21;
+    const quint32 sum = quint32(crc32(0, reinterpret_cast<const Bytef *>(png.constData() + height - 8), 17));
+    qToBigEndian(sum, png.data() + height + 9);
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    const auto written = PdfWriter::write(photoOf(png), portraitPage, buffer);
+    QVERIFY(!written);
+    QCOMPARE(int(written.failure().reason), int(PdfFault::PhotoUnusable));
+    QCOMPARE(buffer.data().size(), 0);
+}
+
+/// By a profile that swaps red and green: applied once, whichever way the photo goes in, and in the preview.
+void PdfWriterTest::profileIsAppliedOnce_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<QString>("corners");
+    const QImage picture = samples::quarters(QSize(300, 200));
+    QImage tagged = picture;
+    tagged.setColorSpace(QColorSpace::fromIccProfile(samples::swappedProfile()));
+    const QByteArray jpeg = samples::encoded(picture, "jpeg");
+    const QByteArray png = samples::encoded(tagged, "png");
+    const QByteArray cmyk = samples::redCmykJpeg();
+    const QByteArray grey = samples::encoded(picture.convertToFormat(QImage::Format_Grayscale8), "jpeg");
+    QTest::newRow("JPEG") << samples::withProfile(jpeg, samples::swappedProfile()) << u"GRBY"_s;
+    QTest::newRow("PNG") << png << u"GRBY"_s;
+    QTest::newRow("PNG with alpha") << samples::encoded(tagged.convertToFormat(QImage::Format_ARGB32), "png")
+                                    << u"GRBY"_s;
+    QTest::newRow("JPEG that is decoded")
+        << samples::withProfile(jpeg.first(2) + "\xff\xff" + jpeg.sliced(2), samples::swappedProfile())
+        << u"GRBY"_s;
+    QTest::newRow("JPEG, profile damaged") << samples::withProfile(jpeg, QByteArray(400, 'x')) << u"RGBY"_s;
+    QTest::newRow("CMYK with a profile of RGB")
+        << samples::withProfile(cmyk, samples::swappedProfile()) << u"RRRR"_s;
+}
+
+void PdfWriterTest::profileIsAppliedOnce()
+{
+    QFETCH(const QByteArray, content);
+    QFETCH(const QString, corners);
+    const Photo photo = photoOf(content);
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    QVERIFY(PdfWriter::write(photo, landscapePage, buffer));
+    samples::store(pathOf(u"photo.pdf"_s), buffer.data());
+    const QImage preview = photo.preview(QSize(300, 300));
+    const QRectF target =
+        preview.width() == preview.height() ? QRectF(95, 10, 250, 250) : QRectF(32.5, 10, 375, 250);
+    QCOMPARE(samples::cornersOf(rendered(), target, 10), corners);
+    QCOMPARE(samples::cornersOf(preview, preview.rect(), 5), corners);
 }
 
 void PdfWriterTest::tiffIsTurnedOnce()

@@ -3,7 +3,7 @@
 
 #include "Photo.h"
 #include "JpegHeader.h"
-#include "PhotoPlacement.h"
+#include "PhotoFormat.h"
 #include "SamplePhotos.h"
 
 #include <QtCore/QTemporaryDir>
@@ -11,6 +11,8 @@
 
 #include <sys/resource.h>
 #include <sys/stat.h>
+
+#include <cmath>
 
 using namespace printdialog;
 using namespace Qt::StringLiterals;
@@ -35,8 +37,10 @@ private Q_SLOTS:
     void damagedHeadersAreSafe();
     void orientations_data();
     void orientations();
-    void placement_data();
-    void placement();
+    void resolutions_data();
+    void resolutions();
+    void unreadableFormats_data();
+    void unreadableFormats();
 };
 
 void PhotoTest::faults_data()
@@ -66,7 +70,7 @@ void PhotoTest::faults_data()
     QTest::newRow("too many bytes") << u"long.jpg"_s << QByteArray() << PhotoFault::TooLarge;
     QTest::newRow("JPEG of too many pixels") << u"immense.jpg"_s << immense << PhotoFault::TooLarge;
     QTest::newRow("PNG too wide") << u"wide.png"_s
-                                  << samples::encoded(QImage(40000, 1, QImage::Format_Mono), "png")
+                                  << samples::encoded(QImage(40000, 1, QImage::Format_ARGB32), "png")
                                   << PhotoFault::TooLarge;
     QTest::newRow("text named .jpg") << u"text.jpg"_s << QByteArray("Dear all,") << PhotoFault::UnknownType;
     QTest::newRow("drawing") << u"d.svg"_s << QByteArray("<?xml version='1.0'?><svg/>")
@@ -165,7 +169,7 @@ void PhotoTest::wholeJpegs_data()
     QTest::newRow("12 bits") << samples::undecodableJpeg() << false;
     QTest::newRow("arithmetic coding") << arithmetic << false;
     QTest::newRow("RGB by its components' names alone") << rgb << false;
-    QTest::newRow("CMYK") << samples::redCmykJpeg() << false;
+    QTest::newRow("CMYK") << samples::redCmykJpeg() << true;
 }
 
 void PhotoTest::wholeJpegs()
@@ -233,33 +237,77 @@ void PhotoTest::orientations()
     QCOMPARE(samples::cornersOf(small, small.rect(), 10), samples::seenCorners[std::size_t(seenAs)]);
 }
 
-void PhotoTest::placement_data()
+void PhotoTest::resolutions_data()
 {
-    QTest::addColumn<QSize>("photo");
-    QTest::addColumn<QRectF>("imageable");
-    QTest::addColumn<QRectF>("target");
-    QTest::addColumn<int>("quarterTurns");
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<double>("resolution"); // 0: none
 
-    const QRectF portrait(10, 20, 200, 300);
-    const QRectF landscape(10, 20, 300, 200);
-    QTest::newRow("same shape") << QSize(2000, 3000) << portrait << portrait << 0;
-    QTest::newRow("landscape on portrait") << QSize(3000, 2000) << portrait << portrait << 1;
-    QTest::newRow("portrait on landscape") << QSize(2000, 3000) << landscape << landscape << 1;
-    QTest::newRow("square") << QSize(999, 999) << portrait << QRectF(10, 70, 200, 200) << 0;
-    QTest::newRow("any shape on a square")
-        << QSize(400, 200) << QRectF(0, 0, 100, 100) << QRectF(0, 25, 100, 50) << 0;
-    QTest::newRow("panorama, enlarged") << QSize(30, 10) << portrait << QRectF(60, 20, 100, 300) << 1;
+    QImage picture = samples::quarters(QSize(60, 40));
+    picture.setDotsPerMeterX(7874); // 200 per inch
+    picture.setDotsPerMeterY(7874);
+    const QByteArray jpeg = samples::encoded(picture, "jpeg");
+    const auto exif = [&jpeg](int perInch) {
+        return samples::withExif(jpeg, samples::tiffWithResolution(perInch));
+    };
+    QByteArray noUnit = jpeg;
+    noUnit[jpeg.indexOf("JFIF") + 7] = 0;
+    QByteArray perCentimetre = jpeg;
+    perCentimetre[jpeg.indexOf("JFIF") + 7] = 2;
+    QByteArray twoDirections = jpeg;
+    twoDirections[jpeg.indexOf("JFIF") + 11] = 100;
+    QByteArray camera = exif(72); // says twice that it does not know
+    camera[camera.indexOf("JFIF") + 9] = 72;
+    camera[camera.indexOf("JFIF") + 11] = 72;
+    QTest::newRow("JFIF") << jpeg << 200.0;
+    QTest::newRow("JFIF, per centimetre") << perCentimetre << 508.0;
+    QTest::newRow("JFIF of a ratio only") << noUnit << 0.0;
+    QTest::newRow("two directions that differ") << twoDirections << 0.0;
+    QTest::newRow("Exif before JFIF") << exif(250) << 250.0;
+    QTest::newRow("no number") << exif(0) << 200.0;
+    QTest::newRow("a camera that does not know") << camera << 0.0;
+    QTest::newRow("PNG") << samples::encoded(picture, "png") << 200.0;
 }
 
-void PhotoTest::placement()
+void PhotoTest::resolutions()
 {
-    QFETCH(const QSize, photo);
-    QFETCH(const QRectF, imageable);
-    QFETCH(const QRectF, target);
-    QFETCH(const int, quarterTurns);
-    const auto placement = PhotoPlacement::fit(photo, {QSizeF(500, 500), imageable});
-    QCOMPARE(placement.target, target);
-    QCOMPARE(placement.quarterTurns, quarterTurns);
+    QFETCH(const QByteArray, content);
+    QFETCH(const double, resolution);
+    samples::store(pathOf(u"photo"_s), content);
+    const auto photo = Photo::open(pathOf(u"photo"_s));
+    QVERIFY(photo);
+    QCOMPARE(photo->resolution().has_value(), resolution > 0);
+    QVERIFY(std::abs(photo->printedResolution() - (resolution > 0 ? resolution : 300)) < 0.1);
+}
+
+/// What cannot be read is called by its name, with what would help.
+void PhotoTest::unreadableFormats_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<QString>("named");
+    const QByteArray rest(64, '\0');
+    QTest::newRow("raw by its letters") << QByteArray("II*\0\x10\0\0\0CR\2\0", 12) + rest << u"camera raw"_s;
+    QTest::newRow("raw in boxes") << QByteArray("\0\0\0\x18"
+                                                "ftypcrx ",
+                                                12) +
+                                         rest
+                                  << u"camera raw"_s;
+    QTest::newRow("JPEG XL") << QByteArray("\xff\x0a") + rest << u"JPEG XL"_s;
+    QTest::newRow("PDF") << QByteArray("%PDF-1.7") + rest << u"PDF"_s;
+    const bool readsWebp = PhotoFormat::of(QByteArray("RIFF\0\0\0\0WEBP", 12)).isReadable();
+    if (!readsWebp)
+        QTest::newRow("WebP") << QByteArray("RIFF\0\0\0\0WEBP", 12) + rest << u"qt6-image-formats-plugins"_s;
+}
+
+void PhotoTest::unreadableFormats()
+{
+    QFETCH(const QByteArray, content);
+    QFETCH(const QString, named);
+    samples::store(pathOf(u"photo"_s), content);
+    const auto photo = Photo::open(pathOf(u"photo"_s));
+    QVERIFY(!photo);
+    QVERIFY2(photo.failure().text.contains(named), qPrintable(photo.failure().text));
+    QCOMPARE(photo.failure().reason,
+             named.contains(u"plugins") ? PhotoFault::NeedsPackage : PhotoFault::UnknownType);
 }
 
 QTEST_GUILESS_MAIN(PhotoTest)

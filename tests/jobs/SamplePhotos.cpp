@@ -5,12 +5,22 @@
 
 #include <QtCore/QBuffer>
 #include <QtCore/QFile>
+#include <QtGui/QColorSpace>
 #include <QtGui/QImageWriter>
 #include <QtGui/QPainter>
 
 #include <unistd.h>
 
 namespace samples {
+namespace {
+
+QByteArray segment(char marker, const QByteArray &content)
+{
+    const auto size = content.size() + 2;
+    return QByteArray("\xff") + marker + static_cast<char>(size >> 8) + static_cast<char>(size) + content;
+}
+
+} // namespace
 
 QImage quarters(const QSize &size)
 {
@@ -69,10 +79,42 @@ QByteArray withOrientation(const QByteArray &jpeg, int orientation, bool bigEndi
                                              30);
     tiff += value;
     tiff += QByteArray(bigEndian ? 6 : 7, '\0');
-    QByteArray segment("\xff\xe1\0\0Exif\0\0", 10);
-    segment += tiff;
-    segment[3] = static_cast<char>(segment.size() - 2);
-    return jpeg.first(2) + segment + jpeg.sliced(2);
+    return withExif(jpeg, tiff);
+}
+
+QByteArray withExif(const QByteArray &jpeg, const QByteArray &tiff)
+{
+    constexpr qsizetype jfifSize = 20; // with the marker of the file's begin
+    return jpeg.first(jfifSize) + segment('\xe1', QByteArray("Exif\0\0", 6) + tiff) + jpeg.sliced(jfifSize);
+}
+
+QByteArray tiffWithResolution(int perInch)
+{
+    QByteArray tiff("II*\0\x08\0\0\0\x02\0"
+                    "\x1a\x01\x05\0\x01\0\0\0\x26\0\0\0"
+                    "\x1b\x01\x05\0\x01\0\0\0\x26\0\0\0"
+                    "\0\0\0\0"
+                    "\0\0\0\0\x01\0\0\0",
+                    46);
+    tiff[38] = static_cast<char>(perInch);
+    tiff[39] = static_cast<char>(perInch >> 8);
+    return tiff;
+}
+
+QByteArray swappedProfile()
+{
+    return QColorSpace(QPointF(0.3127, 0.329), QPointF(0.3, 0.6), QPointF(0.64, 0.33), QPointF(0.15, 0.06),
+                       QColorSpace::TransferFunction::SRgb)
+        .iccProfile();
+}
+
+QByteArray withProfile(const QByteArray &jpeg, const QByteArray &icc)
+{
+    const qsizetype half = icc.size() / 2;
+    const QByteArray name("ICC_PROFILE\0", 12);
+    // The parts the wrong way round, which is allowed.
+    return jpeg.first(2) + segment('\xe2', name + "\2\2" + icc.sliced(half)) +
+           segment('\xe2', name + "\1\2" + icc.first(half)) + jpeg.sliced(2);
 }
 
 QByteArray redCmykJpeg()

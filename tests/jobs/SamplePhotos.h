@@ -38,6 +38,16 @@ QString cornersOf(const QImage &image, const QRectF &area, double inside);
 QByteArray encoded(const QImage &image, const char *format, bool progressive = false);
 /// A JPEG with an Exif block that holds an orientation, in either byte order.
 QByteArray withOrientation(const QByteArray &jpeg, int orientation, bool bigEndian = false);
+/// A JPEG with a TIFF block as its Exif block.
+QByteArray withExif(const QByteArray &jpeg, const QByteArray &tiff);
+/// A TIFF block that holds only a resolution, in pixels per inch.
+QByteArray tiffWithResolution(int perInch);
+
+/// The ICC profile of a device whose red is sRGB's green, and the other way round: what is shown by it tells
+/// whether it was applied, and applied twice it does nothing.
+QByteArray swappedProfile();
+QByteArray withProfile(const QByteArray &jpeg, const QByteArray &icc);
+
 /// A red JPEG of 16 x 16 pixels in CMYK, inverted as photo programs store it.
 QByteArray redCmykJpeg();
 

@@ -1,0 +1,100 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "ColourProfile.h"
+
+#include <QtGui/QColorSpace>
+
+#include <lcms2.h>
+
+#include <memory>
+
+namespace printdialog {
+namespace {
+
+struct ProfileCloser
+{
+    void operator()(void *profile) const { cmsCloseProfile(profile); }
+};
+struct TransformDeleter
+{
+    void operator()(void *transform) const { cmsDeleteTransform(transform); }
+};
+using Profile = std::unique_ptr<void, ProfileCloser>;
+using Transform = std::unique_ptr<void, TransformDeleter>;
+
+constexpr qsizetype largestProfile = 16 << 20; // bytes; the largest of printers have a few megabytes
+
+Profile opened(const QByteArray &icc)
+{
+    if (icc.isEmpty() || icc.size() > largestProfile)
+        return {};
+    return Profile(cmsOpenProfileFromMem(icc.constData(), static_cast<cmsUInt32Number>(icc.size())));
+}
+
+int componentsOf(cmsHPROFILE profile)
+{
+    switch (cmsGetDeviceClass(profile)) {
+    case cmsSigInputClass:
+    case cmsSigDisplayClass:
+    case cmsSigOutputClass:
+    case cmsSigColorSpaceClass:
+        break;
+    default:
+        return 0; // links between devices, named colours
+    }
+    switch (cmsGetColorSpace(profile)) {
+    case cmsSigGrayData:
+        return 1;
+    case cmsSigRgbData:
+        return 3;
+    case cmsSigCmykData:
+        return 4;
+    default:
+        return 0;
+    }
+}
+
+} // namespace
+
+ColourProfile ColourProfile::fromIcc(const QByteArray &icc)
+{
+    const Profile profile = opened(icc);
+    ColourProfile result;
+    if (profile && (result.components_ = componentsOf(profile.get())) > 0)
+        result.icc_ = icc;
+    return result;
+}
+
+ColourProfile ColourProfile::of(const QImage &image)
+{
+    const QColorSpace space = image.colorSpace();
+    return space.isValid() && space != QColorSpace(QColorSpace::SRgb) ? fromIcc(space.iccProfile())
+                                                                      : ColourProfile();
+}
+
+QImage ColourProfile::toScreen(const QImage &image) const
+{
+    const bool isGrey = image.format() == QImage::Format_Grayscale8;
+    if (image.isNull() || components_ != (isGrey ? 1 : 3))
+        return image;
+    const Profile source = opened(icc_);
+    const Profile screen(cmsCreate_sRGBProfile());
+    const bool hasAlpha = image.hasAlphaChannel();
+    const QImage pixels = isGrey     ? image
+                          : hasAlpha ? image.convertToFormat(QImage::Format_ARGB32)
+                                     : image.convertToFormat(QImage::Format_RGB32);
+    QImage result(image.size(), hasAlpha ? QImage::Format_ARGB32 : QImage::Format_RGB32);
+    const Transform transform(cmsCreateTransform(source.get(), isGrey ? TYPE_GRAY_8 : TYPE_BGRA_8,
+                                                 screen.get(), TYPE_BGRA_8, INTENT_RELATIVE_COLORIMETRIC,
+                                                 cmsFLAGS_BLACKPOINTCOMPENSATION | cmsFLAGS_COPY_ALPHA));
+    if (!transform || result.isNull())
+        return image;
+    result.fill(Qt::white);
+    for (int y = 0; y < pixels.height(); ++y)
+        cmsDoTransform(transform.get(), pixels.constScanLine(y), result.scanLine(y),
+                       static_cast<cmsUInt32Number>(pixels.width()));
+    return result;
+}
+
+} // namespace printdialog

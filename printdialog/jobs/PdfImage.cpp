@@ -1,0 +1,147 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "PdfImage.h"
+
+#include "DeflatedRows.h"
+#include "JpegHeader.h"
+#include "PngHeader.h"
+
+#include <QtGui/QPainter>
+
+namespace printdialog {
+namespace {
+
+/// The picture as it lies on white paper, in a format whose bytes are a PDF's; null when memory is short.
+QImage onPaper(QImage image)
+{
+    if (image.hasAlphaChannel()) {
+        QImage paper(image.size(), QImage::Format_RGB32);
+        if (paper.isNull())
+            return paper;
+        paper.fill(Qt::white);
+        QPainter(&paper).drawImage(QPoint(0, 0), image);
+        image = paper;
+    }
+    const bool isGrey =
+        image.format() == QImage::Format_Grayscale8 || image.format() == QImage::Format_Grayscale16;
+    image.convertTo(isGrey ? QImage::Format_Grayscale8 : QImage::Format_RGB888);
+    return image;
+}
+
+QByteArray deviceSpace(int components)
+{
+    return components == 1 ? "/DeviceGray" : components == 3 ? "/DeviceRGB" : "/DeviceCMYK";
+}
+
+/// The colour space of an image with so many numbers to a colour: by the profile when that is for as many.
+QByteArray colourSpace(PdfFile &file, const ColourProfile &profile, int components)
+{
+    if (profile.components() != components)
+        return deviceSpace(components);
+    const int number = file.reserve();
+    file.beginStream(number, "/N " + QByteArray::number(components) + " /Alternate " +
+                                 deviceSpace(components) + " /Filter /FlateDecode");
+    constexpr qsizetype lengthSize = 4; // which qCompress() puts before the data
+    file.writeData(QByteArrayView(qCompress(profile.icc())).sliced(lengthSize));
+    file.endStream();
+    return "[/ICCBased " + PdfFile::reference(number) + "]";
+}
+
+QByteArray entriesOf(const QSize &size, const QByteArray &colourSpace, int bits)
+{
+    return "/Type /XObject /Subtype /Image /Interpolate true /Width " + QByteArray::number(size.width()) +
+           " /Height " + QByteArray::number(size.height()) + " /ColorSpace " + colourSpace +
+           " /BitsPerComponent " + QByteArray::number(bits);
+}
+
+QByteArray predicted(const QSize &size, int components, int bits)
+{
+    return " /Filter /FlateDecode /DecodeParms << /Predictor 15 /Colors " + QByteArray::number(components) +
+           " /BitsPerComponent " + QByteArray::number(bits) + " /Columns " +
+           QByteArray::number(size.width()) + " >>";
+}
+
+} // namespace
+
+Result<PdfImage, PhotoFault> PdfImage::of(const Photo &photo)
+{
+    PdfImage image(photo);
+    if (photo.isEmbeddable()) {
+        image.embedding_ = Embedding::OriginalJpeg;
+        if (photo.format() == "jpeg")
+            return image;
+        image.embedding_ = Embedding::OriginalPng;
+        if (!PngHeader::read(photo.content()).hasAllPixels())
+            return photo.broken(QStringLiteral("the PNG data do not make the picture"));
+        return image;
+    }
+    auto decoded = photo.decoded();
+    if (!decoded)
+        return decoded.failure();
+    image.pixels_ = onPaper(*std::move(decoded));
+    if (image.pixels_.isNull())
+        return photo.memoryFailure();
+    return image;
+}
+
+int PdfImage::write(PdfFile &file) const
+{
+    const int number = file.reserve();
+    switch (embedding_) {
+    case Embedding::OriginalJpeg:
+        writeJpeg(file, number);
+        break;
+    case Embedding::OriginalPng:
+        writePng(file, number);
+        break;
+    case Embedding::Pixels:
+        writePixels(file, number);
+        break;
+    }
+    return number;
+}
+
+void PdfImage::writeJpeg(PdfFile &file, int number) const
+{
+    const QByteArray content = photo_.content();
+    const JpegHeader header = JpegHeader::read(content);
+    const QByteArray space = colourSpace(file, photo_.profile(), header.components);
+    // PDF readers ignore by what mark programs tell that the inks are inverted.
+    const QByteArray inverted = header.isInverted ? " /Decode [1 0 1 0 1 0 1 0]" : "";
+    file.beginStream(number, entriesOf(header.size, space, 8) + inverted + " /Filter /DCTDecode");
+    file.writeData(content);
+    file.endStream();
+}
+
+void PdfImage::writePng(PdfFile &file, int number) const
+{
+    const QByteArray content = photo_.content();
+    const PngHeader header = PngHeader::read(content);
+    const int bits = header.bitsPerSample;
+    QByteArray space = colourSpace(file, photo_.profile(), header.palette.isEmpty() ? header.components : 3);
+    if (!header.palette.isEmpty())
+        space = "[/Indexed " + space + ' ' + QByteArray::number(header.palette.size() / 3 - 1) + " <" +
+                header.palette.toHex() + ">]";
+    file.beginStream(number,
+                     entriesOf(header.size, space, bits) + predicted(header.size, header.components, bits));
+    for (const QByteArrayView part : header.data)
+        file.writeData(part);
+    file.endStream();
+}
+
+void PdfImage::writePixels(PdfFile &file, int number) const
+{
+    const int components = pixels_.format() == QImage::Format_Grayscale8 ? 1 : 3;
+    const QByteArray space = colourSpace(file, photo_.profile(), components);
+    file.beginStream(number, entriesOf(pixels_.size(), space, 8) + predicted(pixels_.size(), components, 8));
+    DeflatedRows rows(static_cast<std::size_t>(pixels_.width()) * static_cast<std::size_t>(components),
+                      static_cast<std::size_t>(components),
+                      [&file](QByteArrayView bytes) { file.writeData(bytes); });
+    for (int y = 0; y < pixels_.height() && !file.hasFailed(); ++y)
+        rows.addRow(pixels_.constScanLine(y));
+    rows.finish();
+    file.endStream();
+}
+
+} // namespace printdialog

@@ -1,0 +1,18 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include "Photo.h"
+#include "PhotoPlacement.h"
+
+namespace printdialog {
+
+/// One photo of a job, and how it is wanted on its page.
+struct PlacedPhoto
+{
+    Photo photo;
+    PlacementChoice placement;
+};
+
+} // namespace printdialog

@@ -1,0 +1,210 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "PngHeader.h"
+
+#include "ExifData.h"
+
+#include <QtCore/QtEndian>
+#include <QtGui/QColorSpace>
+
+#include <zlib.h>
+
+#include <algorithm>
+#include <array>
+#include <vector>
+
+namespace printdialog {
+namespace {
+
+enum ColourType { Grey = 0, Rgb = 2, Palette = 3 };
+
+constexpr qsizetype largestProfile = 16 << 20; // bytes, decompressed
+
+quint32 wordAt(QByteArrayView bytes, qsizetype position)
+{
+    return qFromBigEndian<quint32>(bytes.data() + position);
+}
+
+/// Decompresses a whole zlib stream; nothing when it is damaged or longer than allowed.
+QByteArray inflated(QByteArrayView bytes, qsizetype limit)
+{
+    QByteArray result;
+    z_stream stream = {};
+    if (inflateInit(&stream) != Z_OK)
+        return result;
+    stream.next_in = reinterpret_cast<Bytef *>(const_cast<char *>(bytes.data()));
+    stream.avail_in = static_cast<uInt>(bytes.size());
+    std::array<char, 65536> buffer = {};
+    int status = Z_OK;
+    while (status == Z_OK && result.size() <= limit) {
+        stream.next_out = reinterpret_cast<Bytef *>(buffer.data());
+        stream.avail_out = static_cast<uInt>(buffer.size());
+        status = inflate(&stream, Z_NO_FLUSH);
+        result.append(buffer.data(), static_cast<qsizetype>(buffer.size() - stream.avail_out));
+    }
+    inflateEnd(&stream);
+    return status == Z_STREAM_END && result.size() <= limit ? result : QByteArray();
+}
+
+class PngReader
+{
+public:
+    explicit PngReader(QByteArrayView bytes)
+    {
+        constexpr qsizetype signatureSize = 8;
+        constexpr qsizetype frameSize = 12; // length, type and checksum
+        for (qsizetype position = signatureSize; position + frameSize <= bytes.size();) {
+            const auto length = qsizetype(wordAt(bytes, position));
+            if (length > bytes.size() - position - frameSize)
+                break;
+            readChunk(bytes.sliced(position + 4, 4), bytes.sliced(position + 8, length));
+            position += frameSize + length;
+        }
+    }
+
+    PngHeader header()
+    {
+        const bool isPalettes = type_ == Palette;
+        header_.components = type_ == Rgb ? 3 : 1;
+        header_.isEmbeddable =
+            (type_ == Grey || type_ == Rgb || (isPalettes && !header_.palette.isEmpty())) &&
+            !isTransparent_ && !isInterlaced_ && !header_.data.isEmpty();
+        if (!isPalettes)
+            header_.palette.clear();
+        const ColourProfile embedded = ColourProfile::fromIcc(icc_);
+        if (embedded.components() == (type_ == Grey || type_ == Grey + 4 ? 1 : 3))
+            header_.profile = embedded;
+        else if (!isSrgb_ && gamma_ > 0 && type_ != Grey)
+            header_.profile = measuredProfile();
+        return header_;
+    }
+
+private:
+    void readChunk(QByteArrayView type, QByteArrayView content)
+    {
+        if (type == "IHDR" && content.size() >= 13)
+            readImageHeader(content);
+        else if (type == "PLTE" && content.size() % 3 == 0 && content.size() <= 768)
+            header_.palette = content.toByteArray();
+        else if (type == "IDAT")
+            header_.data.append(content);
+        else if (type == "tRNS")
+            isTransparent_ = true;
+        else if (type == "pHYs" && content.size() >= 9)
+            readResolution(content);
+        else if (type == "eXIf")
+            header_.orientation = ExifData::fromTiff(content).orientation;
+        else if (type == "sRGB")
+            isSrgb_ = true;
+        else if (type == "gAMA" && content.size() >= 4)
+            gamma_ = wordAt(content, 0) / 100000.0;
+        else if (type == "cHRM" && content.size() >= 32)
+            readPrimaries(content);
+        else if (type == "iCCP")
+            readProfile(content);
+    }
+
+    void readImageHeader(QByteArrayView content)
+    {
+        const quint32 width = wordAt(content, 0);
+        const quint32 height = wordAt(content, 4);
+        if (width <= INT_MAX && height <= INT_MAX)
+            header_.size = QSize(static_cast<int>(width), static_cast<int>(height));
+        header_.bitsPerSample = content[8];
+        type_ = content[9];
+        isInterlaced_ = content[12] != 0;
+    }
+
+    void readResolution(QByteArrayView content)
+    {
+        constexpr double metresPerInch = 0.0254;
+        if (content[8] == 1)
+            header_.resolution =
+                plausibleResolution(wordAt(content, 0) * metresPerInch, wordAt(content, 4) * metresPerInch);
+    }
+
+    void readPrimaries(QByteArrayView content)
+    {
+        for (std::size_t i = 0; i < points_.size(); ++i)
+            points_[i] = QPointF(wordAt(content, qsizetype(i) * 8) / 100000.0,
+                                 wordAt(content, qsizetype(i) * 8 + 4) / 100000.0);
+    }
+
+    /// A name, a null byte, the method of compression, the profile.
+    void readProfile(QByteArrayView content)
+    {
+        const qsizetype end = content.indexOf('\0');
+        if (end >= 0 && end + 2 < content.size())
+            icc_ = inflated(content.sliced(end + 2), largestProfile);
+    }
+
+    ColourProfile measuredProfile() const
+    {
+        constexpr double largestDifference = 0.003;
+        const auto isNear = [](const QPointF &a, const QPointF &b) {
+            return (a - b).manhattanLength() < largestDifference;
+        };
+        const bool hasUsualPoints = std::equal(points_.begin(), points_.end(), usualPoints.begin(), isNear);
+        if (hasUsualPoints && gamma_ > 0.44 && gamma_ < 0.47)
+            return {}; // what programs write who mean sRGB
+        const QColorSpace space(points_[0], points_[1], points_[2], points_[3],
+                                QColorSpace::TransferFunction::Gamma, static_cast<float>(1 / gamma_));
+        return space.isValid() ? ColourProfile::fromIcc(space.iccProfile()) : ColourProfile();
+    }
+
+    /// White, red, green and blue of sRGB.
+    static constexpr std::array<QPointF, 4> usualPoints{QPointF(0.3127, 0.329), QPointF(0.64, 0.33),
+                                                        QPointF(0.3, 0.6), QPointF(0.15, 0.06)};
+
+    PngHeader header_;
+    QByteArray icc_;
+    std::array<QPointF, 4> points_ = usualPoints;
+    double gamma_ = 0;
+    int type_ = -1;
+    bool isInterlaced_ = false;
+    bool isTransparent_ = false;
+    bool isSrgb_ = false;
+};
+
+} // namespace
+
+PngHeader PngHeader::read(QByteArrayView bytes)
+{
+    return PngReader(bytes).header();
+}
+
+bool PngHeader::hasAllPixels() const
+{
+    constexpr Bytef lastFilter = 4;
+    const qint64 rowSize = (qint64(size.width()) * components * bitsPerSample + 7) / 8 + 1;
+    const qint64 wanted = rowSize * size.height();
+    z_stream stream = {};
+    if (inflateInit(&stream) != Z_OK)
+        return false;
+    std::vector<Bytef> buffer(std::size_t(256) << 10);
+    qint64 done = 0;
+    int status = Z_OK;
+    for (const QByteArrayView part : data) {
+        stream.next_in = reinterpret_cast<Bytef *>(const_cast<char *>(part.data()));
+        stream.avail_in = static_cast<uInt>(part.size());
+        do {
+            stream.next_out = buffer.data();
+            stream.avail_out = static_cast<uInt>(buffer.size());
+            status = inflate(&stream, Z_NO_FLUSH);
+            const auto count = qint64(buffer.size()) - stream.avail_out;
+            // Each row begins with the number of its filter.
+            for (qint64 i = (rowSize - done % rowSize) % rowSize; i < count; i += rowSize) {
+                if (buffer[std::size_t(i)] > lastFilter)
+                    status = Z_DATA_ERROR;
+            }
+            done += count;
+        } while (status == Z_OK && stream.avail_out == 0 && done <= wanted);
+        if (status != Z_OK && status != Z_BUF_ERROR)
+            break;
+    }
+    inflateEnd(&stream);
+    return status == Z_STREAM_END && done == wanted;
+}
+
+} // namespace printdialog

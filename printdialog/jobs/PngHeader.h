@@ -1,0 +1,39 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include "ColourProfile.h"
+#include "ExifOrientation.h"
+
+#include <QtCore/QByteArray>
+#include <QtCore/QByteArrayView>
+#include <QtCore/QList>
+#include <QtCore/QSize>
+
+#include <optional>
+
+namespace printdialog {
+
+/// What the chunks of a PNG file say, read without decoding it.
+struct PngHeader
+{
+    QSize size;            ///< In pixels, as stored.
+    int bitsPerSample = 0; ///< 1, 2, 4, 8 or 16.
+    int components = 0;    ///< Numbers of a colour as they are stored: 1 (grey, or a palette's index) or 3.
+    QByteArray palette;    ///< Red, green, blue of each colour; empty without a palette.
+    QList<QByteArrayView> data; ///< The parts of the compressed pixels; they point into the file's bytes.
+    ColourProfile profile;      ///< Of iCCP, or else of gAMA and cHRM; none for sRGB.
+    ExifOrientation orientation;
+    std::optional<double> resolution; ///< In pixels per inch.
+    /// Whether the compressed pixels can go into a PDF as they are: opaque and not interlaced.
+    bool isEmbeddable = false;
+
+    /// Reads untrusted bytes, whose chunks are whole (see checkPngChunks), and which outlive the answer. What
+    /// cannot be read counts as not there.
+    static PngHeader read(QByteArrayView bytes);
+    /// Whether the compressed pixels are all there. Decompresses them, and keeps nothing.
+    bool hasAllPixels() const;
+};
+
+} // namespace printdialog

@@ -1,0 +1,217 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "PhotoPane.h"
+
+#include "DroppedFiles.h"
+#include "PhotoStrip.h"
+#include "PlacementBar.h"
+#include "PlacementText.h"
+#include "PlainText.h"
+#include "PreviewWidget.h"
+
+#include <QtCore/QFileInfo>
+#include <QtCore/QPointer>
+#include <QtCore/QThreadPool>
+#include <QtGui/QDragEnterEvent>
+#include <QtWidgets/QFileDialog>
+#include <QtWidgets/QHBoxLayout>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QPushButton>
+#include <QtWidgets/QVBoxLayout>
+
+#include <algorithm>
+
+namespace printdialog {
+
+PhotoPane::PhotoPane(QWidget *parent)
+    : QWidget(parent)
+    , preview_(new PreviewWidget(this))
+    , placement_(new PlacementBar(this))
+    , caption_(new QLabel(this))
+    , add_(new QPushButton(tr("&Add…"), this))
+    , remove_(new QPushButton(tr("Re&move"), this))
+    , strip_(new PhotoStrip(this))
+{
+    preview_->setObjectName(QStringLiteral("preview"));
+    strip_->setObjectName(QStringLiteral("strip"));
+    caption_->setObjectName(QStringLiteral("photoLabel"));
+    caption_->setTextFormat(Qt::PlainText);
+    caption_->setWordWrap(true);
+    add_->setObjectName(QStringLiteral("addPhoto"));
+    add_->setAutoDefault(false);
+    add_->setToolTip(tr("Add photos to this job; they can be dropped on the window as well"));
+    remove_->setObjectName(QStringLiteral("removePhoto"));
+    remove_->setAutoDefault(false);
+    remove_->setToolTip(tr("Take the photo that is shown out of this job; its file stays"));
+    for (QPushButton *button : {add_, remove_})
+        button->setAccessibleDescription(button->toolTip());
+
+    auto *row = new QHBoxLayout;
+    row->addWidget(caption_, 1);
+    row->addWidget(add_);
+    row->addWidget(remove_);
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins({});
+    layout->addWidget(preview_, 1);
+    layout->addWidget(placement_);
+    layout->addLayout(row);
+    layout->addWidget(strip_);
+    setAcceptDrops(true);
+
+    connect(preview_, &PreviewWidget::placementChanged, this, &PhotoPane::place);
+    connect(placement_, &PlacementBar::placementChanged, this, &PhotoPane::place);
+    connect(strip_, &PhotoStrip::picked, this, &PhotoPane::setCurrent);
+    connect(strip_, &PhotoStrip::removalWanted, this, &PhotoPane::removePhoto);
+    connect(strip_, &PhotoStrip::moveWanted, this, &PhotoPane::movePhoto);
+    connect(add_, &QPushButton::clicked, this, &PhotoPane::browse);
+    connect(remove_, &QPushButton::clicked, this, [this] { removePhoto(current_); });
+    show();
+}
+
+void PhotoPane::setPhotos(const QList<Photo> &photos, const PlacementChoice &placement)
+{
+    initial_ = placement;
+    photos_.clear();
+    for (const Photo &photo : photos)
+        photos_.append({photo, placement});
+    current_ = photos_.isEmpty() ? -1 : 0;
+    show();
+}
+
+void PhotoPane::setPage(const PageGeometry &page)
+{
+    page_ = page;
+    preview_->setPage(page);
+    showCaption();
+}
+
+void PhotoPane::addFiles(const QStringList &paths)
+{
+    QThreadPool::globalInstance()->start([paths, self = QPointer<PhotoPane>(this)] {
+        QList<Photo> opened;
+        QStringList failures;
+        for (const QString &path : paths) {
+            const auto photo = Photo::open(path);
+            if (photo)
+                opened.append(*photo);
+            else
+                failures.append(photo.failure().text);
+        }
+        QMetaObject::invokeMethod(qApp, [self, opened, failures] {
+            if (!self)
+                return;
+            // In front of the message that follows, since it is what the user sees of it.
+            const PlacementChoice placement =
+                self->current_ < 0 ? self->initial_ : self->photos_.at(self->current_).placement;
+            const auto first = static_cast<int>(self->photos_.size());
+            for (const Photo &photo : opened)
+                self->photos_.append({photo, {placement.scaling, 0, PlacementChoice().crop}});
+            if (!opened.isEmpty())
+                self->setCurrent(first);
+            if (!failures.isEmpty())
+                Q_EMIT self->failed(failures.join(u'\n'));
+        });
+    });
+}
+
+void PhotoPane::removePhoto(int index)
+{
+    if (index < 0 || index >= photos_.size())
+        return;
+    photos_.removeAt(index);
+    if (current_ > index || current_ == photos_.size())
+        --current_;
+    show();
+    Q_EMIT photosChanged();
+}
+
+void PhotoPane::movePhoto(int from, int to)
+{
+    if (from == to || std::min(from, to) < 0 || std::max(from, to) >= photos_.size())
+        return;
+    photos_.move(from, to);
+    current_ = to;
+    show();
+    Q_EMIT photosChanged();
+}
+
+void PhotoPane::setCurrent(int index)
+{
+    current_ = index;
+    show();
+    Q_EMIT photosChanged();
+}
+
+void PhotoPane::place(const PlacementChoice &choice)
+{
+    if (current_ < 0 || photos_.at(current_).placement == choice)
+        return;
+    photos_[current_].placement = choice;
+    preview_->setPlacement(choice);
+    placement_->setPlacement(choice);
+    showCaption();
+    Q_EMIT placementChanged();
+}
+
+bool PhotoPane::isReady() const
+{
+    return photos_.isEmpty() || (preview_->isReady() && strip_->isReady());
+}
+
+void PhotoPane::browse()
+{
+    const QString folder = current_ < 0 ? QString() : QFileInfo(photos_.at(current_).photo.path()).path();
+    const QStringList paths = QFileDialog::getOpenFileNames(this, tr("Add Photos"), folder);
+    if (!paths.isEmpty())
+        addFiles(paths);
+}
+
+void PhotoPane::show()
+{
+    const PlacedPhoto shown = current_ < 0 ? PlacedPhoto() : photos_.at(current_);
+    preview_->setPhoto(shown.photo);
+    preview_->setPlacement(shown.placement);
+    placement_->setPlacement(shown.placement);
+    placement_->setEnabled(current_ >= 0);
+    remove_->setEnabled(current_ >= 0);
+    QList<Photo> all;
+    for (const PlacedPhoto &placed : std::as_const(photos_))
+        all.append(placed.photo);
+    strip_->setPhotos(all, current_);
+    strip_->setVisible(photos_.size() > 1);
+    showCaption();
+}
+
+void PhotoPane::showCaption()
+{
+    QStringList lines;
+    if (current_ >= 0) {
+        const Photo &photo = photos_.at(current_).photo;
+        const QString name = plainText(photo.fileName(), shownTextLimit);
+        lines +=
+            photos_.size() == 1 ? name : tr("%1 (%2 of %3)").arg(name).arg(current_ + 1).arg(photos_.size());
+        if (const auto placement = preview_->placement())
+            lines += placementText(photo, *placement, photos_.at(current_).placement, page_);
+    }
+    caption_->setText(lines.join(u'\n'));
+}
+
+// Photos from other programs
+
+void PhotoPane::dragEnterEvent(QDragEnterEvent *event)
+{
+    if (!droppedFiles(*event->mimeData()).isEmpty())
+        event->acceptProposedAction();
+}
+
+void PhotoPane::dropEvent(QDropEvent *event)
+{
+    const QStringList paths = droppedFiles(*event->mimeData());
+    if (paths.isEmpty())
+        return;
+    event->acceptProposedAction();
+    addFiles(paths);
+}
+
+} // namespace printdialog

@@ -1,0 +1,78 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include "PageGeometry.h"
+#include "PlacedPhoto.h"
+
+#include <QtCore/QList>
+#include <QtCore/QStringList>
+#include <QtWidgets/QWidget>
+
+class QLabel;
+class QMimeData;
+class QPushButton;
+
+namespace printdialog {
+
+class PhotoStrip;
+class PlacementBar;
+class PreviewWidget;
+
+/// The photos of a job: the current one on its page, how it is placed there, and all of them as a strip.
+/// Photos are added by a button or dropped from another program; they are opened on a worker thread.
+class PhotoPane : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit PhotoPane(QWidget *parent = nullptr);
+
+    /// The photos to begin with, all placed alike; later ones are placed like the current one.
+    void setPhotos(const QList<Photo> &photos, const PlacementChoice &placement);
+    const QList<PlacedPhoto> &photos() const { return photos_; }
+    void setPage(const PageGeometry &page);
+
+    /// Opens the files and puts those that are photos behind the others.
+    void addFiles(const QStringList &paths);
+    void removePhoto(int index);
+    void movePhoto(int from, int to);
+    void setCurrent(int index);
+    int current() const { return current_; }
+    /// Replaces how the current photo is placed.
+    void place(const PlacementChoice &choice);
+
+    /// Whether there is nothing left to be decoded for the preview and the strip.
+    bool isReady() const;
+
+Q_SIGNALS:
+    /// Photos were added, removed or moved, or another one is current.
+    void photosChanged();
+    /// A photo is placed otherwise than before.
+    void placementChanged();
+    /// Some of the files that were to be added cannot be printed: a sentence for each.
+    void failed(const QString &sentences);
+
+protected:
+    void dragEnterEvent(QDragEnterEvent *event) override;
+    void dropEvent(QDropEvent *event) override;
+
+private:
+    void browse();
+    void show();
+    void showCaption();
+
+    PreviewWidget *preview_;
+    PlacementBar *placement_;
+    QLabel *caption_;
+    QPushButton *add_;
+    QPushButton *remove_;
+    PhotoStrip *strip_;
+    QList<PlacedPhoto> photos_;
+    PlacementChoice initial_;
+    PageGeometry page_;
+    int current_ = -1; ///< -1 without photos
+};
+
+} // namespace printdialog

@@ -1,0 +1,36 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include "PhotoPlacement.h"
+
+#include <QtWidgets/QWidget>
+
+class QComboBox;
+class QPushButton;
+
+namespace printdialog {
+
+/// How the photo that is shown goes on its page: its scaling, and a turn by hand.
+class PlacementBar : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit PlacementBar(QWidget *parent = nullptr);
+
+    /// Shows the choice; nothing is announced.
+    void setPlacement(const PlacementChoice &choice);
+
+Q_SIGNALS:
+    /// The user has chosen.
+    void placementChanged(const printdialog::PlacementChoice &choice);
+
+private:
+    QComboBox *scaling_;
+    QPushButton *turn_;
+    PlacementChoice choice_;
+};
+
+} // namespace printdialog

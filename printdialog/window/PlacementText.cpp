@@ -1,0 +1,53 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "PlacementText.h"
+
+#include <QtCore/QCoreApplication>
+#include <QtCore/QLocale>
+#include <QtCore/QStringList>
+
+#include <algorithm>
+#include <cmath>
+
+namespace printdialog {
+
+namespace {
+
+constexpr double pointsPerInch = 72;
+constexpr double centimetresPerInch = 2.54;
+
+struct Text
+{
+    Q_DECLARE_TR_FUNCTIONS(PlacementText)
+};
+
+} // namespace
+
+QString placementText(const Photo &photo, const PhotoPlacement &placement, const PlacementChoice &choice,
+                      const PageGeometry &page)
+{
+    const QLocale locale;
+    const bool usesInches = locale.measurementSystem() == QLocale::ImperialUSSystem;
+    QSizeF size = placement.target.size() / pointsPerInch * (usesInches ? 1 : centimetresPerInch);
+    if (placement.pageTurns != 0) // the page is shown on its side
+        size.transpose();
+    const QString width = locale.toString(size.width(), 'f', usesInches ? 2 : 1);
+    const QString height = locale.toString(size.height(), 'f', usesInches ? 2 : 1);
+    QStringList parts{usesInches ? Text::tr("%1 × %2 in").arg(width, height)
+                                 : Text::tr("%1 × %2 cm").arg(width, height)};
+    const QSize seen = photo.orientedSize();
+    const int shorter = std::min(seen.width(), seen.height());
+    const double shorterSide = std::min(placement.target.width(), placement.target.height());
+    const int perInch = qRound(shorter / shorterSide * pointsPerInch);
+    parts += choice.scaling == Scaling::ActualSize && !photo.resolution()
+                 ? Text::tr("%1 pixels per inch (the file names none)").arg(perInch)
+                 : Text::tr("%1 pixels per inch").arg(perInch);
+    if (const double cutOff = placement.cutOff(page); cutOff >= 0.001)
+        parts += Text::tr("%1 % cut off").arg(std::ceil(cutOff * 100));
+    for (QString &part : parts)
+        part.replace(u' ', QChar(QChar::Nbsp)); // lines break between the parts only
+    return parts.join(QStringLiteral(" · "));
+}
+
+} // namespace printdialog

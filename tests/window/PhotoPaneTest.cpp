@@ -1,0 +1,313 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "PhotoPane.h"
+#include "PdfWriter.h"
+#include "PhotoStrip.h"
+#include "PreviewWidget.h"
+#include "SamplePhotos.h"
+
+#include <QtCore/QBuffer>
+#include <QtCore/QMimeData>
+#include <QtCore/QProcess>
+#include <QtCore/QTemporaryDir>
+#include <QtCore/QUrl>
+#include <QtGui/QDropEvent>
+#include <QtGui/QPainter>
+#include <QtTest/QTest>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QComboBox>
+#include <QtWidgets/QPushButton>
+
+#include <cmath>
+#include <cstdlib>
+
+using namespace printdialog;
+using namespace Qt::StringLiterals;
+
+Q_DECLARE_METATYPE(printdialog::PageGeometry)
+
+namespace {
+
+const PageGeometry bordered{QSizeF(200, 300), QRectF(10, 20, 180, 250)};
+const PageGeometry borderless{QSizeF(200, 300), QRectF(0, 0, 200, 300)};
+
+/// Colours that run differently along both sides, so that a shift, a turn or a mirrored side shows.
+QImage gradients(const QSize &size)
+{
+    QImage image(size, QImage::Format_RGB32);
+    for (int y = 0; y < size.height(); ++y) {
+        for (int x = 0; x < size.width(); ++x)
+            image.setPixel(
+                x, y, qRgb(x * 255 / size.width(), y * 255 / size.height(), x * y % 900 < 450 ? 40 : 60));
+    }
+    return image;
+}
+
+} // namespace
+
+/// The photo side of the dialog, with real keys and mouse.
+class PhotoPaneTest : public QObject
+{
+    Q_OBJECT
+
+private:
+    QString pathOf(const QString &name) const { return folder_.filePath(name); }
+    Photo photoOf(const QString &name, const QSize &size = QSize(300, 200), int orientation = 1)
+    {
+        samples::store(pathOf(name),
+                       samples::withOrientation(samples::encoded(gradients(size), "jpeg"), orientation));
+        return *Photo::open(pathOf(name));
+    }
+    QStringList namesIn(const PhotoPane &pane) const
+    {
+        QStringList names;
+        for (const PlacedPhoto &placed : pane.photos())
+            names += placed.photo.fileName();
+        return names;
+    }
+    void drop(QWidget &widget, const QList<QUrl> &urls)
+    {
+        QMimeData data;
+        data.setUrls(urls);
+        QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction, &data, Qt::LeftButton, {});
+        QApplication::sendEvent(&widget, &enter);
+        if (!enter.isAccepted())
+            return;
+        QDropEvent event(QPointF(5, 5), Qt::CopyAction, &data, Qt::LeftButton, {});
+        QApplication::sendEvent(&widget, &event);
+    }
+
+    QTemporaryDir folder_;
+
+private Q_SLOTS:
+    void previewIsWhatIsPrinted_data();
+    void previewIsWhatIsPrinted();
+    void cropByMouseAndKeys();
+    void paperIsWhiteInDarkThemes();
+    void placementByControls();
+    void strip();
+    void droppedFiles();
+};
+
+void PhotoPaneTest::previewIsWhatIsPrinted_data()
+{
+    QTest::addColumn<PageGeometry>("page");
+    QTest::addColumn<QSize>("size");
+    QTest::addColumn<int>("orientation");
+    QTest::addColumn<int>("scaling");
+    QTest::addColumn<int>("turns");
+    QTest::addColumn<QPointF>("crop");
+    const QSize usual(300, 200);
+    const QPointF middle(0.5, 0.5);
+    const int fit = int(Scaling::Fit);
+    const int fill = int(Scaling::Fill);
+    const int actual = int(Scaling::ActualSize);
+    QTest::newRow("fit") << bordered << usual << 1 << fit << 0 << middle;
+    QTest::newRow("fit, turned by hand") << bordered << usual << 1 << fit << 1 << middle;
+    QTest::newRow("fit, mirrored by Exif") << bordered << usual << 5 << fit << 0 << middle;
+    QTest::newRow("fill") << bordered << usual << 1 << fill << 0 << middle;
+    QTest::newRow("fill, to the left, turned")
+        << borderless << QSize(400, 200) << 1 << fill << 1 << QPointF(0, 0.3);
+    QTest::newRow("fill, by Exif, upside down")
+        << bordered << QSize(400, 200) << 6 << fill << 2 << QPointF(1, 0.2);
+    QTest::newRow("actual size, smaller") << bordered << usual << 1 << actual << 0 << QPointF(0.2, 0.9);
+    QTest::newRow("actual size, cut")
+        << bordered << QSize(1500, 400) << 8 << actual << 3 << QPointF(0.3, 0.5);
+}
+
+/// Every pixel of the page that the printer can reach, but for those beside an edge.
+void PhotoPaneTest::previewIsWhatIsPrinted()
+{
+    QFETCH(const PageGeometry, page);
+    QFETCH(const QSize, size);
+    QFETCH(const int, orientation);
+    QFETCH(const int, scaling);
+    QFETCH(const int, turns);
+    QFETCH(const QPointF, crop);
+    const Photo photo = photoOf(u"photo.jpg"_s, size, orientation);
+    const PlacementChoice choice{Scaling(scaling), turns, crop};
+    QBuffer pdf;
+    pdf.open(QIODevice::WriteOnly);
+    QVERIFY(PdfWriter::write(photo, page, pdf, choice));
+    samples::store(pathOf(u"page.pdf"_s), pdf.data());
+    constexpr int perPoint = 2;
+    QCOMPARE(QProcess::execute(u"pdftoppm"_s, {u"-r"_s, u"144"_s, u"-png"_s, u"-singlefile"_s,
+                                               pathOf(u"page.pdf"_s), pathOf(u"page"_s)}),
+             0);
+    const QImage printed(pathOf(u"page.png"_s));
+
+    PreviewWidget preview;
+    preview.resize(1100, 1000);
+    preview.setPage(page);
+    preview.setPlacement(choice);
+    preview.setPhoto(photo);
+    QTRY_VERIFY(preview.isReady());
+    const QImage shown = preview.grab().toImage();
+    const QTransform toWidget = preview.pageToWidget();
+    const QRectF target = preview.placement()->target;
+    qint64 difference = 0;
+    qint64 count = 0;
+    constexpr int edge = 3;
+    const QRect area = QRectF(page.printed().topLeft() * perPoint, page.printed().size() * perPoint)
+                           .toAlignedRect()
+                           .adjusted(edge, edge, -edge, -edge);
+    for (int y = area.top(); y < area.bottom(); y += 3) {
+        for (int x = area.left(); x < area.right(); x += 3) {
+            const QPointF point = QPointF(x + 0.5, y + 0.5) / perPoint;
+            const double toEdge =
+                std::min({std::abs(point.x() - target.left()), std::abs(point.x() - target.right()),
+                          std::abs(point.y() - target.top()), std::abs(point.y() - target.bottom())});
+            if (toEdge < edge)
+                continue;
+            const QPoint there = toWidget.map(point).toPoint();
+            const QRgb one = printed.pixel(x, y);
+            const QRgb other = shown.pixel(there);
+            const int apart =
+                std::max({std::abs(qRed(one) - qRed(other)), std::abs(qGreen(one) - qGreen(other)),
+                          std::abs(qBlue(one) - qBlue(other))});
+            difference += apart;
+            ++count;
+            QVERIFY2(apart < 40,
+                     qPrintable(u"%1,%2: %3 %4"_s.arg(x).arg(y).arg(one, 0, 16).arg(other, 0, 16)));
+        }
+    }
+    QVERIFY(count > 5000);
+    QVERIFY2(double(difference) / double(count) < 8,
+             qPrintable(QString::number(double(difference) / double(count))));
+}
+
+void PhotoPaneTest::cropByMouseAndKeys()
+{
+    PhotoPane pane;
+    pane.resize(500, 600);
+    pane.setPage(borderless);
+    pane.setPhotos({photoOf(u"photo.jpg"_s, QSize(400, 200))}, {Scaling::Fill, 0, {0.5, 0.5}});
+    pane.QWidget::show();
+    QVERIFY(QTest::qWaitForWindowExposed(&pane));
+    auto *preview = pane.findChild<PreviewWidget *>();
+    QTRY_VERIFY(preview->isReady());
+    const auto onScreen = [preview] {
+        return preview->pageToWidget().mapRect(preview->placement()->target);
+    };
+    const auto distance = [&](const QRectF &before) {
+        return onScreen().topLeft() - before.topLeft();
+    };
+    // The page lies on its side, as the photo does: what is dragged follows the mouse.
+    QRectF before = onScreen();
+    const QPoint from = preview->rect().center();
+    QTest::mousePress(preview, Qt::LeftButton, {}, from);
+    QTest::mouseMove(preview, from + QPoint(-20, 15));
+    QTest::mouseRelease(preview, Qt::LeftButton, {}, from + QPoint(-20, 15));
+    QVERIFY(std::abs(distance(before).x() + 20) < 0.5);
+    QVERIFY(std::abs(distance(before).y()) < 0.5);
+    QVERIFY(pane.photos().constFirst().placement.crop.x() > 0.5);
+    QTest::mouseMove(preview, from); // no longer held
+    QVERIFY(std::abs(distance(before).x() + 20) < 0.5);
+
+    preview->setFocus();
+    before = onScreen();
+    QTest::keyClick(preview, Qt::Key_Right);
+    QVERIFY(std::abs(distance(before).x() - 8) < 0.5);
+    QTest::keyClick(preview, Qt::Key_Left, Qt::ShiftModifier);
+    QVERIFY(std::abs(distance(before).x() - 6) < 0.5);
+    QTest::keyClick(preview, Qt::Key_Home);
+    QCOMPARE(pane.photos().constFirst().placement.crop, QPointF(0.5, 0.5));
+    for (int i = 0; i < 200; ++i)
+        QTest::keyClick(preview, Qt::Key_Left);
+    QCOMPARE(pane.photos().constFirst().placement.crop.x(), 1.0);
+    QVERIFY(!preview->accessibleDescription().isEmpty());
+}
+
+void PhotoPaneTest::paperIsWhiteInDarkThemes()
+{
+    PhotoPane pane;
+    QPalette dark;
+    dark.setColor(QPalette::Window, QColor(30, 30, 30));
+    dark.setColor(QPalette::Base, QColor(20, 20, 20));
+    pane.setPalette(dark);
+    pane.resize(500, 600);
+    pane.setPage(bordered);
+    pane.setPhotos({photoOf(u"photo.jpg"_s)}, {Scaling::ActualSize, 0, {0.5, 0.5}});
+    pane.QWidget::show();
+    auto *preview = pane.findChild<PreviewWidget *>();
+    QTRY_VERIFY(preview->isReady());
+    const QImage shown = pane.grab().toImage();
+    const QPoint corner = preview->pageToWidget().map(QPointF(4, 4)).toPoint();
+    QCOMPARE(shown.pixelColor(preview->mapTo(&pane, corner)), QColor(Qt::white));
+    QCOMPARE(shown.pixelColor(preview->mapTo(&pane, QPoint(2, 2))), QColor(30, 30, 30));
+}
+
+void PhotoPaneTest::placementByControls()
+{
+    PhotoPane pane;
+    pane.setPage(bordered);
+    pane.setPhotos({photoOf(u"a.jpg"_s), photoOf(u"b.jpg"_s)}, {});
+    pane.QWidget::show();
+    auto *scaling = pane.findChild<QComboBox *>(u"scaling"_s);
+    QTest::keyClick(scaling, Qt::Key_Down);
+    QTest::mouseClick(pane.findChild<QPushButton *>(u"turn"_s), Qt::LeftButton);
+    QCOMPARE(pane.photos()[0].placement, (PlacementChoice{Scaling::Fill, 1, {0.5, 0.5}}));
+    QCOMPARE(pane.photos()[1].placement, PlacementChoice()); // each its own
+    pane.setCurrent(1);
+    QCOMPARE(scaling->currentIndex(), 0);
+    pane.setCurrent(0);
+    QCOMPARE(scaling->currentIndex(), 1);
+    auto *preview = pane.findChild<PreviewWidget *>();
+    QCOMPARE(preview->placement()->quarterTurns, 2);
+}
+
+void PhotoPaneTest::strip()
+{
+    PhotoPane pane;
+    pane.resize(500, 600);
+    pane.setPhotos({photoOf(u"a.jpg"_s), photoOf(u"b.jpg"_s), photoOf(u"c.jpg"_s)}, {});
+    pane.QWidget::show();
+    QVERIFY(QTest::qWaitForWindowExposed(&pane));
+    auto *strip = pane.findChild<PhotoStrip *>();
+    QVERIFY(strip->isVisible());
+    QTRY_VERIFY(!strip->item(2)->icon().isNull());
+    QTest::mouseClick(strip->viewport(), Qt::LeftButton, {}, strip->visualItemRect(strip->item(1)).center());
+    QCOMPARE(pane.current(), 1);
+    strip->setFocus();
+    QTest::keyClick(strip, Qt::Key_Right);
+    QCOMPARE(pane.current(), 2);
+    QTest::keyClick(strip, Qt::Key_Left, Qt::AltModifier);
+    QCOMPARE(namesIn(pane), (QStringList{u"a.jpg"_s, u"c.jpg"_s, u"b.jpg"_s}));
+    QCOMPARE(pane.current(), 1);
+    QCOMPARE(strip->currentItem()->data(Qt::AccessibleTextRole).toString(), u"c.jpg, photo 2 of 3"_s);
+    QTest::keyClick(strip, Qt::Key_Delete);
+    QCOMPARE(namesIn(pane), (QStringList{u"a.jpg"_s, u"b.jpg"_s}));
+    QCOMPARE(pane.current(), 1);
+    auto *remove = pane.findChild<QPushButton *>(u"removePhoto"_s);
+    QTest::mouseClick(remove, Qt::LeftButton);
+    QVERIFY(!strip->isVisible());
+    QTest::mouseClick(remove, Qt::LeftButton);
+    QVERIFY(pane.photos().isEmpty() && !remove->isEnabled());
+    QVERIFY(QFile::exists(pathOf(u"a.jpg"_s)));
+}
+
+void PhotoPaneTest::droppedFiles()
+{
+    PhotoPane pane;
+    pane.setPhotos({photoOf(u"a.jpg"_s)}, {Scaling::Fill, 0, {0.5, 0.5}});
+    pane.place({Scaling::ActualSize, 1, {0, 0}});
+    const QByteArray odd = QFile::encodeName(folder_.path()) + "/caf\xe9 %41.jpg";
+    photoOf(u"source.jpg"_s);
+    QCOMPARE(::rename(QFile::encodeName(pathOf(u"source.jpg"_s)).constData(), odd.constData()), 0);
+    samples::store(pathOf(u"text.txt"_s), "Dear all,");
+    QString failures;
+    connect(&pane, &PhotoPane::failed, &pane, [&failures](const QString &text) { failures = text; });
+    drop(pane, {QUrl(u"https://example.org/b.jpg"_s)});
+    drop(pane, {QUrl::fromLocalFile(pathOf(u"text.txt"_s)),
+                QUrl::fromEncoded("file://" + odd.toPercentEncoding("/"))});
+    QTRY_COMPARE(pane.photos().size(), 2);
+    QTRY_VERIFY(failures.contains(u"text.txt"_s));
+    QCOMPARE(failures.count(u'\n'), 0);
+    QCOMPARE(pane.current(), 1);
+    QCOMPARE(pane.photos()[1].placement, (PlacementChoice{Scaling::ActualSize, 0, {0.5, 0.5}}));
+    QVERIFY(pane.findChild<PreviewWidget *>()->accessibleName().contains(u"caf\ufffd %41.jpg"_s));
+}
+
+QTEST_MAIN(PhotoPaneTest)
+#include "PhotoPaneTest.moc"
