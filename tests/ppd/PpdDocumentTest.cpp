@@ -208,7 +208,7 @@ private Q_SLOTS:
         QCOMPARE(first.text, u"4 x 6"_s);
         QCOMPARE(first.points, QSizeF(288, 432));
         QCOMPARE(first.imageable, QRectF(6, 12, 274, 408));
-        QCOMPARE(document.pageSize(u"Spill"_s)->imageable, QRectF(-9, -9, 118, 218);
+        QCOMPARE(document.pageSize(u"Spill"_s)->imageable, QRectF(-9, -9, 118, 218));
         QCOMPARE(document.pageSize(u"Bare"_s)->imageable, QRectF(0, 0, 100, 200));
         QVERIFY(!document.pageSize(u"Gone"_s) && !document.choice(u"PageSize"_s, u"Custom"_s));
         QCOMPARE(document.markedChoice(u"PageSize"_s), u"w288h432"_s); // the default cannot be printed on
