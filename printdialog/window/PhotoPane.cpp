@@ -29,7 +29,7 @@ PhotoPane::PhotoPane(QWidget *parent)
     , preview_(new PreviewWidget(this))
     , placement_(new PlacementBar(this))
     , caption_(new QLabel(this))
-    , add_(new QPushButton(tr("&Add…"), this))
+    , add_(new QPushButton(tr("A&dd…"), this))
     , remove_(new QPushButton(tr("Re&move"), this))
     , strip_(new PhotoStrip(this))
 {

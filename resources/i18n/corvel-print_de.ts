@@ -1345,7 +1345,7 @@ linken und oberen Rand aus (sonst 50,50, die Mitte)</translation>
 <context>
     <name>printdialog::PhotoPane</name>
     <message>
-        <source>&amp;Add…</source>
+        <source>A&amp;dd…</source>
         <translation>Hin&amp;zufügen…</translation>
     </message>
     <message>

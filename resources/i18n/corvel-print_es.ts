@@ -1345,7 +1345,7 @@ izquierda y desde arriba (si no, 50,50, el centro)</translation>
 <context>
     <name>printdialog::PhotoPane</name>
     <message>
-        <source>&amp;Add…</source>
+        <source>A&amp;dd…</source>
         <translation>Aña&amp;dir…</translation>
     </message>
     <message>

@@ -1345,7 +1345,7 @@ et depuis son haut (sinon 50,50, le milieu)</translation>
 <context>
     <name>printdialog::PhotoPane</name>
     <message>
-        <source>&amp;Add…</source>
+        <source>A&amp;dd…</source>
         <translation>A&amp;jouter…</translation>
     </message>
     <message>

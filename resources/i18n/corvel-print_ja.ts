@@ -1344,8 +1344,8 @@ and from its top (otherwise 50,50, the middle)</source>
 <context>
     <name>printdialog::PhotoPane</name>
     <message>
-        <source>&amp;Add…</source>
-        <translation>追加(&amp;A)…</translation>
+        <source>A&amp;dd…</source>
+        <translation>追加(&amp;D)…</translation>
     </message>
     <message>
         <source>Re&amp;move</source>
