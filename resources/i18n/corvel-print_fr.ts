@@ -1406,7 +1406,7 @@ et depuis son haut (sinon 50,50, le milieu)</translation>
     </message>
     <message>
         <source>P&amp;lacement:</source>
-        <translation>P&amp;lacement&#x202f;:</translation>
+        <translation>Place&amp;ment&#x202f;:</translation>
     </message>
     <message>
         <source>Placement of the photo</source>
