@@ -7,9 +7,9 @@
 
 namespace printdialog {
 
-/// What is used of libheif. The library is loaded with the first photo that needs it and stays: with its
-/// codecs it would more than double the time that the program takes to start. Without it there is no HEIF and
-/// no AVIF, and everything else works.
+/// What is used of libheif. The library is loaded with the first photo that needs it and stays, so that it
+/// need not be installed, and its codecs are not loaded for other photos. Without it there is no HEIF and no
+/// AVIF, and everything else works.
 struct HeifLibrary
 {
     /// The library, or null when it is not installed. May be called on any thread.
