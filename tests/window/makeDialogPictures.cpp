@@ -1,0 +1,89 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "OpenedDialog.h"
+
+#include <QtCore/QDir>
+#include <QtCore/QLocale>
+#include <QtCore/QTranslator>
+#include <QtTest/QTest>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QComboBox>
+#include <QtWidgets/QLineEdit>
+#include <QtWidgets/QStyle>
+
+#include <cstdio>
+#include <functional>
+
+// makeDialogPictures FOLDER: pictures of the dialog for the README.
+
+using namespace printdialog;
+using namespace testing_support;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QPalette darkPalette()
+{
+    QPalette palette(QColor(0x2d, 0x2e, 0x30));
+    palette.setColor(QPalette::Base, QColor(0x1f, 0x20, 0x22));
+    palette.setColor(QPalette::Highlight, QColor(0x3d, 0x7e, 0xc4));
+    palette.setColor(QPalette::Link, QColor(0x7f, 0xb2, 0xe8));
+    return palette;
+}
+
+bool picture(const QDir &folder, const QString &name,
+             const std::function<void(const OpenedDialog &)> &prepare)
+{
+    const OpenedDialog opened(PanelMode::Constraint);
+    opened.find<QLineEdit>(u"folder"_s)->setText(u"/home/ada/Prints"_s);
+    prepare(opened);
+    if (!QTest::qWaitFor([&opened] { return opened.dialog->isPreviewReady(); }))
+        return false;
+    if (opened.find<QLineEdit>(u"folder"_s)->hasFocus())
+        opened.find<QComboBox>(u"printer"_s)->setFocus();
+    QTest::qWait(100);
+    const QImage image = opened.dialog->grab().toImage().convertToFormat(QImage::Format_RGB888);
+    return image.save(folder.filePath(name + u".png"_s), "PNG", 0);
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    QApplication application(argc, argv);
+    if (argc != 2) {
+        std::fputs("Usage: makeDialogPictures FOLDER\n", stderr);
+        return 2;
+    }
+    const QDir folder(QString::fromLocal8Bit(argv[1]));
+    const auto page = [](int number) {
+        return [number](const OpenedDialog &opened) {
+            opened.dialog->showPage(number);
+        };
+    };
+    bool isDone = picture(folder, u"dialog"_s, page(0));
+    isDone &= picture(folder, u"dialog-refusal"_s, [](const OpenedDialog &opened) {
+        opened.dialog->showPage(2);
+        opened.click(u"matte"_s);
+    });
+    isDone &= picture(folder, u"dialog-crop"_s, [](const OpenedDialog &opened) {
+        auto *scaling = opened.find<QComboBox>(u"scaling"_s);
+        auto *paper = opened.find<QComboBox>(u"pageSize"_s);
+        for (const auto &[box, index] : {std::pair(paper, paper->count() - 1), {scaling, 1}}) {
+            box->setCurrentIndex(index);
+            Q_EMIT box->activated(index);
+        }
+    });
+    QApplication::setPalette(darkPalette());
+    isDone &= picture(folder, u"dialog-dark"_s, page(1));
+    QApplication::setPalette(QApplication::style()->standardPalette());
+    QLocale::setDefault(QLocale(QLocale::German));
+    QTranslator translator;
+    isDone &= translator.load(QStringLiteral(CORVEL_TRANSLATIONS_DIR "/corvel-print_de.qm")) &&
+              QCoreApplication::installTranslator(&translator);
+    isDone &= picture(folder, u"dialog-german"_s, page(2));
+    if (!isDone)
+        std::fprintf(stderr, "Not every picture could be made in %s.\n", argv[1]);
+    return isDone ? 0 : 1;
+}
