@@ -47,7 +47,7 @@ struct CommandLine
     std::optional<QString> ppd;     ///< a file, for the built-in printer
     PanelMode mode = PanelMode::Constraint;
     QList<RequestedChoice> options; ///< in the order given
-    PlacementChoice placement; ///< of each photo on its page
+    PlacementChoice placement;      ///< of each photo on its page
     QString output = QStringLiteral(".");
     bool batch = false;
     bool dryRun = false;

@@ -66,8 +66,8 @@ Result<AtomicFiles, OutputFault> AtomicFiles::open(const QString &folder)
     files.folder_ = QDir::cleanPath(isAbsolute ? folder : QDir::currentPath() + QLatin1Char('/') + folder);
     if (const int error = files.makeFolders())
         return outputFailure(error, files.folder_);
-    files.descriptor_ = pdekit::FileDescriptor(::open(bytesOfFileName(files.folder_).constData(),
-                                                      O_RDONLY | O_DIRECTORY | O_CLOEXEC | O_NONBLOCK));
+    files.descriptor_ = pdekit::FileDescriptor(
+        ::open(bytesOfFileName(files.folder_).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC | O_NONBLOCK));
     if (!files.descriptor_.isOpen())
         return outputFailure(errno, files.folder_);
     removeStale(files.folder_);

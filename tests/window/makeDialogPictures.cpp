@@ -4,13 +4,10 @@
 #include "OpenedDialog.h"
 
 #include <QtCore/QDir>
-#include <QtCore/QLocale>
-#include <QtCore/QTranslator>
 #include <QtTest/QTest>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QLineEdit>
-#include <QtWidgets/QStyle>
 
 #include <cstdio>
 #include <functional>
@@ -77,12 +74,6 @@ int main(int argc, char *argv[])
     });
     QApplication::setPalette(darkPalette());
     isDone &= picture(folder, u"dialog-dark"_s, page(1));
-    QApplication::setPalette(QApplication::style()->standardPalette());
-    QLocale::setDefault(QLocale(QLocale::German));
-    QTranslator translator;
-    isDone &= translator.load(QStringLiteral(CORVEL_TRANSLATIONS_DIR "/corvel-print_de.qm")) &&
-              QCoreApplication::installTranslator(&translator);
-    isDone &= picture(folder, u"dialog-german"_s, page(2));
     if (!isDone)
         std::fprintf(stderr, "Not every picture could be made in %s.\n", argv[1]);
     return isDone ? 0 : 1;
