@@ -103,7 +103,8 @@ void PhotoPlacementTest::places()
     QFETCH(const QRectF, target);
     QFETCH(const int, turns);
     const auto placement = PhotoPlacement::place(photo, 150, page, choice);
-    QVERIFY2(isNear(placement.target, target), QTest::toString(placement.target));
+    QVERIFY2(isNear(placement.target, target),
+             std::unique_ptr<char[]>(QTest::toString(placement.target)).get());
     QCOMPARE(placement.quarterTurns, turns);
     const QSizeF upright = turns % 2 ? placement.target.size().transposed() : placement.target.size();
     QVERIFY(std::abs(upright.width() / upright.height() * photo.height() / photo.width() - 1) < 1e-9);
@@ -142,7 +143,8 @@ void PhotoPlacementTest::movesAsFarAsItGoes()
     const auto from = PhotoPlacement::place(photo, 150, portrait, before);
     const PlacementChoice after = from.moved(before, distance);
     const auto to = PhotoPlacement::place(photo, 150, portrait, after);
-    QVERIFY2(isNear(to.target, from.target.translated(moved)), QTest::toString(to.target));
+    QVERIFY2(isNear(to.target, from.target.translated(moved)),
+             std::unique_ptr<char[]>(QTest::toString(to.target)).get());
     QCOMPARE(after.scaling, before.scaling);
     QCOMPARE(after.turns, before.turns);
 }
