@@ -34,8 +34,8 @@ struct PpdChoice
 struct PageSize
 {
     QString keyword;
-    QString text;     ///< Plain text.
-    QSizeF points;    ///< Of the sheet.
+    QString text;  ///< Plain text.
+    QSizeF points; ///< Of the sheet.
     /// The area that the printer can reach, in points; the origin is the sheet's top left. Where it prints
     /// over the edges, it reaches beyond the sheet.
     QRectF imageable;

@@ -39,8 +39,8 @@ struct PrintDialogSetup
     std::optional<QString> ppdFile;         ///< for the built-in printer, instead of its own
     QList<QPair<QString, QString>> options; ///< choices to begin with, in order
     QString outputFolder;                   ///< where the built-in printer leaves its files
-    bool remembers = true; ///< open with the printer used last, and remember the one used now
-    PlacementChoice placement;              ///< of each photo, to begin with
+    bool remembers = true;     ///< open with the printer used last, and remember the one used now
+    PlacementChoice placement; ///< of each photo, to begin with
 };
 
 /// The print dialog: the photo on its page, the printer, the panels of the printer's plug-in. It works at
