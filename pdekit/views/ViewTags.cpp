@@ -16,8 +16,11 @@ constexpr char tagProperty[] = "tag";
 
 int tag(const QWidget *view)
 {
-    const QVariant value = view->property(tagProperty);
-    return value.isValid() ? value.toInt() : noTag;
+    // QObject::property() compares the name with each of the class's own properties first, some hundred, which
+    // was half the time of showing a panel's choices.
+    if (!view->dynamicPropertyNames().contains(tagProperty))
+        return noTag;
+    return view->property(tagProperty).toInt();
 }
 
 void setTag(QWidget *view, int tag)
