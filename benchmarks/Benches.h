@@ -5,10 +5,12 @@
 
 #include <QtCore/QString>
 
-/// Process start to painted dialog, ours beside Qt's with its PPD options; each run in a process of its own.
+/// Process start to painted dialog, ours beside Qt's and GTK's with a PPD's options; each run in a process of
+/// its own.
 void benchOpening();
-/// What such a process does: `which` is "ours" or "qt". Ends the process at the first paint.
-int runOpeningChild(const QString &which);
+/// What such a process does: `which` is "ours", with the queue or the built-in printer, or "qt". Ends the
+/// process at the first paint, whose time it prints.
+int runOpeningChild(const QString &which, const QString &queue);
 
 /// What print servers add to the painted window: one that never answers, one with 500 queues.
 void benchQueues();
@@ -24,7 +26,5 @@ void benchPanels();
 /// Launching the backend, beside a bare posix_spawn of the same.
 void benchRunner();
 
-/// Photos of three sizes to PDF, beside img2pdf, with the memory that it takes.
+/// Photos of three sizes to PDF, beside img2pdf and ImageMagick, with the memory that it takes.
 void benchPdf();
-/// What such a process does: prints the photo into the folder once.
-int runPdfChild(const QString &path, const QString &folder);

@@ -16,7 +16,7 @@
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QTabWidget>
 
-#include <ctime>
+#include <algorithm>
 #include <unistd.h>
 
 #ifdef CORVEL_BENCH_HAS_CUPSD
@@ -25,39 +25,36 @@
 
 namespace {
 
-double monotonicMilliseconds()
-{
-    timespec now = {};
-    clock_gettime(CLOCK_MONOTONIC, &now);
-    return static_cast<double>(now.tv_sec) * 1e3 + static_cast<double>(now.tv_nsec) / 1e6;
-}
-
-/// Ends the process once the watched widget has been painted: it tells the time on standard output.
+/// Tells the time of the first paint of the widget that is waited for, and ends the process.
 class PaintWatch : public QObject
 {
 public:
-    explicit PaintWatch(QWidget *watched)
-        : QObject(watched)
+    explicit PaintWatch(QString objectName)
+        : QObject(qApp)
+        , objectName_(std::move(objectName))
     {
-        watched->installEventFilter(this);
+        qApp->installEventFilter(this);
     }
 
     bool eventFilter(QObject *watched, QEvent *event) override
     {
-        const bool result = QObject::eventFilter(watched, event);
         // The paint event itself has not been dealt with yet; the next turn of the loop comes after it.
-        if (event->type() == QEvent::Paint) {
+        if (event->type() == QEvent::Paint && watched->objectName() == objectName_) {
             QTimer::singleShot(0, this, [] {
                 std::printf("%.3f\n", monotonicMilliseconds());
                 std::fflush(stdout);
                 _exit(0);
             });
         }
-        return result;
+        return QObject::eventFilter(watched, event);
     }
+
+private:
+    QString objectName_;
 };
 
-int openOurs()
+/// Our dialog, with the built-in printer or with a queue, until a panel is painted.
+int openOurs(const std::optional<QString> &queue)
 {
     using namespace printdialog;
     PrintDialogSetup setup;
@@ -65,11 +62,12 @@ int openOurs()
     if (!photo)
         return 1;
     setup.photos = {*photo};
+    setup.printer = queue;
+    setup.remembers = false;
     PrintDialog dialog(setup);
-    auto *view = dialog.findChild<QWidget *>(QStringLiteral("PDEView"));
-    if (!view)
-        return 1;
-    new PaintWatch(view);
+    new PaintWatch(QStringLiteral("PDEView"));
+    if (queue)
+        QTimer::singleShot(0, &dialog, &PrintDialog::searchPrinters);
     return dialog.exec();
 }
 
@@ -89,7 +87,8 @@ int openQts()
             auto *tabs = window->findChild<QTabWidget *>();
             tabs->setCurrentIndex(tabs->count() - 1);
             isWatching = true;
-            new PaintWatch(tabs->currentWidget());
+            tabs->currentWidget()->setObjectName(QStringLiteral("optionsPage"));
+            new PaintWatch(QStringLiteral("optionsPage"));
             tabs->currentWidget()->update();
         }
     });
@@ -101,7 +100,6 @@ int openQts()
                 button->click();
         }
     });
-    QTimer::singleShot(10000, &dialog, [] { _exit(1); });
     return dialog.exec();
 }
 
@@ -122,66 +120,138 @@ bool copyWithOneForm(const QString &folder)
     return true;
 }
 
-/// Milliseconds from before the process is made to its first paint; 0 when it failed.
-double opening(const QString &which, const QString &bundles = {})
+/// Milliseconds from before the process is made to its first paint; 0 when it failed. The program tells the
+/// time of the paint.
+double opening(const QStringList &command, const QProcessEnvironment &environment)
 {
     QProcess child;
-    if (!bundles.isEmpty()) {
-        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        environment.insert(QStringLiteral("CORVEL_PDE_PATH"), bundles);
-        child.setProcessEnvironment(environment);
-    }
+    child.setProcessEnvironment(environment);
     const double begin = monotonicMilliseconds();
-    child.start(QApplication::applicationFilePath(), {QStringLiteral("--child"), which});
-    child.waitForFinished();
+    child.start(command.constFirst(), command.mid(1));
+    if (!child.waitForFinished(20000))
+        return 0.0;
     const double end = child.readAllStandardOutput().trimmed().toDouble();
     return child.exitCode() == 0 && end > 0.0 ? end - begin : 0.0;
 }
 
+QStringList childCommand(const QString &which)
+{
+    return {QApplication::applicationFilePath(), QStringLiteral("--child"), which};
+}
+
+/// The medians of each command's openings, which took turns; 0 for one that failed.
+std::vector<double> compare(const QList<QPair<QStringList, QProcessEnvironment>> &programs)
+{
+    std::vector<std::vector<double>> times(static_cast<std::size_t>(programs.size()));
+    for (int run = -1; run < benchRuns; ++run) { // the first one warms up
+        for (std::size_t i = 0; i < times.size(); ++i) {
+            const auto &[command, environment] = programs.at(static_cast<qsizetype>(i));
+            const double time = opening(command, environment);
+            if (run >= 0)
+                times[i].push_back(time);
+        }
+    }
+    std::vector<double> medians;
+    for (const std::vector<double> &each : times)
+        medians.push_back(std::count(each.cbegin(), each.cend(), 0.0) > 0 ? 0.0 : median(each));
+    return medians;
+}
+
+void printComparison(const QString &what, double ours, const QString &peerName, double peer,
+                     double largestRatio)
+{
+    if (ours == 0.0 || peer == 0.0)
+        printNote(QStringLiteral("%1 beside %2: not measured, %3 was not painted")
+                      .arg(what, peerName, ours == 0.0 ? QStringLiteral("ours") : peerName));
+    else
+        printRow({what, ours, peerName, peer, largestRatio, {}});
+}
+
+#ifdef CORVEL_BENCH_HAS_CUPSD
+/// An X server of its own, for the peer that has no offscreen platform.
+class VirtualDisplay
+{
+public:
+    VirtualDisplay()
+    {
+        server_.start(QStringLiteral("Xvfb"),
+                      {QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-screen"),
+                       QStringLiteral("0"), QStringLiteral("1600x1200x24"), QStringLiteral("-nolisten"),
+                       QStringLiteral("tcp")});
+        if (server_.waitForReadyRead(10000))
+            name_ = QLatin1Char(':') + QString::fromLatin1(server_.readLine().trimmed());
+    }
+    ~VirtualDisplay()
+    {
+        server_.terminate();
+        server_.waitForFinished();
+    }
+    Q_DISABLE_COPY_MOVE(VirtualDisplay)
+
+    /// Empty when there is none.
+    QString name() const { return name_; }
+
+private:
+    QProcess server_;
+    QString name_;
+};
+
+void benchBesideGtk()
+{
+#ifdef CORVEL_BENCH_GTK
+    const QString what = QStringLiteral("process start to a queue's painted options, on an X display");
+    const VirtualDisplay display;
+    if (display.name().isEmpty()) {
+        printNote(QStringLiteral("%1: not measured, there is no Xvfb").arg(what));
+        return;
+    }
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("DISPLAY"), display.name());
+    environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("xcb"));
+    environment.insert(QStringLiteral("GDK_BACKEND"), QStringLiteral("x11"));
+    const std::vector<double> times =
+        compare({{childCommand(QStringLiteral("ours")) << QStringLiteral("photo"), environment},
+                 {{QStringLiteral(CORVEL_BENCH_GTK), QStringLiteral("photo")}, environment}});
+    printComparison(what, times[0], QStringLiteral("GTK"), times[1], 1.0);
+#endif
+}
+#endif
+
 } // namespace
 
-int runOpeningChild(const QString &which)
+int runOpeningChild(const QString &which, const QString &queue)
 {
-    return which == QLatin1String("ours") ? openOurs() : openQts();
+    QTimer::singleShot(15000, qApp, [] { _exit(1); });
+    if (which == QLatin1String("ours"))
+        return openOurs(queue.isEmpty() ? std::nullopt : std::optional(queue));
+    return openQts();
 }
 
 void benchOpening()
 {
-    bool hasPeer = false;
+    const QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    const QString what = QStringLiteral("process start to painted dialog with its panels");
+    const QTemporaryDir bundles;
+    if (copyWithOneForm(bundles.path())) {
+        QProcessEnvironment oneForm = environment;
+        oneForm.insert(QStringLiteral("CORVEL_PDE_PATH"), bundles.path());
+        const std::vector<double> times = compare({{childCommand(QStringLiteral("ours")), environment},
+                                                   {childCommand(QStringLiteral("ours")), oneForm}});
+        printComparison(what, times[0], QStringLiteral("one form"), times[1], 1.3);
+    }
 #ifdef CORVEL_BENCH_HAS_CUPSD
     testing_support::PrivateCupsd server;
     QFile ppd(QStringLiteral(CORVEL_BENCH_PPD_DIR "/Corvel9031.ppd"));
-    hasPeer = ppd.open(QIODevice::ReadOnly) && server.start().isEmpty() &&
-              server.addQueue(QStringLiteral("photo"), ppd.readAll());
+    if (!ppd.open(QIODevice::ReadOnly) || !server.start().isEmpty() ||
+        !server.addQueue(QStringLiteral("photo"), ppd.readAll())) {
+        printNote(QStringLiteral("the dialogs of Qt and GTK: not measured, there is no private cupsd"));
+        return;
+    }
     server.run(QStringLiteral("lpadmin"), {QStringLiteral("-d"), QStringLiteral("photo")});
+    const QProcessEnvironment withServer = QProcessEnvironment::systemEnvironment();
+    const std::vector<double> times = compare({{childCommand(QStringLiteral("ours")), withServer},
+                                               {childCommand(QStringLiteral("qt")), withServer}});
+    printComparison(what, times[0], QStringLiteral("QPrintDialog"), times[1], 0.7);
+    benchBesideGtk();
 #endif
-    std::vector<double> ours;
-    std::vector<double> qts;
-    std::vector<double> alone;
-    const QTemporaryDir bundles;
-    const bool hasBundle = copyWithOneForm(bundles.path());
-    for (int run = 0; run < 12; ++run) {
-        const double own = opening(QStringLiteral("ours"));
-        const double qt = hasPeer ? opening(QStringLiteral("qt")) : 0.0;
-        const double one = hasBundle ? opening(QStringLiteral("ours"), bundles.path()) : 0.0;
-        if (run == 0)
-            continue; // to warm up
-        alone.push_back(one);
-        ours.push_back(own);
-        qts.push_back(qt);
-    }
-    BenchRow row{QStringLiteral("process start to painted dialog with its panels"), median(ours), {}, {}, {}};
-    if (hasPeer && median(qts) > 0.0) {
-        row.peer = median(qts);
-        row.largestRatio = 0.7;
-        row.what += QStringLiteral(" (peer: QPrintDialog)");
-    } else {
-        row.what += QStringLiteral(" (no peer: no cupsd)");
-    }
-    printRow(row);
-    printRow({QStringLiteral("the same (peer: without the forms of two of the panels)"),
-              median(ours),
-              median(alone),
-              1.3,
-              {}});
 }

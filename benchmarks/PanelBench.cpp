@@ -8,6 +8,7 @@
 #include "ViewTags.h"
 
 #include <QtTest/QTest>
+#include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QSlider>
 
@@ -17,6 +18,10 @@
 using namespace printdialog;
 
 namespace {
+
+constexpr int keystrokes = 201;
+constexpr int restores = 51;
+constexpr int defaultsTag = 16;
 
 QString benchPpd(int choices)
 {
@@ -31,66 +36,124 @@ std::unique_ptr<DialogSession> openSession(int choices, PanelMode mode)
     return *std::move(session);
 }
 
-/// What libcups itself needs for one choice: find it, ask for conflicts, mark it.
-double bareLibcups(ppd_file_t *ppd)
+QList<QByteArray> panelKeys(const DialogSession &session)
+{
+    QList<QByteArray> keys;
+    for (const pdekit::PanelPointer &panel : session.panels()) {
+        const QStringList supported = panel->supportedPPDOptionKeys();
+        for (const QString &key : supported)
+            keys.append(key.toUtf8());
+    }
+    return keys;
+}
+
+// What libcups itself needs for the same
+
+void chooseBare(ppd_file_t *ppd, const char *key, const char *choice)
+{
+    ppdFindChoice(ppdFindOption(ppd, key), choice);
+    cups_option_t *options = nullptr;
+    cupsFreeOptions(cupsGetConflicts(ppd, key, choice, &options), options);
+    ppdMarkOption(ppd, key, choice);
+}
+
+double bareKeystroke(ppd_file_t *ppd)
 {
     std::vector<double> times;
-    times.reserve(201);
-    for (int i = 0; i < 201; ++i) {
+    times.reserve(keystrokes);
+    for (int i = 0; i < keystrokes; ++i) {
         const QByteArray choice = QByteArray::number(i % 25);
+        times.push_back(millisecondsOf([&] { chooseBare(ppd, "Red", choice.constData()); }));
+    }
+    return median(times);
+}
+
+/// Every option's mark for restoring it and for the summary, and, with defaults, each one chosen.
+double bareRound(const DialogSession &session)
+{
+    ppd_file_t *ppd = session.ppd().record();
+    const QList<QByteArray> keys = panelKeys(session);
+    std::vector<double> times;
+    times.reserve(restores);
+    for (int i = 0; i < restores; ++i) {
         times.push_back(millisecondsOf([&] {
-            ppdFindChoice(ppdFindOption(ppd, "Red"), choice.constData());
-            cups_option_t *options = nullptr;
-            cupsFreeOptions(cupsGetConflicts(ppd, "Red", choice.constData(), &options), options);
-            ppdMarkOption(ppd, "Red", choice.constData());
+            for (const QByteArray &key : keys) {
+                ppdFindMarkedChoice(ppd, key.constData());
+                if (const ppd_option_t *option = ppdFindOption(ppd, key.constData()))
+                    chooseBare(ppd, option->keyword, option->defchoice);
+                ppdFindMarkedChoice(ppd, key.constData());
+            }
         }));
     }
     return median(times);
 }
 
-void benchKeystroke(int choices, PanelMode mode, const QString &name)
+// Ours
+
+double keystroke(DialogSession &session)
 {
-    const auto session = openSession(choices, mode);
-    QWidget *view = session->panels().front()->panelView();
-    session->panels().front()->willShow();
+    QWidget *view = session.panels().front()->panelView();
+    session.panels().front()->willShow();
     view->show();
     auto *field = qobject_cast<QLineEdit *>(pdekit::viewWithTag(view, 81));
     auto *slider = qobject_cast<QSlider *>(pdekit::viewWithTag(view, 1));
     field->setFocus();
     std::vector<double> times;
-    times.reserve(201);
-    for (int i = 0; i < 201; ++i) {
+    times.reserve(keystrokes);
+    for (int i = 0; i < keystrokes; ++i) {
         field->selectAll();
         const auto digit = static_cast<Qt::Key>(Qt::Key_1 + i % 9);
         times.push_back(millisecondsOf([&] { QTest::keyClick(field, digit); }));
         if (slider->value() != 1 + i % 9)
             qFatal("the keystroke did not reach the slider");
     }
-    printRow({QStringLiteral("keystroke to recorded choice, %1, %2 choices").arg(name).arg(choices),
-              median(times),
-              bareLibcups(session->ppd().record()),
-              {},
-              1.0});
+    return median(times);
 }
 
-double benchRestore(int choices, PanelMode mode, const QString &name)
+/// Restoring, the defaults by each page's button, and the summary.
+double restoreAll(DialogSession &session)
 {
-    const auto session = openSession(choices, mode);
+    QList<QAbstractButton *> defaults;
+    for (const pdekit::PanelPointer &panel : session.panels()) {
+        auto *button = qobject_cast<QAbstractButton *>(pdekit::viewWithTag(panel->panelView(), defaultsTag));
+        if (button)
+            defaults.append(button);
+    }
     std::vector<double> times;
-    times.reserve(51);
-    for (int i = 0; i < 51; ++i) {
+    times.reserve(restores);
+    for (int i = 0; i < restores; ++i) {
         times.push_back(millisecondsOf([&] {
-            session->refreshPanels();
-            session->summary();
+            session.refreshPanels();
+            for (QAbstractButton *button : std::as_const(defaults))
+                button->click();
+            session.summary();
         }));
     }
-    const double time = median(times);
-    printRow({QStringLiteral("restore and summary of all panels, %1, %2 choices").arg(name).arg(choices),
-              time,
-              {},
-              {},
-              {}});
-    return time;
+    return median(times);
+}
+
+void benchMode(PanelMode mode, const QString &name)
+{
+    QList<SizedTime> growth;
+    for (const int choices : {1000, 10000, 100000}) {
+        const auto session = openSession(choices, mode);
+        const double bare = bareKeystroke(session->ppd().record());
+        printRow({QStringLiteral("keystroke to recorded choice, %1, %2 choices").arg(name).arg(choices),
+                  keystroke(*session),
+                  QStringLiteral("libcups"),
+                  bare,
+                  {},
+                  1.5 * bare + 0.05});
+        const double round = restoreAll(*session);
+        growth.append({static_cast<double>(choices), round});
+        printRow({QStringLiteral("restore, defaults, summary, %1, %2 choices").arg(name).arg(choices),
+                  round,
+                  QStringLiteral("libcups"),
+                  bareRound(*session),
+                  1.2,
+                  {}});
+    }
+    printGrowth(QStringLiteral("restore, defaults, summary, %1").arg(name), growth);
 }
 
 } // namespace
@@ -98,13 +161,7 @@ double benchRestore(int choices, PanelMode mode, const QString &name)
 void benchPanels()
 {
     const pdekit::LogSink log = pdekit::setSystemLogSink([](const QString &) {});
-    for (const auto &[mode, name] : {std::pair(PanelMode::Constraint, QStringLiteral("constraint mode")),
-                                     std::pair(PanelMode::Settings, QStringLiteral("settings mode"))}) {
-        for (const int choices : {1000, 20000})
-            benchKeystroke(choices, mode, name);
-        const double small = benchRestore(1000, mode, name);
-        const double large = benchRestore(20000, mode, name);
-        printGrowth(QStringLiteral("restore and summary, %1").arg(name), 1000, small, 20000, large);
-    }
+    benchMode(PanelMode::Constraint, QStringLiteral("constraint mode"));
+    benchMode(PanelMode::Settings, QStringLiteral("settings mode"));
     pdekit::setSystemLogSink(log);
 }

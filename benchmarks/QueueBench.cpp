@@ -13,7 +13,6 @@
 #include <QtWidgets/QComboBox>
 
 #include <algorithm>
-#include <ctime>
 #include <unistd.h>
 
 #ifdef CORVEL_BENCH_HAS_CUPSD
@@ -24,13 +23,6 @@
 namespace {
 
 constexpr int manyQueues = 500;
-
-double monotonicMilliseconds()
-{
-    timespec now = {};
-    clock_gettime(CLOCK_MONOTONIC, &now);
-    return static_cast<double>(now.tv_sec) * 1e3 + static_cast<double>(now.tv_nsec) / 1e6;
-}
 
 /// The longest time that the window's thread had no turn of its loop, in milliseconds.
 class Heartbeat
@@ -141,7 +133,7 @@ struct Comparison
 Comparison compare(const QByteArray &server, int queues)
 {
     Comparison comparison;
-    for (int run = 0; run < 12; ++run) {
+    for (int run = 0; run < benchRuns + 1; ++run) {
         qputenv("CUPS_SERVER", "/nonexistent/cups.sock");
         const Opening without = opening(0);
         qputenv("CUPS_SERVER", server);
@@ -162,9 +154,11 @@ void printAdded(const QString &what, const Comparison &comparison, double most)
               median(comparison.with) - median(comparison.without),
               {},
               {},
+              {},
               most});
-    printRow({what + QStringLiteral(": the painted window is held for at most"),
+    printRow({what + QStringLiteral(": the painted window is held for"),
               median(comparison.held),
+              {},
               {},
               {},
               most});
@@ -204,12 +198,12 @@ void benchQueues()
     for (int i = 0; isReady && i < manyQueues; ++i)
         isReady = server.addQueue(QStringLiteral("queue%1").arg(i));
     if (!isReady) {
-        std::printf("no private cupsd: %d queues are not measured\n", manyQueues);
+        printNote(QStringLiteral("%1 queues: not measured, there is no private cupsd").arg(manyQueues));
         return;
     }
     const Comparison many = compare(qgetenv("CUPS_SERVER"), manyQueues);
     const QString what = QStringLiteral("%1 queues").arg(manyQueues);
     printAdded(what, many, 100.0);
-    printRow({what + QStringLiteral(": listed after the first paint"), median(many.listed), {}, {}, {}});
+    printRow({what + QStringLiteral(": listed after the first paint"), median(many.listed), {}, {}, {}, {}});
 #endif
 }

@@ -6,19 +6,26 @@
 
 #include <QtWidgets/QApplication>
 
+#include <cstdio>
+
 int main(int argc, char *argv[])
 {
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     if (!qEnvironmentVariableIsSet("CORVEL_PDE_PATH"))
         qputenv("CORVEL_PDE_PATH", CORVEL_PDE_BUILD_DIR);
+    // Qt's remarks on the platform belong into no table.
+    qInstallMessageHandler(
+        [](QtMsgType type, const QMessageLogContext & /*context*/, const QString &message) {
+            if (type == QtFatalMsg)
+                std::fprintf(stderr, "%s\n", qPrintable(message));
+        });
     QApplication application(argc, argv);
     const QStringList arguments = QApplication::arguments();
-    if (arguments.value(1) == QLatin1String("--child") && arguments.value(2) == QLatin1String("pdf"))
-        return runPdfChild(arguments.value(3), arguments.value(4));
     if (arguments.value(1) == QLatin1String("--child"))
-        return arguments.value(2) == QLatin1String("queues") ? runQueueChild(arguments.value(3).toInt())
-                                                             : runOpeningChild(arguments.value(2));
+        return arguments.value(2) == QLatin1String("queues")
+                   ? runQueueChild(arguments.value(3).toInt())
+                   : runOpeningChild(arguments.value(2), arguments.value(3));
 
     // With names of parts only those: corvel-bench queues jobs
     const std::pair<const char *, void (*)()> parts[] = {{"opening", benchOpening}, {"queues", benchQueues},
@@ -29,5 +36,6 @@ int main(int argc, char *argv[])
         if (arguments.size() < 2 || arguments.contains(QLatin1String(name)))
             bench();
     }
+    printMet();
     return 0;
 }

@@ -1,7 +1,7 @@
 # SPDX-FileCopyrightText: Corvel print dialog authors
 # SPDX-License-Identifier: Apache-2.0
 #
-# What ./run and ./test share: the Debian packages, and how to get and build what is missing. Sourced, not run.
+# What ./run, ./test and ./bench share: the Debian packages, and how to get and build what is missing. Sourced, not run.
 
 corvel_build_packages=(
     cmake ninja-build g++ pkg-config python3
@@ -12,6 +12,8 @@ corvel_build_packages=(
 corvel_test_packages=(
     cups cups-client cups-filters poppler-utils appstream desktop-file-utils bash-completion groff-base
 )
+
+corvel_bench_packages=(img2pdf imagemagick libgtk-3-dev xvfb)
 
 # corvel_install PACKAGE...: installs those that are not there; costs a few milliseconds when all are.
 corvel_install() {

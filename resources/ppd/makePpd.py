@@ -4,7 +4,7 @@
 """Writes the PPDs of the Corvel photo printers, or one large PPD for measurements.
 
     makePpd.py FOLDER                    FOLDER/Corvel9031.ppd and FOLDER/Corvel9045.ppd
-    makePpd.py FOLDER --choices 20000    FOLDER/Bench20000.ppd, with about that many choices
+    makePpd.py FOLDER --choices 10000    FOLDER/Bench10000.ppd, with about that many choices
 
 What the printers can do stands in the tables below. A tuple of five texts is in the order of LANGUAGES.
 """
@@ -254,7 +254,7 @@ def benchGroup(wanted):
     perOption = -(-missing // count) if count else 0
     return Group("Bench", same("Bench"), [
         Option(f"Bench{n:04}", "Choice0", same(f"Bench option {n}"),
-               [Choice(f"Choice{c}", same(f"Choice {c}")) for c in range(perOption)])
+               [Choice(f"Choice{c}", same(f"Choice{c}")) for c in range(perOption)])
         for n in range(1, count + 1)])
 
 
