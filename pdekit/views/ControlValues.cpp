@@ -151,9 +151,12 @@ std::optional<int> state(const QWidget *control)
 bool setState(QWidget *control, int state)
 {
     const SettingScope scope(control);
-    auto *box = qobject_cast<QCheckBox *>(control);
-    if (box && state < 0 && box->isTristate()) {
-        box->setCheckState(Qt::PartiallyChecked);
+    // Not setChecked: a box that is on its way to the mixed state counts as checked already, and would stay
+    // there.
+    if (auto *box = qobject_cast<QCheckBox *>(control)) {
+        const bool mixed = state < 0 && box->isTristate();
+        const Qt::CheckState whole = state != 0 ? Qt::Checked : Qt::Unchecked;
+        box->setCheckState(mixed ? Qt::PartiallyChecked : whole);
         return true;
     }
     auto *button = qobject_cast<QAbstractButton *>(control);
