@@ -5,29 +5,15 @@
 
 #include <QtCore/QtEndian>
 
-#include <array>
+#include <zlib.h>
 
 namespace printdialog {
 namespace {
 
-constexpr std::array<quint32, 256> checksumTable = [] {
-    std::array<quint32, 256> table{};
-    for (quint32 byte = 0; byte < table.size(); ++byte) {
-        quint32 remainder = byte;
-        for (int bit = 0; bit < 8; ++bit)
-            remainder = remainder & 1 ? 0xedb88320 ^ (remainder >> 1) : remainder >> 1;
-        table[byte] = remainder;
-    }
-    return table;
-}();
-
-/// The CRC-32 of ISO 3309, as in PNG and zlib.
 quint32 checksum(QByteArrayView bytes)
 {
-    quint32 sum = 0xffffffff;
-    for (const char byte : bytes)
-        sum = checksumTable[(sum ^ static_cast<quint8>(byte)) & 0xff] ^ (sum >> 8);
-    return ~sum;
+    const auto *data = reinterpret_cast<const Bytef *>(bytes.data());
+    return static_cast<quint32>(crc32_z(0, data, static_cast<z_size_t>(bytes.size())));
 }
 
 } // namespace

@@ -33,7 +33,7 @@ QSet<QString> tableKeys()
 bool isNumber(const QString &text)
 {
     bool isNumber = false;
-    text.toDouble(&isNumber);
+    static_cast<void>(text.toDouble(&isNumber));
     return isNumber;
 }
 
