@@ -11,6 +11,7 @@
 #include <memory>
 #include <optional>
 
+class QAction;
 class QComboBox;
 class QSpinBox;
 class QToolButton;
