@@ -73,6 +73,11 @@ ColourProfile ColourProfile::of(const QImage &image)
                                                                       : ColourProfile();
 }
 
+bool ColourProfile::isSrgb() const
+{
+    return QColorSpace::fromIccProfile(icc_) == QColorSpace(QColorSpace::SRgb);
+}
+
 QImage ColourProfile::toScreen(const QImage &image) const
 {
     const bool isGrey = image.format() == QImage::Format_Grayscale8;

@@ -20,6 +20,8 @@ public:
     static ColourProfile of(const QImage &image);
 
     bool isEmpty() const { return icc_.isEmpty(); }
+    /// What everything takes colours for that come without a profile.
+    bool isSrgb() const;
     const QByteArray &icc() const { return icc_; }
     /// How many numbers a colour has: 1 (grey), 3 (RGB) or 4 (CMYK); 0 of no profile.
     int components() const { return components_; }

@@ -37,14 +37,15 @@ bool isSame(const QRectF &area, const QRectF &sheet)
 
 } // namespace
 
-bool needsNoPlacement(const Photo &photo, const PageGeometry &page, const PlacementChoice &choice)
+bool canGoUntouched(const Photo &photo, const PageGeometry &page, const PlacementChoice &choice)
 {
     const QRectF sheet(QPointF(), page.size);
     if (photo.format() != "jpeg" || !photo.isEmbeddable() || photo.orientation().value() != 1 ||
         !isSame(page.imageable, sheet))
         return false;
     constexpr int cmyk = 4;
-    if (JpegHeader::read(photo.content()).components == cmyk)
+    if (JpegHeader::read(photo.content()).components == cmyk ||
+        !(photo.profile().isEmpty() || photo.profile().isSrgb()))
         return false;
     const QTransform toPage =
         PhotoPlacement::place(photo.orientedSize(), photo.printedResolution(), page, choice).toPage();
@@ -59,7 +60,7 @@ Result<SubmittedDocument, PdfFault> jobDocument(const Photo &photo, const PrintJ
     document.name = photo.fileName();
     const QByteArray type = mimeTypeOf(photo);
     if (!job.queue.hasPpd ||
-        (job.queue.directTypes.contains(type) && needsNoPlacement(photo, job.page, job.placement))) {
+        (job.queue.directTypes.contains(type) && canGoUntouched(photo, job.page, job.placement))) {
         document.mimeType = type;
         document.data = photo.content();
         return document;

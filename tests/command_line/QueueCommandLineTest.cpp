@@ -10,6 +10,7 @@
 #include <QtCore/QJsonObject>
 #include <QtCore/QProcess>
 #include <QtCore/QTemporaryDir>
+#include <QtGui/QColorSpace>
 #include <QtGui/QImage>
 #include <QtTest/QTest>
 
@@ -86,6 +87,11 @@ void QueueCommandLineTest::initTestCase()
     QVERIFY(cupsd_.run(u"lpadmin"_s, {u"-p"_s, u"group"_s, u"-E"_s}));
     QImage upright(600, 900, QImage::Format_RGB32);
     upright.fill(Qt::darkCyan);
+    QImage wide = upright;
+    wide.setColorSpace(QColorSpace::AdobeRgb);
+    QImage named = upright;
+    named.setColorSpace(QColorSpace::SRgb);
+    QVERIFY(wide.save(home_.filePath(u"wide.jpg"_s)) && named.save(home_.filePath(u"named.jpg"_s)));
     QVERIFY(upright.save(uprightPhoto(), "JPEG") && upright.save(home_.filePath(u"upright.webp"_s), "PNG"));
     QVERIFY(cupsd_.run(u"lpadmin"_s, {u"-d"_s, u"photo"_s}));
 }
@@ -158,6 +164,10 @@ void QueueCommandLineTest::sendsWhatTheDryRunShows_data()
     QTest::newRow("nothing to place") << u"photo"_s << uprightPhoto() << red << u"image/jpeg"_s;
     QTest::newRow("class") << u"group"_s << uprightPhoto() << red << u"image/jpeg"_s;
     QTest::newRow("with margins") << u"photo"_s << uprightPhoto() << small << u"application/pdf"_s;
+    QTest::newRow("colours of its own")
+        << u"photo"_s << home_.filePath(u"wide.jpg"_s) << red << u"application/pdf"_s;
+    QTest::newRow("colours named sRGB")
+        << u"photo"_s << home_.filePath(u"named.jpg"_s) << red << u"image/jpeg"_s;
     QTest::newRow("no JPEG") << u"photo"_s << home_.filePath(u"upright.webp"_s) << red
                              << u"application/pdf"_s;
     QTest::newRow("without a PPD") << u"raw"_s << samplePhoto << QStringList() << u"image/jpeg"_s;
