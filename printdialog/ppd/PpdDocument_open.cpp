@@ -202,7 +202,7 @@ void PpdDocument::indexPageSizes()
         pageSizes_ += {choice.keyword, choice.text, QSizeF(size->width, size->length), imageableArea(*size)};
     }
     if (unusable > 0)
-        notes_ += Text::tr("%1 page sizes are left out: they have no dimensions.").arg(unusable);
+        notes_ += Text::tr("Page sizes left out because they have no dimensions: %1.").arg(unusable);
 }
 
 void PpdDocument::markDefaults()

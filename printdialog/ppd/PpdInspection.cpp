@@ -287,7 +287,7 @@ private:
     {
         QStringList all = notes_;
         if (noteCount_ > Limits::notes)
-            all += tr("%1 more entries are left out.").arg(noteCount_ - Limits::notes);
+            all += tr("Further entries left out: %1.").arg(noteCount_ - Limits::notes);
         return all;
     }
 

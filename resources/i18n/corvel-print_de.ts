@@ -533,7 +533,7 @@ linken und oberen Rand aus (sonst 50,50, die Mitte)</translation>
         <translation>Die Option „%1“ wurde weggelassen: Sie hat keine Auswahlmöglichkeiten.</translation>
     </message>
     <message>
-        <source>%1 page sizes are left out: they have no dimensions.</source>
+        <source>Page sizes left out because they have no dimensions: %1.</source>
         <translation>Papierformate ohne Maße, die weggelassen wurden: %1.</translation>
     </message>
     <message>
@@ -679,7 +679,7 @@ linken und oberen Rand aus (sonst 50,50, die Mitte)</translation>
         <translation>Zeile %1: Der Eintrag „%3“ „%2“ wurde weggelassen: %4.</translation>
     </message>
     <message>
-        <source>%1 more entries are left out.</source>
+        <source>Further entries left out: %1.</source>
         <translation>Weitere weggelassene Einträge: %1.</translation>
     </message>
     <message>

@@ -533,7 +533,7 @@ izquierda y desde arriba (si no, 50,50, el centro)</translation>
         <translation>Se omite la opción «%1»: no tiene valores.</translation>
     </message>
     <message>
-        <source>%1 page sizes are left out: they have no dimensions.</source>
+        <source>Page sizes left out because they have no dimensions: %1.</source>
         <translation>Tamaños de papel omitidos por no tener dimensiones: %1.</translation>
     </message>
     <message>
@@ -679,7 +679,7 @@ izquierda y desde arriba (si no, 50,50, el centro)</translation>
         <translation>Línea %1: se omite la entrada «%3» «%2»: %4.</translation>
     </message>
     <message>
-        <source>%1 more entries are left out.</source>
+        <source>Further entries left out: %1.</source>
         <translation>Otras entradas omitidas: %1.</translation>
     </message>
     <message>

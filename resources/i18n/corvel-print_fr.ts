@@ -533,7 +533,7 @@ et depuis son haut (sinon 50,50, le milieu)</translation>
         <translation>L’option «&#x202f;%1&#x202f;» est ignorée&#x202f;: elle n’a aucun choix.</translation>
     </message>
     <message>
-        <source>%1 page sizes are left out: they have no dimensions.</source>
+        <source>Page sizes left out because they have no dimensions: %1.</source>
         <translation>Formats de papier ignorés, car sans dimensions&#x202f;: %1.</translation>
     </message>
     <message>
@@ -679,7 +679,7 @@ et depuis son haut (sinon 50,50, le milieu)</translation>
         <translation>Ligne %1&#x202f;: l’entrée «&#x202f;%3&#x202f;» «&#x202f;%2&#x202f;» est ignorée&#x202f;: %4.</translation>
     </message>
     <message>
-        <source>%1 more entries are left out.</source>
+        <source>Further entries left out: %1.</source>
         <translation>Autres entrées ignorées&#x202f;: %1.</translation>
     </message>
     <message>

@@ -533,7 +533,7 @@ and from its top (otherwise 50,50, the middle)</source>
         <translation>オプション「%1」は選択肢がないため、省きました。</translation>
     </message>
     <message>
-        <source>%1 page sizes are left out: they have no dimensions.</source>
+        <source>Page sizes left out because they have no dimensions: %1.</source>
         <translation>寸法がないため省いた用紙サイズ: %1 件。</translation>
     </message>
     <message>
@@ -679,7 +679,7 @@ and from its top (otherwise 50,50, the middle)</source>
         <translation>%1 行目: 項目「%3」「%2」を省きました: %4。</translation>
     </message>
     <message>
-        <source>%1 more entries are left out.</source>
+        <source>Further entries left out: %1.</source>
         <translation>ほかに省いた項目: %1 件。</translation>
     </message>
     <message>

@@ -159,7 +159,7 @@ private Q_SLOTS:
         QTest::newRow("option without choices") << odd + "*OpenUI *Nil: PickOne\n*CloseUI: *Nil\n"
                                                 << u"\"Nil\""_s;
         QTest::newRow("many bad entries")
-            << odd + QByteArray("*Foo \xff: \"\"\n").repeated(1'000) << u"950 more entries"_s;
+            << odd + QByteArray("*Foo \xff: \"\"\n").repeated(1'000) << u"left out: 950"_s;
     }
 
     void keepsOddPpds()
