@@ -111,8 +111,8 @@ private:
         const quint32 height = wordAt(content, 4);
         if (width <= INT_MAX && height <= INT_MAX)
             header_.size = QSize(static_cast<int>(width), static_cast<int>(height));
-        header_.bitsPerSample = content[8];
-        type_ = content[9];
+        header_.bitsPerSample = static_cast<quint8>(content[8]);
+        type_ = static_cast<quint8>(content[9]);
         isInterlaced_ = content[12] != 0;
     }
 
