@@ -1,17 +1,17 @@
 // SPDX-FileCopyrightText: Corvel print dialog authors
 // SPDX-License-Identifier: Apache-2.0
 
-#include "OpenedDialog.h"
+#include "ChoiceTest.h"
 #include "SystemLog.h"
 
 #include <QtCore/QFile>
 #include <QtGui/QAccessible>
-#include <QtTest/QTest>
-#include <QtWidgets/QApplication>
+#include <QtGui/private/qguiapplication_p.h>
+#include <QtGui/qpa/qplatformaccessibility.h>
+#include <QtGui/qpa/qplatformintegration.h>
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QPushButton>
-#include <QtWidgets/QRadioButton>
 #include <QtWidgets/QSlider>
 #include <QtWidgets/QSpinBox>
 
@@ -21,8 +21,6 @@ using namespace printdialog;
 using namespace testing_support;
 using namespace Qt::StringLiterals;
 
-Q_DECLARE_METATYPE(PanelMode)
-
 namespace {
 
 QRect inWindow(const QWidget *widget)
@@ -31,51 +29,6 @@ QRect inWindow(const QWidget *widget)
 }
 
 } // namespace
-
-/// Choices in the window: refused with a way out, taken back, kept for the next time.
-class ChoiceTest : public QObject
-{
-    Q_OBJECT
-
-private Q_SLOTS:
-    void initTestCase_data();
-    void initTestCase();
-    void init();
-    void refusalIsExplainedBesideItsControl_data();
-    void refusalIsExplainedBesideItsControl();
-    void calloutGoesByKeyAndByTheNextChoice();
-    void offerMakesTheChoiceAndOneStep();
-    void noOfferWithoutAWay();
-    void refusedPageSize();
-    void conflictOfTheJobIsSettled();
-    void undoAndRedo();
-    void oneActIsOneStep();
-    void undoOfChoicesThatAllowEachOtherOnlyTogether();
-    void revertIsAStep();
-    void printingKeepsTheChoices();
-    void cancelKeepsNothing();
-    void keptChoicesThatConflict();
-
-private:
-    PrintDialogSetup setup(PanelMode mode) const;
-    static QRadioButton *radio(const OpenedDialog &opened, const QString &name)
-    {
-        return opened.find<QRadioButton>(name);
-    }
-    static void pressUndo(const OpenedDialog &opened)
-    {
-        QTest::keyClick(QApplication::focusWidget() ? QApplication::focusWidget() : opened.dialog.get(),
-                        Qt::Key_Z, Qt::ControlModifier);
-    }
-    static void pressRedo(const OpenedDialog &opened)
-    {
-        QTest::keyClick(QApplication::focusWidget() ? QApplication::focusWidget() : opened.dialog.get(),
-                        Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
-    }
-
-    QTemporaryDir folder_;
-    std::unique_ptr<QTemporaryDir> config_;
-};
 
 void ChoiceTest::initTestCase_data()
 {
@@ -173,6 +126,27 @@ void ChoiceTest::refusalIsExplainedBesideItsControl()
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
     QCOMPARE(QApplication::focusWidget(), offered);
     QVERIFY(callout->isVisible());
+}
+
+// What a screen reader would hear, if the platform had one listening.
+void ChoiceTest::screenReaderIsTold()
+{
+    QFETCH_GLOBAL(PanelMode, mode);
+    if (mode == PanelMode::Settings)
+        return;
+    static QStringList heard;
+    heard.clear();
+    QPlatformAccessibility *platform = QGuiApplicationPrivate::platformIntegration()->accessibility();
+    platform->setActive(true);
+    const auto before = QAccessible::installUpdateHandler([](QAccessibleEvent *event) {
+        if (event->type() == QAccessible::Alert)
+            heard.append(event->accessibleInterface()->text(QAccessible::Name));
+    });
+    const OpenedDialog opened(setup(mode));
+    opened.type(81, u"25"_s);
+    QAccessible::installUpdateHandler(before);
+    platform->setActive(false);
+    QCOMPARE(heard, QStringList{u"\"Red\" cannot be \"25\" while \"Print Quality\" is \"Standard\"."_s});
 }
 
 void ChoiceTest::calloutGoesByKeyAndByTheNextChoice()
@@ -299,191 +273,4 @@ void ChoiceTest::conflictOfTheJobIsSettled()
     QCOMPARE(opened.options()[u"Overcoat"_s].toString(), u"Glossy"_s);
 }
 
-void ChoiceTest::undoAndRedo()
-{
-    QFETCH_GLOBAL(PanelMode, mode);
-    const OpenedDialog opened(setup(mode));
-    auto *sizes = opened.find<QComboBox>(u"pageSize"_s);
-    const int size = sizes->currentIndex();
-    pressUndo(opened); // there is nothing to undo yet
-    opened.type(81, u"-12"_s);
-    opened.dialog->showPage(2);
-    opened.click(u"fine"_s);
-    sizes->setFocus();
-    QTest::keyClick(sizes, Qt::Key_End);
-    auto *copies = opened.find<QSpinBox>(u"copies"_s);
-    copies->setFocus();
-    QTest::keyClick(copies, Qt::Key_Up);
-    QTest::keyClick(copies, Qt::Key_Up);
-    QCOMPARE(copies->value(), 3);
-
-    pressUndo(opened); // with the focus in a field that has an undo of its own
-    QCOMPARE(copies->value(), 1);
-    pressUndo(opened);
-    QCOMPARE(sizes->currentIndex(), size);
-    pressUndo(opened);
-    QVERIFY(radio(opened, u"standard"_s)->isChecked());
-    opened.dialog->showPage(0);
-    opened.control(81)->setFocus();
-    pressUndo(opened);
-    QCOMPARE(opened.fieldText(81), u"0"_s);
-    QCOMPARE(qobject_cast<QSlider *>(opened.control(1))->value(), 0);
-    pressUndo(opened);
-    QCOMPARE(opened.fieldText(81), u"0"_s);
-    for (int i = 0; i < 5; ++i)
-        pressRedo(opened);
-    QCOMPARE(opened.fieldText(81), u"-12"_s);
-    QVERIFY(radio(opened, u"fine"_s)->isChecked());
-    QCOMPARE(copies->value(), 3);
-    pressUndo(opened);
-    opened.type(82, u"4"_s); // another way: there is nothing to redo any more
-    pressRedo(opened);
-    QCOMPARE(copies->value(), 1);
-    opened.click(u"print"_s);
-    QTRY_VERIFY(opened.hasPrinted());
-    QCOMPARE(opened.options()[u"Red"_s].toString(), u"-12"_s);
-    QCOMPARE(opened.options()[u"Green"_s].toString(), u"4"_s);
-    QCOMPARE(opened.options()[u"Quality"_s].toString(), u"Fine"_s);
-    QCOMPARE(opened.options()[u"PageSize"_s].toString(), sizes->itemData(sizes->count() - 1).toString());
-}
-
-void ChoiceTest::oneActIsOneStep()
-{
-    QFETCH_GLOBAL(PanelMode, mode);
-    const OpenedDialog opened(setup(mode));
-    auto *slider = qobject_cast<QSlider *>(opened.control(3));
-    const auto drag = [slider](int from, int to) {
-        const auto at = [slider](int percent) {
-            return QPoint(slider->width() * percent / 100, slider->height() / 2);
-        };
-        QTest::mousePress(slider, Qt::LeftButton, {}, at(from));
-        for (int i = 1; i <= 5; ++i)
-            QTest::mouseMove(slider, at(from + (to - from) * i / 5));
-        QTest::mouseRelease(slider, Qt::LeftButton, {}, at(to));
-    };
-    drag(50, 70);
-    const int first = slider->value();
-    drag(70, 90);
-    QVERIFY(slider->value() > first && first > 0);
-    // One field and then the other; the way there changes nothing.
-    opened.type(81, u"11"_s);
-    QTest::keyClick(opened.control(81), Qt::Key_Return);
-    opened.type(82, u"12"_s);
-    // A button that makes many choices.
-    QTest::mouseClick(opened.control(16), Qt::LeftButton);
-    QCOMPARE(slider->value(), 0);
-    pressUndo(opened);
-    QCOMPARE(opened.fieldText(81) + u' ' + opened.fieldText(82), u"11 12"_s);
-    QVERIFY(slider->value() > first);
-    pressUndo(opened);
-    QCOMPARE(opened.fieldText(81) + u' ' + opened.fieldText(82), u"11 0"_s);
-    pressUndo(opened);
-    QCOMPARE(opened.fieldText(81), u"0"_s);
-    QVERIFY(slider->value() > first);
-    pressUndo(opened);
-    QCOMPARE(slider->value(), first);
-    pressUndo(opened);
-    QCOMPARE(slider->value(), 0);
-}
-
-// No single choice leads from one state to the other.
-void ChoiceTest::undoOfChoicesThatAllowEachOtherOnlyTogether()
-{
-    QFETCH_GLOBAL(PanelMode, mode);
-    const OpenedDialog opened(setup(mode));
-    const int saturation = 86;
-    const int contrast = 85;
-    opened.type(saturation, u"5"_s);
-    opened.click(mode == PanelMode::Constraint ? u"calloutOffer"_s : u"print"_s);
-    if (mode == PanelMode::Settings)
-        opened.click(u"messageAction"_s);
-    QCOMPARE(opened.fieldText(saturation), u"5"_s);
-    const QString settled = opened.fieldText(contrast);
-    QVERIFY(settled != u"0"_s);
-    for (int i = 0; i < 4; ++i)
-        pressUndo(opened);
-    QCOMPARE(opened.fieldText(saturation) + opened.fieldText(contrast), u"00"_s);
-    for (int i = 0; i < 4; ++i)
-        pressRedo(opened);
-    QCOMPARE(opened.fieldText(saturation), u"5"_s);
-    QCOMPARE(opened.fieldText(contrast), settled);
-}
-
-void ChoiceTest::revertIsAStep()
-{
-    QFETCH_GLOBAL(PanelMode, mode);
-    PrintDialogSetup with = setup(mode);
-    with.options = {{u"Red"_s, u"3"_s}};
-    const OpenedDialog opened(with);
-    const QList<QAction *> actions = opened.find<QWidget>(u"presetMenu"_s)->actions();
-    QAction *revert = actions.constLast();
-    QVERIFY(!revert->isEnabled());
-    opened.type(81, u"9"_s);
-    opened.type(82, u"9"_s);
-    QVERIFY(revert->isEnabled());
-    revert->trigger();
-    QCOMPARE(opened.fieldText(81) + opened.fieldText(82), u"30"_s);
-    QVERIFY(!revert->isEnabled());
-    pressUndo(opened);
-    QCOMPARE(opened.fieldText(81) + opened.fieldText(82), u"99"_s);
-}
-
-void ChoiceTest::printingKeepsTheChoices()
-{
-    QFETCH_GLOBAL(PanelMode, mode);
-    {
-        const OpenedDialog opened(setup(mode));
-        opened.type(81, u"5"_s);
-        opened.find<QSpinBox>(u"copies"_s)->setValue(4);
-        auto *sizes = opened.find<QComboBox>(u"pageSize"_s);
-        sizes->setFocus();
-        QTest::keyClick(sizes, Qt::Key_End);
-        opened.click(u"print"_s);
-        QTRY_VERIFY(opened.hasPrinted());
-    }
-    const OpenedDialog opened(setup(mode));
-    QCOMPARE(opened.fieldText(81), u"5"_s);
-    QCOMPARE(opened.find<QSpinBox>(u"copies"_s)->value(), 4);
-    auto *sizes = opened.find<QComboBox>(u"pageSize"_s);
-    QCOMPARE(sizes->currentIndex(), sizes->count() - 1);
-    pressUndo(opened); // how it opened is where it begins
-    QCOMPARE(opened.fieldText(81), u"5"_s);
-}
-
-void ChoiceTest::cancelKeepsNothing()
-{
-    QFETCH_GLOBAL(PanelMode, mode);
-    {
-        const OpenedDialog opened(setup(mode));
-        opened.type(81, u"5"_s);
-        opened.click(u"cancel"_s);
-        QVERIFY(!opened.dialog->isVisible());
-    }
-    const OpenedDialog opened(setup(mode));
-    QCOMPARE(opened.fieldText(81), u"0"_s);
-}
-
-// Saved by another version, or for another PPD: what cannot be together is left out, and said.
-void ChoiceTest::keptChoicesThatConflict()
-{
-    QFETCH_GLOBAL(PanelMode, mode);
-    const QString folder = config_->filePath(u"corvel-print/queues"_s);
-    QVERIFY(QDir().mkpath(folder));
-    QFile file(folder + u"/built-in.json"_s);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(R"({"version": 1, "options": {"Overcoat": "Matte", "Quality": "Standard", "Red": "8",
-                   "Blue": "999", "Gone": "1", "copies": "0"}})");
-    file.close();
-    const OpenedDialog opened(setup(mode));
-    for (const QString &part : {u"Surface Finish"_s, u"Matte"_s, u"999"_s, u"Gone"_s, u"copies"_s})
-        QVERIFY2(opened.dialog->message().contains(part), qPrintable(opened.dialog->message()));
-    QCOMPARE(opened.fieldText(81), u"8"_s);
-    opened.click(u"print"_s);
-    QTRY_VERIFY(opened.hasPrinted());
-    QCOMPARE(opened.options()[u"Quality"_s].toString(), u"Standard"_s);
-    QCOMPARE(opened.options()[u"Overcoat"_s].toString(), u"Glossy"_s);
-    QCOMPARE(opened.options()[u"Red"_s].toString(), u"8"_s);
-}
-
 QTEST_MAIN(ChoiceTest)
-#include "ChoiceTest.moc"
