@@ -444,11 +444,11 @@ izquierda y desde arriba (si no, 50,50, el centro)</translation>
     </message>
     <message>
         <source>%1 pixels per inch (the file names none)</source>
-        <translation>%1 píxeles por pulgada (el archivo no los indica)</translation>
+        <translation>%1 ppp (el archivo no la indica)</translation>
     </message>
     <message>
         <source>%1 pixels per inch</source>
-        <translation>%1 píxeles por pulgada</translation>
+        <translation>%1 ppp</translation>
     </message>
     <message>
         <source>%1 % cut off</source>

@@ -444,11 +444,11 @@ and from its top (otherwise 50,50, the middle)</source>
     </message>
     <message>
         <source>%1 pixels per inch (the file names none)</source>
-        <translation>1 インチあたり %1 ピクセル（ファイルに指定なし）</translation>
+        <translation>%1 ppi（ファイルに指定なし）</translation>
     </message>
     <message>
         <source>%1 pixels per inch</source>
-        <translation>1 インチあたり %1 ピクセル</translation>
+        <translation>%1 ppi</translation>
     </message>
     <message>
         <source>%1 % cut off</source>
