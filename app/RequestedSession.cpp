@@ -3,6 +3,7 @@
 
 #include "RequestedSession.h"
 
+#include "PpdCheck.h"
 #include "QueueList.h"
 #include "SessionOpening.h"
 
@@ -39,6 +40,10 @@ RequestedSessionResult openQueueNamed(const QString &id, PanelMode mode)
     const auto opened = queueNamed(id, queuePatience);
     if (!opened)
         return refusal(opened.failure().text);
+    if (opened->hasPpd) {
+        if (const auto failure = checkPpd(opened->ppd, id))
+            return refusal(failure->text);
+    }
     return orSentence(opened->hasPpd ? openQueue(opened->queue, opened->ppd, mode)
                                      : openRawQueue(opened->queue, mode));
 }

@@ -51,10 +51,12 @@ struct PageSize
 class PpdDocument
 {
 public:
-    /// Reads a regular file. Never blocks on a device or a pipe: those are refused as NotReadable.
+    /// Reads a regular file, and tries it out with checkPpd() first. Never blocks on a device or a pipe:
+    /// those are refused as NotReadable.
     static Result<PpdDocument, PpdFault> openFile(const QString &path);
-    /// `name` is what people call the PPD, such as the queue's name. The bytes inspected are the bytes
-    /// parsed: no file stands between the two.
+    /// Of bytes that have been through checkPpd(), or that nobody else can have written. `name` is what
+    /// people call the PPD, such as the queue's name. The bytes inspected are the bytes parsed: no file
+    /// stands between the two.
     static Result<PpdDocument, PpdFault> fromData(const QByteArray &data, const QString &name);
 
     PpdDocument(PpdDocument &&) noexcept;

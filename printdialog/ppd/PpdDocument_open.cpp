@@ -1,7 +1,9 @@
 // SPDX-FileCopyrightText: Corvel print dialog authors
 // SPDX-License-Identifier: Apache-2.0
 
+#include "LocalizingCost.h"
 #include "PlainText.h"
+#include "PpdCheck.h"
 #include "PpdDocument.h"
 #include "PpdDocument_p.h"
 #include "PpdFile.h"
@@ -15,8 +17,7 @@ namespace printdialog {
 
 namespace {
 
-constexpr qint64 translationCost = 10'000'000; // comparisons; about 0.1 s
-constexpr float largestSide = 72'000;          // points: 1,000 inches, beyond every sheet and roll
+constexpr float largestSide = 72'000; // points: 1,000 inches, beyond every sheet and roll
 
 constexpr qsizetype shownText = 200; // UTF-16 units of an option's or a choice's text
 
@@ -29,23 +30,6 @@ QString decoded(const char *text, const QString &keyword)
 {
     const QString plain = plainText(QString::fromUtf8(text).trimmed(), shownText);
     return plain.isEmpty() ? keyword : plain;
-}
-
-/// To find the translation of one choice, libcups goes through all translations of the option.
-qint64 costOfLocalizing(const ppd_file_t &record)
-{
-    QHash<QByteArrayView, qint64> translations;
-    for (const ppd_attr_t *attribute : std::span(record.attrs, static_cast<size_t>(record.num_attrs))) {
-        const QByteArrayView name(attribute->name);
-        if (const qsizetype dot = name.indexOf('.'); dot > 0)
-            ++translations[name.sliced(dot + 1)];
-    }
-    qint64 cost = 0;
-    for (const ppd_group_t &group : std::span(record.groups, static_cast<size_t>(record.num_groups))) {
-        for (const ppd_option_t &option : std::span(group.options, static_cast<size_t>(group.num_options)))
-            cost += option.num_choices * translations.value(QByteArrayView(option.keyword));
-    }
-    return cost;
 }
 
 bool isPrintable(const ppd_size_t &size)
@@ -80,6 +64,8 @@ Result<PpdDocument, PpdFault> PpdDocument::openFile(const QString &path)
     auto bytes = readPpdFile(path);
     if (!bytes)
         return bytes.failure();
+    if (auto failure = checkPpd(*bytes, path))
+        return *std::move(failure);
     return fromData(*bytes, path);
 }
 
@@ -129,7 +115,7 @@ PpdDocument::PpdDocument(const QByteArray &data, const QString &name, ppd_file_s
 
 void PpdDocument::localize()
 {
-    if (costOfLocalizing(*record_) <= translationCost)
+    if (canBeLocalized(*record_))
         ppdLocalize(record_.get());
     else
         notes_ += Text::tr("The translations are left out: there are too many.");

@@ -24,6 +24,8 @@ enum class PpdFault {
     BadKeyword,         ///< An option's keyword that cannot be sent to a printer.
     Malformed,          ///< Breaks the rules of the format in another way.
     NoPageSize,         ///< No page size that can be printed on.
+    Harmful,            ///< libcups crashes over it, or never ends.
+    NotTried,           ///< It could not be found out whether libcups survives it.
 };
 
 /// What a PPD may hold at most. Far above every real one, and low enough that libcups, which searches some of

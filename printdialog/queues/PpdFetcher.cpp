@@ -147,8 +147,10 @@ quint64 PpdFetcher::fetch(const QString &queueId)
     cancel();
     queueId_ = queueId;
     worker_ = std::make_shared<BoundedWorker>(this);
-    worker_->run([this, queueId, limit = limit_.intervalAsDuration()](BoundedWorker &self) {
+    worker_->run([this, queueId, limit = limit_.intervalAsDuration(), check = check_](BoundedWorker &self) {
         auto outcome = fetchHere(queueId, limit, self.cancelFlag());
+        if (const auto text = outcome && check ? check(*outcome, queueId) : std::nullopt)
+            outcome = Failure<QueueFault>{QueueFault::Failed, *text, {}};
         self.post([this, outcome = std::move(outcome)] { take(outcome); });
     });
     limit_.start();

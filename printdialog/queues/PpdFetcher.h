@@ -10,7 +10,9 @@
 #include <QtCore/QTimer>
 
 #include <chrono>
+#include <functional>
 #include <memory>
+#include <optional>
 
 namespace printdialog {
 
@@ -42,6 +44,11 @@ public:
                         std::chrono::milliseconds limit = std::chrono::seconds(10));
     ~PpdFetcher() override;
 
+    /// One sentence for people when the PPD must not be used. Called on the worker thread.
+    using Check = std::function<std::optional<QString>(const QByteArray &ppd, const QString &queueId)>;
+    /// What is asked about each PPD before it is announced; without one all are.
+    void setCheck(Check check) { check_ = std::move(check); }
+
     /// Starts, and gives up any earlier fetch: of that one nothing is heard any more. Returns the number
     /// under which the outcome is announced, exactly once, after this has returned.
     quint64 fetch(const QString &queueId);
@@ -56,6 +63,7 @@ Q_SIGNALS:
 private:
     void take(const Result<QByteArray, QueueFault> &outcome);
 
+    Check check_;
     QTimer limit_; // for what the worker's own limit does not cover
     QString queueId_;
     quint64 number_ = 0;

@@ -7,6 +7,7 @@
 #include "DialogSession.h"
 #include "HelpWindow.h"
 #include "PlainText.h"
+#include "PpdCheck.h"
 #include "PpdFetcher.h"
 #include "PrintWorker.h"
 #include "QueueSettings.h"
@@ -49,6 +50,10 @@ PrintDialog::PrintDialog(const PrintDialogSetup &setup, QWidget *parent)
     connect(ui_->save, &QPushButton::clicked, this, &PrintDialog::saveSettings);
     connect(ui_->cancel, &QPushButton::clicked, this, &PrintDialog::reject);
     connect(ui_->print, &QPushButton::clicked, this, &PrintDialog::print);
+    fetcher_->setCheck([](const QByteArray &ppd, const QString &queueId) {
+        const auto failure = checkPpd(ppd, queueId);
+        return failure ? std::optional(failure->text) : std::nullopt;
+    });
     connect(fetcher_, &PpdFetcher::fetched, this, &PrintDialog::takePpd);
     connect(
         fetcher_, &PpdFetcher::failed, this,

@@ -511,6 +511,29 @@ linken und oberen Rand aus (sonst 50,50, die Mitte)</translation>
     </message>
 </context>
 <context>
+    <name>PpdCheck</name>
+    <message>
+        <source>The PPD &quot;%1&quot; is not used, since it could not be tried out safely: %2. Install corvel-print again.</source>
+        <translation>Die PPD-Datei „%1“ wird nicht verwendet, weil sie nicht gefahrlos erprobt werden konnte: %2. Installieren Sie corvel-print neu.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be run: %2</source>
+        <translation>„%1“ lässt sich nicht starten: %2</translation>
+    </message>
+    <message>
+        <source>the system offers no sandbox</source>
+        <translation>das System bietet keine abgeschottete Umgebung</translation>
+    </message>
+    <message>
+        <source>The PPD &quot;%1&quot; is not used: libcups does not come to an end with it. Fetch another from the printer&apos;s maker.</source>
+        <translation>Die PPD-Datei „%1“ wird nicht verwendet: libcups kommt mit ihr zu keinem Ende. Holen Sie eine andere vom Hersteller des Druckers.</translation>
+    </message>
+    <message>
+        <source>The PPD &quot;%1&quot; is not used: libcups crashes over it. Fetch another from the printer&apos;s maker.</source>
+        <translation>Die PPD-Datei „%1“ wird nicht verwendet: libcups stürzt über ihr ab. Holen Sie eine andere vom Hersteller des Druckers.</translation>
+    </message>
+</context>
+<context>
     <name>PpdDocument</name>
     <message>
         <source>The PPD &quot;%1&quot; cannot be used: line %2: %3; correct it or fetch another from the printer&apos;s maker.</source>

@@ -511,6 +511,29 @@ izquierda y desde arriba (si no, 50,50, el centro)</translation>
     </message>
 </context>
 <context>
+    <name>PpdCheck</name>
+    <message>
+        <source>The PPD &quot;%1&quot; is not used, since it could not be tried out safely: %2. Install corvel-print again.</source>
+        <translation>El PPD «%1» no se usa, porque no se pudo probar sin riesgo: %2. Vuelva a instalar corvel-print.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be run: %2</source>
+        <translation>no se puede ejecutar «%1»: %2</translation>
+    </message>
+    <message>
+        <source>the system offers no sandbox</source>
+        <translation>el sistema no ofrece un entorno aislado</translation>
+    </message>
+    <message>
+        <source>The PPD &quot;%1&quot; is not used: libcups does not come to an end with it. Fetch another from the printer&apos;s maker.</source>
+        <translation>El PPD «%1» no se usa: libcups no termina de leerlo. Consiga otro del fabricante de la impresora.</translation>
+    </message>
+    <message>
+        <source>The PPD &quot;%1&quot; is not used: libcups crashes over it. Fetch another from the printer&apos;s maker.</source>
+        <translation>El PPD «%1» no se usa: hace fallar a libcups. Consiga otro del fabricante de la impresora.</translation>
+    </message>
+</context>
+<context>
     <name>PpdDocument</name>
     <message>
         <source>The PPD &quot;%1&quot; cannot be used: line %2: %3; correct it or fetch another from the printer&apos;s maker.</source>

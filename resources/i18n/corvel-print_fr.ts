@@ -511,6 +511,29 @@ et depuis son haut (sinon 50,50, le milieu)</translation>
     </message>
 </context>
 <context>
+    <name>PpdCheck</name>
+    <message>
+        <source>The PPD &quot;%1&quot; is not used, since it could not be tried out safely: %2. Install corvel-print again.</source>
+        <translation>Le PPD «&#x202f;%1&#x202f;» n’est pas utilisé, car il n’a pas pu être essayé sans risque&#x202f;: %2. Réinstallez corvel-print.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be run: %2</source>
+        <translation>impossible de lancer «&#x202f;%1&#x202f;»&#x202f;: %2</translation>
+    </message>
+    <message>
+        <source>the system offers no sandbox</source>
+        <translation>le système n’offre pas d’environnement isolé</translation>
+    </message>
+    <message>
+        <source>The PPD &quot;%1&quot; is not used: libcups does not come to an end with it. Fetch another from the printer&apos;s maker.</source>
+        <translation>Le PPD «&#x202f;%1&#x202f;» n’est pas utilisé&#x202f;: libcups n’en vient pas à bout. Procurez-vous-en un autre auprès du fabricant de l’imprimante.</translation>
+    </message>
+    <message>
+        <source>The PPD &quot;%1&quot; is not used: libcups crashes over it. Fetch another from the printer&apos;s maker.</source>
+        <translation>Le PPD «&#x202f;%1&#x202f;» n’est pas utilisé&#x202f;: il fait planter libcups. Procurez-vous-en un autre auprès du fabricant de l’imprimante.</translation>
+    </message>
+</context>
+<context>
     <name>PpdDocument</name>
     <message>
         <source>The PPD &quot;%1&quot; cannot be used: line %2: %3; correct it or fetch another from the printer&apos;s maker.</source>

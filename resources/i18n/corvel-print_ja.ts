@@ -511,6 +511,29 @@ and from its top (otherwise 50,50, the middle)</source>
     </message>
 </context>
 <context>
+    <name>PpdCheck</name>
+    <message>
+        <source>The PPD &quot;%1&quot; is not used, since it could not be tried out safely: %2. Install corvel-print again.</source>
+        <translation>PPD「%1」は安全に試せなかったため使用しません: %2。corvel-print を再インストールしてください。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be run: %2</source>
+        <translation>「%1」を実行できません: %2</translation>
+    </message>
+    <message>
+        <source>the system offers no sandbox</source>
+        <translation>システムに隔離環境がありません</translation>
+    </message>
+    <message>
+        <source>The PPD &quot;%1&quot; is not used: libcups does not come to an end with it. Fetch another from the printer&apos;s maker.</source>
+        <translation>PPD「%1」は使用しません: libcups が処理を終えられません。プリンターの製造元から別の PPD を入手してください。</translation>
+    </message>
+    <message>
+        <source>The PPD &quot;%1&quot; is not used: libcups crashes over it. Fetch another from the printer&apos;s maker.</source>
+        <translation>PPD「%1」は使用しません: libcups が異常終了します。プリンターの製造元から別の PPD を入手してください。</translation>
+    </message>
+</context>
+<context>
     <name>PpdDocument</name>
     <message>
         <source>The PPD &quot;%1&quot; cannot be used: line %2: %3; correct it or fetch another from the printer&apos;s maker.</source>

@@ -202,6 +202,14 @@ void QueuesEndToEndTest::fetcherAnnouncesThePpd()
     QTRY_COMPARE(failed.size(), 1);
     QCOMPARE(failed.at(0).at(0).toULongLong(), next);
     QCOMPARE(fetched.size(), 1);
+    // What whoever asked for it does not take is never announced.
+    fetcher.setCheck([](const QByteArray &ppd, const QString &queue) {
+        return std::optional(QStringLiteral("%1 bytes of %2").arg(ppd.size() > 100).arg(queue));
+    });
+    fetcher.fetch(u"photo"_s);
+    QTRY_COMPARE(failed.size(), 2);
+    QCOMPARE(failed.at(1).at(2).toString(), u"1 bytes of photo"_s);
+    QCOMPARE(fetched.size(), 1);
 }
 
 void QueuesEndToEndTest::jobArrivesByteForByteWithExactOptions_data()

@@ -134,8 +134,11 @@ void InstallTest::worksWhereverItIsMovedTo()
         QDir().rename(prefix_, there);
         prefix_ = there;
     });
-    const CommandRun printed = run({u"--batch"_s, u"--printer"_s, u"built-in"_s, u"-o"_s, u"Red=7"_s,
-                                    u"--output"_s, folder_.path(), samplePhoto});
+    // A PPD of the user's needs the program that tries it out.
+    const CommandRun printed =
+        run({u"--batch"_s, u"--ppd"_s,
+             inPrefix(QStringLiteral(CORVEL_DATADIR "/ppd/corvel-print/Corvel9045.ppd")), u"-o"_s, u"Red=7"_s,
+             u"--output"_s, folder_.path(), samplePhoto});
     QVERIFY2(printed.status == 0, printed.output.constData());
     QVERIFY(contentOf(folder_.filePath(u"sample.pdf"_s)).startsWith("%PDF-"));
 }

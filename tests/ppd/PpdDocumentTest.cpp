@@ -2,9 +2,12 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include "PpdDocument.h"
+#include "PpdCheck.h"
 #include "SmallPpd.h"
 
+#include <QtCore/QElapsedTimer>
 #include <QtCore/QFile>
+#include <QtCore/QProcess>
 #include <QtCore/QTemporaryDir>
 #include <QtTest/QTest>
 
@@ -12,9 +15,11 @@
 
 using namespace printdialog;
 using namespace smallppd;
+using namespace std::chrono_literals;
 using namespace Qt::StringLiterals;
 
 Q_DECLARE_METATYPE(printdialog::PpdFault)
+Q_DECLARE_METATYPE(std::optional<printdialog::PpdFault>)
 
 class PpdDocumentTest : public QObject
 {
@@ -174,6 +179,73 @@ private Q_SLOTS:
         QVERIFY2(note.isEmpty() ? document.notes().isEmpty() : document.notes().join(u'\n').contains(note),
                  qPrintable(document.notes().join(u'\n')));
         QVERIFY(document.notes().size() <= PpdLimits::notes + 1);
+    }
+
+    // What a program that tries out a PPD may come to.
+    void triesOutPpds_data()
+    {
+        QTest::addColumn<QByteArray>("script"); // empty: the real one
+        QTest::addColumn<QByteArray>("data");
+        QTest::addColumn<std::optional<PpdFault>>("fault");
+        QTest::addColumn<QString>("reason");
+        const auto row = [](const char *name, const QByteArray &script, const QByteArray &data,
+                            const std::optional<PpdFault> &fault, const QString &reason) {
+            QTest::newRow(name) << script << data << fault << reason;
+        };
+        const QByteArray good = minimal() + option("Red", {"1", "2"});
+        row("good", {}, good, std::nullopt, {});
+        row("in another alphabet", {}, QByteArray(good).replace("ISOLatin1", "ISOLatin2"), std::nullopt, {});
+        row("left to the parser", {}, good + "*UIConstraints: *Red\n", std::nullopt, {});
+        row("not even inspected", {}, "%!PS", PpdFault::NotAPpd, u"queue"_s);
+        row("crashes", "kill -SEGV $$", good, PpdFault::Harmful, u"crashes over it"_s);
+        row("aborts", "kill -ABRT $$", good, PpdFault::Harmful, u"crashes over it"_s);
+        row("never ends", "exec sleep 60", good, PpdFault::Harmful, u"does not come to an end"_s);
+        row("takes too much time", "kill -XCPU $$", good, PpdFault::Harmful, u"does not come to an end"_s);
+        row("no sandbox", "exit 2", good, PpdFault::NotTried, u"no sandbox"_s);
+        row("not installed", "-", good, PpdFault::NotTried, u"Install corvel-print again"_s);
+        // It gets the PPD and nothing else that is open here.
+        row("descriptors",
+            "read line && [ \"$line\" = '*PPD-Adobe: \"4.3\"' ] && [ $(ls /proc/$$/fd | wc -l) -le 5 ]", good,
+            std::nullopt, {});
+    }
+
+    void triesOutPpds()
+    {
+        QFETCH(const QByteArray, script);
+        QFETCH(const QByteArray, data);
+        QFETCH(const std::optional<PpdFault>, fault);
+        QFETCH(const QString, reason);
+        const QTemporaryDir folder;
+        QString program = folder.filePath(u"check"_s);
+        if (script.isEmpty()) {
+            program = ppdCheckProgram();
+        } else if (script != "-") {
+            QFile file(program);
+            QVERIFY(file.open(QFile::WriteOnly) && file.write("#!/bin/sh\n" + script + "\n") > 0);
+            QVERIFY(file.setPermissions(QFile::ReadOwner | QFile::ExeOwner));
+        }
+        QElapsedTimer timer;
+        timer.start();
+        const auto failure = checkPpd(data, u"queue"_s, program, script.isEmpty() ? 5s : 400ms);
+        QVERIFY(timer.elapsed() < 3000);
+        QCOMPARE(failure.has_value(), fault.has_value());
+        if (!failure)
+            return;
+        QVERIFY(failure->reason == *fault);
+        QVERIFY2(failure->text.contains(reason) && failure->text.contains(u"queue"_s),
+                 qPrintable(failure->text));
+    }
+
+    void sandboxLeavesNoWayOut()
+    {
+        const QTemporaryDir folder;
+        QProcess probe;
+        probe.setStandardInputFile(u"/dev/zero"_s);
+        probe.start(QStringLiteral(SANDBOX_PROBE), {folder.filePath(u"written"_s)});
+        QVERIFY(probe.waitForFinished());
+        QCOMPARE(probe.exitStatus(), QProcess::NormalExit);
+        QCOMPARE(probe.exitCode(), 0);
+        QVERIFY(QDir(folder.path()).isEmpty());
     }
 
     void tellsWhatThePpdHas()

@@ -1,0 +1,14 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include "CupsPpd.h"
+
+namespace printdialog {
+
+/// Whether ppdLocalize() ends within about a tenth of a second on the record: to find the translation of one
+/// choice, libcups goes through all translations of the option.
+bool canBeLocalized(const ppd_file_t &record);
+
+} // namespace printdialog

@@ -1,0 +1,156 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "PpdCheck.h"
+
+#include "CorvelPpdCheckPath.h"
+#include "FileDescriptor.h"
+#include "FileName.h"
+#include "PlainText.h"
+#include "PpdFile.h"
+
+#include <QtCore/QCoreApplication>
+#include <QtCore/QDir>
+
+#include <cerrno>
+#include <csignal>
+#include <fcntl.h>
+#include <memory>
+#include <poll.h>
+#include <spawn.h>
+#include <sys/syscall.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+using namespace std::chrono_literals;
+using pdekit::FileDescriptor;
+
+namespace printdialog {
+
+namespace {
+
+constexpr auto shortestTurn = 2ms; // between looks at a child whose end nothing announces
+
+struct Text
+{
+    Q_DECLARE_TR_FUNCTIONS(PpdCheck)
+};
+
+struct ActionsDeleter
+{
+    void operator()(posix_spawn_file_actions_t *actions) const { posix_spawn_file_actions_destroy(actions); }
+};
+
+struct AttributesDeleter
+{
+    void operator()(posix_spawnattr_t *attributes) const { posix_spawnattr_destroy(attributes); }
+};
+
+/// Starts the program with the PPD as its standard input and no other descriptor of ours; the errno when it
+/// cannot be started.
+int start(const QByteArray &program, const FileDescriptor &ppd, pid_t &child)
+{
+    posix_spawn_file_actions_t actionList;
+    posix_spawn_file_actions_init(&actionList);
+    const std::unique_ptr<posix_spawn_file_actions_t, ActionsDeleter> actions(&actionList);
+    posix_spawn_file_actions_adddup2(actions.get(), ppd.number(), STDIN_FILENO);
+    posix_spawn_file_actions_addopen(actions.get(), STDOUT_FILENO, "/dev/null", O_WRONLY, 0);
+    posix_spawn_file_actions_addopen(actions.get(), STDERR_FILENO, "/dev/null", O_WRONLY, 0);
+    posix_spawn_file_actions_addclosefrom_np(actions.get(), STDERR_FILENO + 1);
+
+    posix_spawnattr_t attributeList;
+    posix_spawnattr_init(&attributeList);
+    const std::unique_ptr<posix_spawnattr_t, AttributesDeleter> attributes(&attributeList);
+    sigset_t signals;
+    sigemptyset(&signals);
+    posix_spawnattr_setsigmask(attributes.get(), &signals);
+    sigfillset(&signals);
+    posix_spawnattr_setsigdefault(attributes.get(), &signals);
+    posix_spawnattr_setflags(attributes.get(), POSIX_SPAWN_SETSIGMASK | POSIX_SPAWN_SETSIGDEF);
+
+    QByteArray path = program;
+    char *arguments[] = {path.data(), nullptr};
+    return ::posix_spawn(&child, path.constData(), actions.get(), attributes.get(), arguments, environ);
+}
+
+/// Waits for the child's end, and makes it come at the limit. The status of waitpid(2).
+int statusOf(pid_t child, std::chrono::milliseconds limit)
+{
+    const auto deadline = std::chrono::steady_clock::now() + limit;
+    const FileDescriptor end(static_cast<int>(::syscall(SYS_pidfd_open, child, 0)));
+    int status = 0;
+    for (;;) {
+        const auto left =
+            std::chrono::ceil<std::chrono::milliseconds>(deadline - std::chrono::steady_clock::now());
+        if (left <= 0ms) {
+            ::kill(child, SIGKILL);
+            while (::waitpid(child, &status, 0) < 0 && errno == EINTR)
+                continue;
+            return status;
+        }
+        pollfd watched = {end.number(), POLLIN, 0}; // a negative number is only slept over
+        ::poll(&watched, 1,
+               static_cast<int>((end.number() < 0 ? std::min(left, +shortestTurn) : left).count()));
+        const pid_t ended = ::waitpid(child, &status, WNOHANG);
+        if (ended == child)
+            return status;
+    }
+}
+
+bool isOutOfLimits(int status)
+{
+    return WIFSIGNALED(status) && (WTERMSIG(status) == SIGXCPU || WTERMSIG(status) == SIGKILL);
+}
+
+} // namespace
+
+QString ppdCheckProgram()
+{
+    return QDir::cleanPath(QCoreApplication::applicationDirPath() +
+                           QLatin1String("/" CORVEL_PPD_CHECK_FROM_PROGRAM));
+}
+
+std::optional<Failure<PpdFault>> checkPpd(const QByteArray &data, const QString &name, const QString &program,
+                                          std::chrono::milliseconds limit)
+{
+    const auto inspection = inspectPpd(data, name);
+    if (!inspection)
+        return inspection.failure();
+    const FileDescriptor ppd(ppdInMemory(inspection->bytes));
+    if (ppd.number() < 0)
+        return ppdNotReadable(name, errno);
+
+    constexpr int noSandbox = 2;
+    const QString shown = plainText(name, 300);
+    const auto notTried = [&](const QString &reason) {
+        return Failure<PpdFault>{
+            PpdFault::NotTried,
+            Text::tr("The PPD \"%1\" is not used, since it could not be tried out safely: %2. "
+                     "Install corvel-print again.")
+                .arg(shown, reason),
+            {}};
+    };
+    pid_t child = 0;
+    if (const int error = start(bytesOfFileName(program), ppd, child))
+        return notTried(Text::tr("\"%1\" cannot be run: %2").arg(program, qt_error_string(error)));
+    const int status = statusOf(child, limit);
+    if (status == 0)
+        return std::nullopt;
+    if (WIFEXITED(status) && WEXITSTATUS(status) == noSandbox)
+        return notTried(Text::tr("the system offers no sandbox"));
+    if (isOutOfLimits(status))
+        return Failure<PpdFault>{
+            PpdFault::Harmful,
+            Text::tr("The PPD \"%1\" is not used: libcups does not come to an end with it. Fetch "
+                     "another from the printer's maker.")
+                .arg(shown),
+            {}};
+    return Failure<PpdFault>{
+        PpdFault::Harmful,
+        Text::tr("The PPD \"%1\" is not used: libcups crashes over it. Fetch another from the "
+                 "printer's maker.")
+            .arg(shown),
+        {}};
+}
+
+} // namespace printdialog

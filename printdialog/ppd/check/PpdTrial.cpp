@@ -1,0 +1,61 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "PpdTrial.h"
+
+#include "LocalizingCost.h"
+
+#include <memory>
+#include <span>
+
+namespace printdialog {
+
+namespace {
+
+struct RecordCloser
+{
+    void operator()(ppd_file_t *record) const { ppdClose(record); }
+};
+
+void tryOption(ppd_file_t &record, const ppd_option_t &option)
+{
+    ppdFindCustomOption(&record, option.keyword);
+    ppdFindMarkedChoice(&record, option.keyword);
+    if (option.num_choices == 0)
+        return;
+    const char *last = option.choices[option.num_choices - 1].choice;
+    cups_option_t *conflicts = nullptr;
+    cupsFreeOptions(cupsGetConflicts(&record, option.keyword, last, &conflicts), conflicts);
+    ppdMarkOption(&record, option.keyword, last);
+}
+
+void tryGroup(ppd_file_t &record, const ppd_group_t &group)
+{
+    for (const ppd_option_t &option : std::span(group.options, static_cast<std::size_t>(group.num_options)))
+        tryOption(record, option);
+    for (const ppd_group_t &inner : std::span(group.subgroups, static_cast<std::size_t>(group.num_subgroups)))
+        tryGroup(record, inner);
+}
+
+} // namespace
+
+void tryPpd(int descriptor)
+{
+    ppdSetConformance(PPD_CONFORM_RELAXED);
+    const std::unique_ptr<ppd_file_t, RecordCloser> record(ppdOpenFd(descriptor));
+    if (!record) {
+        int line = 0;
+        ppdErrorString(ppdLastError(&line));
+        return;
+    }
+    if (canBeLocalized(*record))
+        ppdLocalize(record.get());
+    ppdMarkDefaults(record.get());
+    for (const ppd_group_t &group : std::span(record->groups, static_cast<std::size_t>(record->num_groups)))
+        tryGroup(*record, group);
+    ppdConflicts(record.get());
+    ppdMarkDefaults(record.get());
+    ppdPageSize(record.get(), nullptr);
+}
+
+} // namespace printdialog

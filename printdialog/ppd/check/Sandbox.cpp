@@ -1,0 +1,67 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "Sandbox.h"
+
+#include <cerrno>
+#include <fcntl.h>
+#include <initializer_list>
+#include <seccomp.h>
+#include <sys/resource.h>
+
+namespace printdialog {
+
+namespace {
+
+constexpr rlim_t memory = rlim_t(1) << 30; // bytes; a PPD at the limits takes less than a third of it
+constexpr rlim_t processorTime = 10;       // seconds
+
+bool limit(__rlimit_resource resource, rlim_t most)
+{
+    const rlimit value = {most, most};
+    return setrlimit(resource, &value) == 0;
+}
+
+bool allowReadingOnly(scmp_filter_ctx filter)
+{
+    const scmp_datum_t writing = O_WRONLY | O_RDWR | O_CREAT;
+    for (const int call : {SCMP_SYS(open), SCMP_SYS(openat)}) {
+        const unsigned flags = call == SCMP_SYS(open) ? 1 : 2;
+        if (seccomp_rule_add(filter, SCMP_ACT_ALLOW, call, 1,
+                             SCMP_CMP(flags, SCMP_CMP_MASKED_EQ, writing, 0)) != 0)
+            return false;
+    }
+    return true;
+}
+
+} // namespace
+
+bool enterSandbox()
+{
+#ifndef __SANITIZE_ADDRESS__ // its shadow memory is all of the address space
+    if (!limit(RLIMIT_AS, memory))
+        return false;
+#endif
+    if (!limit(RLIMIT_CPU, processorTime) || !limit(RLIMIT_FSIZE, 0) || !limit(RLIMIT_CORE, 0))
+        return false;
+    scmp_filter_ctx filter = seccomp_init(SCMP_ACT_ERRNO(EPERM));
+    if (!filter)
+        return false;
+    bool isReady = allowReadingOnly(filter);
+    for (const int call :
+         {SCMP_SYS(read),         SCMP_SYS(readv),       SCMP_SYS(pread64),       SCMP_SYS(lseek),
+          SCMP_SYS(close),        SCMP_SYS(fstat),       SCMP_SYS(stat),          SCMP_SYS(newfstatat),
+          SCMP_SYS(statx),        SCMP_SYS(access),      SCMP_SYS(faccessat),     SCMP_SYS(faccessat2),
+          SCMP_SYS(readlink),     SCMP_SYS(fcntl),       SCMP_SYS(getcwd),        SCMP_SYS(mmap),
+          SCMP_SYS(munmap),       SCMP_SYS(mremap),      SCMP_SYS(mprotect),      SCMP_SYS(madvise),
+          SCMP_SYS(brk),          SCMP_SYS(futex),       SCMP_SYS(rt_sigaction),  SCMP_SYS(rt_sigprocmask),
+          SCMP_SYS(rt_sigreturn), SCMP_SYS(sigaltstack), SCMP_SYS(clock_gettime), SCMP_SYS(gettimeofday),
+          SCMP_SYS(getrandom),    SCMP_SYS(getpid),      SCMP_SYS(gettid),        SCMP_SYS(tgkill),
+          SCMP_SYS(exit),         SCMP_SYS(exit_group)})
+        isReady = isReady && seccomp_rule_add(filter, SCMP_ACT_ALLOW, call, 0) == 0;
+    isReady = isReady && seccomp_load(filter) == 0; // sets no_new_privs, too
+    seccomp_release(filter);
+    return isReady;
+}
+
+} // namespace printdialog

@@ -1,0 +1,45 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+//
+// Enters the sandbox and tries what is forbidden in it. Exit status: 0 when nothing of it works and reading
+// does; else the number of the first thing that went wrong.
+
+#include "Sandbox.h"
+
+#include <csignal>
+#include <cstdlib>
+#include <fcntl.h>
+#include <sys/resource.h>
+#include <sys/socket.h>
+#include <unistd.h>
+
+int main(int argc, char *argv[])
+{
+    if (argc != 2 || !printdialog::enterSandbox())
+        _exit(1);
+    char byte = 0;
+    if (open("/dev/null", O_RDONLY) < 0 || read(STDIN_FILENO, &byte, 1) != 1)
+        _exit(2);
+    if (open(argv[1], O_WRONLY | O_CREAT, 0600) >= 0 || open(argv[1], O_RDWR | O_CREAT, 0600) >= 0)
+        _exit(3);
+    if (write(STDOUT_FILENO, &byte, 1) >= 0)
+        _exit(4);
+    if (socket(AF_INET, SOCK_STREAM, 0) >= 0 || socket(AF_UNIX, SOCK_STREAM, 0) >= 0)
+        _exit(5);
+    if (fork() >= 0)
+        _exit(6);
+    execl("/bin/true", "/bin/true", nullptr);
+    if (unlink(argv[1]) == 0 || kill(getppid(), 0) == 0)
+        _exit(7);
+    rlimit limit = {};
+    limit.rlim_cur = limit.rlim_max = RLIM_INFINITY;
+    if (setrlimit(RLIMIT_AS, &limit) == 0)
+        _exit(8);
+#ifndef __SANITIZE_ADDRESS__
+    if (void *memory = std::malloc(std::size_t(2) << 30)) {
+        static_cast<volatile char *>(memory)[0] = 1;
+        _exit(9);
+    }
+#endif
+    _exit(0);
+}
