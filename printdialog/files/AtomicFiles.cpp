@@ -12,6 +12,7 @@
 
 #include <dirent.h>
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 
 #include <algorithm>
@@ -26,14 +27,17 @@ Q_LOGGING_CATEGORY(filesLog, "printdialog.files", QtWarningMsg)
 
 constexpr char hiddenPrefix[] = ".corvel-print-";
 constexpr time_t staleAge = 3600; // seconds
+constexpr int shareTries = 100;
+constexpr useconds_t sharePause = 1000; // microseconds
 
 QByteArray hiddenName()
 {
     return hiddenPrefix + QByteArray::number(QRandomGenerator::system()->generate64(), 36);
 }
 
-/// Removes what a program that was killed has left under a hidden name: no file keeps one for long.
-void removeStale(const QString &folder)
+/// Removes what a program that was killed has left under a hidden name: any such file when nobody else is at
+/// work in the folder, else those that are older than any work takes.
+void removeStale(const QString &folder, bool isAlone)
 {
     DIR *entries = ::opendir(bytesOfFileName(folder).constData());
     if (!entries)
@@ -42,7 +46,7 @@ void removeStale(const QString &folder)
         struct stat status = {};
         if (qstrncmp(entry->d_name, hiddenPrefix, sizeof hiddenPrefix - 1) == 0 &&
             ::fstatat(::dirfd(entries), entry->d_name, &status, AT_SYMLINK_NOFOLLOW) == 0 &&
-            S_ISREG(status.st_mode) && status.st_mtime < ::time(nullptr) - staleAge)
+            S_ISREG(status.st_mode) && (isAlone || status.st_mtime < ::time(nullptr) - staleAge))
             ::unlinkat(::dirfd(entries), entry->d_name, 0);
     }
     ::closedir(entries);
@@ -70,8 +74,22 @@ Result<AtomicFiles, OutputFault> AtomicFiles::open(const QString &folder)
         ::open(bytesOfFileName(files.folder_).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC | O_NONBLOCK));
     if (!files.descriptor_.isOpen())
         return outputFailure(errno, files.folder_);
-    removeStale(files.folder_);
+    files.shareFolder();
     return files;
+}
+
+// All that are at work in a folder share a lock on it, which goes with the process, however that ends. A file
+// system without such locks leaves it at the files' age.
+void AtomicFiles::shareFolder()
+{
+    const bool isAlone = ::flock(descriptor_.number(), LOCK_EX | LOCK_NB) == 0;
+    removeStale(folder_, isAlone);
+    // One that is alone keeps the others waiting for a moment.
+    for (int tries = 0; ::flock(descriptor_.number(), LOCK_SH | LOCK_NB) != 0; ++tries) {
+        if (errno != EWOULDBLOCK || tries == shareTries)
+            return;
+        ::usleep(sharePause);
+    }
 }
 
 int AtomicFiles::makeFolders()
@@ -143,7 +161,9 @@ Result<QStringList, OutputFault> AtomicFiles::commit()
     }
     QStringList paths;
     for (File &file : files_) {
-        if (const int error = putInPlace(file)) {
+        // What the last one replaces is never put back: nothing comes after it that could fail.
+        const int keepError = &file == &files_.back() ? 0 : keepEarlier(file);
+        if (const int error = keepError != 0 ? keepError : putInPlace(file)) {
             auto failure = outputFailure(error, pathOf(file.name));
             discard();
             return failure;
@@ -192,8 +212,6 @@ int AtomicFiles::keepEarlier(File &file) const
 
 int AtomicFiles::putInPlace(File &file) const
 {
-    if (const int error = keepEarlier(file))
-        return error;
     const int folder = descriptor_.number();
     if (::renameat(folder, file.temporary.constData(), folder, file.name.constData()) != 0)
         return errno;

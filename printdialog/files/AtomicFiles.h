@@ -61,6 +61,7 @@ private:
     AtomicFiles();
 
     int makeFolders();
+    void shareFolder();
     QString pathOf(const QByteArray &name) const;
     int finish(File &file) const;
     int keepEarlier(File &file) const;

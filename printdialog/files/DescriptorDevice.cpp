@@ -23,8 +23,10 @@ int DescriptorDevice::link(int folder, const QByteArray &name) const
 
 int DescriptorDevice::finish()
 {
-    if (error_ == 0 && ::fsync(descriptor_.number()) != 0)
-        error_ = errno;
+    while (error_ == 0 && ::fsync(descriptor_.number()) != 0) {
+        if (errno != EINTR)
+            error_ = errno;
+    }
     // Network file systems tell only now that they could not store it.
     if (::close(descriptor_.release()) != 0 && error_ == 0 && errno != EINTR)
         error_ = errno;
