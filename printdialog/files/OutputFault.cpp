@@ -74,7 +74,7 @@ Failure<OutputFault> outputFailure(int error, const QString &path)
                     "printdialog::OutputFault",
                     "\"%1\" could not be written: %2. Check the disk, or choose another folder.")
                     .arg(plainText(path), qt_error_string(error)),
-                {}};
+                qt_error_string(error)};
     }
 }
 

@@ -3,20 +3,27 @@
 
 #include "SettingsFile.h"
 
+#include "AtomicFiles.h"
+#include "FileLock.h"
+#include "FileName.h"
+
 #include <QtCore/QDir>
 #include <QtCore/QFileInfo>
-#include <QtCore/QLockFile>
-#include <QtCore/QSaveFile>
+
+#include <algorithm>
+#include <cerrno>
+#include <sys/stat.h>
+
+using namespace std::chrono_literals;
 
 namespace printdialog {
 
 namespace {
 
-constexpr qint64 largestFile = 1024 * 1024;
-constexpr int lockPatience = 1000; // ms
+constexpr qsizetype largestFile = 1024 * 1024;
+constexpr auto lockPatience = 1s;
 
-constexpr auto ownersFile = QFile::ReadOwner | QFile::WriteOwner;
-constexpr auto ownersFolder = ownersFile | QFile::ExeOwner;
+constexpr auto ownersFolder = QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner;
 
 bool makeFolder(const QString &path)
 {
@@ -27,14 +34,58 @@ bool makeFolder(const QString &path)
            (QDir().mkdir(path, ownersFolder) || QFileInfo(path).isDir());
 }
 
+/// Where a link leads to, the file itself otherwise: a link stays one.
+QString fileItself(const QString &path)
+{
+    const QFileInfo info(path);
+    if (!info.isSymLink())
+        return path;
+    return info.exists() ? info.canonicalFilePath() : info.symLinkTarget();
+}
+
+/// 0, or the system's error number. Reads one byte too many from a file that is too large.
+int readAll(const pdekit::FileDescriptor &file, QByteArray &content)
+{
+    content.resize(largestFile + 1);
+    qsizetype size = 0;
+    while (size < content.size()) {
+        const ssize_t count =
+            ::read(file.number(), content.data() + size, static_cast<std::size_t>(content.size() - size));
+        if (count < 0 && errno != EINTR)
+            return errno;
+        if (count == 0)
+            break;
+        size += std::max<ssize_t>(count, 0);
+    }
+    content.truncate(size);
+    content.squeeze();
+    return 0;
+}
+
+/// Nothing, or why the file has not its new content.
+std::optional<QString> replace(const QString &path, const QByteArray &content)
+{
+    const auto reasonOf = [](const Failure<OutputFault> &failure) {
+        return failure.detail.isEmpty() ? failure.text : failure.detail;
+    };
+    const QFileInfo info(path);
+    if (info.exists() && !info.isWritable())
+        return qt_error_string(EACCES);
+    auto files = AtomicFiles::open(info.path());
+    if (!files)
+        return reasonOf(files.failure());
+    const auto device = files->add(info.fileName(), AtomicFiles::Access::OwnerOnly);
+    if (!device)
+        return reasonOf(device.failure());
+    (*device)->write(content);
+    const auto paths = files->commit();
+    return paths ? std::nullopt : std::optional(reasonOf(paths.failure()));
+}
+
 } // namespace
 
 Result<QByteArray, SettingsFault> SettingsFile::read(const QString &path)
 {
-    const QFileInfo info(path);
-    if (!info.exists())
-        return QByteArray();
-    QFile file(path);
     const auto failure = [&path](const QString &reason) {
         return Failure<SettingsFault>{
             SettingsFault::NotReadable,
@@ -42,13 +93,25 @@ Result<QByteArray, SettingsFault> SettingsFile::read(const QString &path)
             {}};
     };
     // Never waits for a pipe, nor reads a device without end.
-    if (!info.isFile())
+    const pdekit::FileDescriptor file(
+        ::open(bytesOfFileName(path).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
+    if (!file.isOpen() && (errno == ENOENT || errno == ENOTDIR))
+        return QByteArray();
+    if (!file.isOpen())
+        return failure(qt_error_string(errno));
+    struct stat status = {};
+    if (::fstat(file.number(), &status) != 0)
+        return failure(qt_error_string(errno));
+    if (!S_ISREG(status.st_mode))
         return failure(tr("it is no file"));
-    if (info.size() > largestFile)
+    // A file that was not read to its end is never taken for a shorter one: what follows would be written
+    // over.
+    QByteArray content;
+    if (const int error = readAll(file, content))
+        return failure(qt_error_string(error));
+    if (content.size() > largestFile)
         return failure(tr("it is too large"));
-    if (!file.open(QIODevice::ReadOnly))
-        return failure(file.errorString());
-    return file.read(largestFile);
+    return content;
 }
 
 SettingsFailure SettingsFile::change(const QString &path, const Change &change)
@@ -62,15 +125,15 @@ SettingsFailure SettingsFile::change(const QString &path, const Change &change)
     const QString folder = QFileInfo(path).path();
     if (!makeFolder(folder))
         return failure(SettingsFault::NotWritable, tr("the folder cannot be made"));
-    QLockFile lock(path + QLatin1String(".lock"));
-    if (!lock.tryLock(lockPatience)) {
-        if (lock.error() != QLockFile::LockFailedError)
-            return failure(SettingsFault::NotWritable, tr("the folder cannot be written"));
+    FileLock lock(path + QLatin1String(".lock"));
+    const int lockError = lock.take(lockPatience);
+    if (lockError == EWOULDBLOCK)
         return Failure<SettingsFault>{
             SettingsFault::Busy,
             tr("Nothing could be saved in %1: another program is writing there. Try again.").arg(path),
             {}};
-    }
+    if (lockError != 0)
+        return failure(SettingsFault::NotWritable, qt_error_string(lockError));
     const auto before = read(path);
     if (!before)
         return before.failure();
@@ -79,11 +142,8 @@ SettingsFailure SettingsFile::change(const QString &path, const Change &change)
         return after.failure();
     if (*after == *before && QFileInfo::exists(path))
         return std::nullopt;
-    // Flushed by hand: commit() does not notice that what was still in its buffer could not be written.
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || !file.setPermissions(ownersFile) ||
-        file.write(*after) != after->size() || !file.flush() || !file.commit())
-        return failure(SettingsFault::NotWritable, file.errorString());
+    if (const auto reason = replace(fileItself(path), *after))
+        return failure(SettingsFault::NotWritable, *reason);
     return std::nullopt;
 }
 

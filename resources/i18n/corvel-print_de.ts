@@ -1792,10 +1792,6 @@ linken und oberen Rand aus (sonst 50,50, die Mitte)</translation>
         <translation>der Ordner kann nicht angelegt werden</translation>
     </message>
     <message>
-        <source>the folder cannot be written</source>
-        <translation>in den Ordner kann nicht geschrieben werden</translation>
-    </message>
-    <message>
         <source>Nothing could be saved in %1: another program is writing there. Try again.</source>
         <translation>In %1 konnte nichts gespeichert werden: Ein anderes Programm schreibt gerade dort. Versuchen Sie es noch einmal.</translation>
     </message>

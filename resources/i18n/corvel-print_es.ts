@@ -1792,10 +1792,6 @@ izquierda y desde arriba (si no, 50,50, el centro)</translation>
         <translation>no se puede crear la carpeta</translation>
     </message>
     <message>
-        <source>the folder cannot be written</source>
-        <translation>no se puede escribir en la carpeta</translation>
-    </message>
-    <message>
         <source>Nothing could be saved in %1: another program is writing there. Try again.</source>
         <translation>No se pudo guardar nada en %1: otro programa está escribiendo ahí. Inténtelo de nuevo.</translation>
     </message>

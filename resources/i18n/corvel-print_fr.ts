@@ -1792,10 +1792,6 @@ et depuis son haut (sinon 50,50, le milieu)</translation>
         <translation>le dossier ne peut pas être créé</translation>
     </message>
     <message>
-        <source>the folder cannot be written</source>
-        <translation>le dossier n’est pas accessible en écriture</translation>
-    </message>
-    <message>
         <source>Nothing could be saved in %1: another program is writing there. Try again.</source>
         <translation>Rien n’a pu être enregistré dans %1&#x202f;: un autre programme y écrit en ce moment. Réessayez.</translation>
     </message>

@@ -1790,10 +1790,6 @@ and from its top (otherwise 50,50, the middle)</source>
         <translation>フォルダーを作成できません</translation>
     </message>
     <message>
-        <source>the folder cannot be written</source>
-        <translation>フォルダーに書き込めません</translation>
-    </message>
-    <message>
         <source>Nothing could be saved in %1: another program is writing there. Try again.</source>
         <translation>%1 に保存できませんでした。別のプログラムが書き込み中です。もう一度お試しください。</translation>
     </message>

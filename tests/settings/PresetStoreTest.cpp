@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include "BuiltInPresets.h"
+#include "FileLock.h"
 #include "LpoptionsFile.h"
 #include "QueuePresets.h"
 #include "QueueSettings.h"
@@ -9,7 +10,6 @@
 #include <QtCore/QDir>
 #include <QtCore/QFile>
 #include <QtCore/QFileInfo>
-#include <QtCore/QLockFile>
 #include <QtCore/QScopeGuard>
 #include <QtCore/QTemporaryDir>
 #include <QtTest/QTest>
@@ -24,6 +24,7 @@
 
 using namespace printdialog;
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
 namespace {
 
@@ -95,6 +96,7 @@ private Q_SLOTS:
     void failedWriteLeavesTheOldFile();
     void unreadableFileIsNotWrittenOver();
     void waitsNoLongerThanASecond();
+    void linkStaysOne();
     void filesAreTheOwners();
 
 private:
@@ -259,14 +261,30 @@ void PresetStoreTest::waitsNoLongerThanASecond()
 {
     QueuePresets store(u"photo"_s);
     QVERIFY(!store.add(u"warm"_s, {}));
-    QLockFile other(QueuePresets::userFile() + u".lock"_s);
-    QVERIFY(other.lock());
+    auto other = std::make_unique<FileLock>(QueuePresets::userFile() + u".lock"_s);
+    QCOMPARE(other->take(0ms), 0);
     QElapsedTimer timer;
     timer.start();
     QCOMPARE(store.add(u"cold"_s, {})->reason, SettingsFault::Busy);
     QVERIFY(timer.elapsed() < 3000);
-    other.unlock();
+    other.reset();
+    write(QueuePresets::userFile() + u".lock"_s, "left by one that was killed");
     QVERIFY(!store.add(u"cold"_s, {}));
+}
+
+// As people have who keep their settings elsewhere.
+void PresetStoreTest::linkStaysOne()
+{
+    const QString kept = home_->filePath(u"kept/options"_s);
+    write(kept, "Dest photo Red=1\n");
+    QVERIFY(QDir(home_->path()).mkpath(QFileInfo(QueuePresets::userFile()).path()));
+    QVERIFY(QFile::link(u"../kept/options"_s, QueuePresets::userFile()));
+    for (const QString &name : {u"warm"_s, u"cold"_s}) {
+        QVERIFY(!QueuePresets(u"photo"_s).add(name, {}));
+        QVERIFY(QFileInfo(QueuePresets::userFile()).isSymLink());
+        QVERIFY(content(kept).contains(name.toUtf8()));
+        QVERIFY(name != "warm"_L1 || QFile::remove(kept)); // then the link leads nowhere
+    }
 }
 
 void PresetStoreTest::filesAreTheOwners()
