@@ -3,6 +3,7 @@
 
 #include "QueueCache.h"
 
+#include "AtomicFiles.h"
 #include "PlainText.h"
 #include "PpdFetcher.h"
 
@@ -11,7 +12,6 @@
 #include <QtCore/QFileInfo>
 #include <QtCore/QJsonDocument>
 #include <QtCore/QJsonObject>
-#include <QtCore/QSaveFile>
 #include <QtCore/QStandardPaths>
 #include <QtCore/QUrl>
 
@@ -102,10 +102,13 @@ void QueueCache::save(const RememberedQueue &remembered)
     QFile before(path);
     if (isPrivate(path) && before.open(QIODevice::ReadOnly) && before.readAll() == bytes)
         return;
-    QSaveFile saved(path);
-    if (saved.open(QIODevice::WriteOnly) && saved.setPermissions(onlyOwner) &&
-        saved.write(bytes) == bytes.size())
-        saved.commit();
+    auto files = AtomicFiles::open(folder);
+    if (!files)
+        return;
+    if (const auto device = files->add(QFileInfo(path).fileName(), AtomicFiles::Access::OwnerOnly)) {
+        (*device)->write(bytes);
+        [[maybe_unused]] const auto kept = files->commit(); // else the server is asked again next time
+    }
 }
 
 } // namespace printdialog
