@@ -11,8 +11,11 @@
 #include <algorithm>
 #include <array>
 #include <atomic>
+#include <cerrno>
 #include <csignal>
+#include <cstring>
 #include <mutex>
+#include <sys/socket.h>
 
 using namespace std::chrono_literals;
 
@@ -157,7 +160,25 @@ Failure<QueueFault> CupsConnection::lastFailure(const QString &queue) const
             QueueFault::TimedOut, queue,
             QCoreApplication::translate("CupsConnection", "it gave no answer within %1 s").arg(seconds));
     }
-    return queueFailure(faultOf(cupsLastError()), queue, QString::fromUtf8(cupsLastErrorString()));
+    const QueueFault fault = faultOf(cupsLastError());
+    if (fault == QueueFault::Failed && isBroken())
+        return queueFailure(fault, queue,
+                            QCoreApplication::translate("CupsConnection", "the connection broke"));
+    return queueFailure(fault, queue, QString::fromUtf8(cupsLastErrorString()));
+}
+
+// Where the server was gone libcups tells of whatever error the system had last, of none, too; and it may be
+// connected anew by then.
+bool CupsConnection::isBroken() const
+{
+    if (httpGetStatus(http_.get()) >= HTTP_STATUS_BAD_REQUEST)
+        return false; // the server has had its say
+    if (cupsLastError() <= IPP_STATUS_OK_CONFLICTING || qstrcmp(cupsLastErrorString(), std::strerror(0)) == 0)
+        return true;
+    const int socket = httpGetFd(http_.get());
+    char byte = 0;
+    const ssize_t count = socket < 0 ? 0 : recv(socket, &byte, sizeof byte, MSG_PEEK | MSG_DONTWAIT);
+    return count == 0 || (count < 0 && errno != EAGAIN && errno != EINTR);
 }
 
 IppPointer CupsConnection::answerTo(IppPointer request, const char *resource)

@@ -61,6 +61,8 @@ public:
 
 private:
     static int goesOn(http_t *, void *self);
+    /// Whether the server has closed the connection without an answer.
+    bool isBroken() const;
 
     PipeSignalBlock pipeSignalBlock_; ///< outlives the connection
     std::chrono::milliseconds limit_;

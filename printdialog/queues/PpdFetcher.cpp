@@ -66,6 +66,11 @@ QueueFault faultOf(http_status_t status)
     }
 }
 
+QString brokenReason()
+{
+    return PpdFetcher::tr("the connection broke in the middle of its PPD");
+}
+
 QString tooLargeReason()
 {
     return PpdFetcher::tr("its PPD is larger than %1 MiB").arg(fetchedPpdLimit / 1024 / 1024);
@@ -104,15 +109,17 @@ Result<QByteArray, QueueFault> ppdOf(CupsConnection &connection, const QueueReco
         const auto failure = connection.lastFailure(queue);
         if (failure.reason == QueueFault::TimedOut || failure.reason == QueueFault::Cancelled)
             return failure;
-        return queueFailure(faultOf(status), queue, QString::fromUtf8(httpStatus(status)));
+        // What libcups has for its own error is the text of the system's last one, which may be "Success".
+        return queueFailure(faultOf(status), queue,
+                            status == HTTP_STATUS_ERROR ? brokenReason()
+                                                        : QString::fromUtf8(httpStatus(status)));
     }
     QByteArray ppd = file.content();
     if (ppd.size() > fetchedPpdLimit)
         return queueFailure(QueueFault::Failed, queue, tooLargeReason());
     // The connection goes back to waiting only when the whole body was read.
     if (httpGetState(connection.http()) != HTTP_STATE_WAITING)
-        return queueFailure(QueueFault::Failed, queue,
-                            PpdFetcher::tr("the connection broke in the middle of its PPD"));
+        return queueFailure(QueueFault::Failed, queue, brokenReason());
     if (ppd.isEmpty())
         return queueFailure(QueueFault::NoPpd, queue, PpdFetcher::tr("what the print server keeps is empty"));
     return ppd;

@@ -273,6 +273,10 @@ linken und oberen Rand aus (sonst 50,50, die Mitte)</translation>
         <source>it gave no answer within %1 s</source>
         <translation>er hat innerhalb von %1 s nicht geantwortet</translation>
     </message>
+    <message>
+        <source>the connection broke</source>
+        <translation>die Verbindung ist abgebrochen</translation>
+    </message>
 </context>
 <context>
     <name>JobFollowing</name>

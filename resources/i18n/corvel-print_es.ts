@@ -273,6 +273,10 @@ izquierda y desde arriba (si no, 50,50, el centro)</translation>
         <source>it gave no answer within %1 s</source>
         <translation>no ha respondido en %1 s</translation>
     </message>
+    <message>
+        <source>the connection broke</source>
+        <translation>se ha interrumpido la conexión</translation>
+    </message>
 </context>
 <context>
     <name>JobFollowing</name>

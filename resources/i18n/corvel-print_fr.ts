@@ -273,6 +273,10 @@ et depuis son haut (sinon 50,50, le milieu)</translation>
         <source>it gave no answer within %1 s</source>
         <translation>il n’a pas répondu en %1 s</translation>
     </message>
+    <message>
+        <source>the connection broke</source>
+        <translation>la connexion a été interrompue</translation>
+    </message>
 </context>
 <context>
     <name>JobFollowing</name>

@@ -273,6 +273,10 @@ and from its top (otherwise 50,50, the middle)</source>
         <source>it gave no answer within %1 s</source>
         <translation>%1 秒以内に応答がありませんでした</translation>
     </message>
+    <message>
+        <source>the connection broke</source>
+        <translation>接続が切れました</translation>
+    </message>
 </context>
 <context>
     <name>JobFollowing</name>
