@@ -20,7 +20,7 @@ namespace printdialog {
 
 namespace {
 
-constexpr qsizetype largestFile = 1024 * 1024;
+constexpr qsizetype largestFile = qsizetype(1024) * 1024;
 constexpr auto lockPatience = 1s;
 
 constexpr auto ownersFolder = QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner;

@@ -66,6 +66,9 @@ __attribute__((constructor)) void readPlan()
     }
     set(parts[0].c_str(), std::atoi(parts[1].c_str()), std::atoi(parts[2].c_str()), parts[3].c_str(),
         parts[4].c_str());
+    // The program's children are left alone.
+    unsetenv("CORVEL_FAULT");
+    unsetenv("LD_PRELOAD");
 }
 
 bool isBelowFolder(const char *path)
@@ -115,9 +118,19 @@ Function *real(Function * /*interposed*/, const char *name)
     return reinterpret_cast<Function *>(dlsym(RTLD_NEXT, name));
 }
 
-mode_t modeOf(int flags, va_list arguments)
+bool takesMode(int flags)
 {
-    return (flags & (O_CREAT | O_TMPFILE)) != 0 ? va_arg(arguments, mode_t) : 0;
+    return (flags & (O_CREAT | O_TMPFILE)) != 0;
+}
+
+int openPath(const char *name, const char *path, int flags, mode_t mode)
+{
+    return fails("open", path) ? -1 : real(&open, name)(path, flags, mode);
+}
+
+int openAt(const char *name, int folder, const char *path, int flags, mode_t mode)
+{
+    return fails("open", folder, path) ? -1 : real(&openat, name)(folder, path, flags, mode);
 }
 
 } // namespace
@@ -136,40 +149,66 @@ bool disarmFault()
 
 } // namespace testing_support
 
-// The functions with a number at their end are what the same calls are compiled to with fortified headers.
-
-#define CORVEL_OPEN(name)                                                                                    \
-    CORVEL_INTERPOSED int name(const char *path, int flags, ...)                                             \
-    {                                                                                                        \
-        va_list arguments;                                                                                   \
-        va_start(arguments, flags);                                                                          \
-        const mode_t mode = modeOf(flags, arguments);                                                        \
-        va_end(arguments);                                                                                   \
-        return fails("open", path) ? -1 : real(&name, #name)(path, flags, mode);                             \
-    }
-#define CORVEL_OPENAT(name)                                                                                  \
-    CORVEL_INTERPOSED int name(int folder, const char *path, int flags, ...)                                 \
-    {                                                                                                        \
-        va_list arguments;                                                                                   \
-        va_start(arguments, flags);                                                                          \
-        const mode_t mode = modeOf(flags, arguments);                                                        \
-        va_end(arguments);                                                                                   \
-        return fails("open", folder, path) ? -1 : real(&name, #name)(folder, path, flags, mode);             \
-    }
-
-CORVEL_OPEN(open)
-CORVEL_OPEN(open64)
-CORVEL_OPENAT(openat)
-CORVEL_OPENAT(openat64)
-
-CORVEL_INTERPOSED int __open_2(const char *path, int flags)
+CORVEL_INTERPOSED int open(const char *path, int flags, ...)
 {
-    return fails("open", path) ? -1 : real(&__open_2, "__open_2")(path, flags);
+    mode_t mode = 0;
+    if (takesMode(flags)) {
+        va_list arguments;
+        va_start(arguments, flags);
+        mode = va_arg(arguments, mode_t);
+        va_end(arguments);
+    }
+    return openPath("open", path, flags, mode);
 }
 
-CORVEL_INTERPOSED int __open64_2(const char *path, int flags)
+CORVEL_INTERPOSED int open64(const char *path, int flags, ...)
 {
-    return fails("open", path) ? -1 : real(&__open64_2, "__open64_2")(path, flags);
+    mode_t mode = 0;
+    if (takesMode(flags)) {
+        va_list arguments;
+        va_start(arguments, flags);
+        mode = va_arg(arguments, mode_t);
+        va_end(arguments);
+    }
+    return openPath("open64", path, flags, mode);
+}
+
+CORVEL_INTERPOSED int openat(int folder, const char *path, int flags, ...)
+{
+    mode_t mode = 0;
+    if (takesMode(flags)) {
+        va_list arguments;
+        va_start(arguments, flags);
+        mode = va_arg(arguments, mode_t);
+        va_end(arguments);
+    }
+    return openAt("openat", folder, path, flags, mode);
+}
+
+CORVEL_INTERPOSED int openat64(int folder, const char *path, int flags, ...)
+{
+    mode_t mode = 0;
+    if (takesMode(flags)) {
+        va_list arguments;
+        va_start(arguments, flags);
+        mode = va_arg(arguments, mode_t);
+        va_end(arguments);
+    }
+    return openAt("openat64", folder, path, flags, mode);
+}
+
+// What the first two are compiled to with fortified headers.
+CORVEL_INTERPOSED int fortifiedOpen(const char *path, int flags) __asm__("__open_2");
+CORVEL_INTERPOSED int fortifiedOpen64(const char *path, int flags) __asm__("__open64_2");
+
+int fortifiedOpen(const char *path, int flags)
+{
+    return openPath("open", path, flags, 0);
+}
+
+int fortifiedOpen64(const char *path, int flags)
+{
+    return openPath("open64", path, flags, 0);
 }
 
 CORVEL_INTERPOSED ssize_t read(int descriptor, void *place, size_t size)

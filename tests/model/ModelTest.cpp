@@ -213,6 +213,5 @@ void ModelTest::faultIsFoundAndShrunk()
              qUtf8Printable(found));
 }
 
-Q_DECLARE_METATYPE(PanelTable)
 QTEST_MAIN(ModelTest)
 #include "ModelTest.moc"

@@ -5,6 +5,7 @@
 
 #include <QtCore/QByteArray>
 #include <QtCore/QMap>
+#include <QtCore/QMetaType>
 #include <QtCore/QStringList>
 
 #include <optional>
@@ -60,3 +61,5 @@ struct PanelTable
     /// gaps in the tags, and a key that the PPD lacks.
     static PanelTable mixed();
 };
+
+Q_DECLARE_METATYPE(PanelTable)
