@@ -54,7 +54,7 @@ QString renderPages(PrintDialog &dialog, QApplication &application, const QDir &
         application.processEvents();
         const QString suffix = dialog.pageKindSuffix(page);
         const QString name = suffix.isEmpty() ? QStringLiteral("summary") : suffix;
-        const QString failure = save(dialog.grab(), folder.filePath(name + QLatin1String(".png")));
+        QString failure = save(dialog.grab(), folder.filePath(name + QLatin1String(".png")));
         if (!failure.isEmpty())
             return failure;
     }

@@ -27,7 +27,7 @@ struct Bundle::Content
 
 namespace {
 
-constexpr qint64 largestInfo = 64 * 1024;
+constexpr qint64 largestInfo = qint64(64) * 1024;
 
 bool isPlainFileName(const QString &name)
 {
@@ -151,7 +151,7 @@ QString Bundle::localizedString(const QString &key, const QString &value) const
         if (!content_->table.load(QLocale(), QStringLiteral("Localizable"), QStringLiteral("_"), folder))
             std::ignore = content_->table.load(QStringLiteral("Localizable_en"), folder);
     }
-    const QString text = content_->table.translate("Localizable", key.toUtf8().constData());
+    QString text = content_->table.translate("Localizable", key.toUtf8().constData());
     if (!text.isNull())
         return text;
     return value.isEmpty() ? key : value;

@@ -143,7 +143,7 @@ private:
         const auto wordOf = [content](qsizetype i) {
             return static_cast<quint8>(content[i]) << 8 | static_cast<quint8>(content[i + 1]);
         };
-        const int unit = content[7];
+        const auto unit = static_cast<quint8>(content[7]);
         const double perInch = unit == 2 ? centimetresPerInch : 1;
         if (unit == 1 || unit == 2)
             header_.resolution = plausibleResolution(wordOf(8) * perInch, wordOf(10) * perInch);

@@ -25,7 +25,7 @@ QString startPage()
         const QString code = language.section(QLatin1Char('-'), 0, 0);
         if (code == QLatin1String("en"))
             break;
-        const QString page = QStringLiteral(":/corvel-print/help/index_%1.html").arg(code);
+        QString page = QStringLiteral(":/corvel-print/help/index_%1.html").arg(code);
         if (QFile::exists(page))
             return page;
     }
