@@ -8,6 +8,7 @@
 #include "RKTPPRMatrixPDEcorvel.h"
 #include "RadioMatrix.h"
 
+#include <QtCore/QTemporaryDir>
 #include <QtTest/QTest>
 #include <QtWidgets/QCheckBox>
 #include <QtWidgets/QRadioButton>
@@ -206,6 +207,25 @@ void LaminationTest::modelRetiresControls()
     QVERIFY(dialog.control(1)->isEnabled() && panel->isMatte());
     for (const int tag : {258, 259})
         QVERIFY(!dialog.control(tag)->isEnabled() && dialog.control(tag)->isHidden());
+}
+
+// A panel whose form is missing has nothing to retire.
+void LaminationTest::modelWithoutAForm()
+{
+    PanelHarness dialog(Mode::Constraint, ppd());
+    dialog.printer.description = QUrl(text("ppd:x"));
+    dialog.printer.data = "K9031";
+    const QTemporaryDir folder;
+    QVERIFY(QDir(folder.path()).mkdir(text("Contents")));
+    QFile info(folder.filePath(text("Contents/Info.json")));
+    QVERIFY(info.open(QIODevice::WriteOnly));
+    info.write(R"({"CFBundleIdentifier": "a.b", "CFBundleExecutable": "none"})");
+    info.close();
+    auto panel = dialog.make<LVCorvelLaminationPDE>();
+    panel->pdeBundle_ = pdekit::Bundle::open(folder.path());
+    panel->willShow();
+    QVERIFY(!panel->panelView());
+    QVERIFY(!dialog.log.filter(text("Failed to load nib named corvelMatte")).isEmpty());
 }
 
 void LaminationTest::otherModelsKeepControls_data()

@@ -20,6 +20,7 @@ private Q_SLOTS:
     void enablerIsInverted();
     void matteLevelNeedsMatteAndTheEnabler();
     void modelRetiresControls();
+    void modelWithoutAForm();
     void otherModelsKeepControls_data();
     void otherModelsKeepControls();
     void matrixVariant();

@@ -53,6 +53,20 @@ void PanelProtocolTest::fixedTables()
                                    "AdjustmentsEnabled,-,-,-,-,-,-"));
     QCOMPARE(panel->panelKind(), text("org.corvel.printing.Corvel9031.coloradjust"));
     QVERIFY(panel->shouldHide());
+
+    // A panel without tables of its own has none; one with keys by tag has them up to the first gap.
+    RKTPPRBasePDEcorvel base;
+    QVERIFY(!base.nibName() && !base.panelName() && !base.panelKind() && !base.ppdChoiceForTag(2));
+    QVERIFY(base.supportedPPDOptionKeys().isEmpty());
+    QCOMPARE(base.tagForStringValue(text("1")), 0);
+    class TaggedPanel : public RKTPPRBasePDEcorvel
+    {
+        Text ppdOptionKeyForTag(int tag) const override
+        {
+            return tag == 3 ? std::nullopt : Text(text("Key%1").arg(tag));
+        }
+    } tagged;
+    QCOMPARE(tagged.supportedPPDOptionKeys().join(u','), text("Key1,Key2"));
 }
 
 void PanelProtocolTest::formIsLoadedWhen()

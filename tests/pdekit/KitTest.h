@@ -6,6 +6,8 @@
 #include "KeyValueObject.h"
 
 #include <QtCore/QObject>
+#include <QtCore/QStringList>
+#include <QtCore/QUrl>
 
 /// The kit that dialog and plug-in share.
 class KitTest : public pdekit::KeyValueObject
@@ -15,6 +17,8 @@ class KitTest : public pdekit::KeyValueObject
 public:
     Q_INVOKABLE void act(QObject *sender) { actedOn << sender; }
     QObjectList actedOn;
+
+    Q_INVOKABLE void openPage(const QUrl &page) { openedPages_.append(page.fileName()); }
 
 private Q_SLOTS:
     void leadingNumbers_data();
@@ -32,7 +36,11 @@ private Q_SLOTS:
     void actionsOfUsersOnly();
     void textFieldEvents();
     void viewsByTag();
+    void desktopFeedback();
     void boundValueFollowsTheControl_data();
     void boundValueFollowsTheControl();
     void boundControlFollowsTheValue();
+
+private:
+    QStringList openedPages_; ///< by the desktop, as far as it knows
 };

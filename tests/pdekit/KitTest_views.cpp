@@ -1,16 +1,23 @@
 // SPDX-FileCopyrightText: Corvel print dialog authors
 // SPDX-License-Identifier: Apache-2.0
 
+#include "Bundle.h"
 #include "ControlAction.h"
 #include "ControlValues.h"
+#include "Feedback.h"
 #include "KitTest.h"
 #include "RadioMatrix.h"
 #include "TextFieldEvents.h"
 #include "ViewTags.h"
 #include "ViewTexts.h"
 
+#include <QtCore/QDir>
+#include <QtCore/QLocale>
+#include <QtCore/QTemporaryDir>
+#include <QtCore/QTimer>
 #include <QtCore/QVariant>
 #include <QtGui/QAccessible>
+#include <QtGui/QDesktopServices>
 #include <QtTest/QSignalSpy>
 #include <QtTest/QTest>
 #include <QtWidgets/QCheckBox>
@@ -18,6 +25,7 @@
 #include <QtWidgets/QGroupBox>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
+#include <QtWidgets/QMessageBox>
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QRadioButton>
 #include <QtWidgets/QSlider>
@@ -199,6 +207,52 @@ void KitTest::textFieldEvents()
     QTest::keyClick(&field, Qt::Key_C);
     other.setFocus();
     QCOMPARE(counts(), QList<qsizetype>({3, 3, 2}));
+}
+
+void KitTest::desktopFeedback()
+{
+    const auto before = pdekit::Feedback::install(nullptr);
+    const auto restore = qScopeGuard([&] {
+        pdekit::Feedback::install(before);
+        QDesktopServices::unsetUrlHandler(text("file"));
+        QLocale::setDefault(QLocale::c());
+    });
+    // Texts of an alert are never markup.
+    QStringList shown;
+    QTimer::singleShot(0, this, [&shown] {
+        auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+        const QList<QLabel *> labels = box->findChildren<QLabel *>();
+        for (const QLabel *label : labels) {
+            if (!label->text().isEmpty())
+                shown << label->text() << text(label->textFormat() == Qt::PlainText ? "plain" : "markup");
+        }
+        shown << box->defaultButton()->text();
+        QTest::keyClick(box, Qt::Key_Return);
+    });
+    pdekit::Feedback::current().alert({text("<b>a</b>"), text("<i>c</i>"), text("Fine")});
+    QCOMPARE(shown,
+             QStringList({text("<b>a</b>"), text("plain"), text("<i>c</i>"), text("plain"), text("Fine")}));
+    pdekit::Feedback::current().beep();
+
+    // The help book opens in the user's first language that it has; what is before English counts.
+    const QTemporaryDir folder;
+    QVERIFY(QDir(folder.path()).mkpath(text("Contents/Resources/Book")));
+    for (const char *name : {"Contents/Info.json", "Contents/Resources/Book/index.html",
+                             "Contents/Resources/Book/index_de.html"}) {
+        QFile file(folder.filePath(text(name)));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(R"({"CFBundleIdentifier": "a.b", "CFBundleExecutable": "none"})");
+    }
+    const auto bundle = pdekit::Bundle::open(folder.path());
+    QDesktopServices::setUrlHandler(text("file"), this, "openPage");
+    QLocale::setDefault(QLocale(QLocale::German, QLocale::Austria));
+    QVERIFY(pdekit::Feedback::current().openHelpBook(*bundle, text("Book")));
+    QLocale::setDefault(QLocale(QLocale::Finnish));
+    QVERIFY(pdekit::Feedback::current().openHelpBook(*bundle, text("Book")));
+    QLocale::setDefault(QLocale(QLocale::English));
+    QVERIFY(pdekit::Feedback::current().openHelpBook(*bundle, text("Book")));
+    QVERIFY(!pdekit::Feedback::current().openHelpBook(*bundle, text("Missing")));
+    QCOMPARE(openedPages_, QStringList({text("index_de.html"), text("index.html"), text("index.html")}));
 }
 
 void KitTest::viewsByTag()
