@@ -39,14 +39,17 @@ int BatchRun::run()
     auto photos = PhotoList::open(commandLine_.photos);
     if (!photos)
         return fail(photos.failure().text);
-    const auto session = openRequestedSession(commandLine_);
-    if (!session)
-        return fail(session.failure().text);
-    const auto options = (*session)->jobOptions();
+    const auto requested = openRequestedJob(commandLine_);
+    if (!requested)
+        return fail(requested.failure().text);
+    for (const QString &sentence : requested->leftOut)
+        console_.complain(sentence);
+    DialogSession &session = *requested->session;
+    const auto options = session.jobOptions();
     if (!options)
         return fail(options.failure().text);
 
-    const PpdDocument &ppd = (*session)->ppd();
+    const PpdDocument &ppd = session.ppd();
     const std::optional<PageSize> page = ppd.pageSize(options->options.value(pageSizeKey));
     if (!page) {
         return fail(tr("No page size is chosen. Choose one with -o PageSize=%1 or another one of "
@@ -56,16 +59,17 @@ int BatchRun::run()
     for (const QString &dropped : options->dropped)
         console_.complain(dropped);
 
-    const SummaryEntries summary = (*session)->summary();
+    const SummaryEntries summary = session.summary();
     if (commandLine_.summary)
         console_.writeLines(summaryLines(summary));
     PrintJob job;
-    job.printer = (*session)->printer().name;
+    job.printer = session.printer().name;
     job.page = {page->points, page->imageable};
     job.placement = commandLine_.placement;
     job.options = options->options;
+    job.copies = requested->copies;
     job.summary = summaryOf(summary);
-    const PrinterDescription &printer = (*session)->printer();
+    const PrinterDescription &printer = session.printer();
     job.queue = printer.hasPpd ? QueueTerms::ofPpd(ppd) : QueueTerms::withoutPpd();
     return commandLine_.dryRun ? showPlan(*photos, printer, job) : printAll(*photos, printer, job);
 }

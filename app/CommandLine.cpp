@@ -29,8 +29,9 @@ struct OptionRow
 
 constexpr std::array optionRows = {
     OptionRow{"printer", "QUEUE",
-              QT_TRANSLATE_NOOP("CommandLine", "a print queue, or \"built-in\" for the built-in printer;\n"
-                                               "otherwise your default queue, or else the built-in printer")},
+              QT_TRANSLATE_NOOP("CommandLine",
+                                "a print queue, queue/preset, or \"built-in\" for the built-in printer;\n"
+                                "otherwise your default queue, or else the built-in printer")},
     OptionRow{"ppd", "FILE",
               QT_TRANSLATE_NOOP("CommandLine", "the built-in printer, with this PPD instead of its own")},
     OptionRow{"mode", "constraint|settings",

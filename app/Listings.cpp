@@ -110,15 +110,18 @@ int listPrinters(const CommandLine &commandLine, Console &console)
 
 int listOptions(const CommandLine &commandLine, Console &console)
 {
-    const auto session = openRequestedSession(commandLine);
-    if (!session)
-        return fail(console, session.failure().text);
+    const auto requested = openRequestedJob(commandLine);
+    if (!requested)
+        return fail(console, requested.failure().text);
+    for (const QString &sentence : requested->leftOut)
+        console.complain(sentence);
+    DialogSession &session = *requested->session;
     // The panels keep their choices to themselves until they are saved. Without any choice of the command
     // line a printer whose own defaults are in conflict is shown all the same.
-    const auto job = (*session)->jobOptions();
+    const auto job = session.jobOptions();
     if (!job && !commandLine.options.isEmpty())
         return fail(console, job.failure().text);
-    const OptionTable table(**session);
+    const OptionTable table(session);
     if (commandLine.json)
         console.writeJson(table.json());
     else
@@ -128,12 +131,15 @@ int listOptions(const CommandLine &commandLine, Console &console)
 
 int showSummary(const CommandLine &commandLine, Console &console)
 {
-    const auto session = openRequestedSession(commandLine);
-    if (!session)
-        return fail(console, session.failure().text);
-    if (const auto job = (*session)->jobOptions(); !job)
+    const auto requested = openRequestedJob(commandLine);
+    if (!requested)
+        return fail(console, requested.failure().text);
+    for (const QString &sentence : requested->leftOut)
+        console.complain(sentence);
+    DialogSession &session = *requested->session;
+    if (const auto job = session.jobOptions(); !job)
         return fail(console, job.failure().text);
-    const SummaryEntries entries = (*session)->summary();
+    const SummaryEntries entries = session.summary();
     if (!commandLine.json) {
         console.writeLines(summaryLines(entries));
         return exitDone;

@@ -3,9 +3,13 @@
 
 #include "RequestedSession.h"
 
+#include "ChoiceExplanation.h"
 #include "PpdCheck.h"
+#include "PresetName.h"
+#include "PresetStore.h"
 #include "QueueList.h"
 #include "SessionOpening.h"
+#include "StoredChoices.h"
 
 #include <QtCore/QCoreApplication>
 
@@ -48,6 +52,47 @@ RequestedSessionResult openQueueNamed(const QString &id, PanelMode mode)
                                      : openRawQueue(opened->queue, mode));
 }
 
+/// Takes the number of copies out of the choices.
+void takeCopies(QMap<QString, QString> &choices, const QString &preset, RequestedJob &job)
+{
+    constexpr int mostCopies = 999; // as in the window
+    const QString text = choices.take(QLatin1String(copiesOption));
+    bool isNumber = false;
+    const int copies = text.toInt(&isNumber);
+    if (isNumber && copies >= 1 && copies <= mostCopies)
+        job.copies = copies;
+    else if (!text.isNull())
+        job.leftOut +=
+            Text::tr("Of the preset \"%1\" is left out: %2 is no number of copies.").arg(preset, text);
+}
+
+/// Makes the choices of the preset that the printer's name names. Empty, or why they cannot be had.
+QString usePreset(RequestedJob &job)
+{
+    const PrinterDescription &printer = job.session->printer();
+    const QString name = printer.isBuiltIn ? QString() : printer.name.section(u'/', 1);
+    if (name.isEmpty())
+        return {};
+    const auto presets = PresetStore::open(printer.name.section(u'/', 0, 0), false)->presets();
+    if (!presets)
+        return presets.failure().text;
+    for (const Preset &preset : *presets) {
+        if (!PresetName::areSame(preset.name, name))
+            continue;
+        const PpdDocument &ppd = job.session->ppd();
+        QMap<QString, QString> choices = preset.choicesFor(ppd.options());
+        takeCopies(choices, name, job);
+        if (!printer.hasPpd)
+            return {};
+        const auto rulings = job.session->restoreChoices(choices, DialogSession::Unnamed::Default);
+        for (const Ruling &ruling : rulings)
+            job.leftOut += Text::tr("Of the preset \"%1\" is left out: %2")
+                               .arg(name, ChoiceExplanation(ppd).refusal(ruling));
+        return {};
+    }
+    return {};
+}
+
 } // namespace
 
 RequestedSessionResult openRequestedPrinter(const CommandLine &commandLine)
@@ -66,27 +111,30 @@ RequestedSessionResult openRequestedPrinter(const CommandLine &commandLine)
     return orSentence(openBuiltInPrinter(std::nullopt, commandLine.mode));
 }
 
-RequestedSessionResult openRequestedSession(const CommandLine &commandLine)
+Result<RequestedJob, std::monostate> openRequestedJob(const CommandLine &commandLine)
 {
-    auto session = openRequestedPrinter(commandLine);
-    if (!session)
-        return session;
-    if (const auto failure = (*session)->loadPanels())
+    auto opened = openRequestedPrinter(commandLine);
+    if (!opened)
+        return opened.failure();
+    RequestedJob job{*std::move(opened), 1, {}};
+    if (const auto failure = job.session->loadPanels())
         return refusal(failure->text);
-    const PrinterDescription &printer = (*session)->printer();
+    const PrinterDescription &printer = job.session->printer();
     if (!printer.hasPpd && !commandLine.options.isEmpty())
         return refusal(
             Text::tr("The printer \"%1\" has no PPD file and so no option %2; leave it out, or set "
                      "the printer up with its driver.")
                 .arg(printer.name, commandLine.options.constFirst().key));
+    if (const QString failure = usePreset(job); !failure.isEmpty())
+        return refusal(failure);
     for (const RequestedChoice &requested : commandLine.options) {
         // Text that is only the beginning of a number is let through while somebody types; here nothing
         // follows it.
-        const Ruling ruling = (*session)->choose(requested.key, requested.choice);
+        const Ruling ruling = job.session->choose(requested.key, requested.choice);
         if (ruling.verdict != Verdict::Accepted)
             return refusal(ruling.text);
     }
-    return session;
+    return job;
 }
 
 } // namespace printdialog

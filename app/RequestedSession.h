@@ -20,8 +20,17 @@ using RequestedSessionResult = Result<std::unique_ptr<DialogSession>, std::monos
 /// the print server is asked, for a few seconds at most.
 RequestedSessionResult openRequestedPrinter(const CommandLine &commandLine);
 
-/// The same with its panels loaded and the options applied in their order, for a run without a window: a
-/// plug-in that cannot be loaded is a failure, and so is any choice that does not become the job's.
-RequestedSessionResult openRequestedSession(const CommandLine &commandLine);
+/// A session with the choices that the command line asks for.
+struct RequestedJob
+{
+    std::unique_ptr<DialogSession> session;
+    int copies = 1;      ///< of the preset
+    QStringList leftOut; ///< a sentence for each choice of the preset that the printer does not have
+};
+
+/// The same with its panels loaded, for a run without a window: with the preset that the printer's name
+/// names ("queue/preset"), as lp(1) prints it, and then the options in their order. A plug-in that cannot be
+/// loaded is a failure, and so is any option that does not become the job's.
+Result<RequestedJob, std::monostate> openRequestedJob(const CommandLine &commandLine);
 
 } // namespace printdialog

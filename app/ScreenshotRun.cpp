@@ -91,11 +91,10 @@ int runScreenshot(const CommandLine &commandLine, QApplication &application)
     if (!setup)
         return endWith(setup.failure().text);
     // What the dialog only tells in its window (a choice refused, a plug-in missing) is a failure here.
-    auto session = openRequestedSession(commandLine);
-    if (!session)
-        return endWith(session.failure().text);
-    const QString printer = (*session)->printer().name;
-    (*session).reset();
+    const auto requested = openRequestedJob(commandLine);
+    if (!requested)
+        return endWith(requested.failure().text);
+    const QString printer = requested->session->printer().name;
     setup->printer = printer;
     setup->remembers = false;
     const QDir folder(*commandLine.screenshot);

@@ -6,10 +6,23 @@
 #include "BuiltInPresets.h"
 #include "PresetName.h"
 #include "QueuePresets.h"
+#include "StoredChoices.h"
 
 #include <algorithm>
 
 namespace printdialog {
+
+QMap<QString, QString> Preset::choicesFor(const QStringList &printerOptions) const
+{
+    QMap<QString, QString> choices = options;
+    for (auto entry = inherited.cbegin(); entry != inherited.cend(); ++entry) {
+        const bool isOurs =
+            entry.key() == QLatin1String(copiesOption) || printerOptions.contains(entry.key());
+        if (isOurs && !choices.contains(entry.key()))
+            choices.insert(entry.key(), entry.value());
+    }
+    return choices;
+}
 
 std::unique_ptr<PresetStore> PresetStore::open(const QString &printer, bool isBuiltIn)
 {

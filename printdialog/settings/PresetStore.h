@@ -21,6 +21,10 @@ struct Preset
     QMap<QString, QString> options;   ///< option keyword to choice keyword, and "copies"
     QMap<QString, QString> inherited; ///< what the queue's own entry adds to those
     bool isWritable = true;           ///< false: the system's, which only its administrator changes
+
+    /// What it chooses on a printer with the options: its own choices, and what the queue's own entry adds
+    /// about the printer or the copies. Most of such an entry is about something else.
+    QMap<QString, QString> choicesFor(const QStringList &printerOptions) const;
 };
 
 /// The presets of one printer. Those of a queue are its instances in the user's lpoptions file, as

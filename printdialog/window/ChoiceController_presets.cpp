@@ -136,15 +136,7 @@ QStringList ChoiceController::restorePreset(const QString &name)
         widgets_.presets->showError(tr("There is no preset \"%1\" any more.").arg(name));
         return {};
     }
-    // What the queue's own entry adds counts where it is about the printer; most of it is about something
-    // else.
-    QMap<QString, QString> choices = preset->options;
-    for (auto entry = preset->inherited.cbegin(); entry != preset->inherited.cend(); ++entry) {
-        const bool isOurs =
-            entry.key() == QLatin1String(copiesOption) || session_->ppd().hasOption(entry.key());
-        if (isOurs && !choices.contains(entry.key()))
-            choices.insert(entry.key(), entry.value());
-    }
+    QMap<QString, QString> choices = preset->choicesFor(session_->ppd().options());
     QStringList leftOut;
     if (!choices.contains(QLatin1String(copiesOption)))
         setCopies(1);

@@ -66,10 +66,11 @@
 <context>
     <name>CommandLine</name>
     <message>
-        <source>a print queue, or &quot;built-in&quot; for the built-in printer;
+        <source>a print queue, queue/preset, or &quot;built-in&quot; for the built-in printer;
 otherwise your default queue, or else the built-in printer</source>
-        <translation>eine Druckerwarteschlange, oder „built-in“ für den eingebauten
-Drucker; sonst Ihre Standardwarteschlange oder der eingebaute</translation>
+        <translation>eine Druckerwarteschlange, auch Warteschlange/Voreinstellung,
+oder „built-in“ für den eingebauten Drucker;
+sonst Ihre Standardwarteschlange oder der eingebaute</translation>
     </message>
     <message>
         <source>the built-in printer, with this PPD instead of its own</source>
@@ -884,6 +885,14 @@ linken und oberen Rand aus (sonst 50,50, die Mitte)</translation>
     <message>
         <source>The printer &quot;%1&quot; has no PPD file and so no option %2; leave it out, or set the printer up with its driver.</source>
         <translation>Der Drucker „%1“ hat keine PPD-Datei und deshalb keine Option %2; lassen Sie sie weg oder richten Sie den Drucker mit seinem Treiber ein.</translation>
+    </message>
+    <message>
+        <source>Of the preset &quot;%1&quot; is left out: %2 is no number of copies.</source>
+        <translation>Von der Voreinstellung „%1“ bleibt weg: %2 ist keine Anzahl von Exemplaren.</translation>
+    </message>
+    <message>
+        <source>Of the preset &quot;%1&quot; is left out: %2</source>
+        <translation>Von der Voreinstellung „%1“ bleibt weg: %2</translation>
     </message>
 </context>
 <context>

@@ -66,9 +66,9 @@
 <context>
     <name>CommandLine</name>
     <message>
-        <source>a print queue, or &quot;built-in&quot; for the built-in printer;
+        <source>a print queue, queue/preset, or &quot;built-in&quot; for the built-in printer;
 otherwise your default queue, or else the built-in printer</source>
-        <translation>una cola de impresión, o «built-in» para la impresora integrada;
+        <translation>una cola de impresión, cola/preajuste, o «built-in» para la impresora integrada;
 si no, su cola predeterminada o, si no hay, la integrada</translation>
     </message>
     <message>
@@ -884,6 +884,14 @@ izquierda y desde arriba (si no, 50,50, el centro)</translation>
     <message>
         <source>The printer &quot;%1&quot; has no PPD file and so no option %2; leave it out, or set the printer up with its driver.</source>
         <translation>La impresora «%1» no tiene archivo PPD y por tanto ninguna opción %2; omítala o configure la impresora con su controlador.</translation>
+    </message>
+    <message>
+        <source>Of the preset &quot;%1&quot; is left out: %2 is no number of copies.</source>
+        <translation>Del preajuste «%1» se omite: %2 no es un número de copias.</translation>
+    </message>
+    <message>
+        <source>Of the preset &quot;%1&quot; is left out: %2</source>
+        <translation>Del preajuste «%1» se omite: %2</translation>
     </message>
 </context>
 <context>

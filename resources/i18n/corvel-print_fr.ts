@@ -66,9 +66,9 @@
 <context>
     <name>CommandLine</name>
     <message>
-        <source>a print queue, or &quot;built-in&quot; for the built-in printer;
+        <source>a print queue, queue/preset, or &quot;built-in&quot; for the built-in printer;
 otherwise your default queue, or else the built-in printer</source>
-        <translation>une file d’impression, ou «&#x202f;built-in&#x202f;» pour l’imprimante intégrée&#x202f;;
+        <translation>une file d’impression, file/préréglage, ou «&#x202f;built-in&#x202f;» pour l’imprimante intégrée&#x202f;;
 sinon votre file par défaut, ou à défaut l’imprimante intégrée</translation>
     </message>
     <message>
@@ -884,6 +884,14 @@ et depuis son haut (sinon 50,50, le milieu)</translation>
     <message>
         <source>The printer &quot;%1&quot; has no PPD file and so no option %2; leave it out, or set the printer up with its driver.</source>
         <translation>L’imprimante «&#xa0;%1&#xa0;» n’a pas de fichier PPD, donc pas d’option %2&#xa0;; retirez-la ou installez l’imprimante avec son pilote.</translation>
+    </message>
+    <message>
+        <source>Of the preset &quot;%1&quot; is left out: %2 is no number of copies.</source>
+        <translation>Du préréglage «&#x202f;%1&#x202f;» est laissé de côté&#x202f;: %2 n’est pas un nombre de copies.</translation>
+    </message>
+    <message>
+        <source>Of the preset &quot;%1&quot; is left out: %2</source>
+        <translation>Du préréglage «&#x202f;%1&#x202f;» est laissé de côté&#x202f;: %2</translation>
     </message>
 </context>
 <context>

@@ -66,9 +66,9 @@
 <context>
     <name>CommandLine</name>
     <message>
-        <source>a print queue, or &quot;built-in&quot; for the built-in printer;
+        <source>a print queue, queue/preset, or &quot;built-in&quot; for the built-in printer;
 otherwise your default queue, or else the built-in printer</source>
-        <translation>印刷キュー。内蔵プリンターは &quot;built-in&quot;。
+        <translation>印刷キュー、またはキュー/プリセット。内蔵プリンターは &quot;built-in&quot;。
 省略すると既定のキュー、なければ内蔵プリンター</translation>
     </message>
     <message>
@@ -884,6 +884,14 @@ and from its top (otherwise 50,50, the middle)</source>
     <message>
         <source>The printer &quot;%1&quot; has no PPD file and so no option %2; leave it out, or set the printer up with its driver.</source>
         <translation>プリンター「%1」には PPD ファイルがないため、オプション %2 はありません。指定を外すか、ドライバーを使ってプリンターを設定してください。</translation>
+    </message>
+    <message>
+        <source>Of the preset &quot;%1&quot; is left out: %2 is no number of copies.</source>
+        <translation>プリセット「%1」のうち次は使われません: %2 は部数ではありません。</translation>
+    </message>
+    <message>
+        <source>Of the preset &quot;%1&quot; is left out: %2</source>
+        <translation>プリセット「%1」のうち次は使われません: %2</translation>
     </message>
 </context>
 <context>

@@ -67,6 +67,7 @@ private Q_SLOTS:
     void asksTheServerNamed();
     void followsTheJob_data();
     void followsTheJob();
+    void printsAPresetAsLpDoes();
     void interruptedRunTakesItsJobsBack();
 };
 
@@ -287,6 +288,27 @@ void QueueCommandLineTest::followsTheJob()
     QVERIFY(cupsd_.run(u"cancel"_s, {u"-a"_s, u"odd"_s}));
     QVERIFY(cupsd_.run(u"cupsenable"_s, {u"odd"_s}));
     QTRY_COMPARE(cupsd_.activeJobs(), QByteArray());
+}
+
+void QueueCommandLineTest::printsAPresetAsLpDoes()
+{
+    QVERIFY(cupsd_.run(u"lpoptions"_s, {u"-p"_s, u"photo/warm"_s, u"-o"_s, u"Red=5"_s, u"-o"_s,
+                                        u"Quality=Fine"_s, u"-o"_s, u"copies=2"_s, u"-o"_s, u"Gone=1"_s}));
+    QVERIFY(cupsd_.run(u"lpoptions"_s, {u"-p"_s, u"raw/twice"_s, u"-o"_s, u"copies=2"_s}));
+    const ProgramRun run =
+        runProgram({u"--printer"_s, u"photo/warm"_s, u"--batch"_s, u"-o"_s, u"Blue=3"_s, samplePhoto});
+    QCOMPARE(run.status, 0);
+    // What the printer does not have is told, and never sent.
+    QVERIFY2(run.err.count('\n') == 1 && run.err.contains("\"warm\"") && run.err.contains("Gone"),
+             run.err.constData());
+    const RecordedJob job = cupsd_.job(jobIn(run));
+    for (const char *option : {" Red=5 ", " Quality=Fine ", " Blue=3 ", " Green=0 "})
+        QVERIFY2(job.options.contains(option), job.options.constData());
+    QVERIFY(!job.options.contains("Gone"));
+    QCOMPARE(job.copies.toInt(), 2);
+    const ProgramRun raw = runProgram({u"--printer"_s, u"raw/twice"_s, u"--batch"_s, samplePhoto});
+    QCOMPARE(raw.err, QByteArray());
+    QCOMPARE(cupsd_.job(jobIn(raw)).copies.toInt(), 2);
 }
 
 void QueueCommandLineTest::interruptedRunTakesItsJobsBack()
