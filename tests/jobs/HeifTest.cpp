@@ -17,8 +17,8 @@ using namespace printdialog;
 using namespace Qt::StringLiterals;
 
 /// The encoder of the samples leaks; the program only decodes.
-extern "C" const char *__lsan_default_suppressions();
-extern "C" const char *__lsan_default_suppressions()
+extern "C" Q_DECL_EXPORT const char *__lsan_default_suppressions();
+extern "C" Q_DECL_EXPORT const char *__lsan_default_suppressions()
 {
     return "leak:libx265\n";
 }
