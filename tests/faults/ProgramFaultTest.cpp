@@ -230,6 +230,9 @@ void ProgramFaultTest::callsFail()
 
 void ProgramFaultTest::noDescriptorsLeft()
 {
+#ifdef __SANITIZE_ADDRESS__
+    QSKIP("The sanitizer looks at objects through a pipe, and takes every one for broken when it gets none.");
+#endif
     int failures = 0;
     for (rlim_t limit = 3;; ++limit) {
         const Ended ended = runLimited(arguments(u"7"_s), {}, [limit] {
