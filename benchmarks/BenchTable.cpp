@@ -101,9 +101,7 @@ void printCosts(const QString &what, const ProgramCost &ours, const BenchPeer &p
                     peer.largestMemory,
                     {},
                     QStringLiteral("MiB")};
-    if (peer.cost.isEmpty()) {
-        time.peerName = memory.peerName = peer.name + QStringLiteral(" fails");
-    } else {
+    if (!peer.cost.isEmpty()) {
         time.peer = median(peer.cost.milliseconds);
         memory.peer = median(peer.cost.mebibytes);
     }

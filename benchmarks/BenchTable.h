@@ -49,7 +49,7 @@ struct BenchPeer
     std::optional<double> largestTimes;
     std::optional<double> largestMemory;
 };
-/// Two rows: time and peak memory. A peer without runs could not do it.
+/// Two rows: time and peak memory; a peer without runs is left out.
 void printCosts(const QString &what, const ProgramCost &ours, const BenchPeer &peer);
 
 /// One size and the time that it took.
