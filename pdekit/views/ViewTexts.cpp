@@ -33,10 +33,14 @@ bool setTitle(QWidget *view, const QString &title)
     return false;
 }
 
+QString plainToolTip(const QString &text)
+{
+    return Qt::mightBeRichText(text) ? QStringLiteral("<p>%1</p>").arg(text.toHtmlEscaped()) : text;
+}
+
 void setPlainToolTip(QWidget *view, const QString &text)
 {
-    view->setToolTip(Qt::mightBeRichText(text) ? QStringLiteral("<p>%1</p>").arg(text.toHtmlEscaped())
-                                               : text);
+    view->setToolTip(plainToolTip(text));
 }
 
 bool sizeToFit(QWidget *view)

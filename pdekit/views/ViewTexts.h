@@ -17,8 +17,10 @@ namespace pdekit {
 PDEKIT_EXPORT std::optional<QString> title(const QWidget *view);
 PDEKIT_EXPORT bool setTitle(QWidget *view, const QString &title);
 
-/// Makes `text` the tool tip, shown as it is: a tool tip that looks like markup is otherwise taken for
-/// markup. For texts from outside, such as a PPD's keywords.
+/// What a tool tip must hold to show `text` as it is: one that looks like markup is otherwise taken for
+/// markup. For texts from outside, such as a PPD's keywords or a file's name.
+PDEKIT_EXPORT QString plainToolTip(const QString &text);
+/// Makes `text` the view's tool tip, by plainToolTip().
 PDEKIT_EXPORT void setPlainToolTip(QWidget *view, const QString &text);
 
 /// Gives a control its preferred size; false for a view that is no control.

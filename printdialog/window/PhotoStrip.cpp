@@ -4,6 +4,7 @@
 #include "PhotoStrip.h"
 
 #include "PlainText.h"
+#include "ViewTexts.h"
 
 #include <QtCore/QPointer>
 #include <QtCore/QSignalBlocker>
@@ -81,7 +82,7 @@ void PhotoStrip::addPhoto(const Photo &photo, int number, int count)
     auto *item = new QListWidgetItem(this);
     item->setData(Qt::UserRole, keyOf(photo));
     item->setData(Qt::AccessibleTextRole, tr("%1, photo %2 of %3").arg(name).arg(number).arg(count));
-    item->setToolTip(name.toHtmlEscaped());
+    item->setToolTip(pdekit::plainToolTip(name));
     item->setSizeHint(gridSize()); // an item that waits for its thumbnail would have no size
     item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsDragEnabled);
     if (const auto known = thumbnails_.constFind(keyOf(photo)); known != thumbnails_.constEnd())

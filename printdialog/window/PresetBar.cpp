@@ -4,6 +4,7 @@
 #include "PresetBar.h"
 
 #include "TextFieldEvents.h"
+#include "ViewTexts.h"
 
 #include <QtCore/QEvent>
 #include <QtGui/QAccessible>
@@ -227,7 +228,7 @@ void PresetBar::askToRemove()
 {
     clearError();
     question_->setText(tr("Delete \"%1\"?").arg(current_));
-    question_->setToolTip(current_);
+    pdekit::setPlainToolTip(question_, current_);
     showRow(Removing);
     rows_->widget(Removing)->findChild<QPushButton *>(QStringLiteral("presetKeep"))->setFocus();
 }

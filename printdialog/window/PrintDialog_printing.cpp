@@ -6,6 +6,7 @@
 #include "PpdFetcher.h"
 #include "PrintDialog.h"
 #include "PrintWorker.h"
+#include "ViewTexts.h"
 #include "ui_PrintDialog.h"
 
 #include <QtCore/QFileInfo>
@@ -22,7 +23,7 @@ void PrintDialog::updateButtons()
     if (reason.isEmpty() && worker_->isBusy())
         reason = tr("Printing is under way.");
     ui_->print->setEnabled(reason.isEmpty());
-    ui_->print->setToolTip(reason);
+    pdekit::setPlainToolTip(ui_->print, reason); // it may name a printer, or hold a PPD's words
     ui_->save->setEnabled(session_ != nullptr);
 }
 

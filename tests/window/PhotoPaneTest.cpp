@@ -14,6 +14,7 @@
 #include <QtCore/QUrl>
 #include <QtGui/QDropEvent>
 #include <QtGui/QPainter>
+#include <QtGui/QTextDocumentFragment>
 #include <QtTest/QTest>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QComboBox>
@@ -285,6 +286,10 @@ void PhotoPaneTest::strip()
     QTest::mouseClick(remove, Qt::LeftButton);
     QVERIFY(pane.photos().isEmpty() && !remove->isEnabled());
     QVERIFY(QFile::exists(pathOf(u"a.jpg"_s)));
+    // A file's name is no markup.
+    pane.setPhotos({photoOf(u"a & b.jpg"_s), photoOf(u"<img src=x>.jpg"_s)}, {});
+    QCOMPARE(strip->item(0)->toolTip(), u"a & b.jpg"_s);
+    QCOMPARE(QTextDocumentFragment::fromHtml(strip->item(1)->toolTip()).toPlainText(), u"<img src=x>.jpg"_s);
 }
 
 void PhotoPaneTest::droppedFiles()
