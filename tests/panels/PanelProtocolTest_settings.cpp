@@ -112,6 +112,12 @@ void PanelProtocolTest::saving()
     QCOMPARE(
         dialog.session.ticket.options,
         Dictionary({{text("Blue"), text("7")}, {text("Red"), text("8")}, {text("PageSize"), text("4x6")}}));
+    // Without a session both ways do nothing.
+    dialog.callback->session = nullptr;
+    const auto choices = *panel->choiceDict_;
+    QVERIFY(panel->saveValuesAndReturnError(nullptr));
+    panel->getPPDSettingsFromPrintSettingsOnTiger();
+    QCOMPARE(*panel->choiceDict_, choices);
 }
 
 void PanelProtocolTest::defaultsOfThePpd()

@@ -133,7 +133,9 @@ void RunnerTest::everyByteArrives()
     run.command(bytes);
     run.context.command[254] = 0;
     bytes[254] = 0;
+    run.context.contextData = g_bytes_new("x", 1); // of the command before
     QCOMPARE(run.start(), 0);
+    QVERIFY(!run.context.contextData);
     QTRY_VERIFY(run.isIdle());
     QCOMPARE(run.input(), bytes);
 }

@@ -42,6 +42,7 @@ private Q_SLOTS:
     void pageSize();
     void help();
     void tabOrderAndNames();
+    void wholeFlowByKeyboard();
     void panelIsToldOnceThatItIsShown();
     void missingFormDisablesOnePanel();
     void missingBundle();
@@ -235,6 +236,51 @@ void PrintDialogTest::tabOrderAndNames()
         QCOMPARE(order.last(after.size()), after);
         QVERIFY(order.size() > before.size() + after.size());
     }
+}
+
+// From the opened window to the printed photo by nothing but keys, each to what has the focus.
+void PrintDialogTest::wholeFlowByKeyboard()
+{
+    QFETCH_GLOBAL(PanelMode, mode);
+    const OpenedDialog opened(mode);
+    const auto press = [](Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
+        QTest::keyClick(QApplication::focusWidget(), key, modifiers);
+    };
+    const auto tabTo = [&](const auto &isThere) {
+        for (int i = 0; i < 60 && !isThere(QApplication::focusWidget()); ++i)
+            press(Qt::Key_Tab);
+        return isThere(QApplication::focusWidget());
+    };
+    const auto named = [](const QString &name) {
+        return [name](const QWidget *widget) {
+            return widget->objectName() == name;
+        };
+    };
+    const auto tagged = [](int tag) {
+        return [tag](const QWidget *widget) {
+            return pdekit::tag(widget) == tag;
+        };
+    };
+    QVERIFY(QApplication::focusWidget());
+    QVERIFY(tabTo(named(u"pageSize"_s)));
+    press(Qt::Key_End);
+    QVERIFY(tabTo(tagged(3)));
+    press(Qt::Key_Right);
+    QVERIFY(tabTo(named(u"qt_tabwidget_tabbar"_s)));
+    press(Qt::Key_Right);
+    QVERIFY(tabTo(tagged(82)));
+    for (const Qt::Key key : {Qt::Key_2, Qt::Key_Period, Qt::Key_5})
+        press(key); // the field's text is selected, and these take its place
+    QVERIFY(tabTo(named(u"scaling"_s)));
+    press(Qt::Key_Down);
+    QVERIFY(tabTo(named(u"preview"_s)));
+    press(Qt::Key_P, Qt::ControlModifier);
+    QTRY_VERIFY(opened.hasPrinted());
+    const QString lastSize = opened.find<QComboBox>(u"pageSize"_s)->currentData().toString();
+    QVERIFY(lastSize != u"4x6.Fullbleed"_s);
+    QCOMPARE(opened.options()[u"PageSize"_s].toString(), lastSize);
+    QCOMPARE(opened.options()[u"Blue"_s].toString(), u"1"_s);
+    QCOMPARE(opened.options()[u"SharpnessIntensity"_s].toString(), u"2.50"_s);
 }
 
 // One panel moves its controls each time, on the model that lacks some of them.
