@@ -152,6 +152,7 @@ std::vector<double> compare(const QList<QPair<QStringList, QProcessEnvironment>>
         }
     }
     std::vector<double> medians;
+    medians.reserve(times.size());
     for (const std::vector<double> &each : times)
         medians.push_back(std::count(each.cbegin(), each.cend(), 0.0) > 0 ? 0.0 : median(each));
     return medians;

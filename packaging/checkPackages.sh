@@ -78,12 +78,13 @@ cp "$build"/packages/*.deb "$top/resources/photos/sample.jpg" "$root/tmp/check"
 inside apt-get update -qq
 inside sh -c 'apt-get install -y -qq --no-install-recommends -o Dpkg::Use-Pty=0 /tmp/check/*.deb' >/dev/null
 step "installed, with $(inside dpkg-query -f '.\n' -W | wc -l) packages in all"
-inside ldconfig -p | grep -q libpdekit || fail "the dynamic linker does not know libpdekit."
+# Not grep -q, which ends at the first line that fits: the program before it then dies of its pipe.
+inside ldconfig -p | grep libpdekit >/dev/null || fail "the dynamic linker does not know libpdekit."
 inside setpriv --reuid=nobody --clear-groups \
-    corvel-print --batch --printer built-in -o Red=7 --output /tmp/check /tmp/check/sample.jpg
+    corvel-print --batch --ppd /usr/share/ppd/corvel-print/Corvel9031.ppd -o Red=7 --output /tmp/check /tmp/check/sample.jpg
 grep -q '"Red": "7"' "$root/tmp/check/sample.ticket.json" || fail "the option did not reach the ticket."
 [ "$(head -c 5 "$root/tmp/check/sample.pdf")" = %PDF- ] || fail "sample.pdf is no PDF file."
-inside corvel-print --printer built-in --list-options | grep -q 'Color Adjustments' || fail "the plug-in was not found."
+inside corvel-print --printer built-in --list-options | grep 'Color Adjustments' >/dev/null || fail "the plug-in was not found."
 step "prints"
 inside apt-get purge -y -qq -o Dpkg::Use-Pty=0 corvel-print 'libpdekit*' >/dev/null
 left=$(names)

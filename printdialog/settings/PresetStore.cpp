@@ -33,7 +33,7 @@ std::unique_ptr<PresetStore> PresetStore::open(const QString &printer, bool isBu
 
 SettingsFailure PresetStore::add(const QString &name, const QMap<QString, QString> &options)
 {
-    if (const auto objection = PresetName::objection(name))
+    if (auto objection = PresetName::objection(name))
         return objection;
     return write(name, options, true);
 }
@@ -47,7 +47,7 @@ SettingsFailure PresetStore::rename(const QString &name, const QString &newName)
 {
     if (name == newName)
         return std::nullopt;
-    if (const auto objection = PresetName::objection(newName))
+    if (auto objection = PresetName::objection(newName))
         return objection;
     return writeName(name, newName);
 }
