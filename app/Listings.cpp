@@ -90,6 +90,19 @@ int fail(Console &console, const QString &sentence)
     return exitFailed;
 }
 
+/// Null when there is none; the user has been told why.
+std::unique_ptr<DialogSession> openSession(const CommandLine &commandLine, Console &console)
+{
+    auto requested = openRequestedJob(commandLine);
+    if (!requested) {
+        console.complain(requested.failure().text);
+        return nullptr;
+    }
+    for (const QString &sentence : std::as_const(requested->leftOut))
+        console.complain(sentence);
+    return std::move(requested->session);
+}
+
 } // namespace
 
 int listPrinters(const CommandLine &commandLine, Console &console)
@@ -110,12 +123,10 @@ int listPrinters(const CommandLine &commandLine, Console &console)
 
 int listOptions(const CommandLine &commandLine, Console &console)
 {
-    const auto requested = openRequestedJob(commandLine);
-    if (!requested)
-        return fail(console, requested.failure().text);
-    for (const QString &sentence : requested->leftOut)
-        console.complain(sentence);
-    DialogSession &session = *requested->session;
+    const auto opened = openSession(commandLine, console);
+    if (!opened)
+        return exitFailed;
+    DialogSession &session = *opened;
     // The panels keep their choices to themselves until they are saved. Without any choice of the command
     // line a printer whose own defaults are in conflict is shown all the same.
     const auto job = session.jobOptions();
@@ -131,12 +142,10 @@ int listOptions(const CommandLine &commandLine, Console &console)
 
 int showSummary(const CommandLine &commandLine, Console &console)
 {
-    const auto requested = openRequestedJob(commandLine);
-    if (!requested)
-        return fail(console, requested.failure().text);
-    for (const QString &sentence : requested->leftOut)
-        console.complain(sentence);
-    DialogSession &session = *requested->session;
+    const auto opened = openSession(commandLine, console);
+    if (!opened)
+        return exitFailed;
+    DialogSession &session = *opened;
     if (const auto job = session.jobOptions(); !job)
         return fail(console, job.failure().text);
     const SummaryEntries entries = session.summary();

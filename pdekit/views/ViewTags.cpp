@@ -16,8 +16,8 @@ constexpr char tagProperty[] = "tag";
 
 int tag(const QWidget *view)
 {
-    // QObject::property() compares the name with each of the class's own properties first, some hundred, which
-    // was half the time of showing a panel's choices.
+    // QObject::property() compares the name with each of the class's own properties first, some hundred,
+    // which was half the time of showing a panel's choices.
     if (!view->dynamicPropertyNames().contains(tagProperty))
         return noTag;
     return view->property(tagProperty).toInt();
