@@ -53,6 +53,8 @@ step "lintian has no errors"
 # The fresh system.
 keep=$root
 [ -n "$root" ] || root=$(mktemp -d)
+mkdir -p "$root"
+chmod 755 "$root" # an ordinary user prints in it
 clean_up() {
     mountpoint -q "$root/proc" && umount "$root/proc"
     [ -n "$keep" ] || rm -rf --one-file-system "$root"
