@@ -21,7 +21,8 @@ int main(int argc, char *argv[])
     if (open("/dev/null", O_RDONLY) < 0 || read(STDIN_FILENO, &byte, 1) != 1)
         _exit(2);
     // cppcheck-suppress leakReturnValNotUsed
-    if (open(argv[1], O_WRONLY | O_CREAT, 0600) >= 0 || open(argv[1], O_RDWR | O_CREAT, 0600) >= 0)
+    if (open(argv[1], O_WRONLY | O_CREAT, 0600) >= 0 || open(argv[1], O_RDWR | O_CREAT, 0600) >= 0 ||
+        open("/dev/null", O_RDONLY | O_TRUNC) >= 0)
         _exit(3);
     if (write(STDOUT_FILENO, &byte, 1) >= 0)
         _exit(4);
@@ -31,7 +32,8 @@ int main(int argc, char *argv[])
     if (fork() >= 0)
         _exit(6);
     execl("/bin/true", "/bin/true", nullptr);
-    if (unlink(argv[1]) == 0 || kill(getppid(), 0) == 0)
+    if (unlink(argv[1]) == 0 || kill(getppid(), 0) == 0 || tgkill(getppid(), getppid(), 0) == 0 ||
+        fcntl(STDIN_FILENO, F_SETOWN, getppid()) == 0 || tgkill(getpid(), gettid(), 0) != 0)
         _exit(7);
     rlimit limit = {};
     limit.rlim_cur = limit.rlim_max = RLIM_INFINITY;

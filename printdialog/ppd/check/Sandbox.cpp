@@ -8,6 +8,7 @@
 #include <initializer_list>
 #include <seccomp.h>
 #include <sys/resource.h>
+#include <unistd.h>
 
 namespace printdialog {
 
@@ -24,7 +25,8 @@ bool limit(__rlimit_resource resource, rlim_t most)
 
 bool allowReadingOnly(scmp_filter_ctx filter)
 {
-    const scmp_datum_t writing = O_WRONLY | O_RDWR | O_CREAT;
+    // O_TRUNC empties even a file that is opened for reading.
+    const scmp_datum_t writing = O_WRONLY | O_RDWR | O_CREAT | O_TRUNC;
     for (const int call : {SCMP_SYS(open), SCMP_SYS(openat)}) {
         const unsigned flags = call == SCMP_SYS(open) ? 1 : 2;
         if (seccomp_rule_add(filter, SCMP_ACT_ALLOW, call, 1,
@@ -49,16 +51,22 @@ bool enterSandbox()
         return false;
     bool isReady = allowReadingOnly(filter);
     for (const int call :
-         {SCMP_SYS(read),         SCMP_SYS(readv),       SCMP_SYS(pread64),       SCMP_SYS(lseek),
-          SCMP_SYS(close),        SCMP_SYS(fstat),       SCMP_SYS(stat),          SCMP_SYS(newfstatat),
-          SCMP_SYS(statx),        SCMP_SYS(access),      SCMP_SYS(faccessat),     SCMP_SYS(faccessat2),
-          SCMP_SYS(readlink),     SCMP_SYS(fcntl),       SCMP_SYS(getcwd),        SCMP_SYS(mmap),
-          SCMP_SYS(munmap),       SCMP_SYS(mremap),      SCMP_SYS(mprotect),      SCMP_SYS(madvise),
-          SCMP_SYS(brk),          SCMP_SYS(futex),       SCMP_SYS(rt_sigaction),  SCMP_SYS(rt_sigprocmask),
-          SCMP_SYS(rt_sigreturn), SCMP_SYS(sigaltstack), SCMP_SYS(clock_gettime), SCMP_SYS(gettimeofday),
-          SCMP_SYS(getrandom),    SCMP_SYS(getpid),      SCMP_SYS(gettid),        SCMP_SYS(tgkill),
-          SCMP_SYS(exit),         SCMP_SYS(exit_group)})
+         {SCMP_SYS(read),        SCMP_SYS(readv),         SCMP_SYS(pread64),        SCMP_SYS(lseek),
+          SCMP_SYS(close),       SCMP_SYS(fstat),         SCMP_SYS(stat),           SCMP_SYS(newfstatat),
+          SCMP_SYS(statx),       SCMP_SYS(access),        SCMP_SYS(faccessat),      SCMP_SYS(faccessat2),
+          SCMP_SYS(readlink),    SCMP_SYS(getcwd),        SCMP_SYS(mmap),           SCMP_SYS(munmap),
+          SCMP_SYS(mremap),      SCMP_SYS(mprotect),      SCMP_SYS(madvise),        SCMP_SYS(brk),
+          SCMP_SYS(futex),       SCMP_SYS(rt_sigaction),  SCMP_SYS(rt_sigprocmask), SCMP_SYS(rt_sigreturn),
+          SCMP_SYS(sigaltstack), SCMP_SYS(clock_gettime), SCMP_SYS(gettimeofday),   SCMP_SYS(getrandom),
+          SCMP_SYS(getpid),      SCMP_SYS(gettid),        SCMP_SYS(exit),           SCMP_SYS(exit_group)})
         isReady = isReady && seccomp_rule_add(filter, SCMP_ACT_ALLOW, call, 0) == 0;
+    // Not those that have the kernel send signals to others.
+    for (const auto command : {scmp_datum_t(F_GETFD), scmp_datum_t(F_SETFD), scmp_datum_t(F_GETFL)})
+        isReady = isReady && seccomp_rule_add(filter, SCMP_ACT_ALLOW, SCMP_SYS(fcntl), 1,
+                                              SCMP_CMP(1, SCMP_CMP_EQ, command)) == 0;
+    // For abort(): this process may signal itself, and no other one.
+    isReady = isReady && seccomp_rule_add(filter, SCMP_ACT_ALLOW, SCMP_SYS(tgkill), 1,
+                                          SCMP_CMP(0, SCMP_CMP_EQ, static_cast<scmp_datum_t>(getpid()))) == 0;
     isReady = isReady && seccomp_load(filter) == 0; // sets no_new_privs, too
     seccomp_release(filter);
     return isReady;
