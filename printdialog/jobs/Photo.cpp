@@ -227,6 +227,11 @@ QImage Photo::decodedWithin(const QSize &storedBound, QString &error) const
         reader->setScaledSize(storedBound);
     QImage image = reader->read();
     error = reader->errorString();
+    // It was placed by the size that its header tells. Some of Qt's readers go by another one when they decode.
+    if (storedBound.isEmpty() && !image.isNull() && image.size() != storedSize_) {
+        error = QStringLiteral("the header and the picture differ in size");
+        return {};
+    }
     return image;
 }
 
