@@ -23,6 +23,10 @@ if(CORVEL_COVERAGE)
     target_compile_options(corvel_settings INTERFACE --coverage)
     target_link_options(corvel_settings INTERFACE --coverage)
 endif()
+if(CORVEL_FUZZERS)
+    target_compile_options(corvel_settings INTERFACE -fsanitize=fuzzer-no-link)
+    target_link_options(corvel_settings INTERFACE -fsanitize=fuzzer-no-link)
+endif()
 include(CorvelHardening)
 
 # The precompiled headers are built once each and shared: one for every target made half of the building time. A target

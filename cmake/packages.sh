@@ -1,7 +1,7 @@
 # SPDX-FileCopyrightText: Corvel print dialog authors
 # SPDX-License-Identifier: Apache-2.0
 #
-# What ./run, ./test and ./bench share: the Debian packages, and how to get and build what is missing. Sourced, not run.
+# What ./run, ./test, ./bench and ./fuzz share: the Debian packages, and how to get and build what is missing. Sourced, not run.
 
 corvel_build_packages=(
     cmake ninja-build g++ pkg-config python3
@@ -14,6 +14,7 @@ corvel_test_packages=(
 )
 
 corvel_bench_packages=(img2pdf imagemagick libgtk-3-dev xvfb)
+corvel_fuzz_packages=(clang libclang-rt-dev llvm)
 
 # corvel_install PACKAGE...: installs those that are not there; costs a few milliseconds when all are.
 corvel_install() {

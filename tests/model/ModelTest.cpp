@@ -20,20 +20,6 @@ struct Difference
     QString text;
 };
 
-QString firstDifference(const Sight &expected, const Sight &actual)
-{
-    const QString nothing = text("nothing");
-    QStringList names = expected.keys() + actual.keys();
-    names.sort();
-    for (const QString &name : std::as_const(names)) {
-        const QString wanted = expected.value(name, nothing);
-        const QString got = actual.value(name, nothing);
-        if (wanted != got)
-            return text("%1 should be \"%2\" and is \"%3\"").arg(name, wanted, got);
-    }
-    return {};
-}
-
 /// Panel and model, new ones, taken through the steps as far as they agree.
 std::optional<Difference> replay(const PanelTable &table, Mode mode, const Opener &open, const Steps &steps)
 {

@@ -351,3 +351,17 @@ void addEntries(Sight &sight, const QString &name, const QMap<QString, QString> 
     for (auto entry = entries.cbegin(); entry != entries.cend(); ++entry)
         sight.insert(name + QLatin1Char(' ') + entry.key(), entry.value());
 }
+
+QString firstDifference(const Sight &expected, const Sight &actual)
+{
+    const QString nothing = text("nothing");
+    QStringList names = expected.keys() + actual.keys();
+    names.sort();
+    for (const QString &name : std::as_const(names)) {
+        const QString wanted = expected.value(name, nothing);
+        const QString got = actual.value(name, nothing);
+        if (wanted != got)
+            return text("%1 should be \"%2\" and is \"%3\"").arg(name, wanted, got);
+    }
+    return {};
+}

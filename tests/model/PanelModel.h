@@ -113,3 +113,5 @@ private:
 /// The names under which both sides tell what they see.
 void addControl(Sight &sight, const FormControl &form, const ControlSight &control);
 void addEntries(Sight &sight, const QString &name, const QMap<QString, QString> &entries);
+/// What parts the two; empty when nothing does.
+QString firstDifference(const Sight &expected, const Sight &actual);
