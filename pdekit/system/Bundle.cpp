@@ -3,6 +3,8 @@
 
 #include "Bundle.h"
 
+#include "StringsTable.h"
+
 #include <QtCore/QCoreApplication>
 #include <QtCore/QDir>
 #include <QtCore/QFile>
@@ -11,7 +13,6 @@
 #include <QtCore/QJsonObject>
 #include <QtCore/QLocale>
 #include <QtCore/QMetaObject>
-#include <QtCore/QTranslator>
 
 #include <dlfcn.h>
 
@@ -21,7 +22,7 @@ struct Bundle::Content
 {
     QString path;
     QJsonObject info;
-    QTranslator table;
+    StringsTable table;
     QString tableLocale; ///< the languages that the table was chosen for
 };
 
@@ -147,12 +148,9 @@ QString Bundle::localizedString(const QString &key, const QString &value) const
     const QString locale = QLocale().uiLanguages().join(QLatin1Char(' '));
     if (content_->tableLocale != locale) {
         content_->tableLocale = locale;
-        const QString folder = content_->path + QLatin1String("/Contents/Resources");
-        if (!content_->table.load(QLocale(), QStringLiteral("Localizable"), QStringLiteral("_"), folder))
-            std::ignore = content_->table.load(QStringLiteral("Localizable_en"), folder);
+        content_->table.load(QLocale(), content_->path + QLatin1String("/Contents/Resources"));
     }
-    QString text = content_->table.translate("Localizable", key.toUtf8().constData());
-    if (!text.isNull())
+    if (const QString text = content_->table.text(key); !text.isNull())
         return text;
     return value.isEmpty() ? key : value;
 }

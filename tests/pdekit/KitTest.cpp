@@ -188,6 +188,51 @@ void KitTest::languages()
     QCOMPARE(bundle.localizedString(QString()), QString());
 }
 
+void KitTest::damagedStringsTable_data()
+{
+    QTest::addColumn<qsizetype>("place");
+    QTest::addColumn<char>("byte");
+    QTest::addColumn<bool>("refusedByQt"); // whose search then goes on by itself
+
+    // The magic number, the language, hashes and places (tag, length, pairs), messages (tag, length, parts).
+    QTest::newRow("not a table") << qsizetype(0) << 'x' << true;
+    QTest::newRow("another file") << qsizetype(0x17) << '\x96' << true;
+    QTest::newRow("contexts without a size") << qsizetype(0x17) << '\x2f' << false;
+    QTest::newRow("a block beyond the end") << qsizetype(0x18) << '\x70' << true;
+    QTest::newRow("a message beyond the end") << qsizetype(0x20) << '\x70' << false;
+    QTest::newRow("a text beyond the end") << qsizetype(0x162) << '\x70' << false;
+}
+
+// The English table is used instead, and one that would be read beyond its end is named.
+void KitTest::damagedStringsTable()
+{
+    QFETCH(qsizetype, place);
+    QFETCH(char, byte);
+    QFETCH(bool, refusedByQt);
+    QStringList log;
+    const auto sink = pdekit::setSystemLogSink([&log](const QString &line) { log << line; });
+    const auto restore = qScopeGuard([&sink] {
+        pdekit::setSystemLogSink(sink);
+        QLocale::setDefault(QLocale::c());
+    });
+    const QString own = Bundle::bundleForClass(staticMetaObject).path() + text("/Contents/Resources/");
+    const QTemporaryDir folder;
+    write(folder.filePath(text("Contents/Info.json")),
+          R"({"CFBundleIdentifier": "a", "CFBundleExecutable": "x"})");
+    const QString english = folder.filePath(text("Contents/Resources/Localizable_en.qm"));
+    const QString german = folder.filePath(text("Contents/Resources/Localizable_de.qm"));
+    QVERIFY(QDir(folder.path()).mkdir(text("Contents/Resources")));
+    QVERIFY(QFile::copy(own + text("Localizable_en.qm"), english));
+    QFile table(own + text("Localizable_de.qm"));
+    QVERIFY(table.open(QFile::ReadOnly));
+    QByteArray content = table.readAll();
+    content[place] = byte;
+    write(german, content);
+    QLocale::setDefault(QLocale(text("de")));
+    QCOMPARE(Bundle::open(folder.path())->localizedString(text("Brightness")), text("Brightness"));
+    QCOMPARE(log.filter(german).size(), refusedByQt ? 0 : 1);
+}
+
 void KitTest::signalLog()
 {
     QStringList log;

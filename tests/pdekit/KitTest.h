@@ -27,6 +27,8 @@ private Q_SLOTS:
     void bundleFaults();
     void bundleFiles();
     void languages();
+    void damagedStringsTable_data();
+    void damagedStringsTable();
     void signalLog();
     void systemLogOnStandardError();
     void forms();
