@@ -32,6 +32,7 @@ private Q_SLOTS:
     void faults_data();
     void faults();
     void zerosAreNotRead();
+    void anotherSizeThanItsHeaderTells();
     void wholeJpegs_data();
     void wholeJpegs();
     void damagedHeadersAreSafe();
@@ -125,6 +126,20 @@ void PhotoTest::faults()
     QCOMPARE(photo.failure().reason, fault);
     QVERIFY2(photo.failure().text.contains(QFileInfo(path).fileName()), qPrintable(photo.failure().text));
     QVERIFY2(photo.failure().text.endsWith(u'.'), qPrintable(photo.failure().text));
+}
+
+// Qt's GIF reader leaves aside a canvas that is far larger than its frame. The photo was placed by the
+// canvas.
+void PhotoTest::anotherSizeThanItsHeaderTells()
+{
+    samples::store(pathOf(u"canvas.gif"_s),
+                   QByteArray("GIF89a\2&\2\0\x80\0\0\0\0\0\xff\xff\xff,\0\0\0\0\2\0\2\0\0\2\3D\2\5\0;", 36));
+    const auto photo = Photo::open(pathOf(u"canvas.gif"_s));
+    QVERIFY(photo);
+    QCOMPARE(photo->storedSize(), QSize(2, 2));
+    const auto decoded = photo->decoded();
+    QVERIFY(!decoded);
+    QCOMPARE(decoded.failure().reason, PhotoFault::Broken);
 }
 
 void PhotoTest::zerosAreNotRead()

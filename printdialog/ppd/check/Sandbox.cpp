@@ -14,6 +14,12 @@ namespace printdialog {
 
 namespace {
 
+/// The argument at `index` of a call, and what has to be true of it.
+scmp_arg_cmp argument(unsigned index, scmp_compare comparison, scmp_datum_t a, scmp_datum_t b = 0)
+{
+    return {index, comparison, a, b};
+}
+
 constexpr rlim_t memory = rlim_t(1) << 30; // bytes; a PPD at the limits takes less than a third of it
 constexpr rlim_t processorTime = 10;       // seconds
 
@@ -29,8 +35,8 @@ bool allowReadingOnly(scmp_filter_ctx filter)
     const scmp_datum_t writing = O_WRONLY | O_RDWR | O_CREAT | O_TRUNC;
     for (const int call : {SCMP_SYS(open), SCMP_SYS(openat)}) {
         const unsigned flags = call == SCMP_SYS(open) ? 1 : 2;
-        if (seccomp_rule_add(filter, SCMP_ACT_ALLOW, call, 1,
-                             SCMP_CMP(flags, SCMP_CMP_MASKED_EQ, writing, 0)) != 0)
+        if (seccomp_rule_add(filter, SCMP_ACT_ALLOW, call, 1, argument(flags, SCMP_CMP_MASKED_EQ, writing)) !=
+            0)
             return false;
     }
     return true;
@@ -63,10 +69,10 @@ bool enterSandbox()
     // Not those that have the kernel send signals to others.
     for (const auto command : {scmp_datum_t(F_GETFD), scmp_datum_t(F_SETFD), scmp_datum_t(F_GETFL)})
         isReady = isReady && seccomp_rule_add(filter, SCMP_ACT_ALLOW, SCMP_SYS(fcntl), 1,
-                                              SCMP_CMP(1, SCMP_CMP_EQ, command)) == 0;
+                                              argument(1, SCMP_CMP_EQ, command)) == 0;
     // For abort(): this process may signal itself, and no other one.
     isReady = isReady && seccomp_rule_add(filter, SCMP_ACT_ALLOW, SCMP_SYS(tgkill), 1,
-                                          SCMP_CMP(0, SCMP_CMP_EQ, static_cast<scmp_datum_t>(getpid()))) == 0;
+                                          argument(0, SCMP_CMP_EQ, static_cast<scmp_datum_t>(getpid()))) == 0;
     isReady = isReady && seccomp_load(filter) == 0; // sets no_new_privs, too
     seccomp_release(filter);
     return isReady;
