@@ -33,6 +33,14 @@ public:
         matrix->setObjectName(name);
         return matrix;
     }
+
+    /// A column in the place of a layout that Qt does not know: QUiLoader goes on as if it had got one.
+    QLayout *createLayout(const QString &className, QObject *parent, const QString &name) override
+    {
+        if (QLayout *layout = QUiLoader::createLayout(className, parent, name))
+            return layout;
+        return QUiLoader::createLayout(QStringLiteral("QVBoxLayout"), parent, name);
+    }
 };
 
 /// One loader serves all forms. Its constructor would load every Designer plug-in of the system, which takes

@@ -289,8 +289,10 @@ void KitTest::forms()
     QTest::ignoreMessage(QtWarningMsg, QRegularExpression(text(".*")));
     QVERIFY(!pdekit::loadForm(bundle, text("notXml"), this));
     QTest::ignoreMessage(QtWarningMsg, QRegularExpression(text("HoloProjector")));
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(text("HoloLayout")));
     const auto view = pdekit::loadForm(bundle, text("controls"), this);
     QVERIFY(view);
+    QVERIFY(view->findChild<QLabel *>(text("inUnknownLayout")));
     QVERIFY(!view->findChild<QWidget *>(text("projector")));
     QCOMPARE(view->accessibleName(), text("Rot"));
     auto *slider = view->findChild<QSlider *>(text("slider"));
