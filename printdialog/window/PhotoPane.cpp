@@ -175,11 +175,13 @@ void PhotoPane::show()
     placement_->setPlacement(shown.placement);
     placement_->setEnabled(current_ >= 0);
     remove_->setEnabled(current_ >= 0);
-    QList<Photo> all;
-    for (const PlacedPhoto &placed : std::as_const(photos_))
-        all.append(placed.photo);
-    strip_->setPhotos(all, current_);
-    strip_->setVisible(photos_.size() > 1);
+    QList<Photo> several; // one alone needs no strip, and no thumbnail
+    for (const PlacedPhoto &placed : std::as_const(photos_)) {
+        if (photos_.size() > 1)
+            several.append(placed.photo);
+    }
+    strip_->setPhotos(several, several.isEmpty() ? -1 : current_);
+    strip_->setVisible(!several.isEmpty());
     showCaption();
 }
 

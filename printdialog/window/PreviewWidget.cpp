@@ -22,7 +22,10 @@ namespace printdialog {
 namespace {
 
 constexpr int margin = 16;
-constexpr QSize decodedBound(1600, 1600);
+/// In pixels of the photo's longer side: decoded at first, which is enough for the window as it opens, and at
+/// most.
+constexpr int firstDetail = 800;
+constexpr int mostDetail = 3200;
 /// How much beyond the sheet is shown at most on either side, of its longer side.
 constexpr double shownCutOff = 0.15;
 constexpr double dimmed = 0.3;
@@ -63,25 +66,33 @@ void PreviewWidget::setPhoto(const Photo &photo)
     scaledImage_ = {};
     isUnreadable_ = false;
     isDragging_ = false;
-    const quint64 number = ++number_;
+    ++number_;
     describe();
     update();
-    if (photo.storedSize().isEmpty())
-        return;
-    QThreadPool::globalInstance()->start([photo, number, self = QPointer<PreviewWidget>(this)] {
-        const QImage image = photo.preview(decodedBound);
-        QMetaObject::invokeMethod(qApp, [self, number, image] {
-            if (self)
-                self->take(number, image);
-        });
-    });
+    if (!photo.storedSize().isEmpty())
+        decode(firstDetail);
 }
 
-void PreviewWidget::take(quint64 number, const QImage &image)
+void PreviewWidget::decode(int detail)
 {
-    if (number != number_)
+    detail_ = detail;
+    QThreadPool::globalInstance()->start(
+        [photo = photo_, number = number_, detail, self = QPointer<PreviewWidget>(this)] {
+            const QImage image = photo.preview({detail, detail});
+            QMetaObject::invokeMethod(qApp, [self, number, detail, image] {
+                if (self)
+                    self->take(number, detail, image);
+            });
+        });
+}
+
+void PreviewWidget::take(quint64 number, int detail, const QImage &image)
+{
+    const bool isLate = number != number_ || detail < detail_;
+    if (isLate || (image.isNull() && !image_.isNull()))
         return;
     image_ = image;
+    scaledImage_ = {};
     isUnreadable_ = image.isNull();
     update();
     Q_EMIT ready();
@@ -259,11 +270,17 @@ void PreviewWidget::paintPhoto(QPainter &painter, const PhotoPlacement &placemen
     painter.restore();
 }
 
-/// Painting scales well down to a half; below, the pixels between are left out and edges shimmer.
+/// Painting scales well down to a half; below, the pixels between are left out and edges shimmer. What is
+/// shown larger than it was decoded stays until the photo has been decoded with more detail.
 const QImage &PreviewWidget::imageFor(const QSizeF &devicePixels)
 {
     constexpr double wellScaled = 0.6;
     const QSize wanted = devicePixels.toSize().expandedTo(QSize(1, 1));
+    const QSize stored = photo_.storedSize();
+    const int useful = std::min(
+        {mostDetail, std::max(stored.width(), stored.height()), std::max(wanted.width(), wanted.height())});
+    if (useful > detail_)
+        decode(std::min(std::max(useful, 2 * detail_), mostDetail));
     if (wanted.width() > image_.width() * wellScaled)
         return image_;
     if (scaledImage_.size() != wanted)

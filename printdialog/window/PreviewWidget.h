@@ -51,7 +51,8 @@ protected:
     void keyPressEvent(QKeyEvent *event) override;
 
 private:
-    void take(quint64 number, const QImage &image);
+    void decode(int detail);
+    void take(quint64 number, int detail, const QImage &image);
     void paintPage(QPainter &painter);
     void paintPhoto(QPainter &painter, const PhotoPlacement &placement);
     const QImage &imageFor(const QSizeF &devicePixels);
@@ -69,6 +70,7 @@ private:
     QPointF lastPosition_;
     bool isDragging_ = false;
     bool isUnreadable_ = false;
+    int detail_ = 0;     ///< of the photo's longer side, in pixels, that image_ has or will soon have
     quint64 number_ = 0; ///< of the photo that is shown; an answer for another one is dropped
 };
 

@@ -20,6 +20,7 @@
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QPushButton>
 
+#include <algorithm>
 #include <cmath>
 #include <cstdlib>
 
@@ -84,6 +85,7 @@ private:
 private Q_SLOTS:
     void previewIsWhatIsPrinted_data();
     void previewIsWhatIsPrinted();
+    void moreDetailWhenLarger();
     void cropByMouseAndKeys();
     void paperIsWhiteInDarkThemes();
     void placementByControls();
@@ -176,6 +178,37 @@ void PhotoPaneTest::previewIsWhatIsPrinted()
     QVERIFY(count > 5000);
     QVERIFY2(double(difference) / double(count) < 8,
              qPrintable(QString::number(double(difference) / double(count))));
+}
+
+// Lines as thin as a pixel are grey in a small preview, and black on white in one as large as the photo.
+void PhotoPaneTest::moreDetailWhenLarger()
+{
+    QImage lines(1800, 1200, QImage::Format_Grayscale8);
+    for (int y = 0; y < lines.height(); ++y) {
+        for (int x = 0; x < lines.width(); ++x)
+            lines.scanLine(y)[x] = x % 2 == 0 ? 0 : 255;
+    }
+    samples::store(pathOf(u"lines.png"_s), samples::encoded(lines, "png"));
+    PreviewWidget preview;
+    preview.setPage({QSizeF(300, 200), QRectF(0, 0, 300, 200)});
+    preview.setPhoto(*Photo::open(pathOf(u"lines.png"_s)));
+    const auto contrast = [&preview] {
+        const QImage shown = preview.grab().toImage();
+        const QPoint middle = shown.rect().center();
+        int darkest = 255;
+        int lightest = 0;
+        for (int x = 0; x < 20; ++x) {
+            const int grey = qGray(shown.pixel(middle + QPoint(x, 0)));
+            darkest = std::min(darkest, grey);
+            lightest = std::max(lightest, grey);
+        }
+        return lightest - darkest;
+    };
+    preview.resize(400, 300);
+    QTRY_VERIFY(preview.isReady());
+    QVERIFY2(contrast() < 40, qPrintable(QString::number(contrast())));
+    preview.resize(1800 + 32, 1200 + 32); // with the preview's margins
+    QTRY_VERIFY2(contrast() > 200, qPrintable(QString::number(contrast())));
 }
 
 void PhotoPaneTest::cropByMouseAndKeys()
