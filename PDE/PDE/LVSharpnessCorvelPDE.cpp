@@ -130,7 +130,7 @@ int LVSharpnessCorvelPDE::tagForStringValue(const Text &value) const
 
 RKTPPRBasePDEcorvel::Text LVSharpnessCorvelPDE::newChoiceForSender(QWidget *sender)
 {
-    const Text text = pdekit::stringValue(sender);
+    Text text = pdekit::stringValue(sender);
     if (!isIntensity(sender))
         return QString::number(pdekit::leadingInteger(text.value_or(QString())));
     if (!text || !pdekit::isSlider(sender))

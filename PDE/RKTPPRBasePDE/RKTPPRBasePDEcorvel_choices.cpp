@@ -65,7 +65,7 @@ RKTPPRBasePDEcorvel::Text RKTPPRBasePDEcorvel::newChoiceForSender(QWidget *sende
 {
     if (qobject_cast<pdekit::RadioMatrix *>(sender))
         return cellChoice(sender);
-    const Text text = pdekit::stringValue(sender);
+    Text text = pdekit::stringValue(sender);
     if (!text || !pdekit::isTextField(sender) || *text == loneMinus)
         return text;
     return QString::number(pdekit::leadingInteger(*text));

@@ -16,6 +16,7 @@ import typing
 LANGUAGES = ("en", "de", "fr", "es", "ja")
 BUNDLE = "Corvel9031.bundle"
 MOST_OPTIONS = 2000
+LONG_RANGE = 10  # choices
 BENCH_CHOICES_PER_OPTION = 40
 
 
@@ -245,17 +246,40 @@ def ppdLines(model, groups):
     yield f"*% End of {model.pcFile}"
 
 
+def choiceCount(groups):
+    return sum(len(option.choices) for group in groups for option in group.options) + 4 * len(SIZES)
+
+
+def thinnedGroups(wanted):
+    """The printer's options with fewer steps in their long ranges, about `wanted` choices in all."""
+    long = [option for group in GROUPS for option in group.options if len(option.choices) > LONG_RANGE]
+    excess = choiceCount(GROUPS) - wanted
+    share = max(1 - excess / sum(len(option.choices) for option in long), 0)
+
+    def thinned(option):
+        if option not in long:
+            return option
+        every = -(-len(option.choices) // max(2, int(len(option.choices) * share)))
+        return option._replace(choices=[choice for n, choice in enumerate(option.choices)
+                                        if n % every == 0 or choice.keyword == option.default])
+
+    return [group._replace(options=[thinned(option) for option in group.options]) for group in GROUPS]
+
+
 def benchGroup(wanted):
     """A group of made-up options that brings the number of all choices to what is wanted, or just above."""
-    options = [option for group in GROUPS for option in group.options]
-    missing = max(0, wanted - sum(len(option.choices) for option in options) - 4 * len(SIZES))
-    room = MOST_OPTIONS - len(options) - 2  # PageSize and PageRegion
+    missing = wanted - choiceCount(GROUPS)
+    room = MOST_OPTIONS - sum(len(group.options) for group in GROUPS) - 2  # PageSize and PageRegion
     count = min(-(-missing // BENCH_CHOICES_PER_OPTION), room)
     perOption = -(-missing // count) if count else 0
     return Group("Bench", same("Bench"), [
         Option(f"Bench{n:04}", "Choice0", same(f"Bench option {n}"),
                [Choice(f"Choice{c}", same(f"Choice{c}")) for c in range(perOption)])
         for n in range(1, count + 1)])
+
+
+def benchGroups(wanted):
+    return thinnedGroups(wanted) if wanted < choiceCount(GROUPS) else (*GROUPS, benchGroup(wanted))
 
 
 def write(path, lines):
@@ -267,10 +291,10 @@ def main():
     parser = argparse.ArgumentParser(description="Writes the PPDs of the Corvel photo printers.")
     parser.add_argument("folder", type=pathlib.Path, help="where the PPDs are written")
     parser.add_argument("--choices", type=int, metavar="N",
-                        help="write one large PPD with about N choices instead")
+                        help="write one PPD with about N choices instead")
     arguments = parser.parse_args()
     if arguments.choices is not None:
-        lines = ppdLines(MODELS[0], (*GROUPS, benchGroup(arguments.choices)))
+        lines = ppdLines(MODELS[0], benchGroups(arguments.choices))
         write(arguments.folder / f"Bench{arguments.choices}.ppd", lines)
         return
     for model in MODELS:
