@@ -3,6 +3,8 @@
 
 #include "ViewTags.h"
 
+#include <QtCore/QEvent>
+#include <QtCore/QHash>
 #include <QtCore/QVariant>
 #include <QtWidgets/QWidget>
 
@@ -10,22 +12,64 @@ namespace pdekit {
 
 namespace {
 
-constexpr char tagProperty[] = "tag";
+constexpr char tagName[] = "tag";
+
+/// QObject::property() compares the name with each of the class's own properties first, some hundred, and a
+/// tag is looked for among all views of a panel at each change: tags that have been asked for are kept here.
+QHash<const QWidget *, int> &knownTags()
+{
+    static auto *const tags = new QHash<const QWidget *, int>; // outlives every view
+    return *tags;
+}
+
+int tagProperty(const QWidget *view)
+{
+    return view->dynamicPropertyNames().contains(tagName) ? view->property(tagName).toInt() : noTag;
+}
+
+/// Keeps the known tag of its view true, as long as that lives.
+class TagWatch final : public QObject
+{
+public:
+    explicit TagWatch(QWidget *view)
+        : QObject(view)
+        , view_(view)
+    {
+        view->installEventFilter(this);
+    }
+
+    TagWatch(const TagWatch &) = delete;
+    TagWatch &operator=(const TagWatch &) = delete;
+    ~TagWatch() override { knownTags().remove(view_); }
+
+    bool eventFilter(QObject * /*watched*/, QEvent *event) override
+    {
+        if (event->type() == QEvent::DynamicPropertyChange)
+            knownTags().insert(view_, tagProperty(view_));
+        return false;
+    }
+
+private:
+    QWidget *view_;
+};
 
 } // namespace
 
 int tag(const QWidget *view)
 {
-    // QObject::property() compares the name with each of the class's own properties first, some hundred,
-    // which was half the time of showing a panel's choices.
-    if (!view->dynamicPropertyNames().contains(tagProperty))
-        return noTag;
-    return view->property(tagProperty).toInt();
+    if (const auto known = knownTags().constFind(view); known != knownTags().constEnd())
+        return *known;
+    const int tag = tagProperty(view);
+    if (tag != noTag) {
+        new TagWatch(const_cast<QWidget *>(view)); // the view's
+        knownTags().insert(view, tag);
+    }
+    return tag;
 }
 
 void setTag(QWidget *view, int tag)
 {
-    view->setProperty(tagProperty, tag);
+    view->setProperty(tagName, tag);
 }
 
 QWidget *viewWithTag(QWidget *view, int wanted)

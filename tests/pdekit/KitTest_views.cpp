@@ -30,6 +30,9 @@
 #include <QtWidgets/QRadioButton>
 #include <QtWidgets/QSlider>
 
+#include <array>
+#include <cstddef>
+#include <new>
 #include <utility>
 
 namespace {
@@ -268,4 +271,20 @@ void KitTest::viewsByTag()
     pdekit::setTag(&view, 5);
     QCOMPARE(pdekit::viewWithTag(&view, 5), &view);
     QVERIFY(!pdekit::viewWithTag(&view, 6) && !pdekit::viewWithTag(nullptr, 5));
+    // However a tag changes.
+    view.setProperty("tag", 7);
+    QCOMPARE(pdekit::tag(&view), 7);
+    view.setProperty("tag", QVariant());
+    QCOMPARE(pdekit::tag(&view), pdekit::noTag);
+    view.setProperty("tag", QStringLiteral("8"));
+    QCOMPARE(pdekit::tag(&view), 8);
+    // A new view at the place of an old one has none of its own.
+    alignas(QWidget) std::array<std::byte, sizeof(QWidget)> place;
+    for (const int expected : {9, pdekit::noTag}) {
+        auto *here = new (place.data()) QWidget;
+        if (expected != pdekit::noTag)
+            pdekit::setTag(here, expected);
+        QCOMPARE(pdekit::tag(here), expected);
+        here->~QWidget();
+    }
 }
