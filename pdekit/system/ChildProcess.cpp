@@ -91,6 +91,7 @@ void ChildProcess::launch()
     for (const QString &argument : std::as_const(arguments_))
         texts.push_back(argument.toUtf8());
     std::vector<char *> argv;
+    argv.reserve(texts.size() + 1);
     for (QByteArray &text : texts)
         argv.push_back(text.data());
     argv.push_back(nullptr);

@@ -23,7 +23,7 @@ std::optional<QString> startPage(const Bundle &bundle, const QString &book)
     const QStringList languages = QLocale().uiLanguages();
     for (const QString &language : languages) {
         const QString name = QStringLiteral("index_%1").arg(language.section(QLatin1Char('-'), 0, 0));
-        if (const auto page = bundle.pathForResource(book + QLatin1Char('/') + name, QStringLiteral("html")))
+        if (auto page = bundle.pathForResource(book + QLatin1Char('/') + name, QStringLiteral("html")))
             return page;
         if (language.startsWith(QLatin1String("en")))
             break;

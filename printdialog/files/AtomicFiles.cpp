@@ -19,6 +19,7 @@
 #include <cerrno>
 #include <cstdio>
 #include <ctime>
+#include <ranges>
 
 namespace printdialog {
 namespace {
@@ -102,9 +103,9 @@ int AtomicFiles::makeFolders()
             return errno;
         missing.push_back(bytesOfFileName(path));
     }
-    for (auto path = missing.rbegin(); path != missing.rend(); ++path) {
-        if (::mkdir(path->constData(), 0777) == 0)
-            madeFolders_.push_back(*path);
+    for (const QByteArray &path : std::views::reverse(missing)) {
+        if (::mkdir(path.constData(), 0777) == 0)
+            madeFolders_.push_back(path);
         else if (errno != EEXIST)
             return errno;
     }
@@ -244,8 +245,8 @@ void AtomicFiles::discard()
         takeBack(file);
     files_.clear();
     // Only empty folders go, so whatever another program has put there meanwhile stays.
-    for (auto folder = madeFolders_.rbegin(); folder != madeFolders_.rend(); ++folder)
-        ::rmdir(folder->constData());
+    for (const QByteArray &folder : std::views::reverse(madeFolders_))
+        ::rmdir(folder.constData());
     madeFolders_.clear();
 }
 

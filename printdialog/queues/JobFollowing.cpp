@@ -181,7 +181,7 @@ QString JobStatus::detail() const
 {
     const QString words = reasonsText(reasons);
     // "Paused" is what CUPS says of every stopped printer.
-    const QString own = message == QLatin1String("Paused") ? QString() : message;
+    QString own = message == QLatin1String("Paused") ? QString() : message;
     if (own.isEmpty() || words.isEmpty())
         return words + own;
     if (state == State::Aborted)

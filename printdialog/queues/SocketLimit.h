@@ -10,7 +10,7 @@
 #include <mutex>
 #include <thread>
 
-typedef struct _http_s http_t;
+typedef struct _http_s http_t; // NOLINT(bugprone-reserved-identifier): libcups names it so
 
 namespace printdialog {
 
