@@ -96,7 +96,7 @@ SettingsFailure BuiltInPresets::write(const QString &name, const QMap<QString, Q
 {
     return changeSets([&](Sets &sets) -> SettingsFailure {
         const Presets presets = presetsOf(sets);
-        if (const auto failure = isNew ? mayAdd(presets, name) : mayChange(presets, name))
+        if (auto failure = isNew ? mayAdd(presets, name) : mayChange(presets, name))
             return failure;
         const Preset *known = find(presets, name);
         sets.insert(known ? known->name : name, options);
@@ -108,10 +108,10 @@ SettingsFailure BuiltInPresets::writeName(const QString &name, const QString &ne
 {
     return changeSets([&](Sets &sets) -> SettingsFailure {
         const Presets presets = presetsOf(sets);
-        if (const auto failure = mayChange(presets, name))
+        if (auto failure = mayChange(presets, name))
             return failure;
         if (!PresetName::areSame(name, newName)) {
-            if (const auto failure = mayAdd(presets, newName))
+            if (auto failure = mayAdd(presets, newName))
                 return failure;
         }
         sets.insert(newName, sets.take(find(presets, name)->name));
@@ -123,7 +123,7 @@ SettingsFailure BuiltInPresets::writeWithout(const QString &name)
 {
     return changeSets([&](Sets &sets) -> SettingsFailure {
         const Presets presets = presetsOf(sets);
-        if (const auto failure = mayChange(presets, name))
+        if (auto failure = mayChange(presets, name))
             return failure;
         sets.remove(find(presets, name)->name);
         return std::nullopt;

@@ -38,7 +38,7 @@ bool isSpace(char c)
 QByteArray takeWord(QByteArray &text)
 {
     const auto end = std::find_if(text.cbegin(), text.cend(), isSpace);
-    const QByteArray word = text.first(end - text.cbegin());
+    QByteArray word = text.first(end - text.cbegin());
     text = text.sliced(word.size()).trimmed();
     return word;
 }

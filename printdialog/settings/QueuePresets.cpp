@@ -95,7 +95,7 @@ SettingsFailure QueuePresets::write(const QString &name, const QMap<QString, QSt
 {
     return changeUserFile([&](LpoptionsFile &file, const QByteArray &before) -> SettingsFailure {
         const Presets presets = withUsers(before);
-        if (const auto failure = isNew ? mayAdd(presets, name) : mayChange(presets, name))
+        if (auto failure = isNew ? mayAdd(presets, name) : mayChange(presets, name))
             return failure;
         if (file.set(queue_, name, options))
             return std::nullopt;
@@ -112,10 +112,10 @@ SettingsFailure QueuePresets::writeName(const QString &name, const QString &newN
 {
     return changeUserFile([&](LpoptionsFile &file, const QByteArray &before) -> SettingsFailure {
         const Presets presets = withUsers(before);
-        if (const auto failure = mayChange(presets, name))
+        if (auto failure = mayChange(presets, name))
             return failure;
         if (!PresetName::areSame(name, newName)) {
-            if (const auto failure = mayAdd(presets, newName))
+            if (auto failure = mayAdd(presets, newName))
                 return failure;
         }
         file.rename(queue_, name, newName);
@@ -126,7 +126,7 @@ SettingsFailure QueuePresets::writeName(const QString &name, const QString &newN
 SettingsFailure QueuePresets::writeWithout(const QString &name)
 {
     return changeUserFile([&](LpoptionsFile &file, const QByteArray &before) -> SettingsFailure {
-        if (const auto failure = mayChange(withUsers(before), name))
+        if (auto failure = mayChange(withUsers(before), name))
             return failure;
         file.remove(queue_, name);
         return std::nullopt;

@@ -42,9 +42,15 @@ double smoothNoise(double x, int seed)
 /// The height of a mountain ridge at x, 0 to about 1: broad forms with ever finer ones on them.
 double ridge(double x, int seed, double roughness)
 {
+    constexpr int octaves = 8;
     double sum = 0;
-    for (double scale = 420, weight = 0.5; scale > 3; scale /= 2, weight *= roughness)
+    double scale = 420;
+    double weight = 0.5;
+    for (int octave = 0; octave < octaves; ++octave) {
         sum += weight * smoothNoise(x / scale, seed + static_cast<int>(scale));
+        scale /= 2;
+        weight *= roughness;
+    }
     return sum;
 }
 

@@ -96,10 +96,10 @@ void drawPatches(QPainter &painter, const QRectF &area)
     const double size = (area.width() - 2 * 14) / 3;
     const double rowHeight = (area.height() - 3 * 14) / 4;
     for (std::size_t i = 0; i < saturated.size(); ++i) {
-        const auto column = static_cast<double>(i % 3);
-        const auto row = static_cast<double>(i / 3);
-        const QRectF patch(area.left() + column * (size + 14), area.top() + row * (rowHeight + 14), size,
-                           rowHeight);
+        const std::size_t column = i % 3;
+        const std::size_t row = i / 3;
+        const QRectF patch(area.left() + double(column) * (size + 14),
+                           area.top() + double(row) * (rowHeight + 14), size, rowHeight);
         painter.setBrush(saturated[i]);
         painter.drawRoundedRect(patch, 8, 8);
         const QPointF middle = patch.translated(0, 2 * (rowHeight + 14)).center();

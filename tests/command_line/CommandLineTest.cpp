@@ -31,7 +31,7 @@ QStringList optionArguments(const QStringList &options)
 QMap<QString, QJsonObject> listedOptions(const QStringList &arguments)
 {
     QMap<QString, QJsonObject> options;
-    for (const QJsonValue &value :
+    for (const auto &value :
          runProgram(arguments + QStringList{u"--list-options"_s, u"--json"_s}).json().array())
         options.insert(value[u"keyword"].toString(), value.toObject());
     return options;

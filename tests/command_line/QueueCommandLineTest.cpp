@@ -225,10 +225,10 @@ void QueueCommandLineTest::dryRunOfTheBuiltInPrinter()
     QCOMPARE(runProgram(arguments + QStringList{u"--batch"_s}).status, 0);
     const QJsonArray plans = dry.json().array();
     QCOMPARE(plans.size(), 2);
-    for (const QJsonValue &plan : plans) {
+    for (const auto &plan : plans) {
         const QJsonArray files = plan[u"files"_s].toArray();
         QCOMPARE(files.size(), 2);
-        for (const QJsonValue &file : files)
+        for (const auto &file : files)
             QVERIFY2(QFile::exists(file.toString()), qPrintable(file.toString()));
     }
 }
