@@ -17,11 +17,13 @@ using namespace printdialog;
 using namespace Qt::StringLiterals;
 
 /// The encoder of the samples leaks; the program only decodes.
+// NOLINTBEGIN(bugprone-reserved-identifier): the sanitizer looks for this name
 extern "C" Q_DECL_EXPORT const char *__lsan_default_suppressions();
 extern "C" Q_DECL_EXPORT const char *__lsan_default_suppressions()
 {
     return "leak:libx265\n";
 }
+// NOLINTEND(bugprone-reserved-identifier)
 
 namespace {
 
@@ -115,7 +117,7 @@ void HeifTest::isTurnedOnce()
     QCOMPARE(photo->orientedSize(), orientation >= 5 ? QSize(64, 128) : QSize(128, 64));
     const auto decoded = photo->decoded();
     QVERIFY(decoded);
-    const QString corners = samples::seenCorners[std::size_t(orientation)];
+    const QString &corners = samples::seenCorners[std::size_t(orientation)];
     QCOMPARE(samples::cornersOf(photo->orientation().applied(*decoded), QRect({}, photo->orientedSize()), 8),
              corners);
     const QImage small = photo->preview(QSize(50, 50));

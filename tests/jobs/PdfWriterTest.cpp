@@ -77,7 +77,7 @@ private:
         run(u"pdfimages"_s, {u"-all"_s, pathOf(u"photo.pdf"_s), pathOf(u"image"_s)});
         if (QDir(folder_.path()).entryList({u"image-*"_s}).size() != 1)
             QTest::qFail("not one image", __FILE__, __LINE__);
-        const QByteArray content = samples::load(pathOf(u"image-000."_s + suffix));
+        QByteArray content = samples::load(pathOf(u"image-000."_s + suffix));
         QFile::remove(pathOf(u"image-000."_s + suffix));
         return content;
     }

@@ -176,9 +176,8 @@ void PhotoTest::wholeJpegs_data()
     QTest::newRow("progressive") << progressive << true;
     QTest::newRow("grey") << samples::encoded(picture.convertToFormat(QImage::Format_Grayscale8), "jpeg")
                           << true;
-    QTest::newRow("with a film behind the picture") << jpeg + "\0\0\0\x18"
-                                                              "ftypmp42"
-                                                    << true;
+    QTest::newRow("with a film behind the picture")
+        << jpeg + QByteArray("\0\0\0\x18", 4) + "ftypmp42" << true;
     QTest::newRow("progressive, with zeros behind it") << progressive + QByteArray(5000, '\0') << true;
     QTest::newRow("padding before a segment") << jpeg.first(2) + "\xff\xff" + jpeg.sliced(2) << false;
     QTest::newRow("12 bits") << samples::undecodableJpeg() << false;
