@@ -9,7 +9,6 @@
 #include <array>
 #include <atomic>
 #include <cerrno>
-#include <cstdarg>
 #include <cstdlib>
 #include <cstring>
 #include <dlfcn.h>
@@ -118,11 +117,6 @@ Function *real(Function * /*interposed*/, const char *name)
     return reinterpret_cast<Function *>(dlsym(RTLD_NEXT, name));
 }
 
-bool takesMode(int flags)
-{
-    return (flags & (O_CREAT | O_TMPFILE)) != 0;
-}
-
 int openPath(const char *name, const char *path, int flags, mode_t mode)
 {
     return fails("open", path) ? -1 : real(&open, name)(path, flags, mode);
@@ -149,57 +143,34 @@ bool disarmFault()
 
 } // namespace testing_support
 
-CORVEL_INTERPOSED int open(const char *path, int flags, ...)
+// Callers that give no mode leave an arbitrary one in its register, which the system does not look at. The
+// last two are what open is compiled to with fortified headers.
+CORVEL_INTERPOSED int openFile(const char *path, int flags, mode_t mode) __asm__("open");
+CORVEL_INTERPOSED int openFile64(const char *path, int flags, mode_t mode) __asm__("open64");
+CORVEL_INTERPOSED int openFileAt(int folder, const char *path, int flags, mode_t mode) __asm__("openat");
+CORVEL_INTERPOSED int openFileAt64(int folder, const char *path, int flags, mode_t mode) __asm__("openat64");
+CORVEL_INTERPOSED int fortifiedOpen(const char *path, int flags) __asm__("__open_2");
+CORVEL_INTERPOSED int fortifiedOpen64(const char *path, int flags) __asm__("__open64_2");
+
+int openFile(const char *path, int flags, mode_t mode)
 {
-    mode_t mode = 0;
-    if (takesMode(flags)) {
-        va_list arguments;
-        va_start(arguments, flags);
-        mode = va_arg(arguments, mode_t);
-        va_end(arguments);
-    }
     return openPath("open", path, flags, mode);
 }
 
-CORVEL_INTERPOSED int open64(const char *path, int flags, ...)
+int openFile64(const char *path, int flags, mode_t mode)
 {
-    mode_t mode = 0;
-    if (takesMode(flags)) {
-        va_list arguments;
-        va_start(arguments, flags);
-        mode = va_arg(arguments, mode_t);
-        va_end(arguments);
-    }
     return openPath("open64", path, flags, mode);
 }
 
-CORVEL_INTERPOSED int openat(int folder, const char *path, int flags, ...)
+int openFileAt(int folder, const char *path, int flags, mode_t mode)
 {
-    mode_t mode = 0;
-    if (takesMode(flags)) {
-        va_list arguments;
-        va_start(arguments, flags);
-        mode = va_arg(arguments, mode_t);
-        va_end(arguments);
-    }
     return openAt("openat", folder, path, flags, mode);
 }
 
-CORVEL_INTERPOSED int openat64(int folder, const char *path, int flags, ...)
+int openFileAt64(int folder, const char *path, int flags, mode_t mode)
 {
-    mode_t mode = 0;
-    if (takesMode(flags)) {
-        va_list arguments;
-        va_start(arguments, flags);
-        mode = va_arg(arguments, mode_t);
-        va_end(arguments);
-    }
     return openAt("openat64", folder, path, flags, mode);
 }
-
-// What the first two are compiled to with fortified headers.
-CORVEL_INTERPOSED int fortifiedOpen(const char *path, int flags) __asm__("__open_2");
-CORVEL_INTERPOSED int fortifiedOpen64(const char *path, int flags) __asm__("__open64_2");
 
 int fortifiedOpen(const char *path, int flags)
 {

@@ -104,8 +104,9 @@ void KitTest::bundleFaults_data()
     };
     const QByteArray id = R"({"CFBundleIdentifier": "a.b", )";
     row("sound", id + R"("CFBundleExecutable": "x"})", std::nullopt);
-    row("largest", (id + R"("CFBundleExecutable": "x"})").leftJustified(64 * 1024, ' '), std::nullopt);
-    row("too large", (id + R"("CFBundleExecutable": "x"})").leftJustified(64 * 1024 + 1, ' '),
+    row("largest", (id + R"("CFBundleExecutable": "x"})").leftJustified(qsizetype(64) * 1024, ' '),
+        std::nullopt);
+    row("too large", (id + R"("CFBundleExecutable": "x"})").leftJustified(qsizetype(64) * 1024 + 1, ' '),
         BundleFault::InfoTooLarge);
     row("huge", QByteArray(10'000'000, '['), BundleFault::InfoTooLarge);
     row("deep", QByteArray(30'000, '[') + QByteArray(30'000, ']'), BundleFault::BrokenInfo);
