@@ -121,7 +121,7 @@ void HelpTest::isWhole()
     for (const HelpPicture &picture : page.pictures) {
         const QString file = folder.filePath(picture.file);
         QVERIFY2(QImage(file).size() == picture.size, qPrintable(file));
-        QVERIFY2(QFileInfo(file).size() < 40 * 1024, qPrintable(file));
+        QVERIFY2(QFileInfo(file).size() < qint64(40) * 1024, qPrintable(file));
         QVERIFY2(!picture.text.isEmpty() && picture.file.contains(u'_' + language + u'.'), qPrintable(file));
     }
     for (const HelpTopic &topic : page.topics)

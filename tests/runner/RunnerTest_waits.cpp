@@ -177,7 +177,7 @@ void RunnerTest::floods()
     pdekit::setSystemLogSink(sink);
     QFETCH(qsizetype, characters);
     QVERIFY(logged >= characters);
-    QVERIFY2(depth.bytes() < 64 * 1024, qPrintable(QString::number(depth.bytes())));
+    QVERIFY2(depth.bytes() < qsizetype(64) * 1024, qPrintable(QString::number(depth.bytes())));
     const qint64 grown = peakMemory() - memory;
     QVERIFY2(grown < mostGrowth, qPrintable(QString::number(grown)));
     QTRY_VERIFY(!hasChildren());

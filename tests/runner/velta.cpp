@@ -25,17 +25,23 @@ void note(const char *text)
     std::fflush(stderr);
 }
 
+std::string environment(const char *name)
+{
+    const char *value = std::getenv(name);
+    return value ? value : "";
+}
+
 void keepInput()
 {
     const std::string input{std::istreambuf_iterator<char>(std::cin), {}};
-    std::ofstream(std::getenv("VELTA_INPUT"), std::ios::binary) << input;
+    std::ofstream(environment("VELTA_INPUT"), std::ios::binary) << input;
 }
 
 } // namespace
 
 int main(int argc, char *argv[])
 {
-    const std::string behaviour = std::getenv("VELTA_BEHAVIOUR");
+    const std::string behaviour = environment("VELTA_BEHAVIOUR");
     std::setvbuf(stderr, nullptr, _IONBF, 0);
     if (behaviour == "reads") {
         keepInput();
