@@ -17,6 +17,7 @@
 #include <QtCore/QFileInfo>
 #include <QtCore/QLocale>
 #include <QtCore/QMutex>
+#include <QtCore/QtEndian>
 #include <QtGui/QImageReader>
 
 #include <algorithm>
@@ -37,6 +38,14 @@ void allowDecoding(const QSize &size)
     const auto mebibytes = static_cast<int>((qint64(size.width()) * size.height() * bytesPerPixel >> 20) + 1);
     if (const int limit = QImageReader::allocationLimit(); limit != 0 && limit < mebibytes)
         QImageReader::setAllocationLimit(mebibytes);
+}
+
+/// The size of a GIF's logical screen; none when it is cut off before that (GIF89a, 18).
+QSize gifCanvas(QByteArrayView gif)
+{
+    if (gif.size() < 10)
+        return {};
+    return {qFromLittleEndian<quint16>(gif.data() + 6), qFromLittleEndian<quint16>(gif.data() + 8)};
 }
 
 /// A reader over a photo's content that takes the format for granted and leaves the orientation alone.
@@ -162,7 +171,14 @@ std::optional<Failure<PhotoFault>> Photo::inspectOther()
     if (storedSize_.isEmpty())
         return broken(reader->errorString());
     orientation_ = ExifOrientation::fromTransformations(reader->transformation());
-    if (format_ == "webp") {
+    if (format_ == "gif") {
+        // Qt tells the size of the frame where the canvas is far larger, and decodes the canvas.
+        // A side of 0 is the frame's.
+        const QSize canvas = gifCanvas(content_);
+        if ((canvas.width() > 0 && canvas.width() != storedSize_.width()) ||
+            (canvas.height() > 0 && canvas.height() != storedSize_.height()))
+            return broken(QStringLiteral("the canvas and the frame differ in size"));
+    } else if (format_ == "webp") {
         orientation_ = ExifData::fromTiff(webpChunk(content_, "EXIF")).orientation;
         profile_ = ColourProfile::fromIcc(webpChunk(content_, "ICCP").toByteArray());
     } else if (format_ == "tiff") {
@@ -225,13 +241,8 @@ QImage Photo::decodedWithin(const QSize &storedBound, QString &error) const
     ContentReader reader(content_, format_);
     if (!storedBound.isEmpty())
         reader->setScaledSize(storedBound);
-    QImage image = reader->read();
+    const QImage image = reader->read();
     error = reader->errorString();
-    // It was placed by the size that its header tells. Some of Qt's readers go by another one when they decode.
-    if (storedBound.isEmpty() && !image.isNull() && image.size() != storedSize_) {
-        error = QStringLiteral("the header and the picture differ in size");
-        return {};
-    }
     return image;
 }
 
