@@ -19,7 +19,6 @@
 #include <cerrno>
 #include <cstdio>
 #include <ctime>
-#include <ranges>
 
 namespace printdialog {
 namespace {
@@ -103,7 +102,8 @@ int AtomicFiles::makeFolders()
             return errno;
         missing.push_back(bytesOfFileName(path));
     }
-    for (const QByteArray &path : std::views::reverse(missing)) {
+    std::reverse(missing.begin(), missing.end());
+    for (const QByteArray &path : missing) {
         if (::mkdir(path.constData(), 0777) == 0)
             madeFolders_.push_back(path);
         else if (errno != EEXIST)
@@ -245,7 +245,8 @@ void AtomicFiles::discard()
         takeBack(file);
     files_.clear();
     // Only empty folders go, so whatever another program has put there meanwhile stays.
-    for (const QByteArray &folder : std::views::reverse(madeFolders_))
+    std::reverse(madeFolders_.begin(), madeFolders_.end());
+    for (const QByteArray &folder : madeFolders_)
         ::rmdir(folder.constData());
     madeFolders_.clear();
 }
