@@ -241,7 +241,7 @@ QImage Photo::decodedWithin(const QSize &storedBound, QString &error) const
     ContentReader reader(content_, format_);
     if (!storedBound.isEmpty())
         reader->setScaledSize(storedBound);
-    const QImage image = reader->read();
+    QImage image = reader->read();
     error = reader->errorString();
     return image;
 }
