@@ -14,6 +14,7 @@
 #include <QtCore/QLocale>
 #include <QtCore/QTemporaryDir>
 #include <QtCore/QTemporaryFile>
+#include <QtCore/QtEndian>
 #include <QtTest/QTest>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QSlider>
@@ -232,6 +233,76 @@ void KitTest::damagedStringsTable()
     QLocale::setDefault(QLocale(text("de")));
     QCOMPARE(Bundle::open(folder.path())->localizedString(text("Brightness")), text("Brightness"));
     QCOMPARE(log.filter(german).size(), refusedByQt ? 0 : 1);
+}
+
+namespace {
+
+template <typename Number>
+QByteArray bigEndian(Number number)
+{
+    QByteArray bytes(sizeof number, '\0');
+    qToBigEndian(number, bytes.data());
+    return bytes;
+}
+
+QByteArray part(char tag, const QByteArray &content)
+{
+    return tag + bigEndian(quint32(content.size())) + content;
+}
+
+/// By which a table finds a text's message, that of the ELF format.
+quint32 elfHash(const QByteArray &text)
+{
+    quint32 hash = 0;
+    for (const char c : text) {
+        hash = (hash << 4) + static_cast<uchar>(c);
+        const quint32 high = hash & 0xf0000000;
+        hash = (hash ^ (high >> 24)) & ~high;
+    }
+    return hash;
+}
+
+} // namespace
+
+void KitTest::partsOfStringsTables_data()
+{
+    QTest::addColumn<QByteArray>("message");
+    QTest::addColumn<QByteArray>("contexts"); // their number, their places in steps of two bytes, their names
+    QTest::addColumn<bool>("isRead");
+
+    const QByteArray text = part('\x03', QByteArray("\0o\0k", 4));
+    const QByteArray one("\0\1\0\1\0\0", 6);
+    QTest::newRow("text only") << text + '\1' << QByteArray() << true;
+    QTest::newRow("no end") << text << QByteArray() << false;
+    QTest::newRow("all parts") << text + part('\5', {}).first(5) + part('\x06', "key") +
+                                      part('\x07', "Localizable") + part('\x08', "") + '\1'
+                               << QByteArray() << true;
+    QTest::newRow("cut obsolete part") << text + "\5\1" << QByteArray() << false;
+    QTest::newRow("comment beyond the end")
+        << text + part('\x08', "long").chopped(1) << QByteArray() << false;
+    QTest::newRow("context") << text + '\1' << one + "\x0bLocalizable" + '\0' << true;
+    QTest::newRow("context's place beyond the end") << text + '\1' << QByteArray("\0\1\0\7", 4) << false;
+    QTest::newRow("more contexts than places") << text + '\1' << QByteArray("\0\4\0\0", 4) << false;
+    QTest::newRow("context's name beyond the end") << text + '\1' << one + "\x0bLocal" << false;
+    QTest::newRow("contexts without an end") << text + '\1' << one + "\x0bLocalizable" << false;
+}
+
+void KitTest::partsOfStringsTables()
+{
+    QFETCH(QByteArray, message);
+    QFETCH(QByteArray, contexts);
+    QFETCH(bool, isRead);
+    const auto sink = pdekit::setSystemLogSink([](const QString & /*line*/) {});
+    const auto restore = qScopeGuard([&sink] { pdekit::setSystemLogSink(sink); });
+    QByteArray table = QByteArray::fromHex("3cb86418caef9c95cd211cbf60a1bddd");
+    if (!contexts.isEmpty())
+        table += part('\x2f', contexts);
+    table += part('\x42', bigEndian(elfHash("key")) + bigEndian(quint32(0))) + part('\x69', message);
+    const QTemporaryDir folder;
+    write(folder.filePath(text("Contents/Info.json")),
+          R"({"CFBundleIdentifier": "a", "CFBundleExecutable": "x"})");
+    write(folder.filePath(text("Contents/Resources/Localizable_en.qm")), table);
+    QCOMPARE(Bundle::open(folder.path())->localizedString(text("key")), isRead ? text("ok") : text("key"));
 }
 
 void KitTest::signalLog()

@@ -29,6 +29,8 @@ private Q_SLOTS:
     void languages();
     void damagedStringsTable_data();
     void damagedStringsTable();
+    void partsOfStringsTables_data();
+    void partsOfStringsTables();
     void signalLog();
     void systemLogOnStandardError();
     void forms();
