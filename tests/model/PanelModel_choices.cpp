@@ -8,7 +8,9 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iomanip>
 #include <limits>
+#include <sstream>
 
 namespace {
 
@@ -27,9 +29,12 @@ QString leadingWhole(const QString &text)
         int(std::clamp<double>(value, std::numeric_limits<int>::min(), std::numeric_limits<int>::max())));
 }
 
+/// As C writes it, with the sign of -0, which QString drops.
 QString twoDecimals(double value)
 {
-    return QString::asprintf("%.2f", value);
+    std::ostringstream text;
+    text << std::fixed << std::setprecision(2) << value;
+    return QString::fromStdString(text.str());
 }
 
 } // namespace

@@ -21,7 +21,7 @@ QString anyChoice(const PanelTable &table, const QString &key, QRandomGenerator 
                              text("2.5"),  text("-"),    text("abc"), text("99")};
     const PpdOption *option = table.option(key);
     if (option && option->choices.contains(text("True")) && random.bounded(3) == 0)
-        return random.bounded(2) == 0 ? text("true") : text("1");
+        return anyOf(QStringList{text("true"), text("1"), text("Yes"), text("True ")}, random);
     return option && random.bounded(4) != 0 ? anyOf(option->choices, random) : anyOf(odd, random);
 }
 
@@ -31,9 +31,11 @@ Step onControl(const FormControl &control, QRandomGenerator &random)
                                    Qt::Key_PageUp, Qt::Key_PageDown, Qt::Key_Home,  Qt::Key_End};
     const QList<int> popUpKeys = {Qt::Key_Up, Qt::Key_Down};
     const QString characters = text("00112233456789..---+ ea");
-    const QStringList texts = {text("0.055"),       text("0.225"), text("+3.7"),      text("1e1"),
-                               text("-0.4"),        text("26"),    text(" 7 apples"), text("-26"),
-                               text("99999999999"), text("1.505")};
+    const QStringList texts = {
+        text("0.055"), text("0.225"), text("+3.7"),      text("1e1"),         text("-0.4"),  text("26"),
+        text("-26"),   text("-0"),    text(" 7 apples"), text("99999999999"), text("1.505"), text("3.004"),
+        text("0x10"),  text("nan"),   text("1e"),        text("."),           text("-"),
+    };
     Step step;
     step.tag = control.tag;
     switch (control.kind) {

@@ -110,7 +110,6 @@ void FactoryTest::missingPanelEndsTheList_data()
 {
     QTest::addColumn<int>("failing");
     QTest::addColumn<QString>("kinds");
-    QTest::newRow("none") << 0 << text("coloradjust sharpness matte");
     QTest::newRow("the first made is the last offered") << 1 << text("coloradjust sharpness");
     QTest::newRow("the second") << 2 << text("coloradjust");
     QTest::newRow("the last made is the first offered") << 3 << QString();

@@ -1,19 +1,38 @@
 // SPDX-FileCopyrightText: Corvel print dialog authors
 // SPDX-License-Identifier: Apache-2.0
 
-#include "LaminationTest.h"
-
+#include "Feedback.h"
 #include "LVCorvelLaminationPDE.h"
 #include "PanelHarness.h"
 #include "RKTPPRMatrixPDEcorvel.h"
 #include "RadioMatrix.h"
 
 #include <QtCore/QTemporaryDir>
+#include <QtCore/QTimer>
 #include <QtTest/QTest>
+#include <QtWidgets/QApplication>
 #include <QtWidgets/QCheckBox>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QMessageBox>
 #include <QtWidgets/QRadioButton>
 
-QByteArray LaminationTest::ppd()
+#include <algorithm>
+#include <climits>
+#include <tuple>
+
+namespace {
+
+/// The panel with a member more that a form might name.
+class NamedPanel : public LVCorvelLaminationPDE
+{
+    Q_OBJECT
+
+public:
+    Q_INVOKABLE void probe() { ++probes; }
+    int probes = 0;
+};
+
+QByteArray ppd()
 {
     QList<QByteArray> levels;
     for (int i = -25; i <= 25; ++i)
@@ -24,17 +43,18 @@ QByteArray LaminationTest::ppd()
                                   PanelHarness::ppdOption("UsePrinterPanel", "False", {"True", "False"}));
 }
 
-QRadioButton *LaminationTest::cell(const PanelHarness &dialog, const char *name)
+QRadioButton *cell(const PanelHarness &dialog, const char *name)
 {
     return dialog.view->findChild<QRadioButton *>(text(name));
 }
 
-void LaminationTest::click(QRadioButton *cell)
+void click(QRadioButton *cell)
 {
     QTest::mouseClick(cell, Qt::LeftButton, {}, QPoint(8, cell->height() / 2));
 }
 
-void LaminationTest::record(pdekit::KeyValueObject &panel, QStringList &notices)
+/// The notices of a panel, as they come: "<" before a change of a key, ">" after it.
+void record(pdekit::KeyValueObject &panel, QStringList &notices)
 {
     QObject::connect(&panel, &pdekit::KeyValueObject::valueWillChange,
                      [&notices](const QString &key) { notices << text("<") + key; });
@@ -42,53 +62,33 @@ void LaminationTest::record(pdekit::KeyValueObject &panel, QStringList &notices)
                      [&notices](const QString &key) { notices << text(">") + key; });
 }
 
+} // namespace
+
+/// The panel of the print quality and the finish: its notices, its values, and what its model takes away.
+class LaminationTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase_data();
+    void refusedCellIsNeverSeen();
+    void modelRetiresControls_data();
+    void modelRetiresControls();
+    void modelWithoutAForm();
+    void matrixVariant();
+    void qualIsClamped();
+    void isMatte();
+    void boundValueIsStored();
+    void boundValueNamesAMember();
+    void boundValueIsRefused_data();
+    void boundValueIsRefused();
+};
+
 void LaminationTest::initTestCase_data()
 {
     QTest::addColumn<Mode>("mode");
     QTest::newRow("constraint handling") << Mode::Constraint;
     QTest::newRow("print settings") << Mode::Settings;
-}
-
-void LaminationTest::tables()
-{
-    QFETCH_GLOBAL(Mode, mode);
-    PanelHarness dialog(mode, ppd());
-    const auto panel = dialog.make<LVCorvelLaminationPDE>();
-    const QHash<int, QString> keys = {
-        {1, text("Quality")}, {2, text("Overcoat")}, {3, text("MatteValue")}, {32, text("UsePrinterPanel")}};
-    const QHash<int, QString> choices = {
-        {10, text("Standard")}, {11, text("Fine")}, {12, text("Glossy")}, {13, text("Matte")}};
-    for (int tag = -1; tag < 300; ++tag) {
-        QCOMPARE(panel->ppdOptionKeyForTag(tag).value_or(QString()), keys.value(tag));
-        QCOMPARE(panel->ppdChoiceForTag(tag).value_or(QString()), choices.value(tag));
-    }
-    for (auto choice = choices.cbegin(); choice != choices.cend(); ++choice)
-        QCOMPARE(panel->tagForStringValue(*choice), choice.key());
-    QCOMPARE(panel->tagForStringValue(text("fine")), 0);
-    QCOMPARE(panel->tagForStringValue(std::nullopt), 0);
-    QCOMPARE(panel->supportedPPDOptionKeys(),
-             QStringList({text("Overcoat"), text("Quality"), text("UsePrinterPanel"), text("MatteValue")}));
-    QCOMPARE(panel->panelName(), text("Print Quality and Finish"));
-    QCOMPARE(panel->panelKind(), text("org.corvel.printing.Corvel9031.matte"));
-}
-
-void LaminationTest::cellsReachTheRecord()
-{
-    QFETCH_GLOBAL(Mode, mode);
-    PanelHarness dialog(mode, ppd());
-    auto panel = dialog.make<LVCorvelLaminationPDE>();
-    dialog.show(*panel);
-    click(cell(dialog, "fine"));
-    QCOMPARE(panel->recorded(text("Quality")), text("Fine"));
-    QCOMPARE(panel->property("Quality").toString(), text("Fine"));
-    cell(dialog, "glossy")->setFocus();
-    QTest::keyClick(cell(dialog, "glossy"), Qt::Key_Right);
-    QCOMPARE(panel->recorded(text("Overcoat")), text("Matte"));
-    QVERIFY(panel->isMatte());
-    QTest::mouseClick(dialog.control(16), Qt::LeftButton);
-    QCOMPARE(panel->recorded(text("Overcoat")), text("Glossy"));
-    QVERIFY(cell(dialog, "glossy")->isChecked() && cell(dialog, "standard")->isChecked());
-    QVERIFY(!panel->isMatte());
 }
 
 void LaminationTest::refusedCellIsNeverSeen()
@@ -126,87 +126,44 @@ void LaminationTest::refusedCellIsNeverSeen()
              QStringList({text("<Overcoat"), text("<isMatte"), text(">Overcoat"), text(">isMatte")}));
 }
 
-void LaminationTest::enablerIsInverted()
+void LaminationTest::modelRetiresControls_data()
 {
-    QFETCH_GLOBAL(Mode, mode);
-    PanelHarness dialog(mode, ppd());
-    auto panel = dialog.make<LVCorvelLaminationPDE>();
-    dialog.show(*panel);
-    auto *box = qobject_cast<QCheckBox *>(dialog.control(32));
-    QVERIFY(dialog.control(1)->isEnabled());
-    QTest::keyClick(box, Qt::Key_Space);
-    QCOMPARE(panel->recorded(text("UsePrinterPanel")), text("True"));
-    QVERIFY(!dialog.control(1)->isEnabled() && !dialog.control(2)->isEnabled());
-    QVERIFY(dialog.control(16)->isEnabled());
-    for (const auto &[state, enabled] : {std::pair(Qt::PartiallyChecked, false),
-                                         std::pair(Qt::Checked, false), std::pair(Qt::Unchecked, true)}) {
-        box->setTristate();
-        box->setCheckState(state);
-        panel->changePrinterSetting(box); // which shows the box as it was recorded: mixed is on
-        QCOMPARE(panel->recorded(text("UsePrinterPanel")), enabled ? text("False") : text("True"));
-        QCOMPARE(dialog.control(1)->isEnabled(), enabled);
-        QCOMPARE(panel->enablerState(box), enabled ? 1 : 0);
-    }
-    box->setCheckState(Qt::PartiallyChecked);
-    QCOMPARE(panel->enablerState(box), 0);
-}
-
-void LaminationTest::matteLevelNeedsMatteAndTheEnabler()
-{
-    QFETCH_GLOBAL(Mode, mode);
-    PanelHarness dialog(mode, ppd());
-    auto panel = dialog.make<LVCorvelLaminationPDE>();
-    dialog.show(*panel);
-    QVERIFY(!dialog.slider(3)->isEnabled());
-    click(cell(dialog, "matte"));
-    QVERIFY(dialog.slider(3)->isEnabled());
-    QTest::keyClick(dialog.slider(3), Qt::Key_Left);
-    QCOMPARE(panel->recorded(text("MatteValue")), text("-1"));
-    QCOMPARE(panel->property("MatteValue").toString(), text("-1"));
-    QCOMPARE(panel->qual(), -1);
-    QCOMPARE(pdekit::stringValue(dialog.control(83)), text("-1"));
-    QTest::keyClick(dialog.control(32), Qt::Key_Space);
-    QVERIFY(!dialog.slider(3)->isEnabled());
+    QTest::addColumn<std::optional<QByteArray>>("data");
+    QTest::addColumn<bool>("retires");
+    const auto row = [](const char *name, const std::optional<QByteArray> &data, bool retires) {
+        QTest::newRow(name) << data << retires;
+    };
+    row("named at the end, in lower case", "*ModelName: \"some k9031", true);
+    row("another model", "*ModelName: \"K9045\"\n", false);
+    row("cut off within the name", "*ModelName: \"K903", false);
+    row("no bytes", "", false);
+    row("no data", std::nullopt, false);
 }
 
 void LaminationTest::modelRetiresControls()
 {
     QFETCH_GLOBAL(Mode, mode);
+    QFETCH(std::optional<QByteArray>, data);
+    QFETCH(bool, retires);
     PanelHarness dialog(mode, ppd());
     dialog.printer.description = QUrl(text("ppd:x"));
-    dialog.printer.data = "*ModelName: \"some k9031"; // lower case, and the data ends with it
+    dialog.printer.data = data;
     auto panel = dialog.make<LVCorvelLaminationPDE>();
     dialog.view = panel->panelView(); // in no layout, which would have a say in its size
-    panel->restoreValuesAndReturnError(nullptr);
-    const auto frame = [&](int tag) {
-        return dialog.control(tag)->geometry();
-    };
-    const QRect button = frame(16);
-    const QRect quality = frame(1);
-    const QRect box = frame(32);
+    panel->setChoiceForKey(text("Fine"), text("Quality"));
+    const QRect button = dialog.control(16)->geometry();
+    const QRect quality = dialog.control(1)->geometry();
     const QRect view = dialog.view->geometry();
     for (int shows = 1; shows <= 2; ++shows) {
         panel->willShow();
-        QCOMPARE(frame(16), button.translated(0, -100 * shows));
-        QCOMPARE(dialog.view->geometry(), view.adjusted(0, 0, 0, -100 * shows));
-        for (const int tag : {2, 3, 83, 162, 163}) {
-            QVERIFY(!dialog.control(tag));
-            const QWidget *retired = dialog.control(tag | 256);
-            QVERIFY(retired && retired->isHidden() && retired->testAttribute(Qt::WA_ForceDisabled));
-        }
-        QCOMPARE(frame(1), quality);
-        QCOMPARE(frame(32), box);
-        QVERIFY(!dialog.control(1)->isHidden() && dialog.control(16)->isEnabled());
+        const int up = retires ? 100 * shows : 0;
+        QCOMPARE(dialog.control(16)->geometry(), button.translated(0, -up));
+        QCOMPARE(dialog.view->geometry(), view.adjusted(0, 0, 0, -up));
+        QCOMPARE(dialog.control(1)->geometry(), quality);
+        for (const int tag : {2, 3, 83, 162, 163})
+            QCOMPARE(dialog.control(tag) == nullptr, retires);
     }
-    // Nothing brings a retired control back.
-    QTest::keyClick(dialog.control(32), Qt::Key_Space);
-    QVERIFY(!dialog.control(1)->isEnabled());
-    QTest::keyClick(dialog.control(32), Qt::Key_Space);
-    QTest::mouseClick(dialog.control(16), Qt::LeftButton);
-    panel->setOvercoat(text("Matte"));
-    QVERIFY(dialog.control(1)->isEnabled() && panel->isMatte());
-    for (const int tag : {258, 259})
-        QVERIFY(!dialog.control(tag)->isEnabled() && dialog.control(tag)->isHidden());
+    QVERIFY(!cell(dialog, "fine")->isChecked()); // showing refreshes nothing
 }
 
 // A panel whose form is missing has nothing to retire.
@@ -226,38 +183,6 @@ void LaminationTest::modelWithoutAForm()
     panel->willShow();
     QVERIFY(!panel->panelView());
     QVERIFY(!dialog.log.filter(text("Failed to load nib named corvelMatte")).isEmpty());
-}
-
-void LaminationTest::otherModelsKeepControls_data()
-{
-    QTest::addColumn<bool>("hasData");
-    QTest::addColumn<QByteArray>("data");
-    QTest::newRow("another model") << true << QByteArray("*ModelName: \"K9045\"\n");
-    QTest::newRow("cut off within the name") << true << QByteArray("*ModelName: \"K903");
-    QTest::newRow("no bytes") << true << QByteArray();
-    QTest::newRow("no data") << false << QByteArray();
-}
-
-void LaminationTest::otherModelsKeepControls()
-{
-    QFETCH_GLOBAL(Mode, mode);
-    QFETCH(bool, hasData);
-    QFETCH(QByteArray, data);
-    PanelHarness dialog(mode, ppd());
-    dialog.printer.description = QUrl(text("ppd:x"));
-    if (hasData)
-        dialog.printer.data = data;
-    auto panel = dialog.make<LVCorvelLaminationPDE>();
-    dialog.view = panel->panelView();
-    const QRect before = dialog.view->geometry();
-    const QRect button = dialog.control(16)->geometry();
-    panel->setChoiceForKey(text("Fine"), text("Quality"));
-    panel->willShow();
-    QCOMPARE(dialog.view->geometry(), before);
-    QCOMPARE(dialog.control(16)->geometry(), button);
-    for (const int tag : {1, 2, 3, 16, 32, 83, 162, 163})
-        QVERIFY(dialog.control(tag) && !dialog.control(tag)->isHidden());
-    QVERIFY(!cell(dialog, "fine")->isChecked()); // showing refreshes nothing
 }
 
 void LaminationTest::matrixVariant()
@@ -295,4 +220,142 @@ void LaminationTest::matrixVariant()
     QVERIFY(field.toolTip().isEmpty());
 }
 
+void LaminationTest::qualIsClamped()
+{
+    LVCorvelLaminationPDE panel;
+    QStringList notices;
+    record(panel, notices);
+    QList<int> seen; // by who is told
+    connect(&panel, &pdekit::KeyValueObject::valueWillChange, this, [&] { seen << panel.qual(); });
+    connect(&panel, &pdekit::KeyValueObject::valueDidChange, this, [&] { seen << panel.qual(); });
+    QCOMPARE(panel.qual(), 0);
+    const QStringList told = {text("<qual"), text(">qual")};
+    const QList<std::tuple<int, int, QStringList>> rows = {{25, 25, {}},        {26, 25, told},
+                                                           {-25, -25, {}},      {-26, -25, told},
+                                                           {INT_MAX, 25, told}, {INT_MIN, -25, told}};
+    for (const auto &[set, kept, expected] : rows) {
+        const int before = panel.qual();
+        notices.clear();
+        seen.clear();
+        panel.setQual(set);
+        QCOMPARE(panel.qual(), kept);
+        QCOMPARE(notices, expected);
+        QCOMPARE(seen, expected.isEmpty() ? QList<int>() : QList<int>({before, kept}));
+    }
+}
+
+void LaminationTest::isMatte()
+{
+    LVCorvelLaminationPDE panel;
+    QVERIFY(!panel.isMatte());
+    QStringList notices;
+    record(panel, notices);
+    for (const char *overcoat : {"Glossy", "matte", "Matte", ""}) {
+        notices.clear();
+        panel.setOvercoat(text(overcoat));
+        QCOMPARE(panel.isMatte(), qstrcmp(overcoat, "Matte") == 0);
+        QCOMPARE(notices,
+                 QStringList({text("<Overcoat"), text("<isMatte"), text(">Overcoat"), text(">isMatte")}));
+    }
+    notices.clear();
+    panel.setQuality(text("Fine"));
+    QCOMPARE(notices, QStringList({text("<Quality"), text(">Quality")}));
+}
+
+void LaminationTest::boundValueIsStored()
+{
+    QFETCH_GLOBAL(Mode, mode);
+    PanelHarness dialog(mode, ppd());
+    auto panel = dialog.make<LVCorvelLaminationPDE>();
+    dialog.show(*panel);
+    dialog.log.clear();
+    panel->setValueForBoundControlWithKey(text("Matte"), text("Overcoat"));
+    QCOMPARE(panel->recorded(text("Overcoat")), text("Matte"));
+    QVERIFY(cell(dialog, "glossy")->isChecked());                  // no control is touched
+    panel->setValueForBoundControlWithKey(text("%1"), text("%2")); // is not taken for a placeholder
+    QCOMPARE(panel->recorded(text("%2")), text("%1"));
+    QCOMPARE(dialog.log, dialog.constraints ? QStringList({text("changed Overcoat setting to Matte"),
+                                                           text("changed %2 setting to %1")})
+                                            : QStringList());
+    if (dialog.constraints)
+        QCOMPARE(dialog.constraints->offers, QStringList({text("Overcoat=Matte"), text("%2=%1")}));
+}
+
+void LaminationTest::boundValueNamesAMember()
+{
+    QFETCH_GLOBAL(Mode, mode);
+    PanelHarness dialog(mode, ppd());
+    auto panel = dialog.make<NamedPanel>();
+    panel->setValueForBoundControlWithKey(text("7"), text("probe"));
+    QCOMPARE(panel->probes, 1);
+    // A getter's answer is dropped; the value is stored as a choice all the same.
+    for (const char *key : {"qual", "isMatte"}) {
+        panel->setValueForBoundControlWithKey(text("7"), text(key));
+        QCOMPARE(panel->recorded(text(key)), text("7"));
+    }
+    QCOMPARE(panel->qual(), 0);
+    QVERIFY(!panel->isMatte());
+    const QPointer<NamedPanel> alive = panel.get();
+    panel->setValueForBoundControlWithKey(text("7"), text("deleteLater")); // every object has it
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QVERIFY(alive);
+    QCOMPARE(panel->probes, 1);
+}
+
+void LaminationTest::boundValueIsRefused_data()
+{
+    QTest::addColumn<int>("key");
+    QTest::newRow("Return") << int(Qt::Key_Return);
+    QTest::newRow("Space") << int(Qt::Key_Space);
+    QTest::newRow("Escape") << int(Qt::Key_Escape);
+}
+
+// With the desktop's own alert, which a key dismisses.
+void LaminationTest::boundValueIsRefused()
+{
+    QFETCH_GLOBAL(Mode, mode);
+    QFETCH(int, key);
+    if (mode == Mode::Settings)
+        return; // nobody refuses
+    PanelHarness dialog(mode, ppd());
+    auto panel = dialog.make<LVCorvelLaminationPDE>();
+    dialog.show(*panel);
+    pdekit::Feedback::install(nullptr);
+    QStringList shown;
+    bool isModal = false;
+    bool isPlain = false;
+    bool wasDismissed = false;
+    QTimer::singleShot(0, this, [&] {
+        auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+        if (!box)
+            return;
+        // Whatever a plug-in has to say, it is no markup.
+        const QList<QLabel *> labels = box->findChildren<QLabel *>();
+        isPlain = std::all_of(labels.begin(), labels.end(),
+                              [](const QLabel *label) { return label->textFormat() == Qt::PlainText; });
+        isModal = box->isModal() && box->parentWidget() == &dialog.window;
+        shown << box->text() << box->informativeText();
+        const QList<QAbstractButton *> buttons = box->buttons();
+        for (const QAbstractButton *button : buttons)
+            shown << button->text();
+        std::ignore = QTest::qWaitFor([box] { return box->isActiveWindow() && box->focusWidget(); });
+        QTest::keyClick(box->windowHandle(), Qt::Key(key));
+        wasDismissed = !box->isVisible();
+        box->reject(); // lest the test hang
+    });
+    dialog.constraints->refused = {text("Overcoat")};
+    dialog.log.clear();
+    panel->setOvercoat(text("Matte"));
+    panel->setValueForBoundControlWithKey(text("Matte"), text("Overcoat"));
+    QCOMPARE(shown, QStringList({text("setting change failed!"),
+                                 text("I tried to make the change you requested but the printing system "
+                                      "rejected my efforts. Sorry."),
+                                 text("Bummer!")}));
+    QVERIFY(isModal && isPlain && wasDismissed && !QApplication::activeModalWidget());
+    QCOMPARE(dialog.log, QStringList{text("Failed to change Overcoat setting to = Matte")});
+    QCOMPARE(panel->recorded(text("Overcoat")), text("Glossy"));
+    QVERIFY(cell(dialog, "matte")->isChecked()); // no control is put back
+}
+
 QTEST_MAIN(LaminationTest)
+#include "LaminationTest.moc"

@@ -1,9 +1,8 @@
 // SPDX-FileCopyrightText: Corvel print dialog authors
 // SPDX-License-Identifier: Apache-2.0
 
-#include "PanelActionsTest.h"
-
 #include "BuiltPanel.h"
+#include "LVCorvelLaminationPDE.h"
 #include "LVCorvelMainPDE.h"
 #include "PanelHarness.h"
 
@@ -11,22 +10,79 @@
 #include <QtTest/QTest>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QCheckBox>
-#include <QtWidgets/QRadioButton>
 
-namespace {
-
-QPoint indicatorOf(const QWidget *box)
+/// What the model of the panels does not see of the user's acts, in both modes: the widgets get real events.
+class PanelActionsTest : public QObject
 {
-    return {8, box->height() / 2};
-}
+    Q_OBJECT
 
-} // namespace
+private Q_SLOTS:
+    void initTestCase_data();
+    void returnKey();
+    void leavingTheField();
+    void cursorStaysInTheNumber();
+    void movingTheSlider();
+    void answersOfMarking();
+    void fieldWithoutASlider();
+    void mixedEnablerOfTheFinish();
+    void sendersThatAreNoControls();
+};
 
 void PanelActionsTest::initTestCase_data()
 {
     QTest::addColumn<Mode>("mode");
     QTest::newRow("constraint handling") << Mode::Constraint;
     QTest::newRow("print settings") << Mode::Settings;
+}
+
+void PanelActionsTest::returnKey()
+{
+    QFETCH_GLOBAL(Mode, mode);
+    PanelHarness dialog(mode);
+    auto panel = dialog.make<LVCorvelMainPDE>();
+    dialog.show(*panel);
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter}) {
+        dialog.type(81, text("7"));
+        panel->events.clear();
+        QTest::keyClick(dialog.field(81), key);
+        QCOMPARE(panel->events, QStringList({text("end"), text("change")}));
+        QCOMPARE(dialog.printed, 0);
+        QVERIFY(dialog.window.isVisible());
+    }
+    QTest::keyClick(dialog.slider(1), Qt::Key_Return);
+    QCOMPARE(dialog.printed, 1); // from elsewhere, Return is the default button's
+}
+
+void PanelActionsTest::leavingTheField()
+{
+    QFETCH_GLOBAL(Mode, mode);
+    PanelHarness dialog(mode);
+    auto panel = dialog.make<LVCorvelMainPDE>();
+    dialog.show(*panel);
+    // That the panel has rewritten what was typed makes no difference.
+    dialog.type(81, text("1."));
+    QCOMPARE(dialog.field(81)->text(), text("1"));
+    panel->events.clear();
+    QTest::keyClick(dialog.field(81), Qt::Key_Tab);
+    QCOMPARE(QApplication::focusWidget(), dialog.control(2));
+    QCOMPARE(panel->events, QStringList(text("end")));
+    // Leaving a field that was not typed in is no end of editing.
+    dialog.field(81)->setFocus();
+    dialog.field(82)->setFocus();
+    QCOMPARE(panel->events.size(), 1);
+}
+
+void PanelActionsTest::cursorStaysInTheNumber()
+{
+    QFETCH_GLOBAL(Mode, mode);
+    PanelHarness dialog(mode);
+    auto panel = dialog.make<LVCorvelMainPDE>();
+    dialog.show(*panel);
+    dialog.type(81, text("15"));
+    QTest::keyClick(dialog.field(81), Qt::Key_Home);
+    QTest::keyClick(dialog.field(81), Qt::Key_Minus);
+    QCOMPARE(dialog.field(81)->text(), text("-15"));
+    QCOMPARE(dialog.field(81)->cursorPosition(), 1);
 }
 
 void PanelActionsTest::movingTheSlider()
@@ -38,8 +94,7 @@ void PanelActionsTest::movingTheSlider()
     QSlider *slider = dialog.slider(4);
     const auto showsItsValue = [&] {
         const QString value = QString::number(slider->value());
-        return panel->recorded(QStringLiteral("Brightness")) == value && dialog.field(84)->text() == value &&
-               dialog.field(84)->toolTip() == value;
+        return panel->recorded(text("Brightness")) == value && dialog.field(84)->text() == value;
     };
     const QPoint handle = slider->rect().center();
     QTest::mousePress(slider, Qt::LeftButton, {}, handle);
@@ -48,138 +103,69 @@ void PanelActionsTest::movingTheSlider()
     QVERIFY(onTheWay > 0);
     QVERIFY(showsItsValue()); // while the button is still down
     QTest::mouseRelease(slider, Qt::LeftButton, {}, handle + QPoint(20, 0));
-    QTest::keyClick(slider, Qt::Key_Left);
-    QCOMPARE(slider->value(), onTheWay - 1);
-    QVERIFY(showsItsValue());
     QWheelEvent wheel(handle, slider->mapToGlobal(handle), {}, {0, 120}, Qt::NoButton, {}, Qt::NoScrollPhase,
                       false);
     QApplication::sendEvent(slider, &wheel);
-    QVERIFY(slider->value() != onTheWay - 1);
+    QVERIFY(slider->value() != onTheWay);
     QVERIFY(showsItsValue());
-    // A refused position goes back, also under the user's hand.
-    if (dialog.constraints) {
-        const int before = slider->value();
-        dialog.constraints->refused << QStringLiteral("Brightness");
-        QTest::keyClick(slider, Qt::Key_Home);
-        QCOMPARE(slider->value(), before);
-        QCOMPARE(dialog.feedback->beeps, 1);
-        QVERIFY(showsItsValue());
-    }
 }
 
-void PanelActionsTest::enablerAndDefaultsButton()
+// Only a missing choice, a missing key or the print system makes it false.
+void PanelActionsTest::answersOfMarking()
 {
     QFETCH_GLOBAL(Mode, mode);
     PanelHarness dialog(mode);
     auto panel = dialog.make<LVCorvelMainPDE>();
     dialog.show(*panel);
-    QWidget *enabler = dialog.control(32);
-    const QString key = QStringLiteral("AdjustmentsEnabled");
-    const auto enabledControls = [&] {
-        int count = 0;
-        for (const int tag : {1, 2, 3, 4, 5, 6, 7, 81, 82, 83, 84, 85, 86, 87})
-            count += dialog.control(tag)->isEnabled();
-        return count;
-    };
-    QCOMPARE(enabledControls(), 14);
-    dialog.type(87, QStringLiteral("-9"));
-    QTest::mouseClick(enabler, Qt::LeftButton, {}, indicatorOf(enabler));
-    QCOMPARE(enabledControls(), 0);
-    QCOMPARE(panel->recorded(key), QStringLiteral("False"));
-    QVERIFY(enabler->isEnabled() && dialog.control(16)->isEnabled());
-    enabler->setFocus();
-    QTest::keyClick(enabler, Qt::Key_Space);
-    QCOMPARE(enabledControls(), 14);
-    QCOMPARE(panel->recorded(key), QStringLiteral("True"));
-
-    QTest::keyClick(enabler, Qt::Key_Space);
-    QTest::mouseClick(dialog.control(16), Qt::LeftButton);
-    QCOMPARE(enabledControls(), 14);
-    QCOMPARE(panel->recorded(QStringLiteral("Gamma")), QStringLiteral("0"));
-    QCOMPARE(dialog.slider(7)->value(), 0);
-    QCOMPARE(dialog.field(87)->text(), QStringLiteral("0"));
+    const QString key = text("Red");
+    QLineEdit *field = dialog.field(81);
+    QVERIFY(panel->markChoiceForPPDOptionKeyFromSender(text("24.5"), key, field));
+    QVERIFY(panel->markChoiceForPPDOptionKeyFromSender(text("5"), key, field));
+    QVERIFY(panel->markChoiceForPPDOptionKeyFromSender(text("25.01"), key, field));
+    QCOMPARE(panel->recorded(key), text("5"));
+    QCOMPARE(field->text(), text("5"));
+    const auto before = panel->choiceDict_;
+    field->setText(text("8"));
+    QVERIFY(!panel->markChoiceForPPDOptionKeyFromSender(text("8"), std::nullopt, field));
+    QVERIFY(!panel->markChoiceForPPDOptionKeyFromSender(std::nullopt, key, field));
+    QCOMPARE(field->text(), text("5"));
+    QVERIFY(panel->choiceDict_ == before);
+    QCOMPARE(dialog.feedback->beeps, 3);
+    // A program's choice knows no range and touches no control.
+    QVERIFY(panel->markChoiceForPPDOptionKeyFromSender(text("99"), key, nullptr));
+    QCOMPARE(panel->recorded(key), text("99"));
+    QCOMPARE(field->text(), text("5"));
     if (!dialog.constraints)
         return;
-    // The defaults were offered in the order of the supported keys, and a refusal puts the box back.
-    QCOMPARE(dialog.constraints->offers.last(), key + QStringLiteral("=True"));
-    QCOMPARE(dialog.constraints->offers.at(dialog.constraints->offers.size() - 8),
-             QStringLiteral("Brightness=0"));
+    QCOMPARE(dialog.constraints->offers.last(), text("Red=99"));
     dialog.constraints->refused << key;
-    QTest::mouseClick(enabler, Qt::LeftButton, {}, indicatorOf(enabler));
-    QCOMPARE(pdekit::state(enabler), 1);
-    QCOMPARE(enabledControls(), 14);
+    QVERIFY(!panel->markChoiceForPPDOptionKeyFromSender(text("4"), key, nullptr));
 }
 
-void PanelActionsTest::choiceOfTheProgram()
-{
-    QFETCH_GLOBAL(Mode, mode);
-    PanelHarness dialog(mode);
-    auto panel = dialog.make<LVCorvelMainPDE>();
-    dialog.show(*panel);
-    QVERIFY(panel->markChoiceForPPDOptionKeyFromSender(QStringLiteral("99"), QStringLiteral("Red"), nullptr));
-    QCOMPARE(panel->recorded(QStringLiteral("Red")), QStringLiteral("99"));
-    QCOMPARE(dialog.field(81)->text(), QStringLiteral("0"));
-    if (dialog.constraints)
-        QCOMPARE(dialog.constraints->offers, QStringList(QStringLiteral("Red=99")));
-}
-
-void PanelActionsTest::radioGroup()
-{
-    QFETCH_GLOBAL(Mode, mode);
-    PanelHarness dialog(mode, PanelHarness::ppdOption("Key1", "Standard", {"Standard", "Fine"})
-                                  .prepend("*PPD-Adobe: \"4.3\"\n*FormatVersion: \"4.3\"\n"));
-    auto panel = dialog.make<BuiltPanel>();
-    panel->form = QStringLiteral("radioGroup");
-    panel->keys << QStringLiteral("Key1");
-    dialog.show(*panel);
-    const auto cell = [&](const char *name) {
-        return dialog.view->findChild<QRadioButton *>(QString::fromLatin1(name));
-    };
-    const QString key = QStringLiteral("Key1");
-    QVERIFY(cell("standard")->isChecked());
-    QVERIFY(dialog.control(1)->toolTip().isEmpty());
-    QTest::mouseClick(cell("fine"), Qt::LeftButton, {}, indicatorOf(cell("fine")));
-    QCOMPARE(panel->recorded(key), QStringLiteral("Fine"));
-    QTest::keyClick(cell("fine"), Qt::Key_Up);
-    QVERIFY(cell("standard")->isChecked());
-    QCOMPARE(panel->recorded(key), QStringLiteral("Standard"));
-    QCOMPARE(dialog.feedback->beeps, 0);
-    // A cell that stands for no choice.
-    QTest::mouseClick(cell("unknown"), Qt::LeftButton, {}, indicatorOf(cell("unknown")));
-    QVERIFY(cell("standard")->isChecked());
-    QCOMPARE(panel->recorded(key), QStringLiteral("Standard"));
-    QCOMPARE(dialog.feedback->beeps, 1);
-    // A choice that no cell stands for leaves the selection, and the tool tip is emptied.
-    dialog.control(1)->setToolTip(QStringLiteral("x"));
-    panel->updateControlWithValue(dialog.control(1), QStringLiteral("Draft"));
-    QVERIFY(cell("standard")->isChecked());
-    QVERIFY(dialog.control(1)->toolTip().isEmpty());
-    QVERIFY(panel->events.size() == 3); // a program's selection is no action
-}
-
-void PanelActionsTest::mixedEnablerIsTrue()
+// A number field that is its own slider has no range but 0.
+void PanelActionsTest::fieldWithoutASlider()
 {
     QFETCH_GLOBAL(Mode, mode);
     PanelHarness dialog(mode);
     auto panel = dialog.make<BuiltPanel>();
-    auto *box = panel->add<QCheckBox>(32);
-    auto *slider = panel->add<QSlider>(1);
-    for (const auto &[state, choice] :
-         {std::pair(Qt::Unchecked, "False"), std::pair(Qt::PartiallyChecked, "True"),
-          std::pair(Qt::Checked, "True")}) {
-        box->setTristate();
-        box->setCheckState(state);
-        panel->changePrinterSetting(box);
-        QCOMPARE(panel->recorded(QStringLiteral("Enabler")), QString::fromLatin1(choice));
-        QCOMPARE(slider->isEnabled(), state != Qt::Unchecked);
+    QLineEdit *field = panel->add<QLineEdit>(5);
+    for (const auto &[choice, beeps] :
+         {std::pair("0", 0), std::pair("-", 0), std::pair("1", 1), std::pair("-1", 1)}) {
+        panel->setChoiceForKey(text("0"), text("Key5"));
+        QVERIFY(panel->markChoiceForPPDOptionKeyFromSender(text(choice), text("Key5"), field));
+        QCOMPARE(panel->recorded(text("Key5")), beeps == 0 ? text(choice) : text("0"));
+        QCOMPARE(std::exchange(dialog.feedback->beeps, 0), beeps);
     }
-    if (!dialog.constraints)
-        return;
-    // Refused, with no mark in the PPD to go back to: box and controls stay as the user left them.
-    dialog.constraints->refused << QStringLiteral("Enabler");
-    box->setCheckState(Qt::Unchecked);
-    panel->changePrinterSetting(box);
-    QVERIFY(!box->isChecked() && !slider->isEnabled());
+}
+
+void PanelActionsTest::mixedEnablerOfTheFinish()
+{
+    QFETCH_GLOBAL(Mode, mode);
+    PanelHarness dialog(mode);
+    auto panel = dialog.make<LVCorvelLaminationPDE>();
+    QCheckBox box;
+    box.setCheckState(Qt::PartiallyChecked);
+    QCOMPARE(panel->enablerState(&box), 0); // the printer decides, and the panel's controls are of no use
 }
 
 void PanelActionsTest::sendersThatAreNoControls()
@@ -196,3 +182,4 @@ void PanelActionsTest::sendersThatAreNoControls()
 }
 
 QTEST_MAIN(PanelActionsTest)
+#include "PanelActionsTest.moc"

@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: Corvel print dialog authors
 // SPDX-License-Identifier: Apache-2.0
 
-#include "PanelProtocolTest.h"
-
+#include "LVCorvelLaminationPDE.h"
 #include "LVCorvelMainPDE.h"
+#include "LVSharpnessCorvelPDE.h"
 #include "PanelHarness.h"
 #include "PlatformException.h"
 #include "PrintDialogPlugin.h"
@@ -38,21 +38,85 @@ public:
     static inline QStringList more;
 };
 
+/// The bundle in the folder, of which nothing is there but its Info.json.
+std::optional<pdekit::Bundle> emptyBundle(const QTemporaryDir &folder, const QByteArray &identifier)
+{
+    QFile info(folder.filePath(text("Contents/Info.json")));
+    if (!QDir(folder.path()).mkpath(text("Contents")) || !info.open(QIODevice::WriteOnly))
+        return std::nullopt;
+    info.write(R"({"CFBundleIdentifier": ")" + identifier + R"(", "CFBundleExecutable": "x"})");
+    info.close();
+    return pdekit::Bundle::open(folder.path());
+}
+
+/// The supported keys, then the keys and choices of all tags.
+QString tablesOf(RKTPPRBasePDEcorvel &panel)
+{
+    QString tables = panel.supportedPPDOptionKeys().join(QLatin1Char(' ')) + QLatin1Char(';');
+    for (int tag = -1; tag < 300; ++tag) {
+        if (const auto key = panel.ppdOptionKeyForTag(tag))
+            tables += text(" %1=%2").arg(QString::number(tag), *key);
+    }
+    tables += QLatin1Char(';');
+    for (int tag = -1; tag < 300; ++tag) {
+        if (const auto choice = panel.ppdChoiceForTag(tag))
+            tables += text(" %1=%2").arg(QString::number(panel.tagForStringValue(choice)), *choice);
+    }
+    return tables;
+}
+
 } // namespace
+
+/// The dialog's protocol: a panel's life, the transfer of its choices, its summary, and the plug-in's entry.
+class PanelProtocolTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void fixedTables();
+    void formIsLoadedWhen();
+    void noPanelWithoutPpd();
+    void formsThatFail();
+    void endOfAPanel();
+    void halfOfAChoice();
+    void withoutASession();
+    void foreignKeysAreCounted();
+    void summary();
+    void deviceUri();
+    void ppdData();
+    void help();
+    void brokenPipe();
+    void pluginEntry();
+};
 
 void PanelProtocolTest::fixedTables()
 {
     PanelHarness dialog(Mode::Constraint);
-    auto panel = dialog.make<LVCorvelMainPDE>();
-    QCOMPARE(panel->supportedPPDOptionKeys().join(u','),
-             text("Brightness,Contrast,Saturation,Gamma,Red,Green,Blue,AdjustmentsEnabled"));
-    QStringList keys;
-    for (const int tag : {1, 82, 3, 84, 5, 6, 87, 32, 112, 8, 16, 64, 88, -1, 0})
-        keys << panel->ppdOptionKeyForTag(tag).value_or(text("-"));
-    QCOMPARE(keys.join(u','), text("Red,Green,Blue,Brightness,Contrast,Saturation,Gamma,AdjustmentsEnabled,"
-                                   "AdjustmentsEnabled,-,-,-,-,-,-"));
-    QCOMPARE(panel->panelKind(), text("org.corvel.printing.Corvel9031.coloradjust"));
-    QVERIFY(panel->shouldHide());
+    auto colour = dialog.make<LVCorvelMainPDE>();
+    auto sharpness = dialog.make<LVSharpnessCorvelPDE>();
+    auto finish = dialog.make<LVCorvelLaminationPDE>();
+    QCOMPARE(tablesOf(*colour),
+             text("Brightness Contrast Saturation Gamma Red Green Blue AdjustmentsEnabled;"
+                  " 1=Red 2=Green 3=Blue 4=Brightness 5=Contrast 6=Saturation 7=Gamma 32=AdjustmentsEnabled"
+                  " 81=Red 82=Green 83=Blue 84=Brightness 85=Contrast 86=Saturation 87=Gamma"
+                  " 112=AdjustmentsEnabled;"));
+    QCOMPARE(tablesOf(*sharpness),
+             text("SharpnessEnabled SharpnessIntensity SharpnessRadius;"
+                  " 1=SharpnessRadius 2=SharpnessIntensity 32=SharpnessEnabled"
+                  " 81=SharpnessRadius 82=SharpnessIntensity 112=SharpnessEnabled; 2=0 3=1 4=2 5=3"));
+    QCOMPARE(tablesOf(*finish), text("Overcoat Quality UsePrinterPanel MatteValue;"
+                                     " 1=Quality 2=Overcoat 3=MatteValue 32=UsePrinterPanel;"
+                                     " 10=Standard 11=Fine 12=Glossy 13=Matte"));
+    QCOMPARE(sharpness->tagForStringValue(text("01")), 0);
+    QCOMPARE(finish->tagForStringValue(text("fine")), 0);
+    QCOMPARE(sharpness->tagForStringValue(std::nullopt), 0);
+    QCOMPARE(finish->tagForStringValue(std::nullopt), 0);
+    const QStringList names = {*colour->panelName(), *sharpness->panelName(), *finish->panelName()};
+    QCOMPARE(names.join(u','), text("Color Adjustments,Sharpness,Print Quality and Finish"));
+    const QStringList kinds = {*colour->panelKind(), *sharpness->panelKind(), *finish->panelKind()};
+    QCOMPARE(kinds.join(u','),
+             text("org.corvel.printing.Corvel9031.coloradjust,org.corvel.printing.Corvel9031.sharpness,"
+                  "org.corvel.printing.Corvel9031.matte"));
 
     // A panel without tables of its own has none; one with keys by tag has them up to the first gap.
     RKTPPRBasePDEcorvel base;
@@ -150,31 +214,99 @@ void PanelProtocolTest::endOfAPanel()
     QVERIFY(panel->panelView()); // made anew
 }
 
+void PanelProtocolTest::halfOfAChoice()
+{
+    PanelHarness dialog(Mode::Settings);
+    auto panel = dialog.make<LVCorvelMainPDE>();
+    panel->PPDOptionKeyValueDidChangePpdChoice(text("Red"), std::nullopt);
+    panel->PPDOptionKeyValueDidChangePpdChoice(std::nullopt, text("1"));
+    QVERIFY(!panel->choiceDict_);
+    panel->setChoiceForKey(std::nullopt, text("Red"));
+    panel->setChoiceForKey(text("1"), std::nullopt);
+    QVERIFY(panel->choiceDict_ && panel->choiceDict_->isEmpty());
+}
+
+void PanelProtocolTest::withoutASession()
+{
+    PanelHarness dialog(Mode::Settings);
+    auto panel = dialog.make<LVCorvelMainPDE>();
+    QVERIFY(panel->saveValuesAndReturnError(nullptr)); // there is nothing to write yet
+    QVERIFY(dialog.session.ticket.options.isEmpty());
+    panel->setChoiceForKey(text("8"), text("Red"));
+    dialog.callback->session = nullptr;
+    QVERIFY(panel->saveValuesAndReturnError(nullptr));
+    panel->getPPDSettingsFromPrintSettingsOnTiger();
+    QCOMPARE(panel->recorded(text("Red")), text("8"));
+}
+
+// The settings are complete when as many choices are recorded as the panel supports, whosever they are.
+void PanelProtocolTest::foreignKeysAreCounted()
+{
+    PanelHarness dialog(Mode::Settings);
+    auto panel = dialog.make<LVCorvelMainPDE>();
+    for (const QString &key : panel->supportedPPDOptionKeys())
+        dialog.session.ticket.options.insert(key, text("5"));
+    QVERIFY(panel->restoreValuesAndReturnError(nullptr));
+    QCOMPARE(panel->recorded(text("Red")), text("5"));
+    panel->setChoiceForKey(text("9"), text("Foreign"));
+    QVERIFY(panel->restoreValuesAndReturnError(nullptr));
+    QCOMPARE(panel->recorded(text("Red")), text("0")); // the defaults
+    QCOMPARE(panel->recorded(text("Foreign")), text("9"));
+}
+
 void PanelProtocolTest::summary()
 {
     const auto restore = qScopeGuard([] { OddPanel::more.clear(); });
     OddPanel::form = std::nullopt;
     OddPanel::more << text("AllowCUPS11");
-    const QByteArray ppd =
-        PanelHarness::colorPpd(PanelHarness::ppdOption("AllowCUPS11", "Yes", {"Yes/Why not"}))
-            .replace("*DefaultGamma: 0\n", "");
-    PanelHarness constraint(Mode::Constraint, ppd);
-    auto panel = constraint.make<OddPanel>();
-    panel->setChoiceForKey(text("5"), text("Red")); // the mark counts
-    auto summary = panel->summaryInfo();
-    QCOMPARE(summary->size(), 7); // without Gamma, which has no mark, and AllowCUPS11
-    QCOMPARE(summary->value(text("Red")), text("Level 0"));
-    QCOMPARE(summary->value(text("Adjust colors")), text("On"));
+    for (const auto &[mode, size] : {std::pair(Mode::Constraint, 8), std::pair(Mode::Settings, 9)}) {
+        PanelHarness dialog(
+            mode, PanelHarness::colorPpd(PanelHarness::ppdOption("AllowCUPS11", "Yes", {"Yes/Why not"})));
+        auto panel = dialog.make<OddPanel>();
+        panel->setChoiceForKey(text("Yes"), text("AllowCUPS11"));
+        const auto summary = panel->summaryInfo();
+        QCOMPARE(summary->size(), size); // where the dialog marks, that one is left out
+        QCOMPARE(summary->contains(text("AllowCUPS11")), size == 9);
+    }
+}
 
-    PanelHarness settings(Mode::Settings, ppd);
-    panel = settings.make<OddPanel>();
-    panel->setChoiceForKey(text("False"), text("AdjustmentsEnabled"));
-    panel->setChoiceForKey(text("Yes"), text("AllowCUPS11"));
-    summary = panel->summaryInfo();
-    QCOMPARE(summary->size(), 9);
-    QCOMPARE(summary->value(text("AllowCUPS11")), text("Yes"));
-    QCOMPARE(summary->value(text("Red"), text("none")), QString()); // listed, though without a choice
-    QCOMPARE(summary->value(text("Adjust colors")), text("Off"));
+void PanelProtocolTest::deviceUri()
+{
+    PanelHarness dialog(Mode::Settings);
+    auto panel = dialog.make<LVCorvelMainPDE>();
+    dialog.callback->printer = nullptr;
+    QCOMPARE(panel->printerDeviceURI(), text("usb://"));
+    dialog.callback->printer = &dialog.printer;
+    QCOMPARE(panel->printerDeviceURI(), text("usb://"));
+    dialog.printer.deviceUri = pdekit::URLReference(QString());
+    QCOMPARE(panel->printerDeviceURI(), text("usb://"));
+    const QString uri = text("usb://Corvel%20Inc/K9031?serial=A%2FB");
+    dialog.printer.deviceUri = pdekit::URLReference(uri);
+    QCOMPARE(panel->printerDeviceURI(), uri);
+    dialog.printer.deviceUri = pdekit::URLReference(text("ipp://elsewhere/"));
+    QCOMPARE(panel->printerDeviceURI(), uri); // asked for once it is known: never again
+
+    panel = dialog.make<LVCorvelMainPDE>();
+    dialog.printer.deviceUri =
+        pdekit::URLReference(text("../K9031?serial=1"), text("ipp://host:631/printers/x/"));
+    QCOMPARE(panel->printerDeviceURI(), text("ipp://host:631/printers/K9031?serial=1"));
+    // An absolute one has no use for its base, and stays to the letter.
+    panel = dialog.make<LVCorvelMainPDE>();
+    dialog.printer.deviceUri = pdekit::URLReference(uri, text("ipp://host:631/printers/x/"));
+    QCOMPARE(panel->printerDeviceURI(), uri);
+}
+
+void PanelProtocolTest::ppdData()
+{
+    PanelHarness dialog(Mode::Settings);
+    auto panel = dialog.make<LVCorvelMainPDE>();
+    QVERIFY(!panel->ppdDataCopy());
+    dialog.printer.description = QUrl(text("file:///ppd"));
+    QVERIFY(!panel->ppdDataCopy());
+    dialog.printer.data = QByteArray("a\0b", 3);
+    QCOMPARE(panel->ppdDataCopy(), QByteArray("a\0b", 3));
+    dialog.callback->printer = nullptr;
+    QVERIFY(!panel->ppdDataCopy());
 }
 
 void PanelProtocolTest::help()
@@ -186,13 +318,8 @@ void PanelProtocolTest::help()
     dialog.feedback->opensHelp = false;
     QVERIFY(panel->shouldShowHelp());
 
-    QTemporaryDir folder; // a bundle that names no help book
-    QVERIFY(QDir(folder.path()).mkdir(text("Contents")));
-    QFile info(folder.filePath(text("Contents/Info.json")));
-    QVERIFY(info.open(QIODevice::WriteOnly));
-    info.write(R"({"CFBundleIdentifier": "x", "CFBundleExecutable": "x"})");
-    info.close();
-    panel->pdeBundle_ = pdekit::Bundle::open(folder.path());
+    const QTemporaryDir folder;
+    panel->pdeBundle_ = emptyBundle(folder, "x"); // which names no help book
     QVERIFY(panel->pdeBundle_);
     QVERIFY(panel->shouldShowHelp());
     QCOMPARE(dialog.feedback->helpBooks.size(), 2);
@@ -221,13 +348,8 @@ void PanelProtocolTest::pluginEntry()
     QVERIFY2(plugin, qPrintable(loader.errorString()));
     PanelHarness dialog(Mode::Constraint);
     QVERIFY(plugin->initWithBundle(*bundle));
-    QTemporaryDir folder;
-    QVERIFY(QDir(folder.path()).mkdir(text("Contents")));
-    QFile info(folder.filePath(text("Contents/Info.json")));
-    QVERIFY(info.open(QIODevice::WriteOnly));
-    info.write(R"({"CFBundleIdentifier": "org.corvel.printing.corvel9031", "CFBundleExecutable": "x"})");
-    info.close();
-    QVERIFY(!plugin->initWithBundle(pdekit::Bundle::open(folder.path()).value()));
+    const QTemporaryDir folder;
+    QVERIFY(!plugin->initWithBundle(emptyBundle(folder, "org.corvel.printing.corvel9031").value()));
     QCOMPARE(dialog.log,
              QStringList({text("INIT: loading bundle with id \"org.corvel.printing.Corvel9031\""),
                           text("ERROR: bad bundle id \"org.corvel.printing.corvel9031\" not equal to "
@@ -250,3 +372,4 @@ void PanelProtocolTest::pluginEntry()
 }
 
 QTEST_MAIN(PanelProtocolTest)
+#include "PanelProtocolTest.moc"
