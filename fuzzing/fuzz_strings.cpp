@@ -6,8 +6,11 @@
 #include "Bundle.h"
 #include "Fuzzing.h"
 
+#include <QtCore/QLocale>
+
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
+    QLocale::setDefault(QLocale(QStringLiteral("en_US"))); // whose table is looked for
     const QString path = fuzzing::writeBundle(QStringLiteral("Strings.bundle"));
     fuzzing::write(path + QLatin1String("/Contents/Resources/Localizable_en.qm"), fuzzing::input(data, size));
     const auto bundle = pdekit::Bundle::open(path);

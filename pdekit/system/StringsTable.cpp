@@ -5,10 +5,13 @@
 
 #include "SystemLog.h"
 
+#include <QtCore/QBitArray>
 #include <QtCore/QFile>
+#include <QtCore/QFileInfo>
 #include <QtCore/QLocale>
 #include <QtCore/QtEndian>
 
+#include <algorithm>
 #include <optional>
 #include <tuple>
 
@@ -30,16 +33,18 @@ enum Block : quint8 {
 
 enum MessagePart : quint8 { Translation = 3, Obsolete = 5, SourceText = 6, Context = 7, Comment = 8 };
 
-/// Takes numbers and bytes from the front of what is left; nothing once they would reach beyond its end.
+/// Takes numbers and bytes one after the other; nothing once they would reach beyond the end.
 class Reader
 {
 public:
-    explicit Reader(QByteArrayView bytes)
-        : left_(bytes)
+    explicit Reader(QByteArrayView bytes, qsizetype place = 0)
+        : bytes_(bytes)
+        , place_(place)
     {
     }
 
-    bool atEnd() const { return left_.isEmpty(); }
+    qsizetype place() const { return place_; }
+    bool atEnd() const { return place_ == bytes_.size(); }
 
     template <typename Number>
     std::optional<Number> number()
@@ -52,57 +57,91 @@ public:
 
     std::optional<QByteArrayView> take(quint32 length)
     {
-        if (left_.size() < qsizetype(length))
+        if (bytes_.size() - place_ < qsizetype(length))
             return std::nullopt;
-        const QByteArrayView taken = left_.first(length);
-        left_ = left_.sliced(length);
+        const QByteArrayView taken = bytes_.sliced(place_, length);
+        place_ += length;
         return taken;
     }
 
 private:
-    QByteArrayView left_;
+    QByteArrayView bytes_;
+    qsizetype place_;
 };
 
-bool isSoundMessage(QByteArrayView message)
+/// Lists of parts in one block, which may share their ends. A place that was passed once is not gone through
+/// again, however many lists lead to it.
+class PartLists
 {
-    Reader reader(message);
-    while (const auto part = reader.number<quint8>()) {
-        switch (*part) {
-        case Translation: {
-            const auto length = reader.number<quint32>();
-            if (length && *length % 2 != 0)
-                return true; // no text (its length is then ~0): QTranslator stops here as well
-            if (!length || !reader.take(*length))
-                return false;
-            break;
-        }
-        case SourceText:
-        case Context:
-        case Comment: {
-            const auto length = reader.number<quint32>();
-            if (!length || !reader.take(*length))
-                return false;
-            break;
-        }
-        case Obsolete:
-            if (!reader.number<quint32>())
-                return false;
-            break;
-        default:
-            return true; // its end
-        }
+public:
+    explicit PartLists(QByteArrayView block)
+        : block_(block)
+        , passed_(block.size() + 1)
+    {
     }
-    return true;
+
+    /// Whether the list that begins at `place` ends within the block. `skip` takes one part and tells whether
+    /// it is whole, and nothing behind the last one.
+    template <typename Skip>
+    bool endsWithin(qsizetype place, Skip &&skip)
+    {
+        if (place > block_.size())
+            return false;
+        for (Reader reader(block_, place); !passed_.testBit(reader.place());) {
+            passed_.setBit(reader.place());
+            const std::optional<bool> isWhole = skip(reader);
+            if (!isWhole)
+                return true;
+            if (!*isWhole)
+                return false;
+        }
+        return true;
+    }
+
+private:
+    QByteArrayView block_;
+    QBitArray passed_;
+};
+
+std::optional<bool> skipMessagePart(Reader &reader)
+{
+    switch (reader.number<quint8>().value_or(0)) {
+    case Translation: {
+        const auto length = reader.number<quint32>();
+        if (length && *length % 2 != 0)
+            return std::nullopt; // no text (its length is then ~0): QTranslator stops here as well
+        return length && reader.take(*length);
+    }
+    case SourceText:
+    case Context:
+    case Comment: {
+        const auto length = reader.number<quint32>();
+        return length && reader.take(*length);
+    }
+    case Obsolete:
+        return reader.number<quint32>().has_value();
+    default:
+        return std::nullopt;
+    }
+}
+
+std::optional<bool> skipContextName(Reader &reader)
+{
+    const auto length = reader.number<quint8>();
+    if (length == 0)
+        return std::nullopt;
+    return length && reader.take(*length);
 }
 
 /// Pairs of a hash and the place of its message.
 bool areSoundHashes(QByteArrayView hashes, QByteArrayView messages)
 {
+    PartLists lists(messages);
     Reader reader(hashes);
     while (!reader.atEnd()) {
         const auto hash = reader.number<quint32>();
         const auto place = reader.number<quint32>();
-        if (!hash || !place || *place >= messages.size() || !isSoundMessage(messages.sliced(*place)))
+        if (!hash || !place || *place >= messages.size() || !lists.endsWithin(*place, skipMessagePart))
             return false;
     }
     return true;
@@ -113,6 +152,7 @@ bool areSoundContexts(QByteArrayView contexts)
 {
     if (contexts.isEmpty())
         return true;
+    PartLists lists(contexts);
     Reader slots_(contexts);
     const auto size = slots_.number<quint16>();
     if (!size || *size == 0)
@@ -120,16 +160,31 @@ bool areSoundContexts(QByteArrayView contexts)
     const qsizetype pool = 2 + qsizetype(*size) * 2;
     for (int slot = 0; slot < *size; ++slot) {
         const auto place = slots_.number<quint16>();
-        if (!place || pool + qsizetype(*place) * 2 > contexts.size())
+        if (!place || (*place != 0 && !lists.endsWithin(pool + qsizetype(*place) * 2, skipContextName)))
             return false;
-        Reader names(contexts.sliced(pool + qsizetype(*place) * 2));
-        std::optional<quint8> length;
-        while (*place != 0 && (length = names.number<quint8>()) != 0) {
-            if (!length || !names.take(*length))
-                return false;
-        }
     }
     return true;
+}
+
+QString pathOf(const QString &folder, const QString &language)
+{
+    return QStringLiteral("%1/Localizable_%2.qm").arg(folder, language);
+}
+
+/// The path of the table of the first of the languages that the folder has, each with its territory before
+/// it is without; empty where there is none.
+QString tableIn(const QString &folder, const QStringList &languages)
+{
+    for (QString language : languages) {
+        language.replace(QLatin1Char('-'), QLatin1Char('_'));
+        while (!language.isEmpty()) {
+            const QString path = pathOf(folder, language);
+            if (QFileInfo(path).isFile())
+                return path;
+            language.truncate(std::max<qsizetype>(language.lastIndexOf(QLatin1Char('_')), 0));
+        }
+    }
+    return {};
 }
 
 } // namespace
@@ -171,11 +226,9 @@ bool StringsTable::isSound(QByteArrayView qm)
 
 void StringsTable::load(const QLocale &locale, const QString &folder)
 {
-    const QString name = QStringLiteral("Localizable");
-    QTranslator search;
-    if (search.load(locale, name, QStringLiteral("_"), folder) && take(search.filePath()))
-        return;
-    take(folder + QLatin1Char('/') + name + QLatin1String("_en.qm"));
+    const QString path = tableIn(folder, locale.uiLanguages());
+    if (path.isEmpty() || !take(path))
+        take(pathOf(folder, QStringLiteral("en")));
 }
 
 bool StringsTable::take(const QString &path)

@@ -17,8 +17,7 @@ class StringsTable
 {
 public:
     /// Takes the table of the first of the locale's languages that `folder` has, else the English one; none
-    /// where both are missing. A damaged one is not used, and is named in the system log unless QTranslator
-    /// refuses it by itself.
+    /// where both are missing. A damaged one is not used, and is named in the system log.
     void load(const QLocale &locale, const QString &folder);
 
     /// The text for `key`; null where the table has none.

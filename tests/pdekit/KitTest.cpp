@@ -10,6 +10,7 @@
 #include "SystemLog.h"
 
 #include <QtCore/QDir>
+#include <QtCore/QElapsedTimer>
 #include <QtCore/QFile>
 #include <QtCore/QLocale>
 #include <QtCore/QTemporaryDir>
@@ -190,51 +191,6 @@ void KitTest::languages()
     QCOMPARE(bundle.localizedString(QString()), QString());
 }
 
-void KitTest::damagedStringsTable_data()
-{
-    QTest::addColumn<qsizetype>("place");
-    QTest::addColumn<char>("byte");
-    QTest::addColumn<bool>("refusedByQt"); // whose search then goes on by itself
-
-    // The magic number, the language, hashes and places (tag, length, pairs), messages (tag, length, parts).
-    QTest::newRow("not a table") << qsizetype(0) << 'x' << true;
-    QTest::newRow("another file") << qsizetype(0x17) << '\x96' << true;
-    QTest::newRow("contexts without a size") << qsizetype(0x17) << '\x2f' << false;
-    QTest::newRow("a block beyond the end") << qsizetype(0x18) << '\x70' << true;
-    QTest::newRow("a message beyond the end") << qsizetype(0x20) << '\x70' << false;
-    QTest::newRow("a text beyond the end") << qsizetype(0x162) << '\x70' << false;
-}
-
-// The English table is used instead, and one that would be read beyond its end is named.
-void KitTest::damagedStringsTable()
-{
-    QFETCH(qsizetype, place);
-    QFETCH(char, byte);
-    QFETCH(bool, refusedByQt);
-    QStringList log;
-    const auto sink = pdekit::setSystemLogSink([&log](const QString &line) { log << line; });
-    const auto restore = qScopeGuard([&sink] {
-        pdekit::setSystemLogSink(sink);
-        QLocale::setDefault(QLocale::c());
-    });
-    const QString own = Bundle::bundleForClass(staticMetaObject).path() + text("/Contents/Resources/");
-    const QTemporaryDir folder;
-    write(folder.filePath(text("Contents/Info.json")),
-          R"({"CFBundleIdentifier": "a", "CFBundleExecutable": "x"})");
-    const QString english = folder.filePath(text("Contents/Resources/Localizable_en.qm"));
-    const QString german = folder.filePath(text("Contents/Resources/Localizable_de.qm"));
-    QVERIFY(QDir(folder.path()).mkdir(text("Contents/Resources")));
-    QVERIFY(QFile::copy(own + text("Localizable_en.qm"), english));
-    QFile table(own + text("Localizable_de.qm"));
-    QVERIFY(table.open(QFile::ReadOnly));
-    QByteArray content = table.readAll();
-    content[place] = byte;
-    write(german, content);
-    QLocale::setDefault(QLocale(text("de")));
-    QCOMPARE(Bundle::open(folder.path())->localizedString(text("Brightness")), text("Brightness"));
-    QCOMPARE(log.filter(german).size(), refusedByQt ? 0 : 1);
-}
-
 namespace {
 
 template <typename Number>
@@ -264,6 +220,51 @@ quint32 elfHash(const QByteArray &text)
 
 } // namespace
 
+void KitTest::damagedStringsTable_data()
+{
+    QTest::addColumn<qsizetype>("place");
+    QTest::addColumn<QByteArray>("bytes");
+
+    // The magic number, the language, hashes and places (tag, length, pairs), messages (tag, length, parts).
+    QTest::newRow("not a table") << qsizetype(0) << QByteArray("x");
+    // A block that leads to another file: QTranslator would read that one, and itself, over and over.
+    const QByteArray name("\0L\0o\0c\0a\0l\0i\0z\0a\0b\0l\0e\0_\0d\0e", 28);
+    QTest::newRow("itself") << qsizetype(16)
+                            << part('\x96', bigEndian(quint32(name.size())) + name) + QByteArray(8, '\0');
+    QTest::newRow("a block beyond the end") << qsizetype(0x18) << QByteArray("\x70");
+    QTest::newRow("a message beyond the end") << qsizetype(0x20) << QByteArray("\x70");
+    QTest::newRow("a text beyond the end") << qsizetype(0x162) << QByteArray("\x70");
+}
+
+// The English table is used instead, and the damaged one is named.
+void KitTest::damagedStringsTable()
+{
+    QFETCH(qsizetype, place);
+    QFETCH(QByteArray, bytes);
+    QStringList log;
+    const auto sink = pdekit::setSystemLogSink([&log](const QString &line) { log << line; });
+    const auto restore = qScopeGuard([&sink] {
+        pdekit::setSystemLogSink(sink);
+        QLocale::setDefault(QLocale::c());
+    });
+    const QString own = Bundle::bundleForClass(staticMetaObject).path() + text("/Contents/Resources/");
+    const QTemporaryDir folder;
+    write(folder.filePath(text("Contents/Info.json")),
+          R"({"CFBundleIdentifier": "a", "CFBundleExecutable": "x"})");
+    const QString english = folder.filePath(text("Contents/Resources/Localizable_en.qm"));
+    const QString german = folder.filePath(text("Contents/Resources/Localizable_de.qm"));
+    QVERIFY(QDir(folder.path()).mkdir(text("Contents/Resources")));
+    QVERIFY(QFile::copy(own + text("Localizable_en.qm"), english));
+    QFile table(own + text("Localizable_de.qm"));
+    QVERIFY(table.open(QFile::ReadOnly));
+    QByteArray content = table.readAll();
+    content.replace(place, bytes.size(), bytes);
+    write(german, content);
+    QLocale::setDefault(QLocale(text("de")));
+    QCOMPARE(Bundle::open(folder.path())->localizedString(text("Brightness")), text("Brightness"));
+    QCOMPARE(log.filter(german).size(), 1);
+}
+
 void KitTest::partsOfStringsTables_data()
 {
     QTest::addColumn<QByteArray>("message");
@@ -281,6 +282,7 @@ void KitTest::partsOfStringsTables_data()
     QTest::newRow("comment beyond the end")
         << text + part('\x08', "long").chopped(1) << QByteArray() << false;
     QTest::newRow("context") << text + '\1' << one + "\x0bLocalizable" + '\0' << true;
+    QTest::newRow("contexts without a size") << text + '\1' << QByteArray("\0\0", 2) << false;
     QTest::newRow("context's place beyond the end") << text + '\1' << QByteArray("\0\1\0\7", 4) << false;
     QTest::newRow("more contexts than places") << text + '\1' << QByteArray("\0\4\0\0", 4) << false;
     QTest::newRow("context's name beyond the end") << text + '\1' << one + "\x0bLocal" << false;
@@ -303,6 +305,25 @@ void KitTest::partsOfStringsTables()
           R"({"CFBundleIdentifier": "a", "CFBundleExecutable": "x"})");
     write(folder.filePath(text("Contents/Resources/Localizable_en.qm")), table);
     QCOMPARE(Bundle::open(folder.path())->localizedString(text("key")), isRead ? text("ok") : text("key"));
+}
+
+// Fifty thousand messages that share one end are looked over once, not each from its begin.
+void KitTest::sharedMessagesOfAStringsTable()
+{
+    constexpr int count = 50'000;
+    const QByteArray hash = bigEndian(quint32(1)) + bigEndian(quint32(0));
+    const QByteArray skipped = "\x05" + bigEndian(quint32(0));
+    const QByteArray table = QByteArray::fromHex("3cb86418caef9c95cd211cbf60a1bddd") +
+                             part('\x42', hash.repeated(count)) +
+                             part('\x69', skipped.repeated(count) + '\1');
+    const QTemporaryDir folder;
+    write(folder.filePath(text("Contents/Info.json")),
+          R"({"CFBundleIdentifier": "a", "CFBundleExecutable": "x"})");
+    write(folder.filePath(text("Contents/Resources/Localizable_en.qm")), table);
+    QElapsedTimer time;
+    time.start();
+    QCOMPARE(Bundle::open(folder.path())->localizedString(text("key")), text("key"));
+    QVERIFY2(time.elapsed() < 5000, qPrintable(QString::number(time.elapsed())));
 }
 
 void KitTest::signalLog()

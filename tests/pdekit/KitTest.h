@@ -31,6 +31,7 @@ private Q_SLOTS:
     void damagedStringsTable();
     void partsOfStringsTables_data();
     void partsOfStringsTables();
+    void sharedMessagesOfAStringsTable();
     void signalLog();
     void systemLogOnStandardError();
     void forms();
