@@ -15,6 +15,7 @@
 #include <QtCore/QTranslator>
 #include <QtWidgets/QApplication>
 
+#include <csignal>
 #include <unistd.h>
 
 using namespace printdialog;
@@ -119,6 +120,7 @@ int runWithoutWindow(const CommandLine &commandLine)
 int main(int argc, char *argv[])
 {
     Console::prepareStreams();
+    std::signal(SIGCHLD, SIG_DFL); // who starts the program may have it ignored, and then nobody tells an end
     QStringList arguments;
     for (int i = 0; i < argc; ++i)
         arguments.append(fileNameFromBytes(argv[i]));

@@ -73,33 +73,44 @@ int start(const QByteArray &program, const FileDescriptor &ppd, pid_t &child)
     return ::posix_spawn(&child, path.constData(), actions.get(), attributes.get(), arguments, environ);
 }
 
-/// Waits for the child's end, and makes it come at the limit. The status of waitpid(2).
-int statusOf(pid_t child, std::chrono::milliseconds limit)
+/// What became of the child.
+struct End
+{
+    int status = 0;         ///< that of waitpid(2)
+    int error = 0;          ///< an errno, when the status cannot be told
+    bool isOverdue = false; ///< it was ended at the limit
+};
+
+/// Waits for the child's end, and makes it come at the limit.
+End endOf(pid_t child, std::chrono::milliseconds limit)
 {
     const auto deadline = std::chrono::steady_clock::now() + limit;
-    const FileDescriptor end(static_cast<int>(::syscall(SYS_pidfd_open, child, 0)));
-    int status = 0;
+    const FileDescriptor announcement(static_cast<int>(::syscall(SYS_pidfd_open, child, 0)));
+    End end;
     for (;;) {
+        const pid_t ended = ::waitpid(child, &end.status, end.isOverdue ? 0 : WNOHANG);
+        if (ended == child)
+            return end;
+        if (ended < 0 && errno != EINTR) {
+            end.error = errno;
+            return end;
+        }
         const auto left =
             std::chrono::ceil<std::chrono::milliseconds>(deadline - std::chrono::steady_clock::now());
         if (left <= 0ms) {
+            end.isOverdue = true;
             ::kill(child, SIGKILL);
-            while (::waitpid(child, &status, 0) < 0 && errno == EINTR)
-                continue;
-            return status;
+            continue;
         }
-        pollfd watched = {end.number(), POLLIN, 0}; // a negative number is only slept over
+        pollfd watched = {announcement.number(), POLLIN, 0}; // a negative number is only slept over
         ::poll(&watched, 1,
-               static_cast<int>((end.number() < 0 ? std::min(left, +shortestTurn) : left).count()));
-        const pid_t ended = ::waitpid(child, &status, WNOHANG);
-        if (ended == child)
-            return status;
+               static_cast<int>((announcement.number() < 0 ? std::min(left, +shortestTurn) : left).count()));
     }
 }
 
 bool isOutOfLimits(int status)
 {
-    return WIFSIGNALED(status) && (WTERMSIG(status) == SIGXCPU || WTERMSIG(status) == SIGKILL);
+    return WTERMSIG(status) == SIGXCPU || WTERMSIG(status) == SIGKILL;
 }
 
 } // namespace
@@ -133,12 +144,27 @@ std::optional<Failure<PpdFault>> checkPpd(const QByteArray &data, const QString 
     pid_t child = 0;
     if (const int error = start(bytesOfFileName(program), ppd, child))
         return notTried(Text::tr("\"%1\" cannot be run: %2").arg(program, qt_error_string(error)));
-    const int status = statusOf(child, limit);
-    if (status == 0)
-        return std::nullopt;
-    if (WIFEXITED(status) && WEXITSTATUS(status) == noSandbox)
-        return notTried(Text::tr("the system offers no sandbox"));
-    if (isOutOfLimits(status))
+    const End end = endOf(child, limit);
+    if (end.error != 0)
+        return notTried(qt_error_string(end.error));
+    if (end.isOverdue)
+        return Failure<PpdFault>{
+            PpdFault::NotTried,
+            Text::tr("The PPD \"%1\" is not used, since this computer was too busy to try it out. Try "
+                     "again later.")
+                .arg(shown),
+            {}};
+    if (WIFEXITED(end.status)) {
+        switch (WEXITSTATUS(end.status)) {
+        case 0:
+            return std::nullopt;
+        case noSandbox:
+            return notTried(Text::tr("the system offers no sandbox"));
+        default: // of the dynamic linker's, most likely
+            return notTried(Text::tr("\"%1\" ends with status %2").arg(program).arg(WEXITSTATUS(end.status)));
+        }
+    }
+    if (isOutOfLimits(end.status))
         return Failure<PpdFault>{
             PpdFault::Harmful,
             Text::tr("The PPD \"%1\" is not used: libcups does not come to an end with it. Fetch "

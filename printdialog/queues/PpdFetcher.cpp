@@ -156,6 +156,7 @@ quint64 PpdFetcher::fetch(const QString &queueId)
     worker_ = std::make_shared<BoundedWorker>(this);
     worker_->run([this, queueId, limit = limit_.intervalAsDuration(), check = check_](BoundedWorker &self) {
         auto outcome = fetchHere(queueId, limit, self.cancelFlag());
+        self.post([this] { limit_.stop(); }); // what follows has nothing to do with the server
         if (const auto text = outcome && check ? check(*outcome, queueId) : std::nullopt)
             outcome = Failure<QueueFault>{QueueFault::Failed, *text, {}};
         self.post([this, outcome = std::move(outcome)] { take(outcome); });

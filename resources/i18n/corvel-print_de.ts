@@ -537,6 +537,14 @@ linken und oberen Rand aus (sonst 50,50, die Mitte)</translation>
         <source>The PPD &quot;%1&quot; is not used: libcups crashes over it. Fetch another from the printer&apos;s maker.</source>
         <translation>Die PPD-Datei „%1“ wird nicht verwendet: libcups stürzt über ihr ab. Holen Sie eine andere vom Hersteller des Druckers.</translation>
     </message>
+    <message>
+        <source>The PPD &quot;%1&quot; is not used, since this computer was too busy to try it out. Try again later.</source>
+        <translation>Die PPD-Datei „%1“ wird nicht verwendet, weil dieser Rechner zu ausgelastet war, um sie zu erproben. Versuchen Sie es später noch einmal.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; ends with status %2</source>
+        <translation>„%1“ endet mit Status %2</translation>
+    </message>
 </context>
 <context>
     <name>PpdDocument</name>

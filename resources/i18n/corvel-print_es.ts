@@ -536,6 +536,14 @@ izquierda y desde arriba (si no, 50,50, el centro)</translation>
         <source>The PPD &quot;%1&quot; is not used: libcups crashes over it. Fetch another from the printer&apos;s maker.</source>
         <translation>El PPD «%1» no se usa: hace fallar a libcups. Consiga otro del fabricante de la impresora.</translation>
     </message>
+    <message>
+        <source>The PPD &quot;%1&quot; is not used, since this computer was too busy to try it out. Try again later.</source>
+        <translation>El PPD «%1» no se usa, porque este equipo estaba demasiado ocupado para probarlo. Inténtelo de nuevo más tarde.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; ends with status %2</source>
+        <translation>«%1» termina con el código %2</translation>
+    </message>
 </context>
 <context>
     <name>PpdDocument</name>

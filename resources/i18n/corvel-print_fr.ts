@@ -536,6 +536,14 @@ et depuis son haut (sinon 50,50, le milieu)</translation>
         <source>The PPD &quot;%1&quot; is not used: libcups crashes over it. Fetch another from the printer&apos;s maker.</source>
         <translation>Le PPD «&#x202f;%1&#x202f;» n’est pas utilisé&#x202f;: il fait planter libcups. Procurez-vous-en un autre auprès du fabricant de l’imprimante.</translation>
     </message>
+    <message>
+        <source>The PPD &quot;%1&quot; is not used, since this computer was too busy to try it out. Try again later.</source>
+        <translation>Le PPD «&#x202f;%1&#x202f;» n’est pas utilisé, car cet ordinateur était trop occupé pour l’essayer. Réessayez plus tard.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; ends with status %2</source>
+        <translation>«&#x202f;%1&#x202f;» se termine avec le code %2</translation>
+    </message>
 </context>
 <context>
     <name>PpdDocument</name>

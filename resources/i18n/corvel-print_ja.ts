@@ -536,6 +536,14 @@ and from its top (otherwise 50,50, the middle)</source>
         <source>The PPD &quot;%1&quot; is not used: libcups crashes over it. Fetch another from the printer&apos;s maker.</source>
         <translation>PPD「%1」は使用しません: libcups が異常終了します。プリンターの製造元から別の PPD を入手してください。</translation>
     </message>
+    <message>
+        <source>The PPD &quot;%1&quot; is not used, since this computer was too busy to try it out. Try again later.</source>
+        <translation>このコンピューターの負荷が高くPPD「%1」を試せなかったため使用しません。しばらくしてからもう一度お試しください。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; ends with status %2</source>
+        <translation>「%1」がステータス %2 で終了しました</translation>
+    </message>
 </context>
 <context>
     <name>PpdDocument</name>

@@ -67,6 +67,7 @@ private Q_SLOTS:
     void takesPicturesOfTheDialog();
     void helpAndVersionGoToStandardOutput();
     void keepsControlCharactersFromTheTerminal();
+    void hearsOfItsHelpersEnd();
     void failsWhenItsOutputCannotBeWritten_data();
     void failsWhenItsOutputCannotBeWritten();
 };
@@ -247,6 +248,14 @@ void CommandLineTest::keepsControlCharactersFromTheTerminal()
             runProgram(QStringList{u"--ppd"_s, pathOf(u"odd.ppd"_s), u"--list-options"_s} + more);
         QVERIFY(list.out.contains("Print") && !list.out.contains("\xc2\x9b"));
     }
+}
+
+// Also when whoever starts the program has the ends of child processes ignored.
+void CommandLineTest::hearsOfItsHelpersEnd()
+{
+    const ProgramRun run = runInShell(u"env --ignore-signal=CHLD \"$@\""_s,
+                                      {u"--ppd"_s, QStringLiteral(CORVEL_PPD), u"--list-options"_s});
+    QVERIFY2(run.status == 0, run.err.constData());
 }
 
 void CommandLineTest::failsWhenItsOutputCannotBeWritten_data()

@@ -11,6 +11,7 @@
 #include <QtCore/QElapsedTimer>
 #include <QtCore/QFile>
 #include <QtCore/QTemporaryDir>
+#include <QtCore/QThread>
 #include <QtTest/QSignalSpy>
 #include <QtTest/QTest>
 
@@ -190,7 +191,7 @@ void QueuesEndToEndTest::ppdIsThatOfTheQueue()
 
 void QueuesEndToEndTest::fetcherAnnouncesThePpd()
 {
-    PpdFetcher fetcher;
+    PpdFetcher fetcher(nullptr, 2s);
     const QSignalSpy fetched(&fetcher, &PpdFetcher::fetched);
     const QSignalSpy failed(&fetcher, &PpdFetcher::failed);
     fetcher.fetch(u"raw"_s);
@@ -202,8 +203,9 @@ void QueuesEndToEndTest::fetcherAnnouncesThePpd()
     QTRY_COMPARE(failed.size(), 1);
     QCOMPARE(failed.at(0).at(0).toULongLong(), next);
     QCOMPARE(fetched.size(), 1);
-    // What whoever asked for it does not take is never announced.
+    // What whoever asked for it does not take is never announced. Its check has all the time that it wants.
     fetcher.setCheck([](const QByteArray &ppd, const QString &queue) {
+        QThread::msleep(2500);
         return std::optional(QStringLiteral("%1 bytes of %2").arg(ppd.size() > 100).arg(queue));
     });
     fetcher.fetch(u"photo"_s);

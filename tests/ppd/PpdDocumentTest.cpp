@@ -11,6 +11,7 @@
 #include <QtCore/QTemporaryDir>
 #include <QtTest/QTest>
 
+#include <csignal>
 #include <sys/stat.h>
 
 using namespace printdialog;
@@ -199,8 +200,10 @@ private Q_SLOTS:
         row("not even inspected", {}, "%!PS", PpdFault::NotAPpd, u"queue"_s);
         row("crashes", "kill -SEGV $$", good, PpdFault::Harmful, u"crashes over it"_s);
         row("aborts", "kill -ABRT $$", good, PpdFault::Harmful, u"crashes over it"_s);
-        row("never ends", "exec sleep 60", good, PpdFault::Harmful, u"does not come to an end"_s);
-        row("takes too much time", "kill -XCPU $$", good, PpdFault::Harmful, u"does not come to an end"_s);
+        row("takes too much time", "ulimit -t 1; while :; do :; done", good, PpdFault::Harmful,
+            u"does not come to an end"_s);
+        row("gets no time", "exec sleep 60", good, PpdFault::NotTried, u"too busy"_s);
+        row("lacks a library", "exit 127", good, PpdFault::NotTried, u"status 127"_s);
         row("no sandbox", "exit 2", good, PpdFault::NotTried, u"no sandbox"_s);
         row("not installed", "-", good, PpdFault::NotTried, u"Install corvel-print again"_s);
         // It gets the PPD and nothing else that is open here.
@@ -234,6 +237,15 @@ private Q_SLOTS:
         QVERIFY(failure->reason == *fault);
         QVERIFY2(failure->text.contains(reason) && failure->text.contains(u"queue"_s),
                  qPrintable(failure->text));
+    }
+
+    // Whoever started the program may have it ignore the ends of its children.
+    void triesNothingUnheard()
+    {
+        const auto before = std::signal(SIGCHLD, SIG_IGN);
+        const auto failure = checkPpd(minimal(), u"queue"_s);
+        std::signal(SIGCHLD, before);
+        QVERIFY(failure && failure->reason == PpdFault::NotTried);
     }
 
     void sandboxLeavesNoWayOut()

@@ -5,6 +5,7 @@
 
 #include "LocalizingCost.h"
 
+#include <ctime>
 #include <memory>
 #include <span>
 
@@ -17,6 +18,23 @@ struct RecordCloser
     void operator()(ppd_file_t *record) const { ppdClose(record); }
 };
 
+/// What libcups does for a conflict is by far the costliest, and one with a choice of each option is more
+/// than a user ever makes.
+constexpr std::clock_t resolvingTime = CLOCKS_PER_SEC;
+
+void tryToResolve(ppd_file_t &record, const char *key, const char *choice)
+{
+    static std::clock_t spent = 0;
+    if (spent > resolvingTime)
+        return;
+    const std::clock_t before = std::clock();
+    cups_option_t *changes = nullptr;
+    int count = 0;
+    cupsResolveConflicts(&record, key, choice, &count, &changes);
+    cupsFreeOptions(count, changes);
+    spent += std::clock() - before;
+}
+
 void tryOption(ppd_file_t &record, const ppd_option_t &option)
 {
     ppdFindCustomOption(&record, option.keyword);
@@ -25,7 +43,10 @@ void tryOption(ppd_file_t &record, const ppd_option_t &option)
         return;
     const char *last = option.choices[option.num_choices - 1].choice;
     cups_option_t *conflicts = nullptr;
-    cupsFreeOptions(cupsGetConflicts(&record, option.keyword, last, &conflicts), conflicts);
+    const int count = cupsGetConflicts(&record, option.keyword, last, &conflicts);
+    cupsFreeOptions(count, conflicts);
+    if (count > 0)
+        tryToResolve(record, option.keyword, last);
     ppdMarkOption(&record, option.keyword, last);
 }
 

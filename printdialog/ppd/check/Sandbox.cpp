@@ -21,7 +21,7 @@ scmp_arg_cmp argument(unsigned index, scmp_compare comparison, scmp_datum_t a, s
 }
 
 constexpr rlim_t memory = rlim_t(1) << 30; // bytes; a PPD at the limits takes less than a third of it
-constexpr rlim_t processorTime = 10;       // seconds
+constexpr rlim_t processorTime = 5;        // seconds
 
 bool limit(__rlimit_resource resource, rlim_t most)
 {
