@@ -250,9 +250,12 @@ Result<QImage, PhotoFault> Photo::decoded() const
 {
     QString error;
     QImage image = decodedWithin({}, error);
-    if (image.isNull())
-        return broken(error);
-    return image;
+    if (!image.isNull())
+        return image;
+    // Qt does not tell why; the largest of its formats would need as much.
+    if (QImage(storedSize_, QImage::Format_RGBA64).isNull())
+        return memoryFailure();
+    return broken(error);
 }
 
 QImage Photo::preview(const QSize &bound) const

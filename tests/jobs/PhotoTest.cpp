@@ -11,6 +11,7 @@
 
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include <cmath>
 
@@ -32,6 +33,7 @@ private Q_SLOTS:
     void faults_data();
     void faults();
     void zerosAreNotRead();
+    void memoryRunsShort();
     void wholeJpegs_data();
     void wholeJpegs();
     void damagedHeadersAreSafe();
@@ -144,6 +146,32 @@ void PhotoTest::zerosAreNotRead()
     QVERIFY(!photo);
     QCOMPARE(photo.failure().reason, PhotoFault::UnknownType);
     QVERIFY(after.ru_maxrss - before.ru_maxrss < 50'000); // kilobytes
+}
+
+// The photo is not to blame.
+void PhotoTest::memoryRunsShort()
+{
+#ifdef __SANITIZE_ADDRESS__
+    QSKIP("AddressSanitizer's own memory leaves no room for a limit.");
+#endif
+    QImage large(6000, 6000, QImage::Format_Grayscale8);
+    large.fill(Qt::white);
+    samples::store(pathOf(u"large.png"_s), samples::encoded(large, "png"));
+    large = QImage();
+    const auto photo = Photo::open(pathOf(u"large.png"_s));
+    QVERIFY(photo);
+    QFile statistics(u"/proc/self/statm"_s);
+    QVERIFY(statistics.open(QFile::ReadOnly));
+    const rlim_t pages = statistics.readLine().split(' ').constFirst().toULong();
+    rlimit before = {};
+    getrlimit(RLIMIT_AS, &before);
+    const rlimit tight = {pages * rlim_t(sysconf(_SC_PAGESIZE)) + (rlim_t(16) << 20), before.rlim_max};
+    QCOMPARE(setrlimit(RLIMIT_AS, &tight), 0);
+    const auto decoded = photo->decoded();
+    setrlimit(RLIMIT_AS, &before);
+    QVERIFY(!decoded);
+    QCOMPARE(decoded.failure().reason, PhotoFault::TooLarge);
+    QVERIFY(photo->decoded());
 }
 
 void PhotoTest::wholeJpegs_data()
