@@ -250,9 +250,11 @@ void benchOpening()
     }
     server.run(QStringLiteral("lpadmin"), {QStringLiteral("-d"), QStringLiteral("photo")});
     const QProcessEnvironment withServer = QProcessEnvironment::systemEnvironment();
-    const std::vector<double> times = compare({{childCommand(QStringLiteral("ours")), withServer},
-                                               {childCommand(QStringLiteral("qt")), withServer}});
-    printComparison(what, times[0], QStringLiteral("QPrintDialog"), times[1], 0.7);
+    const std::vector<double> times =
+        compare({{childCommand(QStringLiteral("ours")) << QStringLiteral("photo"), withServer},
+                 {childCommand(QStringLiteral("qt")), withServer}});
+    printComparison(QStringLiteral("process start to a queue's painted options"), times[0],
+                    QStringLiteral("QPrintDialog"), times[1], 0.7);
     benchBesideGtk();
 #endif
 }

@@ -48,29 +48,31 @@ QList<QByteArray> panelKeys(const DialogSession &session)
     return keys;
 }
 
-// What libcups itself needs for the same
+// What libcups itself needs for the same; conflicts are weighed at once, or not until there is a job
 
-void chooseBare(ppd_file_t *ppd, const char *key, const char *choice)
+void chooseBare(ppd_file_t *ppd, PanelMode mode, const char *key, const char *choice)
 {
     ppdFindChoice(ppdFindOption(ppd, key), choice);
+    if (mode == PanelMode::Settings)
+        return;
     cups_option_t *options = nullptr;
     cupsFreeOptions(cupsGetConflicts(ppd, key, choice, &options), options);
     ppdMarkOption(ppd, key, choice);
 }
 
-double bareKeystroke(ppd_file_t *ppd)
+double bareKeystroke(ppd_file_t *ppd, PanelMode mode)
 {
     std::vector<double> times;
     times.reserve(keystrokes);
     for (int i = 0; i < keystrokes; ++i) {
         const QByteArray choice = QByteArray::number(i % 25);
-        times.push_back(millisecondsOf([&] { chooseBare(ppd, "Red", choice.constData()); }));
+        times.push_back(millisecondsOf([&] { chooseBare(ppd, mode, "Red", choice.constData()); }));
     }
     return median(times);
 }
 
 /// Every option's mark for restoring it and for the summary, and, with defaults, each one chosen.
-double bareRound(const DialogSession &session)
+double bareRound(const DialogSession &session, PanelMode mode)
 {
     ppd_file_t *ppd = session.ppd().record();
     const QList<QByteArray> keys = panelKeys(session);
@@ -81,7 +83,7 @@ double bareRound(const DialogSession &session)
             for (const QByteArray &key : keys) {
                 ppdFindMarkedChoice(ppd, key.constData());
                 if (const ppd_option_t *option = ppdFindOption(ppd, key.constData()))
-                    chooseBare(ppd, option->keyword, option->defchoice);
+                    chooseBare(ppd, mode, option->keyword, option->defchoice);
                 ppdFindMarkedChoice(ppd, key.constData());
             }
         }));
@@ -94,8 +96,6 @@ double bareRound(const DialogSession &session)
 double keystroke(DialogSession &session)
 {
     QWidget *view = session.panels().front()->panelView();
-    session.panels().front()->willShow();
-    view->show();
     auto *field = qobject_cast<QLineEdit *>(pdekit::viewWithTag(view, 81));
     auto *slider = qobject_cast<QSlider *>(pdekit::viewWithTag(view, 1));
     field->setFocus();
@@ -138,8 +138,10 @@ void benchMode(PanelMode mode, const QString &name)
     QList<SizedTime> growth;
     for (const int choices : {100, 1000, 10000, 100000}) {
         const auto session = openSession(choices, mode);
+        session->panels().front()->willShow();
+        session->panels().front()->panelView()->show();
         if (choices >= everyStep) {
-            const double bare = bareKeystroke(session->ppd().record());
+            const double bare = bareKeystroke(session->ppd().record(), mode);
             printRow({QStringLiteral("keystroke to recorded choice, %1, %2 choices").arg(name).arg(choices),
                       keystroke(*session),
                       QStringLiteral("libcups"),
@@ -152,7 +154,7 @@ void benchMode(PanelMode mode, const QString &name)
         printRow({QStringLiteral("restore, defaults, summary, %1, %2 choices").arg(name).arg(choices),
                   round,
                   QStringLiteral("libcups"),
-                  bareRound(*session),
+                  bareRound(*session, mode),
                   1.2,
                   {}});
     }

@@ -42,6 +42,7 @@ void benchPhoto(const QString &name, const QString &photo, const QTemporaryDir &
                                  QStringLiteral("--output"),
                                  folder.path(),
                                  photo};
+    const QString written = folder.filePath(QFileInfo(photo).completeBaseName() + QLatin1String(".pdf"));
     ProgramCost ours;
     QList<Peer> others = hasPeers ? peers(photo, pdf) : QList<Peer>();
     ProgramCost warmUp;
@@ -54,7 +55,11 @@ void benchPhoto(const QString &name, const QString &photo, const QTemporaryDir &
         return fails;
     });
     for (int run = -1; run < benchRuns; ++run) {
-        addRun(command, run < 0 ? warmUp : ours);
+        QFile::remove(written);
+        if (!addRun(command, run < 0 ? warmUp : ours) || !QFile::exists(written)) {
+            printNote(QStringLiteral("%1: not measured, corvel-print does not print it").arg(name));
+            return;
+        }
         for (Peer &peer : others) {
             if (run >= 0)
                 addRun(peer.command, peer.cost);
@@ -66,7 +71,6 @@ void benchPhoto(const QString &name, const QString &photo, const QTemporaryDir &
     for (const Peer &peer : std::as_const(others))
         printCosts(what, ours, {QLatin1String(peer.name), peer.cost, 1.0, 1.0});
     constexpr double megabyte = 1e6;
-    const QString written = folder.filePath(QFileInfo(photo).completeBaseName() + QLatin1String(".pdf"));
     printRow({QStringLiteral("%1: size of the PDF").arg(name),
               static_cast<double>(QFileInfo(written).size()) / megabyte,
               QStringLiteral("the photo"),
