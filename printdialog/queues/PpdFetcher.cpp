@@ -151,6 +151,28 @@ PpdFetcher::~PpdFetcher()
 
 quint64 PpdFetcher::fetch(const QString &queueId)
 {
+    const bool isUnderWay = std::exchange(isAhead_, false) && queueId == queueId_;
+    if (!isUnderWay)
+        start(queueId);
+    const quint64 number = ++number_;
+    if (early_) {
+        const auto announce = [this, number] {
+            if (const auto ppd = number == number_ ? std::exchange(early_, {}) : std::nullopt)
+                Q_EMIT fetched(number, *ppd);
+        };
+        QMetaObject::invokeMethod(this, announce, Qt::QueuedConnection);
+    }
+    return number;
+}
+
+void PpdFetcher::fetchAhead(const QString &queueId)
+{
+    start(queueId);
+    isAhead_ = true;
+}
+
+void PpdFetcher::start(const QString &queueId)
+{
     cancel();
     queueId_ = queueId;
     worker_ = std::make_shared<BoundedWorker>(this);
@@ -162,23 +184,29 @@ quint64 PpdFetcher::fetch(const QString &queueId)
         self.post([this, outcome = std::move(outcome)] { take(outcome); });
     });
     limit_.start();
-    return ++number_;
 }
 
 void PpdFetcher::cancel()
 {
     limit_.stop();
+    isAhead_ = false;
+    early_.reset();
     if (const auto worker = std::exchange(worker_, nullptr))
         worker->release({});
 }
 
 void PpdFetcher::take(const Result<QByteArray, QueueFault> &outcome)
 {
+    const bool isEarly = isAhead_;
     cancel();
-    if (outcome)
+    if (isEarly) {
+        isAhead_ = static_cast<bool>(outcome);
+        early_ = outcome ? std::optional(*outcome) : std::nullopt;
+    } else if (outcome) {
         Q_EMIT fetched(number_, *outcome);
-    else
+    } else {
         Q_EMIT failed(number_, outcome.failure().reason, outcome.failure().text);
+    }
 }
 
 } // namespace printdialog

@@ -52,6 +52,9 @@ public:
     /// Starts, and gives up any earlier fetch: of that one nothing is heard any more. Returns the number
     /// under which the outcome is announced, exactly once, after this has returned.
     quint64 fetch(const QString &queueId);
+    /// Starts a fetch that is wanted soon, if at all: the next fetch() of the same queue takes it up where it
+    /// stands then. Nothing is announced before, and a failure not at all.
+    void fetchAhead(const QString &queueId);
     /// Gives up the fetch under way; nothing is announced.
     void cancel();
 
@@ -61,12 +64,15 @@ Q_SIGNALS:
     void failed(quint64 number, printdialog::QueueFault reason, const QString &text);
 
 private:
+    void start(const QString &queueId);
     void take(const Result<QByteArray, QueueFault> &outcome);
 
     Check check_;
     QTimer limit_; // for what the worker's own limit does not cover
     QString queueId_;
     quint64 number_ = 0;
+    bool isAhead_ = false;                  // nobody has asked for the outcome yet
+    std::optional<QByteArray> early_;       // what has arrived before anybody asked
     std::shared_ptr<BoundedWorker> worker_; // null when nothing is under way
 };
 

@@ -28,6 +28,13 @@ PrintDialog::PrintDialog(const PrintDialogSetup &setup, QWidget *parent)
     , fetcher_(new PpdFetcher(this))
     , worker_(new PrintWorker(this))
 {
+    fetcher_->setCheck([](const QByteArray &ppd, const QString &queueId) {
+        const auto failure = checkPpd(ppd, queueId);
+        return failure ? std::optional(failure->text) : std::nullopt;
+    });
+    // The print server may well be asked while the window is being made.
+    if (setup.printer && *setup.printer != Queue::builtIn().id() && !setup.ppdFile)
+        fetcher_->fetchAhead(*setup.printer);
     ui_->setupUi(this);
     choices_ = new ChoiceController(
         {this, ui_->panels, ui_->pageSize, ui_->copies, ui_->presetBar, ui_->undo, ui_->redo, ui_->message},
@@ -50,10 +57,6 @@ PrintDialog::PrintDialog(const PrintDialogSetup &setup, QWidget *parent)
     connect(ui_->save, &QPushButton::clicked, this, &PrintDialog::saveSettings);
     connect(ui_->cancel, &QPushButton::clicked, this, &PrintDialog::reject);
     connect(ui_->print, &QPushButton::clicked, this, &PrintDialog::print);
-    fetcher_->setCheck([](const QByteArray &ppd, const QString &queueId) {
-        const auto failure = checkPpd(ppd, queueId);
-        return failure ? std::optional(failure->text) : std::nullopt;
-    });
     connect(fetcher_, &PpdFetcher::fetched, this, &PrintDialog::takePpd);
     connect(
         fetcher_, &PpdFetcher::failed, this,

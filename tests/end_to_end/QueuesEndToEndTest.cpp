@@ -17,6 +17,8 @@
 
 #include <cups/cups.h>
 
+#include <atomic>
+
 using namespace printdialog;
 using namespace std::chrono_literals;
 using namespace Qt::StringLiterals;
@@ -68,6 +70,7 @@ private Q_SLOTS:
     void defaultIsTheUsersOrTheServers();
     void ppdIsThatOfTheQueue();
     void fetcherAnnouncesThePpd();
+    void fetchesAhead();
     void jobArrivesByteForByteWithExactOptions_data();
     void jobArrivesByteForByteWithExactOptions();
     void stoppedQueueKeepsTheJob();
@@ -212,6 +215,40 @@ void QueuesEndToEndTest::fetcherAnnouncesThePpd()
     QTRY_COMPARE(failed.size(), 2);
     QCOMPARE(failed.at(1).at(2).toString(), u"1 bytes of photo"_s);
     QCOMPARE(fetched.size(), 1);
+}
+
+void QueuesEndToEndTest::fetchesAhead()
+{
+    PpdFetcher fetcher;
+    std::atomic<int> arrived = 0;
+    fetcher.setCheck([&arrived](const QByteArray & /*ppd*/, const QString & /*queue*/) {
+        ++arrived;
+        return std::optional<QString>();
+    });
+    const QSignalSpy fetched(&fetcher, &PpdFetcher::fetched);
+    const QSignalSpy failed(&fetcher, &PpdFetcher::failed);
+    for (const bool waits : {true, false}) {
+        fetcher.fetchAhead(u"photo"_s);
+        if (waits) {
+            QTRY_COMPARE(arrived, 1);
+            QTest::qWait(100);
+            QCOMPARE(fetched.size(), 0); // nobody has asked for it yet
+        }
+        const quint64 number = fetcher.fetch(u"photo"_s);
+        const int before = arrived;
+        QTRY_VERIFY(fetched.size() > 0 && fetched.constLast().at(0).toULongLong() == number);
+        QVERIFY(!waits || arrived == before); // was not fetched again
+    }
+    QCOMPARE(fetched.size(), 2);
+    // Asked for once more, it is fetched anew; and a failure that nobody asked for is none.
+    fetcher.fetch(u"photo"_s);
+    QTRY_COMPARE(fetched.size(), 3);
+    QCOMPARE(arrived, 3);
+    fetcher.fetchAhead(u"gone"_s);
+    QTest::qWait(300);
+    QCOMPARE(failed.size(), 0);
+    fetcher.fetch(u"gone"_s);
+    QTRY_COMPARE(failed.size(), 1);
 }
 
 void QueuesEndToEndTest::jobArrivesByteForByteWithExactOptions_data()
