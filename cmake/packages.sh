@@ -14,7 +14,7 @@ corvel_test_packages=(
 )
 
 corvel_bench_packages=(img2pdf imagemagick libgtk-3-dev xvfb)
-corvel_fuzz_packages=(clang libclang-rt-dev llvm)
+corvel_fuzz_packages=(clang libclang-rt-dev llvm qt6-image-formats-plugins)
 
 # corvel_install PACKAGE...: installs those that are not there; costs a few milliseconds when all are.
 corvel_install() {
