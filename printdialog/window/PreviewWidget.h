@@ -14,8 +14,8 @@
 namespace printdialog {
 
 /// The page as it will be printed: the paper with the photo on it, placed as the PDF places it, and what is
-/// cut off, dimmed. The photo is moved with the mouse or the arrow keys. It is decoded on a worker thread, at
-/// the size of the screen.
+/// cut off, dimmed. The photo is moved with the mouse or the arrow keys. It is decoded on a worker thread,
+/// with the detail that is shown.
 class PreviewWidget : public QWidget
 {
     Q_OBJECT

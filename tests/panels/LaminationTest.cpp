@@ -114,7 +114,9 @@ void LaminationTest::refusedCellIsNeverSeen()
     dialog.constraints->refused << text("MatteValue");
     panel->setOvercoat(text("Matte"));
     notices.clear();
+    QVERIFY(dialog.slider(3)->isEnabled());
     QTest::keyClick(dialog.slider(3), Qt::Key_End);
+    QCOMPARE(dialog.feedback->beeps, 1);
     QCOMPARE(dialog.slider(3)->value(), 0);
     QCOMPARE(notices, QStringList());
     QCOMPARE(panel->qual(), 0);
