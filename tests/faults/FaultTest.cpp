@@ -105,12 +105,15 @@ struct Memory
     }
 };
 
-/// Saves one set of choices and another one in turn, until it is killed.
+/// Saves one set of choices and another one in turn, until it is killed. Says so after the first time.
 int saveForEver(const QString &place)
 {
     const Place target = placeNamed(place);
-    for (int i = 0;; ++i)
-        target.save(choices(i % 2 == 0 ? u"odd"_s : u"even"_s), false);
+    for (int i = 0;; ++i) {
+        target.save(choices(i % 2 == 0 ? u"even"_s : u"odd"_s), false);
+        if (i == 0 && ::write(STDOUT_FILENO, "\n", 1) != 1)
+            return 1;
+    }
 }
 
 } // namespace
@@ -156,6 +159,7 @@ void FaultTest::savesWholeOrNotAtAll()
     QFETCH(bool, isFirst);
     const Place place = placeNamed(QString::fromLatin1(QTest::currentDataTag()).section(u',', 0, 0));
     int faults = 0;
+    QSet<QByteArray> calls;
     for (const CallFault &each : fileFaults()) {
         for (int number = 1;; ++number) {
             const Fault fault{each.call, each.error, number, home_->path().toUtf8()};
@@ -171,6 +175,7 @@ void FaultTest::savesWholeOrNotAtAll()
             if (!disarmFault())
                 break;
             ++faults;
+            calls << each.call;
             const QStringList filesNow = filesBelow(home_->path());
             const QByteArray found = textOf(fault) + ": " + (failure ? failure->text : u"saved"_s).toUtf8() +
                                      "; " + filesNow.join(u' ').toUtf8();
@@ -181,7 +186,8 @@ void FaultTest::savesWholeOrNotAtAll()
             QVERIFY2(isWhole && isClean && isClear, found.constData());
         }
     }
-    QVERIFY(faults >= 15);
+    for (const char *call : {"open", "write", "close", "fsync", "rename"})
+        QVERIFY2(calls.contains(call), call);
     qInfo("%d faults", faults);
 }
 
@@ -203,10 +209,9 @@ void FaultTest::killedWhileSaving()
     const int kills = isLong() ? 70 : 7;
     for (int kill = 0; kill < kills; ++kill) {
         QProcess saver;
-        saver.setStandardOutputFile(QProcess::nullDevice());
         saver.start(QCoreApplication::applicationFilePath(), {u"--save"_s, name});
-        QVERIFY(saver.waitForStarted());
-        QTest::qWait(10 + QRandomGenerator::global()->bounded(40));
+        QVERIFY(saver.waitForReadyRead());
+        usleep(static_cast<useconds_t>(QRandomGenerator::global()->bounded(20'000)));
         QCOMPARE(::kill(static_cast<pid_t>(saver.processId()), signal), 0);
         QVERIFY(saver.waitForFinished(10000));
         const Options found = place.load();

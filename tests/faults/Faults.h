@@ -13,7 +13,7 @@ namespace testing_support {
 struct Fault
 {
     QByteArray call;
-    int error = 0; ///< of errno(3)
+    int error = 0; ///< of errno(3); 0: the process is killed instead
     int number = 1;
     QByteArray folder;
 };
