@@ -26,17 +26,19 @@ namespace {
 Q_LOGGING_CATEGORY(filesLog, "printdialog.files", QtWarningMsg)
 
 constexpr char hiddenPrefix[] = ".corvel-print-";
-constexpr time_t staleAge = 3600; // seconds
+constexpr char earlierPrefix[] = ".corvel-print-earlier-"; // begins with the other one
+constexpr time_t staleAge = 3600;                          // seconds
 constexpr int shareTries = 100;
 constexpr useconds_t sharePause = 1000; // microseconds
 
-QByteArray hiddenName()
+QByteArray hiddenName(const char *prefix = hiddenPrefix)
 {
-    return hiddenPrefix + QByteArray::number(QRandomGenerator::system()->generate64(), 36);
+    return prefix + QByteArray::number(QRandomGenerator::system()->generate64(), 36);
 }
 
 /// Removes what a program that was killed has left under a hidden name: any such file when nobody else is at
-/// work in the folder, else those that are older than any work takes.
+/// work in the folder, else those that are older than any work takes. The age of an earlier file tells
+/// nothing: it is as old as the user's own.
 void removeStale(const QString &folder, bool isAlone)
 {
     DIR *entries = ::opendir(bytesOfFileName(folder).constData());
@@ -44,7 +46,10 @@ void removeStale(const QString &folder, bool isAlone)
         return;
     while (const dirent *entry = ::readdir(entries)) {
         struct stat status = {};
-        if (qstrncmp(entry->d_name, hiddenPrefix, sizeof hiddenPrefix - 1) == 0 &&
+        const auto begins = [entry](const char *prefix) {
+            return qstrncmp(entry->d_name, prefix, qstrlen(prefix)) == 0;
+        };
+        if (begins(hiddenPrefix) && (isAlone || !begins(earlierPrefix)) &&
             ::fstatat(::dirfd(entries), entry->d_name, &status, AT_SYMLINK_NOFOLLOW) == 0 &&
             S_ISREG(status.st_mode) && (isAlone || status.st_mtime < ::time(nullptr) - staleAge))
             ::unlinkat(::dirfd(entries), entry->d_name, 0);
@@ -163,8 +168,9 @@ Result<QStringList, OutputFault> AtomicFiles::commit()
     QStringList paths;
     for (File &file : files_) {
         // What the last one replaces is never put back: nothing comes after it that could fail.
-        const int keepError = &file == &files_.back() ? 0 : keepEarlier(file);
-        if (const int error = keepError != 0 ? keepError : putInPlace(file)) {
+        if (&file != &files_.back())
+            keepEarlier(file);
+        if (const int error = putInPlace(file)) {
             auto failure = outputFailure(error, pathOf(file.name));
             discard();
             return failure;
@@ -194,21 +200,19 @@ int AtomicFiles::finish(File &file) const
     return file.device->finish();
 }
 
-/// A second name for the earlier file, if there is one.
-int AtomicFiles::keepEarlier(File &file) const
+/// A second name for the earlier file, if there is one, where the file system knows more than one for a file.
+void AtomicFiles::keepEarlier(File &file) const
 {
     const int folder = descriptor_.number();
     struct stat status = {};
     const bool exists = ::fstatat(folder, file.name.constData(), &status, AT_SYMLINK_NOFOLLOW) == 0;
     if (!exists || S_ISDIR(status.st_mode))
-        return 0; // a folder is never moved out of the way: the renaming refuses
-    const QByteArray other = hiddenName();
-    // Some file systems know one name only for each file: there it is moved.
-    if (::linkat(folder, file.name.constData(), folder, other.constData(), 0) != 0 &&
-        ::renameat(folder, file.name.constData(), folder, other.constData()) != 0)
-        return errno;
-    file.earlier = other;
-    return 0;
+        return; // a folder is never moved out of the way: the renaming refuses
+    const QByteArray other = hiddenName(earlierPrefix);
+    if (::linkat(folder, file.name.constData(), folder, other.constData(), 0) == 0)
+        file.earlier = other;
+    else
+        file.isForGood = true; // never moved out of the way: who ends us then would leave no file at all
 }
 
 int AtomicFiles::putInPlace(File &file) const
@@ -226,7 +230,7 @@ void AtomicFiles::takeBack(File &file) const
     if (!file.isInPlace && !file.temporary.isEmpty())
         ::unlinkat(folder, file.temporary.constData(), 0);
     if (file.earlier.isEmpty()) {
-        if (file.isInPlace)
+        if (file.isInPlace && !file.isForGood)
             ::unlinkat(folder, file.name.constData(), 0);
         return;
     }

@@ -23,7 +23,8 @@ class DescriptorDevice;
 /// of open(2)), so that a crash leaves nothing behind; where the file system cannot do that, under a hidden
 /// name that nobody else has. Unless commit() succeeds, the folder is left as it was: earlier files of the
 /// same names untouched or put back, nothing temporary, and no folder that was made for this. A file never
-/// has a moment without either its earlier or its new content.
+/// has a moment without either its earlier or its new content. What cannot be had where the file system knows
+/// one name only for each file (FAT): there, what has replaced an earlier file stays when the next one fails.
 class AtomicFiles
 {
 public:
@@ -56,6 +57,7 @@ private:
         QByteArray earlier;   ///< Another name of an earlier file; empty when there is none.
         std::unique_ptr<DescriptorDevice> device;
         bool isInPlace = false;
+        bool isForGood = false; ///< It replaces an earlier file that has no other name.
     };
 
     AtomicFiles();
@@ -64,7 +66,7 @@ private:
     void shareFolder();
     QString pathOf(const QByteArray &name) const;
     int finish(File &file) const;
-    int keepEarlier(File &file) const;
+    void keepEarlier(File &file) const;
     int putInPlace(File &file) const;
     void takeBack(File &file) const;
     void discard();

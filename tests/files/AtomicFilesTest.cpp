@@ -104,8 +104,9 @@ void AtomicFilesTest::staleFilesGo()
     {
         // Another one is at work: the new one may be its.
         const auto other = AtomicFiles::open(folder.path());
-        for (const auto &[name, age] :
-             {std::pair(u".corvel-print-old"_s, 7200), {u".corvel-print-new"_s, 0}}) {
+        for (const auto &[name, age] : {std::pair(u".corvel-print-old"_s, 7200),
+                                        {u".corvel-print-new"_s, 0},
+                                        {u".corvel-print-earlier-1"_s, 7200}}) {
             QFile file(folder.filePath(name));
             QVERIFY(file.open(QIODevice::WriteOnly));
             QVERIFY(
@@ -113,9 +114,10 @@ void AtomicFilesTest::staleFilesGo()
         }
         QVERIFY(replace(folder.path(), 'a'));
         QVERIFY(!exists(u".corvel-print-old"_s) && exists(u".corvel-print-new"_s));
+        QVERIFY(exists(u".corvel-print-earlier-1"_s)); // a photo of the user's, as old as it is
     }
     QVERIFY(replace(folder.path(), 'a'));
-    QVERIFY(!exists(u".corvel-print-new"_s));
+    QVERIFY(!exists(u".corvel-print-new"_s) && !exists(u".corvel-print-earlier-1"_s));
 }
 
 QTEST_GUILESS_MAIN(AtomicFilesTest)
