@@ -231,18 +231,26 @@ Failure<PhotoFault> Photo::memoryFailure() const
 /// Decodes, scaled down while reading where the format can do that and the bound is not empty.
 QImage Photo::decodedWithin(const QSize &storedBound, QString &error) const
 {
+    QImage image;
     if (PhotoFormat::isHeif(format_)) {
         auto picture = HeifPicture::decode(content_);
-        if (!picture)
+        if (picture)
+            image = *std::move(picture);
+        else
             error = picture.failure().detail;
-        return picture ? *std::move(picture) : QImage();
+    } else {
+        allowDecoding(storedSize_);
+        ContentReader reader(content_, format_);
+        if (!storedBound.isEmpty())
+            reader->setScaledSize(storedBound);
+        image = reader->read();
+        error = reader->errorString();
     }
-    allowDecoding(storedSize_);
-    ContentReader reader(content_, format_);
-    if (!storedBound.isEmpty())
-        reader->setScaledSize(storedBound);
-    QImage image = reader->read();
-    error = reader->errorString();
+    // Everything else goes by the size that the file's head tells.
+    if (!image.isNull() && image.size() != storedSize_ && image.size() != storedBound) {
+        error = QStringLiteral("the pixels are %1 x %2").arg(image.width()).arg(image.height());
+        return {};
+    }
     return image;
 }
 

@@ -89,6 +89,7 @@ private Q_SLOTS:
     void profileIsKept();
     void damage_data();
     void damage();
+    void anotherSizeThanTold();
 };
 
 void HeifTest::isTurnedOnce_data()
@@ -163,6 +164,23 @@ void HeifTest::damage()
     const auto photo = Photo::open(pathOf(u"photo.heic"_s));
     QVERIFY(!photo);
     QCOMPARE(photo.failure().reason, size == 0 ? PhotoFault::Broken : PhotoFault::Truncated);
+}
+
+void HeifTest::anotherSizeThanTold()
+{
+    QByteArray content = encoded(samples::quarters(QSize(128, 64)), heif_compression_HEVC, 1);
+    if (content.isEmpty())
+        QSKIP("libheif has no encoder for it here");
+    for (qsizetype at = 0; (at = content.indexOf("ispe", at + 1)) > 0;)
+        content[at + 4 + 4 + 3] = 16; // the width's last byte
+    samples::store(pathOf(u"photo.heic"_s), content);
+    const auto photo = Photo::open(pathOf(u"photo.heic"_s));
+    QVERIFY2(photo, photo ? "" : qPrintable(photo.failure().detail));
+    QCOMPARE(photo->storedSize(), QSize(16, 64));
+    const auto decoded = photo->decoded();
+    QVERIFY(!decoded);
+    QCOMPARE(decoded.failure().reason, PhotoFault::Broken);
+    QVERIFY(photo->preview(QSize(64, 64)).isNull());
 }
 
 QTEST_GUILESS_MAIN(HeifTest)
