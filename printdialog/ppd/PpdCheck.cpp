@@ -108,11 +108,6 @@ End endOf(pid_t child, std::chrono::milliseconds limit)
     }
 }
 
-bool isOutOfLimits(int status)
-{
-    return WTERMSIG(status) == SIGXCPU || WTERMSIG(status) == SIGKILL;
-}
-
 } // namespace
 
 QString ppdCheckProgram()
@@ -147,7 +142,8 @@ std::optional<Failure<PpdFault>> checkPpd(const QByteArray &data, const QString 
     const End end = endOf(child, limit);
     if (end.error != 0)
         return notTried(qt_error_string(end.error));
-    if (end.isOverdue)
+    // The system ends whom it likes when memory runs short.
+    if (end.isOverdue || (WIFSIGNALED(end.status) && WTERMSIG(end.status) == SIGKILL))
         return Failure<PpdFault>{
             PpdFault::NotTried,
             Text::tr("The PPD \"%1\" is not used, since this computer was too busy to try it out. Try "
@@ -164,7 +160,7 @@ std::optional<Failure<PpdFault>> checkPpd(const QByteArray &data, const QString 
             return notTried(Text::tr("\"%1\" ends with status %2").arg(program).arg(WEXITSTATUS(end.status)));
         }
     }
-    if (isOutOfLimits(end.status))
+    if (WTERMSIG(end.status) == SIGXCPU)
         return Failure<PpdFault>{
             PpdFault::Harmful,
             Text::tr("The PPD \"%1\" is not used: libcups does not come to an end with it. Fetch "

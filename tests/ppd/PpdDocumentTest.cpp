@@ -200,8 +200,9 @@ private Q_SLOTS:
         row("not even inspected", {}, "%!PS", PpdFault::NotAPpd, u"queue"_s);
         row("crashes", "kill -SEGV $$", good, PpdFault::Harmful, u"crashes over it"_s);
         row("aborts", "kill -ABRT $$", good, PpdFault::Harmful, u"crashes over it"_s);
-        row("takes too much time", "ulimit -t 1; while :; do :; done", good, PpdFault::Harmful,
+        row("takes too much time", "ulimit -S -t 1; while :; do :; done", good, PpdFault::Harmful,
             u"does not come to an end"_s);
+        row("is ended by the system", "kill -KILL $$", good, PpdFault::NotTried, u"too busy"_s);
         row("gets no time", "exec sleep 60", good, PpdFault::NotTried, u"too busy"_s);
         row("lacks a library", "exit 127", good, PpdFault::NotTried, u"status 127"_s);
         row("no sandbox", "exit 2", good, PpdFault::NotTried, u"no sandbox"_s);
