@@ -141,6 +141,8 @@ std::optional<Failure<PhotoFault>> Photo::inspectPng()
     const PngHeader header = PngHeader::read(content_);
     if (header.size.isEmpty())
         return broken(QStringLiteral("the PNG header names no size"));
+    if (!header.isValid)
+        return broken(QStringLiteral("there are no such PNG pixels"));
     storedSize_ = header.size;
     orientation_ = header.orientation;
     resolution_ = header.resolution;

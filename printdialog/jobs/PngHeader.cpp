@@ -17,7 +17,7 @@
 namespace printdialog {
 namespace {
 
-enum ColourType { Grey = 0, Rgb = 2, Palette = 3 };
+enum ColourType { Grey = 0, Rgb = 2, Palette = 3, GreyAlpha = 4, Rgba = 6 };
 
 constexpr qsizetype largestProfile = 16 << 20; // bytes, decompressed
 
@@ -65,15 +65,20 @@ public:
 
     PngHeader header()
     {
+        header_.isValid =
+            hasUsualMethods_ && hasAllowedBits() && (type_ != Palette || !header_.palette.isEmpty());
         const bool isPalettes = type_ == Palette;
         header_.components = type_ == Rgb ? 3 : 1;
-        header_.isEmbeddable =
-            (type_ == Grey || type_ == Rgb || (isPalettes && !header_.palette.isEmpty())) &&
-            !isTransparent_ && !isInterlaced_ && !header_.data.isEmpty();
+        header_.isEmbeddable = header_.isValid && (type_ == Grey || type_ == Rgb || isPalettes) &&
+                               !isTransparent_ && !isInterlaced_ && !header_.data.isEmpty();
+        if (header_.isValid && isPalettes) {
+            const qsizetype colours = qsizetype(1) << header_.bitsPerSample;
+            header_.palette = header_.palette.leftJustified(colours * 3, '\0', true);
+        }
         if (!isPalettes)
             header_.palette.clear();
         const ColourProfile embedded = ColourProfile::fromIcc(icc_);
-        if (embedded.components() == (type_ == Grey || type_ == Grey + 4 ? 1 : 3))
+        if (embedded.components() == (type_ == Grey || type_ == GreyAlpha ? 1 : 3))
             header_.profile = embedded;
         else if (!isSrgb_ && gamma_ > 0 && type_ != Grey)
             header_.profile = measuredProfile();
@@ -81,6 +86,25 @@ public:
     }
 
 private:
+    bool hasAllowedBits() const
+    {
+        const int bits = header_.bitsPerSample;
+        const bool isWhole = bits == 8 || bits == 16;
+        const bool isPart = bits == 1 || bits == 2 || bits == 4;
+        switch (type_) {
+        case Grey:
+            return isPart || isWhole;
+        case Palette:
+            return isPart || bits == 8;
+        case Rgb:
+        case GreyAlpha:
+        case Rgba:
+            return isWhole;
+        default:
+            return false;
+        }
+    }
+
     void readChunk(QByteArrayView type, QByteArrayView content)
     {
         if (type == "IHDR" && content.size() >= 13)
@@ -113,6 +137,7 @@ private:
             header_.size = QSize(static_cast<int>(width), static_cast<int>(height));
         header_.bitsPerSample = static_cast<quint8>(content[8]);
         type_ = static_cast<quint8>(content[9]);
+        hasUsualMethods_ = content[10] == 0 && content[11] == 0;
         isInterlaced_ = content[12] != 0;
     }
 
@@ -162,6 +187,7 @@ private:
     std::array<QPointF, 4> points_ = usualPoints;
     double gamma_ = 0;
     int type_ = -1;
+    bool hasUsualMethods_ = false; // of compression and filtering: there is one each
     bool isInterlaced_ = false;
     bool isTransparent_ = false;
     bool isSrgb_ = false;

@@ -21,11 +21,15 @@ struct PngHeader
     QSize size;            ///< In pixels, as stored.
     int bitsPerSample = 0; ///< 1, 2, 4, 8 or 16.
     int components = 0;    ///< Numbers of a colour as they are stored: 1 (grey, or a palette's index) or 3.
-    QByteArray palette;    ///< Red, green, blue of each colour; empty without a palette.
+    /// Red, green, blue of each colour that a pixel can name, black where the file has none; empty without a
+    /// palette.
+    QByteArray palette;
     QList<QByteArrayView> data; ///< The parts of the compressed pixels; they point into the file's bytes.
     ColourProfile profile;      ///< Of iCCP, or else of gAMA and cHRM; none for sRGB.
     ExifOrientation orientation;
     std::optional<double> resolution; ///< In pixels per inch.
+    /// Whether the format knows such pixels at all.
+    bool isValid = false;
     /// Whether the compressed pixels can go into a PDF as they are: opaque and not interlaced.
     bool isEmbeddable = false;
 

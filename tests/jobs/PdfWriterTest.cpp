@@ -92,7 +92,8 @@ private Q_SLOTS:
     void pixelsAreLossless();
     void pngsOfAllKinds_data();
     void pngsOfAllKinds();
-    void pngWithoutAllItsPixels();
+    void impossiblePngs_data();
+    void impossiblePngs();
     void profileIsAppliedOnce_data();
     void profileIsAppliedOnce();
     void tiffIsTurnedOnce();
@@ -206,20 +207,41 @@ void PdfWriterTest::pngsOfAllKinds()
              {found.red() - wanted.red(), found.green() - wanted.green(), found.blue() - wanted.blue()})
             QVERIFY2(std::abs(difference) < 4, qPrintable(found.name() + wanted.name()));
     }
-    QVERIFY(pdf.size() < png.size() + 2000);
+    QVERIFY(pdf.size() < png.size() + 4000); // with a whole palette
+}
+
+void PdfWriterTest::impossiblePngs_data()
+{
+    QTest::addColumn<int>("place"); // within the header
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::newRow("a row more than there are pixels") << 7 << QByteArray("\x15");
+    QTest::newRow("no bits") << 8 << QByteArray(1, '\0');
+    QTest::newRow("grey of 3 bits") << 8 << QByteArray("\3\0", 2);
+    QTest::newRow("colours of 1 bit") << 8 << QByteArray("\1\2");
+    QTest::newRow("palette of 16 bits") << 8 << QByteArray("\x10\3");
+    QTest::newRow("no palette") << 8 << QByteArray("\x08\3");
+    QTest::newRow("unknown filters") << 11 << QByteArray("\x40");
 }
 
 /// Damage that the checksums do not show is found out before anything of it is printed.
-void PdfWriterTest::pngWithoutAllItsPixels()
+void PdfWriterTest::impossiblePngs()
 {
+    QFETCH(int, place);
+    QFETCH(QByteArray, bytes);
     QByteArray png = samples::encoded(samples::quarters(QSize(30, 20)), "png");
-    const qsizetype height = png.indexOf("IHDR") + 8;
-    png[height + 3] = 21;
-    const quint32 sum = quint32(crc32(0, reinterpret_cast<const Bytef *>(png.constData() + height - 8), 17));
-    qToBigEndian(sum, png.data() + height + 9);
+    const qsizetype header = png.indexOf("IHDR") + 4;
+    png.replace(header + place, bytes.size(), bytes);
+    const quint32 sum = quint32(crc32(0, reinterpret_cast<const Bytef *>(png.constData() + header - 4), 17));
+    qToBigEndian(sum, png.data() + header + 13);
+    samples::store(pathOf(u"impossible.png"_s), png);
+    const auto photo = Photo::open(pathOf(u"impossible.png"_s));
+    if (!photo) {
+        QCOMPARE(photo.failure().reason, PhotoFault::Broken);
+        return;
+    }
     QBuffer buffer;
     buffer.open(QIODevice::WriteOnly);
-    const auto written = PdfWriter::write(photoOf(png), portraitPage, buffer);
+    const auto written = PdfWriter::write(*photo, portraitPage, buffer);
     QVERIFY(!written);
     QCOMPARE(int(written.failure().reason), int(PdfFault::PhotoUnusable));
     QCOMPARE(buffer.data().size(), 0);
