@@ -21,7 +21,8 @@ endfunction()
 # corvel_install_bundle(TARGET NAME): installs the module TARGET as the plug-in bundle NAME, with the same resources.
 function(corvel_install_bundle target name)
     set(contents ${CORVEL_PDE_INSTALL_DIR}/${name}/Contents)
-    set_target_properties(${target} PROPERTIES INSTALL_RPATH "") # the program has loaded the kit before any plug-in
+    # The program has loaded the kit before any plug-in.
+    set_target_properties(${target} PROPERTIES INSTALL_RPATH "" BUILD_WITH_INSTALL_RPATH ON)
     install(TARGETS ${target} LIBRARY DESTINATION ${contents}/Linux COMPONENT program)
     install(FILES ${CORVEL_INFO_JSON} DESTINATION ${contents} COMPONENT program)
     install(FILES ${CORVEL_FORMS} ${CORVEL_STRINGS} DESTINATION ${contents}/Resources COMPONENT program)

@@ -49,6 +49,7 @@ private Q_SLOTS:
     void findsItsParts();
     void worksWhereverItIsMovedTo();
     void takesAPlugInBuiltAgainstIt();
+    void loadsNoStrangersLibrary();
     void uninstalls();
 
 private:
@@ -173,6 +174,15 @@ void InstallTest::takesAPlugInBuiltAgainstIt()
         const CommandRun refused = run(batch + QStringList{u"-o"_s, u"PageSize=Square"_s});
         QVERIFY2(refused.status == 1, refused.output.constData());
     }
+}
+
+// Neither from where it is installed nor from where the example is built.
+void InstallTest::loadsNoStrangersLibrary()
+{
+    const CommandRun paths =
+        runCommand(u"python3"_s, {QStringLiteral(CORVEL_SOURCE_DIR "/tests/packaging/libraryPaths.py"),
+                                  prefix_, folder_.filePath(u"postcard"_s)});
+    QVERIFY2(paths.status == 0, paths.output.constData());
 }
 
 // Files and folders of others stay: among them the example's bundle.
