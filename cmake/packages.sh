@@ -36,11 +36,27 @@ corvel_install() {
     fi
     local command="apt-get install -y --no-install-recommends ${missing[*]}"
     echo "Installing: ${missing[*]}" >&2
-    if ! { "${sudo[@]}" apt-get update -qq &&
-            "${sudo[@]}" env DEBIAN_FRONTEND=noninteractive $command; } >/dev/null 2>&1; then
+    if ! { corvel_apt "${sudo[@]}" env LC_ALL=C apt-get update -qq &&
+            corvel_apt "${sudo[@]}" env LC_ALL=C DEBIAN_FRONTEND=noninteractive $command; }; then
         echo "Missing packages: ${missing[*]}. Get them with: sudo $command" >&2
         return 1
     fi
+}
+
+# corvel_apt COMMAND...: runs it, in English, without a word, but waits while another package manager holds one of apt's locks (for
+# CORVEL_APT_PATIENCE seconds, 600 when it is not set), and shows the last lines of a failure.
+corvel_apt() {
+    local output waited=0
+    until output=$("$@" 2>&1 </dev/null); do
+        if ! grep -qE 'Could not get lock|Unable to (lock|acquire the dpkg)' <<<"$output" ||
+                [ "$waited" -ge "${CORVEL_APT_PATIENCE:-600}" ]; then
+            tail -n 5 <<<"$output" >&2
+            return 1
+        fi
+        [ "$waited" -gt 0 ] || echo "Another package manager is at work; waiting for it to finish." >&2
+        sleep 1
+        waited=$((waited + 1))
+    done
 }
 
 # corvel_build ROOT PRESET TARGET...: configures the build folder when it is new, and builds the targets.
