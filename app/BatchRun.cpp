@@ -76,14 +76,14 @@ int BatchRun::run()
 
 int BatchRun::showPlan(PhotoList &photos, const PrinterDescription &printer, const PrintJob &job)
 {
-    PrintedNames names;
+    PrintedNames names(outputFolder());
     QJsonArray array;
     QStringList lines;
     for (qsizetype i = 0; i < photos.size(); ++i) {
         const auto photo = photos.take(i);
         if (!photo)
             return fail(photo.failure().text);
-        const auto plan = JobPlan::make(*photo, printer, job, commandLine_.output, names);
+        const auto plan = JobPlan::make(*photo, printer, job, names);
         if (!plan)
             return fail(plan.failure().text);
         array.append(plan->json());
@@ -98,9 +98,14 @@ int BatchRun::showPlan(PhotoList &photos, const PrinterDescription &printer, con
     return exitDone;
 }
 
+OutputFolder BatchRun::outputFolder() const
+{
+    return {commandLine_.outputFolder(), commandLine_.overwrite, commandLine_.photos};
+}
+
 int BatchRun::printAll(PhotoList &photos, const PrinterDescription &printer, const PrintJob &job)
 {
-    const PrintTarget target{printer.isBuiltIn ? QString() : printer.name, commandLine_.output};
+    const PrintTarget target{printer.isBuiltIn ? QString() : printer.name, outputFolder()};
     QString current;
     JobControl control;
     control.cancel = interrupt_.flag();

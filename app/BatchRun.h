@@ -15,6 +15,7 @@ namespace printdialog {
 
 class Console;
 class PhotoList;
+struct OutputFolder;
 struct PrintJob;
 
 /// Printing without a window. Everything is looked at before anything is printed: the photos, the printer,
@@ -37,6 +38,7 @@ private:
     int failAfterDone(const QString &sentence);
     int showPlan(PhotoList &photos, const PrinterDescription &printer, const PrintJob &job);
     int printAll(PhotoList &photos, const PrinterDescription &printer, const PrintJob &job);
+    OutputFolder outputFolder() const;
     int followAll(const SentJobs &jobs);
     int takeBack(const SentJobs &jobs);
 

@@ -8,6 +8,7 @@
 #include <QtCore/QCommandLineParser>
 #include <QtCore/QCoreApplication>
 #include <QtCore/QRegularExpression>
+#include <QtCore/QStandardPaths>
 
 #include <array>
 
@@ -50,8 +51,13 @@ constexpr std::array optionRows = {
                                 "which part of a cropped photo is kept, in per cent from its left\n"
                                 "and from its top (otherwise 50,50, the middle)")},
     OptionRow{"output", "DIR",
-              QT_TRANSLATE_NOOP("CommandLine", "where the built-in printer leaves its files\n"
-                                               "(otherwise the current folder)")},
+              QT_TRANSLATE_NOOP("CommandLine",
+                                "where the built-in printer leaves its files (otherwise the current\n"
+                                "folder; with a window, Prints in your Pictures folder)")},
+    OptionRow{"overwrite", nullptr,
+              QT_TRANSLATE_NOOP("CommandLine",
+                                "--batch replaces files that the built-in printer has left before,\n"
+                                "instead of numbering the new ones; a photo is never replaced")},
     OptionRow{"batch", nullptr,
               QT_TRANSLATE_NOOP("CommandLine",
                                 "no window: apply the options, print, exit; what the window has\n"
@@ -249,6 +255,8 @@ Fault contradiction(const CommandLine &line)
         return fault(UsageFault::Combination,
                      Text::tr("--json is for --list-printers, --list-options, --summary and --dry-run."));
     }
+    if (line.overwrite && !line.batch && !line.dryRun)
+        return fault(UsageFault::Combination, Text::tr("--overwrite is for --batch and --dry-run."));
     if (line.wait && !line.batch)
         return fault(UsageFault::Combination, Text::tr("--wait is for --batch."));
     return std::nullopt;
@@ -275,6 +283,7 @@ Result<CommandLine, UsageFault> CommandLine::parse(const QStringList &arguments)
     CommandLine line;
     line.photos = parser.positionalArguments();
     line.batch = parser.isSet(QStringLiteral("batch"));
+    line.overwrite = parser.isSet(QStringLiteral("overwrite"));
     line.dryRun = parser.isSet(QStringLiteral("dry-run"));
     line.listPrinters = parser.isSet(QStringLiteral("list-printers"));
     line.listOptions = parser.isSet(QStringLiteral("list-options"));
@@ -285,17 +294,15 @@ Result<CommandLine, UsageFault> CommandLine::parse(const QStringList &arguments)
     if (line.help || line.version)
         return line;
 
-    std::optional<QString> output;
     for (const Fault &found :
          {readValue(parser, "printer", line.printer), readValue(parser, "ppd", line.ppd),
-          readValue(parser, "output", output), readValue(parser, "screenshot", line.screenshot),
+          readValue(parser, "output", line.output), readValue(parser, "screenshot", line.screenshot),
           readServer(parser, line.server), readWait(parser, line.wait), readMode(parser, line.mode),
           readScaling(parser, line.placement.scaling), readCrop(parser, line.placement),
           readChoices(parser, line.options), contradiction(line)}) {
         if (found)
             return *found;
     }
-    line.output = output.value_or(line.output);
     return line;
 }
 
@@ -326,6 +333,15 @@ QString CommandLine::helpText()
         "  corvel-print --printer built-in holiday.jpg\n"
         "  corvel-print --batch -o Red=12 -o Quality=Fine -o Overcoat=Matte --output prints *.jpg\n");
     return help;
+}
+
+QString CommandLine::outputFolder() const
+{
+    if (output)
+        return *output;
+    if (runsWithoutWindow())
+        return QStringLiteral(".");
+    return QStandardPaths::writableLocation(QStandardPaths::PicturesLocation) + QLatin1String("/Prints");
 }
 
 bool CommandLine::asksForBuiltInPrinter() const

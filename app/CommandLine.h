@@ -48,7 +48,8 @@ struct CommandLine
     PanelMode mode = PanelMode::Constraint;
     QList<RequestedChoice> options; ///< in the order given
     PlacementChoice placement;      ///< of each photo on its page
-    QString output = QStringLiteral(".");
+    std::optional<QString> output;  ///< the folder of the built-in printer's files
+    bool overwrite = false;         ///< the built-in printer replaces files of an earlier run
     bool batch = false;
     bool dryRun = false;
     std::optional<QString> server; ///< "host", "host:port" or a socket's path, fit for CUPS_SERVER
@@ -71,6 +72,9 @@ struct CommandLine
 
     /// Whether the printer is by its very name the built-in one.
     bool asksForBuiltInPrinter() const;
+    /// Where the built-in printer leaves its files: the folder asked for, or else the current one, with a
+    /// window the folder "Prints" among the user's pictures.
+    QString outputFolder() const;
     /// Whether the task is done without any widget on a screen or in a picture.
     bool runsWithoutWindow() const { return batch || dryRun || listPrinters || listOptions || summary; }
 };

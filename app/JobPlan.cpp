@@ -12,16 +12,15 @@
 namespace printdialog {
 
 Result<JobPlan, PhotoPrinter::Fault> JobPlan::make(const Photo &photo, const PrinterDescription &printer,
-                                                   const PrintJob &job, const QString &folder,
-                                                   PrintedNames &names)
+                                                   const PrintJob &job, PrintedNames &names)
 {
     JobPlan plan;
     plan.printer_ = printer;
     if (printer.isBuiltIn) {
         const QString name = names.nameFor(photo.path());
-        names.take(name);
-        for (const QLatin1String suffix : {QLatin1String(".pdf"), QLatin1String(".ticket.json")})
-            plan.files_.append(QDir(folder).absoluteFilePath(name + suffix));
+        names.markTaken(name);
+        for (const QLatin1String suffix : {PrintedNames::pageSuffix, PrintedNames::ticketSuffix})
+            plan.files_.append(QDir(names.folder().path).absoluteFilePath(name + suffix));
         plan.request_.document.name = photo.path();
         plan.request_.options = job.options;
         plan.request_.copies = job.copies;

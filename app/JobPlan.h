@@ -17,11 +17,9 @@ class JobPlan
     Q_DECLARE_TR_FUNCTIONS(JobPlan)
 
 public:
-    /// Makes what would be sent, and sends nothing. For the built-in printer the names of the files are kept
-    /// apart in `names`.
+    /// Makes what would be sent, and sends nothing. `names` has the names for the built-in printer's files.
     static Result<JobPlan, PhotoPrinter::Fault> make(const Photo &photo, const PrinterDescription &printer,
-                                                     const PrintJob &job, const QString &folder,
-                                                     PrintedNames &names);
+                                                     const PrintJob &job, PrintedNames &names);
 
     /// "label: value", one for each thing.
     QStringList lines() const;

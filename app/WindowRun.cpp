@@ -27,7 +27,7 @@ Result<PrintDialogSetup, PhotoFault> windowSetup(const CommandLine &commandLine)
     for (const RequestedChoice &option : commandLine.options)
         setup.options.append({option.key, option.choice});
     setup.placement = commandLine.placement;
-    setup.outputFolder = commandLine.output;
+    setup.outputFolder = commandLine.outputFolder();
     return setup;
 }
 

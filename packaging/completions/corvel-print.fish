@@ -33,6 +33,7 @@ complete -c corvel-print -l scaling -x -a 'fit fill actual' -d 'How large the ph
 complete -c corvel-print -l crop -x -d 'Which part of a cropped photo is kept'
 complete -c corvel-print -s o -l option -x -a '(__corvel_print_choices)' -d 'Choose for an option of the printer'
 complete -c corvel-print -l output -x -a '(__fish_complete_directories)' -d 'Where the built-in printer leaves its files'
+complete -c corvel-print -l overwrite -d 'Replace files that the built-in printer has left before'
 complete -c corvel-print -l batch -d 'No window: apply the options, print, exit'
 complete -c corvel-print -l dry-run -d 'Show what --batch would send, and send nothing'
 complete -c corvel-print -l wait -x -d 'How long --batch follows its jobs at most, in seconds'

@@ -159,7 +159,7 @@ std::optional<Failure<OutputFault>> AtomicFiles::writeFailure() const
     return outputFailure(failed->device->error(), pathOf(failed->name));
 }
 
-Result<QStringList, OutputFault> AtomicFiles::commit()
+Result<QStringList, OutputFault> AtomicFiles::commit(Earlier earlier)
 {
     for (File &file : files_) {
         if (const int error = finish(file))
@@ -168,9 +168,9 @@ Result<QStringList, OutputFault> AtomicFiles::commit()
     QStringList paths;
     for (File &file : files_) {
         // What the last one replaces is never put back: nothing comes after it that could fail.
-        if (&file != &files_.back())
+        if (earlier == Earlier::Replaced && &file != &files_.back())
             keepEarlier(file);
-        if (const int error = putInPlace(file)) {
+        if (const int error = putInPlace(file, earlier)) {
             auto failure = outputFailure(error, pathOf(file.name));
             discard();
             return failure;
@@ -215,13 +215,42 @@ void AtomicFiles::keepEarlier(File &file) const
         file.isForGood = true; // never moved out of the way: who ends us then would leave no file at all
 }
 
-int AtomicFiles::putInPlace(File &file) const
+int AtomicFiles::putInPlace(File &file, Earlier earlier) const
 {
     const int folder = descriptor_.number();
-    if (::renameat(folder, file.temporary.constData(), folder, file.name.constData()) != 0)
+    const int error = earlier == Earlier::Kept ? putInFreePlace(file)
+                      : ::renameat(folder, file.temporary.constData(), folder, file.name.constData()) == 0
+                          ? 0
+                          : errno;
+    file.isInPlace = error == 0;
+    return error;
+}
+
+/// Not every file system can rename without replacing (rename(2)), nor has every one hard links. Where it has
+/// neither, the name is taken by an empty file first.
+int AtomicFiles::putInFreePlace(const File &file) const
+{
+    const int folder = descriptor_.number();
+    const char *from = file.temporary.constData();
+    const char *to = file.name.constData();
+    if (::renameat2(folder, from, folder, to, RENAME_NOREPLACE) == 0)
+        return 0;
+    if (errno != EINVAL && errno != ENOSYS)
         return errno;
-    file.isInPlace = true;
-    return 0;
+    if (::linkat(folder, from, folder, to, 0) == 0) {
+        ::unlinkat(folder, from, 0);
+        return 0;
+    }
+    if (errno == EEXIST)
+        return errno;
+    const pdekit::FileDescriptor held(::openat(folder, to, O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600));
+    if (!held.isOpen())
+        return errno;
+    if (::renameat(folder, from, folder, to) == 0)
+        return 0;
+    const int error = errno;
+    ::unlinkat(folder, to, 0);
+    return error;
 }
 
 void AtomicFiles::takeBack(File &file) const

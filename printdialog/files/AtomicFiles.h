@@ -45,9 +45,14 @@ public:
     Result<QIODevice *, OutputFault> add(const QString &name, Access access = Access::AnyNewFile);
     /// The failure of the first file that could not be written, by its final name.
     std::optional<Failure<OutputFault>> writeFailure() const;
-    /// Brings all files to the disk, then gives them their names, replacing earlier files. Answers their
-    /// absolute paths in the order of add(). May be called once.
-    Result<QStringList, OutputFault> commit();
+    /// What becomes of earlier files of the same names.
+    enum class Earlier {
+        Replaced,
+        Kept, ///< One of them is the fault NameTaken, also when it appears at the last moment.
+    };
+    /// Brings all files to the disk, then gives them their names. Answers their absolute paths in the order
+    /// of add(). May be called once.
+    Result<QStringList, OutputFault> commit(Earlier earlier = Earlier::Replaced);
 
 private:
     struct File
@@ -67,7 +72,8 @@ private:
     QString pathOf(const QByteArray &name) const;
     int finish(File &file) const;
     void keepEarlier(File &file) const;
-    int putInPlace(File &file) const;
+    int putInPlace(File &file, Earlier earlier) const;
+    int putInFreePlace(const File &file) const;
     void takeBack(File &file) const;
     void discard();
 

@@ -43,18 +43,20 @@ Failure<OutputFault> failureOf(const Failure<PdfFault> &failure)
 
 } // namespace
 
-Result<PrintedFiles, OutputFault> BuiltInPrinter::print(const Photo &photo, const PrintJob &job,
-                                                        const QString &folder, PrintedNames *names)
+namespace {
+
+/// `name` is that of both files, without suffix.
+Result<PrintedFiles, OutputFault> printAs(const QString &name, const Photo &photo, const PrintJob &job,
+                                          const OutputFolder &folder)
 {
-    const QString name = (names ? *names : PrintedNames()).nameFor(photo.path());
-    auto files = AtomicFiles::open(folder);
+    auto files = AtomicFiles::open(folder.path);
     if (!files)
         return files.failure();
     // Both are begun before the work, so that a folder or name that cannot be written to is known at once.
-    auto pdf = files->add(name + QStringLiteral(".pdf"));
+    auto pdf = files->add(name + PrintedNames::pageSuffix);
     if (!pdf)
         return pdf.failure();
-    auto ticket = files->add(name + QStringLiteral(".ticket.json"));
+    auto ticket = files->add(name + PrintedNames::ticketSuffix);
     if (!ticket)
         return ticket.failure();
 
@@ -65,12 +67,29 @@ Result<PrintedFiles, OutputFault> BuiltInPrinter::print(const Photo &photo, cons
         return failureOf(written.failure());
     (*ticket)->write(ticketOf(photo, job));
 
-    const auto paths = files->commit();
+    const auto paths =
+        files->commit(folder.isOverwritten ? AtomicFiles::Earlier::Replaced : AtomicFiles::Earlier::Kept);
     if (!paths)
         return paths.failure();
-    if (names)
-        names->take(name);
     return PrintedFiles{paths->at(0), paths->at(1)};
+}
+
+} // namespace
+
+Result<PrintedFiles, OutputFault> BuiltInPrinter::print(const Photo &photo, const PrintJob &job,
+                                                        PrintedNames &names)
+{
+    constexpr int mostTries = 100;
+    for (int tries = 1;; ++tries) {
+        const QString name = names.nameFor(photo.path());
+        auto files = printAs(name, photo, job, names.folder());
+        const bool isTaken = !files && files.failure().reason == OutputFault::NameTaken;
+        if (files || (isTaken && !names.folder().isOverwritten))
+            names.markTaken(name);
+        // Taken by another program after it was found to be free: there are other names.
+        if (!isTaken || names.folder().isOverwritten || tries == mostTries)
+            return files;
+    }
 }
 
 } // namespace printdialog

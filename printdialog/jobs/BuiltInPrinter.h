@@ -40,16 +40,15 @@ struct PrintedFiles
 class BuiltInPrinter
 {
 public:
-    /// Leaves both files in the folder, or none. A missing folder is made, with the folders above it; when
-    /// the job fails it is removed again. Files of an earlier run with the same names are replaced. `names`
-    /// keeps the names of this run apart and takes the new one when the job has succeeded; without it every
-    /// photo has its plain name. Copies are counted in the ticket; the PDF has one page. May run on any
+    /// Leaves both files in the folder of `names`, or none. A missing folder is made, with the folders above
+    /// it; when the job fails it is removed again. `names` gives the files a name that is free, and learns of
+    /// it when the job has succeeded. Copies are counted in the ticket; the PDF has one page. May run on any
     /// thread, one call per `names`.
     ///
     /// The ticket is a JSON object, UTF-8 and indented: "printer", "document" (the photo's absolute path),
     /// "options" and "summary" (objects of texts), "copies" (a number).
     static Result<PrintedFiles, OutputFault> print(const Photo &photo, const PrintJob &job,
-                                                   const QString &folder, PrintedNames *names = nullptr);
+                                                   PrintedNames &names);
 };
 
 } // namespace printdialog

@@ -33,13 +33,14 @@ QString printedText(const Photo &photo, const PrintTarget &target, const Printed
 PhotoPrinter::PhotoPrinter(const PrintTarget &target, const JobControl &control)
     : target_(target)
     , control_(control)
+    , names_(target.folder)
 {
 }
 
 Result<PrintedPhoto, PhotoPrinter::Fault> PhotoPrinter::print(const Photo &photo, const PrintJob &job)
 {
     if (target_.queue.isEmpty()) {
-        const auto files = BuiltInPrinter::print(photo, job, target_.outputFolder, &names_);
+        const auto files = BuiltInPrinter::print(photo, job, names_);
         if (!files)
             return sentenceOf(files.failure());
         return PrintedPhoto(*files);

@@ -16,8 +16,8 @@ namespace printdialog {
 /// Where photos are printed to: a queue of the print server, or the built-in printer.
 struct PrintTarget
 {
-    QString queue;        ///< the queue's id; empty for the built-in printer
-    QString outputFolder; ///< where the built-in printer leaves its files
+    QString queue;       ///< the queue's id; empty for the built-in printer
+    OutputFolder folder; ///< only for the built-in printer
 };
 
 /// What has become of one photo: the files that the built-in printer has left, or the id of the queue's job.

@@ -3,11 +3,24 @@
 
 #include "PrintedNames.h"
 
+#include "FileName.h"
 #include "PlainText.h"
 
 #include <QtCore/QFileInfo>
 
+#include <sys/stat.h>
+
 namespace printdialog {
+
+PrintedNames::PrintedNames(const OutputFolder &folder)
+    : folder_(folder)
+{
+    for (const QString &photo : folder.photos) {
+        struct stat status = {};
+        if (::stat(bytesOfFileName(photo).constData(), &status) == 0)
+            photos_.insert({status.st_dev, status.st_ino});
+    }
+}
 
 QString PrintedNames::nameFor(const QString &photoPath) const
 {
@@ -17,9 +30,26 @@ QString PrintedNames::nameFor(const QString &photoPath) const
     if (base.isEmpty())
         base = QStringLiteral("photo");
     QString name = base;
-    for (int number = 2; taken_.contains(name); ++number)
+    for (int number = 2; !isFree(name); ++number)
         name = QStringLiteral("%1-%2").arg(base).arg(number);
     return name;
+}
+
+/// A name that cannot be looked at counts as free: the attempt to write there says what is wrong with it.
+bool PrintedNames::isFree(const QString &name) const
+{
+    if (taken_.contains(name))
+        return false;
+    for (const QLatin1String suffix : {pageSuffix, ticketSuffix}) {
+        const QByteArray path = bytesOfFileName(folder_.path + QLatin1Char('/') + name + suffix);
+        struct stat status = {};
+        if (::lstat(path.constData(), &status) != 0)
+            continue;
+        // A link is replaced itself; what it leads to is not.
+        if (!folder_.isOverwritten || photos_.contains({status.st_dev, status.st_ino}))
+            return false;
+    }
+    return true;
 }
 
 } // namespace printdialog

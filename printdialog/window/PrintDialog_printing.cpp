@@ -64,7 +64,7 @@ void PrintDialog::print()
                        (QStringList(tr("Printing…")) + remarks).join(QLatin1Char('\n')));
     PrintTarget target;
     if (session_->printer().isBuiltIn)
-        target.outputFolder = ui_->folder->text();
+        target.folder.path = ui_->folder->text();
     else
         target.queue = session_->printer().name;
     remember(true);

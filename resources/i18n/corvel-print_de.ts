@@ -87,12 +87,6 @@ oder vor dem Drucken alles zusammen prüfen (settings)</translation>
         <translation>Auswahl für eine Option des Druckers; mehrfach, der Reihe nach</translation>
     </message>
     <message>
-        <source>where the built-in printer leaves its files
-(otherwise the current folder)</source>
-        <translation>wo der eingebaute Drucker seine Dateien ablegt
-(sonst im aktuellen Ordner)</translation>
-    </message>
-    <message>
         <source>no window: apply the options, print, exit; what the window has
 saved is not used, so that a script gets the same each time</source>
         <translation>ohne Fenster: Optionen anwenden, drucken, beenden; was im Fenster
@@ -251,6 +245,22 @@ linken und oberen Rand aus (sonst 50,50, die Mitte)</translation>
     <message>
         <source>--crop is for --scaling fill or actual; with fit nothing is cropped.</source>
         <translation>--crop gehört zu --scaling fill oder actual; mit fit wird nichts beschnitten.</translation>
+    </message>
+    <message>
+        <source>where the built-in printer leaves its files (otherwise the current
+folder; with a window, Prints in your Pictures folder)</source>
+        <translation>wo der eingebaute Drucker seine Dateien ablegt (sonst im aktuellen
+Ordner; mit Fenster unter Prints in Ihrem Bilderordner)</translation>
+    </message>
+    <message>
+        <source>--batch replaces files that the built-in printer has left before,
+instead of numbering the new ones; a photo is never replaced</source>
+        <translation>--batch ersetzt frühere Dateien des eingebauten Druckers, statt
+die neuen zu nummerieren; ein Foto wird nie ersetzt</translation>
+    </message>
+    <message>
+        <source>--overwrite is for --batch and --dry-run.</source>
+        <translation>--overwrite ist für --batch und --dry-run.</translation>
     </message>
 </context>
 <context>

@@ -86,12 +86,6 @@ o comprobarlos todos juntos antes de imprimir (settings)</translation>
         <translation>valor de una opción de la impresora; repetible, en orden</translation>
     </message>
     <message>
-        <source>where the built-in printer leaves its files
-(otherwise the current folder)</source>
-        <translation>dónde guarda sus archivos la impresora integrada
-(si no, en la carpeta actual)</translation>
-    </message>
-    <message>
         <source>no window: apply the options, print, exit; what the window has
 saved is not used, so that a script gets the same each time</source>
         <translation>sin ventana: aplicar las opciones, imprimir y salir; no se usa lo
@@ -250,6 +244,22 @@ izquierda y desde arriba (si no, 50,50, el centro)</translation>
     <message>
         <source>--crop is for --scaling fill or actual; with fit nothing is cropped.</source>
         <translation>--crop es para --scaling fill o actual; con fit no se recorta nada.</translation>
+    </message>
+    <message>
+        <source>where the built-in printer leaves its files (otherwise the current
+folder; with a window, Prints in your Pictures folder)</source>
+        <translation>dónde guarda sus archivos la impresora integrada (si no, en la carpeta
+actual; con ventana, en Prints de su carpeta de imágenes)</translation>
+    </message>
+    <message>
+        <source>--batch replaces files that the built-in printer has left before,
+instead of numbering the new ones; a photo is never replaced</source>
+        <translation>--batch reemplaza los archivos que la impresora integrada dejó antes
+en lugar de numerar los nuevos; una foto nunca se reemplaza</translation>
+    </message>
+    <message>
+        <source>--overwrite is for --batch and --dry-run.</source>
+        <translation>--overwrite es para --batch y --dry-run.</translation>
     </message>
 </context>
 <context>

@@ -86,12 +86,6 @@ ou vérifier tous les choix avant d’imprimer (settings)</translation>
         <translation>choix pour une option de l’imprimante&#x202f;; répétable, dans l’ordre</translation>
     </message>
     <message>
-        <source>where the built-in printer leaves its files
-(otherwise the current folder)</source>
-        <translation>où l’imprimante intégrée enregistre ses fichiers
-(sinon le dossier courant)</translation>
-    </message>
-    <message>
         <source>no window: apply the options, print, exit; what the window has
 saved is not used, so that a script gets the same each time</source>
         <translation>sans fenêtre&#x202f;: appliquer les options, imprimer, quitter&#x202f;; ce que la
@@ -250,6 +244,22 @@ et depuis son haut (sinon 50,50, le milieu)</translation>
     <message>
         <source>--crop is for --scaling fill or actual; with fit nothing is cropped.</source>
         <translation>--crop va avec --scaling fill ou actual&#x202f;; avec fit, rien n’est rogné.</translation>
+    </message>
+    <message>
+        <source>where the built-in printer leaves its files (otherwise the current
+folder; with a window, Prints in your Pictures folder)</source>
+        <translation>où l’imprimante intégrée enregistre ses fichiers (sinon le dossier
+courant ; avec une fenêtre, Prints dans votre dossier Images)</translation>
+    </message>
+    <message>
+        <source>--batch replaces files that the built-in printer has left before,
+instead of numbering the new ones; a photo is never replaced</source>
+        <translation>--batch remplace les fichiers déjà laissés par l’imprimante intégrée
+au lieu de numéroter les nouveaux ; une photo n’est jamais remplacée</translation>
+    </message>
+    <message>
+        <source>--overwrite is for --batch and --dry-run.</source>
+        <translation>--overwrite va avec --batch et --dry-run.</translation>
     </message>
 </context>
 <context>

@@ -86,12 +86,6 @@ or check all choices together before printing (settings)</source>
         <translation>プリンターのオプションを選ぶ。繰り返し可、順に適用</translation>
     </message>
     <message>
-        <source>where the built-in printer leaves its files
-(otherwise the current folder)</source>
-        <translation>内蔵プリンターがファイルを保存する場所
-(省略すると現在のフォルダー)</translation>
-    </message>
-    <message>
         <source>no window: apply the options, print, exit; what the window has
 saved is not used, so that a script gets the same each time</source>
         <translation>ウィンドウなし: オプションを適用し、印刷して終了する。
@@ -250,6 +244,22 @@ and from its top (otherwise 50,50, the middle)</source>
     <message>
         <source>--crop is for --scaling fill or actual; with fit nothing is cropped.</source>
         <translation>--crop は --scaling fill または actual と使います。fit では何も切り取られません。</translation>
+    </message>
+    <message>
+        <source>where the built-in printer leaves its files (otherwise the current
+folder; with a window, Prints in your Pictures folder)</source>
+        <translation>内蔵プリンターがファイルを保存する場所 (省略すると現在のフォルダー、
+ウィンドウでは画像フォルダーの Prints)</translation>
+    </message>
+    <message>
+        <source>--batch replaces files that the built-in printer has left before,
+instead of numbering the new ones; a photo is never replaced</source>
+        <translation>--batch で、内蔵プリンターが以前に保存したファイルを番号を付けずに
+置き換えます (写真が置き換えられることはありません)</translation>
+    </message>
+    <message>
+        <source>--overwrite is for --batch and --dry-run.</source>
+        <translation>--overwrite は --batch と --dry-run 用です。</translation>
     </message>
 </context>
 <context>

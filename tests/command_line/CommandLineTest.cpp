@@ -60,6 +60,7 @@ private Q_SLOTS:
     void takesChoicesInAnySpelling_data();
     void takesChoicesInAnySpelling();
     void keepsPhotosOfOneNameApart();
+    void replacesNoFileOfOthers();
     void namesWhatWasPrintedBeforeAFailure();
     void listsOptions();
     void listsTheBuiltInPrinter();
@@ -131,7 +132,8 @@ void CommandLineTest::takesChoicesInAnySpelling()
     QFETCH(QString, key);
     QFETCH(QString, choice);
     for (const QString &mode : {u"constraint"_s, u"settings"_s}) {
-        const ProgramRun run = print(QStringList{u"--mode"_s, mode, samplePhoto} + optionArguments(options));
+        const ProgramRun run =
+            print(QStringList{u"--mode"_s, mode, u"--overwrite"_s, samplePhoto} + optionArguments(options));
         QCOMPARE(run.err, QByteArray());
         QCOMPARE(ticketEntries(pathOf(u"out/sample.ticket.json"_s)).value(key), choice);
         QVERIFY(QFile::remove(pathOf(u"out/sample.ticket.json"_s)));
@@ -148,11 +150,30 @@ void CommandLineTest::keepsPhotosOfOneNameApart()
     QCOMPARE(QDir(pathOf(u"out"_s)).entryList({u"*.pdf"_s}).size(), 2);
 }
 
+// The photo is a JPEG file whose name is that of its page.
+void CommandLineTest::replacesNoFileOfOthers()
+{
+    const QString photo = pathOf(u"out/sample.pdf"_s);
+    QVERIFY(QDir(folder_->path()).mkdir(u"out"_s) && QFile::copy(samplePhoto, photo));
+    for (const auto &[options, name] : {std::pair(QStringList(), u"sample-2"_s),
+                                        {QStringList(u"--dry-run"_s), u"sample-3"_s},
+                                        {QStringList(u"--overwrite"_s), u"sample-2"_s},
+                                        {QStringList(), u"sample-3"_s}}) {
+        const ProgramRun run = print(options + QStringList(photo));
+        QCOMPARE(run.err, QByteArray());
+        QVERIFY2(run.out.contains('/' + name.toUtf8() + ".pdf"), run.out.constData());
+        QVERIFY(contentOf(photo) == contentOf(samplePhoto));
+    }
+    QCOMPARE(QDir(pathOf(u"out"_s)).entryList(QDir::Files),
+             QStringList({u"sample-2.pdf"_s, u"sample-2.ticket.json"_s, u"sample-3.pdf"_s,
+                          u"sample-3.ticket.json"_s, u"sample.pdf"_s}));
+}
+
 void CommandLineTest::namesWhatWasPrintedBeforeAFailure()
 {
     QVERIFY(QFile::copy(samplePhoto, pathOf(u"second.jpg"_s)));
     QVERIFY(QDir(folder_->path()).mkpath(u"out/second.pdf"_s));
-    const ProgramRun run = print({samplePhoto, pathOf(u"second.jpg"_s), samplePhoto});
+    const ProgramRun run = print({u"--overwrite"_s, samplePhoto, pathOf(u"second.jpg"_s), samplePhoto});
     QCOMPARE(run.out.count('\n'), 1);
     const QByteArray wrong = wrongInRefusal({run.status, {}, run.err}, 1, {u"second.pdf"_s, u"sample.jpg"_s});
     QVERIFY2(wrong.isEmpty(), wrong.constData());

@@ -1,14 +1,17 @@
 // SPDX-FileCopyrightText: Corvel print dialog authors
 // SPDX-License-Identifier: Apache-2.0
 
+#include "CommandLine.h"
 #include "ProgramRun.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QRegularExpression>
+#include <QtCore/QStandardPaths>
 #include <QtCore/QTemporaryDir>
 #include <QtGui/QTransform>
 #include <QtTest/QTest>
 
+using namespace printdialog;
 using namespace testing_support;
 using namespace Qt::StringLiterals;
 
@@ -33,6 +36,7 @@ private Q_SLOTS:
     void placement_data();
     void placement();
     void nameOfAnyBytes();
+    void outputFolder();
 };
 
 void PhotoArgumentsTest::placement_data()
@@ -83,6 +87,18 @@ void PhotoArgumentsTest::nameOfAnyBytes()
     const QString shown = u"caf\ufffd \u00e9"_s;
     QVERIFY2(QString::fromUtf8(run.out).contains(u"Printed %1.jpg"_s.arg(shown)), run.out.constData());
     QVERIFY2(QString::fromUtf8(run.out).contains(u"\n%1.pdf"_s.arg(shown)), run.out.constData());
+}
+
+// What a user of the window prints is not left in the folder that the desktop happens to start programs in.
+void PhotoArgumentsTest::outputFolder()
+{
+    const auto folderOf = [](const QStringList &arguments) {
+        return CommandLine::parse(QStringList{u"corvel-print"_s} + arguments)->outputFolder();
+    };
+    const QString pictures = QStandardPaths::writableLocation(QStandardPaths::PicturesLocation);
+    QCOMPARE(folderOf({samplePhoto}), pictures + u"/Prints"_s);
+    QCOMPARE(folderOf({samplePhoto, u"--batch"_s}), u"."_s);
+    QCOMPARE(folderOf({samplePhoto, u"--output=there"_s}), u"there"_s);
 }
 
 QTEST_GUILESS_MAIN(PhotoArgumentsTest)

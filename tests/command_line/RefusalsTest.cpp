@@ -88,6 +88,7 @@ void RefusalsTest::wrongUsage_data()
     row("waiting for nothing", {u"--wait"_s, u"5"_s, samplePhoto}, u"--wait"_s);
     row("waiting for no time", {u"--batch"_s, u"--wait"_s, u"-1"_s, samplePhoto}, u"\"-1\""_s);
     row("waiting without a number", {u"--batch"_s, u"--wait"_s, u"1h"_s, samplePhoto}, u"\"1h\""_s);
+    row("overwriting without --batch", {u"--overwrite"_s, samplePhoto}, u"--overwrite"_s);
     row("server without a name", {u"--server"_s, u":631"_s, samplePhoto}, u"\":631\""_s);
     row("server with a bad port", {u"--server"_s, u"host:99999"_s, samplePhoto}, u"host:99999"_s);
     row("server with more in it", {u"--server"_s, u"host/ipp print"_s, samplePhoto}, u"HOST:PORT"_s);

@@ -237,6 +237,14 @@ CORVEL_INTERPOSED int renameat(int fromFolder, const char *from, int toFolder, c
     return fails("rename", toFolder, to) ? -1 : real(&renameat, "renameat")(fromFolder, from, toFolder, to);
 }
 
+CORVEL_INTERPOSED int renameat2(int fromFolder, const char *from, int toFolder, const char *to,
+                                unsigned int flags)
+{
+    return fails("renameat2", toFolder, to)
+               ? -1
+               : real(&renameat2, "renameat2")(fromFolder, from, toFolder, to, flags);
+}
+
 CORVEL_INTERPOSED int mkdir(const char *path, mode_t mode)
 {
     return fails("mkdir", path) ? -1 : real(&mkdir, "mkdir")(path, mode);

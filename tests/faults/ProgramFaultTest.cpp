@@ -120,6 +120,8 @@ private Q_SLOTS:
     void callsFail();
     void noDescriptorsLeft();
     void diskIsFull();
+    void keepsEarlierFiles_data();
+    void keepsEarlierFiles();
     void killedAtEachCall_data();
     void killedAtEachCall();
     void killedWhilePrinting_data();
@@ -130,9 +132,12 @@ private:
     QStringList arguments(const QString &red) const
     {
         const QString size = red == u"7" ? u"5x7"_s : u"4x6"_s; // so that both files differ
-        return {
-            u"--batch"_s, u"--printer"_s,        u"built-in"_s, u"--output"_s,   folder_.filePath(u"out"_s),
-            u"-o"_s,      u"PageSize="_s + size, u"-o"_s,       u"Red="_s + red, photo()};
+        return {u"--batch"_s,   u"--overwrite"_s,
+                u"--printer"_s, u"built-in"_s,
+                u"--output"_s,  folder_.filePath(u"out"_s),
+                u"-o"_s,        u"PageSize="_s + size,
+                u"-o"_s,        u"Red="_s + red,
+                photo()};
     }
     QString photo() const { return folder_.filePath(u"photo.jpg"_s); }
     /// The two files by name, and whatever else is in the folder.
@@ -288,6 +293,49 @@ void ProgramFaultTest::diskIsFull()
         QCOMPARE(ended.run.status, 1);
         QVERIFY2(limit <= 1 || ended.run.err.contains("There is no space for"), ended.run.err.constData());
     }
+}
+
+void ProgramFaultTest::keepsEarlierFiles_data()
+{
+    QTest::addColumn<QByteArray>("call");
+    QTest::addColumn<int>("error");
+    QTest::addColumn<int>("number");
+    QTest::addColumn<QString>("name"); // of the new files; empty: there are none
+    QTest::newRow("no renaming without replacing") << QByteArray("renameat2") << EINVAL << 1 << u"photo-2"_s;
+    QTest::newRow("taken at the last moment") << QByteArray("renameat2") << EEXIST << 2 << u"photo-3"_s;
+    QTest::newRow("page") << QByteArray("renameat2") << EIO << 1 << QString();
+    QTest::newRow("ticket") << QByteArray("renameat2") << EIO << 2 << QString();
+}
+
+// Without being told to overwrite: the new files get another name, both or neither.
+void ProgramFaultTest::keepsEarlierFiles()
+{
+    QFETCH(QByteArray, call);
+    QFETCH(int, error);
+    QFETCH(int, number);
+    QFETCH(QString, name);
+    QVERIFY(putOldBack());
+    QStringList numbering = arguments(u"7"_s);
+    numbering.removeOne(u"--overwrite"_s);
+    const QString out = folder_.filePath(u"out"_s);
+    const Fault fault{call, error, number, QFile::encodeName(out)};
+    const QString report = folder_.filePath(u"report"_s);
+    const Ended ended = runLimited(
+        numbering, {{u"LD_PRELOAD"_s, QStringLiteral(CORVEL_PRELOADED_FAULTS)},
+                    {u"ASAN_OPTIONS"_s, u"verify_asan_link_order=0"_s},
+                    {u"CORVEL_FAULT"_s, QString::fromUtf8(faultVariable(fault, QFile::encodeName(report)))}});
+    QVERIFY2(ended.wrong().isEmpty() && QFile::remove(report), ended.wrong().constData());
+    QCOMPARE(ended.run.status == 0, !name.isEmpty());
+    QMap<QString, QByteArray> files = left();
+    for (auto old = old_.cbegin(); old != old_.cend(); ++old)
+        QCOMPARE(files.take(old.key()), old.value());
+    if (!name.isEmpty()) {
+        QCOMPARE(files.take(name + u".pdf"_s), new_.first());
+        QVERIFY(files.take(name + u".ticket.json"_s).startsWith('{'));
+        QVERIFY(QFile::remove(out + u'/' + name + u".pdf"_s) &&
+                QFile::remove(out + u'/' + name + u".ticket.json"_s));
+    }
+    QVERIFY2(files.isEmpty(), qPrintable(files.keys().join(u' ')));
 }
 
 bool ProgramFaultTest::isEachWhole() const

@@ -45,6 +45,7 @@ class AtomicFilesTest : public QObject
 
 private Q_SLOTS:
     void nothingIsSeenBeforeItIsWhole();
+    void keepsAFileThatAppearsMeanwhile();
     void killedAtAnyMoment();
     void staleFilesGo();
 };
@@ -70,6 +71,19 @@ void AtomicFilesTest::nothingIsSeenBeforeItIsWhole()
     struct stat status = {};
     QCOMPARE(::stat(QFile::encodeName(folder.filePath(u"file"_s)).constData(), &status), 0);
     QCOMPARE(status.st_mode & 0777, mode_t(0600));
+}
+
+void AtomicFilesTest::keepsAFileThatAppearsMeanwhile()
+{
+    const QTemporaryDir folder;
+    auto files = AtomicFiles::open(folder.path());
+    QVERIFY(files && files->add(u"first"_s) && files->add(u"file"_s));
+    QVERIFY(replace(folder.path(), 'a'));
+    const auto failed = files->commit(AtomicFiles::Earlier::Kept);
+    QVERIFY(!failed);
+    QCOMPARE(failed.failure().reason, OutputFault::NameTaken);
+    QCOMPARE(contentOf(folder.filePath(u"file"_s)), QByteArray(contentSize, 'a'));
+    QCOMPARE(QDir(folder.path()).entryList(QDir::Files | QDir::Hidden), QStringList{u"file"_s});
 }
 
 // A process that replaces the file again and again is killed: what is left is one of its contents, whole.

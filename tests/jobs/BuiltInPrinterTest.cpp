@@ -75,6 +75,8 @@ private:
 private Q_SLOTS:
     void init() { folder_ = std::make_unique<QTemporaryDir>(); }
     void leavesThePair();
+    void keepsWhatIsThere_data();
+    void keepsWhatIsThere();
     void names_data();
     void names();
     void failuresLeaveNothing_data();
@@ -84,13 +86,13 @@ private Q_SLOTS:
 void BuiltInPrinterTest::leavesThePair()
 {
     const QByteArray jpeg = samples::encoded(samples::quarters(QSize(30, 20)), "jpeg");
-    PrintedNames names;
     const QString output = pathOf(u"new/out"_s);
+    PrintedNames names({output});
     for (const QString &source : {u"a"_s, u"b"_s}) {
         QDir(folder_->path()).mkdir(source);
         samples::store(pathOf(source + u"/photo.jpg"_s), jpeg);
         const auto photo = Photo::open(pathOf(source + u"/photo.jpg"_s));
-        const auto files = BuiltInPrinter::print(*photo, usualJob(), output, &names);
+        const auto files = BuiltInPrinter::print(*photo, usualJob(), names);
         QVERIFY2(files, files ? "" : qPrintable(files.failure().text));
         const QString name = source == u"a" ? u"photo"_s : u"photo-2"_s;
         QCOMPARE(files->pdf, output + u'/' + name + u".pdf"_s);
@@ -107,11 +109,49 @@ void BuiltInPrinterTest::leavesThePair()
         QCOMPARE(QJsonDocument::fromJson(ticket).object(), expected);
         QVERIFY(ticket.contains("\n    \"printer\""));
     }
-    // A later run replaces what an earlier one left.
-    samples::store(output + u"/photo.pdf"_s, "old");
-    QVERIFY(BuiltInPrinter::print(*Photo::open(pathOf(u"a/photo.jpg"_s)), usualJob(), output));
-    QVERIFY(samples::load(output + u"/photo.pdf"_s).startsWith("%PDF"));
     QCOMPARE(contentOf(output).size(), 4);
+}
+
+void BuiltInPrinterTest::keepsWhatIsThere_data()
+{
+    QTest::addColumn<QStringList>("earlier");
+    QTest::addColumn<bool>("isOverwritten");
+    QTest::addColumn<QString>("name");
+    QTest::newRow("nothing") << QStringList() << false << u"photo"_s;
+    QTest::newRow("a page") << QStringList{u"photo.pdf"_s} << false << u"photo-2"_s;
+    QTest::newRow("a ticket") << QStringList{u"photo.ticket.json"_s} << false << u"photo-2"_s;
+    QTest::newRow("half of each") << QStringList{u"photo.pdf"_s, u"photo-2.ticket.json"_s} << false
+                                  << u"photo-3"_s;
+    QTest::newRow("overwritten") << QStringList{u"photo.pdf"_s, u"photo.ticket.json"_s} << true << u"photo"_s;
+    // Photos may have such names; they are JPEG files all the same.
+    QTest::newRow("a photo") << QStringList{u"photo.pdf"_s, u"a photo"_s} << false << u"photo-2"_s;
+    QTest::newRow("a photo, overwritten")
+        << QStringList{u"photo.pdf"_s, u"a photo"_s} << true << u"photo-2"_s;
+}
+
+void BuiltInPrinterTest::keepsWhatIsThere()
+{
+    QFETCH(QStringList, earlier);
+    QFETCH(const bool, isOverwritten);
+    QFETCH(const QString, name);
+    OutputFolder folder{folder_->path(), isOverwritten};
+    if (earlier.removeOne(u"a photo"_s))
+        folder.photos.append(folder_->path() + u"/./photo.pdf"_s); // named otherwise than its page would be
+    for (const QString &file : std::as_const(earlier))
+        samples::store(pathOf(file), "earlier");
+    samples::store(pathOf(u"photo.jpg"_s), samples::encoded(samples::quarters(QSize(30, 20)), "jpeg"));
+    const auto before = contentOf(folder_->path());
+
+    PrintedNames names(folder);
+    const auto files = BuiltInPrinter::print(*Photo::open(pathOf(u"photo.jpg"_s)), usualJob(), names);
+    QVERIFY2(files, files ? "" : qPrintable(files.failure().text));
+    QCOMPARE(files->pdf, pathOf(name + u".pdf"_s));
+    QCOMPARE(files->ticket, pathOf(name + u".ticket.json"_s));
+    auto after = contentOf(folder_->path());
+    QVERIFY(after.take(files->pdf).startsWith("%PDF") && after.take(files->ticket).startsWith('{'));
+    for (const QString &file : std::as_const(earlier))
+        QVERIFY(!after.contains(pathOf(file)) || after.value(pathOf(file)) == "earlier");
+    QCOMPARE(after.size(), before.size() - (name == u"photo"_s ? earlier.size() : 0));
 }
 
 void BuiltInPrinterTest::names_data()
@@ -133,9 +173,9 @@ void BuiltInPrinterTest::names()
 {
     QFETCH(const QString, photo);
     QFETCH(const QString, name);
-    PrintedNames names;
-    names.take(u"taken"_s);
-    names.take(u"taken-2"_s);
+    PrintedNames names({folder_->path()});
+    names.markTaken(u"taken"_s);
+    names.markTaken(u"taken-2"_s);
     QCOMPARE(names.nameFor(photo), name);
 }
 
@@ -183,7 +223,7 @@ void BuiltInPrinterTest::failuresLeaveNothing()
         job.page = {};
 
     const auto before = contentOf(folder_->path());
-    PrintedNames names;
+    PrintedNames names({pathOf(output), true});
     const auto files = [&] {
         std::optional<FullDisk> fullDisk;
         std::optional<samples::OrdinaryRights> rights;
@@ -194,7 +234,7 @@ void BuiltInPrinterTest::failuresLeaveNothing()
             QFile::setPermissions(pathOf(u"locked"_s), QFile::Permissions(0x5555));
             rights.emplace();
         }
-        return BuiltInPrinter::print(*photo, job, pathOf(output), &names);
+        return BuiltInPrinter::print(*photo, job, names);
     }();
     QVERIFY(!files);
     QCOMPARE(files.failure().reason, fault);
