@@ -13,6 +13,8 @@
 
 #include <QtCore/QCoreApplication>
 
+#include <algorithm>
+
 using namespace std::chrono_literals;
 
 namespace printdialog {
@@ -52,6 +54,16 @@ RequestedSessionResult openQueueNamed(const QString &id, PanelMode mode)
                                      : openRawQueue(opened->queue, mode));
 }
 
+/// The sentences on one line, however many there are.
+QString oneLine(const QStringList &sentences)
+{
+    constexpr qsizetype most = 3;
+    QString line = sentences.first(std::min(sentences.size(), most)).join(u' ');
+    if (sentences.size() > most)
+        line += u' ' + Text::tr("And %n more.", nullptr, static_cast<int>(sentences.size() - most));
+    return line;
+}
+
 /// Takes the number of copies out of the choices.
 void takeCopies(QMap<QString, QString> &choices, const QString &preset, RequestedJob &job)
 {
@@ -85,9 +97,12 @@ QString usePreset(RequestedJob &job)
         if (!printer.hasPpd)
             return {};
         const auto rulings = job.session->restoreChoices(choices, DialogSession::Unnamed::Default);
+        QStringList sentences;
         for (const Ruling &ruling : rulings)
-            job.leftOut += Text::tr("Of the preset \"%1\" is left out: %2")
-                               .arg(name, ChoiceExplanation(ppd).refusal(ruling));
+            sentences += Text::tr("Of the preset \"%1\" is left out: %2")
+                             .arg(name, ChoiceExplanation(ppd).refusal(ruling));
+        if (!sentences.isEmpty())
+            job.leftOut += oneLine(sentences);
         return {};
     }
     return {};
@@ -117,8 +132,11 @@ Result<RequestedJob, std::monostate> openRequestedJob(const CommandLine &command
     if (!opened)
         return opened.failure();
     RequestedJob job{*std::move(opened), 1, {}};
-    if (const auto failure = job.session->loadPanels())
-        return refusal(failure->text);
+    if (const auto failure = job.session->loadPanels()) {
+        if (failure->reason != PluginFault::NotFound)
+            return refusal(failure->text);
+        job.leftOut += failure->text;
+    }
     const PrinterDescription &printer = job.session->printer();
     if (!printer.hasPpd && !commandLine.options.isEmpty())
         return refusal(

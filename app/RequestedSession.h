@@ -24,13 +24,14 @@ RequestedSessionResult openRequestedPrinter(const CommandLine &commandLine);
 struct RequestedJob
 {
     std::unique_ptr<DialogSession> session;
-    int copies = 1;      ///< of the preset
-    QStringList leftOut; ///< a sentence for each choice of the preset that the printer does not have
+    int copies = 1; ///< of the preset
+    QStringList
+        leftOut; ///< a line about choices of the preset, and one about panels, that there are not here
 };
 
 /// The same with its panels loaded, for a run without a window: with the preset that the printer's name
-/// names ("queue/preset"), as lp(1) prints it, and then the options in their order. A plug-in that cannot be
-/// loaded is a failure, and so is any option that does not become the job's.
+/// names ("queue/preset"), as lp(1) prints it, and then the options in their order. A plug-in that is
+/// installed and cannot be loaded is a failure, and so is any option that does not become the job's.
 Result<RequestedJob, std::monostate> openRequestedJob(const CommandLine &commandLine);
 
 } // namespace printdialog

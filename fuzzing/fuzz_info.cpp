@@ -28,7 +28,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
         }
     }
     qputenv("CORVEL_PDE_PATH", QFile::encodeName(folders));
-    const auto loaded = printdialog::PluginLoader::load(name);
+    const auto loaded = printdialog::PluginLoader::load({name});
     fuzzing::require(!loaded && loaded.failure().text.contains(name), "a refusal names the bundle");
     return 0;
 }

@@ -41,10 +41,10 @@ DialogSession::~DialogSession() = default;
 
 std::optional<Failure<PluginFault>> DialogSession::loadPanels()
 {
-    const std::optional<QString> name = ppd_.requestedBundle();
-    if (!name)
+    const QStringList names = ppd_.requestedBundles();
+    if (names.isEmpty())
         return std::nullopt;
-    const auto plugin = PluginLoader::load(*name);
+    const auto plugin = PluginLoader::load(names);
     if (!plugin)
         return plugin.failure();
     auto panels = PluginLoader::panels(*plugin, callback_);

@@ -4,6 +4,7 @@
 #include "PluginLoader.h"
 
 #include "CorvelPaths.h"
+#include "PlainText.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QDir>
@@ -25,7 +26,7 @@ Failure<PluginFault> failure(PluginFault fault, const QString &text, const QStri
     return {fault, text, detail};
 }
 
-bool isPlainName(const QString &name)
+bool isBundleName(const QString &name)
 {
     return name.endsWith(QLatin1String(".bundle")) && !name.startsWith(QLatin1Char('.')) &&
            !name.contains(QLatin1Char('/')) && !name.contains(QChar::Null);
@@ -38,13 +39,17 @@ QString installedFolder()
                            QLatin1String("/" CORVEL_PDE_FROM_PROGRAM));
 }
 
-std::optional<QString> findBundle(const QString &name)
+std::optional<QString> findBundle(const QStringList &names)
 {
     const QStringList folders = PluginLoader::folders();
-    for (const QString &folder : folders) {
-        const QString path = QDir(folder).absoluteFilePath(name);
-        if (QFileInfo(path).isDir())
-            return path;
+    for (const QString &name : names) {
+        if (!isBundleName(name))
+            continue;
+        for (const QString &folder : folders) {
+            const QString path = QDir(folder).absoluteFilePath(name);
+            if (QFileInfo(path).isDir())
+                return path;
+        }
     }
     return std::nullopt;
 }
@@ -83,20 +88,15 @@ QStringList PluginLoader::folders()
     return folders;
 }
 
-Result<LoadedPlugin, PluginFault> PluginLoader::load(const QString &name)
+Result<LoadedPlugin, PluginFault> PluginLoader::load(const QStringList &names)
 {
-    if (!isPlainName(name)) {
-        return failure(
-            PluginFault::BadName,
-            Text::tr("The printer's PPD asks for the plug-in bundle \"%1\", which is no bundle's name. "
-                     "Use a PPD made for this printer.")
-                .arg(name));
-    }
-    const std::optional<QString> path = findBundle(name);
+    const std::optional<QString> path = findBundle(names);
     if (!path) {
-        return failure(PluginFault::NotFound,
-                       Text::tr("The plug-in bundle \"%1\" was not found in %2. Install it there.")
-                           .arg(name, folders().join(QLatin1String(", "))));
+        return failure(
+            PluginFault::NotFound,
+            Text::tr("The printer's own panels (%1) are not installed in %2; it prints without them.")
+                .arg(plainText(names.join(QLatin1String(", ")), shownTextLimit),
+                     folders().join(QLatin1String(", "))));
     }
     pdekit::BundleFault fault = {};
     std::optional<pdekit::Bundle> bundle = pdekit::Bundle::open(*path, &fault);

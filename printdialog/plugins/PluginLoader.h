@@ -13,8 +13,7 @@ namespace printdialog {
 
 /// Why a plug-in offers no panels.
 enum class PluginFault {
-    BadName,     ///< the name asked for is not a plain file name
-    NotFound,    ///< no plug-in folder holds a bundle of that name
+    NotFound,    ///< no plug-in folder holds a bundle of any of the names; nothing is wrong with the printer
     BrokenInfo,  ///< its Info.json is missing, too large, not JSON, or lacks what a bundle needs
     NotLoadable, ///< its module is missing or the dynamic linker refuses it
     NotAPlugin,  ///< its module is no print-dialog plug-in
@@ -37,9 +36,10 @@ public:
     /// (separated by colons; for development), then the installed one.
     static QStringList folders();
 
-    /// Loads the bundle `name` (a plain file name) from the first folder that has it. Its Info.json is
-    /// checked, and the metadata of its module, before any of its code runs.
-    static Result<LoadedPlugin, PluginFault> load(const QString &name);
+    /// Loads the first of the bundles (plain file names) that is installed, from the first folder that has
+    /// it. Its Info.json is checked, and the metadata of its module, before any of its code runs. A PPD may
+    /// name extensions of other systems' dialogs as well, which are not looked for.
+    static Result<LoadedPlugin, PluginFault> load(const QStringList &names);
 
     /// The plug-in's panels over the callback object; at least one.
     static Result<pdekit::PanelList, PluginFault> panels(const LoadedPlugin &plugin,

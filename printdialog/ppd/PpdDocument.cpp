@@ -94,16 +94,17 @@ std::optional<PageSize> PpdDocument::pageSize(const QString &keyword) const
     return pageSizes_.at(*index);
 }
 
-std::optional<QString> PpdDocument::requestedBundle() const
+QStringList PpdDocument::requestedBundles() const
 {
+    QStringList names;
     for (const ppd_attr_t *attribute = ppdFindAttr(record_.get(), "APDialogExtension", nullptr); attribute;
          attribute = ppdFindNextAttr(record_.get(), "APDialogExtension", nullptr)) {
         const QString path = QString::fromUtf8(attribute->value);
         const QString name = path.sliced(path.lastIndexOf(u'/') + 1);
-        if (isPlainFileName(name))
-            return name;
+        if (isPlainFileName(name) && !names.contains(name))
+            names += name;
     }
-    return std::nullopt;
+    return names;
 }
 
 } // namespace printdialog

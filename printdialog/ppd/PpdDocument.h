@@ -94,9 +94,10 @@ public:
     const QList<PageSize> &pageSizes() const { return pageSizes_; }
     std::optional<PageSize> pageSize(const QString &keyword) const;
 
-    /// The bundle that the PPD asks for by its attribute APDialogExtension: a plain file name, never a path.
-    /// Only the last component is believed, since the PPD may come from another machine.
-    std::optional<QString> requestedBundle() const;
+    /// The dialog extensions that the PPD asks for by its attributes APDialogExtension, in its order: plain
+    /// file names, never paths. Only the last component is believed, since the PPD may come from another
+    /// machine.
+    QStringList requestedBundles() const;
 
 private:
     struct Option;

@@ -9,12 +9,15 @@
 
 #include <QtCore/QCoreApplication>
 
+#include <array>
 #include <cerrno>
 #include <fcntl.h>
+#include <memory>
 #include <sys/mman.h>
 #include <sys/stat.h>
 #include <unistd.h>
 #include <utility>
+#include <zlib.h>
 
 using pdekit::FileDescriptor;
 
@@ -30,6 +33,47 @@ struct Text
 Failure<PpdFault> failure(PpdFault fault, const QString &text, const QString &path)
 {
     return {fault, text.arg(plainText(path, 300)), {}};
+}
+
+const QByteArray gzipMagic = "\x1f\x8b";
+
+Failure<PpdFault> damagedArchive(const QString &path, const QString &reason)
+{
+    return {
+        PpdFault::CutOff,
+        Text::tr("The compressed PPD \"%1\" cannot be expanded: %2; copy it again from where it came from.")
+            .arg(plainText(path, 300), reason),
+        {}};
+}
+
+/// What gunzip(1) makes of it. One byte more than allowed stands for all that is too large.
+Result<QByteArray, PpdFault> expanded(const QByteArray &compressed, const QString &path)
+{
+    z_stream stream = {};
+    if (inflateInit2(&stream, MAX_WBITS + 16) != Z_OK) // 16: with a header of gzip
+        return ppdNotReadable(path, ENOMEM);
+    const std::unique_ptr<z_stream, int (*)(z_stream *)> owner(&stream, inflateEnd);
+    // zlib does not write to its input, though its type says so.
+    stream.next_in = reinterpret_cast<Bytef *>(const_cast<char *>(compressed.constData()));
+    stream.avail_in = static_cast<uInt>(compressed.size());
+    QByteArray bytes;
+    std::array<char, 65536> chunk = {};
+    while (bytes.size() <= PpdLimits::bytes) {
+        stream.next_out = reinterpret_cast<Bytef *>(chunk.data());
+        stream.avail_out = chunk.size();
+        const int status = inflate(&stream, Z_NO_FLUSH);
+        bytes.append(chunk.data(), static_cast<qsizetype>(chunk.size() - stream.avail_out));
+        // A file may hold several of them, one behind the other.
+        const bool goesOn = status == Z_STREAM_END && stream.avail_in > 0;
+        if (status == Z_STREAM_END && !goesOn)
+            return bytes;
+        if (goesOn ? inflateReset(&stream) != Z_OK : status == Z_BUF_ERROR)
+            return damagedArchive(path, Text::tr("its end is missing"));
+        if (!goesOn && status != Z_OK)
+            return damagedArchive(path, Text::tr("it is damaged"));
+    }
+    bytes.truncate(PpdLimits::bytes + 1);
+    return bytes;
 }
 
 Failure<PpdFault> notRegular(const QString &path, mode_t mode)
@@ -88,7 +132,7 @@ Result<QByteArray, PpdFault> readPpdFile(const QString &path)
         size += count;
     }
     bytes.resize(size);
-    return bytes;
+    return bytes.startsWith(gzipMagic) ? expanded(bytes, path) : Result<QByteArray, PpdFault>(bytes);
 }
 
 int ppdInMemory(const QByteArray &bytes)

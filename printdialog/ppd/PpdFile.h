@@ -7,7 +7,8 @@
 
 namespace printdialog {
 
-/// The bytes of a regular file of at most PpdLimits::bytes. Refuses everything else without blocking on it.
+/// The PPD in a regular file, at most PpdLimits::bytes of it; expanded when it is compressed by gzip, as
+/// those that CUPS brings with it are. Refuses everything else without blocking on it.
 Result<QByteArray, PpdFault> readPpdFile(const QString &path);
 
 /// A descriptor at the start of a nameless file in memory that holds the bytes; the caller closes it. -1 with

@@ -99,12 +99,6 @@ private:
         if (data_.size() > Limits::bytes)
             return fetchAgain(PpdFault::TooLarge,
                               tr("it is larger than %1 MiB").arg(number(Limits::bytes >> 20)));
-        if (data_.startsWith("\x1f\x8b")) {
-            failure_ = {PpdFault::NotAPpd,
-                        tr("The PPD \"%1\" is compressed; unpack it with gunzip first.").arg(name_),
-                        {}};
-            return false;
-        }
         if (!data_.startsWith("*PPD-Adobe:") || looksBinary(data_)) {
             failure_ = {PpdFault::NotAPpd,
                         tr("\"%1\" is not a PPD, which is a text that begins with \"*PPD-Adobe:\"; "
@@ -124,8 +118,8 @@ private:
                 return fetchAgain(
                     PpdFault::CutOff,
                     tr("it is cut off: the quote opened in line %1 never closes").arg(line->number));
-            if (!line->complete && !isPadding(*line))
-                return fetchAgain(PpdFault::CutOff, tr("it is cut off in line %1").arg(line->number));
+            lacksLineEnd_ = !line->complete && !isPadding(*line);
+            lastLine_ = line->number;
             if (line->end - line->begin > Limits::entryBytes)
                 return correct(PpdFault::Malformed, tr("the value in line %1 is longer than %2 bytes")
                                                         .arg(line->number)
@@ -248,13 +242,16 @@ private:
 
     bool inspectEnd()
     {
+        // Real PPDs forget the line that closes an option, or the end of their last line; libcups minds
+        // neither. Both at once are what is left of a file that was cut off.
+        const bool isOpen = !option_.isEmpty() || groupLine_ > 0;
+        if (isOpen && lacksLineEnd_)
+            return fetchAgain(PpdFault::CutOff, tr("it is cut off in line %1").arg(lastLine_));
         if (!option_.isEmpty())
-            return fetchAgain(PpdFault::CutOff,
-                              tr("it is cut off: the option \"%1\" opened in line %2 never closes")
-                                  .arg(shown(option_), number(optionLine_)));
+            notes_ += tr("The option \"%1\" opened in line %2 never closes.")
+                          .arg(shown(option_), number(optionLine_));
         if (groupLine_ > 0)
-            return fetchAgain(PpdFault::CutOff,
-                              tr("it is cut off: the group opened in line %1 never closes").arg(groupLine_));
+            notes_ += tr("The group opened in line %1 never closes.").arg(groupLine_);
         // For each constraint libcups walks through the choices of the options that it names.
         qint64 cost = 0;
         for (auto it = constraintsOn_.cbegin(); it != constraintsOn_.cend(); ++it)
@@ -294,10 +291,11 @@ private:
     /// Line ends stay, so that libcups counts the lines as people do.
     QByteArray withoutDropped() const
     {
+        const QByteArray lineEnd = lacksLineEnd_ ? "\n" : "";
         if (dropped_.empty())
-            return data_;
+            return lineEnd.isEmpty() ? data_ : data_ + lineEnd;
         QByteArray kept;
-        kept.reserve(data_.size());
+        kept.reserve(data_.size() + lineEnd.size());
         qsizetype position = 0;
         for (const PpdLine &line : dropped_) {
             kept.append(data_.constData() + position, line.begin - position);
@@ -305,7 +303,7 @@ private:
                          [](char byte) { return byte == '\r' || byte == '\n'; });
             position = line.end;
         }
-        return kept.append(data_.constData() + position, data_.size() - position);
+        return kept.append(data_.constData() + position, data_.size() - position).append(lineEnd);
     }
 
     bool fetchAgain(PpdFault fault, const QString &reason)
@@ -333,6 +331,8 @@ private:
     QString name_;
     Failure<PpdFault> failure_{PpdFault::Malformed, {}, {}};
     std::vector<PpdLine> dropped_;
+    bool lacksLineEnd_ = false; // the last line
+    int lastLine_ = 0;
     QStringList notes_;
     int noteCount_ = 0;
 

@@ -52,15 +52,15 @@ struct PpdLimits
 /// A PPD that passed.
 struct PpdInspection
 {
-    QByteArray bytes; ///< What libcups may parse: the same lines, the dropped ones empty.
+    QByteArray bytes; ///< What libcups may parse: the same lines, the dropped ones empty, the last one ended.
     QStringList
         notes; ///< One sentence for each thing that was dropped, at most PpdLimits::notes and a last one.
 };
 
 /// Looks at an untrusted PPD before libcups does, without libcups, in time linear in its size. Refuses what
-/// is no PPD, is cut off or too much; drops a single bad line (a choice whose keyword is not printable ASCII
-/// or is too long) with a note, so that an odd PPD keeps its queue. `name` is what people call the PPD: a
-/// file, a queue. Reentrant. Rules: Adobe's PPD specification 4.3 as far as libcups keeps it.
+/// is no PPD, ends within a quoted value or is too much; drops a single bad line (a choice whose keyword is
+/// not printable ASCII or is too long) with a note, so that an odd PPD keeps its queue. `name` is what people
+/// call the PPD: a file, a queue. Reentrant. Rules: Adobe's PPD specification 4.3 as far as libcups keeps it.
 Result<PpdInspection, PpdFault> inspectPpd(const QByteArray &data, const QString &name);
 
 } // namespace printdialog

@@ -223,7 +223,9 @@ void PrintDialog::takeSession(std::unique_ptr<DialogSession> session)
     choices_->start();
     ui_->panels->setSession(session_.get());
     if (noPanels)
-        ui_->message->show(MessageBar::Kind::Error, noPanels->text);
+        ui_->message->show(noPanels->reason == PluginFault::NotFound ? MessageBar::Kind::Information
+                                                                     : MessageBar::Kind::Error,
+                           noPanels->text);
     else if (!session_->printer().hasPpd && message().isEmpty())
         ui_->message->show(
             MessageBar::Kind::Information,

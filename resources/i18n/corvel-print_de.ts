@@ -501,14 +501,6 @@ die neuen zu nummerieren; ein Foto wird nie ersetzt</translation>
         <translation>Das Plug-in-Paket „%1“ kann nicht verwendet werden: %2. Installieren Sie es erneut.</translation>
     </message>
     <message>
-        <source>The printer&apos;s PPD asks for the plug-in bundle &quot;%1&quot;, which is no bundle&apos;s name. Use a PPD made for this printer.</source>
-        <translation>Die PPD-Datei des Druckers verlangt das Plug-in-Paket „%1“; so kann kein Paket heißen. Verwenden Sie eine PPD-Datei, die für diesen Drucker gemacht ist.</translation>
-    </message>
-    <message>
-        <source>The plug-in bundle &quot;%1&quot; was not found in %2. Install it there.</source>
-        <translation>Das Plug-in-Paket „%1“ wurde in %2 nicht gefunden. Installieren Sie es dort.</translation>
-    </message>
-    <message>
         <source>it has no module &quot;%1&quot;</source>
         <translation>es hat kein Modul „%1“</translation>
     </message>
@@ -523,6 +515,10 @@ die neuen zu nummerieren; ein Foto wird nie ersetzt</translation>
     <message>
         <source>it offers no panel for this printer</source>
         <translation>es bietet keine Seite für diesen Drucker</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s own panels (%1) are not installed in %2; it prints without them.</source>
+        <translation>Die eigenen Seiten des Druckers (%1) sind in %2 nicht installiert; er druckt ohne sie.</translation>
     </message>
 </context>
 <context>
@@ -605,6 +601,18 @@ die neuen zu nummerieren; ein Foto wird nie ersetzt</translation>
         <source>The PPD &quot;%1&quot; cannot be read: %2; check the file and its permissions.</source>
         <translation>Die PPD-Datei „%1“ kann nicht gelesen werden: %2; prüfen Sie die Datei und ihre Zugriffsrechte.</translation>
     </message>
+    <message>
+        <source>The compressed PPD &quot;%1&quot; cannot be expanded: %2; copy it again from where it came from.</source>
+        <translation>Die komprimierte PPD „%1“ lässt sich nicht entpacken: %2; kopieren Sie sie noch einmal von ihrem Ursprung.</translation>
+    </message>
+    <message>
+        <source>its end is missing</source>
+        <translation>das Ende fehlt</translation>
+    </message>
+    <message>
+        <source>it is damaged</source>
+        <translation>sie ist beschädigt</translation>
+    </message>
 </context>
 <context>
     <name>PpdInspection</name>
@@ -625,20 +633,12 @@ die neuen zu nummerieren; ein Foto wird nie ersetzt</translation>
         <translation>sie ist größer als %1 MiB</translation>
     </message>
     <message>
-        <source>The PPD &quot;%1&quot; is compressed; unpack it with gunzip first.</source>
-        <translation>Die PPD-Datei „%1“ ist komprimiert; entpacken Sie sie zuerst mit gunzip.</translation>
-    </message>
-    <message>
         <source>&quot;%1&quot; is not a PPD, which is a text that begins with &quot;*PPD-Adobe:&quot;; name the printer&apos;s PPD file.</source>
         <translation>„%1“ ist keine PPD-Datei, also kein Text, der mit „*PPD-Adobe:“ beginnt; nennen Sie die PPD-Datei des Druckers.</translation>
     </message>
     <message>
         <source>it is cut off: the quote opened in line %1 never closes</source>
         <translation>sie ist abgeschnitten: das in Zeile %1 geöffnete Anführungszeichen wird nie geschlossen</translation>
-    </message>
-    <message>
-        <source>it is cut off in line %1</source>
-        <translation>sie ist in Zeile %1 abgeschnitten</translation>
     </message>
     <message>
         <source>the value in line %1 is longer than %2 bytes</source>
@@ -705,14 +705,6 @@ die neuen zu nummerieren; ein Foto wird nie ersetzt</translation>
         <translation>Einschränkungen</translation>
     </message>
     <message>
-        <source>it is cut off: the option &quot;%1&quot; opened in line %2 never closes</source>
-        <translation>sie ist abgeschnitten: die in Zeile %2 begonnene Option „%1“ wird nie beendet</translation>
-    </message>
-    <message>
-        <source>it is cut off: the group opened in line %1 never closes</source>
-        <translation>sie ist abgeschnitten: die in Zeile %1 begonnene Gruppe wird nie beendet</translation>
-    </message>
-    <message>
         <source>its constraints name options with too many choices</source>
         <translation>die Einschränkungen betreffen Optionen mit zu vielen Auswahlmöglichkeiten</translation>
     </message>
@@ -743,6 +735,18 @@ die neuen zu nummerieren; ein Foto wird nie ersetzt</translation>
     <message>
         <source>The PPD &quot;%1&quot; cannot be used: %2; %3.</source>
         <translation>Die PPD-Datei „%1“ kann nicht verwendet werden: %2; %3.</translation>
+    </message>
+    <message>
+        <source>The option &quot;%1&quot; opened in line %2 never closes.</source>
+        <translation>Die in Zeile %2 begonnene Option „%1“ endet nirgends.</translation>
+    </message>
+    <message>
+        <source>The group opened in line %1 never closes.</source>
+        <translation>Die in Zeile %1 begonnene Gruppe endet nirgends.</translation>
+    </message>
+    <message>
+        <source>it is cut off in line %1</source>
+        <translation>sie ist in Zeile %1 abgeschnitten</translation>
     </message>
 </context>
 <context>
@@ -911,6 +915,13 @@ die neuen zu nummerieren; ein Foto wird nie ersetzt</translation>
     <message>
         <source>Of the preset &quot;%1&quot; is left out: %2</source>
         <translation>Von der Voreinstellung „%1“ bleibt weg: %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>And %n more.</source>
+        <translation>
+            <numerusform>Und %n weitere.</numerusform>
+            <numerusform>Und %n weitere.</numerusform>
+        </translation>
     </message>
 </context>
 <context>

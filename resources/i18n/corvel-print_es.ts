@@ -500,14 +500,6 @@ en lugar de numerar los nuevos; una foto nunca se reemplaza</translation>
         <translation>No se puede usar el complemento «%1»: %2. Instálelo de nuevo.</translation>
     </message>
     <message>
-        <source>The printer&apos;s PPD asks for the plug-in bundle &quot;%1&quot;, which is no bundle&apos;s name. Use a PPD made for this printer.</source>
-        <translation>El PPD de la impresora pide el complemento «%1», que no es el nombre de un complemento. Use un PPD hecho para esta impresora.</translation>
-    </message>
-    <message>
-        <source>The plug-in bundle &quot;%1&quot; was not found in %2. Install it there.</source>
-        <translation>No se ha encontrado el complemento «%1» en %2. Instálelo allí.</translation>
-    </message>
-    <message>
         <source>it has no module &quot;%1&quot;</source>
         <translation>no tiene el módulo «%1»</translation>
     </message>
@@ -522,6 +514,10 @@ en lugar de numerar los nuevos; una foto nunca se reemplaza</translation>
     <message>
         <source>it offers no panel for this printer</source>
         <translation>no ofrece ningún panel para esta impresora</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s own panels (%1) are not installed in %2; it prints without them.</source>
+        <translation>Las páginas propias de la impresora (%1) no están instaladas en %2; imprime sin ellas.</translation>
     </message>
 </context>
 <context>
@@ -604,6 +600,18 @@ en lugar de numerar los nuevos; una foto nunca se reemplaza</translation>
         <source>The PPD &quot;%1&quot; cannot be read: %2; check the file and its permissions.</source>
         <translation>No se puede leer el PPD «%1»: %2; compruebe el archivo y sus permisos.</translation>
     </message>
+    <message>
+        <source>The compressed PPD &quot;%1&quot; cannot be expanded: %2; copy it again from where it came from.</source>
+        <translation>El PPD comprimido «%1» no se puede descomprimir: %2; cópielo de nuevo desde su origen.</translation>
+    </message>
+    <message>
+        <source>its end is missing</source>
+        <translation>falta el final</translation>
+    </message>
+    <message>
+        <source>it is damaged</source>
+        <translation>está dañado</translation>
+    </message>
 </context>
 <context>
     <name>PpdInspection</name>
@@ -624,20 +632,12 @@ en lugar de numerar los nuevos; una foto nunca se reemplaza</translation>
         <translation>ocupa más de %1 MiB</translation>
     </message>
     <message>
-        <source>The PPD &quot;%1&quot; is compressed; unpack it with gunzip first.</source>
-        <translation>El PPD «%1» está comprimido; descomprímalo antes con gunzip.</translation>
-    </message>
-    <message>
         <source>&quot;%1&quot; is not a PPD, which is a text that begins with &quot;*PPD-Adobe:&quot;; name the printer&apos;s PPD file.</source>
         <translation>«%1» no es un PPD, es decir, un texto que empieza por «*PPD-Adobe:»; indique el archivo PPD de la impresora.</translation>
     </message>
     <message>
         <source>it is cut off: the quote opened in line %1 never closes</source>
         <translation>está cortado: las comillas abiertas en la línea %1 no se cierran</translation>
-    </message>
-    <message>
-        <source>it is cut off in line %1</source>
-        <translation>está cortado en la línea %1</translation>
     </message>
     <message>
         <source>the value in line %1 is longer than %2 bytes</source>
@@ -704,14 +704,6 @@ en lugar de numerar los nuevos; una foto nunca se reemplaza</translation>
         <translation>restricciones</translation>
     </message>
     <message>
-        <source>it is cut off: the option &quot;%1&quot; opened in line %2 never closes</source>
-        <translation>está cortado: la opción «%1» abierta en la línea %2 no se cierra</translation>
-    </message>
-    <message>
-        <source>it is cut off: the group opened in line %1 never closes</source>
-        <translation>está cortado: el grupo abierto en la línea %1 no se cierra</translation>
-    </message>
-    <message>
         <source>its constraints name options with too many choices</source>
         <translation>sus restricciones se refieren a opciones con demasiados valores</translation>
     </message>
@@ -742,6 +734,18 @@ en lugar de numerar los nuevos; una foto nunca se reemplaza</translation>
     <message>
         <source>The PPD &quot;%1&quot; cannot be used: %2; %3.</source>
         <translation>No se puede usar el PPD «%1»: %2; %3.</translation>
+    </message>
+    <message>
+        <source>The option &quot;%1&quot; opened in line %2 never closes.</source>
+        <translation>La opción «%1» abierta en la línea %2 nunca se cierra.</translation>
+    </message>
+    <message>
+        <source>The group opened in line %1 never closes.</source>
+        <translation>El grupo abierto en la línea %1 nunca se cierra.</translation>
+    </message>
+    <message>
+        <source>it is cut off in line %1</source>
+        <translation>está cortado en la línea %1</translation>
     </message>
 </context>
 <context>
@@ -910,6 +914,13 @@ en lugar de numerar los nuevos; una foto nunca se reemplaza</translation>
     <message>
         <source>Of the preset &quot;%1&quot; is left out: %2</source>
         <translation>Del preajuste «%1» se omite: %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>And %n more.</source>
+        <translation>
+            <numerusform>Y %n más.</numerusform>
+            <numerusform>Y %n más.</numerusform>
+        </translation>
     </message>
 </context>
 <context>

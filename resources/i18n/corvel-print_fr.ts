@@ -249,13 +249,13 @@ et depuis son haut (sinon 50,50, le milieu)</translation>
         <source>where the built-in printer leaves its files (otherwise the current
 folder; with a window, Prints in your Pictures folder)</source>
         <translation>où l’imprimante intégrée enregistre ses fichiers (sinon le dossier
-courant ; avec une fenêtre, Prints dans votre dossier Images)</translation>
+courant&#x202f;; avec une fenêtre, Prints dans votre dossier Images)</translation>
     </message>
     <message>
         <source>--batch replaces files that the built-in printer has left before,
 instead of numbering the new ones; a photo is never replaced</source>
         <translation>--batch remplace les fichiers déjà laissés par l’imprimante intégrée
-au lieu de numéroter les nouveaux ; une photo n’est jamais remplacée</translation>
+au lieu de numéroter les nouveaux&#x202f;; une photo n’est jamais remplacée</translation>
     </message>
     <message>
         <source>--overwrite is for --batch and --dry-run.</source>
@@ -500,14 +500,6 @@ au lieu de numéroter les nouveaux ; une photo n’est jamais remplacée</tran
         <translation>Le module «&#x202f;%1&#x202f;» est inutilisable&#x202f;: %2. Réinstallez-le.</translation>
     </message>
     <message>
-        <source>The printer&apos;s PPD asks for the plug-in bundle &quot;%1&quot;, which is no bundle&apos;s name. Use a PPD made for this printer.</source>
-        <translation>Le PPD de l’imprimante demande le module «&#x202f;%1&#x202f;», qui n’est pas un nom de module. Utilisez un PPD fait pour cette imprimante.</translation>
-    </message>
-    <message>
-        <source>The plug-in bundle &quot;%1&quot; was not found in %2. Install it there.</source>
-        <translation>Le module «&#x202f;%1&#x202f;» est introuvable dans %2. Installez-l’y.</translation>
-    </message>
-    <message>
         <source>it has no module &quot;%1&quot;</source>
         <translation>la bibliothèque «&#x202f;%1&#x202f;» y manque</translation>
     </message>
@@ -522,6 +514,10 @@ au lieu de numéroter les nouveaux ; une photo n’est jamais remplacée</tran
     <message>
         <source>it offers no panel for this printer</source>
         <translation>il ne propose aucun onglet pour cette imprimante</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s own panels (%1) are not installed in %2; it prints without them.</source>
+        <translation>Les pages propres à l’imprimante (%1) ne sont pas installées dans %2&#x202f;; elle imprime sans elles.</translation>
     </message>
 </context>
 <context>
@@ -604,6 +600,18 @@ au lieu de numéroter les nouveaux ; une photo n’est jamais remplacée</tran
         <source>The PPD &quot;%1&quot; cannot be read: %2; check the file and its permissions.</source>
         <translation>Le PPD «&#x202f;%1&#x202f;» ne peut pas être lu&#x202f;: %2&#x202f;; vérifiez le fichier et ses droits d’accès.</translation>
     </message>
+    <message>
+        <source>The compressed PPD &quot;%1&quot; cannot be expanded: %2; copy it again from where it came from.</source>
+        <translation>Le PPD compressé «&#x202f;%1&#x202f;» ne peut pas être décompressé&#x202f;: %2&#x202f;; copiez-le de nouveau depuis son origine.</translation>
+    </message>
+    <message>
+        <source>its end is missing</source>
+        <translation>la fin manque</translation>
+    </message>
+    <message>
+        <source>it is damaged</source>
+        <translation>il est endommagé</translation>
+    </message>
 </context>
 <context>
     <name>PpdInspection</name>
@@ -624,20 +632,12 @@ au lieu de numéroter les nouveaux ; une photo n’est jamais remplacée</tran
         <translation>il dépasse %1 Mio</translation>
     </message>
     <message>
-        <source>The PPD &quot;%1&quot; is compressed; unpack it with gunzip first.</source>
-        <translation>Le PPD «&#x202f;%1&#x202f;» est compressé&#x202f;; décompressez-le d’abord avec gunzip.</translation>
-    </message>
-    <message>
         <source>&quot;%1&quot; is not a PPD, which is a text that begins with &quot;*PPD-Adobe:&quot;; name the printer&apos;s PPD file.</source>
         <translation>«&#x202f;%1&#x202f;» n’est pas un PPD, c’est-à-dire un texte qui commence par «&#x202f;*PPD-Adobe:&#x202f;»&#x202f;; indiquez le fichier PPD de l’imprimante.</translation>
     </message>
     <message>
         <source>it is cut off: the quote opened in line %1 never closes</source>
         <translation>il est tronqué&#x202f;: le guillemet ouvert à la ligne %1 n’est jamais fermé</translation>
-    </message>
-    <message>
-        <source>it is cut off in line %1</source>
-        <translation>il est tronqué à la ligne %1</translation>
     </message>
     <message>
         <source>the value in line %1 is longer than %2 bytes</source>
@@ -704,14 +704,6 @@ au lieu de numéroter les nouveaux ; une photo n’est jamais remplacée</tran
         <translation>contraintes</translation>
     </message>
     <message>
-        <source>it is cut off: the option &quot;%1&quot; opened in line %2 never closes</source>
-        <translation>il est tronqué&#x202f;: l’option «&#x202f;%1&#x202f;» ouverte à la ligne %2 n’est jamais fermée</translation>
-    </message>
-    <message>
-        <source>it is cut off: the group opened in line %1 never closes</source>
-        <translation>il est tronqué&#x202f;: le groupe ouvert à la ligne %1 n’est jamais fermé</translation>
-    </message>
-    <message>
         <source>its constraints name options with too many choices</source>
         <translation>ses contraintes portent sur des options aux choix trop nombreux</translation>
     </message>
@@ -742,6 +734,18 @@ au lieu de numéroter les nouveaux ; une photo n’est jamais remplacée</tran
     <message>
         <source>The PPD &quot;%1&quot; cannot be used: %2; %3.</source>
         <translation>Le PPD «&#x202f;%1&#x202f;» est inutilisable&#x202f;: %2&#x202f;; %3.</translation>
+    </message>
+    <message>
+        <source>The option &quot;%1&quot; opened in line %2 never closes.</source>
+        <translation>L’option «&#x202f;%1&#x202f;» ouverte à la ligne %2 ne se ferme jamais.</translation>
+    </message>
+    <message>
+        <source>The group opened in line %1 never closes.</source>
+        <translation>Le groupe ouvert à la ligne %1 ne se ferme jamais.</translation>
+    </message>
+    <message>
+        <source>it is cut off in line %1</source>
+        <translation>il est tronqué à la ligne %1</translation>
     </message>
 </context>
 <context>
@@ -910,6 +914,13 @@ au lieu de numéroter les nouveaux ; une photo n’est jamais remplacée</tran
     <message>
         <source>Of the preset &quot;%1&quot; is left out: %2</source>
         <translation>Du préréglage «&#x202f;%1&#x202f;» est laissé de côté&#x202f;: %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>And %n more.</source>
+        <translation>
+            <numerusform>Et %n autre.</numerusform>
+            <numerusform>Et %n autres.</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -500,14 +500,6 @@ instead of numbering the new ones; a photo is never replaced</source>
         <translation>プラグイン「%1」は使えません: %2。再インストールしてください。</translation>
     </message>
     <message>
-        <source>The printer&apos;s PPD asks for the plug-in bundle &quot;%1&quot;, which is no bundle&apos;s name. Use a PPD made for this printer.</source>
-        <translation>プリンターの PPD がプラグイン「%1」を求めていますが、これはプラグインの名前ではありません。このプリンター用の PPD を使ってください。</translation>
-    </message>
-    <message>
-        <source>The plug-in bundle &quot;%1&quot; was not found in %2. Install it there.</source>
-        <translation>プラグイン「%1」が %2 に見つかりません。そこにインストールしてください。</translation>
-    </message>
-    <message>
         <source>it has no module &quot;%1&quot;</source>
         <translation>モジュール「%1」がありません</translation>
     </message>
@@ -522,6 +514,10 @@ instead of numbering the new ones; a photo is never replaced</source>
     <message>
         <source>it offers no panel for this printer</source>
         <translation>このプリンター用の画面がありません</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s own panels (%1) are not installed in %2; it prints without them.</source>
+        <translation>プリンター固有のページ (%1) が %2 にインストールされていません。それなしで印刷します。</translation>
     </message>
 </context>
 <context>
@@ -604,6 +600,18 @@ instead of numbering the new ones; a photo is never replaced</source>
         <source>The PPD &quot;%1&quot; cannot be read: %2; check the file and its permissions.</source>
         <translation>PPD「%1」を読めません: %2。ファイルとそのアクセス権を確認してください。</translation>
     </message>
+    <message>
+        <source>The compressed PPD &quot;%1&quot; cannot be expanded: %2; copy it again from where it came from.</source>
+        <translation>圧縮された PPD「%1」を展開できません: %2。元の場所からもう一度コピーしてください。</translation>
+    </message>
+    <message>
+        <source>its end is missing</source>
+        <translation>末尾がありません</translation>
+    </message>
+    <message>
+        <source>it is damaged</source>
+        <translation>破損しています</translation>
+    </message>
 </context>
 <context>
     <name>PpdInspection</name>
@@ -624,20 +632,12 @@ instead of numbering the new ones; a photo is never replaced</source>
         <translation>%1 MiB を超えています</translation>
     </message>
     <message>
-        <source>The PPD &quot;%1&quot; is compressed; unpack it with gunzip first.</source>
-        <translation>PPD「%1」は圧縮されています。先に gunzip で展開してください。</translation>
-    </message>
-    <message>
         <source>&quot;%1&quot; is not a PPD, which is a text that begins with &quot;*PPD-Adobe:&quot;; name the printer&apos;s PPD file.</source>
         <translation>「%1」は PPD (「*PPD-Adobe:」で始まるテキスト) ではありません。プリンターの PPD ファイルを指定してください。</translation>
     </message>
     <message>
         <source>it is cut off: the quote opened in line %1 never closes</source>
         <translation>途中で切れています: %1 行目の引用符が閉じられていません</translation>
-    </message>
-    <message>
-        <source>it is cut off in line %1</source>
-        <translation>%1 行目で切れています</translation>
     </message>
     <message>
         <source>the value in line %1 is longer than %2 bytes</source>
@@ -704,14 +704,6 @@ instead of numbering the new ones; a photo is never replaced</source>
         <translation>制約</translation>
     </message>
     <message>
-        <source>it is cut off: the option &quot;%1&quot; opened in line %2 never closes</source>
-        <translation>途中で切れています: %2 行目のオプション「%1」が閉じられていません</translation>
-    </message>
-    <message>
-        <source>it is cut off: the group opened in line %1 never closes</source>
-        <translation>途中で切れています: %1 行目のグループが閉じられていません</translation>
-    </message>
-    <message>
         <source>its constraints name options with too many choices</source>
         <translation>制約が、選択肢の多すぎるオプションに関わっています</translation>
     </message>
@@ -742,6 +734,18 @@ instead of numbering the new ones; a photo is never replaced</source>
     <message>
         <source>The PPD &quot;%1&quot; cannot be used: %2; %3.</source>
         <translation>PPD「%1」は使えません: %2。%3。</translation>
+    </message>
+    <message>
+        <source>The option &quot;%1&quot; opened in line %2 never closes.</source>
+        <translation>%2 行目で始まるオプション「%1」が閉じられていません。</translation>
+    </message>
+    <message>
+        <source>The group opened in line %1 never closes.</source>
+        <translation>%1 行目で始まるグループが閉じられていません。</translation>
+    </message>
+    <message>
+        <source>it is cut off in line %1</source>
+        <translation>%1 行目で切れています</translation>
     </message>
 </context>
 <context>
@@ -910,6 +914,12 @@ instead of numbering the new ones; a photo is never replaced</source>
     <message>
         <source>Of the preset &quot;%1&quot; is left out: %2</source>
         <translation>プリセット「%1」のうち次は使われません: %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>And %n more.</source>
+        <translation>
+            <numerusform>ほか %n 件。</numerusform>
+        </translation>
     </message>
 </context>
 <context>

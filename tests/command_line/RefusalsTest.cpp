@@ -41,6 +41,7 @@ private Q_SLOTS:
     void ppd();
     void plugin_data();
     void plugin();
+    void panelsThatAreNotInstalledAreNoLoss();
     void missingFormPrintsAllTheSame();
     void noDisplay();
     void place_data();
@@ -191,7 +192,6 @@ void RefusalsTest::plugin_data()
 {
     QTest::addColumn<QString>("script"); // run beside a copy of the bundle
     QTest::addColumn<QString>("word");
-    QTest::newRow("no bundle") << u"rm -r Corvel9031.bundle"_s << u"not found"_s;
     QTest::newRow("wrong identifier")
         << u"sed -i s/org.corvel.printing/org.example/ Corvel9031.bundle/Contents/Info.json"_s
         << u"org.example.Corvel9031"_s;
@@ -215,6 +215,25 @@ void RefusalsTest::plugin()
     verifyRefusal(runProgram({u"--batch"_s, u"--output"_s, pathOf(u"out"_s), samplePhoto}, environment), 1,
                   words);
     verifyRefusal(runProgram({u"--list-options"_s}, environment), 1, words);
+}
+
+// Nor are the extensions of other systems' dialogs, which a PPD may name as well.
+void RefusalsTest::panelsThatAreNotInstalledAreNoLoss()
+{
+    const QMap<QString, QString> nowhere{{u"CORVEL_PDE_PATH"_s, folder_->path()}};
+    const ProgramRun own = runProgram(
+        {u"--batch"_s, u"-o"_s, u"Red=12"_s, u"--output"_s, pathOf(u"out"_s), samplePhoto}, nowhere);
+    QCOMPARE(own.status, 0);
+    QCOMPARE(wrongInRefusal({1, {}, own.err}, 1, {u"Corvel9031.bundle"_s, u"not installed"_s}), QByteArray());
+    QCOMPARE(ticketEntries(pathOf(u"out/sample.ticket.json"_s)).value(u"Red"_s), u"12"_s);
+
+    const QByteArray other = "*APDialogExtension: \"/Library/Printers/Maker/PDEs/Photo.plugin\"\n";
+    QVERIFY(store(
+        pathOf(u"other.ppd"_s),
+        contentOf(QStringLiteral(CORVEL_PPD)).replace("*APDialogExtension", other + "*APDialogExtension")));
+    const ProgramRun both = runProgram({u"--list-options"_s, u"--ppd"_s, pathOf(u"other.ppd"_s)});
+    QCOMPARE(both.err, QByteArray());
+    QVERIFY2(both.out.contains("Color Adjustments"), both.out.constData());
 }
 
 // It is missed only where it is shown.
