@@ -3,12 +3,15 @@
 
 #include "CommandLine.h"
 
+#include "FileName.h"
 #include "Queue.h"
 
 #include <QtCore/QCommandLineParser>
 #include <QtCore/QCoreApplication>
+#include <QtCore/QFile>
 #include <QtCore/QRegularExpression>
 #include <QtCore/QStandardPaths>
+#include <QtCore/QUrl>
 
 #include <array>
 
@@ -29,7 +32,7 @@ struct OptionRow
 };
 
 constexpr std::array optionRows = {
-    OptionRow{"printer", "QUEUE",
+    OptionRow{"d,printer", "QUEUE",
               QT_TRANSLATE_NOOP("CommandLine",
                                 "a print queue, queue/preset, or \"built-in\" for the built-in printer;\n"
                                 "otherwise your default queue, or else the built-in printer")},
@@ -41,6 +44,9 @@ constexpr std::array optionRows = {
                                 "or check all choices together before printing (settings)")},
     OptionRow{"o,option", "KEY=CHOICE",
               QT_TRANSLATE_NOOP("CommandLine", "choose for an option of the printer; repeatable, in order")},
+    OptionRow{
+        "n,copies", "NUMBER",
+        QT_TRANSLATE_NOOP("CommandLine", "how many copies of each photo; otherwise the preset's, or 1")},
     OptionRow{"scaling", "fit|fill|actual",
               QT_TRANSLATE_NOOP("CommandLine",
                                 "the whole photo on the page (fit, the default), the page filled\n"
@@ -157,6 +163,37 @@ Fault readWait(const QCommandLineParser &parser, std::optional<std::chrono::seco
                      Text::tr("\"%1\" is no time to wait; it is a number of seconds from 0 to %2.")
                          .arg(*text, QString::number(longest)));
     wait = std::chrono::seconds(seconds);
+    return std::nullopt;
+}
+
+Fault readCopies(const QCommandLineParser &parser, std::optional<int> &copies)
+{
+    std::optional<QString> text;
+    if (Fault found = readValue(parser, "copies", text); found || !text)
+        return found;
+    bool isNumber = false;
+    const int number = text->toInt(&isNumber);
+    if (!isNumber || number < 1 || number > CommandLine::mostCopies)
+        return fault(UsageFault::Value,
+                     Text::tr("\"%1\" copies cannot be printed; give a number from 1 to %2.")
+                         .arg(*text, QString::number(CommandLine::mostCopies)));
+    copies = number;
+    return std::nullopt;
+}
+
+/// A file manager hands out URLs. A file may have such a name all the same.
+Fault readPhotos(const QStringList &arguments, QStringList &photos)
+{
+    for (const QString &argument : arguments) {
+        const bool isUrl =
+            argument.startsWith(QLatin1String("file:/"), Qt::CaseInsensitive) && !QFile::exists(argument);
+        const std::optional<QString> path = isUrl ? fileOfUrl(QUrl(argument)) : argument;
+        if (!path)
+            return fault(
+                UsageFault::Value,
+                Text::tr("\"%1\" is not a file on this computer; copy the photo here first.").arg(argument));
+        photos.append(*path);
+    }
     return std::nullopt;
 }
 
@@ -281,7 +318,6 @@ Result<CommandLine, UsageFault> CommandLine::parse(const QStringList &arguments)
         return fault(UsageFault::Syntax, parser.errorText());
 
     CommandLine line;
-    line.photos = parser.positionalArguments();
     line.batch = parser.isSet(QStringLiteral("batch"));
     line.overwrite = parser.isSet(QStringLiteral("overwrite"));
     line.dryRun = parser.isSet(QStringLiteral("dry-run"));
@@ -295,7 +331,8 @@ Result<CommandLine, UsageFault> CommandLine::parse(const QStringList &arguments)
         return line;
 
     for (const Fault &found :
-         {readValue(parser, "printer", line.printer), readValue(parser, "ppd", line.ppd),
+         {readPhotos(parser.positionalArguments(), line.photos), readCopies(parser, line.copies),
+          readValue(parser, "printer", line.printer), readValue(parser, "ppd", line.ppd),
           readValue(parser, "output", line.output), readValue(parser, "screenshot", line.screenshot),
           readServer(parser, line.server), readWait(parser, line.wait), readMode(parser, line.mode),
           readScaling(parser, line.placement.scaling), readCrop(parser, line.placement),

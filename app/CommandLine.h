@@ -42,11 +42,14 @@ struct RequestedChoice
 /// the window.
 struct CommandLine
 {
-    QStringList photos;
+    static constexpr int mostCopies = 999; ///< as in the window
+
+    QStringList photos;             ///< paths, also of those that are given as file URLs
     std::optional<QString> printer; ///< a queue's id, or the built-in printer's name
     std::optional<QString> ppd;     ///< a file, for the built-in printer
     PanelMode mode = PanelMode::Constraint;
     QList<RequestedChoice> options; ///< in the order given
+    std::optional<int> copies;      ///< of each photo, from 1 to mostCopies
     PlacementChoice placement;      ///< of each photo on its page
     std::optional<QString> output;  ///< the folder of the built-in printer's files
     bool overwrite = false;         ///< the built-in printer replaces files of an earlier run

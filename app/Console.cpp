@@ -10,6 +10,7 @@
 #include <QtCore/QJsonDocument>
 #include <QtCore/QJsonObject>
 
+#include <algorithm>
 #include <cerrno>
 #include <csignal>
 #include <cstddef>
@@ -96,6 +97,15 @@ void Console::complain(const QString &sentence)
 {
     const QString line = QStringLiteral("corvel-print: %1\n").arg(plainText(sentence));
     writeAll(STDERR_FILENO, line.toUtf8());
+}
+
+QString Console::oneLine(const QStringList &sentences)
+{
+    constexpr qsizetype most = 3;
+    QString line = sentences.first(std::min(sentences.size(), most)).join(u' ');
+    if (sentences.size() > most)
+        line += u' ' + tr("And %n more.", nullptr, static_cast<int>(sentences.size() - most));
+    return line;
 }
 
 void Console::write(const QByteArray &bytes)

@@ -33,6 +33,9 @@ public:
     /// Writes "corvel-print: " and the sentence to standard error, as one line.
     void complain(const QString &sentence);
 
+    /// The sentences on one line, the first few of them when there are many.
+    static QString oneLine(const QStringList &sentences);
+
     /// The exit status of a run that would end with `status`: complains when something could not be written
     /// to standard output, and makes a failure of it.
     int finish(int status);

@@ -4,6 +4,7 @@
 #include "RequestedSession.h"
 
 #include "ChoiceExplanation.h"
+#include "Console.h"
 #include "PpdCheck.h"
 #include "PresetName.h"
 #include "PresetStore.h"
@@ -12,8 +13,6 @@
 #include "StoredChoices.h"
 
 #include <QtCore/QCoreApplication>
-
-#include <algorithm>
 
 using namespace std::chrono_literals;
 
@@ -54,24 +53,13 @@ RequestedSessionResult openQueueNamed(const QString &id, PanelMode mode)
                                      : openRawQueue(opened->queue, mode));
 }
 
-/// The sentences on one line, however many there are.
-QString oneLine(const QStringList &sentences)
-{
-    constexpr qsizetype most = 3;
-    QString line = sentences.first(std::min(sentences.size(), most)).join(u' ');
-    if (sentences.size() > most)
-        line += u' ' + Text::tr("And %n more.", nullptr, static_cast<int>(sentences.size() - most));
-    return line;
-}
-
 /// Takes the number of copies out of the choices.
 void takeCopies(QMap<QString, QString> &choices, const QString &preset, RequestedJob &job)
 {
-    constexpr int mostCopies = 999; // as in the window
     const QString text = choices.take(QLatin1String(copiesOption));
     bool isNumber = false;
     const int copies = text.toInt(&isNumber);
-    if (isNumber && copies >= 1 && copies <= mostCopies)
+    if (isNumber && copies >= 1 && copies <= CommandLine::mostCopies)
         job.copies = copies;
     else if (!text.isNull())
         job.leftOut +=
@@ -102,7 +90,7 @@ QString usePreset(RequestedJob &job)
             sentences += Text::tr("Of the preset \"%1\" is left out: %2")
                              .arg(name, ChoiceExplanation(ppd).refusal(ruling));
         if (!sentences.isEmpty())
-            job.leftOut += oneLine(sentences);
+            job.leftOut += Console::oneLine(sentences);
         return {};
     }
     return {};
@@ -145,6 +133,7 @@ Result<RequestedJob, std::monostate> openRequestedJob(const CommandLine &command
                 .arg(printer.name, commandLine.options.constFirst().key));
     if (const QString failure = usePreset(job); !failure.isEmpty())
         return refusal(failure);
+    job.copies = commandLine.copies.value_or(job.copies);
     for (const RequestedChoice &requested : commandLine.options) {
         // Text that is only the beginning of a number is let through while somebody types; here nothing
         // follows it.

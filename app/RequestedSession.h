@@ -24,7 +24,7 @@ RequestedSessionResult openRequestedPrinter(const CommandLine &commandLine);
 struct RequestedJob
 {
     std::unique_ptr<DialogSession> session;
-    int copies = 1; ///< of the preset
+    int copies = 1; ///< as asked for, or else the preset's
     QStringList
         leftOut; ///< a line about choices of the preset, and one about panels, that there are not here
 };

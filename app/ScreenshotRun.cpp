@@ -88,21 +88,21 @@ int runScreenshot(const CommandLine &commandLine, QApplication &application)
         return static_cast<int>(exitFailed);
     };
     auto setup = windowSetup(commandLine);
-    if (!setup)
-        return endWith(setup.failure().text);
+    if (!setup.photoFailures.isEmpty())
+        return endWith(Console::oneLine(setup.photoFailures));
     // What the dialog only tells in its window (a choice refused, a plug-in missing) is a failure here.
     const auto requested = openRequestedJob(commandLine);
     if (!requested)
         return endWith(requested.failure().text);
     const QString printer = requested->session->printer().name;
-    setup->printer = printer;
-    setup->remembers = false;
+    setup.printer = printer;
+    setup.remembers = false;
     const QDir folder(*commandLine.screenshot);
     if (!folder.mkpath(QStringLiteral(".")))
         return endWith(Text::tr("The folder %1 cannot be made. Choose another one for the pictures.")
                            .arg(folder.path()));
 
-    PrintDialog dialog(*setup);
+    PrintDialog dialog(setup);
     dialog.resize(dialog.sizeHint());
     dialog.show();
     if (const QString failure = openPrinter(dialog, application, printer); !failure.isEmpty())

@@ -12,20 +12,21 @@
 
 namespace printdialog {
 
-Result<PrintDialogSetup, PhotoFault> windowSetup(const CommandLine &commandLine)
+PrintDialogSetup windowSetup(const CommandLine &commandLine)
 {
     PrintDialogSetup setup;
     for (const QString &path : commandLine.photos) {
-        const auto photo = Photo::open(path);
-        if (!photo)
-            return photo.failure();
-        setup.photos.append(*photo);
+        if (const auto photo = Photo::open(path))
+            setup.photos.append(*photo);
+        else
+            setup.photoFailures.append(photo.failure().text);
     }
     setup.mode = commandLine.mode;
     setup.printer = commandLine.printer;
     setup.ppdFile = commandLine.ppd;
     for (const RequestedChoice &option : commandLine.options)
         setup.options.append({option.key, option.choice});
+    setup.copies = commandLine.copies;
     setup.placement = commandLine.placement;
     setup.outputFolder = commandLine.outputFolder();
     return setup;
@@ -34,16 +35,24 @@ Result<PrintDialogSetup, PhotoFault> windowSetup(const CommandLine &commandLine)
 int runWindow(const CommandLine &commandLine, QApplication & /*application*/)
 {
     Console console;
-    const auto setup = windowSetup(commandLine);
-    if (!setup) {
-        console.complain(setup.failure().text);
+    const PrintDialogSetup setup = windowSetup(commandLine);
+    if (setup.photos.isEmpty() && !setup.photoFailures.isEmpty()) {
+        console.complain(Console::oneLine(setup.photoFailures));
         return exitFailed;
     }
+    if (const QString platform = QGuiApplication::platformName();
+        platform == QLatin1String("offscreen") || platform == QLatin1String("minimal"))
+        console.complain(
+            QCoreApplication::translate(
+                "WindowRun",
+                "The window cannot be seen, because QT_QPA_PLATFORM asks for \"%1\". Unset it, or print "
+                "without a window (--batch).")
+                .arg(platform));
     // The desktop knows the window by its desktop file. The icon is the program's own: to look for it in the
     // icon theme takes longer than all of the panels.
     QGuiApplication::setDesktopFileName(QStringLiteral("org.corvel.print"));
     QGuiApplication::setWindowIcon(QIcon(QStringLiteral(":/corvel-print/icons/corvel-print.png")));
-    PrintDialog dialog(*setup);
+    PrintDialog dialog(setup);
     if (commandLine.ppd && !dialog.isReady()) {
         console.complain(dialog.whyNotReady());
         return exitFailed;

@@ -10,8 +10,8 @@ class QApplication;
 
 namespace printdialog {
 
-/// The setup of a window for the command line: its photos opened. The failure's text names the photo.
-Result<PrintDialogSetup, PhotoFault> windowSetup(const CommandLine &commandLine);
+/// The setup of a window for the command line, its photos opened as far as they can be.
+PrintDialogSetup windowSetup(const CommandLine &commandLine);
 
 /// Shows the dialog until the user closes it; the exit status.
 int runWindow(const CommandLine &commandLine, QApplication &application);

@@ -28,13 +28,13 @@ _corvel_print()
     local printer=() i
     for ((i = 1; i < cword; i++)); do
         case ${words[i]} in
-            --printer | --ppd) printer=("${words[i]}" "${words[i + 1]}") ;;
+            -d | --printer | --ppd) printer=("${words[i]}" "${words[i + 1]}") ;;
             --printer=* | --ppd=*) printer=("${words[i]}") ;;
         esac
     done
 
     case $prev in
-        --printer)
+        -d | --printer)
             COMPREPLY=($(compgen -W "$("$1" --list-printers 2>/dev/null | cut -f1)" -- "$cur"))
             return
             ;;
@@ -46,7 +46,7 @@ _corvel_print()
             COMPREPLY=($(compgen -W "fit fill actual" -- "$cur"))
             return
             ;;
-        --crop)
+        --crop | -n | --copies)
             return
             ;;
         --ppd)

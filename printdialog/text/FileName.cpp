@@ -4,6 +4,7 @@
 #include "FileName.h"
 
 #include <QtCore/QStringDecoder>
+#include <QtCore/QUrl>
 
 #include <algorithm>
 
@@ -69,6 +70,15 @@ QByteArray bytesOfFileName(const QString &name)
         }
     }
     return bytes + QStringView(name).sliced(begin).toUtf8();
+}
+
+std::optional<QString> fileOfUrl(const QUrl &url)
+{
+    const bool isHere = url.host().isEmpty() || url.host() == QLatin1String("localhost");
+    if (!url.isLocalFile() || !isHere || url.path().isEmpty())
+        return std::nullopt;
+    // QUrl's own text leaves what is not UTF-8 in its per-cent form, which is another file's name.
+    return fileNameFromBytes(QByteArray::fromPercentEncoding(url.path(QUrl::FullyEncoded).toLatin1()));
 }
 
 } // namespace printdialog

@@ -6,6 +6,10 @@
 #include <QtCore/QByteArray>
 #include <QtCore/QString>
 
+#include <optional>
+
+class QUrl;
+
 namespace printdialog {
 
 /// The name of a file is bytes, and they need not be text. As a string, each byte that is no part of UTF-8 is
@@ -14,5 +18,7 @@ namespace printdialog {
 QString fileNameFromBytes(const QByteArray &bytes);
 /// The other way round. Of a string that holds none of these surrogates it is the UTF-8.
 QByteArray bytesOfFileName(const QString &name);
+/// The file on this computer that a URL of the scheme "file" names (RFC 8089); nothing for any other one.
+std::optional<QString> fileOfUrl(const QUrl &url);
 
 } // namespace printdialog

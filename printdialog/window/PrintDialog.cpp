@@ -72,6 +72,8 @@ PrintDialog::PrintDialog(const PrintDialogSetup &setup, QWidget *parent)
     ui_->photos->setPhotos(setup.photos, setup.placement);
     showPhoto();
     openFirstPrinter();
+    if (message().isEmpty())
+        clearMessage();
 }
 
 PrintDialog::~PrintDialog()

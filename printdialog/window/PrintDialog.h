@@ -34,10 +34,12 @@ struct RememberedQueue;
 struct PrintDialogSetup
 {
     QList<Photo> photos;
+    QStringList photoFailures; ///< a sentence for each photo that could not be opened
     PanelMode mode = PanelMode::Constraint;
     std::optional<QString> printer;         ///< a queue's id; without it the user's default
     std::optional<QString> ppdFile;         ///< for the built-in printer, instead of its own
     QList<QPair<QString, QString>> options; ///< choices to begin with, in order
+    std::optional<int> copies;              ///< to begin with
     QString outputFolder;                   ///< where the built-in printer leaves its files
     bool remembers = true;     ///< open with the printer used last, and remember the one used now
     PlacementChoice placement; ///< of each photo, to begin with
@@ -96,6 +98,7 @@ private:
     void takeSession(std::unique_ptr<DialogSession> session);
     void closeSession(const QString &reason);
     bool applyOptions();
+    void clearMessage();
 
     // The page
     void fillPageSizes();

@@ -75,7 +75,7 @@ void PrintDialog::openPrinter(const Queue &queue)
     queue_ = queue;
     isRemembered_ = false;
     wasChosen_ = ui_->printer->wasChosenByUser();
-    ui_->message->clear();
+    clearMessage();
     ui_->status->show(queue);
     if (!queue.isBuiltIn) {
         awaitOptions(queue.id());
@@ -99,6 +99,14 @@ void PrintDialog::takeUpdate(const Queue &queue)
     ui_->status->show(queue);
     if (isRemembered_)
         fetcher_->fetch(queue.id());
+}
+
+/// Photos that could not be opened are named until the user does something about the printer.
+void PrintDialog::clearMessage()
+{
+    ui_->message->clear();
+    if (!setup_.photoFailures.isEmpty() && !ui_->printer->wasChosenByUser())
+        ui_->message->show(MessageBar::Kind::Error, setup_.photoFailures.join(u'\n'));
 }
 
 void PrintDialog::remember(bool wasChosen)
@@ -242,6 +250,8 @@ bool PrintDialog::applyOptions()
 {
     if (ui_->printer->wasChosenByUser())
         return false;
+    if (setup_.copies)
+        ui_->copies->setValue(*setup_.copies);
     for (const auto &[key, choice] : std::as_const(setup_.options)) {
         const Ruling ruling = session_->choose(key, choice);
         if (ruling.verdict != Verdict::Accepted)

@@ -262,12 +262,31 @@ die neuen zu nummerieren; ein Foto wird nie ersetzt</translation>
         <source>--overwrite is for --batch and --dry-run.</source>
         <translation>--overwrite ist für --batch und --dry-run.</translation>
     </message>
+    <message>
+        <source>how many copies of each photo; otherwise the preset&apos;s, or 1</source>
+        <translation>wie oft jedes Foto gedruckt wird; sonst wie in der Voreinstellung, oder 1</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; copies cannot be printed; give a number from 1 to %2.</source>
+        <translation>„%1“ Exemplare lassen sich nicht drucken; geben Sie eine Zahl von 1 bis %2 an.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a file on this computer; copy the photo here first.</source>
+        <translation>„%1“ ist keine Datei auf diesem Computer; kopieren Sie das Foto zuerst hierher.</translation>
+    </message>
 </context>
 <context>
     <name>Console</name>
     <message>
         <source>Standard output could not be written to: %1. Send it to another place.</source>
         <translation>Die Standardausgabe konnte nicht geschrieben werden: %1. Leiten Sie sie an einen anderen Ort.</translation>
+    </message>
+    <message numerus="yes">
+        <source>And %n more.</source>
+        <translation>
+            <numerusform>Und %n weitere.</numerusform>
+            <numerusform>Und %n weitere.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -916,13 +935,6 @@ die neuen zu nummerieren; ein Foto wird nie ersetzt</translation>
         <source>Of the preset &quot;%1&quot; is left out: %2</source>
         <translation>Von der Voreinstellung „%1“ bleibt weg: %2</translation>
     </message>
-    <message numerus="yes">
-        <source>And %n more.</source>
-        <translation>
-            <numerusform>Und %n weitere.</numerusform>
-            <numerusform>Und %n weitere.</numerusform>
-        </translation>
-    </message>
 </context>
 <context>
     <name>ScreenshotRun</name>
@@ -1158,6 +1170,13 @@ die neuen zu nummerieren; ein Foto wird nie ersetzt</translation>
     <message>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>WindowRun</name>
+    <message>
+        <source>The window cannot be seen, because QT_QPA_PLATFORM asks for &quot;%1&quot;. Unset it, or print without a window (--batch).</source>
+        <translation>Das Fenster ist nicht zu sehen, weil QT_QPA_PLATFORM „%1“ verlangt. Heben Sie das auf, oder drucken Sie ohne Fenster (--batch).</translation>
     </message>
 </context>
 <context>

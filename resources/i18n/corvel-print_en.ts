@@ -2,7 +2,7 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en" sourcelanguage="en">
 <context>
-    <name>RequestedSession</name>
+    <name>Console</name>
     <message numerus="yes">
         <source>And %n more.</source>
         <translation>

@@ -261,12 +261,31 @@ en lugar de numerar los nuevos; una foto nunca se reemplaza</translation>
         <source>--overwrite is for --batch and --dry-run.</source>
         <translation>--overwrite es para --batch y --dry-run.</translation>
     </message>
+    <message>
+        <source>how many copies of each photo; otherwise the preset&apos;s, or 1</source>
+        <translation>cuántas copias de cada foto; si no, las del preajuste, o 1</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; copies cannot be printed; give a number from 1 to %2.</source>
+        <translation>No se pueden imprimir «%1» copias; indique un número de 1 a %2.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a file on this computer; copy the photo here first.</source>
+        <translation>«%1» no es un archivo de este equipo; copie primero la foto aquí.</translation>
+    </message>
 </context>
 <context>
     <name>Console</name>
     <message>
         <source>Standard output could not be written to: %1. Send it to another place.</source>
         <translation>No se ha podido escribir en la salida estándar: %1. Diríjala a otro lugar.</translation>
+    </message>
+    <message numerus="yes">
+        <source>And %n more.</source>
+        <translation>
+            <numerusform>Y %n más.</numerusform>
+            <numerusform>Y %n más.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -915,13 +934,6 @@ en lugar de numerar los nuevos; una foto nunca se reemplaza</translation>
         <source>Of the preset &quot;%1&quot; is left out: %2</source>
         <translation>Del preajuste «%1» se omite: %2</translation>
     </message>
-    <message numerus="yes">
-        <source>And %n more.</source>
-        <translation>
-            <numerusform>Y %n más.</numerusform>
-            <numerusform>Y %n más.</numerusform>
-        </translation>
-    </message>
 </context>
 <context>
     <name>ScreenshotRun</name>
@@ -1157,6 +1169,13 @@ en lugar de numerar los nuevos; una foto nunca se reemplaza</translation>
     <message>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>WindowRun</name>
+    <message>
+        <source>The window cannot be seen, because QT_QPA_PLATFORM asks for &quot;%1&quot;. Unset it, or print without a window (--batch).</source>
+        <translation>La ventana no se puede ver, porque QT_QPA_PLATFORM pide «%1». Quite esa variable o imprima sin ventana (--batch).</translation>
     </message>
 </context>
 <context>

@@ -261,12 +261,31 @@ au lieu de numéroter les nouveaux&#x202f;; une photo n’est jamais remplacée<
         <source>--overwrite is for --batch and --dry-run.</source>
         <translation>--overwrite va avec --batch et --dry-run.</translation>
     </message>
+    <message>
+        <source>how many copies of each photo; otherwise the preset&apos;s, or 1</source>
+        <translation>nombre d’exemplaires de chaque photo ; sinon celui du préréglage, ou 1</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; copies cannot be printed; give a number from 1 to %2.</source>
+        <translation>« %1 » exemplaires ne peuvent pas être imprimés ; indiquez un nombre de 1 à %2.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a file on this computer; copy the photo here first.</source>
+        <translation>« %1 » n’est pas un fichier de cet ordinateur ; copiez d’abord la photo ici.</translation>
+    </message>
 </context>
 <context>
     <name>Console</name>
     <message>
         <source>Standard output could not be written to: %1. Send it to another place.</source>
         <translation>Impossible d’écrire sur la sortie standard&#x202f;: %1. Redirigez-la ailleurs.</translation>
+    </message>
+    <message numerus="yes">
+        <source>And %n more.</source>
+        <translation>
+            <numerusform>Et %n autre.</numerusform>
+            <numerusform>Et %n autres.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -915,13 +934,6 @@ au lieu de numéroter les nouveaux&#x202f;; une photo n’est jamais remplacée<
         <source>Of the preset &quot;%1&quot; is left out: %2</source>
         <translation>Du préréglage «&#x202f;%1&#x202f;» est laissé de côté&#x202f;: %2</translation>
     </message>
-    <message numerus="yes">
-        <source>And %n more.</source>
-        <translation>
-            <numerusform>Et %n autre.</numerusform>
-            <numerusform>Et %n autres.</numerusform>
-        </translation>
-    </message>
 </context>
 <context>
     <name>ScreenshotRun</name>
@@ -1157,6 +1169,13 @@ au lieu de numéroter les nouveaux&#x202f;; une photo n’est jamais remplacée<
     <message>
         <source>%1: %2</source>
         <translation>%1&#x202f;: %2</translation>
+    </message>
+</context>
+<context>
+    <name>WindowRun</name>
+    <message>
+        <source>The window cannot be seen, because QT_QPA_PLATFORM asks for &quot;%1&quot;. Unset it, or print without a window (--batch).</source>
+        <translation>La fenêtre ne peut pas être vue, car QT_QPA_PLATFORM demande « %1 ». Supprimez cette variable, ou imprimez sans fenêtre (--batch).</translation>
     </message>
 </context>
 <context>

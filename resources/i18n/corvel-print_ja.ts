@@ -261,12 +261,30 @@ instead of numbering the new ones; a photo is never replaced</source>
         <source>--overwrite is for --batch and --dry-run.</source>
         <translation>--overwrite は --batch と --dry-run 用です。</translation>
     </message>
+    <message>
+        <source>how many copies of each photo; otherwise the preset&apos;s, or 1</source>
+        <translation>各写真の部数 (省略するとプリセットの部数、または 1)</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; copies cannot be printed; give a number from 1 to %2.</source>
+        <translation>「%1」部は印刷できません。1 から %2 までの数を指定してください。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a file on this computer; copy the photo here first.</source>
+        <translation>「%1」はこのコンピューターのファイルではありません。先に写真をコピーしてください。</translation>
+    </message>
 </context>
 <context>
     <name>Console</name>
     <message>
         <source>Standard output could not be written to: %1. Send it to another place.</source>
         <translation>標準出力に書き込めませんでした: %1。別の出力先を指定してください。</translation>
+    </message>
+    <message numerus="yes">
+        <source>And %n more.</source>
+        <translation>
+            <numerusform>ほか %n 件。</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -915,12 +933,6 @@ instead of numbering the new ones; a photo is never replaced</source>
         <source>Of the preset &quot;%1&quot; is left out: %2</source>
         <translation>プリセット「%1」のうち次は使われません: %2</translation>
     </message>
-    <message numerus="yes">
-        <source>And %n more.</source>
-        <translation>
-            <numerusform>ほか %n 件。</numerusform>
-        </translation>
-    </message>
 </context>
 <context>
     <name>ScreenshotRun</name>
@@ -1156,6 +1168,13 @@ instead of numbering the new ones; a photo is never replaced</source>
     <message>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>WindowRun</name>
+    <message>
+        <source>The window cannot be seen, because QT_QPA_PLATFORM asks for &quot;%1&quot;. Unset it, or print without a window (--batch).</source>
+        <translation>QT_QPA_PLATFORM が「%1」を指定しているため、ウィンドウは表示されません。指定を外すか、ウィンドウなし (--batch) で印刷してください。</translation>
     </message>
 </context>
 <context>

@@ -9,6 +9,7 @@
 #include <QtCore/QJsonObject>
 #include <QtCore/QProcess>
 #include <QtCore/QTemporaryDir>
+#include <QtCore/QUrl>
 #include <QtGui/QImage>
 #include <QtTest/QTest>
 
@@ -93,7 +94,8 @@ void CommandLineTest::printsThePhotoWithItsTicket()
     expected.insert({{u"Red"_s, u"12"_s}, {u"Gamma"_s, u"-3"_s}});
 
     const ProgramRun run =
-        print({u"--mode"_s, mode, u"-o"_s, u"Red=12"_s, u"--option"_s, u"Gamma=-3"_s, samplePhoto});
+        print({u"--mode"_s, mode, u"-d"_s, u"built-in"_s, u"-n"_s, u"3"_s, u"-o"_s, u"Red=12"_s,
+               u"--option"_s, u"Gamma=-3"_s, QUrl::fromLocalFile(samplePhoto).toString()});
     QCOMPARE(run.err, QByteArray());
     QCOMPARE(run.status, 0);
     const QString pdf = pathOf(u"out/sample.pdf"_s);
@@ -104,6 +106,7 @@ void CommandLineTest::printsThePhotoWithItsTicket()
     const QJsonDocument json = QJsonDocument::fromJson(contentOf(ticket));
     QCOMPARE(json[u"printer"].toString(), u"built-in"_s);
     QCOMPARE(json[u"document"].toString(), samplePhoto);
+    QCOMPARE(json[u"copies"].toInt(), 3);
 
     QCOMPARE(QProcess::execute(u"pdfimages"_s, {u"-all"_s, pdf, pathOf(u"image"_s)}), 0);
     QVERIFY(contentOf(pathOf(u"image-000.jpg"_s)) == contentOf(samplePhoto));

@@ -89,6 +89,9 @@ void RefusalsTest::wrongUsage_data()
     row("waiting for nothing", {u"--wait"_s, u"5"_s, samplePhoto}, u"--wait"_s);
     row("waiting for no time", {u"--batch"_s, u"--wait"_s, u"-1"_s, samplePhoto}, u"\"-1\""_s);
     row("waiting without a number", {u"--batch"_s, u"--wait"_s, u"1h"_s, samplePhoto}, u"\"1h\""_s);
+    row("copies of nothing", {u"--batch"_s, u"-n"_s, u"0"_s, samplePhoto}, u"1 to 999"_s);
+    row("copies without a number", {u"--batch"_s, u"--copies=two"_s, samplePhoto}, u"\"two\""_s);
+    row("photo of another computer", {u"--batch"_s, u"file://server/a.jpg"_s}, u"file://server/a.jpg"_s);
     row("overwriting without --batch", {u"--overwrite"_s, samplePhoto}, u"--overwrite"_s);
     row("server without a name", {u"--server"_s, u":631"_s, samplePhoto}, u"\":631\""_s);
     row("server with a bad port", {u"--server"_s, u"host:99999"_s, samplePhoto}, u"host:99999"_s);
@@ -255,6 +258,13 @@ void RefusalsTest::noDisplay()
     verifyRefusal(runInShell(u"env -u QT_QPA_PLATFORM -u DISPLAY -u WAYLAND_DISPLAY \"$@\""_s, {samplePhoto}),
                   1, {u"no display"_s, u"--batch"_s});
     verifyRefusal(runProgram({samplePhoto}, {{u"QT_QPA_PLATFORM"_s, u"nonesuch"_s}}), 1, {u"cannot start"_s});
+    // A window that nobody can see waits for ever.
+    const ProgramRun unseen = runInShell(
+        u"cd '%1' && mkfifo err && { QT_QPA_PLATFORM=offscreen \"$@\" 2>err & head -n 1 err; kill $!; }"_s
+            .arg(folder_->path()),
+        {samplePhoto});
+    QVERIFY2(unseen.out.contains("QT_QPA_PLATFORM") && unseen.out.contains("--batch"),
+             unseen.out.constData());
 }
 
 void RefusalsTest::place_data()

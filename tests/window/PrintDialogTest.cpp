@@ -16,6 +16,7 @@
 #include <QtWidgets/QRadioButton>
 #include <QtWidgets/QScrollBar>
 #include <QtWidgets/QSlider>
+#include <QtWidgets/QSpinBox>
 #include <QtWidgets/QTextBrowser>
 
 #include <algorithm>
@@ -39,6 +40,7 @@ private Q_SLOTS:
     void returnBelongsToTheField();
     void printsByKeyFromAnywhere();
     void openingOptionsAreShown();
+    void photosThatCannotBeOpenedAreNamed();
     void pageSize();
     void help();
     void tabOrderAndNames();
@@ -152,6 +154,18 @@ void PrintDialogTest::openingOptionsAreShown()
     QCOMPARE(opened.fieldText(81), u"3"_s);
     QCOMPARE(qobject_cast<QSlider *>(opened.control(1))->value(), 3);
     QVERIFY(opened.dialog->message().contains(u"Nope"_s));
+}
+
+void PrintDialogTest::photosThatCannotBeOpenedAreNamed()
+{
+    QFETCH_GLOBAL(PanelMode, mode);
+    PrintDialogSetup setup = setupFor(mode);
+    setup.photoFailures = {u"\"a.jpg\" is empty."_s, u"\"b.jpg\" is damaged."_s};
+    setup.copies = 4;
+    const OpenedDialog opened(setup);
+    QVERIFY2(opened.dialog->message().contains(u"\"a.jpg\" is empty.\n\"b.jpg\" is damaged."_s),
+             qPrintable(opened.dialog->message()));
+    QCOMPARE(opened.find<QSpinBox>(u"copies"_s)->value(), 4);
 }
 
 void PrintDialogTest::pageSize()
