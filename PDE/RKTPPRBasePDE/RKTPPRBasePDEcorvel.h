@@ -191,6 +191,7 @@ protected:
 
 private:
     pdekit::PrintDialogCallback *callback() const;
+    void completeCommand();
     void waitForCompletion();
     void takeDownBackend();
     bool offerToPrintSystem(const QString &choice, const QString &key, QWidget *sender);

@@ -55,7 +55,7 @@ void RKTPPRBasePDEcorvel::streamINHandleEvent(InputStream *stream, quintptr even
     if (event == pdekit::StreamEventHasBytesAvailable) {
         bytesAvailableForStreamIN(stream);
     } else if (event == pdekit::StreamEventEndEncountered) {
-        waitForCommandCompletion_ = false;
+        completeCommand();
         closeAndRelease(streamIN_);
     }
 }
@@ -72,10 +72,18 @@ void RKTPPRBasePDEcorvel::streamERRHandleEvent(InputStream *stream, quintptr eve
                 killCurrentTask();
         }
     } else if (event == pdekit::StreamEventEndEncountered) {
-        waitForCommandCompletion_ = false;
+        completeCommand();
         closeAndRelease(streamERR_);
     }
     waitForCompletion();
+}
+
+// The first end of either stream. The waits end at once, not when the driver below looks next: within the
+// same turn of the event loop somebody may launch the next command, whose waits are not these.
+void RKTPPRBasePDEcorvel::completeCommand()
+{
+    waitForCommandCompletion_ = false;
+    pendingWaits_.clear();
 }
 
 // Each standard-error event waits for the command's completion in a loop of its own: at most 11 passes of the
@@ -98,10 +106,8 @@ void RKTPPRBasePDEcorvel::waitForCompletion()
         const bool hasRun = runEventLoopOnce();
         if (!self)
             return; // the panel went during the pass
-        if (!waitForCommandCompletion_ || !hasRun) {
+        if (!waitForCommandCompletion_ || !hasRun)
             pendingWaits_.clear();
-            break;
-        }
         if (pendingWaits_.begun() != begunBefore)
             continue; // the innermost goes first
         while (!pendingWaits_.isEmpty() && pendingWaits_.endPass()) {

@@ -263,15 +263,15 @@ au lieu de numéroter les nouveaux&#x202f;; une photo n’est jamais remplacée<
     </message>
     <message>
         <source>how many copies of each photo; otherwise the preset&apos;s, or 1</source>
-        <translation>nombre d’exemplaires de chaque photo ; sinon celui du préréglage, ou 1</translation>
+        <translation>nombre d’exemplaires de chaque photo&#x202f;; sinon celui du préréglage, ou 1</translation>
     </message>
     <message>
         <source>&quot;%1&quot; copies cannot be printed; give a number from 1 to %2.</source>
-        <translation>« %1 » exemplaires ne peuvent pas être imprimés ; indiquez un nombre de 1 à %2.</translation>
+        <translation>«&#x202f;%1&#x202f;» exemplaires ne peuvent pas être imprimés&#x202f;; indiquez un nombre de 1 à %2.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is not a file on this computer; copy the photo here first.</source>
-        <translation>« %1 » n’est pas un fichier de cet ordinateur ; copiez d’abord la photo ici.</translation>
+        <translation>«&#x202f;%1&#x202f;» n’est pas un fichier de cet ordinateur&#x202f;; copiez d’abord la photo ici.</translation>
     </message>
 </context>
 <context>
@@ -1175,7 +1175,7 @@ au lieu de numéroter les nouveaux&#x202f;; une photo n’est jamais remplacée<
     <name>WindowRun</name>
     <message>
         <source>The window cannot be seen, because QT_QPA_PLATFORM asks for &quot;%1&quot;. Unset it, or print without a window (--batch).</source>
-        <translation>La fenêtre ne peut pas être vue, car QT_QPA_PLATFORM demande « %1 ». Supprimez cette variable, ou imprimez sans fenêtre (--batch).</translation>
+        <translation>La fenêtre ne peut pas être vue, car QT_QPA_PLATFORM demande «&#x202f;%1&#x202f;». Supprimez cette variable, ou imprimez sans fenêtre (--batch).</translation>
     </message>
 </context>
 <context>

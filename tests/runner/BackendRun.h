@@ -7,7 +7,9 @@
 #include "veltaTaskContext.h"
 
 #include <QtCore/QDir>
+#include <QtCore/QElapsedTimer>
 #include <QtCore/QFile>
+#include <QtCore/QPointer>
 #include <QtCore/QTemporaryDir>
 #include <QtTest/QTest>
 
@@ -24,6 +26,22 @@ public:
     using RKTPPRBasePDEcorvel::streamIN_;
     using RKTPPRBasePDEcorvel::task_;
     using RKTPPRBasePDEcorvel::waitForCommandCompletion_;
+
+    int passes = 0;          ///< of the event loop, that its waits have begun
+    QList<qint64> passTimes; ///< of those that are over, in milliseconds
+
+protected:
+    bool runEventLoopOnce() override
+    {
+        ++passes;
+        const QPointer<RunnerPanel> self(this);
+        QElapsedTimer timer;
+        timer.start();
+        const bool hasRun = RKTPPRBasePDEcorvel::runEventLoopOnce();
+        if (self)
+            passTimes << timer.elapsed();
+        return hasRun;
+    }
 };
 
 /// Of this process.
@@ -77,7 +95,7 @@ public:
         : dialog(Mode::Constraint)
         , bundlePath(folder.filePath(text("PDEs/") + bundleName))
     {
-        qputenv("VELTA_BEHAVIOUR", behaviour);
+        behave(behaviour);
         qputenv("VELTA_INPUT", folder.filePath(text("input")).toLocal8Bit());
         QDir().mkpath(bundlePath + text("/Contents/Linux"));
         QFile info(bundlePath + text("/Contents/Info.json"));
@@ -90,6 +108,8 @@ public:
         dialog.log.clear();
     }
 
+    /// How the backends that start from now on behave.
+    static void behave(const char *behaviour) { qputenv("VELTA_BEHAVIOUR", behaviour); }
     void install(const QString &path)
     {
         QDir().mkpath(QFileInfo(path).path());

@@ -27,7 +27,10 @@ private Q_SLOTS:
     void silenceAfterOneLine();
     void waitsNest_data();
     void waitsNest();
+    void waitsEndWithTheirRun_data();
+    void waitsEndWithTheirRun();
     void errorsWait();
+    void errorsReadNothing();
     void waitsPaintAndTakeNoInput();
     void floods_data();
     void floods();

@@ -13,6 +13,7 @@
 #include <QtCore/QTimer>
 #include <QtTest/QTest>
 
+#include <algorithm>
 #include <fcntl.h>
 #include <functional>
 #include <sys/resource.h>
@@ -112,6 +113,47 @@ void RunnerTest::waitsNest()
     QCOMPARE(panel.passes, nested.passes);
 }
 
+void RunnerTest::waitsEndWithTheirRun_data()
+{
+    QTest::addColumn<int>("interval"); // milliseconds, at which a caller asks whether the run is over
+    QTest::addColumn<int>("busy");     // milliseconds, for which the main thread is, before it is told
+    QTest::newRow("asked at every turn") << 0 << 0;
+    QTest::newRow("asked often") << 5 << 0;
+    QTest::newRow("asked now and then") << 50 << 0;
+    QTest::newRow("busy") << 0 << 100;
+}
+
+// A run that is launched in the turn of the event loop in which the one before ended has none of its waits,
+// at whose end an interrupt would come.
+void RunnerTest::waitsEndWithTheirRun()
+{
+    QFETCH(int, interval);
+    QFETCH(int, busy);
+    BackendRun run("offline in lower case");
+    run.installInBundle();
+    int passesAtLaunch = 0; // of the next run
+    QTimer caller;
+    caller.setInterval(interval);
+    QObject::connect(&caller, &QTimer::timeout, run.panel.get(), [&] {
+        if (run.isWaiting() && busy > 0)
+            usleep(static_cast<useconds_t>(busy) * 1000);
+        if (!run.isIdle())
+            return;
+        caller.stop();
+        BackendRun::behave("ends at once");
+        passesAtLaunch = run.panel->passes;
+        QCOMPARE(run.start(), 0);
+    });
+    for (int i = 0; i < 8; ++i) {
+        BackendRun::behave("offline in lower case"); // one line, so one wait
+        passesAtLaunch = 0;
+        QCOMPARE(run.start(), 0);
+        caller.start();
+        QTRY_VERIFY(passesAtLaunch > 0 && run.isIdle());
+        QCOMPARE(run.panel->passes, passesAtLaunch);
+    }
+}
+
 // An error event waits like any other one: here, until both streams have ended.
 void RunnerTest::errorsWait()
 {
@@ -120,6 +162,23 @@ void RunnerTest::errorsWait()
     QCOMPARE(run.start(), 0);
     run.panel->streamERRHandleEvent(run.panel->streamERR_.get(), pdekit::StreamEventErrorOccurred);
     QVERIFY(!run.panel->waitForCommandCompletion_);
+}
+
+void RunnerTest::errorsReadNothing()
+{
+    BackendRun run("silent");
+    const QString path = run.folder.filePath(text("stream"));
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write("x");
+    file.close();
+    pdekit::InputStream stream(path);
+    QVERIFY(stream.open());
+    run.panel->streamINHandleEvent(&stream, pdekit::StreamEventErrorOccurred);
+    run.panel->streamERRHandleEvent(&stream, pdekit::StreamEventErrorOccurred);
+    char byte = 0;
+    QCOMPARE(stream.read(&byte, 1), std::ptrdiff_t(1));
+    QCOMPARE(run.dialog.log, QStringList());
 }
 
 // While a wait runs the window paints; what the user does comes after it, and nothing of it is lost.

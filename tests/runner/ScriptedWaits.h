@@ -41,7 +41,6 @@ public:
         waitForCommandCompletion_ = true;
     }
 
-    int passes = 0;
     QList<int> interrupts;
 
 protected:
