@@ -10,6 +10,7 @@
 #include <QtTest/QTest>
 
 #include <cstring>
+#include <limits>
 
 void RunnerTest::record()
 {
@@ -50,6 +51,12 @@ void RunnerTest::record()
     clearVeltaContextData(&context);
     QVERIFY(!context.contextData && !context.dataBytes && context.dataLength == 0);
     clearVeltaContextData(nullptr);
+
+    bool isReleased = false;
+    context.contextData = g_bytes_new_with_free_func(
+        "x", 1, [](gpointer flag) { *static_cast<bool *>(flag) = true; }, &isReleased);
+    destroyVeltaJobContext(&context);
+    QVERIFY(isReleased && !context.contextData);
 }
 
 void RunnerTest::runs_data()
@@ -67,7 +74,6 @@ void RunnerTest::runs_data()
     QTest::newRow("does not read") << true << QStringList();
     QTest::newRow("closes standard output first") << false << QStringList{text("INFO: late\n")};
     QTest::newRow("closes standard error first") << false << QStringList();
-    QTest::newRow("tells its input") << false << QStringList{QFile::symLinkTarget(text("/proc/self/fd/0"))};
     QTest::newRow("floods standard output") << false << QStringList();
 }
 
@@ -98,17 +104,43 @@ void RunnerTest::runs()
         QCOMPARE(run.input(), qstrcmp(QTest::currentDataTag(), "does not read") == 0 ? "" : "print\n");
 }
 
+void RunnerTest::drains_data()
+{
+    QTest::addColumn<bool>("outputEnds"); // else the errors do
+    QTest::newRow("closes standard output first") << true;
+    QTest::newRow("closes standard error first") << false;
+}
+
 // One stream has ended, the other not: the panel is busy, but no longer waits.
 void RunnerTest::drains()
 {
-    BackendRun run("closes standard error first");
+    QFETCH(bool, outputEnds);
+    BackendRun run(QTest::currentDataTag());
     run.installInBundle();
     QCOMPARE(run.start(), 0);
-    QTRY_VERIFY(!run.panel->streamERR_);
-    QVERIFY(run.panel->streamIN_ && !run.panel->waitForCommandCompletion_);
+    const auto &ended = outputEnds ? run.panel->streamIN_ : run.panel->streamERR_;
+    const auto &other = outputEnds ? run.panel->streamERR_ : run.panel->streamIN_;
+    QTRY_VERIFY(!ended);
+    QVERIFY(other && !run.panel->waitForCommandCompletion_);
     QCOMPARE(run.start(), -1);
     QVERIFY(!run.panel->waitForCommandCompletion_);
     QTRY_VERIFY(run.isIdle());
+}
+
+// Without a command the child's standard input is the dialog's, here a file.
+void RunnerTest::inheritsItsInput()
+{
+    BackendRun run("tells its input");
+    run.installInBundle();
+    QFile own(run.folder.filePath(text("the dialog's input")));
+    QVERIFY(own.open(QIODevice::ReadWrite));
+    const pdekit::FileDescriptor before(dup(STDIN_FILENO));
+    dup2(own.handle(), STDIN_FILENO);
+    const int result = run.start();
+    dup2(before.number(), STDIN_FILENO);
+    QCOMPARE(result, 0);
+    QTRY_VERIFY(run.isIdle());
+    QCOMPARE(run.dialog.log.constLast(), text("backend err = ") + own.fileName());
 }
 
 // Nothing is written to a backend that has ended within the pause.
@@ -121,6 +153,22 @@ void RunnerTest::endsWithinThePause()
     QVERIFY(run.logsOnceInTime(run.launchLines()));
     QTRY_COMPARE(openDescriptors(), descriptors);
     QVERIFY(!hasChildren());
+}
+
+// Ten milliseconds; a launch that a busy machine held up shows nothing, so the shortest of several counts.
+void RunnerTest::pausesAfterTheLaunch()
+{
+    BackendRun run("ends at once");
+    run.installInBundle();
+    qint64 shortest = std::numeric_limits<qint64>::max(); // microseconds
+    for (int i = 0; i < 5; ++i) {
+        QElapsedTimer timer;
+        timer.start();
+        QCOMPARE(run.start(), 0);
+        shortest = std::min(shortest, timer.nsecsElapsed() / 1000);
+        QTRY_VERIFY(run.isIdle());
+    }
+    QVERIFY2(shortest >= 10'000, qPrintable(QString::number(shortest)));
 }
 
 void RunnerTest::everyByteArrives()
@@ -142,9 +190,10 @@ void RunnerTest::everyByteArrives()
 
 void RunnerTest::offlineStopsTheBackend_data()
 {
-    QTest::addColumn<int>("interrupts");
+    QTest::addColumn<int>("interrupts"); // until the backend has ended
     QTest::newRow("offline") << 1;
-    QTest::newRow("ignores the first interrupt") << 2;
+    QTest::newRow("offline in a longer line") << 1;
+    QTest::newRow("offline until the 20th interrupt") << 20;
 }
 
 void RunnerTest::offlineStopsTheBackend()
@@ -156,6 +205,15 @@ void RunnerTest::offlineStopsTheBackend()
     QVERIFY(!run.panel->task_);
     QVERIFY(run.dialog.log.constLast().contains(text("STATE: +offline-error")));
     QTRY_VERIFY(!hasChildren());
+    QFETCH(int, interrupts);
+    if (interrupts == 1)
+        return;
+    // What the backend has written when the last one came: a millisecond before each but the first, of which
+    // those that came before it was first scheduled count as one.
+    bool isNumber = false;
+    const double time = run.input().toDouble(&isNumber); // milliseconds
+    QVERIFY(isNumber);
+    QVERIFY2(time >= interrupts - 2, qPrintable(QString::number(time)));
 }
 
 // The write fails: the signal is logged, the exception dropped.

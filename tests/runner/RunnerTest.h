@@ -13,8 +13,11 @@ private Q_SLOTS:
     void record();
     void runs_data();
     void runs();
+    void drains_data();
     void drains();
+    void inheritsItsInput();
     void endsWithinThePause();
+    void pausesAfterTheLaunch();
     void everyByteArrives();
     void offlineStopsTheBackend_data();
     void offlineStopsTheBackend();

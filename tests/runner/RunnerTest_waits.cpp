@@ -85,6 +85,9 @@ void RunnerTest::silenceAfterOneLine()
     QTRY_VERIFY_WITH_TIMEOUT(run.isIdle(), 15000);
     QVERIFY2(timer.elapsed() >= 11000 && timer.elapsed() < 12500,
              qPrintable(QString::number(timer.elapsed())));
+    QCOMPARE(run.panel->passes, 11);
+    const qint64 shortest = *std::ranges::min_element(run.panel->passTimes);
+    QVERIFY2(shortest >= 990 && shortest < 1090, qPrintable(QString::number(shortest)));
     QCOMPARE(run.dialog.log, run.launchLines() << text("backend err = INFO: one\n"));
     QVERIFY(run.panel->task_ && !run.panel->waitForCommandCompletion_);
     QTRY_VERIFY(!hasChildren());

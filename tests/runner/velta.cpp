@@ -5,6 +5,7 @@
 // VELTA_INPUT.
 
 #include <algorithm>
+#include <chrono>
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
@@ -76,12 +77,21 @@ int main(int argc, char *argv[])
         note("STATE: +off");
         usleep(200'000);
         note("line-error\n");
-    } else if (behaviour == "ignores the first interrupt") {
-        std::signal(SIGINT, [](int) {
-            interrupts = interrupts + 1;
-            if (interrupts >= 2)
-                _exit(0);
-        });
+    } else if (behaviour == "offline in a longer line") {
+        note("INFO: one, STATE: +offline-error, media-low\n");
+        pause();
+    } else if (behaviour == "offline until the 20th interrupt") {
+        std::signal(SIGINT, [](int) { interrupts = interrupts + 1; });
+        note("STATE: +offline-error\n");
+        while (interrupts < 1)
+            pause();
+        const auto first = std::chrono::steady_clock::now();
+        while (interrupts < 20)
+            pause();
+        const std::chrono::duration<double, std::milli> time = std::chrono::steady_clock::now() - first;
+        std::ofstream(environment("VELTA_INPUT")) << time.count();
+    } else if (behaviour == "offline for ever") {
+        std::signal(SIGINT, SIG_IGN);
         note("STATE: +offline-error\n");
         for (;;)
             pause();
