@@ -3,44 +3,15 @@
 
 #pragma once
 
+#include "URLReference.h"
+
 #include <QtCore/QByteArray>
-#include <QtCore/QRegularExpression>
 #include <QtCore/QString>
 #include <QtCore/QUrl>
 
 #include <optional>
 
 namespace pdekit {
-
-/// A URL as a print system hands it out: possibly relative to a base. It is kept as text, since QUrl refuses
-/// or rewrites what device URIs are made of: upper case and "%20" in the place of the host.
-struct URLReference
-{
-    explicit URLReference(const QString &reference, const std::optional<QString> &baseText = std::nullopt)
-        : text(reference)
-        , base(baseText)
-    {
-    }
-    /// For a URL that QUrl can hold.
-    explicit URLReference(const QUrl &url, const std::optional<QUrl> &baseUrl = std::nullopt)
-        : text(url.toString(QUrl::FullyEncoded))
-    {
-        if (baseUrl)
-            base = baseUrl->toString(QUrl::FullyEncoded);
-    }
-
-    QString text;
-    std::optional<QString> base; ///< of a relative reference
-
-    /// The URL made absolute where it is relative to a base, and as it is otherwise.
-    QString absolute() const
-    {
-        static const QRegularExpression scheme(QStringLiteral("^[A-Za-z][A-Za-z0-9+.-]*:")); // RFC 3986, 3.1
-        if (!base || text.contains(scheme))
-            return text;
-        return QUrl(*base).resolved(QUrl(text)).toString(QUrl::FullyEncoded);
-    }
-};
 
 /// The kind of description that PMPrinterCopyDescriptionURL is asked for.
 inline constexpr char PMPPDDescriptionType[] = "PMPPDDescriptionType";

@@ -286,10 +286,22 @@ void PanelProtocolTest::deviceUri()
     dialog.printer.deviceUri = pdekit::URLReference(text("ipp://elsewhere/"));
     QCOMPARE(panel->printerDeviceURI(), uri); // asked for once it is known: never again
 
+    // To the letter: neither the case nor the escapes of a host change.
+    const QString base = text("ipp://Host%20A:631/Printers/x/y?z#f");
+    for (const auto &[reference, absolute] :
+         {std::pair("../K9031?serial=A%2fB", "ipp://Host%20A:631/Printers/K9031?serial=A%2fB"),
+          std::pair("./K9031/.", "ipp://Host%20A:631/Printers/x/K9031/"),
+          std::pair("../../../..", "ipp://Host%20A:631/"), std::pair("/K9031", "ipp://Host%20A:631/K9031"),
+          std::pair("//Corvel%20Inc/a/../b", "ipp://Corvel%20Inc/b"),
+          std::pair("?serial=1", "ipp://Host%20A:631/Printers/x/y?serial=1"),
+          std::pair("", "ipp://Host%20A:631/Printers/x/y?z")}) {
+        panel = dialog.make<LVCorvelMainPDE>();
+        dialog.printer.deviceUri = pdekit::URLReference(text(reference), base);
+        QCOMPARE(panel->printerDeviceURI(), text(absolute));
+    }
     panel = dialog.make<LVCorvelMainPDE>();
-    dialog.printer.deviceUri =
-        pdekit::URLReference(text("../K9031?serial=1"), text("ipp://host:631/printers/x/"));
-    QCOMPARE(panel->printerDeviceURI(), text("ipp://host:631/printers/K9031?serial=1"));
+    dialog.printer.deviceUri = pdekit::URLReference(text("K9031"), text("ipp://Host"));
+    QCOMPARE(panel->printerDeviceURI(), text("ipp://Host/K9031"));
     // An absolute one has no use for its base, and stays to the letter.
     panel = dialog.make<LVCorvelMainPDE>();
     dialog.printer.deviceUri = pdekit::URLReference(uri, text("ipp://host:631/printers/x/"));
