@@ -3,21 +3,67 @@
 
 #include "RKTPPRBasePDEcorvel.h"
 
-#include "CatchPIPE.h"
 #include "CupsPpd.h"
 #include "Feedback.h"
 #include "FormLoader.h"
 #include "PlatformException.h"
 #include "PrintDialogCallback.h"
+#include "SignalLog.h"
 #include "SystemLog.h"
 
 #include <QtWidgets/QWidget>
 
+#include <array>
+#include <csignal>
+#include <cstddef>
+#include <cstring>
+
 using pdekit::systemLog;
+
+namespace {
+
+/// Appends the decimal digits of a number; snprintf(3) is not async-signal-safe.
+std::size_t appendNumber(char *text, std::size_t length, int number)
+{
+    std::array<char, 12> digits;
+    std::size_t count = 0;
+    do {
+        digits[count++] = static_cast<char>('0' + number % 10);
+        number /= 10;
+    } while (number > 0 && count < digits.size());
+    while (count > 0)
+        text[length++] = digits[--count];
+    return length;
+}
+
+void catchPIPE(int signal)
+{
+    constexpr char begin[] = "caught a signal ";
+    std::array<char, sizeof begin + 16> line;
+    std::size_t length = sizeof begin - 1;
+    std::memcpy(line.data(), begin, length);
+    length = appendNumber(line.data(), length, signal);
+    line[length++] = '\n';
+    pdekit::systemLogFromSignal(line.data(), length);
+}
+
+/// Makes `catchPIPE` the process's handler for SIGPIPE, so that a write to a child that has ended fails
+/// instead of ending the process. False: it could not be registered.
+bool registerPipeHandler()
+{
+    pdekit::prepareSignalLog();
+    struct sigaction action = {};
+    action.sa_handler = &catchPIPE;
+    action.sa_flags = SA_RESTART;
+    sigemptyset(&action.sa_mask);
+    return sigaction(SIGPIPE, &action, nullptr) == 0;
+}
+
+} // namespace
 
 bool RKTPPRBasePDEcorvel::initWithCallback(const std::shared_ptr<QObject> &callbackObject)
 {
-    if (!installCatchPIPE())
+    if (!registerPipeHandler())
         systemLog(QStringLiteral("error registering for SIGPIPE handler\n"));
     pdePluginCallbackObject_ = callbackObject;
     pdeBundle_ = pdekit::Bundle::bundleForClass(*metaObject());
