@@ -14,6 +14,7 @@
 #include <QtCore/QHash>
 #include <QtCore/QPointer>
 
+#include <chrono>
 #include <cstdint>
 #include <memory>
 #include <optional>
@@ -116,8 +117,10 @@ public:
     virtual void controlTextDidChange(QWidget *object);
 
     // The backend runner.
-    /// Interrupts the backend until it ends, and lets go of it.
-    virtual void killCurrentTask();
+    /// Interrupts the backend, a millisecond apart, until it ends, and lets go of it. For 5 seconds at most:
+    /// a backend that no interrupt ends would hold the dialog for ever. It is killed then, and the system log
+    /// says so.
+    Q_INVOKABLE virtual void killCurrentTask();
     virtual void bytesAvailableForStreamIN(pdekit::InputStream *stream);
     virtual void streamINHandleEvent(pdekit::InputStream *stream, quintptr event);
     /// Waits, within limits, for the completion of the command; the event loop runs meanwhile.
@@ -174,6 +177,9 @@ protected:
     virtual bool runEventLoopOnce();
     /// Sends the backend SIGINT, if it runs.
     virtual void interruptBackend();
+
+    /// How long killCurrentTask interrupts the backend.
+    std::chrono::milliseconds longestKill_{5000};
 
     std::shared_ptr<QObject> pdePluginCallbackObject_; ///< the dialog's
     Text thePDEName_;                                  ///< filled by the concrete panel's panelName

@@ -5,6 +5,7 @@
 #include "SystemLog.h"
 
 #include <QtCore/QCoreApplication>
+#include <QtCore/QDeadlineTimer>
 #include <QtCore/QEventLoop>
 #include <QtCore/QPointer>
 #include <QtCore/QTimer>
@@ -19,7 +20,6 @@ namespace {
 
 constexpr std::size_t readSize = 1024;       // bytes, at most, of one event
 constexpr useconds_t interruptPause = 1'000; // microseconds
-constexpr int mostInterrupts = 5'000;
 constexpr std::chrono::milliseconds longestPass(1000);
 
 /// Ends a stream that may be telling just that.
@@ -143,12 +143,16 @@ void RKTPPRBasePDEcorvel::interruptBackend()
 
 void RKTPPRBasePDEcorvel::killCurrentTask()
 {
-    for (int i = 0; task_ && task_->isRunning(); ++i) {
+    const QDeadlineTimer end(longestKill_);
+    while (task_ && task_->isRunning()) {
         task_->interrupt();
         usleep(interruptPause);
-        // A backend that no interrupt ends would hold the dialog for ever.
-        if (i >= mostInterrupts)
-            task_->takeDown(std::chrono::milliseconds(0));
+        if (!end.hasExpired())
+            continue;
+        pdekit::systemLog(
+            QStringLiteral("no interrupt has ended the velta backend within %1 ms; killing it\n")
+                .arg(longestKill_.count()));
+        task_->takeDown(std::chrono::milliseconds(0));
     }
     task_.reset();
 }

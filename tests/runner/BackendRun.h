@@ -21,6 +21,7 @@
 class RunnerPanel : public RKTPPRBasePDEcorvel
 {
 public:
+    using RKTPPRBasePDEcorvel::longestKill_;
     using RKTPPRBasePDEcorvel::pdeBundle_;
     using RKTPPRBasePDEcorvel::streamERR_;
     using RKTPPRBasePDEcorvel::streamIN_;

@@ -216,6 +216,27 @@ void RunnerTest::offlineStopsTheBackend()
     QVERIFY2(time >= interrupts - 2, qPrintable(QString::number(time)));
 }
 
+// A backend that no interrupt ends does not hold the dialog for longer than the limit.
+void RunnerTest::interruptsEndInTime()
+{
+    BackendRun run("offline for ever");
+    run.installInBundle();
+    QCOMPARE(run.panel->longestKill_, std::chrono::seconds(5));
+    run.panel->longestKill_ = std::chrono::milliseconds(50);
+    QCOMPARE(run.start(), 0);
+    const pid_t backend = run.panel->task_->processIdentifier();
+    QElapsedTimer timer;
+    timer.start();
+    QTRY_VERIFY(run.isIdle());
+    QVERIFY(timer.elapsed() < 2000);
+    QVERIFY(!run.panel->task_);
+    QCOMPARE(kill(backend, 0), -1);
+    QCOMPARE(
+        run.dialog.log, run.launchLines()
+                            << text("backend err = STATE: +offline-error\n")
+                            << text("no interrupt has ended the velta backend within 50 ms; killing it\n"));
+}
+
 // The write fails: the signal is logged, the exception dropped.
 void RunnerTest::closedInputRaisesNothing()
 {

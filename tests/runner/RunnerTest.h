@@ -21,6 +21,7 @@ private Q_SLOTS:
     void everyByteArrives();
     void offlineStopsTheBackend_data();
     void offlineStopsTheBackend();
+    void interruptsEndInTime();
     void closedInputRaisesNothing();
     void backendIsLookedFor_data();
     void backendIsLookedFor();
