@@ -130,6 +130,8 @@ int LVSharpnessCorvelPDE::tagForStringValue(const Text &value) const
 
 RKTPPRBasePDEcorvel::Text LVSharpnessCorvelPDE::newChoiceForSender(QWidget *sender)
 {
+    if (!sender)
+        return std::nullopt;
     Text text = pdekit::stringValue(sender);
     if (!isIntensity(sender))
         return QString::number(pdekit::leadingInteger(text.value_or(QString())));
@@ -141,7 +143,7 @@ RKTPPRBasePDEcorvel::Text LVSharpnessCorvelPDE::newChoiceForSender(QWidget *send
 void LVSharpnessCorvelPDE::controlTextDidEndEditing(QWidget *object)
 {
     RKTPPRBasePDEcorvel::controlTextDidEndEditing(object);
-    if (!isIntensity(object))
+    if (!object || !isIntensity(object))
         return;
     // Single precision here and double on the slider's way: the two may round a third decimal differently.
     const double typed = pdekit::leadingDouble(pdekit::stringValue(object).value_or(QString()));

@@ -37,7 +37,9 @@ class RadioMatrix;
 /// settings itself.
 ///
 /// Controls are found by tag: option controls 1, 2, 3, ...; the partner that shows the same value as control
-/// N at N ^ 80; the defaults button 16; the enabler check box 32. Main thread only.
+/// N at N ^ 80; the defaults button 16; the enabler check box 32. Where a control is asked for, null does
+/// nothing, and stands for no choice. What takes no argument can be called by its name (QMetaObject). Main
+/// thread only.
 class RKTPPRBasePDEcorvel : public pdekit::KeyValueObject,
                             public pdekit::PrintDialogPanel,
                             public pdekit::ChoiceReceiver

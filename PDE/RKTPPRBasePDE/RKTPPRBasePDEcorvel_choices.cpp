@@ -73,6 +73,8 @@ RKTPPRBasePDEcorvel::Text RKTPPRBasePDEcorvel::newChoiceForSender(QWidget *sende
 
 RKTPPRBasePDEcorvel::Text RKTPPRBasePDEcorvel::cellChoice(QWidget *sender) const
 {
+    if (!sender)
+        return std::nullopt;
     const auto *matrix = qobject_cast<pdekit::RadioMatrix *>(sender);
     return ppdChoiceForTag(matrix ? pdekit::RadioMatrix::cellTag(matrix->selectedCell())
                                   : pdekit::tag(sender));

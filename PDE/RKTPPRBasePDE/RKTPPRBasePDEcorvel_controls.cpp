@@ -111,6 +111,8 @@ void RKTPPRBasePDEcorvel::updateUI()
 
 void RKTPPRBasePDEcorvel::setControlsEnabledByToggle(QWidget *enabler)
 {
+    if (!enabler)
+        return;
     const bool enabled = static_cast<signed char>(enablerState(enabler)) != 0;
     bool atPartners = false;
     for (int tag = 1;;) {

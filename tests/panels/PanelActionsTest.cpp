@@ -4,7 +4,9 @@
 #include "BuiltPanel.h"
 #include "LVCorvelLaminationPDE.h"
 #include "LVCorvelMainPDE.h"
+#include "LVSharpnessCorvelPDE.h"
 #include "PanelHarness.h"
+#include "RKTPPRMatrixPDEcorvel.h"
 
 #include <QtGui/QWheelEvent>
 #include <QtTest/QTest>
@@ -26,6 +28,7 @@ private Q_SLOTS:
     void fieldWithoutASlider();
     void mixedEnablerOfTheFinish();
     void sendersThatAreNoControls();
+    void missingControls();
 };
 
 void PanelActionsTest::initTestCase_data()
@@ -166,6 +169,25 @@ void PanelActionsTest::mixedEnablerOfTheFinish()
     QCheckBox box;
     box.setCheckState(Qt::PartiallyChecked);
     QCOMPARE(panel->enablerState(&box), 0); // the printer decides, and the panel's controls are of no use
+}
+
+// Where a control is asked for, none does nothing.
+void PanelActionsTest::missingControls()
+{
+    QFETCH_GLOBAL(Mode, mode);
+    PanelHarness dialog(mode);
+    const auto ask = [&dialog](RKTPPRBasePDEcorvel &panel) {
+        dialog.log.clear();
+        panel.controlTextDidEndEditing(nullptr);
+        panel.setControlsEnabledByToggle(nullptr);
+        QVERIFY(!panel.newChoiceForSender(nullptr));
+        QCOMPARE(dialog.log, QStringList());
+        QCOMPARE(dialog.feedback->beeps, 0);
+    };
+    ask(*dialog.make<LVCorvelMainPDE>());
+    ask(*dialog.make<LVSharpnessCorvelPDE>());
+    ask(*dialog.make<LVCorvelLaminationPDE>());
+    ask(*dialog.make<RKTPPRMatrixPDEcorvel>());
 }
 
 void PanelActionsTest::sendersThatAreNoControls()
