@@ -74,9 +74,9 @@ public:
 
     // Print settings and PPD.
     /// The bytes of the printer's PPD file, without a terminating NUL.
-    virtual std::optional<QByteArray> ppdDataCopy();
+    Q_INVOKABLE virtual std::optional<QByteArray> ppdDataCopy();
     /// "usb://" as long as the printer's own is not known.
-    virtual QString printerDeviceURI();
+    Q_INVOKABLE virtual QString printerDeviceURI();
 
     // Hooks and operations on a loaded view.
     virtual Text ppdOptionKeyForTag(int tag) const;
@@ -100,13 +100,13 @@ public:
     // From the recorded choices to the controls.
     /// The tag of the radio cell that stands for the choice; 0 when none does.
     virtual int tagForStringValue(const Text &value) const;
-    bool shouldShowHelp() override;
+    Q_INVOKABLE bool shouldShowHelp() override;
     /// Non-zero enables the option controls.
     virtual int enablerState(QWidget *enabler) const;
     virtual void setControlsEnabledByToggle(QWidget *enabler);
     virtual void updateControlWithValue(QWidget *control, const Text &value);
-    virtual void updateUI();
-    virtual void setDefaults();
+    Q_INVOKABLE virtual void updateUI();
+    Q_INVOKABLE virtual void setDefaults();
 
     // Actions.
     /// The hook for an immediate printer command; does nothing.
@@ -142,25 +142,25 @@ public:
     void showValueInBoundControl(QWidget *control, const QString &value) override;
 
     // The dialog's protocol.
-    void willShow() override;
-    bool shouldHide() override;
+    Q_INVOKABLE void willShow() override;
+    Q_INVOKABLE bool shouldHide() override;
     bool saveValuesAndReturnError(QString *error) override;
     bool restoreValuesAndReturnError(QString *error) override;
-    QStringList supportedPPDOptionKeys() override;
+    Q_INVOKABLE QStringList supportedPPDOptionKeys() override;
     void PPDOptionKeyValueDidChangePpdChoice(const Text &key, const Text &choice) override;
-    Text nibName() override;
-    QWidget *panelView() override;
-    Text panelName() override;
-    Text panelKind() const override;
-    std::optional<Summary> summaryInfo() override;
+    Q_INVOKABLE Text nibName() override;
+    Q_INVOKABLE QWidget *panelView() override;
+    Q_INVOKABLE Text panelName() override;
+    Q_INVOKABLE Text panelKind() const override;
+    Q_INVOKABLE std::optional<Summary> summaryInfo() override;
 
     // The road to the print settings of a dialog without constraint handling.
     /// The print session's PPD record, which stays the session's; null when it cannot be had.
-    virtual ppd_file_s *getPPDOnTiger();
+    Q_INVOKABLE virtual ppd_file_s *getPPDOnTiger();
     /// True writes the recorded choices to the print settings, false reads them from there.
     virtual void usePPDSettingsFromPrintSettingsOnTiger(bool write);
-    virtual void getPPDSettingsFromPrintSettingsOnTiger();
-    virtual void writePPDSettingsToPrintSettingsOnTiger();
+    Q_INVOKABLE virtual void getPPDSettingsFromPrintSettingsOnTiger();
+    Q_INVOKABLE virtual void writePPDSettingsToPrintSettingsOnTiger();
 
 protected:
     /// `tag`, or the tag of the option control whose partner it is.

@@ -32,6 +32,48 @@ public:
     int probes = 0;
 };
 
+/// Notes which of the operations that take no argument are performed.
+class ListeningPanel : public LVCorvelLaminationPDE
+{
+public:
+    std::optional<QByteArray> ppdDataCopy() override
+    {
+        return note("ppdDataCopy", std::optional<QByteArray>());
+    }
+    QString printerDeviceURI() override { return note("printerDeviceURI", QString()); }
+    bool shouldShowHelp() override { return note("shouldShowHelp", true); }
+    void updateUI() override { performed << text("updateUI"); }
+    void setDefaults() override { performed << text("setDefaults"); }
+    void killCurrentTask() override { performed << text("killCurrentTask"); }
+    void willShow() override { performed << text("willShow"); }
+    bool shouldHide() override { return note("shouldHide", true); }
+    QStringList supportedPPDOptionKeys() override { return note("supportedPPDOptionKeys", QStringList()); }
+    Text nibName() override { return note("nibName", Text()); }
+    QWidget *panelView() override { return note<QWidget *>("panelView", nullptr); }
+    Text panelName() override { return note("panelName", Text()); }
+    Text panelKind() const override { return note("panelKind", Text()); }
+    std::optional<Summary> summaryInfo() override { return note("summaryInfo", std::optional<Summary>()); }
+    ppd_file_s *getPPDOnTiger() override { return note<ppd_file_s *>("getPPDOnTiger", nullptr); }
+    void getPPDSettingsFromPrintSettingsOnTiger() override
+    {
+        performed << text("getPPDSettingsFromPrintSettingsOnTiger");
+    }
+    void writePPDSettingsToPrintSettingsOnTiger() override
+    {
+        performed << text("writePPDSettingsToPrintSettingsOnTiger");
+    }
+
+    mutable QStringList performed;
+
+private:
+    template <class Answer>
+    Answer note(const char *operation, Answer answer) const
+    {
+        performed << text(operation);
+        return answer;
+    }
+};
+
 QByteArray ppd()
 {
     QList<QByteArray> levels;
@@ -80,6 +122,8 @@ private Q_SLOTS:
     void isMatte();
     void boundValueIsStored();
     void boundValueNamesAMember();
+    void boundValueNamesAnOperation_data();
+    void boundValueNamesAnOperation();
     void boundValueIsRefused_data();
     void boundValueIsRefused();
 };
@@ -302,6 +346,34 @@ void LaminationTest::boundValueNamesAMember()
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     QVERIFY(alive);
     QCOMPARE(panel->probes, 1);
+}
+
+void LaminationTest::boundValueNamesAnOperation_data()
+{
+    QTest::addColumn<bool>("isPerformed");
+    for (const char *operation :
+         {"ppdDataCopy", "printerDeviceURI", "shouldShowHelp", "updateUI", "setDefaults", "killCurrentTask",
+          "willShow", "shouldHide", "supportedPPDOptionKeys", "nibName", "panelView", "panelName",
+          "panelKind", "summaryInfo", "getPPDOnTiger", "getPPDSettingsFromPrintSettingsOnTiger",
+          "writePPDSettingsToPrintSettingsOnTiger"})
+        QTest::newRow(operation) << true;
+    for (const char *other : {"Overcoat", "updateui", "updateUI()", "setQual", "restoreValuesAndReturnError"})
+        QTest::newRow(other) << false;
+}
+
+// To the letter, and only what takes no argument; in print-settings mode nobody is asked first.
+void LaminationTest::boundValueNamesAnOperation()
+{
+    QFETCH_GLOBAL(Mode, mode);
+    QFETCH(bool, isPerformed);
+    if (mode == Mode::Constraint)
+        return;
+    ListeningPanel panel;
+    panel.setChoiceForKey({}, {}); // the record asks for the keys when it is made
+    panel.performed.clear();
+    const QString name = text(QTest::currentDataTag());
+    panel.setValueForBoundControlWithKey(text("7"), name);
+    QCOMPARE(panel.performed, isPerformed ? QStringList(name) : QStringList());
 }
 
 void LaminationTest::boundValueIsRefused_data()
