@@ -67,6 +67,9 @@ bool DialogSession::rule(const QString &key, const QString &choice)
 {
     lastRuling_ = mark(key, choice);
     const bool let = lastRuling_.verdict == Verdict::Accepted || lastRuling_.verdict == Verdict::Incomplete;
+    begunKeys_.removeOne(key);
+    if (lastRuling_.verdict == Verdict::Incomplete)
+        begunKeys_.append(key);
     if (let) {
         noteChosen(key);
         announceChangedMarks(key);
@@ -153,6 +156,7 @@ Ruling DialogSession::chooseDirectly(const Ruling &offered)
 // A panel restores from where its mode keeps the choices, so what it has recorded goes there first.
 void DialogSession::refreshPanels()
 {
+    begunKeys_.clear();
     for (const pdekit::PanelPointer &panel : panels_) {
         panel->saveValuesAndReturnError(nullptr);
         panel->restoreValuesAndReturnError(nullptr);
@@ -205,6 +209,7 @@ QStringList DialogSession::jobKeys() const
 
 Result<JobOptions, Verdict> DialogSession::jobOptions()
 {
+    finishTyping();
     for (const pdekit::PanelPointer &panel : panels_)
         panel->saveValuesAndReturnError(nullptr);
     JobOptions job;
@@ -212,6 +217,7 @@ Result<JobOptions, Verdict> DialogSession::jobOptions()
         const QList<Ruling> unmarked = marker_.markTogether(ticket_.options());
         for (const Ruling &ruling : unmarked)
             job.dropped.append(ruling.text);
+        replaceDropped(unmarked);
     }
     if (const std::optional<Ruling> conflict = marker_.firstConflict(chosenKeys_)) {
         jobRefusal_ = *conflict;

@@ -63,6 +63,10 @@ public:
 
     /// Lets the panels' controls show choices that did not come from them.
     void refreshPanels();
+    /// The user has left a field of a panel. Where its text was only the beginning of a number, the print
+    /// system has let it through without marking it, and the panel shows another choice than the job's: it
+    /// shows the marked one again.
+    void finishTyping();
 
     /// The present choice of every option of the PPD that has one.
     QMap<QString, QString> choices();
@@ -77,9 +81,10 @@ public:
     /// The panels' entries, in the panels' order.
     QList<QPair<QString, QString>> summary();
 
-    /// Saves the panels, and checks what they and the user have chosen against the PPD: the choice of every
-    /// option that a panel supports, the page size, and whatever else was chosen. Fails when choices stand in
-    /// each other's way, or the page size is none of the PPD's.
+    /// Ends what is being typed, saves the panels, and checks what they and the user have chosen against the
+    /// PPD: the choice of every option that a panel supports, the page size, and whatever else was chosen.
+    /// Fails when choices stand in each other's way, or the page size is none of the PPD's. A recorded choice
+    /// that is none of the PPD's is dropped; what is printed instead is recorded, and the panels show it.
     Result<JobOptions, Verdict> jobOptions();
     /// What made jobOptions() fail the last time. Its key is the option that was chosen last of those that
     /// stand in each other's way.
@@ -102,6 +107,7 @@ private:
     Ruling chooseDirectly(const Ruling &offered);
     pdekit::PrintDialogPanel *panelFor(const QString &key) const;
     QStringList jobKeys() const;
+    void replaceDropped(const QList<Ruling> &dropped);
 
     PrinterDescription printer_;
     PpdDocument ppd_;
@@ -117,6 +123,7 @@ private:
     Ruling lastRuling_;
     Ruling jobRefusal_;
     QHash<QString, QString> knownMarks_; ///< what the panels know to be marked
+    QStringList begunKeys_;              ///< options whose number was begun and is not marked
 };
 
 } // namespace printdialog

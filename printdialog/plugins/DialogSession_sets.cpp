@@ -3,6 +3,9 @@
 
 #include "DialogSession.h"
 
+#include <algorithm>
+#include <utility>
+
 namespace printdialog {
 
 QMap<QString, QString> DialogSession::choices()
@@ -53,6 +56,31 @@ QList<Ruling> DialogSession::restoreChoices(const QMap<QString, QString> &choice
     made.insert(plan.choices);
     chooseTogether(made);
     return plan.leftOut;
+}
+
+void DialogSession::finishTyping()
+{
+    const QStringList keys = std::exchange(begunKeys_, {});
+    for (const QString &key : keys) {
+        if (pdekit::PrintDialogPanel *panel = panelFor(key))
+            panel->restoreValuesAndReturnError(nullptr);
+    }
+}
+
+void DialogSession::replaceDropped(const QList<Ruling> &dropped)
+{
+    for (const Ruling &ruling : dropped) {
+        const std::optional<QString> marked = ppd_.markedChoice(ruling.key);
+        pdekit::PrintDialogPanel *panel = panelFor(ruling.key);
+        if (!marked || !panel)
+            continue;
+        ticket_.options().insert(ruling.key, *marked);
+        panel->PPDOptionKeyValueDidChangePpdChoice(ruling.key, marked);
+        // A ticket without one of its options makes a panel take the defaults of all.
+        const QStringList keys = panel->supportedPPDOptionKeys();
+        if (std::ranges::all_of(keys, [this](const QString &key) { return ticket_.options().contains(key); }))
+            panel->restoreValuesAndReturnError(nullptr);
+    }
 }
 
 QList<OptionChoice> DialogSession::changesThatAllow(const Ruling &refusal) const

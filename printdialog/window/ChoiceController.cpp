@@ -56,6 +56,10 @@ ChoiceController::ChoiceController(const ChoiceWidgets &widgets, QObject *parent
     connect(widgets.panels, &PanelTabs::viewMade, watcher_, &ControlWatcher::watchView);
     connect(widgets.panels, &PanelTabs::currentChanged, callout_, &ChoiceCallout::dismiss);
     connect(watcher_, &ControlWatcher::acted, this, &ChoiceController::noteAct);
+    connect(watcher_, &ControlWatcher::typingFinished, this, [this] {
+        if (session_)
+            session_->finishTyping();
+    });
     connect(callout_, &ChoiceCallout::offerTaken, this, &ChoiceController::takeOffer);
     watcher_->watchField(widgets.copies);
     connect(widgets.copies, &QSpinBox::valueChanged, watcher_, [this] { watcher_->note(widgets_.copies); });

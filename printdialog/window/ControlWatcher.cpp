@@ -51,7 +51,10 @@ void ControlWatcher::watchControl(QWidget *control)
     control->installEventFilter(this);
     if (auto *field = qobject_cast<QLineEdit *>(control)) {
         connect(field, &QLineEdit::textEdited, this, [this, field] { note(field); });
-        connect(field, &QLineEdit::editingFinished, this, [this, field] { note(field); });
+        connect(field, &QLineEdit::editingFinished, this, [this, field] {
+            note(field);
+            Q_EMIT typingFinished();
+        });
         return;
     }
     pdekit::connectAction(control, this, [this, control] { note(control); });

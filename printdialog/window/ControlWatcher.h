@@ -33,6 +33,8 @@ public:
 Q_SIGNALS:
     /// `goesOn`: more of the same: typing in the same field, moving the same slider without letting go of it.
     void acted(QWidget *control, bool goesOn);
+    /// The user has left a text field or pressed Return in it.
+    void typingFinished();
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;

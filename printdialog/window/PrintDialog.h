@@ -124,6 +124,7 @@ private:
     bool isRemembered_ = false; ///< it comes from an earlier time, and the print server has not confirmed it
     bool wasChosen_ = false;    ///< by the user, this time or an earlier one
     QString whyNotReady_;       ///< why Print is off; empty when it is on
+    QStringList remarks_;       ///< what was left out of the job that is printed
     QString notKept_;           ///< why the choices are not kept for the next time; mostly empty
 };
 

@@ -67,6 +67,7 @@ void PrintDialog::print()
         target.folder.path = ui_->folder->text();
     else
         target.queue = session_->printer().name;
+    remarks_ = remarks;
     remember(true);
     ui_->progress->show(tr("Printing…"));
     worker_->print(ui_->photos->photos(), target, *job);
@@ -77,8 +78,8 @@ void PrintDialog::finishPrinting(const PrintOutcome &outcome)
 {
     ui_->progress->hide();
     updateButtons();
-    QStringList lines = outcome.printed + outcome.waiting;
-    const bool isFine = outcome.waiting.isEmpty() && notKept_.isEmpty();
+    QStringList lines = outcome.printed + outcome.waiting + remarks_;
+    const bool isFine = outcome.waiting.isEmpty() && notKept_.isEmpty() && remarks_.isEmpty();
     for (const QString &line : {outcome.failure, std::exchange(notKept_, QString())}) {
         if (!line.isEmpty())
             lines += line;

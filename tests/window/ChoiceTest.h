@@ -31,6 +31,8 @@ private Q_SLOTS:
     void oneActIsOneStep();
     void undoOfChoicesThatAllowEachOtherOnlyTogether();
     void revertIsAStep();
+    void numberLeftUnfinished_data();
+    void numberLeftUnfinished();
     void printingKeepsTheChoices();
     void cancelKeepsNothing();
     void keptChoicesThatConflict();

@@ -1,0 +1,54 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "ChoiceTest.h"
+
+#include <QtCore/QFile>
+#include <QtCore/QJsonDocument>
+#include <QtWidgets/QAbstractButton>
+#include <QtWidgets/QSlider>
+
+using namespace printdialog;
+using namespace testing_support;
+using namespace Qt::StringLiterals;
+
+// Numbers that are not finished: what is shown is what is printed.
+
+void ChoiceTest::numberLeftUnfinished_data()
+{
+    QTest::addColumn<QString>("button"); // that is used from the field; else the field is left
+    QTest::newRow("leaving the field") << QString();
+    QTest::newRow("saving") << u"save"_s;
+    QTest::newRow("printing") << u"print"_s;
+}
+
+void ChoiceTest::numberLeftUnfinished()
+{
+    QFETCH_GLOBAL(PanelMode, mode);
+    QFETCH(QString, button);
+    const OpenedDialog opened(setup(mode));
+    opened.type(81, u"-12"_s);
+    opened.control(82)->setFocus();
+    opened.type(81, u"-"_s);
+    if (button.isEmpty())
+        QTest::keyClick(opened.control(81), Qt::Key_Tab);
+    else
+        opened.find<QAbstractButton>(button)->click(); // by its key, with the focus in the field
+    const auto *slider = qobject_cast<QSlider *>(opened.control(1));
+    // The print system goes by what is marked; without it there is the default, and a word about it.
+    const bool isMarked = mode == PanelMode::Constraint;
+    const QString shown = isMarked ? u"-12"_s : u"0"_s;
+    QCOMPARE(opened.fieldText(81), shown);
+    QCOMPARE(slider->value(), shown.toInt());
+    if (button != u"print")
+        opened.click(u"print"_s);
+    QTRY_VERIFY(opened.dialog->message().contains(u"sample.pdf"_s));
+    QCOMPARE(opened.dialog->message().contains(u"only the beginning of a number"_s),
+             !isMarked && button != u"save");
+    QCOMPARE(opened.options()[u"Red"_s].toString(), shown);
+    QFile ticket(opened.folder.filePath(u"out/sample.ticket.json"_s));
+    QVERIFY(ticket.open(QIODevice::ReadOnly));
+    const QJsonObject summary = QJsonDocument::fromJson(ticket.readAll()).object()[u"summary"_s].toObject();
+    QCOMPARE(summary[u"Red"_s].toString(), shown);
+    QCOMPARE(opened.fieldText(81), shown);
+}
