@@ -6,7 +6,6 @@
 #include "Console.h"
 #include "JobPlan.h"
 #include "PhotoList.h"
-#include "PhotoPrinter.h"
 #include "RequestedSession.h"
 #include "SummaryLines.h"
 
@@ -69,6 +68,7 @@ int BatchRun::run()
     job.options = options->options;
     job.copies = requested->copies;
     job.summary = summaryOf(summary);
+    job.checksPhoto = commandLine_.checks;
     const PrinterDescription &printer = session.printer();
     job.queue = printer.hasPpd ? QueueTerms::ofPpd(ppd) : QueueTerms::withoutPpd();
     return commandLine_.dryRun ? showPlan(*photos, printer, job) : printAll(*photos, printer, job);
@@ -84,10 +84,12 @@ int BatchRun::showPlan(PhotoList &photos, const PrinterDescription &printer, con
         if (!photo)
             return fail(photo.failure().text);
         const auto plan = JobPlan::make(*photo, printer, job, names);
+        if (!plan && leaveOut(plan.failure()))
+            continue;
         if (!plan)
             return fail(plan.failure().text);
         array.append(plan->json());
-        if (i > 0)
+        if (!lines.isEmpty())
             lines.append(QString());
         lines += plan->lines();
     }
@@ -95,7 +97,7 @@ int BatchRun::showPlan(PhotoList &photos, const PrinterDescription &printer, con
         console_.writeJson(array);
     else
         console_.writeLines(lines);
-    return exitDone;
+    return endOf(exitDone);
 }
 
 OutputFolder BatchRun::outputFolder() const
@@ -125,6 +127,8 @@ int BatchRun::printAll(PhotoList &photos, const PrinterDescription &printer, con
         const auto printed = photoPrinter.print(*photo, job);
         if (!printed && interrupt_.isRaised())
             return takeBack(jobs);
+        if (!printed && leaveOut(printed.failure()))
+            continue;
         if (!printed)
             return failAfterDone(printed.failure().text);
         progress_.clear();
@@ -133,8 +137,8 @@ int BatchRun::printAll(PhotoList &photos, const PrinterDescription &printer, con
             jobs.add(current, *id);
         done_.append(current);
     }
-    return jobs.isEmpty() || commandLine_.wait == std::chrono::seconds(0) ? static_cast<int>(exitDone)
-                                                                          : followAll(jobs);
+    return endOf(jobs.isEmpty() || commandLine_.wait == std::chrono::seconds(0) ? static_cast<int>(exitDone)
+                                                                                : followAll(jobs));
 }
 
 int BatchRun::followAll(const SentJobs &jobs)
@@ -162,6 +166,22 @@ int BatchRun::takeBack(const SentJobs &jobs)
         return fail(failures.join(u' '));
     return fail(jobs.isEmpty() ? tr("Cancelled; nothing more is printed.")
                                : tr("Cancelled; the jobs sent were taken back from the printer."));
+}
+
+/// Whether the others can be printed all the same.
+bool BatchRun::leaveOut(const Failure<PhotoPrinter::Fault> &failure)
+{
+    if (!failure.reason.isPhotos)
+        return false;
+    progress_.clear();
+    console_.complain(failure.text);
+    hasLeftOut_ = true;
+    return true;
+}
+
+int BatchRun::endOf(int status) const
+{
+    return hasLeftOut_ ? static_cast<int>(exitFailed) : status;
 }
 
 int BatchRun::failAfterDone(const QString &sentence)

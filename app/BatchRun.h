@@ -6,6 +6,7 @@
 #include "CommandLine.h"
 #include "DialogSession.h"
 #include "InterruptFlag.h"
+#include "PhotoPrinter.h"
 #include "ProgressLine.h"
 #include "SentJobs.h"
 
@@ -29,12 +30,14 @@ public:
     /// Both are borrowed.
     BatchRun(const CommandLine &commandLine, Console &console);
 
-    /// Prints, writes a line for each printed photo and complains about the first thing that went wrong. A
-    /// dry run shows what would be sent instead.
+    /// Prints, writes a line for each printed photo, complains about each that is damaged, which is left out,
+    /// and about the first other thing that went wrong. A dry run shows what would be sent instead.
     int run();
 
 private:
     int fail(const QString &sentence);
+    bool leaveOut(const Failure<PhotoPrinter::Fault> &failure);
+    int endOf(int status) const;
     int failAfterDone(const QString &sentence);
     int showPlan(PhotoList &photos, const PrinterDescription &printer, const PrintJob &job);
     int printAll(PhotoList &photos, const PrinterDescription &printer, const PrintJob &job);
@@ -46,7 +49,8 @@ private:
     Console &console_;
     InterruptFlag interrupt_;
     ProgressLine progress_;
-    QStringList done_; ///< the names of the photos that were printed or sent
+    QStringList done_;        ///< the names of the photos that were printed or sent
+    bool hasLeftOut_ = false; ///< whether a damaged photo was not printed
 };
 
 } // namespace printdialog

@@ -70,6 +70,10 @@ constexpr std::array optionRows = {
                                 "saved is not used, so that a script gets the same each time")},
     OptionRow{"dry-run", nullptr,
               QT_TRANSLATE_NOOP("CommandLine", "show exactly what --batch would send, and send nothing")},
+    OptionRow{"no-check", nullptr,
+              QT_TRANSLATE_NOOP("CommandLine",
+                                "--batch and --dry-run do not look for damage in JPEG photos,\n"
+                                "and print what is left of them")},
     OptionRow{"wait", "SECONDS",
               QT_TRANSLATE_NOOP("CommandLine",
                                 "how long --batch follows its jobs at most (0: not at all); otherwise to\n"
@@ -296,6 +300,8 @@ Fault contradiction(const CommandLine &line)
         return fault(UsageFault::Combination, Text::tr("--overwrite is for --batch and --dry-run."));
     if (line.wait && !line.batch)
         return fault(UsageFault::Combination, Text::tr("--wait is for --batch."));
+    if (!line.checks && !line.batch && !line.dryRun)
+        return fault(UsageFault::Combination, Text::tr("--no-check is for --batch and --dry-run."));
     return std::nullopt;
 }
 
@@ -321,6 +327,7 @@ Result<CommandLine, UsageFault> CommandLine::parse(const QStringList &arguments)
     line.batch = parser.isSet(QStringLiteral("batch"));
     line.overwrite = parser.isSet(QStringLiteral("overwrite"));
     line.dryRun = parser.isSet(QStringLiteral("dry-run"));
+    line.checks = !parser.isSet(QStringLiteral("no-check"));
     line.listPrinters = parser.isSet(QStringLiteral("list-printers"));
     line.listOptions = parser.isSet(QStringLiteral("list-options"));
     line.summary = parser.isSet(QStringLiteral("summary"));
@@ -364,7 +371,8 @@ QString CommandLine::helpText()
     help += Text::tr(
         "\nExit status:\n"
         "  0  printed, or done what was asked for\n"
-        "  1  refused or failed; one line on standard error says what and why\n"
+        "  1  refused or failed; one line on standard error says what and why. A photo with\n"
+        "     damaged pixels is left out, with a line of its own, and the others are printed\n"
         "  2  wrong usage\n"
         "\nExamples:\n"
         "  corvel-print --printer built-in holiday.jpg\n"

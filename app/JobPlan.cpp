@@ -17,6 +17,8 @@ Result<JobPlan, PhotoPrinter::Fault> JobPlan::make(const Photo &photo, const Pri
     JobPlan plan;
     plan.printer_ = printer;
     if (printer.isBuiltIn) {
+        if (const auto damage = job.checksPhoto ? photo.damage() : std::nullopt)
+            return Failure<PhotoPrinter::Fault>{{std::nullopt, true}, damage->text, damage->detail};
         const QString name = names.nameFor(photo.path());
         names.markTaken(name);
         for (const QLatin1String suffix : {PrintedNames::pageSuffix, PrintedNames::ticketSuffix})

@@ -37,6 +37,7 @@ complete -c corvel-print -l output -x -a '(__fish_complete_directories)' -d 'Whe
 complete -c corvel-print -l overwrite -d 'Replace files that the built-in printer has left before'
 complete -c corvel-print -l batch -d 'No window: apply the options, print, exit'
 complete -c corvel-print -l dry-run -d 'Show what --batch would send, and send nothing'
+complete -c corvel-print -l no-check -d 'Print damaged photos as well'
 complete -c corvel-print -l wait -x -d 'How long --batch follows its jobs at most, in seconds'
 complete -c corvel-print -l server -x -a '(__fish_print_hostnames)' -d 'The print server to ask'
 complete -c corvel-print -l list-printers -d 'List the printers'

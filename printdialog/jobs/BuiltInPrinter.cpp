@@ -5,6 +5,7 @@
 
 #include "AtomicFiles.h"
 #include "PdfWriter.h"
+#include "PhotoCheck.h"
 
 #include <QtCore/QFileInfo>
 #include <QtCore/QJsonDocument>
@@ -60,9 +61,14 @@ Result<PrintedFiles, OutputFault> printAs(const QString &name, const Photo &phot
     if (!ticket)
         return ticket.failure();
 
+    std::optional<PhotoCheck> check;
+    if (job.checksPhoto)
+        check.emplace(photo);
     const auto written = PdfWriter::write(photo, job.page, **pdf, job.placement);
     if (auto failure = files->writeFailure())
         return *failure;
+    if (const auto damage = check ? check->wait() : std::nullopt)
+        return Failure<OutputFault>{OutputFault::PhotoUnusable, damage->text, damage->detail};
     if (!written)
         return failureOf(written.failure());
     (*ticket)->write(ticketOf(photo, job));

@@ -25,7 +25,8 @@ struct PrintJob
     QMap<QString, QString> options; ///< Option keyword to choice keyword.
     QMap<QString, QString> summary; ///< What people are shown: label to text.
     int copies = 1;
-    QueueTerms queue; ///< Only for a queue.
+    bool checksPhoto = true; ///< Whether a damaged photo is refused.
+    QueueTerms queue;        ///< Only for a queue.
 };
 
 /// The files that a job has left; absolute paths.

@@ -5,6 +5,7 @@
 
 #include "ExifData.h"
 #include "HeifPicture.h"
+#include "JpegDamage.h"
 #include "JpegHeader.h"
 #include "PhotoFormat.h"
 #include "PictureEnd.h"
@@ -21,6 +22,8 @@
 #include <QtGui/QImageReader>
 
 #include <algorithm>
+#include <atomic>
+#include <mutex>
 
 namespace printdialog {
 namespace {
@@ -73,6 +76,14 @@ private:
 
 } // namespace
 
+/// What copies of a photo share about its pixels.
+struct Photo::Verdict
+{
+    std::once_flag once;
+    std::atomic<bool> isThere = false;
+    std::optional<QString> damage;
+};
+
 Result<Photo, PhotoFault> Photo::open(const QString &path)
 {
     auto file = PhotoFile::open(path);
@@ -81,6 +92,7 @@ Result<Photo, PhotoFault> Photo::open(const QString &path)
 
     Photo photo;
     photo.path_ = path;
+    photo.verdict_ = std::make_shared<Verdict>();
     photo.modified_ = file->modified();
     const PhotoFormat format = PhotoFormat::of(file->head(headSize));
     if (!format.isReadable())
@@ -136,6 +148,8 @@ std::optional<Failure<PhotoFault>> Photo::inspectPng()
     const PngChunks chunks = checkPngChunks(content_);
     if (chunks == PngChunks::Broken)
         return broken(QStringLiteral("a PNG checksum does not match"));
+    if (chunks == PngChunks::DamagedPixels)
+        verdict_->damage = QStringLiteral("the checksum of PNG pixels does not match");
     if (chunks == PngChunks::Truncated)
         return truncated();
     const PngHeader header = PngHeader::read(content_);
@@ -212,6 +226,29 @@ Failure<PhotoFault> Photo::truncated() const
             tr("\"%1\" is cut short: its end is missing. Copy it again from where it came from.")
                 .arg(plainText(path_)),
             {}};
+}
+
+bool Photo::isChecked() const
+{
+    return format_ != "jpeg" || verdict_->isThere;
+}
+
+std::optional<Failure<PhotoFault>> Photo::damage() const
+{
+    if (!isChecked()) {
+        std::call_once(verdict_->once, [this] {
+            verdict_->damage = jpegDamage(content_);
+            verdict_->isThere = true;
+        });
+    }
+    if (!verdict_ || !verdict_->damage)
+        return std::nullopt;
+    return Failure<PhotoFault>{
+        PhotoFault::Damaged,
+        tr("\"%1\" is damaged: a part of the picture is missing or wrong. Copy it again "
+           "from where it came from.")
+            .arg(plainText(path_)),
+        *verdict_->damage};
 }
 
 Failure<PhotoFault> Photo::broken(const QString &detail) const

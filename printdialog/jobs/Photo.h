@@ -14,6 +14,8 @@
 #include <QtCore/QSize>
 #include <QtGui/QImage>
 
+#include <memory>
+
 namespace printdialog {
 
 /// A photo that can be printed: its file's content and what was found in it. A value; copies share the
@@ -54,6 +56,14 @@ public:
     /// Whether the compressed pixels of content(), a JPEG or PNG file, can go into a PDF as they are.
     bool isEmbeddable() const { return isEmbeddable_; }
 
+    /// Whether the pixels are damaged behind headers that are sound. Looks at all of a JPEG's when it is
+    /// first asked (see jpegDamage), which copies of this photo then need not do again; a PNG's checksums
+    /// were looked at when it was opened. Of other formats nothing is known before they are decoded. Fault:
+    /// Damaged.
+    std::optional<Failure<PhotoFault>> damage() const;
+    /// Whether damage() answers at once.
+    bool isChecked() const;
+
     /// The pixels as stored, not turned by orientation(). Takes seconds and gigabytes for the largest photos.
     /// Faults: Broken, and TooLarge when memory is short.
     Result<QImage, PhotoFault> decoded() const;
@@ -67,6 +77,8 @@ public:
     Failure<PhotoFault> memoryFailure() const;
 
 private:
+    struct Verdict;
+
     std::optional<Failure<PhotoFault>> inspectJpeg();
     std::optional<Failure<PhotoFault>> inspectPng();
     std::optional<Failure<PhotoFault>> inspectHeif();
@@ -84,6 +96,7 @@ private:
     std::optional<double> resolution_;
     ColourProfile profile_;
     bool isEmbeddable_ = false;
+    std::shared_ptr<Verdict> verdict_; ///< Of damage(); null for no photo.
 };
 
 } // namespace printdialog

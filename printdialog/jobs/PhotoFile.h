@@ -22,6 +22,7 @@ enum class PhotoFault {
     UnknownType,  ///< The content is no picture that can be printed, whatever the file's name says.
     Truncated,    ///< The picture's end is missing.
     Broken,       ///< The content contradicts its own format.
+    Damaged,      ///< The headers are sound, but the pixels are not as they were stored.
 };
 
 /// An open file that may hold a photo. Only a regular file is opened, so that no pipe or device can block.

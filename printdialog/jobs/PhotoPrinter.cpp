@@ -4,6 +4,7 @@
 #include "PhotoPrinter.h"
 
 #include "JobDocument.h"
+#include "PhotoCheck.h"
 
 namespace printdialog {
 
@@ -11,13 +12,14 @@ namespace {
 
 Failure<PhotoPrinter::Fault> failureOf(const Failure<QueueFault> &failure)
 {
-    return {failure.reason, failure.text, failure.detail};
+    return {{failure.reason, false}, failure.text, failure.detail};
 }
 
+/// Of OutputFault or PdfFault.
 template <class Reason>
-Failure<PhotoPrinter::Fault> sentenceOf(const Failure<Reason> &failure)
+Failure<PhotoPrinter::Fault> failureOf(const Failure<Reason> &failure)
 {
-    return {std::nullopt, failure.text, failure.detail};
+    return {{std::nullopt, failure.reason == Reason::PhotoUnusable}, failure.text, failure.detail};
 }
 
 } // namespace
@@ -42,7 +44,7 @@ Result<PrintedPhoto, PhotoPrinter::Fault> PhotoPrinter::print(const Photo &photo
     if (target_.queue.isEmpty()) {
         const auto files = BuiltInPrinter::print(photo, job, names_);
         if (!files)
-            return sentenceOf(files.failure());
+            return failureOf(files.failure());
         return PrintedPhoto(*files);
     }
     const auto request = PhotoPrinter::request(photo, target_.queue, job);
@@ -57,9 +59,14 @@ Result<PrintedPhoto, PhotoPrinter::Fault> PhotoPrinter::print(const Photo &photo
 Result<JobRequest, PhotoPrinter::Fault> PhotoPrinter::request(const Photo &photo, const QString &queue,
                                                               const PrintJob &job)
 {
+    std::optional<PhotoCheck> check;
+    if (job.checksPhoto)
+        check.emplace(photo);
     const auto document = jobDocument(photo, job);
+    if (const auto damage = check ? check->wait() : std::nullopt)
+        return Failure<Fault>{{std::nullopt, true}, damage->text, damage->detail};
     if (!document)
-        return sentenceOf(document.failure());
+        return failureOf(document.failure());
     JobRequest request;
     request.queue = queue;
     request.title = photo.fileName();

@@ -34,8 +34,13 @@ class PhotoPrinter
 
 public:
     /// Why a photo was not printed, in one of the user's sentences. The reasons lie in too many places for
-    /// one enumeration to be of use; only the queue's own are told.
-    using Fault = std::optional<QueueFault>;
+    /// one enumeration to be of use.
+    struct Fault
+    {
+        std::optional<QueueFault> queue; ///< The queue's own reason.
+        bool isPhotos =
+            false; ///< The photo is damaged, or needs too much memory; another one may be printed.
+    };
 
     explicit PhotoPrinter(const PrintTarget &target, const JobControl &control = {});
 

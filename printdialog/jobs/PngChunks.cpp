@@ -23,15 +23,19 @@ PngChunks checkPngChunks(QByteArrayView bytes)
     constexpr qsizetype signatureSize = 8;
     constexpr qsizetype frameSize = 12; // length, type and checksum
     qsizetype position = signatureSize;
+    PngChunks found = PngChunks::Whole;
     while (bytes.size() - position >= frameSize) {
         const auto length = qsizetype(qFromBigEndian<quint32>(bytes.data() + position));
         if (length > bytes.size() - position - frameSize)
             return PngChunks::Truncated;
         const QByteArrayView typeAndData = bytes.sliced(position + 4, 4 + length);
-        if (qFromBigEndian<quint32>(typeAndData.data() + typeAndData.size()) != checksum(typeAndData))
-            return PngChunks::Broken;
+        if (qFromBigEndian<quint32>(typeAndData.data() + typeAndData.size()) != checksum(typeAndData)) {
+            if (typeAndData.first(4) != QByteArrayView("IDAT"))
+                return PngChunks::Broken;
+            found = PngChunks::DamagedPixels;
+        }
         if (typeAndData.first(4) == QByteArrayView("IEND"))
-            return PngChunks::Whole;
+            return found;
         position += frameSize + length;
     }
     return PngChunks::Truncated;

@@ -9,9 +9,10 @@ namespace printdialog {
 
 /// How far the chunks of a PNG file can be trusted.
 enum class PngChunks {
-    Whole,     ///< Every chunk up to the last one is there and unchanged.
-    Truncated, ///< The bytes end before the last chunk does.
-    Broken,    ///< A chunk is not what its checksum says.
+    Whole,         ///< Every chunk up to the last one is there and unchanged.
+    Truncated,     ///< The bytes end before the last chunk does.
+    Broken,        ///< A chunk is not what its checksum says.
+    DamagedPixels, ///< Nothing but pixels is not what its checksum says.
 };
 
 /// Checks the chunks of an untrusted PNG file without decoding it. The bytes begin with a PNG signature.

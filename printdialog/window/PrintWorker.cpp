@@ -48,7 +48,7 @@ SentJobs sendAll(const QList<PlacedPhoto> &photos, const PrintTarget &target, co
         const auto printed = printer.print(photo, photoJob);
         if (!printed) {
             outcome.failure = printed.failure().text;
-            outcome.hasOtherPpd = printed.failure().reason == QueueFault::Changed;
+            outcome.hasOtherPpd = printed.failure().reason.queue == QueueFault::Changed;
             break;
         }
         if (const int *id = std::get_if<int>(&*printed))

@@ -157,28 +157,6 @@ Optionen:
 </translation>
     </message>
     <message>
-        <source>
-Exit status:
-  0  printed, or done what was asked for
-  1  refused or failed; one line on standard error says what and why
-  2  wrong usage
-
-Examples:
-  corvel-print --printer built-in holiday.jpg
-  corvel-print --batch -o Red=12 -o Quality=Fine -o Overcoat=Matte --output prints *.jpg
-</source>
-        <translation>
-Rückgabewert:
-  0  gedruckt oder das Verlangte getan
-  1  abgelehnt oder fehlgeschlagen; eine Zeile auf der Standardfehlerausgabe sagt, was und warum
-  2  falscher Aufruf
-
-Beispiele:
-  corvel-print --printer built-in urlaub.jpg
-  corvel-print --batch -o Red=12 -o Quality=Fine -o Overcoat=Matte --output abzuege *.jpg
-</translation>
-    </message>
-    <message>
         <source>show exactly what --batch would send, and send nothing</source>
         <translation>genau zeigen, was --batch senden würde, und nichts senden</translation>
     </message>
@@ -273,6 +251,41 @@ die neuen zu nummerieren; ein Foto wird nie ersetzt</translation>
     <message>
         <source>&quot;%1&quot; is not a file on this computer; copy the photo here first.</source>
         <translation>„%1“ ist keine Datei auf diesem Computer; kopieren Sie das Foto zuerst hierher.</translation>
+    </message>
+    <message>
+        <source>--batch and --dry-run do not look for damage in JPEG photos,
+and print what is left of them</source>
+        <translation>--batch und --dry-run prüfen JPEG-Fotos nicht auf Schäden
+und drucken, was von ihnen übrig ist</translation>
+    </message>
+    <message>
+        <source>--no-check is for --batch and --dry-run.</source>
+        <translation>--no-check gehört zu --batch und --dry-run.</translation>
+    </message>
+    <message>
+        <source>
+Exit status:
+  0  printed, or done what was asked for
+  1  refused or failed; one line on standard error says what and why. A photo with
+     damaged pixels is left out, with a line of its own, and the others are printed
+  2  wrong usage
+
+Examples:
+  corvel-print --printer built-in holiday.jpg
+  corvel-print --batch -o Red=12 -o Quality=Fine -o Overcoat=Matte --output prints *.jpg
+</source>
+        <translation>
+Rückgabewert:
+  0  gedruckt oder das Verlangte getan
+  1  abgelehnt oder fehlgeschlagen; eine Zeile auf der Standardfehlerausgabe sagt, was
+     und warum. Ein Foto mit beschädigtem Bild wird mit einer eigenen Zeile ausgelassen,
+     die anderen werden gedruckt
+  2  falscher Aufruf
+
+Beispiele:
+  corvel-print --printer built-in urlaub.jpg
+  corvel-print --batch -o Red=12 -o Quality=Fine -o Overcoat=Matte --output abzuege *.jpg
+</translation>
     </message>
 </context>
 <context>
@@ -1378,6 +1391,10 @@ die neuen zu nummerieren; ein Foto wird nie ersetzt</translation>
     <message>
         <source>There is not enough memory for &quot;%1&quot;. Scale it down in a photo program.</source>
         <translation>Für „%1“ reicht der Speicher nicht. Verkleinern Sie es in einem Fotoprogramm.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is damaged: a part of the picture is missing or wrong. Copy it again from where it came from.</source>
+        <translation>„%1“ ist beschädigt: Ein Teil des Bildes fehlt oder ist falsch. Kopieren Sie es erneut von der Quelle.</translation>
     </message>
 </context>
 <context>

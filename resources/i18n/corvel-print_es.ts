@@ -156,28 +156,6 @@ Opciones:
 </translation>
     </message>
     <message>
-        <source>
-Exit status:
-  0  printed, or done what was asked for
-  1  refused or failed; one line on standard error says what and why
-  2  wrong usage
-
-Examples:
-  corvel-print --printer built-in holiday.jpg
-  corvel-print --batch -o Red=12 -o Quality=Fine -o Overcoat=Matte --output prints *.jpg
-</source>
-        <translation>
-Estado de salida:
-  0  impreso, o hecho lo que se pedía
-  1  rechazado o fallido; una línea en la salida de error dice qué y por qué
-  2  uso incorrecto
-
-Ejemplos:
-  corvel-print --printer built-in vacaciones.jpg
-  corvel-print --batch -o Red=12 -o Quality=Fine -o Overcoat=Matte --output copias *.jpg
-</translation>
-    </message>
-    <message>
         <source>show exactly what --batch would send, and send nothing</source>
         <translation>mostrar exactamente lo que enviaría --batch, sin enviar nada</translation>
     </message>
@@ -272,6 +250,40 @@ en lugar de numerar los nuevos; una foto nunca se reemplaza</translation>
     <message>
         <source>&quot;%1&quot; is not a file on this computer; copy the photo here first.</source>
         <translation>«%1» no es un archivo de este equipo; copie primero la foto aquí.</translation>
+    </message>
+    <message>
+        <source>--batch and --dry-run do not look for damage in JPEG photos,
+and print what is left of them</source>
+        <translation>--batch y --dry-run no buscan daños en las fotos JPEG
+e imprimen lo que queda de ellas</translation>
+    </message>
+    <message>
+        <source>--no-check is for --batch and --dry-run.</source>
+        <translation>--no-check es para --batch y --dry-run.</translation>
+    </message>
+    <message>
+        <source>
+Exit status:
+  0  printed, or done what was asked for
+  1  refused or failed; one line on standard error says what and why. A photo with
+     damaged pixels is left out, with a line of its own, and the others are printed
+  2  wrong usage
+
+Examples:
+  corvel-print --printer built-in holiday.jpg
+  corvel-print --batch -o Red=12 -o Quality=Fine -o Overcoat=Matte --output prints *.jpg
+</source>
+        <translation>
+Estado de salida:
+  0  impreso, o hecho lo que se pedía
+  1  rechazado o fallido; una línea en la salida de error dice qué y por qué. Una foto
+     con la imagen dañada se omite, con una línea propia, y las demás se imprimen
+  2  uso incorrecto
+
+Ejemplos:
+  corvel-print --printer built-in vacaciones.jpg
+  corvel-print --batch -o Red=12 -o Quality=Fine -o Overcoat=Matte --output copias *.jpg
+</translation>
     </message>
 </context>
 <context>
@@ -1377,6 +1389,10 @@ en lugar de numerar los nuevos; una foto nunca se reemplaza</translation>
     <message>
         <source>There is not enough memory for &quot;%1&quot;. Scale it down in a photo program.</source>
         <translation>No hay memoria suficiente para «%1». Redúzcala en un programa de fotos.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is damaged: a part of the picture is missing or wrong. Copy it again from where it came from.</source>
+        <translation>«%1» está dañada: falta una parte de la imagen o es errónea. Cópiela de nuevo desde su origen.</translation>
     </message>
 </context>
 <context>

@@ -156,28 +156,6 @@ Options&#x202f;:
 </translation>
     </message>
     <message>
-        <source>
-Exit status:
-  0  printed, or done what was asked for
-  1  refused or failed; one line on standard error says what and why
-  2  wrong usage
-
-Examples:
-  corvel-print --printer built-in holiday.jpg
-  corvel-print --batch -o Red=12 -o Quality=Fine -o Overcoat=Matte --output prints *.jpg
-</source>
-        <translation>
-Code de retour&#x202f;:
-  0  imprimé, ou tâche demandée accomplie
-  1  refusé ou échoué&#x202f;; une ligne sur l’erreur standard dit quoi et pourquoi
-  2  mauvaise utilisation
-
-Exemples&#x202f;:
-  corvel-print --printer built-in vacances.jpg
-  corvel-print --batch -o Red=12 -o Quality=Fine -o Overcoat=Matte --output tirages *.jpg
-</translation>
-    </message>
-    <message>
         <source>show exactly what --batch would send, and send nothing</source>
         <translation>montrer exactement ce que --batch enverrait, sans rien envoyer</translation>
     </message>
@@ -272,6 +250,41 @@ au lieu de numéroter les nouveaux&#x202f;; une photo n’est jamais remplacée<
     <message>
         <source>&quot;%1&quot; is not a file on this computer; copy the photo here first.</source>
         <translation>«&#x202f;%1&#x202f;» n’est pas un fichier de cet ordinateur&#x202f;; copiez d’abord la photo ici.</translation>
+    </message>
+    <message>
+        <source>--batch and --dry-run do not look for damage in JPEG photos,
+and print what is left of them</source>
+        <translation>--batch et --dry-run ne cherchent pas de dommages dans les photos
+JPEG et impriment ce qu’il en reste</translation>
+    </message>
+    <message>
+        <source>--no-check is for --batch and --dry-run.</source>
+        <translation>--no-check va avec --batch et --dry-run.</translation>
+    </message>
+    <message>
+        <source>
+Exit status:
+  0  printed, or done what was asked for
+  1  refused or failed; one line on standard error says what and why. A photo with
+     damaged pixels is left out, with a line of its own, and the others are printed
+  2  wrong usage
+
+Examples:
+  corvel-print --printer built-in holiday.jpg
+  corvel-print --batch -o Red=12 -o Quality=Fine -o Overcoat=Matte --output prints *.jpg
+</source>
+        <translation>
+Code de retour :
+  0  imprimé, ou tâche demandée accomplie
+  1  refusé ou échoué ; une ligne sur l’erreur standard dit quoi et pourquoi. Une photo
+     dont l’image est endommagée est laissée de côté, avec sa propre ligne, et les autres
+     sont imprimées
+  2  mauvaise utilisation
+
+Exemples :
+  corvel-print --printer built-in vacances.jpg
+  corvel-print --batch -o Red=12 -o Quality=Fine -o Overcoat=Matte --output tirages *.jpg
+</translation>
     </message>
 </context>
 <context>
@@ -1377,6 +1390,10 @@ au lieu de numéroter les nouveaux&#x202f;; une photo n’est jamais remplacée<
     <message>
         <source>There is not enough memory for &quot;%1&quot;. Scale it down in a photo program.</source>
         <translation>La mémoire ne suffit pas pour «&#x202f;%1&#x202f;». Réduisez-la dans un logiciel de photo.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is damaged: a part of the picture is missing or wrong. Copy it again from where it came from.</source>
+        <translation>« %1 » est endommagée : une partie de l’image manque ou est fausse. Copiez-la de nouveau depuis sa source.</translation>
     </message>
 </context>
 <context>

@@ -156,28 +156,6 @@ Options:
 </translation>
     </message>
     <message>
-        <source>
-Exit status:
-  0  printed, or done what was asked for
-  1  refused or failed; one line on standard error says what and why
-  2  wrong usage
-
-Examples:
-  corvel-print --printer built-in holiday.jpg
-  corvel-print --batch -o Red=12 -o Quality=Fine -o Overcoat=Matte --output prints *.jpg
-</source>
-        <translation>
-終了ステータス:
-  0  印刷した、または指示された処理を終えた
-  1  拒否または失敗 (何がなぜかを標準エラーに 1 行で出力)
-  2  使い方の誤り
-
-例:
-  corvel-print --printer built-in holiday.jpg
-  corvel-print --batch -o Red=12 -o Quality=Fine -o Overcoat=Matte --output prints *.jpg
-</translation>
-    </message>
-    <message>
         <source>show exactly what --batch would send, and send nothing</source>
         <translation>--batch が送る内容をそのまま表示し、何も送らない</translation>
     </message>
@@ -272,6 +250,40 @@ instead of numbering the new ones; a photo is never replaced</source>
     <message>
         <source>&quot;%1&quot; is not a file on this computer; copy the photo here first.</source>
         <translation>「%1」はこのコンピューターのファイルではありません。先に写真をコピーしてください。</translation>
+    </message>
+    <message>
+        <source>--batch and --dry-run do not look for damage in JPEG photos,
+and print what is left of them</source>
+        <translation>--batch と --dry-run で JPEG 写真の破損を調べず、
+残っている部分を印刷する</translation>
+    </message>
+    <message>
+        <source>--no-check is for --batch and --dry-run.</source>
+        <translation>--no-check は --batch と --dry-run で使います。</translation>
+    </message>
+    <message>
+        <source>
+Exit status:
+  0  printed, or done what was asked for
+  1  refused or failed; one line on standard error says what and why. A photo with
+     damaged pixels is left out, with a line of its own, and the others are printed
+  2  wrong usage
+
+Examples:
+  corvel-print --printer built-in holiday.jpg
+  corvel-print --batch -o Red=12 -o Quality=Fine -o Overcoat=Matte --output prints *.jpg
+</source>
+        <translation>
+終了ステータス:
+  0  印刷した、または指示された処理を終えた
+  1  拒否または失敗 (何がなぜかを標準エラーに 1 行で出力)。画像が破損した写真は
+     1 行で知らせて飛ばし、ほかの写真を印刷する
+  2  使い方の誤り
+
+例:
+  corvel-print --printer built-in holiday.jpg
+  corvel-print --batch -o Red=12 -o Quality=Fine -o Overcoat=Matte --output prints *.jpg
+</translation>
     </message>
 </context>
 <context>
@@ -1375,6 +1387,10 @@ instead of numbering the new ones; a photo is never replaced</source>
     <message>
         <source>There is not enough memory for &quot;%1&quot;. Scale it down in a photo program.</source>
         <translation>「%1」にはメモリが足りません。写真ソフトで縮小してください。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is damaged: a part of the picture is missing or wrong. Copy it again from where it came from.</source>
+        <translation>「%1」は破損しています。画像の一部が欠けているか、正しくありません。元の場所からもう一度コピーしてください。</translation>
     </message>
 </context>
 <context>

@@ -63,6 +63,7 @@ private Q_SLOTS:
     void keepsPhotosOfOneNameApart();
     void replacesNoFileOfOthers();
     void namesWhatWasPrintedBeforeAFailure();
+    void leavesDamagedPhotosOut();
     void listsOptions();
     void listsTheBuiltInPrinter();
     void showsTheSummary();
@@ -182,6 +183,37 @@ void CommandLineTest::namesWhatWasPrintedBeforeAFailure()
     QVERIFY2(wrong.isEmpty(), wrong.constData());
     QCOMPARE(QDir(pathOf(u"out"_s)).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
              QStringList({u"sample.pdf"_s, u"sample.ticket.json"_s, u"second.pdf"_s}));
+}
+
+// Each with a line of its own; with --no-check they are printed as they are.
+void CommandLineTest::leavesDamagedPhotosOut()
+{
+    QByteArray jpeg = contentOf(samplePhoto);
+    jpeg.replace(jpeg.size() / 2, 4096, QByteArray(4096, '\0'));
+    QImage picture(64, 64, QImage::Format_RGB32);
+    picture.fill(Qt::red);
+    QVERIFY(store(pathOf(u"damaged.jpg"_s), jpeg) && picture.save(pathOf(u"damaged.png"_s)));
+    QByteArray png = contentOf(pathOf(u"damaged.png"_s));
+    png[png.indexOf("IDAT") + 10] ^= 1;
+    QVERIFY(store(pathOf(u"damaged.png"_s), png));
+    const QStringList photos{pathOf(u"damaged.jpg"_s), pathOf(u"damaged.png"_s), samplePhoto};
+    const ProgramRun run = print(photos);
+    QCOMPARE(run.status, 1);
+    QCOMPARE(run.out.count('\n'), 1);
+    const QList<QByteArray> lines = run.err.split('\n');
+    QCOMPARE(lines.size(), 3);
+    QVERIFY2(lines.at(0).contains("damaged.jpg") && lines.at(1).contains("damaged.png"), run.err.constData());
+    QCOMPARE(QDir(pathOf(u"out"_s)).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
+             QStringList({u"sample.pdf"_s, u"sample.ticket.json"_s}));
+
+    const ProgramRun plan = runProgram(QStringList{u"--dry-run"_s, u"--json"_s} + photos);
+    QCOMPARE(plan.status, 1);
+    QCOMPARE(plan.err, run.err);
+    QCOMPARE(plan.json().array().size(), 1);
+
+    const ProgramRun unchecked = print({u"--no-check"_s, photos.constFirst()});
+    QCOMPARE(unchecked.err, QByteArray());
+    QVERIFY(QFile::exists(pathOf(u"out/damaged.pdf"_s)));
 }
 
 void CommandLineTest::listsOptions()

@@ -63,6 +63,8 @@ private Q_SLOTS:
     void refusesQueues();
     void sendsWhatTheDryRunShows_data();
     void sendsWhatTheDryRunShows();
+    void sendsNoDamagedPhoto_data();
+    void sendsNoDamagedPhoto();
     void dryRunOfTheBuiltInPrinter();
     void asksTheServerNamed();
     void followsTheJob_data();
@@ -214,6 +216,28 @@ void QueueCommandLineTest::sendsWhatTheDryRunShows()
     const QByteArray text = runProgram(arguments + QStringList{u"--dry-run"_s}).out;
     for (const QByteArray &part : planned + QByteArrayList{QByteArray::number(job.document.size())})
         QVERIFY2(text.contains(": " + part + '\n'), part.constData());
+}
+
+void QueueCommandLineTest::sendsNoDamagedPhoto_data()
+{
+    QTest::addColumn<QString>("queue");
+    QTest::newRow("as a PDF") << u"photo"_s;
+    QTest::newRow("untouched") << u"raw"_s;
+}
+
+void QueueCommandLineTest::sendsNoDamagedPhoto()
+{
+    QFETCH(QString, queue);
+    const QString path = home_.filePath(u"damaged.jpg"_s);
+    const QByteArray jpeg = contentOf(samplePhoto);
+    QVERIFY(store(path, QByteArray(jpeg).replace(jpeg.size() / 2, 4096, QByteArray(4096, '\0'))));
+    const QStringList arguments{u"--batch"_s, u"--wait=0"_s, u"--printer"_s, queue, path};
+    const QByteArray before = cupsd_.activeJobs();
+    const QByteArray wrong = wrongInRefusal(runProgram(arguments), 1, {u"damaged.jpg"_s});
+    QVERIFY2(wrong.isEmpty(), wrong.constData());
+    QCOMPARE(cupsd_.activeJobs(), before);
+    const ProgramRun unchecked = runProgram(arguments + QStringList{u"--no-check"_s});
+    QVERIFY2(unchecked.out.startsWith("Sent damaged.jpg to "), unchecked.err.constData());
 }
 
 void QueueCommandLineTest::dryRunOfTheBuiltInPrinter()

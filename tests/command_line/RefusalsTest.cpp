@@ -93,6 +93,7 @@ void RefusalsTest::wrongUsage_data()
     row("copies without a number", {u"--batch"_s, u"--copies=two"_s, samplePhoto}, u"\"two\""_s);
     row("photo of another computer", {u"--batch"_s, u"file://server/a.jpg"_s}, u"file://server/a.jpg"_s);
     row("overwriting without --batch", {u"--overwrite"_s, samplePhoto}, u"--overwrite"_s);
+    row("no check of nothing", {u"--no-check"_s, samplePhoto}, u"--no-check"_s);
     row("server without a name", {u"--server"_s, u":631"_s, samplePhoto}, u"\":631\""_s);
     row("server with a bad port", {u"--server"_s, u"host:99999"_s, samplePhoto}, u"host:99999"_s);
     row("server with more in it", {u"--server"_s, u"host/ipp print"_s, samplePhoto}, u"HOST:PORT"_s);

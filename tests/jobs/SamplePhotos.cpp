@@ -5,6 +5,7 @@
 
 #include <QtCore/QBuffer>
 #include <QtCore/QFile>
+#include <QtCore/QRandomGenerator>
 #include <QtGui/QColorSpace>
 #include <QtGui/QImageWriter>
 #include <QtGui/QPainter>
@@ -31,6 +32,28 @@ QImage quarters(const QSize &size)
     painter.fillRect(quarter, Qt::red);
     painter.fillRect(quarter.translated(quarter.width(), 0), Qt::green);
     painter.fillRect(quarter.translated(0, quarter.height()), Qt::blue);
+    return image;
+}
+
+QByteArray noise(qsizetype size)
+{
+    QRandomGenerator generator(1);
+    QByteArray bytes(size, Qt::Uninitialized);
+    for (char &byte : bytes)
+        byte = static_cast<char>(generator.bounded(256));
+    return bytes;
+}
+
+QImage grain(const QSize &size)
+{
+    const QByteArray values = noise(qsizetype(size.width()) * size.height());
+    QImage image(size, QImage::Format_RGB32);
+    for (int y = 0; y < size.height(); ++y) {
+        for (int x = 0; x < size.width(); ++x) {
+            const int value = static_cast<quint8>(values[qsizetype(y) * size.width() + x]) / 8;
+            image.setPixel(x, y, qRgb(x * 200 / size.width() + value, y * 200 / size.height(), value));
+        }
+    }
     return image;
 }
 

@@ -31,6 +31,10 @@ inline const std::array<QString, 9> seenCorners{
 
 /// Four quarters in the colours of storedCorners.
 QImage quarters(const QSize &size);
+/// A picture with some detail in each of its pixels, and the same each time.
+QImage grain(const QSize &size);
+/// Bytes of no meaning, the same each time.
+QByteArray noise(qsizetype size);
 /// The colours of the four corners of an area of an image, that many pixels inside it; W is white, ? another
 /// one.
 QString cornersOf(const QImage &image, const QRectF &area, double inside);
