@@ -6,6 +6,7 @@
 #include "DeflatedRows.h"
 #include "JpegHeader.h"
 #include "PngHeader.h"
+#include "PngPixels.h"
 
 #include <QtGui/QPainter>
 
@@ -72,10 +73,13 @@ Result<PdfImage, PhotoFault> PdfImage::of(const Photo &photo)
         if (photo.format() == "jpeg")
             return image;
         image.embedding_ = Embedding::OriginalPng;
+        // libpng knows what else can be made a picture of.
         if (!PngHeader::read(photo.content()).hasAllPixels())
-            return photo.broken(QStringLiteral("the PNG data do not make the picture"));
+            image.embedding_ = Embedding::Pixels;
         return image;
     }
+    if (photo.format() == "png")
+        return image;
     auto decoded = photo.decoded();
     if (!decoded)
         return decoded.failure();
@@ -85,7 +89,7 @@ Result<PdfImage, PhotoFault> PdfImage::of(const Photo &photo)
     return image;
 }
 
-int PdfImage::write(PdfFile &file) const
+Result<int, PhotoFault> PdfImage::write(PdfFile &file) const
 {
     const int number = file.reserve();
     switch (embedding_) {
@@ -96,6 +100,11 @@ int PdfImage::write(PdfFile &file) const
         writePng(file, number);
         break;
     case Embedding::Pixels:
+        if (pixels_.isNull()) {
+            if (const auto failure = writeDecodedPng(file, number))
+                return *failure;
+            break;
+        }
         writePixels(file, number);
         break;
     }
@@ -128,6 +137,28 @@ void PdfImage::writePng(PdfFile &file, int number) const
     for (const QByteArrayView part : header.data)
         file.writeData(part);
     file.endStream();
+}
+
+std::optional<Failure<PhotoFault>> PdfImage::writeDecodedPng(PdfFile &file, int number) const
+{
+    const int components = PngHeader::read(photo_.content()).decodedComponents;
+    const QSize size = photo_.storedSize();
+    const QByteArray space = colourSpace(file, photo_.profile(), components);
+    file.beginStream(number, entriesOf(size, space, 8) + predicted(size, components, 8));
+    DeflatedRows rows(static_cast<std::size_t>(size.width()) * static_cast<std::size_t>(components),
+                      static_cast<std::size_t>(components),
+                      [&file](QByteArrayView bytes) { file.writeData(bytes); });
+    const QByteArray content = photo_.content();
+    PngPixels pixels(content);
+    for (int y = 0; y < size.height() && !file.hasFailed(); ++y) {
+        const unsigned char *row = pixels.nextRow();
+        if (!row)
+            return pixels.isShortOfMemory() ? photo_.memoryFailure() : photo_.broken(pixels.error());
+        rows.addRow(row);
+    }
+    rows.finish();
+    file.endStream();
+    return std::nullopt;
 }
 
 void PdfImage::writePixels(PdfFile &file, int number) const

@@ -22,12 +22,14 @@ public:
         Pixels,       ///< Decoded, then compressed without loss; what is transparent is white.
     };
 
-    /// Finds out how the photo goes in, and decodes it when it must. Fails when its pixels are not all there.
+    /// Finds out how the photo goes in, and decodes it when it must, but for a PNG, whose pixels are decoded
+    /// while they are written. Fails when its pixels are not all there.
     static Result<PdfImage, PhotoFault> of(const Photo &photo);
 
     Embedding embedding() const { return embedding_; }
-    /// Writes the image, and the profile as an object of its own. Answers the image's number.
-    int write(PdfFile &file) const;
+    /// Writes the image, and the profile as an object of its own. Answers the image's number. Fails, with a
+    /// part of it written, when a PNG's pixels are not all there.
+    Result<int, PhotoFault> write(PdfFile &file) const;
 
 private:
     explicit PdfImage(const Photo &photo)
@@ -37,11 +39,12 @@ private:
 
     void writeJpeg(PdfFile &file, int number) const;
     void writePng(PdfFile &file, int number) const;
+    std::optional<Failure<PhotoFault>> writeDecodedPng(PdfFile &file, int number) const;
     void writePixels(PdfFile &file, int number) const;
 
     Photo photo_;
     Embedding embedding_ = Embedding::Pixels;
-    QImage pixels_; ///< RGB888 or Grayscale8; null unless the photo was decoded
+    QImage pixels_; ///< RGB888 or Grayscale8; null unless the photo was decoded as a whole
 };
 
 } // namespace printdialog

@@ -76,14 +76,16 @@ Result<PdfWriter::Embedding, PdfFault> PdfWriter::write(const Photo &photo, cons
     const int onlyPage = file.reserve();
     const int content = file.reserve();
     const int facts = file.reserve();
-    const int picture = image->write(file);
+    const auto picture = image->write(file);
+    if (!picture)
+        return Failure<PdfFault>{PdfFault::PhotoUnusable, picture.failure().text, picture.failure().detail};
     file.beginStream(content, {});
     file.writeData(drawing(photo, page, choice));
     file.endStream();
     file.writeObject(onlyPage, "<< /Type /Page /Parent " + PdfFile::reference(pages) + " /MediaBox [0 0 " +
                                    numbers({page.size.width(), page.size.height()}) + "] /Contents " +
                                    PdfFile::reference(content) + " /Resources << /XObject << /Photo " +
-                                   PdfFile::reference(picture) + " >> >> >>");
+                                   PdfFile::reference(*picture) + " >> >> >>");
     file.writeObject(pages, "<< /Type /Pages /Kids [" + PdfFile::reference(onlyPage) + "] /Count 1 >>");
     file.writeObject(catalog, "<< /Type /Catalog /Pages " + PdfFile::reference(pages) + " >>");
     file.writeObject(facts, information(photo));

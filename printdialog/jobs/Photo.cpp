@@ -12,6 +12,8 @@
 #include "PlainText.h"
 #include "PngChunks.h"
 #include "PngHeader.h"
+#include "PngPicture.h"
+#include "PngPixels.h"
 #include "WebpChunks.h"
 
 #include <QtCore/QBuffer>
@@ -158,6 +160,15 @@ std::optional<Failure<PhotoFault>> Photo::inspectPng()
     if (!header.isValid)
         return broken(QStringLiteral("there are no such PNG pixels"));
     storedSize_ = header.size;
+    const qint64 pixels = qint64(storedSize_.width()) * storedSize_.height();
+    if (header.isInterlaced && pixels > PngPixels::largestInterlaced / header.decodedChannels)
+        return Failure<PhotoFault>{
+            PhotoFault::TooLarge,
+            tr("\"%1\" is an interlaced PNG of %2 x %3 pixels, which takes too much memory. Save it without "
+               "interlacing, or as JPEG.")
+                .arg(plainText(path_), QString::number(storedSize_.width()),
+                     QString::number(storedSize_.height())),
+            {}};
     orientation_ = header.orientation;
     resolution_ = header.resolution;
     profile_ = header.profile;
@@ -184,6 +195,8 @@ std::optional<Failure<PhotoFault>> Photo::inspectOther()
         return truncated();
     ContentReader reader(content_, format_);
     storedSize_ = reader->size();
+    if (format_ == "bmp" && storedSize_.height() < 0) // its rows are stored from the top down
+        storedSize_.setHeight(-std::max(storedSize_.height(), -INT_MAX));
     if (storedSize_.isEmpty())
         return broken(reader->errorString());
     orientation_ = ExifOrientation::fromTransformations(reader->transformation());
@@ -277,6 +290,8 @@ QImage Photo::decodedWithin(const QSize &storedBound, QString &error) const
             image = *std::move(picture);
         else
             error = picture.failure().detail;
+    } else if (format_ == "png") {
+        image = decodedPng(content_, storedBound, error);
     } else {
         allowDecoding(storedSize_);
         ContentReader reader(content_, format_);

@@ -58,6 +58,8 @@ public:
             const auto length = qsizetype(wordAt(bytes, position));
             if (length > bytes.size() - position - frameSize)
                 break;
+            if (bytes.sliced(position + 4, 4) == "IEND")
+                break;
             readChunk(bytes.sliced(position + 4, 4), bytes.sliced(position + 8, length));
             position += frameSize + length;
         }
@@ -69,8 +71,11 @@ public:
             hasUsualMethods_ && hasAllowedBits() && (type_ != Palette || !header_.palette.isEmpty());
         const bool isPalettes = type_ == Palette;
         header_.components = type_ == Rgb ? 3 : 1;
+        header_.decodedComponents = type_ == Grey || type_ == GreyAlpha ? 1 : 3;
+        const bool hasAlpha = isTransparent_ || type_ == GreyAlpha || type_ == Rgba;
+        header_.decodedChannels = header_.decodedComponents + (hasAlpha ? 1 : 0);
         header_.isEmbeddable = header_.isValid && (type_ == Grey || type_ == Rgb || isPalettes) &&
-                               !isTransparent_ && !isInterlaced_ && !header_.data.isEmpty();
+                               !isTransparent_ && !header_.isInterlaced && !header_.data.isEmpty();
         if (header_.isValid && isPalettes) {
             const qsizetype colours = qsizetype(1) << header_.bitsPerSample;
             header_.palette = header_.palette.leftJustified(colours * 3, '\0', true);
@@ -138,7 +143,7 @@ private:
         header_.bitsPerSample = static_cast<quint8>(content[8]);
         type_ = static_cast<quint8>(content[9]);
         hasUsualMethods_ = content[10] == 0 && content[11] == 0;
-        isInterlaced_ = content[12] != 0;
+        header_.isInterlaced = content[12] != 0;
     }
 
     void readResolution(QByteArrayView content)
@@ -188,7 +193,6 @@ private:
     double gamma_ = 0;
     int type_ = -1;
     bool hasUsualMethods_ = false; // of compression and filtering: there is one each
-    bool isInterlaced_ = false;
     bool isTransparent_ = false;
     bool isSrgb_ = false;
 };

@@ -21,6 +21,10 @@ struct PngHeader
     QSize size;            ///< In pixels, as stored.
     int bitsPerSample = 0; ///< 1, 2, 4, 8 or 16.
     int components = 0;    ///< Numbers of a colour as they are stored: 1 (grey, or a palette's index) or 3.
+    /// Numbers of a colour when it is decoded and laid on paper: 1 (grey) or 3.
+    int decodedComponents = 0;
+    /// The same with what tells the transparent pixels: bytes of a decoded pixel.
+    int decodedChannels = 0;
     /// Red, green, blue of each colour that a pixel can name, black where the file has none; empty without a
     /// palette.
     QByteArray palette;
@@ -30,13 +34,14 @@ struct PngHeader
     std::optional<double> resolution; ///< In pixels per inch.
     /// Whether the format knows such pixels at all.
     bool isValid = false;
+    bool isInterlaced = false;
     /// Whether the compressed pixels can go into a PDF as they are: opaque and not interlaced.
     bool isEmbeddable = false;
 
     /// Reads untrusted bytes, whose chunks are whole (see checkPngChunks), and which outlive the answer. What
     /// cannot be read counts as not there.
     static PngHeader read(QByteArrayView bytes);
-    /// Whether the compressed pixels are all there. Decompresses them, and keeps nothing.
+    /// Whether the compressed pixels are all there, and nothing more. Decompresses them, and keeps nothing.
     bool hasAllPixels() const;
 };
 

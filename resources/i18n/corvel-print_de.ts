@@ -1396,6 +1396,10 @@ Beispiele:
         <source>&quot;%1&quot; is damaged: a part of the picture is missing or wrong. Copy it again from where it came from.</source>
         <translation>„%1“ ist beschädigt: Ein Teil des Bildes fehlt oder ist falsch. Kopieren Sie es erneut von der Quelle.</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; is an interlaced PNG of %2 x %3 pixels, which takes too much memory. Save it without interlacing, or as JPEG.</source>
+        <translation>„%1“ ist ein PNG mit Zeilensprung (interlaced) und %2 x %3 Pixeln, das zu viel Speicher braucht. Speichern Sie es ohne Zeilensprung oder als JPEG.</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::PhotoFile</name>

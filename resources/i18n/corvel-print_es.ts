@@ -1394,6 +1394,10 @@ Ejemplos:
         <source>&quot;%1&quot; is damaged: a part of the picture is missing or wrong. Copy it again from where it came from.</source>
         <translation>«%1» está dañada: falta una parte de la imagen o es errónea. Cópiela de nuevo desde su origen.</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; is an interlaced PNG of %2 x %3 pixels, which takes too much memory. Save it without interlacing, or as JPEG.</source>
+        <translation>«%1» es un PNG entrelazado de %2 x %3 píxeles, que necesita demasiada memoria. Guárdela sin entrelazado o como JPEG.</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::PhotoFile</name>

@@ -274,14 +274,14 @@ Examples:
   corvel-print --batch -o Red=12 -o Quality=Fine -o Overcoat=Matte --output prints *.jpg
 </source>
         <translation>
-Code de retour :
+Code de retour&#x202f;:
   0  imprimé, ou tâche demandée accomplie
-  1  refusé ou échoué ; une ligne sur l’erreur standard dit quoi et pourquoi. Une photo
+  1  refusé ou échoué&#x202f;; une ligne sur l’erreur standard dit quoi et pourquoi. Une photo
      dont l’image est endommagée est laissée de côté, avec sa propre ligne, et les autres
      sont imprimées
   2  mauvaise utilisation
 
-Exemples :
+Exemples&#x202f;:
   corvel-print --printer built-in vacances.jpg
   corvel-print --batch -o Red=12 -o Quality=Fine -o Overcoat=Matte --output tirages *.jpg
 </translation>
@@ -1393,7 +1393,11 @@ Exemples :
     </message>
     <message>
         <source>&quot;%1&quot; is damaged: a part of the picture is missing or wrong. Copy it again from where it came from.</source>
-        <translation>« %1 » est endommagée : une partie de l’image manque ou est fausse. Copiez-la de nouveau depuis sa source.</translation>
+        <translation>«&#x202f;%1&#x202f;» est endommagée&#x202f;: une partie de l’image manque ou est fausse. Copiez-la de nouveau depuis sa source.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is an interlaced PNG of %2 x %3 pixels, which takes too much memory. Save it without interlacing, or as JPEG.</source>
+        <translation>«&#x202f;%1&#x202f;» est un PNG entrelacé de %2 x %3 pixels, qui demande trop de mémoire. Enregistrez-la sans entrelacement, ou en JPEG.</translation>
     </message>
 </context>
 <context>

@@ -1392,6 +1392,10 @@ Examples:
         <source>&quot;%1&quot; is damaged: a part of the picture is missing or wrong. Copy it again from where it came from.</source>
         <translation>「%1」は破損しています。画像の一部が欠けているか、正しくありません。元の場所からもう一度コピーしてください。</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; is an interlaced PNG of %2 x %3 pixels, which takes too much memory. Save it without interlacing, or as JPEG.</source>
+        <translation>「%1」は %2 x %3 ピクセルのインターレース PNG で、メモリを使いすぎます。インターレースなしか、JPEG で保存してください。</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::PhotoFile</name>

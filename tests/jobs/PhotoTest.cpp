@@ -3,10 +3,12 @@
 
 #include "Photo.h"
 #include "JpegHeader.h"
+#include "PdfWriter.h"
 #include "PhotoFormat.h"
 #include "SamplePhotos.h"
 
 #include <QtCore/QTemporaryDir>
+#include <QtCore/QtEndian>
 #include <QtTest/QTest>
 
 #include <sys/resource.h>
@@ -41,6 +43,7 @@ private Q_SLOTS:
     void damagedHeadersAreSafe();
     void orientations_data();
     void orientations();
+    void bitmapFromTheTopDown();
     void resolutions_data();
     void resolutions();
     void unreadableFormats_data();
@@ -74,6 +77,9 @@ void PhotoTest::faults_data()
     QTest::newRow("PNG too wide") << u"wide.png"_s
                                   << samples::encoded(QImage(40000, 1, QImage::Format_ARGB32), "png")
                                   << PhotoFault::TooLarge;
+    QTest::newRow("interlaced PNG of too many pixels")
+        << u"interlaced.png"_s << samples::pngOf(samples::pngHeader(QSize(12000, 12000), 6, true), "")
+        << PhotoFault::TooLarge;
     QTest::newRow("text named .jpg") << u"text.jpg"_s << QByteArray("Dear all,") << PhotoFault::UnknownType;
     QTest::newRow("drawing") << u"d.svg"_s << QByteArray("<?xml version='1.0'?><svg/>")
                              << PhotoFault::UnknownType;
@@ -150,18 +156,21 @@ void PhotoTest::zerosAreNotRead()
     QVERIFY(after.ru_maxrss - before.ru_maxrss < 50'000); // kilobytes
 }
 
-// The photo is not to blame.
+// The photo is not to blame. A PNG is printed and shown all the same, row by row.
 void PhotoTest::memoryRunsShort()
 {
 #ifdef __SANITIZE_ADDRESS__
     QSKIP("AddressSanitizer's own memory leaves no room for a limit.");
 #endif
-    QImage large(6000, 6000, QImage::Format_Grayscale8);
-    large.fill(Qt::white);
-    samples::store(pathOf(u"large.png"_s), samples::encoded(large, "png"));
-    large = QImage();
+    const QSize size(3000, 3000);
+    const QByteArray row(1 + qsizetype(size.width()) * 4, '\0');
+    samples::store(pathOf(u"large.png"_s),
+                   samples::pngOf(samples::pngHeader(size, 6), row.repeated(size.height())));
+    QFile nowhere(u"/dev/null"_s);
+    QVERIFY(nowhere.open(QFile::WriteOnly));
     const auto photo = Photo::open(pathOf(u"large.png"_s));
     QVERIFY(photo);
+    QVERIFY(!photo->preview(QSize(200, 200)).isNull()); // Qt scales with threads, and hangs when it gets none
     QFile statistics(u"/proc/self/statm"_s);
     QVERIFY(statistics.open(QFile::ReadOnly));
     const rlim_t pages = statistics.readLine().split(' ').constFirst().toULong();
@@ -170,9 +179,13 @@ void PhotoTest::memoryRunsShort()
     const rlimit tight = {pages * rlim_t(sysconf(_SC_PAGESIZE)) + (rlim_t(16) << 20), before.rlim_max};
     QCOMPARE(setrlimit(RLIMIT_AS, &tight), 0);
     const auto decoded = photo->decoded();
+    const QImage preview = photo->preview(QSize(200, 200));
+    const bool written(PdfWriter::write(*photo, {QSizeF(300, 300), QRectF(0, 0, 300, 300)}, nowhere));
     setrlimit(RLIMIT_AS, &before);
     QVERIFY(!decoded);
     QCOMPARE(decoded.failure().reason, PhotoFault::TooLarge);
+    QCOMPARE(preview.size(), QSize(200, 200));
+    QVERIFY(written);
     QVERIFY(photo->decoded());
 }
 
@@ -321,6 +334,22 @@ void PhotoTest::orientations()
     const QImage small = photo->preview(QSize(60, 1000));
     QCOMPARE(small.size(), seen.scaled(60, 1000, Qt::KeepAspectRatio));
     QCOMPARE(samples::cornersOf(small, small.rect(), 10), samples::seenCorners[std::size_t(seenAs)]);
+}
+
+// Its height is negative.
+void PhotoTest::bitmapFromTheTopDown()
+{
+    QByteArray bitmap = samples::encoded(samples::quarters(QSize(300, 200)), "bmp");
+    qToLittleEndian<qint32>(-200, bitmap.data() + 22);
+    samples::store(pathOf(u"photo.bmp"_s), bitmap);
+    const auto photo = Photo::open(pathOf(u"photo.bmp"_s));
+    QVERIFY(photo);
+    const QImage preview = photo->preview(QSize(60, 40));
+    QCOMPARE(samples::cornersOf(preview, preview.rect(), 8), u"BYRG"_s);
+    QVERIFY(photo->decoded());
+    qToLittleEndian<qint32>(INT_MIN, bitmap.data() + 22);
+    samples::store(pathOf(u"photo.bmp"_s), bitmap);
+    QVERIFY(!Photo::open(pathOf(u"photo.bmp"_s)));
 }
 
 void PhotoTest::resolutions_data()

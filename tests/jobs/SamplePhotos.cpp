@@ -6,11 +6,13 @@
 #include <QtCore/QBuffer>
 #include <QtCore/QFile>
 #include <QtCore/QRandomGenerator>
+#include <QtCore/QtEndian>
 #include <QtGui/QColorSpace>
 #include <QtGui/QImageWriter>
 #include <QtGui/QPainter>
 
 #include <unistd.h>
+#include <zlib.h>
 
 namespace samples {
 namespace {
@@ -19,6 +21,13 @@ QByteArray segment(char marker, const QByteArray &content)
 {
     const auto size = content.size() + 2;
     return QByteArray("\xff") + marker + static_cast<char>(size >> 8) + static_cast<char>(size) + content;
+}
+
+QByteArray number(quint32 value)
+{
+    QByteArray bytes(sizeof(value), '\0');
+    qToBigEndian(value, bytes.data());
+    return bytes;
 }
 
 } // namespace
@@ -33,6 +42,23 @@ QImage quarters(const QSize &size)
     painter.fillRect(quarter.translated(quarter.width(), 0), Qt::green);
     painter.fillRect(quarter.translated(0, quarter.height()), Qt::blue);
     return image;
+}
+
+QByteArray pngOf(const QByteArray &header, const QByteArray &rows, const QByteArray &behind)
+{
+    const auto chunk = [](const QByteArray &typed) {
+        const auto sum = crc32(0, reinterpret_cast<const Bytef *>(typed.constData()), uInt(typed.size()));
+        return number(quint32(typed.size() - 4)) + typed + number(quint32(sum));
+    };
+    constexpr qsizetype lengthSize = 4; // which qCompress() puts before the data
+    return "\x89PNG\r\n\x1a\n" + chunk("IHDR" + header) + chunk("PLTE\xff\xff\xff") +
+           chunk("IDAT" + qCompress(rows).sliced(lengthSize) + behind) + chunk("IEND");
+}
+
+QByteArray pngHeader(const QSize &size, char colourType, bool isInterlaced)
+{
+    return number(quint32(size.width())) + number(quint32(size.height())) + '\x08' + colourType +
+           QByteArray(2, '\0') + (isInterlaced ? '\1' : '\0');
 }
 
 QByteArray noise(qsizetype size)

@@ -35,6 +35,10 @@ QImage quarters(const QSize &size);
 QImage grain(const QSize &size);
 /// Bytes of no meaning, the same each time.
 QByteArray noise(qsizetype size);
+/// A PNG of a header's content (IHDR), filtered rows, which are compressed, and bytes behind them in IDAT.
+QByteArray pngOf(const QByteArray &header, const QByteArray &rows, const QByteArray &behind = {});
+/// The header's content: 8 bits, one of PNG's types of colours.
+QByteArray pngHeader(const QSize &size, char colourType, bool isInterlaced = false);
 /// The colours of the four corners of an area of an image, that many pixels inside it; W is white, ? another
 /// one.
 QString cornersOf(const QImage &image, const QRectF &area, double inside);
