@@ -1343,6 +1343,10 @@ Beispiele:
         <source>&quot;%1&quot; could not be written: %2. Check the disk, or choose another folder.</source>
         <translation>„%1“ konnte nicht geschrieben werden: %2. Prüfen Sie den Datenträger oder wählen Sie einen anderen Ordner.</translation>
     </message>
+    <message>
+        <source>The name &quot;%1&quot; is too long: the photo&apos;s name has bytes that are not UTF-8, and each becomes a longer character. Rename the photo.</source>
+        <translation>Der Name „%1“ ist zu lang: Im Namen des Fotos sind Bytes, die kein UTF-8 sind, und jedes wird zu einem längeren Zeichen. Benennen Sie das Foto um.</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::PanelTabs</name>

@@ -1342,6 +1342,10 @@ Exemples&#x202f;:
         <source>&quot;%1&quot; could not be written: %2. Check the disk, or choose another folder.</source>
         <translation>«&#x202f;%1&#x202f;» n’a pas pu être écrit&#x202f;: %2. Vérifiez le disque ou choisissez un autre dossier.</translation>
     </message>
+    <message>
+        <source>The name &quot;%1&quot; is too long: the photo&apos;s name has bytes that are not UTF-8, and each becomes a longer character. Rename the photo.</source>
+        <translation>Le nom «&#x202f;%1&#x202f;» est trop long&#x202f;: le nom de la photo contient des octets qui ne sont pas de l’UTF-8, et chacun devient un caractère plus long. Renommez la photo.</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::PanelTabs</name>

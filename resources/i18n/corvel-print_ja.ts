@@ -1339,6 +1339,10 @@ Examples:
         <source>&quot;%1&quot; could not be written: %2. Check the disk, or choose another folder.</source>
         <translation>「%1」に書き込めませんでした: %2。ディスクを確認するか、別のフォルダーを選んでください。</translation>
     </message>
+    <message>
+        <source>The name &quot;%1&quot; is too long: the photo&apos;s name has bytes that are not UTF-8, and each becomes a longer character. Rename the photo.</source>
+        <translation>名前「%1」は長すぎます。写真の名前に UTF-8 でないバイトがあり、それぞれがより長い文字になります。写真の名前を変えてください。</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::PanelTabs</name>

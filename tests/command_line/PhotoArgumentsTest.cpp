@@ -42,6 +42,7 @@ private Q_SLOTS:
     void nameAsUrl();
     void badPhotosLeaveTheWindowToTheGoodOnes();
     void outputFolder();
+    void longNameOfAnyBytes();
 };
 
 void PhotoArgumentsTest::placement_data()
@@ -140,6 +141,17 @@ void PhotoArgumentsTest::outputFolder()
     QCOMPARE(folderOf({samplePhoto}), pictures + u"/Prints"_s);
     QCOMPARE(folderOf({samplePhoto, u"--batch"_s}), u"."_s);
     QCOMPARE(folderOf({samplePhoto, u"--output=there"_s}), u"there"_s);
+}
+
+// Each of those bytes becomes three in the names of what is printed.
+void PhotoArgumentsTest::longNameOfAnyBytes()
+{
+    const ProgramRun run =
+        runInShell(u"cd '%1' && name=$(printf '\\351%.0s' $(seq 100)).jpg && cp '%2' \"$name\" && "
+                   "\"$1\" --batch --output out \"$name\""_s.arg(folder_->path(), samplePhoto),
+                   {});
+    const QByteArray wrong = wrongInRefusal(run, 1, {u"not UTF-8"_s, u"Rename"_s});
+    QVERIFY2(wrong.isEmpty(), wrong.constData());
 }
 
 QTEST_GUILESS_MAIN(PhotoArgumentsTest)
