@@ -59,8 +59,7 @@ int runWindow(const CommandLine &commandLine, QApplication & /*application*/)
     }
     // Queues are looked for once the window is there; none of it may hold up the first picture.
     QTimer::singleShot(0, &dialog, &PrintDialog::searchPrinters);
-    if (const QByteArray geometry = WindowPlacement::load(); !geometry.isEmpty())
-        dialog.restoreGeometry(geometry);
+    dialog.restorePlacement(WindowPlacement::load());
     dialog.exec();
     WindowPlacement::save(dialog.saveGeometry());
     return exitDone;

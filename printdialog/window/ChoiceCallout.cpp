@@ -13,10 +13,12 @@
 #include <QtWidgets/QGridLayout>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QPushButton>
+#include <QtWidgets/QScrollArea>
 #include <QtWidgets/QStyle>
 #include <QtWidgets/QToolButton>
 
 #include <algorithm>
+#include <utility>
 
 namespace printdialog {
 
@@ -26,6 +28,33 @@ constexpr int tipHeight = 7;
 constexpr int padding = 8;
 constexpr int widest = 420;
 constexpr QColor tint(200, 140, 20);
+
+QRect inWindow(const QWidget *widget)
+{
+    return {widget->mapTo(widget->window(), QPoint()), widget->size()};
+}
+
+/// What can be seen, in the window's coordinates, of what scrolls together with the widget.
+QRect viewOf(const QWidget *widget, const QWidget *window)
+{
+    QRect view = window->rect();
+    for (const QWidget *above = widget->parentWidget(); above != window; above = above->parentWidget()) {
+        if (const auto *area = qobject_cast<const QScrollArea *>(above))
+            view &= inWindow(area->viewport());
+    }
+    return view;
+}
+
+/// The part of the control that is seen; when it is scrolled away, the edge of the view behind which it is.
+QRect inView(const QRect &control, const QRect &view)
+{
+    if (control.bottom() < view.top())
+        return {control.left(), view.top() - 1, control.width(), 1};
+    if (control.top() > view.bottom())
+        return {control.left(), view.bottom() + 1, control.width(), 1};
+    return {control.left(), std::max(control.top(), view.top()), control.width(),
+            std::min(control.bottom(), view.bottom()) - std::max(control.top(), view.top()) + 1};
+}
 
 } // namespace
 
@@ -64,7 +93,6 @@ void ChoiceCallout::show(QWidget *control, QWidget *area, const QString &text, c
     dismiss();
     join(control);
     area_ = area;
-    area_->installEventFilter(this);
     text_->setText(text);
     setAccessibleName(text);
     offer_->setText(offer);
@@ -81,7 +109,11 @@ void ChoiceCallout::show(QWidget *control, QWidget *area, const QString &text, c
 void ChoiceCallout::join(QWidget *control)
 {
     control_ = control;
-    control_->installEventFilter(this);
+    // It moves with whatever it stands in: a page that scrolls moves as a whole.
+    for (QWidget *above = control; above && above != parentWidget(); above = above->parentWidget()) {
+        above->installEventFilter(this);
+        watched_.append(above);
+    }
     QWidget *last = control;
     for (QWidget *next = control->nextInFocusChain(); next != control; next = next->nextInFocusChain()) {
         if (control->isAncestorOf(next))
@@ -98,13 +130,12 @@ void ChoiceCallout::dismiss()
     const bool hadFocus = isAncestorOf(window()->focusWidget());
     setVisible(false);
     text_->clear();
-    if (area_)
-        area_->removeEventFilter(this);
-    if (control_) {
-        control_->removeEventFilter(this);
-        if (hadFocus)
-            control_->setFocus(Qt::OtherFocusReason);
+    for (const QPointer<QWidget> &watched : std::exchange(watched_, {})) {
+        if (watched)
+            watched->removeEventFilter(this);
     }
+    if (control_ && hadFocus)
+        control_->setFocus(Qt::OtherFocusReason);
     control_.clear();
     area_.clear();
 }
@@ -116,30 +147,38 @@ QString ChoiceCallout::text() const
 
 void ChoiceCallout::place()
 {
-    QWidget *window = parentWidget();
-    const auto inWindow = [window](const QWidget *widget) {
-        return QRect(widget->mapTo(window, QPoint()), widget->size());
-    };
-    const QRect control = inWindow(control_);
-    QRect area = inWindow(area_);
-    const int width = std::min(area.width(), widest);
+    const QRect window = parentWidget()->rect();
+    const QRect view = viewOf(control_, parentWidget());
+    const QRect control = inView(inWindow(control_), view);
+    const QRect area = inWindow(area_) & view;
+    const int width = std::min(area.isEmpty() ? view.width() : area.width(), widest);
     const auto sizeFor = [&](bool below) {
         layout()->setContentsMargins(padding + 2, padding + (below ? tipHeight : 0), padding,
                                      padding + (below ? 0 : tipHeight));
         return std::max(layout()->totalHeightForWidth(width), layout()->totalMinimumSize().height());
     };
     const int height = sizeFor(true);
-    isBelow_ = control.bottom() + height <= area.bottom();
-    if (!isBelow_ && control.top() - height < area.top()) {
-        area = window->rect(); // no room in the page: beside the control all the same
-        isBelow_ =
-            control.bottom() + height <= area.bottom() || area.bottom() - control.bottom() > control.top();
+    // Where there is no room in the page it stands beside the control all the same, over other things.
+    QRect room = window;
+    isBelow_ = window.bottom() - control.bottom() > control.top();
+    for (const QRect &each : {area, view, window}) {
+        const bool isRoomBelow = control.bottom() + height <= each.bottom();
+        if (isRoomBelow || control.top() - height >= each.top()) {
+            room = each;
+            isBelow_ = isRoomBelow;
+            break;
+        }
     }
     sizeFor(isBelow_);
-    const int left = std::clamp(control.left(), area.left(), std::max(area.left(), area.right() - width));
-    setGeometry(left, isBelow_ ? control.bottom() + 1 : control.top() - height, width, height);
-    tip_ = std::clamp(control.left() + std::min(control.width() / 2, 60) - left, 3 * tipHeight,
-                      width - 3 * tipHeight);
+    const auto within = [](int place, int first, int last) {
+        return std::clamp(place, first, std::max(first, last));
+    };
+    const int left = within(control.left(), room.left(), room.right() - width);
+    const int top = within(isBelow_ ? control.bottom() + 1 : control.top() - height, window.top(),
+                           window.bottom() + 1 - height);
+    setGeometry(left, top, width, height);
+    tip_ = within(control.left() + std::min(control.width() / 2, 60) - left, 3 * tipHeight,
+                  width - 3 * tipHeight);
     update();
 }
 

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <QtCore/QList>
 #include <QtCore/QPointer>
 #include <QtWidgets/QFrame>
 
@@ -47,8 +48,9 @@ private:
     QToolButton *close_;
     QPointer<QWidget> control_;
     QPointer<QWidget> area_;
-    bool isBelow_ = true; ///< the control is above it
-    int tip_ = 0;         ///< where it points at the control
+    QList<QPointer<QWidget>> watched_; ///< the control and what it stands in
+    bool isBelow_ = true;              ///< the control is above it
+    int tip_ = 0;                      ///< where it points at the control
 };
 
 } // namespace printdialog

@@ -46,7 +46,6 @@ PanelTabs::PanelTabs(QWidget *parent)
     : QTabWidget(parent)
     , summary_(new SummaryPage(this))
 {
-    setUsesScrollButtons(false); // every page stays in sight
     summary_->hide();
     connect(this, &QTabWidget::currentChanged, this, &PanelTabs::showPage);
 }

@@ -9,6 +9,7 @@
 #include "PlacementText.h"
 #include "PlainText.h"
 #include "PreviewWidget.h"
+#include "WrappingRow.h"
 
 #include <QtCore/QFileInfo>
 #include <QtCore/QPointer>
@@ -24,6 +25,12 @@
 
 namespace printdialog {
 
+namespace {
+
+constexpr QSize smallestPreview(120, 100);
+
+} // namespace
+
 PhotoPane::PhotoPane(QWidget *parent)
     : QWidget(parent)
     , preview_(new PreviewWidget(this))
@@ -33,6 +40,9 @@ PhotoPane::PhotoPane(QWidget *parent)
     , remove_(new QPushButton(tr("Re&move"), this))
     , strip_(new PhotoStrip(this))
 {
+    // It takes what is left: a pane that asked for more would scroll before the preview is small.
+    preview_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
+    preview_->setMinimumSize(smallestPreview);
     preview_->setObjectName(QStringLiteral("preview"));
     strip_->setObjectName(QStringLiteral("strip"));
     caption_->setObjectName(QStringLiteral("photoLabel"));
@@ -47,10 +57,13 @@ PhotoPane::PhotoPane(QWidget *parent)
     for (QPushButton *button : {add_, remove_})
         button->setAccessibleDescription(button->toolTip());
 
-    auto *row = new QHBoxLayout;
-    row->addWidget(caption_, 1);
-    row->addWidget(add_);
-    row->addWidget(remove_);
+    caption_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+    auto *row = new WrappingRow;
+    row->addWidget(caption_);
+    auto *buttons = new QHBoxLayout;
+    buttons->addWidget(add_);
+    buttons->addWidget(remove_);
+    row->addItem(buttons);
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins({});
     layout->addWidget(preview_, 1);

@@ -3,12 +3,20 @@
 
 #include "PlacementBar.h"
 
+#include "WrappingRow.h"
+
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QPushButton>
 
 namespace printdialog {
+
+namespace {
+
+constexpr int shortestScaling = 8; // characters of the placement that are seen in a narrow window
+
+} // namespace
 
 PlacementBar::PlacementBar(QWidget *parent)
     : QWidget(parent)
@@ -17,19 +25,23 @@ PlacementBar::PlacementBar(QWidget *parent)
 {
     auto *label = new QLabel(tr("P&lacement:"), this);
     label->setBuddy(scaling_);
+    scaling_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     scaling_->setObjectName(QStringLiteral("scaling"));
     scaling_->setAccessibleName(tr("Placement of the photo"));
     scaling_->addItem(tr("Fit on the page"), static_cast<int>(Scaling::Fit));
     scaling_->addItem(tr("Fill the page"), static_cast<int>(Scaling::Fill));
     scaling_->addItem(tr("Actual size"), static_cast<int>(Scaling::ActualSize));
+    scaling_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    scaling_->setMinimumContentsLength(shortestScaling);
     turn_->setObjectName(QStringLiteral("turn"));
     turn_->setAutoDefault(false);
     turn_->setToolTip(tr("Turn the photo on the page by a quarter, clockwise"));
     turn_->setAccessibleDescription(turn_->toolTip());
-    auto *layout = new QHBoxLayout(this);
-    layout->setContentsMargins({});
-    layout->addWidget(label);
-    layout->addWidget(scaling_, 1);
+    auto *labelled = new QHBoxLayout;
+    labelled->addWidget(label);
+    labelled->addWidget(scaling_, 1);
+    auto *layout = new WrappingRow(this);
+    layout->addItem(labelled);
     layout->addWidget(turn_);
     connect(scaling_, &QComboBox::activated, this, [this](int index) {
         choice_.scaling = static_cast<Scaling>(scaling_->itemData(index).toInt());

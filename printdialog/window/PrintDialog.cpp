@@ -13,13 +13,25 @@
 #include "QueueSettings.h"
 #include "SessionOpening.h"
 #include "TouchWatch.h"
+#include "WrappingRow.h"
 #include "ui_PrintDialog.h"
 
 #include <QtCore/QDir>
+#include <QtGui/QScreen>
 #include <QtGui/QShortcut>
 #include <QtWidgets/QFileDialog>
 
+#include <algorithm>
+
 namespace printdialog {
+
+namespace {
+
+// In characters. Less would have the window change when the panels come; more would not be read more easily.
+constexpr int narrowestSettings = 78;
+constexpr int widestSettings = 110;
+
+} // namespace
 
 PrintDialog::PrintDialog(const PrintDialogSetup &setup, QWidget *parent)
     : QDialog(parent)
@@ -36,6 +48,12 @@ PrintDialog::PrintDialog(const PrintDialogSetup &setup, QWidget *parent)
     if (setup.printer && *setup.printer != Queue::builtIn().id() && !setup.ppdFile)
         fetcher_->fetchAhead(*setup.printer);
     ui_->setupUi(this);
+    auto *buttons = new WrappingRow(ui_->buttons);
+    buttons->addWidget(ui_->help);
+    buttons->addItem(new QSpacerItem(0, 0, QSizePolicy::Expanding));
+    for (QPushButton *button : {ui_->save, ui_->cancel, ui_->print})
+        buttons->addWidget(button);
+    ui_->settingsSide->setReadableWidth(narrowestSettings, widestSettings);
     choices_ = new ChoiceController(
         {this, ui_->panels, ui_->pageSize, ui_->copies, ui_->presetBar, ui_->undo, ui_->redo, ui_->message},
         this);
@@ -80,6 +98,24 @@ PrintDialog::~PrintDialog()
 {
     choices_->setSession(nullptr);
     ui_->panels->setSession(nullptr);
+}
+
+void PrintDialog::restorePlacement(const QByteArray &geometry)
+{
+    resize(size().expandedTo(sizeHint()));
+    // It refuses a placement from a screen that was much wider or narrower.
+    const bool isRestored = !geometry.isEmpty() && restoreGeometry(geometry);
+    if (isMaximized() || isFullScreen())
+        return;
+    QRect room = screen()->availableGeometry();
+    room.setTop(room.top() + style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, this));
+    resize(size().boundedTo(room.size()));
+    if (!isRestored)
+        return; // the desktop finds a place
+    const QPoint lastPlace(room.right() + 1 - width(), room.bottom() + 1 - height());
+    setGeometry(
+        QRect(QPoint(std::clamp(x(), room.left(), lastPlace.x()), std::clamp(y(), room.top(), lastPlace.y())),
+              size()));
 }
 
 void PrintDialog::searchPrinters()

@@ -57,6 +57,11 @@ public:
     explicit PrintDialog(const PrintDialogSetup &setup, QWidget *parent = nullptr);
     ~PrintDialog() override;
 
+    /// Gives the window its size, and its place where the desktop leaves that to programs: those of an
+    /// earlier time (WindowPlacement), or else what its contents ask for; never more than the screen has room
+    /// for.
+    void restorePlacement(const QByteArray &geometry);
+
     /// Starts to look for the print server's queues. When the one asked for is not among them, the built-in
     /// printer takes its place, and the user is told.
     void searchPrinters();

@@ -1,0 +1,112 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "SideArea.h"
+
+#include <QtCore/QCoreApplication>
+#include <QtGui/QFocusEvent>
+#include <QtWidgets/QAbstractSlider>
+#include <QtWidgets/QAbstractSpinBox>
+#include <QtWidgets/QComboBox>
+#include <QtWidgets/QScrollBar>
+#include <QtWidgets/QStyle>
+#include <QtWidgets/QTabBar>
+
+#include <algorithm>
+
+namespace printdialog {
+
+namespace {
+
+constexpr QSize smallest(300, 110); // pixels; both sides and what is below them fit in 800 x 500
+constexpr int focusMargin = 16;     // pixels around what is brought into view
+
+/// The user moved the focus by a key, or the program did. A click must not move what it was aimed at.
+bool isMoved(const QFocusEvent &event)
+{
+    switch (event.reason()) {
+    case Qt::MouseFocusReason:
+    case Qt::ActiveWindowFocusReason:
+    case Qt::PopupFocusReason:
+        return false;
+    default:
+        return true;
+    }
+}
+
+/// Whether the wheel would change what the widget stands for.
+bool isChangedByWheel(const QWidget *widget)
+{
+    return qobject_cast<const QComboBox *>(widget) || qobject_cast<const QAbstractSpinBox *>(widget) ||
+           qobject_cast<const QTabBar *>(widget) ||
+           (qobject_cast<const QAbstractSlider *>(widget) && !qobject_cast<const QScrollBar *>(widget));
+}
+
+} // namespace
+
+SideArea::SideArea(QWidget *parent)
+    : QScrollArea(parent)
+{
+    setWidgetResizable(true);
+    setFrameShape(QFrame::NoFrame);
+    setFocusPolicy(Qt::NoFocus);
+    // Views come and go in it, and a focus that moves from elsewhere does not pass through it.
+    QCoreApplication::instance()->installEventFilter(this);
+}
+
+void SideArea::setReadableWidth(int least, int most)
+{
+    leastWidth_ = least;
+    mostWidth_ = most;
+    updateGeometry();
+}
+
+// With room for the scroll bar, so that the contents keep their width when it appears.
+QSize SideArea::sizeHint() const
+{
+    if (!widget())
+        return QScrollArea::sizeHint();
+    const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this);
+    const int character = fontMetrics().averageCharWidth();
+    QSize size = widget()->sizeHint().expandedTo(widget()->minimumSizeHint());
+    size.setWidth(std::max(size.width() + bar, leastWidth_ * character));
+    if (mostWidth_ > 0)
+        size.setWidth(std::min(size.width(), mostWidth_ * character));
+    return size;
+}
+
+QSize SideArea::minimumSizeHint() const
+{
+    return smallest.boundedTo(sizeHint());
+}
+
+bool SideArea::event(QEvent *event)
+{
+    if (event->type() == QEvent::LayoutRequest)
+        updateGeometry(); // the contents ask for another size than before
+    return QScrollArea::event(event);
+}
+
+bool SideArea::takesWheel(const QWidget *widget) const
+{
+    return verticalScrollBar()->maximum() > 0 && isChangedByWheel(widget) && this->widget() &&
+           this->widget()->isAncestorOf(widget);
+}
+
+bool SideArea::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::Wheel) {
+        const auto *over = qobject_cast<QWidget *>(watched);
+        if (over && takesWheel(over)) {
+            QCoreApplication::sendEvent(verticalScrollBar(), event);
+            return true;
+        }
+    } else if (event->type() == QEvent::FocusIn && isMoved(*static_cast<QFocusEvent *>(event))) {
+        auto *focused = qobject_cast<QWidget *>(watched);
+        if (focused && widget() && widget()->isAncestorOf(focused))
+            ensureWidgetVisible(focused, focusMargin, focusMargin);
+    }
+    return QScrollArea::eventFilter(watched, event);
+}
+
+} // namespace printdialog

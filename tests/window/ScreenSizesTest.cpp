@@ -1,0 +1,228 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "OpenedDialog.h"
+#include "SystemLog.h"
+#include "ViewTags.h"
+
+#include <QtCore/QDataStream>
+#include <QtCore/QTranslator>
+#include <QtGui/QScreen>
+#include <QtGui/QWheelEvent>
+#include <QtTest/QTest>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QPushButton>
+#include <QtWidgets/QScrollArea>
+#include <QtWidgets/QScrollBar>
+#include <QtWidgets/QSlider>
+
+using namespace printdialog;
+using namespace testing_support;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QRect inWindow(const QWidget *widget)
+{
+    return {widget->mapTo(widget->window(), QPoint()), widget->size()};
+}
+
+bool isWhollySeen(const QWidget *widget)
+{
+    return widget->visibleRegion().boundingRect() == widget->rect();
+}
+
+} // namespace
+
+/// The window on small and large screens, with small and large fonts.
+class ScreenSizesTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+    void everythingIsReached_data();
+    void everythingIsReached();
+    void wheelChangesNothing();
+    void calloutFollowsItsControl();
+    void photoGetsTheRest();
+    void placementFitsTheScreen_data();
+    void placementFitsTheScreen();
+
+private:
+    QScrollArea *settingsOf(const OpenedDialog &opened)
+    {
+        return opened.find<QScrollArea>(u"settingsSide"_s);
+    }
+
+    QTemporaryDir config_;
+    QFont font_;
+};
+
+void ScreenSizesTest::init()
+{
+    pdekit::Feedback::install(std::make_shared<RecordingFeedback>());
+    pdekit::setSystemLogSink([](const QString &) {});
+    qputenv("XDG_CONFIG_HOME", QFile::encodeName(config_.path()));
+    font_ = QApplication::font();
+}
+
+void ScreenSizesTest::cleanup()
+{
+    QApplication::setFont(font_);
+    QLocale::setDefault(QLocale::c());
+}
+
+void ScreenSizesTest::everythingIsReached_data()
+{
+    QTest::addColumn<QSize>("size");
+    QTest::addColumn<double>("font");
+    QTest::addColumn<QString>("language");
+    QTest::newRow("800 x 500") << QSize(800, 500) << 1.0 << u"en"_s;
+    QTest::newRow("1024 x 600") << QSize(1024, 600) << 1.5 << u"en"_s;
+    QTest::newRow("German, 125 %") << QSize(1366, 768) / 1.25 << 1.25 << u"de"_s;
+    QTest::newRow("German, large font") << QSize(800, 500) << 1.5 << u"de"_s;
+    QTest::newRow("double font") << QSize(800, 500) << 2.0 << u"fr"_s;
+}
+
+// By the keyboard, which shows what it comes to; and Print and Cancel stay in sight the whole time.
+void ScreenSizesTest::everythingIsReached()
+{
+    QFETCH(QSize, size);
+    QFETCH(double, font);
+    QFETCH(QString, language);
+    QLocale::setDefault(QLocale(language));
+    QTranslator translator;
+    QVERIFY(translator.load(
+        QStringLiteral("%1/corvel-print_%2.qm").arg(QStringLiteral(CORVEL_TRANSLATIONS_DIR), language)));
+    QCoreApplication::installTranslator(&translator);
+    QFont larger = font_;
+    larger.setPointSizeF(font_.pointSizeF() * font);
+    QApplication::setFont(larger);
+    const OpenedDialog opened(PanelMode::Constraint);
+    opened.dialog->resize(size);
+    QCoreApplication::processEvents();
+    QCOMPARE(opened.dialog->size(), size);
+    for (int page = 0; page < opened.dialog->pageCount(); ++page) {
+        opened.dialog->showPage(page);
+        auto *first = opened.find<QWidget>(u"printer"_s);
+        first->setFocus();
+        int count = 0;
+        do {
+            QWidget *focused = QApplication::focusWidget();
+            // The paper and the summary take what room there is.
+            QVERIFY2(isWhollySeen(focused) || focused->objectName() == u"preview"_s ||
+                         focused->inherits("QTreeWidget"),
+                     qPrintable(u"%1 on page %2"_s.arg(focused->objectName()).arg(page)));
+            for (const QString &name : {u"print"_s, u"cancel"_s, u"save"_s, u"help"_s}) {
+                const auto *button = opened.find<QPushButton>(name);
+                QVERIFY(isWhollySeen(button) && button->width() >= button->sizeHint().width());
+            }
+            QTest::keyClick(focused, Qt::Key_Tab);
+        } while (QApplication::focusWidget() != first && ++count < 60);
+        QVERIFY(count > 10 && count < 60);
+    }
+    QCOMPARE(opened.dialog->size(), size);
+}
+
+void ScreenSizesTest::wheelChangesNothing()
+{
+    const OpenedDialog opened(PanelMode::Constraint);
+    opened.dialog->resize(800, 500);
+    QScrollBar *bar = settingsOf(opened)->verticalScrollBar();
+    QTRY_VERIFY(bar->maximum() > 0);
+    auto *slider = qobject_cast<QSlider *>(opened.control(1));
+    const auto *label = opened.find<QLabel>(u"redLabel"_s);
+    for (QWidget *over :
+         {static_cast<QWidget *>(slider), opened.find<QWidget>(u"copies"_s),
+          opened.find<QWidget>(u"pageSize"_s), opened.find<QWidget>(u"qt_tabwidget_tabbar"_s)}) {
+        bar->setValue(0);
+        const int before = inWindow(label).top();
+        const QPointF middle = over->rect().center();
+        QWheelEvent wheel(middle, over->mapToGlobal(middle), {}, {0, -120}, {}, {}, Qt::NoScrollPhase, false);
+        QApplication::sendEvent(over, &wheel);
+        QVERIFY2(inWindow(label).top() < before, qPrintable(over->objectName()));
+    }
+    QCOMPARE(slider->value(), 0);
+    QVERIFY(slider->isVisible()); // it is still the first page
+    opened.click(u"print"_s);
+    QTRY_VERIFY(opened.hasPrinted());
+    QCOMPARE(opened.options()[u"PageSize"_s].toString(), u"4x6.Fullbleed"_s);
+}
+
+void ScreenSizesTest::calloutFollowsItsControl()
+{
+    const OpenedDialog opened(PanelMode::Constraint);
+    opened.dialog->resize(800, 500);
+    opened.dialog->showPage(2);
+    auto *matte = opened.find<QWidget>(u"matte"_s);
+    matte->setFocus(Qt::TabFocusReason);
+    opened.click(u"matte"_s);
+    const auto *callout = opened.find<QWidget>(u"callout"_s);
+    QVERIFY(callout->isVisible());
+    QScrollArea *settings = settingsOf(opened);
+    QScrollBar *bar = settings->verticalScrollBar();
+    const QRect view = inWindow(settings->viewport());
+    const QRect window = opened.dialog->rect();
+    for (const int value : {0, bar->maximum() / 2, bar->maximum()}) {
+        bar->setValue(value);
+        const QRect box = inWindow(callout);
+        const QRect control = inWindow(opened.control(2));
+        QVERIFY(window.contains(box));
+        QVERIFY(!box.intersects(control));
+        if (view.contains(control))
+            QVERIFY(box.top() == control.bottom() + 1 || box.bottom() == control.top() - 1);
+        else // where it has gone to
+            QVERIFY(box.top() <= view.top() || box.bottom() >= view.bottom());
+    }
+    QVERIFY(!opened.dialog->message().isEmpty());
+}
+
+void ScreenSizesTest::photoGetsTheRest()
+{
+    const OpenedDialog opened(PanelMode::Constraint);
+    opened.dialog->resize(1000, 700);
+    QCoreApplication::processEvents();
+    const int settings = settingsOf(opened)->width();
+    const int photo = opened.find<QWidget>(u"preview"_s)->width();
+    opened.dialog->resize(3000, 1600);
+    QCoreApplication::processEvents();
+    QCOMPARE(settingsOf(opened)->width(), settings);
+    QCOMPARE(opened.find<QWidget>(u"preview"_s)->width(), photo + 2000);
+}
+
+void ScreenSizesTest::placementFitsTheScreen_data()
+{
+    QTest::addColumn<QSize>("kept");
+    QTest::addColumn<QPoint>("place");
+    QTest::addColumn<int>("screen");
+    QTest::newRow("first time") << QSize() << QPoint() << 0;
+    QTest::newRow("from a larger screen") << QSize(1800, 1100) << QPoint(600, 400) << 800;
+    QTest::newRow("from a much wider one") << QSize(2800, 1400) << QPoint(900, 300) << 3840;
+}
+
+void ScreenSizesTest::placementFitsTheScreen()
+{
+    QFETCH(QSize, kept);
+    QFETCH(QPoint, place);
+    QFETCH(int, screen);
+    const OpenedDialog opened(PanelMode::Constraint);
+    QByteArray geometry;
+    if (!kept.isEmpty()) {
+        const QRect rect(place, kept);
+        QDataStream(&geometry, QIODevice::WriteOnly) // as QWidget::saveGeometry() does
+            << quint32(0x1D9D0CB) << quint16(3) << quint16(0) << rect << rect << qint32(0) << quint8(0)
+            << quint8(0) << qint32(screen) << rect;
+    }
+    opened.dialog->restorePlacement(geometry);
+    const QRect room = opened.dialog->screen()->availableGeometry();
+    QVERIFY(room.width() < 900); // as the offscreen platform has it
+    QVERIFY(opened.dialog->width() <= room.width() && opened.dialog->height() < room.height());
+    QVERIFY(screen != room.width() || room.contains(opened.dialog->geometry()));
+    QVERIFY(opened.find<QPushButton>(u"print"_s)->isVisible());
+}
+
+QTEST_MAIN(ScreenSizesTest)
+#include "ScreenSizesTest.moc"
