@@ -6,7 +6,6 @@
 #include "ChoiceExplanation.h"
 #include "Console.h"
 #include "PpdCheck.h"
-#include "PresetName.h"
 #include "PresetStore.h"
 #include "QueueList.h"
 #include "SessionOpening.h"
@@ -70,29 +69,27 @@ void takeCopies(QMap<QString, QString> &choices, const QString &preset, Requeste
 QString usePreset(RequestedJob &job)
 {
     const PrinterDescription &printer = job.session->printer();
-    const QString name = printer.isBuiltIn ? QString() : printer.name.section(u'/', 1);
-    if (name.isEmpty())
+    const QString instance = printer.isBuiltIn ? QString() : printer.name.section(u'/', 1);
+    if (instance.isEmpty())
         return {};
     const auto presets = PresetStore::open(printer.name.section(u'/', 0, 0), false)->presets();
     if (!presets)
         return presets.failure().text;
-    for (const Preset &preset : *presets) {
-        if (!PresetName::areSame(preset.name, name))
-            continue;
-        const PpdDocument &ppd = job.session->ppd();
-        QMap<QString, QString> choices = preset.choicesFor(ppd.options());
-        takeCopies(choices, name, job);
-        if (!printer.hasPpd)
-            return {};
-        const auto rulings = job.session->restoreChoices(choices, DialogSession::Unnamed::Default);
-        QStringList sentences;
-        for (const Ruling &ruling : rulings)
-            sentences += Text::tr("Of the preset \"%1\" is left out: %2")
-                             .arg(name, ChoiceExplanation(ppd).refusal(ruling));
-        if (!sentences.isEmpty())
-            job.leftOut += Console::oneLine(sentences);
+    const Preset *preset = PresetStore::findInstance(*presets, instance);
+    if (!preset)
         return {};
-    }
+    const PpdDocument &ppd = job.session->ppd();
+    QMap<QString, QString> choices = preset->choicesFor(ppd.options());
+    takeCopies(choices, preset->name, job);
+    if (!printer.hasPpd)
+        return {};
+    const auto rulings = job.session->restoreChoices(choices, DialogSession::Unnamed::Default);
+    QStringList sentences;
+    for (const Ruling &ruling : rulings)
+        sentences += Text::tr("Of the preset \"%1\" is left out: %2")
+                         .arg(preset->name, ChoiceExplanation(ppd).refusal(ruling));
+    if (!sentences.isEmpty())
+        job.leftOut += Console::oneLine(sentences);
     return {};
 }
 
@@ -103,7 +100,7 @@ RequestedSessionResult openRequestedPrinter(const CommandLine &commandLine)
     if (commandLine.ppd || commandLine.asksForBuiltInPrinter())
         return orSentence(openBuiltInPrinter(commandLine.ppd, commandLine.mode));
     if (commandLine.printer)
-        return openQueueNamed(*commandLine.printer, commandLine.mode);
+        return openQueueNamed(PresetStore::destination(*commandLine.printer), commandLine.mode);
     if (const std::optional<QString> id = defaultQueue(listQueues(listPatience))) {
         auto session = openQueueNamed(*id, commandLine.mode);
         if (session)

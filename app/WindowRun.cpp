@@ -4,6 +4,7 @@
 #include "WindowRun.h"
 
 #include "Console.h"
+#include "PresetStore.h"
 #include "WindowPlacement.h"
 
 #include <QtCore/QTimer>
@@ -22,7 +23,8 @@ PrintDialogSetup windowSetup(const CommandLine &commandLine)
             setup.photoFailures.append(photo.failure().text);
     }
     setup.mode = commandLine.mode;
-    setup.printer = commandLine.printer;
+    if (commandLine.printer)
+        setup.printer = PresetStore::destination(*commandLine.printer);
     setup.ppdFile = commandLine.ppd;
     for (const RequestedChoice &option : commandLine.options)
         setup.options.append({option.key, option.choice});

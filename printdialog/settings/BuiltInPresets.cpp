@@ -54,7 +54,7 @@ QList<Preset> presetsOf(const Sets &sets)
 {
     QList<Preset> presets;
     for (auto set = sets.cbegin(); set != sets.cend(); ++set)
-        presets += {set.key(), *set, {}, true};
+        presets += {set.key(), *set, {}, true, {}};
     return presets;
 }
 

@@ -7,7 +7,7 @@
 
 namespace printdialog {
 
-/// The presets of the built-in printer, which is no CUPS queue: one JSON file in the user's configuration
+/// The presets of the built-in printer, which is not a CUPS queue: one JSON file in the user's configuration
 /// folder.
 class BuiltInPresets final : public PresetStore
 {

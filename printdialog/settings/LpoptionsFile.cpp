@@ -157,9 +157,10 @@ bool LpoptionsFile::set(const QString &queue, const QString &instance, const QMa
     return true;
 }
 
-void LpoptionsFile::rename(const QString &queue, const QString &instance, const QString &newInstance)
+bool LpoptionsFile::rename(const QString &queue, const QString &instance, const QString &newInstance)
 {
-    for (QByteArray &text : lines_) {
+    QList<QByteArray> lines = lines_;
+    for (QByteArray &text : lines) {
         const auto line = parsed(text);
         if (!line || !line->isOf(queue, instance))
             continue;
@@ -167,7 +168,11 @@ void LpoptionsFile::rename(const QString &queue, const QString &instance, const 
         takeWord(rest);
         takeWord(rest);
         text = line->keyword + ' ' + nameOf(line->queue, newInstance) + ' ' + rest;
+        if (text.size() > longestLine)
+            return false;
     }
+    lines_ = lines;
+    return true;
 }
 
 void LpoptionsFile::remove(const QString &queue, const QString &instance)

@@ -34,8 +34,9 @@ public:
     /// Puts the options in the place of those the entry has, or adds it at the end. False: its line would be
     /// too long.
     bool set(const QString &queue, const QString &instance, const QMap<QString, QString> &options);
-    /// Gives the entry another instance name; its options stay byte for byte.
-    void rename(const QString &queue, const QString &instance, const QString &newInstance);
+    /// Gives the entry another instance name; its options stay byte for byte. False: a line would be too
+    /// long; nothing has changed then.
+    bool rename(const QString &queue, const QString &instance, const QString &newInstance);
     void remove(const QString &queue, const QString &instance);
 
     QByteArray text() const;

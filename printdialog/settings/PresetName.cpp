@@ -5,27 +5,27 @@
 
 #include "PlainText.h"
 
-#include <algorithm>
-
 namespace printdialog {
 
 namespace {
 
-constexpr qsizetype mostBytes = 127;                   // as for a queue's name
-const QString separators = QStringLiteral("/\\?'\"#"); // as lpadmin(8) refuses them in a queue's name
+constexpr qsizetype mostBytes = 127;                // as for a queue's name
+const QString mapped = QStringLiteral(" /\\?'\"#"); // as lpadmin(8) refuses them in a queue's name
 
-bool isAllowed(QChar character)
+/// The mapped character whose hexadecimal digits the text begins with.
+std::optional<QChar> characterOf(QStringView digits)
 {
-    return !character.isSpace() && !separators.contains(character) &&
-           (character.isPrint() || character.isSurrogate());
+    const QChar character(digits.first(std::min<qsizetype>(2, digits.size())).toUShort(nullptr, 16));
+    return mapped.contains(character) ? std::optional(character) : std::nullopt;
 }
 
-QString proposal(const QString &name)
+/// Whether a percent sign with the text behind it would be read as a mapped character, or as a percent sign
+/// that is mapped to keep it from that.
+bool needsMapping(QStringView behindPercent)
 {
-    QString proposed;
-    for (const QChar character : name.trimmed())
-        proposed += isAllowed(character) ? character : QChar(u'-');
-    return plainText(proposed);
+    while (behindPercent.startsWith(u"25"))
+        behindPercent = behindPercent.sliced(2);
+    return characterOf(behindPercent).has_value();
 }
 
 QString asciiFolded(QString text)
@@ -39,6 +39,12 @@ QString asciiFolded(QString text)
 
 } // namespace
 
+QString PresetName::cleaned(const QString &typed)
+{
+    const QString trimmed = typed.trimmed();
+    return hasControls(trimmed) ? trimmed : plainText(trimmed);
+}
+
 SettingsFailure PresetName::objection(const QString &name)
 {
     const auto failure = [](const QString &text) {
@@ -46,19 +52,49 @@ SettingsFailure PresetName::objection(const QString &name)
     };
     if (name.isEmpty())
         return failure(tr("A preset needs a name."));
-    if (name.toUtf8().size() > mostBytes)
-        return failure(tr("The name is too long: CUPS allows %1 bytes.").arg(mostBytes));
-    if (std::ranges::all_of(name, isAllowed) && plainText(name) == name)
-        return std::nullopt;
-    const QString allowed =
-        tr("A preset's name may have letters, digits and signs, but no space and none of / \\ ? ' \" #.");
-    const QString proposed = proposal(name);
-    return failure(proposed.isEmpty() ? allowed : tr("%1 Try \"%2\".").arg(allowed, proposed));
+    if (plainText(name) != name)
+        return failure(
+            tr("The name holds a control character, such as a tab or a line break. Type it without."));
+    if (const qsizetype bytes = instanceOf(name).toUtf8().size(); bytes > mostBytes)
+        return failure(tr("The name is too long: it takes %1 bytes to store, and CUPS allows %2. Choose a "
+                          "shorter one.")
+                           .arg(bytes)
+                           .arg(mostBytes));
+    return std::nullopt;
 }
 
 bool PresetName::areSame(const QString &one, const QString &other)
 {
     return asciiFolded(one) == asciiFolded(other);
+}
+
+QString PresetName::instanceOf(const QString &name)
+{
+    QString instance;
+    for (qsizetype i = 0; i < name.size(); ++i) {
+        const QChar character = name.at(i);
+        if (mapped.contains(character) ||
+            (character == u'%' && needsMapping(QStringView(name).sliced(i + 1))))
+            instance += u'%' + QString::number(character.unicode(), 16).toUpper();
+        else
+            instance += character;
+    }
+    return instance;
+}
+
+QString PresetName::ofInstance(const QString &instance)
+{
+    QString name;
+    for (qsizetype i = 0; i < instance.size(); ++i) {
+        const QStringView behind = QStringView(instance).sliced(i + 1);
+        if (instance.at(i) == u'%' && needsMapping(behind)) {
+            name += characterOf(behind).value_or(u'%');
+            i += 2;
+        } else {
+            name += instance.at(i);
+        }
+    }
+    return name;
 }
 
 } // namespace printdialog

@@ -64,6 +64,24 @@ const Preset *PresetStore::find(const Presets &presets, const QString &name)
     return found == presets.end() ? nullptr : &*found;
 }
 
+const Preset *PresetStore::findInstance(const Presets &presets, const QString &text)
+{
+    const auto found = std::ranges::find_if(
+        presets, [&text](const Preset &preset) { return PresetName::areSame(preset.instance, text); });
+    return found == presets.end() ? find(presets, text) : &*found;
+}
+
+QString PresetStore::destination(const QString &typed)
+{
+    const QString queue = typed.section(u'/', 0, 0);
+    const QString preset = typed.section(u'/', 1);
+    if (preset.isEmpty())
+        return typed;
+    const auto presets = QueuePresets(queue).presets();
+    const Preset *found = presets ? findInstance(*presets, preset) : nullptr;
+    return found ? queue + u'/' + found->instance : typed;
+}
+
 SettingsFailure PresetStore::mayAdd(const Presets &presets, const QString &name)
 {
     const Preset *taken = find(presets, name);

@@ -21,6 +21,7 @@ struct Preset
     QMap<QString, QString> options;   ///< option keyword to choice keyword, and "copies"
     QMap<QString, QString> inherited; ///< what the queue's own entry adds to those
     bool isWritable = true;           ///< false: the system's, which only its administrator changes
+    QString instance; ///< what CUPS calls it (see PresetName); the built-in printer's have none
 
     /// What it chooses on a printer with the options: its own choices, and what the queue's own entry adds
     /// about the printer or the copies. Most of such an entry is about something else.
@@ -40,6 +41,15 @@ public:
     static std::unique_ptr<PresetStore> open(const QString &printer, bool isBuiltIn);
     virtual ~PresetStore() = default;
 
+    using Presets = QList<Preset>;
+
+    /// The preset of the name; null when there is none.
+    static const Preset *find(const Presets &presets, const QString &name);
+    /// The preset that "queue/preset" means: that of the instance, or else that of the name.
+    static const Preset *findInstance(const Presets &presets, const QString &text);
+    /// "queue/preset" as CUPS calls it when the preset is given by its name. Anything else stays as it is.
+    static QString destination(const QString &typed);
+
     /// By name.
     virtual Result<QList<Preset>, SettingsFault> presets() const = 0;
 
@@ -51,13 +61,10 @@ public:
     SettingsFailure remove(const QString &name);
 
 protected:
-    using Presets = QList<Preset>;
-
     virtual SettingsFailure write(const QString &name, const QMap<QString, QString> &options, bool isNew) = 0;
     virtual SettingsFailure writeName(const QString &name, const QString &newName) = 0;
     virtual SettingsFailure writeWithout(const QString &name) = 0;
 
-    static const Preset *find(const Presets &presets, const QString &name);
     /// Whether there may be a new preset of the name.
     static SettingsFailure mayAdd(const Presets &presets, const QString &name);
     /// Whether there is a preset of the name that the user may change.

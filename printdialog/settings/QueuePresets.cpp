@@ -28,6 +28,21 @@ changeUserFile(const std::function<SettingsFailure(LpoptionsFile &, const QByteA
                                 });
 }
 
+/// Each has its instance for a name so far. lpoptions(1) takes characters that are mapped here: such a preset
+/// keeps its name, and another one that would have the same is shown as its instance.
+void giveNames(QList<Preset> &presets)
+{
+    for (Preset &preset : presets) {
+        const QString name = PresetName::ofInstance(preset.instance);
+        const bool isTaken = std::ranges::any_of(presets, [&name](const Preset &other) {
+            return PresetName::areSame(other.instance, name) &&
+                   PresetName::ofInstance(other.instance) == other.instance;
+        });
+        if (!isTaken)
+            preset.name = name;
+    }
+}
+
 } // namespace
 
 QueuePresets::QueuePresets(const QString &queue)
@@ -76,17 +91,18 @@ PresetStore::Presets QueuePresets::together(const QByteArray &system, const QByt
                 continue;
             }
             const auto known = std::ranges::find_if(presets, [&entry](const Preset &preset) {
-                return PresetName::areSame(preset.name, entry.instance);
+                return PresetName::areSame(preset.instance, entry.instance);
             });
             if (known == presets.end()) {
                 // libcups hands an instance the options that its queue has by then.
-                presets += {entry.instance, entry.options, ofQueue, isUsers};
+                presets += {entry.instance, entry.options, ofQueue, isUsers, entry.instance};
             } else {
                 known->options.insert(entry.options);
                 known->isWritable = isUsers;
             }
         }
     }
+    giveNames(presets);
     std::ranges::sort(presets, {}, [](const Preset &preset) { return preset.name.toLower(); });
     return presets;
 }
@@ -97,7 +113,7 @@ SettingsFailure QueuePresets::write(const QString &name, const QMap<QString, QSt
         const Presets presets = withUsers(before);
         if (auto failure = isNew ? mayAdd(presets, name) : mayChange(presets, name))
             return failure;
-        if (file.set(queue_, name, options))
+        if (file.set(queue_, isNew ? PresetName::instanceOf(name) : find(presets, name)->instance, options))
             return std::nullopt;
         return Failure<SettingsFault>{
             SettingsFault::TooLong,
@@ -118,17 +134,24 @@ SettingsFailure QueuePresets::writeName(const QString &name, const QString &newN
             if (auto failure = mayAdd(presets, newName))
                 return failure;
         }
-        file.rename(queue_, name, newName);
-        return std::nullopt;
+        if (file.rename(queue_, find(presets, name)->instance, PresetName::instanceOf(newName)))
+            return std::nullopt;
+        return Failure<SettingsFault>{
+            SettingsFault::TooLong,
+            tr("The preset \"%1\" keeps its name: with the new one it is longer than the %2 bytes that CUPS "
+               "reads. Choose a shorter one.")
+                .arg(name, QString::number(LpoptionsFile::longestLine)),
+            {}};
     });
 }
 
 SettingsFailure QueuePresets::writeWithout(const QString &name)
 {
     return changeUserFile([&](LpoptionsFile &file, const QByteArray &before) -> SettingsFailure {
-        if (auto failure = mayChange(withUsers(before), name))
+        const Presets presets = withUsers(before);
+        if (auto failure = mayChange(presets, name))
             return failure;
-        file.remove(queue_, name);
+        file.remove(queue_, find(presets, name)->instance);
         return std::nullopt;
     });
 }

@@ -90,9 +90,9 @@ private:
     void loadPresets();
     void usePreset(const QString &name);
     QStringList restorePreset(const QString &name);
-    void addPreset(const QString &name);
+    void addPreset(const QString &typed);
     void updatePreset(const QString &name);
-    void renamePreset(const QString &name, const QString &newName);
+    void renamePreset(const QString &name, const QString &typed);
     void removePreset(const QString &name);
     std::optional<QMap<QString, QString>> kept();
     QString takeCopies(QMap<QString, QString> &choices);

@@ -34,6 +34,14 @@ QString presetOf(const PrinterDescription &printer)
     return printer.isBuiltIn ? QString() : printer.name.section(u'/', 1);
 }
 
+/// The name that people know the preset by.
+QString nameOf(const PresetStore &store, const QString &instance)
+{
+    const auto presets = store.presets();
+    const Preset *preset = presets ? PresetStore::findInstance(*presets, instance) : nullptr;
+    return preset ? preset->name : PresetName::ofInstance(instance);
+}
+
 } // namespace
 
 void ChoiceController::setSession(DialogSession *session)
@@ -56,8 +64,8 @@ void ChoiceController::setSession(DialogSession *session)
     const QString queue = queueOf(session->printer());
     store_ = PresetStore::open(queue, session->printer().isBuiltIn);
     loadPresets();
-    if (const QString preset = presetOf(session->printer()); !preset.isEmpty()) {
-        usePreset(preset);
+    if (const QString instance = presetOf(session->printer()); !instance.isEmpty()) {
+        usePreset(nameOf(*store_, instance));
         return;
     }
     QMap<QString, QString> last = QueueSettings::load(queue);
@@ -129,9 +137,8 @@ QStringList ChoiceController::restorePreset(const QString &name)
     const auto presets = store_->presets();
     if (!presets)
         return {presets.failure().text};
-    const auto preset = std::ranges::find_if(
-        *presets, [&name](const Preset &each) { return PresetName::areSame(each.name, name); });
-    if (preset == presets->end()) {
+    const Preset *preset = PresetStore::find(*presets, name);
+    if (!preset) {
         loadPresets();
         widgets_.presets->showError(tr("There is no preset \"%1\" any more.").arg(name));
         return {};
@@ -188,8 +195,9 @@ std::optional<QMap<QString, QString>> ChoiceController::kept()
     return choices;
 }
 
-void ChoiceController::addPreset(const QString &name)
+void ChoiceController::addPreset(const QString &typed)
 {
+    const QString name = PresetName::cleaned(typed);
     const auto choices = kept();
     if (!choices)
         return;
@@ -213,8 +221,9 @@ void ChoiceController::updatePreset(const QString &name)
         markPreset(name);
 }
 
-void ChoiceController::renamePreset(const QString &name, const QString &newName)
+void ChoiceController::renamePreset(const QString &name, const QString &typed)
 {
+    const QString newName = PresetName::cleaned(typed);
     if (const auto failure = store_->rename(name, newName)) {
         widgets_.presets->showError(failure->text);
         return;

@@ -3,6 +3,7 @@
 
 #include "PrinterChooser.h"
 
+#include "PresetName.h"
 #include "QueueFinder.h"
 
 namespace printdialog {
@@ -11,9 +12,10 @@ namespace {
 
 QString label(const Queue &queue)
 {
+    const QString id = PresetName::ofInstance(queue.id());
     if (queue.info.isEmpty() || queue.info == queue.id())
-        return queue.id();
-    return queue.isBuiltIn ? queue.info : PrinterChooser::tr("%1 (%2)").arg(queue.info, queue.id());
+        return id;
+    return queue.isBuiltIn ? queue.info : PrinterChooser::tr("%1 (%2)").arg(queue.info, id);
 }
 
 } // namespace

@@ -1636,16 +1636,12 @@ Beispiele:
         <translation>Eine Voreinstellung braucht einen Namen.</translation>
     </message>
     <message>
-        <source>The name is too long: CUPS allows %1 bytes.</source>
-        <translation>Der Name ist zu lang: CUPS erlaubt %1 Bytes.</translation>
+        <source>The name holds a control character, such as a tab or a line break. Type it without.</source>
+        <translation>Der Name enthält ein Steuerzeichen, etwa einen Tabulator oder Zeilenumbruch. Geben Sie ihn ohne ein.</translation>
     </message>
     <message>
-        <source>A preset&apos;s name may have letters, digits and signs, but no space and none of / \ ? &apos; &quot; #.</source>
-        <translation>Der Name darf Buchstaben, Ziffern und Zeichen enthalten, aber kein Leerzeichen und keines von / \ ? &apos; &quot; #.</translation>
-    </message>
-    <message>
-        <source>%1 Try &quot;%2&quot;.</source>
-        <translation>%1 Versuchen Sie „%2“.</translation>
+        <source>The name is too long: it takes %1 bytes to store, and CUPS allows %2. Choose a shorter one.</source>
+        <translation>Der Name ist zu lang: Gespeichert braucht er %1 Bytes, und CUPS erlaubt %2. Wählen Sie einen kürzeren.</translation>
     </message>
 </context>
 <context>
@@ -1818,6 +1814,10 @@ Beispiele:
     <message>
         <source>The preset &quot;%1&quot; is not saved: with %2 options it is longer than the %3 bytes that CUPS reads. Save the settings instead.</source>
         <translation>Die Voreinstellung „%1“ wird nicht gesichert: Mit %2 Optionen ist sie länger als die %3 Bytes, die CUPS liest. Speichern Sie stattdessen die Einstellungen.</translation>
+    </message>
+    <message>
+        <source>The preset &quot;%1&quot; keeps its name: with the new one it is longer than the %2 bytes that CUPS reads. Choose a shorter one.</source>
+        <translation>Die Voreinstellung „%1“ behält ihren Namen: Mit dem neuen ist sie länger als die %2 Bytes, die CUPS liest. Wählen Sie einen kürzeren.</translation>
     </message>
 </context>
 <context>

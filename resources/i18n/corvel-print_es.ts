@@ -1634,16 +1634,12 @@ Ejemplos:
         <translation>Un preajuste necesita un nombre.</translation>
     </message>
     <message>
-        <source>The name is too long: CUPS allows %1 bytes.</source>
-        <translation>El nombre es demasiado largo: CUPS permite %1 bytes.</translation>
+        <source>The name holds a control character, such as a tab or a line break. Type it without.</source>
+        <translation>El nombre contiene un carácter de control, como un tabulador o un salto de línea. Escríbalo sin él.</translation>
     </message>
     <message>
-        <source>A preset&apos;s name may have letters, digits and signs, but no space and none of / \ ? &apos; &quot; #.</source>
-        <translation>El nombre puede tener letras, dígitos y signos, pero no espacios ni / \ ? &apos; &quot; #.</translation>
-    </message>
-    <message>
-        <source>%1 Try &quot;%2&quot;.</source>
-        <translation>%1 Pruebe con «%2».</translation>
+        <source>The name is too long: it takes %1 bytes to store, and CUPS allows %2. Choose a shorter one.</source>
+        <translation>El nombre es demasiado largo: guardado ocupa %1 bytes y CUPS permite %2. Elija uno más corto.</translation>
     </message>
 </context>
 <context>
@@ -1816,6 +1812,10 @@ Ejemplos:
     <message>
         <source>The preset &quot;%1&quot; is not saved: with %2 options it is longer than the %3 bytes that CUPS reads. Save the settings instead.</source>
         <translation>El preajuste «%1» no se guarda: con %2 opciones supera los %3 bytes que CUPS lee. Guarde los ajustes en su lugar.</translation>
+    </message>
+    <message>
+        <source>The preset &quot;%1&quot; keeps its name: with the new one it is longer than the %2 bytes that CUPS reads. Choose a shorter one.</source>
+        <translation>El preajuste «%1» conserva su nombre: con el nuevo supera los %2 bytes que CUPS lee. Elija uno más corto.</translation>
     </message>
 </context>
 <context>

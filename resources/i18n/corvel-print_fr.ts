@@ -1635,16 +1635,12 @@ Exemples&#x202f;:
         <translation>Un préréglage doit avoir un nom.</translation>
     </message>
     <message>
-        <source>The name is too long: CUPS allows %1 bytes.</source>
-        <translation>Le nom est trop long&#x202f;: CUPS autorise %1 octets.</translation>
+        <source>The name holds a control character, such as a tab or a line break. Type it without.</source>
+        <translation>Le nom contient un caractère de contrôle, comme une tabulation ou un saut de ligne. Saisissez-le sans ce caractère.</translation>
     </message>
     <message>
-        <source>A preset&apos;s name may have letters, digits and signs, but no space and none of / \ ? &apos; &quot; #.</source>
-        <translation>Le nom peut contenir des lettres, des chiffres et des signes, mais ni espace ni / \&#x202f;? &apos; &quot; #.</translation>
-    </message>
-    <message>
-        <source>%1 Try &quot;%2&quot;.</source>
-        <translation>%1 Essayez «&#x202f;%2&#x202f;».</translation>
+        <source>The name is too long: it takes %1 bytes to store, and CUPS allows %2. Choose a shorter one.</source>
+        <translation>Le nom est trop long&#x202f;: il occupe %1 octets une fois enregistré, et CUPS en autorise %2. Choisissez-en un plus court.</translation>
     </message>
 </context>
 <context>
@@ -1817,6 +1813,10 @@ Exemples&#x202f;:
     <message>
         <source>The preset &quot;%1&quot; is not saved: with %2 options it is longer than the %3 bytes that CUPS reads. Save the settings instead.</source>
         <translation>Le préréglage «&#x202f;%1&#x202f;» n’est pas enregistré&#x202f;: avec %2 options, il dépasse les %3 octets que CUPS lit. Enregistrez plutôt les réglages.</translation>
+    </message>
+    <message>
+        <source>The preset &quot;%1&quot; keeps its name: with the new one it is longer than the %2 bytes that CUPS reads. Choose a shorter one.</source>
+        <translation>Le préréglage «&#x202f;%1&#x202f;» garde son nom&#x202f;: avec le nouveau, il dépasse les %2 octets que CUPS lit. Choisissez-en un plus court.</translation>
     </message>
 </context>
 <context>

@@ -1631,16 +1631,12 @@ Examples:
         <translation>プリセットには名前が必要です。</translation>
     </message>
     <message>
-        <source>The name is too long: CUPS allows %1 bytes.</source>
-        <translation>名前が長すぎます。CUPS で使えるのは %1 バイトまでです。</translation>
+        <source>The name holds a control character, such as a tab or a line break. Type it without.</source>
+        <translation>名前にタブや改行などの制御文字が含まれています。制御文字を除いて入力してください。</translation>
     </message>
     <message>
-        <source>A preset&apos;s name may have letters, digits and signs, but no space and none of / \ ? &apos; &quot; #.</source>
-        <translation>名前には文字、数字、記号を使えますが、空白と / \ ? &apos; &quot; # は使えません。</translation>
-    </message>
-    <message>
-        <source>%1 Try &quot;%2&quot;.</source>
-        <translation>%1「%2」ではどうでしょうか。</translation>
+        <source>The name is too long: it takes %1 bytes to store, and CUPS allows %2. Choose a shorter one.</source>
+        <translation>名前が長すぎます。保存には %1 バイト必要ですが、CUPS で使えるのは %2 バイトまでです。もっと短い名前にしてください。</translation>
     </message>
 </context>
 <context>
@@ -1813,6 +1809,10 @@ Examples:
     <message>
         <source>The preset &quot;%1&quot; is not saved: with %2 options it is longer than the %3 bytes that CUPS reads. Save the settings instead.</source>
         <translation>プリセット「%1」は保存されません。オプションが %2 個あり、CUPS が読み取れる %3 バイトを超えています。代わりに設定を保存してください。</translation>
+    </message>
+    <message>
+        <source>The preset &quot;%1&quot; keeps its name: with the new one it is longer than the %2 bytes that CUPS reads. Choose a shorter one.</source>
+        <translation>プリセット「%1」の名前は変わりません。新しい名前では CUPS が読み取れる %2 バイトを超えます。もっと短い名前にしてください。</translation>
     </message>
 </context>
 <context>

@@ -330,6 +330,14 @@ void QueueCommandLineTest::printsAPresetAsLpDoes()
         QVERIFY2(job.options.contains(option), job.options.constData());
     QVERIFY(!job.options.contains("Gone"));
     QCOMPARE(job.copies.toInt(), 2);
+    // By the name that people know it by, too.
+    QVERIFY(cupsd_.run(u"lpoptions"_s,
+                       {u"-p"_s, u"photo/my%20own"_s, u"-o"_s, u"Red=6"_s, u"-o"_s, u"Gone=1"_s}));
+    for (const QString &name : {u"photo/My own"_s, u"photo/my%20own"_s}) {
+        const ProgramRun named = runProgram({u"--printer"_s, name, u"--batch"_s, samplePhoto});
+        QVERIFY2(named.err.contains("\"my own\""), named.err.constData());
+        QVERIFY(cupsd_.job(jobIn(named)).options.contains(" Red=6 "));
+    }
     const ProgramRun raw = runProgram({u"--printer"_s, u"raw/twice"_s, u"--batch"_s, samplePhoto});
     QCOMPARE(raw.err, QByteArray());
     QCOMPARE(cupsd_.job(jobIn(raw)).copies.toInt(), 2);

@@ -4,6 +4,7 @@
 #include "BuiltInPresets.h"
 #include "FileLock.h"
 #include "LpoptionsFile.h"
+#include "PresetName.h"
 #include "QueuePresets.h"
 #include "QueueSettings.h"
 
@@ -90,6 +91,12 @@ private Q_SLOTS:
     void othersStayByteForByte();
     void valuesComeBackAsCupsReadsThem();
     void aTakenOrLostNameIsRefused();
+    void namesAreMapped_data();
+    void namesAreMapped();
+    void mappedNamesDoNotCollide();
+    void lpoptionsKeepsItsNames();
+    void noPresetHasSuchAName_data();
+    void noPresetHasSuchAName();
     void systemPresetsAreReadOnly();
     void tooLongForCups();
     void twoDialogsLoseNothing();
@@ -164,11 +171,104 @@ void PresetStoreTest::aTakenOrLostNameIsRefused()
         QCOMPARE(store->rename(u"gone"_s, u"new"_s)->reason, SettingsFault::NotThere);
         QCOMPARE(store->update(u"gone"_s, {})->reason, SettingsFault::NotThere);
         QCOMPARE(store->remove(u"gone"_s)->reason, SettingsFault::NotThere);
-        QCOMPARE(store->add(u"a b"_s, {})->reason, SettingsFault::BadName);
         QVERIFY(!store->rename(u"warm"_s, u"Warm"_s)); // only its case
         QCOMPARE(namesOf(*store), (QStringList{u"cold"_s, u"Warm"_s}));
         QCOMPARE(store->presets()->constLast().options, (Options{{u"Red"_s, u"5"_s}}));
     }
+}
+
+void PresetStoreTest::namesAreMapped_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("instance");
+    const auto row = [](const char *what, const QString &name, const QString &instance) {
+        QTest::newRow(what) << name << instance;
+    };
+    row("as it is", u"10x15+Glänzend"_s, u"10x15+Glänzend"_s);
+    row("space", u"My preset"_s, u"My%20preset"_s);
+    row("slash", u"../10/15"_s, u"..%2F10%2F15"_s);
+    row("dots", u".."_s, u".."_s);
+    row("quotes and signs", u"it's \"#1\"? \\"_s, u"it%27s%20%22%231%22%3F%20%5C"_s);
+    row("per cent", u"50% and 100%"_s, u"50%%20and%20100%"_s);
+    row("looks mapped", u"a%20b%2fc%25"_s, u"a%2520b%252fc%25"_s);
+    row("looks mapped twice", u"a%2520b"_s, u"a%252520b"_s);
+    row("Hebrew", u"תמונה מבריקה"_s, u"תמונה%20מבריקה"_s);
+    row("Japanese space", u"光沢\u3000厚い"_s, u"光沢\u3000厚い"_s);
+    row("emoji of several parts", u"👨\u200d👩\u200d👧 ☀\ufe0f"_s, u"👨\u200d👩\u200d👧%20☀\ufe0f"_s);
+}
+
+// CUPS finds the preset by its instance, people by its name and by both in "queue/preset".
+void PresetStoreTest::namesAreMapped()
+{
+    QFETCH(QString, name);
+    QFETCH(QString, instance);
+    const Options red{{u"Red"_s, u"5"_s}};
+    QueuePresets store(u"photo"_s);
+    QCOMPARE(PresetName::cleaned(name), name);
+    QVERIFY(!store.add(u"first"_s, red) && !store.rename(u"first"_s, name));
+    QCOMPARE(readByCups(QueuePresets::userFile(), u"photo/%1"_s.arg(instance).toUtf8()), red);
+    QCOMPARE(namesOf(store), QStringList{name});
+    for (const QString &typed : {name, instance})
+        QCOMPARE(PresetStore::destination(u"photo/"_s + typed), u"photo/"_s + instance);
+    QVERIFY(!store.update(name, {}) && !store.remove(name));
+    QCOMPARE(content(QueuePresets::userFile()), QByteArray());
+    QVERIFY(!store.add(name, red));
+    QCOMPARE(content(QueuePresets::userFile()), u"Dest photo/%1 Red=5\n"_s.arg(instance).toUtf8());
+    BuiltInPresets builtIn;
+    QVERIFY(!builtIn.add(name, red));
+    QCOMPARE(namesOf(builtIn), QStringList{name});
+}
+
+void PresetStoreTest::mappedNamesDoNotCollide()
+{
+    QueuePresets store(u"photo"_s);
+    const QStringList names = {u"a b"_s, u"a%20b"_s, u"a%2520b"_s, u"a+b"_s, u"a-b"_s, u"a_b"_s, u"ab"_s};
+    for (const QString &name : names)
+        QVERIFY2(!store.add(name, {{u"Red"_s, QString::number(names.indexOf(name))}}), qPrintable(name));
+    QCOMPARE(store.add(u"A B"_s, {})->reason, SettingsFault::NameTaken);
+    QVERIFY(!store.remove(u"A%20B"_s));
+    QCOMPARE(namesOf(store).size(), names.size() - 1);
+    QCOMPARE(store.presets()->constFirst().options.value(u"Red"_s), u"0"_s);
+    // As CUPS reads it, the instance goes first.
+    QCOMPARE(PresetStore::destination(u"photo/a%20b"_s), u"photo/a%20b"_s);
+}
+
+void PresetStoreTest::lpoptionsKeepsItsNames()
+{
+    write(QueuePresets::userFile(), "Dest photo/it's Red=1\nDest photo/IT%27S Red=2\nDest photo/50%25 Red=3\n"
+                                    "Dest photo/a%2fb Red=4\n");
+    QueuePresets store(u"photo"_s);
+    QCOMPARE(namesOf(store), (QStringList{u"50%25"_s, u"a/b"_s, u"IT%27S"_s, u"it's"_s}));
+    QCOMPARE(store.add(u"It's"_s, {})->reason, SettingsFault::NameTaken);
+    QCOMPARE(store.add(u"A/B"_s, {})->reason, SettingsFault::NameTaken);
+    QVERIFY(!store.update(u"it's"_s, {{u"Red"_s, u"5"_s}}) && !store.remove(u"it%27s"_s));
+    QVERIFY(!store.remove(u"a/b"_s));
+    QCOMPARE(content(QueuePresets::userFile()), "Dest photo/it's Red=5\nDest photo/50%25 Red=3\n");
+}
+
+void PresetStoreTest::noPresetHasSuchAName_data()
+{
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<QString>("reason");
+    QTest::newRow("nothing") << u" \n "_s << u"needs a name"_s;
+    QTest::newRow("tab") << u"a\tb"_s << u"control character"_s;
+    QTest::newRow("line break") << u"a\nDest photo"_s << u"control character"_s;
+    QTest::newRow("escape") << u"\x1b[31m"_s << u"control character"_s;
+    QTest::newRow("too long when mapped") << QString(43, u'/') << u"129 bytes"_s;
+    QTest::newRow("too long in UTF-8") << QString(43, u'光') << u"129 bytes"_s;
+}
+
+void PresetStoreTest::noPresetHasSuchAName()
+{
+    QFETCH(QString, typed);
+    QFETCH(QString, reason);
+    const QString name = PresetName::cleaned(typed);
+    const auto failure = QueuePresets(u"photo"_s).add(name, {});
+    QVERIFY2(failure && failure->reason == SettingsFault::BadName && failure->text.contains(reason),
+             failure ? qPrintable(failure->text) : "taken");
+    QCOMPARE(BuiltInPresets().add(name, {})->text, failure->text);
+    if (reason.endsWith("bytes"_L1)) // 126 are not too many
+        QVERIFY(!QueuePresets(u"photo"_s).add(name.first(42), {}));
 }
 
 void PresetStoreTest::systemPresetsAreReadOnly()
@@ -191,6 +291,12 @@ void PresetStoreTest::tooLongForCups()
     QueuePresets store(u"photo"_s);
     QCOMPARE(store.add(u"long"_s, options)->reason, SettingsFault::TooLong);
     QCOMPARE(content(QueuePresets::userFile()), QByteArray());
+    // A name that is longer once mapped makes the line too long, too.
+    const QByteArray full = "Dest photo/x Red=" + QByteArray(LpoptionsFile::longestLine - 20, 'x') + '\n';
+    write(QueuePresets::userFile(), full);
+    QCOMPARE(store.rename(u"x"_s, u"/////"_s)->reason, SettingsFault::TooLong);
+    QCOMPARE(content(QueuePresets::userFile()), full);
+    QVERIFY(!store.rename(u"x"_s, u"/"_s));
 }
 
 void PresetStoreTest::twoDialogsLoseNothing()
