@@ -58,16 +58,15 @@ int BatchRun::run()
     for (const QString &dropped : options->dropped)
         console_.complain(dropped);
 
-    const SummaryEntries summary = session.summary();
     if (commandLine_.summary)
-        console_.writeLines(summaryLines(summary));
+        console_.writeLines(summaryLines(jobSummary(session, requested->copies, {commandLine_.placement})));
     PrintJob job;
     job.printer = session.printer().name;
     job.page = {page->points, page->imageable};
     job.placement = commandLine_.placement;
     job.options = options->options;
     job.copies = requested->copies;
-    job.summary = summaryOf(summary);
+    job.summary = summaryOf(session.summary());
     job.checksPhoto = commandLine_.checks;
     const PrinterDescription &printer = session.printer();
     job.queue = printer.hasPpd ? QueueTerms::ofPpd(ppd) : QueueTerms::withoutPpd();

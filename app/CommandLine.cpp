@@ -88,8 +88,9 @@ constexpr std::array optionRows = {
     OptionRow{"list-options", nullptr,
               QT_TRANSLATE_NOOP("CommandLine", "list the printer's options with their choices and panels")},
     OptionRow{"summary", nullptr,
-              QT_TRANSLATE_NOOP("CommandLine", "show what the panels say about the choices; with --batch\n"
-                                               "as well as printing")},
+              QT_TRANSLATE_NOOP("CommandLine",
+                                "show the job in words: the paper, the copies, the placement and\n"
+                                "what the panels say; with --batch as well as printing")},
     OptionRow{"json", nullptr, QT_TRANSLATE_NOOP("CommandLine", "lists, summary and --dry-run as JSON")},
     OptionRow{"screenshot", "DIR",
               QT_TRANSLATE_NOOP("CommandLine", "save a picture of the dialog with each panel in DIR, exit")},

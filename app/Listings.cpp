@@ -90,17 +90,17 @@ int fail(Console &console, const QString &sentence)
     return exitFailed;
 }
 
-/// Null when there is none; the user has been told why.
-std::unique_ptr<DialogSession> openSession(const CommandLine &commandLine, Console &console)
+/// Nothing when there is none; the user has been told why.
+std::optional<RequestedJob> openJob(const CommandLine &commandLine, Console &console)
 {
     auto requested = openRequestedJob(commandLine);
     if (!requested) {
         console.complain(requested.failure().text);
-        return nullptr;
+        return std::nullopt;
     }
     for (const QString &sentence : std::as_const(requested->leftOut))
         console.complain(sentence);
-    return std::move(requested->session);
+    return *std::move(requested);
 }
 
 } // namespace
@@ -123,10 +123,10 @@ int listPrinters(const CommandLine &commandLine, Console &console)
 
 int listOptions(const CommandLine &commandLine, Console &console)
 {
-    const auto opened = openSession(commandLine, console);
+    const auto opened = openJob(commandLine, console);
     if (!opened)
         return exitFailed;
-    DialogSession &session = *opened;
+    DialogSession &session = *opened->session;
     // The panels keep their choices to themselves until they are saved. Without any choice of the command
     // line a printer whose own defaults are in conflict is shown all the same.
     const auto job = session.jobOptions();
@@ -142,13 +142,13 @@ int listOptions(const CommandLine &commandLine, Console &console)
 
 int showSummary(const CommandLine &commandLine, Console &console)
 {
-    const auto opened = openSession(commandLine, console);
+    const auto opened = openJob(commandLine, console);
     if (!opened)
         return exitFailed;
-    DialogSession &session = *opened;
+    DialogSession &session = *opened->session;
     if (const auto job = session.jobOptions(); !job)
         return fail(console, job.failure().text);
-    const SummaryEntries entries = session.summary();
+    const SummaryEntries entries = jobSummary(session, opened->copies, {commandLine.placement});
     if (!commandLine.json) {
         console.writeLines(summaryLines(entries));
         return exitDone;

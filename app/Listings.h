@@ -25,7 +25,7 @@ int listPrinters(const CommandLine &commandLine, Console &console);
 /// null) and "choices" (objects with "keyword" and "text").
 int listOptions(const CommandLine &commandLine, Console &console);
 
-/// What the panels say about the choices of the command line. JSON: an object of label to text.
+/// The job of the command line in words: see jobSummary. JSON: an object of label to text.
 int showSummary(const CommandLine &commandLine, Console &console);
 
 } // namespace printdialog

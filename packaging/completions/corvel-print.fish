@@ -42,7 +42,7 @@ complete -c corvel-print -l wait -x -d 'How long --batch follows its jobs at mos
 complete -c corvel-print -l server -x -a '(__fish_print_hostnames)' -d 'The print server to ask'
 complete -c corvel-print -l list-printers -d 'List the printers'
 complete -c corvel-print -l list-options -d 'List the options with their choices and panels'
-complete -c corvel-print -l summary -d 'Show what the panels say about the choices'
+complete -c corvel-print -l summary -d 'Show the job in words'
 complete -c corvel-print -l json -d 'Lists, summary and --dry-run as JSON'
 complete -c corvel-print -l screenshot -x -a '(__fish_complete_directories)' -d 'Save a picture of the dialog with each panel'
 complete -c corvel-print -s h -l help -d 'Show the help'

@@ -51,6 +51,7 @@ std::optional<Failure<PluginFault>> DialogSession::loadPanels()
     if (!panels)
         return panels.failure();
     panels_ = *std::move(panels);
+    bundle_ = plugin->bundle;
     for (const pdekit::PanelPointer &panel : panels_) {
         panel->restoreValuesAndReturnError(nullptr);
         const QStringList keys = panel->supportedPPDOptionKeys();
@@ -188,9 +189,18 @@ QList<QPair<QString, QString>> DialogSession::summary()
 {
     QList<QPair<QString, QString>> entries;
     for (const pdekit::PanelPointer &panel : panels_) {
-        const auto info = panel->summaryInfo();
+        auto info = panel->summaryInfo();
         if (!info)
             continue;
+        // They come by name, so that another language would have another order.
+        const QStringList keys = panel->supportedPPDOptionKeys();
+        for (const QString &key : keys) {
+            const auto entry = info->constFind(bundle_->localizedString(key));
+            if (entry == info->cend())
+                continue;
+            entries.append({entry.key(), entry.value()});
+            info->erase(entry);
+        }
         for (auto entry = info->cbegin(); entry != info->cend(); ++entry)
             entries.append({entry.key(), entry.value()});
     }

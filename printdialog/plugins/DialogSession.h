@@ -78,7 +78,7 @@ public:
     /// The job's choice of an option: what is recorded for it, else what is marked in the PPD.
     std::optional<QString> chosen(const QString &key) const;
 
-    /// The panels' entries, in the panels' order.
+    /// The panels' entries, label and text: by panel, and each panel's in the order of its options.
     QList<QPair<QString, QString>> summary();
 
     /// Ends what is being typed, saves the panels, and checks what they and the user have chosen against the
@@ -116,10 +116,11 @@ private:
     SessionTicket ticket_;
     SessionPrinter sessionPrinter_;
     pdekit::HostInfo callback_;
-    pdekit::PanelList panels_;        ///< after what they are made from, so that they go first
-    QStringList directKeys_;          ///< options chosen that no panel supports
-    QStringList chosenKeys_;          ///< the last one first
-    QMap<QString, QString> together_; ///< being made together, so not weighed one by one
+    std::optional<pdekit::Bundle> bundle_; ///< of the panels
+    pdekit::PanelList panels_;             ///< after what they are made from, so that they go first
+    QStringList directKeys_;               ///< options chosen that no panel supports
+    QStringList chosenKeys_;               ///< the last one first
+    QMap<QString, QString> together_;      ///< being made together, so not weighed one by one
     Ruling lastRuling_;
     Ruling jobRefusal_;
     QHash<QString, QString> knownMarks_; ///< what the panels know to be marked

@@ -73,6 +73,7 @@ ChoiceController::ChoiceController(const ChoiceWidgets &widgets, QObject *parent
     connect(widgets.undo, &QToolButton::clicked, history_, &ChoiceHistory::undo);
     connect(widgets.redo, &QToolButton::clicked, history_, &ChoiceHistory::redo);
     connect(history_, &ChoiceHistory::changed, this, &ChoiceController::updateHistory);
+    connect(history_, &ChoiceHistory::changed, this, &ChoiceController::stepsChanged);
     makePresetActions();
     updateHistory();
 }

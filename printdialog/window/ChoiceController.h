@@ -69,6 +69,10 @@ public:
     /// What is being explained beside a control; empty when nothing is.
     QString explanation() const;
 
+Q_SIGNALS:
+    /// A step was made, taken back or made again, or the steps start anew.
+    void stepsChanged();
+
 private:
     // Refusals
     void explain(const Ruling &ruling, QWidget *control);

@@ -98,7 +98,13 @@ void PanelTabs::showPage(int index)
     if (index >= 0 && index < pages_.size())
         fillPage(pages_[index]);
     else
-        summary_->setEntries(session_->summary());
+        updateSummary();
+}
+
+void PanelTabs::updateSummary()
+{
+    if (session_ && entries_ && currentWidget() == summary_)
+        summary_->setEntries(entries_());
 }
 
 // Each panel is told once for each opening of the dialog that it is about to be shown: one that moves its

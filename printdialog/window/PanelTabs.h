@@ -3,7 +3,11 @@
 
 #pragma once
 
+#include "JobSummary.h"
+
 #include <QtWidgets/QTabWidget>
+
+#include <functional>
 
 namespace pdekit {
 class PrintDialogPanel;
@@ -23,8 +27,12 @@ class PanelTabs : public QTabWidget
 public:
     explicit PanelTabs(QWidget *parent = nullptr);
 
+    /// What the summary shows, asked for whenever it does.
+    void setSummary(const std::function<SummaryEntries()> &summary) { entries_ = summary; }
     /// Shows the session, which must outlive this or the next call; null shows nothing.
     void setSession(DialogSession *session);
+    /// Something that the summary shows may have changed.
+    void updateSummary();
     /// The panel whose page is shown; null for the summary.
     pdekit::PrintDialogPanel *currentPanel() const;
     /// The last component of the kind of the panel on the page, such as "coloradjust"; empty for the summary.
@@ -51,6 +59,7 @@ private:
     DialogSession *session_ = nullptr;
     QList<Page> pages_;
     SummaryPage *summary_;
+    std::function<SummaryEntries()> entries_;
 };
 
 } // namespace printdialog

@@ -28,11 +28,10 @@ PlacementBar::PlacementBar(QWidget *parent)
     scaling_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     scaling_->setObjectName(QStringLiteral("scaling"));
     scaling_->setAccessibleName(tr("Placement of the photo"));
-    scaling_->addItem(tr("Fit on the page"), static_cast<int>(Scaling::Fit));
-    scaling_->addItem(tr("Fill the page"), static_cast<int>(Scaling::Fill));
-    scaling_->addItem(tr("Actual size"), static_cast<int>(Scaling::ActualSize));
     scaling_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     scaling_->setMinimumContentsLength(shortestScaling);
+    for (const Scaling scaling : {Scaling::Fit, Scaling::Fill, Scaling::ActualSize})
+        scaling_->addItem(textOf(scaling), static_cast<int>(scaling));
     turn_->setObjectName(QStringLiteral("turn"));
     turn_->setAutoDefault(false);
     turn_->setToolTip(tr("Turn the photo on the page by a quarter, clockwise"));
@@ -51,6 +50,19 @@ PlacementBar::PlacementBar(QWidget *parent)
         choice_.turns = (choice_.turns + 1) % 4;
         Q_EMIT placementChanged(choice_);
     });
+}
+
+QString PlacementBar::textOf(Scaling scaling)
+{
+    switch (scaling) {
+    case Scaling::Fit:
+        return tr("Fit on the page");
+    case Scaling::Fill:
+        return tr("Fill the page");
+    case Scaling::ActualSize:
+        break;
+    }
+    return tr("Actual size");
 }
 
 void PlacementBar::setPlacement(const PlacementChoice &choice)

@@ -20,6 +20,9 @@ class PlacementBar : public QWidget
 public:
     explicit PlacementBar(QWidget *parent = nullptr);
 
+    /// What people call it.
+    static QString textOf(Scaling scaling);
+
     /// Shows the choice; nothing is announced.
     void setPlacement(const PlacementChoice &choice);
 

@@ -84,6 +84,10 @@ PrintDialog::PrintDialog(const PrintDialogSetup &setup, QWidget *parent)
     connect(ui_->progress, &PrintProgress::stopped, worker_, &PrintWorker::cancel);
     connect(ui_->printer, &PrinterChooser::currentUpdated, this, &PrintDialog::takeUpdate);
     connect(new TouchWatch(this), &TouchWatch::touched, ui_->printer, &PrinterChooser::keepCurrent);
+    ui_->panels->setSummary([this] { return summary(); });
+    connect(choices_, &ChoiceController::stepsChanged, ui_->panels, &PanelTabs::updateSummary);
+    connect(ui_->photos, &PhotoPane::placementChanged, ui_->panels, &PanelTabs::updateSummary);
+    connect(ui_->photos, &PhotoPane::photosChanged, ui_->panels, &PanelTabs::updateSummary);
     connect(ui_->photos, &PhotoPane::photosChanged, this, &PrintDialog::showPhoto);
     connect(ui_->photos, &PhotoPane::failed, this,
             [this](const QString &text) { ui_->message->show(MessageBar::Kind::Error, text); });
@@ -148,6 +152,14 @@ QString PrintDialog::pageKindSuffix(int page) const
 bool PrintDialog::isPreviewReady() const
 {
     return ui_->photos->isReady();
+}
+
+SummaryEntries PrintDialog::summary() const
+{
+    QList<PlacementChoice> placements;
+    for (const PlacedPhoto &placed : ui_->photos->photos())
+        placements.append(placed.placement);
+    return jobSummary(*session_, ui_->copies->value(), placements);
 }
 
 void PrintDialog::showPhoto()

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "JobSummary.h"
 #include "Photo.h"
 #include "PhotoPlacement.h"
 #include "PrinterDescription.h"
@@ -115,6 +116,7 @@ private:
     std::optional<PrintJob> makeJob(QStringList &remarks);
     void updateButtons();
 
+    SummaryEntries summary() const;
     void showPhoto();
     void browseFolder();
     void showHelp();

@@ -20,11 +20,15 @@ SummaryPage::SummaryPage(QWidget *parent)
     header()->setSectionsMovable(false);
 }
 
-void SummaryPage::setEntries(const QList<QPair<QString, QString>> &entries)
+void SummaryPage::setEntries(const SummaryEntries &entries)
 {
-    clear();
-    for (const auto &[option, choice] : entries)
-        new QTreeWidgetItem(this, {option, choice});
+    while (topLevelItemCount() > entries.size())
+        delete takeTopLevelItem(topLevelItemCount() - 1);
+    for (int i = 0; i < entries.size(); ++i) {
+        QTreeWidgetItem *item = i < topLevelItemCount() ? topLevelItem(i) : new QTreeWidgetItem(this);
+        item->setText(0, entries.at(i).first);
+        item->setText(1, entries.at(i).second);
+    }
     resizeColumnToContents(0);
 }
 

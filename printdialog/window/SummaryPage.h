@@ -3,13 +3,13 @@
 
 #pragma once
 
-#include <QtCore/QList>
-#include <QtCore/QPair>
+#include "JobSummary.h"
+
 #include <QtWidgets/QTreeWidget>
 
 namespace printdialog {
 
-/// The job in words: a line for each entry of the panels' summaries.
+/// The job in words: a line for each entry.
 class SummaryPage : public QTreeWidget
 {
     Q_OBJECT
@@ -17,7 +17,8 @@ class SummaryPage : public QTreeWidget
 public:
     explicit SummaryPage(QWidget *parent = nullptr);
 
-    void setEntries(const QList<QPair<QString, QString>> &entries);
+    /// Shows them. The line that the user is at stays.
+    void setEntries(const SummaryEntries &entries);
 };
 
 } // namespace printdialog

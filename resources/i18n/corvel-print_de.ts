@@ -103,10 +103,10 @@ gespeichert wurde, gilt nicht, damit Skripte stets Gleiches tun</translation>
         <translation>die Optionen des Druckers mit Auswahl und Seiten auflisten</translation>
     </message>
     <message>
-        <source>show what the panels say about the choices; with --batch
-as well as printing</source>
-        <translation>zeigen, was die Seiten zur Auswahl sagen; mit --batch
-zusätzlich zum Drucken</translation>
+        <source>show the job in words: the paper, the copies, the placement and
+what the panels say; with --batch as well as printing</source>
+        <translation>den Auftrag in Worten zeigen: Papier, Exemplare, Platzierung und
+was die Seiten sagen; mit --batch zusätzlich zum Drucken</translation>
     </message>
     <message>
         <source>save a picture of the dialog with each panel in DIR, exit</source>
@@ -436,6 +436,29 @@ Beispiele:
     <message>
         <source>it is empty</source>
         <translation>sie ist leer</translation>
+    </message>
+</context>
+<context>
+    <name>JobSummary</name>
+    <message>
+        <source>Differs by photo</source>
+        <translation>Je nach Foto verschieden</translation>
+    </message>
+    <message>
+        <source>%1, turned by %2°</source>
+        <translation>%1, um %2° gedreht</translation>
+    </message>
+    <message>
+        <source>Paper size</source>
+        <translation>Papierformat</translation>
+    </message>
+    <message>
+        <source>Copies</source>
+        <translation>Exemplare</translation>
+    </message>
+    <message>
+        <source>Placement</source>
+        <translation>Platzierung</translation>
     </message>
 </context>
 <context>

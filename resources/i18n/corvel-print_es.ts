@@ -102,10 +102,10 @@ guardado en la ventana, para que un guion dé siempre lo mismo</translation>
         <translation>listar las opciones de la impresora con sus valores y paneles</translation>
     </message>
     <message>
-        <source>show what the panels say about the choices; with --batch
-as well as printing</source>
-        <translation>mostrar lo que los paneles dicen de los valores; con --batch,
-además de imprimir</translation>
+        <source>show the job in words: the paper, the copies, the placement and
+what the panels say; with --batch as well as printing</source>
+        <translation>mostrar el trabajo en palabras: papel, copias, colocación y lo que
+dicen los paneles; con --batch, además de imprimir</translation>
     </message>
     <message>
         <source>save a picture of the dialog with each panel in DIR, exit</source>
@@ -434,6 +434,29 @@ Ejemplos:
     <message>
         <source>it is empty</source>
         <translation>está vacío</translation>
+    </message>
+</context>
+<context>
+    <name>JobSummary</name>
+    <message>
+        <source>Differs by photo</source>
+        <translation>Difiere según la foto</translation>
+    </message>
+    <message>
+        <source>%1, turned by %2°</source>
+        <translation>%1, girada %2°</translation>
+    </message>
+    <message>
+        <source>Paper size</source>
+        <translation>Tamaño de papel</translation>
+    </message>
+    <message>
+        <source>Copies</source>
+        <translation>Copias</translation>
+    </message>
+    <message>
+        <source>Placement</source>
+        <translation>Colocación</translation>
     </message>
 </context>
 <context>

@@ -102,10 +102,10 @@ fenêtre a enregistré ne compte pas&#x202f;: un script est reproductible</trans
         <translation>lister les options de l’imprimante, leurs choix et leurs onglets</translation>
     </message>
     <message>
-        <source>show what the panels say about the choices; with --batch
-as well as printing</source>
-        <translation>afficher ce que les onglets disent des choix&#x202f;; avec --batch,
-en plus de l’impression</translation>
+        <source>show the job in words: the paper, the copies, the placement and
+what the panels say; with --batch as well as printing</source>
+        <translation>afficher la tâche en clair&#x202f;: papier, copies, placement et ce que
+disent les onglets&#x202f;; avec --batch, en plus de l’impression</translation>
     </message>
     <message>
         <source>save a picture of the dialog with each panel in DIR, exit</source>
@@ -435,6 +435,29 @@ Exemples&#x202f;:
     <message>
         <source>it is empty</source>
         <translation>il est vide</translation>
+    </message>
+</context>
+<context>
+    <name>JobSummary</name>
+    <message>
+        <source>Differs by photo</source>
+        <translation>Diffère selon la photo</translation>
+    </message>
+    <message>
+        <source>%1, turned by %2°</source>
+        <translation>%1, tournée de %2°</translation>
+    </message>
+    <message>
+        <source>Paper size</source>
+        <translation>Format du papier</translation>
+    </message>
+    <message>
+        <source>Copies</source>
+        <translation>Copies</translation>
+    </message>
+    <message>
+        <source>Placement</source>
+        <translation>Placement</translation>
     </message>
 </context>
 <context>

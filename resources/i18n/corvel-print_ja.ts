@@ -102,9 +102,9 @@ saved is not used, so that a script gets the same each time</source>
         <translation>プリンターのオプションを、選択肢と画面とともに表示する</translation>
     </message>
     <message>
-        <source>show what the panels say about the choices; with --batch
-as well as printing</source>
-        <translation>選択した内容を画面の言葉で表示する。
+        <source>show the job in words: the paper, the copies, the placement and
+what the panels say; with --batch as well as printing</source>
+        <translation>ジョブを言葉で表示する（用紙、部数、配置、各画面の内容）。
 --batch と併用すると印刷もする</translation>
     </message>
     <message>
@@ -433,6 +433,29 @@ Examples:
     <message>
         <source>it is empty</source>
         <translation>空です</translation>
+    </message>
+</context>
+<context>
+    <name>JobSummary</name>
+    <message>
+        <source>Differs by photo</source>
+        <translation>写真によって異なります</translation>
+    </message>
+    <message>
+        <source>%1, turned by %2°</source>
+        <translation>%1、%2° 回転</translation>
+    </message>
+    <message>
+        <source>Paper size</source>
+        <translation>用紙サイズ</translation>
+    </message>
+    <message>
+        <source>Copies</source>
+        <translation>部数</translation>
+    </message>
+    <message>
+        <source>Placement</source>
+        <translation>配置</translation>
     </message>
 </context>
 <context>

@@ -104,6 +104,7 @@ void CommandLineTest::printsThePhotoWithItsTicket()
     const QString ticket = pathOf(u"out/sample.ticket.json"_s);
     QCOMPARE(ticketEntries(ticket), expected);
     QCOMPARE(ticketEntries(ticket, u"summary"_s).value(u"Red"_s), u"12"_s);
+    QCOMPARE(ticketEntries(ticket, u"summary"_s).size(), expected.size() - 1); // what the panels say
     const QJsonDocument json = QJsonDocument::fromJson(contentOf(ticket));
     QCOMPARE(json[u"printer"].toString(), u"built-in"_s);
     QCOMPARE(json[u"document"].toString(), samplePhoto);
@@ -246,9 +247,15 @@ void CommandLineTest::listsTheBuiltInPrinter()
 void CommandLineTest::showsTheSummary()
 {
     const QStringList choice{u"-o"_s, u"Red=7"_s};
-    QVERIFY(runProgram(choice + QStringList{u"--summary"_s}).out.contains("\nRed: 7\n"));
-    const ProgramRun json = runProgram(choice + QStringList{u"--summary"_s, u"--json"_s});
+    const QStringList fill{u"--scaling"_s, u"fill"_s, u"--summary"_s};
+    const QByteArray summary = runProgram(choice + fill).out;
+    QVERIFY2(summary.startsWith("Paper size: 4 x 6 in, borderless\nCopies: 1\nPlacement: Fill the page\n"
+                                "Brightness: 0\n") &&
+                 summary.contains("\nRed: 7\n"),
+             summary.constData());
+    const ProgramRun json = runProgram(choice + fill + QStringList{u"--json"_s});
     QCOMPARE(json.json()[u"Red"].toString(), u"7"_s);
+    QCOMPARE(json.json()[u"Copies"].toString(), u"1"_s);
     QVERIFY(print(choice + QStringList{u"--summary"_s, samplePhoto}).out.contains("\nRed: 7\n"));
 }
 

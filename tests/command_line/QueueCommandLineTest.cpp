@@ -330,6 +330,9 @@ void QueueCommandLineTest::printsAPresetAsLpDoes()
         QVERIFY2(job.options.contains(option), job.options.constData());
     QVERIFY(!job.options.contains("Gone"));
     QCOMPARE(job.copies.toInt(), 2);
+    const ProgramRun summary = runProgram({u"--printer"_s, u"photo/warm"_s, u"--summary"_s});
+    QVERIFY2(summary.out.contains("\nCopies: 2\n") && summary.out.contains("\nRed: 5\n"),
+             summary.out.constData());
     // By the name that people know it by, too.
     QVERIFY(cupsd_.run(u"lpoptions"_s,
                        {u"-p"_s, u"photo/my%20own"_s, u"-o"_s, u"Red=6"_s, u"-o"_s, u"Gone=1"_s}));

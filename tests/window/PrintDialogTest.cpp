@@ -18,6 +18,7 @@
 #include <QtWidgets/QSlider>
 #include <QtWidgets/QSpinBox>
 #include <QtWidgets/QTextBrowser>
+#include <QtWidgets/QTreeWidget>
 
 #include <algorithm>
 
@@ -26,6 +27,20 @@ using namespace testing_support;
 using namespace Qt::StringLiterals;
 
 Q_DECLARE_METATYPE(PanelMode)
+
+namespace {
+
+/// "label: text", line by line, of the summary that is shown.
+QStringList summaryOf(const OpenedDialog &opened)
+{
+    const auto *page = opened.dialog->findChild<QTreeWidget *>();
+    QStringList lines;
+    for (int i = 0; page->isVisible() && i < page->topLevelItemCount(); ++i)
+        lines += page->topLevelItem(i)->text(0) + u": "_s + page->topLevelItem(i)->text(1);
+    return lines;
+}
+
+} // namespace
 
 /// The dialog with the plug-in from its bundle and the built-in printer, driven as a user drives it.
 class PrintDialogTest : public QObject
@@ -42,6 +57,8 @@ private Q_SLOTS:
     void openingOptionsAreShown();
     void photosThatCannotBeOpenedAreNamed();
     void pageSize();
+    void summaryFollowsTheJob();
+    void summaryOfSeveralPhotos();
     void help();
     void tabOrderAndNames();
     void wholeFlowByKeyboard();
@@ -187,6 +204,66 @@ void PrintDialogTest::pageSize()
 }
 
 // The panel's own; the dialog's own on the page that is the dialog's, and where the panel's cannot be opened.
+// By page, each page in the order of its panel. What is not on a page comes first, and changes while it is
+// being looked at.
+void PrintDialogTest::summaryFollowsTheJob()
+{
+    QFETCH_GLOBAL(PanelMode, mode);
+    const OpenedDialog opened(mode);
+    opened.type(81, u"-12"_s);
+    opened.dialog->showPage(3);
+    QStringList expected = {u"Paper size: 4 x 6 in, borderless"_s,
+                            u"Copies: 1"_s,
+                            u"Placement: Fit on the page"_s,
+                            u"Brightness: 0"_s,
+                            u"Contrast: 0"_s,
+                            u"Saturation: 0"_s,
+                            u"Gamma: 0"_s,
+                            u"Red: -12"_s,
+                            u"Green: 0"_s,
+                            u"Blue: 0"_s,
+                            u"Adjust colors: On"_s,
+                            u"Sharpen photo: On"_s,
+                            u"Sharpness Intensity: 1.00"_s,
+                            u"Sharpness Radius: 1"_s,
+                            u"Surface Finish: Glossy"_s,
+                            u"Print Quality: Standard"_s,
+                            u"Use settings from printer panel: Off"_s,
+                            u"Matte Level: 0"_s};
+    QCOMPARE(summaryOf(opened), expected);
+
+    QTest::keyClick(opened.find<QSpinBox>(u"copies"_s), Qt::Key_Up);
+    expected[1] = u"Copies: 2"_s;
+    QCOMPARE(summaryOf(opened), expected);
+    opened.click(u"turn"_s);
+    QTest::keyClick(opened.find<QComboBox>(u"scaling"_s), Qt::Key_Down);
+    expected[2] = u"Placement: Fill the page, turned by 90°"_s;
+    QCOMPARE(summaryOf(opened), expected);
+    auto *sizes = opened.find<QComboBox>(u"pageSize"_s);
+    QTest::keyClick(sizes, Qt::Key_End);
+    QVERIFY(summaryOf(opened).constFirst().endsWith(sizes->currentText()) && summaryOf(opened) != expected);
+    for (int i = 0; i < 3; ++i) // the page, the copies, Red
+        QTest::keyClick(opened.dialog.get(), Qt::Key_Z, Qt::ControlModifier);
+    expected[1] = u"Copies: 1"_s;
+    expected[7] = u"Red: 0"_s;
+    QCOMPARE(summaryOf(opened), expected);
+}
+
+void PrintDialogTest::summaryOfSeveralPhotos()
+{
+    PrintDialogSetup setup = setupFor(PanelMode::Constraint);
+    setup.photos.append(setup.photos.constFirst());
+    const OpenedDialog opened(setup);
+    opened.dialog->showPage(3);
+    QCOMPARE(summaryOf(opened).at(2), u"Placement: Fit on the page"_s);
+    opened.click(u"turn"_s);
+    QCOMPARE(summaryOf(opened).at(2), u"Placement: Differs by photo"_s);
+    opened.click(u"removePhoto"_s);
+    QCOMPARE(summaryOf(opened).at(2), u"Placement: Fit on the page"_s);
+    opened.click(u"removePhoto"_s);
+    QVERIFY(!summaryOf(opened).at(2).startsWith(u"Placement"_s));
+}
+
 void PrintDialogTest::help()
 {
     const OpenedDialog opened(PanelMode::Constraint);

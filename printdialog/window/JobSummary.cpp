@@ -1,0 +1,54 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "JobSummary.h"
+
+#include "DialogSession.h"
+#include "PlacementBar.h"
+
+#include <QtCore/QCoreApplication>
+#include <QtCore/QLocale>
+
+#include <algorithm>
+
+namespace printdialog {
+
+namespace {
+
+struct Text
+{
+    Q_DECLARE_TR_FUNCTIONS(JobSummary)
+};
+
+bool areAlike(const PlacementChoice &one, const PlacementChoice &other)
+{
+    return one.scaling == other.scaling && one.turns == other.turns;
+}
+
+QString placementText(const QList<PlacementChoice> &placements)
+{
+    const PlacementChoice &first = placements.constFirst();
+    const bool isOne = std::ranges::all_of(
+        placements, [&first](const PlacementChoice &each) { return areAlike(each, first); });
+    if (!isOne)
+        return Text::tr("Differs by photo");
+    const QString scaling = PlacementBar::textOf(first.scaling);
+    constexpr int quarter = 90;
+    return first.turns == 0 ? scaling : Text::tr("%1, turned by %2°").arg(scaling).arg(first.turns * quarter);
+}
+
+} // namespace
+
+SummaryEntries jobSummary(DialogSession &session, int copies, const QList<PlacementChoice> &placements)
+{
+    SummaryEntries entries;
+    if (const auto paper =
+            session.ppd().pageSize(session.chosen(QStringLiteral("PageSize")).value_or(QString())))
+        entries.append({Text::tr("Paper size"), paper->text});
+    entries.append({Text::tr("Copies"), QLocale().toString(copies)});
+    if (session.printer().hasPpd && !placements.isEmpty())
+        entries.append({Text::tr("Placement"), placementText(placements)});
+    return entries + session.summary();
+}
+
+} // namespace printdialog
