@@ -49,6 +49,11 @@ QString save(const QPixmap &picture, const QString &path)
 
 QString renderPages(PrintDialog &dialog, QApplication &application, const QDir &folder)
 {
+    // A page is made when it is first shown, and may be wider than those before: each picture has them all.
+    for (int page = 0; page < dialog.pageCount(); ++page) {
+        dialog.showPage(page);
+        application.processEvents();
+    }
     for (int page = 0; page < dialog.pageCount(); ++page) {
         dialog.showPage(page);
         application.processEvents();

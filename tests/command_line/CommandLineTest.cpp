@@ -279,6 +279,14 @@ void CommandLineTest::takesPicturesOfTheDialog()
     QVERIFY(picture(u"plain"_s, u"coloradjust"_s) != picture(u"plain"_s, u"summary"_s));
     QVERIFY(picture(u"plain"_s, u"coloradjust"_s) != picture(u"chosen"_s, u"coloradjust"_s));
     QVERIFY(picture(u"plain"_s, u"sharpness"_s) == picture(u"chosen"_s, u"sharpness"_s));
+    // A page that is wider than those before moves nothing in its picture.
+    runProgram({u"--ppd"_s, QStringLiteral(CORVEL_SIBLING_PPD), u"--screenshot"_s, pathOf(u"spanish"_s),
+                samplePhoto},
+               {{u"LANG"_s, u"es_ES.UTF-8"_s}, {u"LC_ALL"_s, {}}});
+    const auto photo = [&picture](const QString &page) {
+        return picture(u"spanish"_s, page).copy(0, 0, 300, 400);
+    };
+    QVERIFY(photo(u"coloradjust"_s) == photo(u"matte"_s));
 }
 
 void CommandLineTest::helpAndVersionGoToStandardOutput()
