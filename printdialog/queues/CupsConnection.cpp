@@ -3,17 +3,16 @@
 
 #include "CupsConnection.h"
 
-#include "PlainText.h"
+#include "IppInspection.h"
 
 #include <QtCore/QCoreApplication>
+#include <QtCore/QFile>
 #include <QtCore/QFileInfo>
 
 #include <algorithm>
 #include <array>
 #include <atomic>
-#include <cerrno>
 #include <csignal>
-#include <cstring>
 #include <mutex>
 #include <sys/socket.h>
 
@@ -26,8 +25,15 @@ namespace {
 constexpr auto cancelInterval = 100ms;
 /// A server on this machine accepts at once or not at all.
 constexpr auto loopbackLimit = 250ms;
-/// A name that is longer cannot be one of a queue (CUPS allows 127 bytes).
-constexpr qsizetype queueNameLimit = 127;
+/// How long a document is held back for a server that may want something else first.
+constexpr int continueLimit = 1000; // ms
+/// For what ends an answer after its last byte, and how much that may be.
+constexpr int restLimit = 100; // ms
+constexpr qint64 restBytesLimit = 65536;
+/// For an answer's head, and as much for its body's framing and encryption.
+constexpr qint64 overheadLimit = qint64(512) * 1024;
+/// A password is never asked for, so that more attempts bring nothing.
+constexpr int mostAttempts = 3;
 
 /// libcups sets SIGPIPE to be ignored when it is first used; a handler that somebody installed stays in
 /// force.
@@ -66,36 +72,51 @@ QueueFault faultOf(ipp_status_t status)
     }
 }
 
-QByteArray textOf(ipp_t *answer, const char *name)
+QueueFault faultOf(http_status_t status)
 {
-    ipp_attribute_t *attribute = ippFindAttribute(answer, name, IPP_TAG_ZERO);
-    const char *text = attribute ? ippGetString(attribute, 0, nullptr) : nullptr;
-    return text ? QByteArray(text) : QByteArray();
+    return status == HTTP_STATUS_UNAUTHORIZED || status == HTTP_STATUS_FORBIDDEN ? QueueFault::Refused
+                                                                                 : QueueFault::Failed;
+}
+
+/// The bytes of an answer on their way to libcups.
+struct InspectedBody
+{
+    http_t *http = nullptr;
+    IppInspection inspection;
+    bool isUnfit = false;
+};
+
+ssize_t readInspected(void *context, ipp_uchar_t *buffer, size_t size)
+{
+    auto *body = static_cast<InspectedBody *>(context);
+    size_t done = 0;
+    while (done < size) {
+        const ssize_t count = httpRead2(body->http, reinterpret_cast<char *>(buffer) + done, size - done);
+        if (count <= 0)
+            return -1;
+        done += static_cast<size_t>(count);
+    }
+    body->isUnfit = !body->inspection.admits(buffer, size);
+    return body->isUnfit ? -1 : static_cast<ssize_t>(size);
+}
+
+double seconds(std::chrono::milliseconds time)
+{
+    return std::chrono::duration<double>(time).count();
+}
+
+QString unfitReason()
+{
+    return QCoreApplication::translate("CupsConnection", "its answer is too large or malformed");
 }
 
 } // namespace
 
-IppPointer ippRequest(ipp_op_t operation, const QByteArray &uri)
-{
-    IppPointer request(ippNewRequest(operation));
-    ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_URI, "printer-uri", nullptr, uri.constData());
-    ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "requesting-user-name", nullptr, cupsUser());
-    return request;
-}
-
-QStringList textsOf(ipp_t *answer, const char *attribute)
-{
-    QStringList texts;
-    ipp_attribute_t *found = ippFindAttribute(answer, attribute, IPP_TAG_ZERO);
-    for (int i = 0; found && i < ippGetCount(found); ++i) {
-        if (const char *text = ippGetString(found, i, nullptr))
-            texts.append(QString::fromUtf8(text));
-    }
-    return texts;
-}
+// The connection
 
 CupsConnection::CupsConnection(std::chrono::milliseconds limit, int *cancel)
     : limit_(limit)
+    , deadline_(SocketLimit::Clock::now() + limit)
     , cancel_(cancel)
 {
     initializeCups();
@@ -103,29 +124,54 @@ CupsConnection::CupsConnection(std::chrono::milliseconds limit, int *cancel)
     // libcups keeps the server's name for the life of a thread; a socket that appears later must be seen.
     cupsSetServer(nullptr);
     server_ = QFile::decodeName(cupsServer());
-    const bool isSocket = server_.startsWith(u'/');
-    if (isSocket && !QFileInfo::exists(server_))
-        return;
-    const bool isLocal = isSocket || server_ == QLatin1String("localhost");
-    const auto connectLimit = isLocal ? std::min<std::chrono::milliseconds>(limit, loopbackLimit) : limit;
-    http_.reset(httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, cupsEncryption(), 1,
-                             static_cast<int>(connectLimit.count()), cancel));
-    if (!http_)
-        return;
-    socketLimit_ = std::make_unique<SocketLimit>(http_.get(), SocketLimit::Clock::now() + limit_, cancel);
-    httpSetTimeout(http_.get(), std::chrono::duration<double>(cancelInterval).count(), goesOn, this);
+    encryption_ = cupsEncryption();
+    connect();
 }
 
 CupsConnection::~CupsConnection()
 {
+    disconnect();
+}
+
+void CupsConnection::disconnect()
+{
     if (http_)
-        httpSetTimeout(http_.get(), std::chrono::duration<double>(cancelInterval).count(), nullptr, nullptr);
+        httpSetTimeout(http_.get(), seconds(cancelInterval), nullptr, nullptr);
+    socketLimit_.reset();
+    http_.reset();
+}
+
+bool CupsConnection::connect()
+{
+    disconnect();
+    isUsed_ = false;
+    isSpent_ = false;
+    const bool isSocket = server_.startsWith(u'/');
+    if (isSocket && !QFileInfo::exists(server_))
+        return false;
+    const bool isLocal = isSocket || server_ == QLatin1String("localhost");
+    const auto left = std::chrono::ceil<std::chrono::milliseconds>(deadline_ - SocketLimit::Clock::now());
+    const auto connectLimit = isLocal ? std::min<std::chrono::milliseconds>(left, loopbackLimit) : left;
+    // An upgrade to encryption is a request of its own, whose answer has its limits, too.
+    const bool isUpgrade = encryption_ == HTTP_ENCRYPTION_REQUIRED;
+    http_.reset(httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC,
+                             isUpgrade ? HTTP_ENCRYPTION_IF_REQUESTED : encryption_, 1,
+                             static_cast<int>(std::max(connectLimit, 1ms).count()), cancel_));
+    if (!http_)
+        return false;
+    socketLimit_ = std::make_unique<SocketLimit>(http_.get(), deadline_, cancel_);
+    socketLimit_->allow(overheadLimit);
+    httpSetTimeout(http_.get(), seconds(cancelInterval), goesOn, this);
+    if (!socketLimit_->isInPlace() || (isUpgrade && httpEncryption(http_.get(), encryption_) != 0))
+        disconnect();
+    return isOpen();
 }
 
 void CupsConnection::extend()
 {
+    deadline_ = SocketLimit::Clock::now() + limit_;
     if (socketLimit_)
-        socketLimit_->setDeadline(SocketLimit::Clock::now() + limit_);
+        socketLimit_->setDeadline(deadline_);
 }
 
 bool CupsConnection::isCancelled() const
@@ -154,68 +200,228 @@ Failure<QueueFault> CupsConnection::lastFailure(const QString &queue) const
 {
     if (isCancelled())
         return queueFailure(QueueFault::Cancelled, queue);
-    if (socketLimit_ && socketLimit_->isOver()) {
-        const double seconds = std::chrono::duration<double>(limit_).count();
-        return queueFailure(
-            QueueFault::TimedOut, queue,
-            QCoreApplication::translate("CupsConnection", "it gave no answer within %1 s").arg(seconds));
+    if (socketLimit_ ? socketLimit_->isOver() : SocketLimit::Clock::now() >= deadline_) {
+        return queueFailure(QueueFault::TimedOut, queue,
+                            QCoreApplication::translate("CupsConnection", "it gave no answer within %1 s")
+                                .arg(seconds(limit_)));
     }
-    const QueueFault fault = faultOf(cupsLastError());
-    if (fault == QueueFault::Failed && isBroken())
-        return queueFailure(fault, queue,
+    switch (end_) {
+    case End::Http:
+        return queueFailure(faultOf(httpStatus_), queue, QString::fromUtf8(httpStatus(httpStatus_)));
+    case End::Broken:
+        return queueFailure(QueueFault::Failed, queue,
                             QCoreApplication::translate("CupsConnection", "the connection broke"));
-    return queueFailure(fault, queue, QString::fromUtf8(cupsLastErrorString()));
+    case End::Answered:
+        if (!hasSucceeded())
+            return queueFailure(faultOf(status_), queue, words_);
+        break;
+    case End::Unfit:
+        break;
+    }
+    return queueFailure(QueueFault::Failed, queue, unfitReason());
 }
 
-// Where the server was gone libcups tells of whatever error the system had last, of none, too; and it may be
-// connected anew by then.
-bool CupsConnection::isBroken() const
-{
-    if (httpGetStatus(http_.get()) >= HTTP_STATUS_BAD_REQUEST)
-        return false; // the server has had its say
-    if (cupsLastError() <= IPP_STATUS_OK_CONFLICTING || qstrcmp(cupsLastErrorString(), std::strerror(0)) == 0)
-        return true;
-    const int socket = httpGetFd(http_.get());
-    char byte = 0;
-    const ssize_t count = socket < 0 ? 0 : recv(socket, &byte, sizeof byte, MSG_PEEK | MSG_DONTWAIT);
-    return count == 0 || (count < 0 && errno != EAGAIN && errno != EINTR);
-}
+// A request
 
 IppPointer CupsConnection::answerTo(IppPointer request, const char *resource)
 {
-    return IppPointer(cupsDoRequest(http_.get(), request.release(), resource));
+    begin(request.get(), resource, 0);
+    return answer();
 }
 
-Result<QueueRecord, QueueFault> queueRecord(CupsConnection &connection, const QString &queueId)
+bool CupsConnection::begin(ipp_t *request, const QByteArray &resource, qint64 documentSize)
 {
-    QueueRecord record;
-    record.name = queueId.section(u'/', 0, 0).toUtf8();
-    record.instance = queueId.section(u'/', 1).toUtf8();
-    if (record.name.isEmpty() || record.name.size() > queueNameLimit || hasControls(queueId))
-        return queueFailure(QueueFault::NotFound, queueId,
-                            QCoreApplication::translate("CupsConnection", "no printer can have this name"));
-    std::array<char, 1024> uri = {};
-    httpAssembleURIf(HTTP_URI_CODING_ALL, uri.data(), static_cast<int>(uri.size()), "ipp", nullptr,
-                     "localhost", 0, "/printers/%s", record.name.constData());
-    static constexpr std::array wanted = {"printer-uri-supported", "printer-is-accepting-jobs",
-                                          "printer-state", "printer-state-message", "printer-state-reasons"};
-    IppPointer request = ippRequest(IPP_OP_GET_PRINTER_ATTRIBUTES, uri.data());
-    ippAddStrings(request.get(), IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes",
-                  static_cast<int>(wanted.size()), nullptr, wanted.data());
-    const IppPointer answer = connection.answerTo(std::move(request), "/");
-    if (!answer || cupsLastError() > IPP_STATUS_OK_CONFLICTING)
-        return connection.lastFailure(queueId);
-    record.uri = textOf(answer.get(), "printer-uri-supported");
-    if (record.uri.isEmpty())
-        record.uri = uri.data();
-    record.stateMessage = QString::fromUtf8(textOf(answer.get(), "printer-state-message"));
-    record.stateReasons = textsOf(answer.get(), "printer-state-reasons");
-    record.stateReasons.removeAll(QStringLiteral("none"));
-    ipp_attribute_t *state = ippFindAttribute(answer.get(), "printer-state", IPP_TAG_ENUM);
-    record.isStopped = state && ippGetInteger(state, 0) == IPP_PSTATE_STOPPED;
-    ipp_attribute_t *accepts = ippFindAttribute(answer.get(), "printer-is-accepting-jobs", IPP_TAG_BOOLEAN);
-    record.acceptsJobs = !accepts || ippGetBoolean(accepts, 0) != 0;
-    return record;
+    bool asksBefore = documentSize > 0;
+    for (int attempt = 0; attempt < mostAttempts; ++attempt) {
+        if (!prepare())
+            break;
+        if (post(request, resource, documentSize, asksBefore) && documentSize == 0)
+            readHead(Head::Answer);
+        if (httpStatus_ == HTTP_STATUS_EXPECTATION_FAILED && asksBefore) {
+            asksBefore = false;
+            isSpent_ = true;
+        } else if (!removesObstacle("POST", resource)) {
+            break;
+        }
+    }
+    return end_ == End::Answered && httpStatus_ == HTTP_STATUS_CONTINUE;
+}
+
+bool CupsConnection::prepare()
+{
+    end_ = End::Answered;
+    status_ = IPP_STATUS_ERROR_INTERNAL;
+    words_.clear();
+    httpStatus_ = HTTP_STATUS_CONTINUE;
+    // libcups connects again by itself where it finds the connection unfit for another request.
+    if (!isOpen() || isSpent_ || httpGetFd(http_.get()) < 0 ||
+        httpGetState(http_.get()) != HTTP_STATE_WAITING) {
+        if (!connect()) {
+            fail(End::Broken);
+            return false;
+        }
+    }
+    isSpent_ = true; // until the answer has been read to its end
+    httpClearFields(http_.get());
+    httpSetField(http_.get(), HTTP_FIELD_AUTHORIZATION, authorization_.constData());
+    socketLimit_->allow(overheadLimit);
+    return true;
+}
+
+bool CupsConnection::post(ipp_t *request, const QByteArray &resource, qint64 documentSize, bool asksBefore)
+{
+    http_t *http = http_.get();
+    httpSetField(http, HTTP_FIELD_CONTENT_TYPE, "application/ipp");
+    // With its length told, a document that is cut off is never taken for a whole one.
+    httpSetLength(http, ippLength(request) + static_cast<size_t>(documentSize));
+    if (asksBefore)
+        httpSetExpect(http, HTTP_STATUS_CONTINUE);
+    ippSetState(request, IPP_STATE_IDLE);
+    bool isSent = httpPost(http, resource.constData()) == 0;
+    for (ipp_state_t state = IPP_STATE_IDLE; isSent && state != IPP_STATE_DATA;) {
+        state = ippWrite(http, request);
+        isSent = state != IPP_STATE_ERROR;
+    }
+    isSent = isSent && httpFlushWrite(http) >= 0;
+    if (asksBefore && (!isSent || httpWait(http, continueLimit) != 0))
+        readHead(Head::Next);
+    else if (!isSent)
+        fail(End::Broken);
+    return isSent;
+}
+
+bool CupsConnection::write(const char *data, size_t size)
+{
+    const bool isSent = httpWrite2(http_.get(), data, size) >= 0;
+    if (!isSent || httpCheck(http_.get()))
+        readHead(Head::Next);
+    return isSent && httpStatus_ == HTTP_STATUS_CONTINUE && end_ == End::Answered;
+}
+
+bool CupsConnection::removesObstacle(const char *method, const QByteArray &resource)
+{
+    if (end_ == End::Broken && isUsed_ && !socketLimit_->isOver())
+        return true;
+    if (end_ != End::Answered)
+        return false;
+    if (httpStatus_ == HTTP_STATUS_UPGRADE_REQUIRED && !httpIsEncrypted(http_.get())) {
+        encryption_ = HTTP_ENCRYPTION_REQUIRED;
+        return true;
+    }
+    if (httpStatus_ != HTTP_STATUS_UNAUTHORIZED ||
+        cupsDoAuthentication(http_.get(), method, resource.constData()))
+        return false;
+    authorization_ = httpGetAuthString(http_.get());
+    return true;
+}
+
+// Its answer
+
+void CupsConnection::fail(End end)
+{
+    end_ = socketLimit_ && socketLimit_->isExceeded() ? End::Unfit : end;
+    isSpent_ = true;
+}
+
+void CupsConnection::readHead(Head head)
+{
+    do
+        httpStatus_ = httpUpdate(http_.get());
+    while (head == Head::Answer && httpStatus_ == HTTP_STATUS_CONTINUE &&
+           httpGetState(http_.get()) != HTTP_STATE_WAITING);
+    if (httpStatus_ == HTTP_STATUS_ERROR)
+        fail(End::Broken);
+}
+
+IppPointer CupsConnection::answer()
+{
+    if (end_ == End::Answered && httpStatus_ == HTTP_STATUS_CONTINUE)
+        readHead(Head::Answer);
+    if (end_ != End::Answered)
+        return nullptr;
+    if (httpStatus_ != HTTP_STATUS_OK) {
+        fail(End::Http);
+        return nullptr;
+    }
+    return readAnswer();
+}
+
+IppPointer CupsConnection::readAnswer()
+{
+    socketLimit_->allow(answerBytesLimit + overheadLimit);
+    InspectedBody body{http_.get(), {}, false};
+    IppPointer answer(ippNew());
+    ipp_state_t state = IPP_STATE_IDLE;
+    while (state != IPP_STATE_DATA && state != IPP_STATE_ERROR)
+        state = ippReadIO(&body, readInspected, 1, nullptr, answer.get());
+    if (state == IPP_STATE_ERROR || !body.inspection.isAtEnd()) {
+        const bool isWhole = httpGetState(http_.get()) == HTTP_STATE_WAITING;
+        fail(body.isUnfit || isWhole ? End::Unfit : End::Broken);
+        return nullptr;
+    }
+    readRest();
+    if (end_ != End::Answered)
+        return nullptr;
+    status_ = ippGetStatusCode(answer.get());
+    words_ = QString::fromUtf8(textOf(answer.get(), "status-message"));
+    if (words_.isEmpty())
+        words_ = QString::fromUtf8(ippErrorString(status_));
+    return answer;
+}
+
+// Where the end of the answer does not come soon, the next request has a connection of its own.
+void CupsConnection::readRest()
+{
+    http_t *http = http_.get();
+    std::array<char, 4096> rest = {};
+    qint64 size = 0;
+    while (httpGetState(http) != HTTP_STATE_WAITING && size <= restBytesLimit) {
+        const ssize_t count =
+            httpWait(http, restLimit) ? httpRead2(http, rest.data(), rest.size()) : ssize_t(-1);
+        if (count <= 0)
+            break;
+        size += count;
+    }
+    isUsed_ = true;
+    if (size > restBytesLimit)
+        fail(End::Unfit);
+    else
+        isSpent_ = httpGetState(http) != HTTP_STATE_WAITING ||
+                   qstricmp(httpGetField(http, HTTP_FIELD_CONNECTION), "close") == 0;
+}
+
+http_status_t CupsConnection::fetch(const QByteArray &resource, qsizetype sizeLimit, QByteArray &bytes)
+{
+    for (int attempt = 0; attempt < mostAttempts; ++attempt) {
+        if (!prepare())
+            return HTTP_STATUS_ERROR;
+        if (httpGet(http_.get(), resource.constData()) != 0)
+            fail(End::Broken);
+        else
+            readHead(Head::Answer);
+        if (!removesObstacle("GET", resource))
+            break;
+    }
+    if (end_ != End::Answered)
+        return HTTP_STATUS_ERROR;
+    if (httpStatus_ != HTTP_STATUS_OK) {
+        fail(End::Http);
+        return httpStatus_;
+    }
+    socketLimit_->allow(sizeLimit + overheadLimit);
+    std::array<char, 65536> chunk = {};
+    ssize_t count = 0;
+    while (bytes.size() <= sizeLimit && (count = httpRead2(http_.get(), chunk.data(), chunk.size())) > 0)
+        bytes.append(chunk.data(), count);
+    if (bytes.size() > sizeLimit)
+        fail(End::Unfit);
+    // The connection goes back to waiting only when the whole body was read.
+    else if (count < 0 || httpGetState(http_.get()) != HTTP_STATE_WAITING)
+        fail(End::Broken);
+    else
+        isSpent_ = qstricmp(httpGetField(http_.get(), HTTP_FIELD_CONNECTION), "close") == 0;
+    isUsed_ = true;
+    return end_ == End::Answered ? HTTP_STATUS_OK : HTTP_STATUS_ERROR;
 }
 
 } // namespace printdialog

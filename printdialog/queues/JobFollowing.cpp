@@ -5,6 +5,7 @@
 
 #include "CupsConnection.h"
 #include "PlainText.h"
+#include "QueueRecord.h"
 #include "StateText.h"
 
 #include <QtCore/QCoreApplication>
@@ -62,11 +63,11 @@ Result<JobStatus, QueueFault> jobStatus(CupsConnection &connection, const QStrin
                   static_cast<int>(wanted.size()), nullptr, wanted.data());
     const IppPointer answer = connection.answerTo(std::move(request), "/");
     JobStatus status;
-    if (cupsLastError() == IPP_STATUS_ERROR_NOT_FOUND) {
+    if (connection.status() == IPP_STATUS_ERROR_NOT_FOUND) {
         status.state = JobStatus::State::Gone;
         return status;
     }
-    if (!answer || cupsLastError() > IPP_STATUS_OK_CONFLICTING)
+    if (!answer || !connection.hasSucceeded())
         return connection.lastFailure(queue);
     ipp_attribute_t *state = ippFindAttribute(answer.get(), "job-state", IPP_TAG_ENUM);
     status.state = stateOf(state ? ippGetInteger(state, 0) : 0);
@@ -222,12 +223,17 @@ Result<bool, QueueFault> cancelJob(const QString &queue, int id, std::chrono::mi
     CupsConnection connection(limit);
     if (!connection.isOpen())
         return queueFailure(QueueFault::NoServer, queue, connection.unreachableReason());
+    return cancelJob(connection, queue, id);
+}
+
+Result<bool, QueueFault> cancelJob(CupsConnection &connection, const QString &queue, int id)
+{
     IppPointer request = ippRequest(IPP_OP_CANCEL_JOB, serverUri);
     ippAddInteger(request.get(), IPP_TAG_OPERATION, IPP_TAG_INTEGER, "job-id", id);
     const IppPointer answer = connection.answerTo(std::move(request), "/jobs/");
-    const ipp_status_t status = cupsLastError();
+    const ipp_status_t status = connection.status();
     const bool isOver = status == IPP_STATUS_ERROR_NOT_POSSIBLE || status == IPP_STATUS_ERROR_NOT_FOUND;
-    if (!isOver && (!answer || status > IPP_STATUS_OK_CONFLICTING))
+    if (!isOver && (!answer || !connection.hasSucceeded()))
         return connection.lastFailure(queue);
     return !isOver;
 }

@@ -13,6 +13,8 @@
 
 namespace printdialog {
 
+class CupsConnection;
+
 /// What the server says about a job. Every text is plain text.
 struct JobStatus
 {
@@ -61,6 +63,9 @@ struct FollowLimits
 Result<JobStatus, QueueFault> followJob(const QString &queue, int id, const FollowLimits &limits,
                                         const std::function<void(const JobStatus &)> &news = {},
                                         int *cancel = nullptr);
+
+/// Cancels a job over a connection that is open, within its limit. See below.
+Result<bool, QueueFault> cancelJob(CupsConnection &connection, const QString &queue, int id);
 
 /// Cancels a job. Blocks, at most for the limit. A job that is over already is no failure.
 /// Failures: NoServer, Refused, TimedOut, Failed.

@@ -4,8 +4,10 @@
 #include "JobSubmission.h"
 
 #include "CupsConnection.h"
+#include "JobFollowing.h"
 #include "PlainText.h"
 #include "PpdFetcher.h"
+#include "QueueRecord.h"
 
 #include <QtCore/QBuffer>
 #include <QtCore/QCoreApplication>
@@ -86,18 +88,14 @@ public:
         const IppPointer request = printJob(job);
         const qint64 total = source.size();
         connection_.extend();
-        // With its length told, a document that is cut off is never taken for a whole one.
-        const size_t length = ippLength(request.get()) + static_cast<size_t>(total);
-        bool isTaken = cupsSendRequest(connection_.http(), request.get(), resource_.constData(), length) ==
-                       HTTP_STATUS_CONTINUE;
+        bool isTaken = connection_.begin(request.get(), resource_, total);
         std::array<char, 65536> chunk = {};
         for (qint64 sent = 0; isTaken && sent < total;) {
             const qint64 size = source.read(chunk.data(), std::min<qint64>(chunk.size(), total - sent));
             if (size <= 0)
                 return notReadToItsEnd(job.document, source.errorString());
             connection_.extend();
-            isTaken = cupsWriteRequestData(connection_.http(), chunk.data(), static_cast<size_t>(size)) ==
-                      HTTP_STATUS_CONTINUE;
+            isTaken = connection_.write(chunk.data(), static_cast<size_t>(size));
             sent += size;
             if (isTaken && control_.sent)
                 control_.sent(sent, total);
@@ -129,18 +127,19 @@ private:
     {
         connection_.ignoreCancel();
         connection_.extend();
-        const IppPointer answer(cupsGetResponse(connection_.http(), resource_.constData()));
-        if (!answer || cupsLastError() > IPP_STATUS_OK_CONFLICTING)
+        const IppPointer answer = connection_.answer();
+        if (!answer || !connection_.hasSucceeded())
             return connection_.lastFailure(queue);
-        ipp_attribute_t *id = ippFindAttribute(answer.get(), "job-id", IPP_TAG_INTEGER);
-        if (!id)
+        ipp_attribute_t *attribute = ippFindAttribute(answer.get(), "job-id", IPP_TAG_INTEGER);
+        if (!attribute)
             return queueFailure(QueueFault::Failed, queue);
+        const int id = ippGetInteger(attribute, 0);
         if (control_.cancel && std::atomic_ref(*control_.cancel).load() != 0) {
             connection_.extend();
-            cupsCancelJob2(connection_.http(), record_.name.constData(), ippGetInteger(id, 0), 0);
+            [[maybe_unused]] const auto cancelled = cancelJob(connection_, queue, id);
             return queueFailure(QueueFault::Cancelled, queue);
         }
-        return ippGetInteger(id, 0);
+        return id;
     }
 
     CupsConnection &connection_;

@@ -5,12 +5,9 @@
 
 #include "BoundedWorker.h"
 #include "CupsConnection.h"
+#include "QueueRecord.h"
 
 #include <QtCore/QUrl>
-
-#include <fcntl.h>
-#include <sys/mman.h>
-#include <unistd.h>
 
 using namespace std::chrono_literals;
 
@@ -19,38 +16,6 @@ namespace printdialog {
 namespace {
 
 constexpr auto endPatience = 50ms;
-/// What the memory file can hold: whole pages beyond the limit, so that what is too large is told from what
-/// fits.
-constexpr qsizetype memoryLimit = fetchedPpdLimit + qsizetype(64) * 1024;
-
-/// A file without a name, in memory, that cannot grow beyond its limit: libcups writes into it.
-class MemoryFile
-{
-public:
-    MemoryFile()
-        : descriptor_(memfd_create("ppd", MFD_CLOEXEC | MFD_ALLOW_SEALING))
-    {
-        if (ftruncate(descriptor_, memoryLimit) != 0 || fcntl(descriptor_, F_ADD_SEALS, F_SEAL_GROW) != 0) {
-            close(descriptor_);
-            descriptor_ = -1;
-        }
-    }
-    ~MemoryFile() { close(descriptor_); }
-    Q_DISABLE_COPY_MOVE(MemoryFile)
-
-    int descriptor() const { return descriptor_; }
-
-    QByteArray content() const
-    {
-        QByteArray bytes(qMax<qsizetype>(lseek(descriptor_, 0, SEEK_CUR), 0), Qt::Uninitialized);
-        const ssize_t count = pread(descriptor_, bytes.data(), static_cast<size_t>(bytes.size()), 0);
-        bytes.truncate(qMax<qsizetype>(count, 0));
-        return bytes;
-    }
-
-private:
-    int descriptor_;
-};
 
 QueueFault faultOf(http_status_t status)
 {
@@ -99,27 +64,20 @@ Result<QByteArray, QueueFault> ppdOf(CupsConnection &connection, const QueueReco
 {
     const QString queue = QString::fromUtf8(record.name);
     // Not cupsGetPPD3: on a local socket it links to whatever lies under the queue's name in this machine's
-    // own /etc/cups/ppd, and it opens a second connection, which has no time limit.
+    // own /etc/cups/ppd, and it opens a second connection, which has no limits.
     const QByteArray resource = "/printers/" + QUrl::toPercentEncoding(queue) + ".ppd";
-    const MemoryFile file;
-    if (file.descriptor() < 0)
-        return queueFailure(QueueFault::Failed, queue, PpdFetcher::tr("there is no memory for its PPD"));
-    const http_status_t status = cupsGetFd(connection.http(), resource.constData(), file.descriptor());
-    if (status != HTTP_STATUS_OK) {
-        const auto failure = connection.lastFailure(queue);
-        if (failure.reason == QueueFault::TimedOut || failure.reason == QueueFault::Cancelled)
-            return failure;
-        // What libcups has for its own error is the text of the system's last one, which may be "Success".
-        return queueFailure(faultOf(status), queue,
-                            status == HTTP_STATUS_ERROR ? brokenReason()
-                                                        : QString::fromUtf8(httpStatus(status)));
-    }
-    QByteArray ppd = file.content();
+    QByteArray ppd;
+    const http_status_t status = connection.fetch(resource, fetchedPpdLimit, ppd);
     if (ppd.size() > fetchedPpdLimit)
         return queueFailure(QueueFault::Failed, queue, tooLargeReason());
-    // The connection goes back to waiting only when the whole body was read.
-    if (httpGetState(connection.http()) != HTTP_STATE_WAITING)
-        return queueFailure(QueueFault::Failed, queue, brokenReason());
+    if (status == HTTP_STATUS_ERROR) {
+        const auto failure = connection.lastFailure(queue);
+        return failure.reason == QueueFault::Failed && connection.isBroken()
+                   ? queueFailure(QueueFault::Failed, queue, brokenReason())
+                   : failure;
+    }
+    if (status != HTTP_STATUS_OK)
+        return queueFailure(faultOf(status), queue, QString::fromUtf8(httpStatus(status)));
     if (ppd.isEmpty())
         return queueFailure(QueueFault::NoPpd, queue, PpdFetcher::tr("what the print server keeps is empty"));
     return ppd;

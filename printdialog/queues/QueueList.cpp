@@ -7,6 +7,7 @@
 #include "CupsConnection.h"
 #include "PlainText.h"
 #include "PpdFetcher.h"
+#include "QueueRecord.h"
 #include "UserDestinations.h"
 
 #include <QtCore/QHash>
@@ -50,6 +51,9 @@ public:
 private:
     QHash<QByteArray, ipp_attribute_t *> attributes_;
 };
+
+/// Those beyond are left out: nobody finds a printer among so many.
+constexpr qsizetype mostQueues = 10'000;
 
 constexpr std::array wantedAttributes = {
     "device-uri",        "marker-high-levels",     "marker-levels",
@@ -128,7 +132,7 @@ QList<Queue> queuesIn(ipp_t *answer)
         // A name that needs cleaning is no queue's: CUPS allows none, and it could not be handed back to
         // the server.
         const Queue queue = queueOf(std::exchange(attributes, {}));
-        if (!queue.name.isEmpty() && !hasControls(queue.name))
+        if (!queue.name.isEmpty() && !hasControls(queue.name) && queues.size() < mostQueues)
             queues.append(queue);
     };
     for (ipp_attribute_t *attribute = ippFirstAttribute(answer); attribute;
@@ -168,9 +172,8 @@ Result<QList<Queue>, QueueFault> sweepQueues(std::chrono::milliseconds limit, in
     CupsConnection connection(limit, cancel);
     if (!connection.isOpen())
         return queueFailure(QueueFault::NoServer, {}, connection.unreachableReason());
-    const auto isFailure = [](const IppPointer &answer) {
-        return !answer ||
-               (cupsLastError() > IPP_STATUS_OK_CONFLICTING && cupsLastError() != IPP_STATUS_ERROR_NOT_FOUND);
+    const auto isFailure = [&connection](const IppPointer &answer) {
+        return !answer || !(connection.hasSucceeded() || connection.status() == IPP_STATUS_ERROR_NOT_FOUND);
     };
     const IppPointer preset = connection.answerTo(IppPointer(ippNewRequest(IPP_OP_CUPS_GET_DEFAULT)), "/");
     if (isFailure(preset))

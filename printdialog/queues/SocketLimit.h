@@ -6,7 +6,6 @@
 #include <QtCore/QtGlobal>
 
 #include <chrono>
-#include <condition_variable>
 #include <mutex>
 #include <thread>
 
@@ -14,35 +13,60 @@ typedef struct _http_s http_t; // NOLINT(bugprone-reserved-identifier): libcups 
 
 namespace printdialog {
 
-/// Shuts a connection of libcups down once its time is over or the work is given up, so that whatever call is
-/// under way on it returns. libcups' own limit counts silence only: a server that sends one byte a second
-/// never exceeds it. A thread of its own watches; from the deadline on also what libcups connects anew.
+/// Stands between libcups and the server's socket, and ends the connection once its time is over, the work is
+/// given up, or the server has sent more than is allowed, so that whatever call is under way returns.
+/// libcups' own limit counts silence only, which a server that sends one byte a second never exceeds; and it
+/// keeps the headers of an answer however many there are. A thread of its own passes the bytes on.
 class SocketLimit
 {
 public:
     using Clock = std::chrono::steady_clock;
 
+    /// Takes the place of the connection's socket, under the same descriptor. What libcups connects again by
+    /// itself goes past it.
     /// @param http outlives this object
     /// @param cancel non-zero: give up; may be null, otherwise outlives this object
     SocketLimit(http_t *http, Clock::time_point deadline, int *cancel);
     ~SocketLimit();
     Q_DISABLE_COPY_MOVE(SocketLimit)
 
+    /// Whether it stands there; otherwise there were no descriptors left, and the connection is of no use.
+    bool isInPlace() const { return thread_.joinable(); }
     void setDeadline(Clock::time_point deadline);
     void ignoreCancel();
-    /// Whether the time is over or the work was given up.
+    /// How many bytes the server may send from now on; none at first. More of them wait, and when libcups
+    /// waits for them, too, the connection is ended after a second.
+    void allow(qint64 bytes);
+
+    /// Whether the time is over, or was when the connection was ended, or the work was given up.
     bool isOver();
+    /// Whether the connection was ended because the server had sent more than was allowed.
+    bool isExceeded();
 
 private:
-    void watch();
-    bool isOverLocked() const;
-    void shutDown() const;
+    /// Bytes on their way.
+    struct Stretch;
+    enum class Flow { Goes, Waits, Ended };
 
-    http_t *http_;
+    bool takePlace(http_t *http);
+    void passOn();
+    bool mustEnd(int &milliseconds);
+    bool isHeld();
+    bool isStarving() const;
+    Flow receiveAllowed(Stretch &stretch);
+    static Flow receive(int socket, Stretch &stretch, size_t most);
+    static Flow send(int socket, Stretch &stretch);
+
+    int server_ = -1; ///< the server's socket
+    int inner_ = -1;  ///< the other end of what libcups uses
+    int wake_ = -1;
+    std::mutex mutex_; // for what follows
     int *cancel_;
-    std::mutex mutex_;
-    std::condition_variable changed_;
     Clock::time_point deadline_;
+    qint64 allowed_ = 0;
+    bool isOver_ = false;
+    bool isExceeded_ = false;
+    Clock::time_point fedAt_; ///< when libcups was last seen not to wait for what is held back
     bool ends_ = false;
     std::thread thread_;
 };

@@ -320,6 +320,10 @@ Beispiele:
         <source>the connection broke</source>
         <translation>die Verbindung ist abgebrochen</translation>
     </message>
+    <message>
+        <source>its answer is too large or malformed</source>
+        <translation>seine Antwort ist zu groß oder fehlerhaft</translation>
+    </message>
 </context>
 <context>
     <name>JobFollowing</name>
@@ -1566,10 +1570,6 @@ Beispiele:
     <message>
         <source>its PPD is larger than %1 MiB</source>
         <translation>seine PPD-Datei ist größer als %1 MiB</translation>
-    </message>
-    <message>
-        <source>there is no memory for its PPD</source>
-        <translation>für seine PPD-Datei fehlt der Speicher</translation>
     </message>
     <message>
         <source>the connection broke in the middle of its PPD</source>

@@ -318,6 +318,10 @@ Ejemplos:
         <source>the connection broke</source>
         <translation>se ha interrumpido la conexión</translation>
     </message>
+    <message>
+        <source>its answer is too large or malformed</source>
+        <translation>su respuesta es demasiado grande o está mal formada</translation>
+    </message>
 </context>
 <context>
     <name>JobFollowing</name>
@@ -1564,10 +1568,6 @@ Ejemplos:
     <message>
         <source>its PPD is larger than %1 MiB</source>
         <translation>su PPD ocupa más de %1 MiB</translation>
-    </message>
-    <message>
-        <source>there is no memory for its PPD</source>
-        <translation>no hay memoria para su PPD</translation>
     </message>
     <message>
         <source>the connection broke in the middle of its PPD</source>

@@ -319,6 +319,10 @@ Exemples&#x202f;:
         <source>the connection broke</source>
         <translation>la connexion a été interrompue</translation>
     </message>
+    <message>
+        <source>its answer is too large or malformed</source>
+        <translation>sa réponse est trop longue ou mal formée</translation>
+    </message>
 </context>
 <context>
     <name>JobFollowing</name>
@@ -1565,10 +1569,6 @@ Exemples&#x202f;:
     <message>
         <source>its PPD is larger than %1 MiB</source>
         <translation>son PPD dépasse %1 Mio</translation>
-    </message>
-    <message>
-        <source>there is no memory for its PPD</source>
-        <translation>la mémoire manque pour son PPD</translation>
     </message>
     <message>
         <source>the connection broke in the middle of its PPD</source>

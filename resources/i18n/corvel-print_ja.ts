@@ -317,6 +317,10 @@ Examples:
         <source>the connection broke</source>
         <translation>接続が切れました</translation>
     </message>
+    <message>
+        <source>its answer is too large or malformed</source>
+        <translation>応答が大きすぎるか、形式に誤りがあります</translation>
+    </message>
 </context>
 <context>
     <name>JobFollowing</name>
@@ -1561,10 +1565,6 @@ Examples:
     <message>
         <source>its PPD is larger than %1 MiB</source>
         <translation>PPD が %1 MiB を超えています</translation>
-    </message>
-    <message>
-        <source>there is no memory for its PPD</source>
-        <translation>PPD のためのメモリが足りません</translation>
     </message>
     <message>
         <source>the connection broke in the middle of its PPD</source>

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: Corvel print dialog authors
 // SPDX-License-Identifier: Apache-2.0
 
+#include "JobFollowing.h"
 #include "JobSubmission.h"
 #include "PlainText.h"
 #include "PpdFetcher.h"
@@ -9,6 +10,7 @@
 #include "StubServer.h"
 
 #include <QtCore/QElapsedTimer>
+#include <QtCore/QFile>
 #include <QtTest/QSignalSpy>
 #include <QtTest/QTest>
 
@@ -22,6 +24,32 @@ using namespace Qt::StringLiterals;
 using testing_support::StubServer;
 
 Q_DECLARE_METATYPE(QueueFault)
+
+namespace {
+
+/// The most memory that the process had resident since resetPeak(), in bytes.
+qint64 peak()
+{
+    QFile status(u"/proc/self/status"_s);
+    if (!status.open(QIODevice::ReadOnly))
+        return -1;
+    const QByteArray text = status.readAll();
+    const qsizetype line = text.indexOf("VmHWM:") + 6;
+    return text.mid(line, text.indexOf("kB", line) - line).trimmed().toLongLong() * 1024;
+}
+
+bool resetPeak()
+{
+    QFile refs(u"/proc/self/clear_refs"_s);
+    return refs.open(QIODevice::WriteOnly) && refs.write("5") == 1;
+}
+
+JobRequest smallJob()
+{
+    return {u"photo"_s, u"t"_s, {{}, "x", "image/jpeg", u"x"_s}, {}};
+}
+
+} // namespace
 
 /// Everything that needs no print server, and what becomes of servers that misbehave.
 class QueuesTest : public QObject
@@ -37,6 +65,9 @@ private Q_SLOTS:
     void unfitOptionIsRefusedBeforeAnythingIsSent();
     void badServerCostsOneSentenceInTime_data();
     void badServerCostsOneSentenceInTime();
+    void hostileAnswersCostLittle_data();
+    void hostileAnswersCostLittle();
+    void answersThatMakeNoSense();
     void finderNeverBlocks_data();
     void finderNeverBlocks();
     void onlyTheLatestFetchIsAnnounced();
@@ -132,7 +163,8 @@ void QueuesTest::badServerCostsOneSentenceInTime()
     QFETCH(StubServer::Manner, manner);
     QFETCH(QueueFault, fault);
     QFETCH(QString, reason);
-    const StubServer server(manner);
+    const StubServer server(manner, fault == QueueFault::TimedOut ? StubServer::Requests::All
+                                                                  : StubServer::Requests::Files);
     const auto limit = fault == QueueFault::TimedOut ? 300ms : 10000ms;
     QElapsedTimer timer;
     timer.start();
@@ -148,7 +180,7 @@ void QueuesTest::badServerCostsOneSentenceInTime()
     QVERIFY(listQueues(limit).isEmpty());
     QVERIFY(timer.elapsed() < limit.count() + 200);
     timer.start();
-    const auto job = submitJob({u"photo"_s, u"t"_s, {{}, "x", "image/jpeg", u"x"_s}, {}}, {}, limit);
+    const auto job = submitJob(smallJob(), {}, limit);
     QVERIFY(timer.elapsed() < limit.count() + 200);
     QVERIFY(!job);
     QCOMPARE(job.failure().reason, fault);
@@ -160,12 +192,65 @@ void QueuesTest::badServerCostsOneSentenceInTime()
         std::atomic_ref(cancel).store(1);
     });
     timer.start();
-    const auto cancelled =
-        submitJob({u"photo"_s, u"t"_s, {{}, "x", "image/jpeg", u"x"_s}, {}}, {{}, &cancel}, 10s);
+    const auto cancelled = submitJob(smallJob(), {{}, &cancel}, 10s);
     canceller.join();
     QVERIFY(timer.elapsed() < 400);
     QVERIFY(!cancelled);
     QCOMPARE(cancelled.failure().reason, QueueFault::Cancelled);
+}
+
+void QueuesTest::hostileAnswersCostLittle_data()
+{
+    using Manner = StubServer::Manner;
+    QTest::addColumn<Manner>("manner");
+    QTest::newRow("nested 8,000 times") << Manner::Nesting;
+    QTest::newRow("endless attributes") << Manner::EndlessValues;
+    QTest::newRow("empty attributes") << Manner::EmptyAttributes;
+    QTest::newRow("groups") << Manner::Separators;
+    QTest::newRow("endless header fields") << Manner::EndlessHeaders;
+    QTest::newRow("endless promises") << Manner::EndlessContinues;
+    QTest::newRow("endless chunks") << Manner::EndlessChunks;
+}
+
+// Whatever is asked.
+void QueuesTest::hostileAnswersCostLittle()
+{
+    QFETCH(StubServer::Manner, manner);
+    const auto isRefused = [](const auto &outcome) {
+        return !outcome && outcome.failure().reason == QueueFault::Failed &&
+               outcome.failure().text.contains(u"too large or malformed"_s);
+    };
+    QVERIFY(resetPeak());
+    const qint64 before = peak();
+    {
+        const StubServer server(manner);
+        QVERIFY(isRefused(sweepQueues(10s, nullptr)));
+        QVERIFY(isRefused(queueNamed(u"photo"_s, 10s)));
+        if (manner == StubServer::Manner::Nesting) {
+            QVERIFY(isRefused(followJob(u"photo"_s, 1, {})));
+            QVERIFY(isRefused(cancelJob(u"photo"_s, 1)));
+        }
+    }
+    {
+        const StubServer server(manner, StubServer::Requests::Jobs);
+        QVERIFY(isRefused(submitJob(smallJob())));
+    }
+    if (manner == StubServer::Manner::EndlessHeaders || manner == StubServer::Manner::EndlessContinues) {
+        const StubServer server(manner, StubServer::Requests::Files);
+        QVERIFY(isRefused(fetchPpd(u"photo"_s, 10s)));
+    }
+    const qint64 cost = peak() - before;
+    qInfo("%.1f MiB", static_cast<double>(cost) / 1024 / 1024);
+    QVERIFY(cost < qint64(64) * 1024 * 1024);
+}
+
+void QueuesTest::answersThatMakeNoSense()
+{
+    // Nothing is asked somewhere else.
+    const StubServer server(StubServer::Manner::Redirecting);
+    const auto opened = queueNamed(u"photo"_s, 5s);
+    QVERIFY(!opened);
+    QVERIFY2(opened.failure().text.contains(u"Found"_s), qPrintable(opened.failure().text));
 }
 
 void QueuesTest::finderNeverBlocks_data()

@@ -15,16 +15,23 @@ namespace testing_support {
 
 namespace {
 
-/// An IPP message that says "successful" and no more.
-const QByteArray successfulAnswer = QByteArray::fromHex("020000000000000101") +
-                                    QByteArray("\x47\x00\x12", 3) + "attributes-charset" +
-                                    QByteArray("\x00\x05", 2) + "utf-8" + QByteArray("\x48\x00\x1b", 3) +
-                                    "attributes-natural-language" + QByteArray("\x00\x02", 2) + "en" + "\x03";
+constexpr qint64 endless = qint64(512) * 1024 * 1024;
 
-bool put(int client, const QByteArray &bytes)
+QByteArray lengthOf(qsizetype size)
 {
-    return send(client, bytes.constData(), static_cast<size_t>(bytes.size()), MSG_NOSIGNAL) == bytes.size();
+    return QByteArray(1, static_cast<char>(size >> 8)) + static_cast<char>(size & 0xff);
 }
+
+QByteArray attribute(char tag, const QByteArray &name, const QByteArray &value)
+{
+    return QByteArray(1, tag) + lengthOf(name.size()) + name + lengthOf(value.size()) + value;
+}
+
+/// The beginning of an IPP message that says "successful".
+const QByteArray successfulHead = QByteArray::fromHex("020000000000000101") +
+                                  attribute(0x47, "attributes-charset", "utf-8") +
+                                  attribute(0x48, "attributes-natural-language", "en");
+const char endOfAttributes = 0x03;
 
 bool receive(int client, QByteArray &bytes)
 {
@@ -41,10 +48,32 @@ QByteArray header(const QByteArray &type, qsizetype length)
            "\r\n\r\n";
 }
 
+QByteArray whole(const QByteArray &message)
+{
+    return header("application/ipp", message.size()) + message;
+}
+
+/// Whether it is complete, with the document.
+bool isWhole(const QByteArray &request)
+{
+    const qsizetype head = request.indexOf("\r\n\r\n");
+    const qsizetype field = request.indexOf("Content-Length: ");
+    if (head < 0 || request.startsWith("GET "))
+        return head >= 0;
+    const qsizetype length = request.mid(field + 16, request.indexOf('\r', field) - field - 16).toLongLong();
+    return request.size() >= head + 4 + length;
+}
+
+bool isPrintJob(const QByteArray &request)
+{
+    return request.mid(request.indexOf("\r\n\r\n") + 6, 2) == QByteArray("\x00\x02", 2);
+}
+
 } // namespace
 
-StubServer::StubServer(Manner manner)
+StubServer::StubServer(Manner manner, Requests requests)
     : manner_(manner)
+    , requests_(requests)
     , serverBefore_(qgetenv("CUPS_SERVER"))
     , listener_(socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0))
 {
@@ -85,28 +114,135 @@ void StubServer::serve()
         close(client);
 }
 
+bool StubServer::put(int client, const QByteArray &bytes) const
+{
+    return !ends_ &&
+           send(client, bytes.constData(), static_cast<size_t>(bytes.size()), MSG_NOSIGNAL) == bytes.size();
+}
+
+void StubServer::repeat(int client, const std::function<QByteArray(qint64)> &block, qint64 size) const
+{
+    for (qint64 sent = 0, number = 0; sent < size; ++number) {
+        const QByteArray bytes = block(number);
+        sent += bytes.size();
+        if (!put(client, bytes))
+            return;
+    }
+}
+
 void StubServer::answer(int client)
 {
     QByteArray bytes;
     while (receive(client, bytes)) {
-        if (manner_ == Manner::Trickling) {
-            while (!ends_ && put(client, "H"))
-                std::this_thread::sleep_for(std::chrono::milliseconds(20));
-            return;
-        }
-        if (bytes.startsWith("GET ") && bytes.contains("\r\n\r\n")) {
-            const qsizetype length = qsizetype(40) * 1024 * 1024;
-            put(client, header("application/vnd.cups-ppd", length) +
-                            (manner_ == Manner::Overflowing ? QByteArray(length, '*') : "*PPD-Adobe"));
-            return;
-        }
-        // A request ends with IPP's end-of-attributes tag.
-        if (bytes.contains("\r\n\r\n") && bytes.endsWith("\r\n\r\n"))
+        if (bytes.contains("100-continue"))
             put(client, "HTTP/1.1 100 Continue\r\n\r\n");
-        else if (bytes.endsWith('\x03')) {
-            put(client, header("application/ipp", successfulAnswer.size()) + successfulAnswer);
-            bytes.clear();
+        if (!isWhole(bytes))
+            continue;
+        const bool isFile = bytes.startsWith("GET ");
+        if (requests_ == Requests::All || (requests_ == Requests::Files && isFile) ||
+            (requests_ == Requests::Jobs && isPrintJob(bytes))) {
+            misbehave(client);
+            return;
         }
+        put(client, isFile ? header("application/vnd.cups-ppd", 9) + "*PPD-Adobe"
+                           : whole(successfulHead + endOfAttributes));
+        bytes.clear();
+    }
+}
+
+void StubServer::misbehave(int client)
+{
+    const auto block = [](const QByteArray &bytes) {
+        return [bytes](qint64 /*number*/) {
+            return bytes;
+        };
+    };
+    const QByteArray chunked = "HTTP/1.1 200 OK\r\nContent-Type: application/ipp\r\n"
+                               "Transfer-Encoding: chunked\r\n\r\n";
+    const auto chunk = [](const QByteArray &bytes) {
+        return QByteArray::number(bytes.size(), 16) + "\r\n" + bytes + "\r\n";
+    };
+    constexpr qint64 mebibyte = qint64(1024) * 1024;
+    switch (manner_) {
+    case Manner::Silent:
+    case Manner::Closing:
+        break;
+    case Manner::Trickling:
+        while (put(client, "H"))
+            std::this_thread::sleep_for(std::chrono::milliseconds(20));
+        break;
+    case Manner::BreakingOff:
+        put(client, header("application/vnd.cups-ppd", 40 * mebibyte) + "*PPD-Adobe");
+        break;
+    case Manner::Overflowing:
+        put(client, header("application/vnd.cups-ppd", 40 * mebibyte));
+        repeat(client, block(QByteArray(mebibyte, '*')), 40 * mebibyte);
+        break;
+    case Manner::Forbidding:
+        put(client, "HTTP/1.1 401 Unauthorized\r\nWWW-Authenticate: Basic realm=\"stub\"\r\n"
+                    "Content-Length: 0\r\n\r\n");
+        break;
+    case Manner::Failing:
+        put(client, "HTTP/1.1 500 Internal Server Error\r\nContent-Length: 0\r\n\r\n");
+        break;
+    case Manner::Redirecting:
+        put(client, "HTTP/1.1 302 Found\r\nLocation: /\r\nContent-Length: 0\r\n\r\n");
+        break;
+    case Manner::Nesting: {
+        QByteArray nested = attribute(0x34, "deep", {});
+        for (int level = 1; level < 8000; ++level)
+            nested += attribute(0x4a, {}, "x") + attribute(0x34, {}, {});
+        for (int level = 0; level < 8000; ++level)
+            nested += attribute(0x37, {}, {});
+        put(client, whole(successfulHead + '\x04' + nested + endOfAttributes));
+        break;
+    }
+    case Manner::EndlessValues:
+        put(client, chunked + chunk(successfulHead + '\x04'));
+        repeat(
+            client,
+            [&chunk](qint64 number) {
+                QByteArray many;
+                for (qint64 i = 0; i < 1000; ++i)
+                    many += attribute(0x41, "a" + QByteArray::number(number * 1000 + i), {});
+                return chunk(many);
+            },
+            endless);
+        break;
+    case Manner::EmptyAttributes:
+    case Manner::Separators: {
+        const QByteArray part =
+            (manner_ == Manner::Separators ? QByteArray("\x04") : attribute(0x13, "a", {})).repeated(1000);
+        const qint64 size = 16 * mebibyte / part.size() * part.size();
+        put(client,
+            header("application/ipp", successfulHead.size() + 1 + size + 1) + successfulHead + '\x04');
+        repeat(client, block(part), size);
+        put(client, QByteArray(1, endOfAttributes));
+        break;
+    }
+    case Manner::EndlessHeaders:
+        put(client, "HTTP/1.1 200 OK\r\n");
+        repeat(client, block("WWW-Authenticate: " + QByteArray(30000, 'x') + "\r\n"), endless);
+        break;
+    case Manner::EndlessContinues:
+        repeat(client, block(QByteArray("HTTP/1.1 100 Continue\r\n\r\n").repeated(1000)), endless);
+        break;
+    case Manner::EndlessChunks:
+        put(client, chunked + chunk(successfulHead + endOfAttributes));
+        repeat(client, block(chunk(QByteArray(mebibyte, 'x'))), endless);
+        break;
+    case Manner::JobBelowZero:
+        put(client,
+            whole(successfulHead + '\x02' + attribute(0x21, "job-id", "\xff\xff\xff\xff") + endOfAttributes));
+        break;
+    case Manner::OddNames: {
+        QByteArray queues = successfulHead;
+        for (const char *name : {"good", "go\tod", "a/b", "na\xefve"})
+            queues += '\x04' + attribute(0x42, "printer-name", name) +
+                      attribute(0x42, "member-names", "go\x01od") + attribute(0x42, {}, "inner");
+        put(client, whole(queues + endOfAttributes));
+        break;
+    }
     }
 }
 

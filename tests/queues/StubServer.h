@@ -8,6 +8,7 @@
 #include <QtCore/QTemporaryDir>
 
 #include <atomic>
+#include <functional>
 #include <thread>
 
 namespace testing_support {
@@ -20,19 +21,42 @@ public:
     enum class Manner {
         Silent,      ///< Accepts, and never answers.
         Trickling,   ///< Answers one byte at a time, without end.
-        BreakingOff, ///< Knows every queue; closes in the middle of a PPD.
-        Overflowing  ///< Knows every queue; its PPDs are too large.
-    };
+        Closing,     ///< Closes the connection instead of an answer.
+        BreakingOff, ///< Closes in the middle of a PPD.
+        Overflowing, ///< Its PPDs are too large.
+        Forbidding,  ///< Answers with the status 401.
+        Failing,     ///< Answers with the status 500.
+        Redirecting, ///< Answers with the status 302, to itself.
 
-    explicit StubServer(Manner manner);
+        // What is "endless" ends after half a GiB.
+        Nesting,          ///< 8,000 collections, one inside the other, in 88 kB.
+        EndlessValues,    ///< Attributes without end, each with a name of its own.
+        EmptyAttributes,  ///< 16 MiB of attributes without values.
+        Separators,       ///< 16 MiB of bytes that each begin a group of attributes.
+        EndlessHeaders,   ///< Header fields that libcups joins, without end.
+        EndlessContinues, ///< Says without end that it goes on.
+        EndlessChunks,    ///< A whole answer, and then chunks without end.
+
+        JobBelowZero, ///< Gives every job the number -1.
+        OddNames      ///< Has the queues "good", "go\tod", "a/b" and one with a name that is not UTF-8.
+    };
+    /// Which requests are answered in this manner; the others with success, as if every queue were known.
+    enum class Requests { All, Jobs, Files };
+
+    explicit StubServer(Manner manner, Requests requests = Requests::All);
     ~StubServer();
     Q_DISABLE_COPY_MOVE(StubServer)
 
 private:
     void serve();
     void answer(int client);
+    void misbehave(int client);
+    /// Until everything is sent, or the client has closed.
+    bool put(int client, const QByteArray &bytes) const;
+    void repeat(int client, const std::function<QByteArray(qint64)> &block, qint64 size) const;
 
     Manner manner_;
+    Requests requests_;
     QTemporaryDir folder_{QStringLiteral("/tmp/stub-server-XXXXXX")};
     QByteArray serverBefore_;
     int listener_ = -1;

@@ -1,0 +1,31 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include <QtCore/QByteArray>
+#include <QtCore/QStringList>
+
+#include <cups/cups.h>
+
+#include <memory>
+
+namespace printdialog {
+
+struct IppDeleter
+{
+    void operator()(ipp_t *message) const { ippDelete(message); }
+};
+using IppPointer = std::unique_ptr<ipp_t, IppDeleter>;
+
+/// A request with what every request about a printer or job begins with.
+/// @param uri of the queue, or of the server ("ipp://localhost/")
+IppPointer ippRequest(ipp_op_t operation, const QByteArray &uri);
+
+/// The values of an attribute as texts, as the server sends them; none when it has no such attribute.
+QStringList textsOf(ipp_t *answer, const char *attribute);
+
+/// The first of them, byte for byte; empty when there is none.
+QByteArray textOf(ipp_t *answer, const char *attribute);
+
+} // namespace printdialog

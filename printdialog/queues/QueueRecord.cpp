@@ -1,0 +1,60 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "QueueRecord.h"
+
+#include "CupsConnection.h"
+#include "PlainText.h"
+
+#include <QtCore/QCoreApplication>
+
+#include <array>
+
+namespace printdialog {
+
+namespace {
+
+constexpr qsizetype queueNameLimit = 127; // bytes
+
+} // namespace
+
+bool isQueueName(const QString &name)
+{
+    return !name.isEmpty() && name.toUtf8().size() <= queueNameLimit && plainText(name) == name &&
+           name.simplified() == name && !name.contains(u'/');
+}
+
+Result<QueueRecord, QueueFault> queueRecord(CupsConnection &connection, const QString &queueId)
+{
+    QueueRecord record;
+    const QString name = queueId.section(u'/', 0, 0);
+    record.name = name.toUtf8();
+    record.instance = queueId.section(u'/', 1).toUtf8();
+    if (!isQueueName(name) || hasControls(queueId))
+        return queueFailure(QueueFault::NotFound, queueId,
+                            QCoreApplication::translate("CupsConnection", "no printer can have this name"));
+    std::array<char, 1024> uri = {};
+    httpAssembleURIf(HTTP_URI_CODING_ALL, uri.data(), static_cast<int>(uri.size()), "ipp", nullptr,
+                     "localhost", 0, "/printers/%s", record.name.constData());
+    static constexpr std::array wanted = {"printer-uri-supported", "printer-is-accepting-jobs",
+                                          "printer-state", "printer-state-message", "printer-state-reasons"};
+    IppPointer request = ippRequest(IPP_OP_GET_PRINTER_ATTRIBUTES, uri.data());
+    ippAddStrings(request.get(), IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes",
+                  static_cast<int>(wanted.size()), nullptr, wanted.data());
+    const IppPointer answer = connection.answerTo(std::move(request), "/");
+    if (!answer || !connection.hasSucceeded())
+        return connection.lastFailure(queueId);
+    record.uri = textOf(answer.get(), "printer-uri-supported");
+    if (record.uri.isEmpty())
+        record.uri = uri.data();
+    record.stateMessage = QString::fromUtf8(textOf(answer.get(), "printer-state-message"));
+    record.stateReasons = textsOf(answer.get(), "printer-state-reasons");
+    record.stateReasons.removeAll(QStringLiteral("none"));
+    ipp_attribute_t *state = ippFindAttribute(answer.get(), "printer-state", IPP_TAG_ENUM);
+    record.isStopped = state && ippGetInteger(state, 0) == IPP_PSTATE_STOPPED;
+    ipp_attribute_t *accepts = ippFindAttribute(answer.get(), "printer-is-accepting-jobs", IPP_TAG_BOOLEAN);
+    record.acceptsJobs = !accepts || ippGetBoolean(accepts, 0) != 0;
+    return record;
+}
+
+} // namespace printdialog

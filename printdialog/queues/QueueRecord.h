@@ -1,0 +1,35 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include "QueueFault.h"
+
+#include <QtCore/QByteArray>
+#include <QtCore/QStringList>
+
+namespace printdialog {
+
+class CupsConnection;
+
+/// What has to be known of a queue before it is used.
+struct QueueRecord
+{
+    QByteArray name;
+    QByteArray instance;
+    QByteArray uri; ///< The queue's own, as the server gives it.
+    QString stateMessage;
+    QStringList stateReasons; ///< Keywords.
+    bool acceptsJobs = false;
+    bool isStopped = false;
+};
+
+/// Asks the server about a queue. A name that no queue can have is not cleaned, but not found. Failures:
+/// NotFound, Refused, TimedOut, Failed.
+Result<QueueRecord, QueueFault> queueRecord(CupsConnection &connection, const QString &queueId);
+
+/// Whether a queue can have this name: text that is not changed by being shown, and no longer than CUPS
+/// allows.
+bool isQueueName(const QString &name);
+
+} // namespace printdialog
