@@ -70,7 +70,7 @@ public:
     QString explanation() const;
 
 Q_SIGNALS:
-    /// A step was made, taken back or made again, or the steps start anew.
+    /// A step was made, taken back or made again, or the steps begin from here.
     void stepsChanged();
 
 private:
