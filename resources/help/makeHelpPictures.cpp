@@ -16,7 +16,7 @@ namespace {
 const QStringList pages = {QStringLiteral("coloradjust"), QStringLiteral("sharpness"),
                            QStringLiteral("matte"), QStringLiteral("summary")};
 /// What belongs to a page around the things that change from page to page: its frame.
-constexpr QMargins frame(14, 4, 22, 4);
+constexpr QMargins frame(8, 4, 22, 4);
 
 /// Where the two pictures differ.
 QRect difference(const QImage &one, const QImage &other)
