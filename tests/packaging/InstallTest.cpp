@@ -116,7 +116,8 @@ void InstallTest::findsItsParts()
     const QJsonObject info = QJsonDocument::fromJson(contentOf(bundle + "Info.json"_L1)).object();
     QCOMPARE("corvel-print " + info["CFBundleVersion"_L1].toString().toUtf8() + '\n',
              run({u"--version"_s}).output);
-    for (const char *help : {"index.html", "index_de.html", "style.css", "images/matte_de.png"})
+    for (const char *help : {"index.html", "index_de.html", "index_fr.html", "index_es.html", "index_ja.html",
+                             "style.css", "images/matte_de.png", "images/matte_ja.png"})
         QVERIFY(QFile::exists(bundle + "Resources/Corvel9031Help/"_L1 + QLatin1String(help)));
     for (const char *file :
          {"applications/org.corvel.print.desktop", "metainfo/org.corvel.print.metainfo.xml",

@@ -67,7 +67,7 @@ private:
             page_.topics.last().facts.append(QList<HelpData>());
         if (name == QLatin1String("data"))
             dataValue_ = value("value");
-        if (name == QLatin1String("data") || isHeading(name))
+        if (name == QLatin1String("data") || name == QLatin1String("b") || isHeading(name))
             text_.clear();
     }
 
@@ -75,6 +75,8 @@ private:
     {
         if (isHeading(name))
             page_.topics.last().heading = text_.simplified();
+        if (name == QLatin1String("b"))
+            page_.terms.append(text_.simplified());
         if (name == QLatin1String("data") && !page_.topics.isEmpty() &&
             !page_.topics.constLast().facts.isEmpty())
             page_.topics.last().facts.last().append({dataValue_, text_.simplified()});

@@ -38,6 +38,7 @@ struct HelpPage
     QString language;
     QStringList anchors; ///< in order
     QStringList links;   ///< style sheets too
+    QStringList terms;   ///< what is set in bold: buttons and keys
     QList<HelpPicture> pictures;
     QList<HelpTopic> topics;
 

@@ -17,6 +17,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 const QString helpFolder = QStringLiteral(CORVEL_SOURCE_DIR "/resources/help/");
+const QStringList languages = {u"en"_s, u"de"_s, u"fr"_s, u"es"_s, u"ja"_s};
 const QString ppdPath = QStringLiteral(CORVEL_PPD);
 
 QString pagePath(const QString &book, const QString &language)
@@ -33,6 +34,32 @@ QMap<QString, QString> panelTexts(const QString &language)
          readTs(QStringLiteral(CORVEL_SOURCE_DIR "/resources/strings/Localizable_%1.ts").arg(language)))
         texts.insert(entry.source, entry.translations.value(0));
     return texts;
+}
+
+void addLanguages()
+{
+    QTest::addColumn<QString>("language");
+    for (const QString &language : languages)
+        QTest::newRow(qPrintable(language)) << language;
+}
+
+/// A text of the program's without what underlines a letter of it or says that more follows.
+QString plainTerm(QString text)
+{
+    static const QRegularExpression letter(u"\\(&\\w\\)|&|…"_s);
+    return text.remove(letter);
+}
+
+/// The program's translations of an English term; a term may be another text in another place.
+QStringList translationsOf(const QString &term, const QString &language)
+{
+    QStringList translations;
+    for (const TsEntry &entry :
+         readTs(QStringLiteral(CORVEL_SOURCE_DIR "/resources/i18n/corvel-print_%1.ts").arg(language))) {
+        if (plainTerm(entry.source) == term)
+            translations.append(plainTerm(entry.translations.value(0)));
+    }
+    return translations;
 }
 
 /// What the PPD's constraints put against the option: "CHOICE OTHEROPTION OTHERCHOICE".
@@ -81,10 +108,14 @@ class HelpTest : public QObject
 private Q_SLOTS:
     void isWhole_data();
     void isWhole();
-    void isTheSameInBothLanguages();
-    void explainsEveryOption_data();
+    void isTheSameInEveryLanguage_data() { addLanguages(); }
+    void isTheSameInEveryLanguage();
+    void explainsEveryOption_data() { addLanguages(); }
     void explainsEveryOption();
+    void callsThingsAsThePanelsDo_data() { addLanguages(); }
     void callsThingsAsThePanelsDo();
+    void callsThingsAsTheProgramDoes_data() { addLanguages(); }
+    void callsThingsAsTheProgramDoes();
 };
 
 void HelpTest::isWhole_data()
@@ -92,7 +123,7 @@ void HelpTest::isWhole_data()
     QTest::addColumn<QString>("book");
     QTest::addColumn<QString>("language");
     for (const QString &book : {u"Corvel9031Help"_s, u"program"_s}) {
-        for (const QString &language : {u"en"_s, u"de"_s})
+        for (const QString &language : languages)
             QTest::addRow("%s %s", qPrintable(book), qPrintable(language)) << book << language;
     }
 }
@@ -128,22 +159,18 @@ void HelpTest::isWhole()
         QVERIFY2(page.links.contains(u'#' + topic.anchor), qPrintable(topic.heading));
 }
 
-void HelpTest::isTheSameInBothLanguages()
+void HelpTest::isTheSameInEveryLanguage()
 {
+    QFETCH(QString, language);
     for (const QString &book : {u"Corvel9031Help"_s, u"program"_s}) {
         const HelpPage english = readHelpPage(pagePath(book, u"en"_s));
-        const HelpPage german = readHelpPage(pagePath(book, u"de"_s));
+        const HelpPage translated = readHelpPage(pagePath(book, language));
         QVERIFY(english.anchors.size() > 8);
-        QCOMPARE(german.anchors, english.anchors);
-        QCOMPARE(german.pictures.size(), english.pictures.size());
+        QCOMPARE(translated.anchors, english.anchors);
+        QCOMPARE(translated.pictures.size(), english.pictures.size());
+        QCOMPARE(translated.links.size(), english.links.size());
+        QCOMPARE(translated.terms.size(), english.terms.size());
     }
-}
-
-void HelpTest::explainsEveryOption_data()
-{
-    QTest::addColumn<QString>("language");
-    for (const char *language : {"en", "de"})
-        QTest::newRow(language) << QString::fromLatin1(language);
 }
 
 // Its range or choices, its default and what it excludes are those of the printer.
@@ -179,15 +206,32 @@ void HelpTest::callsThingsAsThePanelsDo()
                                              {u"sharpness"_s, u"corvelSharpness"_s},
                                              {u"matte"_s, u"corvelOptions"_s},
                                              {u"defaults"_s, u"corvelDefaults"_s}};
-    for (const QString &language : {u"en"_s, u"de"_s}) {
-        const HelpPage page = readHelpPage(pagePath(u"Corvel9031Help"_s, language));
-        const QMap<QString, QString> texts = panelTexts(language);
-        for (auto entry = headings.cbegin(); entry != headings.cend(); ++entry) {
-            const HelpTopic *topic = page.topic(entry.key());
-            QVERIFY2(topic, qPrintable(entry.key()));
-            QCOMPARE(topic->heading, texts.value(*entry));
-        }
+    QFETCH(QString, language);
+    const HelpPage page = readHelpPage(pagePath(u"Corvel9031Help"_s, language));
+    const QMap<QString, QString> texts = panelTexts(language);
+    for (auto entry = headings.cbegin(); entry != headings.cend(); ++entry) {
+        const HelpTopic *topic = page.topic(entry.key());
+        QVERIFY2(topic, qPrintable(entry.key()));
+        QCOMPARE(topic->heading, texts.value(*entry));
     }
+}
+
+// Whatever the English help sets in bold and the program shows is in the other languages' help as the program
+// shows it there.
+void HelpTest::callsThingsAsTheProgramDoes()
+{
+    QFETCH(QString, language);
+    const HelpPage page = readHelpPage(pagePath(u"program"_s, language));
+    qsizetype known = 0;
+    for (const QString &term : readHelpPage(pagePath(u"program"_s, u"en"_s)).terms) {
+        const QStringList translations =
+            language == "en"_L1 ? QStringList{term} : translationsOf(term, language);
+        const bool isThere = std::ranges::any_of(
+            translations, [&page](const QString &translation) { return page.terms.contains(translation); });
+        QVERIFY2(translations.isEmpty() || isThere, qPrintable(term));
+        known += translations.isEmpty() ? 0 : 1;
+    }
+    QVERIFY(known > 12);
 }
 
 QTEST_GUILESS_MAIN(HelpTest)

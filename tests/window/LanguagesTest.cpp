@@ -1,18 +1,22 @@
 // SPDX-FileCopyrightText: Corvel print dialog authors
 // SPDX-License-Identifier: Apache-2.0
 
+#include "Bundle.h"
+#include "HelpWindow.h"
 #include "OpenedDialog.h"
 #include "SystemLog.h"
 #include "WindowPlacement.h"
 
 #include <QtCore/QTranslator>
 #include <QtGui/QAccessible>
+#include <QtGui/QDesktopServices>
 #include <QtTest/QTest>
 #include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QSlider>
 #include <QtWidgets/QTabBar>
+#include <QtWidgets/QTextBrowser>
 
 #include <algorithm>
 
@@ -76,8 +80,12 @@ private Q_SLOTS:
     void keysAreUnique();
     void controlsAreNamed();
     void placementIsKept();
+    void helpIsInTheLanguage();
+
+    void takeUrl(const QUrl &url) { url_ = url; }
 
 private:
+    QUrl url_;
     QTranslator translator_;
     QTemporaryDir config_;
 };
@@ -181,6 +189,24 @@ void LanguagesTest::placementIsKept()
     const OpenedDialog again(PanelMode::Constraint);
     QVERIFY(again.dialog->restoreGeometry(WindowPlacement::load()));
     QCOMPARE(again.dialog->size(), size);
+}
+
+void LanguagesTest::helpIsInTheLanguage()
+{
+    QFETCH_GLOBAL(QString, language);
+    const QString page = language == "en"_L1 ? u"/index.html"_s : u"/index_%1.html"_s.arg(language);
+    QWidget parent;
+    HelpWindow::showFor(&parent);
+    const auto *text = parent.findChild<QTextBrowser *>();
+    QVERIFY2(text->source().path().endsWith(page), qPrintable(text->source().path()));
+    QVERIFY(text->toPlainText().contains("CUPS"_L1));
+    const auto bundle =
+        pdekit::Bundle::open(qEnvironmentVariable("CORVEL_PDE_PATH") + "/Corvel9031.bundle"_L1);
+    pdekit::Feedback::install(nullptr); // the desktop's
+    QDesktopServices::setUrlHandler(u"file"_s, this, "takeUrl");
+    QVERIFY(pdekit::Feedback::current().openHelpBook(*bundle, u"Corvel9031Help"_s));
+    QDesktopServices::unsetUrlHandler(u"file"_s);
+    QVERIFY2(url_.path().endsWith("Corvel9031Help"_L1 + page), qPrintable(url_.path()));
 }
 
 QTEST_MAIN(LanguagesTest)
