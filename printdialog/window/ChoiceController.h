@@ -64,7 +64,7 @@ public:
     void explainJob();
 
     /// Keeps the choices for the next time with this printer. A sentence when that fails.
-    QString keep(const JobOptions &job) const;
+    QString keep(const JobOptions &job);
 
     /// What is being explained beside a control; empty when nothing is.
     QString explanation() const;

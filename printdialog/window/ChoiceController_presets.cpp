@@ -77,8 +77,9 @@ void ChoiceController::setSession(DialogSession *session)
     sayLeftOut(tr("Of the choices used last, some are left out:"), leftOut);
 }
 
-QString ChoiceController::keep(const JobOptions &job) const
+QString ChoiceController::keep(const JobOptions &job)
 {
+    noteStep(false); // what took the place of a dropped choice
     QMap<QString, QString> choices = job.options;
     choices.insert(QLatin1String(copiesOption), QString::number(widgets_.copies->value()));
     const auto failure = QueueSettings::save(queueOf(session_->printer()), choices);
@@ -190,6 +191,7 @@ std::optional<QMap<QString, QString>> ChoiceController::kept()
         explainJob();
         return std::nullopt;
     }
+    noteStep(false); // what took the place of a dropped choice
     QMap<QString, QString> choices = job->options;
     choices.insert(QLatin1String(copiesOption), QString::number(widgets_.copies->value()));
     return choices;

@@ -51,4 +51,6 @@ void ChoiceTest::numberLeftUnfinished()
     const QJsonObject summary = QJsonDocument::fromJson(ticket.readAll()).object()[u"summary"_s].toObject();
     QCOMPARE(summary[u"Red"_s].toString(), shown);
     QCOMPARE(opened.fieldText(81), shown);
+    pressUndo(opened); // back to what was there before that
+    QCOMPARE(opened.fieldText(81), isMarked ? u"0"_s : u"-12"_s);
 }
