@@ -7,6 +7,7 @@
 #include "Bundle.h"
 #include "ControlAction.h"
 #include "KeyValueObject.h"
+#include "NumberField.h"
 #include "PlatformException.h"
 #include "RadioMatrix.h"
 
@@ -106,6 +107,7 @@ std::unique_ptr<QWidget> loadForm(const Bundle &bundle, const QString &name, Key
         connectToOwner(each, owner);
         localizeAccessibleTexts(each, bundle);
     }
+    NumberField::attachIn(view.get(), bundle);
     bindControls(view.get(), owner);
     return view;
 }

@@ -19,7 +19,9 @@ class KeyValueObject;
 /// of its actions: where a control's dynamic property `action` names an invokable member of `owner` that
 /// takes a QObject *, each action of the user on the control calls it with the control. Accessible names and
 /// descriptions are keys of the bundle's strings table and are localised here. Controls are bound to the
-/// owner's values (bindControls). The form's root is the view, named `PDEView`.
+/// owner's values (bindControls). A text field whose property `numberOf` names a slider takes numbers as
+/// people type them, with the user's decimal separator, and says the slider's range, which a label whose
+/// property `rangeOf` names the slider shows. The form's root is the view, named `PDEView`.
 ///
 /// Null when the bundle has no such form, or it cannot be read as one. Throws PlatformException when the form
 /// names an action that `owner` does not have.

@@ -171,5 +171,14 @@
         <source>corvelIntensityValue</source>
         <translation>Wert für die Schärfeintensität</translation>
     </message>
+    <message>
+        <source>pdekitRange</source>
+        <translatorcomment>The range of a number, from its least (%1) to its greatest (%2).</translatorcomment>
+        <translation>%1 bis %2</translation>
+    </message>
+    <message>
+        <source>pdekitOutOfRange</source>
+        <translation>Geben Sie eine Zahl von %1 bis %2 ein.</translation>
+    </message>
 </context>
 </TS>

@@ -171,5 +171,14 @@
         <source>corvelIntensityValue</source>
         <translation>Sharpness intensity value</translation>
     </message>
+    <message>
+        <source>pdekitRange</source>
+        <translatorcomment>The range of a number, from its least (%1) to its greatest (%2).</translatorcomment>
+        <translation>%1 to %2</translation>
+    </message>
+    <message>
+        <source>pdekitOutOfRange</source>
+        <translation>Enter a number from %1 to %2.</translation>
+    </message>
 </context>
 </TS>

@@ -171,5 +171,14 @@
         <source>corvelIntensityValue</source>
         <translation>Valor de la intensidad de nitidez</translation>
     </message>
+    <message>
+        <source>pdekitRange</source>
+        <translatorcomment>The range of a number, from its least (%1) to its greatest (%2).</translatorcomment>
+        <translation>%1 a %2</translation>
+    </message>
+    <message>
+        <source>pdekitOutOfRange</source>
+        <translation>Escriba un número de %1 a %2.</translation>
+    </message>
 </context>
 </TS>

@@ -171,5 +171,14 @@
         <source>corvelIntensityValue</source>
         <translation>Valeur de l’intensité de netteté</translation>
     </message>
+    <message>
+        <source>pdekitRange</source>
+        <translatorcomment>The range of a number, from its least (%1) to its greatest (%2).</translatorcomment>
+        <translation>%1 à %2</translation>
+    </message>
+    <message>
+        <source>pdekitOutOfRange</source>
+        <translation>Saisissez un nombre de %1 à %2.</translation>
+    </message>
 </context>
 </TS>

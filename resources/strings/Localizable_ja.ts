@@ -171,5 +171,14 @@
         <source>corvelIntensityValue</source>
         <translation>シャープネスの強さの値</translation>
     </message>
+    <message>
+        <source>pdekitRange</source>
+        <translatorcomment>The range of a number, from its least (%1) to its greatest (%2).</translatorcomment>
+        <translation>%1～%2</translation>
+    </message>
+    <message>
+        <source>pdekitOutOfRange</source>
+        <translation>%1から%2までの数値を入力してください。</translation>
+    </message>
 </context>
 </TS>

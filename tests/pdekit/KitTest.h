@@ -40,6 +40,9 @@ private Q_SLOTS:
     void otherValues();
     void actionsOfUsersOnly();
     void textFieldEvents();
+    void decimalSeparators_data();
+    void decimalSeparators();
+    void rangeOfANumber();
     void viewsByTag();
     void desktopFeedback();
     void boundValueFollowsTheControl_data();

@@ -5,6 +5,7 @@
 #include "ControlAction.h"
 #include "ControlValues.h"
 #include "Feedback.h"
+#include "FormLoader.h"
 #include "KitTest.h"
 #include "RadioMatrix.h"
 #include "TextFieldEvents.h"
@@ -13,6 +14,7 @@
 
 #include <QtCore/QDir>
 #include <QtCore/QLocale>
+#include <QtCore/QRegularExpression>
 #include <QtCore/QTemporaryDir>
 #include <QtCore/QTimer>
 #include <QtCore/QVariant>
@@ -210,6 +212,109 @@ void KitTest::textFieldEvents()
     QTest::keyClick(&field, Qt::Key_C);
     other.setFocus();
     QCOMPARE(counts(), QList<qsizetype>({3, 3, 2}));
+}
+
+void KitTest::decimalSeparators_data()
+{
+    QTest::addColumn<QString>("locale");
+    QTest::addColumn<QString>("before"); // the cursor
+    QTest::addColumn<QString>("after");
+    QTest::addColumn<QString>("input");
+    QTest::addColumn<QString>("shown"); // with the cursor as "|"
+    const auto row = [](const char *name, const char *locale, const char *before, const char *after,
+                        const char *input, const char *shown) {
+        QTest::newRow(name) << text(locale) << text(before) << text(after) << text(input) << text(shown);
+    };
+    row("German", "de", "", "", "1,5", "1.5|");
+    row("French", "fr", "", "", "-0,25", "-0.25|");
+    row("Spanish", "es", "", "", ",5", ".5|");
+    row("a point", "de", "", "", "1.5", "1.5|");
+    row("within a number", "de", "1", "25", ",", "1.|25");
+    row("before a number", "de", "", "5", "0,", "0.|5");
+    row("German thousands", "de", "", "", "1.000,5", "1.000.5|");
+    row("English thousands", "en", "", "", "1,000.5", "1,000.5|");
+    row("without a locale", "C", "", "", "1,5", "1,5|");
+}
+
+// Typed and pasted: who listens sees a point, once for each edit, and the cursor stands behind what was put
+// in.
+void KitTest::decimalSeparators()
+{
+    QFETCH(QString, before);
+    QFETCH(QString, after);
+    QFETCH(QString, input);
+    const auto restore = qScopeGuard([] { QLocale::setDefault(QLocale::c()); });
+    QFETCH(QString, locale);
+    QLocale::setDefault(QLocale(locale));
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(text("HoloProjector")));
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(text("HoloLayout")));
+    const auto view =
+        pdekit::loadForm(pdekit::Bundle::bundleForClass(staticMetaObject), text("controls"), this);
+    auto *field = view->findChild<QLineEdit *>(text("field"));
+    QStringList heard;
+    connect(pdekit::TextFieldEvents::attach(field), &pdekit::TextFieldEvents::textDidChange, field,
+            [&heard, field] { heard << field->text(); });
+    QFETCH(QString, shown);
+    for (const bool pastes : {false, true}) {
+        pdekit::setStringValue(field, before + after);
+        field->setCursorPosition(static_cast<int>(before.size()));
+        heard.clear();
+        if (pastes)
+            field->insert(input);
+        else
+            QTest::keyClicks(field, input);
+        QCOMPARE(heard.size(), pastes ? 1 : input.size());
+        QCOMPARE(heard.constLast(), field->text());
+        QCOMPARE(field->text().insert(field->cursorPosition(), u'|'), shown);
+    }
+    pdekit::setStringValue(field, text("1,5"));
+    QCOMPARE(field->text(), text("1,5")); // a program's text
+}
+
+void KitTest::rangeOfANumber()
+{
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(text("HoloProjector")));
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(text("HoloLayout")));
+    const auto view =
+        pdekit::loadForm(pdekit::Bundle::bundleForClass(staticMetaObject), text("controls"), this);
+    auto *field = view->findChild<QLineEdit *>(text("field"));
+    const auto *range = view->findChild<QLabel *>(text("range"));
+    auto *slider = view->findChild<QSlider *>(text("slider"));
+    slider->setProperty("decimals", 2);
+    slider->setRange(-50, 250);
+    QCOMPARE(range->text(), text("-0.50 to 2.50"));
+    QCOMPARE(field->accessibleDescription(), range->text());
+    field->setEnabled(false);
+    QVERIFY(!range->isEnabled());
+    field->setEnabled(true);
+    QVERIFY(range->isEnabled());
+
+    // Whoever listens puts "0.1" back, except that it lets "2" and what begins with it stand.
+    connect(pdekit::TextFieldEvents::attach(field), &pdekit::TextFieldEvents::textDidChange, field, [field] {
+        if (!field->text().startsWith(u'2'))
+            pdekit::setStringValue(field, text("0.1"));
+    });
+    view->show();
+    QVERIFY(QTest::qWaitForWindowActive(view.get()));
+    const auto note = [&view] {
+        const auto *label = view->findChild<QLabel *>(text("numberNote"));
+        return label && label->isVisible() ? label->text() : QString();
+    };
+    const QString sentence = text("Enter a number from -0.50 to 2.50.");
+    for (const auto &[typed, isTold] : {std::pair("9", true), std::pair("-9", true), std::pair("1", false),
+                                        std::pair("x", false), std::pair("29", false)}) {
+        field->setFocus();
+        field->selectAll();
+        field->insert(text(typed));
+        QCOMPARE(note(), isTold ? sentence : QString());
+    }
+    field->setText(text("9")); // a program's text
+    QCOMPARE(note(), QString());
+    field->selectAll();
+    field->insert(text("9"));
+    QCOMPARE(note(), sentence);
+    slider->setFocus();
+    QCOMPARE(note(), QString());
 }
 
 void KitTest::desktopFeedback()

@@ -144,9 +144,11 @@ void ChoiceTest::screenReaderIsTold()
     });
     const OpenedDialog opened(setup(mode));
     opened.type(81, u"25"_s);
+    opened.type(82, u"99"_s);
     QAccessible::installUpdateHandler(before);
     platform->setActive(false);
-    QCOMPARE(heard, QStringList{u"\"Red\" cannot be \"25\" while \"Print Quality\" is \"Standard\"."_s});
+    QCOMPARE(heard, QStringList({u"\"Red\" cannot be \"25\" while \"Print Quality\" is \"Standard\"."_s,
+                                 u"Enter a number from -25 to 25."_s}));
 }
 
 void ChoiceTest::calloutGoesByKeyAndByTheNextChoice()

@@ -79,6 +79,7 @@ private Q_SLOTS:
     void textsFit();
     void keysAreUnique();
     void controlsAreNamed();
+    void numbersAsPeopleTypeThem();
     void placementIsKept();
     void helpIsInTheLanguage();
 
@@ -175,6 +176,39 @@ void LanguagesTest::controlsAreNamed()
             QVERIFY2(isLabelled, qPrintable(nameOf(label)));
         }
     }
+}
+
+// With the language's decimal separator; the range stands beside the field, and a number out of it is told.
+void LanguagesTest::numbersAsPeopleTypeThem()
+{
+    const OpenedDialog opened(PanelMode::Constraint);
+    opened.type(81, u"99"_s);
+    QCOMPARE(opened.fieldText(81), u"9"_s);
+    const auto *note = opened.find<QLabel>(u"numberNote"_s);
+    QVERIFY(note && note->isVisible() && note->text().contains(u"-25"_s));
+    QCOMPARE(note->visibleRegion().boundingRect().size(), note->sizeHint());
+    for (int page = 0; page < 2; ++page) {
+        opened.dialog->showPage(page);
+        for (int tag = 81; const QWidget *field = opened.control(tag); ++tag) {
+            const auto *range = opened.find<QLabel>(field->objectName().replace(u"Field"_s, u"Range"_s));
+            QVERIFY(range && range->isVisible() && range->text().contains(u"25"_s) == (page == 0));
+            QCOMPARE(field->accessibleDescription(), range->text());
+            const QRect text(range->mapTo(opened.dialog.get(), QPoint()), range->size());
+            const QRect box(field->mapTo(opened.dialog.get(), QPoint()), field->size());
+            const bool isBeside =
+                text.left() > box.right() && std::abs(text.center().y() - box.center().y()) <= 1;
+            QVERIFY(isBeside || (text.top() > box.bottom() && text.right() == box.right()));
+        }
+    }
+    opened.type(82, u'1' + QLocale().decimalPoint() + u'5');
+    QCOMPARE(opened.fieldText(82), u"1.5"_s);
+    QTest::keyClick(opened.control(82), Qt::Key_Tab);
+    QCOMPARE(opened.fieldText(82), u"1.50"_s);
+    QCOMPARE(opened.dialog->message(), QString());
+    opened.click(u"print"_s);
+    QTRY_VERIFY(opened.hasPrinted());
+    QCOMPARE(opened.options()[u"SharpnessIntensity"_s].toString(), u"1.50"_s);
+    QCOMPARE(opened.options()[u"Red"_s].toString(), u"9"_s);
 }
 
 void LanguagesTest::placementIsKept()
