@@ -54,6 +54,8 @@ QString renderPages(PrintDialog &dialog, QApplication &application, const QDir &
         dialog.showPage(page);
         application.processEvents();
     }
+    dialog.resize(dialog.sizeHint());
+    application.processEvents();
     for (int page = 0; page < dialog.pageCount(); ++page) {
         dialog.showPage(page);
         application.processEvents();
@@ -108,7 +110,6 @@ int runScreenshot(const CommandLine &commandLine, QApplication &application)
                            .arg(folder.path()));
 
     PrintDialog dialog(setup);
-    dialog.resize(dialog.sizeHint());
     dialog.show();
     if (const QString failure = openPrinter(dialog, application, printer); !failure.isEmpty())
         return endWith(failure);

@@ -51,6 +51,7 @@ SentJobs::Outcome SentJobs::follow(const FollowLimits &limits,
                                       .arg(queue_, job.photo, QString::number(job.id),
                                            detail.isEmpty() ? tr("nobody said why") : detail);
         } else {
+            outcome.ids.append(job.id);
             outcome.printed.append(
                 tr("Printed %1 on %2 (job %3)").arg(job.photo, queue_, QString::number(job.id)));
         }
@@ -58,7 +59,7 @@ SentJobs::Outcome SentJobs::follow(const FollowLimits &limits,
     return outcome;
 }
 
-QStringList SentJobs::cancel() const
+QStringList SentJobs::cancel(int *over) const
 {
     QStringList failures;
     for (const Job &job : jobs_) {
@@ -66,6 +67,8 @@ QStringList SentJobs::cancel() const
         if (!cancelled)
             failures.append(tr("The job %1 for %2 could not be cancelled: %3")
                                 .arg(QString::number(job.id), job.photo, cancelled.failure().text));
+        else if (over && !*cancelled)
+            ++*over;
     }
     return failures;
 }

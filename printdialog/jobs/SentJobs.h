@@ -21,6 +21,7 @@ public:
     struct Outcome
     {
         QStringList printed; ///< A sentence for each job that the server says is done.
+        QList<int> ids;      ///< The ids of those jobs.
         QStringList waiting; ///< A sentence for each that stands still, and why; the server keeps it.
         std::optional<QString> failure; ///< Why one was not printed, the first such; a sentence.
     };
@@ -42,7 +43,8 @@ public:
                    int *cancel) const;
 
     /// Cancels what is not over yet. A sentence for each job that could not be cancelled.
-    QStringList cancel() const;
+    /// @param over how many were over already; may be null
+    QStringList cancel(int *over = nullptr) const;
 
 private:
     struct Job

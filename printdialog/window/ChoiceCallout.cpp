@@ -3,6 +3,7 @@
 
 #include "ChoiceCallout.h"
 
+#include "ElidingButton.h"
 #include "MessageTint.h"
 
 #include <QtCore/QEvent>
@@ -61,7 +62,7 @@ QRect inView(const QRect &control, const QRect &view)
 ChoiceCallout::ChoiceCallout(QWidget *window)
     : QFrame(window)
     , text_(new QLabel(this))
-    , offer_(new QPushButton(this))
+    , offer_(new ElidingButton(this))
     , close_(new QToolButton(this))
 {
     setObjectName(QStringLiteral("callout"));

@@ -3,7 +3,10 @@
 
 #include "MessageBar.h"
 
+#include "ElidingButton.h"
+#include "LimitedText.h"
 #include "MessageTint.h"
+#include "WrappingRow.h"
 
 #include <QtCore/QEvent>
 #include <QtCore/QUrl>
@@ -13,10 +16,16 @@
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QStyle>
+#include <QtWidgets/QVBoxLayout>
+
+#include <utility>
 
 namespace printdialog {
 
 namespace {
+
+constexpr int mostTextLines = 4;
+constexpr int mostDetailLines = 5;
 
 QStyle::StandardPixmap iconOf(MessageBar::Kind kind)
 {
@@ -27,6 +36,8 @@ QStyle::StandardPixmap iconOf(MessageBar::Kind kind)
         return QStyle::SP_MessageBoxWarning;
     case MessageBar::Kind::Error:
         return QStyle::SP_MessageBoxCritical;
+    case MessageBar::Kind::Question:
+        return QStyle::SP_MessageBoxQuestion;
     }
     return QStyle::SP_MessageBoxInformation;
 }
@@ -37,6 +48,7 @@ QColor tintOf(MessageBar::Kind kind)
     case MessageBar::Kind::Information:
         return {52, 120, 200};
     case MessageBar::Kind::Warning:
+    case MessageBar::Kind::Question:
         return {200, 140, 20};
     case MessageBar::Kind::Error:
         return {200, 60, 50};
@@ -49,79 +61,116 @@ QColor tintOf(MessageBar::Kind kind)
 MessageBar::MessageBar(QWidget *parent)
     : QFrame(parent)
     , icon_(new QLabel(this))
-    , text_(new QLabel(this))
+    , text_(new LimitedText(mostTextLines, this))
+    , details_(new LimitedText(mostDetailLines, this))
+    , showDetails_(new QPushButton(tr("Details"), this))
     , openFolder_(new QPushButton(tr("Open Folder"), this))
-    , actionButton_(new QPushButton(this))
+    , row_(new WrappingRow)
 {
     setFrameShape(QFrame::StyledPanel);
     setAutoFillBackground(true);
-    text_->setTextFormat(Qt::PlainText);
-    text_->setWordWrap(true);
-    text_->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    openFolder_->setAutoDefault(false);
-    actionButton_->setObjectName(QStringLiteral("messageAction"));
-    actionButton_->setAutoDefault(false);
+    details_->setObjectName(QStringLiteral("messageDetailText"));
+    showDetails_->setObjectName(QStringLiteral("messageDetails"));
+    showDetails_->setCheckable(true);
+    for (QPushButton *button : {showDetails_, openFolder_}) {
+        button->setAutoDefault(false);
+        button->hide();
+    }
+    row_->addWidget(text_);
+    row_->addWidget(showDetails_);
+    row_->addWidget(openFolder_);
+    auto *column = new QVBoxLayout;
+    column->addLayout(row_);
+    column->addWidget(details_);
     auto *layout = new QHBoxLayout(this);
     layout->setContentsMargins(8, 6, 8, 6);
-    layout->addWidget(icon_);
-    layout->addWidget(text_, 1);
-    layout->addWidget(openFolder_);
-    layout->addWidget(actionButton_);
+    layout->addWidget(icon_, 0, Qt::AlignTop);
+    layout->addLayout(column, 1);
+    connect(showDetails_, &QPushButton::toggled, this, &MessageBar::showDetails);
     connect(openFolder_, &QPushButton::clicked, this,
-            [this] { QDesktopServices::openUrl(QUrl::fromLocalFile(folder_)); });
-    connect(actionButton_, &QPushButton::clicked, this, [this] {
-        if (const auto action = action_) // which may show another message
-            action();
-    });
+            [this] { QDesktopServices::openUrl(QUrl::fromLocalFile(message_.folder)); });
     clear();
 }
 
-void MessageBar::show(Kind kind, const QString &text)
+void MessageBar::show(const Message &message)
 {
-    showWithFolder(kind, text, {});
-}
-
-void MessageBar::showWithFolder(Kind kind, const QString &text, const QString &folder)
-{
-    folder_ = folder;
-    action_ = nullptr;
-    say(kind, text);
+    message_ = message;
+    openFolder_->setVisible(!message.folder.isEmpty());
+    showDetails_->setVisible(!message.details.isEmpty());
+    showDetails_->setChecked(false);
+    showDetails(false);
+    details_->setText(message.details);
+    makeActions();
+    text_->setText(message.text);
+    applyColors();
+    setVisible(true);
+    // A screen reader says it at once.
+    setAccessibleName(message.text);
+    QAccessibleEvent alert(this, QAccessible::Alert);
+    QAccessible::updateAccessibility(&alert);
 }
 
 void MessageBar::showWithAction(Kind kind, const QString &text, const QString &actionText,
                                 const std::function<void()> &action)
 {
-    folder_.clear();
-    action_ = action;
-    actionButton_->setText(actionText);
-    say(kind, text);
+    show({kind, text, {}, {}, {{actionText, action}}});
 }
 
-void MessageBar::say(Kind kind, const QString &text)
+void MessageBar::ask(const QString &text, const QList<Action> &answers)
 {
-    kind_ = kind;
-    openFolder_->setVisible(!folder_.isEmpty());
-    actionButton_->setVisible(static_cast<bool>(action_));
-    text_->setText(text);
-    applyColors();
-    setVisible(true);
-    // A screen reader says it at once.
-    text_->setAccessibleName(text);
-    QAccessibleEvent alert(text_, QAccessible::Alert);
-    QAccessible::updateAccessibility(&alert);
+    show({Kind::Question, text, {}, {}, answers});
+    for (QPushButton *button : std::as_const(actionButtons_))
+        button->setAutoDefault(true); // Return answers
+    if (!actionButtons_.isEmpty())
+        actionButtons_.constFirst()->setFocus(Qt::OtherFocusReason);
+}
+
+void MessageBar::makeActions()
+{
+    for (QPushButton *button : std::exchange(actionButtons_, {})) {
+        button->hide();
+        button->deleteLater(); // it may be the one that was pressed
+    }
+    QWidget *previous = openFolder_;
+    for (qsizetype i = 0; i < message_.actions.size(); ++i) {
+        auto *button = new ElidingButton(message_.actions.at(i).text, this);
+        button->setObjectName(QStringLiteral("messageAction") + (i > 0 ? QString::number(i + 1) : QString()));
+        button->setAutoDefault(false);
+        connect(button, &QPushButton::clicked, this, [this, i] { take(i); });
+        row_->addWidget(button);
+        setTabOrder(previous, button);
+        previous = button;
+        actionButtons_.append(button);
+        button->show();
+    }
+}
+
+void MessageBar::take(qsizetype action)
+{
+    const std::function<void()> taken = message_.actions.at(action).take; // which may show another message
+    if (message_.kind == Kind::Question)
+        clear();
+    if (taken)
+        taken();
+}
+
+void MessageBar::showDetails(bool areShown)
+{
+    details_->setVisible(areShown);
 }
 
 void MessageBar::clear()
 {
-    text_->clear();
-    folder_.clear();
-    action_ = nullptr;
+    message_ = Message();
+    text_->setText({});
+    details_->setText({});
+    makeActions();
     setVisible(false);
 }
 
 QString MessageBar::text() const
 {
-    return text_->text();
+    return message_.text;
 }
 
 void MessageBar::changeEvent(QEvent *event)
@@ -134,10 +183,10 @@ void MessageBar::changeEvent(QEvent *event)
 void MessageBar::applyColors()
 {
     const int side = style()->pixelMetric(QStyle::PM_SmallIconSize, nullptr, this);
-    icon_->setPixmap(style()->standardIcon(iconOf(kind_), nullptr, this).pixmap(side, side));
+    icon_->setPixmap(style()->standardIcon(iconOf(message_.kind), nullptr, this).pixmap(side, side));
     QPalette colors = palette();
     if (parentWidget())
-        colors.setColor(QPalette::Window, tinted(parentWidget()->palette(), tintOf(kind_)));
+        colors.setColor(QPalette::Window, tinted(parentWidget()->palette(), tintOf(message_.kind)));
     setPalette(colors);
 }
 

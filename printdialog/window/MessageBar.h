@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <QtCore/QList>
 #include <QtWidgets/QFrame>
 
 #include <functional>
@@ -12,41 +13,67 @@ class QPushButton;
 
 namespace printdialog {
 
+class LimitedText;
+class WrappingRow;
+
 /// One message to the user inside the window, beside what it is about instead of in a box over it. Plain text
-/// only, since what it tells may come from another machine. Hidden while there is nothing to say.
+/// only, since what it tells may come from another machine, and of any length: the bar stays low, and
+/// scrolls. Hidden while there is nothing to say.
 class MessageBar : public QFrame
 {
     Q_OBJECT
 
 public:
-    enum class Kind { Information, Warning, Error };
+    enum class Kind { Information, Warning, Error, Question };
+
+    /// Something that can be done about a message, by a button.
+    struct Action
+    {
+        QString text;
+        std::function<void()> take;
+    };
+
+    struct Message
+    {
+        Kind kind = Kind::Information;
+        QString text;
+        QString details; ///< shown on demand; may be empty
+        QString folder;  ///< with a button that opens it in the desktop's file manager; may be empty
+        QList<Action> actions;
+    };
 
     explicit MessageBar(QWidget *parent = nullptr);
 
-    void show(Kind kind, const QString &text);
-    /// The same, with a button that opens the folder in the desktop's file manager.
-    void showWithFolder(Kind kind, const QString &text, const QString &folder);
-    /// The same, with a button for what can be done about it.
+    void show(const Message &message);
+    void show(Kind kind, const QString &text) { show(Message{kind, text, {}, {}, {}}); }
+    /// The message with a button for what can be done about it.
     void showWithAction(Kind kind, const QString &text, const QString &actionText,
                         const std::function<void()> &action);
+    /// Shows the question, with its first answer ready for the keyboard. An answer takes it away.
+    void ask(const QString &text, const QList<Action> &answers);
     void clear();
 
     QString text() const;
+    /// Whether it waits for an answer.
+    bool isAsking() const { return isVisible() && message_.kind == Kind::Question; }
 
 protected:
     void changeEvent(QEvent *event) override;
 
 private:
-    void say(Kind kind, const QString &text);
+    void makeActions();
+    void take(qsizetype action);
+    void showDetails(bool areShown);
     void applyColors();
 
     QLabel *icon_;
-    QLabel *text_;
+    LimitedText *text_;
+    LimitedText *details_;
+    QPushButton *showDetails_;
     QPushButton *openFolder_;
-    QPushButton *actionButton_;
-    std::function<void()> action_;
-    QString folder_;
-    Kind kind_ = Kind::Information;
+    WrappingRow *row_;
+    QList<QPushButton *> actionButtons_;
+    Message message_;
 };
 
 } // namespace printdialog

@@ -10,6 +10,7 @@
 #include "SystemLog.h"
 
 #include <QtWidgets/QLabel>
+#include <QtWidgets/QTabBar>
 #include <QtWidgets/QVBoxLayout>
 
 namespace printdialog {
@@ -89,6 +90,11 @@ QString PanelTabs::kindSuffix(int page) const
     if (page < 0 || page >= pages_.size())
         return {};
     return pages_.at(page).panel->panelKind().value_or(QString()).section(QLatin1Char('.'), -1);
+}
+
+QSize PanelTabs::sizeHint() const
+{
+    return QTabWidget::sizeHint().expandedTo({tabBar()->sizeHint().width(), 0});
 }
 
 void PanelTabs::showPage(int index)

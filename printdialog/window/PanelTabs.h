@@ -38,6 +38,9 @@ public:
     /// The last component of the kind of the panel on the page, such as "coloradjust"; empty for the summary.
     QString kindSuffix(int page) const;
 
+    /// With room for every tab; where there is less, the tabs scroll.
+    QSize sizeHint() const override;
+
 Q_SIGNALS:
     /// A panel's view is about to be seen for the first time.
     void viewMade(QWidget *view);

@@ -40,8 +40,6 @@ PhotoPane::PhotoPane(QWidget *parent)
     , remove_(new QPushButton(tr("Re&move"), this))
     , strip_(new PhotoStrip(this))
 {
-    // It takes what is left: a pane that asked for more would scroll before the preview is small.
-    preview_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
     preview_->setMinimumSize(smallestPreview);
     preview_->setObjectName(QStringLiteral("preview"));
     strip_->setObjectName(QStringLiteral("strip"));
@@ -170,6 +168,12 @@ void PhotoPane::place(const PlacementChoice &choice)
 bool PhotoPane::isReady() const
 {
     return photos_.isEmpty() || (preview_->isReady() && strip_->isReady());
+}
+
+// Where it is scrolled it takes no more than it needs: the preview becomes smaller first.
+int PhotoPane::heightForWidth(int width) const
+{
+    return layout()->minimumHeightForWidth(width);
 }
 
 void PhotoPane::browse()

@@ -46,6 +46,8 @@ public:
     /// Whether there is nothing left to be decoded for the preview and the strip.
     bool isReady() const;
 
+    int heightForWidth(int width) const override;
+
 Q_SIGNALS:
     /// Photos were added, removed or moved, or another one is current.
     void photosChanged();

@@ -73,15 +73,17 @@ PrintDialog::PrintDialog(const PrintDialogSetup &setup, QWidget *parent)
             &PrintDialog::showHelp);
     connect(new QShortcut(QKeySequence::Print, this), &QShortcut::activated, this, &PrintDialog::print);
     connect(ui_->save, &QPushButton::clicked, this, &PrintDialog::saveSettings);
-    connect(ui_->cancel, &QPushButton::clicked, this, &PrintDialog::reject);
+    connect(ui_->cancel, &QPushButton::clicked, this, &PrintDialog::cancelOrStop);
     connect(ui_->print, &QPushButton::clicked, this, &PrintDialog::print);
     connect(fetcher_, &PpdFetcher::fetched, this, &PrintDialog::takePpd);
     connect(
         fetcher_, &PpdFetcher::failed, this,
         [this](quint64 /*number*/, QueueFault reason, const QString &text) { takePpdFailure(reason, text); });
     connect(worker_, &PrintWorker::finished, this, &PrintDialog::finishPrinting);
-    connect(worker_, &PrintWorker::progress, ui_->progress, &PrintProgress::show);
-    connect(ui_->progress, &PrintProgress::stopped, worker_, &PrintWorker::cancel);
+    connect(worker_, &PrintWorker::progress, this, [this](const QString &text, qint64 done, qint64 total) {
+        if (!isStopping_)
+            ui_->progress->show(text, done, total);
+    });
     connect(ui_->printer, &PrinterChooser::currentUpdated, this, &PrintDialog::takeUpdate);
     connect(new TouchWatch(this), &TouchWatch::touched, ui_->printer, &PrinterChooser::keepCurrent);
     ui_->panels->setSummary([this] { return summary(); });
@@ -185,23 +187,6 @@ void PrintDialog::showHelp()
     if (panel && !panel->shouldShowHelp())
         return;
     HelpWindow::showFor(this);
-}
-
-void PrintDialog::reject()
-{
-    // What the print server has goes on without the window.
-    if (worker_->isBusy() && !worker_->isFollowing()) {
-        ui_->message->show(MessageBar::Kind::Warning,
-                           tr("Printing is under way. The window closes when it is done."));
-        worker_->leave();
-        const auto closeUnlessFailed = [this](const PrintOutcome &outcome) {
-            if (outcome.failure.isEmpty())
-                QDialog::reject();
-        };
-        connect(worker_, &PrintWorker::finished, this, closeUnlessFailed, Qt::SingleShotConnection);
-        return;
-    }
-    QDialog::reject();
 }
 
 } // namespace printdialog

@@ -6,6 +6,7 @@
 #include "JobSummary.h"
 #include "Photo.h"
 #include "PhotoPlacement.h"
+#include "PhotoPrinter.h"
 #include "PrinterDescription.h"
 #include "Queue.h"
 #include "QueueFault.h"
@@ -86,7 +87,11 @@ public:
 public Q_SLOTS:
     void print();
     void saveSettings();
+    /// Closes the window; while it prints it asks whether to stop that first.
     void reject() override;
+
+protected:
+    void closeEvent(QCloseEvent *event) override;
 
 private:
     // The printer
@@ -114,6 +119,10 @@ private:
     // Printing
     void finishPrinting(const PrintOutcome &outcome);
     std::optional<PrintJob> makeJob(QStringList &remarks);
+    void cancelOrStop();
+    void stopPrinting();
+    QString whatGoesOn() const;
+    void leave();
     void updateButtons();
 
     SummaryEntries summary() const;
@@ -132,6 +141,10 @@ private:
     bool wasChosen_ = false;    ///< by the user, this time or an earlier one
     QString whyNotReady_;       ///< why Print is off; empty when it is on
     QStringList remarks_;       ///< what was left out of the job that is printed
+    PrintTarget target_;        ///< of what is being printed, or was
+    bool hasPrinted_ = false;   ///< there was a run, whatever became of it
+    bool isStopping_ = false;   ///< the user wants what is printed stopped
+    bool isLeaving_ = false;    ///< what is asked is whether to close the window
     QString notKept_;           ///< why the choices are not kept for the next time; mostly empty
 };
 

@@ -3,6 +3,7 @@
 
 #include "ChoiceController.h"
 #include "DialogSession.h"
+#include "OutcomeText.h"
 #include "PpdFetcher.h"
 #include "PrintDialog.h"
 #include "PrintWorker.h"
@@ -10,6 +11,7 @@
 #include "ui_PrintDialog.h"
 
 #include <QtCore/QFileInfo>
+#include <QtGui/QCloseEvent>
 
 #include <utility>
 
@@ -25,6 +27,9 @@ void PrintDialog::updateButtons()
     ui_->print->setEnabled(reason.isEmpty());
     pdekit::setPlainToolTip(ui_->print, reason); // it may name a printer, or hold a PPD's words
     ui_->save->setEnabled(session_ != nullptr);
+    const QString end = hasPrinted_ ? tr("Close") : tr("Cancel");
+    ui_->cancel->setText(worker_->isBusy() ? tr("Stop") : end);
+    ui_->cancel->setEnabled(!isStopping_);
 }
 
 std::optional<PrintJob> PrintDialog::makeJob(QStringList &remarks)
@@ -60,43 +65,129 @@ void PrintDialog::print()
     const std::optional<PrintJob> job = makeJob(remarks);
     if (!job)
         return;
-    ui_->message->show(remarks.isEmpty() ? MessageBar::Kind::Information : MessageBar::Kind::Warning,
-                       (QStringList(tr("Printing…")) + remarks).join(QLatin1Char('\n')));
-    PrintTarget target;
+    ui_->message->clear();
+    if (!remarks.isEmpty())
+        ui_->message->show(MessageBar::Kind::Warning, remarks.join(u'\n'));
+    target_ = {};
     if (session_->printer().isBuiltIn)
-        target.folder.path = ui_->folder->text();
+        target_.folder.path = ui_->folder->text();
     else
-        target.queue = session_->printer().name;
+        target_.queue = session_->printer().name;
     remarks_ = remarks;
     remember(true);
     ui_->progress->show(tr("Printing…"));
-    worker_->print(ui_->photos->photos(), target, *job);
+    worker_->print(ui_->photos->photos(), target_, *job);
     updateButtons();
 }
 
 void PrintDialog::finishPrinting(const PrintOutcome &outcome)
 {
     ui_->progress->hide();
+    hasPrinted_ = true;
+    isStopping_ = false;
     updateButtons();
-    QStringList lines = outcome.printed + outcome.waiting + remarks_;
-    const bool isFine = outcome.waiting.isEmpty() && notKept_.isEmpty() && remarks_.isEmpty();
-    for (const QString &line : {outcome.failure, std::exchange(notKept_, QString())}) {
-        if (!line.isEmpty())
-            lines += line;
+    const OutcomeText text(outcome, target_);
+    MessageBar::Message message;
+    if (!outcome.failure.isEmpty())
+        message.kind = MessageBar::Kind::Error;
+    else if (!outcome.waiting.isEmpty() || !notKept_.isEmpty() || !remarks_.isEmpty() || outcome.wasStopped)
+        message.kind = MessageBar::Kind::Warning;
+    message.text = (QStringList(text.summary()) + remarks_ + QStringList(std::exchange(notKept_, QString())))
+                       .join(u'\n')
+                       .trimmed();
+    message.details = text.details();
+    if (target_.queue.isEmpty() && outcome.done > 0)
+        message.folder = QFileInfo(target_.folder.path).absoluteFilePath();
+    ui_->message->show(message);
+    if (outcome.hasOtherPpd) {
+        whyNotReady_ = outcome.failure;
+        updateButtons();
+        fetcher_->fetch(queue_.id());
     }
-    if (!outcome.failure.isEmpty()) {
-        ui_->message->show(MessageBar::Kind::Error, lines.join(u'\n'));
-        if (outcome.hasOtherPpd) {
-            whyNotReady_ = outcome.failure;
-            updateButtons();
-            fetcher_->fetch(queue_.id());
-        }
+}
+
+// The end: of printing, and of the window
+
+void PrintDialog::cancelOrStop()
+{
+    if (worker_->isBusy())
+        stopPrinting();
+    else
+        QDialog::reject();
+}
+
+void PrintDialog::stopPrinting()
+{
+    ui_->message->clear();
+    isStopping_ = true;
+    ui_->progress->show(tr("Stopping…"));
+    worker_->cancel();
+    updateButtons();
+}
+
+// Escape. It is pressed to be rid of a question as well.
+void PrintDialog::reject()
+{
+    if (!worker_->isBusy()) {
+        QDialog::reject();
+    } else if (ui_->message->isAsking()) {
+        ui_->message->clear();
+        ui_->cancel->setFocus(Qt::OtherFocusReason);
+    } else if (!isStopping_) {
+        isLeaving_ = false;
+        ui_->message->ask(tr("Stop printing? What is not printed yet is taken back."),
+                          {{tr("Stop Printing"),
+                            [this] {
+                                stopPrinting();
+                            }},
+                           {tr("Go On"), [this] {
+                                ui_->cancel->setFocus(Qt::OtherFocusReason);
+                            }}});
+    }
+}
+
+// The window goes only when it has said what that means, or is closed once more.
+void PrintDialog::closeEvent(QCloseEvent *event)
+{
+    if (!worker_->isBusy()) {
+        QDialog::closeEvent(event);
         return;
     }
-    ui_->cancel->setText(tr("Close"));
-    ui_->message->showWithFolder(
-        isFine ? MessageBar::Kind::Information : MessageBar::Kind::Warning, lines.join(u'\n'),
-        queue_.isBuiltIn ? QFileInfo(ui_->folder->text()).absoluteFilePath() : QString());
+    if (isLeaving_ && ui_->message->isAsking()) {
+        leave();
+        return;
+    }
+    event->ignore();
+    isLeaving_ = true;
+    ui_->message->ask(whatGoesOn(), {{tr("Close Window"),
+                                      [this] {
+                                          leave();
+                                      }},
+                                     {tr("Keep Open"), [this] {
+                                          ui_->cancel->setFocus(Qt::OtherFocusReason);
+                                      }}});
+}
+
+QString PrintDialog::whatGoesOn() const
+{
+    if (worker_->isFollowing())
+        return tr("The print server goes on printing when this window is closed.");
+    const auto count = static_cast<int>(ui_->photos->photos().size());
+    if (target_.queue.isEmpty())
+        return tr("Printed so far: %1 of %2 photos. The rest is not printed when this window is closed.")
+            .arg(worker_->sent())
+            .arg(count);
+    return tr("When this window is closed, the print server goes on printing the %1 of %2 photos that it "
+              "has. "
+              "The rest is not printed.")
+        .arg(worker_->sent())
+        .arg(count);
+}
+
+void PrintDialog::leave()
+{
+    worker_->giveUp();
+    QDialog::reject();
 }
 
 void PrintDialog::saveSettings()

@@ -3,32 +3,31 @@
 
 #include "PrintProgress.h"
 
+#include "LimitedText.h"
+
 #include <QtWidgets/QHBoxLayout>
-#include <QtWidgets/QLabel>
 #include <QtWidgets/QProgressBar>
-#include <QtWidgets/QPushButton>
 
 namespace printdialog {
 
+namespace {
+
+constexpr int mostLines = 2;
+
+} // namespace
+
 PrintProgress::PrintProgress(QWidget *parent)
     : QWidget(parent)
-    , text_(new QLabel(this))
+    , text_(new LimitedText(mostLines, this))
     , bar_(new QProgressBar(this))
-    , stop_(new QPushButton(tr("S&top Printing"), this))
 {
-    text_->setTextFormat(Qt::PlainText);
-    text_->setWordWrap(true);
+    text_->setObjectName(QStringLiteral("progressText"));
     bar_->setTextVisible(false);
     bar_->setAccessibleName(tr("Printing"));
-    bar_->setMaximumWidth(180);
-    stop_->setObjectName(QStringLiteral("stop"));
-    stop_->setAutoDefault(false);
     auto *layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(bar_);
-    layout->addWidget(text_, 1);
-    layout->addWidget(stop_);
-    connect(stop_, &QPushButton::clicked, this, &PrintProgress::stopped);
+    layout->addWidget(bar_, 1);
+    layout->addWidget(text_, 2);
     hide();
 }
 

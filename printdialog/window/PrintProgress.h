@@ -5,13 +5,13 @@
 
 #include <QtWidgets/QWidget>
 
-class QLabel;
 class QProgressBar;
-class QPushButton;
 
 namespace printdialog {
 
-/// How far printing is, with a button that stops it. Hidden while nothing is printed.
+class LimitedText;
+
+/// How far printing is. Hidden while nothing is printed.
 class PrintProgress : public QWidget
 {
     Q_OBJECT
@@ -25,13 +25,9 @@ public:
 
     QString text() const;
 
-Q_SIGNALS:
-    void stopped();
-
 private:
-    QLabel *text_;
+    LimitedText *text_;
     QProgressBar *bar_;
-    QPushButton *stop_;
 };
 
 } // namespace printdialog

@@ -5,6 +5,7 @@
 
 #include "SentJobs.h"
 
+#include <algorithm>
 #include <atomic>
 
 namespace printdialog {
@@ -15,35 +16,50 @@ struct PrintWorker::Flags
     static void raise(int &flag) { std::atomic_ref(flag).store(1); }
     static bool isRaised(int &flag) { return std::atomic_ref(flag).load() != 0; }
 
-    int cancel = 0;
-    int leave = 0;
+    int cancel = 0; ///< send nothing more
+    int keep = 0;   ///< but leave alone what was sent
+    int leave = 0;  ///< follow no longer
     int following = 0;
+    std::atomic<int> sent = 0;
 };
 
 namespace {
 
 using Progress = std::function<void(const QString &text, qint64 done, qint64 total)>;
 
+// Parts of the bar: sending is soon done, printing is not.
+constexpr int sendingShare = 100;
+constexpr int photoShare = 1000;
+
+/// Where the photo stands among those of the run, in front of what is done with it.
+QString counted(qsizetype photo, qsizetype count, const QString &text)
+{
+    return count == 1 ? text : PrintWorker::tr("%1 of %2: %3").arg(photo + 1).arg(count).arg(text);
+}
+
 /// Sends the photos, until one fails or the run is cancelled. Answers the jobs of a queue.
 SentJobs sendAll(const QList<PlacedPhoto> &photos, const PrintTarget &target, const PrintJob &job,
-                 int &cancel, const Progress &progress, PrintOutcome &outcome)
+                 int &cancel, std::atomic<int> &sentPhotos, const Progress &progress, PrintOutcome &outcome)
 {
     SentJobs jobs(target.queue);
     QString text;
     JobControl control;
     control.cancel = &cancel;
+    const qint64 share = target.queue.isEmpty() ? photoShare : sendingShare;
+    const qint64 all = photos.size() * photoShare;
     control.sent = [&](qint64 sent, qint64 total) {
-        progress(text, sent, total);
+        progress(text, sentPhotos * share + (total > 0 ? sent * share / total : 0), all);
     };
     PhotoPrinter printer(target, control);
     PrintJob photoJob = job;
     for (const auto &[photo, placement] : photos) {
         if (std::atomic_ref(cancel).load() != 0)
             break;
-        text = target.queue.isEmpty()
-                   ? PrintWorker::tr("Writing %1").arg(photo.fileName())
-                   : PrintWorker::tr("Sending %1 to %2").arg(photo.fileName(), target.queue);
-        progress(text, 0, 0);
+        text = counted(sentPhotos, photos.size(),
+                       target.queue.isEmpty()
+                           ? PrintWorker::tr("Writing %1").arg(photo.fileName())
+                           : PrintWorker::tr("Sending %1 to %2").arg(photo.fileName(), target.queue));
+        progress(text, sentPhotos * share, photos.size() == 1 ? 0 : all);
         photoJob.placement = placement;
         const auto printed = printer.print(photo, photoJob);
         if (!printed) {
@@ -51,9 +67,14 @@ SentJobs sendAll(const QList<PlacedPhoto> &photos, const PrintTarget &target, co
             outcome.hasOtherPpd = printed.failure().reason.queue == QueueFault::Changed;
             break;
         }
-        if (const int *id = std::get_if<int>(&*printed))
+        if (const int *id = std::get_if<int>(&*printed)) {
             jobs.add(photo.fileName(), *id);
+            outcome.jobs.append(*id);
+        } else {
+            ++outcome.done;
+        }
         outcome.printed.append(printedText(photo, target, *printed));
+        ++sentPhotos;
     }
     return jobs;
 }
@@ -70,16 +91,18 @@ PrintWorker::~PrintWorker()
     if (!thread_)
         return;
     disconnect(thread_.get(), nullptr, this, nullptr);
-    if (isFollowing())
-        leave();
-    else
-        cancel();
+    giveUp();
     thread_->wait();
 }
 
 bool PrintWorker::isFollowing() const
 {
     return flags_ && Flags::isRaised(flags_->following);
+}
+
+int PrintWorker::sent() const
+{
+    return flags_ ? flags_->sent.load() : 0;
 }
 
 void PrintWorker::cancel()
@@ -90,10 +113,12 @@ void PrintWorker::cancel()
     Flags::raise(flags_->leave);
 }
 
-void PrintWorker::leave()
+void PrintWorker::giveUp()
 {
-    if (flags_)
-        Flags::raise(flags_->leave);
+    if (!flags_)
+        return;
+    Flags::raise(flags_->keep); // before the thread sees that it is to end
+    cancel();
 }
 
 void PrintWorker::print(const QList<PlacedPhoto> &photos, const PrintTarget &target, const PrintJob &job)
@@ -105,20 +130,30 @@ void PrintWorker::print(const QList<PlacedPhoto> &photos, const PrintTarget &tar
         const Progress tell = [this](const QString &text, qint64 done, qint64 total) {
             Q_EMIT progress(text, done, total);
         };
-        const SentJobs jobs = sendAll(photos, target, job, flags->cancel, tell, *outcome);
+        outcome->total = static_cast<int>(photos.size());
+        const SentJobs jobs = sendAll(photos, target, job, flags->cancel, flags->sent, tell, *outcome);
         Flags::raise(flags->following);
         if (!jobs.isEmpty() && outcome->failure.isEmpty()) {
             const auto show = [&](int photo, const QString &state) {
-                tell(tr("%1: %2").arg(photos.value(photo).photo.fileName(), state), 0, 0);
+                const QString text = tr("%1: %2").arg(photos.value(photo).photo.fileName(), state);
+                const qint64 done = outcome->total * sendingShare + photo * qint64(photoShare - sendingShare);
+                tell(counted(photo, photos.size(), text), done,
+                     photos.size() == 1 ? 0 : photos.size() * photoShare);
             };
             const SentJobs::Outcome followed = jobs.follow({}, show, &flags->leave);
+            outcome->isFollowed = true;
             outcome->printed = followed.printed;
+            outcome->jobs = followed.ids;
+            outcome->done = static_cast<int>(followed.printed.size());
             outcome->waiting = followed.waiting;
             outcome->failure = followed.failure.value_or(QString());
         }
-        if (Flags::isRaised(flags->cancel)) {
-            const QStringList failures = jobs.cancel();
-            outcome->failure = failures.isEmpty() ? tr("Printing was stopped.") : failures.join(u' ');
+        if (Flags::isRaised(flags->cancel) && !Flags::isRaised(flags->keep)) {
+            int over = 0;
+            const QStringList failures = jobs.cancel(&over);
+            outcome->done = std::max(outcome->done, over);
+            outcome->wasStopped = failures.isEmpty();
+            outcome->failure = failures.join(u' ');
         }
     }));
     connect(thread_.get(), &QThread::finished, this, [this, outcome] {

@@ -14,9 +14,14 @@ namespace printdialog {
 /// What has become of the photos of one run.
 struct PrintOutcome
 {
-    QStringList printed;      ///< A sentence for each photo that was printed.
-    QStringList waiting;      ///< A sentence for each whose job stands still at the print server.
-    QString failure;          ///< What stopped the rest; empty when nothing did.
+    QStringList printed;     ///< A sentence for each photo that was printed, or just sent (isFollowed).
+    QList<int> jobs;         ///< The ids of the jobs that `printed` tells of; none from the built-in printer.
+    QStringList waiting;     ///< A sentence for each whose job stands still at the print server.
+    QString failure;         ///< What stopped the rest; empty when nothing did.
+    int total = 0;           ///< How many photos were to be printed.
+    int done = 0;            ///< How many the printer has printed, also of a run that was stopped.
+    bool wasStopped = false; ///< By the user, and nothing of it failed.
+    bool isFollowed = false; ///< The jobs were followed to their end.
     bool hasOtherPpd = false; ///< The queue's PPD is no more that from which the options were chosen.
 };
 
@@ -28,22 +33,25 @@ class PrintWorker : public QObject
 
 public:
     explicit PrintWorker(QObject *parent = nullptr);
-    /// Takes back what is being sent; jobs that the print server has go on.
+    /// As giveUp().
     ~PrintWorker() override;
 
     bool isBusy() const { return thread_ != nullptr; }
     /// Whether the print server or the folder has everything.
     bool isFollowing() const;
+    /// How many photos the print server or the folder has.
+    int sent() const;
     /// Prints the photos, each where it is placed, with the job's settings, one after the other. Not while
     /// busy.
     void print(const QList<PlacedPhoto> &photos, const PrintTarget &target, const PrintJob &job);
     /// Sends nothing more, and takes back the jobs that are not over.
     void cancel();
-    /// Once all is sent, follows the jobs no longer.
-    void leave();
+    /// Sends nothing more, takes back what is being sent, and follows no longer what the print server has:
+    /// that goes on.
+    void giveUp();
 
 Q_SIGNALS:
-    /// What is being done, in words, and how much of it; total is 0 when that is not known.
+    /// What is being done, in words, and how much of the whole run; total is 0 when that is not known.
     void progress(const QString &text, qint64 done, qint64 total);
     void finished(const printdialog::PrintOutcome &outcome);
 

@@ -145,7 +145,7 @@ QSize WrappingRow::minimumSize() const
     QSize size;
     for (const auto &item : items_) {
         if (!isHidden(item.get()))
-            size = size.expandedTo({widthOf(item.get()), item->minimumSize().height()});
+            size = size.expandedTo(item->minimumSize());
     }
     return size;
 }

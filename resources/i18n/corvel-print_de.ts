@@ -1339,6 +1339,45 @@ Beispiele:
         <source>Open Folder</source>
         <translation>Ordner öffnen</translation>
     </message>
+    <message>
+        <source>Details</source>
+        <translation>Details</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::OutcomeText</name>
+    <message>
+        <source>Printing was stopped.</source>
+        <translation>Das Drucken wurde gestoppt.</translation>
+    </message>
+    <message>
+        <source>Printed %1 photos in the folder %2</source>
+        <translation>%1 Fotos im Ordner %2 gedruckt</translation>
+    </message>
+    <message>
+        <source>Printed %1 photos on %2 (jobs %3 to %4)</source>
+        <translation>%1 Fotos auf %2 gedruckt (Aufträge %3 bis %4)</translation>
+    </message>
+    <message>
+        <source>Printed %1 photos on %2</source>
+        <translation>%1 Fotos auf %2 gedruckt</translation>
+    </message>
+    <message>
+        <source>Printing was stopped: printed %1 of %2 photos.</source>
+        <translation>Das Drucken wurde gestoppt: %1 von %2 Fotos gedruckt.</translation>
+    </message>
+    <message>
+        <source>Sent %1 of %2 photos to %3, which goes on printing.</source>
+        <translation>%1 von %2 Fotos an %3 gesendet; der Druck geht dort weiter.</translation>
+    </message>
+    <message>
+        <source>Printed %1 of %2 photos.</source>
+        <translation>%1 von %2 Fotos gedruckt.</translation>
+    </message>
+    <message>
+        <source>Not printed yet: %1; the print server keeps the jobs.</source>
+        <translation>Noch nicht gedruckt: %1; der Druckserver behält die Aufträge.</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::OutputFault</name>
@@ -1728,10 +1767,6 @@ Beispiele:
         <translation>Ordner für gedruckte Dateien</translation>
     </message>
     <message>
-        <source>Printing is under way. The window closes when it is done.</source>
-        <translation>Der Druck läuft. Das Fenster schließt sich, wenn er fertig ist.</translation>
-    </message>
-    <message>
         <source>The options of &quot;%1&quot; are being fetched from the print server.</source>
         <translation>Die Optionen von „%1“ werden vom Druckserver geholt.</translation>
     </message>
@@ -1775,13 +1810,53 @@ Beispiele:
         <source>The options of &quot;%1&quot; have changed. Your choices were kept as far as the printer still has them; look at them before you print.</source>
         <translation>Die Optionen von „%1“ haben sich geändert. Ihre Auswahl blieb erhalten, soweit der Drucker sie noch kennt; sehen Sie sie durch, bevor Sie drucken.</translation>
     </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Stoppen</translation>
+    </message>
+    <message>
+        <source>Stopping…</source>
+        <translation>Wird gestoppt…</translation>
+    </message>
+    <message>
+        <source>Stop Printing</source>
+        <translation>Drucken stoppen</translation>
+    </message>
+    <message>
+        <source>Go On</source>
+        <translation>Weiterdrucken</translation>
+    </message>
+    <message>
+        <source>Close Window</source>
+        <translation>Fenster schließen</translation>
+    </message>
+    <message>
+        <source>Keep Open</source>
+        <translation>Offen lassen</translation>
+    </message>
+    <message>
+        <source>The print server goes on printing when this window is closed.</source>
+        <translation>Der Druckserver druckt weiter, wenn dieses Fenster geschlossen wird.</translation>
+    </message>
+    <message>
+        <source>Stop printing? What is not printed yet is taken back.</source>
+        <translation>Drucken stoppen? Was noch nicht gedruckt ist, wird zurückgenommen.</translation>
+    </message>
+    <message>
+        <source>Printed so far: %1 of %2 photos. The rest is not printed when this window is closed.</source>
+        <translation>Bisher gedruckt: %1 von %2 Fotos. Der Rest wird nicht gedruckt, wenn dieses Fenster geschlossen wird.</translation>
+    </message>
+    <message>
+        <source>When this window is closed, the print server goes on printing the %1 of %2 photos that it has. The rest is not printed.</source>
+        <translation>Wird dieses Fenster geschlossen, druckt der Druckserver die %1 von %2 Fotos, die er hat, weiter. Der Rest wird nicht gedruckt.</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::PrintProgress</name>
-    <message>
-        <source>S&amp;top Printing</source>
-        <translation>Drucken s&amp;toppen</translation>
-    </message>
     <message>
         <source>Printing</source>
         <translation>Drucken</translation>
@@ -1802,8 +1877,8 @@ Beispiele:
         <translation>%1: %2</translation>
     </message>
     <message>
-        <source>Printing was stopped.</source>
-        <translation>Das Drucken wurde gestoppt.</translation>
+        <source>%1 of %2: %3</source>
+        <translation>%1 von %2: %3</translation>
     </message>
 </context>
 <context>

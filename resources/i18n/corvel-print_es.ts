@@ -1337,6 +1337,45 @@ Ejemplos:
         <source>Open Folder</source>
         <translation>Abrir carpeta</translation>
     </message>
+    <message>
+        <source>Details</source>
+        <translation>Detalles</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::OutcomeText</name>
+    <message>
+        <source>Printing was stopped.</source>
+        <translation>Se ha detenido la impresión.</translation>
+    </message>
+    <message>
+        <source>Printed %1 photos in the folder %2</source>
+        <translation>%1 fotos impresas en la carpeta %2</translation>
+    </message>
+    <message>
+        <source>Printed %1 photos on %2 (jobs %3 to %4)</source>
+        <translation>%1 fotos impresas en %2 (trabajos %3 a %4)</translation>
+    </message>
+    <message>
+        <source>Printed %1 photos on %2</source>
+        <translation>%1 fotos impresas en %2</translation>
+    </message>
+    <message>
+        <source>Printing was stopped: printed %1 of %2 photos.</source>
+        <translation>Se ha detenido la impresión: %1 de %2 fotos impresas.</translation>
+    </message>
+    <message>
+        <source>Sent %1 of %2 photos to %3, which goes on printing.</source>
+        <translation>Enviadas %1 de %2 fotos a %3, que sigue imprimiendo.</translation>
+    </message>
+    <message>
+        <source>Printed %1 of %2 photos.</source>
+        <translation>%1 de %2 fotos impresas.</translation>
+    </message>
+    <message>
+        <source>Not printed yet: %1; the print server keeps the jobs.</source>
+        <translation>Sin imprimir todavía: %1; el servidor de impresión conserva los trabajos.</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::OutputFault</name>
@@ -1726,10 +1765,6 @@ Ejemplos:
         <translation>Carpeta para los archivos impresos</translation>
     </message>
     <message>
-        <source>Printing is under way. The window closes when it is done.</source>
-        <translation>Impresión en curso. La ventana se cerrará cuando termine.</translation>
-    </message>
-    <message>
         <source>The options of &quot;%1&quot; are being fetched from the print server.</source>
         <translation>Se están obteniendo del servidor de impresión las opciones de «%1».</translation>
     </message>
@@ -1773,13 +1808,53 @@ Ejemplos:
         <source>The options of &quot;%1&quot; have changed. Your choices were kept as far as the printer still has them; look at them before you print.</source>
         <translation>Las opciones de «%1» han cambiado. Sus elecciones se han conservado en la medida en que la impresora aún las tiene; revíselas antes de imprimir.</translation>
     </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Detener</translation>
+    </message>
+    <message>
+        <source>Stopping…</source>
+        <translation>Deteniendo…</translation>
+    </message>
+    <message>
+        <source>Stop Printing</source>
+        <translation>Detener impresión</translation>
+    </message>
+    <message>
+        <source>Go On</source>
+        <translation>Continuar</translation>
+    </message>
+    <message>
+        <source>Close Window</source>
+        <translation>Cerrar ventana</translation>
+    </message>
+    <message>
+        <source>Keep Open</source>
+        <translation>Dejar abierta</translation>
+    </message>
+    <message>
+        <source>The print server goes on printing when this window is closed.</source>
+        <translation>El servidor de impresión sigue imprimiendo cuando se cierra esta ventana.</translation>
+    </message>
+    <message>
+        <source>Stop printing? What is not printed yet is taken back.</source>
+        <translation>¿Detener la impresión? Lo que aún no esté impreso se retira.</translation>
+    </message>
+    <message>
+        <source>Printed so far: %1 of %2 photos. The rest is not printed when this window is closed.</source>
+        <translation>Impresas hasta ahora: %1 de %2 fotos. El resto no se imprime si se cierra esta ventana.</translation>
+    </message>
+    <message>
+        <source>When this window is closed, the print server goes on printing the %1 of %2 photos that it has. The rest is not printed.</source>
+        <translation>Si se cierra esta ventana, el servidor de impresión sigue imprimiendo las %1 de %2 fotos que tiene. El resto no se imprime.</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::PrintProgress</name>
-    <message>
-        <source>S&amp;top Printing</source>
-        <translation>De&amp;tener la impresión</translation>
-    </message>
     <message>
         <source>Printing</source>
         <translation>Impresión</translation>
@@ -1800,8 +1875,8 @@ Ejemplos:
         <translation>%1: %2</translation>
     </message>
     <message>
-        <source>Printing was stopped.</source>
-        <translation>Se ha detenido la impresión.</translation>
+        <source>%1 of %2: %3</source>
+        <translation>%1 de %2: %3</translation>
     </message>
 </context>
 <context>

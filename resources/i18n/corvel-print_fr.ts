@@ -1338,6 +1338,45 @@ Exemples&#x202f;:
         <source>Open Folder</source>
         <translation>Ouvrir le dossier</translation>
     </message>
+    <message>
+        <source>Details</source>
+        <translation>Détails</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::OutcomeText</name>
+    <message>
+        <source>Printing was stopped.</source>
+        <translation>L’impression a été arrêtée.</translation>
+    </message>
+    <message>
+        <source>Printed %1 photos in the folder %2</source>
+        <translation>%1 photos imprimées dans le dossier %2</translation>
+    </message>
+    <message>
+        <source>Printed %1 photos on %2 (jobs %3 to %4)</source>
+        <translation>%1 photos imprimées sur %2 (tâches %3 à %4)</translation>
+    </message>
+    <message>
+        <source>Printed %1 photos on %2</source>
+        <translation>%1 photos imprimées sur %2</translation>
+    </message>
+    <message>
+        <source>Printing was stopped: printed %1 of %2 photos.</source>
+        <translation>L’impression a été arrêtée&#xa0;: %1 photos imprimées sur %2.</translation>
+    </message>
+    <message>
+        <source>Sent %1 of %2 photos to %3, which goes on printing.</source>
+        <translation>%1 photos sur %2 envoyées à %3, qui continue d’imprimer.</translation>
+    </message>
+    <message>
+        <source>Printed %1 of %2 photos.</source>
+        <translation>%1 photos imprimées sur %2.</translation>
+    </message>
+    <message>
+        <source>Not printed yet: %1; the print server keeps the jobs.</source>
+        <translation>Pas encore imprimées&#xa0;: %1&#xa0;; le serveur d’impression garde les tâches.</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::OutputFault</name>
@@ -1727,10 +1766,6 @@ Exemples&#x202f;:
         <translation>Dossier des fichiers imprimés</translation>
     </message>
     <message>
-        <source>Printing is under way. The window closes when it is done.</source>
-        <translation>Impression en cours. La fenêtre se fermera une fois l’impression terminée.</translation>
-    </message>
-    <message>
         <source>The options of &quot;%1&quot; are being fetched from the print server.</source>
         <translation>Les options de «&#x202f;%1&#x202f;» sont en cours de lecture sur le serveur d’impression.</translation>
     </message>
@@ -1774,13 +1809,53 @@ Exemples&#x202f;:
         <source>The options of &quot;%1&quot; have changed. Your choices were kept as far as the printer still has them; look at them before you print.</source>
         <translation>Les options de «&#xa0;%1&#xa0;» ont changé. Vos choix ont été conservés dans la mesure où l’imprimante les a encore&#xa0;; vérifiez-les avant d’imprimer.</translation>
     </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Arrêter</translation>
+    </message>
+    <message>
+        <source>Stopping…</source>
+        <translation>Arrêt…</translation>
+    </message>
+    <message>
+        <source>Stop Printing</source>
+        <translation>Arrêter l’impression</translation>
+    </message>
+    <message>
+        <source>Go On</source>
+        <translation>Continuer</translation>
+    </message>
+    <message>
+        <source>Close Window</source>
+        <translation>Fermer la fenêtre</translation>
+    </message>
+    <message>
+        <source>Keep Open</source>
+        <translation>Laisser ouverte</translation>
+    </message>
+    <message>
+        <source>The print server goes on printing when this window is closed.</source>
+        <translation>Le serveur d’impression continue d’imprimer quand cette fenêtre est fermée.</translation>
+    </message>
+    <message>
+        <source>Stop printing? What is not printed yet is taken back.</source>
+        <translation>Arrêter l’impression&#x202f;? Ce qui n’est pas encore imprimé est retiré.</translation>
+    </message>
+    <message>
+        <source>Printed so far: %1 of %2 photos. The rest is not printed when this window is closed.</source>
+        <translation>Photos imprimées jusqu’ici&#xa0;: %1 sur %2. Le reste n’est pas imprimé si cette fenêtre est fermée.</translation>
+    </message>
+    <message>
+        <source>When this window is closed, the print server goes on printing the %1 of %2 photos that it has. The rest is not printed.</source>
+        <translation>Si cette fenêtre est fermée, le serveur d’impression continue d’imprimer les %1 photos sur %2 qu’il a reçues. Le reste n’est pas imprimé.</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::PrintProgress</name>
-    <message>
-        <source>S&amp;top Printing</source>
-        <translation>Arrê&amp;ter l’impression</translation>
-    </message>
     <message>
         <source>Printing</source>
         <translation>Impression</translation>
@@ -1801,8 +1876,8 @@ Exemples&#x202f;:
         <translation>%1&#xa0;:&#xa0;%2</translation>
     </message>
     <message>
-        <source>Printing was stopped.</source>
-        <translation>L’impression a été arrêtée.</translation>
+        <source>%1 of %2: %3</source>
+        <translation>%1 sur %2&#xa0;: %3</translation>
     </message>
 </context>
 <context>

@@ -1335,6 +1335,45 @@ Examples:
         <source>Open Folder</source>
         <translation>フォルダーを開く</translation>
     </message>
+    <message>
+        <source>Details</source>
+        <translation>詳細</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::OutcomeText</name>
+    <message>
+        <source>Printing was stopped.</source>
+        <translation>印刷を中止しました。</translation>
+    </message>
+    <message>
+        <source>Printed %1 photos in the folder %2</source>
+        <translation>%1 枚の写真をフォルダー %2 に印刷しました</translation>
+    </message>
+    <message>
+        <source>Printed %1 photos on %2 (jobs %3 to %4)</source>
+        <translation>%1 枚の写真を %2 で印刷しました（ジョブ %3～%4）</translation>
+    </message>
+    <message>
+        <source>Printed %1 photos on %2</source>
+        <translation>%1 枚の写真を %2 で印刷しました</translation>
+    </message>
+    <message>
+        <source>Printing was stopped: printed %1 of %2 photos.</source>
+        <translation>印刷を中止しました: %2 枚中 %1 枚の写真を印刷しました。</translation>
+    </message>
+    <message>
+        <source>Sent %1 of %2 photos to %3, which goes on printing.</source>
+        <translation>%2 枚中 %1 枚の写真を %3 に送りました。印刷は続きます。</translation>
+    </message>
+    <message>
+        <source>Printed %1 of %2 photos.</source>
+        <translation>%2 枚中 %1 枚の写真を印刷しました。</translation>
+    </message>
+    <message>
+        <source>Not printed yet: %1; the print server keeps the jobs.</source>
+        <translation>まだ印刷されていない写真: %1 枚。ジョブはプリントサーバーに残ります。</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::OutputFault</name>
@@ -1723,10 +1762,6 @@ Examples:
         <translation>印刷したファイルの保存先</translation>
     </message>
     <message>
-        <source>Printing is under way. The window closes when it is done.</source>
-        <translation>印刷中です。終わるとウィンドウが閉じます。</translation>
-    </message>
-    <message>
         <source>The options of &quot;%1&quot; are being fetched from the print server.</source>
         <translation>「%1」のオプションをプリントサーバーから取得しています。</translation>
     </message>
@@ -1770,13 +1805,53 @@ Examples:
         <source>The options of &quot;%1&quot; have changed. Your choices were kept as far as the printer still has them; look at them before you print.</source>
         <translation>「%1」のオプションが変わりました。プリンターにまだある選択はそのまま残しました。印刷する前に確認してください。</translation>
     </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>中止</translation>
+    </message>
+    <message>
+        <source>Stopping…</source>
+        <translation>中止しています…</translation>
+    </message>
+    <message>
+        <source>Stop Printing</source>
+        <translation>印刷を中止</translation>
+    </message>
+    <message>
+        <source>Go On</source>
+        <translation>続ける</translation>
+    </message>
+    <message>
+        <source>Close Window</source>
+        <translation>ウィンドウを閉じる</translation>
+    </message>
+    <message>
+        <source>Keep Open</source>
+        <translation>開いたままにする</translation>
+    </message>
+    <message>
+        <source>The print server goes on printing when this window is closed.</source>
+        <translation>このウィンドウを閉じても、プリントサーバーは印刷を続けます。</translation>
+    </message>
+    <message>
+        <source>Stop printing? What is not printed yet is taken back.</source>
+        <translation>印刷を中止しますか？まだ印刷されていない写真は取り消されます。</translation>
+    </message>
+    <message>
+        <source>Printed so far: %1 of %2 photos. The rest is not printed when this window is closed.</source>
+        <translation>これまでに %2 枚中 %1 枚の写真を印刷しました。このウィンドウを閉じると、残りは印刷されません。</translation>
+    </message>
+    <message>
+        <source>When this window is closed, the print server goes on printing the %1 of %2 photos that it has. The rest is not printed.</source>
+        <translation>このウィンドウを閉じても、プリントサーバーは %2 枚中、受け取った %1 枚の印刷を続けます。残りは印刷されません。</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::PrintProgress</name>
-    <message>
-        <source>S&amp;top Printing</source>
-        <translation>印刷を中止(&amp;T)</translation>
-    </message>
     <message>
         <source>Printing</source>
         <translation>印刷</translation>
@@ -1797,8 +1872,8 @@ Examples:
         <translation>%1: %2</translation>
     </message>
     <message>
-        <source>Printing was stopped.</source>
-        <translation>印刷を中止しました。</translation>
+        <source>%1 of %2: %3</source>
+        <translation>%2 枚中 %1 枚目: %3</translation>
     </message>
 </context>
 <context>

@@ -36,6 +36,7 @@ private Q_SLOTS:
     void queueWithoutPpd();
     void statusIsShownInWords();
     void failingAndStoppedJobs();
+    void manyJobs();
 
 private:
     static PrintDialogSetup setup()
@@ -281,20 +282,51 @@ void QueueWindowTest::failingAndStoppedJobs()
     opened.dialog->print();
     QTRY_VERIFY(cupsd_.activeJobs().contains("odd-"));
     QVERIFY(opened.find<QWidget>(u"progress"_s)->isVisible());
-    opened.click(u"stop"_s);
+    opened.click(u"cancel"_s);
     QTRY_VERIFY(opened.dialog->message().contains(u"stopped"_s));
     QTRY_COMPARE(cupsd_.activeJobs(), QByteArray());
     QVERIFY(!opened.find<QWidget>(u"progress"_s)->isVisible());
-    // Closed while the printer works, the window leaves the job alone.
+    // Closed while the printer works, the window leaves the job alone, and says so before.
     opened.dialog->print();
     QTRY_VERIFY(cupsd_.activeJobs().contains("odd-"));
-    QTRY_VERIFY(!opened.find<QLabel>(u"progress"_s) &&
-                opened.find<QPushButton>(u"stop"_s)->parentWidget()->findChild<QLabel *>()->text().contains(
-                    u"printing"_s));
-    QTest::keyClick(opened.dialog.get(), Qt::Key_Escape);
+    QTRY_VERIFY(opened.find<QWidget>(u"progressText"_s)->accessibleName().contains(u"printing"_s));
+    opened.dialog->close();
+    QVERIFY(opened.dialog->isVisible());
+    QVERIFY2(opened.dialog->message().contains(u"goes on printing"_s), qPrintable(opened.dialog->message()));
+    opened.click(u"messageAction"_s);
     QVERIFY(opened.dialog->isHidden());
+    QTRY_VERIFY(opened.find<QWidget>(u"print"_s)->isEnabled()); // nothing follows the job any more
     QVERIFY(cupsd_.activeJobs().contains("odd-"));
     QVERIFY(cupsd_.run(u"cancel"_s, {u"-a"_s}));
+}
+
+// One line for all; and when it is stopped, how many came out.
+void QueueWindowTest::manyJobs()
+{
+    PrintDialogSetup three = setup();
+    three.photos = QList<Photo>(3, three.photos.constFirst());
+    const OpenedDialog opened(three);
+    choose(opened, u"odd"_s);
+    QVERIFY(cupsd_.setBackendScript("exit 0"));
+    opened.dialog->print();
+    QTRY_VERIFY_WITH_TIMEOUT(opened.dialog->message().contains(u"(jobs "_s), 15000);
+    static const QRegularExpression line(u"^Printed 3 photos on odd \\(jobs ([0-9]+) to ([0-9]+)\\)$"_s);
+    const QRegularExpressionMatch match = line.match(opened.dialog->message());
+    QVERIFY2(match.hasMatch(), qPrintable(opened.dialog->message()));
+    QCOMPARE(match.captured(2).toInt(), match.captured(1).toInt() + 2);
+    QCOMPARE(opened.find<QWidget>(u"messageDetailText"_s)->accessibleName().count(u"sample.jpg"_s), 3);
+
+    const int second = match.captured(2).toInt() + 2;
+    QVERIFY(cupsd_.setBackendScript("[ $1 -lt " + QByteArray::number(second) +
+                                    " ] && exit 0; trap 'exit 0' TERM; sleep 20 & wait"));
+    opened.dialog->print();
+    const auto *text = opened.find<QWidget>(u"progressText"_s);
+    QTRY_VERIFY_WITH_TIMEOUT(text->accessibleName().startsWith(u"2 of 3"_s) &&
+                                 text->accessibleName().contains(u"printing"_s),
+                             15000);
+    opened.click(u"cancel"_s);
+    QTRY_COMPARE(opened.dialog->message(), u"Printing was stopped: printed 1 of 3 photos."_s);
+    QTRY_COMPARE(cupsd_.activeJobs(), QByteArray());
 }
 
 QTEST_MAIN(QueueWindowTest)

@@ -1,0 +1,40 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include <QtWidgets/QScrollArea>
+
+class QLabel;
+
+namespace printdialog {
+
+/// Plain text of any length, wrapped, in a place of limited height: it scrolls, by keys as well, where it is
+/// longer than that.
+class LimitedText : public QScrollArea
+{
+    Q_OBJECT
+
+public:
+    /// @param mostLines how many lines of text are seen at once, at most
+    explicit LimitedText(int mostLines, QWidget *parent = nullptr);
+
+    void setText(const QString &text);
+    QString text() const;
+
+    bool hasHeightForWidth() const override { return true; }
+    int heightForWidth(int width) const override;
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+
+private:
+    int limit() const;
+
+    QLabel *label_;
+    int mostLines_;
+};
+
+} // namespace printdialog

@@ -1,0 +1,38 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include "PrintWorker.h"
+
+#include <QtCore/QCoreApplication>
+
+namespace printdialog {
+
+/// What is said about a run of photos: every photo's sentence when there is one photo, else how many were
+/// printed, with the sentences as details.
+class OutcomeText
+{
+    Q_DECLARE_TR_FUNCTIONS(printdialog::OutcomeText)
+
+public:
+    OutcomeText(const PrintOutcome &outcome, const PrintTarget &target)
+        : outcome_(outcome)
+        , target_(target)
+    {
+    }
+
+    /// Few lines, however many photos there are.
+    QString summary() const;
+    /// A line for each photo; empty when the summary says it all.
+    QString details() const;
+
+private:
+    QString counted() const;
+    QString allPrinted() const;
+
+    const PrintOutcome &outcome_;
+    const PrintTarget &target_;
+};
+
+} // namespace printdialog
