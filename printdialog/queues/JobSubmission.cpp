@@ -131,9 +131,10 @@ private:
         if (!answer || !connection_.hasSucceeded())
             return connection_.lastFailure(queue);
         ipp_attribute_t *attribute = ippFindAttribute(answer.get(), "job-id", IPP_TAG_INTEGER);
-        if (!attribute)
-            return queueFailure(QueueFault::Failed, queue);
-        const int id = ippGetInteger(attribute, 0);
+        const int id = attribute ? ippGetInteger(attribute, 0) : 0;
+        if (id <= 0)
+            return queueFailure(QueueFault::Failed, queue,
+                                Text::tr("it took the job without giving it a number"));
         if (control_.cancel && std::atomic_ref(*control_.cancel).load() != 0) {
             connection_.extend();
             [[maybe_unused]] const auto cancelled = cancelJob(connection_, queue, id);

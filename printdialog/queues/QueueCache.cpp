@@ -6,6 +6,7 @@
 #include "AtomicFiles.h"
 #include "PlainText.h"
 #include "PpdFetcher.h"
+#include "QueueRecord.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QFile>
@@ -71,10 +72,13 @@ std::optional<RememberedQueue> QueueCache::load()
     if (content[QLatin1String("version")].toInt() != version)
         return std::nullopt;
     RememberedQueue remembered;
+    const auto text = [&content](const char *name) {
+        return content[QLatin1String(name)].toString();
+    };
     for (const TextField &field : textFields)
-        remembered.queue.*field.member =
-            plainText(content[QLatin1String(field.name)].toString(), shownTextLimit);
-    if (remembered.queue.name.isEmpty())
+        remembered.queue.*field.member = plainText(text(field.name), shownTextLimit);
+    // What has to be cleaned would name another queue afterwards.
+    if (!isQueueName(text("name")) || remembered.queue.instance != text("instance"))
         return std::nullopt;
     remembered.queue.isClass = content[QLatin1String("isClass")].toBool();
     if (content[QLatin1String("isBuiltIn")].toBool())

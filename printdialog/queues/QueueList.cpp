@@ -35,6 +35,20 @@ public:
         return texts;
     }
     QString text(const char *name) const { return texts(name).value(0); }
+    /// The names of queues, as they are. One that needs cleaning is left out: it could not be handed back to
+    /// the server, and cleaned it may be that of another queue.
+    QStringList names(const char *attributeName) const
+    {
+        QStringList names;
+        ipp_attribute_t *attribute = attributes_.value(attributeName);
+        for (int i = 0; attribute && i < ippGetCount(attribute); ++i) {
+            const QByteArray bytes(ippGetString(attribute, i, nullptr));
+            const QString name = QString::fromUtf8(bytes);
+            if (isQueueName(name) && name.toUtf8() == bytes)
+                names.append(name);
+        }
+        return names;
+    }
 
     /// Of an integer or enumeration; `otherwise` when there is no such value.
     int number(const char *name, int otherwise, int index = 0) const
@@ -105,7 +119,7 @@ QList<Supply> suppliesOf(const QueueAttributes &attributes)
 Queue queueOf(const QueueAttributes &attributes)
 {
     Queue queue;
-    queue.name = attributes.text("printer-name");
+    queue.name = attributes.names("printer-name").value(0);
     queue.info = attributes.text("printer-info");
     if (queue.info.isEmpty())
         queue.info = queue.name;
@@ -118,7 +132,7 @@ Queue queueOf(const QueueAttributes &attributes)
     queue.stateReasons.removeAll(QStringLiteral("none"));
     queue.stateMessage = attributes.text("printer-state-message");
     queue.supplies = suppliesOf(attributes);
-    queue.members = attributes.texts("member-names");
+    queue.members = attributes.names("member-names");
     queue.acceptsJobs = !attributes.isFalse("printer-is-accepting-jobs");
     queue.isClass = (attributes.number("printer-type", 0) & CUPS_PRINTER_CLASS) != 0;
     return queue;
@@ -129,10 +143,8 @@ QList<Queue> queuesIn(ipp_t *answer)
     QList<Queue> queues;
     QueueAttributes attributes;
     const auto take = [&] {
-        // A name that needs cleaning is no queue's: CUPS allows none, and it could not be handed back to
-        // the server.
         const Queue queue = queueOf(std::exchange(attributes, {}));
-        if (!queue.name.isEmpty() && !hasControls(queue.name) && queues.size() < mostQueues)
+        if (!queue.name.isEmpty() && queues.size() < mostQueues)
             queues.append(queue);
     };
     for (ipp_attribute_t *attribute = ippFirstAttribute(answer); attribute;

@@ -441,6 +441,10 @@ Beispiele:
         <source>it is empty</source>
         <translation>sie ist leer</translation>
     </message>
+    <message>
+        <source>it took the job without giving it a number</source>
+        <translation>er hat den Auftrag angenommen, ihm aber keine Nummer gegeben</translation>
+    </message>
 </context>
 <context>
     <name>JobSummary</name>

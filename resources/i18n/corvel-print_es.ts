@@ -439,6 +439,10 @@ Ejemplos:
         <source>it is empty</source>
         <translation>está vacío</translation>
     </message>
+    <message>
+        <source>it took the job without giving it a number</source>
+        <translation>ha aceptado el trabajo sin darle un número</translation>
+    </message>
 </context>
 <context>
     <name>JobSummary</name>

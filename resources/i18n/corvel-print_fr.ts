@@ -440,6 +440,10 @@ Exemples&#x202f;:
         <source>it is empty</source>
         <translation>il est vide</translation>
     </message>
+    <message>
+        <source>it took the job without giving it a number</source>
+        <translation>il a accepté la tâche sans lui donner de numéro</translation>
+    </message>
 </context>
 <context>
     <name>JobSummary</name>

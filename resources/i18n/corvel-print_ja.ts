@@ -438,6 +438,10 @@ Examples:
         <source>it is empty</source>
         <translation>空です</translation>
     </message>
+    <message>
+        <source>it took the job without giving it a number</source>
+        <translation>ジョブは受け付けられましたが、番号が付けられていません</translation>
+    </message>
 </context>
 <context>
     <name>JobSummary</name>

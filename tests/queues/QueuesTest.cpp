@@ -246,6 +246,21 @@ void QueuesTest::hostileAnswersCostLittle()
 
 void QueuesTest::answersThatMakeNoSense()
 {
+    {
+        const StubServer server(StubServer::Manner::JobBelowZero, StubServer::Requests::Jobs);
+        const auto job = submitJob(smallJob());
+        QVERIFY(!job);
+        QVERIFY2(job.failure().text.contains(u"number"_s), qPrintable(job.failure().text));
+    }
+    {
+        // Cleaned, "go\tod" would be another queue.
+        const StubServer server(StubServer::Manner::OddNames);
+        const auto queues = sweepQueues(5s, nullptr);
+        QVERIFY2(queues, queues ? "" : qPrintable(queues.failure().text));
+        QCOMPARE(queues->size(), 1);
+        QCOMPARE(queues->at(0).name, u"good"_s);
+        QCOMPARE(queues->at(0).members, QStringList{u"inner"_s});
+    }
     // Nothing is asked somewhere else.
     const StubServer server(StubServer::Manner::Redirecting);
     const auto opened = queueNamed(u"photo"_s, 5s);

@@ -153,6 +153,11 @@ void QueueWindowTest::rememberedPrivately()
     QVERIFY(QFile::resize(file.filePath(), file.size() / 2));
     const OpenedDialog opened(setup());
     QCOMPARE(opened.dialog->printer(), u"built-in"_s);
+    // A name that has to be cleaned is not changed into another one.
+    Queue odd;
+    odd.name = u"pho\u0007to"_s;
+    QueueCache::save({odd, {}, true});
+    QVERIFY(!QueueCache::load());
     // Another print server's queues are none of this one's.
     const QByteArray server = qgetenv("CUPS_SERVER");
     qputenv("CUPS_SERVER", "elsewhere.example:631");
