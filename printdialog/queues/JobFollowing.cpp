@@ -110,16 +110,30 @@ public:
         std::optional<JobStatus> last;
         auto changed = start;
         auto moved = start; // when it was last seen not to wait
+        auto heard = start;
         for (auto interval = std::chrono::milliseconds(firstInterval);;) {
             const auto status = look();
             const auto now = Clock::now();
-            if (!status && !isCancelled())
-                return status.failure();
-            if (status && (!last || *status != *last)) {
-                last = *status;
-                changed = now;
-                if (news)
-                    news(*last);
+            if (!status && !isCancelled()) {
+                if (!isAway(status.failure().reason) || now - heard >= limits_.away)
+                    return status.failure();
+                JobStatus old = last.value_or(JobStatus());
+                old.isServerAway = true;
+                if (!std::exchange(wasAway_, true) && news)
+                    news(old);
+            }
+            if (status) {
+                // A server that has lost the job does not say what became of it.
+                if (wasAway_ && status->state == JobStatus::State::Gone)
+                    return queueFailure(QueueFault::Failed, queue_,
+                                        Text::tr("it was started again and does not know job %1").arg(id_));
+                heard = now;
+                if (std::exchange(wasAway_, false) || !last || *status != *last) {
+                    changed = now;
+                    last = *status;
+                    if (news)
+                        news(*last);
+                }
             }
             if (!last || !last->isWaiting())
                 moved = now;
@@ -132,6 +146,12 @@ public:
     }
 
 private:
+    /// Whether nobody is there: a server that is started again answers nothing for some seconds.
+    bool isAway(QueueFault fault) const
+    {
+        return fault == QueueFault::NoServer || (fault == QueueFault::Failed && connection_->isBroken());
+    }
+
     bool isCancelled() const { return cancel_ && std::atomic_ref(*cancel_).load() != 0; }
 
     void pause(std::chrono::milliseconds time) const
@@ -168,6 +188,7 @@ private:
     const FollowLimits &limits_;
     int *cancel_;
     std::unique_ptr<CupsConnection> connection_;
+    bool wasAway_ = false; // since it was last heard
 };
 
 } // namespace
@@ -192,6 +213,8 @@ QString JobStatus::detail() const
 
 QString JobStatus::text() const
 {
+    if (isServerAway)
+        return Text::tr("the print server does not answer; it is asked again");
     const QString more = detail();
     switch (state) {
     case State::Pending:

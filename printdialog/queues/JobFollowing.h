@@ -32,6 +32,9 @@ struct JobStatus
     State state = State::Pending;
     QStringList reasons; ///< Keywords, the job's and then its printer's.
     QString message;     ///< The last words of the printer or its filters about the job; may be empty.
+    /// The server is not there, and the rest is what it said before: it may be starting again, and is asked
+    /// until it is back.
+    bool isServerAway = false;
 
     bool isOver() const { return state >= State::Canceled; }
     /// Whether it stands still until somebody does something about it.
@@ -52,11 +55,13 @@ struct FollowLimits
     Time waiting = std::chrono::seconds(10); ///< A job that is held, or whose printer is stopped.
     Time quiet = std::chrono::minutes(10);   ///< Without any change of state, reasons or message.
     Time silent = std::chrono::seconds(10);  ///< A server that does not answer.
+    Time away = std::chrono::seconds(60);    ///< A server that has gone, until it is back.
     Time total = std::chrono::hours(24);
 };
 
 /// Follows a job until it is over, a limit is reached, or it is given up (which leaves the job alone), and
-/// returns the last that was heard. Blocks. Failures: those of a server that has stopped answering.
+/// returns the last that was heard. Blocks. A server that was started again is asked on. Failures: those of a
+/// server that has stopped answering, or that does not know the job after it was away.
 /// @param queue the queue's id
 /// @param news called on this thread with each change; may be empty
 /// @param cancel non-zero: stop following; outlives the call; may be null

@@ -355,6 +355,14 @@ Beispiele:
         <source>printed</source>
         <translation>gedruckt</translation>
     </message>
+    <message>
+        <source>it was started again and does not know job %1</source>
+        <translation>er wurde neu gestartet und kennt den Auftrag %1 nicht</translation>
+    </message>
+    <message>
+        <source>the print server does not answer; it is asked again</source>
+        <translation>der Druckserver antwortet nicht; er wird weiter gefragt</translation>
+    </message>
 </context>
 <context>
     <name>JobPlan</name>

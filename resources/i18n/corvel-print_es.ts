@@ -353,6 +353,14 @@ Ejemplos:
         <source>printed</source>
         <translation>impreso</translation>
     </message>
+    <message>
+        <source>it was started again and does not know job %1</source>
+        <translation>se ha reiniciado y no conoce el trabajo %1</translation>
+    </message>
+    <message>
+        <source>the print server does not answer; it is asked again</source>
+        <translation>el servidor de impresión no responde; se le vuelve a preguntar</translation>
+    </message>
 </context>
 <context>
     <name>JobPlan</name>

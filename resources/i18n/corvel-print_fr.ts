@@ -354,6 +354,14 @@ Exemples&#x202f;:
         <source>printed</source>
         <translation>imprimée</translation>
     </message>
+    <message>
+        <source>it was started again and does not know job %1</source>
+        <translation>il a été redémarré et ne connaît pas la tâche %1</translation>
+    </message>
+    <message>
+        <source>the print server does not answer; it is asked again</source>
+        <translation>le serveur d’impression ne répond pas&#xa0;; il est interrogé de nouveau</translation>
+    </message>
 </context>
 <context>
     <name>JobPlan</name>

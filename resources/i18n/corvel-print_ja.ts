@@ -352,6 +352,14 @@ Examples:
         <source>printed</source>
         <translation>印刷しました</translation>
     </message>
+    <message>
+        <source>it was started again and does not know job %1</source>
+        <translation>再起動され、ジョブ %1 が見つかりません</translation>
+    </message>
+    <message>
+        <source>the print server does not answer; it is asked again</source>
+        <translation>プリントサーバーが応答しません。再び問い合わせています</translation>
+    </message>
 </context>
 <context>
     <name>JobPlan</name>

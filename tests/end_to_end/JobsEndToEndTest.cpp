@@ -51,6 +51,7 @@ private Q_SLOTS:
     void changedPpdIsNoticed();
     void overTheNetwork();
     void serverFallsSilent();
+    void serverStartsAgain();
     void serverDiesWhileSending();
 
 private:
@@ -249,6 +250,27 @@ void JobsEndToEndTest::serverFallsSilent()
     QCOMPARE(*after, *before + 1);
 }
 
+void JobsEndToEndTest::serverStartsAgain()
+{
+    QVERIFY(cupsd_.setBackendScript("sleep 0.2\nexit 0"));
+    const auto id = submitJob(jobFor(u"odd"_s));
+    QVERIFY(id);
+    QStringList texts;
+    bool isBack = false;
+    const auto status = followJob(u"odd"_s, *id, {}, [&](const JobStatus &news) {
+        texts.append(news.text());
+        if (news.isServerAway)
+            isBack = cupsd_.comeBack();
+        else if (news.state == JobStatus::State::Processing && !isBack)
+            cupsd_.goDown();
+    });
+    QVERIFY(isBack);
+    QVERIFY2(status, status ? "" : qPrintable(status.failure().text));
+    QCOMPARE(status->state, JobStatus::State::Completed);
+    QVERIFY2(texts.contains(u"the print server does not answer; it is asked again"_s),
+             qPrintable(texts.join(u'\n')));
+}
+
 void JobsEndToEndTest::serverDiesWhileSending()
 {
     JobControl control;
@@ -262,7 +284,7 @@ void JobsEndToEndTest::serverDiesWhileSending()
     QVERIFY(timer.elapsed() < 10000);
     QVERIFY(!id);
     QVERIFY2(id.failure().text.contains(u"\"photo\""_s), qPrintable(id.failure().text));
-    QVERIFY(!followJob(u"photo"_s, 1, {}));
+    QVERIFY(!followJob(u"photo"_s, 1, {.away = 0ms}));
 }
 
 QTEST_GUILESS_MAIN(JobsEndToEndTest)

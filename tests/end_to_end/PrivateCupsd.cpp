@@ -189,6 +189,18 @@ void PrivateCupsd::thaw()
     kill(static_cast<pid_t>(scheduler_.processId()), SIGCONT);
 }
 
+bool PrivateCupsd::goDown()
+{
+    scheduler_.terminate();
+    return scheduler_.waitForFinished(3000);
+}
+
+bool PrivateCupsd::comeBack()
+{
+    scheduler_.start();
+    return waitForAnswer();
+}
+
 bool PrivateCupsd::addQueue(const QString &name, const QByteArray &ppd, const QStringList &lpadminArguments)
 {
     QStringList arguments = {QStringLiteral("-p"), name, QStringLiteral("-v"), QStringLiteral("recorder:/")};

@@ -40,6 +40,9 @@ public:
     /// Has the scheduler answer nothing any more, its connections open, and go on again.
     void freeze();
     void thaw();
+    /// Ends the scheduler, and starts it again, with its queues and jobs.
+    bool goDown();
+    bool comeBack();
 
     QString socketPath() const;
     /// "127.0.0.1:port", with Reach::Network.
