@@ -13,6 +13,7 @@ struct PlacedPhoto
 {
     Photo photo;
     PlacementChoice placement;
+    bool isAccepted = false; ///< Whether it is printed even though it is damaged.
 };
 
 } // namespace printdialog

@@ -84,8 +84,10 @@ void PhotoPane::setPhotos(const QList<Photo> &photos, const PlacementChoice &pla
 {
     initial_ = placement;
     photos_.clear();
-    for (const Photo &photo : photos)
+    for (const Photo &photo : photos) {
         photos_.append({photo, placement});
+        check(photo);
+    }
     current_ = photos_.isEmpty() ? -1 : 0;
     show();
 }
@@ -116,14 +118,51 @@ void PhotoPane::addFiles(const QStringList &paths)
             const PlacementChoice placement =
                 self->current_ < 0 ? self->initial_ : self->photos_.at(self->current_).placement;
             const auto first = static_cast<int>(self->photos_.size());
-            for (const Photo &photo : opened)
+            for (const Photo &photo : opened) {
                 self->photos_.append({photo, {placement.scaling, 0, PlacementChoice().crop}});
+                self->check(photo);
+            }
             if (!opened.isEmpty())
                 self->setCurrent(first);
             if (!failures.isEmpty())
                 Q_EMIT self->failed(failures.join(u'\n'));
         });
     });
+}
+
+void PhotoPane::check(const Photo &photo)
+{
+    constexpr int priority = -1; // what is shown comes first
+    if (photo.isChecked())
+        return;
+    QThreadPool::globalInstance()->start(
+        [photo, self = QPointer<PhotoPane>(this)] {
+            if (!photo.damage())
+                return;
+            QMetaObject::invokeMethod(qApp, [self] {
+                if (self)
+                    self->showCaption();
+            });
+        },
+        priority);
+}
+
+QList<int> PhotoPane::damagedPhotos() const
+{
+    QList<int> damaged;
+    for (int i = 0; i < static_cast<int>(photos_.size()); ++i) {
+        const PlacedPhoto &placed = photos_.at(i);
+        if (!placed.isAccepted && placed.photo.isChecked() && placed.photo.damage())
+            damaged.append(i);
+    }
+    return damaged;
+}
+
+void PhotoPane::acceptDamagedPhotos()
+{
+    const QList<int> damaged = damagedPhotos();
+    for (const int index : damaged)
+        photos_[index].isAccepted = true;
 }
 
 void PhotoPane::removePhoto(int index)
@@ -210,6 +249,8 @@ void PhotoPane::showCaption()
         const QString name = plainText(photo.fileName(), shownTextLimit);
         lines +=
             photos_.size() == 1 ? name : tr("%1 (%2 of %3)").arg(name).arg(current_ + 1).arg(photos_.size());
+        if (photo.isChecked() && photo.damage())
+            lines += tr("Damaged: a part of the picture is missing or wrong.");
         if (const auto placement = preview_->placement())
             lines += placementText(photo, *placement, photos_.at(current_).placement, page_);
     }

@@ -21,7 +21,8 @@ class PlacementBar;
 class PreviewWidget;
 
 /// The photos of a job: the current one on its page, how it is placed there, and all of them as a strip.
-/// Photos are added by a button or dropped from another program; they are opened on a worker thread.
+/// Photos are added by a button or dropped from another program; they are opened, and then looked through for
+/// damage, on a worker thread.
 class PhotoPane : public QWidget
 {
     Q_OBJECT
@@ -43,6 +44,11 @@ public:
     /// Replaces how the current photo is placed.
     void place(const PlacementChoice &choice);
 
+    /// Those that are known to be damaged, and that the user has not accepted as they are: numbers of photos.
+    QList<int> damagedPhotos() const;
+    /// They are printed as they are.
+    void acceptDamagedPhotos();
+
     /// Whether there is nothing left to be decoded for the preview and the strip.
     bool isReady() const;
 
@@ -62,6 +68,7 @@ protected:
 
 private:
     void browse();
+    void check(const Photo &photo);
     void show();
     void showCaption();
 

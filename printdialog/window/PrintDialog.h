@@ -117,6 +117,7 @@ private:
     void showPageSize();
 
     // Printing
+    void askAboutDamage();
     void finishPrinting(const PrintOutcome &outcome);
     std::optional<PrintJob> makeJob(QStringList &remarks);
     void cancelOrStop();

@@ -4,6 +4,7 @@
 #include "ChoiceController.h"
 #include "DialogSession.h"
 #include "OutcomeText.h"
+#include "PlainText.h"
 #include "PpdFetcher.h"
 #include "PrintDialog.h"
 #include "PrintWorker.h"
@@ -61,6 +62,8 @@ void PrintDialog::print()
 {
     if (!isReady() || worker_->isBusy() || ui_->photos->photos().isEmpty())
         return;
+    if (!ui_->photos->damagedPhotos().isEmpty())
+        return askAboutDamage();
     QStringList remarks;
     const std::optional<PrintJob> job = makeJob(remarks);
     if (!job)
@@ -80,12 +83,37 @@ void PrintDialog::print()
     updateButtons();
 }
 
+/// Shows the first photo that is damaged. It is printed once the user wants it like that.
+void PrintDialog::askAboutDamage()
+{
+    const QList<int> damaged = ui_->photos->damagedPhotos();
+    QStringList names;
+    for (const int index : damaged)
+        names += plainText(ui_->photos->photos().at(index).photo.fileName(), shownTextLimit);
+    if (names.isEmpty())
+        return;
+    ui_->photos->setCurrent(damaged.constFirst());
+    const QString text = names.size() == 1 ? tr("%1 is damaged: a part of the picture is missing or wrong. "
+                                                "Look at it, then print it as it is, or "
+                                                "remove it and copy it again from where it came from.")
+                                           : tr("These photos are damaged: %1. Look at them, then print them "
+                                                "as they are, or remove them and copy "
+                                                "them again from where they came from.");
+    ui_->message->showWithAction(MessageBar::Kind::Warning, text.arg(names.join(QLatin1String(", "))),
+                                 tr("Print Anyway"), [this] {
+                                     ui_->photos->acceptDamagedPhotos();
+                                     print();
+                                 });
+}
+
 void PrintDialog::finishPrinting(const PrintOutcome &outcome)
 {
     ui_->progress->hide();
-    hasPrinted_ = true;
+    hasPrinted_ = hasPrinted_ || !outcome.hasDamaged;
     isStopping_ = false;
     updateButtons();
+    if (outcome.hasDamaged)
+        return askAboutDamage();
     const OutcomeText text(outcome, target_);
     MessageBar::Message message;
     if (!outcome.failure.isEmpty())

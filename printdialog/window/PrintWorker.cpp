@@ -42,6 +42,12 @@ SentJobs sendAll(const QList<PlacedPhoto> &photos, const PrintTarget &target, co
                  int &cancel, std::atomic<int> &sentPhotos, const Progress &progress, PrintOutcome &outcome)
 {
     SentJobs jobs(target.queue);
+    // Mostly known already; before anything is printed, so that the user can decide about all of it.
+    outcome.hasDamaged = std::any_of(photos.begin(), photos.end(), [](const PlacedPhoto &placed) {
+        return !placed.isAccepted && placed.photo.damage();
+    });
+    if (outcome.hasDamaged)
+        return jobs;
     QString text;
     JobControl control;
     control.cancel = &cancel;
@@ -52,7 +58,7 @@ SentJobs sendAll(const QList<PlacedPhoto> &photos, const PrintTarget &target, co
     };
     PhotoPrinter printer(target, control);
     PrintJob photoJob = job;
-    for (const auto &[photo, placement] : photos) {
+    for (const auto &[photo, placement, isAccepted] : photos) {
         if (std::atomic_ref(cancel).load() != 0)
             break;
         text = counted(sentPhotos, photos.size(),
@@ -61,6 +67,7 @@ SentJobs sendAll(const QList<PlacedPhoto> &photos, const PrintTarget &target, co
                            : PrintWorker::tr("Sending %1 to %2").arg(photo.fileName(), target.queue));
         progress(text, sentPhotos * share, photos.size() == 1 ? 0 : all);
         photoJob.placement = placement;
+        photoJob.checksPhoto = !isAccepted;
         const auto printed = printer.print(photo, photoJob);
         if (!printed) {
             outcome.failure = printed.failure().text;

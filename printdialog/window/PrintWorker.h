@@ -22,6 +22,7 @@ struct PrintOutcome
     int done = 0;            ///< How many the printer has printed, also of a run that was stopped.
     bool wasStopped = false; ///< By the user, and nothing of it failed.
     bool isFollowed = false; ///< The jobs were followed to their end.
+    bool hasDamaged = false; ///< Nothing was printed, since a photo is damaged that nobody has accepted.
     bool hasOtherPpd = false; ///< The queue's PPD is no more that from which the options were chosen.
 };
 

@@ -1555,6 +1555,10 @@ Beispiele:
         <source>%1 (%2 of %3)</source>
         <translation>%1 (%2 von %3)</translation>
     </message>
+    <message>
+        <source>Damaged: a part of the picture is missing or wrong.</source>
+        <translation>Beschädigt: Ein Teil des Bildes fehlt oder ist falsch.</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::PhotoPrinter</name>
@@ -1865,6 +1869,18 @@ Beispiele:
     <message>
         <source>When this window is closed, the print server goes on printing the %1 of %2 photos that it has. The rest is not printed.</source>
         <translation>Wird dieses Fenster geschlossen, druckt der Druckserver die %1 von %2 Fotos, die er hat, weiter. Der Rest wird nicht gedruckt.</translation>
+    </message>
+    <message>
+        <source>%1 is damaged: a part of the picture is missing or wrong. Look at it, then print it as it is, or remove it and copy it again from where it came from.</source>
+        <translation>%1 ist beschädigt: Ein Teil des Bildes fehlt oder ist falsch. Sehen Sie es an und drucken Sie es dann so, oder entfernen Sie es und kopieren Sie es erneut von der Quelle.</translation>
+    </message>
+    <message>
+        <source>These photos are damaged: %1. Look at them, then print them as they are, or remove them and copy them again from where they came from.</source>
+        <translation>Diese Fotos sind beschädigt: %1. Sehen Sie sie an und drucken Sie sie dann so, oder entfernen Sie sie und kopieren Sie sie erneut von der Quelle.</translation>
+    </message>
+    <message>
+        <source>Print Anyway</source>
+        <translation>Trotzdem drucken</translation>
     </message>
 </context>
 <context>

@@ -1553,6 +1553,10 @@ Ejemplos:
         <source>%1 (%2 of %3)</source>
         <translation>%1 (%2 de %3)</translation>
     </message>
+    <message>
+        <source>Damaged: a part of the picture is missing or wrong.</source>
+        <translation>Dañada: falta una parte de la imagen o es errónea.</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::PhotoPrinter</name>
@@ -1863,6 +1867,18 @@ Ejemplos:
     <message>
         <source>When this window is closed, the print server goes on printing the %1 of %2 photos that it has. The rest is not printed.</source>
         <translation>Si se cierra esta ventana, el servidor de impresión sigue imprimiendo las %1 de %2 fotos que tiene. El resto no se imprime.</translation>
+    </message>
+    <message>
+        <source>%1 is damaged: a part of the picture is missing or wrong. Look at it, then print it as it is, or remove it and copy it again from where it came from.</source>
+        <translation>%1 está dañada: falta una parte de la imagen o es errónea. Mírela e imprímala tal como está, o quítela y cópiela de nuevo desde su origen.</translation>
+    </message>
+    <message>
+        <source>These photos are damaged: %1. Look at them, then print them as they are, or remove them and copy them again from where they came from.</source>
+        <translation>Estas fotos están dañadas: %1. Mírelas e imprímalas tal como están, o quítelas y cópielas de nuevo desde su origen.</translation>
+    </message>
+    <message>
+        <source>Print Anyway</source>
+        <translation>Imprimir de todos modos</translation>
     </message>
 </context>
 <context>

@@ -1554,6 +1554,10 @@ Exemples&#x202f;:
         <source>%1 (%2 of %3)</source>
         <translation>%1 (%2 sur %3)</translation>
     </message>
+    <message>
+        <source>Damaged: a part of the picture is missing or wrong.</source>
+        <translation>Endommagée : une partie de l’image manque ou est fausse.</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::PhotoPrinter</name>
@@ -1864,6 +1868,18 @@ Exemples&#x202f;:
     <message>
         <source>When this window is closed, the print server goes on printing the %1 of %2 photos that it has. The rest is not printed.</source>
         <translation>Si cette fenêtre est fermée, le serveur d’impression continue d’imprimer les %1 photos sur %2 qu’il a reçues. Le reste n’est pas imprimé.</translation>
+    </message>
+    <message>
+        <source>%1 is damaged: a part of the picture is missing or wrong. Look at it, then print it as it is, or remove it and copy it again from where it came from.</source>
+        <translation>%1 est endommagée : une partie de l’image manque ou est fausse. Regardez-la, puis imprimez-la telle quelle, ou retirez-la et copiez-la de nouveau depuis sa source.</translation>
+    </message>
+    <message>
+        <source>These photos are damaged: %1. Look at them, then print them as they are, or remove them and copy them again from where they came from.</source>
+        <translation>Ces photos sont endommagées : %1. Regardez-les, puis imprimez-les telles quelles, ou retirez-les et copiez-les de nouveau depuis leur source.</translation>
+    </message>
+    <message>
+        <source>Print Anyway</source>
+        <translation>Imprimer quand même</translation>
     </message>
 </context>
 <context>

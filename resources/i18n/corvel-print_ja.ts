@@ -1551,6 +1551,10 @@ Examples:
         <source>%1 (%2 of %3)</source>
         <translation>%1（%2／%3）</translation>
     </message>
+    <message>
+        <source>Damaged: a part of the picture is missing or wrong.</source>
+        <translation>破損: 画像の一部が欠けているか、正しくありません。</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::PhotoPrinter</name>
@@ -1860,6 +1864,18 @@ Examples:
     <message>
         <source>When this window is closed, the print server goes on printing the %1 of %2 photos that it has. The rest is not printed.</source>
         <translation>このウィンドウを閉じても、プリントサーバーは %2 枚中、受け取った %1 枚の印刷を続けます。残りは印刷されません。</translation>
+    </message>
+    <message>
+        <source>%1 is damaged: a part of the picture is missing or wrong. Look at it, then print it as it is, or remove it and copy it again from where it came from.</source>
+        <translation>%1 は破損しています。画像の一部が欠けているか、正しくありません。確認してからそのまま印刷するか、削除して元の場所からもう一度コピーしてください。</translation>
+    </message>
+    <message>
+        <source>These photos are damaged: %1. Look at them, then print them as they are, or remove them and copy them again from where they came from.</source>
+        <translation>次の写真は破損しています: %1。確認してからそのまま印刷するか、削除して元の場所からもう一度コピーしてください。</translation>
+    </message>
+    <message>
+        <source>Print Anyway</source>
+        <translation>それでも印刷</translation>
     </message>
 </context>
 <context>

@@ -3,6 +3,7 @@
 
 #include "HelpWindow.h"
 #include "OpenedDialog.h"
+#include "PrintWorker.h"
 #include "SystemLog.h"
 #include "ViewTags.h"
 
@@ -10,9 +11,11 @@
 #include <QtCore/QFile>
 #include <QtCore/QScopeGuard>
 #include <QtGui/QAccessible>
+#include <QtTest/QSignalSpy>
 #include <QtTest/QTest>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QComboBox>
+#include <QtWidgets/QLabel>
 #include <QtWidgets/QRadioButton>
 #include <QtWidgets/QScrollBar>
 #include <QtWidgets/QSlider>
@@ -51,6 +54,7 @@ private Q_SLOTS:
     void initTestCase_data();
     void init();
     void printsWhatTheUserChose();
+    void damagedPhoto();
     void conflicts();
     void returnBelongsToTheField();
     void printsByKeyFromAnywhere();
@@ -114,6 +118,41 @@ void PrintDialogTest::printsWhatTheUserChose()
         QCOMPARE(options[entry.key()].toString(), entry.value());
     QCOMPARE(options.size(), 16); // fifteen of the panels, and the page size
     QTRY_VERIFY(opened.dialog->message().contains(u"sample.pdf"_s));
+}
+
+// It is printed once the user has seen it and wants it. Whoever is faster than the check is asked by the
+// worker.
+void PrintDialogTest::damagedPhoto()
+{
+    QFETCH_GLOBAL(PanelMode, mode);
+    QFile sample(QStringLiteral(CORVEL_SAMPLE_PHOTO));
+    QFile damaged(config_->filePath(u"sample.jpg"_s));
+    QVERIFY(sample.open(QFile::ReadOnly) && damaged.open(QFile::WriteOnly));
+    const QByteArray content = sample.readAll();
+    damaged.write(QByteArray(content).replace(content.size() / 2, 4096, QByteArray(4096, '\0')));
+    damaged.close();
+    PrintDialogSetup setup = setupFor(mode);
+    setup.photos.append(*Photo::open(damaged.fileName()));
+
+    PrintWorker worker;
+    QSignalSpy finished(&worker, &PrintWorker::finished);
+    const QString folder = config_->filePath(u"unseen"_s);
+    worker.print({{setup.photos.at(0), {}}, {*Photo::open(damaged.fileName()), {}}}, {{}, folder}, {});
+    QVERIFY(finished.wait());
+    QVERIFY(finished.at(0).at(0).value<PrintOutcome>().hasDamaged);
+    QVERIFY(!QFile::exists(folder));
+
+    const OpenedDialog opened(setup);
+    QTRY_VERIFY(setup.photos.at(1).isChecked());
+    opened.click(u"print"_s);
+    QVERIFY2(opened.dialog->message().startsWith(u"sample.jpg is damaged"_s),
+             qPrintable(opened.dialog->message()));
+    QVERIFY(opened.find<QLabel>(u"photoLabel"_s)->text().startsWith(u"sample.jpg (2 of 2)\nDamaged"_s));
+    opened.click(u"print"_s);
+    QVERIFY(!QFile::exists(opened.folder.filePath(u"out"_s)));
+    opened.click(u"messageAction"_s);
+    QTRY_VERIFY(QFile::exists(opened.folder.filePath(u"out/sample-2.pdf"_s)));
+    QTRY_VERIFY(opened.dialog->message().contains(u"sample-2.pdf"_s));
 }
 
 // A forbidden choice: refused at once, or when all of them are weighed against each other. A job that is
