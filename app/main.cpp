@@ -6,6 +6,7 @@
 #include "Console.h"
 #include "FileName.h"
 #include "Listings.h"
+#include "QuietDecoding.h"
 #include "QuietFeedback.h"
 #include "ScreenshotRun.h"
 #include "SystemLog.h"
@@ -107,6 +108,7 @@ int failWithoutDisplay(int &argc, char **argv)
 int runWithoutWindow(const CommandLine &commandLine)
 {
     pdekit::Feedback::install(std::make_shared<QuietFeedback>());
+    QuietDecoding::enable();
     Console console;
     const int status = commandLine.batch || commandLine.dryRun ? BatchRun(commandLine, console).run()
                        : commandLine.listPrinters              ? listPrinters(commandLine, console)

@@ -14,6 +14,7 @@
 #include "PngHeader.h"
 #include "PngPicture.h"
 #include "PngPixels.h"
+#include "QuietDecoding.h"
 #include "WebpChunks.h"
 
 #include <QtCore/QBuffer>
@@ -181,6 +182,7 @@ std::optional<Failure<PhotoFault>> Photo::inspectHeif()
 {
     if (!hasPictureEnd(format_, content_))
         return truncated();
+    const QuietDecoding quiet;
     const auto header = HeifPicture::read(content_);
     if (!header)
         return broken(header.failure().detail);
@@ -193,6 +195,7 @@ std::optional<Failure<PhotoFault>> Photo::inspectOther()
 {
     if (!hasPictureEnd(format_, content_))
         return truncated();
+    const QuietDecoding quiet;
     ContentReader reader(content_, format_);
     storedSize_ = reader->size();
     if (format_ == "bmp" && storedSize_.height() < 0) // its rows are stored from the top down
@@ -283,6 +286,7 @@ Failure<PhotoFault> Photo::memoryFailure() const
 /// Decodes, scaled down while reading where the format can do that and the bound is not empty.
 QImage Photo::decodedWithin(const QSize &storedBound, QString &error) const
 {
+    const QuietDecoding quiet;
     QImage image;
     if (PhotoFormat::isHeif(format_)) {
         auto picture = HeifPicture::decode(content_);

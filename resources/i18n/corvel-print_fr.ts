@@ -1556,7 +1556,7 @@ Exemples&#x202f;:
     </message>
     <message>
         <source>Damaged: a part of the picture is missing or wrong.</source>
-        <translation>Endommagée : une partie de l’image manque ou est fausse.</translation>
+        <translation>Endommagée&#x202f;: une partie de l’image manque ou est fausse.</translation>
     </message>
 </context>
 <context>
@@ -1871,11 +1871,11 @@ Exemples&#x202f;:
     </message>
     <message>
         <source>%1 is damaged: a part of the picture is missing or wrong. Look at it, then print it as it is, or remove it and copy it again from where it came from.</source>
-        <translation>%1 est endommagée : une partie de l’image manque ou est fausse. Regardez-la, puis imprimez-la telle quelle, ou retirez-la et copiez-la de nouveau depuis sa source.</translation>
+        <translation>%1 est endommagée&#x202f;: une partie de l’image manque ou est fausse. Regardez-la, puis imprimez-la telle quelle, ou retirez-la et copiez-la de nouveau depuis sa source.</translation>
     </message>
     <message>
         <source>These photos are damaged: %1. Look at them, then print them as they are, or remove them and copy them again from where they came from.</source>
-        <translation>Ces photos sont endommagées : %1. Regardez-les, puis imprimez-les telles quelles, ou retirez-les et copiez-les de nouveau depuis leur source.</translation>
+        <translation>Ces photos sont endommagées&#x202f;: %1. Regardez-les, puis imprimez-les telles quelles, ou retirez-les et copiez-les de nouveau depuis leur source.</translation>
     </message>
     <message>
         <source>Print Anyway</source>

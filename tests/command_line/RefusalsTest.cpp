@@ -37,6 +37,7 @@ private Q_SLOTS:
     void choice();
     void photo_data();
     void photo();
+    void libraryThatComplains();
     void ppd_data();
     void ppd();
     void plugin_data();
@@ -171,6 +172,25 @@ void RefusalsTest::photo()
     const ProgramRun run =
         runProgram({u"--batch"_s, u"--output"_s, pathOf(u"out"_s), samplePhoto, pathOf(name)});
     verifyRefusal(run, 1, {name.right(5)});
+}
+
+// libtiff writes to standard error by itself. Where nothing reads TIFF, that is the one line.
+void RefusalsTest::libraryThatComplains()
+{
+    const auto entry = [](quint16 tag, quint16 value) {
+        const QByteArray count("\1\0\0\0", 4);
+        const auto bytes = [](quint16 word) {
+            return QByteArray(1, char(word & 0xff)) + char(word >> 8);
+        };
+        return bytes(tag) + bytes(3) + count + bytes(value) + QByteArray(2, '\0');
+    };
+    // 64 x 64 grey pixels, compressed with LZW into bytes that are no codes.
+    const QByteArray tiff = QByteArray("II*\0\x08\0\0\0\x09\0", 10) + entry(256, 64) + entry(257, 64) +
+                            entry(258, 8) + entry(259, 5) + entry(262, 1) + entry(273, 122) + entry(277, 1) +
+                            entry(278, 64) + entry(279, 500) + QByteArray(4, '\0') + QByteArray(500, '\x77');
+    QVERIFY(store(pathOf(u"bad.tiff"_s), tiff));
+    verifyRefusal(runProgram({u"--batch"_s, u"--output"_s, pathOf(u"out"_s), pathOf(u"bad.tiff"_s)}), 1,
+                  {u"bad.tiff"_s});
 }
 
 void RefusalsTest::ppd_data()

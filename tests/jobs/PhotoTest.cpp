@@ -5,9 +5,13 @@
 #include "JpegHeader.h"
 #include "PdfWriter.h"
 #include "PhotoFormat.h"
+#include "QuietDecoding.h"
 #include "SamplePhotos.h"
 
+#include <QtCore/QRegularExpression>
+#include <QtCore/QScopeGuard>
 #include <QtCore/QTemporaryDir>
+#include <QtCore/QTemporaryFile>
 #include <QtCore/QtEndian>
 #include <QtTest/QTest>
 
@@ -36,6 +40,7 @@ private Q_SLOTS:
     void faults();
     void zerosAreNotRead();
     void memoryRunsShort();
+    void librariesWriteToTheLog();
     void wholeJpegs_data();
     void wholeJpegs();
     void damagedPixels_data();
@@ -187,6 +192,33 @@ void PhotoTest::memoryRunsShort()
     QCOMPARE(preview.size(), QSize(200, 200));
     QVERIFY(written);
     QVERIFY(photo->decoded());
+}
+
+// Even one that does not stop to write.
+void PhotoTest::librariesWriteToTheLog()
+{
+    QTemporaryFile shown;
+    QVERIFY(shown.open());
+    const int before = dup(STDERR_FILENO);
+    const auto restore = qScopeGuard([before] {
+        dup2(before, STDERR_FILENO);
+        close(before);
+    });
+    const auto say = [](const QByteArray &text) {
+        return ::write(STDERR_FILENO, text.constData(), std::size_t(text.size())) == text.size();
+    };
+    dup2(shown.handle(), STDERR_FILENO);
+    QuietDecoding::enable();
+    QTest::ignoreMessage(QtWarningMsg, "from a library");
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"^x+$"_s));
+    {
+        const QuietDecoding quiet;
+        QVERIFY(say("from a library\n"));
+        for (int i = 0; i < 200; ++i)
+            say(QByteArray(1024, 'x'));
+    }
+    QVERIFY(say("from the program"));
+    QCOMPARE(samples::load(shown.fileName()), "from the program");
 }
 
 void PhotoTest::wholeJpegs_data()
