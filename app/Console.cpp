@@ -61,6 +61,7 @@ QString escaped(const QString &json)
 void Console::prepareStreams()
 {
     std::signal(SIGPIPE, SIG_IGN);
+    std::signal(SIGXFSZ, SIG_IGN);
     for (const int descriptor : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
         if (fcntl(descriptor, F_GETFD) == -1 && errno == EBADF) {
             // The lowest free number is this one. Open for reading, so that writing to it stays an error.

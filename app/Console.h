@@ -17,9 +17,9 @@ class Console
     Q_DECLARE_TR_FUNCTIONS(Console)
 
 public:
-    /// Makes an error of what would otherwise do harm: of a reader that has gone, whose signal ends a
-    /// program, and of a closed standard stream, whose number, and with it the program's output, the next
-    /// file opened would get. To be called before any file is opened.
+    /// Makes an error of what would otherwise do harm: of a reader that has gone and of a file that grows too
+    /// large, whose signals end a program, and of a closed standard stream, whose number, and with it the
+    /// program's output, the next file opened would get. To be called before any file is opened.
     static void prepareStreams();
 
     /// Writes a line to standard output at once.

@@ -68,9 +68,23 @@ Failure<OutputFault> outputFailure(int error, const QString &path)
             QT_TRANSLATE_NOOP("printdialog::OutputFault",
                               "The name \"%1\" is too long. Rename the photo, or choose another folder."),
             error, path);
-    case ENOSPC:
     case EDQUOT:
+        return failureWith(
+            OutputFault::DiskFull,
+            QT_TRANSLATE_NOOP(
+                "printdialog::OutputFault",
+                "There is no space for \"%1\": your quota on this disk is used up. Delete other files of "
+                "yours, or choose another folder."),
+            error, path);
     case EFBIG:
+        return failureWith(
+            OutputFault::DiskFull,
+            QT_TRANSLATE_NOOP(
+                "printdialog::OutputFault",
+                "\"%1\" is larger than a file may be here. Raise the limit (ulimit -f), or choose "
+                "another folder."),
+            error, path);
+    case ENOSPC:
         return failureWith(
             OutputFault::DiskFull,
             QT_TRANSLATE_NOOP("printdialog::OutputFault",

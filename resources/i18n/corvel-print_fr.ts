@@ -1424,6 +1424,14 @@ Exemples&#x202f;:
         <source>The name &quot;%1&quot; is too long: the photo&apos;s name has bytes that are not UTF-8, and each becomes a longer character. Rename the photo.</source>
         <translation>Le nom «&#x202f;%1&#x202f;» est trop long&#x202f;: le nom de la photo contient des octets qui ne sont pas de l’UTF-8, et chacun devient un caractère plus long. Renommez la photo.</translation>
     </message>
+    <message>
+        <source>There is no space for &quot;%1&quot;: your quota on this disk is used up. Delete other files of yours, or choose another folder.</source>
+        <translation>Il n’y a pas de place pour «&#x202f;%1&#x202f;»&#x202f;: votre quota sur ce disque est épuisé. Supprimez d’autres fichiers à vous, ou choisissez un autre dossier.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is larger than a file may be here. Raise the limit (ulimit -f), or choose another folder.</source>
+        <translation>«&#x202f;%1&#x202f;» est plus grand que ne peut l’être un fichier ici. Relevez la limite (ulimit -f), ou choisissez un autre dossier.</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::PanelTabs</name>

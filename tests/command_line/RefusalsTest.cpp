@@ -47,6 +47,7 @@ private Q_SLOTS:
     void noDisplay();
     void place_data();
     void place();
+    void fileThatGrowsTooLarge();
     void picture_data();
     void picture();
 };
@@ -306,6 +307,14 @@ void RefusalsTest::place()
     QFETCH(QString, word);
     verifyRefusal(runProgram(QStringList{u"--batch"_s, samplePhoto} + arguments, {}, folder_->path()), 1,
                   {word});
+}
+
+// The system's signal for it would end the program.
+void RefusalsTest::fileThatGrowsTooLarge()
+{
+    verifyRefusal(runInShell(u"ulimit -f 100 && exec \"$@\""_s,
+                             {u"--batch"_s, u"--output"_s, pathOf(u"out"_s), samplePhoto}),
+                  1, {u"sample.pdf"_s, u"ulimit -f"_s});
 }
 
 void RefusalsTest::picture_data()
