@@ -55,7 +55,7 @@ struct CommandLine
     bool overwrite = false;         ///< the built-in printer replaces files of an earlier run
     bool batch = false;
     bool dryRun = false;
-    bool checks = true; ///< whether damaged photos are left out
+    bool checks = true;            ///< whether damaged photos are left out
     std::optional<QString> server; ///< "host", "host:port" or a socket's path, fit for CUPS_SERVER
     /// How long a job is followed at most; without it to its end.
     std::optional<std::chrono::seconds> wait;

@@ -13,68 +13,69 @@
 namespace printdialog {
 namespace {
 
-/// Makes a smaller picture of rows, each of its pixels being the mean of those that fall on it.
+/// Makes a smaller picture of rows: each of its pixels is the mean of a square of so many pixels on each
+/// side, or of what of it lies in the picture.
 class MeanRows
 {
 public:
-    MeanRows(const QSize &size, QImage &image, int components)
-        : size_(size)
-        , image_(image)
-        , components_(static_cast<std::size_t>(components))
-        , sums_(static_cast<std::size_t>(image.width()) * components_)
-        , counts_(static_cast<std::size_t>(image.width()))
-        , columns_(static_cast<std::size_t>(size.width()))
+    MeanRows(const QSize &size, int side, int components)
+        : image_((size.width() + side - 1) / side, (size.height() + side - 1) / side,
+                 components == 1 ? QImage::Format_Grayscale8 : QImage::Format_RGB888)
+        , size_(size)
+        , side_(side)
+        , components_(components)
+        , sums_(static_cast<std::size_t>(image_.width()) * static_cast<std::size_t>(components))
     {
-        for (int x = 0; x < size.width(); ++x)
-            columns_[std::size_t(x)] = static_cast<std::size_t>(qint64(x) * image.width() / size.width());
     }
+
+    /// Null when memory is short.
+    const QImage &image() const { return image_; }
 
     void addRow(int y, const unsigned char *row)
     {
-        for (const std::size_t column : columns_) {
-            ++counts_[column];
-            for (std::size_t i = 0; i < components_; ++i)
-                sums_[column * components_ + i] += *row++;
+        for (int x = 0; x < size_.width(); ++x) {
+            unsigned *sum = sums_.data() + std::ptrdiff_t(x / side_) * components_;
+            for (int i = 0; i < components_; ++i)
+                sum[i] += *row++;
         }
-        const int target = targetOf(y);
-        if (y + 1 == size_.height() || targetOf(y + 1) != target)
-            writeRow(target);
+        if (y + 1 == size_.height() || (y + 1) % side_ == 0)
+            writeRow(y / side_, y % side_ + 1);
     }
 
 private:
-    int targetOf(int y) const { return static_cast<int>(qint64(y) * image_.height() / size_.height()); }
-
-    void writeRow(int y)
+    void writeRow(int y, int rows)
     {
         unsigned char *out = image_.scanLine(y);
-        for (std::size_t i = 0; i < sums_.size(); ++i)
-            out[i] = static_cast<unsigned char>(sums_[i] / counts_[i / components_]);
+        const unsigned *sum = sums_.data();
+        for (int x = 0; x < image_.width(); ++x) {
+            const int columns = std::min(side_, size_.width() - x * side_);
+            const auto count = static_cast<unsigned>(rows * columns);
+            for (int i = 0; i < components_; ++i)
+                *out++ = static_cast<unsigned char>((*sum++ + count / 2) / count);
+        }
         std::fill(sums_.begin(), sums_.end(), 0);
-        std::fill(counts_.begin(), counts_.end(), 0);
     }
 
+    QImage image_;
     QSize size_;
-    QImage &image_;
-    std::size_t components_;
-    std::vector<quint64> sums_;
-    std::vector<quint64> counts_;
-    std::vector<std::size_t> columns_; ///< Of the smaller picture, for each of the larger one.
+    int side_;
+    int components_;
+    std::vector<unsigned> sums_;
 };
 
 } // namespace
 
 QImage decodedPng(QByteArrayView png, const QSize &bound, QString &error)
 {
-    constexpr int detail = 2; // more than is asked for, since scaling smoothly needs it
     const PngHeader header = PngHeader::read(png);
     const QSize size = header.size;
     const bool isScaled =
         !bound.isEmpty() && bound.width() <= size.width() && bound.height() <= size.height();
-    QImage image(isScaled ? (bound * detail).boundedTo(size) : size,
-                 header.decodedComponents == 1 ? QImage::Format_Grayscale8 : QImage::Format_RGB888);
-    if (image.isNull())
-        return image;
-    MeanRows rows(size, image, header.decodedComponents);
+    // The rest of the way, to less than half of it, is scaled smoothly.
+    const int side = isScaled ? std::min(size.width() / bound.width(), size.height() / bound.height()) : 1;
+    MeanRows rows(size, std::clamp(side, 1, 4096), header.decodedComponents);
+    if (rows.image().isNull())
+        return {};
     PngPixels pixels(png);
     for (int y = 0; y < size.height(); ++y) {
         const unsigned char *row = pixels.nextRow();
@@ -84,7 +85,8 @@ QImage decodedPng(QByteArrayView png, const QSize &bound, QString &error)
         }
         rows.addRow(y, row);
     }
-    return isScaled ? image.scaled(bound, Qt::IgnoreAspectRatio, Qt::SmoothTransformation) : image;
+    return isScaled ? rows.image().scaled(bound, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
+                    : rows.image();
 }
 
 } // namespace printdialog
