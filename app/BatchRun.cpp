@@ -5,6 +5,7 @@
 
 #include "Console.h"
 #include "JobPlan.h"
+#include "PhotoCheck.h"
 #include "PhotoList.h"
 #include "RequestedSession.h"
 #include "SummaryLines.h"
@@ -38,6 +39,10 @@ int BatchRun::run()
     auto photos = PhotoList::open(commandLine_.photos);
     if (!photos)
         return fail(photos.failure().text);
+    // Begun at once, since it takes as long as everything up to the printing.
+    std::optional<PhotoCheck> firstCheck;
+    if (const auto first = photos->first(); first && commandLine_.checks)
+        firstCheck.emplace(*first);
     const auto requested = openRequestedJob(commandLine_);
     if (!requested)
         return fail(requested.failure().text);

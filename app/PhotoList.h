@@ -22,6 +22,8 @@ public:
     /// Opens each photo. Fails with the first one that cannot be printed.
     static Result<PhotoList, PhotoFault> open(const QStringList &paths);
 
+    /// The first one, not handed over; nothing when it was not kept.
+    std::optional<Photo> first() const { return photos_.empty() ? std::nullopt : photos_.front().photo; }
     qsizetype size() const { return static_cast<qsizetype>(photos_.size()); }
     /// The photo, handed over: it can be taken once.
     Result<Photo, PhotoFault> take(qsizetype index);
