@@ -115,7 +115,8 @@ public:
             const auto status = look();
             const auto now = Clock::now();
             if (!status && !isCancelled()) {
-                if (!isAway(status.failure().reason) || now - heard >= limits_.away)
+                if (!isAway(status.failure().reason) || now - heard >= limits_.away ||
+                    now - start >= limits_.total)
                     return status.failure();
                 JobStatus old = last.value_or(JobStatus());
                 old.isServerAway = true;

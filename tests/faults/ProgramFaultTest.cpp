@@ -416,7 +416,8 @@ void ProgramFaultTest::serverGoes()
     const QString trouble = cupsd.start();
     QVERIFY2(trouble.isEmpty(), qPrintable(trouble));
     QVERIFY(cupsd.addQueue(u"photo"_s, contentOf(QStringLiteral(CORVEL_PPD))));
-    const QStringList toQueue = {u"--batch"_s, u"--printer"_s, u"photo"_s, photo()};
+    // A server that does not come back is waited for no longer than a job is followed.
+    const QStringList toQueue = {u"--batch"_s, u"--printer"_s, u"photo"_s, u"--wait"_s, u"1"_s, photo()};
     int steps = 0;
     for (int cutAt = 1;; ++cutAt) {
         const QByteArray jobsBefore = jobs();
