@@ -9,6 +9,7 @@
 #include "RequestedSession.h"
 #include "StateText.h"
 #include "SummaryLines.h"
+#include "UserDestinations.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QJsonArray>
@@ -29,12 +30,17 @@ struct Text
     Q_DECLARE_TR_FUNCTIONS(Listings)
 };
 
-/// The built-in printer first; it is the default when no queue is.
-QList<Queue> allPrinters()
+/// The built-in printer first; it is the default when the user has made it that, or when there is no other.
+Result<QList<Queue>, QueueFault> allPrinters(const CommandLine &commandLine)
 {
-    QList<Queue> queues = listQueues(listPatience);
+    const std::optional<QString> chosen = UserDestinations::read().defaultPrinter;
     Queue builtIn = Queue::builtIn();
-    builtIn.isDefault = !defaultQueue(queues);
+    const auto found = listQueues(listPatience);
+    const bool needsServer = commandLine.server || (chosen && chosen != builtIn.id());
+    if (!found && (needsServer || !isWithoutPrintServer(found.failure())))
+        return found.failure();
+    QList<Queue> queues = found ? *found : QList<Queue>();
+    builtIn.isDefault = chosen ? chosen == builtIn.id() : !defaultQueue(queues);
     queues.prepend(builtIn);
     return queues;
 }
@@ -107,9 +113,12 @@ std::optional<RequestedJob> openJob(const CommandLine &commandLine, Console &con
 
 int listPrinters(const CommandLine &commandLine, Console &console)
 {
+    const auto printers = allPrinters(commandLine);
+    if (!printers)
+        return fail(console, printers.failure().text);
     QList<QStringList> rows;
     QJsonArray array;
-    for (const Queue &queue : allPrinters()) {
+    for (const Queue &queue : *printers) {
         const QString mark = queue.isDefault ? Text::tr("default") : QString();
         rows.append({queue.id(), queue.info, stateText(queue), mark});
         array.append(jsonOf(queue));

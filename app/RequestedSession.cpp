@@ -10,6 +10,7 @@
 #include "QueueList.h"
 #include "SessionOpening.h"
 #include "StoredChoices.h"
+#include "UserDestinations.h"
 
 #include <QtCore/QCoreApplication>
 
@@ -50,6 +51,16 @@ RequestedSessionResult openQueueNamed(const QString &id, PanelMode mode)
     }
     return orSentence(opened->hasPpd ? openQueue(opened->queue, opened->ppd, mode)
                                      : openRawQueue(opened->queue, mode));
+}
+
+RequestedSessionResult openDefaultQueue(const QString &id, PanelMode mode)
+{
+    auto session = openQueueNamed(id, mode);
+    if (session)
+        return session;
+    return refusal(Text::tr("%1 It is your default printer; --printer names another one, and \"--printer "
+                            "built-in\" prints into files.")
+                       .arg(session.failure().text));
 }
 
 /// Takes the number of copies out of the choices.
@@ -101,13 +112,18 @@ RequestedSessionResult openRequestedPrinter(const CommandLine &commandLine)
         return orSentence(openBuiltInPrinter(commandLine.ppd, commandLine.mode));
     if (commandLine.printer)
         return openQueueNamed(PresetStore::destination(*commandLine.printer), commandLine.mode);
-    if (const std::optional<QString> id = defaultQueue(listQueues(listPatience))) {
-        auto session = openQueueNamed(*id, commandLine.mode);
-        if (session)
-            return session;
-        return refusal(Text::tr("%1 It is your default printer; --printer names another one.")
-                           .arg(session.failure().text));
+    if (const std::optional<QString> id = UserDestinations::read().defaultPrinter) {
+        if (id == Queue::builtIn().id())
+            return orSentence(openBuiltInPrinter(std::nullopt, commandLine.mode));
+        return openDefaultQueue(*id, commandLine.mode);
     }
+    const auto queues = listQueues(listPatience);
+    if (!queues && (commandLine.server || !isWithoutPrintServer(queues.failure())))
+        return refusal(Text::tr("%1 It may have your default printer; --printer names another one, and "
+                                "\"--printer built-in\" prints into files.")
+                           .arg(queues.failure().text));
+    if (const std::optional<QString> id = queues ? defaultQueue(*queues) : std::nullopt)
+        return openDefaultQueue(*id, commandLine.mode);
     return orSentence(openBuiltInPrinter(std::nullopt, commandLine.mode));
 }
 

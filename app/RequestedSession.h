@@ -16,7 +16,10 @@ namespace printdialog {
 using RequestedSessionResult = Result<std::unique_ptr<DialogSession>, std::monostate>;
 
 /// Opens the printer that the command line asks for: the built-in one by its name or with --ppd, the queue
-/// named, else the user's default queue, else the built-in printer. Panels are not loaded yet. Blocks while
+/// named, else the user's default (LPDEST, PRINTER, lpoptions), else the print server's, else the built-in
+/// printer. A default that cannot be used is a failure: nobody expects files instead of prints. So is a
+/// server that cannot be asked, since it may have a default, but for a machine without any
+/// (isWithoutPrintServer()) when none is named on the command line. Panels are not loaded yet. Blocks while
 /// the print server is asked, for a few seconds at most.
 RequestedSessionResult openRequestedPrinter(const CommandLine &commandLine);
 

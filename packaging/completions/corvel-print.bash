@@ -35,7 +35,7 @@ _corvel_print()
 
     case $prev in
         -d | --printer)
-            COMPREPLY=($(compgen -W "$("$1" --list-printers 2>/dev/null | cut -f1)" -- "$cur"))
+            COMPREPLY=($(compgen -W "$({ echo built-in; "$1" --list-printers 2>/dev/null | cut -f1; } | sort -u)" -- "$cur"))
             return
             ;;
         --mode)

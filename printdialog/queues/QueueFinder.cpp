@@ -38,7 +38,7 @@ QueueFinder::QueueFinder(QObject *parent, std::chrono::milliseconds interval)
     firstLook_.setSingleShot(true);
     firstLook_.setInterval(firstLookLimit);
     connect(&firstLook_, &QTimer::timeout, this,
-            [this] { takeFailure(queueFailure(QueueFault::TimedOut, {}).text); });
+            [this] { takeFailure(queueFailure(QueueFault::TimedOut, {}).text, false); });
 }
 
 QueueFinder::~QueueFinder()
@@ -62,7 +62,10 @@ void QueueFinder::start()
             if (swept)
                 self.post([this, queues = *swept] { takeQueues(queues); });
             else
-                self.post([this, text = swept.failure().text] { takeFailure(text); });
+                self.post([this, text = swept.failure().text,
+                           isAbsent = printdialog::isWithoutPrintServer(swept.failure())] {
+                    takeFailure(text, isAbsent);
+                });
         } while (self.pause(interval));
     });
 }
@@ -89,6 +92,7 @@ void QueueFinder::takeQueues(const QList<Queue> &queues)
     };
     const QList<Queue> before = std::exchange(queues_, queues);
     lastFailure_.clear();
+    isWithoutPrintServer_ = false;
     for (const Queue &queue : before) {
         if (isCurrent() && std::none_of(queues.cbegin(), queues.cend(), withId(queue.id())))
             Q_EMIT queueRemoved(queue.id());
@@ -101,8 +105,9 @@ void QueueFinder::takeQueues(const QList<Queue> &queues)
         endFirstLook();
 }
 
-void QueueFinder::takeFailure(const QString &text)
+void QueueFinder::takeFailure(const QString &text, bool isWithoutPrintServer)
 {
+    isWithoutPrintServer_ = isWithoutPrintServer;
     const QPointer<QueueFinder> self(this);
     const auto worker = worker_;
     if (text != std::exchange(lastFailure_, text))

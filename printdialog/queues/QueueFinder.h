@@ -40,6 +40,8 @@ public:
     QList<Queue> queues() const { return queues_; }
     /// The id of the user's default queue, or else of the server's, as far as it was found.
     std::optional<QString> defaultQueue() const;
+    /// Whether this machine has no print server, and nobody has named another one.
+    bool isWithoutPrintServer() const { return isWithoutPrintServer_; }
 
 Q_SIGNALS:
     /// A queue appeared, or something about it changed (its state, its description, whether it is the
@@ -53,7 +55,7 @@ Q_SIGNALS:
 
 private:
     void takeQueues(const QList<Queue> &queues);
-    void takeFailure(const QString &text);
+    void takeFailure(const QString &text, bool isWithoutPrintServer);
     void endFirstLook();
 
     std::chrono::milliseconds interval_;
@@ -63,6 +65,7 @@ private:
         worker_; // null when stopped; may outlive this object, and then leaves it alone
     QList<Queue> queues_;
     QString lastFailure_;
+    bool isWithoutPrintServer_ = false;
 };
 
 } // namespace printdialog

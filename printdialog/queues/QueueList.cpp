@@ -254,11 +254,19 @@ QString printServerAddress()
     return server.startsWith(u'/') ? server : QStringLiteral("%1:%2").arg(server).arg(ippPort());
 }
 
-QList<Queue> listQueues(std::chrono::milliseconds limit)
+bool isWithoutPrintServer(const Failure<QueueFault> &failure)
 {
-    const auto swept = callWithin<Result<QList<Queue>, QueueFault>>(
+    cupsSetServer(nullptr);
+    const QString server = QString::fromUtf8(cupsServer());
+    return failure.reason == QueueFault::NoServer &&
+           (server.startsWith(u'/') || server == QLatin1String("localhost"));
+}
+
+Result<QList<Queue>, QueueFault> listQueues(std::chrono::milliseconds limit)
+{
+    auto swept = callWithin<Result<QList<Queue>, QueueFault>>(
         limit, [limit](int *cancel) { return sweepQueues(limit, cancel); });
-    return swept && *swept ? **swept : QList<Queue>();
+    return swept ? *std::move(swept) : queueFailure(QueueFault::TimedOut, {});
 }
 
 std::optional<QString> defaultQueue(const QList<Queue> &queues)

@@ -15,12 +15,11 @@
 namespace printdialog {
 
 /// The queues of the print server with the user's instances of them, in the server's order. The built-in
-/// printer is not among them. Blocks, at most for the limit; empty when there is no server, or when it does
-/// not answer in time.
-QList<Queue> listQueues(std::chrono::milliseconds limit);
+/// printer is not among them. Blocks, at most for the limit. Failures: NoServer, Refused, TimedOut, Failed.
+Result<QList<Queue>, QueueFault> listQueues(std::chrono::milliseconds limit);
 
-/// The same, on the calling thread and with the reason when there are none. For a worker: the look-up of a
-/// server's name may hold it longer than the limit.
+/// The same, on the calling thread. For a worker: the look-up of a server's name may hold it longer than the
+/// limit.
 /// @param cancel non-zero once it shall give up; may be null
 Result<QList<Queue>, QueueFault> sweepQueues(std::chrono::milliseconds limit, int *cancel);
 
@@ -35,6 +34,11 @@ struct OpenedQueue
 /// Asks for one queue and its PPD without listing the others. Blocks, at most for the limit. Failures: those
 /// of QueueFault but NoPpd.
 Result<OpenedQueue, QueueFault> queueNamed(const QString &id, std::chrono::milliseconds limit);
+
+/// Whether a failure of one of these says that this machine prints nowhere: its print server is one of its
+/// own, and nobody listens there. Any other server that cannot be asked may have the user's printer. Reads
+/// the configuration of CUPS.
+bool isWithoutPrintServer(const Failure<QueueFault> &failure);
 
 /// Where the print server of this process is asked: a socket's path, or "host:port". Reads the configuration
 /// of CUPS.

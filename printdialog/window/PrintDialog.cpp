@@ -10,6 +10,7 @@
 #include "PpdCheck.h"
 #include "PpdFetcher.h"
 #include "PrintWorker.h"
+#include "QueueCache.h"
 #include "QueueSettings.h"
 #include "SessionOpening.h"
 #include "TouchWatch.h"
@@ -44,9 +45,10 @@ PrintDialog::PrintDialog(const PrintDialogSetup &setup, QWidget *parent)
         const auto failure = checkPpd(ppd, queueId);
         return failure ? std::optional(failure->text) : std::nullopt;
     });
+    const std::optional<RememberedQueue> remembered = firstPrinter();
     // The print server may well be asked while the window is being made.
-    if (setup.printer && *setup.printer != Queue::builtIn().id() && !setup.ppdFile)
-        fetcher_->fetchAhead(*setup.printer);
+    if (setup_.printer && *setup_.printer != Queue::builtIn().id() && !setup_.ppdFile)
+        fetcher_->fetchAhead(*setup_.printer);
     ui_->setupUi(this);
     auto *buttons = new WrappingRow(ui_->buttons);
     buttons->addWidget(ui_->help);
@@ -59,8 +61,7 @@ PrintDialog::PrintDialog(const PrintDialogSetup &setup, QWidget *parent)
         this);
     ui_->folder->setText(QDir::toNativeSeparators(QDir(setup.outputFolder).absolutePath()));
     connect(ui_->printer, &PrinterChooser::printerChosen, this, &PrintDialog::openPrinter);
-    connect(ui_->printer, &PrinterChooser::searchFailed, this,
-            [this](const QString &text) { ui_->message->show(MessageBar::Kind::Error, text); });
+    connect(ui_->printer, &PrinterChooser::searchFailed, this, &PrintDialog::takeSearchFailure);
     connect(ui_->printer, &PrinterChooser::currentRemoved, this,
             [this](const QString &text) { ui_->message->show(MessageBar::Kind::Warning, text); });
     connect(ui_->pageSize, &QComboBox::activated, this, &PrintDialog::choosePageSize);
@@ -95,7 +96,7 @@ PrintDialog::PrintDialog(const PrintDialogSetup &setup, QWidget *parent)
             [this](const QString &text) { ui_->message->show(MessageBar::Kind::Error, text); });
     ui_->photos->setPhotos(setup.photos, setup.placement);
     showPhoto();
-    openFirstPrinter();
+    openFirstPrinter(remembered);
     if (message().isEmpty())
         clearMessage();
 }

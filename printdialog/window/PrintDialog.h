@@ -38,7 +38,7 @@ struct PrintDialogSetup
     QList<Photo> photos;
     QStringList photoFailures; ///< a sentence for each photo that could not be opened
     PanelMode mode = PanelMode::Constraint;
-    std::optional<QString> printer;         ///< a queue's id; without it the user's default
+    std::optional<QString> printer;         ///< a queue's id; without it the default
     std::optional<QString> ppdFile;         ///< for the built-in printer, instead of its own
     QList<QPair<QString, QString>> options; ///< choices to begin with, in order
     std::optional<int> copies;              ///< to begin with
@@ -48,7 +48,8 @@ struct PrintDialogSetup
 };
 
 /// The print dialog: the photo on its page, the printer, the panels of the printer's plug-in. It works at
-/// once with the built-in printer, unless a queue is asked for by its name: then it prints on no other one.
+/// once with the built-in printer, unless a queue is asked for by its name or as the user's default (LPDEST,
+/// PRINTER, lpoptions): then it prints on no other one that the user has not chosen.
 /// The queue used last is shown at once, with its panels, and can be printed on once the print server has
 /// confirmed it. Whatever a print server has to say comes later and blocks nothing.
 class PrintDialog : public QDialog
@@ -64,8 +65,8 @@ public:
     /// for.
     void restorePlacement(const QByteArray &geometry);
 
-    /// Starts to look for the print server's queues. When the one asked for is not among them, the built-in
-    /// printer takes its place, and the user is told.
+    /// Starts to look for the print server's queues. When the one asked for is not among them, the user is
+    /// told, and offered the built-in printer.
     void searchPrinters();
 
     /// The id of the printer that is shown; empty while the one asked for is being looked for.
@@ -95,10 +96,13 @@ protected:
 
 private:
     // The printer
-    void openFirstPrinter();
+    std::optional<RememberedQueue> firstPrinter();
+    void openFirstPrinter(const std::optional<RememberedQueue> &remembered);
     void openPrinter(const Queue &queue);
     void openRemembered(const RememberedQueue &remembered);
     void takeUpdate(const Queue &queue);
+    void takeSearchFailure(const QString &text);
+    void showUnusable(const QString &reason);
     void remember(bool wasChosen);
     void awaitOptions(const QString &id);
     void showFolder(bool isBuiltIn);

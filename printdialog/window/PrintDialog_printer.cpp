@@ -7,6 +7,7 @@
 #include "PrintDialog.h"
 #include "QueueCache.h"
 #include "SessionOpening.h"
+#include "UserDestinations.h"
 #include "ui_PrintDialog.h"
 
 namespace printdialog {
@@ -33,14 +34,25 @@ QMap<QString, QString> ownChoices(DialogSession &session)
 
 // Which printer is shown
 
-void PrintDialog::openFirstPrinter()
+/// The printer used last, if it is the one to begin with; from here on the user's default is asked for like
+/// one that is named. What the user has chosen comes before a default.
+std::optional<RememberedQueue> PrintDialog::firstPrinter()
 {
-    const Queue builtIn = Queue::builtIn();
+    if (setup_.ppdFile)
+        return std::nullopt;
     std::optional<RememberedQueue> remembered;
-    if (setup_.remembers && !setup_.ppdFile)
+    if (setup_.remembers)
         remembered = QueueCache::load();
+    if (!setup_.printer && !(remembered && remembered->wasChosen))
+        setup_.printer = UserDestinations::read().defaultPrinter;
     if (remembered && setup_.printer && *setup_.printer != remembered->queue.id())
         remembered.reset();
+    return remembered;
+}
+
+void PrintDialog::openFirstPrinter(const std::optional<RememberedQueue> &remembered)
+{
+    const Queue builtIn = Queue::builtIn();
     if (remembered && !remembered->queue.isBuiltIn) {
         openRemembered(*remembered);
     } else if (setup_.printer && *setup_.printer != builtIn.id() && !setup_.ppdFile) {
@@ -109,6 +121,29 @@ void PrintDialog::clearMessage()
         ui_->message->show(MessageBar::Kind::Error, setup_.photoFailures.join(u'\n'));
 }
 
+void PrintDialog::takeSearchFailure(const QString &text)
+{
+    if (ui_->printer->isConfirmed()) {
+        ui_->message->show(MessageBar::Kind::Warning, text);
+        return;
+    }
+    if (ui_->printer->currentIndex() < 0)
+        closeSession(text);
+    else
+        showUnusable(text);
+}
+
+void PrintDialog::showUnusable(const QString &reason)
+{
+    whyNotReady_ = reason;
+    if (queue_.isBuiltIn)
+        ui_->message->show(MessageBar::Kind::Error, reason);
+    else
+        ui_->message->showWithAction(MessageBar::Kind::Error, reason, tr("Use the Built-in Printer"),
+                                     [this] { ui_->printer->chooseBuiltIn(); });
+    updateButtons();
+}
+
 void PrintDialog::remember(bool wasChosen)
 {
     wasChosen_ = wasChosen;
@@ -170,6 +205,8 @@ void PrintDialog::takePpdFailure(QueueFault reason, const QString &text)
 void PrintDialog::confirm()
 {
     isRemembered_ = false;
+    if (ui_->message->text() == whyNotReady_)
+        ui_->message->clear(); // the print server is back
     whyNotReady_.clear();
     remember(wasChosen_);
     updateButtons();
@@ -207,9 +244,10 @@ void PrintDialog::closeSession(const QString &reason)
     session_.reset();
     whyNotReady_ = reason;
     ui_->pageSize->clear();
-    if (!reason.isEmpty())
-        ui_->message->show(MessageBar::Kind::Error, reason);
-    updateButtons();
+    if (reason.isEmpty())
+        updateButtons();
+    else
+        showUnusable(reason);
 }
 
 void PrintDialog::takeSession(std::unique_ptr<DialogSession> session)

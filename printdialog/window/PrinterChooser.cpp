@@ -67,6 +67,12 @@ void PrinterChooser::keepCurrent()
         isSettled_ = true;
 }
 
+void PrinterChooser::chooseBuiltIn()
+{
+    wasChosenByUser_ = true;
+    choose(0);
+}
+
 Queue PrinterChooser::current() const
 {
     return currentData().value<Queue>();
@@ -120,6 +126,16 @@ void PrinterChooser::choose(int index)
     Q_EMIT printerChosen(current());
 }
 
+void PrinterChooser::drop(int index)
+{
+    indexes_.remove(itemData(index).value<Queue>().id());
+    removeItem(index);
+    for (int &later : indexes_) {
+        if (later > index)
+            --later;
+    }
+}
+
 void PrinterChooser::remove(const QString &id)
 {
     const int index = indexOf(id);
@@ -128,38 +144,40 @@ void PrinterChooser::remove(const QString &id)
     const bool wasCurrent = index == currentIndex();
     if (wasCurrent)
         choose(0);
-    removeItem(index);
-    indexes_.remove(id);
-    for (int &later : indexes_) {
-        if (later > index)
-            --later;
-    }
+    drop(index);
     if (wasCurrent)
         Q_EMIT currentRemoved(tr("The printer \"%1\" is no longer there. Choose another one.").arg(id));
 }
 
+// The finder goes on looking: once there is a server again it may have the queue.
 void PrinterChooser::endSearch()
 {
-    // The finder goes on looking: once there is a server again it may have the queue.
-    if (unconfirmed_ && !failure_.isEmpty()) {
-        if (current().id() == *unconfirmed_)
-            Q_EMIT searchFailed(failure_);
-    } else if (unconfirmed_) {
-        const QString id = *unconfirmed_;
-        unconfirmed_.reset();
-        remove(id);
-    }
-    if (wanted_ && !isSettled_) {
-        if (currentIndex() < 0)
-            choose(0);
+    const bool isAway = unconfirmed_ && current().id() == *unconfirmed_;
+    if (unconfirmed_ && failure_.isEmpty())
+        forgetUnconfirmed();
+    if (wanted_ && !isConfirmed())
         Q_EMIT searchFailed(
-            !failure_.isEmpty()
-                ? failure_
-                : tr("There is no printer \"%1\". Choose another one, or see --list-printers for those that "
+            failure_.isEmpty()
+                ? tr("There is no printer \"%1\". Choose another one, or see --list-printers for those that "
                      "there are.")
-                      .arg(*wanted_));
+                      .arg(*wanted_)
+                : tr("The printer \"%1\" is not there. %2").arg(*wanted_, failure_));
+    else if (!failure_.isEmpty() && (isAway || !(isSettled_ || finder_->isWithoutPrintServer())))
+        Q_EMIT searchFailed(failure_);
+    isSettled_ = isSettled_ || currentIndex() >= 0;
+}
+
+// The server does not have the recalled queue any more.
+void PrinterChooser::forgetUnconfirmed()
+{
+    const QString id = *std::exchange(unconfirmed_, std::nullopt);
+    if (id != wanted_ || current().id() != id) {
+        remove(id);
+        return;
     }
-    isSettled_ = true;
+    await(id);
+    drop(indexOf(id));
+    isSettled_ = false;
 }
 
 } // namespace printdialog

@@ -23,16 +23,18 @@ class PrinterChooser : public QComboBox
 public:
     explicit PrinterChooser(QWidget *parent = nullptr);
 
-    /// Shows the queue's id with no printer chosen, until the search has found the queue or is over.
+    /// Shows the queue's id with no printer chosen, until a search has found the queue or the user chooses.
     void await(const QString &id);
     /// Makes a queue from an earlier time the current one, before any server has been asked for it.
     /// @param wasChosen by the user; otherwise another default takes its place
     void recall(const Queue &queue, bool wasChosen);
-    /// Starts to look for queues. The queue `wanted`, or else the user's default, is chosen when it is found,
-    /// unless keepCurrent() was called or the user has chosen by then.
+    /// Starts to look for queues. The queue `wanted`, or else the default, is chosen when it is found, unless
+    /// keepCurrent() was called or the user has chosen by then. No other printer takes the place of `wanted`.
     void search(const std::optional<QString> &wanted);
     /// From now on no default takes the place of the current printer. One asked for by its name still does.
     void keepCurrent();
+    /// As if the user had chosen it.
+    void chooseBuiltIn();
     Queue current() const;
     /// Whether the print server has said in this search that the current printer is there. The built-in one
     /// is.
@@ -46,7 +48,8 @@ Q_SIGNALS:
     /// The print server has something new to say about the current printer: its state, its supplies, or that
     /// the recalled one is there.
     void currentUpdated(const printdialog::Queue &queue);
-    /// One sentence for people.
+    /// What the search has not found, or why the print server cannot be asked, in a sentence or two for
+    /// people. There may be no current printer now.
     void searchFailed(const QString &text);
     /// The queue that was the current one is gone; another one is the current one now.
     void currentRemoved(const QString &text);
@@ -56,6 +59,8 @@ private:
     void add(const Queue &queue);
     void update(int index, const Queue &queue);
     void remove(const QString &id);
+    void drop(int index);
+    void forgetUnconfirmed();
     void endSearch();
     void choose(int index);
     int indexOf(const QString &id) const { return indexes_.value(id, -1); }

@@ -972,10 +972,6 @@ Beispiele:
 <context>
     <name>RequestedSession</name>
     <message>
-        <source>%1 It is your default printer; --printer names another one.</source>
-        <translation>%1 Dies ist Ihr Standarddrucker; mit --printer nennen Sie einen anderen.</translation>
-    </message>
-    <message>
         <source>The printer &quot;%1&quot; has no PPD file and so no option %2; leave it out, or set the printer up with its driver.</source>
         <translation>Der Drucker „%1“ hat keine PPD-Datei und deshalb keine Option %2; lassen Sie sie weg oder richten Sie den Drucker mit seinem Treiber ein.</translation>
     </message>
@@ -986,6 +982,14 @@ Beispiele:
     <message>
         <source>Of the preset &quot;%1&quot; is left out: %2</source>
         <translation>Von der Voreinstellung „%1“ bleibt weg: %2</translation>
+    </message>
+    <message>
+        <source>%1 It is your default printer; --printer names another one, and &quot;--printer built-in&quot; prints into files.</source>
+        <translation>%1 Dies ist Ihr Standarddrucker; mit --printer nennen Sie einen anderen, und „--printer built-in“ druckt in Dateien.</translation>
+    </message>
+    <message>
+        <source>%1 It may have your default printer; --printer names another one, and &quot;--printer built-in&quot; prints into files.</source>
+        <translation>%1 Er hat vielleicht Ihren Standarddrucker; mit --printer nennen Sie einen anderen, und „--printer built-in“ druckt in Dateien.</translation>
     </message>
 </context>
 <context>
@@ -1890,6 +1894,10 @@ Beispiele:
         <source>Print Anyway</source>
         <translation>Trotzdem drucken</translation>
     </message>
+    <message>
+        <source>Use the Built-in Printer</source>
+        <translation>Eingebauten Drucker verwenden</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::PrintProgress</name>
@@ -1930,6 +1938,10 @@ Beispiele:
     <message>
         <source>There is no printer &quot;%1&quot;. Choose another one, or see --list-printers for those that there are.</source>
         <translation>Es gibt keinen Drucker „%1“. Wählen Sie einen anderen; --list-printers zeigt die vorhandenen.</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; is not there. %2</source>
+        <translation>Der Drucker „%1“ ist nicht da. %2</translation>
     </message>
 </context>
 <context>

@@ -970,10 +970,6 @@ Ejemplos:
 <context>
     <name>RequestedSession</name>
     <message>
-        <source>%1 It is your default printer; --printer names another one.</source>
-        <translation>%1 Es su impresora predeterminada; con --printer puede indicar otra.</translation>
-    </message>
-    <message>
         <source>The printer &quot;%1&quot; has no PPD file and so no option %2; leave it out, or set the printer up with its driver.</source>
         <translation>La impresora «%1» no tiene archivo PPD y por tanto ninguna opción %2; omítala o configure la impresora con su controlador.</translation>
     </message>
@@ -984,6 +980,14 @@ Ejemplos:
     <message>
         <source>Of the preset &quot;%1&quot; is left out: %2</source>
         <translation>Del preajuste «%1» se omite: %2</translation>
+    </message>
+    <message>
+        <source>%1 It is your default printer; --printer names another one, and &quot;--printer built-in&quot; prints into files.</source>
+        <translation>%1 Es su impresora predeterminada; con --printer puede indicar otra, y «--printer built-in» imprime en archivos.</translation>
+    </message>
+    <message>
+        <source>%1 It may have your default printer; --printer names another one, and &quot;--printer built-in&quot; prints into files.</source>
+        <translation>%1 Puede que tenga su impresora predeterminada; con --printer puede indicar otra, y «--printer built-in» imprime en archivos.</translation>
     </message>
 </context>
 <context>
@@ -1888,6 +1892,10 @@ Ejemplos:
         <source>Print Anyway</source>
         <translation>Imprimir de todos modos</translation>
     </message>
+    <message>
+        <source>Use the Built-in Printer</source>
+        <translation>Usar la impresora integrada</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::PrintProgress</name>
@@ -1928,6 +1936,10 @@ Ejemplos:
     <message>
         <source>There is no printer &quot;%1&quot;. Choose another one, or see --list-printers for those that there are.</source>
         <translation>No hay ninguna impresora «%1». Elija otra; --list-printers muestra las que hay.</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; is not there. %2</source>
+        <translation>La impresora «%1» no está disponible. %2</translation>
     </message>
 </context>
 <context>

@@ -971,10 +971,6 @@ Exemples&#x202f;:
 <context>
     <name>RequestedSession</name>
     <message>
-        <source>%1 It is your default printer; --printer names another one.</source>
-        <translation>%1 C’est votre imprimante par défaut&#x202f;; --printer permet d’en nommer une autre.</translation>
-    </message>
-    <message>
         <source>The printer &quot;%1&quot; has no PPD file and so no option %2; leave it out, or set the printer up with its driver.</source>
         <translation>L’imprimante «&#xa0;%1&#xa0;» n’a pas de fichier PPD, donc pas d’option %2&#xa0;; retirez-la ou installez l’imprimante avec son pilote.</translation>
     </message>
@@ -985,6 +981,14 @@ Exemples&#x202f;:
     <message>
         <source>Of the preset &quot;%1&quot; is left out: %2</source>
         <translation>Du préréglage «&#x202f;%1&#x202f;» est laissé de côté&#x202f;: %2</translation>
+    </message>
+    <message>
+        <source>%1 It is your default printer; --printer names another one, and &quot;--printer built-in&quot; prints into files.</source>
+        <translation>%1 C’est votre imprimante par défaut ; --printer permet d’en nommer une autre, et « --printer built-in » imprime dans des fichiers.</translation>
+    </message>
+    <message>
+        <source>%1 It may have your default printer; --printer names another one, and &quot;--printer built-in&quot; prints into files.</source>
+        <translation>%1 Votre imprimante par défaut y est peut-être ; --printer permet d’en nommer une autre, et « --printer built-in » imprime dans des fichiers.</translation>
     </message>
 </context>
 <context>
@@ -1889,6 +1893,10 @@ Exemples&#x202f;:
         <source>Print Anyway</source>
         <translation>Imprimer quand même</translation>
     </message>
+    <message>
+        <source>Use the Built-in Printer</source>
+        <translation>Utiliser l’imprimante intégrée</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::PrintProgress</name>
@@ -1929,6 +1937,10 @@ Exemples&#x202f;:
     <message>
         <source>There is no printer &quot;%1&quot;. Choose another one, or see --list-printers for those that there are.</source>
         <translation>Il n’y a pas d’imprimante «&#x202f;%1&#x202f;». Choisissez-en une autre&#x202f;; --list-printers indique celles qui existent.</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; is not there. %2</source>
+        <translation>L’imprimante « %1 » n’est pas là. %2</translation>
     </message>
 </context>
 <context>

@@ -969,10 +969,6 @@ Examples:
 <context>
     <name>RequestedSession</name>
     <message>
-        <source>%1 It is your default printer; --printer names another one.</source>
-        <translation>%1 これは既定のプリンターです。別のプリンターは --printer で指定できます。</translation>
-    </message>
-    <message>
         <source>The printer &quot;%1&quot; has no PPD file and so no option %2; leave it out, or set the printer up with its driver.</source>
         <translation>プリンター「%1」には PPD ファイルがないため、オプション %2 はありません。指定を外すか、ドライバーを使ってプリンターを設定してください。</translation>
     </message>
@@ -983,6 +979,14 @@ Examples:
     <message>
         <source>Of the preset &quot;%1&quot; is left out: %2</source>
         <translation>プリセット「%1」のうち次は使われません: %2</translation>
+    </message>
+    <message>
+        <source>%1 It is your default printer; --printer names another one, and &quot;--printer built-in&quot; prints into files.</source>
+        <translation>%1 これは既定のプリンターです。別のプリンターは --printer で指定できます。「--printer built-in」ではファイルに印刷します。</translation>
+    </message>
+    <message>
+        <source>%1 It may have your default printer; --printer names another one, and &quot;--printer built-in&quot; prints into files.</source>
+        <translation>%1 既定のプリンターがこのサーバーにあるかもしれません。別のプリンターは --printer で指定できます。「--printer built-in」ではファイルに印刷します。</translation>
     </message>
 </context>
 <context>
@@ -1885,6 +1889,10 @@ Examples:
         <source>Print Anyway</source>
         <translation>それでも印刷</translation>
     </message>
+    <message>
+        <source>Use the Built-in Printer</source>
+        <translation>内蔵プリンターを使う</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::PrintProgress</name>
@@ -1925,6 +1933,10 @@ Examples:
     <message>
         <source>There is no printer &quot;%1&quot;. Choose another one, or see --list-printers for those that there are.</source>
         <translation>プリンター「%1」はありません。別のプリンターを選んでください。使えるプリンターは --list-printers で確認できます。</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; is not there. %2</source>
+        <translation>プリンター「%1」が見つかりません。%2</translation>
     </message>
 </context>
 <context>

@@ -65,7 +65,6 @@ private Q_SLOTS:
     void namesWhatWasPrintedBeforeAFailure();
     void leavesDamagedPhotosOut();
     void listsOptions();
-    void listsTheBuiltInPrinter();
     void showsTheSummary();
     void takesPicturesOfTheDialog();
     void helpAndVersionGoToStandardOutput();
@@ -233,15 +232,6 @@ void CommandLineTest::listsOptions()
     QCOMPARE(text.status, 0);
     QCOMPARE(text.out.count('\n'), options.size() + 1);
     QVERIFY(text.out.contains("-25 to 25\n") && text.out.contains("  Standard, Fine\n"));
-}
-
-void CommandLineTest::listsTheBuiltInPrinter()
-{
-    QCOMPARE(runProgram({u"--list-printers"_s}).out, "built-in\tBuilt-in printer (files)\tready\tdefault\n");
-    const QJsonArray printers = runProgram({u"--list-printers"_s, u"--json"_s}).json().array();
-    QCOMPARE(printers.size(), 1);
-    QCOMPARE(printers[0][u"name"].toString(), u"built-in"_s);
-    QCOMPARE(printers[0][u"default"].toBool(), true);
 }
 
 void CommandLineTest::showsTheSummary()

@@ -1,0 +1,99 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "OpenedDialog.h"
+#include "StubServer.h"
+#include "SystemLog.h"
+
+#include <QtTest/QTest>
+#include <QtWidgets/QComboBox>
+#include <QtWidgets/QPushButton>
+
+using namespace printdialog;
+using namespace testing_support;
+using namespace Qt::StringLiterals;
+
+/// The window when its printer, or the print server, is not there.
+class MissingPrinterTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void init();
+    void defaultThatIsNotThere_data();
+    void defaultThatIsNotThere();
+    void noDefaultKnown();
+
+private:
+    std::unique_ptr<QTemporaryDir> home_;
+};
+
+void MissingPrinterTest::initTestCase()
+{
+    pdekit::setSystemLogSink([](const QString &) {});
+}
+
+void MissingPrinterTest::init()
+{
+    pdekit::Feedback::install(std::make_shared<RecordingFeedback>());
+    home_ = std::make_unique<QTemporaryDir>();
+    for (const char *name : {"HOME", "XDG_CONFIG_HOME", "XDG_CACHE_HOME"})
+        qputenv(name, QFile::encodeName(home_->path()));
+    for (const char *name : {"LPDEST", "PRINTER"})
+        qunsetenv(name);
+}
+
+void MissingPrinterTest::defaultThatIsNotThere_data()
+{
+    using Manner = std::optional<StubServer::Manner>;
+    QTest::addColumn<Manner>("server"); // nothing: absent
+    QTest::addColumn<QString>("reason");
+    QTest::newRow("absent") << Manner() << u"nothing answers at"_s;
+    QTest::newRow("500") << Manner(StubServer::Manner::Failing) << u"Internal Server Error"_s;
+    QTest::newRow("nested answer") << Manner(StubServer::Manner::Nesting) << u"malformed"_s;
+    QTest::newRow("endless answer") << Manner(StubServer::Manner::EndlessValues) << u"malformed"_s;
+    QTest::newRow("without the queue") << Manner(StubServer::Manner::OddNames) << u"There is no printer"_s;
+}
+
+// Nothing is printed by another one before the user says so.
+void MissingPrinterTest::defaultThatIsNotThere()
+{
+    QFETCH(std::optional<StubServer::Manner>, server);
+    QFETCH(QString, reason);
+    const auto stub = server ? std::make_unique<StubServer>(*server) : nullptr;
+    qputenv("LPDEST", "mine");
+    PrintDialogSetup setup = setupFor(PanelMode::Constraint);
+    setup.ppdFile = std::nullopt;
+    const OpenedDialog opened(setup);
+    opened.dialog->searchPrinters();
+    QTRY_VERIFY2(opened.dialog->message().contains(reason), qPrintable(opened.dialog->message()));
+    QVERIFY2(opened.dialog->message().contains(u"\"mine\""_s), qPrintable(opened.dialog->message()));
+    auto *chooser = opened.find<QComboBox>(u"printer"_s);
+    QCOMPARE(chooser->currentIndex(), -1);
+    QCOMPARE(chooser->placeholderText(), u"mine"_s);
+    QVERIFY(!opened.find<QPushButton>(u"print"_s)->isEnabled());
+    QCOMPARE(opened.dialog->whyNotReady(), opened.dialog->message());
+
+    opened.click(u"messageAction"_s);
+    QCOMPARE(opened.dialog->printer(), u"built-in"_s);
+    QVERIFY(opened.dialog->isReady());
+    QCOMPARE(opened.dialog->message(), QString());
+    QTest::keyClick(opened.dialog.get(), Qt::Key_P, Qt::ControlModifier);
+    QTRY_VERIFY(opened.hasPrinted());
+}
+
+void MissingPrinterTest::noDefaultKnown()
+{
+    const StubServer server(StubServer::Manner::Failing);
+    PrintDialogSetup setup = setupFor(PanelMode::Constraint);
+    setup.ppdFile = std::nullopt;
+    const OpenedDialog opened(setup);
+    opened.dialog->searchPrinters();
+    QTRY_VERIFY(opened.dialog->message().contains(u"Internal Server Error"_s));
+    QCOMPARE(opened.dialog->printer(), u"built-in"_s);
+    QVERIFY(opened.dialog->isReady());
+}
+
+QTEST_MAIN(MissingPrinterTest)
+#include "MissingPrinterTest.moc"
