@@ -72,6 +72,9 @@ public:
     Failure<QueueFault> lastFailure(const QString &queue) const;
 
 private:
+    /// For an answer's head, and as much for its body's framing and encryption.
+    static constexpr qint64 overheadLimit = qint64(512) * 1024;
+
     /// How the last request ended.
     enum class End {
         Answered, ///< See status_.

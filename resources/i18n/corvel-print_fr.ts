@@ -984,11 +984,11 @@ Exemples&#x202f;:
     </message>
     <message>
         <source>%1 It is your default printer; --printer names another one, and &quot;--printer built-in&quot; prints into files.</source>
-        <translation>%1 C’est votre imprimante par défaut ; --printer permet d’en nommer une autre, et « --printer built-in » imprime dans des fichiers.</translation>
+        <translation>%1 C’est votre imprimante par défaut&#x202f;; --printer permet d’en nommer une autre, et «&#x202f;--printer built-in&#x202f;» imprime dans des fichiers.</translation>
     </message>
     <message>
         <source>%1 It may have your default printer; --printer names another one, and &quot;--printer built-in&quot; prints into files.</source>
-        <translation>%1 Votre imprimante par défaut y est peut-être ; --printer permet d’en nommer une autre, et « --printer built-in » imprime dans des fichiers.</translation>
+        <translation>%1 Votre imprimante par défaut y est peut-être&#x202f;; --printer permet d’en nommer une autre, et «&#x202f;--printer built-in&#x202f;» imprime dans des fichiers.</translation>
     </message>
 </context>
 <context>
@@ -1940,7 +1940,7 @@ Exemples&#x202f;:
     </message>
     <message>
         <source>The printer &quot;%1&quot; is not there. %2</source>
-        <translation>L’imprimante « %1 » n’est pas là. %2</translation>
+        <translation>L’imprimante «&#x202f;%1&#x202f;» n’est pas là. %2</translation>
     </message>
 </context>
 <context>
