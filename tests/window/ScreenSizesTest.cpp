@@ -119,6 +119,7 @@ void ScreenSizesTest::everythingIsReached()
     QCOMPARE(opened.dialog->size(), size);
     for (int page = 0; page < opened.dialog->pageCount(); ++page) {
         opened.dialog->showPage(page);
+        QCoreApplication::processEvents(); // a page is laid out when it is first shown
         auto *first = opened.find<QWidget>(u"printer"_s);
         first->setFocus();
         int count = 0;
