@@ -3,11 +3,11 @@
 
 #include "ChoiceCallout.h"
 
+#include "AlertRole.h"
 #include "ElidingButton.h"
 #include "MessageTint.h"
 
 #include <QtCore/QEvent>
-#include <QtGui/QAccessible>
 #include <QtGui/QPainter>
 #include <QtGui/QPainterPath>
 #include <QtGui/QShortcut>
@@ -101,9 +101,7 @@ void ChoiceCallout::show(QWidget *control, QWidget *area, const QString &text, c
     place();
     setVisible(true);
     raise();
-    // A screen reader says it at once.
-    QAccessibleEvent alert(this, QAccessible::Alert);
-    QAccessible::updateAccessibility(&alert);
+    announce(this);
 }
 
 // The keyboard comes from the control to the callout, and from there to what followed the control.

@@ -3,6 +3,7 @@
 
 #include "MessageBar.h"
 
+#include "AlertRole.h"
 #include "ElidingButton.h"
 #include "LimitedText.h"
 #include "MessageTint.h"
@@ -10,7 +11,6 @@
 
 #include <QtCore/QEvent>
 #include <QtCore/QUrl>
-#include <QtGui/QAccessible>
 #include <QtGui/QDesktopServices>
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QLabel>
@@ -103,11 +103,9 @@ void MessageBar::show(const Message &message)
     makeActions();
     text_->setText(message.text);
     applyColors();
-    setVisible(true);
-    // A screen reader says it at once.
     setAccessibleName(message.text);
-    QAccessibleEvent alert(this, QAccessible::Alert);
-    QAccessible::updateAccessibility(&alert);
+    setVisible(true);
+    announce(this);
 }
 
 void MessageBar::showWithAction(Kind kind, const QString &text, const QString &actionText,

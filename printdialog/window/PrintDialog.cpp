@@ -3,6 +3,7 @@
 
 #include "PrintDialog.h"
 
+#include "AlertRole.h"
 #include "ChoiceController.h"
 #include "DialogSession.h"
 #include "HelpWindow.h"
@@ -56,6 +57,7 @@ PrintDialog::PrintDialog(const PrintDialogSetup &setup, QWidget *parent)
     for (QPushButton *button : {ui_->save, ui_->cancel, ui_->print})
         buttons->addWidget(button);
     ui_->settingsSide->setReadableWidth(narrowestSettings, widestSettings);
+    installAlertRole();
     choices_ = new ChoiceController(
         {this, ui_->panels, ui_->pageSize, ui_->copies, ui_->presetBar, ui_->undo, ui_->redo, ui_->message},
         this);

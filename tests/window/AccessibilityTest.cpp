@@ -1,0 +1,231 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "OpenedDialog.h"
+#include "SystemLog.h"
+
+#include <QtCore/QEventLoop>
+#include <QtCore/QProcess>
+#include <QtDBus/QDBusArgument>
+#include <QtDBus/QDBusConnection>
+#include <QtDBus/QDBusMessage>
+#include <QtDBus/QDBusPendingCallWatcher>
+#include <QtTest/QTest>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QWidget>
+
+using namespace printdialog;
+using namespace testing_support;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr uint alertRole = 2; // ATSPI_ROLE_ALERT
+
+/// What a screen reader has: a display, a session bus, and on it the accessibility bus.
+class Desktop
+{
+public:
+    /// Empty, or what is missing.
+    QString start()
+    {
+        const QString display =
+            firstLineOf(display_, u"Xvfb"_s, {u"-displayfd"_s, u"1"_s, u"-nolisten"_s, u"tcp"_s});
+        if (display.isEmpty())
+            return u"Xvfb is missing; apt-get install xvfb."_s;
+        const QString session =
+            firstLineOf(session_, u"dbus-daemon"_s, {u"--session"_s, u"--nofork"_s, u"--print-address=1"_s});
+        if (session.isEmpty())
+            return u"dbus-daemon is missing; apt-get install dbus."_s;
+        qputenv("DISPLAY", ":" + display.toLatin1());
+        qputenv("DBUS_SESSION_BUS_ADDRESS", session.toLatin1());
+        qputenv("QT_QPA_PLATFORM", "xcb");
+        qputenv("QT_LINUX_ACCESSIBILITY_ALWAYS_ON", "1");
+        qunsetenv("AT_SPI_BUS_ADDRESS");
+        return {};
+    }
+    ~Desktop()
+    {
+        for (QProcess *process : {&session_, &display_}) {
+            process->terminate();
+            process->waitForFinished(3000);
+        }
+    }
+
+private:
+    static QString firstLineOf(QProcess &process, const QString &program, const QStringList &arguments)
+    {
+        process.start(program, arguments, QIODevice::ReadOnly);
+        while (process.state() != QProcess::NotRunning && !process.canReadLine() &&
+               process.waitForReadyRead(10000))
+            ;
+        return QString::fromLatin1(process.readLine()).trimmed();
+    }
+
+    QProcess display_;
+    QProcess session_;
+};
+
+/// An object on the accessibility bus.
+struct Object
+{
+    QString service;
+    QString path;
+};
+
+} // namespace
+
+/// The window as it stands on the accessibility bus of a real desktop, which the offscreen platform lacks.
+class AccessibilityTest : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit AccessibilityTest(const QString &missing)
+        : missing_(missing)
+    {
+    }
+
+private Q_SLOTS:
+    void initTestCase();
+    void messagesAreAlerts();
+    void refusalsAreAlerts();
+
+private Q_SLOTS:
+    void note(const QDBusMessage &event) { told_ += event.path(); }
+
+private:
+    // This program answers itself: nothing here may wait without handling events.
+    QDBusMessage ask(const Object &object, const QString &interface, const QString &method,
+                     const QVariantList &arguments = {}) const;
+    QList<Object> childrenOf(const Object &object) const;
+    /// The names of the alerts that are shown in this program's windows.
+    QStringList alerts() const;
+    void collect(const Object &object, QStringList &names) const;
+
+    QString missing_;
+    mutable QString alertPath_;
+    QStringList told_; ///< the objects that a screen reader was told to be shown
+    QTemporaryDir config_;
+    QDBusConnection bus_ = QDBusConnection(u"none"_s);
+};
+
+void AccessibilityTest::initTestCase()
+{
+    if (!missing_.isEmpty())
+        QSKIP(qPrintable(missing_));
+    pdekit::Feedback::install(std::make_shared<RecordingFeedback>());
+    pdekit::setSystemLogSink([](const QString &) {});
+    qputenv("XDG_CONFIG_HOME", QFile::encodeName(config_.path()));
+    const auto call = QDBusMessage::createMethodCall(u"org.a11y.Bus"_s, u"/org/a11y/bus"_s, u"org.a11y.Bus"_s,
+                                                     u"GetAddress"_s);
+    const QDBusMessage address = QDBusConnection::sessionBus().call(call);
+    if (address.type() != QDBusMessage::ReplyMessage)
+        QSKIP("There is no accessibility bus; apt-get install at-spi2-core.");
+    bus_ = QDBusConnection::connectToBus(address.arguments().value(0).toString(), u"screen reader"_s);
+    QVERIFY2(bus_.isConnected(), qPrintable(bus_.lastError().message()));
+}
+
+QDBusMessage AccessibilityTest::ask(const Object &object, const QString &interface, const QString &method,
+                                    const QVariantList &arguments) const
+{
+    auto call = QDBusMessage::createMethodCall(object.service, object.path, interface, method);
+    call.setArguments(arguments);
+    const QDBusPendingCallWatcher answer(bus_.asyncCall(call));
+    QEventLoop loop;
+    connect(&answer, &QDBusPendingCallWatcher::finished, &loop, &QEventLoop::quit);
+    if (!answer.isFinished())
+        loop.exec();
+    return answer.reply();
+}
+
+QList<Object> AccessibilityTest::childrenOf(const Object &object) const
+{
+    QList<Object> children;
+    const QDBusMessage answer = ask(object, u"org.a11y.atspi.Accessible"_s, u"GetChildren"_s);
+    if (answer.arguments().isEmpty())
+        return children;
+    const auto list = answer.arguments().constFirst().value<QDBusArgument>();
+    list.beginArray();
+    while (!list.atEnd()) {
+        Object child;
+        QDBusObjectPath path;
+        list.beginStructure();
+        list >> child.service >> path;
+        list.endStructure();
+        child.path = path.path();
+        children.append(child);
+    }
+    list.endArray();
+    return children;
+}
+
+void AccessibilityTest::collect(const Object &object, QStringList &names) const
+{
+    const QString accessible = u"org.a11y.atspi.Accessible"_s;
+    if (ask(object, accessible, u"GetRole"_s).arguments().value(0).toUInt() == alertRole) {
+        constexpr uint showing = 1U << 25; // ATSPI_STATE_SHOWING
+        const auto states =
+            ask(object, accessible, u"GetState"_s).arguments().value(0).value<QDBusArgument>();
+        QList<uint> bits;
+        states >> bits;
+        const QDBusMessage name =
+            ask(object, u"org.freedesktop.DBus.Properties"_s, u"Get"_s, {accessible, u"Name"_s});
+        if (bits.value(0) & showing) {
+            alertPath_ = object.path;
+            names += name.arguments().value(0).value<QDBusVariant>().variant().toString();
+        }
+    }
+    for (const Object &child : childrenOf(object))
+        collect(child, names);
+}
+
+QStringList AccessibilityTest::alerts() const
+{
+    QStringList names;
+    const Object root{u"org.a11y.atspi.Registry"_s, u"/org/a11y/atspi/accessible/root"_s};
+    for (const Object &program : childrenOf(root))
+        collect(program, names);
+    return names;
+}
+
+void AccessibilityTest::messagesAreAlerts()
+{
+    PrintDialogSetup setup = setupFor(PanelMode::Constraint);
+    setup.options = {{u"Nope"_s, u"1"_s}};
+    const OpenedDialog opened(setup);
+    QTRY_COMPARE(alerts(), QStringList{opened.dialog->message()});
+    QVERIFY(opened.dialog->message().contains(u"Nope"_s));
+    // The next one is told as well, although the bar is there already.
+    ask({u"org.a11y.atspi.Registry"_s, u"/org/a11y/atspi/registry"_s}, u"org.a11y.atspi.Registry"_s,
+        u"RegisterEvent"_s, {u"Object:StateChanged:Showing"_s});
+    bus_.connect({}, {}, u"org.a11y.atspi.Event.Object"_s, u"StateChanged"_s, this, SLOT(note(QDBusMessage)));
+    opened.dialog->saveSettings();
+    QTRY_COMPARE(alerts(), QStringList{opened.dialog->message()});
+    const auto isToldAgain = [this, &opened] {
+        opened.dialog->saveSettings();
+        return told_.contains(alertPath_);
+    };
+    QTRY_VERIFY(isToldAgain()); // once the platform has heard that somebody listens
+}
+
+void AccessibilityTest::refusalsAreAlerts()
+{
+    const OpenedDialog opened(PanelMode::Constraint);
+    QCOMPARE(alerts(), QStringList());
+    opened.dialog->showPage(2);
+    opened.click(u"matte"_s);
+    QVERIFY(opened.dialog->message().contains(u"Matte"_s));
+    QTRY_COMPARE(alerts(), QStringList{opened.dialog->message()});
+}
+
+int main(int argc, char *argv[])
+{
+    Desktop desktop;
+    const QString missing = desktop.start();
+    QApplication application(argc, argv);
+    AccessibilityTest test(missing);
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "AccessibilityTest.moc"
