@@ -66,6 +66,9 @@ public:
     /// Keeps the choices for the next time with this printer. A sentence when that fails.
     QString keep(const JobOptions &job);
 
+    /// The texts of the buttons that may appear beside a refusal.
+    static QStringList offerTexts() { return {tr("Als&o change %1"), tr("Chan&ge %1")}; }
+
     /// What is being explained beside a control; empty when nothing is.
     QString explanation() const;
 

@@ -4,6 +4,7 @@
 #include "PanelTabs.h"
 
 #include "DialogSession.h"
+#include "Mnemonics.h"
 #include "PlatformException.h"
 #include "PrintDialogPanel.h"
 #include "SummaryPage.h"
@@ -73,10 +74,41 @@ void PanelTabs::makePages()
         auto *layout = new QVBoxLayout(holder);
         layout->setContentsMargins(pageMargin, pageMargin, pageMargin, pageMargin);
         pages_.append({panel.get(), holder});
-        addTab(holder, panel->panelName().value_or(tr("Options")));
+        // A name is no button's text: an ampersand in it is one.
+        addTab(holder, panel->panelName().value_or(tr("Options")).replace(u'&', QStringLiteral("&&")));
     }
     addTab(summary_, tr("Summary"));
+    markTabs();
     setCurrentIndex(0);
+}
+
+void PanelTabs::markTabs()
+{
+    Mnemonics letters;
+    letters.take(reserved_);
+    letters.takeAllIn(*window(), this);
+    QStringList names;
+    for (int i = 0; i < count(); ++i)
+        names.append(tabText(i));
+    names = letters.mark(names);
+    for (int i = 0; i < count(); ++i)
+        setTabText(i, names.at(i));
+}
+
+void PanelTabs::markView(QWidget &view)
+{
+    Mnemonics letters;
+    letters.take(reserved_);
+    letters.takeAllIn(*window(), this);
+    for (int i = 0; i < count(); ++i)
+        letters.take({tabText(i)});
+    letters.markAllIn(view);
+}
+
+void PanelTabs::turnPages(int pages)
+{
+    if (count() > 0)
+        setCurrentIndex((currentIndex() + pages + count()) % count());
 }
 
 pdekit::PrintDialogPanel *PanelTabs::currentPanel() const
@@ -133,6 +165,7 @@ void PanelTabs::fillPage(Page &page)
             page.holder->setMinimumSize(view->size() + QSize(2 * handPlacedMargin, 2 * handPlacedMargin));
         }
         view->show();
+        markView(*view);
         // A view that comes later would be the last in the tab order; its place is after the tabs.
         QWidget *previous = tabBar();
         for (QWidget *widget : order) {

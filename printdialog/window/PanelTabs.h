@@ -19,7 +19,8 @@ class DialogSession;
 class SummaryPage;
 
 /// The pages of one session: a tab for each panel in the plug-in's order, and the summary. A panel's view is
-/// loaded when its page is first shown.
+/// loaded when its page is first shown. Tabs and views get letters for Alt that nothing else in the window
+/// has, as far as there are any, whatever the plug-in and the language.
 class PanelTabs : public QTabWidget
 {
     Q_OBJECT
@@ -29,6 +30,9 @@ public:
 
     /// What the summary shows, asked for whenever it does.
     void setSummary(const std::function<SummaryEntries()> &summary) { entries_ = summary; }
+    /// Keeps the letters that these texts mark for what may appear in the window.
+    void setReservedKeys(const QStringList &texts) { reserved_ = texts; }
+
     /// Shows the session, which must outlive this or the next call; null shows nothing.
     void setSession(DialogSession *session);
     /// Something that the summary shows may have changed.
@@ -37,6 +41,9 @@ public:
     pdekit::PrintDialogPanel *currentPanel() const;
     /// The last component of the kind of the panel on the page, such as "coloradjust"; empty for the summary.
     QString kindSuffix(int page) const;
+
+    /// Shows the page that many pages on, round from the last to the first.
+    void turnPages(int pages);
 
     /// With room for every tab; where there is less, the tabs scroll.
     QSize sizeHint() const override;
@@ -56,11 +63,14 @@ private:
     };
 
     void makePages();
+    void markTabs();
+    void markView(QWidget &view);
     void showPage(int page);
     void fillPage(Page &page);
 
     DialogSession *session_ = nullptr;
     QList<Page> pages_;
+    QStringList reserved_;
     SummaryPage *summary_;
     std::function<SummaryEntries()> entries_;
 };

@@ -24,6 +24,7 @@
 #include <QtWidgets/QFileDialog>
 
 #include <algorithm>
+#include <utility>
 
 namespace printdialog {
 
@@ -58,6 +59,11 @@ PrintDialog::PrintDialog(const PrintDialogSetup &setup, QWidget *parent)
         buttons->addWidget(button);
     ui_->settingsSide->setReadableWidth(narrowestSettings, widestSettings);
     installAlertRole();
+    ui_->panels->setReservedKeys(ChoiceController::offerTexts());
+    for (const auto &[key, step] : {std::pair(QKeySequence(Qt::CTRL | Qt::Key_Tab), 1),
+                                    std::pair(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Tab), -1)})
+        connect(new QShortcut(key, this), &QShortcut::activated, ui_->panels,
+                [this, pages = step] { ui_->panels->turnPages(pages); });
     choices_ = new ChoiceController(
         {this, ui_->panels, ui_->pageSize, ui_->copies, ui_->presetBar, ui_->undo, ui_->redo, ui_->message},
         this);

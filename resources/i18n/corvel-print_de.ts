@@ -1280,11 +1280,11 @@ Beispiele:
     </message>
     <message>
         <source>Als&amp;o change %1</source>
-        <translation>Auch ä&amp;ndern: %1</translation>
+        <translation>&amp;Auch ändern: %1</translation>
     </message>
     <message>
         <source>Chan&amp;ge %1</source>
-        <translation>Ä&amp;ndern: %1</translation>
+        <translation>&amp;Anpassen: %1</translation>
     </message>
     <message>
         <source>Of the choices used last, some are left out:</source>

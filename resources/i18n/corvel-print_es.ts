@@ -1282,7 +1282,7 @@ Ejemplos:
     </message>
     <message>
         <source>Chan&amp;ge %1</source>
-        <translation>Cam&amp;biar: %1</translation>
+        <translation>Ca&amp;mbiar: %1</translation>
     </message>
     <message>
         <source>Of the choices used last, some are left out:</source>

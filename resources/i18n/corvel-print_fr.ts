@@ -1279,11 +1279,11 @@ Exemples&#x202f;:
     </message>
     <message>
         <source>Als&amp;o change %1</source>
-        <translation>Modifier a&amp;ussi&#x202f;: %1</translation>
+        <translation>M&amp;odifier aussi&#x202f;: %1</translation>
     </message>
     <message>
         <source>Chan&amp;ge %1</source>
-        <translation>&amp;Modifier&#x202f;: %1</translation>
+        <translation>M&amp;odifier&#x202f;: %1</translation>
     </message>
     <message>
         <source>Of the choices used last, some are left out:</source>
@@ -1548,7 +1548,7 @@ Exemples&#x202f;:
     </message>
     <message>
         <source>Re&amp;move</source>
-        <translation>E&amp;nlever</translation>
+        <translation>Enle&amp;ver</translation>
     </message>
     <message>
         <source>Add photos to this job; they can be dropped on the window as well</source>

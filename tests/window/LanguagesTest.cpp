@@ -16,6 +16,7 @@
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QSlider>
 #include <QtWidgets/QTabBar>
+#include <QtWidgets/QTabWidget>
 #include <QtWidgets/QTextBrowser>
 
 #include <algorithm>
@@ -78,6 +79,7 @@ private Q_SLOTS:
     void cleanup();
     void textsFit();
     void keysAreUnique();
+    void keysLeadToPagesAndControls();
     void controlsAreNamed();
     void numbersAsPeopleTypeThem();
     void placementIsKept();
@@ -137,9 +139,9 @@ void LanguagesTest::textsFit()
 void LanguagesTest::keysAreUnique()
 {
     const OpenedDialog opened(PanelMode::Constraint);
-    const auto clashes = [&opened] {
+    const auto clashes = [](const OpenedDialog &dialog) {
         QStringList found;
-        const auto all = mnemonics(*opened.dialog);
+        const auto all = mnemonics(*dialog.dialog);
         for (auto entry = all.cbegin(); entry != all.cend(); ++entry) {
             if (entry->size() > 1)
                 found += entry.key() + u": "_s + entry->join(u", "_s);
@@ -148,14 +150,51 @@ void LanguagesTest::keysAreUnique()
     };
     for (int page = 0; page < opened.dialog->pageCount(); ++page) {
         opened.dialog->showPage(page);
-        QCOMPARE(clashes(), QStringList());
+        QCOMPARE(clashes(opened), QStringList());
         opened.dialog->print();
-        QCOMPARE(clashes(), QStringList());
+        QCOMPARE(clashes(opened), QStringList());
         QTest::keyClick(opened.dialog.get(), Qt::Key_Escape); // asks
         QVERIFY(opened.find<QWidget>(u"messageAction"_s)->isVisible());
-        QCOMPARE(clashes(), QStringList());
+        QCOMPARE(clashes(opened), QStringList());
         QTRY_VERIFY(opened.find<QWidget>(u"print"_s)->isEnabled());
-        QCOMPARE(clashes(), QStringList());
+        QCOMPARE(clashes(opened), QStringList());
+    }
+    // What a refusal offers.
+    for (const PanelMode mode : {PanelMode::Constraint, PanelMode::Settings}) {
+        const OpenedDialog refusing(mode);
+        refusing.dialog->showPage(2);
+        refusing.click(u"matte"_s);
+        refusing.dialog->print();
+        QCOMPARE(refusing.find<QWidget>(u"calloutOffer"_s)->isVisible(), mode == PanelMode::Constraint);
+        QCOMPARE(clashes(refusing), QStringList());
+    }
+}
+
+// To every page from every other one, and on each to some of the plug-in's controls.
+void LanguagesTest::keysLeadToPagesAndControls()
+{
+    const OpenedDialog opened(PanelMode::Constraint);
+    const auto *pages = opened.find<QTabWidget>(u"panels"_s);
+    const auto press = [&opened](const QString &text) {
+        const QKeySequence letter = QKeySequence::mnemonic(text);
+        if (!letter.isEmpty())
+            QTest::keyClick(opened.dialog.get(), letter[0].key(), Qt::AltModifier);
+        return !letter.isEmpty();
+    };
+    for (int page = pages->count() - 1; page >= 0; --page) {
+        QVERIFY2(press(pages->tabText(page)), qPrintable(pages->tabText(page)));
+        QCOMPARE(pages->currentIndex(), page);
+        int reached = 0;
+        for (const QLabel *label : pages->currentWidget()->findChildren<QLabel *>()) {
+            if (label->buddy() && label->buddy()->isEnabled() && press(label->text())) {
+                QVERIFY2(label->buddy()->hasFocus() || label->buddy()->focusProxy(),
+                         qPrintable(label->text()));
+                ++reached;
+            }
+        }
+        for (const auto *button : pages->currentWidget()->findChildren<QAbstractButton *>())
+            reached += button->isVisible() && !button->shortcut().isEmpty() ? 1 : 0;
+        QVERIFY(page == pages->count() - 1 || reached > 0);
     }
 }
 

@@ -20,10 +20,12 @@
 #include <QtWidgets/QScrollBar>
 #include <QtWidgets/QSlider>
 #include <QtWidgets/QSpinBox>
+#include <QtWidgets/QTabWidget>
 #include <QtWidgets/QTextBrowser>
 #include <QtWidgets/QTreeWidget>
 
 #include <algorithm>
+#include <utility>
 
 using namespace printdialog;
 using namespace testing_support;
@@ -58,6 +60,7 @@ private Q_SLOTS:
     void conflicts();
     void returnBelongsToTheField();
     void printsByKeyFromAnywhere();
+    void pagesTurnFromAnywhere();
     void openingOptionsAreShown();
     void photosThatCannotBeOpenedAreNamed();
     void pageSize();
@@ -198,6 +201,25 @@ void PrintDialogTest::printsByKeyFromAnywhere()
                 QTest::keyClick(widget, key);
             QTRY_VERIFY2(opened.hasPrinted(), qPrintable(name));
         }
+    }
+}
+
+void PrintDialogTest::pagesTurnFromAnywhere()
+{
+    const OpenedDialog opened(PanelMode::Constraint);
+    const auto *pages = opened.find<QTabWidget>(u"panels"_s);
+    for (const QString &name : {u"printer"_s, u"copies"_s, u"redField"_s, u"preview"_s, u"print"_s}) {
+        opened.dialog->showPage(0);
+        opened.find<QWidget>(name)->setFocus();
+        QList<int> seen;
+        for (const auto &[key, modifiers] :
+             {std::pair(Qt::Key_Tab, Qt::KeyboardModifiers(Qt::ControlModifier)),
+              {Qt::Key_Backtab, Qt::ControlModifier | Qt::ShiftModifier},
+              {Qt::Key_Backtab, Qt::ControlModifier | Qt::ShiftModifier}}) {
+            QTest::keyClick(QApplication::focusWidget(), key, modifiers);
+            seen += pages->currentIndex();
+        }
+        QCOMPARE(seen, (QList<int>{1, 0, pages->count() - 1}));
     }
 }
 
