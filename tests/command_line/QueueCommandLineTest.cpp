@@ -238,6 +238,7 @@ void QueueCommandLineTest::sendsNoDamagedPhoto()
     QCOMPARE(cupsd_.activeJobs(), before);
     const ProgramRun unchecked = runProgram(arguments + QStringList{u"--no-check"_s});
     QVERIFY2(unchecked.out.startsWith("Sent damaged.jpg to "), unchecked.err.constData());
+    QTRY_COMPARE(cupsd_.activeJobs(), QByteArray()); // nobody has followed it
 }
 
 void QueueCommandLineTest::dryRunOfTheBuiltInPrinter()
