@@ -5,28 +5,16 @@
 
 #include "Console.h"
 #include "JobPlan.h"
-#include "PhotoCheck.h"
+#include "JobSummary.h"
 #include "PhotoList.h"
+#include "PrintedNames.h"
 #include "RequestedSession.h"
+#include "SessionJob.h"
 #include "SummaryLines.h"
 
 #include <QtCore/QJsonArray>
 
 namespace printdialog {
-
-namespace {
-
-const QString pageSizeKey = QStringLiteral("PageSize");
-
-QMap<QString, QString> summaryOf(const SummaryEntries &entries)
-{
-    QMap<QString, QString> summary;
-    for (const auto &[label, text] : entries)
-        summary.insert(label, text);
-    return summary;
-}
-
-} // namespace
 
 BatchRun::BatchRun(const CommandLine &commandLine, Console &console)
     : commandLine_(commandLine)
@@ -39,43 +27,27 @@ int BatchRun::run()
     auto photos = PhotoList::open(commandLine_.photos);
     if (!photos)
         return fail(photos.failure().text);
-    // Begun at once, since it takes as long as everything up to the printing.
-    std::optional<PhotoCheck> firstCheck;
-    if (const auto first = photos->first(); first && commandLine_.checks)
-        firstCheck.emplace(*first);
     const auto requested = openRequestedJob(commandLine_);
     if (!requested)
         return fail(requested.failure().text);
     for (const QString &sentence : requested->leftOut)
         console_.complain(sentence);
     DialogSession &session = *requested->session;
-    const auto options = session.jobOptions();
-    if (!options)
-        return fail(options.failure().text);
-
-    const PpdDocument &ppd = session.ppd();
-    const std::optional<PageSize> page = ppd.pageSize(options->options.value(pageSizeKey));
-    if (!page) {
+    auto made = jobOf(session, requested->copies);
+    if (!made && made.failure().reason == SessionJobFault::NoPaper)
         return fail(tr("No page size is chosen. Choose one with -o PageSize=%1 or another one of "
                        "--list-options.")
-                        .arg(ppd.pageSizes().constFirst().keyword));
-    }
-    for (const QString &dropped : options->dropped)
-        console_.complain(dropped);
-
+                        .arg(session.ppd().pageSizes().constFirst().keyword));
+    if (!made)
+        return fail(made.failure().text);
+    for (const QString &remark : made->remarks)
+        console_.complain(remark);
     if (commandLine_.summary)
         console_.writeLines(summaryLines(jobSummary(session, requested->copies, {commandLine_.placement})));
-    PrintJob job;
-    job.printer = session.printer().name;
-    job.page = {page->points, page->imageable};
-    job.placement = commandLine_.placement;
-    job.options = options->options;
-    job.copies = requested->copies;
-    job.summary = summaryOf(session.summary());
-    job.checksPhoto = commandLine_.checks;
-    const PrinterDescription &printer = session.printer();
-    job.queue = printer.hasPpd ? QueueTerms::ofPpd(ppd) : QueueTerms::withoutPpd();
-    return commandLine_.dryRun ? showPlan(*photos, printer, job) : printAll(*photos, printer, job);
+    made->job.placement = commandLine_.placement;
+    made->job.checksPhoto = commandLine_.checks;
+    return commandLine_.dryRun ? showPlan(*photos, session.printer(), made->job)
+                               : printAll(*photos, session.printer(), made->job);
 }
 
 int BatchRun::showPlan(PhotoList &photos, const PrinterDescription &printer, const PrintJob &job)
@@ -88,8 +60,10 @@ int BatchRun::showPlan(PhotoList &photos, const PrinterDescription &printer, con
         if (!photo)
             return fail(photo.failure().text);
         const auto plan = JobPlan::make(*photo, printer, job, names);
-        if (!plan && leaveOut(plan.failure()))
+        if (!plan && plan.failure().reason.isPhotos) {
+            skipped(plan.failure().text);
             continue;
+        }
         if (!plan)
             return fail(plan.failure().text);
         array.append(plan->json());
@@ -112,87 +86,70 @@ OutputFolder BatchRun::outputFolder() const
 int BatchRun::printAll(PhotoList &photos, const PrinterDescription &printer, const PrintJob &job)
 {
     const PrintTarget target{printer.isBuiltIn ? QString() : printer.name, outputFolder()};
-    QString current;
-    JobControl control;
-    control.cancel = interrupt_.flag();
-    control.sent = [this, &current](qint64 sent, qint64 total) {
-        progress_.show(current, sent, total);
-    };
-    PhotoPrinter photoPrinter(target, control);
-    SentJobs jobs(target.queue);
-    for (qsizetype i = 0; i < photos.size(); ++i) {
-        const auto photo = photos.take(i);
-        if (!photo)
-            return failAfterDone(photo.failure().text);
-        if (interrupt_.isRaised())
-            return takeBack(jobs);
-        current = photo->fileName();
-        progress_.show(current);
-        const auto printed = photoPrinter.print(*photo, job);
-        if (!printed && interrupt_.isRaised())
-            return takeBack(jobs);
-        if (!printed && leaveOut(printed.failure()))
-            continue;
-        if (!printed)
-            return failAfterDone(printed.failure().text);
-        progress_.clear();
-        console_.writeLine(printedText(*photo, target, *printed));
-        if (const int *id = std::get_if<int>(&*printed))
-            jobs.add(current, *id);
-        done_.append(current);
-    }
-    return endOf(jobs.isEmpty() || commandLine_.wait == std::chrono::seconds(0) ? static_cast<int>(exitDone)
-                                                                                : followAll(jobs));
-}
-
-int BatchRun::followAll(const SentJobs &jobs)
-{
     FollowLimits limits;
     if (commandLine_.wait)
         limits.total = *commandLine_.wait;
-    const auto show = [this](int photo, const QString &state) {
-        progress_.show(tr("%1: %2").arg(done_.value(photo), state));
-    };
-    const SentJobs::Outcome outcome = jobs.follow(limits, show, interrupt_.flag());
+    PrintRun run(target, job, *this, {interrupt_.flag(), nullptr, interrupt_.flag()}, limits);
+    const PrintOutcome outcome =
+        run.print(photos.size(), [&](qsizetype index) -> Result<PlacedPhoto, PhotoFault> {
+            auto photo = photos.take(index);
+            if (!photo)
+                return photo.failure();
+            return PlacedPhoto{*std::move(photo), job.placement};
+        });
     progress_.clear();
-    if (interrupt_.isRaised())
-        return takeBack(jobs);
+    return conclude(outcome, !printer.isBuiltIn);
+}
+
+int BatchRun::conclude(const PrintOutcome &outcome, bool isQueue)
+{
+    if (outcome.wasStopped)
+        return fail(isQueue && !outcome.names.isEmpty()
+                        ? tr("Cancelled; the jobs sent were taken back from the printer.")
+                        : tr("Cancelled; nothing more is printed."));
     for (const QString &waiting : outcome.waiting)
         console_.complain(waiting);
-    return outcome.failure ? fail(*outcome.failure) : static_cast<int>(exitDone);
+    if (outcome.failure.isEmpty())
+        return endOf(exitDone);
+    const bool isAboutAll = outcome.isFollowed || interrupt_.isRaised(); // and not about one photo
+    if (isAboutAll || outcome.names.isEmpty())
+        return fail(outcome.failure);
+    return fail(
+        tr("%1 Printed before it: %2.").arg(outcome.failure, outcome.names.join(QLatin1String(", "))));
 }
 
-int BatchRun::takeBack(const SentJobs &jobs)
+// How it goes on
+
+void BatchRun::sending(qsizetype /*photo*/, const QString &name, qint64 sent, qint64 total)
 {
-    progress_.clear();
-    const QStringList failures = jobs.cancel();
-    if (!failures.isEmpty())
-        return fail(failures.join(u' '));
-    return fail(jobs.isEmpty() ? tr("Cancelled; nothing more is printed.")
-                               : tr("Cancelled; the jobs sent were taken back from the printer."));
+    if (total == 0)
+        progress_.show(name);
+    else
+        progress_.show(name, sent, total);
 }
 
-/// Whether the others can be printed all the same.
-bool BatchRun::leaveOut(const Failure<PhotoPrinter::Fault> &failure)
+void BatchRun::printed(const QString &sentence)
 {
-    if (!failure.reason.isPhotos)
-        return false;
     progress_.clear();
-    console_.complain(failure.text);
-    hasLeftOut_ = true;
-    return true;
+    console_.writeLine(sentence);
+}
+
+/// The others can be printed all the same.
+void BatchRun::skipped(const QString &sentence)
+{
+    progress_.clear();
+    console_.complain(sentence);
+    hasSkipped_ = true;
+}
+
+void BatchRun::following(qsizetype /*photo*/, const QString &name, const QString &state)
+{
+    progress_.show(tr("%1: %2").arg(name, state));
 }
 
 int BatchRun::endOf(int status) const
 {
-    return hasLeftOut_ ? static_cast<int>(exitFailed) : status;
-}
-
-int BatchRun::failAfterDone(const QString &sentence)
-{
-    if (done_.isEmpty())
-        return fail(sentence);
-    return fail(tr("%1 Printed before it: %2.").arg(sentence, done_.join(QLatin1String(", "))));
+    return hasSkipped_ ? static_cast<int>(exitFailed) : status;
 }
 
 int BatchRun::fail(const QString &sentence)

@@ -4,11 +4,10 @@
 #pragma once
 
 #include "CommandLine.h"
-#include "DialogSession.h"
 #include "InterruptFlag.h"
-#include "PhotoPrinter.h"
+#include "PrintRun.h"
+#include "PrinterDescription.h"
 #include "ProgressLine.h"
-#include "SentJobs.h"
 
 #include <QtCore/QCoreApplication>
 
@@ -16,13 +15,11 @@ namespace printdialog {
 
 class Console;
 class PhotoList;
-struct OutputFolder;
-struct PrintJob;
 
 /// Printing without a window. Everything is looked at before anything is printed: the photos, the printer,
 /// each choice. Main thread; blocks until the last photo is printed, or a queue's jobs have been followed as
 /// long as the command line has it. Interrupted, it cancels what it has sent and fails.
-class BatchRun
+class BatchRun : private PrintRunListener
 {
     Q_DECLARE_TR_FUNCTIONS(BatchRun)
 
@@ -35,22 +32,23 @@ public:
     int run();
 
 private:
-    int fail(const QString &sentence);
-    bool leaveOut(const Failure<PhotoPrinter::Fault> &failure);
-    int endOf(int status) const;
-    int failAfterDone(const QString &sentence);
+    void sending(qsizetype photo, const QString &name, qint64 sent, qint64 total) override;
+    void printed(const QString &sentence) override;
+    void skipped(const QString &sentence) override;
+    void following(qsizetype photo, const QString &name, const QString &state) override;
+
     int showPlan(PhotoList &photos, const PrinterDescription &printer, const PrintJob &job);
     int printAll(PhotoList &photos, const PrinterDescription &printer, const PrintJob &job);
+    int conclude(const PrintOutcome &outcome, bool isQueue);
     OutputFolder outputFolder() const;
-    int followAll(const SentJobs &jobs);
-    int takeBack(const SentJobs &jobs);
+    int endOf(int status) const;
+    int fail(const QString &sentence);
 
     const CommandLine &commandLine_;
     Console &console_;
     InterruptFlag interrupt_;
     ProgressLine progress_;
-    QStringList done_;        ///< the names of the photos that were printed or sent
-    bool hasLeftOut_ = false; ///< whether a damaged photo was not printed
+    bool hasSkipped_ = false; ///< whether a damaged photo was not printed
 };
 
 } // namespace printdialog

@@ -178,10 +178,10 @@ Fault readCopies(const QCommandLineParser &parser, std::optional<int> &copies)
         return found;
     bool isNumber = false;
     const int number = text->toInt(&isNumber);
-    if (!isNumber || number < 1 || number > CommandLine::mostCopies)
+    if (!isNumber || number < 1 || number > mostCopies)
         return fault(UsageFault::Value,
                      Text::tr("\"%1\" copies cannot be printed; give a number from 1 to %2.")
-                         .arg(*text, QString::number(CommandLine::mostCopies)));
+                         .arg(*text, QString::number(mostCopies)));
     copies = number;
     return std::nullopt;
 }

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "PhotoPlacement.h"
+#include "PrintJob.h"
 #include "PrinterDescription.h"
 #include "Result.h"
 
@@ -42,8 +43,6 @@ struct RequestedChoice
 /// the window.
 struct CommandLine
 {
-    static constexpr int mostCopies = 999; ///< as in the window
-
     QStringList photos;             ///< paths, also of those that are given as file URLs
     std::optional<QString> printer; ///< a queue's id, or the built-in printer's name
     std::optional<QString> ppd;     ///< a file, for the built-in printer

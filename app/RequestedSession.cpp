@@ -3,13 +3,12 @@
 
 #include "RequestedSession.h"
 
-#include "ChoiceExplanation.h"
 #include "Console.h"
 #include "PpdCheck.h"
 #include "PresetStore.h"
 #include "QueueList.h"
 #include "SessionOpening.h"
-#include "StoredChoices.h"
+#include "UsedChoices.h"
 #include "UserDestinations.h"
 
 #include <QtCore/QCoreApplication>
@@ -63,19 +62,6 @@ RequestedSessionResult openDefaultQueue(const QString &id, PanelMode mode)
                        .arg(session.failure().text));
 }
 
-/// Takes the number of copies out of the choices.
-void takeCopies(QMap<QString, QString> &choices, const QString &preset, RequestedJob &job)
-{
-    const QString text = choices.take(QLatin1String(copiesOption));
-    bool isNumber = false;
-    const int copies = text.toInt(&isNumber);
-    if (isNumber && copies >= 1 && copies <= CommandLine::mostCopies)
-        job.copies = copies;
-    else if (!text.isNull())
-        job.leftOut +=
-            Text::tr("Of the preset \"%1\" is left out: %2 is no number of copies.").arg(preset, text);
-}
-
 /// Makes the choices of the preset that the printer's name names. Empty, or why they cannot be had.
 QString usePreset(RequestedJob &job)
 {
@@ -89,16 +75,11 @@ QString usePreset(RequestedJob &job)
     const Preset *preset = PresetStore::findInstance(*presets, instance);
     if (!preset)
         return {};
-    const PpdDocument &ppd = job.session->ppd();
-    QMap<QString, QString> choices = preset->choicesFor(ppd.options());
-    takeCopies(choices, preset->name, job);
-    if (!printer.hasPpd)
-        return {};
-    const auto rulings = job.session->restoreChoices(choices, DialogSession::Unnamed::Default);
+    const UsedChoices used = printdialog::usePreset(*job.session, *preset);
+    job.copies = used.copies.value_or(1);
     QStringList sentences;
-    for (const Ruling &ruling : rulings)
-        sentences += Text::tr("Of the preset \"%1\" is left out: %2")
-                         .arg(preset->name, ChoiceExplanation(ppd).refusal(ruling));
+    for (const QString &sentence : used.leftOut)
+        sentences += Text::tr("Of the preset \"%1\" is left out: %2").arg(preset->name, sentence);
     if (!sentences.isEmpty())
         job.leftOut += Console::oneLine(sentences);
     return {};

@@ -4,30 +4,14 @@
 #pragma once
 
 #include "OutputFault.h"
-#include "PageGeometry.h"
 #include "Photo.h"
-#include "PhotoPlacement.h"
+#include "PrintJob.h"
 #include "PrintedNames.h"
-#include "QueueTerms.h"
 #include "Result.h"
 
-#include <QtCore/QMap>
 #include <QtCore/QString>
 
 namespace printdialog {
-
-/// What is asked of a printer besides the photo.
-struct PrintJob
-{
-    QString printer; ///< The printer's name.
-    PageGeometry page;
-    PlacementChoice placement;      ///< Of the photo on the page.
-    QMap<QString, QString> options; ///< Option keyword to choice keyword.
-    QMap<QString, QString> summary; ///< What people are shown: label to text.
-    int copies = 1;
-    bool checksPhoto = true; ///< Whether a damaged photo is refused.
-    QueueTerms queue;        ///< Only for a queue.
-};
 
 /// The files that a job has left; absolute paths.
 struct PrintedFiles

@@ -4,7 +4,6 @@
 #include "JobSummary.h"
 
 #include "DialogSession.h"
-#include "PlacementBar.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QLocale>
@@ -32,12 +31,25 @@ QString placementText(const QList<PlacementChoice> &placements)
         placements, [&first](const PlacementChoice &each) { return areAlike(each, first); });
     if (!isOne)
         return Text::tr("Differs by photo");
-    const QString scaling = PlacementBar::textOf(first.scaling);
+    const QString scaling = scalingText(first.scaling);
     constexpr int quarter = 90;
     return first.turns == 0 ? scaling : Text::tr("%1, turned by %2°").arg(scaling).arg(first.turns * quarter);
 }
 
 } // namespace
+
+QString scalingText(Scaling scaling)
+{
+    switch (scaling) {
+    case Scaling::Fit:
+        return Text::tr("Fit on the page");
+    case Scaling::Fill:
+        return Text::tr("Fill the page");
+    case Scaling::ActualSize:
+        break;
+    }
+    return Text::tr("Actual size");
+}
 
 SummaryEntries jobSummary(DialogSession &session, int copies, const QList<PlacementChoice> &placements)
 {

@@ -16,6 +16,9 @@ class DialogSession;
 /// Label and text.
 using SummaryEntries = QList<QPair<QString, QString>>;
 
+/// What people call it.
+QString scalingText(Scaling scaling);
+
 /// The job in words: the paper, the copies, how the photos are placed, then what the panels say. Nothing
 /// about the placement without photos, or for a printer that places them itself.
 SummaryEntries jobSummary(DialogSession &session, int copies, const QList<PlacementChoice> &placements);

@@ -19,6 +19,10 @@ QString OutcomeText::summary() const
         lines += outcome_.printed + outcome_.waiting;
     else
         lines += counted();
+    if (outcome_.skipped.size() == 1)
+        lines += outcome_.skipped;
+    else if (!outcome_.skipped.isEmpty())
+        lines += tr("%1 photos cannot be printed.").arg(outcome_.skipped.size());
     lines += outcome_.failure;
     lines.removeAll(QString());
     return lines.join(u'\n');
@@ -62,7 +66,7 @@ QString OutcomeText::details() const
     // Photos that were merely sent are not printed when the run was stopped.
     const bool isTold =
         outcome_.total == 1 || (outcome_.wasStopped && !outcome_.isFollowed && !target_.queue.isEmpty());
-    return isTold ? QString() : (outcome_.printed + outcome_.waiting).join(u'\n');
+    return isTold ? QString() : (outcome_.printed + outcome_.waiting + outcome_.skipped).join(u'\n');
 }
 
 } // namespace printdialog

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "PrintWorker.h"
+#include "PrintRun.h"
 
 #include <QtCore/QCoreApplication>
 

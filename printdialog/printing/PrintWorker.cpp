@@ -3,10 +3,9 @@
 
 #include "PrintWorker.h"
 
-#include "SentJobs.h"
-
 #include <algorithm>
 #include <atomic>
+#include <functional>
 
 namespace printdialog {
 
@@ -25,65 +24,68 @@ struct PrintWorker::Flags
 
 namespace {
 
-using Progress = std::function<void(const QString &text, qint64 done, qint64 total)>;
-
 // Parts of the bar: sending is soon done, printing is not.
 constexpr int sendingShare = 100;
 constexpr int photoShare = 1000;
 
-/// Where the photo stands among those of the run, in front of what is done with it.
-QString counted(qsizetype photo, qsizetype count, const QString &text)
+/// Says in words, and as a share of the whole run, how far it is.
+class Progress : public PrintRunListener
 {
-    return count == 1 ? text : PrintWorker::tr("%1 of %2: %3").arg(photo + 1).arg(count).arg(text);
-}
+public:
+    using Say = std::function<void(const QString &text, qint64 done, qint64 total)>;
 
-/// Sends the photos, until one fails or the run is cancelled. Answers the jobs of a queue.
-SentJobs sendAll(const QList<PlacedPhoto> &photos, const PrintTarget &target, const PrintJob &job,
-                 int &cancel, std::atomic<int> &sentPhotos, const Progress &progress, PrintOutcome &outcome)
+    Progress(qsizetype count, const QString &queue, std::atomic<int> &sent, int &following, const Say &say)
+        : count_(count)
+        , queue_(queue)
+        , sent_(sent)
+        , following_(following)
+        , say_(say)
+    {
+    }
+
+    void sending(qsizetype photo, const QString &name, qint64 sent, qint64 total) override
+    {
+        const qint64 share = queue_.isEmpty() ? photoShare : sendingShare;
+        const QString text = queue_.isEmpty() ? PrintWorker::tr("Writing %1").arg(name)
+                                              : PrintWorker::tr("Sending %1 to %2").arg(name, queue_);
+        const bool isUnknown = count_ == 1 && total == 0;
+        say_(counted(photo, text), photo * share + (total > 0 ? sent * share / total : 0),
+             isUnknown ? 0 : count_ * photoShare);
+    }
+    void printed(const QString & /*sentence*/) override { ++sent_; }
+    void skipped(const QString & /*sentence*/) override {}
+    void following(qsizetype photo, const QString &name, const QString &state) override
+    {
+        std::atomic_ref(following_).store(1);
+        const qint64 done = count_ * sendingShare + photo * (photoShare - sendingShare);
+        say_(counted(photo, PrintWorker::tr("%1: %2").arg(name, state)), done,
+             count_ == 1 ? 0 : count_ * photoShare);
+    }
+
+private:
+    /// Where the photo stands among those of the run, in front of what is done with it.
+    QString counted(qsizetype photo, const QString &text) const
+    {
+        return count_ == 1 ? text : PrintWorker::tr("%1 of %2: %3").arg(photo + 1).arg(count_).arg(text);
+    }
+
+    qsizetype count_;
+    QString queue_;
+    std::atomic<int> &sent_;
+    int &following_;
+    Say say_;
+};
+
+PrintOutcome printed(const QList<PlacedPhoto> &photos, PrintRun &run)
 {
-    SentJobs jobs(target.queue);
+    PrintOutcome outcome;
     // Mostly known already; before anything is printed, so that the user can decide about all of it.
     outcome.hasDamaged = std::any_of(photos.begin(), photos.end(), [](const PlacedPhoto &placed) {
         return !placed.isAccepted && placed.photo.damage();
     });
     if (outcome.hasDamaged)
-        return jobs;
-    QString text;
-    JobControl control;
-    control.cancel = &cancel;
-    const qint64 share = target.queue.isEmpty() ? photoShare : sendingShare;
-    const qint64 all = photos.size() * photoShare;
-    control.sent = [&](qint64 sent, qint64 total) {
-        progress(text, sentPhotos * share + (total > 0 ? sent * share / total : 0), all);
-    };
-    PhotoPrinter printer(target, control);
-    PrintJob photoJob = job;
-    for (const auto &[photo, placement, isAccepted] : photos) {
-        if (std::atomic_ref(cancel).load() != 0)
-            break;
-        text = counted(sentPhotos, photos.size(),
-                       target.queue.isEmpty()
-                           ? PrintWorker::tr("Writing %1").arg(photo.fileName())
-                           : PrintWorker::tr("Sending %1 to %2").arg(photo.fileName(), target.queue));
-        progress(text, sentPhotos * share, photos.size() == 1 ? 0 : all);
-        photoJob.placement = placement;
-        photoJob.checksPhoto = !isAccepted;
-        const auto printed = printer.print(photo, photoJob);
-        if (!printed) {
-            outcome.failure = printed.failure().text;
-            outcome.hasOtherPpd = printed.failure().reason.queue == QueueFault::Changed;
-            break;
-        }
-        if (const int *id = std::get_if<int>(&*printed)) {
-            jobs.add(photo.fileName(), *id);
-            outcome.jobs.append(*id);
-        } else {
-            ++outcome.done;
-        }
-        outcome.printed.append(printedText(photo, target, *printed));
-        ++sentPhotos;
-    }
-    return jobs;
+        return outcome;
+    return run.print(photos.size(), [&photos](qsizetype index) { return photos.at(index); });
 }
 
 } // namespace
@@ -134,34 +136,12 @@ void PrintWorker::print(const QList<PlacedPhoto> &photos, const PrintTarget &tar
     flags_ = std::make_shared<Flags>();
     // This object waits for the thread before it goes, so that the thread may name it.
     thread_.reset(QThread::create([this, flags = flags_, photos, target, job, outcome] {
-        const Progress tell = [this](const QString &text, qint64 done, qint64 total) {
+        const auto say = [this](const QString &text, qint64 done, qint64 total) {
             Q_EMIT progress(text, done, total);
         };
-        outcome->total = static_cast<int>(photos.size());
-        const SentJobs jobs = sendAll(photos, target, job, flags->cancel, flags->sent, tell, *outcome);
-        Flags::raise(flags->following);
-        if (!jobs.isEmpty() && outcome->failure.isEmpty()) {
-            const auto show = [&](int photo, const QString &state) {
-                const QString text = tr("%1: %2").arg(photos.value(photo).photo.fileName(), state);
-                const qint64 done = outcome->total * sendingShare + photo * qint64(photoShare - sendingShare);
-                tell(counted(photo, photos.size(), text), done,
-                     photos.size() == 1 ? 0 : photos.size() * photoShare);
-            };
-            const SentJobs::Outcome followed = jobs.follow({}, show, &flags->leave);
-            outcome->isFollowed = true;
-            outcome->printed = followed.printed;
-            outcome->jobs = followed.ids;
-            outcome->done = static_cast<int>(followed.printed.size());
-            outcome->waiting = followed.waiting;
-            outcome->failure = followed.failure.value_or(QString());
-        }
-        if (Flags::isRaised(flags->cancel) && !Flags::isRaised(flags->keep)) {
-            int over = 0;
-            const QStringList failures = jobs.cancel(&over);
-            outcome->done = std::max(outcome->done, over);
-            outcome->wasStopped = failures.isEmpty();
-            outcome->failure = failures.join(u' ');
-        }
+        Progress listener(photos.size(), target.queue, flags->sent, flags->following, say);
+        PrintRun run(target, job, listener, {&flags->cancel, &flags->keep, &flags->leave});
+        *outcome = printed(photos, run);
     }));
     connect(thread_.get(), &QThread::finished, this, [this, outcome] {
         thread_.release()->deleteLater();

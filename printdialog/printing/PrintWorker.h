@@ -3,28 +3,12 @@
 
 #pragma once
 
-#include "PhotoPrinter.h"
-#include "PlacedPhoto.h"
+#include "PrintRun.h"
 
 #include <QtCore/QObject>
 #include <QtCore/QThread>
 
 namespace printdialog {
-
-/// What has become of the photos of one run.
-struct PrintOutcome
-{
-    QStringList printed;     ///< A sentence for each photo that was printed, or just sent (isFollowed).
-    QList<int> jobs;         ///< The ids of the jobs that `printed` tells of; none from the built-in printer.
-    QStringList waiting;     ///< A sentence for each whose job stands still at the print server.
-    QString failure;         ///< What stopped the rest; empty when nothing did.
-    int total = 0;           ///< How many photos were to be printed.
-    int done = 0;            ///< How many the printer has printed, also of a run that was stopped.
-    bool wasStopped = false; ///< By the user, and nothing of it failed.
-    bool isFollowed = false; ///< The jobs were followed to their end.
-    bool hasDamaged = false; ///< Nothing was printed, since a photo is damaged that nobody has accepted.
-    bool hasOtherPpd = false; ///< The queue's PPD is no more that from which the options were chosen.
-};
 
 /// Prints photos on a thread of its own and follows a queue's jobs to their end. Signals come on the thread
 /// of this object.

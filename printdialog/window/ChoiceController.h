@@ -25,7 +25,6 @@ class MessageBar;
 class PanelTabs;
 class PresetBar;
 class PresetStore;
-struct JobOptions;
 
 /// The parts of the window that choices are made and shown with.
 struct ChoiceWidgets
@@ -64,7 +63,7 @@ public:
     void explainJob();
 
     /// Keeps the choices for the next time with this printer. A sentence when that fails.
-    QString keep(const JobOptions &job);
+    QString keep(const QMap<QString, QString> &options);
 
     /// The texts of the buttons that may appear beside a refusal.
     static QStringList offerTexts() { return {tr("Als&o change %1"), tr("Chan&ge %1")}; }
@@ -102,7 +101,6 @@ private:
     void renamePreset(const QString &name, const QString &typed);
     void removePreset(const QString &name);
     std::optional<QMap<QString, QString>> kept();
-    QString takeCopies(QMap<QString, QString> &choices);
     void markPreset(const QString &name);
     void sayLeftOut(const QString &introduction, const QStringList &sentences);
 

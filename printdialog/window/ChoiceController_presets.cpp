@@ -3,7 +3,6 @@
 
 #include "ChoiceCallout.h"
 #include "ChoiceController.h"
-#include "ChoiceExplanation.h"
 #include "DialogSession.h"
 #include "MessageBar.h"
 #include "PresetBar.h"
@@ -11,6 +10,7 @@
 #include "PresetStore.h"
 #include "QueueSettings.h"
 #include "StoredChoices.h"
+#include "UsedChoices.h"
 
 #include <QtCore/QTimer>
 #include <QtGui/QAction>
@@ -68,19 +68,15 @@ void ChoiceController::setSession(DialogSession *session)
         usePreset(nameOf(*store_, instance));
         return;
     }
-    QMap<QString, QString> last = QueueSettings::load(queue);
-    QStringList leftOut;
-    if (const QString sentence = takeCopies(last); !sentence.isEmpty())
-        leftOut += sentence;
-    for (const Ruling &ruling : session->restoreChoices(last))
-        leftOut += ChoiceExplanation(session->ppd()).refusal(ruling);
-    sayLeftOut(tr("Of the choices used last, some are left out:"), leftOut);
+    const UsedChoices last = useChoices(*session, QueueSettings::load(queue));
+    setCopies(last.copies.value_or(1));
+    sayLeftOut(tr("Of the choices used last, some are left out:"), last.leftOut);
 }
 
-QString ChoiceController::keep(const JobOptions &job)
+QString ChoiceController::keep(const QMap<QString, QString> &options)
 {
     noteStep(false); // what took the place of a dropped choice
-    QMap<QString, QString> choices = job.options;
+    QMap<QString, QString> choices = options;
     choices.insert(QLatin1String(copiesOption), QString::number(widgets_.copies->value()));
     const auto failure = QueueSettings::save(queueOf(session_->printer()), choices);
     return failure ? failure->text : QString();
@@ -144,32 +140,11 @@ QStringList ChoiceController::restorePreset(const QString &name)
         widgets_.presets->showError(tr("There is no preset \"%1\" any more.").arg(name));
         return {};
     }
-    QMap<QString, QString> choices = preset->choicesFor(session_->ppd().options());
-    QStringList leftOut;
-    if (!choices.contains(QLatin1String(copiesOption)))
-        setCopies(1);
-    if (const QString sentence = takeCopies(choices); !sentence.isEmpty())
-        leftOut += sentence;
-    const auto rulings = session_->restoreChoices(choices, DialogSession::Unnamed::Default);
-    for (const Ruling &ruling : rulings)
-        leftOut += ChoiceExplanation(session_->ppd()).refusal(ruling);
+    const UsedChoices used = printdialog::usePreset(*session_, *preset);
+    setCopies(used.copies.value_or(1));
     noteStep(false);
     markPreset(preset->name);
-    return leftOut;
-}
-
-/// Takes the number of copies out of the choices, and shows it. A sentence when it is none.
-QString ChoiceController::takeCopies(QMap<QString, QString> &choices)
-{
-    const QString text = choices.take(QLatin1String(copiesOption));
-    if (text.isNull())
-        return {};
-    bool isNumber = false;
-    const int copies = text.toInt(&isNumber);
-    if (!isNumber || copies < widgets_.copies->minimum() || copies > widgets_.copies->maximum())
-        return tr("%1 is no number of copies.").arg(text);
-    setCopies(copies);
-    return {};
+    return used.leftOut;
 }
 
 void ChoiceController::sayLeftOut(const QString &introduction, const QStringList &sentences)

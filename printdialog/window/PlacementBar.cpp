@@ -3,6 +3,7 @@
 
 #include "PlacementBar.h"
 
+#include "JobSummary.h"
 #include "WrappingRow.h"
 
 #include <QtWidgets/QComboBox>
@@ -31,7 +32,7 @@ PlacementBar::PlacementBar(QWidget *parent)
     scaling_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     scaling_->setMinimumContentsLength(shortestScaling);
     for (const Scaling scaling : {Scaling::Fit, Scaling::Fill, Scaling::ActualSize})
-        scaling_->addItem(textOf(scaling), static_cast<int>(scaling));
+        scaling_->addItem(scalingText(scaling), static_cast<int>(scaling));
     turn_->setObjectName(QStringLiteral("turn"));
     turn_->setAutoDefault(false);
     turn_->setToolTip(tr("Turn the photo on the page by a quarter, clockwise"));
@@ -50,19 +51,6 @@ PlacementBar::PlacementBar(QWidget *parent)
         choice_.turns = (choice_.turns + 1) % 4;
         Q_EMIT placementChanged(choice_);
     });
-}
-
-QString PlacementBar::textOf(Scaling scaling)
-{
-    switch (scaling) {
-    case Scaling::Fit:
-        return tr("Fit on the page");
-    case Scaling::Fill:
-        return tr("Fill the page");
-    case Scaling::ActualSize:
-        break;
-    }
-    return tr("Actual size");
 }
 
 void PlacementBar::setPlacement(const PlacementChoice &choice)

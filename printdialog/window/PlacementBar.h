@@ -20,9 +20,6 @@ class PlacementBar : public QWidget
 public:
     explicit PlacementBar(QWidget *parent = nullptr);
 
-    /// What people call it.
-    static QString textOf(Scaling scaling);
-
     /// Shows the choice; nothing is announced.
     void setPlacement(const PlacementChoice &choice);
 

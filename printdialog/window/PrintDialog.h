@@ -28,9 +28,9 @@ class ChoiceController;
 class DialogSession;
 class PpdFetcher;
 class PrintWorker;
-struct PrintJob;
 struct PrintOutcome;
 struct RememberedQueue;
+struct SessionJob;
 
 /// What a print dialog is opened with.
 struct PrintDialogSetup
@@ -123,7 +123,7 @@ private:
     // Printing
     void askAboutDamage();
     void finishPrinting(const PrintOutcome &outcome);
-    std::optional<PrintJob> makeJob(QStringList &remarks);
+    std::optional<SessionJob> makeJob();
     void cancelOrStop();
     void stopPrinting();
     QString whatGoesOn() const;

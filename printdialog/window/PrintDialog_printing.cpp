@@ -8,6 +8,7 @@
 #include "PpdFetcher.h"
 #include "PrintDialog.h"
 #include "PrintWorker.h"
+#include "SessionJob.h"
 #include "ViewTexts.h"
 #include "ui_PrintDialog.h"
 
@@ -33,29 +34,19 @@ void PrintDialog::updateButtons()
     ui_->cancel->setEnabled(!isStopping_);
 }
 
-std::optional<PrintJob> PrintDialog::makeJob(QStringList &remarks)
+/// Keeps the choices for the next time, too. Where there is no job, the user is told why.
+std::optional<SessionJob> PrintDialog::makeJob()
 {
-    const auto options = session_->jobOptions();
-    if (!options) {
+    auto job = jobOf(*session_, ui_->copies->value());
+    if (job) {
+        notKept_ = choices_->keep(job->job.options);
+        return *std::move(job);
+    }
+    if (job.failure().reason == SessionJobFault::Conflict)
         choices_->explainJob();
-        return std::nullopt;
-    }
-    remarks = options->dropped;
-    const auto size = session_->ppd().pageSize(options->options.value(QStringLiteral("PageSize")));
-    if (!size) {
-        ui_->message->show(MessageBar::Kind::Warning, tr("No paper size is chosen. Choose one."));
-        return std::nullopt;
-    }
-    PrintJob job;
-    job.printer = session_->printer().name;
-    job.page = {size->points, size->imageable};
-    job.options = options->options;
-    job.copies = ui_->copies->value();
-    job.queue = session_->printer().hasPpd ? QueueTerms::ofPpd(session_->ppd()) : QueueTerms::withoutPpd();
-    for (const auto &[option, choice] : session_->summary())
-        job.summary.insert(option, choice);
-    notKept_ = choices_->keep(*options);
-    return job;
+    else
+        ui_->message->show(MessageBar::Kind::Warning, job.failure().text);
+    return std::nullopt;
 }
 
 void PrintDialog::print()
@@ -64,22 +55,21 @@ void PrintDialog::print()
         return;
     if (!ui_->photos->damagedPhotos().isEmpty())
         return askAboutDamage();
-    QStringList remarks;
-    const std::optional<PrintJob> job = makeJob(remarks);
+    const std::optional<SessionJob> job = makeJob();
     if (!job)
         return;
     ui_->message->clear();
-    if (!remarks.isEmpty())
-        ui_->message->show(MessageBar::Kind::Warning, remarks.join(u'\n'));
+    if (!job->remarks.isEmpty())
+        ui_->message->show(MessageBar::Kind::Warning, job->remarks.join(u'\n'));
     target_ = {};
     if (session_->printer().isBuiltIn)
         target_.folder.path = ui_->folder->text();
     else
         target_.queue = session_->printer().name;
-    remarks_ = remarks;
+    remarks_ = job->remarks;
     remember(true);
     ui_->progress->show(tr("Printing…"));
-    worker_->print(ui_->photos->photos(), target_, *job);
+    worker_->print(ui_->photos->photos(), target_, job->job);
     updateButtons();
 }
 
@@ -116,7 +106,7 @@ void PrintDialog::finishPrinting(const PrintOutcome &outcome)
         return askAboutDamage();
     const OutcomeText text(outcome, target_);
     MessageBar::Message message;
-    if (!outcome.failure.isEmpty())
+    if (!outcome.failure.isEmpty() || !outcome.skipped.isEmpty())
         message.kind = MessageBar::Kind::Error;
     else if (!outcome.waiting.isEmpty() || !notKept_.isEmpty() || !remarks_.isEmpty() || outcome.wasStopped)
         message.kind = MessageBar::Kind::Warning;
@@ -225,7 +215,7 @@ void PrintDialog::saveSettings()
         choices_->explainJob();
         return;
     }
-    const QString failure = choices_->keep(*options);
+    const QString failure = choices_->keep(options->options);
     if (failure.isEmpty())
         ui_->message->show(MessageBar::Kind::Information,
                            tr("The settings are saved for \"%1\".").arg(session_->printer().text));

@@ -476,6 +476,18 @@ Beispiele:
         <source>Placement</source>
         <translation>Platzierung</translation>
     </message>
+    <message>
+        <source>Fit on the page</source>
+        <translation>In die Seite einpassen</translation>
+    </message>
+    <message>
+        <source>Fill the page</source>
+        <translation>Seite füllen</translation>
+    </message>
+    <message>
+        <source>Actual size</source>
+        <translation>Tatsächliche Größe</translation>
+    </message>
 </context>
 <context>
     <name>Listings</name>
@@ -976,10 +988,6 @@ Beispiele:
         <translation>Der Drucker „%1“ hat keine PPD-Datei und deshalb keine Option %2; lassen Sie sie weg oder richten Sie den Drucker mit seinem Treiber ein.</translation>
     </message>
     <message>
-        <source>Of the preset &quot;%1&quot; is left out: %2 is no number of copies.</source>
-        <translation>Von der Voreinstellung „%1“ bleibt weg: %2 ist keine Anzahl von Exemplaren.</translation>
-    </message>
-    <message>
         <source>Of the preset &quot;%1&quot; is left out: %2</source>
         <translation>Von der Voreinstellung „%1“ bleibt weg: %2</translation>
     </message>
@@ -1001,6 +1009,13 @@ Beispiele:
     <message>
         <source>The folder %1 cannot be made. Choose another one for the pictures.</source>
         <translation>Der Ordner %1 kann nicht angelegt werden. Wählen Sie einen anderen für die Bilder.</translation>
+    </message>
+</context>
+<context>
+    <name>SessionJob</name>
+    <message>
+        <source>No paper size is chosen. Choose one.</source>
+        <translation>Es ist kein Papierformat gewählt. Wählen Sie eines.</translation>
     </message>
 </context>
 <context>
@@ -1229,6 +1244,13 @@ Beispiele:
     </message>
 </context>
 <context>
+    <name>UsedChoices</name>
+    <message>
+        <source>%1 is not a number of copies.</source>
+        <translation>%1 ist keine Anzahl von Exemplaren.</translation>
+    </message>
+</context>
+<context>
     <name>WindowRun</name>
     <message>
         <source>The window cannot be seen, because QT_QPA_PLATFORM asks for &quot;%1&quot;. Unset it, or print without a window (--batch).</source>
@@ -1301,10 +1323,6 @@ Beispiele:
     <message>
         <source>There is no preset &quot;%1&quot; any more.</source>
         <translation>Die Voreinstellung „%1“ gibt es nicht mehr.</translation>
-    </message>
-    <message>
-        <source>%1 is no number of copies.</source>
-        <translation>%1 ist keine mögliche Anzahl von Exemplaren.</translation>
     </message>
     <message numerus="yes">
         <source>And %n more.</source>
@@ -1393,6 +1411,10 @@ Beispiele:
     <message>
         <source>Not printed yet: %1; the print server keeps the jobs.</source>
         <translation>Noch nicht gedruckt: %1; der Druckserver behält die Aufträge.</translation>
+    </message>
+    <message>
+        <source>%1 photos cannot be printed.</source>
+        <translation>%1 Fotos lassen sich nicht drucken.</translation>
     </message>
 </context>
 <context>
@@ -1616,18 +1638,6 @@ Beispiele:
         <translation>Platzierung des Fotos</translation>
     </message>
     <message>
-        <source>Fit on the page</source>
-        <translation>In die Seite einpassen</translation>
-    </message>
-    <message>
-        <source>Fill the page</source>
-        <translation>Seite füllen</translation>
-    </message>
-    <message>
-        <source>Actual size</source>
-        <translation>Tatsächliche Größe</translation>
-    </message>
-    <message>
         <source>Turn the photo on the page by a quarter, clockwise</source>
         <translation>Das Foto auf der Seite um ein Viertel im Uhrzeigersinn drehen</translation>
     </message>
@@ -1809,10 +1819,6 @@ Beispiele:
     <message>
         <source>Printing is under way.</source>
         <translation>Der Druck läuft.</translation>
-    </message>
-    <message>
-        <source>No paper size is chosen. Choose one.</source>
-        <translation>Es ist kein Papierformat gewählt. Wählen Sie eines.</translation>
     </message>
     <message>
         <source>Printing…</source>

@@ -474,6 +474,18 @@ Ejemplos:
         <source>Placement</source>
         <translation>Colocación</translation>
     </message>
+    <message>
+        <source>Fit on the page</source>
+        <translation>Ajustar a la página</translation>
+    </message>
+    <message>
+        <source>Fill the page</source>
+        <translation>Llenar la página</translation>
+    </message>
+    <message>
+        <source>Actual size</source>
+        <translation>Tamaño real</translation>
+    </message>
 </context>
 <context>
     <name>Listings</name>
@@ -974,10 +986,6 @@ Ejemplos:
         <translation>La impresora «%1» no tiene archivo PPD y por tanto ninguna opción %2; omítala o configure la impresora con su controlador.</translation>
     </message>
     <message>
-        <source>Of the preset &quot;%1&quot; is left out: %2 is no number of copies.</source>
-        <translation>Del preajuste «%1» se omite: %2 no es un número de copias.</translation>
-    </message>
-    <message>
         <source>Of the preset &quot;%1&quot; is left out: %2</source>
         <translation>Del preajuste «%1» se omite: %2</translation>
     </message>
@@ -999,6 +1007,13 @@ Ejemplos:
     <message>
         <source>The folder %1 cannot be made. Choose another one for the pictures.</source>
         <translation>No se puede crear la carpeta %1. Elija otra para las imágenes.</translation>
+    </message>
+</context>
+<context>
+    <name>SessionJob</name>
+    <message>
+        <source>No paper size is chosen. Choose one.</source>
+        <translation>No se ha elegido ningún tamaño de papel. Elija uno.</translation>
     </message>
 </context>
 <context>
@@ -1227,6 +1242,13 @@ Ejemplos:
     </message>
 </context>
 <context>
+    <name>UsedChoices</name>
+    <message>
+        <source>%1 is not a number of copies.</source>
+        <translation>%1 no es un número de copias.</translation>
+    </message>
+</context>
+<context>
     <name>WindowRun</name>
     <message>
         <source>The window cannot be seen, because QT_QPA_PLATFORM asks for &quot;%1&quot;. Unset it, or print without a window (--batch).</source>
@@ -1299,10 +1321,6 @@ Ejemplos:
     <message>
         <source>There is no preset &quot;%1&quot; any more.</source>
         <translation>El preajuste «%1» ya no existe.</translation>
-    </message>
-    <message>
-        <source>%1 is no number of copies.</source>
-        <translation>%1 no es un número de copias posible.</translation>
     </message>
     <message numerus="yes">
         <source>And %n more.</source>
@@ -1391,6 +1409,10 @@ Ejemplos:
     <message>
         <source>Not printed yet: %1; the print server keeps the jobs.</source>
         <translation>Sin imprimir todavía: %1; el servidor de impresión conserva los trabajos.</translation>
+    </message>
+    <message>
+        <source>%1 photos cannot be printed.</source>
+        <translation>No se pueden imprimir %1 fotos.</translation>
     </message>
 </context>
 <context>
@@ -1614,18 +1636,6 @@ Ejemplos:
         <translation>Colocación de la foto</translation>
     </message>
     <message>
-        <source>Fit on the page</source>
-        <translation>Ajustar a la página</translation>
-    </message>
-    <message>
-        <source>Fill the page</source>
-        <translation>Llenar la página</translation>
-    </message>
-    <message>
-        <source>Actual size</source>
-        <translation>Tamaño real</translation>
-    </message>
-    <message>
         <source>Turn the photo on the page by a quarter, clockwise</source>
         <translation>Girar la foto en la página un cuarto de vuelta, en sentido horario</translation>
     </message>
@@ -1807,10 +1817,6 @@ Ejemplos:
     <message>
         <source>Printing is under way.</source>
         <translation>Impresión en curso.</translation>
-    </message>
-    <message>
-        <source>No paper size is chosen. Choose one.</source>
-        <translation>No se ha elegido ningún tamaño de papel. Elija uno.</translation>
     </message>
     <message>
         <source>Printing…</source>

@@ -475,6 +475,18 @@ Exemples&#x202f;:
         <source>Placement</source>
         <translation>Placement</translation>
     </message>
+    <message>
+        <source>Fit on the page</source>
+        <translation>Ajuster à la page</translation>
+    </message>
+    <message>
+        <source>Fill the page</source>
+        <translation>Remplir la page</translation>
+    </message>
+    <message>
+        <source>Actual size</source>
+        <translation>Taille réelle</translation>
+    </message>
 </context>
 <context>
     <name>Listings</name>
@@ -975,10 +987,6 @@ Exemples&#x202f;:
         <translation>L’imprimante «&#xa0;%1&#xa0;» n’a pas de fichier PPD, donc pas d’option %2&#xa0;; retirez-la ou installez l’imprimante avec son pilote.</translation>
     </message>
     <message>
-        <source>Of the preset &quot;%1&quot; is left out: %2 is no number of copies.</source>
-        <translation>Du préréglage «&#x202f;%1&#x202f;» est laissé de côté&#x202f;: %2 n’est pas un nombre de copies.</translation>
-    </message>
-    <message>
         <source>Of the preset &quot;%1&quot; is left out: %2</source>
         <translation>Du préréglage «&#x202f;%1&#x202f;» est laissé de côté&#x202f;: %2</translation>
     </message>
@@ -1000,6 +1008,13 @@ Exemples&#x202f;:
     <message>
         <source>The folder %1 cannot be made. Choose another one for the pictures.</source>
         <translation>Le dossier %1 ne peut pas être créé. Choisissez-en un autre pour les images.</translation>
+    </message>
+</context>
+<context>
+    <name>SessionJob</name>
+    <message>
+        <source>No paper size is chosen. Choose one.</source>
+        <translation>Aucun format de papier n’est choisi. Choisissez-en un.</translation>
     </message>
 </context>
 <context>
@@ -1228,6 +1243,13 @@ Exemples&#x202f;:
     </message>
 </context>
 <context>
+    <name>UsedChoices</name>
+    <message>
+        <source>%1 is not a number of copies.</source>
+        <translation>%1 n’est pas un nombre d’exemplaires.</translation>
+    </message>
+</context>
+<context>
     <name>WindowRun</name>
     <message>
         <source>The window cannot be seen, because QT_QPA_PLATFORM asks for &quot;%1&quot;. Unset it, or print without a window (--batch).</source>
@@ -1300,10 +1322,6 @@ Exemples&#x202f;:
     <message>
         <source>There is no preset &quot;%1&quot; any more.</source>
         <translation>Le préréglage «&#x202f;%1&#x202f;» n’existe plus.</translation>
-    </message>
-    <message>
-        <source>%1 is no number of copies.</source>
-        <translation>%1 n’est pas un nombre de copies possible.</translation>
     </message>
     <message numerus="yes">
         <source>And %n more.</source>
@@ -1392,6 +1410,10 @@ Exemples&#x202f;:
     <message>
         <source>Not printed yet: %1; the print server keeps the jobs.</source>
         <translation>Pas encore imprimées&#xa0;: %1&#xa0;; le serveur d’impression garde les tâches.</translation>
+    </message>
+    <message>
+        <source>%1 photos cannot be printed.</source>
+        <translation>%1 photos ne peuvent pas être imprimées.</translation>
     </message>
 </context>
 <context>
@@ -1615,18 +1637,6 @@ Exemples&#x202f;:
         <translation>Placement de la photo</translation>
     </message>
     <message>
-        <source>Fit on the page</source>
-        <translation>Ajuster à la page</translation>
-    </message>
-    <message>
-        <source>Fill the page</source>
-        <translation>Remplir la page</translation>
-    </message>
-    <message>
-        <source>Actual size</source>
-        <translation>Taille réelle</translation>
-    </message>
-    <message>
         <source>Turn the photo on the page by a quarter, clockwise</source>
         <translation>Tourner la photo d’un quart de tour sur la page, dans le sens horaire</translation>
     </message>
@@ -1808,10 +1818,6 @@ Exemples&#x202f;:
     <message>
         <source>Printing is under way.</source>
         <translation>Impression en cours.</translation>
-    </message>
-    <message>
-        <source>No paper size is chosen. Choose one.</source>
-        <translation>Aucun format de papier n’est choisi. Choisissez-en un.</translation>
     </message>
     <message>
         <source>Printing…</source>

@@ -473,6 +473,18 @@ Examples:
         <source>Placement</source>
         <translation>配置</translation>
     </message>
+    <message>
+        <source>Fit on the page</source>
+        <translation>ページに収める</translation>
+    </message>
+    <message>
+        <source>Fill the page</source>
+        <translation>ページいっぱい</translation>
+    </message>
+    <message>
+        <source>Actual size</source>
+        <translation>実際の大きさ</translation>
+    </message>
 </context>
 <context>
     <name>Listings</name>
@@ -973,10 +985,6 @@ Examples:
         <translation>プリンター「%1」には PPD ファイルがないため、オプション %2 はありません。指定を外すか、ドライバーを使ってプリンターを設定してください。</translation>
     </message>
     <message>
-        <source>Of the preset &quot;%1&quot; is left out: %2 is no number of copies.</source>
-        <translation>プリセット「%1」のうち次は使われません: %2 は部数ではありません。</translation>
-    </message>
-    <message>
         <source>Of the preset &quot;%1&quot; is left out: %2</source>
         <translation>プリセット「%1」のうち次は使われません: %2</translation>
     </message>
@@ -998,6 +1006,13 @@ Examples:
     <message>
         <source>The folder %1 cannot be made. Choose another one for the pictures.</source>
         <translation>フォルダー %1 を作れません。画像用に別のフォルダーを選んでください。</translation>
+    </message>
+</context>
+<context>
+    <name>SessionJob</name>
+    <message>
+        <source>No paper size is chosen. Choose one.</source>
+        <translation>用紙サイズが選ばれていません。選んでください。</translation>
     </message>
 </context>
 <context>
@@ -1226,6 +1241,13 @@ Examples:
     </message>
 </context>
 <context>
+    <name>UsedChoices</name>
+    <message>
+        <source>%1 is not a number of copies.</source>
+        <translation>%1 は部数として正しくありません。</translation>
+    </message>
+</context>
+<context>
     <name>WindowRun</name>
     <message>
         <source>The window cannot be seen, because QT_QPA_PLATFORM asks for &quot;%1&quot;. Unset it, or print without a window (--batch).</source>
@@ -1298,10 +1320,6 @@ Examples:
     <message>
         <source>There is no preset &quot;%1&quot; any more.</source>
         <translation>プリセット「%1」はもうありません。</translation>
-    </message>
-    <message>
-        <source>%1 is no number of copies.</source>
-        <translation>%1 は部数として使えません。</translation>
     </message>
     <message numerus="yes">
         <source>And %n more.</source>
@@ -1389,6 +1407,10 @@ Examples:
     <message>
         <source>Not printed yet: %1; the print server keeps the jobs.</source>
         <translation>まだ印刷されていない写真: %1 枚。ジョブはプリントサーバーに残ります。</translation>
+    </message>
+    <message>
+        <source>%1 photos cannot be printed.</source>
+        <translation>%1 枚の写真は印刷できません。</translation>
     </message>
 </context>
 <context>
@@ -1611,18 +1633,6 @@ Examples:
         <translation>写真の配置</translation>
     </message>
     <message>
-        <source>Fit on the page</source>
-        <translation>ページに収める</translation>
-    </message>
-    <message>
-        <source>Fill the page</source>
-        <translation>ページいっぱい</translation>
-    </message>
-    <message>
-        <source>Actual size</source>
-        <translation>実際の大きさ</translation>
-    </message>
-    <message>
         <source>Turn the photo on the page by a quarter, clockwise</source>
         <translation>ページ上の写真を時計回りに 90 度回転します</translation>
     </message>
@@ -1804,10 +1814,6 @@ Examples:
     <message>
         <source>Printing is under way.</source>
         <translation>印刷中です。</translation>
-    </message>
-    <message>
-        <source>No paper size is chosen. Choose one.</source>
-        <translation>用紙サイズが選ばれていません。選んでください。</translation>
     </message>
     <message>
         <source>Printing…</source>

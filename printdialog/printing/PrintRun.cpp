@@ -1,0 +1,112 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "PrintRun.h"
+
+#include "SentJobs.h"
+
+#include <algorithm>
+#include <atomic>
+
+namespace printdialog {
+
+PrintRun::PrintRun(const PrintTarget &target, const PrintJob &job, PrintRunListener &listener,
+                   const PrintRunFlags &flags, const FollowLimits &limits)
+    : target_(target)
+    , job_(job)
+    , listener_(listener)
+    , flags_(flags)
+    , limits_(limits)
+    , printer_(target, {[this](qint64 sent, qint64 total) { listener_.sending(index_, name_, sent, total); },
+                        flags.cancel})
+    , sent_(std::make_unique<SentJobs>(target.queue))
+{
+}
+
+PrintRun::~PrintRun() = default;
+
+bool PrintRun::isRaised(int *flag)
+{
+    return flag && std::atomic_ref(*flag).load() != 0;
+}
+
+PrintOutcome PrintRun::print(qsizetype count, const PhotoSource &photos)
+{
+    outcome_.total = static_cast<int>(count);
+    for (index_ = 0; index_ < count && !isRaised(flags_.cancel); ++index_) {
+        const auto placed = photos(index_);
+        if (!placed) {
+            outcome_.failure = placed.failure().text;
+            break;
+        }
+        if (!isRaised(flags_.cancel) && !printOne(*placed))
+            break;
+    }
+    const bool isFine = outcome_.failure.isEmpty() && !isRaised(flags_.cancel);
+    if (isFine && !sent_->isEmpty() && limits_.total > FollowLimits::Time::zero())
+        follow();
+    // What the built-in printer has left cannot be taken back, and is not worth a word when it is all.
+    const bool isOver = index_ == count && sent_->isEmpty();
+    if (isRaised(flags_.cancel) && !isRaised(flags_.keep) && !isOver)
+        takeBack();
+    return outcome_;
+}
+
+/// Whether the next one can be printed.
+bool PrintRun::printOne(const PlacedPhoto &placed)
+{
+    name_ = placed.photo.fileName();
+    listener_.sending(index_, name_, 0, 0);
+    PrintJob job = job_;
+    job.placement = placed.placement;
+    job.checksPhoto = job_.checksPhoto && !placed.isAccepted;
+    const auto printed = printer_.print(placed.photo, job);
+    if (!printed && isRaised(flags_.cancel))
+        return false;
+    if (!printed && printed.failure().reason.isPhotos) {
+        outcome_.skipped.append(printed.failure().text);
+        listener_.skipped(printed.failure().text);
+        return true;
+    }
+    if (!printed) {
+        outcome_.failure = printed.failure().text;
+        outcome_.hasOtherPpd = printed.failure().reason.queue == QueueFault::Changed;
+        return false;
+    }
+    if (const int *id = std::get_if<int>(&*printed)) {
+        sent_->add(name_, *id);
+        outcome_.jobs.append(*id);
+    } else {
+        ++outcome_.done;
+    }
+    outcome_.names.append(name_);
+    outcome_.printed.append(printedText(placed.photo, target_, *printed));
+    listener_.printed(outcome_.printed.constLast());
+    return true;
+}
+
+void PrintRun::follow()
+{
+    const QStringList names = outcome_.names;
+    const auto news = [&](int photo, const QString &state) {
+        listener_.following(photo, names.value(photo), state);
+    };
+    const SentJobs::Outcome followed = sent_->follow(limits_, news, flags_.leave);
+    outcome_.isFollowed = true;
+    outcome_.printed = followed.printed;
+    outcome_.jobs = followed.ids;
+    outcome_.done = static_cast<int>(followed.printed.size());
+    outcome_.waiting = followed.waiting;
+    outcome_.failure = followed.failure.value_or(QString());
+}
+
+void PrintRun::takeBack()
+{
+    int over = 0;
+    const QStringList failures = sent_->cancel(&over);
+    outcome_.done = std::max(outcome_.done, over);
+    outcome_.wasStopped = failures.isEmpty();
+    outcome_.failure = failures.join(u' ');
+}
+
+} // namespace printdialog

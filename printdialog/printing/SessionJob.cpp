@@ -1,0 +1,36 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "SessionJob.h"
+
+#include "DialogSession.h"
+
+#include <QtCore/QCoreApplication>
+
+namespace printdialog {
+
+Result<SessionJob, SessionJobFault> jobOf(DialogSession &session, int copies)
+{
+    const auto options = session.jobOptions();
+    if (!options)
+        return Failure<SessionJobFault>{SessionJobFault::Conflict, options.failure().text, {}};
+    const PpdDocument &ppd = session.ppd();
+    const auto size = ppd.pageSize(options->options.value(QStringLiteral("PageSize")));
+    if (!size)
+        return Failure<SessionJobFault>{
+            SessionJobFault::NoPaper,
+            QCoreApplication::translate("SessionJob", "No paper size is chosen. Choose one."),
+            {}};
+    const PrinterDescription &printer = session.printer();
+    PrintJob job;
+    job.printer = printer.name;
+    job.page = {size->points, size->imageable};
+    job.options = options->options;
+    for (const auto &[option, choice] : session.summary())
+        job.summary.insert(option, choice);
+    job.copies = copies;
+    job.queue = printer.hasPpd ? QueueTerms::ofPpd(ppd) : QueueTerms::withoutPpd();
+    return SessionJob{job, options->dropped};
+}
+
+} // namespace printdialog

@@ -1,0 +1,38 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "UsedChoices.h"
+
+#include "ChoiceExplanation.h"
+#include "PresetStore.h"
+#include "PrintJob.h"
+#include "StoredChoices.h"
+
+#include <QtCore/QCoreApplication>
+
+namespace printdialog {
+
+UsedChoices useChoices(DialogSession &session, QMap<QString, QString> choices, DialogSession::Unnamed unnamed)
+{
+    UsedChoices used;
+    const QString text = choices.take(QLatin1String(copiesOption));
+    bool isNumber = false;
+    const int copies = text.toInt(&isNumber);
+    if (isNumber && copies >= 1 && copies <= mostCopies)
+        used.copies = copies;
+    else if (!text.isNull())
+        used.leftOut += QCoreApplication::translate("UsedChoices", "%1 is not a number of copies.").arg(text);
+    if (!session.printer().hasPpd)
+        return used;
+    const auto rulings = session.restoreChoices(choices, unnamed);
+    for (const Ruling &ruling : rulings)
+        used.leftOut += ChoiceExplanation(session.ppd()).refusal(ruling);
+    return used;
+}
+
+UsedChoices usePreset(DialogSession &session, const Preset &preset)
+{
+    return useChoices(session, preset.choicesFor(session.ppd().options()), DialogSession::Unnamed::Default);
+}
+
+} // namespace printdialog
