@@ -6,6 +6,7 @@
 #include "AlertRole.h"
 #include "ChoiceController.h"
 #include "DialogSession.h"
+#include "EscapeGuard.h"
 #include "HelpWindow.h"
 #include "PlainText.h"
 #include "PpdCheck.h"
@@ -33,6 +34,7 @@ namespace {
 // In characters. Less would have the window change when the panels come; more would not be read more easily.
 constexpr int narrowestSettings = 78;
 constexpr int widestSettings = 110;
+constexpr int panelHeight = 48; // pixels, of what a desktop has at the edge of a screen
 
 } // namespace
 
@@ -59,6 +61,7 @@ PrintDialog::PrintDialog(const PrintDialogSetup &setup, QWidget *parent)
         buttons->addWidget(button);
     ui_->settingsSide->setReadableWidth(narrowestSettings, widestSettings);
     installAlertRole();
+    new EscapeGuard(this);
     ui_->panels->setReservedKeys(ChoiceController::offerTexts());
     for (const auto &[key, step] : {std::pair(QKeySequence(Qt::CTRL | Qt::Key_Tab), 1),
                                     std::pair(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Tab), -1)})
@@ -124,6 +127,8 @@ void PrintDialog::restorePlacement(const QByteArray &geometry)
         return;
     QRect room = screen()->availableGeometry();
     room.setTop(room.top() + style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, this));
+    if (QGuiApplication::platformName().startsWith(QLatin1String("wayland")))
+        room.setBottom(room.bottom() - panelHeight); // no program is told what the desktop keeps for itself
     resize(size().boundedTo(room.size()));
     if (!isRestored)
         return; // the desktop finds a place

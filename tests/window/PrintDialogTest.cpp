@@ -13,6 +13,7 @@
 #include <QtGui/QAccessible>
 #include <QtTest/QSignalSpy>
 #include <QtTest/QTest>
+#include <QtWidgets/QAbstractItemView>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QLabel>
@@ -72,6 +73,7 @@ private Q_SLOTS:
     void panelIsToldOnceThatItIsShown();
     void missingFormDisablesOnePanel();
     void missingBundle();
+    void escapeClosesOneThing();
     void cancelLeavesNothing();
 
 private:
@@ -477,6 +479,24 @@ void PrintDialogTest::missingBundle()
     opened.dialog->print();
     QTRY_VERIFY(opened.hasPrinted());
     QCOMPARE(opened.options().keys(), QStringList{u"PageSize"_s});
+}
+
+// As Wayland delivers it: the list closes when it is asked whether it wants the key, which then comes.
+void PrintDialogTest::escapeClosesOneThing()
+{
+    const OpenedDialog opened(PanelMode::Constraint);
+    auto *sizes = opened.find<QComboBox>(u"pageSize"_s);
+    sizes->showPopup();
+    QTRY_VERIFY(sizes->view()->isVisible());
+    QKeyEvent question(QEvent::ShortcutOverride, Qt::Key_Escape, Qt::NoModifier);
+    QApplication::sendEvent(sizes->view(), &question);
+    QTRY_VERIFY(!sizes->view()->isVisible());
+    QKeyEvent press(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
+    QApplication::sendEvent(sizes, &press);
+    QTest::keyRelease(sizes, Qt::Key_Escape);
+    QVERIFY(opened.dialog->isVisible());
+    QTest::keyClick(sizes, Qt::Key_Escape);
+    QVERIFY(opened.dialog->isHidden());
 }
 
 void PrintDialogTest::cancelLeavesNothing()

@@ -1,0 +1,36 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "EscapeGuard.h"
+
+#include <QtGui/QKeyEvent>
+#include <QtWidgets/QApplication>
+
+namespace printdialog {
+
+EscapeGuard::EscapeGuard(QWidget *window)
+    : QObject(window)
+    , window_(window)
+{
+    QCoreApplication::instance()->installEventFilter(this);
+}
+
+bool EscapeGuard::eventFilter(QObject *watched, QEvent *event)
+{
+    const QEvent::Type type = event->type();
+    if (type != QEvent::ShortcutOverride && type != QEvent::KeyPress && type != QEvent::KeyRelease)
+        return false;
+    const auto *key = static_cast<QKeyEvent *>(event);
+    const auto *widget = qobject_cast<QWidget *>(watched);
+    if (!widget || key->key() != Qt::Key_Escape)
+        return false;
+    const bool hasPopup = QApplication::activePopupWidget() != nullptr;
+    if (type == QEvent::ShortcutOverride)
+        isPopups_ |= hasPopup; // the window is asked as well, when the popup is closed already
+    else if (type == QEvent::KeyRelease && !key->isAutoRepeat())
+        isPopups_ = false;
+    return type == QEvent::KeyPress && isPopups_ && !hasPopup &&
+           (widget == window_ || window_->isAncestorOf(widget));
+}
+
+} // namespace printdialog
