@@ -21,11 +21,19 @@ add_custom_target(cppcheck
     WORKING_DIRECTORY ${CMAKE_SOURCE_DIR} VERBATIM COMMENT "Looking for faults with cppcheck")
 
 get_property(targets GLOBAL PROPERTY CORVEL_TARGETS)
-list(TRANSFORM targets APPEND _autogen)
+set(mocs) # what the sources include of moc's
+foreach(target IN LISTS targets)
+    get_target_property(isAutomatic ${target} AUTOMOC)
+    if(isAutomatic)
+        list(APPEND mocs ${target}_autogen)
+    elseif(TARGET ${target}_moc)
+        list(APPEND mocs ${target}_moc)
+    endif()
+endforeach()
 list(JOIN folders | either)
 add_custom_target(clang_tidy
     COMMAND ${CORVEL_RUN_CLANG_TIDY} -quiet -p ${CMAKE_BINARY_DIR} "^${CMAKE_SOURCE_DIR}/(${either})/"
     WORKING_DIRECTORY ${CMAKE_SOURCE_DIR} VERBATIM COMMENT "Looking for faults with clang-tidy")
-add_dependencies(clang_tidy ${targets})
+add_dependencies(clang_tidy ${mocs})
 add_custom_target(static_analysis)
 add_dependencies(static_analysis cppcheck clang_tidy)

@@ -34,7 +34,6 @@ include(CorvelHardening)
 function(corvel_precompiled name libraries)
     file(CONFIGURE OUTPUT ${CMAKE_BINARY_DIR}/precompiled/${name}.cpp CONTENT "")
     add_library(corvel_${name}_headers OBJECT ${CMAKE_BINARY_DIR}/precompiled/${name}.cpp)
-    set_target_properties(corvel_${name}_headers PROPERTIES AUTOMOC OFF AUTOUIC OFF)
     target_link_libraries(corvel_${name}_headers PRIVATE corvel_settings ${libraries})
     target_precompile_headers(corvel_${name}_headers PRIVATE
         <memory> <optional> <string> <vector>
@@ -42,6 +41,25 @@ function(corvel_precompiled name libraries)
 endfunction()
 corvel_precompiled(core Qt6::Core)
 corvel_precompiled(widgets Qt6::Widgets <QtWidgets/QWidget>)
+
+# corvel_has_object(RESULT FILE...): whether moc finds something in one of the files, or in the header beside one. Asked
+# when the build is configured: run cmake again for the first such class of a target.
+function(corvel_has_object result)
+    set(${result} FALSE PARENT_SCOPE)
+    foreach(file IN LISTS ARGN)
+        cmake_path(ABSOLUTE_PATH file BASE_DIRECTORY ${CMAKE_CURRENT_SOURCE_DIR})
+        cmake_path(REPLACE_EXTENSION file LAST_ONLY .h OUTPUT_VARIABLE header)
+        foreach(path IN ITEMS ${file} ${header})
+            if(EXISTS ${path})
+                file(STRINGS ${path} found REGEX "^ *Q_(OBJECT|GADGET|NAMESPACE)" LIMIT_COUNT 1)
+                if(found)
+                    set(${result} TRUE PARENT_SCOPE)
+                    return()
+                endif()
+            endif()
+        endforeach()
+    endforeach()
+endfunction()
 
 # Applies the settings to a target, and the shared precompiled headers that it names: core (the default), widgets, or
 # test once there are tests.
@@ -53,4 +71,8 @@ function(corvel_target target)
     target_link_libraries(${target} PRIVATE corvel_settings)
     target_precompile_headers(${target} REUSE_FROM corvel_${headers}_headers)
     set_property(GLOBAL APPEND PROPERTY CORVEL_TARGETS ${target})
+    get_target_property(sources ${target} SOURCES)
+    list(FILTER sources EXCLUDE REGEX "^\\$<")
+    corvel_has_object(needsMoc ${sources})
+    set_target_properties(${target} PROPERTIES AUTOMOC ${needsMoc})
 endfunction()
