@@ -23,6 +23,7 @@
 #include <QtGui/QScreen>
 #include <QtGui/QShortcut>
 #include <QtWidgets/QFileDialog>
+#include <QtWidgets/QLayout>
 
 #include <algorithm>
 #include <utility>
@@ -120,6 +121,11 @@ PrintDialog::~PrintDialog()
 
 void PrintDialog::restorePlacement(const QByteArray &geometry)
 {
+    // What the contents asked for before the panels came is kept until the window is shown.
+    const QList<QWidget *> contents = findChildren<QWidget *>();
+    for (QWidget *widget : contents)
+        widget->updateGeometry();
+    layout()->activate();
     resize(size().expandedTo(sizeHint()));
     // It refuses a placement from a screen that was much wider or narrower.
     const bool isRestored = !geometry.isEmpty() && restoreGeometry(geometry);

@@ -60,6 +60,7 @@ private Q_SLOTS:
     void wheelChangesNothing();
     void calloutFollowsItsControl();
     void photoGetsTheRest();
+    void opensWithRoomForAll();
     void placementFitsTheScreen_data();
     void placementFitsTheScreen();
 
@@ -204,6 +205,19 @@ void ScreenSizesTest::photoGetsTheRest()
     QCoreApplication::processEvents();
     QCOMPARE(settingsOf(opened)->width(), settings);
     QCOMPARE(opened.find<QWidget>(u"preview"_s)->width(), photo + 2000);
+}
+
+void ScreenSizesTest::opensWithRoomForAll()
+{
+    QFont larger = font_;
+    larger.setPointSizeF(font_.pointSizeF() * 1.25);
+    QApplication::setFont(larger);
+    PrintDialog dialog(setupFor(PanelMode::Constraint));
+    dialog.restorePlacement({});
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+    QVERIFY(dialog.height() < dialog.screen()->availableGeometry().height() - 30); // the screen is no limit
+    QCOMPARE(dialog.findChild<QScrollArea *>(u"settingsSide"_s)->verticalScrollBar()->maximum(), 0);
 }
 
 void ScreenSizesTest::placementFitsTheScreen_data()
