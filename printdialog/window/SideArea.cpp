@@ -61,23 +61,31 @@ void SideArea::setReadableWidth(int least, int most)
     updateGeometry();
 }
 
+int SideArea::scrollBarWidth() const
+{
+    return style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this);
+}
+
 // With room for the scroll bar, so that the contents keep their width when it appears.
 QSize SideArea::sizeHint() const
 {
     if (!widget())
         return QScrollArea::sizeHint();
-    const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this);
     const int character = fontMetrics().averageCharWidth();
     QSize size = widget()->sizeHint().expandedTo(widget()->minimumSizeHint());
-    size.setWidth(std::max(size.width() + bar, leastWidth_ * character));
+    size.setWidth(std::max(size.width() + scrollBarWidth(), leastWidth_ * character));
     if (mostWidth_ > 0)
         size.setWidth(std::min(size.width(), mostWidth_ * character));
     return size;
 }
 
+// No wider than all of the contents needs: on the smallest screens the other side needs the rest.
 QSize SideArea::minimumSizeHint() const
 {
-    return smallest.boundedTo(sizeHint());
+    QSize size = smallest.boundedTo(sizeHint());
+    if (widget())
+        size.setWidth(std::min(size.width(), widget()->minimumSizeHint().width() + scrollBarWidth()));
+    return size;
 }
 
 bool SideArea::event(QEvent *event)

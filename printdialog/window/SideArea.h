@@ -29,6 +29,7 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    int scrollBarWidth() const;
     bool takesWheel(const QWidget *widget) const;
 
     int leastWidth_ = 0;

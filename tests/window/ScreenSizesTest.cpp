@@ -60,6 +60,7 @@ private Q_SLOTS:
     void wheelChangesNothing();
     void calloutFollowsItsControl();
     void photoGetsTheRest();
+    void photoGivesWay();
     void opensWithRoomForAll();
     void placementFitsTheScreen_data();
     void placementFitsTheScreen();
@@ -205,6 +206,17 @@ void ScreenSizesTest::photoGetsTheRest()
     QCoreApplication::processEvents();
     QCOMPARE(settingsOf(opened)->width(), settings);
     QCOMPARE(opened.find<QWidget>(u"preview"_s)->width(), photo + 2000);
+}
+
+// 1024 x 600 at 150 %, which desktops set on X11 by the resolution of the fonts.
+void ScreenSizesTest::photoGivesWay()
+{
+    const OpenedDialog opened(PanelMode::Constraint);
+    opened.dialog->resize(683, 384);
+    QCoreApplication::processEvents();
+    QCOMPARE(opened.dialog->width(), 683);
+    QCOMPARE(settingsOf(opened)->horizontalScrollBar()->maximum(), 0);
+    QCOMPARE(opened.find<QScrollArea>(u"photoSide"_s)->horizontalScrollBar()->maximum(), 0);
 }
 
 void ScreenSizesTest::opensWithRoomForAll()
