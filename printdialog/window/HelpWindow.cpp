@@ -6,8 +6,10 @@
 #include <QtCore/QFile>
 #include <QtCore/QLocale>
 #include <QtCore/QUrl>
+#include <QtGui/QScreen>
 #include <QtGui/QTextDocument>
 #include <QtWidgets/QDialogButtonBox>
+#include <QtWidgets/QStyle>
 #include <QtWidgets/QTextBrowser>
 #include <QtWidgets/QVBoxLayout>
 
@@ -15,8 +17,8 @@ namespace printdialog {
 
 namespace {
 
-constexpr QSize startSize(600, 560);
-constexpr int margin = 12; // pixels around the text
+constexpr QSize startSize(86, 33); // average characters and lines, where the screen has room for them
+constexpr int margin = 12;         // pixels around the text
 
 QString startPage()
 {
@@ -48,7 +50,10 @@ HelpWindow::HelpWindow(QWidget *parent)
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(text);
     layout->addWidget(buttons);
-    resize(startSize);
+    const QSize wanted(startSize.width() * fontMetrics().averageCharWidth(),
+                       startSize.height() * fontMetrics().lineSpacing());
+    const int title = style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, this);
+    resize(wanted.boundedTo(parent->screen()->availableSize() - QSize(0, title)));
 }
 
 void HelpWindow::showFor(QWidget *parent)

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: Corvel print dialog authors
 // SPDX-License-Identifier: Apache-2.0
 
+#include "HelpWindow.h"
 #include "OpenedDialog.h"
 #include "SystemLog.h"
 #include "ViewTags.h"
@@ -62,6 +63,7 @@ private Q_SLOTS:
     void photoGetsTheRest();
     void photoGivesWay();
     void opensWithRoomForAll();
+    void helpFitsTheScreen();
     void placementFitsTheScreen_data();
     void placementFitsTheScreen();
 
@@ -230,6 +232,22 @@ void ScreenSizesTest::opensWithRoomForAll()
     QVERIFY(QTest::qWaitForWindowExposed(&dialog));
     QVERIFY(dialog.height() < dialog.screen()->availableGeometry().height() - 30); // the screen is no limit
     QCOMPARE(dialog.findChild<QScrollArea *>(u"settingsSide"_s)->verticalScrollBar()->maximum(), 0);
+}
+
+void ScreenSizesTest::helpFitsTheScreen()
+{
+    QFont larger = font_;
+    for (const double scale : {1.0, 1.5, 2.5}) {
+        larger.setPointSizeF(font_.pointSizeF() * scale);
+        QApplication::setFont(larger);
+        QWidget parent;
+        HelpWindow::showFor(&parent);
+        const auto *help = parent.findChild<HelpWindow *>();
+        const QSize room = parent.screen()->availableSize();
+        QVERIFY(help->width() <= room.width() && help->height() < room.height());
+        // A line of text is no shorter than with a small font, as far as the screen has room.
+        QVERIFY(help->width() == room.width() || help->width() > 80 * help->fontMetrics().averageCharWidth());
+    }
 }
 
 void ScreenSizesTest::placementFitsTheScreen_data()
