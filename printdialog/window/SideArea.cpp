@@ -109,6 +109,11 @@ bool SideArea::eventFilter(QObject *watched, QEvent *event)
             QCoreApplication::sendEvent(verticalScrollBar(), event);
             return true;
         }
+    } else if (event->type() == QEvent::Show) {
+        auto *shown = qobject_cast<QWidget *>(watched);
+        // What merely passes below the mouse gets no focus either, or the next key would change it.
+        if (shown && shown->focusPolicy() == Qt::WheelFocus && widget() && widget()->isAncestorOf(shown))
+            shown->setFocusPolicy(Qt::StrongFocus);
     } else if (event->type() == QEvent::FocusIn && isMoved(*static_cast<QFocusEvent *>(event))) {
         auto *focused = qobject_cast<QWidget *>(watched);
         if (focused && widget() && widget()->isAncestorOf(focused))

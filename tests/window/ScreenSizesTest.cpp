@@ -161,6 +161,7 @@ void ScreenSizesTest::wheelChangesNothing()
         QWheelEvent wheel(middle, over->mapToGlobal(middle), {}, {0, -120}, {}, {}, Qt::NoScrollPhase, false);
         QApplication::sendEvent(over, &wheel);
         QVERIFY2(inWindow(label).top() < before, qPrintable(over->objectName()));
+        QVERIFY2(over->focusPolicy() != Qt::WheelFocus, qPrintable(over->objectName()));
     }
     QCOMPARE(slider->value(), 0);
     QVERIFY(slider->isVisible()); // it is still the first page
