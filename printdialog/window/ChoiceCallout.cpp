@@ -7,14 +7,17 @@
 #include "ElidingButton.h"
 #include "MessageTint.h"
 
+#include <QtCore/QCoreApplication>
 #include <QtCore/QEvent>
 #include <QtGui/QPainter>
 #include <QtGui/QPainterPath>
 #include <QtGui/QShortcut>
+#include <QtGui/QWheelEvent>
 #include <QtWidgets/QGridLayout>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QScrollArea>
+#include <QtWidgets/QScrollBar>
 #include <QtWidgets/QStyle>
 #include <QtWidgets/QToolButton>
 
@@ -33,6 +36,15 @@ constexpr QColor tint(200, 140, 20);
 QRect inWindow(const QWidget *widget)
 {
     return {widget->mapTo(widget->window(), QPoint()), widget->size()};
+}
+
+/// The innermost one that scrolls the widget; null: nothing does.
+QScrollArea *scrollAreaOf(const QWidget *widget)
+{
+    QWidget *above = widget ? widget->parentWidget() : nullptr;
+    while (above && !qobject_cast<QScrollArea *>(above))
+        above = above->parentWidget();
+    return static_cast<QScrollArea *>(above);
 }
 
 /// What can be seen, in the window's coordinates, of what scrolls together with the widget.
@@ -188,6 +200,13 @@ bool ChoiceCallout::eventFilter(QObject *watched, QEvent *event)
     else if ((event->type() == QEvent::Resize || event->type() == QEvent::Move) && control_ && area_)
         place();
     return QFrame::eventFilter(watched, event);
+}
+
+// It hides a part of what the user may want to scroll.
+void ChoiceCallout::wheelEvent(QWheelEvent *event)
+{
+    if (auto *area = scrollAreaOf(control_))
+        QCoreApplication::sendEvent(area->verticalScrollBar(), event);
 }
 
 void ChoiceCallout::paintEvent(QPaintEvent * /*event*/)

@@ -195,6 +195,10 @@ void ScreenSizesTest::calloutFollowsItsControl()
         else // where it has gone to
             QVERIFY(box.top() <= view.top() || box.bottom() >= view.bottom());
     }
+    const QPointF middle = callout->rect().center();
+    QWheelEvent wheel(middle, callout->mapToGlobal(middle), {}, {0, 120}, {}, {}, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(opened.find<QWidget>(u"callout"_s), &wheel);
+    QVERIFY(bar->value() < bar->maximum());
     QVERIFY(!opened.dialog->message().isEmpty());
 }
 
