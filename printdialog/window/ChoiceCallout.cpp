@@ -120,6 +120,8 @@ void ChoiceCallout::show(QWidget *control, QWidget *area, const QString &text, c
 void ChoiceCallout::join(QWidget *control)
 {
     control_ = control;
+    QWidget *focused = window()->focusWidget();
+    focused_ = control->isAncestorOf(focused) ? focused : control;
     // It moves with whatever it stands in: a page that scrolls moves as a whole.
     for (QWidget *above = control; above && above != parentWidget(); above = above->parentWidget()) {
         above->installEventFilter(this);
@@ -145,8 +147,8 @@ void ChoiceCallout::dismiss()
         if (watched)
             watched->removeEventFilter(this);
     }
-    if (control_ && hadFocus)
-        control_->setFocus(Qt::OtherFocusReason);
+    if (focused_ && hadFocus)
+        focused_->setFocus(Qt::OtherFocusReason);
     control_.clear();
     area_.clear();
 }

@@ -48,6 +48,7 @@ private:
     QPushButton *offer_;
     QToolButton *close_;
     QPointer<QWidget> control_;
+    QPointer<QWidget> focused_; ///< the control, or what the user was at in a group of buttons
     QPointer<QWidget> area_;
     QList<QPointer<QWidget>> watched_; ///< the control and what it stands in
     bool isBelow_ = true;              ///< the control is above it

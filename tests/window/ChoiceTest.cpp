@@ -164,6 +164,12 @@ void ChoiceTest::calloutGoesByKeyAndByTheNextChoice()
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
     QVERIFY(!callout->isVisible() && opened.dialog->isVisible());
     opened.click(u"matte"_s);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space); // its button
+    QVERIFY(!callout->isVisible());
+    QCOMPARE(QApplication::focusWidget(), radio(opened, u"matte"_s)); // from there the keyboard goes on
+    opened.click(u"matte"_s);
     opened.click(u"calloutClose"_s);
     QVERIFY(!callout->isVisible());
     opened.click(u"matte"_s);
