@@ -5,6 +5,7 @@
 
 #include "DroppedFiles.h"
 #include "PhotoStrip.h"
+#include "PhotoThreads.h"
 #include "PlacementBar.h"
 #include "PlacementText.h"
 #include "PlainText.h"
@@ -101,7 +102,7 @@ void PhotoPane::setPage(const PageGeometry &page)
 
 void PhotoPane::addFiles(const QStringList &paths)
 {
-    QThreadPool::globalInstance()->start([paths, self = QPointer<PhotoPane>(this)] {
+    const auto open = [paths, self = QPointer<PhotoPane>(this)] {
         QList<Photo> opened;
         QStringList failures;
         for (const QString &path : paths) {
@@ -127,15 +128,15 @@ void PhotoPane::addFiles(const QStringList &paths)
             if (!failures.isEmpty())
                 Q_EMIT self->failed(failures.join(u'\n'));
         });
-    });
+    };
+    photoThreads().start(open, ShownPhoto);
 }
 
 void PhotoPane::check(const Photo &photo)
 {
-    constexpr int priority = -1; // what is shown comes first
     if (photo.isChecked())
         return;
-    QThreadPool::globalInstance()->start(
+    photoThreads().start(
         [photo, self = QPointer<PhotoPane>(this)] {
             if (!photo.damage())
                 return;
@@ -144,7 +145,7 @@ void PhotoPane::check(const Photo &photo)
                     self->showCaption();
             });
         },
-        priority);
+        CheckedPhoto);
 }
 
 QList<int> PhotoPane::damagedPhotos() const

@@ -3,6 +3,7 @@
 
 #include "PhotoStrip.h"
 
+#include "PhotoThreads.h"
 #include "PlainText.h"
 #include "ViewTexts.h"
 
@@ -97,7 +98,7 @@ void PhotoStrip::makeThumbnail(const Photo &photo)
     thumbnails_.insert(key, QPixmap());
     ++pending_;
     const double ratio = devicePixelRatioF();
-    QThreadPool::globalInstance()->start([photo, key, ratio, self = QPointer<PhotoStrip>(this)] {
+    const auto make = [photo, key, ratio, self = QPointer<PhotoStrip>(this)] {
         QImage image = photo.preview((QSizeF(thumbnailSize) * ratio).toSize());
         image.setDevicePixelRatio(ratio);
         QMetaObject::invokeMethod(qApp, [self, key, image] {
@@ -113,7 +114,8 @@ void PhotoStrip::makeThumbnail(const Photo &photo)
                     self->item(row)->setIcon(QIcon(pixmap));
             }
         });
-    });
+    };
+    photoThreads().start(make, ThumbnailPhoto);
 }
 
 QSize PhotoStrip::sizeHint() const

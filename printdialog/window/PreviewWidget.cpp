@@ -3,6 +3,7 @@
 
 #include "PreviewWidget.h"
 
+#include "PhotoThreads.h"
 #include "PlainText.h"
 
 #include <QtCore/QPointer>
@@ -76,14 +77,15 @@ void PreviewWidget::setPhoto(const Photo &photo)
 void PreviewWidget::decode(int detail)
 {
     detail_ = detail;
-    QThreadPool::globalInstance()->start(
+    photoThreads().start(
         [photo = photo_, number = number_, detail, self = QPointer<PreviewWidget>(this)] {
             const QImage image = photo.preview({detail, detail});
             QMetaObject::invokeMethod(qApp, [self, number, detail, image] {
                 if (self)
                     self->take(number, detail, image);
             });
-        });
+        },
+        ShownPhoto);
 }
 
 void PreviewWidget::take(quint64 number, int detail, const QImage &image)

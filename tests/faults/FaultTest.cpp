@@ -5,6 +5,7 @@
 #include "FaultInjection.h"
 #include "Faults.h"
 #include "OpenedDialog.h"
+#include "PhotoThreads.h"
 #include "PlatformException.h"
 #include "PresetStore.h"
 #include "QueueSettings.h"
@@ -95,7 +96,7 @@ struct Memory
 
     static Memory now()
     {
-        QThreadPool::globalInstance()->waitForDone();
+        photoThreads().waitForDone();
         malloc_trim(0);
         QFile file(u"/proc/self/statm"_s);
         const qint64 pages =

@@ -4,13 +4,18 @@
 #include "PhotoPane.h"
 #include "PdfWriter.h"
 #include "PhotoStrip.h"
+#include "PhotoThreads.h"
 #include "PreviewWidget.h"
 #include "SamplePhotos.h"
 
 #include <QtCore/QBuffer>
+#include <QtCore/QDeadlineTimer>
 #include <QtCore/QMimeData>
 #include <QtCore/QProcess>
+#include <QtCore/QSemaphore>
 #include <QtCore/QTemporaryDir>
+#include <QtCore/QThread>
+#include <QtCore/QThreadPool>
 #include <QtCore/QUrl>
 #include <QtGui/QDropEvent>
 #include <QtGui/QPainter>
@@ -21,8 +26,10 @@
 #include <QtWidgets/QPushButton>
 
 #include <algorithm>
+#include <atomic>
 #include <cmath>
 #include <cstdlib>
+#include <memory>
 
 using namespace printdialog;
 using namespace Qt::StringLiterals;
@@ -88,6 +95,7 @@ private Q_SLOTS:
     void moreDetailWhenLarger();
     void cropByMouseAndKeys();
     void paperIsWhiteInDarkThemes();
+    void paintsWhilePhotosAreDecoded();
     void placementByControls();
     void strip();
     void droppedFiles();
@@ -270,6 +278,33 @@ void PhotoPaneTest::paperIsWhiteInDarkThemes()
     const QPoint corner = preview->pageToWidget().map(QPointF(4, 4)).toPoint();
     QCOMPARE(shown.pixelColor(preview->mapTo(&pane, corner)), QColor(Qt::white));
     QCOMPARE(shown.pixelColor(preview->mapTo(&pane, QPoint(2, 2))), QColor(30, 30, 30));
+}
+
+// Large areas, which Qt paints on several threads.
+void PhotoPaneTest::paintsWhilePhotosAreDecoded()
+{
+    QSemaphore decoded;
+    std::atomic<bool> isLate = false;
+    const int threads = photoThreads().maxThreadCount();
+    for (int i = 0; i < threads; ++i)
+        photoThreads().start([&decoded] { decoded.acquire(); });
+    // Nothing on the painting thread would let them go on.
+    const std::unique_ptr<QThread> rescuer(QThread::create([&] {
+        QDeadlineTimer limit(std::chrono::seconds(10));
+        while (!limit.hasExpired() && !QThread::currentThread()->isInterruptionRequested())
+            QThread::msleep(10);
+        isLate = limit.hasExpired();
+        decoded.release(threads);
+    }));
+    rescuer->start();
+    PhotoPane pane;
+    pane.resize(900, 900);
+    pane.setPage(borderless);
+    pane.grab();
+    rescuer->requestInterruption();
+    rescuer->wait();
+    photoThreads().waitForDone();
+    QVERIFY(!isLate);
 }
 
 void PhotoPaneTest::placementByControls()
