@@ -3,13 +3,13 @@
 
 #include "NumberField.h"
 
+#include "AlertRole.h"
 #include "Bundle.h"
 #include "ControlValues.h"
 #include "NumericText.h"
 
 #include <QtCore/QEvent>
 #include <QtCore/QVariant>
-#include <QtGui/QAccessible>
 #include <QtGui/QValidator>
 #include <QtWidgets/QAbstractSlider>
 #include <QtWidgets/QLabel>
@@ -134,6 +134,7 @@ void NumberField::showNote()
     if (!note_) {
         note_ = new QLabel(view_);
         note_->setObjectName(QStringLiteral("numberNote"));
+        setAlertRole(note_);
         note_->setTextFormat(Qt::PlainText);
         note_->setFrameShape(QFrame::Box);
         note_->setMargin(noteMargin);
@@ -154,9 +155,7 @@ void NumberField::showNote()
     note_->move(std::max(left, 0), fitsBelow ? field.bottom() + 1 : field.top() - note_->height());
     note_->raise();
     note_->show();
-    // A screen reader says it at once.
-    QAccessibleEvent alert(note_, QAccessible::Alert);
-    QAccessible::updateAccessibility(&alert);
+    announce(note_);
 }
 
 void NumberField::hideNote()

@@ -78,6 +78,7 @@ ChoiceCallout::ChoiceCallout(QWidget *window)
     , close_(new QToolButton(this))
 {
     setObjectName(QStringLiteral("callout"));
+    pdekit::setAlertRole(this);
     text_->setTextFormat(Qt::PlainText);
     text_->setWordWrap(true);
     offer_->setObjectName(QStringLiteral("calloutOffer"));
@@ -113,7 +114,7 @@ void ChoiceCallout::show(QWidget *control, QWidget *area, const QString &text, c
     place();
     setVisible(true);
     raise();
-    announce(this);
+    pdekit::announce(this);
 }
 
 // The keyboard comes from the control to the callout, and from there to what followed the control.

@@ -69,6 +69,7 @@ MessageBar::MessageBar(QWidget *parent)
 {
     setFrameShape(QFrame::StyledPanel);
     setAutoFillBackground(true);
+    pdekit::setAlertRole(this);
     details_->setObjectName(QStringLiteral("messageDetailText"));
     showDetails_->setObjectName(QStringLiteral("messageDetails"));
     showDetails_->setCheckable(true);
@@ -105,7 +106,7 @@ void MessageBar::show(const Message &message)
     applyColors();
     setAccessibleName(message.text);
     setVisible(true);
-    announce(this);
+    pdekit::announce(this);
 }
 
 void MessageBar::showWithAction(Kind kind, const QString &text, const QString &actionText,

@@ -3,11 +3,11 @@
 
 #include "PresetBar.h"
 
+#include "AlertRole.h"
 #include "TextFieldEvents.h"
 #include "ViewTexts.h"
 
 #include <QtCore/QEvent>
-#include <QtGui/QAccessible>
 #include <QtGui/QShortcut>
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QHBoxLayout>
@@ -75,6 +75,7 @@ PresetBar::PresetBar(QWidget *parent)
     rows_->addWidget(makeRemovingRow());
     rows_->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     error_->setObjectName(QStringLiteral("presetError"));
+    pdekit::setAlertRole(error_);
     error_->setTextFormat(Qt::PlainText);
     error_->setWordWrap(true);
     auto *layout = new QVBoxLayout(this);
@@ -252,8 +253,7 @@ void PresetBar::showError(const QString &text)
     error_->setText(text);
     error_->setAccessibleName(text);
     error_->setVisible(true);
-    QAccessibleEvent alert(error_, QAccessible::Alert);
-    QAccessible::updateAccessibility(&alert);
+    pdekit::announce(error_);
     if (rows_->currentIndex() == Naming)
         name_->setFocus(Qt::OtherFocusReason);
 }

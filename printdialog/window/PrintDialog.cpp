@@ -3,7 +3,6 @@
 
 #include "PrintDialog.h"
 
-#include "AlertRole.h"
 #include "ChoiceController.h"
 #include "DialogSession.h"
 #include "EscapeGuard.h"
@@ -61,7 +60,6 @@ PrintDialog::PrintDialog(const PrintDialogSetup &setup, QWidget *parent)
     for (QPushButton *button : {ui_->save, ui_->cancel, ui_->print})
         buttons->addWidget(button);
     ui_->settingsSide->setReadableWidth(narrowestSettings, widestSettings);
-    installAlertRole();
     new EscapeGuard(this);
     ui_->panels->setReservedKeys(ChoiceController::offerTexts());
     for (const auto &[key, step] : {std::pair(QKeySequence(Qt::CTRL | Qt::Key_Tab), 1),

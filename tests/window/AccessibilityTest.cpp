@@ -12,6 +12,7 @@
 #include <QtDBus/QDBusPendingCallWatcher>
 #include <QtTest/QTest>
 #include <QtWidgets/QApplication>
+#include <QtWidgets/QMenu>
 #include <QtWidgets/QWidget>
 
 using namespace printdialog;
@@ -90,6 +91,7 @@ private Q_SLOTS:
     void initTestCase();
     void messagesAreAlerts();
     void refusalsAreAlerts();
+    void notesAreAlerts();
 
 private Q_SLOTS:
     void note(const QDBusMessage &event) { told_ += event.path(); }
@@ -217,6 +219,18 @@ void AccessibilityTest::refusalsAreAlerts()
     opened.click(u"matte"_s);
     QVERIFY(opened.dialog->message().contains(u"Matte"_s));
     QTRY_COMPARE(alerts(), QStringList{opened.dialog->message()});
+}
+
+// What stands beside a field.
+void AccessibilityTest::notesAreAlerts()
+{
+    const OpenedDialog opened(PanelMode::Constraint);
+    opened.type(81, u"99"_s);
+    QTRY_COMPARE(alerts(), QStringList{u"Enter a number from -25 to 25."_s});
+    opened.find<QMenu>(u"presetMenu"_s)->actions().at(1)->trigger(); // Save As
+    QTRY_COMPARE(alerts(), QStringList());
+    opened.click(u"presetAccept"_s);
+    QTRY_COMPARE(alerts().size(), 1);
 }
 
 int main(int argc, char *argv[])
