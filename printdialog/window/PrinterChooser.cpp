@@ -156,12 +156,9 @@ void PrinterChooser::endSearch()
     if (unconfirmed_ && failure_.isEmpty())
         forgetUnconfirmed();
     if (wanted_ && !isConfirmed())
-        Q_EMIT searchFailed(
-            failure_.isEmpty()
-                ? tr("There is no printer \"%1\". Choose another one, or see --list-printers for those that "
-                     "there are.")
-                      .arg(*wanted_)
-                : tr("The printer \"%1\" is not there. %2").arg(*wanted_, failure_));
+        Q_EMIT searchFailed(failure_.isEmpty()
+                                ? tr("There is no printer \"%1\". Choose another one.").arg(*wanted_)
+                                : tr("The printer \"%1\" is not there. %2").arg(*wanted_, failure_));
     else if (!failure_.isEmpty() && (isAway || !(isSettled_ || finder_->isWithoutPrintServer())))
         Q_EMIT searchFailed(failure_);
     isSettled_ = isSettled_ || currentIndex() >= 0;

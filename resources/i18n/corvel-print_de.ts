@@ -1942,8 +1942,8 @@ Beispiele:
         <translation>Der Drucker „%1“ ist nicht mehr da. Wählen Sie einen anderen.</translation>
     </message>
     <message>
-        <source>There is no printer &quot;%1&quot;. Choose another one, or see --list-printers for those that there are.</source>
-        <translation>Es gibt keinen Drucker „%1“. Wählen Sie einen anderen; --list-printers zeigt die vorhandenen.</translation>
+        <source>There is no printer &quot;%1&quot;. Choose another one.</source>
+        <translation>Es gibt keinen Drucker „%1“. Wählen Sie einen anderen.</translation>
     </message>
     <message>
         <source>The printer &quot;%1&quot; is not there. %2</source>

@@ -1940,8 +1940,8 @@ Ejemplos:
         <translation>La impresora «%1» ya no está. Elija otra.</translation>
     </message>
     <message>
-        <source>There is no printer &quot;%1&quot;. Choose another one, or see --list-printers for those that there are.</source>
-        <translation>No hay ninguna impresora «%1». Elija otra; --list-printers muestra las que hay.</translation>
+        <source>There is no printer &quot;%1&quot;. Choose another one.</source>
+        <translation>No hay ninguna impresora «%1». Elija otra.</translation>
     </message>
     <message>
         <source>The printer &quot;%1&quot; is not there. %2</source>

@@ -1941,8 +1941,8 @@ Exemples&#x202f;:
         <translation>L’imprimante «&#x202f;%1&#x202f;» n’est plus là. Choisissez-en une autre.</translation>
     </message>
     <message>
-        <source>There is no printer &quot;%1&quot;. Choose another one, or see --list-printers for those that there are.</source>
-        <translation>Il n’y a pas d’imprimante «&#x202f;%1&#x202f;». Choisissez-en une autre&#x202f;; --list-printers indique celles qui existent.</translation>
+        <source>There is no printer &quot;%1&quot;. Choose another one.</source>
+        <translation>Il n’y a pas d’imprimante «&#x202f;%1&#x202f;». Choisissez-en une autre.</translation>
     </message>
     <message>
         <source>The printer &quot;%1&quot; is not there. %2</source>

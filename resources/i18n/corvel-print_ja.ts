@@ -1937,8 +1937,8 @@ Examples:
         <translation>プリンター「%1」がなくなりました。別のプリンターを選んでください。</translation>
     </message>
     <message>
-        <source>There is no printer &quot;%1&quot;. Choose another one, or see --list-printers for those that there are.</source>
-        <translation>プリンター「%1」はありません。別のプリンターを選んでください。使えるプリンターは --list-printers で確認できます。</translation>
+        <source>There is no printer &quot;%1&quot;. Choose another one.</source>
+        <translation>プリンター「%1」はありません。別のプリンターを選んでください。</translation>
     </message>
     <message>
         <source>The printer &quot;%1&quot; is not there. %2</source>

@@ -69,6 +69,7 @@ void MissingPrinterTest::defaultThatIsNotThere()
     opened.dialog->searchPrinters();
     QTRY_VERIFY2(opened.dialog->message().contains(reason), qPrintable(opened.dialog->message()));
     QVERIFY2(opened.dialog->message().contains(u"\"mine\""_s), qPrintable(opened.dialog->message()));
+    QVERIFY(!opened.dialog->message().contains(u"--"_s)); // no options of the command line
     auto *chooser = opened.find<QComboBox>(u"printer"_s);
     QCOMPARE(chooser->currentIndex(), -1);
     QCOMPARE(chooser->placeholderText(), u"mine"_s);
