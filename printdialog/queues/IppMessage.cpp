@@ -3,6 +3,8 @@
 
 #include "IppMessage.h"
 
+#include <algorithm>
+
 namespace printdialog {
 
 IppPointer ippRequest(ipp_op_t operation, const QByteArray &uri)
@@ -17,7 +19,7 @@ QStringList textsOf(ipp_t *answer, const char *attribute)
 {
     QStringList texts;
     ipp_attribute_t *found = ippFindAttribute(answer, attribute, IPP_TAG_ZERO);
-    for (int i = 0; found && i < ippGetCount(found); ++i) {
+    for (int i = 0; found && i < std::min(ippGetCount(found), mostValues); ++i) {
         if (const char *text = ippGetString(found, i, nullptr))
             texts.append(QString::fromUtf8(text));
     }

@@ -22,7 +22,11 @@ using IppPointer = std::unique_ptr<ipp_t, IppDeleter>;
 /// @param uri of the queue, or of the server ("ipp://localhost/")
 IppPointer ippRequest(ipp_op_t operation, const QByteArray &uri);
 
-/// The values of an attribute as texts, as the server sends them; none when it has no such attribute.
+/// How many values of an attribute are read: nobody looks at more, and a server may send any number.
+constexpr int mostValues = 100;
+
+/// The values of an attribute as texts, as the server sends them; none when it has no such attribute. At most
+/// mostValues.
 QStringList textsOf(ipp_t *answer, const char *attribute);
 
 /// The first of them, byte for byte; empty when there is none.

@@ -6,9 +6,8 @@
 #include "BoundedWorker.h"
 #include "QueueList.h"
 
+#include <QtCore/QHash>
 #include <QtCore/QPointer>
-
-#include <algorithm>
 
 using namespace std::chrono_literals;
 
@@ -22,11 +21,13 @@ constexpr auto firstLookLimit = 8s;
 /// Long enough for an idle worker to end in an orderly way, too short to be felt.
 constexpr auto endPatience = 50ms;
 
-auto withId(const QString &id)
+/// To be looked up: a server may have thousands.
+QHash<QString, Queue> byId(const QList<Queue> &queues)
 {
-    return [id](const Queue &queue) {
-        return queue.id() == id;
-    };
+    QHash<QString, Queue> found;
+    for (const Queue &queue : queues)
+        found.insert(queue.id(), queue);
+    return found;
 }
 
 } // namespace
@@ -91,14 +92,17 @@ void QueueFinder::takeQueues(const QList<Queue> &queues)
         return self && worker_ == worker;
     };
     const QList<Queue> before = std::exchange(queues_, queues);
+    const QHash<QString, Queue> earlier = byId(before);
+    const QHash<QString, Queue> later = byId(queues);
     lastFailure_.clear();
     isWithoutPrintServer_ = false;
     for (const Queue &queue : before) {
-        if (isCurrent() && std::none_of(queues.cbegin(), queues.cend(), withId(queue.id())))
+        if (isCurrent() && !later.contains(queue.id()))
             Q_EMIT queueRemoved(queue.id());
     }
     for (const Queue &queue : queues) {
-        if (isCurrent() && !before.contains(queue))
+        const auto known = earlier.constFind(queue.id());
+        if (isCurrent() && (known == earlier.cend() || *known != queue))
             Q_EMIT queueFound(queue);
     }
     if (isCurrent())

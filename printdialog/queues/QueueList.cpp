@@ -11,6 +11,7 @@
 #include "UserDestinations.h"
 
 #include <QtCore/QHash>
+#include <QtCore/QSet>
 
 #include <algorithm>
 #include <array>
@@ -29,7 +30,7 @@ public:
     {
         QStringList texts;
         ipp_attribute_t *attribute = attributes_.value(name);
-        for (int i = 0; attribute && i < ippGetCount(attribute); ++i)
+        for (int i = 0; attribute && i < std::min(ippGetCount(attribute), mostValues); ++i)
             texts.append(plainText(QString::fromUtf8(ippGetString(attribute, i, nullptr)).simplified(),
                                    shownTextLimit));
         return texts;
@@ -41,7 +42,7 @@ public:
     {
         QStringList names;
         ipp_attribute_t *attribute = attributes_.value(attributeName);
-        for (int i = 0; attribute && i < ippGetCount(attribute); ++i) {
+        for (int i = 0; attribute && i < std::min(ippGetCount(attribute), mostValues); ++i) {
             const QByteArray bytes(ippGetString(attribute, i, nullptr));
             const QString name = QString::fromUtf8(bytes);
             if (isQueueName(name) && name.toUtf8() == bytes)
@@ -141,11 +142,14 @@ Queue queueOf(const QueueAttributes &attributes)
 QList<Queue> queuesIn(ipp_t *answer)
 {
     QList<Queue> queues;
+    QSet<QString> names;
     QueueAttributes attributes;
     const auto take = [&] {
         const Queue queue = queueOf(std::exchange(attributes, {}));
-        if (!queue.name.isEmpty() && queues.size() < mostQueues)
-            queues.append(queue);
+        if (queue.name.isEmpty() || queues.size() >= mostQueues || names.contains(queue.name))
+            return;
+        names.insert(queue.name);
+        queues.append(queue);
     };
     for (ipp_attribute_t *attribute = ippFirstAttribute(answer); attribute;
          attribute = ippNextAttribute(answer)) {

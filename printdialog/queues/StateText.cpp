@@ -127,7 +127,7 @@ QString reasonsText(const QStringList &keywords)
         if (const QString text = reasonText(keyword); !text.isEmpty() && !texts.contains(text))
             texts.append(text);
     }
-    return texts.join(QLatin1String(", "));
+    return plainText(texts.join(QLatin1String(", ")), shownTextLimit);
 }
 
 QString stateWord(const Queue &queue)

@@ -3,6 +3,7 @@
 
 #include "PrinterStatus.h"
 
+#include "PlainText.h"
 #include "StateText.h"
 
 namespace printdialog {
@@ -23,6 +24,8 @@ void PrinterStatus::show(const Queue &queue)
     if (queue.isClass && !queue.members.isEmpty())
         lines.append(tr("One of %1; its options are those of the first.")
                          .arg(queue.members.join(QLatin1String(", "))));
+    for (QString &line : lines)
+        line = plainText(line, shownTextLimit);
     setText(lines.join(u'\n'));
     setVisible(!queue.isBuiltIn);
 }

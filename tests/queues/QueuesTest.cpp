@@ -7,6 +7,7 @@
 #include "PpdFetcher.h"
 #include "QueueFinder.h"
 #include "QueueList.h"
+#include "StateText.h"
 #include "StubServer.h"
 
 #include <QtCore/QElapsedTimer>
@@ -68,6 +69,7 @@ private Q_SLOTS:
     void hostileAnswersCostLittle_data();
     void hostileAnswersCostLittle();
     void answersThatMakeNoSense();
+    void answersThatAreLongCostLittleTime();
     void finderNeverBlocks_data();
     void finderNeverBlocks();
     void onlyTheLatestFetchIsAnnounced();
@@ -266,6 +268,36 @@ void QueuesTest::answersThatMakeNoSense()
     const auto opened = queueNamed(u"photo"_s, 5s);
     QVERIFY(!opened);
     QVERIFY2(opened.failure().text.contains(u"Found"_s), qPrintable(opened.failure().text));
+}
+
+// On the thread that shows them.
+void QueuesTest::answersThatAreLongCostLittleTime()
+{
+    const auto timeHere = [] {
+        timespec time = {};
+        clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
+        return std::chrono::seconds(time.tv_sec) + std::chrono::nanoseconds(time.tv_nsec);
+    };
+    {
+        const StubServer server(StubServer::Manner::ManyReasons);
+        const auto queues = listQueues(10s);
+        QVERIFY2(queues, queues ? "" : qPrintable(queues.failure().text));
+        const auto start = timeHere();
+        const QString text = stateText(queues->at(0));
+        QVERIFY(timeHere() - start < 100ms);
+        QVERIFY2(text.contains(u"17, 18, 19"_s) && text.size() < 400, qPrintable(text.left(400)));
+    }
+    const StubServer server(StubServer::Manner::ManyQueues);
+    QueueFinder finder(nullptr, 10ms);
+    int found = 0;
+    connect(&finder, &QueueFinder::queueFound, this, [&found] { ++found; });
+    const auto start = timeHere();
+    finder.start();
+    QTRY_COMPARE_WITH_TIMEOUT(found, 10000, 10000);
+    QTest::qWait(1000); // it looks again
+    finder.stop();
+    QVERIFY(timeHere() - start < 1s);
+    QCOMPARE(found, 10000);
 }
 
 void QueuesTest::finderNeverBlocks_data()

@@ -231,6 +231,17 @@ void StubServer::misbehave(int client)
         put(client, chunked + chunk(successfulHead + endOfAttributes));
         repeat(client, block(chunk(QByteArray(mebibyte, 'x'))), endless);
         break;
+    case Manner::ManyReasons:
+    case Manner::ManyQueues: {
+        const bool isQueues = manner_ == Manner::ManyQueues;
+        QByteArray answer = successfulHead + '\x04' + attribute(0x42, "printer-name", "photo") +
+                            attribute(0x44, "printer-state-reasons", "none");
+        for (int i = 0; i < (isQueues ? 10000 : 40000); ++i)
+            answer += isQueues ? '\x04' + attribute(0x42, "printer-name", QByteArray::number(i))
+                               : attribute(0x44, {}, QByteArray::number(i));
+        put(client, whole(answer + endOfAttributes));
+        break;
+    }
     case Manner::JobBelowZero:
         put(client,
             whole(successfulHead + '\x02' + attribute(0x21, "job-id", "\xff\xff\xff\xff") + endOfAttributes));

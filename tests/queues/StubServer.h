@@ -37,6 +37,8 @@ public:
         EndlessContinues, ///< Says without end that it goes on.
         EndlessChunks,    ///< A whole answer, and then chunks without end.
 
+        ManyReasons,  ///< A printer in 40,000 sorts of trouble.
+        ManyQueues,   ///< 10,000 of them.
         JobBelowZero, ///< Gives every job the number -1.
         OddNames      ///< Has the queues "good", "go\tod", "a/b" and one with a name that is not UTF-8.
     };
