@@ -34,8 +34,9 @@ struct OptionRow
 constexpr std::array optionRows = {
     OptionRow{"d,printer", "QUEUE",
               QT_TRANSLATE_NOOP("CommandLine",
-                                "a print queue, queue/preset, or \"built-in\" for the built-in printer;\n"
-                                "otherwise your default queue, or else the built-in printer")},
+                                "a print queue, or \"built-in\" for the built-in printer; with a preset\n"
+                                "of it: QUEUE/PRESET. Otherwise your default queue, or else the\n"
+                                "built-in printer")},
     OptionRow{"ppd", "FILE",
               QT_TRANSLATE_NOOP("CommandLine", "the built-in printer, with this PPD instead of its own")},
     OptionRow{"mode", "constraint|settings",
@@ -392,7 +393,7 @@ QString CommandLine::outputFolder() const
 
 bool CommandLine::asksForBuiltInPrinter() const
 {
-    return printer == Queue::builtIn().name;
+    return printer && Queue::isBuiltInId(*printer);
 }
 
 } // namespace printdialog

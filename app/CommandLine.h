@@ -44,7 +44,7 @@ struct RequestedChoice
 struct CommandLine
 {
     QStringList photos;             ///< paths, also of those that are given as file URLs
-    std::optional<QString> printer; ///< a queue's id, or the built-in printer's name
+    std::optional<QString> printer; ///< a queue's name, or the built-in printer's, or "name/preset"
     std::optional<QString> ppd;     ///< a file, for the built-in printer
     PanelMode mode = PanelMode::Constraint;
     QList<RequestedChoice> options; ///< in the order given

@@ -36,11 +36,11 @@ Result<QList<Queue>, QueueFault> allPrinters(const CommandLine &commandLine)
     const std::optional<QString> chosen = UserDestinations::read().defaultPrinter;
     Queue builtIn = Queue::builtIn();
     const auto found = listQueues(listPatience);
-    const bool needsServer = commandLine.server || (chosen && chosen != builtIn.id());
+    const bool needsServer = commandLine.server || (chosen && !Queue::isBuiltInId(*chosen));
     if (!found && (needsServer || !isWithoutPrintServer(found.failure())))
         return found.failure();
     QList<Queue> queues = found ? *found : QList<Queue>();
-    builtIn.isDefault = chosen ? chosen == builtIn.id() : !defaultQueue(queues);
+    builtIn.isDefault = chosen ? Queue::isBuiltInId(*chosen) : !defaultQueue(queues);
     queues.prepend(builtIn);
     return queues;
 }

@@ -62,19 +62,28 @@ RequestedSessionResult openDefaultQueue(const QString &id, PanelMode mode)
                        .arg(session.failure().text));
 }
 
-/// Makes the choices of the preset that the printer's name names. Empty, or why they cannot be had.
-QString usePreset(RequestedJob &job)
+/// The "printer" or "printer/preset" that is asked for by its name or as the user's default.
+std::optional<QString> destinationOf(const CommandLine &commandLine)
+{
+    if (commandLine.printer || commandLine.ppd)
+        return commandLine.printer;
+    return UserDestinations::read().defaultPrinter;
+}
+
+/// Makes the choices of the preset that the destination names. Empty, or why they cannot be had.
+QString usePreset(RequestedJob &job, const QString &destination)
 {
     const PrinterDescription &printer = job.session->printer();
-    const QString instance = printer.isBuiltIn ? QString() : printer.name.section(u'/', 1);
-    if (instance.isEmpty())
+    const QString queue = printer.name.section(u'/', 0, 0);
+    const QString name = (printer.isBuiltIn ? destination : printer.name).section(u'/', 1);
+    if (name.isEmpty())
         return {};
-    const auto presets = PresetStore::open(printer.name.section(u'/', 0, 0), false)->presets();
+    const auto presets = PresetStore::open(queue, printer.isBuiltIn)->presets();
     if (!presets)
         return presets.failure().text;
-    const Preset *preset = PresetStore::findInstance(*presets, instance);
+    const Preset *preset = PresetStore::findInstance(*presets, name);
     if (!preset)
-        return {};
+        return PresetStore::missing(queue, name, *presets);
     const UsedChoices used = printdialog::usePreset(*job.session, *preset);
     job.copies = used.copies.value_or(1);
     QStringList sentences;
@@ -93,8 +102,8 @@ RequestedSessionResult openRequestedPrinter(const CommandLine &commandLine)
         return orSentence(openBuiltInPrinter(commandLine.ppd, commandLine.mode));
     if (commandLine.printer)
         return openQueueNamed(PresetStore::destination(*commandLine.printer), commandLine.mode);
-    if (const std::optional<QString> id = UserDestinations::read().defaultPrinter) {
-        if (id == Queue::builtIn().id())
+    if (const std::optional<QString> id = destinationOf(commandLine)) {
+        if (Queue::isBuiltInId(*id))
             return orSentence(openBuiltInPrinter(std::nullopt, commandLine.mode));
         return openDefaultQueue(*id, commandLine.mode);
     }
@@ -125,7 +134,8 @@ Result<RequestedJob, std::monostate> openRequestedJob(const CommandLine &command
             Text::tr("The printer \"%1\" has no PPD file and so no option %2; leave it out, or set "
                      "the printer up with its driver.")
                 .arg(printer.name, commandLine.options.constFirst().key));
-    if (const QString failure = usePreset(job); !failure.isEmpty())
+    if (const QString failure = usePreset(job, destinationOf(commandLine).value_or(QString()));
+        !failure.isEmpty())
         return refusal(failure);
     job.copies = commandLine.copies.value_or(job.copies);
     for (const RequestedChoice &requested : commandLine.options) {

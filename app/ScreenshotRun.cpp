@@ -102,7 +102,8 @@ int runScreenshot(const CommandLine &commandLine, QApplication &application)
     if (!requested)
         return endWith(requested.failure().text);
     const QString printer = requested->session->printer().name;
-    setup.printer = printer;
+    if (!commandLine.asksForBuiltInPrinter()) // which may be with a preset
+        setup.printer = printer;
     setup.remembers = false;
     const QDir folder(*commandLine.screenshot);
     if (!folder.mkpath(QStringLiteral(".")))

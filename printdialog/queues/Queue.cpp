@@ -23,4 +23,9 @@ Queue Queue::builtIn()
     return queue;
 }
 
+bool Queue::isBuiltInId(const QString &id)
+{
+    return id.section(u'/', 0, 0) == builtIn().name;
+}
+
 } // namespace printdialog

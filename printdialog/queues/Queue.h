@@ -51,6 +51,8 @@ struct Queue
 
     /// The printer that needs no server: it leaves its jobs as files.
     static Queue builtIn();
+    /// Whether the id is its own, or "built-in/preset", which asks for one of its presets as well.
+    static bool isBuiltInId(const QString &id);
 
     friend bool operator==(const Queue &, const Queue &) = default;
 };

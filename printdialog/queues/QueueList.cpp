@@ -221,8 +221,6 @@ Result<OpenedQueue, QueueFault> openHere(const QString &id, std::chrono::millise
     const auto record = queueRecord(connection, id);
     if (!record)
         return record.failure();
-    if (!record->instance.isEmpty() && !UserDestinations::read().instances.contains(id))
-        return queueFailure(QueueFault::NotFound, id);
     IppPointer request = ippRequest(IPP_OP_GET_PRINTER_ATTRIBUTES, record->uri);
     ippAddStrings(request.get(), IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes",
                   static_cast<int>(wantedAttributes.size()), nullptr, wantedAttributes.data());

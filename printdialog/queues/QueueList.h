@@ -31,7 +31,8 @@ struct OpenedQueue
     QByteArray ppd;      ///< Untrusted, unparsed.
 };
 
-/// Asks for one queue and its PPD without listing the others. Blocks, at most for the limit. Failures: those
+/// Asks for one queue and its PPD without listing the others. Of an instance nothing is asked: it is the
+/// user's own. Blocks, at most for the limit. Failures: those
 /// of QueueFault but NoPpd.
 Result<OpenedQueue, QueueFault> queueNamed(const QString &id, std::chrono::milliseconds limit);
 

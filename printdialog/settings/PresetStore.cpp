@@ -4,6 +4,7 @@
 #include "PresetStore.h"
 
 #include "BuiltInPresets.h"
+#include "PlainText.h"
 #include "PresetName.h"
 #include "QueuePresets.h"
 #include "StoredChoices.h"
@@ -69,6 +70,28 @@ const Preset *PresetStore::findInstance(const Presets &presets, const QString &t
     const auto found = std::ranges::find_if(
         presets, [&text](const Preset &preset) { return PresetName::areSame(preset.instance, text); });
     return found == presets.end() ? find(presets, text) : &*found;
+}
+
+QString PresetStore::missing(const QString &printer, const QString &name, const Presets &presets)
+{
+    constexpr qsizetype few = 5;
+    constexpr qsizetype longestName = 128;
+    QStringList others;
+    for (const Preset &preset : presets.first(std::min(presets.size(), few)))
+        others += u'"' + plainText(preset.name, longestName) + u'"';
+    const QString shownPrinter = plainText(printer, longestName);
+    const QString shownName = plainText(name, longestName);
+    if (presets.isEmpty())
+        return tr("The printer \"%1\" has no preset \"%2\", nor any other. Choose the printer without a "
+                  "preset.")
+            .arg(shownPrinter, shownName);
+    if (presets.size() > few)
+        return tr("The printer \"%1\" has no preset \"%2\". Choose one of its %3 others, or the printer "
+                  "without a preset.")
+            .arg(shownPrinter, shownName, QString::number(presets.size()));
+    return tr("The printer \"%1\" has no preset \"%2\". Its presets: %3. Choose one of them, or the printer "
+              "without a preset.")
+        .arg(shownPrinter, shownName, others.join(QLatin1String(", ")));
 }
 
 QString PresetStore::destination(const QString &typed)

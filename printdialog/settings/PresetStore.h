@@ -47,6 +47,8 @@ public:
     static const Preset *find(const Presets &presets, const QString &name);
     /// The preset that "queue/preset" means: that of the instance, or else that of the name.
     static const Preset *findInstance(const Presets &presets, const QString &text);
+    /// Says for people that the printer has no preset of the name, and which ones it has if they are few.
+    static QString missing(const QString &printer, const QString &name, const Presets &presets);
     /// "queue/preset" as CUPS calls it when the preset is given by its name. Anything else stays as it is.
     static QString destination(const QString &typed);
 

@@ -53,7 +53,8 @@ public:
     /// Takes up a session, whose panels are loaded and not shown yet, which must outlive this or the next
     /// call: makes the choices of the preset that the printer's name has in it, or else those last used with
     /// the printer. Null: none.
-    void setSession(DialogSession *session);
+    /// @param builtInPreset the built-in printer's preset, whose name is not in the printer's
+    void setSession(DialogSession *session, const QString &builtInPreset = {});
     /// The session is as the dialog opens with it.
     void start();
 
@@ -94,6 +95,7 @@ private:
     // Presets
     void makePresetActions();
     void loadPresets();
+    bool openWithPreset(const QString &instance);
     void usePreset(const QString &name);
     QStringList restorePreset(const QString &name);
     void addPreset(const QString &typed);

@@ -29,22 +29,9 @@ QString queueOf(const PrinterDescription &printer)
     return printer.isBuiltIn ? printer.name : printer.name.section(u'/', 0, 0);
 }
 
-QString presetOf(const PrinterDescription &printer)
-{
-    return printer.isBuiltIn ? QString() : printer.name.section(u'/', 1);
-}
-
-/// The name that people know the preset by.
-QString nameOf(const PresetStore &store, const QString &instance)
-{
-    const auto presets = store.presets();
-    const Preset *preset = presets ? PresetStore::findInstance(*presets, instance) : nullptr;
-    return preset ? preset->name : PresetName::ofInstance(instance);
-}
-
 } // namespace
 
-void ChoiceController::setSession(DialogSession *session)
+void ChoiceController::setSession(DialogSession *session, const QString &builtInPreset)
 {
     callout_->dismiss();
     pending_.reset();
@@ -64,13 +51,26 @@ void ChoiceController::setSession(DialogSession *session)
     const QString queue = queueOf(session->printer());
     store_ = PresetStore::open(queue, session->printer().isBuiltIn);
     loadPresets();
-    if (const QString instance = presetOf(session->printer()); !instance.isEmpty()) {
-        usePreset(nameOf(*store_, instance));
+    if (openWithPreset(session->printer().isBuiltIn ? builtInPreset
+                                                    : session->printer().name.section(u'/', 1)))
         return;
-    }
     const UsedChoices last = useChoices(*session, QueueSettings::load(queue));
     setCopies(last.copies.value_or(1));
     sayLeftOut(tr("Of the choices used last, some are left out:"), last.leftOut);
+}
+
+/// Whether there is such a preset, in use now. Where one that was asked for is missing, the user is told.
+bool ChoiceController::openWithPreset(const QString &instance)
+{
+    const auto presets = store_->presets();
+    if (instance.isEmpty() || !presets) // the failure is shown
+        return false;
+    const Preset *preset = PresetStore::findInstance(*presets, instance);
+    if (preset)
+        usePreset(preset->name);
+    else
+        widgets_.presets->showError(PresetStore::missing(queueOf(session_->printer()), instance, *presets));
+    return preset != nullptr;
 }
 
 QString ChoiceController::keep(const QMap<QString, QString> &options)

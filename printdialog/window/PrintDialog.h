@@ -38,7 +38,7 @@ struct PrintDialogSetup
     QList<Photo> photos;
     QStringList photoFailures; ///< a sentence for each photo that could not be opened
     PanelMode mode = PanelMode::Constraint;
-    std::optional<QString> printer;         ///< a queue's id; without it the default
+    std::optional<QString> printer;         ///< a queue's id or "built-in/preset"; without it the default
     std::optional<QString> ppdFile;         ///< for the built-in printer, instead of its own
     QList<QPair<QString, QString>> options; ///< choices to begin with, in order
     std::optional<int> copies;              ///< to begin with
@@ -141,6 +141,7 @@ private:
     ChoiceController *choices_;
     PpdFetcher *fetcher_;
     PrintWorker *worker_;
+    QString builtInPreset_;     ///< the built-in printer is asked for with it; mostly empty
     Queue queue_;               ///< the printer that is shown
     bool isRemembered_ = false; ///< it comes from an earlier time, and the print server has not confirmed it
     bool wasChosen_ = false;    ///< by the user, this time or an earlier one

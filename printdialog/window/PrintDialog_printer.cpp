@@ -38,13 +38,15 @@ QMap<QString, QString> ownChoices(DialogSession &session)
 /// one that is named. What the user has chosen comes before a default.
 std::optional<RememberedQueue> PrintDialog::firstPrinter()
 {
-    if (setup_.ppdFile)
-        return std::nullopt;
     std::optional<RememberedQueue> remembered;
-    if (setup_.remembers)
+    if (setup_.remembers && !setup_.ppdFile)
         remembered = QueueCache::load();
-    if (!setup_.printer && !(remembered && remembered->wasChosen))
+    if (!setup_.printer && !setup_.ppdFile && !(remembered && remembered->wasChosen))
         setup_.printer = UserDestinations::read().defaultPrinter;
+    if (setup_.printer && Queue::isBuiltInId(*setup_.printer)) {
+        builtInPreset_ = setup_.printer->section(u'/', 1);
+        setup_.printer = Queue::builtIn().id();
+    }
     if (remembered && setup_.printer && *setup_.printer != remembered->queue.id())
         remembered.reset();
     return remembered;
@@ -262,7 +264,7 @@ void PrintDialog::takeSession(std::unique_ptr<DialogSession> session)
             showPageSize();
     });
     const auto noPanels = session_->loadPanels();
-    choices_->setSession(session_.get());
+    choices_->setSession(session_.get(), ui_->printer->wasChosenByUser() ? QString() : builtInPreset_);
     if (applyOptions())
         session_->refreshPanels();
     fillPageSizes();

@@ -4,6 +4,7 @@
 #include "PrinterChooser.h"
 
 #include "PresetName.h"
+#include "PresetStore.h"
 #include "QueueFinder.h"
 
 namespace printdialog {
@@ -149,6 +150,18 @@ void PrinterChooser::remove(const QString &id)
         Q_EMIT currentRemoved(tr("The printer \"%1\" is no longer there. Choose another one.").arg(id));
 }
 
+/// Says which of the two there is not: the printer, or its preset.
+QString PrinterChooser::missing(const QString &id) const
+{
+    const QString queue = id.section(u'/', 0, 0);
+    const QString preset = id.section(u'/', 1);
+    if (!preset.isEmpty() && indexOf(queue) >= 0) {
+        const auto presets = PresetStore::open(queue, false)->presets();
+        return presets ? PresetStore::missing(queue, preset, *presets) : presets.failure().text;
+    }
+    return tr("There is no printer \"%1\". Choose another one.").arg(id);
+}
+
 // The finder goes on looking: once there is a server again it may have the queue.
 void PrinterChooser::endSearch()
 {
@@ -157,7 +170,7 @@ void PrinterChooser::endSearch()
         forgetUnconfirmed();
     if (wanted_ && !isConfirmed())
         Q_EMIT searchFailed(failure_.isEmpty()
-                                ? tr("There is no printer \"%1\". Choose another one.").arg(*wanted_)
+                                ? missing(*wanted_)
                                 : tr("The printer \"%1\" is not there. %2").arg(*wanted_, failure_));
     else if (!failure_.isEmpty() && (isAway || !(isSettled_ || finder_->isWithoutPrintServer())))
         Q_EMIT searchFailed(failure_);

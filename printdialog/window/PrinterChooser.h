@@ -61,6 +61,7 @@ private:
     void remove(const QString &id);
     void drop(int index);
     void forgetUnconfirmed();
+    QString missing(const QString &id) const;
     void endSearch();
     void choose(int index);
     int indexOf(const QString &id) const { return indexes_.value(id, -1); }

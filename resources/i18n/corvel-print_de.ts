@@ -66,11 +66,12 @@
 <context>
     <name>CommandLine</name>
     <message>
-        <source>a print queue, queue/preset, or &quot;built-in&quot; for the built-in printer;
-otherwise your default queue, or else the built-in printer</source>
-        <translation>eine Druckerwarteschlange, auch Warteschlange/Voreinstellung,
-oder „built-in“ für den eingebauten Drucker;
-sonst Ihre Standardwarteschlange oder der eingebaute</translation>
+        <source>a print queue, or &quot;built-in&quot; for the built-in printer; with a preset
+of it: QUEUE/PRESET. Otherwise your default queue, or else the
+built-in printer</source>
+        <translation>eine Druckerwarteschlange oder „built-in“ für den eingebauten Drucker;
+mit einer Voreinstellung davon: QUEUE/VOREINSTELLUNG. Sonst Ihre
+Standardwarteschlange oder der eingebaute Drucker</translation>
     </message>
     <message>
         <source>the built-in printer, with this PPD instead of its own</source>
@@ -1746,6 +1747,18 @@ Beispiele:
 </context>
 <context>
     <name>printdialog::PresetStore</name>
+    <message>
+        <source>The printer &quot;%1&quot; has no preset &quot;%2&quot;, nor any other. Choose the printer without a preset.</source>
+        <translation>Der Drucker „%1“ hat keine Voreinstellung „%2“ und auch keine andere. Wählen Sie den Drucker ohne Voreinstellung.</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; has no preset &quot;%2&quot;. Choose one of its %3 others, or the printer without a preset.</source>
+        <translation>Der Drucker „%1“ hat keine Voreinstellung „%2“. Wählen Sie eine seiner %3 anderen oder den Drucker ohne Voreinstellung.</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; has no preset &quot;%2&quot;. Its presets: %3. Choose one of them, or the printer without a preset.</source>
+        <translation>Der Drucker „%1“ hat keine Voreinstellung „%2“. Seine Voreinstellungen: %3. Wählen Sie eine davon oder den Drucker ohne Voreinstellung.</translation>
+    </message>
     <message>
         <source>There is a preset &quot;%1&quot; already. Choose another name.</source>
         <translation>Es gibt schon eine Voreinstellung „%1“. Wählen Sie einen anderen Namen.</translation>

@@ -66,10 +66,12 @@
 <context>
     <name>CommandLine</name>
     <message>
-        <source>a print queue, queue/preset, or &quot;built-in&quot; for the built-in printer;
-otherwise your default queue, or else the built-in printer</source>
-        <translation>una cola de impresión, cola/preajuste, o «built-in» para la impresora integrada;
-si no, su cola predeterminada o, si no hay, la integrada</translation>
+        <source>a print queue, or &quot;built-in&quot; for the built-in printer; with a preset
+of it: QUEUE/PRESET. Otherwise your default queue, or else the
+built-in printer</source>
+        <translation>una cola de impresión, o «built-in» para la impresora integrada; con
+un preajuste suyo: QUEUE/PREAJUSTE. Si no, su cola predeterminada o,
+si no hay, la integrada</translation>
     </message>
     <message>
         <source>the built-in printer, with this PPD instead of its own</source>
@@ -1744,6 +1746,18 @@ Ejemplos:
 </context>
 <context>
     <name>printdialog::PresetStore</name>
+    <message>
+        <source>The printer &quot;%1&quot; has no preset &quot;%2&quot;, nor any other. Choose the printer without a preset.</source>
+        <translation>La impresora «%1» no tiene ningún preajuste «%2», ni ningún otro. Elija la impresora sin preajuste.</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; has no preset &quot;%2&quot;. Choose one of its %3 others, or the printer without a preset.</source>
+        <translation>La impresora «%1» no tiene ningún preajuste «%2». Elija uno de sus otros %3, o la impresora sin preajuste.</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; has no preset &quot;%2&quot;. Its presets: %3. Choose one of them, or the printer without a preset.</source>
+        <translation>La impresora «%1» no tiene ningún preajuste «%2». Sus preajustes: %3. Elija uno de ellos, o la impresora sin preajuste.</translation>
+    </message>
     <message>
         <source>There is a preset &quot;%1&quot; already. Choose another name.</source>
         <translation>Ya hay un preajuste «%1». Elija otro nombre.</translation>

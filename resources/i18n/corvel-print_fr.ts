@@ -66,10 +66,12 @@
 <context>
     <name>CommandLine</name>
     <message>
-        <source>a print queue, queue/preset, or &quot;built-in&quot; for the built-in printer;
-otherwise your default queue, or else the built-in printer</source>
-        <translation>une file d’impression, file/préréglage, ou «&#x202f;built-in&#x202f;» pour l’imprimante intégrée&#x202f;;
-sinon votre file par défaut, ou à défaut l’imprimante intégrée</translation>
+        <source>a print queue, or &quot;built-in&quot; for the built-in printer; with a preset
+of it: QUEUE/PRESET. Otherwise your default queue, or else the
+built-in printer</source>
+        <translation>une file d’impression, ou «&#x202f;built-in&#x202f;» pour l’imprimante intégrée&#x202f;;
+avec un de ses préréglages&#x202f;: QUEUE/PRÉRÉGLAGE. Sinon votre file
+par défaut, ou à défaut l’imprimante intégrée</translation>
     </message>
     <message>
         <source>the built-in printer, with this PPD instead of its own</source>
@@ -1745,6 +1747,18 @@ Exemples&#x202f;:
 </context>
 <context>
     <name>printdialog::PresetStore</name>
+    <message>
+        <source>The printer &quot;%1&quot; has no preset &quot;%2&quot;, nor any other. Choose the printer without a preset.</source>
+        <translation>L’imprimante «&#x202f;%1&#x202f;» n’a pas de préréglage «&#x202f;%2&#x202f;», ni aucun autre. Choisissez l’imprimante sans préréglage.</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; has no preset &quot;%2&quot;. Choose one of its %3 others, or the printer without a preset.</source>
+        <translation>L’imprimante «&#x202f;%1&#x202f;» n’a pas de préréglage «&#x202f;%2&#x202f;». Choisissez l’un de ses %3 autres, ou l’imprimante sans préréglage.</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; has no preset &quot;%2&quot;. Its presets: %3. Choose one of them, or the printer without a preset.</source>
+        <translation>L’imprimante «&#x202f;%1&#x202f;» n’a pas de préréglage «&#x202f;%2&#x202f;». Ses préréglages&#x202f;: %3. Choisissez-en un, ou l’imprimante sans préréglage.</translation>
+    </message>
     <message>
         <source>There is a preset &quot;%1&quot; already. Choose another name.</source>
         <translation>Il existe déjà un préréglage «&#x202f;%1&#x202f;». Choisissez un autre nom.</translation>

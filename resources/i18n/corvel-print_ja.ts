@@ -66,10 +66,12 @@
 <context>
     <name>CommandLine</name>
     <message>
-        <source>a print queue, queue/preset, or &quot;built-in&quot; for the built-in printer;
-otherwise your default queue, or else the built-in printer</source>
-        <translation>印刷キュー、またはキュー/プリセット。内蔵プリンターは &quot;built-in&quot;。
-省略すると既定のキュー、なければ内蔵プリンター</translation>
+        <source>a print queue, or &quot;built-in&quot; for the built-in printer; with a preset
+of it: QUEUE/PRESET. Otherwise your default queue, or else the
+built-in printer</source>
+        <translation>印刷キュー。内蔵プリンターは &quot;built-in&quot;。プリセットを付けるには
+QUEUE/プリセット。省略すると既定のキュー、なければ
+内蔵プリンター</translation>
     </message>
     <message>
         <source>the built-in printer, with this PPD instead of its own</source>
@@ -1741,6 +1743,18 @@ Examples:
 </context>
 <context>
     <name>printdialog::PresetStore</name>
+    <message>
+        <source>The printer &quot;%1&quot; has no preset &quot;%2&quot;, nor any other. Choose the printer without a preset.</source>
+        <translation>プリンター「%1」にプリセット「%2」はなく、ほかのプリセットもありません。プリセットなしでプリンターを選んでください。</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; has no preset &quot;%2&quot;. Choose one of its %3 others, or the printer without a preset.</source>
+        <translation>プリンター「%1」にプリセット「%2」はありません。ほかの %3 個のどれかを選ぶか、プリセットなしでプリンターを選んでください。</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; has no preset &quot;%2&quot;. Its presets: %3. Choose one of them, or the printer without a preset.</source>
+        <translation>プリンター「%1」にプリセット「%2」はありません。あるプリセット: %3。そのどれかを選ぶか、プリセットなしでプリンターを選んでください。</translation>
+    </message>
     <message>
         <source>There is a preset &quot;%1&quot; already. Choose another name.</source>
         <translation>プリセット「%1」はすでにあります。別の名前を選んでください。</translation>

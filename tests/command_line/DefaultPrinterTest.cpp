@@ -30,6 +30,7 @@ private Q_SLOTS:
     void failsRatherThanPrintIntoFiles_data();
     void failsRatherThanPrintIntoFiles();
     void builtInPrinterOfAMachineWithoutServer();
+    void builtInPrinterWithAPreset();
 
 private:
     /// Makes the queue "mine" the user's default.
@@ -104,6 +105,21 @@ void DefaultPrinterTest::builtInPrinterOfAMachineWithoutServer()
         const QByteArray wrong =
             wrongInRefusal(runProgram(arguments, noServer, home_->path()), 1, {u"print server is running"_s});
         QVERIFY2(wrong.isEmpty(), wrong.constData());
+    }
+}
+
+void DefaultPrinterTest::builtInPrinterWithAPreset()
+{
+    const QString folder = u".config/corvel-print/presets"_s;
+    QVERIFY(QDir(home_->path()).mkpath(folder));
+    QVERIFY(store(home_->filePath(folder + u"/built-in.json"_s),
+                  R"({"version": 1, "presets": {"10 / 15": {"Red": "7", "copies": "3"}}})"));
+    const QString name = u"built-in/10 / 15"_s;
+    for (const bool isDefault : {false, true}) {
+        const ProgramRun run =
+            isDefault ? runProgram({u"--summary"_s}, {{u"LPDEST"_s, name}, {u"XDG_CONFIG_HOME"_s, {}}})
+                      : runProgram({u"--summary"_s, u"--printer"_s, name}, {{u"XDG_CONFIG_HOME"_s, {}}});
+        QVERIFY2(run.out.contains("\nRed: 7\n") && run.out.contains("\nCopies: 3\n"), run.err.constData());
     }
 }
 

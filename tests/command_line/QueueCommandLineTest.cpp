@@ -137,7 +137,17 @@ void QueueCommandLineTest::refusesQueues_data()
     QTest::addColumn<QString>("option");
     QTest::addColumn<QString>("word");
     QTest::newRow("unknown") << u"nowhere"_s << u"Red=12"_s << u"does not exist"_s;
-    QTest::newRow("unknown instance") << u"photo/matte"_s << u"Red=12"_s << u"\"photo/matte\""_s;
+    QTest::newRow("unknown with a preset")
+        << u"nowhere/matte"_s << u"Red=12"_s << u"\"nowhere/matte\" does not exist"_s;
+    QTest::newRow("unknown preset") << u"photo/matte"_s << u"Red=12"_s
+                                    << u"\"photo\" has no preset \"matte\". Its presets: \"My own\"."_s;
+    QTest::newRow("unknown preset, and no other")
+        << u"odd/two sided"_s << u"Red=12"_s << u"\"odd\" has no preset \"two sided\", nor any other"_s;
+    QTest::newRow("unknown preset of many")
+        << u"group/matte"_s << u"Red=12"_s
+        << u"\"group\" has no preset \"matte\". Choose one of its 6 others"_s;
+    QTest::newRow("unknown preset of the built-in printer")
+        << u"built-in/matte"_s << u"Red=12"_s << u"\"built-in\" has no preset \"matte\", nor any other"_s;
     QTest::newRow("without a PPD") << u"raw"_s << u"Red=12"_s << u"PPD"_s;
     QTest::newRow("rejects jobs") << u"closed"_s << u"Red=12"_s << u"does not accept"_s;
     QTest::newRow("choice") << u"photo"_s << u"Red=99"_s << u"-25 to 25"_s;
@@ -148,8 +158,13 @@ void QueueCommandLineTest::refusesQueues()
     QFETCH(QString, queue);
     QFETCH(QString, option);
     QFETCH(QString, word);
+    QByteArray presets = "Dest photo/My%20own Red=1\n";
+    for (int i = 0; i < 6; ++i)
+        presets += "Dest group/" + QByteArray::number(i) + " Red=1\n";
+    QVERIFY(QDir(home_.path()).mkpath(u".cups"_s) && store(home_.filePath(u".cups/lpoptions"_s), presets));
     const ProgramRun run =
         runProgram({u"--printer"_s, queue, u"--batch"_s, u"-o"_s, option, samplePhoto}, {}, home_.path());
+    QVERIFY(QFile::remove(home_.filePath(u".cups/lpoptions"_s)));
     const QByteArray wrong = wrongInRefusal(run, 1, {word});
     QVERIFY2(wrong.isEmpty(), wrong.constData());
     QVERIFY2(cupsd_.activeJobs().isEmpty(), cupsd_.activeJobs().constData());

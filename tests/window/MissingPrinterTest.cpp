@@ -24,6 +24,7 @@ private Q_SLOTS:
     void defaultThatIsNotThere_data();
     void defaultThatIsNotThere();
     void noDefaultKnown();
+    void presetThatIsNotThere();
 
 private:
     std::unique_ptr<QTemporaryDir> home_;
@@ -94,6 +95,27 @@ void MissingPrinterTest::noDefaultKnown()
     QTRY_VERIFY(opened.dialog->message().contains(u"Internal Server Error"_s));
     QCOMPARE(opened.dialog->printer(), u"built-in"_s);
     QVERIFY(opened.dialog->isReady());
+}
+
+// Of a queue nothing is printed then; the built-in printer shows the choices last used with it.
+void MissingPrinterTest::presetThatIsNotThere()
+{
+    const StubServer server(StubServer::Manner::ManyQueues);
+    for (const QString &printer : {u"photo"_s, u"built-in"_s}) {
+        PrintDialogSetup setup = setupFor(PanelMode::Constraint);
+        setup.ppdFile = std::nullopt;
+        setup.printer = printer + u"/matte"_s;
+        const OpenedDialog opened(setup);
+        opened.dialog->searchPrinters();
+        const bool isBuiltIn = printer == u"built-in"_s;
+        const auto said = [&] {
+            return isBuiltIn ? opened.find<QWidget>(u"presetError"_s)->accessibleName()
+                             : opened.dialog->message();
+        };
+        QTRY_VERIFY2(said().startsWith(u"The printer \"%1\" has no preset \"matte\""_s.arg(printer)),
+                     qPrintable(said()));
+        QCOMPARE(opened.dialog->isReady(), isBuiltIn);
+    }
 }
 
 QTEST_MAIN(MissingPrinterTest)
