@@ -8,6 +8,7 @@
 
 #include <QtCore/QFileInfo>
 
+#include <fcntl.h>
 #include <sys/stat.h>
 
 namespace printdialog {
@@ -16,9 +17,13 @@ PrintedNames::PrintedNames(const OutputFolder &folder)
     : folder_(folder)
 {
     for (const QString &photo : folder.photos) {
-        struct stat status = {};
-        if (::stat(bytesOfFileName(photo).constData(), &status) == 0)
-            photos_.insert({status.st_dev, status.st_ino});
+        const QByteArray path = bytesOfFileName(photo);
+        // A link is the photo as the user knows it, too.
+        for (const int flags : {0, AT_SYMLINK_NOFOLLOW}) {
+            struct stat status = {};
+            if (::fstatat(AT_FDCWD, path.constData(), &status, flags) == 0)
+                photos_.insert({status.st_dev, status.st_ino});
+        }
     }
 }
 
@@ -45,7 +50,7 @@ bool PrintedNames::isFree(const QString &name) const
         struct stat status = {};
         if (::lstat(path.constData(), &status) != 0)
             continue;
-        // A link is replaced itself; what it leads to is not.
+        // Another link is replaced itself; what it leads to is not.
         if (!folder_.isOverwritten || photos_.contains({status.st_dev, status.st_ino}))
             return false;
     }

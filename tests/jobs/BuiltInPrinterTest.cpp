@@ -127,6 +127,8 @@ void BuiltInPrinterTest::keepsWhatIsThere_data()
     QTest::newRow("a photo") << QStringList{u"photo.pdf"_s, u"a photo"_s} << false << u"photo-2"_s;
     QTest::newRow("a photo, overwritten")
         << QStringList{u"photo.pdf"_s, u"a photo"_s} << true << u"photo-2"_s;
+    QTest::newRow("a photo that is a link, overwritten")
+        << QStringList{u"photo.pdf"_s, u"a photo"_s, u"a link"_s} << true << u"photo-2"_s;
 }
 
 void BuiltInPrinterTest::keepsWhatIsThere()
@@ -137,8 +139,12 @@ void BuiltInPrinterTest::keepsWhatIsThere()
     OutputFolder folder{folder_->path(), isOverwritten};
     if (earlier.removeOne(u"a photo"_s))
         folder.photos.append(folder_->path() + u"/./photo.pdf"_s); // named otherwise than its page would be
+    const bool isLink = earlier.removeOne(u"a link"_s);
     for (const QString &file : std::as_const(earlier))
         samples::store(pathOf(file), "earlier");
+    if (isLink)
+        QVERIFY(QFile::rename(pathOf(u"photo.pdf"_s), pathOf(u"real"_s)) &&
+                QFile::link(pathOf(u"real"_s), pathOf(u"photo.pdf"_s)));
     samples::store(pathOf(u"photo.jpg"_s), samples::encoded(samples::quarters(QSize(30, 20)), "jpeg"));
     const auto before = contentOf(folder_->path());
 
@@ -149,6 +155,7 @@ void BuiltInPrinterTest::keepsWhatIsThere()
     QCOMPARE(files->ticket, pathOf(name + u".ticket.json"_s));
     auto after = contentOf(folder_->path());
     QVERIFY(after.take(files->pdf).startsWith("%PDF") && after.take(files->ticket).startsWith('{'));
+    QCOMPARE(QFileInfo(pathOf(u"photo.pdf"_s)).isSymLink(), isLink);
     for (const QString &file : std::as_const(earlier))
         QVERIFY(!after.contains(pathOf(file)) || after.value(pathOf(file)) == "earlier");
     QCOMPARE(after.size(), before.size() - (name == u"photo"_s ? earlier.size() : 0));
