@@ -78,7 +78,10 @@ std::optional<QString> fileOfUrl(const QUrl &url)
     if (!url.isLocalFile() || !isHere || url.path().isEmpty())
         return std::nullopt;
     // QUrl's own text leaves what is not UTF-8 in its per-cent form, which is another file's name.
-    return fileNameFromBytes(QByteArray::fromPercentEncoding(url.path(QUrl::FullyEncoded).toLatin1()));
+    const QByteArray bytes = QByteArray::fromPercentEncoding(url.path(QUrl::FullyEncoded).toLatin1());
+    if (bytes.contains('\0')) // the system would read it as the name before that
+        return std::nullopt;
+    return fileNameFromBytes(bytes);
 }
 
 } // namespace printdialog

@@ -94,6 +94,7 @@ void RefusalsTest::wrongUsage_data()
     row("copies of nothing", {u"--batch"_s, u"-n"_s, u"0"_s, samplePhoto}, u"1 to 999"_s);
     row("copies without a number", {u"--batch"_s, u"--copies=two"_s, samplePhoto}, u"\"two\""_s);
     row("photo of another computer", {u"--batch"_s, u"file://server/a.jpg"_s}, u"file://server/a.jpg"_s);
+    row("photo with NUL in its name", {u"--batch"_s, u"file:///tmp/a.jpg%00b"_s}, u"a.jpg%00b"_s);
     row("overwriting without --batch", {u"--overwrite"_s, samplePhoto}, u"--overwrite"_s);
     row("no check of nothing", {u"--no-check"_s, samplePhoto}, u"--no-check"_s);
     row("server without a name", {u"--server"_s, u":631"_s, samplePhoto}, u"\":631\""_s);
