@@ -153,7 +153,7 @@ Fault readServer(const QCommandLineParser &parser, std::optional<QString> &serve
     if (match.hasMatch() && port >= 1 && port <= 65535)
         return std::nullopt;
     return fault(UsageFault::Value,
-                 Text::tr("\"%1\" is no print server; it is given as HOST or HOST:PORT.").arg(*server));
+                 Text::tr("\"%1\" is not a print server; it is given as HOST or HOST:PORT.").arg(*server));
 }
 
 Fault readWait(const QCommandLineParser &parser, std::optional<std::chrono::seconds> &wait)
@@ -166,7 +166,7 @@ Fault readWait(const QCommandLineParser &parser, std::optional<std::chrono::seco
     const int seconds = text->toInt(&isNumber);
     if (!isNumber || seconds < 0 || seconds > longest)
         return fault(UsageFault::Value,
-                     Text::tr("\"%1\" is no time to wait; it is a number of seconds from 0 to %2.")
+                     Text::tr("\"%1\" is not a time to wait; it is a number of seconds from 0 to %2.")
                          .arg(*text, QString::number(longest)));
     wait = std::chrono::seconds(seconds);
     return std::nullopt;
@@ -235,7 +235,7 @@ Fault readCrop(const QCommandLineParser &parser, PlacementChoice &placement)
     if (parts.size() != 2 || !isLeftNumber || !isTopNumber || !isPerCent(left) || !isPerCent(top)) {
         return fault(
             UsageFault::Value,
-            Text::tr("\"%1\" is no crop; it is two numbers from 0 to 100, such as 50,0.").arg(*value));
+            Text::tr("\"%1\" is not a crop; it is two numbers from 0 to 100, such as 50,0.").arg(*value));
     }
     if (placement.scaling == Scaling::Fit) {
         return fault(UsageFault::Combination,

@@ -109,13 +109,13 @@ Result<LoadedPlugin, PluginFault> PluginLoader::load(const QStringList &names)
     QPluginLoader loader(module);
     loader.setLoadHints(QLibrary::PreventUnloadHint);
     if (loader.metaData().value(QLatin1String("IID")).toString() != QLatin1String(PrintDialogPlugin_iid))
-        return unusable(PluginFault::NotAPlugin, *path, Text::tr("its module is no print-dialog plug-in"));
+        return unusable(PluginFault::NotAPlugin, *path, Text::tr("its module is not a print-dialog plug-in"));
     QObject *root = loader.instance();
     if (!root)
         return unusable(PluginFault::NotLoadable, *path, loader.errorString());
     auto *plugin = qobject_cast<pdekit::PrintDialogPlugin *>(root);
     if (!plugin)
-        return unusable(PluginFault::NotAPlugin, *path, Text::tr("its module is no print-dialog plug-in"));
+        return unusable(PluginFault::NotAPlugin, *path, Text::tr("its module is not a print-dialog plug-in"));
     if (!plugin->initWithBundle(*bundle)) {
         return unusable(PluginFault::Refused, *path,
                         Text::tr("its identifier \"%1\" is not the one that its module was built for")

@@ -16,7 +16,7 @@ enum class PluginFault {
     NotFound,    ///< no plug-in folder holds a bundle of any of the names; nothing is wrong with the printer
     BrokenInfo,  ///< its Info.json is missing, too large, not JSON, or lacks what a bundle needs
     NotLoadable, ///< its module is missing or the dynamic linker refuses it
-    NotAPlugin,  ///< its module is no print-dialog plug-in
+    NotAPlugin,  ///< its module is not a print-dialog plug-in
     Refused,     ///< the plug-in does not take the bundle for its own
     NoPanels,    ///< it offers no panel for this printer
 };

@@ -4,6 +4,7 @@
 #include "UsedChoices.h"
 
 #include "ChoiceExplanation.h"
+#include "PlainText.h"
 #include "PresetStore.h"
 #include "PrintJob.h"
 #include "StoredChoices.h"
@@ -14,6 +15,7 @@ namespace printdialog {
 
 UsedChoices useChoices(DialogSession &session, QMap<QString, QString> choices, DialogSession::Unnamed unnamed)
 {
+    constexpr qsizetype longestNumber = 40;
     UsedChoices used;
     const QString text = choices.take(QLatin1String(copiesOption));
     bool isNumber = false;
@@ -21,7 +23,8 @@ UsedChoices useChoices(DialogSession &session, QMap<QString, QString> choices, D
     if (isNumber && copies >= 1 && copies <= mostCopies)
         used.copies = copies;
     else if (!text.isNull())
-        used.leftOut += QCoreApplication::translate("UsedChoices", "%1 is not a number of copies.").arg(text);
+        used.leftOut += QCoreApplication::translate("UsedChoices", "\"%1\" is not a number of copies.")
+                            .arg(plainText(text, longestNumber));
     if (!session.printer().hasPpd)
         return used;
     const auto rulings = session.restoreChoices(choices, unnamed);

@@ -103,7 +103,7 @@ Result<QByteArray, SettingsFault> SettingsFile::read(const QString &path)
     if (::fstat(file.number(), &status) != 0)
         return failure(qt_error_string(errno));
     if (!S_ISREG(status.st_mode))
-        return failure(tr("it is no file"));
+        return failure(tr("it is not a file"));
     // A file that was not read to its end is never taken for a shorter one: what follows would be written
     // over.
     QByteArray content;

@@ -180,14 +180,6 @@ So ein Auftrag bleibt beim Druckserver; das wird gemeldet, Status 0</translation
         <translation>Listen, Zusammenfassung und --dry-run als JSON</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no print server; it is given as HOST or HOST:PORT.</source>
-        <translation>„%1“ ist kein Druckserver; er wird als HOST oder HOST:PORT angegeben.</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is no time to wait; it is a number of seconds from 0 to %2.</source>
-        <translation>„%1“ ist keine Wartezeit; sie ist eine Zahl von Sekunden von 0 bis %2.</translation>
-    </message>
-    <message>
         <source>--dry-run needs a photo.</source>
         <translation>--dry-run braucht ein Foto.</translation>
     </message>
@@ -216,10 +208,6 @@ linken und oberen Rand aus (sonst 50,50, die Mitte)</translation>
     <message>
         <source>There is no scaling &quot;%1&quot;; it is fit, fill or actual.</source>
         <translation>Es gibt keine Größenanpassung „%1“; möglich sind fit, fill und actual.</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is no crop; it is two numbers from 0 to 100, such as 50,0.</source>
-        <translation>„%1“ ist kein Ausschnitt; es sind zwei Zahlen von 0 bis 100, etwa 50,0.</translation>
     </message>
     <message>
         <source>--crop is for --scaling fill or actual; with fit nothing is cropped.</source>
@@ -287,6 +275,18 @@ Beispiele:
   corvel-print --printer built-in urlaub.jpg
   corvel-print --batch -o Red=12 -o Quality=Fine -o Overcoat=Matte --output abzuege *.jpg
 </translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a print server; it is given as HOST or HOST:PORT.</source>
+        <translation>„%1“ ist kein Druckserver; er wird als HOST oder HOST:PORT angegeben.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a time to wait; it is a number of seconds from 0 to %2.</source>
+        <translation>„%1“ ist keine Wartezeit; sie ist eine Zahl von Sekunden von 0 bis %2.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a crop; it is two numbers from 0 to 100, such as 50,0.</source>
+        <translation>„%1“ ist kein Ausschnitt; es sind zwei Zahlen von 0 bis 100, etwa 50,0.</translation>
     </message>
 </context>
 <context>
@@ -589,10 +589,6 @@ Beispiele:
         <translation>es hat kein Modul „%1“</translation>
     </message>
     <message>
-        <source>its module is no print-dialog plug-in</source>
-        <translation>sein Modul ist kein Plug-in für den Druckdialog</translation>
-    </message>
-    <message>
         <source>its identifier &quot;%1&quot; is not the one that its module was built for</source>
         <translation>sein Bezeichner „%1“ ist nicht der, für den das Modul gebaut wurde</translation>
     </message>
@@ -603,6 +599,10 @@ Beispiele:
     <message>
         <source>The printer&apos;s own panels (%1) are not installed in %2; it prints without them.</source>
         <translation>Die eigenen Seiten des Druckers (%1) sind in %2 nicht installiert; er druckt ohne sie.</translation>
+    </message>
+    <message>
+        <source>its module is not a print-dialog plug-in</source>
+        <translation>sein Modul ist kein Plug-in für den Druckdialog</translation>
     </message>
 </context>
 <context>
@@ -1247,8 +1247,8 @@ Beispiele:
 <context>
     <name>UsedChoices</name>
     <message>
-        <source>%1 is not a number of copies.</source>
-        <translation>%1 ist keine Anzahl von Exemplaren.</translation>
+        <source>&quot;%1&quot; is not a number of copies.</source>
+        <translation>„%1“ ist keine mögliche Anzahl von Exemplaren.</translation>
     </message>
 </context>
 <context>
@@ -2027,10 +2027,6 @@ Beispiele:
         <translation>Die Datei %1 kann nicht gelesen werden: %2. Machen Sie sie lesbar, oder verschieben Sie sie.</translation>
     </message>
     <message>
-        <source>it is no file</source>
-        <translation>es ist keine Datei</translation>
-    </message>
-    <message>
         <source>it is too large</source>
         <translation>sie ist zu groß</translation>
     </message>
@@ -2045,6 +2041,10 @@ Beispiele:
     <message>
         <source>Nothing could be saved in %1: another program is writing there. Try again.</source>
         <translation>In %1 konnte nichts gespeichert werden: Ein anderes Programm schreibt gerade dort. Versuchen Sie es noch einmal.</translation>
+    </message>
+    <message>
+        <source>it is not a file</source>
+        <translation>es ist keine Datei</translation>
     </message>
 </context>
 <context>

@@ -180,14 +180,6 @@ queda en el servidor de impresión, se avisa y el código de salida es 0</transl
         <translation>listas, resumen y --dry-run como JSON</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no print server; it is given as HOST or HOST:PORT.</source>
-        <translation>«%1» no es un servidor de impresión; se indica como HOST o HOST:PORT.</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is no time to wait; it is a number of seconds from 0 to %2.</source>
-        <translation>«%1» no es un tiempo de espera; es un número de segundos de 0 a %2.</translation>
-    </message>
-    <message>
         <source>--dry-run needs a photo.</source>
         <translation>--dry-run necesita una foto.</translation>
     </message>
@@ -216,10 +208,6 @@ izquierda y desde arriba (si no, 50,50, el centro)</translation>
     <message>
         <source>There is no scaling &quot;%1&quot;; it is fit, fill or actual.</source>
         <translation>No existe la escala «%1»; puede ser fit, fill o actual.</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is no crop; it is two numbers from 0 to 100, such as 50,0.</source>
-        <translation>«%1» no es un recorte; son dos números de 0 a 100, por ejemplo 50,0.</translation>
     </message>
     <message>
         <source>--crop is for --scaling fill or actual; with fit nothing is cropped.</source>
@@ -286,6 +274,18 @@ Ejemplos:
   corvel-print --printer built-in vacaciones.jpg
   corvel-print --batch -o Red=12 -o Quality=Fine -o Overcoat=Matte --output copias *.jpg
 </translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a print server; it is given as HOST or HOST:PORT.</source>
+        <translation>«%1» no es un servidor de impresión; se indica como HOST o HOST:PORT.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a time to wait; it is a number of seconds from 0 to %2.</source>
+        <translation>«%1» no es un tiempo de espera; es un número de segundos de 0 a %2.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a crop; it is two numbers from 0 to 100, such as 50,0.</source>
+        <translation>«%1» no es un recorte; son dos números de 0 a 100, por ejemplo 50,0.</translation>
     </message>
 </context>
 <context>
@@ -588,10 +588,6 @@ Ejemplos:
         <translation>no tiene el módulo «%1»</translation>
     </message>
     <message>
-        <source>its module is no print-dialog plug-in</source>
-        <translation>su módulo no es un complemento del diálogo de impresión</translation>
-    </message>
-    <message>
         <source>its identifier &quot;%1&quot; is not the one that its module was built for</source>
         <translation>su identificador «%1» no es aquel para el que se construyó su módulo</translation>
     </message>
@@ -602,6 +598,10 @@ Ejemplos:
     <message>
         <source>The printer&apos;s own panels (%1) are not installed in %2; it prints without them.</source>
         <translation>Las páginas propias de la impresora (%1) no están instaladas en %2; imprime sin ellas.</translation>
+    </message>
+    <message>
+        <source>its module is not a print-dialog plug-in</source>
+        <translation>su módulo no es un complemento del diálogo de impresión</translation>
     </message>
 </context>
 <context>
@@ -1246,8 +1246,8 @@ Ejemplos:
 <context>
     <name>UsedChoices</name>
     <message>
-        <source>%1 is not a number of copies.</source>
-        <translation>%1 no es un número de copias.</translation>
+        <source>&quot;%1&quot; is not a number of copies.</source>
+        <translation>«%1» no es un número de copias posible.</translation>
     </message>
 </context>
 <context>
@@ -2026,10 +2026,6 @@ Ejemplos:
         <translation>El archivo %1 no se puede leer: %2. Hágalo legible o muévalo a otro lugar.</translation>
     </message>
     <message>
-        <source>it is no file</source>
-        <translation>no es un archivo</translation>
-    </message>
-    <message>
         <source>it is too large</source>
         <translation>es demasiado grande</translation>
     </message>
@@ -2044,6 +2040,10 @@ Ejemplos:
     <message>
         <source>Nothing could be saved in %1: another program is writing there. Try again.</source>
         <translation>No se pudo guardar nada en %1: otro programa está escribiendo ahí. Inténtelo de nuevo.</translation>
+    </message>
+    <message>
+        <source>it is not a file</source>
+        <translation>no es un archivo</translation>
     </message>
 </context>
 <context>

@@ -180,14 +180,6 @@ alors au serveur d’impression, ce qui est signalé, avec le code 0</translatio
         <translation>listes, résumé et --dry-run en JSON</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no print server; it is given as HOST or HOST:PORT.</source>
-        <translation>«&#xa0;%1&#xa0;» n’est pas un serveur d’impression&#xa0;; indiquez HOST ou HOST:PORT.</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is no time to wait; it is a number of seconds from 0 to %2.</source>
-        <translation>«&#xa0;%1&#xa0;» n’est pas une durée d’attente&#xa0;; c’est un nombre de secondes de 0 à %2.</translation>
-    </message>
-    <message>
         <source>--dry-run needs a photo.</source>
         <translation>--dry-run a besoin d’une photo.</translation>
     </message>
@@ -216,10 +208,6 @@ et depuis son haut (sinon 50,50, le milieu)</translation>
     <message>
         <source>There is no scaling &quot;%1&quot;; it is fit, fill or actual.</source>
         <translation>La mise à l’échelle «&#x202f;%1&#x202f;» n’existe pas&#x202f;; c’est fit, fill ou actual.</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is no crop; it is two numbers from 0 to 100, such as 50,0.</source>
-        <translation>«&#x202f;%1&#x202f;» n’est pas un cadrage&#x202f;; il faut deux nombres de 0 à 100, par exemple 50,0.</translation>
     </message>
     <message>
         <source>--crop is for --scaling fill or actual; with fit nothing is cropped.</source>
@@ -287,6 +275,18 @@ Exemples&#x202f;:
   corvel-print --printer built-in vacances.jpg
   corvel-print --batch -o Red=12 -o Quality=Fine -o Overcoat=Matte --output tirages *.jpg
 </translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a print server; it is given as HOST or HOST:PORT.</source>
+        <translation>« %1 » n’est pas un serveur d’impression ; indiquez HOST ou HOST:PORT.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a time to wait; it is a number of seconds from 0 to %2.</source>
+        <translation>« %1 » n’est pas une durée d’attente ; c’est un nombre de secondes de 0 à %2.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a crop; it is two numbers from 0 to 100, such as 50,0.</source>
+        <translation>« %1 » n’est pas un cadrage ; il faut deux nombres de 0 à 100, par exemple 50,0.</translation>
     </message>
 </context>
 <context>
@@ -589,10 +589,6 @@ Exemples&#x202f;:
         <translation>la bibliothèque «&#x202f;%1&#x202f;» y manque</translation>
     </message>
     <message>
-        <source>its module is no print-dialog plug-in</source>
-        <translation>sa bibliothèque n’est pas une extension de la boîte de dialogue d’impression</translation>
-    </message>
-    <message>
         <source>its identifier &quot;%1&quot; is not the one that its module was built for</source>
         <translation>son identifiant «&#x202f;%1&#x202f;» n’est pas celui pour lequel sa bibliothèque a été construite</translation>
     </message>
@@ -603,6 +599,10 @@ Exemples&#x202f;:
     <message>
         <source>The printer&apos;s own panels (%1) are not installed in %2; it prints without them.</source>
         <translation>Les pages propres à l’imprimante (%1) ne sont pas installées dans %2&#x202f;; elle imprime sans elles.</translation>
+    </message>
+    <message>
+        <source>its module is not a print-dialog plug-in</source>
+        <translation>sa bibliothèque n’est pas une extension de la boîte de dialogue d’impression</translation>
     </message>
 </context>
 <context>
@@ -1247,8 +1247,8 @@ Exemples&#x202f;:
 <context>
     <name>UsedChoices</name>
     <message>
-        <source>%1 is not a number of copies.</source>
-        <translation>%1 n’est pas un nombre d’exemplaires.</translation>
+        <source>&quot;%1&quot; is not a number of copies.</source>
+        <translation>« %1 » n’est pas un nombre de copies possible.</translation>
     </message>
 </context>
 <context>
@@ -2027,10 +2027,6 @@ Exemples&#x202f;:
         <translation>Le fichier %1 ne peut pas être lu&#x202f;: %2. Rendez-le lisible ou déplacez-le.</translation>
     </message>
     <message>
-        <source>it is no file</source>
-        <translation>ce n’est pas un fichier</translation>
-    </message>
-    <message>
         <source>it is too large</source>
         <translation>il est trop gros</translation>
     </message>
@@ -2045,6 +2041,10 @@ Exemples&#x202f;:
     <message>
         <source>Nothing could be saved in %1: another program is writing there. Try again.</source>
         <translation>Rien n’a pu être enregistré dans %1&#x202f;: un autre programme y écrit en ce moment. Réessayez.</translation>
+    </message>
+    <message>
+        <source>it is not a file</source>
+        <translation>ce n’est pas un fichier</translation>
     </message>
 </context>
 <context>

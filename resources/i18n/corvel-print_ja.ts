@@ -180,14 +180,6 @@ job stays with the print server, and that is told, with exit status 0</source>
         <translation>一覧、概要、--dry-run を JSON で出力する</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no print server; it is given as HOST or HOST:PORT.</source>
-        <translation>「%1」はプリントサーバーではありません。HOST または HOST:PORT の形で指定してください。</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is no time to wait; it is a number of seconds from 0 to %2.</source>
-        <translation>「%1」は待ち時間ではありません。0 から %2 までの秒数を指定してください。</translation>
-    </message>
-    <message>
         <source>--dry-run needs a photo.</source>
         <translation>--dry-run には写真が必要です。</translation>
     </message>
@@ -216,10 +208,6 @@ and from its top (otherwise 50,50, the middle)</source>
     <message>
         <source>There is no scaling &quot;%1&quot;; it is fit, fill or actual.</source>
         <translation>「%1」という拡大縮小はありません。fit、fill、actual のいずれかです。</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is no crop; it is two numbers from 0 to 100, such as 50,0.</source>
-        <translation>「%1」は切り取り位置ではありません。50,0 のように 0 から 100 までの数を 2 つ指定します。</translation>
     </message>
     <message>
         <source>--crop is for --scaling fill or actual; with fit nothing is cropped.</source>
@@ -286,6 +274,18 @@ Examples:
   corvel-print --printer built-in holiday.jpg
   corvel-print --batch -o Red=12 -o Quality=Fine -o Overcoat=Matte --output prints *.jpg
 </translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a print server; it is given as HOST or HOST:PORT.</source>
+        <translation>「%1」はプリントサーバーではありません。HOST または HOST:PORT の形で指定してください。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a time to wait; it is a number of seconds from 0 to %2.</source>
+        <translation>「%1」は待ち時間ではありません。0 から %2 までの秒数を指定してください。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a crop; it is two numbers from 0 to 100, such as 50,0.</source>
+        <translation>「%1」は切り取り位置ではありません。50,0 のように 0 から 100 までの数を 2 つ指定します。</translation>
     </message>
 </context>
 <context>
@@ -587,10 +587,6 @@ Examples:
         <translation>モジュール「%1」がありません</translation>
     </message>
     <message>
-        <source>its module is no print-dialog plug-in</source>
-        <translation>モジュールが印刷ダイアログのプラグインではありません</translation>
-    </message>
-    <message>
         <source>its identifier &quot;%1&quot; is not the one that its module was built for</source>
         <translation>識別子「%1」が、モジュールの作られたときのものと違います</translation>
     </message>
@@ -601,6 +597,10 @@ Examples:
     <message>
         <source>The printer&apos;s own panels (%1) are not installed in %2; it prints without them.</source>
         <translation>プリンター固有のページ (%1) が %2 にインストールされていません。それなしで印刷します。</translation>
+    </message>
+    <message>
+        <source>its module is not a print-dialog plug-in</source>
+        <translation>モジュールが印刷ダイアログのプラグインではありません</translation>
     </message>
 </context>
 <context>
@@ -1245,8 +1245,8 @@ Examples:
 <context>
     <name>UsedChoices</name>
     <message>
-        <source>%1 is not a number of copies.</source>
-        <translation>%1 は部数として正しくありません。</translation>
+        <source>&quot;%1&quot; is not a number of copies.</source>
+        <translation>「%1」は部数として使えません。</translation>
     </message>
 </context>
 <context>
@@ -2023,10 +2023,6 @@ Examples:
         <translation>ファイル %1 を読み取れません: %2。読み取れるようにするか、別の場所に移動してください。</translation>
     </message>
     <message>
-        <source>it is no file</source>
-        <translation>ファイルではありません</translation>
-    </message>
-    <message>
         <source>it is too large</source>
         <translation>大きすぎます</translation>
     </message>
@@ -2041,6 +2037,10 @@ Examples:
     <message>
         <source>Nothing could be saved in %1: another program is writing there. Try again.</source>
         <translation>%1 に保存できませんでした。別のプログラムが書き込み中です。もう一度お試しください。</translation>
+    </message>
+    <message>
+        <source>it is not a file</source>
+        <translation>ファイルではありません</translation>
     </message>
 </context>
 <context>

@@ -119,8 +119,16 @@ void DefaultPrinterTest::builtInPrinterWithAPreset()
         const ProgramRun run =
             isDefault ? runProgram({u"--summary"_s}, {{u"LPDEST"_s, name}, {u"XDG_CONFIG_HOME"_s, {}}})
                       : runProgram({u"--summary"_s, u"--printer"_s, name}, {{u"XDG_CONFIG_HOME"_s, {}}});
+        QCOMPARE(run.err, QByteArray());
         QVERIFY2(run.out.contains("\nRed: 7\n") && run.out.contains("\nCopies: 3\n"), run.err.constData());
     }
+    // Whatever there is to leave out of it is one line.
+    QVERIFY(store(home_->filePath(folder + u"/built-in.json"_s),
+                  R"({"version": 1, "presets": {"odd": {"Red": "99", "copies": "none", "Gone": "1"}}})"));
+    const ProgramRun odd =
+        runProgram({u"--summary"_s, u"--printer"_s, u"built-in/odd"_s}, {{u"XDG_CONFIG_HOME"_s, {}}});
+    const QByteArray wrong = wrongInRefusal({1, {}, odd.err}, 1, {u"\"none\""_s, u"Red"_s, u"Gone"_s});
+    QVERIFY2(wrong.isEmpty(), wrong.constData());
 }
 
 QTEST_GUILESS_MAIN(DefaultPrinterTest)
