@@ -156,7 +156,9 @@ int CupsConnection::goesOn(http_t *, void *self)
 
 QString CupsConnection::unreachableReason() const
 {
-    return QCoreApplication::translate("CupsConnection", "nothing answers at %1").arg(server_);
+    const QString address =
+        server_.startsWith(u'/') ? server_ : QStringLiteral("%1:%2").arg(server_).arg(ippPort());
+    return QCoreApplication::translate("CupsConnection", "nothing answers at %1").arg(address);
 }
 
 Failure<QueueFault> CupsConnection::lastFailure(const QString &queue) const

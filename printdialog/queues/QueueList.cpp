@@ -258,10 +258,12 @@ QString printServerAddress()
 
 bool isWithoutPrintServer(const Failure<QueueFault> &failure)
 {
+    constexpr int usualPort = 631;
     cupsSetServer(nullptr);
     const QString server = QString::fromUtf8(cupsServer());
+    // Another port is somebody's choice: the end of a tunnel, say.
     return failure.reason == QueueFault::NoServer &&
-           (server.startsWith(u'/') || server == QLatin1String("localhost"));
+           (server.startsWith(u'/') || (server == QLatin1String("localhost") && ippPort() == usualPort));
 }
 
 Result<QList<Queue>, QueueFault> listQueues(std::chrono::milliseconds limit)

@@ -278,15 +278,15 @@ Exemples&#x202f;:
     </message>
     <message>
         <source>&quot;%1&quot; is not a print server; it is given as HOST or HOST:PORT.</source>
-        <translation>« %1 » n’est pas un serveur d’impression ; indiquez HOST ou HOST:PORT.</translation>
+        <translation>«&#xa0;%1&#xa0;» n’est pas un serveur d’impression&#xa0;; indiquez HOST ou HOST:PORT.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is not a time to wait; it is a number of seconds from 0 to %2.</source>
-        <translation>« %1 » n’est pas une durée d’attente ; c’est un nombre de secondes de 0 à %2.</translation>
+        <translation>«&#xa0;%1&#xa0;» n’est pas une durée d’attente&#xa0;; c’est un nombre de secondes de 0 à %2.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is not a crop; it is two numbers from 0 to 100, such as 50,0.</source>
-        <translation>« %1 » n’est pas un cadrage ; il faut deux nombres de 0 à 100, par exemple 50,0.</translation>
+        <translation>«&#x202f;%1&#x202f;» n’est pas un cadrage&#x202f;; il faut deux nombres de 0 à 100, par exemple 50,0.</translation>
     </message>
 </context>
 <context>
@@ -1248,7 +1248,7 @@ Exemples&#x202f;:
     <name>UsedChoices</name>
     <message>
         <source>&quot;%1&quot; is not a number of copies.</source>
-        <translation>« %1 » n’est pas un nombre de copies possible.</translation>
+        <translation>«&#x202f;%1&#x202f;» n’est pas un nombre de copies possible.</translation>
     </message>
 </context>
 <context>

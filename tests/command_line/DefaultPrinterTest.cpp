@@ -100,6 +100,13 @@ void DefaultPrinterTest::builtInPrinterOfAMachineWithoutServer()
     QCOMPARE(runProgram(printSample, noServer, home_->path()).status, 0);
     QVERIFY(QFile::exists(home_->filePath(u"out/sample.pdf"_s)));
 
+    // Somebody has chosen the port.
+    for (const QStringList &arguments : {printSample, QStringList{u"--list-printers"_s}}) {
+        const QByteArray wrong =
+            wrongInRefusal(runProgram(arguments, {{u"CUPS_SERVER"_s, u"localhost:1"_s}}, home_->path()), 1,
+                           {u"nothing answers at localhost:1)"_s});
+        QVERIFY2(wrong.isEmpty(), wrong.constData());
+    }
     setDefault();
     for (const QStringList &arguments : {printSample, QStringList{u"--list-printers"_s}}) {
         const QByteArray wrong =
