@@ -20,8 +20,9 @@ class BoundedWorker;
 class CupsConnection;
 struct QueueRecord;
 
-/// The largest PPD that is taken from a server, in bytes.
-constexpr qsizetype fetchedPpdLimit = qsizetype(32) * 1024 * 1024;
+/// The largest PPD that is taken from a server, in bytes. Those of real printers stay below 3 MiB; a few
+/// copies of one are made on its way to the panels.
+constexpr qsizetype fetchedPpdLimit = qsizetype(8) * 1024 * 1024;
 
 /// The PPD of a queue, of a class that of its first member, as the server hands it out: untrusted, unparsed.
 /// Blocks, at most for the limit. It never lies in a file that another process could see or that could be

@@ -5,7 +5,6 @@
 
 #include "AtomicFiles.h"
 #include "PlainText.h"
-#include "PpdFetcher.h"
 #include "QueueRecord.h"
 
 #include <QtCore/QDir>
@@ -25,6 +24,8 @@ namespace printdialog {
 namespace {
 
 constexpr int version = 1;
+/// Of a PPD that is remembered, in bytes: as JSON it takes ten times the memory for a moment.
+constexpr qsizetype ppdLimit = qsizetype(3) * 1024 * 1024;
 constexpr auto onlyOwner = QFile::ReadOwner | QFile::WriteOwner;
 
 struct TextField
@@ -66,7 +67,7 @@ std::optional<RememberedQueue> QueueCache::load()
     const QString path = file();
     QFile file(path);
     // In base 64 the PPD is a third larger.
-    if (!isPrivate(path) || file.size() > fetchedPpdLimit * 3 / 2 || !file.open(QIODevice::ReadOnly))
+    if (!isPrivate(path) || file.size() > ppdLimit * 3 / 2 || !file.open(QIODevice::ReadOnly))
         return std::nullopt;
     const QJsonObject content = QJsonDocument::fromJson(file.readAll()).object();
     if (content[QLatin1String("version")].toInt() != version)
@@ -90,6 +91,10 @@ std::optional<RememberedQueue> QueueCache::load()
 
 void QueueCache::save(const RememberedQueue &remembered)
 {
+    if (remembered.ppd.size() > ppdLimit) {
+        QFile::remove(file()); // it would name another printer
+        return;
+    }
     QJsonObject content = {{QStringLiteral("version"), version},
                            {QStringLiteral("isClass"), remembered.queue.isClass},
                            {QStringLiteral("isBuiltIn"), remembered.queue.isBuiltIn},

@@ -157,7 +157,7 @@ void QueuesTest::badServerCostsOneSentenceInTime_data()
         << StubServer::Manner::Trickling << QueueFault::TimedOut << u"0.3 s"_s;
     QTest::newRow("closes in a PPD") << StubServer::Manner::BreakingOff << QueueFault::Failed
                                      << u"in the middle"_s;
-    QTest::newRow("PPD too large") << StubServer::Manner::Overflowing << QueueFault::Failed << u"32 MiB"_s;
+    QTest::newRow("PPD too large") << StubServer::Manner::Overflowing << QueueFault::Failed << u"8 MiB"_s;
 }
 
 void QueuesTest::badServerCostsOneSentenceInTime()
@@ -168,10 +168,13 @@ void QueuesTest::badServerCostsOneSentenceInTime()
     const StubServer server(manner, fault == QueueFault::TimedOut ? StubServer::Requests::All
                                                                   : StubServer::Requests::Files);
     const auto limit = fault == QueueFault::TimedOut ? 300ms : 10000ms;
+    QVERIFY(resetPeak());
+    const qint64 before = peak();
     QElapsedTimer timer;
     timer.start();
     const auto ppd = fetchPpd(u"photo"_s, limit);
     QVERIFY(timer.elapsed() < limit.count() + 200);
+    QVERIFY(peak() - before < qint64(32) * 1024 * 1024);
     QVERIFY(!ppd);
     QCOMPARE(ppd.failure().reason, fault);
     const QString text = ppd.failure().text;

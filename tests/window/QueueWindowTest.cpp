@@ -153,6 +153,13 @@ void QueueWindowTest::rememberedPrivately()
     QVERIFY(QFile::resize(file.filePath(), file.size() / 2));
     const OpenedDialog opened(setup());
     QCOMPARE(opened.dialog->printer(), u"built-in"_s);
+    // A printer whose PPD is too large to be kept does not leave the one before in its place.
+    Queue large;
+    large.name = u"large"_s;
+    QueueCache::save({large, "*PPD-Adobe", true});
+    QVERIFY(QueueCache::load());
+    QueueCache::save({large, QByteArray(4 << 20, '*'), true});
+    QVERIFY(!QueueCache::load());
     // A name that has to be cleaned is not changed into another one.
     Queue odd;
     odd.name = u"pho\u0007to"_s;
