@@ -42,14 +42,6 @@ int runWindow(const CommandLine &commandLine, QApplication & /*application*/)
         console.complain(Console::oneLine(setup.photoFailures));
         return exitFailed;
     }
-    if (const QString platform = QGuiApplication::platformName();
-        platform == QLatin1String("offscreen") || platform == QLatin1String("minimal"))
-        console.complain(
-            QCoreApplication::translate(
-                "WindowRun",
-                "The window cannot be seen, because QT_QPA_PLATFORM asks for \"%1\". Unset it, or print "
-                "without a window (--batch).")
-                .arg(platform));
     // The desktop knows the window by its desktop file. The icon is the program's own: to look for it in the
     // icon theme takes longer than all of the panels.
     QGuiApplication::setDesktopFileName(QStringLiteral("org.corvel.print"));
@@ -59,6 +51,14 @@ int runWindow(const CommandLine &commandLine, QApplication & /*application*/)
         console.complain(dialog.whyNotReady());
         return exitFailed;
     }
+    if (const QString platform = QGuiApplication::platformName();
+        platform == QLatin1String("offscreen") || platform == QLatin1String("minimal"))
+        console.complain(
+            QCoreApplication::translate(
+                "WindowRun",
+                "The window cannot be seen, because QT_QPA_PLATFORM asks for \"%1\". Unset it, or print "
+                "without a window (--batch).")
+                .arg(platform));
     // Queues are looked for once the window is there; none of it may hold up the first picture.
     QTimer::singleShot(0, &dialog, &PrintDialog::searchPrinters);
     dialog.restorePlacement(WindowPlacement::load());

@@ -23,30 +23,52 @@ using namespace printdialog;
 
 namespace {
 
-bool installTranslation(QCoreApplication &application, const QString &file)
+/// Loads the program's texts in the first of the user's languages that it has. The texts in the source are
+/// the English ones, but for their plural forms.
+/// @return the language's code; empty when there are none
+QString loadOwnTexts(QTranslator &translator)
 {
-    auto translator = std::make_unique<QTranslator>();
-    if (!translator->load(file) || !QCoreApplication::installTranslator(translator.get()))
-        return false;
-    translator.release()->setParent(&application);
-    return true;
-}
-
-/// Installs the program's texts in the first of the user's languages that it has, and Qt's own (file dialogs,
-/// buttons) in the same one, where they are installed. The texts in the source are the English ones, but for
-/// their plural forms.
-void loadTranslations(QCoreApplication &application)
-{
-    const QString qtFolder = QLibraryInfo::path(QLibraryInfo::TranslationsPath);
     const QStringList languages = QLocale().uiLanguages() << QStringLiteral("en");
     for (const QString &language : languages) {
         const QString code = language.section(u'-', 0, 0);
-        if (installTranslation(application,
-                               QStringLiteral(":/corvel-print/i18n/corvel-print_%1.qm").arg(code))) {
-            installTranslation(application, QStringLiteral("%1/qtbase_%2.qm").arg(qtFolder, code));
-            return;
-        }
+        if (translator.load(QStringLiteral(":/corvel-print/i18n/corvel-print_%1.qm").arg(code)))
+            return code;
     }
+    return {};
+}
+
+/// Installs the program's texts in the user's language, and Qt's own (file dialogs, buttons) in the same one,
+/// where they are installed.
+void loadTranslations(QCoreApplication &application)
+{
+    auto *own = new QTranslator(&application);
+    const QString code = loadOwnTexts(*own);
+    QCoreApplication::installTranslator(own);
+    auto *qts = new QTranslator(&application);
+    if (qts->load(QStringLiteral("qtbase_%1.qm").arg(code),
+                  QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        QCoreApplication::installTranslator(qts);
+}
+
+/// Why Qt has nothing to draw on. It happens before any translation can be installed.
+QString withoutPlatform()
+{
+    QTranslator texts;
+    loadOwnTexts(texts);
+    const auto translated = [&texts](const char *text) {
+        const QString found = texts.translate("main", text);
+        return found.isEmpty() ? QString::fromLatin1(text) : found;
+    };
+    if (const QString platform = qEnvironmentVariable("QT_QPA_PLATFORM"); !platform.isEmpty())
+        return translated(QT_TRANSLATE_NOOP("main",
+                                            "The program cannot start: QT_QPA_PLATFORM asks for \"%1\", "
+                                            "which cannot be used. Unset it."))
+            .arg(platform);
+    const QString display = qEnvironmentVariable("DISPLAY");
+    return translated(QT_TRANSLATE_NOOP("main",
+                                        "The program cannot open a window on the display \"%1\". Start it "
+                                        "in a desktop session, or print without a window (--batch)."))
+        .arg(display.isEmpty() ? qEnvironmentVariable("WAYLAND_DISPLAY") : display);
 }
 
 /// What Qt itself has to say belongs into the log: standard error holds one clear line, or nothing. Qt gives
@@ -56,8 +78,11 @@ void takeQtMessage(QtMsgType type, const QMessageLogContext & /*context*/, const
     pdekit::systemLog(message);
     if (type != QtFatalMsg)
         return;
+    const bool isForPlatform = message.contains(QLatin1String("no Qt platform plugin"));
     Console().complain(
-        QCoreApplication::translate("main", "The program cannot start: %1").arg(message.simplified()));
+        isForPlatform
+            ? withoutPlatform()
+            : QCoreApplication::translate("main", "The program cannot start: %1").arg(message.simplified()));
     _exit(exitFailed);
 }
 
@@ -83,7 +108,10 @@ int runWithoutApplication(const QStringList &arguments, int &argc, char **argv)
 /// Chooses what Qt draws on, unless the user has. False: there is no display, and the task needs one.
 bool choosePlatform(const CommandLine &commandLine)
 {
-    if (qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
+    const auto isSet = [](const char *variable) {
+        return !qEnvironmentVariableIsEmpty(variable);
+    };
+    if (isSet("QT_QPA_PLATFORM"))
         return true;
     // Nobody sees the widgets that panels make: this platform spares them the system's fonts, which are a
     // quarter of such a run's time.
@@ -92,7 +120,10 @@ bool choosePlatform(const CommandLine &commandLine)
     // Pictures of the dialog look the same with and without a display.
     if (commandLine.screenshot)
         return qputenv("QT_QPA_PLATFORM", "offscreen");
-    return qEnvironmentVariableIsSet("DISPLAY") || qEnvironmentVariableIsSet("WAYLAND_DISPLAY");
+    // A name that is no path is one in that folder, and the library would complain without it.
+    const bool hasWayland =
+        isSet("WAYLAND_DISPLAY") && (isSet("XDG_RUNTIME_DIR") || qgetenv("WAYLAND_DISPLAY").startsWith('/'));
+    return isSet("DISPLAY") || hasWayland;
 }
 
 int failWithoutDisplay(int &argc, char **argv)

@@ -1261,6 +1261,14 @@ Beispiele:
 <context>
     <name>main</name>
     <message>
+        <source>The program cannot start: QT_QPA_PLATFORM asks for &quot;%1&quot;, which cannot be used. Unset it.</source>
+        <translation>Das Programm kann nicht starten: QT_QPA_PLATFORM verlangt „%1“, was nicht benutzt werden kann. Löschen Sie die Variable.</translation>
+    </message>
+    <message>
+        <source>The program cannot open a window on the display &quot;%1&quot;. Start it in a desktop session, or print without a window (--batch).</source>
+        <translation>Das Programm kann auf der Anzeige „%1“ kein Fenster öffnen. Starten Sie es in einer Arbeitsumgebung oder drucken Sie ohne Fenster (--batch).</translation>
+    </message>
+    <message>
         <source>The program cannot start: %1</source>
         <translation>Das Programm kann nicht starten: %1</translation>
     </message>

@@ -1260,6 +1260,14 @@ Ejemplos:
 <context>
     <name>main</name>
     <message>
+        <source>The program cannot start: QT_QPA_PLATFORM asks for &quot;%1&quot;, which cannot be used. Unset it.</source>
+        <translation>El programa no puede iniciarse: QT_QPA_PLATFORM pide «%1», que no se puede usar. Quite esa variable.</translation>
+    </message>
+    <message>
+        <source>The program cannot open a window on the display &quot;%1&quot;. Start it in a desktop session, or print without a window (--batch).</source>
+        <translation>El programa no puede abrir ninguna ventana en la pantalla «%1». Inícielo en una sesión de escritorio o imprima sin ventana (--batch).</translation>
+    </message>
+    <message>
         <source>The program cannot start: %1</source>
         <translation>El programa no puede iniciarse: %1</translation>
     </message>

@@ -1261,6 +1261,14 @@ Exemples&#x202f;:
 <context>
     <name>main</name>
     <message>
+        <source>The program cannot start: QT_QPA_PLATFORM asks for &quot;%1&quot;, which cannot be used. Unset it.</source>
+        <translation>Le programme ne peut pas démarrer&#x202f;: QT_QPA_PLATFORM demande «&#x202f;%1&#x202f;», qui est inutilisable. Supprimez cette variable.</translation>
+    </message>
+    <message>
+        <source>The program cannot open a window on the display &quot;%1&quot;. Start it in a desktop session, or print without a window (--batch).</source>
+        <translation>Le programme ne peut pas ouvrir de fenêtre sur l’affichage «&#x202f;%1&#x202f;». Lancez-le dans une session de bureau, ou imprimez sans fenêtre (--batch).</translation>
+    </message>
+    <message>
         <source>The program cannot start: %1</source>
         <translation>Le programme ne peut pas démarrer&#x202f;: %1</translation>
     </message>

@@ -1259,6 +1259,14 @@ Examples:
 <context>
     <name>main</name>
     <message>
+        <source>The program cannot start: QT_QPA_PLATFORM asks for &quot;%1&quot;, which cannot be used. Unset it.</source>
+        <translation>プログラムを起動できません。QT_QPA_PLATFORM が指定する「%1」は使えません。この変数を取り除いてください。</translation>
+    </message>
+    <message>
+        <source>The program cannot open a window on the display &quot;%1&quot;. Start it in a desktop session, or print without a window (--batch).</source>
+        <translation>ディスプレイ「%1」にウィンドウを開けません。デスクトップセッションで起動するか、ウィンドウなしで印刷してください (--batch)。</translation>
+    </message>
+    <message>
         <source>The program cannot start: %1</source>
         <translation>プログラムを起動できません: %1</translation>
     </message>

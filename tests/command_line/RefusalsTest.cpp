@@ -278,9 +278,16 @@ void RefusalsTest::missingFormPrintsAllTheSame()
 // Neither a crash nor Qt's advice to install the program again.
 void RefusalsTest::noDisplay()
 {
-    verifyRefusal(runInShell(u"env -u QT_QPA_PLATFORM -u DISPLAY -u WAYLAND_DISPLAY \"$@\""_s, {samplePhoto}),
-                  1, {u"no display"_s, u"--batch"_s});
-    verifyRefusal(runProgram({samplePhoto}, {{u"QT_QPA_PLATFORM"_s, u"nonesuch"_s}}), 1, {u"cannot start"_s});
+    const QString without = u"env -u QT_QPA_PLATFORM -u DISPLAY -u WAYLAND_DISPLAY -u XDG_RUNTIME_DIR "_s;
+    for (const QString &variables : {QString(), u"DISPLAY= "_s, u"WAYLAND_DISPLAY=wayland-9 "_s})
+        verifyRefusal(runInShell(without + variables + u"\"$@\""_s, {samplePhoto}), 1,
+                      {u"no display"_s, u"--batch"_s});
+    verifyRefusal(runInShell(without + u"DISPLAY=:987 LANG=C.UTF-8 LANGUAGE=de \"$@\""_s, {samplePhoto}), 1,
+                  {u"\u201e:987\u201c"_s, u"--batch"_s});
+    verifyRefusal(runProgram({samplePhoto}, {{u"QT_QPA_PLATFORM"_s, u"nonesuch"_s}}), 1,
+                  {u"cannot start"_s, u"\"nonesuch\""_s});
+    verifyRefusal(runProgram({u"--ppd"_s, u"/nonexistent.ppd"_s}, {{u"QT_QPA_PLATFORM"_s, u"offscreen"_s}}),
+                  1, {u"/nonexistent.ppd"_s});
     // A window that nobody can see waits for ever.
     const ProgramRun unseen = runInShell(
         u"cd '%1' && mkfifo err && { QT_QPA_PLATFORM=offscreen \"$@\" 2>err & head -n 1 err; kill $!; }"_s
