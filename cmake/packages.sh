@@ -50,7 +50,7 @@ corvel_install() {
 corvel_apt() {
     local output waited=0
     until output=$("$@" 2>&1 </dev/null); do
-        if ! grep -qE 'Could not get lock|Unable to (lock|acquire the dpkg)' <<<"$output" ||
+        if ! grep -qE 'Could not get lock|is another process using it' <<<"$output" ||
                 [ "$waited" -ge "${CORVEL_APT_PATIENCE:-600}" ]; then
             tail -n 5 <<<"$output" >&2
             return 1

@@ -60,3 +60,10 @@ open(sys.argv[2]).read()' "$folder/$lock" "$folder/end" &
     wait "$installing"
     expect "$lock is freed" "$(cat "$folder/output")" "at work" "Unable to locate package no-such-package" "$missing"
 done
+
+# Nobody holds a lock that cannot even be opened, as in a folder of another user's.
+rm -f "$folder/lists/lock"
+mkdir "$folder/lists/lock"
+output=$(CORVEL_APT_PATIENCE=1 corvel_install no-such-package 2>&1) && exit 1
+expect "a lock that cannot be opened" "$output" "Could not open lock file" "$missing"
+[[ $output != *"Another package manager"* ]] || { printf 'waits for nobody:\n%s\n' "$output"; exit 1; }
