@@ -55,14 +55,6 @@ Failure<OutputFault> outputFailure(int error, const QString &path)
                               "Rename it, or choose another folder."),
             error, path);
     case ENAMETOOLONG:
-        if (path.contains(QChar::ReplacementCharacter))
-            return failureWith(
-                OutputFault::NameTooLong,
-                QT_TRANSLATE_NOOP(
-                    "printdialog::OutputFault",
-                    "The name \"%1\" is too long: the photo's name has bytes that are not UTF-8, and "
-                    "each becomes a longer character. Rename the photo."),
-                error, path);
         return failureWith(
             OutputFault::NameTooLong,
             QT_TRANSLATE_NOOP("printdialog::OutputFault",

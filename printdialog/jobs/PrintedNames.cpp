@@ -10,11 +10,33 @@
 
 #include <fcntl.h>
 #include <sys/stat.h>
+#include <unistd.h>
+
+#include <climits>
 
 namespace printdialog {
+namespace {
+
+/// A folder that has yet to be made most likely allows the usual length.
+qsizetype longestNameIn(const QString &folder)
+{
+    const long bytes = ::pathconf(bytesOfFileName(folder).constData(), _PC_NAME_MAX);
+    return (bytes > 0 ? bytes : NAME_MAX) - PrintedNames::ticketSuffix.size();
+}
+
+/// As much of the beginning as takes no more bytes than that.
+QString shortened(QString text, qsizetype bytes)
+{
+    while (!text.isEmpty() && bytesOfFileName(text).size() > bytes)
+        text.chop(text.back().isLowSurrogate() ? 2 : 1);
+    return text;
+}
+
+} // namespace
 
 PrintedNames::PrintedNames(const OutputFolder &folder)
     : folder_(folder)
+    , longestName_(longestNameIn(folder.path))
 {
     for (const QString &photo : folder.photos) {
         const QByteArray path = bytesOfFileName(photo);
@@ -34,9 +56,11 @@ QString PrintedNames::nameFor(const QString &photoPath) const
         base.remove(0, 1);
     if (base.isEmpty())
         base = QStringLiteral("photo");
-    QString name = base;
-    for (int number = 2; !isFree(name); ++number)
-        name = QStringLiteral("%1-%2").arg(base).arg(number);
+    QString name = shortened(base, longestName_);
+    for (int number = 2; !isFree(name); ++number) {
+        const QString ending = QStringLiteral("-%1").arg(number);
+        name = shortened(base, longestName_ - ending.size()) + ending;
+    }
     return name;
 }
 

@@ -33,7 +33,7 @@ public:
     const OutputFolder &folder() const { return folder_; }
     /// The name for a photo's files, without suffix: the photo's file name without its last suffix, control
     /// characters and leading dots; "photo" when nothing is left. `photo-2`, `photo-3`, ... when one of the
-    /// two is taken.
+    /// two is taken. Of a long name, only as much as the folder allows.
     QString nameFor(const QString &photoPath) const;
     /// This run has given the name to its files, or another program has taken it.
     void markTaken(const QString &name) { taken_.insert(name); }
@@ -44,6 +44,7 @@ private:
     bool isFree(const QString &name) const;
 
     OutputFolder folder_;
+    qsizetype longestName_; ///< In bytes, without suffix.
     QSet<FileIdentity> photos_;
     QSet<QString> taken_;
 };

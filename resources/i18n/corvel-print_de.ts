@@ -1457,10 +1457,6 @@ Beispiele:
         <translation>„%1“ konnte nicht geschrieben werden: %2. Prüfen Sie den Datenträger oder wählen Sie einen anderen Ordner.</translation>
     </message>
     <message>
-        <source>The name &quot;%1&quot; is too long: the photo&apos;s name has bytes that are not UTF-8, and each becomes a longer character. Rename the photo.</source>
-        <translation>Der Name „%1“ ist zu lang: Im Namen des Fotos sind Bytes, die kein UTF-8 sind, und jedes wird zu einem längeren Zeichen. Benennen Sie das Foto um.</translation>
-    </message>
-    <message>
         <source>There is no space for &quot;%1&quot;: your quota on this disk is used up. Delete other files of yours, or choose another folder.</source>
         <translation>Für „%1“ ist kein Platz: Ihr Kontingent auf diesem Datenträger ist aufgebraucht. Löschen Sie andere Dateien oder wählen Sie einen anderen Ordner.</translation>
     </message>

@@ -1456,10 +1456,6 @@ Ejemplos:
         <translation>No se ha podido escribir «%1»: %2. Compruebe el disco o elija otra carpeta.</translation>
     </message>
     <message>
-        <source>The name &quot;%1&quot; is too long: the photo&apos;s name has bytes that are not UTF-8, and each becomes a longer character. Rename the photo.</source>
-        <translation>El nombre «%1» es demasiado largo: el nombre de la foto tiene bytes que no son UTF-8 y cada uno se convierte en un carácter más largo. Cambie el nombre de la foto.</translation>
-    </message>
-    <message>
         <source>There is no space for &quot;%1&quot;: your quota on this disk is used up. Delete other files of yours, or choose another folder.</source>
         <translation>No hay espacio para «%1»: su cuota en este disco está agotada. Elimine otros archivos suyos o elija otra carpeta.</translation>
     </message>

@@ -1457,10 +1457,6 @@ Exemples&#x202f;:
         <translation>«&#x202f;%1&#x202f;» n’a pas pu être écrit&#x202f;: %2. Vérifiez le disque ou choisissez un autre dossier.</translation>
     </message>
     <message>
-        <source>The name &quot;%1&quot; is too long: the photo&apos;s name has bytes that are not UTF-8, and each becomes a longer character. Rename the photo.</source>
-        <translation>Le nom «&#x202f;%1&#x202f;» est trop long&#x202f;: le nom de la photo contient des octets qui ne sont pas de l’UTF-8, et chacun devient un caractère plus long. Renommez la photo.</translation>
-    </message>
-    <message>
         <source>There is no space for &quot;%1&quot;: your quota on this disk is used up. Delete other files of yours, or choose another folder.</source>
         <translation>Il n’y a pas de place pour «&#x202f;%1&#x202f;»&#x202f;: votre quota sur ce disque est épuisé. Supprimez d’autres fichiers à vous, ou choisissez un autre dossier.</translation>
     </message>

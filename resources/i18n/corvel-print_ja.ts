@@ -1454,10 +1454,6 @@ Examples:
         <translation>「%1」に書き込めませんでした: %2。ディスクを確認するか、別のフォルダーを選んでください。</translation>
     </message>
     <message>
-        <source>The name &quot;%1&quot; is too long: the photo&apos;s name has bytes that are not UTF-8, and each becomes a longer character. Rename the photo.</source>
-        <translation>名前「%1」は長すぎます。写真の名前に UTF-8 でないバイトがあり、それぞれがより長い文字になります。写真の名前を変えてください。</translation>
-    </message>
-    <message>
         <source>There is no space for &quot;%1&quot;: your quota on this disk is used up. Delete other files of yours, or choose another folder.</source>
         <translation>「%1」のための空きがありません。このディスクでの割り当て量を使い切っています。ほかのファイルを削除するか、別のフォルダーを選んでください。</translation>
     </message>

@@ -174,6 +174,13 @@ void BuiltInPrinterTest::names_data()
     QTest::newRow("nothing but a suffix") << u"/a/.jpg"_s << u"photo"_s;
     QTest::newRow("controls and turned text") << u"/a/x\r\n\u202egpj\u2028.jpg"_s << u"x gpj"_s;
     QTest::newRow("taken twice") << u"/a/taken.jpg"_s << u"taken-3"_s;
+    // The longest name has 255 bytes.
+    QTest::newRow("long") << u"/a/"_s + QString(250, u'n') + u".jpg"_s << QString(243, u'n');
+    QTest::newRow("long, of large characters")
+        << u"/a/"_s + u"\U0001f600"_s.repeated(62) + u".jpg"_s << u"\U0001f600"_s.repeated(60);
+    QTest::newRow("long, of bytes that are no text")
+        << u"/a/"_s + QString(100, QChar(0xdce4)) + u".jpg"_s << QString(81, QChar::ReplacementCharacter);
+    QTest::newRow("long and taken") << u"/a/"_s + QString(250, u't') << QString(241, u't') + u"-2"_s;
 }
 
 void BuiltInPrinterTest::names()
@@ -183,6 +190,7 @@ void BuiltInPrinterTest::names()
     PrintedNames names({folder_->path()});
     names.markTaken(u"taken"_s);
     names.markTaken(u"taken-2"_s);
+    names.markTaken(QString(243, u't'));
     QCOMPARE(names.nameFor(photo), name);
 }
 
@@ -199,7 +207,7 @@ void BuiltInPrinterTest::failuresLeaveNothing_data()
         << u"locked/new"_s << u"locked/new"_s << OutputFault::NotWritable;
     QTest::newRow("folder in the ticket's place")
         << u"taken"_s << u"photo.ticket.json"_s << OutputFault::NameTaken;
-    QTest::newRow("name too long") << u"new/out"_s << u"nnn.ticket.json"_s << OutputFault::NameTooLong;
+    QTest::newRow("name too long") << QString(300, u'n') << u"nnn"_s << OutputFault::NameTooLong;
     QTest::newRow("disk full, in new folders") << u"new/out"_s << u"photo.pdf"_s << OutputFault::DiskFull;
     QTest::newRow("disk full, over an earlier pair") << u"pair"_s << u"photo.pdf"_s << OutputFault::DiskFull;
     QTest::newRow("damaged photo") << u"pair"_s << u"photo.jpg"_s << OutputFault::PhotoUnusable;
@@ -221,9 +229,8 @@ void BuiltInPrinterTest::failuresLeaveNothing()
     const QByteArray content = fault == OutputFault::PhotoUnusable
                                    ? samples::undecodableJpeg()
                                    : samples::encoded(samples::quarters(QSize(300, 200)), "jpeg");
-    const QString source = fault == OutputFault::NameTooLong ? QString(250, u'n') : u"photo"_s;
-    samples::store(pathOf(source + u".jpg"_s), content);
-    const auto photo = Photo::open(pathOf(source + u".jpg"_s));
+    samples::store(pathOf(u"photo.jpg"_s), content);
+    const auto photo = Photo::open(pathOf(u"photo.jpg"_s));
     QVERIFY(photo);
     PrintJob job = usualJob();
     if (fault == OutputFault::PageUnusable)
