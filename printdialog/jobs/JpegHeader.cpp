@@ -17,6 +17,8 @@ enum Marker : int {
     ProgressiveFrame = 0xc2,
     HuffmanTables = 0xc4,
     FrameExtension = 0xc8,
+    ArithmeticFrame = 0xc9,
+    ProgressiveArithmeticFrame = 0xca,
     ArithmeticTables = 0xcc,
     LastFrame = 0xcf,
     FirstRestart = 0xd0,
@@ -110,7 +112,9 @@ private:
         if (header_.size.isEmpty() || components == 0 || content.size() < 6 + 3 * components)
             return false;
         namesRgb_ = components == 3 && at(6) == 'R' && at(9) == 'G' && at(12) == 'B';
-        isPlain_ = isPlain_ && marker <= ProgressiveFrame && at(0) == 8;
+        header_.isUsual = at(0) == 8 && (marker <= ProgressiveFrame || marker == ArithmeticFrame ||
+                                         marker == ProgressiveArithmeticFrame);
+        isPlain_ = isPlain_ && header_.isUsual && marker <= ProgressiveFrame;
         return true;
     }
 

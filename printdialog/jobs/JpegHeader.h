@@ -33,6 +33,9 @@ struct JpegHeader
     /// Whether every PDF reader shows these very bytes as they are meant, when it is told what they are:
     /// grey, colour or CMYK of 8 bits, sequential or progressive, Huffman coded.
     bool isEmbeddable = false;
+    /// Whether decoders know the kind: sequential or progressive with 8 bits. What medical and cinema
+    /// programs write is lossless or has 12 bits.
+    bool isUsual = false;
 
     /// Reads untrusted bytes. They begin with a JPEG signature. Of a complete picture, what follows its end
     /// (a second picture, a film, padding) is not looked at.

@@ -135,6 +135,12 @@ std::optional<Failure<PhotoFault>> Photo::inspectJpeg()
         return truncated();
     if (header.state == JpegHeader::State::Broken)
         return broken(QStringLiteral("the JPEG segments make no picture"));
+    if (!header.isUsual)
+        return Failure<PhotoFault>{PhotoFault::UnknownType,
+                                   tr("\"%1\" is a JPEG of a rare kind, lossless or with more than 8 bits, "
+                                      "which cannot be printed. Save it as a usual JPEG in a photo program.")
+                                       .arg(plainText(path_)),
+                                   {}};
     storedSize_ = header.size;
     orientation_ = header.orientation;
     resolution_ = header.resolution;

@@ -1521,6 +1521,10 @@ Beispiele:
         <source>&quot;%1&quot; is an interlaced PNG of %2 x %3 pixels, which takes too much memory. Save it without interlacing, or as JPEG.</source>
         <translation>„%1“ ist ein PNG mit Zeilensprung (interlaced) und %2 x %3 Pixeln, das zu viel Speicher braucht. Speichern Sie es ohne Zeilensprung oder als JPEG.</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; is a JPEG of a rare kind, lossless or with more than 8 bits, which cannot be printed. Save it as a usual JPEG in a photo program.</source>
+        <translation>„%1“ ist ein JPEG einer seltenen Art, verlustfrei oder mit mehr als 8 Bit, die sich nicht drucken lässt. Speichern Sie es in einem Fotoprogramm als gewöhnliches JPEG.</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::PhotoFile</name>

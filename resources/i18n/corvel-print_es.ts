@@ -1520,6 +1520,10 @@ Ejemplos:
         <source>&quot;%1&quot; is an interlaced PNG of %2 x %3 pixels, which takes too much memory. Save it without interlacing, or as JPEG.</source>
         <translation>«%1» es un PNG entrelazado de %2 x %3 píxeles, que necesita demasiada memoria. Guárdela sin entrelazado o como JPEG.</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; is a JPEG of a rare kind, lossless or with more than 8 bits, which cannot be printed. Save it as a usual JPEG in a photo program.</source>
+        <translation>«%1» es un JPEG de un tipo poco común, sin pérdidas o de más de 8 bits, que no se puede imprimir. Guárdelo como JPEG corriente en un programa de fotos.</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::PhotoFile</name>

@@ -1521,6 +1521,10 @@ Exemples&#x202f;:
         <source>&quot;%1&quot; is an interlaced PNG of %2 x %3 pixels, which takes too much memory. Save it without interlacing, or as JPEG.</source>
         <translation>«&#x202f;%1&#x202f;» est un PNG entrelacé de %2 x %3 pixels, qui demande trop de mémoire. Enregistrez-la sans entrelacement, ou en JPEG.</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; is a JPEG of a rare kind, lossless or with more than 8 bits, which cannot be printed. Save it as a usual JPEG in a photo program.</source>
+        <translation>«&#x202f;%1&#x202f;» est un JPEG d’un type rare, sans perte ou de plus de 8 bits, qui ne peut pas être imprimé. Enregistrez-le comme JPEG ordinaire dans un logiciel de photo.</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::PhotoFile</name>

@@ -1518,6 +1518,10 @@ Examples:
         <source>&quot;%1&quot; is an interlaced PNG of %2 x %3 pixels, which takes too much memory. Save it without interlacing, or as JPEG.</source>
         <translation>「%1」は %2 x %3 ピクセルのインターレース PNG で、メモリを使いすぎます。インターレースなしか、JPEG で保存してください。</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; is a JPEG of a rare kind, lossless or with more than 8 bits, which cannot be printed. Save it as a usual JPEG in a photo program.</source>
+        <translation>「%1」は、可逆圧縮または 8 ビットを超える特殊な JPEG で、印刷できません。写真ソフトで通常の JPEG として保存してください。</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::PhotoFile</name>

@@ -178,8 +178,8 @@ QByteArray redCmykJpeg()
 QByteArray undecodableJpeg()
 {
     QByteArray jpeg = encoded(quarters(QSize(300, 200)), "jpeg");
-    jpeg[jpeg.indexOf("\xff\xc0") + 4] = 12;
-    return jpeg;
+    jpeg[jpeg.indexOf("\xff\xc0") + 12] = 3; // no such quantization table
+    return jpeg.insert(2, "\xff\xff");       // which not every PDF program skips
 }
 
 void store(const QString &path, const QByteArray &content)
