@@ -63,8 +63,9 @@ Result<QByteArray, PpdFault> expanded(const QByteArray &compressed, const QStrin
         stream.avail_out = chunk.size();
         const int status = inflate(&stream, Z_NO_FLUSH);
         bytes.append(chunk.data(), static_cast<qsizetype>(chunk.size() - stream.avail_out));
-        // A file may hold several of them, one behind the other.
-        const bool goesOn = status == Z_STREAM_END && stream.avail_in > 0;
+        // A file may hold several of them, one behind the other; what follows the last one is padding.
+        const bool goesOn = status == Z_STREAM_END && stream.avail_in >= 2 && stream.next_in[0] == 0x1f &&
+                            stream.next_in[1] == 0x8b;
         if (status == Z_STREAM_END && !goesOn)
             return bytes;
         if (goesOn ? inflateReset(&stream) != Z_OK : status == Z_BUF_ERROR)
