@@ -88,6 +88,22 @@ void localizeAccessibleTexts(QWidget *view, const Bundle &bundle)
         view->setAccessibleDescription(bundle.localizedString(view->accessibleDescription()));
 }
 
+/// Enlarges what is placed by hand as far as the font is larger than the form has room for.
+void fitToFont(QWidget *view, const QList<QWidget *> &views)
+{
+    const int lineHeight = view->property("lineHeight").toInt();
+    const double factor = lineHeight > 0 ? double(view->fontMetrics().height()) / lineHeight : 1;
+    if (factor <= 1)
+        return;
+    for (QWidget *each : views) {
+        const bool isPlacedByHand = each == view || !each->parentWidget()->layout();
+        const QRect area = each->geometry();
+        if (isPlacedByHand)
+            each->setGeometry(
+                QRectF(area.topLeft().toPointF() * factor, area.size().toSizeF() * factor).toRect());
+    }
+}
+
 } // namespace
 
 std::unique_ptr<QWidget> loadForm(const Bundle &bundle, const QString &name, KeyValueObject *owner)
@@ -103,6 +119,7 @@ std::unique_ptr<QWidget> loadForm(const Bundle &bundle, const QString &name, Key
         return nullptr;
     QList<QWidget *> views = view->findChildren<QWidget *>();
     views.prepend(view.get());
+    fitToFont(view.get(), views);
     for (QWidget *each : std::as_const(views)) {
         connectToOwner(each, owner);
         localizeAccessibleTexts(each, bundle);

@@ -21,7 +21,9 @@ class KeyValueObject;
 /// descriptions are keys of the bundle's strings table and are localised here. Controls are bound to the
 /// owner's values (bindControls). A text field whose property `numberOf` names a slider takes numbers as
 /// people type them, with the user's decimal separator, and says the slider's range, which a label whose
-/// property `rangeOf` names the slider shows. The form's root is the view, named `PDEView`.
+/// property `rangeOf` names the slider shows. The form's root is the view, named `PDEView`. Where its widgets
+/// are placed by hand, its property `lineHeight` says for which height of a line of text, in pixels, there is
+/// room: with a larger font all of it grows alike.
 ///
 /// Null when the bundle has no such form, or it cannot be read as one. Throws PlatformException when the form
 /// names an action that `owner` does not have.
