@@ -137,6 +137,12 @@ void CupsConnection::extend()
         socketLimit_->setDeadline(deadline_);
 }
 
+void CupsConnection::extend(std::chrono::milliseconds limit)
+{
+    limit_ = limit;
+    extend();
+}
+
 bool CupsConnection::isCancelled() const
 {
     return cancel_ && std::atomic_ref(*cancel_).load() != 0;

@@ -39,6 +39,8 @@ public:
     bool isOpen() const { return socketLimit_ != nullptr; }
     /// Starts the time limit anew, after progress.
     void extend();
+    /// Starts another one.
+    void extend(std::chrono::milliseconds limit);
     /// Why nobody was reached, for people.
     QString unreachableReason() const;
 

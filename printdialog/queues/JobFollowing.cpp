@@ -106,17 +106,20 @@ public:
 
     Result<JobStatus, QueueFault> follow(const std::function<void(const JobStatus &)> &news)
     {
-        const auto start = Clock::now();
         std::optional<JobStatus> last;
-        auto changed = start;
-        auto moved = start; // when it was last seen not to wait
-        auto heard = start;
+        auto changed = start_;
+        auto moved = start_; // when it was last seen not to wait
+        auto heard = start_;
         for (auto interval = std::chrono::milliseconds(firstInterval);;) {
             const auto status = look();
             const auto now = Clock::now();
+            // In the last moments there is no time for an answer.
+            if (!status && last && status.failure().reason == QueueFault::TimedOut &&
+                now - start_ >= limits_.total)
+                return *last;
             if (!status && !isCancelled()) {
                 if (!isAway(status.failure().reason) || now - heard >= limits_.away ||
-                    now - start >= limits_.total)
+                    now - start_ >= limits_.total)
                     return status.failure();
                 JobStatus old = last.value_or(JobStatus());
                 old.isServerAway = true;
@@ -138,7 +141,7 @@ public:
             }
             if (!last || !last->isWaiting())
                 moved = now;
-            if (isCancelled() || (last && last->isOver()) || now - start >= limits_.total ||
+            if (isCancelled() || (last && last->isOver()) || now - start_ >= limits_.total ||
                 now - changed >= limits_.quiet || now - moved >= limits_.waiting)
                 return last.value_or(JobStatus());
             pause(interval);
@@ -162,15 +165,25 @@ private:
             std::this_thread::sleep_for(std::min<Clock::duration>(cancelInterval, end - Clock::now()));
     }
 
+    /// For one look, the last one, too, at a server that is busy. It is shown, and so without odd
+    /// milliseconds.
+    std::chrono::milliseconds patience() const
+    {
+        using Tenths = std::chrono::duration<std::chrono::milliseconds::rep, std::deci>;
+        const auto left = std::chrono::ceil<Tenths>(start_ + limits_.total - Clock::now());
+        return std::clamp<std::chrono::milliseconds>(
+            left, std::min<std::chrono::milliseconds>(1s, limits_.silent), limits_.silent);
+    }
+
     /// A connection is kept as long as it lasts: servers close those that were idle.
     Result<JobStatus, QueueFault> look()
     {
         if (connection_) {
-            connection_->extend();
+            connection_->extend(patience());
             if (auto status = lookOver(*connection_))
                 return status;
         }
-        connection_ = std::make_unique<CupsConnection>(limits_.silent, cancel_);
+        connection_ = std::make_unique<CupsConnection>(patience(), cancel_);
         if (!connection_->isOpen())
             return queueFailure(QueueFault::NoServer, queue_, connection_->unreachableReason());
         return lookOver(*connection_);
@@ -189,6 +202,7 @@ private:
     const FollowLimits &limits_;
     int *cancel_;
     std::unique_ptr<CupsConnection> connection_;
+    const Clock::time_point start_ = Clock::now();
     bool wasAway_ = false; // since it was last heard
 };
 

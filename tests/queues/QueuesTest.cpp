@@ -190,6 +190,12 @@ void QueuesTest::badServerCostsOneSentenceInTime()
     QVERIFY(!job);
     QCOMPARE(job.failure().reason, fault);
 
+    FollowLimits limits;
+    limits.total = 300ms;
+    timer.start();
+    QVERIFY(!followJob(u"photo"_s, 1, limits));
+    QVERIFY(timer.elapsed() < 1500);
+
     // Given up by another thread while the server keeps it waiting.
     int cancel = 0;
     std::thread canceller([&cancel] {
