@@ -37,8 +37,8 @@ struct OpenedQueue
 Result<OpenedQueue, QueueFault> queueNamed(const QString &id, std::chrono::milliseconds limit);
 
 /// Whether a failure of one of these says that this machine prints nowhere: its print server is one of its
-/// own, and nobody listens there. Any other server that cannot be asked may have the user's printer. Reads
-/// the configuration of CUPS.
+/// own, on CUPS' usual port or socket, and nobody listens there. Any other server that cannot be asked may
+/// have the user's printer. Reads the configuration of CUPS.
 bool isWithoutPrintServer(const Failure<QueueFault> &failure);
 
 /// Where the print server of this process is asked: a socket's path, or "host:port". Reads the configuration

@@ -13,7 +13,8 @@ namespace {
 
 QString label(const Queue &queue)
 {
-    const QString id = PresetName::ofInstance(queue.id());
+    const QString preset = PresetName::ofInstance(queue.instance);
+    const QString id = preset.isEmpty() ? queue.name : queue.name + u'/' + preset;
     if (queue.info.isEmpty() || queue.info == queue.id())
         return id;
     return queue.isBuiltIn ? queue.info : PrinterChooser::tr("%1 (%2)").arg(queue.info, id);

@@ -237,7 +237,7 @@ void StubServer::misbehave(int client)
         QByteArray answer = successfulHead + '\x04' + attribute(0x42, "printer-name", "photo") +
                             attribute(0x44, "printer-state-reasons", "none");
         for (int i = 0; i < (isQueues ? 10000 : 40000); ++i)
-            answer += isQueues ? '\x04' + attribute(0x42, "printer-name", QByteArray::number(i))
+            answer += isQueues ? '\x04' + attribute(0x42, "printer-name", QByteArray::number(i) + "%20")
                                : attribute(0x44, {}, QByteArray::number(i));
         put(client, whole(answer + endOfAttributes));
         break;

@@ -38,7 +38,7 @@ public:
         EndlessChunks,    ///< A whole answer, and then chunks without end.
 
         ManyReasons,  ///< A printer in 40,000 sorts of trouble.
-        ManyQueues,   ///< 10,000 of them.
+        ManyQueues,   ///< 10,000 of them, "0%20" to "9999%20".
         JobBelowZero, ///< Gives every job the number -1.
         OddNames      ///< Has the queues "good", "go\tod", "a/b" and one with a name that is not UTF-8.
     };

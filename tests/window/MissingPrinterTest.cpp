@@ -115,6 +115,8 @@ void MissingPrinterTest::presetThatIsNotThere()
         QTRY_VERIFY2(said().startsWith(u"The printer \"%1\" has no preset \"matte\""_s.arg(printer)),
                      qPrintable(said()));
         QCOMPARE(opened.dialog->isReady(), isBuiltIn);
+        // Only presets have their names mapped.
+        QTRY_VERIFY(opened.find<QComboBox>(u"printer"_s)->findText(u"7%20"_s) > 0);
     }
 }
 
