@@ -96,9 +96,10 @@ void QueueFinder::takeQueues(const QList<Queue> &queues)
     const QHash<QString, Queue> later = byId(queues);
     lastFailure_.clear();
     isWithoutPrintServer_ = false;
-    for (const Queue &queue : before) {
-        if (isCurrent() && !later.contains(queue.id()))
-            Q_EMIT queueRemoved(queue.id());
+    // The last one first, so that nobody has to move the others up for each.
+    for (auto queue = before.crbegin(); queue != before.crend(); ++queue) {
+        if (isCurrent() && !later.contains(queue->id()))
+            Q_EMIT queueRemoved(queue->id());
     }
     for (const Queue &queue : queues) {
         const auto known = earlier.constFind(queue.id());

@@ -132,6 +132,8 @@ void PrinterChooser::drop(int index)
 {
     indexes_.remove(itemData(index).value<Queue>().id());
     removeItem(index);
+    if (index == count())
+        return;
     for (int &later : indexes_) {
         if (later > index)
             --later;

@@ -2,12 +2,16 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include "OpenedDialog.h"
+#include "PrinterChooser.h"
 #include "StubServer.h"
 #include "SystemLog.h"
 
 #include <QtTest/QTest>
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QPushButton>
+
+#include <chrono>
+#include <ctime>
 
 using namespace printdialog;
 using namespace testing_support;
@@ -25,6 +29,7 @@ private Q_SLOTS:
     void defaultThatIsNotThere();
     void noDefaultKnown();
     void presetThatIsNotThere();
+    void manyQueuesThatGoAtOnce();
 
 private:
     std::unique_ptr<QTemporaryDir> home_;
@@ -118,6 +123,25 @@ void MissingPrinterTest::presetThatIsNotThere()
         // Only presets have their names mapped.
         QTRY_VERIFY(opened.find<QComboBox>(u"printer"_s)->findText(u"7%20"_s) > 0);
     }
+}
+
+void MissingPrinterTest::manyQueuesThatGoAtOnce()
+{
+    auto server = std::make_unique<StubServer>(StubServer::Manner::ManyQueues);
+    const OpenedDialog opened(PanelMode::Constraint);
+    auto *chooser = opened.find<PrinterChooser>(u"printer"_s);
+    chooser->search(std::nullopt);
+    QTRY_COMPARE_WITH_TIMEOUT(chooser->count(), 10'001, 20'000);
+    const auto timeHere = [] {
+        timespec time = {};
+        clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
+        return std::chrono::seconds(time.tv_sec) + std::chrono::nanoseconds(time.tv_nsec);
+    };
+    const auto start = timeHere();
+    server.reset();
+    server = std::make_unique<StubServer>(StubServer::Manner::OddNames);
+    QTRY_COMPARE_WITH_TIMEOUT(chooser->count(), 2, 20'000);
+    QVERIFY(timeHere() - start < std::chrono::seconds(1));
 }
 
 QTEST_MAIN(MissingPrinterTest)
