@@ -73,7 +73,7 @@ constexpr std::array optionRows = {
               QT_TRANSLATE_NOOP("CommandLine", "show exactly what --batch would send, and send nothing")},
     OptionRow{"no-check", nullptr,
               QT_TRANSLATE_NOOP("CommandLine",
-                                "--batch and --dry-run do not look for damage in JPEG photos,\n"
+                                "--batch and --dry-run do not look for damage in photos,\n"
                                 "and print what is left of them")},
     OptionRow{"wait", "SECONDS",
               QT_TRANSLATE_NOOP("CommandLine",

@@ -56,10 +56,10 @@ public:
     /// Whether the compressed pixels of content(), a JPEG or PNG file, can go into a PDF as they are.
     bool isEmbeddable() const { return isEmbeddable_; }
 
-    /// Whether the pixels are damaged behind headers that are sound. Looks at all of a JPEG's when it is
-    /// first asked (see jpegDamage), which copies of this photo then need not do again; a PNG's checksums
-    /// were looked at when it was opened. Of other formats nothing is known before they are decoded. Fault:
-    /// Damaged.
+    /// Whether the pixels are damaged behind headers that are sound. Looks at all of a JPEG's (see
+    /// jpegDamage) or WebP file's when it is first asked, which copies of this photo then need not do again;
+    /// a PNG's checksums were looked at when it was opened. Of other formats nothing is known before they are
+    /// decoded. Fault: Damaged.
     std::optional<Failure<PhotoFault>> damage() const;
     /// Whether damage() answers at once.
     bool isChecked() const;
@@ -84,6 +84,7 @@ private:
     std::optional<Failure<PhotoFault>> inspectHeif();
     std::optional<Failure<PhotoFault>> inspectOther();
     std::optional<Failure<PhotoFault>> checkPixels() const;
+    std::optional<QString> findDamage() const;
     QImage decodedWithin(const QSize &storedBound, QString &error) const;
     Failure<PhotoFault> truncated() const;
 

@@ -242,9 +242,9 @@ die neuen zu nummerieren; ein Foto wird nie ersetzt</translation>
         <translation>„%1“ ist keine Datei auf diesem Computer; kopieren Sie das Foto zuerst hierher.</translation>
     </message>
     <message>
-        <source>--batch and --dry-run do not look for damage in JPEG photos,
+        <source>--batch and --dry-run do not look for damage in photos,
 and print what is left of them</source>
-        <translation>--batch und --dry-run prüfen JPEG-Fotos nicht auf Schäden
+        <translation>--batch und --dry-run prüfen Fotos nicht auf Schäden
 und drucken, was von ihnen übrig ist</translation>
     </message>
     <message>

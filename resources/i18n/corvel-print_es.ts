@@ -242,9 +242,9 @@ en lugar de numerar los nuevos; una foto nunca se reemplaza</translation>
         <translation>«%1» no es un archivo de este equipo; copie primero la foto aquí.</translation>
     </message>
     <message>
-        <source>--batch and --dry-run do not look for damage in JPEG photos,
+        <source>--batch and --dry-run do not look for damage in photos,
 and print what is left of them</source>
-        <translation>--batch y --dry-run no buscan daños en las fotos JPEG
+        <translation>--batch y --dry-run no buscan daños en las fotos
 e imprimen lo que queda de ellas</translation>
     </message>
     <message>

@@ -242,10 +242,10 @@ au lieu de numéroter les nouveaux&#x202f;; une photo n’est jamais remplacée<
         <translation>«&#x202f;%1&#x202f;» n’est pas un fichier de cet ordinateur&#x202f;; copiez d’abord la photo ici.</translation>
     </message>
     <message>
-        <source>--batch and --dry-run do not look for damage in JPEG photos,
+        <source>--batch and --dry-run do not look for damage in photos,
 and print what is left of them</source>
-        <translation>--batch et --dry-run ne cherchent pas de dommages dans les photos
-JPEG et impriment ce qu’il en reste</translation>
+        <translation>--batch et --dry-run ne cherchent pas de dommages dans les
+photos et impriment ce qu’il en reste</translation>
     </message>
     <message>
         <source>--no-check is for --batch and --dry-run.</source>

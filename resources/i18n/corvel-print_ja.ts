@@ -242,9 +242,9 @@ instead of numbering the new ones; a photo is never replaced</source>
         <translation>「%1」はこのコンピューターのファイルではありません。先に写真をコピーしてください。</translation>
     </message>
     <message>
-        <source>--batch and --dry-run do not look for damage in JPEG photos,
+        <source>--batch and --dry-run do not look for damage in photos,
 and print what is left of them</source>
-        <translation>--batch と --dry-run で JPEG 写真の破損を調べず、
+        <translation>--batch と --dry-run で写真の破損を調べず、
 残っている部分を印刷する</translation>
     </message>
     <message>

@@ -13,6 +13,7 @@
 #include <QtCore/QTemporaryDir>
 #include <QtCore/QTemporaryFile>
 #include <QtCore/QtEndian>
+#include <QtGui/QImageWriter>
 #include <QtTest/QTest>
 
 #include <sys/resource.h>
@@ -304,6 +305,12 @@ void PhotoTest::damagedPixels_data()
     const QByteArray png = samples::encoded(samples::grain(QSize(64, 64)), "png");
     QTest::newRow("PNG") << png << false;
     QTest::newRow("PNG with a changed pixel") << withBytes(png, png.indexOf("IDAT") + 300, "?") << true;
+    if (!QImageWriter::supportedImageFormats().contains("webp"))
+        return;
+    const QByteArray webp = samples::encoded(samples::grain(QSize(640, 400)), "webp");
+    QTest::newRow("WebP") << webp << false;
+    QTest::newRow("small WebP") << samples::encoded(samples::quarters(QSize(8, 8)), "webp") << false;
+    QTest::newRow("WebP with a zeroed sector") << withBytes(webp, webp.size() / 2, zeros) << true;
 }
 
 void PhotoTest::damagedPixels()
