@@ -75,7 +75,8 @@ bool ChoiceController::openWithPreset(const QString &instance)
 
 QString ChoiceController::keep(const QMap<QString, QString> &options)
 {
-    noteStep(false); // what took the place of a dropped choice
+    callout_->dismiss(); // the choice that was refused is none of the job's
+    noteStep(false);     // what took the place of a dropped choice
     QMap<QString, QString> choices = options;
     choices.insert(QLatin1String(copiesOption), QString::number(widgets_.copies->value()));
     const auto failure = QueueSettings::save(queueOf(session_->printer()), choices);

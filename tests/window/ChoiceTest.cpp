@@ -180,6 +180,12 @@ void ChoiceTest::calloutGoesByKeyAndByTheNextChoice()
     QVERIFY(callout->isVisible());
     opened.dialog->showPage(0);
     QVERIFY(!callout->isVisible());
+    for (const QString &button : {u"save"_s, u"print"_s}) {
+        opened.dialog->showPage(2);
+        opened.click(u"matte"_s);
+        opened.click(button);
+        QVERIFY(!callout->isVisible());
+    }
 }
 
 void ChoiceTest::offerMakesTheChoiceAndOneStep()
