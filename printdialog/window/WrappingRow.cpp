@@ -38,7 +38,12 @@ WrappingRow::WrappingRow(QWidget *parent)
     setContentsMargins(0, 0, 0, 0);
 }
 
-WrappingRow::~WrappingRow() = default;
+// A layout in the row takes itself out of it when it is deleted.
+WrappingRow::~WrappingRow()
+{
+    while (const QLayoutItem *item = WrappingRow::takeAt(0))
+        delete item;
+}
 
 void WrappingRow::addItem(QLayoutItem *item)
 {

@@ -252,7 +252,9 @@ void QueuesTest::hostileAnswersCostLittle()
     }
     const qint64 cost = peak() - before;
     qInfo("%.1f MiB", static_cast<double>(cost) / 1024 / 1024);
+#ifndef __SANITIZE_ADDRESS__ // which keeps what was freed
     QVERIFY(cost < qint64(64) * 1024 * 1024);
+#endif
 }
 
 void QueuesTest::answersThatMakeNoSense()
