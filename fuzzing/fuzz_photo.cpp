@@ -9,6 +9,7 @@
 #include "PdfWriter.h"
 #include "Photo.h"
 #include "PhotoPlacement.h"
+#include "TiffDamage.h"
 
 #include <QtCore/QBuffer>
 
@@ -36,6 +37,8 @@ void place(const Photo &photo)
     const QSize stored = photo.storedSize();
     if (qint64(stored.width()) * stored.height() > mostPixels)
         return;
+    if (const auto damage = photo.damage())
+        fuzzing::require(!damage->detail.isEmpty(), "damage has a reason");
     QBuffer device;
     device.open(QIODevice::WriteOnly);
     if (PdfWriter::write(photo, page, device, choice))
@@ -52,6 +55,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     const QByteArray bytes = fuzzing::input(data, size);
     const ExifData exif = ExifData::fromTiff(bytes);
     ColourProfile::fromIcc(exif.iccProfile);
+    tiffDamage(bytes); // the picture itself needs a plug-in
     if (exif.resolution)
         fuzzing::require(*exif.resolution > 0, "a resolution is a positive number");
     const auto photo = Photo::open(fuzzing::write(fuzzing::folder() + QLatin1String("/photo"), bytes));

@@ -3,6 +3,8 @@
 
 #include "ExifData.h"
 
+#include "TiffNumbers.h"
+
 #include <cmath>
 
 namespace printdialog {
@@ -22,39 +24,6 @@ constexpr quint32 typeLong = 4;
 constexpr quint32 typeRational = 5;
 constexpr quint32 typeUndefined = 7;
 constexpr qsizetype entrySize = 12;
-
-/// Numbers of a TIFF block in its own byte order; nothing outside the block.
-class TiffNumbers
-{
-public:
-    explicit TiffNumbers(QByteArrayView block)
-        : block_(block)
-        , isBigEndian_(block.startsWith(QByteArrayView("MM\0*", 4)))
-    {
-    }
-
-    bool isTiff() const { return isBigEndian_ || block_.startsWith(QByteArrayView("II*\0", 4)); }
-
-    /// The number of that many bytes, or 0 where the block has ended.
-    quint32 at(qsizetype offset, int bytes) const
-    {
-        if (offset < 0 || offset > block_.size() - bytes)
-            return 0;
-        quint32 number = 0;
-        for (int i = 0; i < bytes; ++i)
-            number = number << 8 | static_cast<quint8>(block_[offset + (isBigEndian_ ? i : bytes - 1 - i)]);
-        return number;
-    }
-
-    QByteArray bytes(qsizetype offset, qsizetype size) const
-    {
-        return offset <= block_.size() - size ? block_.sliced(offset, size).toByteArray() : QByteArray();
-    }
-
-private:
-    QByteArrayView block_;
-    bool isBigEndian_;
-};
 
 /// One entry of a directory.
 struct Entry

@@ -15,6 +15,7 @@
 #include "PngPicture.h"
 #include "PngPixels.h"
 #include "QuietDecoding.h"
+#include "TiffDamage.h"
 #include "WebpChunks.h"
 
 #include <QtCore/QBuffer>
@@ -252,13 +253,15 @@ Failure<PhotoFault> Photo::truncated() const
 
 bool Photo::isChecked() const
 {
-    return (format_ != "jpeg" && format_ != "webp") || verdict_->isThere;
+    return (format_ != "jpeg" && format_ != "webp" && format_ != "tiff") || verdict_->isThere;
 }
 
 std::optional<QString> Photo::findDamage() const
 {
     if (format_ == "jpeg")
         return jpegDamage(content_);
+    if (format_ == "tiff")
+        return tiffDamage(content_);
     // WebP has no checksums, and any bytes decode to some picture. That one hardly ever needs just as many
     // bytes as there are: with fewer, a sound file cannot be decoded. More are missed when it is printed.
     allowDecoding(storedSize_);

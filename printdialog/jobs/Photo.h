@@ -57,9 +57,9 @@ public:
     bool isEmbeddable() const { return isEmbeddable_; }
 
     /// Whether the pixels are damaged behind headers that are sound. Looks at all of a JPEG's (see
-    /// jpegDamage) or WebP file's when it is first asked, which copies of this photo then need not do again;
-    /// a PNG's checksums were looked at when it was opened. Of other formats nothing is known before they are
-    /// decoded. Fault: Damaged.
+    /// jpegDamage), WebP or TIFF file's (see tiffDamage) when it is first asked, which copies of this photo
+    /// then need not do again; a PNG's checksums were looked at when it was opened. Of other formats nothing
+    /// is known before they are decoded. Fault: Damaged.
     std::optional<Failure<PhotoFault>> damage() const;
     /// Whether damage() answers at once.
     bool isChecked() const;

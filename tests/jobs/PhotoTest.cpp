@@ -13,7 +13,6 @@
 #include <QtCore/QTemporaryDir>
 #include <QtCore/QTemporaryFile>
 #include <QtCore/QtEndian>
-#include <QtGui/QImageWriter>
 #include <QtTest/QTest>
 
 #include <sys/resource.h>
@@ -44,8 +43,6 @@ private Q_SLOTS:
     void librariesWriteToTheLog();
     void wholeJpegs_data();
     void wholeJpegs();
-    void damagedPixels_data();
-    void damagedPixels();
     void damagedHeadersAreSafe();
     void orientations_data();
     void orientations();
@@ -268,64 +265,6 @@ void PhotoTest::wholeJpegs()
     QCOMPARE(photo->format(), "jpeg");
     QCOMPARE(photo->isEmbeddable(), isEmbeddable);
     QVERIFY(photo->content() == content);
-}
-
-/// What lies behind sound headers.
-void PhotoTest::damagedPixels_data()
-{
-    QTest::addColumn<QByteArray>("content");
-    QTest::addColumn<bool>("isDamaged");
-
-    const auto withBytes = [](QByteArray content, qsizetype position, const QByteArray &bytes) {
-        return content.replace(position, bytes.size(), bytes);
-    };
-    const QByteArray zeros(2048, '\0');
-    const QByteArray noise = samples::noise(2048);
-    for (const bool isProgressive : {false, true}) {
-        const char *kind = isProgressive ? "progressive JPEG" : "JPEG";
-        const QByteArray jpeg = samples::encoded(samples::grain(QSize(640, 400)), "jpeg", isProgressive);
-        const qsizetype middle = jpeg.size() / 2;
-        QTest::addRow("%s", kind) << jpeg << false;
-        QTest::addRow("%s, padded to a round size", kind)
-            << jpeg.chopped(2) + QByteArray(7, '\0') + jpeg.last(2) << false;
-        QTest::addRow("%s with a zeroed sector", kind) << withBytes(jpeg, middle, zeros) << true;
-        QTest::addRow("%s with another file's sector", kind) << withBytes(jpeg, middle, noise) << true;
-        QTest::addRow("%s, half of it, then its end", kind) << jpeg.first(middle) + jpeg.last(2) << true;
-        QTest::addRow("%s, half of it zeros, then its end", kind)
-            << withBytes(jpeg, middle, QByteArray(jpeg.size() - middle - 2, '\0')) << true;
-    }
-    QTest::newRow("grey JPEG")
-        << samples::encoded(samples::grain(QSize(99, 99)).convertToFormat(QImage::Format_Grayscale8), "jpeg")
-        << false;
-    QTest::newRow("CMYK JPEG") << samples::redCmykJpeg() << false;
-    QByteArray large = samples::encoded(samples::quarters(QSize(64, 64)), "jpeg"); // its steps are immense
-    const QByteArray steps(64, '\xff');
-    large.replace(large.indexOf("\xff\xdb") + 5, 64, steps);
-    QTest::newRow("JPEG of impossible contrast") << large << true;
-    const QByteArray png = samples::encoded(samples::grain(QSize(64, 64)), "png");
-    QTest::newRow("PNG") << png << false;
-    QTest::newRow("PNG with a changed pixel") << withBytes(png, png.indexOf("IDAT") + 300, "?") << true;
-    if (!QImageWriter::supportedImageFormats().contains("webp"))
-        return;
-    const QByteArray webp = samples::encoded(samples::grain(QSize(640, 400)), "webp");
-    QTest::newRow("WebP") << webp << false;
-    QTest::newRow("small WebP") << samples::encoded(samples::quarters(QSize(8, 8)), "webp") << false;
-    QTest::newRow("WebP with a zeroed sector") << withBytes(webp, webp.size() / 2, zeros) << true;
-}
-
-void PhotoTest::damagedPixels()
-{
-    QFETCH(const QByteArray, content);
-    QFETCH(const bool, isDamaged);
-    samples::store(pathOf(u"photo"_s), content);
-    const auto photo = Photo::open(pathOf(u"photo"_s));
-    QVERIFY2(photo, photo ? "" : qPrintable(photo.failure().text));
-    const Photo copy = *photo;
-    const auto damage = photo->damage();
-    QVERIFY2(damage.has_value() == isDamaged, damage ? qPrintable(damage->detail) : "");
-    QVERIFY(copy.isChecked());
-    if (damage)
-        QCOMPARE(damage->reason, PhotoFault::Damaged);
 }
 
 /// Each byte of the headers replaced by values that make lengths, counts and offsets extreme.
