@@ -53,6 +53,7 @@ open(sys.argv[2]).read()' "$folder/$lock" "$folder/end" &
     output=$(CORVEL_APT_PATIENCE=1 corvel_install no-such-package 2>&1) && exit 1
     expect "$lock stays held" "$output" "Another package manager is at work" "lock" "$missing"
 
+    : >"$folder/output" # of the lock before
     corvel_install no-such-package >"$folder/output" 2>&1 {end}>&- &
     installing=$!
     until grep -q "Another package manager" "$folder/output"; do sleep 0.1; done
