@@ -90,6 +90,9 @@ CommandRun InstallTest::run(const QStringList &arguments, const QMap<QString, QS
 
 void InstallTest::holdsNoPathOfTheBuild()
 {
+#ifdef __SANITIZE_ADDRESS__
+    QSKIP("The sanitizers name the places in the sources that they watch.");
+#endif
     const QStringList files = filesIn(prefix_);
     QVERIFY(files.size() > 30);
     for (const QString &path : files) {
