@@ -73,7 +73,12 @@ void MissingPrinterTest::defaultThatIsNotThere()
     setup.ppdFile = std::nullopt;
     const OpenedDialog opened(setup);
     opened.dialog->searchPrinters();
-    QTRY_VERIFY2(opened.dialog->message().contains(reason), qPrintable(opened.dialog->message()));
+    // Under the sanitizers an endless answer reaches its time limit before its size.
+    const QString slow = server == StubServer::Manner::EndlessValues ? u"in time"_s : reason;
+    const auto says = [&opened](const QString &text) {
+        return opened.dialog->message().contains(text);
+    };
+    QTRY_VERIFY2_WITH_TIMEOUT(says(reason) || says(slow), qPrintable(opened.dialog->message()), 10'000);
     QVERIFY2(opened.dialog->message().contains(u"\"mine\""_s), qPrintable(opened.dialog->message()));
     QVERIFY(!opened.dialog->message().contains(u"--"_s)); // no options of the command line
     auto *chooser = opened.find<QComboBox>(u"printer"_s);
