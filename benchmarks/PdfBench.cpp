@@ -40,6 +40,7 @@ QStringList printing(const QString &photo, const QTemporaryDir &folder)
 {
     return {QStringLiteral(CORVEL_PRINT_PROGRAM),
             QStringLiteral("--batch"),
+            QStringLiteral("--overwrite"), // the same files in each run
             QStringLiteral("--printer"),
             QStringLiteral("built-in"),
             QStringLiteral("--output"),
