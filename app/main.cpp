@@ -120,7 +120,7 @@ bool choosePlatform(const CommandLine &commandLine)
     // Pictures of the dialog look the same with and without a display.
     if (commandLine.screenshot)
         return qputenv("QT_QPA_PLATFORM", "offscreen");
-    // A name that is no path is one in that folder, and the library would complain without it.
+    // A name that is not a path is one in that folder, and the library would complain without it.
     const bool hasWayland =
         isSet("WAYLAND_DISPLAY") && (isSet("XDG_RUNTIME_DIR") || qgetenv("WAYLAND_DISPLAY").startsWith('/'));
     return isSet("DISPLAY") || hasWayland;

@@ -25,7 +25,7 @@ namespace {
 constexpr int noteMargin = 4; // pixels
 
 /// Accepts every text, with a point in the place of the locale's decimal separator. QLineEdit asks it before
-/// it tells of an edit, and moves the cursor as it says.
+/// it reports an edit, and moves the cursor as it says.
 class DecimalPoint final : public QValidator
 {
 public:
@@ -113,7 +113,7 @@ void NumberField::noteEdit(const QString &text)
     typed_ = text;
 }
 
-// QLineEdit tells of an edit first, while this panel's text may still be put back, and of the change then.
+// QLineEdit reports an edit first, while this panel's text may still be put back, and of the change then.
 void NumberField::noteChange(const QString &text)
 {
     if (typed_.isNull())

@@ -21,7 +21,7 @@ class Bundle;
 ///
 /// The decimal separator of the field's locale becomes the point, in which a choice is written, as it is
 /// typed or pasted; thousands separators stay. The range, in the field's notation, is the field's accessible
-/// description and stands in a label. When a number that is typed is out of it, and whoever hears of that
+/// description and stands in a label. When a number that is typed is out of it, and the receiver of the edit
 /// puts the text back, a note at the field says the range, and a screen reader says it at once; it goes with
 /// the next edit and when the field is left.
 ///

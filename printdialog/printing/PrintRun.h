@@ -19,18 +19,18 @@ class SentJobs;
 /// What has become of the photos of one run.
 struct PrintOutcome
 {
-    QStringList printed;     ///< A sentence for each photo that was printed, or just sent (isFollowed).
-    QStringList names;       ///< The names of those photos' files, in the same order.
-    QList<int> jobs;         ///< The ids of the jobs that `printed` tells of; none from the built-in printer.
-    QStringList skipped;     ///< A sentence for each photo that cannot be printed; the others were.
-    QStringList waiting;     ///< A sentence for each whose job stands still at the print server.
-    QString failure;         ///< What stopped the rest; empty when nothing did.
-    int total = 0;           ///< How many photos were to be printed.
-    int done = 0;            ///< How many the printer has printed, also of a run that was stopped.
-    bool wasStopped = false; ///< By the user, and nothing of it failed.
-    bool isFollowed = false; ///< The jobs were followed to their end.
-    bool hasDamaged = false; ///< Nothing was printed, since a photo is damaged that nobody has accepted.
-    bool hasOtherPpd = false; ///< The queue's PPD is no more that from which the options were chosen.
+    QStringList printed;      ///< A sentence for each photo that was printed, or just sent (isFollowed).
+    QStringList names;        ///< The names of those photos' files, in the same order.
+    QList<int> jobs;          ///< The ids of the jobs that `printed` names; none from the built-in printer.
+    QStringList skipped;      ///< A sentence for each photo that cannot be printed; the others were.
+    QStringList waiting;      ///< A sentence for each whose job stands still at the print server.
+    QString failure;          ///< What stopped the rest; empty when nothing did.
+    int total = 0;            ///< How many photos were to be printed.
+    int done = 0;             ///< How many the printer has printed, also of a run that was stopped.
+    bool wasStopped = false;  ///< By the user, and nothing of it failed.
+    bool isFollowed = false;  ///< The jobs were followed to their end.
+    bool hasDamaged = false;  ///< Nothing was printed, since a photo is damaged that nobody has accepted.
+    bool hasOtherPpd = false; ///< The queue's PPD is not the one any more from which the options were chosen.
 };
 
 /// How a run is given up. The flags are raised by another thread or a signal handler (libcups looks at them

@@ -95,7 +95,7 @@ private:
     /// one that was idle, and may want encryption or to know who asks.
     bool removesObstacle(const char *method, const QByteArray &resource);
     /// Waits for the head of the answer itself, or only for what comes next: that the server wants the
-    /// document is no answer yet.
+    /// document is not an answer yet.
     enum class Head { Answer, Next };
     void readHead(Head head);
     IppPointer readAnswer();

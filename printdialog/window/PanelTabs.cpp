@@ -74,7 +74,7 @@ void PanelTabs::makePages()
         auto *layout = new QVBoxLayout(holder);
         layout->setContentsMargins(pageMargin, pageMargin, pageMargin, pageMargin);
         pages_.append({panel.get(), holder});
-        // A name is no button's text: an ampersand in it is one.
+        // A name is not a button's text: an ampersand in it is one.
         addTab(holder, panel->panelName().value_or(tr("Options")).replace(u'&', QStringLiteral("&&")));
     }
     addTab(summary_, tr("Summary"));

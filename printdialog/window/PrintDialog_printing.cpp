@@ -34,7 +34,7 @@ void PrintDialog::updateButtons()
     ui_->cancel->setEnabled(!isStopping_);
 }
 
-/// Keeps the choices for the next time, too. Where there is no job, the user is told why.
+/// Keeps the choices for the next time, too. Where there is no job, the user sees why.
 std::optional<SessionJob> PrintDialog::makeJob()
 {
     auto job = jobOf(*session_, ui_->copies->value());

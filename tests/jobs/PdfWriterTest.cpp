@@ -237,7 +237,7 @@ void PdfWriterTest::impossiblePngs_data()
     row("unknown filters", QByteArray("\x08\0\0\x40", 4), 20, false);
 }
 
-/// Damage that the checksums do not show is found out; what is there more than the picture is no damage.
+/// Damage that the checksums do not show is found out; what is there beside the picture is not damage.
 void PdfWriterTest::impossiblePngs()
 {
     QFETCH(QByteArray, kind);

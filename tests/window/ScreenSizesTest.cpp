@@ -240,7 +240,8 @@ void ScreenSizesTest::opensWithRoomForAll()
     dialog.restorePlacement({});
     dialog.show();
     QVERIFY(QTest::qWaitForWindowExposed(&dialog));
-    QVERIFY(dialog.height() < dialog.screen()->availableGeometry().height() - 30); // the screen is no limit
+    QVERIFY(dialog.height() <
+            dialog.screen()->availableGeometry().height() - 30); // the screen is not the limit
     QCOMPARE(dialog.findChild<QScrollArea *>(u"settingsSide"_s)->verticalScrollBar()->maximum(), 0);
 }
 
