@@ -72,9 +72,8 @@ constexpr std::array optionRows = {
     OptionRow{"dry-run", nullptr,
               QT_TRANSLATE_NOOP("CommandLine", "show exactly what --batch would send, and send nothing")},
     OptionRow{"no-check", nullptr,
-              QT_TRANSLATE_NOOP("CommandLine",
-                                "--batch and --dry-run do not look for damage in photos,\n"
-                                "and print what is left of them")},
+              QT_TRANSLATE_NOOP("CommandLine", "--batch and --dry-run do not look for damage in photos,\n"
+                                               "and print what is left of them")},
     OptionRow{"wait", "SECONDS",
               QT_TRANSLATE_NOOP("CommandLine",
                                 "how long --batch follows its jobs at most (0: not at all); otherwise to\n"
