@@ -34,10 +34,31 @@ void connectButton(QAbstractButton *button, QObject *context, const std::functio
     });
 }
 
+QWidget *acting = nullptr; // the main thread's
+
 } // namespace
 
-bool connectAction(QWidget *control, QObject *context, const std::function<void()> &action)
+QWidget *actingControl()
 {
+    return acting;
+}
+
+ActingControl::ActingControl(QWidget *control)
+    : outer_(std::exchange(acting, control))
+{
+}
+
+ActingControl::~ActingControl()
+{
+    acting = outer_;
+}
+
+bool connectAction(QWidget *control, QObject *context, const std::function<void()> &performed)
+{
+    const auto action = [control, performed] {
+        const ActingControl scope(control);
+        performed();
+    };
     if (auto *slider = qobject_cast<QAbstractSlider *>(control)) {
         // Not actionTriggered: an assistive tool sets the value itself.
         QObject::connect(slider, &QAbstractSlider::valueChanged, context, [slider, action] {

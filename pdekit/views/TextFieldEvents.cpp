@@ -3,6 +3,8 @@
 
 #include "TextFieldEvents.h"
 
+#include "ControlAction.h"
+
 #include <QtGui/QKeyEvent>
 #include <QtWidgets/QLineEdit>
 
@@ -28,6 +30,7 @@ TextFieldEvents::TextFieldEvents(QLineEdit *field)
 void TextFieldEvents::noteEdit()
 {
     edited_ = true;
+    const ActingControl scope(static_cast<QLineEdit *>(parent()));
     Q_EMIT textDidChange();
 }
 
@@ -36,6 +39,7 @@ void TextFieldEvents::noteEdit()
 void TextFieldEvents::finishEditing()
 {
     const bool byReturn = std::exchange(returnPressed_, false);
+    const ActingControl scope(static_cast<QLineEdit *>(parent()));
     if (std::exchange(edited_, false) || byReturn)
         Q_EMIT textDidEndEditing();
     if (byReturn)

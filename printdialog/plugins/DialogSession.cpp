@@ -5,6 +5,7 @@
 
 #include "CallbackObject.h"
 #include "ChoiceReceiver.h"
+#include "ControlAction.h"
 
 #include <utility>
 
@@ -25,15 +26,17 @@ DialogSession::DialogSession(const PrinterDescription &printer, PpdDocument ppd,
     : printer_(printer)
     , ppd_(std::move(ppd))
     , mode_(mode)
-    , marker_(ppd_)
+    , chosen_(ppd_, mode)
     , sessionPrinter_(printer, ppd_)
 {
+    connect(&chosen_, &ChosenOptions::changed, this,
+            [this](const ChoiceChange &change) { changedKeys_ += change.key; });
     if (mode == PanelMode::Constraint) {
         callback_ = std::make_shared<ConstrainingCallbackObject>(
-            ppd_, sessionPrinter_, ticket_,
+            ppd_, sessionPrinter_, chosen_.ticket(),
             [this](const QString &key, const QString &choice) { return rule(key, choice); });
     } else {
-        callback_ = std::make_shared<CallbackObject>(ppd_, sessionPrinter_, ticket_);
+        callback_ = std::make_shared<CallbackObject>(ppd_, sessionPrinter_, chosen_.ticket());
     }
 }
 
@@ -56,7 +59,7 @@ std::optional<Failure<PluginFault>> DialogSession::loadPanels()
         panel->restoreValuesAndReturnError(nullptr);
         const QStringList keys = panel->supportedPPDOptionKeys();
         for (const QString &key : keys)
-            knownMarks_.insert(key, ppd_.markedChoice(key).value_or(QString()));
+            panelOf_.insert(key, panel.get());
     }
     return std::nullopt;
 }
@@ -66,61 +69,38 @@ std::optional<Failure<PluginFault>> DialogSession::loadPanels()
 // A panel's question, in constraint-handling mode.
 bool DialogSession::rule(const QString &key, const QString &choice)
 {
-    lastRuling_ = mark(key, choice);
-    const bool let = lastRuling_.verdict == Verdict::Accepted || lastRuling_.verdict == Verdict::Incomplete;
+    lastRuling_ = chosen_.choose(key, choice, pdekit::actingControl());
     begunKeys_.removeOne(key);
     if (lastRuling_.verdict == Verdict::Incomplete)
         begunKeys_.append(key);
-    if (let) {
-        noteChosen(key);
-        announceChangedMarks(key);
-        Q_EMIT choiceMade(key);
-    } else
-        Q_EMIT choiceRefused(lastRuling_);
-    return let;
+    tellPanels(key);
+    return lastRuling_.letsThrough();
 }
 
-Ruling DialogSession::mark(const QString &key, const QString &choice)
+// A choice may change that of another option. The panel that has asked records its own choice itself.
+void DialogSession::tellPanels(const QString &askedKey)
 {
-    const auto entry = together_.constFind(key);
-    if (entry == together_.cend() || *entry != choice)
-        return marker_.mark(key, choice);
-    marker_.markUnchecked(key, choice);
-    return {Verdict::Accepted, key, choice, {}, {}, {}};
-}
-
-// Marking one choice may change the mark of another option. The panel that has asked records its own choice
-// itself.
-void DialogSession::announceChangedMarks(const QString &askedKey)
-{
-    for (const pdekit::PanelPointer &panel : panels_) {
-        bool hasChanged = false;
-        const QStringList keys = panel->supportedPPDOptionKeys();
-        for (const QString &key : keys) {
-            const std::optional<QString> marked = ppd_.markedChoice(key);
-            if (!marked || knownMarks_.value(key) == *marked)
-                continue;
-            knownMarks_.insert(key, *marked);
-            if (key == askedKey)
-                continue;
-            panel->PPDOptionKeyValueDidChangePpdChoice(key, marked);
-            hasChanged = true;
-        }
-        if (hasChanged)
-            panel->restoreValuesAndReturnError(nullptr);
+    QList<pdekit::PrintDialogPanel *> told;
+    const QStringList keys = std::exchange(changedKeys_, {});
+    for (const QString &key : keys) {
+        pdekit::PrintDialogPanel *panel = panelOf_.value(key);
+        const auto choice = chosen_.choice(key);
+        if (key == askedKey || !panel || !choice)
+            continue;
+        panel->PPDOptionKeyValueDidChangePpdChoice(key, choice);
+        if (!told.contains(panel))
+            told.append(panel);
     }
+    for (pdekit::PrintDialogPanel *panel : std::as_const(told))
+        panel->restoreValuesAndReturnError(nullptr);
 }
 
 Ruling DialogSession::choose(const QString &key, const QString &choice)
 {
-    Ruling ruling = marker_.check(key, choice);
-    // The tickets' choices are weighed against each other when the job is made, since only then all of them
-    // are there.
-    if (mode_ == PanelMode::Settings && ruling.verdict == Verdict::Conflict)
-        ruling.verdict = Verdict::Accepted;
+    const Ruling ruling = chosen_.weigh(key, choice);
     if (ruling.verdict != Verdict::Accepted)
         return ruling;
-    if (pdekit::PrintDialogPanel *panel = panelFor(key))
+    if (pdekit::PrintDialogPanel *panel = panelOf_.value(key))
         return chooseThroughPanel(*panel, ruling);
     return chooseDirectly(ruling);
 }
@@ -135,23 +115,33 @@ Ruling DialogSession::chooseThroughPanel(pdekit::PrintDialogPanel &panel, const 
     }
     lastRuling_ = offered;
     receiver->markChoiceForPPDOptionKeyFromSender(offered.choice, offered.key, nullptr);
+    adoptChoices(panel);
     return lastRuling_;
 }
 
 Ruling DialogSession::chooseDirectly(const Ruling &offered)
 {
-    Ruling ruling = mode_ == PanelMode::Constraint ? mark(offered.key, offered.choice) : offered;
-    if (ruling.verdict != Verdict::Accepted)
-        return ruling;
-    if (mode_ == PanelMode::Constraint)
-        announceChangedMarks({});
-    else
-        ticket_.options().insert(offered.key, offered.choice);
-    noteChosen(offered.key);
-    if (!directKeys_.contains(offered.key))
-        directKeys_.append(offered.key);
-    Q_EMIT choiceMade(offered.key);
+    Ruling ruling = chosen_.choose(offered.key, offered.choice);
+    tellPanels(offered.key);
     return ruling;
+}
+
+void DialogSession::adoptChoices(pdekit::PrintDialogPanel &panel)
+{
+    if (mode_ != PanelMode::Settings)
+        return;
+    panel.saveValuesAndReturnError(nullptr);
+    chosen_.adopt(panel.supportedPPDOptionKeys());
+    changedKeys_.clear(); // the panel's own
+}
+
+void DialogSession::savePanels()
+{
+    for (const pdekit::PanelPointer &panel : panels_)
+        panel->saveValuesAndReturnError(nullptr);
+    if (mode_ == PanelMode::Settings)
+        chosen_.adopt(panelOf_.keys());
+    changedKeys_.clear();
 }
 
 // A panel restores from where its mode keeps the choices, so what it has recorded goes there first.
@@ -162,25 +152,6 @@ void DialogSession::refreshPanels()
         panel->saveValuesAndReturnError(nullptr);
         panel->restoreValuesAndReturnError(nullptr);
     }
-}
-
-pdekit::PrintDialogPanel *DialogSession::panelFor(const QString &key) const
-{
-    for (const pdekit::PanelPointer &panel : panels_) {
-        if (panel->supportedPPDOptionKeys().contains(key))
-            return panel.get();
-    }
-    return nullptr;
-}
-
-std::optional<QString> DialogSession::chosen(const QString &key) const
-{
-    if (mode_ == PanelMode::Settings) {
-        const auto entry = ticket_.options().constFind(key);
-        if (entry != ticket_.options().cend())
-            return *entry;
-    }
-    return ppd_.markedChoice(key);
 }
 
 // The job
@@ -212,7 +183,7 @@ QStringList DialogSession::jobKeys() const
     QStringList keys = {pageSizeKey};
     for (const pdekit::PanelPointer &panel : panels_)
         keys += panel->supportedPPDOptionKeys();
-    keys += directKeys_;
+    keys += chosen_.chosenKeys();
     keys.removeDuplicates();
     return keys;
 }
@@ -220,16 +191,15 @@ QStringList DialogSession::jobKeys() const
 Result<JobOptions, Verdict> DialogSession::jobOptions()
 {
     finishTyping();
-    for (const pdekit::PanelPointer &panel : panels_)
-        panel->saveValuesAndReturnError(nullptr);
+    savePanels();
     JobOptions job;
     if (mode_ == PanelMode::Settings) {
-        const QList<Ruling> unmarked = marker_.markTogether(ticket_.options());
-        for (const Ruling &ruling : unmarked)
+        const QList<Ruling> replaced = chosen_.markTicket();
+        for (const Ruling &ruling : replaced)
             job.dropped.append(ruling.text);
-        replaceDropped(unmarked);
+        showReplaced(replaced);
     }
-    if (const std::optional<Ruling> conflict = marker_.firstConflict(chosenKeys_)) {
+    if (const std::optional<Ruling> conflict = chosen_.firstConflict()) {
         jobRefusal_ = *conflict;
         return Failure<Verdict>{conflict->verdict, conflict->text, {}};
     }

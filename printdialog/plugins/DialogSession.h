@@ -3,14 +3,14 @@
 
 #pragma once
 
-#include "ChoiceMarker.h"
+#include "ChosenOptions.h"
 #include "PluginLoader.h"
 #include "PpdDocument.h"
 #include "PrintDialogPlugin.h"
 #include "PrinterDescription.h"
 #include "SessionPrinter.h"
-#include "SessionTicket.h"
 
+#include <QtCore/QHash>
 #include <QtCore/QMap>
 #include <QtCore/QObject>
 
@@ -68,15 +68,14 @@ public:
     /// shows the marked one again.
     void finishTyping();
 
-    /// The present choice of every option of the PPD that has one.
-    QMap<QString, QString> choices();
+    /// The user has acted on a control of the panel: where panels keep their choices themselves, they are
+    /// taken note of.
+    void adoptChoices(pdekit::PrintDialogPanel &panel);
 
-    /// The changes of other options that would allow a choice that was refused, or settle what makes
-    /// jobOptions() fail; nothing when there is no way. See ChoiceMarker::changesThatAllow.
-    QList<OptionChoice> changesThatAllow(const Ruling &refusal) const;
-
+    /// What is chosen, with notices of each change.
+    const ChosenOptions &chosen() const { return chosen_; }
     /// The job's choice of an option: what is recorded for it, else what is marked in the PPD.
-    std::optional<QString> chosen(const QString &key) const;
+    std::optional<QString> chosen(const QString &key) const { return chosen_.choice(key); }
 
     /// The panels' entries, label and text: by panel, and each panel's in the order of its options.
     QList<QPair<QString, QString>> summary();
@@ -89,42 +88,29 @@ public:
     /// What made jobOptions() fail the last time. Its key is the option that was chosen last of those that
     /// stand in each other's way.
     const Ruling &jobRefusal() const { return jobRefusal_; }
-    /// The user has chosen an option. Only the dialog sees this when the panels keep their choices
-    /// themselves.
-    void noteChosen(const QString &key);
-
-Q_SIGNALS:
-    /// The print system has refused a choice of the user's.
-    void choiceRefused(const printdialog::Ruling &ruling);
-    /// A choice of the option has been made.
-    void choiceMade(const QString &key);
 
 private:
     bool rule(const QString &key, const QString &choice);
-    Ruling mark(const QString &key, const QString &choice);
-    void announceChangedMarks(const QString &askedKey);
+    void savePanels();
+    void tellPanels(const QString &askedKey);
     Ruling chooseThroughPanel(pdekit::PrintDialogPanel &panel, const Ruling &offered);
     Ruling chooseDirectly(const Ruling &offered);
-    pdekit::PrintDialogPanel *panelFor(const QString &key) const;
     QStringList jobKeys() const;
-    void replaceDropped(const QList<Ruling> &dropped);
+    void showReplaced(const QList<Ruling> &replaced);
 
     PrinterDescription printer_;
     PpdDocument ppd_;
     PanelMode mode_;
-    ChoiceMarker marker_;
-    SessionTicket ticket_;
+    ChosenOptions chosen_;
     SessionPrinter sessionPrinter_;
     pdekit::HostInfo callback_;
     std::optional<pdekit::Bundle> bundle_; ///< of the panels
     pdekit::PanelList panels_;             ///< after what they are made from, so that they go first
-    QStringList directKeys_;               ///< options chosen that no panel supports
-    QStringList chosenKeys_;               ///< the last one first
-    QMap<QString, QString> together_;      ///< being made together, so not weighed one by one
+    QHash<QString, pdekit::PrintDialogPanel *> panelOf_; ///< by option
     Ruling lastRuling_;
     Ruling jobRefusal_;
-    QHash<QString, QString> knownMarks_; ///< what the panels know to be marked
-    QStringList begunKeys_;              ///< options whose number was begun and is not marked
+    QStringList changedKeys_; ///< options whose panels have not been told yet
+    QStringList begunKeys_;   ///< options whose number was begun and is not marked
 };
 
 } // namespace printdialog

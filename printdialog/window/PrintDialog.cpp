@@ -61,7 +61,7 @@ PrintDialog::PrintDialog(const PrintDialogSetup &setup, QWidget *parent)
         buttons->addWidget(button);
     ui_->settingsSide->setReadableWidth(narrowestSettings, widestSettings);
     new EscapeGuard(this);
-    ui_->panels->setReservedKeys(ChoiceController::offerTexts());
+    ui_->panels->setReservedKeys(ChoiceRefusals::offerTexts());
     for (const auto &[key, step] : {std::pair(QKeySequence(Qt::CTRL | Qt::Key_Tab), 1),
                                     std::pair(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Tab), -1)})
         connect(new QShortcut(key, this), &QShortcut::activated, ui_->panels,

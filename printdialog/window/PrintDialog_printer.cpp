@@ -258,9 +258,9 @@ void PrintDialog::takeSession(std::unique_ptr<DialogSession> session)
     ui_->panels->setSession(nullptr);
     session_ = std::move(session);
     whyNotReady_.clear();
-    connect(session_.get(), &DialogSession::choiceMade, this, [this](const QString &key) {
+    connect(&session_->chosen(), &ChosenOptions::changed, this, [this](const ChoiceChange &change) {
         ui_->message->clear();
-        if (key == pageSizeKey)
+        if (change.key == pageSizeKey)
             showPageSize();
     });
     const auto noPanels = session_->loadPanels();

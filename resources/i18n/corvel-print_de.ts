@@ -1300,48 +1300,6 @@ Beispiele:
     </message>
 </context>
 <context>
-    <name>printdialog::ChoiceController</name>
-    <message>
-        <source>Undo</source>
-        <translation>Rückgängig</translation>
-    </message>
-    <message>
-        <source>Redo</source>
-        <translation>Wiederholen</translation>
-    </message>
-    <message>
-        <source>Als&amp;o change %1</source>
-        <translation>&amp;Auch ändern: %1</translation>
-    </message>
-    <message>
-        <source>Chan&amp;ge %1</source>
-        <translation>&amp;Anpassen: %1</translation>
-    </message>
-    <message>
-        <source>Of the choices used last, some are left out:</source>
-        <translation>Von den zuletzt verwendeten Einstellungen entfallen einige:</translation>
-    </message>
-    <message>
-        <source>Re&amp;vert to How the Dialog Opened</source>
-        <translation>Auf den Stand beim &amp;Öffnen zurücksetzen</translation>
-    </message>
-    <message>
-        <source>Of the preset &quot;%1&quot;, some choices are left out:</source>
-        <translation>Von der Voreinstellung „%1“ entfällt einiges:</translation>
-    </message>
-    <message>
-        <source>There is no preset &quot;%1&quot; any more.</source>
-        <translation>Die Voreinstellung „%1“ gibt es nicht mehr.</translation>
-    </message>
-    <message numerus="yes">
-        <source>And %n more.</source>
-        <translation>
-            <numerusform>Und %n weitere.</numerusform>
-            <numerusform>Und %n weitere.</numerusform>
-        </translation>
-    </message>
-</context>
-<context>
     <name>printdialog::ChoiceExplanation</name>
     <message>
         <source>&quot;%1&quot; is &quot;%2&quot;</source>
@@ -1367,6 +1325,28 @@ Beispiele:
         <source>, </source>
         <comment>between the parts of a list</comment>
         <translation>, </translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::ChoiceRefusals</name>
+    <message>
+        <source>Als&amp;o change %1</source>
+        <translation>&amp;Auch ändern: %1</translation>
+    </message>
+    <message>
+        <source>Chan&amp;ge %1</source>
+        <translation>&amp;Anpassen: %1</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::ChoiceSteps</name>
+    <message>
+        <source>Undo</source>
+        <translation>Rückgängig</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Wiederholen</translation>
     </message>
 </context>
 <context>
@@ -1736,6 +1716,32 @@ Beispiele:
     <message>
         <source>Delete &quot;%1&quot;?</source>
         <translation>„%1“ löschen?</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::PresetController</name>
+    <message>
+        <source>Of the choices used last, some are left out:</source>
+        <translation>Von den zuletzt verwendeten Einstellungen entfallen einige:</translation>
+    </message>
+    <message>
+        <source>Re&amp;vert to How the Dialog Opened</source>
+        <translation>Auf den Stand beim &amp;Öffnen zurücksetzen</translation>
+    </message>
+    <message>
+        <source>Of the preset &quot;%1&quot;, some choices are left out:</source>
+        <translation>Von der Voreinstellung „%1“ entfällt einiges:</translation>
+    </message>
+    <message>
+        <source>There is no preset &quot;%1&quot; any more.</source>
+        <translation>Die Voreinstellung „%1“ gibt es nicht mehr.</translation>
+    </message>
+    <message numerus="yes">
+        <source>And %n more.</source>
+        <translation>
+            <numerusform>Und %n weitere.</numerusform>
+            <numerusform>Und %n weitere.</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -12,22 +12,22 @@
     </message>
 </context>
 <context>
-    <name>printdialog::ChoiceController</name>
-    <message numerus="yes">
-        <source>And %n more.</source>
-        <translation>
-            <numerusform>And %n more.</numerusform>
-            <numerusform>And %n more.</numerusform>
-        </translation>
-    </message>
-</context>
-<context>
     <name>printdialog::PhotoStrip</name>
     <message numerus="yes">
         <source>%n photo(s) of this job</source>
         <translation>
             <numerusform>%n photo of this job</numerusform>
             <numerusform>%n photos of this job</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::PresetController</name>
+    <message numerus="yes">
+        <source>And %n more.</source>
+        <translation>
+            <numerusform>And %n more.</numerusform>
+            <numerusform>And %n more.</numerusform>
         </translation>
     </message>
 </context>

@@ -1299,48 +1299,6 @@ Ejemplos:
     </message>
 </context>
 <context>
-    <name>printdialog::ChoiceController</name>
-    <message>
-        <source>Undo</source>
-        <translation>Deshacer</translation>
-    </message>
-    <message>
-        <source>Redo</source>
-        <translation>Rehacer</translation>
-    </message>
-    <message>
-        <source>Als&amp;o change %1</source>
-        <translation>Cambiar ta&amp;mbién: %1</translation>
-    </message>
-    <message>
-        <source>Chan&amp;ge %1</source>
-        <translation>Ca&amp;mbiar: %1</translation>
-    </message>
-    <message>
-        <source>Of the choices used last, some are left out:</source>
-        <translation>De los últimos ajustes usados, algunos se omiten:</translation>
-    </message>
-    <message>
-        <source>Re&amp;vert to How the Dialog Opened</source>
-        <translation>&amp;Volver al estado inicial</translation>
-    </message>
-    <message>
-        <source>Of the preset &quot;%1&quot;, some choices are left out:</source>
-        <translation>Del preajuste «%1» se omiten algunas opciones:</translation>
-    </message>
-    <message>
-        <source>There is no preset &quot;%1&quot; any more.</source>
-        <translation>El preajuste «%1» ya no existe.</translation>
-    </message>
-    <message numerus="yes">
-        <source>And %n more.</source>
-        <translation>
-            <numerusform>Y %n más.</numerusform>
-            <numerusform>Y %n más.</numerusform>
-        </translation>
-    </message>
-</context>
-<context>
     <name>printdialog::ChoiceExplanation</name>
     <message>
         <source>&quot;%1&quot; is &quot;%2&quot;</source>
@@ -1366,6 +1324,28 @@ Ejemplos:
         <source>, </source>
         <comment>between the parts of a list</comment>
         <translation>, </translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::ChoiceRefusals</name>
+    <message>
+        <source>Als&amp;o change %1</source>
+        <translation>Cambiar ta&amp;mbién: %1</translation>
+    </message>
+    <message>
+        <source>Chan&amp;ge %1</source>
+        <translation>Ca&amp;mbiar: %1</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::ChoiceSteps</name>
+    <message>
+        <source>Undo</source>
+        <translation>Deshacer</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Rehacer</translation>
     </message>
 </context>
 <context>
@@ -1735,6 +1715,32 @@ Ejemplos:
     <message>
         <source>Delete &quot;%1&quot;?</source>
         <translation>¿Eliminar «%1»?</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::PresetController</name>
+    <message>
+        <source>Of the choices used last, some are left out:</source>
+        <translation>De los últimos ajustes usados, algunos se omiten:</translation>
+    </message>
+    <message>
+        <source>Re&amp;vert to How the Dialog Opened</source>
+        <translation>&amp;Volver al estado inicial</translation>
+    </message>
+    <message>
+        <source>Of the preset &quot;%1&quot;, some choices are left out:</source>
+        <translation>Del preajuste «%1» se omiten algunas opciones:</translation>
+    </message>
+    <message>
+        <source>There is no preset &quot;%1&quot; any more.</source>
+        <translation>El preajuste «%1» ya no existe.</translation>
+    </message>
+    <message numerus="yes">
+        <source>And %n more.</source>
+        <translation>
+            <numerusform>Y %n más.</numerusform>
+            <numerusform>Y %n más.</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -1300,48 +1300,6 @@ Exemples&#x202f;:
     </message>
 </context>
 <context>
-    <name>printdialog::ChoiceController</name>
-    <message>
-        <source>Undo</source>
-        <translation>Annuler la dernière action</translation>
-    </message>
-    <message>
-        <source>Redo</source>
-        <translation>Rétablir</translation>
-    </message>
-    <message>
-        <source>Als&amp;o change %1</source>
-        <translation>M&amp;odifier aussi&#x202f;: %1</translation>
-    </message>
-    <message>
-        <source>Chan&amp;ge %1</source>
-        <translation>M&amp;odifier&#x202f;: %1</translation>
-    </message>
-    <message>
-        <source>Of the choices used last, some are left out:</source>
-        <translation>Parmi les derniers réglages utilisés, certains ne sont pas repris&#x202f;:</translation>
-    </message>
-    <message>
-        <source>Re&amp;vert to How the Dialog Opened</source>
-        <translation>Re&amp;venir à l’état d’ouverture</translation>
-    </message>
-    <message>
-        <source>Of the preset &quot;%1&quot;, some choices are left out:</source>
-        <translation>Certains choix du préréglage «&#x202f;%1&#x202f;» ne sont pas repris&#x202f;:</translation>
-    </message>
-    <message>
-        <source>There is no preset &quot;%1&quot; any more.</source>
-        <translation>Le préréglage «&#x202f;%1&#x202f;» n’existe plus.</translation>
-    </message>
-    <message numerus="yes">
-        <source>And %n more.</source>
-        <translation>
-            <numerusform>Et %n autre.</numerusform>
-            <numerusform>Et %n autres.</numerusform>
-        </translation>
-    </message>
-</context>
-<context>
     <name>printdialog::ChoiceExplanation</name>
     <message>
         <source>&quot;%1&quot; is &quot;%2&quot;</source>
@@ -1367,6 +1325,28 @@ Exemples&#x202f;:
         <source>, </source>
         <comment>between the parts of a list</comment>
         <translation>, </translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::ChoiceRefusals</name>
+    <message>
+        <source>Als&amp;o change %1</source>
+        <translation>M&amp;odifier aussi : %1</translation>
+    </message>
+    <message>
+        <source>Chan&amp;ge %1</source>
+        <translation>M&amp;odifier : %1</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::ChoiceSteps</name>
+    <message>
+        <source>Undo</source>
+        <translation>Annuler la dernière action</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Rétablir</translation>
     </message>
 </context>
 <context>
@@ -1736,6 +1716,32 @@ Exemples&#x202f;:
     <message>
         <source>Delete &quot;%1&quot;?</source>
         <translation>Supprimer «&#x202f;%1&#x202f;»&#x202f;?</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::PresetController</name>
+    <message>
+        <source>Of the choices used last, some are left out:</source>
+        <translation>Parmi les derniers réglages utilisés, certains ne sont pas repris :</translation>
+    </message>
+    <message>
+        <source>Re&amp;vert to How the Dialog Opened</source>
+        <translation>Re&amp;venir à l’état d’ouverture</translation>
+    </message>
+    <message>
+        <source>Of the preset &quot;%1&quot;, some choices are left out:</source>
+        <translation>Certains choix du préréglage « %1 » ne sont pas repris :</translation>
+    </message>
+    <message>
+        <source>There is no preset &quot;%1&quot; any more.</source>
+        <translation>Le préréglage « %1 » n’existe plus.</translation>
+    </message>
+    <message numerus="yes">
+        <source>And %n more.</source>
+        <translation>
+            <numerusform>Et %n autre.</numerusform>
+            <numerusform>Et %n autres.</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -1298,47 +1298,6 @@ Examples:
     </message>
 </context>
 <context>
-    <name>printdialog::ChoiceController</name>
-    <message>
-        <source>Undo</source>
-        <translation>元に戻す</translation>
-    </message>
-    <message>
-        <source>Redo</source>
-        <translation>やり直す</translation>
-    </message>
-    <message>
-        <source>Als&amp;o change %1</source>
-        <translation>あわせて%1変更(&amp;O)</translation>
-    </message>
-    <message>
-        <source>Chan&amp;ge %1</source>
-        <translation>%1変更(&amp;G)</translation>
-    </message>
-    <message>
-        <source>Of the choices used last, some are left out:</source>
-        <translation>前回使用した設定のうち、次のものは適用されませんでした:</translation>
-    </message>
-    <message>
-        <source>Re&amp;vert to How the Dialog Opened</source>
-        <translation>開いたときの状態に戻す(&amp;V)</translation>
-    </message>
-    <message>
-        <source>Of the preset &quot;%1&quot;, some choices are left out:</source>
-        <translation>プリセット「%1」のうち、次のものは適用されませんでした:</translation>
-    </message>
-    <message>
-        <source>There is no preset &quot;%1&quot; any more.</source>
-        <translation>プリセット「%1」はもうありません。</translation>
-    </message>
-    <message numerus="yes">
-        <source>And %n more.</source>
-        <translation>
-            <numerusform>ほか %n 件。</numerusform>
-        </translation>
-    </message>
-</context>
-<context>
     <name>printdialog::ChoiceExplanation</name>
     <message>
         <source>&quot;%1&quot; is &quot;%2&quot;</source>
@@ -1364,6 +1323,28 @@ Examples:
         <source>, </source>
         <comment>between the parts of a list</comment>
         <translation>、</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::ChoiceRefusals</name>
+    <message>
+        <source>Als&amp;o change %1</source>
+        <translation>あわせて%1変更(&amp;O)</translation>
+    </message>
+    <message>
+        <source>Chan&amp;ge %1</source>
+        <translation>%1変更(&amp;G)</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::ChoiceSteps</name>
+    <message>
+        <source>Undo</source>
+        <translation>元に戻す</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>やり直す</translation>
     </message>
 </context>
 <context>
@@ -1732,6 +1713,31 @@ Examples:
     <message>
         <source>Delete &quot;%1&quot;?</source>
         <translation>「%1」を削除しますか?</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::PresetController</name>
+    <message>
+        <source>Of the choices used last, some are left out:</source>
+        <translation>前回使用した設定のうち、次のものは適用されませんでした:</translation>
+    </message>
+    <message>
+        <source>Re&amp;vert to How the Dialog Opened</source>
+        <translation>開いたときの状態に戻す(&amp;V)</translation>
+    </message>
+    <message>
+        <source>Of the preset &quot;%1&quot;, some choices are left out:</source>
+        <translation>プリセット「%1」のうち、次のものは適用されませんでした:</translation>
+    </message>
+    <message>
+        <source>There is no preset &quot;%1&quot; any more.</source>
+        <translation>プリセット「%1」はもうありません。</translation>
+    </message>
+    <message numerus="yes">
+        <source>And %n more.</source>
+        <translation>
+            <numerusform>ほか %n 件。</numerusform>
+        </translation>
     </message>
 </context>
 <context>

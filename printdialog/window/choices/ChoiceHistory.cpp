@@ -18,36 +18,60 @@ constexpr int mostSteps = 500;
 class ChoiceHistory::Step : public QUndoCommand
 {
 public:
-    Step(ChoiceHistory &history, State before, State after, int act)
+    Step(ChoiceHistory &history, Changes changes, int act)
         : history_(history)
-        , before_(std::move(before))
-        , after_(std::move(after))
+        , changes_(std::move(changes))
         , act_(act)
     {
     }
 
     int id() const override { return act_; }
-    void undo() override { history_.make(before_); }
+    void undo() override { history_.make(sides(&Change::before)); }
     void redo() override
     {
         // Pushed on the stack when it is done already.
         if (std::exchange(isDone_, true))
-            history_.make(after_);
+            history_.make(sides(&Change::after));
     }
     bool mergeWith(const QUndoCommand *next) override
     {
-        after_ = static_cast<const Step *>(next)->after_;
-        setObsolete(after_ == before_);
+        const Changes &more = static_cast<const Step *>(next)->changes_;
+        for (auto change = more.cbegin(); change != more.cend(); ++change)
+            merge(changes_, change.key(), *change);
+        setObsolete(changes_.isEmpty());
         return true;
     }
 
 private:
+    State sides(QString Change::*side) const
+    {
+        State state;
+        for (auto change = changes_.cbegin(); change != changes_.cend(); ++change) {
+            if (!((*change).*side).isNull())
+                state.insert(change.key(), (*change).*side);
+        }
+        return state;
+    }
+
     ChoiceHistory &history_;
-    State before_;
-    State after_;
+    Changes changes_;
     int act_;
     bool isDone_ = false;
 };
+
+void ChoiceHistory::Baseline::start(const State &from)
+{
+    state = from;
+    differing.clear();
+}
+
+void ChoiceHistory::Baseline::compare(const QString &key, const QString &choice)
+{
+    if (state.value(key) == choice)
+        differing.remove(key);
+    else
+        differing.insert(key);
+}
 
 ChoiceHistory::ChoiceHistory(Maker maker, QObject *parent)
     : QObject(parent)
@@ -60,20 +84,36 @@ ChoiceHistory::ChoiceHistory(Maker maker, QObject *parent)
 void ChoiceHistory::start(const State &state)
 {
     steps_->clear();
-    opening_ = state;
-    current_ = state;
+    pending_.clear();
+    opening_.start(state);
     ++act_;
     Q_EMIT changed();
 }
 
-void ChoiceHistory::note(const State &state, bool goesOn)
+void ChoiceHistory::change(const ChoiceChange &change)
+{
+    opening_.compare(change.key, change.after.value_or(QString()));
+    mark_.compare(change.key, change.after.value_or(QString()));
+    if (!isMaking_)
+        merge(pending_, change.key, {change.before.value_or(QString()), change.after.value_or(QString())});
+}
+
+void ChoiceHistory::merge(Changes &changes, const QString &key, const Change &change)
+{
+    const QString before = changes.value(key, change).before;
+    if (before == change.after)
+        changes.remove(key);
+    else
+        changes.insert(key, {before, change.after});
+}
+
+void ChoiceHistory::note(bool goesOn)
 {
     if (!goesOn)
         ++act_;
-    if (state == current_)
+    if (pending_.isEmpty())
         return;
-    const State before = std::exchange(current_, state);
-    steps_->push(new Step(*this, before, state, act_));
+    steps_->push(new Step(*this, std::exchange(pending_, {}), act_));
     Q_EMIT changed();
 }
 
@@ -103,13 +143,22 @@ void ChoiceHistory::redo()
 
 void ChoiceHistory::revert()
 {
-    if (canRevert())
-        note(maker_(opening_), false);
+    State state;
+    for (const QString &key : std::as_const(opening_.differing)) {
+        if (const QString choice = opening_.state.value(key); !choice.isNull())
+            state.insert(key, choice);
+    }
+    if (state.isEmpty())
+        return;
+    maker_(state);
+    note(false);
 }
 
 void ChoiceHistory::make(const State &state)
 {
-    current_ = maker_(state);
+    isMaking_ = true;
+    maker_(state);
+    isMaking_ = false;
 }
 
 } // namespace printdialog

@@ -67,6 +67,7 @@ void PanelTabs::makePages()
     for (const Page &page : std::as_const(pages_))
         delete page.holder;
     pages_.clear();
+    panelOf_.clear();
     if (!session_)
         return;
     for (const pdekit::PanelPointer &panel : session_->panels()) {
@@ -74,6 +75,7 @@ void PanelTabs::makePages()
         auto *layout = new QVBoxLayout(holder);
         layout->setContentsMargins(pageMargin, pageMargin, pageMargin, pageMargin);
         pages_.append({panel.get(), holder});
+        panelOf_.insert(holder, panel.get());
         // A name is not a button's text: an ampersand in it is one.
         addTab(holder, panel->panelName().value_or(tr("Options")).replace(u'&', QStringLiteral("&&")));
     }
@@ -115,6 +117,13 @@ pdekit::PrintDialogPanel *PanelTabs::currentPanel() const
 {
     const int page = currentIndex();
     return page >= 0 && page < pages_.size() ? pages_.at(page).panel : nullptr;
+}
+
+pdekit::PrintDialogPanel *PanelTabs::panelOf(const QWidget *control) const
+{
+    while (control && !panelOf_.contains(control))
+        control = control->parentWidget();
+    return panelOf_.value(control);
 }
 
 QString PanelTabs::kindSuffix(int page) const

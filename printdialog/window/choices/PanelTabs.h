@@ -5,6 +5,7 @@
 
 #include "JobSummary.h"
 
+#include <QtCore/QHash>
 #include <QtWidgets/QTabWidget>
 
 #include <functional>
@@ -39,6 +40,8 @@ public:
     void updateSummary();
     /// The panel whose page is shown; null for the summary.
     pdekit::PrintDialogPanel *currentPanel() const;
+    /// The panel in whose view the control stands; null for any other.
+    pdekit::PrintDialogPanel *panelOf(const QWidget *control) const;
     /// The last component of the kind of the panel on the page, such as "coloradjust"; empty for the summary.
     QString kindSuffix(int page) const;
 
@@ -70,6 +73,7 @@ private:
 
     DialogSession *session_ = nullptr;
     QList<Page> pages_;
+    QHash<const QWidget *, pdekit::PrintDialogPanel *> panelOf_; ///< by what holds its view
     QStringList reserved_;
     SummaryPage *summary_;
     std::function<SummaryEntries()> entries_;

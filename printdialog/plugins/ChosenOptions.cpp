@@ -1,0 +1,158 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "ChosenOptions.h"
+
+#include "PpdDocument.h"
+
+#include <algorithm>
+#include <array>
+#include <utility>
+
+namespace printdialog {
+
+namespace {
+
+/// Options whose marks libcups changes when it marks another of them (ppdMarkOption).
+const std::array<QString, 4> coupledKeys = {QStringLiteral("InputSlot"), QStringLiteral("ManualFeed"),
+                                            QStringLiteral("PageRegion"), QStringLiteral("PageSize")};
+
+} // namespace
+
+ChosenOptions::ChosenOptions(PpdDocument &ppd, PanelMode mode)
+    : ppd_(ppd)
+    , mode_(mode)
+    , marker_(ppd)
+    , choices_(marker_.markedChoices())
+{
+}
+
+std::optional<QString> ChosenOptions::choice(const QString &key) const
+{
+    const auto entry = ticket_.options().constFind(key);
+    return entry != ticket_.options().cend() ? std::optional(*entry) : ppd_.markedChoice(key);
+}
+
+QStringList ChosenOptions::chosenKeys() const
+{
+    QStringList keys = chosenAt_.keys();
+    std::ranges::sort(keys, std::greater(), [this](const QString &key) { return chosenAt_.value(key); });
+    return keys;
+}
+
+Ruling ChosenOptions::weigh(const QString &key, const QString &choice) const
+{
+    Ruling ruling = marker_.check(key, choice);
+    // Only when the job is made are all of the ticket's choices there.
+    if (mode_ == PanelMode::Settings && ruling.verdict == Verdict::Conflict)
+        ruling.verdict = Verdict::Accepted;
+    return ruling;
+}
+
+Ruling ChosenOptions::choose(const QString &key, const QString &choice, QWidget *sender)
+{
+    Ruling ruling = weigh(key, choice);
+    if (!ruling.letsThrough()) {
+        Q_EMIT refused(ruling, sender);
+        return ruling;
+    }
+    noteChosen(key);
+    if (ruling.verdict == Verdict::Incomplete)
+        return ruling;
+    if (mode_ == PanelMode::Settings) {
+        ticket_.options().insert(key, ruling.choice);
+        update(key, true);
+    } else {
+        marker_.markUnchecked(key, ruling.choice);
+        updateCoupled(key);
+    }
+    return ruling;
+}
+
+QStringList ChosenOptions::chooseTogether(const QMap<QString, QString> &choices)
+{
+    QStringList keys;
+    for (auto entry = choices.cbegin(); entry != choices.cend(); ++entry) {
+        if (!ppd_.choice(entry.key(), *entry) || choices_.value(entry.key()) == *entry)
+            continue;
+        if (mode_ == PanelMode::Settings)
+            ticket_.options().insert(entry.key(), *entry);
+        else
+            marker_.markUnchecked(entry.key(), *entry);
+        noteChosen(entry.key());
+        keys += entry.key();
+    }
+    for (const QString &key : std::as_const(keys))
+        updateCoupled(key);
+    return keys;
+}
+
+void ChosenOptions::adopt(const QStringList &keys)
+{
+    for (const QString &key : keys) {
+        const auto choice = canonical(key);
+        if (!choice || choices_.value(key) == *choice)
+            continue;
+        noteChosen(key);
+        update(key, true);
+    }
+}
+
+ChoicePlan ChosenOptions::plan(const QMap<QString, QString> &wanted, const QMap<QString, QString> &base) const
+{
+    return marker_.plan(wanted, base);
+}
+
+QList<OptionChoice> ChosenOptions::changesThatAllow(const Ruling &refusal) const
+{
+    return marker_.changesThatAllow(refusal);
+}
+
+QList<Ruling> ChosenOptions::markTicket()
+{
+    const QList<Ruling> replaced = marker_.markTogether(ticket_.options());
+    for (const Ruling &ruling : replaced) {
+        if (const auto marked = ppd_.markedChoice(ruling.key))
+            ticket_.options().insert(ruling.key, *marked);
+    }
+    for (const QString &key : ppd_.options())
+        update(key, false);
+    return replaced;
+}
+
+void ChosenOptions::noteChosen(const QString &key)
+{
+    chosenAt_.insert(key, ++acts_);
+}
+
+/// The choice in the PPD's spelling; nothing for one that is none of the PPD's.
+std::optional<QString> ChosenOptions::canonical(const QString &key) const
+{
+    const auto chosen = choice(key);
+    return chosen ? marker_.canonicalChoice(key, *chosen) : std::nullopt;
+}
+
+void ChosenOptions::update(const QString &key, bool isAsked)
+{
+    const auto known = choices_.constFind(key);
+    const auto before = known == choices_.cend() ? std::nullopt : std::optional(*known);
+    const auto after = canonical(key);
+    if (before == after)
+        return;
+    if (after)
+        choices_.insert(key, *after);
+    else
+        choices_.remove(key);
+    Q_EMIT changed({key, before, after, isAsked});
+}
+
+void ChosenOptions::updateCoupled(const QString &key)
+{
+    update(key, true);
+    if (std::ranges::find(coupledKeys, key) == coupledKeys.end())
+        return;
+    for (const QString &other : coupledKeys)
+        update(other, false);
+}
+
+} // namespace printdialog

@@ -1,0 +1,136 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "ChoiceRefusals.h"
+
+#include "ChoiceCallout.h"
+#include "ChoiceExplanation.h"
+#include "DialogSession.h"
+#include "MessageBar.h"
+#include "PanelTabs.h"
+
+#include <utility>
+
+namespace printdialog {
+
+namespace {
+
+/// As a button's text, in which an ampersand would underline the next letter.
+QString forButton(QString text)
+{
+    return text.replace(QLatin1Char('&'), QLatin1String("&&"));
+}
+
+} // namespace
+
+ChoiceRefusals::ChoiceRefusals(QWidget *window, PanelTabs *panels, MessageBar *message, QObject *parent)
+    : QObject(parent)
+    , window_(window)
+    , panels_(panels)
+    , message_(message)
+    , callout_(new ChoiceCallout(window))
+{
+    connect(panels, &PanelTabs::currentChanged, callout_, &ChoiceCallout::dismiss);
+    connect(callout_, &ChoiceCallout::offerTaken, this, &ChoiceRefusals::takeOffer);
+}
+
+void ChoiceRefusals::setSession(DialogSession *session)
+{
+    callout_->dismiss();
+    refused_ = nullptr;
+    session_ = session;
+    if (!session)
+        return;
+    connect(&session->chosen(), &ChosenOptions::refused, this, [this](const Ruling &ruling, QWidget *sender) {
+        refused_ = sender;
+        // A panel that wires its controls by itself is not known to be acted on; the focus is there mostly.
+        QWidget *focus = window_->focusWidget();
+        explain(ruling, sender || !focus || !panels_->isAncestorOf(focus) ? sender : focus);
+    });
+}
+
+void ChoiceRefusals::explain(const Ruling &ruling, QWidget *control)
+{
+    explained_ = ruling;
+    const QString text = ChoiceExplanation(session_->ppd()).refusal(ruling);
+    const QString offer = offerText(session_->chosen().changesThatAllow(ruling));
+    message_->clear();
+    callout_->dismiss();
+    if (control && control->isVisible()) {
+        QWidget *area = panels_->isAncestorOf(control) ? panels_->currentWidget() : window_;
+        callout_->show(control, area, text, offer);
+    } else if (offer.isEmpty()) {
+        message_->show(MessageBar::Kind::Warning, text);
+    } else {
+        message_->showWithAction(MessageBar::Kind::Warning, text, offer, [this] { takeOffer(); });
+    }
+}
+
+void ChoiceRefusals::endAct(QWidget *control, bool hasChanged)
+{
+    const bool wasRefused = std::exchange(refused_, nullptr) == control;
+    if (hasChanged && wasRefused)
+        explain(explained_, control);
+    else if (hasChanged)
+        callout_->dismiss();
+}
+
+void ChoiceRefusals::dismiss()
+{
+    callout_->dismiss();
+}
+
+QString ChoiceRefusals::text() const
+{
+    return callout_->text();
+}
+
+QString ChoiceRefusals::offerText(const QList<OptionChoice> &changes) const
+{
+    if (changes.isEmpty())
+        return {};
+    return tr("Als&o change %1").arg(forButton(ChoiceExplanation(session_->ppd()).changes(changes)));
+}
+
+void ChoiceRefusals::takeOffer()
+{
+    const QList<OptionChoice> changes = session_->chosen().changesThatAllow(explained_);
+    callout_->dismiss();
+    message_->clear();
+    if (changes.isEmpty()) // no longer: something else was chosen since
+        return;
+    QMap<QString, QString> together = {{explained_.key, explained_.choice}};
+    for (const OptionChoice &change : changes)
+        together.insert(change.option, change.choice);
+    session_->chooseTogether(together);
+    Q_EMIT offerTaken();
+}
+
+void ChoiceRefusals::explainJob()
+{
+    callout_->dismiss();
+    Ruling refusal = session_->jobRefusal();
+    QList<OptionChoice> changes = session_->chosen().changesThatAllow(refusal);
+    // Without a way to what was chosen last there may be one to what was chosen before.
+    for (qsizetype i = 0; changes.isEmpty() && i < session_->jobRefusal().others.size(); ++i) {
+        refusal = session_->jobRefusal();
+        const OptionChoice other = refusal.others.at(i);
+        refusal.others[i] = {refusal.key, refusal.choice};
+        refusal.key = other.option;
+        refusal.choice = other.choice;
+        changes = session_->chosen().changesThatAllow(refusal);
+    }
+    if (changes.isEmpty())
+        refusal = session_->jobRefusal();
+    const QString text = ChoiceExplanation(session_->ppd()).refusal(refusal);
+    if (changes.isEmpty()) {
+        message_->show(MessageBar::Kind::Warning, text);
+        return;
+    }
+    explained_ = refusal;
+    const QString changed = ChoiceExplanation(session_->ppd()).changes(changes);
+    message_->showWithAction(MessageBar::Kind::Warning, text, tr("Chan&ge %1").arg(forButton(changed)),
+                             [this] { takeOffer(); });
+}
+
+} // namespace printdialog

@@ -1,0 +1,231 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "PresetController.h"
+
+#include "ChoiceSteps.h"
+#include "DialogSession.h"
+#include "MessageBar.h"
+#include "PresetBar.h"
+#include "PresetName.h"
+#include "PresetStore.h"
+#include "QueueSettings.h"
+#include "StoredChoices.h"
+#include "UsedChoices.h"
+
+#include <QtGui/QAction>
+#include <QtWidgets/QMenu>
+
+#include <algorithm>
+
+namespace printdialog {
+
+namespace {
+
+/// A destination is a queue, or a queue and the user's instance of it, which is a preset.
+QString queueOf(const PrinterDescription &printer)
+{
+    return printer.isBuiltIn ? printer.name : printer.name.section(u'/', 0, 0);
+}
+
+} // namespace
+
+PresetController::PresetController(PresetBar *bar, MessageBar *message, ChoiceSteps *steps, QObject *parent)
+    : QObject(parent)
+    , bar_(bar)
+    , message_(message)
+    , steps_(steps)
+{
+    makeActions();
+    update();
+}
+
+PresetController::~PresetController() = default;
+
+void PresetController::setSession(DialogSession *session, const QString &builtInPreset)
+{
+    session_ = session;
+    store_.reset();
+    bar_->setNames({});
+    bar_->setEnabled(session != nullptr);
+    update();
+    if (!session)
+        return;
+    const QString queue = queueOf(session->printer());
+    store_ = PresetStore::open(queue, session->printer().isBuiltIn);
+    load();
+    if (openWith(session->printer().isBuiltIn ? builtInPreset : session->printer().name.section(u'/', 1)))
+        return;
+    const UsedChoices last = useChoices(*session, QueueSettings::load(queue));
+    steps_->setCopies(last.copies.value_or(1));
+    sayLeftOut(tr("Of the choices used last, some are left out:"), last.leftOut);
+}
+
+void PresetController::update()
+{
+    revert_->setEnabled(steps_->canRevert());
+    if (const QString preset = bar_->current(); !preset.isEmpty())
+        bar_->setCurrent(preset, steps_->differsFromPreset());
+}
+
+/// Whether there is such a preset, in use now. Where one that was asked for is missing, the user is told.
+bool PresetController::openWith(const QString &instance)
+{
+    const auto presets = store_->presets();
+    if (instance.isEmpty() || !presets) // the failure is shown
+        return false;
+    const Preset *preset = PresetStore::findInstance(*presets, instance);
+    if (preset)
+        use(preset->name);
+    else
+        bar_->showError(PresetStore::missing(queueOf(session_->printer()), instance, *presets));
+    return preset != nullptr;
+}
+
+QString PresetController::keep(const QMap<QString, QString> &options)
+{
+    steps_->note(); // what took the place of a dropped choice
+    const auto failure = QueueSettings::save(queueOf(session_->printer()), withCopies(options));
+    return failure ? failure->text : QString();
+}
+
+QMap<QString, QString> PresetController::withCopies(QMap<QString, QString> options) const
+{
+    options.insert(QLatin1String(copiesOption), QString::number(steps_->copies()));
+    return options;
+}
+
+void PresetController::makeActions()
+{
+    connect(bar_, &PresetBar::chosen, this, &PresetController::use);
+    connect(bar_, &PresetBar::addRequested, this, &PresetController::add);
+    connect(bar_, &PresetBar::updateRequested, this, &PresetController::replace);
+    connect(bar_, &PresetBar::renameRequested, this, &PresetController::rename);
+    connect(bar_, &PresetBar::removeRequested, this, &PresetController::remove);
+    connect(bar_, &PresetBar::aboutToChoose, this, [this] {
+        if (store_)
+            load();
+    });
+    bar_->menu()->addSeparator();
+    revert_ = bar_->menu()->addAction(tr("Re&vert to How the Dialog Opened"), steps_, &ChoiceSteps::revert);
+}
+
+void PresetController::load()
+{
+    const auto presets = store_->presets();
+    QList<PresetBar::Name> names;
+    if (presets) {
+        for (const Preset &preset : *presets)
+            names += PresetBar::Name{preset.name, preset.isWritable};
+    }
+    const QString current = bar_->current();
+    bar_->setNames(names);
+    bar_->setCurrent(current, steps_->differsFromPreset());
+    if (!presets)
+        bar_->showError(presets.failure().text);
+}
+
+void PresetController::mark(const QString &name)
+{
+    steps_->markPreset();
+    bar_->setCurrent(name, false);
+}
+
+void PresetController::use(const QString &name)
+{
+    Q_EMIT aboutToUse();
+    const QStringList leftOut = restore(name);
+    sayLeftOut(tr("Of the preset \"%1\", some choices are left out:").arg(name), leftOut);
+}
+
+/// Answers what is left out.
+QStringList PresetController::restore(const QString &name)
+{
+    const auto presets = store_->presets();
+    if (!presets)
+        return {presets.failure().text};
+    const Preset *preset = PresetStore::find(*presets, name);
+    if (!preset) {
+        load();
+        bar_->showError(tr("There is no preset \"%1\" any more.").arg(name));
+        return {};
+    }
+    const UsedChoices used = printdialog::usePreset(*session_, *preset);
+    steps_->setCopies(used.copies.value_or(1));
+    steps_->note();
+    mark(preset->name);
+    return used.leftOut;
+}
+
+void PresetController::sayLeftOut(const QString &introduction, const QStringList &sentences)
+{
+    constexpr qsizetype most = 4;
+    if (sentences.isEmpty())
+        return;
+    QStringList lines = QStringList(introduction) + sentences.first(std::min(sentences.size(), most));
+    if (sentences.size() > most)
+        lines += tr("And %n more.", nullptr, static_cast<int>(sentences.size() - most));
+    message_->show(MessageBar::Kind::Warning, lines.join(u'\n'));
+}
+
+/// The whole set of choices of a job; nothing when they do not go together, which the user is told.
+std::optional<QMap<QString, QString>> PresetController::kept()
+{
+    const auto job = session_->jobOptions();
+    if (!job) {
+        Q_EMIT jobRefused();
+        return std::nullopt;
+    }
+    steps_->note(); // what took the place of a dropped choice
+    return withCopies(job->options);
+}
+
+void PresetController::add(const QString &typed)
+{
+    const QString name = PresetName::cleaned(typed);
+    const auto choices = kept();
+    if (!choices)
+        return;
+    if (const auto failure = store_->add(name, *choices)) {
+        bar_->showError(failure->text);
+        return;
+    }
+    bar_->endEditing();
+    load();
+    mark(name);
+}
+
+void PresetController::replace(const QString &name)
+{
+    const auto choices = kept();
+    if (!choices)
+        return;
+    if (const auto failure = store_->update(name, *choices))
+        bar_->showError(failure->text);
+    else
+        mark(name);
+}
+
+void PresetController::rename(const QString &name, const QString &typed)
+{
+    const QString newName = PresetName::cleaned(typed);
+    if (const auto failure = store_->rename(name, newName)) {
+        bar_->showError(failure->text);
+        return;
+    }
+    bar_->endEditing();
+    load();
+    bar_->setCurrent(newName, steps_->differsFromPreset());
+}
+
+void PresetController::remove(const QString &name)
+{
+    if (const auto failure = store_->remove(name)) {
+        bar_->showError(failure->text);
+        return;
+    }
+    bar_->endEditing();
+    load();
+}
+
+} // namespace printdialog

@@ -1,0 +1,71 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include <QtCore/QMap>
+#include <QtCore/QObject>
+#include <QtCore/QString>
+
+#include <memory>
+#include <optional>
+
+class QAction;
+
+namespace printdialog {
+
+class ChoiceSteps;
+class DialogSession;
+class MessageBar;
+class PresetBar;
+class PresetStore;
+
+/// Choices come from a printer's presets and from the last time, and go there.
+class PresetController : public QObject
+{
+    Q_OBJECT
+
+public:
+    PresetController(PresetBar *bar, MessageBar *message, ChoiceSteps *steps, QObject *parent);
+    ~PresetController() override;
+
+    /// Makes the choices of the preset that the printer's name has in it, or else those last used with the
+    /// printer. The session must outlive this or the next call; null: none.
+    /// @param builtInPreset the built-in printer's preset, whose name is not in the printer's
+    void setSession(DialogSession *session, const QString &builtInPreset);
+    /// A step was made or taken back.
+    void update();
+
+    /// Keeps the choices for the next time with this printer. A sentence when that fails.
+    QString keep(const QMap<QString, QString> &options);
+
+Q_SIGNALS:
+    /// The user has asked for a preset's choices.
+    void aboutToUse();
+    /// Choices that are to be saved do not go together.
+    void jobRefused();
+
+private:
+    void makeActions();
+    void load();
+    bool openWith(const QString &instance);
+    void use(const QString &name);
+    QStringList restore(const QString &name);
+    void add(const QString &typed);
+    void replace(const QString &name);
+    void rename(const QString &name, const QString &typed);
+    void remove(const QString &name);
+    std::optional<QMap<QString, QString>> kept();
+    QMap<QString, QString> withCopies(QMap<QString, QString> options) const;
+    void mark(const QString &name);
+    void sayLeftOut(const QString &introduction, const QStringList &sentences);
+
+    PresetBar *bar_;
+    MessageBar *message_;
+    ChoiceSteps *steps_;
+    QAction *revert_ = nullptr;
+    DialogSession *session_ = nullptr;
+    std::unique_ptr<PresetStore> store_;
+};
+
+} // namespace printdialog
