@@ -3,6 +3,7 @@
 
 #include "BenchTable.h"
 #include "Benches.h"
+#include "PrintDialog.h"
 #include "SessionOpening.h"
 #include "SystemLog.h"
 #include "ViewTags.h"
@@ -93,9 +94,8 @@ double bareRound(const DialogSession &session, PanelMode mode)
 
 // Ours
 
-double keystroke(DialogSession &session)
+double keystroke(const QWidget *view)
 {
-    QWidget *view = session.panels().front()->panelView();
     auto *field = qobject_cast<QLineEdit *>(pdekit::viewWithTag(view, 81));
     auto *slider = qobject_cast<QSlider *>(pdekit::viewWithTag(view, 1));
     field->setFocus();
@@ -143,7 +143,7 @@ void benchMode(PanelMode mode, const QString &name)
         if (choices >= everyStep) {
             const double bare = bareKeystroke(session->ppd().record(), mode);
             printRow({QStringLiteral("keystroke to recorded choice, %1, %2 choices").arg(name).arg(choices),
-                      keystroke(*session),
+                      keystroke(session->panels().front()->panelView()),
                       QStringLiteral("libcups"),
                       bare,
                       {},
@@ -161,6 +161,29 @@ void benchMode(PanelMode mode, const QString &name)
     printGrowth(QStringLiteral("restore, defaults, summary, %1").arg(name), growth);
 }
 
+/// In the window, with all that follows what is chosen there. The fewest options set the aim of the others.
+void benchWindow(PanelMode mode, const QString &name)
+{
+    std::optional<double> fewest;
+    for (const int options : {10, 100, 1000}) {
+        PrintDialogSetup setup;
+        setup.mode = mode;
+        setup.ppdFile = QStringLiteral(CORVEL_BENCH_PPD_DIR "/BenchOptions%1.ppd").arg(options);
+        setup.remembers = false;
+        PrintDialog dialog(setup);
+        dialog.show();
+        QTest::qWait(1);
+        const double time = keystroke(dialog.findChild<QWidget *>(QStringLiteral("PDEView")));
+        printRow({QStringLiteral("keystroke in the window, %1, %2 options more").arg(name).arg(options),
+                  time,
+                  QStringLiteral("with 10"),
+                  fewest,
+                  fewest ? std::optional(1.2) : std::nullopt,
+                  {}});
+        fewest = fewest.value_or(time);
+    }
+}
+
 } // namespace
 
 void benchPanels()
@@ -168,5 +191,7 @@ void benchPanels()
     const pdekit::LogSink log = pdekit::setSystemLogSink([](const QString &) {});
     benchMode(PanelMode::Constraint, QStringLiteral("constraint mode"));
     benchMode(PanelMode::Settings, QStringLiteral("settings mode"));
+    benchWindow(PanelMode::Constraint, QStringLiteral("constraint mode"));
+    benchWindow(PanelMode::Settings, QStringLiteral("settings mode"));
     pdekit::setSystemLogSink(log);
 }

@@ -5,6 +5,7 @@
 
     makePpd.py FOLDER                    FOLDER/Corvel9031.ppd and FOLDER/Corvel9045.ppd
     makePpd.py FOLDER --choices 10000    FOLDER/Bench10000.ppd, with about that many choices
+    makePpd.py FOLDER --options 1000     FOLDER/BenchOptions1000.ppd, with that many options more
 
 What the printers can do stands in the tables below. A tuple of five texts is in the order of LANGUAGES.
 """
@@ -266,16 +267,20 @@ def thinnedGroups(wanted):
     return [group._replace(options=[thinned(option) for option in group.options]) for group in GROUPS]
 
 
+def madeUpGroup(count, choices):
+    return Group("Bench", same("Bench"), [
+        Option(f"Bench{n:04}", "Choice0", same(f"Bench option {n}"),
+               [Choice(f"Choice{c}", same(f"Choice{c}")) for c in range(choices)])
+        for n in range(1, count + 1)])
+
+
 def benchGroup(wanted):
     """A group of made-up options that brings the number of all choices to what is wanted, or just above."""
     missing = wanted - choiceCount(GROUPS)
     room = MOST_OPTIONS - sum(len(group.options) for group in GROUPS) - 2  # PageSize and PageRegion
     count = min(-(-missing // BENCH_CHOICES_PER_OPTION), room)
     perOption = -(-missing // count) if count else 0
-    return Group("Bench", same("Bench"), [
-        Option(f"Bench{n:04}", "Choice0", same(f"Bench option {n}"),
-               [Choice(f"Choice{c}", same(f"Choice{c}")) for c in range(perOption)])
-        for n in range(1, count + 1)])
+    return madeUpGroup(count, perOption)
 
 
 def benchGroups(wanted):
@@ -292,7 +297,13 @@ def main():
     parser.add_argument("folder", type=pathlib.Path, help="where the PPDs are written")
     parser.add_argument("--choices", type=int, metavar="N",
                         help="write one PPD with about N choices instead")
+    parser.add_argument("--options", type=int, metavar="N",
+                        help="write one PPD with N options more than the printer's instead")
     arguments = parser.parse_args()
+    if arguments.options is not None:
+        group = madeUpGroup(arguments.options, BENCH_CHOICES_PER_OPTION)
+        write(arguments.folder / f"BenchOptions{arguments.options}.ppd", ppdLines(MODELS[0], (*GROUPS, group)))
+        return
     if arguments.choices is not None:
         lines = ppdLines(MODELS[0], benchGroups(arguments.choices))
         write(arguments.folder / f"Bench{arguments.choices}.ppd", lines)
