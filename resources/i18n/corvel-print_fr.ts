@@ -1331,11 +1331,11 @@ Exemples&#x202f;:
     <name>printdialog::ChoiceRefusals</name>
     <message>
         <source>Als&amp;o change %1</source>
-        <translation>M&amp;odifier aussi : %1</translation>
+        <translation>M&amp;odifier aussi&#x202f;: %1</translation>
     </message>
     <message>
         <source>Chan&amp;ge %1</source>
-        <translation>M&amp;odifier : %1</translation>
+        <translation>M&amp;odifier&#x202f;: %1</translation>
     </message>
 </context>
 <context>
@@ -1722,7 +1722,7 @@ Exemples&#x202f;:
     <name>printdialog::PresetController</name>
     <message>
         <source>Of the choices used last, some are left out:</source>
-        <translation>Parmi les derniers réglages utilisés, certains ne sont pas repris :</translation>
+        <translation>Parmi les derniers réglages utilisés, certains ne sont pas repris&#x202f;:</translation>
     </message>
     <message>
         <source>Re&amp;vert to How the Dialog Opened</source>
@@ -1730,11 +1730,11 @@ Exemples&#x202f;:
     </message>
     <message>
         <source>Of the preset &quot;%1&quot;, some choices are left out:</source>
-        <translation>Certains choix du préréglage « %1 » ne sont pas repris :</translation>
+        <translation>Certains choix du préréglage «&#x202f;%1&#x202f;» ne sont pas repris&#x202f;:</translation>
     </message>
     <message>
         <source>There is no preset &quot;%1&quot; any more.</source>
-        <translation>Le préréglage « %1 » n’existe plus.</translation>
+        <translation>Le préréglage «&#x202f;%1&#x202f;» n’existe plus.</translation>
     </message>
     <message numerus="yes">
         <source>And %n more.</source>

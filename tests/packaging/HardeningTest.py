@@ -1,0 +1,49 @@
+# SPDX-FileCopyrightText: Corvel print dialog authors
+# SPDX-License-Identifier: Apache-2.0
+"""HardeningTest.py PROGRAM PPD_CHECK KIT MODULE IS_FORTIFIED: what was built, as binutils see it."""
+
+import re
+import sys
+import unittest
+
+from commands import CommandTest
+
+PROGRAM, PPD_CHECK, KIT, MODULE, IS_FORTIFIED = sys.argv[1:]
+
+
+class HardeningTest(CommandTest):
+    def exports(self, file):
+        """The names that a shared object offers to others: of NAME TYPE ADDRESS SIZE; a C++ name may hold spaces."""
+        symbols = self.output_of("nm", "-DC", "--defined-only", "--format=posix", file)
+        return sorted(re.sub(r" [A-Za-z]( [0-9a-f]+){1,2} ?$", "", line) for line in symbols.splitlines())
+
+    def test_is_hardened(self):
+        for file, is_program in ((PROGRAM, True), (PPD_CHECK, True), (KIT, False), (MODULE, False)):
+            with self.subTest(file):
+                headers = self.output_of("readelf", "-hdlW", file)
+                self.assert_all_in(("BIND_NOW", "GNU_RELRO", " DYN ("), headers)
+                self.assertNotIn("TEXTREL", headers)
+                self.assertEqual(" PIE" in headers, is_program)
+                self.assertNotRegex(headers, "GNU_STACK.*RWE")
+                imports = self.output_of("nm", "-D", "--undefined-only", file)
+                self.assertIn("__stack_chk_fail", imports)
+                if int(IS_FORTIFIED) and file == PROGRAM:
+                    self.assertIn("_chk@GLIBC", imports)
+
+    def test_the_module_exports_its_entry_and_the_record_functions(self):
+        self.assertEqual(self.exports(MODULE), [
+            "clearVeltaContextData", "destroyVeltaJobContext", "initializeVeltaContext", "qt_plugin_instance",
+            "qt_plugin_query_metadata_v2"])
+
+    # What a plug-in links to is there; what the kit keeps to itself is not. Templates of Qt and of the C++ library are
+    # nobody's.
+    def test_the_kit_exports_its_interface_only(self):
+        names = "\n".join(self.exports(KIT))
+        self.assert_all_in((
+            "pdekit::Bundle::open", "pdekit::loadForm", "pdekit::systemLog", "vtable for pdekit::KeyValueObject",
+            "typeinfo for pdekit::PlatformException", "pdekit::RadioMatrix::staticMetaObject"), names)
+        for kept in "DesktopFeedback", "anonymous namespace":
+            self.assertNotIn(kept, names)
+
+
+unittest.main(argv=sys.argv[:1])
