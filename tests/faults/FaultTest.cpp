@@ -2,23 +2,19 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include "BackendRun.h"
-#include "FaultInjection.h"
-#include "Faults.h"
+#include "BuiltInPrinter.h"
+#include "FailingCalls.h"
 #include "OpenedDialog.h"
 #include "PhotoThreads.h"
 #include "PlatformException.h"
-#include "PresetStore.h"
-#include "QueueSettings.h"
 
-#include <QtCore/QDirIterator>
 #include <QtCore/QProcess>
-#include <QtCore/QRandomGenerator>
 #include <QtCore/QTemporaryDir>
 #include <QtCore/QThreadPool>
 #include <QtTest/QTest>
 #include <QtWidgets/QApplication>
 
-#include <functional>
+#include <cstring>
 #include <malloc.h>
 #include <unistd.h>
 
@@ -28,64 +24,33 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-using Options = QMap<QString, QString>;
-
 #ifdef __SANITIZE_ADDRESS__
 constexpr qint64 residentGrowthLimit = 300 * 1024; // KiB: the sanitizer keeps what was freed
 #else
 constexpr qint64 residentGrowthLimit = 1024; // KiB
 #endif
 
-const QString printer = QStringLiteral("photo");
-const QString preset = QStringLiteral("portrait");
+using Contents = QMap<QString, QByteArray>;
 
-/// A set of choices as large as the printer's, all of one value.
-Options choices(const QString &value)
+/// Of all files in the folder, by their names.
+Contents contentsOf(const QString &folder)
 {
-    Options options;
-    for (int i = 0; i < 40; ++i)
-        options.insert(u"Option%1"_s.arg(i), value);
-    return options;
+    Contents contents;
+    for (const QString &name : QDir(folder).entryList(QDir::Files | QDir::Hidden)) {
+        QFile file(folder + u'/' + name);
+        contents.insert(name, file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray());
+    }
+    return contents;
 }
 
-/// A place where choices are kept: the settings of a printer, or a preset.
-struct Place
+/// The pair of the sample photo.
+Result<PrintedFiles, OutputFault> print(const QString &folder, bool overwrites)
 {
-    std::function<SettingsFailure(const Options &, bool isFirst)> save;
-    std::function<Options()> load;
-};
-
-Place placeNamed(const QString &name)
-{
-    if (name == "settings"_L1)
-        return {[](const Options &options, bool) { return QueueSettings::save(printer, options); },
-                [] {
-                    return QueueSettings::load(printer);
-                }};
-    const std::shared_ptr<PresetStore> store = PresetStore::open(printer, name == "built-in preset"_L1);
-    const auto load = [store] {
-        const auto presets = store->presets();
-        return presets && !presets->isEmpty() ? presets->constFirst().options : Options();
-    };
-    const auto save = [store](const Options &options, bool isFirst) {
-        return isFirst ? store->add(preset, options) : store->update(preset, options);
-    };
-    return {save, load};
-}
-
-QStringList filesBelow(const QString &folder)
-{
-    QStringList files;
-    QDirIterator all(folder, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
-    while (all.hasNext())
-        files << all.next();
-    files.sort();
-    return files;
-}
-
-bool isLong()
-{
-    return qEnvironmentVariableIsSet("CORVEL_FAULTS_LONG");
+    PrintJob job;
+    job.page = {QSizeF(288, 432), QRectF(0, 0, 288, 432)};
+    job.checksPhoto = false; // on threads that a forked process does not have
+    PrintedNames names({folder, overwrites});
+    return BuiltInPrinter::print(*Photo::open(QStringLiteral(CORVEL_SAMPLE_PHOTO)), job, names);
 }
 
 /// Of this process, in KiB.
@@ -106,121 +71,129 @@ struct Memory
     }
 };
 
-/// Saves one set of choices and another one in turn, until it is killed. Says so after the first time.
-int saveForEver(const QString &place)
-{
-    const Place target = placeNamed(place);
-    for (int i = 0;; ++i) {
-        target.save(choices(i % 2 == 0 ? u"even"_s : u"odd"_s), false);
-        if (i == 0 && ::write(STDOUT_FILENO, "\n", 1) != 1)
-            return 1;
-    }
-}
-
 } // namespace
 
-/// What is kept, and what is started, when the system refuses something at any one moment.
+/// What is printed, and what is started, when the system refuses something at any one moment.
 class FaultTest : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void savesWholeOrNotAtAll_data();
-    void savesWholeOrNotAtAll();
-    void killedWhileSaving_data();
-    void killedWhileSaving();
+    void printsBothOrNeither_data();
+    void printsBothOrNeither();
+    void killedWhilePrinting_data();
+    void killedWhilePrinting();
     void launchesOrSaysWhy_data();
     void launchesOrSaysWhy();
     void dialogsLeaveNothing();
-
-private:
-    std::unique_ptr<QTemporaryDir> home_;
 };
 
-void FaultTest::init()
+void FaultTest::printsBothOrNeither_data()
 {
-    home_ = std::make_unique<QTemporaryDir>();
-    qputenv("HOME", home_->path().toUtf8());
-    qputenv("XDG_CONFIG_HOME", home_->filePath(u"config"_s).toUtf8());
+    QTest::addColumn<QByteArray>("call");
+    QTest::addColumn<int>("error");
+    QTest::addColumn<bool>("isMet"); // what the program has to get by
+    const auto row = [](const char *call, int error, bool isMet = false) {
+        QTest::addRow("%s: %s", call, std::strerror(error)) << QByteArray(call) << error << isMet;
+    };
+    row("openat", EMFILE);
+    row("write", ENOSPC);
+    row("write", EIO);
+    row("write", EINTR, true);
+    row("close", EIO);
+    row("close", EINTR, true);
+    row("fsync", EIO);
+    row("fsync", EINTR, true);
+    row("linkat", ENOSPC);
+    row("renameat", EIO);
+    row("renameat2", EIO);
+    row("renameat2", EINVAL, true); // a file system that cannot
+    row("renameat2", EEXIST, true); // another program is faster
 }
 
-void FaultTest::savesWholeOrNotAtAll_data()
+// A page and its ticket: in an empty folder, in the place of an earlier pair, and beside it.
+void FaultTest::printsBothOrNeither()
 {
-    QTest::addColumn<bool>("isFirst");
-    for (const char *place : {"settings", "preset", "built-in preset"}) {
-        QTest::addRow("%s", place) << false;
-        QTest::addRow("%s, the first", place) << true;
-    }
-}
-
-// Each call fails in turn, with each error that it can have.
-void FaultTest::savesWholeOrNotAtAll()
-{
-    QFETCH(bool, isFirst);
-    const Place place = placeNamed(QString::fromLatin1(QTest::currentDataTag()).section(u',', 0, 0));
+    QFETCH(const QByteArray, call);
+    QFETCH(const int, error);
+    QFETCH(const bool, isMet);
+    const QTemporaryDir whole;
+    QVERIFY(print(whole.path(), false));
+    const QByteArrayList expected = contentsOf(whole.path()).values();
     int faults = 0;
-    QSet<QByteArray> calls;
-    for (const CallFault &each : fileFaults()) {
+    for (const char *manner : {"new", "over", "beside"}) {
         for (int number = 1;; ++number) {
-            const Fault fault{each.call, each.error, number, home_->path().toUtf8()};
-            if (isFirst)
-                QVERIFY(QDir(home_->path()).removeRecursively() && QDir().mkpath(home_->path()));
-            else
-                QVERIFY(!place.save(choices(u"old"_s), place.load().isEmpty()));
-            const Options before = place.load();
-            const QStringList files = filesBelow(home_->path());
-
-            armFault(fault.call.constData(), fault.error, fault.number, fault.folder.constData());
-            const SettingsFailure failure = place.save(choices(u"new"_s), isFirst);
-            if (!disarmFault())
+            const QTemporaryDir folder;
+            for (const char *name : {"/sample.pdf", "/sample.ticket.json"}) {
+                QFile earlier(folder.path() + QLatin1String(name));
+                QVERIFY(qstrcmp(manner, "new") == 0 ||
+                        (earlier.open(QFile::WriteOnly) && earlier.write(name) > 0));
+            }
+            const Contents before = contentsOf(folder.path());
+            armFault(call.constData(), error, number, Among::Files);
+            const auto files = print(folder.path(), qstrcmp(manner, "over") == 0);
+            const bool isInjected = disarmFault();
+            Contents after = contentsOf(folder.path());
+            const QString found = u"%1 %2: "_s.arg(QLatin1String(manner)).arg(number) +
+                                  (files ? u"printed"_s : files.failure().text) + after.keys().join(u' ');
+            QVERIFY2(files || (isInjected && !isMet), qPrintable(found));
+            if (files) {
+                const QByteArrayList printed{after.take(QFileInfo(files->pdf).fileName()),
+                                             after.take(QFileInfo(files->ticket).fileName())};
+                QVERIFY2(printed == expected &&
+                             after == (qstrcmp(manner, "beside") == 0 ? before : Contents()),
+                         qPrintable(found));
+            } else {
+                QVERIFY2(after == before && files.failure().text.contains(folder.path()) &&
+                             files.failure().text.endsWith(u'.'),
+                         qPrintable(found));
+            }
+            if (!isInjected)
                 break;
             ++faults;
-            calls << each.call;
-            const QStringList filesNow = filesBelow(home_->path());
-            const QByteArray found = textOf(fault) + ": " + (failure ? failure->text : u"saved"_s).toUtf8() +
-                                     "; " + filesNow.join(u' ').toUtf8();
-            const bool isWhole = place.load() == (failure ? before : choices(u"new"_s));
-            const bool isClean = failure ? filesNow == files : filesNow.size() == 1;
-            const bool isClear =
-                !failure || (failure->text.contains(home_->path()) && failure->text.endsWith(u'.'));
-            QVERIFY2(isWhole && isClean && isClear, found.constData());
         }
     }
-    for (const char *call : {"open", "write", "close", "fsync", "rename"})
-        QVERIFY2(calls.contains(call), call);
-    qInfo("%d faults", faults);
+    QVERIFY(faults > 1);
 }
 
-void FaultTest::killedWhileSaving_data()
+void FaultTest::killedWhilePrinting_data()
 {
-    QTest::addColumn<int>("signal");
-    for (const char *place : {"settings", "preset", "built-in preset"}) {
-        QTest::addRow("%s, SIGKILL", place) << SIGKILL;
-        QTest::addRow("%s, SIGTERM", place) << SIGTERM;
-    }
+    QTest::addColumn<QByteArray>("call");
+    for (const char *call : {"write", "fsync", "linkat", "renameat"})
+        QTest::newRow(call) << QByteArray(call);
 }
 
-void FaultTest::killedWhileSaving()
+// At each call, in the place of an earlier pair: each file is the old or the new one, and the next run cleans
+// up.
+void FaultTest::killedWhilePrinting()
 {
-    QFETCH(int, signal);
-    const QString name = QString::fromLatin1(QTest::currentDataTag()).section(u',', 0, 0);
-    const Place place = placeNamed(name);
-    QVERIFY(!place.save(choices(u"odd"_s), true));
-    const int kills = isLong() ? 70 : 7;
-    for (int kill = 0; kill < kills; ++kill) {
-        QProcess saver;
-        saver.start(QCoreApplication::applicationFilePath(), {u"--save"_s, name});
-        QVERIFY(saver.waitForReadyRead());
-        usleep(static_cast<useconds_t>(QRandomGenerator::global()->bounded(20'000)));
-        QCOMPARE(::kill(static_cast<pid_t>(saver.processId()), signal), 0);
-        QVERIFY(saver.waitForFinished(10000));
-        const Options found = place.load();
-        QVERIFY(found == choices(u"odd"_s) || found == choices(u"even"_s));
-        // The next one to save takes away what was left.
-        QVERIFY(!place.save(choices(u"next %1"_s.arg(kill)), false));
-        QCOMPARE(filesBelow(home_->path()).size(), 1);
-        QVERIFY(!place.save(choices(u"odd"_s), false));
+    QFETCH(const QByteArray, call);
+    const QTemporaryDir folder;
+    QVERIFY(print(folder.path(), true));
+    const Contents whole = contentsOf(folder.path());
+    bool isKilled = true;
+    for (int number = 1; isKilled; ++number) {
+        Contents old = whole;
+        for (auto file = old.begin(); file != old.end(); ++file) {
+            *file = "old";
+            QFile earlier(folder.filePath(file.key()));
+            QVERIFY(earlier.open(QFile::WriteOnly) && earlier.write(*file) == 3);
+        }
+        const pid_t child = fork();
+        if (child == 0) {
+            armFault(call.constData(), 0, number, Among::Files);
+            _exit(print(folder.path(), true) ? 0 : 1);
+        }
+        int status = 0;
+        QVERIFY(child > 0 && waitpid(child, &status, 0) == child);
+        isKilled = WIFSIGNALED(status);
+        QVERIFY(isKilled || number > 1);
+        const Contents left = contentsOf(folder.path());
+        for (auto file = whole.begin(); file != whole.end(); ++file)
+            QVERIFY2(left.value(file.key()) == *file || (isKilled && left.value(file.key()) == "old"),
+                     qPrintable(QString::number(number)));
+        QVERIFY(print(folder.path(), true));
+        QCOMPARE(contentsOf(folder.path()), whole);
     }
 }
 
@@ -229,7 +202,6 @@ void FaultTest::launchesOrSaysWhy_data()
     QTest::addColumn<int>("error");
     QTest::newRow("pipe2") << EMFILE;
     QTest::newRow("posix_spawn") << ENOMEM;
-    QTest::newRow("open") << EMFILE;
     QTest::newRow("write") << EPIPE;
     QTest::newRow("write interrupted") << EINTR;
     QTest::newRow("read") << EIO;
@@ -256,7 +228,7 @@ void FaultTest::launchesOrSaysWhy()
     for (;; ++number) {
         QFile::remove(run.folder.filePath(u"input"_s));
         run.dialog.log.clear();
-        armFault(call.constData(), error, number, call == "open" ? "/dev/fd" : "pipe:");
+        armFault(call.constData(), error, number, Among::Pipes);
         bool isLaunched = true;
         try {
             isLaunched = run.start() == 0;
@@ -302,7 +274,7 @@ void FaultTest::dialogsLeaveNothing()
     const qsizetype descriptors = openDescriptors();
     const qsizetype threadsBefore = threads();
     const Memory before = Memory::now();
-    openAndClose(isLong() ? 500 : 100);
+    openAndClose(100);
     QTRY_COMPARE(openDescriptors(), descriptors);
     QTRY_COMPARE(threads(), threadsBefore);
     const Memory after = Memory::now();
@@ -316,10 +288,6 @@ void FaultTest::dialogsLeaveNothing()
 
 int main(int argc, char *argv[])
 {
-    if (argc == 3 && qstrcmp(argv[1], "--save") == 0) {
-        const QCoreApplication application(argc, argv);
-        return saveForEver(QString::fromLocal8Bit(argv[2]));
-    }
     // So that what is no longer in use goes back to the system, and what stays resident can be told.
     mallopt(M_ARENA_MAX, 1);
     mallopt(M_MMAP_THRESHOLD, 128 * 1024);
