@@ -5,14 +5,10 @@
 
 #include <QtCore/QDir>
 #include <QtCore/QFile>
-#include <QtCore/QRandomGenerator>
 #include <QtCore/QTemporaryDir>
 #include <QtTest/QTest>
 
-#include <csignal>
 #include <sys/stat.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
 using namespace printdialog;
 using namespace Qt::StringLiterals;
@@ -20,7 +16,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr qsizetype contentSize = 300'000;
-constexpr int kills = 100;
 
 QByteArray contentOf(const QString &path)
 {
@@ -46,7 +41,6 @@ class AtomicFilesTest : public QObject
 private Q_SLOTS:
     void nothingIsSeenBeforeItIsWhole();
     void keepsAFileThatAppearsMeanwhile();
-    void killedAtAnyMoment();
     void staleFilesGo();
 };
 
@@ -83,29 +77,6 @@ void AtomicFilesTest::keepsAFileThatAppearsMeanwhile()
     QVERIFY(!failed);
     QCOMPARE(failed.failure().reason, OutputFault::NameTaken);
     QCOMPARE(contentOf(folder.filePath(u"file"_s)), QByteArray(contentSize, 'a'));
-    QCOMPARE(QDir(folder.path()).entryList(QDir::Files | QDir::Hidden), QStringList{u"file"_s});
-}
-
-// A process that replaces the file again and again is killed: what is left is one of its contents, whole.
-void AtomicFilesTest::killedAtAnyMoment()
-{
-    const QTemporaryDir folder;
-    QVERIFY(replace(folder.path(), 'A'));
-    for (int kill = 0; kill < kills; ++kill) {
-        const pid_t child = fork();
-        if (child == 0) {
-            for (int i = 0;; ++i)
-                replace(folder.path(), static_cast<char>('a' + i % 26));
-        }
-        QVERIFY(child > 0);
-        usleep(static_cast<useconds_t>(QRandomGenerator::global()->bounded(200, 6000)));
-        QCOMPARE(::kill(child, SIGKILL), 0);
-        QCOMPARE(waitpid(child, nullptr, 0), child);
-        const QByteArray content = contentOf(folder.filePath(u"file"_s));
-        QCOMPARE(content.size(), contentSize);
-        QCOMPARE(content.count(content.front()), contentSize);
-    }
-    QVERIFY(replace(folder.path(), 'a'));
     QCOMPARE(QDir(folder.path()).entryList(QDir::Files | QDir::Hidden), QStringList{u"file"_s});
 }
 

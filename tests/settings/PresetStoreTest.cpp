@@ -324,9 +324,12 @@ void PresetStoreTest::twoDialogsLoseNothing()
 // As on a disk that is full: the write stops in the middle.
 void PresetStoreTest::failedWriteLeavesTheOldFile()
 {
-    QueuePresets store(u"photo"_s);
-    QVERIFY(!store.add(u"first"_s, {{u"Red"_s, QString(100, u'x')}}));
-    const QByteArray before = content(QueuePresets::userFile());
+    QueuePresets queue(u"photo"_s);
+    BuiltInPresets builtIn;
+    const Options old{{u"Red"_s, QString(100, u'x')}};
+    const Options large{{u"Red"_s, QString(3000, u'y')}};
+    QVERIFY(!queue.add(u"first"_s, old) && !builtIn.add(u"first"_s, old) &&
+            !QueueSettings::save(u"photo"_s, old));
     const auto handler = std::signal(SIGXFSZ, SIG_IGN);
     rlimit limit = {};
     getrlimit(RLIMIT_FSIZE, &limit);
@@ -334,16 +337,22 @@ void PresetStoreTest::failedWriteLeavesTheOldFile()
         setrlimit(RLIMIT_FSIZE, &limit);
         std::signal(SIGXFSZ, handler);
     });
-    const rlimit small = {static_cast<rlim_t>(before.size() + 40), limit.rlim_max};
-    setrlimit(RLIMIT_FSIZE, &small);
-    const auto failure = store.add(u"second"_s, {{u"Red"_s, QString(3000, u'y')}});
-    setrlimit(RLIMIT_FSIZE, &limit);
-    QVERIFY(failure);
-    QCOMPARE(failure->reason, SettingsFault::NotWritable);
-    QVERIFY2(failure->text.contains(QueuePresets::userFile()), qPrintable(failure->text));
-    QCOMPARE(content(QueuePresets::userFile()), before);
-    QCOMPARE(QDir(QFileInfo(QueuePresets::userFile()).path()).entryList(QDir::Files | QDir::Hidden),
-             QStringList{u"lpoptions"_s});
+    const auto leaves = [&limit](const QString &path, const auto &save) {
+        const QDir folder = QFileInfo(path).dir();
+        const QByteArray before = content(path);
+        const rlimit small = {static_cast<rlim_t>(before.size() + 40), limit.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &small);
+        const SettingsFailure failure = save();
+        setrlimit(RLIMIT_FSIZE, &limit);
+        QVERIFY(failure);
+        QCOMPARE(failure->reason, SettingsFault::NotWritable);
+        QVERIFY2(failure->text.contains(path), qPrintable(failure->text));
+        QCOMPARE(content(path), before);
+        QCOMPARE(folder.entryList(QDir::Files | QDir::Hidden), QStringList{QFileInfo(path).fileName()});
+    };
+    leaves(QueuePresets::userFile(), [&] { return queue.add(u"second"_s, large); });
+    leaves(BuiltInPresets::file(), [&] { return builtIn.add(u"second"_s, large); });
+    leaves(QueueSettings::fileFor(u"photo"_s), [&] { return QueueSettings::save(u"photo"_s, large); });
 }
 
 void PresetStoreTest::unreadableFileIsNotWrittenOver()
