@@ -124,6 +124,11 @@ int linkat(int fromFolder, const char *from, int toFolder, const char *to, int f
     return fails("linkat", toFolder) ? -1 : pass<int>("linkat", fromFolder, from, toFolder, to, flags);
 }
 
+int rename(const char *from, const char *to)
+{
+    return failsAtAll("rename") ? -1 : pass<int>("rename", from, to);
+}
+
 int renameat(int fromFolder, const char *from, int toFolder, const char *to)
 {
     return fails("renameat", toFolder) ? -1 : pass<int>("renameat", fromFolder, from, toFolder, to);

@@ -7,6 +7,7 @@
 #include "OpenedDialog.h"
 #include "PhotoThreads.h"
 #include "PlatformException.h"
+#include "PresetStore.h"
 
 #include <QtCore/QProcess>
 #include <QtCore/QTemporaryDir>
@@ -79,6 +80,9 @@ class FaultTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase();
+    void savesOrKeepsSettings_data();
+    void savesOrKeepsSettings();
     void printsBothOrNeither_data();
     void printsBothOrNeither();
     void killedWhilePrinting_data();
@@ -86,7 +90,56 @@ private Q_SLOTS:
     void launchesOrSaysWhy_data();
     void launchesOrSaysWhy();
     void dialogsLeaveNothing();
+
+private:
+    QTemporaryDir home_;
 };
+
+void FaultTest::initTestCase()
+{
+    qputenv("HOME", home_.path().toUtf8());
+    qputenv("XDG_CONFIG_HOME", home_.filePath(u"config"_s).toUtf8());
+}
+
+void FaultTest::savesOrKeepsSettings_data()
+{
+    QTest::addColumn<QByteArray>("call");
+    QTest::addColumn<int>("error");
+    for (const auto &[call, error] : {std::pair("read", EIO),
+                                      {"read", EINTR},
+                                      {"write", EIO},
+                                      {"fsync", EIO},
+                                      {"close", EIO},
+                                      {"renameat", EIO},
+                                      {"rename", EIO}})
+        QTest::addRow("%s: %s", call, std::strerror(error)) << QByteArray(call) << error;
+}
+
+void FaultTest::savesOrKeepsSettings()
+{
+    QFETCH(const QByteArray, call);
+    QFETCH(const int, error);
+    using Options = QMap<QString, QString>;
+    for (const bool isBuiltIn : {false, true}) {
+        const auto store = PresetStore::open(u"photo"_s, isBuiltIn);
+        const QString name = QLatin1String(call) + QString::number(error);
+        Options before;
+        QVERIFY(!store->add(name, before));
+        bool isInjected = true;
+        for (int number = 1; isInjected; ++number) {
+            const Options options{{u"Red"_s, QString::number(number)}};
+            armFault(call.constData(), error, number, Among::Files);
+            const SettingsFailure failure = store->update(name, options);
+            isInjected = disarmFault();
+            QVERIFY(!failure || (isInjected && error != EINTR));
+            before = failure ? before : options;
+            const auto presets = store->presets();
+            QVERIFY(presets && !presets->isEmpty() && presets->constLast().name == name);
+            QCOMPARE(presets->constLast().options, before);
+        }
+        QVERIFY(!store->remove(name));
+    }
+}
 
 void FaultTest::printsBothOrNeither_data()
 {
