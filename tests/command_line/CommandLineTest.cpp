@@ -56,11 +56,9 @@ private:
 
 private Q_SLOTS:
     void init() { folder_ = std::make_unique<QTemporaryDir>(); }
-    void printsThePhotoWithItsTicket_data();
     void printsThePhotoWithItsTicket();
     void takesChoicesInAnySpelling_data();
     void takesChoicesInAnySpelling();
-    void keepsPhotosOfOneNameApart();
     void replacesNoFileOfOthers();
     void namesWhatWasPrintedBeforeAFailure();
     void leavesDamagedPhotosOut();
@@ -70,47 +68,38 @@ private Q_SLOTS:
     void helpAndVersionGoToStandardOutput();
     void keepsControlCharactersFromTheTerminal();
     void hearsOfItsHelpersEnd();
-    void failsWhenItsOutputCannotBeWritten_data();
     void failsWhenItsOutputCannotBeWritten();
 };
 
-void CommandLineTest::printsThePhotoWithItsTicket_data()
-{
-    QTest::addColumn<QString>("mode");
-    QTest::newRow("constraint handling") << u"constraint"_s;
-    QTest::newRow("print settings") << u"settings"_s;
-}
-
 void CommandLineTest::printsThePhotoWithItsTicket()
 {
-    QFETCH(QString, mode);
-    QMap<QString, QString> expected{{u"PageSize"_s, u"4x6.Fullbleed"_s}};
-    const auto options = listedOptions({u"--mode"_s, mode});
-    for (const QJsonObject &option : options) {
-        if (option[u"panel"_s].isString())
-            expected.insert(option[u"keyword"_s].toString(), option[u"default"_s].toString());
+    for (const QString &mode : {u"constraint"_s, u"settings"_s}) {
+        QMap<QString, QString> expected{{u"PageSize"_s, u"4x6.Fullbleed"_s}};
+        for (const QJsonObject &option : listedOptions({u"--mode"_s, mode})) {
+            if (option[u"panel"_s].isString())
+                expected.insert(option[u"keyword"_s].toString(), option[u"default"_s].toString());
+        }
+        QVERIFY(expected.contains(u"Red"_s) && expected.contains(u"Gamma"_s) &&
+                expected.contains(u"Contrast"_s));
+        expected.insert({{u"Red"_s, u"12"_s}, {u"Gamma"_s, u"-3"_s}});
+
+        const ProgramRun run =
+            print({u"--overwrite"_s, u"--mode"_s, mode, u"-d"_s, u"built-in"_s, u"-n"_s, u"3"_s, u"-o"_s,
+                   u"Red=12"_s, u"--option"_s, u"Gamma=-3"_s, QUrl::fromLocalFile(samplePhoto).toString()});
+        QCOMPARE(run.err, QByteArray());
+        QCOMPARE(run.status, 0);
+        const QString pdf = pathOf(u"out/sample.pdf"_s);
+        QCOMPARE(QString::fromUtf8(run.out), u"Printed sample.jpg: %1\n"_s.arg(pdf));
+        const QString ticket = pathOf(u"out/sample.ticket.json"_s);
+        QCOMPARE(ticketEntries(ticket), expected);
+        QCOMPARE(ticketEntries(ticket, u"summary"_s).value(u"Red"_s), u"12"_s);
+        QCOMPARE(ticketEntries(ticket, u"summary"_s).size(), expected.size() - 1); // what the panels say
+        const QJsonDocument json = QJsonDocument::fromJson(contentOf(ticket));
+        QCOMPARE(json[u"printer"].toString(), u"built-in"_s);
+        QCOMPARE(json[u"document"].toString(), samplePhoto);
+        QCOMPARE(json[u"copies"].toInt(), 3);
+        QVERIFY(contentOf(pdf).contains(contentOf(samplePhoto)));
     }
-    QVERIFY(expected.contains(u"Red"_s) && expected.contains(u"Gamma"_s) && expected.contains(u"Contrast"_s));
-    expected.insert({{u"Red"_s, u"12"_s}, {u"Gamma"_s, u"-3"_s}});
-
-    const ProgramRun run =
-        print({u"--mode"_s, mode, u"-d"_s, u"built-in"_s, u"-n"_s, u"3"_s, u"-o"_s, u"Red=12"_s,
-               u"--option"_s, u"Gamma=-3"_s, QUrl::fromLocalFile(samplePhoto).toString()});
-    QCOMPARE(run.err, QByteArray());
-    QCOMPARE(run.status, 0);
-    const QString pdf = pathOf(u"out/sample.pdf"_s);
-    QCOMPARE(QString::fromUtf8(run.out), u"Printed sample.jpg: %1\n"_s.arg(pdf));
-    const QString ticket = pathOf(u"out/sample.ticket.json"_s);
-    QCOMPARE(ticketEntries(ticket), expected);
-    QCOMPARE(ticketEntries(ticket, u"summary"_s).value(u"Red"_s), u"12"_s);
-    QCOMPARE(ticketEntries(ticket, u"summary"_s).size(), expected.size() - 1); // what the panels say
-    const QJsonDocument json = QJsonDocument::fromJson(contentOf(ticket));
-    QCOMPARE(json[u"printer"].toString(), u"built-in"_s);
-    QCOMPARE(json[u"document"].toString(), samplePhoto);
-    QCOMPARE(json[u"copies"].toInt(), 3);
-
-    QCOMPARE(QProcess::execute(u"pdfimages"_s, {u"-all"_s, pdf, pathOf(u"image"_s)}), 0);
-    QVERIFY(contentOf(pathOf(u"image-000.jpg"_s)) == contentOf(samplePhoto));
 }
 
 void CommandLineTest::takesChoicesInAnySpelling_data()
@@ -142,16 +131,6 @@ void CommandLineTest::takesChoicesInAnySpelling()
         QCOMPARE(ticketEntries(pathOf(u"out/sample.ticket.json"_s)).value(key), choice);
         QVERIFY(QFile::remove(pathOf(u"out/sample.ticket.json"_s)));
     }
-}
-
-void CommandLineTest::keepsPhotosOfOneNameApart()
-{
-    QVERIFY(QDir(folder_->path()).mkdir(u"other"_s) &&
-            QFile::copy(samplePhoto, pathOf(u"other/sample.jpg"_s)));
-    const ProgramRun run = print({samplePhoto, pathOf(u"other/sample.jpg"_s)});
-    QCOMPARE(run.status, 0);
-    QCOMPARE(run.out.count('\n'), 2);
-    QCOMPARE(QDir(pathOf(u"out"_s)).entryList({u"*.pdf"_s}).size(), 2);
 }
 
 // The photo is a JPEG file whose name is that of its page.
@@ -319,22 +298,17 @@ void CommandLineTest::hearsOfItsHelpersEnd()
     QVERIFY2(run.status == 0, run.err.constData());
 }
 
-void CommandLineTest::failsWhenItsOutputCannotBeWritten_data()
-{
-    QTest::addColumn<QString>("command");
-    QTest::newRow("full disk") << u"\"$@\" > /dev/full"_s;
-    QTest::newRow("closed") << u"\"$@\" >&-"_s;
-    QTest::newRow("all closed but errors") << u"\"$@\" <&- >&-"_s;
-}
-
 // No file may take the number of a closed stream either: the line would end up in the photo.
 void CommandLineTest::failsWhenItsOutputCannotBeWritten()
 {
-    QFETCH(QString, command);
-    const ProgramRun run = runInShell(command, {u"--batch"_s, u"--output"_s, pathOf(u"out"_s), samplePhoto});
-    const QByteArray wrong = wrongInRefusal(run, 1, {u"Standard output"_s});
-    QVERIFY2(wrong.isEmpty(), wrong.constData());
-    QVERIFY(contentOf(pathOf(u"out/sample.pdf"_s)).startsWith("%PDF-"));
+    for (const QString &streams : {u"> /dev/full"_s, u">&-"_s, u"<&- >&-"_s}) {
+        const ProgramRun run =
+            runInShell(u"\"$@\" "_s + streams,
+                       {u"--batch"_s, u"--overwrite"_s, u"--output"_s, pathOf(u"out"_s), samplePhoto});
+        const QByteArray wrong = wrongInRefusal(run, 1, {u"Standard output"_s});
+        QVERIFY2(wrong.isEmpty(), wrong.constData());
+        QVERIFY(contentOf(pathOf(u"out/sample.pdf"_s)).startsWith("%PDF-"));
+    }
     QCOMPARE(runInShell(u"\"$@\" --list-options > /dev/full"_s, {}).status, 1);
     const ProgramRun unread = runInShell(u"{ sleep 0.1; \"$@\" --help; echo $? >&2; } | true"_s, {});
     QVERIFY2(unread.err.contains("Standard output") && unread.err.endsWith("\n1\n"), unread.err.constData());

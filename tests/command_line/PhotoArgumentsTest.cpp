@@ -42,7 +42,6 @@ private Q_SLOTS:
     void nameAsUrl();
     void badPhotosLeaveTheWindowToTheGoodOnes();
     void outputFolder();
-    void longNameOfAnyBytes();
 };
 
 void PhotoArgumentsTest::placement_data()
@@ -141,17 +140,6 @@ void PhotoArgumentsTest::outputFolder()
     QCOMPARE(folderOf({samplePhoto}), pictures + u"/Prints"_s);
     QCOMPARE(folderOf({samplePhoto, u"--batch"_s}), u"."_s);
     QCOMPARE(folderOf({samplePhoto, u"--output=there"_s}), u"there"_s);
-}
-
-// Each of those bytes becomes three in the names of what is printed, which are cut to what is allowed.
-void PhotoArgumentsTest::longNameOfAnyBytes()
-{
-    const ProgramRun run =
-        runInShell(u"cd '%1' && name=$(printf '\\351%.0s' $(seq 100)).jpg && cp '%2' \"$name\" && "
-                   "\"$1\" --batch --output out \"$name\""_s.arg(folder_->path(), samplePhoto),
-                   {});
-    QVERIFY2(run.status == 0, run.err.constData());
-    QCOMPARE(QDir(pathOf(u"out"_s)).entryList(QDir::Files).size(), 2);
 }
 
 QTEST_GUILESS_MAIN(PhotoArgumentsTest)

@@ -57,13 +57,10 @@ private:
 private Q_SLOTS:
     void initTestCase();
     void listsQueues();
-    void printsToTheQueue_data();
-    void printsToTheQueue();
     void refusesQueues_data();
     void refusesQueues();
     void sendsWhatTheDryRunShows_data();
     void sendsWhatTheDryRunShows();
-    void sendsNoDamagedPhoto_data();
     void sendsNoDamagedPhoto();
     void dryRunOfTheBuiltInPrinter();
     void asksTheServerNamed();
@@ -106,29 +103,6 @@ void QueueCommandLineTest::listsQueues()
     QVERIFY(text.contains("\nphoto\tPhoto corner\tready\tdefault\n"));
     QVERIFY(text.contains("\nclosed\tclosed\trejects jobs\t\n"));
     QCOMPARE(runProgram({u"--list-printers"_s, u"--json"_s}).json().array().size(), 6);
-}
-
-void QueueCommandLineTest::printsToTheQueue_data()
-{
-    QTest::addColumn<QStringList>("printer");
-    QTest::newRow("by its name") << QStringList{u"--printer"_s, u"photo"_s};
-    QTest::newRow("default") << QStringList();
-}
-
-void QueueCommandLineTest::printsToTheQueue()
-{
-    QFETCH(QStringList, printer);
-    const ProgramRun run = runProgram(printer + QStringList{u"--batch"_s, u"-o"_s, u"Red=12"_s, samplePhoto});
-    QCOMPARE(run.err, QByteArray());
-    QCOMPARE(run.status, 0);
-    QVERIFY(run.out.startsWith("Sent sample.jpg to photo as job "));
-    const int id = run.out.trimmed().split(' ').constLast().toInt();
-    QVERIFY(cupsd_.waitForJob(id));
-    const RecordedJob job = cupsd_.job(id);
-    const QByteArrayList options = job.options.split(' ');
-    for (const char *option : {"Red=12", "Green=0", "PageSize=4x6.Fullbleed"})
-        QVERIFY2(options.contains(option), job.options.constData());
-    QVERIFY(job.document.startsWith("%PDF-"));
 }
 
 void QueueCommandLineTest::refusesQueues_data()
@@ -178,6 +152,7 @@ void QueueCommandLineTest::sendsWhatTheDryRunShows_data()
     QTest::addColumn<QString>("format");
     const QStringList red = {u"-o"_s, u"Red=12"_s};
     const QStringList small = {u"-o"_s, u"PageSize=4x6"_s};
+    QTest::newRow("default") << QString() << samplePhoto << red << u"application/pdf"_s;
     QTest::newRow("placed") << u"photo"_s << samplePhoto << red << u"application/pdf"_s;
     QTest::newRow("nothing to place") << u"photo"_s << uprightPhoto() << red << u"image/jpeg"_s;
     QTest::newRow("class") << u"group"_s << uprightPhoto() << red << u"image/jpeg"_s;
@@ -196,20 +171,25 @@ void QueueCommandLineTest::sendsWhatTheDryRunShows()
     QFETCH(QString, queue);
     QFETCH(QString, photo);
     QFETCH(QStringList, options);
-    const QStringList arguments = QStringList{u"--printer"_s, queue, photo} + options;
+    QStringList arguments = QStringList(photo) + options;
+    if (!queue.isEmpty())
+        arguments += {u"--printer"_s, queue};
+    const QString name = queue.isEmpty() ? u"photo"_s : queue;
     const QByteArray before = cupsd_.activeJobs();
     const ProgramRun dry = runProgram(arguments + QStringList{u"--dry-run"_s, u"--json"_s});
     QCOMPARE(dry.err, QByteArray());
     const QJsonObject plan = dry.json().array().at(0).toObject();
     QTEST(plan[u"format"_s].toString(), "format");
-    QCOMPARE(plan[u"queue"_s].toString(), queue);
+    QCOMPARE(plan[u"queue"_s].toString(), name);
     QCOMPARE(plan[u"server"_s].toString(), cupsd_.socketPath());
-    QVERIFY(plan[u"uri"_s].toString().startsWith(u"ipp://"_s) && plan[u"uri"_s].toString().endsWith(queue));
+    QVERIFY(plan[u"uri"_s].toString().startsWith(u"ipp://"_s) && plan[u"uri"_s].toString().endsWith(name));
     QCOMPARE(cupsd_.activeJobs(), before);
 
     const ProgramRun run = runProgram(arguments + QStringList{u"--batch"_s});
     QCOMPARE(run.err, QByteArray());
     QCOMPARE(run.status, 0);
+    const QString sent = u"Sent %1 to %2 as job "_s.arg(QFileInfo(photo).fileName(), name);
+    QVERIFY2(run.out.startsWith(sent.toUtf8()), run.out.constData());
     QVERIFY(cupsd_.waitForJob(jobIn(run), 1)); // the run has followed it to its end
     const RecordedJob job = cupsd_.job(jobIn(run));
     const bool isUntouched = plan[u"untouched"_s].toBool();
@@ -227,33 +207,29 @@ void QueueCommandLineTest::sendsWhatTheDryRunShows()
         planned.append(choice.key().toUtf8() + '=' + choice->toString().toUtf8());
     std::sort(planned.begin(), planned.end());
     QCOMPARE(optionsIn(job).join(' '), planned.join(' '));
+    QVERIFY(!options.contains(u"Red=12"_s) || (planned.contains("Red=12") && planned.contains("Green=0")));
 
     const QByteArray text = runProgram(arguments + QStringList{u"--dry-run"_s}).out;
     for (const QByteArray &part : planned + QByteArrayList{QByteArray::number(job.document.size())})
         QVERIFY2(text.contains(": " + part + '\n'), part.constData());
 }
 
-void QueueCommandLineTest::sendsNoDamagedPhoto_data()
-{
-    QTest::addColumn<QString>("queue");
-    QTest::newRow("as a PDF") << u"photo"_s;
-    QTest::newRow("untouched") << u"raw"_s;
-}
-
+// Neither as a PDF nor untouched.
 void QueueCommandLineTest::sendsNoDamagedPhoto()
 {
-    QFETCH(QString, queue);
     const QString path = home_.filePath(u"damaged.jpg"_s);
     const QByteArray jpeg = contentOf(samplePhoto);
     QVERIFY(store(path, QByteArray(jpeg).replace(jpeg.size() / 2, 4096, QByteArray(4096, '\0'))));
-    const QStringList arguments{u"--batch"_s, u"--wait=0"_s, u"--printer"_s, queue, path};
-    QTRY_COMPARE(cupsd_.activeJobs(), QByteArray());
-    const QByteArray wrong = wrongInRefusal(runProgram(arguments), 1, {u"damaged.jpg"_s});
-    QVERIFY2(wrong.isEmpty(), wrong.constData());
-    QCOMPARE(cupsd_.activeJobs(), QByteArray());
-    const ProgramRun unchecked = runProgram(arguments + QStringList{u"--no-check"_s});
-    QVERIFY2(unchecked.out.startsWith("Sent damaged.jpg to "), unchecked.err.constData());
-    QTRY_COMPARE(cupsd_.activeJobs(), QByteArray()); // nobody has followed it
+    for (const QString &queue : {u"photo"_s, u"raw"_s}) {
+        const QStringList arguments{u"--batch"_s, u"--wait=0"_s, u"--printer"_s, queue, path};
+        QTRY_COMPARE(cupsd_.activeJobs(), QByteArray());
+        const QByteArray wrong = wrongInRefusal(runProgram(arguments), 1, {u"damaged.jpg"_s});
+        QVERIFY2(wrong.isEmpty(), wrong.constData());
+        QCOMPARE(cupsd_.activeJobs(), QByteArray());
+        const ProgramRun unchecked = runProgram(arguments + QStringList{u"--no-check"_s});
+        QVERIFY2(unchecked.out.startsWith("Sent damaged.jpg to "), unchecked.err.constData());
+        QTRY_COMPARE(cupsd_.activeJobs(), QByteArray()); // nobody has followed it
+    }
 }
 
 void QueueCommandLineTest::dryRunOfTheBuiltInPrinter()
@@ -294,23 +270,25 @@ void QueueCommandLineTest::followsTheJob_data()
 {
     QTest::addColumn<QByteArray>("backend");
     QTest::addColumn<bool>("isStopped");
-    QTest::addColumn<QStringList>("more");
+    QTest::addColumn<QString>("wait");
     QTest::addColumn<int>("status");
     QTest::addColumn<QByteArrayList>("words");
-    const QByteArray slow = "sleep 2";
-    QTest::newRow("failing printer") << QByteArray("echo 'ERROR: Ribbon torn' >&2; exit 1") << false
-                                     << QStringList() << 1 << QByteArrayList{"\"odd\"", "Ribbon torn"};
-    QTest::newRow("stopped queue") << slow << true << QStringList{u"--wait"_s, u"1"_s} << 0
-                                   << QByteArrayList{"not printed yet", "out of ribbon"};
-    QTest::newRow("not followed") << slow << false << QStringList{u"--wait"_s, u"0"_s} << 0
-                                  << QByteArrayList();
+    const auto row = [](const char *name, const QByteArray &backend, bool isStopped, const QString &wait,
+                        int status, const QByteArrayList &words) {
+        QTest::newRow(name) << backend << isStopped << wait << status << words;
+    };
+    row("failing printer", "echo 'ERROR: Ribbon torn' >&2; exit 1", false, u"60"_s, 1,
+        {"\"odd\"", "Ribbon torn"});
+    row("stopped queue", "sleep 2", true, u"1"_s, 0, {"not printed yet", "out of ribbon"});
+    row("not followed", "sleep 2", false, u"0"_s, 0, {});
+    row("server that ends", "kill -KILL $PPID; sleep 3", false, u"1"_s, 0, {"not printed yet"});
 }
 
 void QueueCommandLineTest::followsTheJob()
 {
     QFETCH(QByteArray, backend);
     QFETCH(bool, isStopped);
-    QFETCH(QStringList, more);
+    QFETCH(QString, wait);
     QFETCH(QByteArrayList, words);
     QVERIFY(cupsd_.setBackendScript(backend));
     if (isStopped)
@@ -318,13 +296,17 @@ void QueueCommandLineTest::followsTheJob()
     QElapsedTimer timer;
     timer.start();
     const ProgramRun run =
-        runProgram(QStringList{u"--printer"_s, u"odd"_s, u"--batch"_s, uprightPhoto()} + more);
+        runProgram({u"--printer"_s, u"odd"_s, u"--batch"_s, uprightPhoto(), u"--wait"_s, wait});
     QVERIFY(timer.elapsed() < 2000);
     QVERIFY(run.out.startsWith("Sent upright.jpg to odd as job "));
     QTEST(run.status, "status");
     QCOMPARE(run.err.count('\n'), words.isEmpty() ? 0 : 1);
     for (const QByteArray &word : words)
         QVERIFY2(run.err.contains(word), run.err.constData());
+    if (backend.startsWith("kill")) {
+        cupsd_.goDown();
+        QVERIFY(cupsd_.comeBack());
+    }
     QVERIFY(cupsd_.run(u"cancel"_s, {u"-a"_s, u"odd"_s}));
     QVERIFY(cupsd_.run(u"cupsenable"_s, {u"odd"_s}));
     QTRY_COMPARE(cupsd_.activeJobs(), QByteArray());

@@ -317,12 +317,14 @@ void RefusalsTest::place()
                   {word});
 }
 
-// The system's signal for it would end the program.
+// The system's signal for it would end the program. The smallest limit holds for the PPD, too, which libcups
+// reads.
 void RefusalsTest::fileThatGrowsTooLarge()
 {
-    verifyRefusal(runInShell(u"ulimit -f 100 && exec \"$@\""_s,
-                             {u"--batch"_s, u"--output"_s, pathOf(u"out"_s), samplePhoto}),
-                  1, {u"sample.pdf"_s, u"ulimit -f"_s});
+    const QStringList arguments{u"--batch"_s, u"--output"_s, pathOf(u"out"_s), samplePhoto};
+    verifyRefusal(runInShell(u"ulimit -f 100 && exec \"$@\""_s, arguments), 1,
+                  {u"sample.pdf"_s, u"ulimit -f"_s});
+    verifyRefusal(runInShell(u"ulimit -f 0 && exec \"$@\""_s, arguments), 1, {});
 }
 
 void RefusalsTest::picture_data()
