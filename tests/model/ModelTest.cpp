@@ -38,73 +38,28 @@ std::optional<Difference> replay(const PanelTable &table, Mode mode, const Opene
 
 /// The shortest sequence that still shows a difference, found by delta debugging: steps are left out, and
 /// stay out when panel and model part all the same.
-class Shrinking
+QString shrunk(const PanelTable &table, Mode mode, const Opener &open, Steps steps, Difference difference)
 {
-public:
-    Shrinking(const PanelTable &table, Mode mode, const Opener &open, const Steps &steps,
-              const Difference &difference)
-        : table_(table)
-        , mode_(mode)
-        , open_(open)
-        , steps_(steps.first(difference.step + 1))
-        , difference_(difference)
-    {
-        for (qsizetype piece = steps_.size() / 2; piece > 1; piece /= 2)
-            leaveOutPieces(piece);
-        while (leaveOutPieces(1) || leaveOutPair()) {
-        }
-    }
-
-    QString report() const
-    {
-        QString lines;
-        for (const Step &step : steps_)
-            lines += text("  ") + step.toText() + text("\n");
-        return lines + difference_.text;
-    }
-
-private:
-    bool shows(const Steps &fewer)
-    {
-        const auto still = replay(table_, mode_, open_, fewer);
-        if (still) {
-            steps_ = fewer.first(still->step + 1);
-            difference_ = *still;
-        }
-        return still.has_value();
-    }
-
-    bool leaveOutPieces(qsizetype piece)
-    {
-        const qsizetype before = steps_.size();
-        for (qsizetype at = 0; at < steps_.size();) {
-            if (!shows(steps_.first(at) + steps_.mid(at + piece)))
+    steps.resize(difference.step + 1);
+    for (qsizetype piece = steps.size() / 2; piece > 0;) {
+        const qsizetype before = steps.size();
+        for (qsizetype at = 0; at < steps.size();) {
+            const Steps fewer = steps.first(at) + steps.mid(at + piece);
+            if (const auto still = replay(table, mode, open, fewer)) {
+                steps = fewer.first(still->step + 1);
+                difference = *still;
+            } else {
                 at += piece;
-        }
-        return steps_.size() < before;
-    }
-
-    /// Two that undo each other.
-    bool leaveOutPair()
-    {
-        for (qsizetype second = 1; second < steps_.size(); ++second) {
-            for (qsizetype first = 0; first < second; ++first) {
-                Steps fewer = steps_;
-                fewer.remove(second);
-                fewer.remove(first);
-                if (shows(fewer))
-                    return true;
             }
         }
-        return false;
+        if (piece > 1 || steps.size() == before) // single steps are tried again while any can be left out
+            piece /= 2;
     }
-
-    const PanelTable &table_;
-    Mode mode_;
-    const Opener &open_;
-    Steps steps_;
-    Difference difference_;
-};
+    QString lines;
+    for (const Step &step : std::as_const(steps))
+        lines += text("  ") + step.toText() + text("\n");
+    return lines + difference.text;
+}
 
 /// Nothing, or the shortest sequence that shows a difference, as text.
 QString searched(const PanelTable &table, Mode mode, const Opener &open, quint32 seed, int count)
@@ -118,7 +73,7 @@ QString searched(const PanelTable &table, Mode mode, const Opener &open, quint32
         while (steps.size() < std::min(stepsOfOnePanel, count - done))
             steps << Step::random(table, random);
         if (const auto difference = replay(table, mode, open, steps))
-            return Shrinking(table, mode, open, steps, *difference).report();
+            return shrunk(table, mode, open, steps, *difference);
     }
     return {};
 }
@@ -160,14 +115,17 @@ void ModelTest::panelDoesWhatTheModelDoes_data()
 {
     QTest::addColumn<PanelTable>("table");
     QTest::addColumn<Mode>("mode");
-    PanelTable k9031 = PanelTable::lamination();
-    k9031.isK9031 = true;
     PanelTable poor = PanelTable::colour(); // of a PPD that lacks an option
     poor.options.removeFirst();
     const QList<std::pair<const char *, PanelTable>> tables = {
-        {"colour", PanelTable::colour()},       {"colour, option missing", poor},
-        {"sharpness", PanelTable::sharpness()}, {"finish", PanelTable::lamination()},
-        {"finish of the K9031", k9031},         {"mixed controls", PanelTable::mixed()},
+        {"colour", PanelTable::colour()},
+        {"colour, option missing", poor},
+        {"sharpness", PanelTable::sharpness()},
+        {"sharpness in thousandths", PanelTable::sharpness(true)},
+        {"finish", PanelTable::lamination()},
+        {"finish of the K9031", PanelTable::lamination("*ModelName: \"some k9031")},
+        {"finish of another model", PanelTable::lamination("*ModelName: \"K9045\"\n*NickName: \"K903")},
+        {"mixed controls", PanelTable::mixed()},
     };
     for (const auto &[name, table] : tables) {
         QTest::addRow("%s, constraint handling", name) << table << Mode::Constraint;

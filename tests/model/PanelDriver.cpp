@@ -36,28 +36,20 @@ PanelDriver::PanelDriver(const PanelTable &table, Mode mode)
     : table_(table)
     , harness_(mode, table.ppd())
 {
-    if (table.isK9031) {
-        harness_.printer.description = QUrl(text("file:///k9031.ppd"));
-        harness_.printer.data = QByteArray("*ModelName: \"Corvel k9031\"");
-    }
+    harness_.printer.description = QUrl(text("file:///the.ppd"));
+    harness_.printer.data = table.printersPpd;
 }
 
 void PanelDriver::open()
 {
-    switch (table_.kind) {
-    case PanelTable::Colour:
+    if (table_.kind == PanelTable::Colour)
         open<LVCorvelMainPDE>();
-        break;
-    case PanelTable::Sharpness:
+    else if (table_.kind == PanelTable::Sharpness)
         open<LVSharpnessCorvelPDE>();
-        break;
-    case PanelTable::Lamination:
+    else if (table_.kind == PanelTable::Lamination)
         open<LVCorvelLaminationPDE>();
-        break;
-    case PanelTable::Mixed:
+    else
         open<MixedPanel>();
-        break;
-    }
 }
 
 void PanelDriver::mount()
@@ -77,9 +69,12 @@ void PanelDriver::mount()
     for (const FormControl &form : table_.controls) {
         widgets_.insert(form.tag, harness_.control(form.tag));
         QVERIFY(widgets_.value(form.tag));
+        if (table_.setsSliders && form.kind == FormControl::Slider) {
+            harness_.slider(form.tag)->setProperty("decimals", form.decimals);
+            harness_.slider(form.tag)->setRange(form.minimum, form.maximum);
+        }
     }
-    defaultsTop_ = widgets_.value(16)->y();
-    height_ = view->height();
+    places_ = {view->geometry(), widgets_.value(16)->geometry(), widgets_.value(1)->geometry()};
 }
 
 void PanelDriver::take(const Step &step)
@@ -97,41 +92,27 @@ void PanelDriver::take(const Step &step)
 
 void PanelDriver::act(QWidget *control, const Step &step)
 {
-    switch (step.act) {
-    case Step::ClickBox:
-    case Step::ClickButton:
-        click(qobject_cast<QAbstractButton *>(control), step.detail != 0);
+    if (auto *button = qobject_cast<QAbstractButton *>(control)) {
+        click(button, step.detail != 0);
         return;
-    case Step::ClickCell:
-        for (QAbstractButton *cell : qobject_cast<pdekit::RadioMatrix *>(control)->cells()) {
+    }
+    if (auto *matrix = qobject_cast<pdekit::RadioMatrix *>(control)) {
+        for (QAbstractButton *cell : matrix->cells()) {
             if (pdekit::RadioMatrix::cellTag(cell) == step.detail)
                 click(cell, false);
         }
         return;
-    default:
-        control->setFocus();
     }
-    switch (step.act) {
-    case Step::TypeKey:
-    case Step::EraseKey:
+    control->setFocus();
+    if (step.act == Step::TypeKey || step.act == Step::EraseKey)
         QTest::keyClick(control, Qt::Key_End);
-        break;
-    case Step::TypeOver:
-    case Step::PasteText:
+    if (step.act == Step::TypeOver || step.act == Step::PasteText)
         QTest::keySequence(control, QKeySequence::SelectAll);
-        break;
-    default:
-        break;
-    }
     if (step.act == Step::PasteText) {
         QGuiApplication::clipboard()->setText(step.choice);
         QTest::keySequence(control, QKeySequence::Paste);
-    } else if (step.act == Step::EraseKey)
-        QTest::keyClick(control, Qt::Key_Backspace);
-    else if (step.act == Step::ReturnKey)
-        QTest::keyClick(control, Qt::Key_Return);
-    else if (step.choice.isEmpty())
-        QTest::keyClick(control, Qt::Key(step.detail));
+    } else if (step.choice.isEmpty())
+        QTest::keyClick(control, step.act == Step::EraseKey ? Qt::Key_Backspace : Qt::Key(step.detail));
     else
         QTest::keyClicks(control, step.choice);
 }
@@ -219,27 +200,26 @@ Sight PanelDriver::sight() const
     Sight sight;
     for (const FormControl &form : table_.controls)
         addControl(sight, form, look(form));
-    const QHash<QString, QString> choices = choices_();
-    for (auto choice = choices.cbegin(); choice != choices.cend(); ++choice)
-        sight.insert(text("choice ") + choice.key(), choice.value());
+    addEntries(sight, text("choice"), choices_());
     for (const PpdOption &option : table_.options)
         sight.insert(text("mark ") + option.key, harness_.marked(option.key));
-    const pdekit::PPDDictionary &ticket = harness_.session.ticket.options;
-    for (auto choice = ticket.cbegin(); choice != ticket.cend(); ++choice)
-        sight.insert(text("print settings ") + choice.key(), choice.value());
+    addEntries(sight, text("print settings"), harness_.session.ticket.options);
     addEntries(sight, text("summary"), panel_->summaryInfo().value_or(Sight()));
-    sight.insert(text("beeps"), QString::number(harness_.feedback->beeps));
-    sight.insert(text("offers"),
-                 harness_.constraints ? harness_.constraints->offers.join(QLatin1Char(' ')) : QString());
-    sight.insert(text("alerts"), harness_.feedback->alerts.join(QLatin1Char(' ')));
-    sight.insert(text("log"), harness_.log.join(QLatin1Char('\n')));
+    addNotes(sight, harness_.feedback->beeps,
+             harness_.constraints ? harness_.constraints->offers : QStringList(), harness_.feedback->alerts,
+             harness_.log);
     if (table_.kind != PanelTable::Lamination)
         return sight;
     for (const char *key : {"Quality", "Overcoat", "MatteValue", "qual"})
         sight.insert(text("bound ") + text(key), panel_->property(key).toString());
-    const int moved = (defaultsTop_ - widgets_.value(16)->y()) / 100;
-    sight.insert(text("moved"), QString::number(moved));
-    if (harness_.view->height() != std::max(0, height_ - 100 * moved))
-        sight.insert(text("height"), QString::number(harness_.view->height()));
+    const int moved = places_.at(1).y() - widgets_.value(16)->y();
+    sight.insert(text("moved"), QString::number(moved / 100));
+    const QRect view = places_.at(0);
+    const QSize size(view.width(), std::max(0, view.height() - moved));
+    const QList<QRect> expected = {QRect(view.topLeft(), size), places_.at(1).translated(0, -moved),
+                                   places_.at(2)};
+    if (expected != QList<QRect>{harness_.view->geometry(), widgets_.value(16)->geometry(),
+                                 widgets_.value(1)->geometry()})
+        sight.insert(text("places"), text("odd"));
     return sight;
 }

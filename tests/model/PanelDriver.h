@@ -46,6 +46,5 @@ private:
     std::function<QHash<QString, QString>()> choices_;
     std::optional<pdekit::Bundle> bundle_;
     QMap<int, QWidget *> widgets_; ///< by the tags of the form
-    int defaultsTop_ = 0;
-    int height_ = 0;
+    QList<QRect> places_;          ///< of the panel, the "Defaults" button and the first control at the start
 };

@@ -27,8 +27,7 @@ PanelModel::PanelModel(PanelTable table, bool constraintMode,
 
 PanelModel::Control *PanelModel::find(int tag)
 {
-    const auto found = std::find_if(controls_.begin(), controls_.end(),
-                                    [tag](const Control &each) { return each.tag == tag; });
+    const auto found = std::ranges::find(controls_, tag, &Control::tag);
     return found == controls_.end() ? nullptr : &*found;
 }
 
@@ -45,33 +44,23 @@ bool PanelModel::canAct(const Control &control) const
 
 QString PanelModel::shown(const Control &control) const
 {
-    switch (control.form.kind) {
-    case FormControl::Slider: {
-        const double units = std::pow(10.0, control.form.decimals);
-        QString number = QString::number(control.number / units, 'f', control.form.decimals);
-        while (number.contains(QLatin1Char('.')) && number.endsWith(QLatin1Char('0')))
-            number.chop(1);
-        return number.endsWith(QLatin1Char('.')) ? number.chopped(1) : number;
-    }
-    case FormControl::Field:
-    case FormControl::Label:
+    const FormControl::Kind kind = control.form.kind;
+    if (kind == FormControl::Slider)
+        return QString::number(control.number / std::pow(10.0, control.form.decimals));
+    if (kind == FormControl::Field || kind == FormControl::Label)
         return control.text;
-    case FormControl::PopUp:
-        return control.form.items.at(control.number);
-    default:
-        return QString::number(control.number);
-    }
+    return kind == FormControl::PopUp ? control.form.items.at(control.number)
+                                      : QString::number(control.number);
 }
 
 QString PanelModel::boundValue(int tag) const
 {
-    for (const Control &control : controls_) {
-        if (control.form.tag == tag && control.form.kind == FormControl::Radio)
-            return table_.cellChoice.value(control.number);
-        if (control.form.tag == tag)
-            return shown(control);
-    }
-    return {};
+    const auto control =
+        std::ranges::find_if(controls_, [tag](const Control &each) { return each.form.tag == tag; });
+    if (control == controls_.end())
+        return {};
+    return control->form.kind == FormControl::Radio ? table_.cellChoice.value(control->number)
+                                                    : shown(*control);
 }
 
 void PanelModel::take(const Step &step)
@@ -93,44 +82,37 @@ void PanelModel::take(const Step &step)
 void PanelModel::act(Control &control, const Step &step)
 {
     focus(control.tag);
+    const int before = control.number;
     switch (step.act) {
     case Step::SlideKey:
-        slide(control, step.detail);
+        control.number = slid(control, step.detail);
         break;
     case Step::TypeKey:
-        typed(control, control.text + step.choice);
-        break;
+        return typed(control, control.text + step.choice);
     case Step::TypeOver:
     case Step::PasteText:
-        typed(control, step.choice);
-        break;
+        return typed(control, step.choice);
     case Step::EraseKey:
-        if (!control.text.isEmpty())
-            typed(control, control.text.chopped(1));
-        break;
+        return control.text.isEmpty() ? void() : typed(control, control.text.chopped(1));
     case Step::ReturnKey:
         edited_ = 0;
         endEditing(control);
-        changePrinterSetting(control);
-        break;
+        return changePrinterSetting(control);
     case Step::ClickBox:
-        clickBox(control);
+        control.number = before != 0 ? before == -1 : (control.form.mixed ? -1 : 1);
+        break;
+    case Step::PickItem:
+        control.number = std::clamp(before + (step.detail == Qt::Key_Down ? 1 : -1), 0,
+                                    int(control.form.items.size()) - 1);
         break;
     case Step::ClickCell:
         control.number = step.detail;
-        changePrinterSetting(control);
-        break;
-    case Step::PickItem: {
-        const int item = control.number + (step.detail == Qt::Key_Down ? 1 : -1);
-        if (item < 0 || item >= control.form.items.size())
-            break;
-        control.number = item;
-        changePrinterSetting(control);
-        break;
-    }
+        return changePrinterSetting(control);
     default:
-        changePrinterSetting(control);
+        return changePrinterSetting(control);
     }
+    if (control.number != before)
+        changePrinterSetting(control);
 }
 
 void PanelModel::focus(int tag)
@@ -146,77 +128,46 @@ void PanelModel::typed(Control &field, const QString &text)
     changePrinterSetting(field);
 }
 
-void PanelModel::slide(Control &slider, int key)
+int PanelModel::slid(const Control &slider, int key) const
 {
     const FormControl &form = slider.form;
-    int position = slider.number;
-    switch (key) {
-    case Qt::Key_Left:
-        --position;
-        break;
-    case Qt::Key_Right:
-        ++position;
-        break;
-    case Qt::Key_PageDown:
-        position -= form.page;
-        break;
-    case Qt::Key_PageUp:
-        position += form.page;
-        break;
-    default:
-        position = key == Qt::Key_Home ? form.minimum : form.maximum;
-    }
-    position = std::clamp(position, form.minimum, form.maximum);
-    if (position == slider.number)
-        return;
-    slider.number = position;
-    changePrinterSetting(slider);
-}
-
-void PanelModel::clickBox(Control &box)
-{
-    if (box.form.mixed)
-        box.number = box.number == 0 ? -1 : (box.number == -1 ? 1 : 0);
-    else
-        box.number = box.number == 0 ? 1 : 0;
-    changePrinterSetting(box);
+    const QMap<int, int> steps = {
+        {Qt::Key_Left, -1}, {Qt::Key_Right, 1}, {Qt::Key_PageDown, -form.page}, {Qt::Key_PageUp, form.page}};
+    const int otherwise = key == Qt::Key_Home ? form.minimum : form.maximum;
+    const int position = steps.contains(key) ? slider.number + steps.value(key) : otherwise;
+    return std::clamp(position, form.minimum, form.maximum);
 }
 
 void PanelModel::tell(const Step &step)
 {
     switch (step.act) {
     case Step::LeaveField:
-        focus(0);
-        break;
+        return focus(0);
     case Step::TellChange:
         if (!step.choice.isEmpty() && table_.keys.contains(step.key))
             choices_.insert(step.key, step.choice);
-        break;
+        return;
     case Step::MarkChoice:
-        markInPpd(step.key, step.choice);
-        break;
+        return markInPpd(step.key, step.choice);
     case Step::Refuse:
         if (constraintMode_ && refused_.removeAll(step.key) == 0)
             refused_ << step.key;
-        break;
+        return;
     case Step::SetTicket:
         if (step.choice.isEmpty())
             ticket_.remove(step.key);
         else
             ticket_.insert(step.key, step.choice);
-        break;
+        return;
     case Step::BreakTicket:
         ticketFault_ = step.detail;
-        break;
+        return;
     case Step::StoreBound:
-        storeBound(step.key, step.choice);
-        break;
+        return storeBound(step.key, step.choice);
     case Step::Restore:
-        restore();
-        break;
+        return restore();
     case Step::Save:
-        save();
-        break;
+        return save();
     default:
         show();
     }
@@ -238,7 +189,9 @@ void PanelModel::storeBound(const QString &key, const QString &choice)
 {
     if (constraintMode_ && !offer(key, choice)) {
         log_ << text("Failed to change %1 setting to = %2").arg(key, choice);
-        alerts_ << text("setting change failed!");
+        alerts_ << text(
+            "setting change failed!|I tried to make the change you requested but the printing system "
+            "rejected my efforts. Sorry.|Bummer!");
         return;
     }
     if (constraintMode_)
@@ -278,7 +231,7 @@ void PanelModel::show()
 {
     if (table_.kind != PanelTable::Lamination)
         updateUI();
-    else if (table_.isK9031)
+    else if (table_.printersPpd && table_.printersPpd->toUpper().contains("K9031"))
         retire();
 }
 
@@ -313,23 +266,22 @@ Sight PanelModel::sight() const
 {
     Sight sight;
     for (const Control &control : controls_) {
-        const bool inside = control.form.container == 0 || isMatte();
-        addControl(sight, control.form,
-                   {shown(control), control.toolTip, control.tag, control.enabled && inside, control.hidden});
+        ControlSight seen = control;
+        seen.value = shown(control);
+        seen.enabled &= control.form.container == 0 || isMatte();
+        addControl(sight, control.form, seen);
     }
     addEntries(sight, text("choice"), choices_);
     addEntries(sight, text("mark"), marks_);
     addEntries(sight, text("print settings"), ticket_);
     addEntries(sight, text("summary"), summary());
-    sight.insert(text("beeps"), QString::number(beeps_));
-    sight.insert(text("offers"), offers_.join(QLatin1Char(' ')));
-    sight.insert(text("alerts"), alerts_.join(QLatin1Char(' ')));
-    sight.insert(text("log"), log_.join(QLatin1Char('\n')));
+    addNotes(sight, beeps_, offers_, alerts_, log_);
     if (table_.kind == PanelTable::Lamination) {
-        sight.insert(text("bound Quality"), boundValue(1));
-        sight.insert(text("bound Overcoat"), boundValue(2));
-        sight.insert(text("bound MatteValue"), boundValue(3));
-        sight.insert(text("bound qual"), boundValue(3));
+        addEntries(sight, text("bound"),
+                   Sight{{text("Quality"), boundValue(1)},
+                         {text("Overcoat"), boundValue(2)},
+                         {text("MatteValue"), boundValue(3)},
+                         {text("qual"), boundValue(3)}});
         sight.insert(text("moved"), QString::number(shows_));
     }
     return sight;
@@ -346,10 +298,13 @@ void addControl(Sight &sight, const FormControl &form, const ControlSight &contr
     sight.insert(name + text("hidden"), QVariant(control.hidden).toString());
 }
 
-void addEntries(Sight &sight, const QString &name, const QMap<QString, QString> &entries)
+void addNotes(Sight &sight, int beeps, const QStringList &offers, const QStringList &alerts,
+              const QStringList &log)
 {
-    for (auto entry = entries.cbegin(); entry != entries.cend(); ++entry)
-        sight.insert(name + QLatin1Char(' ') + entry.key(), entry.value());
+    sight.insert(text("beeps"), QString::number(beeps));
+    sight.insert(text("offers"), offers.join(QLatin1Char(' ')));
+    sight.insert(text("alerts"), alerts.join(QLatin1Char(' ')));
+    sight.insert(text("log"), log.join(QLatin1Char('\n')));
 }
 
 QString firstDifference(const Sight &expected, const Sight &actual)

@@ -14,8 +14,8 @@ using Sight = QMap<QString, QString>;
 /// How a control shows and lets act.
 struct ControlSight
 {
-    QString
-        value; ///< a slider's number, a field's or label's text, a pop-up's choice, a box's or cell's number
+    /// A slider's number, a field's or label's text, a pop-up's choice, a box's or cell's number.
+    QString value;
     QString toolTip;
     int tag = 0;
     bool enabled = true;
@@ -37,16 +37,12 @@ public:
     Sight sight() const;
 
 private:
-    struct Control
+    /// Its value is as it is shown only when it is looked at.
+    struct Control : ControlSight
     {
         FormControl form;
-        int tag = 0;
-        int number =
-            0; ///< a slider's position, a pop-up's index, a box's state, a radio group's selected cell
+        int number = 0; ///< a slider's position, a pop-up's index, a box's state, a radio group's cell
         QString text = QStringLiteral("0");
-        QString toolTip;
-        bool enabled = true;
-        bool hidden = false;
     };
 
     // The form.
@@ -63,9 +59,8 @@ private:
     void act(Control &control, const Step &step);
     void focus(int tag);
     void typed(Control &field, const QString &text);
-    void slide(Control &slider, int key);
+    int slid(const Control &slider, int key) const;
     void endEditing(Control &field);
-    void clickBox(Control &box);
 
     // The road of a choice.
     void changePrinterSetting(Control &sender);
@@ -112,6 +107,13 @@ private:
 
 /// The names under which both sides tell what they see.
 void addControl(Sight &sight, const FormControl &form, const ControlSight &control);
-void addEntries(Sight &sight, const QString &name, const QMap<QString, QString> &entries);
+template <class Map>
+void addEntries(Sight &sight, const QString &name, const Map &entries)
+{
+    for (auto entry = entries.cbegin(); entry != entries.cend(); ++entry)
+        sight.insert(name + QLatin1Char(' ') + entry.key(), entry.value());
+}
+void addNotes(Sight &sight, int beeps, const QStringList &offers, const QStringList &alerts,
+              const QStringList &log);
 /// What parts the two; empty when nothing does.
 QString firstDifference(const Sight &expected, const Sight &actual);

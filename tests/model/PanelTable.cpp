@@ -9,62 +9,61 @@
 
 namespace {
 
-QStringList numbers(int from, int to)
+QStringList words(const char *all)
 {
-    QStringList all;
-    for (int i = from; i <= to; ++i)
-        all << QString::number(i);
-    return all;
+    return text(all).split(QLatin1Char(' '));
 }
 
-PpdOption onOff(const char *key, const char *defaultChoice)
+/// The keys at the tags from 1 on, and the enabler's.
+QMap<int, QString> keysByTag(const char *all, const char *enabler)
 {
-    return {text(key), text(defaultChoice), {text("True"), text("False")}};
+    QMap<int, QString> keys = {{32, text(enabler)}};
+    for (const QString &key : words(all))
+        keys.insert(int(keys.size()), key);
+    return keys;
+}
+
+QStringList numbers(int from, int to, int step = 1, int decimals = 0)
+{
+    QStringList all;
+    for (int i = from; i <= to; i += step)
+        all << QString::number(i / std::pow(10.0, decimals), 'f', decimals);
+    return all;
 }
 
 void addSliderAndField(PanelTable &table, int tag, int minimum, int maximum, int decimals, int page)
 {
-    table.controls << FormControl{.tag = tag,
-                                  .kind = FormControl::Slider,
-                                  .minimum = minimum,
-                                  .maximum = maximum,
-                                  .decimals = decimals,
-                                  .page = page}
-                   << FormControl{.tag = tag + 80, .kind = FormControl::Field};
+    FormControl slider{
+        .tag = tag, .minimum = minimum, .maximum = maximum, .decimals = decimals, .page = page};
+    table.controls << slider << FormControl{.tag = tag + 80, .kind = FormControl::Field};
 }
 
-void addBoxAndButton(PanelTable &table, bool mixed = false)
+void addBoxAndButton(PanelTable &table, const char *defaultChoice)
 {
+    table.options << PpdOption{table.keyOfTag.value(32), text(defaultChoice), words("True False")};
+    const bool mixed = table.kind == PanelTable::Mixed;
     table.controls << FormControl{.tag = 32, .kind = FormControl::Box, .mixed = mixed}
                    << FormControl{.tag = 16, .kind = FormControl::Button};
 }
 
 } // namespace
 
-const FormControl *PanelTable::control(int tag) const
-{
-    const auto found = std::find_if(controls.cbegin(), controls.cend(),
-                                    [tag](const FormControl &each) { return each.tag == tag; });
-    return found == controls.cend() ? nullptr : &*found;
-}
-
 const PpdOption *PanelTable::option(const QString &key) const
 {
-    const auto found = std::find_if(options.cbegin(), options.cend(),
-                                    [&key](const PpdOption &each) { return each.key == key; });
+    const auto found = std::ranges::find(options, key, &PpdOption::key);
     return found == options.cend() ? nullptr : &*found;
 }
 
 std::optional<QString> PanelTable::key(int tag) const
 {
+    const bool foldsTags = kind != Lamination; // a partner's tag has the key of its option control
     const int folded = foldsTags && (tag & 80) != 0 ? tag ^ 80 : tag;
     return keyOfTag.contains(folded) ? std::optional(keyOfTag.value(folded)) : std::nullopt;
 }
 
 QByteArray PanelTable::ppd() const
 {
-    QByteArray text = "*PPD-Adobe: \"4.3\"\n*FormatVersion: \"4.3\"\n*LanguageVersion: English\n"
-                      "*LanguageEncoding: UTF-8\n*NickName: \"Test\"\n";
+    QByteArray text = PanelHarness::ppdHead();
     for (const PpdOption &option : options) {
         QList<QByteArray> choices;
         for (const QString &choice : option.choices)
@@ -77,49 +76,38 @@ QByteArray PanelTable::ppd() const
 PanelTable PanelTable::colour()
 {
     PanelTable table;
-    table.keys = {text("Brightness"), text("Contrast"), text("Saturation"), text("Gamma"),
-                  text("Red"),        text("Green"),    text("Blue"),       text("AdjustmentsEnabled")};
-    table.keyOfTag = {
-        {1, text("Red")},      {2, text("Green")},      {3, text("Blue")},  {4, text("Brightness")},
-        {5, text("Contrast")}, {6, text("Saturation")}, {7, text("Gamma")}, {32, text("AdjustmentsEnabled")}};
+    table.keys = words("Brightness Contrast Saturation Gamma Red Green Blue AdjustmentsEnabled");
+    table.keyOfTag = keysByTag("Red Green Blue Brightness Contrast Saturation Gamma", "AdjustmentsEnabled");
     for (int tag = 1; tag <= 7; ++tag) {
         addSliderAndField(table, tag, -25, 25, 0, 5);
         table.options << PpdOption{table.keyOfTag.value(tag), QString::number(tag - 4), numbers(-25, 25)};
     }
-    table.options << onOff("AdjustmentsEnabled", "True");
-    addBoxAndButton(table);
+    addBoxAndButton(table, "True");
     return table;
 }
 
-PanelTable PanelTable::sharpness()
+PanelTable PanelTable::sharpness(bool withThousandths)
 {
-    PanelTable table;
-    table.kind = Sharpness;
-    table.keys = {text("SharpnessEnabled"), text("SharpnessIntensity"), text("SharpnessRadius")};
-    table.keyOfTag = {
-        {1, text("SharpnessRadius")}, {2, text("SharpnessIntensity")}, {32, text("SharpnessEnabled")}};
-    table.cellChoice = {{2, text("0")}, {3, text("1")}, {4, text("2")}, {5, text("3")}};
+    PanelTable table{.kind = Sharpness, .setsSliders = withThousandths};
+    table.keys = words("SharpnessEnabled SharpnessIntensity SharpnessRadius");
+    table.keyOfTag = keysByTag("SharpnessRadius SharpnessIntensity", "SharpnessEnabled");
     addSliderAndField(table, 1, 0, 3, 0, 1);
-    addSliderAndField(table, 2, 0, 300, 2, 25);
+    if (withThousandths)
+        addSliderAndField(table, 2, -1000, 3000, 3, 25);
+    else
+        addSliderAndField(table, 2, 0, 300, 2, 25);
     // A third of the numbers that can be typed, so that some are recorded without being marked.
-    QStringList intensities;
-    for (int i = 0; i <= 300; i += 3)
-        intensities << QString::number(i / 100.0, 'f', 2);
     table.options = {{text("SharpnessRadius"), text("1"), numbers(0, 3)},
-                     {text("SharpnessIntensity"), text("0.99"), intensities},
-                     onOff("SharpnessEnabled", "False")};
-    addBoxAndButton(table);
+                     {text("SharpnessIntensity"), text("0.99"), numbers(0, 300, 3, 2)}};
+    addBoxAndButton(table, "False");
     return table;
 }
 
-PanelTable PanelTable::lamination()
+PanelTable PanelTable::lamination(const std::optional<QByteArray> &printersPpd)
 {
-    PanelTable table;
-    table.kind = Lamination;
-    table.foldsTags = false;
-    table.keys = {text("Overcoat"), text("Quality"), text("UsePrinterPanel"), text("MatteValue")};
-    table.keyOfTag = {
-        {1, text("Quality")}, {2, text("Overcoat")}, {3, text("MatteValue")}, {32, text("UsePrinterPanel")}};
+    PanelTable table{.kind = Lamination, .printersPpd = printersPpd};
+    table.keys = words("Overcoat Quality UsePrinterPanel MatteValue");
+    table.keyOfTag = keysByTag("Quality Overcoat MatteValue", "UsePrinterPanel");
     table.cellChoice = {
         {10, text("Standard")}, {11, text("Fine")}, {12, text("Glossy")}, {13, text("Matte")}};
     table.controls = {
@@ -130,33 +118,28 @@ PanelTable PanelTable::lamination()
         {.tag = 162, .kind = FormControl::Title},
         {.tag = 163, .kind = FormControl::Title, .container = 1},
     };
-    table.options = {{text("Quality"), text("Standard"), {text("Standard"), text("Fine")}},
-                     {text("Overcoat"), text("Glossy"), {text("Glossy"), text("Matte")}},
-                     {text("MatteValue"), text("4"), numbers(-25, 25)},
-                     onOff("UsePrinterPanel", "False")};
-    addBoxAndButton(table);
+    table.options = {{text("Quality"), text("Standard"), words("Standard Fine")},
+                     {text("Overcoat"), text("Glossy"), words("Glossy Matte")},
+                     {text("MatteValue"), text("4"), numbers(-25, 25)}};
+    addBoxAndButton(table, "False");
     return table;
 }
 
 PanelTable PanelTable::mixed()
 {
-    PanelTable table;
-    table.kind = Mixed;
-    table.keys = {text("Key1"), text("Key2"), text("Key3"), text("Key9"), text("Enabler")};
-    for (int tag = 1; tag <= 15; ++tag)
-        table.keyOfTag.insert(tag, text("Key%1").arg(tag));
-    table.keyOfTag.insert(32, text("Enabler"));
+    PanelTable table{.kind = Mixed};
+    table.keys = words("Key1 Key2 Key3 Key9 Enabler");
+    table.keyOfTag = keysByTag(
+        "Key1 Key2 Key3 Key4 Key5 Key6 Key7 Key8 Key9 Key10 Key11 Key12 Key13 Key14 Key15", "Enabler");
     table.cellChoice = {{10, text("Standard")}, {11, text("Fine")}};
     addSliderAndField(table, 1, -10, 10, 0, 5);
     table.controls << FormControl{.tag = 2, .kind = FormControl::Radio, .cells = {10, 11, 99}}
-                   << FormControl{.tag = 3,
-                                  .kind = FormControl::PopUp,
-                                  .items = {text("Low"), text("Middle"), text("High")}}
-                   << FormControl{.tag = 83, .kind = FormControl::Field};
-    addBoxAndButton(table, true);
+                   << FormControl{.tag = 3, .kind = FormControl::PopUp, .items = words("Low Middle High")}
+                   << FormControl{.tag = 83, .kind = FormControl::Field}
+                   << FormControl{.tag = 85, .kind = FormControl::Field};
     table.options = {{text("Key1"), text("3"), numbers(-10, 10)},
-                     {text("Key2"), text("Fine"), {text("Standard"), text("Fine")}},
-                     {text("Key3"), text("Middle"), {text("Low"), text("Middle"), text("High"), text("0")}},
-                     onOff("Enabler", "True")};
+                     {text("Key2"), text("Fine"), words("Standard Fine")},
+                     {text("Key3"), text("Middle"), words("Low Middle High 0")}};
+    addBoxAndButton(table, "True");
     return table;
 }

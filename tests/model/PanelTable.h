@@ -41,24 +41,24 @@ struct PanelTable
     enum Kind { Colour, Sharpness, Lamination, Mixed };
 
     Kind kind = Colour;
-    bool isK9031 = false; ///< the PPD's text names the model
-    QList<FormControl> controls;
-    QList<PpdOption> options; ///< in the PPD
-    QStringList keys;         ///< the panel's options, in its own order
-    QMap<int, QString> keyOfTag;
-    bool foldsTags = true;         ///< a partner's tag has the key of its option control
-    QMap<int, QString> cellChoice; ///< by cell tag
+    std::optional<QByteArray> printersPpd = {}; ///< as the print system has it
+    bool setsSliders = false;                   ///< the form's sliders take these ranges
+    QList<FormControl> controls = {};
+    QList<PpdOption> options = {}; ///< in the PPD
+    QStringList keys = {};         ///< the panel's options, in its own order
+    QMap<int, QString> keyOfTag = {};
+    QMap<int, QString> cellChoice = {}; ///< by cell tag
 
-    const FormControl *control(int tag) const;
     const PpdOption *option(const QString &key) const;
     std::optional<QString> key(int tag) const;
     QByteArray ppd() const;
 
     static PanelTable colour();
-    static PanelTable sharpness();
-    static PanelTable lamination();
+    /// With the form's intensities, or negative ones and thousandths, too.
+    static PanelTable sharpness(bool withThousandths = false);
+    static PanelTable lamination(const std::optional<QByteArray> &printersPpd = {});
     /// A form with what the plug-in's own lack: a pop-up, a cell without a choice, a box with a third state,
-    /// gaps in the tags, and a key that the PPD lacks.
+    /// a field without a slider, gaps in the tags, and a key that the PPD lacks.
     static PanelTable mixed();
 };
 

@@ -14,17 +14,14 @@
 
 namespace {
 
+const QString panelsType = QStringLiteral("BDB091F4-E57F-11D3-B5CC-0050E4603277");
 const QString sharpnessLine = QStringLiteral("corvelPDE wants to know nibName for corvelSharpness...");
 const QString colorLine = QStringLiteral("corvelPDE Wants to nibName for corvelColorAdjust???\n\n");
 const QString laminationLine = QStringLiteral("Failed to load nib named corvelMatte");
 
-/// Both ways to a PPD, of which one request fails.
-struct Requests
-{
-    bool succeeds() { return ++count != failing; }
-    int count = 0;
-    int failing = 0;
-};
+/// Requests for a PPD, of which one fails.
+int requests = 0;
+int failingRequest = 0;
 
 class CountingSession : public FakeSession
 {
@@ -32,16 +29,14 @@ public:
     pdekit::Status GetPPDRefFromSession(ppd_file_s **place) override
     {
         const pdekit::Status status = FakeSession::GetPPDRefFromSession(place);
-        return requests.succeeds() ? status : -1;
+        return ++requests != failingRequest ? status : -1;
     }
-    Requests requests;
 };
 
 class CountingCallback : public ConstraintCallback
 {
 public:
-    ppd_file_s *ppdFile() override { return requests.succeeds() ? ppd : nullptr; }
-    Requests requests;
+    ppd_file_s *ppdFile() override { return ++requests != failingRequest ? ppd : nullptr; }
 };
 
 QString builtBundle()
@@ -49,16 +44,19 @@ QString builtBundle()
     return qEnvironmentVariable("CORVEL_PDE_PATH") + QStringLiteral("/Corvel9031.bundle");
 }
 
-/// The panels of the bundle at `path`.
-pdekit::PanelList panelsOf(const QString &path, const pdekit::HostInfo &hostInfo)
+pdekit::PrintDialogPlugin *pluginOf(const QString &path)
 {
     const auto bundle = pdekit::Bundle::open(path);
     QPluginLoader loader(bundle ? bundle->executablePath() : QString());
     auto *plugin = qobject_cast<pdekit::PrintDialogPlugin *>(loader.instance());
     if (!plugin)
         qFatal("%s: %s", qPrintable(path), qPrintable(loader.errorString()));
-    auto panels =
-        plugin->PDEPanelsForTypeWithHostInfo(QString::fromLatin1(pdekit::PrinterPanelsType), hostInfo);
+    return plugin;
+}
+
+pdekit::PanelList panelsOf(const QString &path, const pdekit::HostInfo &hostInfo)
+{
+    auto panels = pluginOf(path)->PDEPanelsForTypeWithHostInfo(panelsType, hostInfo);
     return panels ? std::move(*panels) : pdekit::PanelList();
 }
 
@@ -83,6 +81,7 @@ private Q_SLOTS:
     void missingPanelEndsTheList_data();
     void missingPanelEndsTheList();
     void missingForm();
+    void entry();
 };
 
 void FactoryTest::initTestCase_data()
@@ -100,8 +99,11 @@ void FactoryTest::order()
     QCOMPARE(kindsOf(panels), text("coloradjust sharpness matte"));
     // Each has loaded its form when it was made, or does so only now. The lamination panel says nothing.
     QCOMPARE(dialog.log, dialog.constraints ? QStringList() : QStringList({sharpnessLine, colorLine}));
-    for (const pdekit::PanelPointer &panel : panels)
-        QVERIFY(panel->panelView());
+    for (const pdekit::PanelPointer &panel : panels) {
+        const QWidget *view = panel->panelView();
+        QVERIFY(view);
+        QCOMPARE(panel->panelView(), view);
+    }
     if (dialog.constraints)
         QCOMPARE(dialog.log, QStringList({colorLine, sharpnessLine}));
 }
@@ -123,15 +125,15 @@ void FactoryTest::missingPanelEndsTheList()
     PanelHarness dialog(mode);
     CountingSession session;
     session.ppd = dialog.session.ppd;
-    session.requests.failing = failing;
     dialog.callback->session = &session;
     auto counting = std::make_shared<CountingCallback>();
     counting->ppd = dialog.callback->ppd;
-    counting->requests.failing = failing;
+    requests = 0;
+    failingRequest = failing;
     const pdekit::HostInfo hostInfo = dialog.constraints ? counting : dialog.callback;
     QCOMPARE(kindsOf(panelsOf(builtBundle(), hostInfo)), kinds);
-    QCOMPARE(dialog.constraints ? counting->requests.count : session.requests.count, 3); // all were tried
-    QCOMPARE(hostInfo.use_count(), 2);                                                   // none was kept
+    QCOMPARE(requests, 3);             // all were tried
+    QCOMPARE(hostInfo.use_count(), 2); // none was kept
 }
 
 void FactoryTest::missingForm()
@@ -143,6 +145,8 @@ void FactoryTest::missingForm()
                           std::filesystem::copy_options::recursive);
     QVERIFY(QFile::remove(path + text("/Contents/Resources/corvelMatte.ui")));
     PanelHarness dialog(mode);
+    dialog.printer.description = QUrl(text("ppd:x"));
+    dialog.printer.data = "K9031"; // whose controls would be retired
     const auto panels = panelsOf(path, dialog.callback);
     QCOMPARE(kindsOf(panels), text("coloradjust sharpness matte"));
     if (!dialog.constraints) {
@@ -154,6 +158,22 @@ void FactoryTest::missingForm()
     QVERIFY(panels.at(2)->restoreValuesAndReturnError(nullptr));
     panels.at(2)->willShow();
     QVERIFY(panels.at(0)->panelView() && panels.at(1)->panelView());
+}
+
+void FactoryTest::entry()
+{
+    PanelHarness dialog(Mode::Constraint);
+    pdekit::PrintDialogPlugin *plugin = pluginOf(builtBundle());
+    QVERIFY(plugin->initWithBundle(*pdekit::Bundle::open(builtBundle())));
+    const QTemporaryDir folder;
+    QVERIFY(!plugin->initWithBundle(emptyBundle(folder.path(), "org.corvel.printing.corvel9031").value()));
+    QCOMPARE(dialog.log,
+             QStringList({text("INIT: loading bundle with id \"org.corvel.printing.Corvel9031\""),
+                          text("ERROR: bad bundle id \"org.corvel.printing.corvel9031\" not equal to "
+                               "\"org.corvel.printing.Corvel9031\"")}));
+    for (const QString &type : {panelsType.toLower(), QString()})
+        QVERIFY(!plugin->PDEPanelsForTypeWithHostInfo(type, dialog.callback));
+    QCOMPARE(dialog.log.size(), 2);
 }
 
 QTEST_MAIN(FactoryTest)

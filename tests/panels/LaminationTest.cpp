@@ -7,16 +7,10 @@
 #include "RKTPPRMatrixPDEcorvel.h"
 #include "RadioMatrix.h"
 
-#include <QtCore/QTemporaryDir>
-#include <QtCore/QTimer>
 #include <QtTest/QTest>
-#include <QtWidgets/QApplication>
 #include <QtWidgets/QCheckBox>
-#include <QtWidgets/QLabel>
-#include <QtWidgets/QMessageBox>
 #include <QtWidgets/QRadioButton>
 
-#include <algorithm>
 #include <climits>
 #include <tuple>
 
@@ -38,39 +32,33 @@ class ListeningPanel : public LVCorvelLaminationPDE
 public:
     std::optional<QByteArray> ppdDataCopy() override
     {
-        return note("ppdDataCopy", std::optional<QByteArray>());
+        return note<std::optional<QByteArray>>("ppdDataCopy");
     }
-    QString printerDeviceURI() override { return note("printerDeviceURI", QString()); }
-    bool shouldShowHelp() override { return note("shouldShowHelp", true); }
-    void updateUI() override { performed << text("updateUI"); }
-    void setDefaults() override { performed << text("setDefaults"); }
-    void killCurrentTask() override { performed << text("killCurrentTask"); }
-    void willShow() override { performed << text("willShow"); }
-    bool shouldHide() override { return note("shouldHide", true); }
-    QStringList supportedPPDOptionKeys() override { return note("supportedPPDOptionKeys", QStringList()); }
-    Text nibName() override { return note("nibName", Text()); }
-    QWidget *panelView() override { return note<QWidget *>("panelView", nullptr); }
-    Text panelName() override { return note("panelName", Text()); }
-    Text panelKind() const override { return note("panelKind", Text()); }
-    std::optional<Summary> summaryInfo() override { return note("summaryInfo", std::optional<Summary>()); }
-    ppd_file_s *getPPDOnTiger() override { return note<ppd_file_s *>("getPPDOnTiger", nullptr); }
-    void getPPDSettingsFromPrintSettingsOnTiger() override
-    {
-        performed << text("getPPDSettingsFromPrintSettingsOnTiger");
-    }
-    void writePPDSettingsToPrintSettingsOnTiger() override
-    {
-        performed << text("writePPDSettingsToPrintSettingsOnTiger");
-    }
+    QString printerDeviceURI() override { return note<QString>("printerDeviceURI"); }
+    bool shouldShowHelp() override { return note<bool>("shouldShowHelp"); }
+    void updateUI() override { note("updateUI"); }
+    void setDefaults() override { note("setDefaults"); }
+    void killCurrentTask() override { note("killCurrentTask"); }
+    void willShow() override { note("willShow"); }
+    bool shouldHide() override { return note<bool>("shouldHide"); }
+    QStringList supportedPPDOptionKeys() override { return note<QStringList>("supportedPPDOptionKeys"); }
+    Text nibName() override { return note<Text>("nibName"); }
+    QWidget *panelView() override { return note<QWidget *>("panelView"); }
+    Text panelName() override { return note<Text>("panelName"); }
+    Text panelKind() const override { return note<Text>("panelKind"); }
+    std::optional<Summary> summaryInfo() override { return note<std::optional<Summary>>("summaryInfo"); }
+    ppd_file_s *getPPDOnTiger() override { return note<ppd_file_s *>("getPPDOnTiger"); }
+    void getPPDSettingsFromPrintSettingsOnTiger() override { note("getPPDSettingsFromPrintSettingsOnTiger"); }
+    void writePPDSettingsToPrintSettingsOnTiger() override { note("writePPDSettingsToPrintSettingsOnTiger"); }
 
     mutable QStringList performed;
 
 private:
-    template <class Answer>
-    Answer note(const char *operation, Answer answer) const
+    template <class Answer = void>
+    Answer note(const char *operation) const
     {
         performed << text(operation);
-        return answer;
+        return Answer();
     }
 };
 
@@ -114,18 +102,12 @@ class LaminationTest : public QObject
 private Q_SLOTS:
     void initTestCase_data();
     void refusedCellIsNeverSeen();
-    void modelRetiresControls_data();
-    void modelRetiresControls();
-    void modelWithoutAForm();
     void matrixVariant();
     void qualIsClamped();
     void isMatte();
-    void boundValueIsStored();
     void boundValueNamesAMember();
     void boundValueNamesAnOperation_data();
     void boundValueNamesAnOperation();
-    void boundValueIsRefused_data();
-    void boundValueIsRefused();
 };
 
 void LaminationTest::initTestCase_data()
@@ -170,65 +152,6 @@ void LaminationTest::refusedCellIsNeverSeen()
     click(cell(dialog, "matte"));
     QCOMPARE(notices,
              QStringList({text("<Overcoat"), text("<isMatte"), text(">Overcoat"), text(">isMatte")}));
-}
-
-void LaminationTest::modelRetiresControls_data()
-{
-    QTest::addColumn<std::optional<QByteArray>>("data");
-    QTest::addColumn<bool>("retires");
-    const auto row = [](const char *name, const std::optional<QByteArray> &data, bool retires) {
-        QTest::newRow(name) << data << retires;
-    };
-    row("named at the end, in lower case", "*ModelName: \"some k9031", true);
-    row("another model", "*ModelName: \"K9045\"\n", false);
-    row("cut off within the name", "*ModelName: \"K903", false);
-    row("no bytes", "", false);
-    row("no data", std::nullopt, false);
-}
-
-void LaminationTest::modelRetiresControls()
-{
-    QFETCH_GLOBAL(Mode, mode);
-    QFETCH(std::optional<QByteArray>, data);
-    QFETCH(bool, retires);
-    PanelHarness dialog(mode, ppd());
-    dialog.printer.description = QUrl(text("ppd:x"));
-    dialog.printer.data = data;
-    auto panel = dialog.make<LVCorvelLaminationPDE>();
-    dialog.view = panel->panelView(); // in no layout, which would have a say in its size
-    panel->setChoiceForKey(text("Fine"), text("Quality"));
-    const QRect button = dialog.control(16)->geometry();
-    const QRect quality = dialog.control(1)->geometry();
-    const QRect view = dialog.view->geometry();
-    for (int shows = 1; shows <= 2; ++shows) {
-        panel->willShow();
-        const int up = retires ? 100 * shows : 0;
-        QCOMPARE(dialog.control(16)->geometry(), button.translated(0, -up));
-        QCOMPARE(dialog.view->geometry(), view.adjusted(0, 0, 0, -up));
-        QCOMPARE(dialog.control(1)->geometry(), quality);
-        for (const int tag : {2, 3, 83, 162, 163})
-            QCOMPARE(dialog.control(tag) == nullptr, retires);
-    }
-    QVERIFY(!cell(dialog, "fine")->isChecked()); // showing refreshes nothing
-}
-
-// A panel whose form is missing has nothing to retire.
-void LaminationTest::modelWithoutAForm()
-{
-    PanelHarness dialog(Mode::Constraint, ppd());
-    dialog.printer.description = QUrl(text("ppd:x"));
-    dialog.printer.data = "K9031";
-    const QTemporaryDir folder;
-    QVERIFY(QDir(folder.path()).mkdir(text("Contents")));
-    QFile info(folder.filePath(text("Contents/Info.json")));
-    QVERIFY(info.open(QIODevice::WriteOnly));
-    info.write(R"({"CFBundleIdentifier": "a.b", "CFBundleExecutable": "none"})");
-    info.close();
-    auto panel = dialog.make<LVCorvelLaminationPDE>();
-    panel->pdeBundle_ = pdekit::Bundle::open(folder.path());
-    panel->willShow();
-    QVERIFY(!panel->panelView());
-    QVERIFY(!dialog.log.filter(text("Failed to load nib named corvelMatte")).isEmpty());
 }
 
 void LaminationTest::matrixVariant()
@@ -308,25 +231,6 @@ void LaminationTest::isMatte()
     QCOMPARE(notices, QStringList({text("<Quality"), text(">Quality")}));
 }
 
-void LaminationTest::boundValueIsStored()
-{
-    QFETCH_GLOBAL(Mode, mode);
-    PanelHarness dialog(mode, ppd());
-    auto panel = dialog.make<LVCorvelLaminationPDE>();
-    dialog.show(*panel);
-    dialog.log.clear();
-    panel->setValueForBoundControlWithKey(text("Matte"), text("Overcoat"));
-    QCOMPARE(panel->recorded(text("Overcoat")), text("Matte"));
-    QVERIFY(cell(dialog, "glossy")->isChecked());                  // no control is touched
-    panel->setValueForBoundControlWithKey(text("%1"), text("%2")); // is not taken for a placeholder
-    QCOMPARE(panel->recorded(text("%2")), text("%1"));
-    QCOMPARE(dialog.log, dialog.constraints ? QStringList({text("changed Overcoat setting to Matte"),
-                                                           text("changed %2 setting to %1")})
-                                            : QStringList());
-    if (dialog.constraints)
-        QCOMPARE(dialog.constraints->offers, QStringList({text("Overcoat=Matte"), text("%2=%1")}));
-}
-
 void LaminationTest::boundValueNamesAMember()
 {
     QFETCH_GLOBAL(Mode, mode);
@@ -374,61 +278,6 @@ void LaminationTest::boundValueNamesAnOperation()
     const QString name = text(QTest::currentDataTag());
     panel.setValueForBoundControlWithKey(text("7"), name);
     QCOMPARE(panel.performed, isPerformed ? QStringList(name) : QStringList());
-}
-
-void LaminationTest::boundValueIsRefused_data()
-{
-    QTest::addColumn<int>("key");
-    QTest::newRow("Return") << int(Qt::Key_Return);
-    QTest::newRow("Space") << int(Qt::Key_Space);
-    QTest::newRow("Escape") << int(Qt::Key_Escape);
-}
-
-// With the desktop's own alert, which a key dismisses.
-void LaminationTest::boundValueIsRefused()
-{
-    QFETCH_GLOBAL(Mode, mode);
-    QFETCH(int, key);
-    if (mode == Mode::Settings)
-        return; // nobody refuses
-    PanelHarness dialog(mode, ppd());
-    auto panel = dialog.make<LVCorvelLaminationPDE>();
-    dialog.show(*panel);
-    pdekit::Feedback::install(nullptr);
-    QStringList shown;
-    bool isModal = false;
-    bool isPlain = false;
-    bool wasDismissed = false;
-    QTimer::singleShot(0, this, [&] {
-        auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
-        if (!box)
-            return;
-        // Whatever a plug-in has to say, it is no markup.
-        const QList<QLabel *> labels = box->findChildren<QLabel *>();
-        isPlain = std::all_of(labels.begin(), labels.end(),
-                              [](const QLabel *label) { return label->textFormat() == Qt::PlainText; });
-        isModal = box->isModal() && box->parentWidget() == &dialog.window;
-        shown << box->text() << box->informativeText();
-        const QList<QAbstractButton *> buttons = box->buttons();
-        for (const QAbstractButton *button : buttons)
-            shown << button->text();
-        std::ignore = QTest::qWaitFor([box] { return box->isActiveWindow() && box->focusWidget(); });
-        QTest::keyClick(box->windowHandle(), Qt::Key(key));
-        wasDismissed = !box->isVisible();
-        box->reject(); // lest the test hang
-    });
-    dialog.constraints->refused = {text("Overcoat")};
-    dialog.log.clear();
-    panel->setOvercoat(text("Matte"));
-    panel->setValueForBoundControlWithKey(text("Matte"), text("Overcoat"));
-    QCOMPARE(shown, QStringList({text("setting change failed!"),
-                                 text("I tried to make the change you requested but the printing system "
-                                      "rejected my efforts. Sorry."),
-                                 text("Bummer!")}));
-    QVERIFY(isModal && isPlain && wasDismissed && !QApplication::activeModalWidget());
-    QCOMPARE(dialog.log, QStringList{text("Failed to change Overcoat setting to = Matte")});
-    QCOMPARE(panel->recorded(text("Overcoat")), text("Glossy"));
-    QVERIFY(cell(dialog, "matte")->isChecked()); // no control is put back
 }
 
 QTEST_MAIN(LaminationTest)

@@ -21,11 +21,9 @@ class PanelActionsTest : public QObject
 private Q_SLOTS:
     void initTestCase_data();
     void returnKey();
-    void leavingTheField();
     void cursorStaysInTheNumber();
     void movingTheSlider();
     void answersOfMarking();
-    void fieldWithoutASlider();
     void mixedEnablerOfTheFinish();
     void sendersThatAreNoControls();
     void missingControls();
@@ -54,25 +52,6 @@ void PanelActionsTest::returnKey()
     }
     QTest::keyClick(dialog.slider(1), Qt::Key_Return);
     QCOMPARE(dialog.printed, 1); // from elsewhere, Return is the default button's
-}
-
-void PanelActionsTest::leavingTheField()
-{
-    QFETCH_GLOBAL(Mode, mode);
-    PanelHarness dialog(mode);
-    auto panel = dialog.make<LVCorvelMainPDE>();
-    dialog.show(*panel);
-    // That the panel has rewritten what was typed makes no difference.
-    dialog.type(81, text("1."));
-    QCOMPARE(dialog.field(81)->text(), text("1"));
-    panel->events.clear();
-    QTest::keyClick(dialog.field(81), Qt::Key_Tab);
-    QCOMPARE(QApplication::focusWidget(), dialog.control(2));
-    QCOMPARE(panel->events, QStringList(text("end")));
-    // Leaving a field that was not typed in is no end of editing.
-    dialog.field(81)->setFocus();
-    dialog.field(82)->setFocus();
-    QCOMPARE(panel->events.size(), 1);
 }
 
 void PanelActionsTest::cursorStaysInTheNumber()
@@ -143,22 +122,6 @@ void PanelActionsTest::answersOfMarking()
     QCOMPARE(dialog.constraints->offers.last(), text("Red=99"));
     dialog.constraints->refused << key;
     QVERIFY(!panel->markChoiceForPPDOptionKeyFromSender(text("4"), key, nullptr));
-}
-
-// A number field that is its own slider has no range but 0.
-void PanelActionsTest::fieldWithoutASlider()
-{
-    QFETCH_GLOBAL(Mode, mode);
-    PanelHarness dialog(mode);
-    auto panel = dialog.make<BuiltPanel>();
-    QLineEdit *field = panel->add<QLineEdit>(5);
-    for (const auto &[choice, beeps] :
-         {std::pair("0", 0), std::pair("-", 0), std::pair("1", 1), std::pair("-1", 1)}) {
-        panel->setChoiceForKey(text("0"), text("Key5"));
-        QVERIFY(panel->markChoiceForPPDOptionKeyFromSender(text(choice), text("Key5"), field));
-        QCOMPARE(panel->recorded(text("Key5")), beeps == 0 ? text(choice) : text("0"));
-        QCOMPARE(std::exchange(dialog.feedback->beeps, 0), beeps);
-    }
 }
 
 void PanelActionsTest::mixedEnablerOfTheFinish()

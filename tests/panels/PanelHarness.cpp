@@ -6,6 +6,8 @@
 #include "CupsPpd.h"
 #include "SystemLog.h"
 
+#include <QtCore/QDir>
+#include <QtCore/QFile>
 #include <QtTest/QTest>
 #include <QtWidgets/QVBoxLayout>
 
@@ -66,6 +68,16 @@ bool RecordingFeedback::openHelpBook(const pdekit::Bundle & /*bundle*/, const QS
     return opensHelp;
 }
 
+std::optional<pdekit::Bundle> emptyBundle(const QString &folder, const QByteArray &identifier)
+{
+    QFile info(folder + text("/Contents/Info.json"));
+    if (!QDir(folder).mkpath(text("Contents")) || !info.open(QIODevice::WriteOnly))
+        return std::nullopt;
+    info.write(R"({"CFBundleIdentifier": ")" + identifier + R"(", "CFBundleExecutable": "none"})");
+    info.close();
+    return pdekit::Bundle::open(folder);
+}
+
 void PanelHarness::PpdCloser::operator()(ppd_file_s *ppd) const
 {
     ppdClose(ppd);
@@ -110,6 +122,12 @@ PanelHarness::~PanelHarness()
     pdekit::Feedback::install(feedbackBefore_);
 }
 
+QByteArray PanelHarness::ppdHead()
+{
+    return "*PPD-Adobe: \"4.3\"\n*FormatVersion: \"4.3\"\n*LanguageVersion: English\n"
+           "*LanguageEncoding: UTF-8\n*NickName: \"Test\"\n";
+}
+
 QByteArray PanelHarness::ppdOption(const QByteArray &key, const QByteArray &defaultChoice,
                                    const QList<QByteArray> &choices)
 {
@@ -124,8 +142,7 @@ QByteArray PanelHarness::colorPpd(const QByteArray &more)
     QList<QByteArray> levels;
     for (int i = -25; i <= 25; ++i)
         levels << QByteArray::number(i) + "/Level " + QByteArray::number(i);
-    QByteArray text = "*PPD-Adobe: \"4.3\"\n*FormatVersion: \"4.3\"\n*LanguageVersion: English\n"
-                      "*LanguageEncoding: UTF-8\n*NickName: \"Test\"\n";
+    QByteArray text = ppdHead();
     for (const char *key : {"Red", "Green", "Blue", "Brightness", "Contrast", "Saturation", "Gamma"})
         text += ppdOption(key, "0", levels);
     return text + ppdOption("AdjustmentsEnabled", "True", {"True/On", "False/Off"}) + more;

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "Bundle.h"
 #include "ControlValues.h"
 #include "Feedback.h"
 #include "PrintDialogCallback.h"
@@ -109,7 +110,10 @@ class RecordingFeedback : public pdekit::Feedback
 {
 public:
     void beep() override { ++beeps; }
-    void alert(const pdekit::Alert &alert) override { alerts << alert.message; }
+    void alert(const pdekit::Alert &alert) override
+    {
+        alerts << alert.message + u'|' + alert.information + u'|' + alert.button;
+    }
     bool openHelpBook(const pdekit::Bundle &bundle, const QString &name) override;
 
     int beeps = 0;
@@ -122,6 +126,9 @@ inline QString text(const char *latin1)
 {
     return QString::fromLatin1(latin1);
 }
+
+/// A bundle in the folder, of which nothing is there but its Info.json.
+std::optional<pdekit::Bundle> emptyBundle(const QString &folder, const QByteArray &identifier);
 
 enum class Mode { Constraint, Settings };
 Q_DECLARE_METATYPE(Mode)
@@ -141,6 +148,7 @@ public:
 
     /// The colour panel's options, -25 to 25 each with the text "Level N", and `more`.
     static QByteArray colorPpd(const QByteArray &more = {});
+    static QByteArray ppdHead();
     static QByteArray ppdOption(const QByteArray &key, const QByteArray &defaultChoice,
                                 const QList<QByteArray> &choices);
 

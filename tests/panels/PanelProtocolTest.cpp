@@ -6,10 +6,7 @@
 #include "LVSharpnessCorvelPDE.h"
 #include "PanelHarness.h"
 #include "PlatformException.h"
-#include "PrintDialogPlugin.h"
 
-#include <QtCore/QFile>
-#include <QtCore/QPluginLoader>
 #include <QtCore/QTemporaryDir>
 #include <QtTest/QTest>
 
@@ -24,8 +21,6 @@ extern "C" void catchPIPE(int /*signal*/)
 }
 
 namespace {
-
-const QString nibNameLine = QStringLiteral("corvelPDE Wants to nibName for corvelColorAdjust???\n\n");
 
 /// The colour panel with more keys, and with a form that the test picks, or that cannot even be named.
 class OddPanel : public LVCorvelMainPDE
@@ -43,17 +38,6 @@ public:
     static inline bool throws = false;
     static inline QStringList more;
 };
-
-/// The bundle in the folder, of which nothing is there but its Info.json.
-std::optional<pdekit::Bundle> emptyBundle(const QTemporaryDir &folder, const QByteArray &identifier)
-{
-    QFile info(folder.filePath(text("Contents/Info.json")));
-    if (!QDir(folder.path()).mkpath(text("Contents")) || !info.open(QIODevice::WriteOnly))
-        return std::nullopt;
-    info.write(R"({"CFBundleIdentifier": ")" + identifier + R"(", "CFBundleExecutable": "x"})");
-    info.close();
-    return pdekit::Bundle::open(folder.path());
-}
 
 /// The supported keys, then the keys and choices of all tags.
 QString tablesOf(RKTPPRBasePDEcorvel &panel)
@@ -80,19 +64,16 @@ class PanelProtocolTest : public QObject
 
 private Q_SLOTS:
     void fixedTables();
-    void formIsLoadedWhen();
     void noPanelWithoutPpd();
     void formsThatFail();
     void endOfAPanel();
     void halfOfAChoice();
     void withoutASession();
-    void foreignKeysAreCounted();
     void summary();
     void deviceUri();
     void ppdData();
     void help();
     void brokenPipe();
-    void pluginEntry();
 };
 
 void PanelProtocolTest::fixedTables()
@@ -113,10 +94,8 @@ void PanelProtocolTest::fixedTables()
     QCOMPARE(tablesOf(*finish), text("Overcoat Quality UsePrinterPanel MatteValue;"
                                      " 1=Quality 2=Overcoat 3=MatteValue 32=UsePrinterPanel;"
                                      " 10=Standard 11=Fine 12=Glossy 13=Matte"));
-    QCOMPARE(sharpness->tagForStringValue(text("01")), 0);
-    QCOMPARE(finish->tagForStringValue(text("fine")), 0);
-    QCOMPARE(sharpness->tagForStringValue(std::nullopt), 0);
-    QCOMPARE(finish->tagForStringValue(std::nullopt), 0);
+    for (const std::optional<QString> &none : {std::optional(text("01")), std::optional(text("fine")), {}})
+        QCOMPARE(sharpness->tagForStringValue(none) + finish->tagForStringValue(none), 0);
     const QStringList names = {*colour->panelName(), *sharpness->panelName(), *finish->panelName()};
     QCOMPARE(names.join(u','), text("Color Adjustments,Sharpness,Print Quality and Finish"));
     const QStringList kinds = {*colour->panelKind(), *sharpness->panelKind(), *finish->panelKind()};
@@ -137,20 +116,6 @@ void PanelProtocolTest::fixedTables()
         }
     } tagged;
     QCOMPARE(tagged.supportedPPDOptionKeys().join(u','), text("Key1,Key2"));
-}
-
-void PanelProtocolTest::formIsLoadedWhen()
-{
-    PanelHarness constraint(Mode::Constraint);
-    auto panel = constraint.make<LVCorvelMainPDE>();
-    QVERIFY(!panel->PDEView_ && constraint.log.isEmpty());
-    const QWidget *view = panel->panelView();
-    QVERIFY(view);
-    QCOMPARE(panel->panelView(), view);
-    QCOMPARE(constraint.log, QStringList(nibNameLine));
-    PanelHarness settings(Mode::Settings);
-    QVERIFY(settings.make<LVCorvelMainPDE>()->PDEView_);
-    QCOMPARE(settings.log, QStringList(nibNameLine));
 }
 
 void PanelProtocolTest::noPanelWithoutPpd()
@@ -245,21 +210,6 @@ void PanelProtocolTest::withoutASession()
     QCOMPARE(panel->recorded(text("Red")), text("8"));
 }
 
-// The settings are complete when as many choices are recorded as the panel supports, whosever they are.
-void PanelProtocolTest::foreignKeysAreCounted()
-{
-    PanelHarness dialog(Mode::Settings);
-    auto panel = dialog.make<LVCorvelMainPDE>();
-    for (const QString &key : panel->supportedPPDOptionKeys())
-        dialog.session.ticket.options.insert(key, text("5"));
-    QVERIFY(panel->restoreValuesAndReturnError(nullptr));
-    QCOMPARE(panel->recorded(text("Red")), text("5"));
-    panel->setChoiceForKey(text("9"), text("Foreign"));
-    QVERIFY(panel->restoreValuesAndReturnError(nullptr));
-    QCOMPARE(panel->recorded(text("Red")), text("0")); // the defaults
-    QCOMPARE(panel->recorded(text("Foreign")), text("9"));
-}
-
 void PanelProtocolTest::summary()
 {
     const auto restore = qScopeGuard([] { OddPanel::more.clear(); });
@@ -293,25 +243,22 @@ void PanelProtocolTest::deviceUri()
     QCOMPARE(panel->printerDeviceURI(), uri); // asked for once it is known: never again
 
     // To the letter: neither the case nor the escapes of a host change.
-    const QString base = text("ipp://Host%20A:631/Printers/x/y?z#f");
-    for (const auto &[reference, absolute] :
-         {std::pair("../K9031?serial=A%2fB", "ipp://Host%20A:631/Printers/K9031?serial=A%2fB"),
-          std::pair("./K9031/.", "ipp://Host%20A:631/Printers/x/K9031/"),
-          std::pair("../../../..", "ipp://Host%20A:631/"), std::pair("/K9031", "ipp://Host%20A:631/K9031"),
-          std::pair("//Corvel%20Inc/a/../b", "ipp://Corvel%20Inc/b"),
-          std::pair("?serial=1", "ipp://Host%20A:631/Printers/x/y?serial=1"),
-          std::pair("", "ipp://Host%20A:631/Printers/x/y?z")}) {
+    const QByteArray base = "ipp://Host%20A:631/Printers/x/y?z#f";
+    for (const auto &[from, reference, absolute] :
+         {std::tuple(base, "../K9031?serial=A%2fB", "ipp://Host%20A:631/Printers/K9031?serial=A%2fB"),
+          {base, "./K9031/.", "ipp://Host%20A:631/Printers/x/K9031/"},
+          {base, "../../../..", "ipp://Host%20A:631/"},
+          {base, "/K9031", "ipp://Host%20A:631/K9031"},
+          {base, "//Corvel%20Inc/a/../b", "ipp://Corvel%20Inc/b"},
+          {base, "?serial=1", "ipp://Host%20A:631/Printers/x/y?serial=1"},
+          {base, "", "ipp://Host%20A:631/Printers/x/y?z"},
+          {"ipp://Host", "K9031", "ipp://Host/K9031"},
+          {"ipp://host:631/printers/x/", "usb://Corvel%20Inc/K",
+           "usb://Corvel%20Inc/K"}}) { // which needs no base
         panel = dialog.make<LVCorvelMainPDE>();
-        dialog.printer.deviceUri = pdekit::URLReference(text(reference), base);
+        dialog.printer.deviceUri = pdekit::URLReference(text(reference), text(from.constData()));
         QCOMPARE(panel->printerDeviceURI(), text(absolute));
     }
-    panel = dialog.make<LVCorvelMainPDE>();
-    dialog.printer.deviceUri = pdekit::URLReference(text("K9031"), text("ipp://Host"));
-    QCOMPARE(panel->printerDeviceURI(), text("ipp://Host/K9031"));
-    // An absolute one has no use for its base, and stays to the letter.
-    panel = dialog.make<LVCorvelMainPDE>();
-    dialog.printer.deviceUri = pdekit::URLReference(uri, text("ipp://host:631/printers/x/"));
-    QCOMPARE(panel->printerDeviceURI(), uri);
 }
 
 void PanelProtocolTest::ppdData()
@@ -337,7 +284,7 @@ void PanelProtocolTest::help()
     QVERIFY(panel->shouldShowHelp());
 
     const QTemporaryDir folder;
-    panel->pdeBundle_ = emptyBundle(folder, "x"); // which names no help book
+    panel->pdeBundle_ = emptyBundle(folder.path(), "x"); // which names no help book
     QVERIFY(panel->pdeBundle_);
     QVERIFY(panel->shouldShowHelp());
     QCOMPARE(dialog.feedback->helpBooks.size(), 2);
@@ -354,39 +301,6 @@ void PanelProtocolTest::brokenPipe()
     raise(SIGPIPE);
     QVERIFY(dialog.log.isEmpty());
     QTRY_COMPARE(dialog.log, QStringList({text("caught a signal 13\n"), text("caught a signal 13\n")}));
-}
-
-void PanelProtocolTest::pluginEntry()
-{
-    const QString path = qEnvironmentVariable("CORVEL_PDE_PATH") + text("/Corvel9031.bundle");
-    const auto bundle = pdekit::Bundle::open(path);
-    QVERIFY2(bundle, qPrintable(path));
-    QPluginLoader loader(bundle->executablePath());
-    auto *plugin = qobject_cast<pdekit::PrintDialogPlugin *>(loader.instance());
-    QVERIFY2(plugin, qPrintable(loader.errorString()));
-    PanelHarness dialog(Mode::Constraint);
-    QVERIFY(plugin->initWithBundle(*bundle));
-    const QTemporaryDir folder;
-    QVERIFY(!plugin->initWithBundle(emptyBundle(folder, "org.corvel.printing.corvel9031").value()));
-    QCOMPARE(dialog.log,
-             QStringList({text("INIT: loading bundle with id \"org.corvel.printing.Corvel9031\""),
-                          text("ERROR: bad bundle id \"org.corvel.printing.corvel9031\" not equal to "
-                               "\"org.corvel.printing.Corvel9031\"")}));
-
-    const QString type = text("BDB091F4-E57F-11D3-B5CC-0050E4603277");
-    dialog.log.clear();
-    QVERIFY(!plugin->PDEPanelsForTypeWithHostInfo(type.toLower(), dialog.callback));
-    QVERIFY(!plugin->PDEPanelsForTypeWithHostInfo(QString(), dialog.callback));
-    QVERIFY(dialog.log.isEmpty());
-    {
-        const auto panels = plugin->PDEPanelsForTypeWithHostInfo(type, dialog.callback);
-        QVERIFY(panels && !panels->empty());
-        QCOMPARE(panels->front()->panelKind(), bundle->identifier() + text(".coloradjust"));
-        QVERIFY(panels->front()->panelView()); // from the plug-in's bundle, not from the test's
-    }
-    dialog.callback->ppd = nullptr;
-    const auto none = plugin->PDEPanelsForTypeWithHostInfo(type, dialog.callback);
-    QVERIFY(none && none->empty());
 }
 
 QTEST_MAIN(PanelProtocolTest)

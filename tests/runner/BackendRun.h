@@ -99,12 +99,8 @@ public:
         behave(behaviour);
         qputenv("VELTA_INPUT", folder.filePath(text("input")).toLocal8Bit());
         QDir().mkpath(bundlePath + text("/Contents/Linux"));
-        QFile info(bundlePath + text("/Contents/Info.json"));
-        if (info.open(QIODevice::WriteOnly))
-            info.write(R"({"CFBundleIdentifier": "a.b", "CFBundleExecutable": "none"})");
-        info.close();
         panel = RKTPPRBasePDEcorvel::make<RunnerPanel>(dialog.callback);
-        panel->pdeBundle_ = pdekit::Bundle::open(bundlePath);
+        panel->pdeBundle_ = emptyBundle(bundlePath, "a.b");
         initializeVeltaContext(&context);
         dialog.log.clear();
     }
