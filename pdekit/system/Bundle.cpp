@@ -3,8 +3,6 @@
 
 #include "Bundle.h"
 
-#include "StringsTable.h"
-
 #include <QtCore/QCoreApplication>
 #include <QtCore/QDir>
 #include <QtCore/QFile>
@@ -13,6 +11,7 @@
 #include <QtCore/QJsonObject>
 #include <QtCore/QLocale>
 #include <QtCore/QMetaObject>
+#include <QtCore/QTranslator>
 
 #include <dlfcn.h>
 
@@ -22,7 +21,7 @@ struct Bundle::Content
 {
     QString path;
     QJsonObject info;
-    StringsTable table;
+    QTranslator table;
     QString tableLocale; ///< the languages that the table was chosen for
 };
 
@@ -67,6 +66,18 @@ std::optional<QJsonObject> readInfo(const QString &bundlePath, BundleFault &faul
     else
         return document.object();
     return std::nullopt;
+}
+
+/// The first table that there is, each language with its territory before it is without.
+void loadTable(QTranslator &table, const QString &folder)
+{
+    const QStringList languages = QLocale().uiLanguages() << QStringLiteral("en");
+    for (QString language : languages) {
+        const QString name =
+            QLatin1String("Localizable_") + language.replace(QLatin1Char('-'), QLatin1Char('_'));
+        if (table.load(name, folder, QStringLiteral("_"), QStringLiteral(".qm")))
+            return;
+    }
 }
 
 } // namespace
@@ -148,9 +159,10 @@ QString Bundle::localizedString(const QString &key, const QString &value) const
     const QString locale = QLocale().uiLanguages().join(QLatin1Char(' '));
     if (content_->tableLocale != locale) {
         content_->tableLocale = locale;
-        content_->table.load(QLocale(), content_->path + QLatin1String("/Contents/Resources"));
+        loadTable(content_->table, content_->path + QLatin1String("/Contents/Resources"));
     }
-    if (const QString text = content_->table.text(key); !text.isNull())
+    if (const QString text = content_->table.translate("Localizable", key.toUtf8().constData());
+        !text.isNull())
         return text;
     return value.isEmpty() ? key : value;
 }

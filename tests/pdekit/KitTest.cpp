@@ -10,12 +10,10 @@
 #include "SystemLog.h"
 
 #include <QtCore/QDir>
-#include <QtCore/QElapsedTimer>
 #include <QtCore/QFile>
 #include <QtCore/QLocale>
 #include <QtCore/QTemporaryDir>
 #include <QtCore/QTemporaryFile>
-#include <QtCore/QtEndian>
 #include <QtTest/QTest>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QSlider>
@@ -189,141 +187,6 @@ void KitTest::languages()
     QCOMPARE(bundle.localizedString(text("adjustmentsenabled")), text("adjustmentsenabled"));
     QCOMPARE(bundle.localizedString(text("none"), text("instead")), text("instead"));
     QCOMPARE(bundle.localizedString(QString()), QString());
-}
-
-namespace {
-
-template <typename Number>
-QByteArray bigEndian(Number number)
-{
-    QByteArray bytes(sizeof number, '\0');
-    qToBigEndian(number, bytes.data());
-    return bytes;
-}
-
-QByteArray part(char tag, const QByteArray &content)
-{
-    return tag + bigEndian(quint32(content.size())) + content;
-}
-
-/// By which a table finds a text's message, that of the ELF format.
-quint32 elfHash(const QByteArray &text)
-{
-    quint32 hash = 0;
-    for (const char c : text) {
-        hash = (hash << 4) + static_cast<uchar>(c);
-        const quint32 high = hash & 0xf0000000;
-        hash = (hash ^ (high >> 24)) & ~high;
-    }
-    return hash;
-}
-
-} // namespace
-
-void KitTest::damagedStringsTable_data()
-{
-    QTest::addColumn<qsizetype>("place");
-    QTest::addColumn<QByteArray>("bytes");
-
-    // The magic number, the language, hashes and places (tag, length, pairs), messages (tag, length, parts).
-    QTest::newRow("not a table") << qsizetype(0) << QByteArray("x");
-    // A block that leads to another file: QTranslator would read that one, and itself, over and over.
-    const QByteArray name("\0L\0o\0c\0a\0l\0i\0z\0a\0b\0l\0e\0_\0d\0e", 28);
-    QTest::newRow("itself") << qsizetype(16)
-                            << part('\x96', bigEndian(quint32(name.size())) + name) + QByteArray(8, '\0');
-    QTest::newRow("a block beyond the end") << qsizetype(0x18) << QByteArray("\x70");
-    QTest::newRow("a message beyond the end") << qsizetype(0x20) << QByteArray("\x70");
-    QTest::newRow("a text beyond the end") << qsizetype(0x162) << QByteArray("\x70");
-}
-
-// The English table is used instead, and the damaged one is named.
-void KitTest::damagedStringsTable()
-{
-    QFETCH(qsizetype, place);
-    QFETCH(QByteArray, bytes);
-    QStringList log;
-    const auto sink = pdekit::setSystemLogSink([&log](const QString &line) { log << line; });
-    const auto restore = qScopeGuard([&sink] {
-        pdekit::setSystemLogSink(sink);
-        QLocale::setDefault(QLocale::c());
-    });
-    const QString own = Bundle::bundleForClass(staticMetaObject).path() + text("/Contents/Resources/");
-    const QTemporaryDir folder;
-    write(folder.filePath(text("Contents/Info.json")),
-          R"({"CFBundleIdentifier": "a", "CFBundleExecutable": "x"})");
-    const QString english = folder.filePath(text("Contents/Resources/Localizable_en.qm"));
-    const QString german = folder.filePath(text("Contents/Resources/Localizable_de.qm"));
-    QVERIFY(QDir(folder.path()).mkdir(text("Contents/Resources")));
-    QVERIFY(QFile::copy(own + text("Localizable_en.qm"), english));
-    QFile table(own + text("Localizable_de.qm"));
-    QVERIFY(table.open(QFile::ReadOnly));
-    QByteArray content = table.readAll();
-    content.replace(place, bytes.size(), bytes);
-    write(german, content);
-    QLocale::setDefault(QLocale(text("de")));
-    QCOMPARE(Bundle::open(folder.path())->localizedString(text("Brightness")), text("Brightness"));
-    QCOMPARE(log.filter(german).size(), 1);
-}
-
-void KitTest::partsOfStringsTables_data()
-{
-    QTest::addColumn<QByteArray>("message");
-    QTest::addColumn<QByteArray>("contexts"); // their number, their places in steps of two bytes, their names
-    QTest::addColumn<bool>("isRead");
-
-    const QByteArray text = part('\x03', QByteArray("\0o\0k", 4));
-    const QByteArray one("\0\1\0\1\0\0", 6);
-    QTest::newRow("text only") << text + '\1' << QByteArray() << true;
-    QTest::newRow("no end") << text << QByteArray() << false;
-    QTest::newRow("all parts") << text + part('\5', {}).first(5) + part('\x06', "key") +
-                                      part('\x07', "Localizable") + part('\x08', "") + '\1'
-                               << QByteArray() << true;
-    QTest::newRow("cut obsolete part") << text + "\5\1" << QByteArray() << false;
-    QTest::newRow("comment beyond the end")
-        << text + part('\x08', "long").chopped(1) << QByteArray() << false;
-    QTest::newRow("context") << text + '\1' << one + "\x0bLocalizable" + '\0' << true;
-    QTest::newRow("contexts without a size") << text + '\1' << QByteArray("\0\0", 2) << false;
-    QTest::newRow("context's place beyond the end") << text + '\1' << QByteArray("\0\1\0\7", 4) << false;
-    QTest::newRow("more contexts than places") << text + '\1' << QByteArray("\0\4\0\0", 4) << false;
-    QTest::newRow("context's name beyond the end") << text + '\1' << one + "\x0bLocal" << false;
-    QTest::newRow("contexts without an end") << text + '\1' << one + "\x0bLocalizable" << false;
-}
-
-void KitTest::partsOfStringsTables()
-{
-    QFETCH(QByteArray, message);
-    QFETCH(QByteArray, contexts);
-    QFETCH(bool, isRead);
-    const auto sink = pdekit::setSystemLogSink([](const QString & /*line*/) {});
-    const auto restore = qScopeGuard([&sink] { pdekit::setSystemLogSink(sink); });
-    QByteArray table = QByteArray::fromHex("3cb86418caef9c95cd211cbf60a1bddd");
-    if (!contexts.isEmpty())
-        table += part('\x2f', contexts);
-    table += part('\x42', bigEndian(elfHash("key")) + bigEndian(quint32(0))) + part('\x69', message);
-    const QTemporaryDir folder;
-    write(folder.filePath(text("Contents/Info.json")),
-          R"({"CFBundleIdentifier": "a", "CFBundleExecutable": "x"})");
-    write(folder.filePath(text("Contents/Resources/Localizable_en.qm")), table);
-    QCOMPARE(Bundle::open(folder.path())->localizedString(text("key")), isRead ? text("ok") : text("key"));
-}
-
-// Fifty thousand messages that share one end are looked over once, not each from its begin.
-void KitTest::sharedMessagesOfAStringsTable()
-{
-    constexpr int count = 50'000;
-    const QByteArray hash = bigEndian(quint32(1)) + bigEndian(quint32(0));
-    const QByteArray skipped = "\x05" + bigEndian(quint32(0));
-    const QByteArray table = QByteArray::fromHex("3cb86418caef9c95cd211cbf60a1bddd") +
-                             part('\x42', hash.repeated(count)) +
-                             part('\x69', skipped.repeated(count) + '\1');
-    const QTemporaryDir folder;
-    write(folder.filePath(text("Contents/Info.json")),
-          R"({"CFBundleIdentifier": "a", "CFBundleExecutable": "x"})");
-    write(folder.filePath(text("Contents/Resources/Localizable_en.qm")), table);
-    QElapsedTimer time;
-    time.start();
-    QCOMPARE(Bundle::open(folder.path())->localizedString(text("key")), text("key"));
-    QVERIFY2(time.elapsed() < 5000, qPrintable(QString::number(time.elapsed())));
 }
 
 void KitTest::signalLog()

@@ -27,11 +27,6 @@ private Q_SLOTS:
     void bundleFaults();
     void bundleFiles();
     void languages();
-    void damagedStringsTable_data();
-    void damagedStringsTable();
-    void partsOfStringsTables_data();
-    void partsOfStringsTables();
-    void sharedMessagesOfAStringsTable();
     void signalLog();
     void systemLogOnStandardError();
     void forms();
