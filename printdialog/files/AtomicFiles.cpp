@@ -117,7 +117,7 @@ int AtomicFiles::makeFolders()
     return 0;
 }
 
-Result<QIODevice *, OutputFault> AtomicFiles::add(const QString &name, Access access)
+Result<QIODevice *, OutputFault> AtomicFiles::add(const QString &name)
 {
     Q_ASSERT(!name.isEmpty() && !name.contains(QLatin1Char('/')));
     File file;
@@ -128,7 +128,7 @@ Result<QIODevice *, OutputFault> AtomicFiles::add(const QString &name, Access ac
         errno != ENOENT)
         return outputFailure(errno, pathOf(file.name));
 
-    const mode_t mode = access == Access::OwnerOnly ? 0600 : 0666;
+    constexpr mode_t mode = 0666;
     pdekit::FileDescriptor descriptor(
         ::openat(descriptor_.number(), ".", O_WRONLY | O_TMPFILE | O_CLOEXEC, mode));
     if (!descriptor.isOpen()) {

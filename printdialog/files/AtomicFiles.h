@@ -35,14 +35,9 @@ public:
     AtomicFiles(AtomicFiles &&) noexcept;
     AtomicFiles &operator=(AtomicFiles &&) = delete;
 
-    /// Who may read a file.
-    enum class Access {
-        AnyNewFile, ///< as any new file of this user
-        OwnerOnly,
-    };
     /// Begins a file. `name` is its final name, without a folder. The device belongs to this object and is
     /// valid until commit().
-    Result<QIODevice *, OutputFault> add(const QString &name, Access access = Access::AnyNewFile);
+    Result<QIODevice *, OutputFault> add(const QString &name);
     /// The failure of the first file that could not be written, by its final name.
     std::optional<Failure<OutputFault>> writeFailure() const;
     /// What becomes of earlier files of the same names.

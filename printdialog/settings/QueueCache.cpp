@@ -3,13 +3,11 @@
 
 #include "QueueCache.h"
 
-#include "AtomicFiles.h"
 #include "PlainText.h"
 #include "QueueRecord.h"
+#include "SettingsFile.h"
 
-#include <QtCore/QDir>
 #include <QtCore/QFile>
-#include <QtCore/QFileInfo>
 #include <QtCore/QJsonDocument>
 #include <QtCore/QJsonObject>
 #include <QtCore/QStandardPaths>
@@ -26,7 +24,6 @@ namespace {
 constexpr int version = 1;
 /// Of a PPD that is remembered, in bytes: as JSON it takes ten times the memory for a moment.
 constexpr qsizetype ppdLimit = qsizetype(3) * 1024 * 1024;
-constexpr auto onlyOwner = QFile::ReadOwner | QFile::WriteOwner;
 
 struct TextField
 {
@@ -105,19 +102,12 @@ void QueueCache::save(const RememberedQueue &remembered)
 
     const QString path = file();
     const QByteArray bytes = QJsonDocument(content).toJson(QJsonDocument::Compact);
-    const QString folder = QFileInfo(path).path();
-    if (!QDir(folder).exists())
-        QDir().mkpath(QFileInfo(folder).path()) && QDir().mkdir(folder, onlyOwner | QFile::ExeOwner);
     QFile before(path);
     if (isPrivate(path) && before.open(QIODevice::ReadOnly) && before.readAll() == bytes)
         return;
-    auto files = AtomicFiles::open(folder);
-    if (!files)
-        return;
-    if (const auto device = files->add(QFileInfo(path).fileName(), AtomicFiles::Access::OwnerOnly)) {
-        (*device)->write(bytes);
-        [[maybe_unused]] const auto kept = files->commit(); // else the server is asked again next time
-    }
+    if (!isPrivate(path))
+        QFile::remove(path); // a file that is replaced keeps its permissions
+    SettingsFile::replace(path, bytes); // else the server is asked again next time
 }
 
 } // namespace printdialog

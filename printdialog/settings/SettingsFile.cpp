@@ -3,16 +3,13 @@
 
 #include "SettingsFile.h"
 
-#include "AtomicFiles.h"
-#include "FileLock.h"
-#include "FileName.h"
-
 #include <QtCore/QDir>
 #include <QtCore/QFileInfo>
+#include <QtCore/QLockFile>
+#include <QtCore/QSaveFile>
 
-#include <algorithm>
 #include <cerrno>
-#include <sys/stat.h>
+#include <unistd.h>
 
 using namespace std::chrono_literals;
 
@@ -22,8 +19,12 @@ namespace {
 
 constexpr qsizetype largestFile = qsizetype(1024) * 1024;
 constexpr auto lockPatience = 1s;
+/// After which a lock file without content, whose writer was killed right then, is in nobody's way. One that
+/// has content goes at once when its writer is gone.
+constexpr auto staleLock = 500ms;
 
-constexpr auto ownersFolder = QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner;
+constexpr auto ownersFile = QFile::ReadOwner | QFile::WriteOwner;
+constexpr auto ownersFolder = ownersFile | QFile::ExeOwner;
 
 bool makeFolder(const QString &path)
 {
@@ -32,54 +33,6 @@ bool makeFolder(const QString &path)
     const QString above = QFileInfo(path).path();
     return (above == path || makeFolder(above)) &&
            (QDir().mkdir(path, ownersFolder) || QFileInfo(path).isDir());
-}
-
-/// Where a link leads to, the file itself otherwise: a link stays one.
-QString fileItself(const QString &path)
-{
-    const QFileInfo info(path);
-    if (!info.isSymLink())
-        return path;
-    return info.exists() ? info.canonicalFilePath() : info.symLinkTarget();
-}
-
-/// 0, or the system's error number. Reads one byte too many from a file that is too large.
-int readAll(const pdekit::FileDescriptor &file, QByteArray &content)
-{
-    content.resize(largestFile + 1);
-    qsizetype size = 0;
-    while (size < content.size()) {
-        const ssize_t count =
-            ::read(file.number(), content.data() + size, static_cast<std::size_t>(content.size() - size));
-        if (count < 0 && errno != EINTR)
-            return errno;
-        if (count == 0)
-            break;
-        size += std::max<ssize_t>(count, 0);
-    }
-    content.truncate(size);
-    content.squeeze();
-    return 0;
-}
-
-/// Nothing, or why the file has not its new content.
-std::optional<QString> replace(const QString &path, const QByteArray &content)
-{
-    const auto reasonOf = [](const Failure<OutputFault> &failure) {
-        return failure.detail.isEmpty() ? failure.text : failure.detail;
-    };
-    const QFileInfo info(path);
-    if (info.exists() && !info.isWritable())
-        return qt_error_string(EACCES);
-    auto files = AtomicFiles::open(info.path());
-    if (!files)
-        return reasonOf(files.failure());
-    const auto device = files->add(info.fileName(), AtomicFiles::Access::OwnerOnly);
-    if (!device)
-        return reasonOf(device.failure());
-    (*device)->write(content);
-    const auto paths = files->commit();
-    return paths ? std::nullopt : std::optional(reasonOf(paths.failure()));
 }
 
 } // namespace
@@ -92,26 +45,41 @@ Result<QByteArray, SettingsFault> SettingsFile::read(const QString &path)
             tr("The file %1 cannot be read: %2. Make it readable, or move it away.").arg(path, reason),
             {}};
     };
-    // Never waits for a pipe, nor reads a device without end.
-    const pdekit::FileDescriptor file(
-        ::open(bytesOfFileName(path).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
-    if (!file.isOpen() && (errno == ENOENT || errno == ENOTDIR))
+    const QFileInfo info(path);
+    if (!info.exists())
         return QByteArray();
-    if (!file.isOpen())
-        return failure(qt_error_string(errno));
-    struct stat status = {};
-    if (::fstat(file.number(), &status) != 0)
-        return failure(qt_error_string(errno));
-    if (!S_ISREG(status.st_mode))
+    if (!info.isFile()) // a pipe would be waited for, and a device read without end
         return failure(tr("it is not a file"));
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return failure(file.errorString());
+    const QByteArray content = file.read(largestFile + 1);
     // A file that was not read to its end is never taken for a shorter one: what follows would be written
     // over.
-    QByteArray content;
-    if (const int error = readAll(file, content))
-        return failure(qt_error_string(error));
+    if (file.error() != QFile::NoError)
+        return failure(file.errorString());
     if (content.size() > largestFile)
         return failure(tr("it is too large"));
     return content;
+}
+
+std::optional<QString> SettingsFile::replace(const QString &path, const QByteArray &content)
+{
+    const QFileInfo info(path);
+    if (!makeFolder(info.path()))
+        return tr("the folder cannot be made");
+    if (info.exists() && !info.isWritable())
+        return qt_error_string(EACCES);
+    QSaveFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || (!info.exists() && !file.setPermissions(ownersFile)))
+        return file.errorString();
+    // commit() goes by neither: not by what comes up when the last part is written, nor by fsync(2), by which
+    // network file systems report that they could not store it.
+    if (file.write(content) != content.size() || !file.flush())
+        return file.errorString();
+    if (::fsync(file.handle()) != 0)
+        return qt_error_string(errno);
+    return file.commit() ? std::nullopt : std::optional(file.errorString());
 }
 
 SettingsFailure SettingsFile::change(const QString &path, const Change &change)
@@ -125,15 +93,17 @@ SettingsFailure SettingsFile::change(const QString &path, const Change &change)
     const QString folder = QFileInfo(path).path();
     if (!makeFolder(folder))
         return failure(SettingsFault::NotWritable, tr("the folder cannot be made"));
-    FileLock lock(path + QLatin1String(".lock"));
-    const int lockError = lock.take(lockPatience);
-    if (lockError == EWOULDBLOCK)
-        return Failure<SettingsFault>{
-            SettingsFault::Busy,
-            tr("Nothing could be saved in %1: another program is writing there. Try again.").arg(path),
-            {}};
-    if (lockError != 0)
-        return failure(SettingsFault::NotWritable, qt_error_string(lockError));
+    QLockFile lock(path + QLatin1String(".lock"));
+    lock.setStaleLockTime(staleLock);
+    if (!lock.tryLock(lockPatience)) {
+        if (lock.error() == QLockFile::LockFailedError)
+            return Failure<SettingsFault>{
+                SettingsFault::Busy,
+                tr("Nothing could be saved in %1: another program is writing there. Try again.").arg(path),
+                {}};
+        return failure(SettingsFault::NotWritable,
+                       qt_error_string(lock.error() == QLockFile::PermissionError ? EACCES : ENOSPC));
+    }
     const auto before = read(path);
     if (!before)
         return before.failure();
@@ -142,7 +112,7 @@ SettingsFailure SettingsFile::change(const QString &path, const Change &change)
         return after.failure();
     if (*after == *before && QFileInfo::exists(path))
         return std::nullopt;
-    if (const auto reason = replace(fileItself(path), *after))
+    if (const auto reason = replace(path, *after))
         return failure(SettingsFault::NotWritable, *reason);
     return std::nullopt;
 }

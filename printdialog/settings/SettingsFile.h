@@ -13,7 +13,8 @@
 namespace printdialog {
 
 /// A small file of the user's: read whole, and changed whole or not at all, so that it holds the old content
-/// or the new one whatever happens. Private: nobody else can read it.
+/// or the new one whatever happens. Nobody else can read a new one; one that was there keeps its permissions,
+/// and a link stays one.
 class SettingsFile
 {
     Q_DECLARE_TR_FUNCTIONS(printdialog::SettingsFile)
@@ -21,6 +22,10 @@ class SettingsFile
 public:
     /// The content; empty when there is no such file. Failures: NotReadable.
     static Result<QByteArray, SettingsFault> read(const QString &path);
+
+    /// Puts the content in the file's place, and makes the folder, private too. Nothing, or why the file has
+    /// not its new content.
+    static std::optional<QString> replace(const QString &path, const QByteArray &content);
 
     /// What is to be in the file instead of what is there, or why it stays.
     using Change = std::function<Result<QByteArray, SettingsFault>(const QByteArray &before)>;

@@ -3,7 +3,7 @@
 
 #include "WindowPlacement.h"
 
-#include "AtomicFiles.h"
+#include "SettingsFile.h"
 
 #include <QtCore/QFile>
 #include <QtCore/QFileInfo>
@@ -33,12 +33,7 @@ QByteArray WindowPlacement::load()
 
 bool WindowPlacement::save(const QByteArray &geometry)
 {
-    const QFileInfo path(filePath());
-    auto files = AtomicFiles::open(path.path());
-    if (!files)
-        return false;
-    const auto device = files->add(path.fileName(), AtomicFiles::Access::OwnerOnly);
-    return device && (*device)->write(geometry) == geometry.size() && files->commit();
+    return !SettingsFile::replace(filePath(), geometry);
 }
 
 } // namespace printdialog
