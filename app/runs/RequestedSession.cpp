@@ -78,7 +78,7 @@ QString usePreset(RequestedJob &job, const QString &destination)
     const QString name = (printer.isBuiltIn ? destination : printer.name).section(u'/', 1);
     if (name.isEmpty())
         return {};
-    const auto presets = PresetStore::open(queue, printer.isBuiltIn)->presets();
+    const auto presets = PresetStore::of(queue, printer.isBuiltIn).presets();
     if (!presets)
         return presets.failure().text;
     const Preset *preset = PresetStore::findInstance(*presets, name);

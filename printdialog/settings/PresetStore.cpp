@@ -3,15 +3,37 @@
 
 #include "PresetStore.h"
 
-#include "BuiltInPresets.h"
+#include "LpoptionsFile.h"
 #include "PlainText.h"
 #include "PresetName.h"
-#include "QueuePresets.h"
+#include "SettingsFile.h"
 #include "StoredChoices.h"
+
+#include <QtCore/QDir>
+#include <QtCore/QStandardPaths>
 
 #include <algorithm>
 
 namespace printdialog {
+
+namespace {
+
+/// Each has its instance for a name so far. lpoptions(1) takes characters that are mapped here: such a preset
+/// keeps its name, and another one that would have the same is shown as its instance.
+void giveNames(QList<Preset> &presets)
+{
+    for (Preset &preset : presets) {
+        const QString name = PresetName::ofInstance(preset.instance);
+        const bool isTaken = std::ranges::any_of(presets, [&name](const Preset &other) {
+            return PresetName::areSame(other.instance, name) &&
+                   PresetName::ofInstance(other.instance) == other.instance;
+        });
+        if (!isTaken)
+            preset.name = name;
+    }
+}
+
+} // namespace
 
 QMap<QString, QString> Preset::choicesFor(const QStringList &printerOptions) const
 {
@@ -25,11 +47,83 @@ QMap<QString, QString> Preset::choicesFor(const QStringList &printerOptions) con
     return choices;
 }
 
-std::unique_ptr<PresetStore> PresetStore::open(const QString &printer, bool isBuiltIn)
+PresetStore::PresetStore(const QString &queue)
+    : queue_(queue)
+    , file_(userFile())
+    , systemFile_(QStringLiteral("%1/lpoptions")
+                      .arg(qEnvironmentVariable("CUPS_SERVERROOT", QStringLiteral("/etc/cups"))))
 {
-    if (isBuiltIn)
-        return std::make_unique<BuiltInPresets>();
-    return std::make_unique<QueuePresets>(printer);
+}
+
+PresetStore PresetStore::builtIn()
+{
+    PresetStore store(QStringLiteral("built-in"));
+    store.file_ = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
+                  QLatin1String("/corvel-print/lpoptions");
+    store.systemFile_.clear();
+    return store;
+}
+
+PresetStore PresetStore::of(const QString &printer, bool isBuiltIn)
+{
+    return isBuiltIn ? builtIn() : PresetStore(printer);
+}
+
+QString PresetStore::userFile()
+{
+    return QDir::homePath() + QLatin1String("/.cups/lpoptions");
+}
+
+Result<QList<Preset>, SettingsFault> PresetStore::presets() const
+{
+    const auto user = SettingsFile::read(file_);
+    if (!user)
+        return user.failure();
+    return presetsIn(*user);
+}
+
+PresetStore::Presets PresetStore::presetsIn(const QByteArray &user) const
+{
+    // What the system's file says is a help only: it need not be readable.
+    const auto read = SettingsFile::read(systemFile_);
+    const QByteArray system = read ? *read : QByteArray();
+    Presets presets;
+    QMap<QString, QString> ofQueue;
+    for (const bool isUsers : {false, true}) {
+        const auto entries = LpoptionsFile(isUsers ? user : system).entries();
+        for (const LpoptionsFile::Entry &entry : entries) {
+            // A name that needs cleaning could not be handed back to CUPS.
+            if (!PresetName::areSame(entry.queue, queue_) || plainText(entry.instance) != entry.instance)
+                continue;
+            if (entry.instance.isEmpty()) {
+                ofQueue.insert(entry.options);
+                continue;
+            }
+            const auto known = std::ranges::find_if(presets, [&entry](const Preset &preset) {
+                return PresetName::areSame(preset.instance, entry.instance);
+            });
+            if (known == presets.end()) {
+                // libcups hands an instance the options that its queue has by then.
+                presets += {entry.instance, entry.options, ofQueue, isUsers, entry.instance};
+            } else {
+                known->options.insert(entry.options);
+                known->isWritable = isUsers;
+            }
+        }
+    }
+    giveNames(presets);
+    std::ranges::sort(presets, {}, [](const Preset &preset) { return preset.name.toLower(); });
+    return presets;
+}
+
+SettingsFailure PresetStore::changeFile(const FileChange &change)
+{
+    return SettingsFile::change(file_, [&](const QByteArray &before) -> Result<QByteArray, SettingsFault> {
+        LpoptionsFile file(before);
+        if (const auto failure = change(file, presetsIn(before)))
+            return *failure;
+        return file.text();
+    });
 }
 
 SettingsFailure PresetStore::add(const QString &name, const QMap<QString, QString> &options)
@@ -44,18 +138,54 @@ SettingsFailure PresetStore::update(const QString &name, const QMap<QString, QSt
     return write(name, options, false);
 }
 
+SettingsFailure PresetStore::write(const QString &name, const QMap<QString, QString> &options, bool isNew)
+{
+    return changeFile([&](LpoptionsFile &file, const Presets &presets) -> SettingsFailure {
+        if (auto failure = isNew ? mayAdd(presets, name) : mayChange(presets, name))
+            return failure;
+        if (file.set(queue_, isNew ? PresetName::instanceOf(name) : find(presets, name)->instance, options))
+            return std::nullopt;
+        return Failure<SettingsFault>{
+            SettingsFault::TooLong,
+            tr("The preset \"%1\" is not saved: with %2 options it is longer than the %3 bytes that CUPS "
+               "reads. Save the settings instead.")
+                .arg(name, QString::number(options.size()), QString::number(LpoptionsFile::longestLine)),
+            {}};
+    });
+}
+
 SettingsFailure PresetStore::rename(const QString &name, const QString &newName)
 {
     if (name == newName)
         return std::nullopt;
     if (auto objection = PresetName::objection(newName))
         return objection;
-    return writeName(name, newName);
+    return changeFile([&](LpoptionsFile &file, const Presets &presets) -> SettingsFailure {
+        if (auto failure = mayChange(presets, name))
+            return failure;
+        if (!PresetName::areSame(name, newName)) {
+            if (auto failure = mayAdd(presets, newName))
+                return failure;
+        }
+        if (file.rename(queue_, find(presets, name)->instance, PresetName::instanceOf(newName)))
+            return std::nullopt;
+        return Failure<SettingsFault>{
+            SettingsFault::TooLong,
+            tr("The preset \"%1\" keeps its name: with the new one it is longer than the %2 bytes that CUPS "
+               "reads. Choose a shorter one.")
+                .arg(name, QString::number(LpoptionsFile::longestLine)),
+            {}};
+    });
 }
 
 SettingsFailure PresetStore::remove(const QString &name)
 {
-    return writeWithout(name);
+    return changeFile([&](LpoptionsFile &file, const Presets &presets) -> SettingsFailure {
+        if (auto failure = mayChange(presets, name))
+            return failure;
+        file.remove(queue_, find(presets, name)->instance);
+        return std::nullopt;
+    });
 }
 
 const Preset *PresetStore::find(const Presets &presets, const QString &name)
@@ -100,7 +230,7 @@ QString PresetStore::destination(const QString &typed)
     const QString preset = typed.section(u'/', 1);
     if (preset.isEmpty())
         return typed;
-    const auto presets = QueuePresets(queue).presets();
+    const auto presets = PresetStore(queue).presets();
     const Preset *found = presets ? findInstance(*presets, preset) : nullptr;
     return found ? queue + u'/' + found->instance : typed;
 }

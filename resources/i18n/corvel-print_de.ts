@@ -1282,13 +1282,6 @@ Beispiele:
     </message>
 </context>
 <context>
-    <name>printdialog::BuiltInPresets</name>
-    <message>
-        <source>The file %1 has no presets that this version understands. Move it away.</source>
-        <translation>Die Datei %1 enthält keine Voreinstellungen, die diese Version versteht. Verschieben Sie sie.</translation>
-    </message>
-</context>
-<context>
     <name>printdialog::ChoiceCallout</name>
     <message>
         <source>Dismiss (Esc)</source>
@@ -1762,6 +1755,14 @@ Beispiele:
 <context>
     <name>printdialog::PresetStore</name>
     <message>
+        <source>The preset &quot;%1&quot; is not saved: with %2 options it is longer than the %3 bytes that CUPS reads. Save the settings instead.</source>
+        <translation>Die Voreinstellung „%1“ wird nicht gesichert: Mit %2 Optionen ist sie länger als die %3 Bytes, die CUPS liest. Speichern Sie stattdessen die Einstellungen.</translation>
+    </message>
+    <message>
+        <source>The preset &quot;%1&quot; keeps its name: with the new one it is longer than the %2 bytes that CUPS reads. Choose a shorter one.</source>
+        <translation>Die Voreinstellung „%1“ behält ihren Namen: Mit dem neuen ist sie länger als die %2 Bytes, die CUPS liest. Wählen Sie einen kürzeren.</translation>
+    </message>
+    <message>
         <source>The printer &quot;%1&quot; has no preset &quot;%2&quot;, nor any other. Choose the printer without a preset.</source>
         <translation>Der Drucker „%1“ hat keine Voreinstellung „%2“ und auch keine andere. Wählen Sie den Drucker ohne Voreinstellung.</translation>
     </message>
@@ -1986,17 +1987,6 @@ Beispiele:
     <message>
         <source>The print server is being asked for this printer.</source>
         <translation>Der Druckserver wird nach diesem Drucker gefragt.</translation>
-    </message>
-</context>
-<context>
-    <name>printdialog::QueuePresets</name>
-    <message>
-        <source>The preset &quot;%1&quot; is not saved: with %2 options it is longer than the %3 bytes that CUPS reads. Save the settings instead.</source>
-        <translation>Die Voreinstellung „%1“ wird nicht gesichert: Mit %2 Optionen ist sie länger als die %3 Bytes, die CUPS liest. Speichern Sie stattdessen die Einstellungen.</translation>
-    </message>
-    <message>
-        <source>The preset &quot;%1&quot; keeps its name: with the new one it is longer than the %2 bytes that CUPS reads. Choose a shorter one.</source>
-        <translation>Die Voreinstellung „%1“ behält ihren Namen: Mit dem neuen ist sie länger als die %2 Bytes, die CUPS liest. Wählen Sie einen kürzeren.</translation>
     </message>
 </context>
 <context>

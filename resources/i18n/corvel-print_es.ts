@@ -1281,13 +1281,6 @@ Ejemplos:
     </message>
 </context>
 <context>
-    <name>printdialog::BuiltInPresets</name>
-    <message>
-        <source>The file %1 has no presets that this version understands. Move it away.</source>
-        <translation>El archivo %1 no contiene preajustes que esta versión entienda. Muévalo a otro lugar.</translation>
-    </message>
-</context>
-<context>
     <name>printdialog::ChoiceCallout</name>
     <message>
         <source>Dismiss (Esc)</source>
@@ -1761,6 +1754,14 @@ Ejemplos:
 <context>
     <name>printdialog::PresetStore</name>
     <message>
+        <source>The preset &quot;%1&quot; is not saved: with %2 options it is longer than the %3 bytes that CUPS reads. Save the settings instead.</source>
+        <translation>El preajuste «%1» no se guarda: con %2 opciones supera los %3 bytes que CUPS lee. Guarde los ajustes en su lugar.</translation>
+    </message>
+    <message>
+        <source>The preset &quot;%1&quot; keeps its name: with the new one it is longer than the %2 bytes that CUPS reads. Choose a shorter one.</source>
+        <translation>El preajuste «%1» conserva su nombre: con el nuevo supera los %2 bytes que CUPS lee. Elija uno más corto.</translation>
+    </message>
+    <message>
         <source>The printer &quot;%1&quot; has no preset &quot;%2&quot;, nor any other. Choose the printer without a preset.</source>
         <translation>La impresora «%1» no tiene ningún preajuste «%2», ni ningún otro. Elija la impresora sin preajuste.</translation>
     </message>
@@ -1985,17 +1986,6 @@ Ejemplos:
     <message>
         <source>The print server is being asked for this printer.</source>
         <translation>Se está preguntando al servidor de impresión por esta impresora.</translation>
-    </message>
-</context>
-<context>
-    <name>printdialog::QueuePresets</name>
-    <message>
-        <source>The preset &quot;%1&quot; is not saved: with %2 options it is longer than the %3 bytes that CUPS reads. Save the settings instead.</source>
-        <translation>El preajuste «%1» no se guarda: con %2 opciones supera los %3 bytes que CUPS lee. Guarde los ajustes en su lugar.</translation>
-    </message>
-    <message>
-        <source>The preset &quot;%1&quot; keeps its name: with the new one it is longer than the %2 bytes that CUPS reads. Choose a shorter one.</source>
-        <translation>El preajuste «%1» conserva su nombre: con el nuevo supera los %2 bytes que CUPS lee. Elija uno más corto.</translation>
     </message>
 </context>
 <context>

@@ -1282,13 +1282,6 @@ Exemples&#x202f;:
     </message>
 </context>
 <context>
-    <name>printdialog::BuiltInPresets</name>
-    <message>
-        <source>The file %1 has no presets that this version understands. Move it away.</source>
-        <translation>Le fichier %1 ne contient pas de préréglages que cette version comprend. Déplacez-le.</translation>
-    </message>
-</context>
-<context>
     <name>printdialog::ChoiceCallout</name>
     <message>
         <source>Dismiss (Esc)</source>
@@ -1762,6 +1755,14 @@ Exemples&#x202f;:
 <context>
     <name>printdialog::PresetStore</name>
     <message>
+        <source>The preset &quot;%1&quot; is not saved: with %2 options it is longer than the %3 bytes that CUPS reads. Save the settings instead.</source>
+        <translation>Le préréglage «&#x202f;%1&#x202f;» n’est pas enregistré&#x202f;: avec %2 options, il dépasse les %3 octets que CUPS lit. Enregistrez plutôt les réglages.</translation>
+    </message>
+    <message>
+        <source>The preset &quot;%1&quot; keeps its name: with the new one it is longer than the %2 bytes that CUPS reads. Choose a shorter one.</source>
+        <translation>Le préréglage «&#x202f;%1&#x202f;» garde son nom&#x202f;: avec le nouveau, il dépasse les %2 octets que CUPS lit. Choisissez-en un plus court.</translation>
+    </message>
+    <message>
         <source>The printer &quot;%1&quot; has no preset &quot;%2&quot;, nor any other. Choose the printer without a preset.</source>
         <translation>L’imprimante «&#x202f;%1&#x202f;» n’a pas de préréglage «&#x202f;%2&#x202f;», ni aucun autre. Choisissez l’imprimante sans préréglage.</translation>
     </message>
@@ -1986,17 +1987,6 @@ Exemples&#x202f;:
     <message>
         <source>The print server is being asked for this printer.</source>
         <translation>Le serveur d’impression est interrogé sur cette imprimante.</translation>
-    </message>
-</context>
-<context>
-    <name>printdialog::QueuePresets</name>
-    <message>
-        <source>The preset &quot;%1&quot; is not saved: with %2 options it is longer than the %3 bytes that CUPS reads. Save the settings instead.</source>
-        <translation>Le préréglage «&#x202f;%1&#x202f;» n’est pas enregistré&#x202f;: avec %2 options, il dépasse les %3 octets que CUPS lit. Enregistrez plutôt les réglages.</translation>
-    </message>
-    <message>
-        <source>The preset &quot;%1&quot; keeps its name: with the new one it is longer than the %2 bytes that CUPS reads. Choose a shorter one.</source>
-        <translation>Le préréglage «&#x202f;%1&#x202f;» garde son nom&#x202f;: avec le nouveau, il dépasse les %2 octets que CUPS lit. Choisissez-en un plus court.</translation>
     </message>
 </context>
 <context>

@@ -1280,13 +1280,6 @@ Examples:
     </message>
 </context>
 <context>
-    <name>printdialog::BuiltInPresets</name>
-    <message>
-        <source>The file %1 has no presets that this version understands. Move it away.</source>
-        <translation>ファイル %1 のプリセットはこのバージョンでは読み取れません。別の場所に移動してください。</translation>
-    </message>
-</context>
-<context>
     <name>printdialog::ChoiceCallout</name>
     <message>
         <source>Dismiss (Esc)</source>
@@ -1758,6 +1751,14 @@ Examples:
 <context>
     <name>printdialog::PresetStore</name>
     <message>
+        <source>The preset &quot;%1&quot; is not saved: with %2 options it is longer than the %3 bytes that CUPS reads. Save the settings instead.</source>
+        <translation>プリセット「%1」は保存されません。オプションが %2 個あり、CUPS が読み取れる %3 バイトを超えています。代わりに設定を保存してください。</translation>
+    </message>
+    <message>
+        <source>The preset &quot;%1&quot; keeps its name: with the new one it is longer than the %2 bytes that CUPS reads. Choose a shorter one.</source>
+        <translation>プリセット「%1」の名前は変わりません。新しい名前では CUPS が読み取れる %2 バイトを超えます。もっと短い名前にしてください。</translation>
+    </message>
+    <message>
         <source>The printer &quot;%1&quot; has no preset &quot;%2&quot;, nor any other. Choose the printer without a preset.</source>
         <translation>プリンター「%1」にプリセット「%2」はなく、ほかのプリセットもありません。プリセットなしでプリンターを選んでください。</translation>
     </message>
@@ -1982,17 +1983,6 @@ Examples:
     <message>
         <source>The print server is being asked for this printer.</source>
         <translation>このプリンターをプリントサーバーに問い合わせています。</translation>
-    </message>
-</context>
-<context>
-    <name>printdialog::QueuePresets</name>
-    <message>
-        <source>The preset &quot;%1&quot; is not saved: with %2 options it is longer than the %3 bytes that CUPS reads. Save the settings instead.</source>
-        <translation>プリセット「%1」は保存されません。オプションが %2 個あり、CUPS が読み取れる %3 バイトを超えています。代わりに設定を保存してください。</translation>
-    </message>
-    <message>
-        <source>The preset &quot;%1&quot; keeps its name: with the new one it is longer than the %2 bytes that CUPS reads. Choose a shorter one.</source>
-        <translation>プリセット「%1」の名前は変わりません。新しい名前では CUPS が読み取れる %2 バイトを超えます。もっと短い名前にしてください。</translation>
     </message>
 </context>
 <context>

@@ -113,10 +113,10 @@ void DefaultPrinterTest::builtInPrinterOfAMachineWithoutServer()
 
 void DefaultPrinterTest::builtInPrinterWithAPreset()
 {
-    const QString folder = u".config/corvel-print/presets"_s;
+    const QString folder = u".config/corvel-print"_s;
     QVERIFY(QDir(home_->path()).mkpath(folder));
-    QVERIFY(store(home_->filePath(folder + u"/built-in.json"_s),
-                  R"({"version": 1, "presets": {"10 / 15": {"Red": "7", "copies": "3"}}})"));
+    const QString presets = home_->filePath(folder + u"/lpoptions"_s);
+    QVERIFY(store(presets, "Dest built-in/10%20%2F%2015 Red=7 copies=3\n"));
     const QString name = u"built-in/10 / 15"_s;
     for (const bool isDefault : {false, true}) {
         const ProgramRun run =
@@ -126,8 +126,7 @@ void DefaultPrinterTest::builtInPrinterWithAPreset()
         QVERIFY2(run.out.contains("\nRed: 7\n") && run.out.contains("\nCopies: 3\n"), run.err.constData());
     }
     // Whatever there is to leave out of it is one line.
-    QVERIFY(store(home_->filePath(folder + u"/built-in.json"_s),
-                  R"({"version": 1, "presets": {"odd": {"Red": "99", "copies": "none", "Gone": "1"}}})"));
+    QVERIFY(store(presets, "Dest built-in/odd Red=99 copies=none Gone=1\n"));
     const ProgramRun odd =
         runProgram({u"--summary"_s, u"--printer"_s, u"built-in/odd"_s}, {{u"XDG_CONFIG_HOME"_s, {}}});
     const QByteArray wrong = wrongInRefusal({1, {}, odd.err}, 1, {u"\"none\""_s, u"Red"_s, u"Gone"_s});

@@ -1,10 +1,9 @@
 // SPDX-FileCopyrightText: Corvel print dialog authors
 // SPDX-License-Identifier: Apache-2.0
 
-#include "BuiltInPresets.h"
+#include "PresetStore.h"
 #include "LpoptionsFile.h"
 #include "PresetName.h"
-#include "QueuePresets.h"
 #include "QueueSettings.h"
 
 #include <QtCore/QDir>
@@ -132,19 +131,19 @@ void PresetStoreTest::othersStayByteForByte()
     const QByteArray others = "# mine\nDest office sides=two-sided-long-edge  media=A4\n\n"
                               "Dest photo Stray=1 # why\nDefault office/draft  x='a b'\n"
                               "Dest photo2/warm Red=1\ndest photo/Keep   odd=\"a \\\" b\"\nnonsense line\n";
-    write(QueuePresets::userFile(), others);
-    QueuePresets store(u"photo"_s);
+    write(PresetStore::userFile(), others);
+    PresetStore store(u"photo"_s);
     QCOMPARE(namesOf(store), QStringList{u"Keep"_s});
     QVERIFY(!store.add(u"warm"_s, {{u"Red"_s, u"5"_s}}));
-    QCOMPARE(content(QueuePresets::userFile()), others + "Dest photo/warm Red=5\n");
+    QCOMPARE(content(PresetStore::userFile()), others + "Dest photo/warm Red=5\n");
     QVERIFY(!store.update(u"WARM"_s, {{u"Red"_s, u"6"_s}}));
-    QCOMPARE(content(QueuePresets::userFile()), others + "Dest photo/warm Red=6\n");
+    QCOMPARE(content(PresetStore::userFile()), others + "Dest photo/warm Red=6\n");
     QVERIFY(!store.rename(u"warm"_s, u"hot"_s));
-    QCOMPARE(content(QueuePresets::userFile()), others + "Dest photo/hot Red=6\n");
+    QCOMPARE(content(PresetStore::userFile()), others + "Dest photo/hot Red=6\n");
     QVERIFY(!store.rename(u"Keep"_s, u"kept"_s));
-    QVERIFY(content(QueuePresets::userFile()).contains("dest photo/kept odd=\"a \\\" b\"\n"));
+    QVERIFY(content(PresetStore::userFile()).contains("dest photo/kept odd=\"a \\\" b\"\n"));
     QVERIFY(!store.rename(u"kept"_s, u"Keep"_s) && !store.remove(u"hot"_s));
-    QCOMPARE(content(QueuePresets::userFile()), QByteArray(others).replace("Keep   odd", "Keep odd"));
+    QCOMPARE(content(PresetStore::userFile()), QByteArray(others).replace("Keep   odd", "Keep odd"));
     const auto presets = store.presets();
     QCOMPARE(presets->constFirst().options, (Options{{u"odd"_s, u"a \" b"_s}}));
     QCOMPARE(presets->constFirst().inherited, (Options{{u"Stray"_s, u"1"_s}}));
@@ -163,17 +162,17 @@ void PresetStoreTest::valuesComeBackAsCupsReadsThem()
                              {u"G"_s, u"Glänzend 光沢"_s},
                              {u"PageSize"_s, u"4x6.Fullbleed"_s},
                              {u"H"_s, u"\\#"_s}};
-    QueuePresets store(u"photo"_s);
+    PresetStore store(u"photo"_s);
     QVERIFY(!store.add(u"光沢"_s, options));
-    QCOMPARE(readByCups(QueuePresets::userFile(), u"photo/光沢"_s.toUtf8()), options);
+    QCOMPARE(readByCups(PresetStore::userFile(), u"photo/光沢"_s.toUtf8()), options);
     QCOMPARE(store.presets()->constFirst().options, options);
 }
 
 void PresetStoreTest::aTakenOrLostNameIsRefused()
 {
-    QueuePresets queue(u"photo"_s);
-    BuiltInPresets builtIn;
-    for (PresetStore *store : {static_cast<PresetStore *>(&queue), static_cast<PresetStore *>(&builtIn)}) {
+    PresetStore queue(u"photo"_s);
+    PresetStore builtIn = PresetStore::builtIn();
+    for (PresetStore *store : {&queue, &builtIn}) {
         QVERIFY(!store->add(u"warm"_s, {{u"Red"_s, u"5"_s}}) && !store->add(u"cold"_s, {}));
         QCOMPARE(store->add(u"Warm"_s, {})->reason, SettingsFault::NameTaken);
         QCOMPARE(store->rename(u"cold"_s, u"WARM"_s)->reason, SettingsFault::NameTaken);
@@ -212,25 +211,25 @@ void PresetStoreTest::namesAreMapped()
     QFETCH(QString, name);
     QFETCH(QString, instance);
     const Options red{{u"Red"_s, u"5"_s}};
-    QueuePresets store(u"photo"_s);
+    PresetStore store(u"photo"_s);
     QCOMPARE(PresetName::cleaned(name), name);
     QVERIFY(!store.add(u"first"_s, red) && !store.rename(u"first"_s, name));
-    QCOMPARE(readByCups(QueuePresets::userFile(), u"photo/%1"_s.arg(instance).toUtf8()), red);
+    QCOMPARE(readByCups(PresetStore::userFile(), u"photo/%1"_s.arg(instance).toUtf8()), red);
     QCOMPARE(namesOf(store), QStringList{name});
     for (const QString &typed : {name, instance})
         QCOMPARE(PresetStore::destination(u"photo/"_s + typed), u"photo/"_s + instance);
     QVERIFY(!store.update(name, {}) && !store.remove(name));
-    QCOMPARE(content(QueuePresets::userFile()), QByteArray());
+    QCOMPARE(content(PresetStore::userFile()), QByteArray());
     QVERIFY(!store.add(name, red));
-    QCOMPARE(content(QueuePresets::userFile()), u"Dest photo/%1 Red=5\n"_s.arg(instance).toUtf8());
-    BuiltInPresets builtIn;
+    QCOMPARE(content(PresetStore::userFile()), u"Dest photo/%1 Red=5\n"_s.arg(instance).toUtf8());
+    PresetStore builtIn = PresetStore::builtIn();
     QVERIFY(!builtIn.add(name, red));
     QCOMPARE(namesOf(builtIn), QStringList{name});
 }
 
 void PresetStoreTest::mappedNamesDoNotCollide()
 {
-    QueuePresets store(u"photo"_s);
+    PresetStore store(u"photo"_s);
     const QStringList names = {u"a b"_s, u"a%20b"_s, u"a%2520b"_s, u"a+b"_s, u"a-b"_s, u"a_b"_s, u"ab"_s};
     for (const QString &name : names)
         QVERIFY2(!store.add(name, {{u"Red"_s, QString::number(names.indexOf(name))}}), qPrintable(name));
@@ -244,15 +243,15 @@ void PresetStoreTest::mappedNamesDoNotCollide()
 
 void PresetStoreTest::lpoptionsKeepsItsNames()
 {
-    write(QueuePresets::userFile(), "Dest photo/it's Red=1\nDest photo/IT%27S Red=2\nDest photo/50%25 Red=3\n"
-                                    "Dest photo/a%2fb Red=4\n");
-    QueuePresets store(u"photo"_s);
+    write(PresetStore::userFile(), "Dest photo/it's Red=1\nDest photo/IT%27S Red=2\nDest photo/50%25 Red=3\n"
+                                   "Dest photo/a%2fb Red=4\n");
+    PresetStore store(u"photo"_s);
     QCOMPARE(namesOf(store), (QStringList{u"50%25"_s, u"a/b"_s, u"IT%27S"_s, u"it's"_s}));
     QCOMPARE(store.add(u"It's"_s, {})->reason, SettingsFault::NameTaken);
     QCOMPARE(store.add(u"A/B"_s, {})->reason, SettingsFault::NameTaken);
     QVERIFY(!store.update(u"it's"_s, {{u"Red"_s, u"5"_s}}) && !store.remove(u"it%27s"_s));
     QVERIFY(!store.remove(u"a/b"_s));
-    QCOMPARE(content(QueuePresets::userFile()), "Dest photo/it's Red=5\nDest photo/50%25 Red=3\n");
+    QCOMPARE(content(PresetStore::userFile()), "Dest photo/it's Red=5\nDest photo/50%25 Red=3\n");
 }
 
 void PresetStoreTest::noPresetHasSuchAName_data()
@@ -272,24 +271,24 @@ void PresetStoreTest::noPresetHasSuchAName()
     QFETCH(QString, typed);
     QFETCH(QString, reason);
     const QString name = PresetName::cleaned(typed);
-    const auto failure = QueuePresets(u"photo"_s).add(name, {});
+    const auto failure = PresetStore(u"photo"_s).add(name, {});
     QVERIFY2(failure && failure->reason == SettingsFault::BadName && failure->text.contains(reason),
              failure ? qPrintable(failure->text) : "taken");
-    QCOMPARE(BuiltInPresets().add(name, {})->text, failure->text);
+    QCOMPARE(PresetStore::builtIn().add(name, {})->text, failure->text);
     if (reason.endsWith("bytes"_L1)) // 126 are not too many
-        QVERIFY(!QueuePresets(u"photo"_s).add(name.first(42), {}));
+        QVERIFY(!PresetStore(u"photo"_s).add(name.first(42), {}));
 }
 
 void PresetStoreTest::systemPresetsAreReadOnly()
 {
-    write(QueuePresets::systemFile(), "Dest photo Blue=2\nDest photo/house Red=1\n");
-    QueuePresets store(u"photo"_s);
+    write(home_->filePath(u"system/lpoptions"_s), "Dest photo Blue=2\nDest photo/house Red=1\n");
+    PresetStore store(u"photo"_s);
     QCOMPARE(namesOf(store), QStringList{u"house"_s});
     QCOMPARE(store.presets()->constFirst().inherited, (Options{{u"Blue"_s, u"2"_s}}));
     QCOMPARE(store.update(u"house"_s, {})->reason, SettingsFault::ReadOnly);
     QCOMPARE(store.remove(u"house"_s)->reason, SettingsFault::ReadOnly);
     QCOMPARE(store.add(u"house"_s, {})->reason, SettingsFault::NameTaken);
-    QVERIFY(!QFile::exists(QueuePresets::userFile()));
+    QVERIFY(!QFile::exists(PresetStore::userFile()));
 }
 
 void PresetStoreTest::tooLongForCups()
@@ -297,14 +296,14 @@ void PresetStoreTest::tooLongForCups()
     Options options;
     for (int i = 0; i < 500; ++i)
         options.insert(u"Option%1"_s.arg(i), QString(20, u'x'));
-    QueuePresets store(u"photo"_s);
+    PresetStore store(u"photo"_s);
     QCOMPARE(store.add(u"long"_s, options)->reason, SettingsFault::TooLong);
-    QCOMPARE(content(QueuePresets::userFile()), QByteArray());
+    QCOMPARE(content(PresetStore::userFile()), QByteArray());
     // A name that is longer once mapped makes the line too long, too.
     const QByteArray full = "Dest photo/x Red=" + QByteArray(LpoptionsFile::longestLine - 20, 'x') + '\n';
-    write(QueuePresets::userFile(), full);
+    write(PresetStore::userFile(), full);
     QCOMPARE(store.rename(u"x"_s, u"/////"_s)->reason, SettingsFault::TooLong);
-    QCOMPARE(content(QueuePresets::userFile()), full);
+    QCOMPARE(content(PresetStore::userFile()), full);
     QVERIFY(!store.rename(u"x"_s, u"/"_s));
 }
 
@@ -312,11 +311,10 @@ void PresetStoreTest::twoDialogsLoseNothing()
 {
     constexpr int each = 15;
     const auto work = [](const QString &prefix) {
-        QueuePresets store(u"photo"_s);
-        BuiltInPresets builtIn;
+        PresetStore store(u"photo"_s);
+        PresetStore builtIn = PresetStore::builtIn();
         for (int i = 0; i < each; ++i) {
-            for (PresetStore *presets :
-                 {static_cast<PresetStore *>(&store), static_cast<PresetStore *>(&builtIn)}) {
+            for (PresetStore *presets : {&store, &builtIn}) {
                 SettingsFailure failure = presets->add(prefix + QString::number(i), {{u"Red"_s, u"1"_s}});
                 while (failure && failure->reason == SettingsFault::Busy)
                     failure = presets->add(prefix + QString::number(i), {{u"Red"_s, u"1"_s}});
@@ -327,17 +325,17 @@ void PresetStoreTest::twoDialogsLoseNothing()
     std::thread two(work, u"two"_s);
     one.join();
     two.join();
-    QCOMPARE(namesOf(QueuePresets(u"photo"_s)).size(), 2 * each);
-    QCOMPARE(namesOf(BuiltInPresets()).size(), 2 * each);
-    QCOMPARE(QDir(QFileInfo(QueuePresets::userFile()).path()).entryList(QDir::Files | QDir::Hidden),
+    QCOMPARE(namesOf(PresetStore(u"photo"_s)).size(), 2 * each);
+    QCOMPARE(namesOf(PresetStore::builtIn()).size(), 2 * each);
+    QCOMPARE(QDir(QFileInfo(PresetStore::userFile()).path()).entryList(QDir::Files | QDir::Hidden),
              QStringList{u"lpoptions"_s});
 }
 
 // As on a disk that is full: the write stops in the middle.
 void PresetStoreTest::failedWriteLeavesTheOldFile()
 {
-    QueuePresets queue(u"photo"_s);
-    BuiltInPresets builtIn;
+    PresetStore queue(u"photo"_s);
+    PresetStore builtIn = PresetStore::of(u"photo"_s, true);
     const Options old{{u"Red"_s, QString(100, u'x')}};
     const Options large{{u"Red"_s, QString(3000, u'y')}};
     QVERIFY(!queue.add(u"first"_s, old) && !builtIn.add(u"first"_s, old) &&
@@ -362,23 +360,17 @@ void PresetStoreTest::failedWriteLeavesTheOldFile()
         QCOMPARE(content(path), before);
         QCOMPARE(folder.entryList(QDir::Files | QDir::Hidden), QStringList{QFileInfo(path).fileName()});
     };
-    leaves(QueuePresets::userFile(), [&] { return queue.add(u"second"_s, large); });
-    leaves(BuiltInPresets::file(), [&] { return builtIn.add(u"second"_s, large); });
+    leaves(PresetStore::userFile(), [&] { return queue.add(u"second"_s, large); });
+    leaves(builtIn.file(), [&] { return builtIn.add(u"second"_s, large); });
     leaves(QueueSettings::fileFor(u"photo"_s), [&] { return QueueSettings::save(u"photo"_s, large); });
 }
 
 void PresetStoreTest::unreadableFileIsNotWrittenOver()
 {
-    QVERIFY(QDir().mkpath(QueuePresets::userFile())); // a folder in the file's place
-    QueuePresets queue(u"photo"_s);
+    QVERIFY(QDir().mkpath(PresetStore::userFile())); // a folder in the file's place
+    PresetStore queue(u"photo"_s);
     QCOMPARE(queue.presets().failure().reason, SettingsFault::NotReadable);
     QCOMPARE(queue.add(u"warm"_s, {})->reason, SettingsFault::NotReadable);
-    BuiltInPresets builtIn;
-    for (const QByteArray other : {"{\"version\": 2, \"presets\": {}}", "not JSON"}) {
-        write(BuiltInPresets::file(), other);
-        QCOMPARE(builtIn.add(u"warm"_s, {})->reason, SettingsFault::NotReadable);
-        QCOMPARE(content(BuiltInPresets::file()), other);
-    }
     write(home_->filePath(u"blocked"_s), {});
     qputenv("XDG_CONFIG_HOME", QFile::encodeName(home_->filePath(u"blocked"_s)));
     QCOMPARE(QueueSettings::save(u"photo"_s, {})->reason, SettingsFault::NotWritable);
@@ -386,9 +378,9 @@ void PresetStoreTest::unreadableFileIsNotWrittenOver()
 
 void PresetStoreTest::waitsNoLongerThanASecond()
 {
-    QueuePresets store(u"photo"_s);
+    PresetStore store(u"photo"_s);
     QVERIFY(!store.add(u"warm"_s, {}));
-    QLockFile other(QueuePresets::userFile() + u".lock"_s);
+    QLockFile other(PresetStore::userFile() + u".lock"_s);
     QVERIFY(other.tryLock());
     QElapsedTimer timer;
     timer.start();
@@ -408,11 +400,11 @@ void PresetStoreTest::linkStaysOne()
 {
     const QString kept = home_->filePath(u"kept/options"_s);
     write(kept, "Dest photo Red=1\n");
-    QVERIFY(QDir(home_->path()).mkpath(QFileInfo(QueuePresets::userFile()).path()));
-    QVERIFY(QFile::link(u"../kept/options"_s, QueuePresets::userFile()));
+    QVERIFY(QDir(home_->path()).mkpath(QFileInfo(PresetStore::userFile()).path()));
+    QVERIFY(QFile::link(u"../kept/options"_s, PresetStore::userFile()));
     for (const QString &name : {u"warm"_s, u"cold"_s}) {
-        QVERIFY(!QueuePresets(u"photo"_s).add(name, {}));
-        QVERIFY(QFileInfo(QueuePresets::userFile()).isSymLink());
+        QVERIFY(!PresetStore(u"photo"_s).add(name, {}));
+        QVERIFY(QFileInfo(PresetStore::userFile()).isSymLink());
         QVERIFY(content(kept).contains(name.toUtf8()));
         QVERIFY(name != "warm"_L1 || QFile::remove(kept)); // then the link leads nowhere
     }
@@ -420,19 +412,19 @@ void PresetStoreTest::linkStaysOne()
 
 void PresetStoreTest::filesAreTheOwners()
 {
-    QVERIFY(!QueuePresets(u"photo"_s).add(u"warm"_s, {}));
-    QVERIFY(!BuiltInPresets().add(u"warm"_s, {}));
+    QVERIFY(!PresetStore(u"photo"_s).add(u"warm"_s, {}));
+    QVERIFY(!PresetStore::builtIn().add(u"warm"_s, {}));
     QVERIFY(!QueueSettings::save(u"photo"_s, {{u"Red"_s, u"1"_s}}));
     QCOMPARE(QueueSettings::load(u"photo"_s), (Options{{u"Red"_s, u"1"_s}}));
     QCOMPARE(QueueSettings::load(u"other"_s), Options());
     for (const QString &path :
-         {QueuePresets::userFile(), BuiltInPresets::file(), QueueSettings::fileFor(u"photo"_s)}) {
+         {PresetStore::userFile(), PresetStore::builtIn().file(), QueueSettings::fileFor(u"photo"_s)}) {
         const auto others = QFile::ReadGroup | QFile::WriteGroup | QFile::ReadOther | QFile::WriteOther;
         QVERIFY2(!(QFileInfo(path).permissions() & others), qPrintable(path));
     }
-    const QString shared = QueuePresets::userFile();
+    const QString shared = PresetStore::userFile();
     QVERIFY(QFile::setPermissions(shared, QFileInfo(shared).permissions() | QFile::ReadOther));
-    QVERIFY(!QueuePresets(u"photo"_s).add(u"cold"_s, {}));
+    QVERIFY(!PresetStore(u"photo"_s).add(u"cold"_s, {}));
     QVERIFY(QFileInfo(shared).permissions() & QFile::ReadOther);
 }
 

@@ -4,7 +4,7 @@
 #include "OpenedDialog.h"
 #include "PresetBar.h"
 #include "PrivateCupsd.h"
-#include "QueuePresets.h"
+#include "PresetStore.h"
 #include "SystemLog.h"
 
 #include <QtCore/QDir>
@@ -126,7 +126,7 @@ void PresetTest::init()
     pdekit::Feedback::install(std::make_shared<RecordingFeedback>());
     config_ = std::make_unique<QTemporaryDir>();
     qputenv("XDG_CONFIG_HOME", QFile::encodeName(config_->path()));
-    QFile::remove(QueuePresets::userFile());
+    QFile::remove(PresetStore::userFile());
 }
 
 std::unique_ptr<OpenedDialog> PresetTest::openQueue(PanelMode mode, const QString &printer) const
@@ -165,7 +165,7 @@ int PresetTest::print(const OpenedDialog &opened) const
 
 QByteArray PresetTest::lpoptions() const
 {
-    QFile file(QueuePresets::userFile());
+    QFile file(PresetStore::userFile());
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
@@ -346,7 +346,7 @@ void PresetTest::builtInPrinterHasPresets()
     QCOMPARE(opened.fieldText(81), u"0"_s);
     use(opened, u"mine"_s);
     QCOMPARE(opened.fieldText(81), u"6"_s);
-    QVERIFY(!QFile::exists(QueuePresets::userFile()));
+    QVERIFY(!QFile::exists(PresetStore::userFile()));
 }
 
 QTEST_MAIN(PresetTest)

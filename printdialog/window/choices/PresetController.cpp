@@ -52,7 +52,7 @@ void PresetController::setSession(DialogSession *session, const QString &builtIn
     if (!session)
         return;
     const QString queue = queueOf(session->printer());
-    store_ = PresetStore::open(queue, session->printer().isBuiltIn);
+    store_ = std::make_unique<PresetStore>(PresetStore::of(queue, session->printer().isBuiltIn));
     load();
     if (openWith(session->printer().isBuiltIn ? builtInPreset : session->printer().name.section(u'/', 1)))
         return;

@@ -159,7 +159,7 @@ QString PrinterChooser::missing(const QString &id) const
     const QString queue = id.section(u'/', 0, 0);
     const QString preset = id.section(u'/', 1);
     if (!preset.isEmpty() && indexOf(queue) >= 0) {
-        const auto presets = PresetStore::open(queue, false)->presets();
+        const auto presets = PresetStore(queue).presets();
         return presets ? PresetStore::missing(queue, preset, *presets) : presets.failure().text;
     }
     return tr("There is no printer \"%1\". Choose another one.").arg(id);
