@@ -148,7 +148,8 @@ public:
     bool restoreValuesAndReturnError(QString *error) override;
     Q_INVOKABLE QStringList supportedPPDOptionKeys() override;
     void PPDOptionKeyValueDidChangePpdChoice(const Text &key, const Text &choice) override;
-    Q_INVOKABLE Text nibName() override;
+    /// The name of the form in the plug-in's bundle.
+    Q_INVOKABLE virtual Text nibName();
     Q_INVOKABLE QWidget *panelView() override;
     Q_INVOKABLE Text panelName() override;
     Q_INVOKABLE Text panelKind() const override;

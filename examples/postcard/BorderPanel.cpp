@@ -60,16 +60,11 @@ BorderPanel::Text BorderPanel::panelKind() const
     return bundle_.identifier() + QLatin1String(".border");
 }
 
-BorderPanel::Text BorderPanel::nibName()
-{
-    return QStringLiteral("border");
-}
-
 QWidget *BorderPanel::panelView()
 {
     if (view_)
         return view_;
-    view_ = pdekit::loadForm(bundle_, *nibName(), this).release();
+    view_ = pdekit::loadForm(bundle_, QStringLiteral("border"), this).release();
     auto *popUp = qobject_cast<QComboBox *>(pdekit::viewWithTag(view_, borderTag));
     const ppd_option_t *option = ppdFindOption(ppd(), "Border");
     for (int i = 0; popUp && option && i < option->num_choices; ++i)

@@ -34,7 +34,6 @@ public:
 
     Text panelName() override;
     Text panelKind() const override;
-    Text nibName() override;
     QWidget *panelView() override;
     bool restoreValuesAndReturnError(QString *error) override;
     bool saveValuesAndReturnError(QString *error) override;

@@ -28,8 +28,6 @@ public:
     virtual std::optional<QString> panelName() = 0;
     /// A reverse-DNS name that tells this panel from every other.
     virtual std::optional<QString> panelKind() const = 0;
-    /// The name of the form in the plug-in's bundle.
-    virtual std::optional<QString> nibName() = 0;
     /// The panel's view, made on the first call; null when it has none or it cannot be loaded. It goes with
     /// the panel, or with the widget that the dialog makes its parent, whichever goes first.
     virtual QWidget *panelView() = 0;
@@ -57,4 +55,4 @@ public:
 
 } // namespace pdekit
 
-Q_DECLARE_INTERFACE(pdekit::PrintDialogPanel, "org.corvel.pdekit.PrintDialogPanel/1")
+Q_DECLARE_INTERFACE(pdekit::PrintDialogPanel, "org.corvel.pdekit.PrintDialogPanel/2")

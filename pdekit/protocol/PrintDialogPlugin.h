@@ -41,5 +41,5 @@ public:
 
 } // namespace pdekit
 
-#define PrintDialogPlugin_iid "org.corvel.pdekit.PrintDialogPlugin/1"
+#define PrintDialogPlugin_iid "org.corvel.pdekit.PrintDialogPlugin/2"
 Q_DECLARE_INTERFACE(pdekit::PrintDialogPlugin, PrintDialogPlugin_iid)
