@@ -65,6 +65,10 @@ class InstallTest(CommandTest):  # in the order of the names
                      "man/man1/corvel-print.1.gz", "bash-completion/completions/corvel-print",
                      "ppd/corvel-print/Corvel9045.ppd"):
             self.assertTrue((PREFIX / DATADIR / file).exists(), file)
+        # Authors of plug-ins get what they need, and nothing that they would hold this program to.
+        headers = {path.name for path in PREFIX.rglob("pdekit/*.h")}
+        self.assertIn("FormLoader.h", headers)
+        self.assertFalse(headers & {"ChildProcess.h", "FileDescriptor.h", "InputStream.h", "SignalLog.h", "StringsTable.h"})
 
     def test_3_works_wherever_it_is_moved_to(self):
         moved = PREFIX.rename(FOLDER / "moved")
