@@ -117,12 +117,14 @@ Failure<UsageFault> fault(UsageFault reason, const QString &text)
 }
 
 /// A value may be anything but nothing at all.
-Fault readValue(const QCommandLineParser &parser, const char *name, std::optional<QString> &value)
+template <class Value>
+Fault readValue(const QCommandLineParser &parser, const char *name, std::optional<Value> &value)
 {
     if (!parser.isSet(latin1(name)))
         return std::nullopt;
-    value = parser.value(latin1(name));
-    if (value->isEmpty())
+    const QString text = parser.value(latin1(name));
+    value = text;
+    if (text.isEmpty())
         return fault(UsageFault::Syntax, Text::tr("The value of --%1 is empty.").arg(latin1(name)));
     return std::nullopt;
 }
@@ -282,7 +284,7 @@ Fault contradiction(const CommandLine &line)
     if (line.ppd && line.printer && !line.asksForBuiltInPrinter()) {
         return fault(UsageFault::Combination,
                      Text::tr("--ppd is for the built-in printer, and --printer names the queue \"%1\".")
-                         .arg(*line.printer));
+                         .arg(line.printer->id()));
     }
     const QStringList tasks = tasksOf(line);
     if (tasks.size() > 1) {
@@ -392,7 +394,7 @@ QString CommandLine::outputFolder() const
 
 bool CommandLine::asksForBuiltInPrinter() const
 {
-    return printer && Queue::isBuiltInId(*printer);
+    return printer && printer->isBuiltIn();
 }
 
 } // namespace printdialog

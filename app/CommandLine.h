@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "Destination.h"
 #include "PhotoPlacement.h"
 #include "PrintJob.h"
 #include "PrinterDescription.h"
@@ -43,9 +44,9 @@ struct RequestedChoice
 /// the window.
 struct CommandLine
 {
-    QStringList photos;             ///< paths, also of those that are given as file URLs
-    std::optional<QString> printer; ///< a queue's name, or the built-in printer's, or "name/preset"
-    std::optional<QString> ppd;     ///< a file, for the built-in printer
+    QStringList photos;                 ///< paths, also of those that are given as file URLs
+    std::optional<Destination> printer; ///< its instance is a preset's name, or what CUPS calls the preset
+    std::optional<QString> ppd;         ///< a file, for the built-in printer
     PanelMode mode = PanelMode::Constraint;
     QList<RequestedChoice> options; ///< in the order given
     std::optional<int> copies;      ///< of each photo, from 1 to mostCopies

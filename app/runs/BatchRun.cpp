@@ -85,7 +85,7 @@ OutputFolder BatchRun::outputFolder() const
 
 int BatchRun::printAll(PhotoList &photos, const PrinterDescription &printer, const PrintJob &job)
 {
-    const PrintTarget target{printer.isBuiltIn ? QString() : printer.name, outputFolder()};
+    const PrintTarget target{printer.isBuiltIn ? QString() : printer.destination.id(), outputFolder()};
     FollowLimits limits;
     if (commandLine_.wait)
         limits.total = *commandLine_.wait;

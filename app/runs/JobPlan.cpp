@@ -28,7 +28,7 @@ Result<JobPlan, PhotoPrinter::Fault> JobPlan::make(const Photo &photo, const Pri
         plan.request_.copies = job.copies;
         return plan;
     }
-    const auto request = PhotoPrinter::request(photo, printer.name, job);
+    const auto request = PhotoPrinter::request(photo, printer.destination.id(), job);
     if (!request)
         return request.failure();
     plan.request_ = *request;
@@ -44,7 +44,7 @@ QStringList JobPlan::lines() const
     const auto add = [&lines](const QString &label, const QString &value) {
         lines.append(QStringLiteral("%1: %2").arg(label, value));
     };
-    add(tr("Printer"), printer_.name);
+    add(tr("Printer"), printer_.destination.id());
     add(tr("Photo"), request_.document.name);
     if (printer_.isBuiltIn) {
         for (const QString &file : files_)
@@ -68,7 +68,7 @@ QJsonObject JobPlan::json() const
     QJsonObject options;
     for (auto option = request_.options.cbegin(); option != request_.options.cend(); ++option)
         options.insert(option.key(), option.value());
-    QJsonObject object = {{QStringLiteral("queue"), printer_.name},
+    QJsonObject object = {{QStringLiteral("queue"), printer_.destination.id()},
                           {QStringLiteral("document"), request_.document.name},
                           {QStringLiteral("copies"), request_.copies},
                           {QStringLiteral("options"), options}};

@@ -33,14 +33,14 @@ struct Text
 /// The built-in printer first; it is the default when the user has made it that, or when there is no other.
 Result<QList<Queue>, QueueFault> allPrinters(const CommandLine &commandLine)
 {
-    const std::optional<QString> chosen = UserDestinations::read().defaultPrinter;
+    const std::optional<Destination> chosen = UserDestinations::read().defaultPrinter;
     Queue builtIn = Queue::builtIn();
     const auto found = listQueues(listPatience);
-    const bool needsServer = commandLine.server || (chosen && !Queue::isBuiltInId(*chosen));
+    const bool needsServer = commandLine.server || (chosen && !chosen->isBuiltIn());
     if (!found && (needsServer || !isWithoutPrintServer(found.failure())))
         return found.failure();
     QList<Queue> queues = found ? *found : QList<Queue>();
-    builtIn.isDefault = chosen ? Queue::isBuiltInId(*chosen) : !defaultQueue(queues);
+    builtIn.isDefault = chosen ? chosen->isBuiltIn() : !defaultQueue(queues);
     queues.prepend(builtIn);
     return queues;
 }

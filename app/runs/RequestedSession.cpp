@@ -39,22 +39,22 @@ RequestedSessionResult orSentence(SessionResult session)
     return *std::move(session);
 }
 
-RequestedSessionResult openQueueNamed(const QString &id, PanelMode mode)
+RequestedSessionResult openQueueNamed(const Destination &destination, PanelMode mode)
 {
-    const auto opened = queueNamed(id, queuePatience);
+    const auto opened = queueNamed(destination, queuePatience);
     if (!opened)
         return refusal(opened.failure().text);
     if (opened->hasPpd) {
-        if (const auto failure = checkPpd(opened->ppd, id))
+        if (const auto failure = checkPpd(opened->ppd, destination.id()))
             return refusal(failure->text);
     }
     return orSentence(opened->hasPpd ? openQueue(opened->queue, opened->ppd, mode)
                                      : openRawQueue(opened->queue, mode));
 }
 
-RequestedSessionResult openDefaultQueue(const QString &id, PanelMode mode)
+RequestedSessionResult openDefaultQueue(const Destination &destination, PanelMode mode)
 {
-    auto session = openQueueNamed(id, mode);
+    auto session = openQueueNamed(destination, mode);
     if (session)
         return session;
     return refusal(Text::tr("%1 It is your default printer; --printer names another one, and \"--printer "
@@ -62,8 +62,8 @@ RequestedSessionResult openDefaultQueue(const QString &id, PanelMode mode)
                        .arg(session.failure().text));
 }
 
-/// The "printer" or "printer/preset" that is asked for by its name or as the user's default.
-std::optional<QString> destinationOf(const CommandLine &commandLine)
+/// What is asked for by its name or as the user's default.
+std::optional<Destination> destinationOf(const CommandLine &commandLine)
 {
     if (commandLine.printer || commandLine.ppd)
         return commandLine.printer;
@@ -71,11 +71,11 @@ std::optional<QString> destinationOf(const CommandLine &commandLine)
 }
 
 /// Makes the choices of the preset that the destination names. Empty, or why they cannot be had.
-QString usePreset(RequestedJob &job, const QString &destination)
+QString usePreset(RequestedJob &job, const Destination &destination)
 {
     const PrinterDescription &printer = job.session->printer();
-    const QString queue = printer.name.section(u'/', 0, 0);
-    const QString name = (printer.isBuiltIn ? destination : printer.name).section(u'/', 1);
+    const QString &queue = printer.destination.queue;
+    const QString &name = (printer.isBuiltIn ? destination : printer.destination).instance;
     if (name.isEmpty())
         return {};
     const auto presets = PresetStore::of(queue, printer.isBuiltIn).presets();
@@ -102,18 +102,18 @@ RequestedSessionResult openRequestedPrinter(const CommandLine &commandLine)
         return orSentence(openBuiltInPrinter(commandLine.ppd, commandLine.mode));
     if (commandLine.printer)
         return openQueueNamed(PresetStore::destination(*commandLine.printer), commandLine.mode);
-    if (const std::optional<QString> id = destinationOf(commandLine)) {
-        if (Queue::isBuiltInId(*id))
+    if (const std::optional<Destination> chosen = destinationOf(commandLine)) {
+        if (chosen->isBuiltIn())
             return orSentence(openBuiltInPrinter(std::nullopt, commandLine.mode));
-        return openDefaultQueue(*id, commandLine.mode);
+        return openDefaultQueue(*chosen, commandLine.mode);
     }
     const auto queues = listQueues(listPatience);
     if (!queues && (commandLine.server || !isWithoutPrintServer(queues.failure())))
         return refusal(Text::tr("%1 It may have your default printer; --printer names another one, and "
                                 "\"--printer built-in\" prints into files.")
                            .arg(queues.failure().text));
-    if (const std::optional<QString> id = queues ? defaultQueue(*queues) : std::nullopt)
-        return openDefaultQueue(*id, commandLine.mode);
+    if (const std::optional<Destination> found = queues ? defaultQueue(*queues) : std::nullopt)
+        return openDefaultQueue(*found, commandLine.mode);
     return orSentence(openBuiltInPrinter(std::nullopt, commandLine.mode));
 }
 
@@ -133,8 +133,8 @@ Result<RequestedJob, std::monostate> openRequestedJob(const CommandLine &command
         return refusal(
             Text::tr("The printer \"%1\" has no PPD file and so no option %2; leave it out, or set "
                      "the printer up with its driver.")
-                .arg(printer.name, commandLine.options.constFirst().key));
-    if (const QString failure = usePreset(job, destinationOf(commandLine).value_or(QString()));
+                .arg(printer.destination.id(), commandLine.options.constFirst().key));
+    if (const QString failure = usePreset(job, destinationOf(commandLine).value_or(Destination()));
         !failure.isEmpty())
         return refusal(failure);
     job.copies = commandLine.copies.value_or(job.copies);

@@ -101,7 +101,7 @@ int runScreenshot(const CommandLine &commandLine, QApplication &application)
     const auto requested = openRequestedJob(commandLine);
     if (!requested)
         return endWith(requested.failure().text);
-    const QString printer = requested->session->printer().name;
+    const QString printer = requested->session->printer().destination.id();
     if (!commandLine.asksForBuiltInPrinter()) // which may be with a preset
         setup.printer = printer;
     setup.remembers = false;

@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "Destination.h"
+
 #include <QtCore/QString>
 
 namespace printdialog {
@@ -10,7 +12,7 @@ namespace printdialog {
 /// The printer that a session is for.
 struct PrinterDescription
 {
-    QString name;      ///< the queue's name, or that of the built-in printer
+    Destination destination;
     QString text;      ///< what people call it
     QString deviceUri; ///< empty when it is not known
     bool isBuiltIn = false;

@@ -12,7 +12,7 @@ namespace {
 
 PrinterDescription describe(const Queue &queue)
 {
-    return {queue.id(), queue.info, queue.deviceUri, queue.isBuiltIn, true, queue.uri};
+    return {queue.destination(), queue.info, queue.deviceUri, queue.isBuiltIn, true, queue.uri};
 }
 
 SessionResult session(const Queue &queue, Result<PpdDocument, PpdFault> ppd, PanelMode mode)

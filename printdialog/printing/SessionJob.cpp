@@ -23,7 +23,7 @@ Result<SessionJob, SessionJobFault> jobOf(DialogSession &session, int copies)
             {}};
     const PrinterDescription &printer = session.printer();
     PrintJob job;
-    job.printer = printer.name;
+    job.printer = printer.destination.id();
     job.page = {size->points, size->imageable};
     job.options = options->options;
     for (const auto &[option, choice] : session.summary())

@@ -41,12 +41,13 @@ QString tooLargeReason()
     return PpdFetcher::tr("its PPD is larger than %1 MiB").arg(fetchedPpdLimit / 1024 / 1024);
 }
 
-Result<QByteArray, QueueFault> fetchHere(const QString &queue, std::chrono::milliseconds limit, int *cancel)
+Result<QByteArray, QueueFault> fetchHere(const Destination &destination, std::chrono::milliseconds limit,
+                                         int *cancel)
 {
     CupsConnection connection(limit, cancel);
     if (!connection.isOpen())
-        return queueFailure(QueueFault::NoServer, queue, connection.unreachableReason());
-    const auto record = queueRecord(connection, queue);
+        return queueFailure(QueueFault::NoServer, destination.id(), connection.unreachableReason());
+    const auto record = queueRecord(connection, destination);
     if (!record)
         return record.failure();
     return ppdOf(connection, *record);
@@ -62,7 +63,7 @@ QString limitReason(std::chrono::milliseconds limit)
 
 Result<QByteArray, QueueFault> ppdOf(CupsConnection &connection, const QueueRecord &record)
 {
-    const QString queue = QString::fromUtf8(record.name);
+    const QString &queue = record.destination.queue;
     // Not cupsGetPPD3: on a local socket it links to whatever lies under the queue's name in this machine's
     // own /etc/cups/ppd, and it opens a second connection, which has no limits.
     const QByteArray resource = "/printers/" + QUrl::toPercentEncoding(queue) + ".ppd";
@@ -83,11 +84,12 @@ Result<QByteArray, QueueFault> ppdOf(CupsConnection &connection, const QueueReco
     return ppd;
 }
 
-Result<QByteArray, QueueFault> fetchPpd(const QString &queue, std::chrono::milliseconds limit)
+Result<QByteArray, QueueFault> fetchPpd(const Destination &destination, std::chrono::milliseconds limit)
 {
     auto outcome = callWithin<Result<QByteArray, QueueFault>>(
-        limit, [queue, limit](int *cancel) { return fetchHere(queue, limit, cancel); });
-    return outcome ? std::move(*outcome) : queueFailure(QueueFault::TimedOut, queue, limitReason(limit));
+        limit, [destination, limit](int *cancel) { return fetchHere(destination, limit, cancel); });
+    return outcome ? std::move(*outcome)
+                   : queueFailure(QueueFault::TimedOut, destination.id(), limitReason(limit));
 }
 
 PpdFetcher::PpdFetcher(QObject *parent, std::chrono::milliseconds limit)
@@ -96,7 +98,7 @@ PpdFetcher::PpdFetcher(QObject *parent, std::chrono::milliseconds limit)
     limit_.setSingleShot(true);
     limit_.setInterval(limit);
     connect(&limit_, &QTimer::timeout, this, [this] {
-        take(queueFailure(QueueFault::TimedOut, queueId_, limitReason(limit_.intervalAsDuration())));
+        take(queueFailure(QueueFault::TimedOut, destination_.id(), limitReason(limit_.intervalAsDuration())));
     });
 }
 
@@ -107,11 +109,11 @@ PpdFetcher::~PpdFetcher()
         worker_->release(endPatience);
 }
 
-quint64 PpdFetcher::fetch(const QString &queueId)
+quint64 PpdFetcher::fetch(const Destination &destination)
 {
-    const bool isUnderWay = std::exchange(isAhead_, false) && queueId == queueId_;
+    const bool isUnderWay = std::exchange(isAhead_, false) && destination == destination_;
     if (!isUnderWay)
-        start(queueId);
+        start(destination);
     const quint64 number = ++number_;
     if (early_) {
         const auto announce = [this, number] {
@@ -123,24 +125,25 @@ quint64 PpdFetcher::fetch(const QString &queueId)
     return number;
 }
 
-void PpdFetcher::fetchAhead(const QString &queueId)
+void PpdFetcher::fetchAhead(const Destination &destination)
 {
-    start(queueId);
+    start(destination);
     isAhead_ = true;
 }
 
-void PpdFetcher::start(const QString &queueId)
+void PpdFetcher::start(const Destination &destination)
 {
     cancel();
-    queueId_ = queueId;
+    destination_ = destination;
     worker_ = std::make_shared<BoundedWorker>(this);
-    worker_->run([this, queueId, limit = limit_.intervalAsDuration(), check = check_](BoundedWorker &self) {
-        auto outcome = fetchHere(queueId, limit, self.cancelFlag());
-        self.post([this] { limit_.stop(); }); // what follows has nothing to do with the server
-        if (const auto text = outcome && check ? check(*outcome, queueId) : std::nullopt)
-            outcome = Failure<QueueFault>{QueueFault::Failed, *text, {}};
-        self.post([this, outcome = std::move(outcome)] { take(outcome); });
-    });
+    worker_->run(
+        [this, destination, limit = limit_.intervalAsDuration(), check = check_](BoundedWorker &self) {
+            auto outcome = fetchHere(destination, limit, self.cancelFlag());
+            self.post([this] { limit_.stop(); }); // what follows has nothing to do with the server
+            if (const auto text = outcome && check ? check(*outcome, destination.id()) : std::nullopt)
+                outcome = Failure<QueueFault>{QueueFault::Failed, *text, {}};
+            self.post([this, outcome = std::move(outcome)] { take(outcome); });
+        });
     limit_.start();
 }
 

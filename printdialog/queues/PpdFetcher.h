@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "Destination.h"
 #include "QueueFault.h"
 
 #include <QtCore/QByteArray>
@@ -27,8 +28,8 @@ constexpr qsizetype fetchedPpdLimit = qsizetype(8) * 1024 * 1024;
 /// The PPD of a queue, of a class that of its first member, as the server hands it out: untrusted, unparsed.
 /// Blocks, at most for the limit. It never lies in a file that another process could see or that could be
 /// left behind. Failures: all of QueueFault but NotAccepting.
-/// @param queue a queue's id; its instance makes no difference
-Result<QByteArray, QueueFault> fetchPpd(const QString &queue, std::chrono::milliseconds limit);
+/// @param destination whose instance makes no difference
+Result<QByteArray, QueueFault> fetchPpd(const Destination &destination, std::chrono::milliseconds limit);
 
 /// The same over a connection that is open, within its limit.
 Result<QByteArray, QueueFault> ppdOf(CupsConnection &connection, const QueueRecord &record);
@@ -52,10 +53,10 @@ public:
 
     /// Starts, and gives up any earlier fetch: of that one nothing is heard any more. Returns the number
     /// under which the outcome is announced, exactly once, after this has returned.
-    quint64 fetch(const QString &queueId);
+    quint64 fetch(const Destination &destination);
     /// Starts a fetch that is wanted soon, if at all: the next fetch() of the same queue takes it up where it
     /// stands then. Nothing is announced before, and a failure not at all.
-    void fetchAhead(const QString &queueId);
+    void fetchAhead(const Destination &destination);
     /// Gives up the fetch under way; nothing is announced.
     void cancel();
 
@@ -65,12 +66,12 @@ Q_SIGNALS:
     void failed(quint64 number, printdialog::QueueFault reason, const QString &text);
 
 private:
-    void start(const QString &queueId);
+    void start(const Destination &destination);
     void take(const Result<QByteArray, QueueFault> &outcome);
 
     Check check_;
     QTimer limit_; // for what the worker's own limit does not cover
-    QString queueId_;
+    Destination destination_;
     quint64 number_ = 0;
     bool isAhead_ = false;                  // nobody has asked for the outcome yet
     std::optional<QByteArray> early_;       // what has arrived before anybody asked

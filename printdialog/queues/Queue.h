@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "Destination.h"
+
 #include <QtCore/QList>
 #include <QtCore/QMetaType>
 #include <QtCore/QString>
@@ -47,12 +49,11 @@ struct Queue
     bool isBuiltIn = false;
 
     /// "name", or "name/instance": what identifies it in settings, on the command line, and in this library.
-    QString id() const;
+    QString id() const { return destination().id(); }
+    Destination destination() const { return {name, instance}; }
 
     /// The printer that needs no server: it leaves its jobs as files.
     static Queue builtIn();
-    /// Whether the id is its own, or "built-in/preset", which asks for one of its presets as well.
-    static bool isBuiltInId(const QString &id);
 
     friend bool operator==(const Queue &, const Queue &) = default;
 };

@@ -78,7 +78,7 @@ void QueueFinder::stop()
         worker->release(endPatience);
 }
 
-std::optional<QString> QueueFinder::defaultQueue() const
+std::optional<Destination> QueueFinder::defaultQueue() const
 {
     return printdialog::defaultQueue(queues_);
 }

@@ -38,8 +38,8 @@ public:
 
     /// What was found so far, in the server's order.
     QList<Queue> queues() const { return queues_; }
-    /// The id of the user's default queue, or else of the server's, as far as it was found.
-    std::optional<QString> defaultQueue() const;
+    /// The user's default queue, or else the server's, as far as it was found.
+    std::optional<Destination> defaultQueue() const;
     /// Whether this machine has no print server, and nobody has named another one.
     bool isWithoutPrintServer() const { return isWithoutPrintServer_; }
 

@@ -163,16 +163,16 @@ QList<Queue> queuesIn(ipp_t *answer)
 }
 
 /// Each queue is followed by the user's instances of it.
-QList<Queue> withInstances(const QList<Queue> &queues, const QStringList &instances)
+QList<Queue> withInstances(const QList<Queue> &queues, const QList<Destination> &instances)
 {
     QList<Queue> all;
     for (const Queue &queue : queues) {
         all.append(queue);
-        for (const QString &id : instances) {
-            if (id.section(u'/', 0, 0) != queue.name || hasControls(id))
+        for (const Destination &destination : instances) {
+            if (destination.queue != queue.name || hasControls(destination.instance))
                 continue;
             all.append(queue);
-            all.last().instance = id.section(u'/', 1);
+            all.last().instance = destination.instance;
         }
     }
     return all;
@@ -205,20 +205,21 @@ Result<QList<Queue>, QueueFault> sweepQueues(std::chrono::milliseconds limit, in
 
     const UserDestinations user = UserDestinations::read();
     QList<Queue> queues = withInstances(queuesIn(answer.get()), user.instances);
-    const QString chosen = user.defaultPrinter.value_or(textsOf(preset.get(), "printer-name").value(0));
+    const Destination chosen = user.defaultPrinter.value_or(textsOf(preset.get(), "printer-name").value(0));
     for (Queue &queue : queues)
-        queue.isDefault = queue.id() == chosen;
+        queue.isDefault = queue.destination() == chosen;
     return queues;
 }
 
 namespace {
 
-Result<OpenedQueue, QueueFault> openHere(const QString &id, std::chrono::milliseconds limit, int *cancel)
+Result<OpenedQueue, QueueFault> openHere(const Destination &destination, std::chrono::milliseconds limit,
+                                         int *cancel)
 {
     CupsConnection connection(limit, cancel);
     if (!connection.isOpen())
-        return queueFailure(QueueFault::NoServer, id, connection.unreachableReason());
-    const auto record = queueRecord(connection, id);
+        return queueFailure(QueueFault::NoServer, destination.id(), connection.unreachableReason());
+    const auto record = queueRecord(connection, destination);
     if (!record)
         return record.failure();
     IppPointer request = ippRequest(IPP_OP_GET_PRINTER_ATTRIBUTES, record->uri);
@@ -227,9 +228,9 @@ Result<OpenedQueue, QueueFault> openHere(const QString &id, std::chrono::millise
     const IppPointer answer = connection.answerTo(std::move(request), "/");
     const QList<Queue> found = answer ? queuesIn(answer.get()) : QList<Queue>();
     if (found.isEmpty())
-        return connection.lastFailure(id);
+        return connection.lastFailure(destination.id());
     OpenedQueue opened{found.constFirst(), false, {}};
-    opened.queue.instance = QString::fromUtf8(record->instance);
+    opened.queue.instance = destination.instance;
     const auto ppd = ppdOf(connection, *record);
     if (!ppd && ppd.failure().reason != QueueFault::NoPpd)
         return ppd.failure();
@@ -242,11 +243,11 @@ Result<OpenedQueue, QueueFault> openHere(const QString &id, std::chrono::millise
 
 } // namespace
 
-Result<OpenedQueue, QueueFault> queueNamed(const QString &id, std::chrono::milliseconds limit)
+Result<OpenedQueue, QueueFault> queueNamed(const Destination &destination, std::chrono::milliseconds limit)
 {
     auto opened = callWithin<Result<OpenedQueue, QueueFault>>(
-        limit, [id, limit](int *cancel) { return openHere(id, limit, cancel); });
-    return opened ? *std::move(opened) : queueFailure(QueueFault::TimedOut, id);
+        limit, [destination, limit](int *cancel) { return openHere(destination, limit, cancel); });
+    return opened ? *std::move(opened) : queueFailure(QueueFault::TimedOut, destination.id());
 }
 
 QString printServerAddress()
@@ -273,11 +274,11 @@ Result<QList<Queue>, QueueFault> listQueues(std::chrono::milliseconds limit)
     return swept ? *std::move(swept) : queueFailure(QueueFault::TimedOut, {});
 }
 
-std::optional<QString> defaultQueue(const QList<Queue> &queues)
+std::optional<Destination> defaultQueue(const QList<Queue> &queues)
 {
     const auto found =
         std::find_if(queues.cbegin(), queues.cend(), [](const Queue &q) { return q.isDefault; });
-    return found == queues.cend() ? std::nullopt : std::optional(found->id());
+    return found == queues.cend() ? std::nullopt : std::optional(found->destination());
 }
 
 } // namespace printdialog

@@ -34,7 +34,7 @@ struct OpenedQueue
 /// Asks for one queue and its PPD without listing the others. Of an instance nothing is asked: it is the
 /// user's own. Blocks, at most for the limit. Failures: those
 /// of QueueFault but NoPpd.
-Result<OpenedQueue, QueueFault> queueNamed(const QString &id, std::chrono::milliseconds limit);
+Result<OpenedQueue, QueueFault> queueNamed(const Destination &destination, std::chrono::milliseconds limit);
 
 /// Whether a failure of one of these says that this machine prints nowhere: its print server is one of its
 /// own, on CUPS' usual port or socket, and nobody listens there. Any other server that cannot be asked may
@@ -45,8 +45,8 @@ bool isWithoutPrintServer(const Failure<QueueFault> &failure);
 /// of CUPS.
 QString printServerAddress();
 
-/// The id of the default among queues: what the user set (LPDEST, PRINTER, lpoptions), or else the server's.
-/// Nothing when there is none, or when it names a queue that is not there.
-std::optional<QString> defaultQueue(const QList<Queue> &queues);
+/// The default among queues: what the user set (LPDEST, PRINTER, lpoptions), or else the server's. Nothing
+/// when there is none, or when it names a queue that is not there.
+std::optional<Destination> defaultQueue(const QList<Queue> &queues);
 
 } // namespace printdialog

@@ -24,18 +24,16 @@ bool isQueueName(const QString &name)
            name.simplified() == name && !name.contains(u'/');
 }
 
-Result<QueueRecord, QueueFault> queueRecord(CupsConnection &connection, const QString &queueId)
+Result<QueueRecord, QueueFault> queueRecord(CupsConnection &connection, const Destination &destination)
 {
     QueueRecord record;
-    const QString name = queueId.section(u'/', 0, 0);
-    record.name = name.toUtf8();
-    record.instance = queueId.section(u'/', 1).toUtf8();
-    if (!isQueueName(name) || hasControls(queueId))
-        return queueFailure(QueueFault::NotFound, queueId,
+    record.destination = destination;
+    if (!isQueueName(destination.queue) || hasControls(destination.instance))
+        return queueFailure(QueueFault::NotFound, destination.id(),
                             QCoreApplication::translate("CupsConnection", "no printer can have this name"));
     std::array<char, 1024> uri = {};
     httpAssembleURIf(HTTP_URI_CODING_ALL, uri.data(), static_cast<int>(uri.size()), "ipp", nullptr,
-                     "localhost", 0, "/printers/%s", record.name.constData());
+                     "localhost", 0, "/printers/%s", destination.queue.toUtf8().constData());
     static constexpr std::array wanted = {"printer-uri-supported", "printer-is-accepting-jobs",
                                           "printer-state", "printer-state-message", "printer-state-reasons"};
     IppPointer request = ippRequest(IPP_OP_GET_PRINTER_ATTRIBUTES, uri.data());
@@ -43,7 +41,7 @@ Result<QueueRecord, QueueFault> queueRecord(CupsConnection &connection, const QS
                   static_cast<int>(wanted.size()), nullptr, wanted.data());
     const IppPointer answer = connection.answerTo(std::move(request), "/");
     if (!answer || !connection.hasSucceeded())
-        return connection.lastFailure(queueId);
+        return connection.lastFailure(destination.id());
     record.uri = textOf(answer.get(), "printer-uri-supported");
     if (record.uri.isEmpty())
         record.uri = uri.data();

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "Destination.h"
 #include "QueueFault.h"
 
 #include <QtCore/QByteArray>
@@ -15,8 +16,7 @@ class CupsConnection;
 /// What has to be known of a queue before it is used.
 struct QueueRecord
 {
-    QByteArray name;
-    QByteArray instance;
+    Destination destination;
     QByteArray uri; ///< The queue's own, as the server gives it.
     QString stateMessage;
     QStringList stateReasons; ///< Keywords.
@@ -26,7 +26,7 @@ struct QueueRecord
 
 /// Asks the server about a queue. A name that no queue can have is not cleaned, but not found. Failures:
 /// NotFound, Refused, TimedOut, Failed.
-Result<QueueRecord, QueueFault> queueRecord(CupsConnection &connection, const QString &queueId);
+Result<QueueRecord, QueueFault> queueRecord(CupsConnection &connection, const Destination &destination);
 
 /// Whether a queue can have this name: text that is not changed by being shown, and no longer than CUPS
 /// allows.

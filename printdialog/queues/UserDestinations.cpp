@@ -28,11 +28,11 @@ void readFile(const QString &path, UserDestinations &destinations)
         const bool isDefault = keyword == "default";
         if (!isDefault && keyword != "dest")
             continue;
-        const QString id = QString::fromUtf8(words.at(1));
+        const Destination destination(QString::fromUtf8(words.at(1)));
         if (isDefault)
-            destinations.defaultPrinter = id;
-        if (id.contains(u'/') && !destinations.instances.contains(id))
-            destinations.instances.append(id);
+            destinations.defaultPrinter = destination;
+        if (!destination.instance.isEmpty() && !destinations.instances.contains(destination))
+            destinations.instances.append(destination);
     }
 }
 

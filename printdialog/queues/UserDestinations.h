@@ -3,8 +3,9 @@
 
 #pragma once
 
-#include <QtCore/QString>
-#include <QtCore/QStringList>
+#include "Destination.h"
+
+#include <QtCore/QList>
 
 #include <optional>
 
@@ -14,8 +15,8 @@ namespace printdialog {
 /// (lpoptions(1)) and the environment. Only the names: the options in there are not for this program.
 struct UserDestinations
 {
-    QStringList instances;                 ///< "name/instance", in the files' order.
-    std::optional<QString> defaultPrinter; ///< The id of the user's default, else of this machine's.
+    QList<Destination> instances;              ///< In the files' order.
+    std::optional<Destination> defaultPrinter; ///< The user's default, else this machine's.
 
     /// Reads the small files; no print server is asked.
     static UserDestinations read();

@@ -19,13 +19,13 @@ namespace {
 struct Line
 {
     QByteArray keyword; // "Dest", or "Default" for the user's default
-    QString queue;
-    QString instance;
+    Destination destination;
     QByteArray options;
 
-    bool isOf(const QString &otherQueue, const QString &otherInstance) const
+    bool isOf(const Destination &other) const
     {
-        return PresetName::areSame(queue, otherQueue) && PresetName::areSame(instance, otherInstance);
+        return PresetName::areSame(destination.queue, other.queue) &&
+               PresetName::areSame(destination.instance, other.instance);
     }
 };
 
@@ -60,11 +60,9 @@ std::optional<Line> parsed(const QByteArray &text)
     if (line.keyword.compare("dest", Qt::CaseInsensitive) != 0 &&
         line.keyword.compare("default", Qt::CaseInsensitive) != 0)
         return std::nullopt;
-    const QString name = QString::fromUtf8(takeWord(rest));
-    line.queue = name.section(u'/', 0, 0);
-    line.instance = name.section(u'/', 1);
+    line.destination = QString::fromUtf8(takeWord(rest));
     line.options = rest;
-    return line.queue.isEmpty() ? std::nullopt : std::optional(line);
+    return line.destination.queue.isEmpty() ? std::nullopt : std::optional(line);
 }
 
 QMap<QString, QString> optionsOf(const QByteArray &text)
@@ -98,11 +96,6 @@ QByteArray quoted(const QByteArray &value)
     return text + '"';
 }
 
-QByteArray nameOf(const QString &queue, const QString &instance)
-{
-    return (instance.isEmpty() ? queue : queue + u'/' + instance).toUtf8();
-}
-
 } // namespace
 
 LpoptionsFile::LpoptionsFile(const QByteArray &text)
@@ -117,37 +110,37 @@ QList<LpoptionsFile::Entry> LpoptionsFile::entries() const
     QList<Entry> entries;
     for (const QByteArray &text : lines_) {
         if (const auto line = parsed(text))
-            entries += {line->queue, line->instance, optionsOf(line->options)};
+            entries += {line->destination, optionsOf(line->options)};
     }
     return entries;
 }
 
-bool LpoptionsFile::has(const QString &queue, const QString &instance) const
+bool LpoptionsFile::has(const Destination &destination) const
 {
     return std::ranges::any_of(lines_, [&](const QByteArray &text) {
         const auto line = parsed(text);
-        return line && line->isOf(queue, instance);
+        return line && line->isOf(destination);
     });
 }
 
-bool LpoptionsFile::set(const QString &queue, const QString &instance, const QMap<QString, QString> &options)
+bool LpoptionsFile::set(const Destination &destination, const QMap<QString, QString> &options)
 {
     QByteArray text;
     for (auto option = options.cbegin(); option != options.cend(); ++option)
         text += ' ' + option.key().toUtf8() + '=' + quoted(option.value().toUtf8());
-    const QByteArray added = "Dest " + nameOf(queue, instance) + text;
+    const QByteArray added = "Dest " + destination.id().toUtf8() + text;
     if (added.size() + qsizetype(sizeof "Default") > longestLine)
         return false;
     // libcups adds up the lines of one entry.
     bool isSet = false;
     for (auto each = lines_.begin(); each != lines_.end();) {
         const auto line = parsed(*each);
-        if (!line || !line->isOf(queue, instance)) {
+        if (!line || !line->isOf(destination)) {
             ++each;
         } else if (isSet) {
             each = lines_.erase(each);
         } else {
-            *each = line->keyword + ' ' + nameOf(line->queue, line->instance) + text;
+            *each = line->keyword + ' ' + line->destination.id().toUtf8() + text;
             isSet = true;
             ++each;
         }
@@ -157,17 +150,18 @@ bool LpoptionsFile::set(const QString &queue, const QString &instance, const QMa
     return true;
 }
 
-bool LpoptionsFile::rename(const QString &queue, const QString &instance, const QString &newInstance)
+bool LpoptionsFile::rename(const Destination &destination, const QString &newInstance)
 {
     QList<QByteArray> lines = lines_;
     for (QByteArray &text : lines) {
         const auto line = parsed(text);
-        if (!line || !line->isOf(queue, instance))
+        if (!line || !line->isOf(destination))
             continue;
         QByteArray rest = text.trimmed();
         takeWord(rest);
         takeWord(rest);
-        text = line->keyword + ' ' + nameOf(line->queue, newInstance) + ' ' + rest;
+        text = line->keyword + ' ' + Destination(line->destination.queue, newInstance).id().toUtf8() + ' ' +
+               rest;
         if (text.size() > longestLine)
             return false;
     }
@@ -175,11 +169,11 @@ bool LpoptionsFile::rename(const QString &queue, const QString &instance, const 
     return true;
 }
 
-void LpoptionsFile::remove(const QString &queue, const QString &instance)
+void LpoptionsFile::remove(const Destination &destination)
 {
     lines_.removeIf([&](const QByteArray &text) {
         const auto line = parsed(text);
-        return line && line->isOf(queue, instance);
+        return line && line->isOf(destination);
     });
 }
 

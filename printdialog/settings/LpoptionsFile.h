@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "Destination.h"
+
 #include <QtCore/QByteArray>
 #include <QtCore/QList>
 #include <QtCore/QMap>
@@ -17,8 +19,7 @@ class LpoptionsFile
 public:
     struct Entry
     {
-        QString queue;
-        QString instance; ///< empty: the queue itself
+        Destination destination; ///< without an instance: the queue itself
         QMap<QString, QString> options;
     };
 
@@ -29,15 +30,15 @@ public:
 
     /// In the file's order; what is no entry is left out.
     QList<Entry> entries() const;
-    bool has(const QString &queue, const QString &instance) const;
+    bool has(const Destination &destination) const;
 
     /// Puts the options in the place of those the entry has, or adds it at the end. False: its line would be
     /// too long.
-    bool set(const QString &queue, const QString &instance, const QMap<QString, QString> &options);
+    bool set(const Destination &destination, const QMap<QString, QString> &options);
     /// Gives the entry another instance name; its options stay byte for byte. False: a line would be too
     /// long; nothing has changed then.
-    bool rename(const QString &queue, const QString &instance, const QString &newInstance);
-    void remove(const QString &queue, const QString &instance);
+    bool rename(const Destination &destination, const QString &newInstance);
+    void remove(const Destination &destination);
 
     QByteArray text() const;
 

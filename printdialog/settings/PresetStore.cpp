@@ -92,19 +92,20 @@ PresetStore::Presets PresetStore::presetsIn(const QByteArray &user) const
     for (const bool isUsers : {false, true}) {
         const auto entries = LpoptionsFile(isUsers ? user : system).entries();
         for (const LpoptionsFile::Entry &entry : entries) {
+            const QString &instance = entry.destination.instance;
             // A name that needs cleaning could not be handed back to CUPS.
-            if (!PresetName::areSame(entry.queue, queue_) || plainText(entry.instance) != entry.instance)
+            if (!PresetName::areSame(entry.destination.queue, queue_) || plainText(instance) != instance)
                 continue;
-            if (entry.instance.isEmpty()) {
+            if (instance.isEmpty()) {
                 ofQueue.insert(entry.options);
                 continue;
             }
-            const auto known = std::ranges::find_if(presets, [&entry](const Preset &preset) {
-                return PresetName::areSame(preset.instance, entry.instance);
+            const auto known = std::ranges::find_if(presets, [&instance](const Preset &preset) {
+                return PresetName::areSame(preset.instance, instance);
             });
             if (known == presets.end()) {
                 // libcups hands an instance the options that its queue has by then.
-                presets += {entry.instance, entry.options, ofQueue, isUsers, entry.instance};
+                presets += {instance, entry.options, ofQueue, isUsers, instance};
             } else {
                 known->options.insert(entry.options);
                 known->isWritable = isUsers;
@@ -143,7 +144,7 @@ SettingsFailure PresetStore::write(const QString &name, const QMap<QString, QStr
     return changeFile([&](LpoptionsFile &file, const Presets &presets) -> SettingsFailure {
         if (auto failure = isNew ? mayAdd(presets, name) : mayChange(presets, name))
             return failure;
-        if (file.set(queue_, isNew ? PresetName::instanceOf(name) : find(presets, name)->instance, options))
+        if (file.set({queue_, isNew ? PresetName::instanceOf(name) : find(presets, name)->instance}, options))
             return std::nullopt;
         return Failure<SettingsFault>{
             SettingsFault::TooLong,
@@ -167,7 +168,7 @@ SettingsFailure PresetStore::rename(const QString &name, const QString &newName)
             if (auto failure = mayAdd(presets, newName))
                 return failure;
         }
-        if (file.rename(queue_, find(presets, name)->instance, PresetName::instanceOf(newName)))
+        if (file.rename({queue_, find(presets, name)->instance}, PresetName::instanceOf(newName)))
             return std::nullopt;
         return Failure<SettingsFault>{
             SettingsFault::TooLong,
@@ -183,7 +184,7 @@ SettingsFailure PresetStore::remove(const QString &name)
     return changeFile([&](LpoptionsFile &file, const Presets &presets) -> SettingsFailure {
         if (auto failure = mayChange(presets, name))
             return failure;
-        file.remove(queue_, find(presets, name)->instance);
+        file.remove({queue_, find(presets, name)->instance});
         return std::nullopt;
     });
 }
@@ -224,15 +225,13 @@ QString PresetStore::missing(const QString &printer, const QString &name, const 
         .arg(shownPrinter, shownName, others.join(QLatin1String(", ")));
 }
 
-QString PresetStore::destination(const QString &typed)
+Destination PresetStore::destination(const Destination &typed)
 {
-    const QString queue = typed.section(u'/', 0, 0);
-    const QString preset = typed.section(u'/', 1);
-    if (preset.isEmpty())
+    if (typed.instance.isEmpty())
         return typed;
-    const auto presets = PresetStore(queue).presets();
-    const Preset *found = presets ? findInstance(*presets, preset) : nullptr;
-    return found ? queue + u'/' + found->instance : typed;
+    const auto presets = PresetStore(typed.queue).presets();
+    const Preset *found = presets ? findInstance(*presets, typed.instance) : nullptr;
+    return found ? Destination(typed.queue, found->instance) : typed;
 }
 
 SettingsFailure PresetStore::mayAdd(const Presets &presets, const QString &name)

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "Destination.h"
 #include "SettingsFault.h"
 
 #include <QtCore/QCoreApplication>
@@ -59,7 +60,7 @@ public:
     /// Says for people that the printer has no preset of the name, and which ones it has if they are few.
     static QString missing(const QString &printer, const QString &name, const Presets &presets);
     /// "queue/preset" as CUPS calls it when the preset is given by its name. Anything else stays as it is.
-    static QString destination(const QString &typed);
+    static Destination destination(const Destination &typed);
 
     /// By name.
     Result<QList<Preset>, SettingsFault> presets() const;

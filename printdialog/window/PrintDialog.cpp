@@ -51,7 +51,7 @@ PrintDialog::PrintDialog(const PrintDialogSetup &setup, QWidget *parent)
     });
     const std::optional<RememberedQueue> remembered = firstPrinter();
     // The print server may well be asked while the window is being made.
-    if (setup_.printer && *setup_.printer != Queue::builtIn().id() && !setup_.ppdFile)
+    if (setup_.printer && *setup_.printer != Destination::builtIn() && !setup_.ppdFile)
         fetcher_->fetchAhead(*setup_.printer);
     ui_->setupUi(this);
     auto *buttons = new WrappingRow(ui_->buttons);

@@ -38,7 +38,7 @@ struct PrintDialogSetup
     QList<Photo> photos;
     QStringList photoFailures; ///< a sentence for each photo that could not be opened
     PanelMode mode = PanelMode::Constraint;
-    std::optional<QString> printer;         ///< a queue's id or "built-in/preset"; without it the default
+    std::optional<Destination> printer;     ///< without it the default
     std::optional<QString> ppdFile;         ///< for the built-in printer, instead of its own
     QList<QPair<QString, QString>> options; ///< choices to begin with, in order
     std::optional<int> copies;              ///< to begin with

@@ -43,11 +43,11 @@ std::optional<RememberedQueue> PrintDialog::firstPrinter()
         remembered = QueueCache::load();
     if (!setup_.printer && !setup_.ppdFile && !(remembered && remembered->wasChosen))
         setup_.printer = UserDestinations::read().defaultPrinter;
-    if (setup_.printer && Queue::isBuiltInId(*setup_.printer)) {
-        builtInPreset_ = setup_.printer->section(u'/', 1);
-        setup_.printer = Queue::builtIn().id();
+    if (setup_.printer && setup_.printer->isBuiltIn()) {
+        builtInPreset_ = setup_.printer->instance;
+        setup_.printer = Destination::builtIn();
     }
-    if (remembered && setup_.printer && *setup_.printer != remembered->queue.id())
+    if (remembered && setup_.printer && *setup_.printer != remembered->queue.destination())
         remembered.reset();
     return remembered;
 }
@@ -57,9 +57,9 @@ void PrintDialog::openFirstPrinter(const std::optional<RememberedQueue> &remembe
     const Queue builtIn = Queue::builtIn();
     if (remembered && !remembered->queue.isBuiltIn) {
         openRemembered(*remembered);
-    } else if (setup_.printer && *setup_.printer != builtIn.id() && !setup_.ppdFile) {
-        ui_->printer->await(*setup_.printer);
-        awaitOptions(*setup_.printer);
+    } else if (setup_.printer && *setup_.printer != builtIn.destination() && !setup_.ppdFile) {
+        ui_->printer->await(setup_.printer->id());
+        awaitOptions(setup_.printer->id());
     } else {
         if (remembered && remembered->wasChosen)
             ui_->printer->keepCurrent();
@@ -93,7 +93,7 @@ void PrintDialog::openPrinter(const Queue &queue)
     ui_->status->show(queue);
     if (!queue.isBuiltIn) {
         awaitOptions(queue.id());
-        fetcher_->fetch(queue.id());
+        fetcher_->fetch(queue.destination());
         return;
     }
     fetcher_->cancel();
@@ -112,7 +112,7 @@ void PrintDialog::takeUpdate(const Queue &queue)
     queue_ = queue;
     ui_->status->show(queue);
     if (isRemembered_)
-        fetcher_->fetch(queue.id());
+        fetcher_->fetch(queue.destination());
 }
 
 /// Photos that could not be opened are named until the user does something about the printer.

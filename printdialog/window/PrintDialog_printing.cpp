@@ -65,7 +65,7 @@ void PrintDialog::print()
     if (session_->printer().isBuiltIn)
         target_.folder.path = ui_->folder->text();
     else
-        target_.queue = session_->printer().name;
+        target_.queue = session_->printer().destination.id();
     remarks_ = job->remarks;
     remember(true);
     ui_->progress->show(tr("Printing…"));
@@ -120,7 +120,7 @@ void PrintDialog::finishPrinting(const PrintOutcome &outcome)
     if (outcome.hasOtherPpd) {
         whyNotReady_ = outcome.failure;
         updateButtons();
-        fetcher_->fetch(queue_.id());
+        fetcher_->fetch(queue_.destination());
     }
 }
 

@@ -145,7 +145,7 @@ void QueuesEndToEndTest::queuesAreListedWithWhatTheServerSays()
 void QueuesEndToEndTest::defaultIsTheUsersOrTheServers()
 {
     const auto chosen = [] {
-        return defaultQueue(*listQueues(5s)).value_or(QString());
+        return defaultQueue(*listQueues(5s)).value_or(Destination()).id();
     };
     QCOMPARE(chosen(), QString());
     QVERIFY(cupsd_.run(u"lpadmin"_s, {u"-d"_s, u"raw"_s}));

@@ -217,7 +217,7 @@ void PresetStoreTest::namesAreMapped()
     QCOMPARE(readByCups(PresetStore::userFile(), u"photo/%1"_s.arg(instance).toUtf8()), red);
     QCOMPARE(namesOf(store), QStringList{name});
     for (const QString &typed : {name, instance})
-        QCOMPARE(PresetStore::destination(u"photo/"_s + typed), u"photo/"_s + instance);
+        QCOMPARE(PresetStore::destination(u"photo/"_s + typed).id(), u"photo/"_s + instance);
     QVERIFY(!store.update(name, {}) && !store.remove(name));
     QCOMPARE(content(PresetStore::userFile()), QByteArray());
     QVERIFY(!store.add(name, red));
@@ -238,7 +238,7 @@ void PresetStoreTest::mappedNamesDoNotCollide()
     QCOMPARE(namesOf(store).size(), names.size() - 1);
     QCOMPARE(store.presets()->constFirst().options.value(u"Red"_s), u"0"_s);
     // As CUPS reads it, the instance goes first.
-    QCOMPARE(PresetStore::destination(u"photo/a%20b"_s), u"photo/a%20b"_s);
+    QCOMPARE(PresetStore::destination(u"photo/a%20b"_s).id(), u"photo/a%20b"_s);
 }
 
 void PresetStoreTest::lpoptionsKeepsItsNames()

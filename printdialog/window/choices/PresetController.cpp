@@ -20,16 +20,6 @@
 
 namespace printdialog {
 
-namespace {
-
-/// A destination is a queue, or a queue and the user's instance of it, which is a preset.
-QString queueOf(const PrinterDescription &printer)
-{
-    return printer.isBuiltIn ? printer.name : printer.name.section(u'/', 0, 0);
-}
-
-} // namespace
-
 PresetController::PresetController(PresetBar *bar, MessageBar *message, ChoiceSteps *steps, QObject *parent)
     : QObject(parent)
     , bar_(bar)
@@ -51,10 +41,10 @@ void PresetController::setSession(DialogSession *session, const QString &builtIn
     update();
     if (!session)
         return;
-    const QString queue = queueOf(session->printer());
+    const QString queue = session->printer().destination.queue;
     store_ = std::make_unique<PresetStore>(PresetStore::of(queue, session->printer().isBuiltIn));
     load();
-    if (openWith(session->printer().isBuiltIn ? builtInPreset : session->printer().name.section(u'/', 1)))
+    if (openWith(session->printer().isBuiltIn ? builtInPreset : session->printer().destination.instance))
         return;
     const UsedChoices last = useChoices(*session, QueueSettings::load(queue));
     steps_->setCopies(last.copies.value_or(1));
@@ -78,14 +68,14 @@ bool PresetController::openWith(const QString &instance)
     if (preset)
         use(preset->name);
     else
-        bar_->showError(PresetStore::missing(queueOf(session_->printer()), instance, *presets));
+        bar_->showError(PresetStore::missing(session_->printer().destination.queue, instance, *presets));
     return preset != nullptr;
 }
 
 QString PresetController::keep(const QMap<QString, QString> &options)
 {
     steps_->note(); // what took the place of a dropped choice
-    const auto failure = QueueSettings::save(queueOf(session_->printer()), withCopies(options));
+    const auto failure = QueueSettings::save(session_->printer().destination.queue, withCopies(options));
     return failure ? failure->text : QString();
 }
 

@@ -14,7 +14,7 @@ namespace {
 QString label(const Queue &queue)
 {
     const QString preset = PresetName::ofInstance(queue.instance);
-    const QString id = preset.isEmpty() ? queue.name : queue.name + u'/' + preset;
+    const QString id = Destination(queue.name, preset).id();
     if (queue.info.isEmpty() || queue.info == queue.id())
         return id;
     return queue.isBuiltIn ? queue.info : PrinterChooser::tr("%1 (%2)").arg(queue.info, id);
@@ -55,10 +55,10 @@ void PrinterChooser::recall(const Queue &queue, bool wasChosen)
     setCurrentIndex(count() - 1);
 }
 
-void PrinterChooser::search(const std::optional<QString> &wanted)
+void PrinterChooser::search(const std::optional<Destination> &wanted)
 {
     wanted_ = wanted;
-    if (wanted && (wanted == Queue::builtIn().id() || wanted == current().id()))
+    if (wanted && (wanted == Destination::builtIn() || wanted == current().destination()))
         isSettled_ = true;
     finder_->start();
 }
@@ -90,7 +90,7 @@ void PrinterChooser::take(const Queue &queue)
     const QString id = queue.id();
     const int known = indexOf(id);
     // A queue's instances are its presets, chosen as such.
-    if (known < 0 && !queue.instance.isEmpty() && !queue.isDefault && id != wanted_)
+    if (known < 0 && !queue.instance.isEmpty() && !queue.isDefault && queue.destination() != wanted_)
         return;
     if (known >= 0)
         update(known, queue);
@@ -98,7 +98,7 @@ void PrinterChooser::take(const Queue &queue)
         add(queue);
     const int index = indexOf(id);
     const bool isCurrent = index == currentIndex();
-    if (!isSettled_ && (wanted_ ? id == *wanted_ : queue.isDefault)) {
+    if (!isSettled_ && (wanted_ ? queue.destination() == *wanted_ : queue.isDefault)) {
         isSettled_ = true;
         if (!isCurrent)
             choose(index);
@@ -154,15 +154,14 @@ void PrinterChooser::remove(const QString &id)
 }
 
 /// Says which of the two there is not: the printer, or its preset.
-QString PrinterChooser::missing(const QString &id) const
+QString PrinterChooser::missing(const Destination &destination) const
 {
-    const QString queue = id.section(u'/', 0, 0);
-    const QString preset = id.section(u'/', 1);
+    const auto &[queue, preset] = destination;
     if (!preset.isEmpty() && indexOf(queue) >= 0) {
         const auto presets = PresetStore(queue).presets();
         return presets ? PresetStore::missing(queue, preset, *presets) : presets.failure().text;
     }
-    return tr("There is no printer \"%1\". Choose another one.").arg(id);
+    return tr("There is no printer \"%1\". Choose another one.").arg(destination.id());
 }
 
 // The finder goes on looking: once there is a server again it may have the queue.
@@ -174,7 +173,7 @@ void PrinterChooser::endSearch()
     if (wanted_ && !isConfirmed())
         Q_EMIT searchFailed(failure_.isEmpty()
                                 ? missing(*wanted_)
-                                : tr("The printer \"%1\" is not there. %2").arg(*wanted_, failure_));
+                                : tr("The printer \"%1\" is not there. %2").arg(wanted_->id(), failure_));
     else if (!failure_.isEmpty() && (isAway || !(isSettled_ || finder_->isWithoutPrintServer())))
         Q_EMIT searchFailed(failure_);
     isSettled_ = isSettled_ || currentIndex() >= 0;
@@ -184,7 +183,7 @@ void PrinterChooser::endSearch()
 void PrinterChooser::forgetUnconfirmed()
 {
     const QString id = *std::exchange(unconfirmed_, std::nullopt);
-    if (id != wanted_ || current().id() != id) {
+    if (wanted_ != Destination(id) || current().id() != id) {
         remove(id);
         return;
     }

@@ -30,7 +30,7 @@ public:
     void recall(const Queue &queue, bool wasChosen);
     /// Starts to look for queues. The queue `wanted`, or else the default, is chosen when it is found, unless
     /// keepCurrent() was called or the user has chosen by then. No other printer takes the place of `wanted`.
-    void search(const std::optional<QString> &wanted);
+    void search(const std::optional<Destination> &wanted);
     /// From now on no default takes the place of the current printer. One asked for by its name still does.
     void keepCurrent();
     /// As if the user had chosen it.
@@ -61,14 +61,14 @@ private:
     void remove(const QString &id);
     void drop(int index);
     void forgetUnconfirmed();
-    QString missing(const QString &id) const;
+    QString missing(const Destination &destination) const;
     void endSearch();
     void choose(int index);
     int indexOf(const QString &id) const { return indexes_.value(id, -1); }
 
     QueueFinder *finder_;
     QHash<QString, int> indexes_; ///< by id
-    std::optional<QString> wanted_;
+    std::optional<Destination> wanted_;
     std::optional<QString> unconfirmed_; ///< the recalled queue's id, until the server knows of it
     QString failure_;                    ///< why the server could not be asked
     bool wasChosenByUser_ = false;
