@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include "ProgramRun.h"
+#include "TestMain.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QFile>
@@ -314,5 +315,5 @@ void CommandLineTest::failsWhenItsOutputCannotBeWritten()
     QVERIFY2(unread.err.contains("Standard output") && unread.err.endsWith("\n1\n"), unread.err.constData());
 }
 
-QTEST_GUILESS_MAIN(CommandLineTest)
+CORVEL_TEST(CommandLineTest)
 #include "CommandLineTest.moc"

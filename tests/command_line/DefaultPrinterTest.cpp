@@ -3,6 +3,7 @@
 
 #include "ProgramRun.h"
 #include "StubServer.h"
+#include "TestMain.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QFile>
@@ -133,5 +134,5 @@ void DefaultPrinterTest::builtInPrinterWithAPreset()
     QVERIFY2(wrong.isEmpty(), wrong.constData());
 }
 
-QTEST_GUILESS_MAIN(DefaultPrinterTest)
+CORVEL_TEST(DefaultPrinterTest)
 #include "DefaultPrinterTest.moc"

@@ -4,6 +4,7 @@
 #include "CommandLine.h"
 #include "FileName.h"
 #include "ProgramRun.h"
+#include "TestMain.h"
 #include "WindowRun.h"
 
 #include <QtCore/QDir>
@@ -142,5 +143,5 @@ void PhotoArgumentsTest::outputFolder()
     QCOMPARE(folderOf({samplePhoto, u"--output=there"_s}), u"there"_s);
 }
 
-QTEST_GUILESS_MAIN(PhotoArgumentsTest)
+CORVEL_TEST(PhotoArgumentsTest)
 #include "PhotoArgumentsTest.moc"

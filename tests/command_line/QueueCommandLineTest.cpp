@@ -3,6 +3,7 @@
 
 #include "PrivateCupsd.h"
 #include "ProgramRun.h"
+#include "TestMain.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QElapsedTimer>
@@ -359,5 +360,5 @@ void QueueCommandLineTest::interruptedRunTakesItsJobsBack()
     QTRY_COMPARE(cupsd_.activeJobs(), QByteArray());
 }
 
-QTEST_GUILESS_MAIN(QueueCommandLineTest)
+CORVEL_TEST(QueueCommandLineTest)
 #include "QueueCommandLineTest.moc"

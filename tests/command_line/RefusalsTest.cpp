@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include "ProgramRun.h"
+#include "TestMain.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QFile>
@@ -345,5 +346,5 @@ void RefusalsTest::picture()
     verifyRefusal(runProgram(QStringList{u"--screenshot"_s, pathOf(u"out"_s)} + arguments), 1, {word});
 }
 
-QTEST_GUILESS_MAIN(RefusalsTest)
+CORVEL_TEST(RefusalsTest)
 #include "RefusalsTest.moc"

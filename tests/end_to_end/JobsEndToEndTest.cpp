@@ -7,6 +7,7 @@
 #include "PrivateCupsd.h"
 #include "QueueList.h"
 #include "StateText.h"
+#include "TestMain.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QElapsedTimer>
@@ -235,5 +236,5 @@ void JobsEndToEndTest::serverGoesWhileSending()
     }
 }
 
-QTEST_GUILESS_MAIN(JobsEndToEndTest)
+CORVEL_TEST(JobsEndToEndTest)
 #include "JobsEndToEndTest.moc"

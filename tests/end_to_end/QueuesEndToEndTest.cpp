@@ -6,6 +6,7 @@
 #include "PrivateCupsd.h"
 #include "QueueFinder.h"
 #include "QueueList.h"
+#include "TestMain.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QFile>
@@ -319,5 +320,5 @@ void QueuesEndToEndTest::failedSubmissionLeavesNothing()
     QCOMPARE(cupsd_.activeJobs(), QByteArray());
 }
 
-QTEST_GUILESS_MAIN(QueuesEndToEndTest)
+CORVEL_TEST(QueuesEndToEndTest)
 #include "QueuesEndToEndTest.moc"

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include "ProgramRun.h"
+#include "TestMain.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QElapsedTimer>
@@ -113,5 +114,5 @@ void ProgramFaultTest::killedWhilePrinting()
     QVERIFY(hits > 0);
 }
 
-QTEST_GUILESS_MAIN(ProgramFaultTest)
+CORVEL_TEST(ProgramFaultTest)
 #include "ProgramFaultTest.moc"

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include "AtomicFiles.h"
+#include "TestMain.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QFile>
@@ -105,5 +106,5 @@ void AtomicFilesTest::staleFilesGo()
     QVERIFY(!exists(u".corvel-print-new"_s) && !exists(u".corvel-print-earlier-1"_s));
 }
 
-QTEST_GUILESS_MAIN(AtomicFilesTest)
+CORVEL_TEST(AtomicFilesTest)
 #include "AtomicFilesTest.moc"

@@ -3,6 +3,7 @@
 
 #include "BuiltInPrinter.h"
 #include "SamplePhotos.h"
+#include "TestMain.h"
 
 #include <QtCore/QDirIterator>
 #include <QtCore/QJsonDocument>
@@ -257,5 +258,5 @@ void BuiltInPrinterTest::failuresLeaveNothing()
     QCOMPARE(names.nameFor(u"photo.jpg"_s), u"photo"_s);
 }
 
-QTEST_GUILESS_MAIN(BuiltInPrinterTest)
+CORVEL_TEST(BuiltInPrinterTest)
 #include "BuiltInPrinterTest.moc"

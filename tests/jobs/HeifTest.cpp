@@ -4,6 +4,7 @@
 #include "PdfWriter.h"
 #include "Photo.h"
 #include "SamplePhotos.h"
+#include "TestMain.h"
 
 #include <QtCore/QBuffer>
 #include <QtCore/QTemporaryDir>
@@ -183,5 +184,5 @@ void HeifTest::anotherSizeThanTold()
     QVERIFY(photo->preview(QSize(64, 64)).isNull());
 }
 
-QTEST_GUILESS_MAIN(HeifTest)
+CORVEL_TEST(HeifTest)
 #include "HeifTest.moc"

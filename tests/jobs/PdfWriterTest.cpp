@@ -4,6 +4,7 @@
 #include "PdfWriter.h"
 #include "PhotoPlacement.h"
 #include "SamplePhotos.h"
+#include "TestMain.h"
 
 #include <QtCore/QBuffer>
 #include <QtCore/QProcess>
@@ -416,5 +417,5 @@ void PdfWriterTest::faults()
     QVERIFY(!written.failure().text.isEmpty());
 }
 
-QTEST_GUILESS_MAIN(PdfWriterTest)
+CORVEL_TEST(PdfWriterTest)
 #include "PdfWriterTest.moc"

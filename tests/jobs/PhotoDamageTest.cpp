@@ -3,6 +3,7 @@
 
 #include "Photo.h"
 #include "SamplePhotos.h"
+#include "TestMain.h"
 #include "TiffDamage.h"
 
 #include <QtCore/QTemporaryDir>
@@ -145,5 +146,5 @@ void PhotoDamageTest::damagedTiffs()
     QVERIFY2(damage.has_value() == isDamaged, damage ? qPrintable(*damage) : "");
 }
 
-QTEST_GUILESS_MAIN(PhotoDamageTest)
+CORVEL_TEST(PhotoDamageTest)
 #include "PhotoDamageTest.moc"

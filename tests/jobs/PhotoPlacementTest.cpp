@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include "PhotoPlacement.h"
+#include "TestMain.h"
 
 #include <QtTest/QTest>
 
@@ -149,5 +150,5 @@ void PhotoPlacementTest::movesAsFarAsItGoes()
     QCOMPARE(after.turns, before.turns);
 }
 
-QTEST_APPLESS_MAIN(PhotoPlacementTest)
+CORVEL_TEST(PhotoPlacementTest)
 #include "PhotoPlacementTest.moc"

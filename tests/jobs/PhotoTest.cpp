@@ -7,6 +7,7 @@
 #include "PhotoFormat.h"
 #include "QuietDecoding.h"
 #include "SamplePhotos.h"
+#include "TestMain.h"
 
 #include <QtCore/QRegularExpression>
 #include <QtCore/QScopeGuard>
@@ -409,5 +410,5 @@ void PhotoTest::unreadableFormats()
              named.contains(u"plugins") ? PhotoFault::NeedsPackage : PhotoFault::UnknownType);
 }
 
-QTEST_GUILESS_MAIN(PhotoTest)
+CORVEL_TEST(PhotoTest)
 #include "PhotoTest.moc"

@@ -3,6 +3,7 @@
 
 #include "LVCorvelMainPDE.h"
 #include "PanelDriver.h"
+#include "TestMain.h"
 
 #include <QtTest/QTest>
 
@@ -157,5 +158,5 @@ void ModelTest::faultIsFoundAndShrunk()
              qUtf8Printable(found));
 }
 
-QTEST_MAIN(ModelTest)
+CORVEL_WIDGETS_TEST(ModelTest)
 #include "ModelTest.moc"

@@ -4,6 +4,7 @@
 #include "Bundle.h"
 #include "PanelHarness.h"
 #include "PrintDialogPlugin.h"
+#include "TestMain.h"
 
 #include <QtCore/QFile>
 #include <QtCore/QPluginLoader>
@@ -176,5 +177,5 @@ void FactoryTest::entry()
     QCOMPARE(dialog.log.size(), 2);
 }
 
-QTEST_MAIN(FactoryTest)
+CORVEL_WIDGETS_TEST(FactoryTest)
 #include "FactoryTest.moc"

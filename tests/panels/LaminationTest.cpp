@@ -6,6 +6,7 @@
 #include "PanelHarness.h"
 #include "RKTPPRMatrixPDEcorvel.h"
 #include "RadioMatrix.h"
+#include "TestMain.h"
 
 #include <QtTest/QTest>
 #include <QtWidgets/QCheckBox>
@@ -280,5 +281,5 @@ void LaminationTest::boundValueNamesAnOperation()
     QCOMPARE(panel.performed, isPerformed ? QStringList(name) : QStringList());
 }
 
-QTEST_MAIN(LaminationTest)
+CORVEL_WIDGETS_TEST(LaminationTest)
 #include "LaminationTest.moc"

@@ -7,6 +7,7 @@
 #include "LVSharpnessCorvelPDE.h"
 #include "PanelHarness.h"
 #include "RKTPPRMatrixPDEcorvel.h"
+#include "TestMain.h"
 
 #include <QtGui/QWheelEvent>
 #include <QtTest/QTest>
@@ -166,5 +167,5 @@ void PanelActionsTest::sendersThatAreNoControls()
     QCOMPARE(dialog.feedback->beeps, 0);
 }
 
-QTEST_MAIN(PanelActionsTest)
+CORVEL_WIDGETS_TEST(PanelActionsTest)
 #include "PanelActionsTest.moc"

@@ -303,5 +303,5 @@ void PanelProtocolTest::brokenPipe()
     QTRY_COMPARE(dialog.log, QStringList({text("caught a signal 13\n"), text("caught a signal 13\n")}));
 }
 
-QTEST_MAIN(PanelProtocolTest)
+CORVEL_WIDGETS_TEST(PanelProtocolTest)
 #include "PanelProtocolTest.moc"

@@ -5,6 +5,7 @@
 #include "LVCorvelMainPDE.h"
 #include "PanelHarness.h"
 #include "RadioMatrix.h"
+#include "TestMain.h"
 
 #include <QtCore/QLocale>
 #include <QtGui/QTextDocumentFragment>
@@ -240,5 +241,5 @@ void PanelViewsTest::germanPanel()
     QCOMPARE(panel->panelName(), QStringLiteral("Farbanpassung")); // kept once it is known
 }
 
-QTEST_MAIN(PanelViewsTest)
+CORVEL_WIDGETS_TEST(PanelViewsTest)
 #include "PanelViewsTest.moc"

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include "KitTest.h"
+#include "TestMain.h"
 
 #include "Bundle.h"
 #include "FormLoader.h"
@@ -258,4 +259,4 @@ void KitTest::forms()
     QCOMPARE(actedOn, QObjectList{slider});
 }
 
-QTEST_MAIN(KitTest)
+CORVEL_WIDGETS_TEST(KitTest)

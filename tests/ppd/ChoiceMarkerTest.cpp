@@ -4,6 +4,7 @@
 #include "ChoiceMarker.h"
 #include "PpdDocument.h"
 #include "SmallPpd.h"
+#include "TestMain.h"
 
 #include <QtCore/QRandomGenerator>
 #include <QtTest/QTest>
@@ -236,5 +237,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(ChoiceMarkerTest)
+CORVEL_TEST(ChoiceMarkerTest)
 #include "ChoiceMarkerTest.moc"

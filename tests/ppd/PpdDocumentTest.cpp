@@ -4,6 +4,7 @@
 #include "PpdDocument.h"
 #include "PpdCheck.h"
 #include "SmallPpd.h"
+#include "TestMain.h"
 
 #include <QtCore/QElapsedTimer>
 #include <QtCore/QFile>
@@ -385,5 +386,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(PpdDocumentTest)
+CORVEL_TEST(PpdDocumentTest)
 #include "PpdDocumentTest.moc"

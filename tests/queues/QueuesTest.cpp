@@ -9,6 +9,7 @@
 #include "QueueList.h"
 #include "StateText.h"
 #include "StubServer.h"
+#include "TestMain.h"
 
 #include <QtCore/QElapsedTimer>
 #include <QtCore/QFile>
@@ -387,5 +388,5 @@ void QueuesTest::noServerIsToldAtOnce()
     QCOMPARE(ppd.failure().reason, QueueFault::NoServer);
 }
 
-QTEST_GUILESS_MAIN(QueuesTest)
+CORVEL_TEST(QueuesTest)
 #include "QueuesTest.moc"

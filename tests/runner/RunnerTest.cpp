@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include "RunnerTest.h"
+#include "TestMain.h"
 
 #include "BackendRun.h"
 #include "PlatformException.h"
@@ -345,4 +346,4 @@ void RunnerTest::leavesTheLastBackendToItself()
     QTRY_COMPARE(openDescriptors(), descriptors);
 }
 
-QTEST_MAIN(RunnerTest)
+CORVEL_WIDGETS_TEST(RunnerTest)

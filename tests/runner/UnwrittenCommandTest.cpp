@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include "BackendRun.h"
+#include "TestMain.h"
 
 #include <QtTest/QTest>
 
@@ -27,5 +28,5 @@ void UnwrittenCommandTest::nothingIsWritten()
     QCOMPARE(input.readAll(), QByteArray());
 }
 
-QTEST_MAIN(UnwrittenCommandTest)
+CORVEL_WIDGETS_TEST(UnwrittenCommandTest)
 #include "UnwrittenCommandTest.moc"

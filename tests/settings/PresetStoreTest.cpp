@@ -5,6 +5,7 @@
 #include "LpoptionsFile.h"
 #include "PresetName.h"
 #include "QueueSettings.h"
+#include "TestMain.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QFile>
@@ -428,5 +429,5 @@ void PresetStoreTest::filesAreTheOwners()
     QVERIFY(QFileInfo(shared).permissions() & QFile::ReadOther);
 }
 
-QTEST_GUILESS_MAIN(PresetStoreTest)
+CORVEL_TEST(PresetStoreTest)
 #include "PresetStoreTest.moc"

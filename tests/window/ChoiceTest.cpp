@@ -3,6 +3,7 @@
 
 #include "ChoiceTest.h"
 #include "SystemLog.h"
+#include "TestMain.h"
 
 #include <QtCore/QFile>
 #include <QtGui/QAccessible>
@@ -287,4 +288,4 @@ void ChoiceTest::conflictOfTheJobIsSettled()
     QCOMPARE(opened.options()[u"Overcoat"_s].toString(), u"Glossy"_s);
 }
 
-QTEST_MAIN(ChoiceTest)
+CORVEL_WIDGETS_TEST(ChoiceTest)

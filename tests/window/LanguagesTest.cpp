@@ -5,6 +5,7 @@
 #include "HelpWindow.h"
 #include "OpenedDialog.h"
 #include "SystemLog.h"
+#include "TestMain.h"
 #include "WindowPlacement.h"
 
 #include <QtCore/QTranslator>
@@ -296,5 +297,5 @@ void LanguagesTest::helpIsInTheLanguage()
     QVERIFY2(url_.path().endsWith("Corvel9031Help"_L1 + page), qPrintable(url_.path()));
 }
 
-QTEST_MAIN(LanguagesTest)
+CORVEL_WIDGETS_TEST(LanguagesTest)
 #include "LanguagesTest.moc"

@@ -5,6 +5,7 @@
 #include "PrinterChooser.h"
 #include "StubServer.h"
 #include "SystemLog.h"
+#include "TestMain.h"
 
 #include <QtTest/QTest>
 #include <QtWidgets/QComboBox>
@@ -149,5 +150,5 @@ void MissingPrinterTest::manyQueuesThatGoAtOnce()
     QVERIFY(timeHere() - start < std::chrono::seconds(1));
 }
 
-QTEST_MAIN(MissingPrinterTest)
+CORVEL_WIDGETS_TEST(MissingPrinterTest)
 #include "MissingPrinterTest.moc"

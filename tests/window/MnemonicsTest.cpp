@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include "Mnemonics.h"
+#include "TestMain.h"
 
 #include <QtTest/QTest>
 
@@ -48,5 +49,5 @@ void MnemonicsTest::marks()
     QCOMPARE(letters.mark(texts), marked);
 }
 
-QTEST_GUILESS_MAIN(MnemonicsTest)
+CORVEL_TEST(MnemonicsTest)
 #include "MnemonicsTest.moc"

@@ -7,6 +7,7 @@
 #include "PhotoThreads.h"
 #include "PreviewWidget.h"
 #include "SamplePhotos.h"
+#include "TestMain.h"
 
 #include <QtCore/QBuffer>
 #include <QtCore/QDeadlineTimer>
@@ -382,5 +383,5 @@ void PhotoPaneTest::droppedFiles()
     QVERIFY(pane.findChild<PreviewWidget *>()->accessibleName().contains(u"caf\ufffd %41.jpg"_s));
 }
 
-QTEST_MAIN(PhotoPaneTest)
+CORVEL_WIDGETS_TEST(PhotoPaneTest)
 #include "PhotoPaneTest.moc"

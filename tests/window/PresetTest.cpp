@@ -6,6 +6,7 @@
 #include "PrivateCupsd.h"
 #include "PresetStore.h"
 #include "SystemLog.h"
+#include "TestMain.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QFile>
@@ -349,5 +350,5 @@ void PresetTest::builtInPrinterHasPresets()
     QVERIFY(!QFile::exists(PresetStore::userFile()));
 }
 
-QTEST_MAIN(PresetTest)
+CORVEL_WIDGETS_TEST(PresetTest)
 #include "PresetTest.moc"

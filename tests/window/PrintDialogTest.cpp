@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include "PrintDialogTest.h"
+#include "TestMain.h"
 
 #include "PrintWorker.h"
 #include "SystemLog.h"
@@ -198,4 +199,4 @@ void PrintDialogTest::cancelLeavesNothing()
     QVERIFY(QDir(config_->path()).isEmpty());
 }
 
-QTEST_MAIN(PrintDialogTest)
+CORVEL_WIDGETS_TEST(PrintDialogTest)

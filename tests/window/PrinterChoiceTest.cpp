@@ -4,6 +4,7 @@
 #include "OpenedDialog.h"
 #include "PrivateCupsd.h"
 #include "SystemLog.h"
+#include "TestMain.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QFile>
@@ -194,5 +195,5 @@ void PrinterChoiceTest::unknownQueue()
     QVERIFY(cupsd_.deleteQueue(u"nowhere"_s));
 }
 
-QTEST_MAIN(PrinterChoiceTest)
+CORVEL_WIDGETS_TEST(PrinterChoiceTest)
 #include "PrinterChoiceTest.moc"

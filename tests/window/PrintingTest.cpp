@@ -5,6 +5,7 @@
 #include "OpenedDialog.h"
 #include "PhotoPane.h"
 #include "SystemLog.h"
+#include "TestMain.h"
 
 #include <QtCore/QDir>
 #include <QtTest/QTest>
@@ -201,5 +202,5 @@ void PrintingTest::closing()
     }
 }
 
-QTEST_MAIN(PrintingTest)
+CORVEL_WIDGETS_TEST(PrintingTest)
 #include "PrintingTest.moc"

@@ -5,6 +5,7 @@
 #include "PrivateCupsd.h"
 #include "QueueCache.h"
 #include "SystemLog.h"
+#include "TestMain.h"
 
 #include <QtCore/QFile>
 #include <QtCore/QFileInfo>
@@ -341,5 +342,5 @@ void QueueWindowTest::manyJobs()
     QTRY_COMPARE(cupsd_.activeJobs(), QByteArray());
 }
 
-QTEST_MAIN(QueueWindowTest)
+CORVEL_WIDGETS_TEST(QueueWindowTest)
 #include "QueueWindowTest.moc"

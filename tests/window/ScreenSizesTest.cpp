@@ -4,6 +4,7 @@
 #include "HelpWindow.h"
 #include "OpenedDialog.h"
 #include "SystemLog.h"
+#include "TestMain.h"
 #include "ViewTags.h"
 
 #include <QtCore/QDataStream>
@@ -292,5 +293,5 @@ void ScreenSizesTest::placementFitsTheScreen()
     QVERIFY(opened.find<QPushButton>(u"print"_s)->isVisible());
 }
 
-QTEST_MAIN(ScreenSizesTest)
+CORVEL_WIDGETS_TEST(ScreenSizesTest)
 #include "ScreenSizesTest.moc"
