@@ -121,23 +121,23 @@ void FaultTest::savesOrKeepsSettings()
     QFETCH(const int, error);
     using Options = QMap<QString, QString>;
     for (const bool isBuiltIn : {false, true}) {
-        const auto store = PresetStore::open(u"photo"_s, isBuiltIn);
+        PresetStore store = PresetStore::of(u"photo"_s, isBuiltIn);
         const QString name = QLatin1String(call) + QString::number(error);
         Options before;
-        QVERIFY(!store->add(name, before));
+        QVERIFY(!store.add(name, before));
         bool isInjected = true;
         for (int number = 1; isInjected; ++number) {
             const Options options{{u"Red"_s, QString::number(number)}};
             armFault(call.constData(), error, number, Among::Files);
-            const SettingsFailure failure = store->update(name, options);
+            const SettingsFailure failure = store.update(name, options);
             isInjected = disarmFault();
             QVERIFY(!failure || (isInjected && error != EINTR));
             before = failure ? before : options;
-            const auto presets = store->presets();
+            const auto presets = store.presets();
             QVERIFY(presets && !presets->isEmpty() && presets->constLast().name == name);
             QCOMPARE(presets->constLast().options, before);
         }
-        QVERIFY(!store->remove(name));
+        QVERIFY(!store.remove(name));
     }
 }
 

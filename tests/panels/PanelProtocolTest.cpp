@@ -6,6 +6,7 @@
 #include "LVSharpnessCorvelPDE.h"
 #include "PanelHarness.h"
 #include "PlatformException.h"
+#include "TestMain.h"
 
 #include <QtCore/QTemporaryDir>
 #include <QtTest/QTest>
