@@ -42,16 +42,25 @@ std::optional<Difference> replay(const PanelTable &table, Mode mode, const Opene
 QString shrunk(const PanelTable &table, Mode mode, const Opener &open, Steps steps, Difference difference)
 {
     steps.resize(difference.step + 1);
+    const auto shows = [&](const Steps &fewer) {
+        const auto still = replay(table, mode, open, fewer);
+        if (still) {
+            steps = fewer.first(still->step + 1);
+            difference = *still;
+        }
+        return still.has_value();
+    };
     for (qsizetype piece = steps.size() / 2; piece > 0;) {
         const qsizetype before = steps.size();
         for (qsizetype at = 0; at < steps.size();) {
-            const Steps fewer = steps.first(at) + steps.mid(at + piece);
-            if (const auto still = replay(table, mode, open, fewer)) {
-                steps = fewer.first(still->step + 1);
-                difference = *still;
-            } else {
+            if (!shows(steps.first(at) + steps.mid(at + piece)))
                 at += piece;
-            }
+        }
+        // Two that undo each other.
+        for (qsizetype second = 1; piece == 1 && steps.size() == before && second < before; ++second) {
+            for (qsizetype first = 0; steps.size() == before && first < second; ++first)
+                shows(steps.first(first) + steps.sliced(first + 1, second - first - 1) +
+                      steps.mid(second + 1));
         }
         if (piece > 1 || steps.size() == before) // single steps are tried again while any can be left out
             piece /= 2;
