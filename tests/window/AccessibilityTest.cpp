@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include "OpenedDialog.h"
-#include "SystemLog.h"
 
 #include <QtCore/QEventLoop>
 #include <QtCore/QProcess>
@@ -10,14 +9,10 @@
 #include <QtDBus/QDBusConnection>
 #include <QtDBus/QDBusMessage>
 #include <QtDBus/QDBusPendingCallWatcher>
-#include <QtTest/QTest>
-#include <QtWidgets/QApplication>
 #include <QtWidgets/QMenu>
 #include <QtWidgets/QWidget>
 
-using namespace printdialog;
 using namespace testing_support;
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -77,7 +72,7 @@ struct Object
 } // namespace
 
 /// The window as it stands on the accessibility bus of a real desktop, which the offscreen platform lacks.
-class AccessibilityTest : public QObject
+class AccessibilityTest : public WindowTest
 {
     Q_OBJECT
 
@@ -108,7 +103,6 @@ private:
     QString missing_;
     mutable QString alertPath_;
     QStringList told_; ///< the objects that a screen reader was told to be shown
-    QTemporaryDir config_;
     QDBusConnection bus_ = QDBusConnection(u"none"_s);
 };
 
@@ -116,9 +110,6 @@ void AccessibilityTest::initTestCase()
 {
     if (!missing_.isEmpty())
         QSKIP(qPrintable(missing_));
-    pdekit::Feedback::install(std::make_shared<RecordingFeedback>());
-    pdekit::setSystemLogSink([](const QString &) {});
-    qputenv("XDG_CONFIG_HOME", QFile::encodeName(config_.path()));
     const auto call = QDBusMessage::createMethodCall(u"org.a11y.Bus"_s, u"/org/a11y/bus"_s, u"org.a11y.Bus"_s,
                                                      u"GetAddress"_s);
     const QDBusMessage address = QDBusConnection::sessionBus().call(call);
@@ -196,14 +187,14 @@ void AccessibilityTest::messagesAreAlerts()
     PrintDialogSetup setup = setupFor(PanelMode::Constraint);
     setup.options = {{u"Nope"_s, u"1"_s}};
     const OpenedDialog opened(setup);
-    QTRY_COMPARE(alerts(), QStringList{opened.dialog->message()});
-    QVERIFY(opened.dialog->message().contains(u"Nope"_s));
+    QTRY_COMPARE(alerts(), QStringList{opened.message()});
+    QVERIFY(opened.message().contains(u"Nope"_s));
     // The next one is told as well, although the bar is there already.
     ask({u"org.a11y.atspi.Registry"_s, u"/org/a11y/atspi/registry"_s}, u"org.a11y.atspi.Registry"_s,
         u"RegisterEvent"_s, {u"Object:StateChanged:Showing"_s});
     bus_.connect({}, {}, u"org.a11y.atspi.Event.Object"_s, u"StateChanged"_s, this, SLOT(note(QDBusMessage)));
     opened.dialog->saveSettings();
-    QTRY_COMPARE(alerts(), QStringList{opened.dialog->message()});
+    QTRY_COMPARE(alerts(), QStringList{opened.message()});
     const auto isToldAgain = [this, &opened] {
         opened.dialog->saveSettings();
         return told_.contains(alertPath_);
@@ -217,8 +208,8 @@ void AccessibilityTest::refusalsAreAlerts()
     QCOMPARE(alerts(), QStringList());
     opened.dialog->showPage(2);
     opened.click(u"matte"_s);
-    QVERIFY(opened.dialog->message().contains(u"Matte"_s));
-    QTRY_COMPARE(alerts(), QStringList{opened.dialog->message()});
+    QVERIFY(opened.message().contains(u"Matte"_s));
+    QTRY_COMPARE(alerts(), QStringList{opened.message()});
 }
 
 // What stands beside a field.

@@ -2,41 +2,17 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include "ChoiceTest.h"
-#include "SystemLog.h"
+#include "Rows.h"
 #include "TestMain.h"
 
-#include <QtCore/QFile>
 #include <QtGui/QAccessible>
 #include <QtGui/private/qguiapplication_p.h>
 #include <QtGui/qpa/qplatformaccessibility.h>
 #include <QtGui/qpa/qplatformintegration.h>
-#include <QtWidgets/QComboBox>
-#include <QtWidgets/QLineEdit>
-#include <QtWidgets/QPushButton>
-#include <QtWidgets/QSlider>
-#include <QtWidgets/QSpinBox>
 
 #include <algorithm>
 
-using namespace printdialog;
 using namespace testing_support;
-using namespace Qt::StringLiterals;
-
-namespace {
-
-QRect inWindow(const QWidget *widget)
-{
-    return {widget->mapTo(widget->window(), QPoint()), widget->size()};
-}
-
-} // namespace
-
-void ChoiceTest::initTestCase_data()
-{
-    QTest::addColumn<PanelMode>("mode");
-    QTest::newRow("constraint") << PanelMode::Constraint;
-    QTest::newRow("settings") << PanelMode::Settings;
-}
 
 // The model with all options, and constraints on every page.
 void ChoiceTest::initTestCase()
@@ -55,14 +31,6 @@ void ChoiceTest::initTestCase()
     QVERIFY(file.open(QIODevice::WriteOnly) && file.write(ppd) == ppd.size());
 }
 
-void ChoiceTest::init()
-{
-    pdekit::Feedback::install(std::make_shared<RecordingFeedback>());
-    pdekit::setSystemLogSink([](const QString &) {});
-    config_ = std::make_unique<QTemporaryDir>();
-    qputenv("XDG_CONFIG_HOME", QFile::encodeName(config_->path()));
-}
-
 PrintDialogSetup ChoiceTest::setup(PanelMode mode) const
 {
     PrintDialogSetup setup = setupFor(mode);
@@ -72,22 +40,16 @@ PrintDialogSetup ChoiceTest::setup(PanelMode mode) const
 
 void ChoiceTest::refusalIsExplainedBesideItsControl_data()
 {
-    QTest::addColumn<int>("page");
-    QTest::addColumn<int>("tag");
-    QTest::addColumn<QString>("sentence");
-    QTest::addColumn<QString>("offer");
-    QTest::newRow("number typed") << 0 << 81
-                                  << u"\"Red\" cannot be \"25\" while \"Print Quality\" is \"Standard\"."_s
-                                  << u"\"Print Quality\" to \"Fine\""_s;
-    QTest::newRow("slider moved") << 0 << 1
-                                  << u"\"Red\" cannot be \"25\" while \"Print Quality\" is \"Standard\"."_s
-                                  << u"\"Print Quality\" to \"Fine\""_s;
-    QTest::newRow("second page") << 1 << 81
-                                 << u"\"Sharpness Radius\" cannot be \"3\" while \"Blue\" is \"0\"."_s
-                                 << u"\"Blue\" to"_s;
-    QTest::newRow("radio button")
-        << 2 << 2 << u"\"Surface Finish\" cannot be \"Matte\" while \"Print Quality\" is \"Standard\"."_s
-        << u"\"Print Quality\" to \"Fine\""_s;
+    const QString red = u"\"Red\" cannot be \"25\" while \"Print Quality\" is \"Standard\"."_s;
+    const QString radius = u"\"Sharpness Radius\" cannot be \"3\" while \"Blue\" is \"0\"."_s;
+    const QString finish =
+        u"\"Surface Finish\" cannot be \"Matte\" while \"Print Quality\" is \"Standard\"."_s;
+    addRows<int, int, QString, QString>({
+        {"number typed", 0, 81, red, u"\"Print Quality\" to \"Fine\""_s},
+        {"slider moved", 0, 1, red, u"\"Print Quality\" to \"Fine\""_s},
+        {"second page", 1, 81, radius, u"\"Blue\" to"_s},
+        {"radio button", 2, 2, finish, u"\"Print Quality\" to \"Fine\""_s},
+    });
 }
 
 void ChoiceTest::refusalIsExplainedBesideItsControl()
@@ -95,10 +57,7 @@ void ChoiceTest::refusalIsExplainedBesideItsControl()
     QFETCH_GLOBAL(PanelMode, mode);
     if (mode == PanelMode::Settings)
         return; // nothing is refused before the job is made
-    QFETCH(int, page);
-    QFETCH(int, tag);
-    QFETCH(QString, sentence);
-    QFETCH(QString, offer);
+    const auto [page, tag, sentence, offer] = row<int, int, QString, QString>();
     const OpenedDialog opened(setup(mode));
     opened.dialog->showPage(page);
     QWidget *control = opened.control(tag);
@@ -112,13 +71,15 @@ void ChoiceTest::refusalIsExplainedBesideItsControl()
 
     auto *callout = opened.find<QWidget>(u"callout"_s);
     QVERIFY(callout->isVisible());
-    QCOMPARE(opened.dialog->message(), sentence);
+    QCOMPARE(opened.message(), sentence);
     QCOMPARE(QAccessible::queryAccessibleInterface(callout)->text(QAccessible::Name), sentence);
+    QCOMPARE(feedback_->beeps, 1);
+    QVERIFY(page != 2 || opened.find<QRadioButton>(u"glossy"_s)->isChecked());
     const QRect box = inWindow(callout);
     QVERIFY(!box.intersects(inWindow(control)));
     QVERIFY(inWindow(opened.control(tag)->window()).contains(box));
     QVERIFY(box.intersects(inWindow(control).adjusted(0, -2, 0, 2)));
-    QVERIFY(!opened.find<QWidget>(u"message"_s)->isVisible());
+    QVERIFY(!opened.isSeen(u"message"_s));
     QVERIFY(opened.find<QPushButton>(u"calloutOffer"_s)->text().contains(offer));
     QVERIFY(!callout->isAncestorOf(QApplication::focusWidget()));
     // The keyboard goes on from the control to the offer.
@@ -169,7 +130,8 @@ void ChoiceTest::calloutGoesByKeyAndByTheNextChoice()
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space); // its button
     QVERIFY(!callout->isVisible());
-    QCOMPARE(QApplication::focusWidget(), radio(opened, u"matte"_s)); // from there the keyboard goes on
+    QCOMPARE(QApplication::focusWidget(),
+             opened.find<QRadioButton>(u"matte"_s)); // from there the keyboard goes on
     opened.click(u"matte"_s);
     opened.click(u"calloutClose"_s);
     QVERIFY(!callout->isVisible());
@@ -201,19 +163,17 @@ void ChoiceTest::offerMakesTheChoiceAndOneStep()
     QTRY_VERIFY(!opened.find<QWidget>(u"callout"_s)
                      ->isVisible()); // a button pressed by its key stays down for a while
     QCOMPARE(opened.fieldText(81), u"25"_s);
-    QCOMPARE(qobject_cast<QSlider *>(opened.control(1))->value(), 25);
+    QCOMPARE(opened.slider(1)->value(), 25);
     opened.dialog->showPage(2);
-    QVERIFY(radio(opened, u"fine"_s)->isChecked());
-    pressUndo(opened);
-    QVERIFY(radio(opened, u"standard"_s)->isChecked());
+    QVERIFY(opened.find<QRadioButton>(u"fine"_s)->isChecked());
+    opened.undo();
+    QVERIFY(opened.find<QRadioButton>(u"standard"_s)->isChecked());
     opened.dialog->showPage(0);
     QCOMPARE(opened.fieldText(81), u"2"_s);
-    pressRedo(opened);
+    opened.redo();
     QCOMPARE(opened.fieldText(81), u"25"_s);
-    opened.click(u"print"_s);
-    QTRY_VERIFY(opened.hasPrinted());
-    QCOMPARE(opened.options()[u"Quality"_s].toString(), u"Fine"_s);
-    QCOMPARE(opened.options()[u"Red"_s].toString(), u"25"_s);
+    QVERIFY(opened.prints());
+    QCOMPARE(opened.printed(u"Quality Red"_s), u"Fine 25"_s);
 }
 
 // The way out would be another page size, which is for the user alone to change.
@@ -224,14 +184,14 @@ void ChoiceTest::noOfferWithoutAWay()
     opened.type(82, u"7"_s);
     if (mode == PanelMode::Settings) {
         opened.click(u"print"_s);
-        QVERIFY(!opened.find<QWidget>(u"messageAction"_s)->isVisible() ||
+        QVERIFY(!opened.isSeen(u"messageAction"_s) ||
                 opened.find<QPushButton>(u"messageAction"_s)->text().contains(u"Green"_s));
     } else {
-        QVERIFY(opened.find<QWidget>(u"callout"_s)->isVisible());
-        QVERIFY2(!opened.find<QWidget>(u"calloutOffer"_s)->isVisible(),
+        QVERIFY(opened.isSeen(u"callout"_s));
+        QVERIFY2(!opened.isSeen(u"calloutOffer"_s),
                  qPrintable(opened.find<QPushButton>(u"calloutOffer"_s)->text()));
     }
-    QVERIFY(opened.dialog->message().contains(u"Green"_s) && opened.dialog->message().contains(u"4 x 6"_s));
+    QVERIFY(opened.message().contains(u"Green"_s) && opened.message().contains(u"4 x 6"_s));
     QVERIFY(!opened.hasPrinted());
 }
 
@@ -253,7 +213,7 @@ void ChoiceTest::refusedPageSize()
     opened.click(u"calloutOffer"_s);
     QVERIFY(sizes->currentText() != before);
     QVERIFY(opened.fieldText(87) != u"2"_s);
-    pressUndo(opened);
+    opened.undo();
     QCOMPARE(sizes->currentText(), before);
     QCOMPARE(opened.fieldText(87), u"2"_s);
 }
@@ -269,23 +229,25 @@ void ChoiceTest::conflictOfTheJobIsSettled()
     opened.click(u"matte"_s);
     opened.click(u"print"_s);
     QVERIFY(!opened.hasPrinted());
-    QCOMPARE(opened.dialog->message(),
+    QCOMPARE(opened.message(),
              u"\"Surface Finish\" cannot be \"Matte\" while \"Print Quality\" is \"Standard\"."_s);
     opened.click(u"messageAction"_s);
-    QCOMPARE(opened.dialog->message(), QString());
-    QVERIFY(radio(opened, u"fine"_s)->isChecked() && radio(opened, u"matte"_s)->isChecked());
+    QCOMPARE(opened.message(), QString());
+    QVERIFY(opened.find<QRadioButton>(u"fine"_s)->isChecked() &&
+            opened.find<QRadioButton>(u"matte"_s)->isChecked());
     opened.click(u"standard"_s);
     opened.click(u"print"_s);
-    QCOMPARE(opened.dialog->message(),
+    QCOMPARE(opened.message(),
              u"\"Print Quality\" cannot be \"Standard\" while \"Surface Finish\" is \"Matte\"."_s);
     opened.click(u"messageAction"_s);
-    QVERIFY(radio(opened, u"standard"_s)->isChecked() && radio(opened, u"glossy"_s)->isChecked());
-    pressUndo(opened);
-    QVERIFY(radio(opened, u"standard"_s)->isChecked() && radio(opened, u"matte"_s)->isChecked());
-    pressRedo(opened);
-    opened.click(u"print"_s);
-    QTRY_VERIFY(opened.hasPrinted());
-    QCOMPARE(opened.options()[u"Overcoat"_s].toString(), u"Glossy"_s);
+    QVERIFY(opened.find<QRadioButton>(u"standard"_s)->isChecked() &&
+            opened.find<QRadioButton>(u"glossy"_s)->isChecked());
+    opened.undo();
+    QVERIFY(opened.find<QRadioButton>(u"standard"_s)->isChecked() &&
+            opened.find<QRadioButton>(u"matte"_s)->isChecked());
+    opened.redo();
+    QVERIFY(opened.prints());
+    QCOMPARE(opened.printed(u"Overcoat"_s), u"Glossy"_s);
 }
 
 CORVEL_WIDGETS_TEST(ChoiceTest)

@@ -5,20 +5,14 @@
 
 #include "OpenedDialog.h"
 
-#include <QtTest/QTest>
-#include <QtWidgets/QApplication>
-#include <QtWidgets/QRadioButton>
-
-Q_DECLARE_METATYPE(printdialog::PanelMode)
 /// Choices in the window: refused with a way out, taken back, kept for the next time.
-class ChoiceTest : public QObject
+class ChoiceTest : public testing_support::WindowTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase_data();
+    void initTestCase_data() { addModes(); }
     void initTestCase();
-    void init();
     void refusalIsExplainedBesideItsControl_data();
     void refusalIsExplainedBesideItsControl();
     void screenReaderIsTold();
@@ -39,21 +33,5 @@ private Q_SLOTS:
 
 private:
     printdialog::PrintDialogSetup setup(printdialog::PanelMode mode) const;
-    static QRadioButton *radio(const testing_support::OpenedDialog &opened, const QString &name)
-    {
-        return opened.find<QRadioButton>(name);
-    }
-    static void pressUndo(const testing_support::OpenedDialog &opened)
-    {
-        QTest::keyClick(QApplication::focusWidget() ? QApplication::focusWidget() : opened.dialog.get(),
-                        Qt::Key_Z, Qt::ControlModifier);
-    }
-    static void pressRedo(const testing_support::OpenedDialog &opened)
-    {
-        QTest::keyClick(QApplication::focusWidget() ? QApplication::focusWidget() : opened.dialog.get(),
-                        Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
-    }
-
     QTemporaryDir folder_;
-    std::unique_ptr<QTemporaryDir> config_;
 };

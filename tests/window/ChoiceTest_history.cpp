@@ -3,16 +3,7 @@
 
 #include "ChoiceTest.h"
 
-#include <QtCore/QFile>
-#include <QtWidgets/QComboBox>
-#include <QtWidgets/QLineEdit>
-#include <QtWidgets/QPushButton>
-#include <QtWidgets/QSlider>
-#include <QtWidgets/QSpinBox>
-
-using namespace printdialog;
 using namespace testing_support;
-using namespace Qt::StringLiterals;
 
 // Steps back and forward, and what is kept for the next time.
 
@@ -22,53 +13,49 @@ void ChoiceTest::undoAndRedo()
     const OpenedDialog opened(setup(mode));
     auto *sizes = opened.find<QComboBox>(u"pageSize"_s);
     const int size = sizes->currentIndex();
-    pressUndo(opened); // there is nothing to undo yet
+    opened.undo(); // there is nothing to undo yet
     opened.type(81, u"-12"_s);
     opened.dialog->showPage(2);
     opened.click(u"fine"_s);
-    sizes->setFocus();
-    QTest::keyClick(sizes, Qt::Key_End);
+    opened.chooseLast(u"pageSize"_s);
     auto *copies = opened.find<QSpinBox>(u"copies"_s);
     copies->setFocus();
     QTest::keyClick(copies, Qt::Key_Up);
     QTest::keyClick(copies, Qt::Key_Up);
     QCOMPARE(copies->value(), 3);
 
-    pressUndo(opened); // with the focus in a field that has an undo of its own
+    opened.undo(); // with the focus in a field that has an undo of its own
     QCOMPARE(copies->value(), 1);
-    pressUndo(opened);
+    opened.undo();
     QCOMPARE(sizes->currentIndex(), size);
-    pressUndo(opened);
-    QVERIFY(radio(opened, u"standard"_s)->isChecked());
+    opened.undo();
+    QVERIFY(opened.find<QRadioButton>(u"standard"_s)->isChecked());
     opened.dialog->showPage(0);
     opened.control(81)->setFocus();
-    pressUndo(opened);
+    opened.undo();
     QCOMPARE(opened.fieldText(81), u"0"_s);
-    QCOMPARE(qobject_cast<QSlider *>(opened.control(1))->value(), 0);
-    pressUndo(opened);
+    QCOMPARE(opened.slider(1)->value(), 0);
+    opened.undo();
     QCOMPARE(opened.fieldText(81), u"0"_s);
     for (int i = 0; i < 5; ++i)
-        pressRedo(opened);
+        opened.redo();
     QCOMPARE(opened.fieldText(81), u"-12"_s);
-    QVERIFY(radio(opened, u"fine"_s)->isChecked());
+    QVERIFY(opened.find<QRadioButton>(u"fine"_s)->isChecked());
     QCOMPARE(copies->value(), 3);
-    pressUndo(opened);
+    opened.undo();
     opened.type(82, u"4"_s); // another way: there is nothing to redo any more
-    pressRedo(opened);
+    opened.redo();
     QCOMPARE(copies->value(), 1);
-    opened.click(u"print"_s);
-    QTRY_VERIFY(opened.hasPrinted());
-    QCOMPARE(opened.options()[u"Red"_s].toString(), u"-12"_s);
-    QCOMPARE(opened.options()[u"Green"_s].toString(), u"4"_s);
-    QCOMPARE(opened.options()[u"Quality"_s].toString(), u"Fine"_s);
-    QCOMPARE(opened.options()[u"PageSize"_s].toString(), sizes->itemData(sizes->count() - 1).toString());
+    QVERIFY(opened.prints());
+    QCOMPARE(opened.printed(u"Red Green Quality PageSize"_s),
+             u"-12 4 Fine "_s + sizes->itemData(sizes->count() - 1).toString());
 }
 
 void ChoiceTest::oneActIsOneStep()
 {
     QFETCH_GLOBAL(PanelMode, mode);
     const OpenedDialog opened(setup(mode));
-    auto *slider = qobject_cast<QSlider *>(opened.control(3));
+    auto *slider = opened.slider(3);
     const auto drag = [slider](int from, int to) {
         const auto at = [slider](int percent) {
             return QPoint(slider->width() * percent / 100, slider->height() / 2);
@@ -89,17 +76,17 @@ void ChoiceTest::oneActIsOneStep()
     // A button that makes many choices.
     QTest::mouseClick(opened.control(16), Qt::LeftButton);
     QCOMPARE(slider->value(), 0);
-    pressUndo(opened);
-    QCOMPARE(opened.fieldText(81) + u' ' + opened.fieldText(82), u"11 12"_s);
+    opened.undo();
+    QCOMPARE(opened.fieldTexts({81, 82}), u"11 12"_s);
     QVERIFY(slider->value() > first);
-    pressUndo(opened);
-    QCOMPARE(opened.fieldText(81) + u' ' + opened.fieldText(82), u"11 0"_s);
-    pressUndo(opened);
+    opened.undo();
+    QCOMPARE(opened.fieldTexts({81, 82}), u"11 0"_s);
+    opened.undo();
     QCOMPARE(opened.fieldText(81), u"0"_s);
     QVERIFY(slider->value() > first);
-    pressUndo(opened);
+    opened.undo();
     QCOMPARE(slider->value(), first);
-    pressUndo(opened);
+    opened.undo();
     QCOMPARE(slider->value(), 0);
 }
 
@@ -118,12 +105,11 @@ void ChoiceTest::undoOfChoicesThatAllowEachOtherOnlyTogether()
     const QString settled = opened.fieldText(contrast);
     QVERIFY(settled != u"0"_s);
     for (int i = 0; i < 4; ++i)
-        pressUndo(opened);
-    QCOMPARE(opened.fieldText(saturation) + opened.fieldText(contrast), u"00"_s);
+        opened.undo();
+    QCOMPARE(opened.fieldTexts({saturation, contrast}), u"0 0"_s);
     for (int i = 0; i < 4; ++i)
-        pressRedo(opened);
-    QCOMPARE(opened.fieldText(saturation), u"5"_s);
-    QCOMPARE(opened.fieldText(contrast), settled);
+        opened.redo();
+    QCOMPARE(opened.fieldTexts({saturation, contrast}), u"5 "_s + settled);
 }
 
 void ChoiceTest::revertIsAStep()
@@ -139,10 +125,10 @@ void ChoiceTest::revertIsAStep()
     opened.type(82, u"9"_s);
     QVERIFY(revert->isEnabled());
     revert->trigger();
-    QCOMPARE(opened.fieldText(81) + opened.fieldText(82), u"30"_s);
+    QCOMPARE(opened.fieldTexts({81, 82}), u"3 0"_s);
     QVERIFY(!revert->isEnabled());
-    pressUndo(opened);
-    QCOMPARE(opened.fieldText(81) + opened.fieldText(82), u"99"_s);
+    opened.undo();
+    QCOMPARE(opened.fieldTexts({81, 82}), u"9 9"_s);
 }
 
 void ChoiceTest::printingKeepsTheChoices()
@@ -152,32 +138,26 @@ void ChoiceTest::printingKeepsTheChoices()
         const OpenedDialog opened(setup(mode));
         opened.type(81, u"5"_s);
         opened.find<QSpinBox>(u"copies"_s)->setValue(4);
-        auto *sizes = opened.find<QComboBox>(u"pageSize"_s);
-        sizes->setFocus();
-        QTest::keyClick(sizes, Qt::Key_End);
-        opened.click(u"print"_s);
-        QTRY_VERIFY(opened.hasPrinted());
+        opened.chooseLast(u"pageSize"_s);
+        QVERIFY(opened.prints());
     }
     const OpenedDialog opened(setup(mode));
     QCOMPARE(opened.fieldText(81), u"5"_s);
     QCOMPARE(opened.find<QSpinBox>(u"copies"_s)->value(), 4);
     auto *sizes = opened.find<QComboBox>(u"pageSize"_s);
     QCOMPARE(sizes->currentIndex(), sizes->count() - 1);
-    pressUndo(opened); // how it opened is where it begins
+    opened.undo(); // how it opened is where it begins
     QCOMPARE(opened.fieldText(81), u"5"_s);
 }
 
 void ChoiceTest::cancelKeepsNothing()
 {
     QFETCH_GLOBAL(PanelMode, mode);
-    {
-        const OpenedDialog opened(setup(mode));
-        opened.type(81, u"5"_s);
-        opened.click(u"cancel"_s);
-        QVERIFY(!opened.dialog->isVisible());
-    }
     const OpenedDialog opened(setup(mode));
-    QCOMPARE(opened.fieldText(81), u"0"_s);
+    opened.type(81, u"5"_s);
+    opened.click(u"cancel"_s);
+    QVERIFY(!opened.dialog->isVisible() && !opened.hasPrinted());
+    QVERIFY(QDir(config_->path()).isEmpty());
 }
 
 // Saved by another version, or for another PPD: what cannot be together is left out, and said.
@@ -193,11 +173,8 @@ void ChoiceTest::keptChoicesThatConflict()
     file.close();
     const OpenedDialog opened(setup(mode));
     for (const QString &part : {u"Surface Finish"_s, u"Matte"_s, u"999"_s, u"Gone"_s, u"copies"_s})
-        QVERIFY2(opened.dialog->message().contains(part), qPrintable(opened.dialog->message()));
+        QVERIFY2(opened.message().contains(part), qPrintable(opened.message()));
     QCOMPARE(opened.fieldText(81), u"8"_s);
-    opened.click(u"print"_s);
-    QTRY_VERIFY(opened.hasPrinted());
-    QCOMPARE(opened.options()[u"Quality"_s].toString(), u"Standard"_s);
-    QCOMPARE(opened.options()[u"Overcoat"_s].toString(), u"Glossy"_s);
-    QCOMPARE(opened.options()[u"Red"_s].toString(), u"8"_s);
+    QVERIFY(opened.prints());
+    QCOMPARE(opened.printed(u"Quality Overcoat Red Blue"_s), u"Standard Glossy 8 0"_s);
 }

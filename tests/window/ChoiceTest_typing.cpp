@@ -3,14 +3,10 @@
 
 #include "ChoiceTest.h"
 
-#include <QtCore/QFile>
 #include <QtCore/QJsonDocument>
 #include <QtWidgets/QAbstractButton>
-#include <QtWidgets/QSlider>
 
-using namespace printdialog;
 using namespace testing_support;
-using namespace Qt::StringLiterals;
 
 // Numbers that are not finished: what is shown is what is printed.
 
@@ -34,7 +30,7 @@ void ChoiceTest::numberLeftUnfinished()
         QTest::keyClick(opened.control(81), Qt::Key_Tab);
     else
         opened.find<QAbstractButton>(button)->click(); // by its key, with the focus in the field
-    const auto *slider = qobject_cast<QSlider *>(opened.control(1));
+    const auto *slider = opened.slider(1);
     // The print system goes by what is marked; without it there is the default, and a word about it.
     const bool isMarked = mode == PanelMode::Constraint;
     const QString shown = isMarked ? u"-12"_s : u"0"_s;
@@ -42,15 +38,14 @@ void ChoiceTest::numberLeftUnfinished()
     QCOMPARE(slider->value(), shown.toInt());
     if (button != u"print")
         opened.click(u"print"_s);
-    QTRY_VERIFY(opened.dialog->message().contains(u"sample.pdf"_s));
-    QCOMPARE(opened.dialog->message().contains(u"only the beginning of a number"_s),
-             !isMarked && button != u"save");
+    QTRY_VERIFY(opened.message().contains(u"sample.pdf"_s));
+    QCOMPARE(opened.message().contains(u"only the beginning of a number"_s), !isMarked && button != u"save");
     QCOMPARE(opened.options()[u"Red"_s].toString(), shown);
     QFile ticket(opened.folder.filePath(u"out/sample.ticket.json"_s));
     QVERIFY(ticket.open(QIODevice::ReadOnly));
     const QJsonObject summary = QJsonDocument::fromJson(ticket.readAll()).object()[u"summary"_s].toObject();
     QCOMPARE(summary[u"Red"_s].toString(), shown);
     QCOMPARE(opened.fieldText(81), shown);
-    pressUndo(opened); // back to what was there before that
+    opened.undo(); // back to what was there before that
     QCOMPARE(opened.fieldText(81), isMarked ? u"0"_s : u"-12"_s);
 }

@@ -4,27 +4,20 @@
 #include "Bundle.h"
 #include "HelpWindow.h"
 #include "OpenedDialog.h"
-#include "SystemLog.h"
 #include "TestMain.h"
 #include "WindowPlacement.h"
 
 #include <QtCore/QTranslator>
 #include <QtGui/QAccessible>
 #include <QtGui/QDesktopServices>
-#include <QtTest/QTest>
 #include <QtWidgets/QAbstractButton>
-#include <QtWidgets/QApplication>
-#include <QtWidgets/QLabel>
-#include <QtWidgets/QSlider>
 #include <QtWidgets/QTabBar>
 #include <QtWidgets/QTabWidget>
 #include <QtWidgets/QTextBrowser>
 
 #include <algorithm>
 
-using namespace printdialog;
 using namespace testing_support;
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -70,7 +63,7 @@ QMap<QString, QStringList> mnemonics(const QWidget &window)
 
 /// The window in each of its languages, on each of its pages: nothing cut off, no key taken twice, everything
 /// named for a screen reader.
-class LanguagesTest : public QObject
+class LanguagesTest : public WindowTest
 {
     Q_OBJECT
 
@@ -91,7 +84,6 @@ private Q_SLOTS:
 private:
     QUrl url_;
     QTranslator translator_;
-    QTemporaryDir config_;
 };
 
 void LanguagesTest::initTestCase_data()
@@ -104,12 +96,8 @@ void LanguagesTest::initTestCase_data()
 void LanguagesTest::init()
 {
     QFETCH_GLOBAL(QString, language);
-    pdekit::setSystemLogSink([](const QString &) {});
-    qputenv("XDG_CONFIG_HOME", QFile::encodeName(config_.path()));
-    QLocale::setDefault(QLocale(language));
-    QVERIFY(translator_.load(
-        QStringLiteral("%1/corvel-print_%2.qm").arg(QStringLiteral(CORVEL_TRANSLATIONS_DIR), language)));
-    QCoreApplication::installTranslator(&translator_);
+    WindowTest::init();
+    QVERIFY(speak(translator_, language));
 }
 
 void LanguagesTest::cleanup()
@@ -120,7 +108,7 @@ void LanguagesTest::cleanup()
 
 void LanguagesTest::textsFit()
 {
-    const OpenedDialog opened(PanelMode::Constraint);
+    const OpenedDialog opened;
     for (int page = 0; page < opened.dialog->pageCount(); ++page) {
         opened.dialog->showPage(page);
         QCoreApplication::processEvents();
@@ -139,7 +127,7 @@ void LanguagesTest::textsFit()
 
 void LanguagesTest::keysAreUnique()
 {
-    const OpenedDialog opened(PanelMode::Constraint);
+    const OpenedDialog opened;
     const auto clashes = [](const OpenedDialog &dialog) {
         QStringList found;
         const auto all = mnemonics(*dialog.dialog);
@@ -155,7 +143,7 @@ void LanguagesTest::keysAreUnique()
         opened.dialog->print();
         QCOMPARE(clashes(opened), QStringList());
         QTest::keyClick(opened.dialog.get(), Qt::Key_Escape); // asks
-        QVERIFY(opened.find<QWidget>(u"messageAction"_s)->isVisible());
+        QVERIFY(opened.isSeen(u"messageAction"_s));
         QCOMPARE(clashes(opened), QStringList());
         QTRY_VERIFY(opened.find<QWidget>(u"print"_s)->isEnabled());
         QCOMPARE(clashes(opened), QStringList());
@@ -167,7 +155,7 @@ void LanguagesTest::keysAreUnique()
         refusing.click(u"matte"_s);
         if (mode == PanelMode::Settings)
             refusing.dialog->print();
-        QCOMPARE(refusing.find<QWidget>(u"calloutOffer"_s)->isVisible(), mode == PanelMode::Constraint);
+        QCOMPARE(refusing.isSeen(u"calloutOffer"_s), mode == PanelMode::Constraint);
         QCOMPARE(clashes(refusing), QStringList());
     }
 }
@@ -175,7 +163,7 @@ void LanguagesTest::keysAreUnique()
 // To every page from every other one, and on each to some of the plug-in's controls.
 void LanguagesTest::keysLeadToPagesAndControls()
 {
-    const OpenedDialog opened(PanelMode::Constraint);
+    const OpenedDialog opened;
     const auto *pages = opened.find<QTabWidget>(u"panels"_s);
     const auto press = [&opened](const QString &text) {
         const QKeySequence letter = QKeySequence::mnemonic(text);
@@ -203,7 +191,7 @@ void LanguagesTest::keysLeadToPagesAndControls()
 // Through the interface that a screen reader asks: what it is, what it is called, what it stands for.
 void LanguagesTest::controlsAreNamed()
 {
-    const OpenedDialog opened(PanelMode::Constraint);
+    const OpenedDialog opened;
     for (int page = 0; page < opened.dialog->pageCount(); ++page) {
         opened.dialog->showPage(page);
         for (QWidget *widget : opened.dialog->findChildren<QWidget *>()) {
@@ -235,7 +223,7 @@ void LanguagesTest::controlsAreNamed()
 // With the language's decimal separator; the range stands beside the field, and a number out of it is told.
 void LanguagesTest::numbersAsPeopleTypeThem()
 {
-    const OpenedDialog opened(PanelMode::Constraint);
+    const OpenedDialog opened;
     opened.type(81, u"99"_s);
     QCOMPARE(opened.fieldText(81), u"9"_s);
     const auto *note = opened.find<QLabel>(u"numberNote"_s);
@@ -247,8 +235,8 @@ void LanguagesTest::numbersAsPeopleTypeThem()
             const auto *range = opened.find<QLabel>(field->objectName().replace(u"Field"_s, u"Range"_s));
             QVERIFY(range && range->isVisible() && range->text().contains(u"25"_s) == (page == 0));
             QCOMPARE(field->accessibleDescription(), range->text());
-            const QRect text(range->mapTo(opened.dialog.get(), QPoint()), range->size());
-            const QRect box(field->mapTo(opened.dialog.get(), QPoint()), field->size());
+            const QRect text = inWindow(range);
+            const QRect box = inWindow(field);
             const bool isBeside =
                 text.left() > box.right() && std::abs(text.center().y() - box.center().y()) <= 1;
             QVERIFY(isBeside || (text.top() > box.bottom() && text.right() == box.right()));
@@ -258,23 +246,21 @@ void LanguagesTest::numbersAsPeopleTypeThem()
     QCOMPARE(opened.fieldText(82), u"1.5"_s);
     QTest::keyClick(opened.control(82), Qt::Key_Tab);
     QCOMPARE(opened.fieldText(82), u"1.50"_s);
-    QCOMPARE(opened.dialog->message(), QString());
-    opened.click(u"print"_s);
-    QTRY_VERIFY(opened.hasPrinted());
-    QCOMPARE(opened.options()[u"SharpnessIntensity"_s].toString(), u"1.50"_s);
-    QCOMPARE(opened.options()[u"Red"_s].toString(), u"9"_s);
+    QCOMPARE(opened.message(), QString());
+    QVERIFY(opened.prints());
+    QCOMPARE(opened.printed(u"SharpnessIntensity Red"_s), u"1.50 9"_s);
 }
 
 void LanguagesTest::placementIsKept()
 {
     QSize size;
     {
-        const OpenedDialog opened(PanelMode::Constraint);
+        const OpenedDialog opened;
         size = opened.dialog->size() + QSize(60, 40);
         opened.dialog->resize(size);
         QVERIFY(WindowPlacement::save(opened.dialog->saveGeometry()));
     }
-    const OpenedDialog again(PanelMode::Constraint);
+    const OpenedDialog again;
     QVERIFY(again.dialog->restoreGeometry(WindowPlacement::load()));
     QCOMPARE(again.dialog->size(), size);
 }

@@ -3,95 +3,66 @@
 
 #include "OpenedDialog.h"
 #include "PrinterChooser.h"
+#include "Rows.h"
 #include "StubServer.h"
-#include "SystemLog.h"
 #include "TestMain.h"
-
-#include <QtTest/QTest>
-#include <QtWidgets/QComboBox>
-#include <QtWidgets/QPushButton>
 
 #include <chrono>
 #include <ctime>
 
-using namespace printdialog;
 using namespace testing_support;
-using namespace Qt::StringLiterals;
 
 /// The window when its printer, or the print server, is not there.
-class MissingPrinterTest : public QObject
+class MissingPrinterTest : public WindowTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
-    void init();
     void defaultThatIsNotThere_data();
     void defaultThatIsNotThere();
     void noDefaultKnown();
     void presetThatIsNotThere();
     void manyQueuesThatGoAtOnce();
-
-private:
-    std::unique_ptr<QTemporaryDir> home_;
 };
-
-void MissingPrinterTest::initTestCase()
-{
-    pdekit::setSystemLogSink([](const QString &) {});
-}
-
-void MissingPrinterTest::init()
-{
-    pdekit::Feedback::install(std::make_shared<RecordingFeedback>());
-    home_ = std::make_unique<QTemporaryDir>();
-    for (const char *name : {"HOME", "XDG_CONFIG_HOME", "XDG_CACHE_HOME"})
-        qputenv(name, QFile::encodeName(home_->path()));
-    for (const char *name : {"LPDEST", "PRINTER"})
-        qunsetenv(name);
-}
 
 void MissingPrinterTest::defaultThatIsNotThere_data()
 {
-    using Manner = std::optional<StubServer::Manner>;
-    QTest::addColumn<Manner>("server"); // nothing: absent
-    QTest::addColumn<QString>("reason");
-    QTest::newRow("absent") << Manner() << u"nothing answers at"_s;
-    QTest::newRow("500") << Manner(StubServer::Manner::Failing) << u"Internal Server Error"_s;
-    QTest::newRow("nested answer") << Manner(StubServer::Manner::Nesting) << u"malformed"_s;
-    QTest::newRow("endless answer") << Manner(StubServer::Manner::EndlessValues) << u"malformed"_s;
-    QTest::newRow("without the queue") << Manner(StubServer::Manner::OddNames) << u"There is no printer"_s;
+    using Manner = StubServer::Manner;
+    addRows<std::optional<Manner>, QString>({
+        {"absent", std::nullopt, u"nothing answers at"_s},
+        {"500", Manner::Failing, u"Internal Server Error"_s},
+        {"nested answer", Manner::Nesting, u"malformed"_s},
+        {"endless answer", Manner::EndlessValues, u"malformed"_s},
+        {"without the queue", Manner::OddNames, u"There is no printer"_s},
+    });
 }
 
 // Nothing is printed by another one before the user says so.
 void MissingPrinterTest::defaultThatIsNotThere()
 {
-    QFETCH(std::optional<StubServer::Manner>, server);
-    QFETCH(QString, reason);
+    const auto [server, reason] = row<std::optional<StubServer::Manner>, QString>();
     const auto stub = server ? std::make_unique<StubServer>(*server) : nullptr;
     qputenv("LPDEST", "mine");
-    PrintDialogSetup setup = setupFor(PanelMode::Constraint);
-    setup.ppdFile = std::nullopt;
-    const OpenedDialog opened(setup);
+    const OpenedDialog opened(setupForPrinter());
     opened.dialog->searchPrinters();
     // Under the sanitizers an endless answer reaches its time limit before its size.
     const QString slow = server == StubServer::Manner::EndlessValues ? u"in time"_s : reason;
     const auto says = [&opened](const QString &text) {
-        return opened.dialog->message().contains(text);
+        return opened.message().contains(text);
     };
-    QTRY_VERIFY2_WITH_TIMEOUT(says(reason) || says(slow), qPrintable(opened.dialog->message()), 10'000);
-    QVERIFY2(opened.dialog->message().contains(u"\"mine\""_s), qPrintable(opened.dialog->message()));
-    QVERIFY(!opened.dialog->message().contains(u"--"_s)); // no options of the command line
+    QTRY_VERIFY2_WITH_TIMEOUT(says(reason) || says(slow), qPrintable(opened.message()), 10'000);
+    QVERIFY2(opened.message().contains(u"\"mine\""_s), qPrintable(opened.message()));
+    QVERIFY(!opened.message().contains(u"--"_s)); // no options of the command line
     auto *chooser = opened.find<QComboBox>(u"printer"_s);
     QCOMPARE(chooser->currentIndex(), -1);
     QCOMPARE(chooser->placeholderText(), u"mine"_s);
     QVERIFY(!opened.find<QPushButton>(u"print"_s)->isEnabled());
-    QCOMPARE(opened.dialog->whyNotReady(), opened.dialog->message());
+    QCOMPARE(opened.dialog->whyNotReady(), opened.message());
 
     opened.click(u"messageAction"_s);
     QCOMPARE(opened.dialog->printer(), u"built-in"_s);
     QVERIFY(opened.dialog->isReady());
-    QCOMPARE(opened.dialog->message(), QString());
+    QCOMPARE(opened.message(), QString());
     QTest::keyClick(opened.dialog.get(), Qt::Key_P, Qt::ControlModifier);
     QTRY_VERIFY(opened.hasPrinted());
 }
@@ -99,11 +70,9 @@ void MissingPrinterTest::defaultThatIsNotThere()
 void MissingPrinterTest::noDefaultKnown()
 {
     const StubServer server(StubServer::Manner::Failing);
-    PrintDialogSetup setup = setupFor(PanelMode::Constraint);
-    setup.ppdFile = std::nullopt;
-    const OpenedDialog opened(setup);
+    const OpenedDialog opened(setupForPrinter());
     opened.dialog->searchPrinters();
-    QTRY_VERIFY(opened.dialog->message().contains(u"Internal Server Error"_s));
+    QTRY_VERIFY(opened.message().contains(u"Internal Server Error"_s));
     QCOMPARE(opened.dialog->printer(), u"built-in"_s);
     QVERIFY(opened.dialog->isReady());
 }
@@ -113,15 +82,11 @@ void MissingPrinterTest::presetThatIsNotThere()
 {
     const StubServer server(StubServer::Manner::ManyQueues);
     for (const QString &printer : {u"photo"_s, u"built-in"_s}) {
-        PrintDialogSetup setup = setupFor(PanelMode::Constraint);
-        setup.ppdFile = std::nullopt;
-        setup.printer = printer + u"/matte"_s;
-        const OpenedDialog opened(setup);
+        const OpenedDialog opened(setupForPrinter(PanelMode::Constraint, printer + u"/matte"_s));
         opened.dialog->searchPrinters();
         const bool isBuiltIn = printer == u"built-in"_s;
         const auto said = [&] {
-            return isBuiltIn ? opened.find<QWidget>(u"presetError"_s)->accessibleName()
-                             : opened.dialog->message();
+            return isBuiltIn ? opened.find<QWidget>(u"presetError"_s)->accessibleName() : opened.message();
         };
         QTRY_VERIFY2(said().startsWith(u"The printer \"%1\" has no preset \"matte\""_s.arg(printer)),
                      qPrintable(said()));
@@ -134,7 +99,7 @@ void MissingPrinterTest::presetThatIsNotThere()
 void MissingPrinterTest::manyQueuesThatGoAtOnce()
 {
     auto server = std::make_unique<StubServer>(StubServer::Manner::ManyQueues);
-    const OpenedDialog opened(PanelMode::Constraint);
+    const OpenedDialog opened;
     auto *chooser = opened.find<PrinterChooser>(u"printer"_s);
     chooser->search(std::nullopt);
     QTRY_COMPARE_WITH_TIMEOUT(chooser->count(), 10'001, 20'000);

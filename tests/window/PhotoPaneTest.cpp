@@ -6,6 +6,7 @@
 #include "PhotoStrip.h"
 #include "PhotoThreads.h"
 #include "PreviewWidget.h"
+#include "Rows.h"
 #include "SamplePhotos.h"
 #include "TestMain.h"
 
@@ -34,8 +35,6 @@
 
 using namespace printdialog;
 using namespace Qt::StringLiterals;
-
-Q_DECLARE_METATYPE(printdialog::PageGeometry)
 
 namespace {
 
@@ -104,41 +103,25 @@ private Q_SLOTS:
 
 void PhotoPaneTest::previewIsWhatIsPrinted_data()
 {
-    QTest::addColumn<PageGeometry>("page");
-    QTest::addColumn<QSize>("size");
-    QTest::addColumn<int>("orientation");
-    QTest::addColumn<int>("scaling");
-    QTest::addColumn<int>("turns");
-    QTest::addColumn<QPointF>("crop");
     const QSize usual(300, 200);
     const QPointF middle(0.5, 0.5);
-    const int fit = int(Scaling::Fit);
-    const int fill = int(Scaling::Fill);
-    const int actual = int(Scaling::ActualSize);
-    QTest::newRow("fit") << bordered << usual << 1 << fit << 0 << middle;
-    QTest::newRow("fit, turned by hand") << bordered << usual << 1 << fit << 1 << middle;
-    QTest::newRow("fit, mirrored by Exif") << bordered << usual << 5 << fit << 0 << middle;
-    QTest::newRow("fill") << bordered << usual << 1 << fill << 0 << middle;
-    QTest::newRow("fill, to the left, turned")
-        << borderless << QSize(400, 200) << 1 << fill << 1 << QPointF(0, 0.3);
-    QTest::newRow("fill, by Exif, upside down")
-        << bordered << QSize(400, 200) << 6 << fill << 2 << QPointF(1, 0.2);
-    QTest::newRow("actual size, smaller") << bordered << usual << 1 << actual << 0 << QPointF(0.2, 0.9);
-    QTest::newRow("actual size, cut")
-        << bordered << QSize(1500, 400) << 8 << actual << 3 << QPointF(0.3, 0.5);
+    addRows<PageGeometry, QSize, int, PlacementChoice>({
+        {"fit", bordered, usual, 1, {Scaling::Fit, 0, middle}},
+        {"fit, turned by hand", bordered, usual, 1, {Scaling::Fit, 1, middle}},
+        {"fit, mirrored by Exif", bordered, usual, 5, {Scaling::Fit, 0, middle}},
+        {"fill", bordered, usual, 1, {Scaling::Fill, 0, middle}},
+        {"fill, to the left, turned", borderless, QSize(400, 200), 1, {Scaling::Fill, 1, QPointF(0, 0.3)}},
+        {"fill, by Exif, upside down", bordered, QSize(400, 200), 6, {Scaling::Fill, 2, QPointF(1, 0.2)}},
+        {"actual size, smaller", bordered, usual, 1, {Scaling::ActualSize, 0, QPointF(0.2, 0.9)}},
+        {"actual size, cut", bordered, QSize(1500, 400), 8, {Scaling::ActualSize, 3, QPointF(0.3, 0.5)}},
+    });
 }
 
 /// Every pixel of the page that the printer can reach, but for those beside an edge.
 void PhotoPaneTest::previewIsWhatIsPrinted()
 {
-    QFETCH(const PageGeometry, page);
-    QFETCH(const QSize, size);
-    QFETCH(const int, orientation);
-    QFETCH(const int, scaling);
-    QFETCH(const int, turns);
-    QFETCH(const QPointF, crop);
+    const auto [page, size, orientation, choice] = row<PageGeometry, QSize, int, PlacementChoice>();
     const Photo photo = photoOf(u"photo.jpg"_s, size, orientation);
-    const PlacementChoice choice{Scaling(scaling), turns, crop};
     QBuffer pdf;
     pdf.open(QIODevice::WriteOnly);
     QVERIFY(PdfWriter::write(photo, page, pdf, choice));

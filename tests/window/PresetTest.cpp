@@ -1,29 +1,14 @@
 // SPDX-FileCopyrightText: Corvel print dialog authors
 // SPDX-License-Identifier: Apache-2.0
 
-#include "OpenedDialog.h"
 #include "PresetBar.h"
-#include "PrivateCupsd.h"
-#include "PresetStore.h"
-#include "SystemLog.h"
+#include "QueuePresets.h"
+#include "QueueTest.h"
 #include "TestMain.h"
 
-#include <QtCore/QDir>
-#include <QtCore/QFile>
-#include <QtCore/QRegularExpression>
-#include <QtTest/QTest>
-#include <QtWidgets/QApplication>
-#include <QtWidgets/QComboBox>
-#include <QtWidgets/QLineEdit>
 #include <QtWidgets/QMenu>
-#include <QtWidgets/QPushButton>
-#include <QtWidgets/QSpinBox>
 
-using namespace printdialog;
 using namespace testing_support;
-using namespace Qt::StringLiterals;
-
-Q_DECLARE_METATYPE(PanelMode)
 
 namespace {
 
@@ -54,13 +39,12 @@ QStringList optionsOf(const RecordedJob &job)
 } // namespace
 
 /// Presets in the window, with a real print server: named, used, and printed with by CUPS' own programs.
-class PresetTest : public QObject
+class PresetTest : public QueueTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase_data();
-    void initTestCase();
+    void initTestCase_data() { addModes(); }
     void init();
     void savedPresetPrintsAlike();
     void presetOfCupsAppears();
@@ -69,7 +53,6 @@ private Q_SLOTS:
     void namesStayAsTyped();
     void whatIsLeftOutIsSaid();
     void usingAPresetIsAStep();
-    void anInstanceOpensWithItsPreset();
     void builtInPrinterHasPresets();
 
 private:
@@ -94,51 +77,33 @@ private:
     {
         return opened.find<PresetBar>(u"presetBar"_s)->error();
     }
-    int print(const OpenedDialog &opened) const;
     QByteArray lpoptions() const;
-
-    PrivateCupsd cupsd_;
-    QTemporaryDir home_;
-    std::unique_ptr<QTemporaryDir> config_;
+    /// A preset as lpoptions(1) saves it.
+    bool saveByCups(const QString &name, const QString &options)
+    {
+        QStringList arguments = {u"-p"_s, u"photo/"_s + name};
+        for (const QString &option : options.split(u' '))
+            arguments += {u"-o"_s, option};
+        return cupsd_.run(u"lpoptions"_s, arguments);
+    }
+    /// Whether the dialog and lp print with the same options and copies with the preset, which are these
+    /// among others.
+    bool printsLikeLp(const OpenedDialog &opened, const QString &instance, const QString &option,
+                      const QByteArray &copies);
 };
-
-void PresetTest::initTestCase_data()
-{
-    QTest::addColumn<PanelMode>("mode");
-    QTest::newRow("constraint") << PanelMode::Constraint;
-    QTest::newRow("settings") << PanelMode::Settings;
-}
-
-void PresetTest::initTestCase()
-{
-    pdekit::setSystemLogSink([](const QString &) {});
-    for (const char *name : {"LPDEST", "PRINTER", "CUPS_SERVERROOT"})
-        qunsetenv(name);
-    qputenv("HOME", QFile::encodeName(home_.path()));
-    QFile ppd(QStringLiteral(CORVEL_SIBLING_PPD));
-    QVERIFY(ppd.open(QIODevice::ReadOnly));
-    const QString trouble = cupsd_.start();
-    QVERIFY2(trouble.isEmpty(), qPrintable(trouble));
-    QVERIFY(cupsd_.addQueue(u"photo"_s, ppd.readAll()));
-}
 
 void PresetTest::init()
 {
-    pdekit::Feedback::install(std::make_shared<RecordingFeedback>());
-    config_ = std::make_unique<QTemporaryDir>();
-    qputenv("XDG_CONFIG_HOME", QFile::encodeName(config_->path()));
-    QFile::remove(PresetStore::userFile());
+    WindowTest::init();
+    QFile::remove(QueuePresets::userFile());
 }
 
 std::unique_ptr<OpenedDialog> PresetTest::openQueue(PanelMode mode, const QString &printer) const
 {
-    PrintDialogSetup setup = setupFor(mode);
-    setup.ppdFile = std::nullopt;
-    setup.printer = printer;
-    auto opened = std::make_unique<OpenedDialog>(setup);
+    auto opened = std::make_unique<OpenedDialog>(setupForPrinter(mode, printer));
     opened->dialog->searchPrinters();
-    if (!QTest::qWaitFor([&] { return opened->dialog->printer() == printer && opened->dialog->isReady(); }))
-        qWarning("%s", qPrintable(opened->dialog->message()));
+    if (!showsReady(*opened, printer))
+        qWarning("%s", qPrintable(opened->message()));
     return opened;
 }
 
@@ -153,21 +118,26 @@ void PresetTest::use(const OpenedDialog &opened, const QString &name)
     Q_EMIT presets->activated(index);
 }
 
-/// The job's id.
-int PresetTest::print(const OpenedDialog &opened) const
-{
-    opened.dialog->print();
-    const auto id = [&opened] {
-        static const QRegularExpression job(u"job (\\d+)"_s);
-        return job.match(opened.dialog->message()).captured(1).toInt();
-    };
-    return QTest::qWaitFor([&id] { return id() > 0; }) && cupsd_.waitForJob(id()) ? id() : 0;
-}
-
 QByteArray PresetTest::lpoptions() const
 {
     QFile file(PresetStore::userFile());
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+bool PresetTest::printsLikeLp(const OpenedDialog &opened, const QString &instance, const QString &option,
+                              const QByteArray &copies)
+{
+    const int id = print(opened);
+    if (id == 0 || !cupsd_.run(u"lp"_s, {u"-d"_s, instance, QStringLiteral(CORVEL_SAMPLE_PHOTO)}) ||
+        !cupsd_.waitForJob(id + 1))
+        return false;
+    const RecordedJob job = cupsd_.job(id);
+    const RecordedJob lps = cupsd_.job(id + 1);
+    const QStringList options = optionsOf(job);
+    if (options != optionsOf(lps))
+        qWarning().noquote() << options << optionsOf(lps);
+    return options == optionsOf(lps) && options.contains(option) && job.copies == copies &&
+           lps.copies == copies;
 }
 
 void PresetTest::savedPresetPrintsAlike()
@@ -178,23 +148,13 @@ void PresetTest::savedPresetPrintsAlike()
     opened->dialog->showPage(2);
     opened->click(u"fine"_s);
     opened->click(u"matte"_s);
-    auto *sizes = opened->find<QComboBox>(u"pageSize"_s);
-    sizes->setFocus();
-    QTest::keyClick(sizes, Qt::Key_End);
+    opened->chooseLast(u"pageSize"_s);
     opened->find<QSpinBox>(u"copies"_s)->setValue(2);
     act(*opened, SaveAs);
     name(*opened, u"光沢+10x15"_s);
     QCOMPARE(error(*opened), QString());
     QCOMPARE(opened->find<QComboBox>(u"presets"_s)->currentText(), u"光沢+10x15"_s);
-
-    const int id = print(*opened);
-    QVERIFY2(id > 0, qPrintable(opened->dialog->message()));
-    QVERIFY(cupsd_.run(u"lp"_s, {u"-d"_s, u"photo/光沢+10x15"_s, QStringLiteral(CORVEL_SAMPLE_PHOTO)}));
-    QVERIFY(cupsd_.waitForJob(id + 1));
-    QCOMPARE(optionsOf(cupsd_.job(id + 1)), optionsOf(cupsd_.job(id)));
-    QVERIFY(optionsOf(cupsd_.job(id)).contains(u"red=-7"_s));
-    QCOMPARE(cupsd_.job(id + 1).copies, QByteArray("2"));
-    QCOMPARE(cupsd_.job(id).copies, QByteArray("2"));
+    QVERIFY(printsLikeLp(*opened, u"photo/光沢+10x15"_s, u"red=-7"_s, "2"));
 }
 
 // Options that it does not name are as CUPS prints them: the printer's defaults.
@@ -203,28 +163,21 @@ void PresetTest::presetOfCupsAppears()
     QFETCH_GLOBAL(PanelMode, mode);
     const auto opened = openQueue(mode);
     opened->type(82, u"9"_s);
-    QVERIFY(cupsd_.run(u"lpoptions"_s, {u"-p"_s, u"photo/warm"_s, u"-o"_s, u"Red=5"_s, u"-o"_s,
-                                        u"SharpnessIntensity=1.50"_s, u"-o"_s, u"copies=3"_s}));
+    QVERIFY(saveByCups(u"warm"_s, u"Red=5 SharpnessIntensity=1.50 copies=3"_s));
     use(*opened, u"warm"_s);
-    QCOMPARE(opened->fieldText(81), u"5"_s);
-    QCOMPARE(opened->fieldText(82), u"0"_s);
+    QCOMPARE(opened->fieldTexts({81, 82}), u"5 0"_s);
     QCOMPARE(opened->find<QSpinBox>(u"copies"_s)->value(), 3);
-    QCOMPARE(opened->dialog->message(), QString());
+    QCOMPARE(opened->message(), QString());
     // Saved by the dialog it is the whole set.
     opened->type(83, u"2"_s);
     act(*opened, Save);
-    const int id = print(*opened);
-    QVERIFY2(id > 0, qPrintable(opened->dialog->message()));
-    QVERIFY(cupsd_.run(u"lp"_s, {u"-d"_s, u"photo/warm"_s, QStringLiteral(CORVEL_SAMPLE_PHOTO)}));
-    QVERIFY(cupsd_.waitForJob(id + 1));
-    QCOMPARE(optionsOf(cupsd_.job(id + 1)), optionsOf(cupsd_.job(id)));
-    QCOMPARE(cupsd_.job(id + 1).copies, QByteArray("3"));
+    QVERIFY(printsLikeLp(*opened, u"photo/warm"_s, u"blue=2"_s, "3"));
 }
 
 void PresetTest::savedRenamedDeleted()
 {
     QFETCH_GLOBAL(PanelMode, mode);
-    QVERIFY(cupsd_.run(u"lpoptions"_s, {u"-p"_s, u"photo/other"_s, u"-o"_s, u"Red=5"_s}));
+    QVERIFY(saveByCups(u"other"_s, u"Red=5"_s));
     const auto opened = openQueue(mode);
     auto *presets = opened->find<QComboBox>(u"presets"_s);
     opened->type(81, u"1"_s);
@@ -241,14 +194,13 @@ void PresetTest::savedRenamedDeleted()
     QCOMPARE(presets->currentText(), u"second"_s);
     QVERIFY(lpoptions().contains("photo/second") && !lpoptions().contains("photo/first"));
     act(*opened, Remove);
-    QVERIFY(opened->find<QPushButton>(u"presetRemove"_s)->isVisible());
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+    QVERIFY(opened->isSeen(u"presetRemove"_s));
+    opened->press(Qt::Key_Escape);
     QVERIFY(lpoptions().contains("photo/second"));
     act(*opened, Remove);
     opened->click(u"presetRemove"_s);
     QVERIFY(!lpoptions().contains("photo/second") && lpoptions().contains("photo/other Red=5"));
-    QCOMPARE(presets->count(), 1);
-    QCOMPARE(presets->currentIndex(), -1);
+    QVERIFY(presets->count() == 1 && presets->currentIndex() == -1);
     QCOMPARE(opened->fieldText(81), u"1"_s); // the choices stay
 }
 
@@ -259,7 +211,7 @@ void PresetTest::namesAreChecked()
     for (const QString &bad : {u""_s, u"  "_s, u"bell\a"_s, QString(200, u'x'), QString(50, u'#')}) {
         name(*opened, bad);
         QVERIFY2(!error(*opened).isEmpty(), qPrintable(bad));
-        QVERIFY(opened->find<QLineEdit>(u"presetName"_s)->isVisible());
+        QVERIFY(opened->isSeen(u"presetName"_s));
         QCOMPARE(lpoptions(), QByteArray());
     }
     name(*opened, u"good"_s);
@@ -283,10 +235,7 @@ void PresetTest::namesStayAsTyped()
     name(*opened, mine + u' ');
     QCOMPARE(error(*opened), QString());
     QCOMPARE(presets->currentText(), mine);
-    QVERIFY(cupsd_.run(u"lp"_s, {u"-d"_s, instance, QStringLiteral(CORVEL_SAMPLE_PHOTO)}));
-    const int id = print(*opened);
-    QVERIFY2(id > 0, qPrintable(opened->dialog->message()));
-    QCOMPARE(optionsOf(cupsd_.job(id - 1)), optionsOf(cupsd_.job(id)));
+    QVERIFY(printsLikeLp(*opened, instance, u"red=-7"_s, "1"));
     const auto again = openQueue(mode, instance);
     QCOMPARE(again->find<QComboBox>(u"presets"_s)->currentText(), mine);
     QVERIFY(again->find<QComboBox>(u"printer"_s)->currentText().contains(mine));
@@ -296,40 +245,28 @@ void PresetTest::namesStayAsTyped()
 void PresetTest::whatIsLeftOutIsSaid()
 {
     QFETCH_GLOBAL(PanelMode, mode);
-    QVERIFY(cupsd_.run(u"lpoptions"_s, {u"-p"_s, u"photo/odd"_s, u"-o"_s, u"Red=999"_s, u"-o"_s, u"Blue=4"_s,
-                                        u"-o"_s, u"Quality=Standard"_s, u"-o"_s, u"Overcoat=Matte"_s}));
+    QVERIFY(saveByCups(u"odd"_s, u"Red=999 Blue=4 Quality=Standard Overcoat=Matte"_s));
     const auto opened = openQueue(mode);
     use(*opened, u"odd"_s);
-    QCOMPARE(opened->fieldText(83), u"4"_s);
-    QCOMPARE(opened->fieldText(81), u"0"_s);
-    const QString message = opened->dialog->message();
+    QCOMPARE(opened->fieldTexts({83, 81}), u"4 0"_s);
+    const QString message = opened->message();
     for (const QString &part : {u"\"odd\""_s, u"999"_s, u"\"Surface Finish\" cannot be \"Matte\""_s})
         QVERIFY2(message.contains(part), qPrintable(message));
-    QVERIFY2(print(*opened) > 0, qPrintable(opened->dialog->message()));
+    QVERIFY(print(*opened) > 0);
 }
 
 void PresetTest::usingAPresetIsAStep()
 {
     QFETCH_GLOBAL(PanelMode, mode);
-    QVERIFY(cupsd_.run(u"lpoptions"_s, {u"-p"_s, u"photo/warm"_s, u"-o"_s, u"Red=5"_s, u"-o"_s, u"Blue=4"_s,
-                                        u"-o"_s, u"copies=3"_s}));
+    QVERIFY(saveByCups(u"warm"_s, u"Red=5 Blue=4 copies=3"_s));
     const auto opened = openQueue(mode);
     use(*opened, u"warm"_s);
-    QTest::keyClick(opened->dialog.get(), Qt::Key_Z, Qt::ControlModifier);
-    QCOMPARE(opened->fieldText(81) + opened->fieldText(83), u"00"_s);
+    opened->undo();
+    QCOMPARE(opened->fieldTexts({81, 83}), u"0 0"_s);
     QCOMPARE(opened->find<QSpinBox>(u"copies"_s)->value(), 1);
-    QTest::keyClick(opened->dialog.get(), Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
-    QCOMPARE(opened->fieldText(81) + opened->fieldText(83), u"54"_s);
+    opened->redo();
+    QCOMPARE(opened->fieldTexts({81, 83}), u"5 4"_s);
     QCOMPARE(opened->find<QSpinBox>(u"copies"_s)->value(), 3);
-    QCOMPARE(opened->find<QComboBox>(u"presets"_s)->currentText(), u"warm"_s);
-}
-
-void PresetTest::anInstanceOpensWithItsPreset()
-{
-    QFETCH_GLOBAL(PanelMode, mode);
-    QVERIFY(cupsd_.run(u"lpoptions"_s, {u"-p"_s, u"photo/warm"_s, u"-o"_s, u"Red=5"_s}));
-    const auto opened = openQueue(mode, u"photo/warm"_s);
-    QCOMPARE(opened->fieldText(81), u"5"_s);
     QCOMPARE(opened->find<QComboBox>(u"presets"_s)->currentText(), u"warm"_s);
 }
 

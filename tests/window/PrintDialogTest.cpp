@@ -5,39 +5,12 @@
 #include "TestMain.h"
 
 #include "PrintWorker.h"
-#include "SystemLog.h"
 
 #include <QtCore/QDir>
-#include <QtCore/QFile>
 #include <QtTest/QSignalSpy>
-#include <QtTest/QTest>
 #include <QtWidgets/QAbstractItemView>
-#include <QtWidgets/QApplication>
-#include <QtWidgets/QComboBox>
-#include <QtWidgets/QLabel>
-#include <QtWidgets/QRadioButton>
-#include <QtWidgets/QSlider>
-#include <QtWidgets/QSpinBox>
 
-using namespace printdialog;
 using namespace testing_support;
-using namespace Qt::StringLiterals;
-
-void PrintDialogTest::initTestCase_data()
-{
-    QTest::addColumn<PanelMode>("mode");
-    QTest::newRow("constraint") << PanelMode::Constraint;
-    QTest::newRow("settings") << PanelMode::Settings;
-}
-
-void PrintDialogTest::init()
-{
-    feedback_ = std::make_shared<RecordingFeedback>();
-    pdekit::Feedback::install(feedback_);
-    pdekit::setSystemLogSink([](const QString &) {});
-    config_ = std::make_unique<QTemporaryDir>(); // what is printed with is kept
-    qputenv("XDG_CONFIG_HOME", QFile::encodeName(config_->path()));
-}
 
 // Sliders, typed numbers, radio buttons on all three pages; the same ticket in both modes.
 void PrintDialogTest::printsWhatTheUserChose()
@@ -45,26 +18,22 @@ void PrintDialogTest::printsWhatTheUserChose()
     QFETCH_GLOBAL(PanelMode, mode);
     const OpenedDialog opened(mode);
     opened.type(81, u"-12"_s);
+    opened.press(Qt::Key_Return); // belongs to the field
+    QCOMPARE(opened.message(), QString());
     QTest::keyClick(opened.control(7), Qt::Key_Right);
     opened.dialog->showPage(1);
     opened.type(82, u"1.5"_s);
     opened.dialog->showPage(2);
     opened.click(u"fine"_s);
     opened.click(u"matte"_s);
-    auto *slider = qobject_cast<QSlider *>(opened.control(3));
+    auto *slider = opened.slider(3);
     for (int i = 0; i < 7; ++i)
         QTest::keyClick(slider, Qt::Key_Left);
-    opened.click(u"print"_s);
-    QTRY_VERIFY(opened.hasPrinted());
-    const QJsonObject options = opened.options();
-    const QMap<QString, QString> expected = {
-        {u"Red"_s, u"-12"_s},      {u"Gamma"_s, u"1"_s},        {u"SharpnessIntensity"_s, u"1.50"_s},
-        {u"Quality"_s, u"Fine"_s}, {u"Overcoat"_s, u"Matte"_s}, {u"MatteValue"_s, u"-7"_s},
-        {u"Blue"_s, u"0"_s}};
-    for (auto entry = expected.cbegin(); entry != expected.cend(); ++entry)
-        QCOMPARE(options[entry.key()].toString(), entry.value());
-    QCOMPARE(options.size(), 16); // fifteen of the panels, and the page size
-    QTRY_VERIFY(opened.dialog->message().contains(u"sample.pdf"_s));
+    QVERIFY(opened.prints());
+    QCOMPARE(opened.printed(u"Red Gamma SharpnessIntensity Quality Overcoat MatteValue Blue"_s),
+             u"-12 1 1.50 Fine Matte -7 0"_s);
+    QCOMPARE(opened.options().size(), 16); // fifteen of the panels, and the page size
+    QTRY_VERIFY(opened.message().contains(u"sample.pdf"_s));
 }
 
 // It is printed once the user has seen it and wants it. Whoever is faster than the check is asked by the
@@ -92,50 +61,20 @@ void PrintDialogTest::damagedPhoto()
     const OpenedDialog opened(setup);
     QTRY_VERIFY(setup.photos.at(1).isChecked());
     opened.click(u"print"_s);
-    QVERIFY2(opened.dialog->message().startsWith(u"sample.jpg is damaged"_s),
-             qPrintable(opened.dialog->message()));
+    QVERIFY2(opened.message().startsWith(u"sample.jpg is damaged"_s), qPrintable(opened.message()));
     QVERIFY(opened.find<QLabel>(u"photoLabel"_s)->text().startsWith(u"sample.jpg (2 of 2)\nDamaged"_s));
     opened.click(u"print"_s);
     QVERIFY(!QFile::exists(opened.folder.filePath(u"out"_s)));
     opened.click(u"messageAction"_s);
     QTRY_VERIFY(QFile::exists(opened.folder.filePath(u"out/sample-2.pdf"_s)));
-    QTRY_VERIFY(opened.dialog->message().startsWith(u"Printed 2 photos"_s));
-}
-
-// A forbidden choice: refused at once, or when all of them are weighed against each other. A job that is
-// begun says so in the place of the message.
-void PrintDialogTest::conflicts()
-{
-    QFETCH_GLOBAL(PanelMode, mode);
-    const OpenedDialog opened(mode);
-    opened.dialog->showPage(2);
-    opened.click(u"matte"_s);
-    const bool refusedAtOnce = mode == PanelMode::Constraint;
-    QCOMPARE(opened.find<QRadioButton>(u"glossy"_s)->isChecked(), refusedAtOnce);
-    QCOMPARE(feedback_->beeps, refusedAtOnce ? 1 : 0);
-    if (!refusedAtOnce)
-        opened.click(u"print"_s);
-    QVERIFY(opened.dialog->message().contains(u"Quality"_s) &&
-            opened.dialog->message().contains(u"Standard"_s));
-}
-
-void PrintDialogTest::returnBelongsToTheField()
-{
-    QFETCH_GLOBAL(PanelMode, mode);
-    const OpenedDialog opened(mode);
-    opened.type(81, u"5"_s);
-    QTest::keyClick(opened.control(81), Qt::Key_Return);
-    QCOMPARE(opened.dialog->message(), QString());
-    QTest::keyClick(opened.control(1), Qt::Key_Return);
-    QTRY_VERIFY(opened.hasPrinted());
-    QCOMPARE(opened.options()[u"Red"_s].toString(), u"5"_s);
+    QTRY_VERIFY(opened.message().startsWith(u"Printed 2 photos"_s));
 }
 
 void PrintDialogTest::printsByKeyFromAnywhere()
 {
     for (const QString &name : {u"printer"_s, u"pageSize"_s, u"copies"_s, u"folder"_s, u"redSlider"_s}) {
         for (const Qt::Key key : {Qt::Key_P, Qt::Key_Enter}) {
-            const OpenedDialog opened(PanelMode::Constraint);
+            const OpenedDialog opened;
             auto *widget = opened.find<QWidget>(name);
             widget->setFocus();
             // With the text that a keyboard gives it, which list boxes take for a search.
@@ -155,8 +94,8 @@ void PrintDialogTest::openingOptionsAreShown()
     setup.options = {{u"Red"_s, u"+3"_s}, {u"Nope"_s, u"1"_s}};
     const OpenedDialog opened(setup);
     QCOMPARE(opened.fieldText(81), u"3"_s);
-    QCOMPARE(qobject_cast<QSlider *>(opened.control(1))->value(), 3);
-    QVERIFY(opened.dialog->message().contains(u"Nope"_s));
+    QCOMPARE(opened.slider(1)->value(), 3);
+    QVERIFY(opened.message().contains(u"Nope"_s));
 }
 
 void PrintDialogTest::photosThatCannotBeOpenedAreNamed()
@@ -166,15 +105,15 @@ void PrintDialogTest::photosThatCannotBeOpenedAreNamed()
     setup.photoFailures = {u"\"a.jpg\" is empty."_s, u"\"b.jpg\" is damaged."_s};
     setup.copies = 4;
     const OpenedDialog opened(setup);
-    QVERIFY2(opened.dialog->message().contains(u"\"a.jpg\" is empty.\n\"b.jpg\" is damaged."_s),
-             qPrintable(opened.dialog->message()));
+    QVERIFY2(opened.message().contains(u"\"a.jpg\" is empty.\n\"b.jpg\" is damaged."_s),
+             qPrintable(opened.message()));
     QCOMPARE(opened.find<QSpinBox>(u"copies"_s)->value(), 4);
 }
 
 // As Wayland delivers it: the list closes when it is asked whether it wants the key, which then comes.
 void PrintDialogTest::escapeClosesOneThing()
 {
-    const OpenedDialog opened(PanelMode::Constraint);
+    const OpenedDialog opened;
     auto *sizes = opened.find<QComboBox>(u"pageSize"_s);
     sizes->showPopup();
     QTRY_VERIFY(sizes->view()->isVisible());
@@ -187,16 +126,6 @@ void PrintDialogTest::escapeClosesOneThing()
     QVERIFY(opened.dialog->isVisible());
     QTest::keyClick(sizes, Qt::Key_Escape);
     QVERIFY(opened.dialog->isHidden());
-}
-
-void PrintDialogTest::cancelLeavesNothing()
-{
-    const OpenedDialog opened(PanelMode::Settings);
-    opened.type(81, u"9"_s);
-    QTest::keyClick(opened.dialog.get(), Qt::Key_Escape);
-    QVERIFY(opened.dialog->isHidden());
-    QVERIFY(!opened.hasPrinted());
-    QVERIFY(QDir(config_->path()).isEmpty());
 }
 
 CORVEL_WIDGETS_TEST(PrintDialogTest)

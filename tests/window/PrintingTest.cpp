@@ -4,28 +4,22 @@
 #include "MessageBar.h"
 #include "OpenedDialog.h"
 #include "PhotoPane.h"
-#include "SystemLog.h"
+#include "Rows.h"
 #include "TestMain.h"
 
 #include <QtCore/QDir>
-#include <QtTest/QTest>
-#include <QtWidgets/QApplication>
 #include <QtWidgets/QProgressBar>
-#include <QtWidgets/QPushButton>
 
-using namespace printdialog;
 using namespace testing_support;
-using namespace Qt::StringLiterals;
 
 /// The window while it prints many photos, and afterwards. A run goes on in the window only when events are
 /// handled, so that what is done right after its start comes while it prints.
-class PrintingTest : public QObject
+class PrintingTest : public WindowTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
     void initTestCase();
-    void init();
     void manyPhotosAreOneLine();
     void progressCoversAllPhotos();
     void longMessagesGrowNothing();
@@ -45,13 +39,8 @@ private:
     {
         return opened.find<QPushButton>(u"print"_s)->isEnabled();
     }
-    static bool isWhollySeen(const QWidget *widget)
-    {
-        return widget->isVisible() && widget->visibleRegion().boundingRect() == widget->rect();
-    }
 
     QTemporaryDir photos_;
-    QTemporaryDir config_;
 };
 
 void PrintingTest::initTestCase()
@@ -59,13 +48,6 @@ void PrintingTest::initTestCase()
     for (int i = 1; i <= count; ++i)
         QVERIFY(QFile::copy(QStringLiteral(CORVEL_SAMPLE_PHOTO),
                             photos_.filePath(u"photo%1.jpg"_s.arg(i, 2, 10, QLatin1Char('0')))));
-}
-
-void PrintingTest::init()
-{
-    pdekit::Feedback::install(std::make_shared<RecordingFeedback>());
-    pdekit::setSystemLogSink([](const QString &) {});
-    qputenv("XDG_CONFIG_HOME", QFile::encodeName(config_.path()));
 }
 
 PrintDialogSetup PrintingTest::setup() const
@@ -84,8 +66,7 @@ void PrintingTest::manyPhotosAreOneLine()
     opened.dialog->resize(size);
     opened.dialog->print();
     QTRY_VERIFY(isIdle(opened));
-    QCOMPARE(opened.dialog->message(),
-             u"Printed 16 photos in the folder %1"_s.arg(opened.folder.filePath(u"out"_s)));
+    QCOMPARE(opened.message(), u"Printed 16 photos in the folder %1"_s.arg(opened.folder.filePath(u"out"_s)));
     QCOMPARE(printed(opened).size(), count);
     QCOMPARE(opened.find<QPushButton>(u"cancel"_s)->text(), u"Close"_s);
     auto *details = opened.find<QWidget>(u"messageDetailText"_s);
@@ -130,17 +111,16 @@ void PrintingTest::progressCoversAllPhotos()
 
 void PrintingTest::longMessagesGrowNothing()
 {
-    const OpenedDialog opened(PanelMode::Constraint);
+    const OpenedDialog opened;
     const QSize size(800, 500);
     opened.dialog->resize(size);
     QStringList missing;
     for (int i = 0; i < 60; ++i)
         missing.append(photos_.filePath(u"missing%1.jpg"_s.arg(i)));
     opened.find<PhotoPane>(u"photos"_s)->addFiles(missing);
-    QTRY_VERIFY(opened.dialog->message().contains(u"missing59"_s));
+    QTRY_VERIFY(opened.message().contains(u"missing59"_s));
     opened.find<MessageBar>(u"message"_s)
-        ->showWithAction(MessageBar::Kind::Warning, opened.dialog->message(), QString(u'W').repeated(900),
-                         {});
+        ->showWithAction(MessageBar::Kind::Warning, opened.message(), QString(u'W').repeated(900), {});
     QTRY_VERIFY(isWhollySeen(opened.find<QWidget>(u"messageAction"_s)));
     QCOMPARE(opened.dialog->size(), size);
     for (const QString &name : {u"print"_s, u"cancel"_s, u"printer"_s})
@@ -149,33 +129,30 @@ void PrintingTest::longMessagesGrowNothing()
 
 void PrintingTest::stopping_data()
 {
-    QTest::addColumn<QList<Qt::Key>>("keys");
-    QTest::addColumn<bool>("stops");
-    QTest::newRow("button") << QList<Qt::Key>() << true;
-    QTest::newRow("Escape, and Return to the question")
-        << QList<Qt::Key>{Qt::Key_Escape, Qt::Key_Return} << true;
-    QTest::newRow("Escape, and the other answer")
-        << QList<Qt::Key>{Qt::Key_Escape, Qt::Key_Tab, Qt::Key_Return} << false;
-    QTest::newRow("Escape twice") << QList<Qt::Key>{Qt::Key_Escape, Qt::Key_Escape} << false;
+    addRows<QList<Qt::Key>, bool>({
+        {"button", {}, true},
+        {"Escape, and Return to the question", {Qt::Key_Escape, Qt::Key_Return}, true},
+        {"Escape, and the other answer", {Qt::Key_Escape, Qt::Key_Tab, Qt::Key_Return}, false},
+        {"Escape twice", {Qt::Key_Escape, Qt::Key_Escape}, false},
+    });
 }
 
 void PrintingTest::stopping()
 {
-    QFETCH(QList<Qt::Key>, keys);
-    QFETCH(bool, stops);
+    const auto [keys, stops] = row<QList<Qt::Key>, bool>();
     const OpenedDialog opened(setup());
     opened.dialog->print();
     if (keys.isEmpty())
         opened.click(u"cancel"_s);
     for (const Qt::Key key : keys)
-        QTest::keyClick(QApplication::focusWidget(), key);
+        opened.press(key);
     QVERIFY(!opened.find<QWidget>(u"messageAction"_s) || !opened.find<MessageBar>(u"message"_s)->isAsking());
     QTRY_VERIFY(isIdle(opened));
     QVERIFY(opened.dialog->isVisible());
     const auto there = static_cast<int>(printed(opened).size());
     if (stops) {
         QVERIFY(there < count);
-        QCOMPARE(opened.dialog->message(), u"Printing was stopped: printed %1 of 16 photos."_s.arg(there));
+        QCOMPARE(opened.message(), u"Printing was stopped: printed %1 of 16 photos."_s.arg(there));
     } else {
         QCOMPARE(there, count);
     }
@@ -191,7 +168,7 @@ void PrintingTest::closing()
         opened.dialog->print();
         opened.dialog->close();
         QVERIFY(opened.dialog->isVisible());
-        QVERIFY2(opened.dialog->message().contains(u"The rest"_s), qPrintable(opened.dialog->message()));
+        QVERIFY2(opened.message().contains(u"The rest"_s), qPrintable(opened.message()));
         if (byButton)
             opened.click(u"messageAction"_s);
         else

@@ -1,26 +1,17 @@
 // SPDX-FileCopyrightText: Corvel print dialog authors
 // SPDX-License-Identifier: Apache-2.0
 
-#include "OpenedDialog.h"
-#include "PrivateCupsd.h"
 #include "QueueCache.h"
-#include "SystemLog.h"
+#include "QueueTest.h"
 #include "TestMain.h"
 
-#include <QtCore/QFile>
 #include <QtCore/QFileInfo>
 #include <QtCore/QRegularExpression>
-#include <QtTest/QTest>
-#include <QtWidgets/QComboBox>
-#include <QtWidgets/QLabel>
-#include <QtWidgets/QPushButton>
 
-using namespace printdialog;
 using namespace testing_support;
-using namespace Qt::StringLiterals;
 
 /// The window with a queue from an earlier time, with queues that change, and with jobs that fail.
-class QueueWindowTest : public QObject
+class QueueWindowTest : public QueueTest
 {
     Q_OBJECT
 
@@ -40,48 +31,28 @@ private Q_SLOTS:
     void manyJobs();
 
 private:
-    static PrintDialogSetup setup()
-    {
-        PrintDialogSetup setup = setupFor(PanelMode::Constraint);
-        setup.ppdFile = std::nullopt;
-        return setup;
-    }
     static bool isListed(const OpenedDialog &opened, const QString &text);
     static void choose(const OpenedDialog &opened, const QString &printer);
+    static Queue queueNamed(const QString &name)
+    {
+        Queue queue;
+        queue.name = name;
+        return queue;
+    }
     /// Uses the queue once.
     static void remember(const QString &queue);
-    static int jobOf(const OpenedDialog &opened);
-
-    PrivateCupsd cupsd_;
-    QByteArray ppd_;
-    QByteArray reduced_; ///< the same without one choice
-    QTemporaryDir home_;
-    std::unique_ptr<QTemporaryDir> folder_;
 };
 
 void QueueWindowTest::initTestCase()
 {
-    pdekit::setSystemLogSink([](const QString &) {});
-    for (const char *name : {"LPDEST", "PRINTER"})
-        qunsetenv(name);
-    qputenv("HOME", QFile::encodeName(home_.path()));
-    QFile ppd(QStringLiteral(CORVEL_SIBLING_PPD));
-    QVERIFY(ppd.open(QIODevice::ReadOnly));
-    ppd_ = ppd.readAll();
-    reduced_ = QByteArray(ppd_).replace("*Red 9/9: \"\"\n", "");
-    QVERIFY(reduced_ != ppd_);
-    const QString trouble = cupsd_.start();
-    QVERIFY2(trouble.isEmpty(), qPrintable(trouble));
+    QueueTest::initTestCase();
     QVERIFY(cupsd_.addQueue(u"raw"_s));
     QVERIFY(cupsd_.addQueue(u"odd"_s, ppd_, {u"-v"_s, u"scripted:/"_s}));
 }
 
 void QueueWindowTest::init()
 {
-    pdekit::Feedback::install(std::make_shared<RecordingFeedback>());
-    folder_ = std::make_unique<QTemporaryDir>();
-    qputenv("XDG_CONFIG_HOME", QFile::encodeName(folder_->path()));
-    qputenv("XDG_CACHE_HOME", QFile::encodeName(folder_->filePath(u"cache"_s)));
+    WindowTest::init();
     QVERIFY(cupsd_.addQueue(u"photo"_s, ppd_));
 }
 
@@ -97,28 +68,22 @@ void QueueWindowTest::choose(const OpenedDialog &opened, const QString &printer)
     auto *chooser = opened.find<QComboBox>(u"printer"_s);
     chooser->setFocus();
     QTest::keyClick(chooser, printer.at(0).toLatin1());
-    QTRY_VERIFY(opened.dialog->printer() == printer && opened.dialog->isReady());
+    QVERIFY(showsReady(opened, printer));
 }
 
 void QueueWindowTest::remember(const QString &queue)
 {
-    const OpenedDialog opened(setup());
+    const OpenedDialog opened(setupForPrinter());
     choose(opened, queue);
-}
-
-int QueueWindowTest::jobOf(const OpenedDialog &opened)
-{
-    static const QRegularExpression job(u"\\(job ([0-9]+)\\)"_s);
-    return job.match(opened.dialog->message()).captured(1).toInt();
 }
 
 // With its panels, which can be used; but nothing is printed on what the server may not have any more.
 void QueueWindowTest::queueUsedLastIsShownAtOnce()
 {
     remember(u"photo"_s);
-    const OpenedDialog opened(setup());
+    const OpenedDialog opened(setupForPrinter());
     QCOMPARE(opened.dialog->printer(), u"photo"_s);
-    QVERIFY(!opened.find<QWidget>(u"folder"_s)->isVisible());
+    QVERIFY(!opened.isSeen(u"folder"_s));
     opened.type(81, u"9"_s);
     QVERIFY(!opened.find<QPushButton>(u"print"_s)->isEnabled());
     opened.dialog->print();
@@ -129,18 +94,15 @@ void QueueWindowTest::queueUsedLastIsShownAtOnce()
     opened.dialog->searchPrinters();
     QTRY_VERIFY(opened.dialog->isReady());
     QCOMPARE(opened.fieldText(81), u"9"_s);
-    QCOMPARE(opened.dialog->message(), QString());
-    opened.dialog->print();
-    QTRY_VERIFY(jobOf(opened) > 0);
-    QVERIFY(cupsd_.waitForJob(jobOf(opened)));
-    QVERIFY(cupsd_.job(jobOf(opened)).options.split(' ').contains("Red=9"));
+    QCOMPARE(opened.message(), QString());
+    QVERIFY(hasOption(print(opened), "Red=9"));
 }
 
 void QueueWindowTest::rememberedPrivately()
 {
     remember(u"photo"_s);
     const QFileInfo file(QueueCache::file());
-    QVERIFY(file.filePath().startsWith(folder_->filePath(u"cache"_s)));
+    QVERIFY(file.filePath().startsWith(config_->filePath(u"cache"_s)));
     QCOMPARE(file.permissions() &
                  (QFile::ReadGroup | QFile::ReadOther | QFile::WriteGroup | QFile::WriteOther),
              QFile::Permissions());
@@ -152,19 +114,15 @@ void QueueWindowTest::rememberedPrivately()
     QVERIFY(QFile::setPermissions(file.filePath(), QFile::ReadOwner | QFile::WriteOwner));
     QVERIFY(QueueCache::load());
     QVERIFY(QFile::resize(file.filePath(), file.size() / 2));
-    const OpenedDialog opened(setup());
+    const OpenedDialog opened(setupForPrinter());
     QCOMPARE(opened.dialog->printer(), u"built-in"_s);
     // A printer whose PPD is too large to be kept does not leave the one before in its place.
-    Queue large;
-    large.name = u"large"_s;
-    QueueCache::save({large, "*PPD-Adobe", true});
+    QueueCache::save({queueNamed(u"large"_s), "*PPD-Adobe", true});
     QVERIFY(QueueCache::load());
-    QueueCache::save({large, QByteArray(4 << 20, '*'), true});
+    QueueCache::save({queueNamed(u"large"_s), QByteArray(4 << 20, '*'), true});
     QVERIFY(!QueueCache::load());
     // A name that has to be cleaned is not changed into another one.
-    Queue odd;
-    odd.name = u"pho\u0007to"_s;
-    QueueCache::save({odd, {}, true});
+    QueueCache::save({queueNamed(u"pho\u0007to"_s), {}, true});
     QVERIFY(!QueueCache::load());
     // Another print server's queues are none of this one's.
     const QByteArray server = qgetenv("CUPS_SERVER");
@@ -178,40 +136,39 @@ void QueueWindowTest::changedPpdKeepsWhatItCan()
 {
     remember(u"photo"_s);
     QVERIFY(cupsd_.addQueue(u"photo"_s, reduced_));
-    const OpenedDialog opened(setup());
+    const OpenedDialog opened(setupForPrinter());
     opened.type(81, u"9"_s);
     opened.type(82, u"8"_s);
     opened.dialog->searchPrinters();
     QTRY_VERIFY(opened.dialog->isReady());
-    QVERIFY2(opened.dialog->message().contains(u"have changed"_s), qPrintable(opened.dialog->message()));
-    QCOMPARE(opened.fieldText(81), u"0"_s);
-    QCOMPARE(opened.fieldText(82), u"8"_s);
+    QVERIFY2(opened.message().contains(u"have changed"_s), qPrintable(opened.message()));
+    QCOMPARE(opened.fieldTexts({81, 82}), u"0 8"_s);
 }
 
 void QueueWindowTest::rememberedQueueThatIsGone()
 {
     remember(u"photo"_s);
     QVERIFY(cupsd_.deleteQueue(u"photo"_s));
-    const OpenedDialog opened(setup());
+    const OpenedDialog opened(setupForPrinter());
     QCOMPARE(opened.dialog->printer(), u"photo"_s);
     opened.dialog->searchPrinters();
     QTRY_COMPARE(opened.dialog->printer(), u"built-in"_s);
     QVERIFY(opened.dialog->isReady());
-    QVERIFY2(opened.dialog->message().contains(u"\"photo\""_s), qPrintable(opened.dialog->message()));
+    QVERIFY2(opened.message().contains(u"\"photo\""_s), qPrintable(opened.message()));
     QVERIFY(!isListed(opened, u"photo"_s));
 }
 
 void QueueWindowTest::lateDefaultReplacesNothingTouched()
 {
     QVERIFY(cupsd_.run(u"lpadmin"_s, {u"-d"_s, u"photo"_s}));
-    const OpenedDialog touched(setup());
+    const OpenedDialog touched(setupForPrinter());
     touched.type(81, u"9"_s);
     touched.dialog->searchPrinters();
     QTRY_VERIFY(isListed(touched, u"photo"_s));
     QTest::qWait(100);
     QCOMPARE(touched.dialog->printer(), u"built-in"_s);
     QCOMPARE(touched.fieldText(81), u"9"_s);
-    const OpenedDialog untouched(setup());
+    const OpenedDialog untouched(setupForPrinter());
     QTest::keyClick(untouched.dialog.get(), Qt::Key_Tab); // a look round
     untouched.dialog->searchPrinters();
     QTRY_COMPARE(untouched.dialog->printer(), u"photo"_s);
@@ -222,14 +179,9 @@ void QueueWindowTest::lateDefaultReplacesNothingTouched()
 void QueueWindowTest::rememberedDefaultGivesWayToTheDefault()
 {
     for (const bool wasChosen : {false, true}) {
-        QueueCache::save({[] {
-                              Queue queue;
-                              queue.name = u"odd"_s;
-                              return queue;
-                          }(),
-                          ppd_, wasChosen});
+        QueueCache::save({queueNamed(u"odd"_s), ppd_, wasChosen});
         QVERIFY(cupsd_.run(u"lpadmin"_s, {u"-d"_s, u"photo"_s}));
-        const OpenedDialog opened(setup());
+        const OpenedDialog opened(setupForPrinter());
         QCOMPARE(opened.dialog->printer(), u"odd"_s);
         opened.dialog->searchPrinters();
         QTRY_VERIFY(isListed(opened, u"photo"_s) && opened.dialog->isReady());
@@ -239,32 +191,28 @@ void QueueWindowTest::rememberedDefaultGivesWayToTheDefault()
 
 void QueueWindowTest::ppdThatChangesBeforePrinting()
 {
-    const OpenedDialog opened(setup());
+    const OpenedDialog opened(setupForPrinter());
     choose(opened, u"photo"_s);
     opened.type(81, u"9"_s);
     opened.type(82, u"8"_s);
     QVERIFY(cupsd_.addQueue(u"photo"_s, reduced_));
     opened.dialog->print();
-    QTRY_VERIFY(opened.dialog->message().contains(u"kept as far"_s));
+    QTRY_VERIFY(opened.message().contains(u"kept as far"_s));
     QVERIFY2(cupsd_.activeJobs().isEmpty(), cupsd_.activeJobs().constData());
     QVERIFY(opened.dialog->isReady());
     QCOMPARE(opened.fieldText(81), u"0"_s);
-    opened.dialog->print();
-    QTRY_VERIFY(jobOf(opened) > 0);
-    const QByteArrayList options = cupsd_.job(jobOf(opened)).options.split(' ');
-    QVERIFY(options.contains("Red=0") && options.contains("Green=8"));
+    const int id = print(opened);
+    QVERIFY(hasOption(id, "Red=0") && hasOption(id, "Green=8"));
 }
 
 void QueueWindowTest::queueWithoutPpd()
 {
-    const OpenedDialog opened(setup());
+    const OpenedDialog opened(setupForPrinter());
     choose(opened, u"raw"_s);
-    QVERIFY(opened.dialog->message().contains(u"no PPD"_s));
+    QVERIFY(opened.message().contains(u"no PPD"_s));
     QCOMPARE(opened.find<QComboBox>(u"pageSize"_s)->count(), 1);
-    opened.dialog->print();
-    QTRY_VERIFY(jobOf(opened) > 0);
-    const RecordedJob job = cupsd_.job(jobOf(opened));
-    QVERIFY(job.document == setup().photos.constFirst().content());
+    const RecordedJob job = cupsd_.job(print(opened));
+    QVERIFY(job.document == setupForPrinter().photos.constFirst().content());
     QVERIFY(!job.options.contains("PageSize"));
 }
 
@@ -273,7 +221,7 @@ void QueueWindowTest::statusIsShownInWords()
     QVERIFY(
         cupsd_.setBackendScript("echo 'ATTR: marker-names=Ribbon marker-types=ribbon marker-levels=42' >&2\n"
                                 "echo 'STATE: +media-empty-warning' >&2\nexit 0"));
-    const OpenedDialog opened(setup());
+    const OpenedDialog opened(setupForPrinter());
     choose(opened, u"odd"_s);
     auto *status = opened.find<QLabel>(u"status"_s);
     QCOMPARE(status->text(), u"ready"_s);
@@ -286,26 +234,26 @@ void QueueWindowTest::statusIsShownInWords()
 
 void QueueWindowTest::failingAndStoppedJobs()
 {
-    const OpenedDialog opened(setup());
+    const OpenedDialog opened(setupForPrinter());
     choose(opened, u"odd"_s);
     QVERIFY(cupsd_.setBackendScript("echo 'ERROR: Ribbon torn' >&2; exit 1"));
     opened.dialog->print();
-    QTRY_VERIFY(opened.dialog->message().contains(u"Ribbon torn"_s));
+    QTRY_VERIFY(opened.message().contains(u"Ribbon torn"_s));
     QVERIFY(cupsd_.setBackendScript("trap 'exit 0' TERM; sleep 20 & wait"));
     opened.dialog->print();
     QTRY_VERIFY(cupsd_.activeJobs().contains("odd-"));
-    QVERIFY(opened.find<QWidget>(u"progress"_s)->isVisible());
+    QVERIFY(opened.isSeen(u"progress"_s));
     opened.click(u"cancel"_s);
-    QTRY_VERIFY(opened.dialog->message().contains(u"stopped"_s));
+    QTRY_VERIFY(opened.message().contains(u"stopped"_s));
     QTRY_COMPARE(cupsd_.activeJobs(), QByteArray());
-    QVERIFY(!opened.find<QWidget>(u"progress"_s)->isVisible());
+    QVERIFY(!opened.isSeen(u"progress"_s));
     // Closed while the printer works, the window leaves the job alone, and says so before.
     opened.dialog->print();
     QTRY_VERIFY(cupsd_.activeJobs().contains("odd-"));
     QTRY_VERIFY(opened.find<QWidget>(u"progressText"_s)->accessibleName().contains(u"printing"_s));
     opened.dialog->close();
     QVERIFY(opened.dialog->isVisible());
-    QVERIFY2(opened.dialog->message().contains(u"goes on printing"_s), qPrintable(opened.dialog->message()));
+    QVERIFY2(opened.message().contains(u"goes on printing"_s), qPrintable(opened.message()));
     opened.click(u"messageAction"_s);
     QVERIFY(opened.dialog->isHidden());
     QTRY_VERIFY(opened.find<QWidget>(u"print"_s)->isEnabled()); // nothing follows the job any more
@@ -316,16 +264,16 @@ void QueueWindowTest::failingAndStoppedJobs()
 // One line for all; and when it is stopped, how many came out.
 void QueueWindowTest::manyJobs()
 {
-    PrintDialogSetup three = setup();
+    PrintDialogSetup three = setupForPrinter();
     three.photos = QList<Photo>(3, three.photos.constFirst());
     const OpenedDialog opened(three);
     choose(opened, u"odd"_s);
     QVERIFY(cupsd_.setBackendScript("exit 0"));
     opened.dialog->print();
-    QTRY_VERIFY_WITH_TIMEOUT(opened.dialog->message().contains(u"(jobs "_s), 15000);
+    QTRY_VERIFY_WITH_TIMEOUT(opened.message().contains(u"(jobs "_s), 15000);
     static const QRegularExpression line(u"^Printed 3 photos on odd \\(jobs ([0-9]+) to ([0-9]+)\\)$"_s);
-    const QRegularExpressionMatch match = line.match(opened.dialog->message());
-    QVERIFY2(match.hasMatch(), qPrintable(opened.dialog->message()));
+    const QRegularExpressionMatch match = line.match(opened.message());
+    QVERIFY2(match.hasMatch(), qPrintable(opened.message()));
     QCOMPARE(match.captured(2).toInt(), match.captured(1).toInt() + 2);
     QCOMPARE(opened.find<QWidget>(u"messageDetailText"_s)->accessibleName().count(u"sample.jpg"_s), 3);
 
@@ -338,7 +286,7 @@ void QueueWindowTest::manyJobs()
                                  text->accessibleName().contains(u"printing"_s),
                              15000);
     opened.click(u"cancel"_s);
-    QTRY_COMPARE(opened.dialog->message(), u"Printing was stopped: printed 1 of 3 photos."_s);
+    QTRY_COMPARE(opened.message(), u"Printing was stopped: printed 1 of 3 photos."_s);
     QTRY_COMPARE(cupsd_.activeJobs(), QByteArray());
 }
 

@@ -3,7 +3,7 @@
 
 #include "HelpWindow.h"
 #include "OpenedDialog.h"
-#include "SystemLog.h"
+#include "Rows.h"
 #include "TestMain.h"
 #include "ViewTags.h"
 
@@ -11,29 +11,12 @@
 #include <QtCore/QTranslator>
 #include <QtGui/QScreen>
 #include <QtGui/QWheelEvent>
-#include <QtTest/QTest>
-#include <QtWidgets/QApplication>
-#include <QtWidgets/QLabel>
-#include <QtWidgets/QPushButton>
 #include <QtWidgets/QScrollArea>
 #include <QtWidgets/QScrollBar>
-#include <QtWidgets/QSlider>
 
-using namespace printdialog;
 using namespace testing_support;
-using namespace Qt::StringLiterals;
 
 namespace {
-
-QRect inWindow(const QWidget *widget)
-{
-    return {widget->mapTo(widget->window(), QPoint()), widget->size()};
-}
-
-bool isWhollySeen(const QWidget *widget)
-{
-    return widget->visibleRegion().boundingRect() == widget->rect();
-}
 
 /// Whether all of it is in sight, but for what is wider than the area that scrolls it.
 bool isSeen(const QWidget *widget)
@@ -50,7 +33,7 @@ bool isSeen(const QWidget *widget)
 } // namespace
 
 /// The window on small and large screens, with small and large fonts.
-class ScreenSizesTest : public QObject
+class ScreenSizesTest : public WindowTest
 {
     Q_OBJECT
 
@@ -74,15 +57,20 @@ private:
         return opened.find<QScrollArea>(u"settingsSide"_s);
     }
 
-    QTemporaryDir config_;
+    /// Fonts that many times as large.
+    void scaleFont(double scale)
+    {
+        QFont larger = font_;
+        larger.setPointSizeF(font_.pointSizeF() * scale);
+        QApplication::setFont(larger);
+    }
+
     QFont font_;
 };
 
 void ScreenSizesTest::init()
 {
-    pdekit::Feedback::install(std::make_shared<RecordingFeedback>());
-    pdekit::setSystemLogSink([](const QString &) {});
-    qputenv("XDG_CONFIG_HOME", QFile::encodeName(config_.path()));
+    WindowTest::init();
     font_ = QApplication::font();
 }
 
@@ -94,31 +82,23 @@ void ScreenSizesTest::cleanup()
 
 void ScreenSizesTest::everythingIsReached_data()
 {
-    QTest::addColumn<QSize>("size");
-    QTest::addColumn<double>("font");
-    QTest::addColumn<QString>("language");
-    QTest::newRow("800 x 500") << QSize(800, 500) << 1.0 << u"en"_s;
-    QTest::newRow("1024 x 600") << QSize(1024, 600) << 1.5 << u"en"_s;
-    QTest::newRow("German, 125 %") << QSize(1366, 768) / 1.25 << 1.25 << u"de"_s;
-    QTest::newRow("German, large font") << QSize(800, 500) << 1.5 << u"de"_s;
-    QTest::newRow("double font") << QSize(800, 500) << 2.0 << u"fr"_s;
+    addRows<QSize, double, QString>({
+        {"800 x 500", QSize(800, 500), 1.0, u"en"_s},
+        {"1024 x 600", QSize(1024, 600), 1.5, u"en"_s},
+        {"German, 125 %", QSize(1366, 768) / 1.25, 1.25, u"de"_s},
+        {"German, large font", QSize(800, 500), 1.5, u"de"_s},
+        {"double font", QSize(800, 500), 2.0, u"fr"_s},
+    });
 }
 
 // By the keyboard, which shows what it comes to; and Print and Cancel stay in sight the whole time.
 void ScreenSizesTest::everythingIsReached()
 {
-    QFETCH(QSize, size);
-    QFETCH(double, font);
-    QFETCH(QString, language);
-    QLocale::setDefault(QLocale(language));
+    const auto [size, font, language] = row<QSize, double, QString>();
     QTranslator translator;
-    QVERIFY(translator.load(
-        QStringLiteral("%1/corvel-print_%2.qm").arg(QStringLiteral(CORVEL_TRANSLATIONS_DIR), language)));
-    QCoreApplication::installTranslator(&translator);
-    QFont larger = font_;
-    larger.setPointSizeF(font_.pointSizeF() * font);
-    QApplication::setFont(larger);
-    const OpenedDialog opened(PanelMode::Constraint);
+    QVERIFY(speak(translator, language));
+    scaleFont(font);
+    const OpenedDialog opened;
     opened.dialog->resize(size);
     QCoreApplication::processEvents();
     QCOMPARE(opened.dialog->size(), size);
@@ -152,7 +132,7 @@ void ScreenSizesTest::everythingIsReached()
 
 void ScreenSizesTest::wheelChangesNothing()
 {
-    const OpenedDialog opened(PanelMode::Constraint);
+    const OpenedDialog opened;
     opened.dialog->resize(800, 500);
     QScrollBar *bar = settingsOf(opened)->verticalScrollBar();
     QTRY_VERIFY(bar->maximum() > 0);
@@ -171,14 +151,13 @@ void ScreenSizesTest::wheelChangesNothing()
     }
     QCOMPARE(slider->value(), 0);
     QVERIFY(slider->isVisible()); // it is still the first page
-    opened.click(u"print"_s);
-    QTRY_VERIFY(opened.hasPrinted());
-    QCOMPARE(opened.options()[u"PageSize"_s].toString(), u"4x6.Fullbleed"_s);
+    QVERIFY(opened.prints());
+    QCOMPARE(opened.printed(u"PageSize"_s), u"4x6.Fullbleed"_s);
 }
 
 void ScreenSizesTest::calloutFollowsItsControl()
 {
-    const OpenedDialog opened(PanelMode::Constraint);
+    const OpenedDialog opened;
     opened.dialog->resize(800, 500);
     opened.dialog->showPage(2);
     auto *matte = opened.find<QWidget>(u"matte"_s);
@@ -205,12 +184,12 @@ void ScreenSizesTest::calloutFollowsItsControl()
     QWheelEvent wheel(middle, callout->mapToGlobal(middle), {}, {0, 120}, {}, {}, Qt::NoScrollPhase, false);
     QApplication::sendEvent(opened.find<QWidget>(u"callout"_s), &wheel);
     QVERIFY(bar->value() < bar->maximum());
-    QVERIFY(!opened.dialog->message().isEmpty());
+    QVERIFY(!opened.message().isEmpty());
 }
 
 void ScreenSizesTest::photoGetsTheRest()
 {
-    const OpenedDialog opened(PanelMode::Constraint);
+    const OpenedDialog opened;
     opened.dialog->resize(1000, 700);
     QCoreApplication::processEvents();
     const int settings = settingsOf(opened)->width();
@@ -224,7 +203,7 @@ void ScreenSizesTest::photoGetsTheRest()
 // 1024 x 600 at 150 %, which desktops set on X11 by the resolution of the fonts.
 void ScreenSizesTest::photoGivesWay()
 {
-    const OpenedDialog opened(PanelMode::Constraint);
+    const OpenedDialog opened;
     opened.dialog->resize(683, 384);
     QCoreApplication::processEvents();
     QCOMPARE(opened.dialog->width(), 683);
@@ -234,9 +213,7 @@ void ScreenSizesTest::photoGivesWay()
 
 void ScreenSizesTest::opensWithRoomForAll()
 {
-    QFont larger = font_;
-    larger.setPointSizeF(font_.pointSizeF() * 1.25);
-    QApplication::setFont(larger);
+    scaleFont(1.25);
     PrintDialog dialog(setupFor(PanelMode::Constraint));
     dialog.restorePlacement({});
     dialog.show();
@@ -248,10 +225,8 @@ void ScreenSizesTest::opensWithRoomForAll()
 
 void ScreenSizesTest::helpFitsTheScreen()
 {
-    QFont larger = font_;
     for (const double scale : {1.0, 1.5, 2.5}) {
-        larger.setPointSizeF(font_.pointSizeF() * scale);
-        QApplication::setFont(larger);
+        scaleFont(scale);
         QWidget parent;
         HelpWindow::showFor(&parent);
         const auto *help = parent.findChild<HelpWindow *>();
@@ -264,23 +239,19 @@ void ScreenSizesTest::helpFitsTheScreen()
 
 void ScreenSizesTest::placementFitsTheScreen_data()
 {
-    QTest::addColumn<QSize>("kept");
-    QTest::addColumn<QPoint>("place");
-    QTest::addColumn<int>("screen");
-    QTest::newRow("first time") << QSize() << QPoint() << 0;
-    QTest::newRow("from a larger screen") << QSize(1800, 1100) << QPoint(600, 400) << 800;
-    QTest::newRow("from a much wider one") << QSize(2800, 1400) << QPoint(900, 300) << 3840;
+    addRows<QRect, int>({
+        {"first time", QRect(), 0},
+        {"from a larger screen", QRect(600, 400, 1800, 1100), 800},
+        {"from a much wider one", QRect(900, 300, 2800, 1400), 3840},
+    });
 }
 
 void ScreenSizesTest::placementFitsTheScreen()
 {
-    QFETCH(QSize, kept);
-    QFETCH(QPoint, place);
-    QFETCH(int, screen);
-    const OpenedDialog opened(PanelMode::Constraint);
+    const auto [rect, screen] = row<QRect, int>();
+    const OpenedDialog opened;
     QByteArray geometry;
-    if (!kept.isEmpty()) {
-        const QRect rect(place, kept);
+    if (!rect.isEmpty()) {
         QDataStream(&geometry, QIODevice::WriteOnly) // as QWidget::saveGeometry() does
             << quint32(0x1D9D0CB) << quint16(3) << quint16(0) << rect << rect << qint32(0) << quint8(0)
             << quint8(0) << qint32(screen) << rect;

@@ -4,19 +4,13 @@
 #include "OpenedDialog.h"
 
 #include <QtCore/QDir>
-#include <QtTest/QTest>
-#include <QtWidgets/QApplication>
-#include <QtWidgets/QComboBox>
-#include <QtWidgets/QLineEdit>
 
 #include <cstdio>
 #include <functional>
 
 // makeDialogPictures FOLDER: pictures of the dialog for the README.
 
-using namespace printdialog;
 using namespace testing_support;
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -32,7 +26,7 @@ QPalette darkPalette()
 bool picture(const QDir &folder, const QString &name,
              const std::function<void(const OpenedDialog &)> &prepare)
 {
-    const OpenedDialog opened(PanelMode::Constraint);
+    const OpenedDialog opened;
     opened.find<QLineEdit>(u"folder"_s)->setText(u"/home/ada/Prints"_s);
     prepare(opened);
     if (!QTest::qWaitFor([&opened] { return opened.dialog->isPreviewReady(); }))

@@ -1,0 +1,29 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include <QtTest/QTest>
+
+#include <initializer_list>
+#include <tuple>
+
+/// The rows of a test: the name of each and its values, which row() has in the test.
+template <class... Values>
+void addRows(std::initializer_list<std::tuple<const char *, Values...>> rows)
+{
+    QTest::addColumn<std::tuple<Values...>>("values");
+    for (const auto &each : rows) {
+        const auto add = [](const char *name, const Values &...values) {
+            QTest::newRow(name) << std::tuple<Values...>(values...);
+        };
+        std::apply(add, each);
+    }
+}
+
+template <class... Values>
+std::tuple<Values...> row()
+{
+    QFETCH(std::tuple<Values...>, values);
+    return values;
+}
