@@ -272,7 +272,6 @@ void FaultTest::launchesOrSaysWhy()
     const QByteArray call = QByteArray(QTest::currentDataTag()).split(' ').constFirst();
     const bool isInterrupted = error == EINTR;
     BackendRun run("both streams");
-    run.installInBundle();
     run.command("print\n");
     QVERIFY(run.start() == 0 && QTest::qWaitFor([&run] { return run.isIdle(); }));
     QTRY_VERIFY(!hasChildren());

@@ -13,10 +13,7 @@
 #include <QtCore/QTemporaryDir>
 #include <QtTest/QTest>
 
-#include <csignal>
-#include <initializer_list>
 #include <sys/wait.h>
-#include <vector>
 
 class RunnerPanel : public RKTPPRBasePDEcorvel
 {
@@ -60,39 +57,14 @@ inline bool hasChildren()
     return waitid(P_ALL, 0, &info, WEXITED | WNOHANG | WNOWAIT) == 0;
 }
 
-/// Blocks some signals and ignores others, until it goes.
-class SignalSettings
-{
-public:
-    SignalSettings(std::initializer_list<int> blocked, std::initializer_list<int> ignored)
-        : ignored_(ignored)
-    {
-        sigset_t signals;
-        sigemptyset(&signals);
-        for (const int signal : blocked)
-            sigaddset(&signals, signal);
-        sigprocmask(SIG_BLOCK, &signals, &mask_);
-        for (const int signal : ignored_)
-            std::signal(signal, SIG_IGN);
-    }
-    ~SignalSettings()
-    {
-        sigprocmask(SIG_SETMASK, &mask_, nullptr);
-        for (const int signal : ignored_)
-            std::signal(signal, SIG_DFL);
-    }
-    Q_DISABLE_COPY_MOVE(SignalSettings)
-
-private:
-    std::vector<int> ignored_;
-    sigset_t mask_ = {};
-};
-
 /// A panel in a bundle of its own, whose backend behaves as told.
 class BackendRun
 {
 public:
-    explicit BackendRun(const char *behaviour, const QString &bundleName = text("Own.bundle"))
+    enum class Installed { InBundle, Nowhere };
+
+    explicit BackendRun(const char *behaviour, Installed installed = Installed::InBundle,
+                        const QString &bundleName = text("Own.bundle"))
         : dialog(Mode::Constraint)
         , bundlePath(folder.filePath(text("PDEs/") + bundleName))
     {
@@ -103,6 +75,8 @@ public:
         panel->pdeBundle_ = emptyBundle(bundlePath, "a.b");
         initializeVeltaContext(&context);
         dialog.log.clear();
+        if (installed == Installed::InBundle)
+            install(inBundle());
     }
 
     /// How the backends that start from now on behave.
@@ -112,7 +86,6 @@ public:
         QDir().mkpath(QFileInfo(path).path());
         QFile::copy(QStringLiteral(VELTA_PROGRAM), path);
     }
-    void installInBundle() { install(bundlePath + text("/Contents/Linux/velta")); }
     QString inBundle() const { return bundlePath + text("/Contents/Linux/velta"); }
 
     void command(const QByteArray &bytes)
@@ -121,6 +94,11 @@ public:
         context.commandLength = static_cast<std::uint8_t>(bytes.size());
     }
     int start() { return panel->performUtilityTaskWithVeltaTaskContext(&context); }
+    /// Whether it starts, and ends.
+    bool runs()
+    {
+        return start() == 0 && QTest::qWaitFor([this] { return isIdle(); }, 10000);
+    }
     bool isWaiting() const { return panel->waitForCommandCompletion_ && !isIdle(); }
     bool isIdle() const { return !panel->streamIN_ && !panel->streamERR_; }
     /// Whether a launch succeeds and logs just that. A backend that a busy machine held up for longer than
@@ -129,7 +107,7 @@ public:
     {
         for (int attempt = 0; attempt < 50; ++attempt) {
             dialog.log.clear();
-            if (start() != 0 || !QTest::qWaitFor([this] { return isIdle(); }))
+            if (!runs())
                 return false;
             QCoreApplication::processEvents(); // what a signal has logged
             if (dialog.log == lines)

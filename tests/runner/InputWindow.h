@@ -19,14 +19,13 @@ public:
         using System = QWindowSystemInterface;
         const QPointF local(5, 5);
         const QPointF global = mapToGlobal(local);
-        System::handleMouseEvent<System::AsynchronousDelivery>(windowHandle(), local, global, Qt::LeftButton,
-                                                               Qt::LeftButton, QEvent::MouseButtonPress);
-        System::handleMouseEvent<System::AsynchronousDelivery>(windowHandle(), local, global, Qt::NoButton,
-                                                               Qt::LeftButton, QEvent::MouseButtonRelease);
-        System::handleKeyEvent<System::AsynchronousDelivery>(windowHandle(), QEvent::KeyPress, Qt::Key_A,
-                                                             Qt::NoModifier);
-        System::handleKeyEvent<System::AsynchronousDelivery>(windowHandle(), QEvent::KeyRelease, Qt::Key_A,
-                                                             Qt::NoModifier);
+        for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease})
+            System::handleMouseEvent<System::AsynchronousDelivery>(
+                windowHandle(), local, global,
+                type == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton, Qt::LeftButton, type);
+        for (const auto type : {QEvent::KeyPress, QEvent::KeyRelease})
+            System::handleKeyEvent<System::AsynchronousDelivery>(windowHandle(), type, Qt::Key_A,
+                                                                 Qt::NoModifier);
     }
 
 protected:

@@ -55,30 +55,12 @@ qint64 peakMemory()
     return status.mid(at, status.indexOf(" kB", at) - at).trimmed().toLongLong() * 1024;
 }
 
-/// How far apart the stack's ends were at the moments measured.
-class StackDepth
-{
-public:
-    void measure()
-    {
-        const auto here = reinterpret_cast<std::uintptr_t>(__builtin_frame_address(0));
-        lowest_ = std::min(lowest_, here);
-        highest_ = std::max(highest_, here);
-    }
-    qint64 bytes() const { return lowest_ < highest_ ? qint64(highest_ - lowest_) : 0; }
-
-private:
-    std::uintptr_t lowest_ = UINTPTR_MAX;
-    std::uintptr_t highest_ = 0;
-};
-
 } // namespace
 
 // Eleven passes of a second, then two interrupts, which end the backend.
 void RunnerTest::silenceAfterOneLine()
 {
     BackendRun run("silent after one line");
-    run.installInBundle();
     QElapsedTimer timer;
     timer.start();
     QCOMPARE(run.start(), 0);
@@ -133,7 +115,6 @@ void RunnerTest::waitsEndWithTheirRun()
     QFETCH(int, interval);
     QFETCH(int, busy);
     BackendRun run("offline in lower case");
-    run.installInBundle();
     int passesAtLaunch = 0; // of the next run
     QTimer caller;
     caller.setInterval(interval);
@@ -161,7 +142,6 @@ void RunnerTest::waitsEndWithTheirRun()
 void RunnerTest::errorsWait()
 {
     BackendRun run("silent");
-    run.installInBundle();
     QCOMPARE(run.start(), 0);
     run.panel->streamERRHandleEvent(run.panel->streamERR_.get(), pdekit::StreamEventErrorOccurred);
     QVERIFY(!run.panel->waitForCommandCompletion_);
@@ -188,7 +168,6 @@ void RunnerTest::errorsReadNothing()
 void RunnerTest::waitsPaintAndTakeNoInput()
 {
     BackendRun run("silent after one line");
-    run.installInBundle();
     InputWindow window;
     window.show();
     QVERIFY(QTest::qWaitForWindowExposed(&window));
@@ -222,13 +201,15 @@ void RunnerTest::floods_data()
 void RunnerTest::floods()
 {
     BackendRun run(QTest::currentDataTag());
-    run.installInBundle();
     qsizetype logged = 0;
-    StackDepth depth;
+    std::uintptr_t lowest = UINTPTR_MAX; // of the stack
+    std::uintptr_t highest = 0;
     const qint64 memory = peakMemory();
     QVERIFY(memory > 0);
     const auto sink = pdekit::setSystemLogSink([&](const QString &line) {
-        depth.measure();
+        const auto here = reinterpret_cast<std::uintptr_t>(__builtin_frame_address(0));
+        lowest = std::min(lowest, here);
+        highest = std::max(highest, here);
         if (line.startsWith(text("backend err = ")))
             logged += line.size() - 14;
         if (logged > 500'000 && qgetenv("VELTA_BEHAVIOUR") == "floods until interrupted")
@@ -239,7 +220,7 @@ void RunnerTest::floods()
     pdekit::setSystemLogSink(sink);
     QFETCH(qsizetype, characters);
     QVERIFY(logged >= characters);
-    QVERIFY2(depth.bytes() < qsizetype(64) * 1024, qPrintable(QString::number(depth.bytes())));
+    QVERIFY2(highest - lowest < 64 * 1024, qPrintable(QString::number(highest - lowest)));
     const qint64 grown = peakMemory() - memory;
     QVERIFY2(grown < mostGrowth, qPrintable(QString::number(grown)));
     QTRY_VERIFY(!hasChildren());
@@ -259,7 +240,6 @@ void RunnerTest::destroyedWhileRunning()
     QFETCH(QString, backend);
     QFETCH(bool, isWaiting);
     auto run = std::make_unique<BackendRun>(backend.toLatin1().constData());
-    run->installInBundle();
     QCOMPARE(run->start(), 0);
     QPointer<RunnerPanel> panel = run->panel.get();
     QElapsedTimer timer;
@@ -291,7 +271,6 @@ void RunnerTest::descriptorsRunOut()
     QFETCH(int, left);
     QFETCH(bool, starts);
     BackendRun run("silent");
-    run.installInBundle();
     const qsizetype descriptors = openDescriptors();
     QCOMPARE(withDescriptorsLeft(left, [&run] { return run.start(); }), 0);
     QCOMPARE(hasChildren(), starts);
@@ -299,6 +278,5 @@ void RunnerTest::descriptorsRunOut()
     QTRY_VERIFY(!hasChildren());
     QCOMPARE(openDescriptors(), descriptors);
     run.dialog.log.clear();
-    QCOMPARE(run.start(), 0);
-    QTRY_VERIFY(run.isIdle());
+    QVERIFY(run.runs());
 }

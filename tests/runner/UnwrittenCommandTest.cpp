@@ -18,10 +18,8 @@ private Q_SLOTS:
 void UnwrittenCommandTest::nothingIsWritten()
 {
     BackendRun run("reads");
-    run.installInBundle();
     run.command("print\n");
-    QCOMPARE(run.start(), 0);
-    QTRY_VERIFY(run.isIdle());
+    QVERIFY(run.runs());
     QCOMPARE(run.dialog.log, run.launchLines(6));
     QFile input(run.folder.filePath(text("input")));
     QVERIFY(input.open(QIODevice::ReadOnly));
