@@ -88,7 +88,6 @@ private Q_SLOTS:
     void isTurnedOnce_data();
     void isTurnedOnce();
     void profileIsKept();
-    void damage_data();
     void damage();
     void anotherSizeThanTold();
 };
@@ -145,26 +144,19 @@ void HeifTest::profileIsKept()
     QCOMPARE(samples::cornersOf(photo->preview(QSize(128, 64)), QRect(0, 0, 128, 64), 8), u"GRBY"_s);
 }
 
-void HeifTest::damage_data()
-{
-    QTest::addColumn<qsizetype>("size");
-    QTest::newRow("cut in its headers") << qsizetype(60);
-    QTest::newRow("without its last byte") << qsizetype(-1);
-    QTest::newRow("bytes changed") << qsizetype(0);
-}
-
 void HeifTest::damage()
 {
-    QFETCH(const qsizetype, size);
-    QByteArray content = encoded(samples::quarters(QSize(128, 64)), heif_compression_HEVC, 1);
+    const QByteArray content = encoded(samples::quarters(QSize(128, 64)), heif_compression_HEVC, 1);
     if (content.isEmpty())
         QSKIP("libheif has no encoder for it here");
-    if (size == 0)
-        content.replace(content.indexOf("meta") + 8, 200, QByteArray(200, 'x'));
-    samples::store(pathOf(u"photo.heic"_s), size > 0 ? content.first(size) : content.chopped(-size));
-    const auto photo = Photo::open(pathOf(u"photo.heic"_s));
-    QVERIFY(!photo);
-    QCOMPARE(photo.failure().reason, size == 0 ? PhotoFault::Broken : PhotoFault::Truncated);
+    const QByteArray changed =
+        QByteArray(content).replace(content.indexOf("meta") + 8, 200, QByteArray(200, 'x'));
+    for (const QByteArray &damaged : {content.first(60), content.chopped(1), changed}) {
+        samples::store(pathOf(u"photo.heic"_s), damaged);
+        const auto photo = Photo::open(pathOf(u"photo.heic"_s));
+        QVERIFY(!photo);
+        QCOMPARE(photo.failure().reason, damaged == changed ? PhotoFault::Broken : PhotoFault::Truncated);
+    }
 }
 
 void HeifTest::anotherSizeThanTold()

@@ -51,49 +51,36 @@ void PhotoPlacementTest::places_data()
     const PlacementChoice fit;
     const PlacementChoice fill{Scaling::Fill, 0, {0.5, 0.5}};
     const PlacementChoice actual{Scaling::ActualSize, 0, {0.5, 0.5}};
-    QTest::newRow("fit: same shape") << portrait << QSize(2000, 3000) << fit << portrait.imageable << 0;
-    QTest::newRow("fit: landscape on portrait")
-        << portrait << QSize(3000, 2000) << fit << portrait.imageable << 1;
-    QTest::newRow("fit: portrait on landscape")
-        << landscape << QSize(2000, 3000) << fit << landscape.imageable << 1;
-    QTest::newRow("fit: square") << portrait << QSize(999, 999) << fit << QRectF(10, 70, 200, 200) << 0;
-    QTest::newRow("fit: any shape on a square")
-        << square << QSize(400, 200) << fit << QRectF(0, 25, 100, 50) << 0;
-    QTest::newRow("fit: panorama, enlarged")
-        << portrait << QSize(30, 10) << fit << QRectF(60, 20, 100, 300) << 1;
-    QTest::newRow("fit: turned by hand")
-        << portrait << QSize(3000, 2000) << PlacementChoice{Scaling::Fit, 1, {}}
-        << QRectF(10, 103.3333333, 200, 133.3333333) << 2;
-    QTest::newRow("fit: turned back by hand")
-        << portrait << QSize(3000, 2000) << PlacementChoice{Scaling::Fit, 3, {}}
-        << QRectF(10, 103.3333333, 200, 133.3333333) << 0;
-    QTest::newRow("fit: never beyond the sheet")
-        << overprinted << QSize(200, 300) << fit << QRectF(0, 0, 200, 300) << 0;
-    QTest::newRow("fill: the middle")
-        << portrait << QSize(300, 300) << fill << QRectF(-40, 20, 300, 300) << 0;
-    QTest::newRow("fill: the left") << portrait << QSize(300, 300)
-                                    << PlacementChoice{Scaling::Fill, 0, {0, 0.5}} << QRectF(10, 20, 300, 300)
-                                    << 0;
-    QTest::newRow("fill: the bottom, which is on the left when turned")
-        << portrait << QSize(400, 200) << PlacementChoice{Scaling::Fill, 0, {0.5, 1}}
-        << QRectF(10, -30, 200, 400) << 1;
-    QTest::newRow("fill: the right, which is the bottom when turned")
-        << portrait << QSize(400, 200) << PlacementChoice{Scaling::Fill, 0, {1, 0.5}}
-        << QRectF(10, -80, 200, 400) << 1;
-    QTest::newRow("fill: turned by hand, kept to the left")
-        << square << QSize(200, 100) << PlacementChoice{Scaling::Fill, 2, {0, 0.5}}
-        << QRectF(-100, 0, 200, 100) << 2;
-    QTest::newRow("fill: beyond the sheet's edges")
-        << overprinted << QSize(220, 320) << fill << overprinted.imageable << 0;
-    QTest::newRow("actual: smaller than the page")
-        << portrait << QSize(300, 300) << actual << QRectF(38, 98, 144, 144) << 0;
-    QTest::newRow("actual: fits either way")
-        << portrait << QSize(300, 150) << actual << QRectF(38, 134, 144, 72) << 0;
-    QTest::newRow("actual: cut less when turned")
-        << portrait << QSize(600, 300) << actual << QRectF(38, 26, 144, 288) << 1;
-    QTest::newRow("actual: cut") << square << QSize(300, 150)
-                                 << PlacementChoice{Scaling::ActualSize, 0, {1, 0}} << QRectF(-44, 0, 144, 72)
-                                 << 0;
+    const auto row = [](const char *name, const PageGeometry &page, const QSize &photo,
+                        const PlacementChoice &choice, const QRectF &target, int turns) {
+        QTest::newRow(name) << page << photo << choice << target << turns;
+    };
+    row("fit: same shape", portrait, QSize(2000, 3000), fit, portrait.imageable, 0);
+    row("fit: landscape on portrait", portrait, QSize(3000, 2000), fit, portrait.imageable, 1);
+    row("fit: portrait on landscape", landscape, QSize(2000, 3000), fit, landscape.imageable, 1);
+    row("fit: square", portrait, QSize(999, 999), fit, QRectF(10, 70, 200, 200), 0);
+    row("fit: any shape on a square", square, QSize(400, 200), fit, QRectF(0, 25, 100, 50), 0);
+    row("fit: panorama, enlarged", portrait, QSize(30, 10), fit, QRectF(60, 20, 100, 300), 1);
+    row("fit: turned by hand", portrait, QSize(3000, 2000), PlacementChoice{Scaling::Fit, 1, {}},
+        QRectF(10, 103.3333333, 200, 133.3333333), 2);
+    row("fit: turned back by hand", portrait, QSize(3000, 2000), PlacementChoice{Scaling::Fit, 3, {}},
+        QRectF(10, 103.3333333, 200, 133.3333333), 0);
+    row("fit: never beyond the sheet", overprinted, QSize(200, 300), fit, QRectF(0, 0, 200, 300), 0);
+    row("fill: the middle", portrait, QSize(300, 300), fill, QRectF(-40, 20, 300, 300), 0);
+    row("fill: the left", portrait, QSize(300, 300), PlacementChoice{Scaling::Fill, 0, {0, 0.5}},
+        QRectF(10, 20, 300, 300), 0);
+    row("fill: the bottom, which is on the left when turned", portrait, QSize(400, 200),
+        PlacementChoice{Scaling::Fill, 0, {0.5, 1}}, QRectF(10, -30, 200, 400), 1);
+    row("fill: the right, which is the bottom when turned", portrait, QSize(400, 200),
+        PlacementChoice{Scaling::Fill, 0, {1, 0.5}}, QRectF(10, -80, 200, 400), 1);
+    row("fill: turned by hand, kept to the left", square, QSize(200, 100),
+        PlacementChoice{Scaling::Fill, 2, {0, 0.5}}, QRectF(-100, 0, 200, 100), 2);
+    row("fill: beyond the sheet's edges", overprinted, QSize(220, 320), fill, overprinted.imageable, 0);
+    row("actual: smaller than the page", portrait, QSize(300, 300), actual, QRectF(38, 98, 144, 144), 0);
+    row("actual: fits either way", portrait, QSize(300, 150), actual, QRectF(38, 134, 144, 72), 0);
+    row("actual: cut less when turned", portrait, QSize(600, 300), actual, QRectF(38, 26, 144, 288), 1);
+    row("actual: cut", square, QSize(300, 150), PlacementChoice{Scaling::ActualSize, 0, {1, 0}},
+        QRectF(-44, 0, 144, 72), 0);
 }
 
 void PhotoPlacementTest::places()
