@@ -1,0 +1,161 @@
+# SPDX-FileCopyrightText: Corvel print dialog authors
+# SPDX-License-Identifier: Apache-2.0
+"""What corvel-print prints and lists, without a print server."""
+
+import json
+import pathlib
+import shutil
+import struct
+import sys
+import unittest
+import zlib
+
+from program import PHOTO, PPD, ProgramTest, run, shell
+
+MODES = "constraint", "settings"
+JPEG = pathlib.Path(PHOTO).read_bytes()
+CHOICES = (  # options, and the option and choice that one of them becomes
+    (["Red=+12"], "Red", "12"),
+    (["Red=012"], "Red", "12"),
+    (["SharpnessIntensity=1.5"], "SharpnessIntensity", "1.50"),
+    (["Red=1", "Red=2"], "Red", "2"),
+    (["Resolution=300x600dpi"], "Resolution", "300x600dpi"),  # of no panel
+    (["PageSize=5x7"], "PageSize", "5x7"),
+    (["Quality=Fine", "Overcoat=Matte"], "Overcoat", "Matte"))  # a conflict resolved before
+
+
+def option_arguments(options):
+    return [argument for option in options for argument in ("-o", option)]
+
+
+def listed_options(*arguments):
+    return {option["keyword"]: option for option in json.loads(run(*arguments, "--list-options", "--json").out)}
+
+
+def damaged_png():
+    def chunk(kind, data, damage=0):
+        return struct.pack(">I", len(data)) + kind + data + struct.pack(">I", zlib.crc32(kind + data) ^ damage)
+    return (b"\x89PNG\r\n\x1a\n" + chunk(b"IHDR", struct.pack(">IIBBBBB", 64, 64, 8, 0, 0, 0, 0))
+            + chunk(b"IDAT", zlib.compress(bytes(65 * 64)), damage=1) + chunk(b"IEND", b""))
+
+
+class CommandLineTest(ProgramTest):
+    def test_prints_the_photo_with_its_ticket(self):
+        for mode in MODES:
+            listed = listed_options("--mode", mode).values()
+            expected = {option["keyword"]: option["default"] for option in listed if option["panel"]}
+            self.assertLess({"Red", "Gamma", "Contrast"}, set(expected))
+            expected |= {"PageSize": "4x6.Fullbleed", "Red": "12", "Gamma": "-3"}
+            done = self.print("--overwrite", "--mode", mode, "-d", "built-in", "-n", "3", "-o", "Red=12", "--option",
+                              "Gamma=-3", pathlib.Path(PHOTO).as_uri())
+            self.assert_quiet(done)
+            self.assertEqual(done.out, f"Printed sample.jpg: {self.out}/sample.pdf\n")
+            self.assertEqual(self.ticket(), expected)
+            self.assertEqual(self.ticket("summary")["Red"], "12")
+            self.assertEqual(len(self.ticket("summary")), len(expected) - 1)  # what the panels say
+            for entry, value in ("printer", "built-in"), ("document", PHOTO), ("copies", 3):
+                self.assertEqual(self.ticket(entry), value)
+            self.assertIn(JPEG, (self.out / "sample.pdf").read_bytes())
+
+    def test_takes_choices_in_any_spelling(self):
+        for options, key, choice in CHOICES:
+            for mode in MODES:
+                with self.subTest(options, mode=mode):
+                    self.assert_quiet(self.print("--mode", mode, "--overwrite", PHOTO, *option_arguments(options)))
+                    self.assertEqual(self.ticket()[key], choice)
+                    shutil.rmtree(self.out)
+
+    # The photo is a JPEG file whose name is that of its page.
+    def test_replaces_no_file_of_others(self):
+        self.out.mkdir()
+        photo = self.stored("out/sample.pdf", JPEG)
+        for option, name in ([], "sample-2"), (["--dry-run"], "sample-3"), (["--overwrite"], "sample-2"), ([], "sample-3"):
+            done = self.print(*option, photo)
+            self.assertEqual(done.err, "")
+            self.assertIn(f"/{name}.pdf", done.out)
+            self.assertEqual(photo.read_bytes(), JPEG)
+        self.assertEqual(self.names(), ["sample-2.pdf", "sample-2.ticket.json", "sample-3.pdf", "sample-3.ticket.json",
+                                        "sample.pdf"])
+
+    def test_names_what_was_printed_before_a_failure(self):
+        second = self.stored("second.jpg", JPEG)
+        (self.out / "second.pdf").mkdir(parents=True)
+        done = self.print("--overwrite", PHOTO, second, PHOTO)
+        self.assertEqual(done.out.count("\n"), 1)
+        self.assert_refused(done._replace(out=""), 1, "second.pdf", "sample.jpg")
+        self.assertEqual(self.names(), ["sample.pdf", "sample.ticket.json", "second.pdf"])
+
+    # Each with a line of its own; with --no-check they are printed as they are.
+    def test_leaves_damaged_photos_out(self):
+        middle = len(JPEG) // 2
+        photos = (self.stored("damaged.jpg", JPEG[:middle] + bytes(4096) + JPEG[middle + 4096:]),
+                  self.stored("damaged.png", damaged_png()), PHOTO)
+        done = self.print(*photos)
+        self.assertEqual((done.status, done.out.count("\n"), done.err.count("\n")), (1, 1, 2))
+        for line, name in zip(done.err.splitlines(), ("damaged.jpg", "damaged.png")):
+            self.assertIn(name, line)
+        self.assertEqual(self.names(), ["sample.pdf", "sample.ticket.json"])
+        plan = run("--dry-run", "--json", *photos)
+        self.assertEqual((plan.status, plan.err, len(json.loads(plan.out))), (1, done.err, 1))
+        self.assertEqual(self.print("--no-check", photos[0]).err, "")
+        self.assertIn("damaged.pdf", self.names())
+
+    def test_lists_options(self):
+        options = listed_options("-o", "Red=7", "--mode", "settings")
+        red = options["Red"]
+        self.assertEqual((red["choice"], red["default"], red["panel"]), ("7", "0", "Color Adjustments"))
+        self.assertEqual(len(red["choices"]), 51)
+        self.assertEqual(options["Overcoat"]["choices"][1], {"keyword": "Matte", "text": "Matte"})
+        self.assertIsNone(options["PageSize"]["panel"])
+        text = run("--list-options")
+        self.assertEqual((text.status, text.out.count("\n")), (0, len(options) + 1))
+        self.assertIn("-25 to 25\n", text.out)
+        self.assertIn("  Standard, Fine\n", text.out)
+
+    def test_shows_the_summary(self):
+        arguments = "-o", "Red=7", "--scaling", "fill", "--summary"
+        summary = run(*arguments).out
+        self.assertTrue(summary.startswith("Paper size: 4 x 6 in, borderless\nCopies: 1\nPlacement: Fill the page\n"
+                                           "Brightness: 0\n"), summary)
+        self.assertIn("\nRed: 7\n", summary)
+        entries = json.loads(run(*arguments, "--json").out)
+        self.assertEqual((entries["Red"], entries["Copies"]), ("7", "1"))
+        self.assertIn("\nRed: 7\n", self.print("-o", "Red=7", "--summary", PHOTO).out)
+
+    def test_help_and_version_go_to_standard_output(self):
+        done = run("--help")
+        self.assertEqual(done.status, 0)
+        for part in ("--printer QUEUE", "--ppd FILE", "--mode constraint|settings", "-o, --option KEY=CHOICE",
+                     "--output DIR", "--batch", "--list-printers", "--list-options", "--summary", "--json",
+                     "--screenshot DIR", "--version"):
+            self.assertIn(part, done.out)
+        self.assertTrue(run("--version").out.startswith("corvel-print "))
+
+    def test_keeps_control_characters_from_the_terminal(self):
+        done = self.print(self.stored("a\x1b[31m\nb\tc\x9b.jpg", JPEG))
+        self.assertEqual(done.status, 0)
+        self.assertRegex(done.out, "\\APrinted a\\[31m b c.jpg: [^\n\x1b\x9b]*.pdf\n\\Z")
+        odd = self.stored("odd.ppd", pathlib.Path(PPD).read_bytes().replace(
+            b"*OpenUI *Quality/Print Quality", b"*OpenUI *Quality/Print\xc2\x9b[31m Quality"))
+        for more in [], ["--json"]:
+            listed = run("--ppd", odd, "--list-options", *more).out
+            self.assertIn("Print", listed)
+            self.assertNotIn("\x9b", listed)
+
+    # Also when whoever starts the program has the ends of child processes ignored.
+    def test_hears_of_its_helpers_end(self):
+        self.assertEqual(shell('env --ignore-signal=CHLD "$@"', "--ppd", PPD, "--list-options").status, 0)
+
+    # No file may take the number of a closed stream either: the line would end up in the photo.
+    def test_fails_when_its_output_cannot_be_written(self):
+        for streams in "> /dev/full", ">&-", "<&- >&-":
+            done = shell('"$@" ' + streams, "--batch", "--overwrite", "--output", self.out, PHOTO)
+            self.assert_refused(done, 1, "Standard output")
+            self.assertTrue((self.out / "sample.pdf").read_bytes().startswith(b"%PDF-"))
+        self.assertEqual(shell('"$@" --list-options > /dev/full').status, 1)
+        unread = shell('{ sleep 0.1; "$@" --help; echo $? >&2; } | true').err
+        self.assertIn("Standard output", unread)
+        self.assertTrue(unread.endswith("\n1\n"), unread)
+
+
+unittest.main(argv=sys.argv[:1])
