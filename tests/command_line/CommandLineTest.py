@@ -4,6 +4,7 @@
 
 import json
 import pathlib
+import re
 import shutil
 import struct
 import sys
@@ -64,6 +65,24 @@ class CommandLineTest(ProgramTest):
                     self.assert_quiet(self.print("--mode", mode, "--overwrite", PHOTO, *option_arguments(options)))
                     self.assertEqual(self.ticket()[key], choice)
                     shutil.rmtree(self.out)
+
+    def test_places_the_photo(self):
+        # The sample has 1800 x 1200 pixels, 300 to an inch; of 360 x 504 points 9 at each edge stay white.
+        for arguments, where in (([], [18, 9, 342, 495]), (["--scaling", "fill"], [9, -4.5, 351, 508.5]),
+                                 (["--scaling=fill", "--crop=0,50"], [9, -18, 351, 495]),  # the left: the page's top
+                                 (["--scaling", "actual"], [36, 36, 324, 468])):
+            self.assert_quiet(self.print("--overwrite", "-o", "PageSize=5x7", PHOTO, *arguments))
+            pdf = (self.out / "sample.pdf").read_bytes().decode("latin-1")
+            a, b, c, d, x, y = map(float, re.search("n\n(.*) (.*) (.*) (.*) (.*) (.*) cm", pdf).groups())
+            corners = sorted((x, x + a + c)) + sorted((y, y + b + d))
+            self.assertEqual([round(corners[i], 1) for i in (0, 2, 1, 3)], where)
+
+    def test_prints_a_photo_whose_name_is_any_bytes(self):
+        done = shell(f"cd '{self.folder}' && name=$(printf 'caf\\351 \\303\\251') && cp '{PHOTO}' \"$name.jpg\" && "
+                     '"$1" --batch --output "$name" "$name.jpg" && ls "$name"')
+        self.assert_quiet(done)
+        self.assertIn("Printed caf\ufffd \u00e9.jpg", done.out)
+        self.assertIn("\ncaf\ufffd \u00e9.pdf", done.out)
 
     # The photo is a JPEG file whose name is that of its page.
     def test_replaces_no_file_of_others(self):

@@ -8,11 +8,9 @@
 #include "WindowRun.h"
 
 #include <QtCore/QDir>
-#include <QtCore/QRegularExpression>
 #include <QtCore/QStandardPaths>
 #include <QtCore/QTemporaryDir>
 #include <QtGui/QImage>
-#include <QtGui/QTransform>
 #include <QtTest/QTest>
 
 using namespace printdialog;
@@ -37,65 +35,12 @@ private:
 
 private Q_SLOTS:
     void init() { folder_ = std::make_unique<QTemporaryDir>(); }
-    void placement_data();
-    void placement();
-    void nameOfAnyBytes();
     void nameAsUrl_data();
     void nameAsUrl();
     void badPhotosLeaveTheWindowToTheGoodOnes();
     void outputFolder();
     void takesPicturesOfTheDialog();
 };
-
-void PhotoArgumentsTest::placement_data()
-{
-    QTest::addColumn<QStringList>("arguments");
-    QTest::addColumn<QString>("where"); // left, bottom, right and top in points
-    // The sample has 1800 x 1200 pixels, 300 to an inch; of 360 x 504 points 9 at each edge stay white.
-    QTest::newRow("fit") << QStringList{} << u"18 9 342 495"_s;
-    QTest::newRow("fill") << QStringList{u"--scaling"_s, u"fill"_s} << u"9 -5 351 509"_s;
-    QTest::newRow("fill, the left, which is the top of the page")
-        << QStringList{u"--scaling=fill"_s, u"--crop=0,50"_s} << u"9 -18 351 495"_s;
-    QTest::newRow("actual size") << QStringList{u"--scaling"_s, u"actual"_s} << u"36 36 324 468"_s;
-}
-
-void PhotoArgumentsTest::placement()
-{
-    QFETCH(const QStringList, arguments);
-    QFETCH(const QString, where);
-    const ProgramRun run = runProgram(
-        QStringList{u"--batch"_s, u"--output"_s, pathOf(u"out"_s), u"-o"_s, u"PageSize=5x7"_s, samplePhoto} +
-        arguments);
-    QCOMPARE(run.err, QByteArray());
-    QCOMPARE(run.status, 0);
-    const QString pdf = QString::fromLatin1(contentOf(pathOf(u"out/sample.pdf"_s)));
-    const auto matrix = QRegularExpression(u"n\n(\\S+) (\\S+) (\\S+) (\\S+) (\\S+) (\\S+) cm"_s).match(pdf);
-    QVERIFY(matrix.hasMatch());
-    const auto number = [&matrix](int index) {
-        return matrix.captured(index).toDouble();
-    };
-    const QTransform toPage(number(1), number(2), number(3), number(4), number(5), number(6));
-    const QRectF area = toPage.mapRect(QRectF(0, 0, 1, 1));
-    QCOMPARE(u"%1 %2 %3 %4"_s.arg(qRound(area.left()))
-                 .arg(qRound(area.top()))
-                 .arg(qRound(area.right()))
-                 .arg(qRound(area.bottom())),
-             where);
-}
-
-void PhotoArgumentsTest::nameOfAnyBytes()
-{
-    const QString folder = folder_->path();
-    const ProgramRun run = runInShell(
-        u"cd '%1' && name=$(printf 'caf\\351 \\303\\251') && cp '%2' \"$name.jpg\" && "
-        "\"$1\" --batch --output \"$name\" \"$name.jpg\" && ls \"$name\""_s.arg(folder, samplePhoto),
-        {});
-    QCOMPARE(run.err, QByteArray());
-    QCOMPARE(run.status, 0);
-    const QString shown = u"caf\ufffd \u00e9"_s;
-    QVERIFY2(QString::fromUtf8(run.out).contains(u"Printed %1.jpg"_s.arg(shown)), run.out.constData());
-    QVERIFY2(QString::fromUtf8(run.out).contains(u"\n%1.pdf"_s.arg(shown)), run.out.constData());
-}
 
 void PhotoArgumentsTest::nameAsUrl_data()
 {

@@ -299,6 +299,7 @@ void FaultTest::launchesOrSaysWhy()
         if (!isInjected)
             break;
         QVERIFY2(!isInterrupted || (isLaunched && hasWorked()), qPrintable(QString::number(number)));
+        QVERIFY(call != "posix_spawn" || !isLaunched);
         run.dialog.log.clear();
         QVERIFY(run.start() == 0 && QTest::qWaitFor([&run] { return run.isIdle(); }) && hasWorked());
         QTRY_VERIFY(!hasChildren());
