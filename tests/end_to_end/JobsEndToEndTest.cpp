@@ -46,6 +46,7 @@ private Q_SLOTS:
     void initTestCase();
     void jobIsFollowedToItsEnd_data();
     void jobIsFollowedToItsEnd();
+    void waitingJobIsLeftInTime();
     void cancelledJobs();
     void suppliesAndReasons();
     void changedPpdIsNoticed();
@@ -100,6 +101,20 @@ void JobsEndToEndTest::jobIsFollowedToItsEnd()
     QVERIFY2(status->detail().contains(words), qPrintable(status->detail()));
     QVERIFY(states.contains(JobStatus::State::Processing));
     QCOMPARE(states.constLast(), status->state);
+}
+
+void JobsEndToEndTest::waitingJobIsLeftInTime()
+{
+    QVERIFY(cupsd_.run(u"cupsdisable"_s, {u"-r"_s, u"new ribbon on its way"_s, u"photo"_s}));
+    const auto id = submitJob(jobFor(u"photo"_s));
+    QElapsedTimer timer;
+    timer.start();
+    const auto status = followJob(u"photo"_s, *id, {.waiting = 200ms});
+    QVERIFY(timer.elapsed() >= 200 && timer.elapsed() < 2000);
+    QVERIFY(status && !status->isOver() && status->isWaiting());
+    QVERIFY2(status->text().contains(u"printer is stopped"_s), qPrintable(status->text()));
+    QVERIFY(cupsd_.run(u"cupsenable"_s, {u"photo"_s}));
+    QVERIFY(cupsd_.waitForJob(*id));
 }
 
 // While it is being sent, and once the server has it.
