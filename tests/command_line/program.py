@@ -28,8 +28,8 @@ def finished(command, **how):
 
 def run(*arguments, folder=None, **environment):
     """With variables that take the place of the test's."""
-    return finished([PROGRAM, *arguments], cwd=folder,
-                    env={k: v for k, v in os.environ.items() if k != "QT_QPA_PLATFORM"} | environment)
+    surroundings = {k: v for k, v in os.environ.items() if k not in ("QT_QPA_PLATFORM", "LPDEST", "PRINTER")}
+    return finished([PROGRAM, *arguments], cwd=folder, env=surroundings | environment)
 
 
 def shell(command, *arguments):
