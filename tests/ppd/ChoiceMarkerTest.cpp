@@ -91,18 +91,11 @@ private Q_SLOTS:
             "allowed are c1, c2, c3, c4, c5, c6, c7, c8, c9, c10, c11, c12 and 8 more."_s);
         row(u"Overcoat"_s, u"matte"_s, Verdict::UnknownChoice,
             u"The option \"Overcoat\" (Lamination) has no choice \"matte\"; allowed are Glossy, Matte."_s);
-        row(u"Nope"_s, u"zz"_s, Verdict::UnknownOption,
-            u"The printer has no option \"Nope\"; it has Gamma, Long, Overcoat, PageSize, Quality, Red, "
-            u"Sharpness, "
-            "Uneven."_s);
-        row(u"red"_s, u"1"_s, Verdict::UnknownOption,
-            u"The printer has no option \"red\"; it has Gamma, Long, Overcoat, PageSize, Quality, Red, "
-            u"Sharpness, "
-            "Uneven."_s);
-        row(u"Red\x1b\u202e"_s, u"1"_s, Verdict::UnknownOption,
-            u"The printer has no option \"Red\"; it has Gamma, Long, Overcoat, PageSize, Quality, Red, "
-            u"Sharpness, "
-            "Uneven."_s);
+        for (const auto &[key, shown] :
+             {std::pair(u"Nope"_s, u"Nope"_s), {u"red"_s, u"red"_s}, {u"Red\x1b\u202e"_s, u"Red"_s}})
+            row(key, u"1"_s, Verdict::UnknownOption,
+                u"The printer has no option \"%1\"; it has Gamma, Long, Overcoat, PageSize, Quality, Red, "
+                "Sharpness, Uneven."_s.arg(shown));
         row(u"Sharpness"_s, u"10"_s, Verdict::Conflict,
             u"\"Sharpness\" cannot be \"10\" while \"Long\" is \"c1\"."_s);
     }

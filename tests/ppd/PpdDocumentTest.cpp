@@ -65,18 +65,19 @@ private Q_SLOTS:
         QTest::addColumn<QString>("name");
         QTest::addColumn<PpdFault>("fault");
         QTest::addColumn<QString>("reason");
-        QTest::newRow("missing") << u"none.ppd"_s << PpdFault::NotFound << u"There is no"_s;
-        QTest::newRow("below a file") << u"empty.ppd/x"_s << PpdFault::NotFound << u"There is no"_s;
-        QTest::newRow("directory") << u"folder"_s << PpdFault::NotReadable << u"is a directory"_s;
-        QTest::newRow("pipe that nobody writes to")
-            << u"pipe"_s << PpdFault::NotReadable << u"device or a pipe"_s;
-        QTest::newRow("device") << u"../../dev/zero"_s << PpdFault::NotReadable << u"device or a pipe"_s;
-        QTest::newRow("empty") << u"empty.ppd"_s << PpdFault::Empty << u"is empty"_s;
-        QTest::newRow("sparse, huge") << u"huge.ppd"_s << PpdFault::TooLarge << u"larger than 32 MiB"_s;
-        QTest::newRow("expands too far") << u"bomb.ppd.gz"_s << PpdFault::TooLarge << u"larger than 32 MiB"_s;
-        QTest::newRow("compressed, cut off")
-            << u"cut.ppd.gz"_s << PpdFault::CutOff << u"its end is missing"_s;
-        QTest::newRow("compressed, damaged") << u"bad.ppd.gz"_s << PpdFault::CutOff << u"it is damaged"_s;
+        const auto row = [](const char *test, const QString &name, PpdFault fault, const QString &reason) {
+            QTest::newRow(test) << name << fault << reason;
+        };
+        row("missing", u"none.ppd"_s, PpdFault::NotFound, u"There is no"_s);
+        row("below a file", u"empty.ppd/x"_s, PpdFault::NotFound, u"There is no"_s);
+        row("directory", u"folder"_s, PpdFault::NotReadable, u"is a directory"_s);
+        row("pipe that nobody writes to", u"pipe"_s, PpdFault::NotReadable, u"device or a pipe"_s);
+        row("device", u"../../dev/zero"_s, PpdFault::NotReadable, u"device or a pipe"_s);
+        row("empty", u"empty.ppd"_s, PpdFault::Empty, u"is empty"_s);
+        row("sparse, huge", u"huge.ppd"_s, PpdFault::TooLarge, u"larger than 32 MiB"_s);
+        row("expands too far", u"bomb.ppd.gz"_s, PpdFault::TooLarge, u"larger than 32 MiB"_s);
+        row("compressed, cut off", u"cut.ppd.gz"_s, PpdFault::CutOff, u"its end is missing"_s);
+        row("compressed, damaged", u"bad.ppd.gz"_s, PpdFault::CutOff, u"it is damaged"_s);
     }
 
     void refusesFiles()
@@ -126,7 +127,6 @@ private Q_SLOTS:
         const auto row = [](const char *name, const QByteArray &data, PpdFault fault, const QString &reason) {
             QTest::newRow(name) << data << fault << reason;
         };
-        QByteArrayList twoThousand;
         QByteArray options;
         for (int i = 0; i < 100'000; ++i)
             options += option("O" + QByteArray::number(i), {"a"});
@@ -188,37 +188,35 @@ private Q_SLOTS:
         QTest::addColumn<QByteArray>("data");
         QTest::addColumn<QString>("note");
         const QByteArray odd = minimal() + option("Red", {"1", "2(b)/Two (b)"});
-        QTest::newRow("LF, parentheses") << odd << QString();
-        QTest::newRow("quote in a comment") << odd + "*% a: \"\n" << QString();
-        QTest::newRow("quote before the colon") << odd + "*Foo \"a\n" << QString();
-        QTest::newRow("CR") << QByteArray(odd).replace('\n', '\r') << QString();
-        QTest::newRow("CRLF, Ctrl-Z") << QByteArray(odd).replace("\n", "\r\n") + "\x1a" << QString();
-        QTest::newRow("no end of the last line") << odd.chopped(1) << QString();
-        QTest::newRow("no end of a last line that is left out")
-            << odd + "*ImageableArea \xff: \"0 0 1 1\"" << u"ImageableArea"_s;
-        QTest::newRow("option and group that never close")
-            << QByteArray(odd)
-                   .replace("*OpenUI *Red", "*OpenGroup: G/g\n*OpenUI *Red")
-                   .replace("*CloseUI: *Red\n", {})
-            << u"The option \"Red\" opened in line 17 never closes.\nThe group opened in line 16 never closes."_s;
-        QTest::newRow("bad choice") << QByteArray(odd).replace("*Red 1:",
-                                                               "*Red \xc3\xa9:\x20\"a\nb\"\n*End\n*Red 1:")
-                                    << u"Line 18: the choice \"é\" of the option \"Red\" is left out"_s;
-        QTest::newRow("long choice") << QByteArray(odd).replace("*Red 1:", "*Red " + QByteArray(41, 'a') +
-                                                                               ": \"\"\n*Red 1:")
-                                     << u"longer than 40 characters"_s;
-        QTest::newRow("long lines") << odd + "*%" + QByteArray(300, 'x') + "\n*Foo: \"\n" +
-                                           QByteArray(9'000, 'x') + "\"\n*End\n"
-                                    << u"\"Foo\""_s;
-        QTest::newRow("many languages")
-            << odd + QByteArray("*de.Foo a/b: \"\"\n*fr.Foo a/b: \"\"\n").repeated(60'000) << QString();
-        QTest::newRow("bad entry") << odd + "*ImageableArea \xff: \"0 0 1 1\"\n" << u"ImageableArea"_s;
-        QTest::newRow("repeated choice")
-            << QByteArray(odd).replace("*CloseUI: *Red", "*Red 1: \"\"\n*CloseUI: *Red") << u"repeats 1"_s;
-        QTest::newRow("option without choices") << odd + "*OpenUI *Nil: PickOne\n*CloseUI: *Nil\n"
-                                                << u"\"Nil\""_s;
-        QTest::newRow("many bad entries")
-            << odd + QByteArray("*Foo \xff: \"\"\n").repeated(1'000) << u"left out: 950"_s;
+        const auto row = [](const char *test, const QByteArray &data, const QString &note = {}) {
+            QTest::newRow(test) << data << note;
+        };
+        const auto with = [&odd](const QByteArray &before, const QByteArray &after) {
+            return QByteArray(odd).replace(before, after);
+        };
+        row("LF, parentheses", odd);
+        row("quote in a comment", odd + "*% a: \"\n");
+        row("quote before the colon", odd + "*Foo \"a\n");
+        row("CR", with("\n", "\r"));
+        row("CRLF, Ctrl-Z", with("\n", "\r\n") + "\x1a");
+        row("no end of the last line", odd.chopped(1));
+        row("no end of a last line that is left out", odd + "*ImageableArea \xff: \"0 0 1 1\"",
+            u"ImageableArea"_s);
+        row("option and group that never close",
+            with("*OpenUI *Red", "*OpenGroup: G/g\n*OpenUI *Red").replace("*CloseUI: *Red\n", {}),
+            u"The option \"Red\" opened in line 17 never closes.\nThe group opened in line 16 never closes."_s);
+        row("bad choice", with("*Red 1:", "*Red \xc3\xa9:\x20\"a\nb\"\n*End\n*Red 1:"),
+            u"Line 18: the choice \"é\" of the option \"Red\" is left out"_s);
+        row("long choice", with("*Red 1:", "*Red " + QByteArray(41, 'a') + ": \"\"\n*Red 1:"),
+            u"longer than 40 characters"_s);
+        row("long lines",
+            odd + "*%" + QByteArray(300, 'x') + "\n*Foo: \"\n" + QByteArray(9'000, 'x') + "\"\n*End\n",
+            u"\"Foo\""_s);
+        row("many languages", odd + QByteArray("*de.Foo a/b: \"\"\n*fr.Foo a/b: \"\"\n").repeated(60'000));
+        row("bad entry", odd + "*ImageableArea \xff: \"0 0 1 1\"\n", u"ImageableArea"_s);
+        row("repeated choice", with("*CloseUI: *Red", "*Red 1: \"\"\n*CloseUI: *Red"), u"repeats 1"_s);
+        row("option without choices", odd + "*OpenUI *Nil: PickOne\n*CloseUI: *Nil\n", u"\"Nil\""_s);
+        row("many bad entries", odd + QByteArray("*Foo \xff: \"\"\n").repeated(1'000), u"left out: 950"_s);
     }
 
     void keepsOddPpds()

@@ -63,15 +63,12 @@ private Q_SLOTS:
     void textFromOutsideIsCleaned_data();
     void textFromOutsideIsCleaned();
     void failuresNameTheQueueAndKeepPlaceholdersApart();
-    void unfitOptionIsRefusedBeforeAnythingIsSent_data();
     void unfitOptionIsRefusedBeforeAnythingIsSent();
     void badServerCostsOneSentenceInTime_data();
     void badServerCostsOneSentenceInTime();
-    void hostileAnswersCostLittle_data();
     void hostileAnswersCostLittle();
     void answersThatMakeNoSense();
     void answersThatAreLongCostLittleTime();
-    void finderNeverBlocks_data();
     void finderNeverBlocks();
     void onlyTheLatestFetchIsAnnounced();
     void noServerIsToldAtOnce();
@@ -116,36 +113,31 @@ void QueuesTest::failuresNameTheQueueAndKeepPlaceholdersApart()
     QVERIFY2(text.contains(u"\"a%2b\" does not exist (Gone for good);"_s), qPrintable(text));
 }
 
-void QueuesTest::unfitOptionIsRefusedBeforeAnythingIsSent_data()
-{
-    QTest::addColumn<QString>("keyword");
-    QTest::addColumn<QString>("value");
-    QTest::newRow("line feed in a value") << u"Finish"_s << u"Matte\nStray=1"_s;
-    QTest::newRow("carriage return") << u"Finish"_s << u"\rMatte"_s;
-    QTest::newRow("NUL") << u"Finish"_s << u"Mat"_s + QChar(0) + u"te"_s;
-    QTest::newRow("delete") << u"Finish"_s << u"Matte\u007f"_s;
-    QTest::newRow("C1 control") << u"Finish"_s << u"\u0085"_s;
-    QTest::newRow("line separator") << u"Finish"_s << u"\u2028"_s;
-    QTest::newRow("endless value") << u"Finish"_s << QString(128, u'\u00e4');
-    QTest::newRow("value that CUPS takes for a collection") << u"Finish"_s << u"{a=b}"_s;
-    QTest::newRow("line feed in a keyword") << u"Fin\nish"_s << u"Matte"_s;
-    QTest::newRow("space in a keyword") << u"Finish Stray"_s << u"1"_s;
-    QTest::newRow("value in a keyword") << u"Finish=1"_s << u"1"_s;
-    QTest::newRow("no keyword") << QString() << u"1"_s;
-    QTest::newRow("copies, which have a place of their own") << u"copies"_s << u"2"_s;
-}
-
+// Control characters, what is too long, and what CUPS takes for something else.
 void QueuesTest::unfitOptionIsRefusedBeforeAnythingIsSent()
 {
-    QFETCH(QString, keyword);
-    QFETCH(QString, value);
-    // With a server that is not there: any other outcome would be NoServer.
-    const auto job = submitJob({u"photo"_s, u"title"_s, {{}, "x", "image/jpeg", u"x"_s}, {{keyword, value}}});
-    QVERIFY(!job);
-    QCOMPARE(job.failure().reason, QueueFault::Refused);
-    const QString text = job.failure().text;
-    QVERIFY2(text.contains(u'"' + plainText(keyword) + u'"'), qPrintable(text));
-    QVERIFY(!hasControls(text));
+    for (const auto &[keyword, value] : {std::pair(u"Finish"_s, u"Matte\nStray=1"_s),
+                                         {u"Finish"_s, u"\rMatte"_s},
+                                         {u"Finish"_s, u"Mat"_s + QChar(0) + u"te"_s},
+                                         {u"Finish"_s, u"Matte\u007f"_s},
+                                         {u"Finish"_s, u"\u0085"_s},
+                                         {u"Finish"_s, u"\u2028"_s},
+                                         {u"Finish"_s, QString(128, u'\u00e4')},
+                                         {u"Finish"_s, u"{a=b}"_s},
+                                         {u"Fin\nish"_s, u"Matte"_s},
+                                         {u"Finish Stray"_s, u"1"_s},
+                                         {u"Finish=1"_s, u"1"_s},
+                                         {QString(), u"1"_s},
+                                         {u"copies"_s, u"2"_s}}) {
+        // With a server that is not there: any other outcome would be NoServer.
+        JobRequest request = smallJob();
+        request.options = {{keyword, value}};
+        const auto job = submitJob(request);
+        QVERIFY2(!job, qPrintable(keyword + value));
+        QCOMPARE(job.failure().reason, QueueFault::Refused);
+        const QString text = job.failure().text;
+        QVERIFY2(text.contains(u'"' + plainText(keyword) + u'"') && !hasControls(text), qPrintable(text));
+    }
 }
 
 void QueuesTest::badServerCostsOneSentenceInTime_data()
@@ -211,51 +203,39 @@ void QueuesTest::badServerCostsOneSentenceInTime()
     QCOMPARE(cancelled.failure().reason, QueueFault::Cancelled);
 }
 
-void QueuesTest::hostileAnswersCostLittle_data()
-{
-    using Manner = StubServer::Manner;
-    QTest::addColumn<Manner>("manner");
-    QTest::newRow("nested 8,000 times") << Manner::Nesting;
-    QTest::newRow("endless attributes") << Manner::EndlessValues;
-    QTest::newRow("empty attributes") << Manner::EmptyAttributes;
-    QTest::newRow("groups") << Manner::Separators;
-    QTest::newRow("endless header fields") << Manner::EndlessHeaders;
-    QTest::newRow("endless promises") << Manner::EndlessContinues;
-    QTest::newRow("endless chunks") << Manner::EndlessChunks;
-}
-
 // Whatever is asked.
 void QueuesTest::hostileAnswersCostLittle()
 {
-    QFETCH(StubServer::Manner, manner);
+    using Manner = StubServer::Manner;
+    using Requests = StubServer::Requests;
     const auto isRefused = [](const auto &outcome) {
         return !outcome && outcome.failure().reason == QueueFault::Failed &&
                outcome.failure().text.contains(u"too large or malformed"_s);
     };
-    QVERIFY(resetPeak());
-    const qint64 before = peak();
-    {
-        const StubServer server(manner);
-        QVERIFY(isRefused(sweepQueues(10s, nullptr)));
-        QVERIFY(isRefused(queueNamed(u"photo"_s, 10s)));
-        if (manner == StubServer::Manner::Nesting) {
-            QVERIFY(isRefused(followJob(u"photo"_s, 1, {})));
-            QVERIFY(isRefused(cancelJob(u"photo"_s, 1)));
+    for (const Manner manner :
+         {Manner::Nesting, Manner::EndlessValues, Manner::EmptyAttributes, Manner::Separators,
+          Manner::EndlessHeaders, Manner::EndlessContinues, Manner::EndlessChunks}) {
+        QVERIFY(resetPeak());
+        const qint64 before = peak();
+        {
+            const StubServer server(manner);
+            QVERIFY(isRefused(sweepQueues(10s, nullptr)));
+            QVERIFY(isRefused(queueNamed(u"photo"_s, 10s)));
+            QVERIFY(manner != Manner::Nesting || isRefused(followJob(u"photo"_s, 1, {})));
+            QVERIFY(manner != Manner::Nesting || isRefused(cancelJob(u"photo"_s, 1)));
         }
-    }
-    {
-        const StubServer server(manner, StubServer::Requests::Jobs);
-        QVERIFY(isRefused(submitJob(smallJob())));
-    }
-    if (manner == StubServer::Manner::EndlessHeaders || manner == StubServer::Manner::EndlessContinues) {
-        const StubServer server(manner, StubServer::Requests::Files);
-        QVERIFY(isRefused(fetchPpd(u"photo"_s, 10s)));
-    }
-    const qint64 cost = peak() - before;
-    qInfo("%.1f MiB", static_cast<double>(cost) / 1024 / 1024);
+        {
+            const StubServer server(manner, Requests::Jobs);
+            QVERIFY(isRefused(submitJob(smallJob())));
+        }
+        if (manner == Manner::EndlessHeaders || manner == Manner::EndlessContinues) {
+            const StubServer server(manner, Requests::Files);
+            QVERIFY(isRefused(fetchPpd(u"photo"_s, 10s)));
+        }
 #ifndef __SANITIZE_ADDRESS__ // which keeps what was freed
-    QVERIFY(cost < qint64(64) * 1024 * 1024);
+        QVERIFY2(peak() - before < qint64(64) * 1024 * 1024, qPrintable(QString::number(int(manner))));
 #endif
+    }
 }
 
 void QueuesTest::answersThatMakeNoSense()
@@ -312,44 +292,35 @@ void QueuesTest::answersThatAreLongCostLittleTime()
     QCOMPARE(found, 10000);
 }
 
-void QueuesTest::finderNeverBlocks_data()
-{
-    QTest::addColumn<StubServer::Manner>("manner");
-    QTest::newRow("silent") << StubServer::Manner::Silent;
-    QTest::newRow("one byte at a time") << StubServer::Manner::Trickling;
-}
-
 void QueuesTest::finderNeverBlocks()
 {
-    QFETCH(StubServer::Manner, manner);
-    const StubServer server(manner);
-    QElapsedTimer timer;
-    const auto takesLong = [&timer] {
-        return timer.restart() >= 100;
-    };
-    auto finder = std::make_unique<QueueFinder>();
-    const QSignalSpy finished(finder.get(), &QueueFinder::finished);
-    timer.start();
-    finder->start();
-    QVERIFY(!takesLong());
-    QTest::qWait(50); // the worker is in the middle of its wait now
-    timer.start();
-    finder->stop();
-    QVERIFY(!takesLong());
-    finder->start();
-    QVERIFY(!takesLong());
-    finder.reset();
-    QVERIFY(!takesLong());
-    QTest::qWait(300); // time for a worker that would touch what is gone
-    QCOMPARE(finished.size(), 0);
+    for (const auto manner : {StubServer::Manner::Silent, StubServer::Manner::Trickling}) {
+        const StubServer server(manner);
+        QElapsedTimer timer;
+        timer.start();
+        auto finder = std::make_unique<QueueFinder>();
+        const QSignalSpy finished(finder.get(), &QueueFinder::finished);
+        finder->start();
+        QVERIFY(timer.restart() < 100);
+        QTest::qWait(50); // the worker is in the middle of its wait now
+        timer.start();
+        finder->stop();
+        QVERIFY(timer.restart() < 100);
+        finder->start();
+        QVERIFY(timer.restart() < 100);
+        finder.reset();
+        QVERIFY(timer.restart() < 100);
+        QTest::qWait(300); // time for a worker that would touch what is gone
+        QCOMPARE(finished.size(), 0);
+    }
 }
 
 void QueuesTest::onlyTheLatestFetchIsAnnounced()
 {
     PpdFetcher fetcher(nullptr, 200ms);
     const QSignalSpy failed(&fetcher, &PpdFetcher::failed);
-    fetcher.fetch(
-        u"none"_s); // fails at once, for want of a server: its outcome is under way and must not arrive
+    // Fails at once, for want of a server: its outcome is under way and must not arrive.
+    fetcher.fetch(u"none"_s);
     QTest::qSleep(100);
     const StubServer server(StubServer::Manner::Silent);
     const quint64 first = fetcher.fetch(u"one"_s);
@@ -367,10 +338,7 @@ void QueuesTest::noServerIsToldAtOnce()
     QElapsedTimer timer;
     timer.start();
     QVERIFY(!listQueues(5s));
-    const qint64 listed = timer.nsecsElapsed();
-    QVERIFY(listed < 100'000'000);
-    qInfo("listQueues without a server: %.2f ms", static_cast<double>(listed) / 1e6);
-
+    QVERIFY(timer.elapsed() < 100);
     QueueFinder finder(nullptr, 10ms);
     const QSignalSpy finished(&finder, &QueueFinder::finished);
     const QSignalSpy failed(&finder, &QueueFinder::failed);

@@ -165,7 +165,6 @@ void StubServer::misbehave(int client)
     constexpr qint64 mebibyte = qint64(1024) * 1024;
     switch (manner_) {
     case Manner::Silent:
-    case Manner::Closing:
         break;
     case Manner::Trickling:
         while (put(client, "H"))
@@ -177,10 +176,6 @@ void StubServer::misbehave(int client)
     case Manner::Overflowing:
         put(client, header("application/vnd.cups-ppd", 40 * mebibyte));
         repeat(client, block(QByteArray(mebibyte, '*')), 40 * mebibyte);
-        break;
-    case Manner::Forbidding:
-        put(client, "HTTP/1.1 401 Unauthorized\r\nWWW-Authenticate: Basic realm=\"stub\"\r\n"
-                    "Content-Length: 0\r\n\r\n");
         break;
     case Manner::Failing:
         put(client, "HTTP/1.1 500 Internal Server Error\r\nContent-Length: 0\r\n\r\n");
@@ -197,18 +192,17 @@ void StubServer::misbehave(int client)
         put(client, whole(successfulHead + '\x04' + nested + endOfAttributes));
         break;
     }
-    case Manner::EndlessValues:
+    case Manner::EndlessValues: {
+        const auto many = [&chunk](qint64 number) {
+            QByteArray values;
+            for (qint64 i = 0; i < 1000; ++i)
+                values += attribute(0x41, "a" + QByteArray::number(number * 1000 + i), {});
+            return chunk(values);
+        };
         put(client, chunked + chunk(successfulHead + '\x04'));
-        repeat(
-            client,
-            [&chunk](qint64 number) {
-                QByteArray many;
-                for (qint64 i = 0; i < 1000; ++i)
-                    many += attribute(0x41, "a" + QByteArray::number(number * 1000 + i), {});
-                return chunk(many);
-            },
-            endless);
+        repeat(client, many, endless);
         break;
+    }
     case Manner::EmptyAttributes:
     case Manner::Separators: {
         const QByteArray part =

@@ -21,10 +21,8 @@ public:
     enum class Manner {
         Silent,      ///< Accepts, and never answers.
         Trickling,   ///< Answers one byte at a time, without end.
-        Closing,     ///< Closes the connection instead of an answer.
         BreakingOff, ///< Closes in the middle of a PPD.
         Overflowing, ///< Its PPDs are too large.
-        Forbidding,  ///< Answers with the status 401.
         Failing,     ///< Answers with the status 500.
         Redirecting, ///< Answers with the status 302, to itself.
 
