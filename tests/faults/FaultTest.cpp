@@ -122,13 +122,13 @@ void FaultTest::savesOrKeepsSettings()
     QFETCH(const int, error);
     for (const bool isBuiltIn : {false, true}) {
         PresetStore store = PresetStore::of(u"photo"_s, isBuiltIn);
+        const QString name = QLatin1String(call) + QString::number(error) + u'.';
+        QVERIFY(!store.add(name, {}));
         bool isInjected = true;
         for (int number = 1; isInjected; ++number) {
             const auto before = store.presets();
-            const QString name =
-                QLatin1String(call) + QString::number(error) + u'.' + QString::number(number);
             armFault(call.constData(), error, number, Among::Files);
-            const SettingsFailure failure = store.add(name, {{u"Red"_s, u"1"_s}});
+            const SettingsFailure failure = store.add(name + QString::number(number), {{u"Red"_s, u"1"_s}});
             isInjected = disarmFault();
             QVERIFY(!failure || (isInjected && error != EINTR));
             const auto after = store.presets();
