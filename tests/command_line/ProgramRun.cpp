@@ -4,26 +4,11 @@
 #include "ProgramRun.h"
 
 #include <QtCore/QFile>
-#include <QtCore/QJsonObject>
 #include <QtCore/QProcess>
 
 #include <algorithm>
 
 namespace testing_support {
-
-namespace {
-
-ProgramRun finish(QProcess &process)
-{
-    ProgramRun run;
-    if (process.waitForFinished(60000) && process.exitStatus() == QProcess::NormalExit)
-        run.status = process.exitCode();
-    run.out = process.readAllStandardOutput();
-    run.err = process.readAllStandardError();
-    return run;
-}
-
-} // namespace
 
 ProgramRun runProgram(const QStringList &arguments, const QMap<QString, QString> &environment,
                       const QString &folder)
@@ -36,21 +21,17 @@ ProgramRun runProgram(const QStringList &arguments, const QMap<QString, QString>
     process.setProcessEnvironment(variables);
     process.setWorkingDirectory(folder);
     process.start(QStringLiteral(CORVEL_PRINT_PROGRAM), arguments);
-    return finish(process);
+    ProgramRun run;
+    if (process.waitForFinished(60000) && process.exitStatus() == QProcess::NormalExit)
+        run.status = process.exitCode();
+    run.out = process.readAllStandardOutput();
+    run.err = process.readAllStandardError();
+    return run;
 }
 
 QString printProgram()
 {
     return QStringLiteral(CORVEL_PRINT_PROGRAM);
-}
-
-ProgramRun runInShell(const QString &command, const QStringList &arguments)
-{
-    QProcess process;
-    process.start(QStringLiteral("/bin/sh"), QStringList{QStringLiteral("-c"), command, QStringLiteral("sh"),
-                                                         QStringLiteral(CORVEL_PRINT_PROGRAM)} +
-                                                 arguments);
-    return finish(process);
 }
 
 QByteArray wrongInRefusal(const ProgramRun &run, int status, const QStringList &words)
@@ -79,15 +60,6 @@ bool store(const QString &path, const QByteArray &content)
 {
     QFile file(path);
     return file.open(QIODevice::WriteOnly) && file.write(content) == content.size();
-}
-
-QMap<QString, QString> ticketEntries(const QString &path, const QString &object)
-{
-    QMap<QString, QString> entries;
-    const QJsonObject found = QJsonDocument::fromJson(contentOf(path)).object().value(object).toObject();
-    for (auto entry = found.begin(); entry != found.end(); ++entry)
-        entries.insert(entry.key(), entry.value().toString());
-    return entries;
 }
 
 } // namespace testing_support

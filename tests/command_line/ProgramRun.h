@@ -28,17 +28,11 @@ ProgramRun runProgram(const QStringList &arguments, const QMap<QString, QString>
 /// The path of corvel-print.
 QString printProgram();
 
-/// Through the shell, `"$@"` being the program and its arguments: for redirections.
-ProgramRun runInShell(const QString &command, const QStringList &arguments);
-
 /// What stands against a proper refusal: nothing printed on standard output, one line on standard error that
 /// holds all the words and no control character. Empty: nothing does.
 QByteArray wrongInRefusal(const ProgramRun &run, int status, const QStringList &words);
 
 QByteArray contentOf(const QString &path);
 bool store(const QString &path, const QByteArray &content);
-
-/// The built-in printer's ticket: "options" or another object of texts in it.
-QMap<QString, QString> ticketEntries(const QString &path, const QString &object = QStringLiteral("options"));
 
 } // namespace testing_support

@@ -78,7 +78,6 @@ private Q_SLOTS:
     void leavesThePair();
     void keepsWhatIsThere_data();
     void keepsWhatIsThere();
-    void names_data();
     void names();
     void failuresLeaveNothing_data();
     void failuresLeaveNothing();
@@ -118,18 +117,20 @@ void BuiltInPrinterTest::keepsWhatIsThere_data()
     QTest::addColumn<QStringList>("earlier");
     QTest::addColumn<bool>("isOverwritten");
     QTest::addColumn<QString>("name");
-    QTest::newRow("nothing") << QStringList() << false << u"photo"_s;
-    QTest::newRow("a page") << QStringList{u"photo.pdf"_s} << false << u"photo-2"_s;
-    QTest::newRow("a ticket") << QStringList{u"photo.ticket.json"_s} << false << u"photo-2"_s;
-    QTest::newRow("half of each") << QStringList{u"photo.pdf"_s, u"photo-2.ticket.json"_s} << false
-                                  << u"photo-3"_s;
-    QTest::newRow("overwritten") << QStringList{u"photo.pdf"_s, u"photo.ticket.json"_s} << true << u"photo"_s;
+    const auto row = [](const char *test, const QStringList &earlier, bool isOverwritten,
+                        const QString &name) {
+        QTest::newRow(test) << earlier << isOverwritten << name;
+    };
+    const QString pdf = u"photo.pdf"_s;
+    row("nothing", {}, false, u"photo"_s);
+    row("a page", {pdf}, false, u"photo-2"_s);
+    row("a ticket", {u"photo.ticket.json"_s}, false, u"photo-2"_s);
+    row("half of each", {pdf, u"photo-2.ticket.json"_s}, false, u"photo-3"_s);
+    row("overwritten", {pdf, u"photo.ticket.json"_s}, true, u"photo"_s);
     // Photos may have such names; they are JPEG files all the same.
-    QTest::newRow("a photo") << QStringList{u"photo.pdf"_s, u"a photo"_s} << false << u"photo-2"_s;
-    QTest::newRow("a photo, overwritten")
-        << QStringList{u"photo.pdf"_s, u"a photo"_s} << true << u"photo-2"_s;
-    QTest::newRow("a photo that is a link, overwritten")
-        << QStringList{u"photo.pdf"_s, u"a photo"_s, u"a link"_s} << true << u"photo-2"_s;
+    row("a photo", {pdf, u"a photo"_s}, false, u"photo-2"_s);
+    row("a photo, overwritten", {pdf, u"a photo"_s}, true, u"photo-2"_s);
+    row("a photo that is a link, overwritten", {pdf, u"a photo"_s, u"a link"_s}, true, u"photo-2"_s);
 }
 
 void BuiltInPrinterTest::keepsWhatIsThere()
@@ -162,37 +163,28 @@ void BuiltInPrinterTest::keepsWhatIsThere()
     QCOMPARE(after.size(), before.size() - (name == u"photo"_s ? earlier.size() : 0));
 }
 
-void BuiltInPrinterTest::names_data()
-{
-    QTest::addColumn<QString>("photo");
-    QTest::addColumn<QString>("name");
-    QTest::newRow("usual") << u"/a/photo.jpg"_s << u"photo"_s;
-    QTest::newRow("dots, spaces, letters")
-        << u"/a/Tag 1.v2 \u65e5\U0001f600.JPG"_s << u"Tag 1.v2 \u65e5\U0001f600"_s;
-    QTest::newRow("no suffix") << u"/a/photo"_s << u"photo"_s;
-    QTest::newRow("hidden") << u"/a/..photo.jpg"_s << u"photo"_s;
-    QTest::newRow("hidden by a control character") << u"/a/\n.x.jpg"_s << u"x"_s;
-    QTest::newRow("nothing but a suffix") << u"/a/.jpg"_s << u"photo"_s;
-    QTest::newRow("controls and turned text") << u"/a/x\r\n\u202egpj\u2028.jpg"_s << u"x gpj"_s;
-    QTest::newRow("taken twice") << u"/a/taken.jpg"_s << u"taken-3"_s;
-    // The longest name has 255 bytes.
-    QTest::newRow("long") << u"/a/"_s + QString(250, u'n') + u".jpg"_s << QString(243, u'n');
-    QTest::newRow("long, of large characters")
-        << u"/a/"_s + u"\U0001f600"_s.repeated(62) + u".jpg"_s << u"\U0001f600"_s.repeated(60);
-    QTest::newRow("long, of bytes that are no text")
-        << u"/a/"_s + QString(100, QChar(0xdce4)) + u".jpg"_s << QString(81, QChar::ReplacementCharacter);
-    QTest::newRow("long and taken") << u"/a/"_s + QString(250, u't') << QString(241, u't') + u"-2"_s;
-}
-
 void BuiltInPrinterTest::names()
 {
-    QFETCH(const QString, photo);
-    QFETCH(const QString, name);
     PrintedNames names({folder_->path()});
     names.markTaken(u"taken"_s);
     names.markTaken(u"taken-2"_s);
     names.markTaken(QString(243, u't'));
-    QCOMPARE(names.nameFor(photo), name);
+    const QString smile = u"\U0001f600"_s;
+    for (const auto &[photo, name] :
+         {std::pair(u"photo.jpg"_s, u"photo"_s),
+          {u"Tag 1.v2 \u65e5\U0001f600.JPG"_s, u"Tag 1.v2 \u65e5\U0001f600"_s},
+          {u"photo"_s, u"photo"_s},
+          {u"..photo.jpg"_s, u"photo"_s},
+          {u"\n.x.jpg"_s, u"x"_s},
+          {u".jpg"_s, u"photo"_s},
+          {u"x\r\n\u202egpj\u2028.jpg"_s, u"x gpj"_s},
+          {u"taken.jpg"_s, u"taken-3"_s},
+          // The longest name has 255 bytes: of letters, of large characters, and of bytes that are no text.
+          {QString(250, u'n') + u".jpg"_s, QString(243, u'n')},
+          {smile.repeated(62) + u".jpg"_s, smile.repeated(60)},
+          {QString(100, QChar(0xdce4)) + u".jpg"_s, QString(81, QChar::ReplacementCharacter)},
+          {QString(250, u't'), QString(241, u't') + u"-2"_s}})
+        QCOMPARE(names.nameFor(u"/a/"_s + photo), name);
 }
 
 void BuiltInPrinterTest::failuresLeaveNothing_data()
@@ -200,19 +192,20 @@ void BuiltInPrinterTest::failuresLeaveNothing_data()
     QTest::addColumn<QString>("output"); // within the test's folder
     QTest::addColumn<QString>("named");  // what the message names
     QTest::addColumn<OutputFault>("fault");
-    QTest::newRow("folder is a file") << u"file"_s << u"file"_s << OutputFault::NotAFolder;
-    QTest::newRow("folder below a file") << u"file/new"_s << u"file/new"_s << OutputFault::NotAFolder;
-    QTest::newRow("link to nowhere") << u"link"_s << u"link"_s << OutputFault::FolderMissing;
-    QTest::newRow("no permission") << u"locked"_s << u"locked/photo.pdf"_s << OutputFault::NotWritable;
-    QTest::newRow("no permission to make it")
-        << u"locked/new"_s << u"locked/new"_s << OutputFault::NotWritable;
-    QTest::newRow("folder in the ticket's place")
-        << u"taken"_s << u"photo.ticket.json"_s << OutputFault::NameTaken;
-    QTest::newRow("name too long") << QString(300, u'n') << u"nnn"_s << OutputFault::NameTooLong;
-    QTest::newRow("disk full, in new folders") << u"new/out"_s << u"photo.pdf"_s << OutputFault::DiskFull;
-    QTest::newRow("disk full, over an earlier pair") << u"pair"_s << u"photo.pdf"_s << OutputFault::DiskFull;
-    QTest::newRow("damaged photo") << u"pair"_s << u"photo.jpg"_s << OutputFault::PhotoUnusable;
-    QTest::newRow("no page") << u"new/out"_s << u"page"_s << OutputFault::PageUnusable;
+    const auto row = [](const char *test, const QString &output, const QString &named, OutputFault fault) {
+        QTest::newRow(test) << output << named << fault;
+    };
+    row("folder is a file", u"file"_s, u"file"_s, OutputFault::NotAFolder);
+    row("folder below a file", u"file/new"_s, u"file/new"_s, OutputFault::NotAFolder);
+    row("link to nowhere", u"link"_s, u"link"_s, OutputFault::FolderMissing);
+    row("no permission", u"locked"_s, u"locked/photo.pdf"_s, OutputFault::NotWritable);
+    row("no permission to make it", u"locked/new"_s, u"locked/new"_s, OutputFault::NotWritable);
+    row("folder in the ticket's place", u"taken"_s, u"photo.ticket.json"_s, OutputFault::NameTaken);
+    row("name too long", QString(300, u'n'), u"nnn"_s, OutputFault::NameTooLong);
+    row("disk full, in new folders", u"new/out"_s, u"photo.pdf"_s, OutputFault::DiskFull);
+    row("disk full, over an earlier pair", u"pair"_s, u"photo.pdf"_s, OutputFault::DiskFull);
+    row("damaged photo", u"pair"_s, u"photo.jpg"_s, OutputFault::PhotoUnusable);
+    row("no page", u"new/out"_s, u"page"_s, OutputFault::PageUnusable);
 }
 
 void BuiltInPrinterTest::failuresLeaveNothing()

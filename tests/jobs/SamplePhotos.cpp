@@ -14,6 +14,8 @@
 #include <unistd.h>
 #include <zlib.h>
 
+using namespace Qt::StringLiterals;
+
 namespace samples {
 namespace {
 
@@ -90,15 +92,8 @@ QString cornersOf(const QImage &image, const QRectF &area, double inside)
     for (const QPointF &corner :
          {inner.topLeft(), inner.topRight(), inner.bottomLeft(), inner.bottomRight()}) {
         const QColor colour = image.pixelColor(corner.toPoint());
-        const bool red = colour.red() > 128;
-        const bool green = colour.green() > 128;
-        const bool blue = colour.blue() > 128;
-        names += red && green && blue ? u'W'
-                 : red && green       ? u'Y'
-                 : red                ? u'R'
-                 : green              ? u'G'
-                 : blue               ? u'B'
-                                      : u'?';
+        const int brightness = (colour.red() > 128) * 4 + (colour.green() > 128) * 2 + (colour.blue() > 128);
+        names += u"?BGGRRYW"_s[brightness];
     }
     return names;
 }
