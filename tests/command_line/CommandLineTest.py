@@ -151,7 +151,9 @@ class CommandLineTest(ProgramTest):
         self.assertTrue(run("--version").out.startswith("corvel-print "))
 
     def test_keeps_control_characters_from_the_terminal(self):
-        done = self.print(self.stored("a\x1b[31m\nb\tc\x9b.jpg", JPEG))
+        photo = self.stored("a\x1b[31m\nb\tc\x9b.jpg", JPEG)
+        self.assertNotRegex(run("--dry-run", "--json", photo).out, "[\x1b\x9b]")
+        done = self.print(photo)
         self.assertEqual(done.status, 0)
         self.assertRegex(done.out, "\\APrinted a\\[31m b c.jpg: [^\n\x1b\x9b]*.pdf\n\\Z")
         odd = self.stored("odd.ppd", pathlib.Path(PPD).read_bytes().replace(
