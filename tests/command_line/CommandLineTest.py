@@ -11,7 +11,7 @@ import sys
 import unittest
 import zlib
 
-from program import PHOTO, PPD, ProgramTest, run, shell
+from program import PHOTO, PPD, SIBLING_PPD, ProgramTest, run, shell
 
 MODES = "constraint", "settings"
 JPEG = pathlib.Path(PHOTO).read_bytes()
@@ -38,6 +38,28 @@ def damaged_png():
         return struct.pack(">I", len(data)) + kind + data + struct.pack(">I", zlib.crc32(kind + data) ^ damage)
     return (b"\x89PNG\r\n\x1a\n" + chunk(b"IHDR", struct.pack(">IIBBBBB", 64, 64, 8, 0, 0, 0, 0))
             + chunk(b"IDAT", zlib.compress(bytes(65 * 64)), damage=1) + chunk(b"IEND", b""))
+
+
+def top_left(path, columns=300, rows=400):
+    """The pixels in this corner of a PNG of 8 bits, row by row."""
+    data = path.read_bytes()
+    parts, place = b"", 8
+    while place < len(data):
+        size, kind = struct.unpack(">I4s", data[place:place + 8])
+        parts += data[place + 8:place + 8 + size] if kind == b"IDAT" else b""
+        place += 12 + size
+    depth = {2: 3, 6: 4}[data[25]]  # bytes of a pixel
+    stride = depth * struct.unpack(">I", data[16:20])[0]
+    raw, above, pixels = zlib.decompress(parts), bytes(stride), []
+    for y in range(rows):
+        kind, *row = raw[y * (stride + 1):(y + 1) * (stride + 1)]
+        for i, up in enumerate(above):
+            left, corner = (row[i - depth], above[i - depth]) if i >= depth else (0, 0)
+            paeth = min((left, up, corner), key=lambda value: abs(left + up - corner - value))
+            row[i] = row[i] + (0, left, up, (left + up) // 2, paeth)[kind] & 255
+        above = row
+        pixels.append(row[:depth * columns])
+    return pixels
 
 
 class CommandLineTest(ProgramTest):
@@ -140,6 +162,25 @@ class CommandLineTest(ProgramTest):
         entries = json.loads(run(*arguments, "--json").out)
         self.assertEqual((entries["Red"], entries["Copies"]), ("7", "1"))
         self.assertIn("\nRed: 7\n", self.print("-o", "Red=7", "--summary", PHOTO).out)
+
+    def test_takes_pictures_of_the_dialog(self):
+        def picture(folder, page):
+            return (self.folder / folder / f"{page}.png").read_bytes()
+        for folder, options in ("plain", []), ("chosen", ["Red=7", "Quality=Fine"]):
+            done = run(*option_arguments(options), "--screenshot", self.folder / folder, PHOTO)
+            self.assert_quiet(done)
+            self.assertEqual(done.out, "")
+            self.assertEqual(sorted(path.name for path in (self.folder / folder).iterdir()),
+                             ["coloradjust.png", "matte.png", "sharpness.png", "summary.png"])
+        width, height = struct.unpack(">II", picture("plain", "summary")[16:24])
+        self.assertTrue(width > 500 and height > 400, (width, height))
+        self.assertNotEqual(picture("plain", "coloradjust"), picture("plain", "summary"))
+        self.assertNotEqual(picture("plain", "coloradjust"), picture("chosen", "coloradjust"))
+        self.assertEqual(picture("plain", "sharpness"), picture("chosen", "sharpness"))
+        # A page that is wider than those before moves nothing in its picture.
+        folder = self.folder / "spanish"
+        run("--ppd", SIBLING_PPD, "--screenshot", folder, PHOTO, LANG="es_ES.UTF-8", LC_ALL="")
+        self.assertEqual(top_left(folder / "coloradjust.png"), top_left(folder / "matte.png"))
 
     def test_help_and_version_go_to_standard_output(self):
         done = run("--help")

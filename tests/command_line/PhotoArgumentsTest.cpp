@@ -10,7 +10,6 @@
 #include <QtCore/QDir>
 #include <QtCore/QStandardPaths>
 #include <QtCore/QTemporaryDir>
-#include <QtGui/QImage>
 #include <QtTest/QTest>
 
 using namespace printdialog;
@@ -39,7 +38,6 @@ private Q_SLOTS:
     void nameAsUrl();
     void badPhotosLeaveTheWindowToTheGoodOnes();
     void outputFolder();
-    void takesPicturesOfTheDialog();
 };
 
 void PhotoArgumentsTest::nameAsUrl_data()
@@ -88,36 +86,6 @@ void PhotoArgumentsTest::outputFolder()
     QCOMPARE(folderOf({samplePhoto}), pictures + u"/Prints"_s);
     QCOMPARE(folderOf({samplePhoto, u"--batch"_s}), u"."_s);
     QCOMPARE(folderOf({samplePhoto, u"--output=there"_s}), u"there"_s);
-}
-
-void PhotoArgumentsTest::takesPicturesOfTheDialog()
-{
-    const auto picture = [this](const QString &folder, const QString &page) {
-        return QImage(pathOf(u"%1/%2.png"_s.arg(folder, page)));
-    };
-    const QStringList options = {u"-o"_s, u"Red=7"_s, u"-o"_s, u"Quality=Fine"_s};
-    for (const auto &[folder, arguments] :
-         {std::pair(u"plain"_s, QStringList()), std::pair(u"chosen"_s, options)}) {
-        const ProgramRun run =
-            runProgram(arguments + QStringList{u"--screenshot"_s, pathOf(folder), samplePhoto});
-        QCOMPARE(run.err + run.out, QByteArray());
-        QCOMPARE(run.status, 0);
-        QCOMPARE(QDir(pathOf(folder)).entryList(QDir::Files),
-                 QStringList({u"coloradjust.png"_s, u"matte.png"_s, u"sharpness.png"_s, u"summary.png"_s}));
-    }
-    QVERIFY(picture(u"plain"_s, u"summary"_s).width() > 500 &&
-            picture(u"plain"_s, u"summary"_s).height() > 400);
-    QVERIFY(picture(u"plain"_s, u"coloradjust"_s) != picture(u"plain"_s, u"summary"_s));
-    QVERIFY(picture(u"plain"_s, u"coloradjust"_s) != picture(u"chosen"_s, u"coloradjust"_s));
-    QVERIFY(picture(u"plain"_s, u"sharpness"_s) == picture(u"chosen"_s, u"sharpness"_s));
-    // A page that is wider than those before moves nothing in its picture.
-    runProgram({u"--ppd"_s, QStringLiteral(CORVEL_SIBLING_PPD), u"--screenshot"_s, pathOf(u"spanish"_s),
-                samplePhoto},
-               {{u"LANG"_s, u"es_ES.UTF-8"_s}, {u"LC_ALL"_s, {}}});
-    const auto photo = [&picture](const QString &page) {
-        return picture(u"spanish"_s, page).copy(0, 0, 300, 400);
-    };
-    QVERIFY(photo(u"coloradjust"_s) == photo(u"matte"_s));
 }
 
 CORVEL_TEST(PhotoArgumentsTest)

@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: Corvel print dialog authors
 # SPDX-License-Identifier: Apache-2.0
-"""What the scripts have in common that run the real program: TEST.py PROGRAM PHOTO PPD."""
+"""What the scripts share that run the real program: TEST.py PROGRAM PHOTO PPD SIBLING_PPD."""
 
 import json
 import os
@@ -12,7 +12,7 @@ import tempfile
 import unittest
 from typing import NamedTuple
 
-PROGRAM, PHOTO, PPD = sys.argv[1:]
+PROGRAM, PHOTO, PPD, SIBLING_PPD = sys.argv[1:]
 
 
 class Run(NamedTuple):
