@@ -3,7 +3,6 @@
 
 #include "JobDocument.h"
 
-#include "JpegHeader.h"
 #include "PhotoPlacement.h"
 
 #include <QtCore/QBuffer>
@@ -40,12 +39,11 @@ bool isSame(const QRectF &area, const QRectF &sheet)
 bool canGoUntouched(const Photo &photo, const PageGeometry &page, const PlacementChoice &choice)
 {
     const QRectF sheet(QPointF(), page.size);
-    if (photo.format() != "jpeg" || !photo.isEmbeddable() || photo.orientation().value() != 1 ||
+    if (!photo.jpegHeader() || !photo.isEmbeddable() || photo.orientation().value() != 1 ||
         !isSame(page.imageable, sheet))
         return false;
     constexpr int cmyk = 4;
-    if (JpegHeader::read(photo.content()).components == cmyk ||
-        !(photo.profile().isEmpty() || photo.profile().isSrgb()))
+    if (photo.jpegHeader()->components == cmyk || !(photo.profile().isEmpty() || photo.profile().isSrgb()))
         return false;
     const QTransform toPage =
         PhotoPlacement::place(photo.orientedSize(), photo.printedResolution(), page, choice).toPage();

@@ -4,8 +4,6 @@
 #include "PdfImage.h"
 
 #include "DeflatedRows.h"
-#include "JpegHeader.h"
-#include "PngHeader.h"
 #include "PngPixels.h"
 
 #include <QtGui/QPainter>
@@ -70,15 +68,15 @@ Result<PdfImage, PhotoFault> PdfImage::of(const Photo &photo)
     PdfImage image(photo);
     if (photo.isEmbeddable()) {
         image.embedding_ = Embedding::OriginalJpeg;
-        if (photo.format() == "jpeg")
+        if (photo.jpegHeader())
             return image;
         image.embedding_ = Embedding::OriginalPng;
         // libpng knows what else can be made a picture of.
-        if (!PngHeader::read(photo.content()).hasAllPixels())
+        if (!photo.pngHeader()->hasAllPixels())
             image.embedding_ = Embedding::Pixels;
         return image;
     }
-    if (photo.format() == "png")
+    if (photo.pngHeader())
         return image;
     auto decoded = photo.decoded();
     if (!decoded)
@@ -113,20 +111,18 @@ Result<int, PhotoFault> PdfImage::write(PdfFile &file) const
 
 void PdfImage::writeJpeg(PdfFile &file, int number) const
 {
-    const QByteArray content = photo_.content();
-    const JpegHeader header = JpegHeader::read(content);
+    const JpegHeader &header = *photo_.jpegHeader();
     const QByteArray space = colourSpace(file, photo_.profile(), header.components);
     // PDF readers ignore by what mark programs tell that the inks are inverted.
     const QByteArray inverted = header.isInverted ? " /Decode [1 0 1 0 1 0 1 0]" : "";
     file.beginStream(number, entriesOf(header.size, space, 8) + inverted + " /Filter /DCTDecode");
-    file.writeData(content);
+    file.writeData(photo_.content());
     file.endStream();
 }
 
 void PdfImage::writePng(PdfFile &file, int number) const
 {
-    const QByteArray content = photo_.content();
-    const PngHeader header = PngHeader::read(content);
+    const PngHeader &header = *photo_.pngHeader();
     const int bits = header.bitsPerSample;
     QByteArray space = colourSpace(file, photo_.profile(), header.palette.isEmpty() ? header.components : 3);
     if (!header.palette.isEmpty())
@@ -141,7 +137,7 @@ void PdfImage::writePng(PdfFile &file, int number) const
 
 std::optional<Failure<PhotoFault>> PdfImage::writeDecodedPng(PdfFile &file, int number) const
 {
-    const int components = PngHeader::read(photo_.content()).decodedComponents;
+    const int components = photo_.pngHeader()->decodedComponents;
     const QSize size = photo_.storedSize();
     const QByteArray space = colourSpace(file, photo_.profile(), components);
     file.beginStream(number, entriesOf(size, space, 8) + predicted(size, components, 8));

@@ -6,12 +6,9 @@
 #include "ExifData.h"
 #include "HeifPicture.h"
 #include "JpegDamage.h"
-#include "JpegHeader.h"
 #include "PhotoFormat.h"
 #include "PictureEnd.h"
 #include "PlainText.h"
-#include "PngChunks.h"
-#include "PngHeader.h"
 #include "PngPicture.h"
 #include "PngPixels.h"
 #include "QuietDecoding.h"
@@ -131,7 +128,8 @@ QString Photo::fileName() const
 
 std::optional<Failure<PhotoFault>> Photo::inspectJpeg()
 {
-    const JpegHeader header = JpegHeader::read(content_);
+    jpeg_ = std::make_shared<const JpegHeader>(JpegHeader::read(content_));
+    const JpegHeader &header = *jpeg_;
     if (header.state == JpegHeader::State::Truncated)
         return truncated();
     if (header.state == JpegHeader::State::Broken)
@@ -149,20 +147,19 @@ std::optional<Failure<PhotoFault>> Photo::inspectJpeg()
     if (ColourProfile profile = ColourProfile::fromIcc(header.iccProfile);
         profile.components() == header.components)
         profile_ = std::move(profile);
-    isEmbeddable_ = header.isEmbeddable;
     return std::nullopt;
 }
 
 std::optional<Failure<PhotoFault>> Photo::inspectPng()
 {
-    const PngChunks chunks = checkPngChunks(content_);
-    if (chunks == PngChunks::Broken)
+    png_ = std::make_shared<const PngHeader>(PngHeader::read(content_));
+    const PngHeader &header = *png_;
+    if (header.state == PngHeader::State::Broken)
         return broken(QStringLiteral("a PNG checksum does not match"));
-    if (chunks == PngChunks::DamagedPixels)
+    if (header.state == PngHeader::State::DamagedPixels)
         verdict_->damage = QStringLiteral("the checksum of PNG pixels does not match");
-    if (chunks == PngChunks::Truncated)
+    if (header.state == PngHeader::State::Truncated)
         return truncated();
-    const PngHeader header = PngHeader::read(content_);
     if (header.size.isEmpty())
         return broken(QStringLiteral("the PNG header names no size"));
     if (!header.isValid)
@@ -180,7 +177,6 @@ std::optional<Failure<PhotoFault>> Photo::inspectPng()
     orientation_ = header.orientation;
     resolution_ = header.resolution;
     profile_ = header.profile;
-    isEmbeddable_ = header.isEmbeddable;
     return std::nullopt;
 }
 
@@ -234,7 +230,7 @@ std::optional<Failure<PhotoFault>> Photo::checkPixels() const
 {
     const qint64 pixels = qint64(storedSize_.width()) * storedSize_.height();
     const int side = std::max(storedSize_.width(), storedSize_.height());
-    if (pixels <= maximumPixels && (isEmbeddable_ || side <= maximumRasterSide))
+    if (pixels <= maximumPixels && (isEmbeddable() || side <= maximumRasterSide))
         return std::nullopt;
     return Failure<PhotoFault>{PhotoFault::TooLarge,
                                tr("\"%1\" is too large: %2 x %3 pixels. Scale it down in a photo program.")
@@ -316,8 +312,8 @@ QImage Photo::decodedWithin(const QSize &storedBound, QString &error) const
             image = *std::move(picture);
         else
             error = picture.failure().detail;
-    } else if (format_ == "png") {
-        image = decodedPng(content_, storedBound, error);
+    } else if (png_) {
+        image = decodedPng(content_, *png_, storedBound, error);
     } else {
         allowDecoding(storedSize_);
         ContentReader reader(content_, format_);

@@ -5,7 +5,9 @@
 
 #include "ColourProfile.h"
 #include "ExifOrientation.h"
+#include "JpegHeader.h"
 #include "PhotoFile.h"
+#include "PngHeader.h"
 #include "Result.h"
 
 #include <QtCore/QByteArray>
@@ -53,8 +55,12 @@ public:
     double printedResolution() const { return resolution_.value_or(assumedResolution); }
     /// What the numbers of the stored and of the decoded colours mean.
     const ColourProfile &profile() const { return profile_; }
+    /// The header of a JPEG and of a PNG file, read once when it was opened; null for other formats. What it
+    /// points to lives as long as any copy of this photo.
+    const JpegHeader *jpegHeader() const { return jpeg_.get(); }
+    const PngHeader *pngHeader() const { return png_.get(); }
     /// Whether the compressed pixels of content(), a JPEG or PNG file, can go into a PDF as they are.
-    bool isEmbeddable() const { return isEmbeddable_; }
+    bool isEmbeddable() const { return jpeg_ ? jpeg_->isEmbeddable : png_ && png_->isEmbeddable; }
 
     /// Whether the pixels are damaged behind headers that are sound. Looks at all of a JPEG's (see
     /// jpegDamage), WebP or TIFF file's (see tiffDamage) when it is first asked, which copies of this photo
@@ -96,7 +102,8 @@ private:
     ExifOrientation orientation_;
     std::optional<double> resolution_;
     ColourProfile profile_;
-    bool isEmbeddable_ = false;
+    std::shared_ptr<const JpegHeader> jpeg_;
+    std::shared_ptr<const PngHeader> png_;
     std::shared_ptr<Verdict> verdict_; ///< Of damage(); null for no photo.
 };
 

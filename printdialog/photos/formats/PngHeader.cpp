@@ -26,6 +26,12 @@ quint32 wordAt(QByteArrayView bytes, qsizetype position)
     return qFromBigEndian<quint32>(bytes.data() + position);
 }
 
+quint32 checksum(QByteArrayView bytes)
+{
+    const auto *data = reinterpret_cast<const Bytef *>(bytes.data());
+    return static_cast<quint32>(crc32_z(0, data, static_cast<z_size_t>(bytes.size())));
+}
+
 /// Decompresses a whole zlib stream; nothing when it is damaged or longer than allowed.
 QByteArray inflated(QByteArrayView bytes, qsizetype limit)
 {
@@ -50,20 +56,7 @@ QByteArray inflated(QByteArrayView bytes, qsizetype limit)
 class PngReader
 {
 public:
-    explicit PngReader(QByteArrayView bytes)
-    {
-        constexpr qsizetype signatureSize = 8;
-        constexpr qsizetype frameSize = 12; // length, type and checksum
-        for (qsizetype position = signatureSize; position + frameSize <= bytes.size();) {
-            const auto length = qsizetype(wordAt(bytes, position));
-            if (length > bytes.size() - position - frameSize)
-                break;
-            if (bytes.sliced(position + 4, 4) == "IEND")
-                break;
-            readChunk(bytes.sliced(position + 4, 4), bytes.sliced(position + 8, length));
-            position += frameSize + length;
-        }
-    }
+    explicit PngReader(QByteArrayView bytes) { header_.state = readChunks(bytes); }
 
     PngHeader header()
     {
@@ -91,6 +84,32 @@ public:
     }
 
 private:
+    using State = PngHeader::State;
+
+    State readChunks(QByteArrayView bytes)
+    {
+        constexpr qsizetype signatureSize = 8;
+        constexpr qsizetype frameSize = 12; // length, type and checksum
+        auto found = State::Whole;
+        for (qsizetype position = signatureSize; position + frameSize <= bytes.size();) {
+            const auto length = qsizetype(wordAt(bytes, position));
+            if (length > bytes.size() - position - frameSize)
+                return State::Truncated;
+            const QByteArrayView typeAndData = bytes.sliced(position + 4, 4 + length);
+            const QByteArrayView type = typeAndData.first(4);
+            position += frameSize + length;
+            if (wordAt(bytes, position - 4) != checksum(typeAndData)) {
+                if (type != "IDAT")
+                    return State::Broken;
+                found = State::DamagedPixels;
+            }
+            if (type == "IEND")
+                return found;
+            readChunk(type, typeAndData.sliced(4));
+        }
+        return State::Truncated;
+    }
+
     bool hasAllowedBits() const
     {
         const int bits = header_.bitsPerSample;

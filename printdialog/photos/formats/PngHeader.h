@@ -18,6 +18,15 @@ namespace printdialog {
 /// What the chunks of a PNG file say, read without decoding it.
 struct PngHeader
 {
+    /// How far the chunks can be trusted.
+    enum class State {
+        Whole,         ///< Every chunk up to the last one is there and unchanged.
+        Truncated,     ///< The bytes end before the last chunk does.
+        Broken,        ///< A chunk is not what its checksum says.
+        DamagedPixels, ///< Nothing but pixels is not what its checksum says.
+    };
+
+    State state = State::Truncated;
     QSize size;            ///< In pixels, as stored.
     int bitsPerSample = 0; ///< 1, 2, 4, 8 or 16.
     int components = 0;    ///< Numbers of a colour as they are stored: 1 (grey, or a palette's index) or 3.
@@ -38,8 +47,9 @@ struct PngHeader
     /// Whether the compressed pixels can go into a PDF as they are: opaque and not interlaced.
     bool isEmbeddable = false;
 
-    /// Reads untrusted bytes, whose chunks are whole (see checkPngChunks), and which outlive the answer. What
-    /// cannot be read counts as not there.
+    /// Reads untrusted bytes, which begin with a PNG signature and outlive the answer. What cannot be read
+    /// counts as not there. Damage found here never reaches the PNG library, which writes about it to
+    /// standard error on its own.
     static PngHeader read(QByteArrayView bytes);
     /// Whether the compressed pixels are all there, and nothing more. Decompresses them, and keeps nothing.
     bool hasAllPixels() const;

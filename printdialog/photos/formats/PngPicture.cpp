@@ -3,7 +3,6 @@
 
 #include "PngPicture.h"
 
-#include "PngHeader.h"
 #include "PngPixels.h"
 
 #include <algorithm>
@@ -65,9 +64,8 @@ private:
 
 } // namespace
 
-QImage decodedPng(QByteArrayView png, const QSize &bound, QString &error)
+QImage decodedPng(QByteArrayView png, const PngHeader &header, const QSize &bound, QString &error)
 {
-    const PngHeader header = PngHeader::read(png);
     const QSize size = header.size;
     const bool isScaled =
         !bound.isEmpty() && bound.width() <= size.width() && bound.height() <= size.height();
