@@ -4,7 +4,6 @@
 #include "BatchRun.h"
 #include "CommandLine.h"
 #include "Console.h"
-#include "FileName.h"
 #include "Listings.h"
 #include "QuietDecoding.h"
 #include "QuietFeedback.h"
@@ -12,6 +11,7 @@
 #include "SystemLog.h"
 #include "WindowRun.h"
 
+#include <QtCore/QFile>
 #include <QtCore/QLibraryInfo>
 #include <QtCore/QTranslator>
 #include <QtWidgets/QApplication>
@@ -156,7 +156,7 @@ int main(int argc, char *argv[])
     std::signal(SIGCHLD, SIG_DFL); // who starts the program may have it ignored, and then nobody tells an end
     QStringList arguments;
     for (int i = 0; i < argc; ++i)
-        arguments.append(fileNameFromBytes(argv[i]));
+        arguments.append(QFile::decodeName(argv[i]));
     argc = 1; // none of them is meant for Qt
 
     qInstallMessageHandler(takeQtMessage);

@@ -7,6 +7,7 @@
 #include "FileName.h"
 
 #include <QtCore/QDir>
+#include <QtCore/QFile>
 #include <QtCore/QLoggingCategory>
 #include <QtCore/QRandomGenerator>
 
@@ -41,7 +42,7 @@ QByteArray hiddenName(const char *prefix = hiddenPrefix)
 /// nothing: it is as old as the user's own.
 void removeStale(const QString &folder, bool isAlone)
 {
-    DIR *entries = ::opendir(bytesOfFileName(folder).constData());
+    DIR *entries = ::opendir(QFile::encodeName(folder).constData());
     if (!entries)
         return;
     while (const dirent *entry = ::readdir(entries)) {
@@ -70,13 +71,11 @@ AtomicFiles::~AtomicFiles()
 Result<AtomicFiles, OutputFault> AtomicFiles::open(const QString &folder)
 {
     AtomicFiles files;
-    // By the text alone: QDir itself would make another name of one that is not UTF-8.
-    const bool isAbsolute = folder.startsWith(QLatin1Char('/'));
-    files.folder_ = QDir::cleanPath(isAbsolute ? folder : QDir::currentPath() + QLatin1Char('/') + folder);
+    files.folder_ = QDir(folder).absolutePath();
     if (const int error = files.makeFolders())
         return outputFailure(error, files.folder_);
-    files.descriptor_ = pdekit::FileDescriptor(
-        ::open(bytesOfFileName(files.folder_).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC | O_NONBLOCK));
+    files.descriptor_ = pdekit::FileDescriptor(::open(QFile::encodeName(files.folder_).constData(),
+                                                      O_RDONLY | O_DIRECTORY | O_CLOEXEC | O_NONBLOCK));
     if (!files.descriptor_.isOpen())
         return outputFailure(errno, files.folder_);
     files.shareFolder();
@@ -101,11 +100,13 @@ int AtomicFiles::makeFolders()
 {
     std::vector<QByteArray> missing;
     struct stat status = {};
-    for (QString path = folder_; ::stat(bytesOfFileName(path).constData(), &status) != 0;
+    for (QString path = folder_; ::stat(QFile::encodeName(path).constData(), &status) != 0;
          path.truncate(std::max<qsizetype>(1, path.lastIndexOf(QLatin1Char('/'))))) {
         if (errno != ENOENT || path.size() <= 1)
             return errno;
-        missing.push_back(bytesOfFileName(path));
+        if (isForeignName(path)) // what would be made is another folder
+            return EILSEQ;
+        missing.push_back(QFile::encodeName(path));
     }
     std::reverse(missing.begin(), missing.end());
     for (const QByteArray &path : missing) {
@@ -121,7 +122,7 @@ Result<QIODevice *, OutputFault> AtomicFiles::add(const QString &name)
 {
     Q_ASSERT(!name.isEmpty() && !name.contains(QLatin1Char('/')));
     File file;
-    file.name = bytesOfFileName(name);
+    file.name = QFile::encodeName(name);
     // A name that is too long is better known before the work than after it.
     struct stat status = {};
     if (::fstatat(descriptor_.number(), file.name.constData(), &status, AT_SYMLINK_NOFOLLOW) != 0 &&
@@ -147,7 +148,7 @@ Result<QIODevice *, OutputFault> AtomicFiles::add(const QString &name)
 QString AtomicFiles::pathOf(const QByteArray &name) const
 {
     return (folder_.endsWith(QLatin1Char('/')) ? folder_ : folder_ + QLatin1Char('/')) +
-           fileNameFromBytes(name);
+           QFile::decodeName(name);
 }
 
 std::optional<Failure<OutputFault>> AtomicFiles::writeFailure() const

@@ -3,6 +3,7 @@
 
 #include "OutputFault.h"
 
+#include "FileName.h"
 #include "PlainText.h"
 
 #include <QtCore/QCoreApplication>
@@ -37,6 +38,8 @@ Failure<OutputFault> outputFailure(int error, const QString &path)
             QT_TRANSLATE_NOOP("printdialog::OutputFault",
                               "\"%1\" cannot be made: there is no such folder. Choose another folder."),
             error, path);
+    case EILSEQ:
+        return {OutputFault::FolderMissing, foreignNameText(path), qt_error_string(error)};
     case EACCES:
     case EPERM:
     case EROFS:

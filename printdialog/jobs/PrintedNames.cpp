@@ -3,9 +3,9 @@
 
 #include "PrintedNames.h"
 
-#include "FileName.h"
 #include "PlainText.h"
 
+#include <QtCore/QFile>
 #include <QtCore/QFileInfo>
 
 #include <fcntl.h>
@@ -20,14 +20,14 @@ namespace {
 /// A folder that has yet to be made most likely allows the usual length.
 qsizetype longestNameIn(const QString &folder)
 {
-    const long bytes = ::pathconf(bytesOfFileName(folder).constData(), _PC_NAME_MAX);
+    const long bytes = ::pathconf(QFile::encodeName(folder).constData(), _PC_NAME_MAX);
     return (bytes > 0 ? bytes : NAME_MAX) - PrintedNames::ticketSuffix.size();
 }
 
 /// As much of the beginning as takes no more bytes than that.
 QString shortened(QString text, qsizetype bytes)
 {
-    while (!text.isEmpty() && bytesOfFileName(text).size() > bytes)
+    while (!text.isEmpty() && QFile::encodeName(text).size() > bytes)
         text.chop(text.back().isLowSurrogate() ? 2 : 1);
     return text;
 }
@@ -39,7 +39,7 @@ PrintedNames::PrintedNames(const OutputFolder &folder)
     , longestName_(longestNameIn(folder.path))
 {
     for (const QString &photo : folder.photos) {
-        const QByteArray path = bytesOfFileName(photo);
+        const QByteArray path = QFile::encodeName(photo);
         // A link is the photo as the user knows it, too.
         for (const int flags : {0, AT_SYMLINK_NOFOLLOW}) {
             struct stat status = {};
@@ -70,7 +70,7 @@ bool PrintedNames::isFree(const QString &name) const
     if (taken_.contains(name))
         return false;
     for (const QLatin1String suffix : {pageSuffix, ticketSuffix}) {
-        const QByteArray path = bytesOfFileName(folder_.path + QLatin1Char('/') + name + suffix);
+        const QByteArray path = QFile::encodeName(folder_.path + QLatin1Char('/') + name + suffix);
         struct stat status = {};
         if (::lstat(path.constData(), &status) != 0)
             continue;

@@ -6,6 +6,8 @@
 #include "FileName.h"
 #include "PlainText.h"
 
+#include <QtCore/QFile>
+
 #include <fcntl.h>
 #include <sys/stat.h>
 
@@ -22,6 +24,8 @@ Failure<PhotoFault> systemFailure(int error, const QString &path)
     case ENOENT:
     case ENOTDIR:
     case ENAMETOOLONG:
+        if (isForeignName(path))
+            return {PhotoFault::NotFound, foreignNameText(path), {}};
         return {PhotoFault::NotFound,
                 PhotoFile::tr("There is no photo \"%1\". Check its name and folder.").arg(name),
                 {}};
@@ -72,7 +76,7 @@ qint64 readFully(int descriptor, QByteArray &buffer)
 
 Result<PhotoFile, PhotoFault> PhotoFile::open(const QString &path)
 {
-    const QByteArray encoded = bytesOfFileName(path);
+    const QByteArray encoded = QFile::encodeName(path);
     struct stat status = {};
     // Asked before it is opened, since opening is enough to disturb some devices.
     if (::stat(encoded.constData(), &status) != 0)

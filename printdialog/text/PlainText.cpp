@@ -44,8 +44,6 @@ QString withoutUnwanted(const QString &text)
             plain += text[++i];
         } else if (character == u'\t' || character == u'\n') {
             plain += u' ';
-        } else if (character.unicode() >= 0xDC80 && character.unicode() <= 0xDCFF) {
-            plain += QChar(QChar::ReplacementCharacter); // a byte of a file's name; see FileName.h
         } else if (!character.isSurrogate() && !isControl(character) && !isUnwantedFormat(character)) {
             plain += character;
         }

@@ -1343,6 +1343,13 @@ Beispiele:
     </message>
 </context>
 <context>
+    <name>printdialog::FileName</name>
+    <message>
+        <source>&quot;%1&quot; cannot be used: its name is not encoded in UTF-8. Rename it.</source>
+        <translation>„%1“ kann nicht benutzt werden: Der Name ist nicht in UTF-8 kodiert. Ändern Sie den Namen.</translation>
+    </message>
+</context>
+<context>
     <name>printdialog::HelpWindow</name>
     <message>
         <source>Help</source>

@@ -1342,6 +1342,13 @@ Ejemplos:
     </message>
 </context>
 <context>
+    <name>printdialog::FileName</name>
+    <message>
+        <source>&quot;%1&quot; cannot be used: its name is not encoded in UTF-8. Rename it.</source>
+        <translation>«%1» no se puede usar: su nombre no está codificado en UTF-8. Cámbiele el nombre.</translation>
+    </message>
+</context>
+<context>
     <name>printdialog::HelpWindow</name>
     <message>
         <source>Help</source>

@@ -1343,6 +1343,13 @@ Exemples&#x202f;:
     </message>
 </context>
 <context>
+    <name>printdialog::FileName</name>
+    <message>
+        <source>&quot;%1&quot; cannot be used: its name is not encoded in UTF-8. Rename it.</source>
+        <translation>« %1 » ne peut pas être utilisé : son nom n’est pas codé en UTF-8. Renommez-le.</translation>
+    </message>
+</context>
+<context>
     <name>printdialog::HelpWindow</name>
     <message>
         <source>Help</source>

@@ -1341,6 +1341,13 @@ Examples:
     </message>
 </context>
 <context>
+    <name>printdialog::FileName</name>
+    <message>
+        <source>&quot;%1&quot; cannot be used: its name is not encoded in UTF-8. Rename it.</source>
+        <translation>「%1」は使用できません。名前が UTF-8 で符号化されていません。名前を変更してください。</translation>
+    </message>
+</context>
+<context>
     <name>printdialog::HelpWindow</name>
     <message>
         <source>Help</source>

@@ -5,12 +5,12 @@
 
 #include "CorvelPpdCheckPath.h"
 #include "FileDescriptor.h"
-#include "FileName.h"
 #include "PlainText.h"
 #include "PpdFile.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QDir>
+#include <QtCore/QFile>
 
 #include <cerrno>
 #include <csignal>
@@ -137,7 +137,7 @@ std::optional<Failure<PpdFault>> checkPpd(const QByteArray &data, const QString 
             {}};
     };
     pid_t child = 0;
-    if (const int error = start(bytesOfFileName(program), ppd, child))
+    if (const int error = start(QFile::encodeName(program), ppd, child))
         return notTried(Text::tr("\"%1\" cannot be run: %2").arg(program, qt_error_string(error)));
     const End end = endOf(child, limit);
     if (end.error != 0)

@@ -8,6 +8,7 @@
 #include "PlainText.h"
 
 #include <QtCore/QCoreApplication>
+#include <QtCore/QFile>
 
 #include <array>
 #include <cerrno>
@@ -90,6 +91,8 @@ Failure<PpdFault> notRegular(const QString &path, mode_t mode)
 
 Failure<PpdFault> ppdNotReadable(const QString &name, int error)
 {
+    if (error == ENOENT && isForeignName(name))
+        return {PpdFault::NotFound, foreignNameText(name), {}};
     if (error == ENOENT || error == ENOTDIR)
         return failure(PpdFault::NotFound, Text::tr("There is no PPD \"%1\"; check the path."), name);
     return {PpdFault::NotReadable,
@@ -102,7 +105,7 @@ Result<QByteArray, PpdFault> readPpdFile(const QString &path)
 {
     if (path.isEmpty() || path.contains(QChar(u'\0')))
         return ppdNotReadable(path, ENOENT);
-    const QByteArray nativePath = bytesOfFileName(path);
+    const QByteArray nativePath = QFile::encodeName(path);
     struct stat status = {};
     // Opening a device may already have an effect, so it is looked at by its name first.
     if (::stat(nativePath.constData(), &status) != 0)

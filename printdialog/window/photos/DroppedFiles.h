@@ -9,7 +9,7 @@ class QMimeData;
 
 namespace printdialog {
 
-/// The files on this computer that are dragged; their names may be of any bytes (see FileName.h).
+/// The files on this computer that are dragged.
 QStringList droppedFiles(const QMimeData &data);
 
 } // namespace printdialog
