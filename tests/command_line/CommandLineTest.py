@@ -99,13 +99,6 @@ class CommandLineTest(ProgramTest):
             corners = sorted((x, x + a + c)) + sorted((y, y + b + d))
             self.assertEqual([round(corners[i], 1) for i in (0, 2, 1, 3)], where)
 
-    def test_prints_a_photo_whose_name_is_any_bytes(self):
-        done = shell(f"cd '{self.folder}' && name=$(printf 'caf\\351 \\303\\251') && cp '{PHOTO}' \"$name.jpg\" && "
-                     '"$1" --batch --output "$name" "$name.jpg" && ls "$name"')
-        self.assert_quiet(done)
-        self.assertIn("Printed caf\ufffd \u00e9.jpg", done.out)
-        self.assertIn("\ncaf\ufffd \u00e9.pdf", done.out)
-
     # The photo is a JPEG file whose name is that of its page.
     def test_replaces_no_file_of_others(self):
         self.out.mkdir()

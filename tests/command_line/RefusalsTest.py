@@ -152,6 +152,14 @@ class RefusalsTest(ProgramTest):
         self.assert_quiet(self.print("-o", "Red=12", PHOTO, CORVEL_PDE_PATH=str(self.folder)))
         self.assertEqual(self.ticket()["Red"], "12")
 
+    # No folder of another name comes of it either.
+    def test_name_that_is_not_utf8(self):
+        photo = os.fsdecode(bytes(self.folder) + b"/caf\xe9")
+        shutil.copy(PHOTO, photo)
+        for arguments in [photo], [self.folder.as_uri() + "/caf%E9"], ["--ppd", photo, PHOTO], ["--output", photo, PHOTO]:
+            self.refuses(run("--batch", *arguments), 1, "caf\ufffd", "UTF-8", "Rename it.")
+        self.assertEqual(os.listdir(bytes(self.folder)), [b"caf\xe9"])
+
     # Neither a crash nor Qt's advice to install the program again.
     def test_no_display(self):
         without = "env -u QT_QPA_PLATFORM -u DISPLAY -u WAYLAND_DISPLAY -u XDG_RUNTIME_DIR "

@@ -182,7 +182,6 @@ void BuiltInPrinterTest::names()
           // The longest name has 255 bytes: of letters, of large characters, and of bytes that are no text.
           {QString(250, u'n') + u".jpg"_s, QString(243, u'n')},
           {smile.repeated(62) + u".jpg"_s, smile.repeated(60)},
-          {QString(100, QChar(0xdce4)) + u".jpg"_s, QString(81, QChar::ReplacementCharacter)},
           {QString(250, u't'), QString(241, u't') + u"-2"_s}})
         QCOMPARE(names.nameFor(u"/a/"_s + photo), name);
 }
