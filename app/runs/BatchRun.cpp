@@ -27,7 +27,7 @@ int BatchRun::run()
     auto photos = PhotoList::open(commandLine_.photos);
     if (!photos)
         return fail(photos.failure().text);
-    const auto requested = openRequestedJob(commandLine_);
+    const auto requested = openRequestedSession(commandLine_);
     if (!requested)
         return fail(requested.failure().text);
     for (const QString &sentence : requested->leftOut)
@@ -44,22 +44,21 @@ int BatchRun::run()
         console_.complain(remark);
     if (commandLine_.summary)
         console_.writeLines(summaryLines(jobSummary(session, requested->copies, {commandLine_.placement})));
-    made->job.placement = commandLine_.placement;
-    made->job.checksPhoto = commandLine_.checks;
-    return commandLine_.dryRun ? showPlan(*photos, session.printer(), made->job)
-                               : printAll(*photos, session.printer(), made->job);
+    made->job.folder = {commandLine_.outputFolder(), commandLine_.overwrite, commandLine_.photos};
+    return commandLine_.dryRun ? showPlan(*photos, made->job, session.printer().uri)
+                               : printAll(*photos, made->job);
 }
 
-int BatchRun::showPlan(PhotoList &photos, const PrinterDescription &printer, const PrintJob &job)
+int BatchRun::showPlan(PhotoList &photos, const PrintJob &job, const QString &uri)
 {
-    PrintedNames names(outputFolder());
+    PrintedNames names(job.folder);
     QJsonArray array;
     QStringList lines;
     for (qsizetype i = 0; i < photos.size(); ++i) {
-        const auto photo = photos.take(i);
+        auto photo = photos.take(i);
         if (!photo)
             return fail(photo.failure().text);
-        const auto plan = JobPlan::make(*photo, printer, job, names);
+        const auto plan = JobPlan::make(placed(*std::move(photo)), job, uri, names);
         if (!plan && plan.failure().reason.isPhotos) {
             skipped(plan.failure().text);
             continue;
@@ -78,27 +77,26 @@ int BatchRun::showPlan(PhotoList &photos, const PrinterDescription &printer, con
     return endOf(exitDone);
 }
 
-OutputFolder BatchRun::outputFolder() const
+PlacedPhoto BatchRun::placed(Photo photo) const
 {
-    return {commandLine_.outputFolder(), commandLine_.overwrite, commandLine_.photos};
+    return {std::move(photo), commandLine_.placement, !commandLine_.checks};
 }
 
-int BatchRun::printAll(PhotoList &photos, const PrinterDescription &printer, const PrintJob &job)
+int BatchRun::printAll(PhotoList &photos, const PrintJob &job)
 {
-    const PrintTarget target{printer.isBuiltIn ? QString() : printer.destination.id(), outputFolder()};
     FollowLimits limits;
     if (commandLine_.wait)
         limits.total = *commandLine_.wait;
-    PrintRun run(target, job, *this, {interrupt_.flag(), nullptr, interrupt_.flag()}, limits);
+    PrintRun run(job, *this, {interrupt_.flag(), nullptr, interrupt_.flag()}, limits);
     const PrintOutcome outcome =
         run.print(photos.size(), [&](qsizetype index) -> Result<PlacedPhoto, PhotoFault> {
             auto photo = photos.take(index);
             if (!photo)
                 return photo.failure();
-            return PlacedPhoto{*std::move(photo), job.placement};
+            return placed(*std::move(photo));
         });
     progress_.clear();
-    return conclude(outcome, !printer.isBuiltIn);
+    return conclude(outcome, !job.destination.isBuiltIn());
 }
 
 int BatchRun::conclude(const PrintOutcome &outcome, bool isQueue)

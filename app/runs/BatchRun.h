@@ -6,7 +6,6 @@
 #include "CommandLine.h"
 #include "InterruptFlag.h"
 #include "PrintRun.h"
-#include "PrinterDescription.h"
 #include "ProgressLine.h"
 
 #include <QtCore/QCoreApplication>
@@ -37,10 +36,10 @@ private:
     void skipped(const QString &sentence) override;
     void following(qsizetype photo, const QString &name, const QString &state) override;
 
-    int showPlan(PhotoList &photos, const PrinterDescription &printer, const PrintJob &job);
-    int printAll(PhotoList &photos, const PrinterDescription &printer, const PrintJob &job);
+    int showPlan(PhotoList &photos, const PrintJob &job, const QString &uri);
+    int printAll(PhotoList &photos, const PrintJob &job);
     int conclude(const PrintOutcome &outcome, bool isQueue);
-    OutputFolder outputFolder() const;
+    PlacedPhoto placed(Photo photo) const;
     int endOf(int status) const;
     int fail(const QString &sentence);
 

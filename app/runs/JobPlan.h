@@ -4,7 +4,6 @@
 #pragma once
 
 #include "PhotoPrinter.h"
-#include "PrinterDescription.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QJsonObject>
@@ -17,9 +16,10 @@ class JobPlan
     Q_DECLARE_TR_FUNCTIONS(JobPlan)
 
 public:
-    /// Makes what would be sent, and sends nothing. `names` has the names for the built-in printer's files.
-    static Result<JobPlan, PhotoPrinter::Fault> make(const Photo &photo, const PrinterDescription &printer,
-                                                     const PrintJob &job, PrintedNames &names);
+    /// Makes what would be sent, and sends nothing. `uri` is the queue's own address, `names` has the names
+    /// for the built-in printer's files.
+    static Result<JobPlan, PhotoPrinter::Fault> make(const PlacedPhoto &placed, const PrintJob &job,
+                                                     const QString &uri, PrintedNames &names);
 
     /// "label: value", one for each thing.
     QStringList lines() const;
@@ -28,8 +28,17 @@ public:
     QJsonObject json() const;
 
 private:
-    JobRequest request_;
-    PrinterDescription printer_;
+    JobPlan(const QString &photo, const PrintJob &job, const QString &uri)
+        : photo_(photo)
+        , job_(job)
+        , uri_(uri)
+    {
+    }
+
+    QString photo_; ///< its path
+    PrintJob job_;
+    QString uri_;
+    JobDocument document_; ///< only for a queue
     QString server_;
     QStringList files_;
     bool isUntouched_ = false;

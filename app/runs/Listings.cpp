@@ -97,9 +97,9 @@ int fail(Console &console, const QString &sentence)
 }
 
 /// Nothing when there is none; the user has been told why.
-std::optional<RequestedJob> openJob(const CommandLine &commandLine, Console &console)
+std::optional<RequestedSession> openJob(const CommandLine &commandLine, Console &console)
 {
-    auto requested = openRequestedJob(commandLine);
+    auto requested = openRequestedSession(commandLine);
     if (!requested) {
         console.complain(requested.failure().text);
         return std::nullopt;

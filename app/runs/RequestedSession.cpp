@@ -27,19 +27,21 @@ struct Text
     Q_DECLARE_TR_FUNCTIONS(RequestedSession)
 };
 
+using OpenedPrinter = Result<std::unique_ptr<DialogSession>, std::monostate>;
+
 Failure<std::monostate> refusal(const QString &sentence)
 {
     return {{}, sentence, {}};
 }
 
-RequestedSessionResult orSentence(SessionResult session)
+OpenedPrinter orSentence(SessionResult session)
 {
     if (!session)
         return refusal(session.failure().text);
     return *std::move(session);
 }
 
-RequestedSessionResult openQueueNamed(const Destination &destination, PanelMode mode)
+OpenedPrinter openQueueNamed(const Destination &destination, PanelMode mode)
 {
     const auto opened = queueNamed(destination, queuePatience);
     if (!opened)
@@ -52,7 +54,7 @@ RequestedSessionResult openQueueNamed(const Destination &destination, PanelMode 
                                      : openRawQueue(opened->queue, mode));
 }
 
-RequestedSessionResult openDefaultQueue(const Destination &destination, PanelMode mode)
+OpenedPrinter openDefaultQueue(const Destination &destination, PanelMode mode)
 {
     auto session = openQueueNamed(destination, mode);
     if (session)
@@ -71,9 +73,9 @@ std::optional<Destination> destinationOf(const CommandLine &commandLine)
 }
 
 /// Makes the choices of the preset that the destination names. Empty, or why they cannot be had.
-QString usePreset(RequestedJob &job, const Destination &destination)
+QString usePreset(RequestedSession &requested, const Destination &destination)
 {
-    const PrinterDescription &printer = job.session->printer();
+    const PrinterDescription &printer = requested.session->printer();
     const QString &queue = printer.destination.queue;
     const QString &name = (printer.isBuiltIn ? destination : printer.destination).instance;
     if (name.isEmpty())
@@ -84,19 +86,17 @@ QString usePreset(RequestedJob &job, const Destination &destination)
     const Preset *preset = PresetStore::findInstance(*presets, name);
     if (!preset)
         return PresetStore::missing(queue, name, *presets);
-    const UsedChoices used = printdialog::usePreset(*job.session, *preset);
-    job.copies = used.copies.value_or(1);
+    const UsedChoices used = printdialog::usePreset(*requested.session, *preset);
+    requested.copies = used.copies.value_or(1);
     QStringList sentences;
     for (const QString &sentence : used.leftOut)
         sentences += Text::tr("Of the preset \"%1\" is left out: %2").arg(preset->name, sentence);
     if (!sentences.isEmpty())
-        job.leftOut += Console::oneLine(sentences);
+        requested.leftOut += Console::oneLine(sentences);
     return {};
 }
 
-} // namespace
-
-RequestedSessionResult openRequestedPrinter(const CommandLine &commandLine)
+OpenedPrinter openRequestedPrinter(const CommandLine &commandLine)
 {
     if (commandLine.ppd || commandLine.asksForBuiltInPrinter())
         return orSentence(openBuiltInPrinter(commandLine.ppd, commandLine.mode));
@@ -117,35 +117,37 @@ RequestedSessionResult openRequestedPrinter(const CommandLine &commandLine)
     return orSentence(openBuiltInPrinter(std::nullopt, commandLine.mode));
 }
 
-Result<RequestedJob, std::monostate> openRequestedJob(const CommandLine &commandLine)
+} // namespace
+
+Result<RequestedSession, std::monostate> openRequestedSession(const CommandLine &commandLine)
 {
     auto opened = openRequestedPrinter(commandLine);
     if (!opened)
         return opened.failure();
-    RequestedJob job{*std::move(opened), 1, {}};
-    if (const auto failure = job.session->loadPanels()) {
+    RequestedSession requested{*std::move(opened), 1, {}};
+    if (const auto failure = requested.session->loadPanels()) {
         if (failure->reason != PluginFault::NotFound)
             return refusal(failure->text);
-        job.leftOut += failure->text;
+        requested.leftOut += failure->text;
     }
-    const PrinterDescription &printer = job.session->printer();
+    const PrinterDescription &printer = requested.session->printer();
     if (!printer.hasPpd && !commandLine.options.isEmpty())
         return refusal(
             Text::tr("The printer \"%1\" has no PPD file and so no option %2; leave it out, or set "
                      "the printer up with its driver.")
                 .arg(printer.destination.id(), commandLine.options.constFirst().key));
-    if (const QString failure = usePreset(job, destinationOf(commandLine).value_or(Destination()));
+    if (const QString failure = usePreset(requested, destinationOf(commandLine).value_or(Destination()));
         !failure.isEmpty())
         return refusal(failure);
-    job.copies = commandLine.copies.value_or(job.copies);
-    for (const RequestedChoice &requested : commandLine.options) {
+    requested.copies = commandLine.copies.value_or(requested.copies);
+    for (const RequestedChoice &choice : commandLine.options) {
         // Text that is only the beginning of a number is let through while somebody types; here nothing
         // follows it.
-        const Ruling ruling = job.session->choose(requested.key, requested.choice);
+        const Ruling ruling = requested.session->choose(choice.key, choice.choice);
         if (ruling.verdict != Verdict::Accepted)
             return refusal(ruling.text);
     }
-    return job;
+    return requested;
 }
 
 } // namespace printdialog

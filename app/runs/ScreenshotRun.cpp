@@ -98,7 +98,7 @@ int runScreenshot(const CommandLine &commandLine, QApplication &application)
     if (!setup.photoFailures.isEmpty())
         return endWith(Console::oneLine(setup.photoFailures));
     // What the dialog only tells in its window (a choice refused, a plug-in missing) is a failure here.
-    const auto requested = openRequestedJob(commandLine);
+    const auto requested = openRequestedSession(commandLine);
     if (!requested)
         return endWith(requested.failure().text);
     const QString printer = requested->session->printer().destination.id();

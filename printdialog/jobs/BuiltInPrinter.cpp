@@ -25,7 +25,7 @@ QJsonObject jsonOf(const QMap<QString, QString> &texts)
 QByteArray ticketOf(const Photo &photo, const PrintJob &job)
 {
     const QJsonObject ticket{
-        {QStringLiteral("printer"), job.printer},
+        {QStringLiteral("printer"), job.destination.id()},
         {QStringLiteral("document"), QFileInfo(photo.path()).absoluteFilePath()},
         {QStringLiteral("options"), jsonOf(job.options)},
         {QStringLiteral("summary"), jsonOf(job.summary)},
@@ -47,7 +47,7 @@ Failure<OutputFault> failureOf(const Failure<PdfFault> &failure)
 namespace {
 
 /// `name` is that of both files, without suffix.
-Result<PrintedFiles, OutputFault> printAs(const QString &name, const Photo &photo, const PrintJob &job,
+Result<PrintedFiles, OutputFault> printAs(const QString &name, const PlacedPhoto &placed, const PrintJob &job,
                                           const OutputFolder &folder)
 {
     auto files = AtomicFiles::open(folder.path);
@@ -62,16 +62,16 @@ Result<PrintedFiles, OutputFault> printAs(const QString &name, const Photo &phot
         return ticket.failure();
 
     std::optional<PhotoCheck> check;
-    if (job.checksPhoto)
-        check.emplace(photo);
-    const auto written = PdfWriter::write(photo, job.page, **pdf, job.placement);
+    if (!placed.isAccepted)
+        check.emplace(placed.photo);
+    const auto written = PdfWriter::write(placed.photo, job.page, **pdf, placed.placement);
     if (auto failure = files->writeFailure())
         return *failure;
     if (const auto damage = check ? check->wait() : std::nullopt)
         return Failure<OutputFault>{OutputFault::PhotoUnusable, damage->text, damage->detail};
     if (!written)
         return failureOf(written.failure());
-    (*ticket)->write(ticketOf(photo, job));
+    (*ticket)->write(ticketOf(placed.photo, job));
 
     const auto paths =
         files->commit(folder.isOverwritten ? AtomicFiles::Earlier::Replaced : AtomicFiles::Earlier::Kept);
@@ -82,13 +82,13 @@ Result<PrintedFiles, OutputFault> printAs(const QString &name, const Photo &phot
 
 } // namespace
 
-Result<PrintedFiles, OutputFault> BuiltInPrinter::print(const Photo &photo, const PrintJob &job,
+Result<PrintedFiles, OutputFault> BuiltInPrinter::print(const PlacedPhoto &placed, const PrintJob &job,
                                                         PrintedNames &names)
 {
     constexpr int mostTries = 100;
     for (int tries = 1;; ++tries) {
-        const QString name = names.nameFor(photo.path());
-        auto files = printAs(name, photo, job, names.folder());
+        const QString name = names.nameFor(placed.photo.path());
+        auto files = printAs(name, placed, job, names.folder());
         const bool isTaken = !files && files.failure().reason == OutputFault::NameTaken;
         if (files || (isTaken && !names.folder().isOverwritten))
             names.markTaken(name);

@@ -4,7 +4,7 @@
 #pragma once
 
 #include "OutputFault.h"
-#include "Photo.h"
+#include "PlacedPhoto.h"
 #include "PrintJob.h"
 #include "PrintedNames.h"
 #include "Result.h"
@@ -25,14 +25,14 @@ struct PrintedFiles
 class BuiltInPrinter
 {
 public:
-    /// Leaves both files in the folder of `names`, or none. A missing folder is made, with the folders above
-    /// it; when the job fails it is removed again. `names` gives the files a name that is free, and learns of
-    /// it when the job has succeeded. Copies are counted in the ticket; the PDF has one page. May run on any
-    /// thread, one call per `names`.
+    /// Leaves both files in the folder of `names`, or none; none for a damaged photo that nobody accepts. A
+    /// missing folder is made, with the folders above it; when the job fails it is removed again. `names`
+    /// gives the files a name that is free, and learns of it when the job has succeeded. Copies are counted
+    /// in the ticket; the PDF has one page. May run on any thread, one call per `names`.
     ///
     /// The ticket is a JSON object, UTF-8 and indented: "printer", "document" (the photo's absolute path),
     /// "options" and "summary" (objects of texts), "copies" (a number).
-    static Result<PrintedFiles, OutputFault> print(const Photo &photo, const PrintJob &job,
+    static Result<PrintedFiles, OutputFault> print(const PlacedPhoto &placed, const PrintJob &job,
                                                    PrintedNames &names);
 };
 

@@ -52,20 +52,21 @@ bool canGoUntouched(const Photo &photo, const PageGeometry &page, const Placemen
            isSame(toPage.mapRect(QRectF(0, 0, 1, 1)), sheet);
 }
 
-Result<SubmittedDocument, PdfFault> jobDocument(const Photo &photo, const PrintJob &job)
+Result<JobDocument, PdfFault> jobDocument(const PlacedPhoto &placed, const PrintJob &job)
 {
-    SubmittedDocument document;
+    const Photo &photo = placed.photo;
+    JobDocument document;
     document.name = photo.fileName();
     const QByteArray type = mimeTypeOf(photo);
-    if (!job.queue.hasPpd ||
-        (job.queue.directTypes.contains(type) && canGoUntouched(photo, job.page, job.placement))) {
+    if (!job.hasPpd() ||
+        (job.directTypes.contains(type) && canGoUntouched(photo, job.page, placed.placement))) {
         document.mimeType = type;
         document.data = photo.content();
         return document;
     }
     QBuffer buffer(&document.data);
     buffer.open(QIODevice::WriteOnly);
-    const auto page = PdfWriter::write(photo, job.page, buffer, job.placement);
+    const auto page = PdfWriter::write(photo, job.page, buffer, placed.placement);
     if (!page)
         return page.failure();
     document.mimeType = "application/pdf";

@@ -3,11 +3,19 @@
 
 #pragma once
 
-#include "BuiltInPrinter.h"
-#include "JobSubmission.h"
 #include "PdfWriter.h"
+#include "PlacedPhoto.h"
+#include "PrintJob.h"
 
 namespace printdialog {
+
+/// What a queue is sent for one photo.
+struct JobDocument
+{
+    QByteArray data;     ///< Sent byte for byte.
+    QByteArray mimeType; ///< For example "image/jpeg"; the server chooses its filters by it.
+    QString name;        ///< The photo's file name: the job's title, and the document's name at the server.
+};
 
 /// Whether the photo's own file, printed by itself, comes out as the placement on the page has it, however
 /// the printer places a picture: fitted, filled or stretched to the sheet. That is so when
@@ -21,6 +29,6 @@ bool canGoUntouched(const Photo &photo, const PageGeometry &page, const Placemen
 /// What a queue is sent for a photo: the untouched file when the queue hands that type to its printer as it
 /// is and the file can go untouched, or when the queue has no PPD to place anything by; else a PDF of the
 /// page.
-Result<SubmittedDocument, PdfFault> jobDocument(const Photo &photo, const PrintJob &job);
+Result<JobDocument, PdfFault> jobDocument(const PlacedPhoto &placed, const PrintJob &job);
 
 } // namespace printdialog

@@ -9,13 +9,10 @@
 #include "PpdFetcher.h"
 #include "QueueRecord.h"
 
-#include <QtCore/QBuffer>
 #include <QtCore/QCoreApplication>
-#include <QtCore/QFile>
 #include <QtCore/QUrl>
 
 #include <algorithm>
-#include <array>
 #include <atomic>
 #include <optional>
 
@@ -61,60 +58,52 @@ void addOption(ipp_t *request, const QByteArray &keyword, const QByteArray &valu
         ippAddString(request, IPP_TAG_JOB, IPP_TAG_NAME, keyword.constData(), nullptr, value.constData());
 }
 
-Failure<QueueFault> notReadToItsEnd(const SubmittedDocument &document, const QString &reason)
-{
-    return {QueueFault::Failed,
-            Text::tr("The file \"%1\" could not be read to its end (%2); nothing is printed.")
-                .arg(plainText(document.path, shownTextLimit), plainText(reason, shownTextLimit)),
-            {}};
-}
-
 /// One job in one request, with its document: the server makes the job when it has the last byte, so that
 /// whatever breaks off before leaves no job behind. Create-Job and Send-Document would leave an empty one
 /// whenever the way to the server is lost between them.
 class JobInMaking
 {
 public:
-    JobInMaking(CupsConnection &connection, const JobControl &control, const QueueRecord &record)
+    JobInMaking(CupsConnection &connection, const JobSubmission::Progress &sent, int *cancel,
+                const QueueRecord &record)
         : connection_(connection)
-        , control_(control)
+        , sent_(sent)
+        , cancel_(cancel)
         , record_(record)
         , resource_(QUrl::fromEncoded(record.uri).path(QUrl::FullyEncoded).toLatin1())
     {
     }
 
-    Result<int, QueueFault> send(const JobRequest &job, QIODevice &source)
+    Result<int, QueueFault> send(const PrintJob &job, const JobDocument &document)
     {
-        const IppPointer request = printJob(job);
-        const qint64 total = source.size();
+        constexpr qint64 step = 65536;
+        const IppPointer request = printJob(job, document);
+        const qint64 total = document.data.size();
         connection_.extend();
         bool isTaken = connection_.begin(request.get(), resource_, total);
-        std::array<char, 65536> chunk = {};
         for (qint64 sent = 0; isTaken && sent < total;) {
-            const qint64 size = source.read(chunk.data(), std::min<qint64>(chunk.size(), total - sent));
-            if (size <= 0)
-                return notReadToItsEnd(job.document, source.errorString());
+            const qint64 size = std::min(step, total - sent);
             connection_.extend();
-            isTaken = connection_.write(chunk.data(), static_cast<size_t>(size));
+            isTaken = connection_.write(document.data.constData() + sent, static_cast<size_t>(size));
             sent += size;
-            if (isTaken && control_.sent)
-                control_.sent(sent, total);
+            if (isTaken && sent_)
+                sent_(sent, total);
             if (connection_.isCancelled())
-                return queueFailure(QueueFault::Cancelled, job.queue);
+                return queueFailure(QueueFault::Cancelled, job.destination.id());
         }
-        return takeAnswer(job.queue);
+        return takeAnswer(job.destination.id());
     }
 
 private:
-    IppPointer printJob(const JobRequest &job) const
+    IppPointer printJob(const PrintJob &job, const JobDocument &document) const
     {
         IppPointer request = ippRequest(IPP_OP_PRINT_JOB, record_.uri);
         ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "job-name", nullptr,
-                     plainText(job.title, titleLimit).toUtf8().constData());
+                     plainText(document.name, titleLimit).toUtf8().constData());
         ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "document-name", nullptr,
-                     plainText(job.document.name, titleLimit).toUtf8().constData());
+                     plainText(document.name, titleLimit).toUtf8().constData());
         ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_MIMETYPE, "document-format", nullptr,
-                     job.document.mimeType.constData());
+                     document.mimeType.constData());
         ippAddInteger(request.get(), IPP_TAG_JOB, IPP_TAG_INTEGER, "copies", job.copies);
         for (auto option = job.options.cbegin(); option != job.options.cend(); ++option)
             addOption(request.get(), option.key().toUtf8(), option.value().toUtf8());
@@ -135,7 +124,7 @@ private:
         if (id <= 0)
             return queueFailure(QueueFault::Failed, queue,
                                 Text::tr("it took the job without giving it a number"));
-        if (control_.cancel && std::atomic_ref(*control_.cancel).load() != 0) {
+        if (cancel_ && std::atomic_ref(*cancel_).load() != 0) {
             connection_.extend();
             [[maybe_unused]] const auto cancelled = cancelJob(connection_, queue, id);
             return queueFailure(QueueFault::Cancelled, queue);
@@ -144,16 +133,16 @@ private:
     }
 
     CupsConnection &connection_;
-    const JobControl &control_;
+    const JobSubmission::Progress &sent_;
+    int *cancel_;
     QueueRecord record_;
     QByteArray resource_;
 };
 
 } // namespace
 
-std::optional<Failure<QueueFault>> whyUnfit(const JobRequest &job)
+std::optional<Failure<QueueFault>> whyUnfit(const PrintJob &job, const JobDocument &document)
 {
-    const SubmittedDocument &document = job.document;
     const QMap<QString, QString> &options = job.options;
     for (auto option = options.cbegin(); option != options.cend(); ++option) {
         const QString keyword = plainText(option.key(), 80);
@@ -189,41 +178,34 @@ std::optional<Failure<QueueFault>> whyUnfit(const JobRequest &job)
     return std::nullopt;
 }
 
-Result<int, QueueFault> submitJob(const JobRequest &job, const JobControl &control,
-                                  std::chrono::milliseconds patience)
+JobSubmission::JobSubmission(const Progress &sent, int *cancel, std::chrono::milliseconds patience)
+    : sent_(sent)
+    , cancel_(cancel)
+    , patience_(patience)
 {
-    if (const auto failure = whyUnfit(job))
-        return *failure;
-    QFile file(job.document.path);
-    QBuffer buffer;
-    buffer.setData(job.document.data);
-    QIODevice &source = job.document.path.isEmpty() ? static_cast<QIODevice &>(buffer) : file;
-    if (!source.open(QIODevice::ReadOnly))
-        return Failure<QueueFault>{QueueFault::Failed,
-                                   Text::tr("The file \"%1\" cannot be read (%2); nothing is printed.")
-                                       .arg(plainText(job.document.path, shownTextLimit),
-                                            plainText(source.errorString(), shownTextLimit)),
-                                   {}};
-    // Nothing, or no regular file, which has no length to rely on.
-    if (source.size() <= 0)
-        return notReadToItsEnd(job.document, Text::tr("it is empty"));
+}
 
-    CupsConnection connection(patience, control.cancel);
+Result<int, QueueFault> JobSubmission::send(const PrintJob &job, const JobDocument &document)
+{
+    if (const auto failure = whyUnfit(job, document))
+        return *failure;
+    const QString queue = job.destination.id();
+    CupsConnection connection(patience_, cancel_);
     if (!connection.isOpen())
-        return queueFailure(QueueFault::NoServer, job.queue, connection.unreachableReason());
-    const auto record = queueRecord(connection, job.queue);
+        return queueFailure(QueueFault::NoServer, queue, connection.unreachableReason());
+    const auto record = queueRecord(connection, job.destination);
     if (!record)
         return record.failure();
     if (!record->acceptsJobs)
-        return queueFailure(QueueFault::NotAccepting, job.queue, record->stateMessage);
+        return queueFailure(QueueFault::NotAccepting, queue, record->stateMessage);
     if (job.ppd) {
         const auto ppd = ppdOf(connection, *record);
         if (!ppd && ppd.failure().reason != QueueFault::NoPpd)
             return ppd.failure();
         if ((ppd ? *ppd : QByteArray()) != *job.ppd)
-            return queueFailure(QueueFault::Changed, job.queue);
+            return queueFailure(QueueFault::Changed, queue);
     }
-    return JobInMaking(connection, control, *record).send(job, source);
+    return JobInMaking(connection, sent_, cancel_, *record).send(job, document);
 }
 
 } // namespace printdialog

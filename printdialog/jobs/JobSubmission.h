@@ -3,11 +3,9 @@
 
 #pragma once
 
+#include "JobDocument.h"
+#include "PrintJob.h"
 #include "QueueFault.h"
-
-#include <QtCore/QByteArray>
-#include <QtCore/QMap>
-#include <QtCore/QString>
 
 #include <chrono>
 #include <functional>
@@ -15,47 +13,36 @@
 
 namespace printdialog {
 
-/// What is printed: a file, or bytes at hand.
-struct SubmittedDocument
-{
-    QString path;        ///< Read while it is sent; empty: data is sent instead.
-    QByteArray data;     ///< Sent byte for byte.
-    QByteArray mimeType; ///< For example "image/jpeg"; the server chooses its filters by it.
-    QString name;        ///< The document's name as the server shows it.
-};
-
-/// A job as it is to be sent.
-struct JobRequest
-{
-    QString queue; ///< The queue's id.
-    QString title;
-    SubmittedDocument document;
-    QMap<QString, QString> options; ///< Keyword to choice, both as in the PPD; not "copies".
-    int copies = 1;
-    /// The PPD that the options were chosen from, null for a queue that has none: the job is refused when
-    /// the queue has another one by now. Without it nothing is compared.
-    std::optional<QByteArray> ppd = std::nullopt;
-};
-
-/// How whoever waits for a job hears of it, and gives it up.
-struct JobControl
-{
-    /// Bytes sent so far, and in all. Called on the thread that submits; may be empty.
-    std::function<void(qint64 sent, qint64 total)> sent;
-    int *cancel = nullptr; ///< Non-zero: give up. Outlives the call; may be null.
-};
-
-/// Why the job cannot be sent, whatever the server; nothing when it can. See submitJob().
-std::optional<Failure<QueueFault>> whyUnfit(const JobRequest &job);
-
-/// Sends one document as a job of its own and returns the job's id. Blocks until the server has taken all of
-/// it: for a worker, or the command line. A job that cannot be finished is cancelled.
+/// Why the document cannot be sent with the job, whatever the server; nothing when it can.
 ///
-/// Every option goes out exactly as given, and nothing else but the number of copies. An option whose keyword
-/// or value could be read as something else by the server (control characters above all) is refused before
-/// anything is sent; titles and names are cleaned. Failures: all but NoPpd.
-/// @param patience how long the server may take for each step; sending 64 KiB is one
-Result<int, QueueFault> submitJob(const JobRequest &job, const JobControl &control = {},
-                                  std::chrono::milliseconds patience = std::chrono::seconds(30));
+/// An option whose keyword or value could be read as something else by the server (control characters above
+/// all) is none that can be sent.
+std::optional<Failure<QueueFault>> whyUnfit(const PrintJob &job, const JobDocument &document);
+
+/// Sends documents to queues, each as a job of its own.
+class JobSubmission
+{
+public:
+    /// Bytes sent so far, and in all.
+    using Progress = std::function<void(qint64 sent, qint64 total)>;
+
+    /// @param sent called on the thread that sends; may be empty
+    /// @param cancel non-zero: give up; outlives this object; may be null
+    /// @param patience how long the server may take for each step; sending 64 KiB is one
+    explicit JobSubmission(const Progress &sent = {}, int *cancel = nullptr,
+                           std::chrono::milliseconds patience = std::chrono::seconds(30));
+
+    /// Returns the new job's id. Blocks until the server has taken all of it: for a worker, or the command
+    /// line. A job that cannot be finished is cancelled.
+    ///
+    /// Every option goes out exactly as given, and nothing else but the number of copies; what is unfit is
+    /// refused before anything is sent, and names are cleaned. Failures: all but NoPpd.
+    Result<int, QueueFault> send(const PrintJob &job, const JobDocument &document);
+
+private:
+    Progress sent_;
+    int *cancel_;
+    std::chrono::milliseconds patience_;
+};
 
 } // namespace printdialog

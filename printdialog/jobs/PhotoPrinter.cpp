@@ -3,8 +3,11 @@
 
 #include "PhotoPrinter.h"
 
-#include "JobDocument.h"
+#include "BuiltInPrinter.h"
 #include "PhotoCheck.h"
+
+#include <algorithm>
+#include <atomic>
 
 namespace printdialog {
 
@@ -24,60 +27,124 @@ Failure<PhotoPrinter::Fault> failureOf(const Failure<Reason> &failure)
 
 } // namespace
 
-QString printedText(const Photo &photo, const PrintTarget &target, const PrintedPhoto &printed)
-{
-    if (const auto *files = std::get_if<PrintedFiles>(&printed))
-        return PhotoPrinter::tr("Printed %1: %2").arg(photo.fileName(), files->pdf);
-    return PhotoPrinter::tr("Sent %1 to %2 as job %3")
-        .arg(photo.fileName(), target.queue, QString::number(std::get<int>(printed)));
-}
-
-PhotoPrinter::PhotoPrinter(const PrintTarget &target, const JobControl &control)
-    : target_(target)
-    , control_(control)
-    , names_(target.folder)
+PhotoPrinter::PhotoPrinter(const PrintJob &job, const JobSubmission::Progress &sent, int *cancel)
+    : job_(job)
+    , submission_(sent, cancel)
+    , names_(job.folder)
 {
 }
 
-Result<PrintedPhoto, PhotoPrinter::Fault> PhotoPrinter::print(const Photo &photo, const PrintJob &job)
+Result<QString, PhotoPrinter::Fault> PhotoPrinter::print(const PlacedPhoto &placed)
 {
-    if (target_.queue.isEmpty()) {
-        const auto files = BuiltInPrinter::print(photo, job, names_);
-        if (!files)
-            return failureOf(files.failure());
-        return PrintedPhoto(*files);
-    }
-    const auto request = PhotoPrinter::request(photo, target_.queue, job);
-    if (!request)
-        return request.failure();
-    const auto id = submitJob(*request, control_);
+    if (!job_.destination.isBuiltIn())
+        return send(placed);
+    const auto files = BuiltInPrinter::print(placed, job_, names_);
+    if (!files)
+        return failureOf(files.failure());
+    return tr("Printed %1: %2").arg(placed.photo.fileName(), files->pdf);
+}
+
+Result<QString, PhotoPrinter::Fault> PhotoPrinter::send(const PlacedPhoto &placed)
+{
+    const auto document = documentOf(placed, job_);
+    if (!document)
+        return document.failure();
+    const auto id = submission_.send(job_, *document);
     if (!id)
         return failureOf(id.failure());
-    return PrintedPhoto(*id);
+    sent_.append({document->name, *id});
+    return tr("Sent %1 to %2 as job %3").arg(document->name, job_.destination.id(), QString::number(*id));
 }
 
-Result<JobRequest, PhotoPrinter::Fault> PhotoPrinter::request(const Photo &photo, const QString &queue,
-                                                              const PrintJob &job)
+Result<JobDocument, PhotoPrinter::Fault> PhotoPrinter::documentOf(const PlacedPhoto &placed,
+                                                                  const PrintJob &job)
 {
     std::optional<PhotoCheck> check;
-    if (job.checksPhoto)
-        check.emplace(photo);
-    const auto document = jobDocument(photo, job);
+    if (!placed.isAccepted)
+        check.emplace(placed.photo);
+    auto document = jobDocument(placed, job);
     if (const auto damage = check ? check->wait() : std::nullopt)
         return Failure<Fault>{{std::nullopt, true}, damage->text, damage->detail};
     if (!document)
         return failureOf(document.failure());
-    JobRequest request;
-    request.queue = queue;
-    request.title = photo.fileName();
-    request.document = *document;
-    if (job.queue.hasPpd)
-        request.options = job.options;
-    request.copies = job.copies;
-    request.ppd = job.queue.ppd;
-    if (const auto unfit = whyUnfit(request))
+    if (const auto unfit = whyUnfit(job, *document))
         return failureOf(*unfit);
-    return request;
+    return *std::move(document);
+}
+
+QList<int> PhotoPrinter::sentJobs() const
+{
+    QList<int> ids;
+    for (const SentJob &job : sent_)
+        ids.append(job.id);
+    return ids;
+}
+
+PhotoPrinter::Outcome PhotoPrinter::follow(const FollowLimits &limits,
+                                           const std::function<void(int, const QString &)> &news, int *cancel)
+{
+    using Clock = std::chrono::steady_clock;
+    Outcome outcome;
+    FollowLimits left = limits;
+    const auto end = Clock::now() + limits.total;
+    for (int i = 0; i < static_cast<int>(sent_.size()); ++i) {
+        const SentJob &job = sent_.at(i);
+        left.total = std::max(FollowLimits::Time(),
+                              std::chrono::duration_cast<FollowLimits::Time>(end - Clock::now()));
+        const auto status = followJob(
+            job_.destination.id(), job.id, left, [&](const JobStatus &now) { news(i, now.text()); }, cancel);
+        if (cancel && std::atomic_ref(*cancel).load() != 0)
+            return outcome;
+        if (!status) {
+            outcome.failure = tr("What has become of %1 (job %2) is not known: %3")
+                                  .arg(job.photo, QString::number(job.id), status.failure().text);
+            return outcome;
+        }
+        note(job, *status, outcome);
+        if (!status->isOver())
+            left.waiting = {};
+    }
+    return outcome;
+}
+
+void PhotoPrinter::note(const SentJob &job, const JobStatus &status, Outcome &outcome) const
+{
+    const QString queue = job_.destination.id();
+    const QString id = QString::number(job.id);
+    const QString detail = status.detail();
+    if (!status.isOver()) {
+        outcome.waiting.append(tr("%1 (job %2) is not printed yet: %3. The print server keeps it; "
+                                  "\"cancel %2\" takes it back.")
+                                   .arg(job.photo, id, status.text()));
+    } else if (status.state == JobStatus::State::Aborted) {
+        if (!outcome.failure)
+            outcome.failure =
+                tr("The printer \"%1\" could not print %2 (job %3): %4. Look at the printer and print again.")
+                    .arg(queue, job.photo, id, detail.isEmpty() ? tr("it gave no reason") : detail);
+    } else if (status.state == JobStatus::State::Canceled) {
+        if (!outcome.failure)
+            outcome.failure =
+                tr("The job %3 for %2 on the printer \"%1\" was cancelled (%4).")
+                    .arg(queue, job.photo, id, detail.isEmpty() ? tr("nobody said why") : detail);
+    } else {
+        outcome.ids.append(job.id);
+        outcome.printed.append(tr("Printed %1 on %2 (job %3)").arg(job.photo, queue, id));
+    }
+}
+
+QStringList PhotoPrinter::takeBack(int &over)
+{
+    over = 0;
+    QStringList failures;
+    for (const SentJob &job : std::as_const(sent_)) {
+        const auto cancelled = cancelJob(job_.destination.id(), job.id);
+        if (!cancelled)
+            failures.append(tr("The job %1 for %2 could not be cancelled: %3")
+                                .arg(QString::number(job.id), job.photo, cancelled.failure().text));
+        else if (!*cancelled)
+            ++over;
+    }
+    return failures;
 }
 
 } // namespace printdialog

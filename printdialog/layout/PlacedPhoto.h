@@ -12,7 +12,7 @@ namespace printdialog {
 struct PlacedPhoto
 {
     Photo photo;
-    PlacementChoice placement;
+    PlacementChoice placement = {};
     bool isAccepted = false; ///< Whether it is printed even though it is damaged.
 };
 

@@ -32,11 +32,11 @@ QString OutcomeText::counted() const
 {
     if (outcome_.done == outcome_.total)
         return allPrinted();
-    if (!target_.queue.isEmpty() && !outcome_.isFollowed)
+    if (!job_.destination.isBuiltIn() && !outcome_.isFollowed)
         return outcome_.printed.isEmpty() ? QString()
                                           : tr("Sent %1 of %2 photos to %3, which goes on printing.")
                                                 .arg(QString::number(outcome_.printed.size()),
-                                                     QString::number(outcome_.total), target_.queue);
+                                                     QString::number(outcome_.total), job_.destination.id());
     QString text = tr("Printed %1 of %2 photos.").arg(outcome_.done).arg(outcome_.total);
     if (outcome_.waiting.size() == 1)
         text += u'\n' + outcome_.waiting.constFirst();
@@ -48,24 +48,24 @@ QString OutcomeText::counted() const
 
 QString OutcomeText::allPrinted() const
 {
-    if (target_.queue.isEmpty())
+    if (job_.destination.isBuiltIn())
         return tr("Printed %1 photos in the folder %2")
             .arg(QString::number(outcome_.total),
-                 QDir::toNativeSeparators(QFileInfo(target_.folder.path).absoluteFilePath()));
+                 QDir::toNativeSeparators(QFileInfo(job_.folder.path).absoluteFilePath()));
     // Jobs of others may have come in between.
     const QList<int> &jobs = outcome_.jobs;
     if (jobs.size() == outcome_.total && jobs.constLast() - jobs.constFirst() == outcome_.total - 1)
         return tr("Printed %1 photos on %2 (jobs %3 to %4)")
-            .arg(QString::number(outcome_.total), target_.queue, QString::number(jobs.constFirst()),
+            .arg(QString::number(outcome_.total), job_.destination.id(), QString::number(jobs.constFirst()),
                  QString::number(jobs.constLast()));
-    return tr("Printed %1 photos on %2").arg(QString::number(outcome_.total), target_.queue);
+    return tr("Printed %1 photos on %2").arg(QString::number(outcome_.total), job_.destination.id());
 }
 
 QString OutcomeText::details() const
 {
     // Photos that were merely sent are not printed when the run was stopped.
     const bool isTold =
-        outcome_.total == 1 || (outcome_.wasStopped && !outcome_.isFollowed && !target_.queue.isEmpty());
+        outcome_.total == 1 || (outcome_.wasStopped && !outcome_.isFollowed && !job_.destination.isBuiltIn());
     return isTold ? QString() : (outcome_.printed + outcome_.waiting + outcome_.skipped).join(u'\n');
 }
 

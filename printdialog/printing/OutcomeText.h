@@ -16,9 +16,9 @@ class OutcomeText
     Q_DECLARE_TR_FUNCTIONS(printdialog::OutcomeText)
 
 public:
-    OutcomeText(const PrintOutcome &outcome, const PrintTarget &target)
+    OutcomeText(const PrintOutcome &outcome, const PrintJob &job)
         : outcome_(outcome)
-        , target_(target)
+        , job_(job)
     {
     }
 
@@ -32,7 +32,7 @@ private:
     QString allPrinted() const;
 
     const PrintOutcome &outcome_;
-    const PrintTarget &target_;
+    const PrintJob &job_;
 };
 
 } // namespace printdialog

@@ -3,27 +3,21 @@
 
 #include "PrintRun.h"
 
-#include "SentJobs.h"
-
 #include <algorithm>
 #include <atomic>
 
 namespace printdialog {
 
-PrintRun::PrintRun(const PrintTarget &target, const PrintJob &job, PrintRunListener &listener,
-                   const PrintRunFlags &flags, const FollowLimits &limits)
-    : target_(target)
-    , job_(job)
-    , listener_(listener)
+PrintRun::PrintRun(const PrintJob &job, PrintRunListener &listener, const PrintRunFlags &flags,
+                   const FollowLimits &limits)
+    : listener_(listener)
     , flags_(flags)
     , limits_(limits)
-    , printer_(target, {[this](qint64 sent, qint64 total) { listener_.sending(index_, name_, sent, total); },
-                        flags.cancel})
-    , sent_(std::make_unique<SentJobs>(target.queue))
+    , printer_(
+          job, [this](qint64 sent, qint64 total) { listener_.sending(index_, name_, sent, total); },
+          flags.cancel)
 {
 }
-
-PrintRun::~PrintRun() = default;
 
 bool PrintRun::isRaised(int *flag)
 {
@@ -43,10 +37,10 @@ PrintOutcome PrintRun::print(qsizetype count, const PhotoSource &photos)
             break;
     }
     const bool isFine = outcome_.failure.isEmpty() && !isRaised(flags_.cancel);
-    if (isFine && !sent_->isEmpty() && limits_.total > FollowLimits::Time::zero())
+    if (isFine && !printer_.sentJobs().isEmpty() && limits_.total > FollowLimits::Time::zero())
         follow();
     // What the built-in printer has left cannot be taken back, and is not worth a word when it is all.
-    const bool isOver = index_ == count && sent_->isEmpty();
+    const bool isOver = index_ == count && printer_.sentJobs().isEmpty();
     if (isRaised(flags_.cancel) && !isRaised(flags_.keep) && !isOver)
         takeBack();
     return outcome_;
@@ -57,10 +51,7 @@ bool PrintRun::printOne(const PlacedPhoto &placed)
 {
     name_ = placed.photo.fileName();
     listener_.sending(index_, name_, 0, 0);
-    PrintJob job = job_;
-    job.placement = placed.placement;
-    job.checksPhoto = job_.checksPhoto && !placed.isAccepted;
-    const auto printed = printer_.print(placed.photo, job);
+    const auto printed = printer_.print(placed);
     if (!printed && isRaised(flags_.cancel))
         return false;
     if (!printed && printed.failure().reason.isPhotos) {
@@ -73,14 +64,11 @@ bool PrintRun::printOne(const PlacedPhoto &placed)
         outcome_.hasOtherPpd = printed.failure().reason.queue == QueueFault::Changed;
         return false;
     }
-    if (const int *id = std::get_if<int>(&*printed)) {
-        sent_->add(name_, *id);
-        outcome_.jobs.append(*id);
-    } else {
+    outcome_.jobs = printer_.sentJobs();
+    if (outcome_.jobs.isEmpty())
         ++outcome_.done;
-    }
     outcome_.names.append(name_);
-    outcome_.printed.append(printedText(placed.photo, target_, *printed));
+    outcome_.printed.append(*printed);
     listener_.printed(outcome_.printed.constLast());
     return true;
 }
@@ -91,7 +79,7 @@ void PrintRun::follow()
     const auto news = [&](int photo, const QString &state) {
         listener_.following(photo, names.value(photo), state);
     };
-    const SentJobs::Outcome followed = sent_->follow(limits_, news, flags_.leave);
+    const PhotoPrinter::Outcome followed = printer_.follow(limits_, news, flags_.leave);
     outcome_.isFollowed = true;
     outcome_.printed = followed.printed;
     outcome_.jobs = followed.ids;
@@ -103,7 +91,7 @@ void PrintRun::follow()
 void PrintRun::takeBack()
 {
     int over = 0;
-    const QStringList failures = sent_->cancel(&over);
+    const QStringList failures = printer_.takeBack(over);
     outcome_.done = std::max(outcome_.done, over);
     outcome_.wasStopped = failures.isEmpty();
     outcome_.failure = failures.join(u' ');

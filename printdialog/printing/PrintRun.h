@@ -3,18 +3,13 @@
 
 #pragma once
 
-#include "JobFollowing.h"
 #include "PhotoPrinter.h"
-#include "PlacedPhoto.h"
 
 #include <QtCore/QStringList>
 
 #include <functional>
-#include <memory>
 
 namespace printdialog {
-
-class SentJobs;
 
 /// What has become of the photos of one run.
 struct PrintOutcome
@@ -66,9 +61,8 @@ public:
     using PhotoSource = std::function<Result<PlacedPhoto, PhotoFault>(qsizetype index)>;
 
     /// @param listener outlives the run
-    PrintRun(const PrintTarget &target, const PrintJob &job, PrintRunListener &listener,
-             const PrintRunFlags &flags = {}, const FollowLimits &limits = {});
-    ~PrintRun();
+    PrintRun(const PrintJob &job, PrintRunListener &listener, const PrintRunFlags &flags = {},
+             const FollowLimits &limits = {});
     Q_DISABLE_COPY_MOVE(PrintRun)
 
     /// May be called once. Jobs are not followed when the limit of all is 0.
@@ -81,8 +75,6 @@ private:
     void follow();
     void takeBack();
 
-    PrintTarget target_;
-    PrintJob job_;
     PrintRunListener &listener_;
     PrintRunFlags flags_;
     FollowLimits limits_;
@@ -90,7 +82,6 @@ private:
     qsizetype index_ = 0;  ///< of the photo that is being sent
     QString name_;         ///< its file's
     PhotoPrinter printer_; ///< after what its news are made of
-    std::unique_ptr<SentJobs> sent_;
 };
 
 } // namespace printdialog

@@ -34,9 +34,10 @@ class Progress : public PrintRunListener
 public:
     using Say = std::function<void(const QString &text, qint64 done, qint64 total)>;
 
-    Progress(qsizetype count, const QString &queue, std::atomic<int> &sent, int &following, const Say &say)
+    Progress(qsizetype count, const Destination &destination, std::atomic<int> &sent, int &following,
+             const Say &say)
         : count_(count)
-        , queue_(queue)
+        , destination_(destination)
         , sent_(sent)
         , following_(following)
         , say_(say)
@@ -45,9 +46,10 @@ public:
 
     void sending(qsizetype photo, const QString &name, qint64 sent, qint64 total) override
     {
-        const qint64 share = queue_.isEmpty() ? photoShare : sendingShare;
-        const QString text = queue_.isEmpty() ? PrintWorker::tr("Writing %1").arg(name)
-                                              : PrintWorker::tr("Sending %1 to %2").arg(name, queue_);
+        const qint64 share = destination_.isBuiltIn() ? photoShare : sendingShare;
+        const QString text = destination_.isBuiltIn()
+                                 ? PrintWorker::tr("Writing %1").arg(name)
+                                 : PrintWorker::tr("Sending %1 to %2").arg(name, destination_.id());
         const bool isUnknown = count_ == 1 && total == 0;
         say_(counted(photo, text), photo * share + (total > 0 ? sent * share / total : 0),
              isUnknown ? 0 : count_ * photoShare);
@@ -70,7 +72,7 @@ private:
     }
 
     qsizetype count_;
-    QString queue_;
+    Destination destination_;
     std::atomic<int> &sent_;
     int &following_;
     Say say_;
@@ -130,17 +132,17 @@ void PrintWorker::giveUp()
     cancel();
 }
 
-void PrintWorker::print(const QList<PlacedPhoto> &photos, const PrintTarget &target, const PrintJob &job)
+void PrintWorker::print(const QList<PlacedPhoto> &photos, const PrintJob &job)
 {
     auto outcome = std::make_shared<PrintOutcome>();
     flags_ = std::make_shared<Flags>();
     // This object waits for the thread before it goes, so that the thread may name it.
-    thread_.reset(QThread::create([this, flags = flags_, photos, target, job, outcome] {
+    thread_.reset(QThread::create([this, flags = flags_, photos, job, outcome] {
         const auto say = [this](const QString &text, qint64 done, qint64 total) {
             Q_EMIT progress(text, done, total);
         };
-        Progress listener(photos.size(), target.queue, flags->sent, flags->following, say);
-        PrintRun run(target, job, listener, {&flags->cancel, &flags->keep, &flags->leave});
+        Progress listener(photos.size(), job.destination, flags->sent, flags->following, say);
+        PrintRun run(job, listener, {&flags->cancel, &flags->keep, &flags->leave});
         *outcome = printed(photos, run);
     }));
     connect(thread_.get(), &QThread::finished, this, [this, outcome] {

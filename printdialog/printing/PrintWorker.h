@@ -28,7 +28,7 @@ public:
     int sent() const;
     /// Prints the photos, each where it is placed, with the job's settings, one after the other. Not while
     /// busy.
-    void print(const QList<PlacedPhoto> &photos, const PrintTarget &target, const PrintJob &job);
+    void print(const QList<PlacedPhoto> &photos, const PrintJob &job);
     /// Sends nothing more, and takes back the jobs that are not over.
     void cancel();
     /// Sends nothing more, takes back what is being sent, and follows no longer what the print server has:

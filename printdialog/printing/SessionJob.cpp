@@ -4,6 +4,7 @@
 #include "SessionJob.h"
 
 #include "DialogSession.h"
+#include "PpdFilters.h"
 
 #include <QtCore/QCoreApplication>
 
@@ -23,13 +24,17 @@ Result<SessionJob, SessionJobFault> jobOf(DialogSession &session, int copies)
             {}};
     const PrinterDescription &printer = session.printer();
     PrintJob job;
-    job.printer = printer.destination.id();
+    job.destination = printer.destination;
     job.page = {size->points, size->imageable};
-    job.options = options->options;
     for (const auto &[option, choice] : session.summary())
         job.summary.insert(option, choice);
     job.copies = copies;
-    job.queue = printer.hasPpd ? QueueTerms::ofPpd(ppd) : QueueTerms::withoutPpd();
+    job.ppd = QByteArray();
+    if (printer.hasPpd) {
+        job.options = options->options;
+        job.ppd = ppd.data();
+        job.directTypes = typesTakenAsTheyAre(ppd);
+    }
     return SessionJob{job, options->dropped};
 }
 

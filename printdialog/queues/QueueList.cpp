@@ -146,7 +146,9 @@ QList<Queue> queuesIn(ipp_t *answer)
     QueueAttributes attributes;
     const auto take = [&] {
         const Queue queue = queueOf(std::exchange(attributes, {}));
-        if (queue.name.isEmpty() || queues.size() >= mostQueues || names.contains(queue.name))
+        // One that is called like the printer that needs no server could not be asked for.
+        if (queue.name.isEmpty() || queue.destination().isBuiltIn() || queues.size() >= mostQueues ||
+            names.contains(queue.name))
             return;
         names.insert(queue.name);
         queues.append(queue);

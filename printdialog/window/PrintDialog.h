@@ -6,7 +6,7 @@
 #include "JobSummary.h"
 #include "Photo.h"
 #include "PhotoPlacement.h"
-#include "PhotoPrinter.h"
+#include "PrintJob.h"
 #include "PrinterDescription.h"
 #include "Queue.h"
 #include "QueueFault.h"
@@ -147,7 +147,7 @@ private:
     bool wasChosen_ = false;    ///< by the user, this time or an earlier one
     QString whyNotReady_;       ///< why Print is off; empty when it is on
     QStringList remarks_;       ///< what was left out of the job that is printed
-    PrintTarget target_;        ///< of what is being printed, or was
+    PrintJob job_;              ///< of what is being printed, or was
     bool hasPrinted_ = false;   ///< there was a run, whatever became of it
     bool isStopping_ = false;   ///< the user wants what is printed stopped
     bool isLeaving_ = false;    ///< what is asked is whether to close the window

@@ -55,21 +55,18 @@ void PrintDialog::print()
         return;
     if (!ui_->photos->damagedPhotos().isEmpty())
         return askAboutDamage();
-    const std::optional<SessionJob> job = makeJob();
-    if (!job)
+    const std::optional<SessionJob> made = makeJob();
+    if (!made)
         return;
     ui_->message->clear();
-    if (!job->remarks.isEmpty())
-        ui_->message->show(MessageBar::Kind::Warning, job->remarks.join(u'\n'));
-    target_ = {};
-    if (session_->printer().isBuiltIn)
-        target_.folder.path = ui_->folder->text();
-    else
-        target_.queue = session_->printer().destination.id();
-    remarks_ = job->remarks;
+    if (!made->remarks.isEmpty())
+        ui_->message->show(MessageBar::Kind::Warning, made->remarks.join(u'\n'));
+    job_ = made->job;
+    job_.folder = {ui_->folder->text()};
+    remarks_ = made->remarks;
     remember(true);
     ui_->progress->show(tr("Printing…"));
-    worker_->print(ui_->photos->photos(), target_, job->job);
+    worker_->print(ui_->photos->photos(), job_);
     updateButtons();
 }
 
@@ -104,7 +101,7 @@ void PrintDialog::finishPrinting(const PrintOutcome &outcome)
     updateButtons();
     if (outcome.hasDamaged)
         return askAboutDamage();
-    const OutcomeText text(outcome, target_);
+    const OutcomeText text(outcome, job_);
     MessageBar::Message message;
     if (!outcome.failure.isEmpty() || !outcome.skipped.isEmpty())
         message.kind = MessageBar::Kind::Error;
@@ -114,8 +111,8 @@ void PrintDialog::finishPrinting(const PrintOutcome &outcome)
                        .join(u'\n')
                        .trimmed();
     message.details = text.details();
-    if (target_.queue.isEmpty() && outcome.done > 0)
-        message.folder = QFileInfo(target_.folder.path).absoluteFilePath();
+    if (job_.destination.isBuiltIn() && outcome.done > 0)
+        message.folder = QFileInfo(job_.folder.path).absoluteFilePath();
     ui_->message->show(message);
     if (outcome.hasOtherPpd) {
         whyNotReady_ = outcome.failure;
@@ -191,7 +188,7 @@ QString PrintDialog::whatGoesOn() const
     if (worker_->isFollowing())
         return tr("The print server goes on printing when this window is closed.");
     const auto count = static_cast<int>(ui_->photos->photos().size());
-    if (target_.queue.isEmpty())
+    if (job_.destination.isBuiltIn())
         return tr("Printed so far: %1 of %2 photos. The rest is not printed when this window is closed.")
             .arg(worker_->sent())
             .arg(count);

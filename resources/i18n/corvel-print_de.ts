@@ -439,18 +439,6 @@ Beispiele:
         <translation>%1 Exemplare können nicht gedruckt werden; wählen Sie eine Zahl von 1 bis %2.</translation>
     </message>
     <message>
-        <source>The file &quot;%1&quot; could not be read to its end (%2); nothing is printed.</source>
-        <translation>Die Datei „%1“ konnte nicht bis zum Ende gelesen werden (%2); es wird nichts gedruckt.</translation>
-    </message>
-    <message>
-        <source>The file &quot;%1&quot; cannot be read (%2); nothing is printed.</source>
-        <translation>Die Datei „%1“ kann nicht gelesen werden (%2); es wird nichts gedruckt.</translation>
-    </message>
-    <message>
-        <source>it is empty</source>
-        <translation>sie ist leer</translation>
-    </message>
-    <message>
         <source>it took the job without giving it a number</source>
         <translation>er hat den Auftrag angenommen, ihm aber keine Nummer gegeben</translation>
     </message>
@@ -1593,6 +1581,38 @@ Beispiele:
         <source>Sent %1 to %2 as job %3</source>
         <translation>%1 als Auftrag %3 an %2 gesendet</translation>
     </message>
+    <message>
+        <source>What has become of %1 (job %2) is not known: %3</source>
+        <translation>Was aus %1 (Auftrag %2) geworden ist, ist nicht bekannt: %3</translation>
+    </message>
+    <message>
+        <source>%1 (job %2) is not printed yet: %3. The print server keeps it; &quot;cancel %2&quot; takes it back.</source>
+        <translation>%1 (Auftrag %2) ist noch nicht gedruckt: %3. Der Druckserver behält ihn; „cancel %2“ nimmt ihn zurück.</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; could not print %2 (job %3): %4. Look at the printer and print again.</source>
+        <translation>Der Drucker „%1“ konnte %2 (Auftrag %3) nicht drucken: %4. Sehen Sie nach dem Drucker und drucken Sie noch einmal.</translation>
+    </message>
+    <message>
+        <source>it gave no reason</source>
+        <translation>ohne Angabe von Gründen</translation>
+    </message>
+    <message>
+        <source>The job %3 for %2 on the printer &quot;%1&quot; was cancelled (%4).</source>
+        <translation>Der Auftrag %3 für %2 auf dem Drucker „%1“ wurde abgebrochen (%4).</translation>
+    </message>
+    <message>
+        <source>nobody said why</source>
+        <translation>ohne Angabe von Gründen</translation>
+    </message>
+    <message>
+        <source>Printed %1 on %2 (job %3)</source>
+        <translation>%1 auf %2 gedruckt (Auftrag %3)</translation>
+    </message>
+    <message>
+        <source>The job %1 for %2 could not be cancelled: %3</source>
+        <translation>Der Auftrag %1 für %2 konnte nicht abgebrochen werden: %3</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::PhotoStrip</name>
@@ -1994,41 +2014,6 @@ Beispiele:
     <message>
         <source>The print server is being asked for this printer.</source>
         <translation>Der Druckserver wird nach diesem Drucker gefragt.</translation>
-    </message>
-</context>
-<context>
-    <name>printdialog::SentJobs</name>
-    <message>
-        <source>What has become of %1 (job %2) is not known: %3</source>
-        <translation>Was aus %1 (Auftrag %2) geworden ist, ist nicht bekannt: %3</translation>
-    </message>
-    <message>
-        <source>The printer &quot;%1&quot; could not print %2 (job %3): %4. Look at the printer and print again.</source>
-        <translation>Der Drucker „%1“ konnte %2 (Auftrag %3) nicht drucken: %4. Sehen Sie nach dem Drucker und drucken Sie noch einmal.</translation>
-    </message>
-    <message>
-        <source>it gave no reason</source>
-        <translation>ohne Angabe von Gründen</translation>
-    </message>
-    <message>
-        <source>The job %3 for %2 on the printer &quot;%1&quot; was cancelled (%4).</source>
-        <translation>Der Auftrag %3 für %2 auf dem Drucker „%1“ wurde abgebrochen (%4).</translation>
-    </message>
-    <message>
-        <source>nobody said why</source>
-        <translation>ohne Angabe von Gründen</translation>
-    </message>
-    <message>
-        <source>Printed %1 on %2 (job %3)</source>
-        <translation>%1 auf %2 gedruckt (Auftrag %3)</translation>
-    </message>
-    <message>
-        <source>The job %1 for %2 could not be cancelled: %3</source>
-        <translation>Der Auftrag %1 für %2 konnte nicht abgebrochen werden: %3</translation>
-    </message>
-    <message>
-        <source>%1 (job %2) is not printed yet: %3. The print server keeps it; &quot;cancel %2&quot; takes it back.</source>
-        <translation>%1 (Auftrag %2) ist noch nicht gedruckt: %3. Der Druckserver behält ihn; „cancel %2“ nimmt ihn zurück.</translation>
     </message>
 </context>
 <context>

@@ -438,18 +438,6 @@ Ejemplos:
         <translation>No se pueden imprimir %1 copias; elija un número de 1 a %2.</translation>
     </message>
     <message>
-        <source>The file &quot;%1&quot; could not be read to its end (%2); nothing is printed.</source>
-        <translation>No se ha podido leer el archivo «%1» hasta el final (%2); no se imprime nada.</translation>
-    </message>
-    <message>
-        <source>The file &quot;%1&quot; cannot be read (%2); nothing is printed.</source>
-        <translation>No se puede leer el archivo «%1» (%2); no se imprime nada.</translation>
-    </message>
-    <message>
-        <source>it is empty</source>
-        <translation>está vacío</translation>
-    </message>
-    <message>
         <source>it took the job without giving it a number</source>
         <translation>ha aceptado el trabajo sin darle un número</translation>
     </message>
@@ -1592,6 +1580,38 @@ Ejemplos:
         <source>Sent %1 to %2 as job %3</source>
         <translation>%1 enviada a %2 como trabajo %3</translation>
     </message>
+    <message>
+        <source>What has become of %1 (job %2) is not known: %3</source>
+        <translation>No se sabe qué ha sido de %1 (trabajo %2): %3</translation>
+    </message>
+    <message>
+        <source>%1 (job %2) is not printed yet: %3. The print server keeps it; &quot;cancel %2&quot; takes it back.</source>
+        <translation>%1 (trabajo %2) no está impreso todavía: %3. El servidor de impresión lo conserva; «cancel %2» lo retira.</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; could not print %2 (job %3): %4. Look at the printer and print again.</source>
+        <translation>La impresora «%1» no ha podido imprimir %2 (trabajo %3): %4. Revise la impresora e imprima de nuevo.</translation>
+    </message>
+    <message>
+        <source>it gave no reason</source>
+        <translation>sin indicar el motivo</translation>
+    </message>
+    <message>
+        <source>The job %3 for %2 on the printer &quot;%1&quot; was cancelled (%4).</source>
+        <translation>El trabajo %3 para %2 en la impresora «%1» se ha cancelado (%4).</translation>
+    </message>
+    <message>
+        <source>nobody said why</source>
+        <translation>sin indicar el motivo</translation>
+    </message>
+    <message>
+        <source>Printed %1 on %2 (job %3)</source>
+        <translation>Se ha impreso %1 en %2 (trabajo %3)</translation>
+    </message>
+    <message>
+        <source>The job %1 for %2 could not be cancelled: %3</source>
+        <translation>El trabajo %1 para %2 no se ha podido cancelar: %3</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::PhotoStrip</name>
@@ -1993,41 +2013,6 @@ Ejemplos:
     <message>
         <source>The print server is being asked for this printer.</source>
         <translation>Se está preguntando al servidor de impresión por esta impresora.</translation>
-    </message>
-</context>
-<context>
-    <name>printdialog::SentJobs</name>
-    <message>
-        <source>What has become of %1 (job %2) is not known: %3</source>
-        <translation>No se sabe qué ha sido de %1 (trabajo %2): %3</translation>
-    </message>
-    <message>
-        <source>The printer &quot;%1&quot; could not print %2 (job %3): %4. Look at the printer and print again.</source>
-        <translation>La impresora «%1» no ha podido imprimir %2 (trabajo %3): %4. Revise la impresora e imprima de nuevo.</translation>
-    </message>
-    <message>
-        <source>it gave no reason</source>
-        <translation>sin indicar el motivo</translation>
-    </message>
-    <message>
-        <source>The job %3 for %2 on the printer &quot;%1&quot; was cancelled (%4).</source>
-        <translation>El trabajo %3 para %2 en la impresora «%1» se ha cancelado (%4).</translation>
-    </message>
-    <message>
-        <source>nobody said why</source>
-        <translation>sin indicar el motivo</translation>
-    </message>
-    <message>
-        <source>Printed %1 on %2 (job %3)</source>
-        <translation>Se ha impreso %1 en %2 (trabajo %3)</translation>
-    </message>
-    <message>
-        <source>The job %1 for %2 could not be cancelled: %3</source>
-        <translation>El trabajo %1 para %2 no se ha podido cancelar: %3</translation>
-    </message>
-    <message>
-        <source>%1 (job %2) is not printed yet: %3. The print server keeps it; &quot;cancel %2&quot; takes it back.</source>
-        <translation>%1 (trabajo %2) no está impreso todavía: %3. El servidor de impresión lo conserva; «cancel %2» lo retira.</translation>
     </message>
 </context>
 <context>

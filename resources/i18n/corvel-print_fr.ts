@@ -439,18 +439,6 @@ Exemples&#x202f;:
         <translation>Impossible d’imprimer en %1 copies&#x202f;; choisissez un nombre de 1 à %2.</translation>
     </message>
     <message>
-        <source>The file &quot;%1&quot; could not be read to its end (%2); nothing is printed.</source>
-        <translation>Le fichier «&#x202f;%1&#x202f;» n’a pas pu être lu jusqu’au bout (%2)&#x202f;; rien n’est imprimé.</translation>
-    </message>
-    <message>
-        <source>The file &quot;%1&quot; cannot be read (%2); nothing is printed.</source>
-        <translation>Le fichier «&#x202f;%1&#x202f;» ne peut pas être lu (%2)&#x202f;; rien n’est imprimé.</translation>
-    </message>
-    <message>
-        <source>it is empty</source>
-        <translation>il est vide</translation>
-    </message>
-    <message>
         <source>it took the job without giving it a number</source>
         <translation>il a accepté la tâche sans lui donner de numéro</translation>
     </message>
@@ -1346,7 +1334,7 @@ Exemples&#x202f;:
     <name>printdialog::FileName</name>
     <message>
         <source>&quot;%1&quot; cannot be used: its name is not encoded in UTF-8. Rename it.</source>
-        <translation>« %1 » ne peut pas être utilisé : son nom n’est pas codé en UTF-8. Renommez-le.</translation>
+        <translation>«&#x202f;%1&#x202f;» ne peut pas être utilisé&#x202f;: son nom n’est pas codé en UTF-8. Renommez-le.</translation>
     </message>
 </context>
 <context>
@@ -1592,6 +1580,38 @@ Exemples&#x202f;:
     <message>
         <source>Sent %1 to %2 as job %3</source>
         <translation>%1 envoyée à %2 (travail %3)</translation>
+    </message>
+    <message>
+        <source>What has become of %1 (job %2) is not known: %3</source>
+        <translation>On ne sait pas ce qu’est devenue %1 (tâche %2) : %3</translation>
+    </message>
+    <message>
+        <source>%1 (job %2) is not printed yet: %3. The print server keeps it; &quot;cancel %2&quot; takes it back.</source>
+        <translation>%1 (tâche %2) n’est pas encore imprimée : %3. Le serveur d’impression la garde ; « cancel %2 » la retire.</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; could not print %2 (job %3): %4. Look at the printer and print again.</source>
+        <translation>L’imprimante « %1 » n’a pas pu imprimer %2 (tâche %3) : %4. Vérifiez l’imprimante et relancez l’impression.</translation>
+    </message>
+    <message>
+        <source>it gave no reason</source>
+        <translation>sans en donner la raison</translation>
+    </message>
+    <message>
+        <source>The job %3 for %2 on the printer &quot;%1&quot; was cancelled (%4).</source>
+        <translation>La tâche %3 pour %2 sur l’imprimante « %1 » a été annulée (%4).</translation>
+    </message>
+    <message>
+        <source>nobody said why</source>
+        <translation>sans raison indiquée</translation>
+    </message>
+    <message>
+        <source>Printed %1 on %2 (job %3)</source>
+        <translation>%1 imprimée sur %2 (tâche %3)</translation>
+    </message>
+    <message>
+        <source>The job %1 for %2 could not be cancelled: %3</source>
+        <translation>La tâche %1 pour %2 n’a pas pu être annulée : %3</translation>
     </message>
 </context>
 <context>
@@ -1994,41 +2014,6 @@ Exemples&#x202f;:
     <message>
         <source>The print server is being asked for this printer.</source>
         <translation>Le serveur d’impression est interrogé sur cette imprimante.</translation>
-    </message>
-</context>
-<context>
-    <name>printdialog::SentJobs</name>
-    <message>
-        <source>What has become of %1 (job %2) is not known: %3</source>
-        <translation>On ne sait pas ce qu’est devenue %1 (tâche %2)&#xa0;: %3</translation>
-    </message>
-    <message>
-        <source>The printer &quot;%1&quot; could not print %2 (job %3): %4. Look at the printer and print again.</source>
-        <translation>L’imprimante «&#xa0;%1&#xa0;» n’a pas pu imprimer %2 (tâche %3)&#xa0;: %4. Vérifiez l’imprimante et relancez l’impression.</translation>
-    </message>
-    <message>
-        <source>it gave no reason</source>
-        <translation>sans en donner la raison</translation>
-    </message>
-    <message>
-        <source>The job %3 for %2 on the printer &quot;%1&quot; was cancelled (%4).</source>
-        <translation>La tâche %3 pour %2 sur l’imprimante «&#xa0;%1&#xa0;» a été annulée (%4).</translation>
-    </message>
-    <message>
-        <source>nobody said why</source>
-        <translation>sans raison indiquée</translation>
-    </message>
-    <message>
-        <source>Printed %1 on %2 (job %3)</source>
-        <translation>%1 imprimée sur %2 (tâche %3)</translation>
-    </message>
-    <message>
-        <source>The job %1 for %2 could not be cancelled: %3</source>
-        <translation>La tâche %1 pour %2 n’a pas pu être annulée&#xa0;: %3</translation>
-    </message>
-    <message>
-        <source>%1 (job %2) is not printed yet: %3. The print server keeps it; &quot;cancel %2&quot; takes it back.</source>
-        <translation>%1 (tâche %2) n’est pas encore imprimée&#xa0;: %3. Le serveur d’impression la garde&#xa0;; «&#xa0;cancel %2&#xa0;» la retire.</translation>
     </message>
 </context>
 <context>

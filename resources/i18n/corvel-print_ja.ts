@@ -437,18 +437,6 @@ Examples:
         <translation>%1 部は印刷できません。1 から %2 までの数を選んでください。</translation>
     </message>
     <message>
-        <source>The file &quot;%1&quot; could not be read to its end (%2); nothing is printed.</source>
-        <translation>ファイル「%1」を最後まで読めませんでした (%2)。何も印刷しません。</translation>
-    </message>
-    <message>
-        <source>The file &quot;%1&quot; cannot be read (%2); nothing is printed.</source>
-        <translation>ファイル「%1」を読めません (%2)。何も印刷しません。</translation>
-    </message>
-    <message>
-        <source>it is empty</source>
-        <translation>空です</translation>
-    </message>
-    <message>
         <source>it took the job without giving it a number</source>
         <translation>ジョブは受け付けられましたが、番号が付けられていません</translation>
     </message>
@@ -1591,6 +1579,38 @@ Examples:
         <source>Sent %1 to %2 as job %3</source>
         <translation>%1 を %2 に送りました (ジョブ %3)</translation>
     </message>
+    <message>
+        <source>What has become of %1 (job %2) is not known: %3</source>
+        <translation>%1（ジョブ %2）の結果は分かりません: %3</translation>
+    </message>
+    <message>
+        <source>%1 (job %2) is not printed yet: %3. The print server keeps it; &quot;cancel %2&quot; takes it back.</source>
+        <translation>%1（ジョブ %2）はまだ印刷されていません: %3。ジョブはプリントサーバーに残ります。「cancel %2」で取り消せます。</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; could not print %2 (job %3): %4. Look at the printer and print again.</source>
+        <translation>プリンター「%1」は %2（ジョブ %3）を印刷できませんでした: %4。プリンターを確認して、もう一度印刷してください。</translation>
+    </message>
+    <message>
+        <source>it gave no reason</source>
+        <translation>理由は示されていません</translation>
+    </message>
+    <message>
+        <source>The job %3 for %2 on the printer &quot;%1&quot; was cancelled (%4).</source>
+        <translation>プリンター「%1」の %2 のジョブ %3 は取り消されました（%4）。</translation>
+    </message>
+    <message>
+        <source>nobody said why</source>
+        <translation>理由は不明</translation>
+    </message>
+    <message>
+        <source>Printed %1 on %2 (job %3)</source>
+        <translation>%1 を %2 で印刷しました（ジョブ %3）</translation>
+    </message>
+    <message>
+        <source>The job %1 for %2 could not be cancelled: %3</source>
+        <translation>%2 のジョブ %1 を取り消せませんでした: %3</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::PhotoStrip</name>
@@ -1990,41 +2010,6 @@ Examples:
     <message>
         <source>The print server is being asked for this printer.</source>
         <translation>このプリンターをプリントサーバーに問い合わせています。</translation>
-    </message>
-</context>
-<context>
-    <name>printdialog::SentJobs</name>
-    <message>
-        <source>What has become of %1 (job %2) is not known: %3</source>
-        <translation>%1（ジョブ %2）の結果は分かりません: %3</translation>
-    </message>
-    <message>
-        <source>The printer &quot;%1&quot; could not print %2 (job %3): %4. Look at the printer and print again.</source>
-        <translation>プリンター「%1」は %2（ジョブ %3）を印刷できませんでした: %4。プリンターを確認して、もう一度印刷してください。</translation>
-    </message>
-    <message>
-        <source>it gave no reason</source>
-        <translation>理由は示されていません</translation>
-    </message>
-    <message>
-        <source>The job %3 for %2 on the printer &quot;%1&quot; was cancelled (%4).</source>
-        <translation>プリンター「%1」の %2 のジョブ %3 は取り消されました（%4）。</translation>
-    </message>
-    <message>
-        <source>nobody said why</source>
-        <translation>理由は不明</translation>
-    </message>
-    <message>
-        <source>Printed %1 on %2 (job %3)</source>
-        <translation>%1 を %2 で印刷しました（ジョブ %3）</translation>
-    </message>
-    <message>
-        <source>The job %1 for %2 could not be cancelled: %3</source>
-        <translation>%2 のジョブ %1 を取り消せませんでした: %3</translation>
-    </message>
-    <message>
-        <source>%1 (job %2) is not printed yet: %3. The print server keeps it; &quot;cancel %2&quot; takes it back.</source>
-        <translation>%1（ジョブ %2）はまだ印刷されていません: %3。ジョブはプリントサーバーに残ります。「cancel %2」で取り消せます。</translation>
     </message>
 </context>
 <context>

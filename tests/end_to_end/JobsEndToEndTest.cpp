@@ -24,9 +24,23 @@ using testing_support::smallPpd;
 
 namespace {
 
-JobRequest jobFor(const QString &queue, const QByteArray &bytes = "bytes")
+PrintJob jobFor(const QString &queue)
 {
-    return {queue, u"title"_s, {{}, bytes, "image/jpeg", u"photo.jpg"_s}, {}};
+    PrintJob job;
+    job.destination = queue;
+    return job;
+}
+
+JobDocument document(const QByteArray &bytes = "bytes")
+{
+    return {bytes, "image/jpeg", u"photo.jpg"_s};
+}
+
+Result<int, QueueFault> submit(const QString &queue, const QByteArray &bytes = "bytes",
+                               const JobSubmission::Progress &sent = {}, int *cancel = nullptr,
+                               std::chrono::milliseconds patience = 30s)
+{
+    return JobSubmission(sent, cancel, patience).send(jobFor(queue), document(bytes));
 }
 
 /// Larger than every buffer on the way to the server.
@@ -91,7 +105,7 @@ void JobsEndToEndTest::jobIsFollowedToItsEnd()
     QFETCH(QString, words);
     // It is seen while it is being printed.
     QVERIFY(cupsd_.setBackendScript("sleep 0.2\n" + backend));
-    const auto id = submitJob(jobFor(queue));
+    const auto id = submit(queue);
     QVERIFY2(id, id ? "" : qPrintable(id.failure().text));
     QList<JobStatus::State> states;
     const auto status =
@@ -106,7 +120,7 @@ void JobsEndToEndTest::jobIsFollowedToItsEnd()
 void JobsEndToEndTest::waitingJobIsLeftInTime()
 {
     QVERIFY(cupsd_.run(u"cupsdisable"_s, {u"-r"_s, u"new ribbon on its way"_s, u"photo"_s}));
-    const auto id = submitJob(jobFor(u"photo"_s));
+    const auto id = submit(u"photo"_s);
     QElapsedTimer timer;
     timer.start();
     const auto status = followJob(u"photo"_s, *id, {.waiting = 200ms});
@@ -121,21 +135,19 @@ void JobsEndToEndTest::waitingJobIsLeftInTime()
 void JobsEndToEndTest::cancelledJobs()
 {
     QVERIFY(cupsd_.setBackendScript("exit 0"));
-    const auto before = submitJob(jobFor(u"odd"_s));
+    const auto before = submit(u"odd"_s);
     QVERIFY(before && followJob(u"odd"_s, *before, {}));
     QVERIFY(cupsd_.setBackendScript("trap 'exit 0' TERM; sleep 20 & wait"));
     int cancel = 0;
-    JobControl control;
-    control.cancel = &cancel;
-    control.sent = [&cancel](qint64 sent, qint64 total) {
-        if (sent > total / 2)
+    const auto sent = [&cancel](qint64 done, qint64 total) {
+        if (done > total / 2)
             std::atomic_ref(cancel).store(1);
     };
-    const auto id = submitJob(jobFor(u"odd"_s, muchData()), control);
+    const auto id = submit(u"odd"_s, muchData(), sent, &cancel);
     QVERIFY(!id);
     QCOMPARE(id.failure().reason, QueueFault::Cancelled);
 
-    const auto printing = submitJob(jobFor(u"odd"_s));
+    const auto printing = submit(u"odd"_s);
     QVERIFY(printing);
     QCOMPARE(*printing, *before + 1); // the server has never made a job of it
     cancel = 0;
@@ -169,7 +181,7 @@ void JobsEndToEndTest::suppliesAndReasons()
         "echo 'ATTR: marker-names=Ribbon,Paper,Waste marker-types=ribbon,unknown,waste-ink "
         "marker-levels=8,-1,95 marker-low-levels=10,10,0 marker-high-levels=100,100,90' >&2\n"
         "echo 'STATE: +media-empty-error,marker-supply-low-warning,corvel-odd-report' >&2\nexit 0"));
-    const auto id = submitJob(jobFor(u"odd"_s));
+    const auto id = submit(u"odd"_s);
     QVERIFY(id && followJob(u"odd"_s, *id, {}));
     const Queue queue = odd();
     QCOMPARE(queue.supplies.size(), 3);
@@ -183,31 +195,32 @@ void JobsEndToEndTest::suppliesAndReasons()
         QVERIFY2(text.contains(words), qPrintable(text));
     // None of it keeps a job away.
     QVERIFY(cupsd_.setBackendScript("echo 'STATE: -media-empty-error' >&2\nexit 0"));
-    const auto next = submitJob(jobFor(u"odd"_s));
+    const auto next = submit(u"odd"_s);
     QVERIFY(next && followJob(u"odd"_s, *next, {}));
     QVERIFY(!stateText(odd()).contains(u"out of paper"_s));
 }
 
 void JobsEndToEndTest::changedPpdIsNoticed()
 {
-    JobRequest job = jobFor(u"photo"_s);
+    JobSubmission submission;
+    PrintJob job = jobFor(u"photo"_s);
     job.ppd = smallPpd();
-    QVERIFY(submitJob(job));
+    QVERIFY(submission.send(job, document()));
     QVERIFY(cupsd_.addQueue(u"photo"_s, smallPpd("*% another one\n")));
-    const auto id = submitJob(job);
+    const auto id = submission.send(job, document());
     QVERIFY(!id);
     QCOMPARE(id.failure().reason, QueueFault::Changed);
     QVERIFY(cupsd_.addQueue(u"bare"_s));
-    JobRequest raw = jobFor(u"bare"_s);
+    PrintJob raw = jobFor(u"bare"_s);
     raw.ppd = QByteArray();
-    QVERIFY(submitJob(raw));
+    QVERIFY(submission.send(raw, document()));
     QTRY_COMPARE(cupsd_.activeJobs(), QByteArray());
 }
 
 void JobsEndToEndTest::serverStartsAgain()
 {
     QVERIFY(cupsd_.setBackendScript("sleep 0.2\nexit 0"));
-    const auto id = submitJob(jobFor(u"odd"_s));
+    const auto id = submit(u"odd"_s);
     QVERIFY(id);
     QStringList texts;
     bool isBack = false;
@@ -227,16 +240,15 @@ void JobsEndToEndTest::serverStartsAgain()
 
 void JobsEndToEndTest::serverGoesWhileSending()
 {
-    const auto before = submitJob(jobFor(u"photo"_s));
-    JobControl control;
+    const auto before = submit(u"photo"_s);
     for (const bool isFrozen : {true, false}) {
-        control.sent = [this, isFrozen](qint64 sent, qint64 total) {
-            if (sent > total / 2)
+        const auto sent = [this, isFrozen](qint64 done, qint64 total) {
+            if (done > total / 2)
                 isFrozen ? cupsd_.freeze() : cupsd_.stop();
         };
         QElapsedTimer timer;
         timer.start();
-        const auto id = submitJob(jobFor(u"photo"_s, muchData()), control, isFrozen ? 400ms : 10s);
+        const auto id = submit(u"photo"_s, muchData(), sent, nullptr, isFrozen ? 400ms : 10s);
         const qint64 elapsed = timer.elapsed();
         const bool isKnown = bool(followJob(u"photo"_s, 1, {.silent = 200ms, .away = 0ms}));
         cupsd_.thaw();
@@ -245,7 +257,7 @@ void JobsEndToEndTest::serverGoesWhileSending()
         if (!isFrozen)
             break;
         QCOMPARE(id.failure().reason, QueueFault::TimedOut);
-        const auto after = submitJob(jobFor(u"photo"_s));
+        const auto after = submit(u"photo"_s);
         QVERIFY(before && after);
         QCOMPARE(*after, *before + 1); // the server has never made a job of the other one
     }

@@ -24,7 +24,7 @@ namespace {
 PrintJob usualJob()
 {
     PrintJob job;
-    job.printer = u"Booth \"A\""_s;
+    job.destination = u"Booth \"A\""_s;
     job.page = {QSizeF(288, 432), QRectF(0, 0, 288, 432)};
     job.options = {{u"PageSize"_s, u"w288h432"_s}, {u"Note"_s, u"a\\b \n\u00e9"_s}};
     job.summary = {{u"Finish"_s, u"Matte"_s}};
@@ -92,7 +92,7 @@ void BuiltInPrinterTest::leavesThePair()
         QDir(folder_->path()).mkdir(source);
         samples::store(pathOf(source + u"/photo.jpg"_s), jpeg);
         const auto photo = Photo::open(pathOf(source + u"/photo.jpg"_s));
-        const auto files = BuiltInPrinter::print(*photo, usualJob(), names);
+        const auto files = BuiltInPrinter::print({*photo}, usualJob(), names);
         QVERIFY2(files, files ? "" : qPrintable(files.failure().text));
         const QString name = source == u"a" ? u"photo"_s : u"photo-2"_s;
         QCOMPARE(files->pdf, output + u'/' + name + u".pdf"_s);
@@ -151,7 +151,7 @@ void BuiltInPrinterTest::keepsWhatIsThere()
     const auto before = contentOf(folder_->path());
 
     PrintedNames names(folder);
-    const auto files = BuiltInPrinter::print(*Photo::open(pathOf(u"photo.jpg"_s)), usualJob(), names);
+    const auto files = BuiltInPrinter::print({*Photo::open(pathOf(u"photo.jpg"_s))}, usualJob(), names);
     QVERIFY2(files, files ? "" : qPrintable(files.failure().text));
     QCOMPARE(files->pdf, pathOf(name + u".pdf"_s));
     QCOMPARE(files->ticket, pathOf(name + u".ticket.json"_s));
@@ -241,7 +241,7 @@ void BuiltInPrinterTest::failuresLeaveNothing()
             QFile::setPermissions(pathOf(u"locked"_s), QFile::Permissions(0x5555));
             rights.emplace();
         }
-        return BuiltInPrinter::print(*photo, job, names);
+        return BuiltInPrinter::print({*photo}, job, names);
     }();
     QVERIFY(!files);
     QCOMPARE(files.failure().reason, fault);

@@ -46,9 +46,13 @@ bool resetPeak()
     return refs.open(QIODevice::WriteOnly) && refs.write("5") == 1;
 }
 
-JobRequest smallJob()
+Result<int, QueueFault> submit(const QMap<QString, QString> &options = {}, int *cancel = nullptr,
+                               std::chrono::milliseconds patience = 30s)
 {
-    return {u"photo"_s, u"t"_s, {{}, "x", "image/jpeg", u"x"_s}, {}};
+    PrintJob job;
+    job.destination = u"photo"_s;
+    job.options = options;
+    return JobSubmission({}, cancel, patience).send(job, {"x", "image/jpeg", u"x"_s});
 }
 
 } // namespace
@@ -130,9 +134,7 @@ void QueuesTest::unfitOptionIsRefusedBeforeAnythingIsSent()
                                          {QString(), u"1"_s},
                                          {u"copies"_s, u"2"_s}}) {
         // With a server that is not there: any other outcome would be NoServer.
-        JobRequest request = smallJob();
-        request.options = {{keyword, value}};
-        const auto job = submitJob(request);
+        const auto job = submit({{keyword, value}});
         QVERIFY2(!job, qPrintable(keyword + value));
         QCOMPARE(job.failure().reason, QueueFault::Refused);
         const QString text = job.failure().text;
@@ -178,7 +180,7 @@ void QueuesTest::badServerCostsOneSentenceInTime()
     QVERIFY(!listQueues(limit));
     QVERIFY(timer.elapsed() < limit.count() + 200);
     timer.start();
-    const auto job = submitJob(smallJob(), {}, limit);
+    const auto job = submit({}, nullptr, limit);
     QVERIFY(timer.elapsed() < limit.count() + 200);
     QVERIFY(!job);
     QCOMPARE(job.failure().reason, fault);
@@ -196,7 +198,7 @@ void QueuesTest::badServerCostsOneSentenceInTime()
         std::atomic_ref(cancel).store(1);
     });
     timer.start();
-    const auto cancelled = submitJob(smallJob(), {{}, &cancel}, 10s);
+    const auto cancelled = submit({}, &cancel, 10s);
     canceller.join();
     QVERIFY(timer.elapsed() < 400);
     QVERIFY(!cancelled);
@@ -226,7 +228,7 @@ void QueuesTest::hostileAnswersCostLittle()
         }
         {
             const StubServer server(manner, Requests::Jobs);
-            QVERIFY(isRefused(submitJob(smallJob())));
+            QVERIFY(isRefused(submit()));
         }
         if (manner == Manner::EndlessHeaders || manner == Manner::EndlessContinues) {
             const StubServer server(manner, Requests::Files);
@@ -242,7 +244,7 @@ void QueuesTest::answersThatMakeNoSense()
 {
     {
         const StubServer server(StubServer::Manner::JobBelowZero, StubServer::Requests::Jobs);
-        const auto job = submitJob(smallJob());
+        const auto job = submit();
         QVERIFY(!job);
         QVERIFY2(job.failure().text.contains(u"number"_s), qPrintable(job.failure().text));
     }
