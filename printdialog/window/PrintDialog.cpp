@@ -96,7 +96,7 @@ PrintDialog::PrintDialog(const PrintDialogSetup &setup, QWidget *parent)
             ui_->progress->show(text, done, total);
     });
     connect(ui_->printer, &PrinterChooser::currentUpdated, this, &PrintDialog::takeUpdate);
-    connect(new TouchWatch(this), &TouchWatch::touched, ui_->printer, &PrinterChooser::keepCurrent);
+    connect(new TouchWatch(this), &TouchWatch::touched, this, [this] { ui_->printer->selection().kept(); });
     ui_->panels->setSummary([this] { return summary(); });
     connect(choices_, &ChoiceController::stepsChanged, ui_->panels, &PanelTabs::updateSummary);
     connect(ui_->photos, &PhotoPane::placementChanged, ui_->panels, &PanelTabs::updateSummary);

@@ -103,7 +103,8 @@ private:
     void takeUpdate(const Queue &queue);
     void takeSearchFailure(const QString &text);
     void showUnusable(const QString &reason);
-    void remember(bool wasChosen);
+    void remember();
+    bool wasChosenHere() const;
     void awaitOptions(const QString &id);
     void showFolder(bool isBuiltIn);
     void takePpd(quint64 number, const QByteArray &ppd);
@@ -141,17 +142,15 @@ private:
     ChoiceController *choices_;
     PpdFetcher *fetcher_;
     PrintWorker *worker_;
-    QString builtInPreset_;     ///< the built-in printer is asked for with it; mostly empty
-    Queue queue_;               ///< the printer that is shown
-    bool isRemembered_ = false; ///< it comes from an earlier time, and the print server has not confirmed it
-    bool wasChosen_ = false;    ///< by the user, this time or an earlier one
-    QString whyNotReady_;       ///< why Print is off; empty when it is on
-    QStringList remarks_;       ///< what was left out of the job that is printed
-    PrintJob job_;              ///< of what is being printed, or was
-    bool hasPrinted_ = false;   ///< there was a run, whatever became of it
-    bool isStopping_ = false;   ///< the user wants what is printed stopped
-    bool isLeaving_ = false;    ///< what is asked is whether to close the window
-    QString notKept_;           ///< why the choices are not kept for the next time; mostly empty
+    QString builtInPreset_;   ///< the built-in printer is asked for with it; mostly empty
+    Queue queue_;             ///< the printer that is shown
+    QString whyNotReady_;     ///< why Print is off; empty when it is on
+    QStringList remarks_;     ///< what was left out of the job that is printed
+    PrintJob job_;            ///< of what is being printed, or was
+    bool hasPrinted_ = false; ///< there was a run, whatever became of it
+    bool isStopping_ = false; ///< the user wants what is printed stopped
+    bool isLeaving_ = false;  ///< what is asked is whether to close the window
+    QString notKept_;         ///< why the choices are not kept for the next time; mostly empty
 };
 
 } // namespace printdialog

@@ -62,7 +62,7 @@ void PrintDialog::openFirstPrinter(const std::optional<RememberedQueue> &remembe
         awaitOptions(setup_.printer->id());
     } else {
         if (remembered && remembered->wasChosen)
-            ui_->printer->keepCurrent();
+            ui_->printer->recall(builtIn, PrinterSelection::State::Used);
         openPrinter(builtIn);
     }
 }
@@ -70,15 +70,15 @@ void PrintDialog::openFirstPrinter(const std::optional<RememberedQueue> &remembe
 void PrintDialog::openRemembered(const RememberedQueue &remembered)
 {
     queue_ = remembered.queue;
-    wasChosen_ = remembered.wasChosen;
-    ui_->printer->recall(queue_, wasChosen_ || setup_.printer);
+    using State = PrinterSelection::State;
+    const State unchosen = setup_.printer ? State::Kept : State::Open;
+    ui_->printer->recall(queue_, remembered.wasChosen ? State::Used : unchosen);
     SessionResult session = remembered.ppd.isEmpty() ? openRawQueue(queue_, setup_.mode)
                                                      : openQueue(queue_, remembered.ppd, setup_.mode);
     awaitOptions(queue_.id());
     ui_->status->showUnconfirmed();
     if (session)
         takeSession(*std::move(session));
-    isRemembered_ = true;
     whyNotReady_ =
         tr("The print server has not confirmed yet that the printer \"%1\" is there.").arg(queue_.id());
     updateButtons();
@@ -87,8 +87,6 @@ void PrintDialog::openRemembered(const RememberedQueue &remembered)
 void PrintDialog::openPrinter(const Queue &queue)
 {
     queue_ = queue;
-    isRemembered_ = false;
-    wasChosen_ = ui_->printer->wasChosenByUser();
     clearMessage();
     ui_->status->show(queue);
     if (!queue.isBuiltIn) {
@@ -103,29 +101,34 @@ void PrintDialog::openPrinter(const Queue &queue)
         takeSession(*std::move(session));
     else
         closeSession(session.failure().text);
-    if (wasChosen_)
-        remember(true);
+    if (ui_->printer->selection().isUsersChoice())
+        remember();
 }
 
 void PrintDialog::takeUpdate(const Queue &queue)
 {
     queue_ = queue;
     ui_->status->show(queue);
-    if (isRemembered_)
+    if (ui_->printer->selection().hasOldOptions())
         fetcher_->fetch(queue.destination());
+}
+
+bool PrintDialog::wasChosenHere() const
+{
+    return ui_->printer->selection().state() == PrinterSelection::State::Chosen;
 }
 
 /// Photos that could not be opened are named until the user does something about the printer.
 void PrintDialog::clearMessage()
 {
     ui_->message->clear();
-    if (!setup_.photoFailures.isEmpty() && !ui_->printer->wasChosenByUser())
+    if (!setup_.photoFailures.isEmpty() && !wasChosenHere())
         ui_->message->show(MessageBar::Kind::Error, setup_.photoFailures.join(u'\n'));
 }
 
 void PrintDialog::takeSearchFailure(const QString &text)
 {
-    if (ui_->printer->isConfirmed()) {
+    if (ui_->printer->selection().isConfirmed()) {
         ui_->message->show(MessageBar::Kind::Warning, text);
         return;
     }
@@ -146,13 +149,13 @@ void PrintDialog::showUnusable(const QString &reason)
     updateButtons();
 }
 
-void PrintDialog::remember(bool wasChosen)
+void PrintDialog::remember()
 {
-    wasChosen_ = wasChosen;
     if (!setup_.remembers || setup_.ppdFile || !session_)
         return;
     const bool hasPpd = !queue_.isBuiltIn && session_->printer().hasPpd;
-    QueueCache::save({queue_, hasPpd ? session_->ppd().data() : QByteArray(), wasChosen});
+    QueueCache::save(
+        {queue_, hasPpd ? session_->ppd().data() : QByteArray(), ui_->printer->selection().isUsersChoice()});
 }
 
 void PrintDialog::awaitOptions(const QString &id)
@@ -206,11 +209,11 @@ void PrintDialog::takePpdFailure(QueueFault reason, const QString &text)
 // What is shown from an earlier time is what the print server has.
 void PrintDialog::confirm()
 {
-    isRemembered_ = false;
+    ui_->printer->selection().confirmOptions();
     if (ui_->message->text() == whyNotReady_)
         ui_->message->clear(); // the print server is back
     whyNotReady_.clear();
-    remember(wasChosen_);
+    remember();
     updateButtons();
 }
 
@@ -223,7 +226,7 @@ void PrintDialog::reopen(std::unique_ptr<DialogSession> session)
     if (wasShown)
         kept = ownChoices(*session_);
     const int copies = ui_->copies->value();
-    isRemembered_ = false;
+    ui_->printer->selection().confirmOptions();
     takeSession(std::move(session));
     if (wasShown) {
         session_->restoreChoices(kept, DialogSession::Unnamed::Default);
@@ -236,7 +239,7 @@ void PrintDialog::reopen(std::unique_ptr<DialogSession> session)
                "still has them; look at them before you print.")
                 .arg(queue_.id()));
     }
-    remember(wasChosen_);
+    remember();
 }
 
 void PrintDialog::closeSession(const QString &reason)
@@ -264,7 +267,7 @@ void PrintDialog::takeSession(std::unique_ptr<DialogSession> session)
             showPageSize();
     });
     const auto noPanels = session_->loadPanels();
-    choices_->setSession(session_.get(), ui_->printer->wasChosenByUser() ? QString() : builtInPreset_);
+    choices_->setSession(session_.get(), wasChosenHere() ? QString() : builtInPreset_);
     if (applyOptions())
         session_->refreshPanels();
     fillPageSizes();
@@ -288,7 +291,7 @@ void PrintDialog::takeSession(std::unique_ptr<DialogSession> session)
 // The options asked for hold until the user chooses another printer, which has choices of its own.
 bool PrintDialog::applyOptions()
 {
-    if (ui_->printer->wasChosenByUser())
+    if (wasChosenHere())
         return false;
     if (setup_.copies)
         ui_->copies->setValue(*setup_.copies);

@@ -64,7 +64,8 @@ void PrintDialog::print()
     job_ = made->job;
     job_.folder = {ui_->folder->text()};
     remarks_ = made->remarks;
-    remember(true);
+    ui_->printer->selection().used();
+    remember();
     ui_->progress->show(tr("Printing…"));
     worker_->print(ui_->photos->photos(), job_);
     updateButtons();

@@ -30,9 +30,9 @@ PrinterChooser::PrinterChooser(QWidget *parent)
     setMinimumContentsLength(24);
     add(Queue::builtIn());
     connect(this, &QComboBox::activated, this, [this](int index) {
-        isSettled_ = true;
-        wasChosenByUser_ = true;
-        Q_EMIT printerChosen(itemData(index).value<Queue>());
+        const Queue queue = itemData(index).value<Queue>();
+        selection_.chosen(queue.destination());
+        Q_EMIT printerChosen(queue);
     });
     connect(finder_, &QueueFinder::queueFound, this, &PrinterChooser::take);
     connect(finder_, &QueueFinder::queueRemoved, this, &PrinterChooser::remove);
@@ -42,36 +42,28 @@ PrinterChooser::PrinterChooser(QWidget *parent)
 
 void PrinterChooser::await(const QString &id)
 {
+    selection_.awaits();
     setPlaceholderText(id);
     setCurrentIndex(-1);
 }
 
-void PrinterChooser::recall(const Queue &queue, bool wasChosen)
+void PrinterChooser::recall(const Queue &queue, PrinterSelection::State state)
 {
-    add(queue);
-    unconfirmed_ = queue.id();
-    if (wasChosen)
-        keepCurrent();
-    setCurrentIndex(count() - 1);
+    selection_.recall(queue.destination(), state);
+    if (!queue.isBuiltIn)
+        add(queue);
+    setCurrentIndex(indexOf(queue.id()));
 }
 
 void PrinterChooser::search(const std::optional<Destination> &wanted)
 {
-    wanted_ = wanted;
-    if (wanted && (wanted == Destination::builtIn() || wanted == current().destination()))
-        isSettled_ = true;
+    selection_.asksFor(wanted);
     finder_->start();
-}
-
-void PrinterChooser::keepCurrent()
-{
-    if (currentIndex() >= 0)
-        isSettled_ = true;
 }
 
 void PrinterChooser::chooseBuiltIn()
 {
-    wasChosenByUser_ = true;
+    selection_.chosen(Destination::builtIn());
     choose(0);
 }
 
@@ -80,17 +72,13 @@ Queue PrinterChooser::current() const
     return currentData().value<Queue>();
 }
 
-bool PrinterChooser::isConfirmed() const
-{
-    return currentIndex() >= 0 && current().id() != unconfirmed_;
-}
-
 void PrinterChooser::take(const Queue &queue)
 {
     const QString id = queue.id();
     const int known = indexOf(id);
     // A queue's instances are its presets, chosen as such.
-    if (known < 0 && !queue.instance.isEmpty() && !queue.isDefault && queue.destination() != wanted_)
+    if (known < 0 && !queue.instance.isEmpty() && !queue.isDefault &&
+        queue.destination() != selection_.wanted())
         return;
     if (known >= 0)
         update(known, queue);
@@ -98,11 +86,8 @@ void PrinterChooser::take(const Queue &queue)
         add(queue);
     const int index = indexOf(id);
     const bool isCurrent = index == currentIndex();
-    if (!isSettled_ && (wanted_ ? queue.destination() == *wanted_ : queue.isDefault)) {
-        isSettled_ = true;
-        if (!isCurrent)
-            choose(index);
-    }
+    if (selection_.found(queue.destination(), queue.isDefault))
+        choose(index);
     if (isCurrent)
         Q_EMIT currentUpdated(queue);
 }
@@ -115,15 +100,12 @@ void PrinterChooser::add(const Queue &queue)
 
 void PrinterChooser::update(int index, const Queue &queue)
 {
-    if (unconfirmed_ == queue.id())
-        unconfirmed_.reset();
     setItemText(index, label(queue));
     setItemData(index, QVariant::fromValue(queue));
 }
 
 void PrinterChooser::choose(int index)
 {
-    isSettled_ = true;
     setCurrentIndex(index);
     Q_EMIT printerChosen(current());
 }
@@ -146,8 +128,10 @@ void PrinterChooser::remove(const QString &id)
     if (index < 0)
         return;
     const bool wasCurrent = index == currentIndex();
-    if (wasCurrent)
+    if (wasCurrent) {
+        selection_.gone();
         choose(0);
+    }
     drop(index);
     if (wasCurrent)
         Q_EMIT currentRemoved(tr("The printer \"%1\" is no longer there. Choose another one.").arg(id));
@@ -167,29 +151,33 @@ QString PrinterChooser::missing(const Destination &destination) const
 // The finder goes on looking: once there is a server again it may have the queue.
 void PrinterChooser::endSearch()
 {
-    const bool isAway = unconfirmed_ && current().id() == *unconfirmed_;
-    if (unconfirmed_ && failure_.isEmpty())
-        forgetUnconfirmed();
-    if (wanted_ && !isConfirmed())
+    if (failure_.isEmpty())
+        forgetRecalled();
+    const std::optional<Destination> &wanted = selection_.wanted();
+    const bool mayHaveDefault =
+        selection_.state() == PrinterSelection::State::Open && !finder_->isWithoutPrintServer();
+    if (wanted && !selection_.isConfirmed())
         Q_EMIT searchFailed(failure_.isEmpty()
-                                ? missing(*wanted_)
-                                : tr("The printer \"%1\" is not there. %2").arg(wanted_->id(), failure_));
-    else if (!failure_.isEmpty() && (isAway || !(isSettled_ || finder_->isWithoutPrintServer())))
+                                ? missing(*wanted)
+                                : tr("The printer \"%1\" is not there. %2").arg(wanted->id(), failure_));
+    else if (!failure_.isEmpty() && (!selection_.isConfirmed() || mayHaveDefault))
         Q_EMIT searchFailed(failure_);
-    isSettled_ = isSettled_ || currentIndex() >= 0;
+    selection_.kept();
 }
 
 // The server does not have the recalled queue any more.
-void PrinterChooser::forgetUnconfirmed()
+void PrinterChooser::forgetRecalled()
 {
-    const QString id = *std::exchange(unconfirmed_, std::nullopt);
-    if (wanted_ != Destination(id) || current().id() != id) {
-        remove(id);
+    if (!selection_.recalled())
+        return;
+    const Destination recalled = *selection_.recalled();
+    selection_.forgetRecalled();
+    if (recalled != selection_.wanted() || current().destination() != recalled) {
+        remove(recalled.id());
         return;
     }
-    await(id);
-    drop(indexOf(id));
-    isSettled_ = false;
+    await(recalled.id());
+    drop(indexOf(recalled.id()));
 }
 
 } // namespace printdialog

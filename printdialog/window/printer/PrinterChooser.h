@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "PrinterSelection.h"
 #include "Queue.h"
 
 #include <QtCore/QHash>
@@ -25,22 +26,15 @@ public:
 
     /// Shows the queue's id with no printer chosen, until a search has found the queue or the user chooses.
     void await(const QString &id);
-    /// Makes a queue from an earlier time the current one, before any server has been asked for it.
-    /// @param wasChosen by the user; otherwise another default takes its place
-    void recall(const Queue &queue, bool wasChosen);
-    /// Starts to look for queues. The queue `wanted`, or else the default, is chosen when it is found, unless
-    /// keepCurrent() was called or the user has chosen by then. No other printer takes the place of `wanted`.
+    /// Makes a printer from an earlier time the current one, before any server has been asked for it.
+    void recall(const Queue &queue, PrinterSelection::State state);
+    /// Starts to look for queues. The queue `wanted`, or else the default, is chosen when it is found, as far
+    /// as the selection has it.
     void search(const std::optional<Destination> &wanted);
-    /// From now on no default takes the place of the current printer. One asked for by its name still does.
-    void keepCurrent();
     /// As if the user had chosen it.
     void chooseBuiltIn();
     Queue current() const;
-    /// Whether the print server has said in this search that the current printer is there. The built-in one
-    /// is.
-    bool isConfirmed() const;
-    /// Whether the user has chosen a printer, be it the one that was current anyway.
-    bool wasChosenByUser() const { return wasChosenByUser_; }
+    PrinterSelection &selection() { return selection_; }
 
 Q_SIGNALS:
     /// Another printer is the current one now.
@@ -60,7 +54,7 @@ private:
     void update(int index, const Queue &queue);
     void remove(const QString &id);
     void drop(int index);
-    void forgetUnconfirmed();
+    void forgetRecalled();
     QString missing(const Destination &destination) const;
     void endSearch();
     void choose(int index);
@@ -68,11 +62,8 @@ private:
 
     QueueFinder *finder_;
     QHash<QString, int> indexes_; ///< by id
-    std::optional<Destination> wanted_;
-    std::optional<QString> unconfirmed_; ///< the recalled queue's id, until the server knows of it
-    QString failure_;                    ///< why the server could not be asked
-    bool wasChosenByUser_ = false;
-    bool isSettled_ = false; ///< the user has chosen, or what was wanted has been found
+    PrinterSelection selection_;
+    QString failure_; ///< why the server could not be asked
 };
 
 } // namespace printdialog
