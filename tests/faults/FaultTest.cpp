@@ -49,9 +49,10 @@ Result<PrintedFiles, OutputFault> print(const QString &folder, bool overwrites)
 {
     PrintJob job;
     job.page = {QSizeF(288, 432), QRectF(0, 0, 288, 432)};
-    job.checksPhoto = false; // on threads that a forked process does not have
     PrintedNames names({folder, overwrites});
-    return BuiltInPrinter::print(*Photo::open(QStringLiteral(CORVEL_SAMPLE_PHOTO)), job, names);
+    PlacedPhoto placed{*Photo::open(QStringLiteral(CORVEL_SAMPLE_PHOTO))};
+    placed.isAccepted = true; // checks run on threads that a forked process does not have
+    return BuiltInPrinter::print(placed, job, names);
 }
 
 /// Of this process, in KiB.

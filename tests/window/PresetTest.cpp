@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include "PresetBar.h"
-#include "QueuePresets.h"
+#include "PresetStore.h"
 #include "QueueTest.h"
 #include "TestMain.h"
 
@@ -95,7 +95,7 @@ private:
 void PresetTest::init()
 {
     WindowTest::init();
-    QFile::remove(QueuePresets::userFile());
+    QFile::remove(PresetStore::userFile());
 }
 
 std::unique_ptr<OpenedDialog> PresetTest::openQueue(PanelMode mode, const QString &printer) const

@@ -53,7 +53,9 @@ void PrintDialogTest::damagedPhoto()
     PrintWorker worker;
     QSignalSpy finished(&worker, &PrintWorker::finished);
     const QString folder = config_->filePath(u"unseen"_s);
-    worker.print({{setup.photos.at(0), {}}, {*Photo::open(damaged.fileName()), {}}}, {{}, folder}, {});
+    PrintJob job;
+    job.folder.path = folder;
+    worker.print({{setup.photos.at(0)}, {*Photo::open(damaged.fileName())}}, job);
     QVERIFY(finished.wait());
     QVERIFY(finished.at(0).at(0).value<PrintOutcome>().hasDamaged);
     QVERIFY(!QFile::exists(folder));
