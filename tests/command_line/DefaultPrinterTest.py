@@ -72,18 +72,16 @@ class DefaultPrinterTest(ProgramTest):
             self.assert_refused(self.run_at_home(*arguments, CUPS_SERVER=ABSENT), 1, "print server is running")
 
     def test_built_in_printer_with_a_preset(self):
-        def store(name, options):
-            presets = self.folder / ".config/corvel-print/presets"
-            presets.mkdir(parents=True, exist_ok=True)
-            (presets / "built-in.json").write_text(json.dumps({"version": 1, "presets": {name: options}}))
-        store("10 / 15", {"Red": "7", "copies": "3"})
+        presets = self.folder / ".config/corvel-print/lpoptions"
+        presets.parent.mkdir(parents=True)
+        presets.write_text("Dest built-in/10%20%2F%2015 Red=7 copies=3\n")
         name = "built-in/10 / 15"
         for done in (self.run_at_home("--summary", LPDEST=name), self.run_at_home("--summary", "--printer", name)):
             self.assertEqual(done.err, "")
             self.assertIn("\nRed: 7\n", done.out)
             self.assertIn("\nCopies: 3\n", done.out)
         # Whatever there is to leave out of it is one line.
-        store("odd", {"Red": "99", "copies": "none", "Gone": "1"})
+        presets.write_text("Dest built-in/odd Red=99 copies=none Gone=1\n")
         odd = self.run_at_home("--summary", "--printer", "built-in/odd")
         self.assert_refused(odd._replace(out=""), odd.status, '"none"', "Red", "Gone")
 
