@@ -55,8 +55,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
 {
     const QByteArray ppd = fuzzing::input(data, size);
     for (const PanelMode mode : {PanelMode::Constraint, PanelMode::Settings}) {
-        auto document =
-            PpdDocument::fromData(QByteArray(ppd.constData(), ppd.size()), QStringLiteral("fuzz"));
+        const auto trusted = trustPpd(QByteArray(ppd.constData(), ppd.size()), QStringLiteral("fuzz"));
+        auto document = trusted ? PpdDocument::open(*trusted) : trusted.failure();
         if (!document) {
             fuzzing::require(!document.failure().text.isEmpty(), "a refusal says why");
             return 0;

@@ -46,12 +46,12 @@ OpenedPrinter openQueueNamed(const Destination &destination, PanelMode mode)
     const auto opened = queueNamed(destination, queuePatience);
     if (!opened)
         return refusal(opened.failure().text);
-    if (opened->hasPpd) {
-        if (const auto failure = checkPpd(opened->ppd, destination.id()))
-            return refusal(failure->text);
-    }
-    return orSentence(opened->hasPpd ? openQueue(opened->queue, opened->ppd, mode)
-                                     : openRawQueue(opened->queue, mode));
+    if (!opened->hasPpd)
+        return orSentence(openRawQueue(opened->queue, mode));
+    const auto ppd = checkPpd(opened->ppd, destination.id());
+    if (!ppd)
+        return refusal(ppd.failure().text);
+    return orSentence(openQueue(opened->queue, *ppd, mode));
 }
 
 OpenedPrinter openDefaultQueue(const Destination &destination, PanelMode mode)

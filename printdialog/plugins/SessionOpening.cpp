@@ -43,6 +43,14 @@ QByteArray standIn()
            "*PaperDimension AtPrinter: \"288 432\"\n";
 }
 
+Result<PpdDocument, PpdFault> openTrusted(const QByteArray &ppd, const QString &name)
+{
+    const auto trusted = trustPpd(ppd, name);
+    if (!trusted)
+        return trusted.failure();
+    return PpdDocument::open(*trusted);
+}
+
 } // namespace
 
 SessionResult openBuiltInPrinter(const std::optional<QString> &ppdFile, PanelMode mode)
@@ -50,17 +58,17 @@ SessionResult openBuiltInPrinter(const std::optional<QString> &ppdFile, PanelMod
     const Queue printer = Queue::builtIn();
     if (ppdFile)
         return session(printer, PpdDocument::openFile(*ppdFile), mode);
-    return session(printer, PpdDocument::fromData(builtInPpd(), printer.name), mode);
+    return session(printer, openTrusted(builtInPpd(), printer.name), mode);
 }
 
-SessionResult openQueue(const Queue &queue, const QByteArray &ppd, PanelMode mode)
+SessionResult openQueue(const Queue &queue, const CheckedPpd &ppd, PanelMode mode)
 {
-    return session(queue, PpdDocument::fromData(ppd, queue.id()), mode);
+    return session(queue, PpdDocument::open(ppd), mode);
 }
 
 SessionResult openRawQueue(const Queue &queue, PanelMode mode)
 {
-    auto ppd = PpdDocument::fromData(standIn(), queue.id());
+    auto ppd = openTrusted(standIn(), queue.id());
     if (!ppd)
         return ppd.failure();
     PrinterDescription printer = describe(queue);

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "PpdInspection.h"
+#include "PpdCheck.h"
 
 #include <QtCore/QByteArray>
 #include <QtCore/QHash>
@@ -42,7 +42,7 @@ struct PageSize
 };
 
 /// Owner of one opened PPD and of the choices marked in it. Move-only; to be used by one thread at a time.
-/// A PPD is untrusted: it is inspected before libcups sees it, and nothing in it is ever run or opened.
+/// A PPD is untrusted: only one that was checked is opened, and nothing in it is ever run or opened.
 ///
 /// Opening marks the defaults. Every option takes exactly one choice, also those that the PPD declares as
 /// `PickMany`. What can never be chosen is left out and mentioned in notes(): an option without choices, a
@@ -54,21 +54,20 @@ public:
     /// Reads a regular file, and tries it out with checkPpd() first. Never blocks on a device or a pipe:
     /// those are refused as NotReadable.
     static Result<PpdDocument, PpdFault> openFile(const QString &path);
-    /// Of bytes that have been through checkPpd(), or that nobody else can have written. `name` is what
-    /// people call the PPD, such as the queue's name. The bytes inspected are the bytes parsed: no file
-    /// stands between the two.
-    static Result<PpdDocument, PpdFault> fromData(const QByteArray &data, const QString &name);
+    /// The bytes inspected are the bytes parsed: no file stands between the two.
+    static Result<PpdDocument, PpdFault> open(const CheckedPpd &ppd);
 
     PpdDocument(PpdDocument &&) noexcept;
     PpdDocument &operator=(PpdDocument &&) noexcept;
     ~PpdDocument();
 
+    const CheckedPpd &checked() const { return ppd_; }
     /// The original bytes.
-    const QByteArray &data() const { return data_; }
+    const QByteArray &data() const { return ppd_.data(); }
     /// libcups' record, owned by this document. Mark choices through a ChoiceMarker.
     ppd_file_s *record() const { return record_.get(); }
     /// The path or the name that the document was opened with.
-    const QString &name() const { return name_; }
+    const QString &name() const { return ppd_.name(); }
     /// The printer by its NickName or else its ModelName; plain text, may be empty.
     QString modelName() const;
     /// What was left out while opening, a sentence each; plain text.
@@ -106,15 +105,14 @@ private:
         void operator()(ppd_file_s *record) const;
     };
 
-    PpdDocument(const QByteArray &data, const QString &name, ppd_file_s *record);
+    PpdDocument(const CheckedPpd &ppd, ppd_file_s *record);
     void localize();
     void indexOptions();
     void indexOption(ppd_option_s &option);
     void indexPageSizes();
     void markDefaults();
 
-    QByteArray data_;
-    QString name_;
+    CheckedPpd ppd_;
     std::unique_ptr<ppd_file_s, RecordCloser> record_;
     QStringList notes_;
     QStringList keywords_;

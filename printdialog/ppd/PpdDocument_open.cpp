@@ -3,7 +3,6 @@
 
 #include "LocalizingCost.h"
 #include "PlainText.h"
-#include "PpdCheck.h"
 #include "PpdDocument.h"
 #include "PpdDocument_p.h"
 #include "PpdFile.h"
@@ -64,19 +63,17 @@ Result<PpdDocument, PpdFault> PpdDocument::openFile(const QString &path)
     auto bytes = readPpdFile(path);
     if (!bytes)
         return bytes.failure();
-    if (auto failure = checkPpd(*bytes, path))
-        return *std::move(failure);
-    return fromData(*bytes, path);
+    const auto ppd = checkPpd(*bytes, path);
+    if (!ppd)
+        return ppd.failure();
+    return open(*ppd);
 }
 
-Result<PpdDocument, PpdFault> PpdDocument::fromData(const QByteArray &data, const QString &name)
+Result<PpdDocument, PpdFault> PpdDocument::open(const CheckedPpd &ppd)
 {
-    auto inspection = inspectPpd(data, name);
-    if (!inspection)
-        return inspection.failure();
-    const int descriptor = ppdInMemory(inspection->bytes);
+    const int descriptor = ppdInMemory(ppd.inspection().bytes);
     if (descriptor < 0)
-        return ppdNotReadable(name, errno);
+        return ppdNotReadable(ppd.name(), errno);
     ppdSetConformance(PPD_CONFORM_RELAXED);
     // Closes the descriptor.
     std::unique_ptr<ppd_file_t, RecordCloser> record(ppdOpenFd(descriptor));
@@ -87,11 +84,11 @@ Result<PpdDocument, PpdFault> PpdDocument::fromData(const QByteArray &data, cons
             PpdFault::Malformed,
             Text::tr("The PPD \"%1\" cannot be used: line %2: %3; correct it or fetch another from "
                      "the printer's maker.")
-                .arg(plainText(name, 300), QString::number(line), reason),
+                .arg(plainText(ppd.name(), 300), QString::number(line), reason),
             {}};
     }
-    PpdDocument document(data, name, record.release());
-    document.notes_ = inspection->notes;
+    PpdDocument document(ppd, record.release());
+    document.notes_ = ppd.inspection().notes;
     document.localize();
     document.indexOptions();
     document.indexPageSizes();
@@ -100,15 +97,14 @@ Result<PpdDocument, PpdFault> PpdDocument::fromData(const QByteArray &data, cons
             PpdFault::NoPageSize,
             Text::tr("The PPD \"%1\" has no page size that can be printed on; correct it or fetch another "
                      "from the printer's maker.")
-                .arg(plainText(name, 300)),
+                .arg(plainText(ppd.name(), 300)),
             {}};
     document.markDefaults();
     return document;
 }
 
-PpdDocument::PpdDocument(const QByteArray &data, const QString &name, ppd_file_s *record)
-    : data_(data)
-    , name_(name)
+PpdDocument::PpdDocument(const CheckedPpd &ppd, ppd_file_s *record)
+    : ppd_(ppd)
     , record_(record)
 {
 }

@@ -59,6 +59,20 @@ QString limitReason(std::chrono::milliseconds limit)
         .arg(std::chrono::duration<double>(limit).count());
 }
 
+Result<CheckedPpd, QueueFault> checked(const Result<QByteArray, QueueFault> &fetched,
+                                       const std::optional<CheckedPpd> &known, const PpdFetcher::Check &check,
+                                       const QString &name)
+{
+    if (!fetched)
+        return fetched.failure();
+    if (known && known->data() == *fetched)
+        return *known;
+    auto ppd = check(*fetched, name);
+    if (!ppd)
+        return Failure<QueueFault>{QueueFault::Failed, ppd.failure().text, {}};
+    return *std::move(ppd);
+}
+
 } // namespace
 
 Result<QByteArray, QueueFault> ppdOf(CupsConnection &connection, const QueueRecord &record)
@@ -84,16 +98,9 @@ Result<QByteArray, QueueFault> ppdOf(CupsConnection &connection, const QueueReco
     return ppd;
 }
 
-Result<QByteArray, QueueFault> fetchPpd(const Destination &destination, std::chrono::milliseconds limit)
-{
-    auto outcome = callWithin<Result<QByteArray, QueueFault>>(
-        limit, [destination, limit](int *cancel) { return fetchHere(destination, limit, cancel); });
-    return outcome ? std::move(*outcome)
-                   : queueFailure(QueueFault::TimedOut, destination.id(), limitReason(limit));
-}
-
-PpdFetcher::PpdFetcher(QObject *parent, std::chrono::milliseconds limit)
+PpdFetcher::PpdFetcher(QObject *parent, std::chrono::milliseconds limit, Check check)
     : QObject(parent)
+    , check_(std::move(check))
 {
     limit_.setSingleShot(true);
     limit_.setInterval(limit);
@@ -109,11 +116,11 @@ PpdFetcher::~PpdFetcher()
         worker_->release(endPatience);
 }
 
-quint64 PpdFetcher::fetch(const Destination &destination)
+quint64 PpdFetcher::fetch(const Destination &destination, const std::optional<CheckedPpd> &known)
 {
     const bool isUnderWay = std::exchange(isAhead_, false) && destination == destination_;
     if (!isUnderWay)
-        start(destination);
+        start(destination, known);
     const quint64 number = ++number_;
     if (early_) {
         const auto announce = [this, number] {
@@ -127,22 +134,21 @@ quint64 PpdFetcher::fetch(const Destination &destination)
 
 void PpdFetcher::fetchAhead(const Destination &destination)
 {
-    start(destination);
+    start(destination, std::nullopt);
     isAhead_ = true;
 }
 
-void PpdFetcher::start(const Destination &destination)
+void PpdFetcher::start(const Destination &destination, const std::optional<CheckedPpd> &known)
 {
     cancel();
     destination_ = destination;
     worker_ = std::make_shared<BoundedWorker>(this);
     worker_->run(
-        [this, destination, limit = limit_.intervalAsDuration(), check = check_](BoundedWorker &self) {
-            auto outcome = fetchHere(destination, limit, self.cancelFlag());
+        [this, destination, known, limit = limit_.intervalAsDuration(), check = check_](BoundedWorker &self) {
+            const auto fetched = fetchHere(destination, limit, self.cancelFlag());
             self.post([this] { limit_.stop(); }); // what follows has nothing to do with the server
-            if (const auto text = outcome && check ? check(*outcome, destination.id()) : std::nullopt)
-                outcome = Failure<QueueFault>{QueueFault::Failed, *text, {}};
-            self.post([this, outcome = std::move(outcome)] { take(outcome); });
+            const auto outcome = checked(fetched, known, check, destination.id());
+            self.post([this, outcome] { take(outcome); });
         });
     limit_.start();
 }
@@ -156,7 +162,12 @@ void PpdFetcher::cancel()
         worker->release({});
 }
 
-void PpdFetcher::take(const Result<QByteArray, QueueFault> &outcome)
+Result<CheckedPpd, PpdFault> PpdFetcher::checkFetched(const QByteArray &ppd, const QString &name)
+{
+    return checkPpd(ppd, name);
+}
+
+void PpdFetcher::take(const Result<CheckedPpd, QueueFault> &outcome)
 {
     const bool isEarly = isAhead_;
     cancel();

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "Destination.h"
+#include "PpdCheck.h"
 #include "QueueFault.h"
 
 #include <QtCore/QByteArray>
@@ -26,12 +27,8 @@ struct QueueRecord;
 constexpr qsizetype fetchedPpdLimit = qsizetype(8) * 1024 * 1024;
 
 /// The PPD of a queue, of a class that of its first member, as the server hands it out: untrusted, unparsed.
-/// Blocks, at most for the limit. It never lies in a file that another process could see or that could be
+/// Within the connection's limit. It never lies in a file that another process could see or that could be
 /// left behind. Failures: all of QueueFault but NotAccepting.
-/// @param destination whose instance makes no difference
-Result<QByteArray, QueueFault> fetchPpd(const Destination &destination, std::chrono::milliseconds limit);
-
-/// The same over a connection that is open, within its limit.
 Result<QByteArray, QueueFault> ppdOf(CupsConnection &connection, const QueueRecord &record);
 
 /// Fetches PPDs without blocking. Everything about it happens on the thread that made it, where it needs an
@@ -41,19 +38,17 @@ class PpdFetcher : public QObject
     Q_OBJECT
 
 public:
-    /// @param limit for one fetch
-    explicit PpdFetcher(QObject *parent = nullptr,
-                        std::chrono::milliseconds limit = std::chrono::seconds(10));
+    /// Called on the worker thread, once for each PPD.
+    using Check = std::function<Result<CheckedPpd, PpdFault>(const QByteArray &ppd, const QString &name)>;
+    /// @param limit for one fetch; the check has its own
+    explicit PpdFetcher(QObject *parent = nullptr, std::chrono::milliseconds limit = std::chrono::seconds(10),
+                        Check check = checkFetched);
     ~PpdFetcher() override;
-
-    /// One sentence for people when the PPD must not be used. Called on the worker thread.
-    using Check = std::function<std::optional<QString>(const QByteArray &ppd, const QString &queueId)>;
-    /// What is asked about each PPD before it is announced; without one all are.
-    void setCheck(Check check) { check_ = std::move(check); }
 
     /// Starts, and gives up any earlier fetch: of that one nothing is heard any more. Returns the number
     /// under which the outcome is announced, exactly once, after this has returned.
-    quint64 fetch(const Destination &destination);
+    /// @param known the PPD that the queue has most likely; it is not checked again
+    quint64 fetch(const Destination &destination, const std::optional<CheckedPpd> &known = std::nullopt);
     /// Starts a fetch that is wanted soon, if at all: the next fetch() of the same queue takes it up where it
     /// stands then. Nothing is announced before, and a failure not at all.
     void fetchAhead(const Destination &destination);
@@ -61,20 +56,22 @@ public:
     void cancel();
 
 Q_SIGNALS:
-    void fetched(quint64 number, const QByteArray &ppd);
+    void fetched(quint64 number, const printdialog::CheckedPpd &ppd);
     /// With one sentence for people, see queueFailure().
     void failed(quint64 number, printdialog::QueueFault reason, const QString &text);
 
 private:
-    void start(const Destination &destination);
-    void take(const Result<QByteArray, QueueFault> &outcome);
+    static Result<CheckedPpd, PpdFault> checkFetched(const QByteArray &ppd, const QString &name);
+
+    void start(const Destination &destination, const std::optional<CheckedPpd> &known);
+    void take(const Result<CheckedPpd, QueueFault> &outcome);
 
     Check check_;
     QTimer limit_; // for what the worker's own limit does not cover
     Destination destination_;
     quint64 number_ = 0;
     bool isAhead_ = false;                  // nobody has asked for the outcome yet
-    std::optional<QByteArray> early_;       // what has arrived before anybody asked
+    std::optional<CheckedPpd> early_;       // what has arrived before anybody asked
     std::shared_ptr<BoundedWorker> worker_; // null when nothing is under way
 };
 

@@ -8,7 +8,6 @@
 #include "EscapeGuard.h"
 #include "HelpWindow.h"
 #include "PlainText.h"
-#include "PpdCheck.h"
 #include "PpdFetcher.h"
 #include "PrintWorker.h"
 #include "QueueCache.h"
@@ -45,10 +44,6 @@ PrintDialog::PrintDialog(const PrintDialogSetup &setup, QWidget *parent)
     , fetcher_(new PpdFetcher(this))
     , worker_(new PrintWorker(this))
 {
-    fetcher_->setCheck([](const QByteArray &ppd, const QString &queueId) {
-        const auto failure = checkPpd(ppd, queueId);
-        return failure ? std::optional(failure->text) : std::nullopt;
-    });
     const std::optional<RememberedQueue> remembered = firstPrinter();
     // The print server may well be asked while the window is being made.
     if (setup_.printer && *setup_.printer != Destination::builtIn() && !setup_.ppdFile)

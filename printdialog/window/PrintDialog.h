@@ -24,6 +24,7 @@ class PrintDialog;
 
 namespace printdialog {
 
+class CheckedPpd;
 class ChoiceController;
 class DialogSession;
 class PpdFetcher;
@@ -107,7 +108,7 @@ private:
     bool wasChosenHere() const;
     void awaitOptions(const QString &id);
     void showFolder(bool isBuiltIn);
-    void takePpd(quint64 number, const QByteArray &ppd);
+    void takePpd(quint64 number, const CheckedPpd &ppd);
     void takePpdFailure(QueueFault reason, const QString &text);
     void confirm();
     void reopen(std::unique_ptr<DialogSession> session);

@@ -30,6 +30,16 @@ QMap<QString, QString> ownChoices(DialogSession &session)
     return choices;
 }
 
+SessionResult openCached(const RememberedQueue &remembered, PanelMode mode)
+{
+    if (remembered.ppd.isEmpty())
+        return openRawQueue(remembered.queue, mode);
+    const auto ppd = trustPpd(remembered.ppd, remembered.queue.id());
+    if (!ppd)
+        return ppd.failure();
+    return openQueue(remembered.queue, *ppd, mode);
+}
+
 } // namespace
 
 // Which printer is shown
@@ -73,8 +83,7 @@ void PrintDialog::openRemembered(const RememberedQueue &remembered)
     using State = PrinterSelection::State;
     const State unchosen = setup_.printer ? State::Kept : State::Open;
     ui_->printer->recall(queue_, remembered.wasChosen ? State::Used : unchosen);
-    SessionResult session = remembered.ppd.isEmpty() ? openRawQueue(queue_, setup_.mode)
-                                                     : openQueue(queue_, remembered.ppd, setup_.mode);
+    SessionResult session = openCached(remembered, setup_.mode);
     awaitOptions(queue_.id());
     ui_->status->showUnconfirmed();
     if (session)
@@ -109,8 +118,10 @@ void PrintDialog::takeUpdate(const Queue &queue)
 {
     queue_ = queue;
     ui_->status->show(queue);
-    if (ui_->printer->selection().hasOldOptions())
-        fetcher_->fetch(queue.destination());
+    if (!ui_->printer->selection().hasOldOptions())
+        return;
+    const bool hasPpd = session_ && session_->printer().hasPpd;
+    fetcher_->fetch(queue.destination(), hasPpd ? std::optional(session_->ppd().checked()) : std::nullopt);
 }
 
 bool PrintDialog::wasChosenHere() const
@@ -175,9 +186,9 @@ void PrintDialog::showFolder(bool isBuiltIn)
 
 // Its PPD
 
-void PrintDialog::takePpd(quint64 /*number*/, const QByteArray &ppd)
+void PrintDialog::takePpd(quint64 /*number*/, const CheckedPpd &ppd)
 {
-    if (session_ && session_->printer().hasPpd && session_->ppd().data() == ppd) {
+    if (session_ && session_->printer().hasPpd && session_->ppd().data() == ppd.data()) {
         confirm();
         return;
     }

@@ -174,17 +174,14 @@ void QueuesEndToEndTest::defaultIsTheUsersOrTheServers()
 
 void QueuesEndToEndTest::ppdIsThatOfTheQueue()
 {
-    const auto photo = fetchPpd(u"photo"_s, 5s);
-    QVERIFY2(photo, photo ? "" : qPrintable(photo.failure().text));
-    QCOMPARE(*photo, testing_support::smallPpd(finishOption));
-    for (const QString &id : {u"photo/borderless"_s, u"group"_s}) {
-        const auto same = fetchPpd(id, 5s);
-        QVERIFY2(same && *same == *photo, qPrintable(id));
+    for (const QString &id : {u"photo"_s, u"photo/borderless"_s, u"group"_s}) {
+        const auto opened = queueNamed(id, 5s);
+        QVERIFY2(opened, opened ? "" : qPrintable(opened.failure().text));
+        QCOMPARE(opened->ppd, testing_support::smallPpd(finishOption));
     }
-    const auto raw = fetchPpd(u"raw"_s, 5s);
-    QVERIFY(!raw);
-    QCOMPARE(raw.failure().reason, QueueFault::NoPpd);
-    const auto gone = fetchPpd(u"gone"_s, 5s);
+    const auto raw = queueNamed(u"raw"_s, 5s);
+    QVERIFY(raw && !raw->hasPpd);
+    const auto gone = queueNamed(u"gone"_s, 5s);
     QVERIFY(!gone);
     QCOMPARE(gone.failure().reason, QueueFault::NotFound);
     QCOMPARE(gone.failure().text,
@@ -194,36 +191,44 @@ void QueuesEndToEndTest::ppdIsThatOfTheQueue()
 
 void QueuesEndToEndTest::fetcherAnnouncesThePpd()
 {
-    PpdFetcher fetcher(nullptr, 2s);
-    const QSignalSpy fetched(&fetcher, &PpdFetcher::fetched);
+    // What is refused is never announced. The check has all the time that it wants, and no work with what has
+    // passed before.
+    std::optional<CheckedPpd> passed;
+    PpdFetcher fetcher(nullptr, 2s, [&passed](const QByteArray &ppd, const QString &queue) {
+        if (!passed)
+            return checkPpd(ppd, queue);
+        QThread::msleep(2500);
+        const QString text = QStringLiteral("%1 bytes of %2").arg(ppd.size() > 100).arg(queue);
+        return Result<CheckedPpd, PpdFault>(Failure<PpdFault>{PpdFault::Harmful, text, {}});
+    });
+    quint64 number = 0;
+    connect(&fetcher, &PpdFetcher::fetched, this, [&](quint64 announced, const CheckedPpd &ppd) {
+        number = announced;
+        passed = ppd;
+    });
     const QSignalSpy failed(&fetcher, &PpdFetcher::failed);
     fetcher.fetch(u"raw"_s);
-    const quint64 number = fetcher.fetch(u"photo"_s);
-    QTRY_COMPARE(fetched.size(), 1);
-    QCOMPARE(fetched.at(0).at(0).toULongLong(), number);
-    QVERIFY(fetched.at(0).at(1).toByteArray().contains("*DefaultFinish: Glossy"));
+    const quint64 asked = fetcher.fetch(u"photo"_s);
+    QTRY_VERIFY(passed);
+    QCOMPARE(number, asked);
+    QVERIFY(passed->data().contains("*DefaultFinish: Glossy"));
     const quint64 next = fetcher.fetch(u"gone"_s);
     QTRY_COMPARE(failed.size(), 1);
     QCOMPARE(failed.at(0).at(0).toULongLong(), next);
-    QCOMPARE(fetched.size(), 1);
-    // What whoever asked for it does not take is never announced. Its check has all the time that it wants.
-    fetcher.setCheck([](const QByteArray &ppd, const QString &queue) {
-        QThread::msleep(2500);
-        return std::optional(QStringLiteral("%1 bytes of %2").arg(ppd.size() > 100).arg(queue));
-    });
+    const quint64 known = fetcher.fetch(u"photo"_s, passed);
+    QTRY_COMPARE(number, known);
     fetcher.fetch(u"photo"_s);
     QTRY_COMPARE(failed.size(), 2);
     QCOMPARE(failed.at(1).at(2).toString(), u"1 bytes of photo"_s);
-    QCOMPARE(fetched.size(), 1);
+    QCOMPARE(number, known);
 }
 
 void QueuesEndToEndTest::fetchesAhead()
 {
-    PpdFetcher fetcher;
     std::atomic<int> arrived = 0;
-    fetcher.setCheck([&arrived](const QByteArray & /*ppd*/, const QString & /*queue*/) {
+    PpdFetcher fetcher(nullptr, 10s, [&arrived](const QByteArray &ppd, const QString &queue) {
         ++arrived;
-        return std::optional<QString>();
+        return trustPpd(ppd, queue);
     });
     const QSignalSpy fetched(&fetcher, &PpdFetcher::fetched);
     const QSignalSpy failed(&fetcher, &PpdFetcher::failed);

@@ -51,9 +51,17 @@ class PpdDocumentTest : public QObject
 {
     Q_OBJECT
 
+    static Result<PpdDocument, PpdFault> trusted(const QByteArray &data, const QString &name)
+    {
+        const auto ppd = trustPpd(data, name);
+        if (!ppd)
+            return ppd.failure();
+        return PpdDocument::open(*ppd);
+    }
+
     static PpdDocument opened(const QByteArray &data)
     {
-        auto document = PpdDocument::fromData(data, u"queue"_s);
+        auto document = trusted(data, u"queue"_s);
         if (!document)
             qFatal("%s", qPrintable(document.failure().text));
         return *std::move(document);
@@ -176,7 +184,7 @@ private Q_SLOTS:
     {
         QFETCH(QByteArray, data);
         QFETCH(QString, reason);
-        const auto document = PpdDocument::fromData(data, u"my\u202equ\u001beue"_s);
+        const auto document = trusted(data, u"my\u202equ\u001beue"_s);
         QVERIFY(!document);
         QTEST(document.failure().reason, "fault");
         const QString text = document.failure().text;
@@ -284,23 +292,23 @@ private Q_SLOTS:
         const auto closing = qScopeGuard([&open] { std::ranges::for_each(open, ::close); });
         QElapsedTimer timer;
         timer.start();
-        const auto failure = checkPpd(data, u"queue"_s, program, script.contains("sleep") ? 400ms : 20s);
+        const auto ppd = checkPpd(data, u"queue"_s, program, script.contains("sleep") ? 400ms : 20s);
         QVERIFY(timer.elapsed() < 20'000);
-        QCOMPARE(failure.has_value(), fault.has_value());
-        if (!failure)
+        QCOMPARE(!ppd, fault.has_value());
+        if (ppd)
             return;
-        QVERIFY(failure->reason == *fault);
-        QVERIFY2(failure->text.contains(reason) && failure->text.contains(u"queue"_s),
-                 qPrintable(failure->text));
+        QVERIFY(ppd.failure().reason == *fault);
+        const QString text = ppd.failure().text;
+        QVERIFY2(text.contains(reason) && text.contains(u"queue"_s), qPrintable(text));
     }
 
     // Whoever started the program may have it ignore the ends of its children.
     void triesNothingUnheard()
     {
         const auto before = std::signal(SIGCHLD, SIG_IGN);
-        const auto failure = checkPpd(minimal(), u"queue"_s);
+        const auto ppd = checkPpd(minimal(), u"queue"_s);
         std::signal(SIGCHLD, before);
-        QVERIFY(failure && failure->reason == PpdFault::NotTried);
+        QVERIFY(!ppd && ppd.failure().reason == PpdFault::NotTried);
     }
 
     void sandboxLeavesNoWayOut()

@@ -116,13 +116,21 @@ QString ppdCheckProgram()
                            QLatin1String("/" CORVEL_PPD_CHECK_FROM_PROGRAM));
 }
 
-std::optional<Failure<PpdFault>> checkPpd(const QByteArray &data, const QString &name, const QString &program,
-                                          std::chrono::milliseconds limit)
+Result<CheckedPpd, PpdFault> trustPpd(const QByteArray &data, const QString &name)
 {
     const auto inspection = inspectPpd(data, name);
     if (!inspection)
         return inspection.failure();
-    const FileDescriptor ppd(ppdInMemory(inspection->bytes));
+    return CheckedPpd(data, name, *inspection);
+}
+
+Result<CheckedPpd, PpdFault> checkPpd(const QByteArray &data, const QString &name, const QString &program,
+                                      std::chrono::milliseconds limit)
+{
+    auto inspected = trustPpd(data, name);
+    if (!inspected)
+        return inspected;
+    const FileDescriptor ppd(ppdInMemory(inspected->inspection().bytes));
     if (ppd.number() < 0)
         return ppdNotReadable(name, errno);
 
@@ -153,7 +161,7 @@ std::optional<Failure<PpdFault>> checkPpd(const QByteArray &data, const QString 
     if (WIFEXITED(end.status)) {
         switch (WEXITSTATUS(end.status)) {
         case 0:
-            return std::nullopt;
+            return inspected;
         case noSandbox:
             return notTried(Text::tr("the system offers no sandbox"));
         default: // of the dynamic linker's, most likely
