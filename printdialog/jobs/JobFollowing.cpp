@@ -96,8 +96,10 @@ void addPrintersWords(CupsConnection &connection, const QString &queue, JobStatu
 class Following
 {
 public:
-    Following(const QString &queue, int id, const FollowLimits &limits, int *cancel)
-        : queue_(queue)
+    Following(CupsConnection &connection, const QString &queue, int id, const FollowLimits &limits,
+              int *cancel)
+        : connection_(connection)
+        , queue_(queue)
         , id_(id)
         , limits_(limits)
         , cancel_(cancel)
@@ -153,7 +155,7 @@ private:
     /// Whether nobody is there: a server that is started again answers nothing for some seconds.
     bool isAway(QueueFault fault) const
     {
-        return fault == QueueFault::NoServer || (fault == QueueFault::Failed && connection_->isBroken());
+        return fault == QueueFault::NoServer || (fault == QueueFault::Failed && connection_.isBroken());
     }
 
     bool isCancelled() const { return cancel_ && std::atomic_ref(*cancel_).load() != 0; }
@@ -175,33 +177,20 @@ private:
             left, std::min<std::chrono::milliseconds>(1s, limits_.silent), limits_.silent);
     }
 
-    /// A connection is kept as long as it lasts: servers close those that were idle.
     Result<JobStatus, QueueFault> look()
     {
-        if (connection_) {
-            connection_->extend(patience());
-            if (auto status = lookOver(*connection_))
-                return status;
-        }
-        connection_ = std::make_unique<CupsConnection>(patience(), cancel_);
-        if (!connection_->isOpen())
-            return queueFailure(QueueFault::NoServer, queue_, connection_->unreachableReason());
-        return lookOver(*connection_);
-    }
-
-    Result<JobStatus, QueueFault> lookOver(CupsConnection &connection) const
-    {
-        auto status = jobStatus(connection, queue_, id_);
+        connection_.extend(patience());
+        auto status = jobStatus(connection_, queue_, id_);
         if (status && !status->isOver() && status->state != JobStatus::State::Processing)
-            addPrintersWords(connection, queue_, *status);
+            addPrintersWords(connection_, queue_, *status);
         return status;
     }
 
+    CupsConnection &connection_;
     QString queue_;
     int id_;
     const FollowLimits &limits_;
     int *cancel_;
-    std::unique_ptr<CupsConnection> connection_;
     const Clock::time_point start_ = Clock::now();
     bool wasAway_ = false; // since it was last heard
 };
@@ -250,18 +239,12 @@ QString JobStatus::text() const
     return Text::tr("printed");
 }
 
-Result<JobStatus, QueueFault> followJob(const QString &queue, int id, const FollowLimits &limits,
+Result<JobStatus, QueueFault> followJob(CupsConnection &connection, const QString &queue, int id,
+                                        const FollowLimits &limits,
                                         const std::function<void(const JobStatus &)> &news, int *cancel)
 {
-    return Following(queue, id, limits, cancel).follow(news);
-}
-
-Result<bool, QueueFault> cancelJob(const QString &queue, int id, std::chrono::milliseconds limit)
-{
-    CupsConnection connection(limit);
-    if (!connection.isOpen())
-        return queueFailure(QueueFault::NoServer, queue, connection.unreachableReason());
-    return cancelJob(connection, queue, id);
+    connection.heed(cancel);
+    return Following(connection, queue, id, limits, cancel).follow(news);
 }
 
 Result<bool, QueueFault> cancelJob(CupsConnection &connection, const QString &queue, int id)

@@ -65,16 +65,13 @@ struct FollowLimits
 /// @param queue the queue's id
 /// @param news called on this thread with each change; may be empty
 /// @param cancel non-zero: stop following; outlives the call; may be null
-Result<JobStatus, QueueFault> followJob(const QString &queue, int id, const FollowLimits &limits,
+Result<JobStatus, QueueFault> followJob(CupsConnection &connection, const QString &queue, int id,
+                                        const FollowLimits &limits,
                                         const std::function<void(const JobStatus &)> &news = {},
                                         int *cancel = nullptr);
 
-/// Cancels a job over a connection that is open, within its limit. See below.
+/// Cancels a job. Blocks, at most for the connection's limit. False for one that is over already. Failures:
+/// NoServer, Refused, TimedOut, Failed.
 Result<bool, QueueFault> cancelJob(CupsConnection &connection, const QString &queue, int id);
-
-/// Cancels a job. Blocks, at most for the limit. A job that is over already is no failure.
-/// Failures: NoServer, Refused, TimedOut, Failed.
-Result<bool, QueueFault> cancelJob(const QString &queue, int id,
-                                   std::chrono::milliseconds limit = std::chrono::seconds(5));
 
 } // namespace printdialog

@@ -114,7 +114,7 @@ private:
     /// what to cancel. Where the server has stopped taking the document it says why.
     Result<int, QueueFault> takeAnswer(const QString &queue)
     {
-        connection_.ignoreCancel();
+        connection_.heed(nullptr);
         connection_.extend();
         const IppPointer answer = connection_.answer();
         if (!answer || !connection_.hasSucceeded())
@@ -185,27 +185,40 @@ JobSubmission::JobSubmission(const Progress &sent, int *cancel, std::chrono::mil
 {
 }
 
+JobSubmission::~JobSubmission() = default;
+
 Result<int, QueueFault> JobSubmission::send(const PrintJob &job, const JobDocument &document)
 {
     if (const auto failure = whyUnfit(job, document))
         return *failure;
-    const QString queue = job.destination.id();
-    CupsConnection connection(patience_, cancel_);
-    if (!connection.isOpen())
-        return queueFailure(QueueFault::NoServer, queue, connection.unreachableReason());
-    const auto record = queueRecord(connection, job.destination);
+    if (!connection_)
+        connection_ = std::make_unique<CupsConnection>(patience_);
+    connection_->heed(cancel_);
+    connection_->extend(patience_);
+    const auto record = queueRecord(*connection_, job.destination);
     if (!record)
         return record.failure();
     if (!record->acceptsJobs)
-        return queueFailure(QueueFault::NotAccepting, queue, record->stateMessage);
-    if (job.ppd) {
-        const auto ppd = ppdOf(connection, *record);
-        if (!ppd && ppd.failure().reason != QueueFault::NoPpd)
-            return ppd.failure();
-        if ((ppd ? *ppd : QByteArray()) != *job.ppd)
-            return queueFailure(QueueFault::Changed, queue);
-    }
-    return JobInMaking(connection, sent_, cancel_, *record).send(job, document);
+        return queueFailure(QueueFault::NotAccepting, job.destination.id(), record->stateMessage);
+    if (const auto failure = job.ppd ? comparePpd(*job.ppd, *record) : std::nullopt)
+        return *failure;
+    return JobInMaking(*connection_, sent_, cancel_, *record).send(job, document);
+}
+
+std::optional<Failure<QueueFault>> JobSubmission::comparePpd(const QByteArray &ppd, const QueueRecord &record)
+{
+    const auto now = record.unchangedSince
+                         ? std::optional<Compared>({record.uri, ppd, *record.unchangedSince})
+                         : std::nullopt;
+    if (now && now == compared_)
+        return std::nullopt;
+    const auto found = ppdOf(*connection_, record);
+    if (!found && found.failure().reason != QueueFault::NoPpd)
+        return found.failure();
+    if ((found ? *found : QByteArray()) != ppd)
+        return queueFailure(QueueFault::Changed, record.destination.id());
+    compared_ = now;
+    return std::nullopt;
 }
 
 } // namespace printdialog

@@ -4,10 +4,13 @@
 #include "PhotoPrinter.h"
 
 #include "BuiltInPrinter.h"
+#include "CupsConnection.h"
 #include "PhotoCheck.h"
 
 #include <algorithm>
 #include <atomic>
+
+using namespace std::chrono_literals;
 
 namespace printdialog {
 
@@ -92,7 +95,8 @@ PhotoPrinter::Outcome PhotoPrinter::follow(const FollowLimits &limits,
         left.total = std::max(FollowLimits::Time(),
                               std::chrono::duration_cast<FollowLimits::Time>(end - Clock::now()));
         const auto status = followJob(
-            job_.destination.id(), job.id, left, [&](const JobStatus &now) { news(i, now.text()); }, cancel);
+            submission_.connection(), job_.destination.id(), job.id, left,
+            [&](const JobStatus &now) { news(i, now.text()); }, cancel);
         if (cancel && std::atomic_ref(*cancel).load() != 0)
             return outcome;
         if (!status) {
@@ -134,10 +138,14 @@ void PhotoPrinter::note(const SentJob &job, const JobStatus &status, Outcome &ou
 
 QStringList PhotoPrinter::takeBack(int &over)
 {
+    constexpr auto patience = 5s;
     over = 0;
     QStringList failures;
     for (const SentJob &job : std::as_const(sent_)) {
-        const auto cancelled = cancelJob(job_.destination.id(), job.id);
+        CupsConnection &connection = submission_.connection();
+        connection.heed(nullptr);
+        connection.extend(patience);
+        const auto cancelled = cancelJob(connection, job_.destination.id(), job.id);
         if (!cancelled)
             failures.append(tr("The job %1 for %2 could not be cancelled: %3")
                                 .arg(QString::number(job.id), job.photo, cancelled.failure().text));

@@ -45,8 +45,6 @@ Result<QByteArray, QueueFault> fetchHere(const Destination &destination, std::ch
                                          int *cancel)
 {
     CupsConnection connection(limit, cancel);
-    if (!connection.isOpen())
-        return queueFailure(QueueFault::NoServer, destination.id(), connection.unreachableReason());
     const auto record = queueRecord(connection, destination);
     if (!record)
         return record.failure();

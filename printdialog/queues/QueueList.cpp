@@ -188,8 +188,6 @@ QList<Queue> withInstances(const QList<Queue> &queues, const QList<Destination> 
 Result<QList<Queue>, QueueFault> sweepQueues(std::chrono::milliseconds limit, int *cancel)
 {
     CupsConnection connection(limit, cancel);
-    if (!connection.isOpen())
-        return queueFailure(QueueFault::NoServer, {}, connection.unreachableReason());
     const auto isFailure = [&connection](const IppPointer &answer) {
         return !answer || !(connection.hasSucceeded() || connection.status() == IPP_STATUS_ERROR_NOT_FOUND);
     };
@@ -219,8 +217,6 @@ Result<OpenedQueue, QueueFault> openHere(const Destination &destination, std::ch
                                          int *cancel)
 {
     CupsConnection connection(limit, cancel);
-    if (!connection.isOpen())
-        return queueFailure(QueueFault::NoServer, destination.id(), connection.unreachableReason());
     const auto record = queueRecord(connection, destination);
     if (!record)
         return record.failure();

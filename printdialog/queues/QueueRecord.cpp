@@ -16,6 +16,18 @@ namespace {
 
 constexpr qsizetype queueNameLimit = 127; // bytes
 
+std::optional<int> unchangedSince(ipp_t *answer)
+{
+    constexpr int settled = 2; // seconds: the times have no fractions
+    ipp_attribute_t *changed = ippFindAttribute(answer, "printer-config-change-time", IPP_TAG_INTEGER);
+    ipp_attribute_t *now = ippFindAttribute(answer, "printer-up-time", IPP_TAG_INTEGER);
+    ipp_attribute_t *type = ippFindAttribute(answer, "printer-type", IPP_TAG_ENUM);
+    if (!changed || !now || !type || (ippGetInteger(type, 0) & CUPS_PRINTER_CLASS) != 0 ||
+        ippGetInteger(now, 0) - ippGetInteger(changed, 0) < settled)
+        return std::nullopt;
+    return ippGetInteger(changed, 0);
+}
+
 } // namespace
 
 bool isQueueName(const QString &name)
@@ -34,8 +46,9 @@ Result<QueueRecord, QueueFault> queueRecord(CupsConnection &connection, const De
     std::array<char, 1024> uri = {};
     httpAssembleURIf(HTTP_URI_CODING_ALL, uri.data(), static_cast<int>(uri.size()), "ipp", nullptr,
                      "localhost", 0, "/printers/%s", destination.queue.toUtf8().constData());
-    static constexpr std::array wanted = {"printer-uri-supported", "printer-is-accepting-jobs",
-                                          "printer-state", "printer-state-message", "printer-state-reasons"};
+    static constexpr std::array wanted = {
+        "printer-uri-supported", "printer-is-accepting-jobs",  "printer-state",   "printer-state-message",
+        "printer-state-reasons", "printer-config-change-time", "printer-up-time", "printer-type"};
     IppPointer request = ippRequest(IPP_OP_GET_PRINTER_ATTRIBUTES, uri.data());
     ippAddStrings(request.get(), IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes",
                   static_cast<int>(wanted.size()), nullptr, wanted.data());
@@ -52,6 +65,7 @@ Result<QueueRecord, QueueFault> queueRecord(CupsConnection &connection, const De
     record.isStopped = state && ippGetInteger(state, 0) == IPP_PSTATE_STOPPED;
     ipp_attribute_t *accepts = ippFindAttribute(answer.get(), "printer-is-accepting-jobs", IPP_TAG_BOOLEAN);
     record.acceptsJobs = !accepts || ippGetBoolean(accepts, 0) != 0;
+    record.unchangedSince = unchangedSince(answer.get());
     return record;
 }
 

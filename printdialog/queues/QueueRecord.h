@@ -9,6 +9,8 @@
 #include <QtCore/QByteArray>
 #include <QtCore/QStringList>
 
+#include <optional>
+
 namespace printdialog {
 
 class CupsConnection;
@@ -22,6 +24,9 @@ struct QueueRecord
     QStringList stateReasons; ///< Keywords.
     bool acceptsJobs = false;
     bool isStopped = false;
+    /// Since when its settings, and its PPD among them, are as they are, by the server's clock. Only when
+    /// another change could not bear the same time, and never of a class, whose PPD is that of a member.
+    std::optional<int> unchangedSince;
 };
 
 /// Asks the server about a queue. A name that no queue can have is not cleaned, but not found. Failures:

@@ -1,11 +1,13 @@
 // SPDX-FileCopyrightText: Corvel print dialog authors
 // SPDX-License-Identifier: Apache-2.0
 
+#include "CupsConnection.h"
 #include "JobFollowing.h"
 #include "JobSubmission.h"
 #include "PpdFetcher.h"
 #include "PrivateCupsd.h"
 #include "QueueList.h"
+#include "QueueRecord.h"
 #include "StateText.h"
 #include "TestMain.h"
 
@@ -43,6 +45,14 @@ Result<int, QueueFault> submit(const QString &queue, const QByteArray &bytes = "
     return JobSubmission(sent, cancel, patience).send(jobFor(queue), document(bytes));
 }
 
+Result<JobStatus, QueueFault> follow(const QString &queue, int id, const FollowLimits &limits = {},
+                                     const std::function<void(const JobStatus &)> &news = {},
+                                     int *cancel = nullptr)
+{
+    CupsConnection connection(5s);
+    return followJob(connection, queue, id, limits, news, cancel);
+}
+
 /// Larger than every buffer on the way to the server.
 QByteArray muchData()
 {
@@ -63,6 +73,7 @@ private Q_SLOTS:
     void waitingJobIsLeftInTime();
     void cancelledJobs();
     void suppliesAndReasons();
+    void oneConnectionForAll();
     void changedPpdIsNoticed();
     void serverStartsAgain();
     void serverGoesWhileSending();
@@ -109,7 +120,7 @@ void JobsEndToEndTest::jobIsFollowedToItsEnd()
     QVERIFY2(id, id ? "" : qPrintable(id.failure().text));
     QList<JobStatus::State> states;
     const auto status =
-        followJob(queue, *id, {}, [&states](const JobStatus &news) { states.append(news.state); });
+        follow(queue, *id, {}, [&states](const JobStatus &news) { states.append(news.state); });
     QVERIFY2(status, status ? "" : qPrintable(status.failure().text));
     QTEST(status->state, "state");
     QVERIFY2(status->detail().contains(words), qPrintable(status->detail()));
@@ -123,7 +134,7 @@ void JobsEndToEndTest::waitingJobIsLeftInTime()
     const auto id = submit(u"photo"_s);
     QElapsedTimer timer;
     timer.start();
-    const auto status = followJob(u"photo"_s, *id, {.waiting = 200ms});
+    const auto status = follow(u"photo"_s, *id, {.waiting = 200ms});
     QVERIFY(timer.elapsed() >= 200 && timer.elapsed() < 2000);
     QVERIFY(status && !status->isOver() && status->isWaiting());
     QVERIFY2(status->text().contains(u"printer is stopped"_s), qPrintable(status->text()));
@@ -136,7 +147,7 @@ void JobsEndToEndTest::cancelledJobs()
 {
     QVERIFY(cupsd_.setBackendScript("exit 0"));
     const auto before = submit(u"odd"_s);
-    QVERIFY(before && followJob(u"odd"_s, *before, {}));
+    QVERIFY(before && follow(u"odd"_s, *before));
     QVERIFY(cupsd_.setBackendScript("trap 'exit 0' TERM; sleep 20 & wait"));
     int cancel = 0;
     const auto sent = [&cancel](qint64 done, qint64 total) {
@@ -151,7 +162,7 @@ void JobsEndToEndTest::cancelledJobs()
     QVERIFY(printing);
     QCOMPARE(*printing, *before + 1); // the server has never made a job of it
     cancel = 0;
-    const auto left = followJob(
+    const auto left = follow(
         u"odd"_s, *printing, {},
         [&cancel](const JobStatus &news) {
             if (news.state == JobStatus::State::Processing)
@@ -159,12 +170,13 @@ void JobsEndToEndTest::cancelledJobs()
         },
         &cancel);
     QVERIFY(left && !left->isOver());
-    const auto cancelled = cancelJob(u"odd"_s, *printing);
+    CupsConnection connection(5s);
+    const auto cancelled = cancelJob(connection, u"odd"_s, *printing);
     QVERIFY(cancelled && *cancelled);
-    const auto end = followJob(u"odd"_s, *printing, {});
+    const auto end = follow(u"odd"_s, *printing);
     QVERIFY(end);
     QCOMPARE(end->state, JobStatus::State::Canceled);
-    const auto again = cancelJob(u"odd"_s, *printing);
+    const auto again = cancelJob(connection, u"odd"_s, *printing);
     QVERIFY(again && !*again);
 }
 
@@ -182,7 +194,7 @@ void JobsEndToEndTest::suppliesAndReasons()
         "marker-levels=8,-1,95 marker-low-levels=10,10,0 marker-high-levels=100,100,90' >&2\n"
         "echo 'STATE: +media-empty-error,marker-supply-low-warning,corvel-odd-report' >&2\nexit 0"));
     const auto id = submit(u"odd"_s);
-    QVERIFY(id && followJob(u"odd"_s, *id, {}));
+    QVERIFY(id && follow(u"odd"_s, *id));
     const Queue queue = odd();
     QCOMPARE(queue.supplies.size(), 3);
     QCOMPARE(queue.supplies.at(0), (Supply{u"Ribbon"_s, 8, true}));
@@ -196,8 +208,29 @@ void JobsEndToEndTest::suppliesAndReasons()
     // None of it keeps a job away.
     QVERIFY(cupsd_.setBackendScript("echo 'STATE: -media-empty-error' >&2\nexit 0"));
     const auto next = submit(u"odd"_s);
-    QVERIFY(next && followJob(u"odd"_s, *next, {}));
+    QVERIFY(next && follow(u"odd"_s, *next));
     QVERIFY(!stateText(odd()).contains(u"out of paper"_s));
+}
+
+// And one look at the PPD, once no change can hide behind the time of the last one.
+void JobsEndToEndTest::oneConnectionForAll()
+{
+    CupsConnection connection(5s);
+    QTRY_VERIFY(queueRecord(connection, u"photo"_s)->unchangedSince);
+    const QByteArray look = "GET /printers/photo.ppd";
+    const qsizetype before = cupsd_.requests(look);
+    JobSubmission submission;
+    PrintJob job = jobFor(u"photo"_s);
+    job.ppd = smallPpd();
+    QVERIFY(submission.send(job, document()));
+    QVERIFY(submission.send(job, document()));
+    QCOMPARE(cupsd_.requests(look) - before, 1);
+    // The server closes it in between.
+    QVERIFY(cupsd_.goDown() && cupsd_.comeBack());
+    const auto id = submission.send(job, document());
+    QVERIFY2(id, id ? "" : qPrintable(id.failure().text));
+    // A class does not say when the PPD of its member has changed.
+    QVERIFY(!queueRecord(connection, u"group"_s)->unchangedSince);
 }
 
 void JobsEndToEndTest::changedPpdIsNoticed()
@@ -224,7 +257,7 @@ void JobsEndToEndTest::serverStartsAgain()
     QVERIFY(id);
     QStringList texts;
     bool isBack = false;
-    const auto status = followJob(u"odd"_s, *id, {}, [&](const JobStatus &news) {
+    const auto status = follow(u"odd"_s, *id, {}, [&](const JobStatus &news) {
         texts.append(news.text());
         if (news.isServerAway)
             isBack = cupsd_.comeBack();
@@ -250,7 +283,7 @@ void JobsEndToEndTest::serverGoesWhileSending()
         timer.start();
         const auto id = submit(u"photo"_s, muchData(), sent, nullptr, isFrozen ? 400ms : 10s);
         const qint64 elapsed = timer.elapsed();
-        const bool isKnown = bool(followJob(u"photo"_s, 1, {.silent = 200ms, .away = 0ms}));
+        const bool isKnown = bool(follow(u"photo"_s, 1, {.silent = 200ms, .away = 0ms}));
         cupsd_.thaw();
         QVERIFY(!id && !isKnown && elapsed < 2000);
         QVERIFY2(id.failure().text.contains(u"\"photo\""_s), qPrintable(id.failure().text));

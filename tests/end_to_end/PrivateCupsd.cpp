@@ -142,7 +142,7 @@ bool PrivateCupsd::layOut()
         "Listen R/cups.sock\n" +
         (networkAddress_.isEmpty() ? QByteArray() : "Listen " + networkAddress_.toLatin1() + '\n') +
         "Browsing No\nWebInterface No\nDefaultAuthType None\nDefaultEncryption Never\n"
-        "ErrorPolicy abort-job\nLogLevel warn\n<Location />\nOrder allow,deny\nAllow all\n</Location>\n"
+        "ErrorPolicy abort-job\nLogLevel warn\nAccessLogLevel all\n<Location />\nOrder allow,deny\nAllow all\n</Location>\n"
         "<Policy default>\nJobPrivateAccess all\nJobPrivateValues none\nSubscriptionPrivateAccess all\n"
         "SubscriptionPrivateValues none\n<Limit All>\nOrder allow,deny\nAllow all\n</Limit>\n</Policy>\n";
     // What it keeps of a job appears at once and whole, by the folder's change of name.
@@ -244,6 +244,12 @@ RecordedJob PrivateCupsd::job(int id) const
         return readFile(folder + QString::fromLatin1(name));
     };
     return {part("title"), part("copies"), part("options"), part("environment"), part("document")};
+}
+
+qsizetype PrivateCupsd::requests(const QByteArray &line) const
+{
+    QFile log(path("log/access_log"));
+    return log.open(QIODevice::ReadOnly) ? log.readAll().count(line) : -1;
 }
 
 QByteArray PrivateCupsd::activeJobs()

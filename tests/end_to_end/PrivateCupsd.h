@@ -60,6 +60,8 @@ public:
     RecordedJob job(int id) const;
     /// The ids of the jobs that the scheduler has not finished, as lpstat shows them.
     QByteArray activeJobs();
+    /// How many requests there were that begin so: "GET /printers/photo.ppd".
+    qsizetype requests(const QByteArray &line) const;
 
 private:
     QString path(const char *name) const;

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: Corvel print dialog authors
 // SPDX-License-Identifier: Apache-2.0
 
+#include "CupsConnection.h"
 #include "JobFollowing.h"
 #include "JobSubmission.h"
 #include "PlainText.h"
@@ -206,7 +207,8 @@ void QueuesTest::badServerCostsOneSentenceInTime()
     FollowLimits limits;
     limits.total = 300ms;
     timer.start();
-    QVERIFY(!followJob(u"photo"_s, 1, limits));
+    CupsConnection connection(10s);
+    QVERIFY(!followJob(connection, u"photo"_s, 1, limits));
     QVERIFY(timer.elapsed() < 1500);
 
     // Given up by another thread while the server keeps it waiting.
@@ -241,8 +243,9 @@ void QueuesTest::hostileAnswersCostLittle()
             const StubServer server(manner);
             QVERIFY(isRefused(sweepQueues(10s, nullptr)));
             QVERIFY(isRefused(queueNamed(u"photo"_s, 10s)));
-            QVERIFY(manner != Manner::Nesting || isRefused(followJob(u"photo"_s, 1, {})));
-            QVERIFY(manner != Manner::Nesting || isRefused(cancelJob(u"photo"_s, 1)));
+            CupsConnection connection(10s);
+            QVERIFY(manner != Manner::Nesting || isRefused(followJob(connection, u"photo"_s, 1, {})));
+            QVERIFY(manner != Manner::Nesting || isRefused(cancelJob(connection, u"photo"_s, 1)));
         }
         {
             const StubServer server(manner, Requests::Jobs);

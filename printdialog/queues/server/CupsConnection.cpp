@@ -19,7 +19,6 @@ namespace printdialog {
 
 namespace {
 
-constexpr auto cancelInterval = 100ms;
 /// A server on this machine accepts at once or not at all.
 constexpr auto loopbackLimit = 250ms;
 /// libcups sets SIGPIPE to be ignored when it is first used; a handler that somebody installed stays in
@@ -88,7 +87,6 @@ CupsConnection::CupsConnection(std::chrono::milliseconds limit, int *cancel)
     cupsSetServer(nullptr);
     server_ = QFile::decodeName(cupsServer());
     encryption_ = cupsEncryption();
-    connect();
 }
 
 CupsConnection::~CupsConnection()
@@ -98,8 +96,6 @@ CupsConnection::~CupsConnection()
 
 void CupsConnection::disconnect()
 {
-    if (http_)
-        httpSetTimeout(http_.get(), seconds(cancelInterval), nullptr, nullptr);
     socketLimit_.reset();
     http_.reset();
 }
@@ -124,7 +120,6 @@ bool CupsConnection::connect()
         return false;
     socketLimit_ = std::make_unique<SocketLimit>(http_.get(), deadline_, cancel_);
     socketLimit_->allow(overheadLimit);
-    httpSetTimeout(http_.get(), seconds(cancelInterval), goesOn, this);
     if (!socketLimit_->isInPlace() || (isUpgrade && httpEncryption(http_.get(), encryption_) != 0))
         disconnect();
     return isOpen();
@@ -148,16 +143,11 @@ bool CupsConnection::isCancelled() const
     return cancel_ && std::atomic_ref(*cancel_).load() != 0;
 }
 
-void CupsConnection::ignoreCancel()
+void CupsConnection::heed(int *cancel)
 {
-    cancel_ = nullptr;
+    cancel_ = cancel;
     if (socketLimit_)
-        socketLimit_->ignoreCancel();
-}
-
-int CupsConnection::goesOn(http_t *, void *self)
-{
-    return static_cast<CupsConnection *>(self)->socketLimit_->isOver() ? 0 : 1;
+        socketLimit_->heed(cancel);
 }
 
 QString CupsConnection::unreachableReason() const
@@ -171,6 +161,8 @@ Failure<QueueFault> CupsConnection::lastFailure(const QString &queue) const
 {
     if (isCancelled())
         return queueFailure(QueueFault::Cancelled, queue);
+    if (end_ == End::Nobody)
+        return queueFailure(QueueFault::NoServer, queue, unreachableReason());
     if (socketLimit_ ? socketLimit_->isOver() : SocketLimit::Clock::now() >= deadline_) {
         return queueFailure(QueueFault::TimedOut, queue,
                             QCoreApplication::translate("CupsConnection", "it gave no answer within %1 s")
@@ -186,6 +178,7 @@ Failure<QueueFault> CupsConnection::lastFailure(const QString &queue) const
         if (!hasSucceeded())
             return queueFailure(faultOf(status_), queue, words_);
         break;
+    case End::Nobody:
     case End::Unfit:
         break;
     }

@@ -28,25 +28,23 @@ struct HttpCloser
 class CupsConnection
 {
 public:
-    /// Connects. The limit is for connecting and for everything afterwards, until extend() starts it anew; it
-    /// holds for a server that sends a byte now and then as well as for a silent one.
-    /// @param cancel non-zero once it shall give up, looked at twenty times a second; outlives the
-    /// connection; may be null
+    /// Connects for the first request, and again for one that finds the connection closed. The limit is for
+    /// connecting and for everything afterwards, until extend() starts it anew; it holds for a server that
+    /// sends a byte now and then as well as for a silent one.
+    /// @param cancel see heed()
     explicit CupsConnection(std::chrono::milliseconds limit, int *cancel = nullptr);
     ~CupsConnection();
     Q_DISABLE_COPY_MOVE(CupsConnection)
 
-    bool isOpen() const { return socketLimit_ != nullptr; }
     /// Starts the time limit anew, after progress.
     void extend();
     /// Starts another one.
     void extend(std::chrono::milliseconds limit);
-    /// Why nobody was reached, for people.
-    QString unreachableReason() const;
 
     bool isCancelled() const;
-    /// From now on only the time limit ends it.
-    void ignoreCancel();
+    /// From now on this flag, non-zero, ends what is under way, besides the time limit. Looked at twenty
+    /// times a second; outlives the connection; may be null.
+    void heed(int *cancel);
 
     /// Sends the request, and reads the answer; null when there is none that can be used. The answer may tell
     /// of a failure: see status().
@@ -81,11 +79,13 @@ private:
     enum class End {
         Answered, ///< See status_.
         Http,     ///< The server has refused it before it was IPP; see httpStatus_.
+        Nobody,   ///< Nobody was there.
         Broken,   ///< The connection broke.
         Unfit     ///< The answer is too large or malformed.
     };
 
-    static int goesOn(http_t *, void *self);
+    bool isOpen() const { return socketLimit_ != nullptr; }
+    QString unreachableReason() const;
     bool connect();
     void disconnect();
     /// A connection for one more request.

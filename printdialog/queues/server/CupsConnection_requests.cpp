@@ -80,7 +80,7 @@ bool CupsConnection::prepare()
     if (!isOpen() || isSpent_ || httpGetFd(http_.get()) < 0 ||
         httpGetState(http_.get()) != HTTP_STATE_WAITING) {
         if (!connect()) {
-            fail(End::Broken);
+            fail(End::Nobody);
             return false;
         }
     }

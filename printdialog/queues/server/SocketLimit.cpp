@@ -98,14 +98,23 @@ bool SocketLimit::takePlace(http_t *http)
 
 void SocketLimit::setDeadline(Clock::time_point deadline)
 {
-    const std::lock_guard lock(mutex_);
-    deadline_ = deadline;
+    bool isEarlier = false;
+    {
+        const std::lock_guard lock(mutex_);
+        isEarlier = deadline < deadline_;
+        deadline_ = deadline;
+    }
+    if (isEarlier)
+        eventfd_write(wake_, 1);
 }
 
-void SocketLimit::ignoreCancel()
+void SocketLimit::heed(int *cancel)
 {
-    const std::lock_guard lock(mutex_);
-    cancel_ = nullptr;
+    {
+        const std::lock_guard lock(mutex_);
+        cancel_ = cancel;
+    }
+    eventfd_write(wake_, 1);
 }
 
 void SocketLimit::allow(qint64 bytes)

@@ -33,7 +33,7 @@ public:
     /// Whether it stands there; otherwise there were no descriptors left, and the connection is of no use.
     bool isInPlace() const { return thread_.joinable(); }
     void setDeadline(Clock::time_point deadline);
-    void ignoreCancel();
+    void heed(int *cancel);
     /// How many bytes the server may send from now on; none at first. More of them wait, and when libcups
     /// waits for them, too, the connection is ended after a second.
     void allow(qint64 bytes);
