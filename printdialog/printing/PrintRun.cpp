@@ -3,8 +3,12 @@
 
 #include "PrintRun.h"
 
+#include "PhotoCheck.h"
+
 #include <algorithm>
 #include <atomic>
+#include <memory>
+#include <optional>
 
 namespace printdialog {
 
@@ -27,12 +31,17 @@ bool PrintRun::isRaised(int *flag)
 PrintOutcome PrintRun::print(qsizetype count, const PhotoSource &photos)
 {
     outcome_.total = static_cast<int>(count);
+    // The next photo is looked at while this one is printed: a check takes longer than all the rest.
+    auto next = count > 0 ? std::optional(photos(0)) : std::nullopt;
     for (index_ = 0; index_ < count && !isRaised(flags_.cancel); ++index_) {
-        const auto placed = photos(index_);
+        const auto placed = *std::move(next);
         if (!placed) {
             outcome_.failure = placed.failure().text;
             break;
         }
+        next = index_ + 1 < count ? std::optional(photos(index_ + 1)) : std::nullopt;
+        const bool looksAhead = !placed->isAccepted && next && *next && !(*next)->isAccepted;
+        const auto check = looksAhead ? std::make_unique<PhotoCheck>((*next)->photo) : nullptr;
         if (!isRaised(flags_.cancel) && !printOne(*placed))
             break;
     }

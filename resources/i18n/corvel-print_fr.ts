@@ -1583,15 +1583,15 @@ Exemples&#x202f;:
     </message>
     <message>
         <source>What has become of %1 (job %2) is not known: %3</source>
-        <translation>On ne sait pas ce qu’est devenue %1 (tâche %2) : %3</translation>
+        <translation>On ne sait pas ce qu’est devenue %1 (tâche %2)&#xa0;: %3</translation>
     </message>
     <message>
         <source>%1 (job %2) is not printed yet: %3. The print server keeps it; &quot;cancel %2&quot; takes it back.</source>
-        <translation>%1 (tâche %2) n’est pas encore imprimée : %3. Le serveur d’impression la garde ; « cancel %2 » la retire.</translation>
+        <translation>%1 (tâche %2) n’est pas encore imprimée&#xa0;: %3. Le serveur d’impression la garde&#xa0;; «&#xa0;cancel %2&#xa0;» la retire.</translation>
     </message>
     <message>
         <source>The printer &quot;%1&quot; could not print %2 (job %3): %4. Look at the printer and print again.</source>
-        <translation>L’imprimante « %1 » n’a pas pu imprimer %2 (tâche %3) : %4. Vérifiez l’imprimante et relancez l’impression.</translation>
+        <translation>L’imprimante «&#xa0;%1&#xa0;» n’a pas pu imprimer %2 (tâche %3)&#xa0;: %4. Vérifiez l’imprimante et relancez l’impression.</translation>
     </message>
     <message>
         <source>it gave no reason</source>
@@ -1599,7 +1599,7 @@ Exemples&#x202f;:
     </message>
     <message>
         <source>The job %3 for %2 on the printer &quot;%1&quot; was cancelled (%4).</source>
-        <translation>La tâche %3 pour %2 sur l’imprimante « %1 » a été annulée (%4).</translation>
+        <translation>La tâche %3 pour %2 sur l’imprimante «&#xa0;%1&#xa0;» a été annulée (%4).</translation>
     </message>
     <message>
         <source>nobody said why</source>
@@ -1611,7 +1611,7 @@ Exemples&#x202f;:
     </message>
     <message>
         <source>The job %1 for %2 could not be cancelled: %3</source>
-        <translation>La tâche %1 pour %2 n’a pas pu être annulée : %3</translation>
+        <translation>La tâche %1 pour %2 n’a pas pu être annulée&#xa0;: %3</translation>
     </message>
 </context>
 <context>
