@@ -115,14 +115,6 @@ QList<LpoptionsFile::Entry> LpoptionsFile::entries() const
     return entries;
 }
 
-bool LpoptionsFile::has(const Destination &destination) const
-{
-    return std::ranges::any_of(lines_, [&](const QByteArray &text) {
-        const auto line = parsed(text);
-        return line && line->isOf(destination);
-    });
-}
-
 bool LpoptionsFile::set(const Destination &destination, const QMap<QString, QString> &options)
 {
     QByteArray text;

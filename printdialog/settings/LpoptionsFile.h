@@ -30,7 +30,6 @@ public:
 
     /// In the file's order; what is no entry is left out.
     QList<Entry> entries() const;
-    bool has(const Destination &destination) const;
 
     /// Puts the options in the place of those the entry has, or adds it at the end. False: its line would be
     /// too long.

@@ -66,13 +66,6 @@ ColourProfile ColourProfile::fromIcc(const QByteArray &icc)
     return result;
 }
 
-ColourProfile ColourProfile::of(const QImage &image)
-{
-    const QColorSpace space = image.colorSpace();
-    return space.isValid() && space != QColorSpace(QColorSpace::SRgb) ? fromIcc(space.iccProfile())
-                                                                      : ColourProfile();
-}
-
 bool ColourProfile::isSrgb() const
 {
     return QColorSpace::fromIccProfile(icc_) == QColorSpace(QColorSpace::SRgb);

@@ -16,8 +16,6 @@ public:
 
     /// From an untrusted ICC profile; no profile when it cannot be read or is not one of pictures.
     static ColourProfile fromIcc(const QByteArray &icc);
-    /// From what an image reader has found beside the pixels.
-    static ColourProfile of(const QImage &image);
 
     bool isEmpty() const { return icc_.isEmpty(); }
     /// What everything takes colours for that come without a profile.
