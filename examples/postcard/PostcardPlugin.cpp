@@ -1,24 +1,42 @@
 // SPDX-FileCopyrightText: Corvel print dialog authors
 // SPDX-License-Identifier: Apache-2.0
 
-#include "PostcardPlugin.h"
+#include <pdekit/Bundle.h>
+#include <pdekit/OptionPanel.h>
+#include <pdekit/PrintDialogPlugin.h>
 
-#include "BorderPanel.h"
-
-bool PostcardPlugin::initWithBundle(const pdekit::Bundle &bundle)
+/// The plug-in's principal class. It has one page, with a pop-up for the PPD option "Border".
+class PostcardPlugin : public QObject, public pdekit::PrintDialogPlugin
 {
-    bundle_ = bundle;
-    return bundle.identifier() == QLatin1String("org.corvel.examples.Postcard");
-}
+    Q_OBJECT
+    Q_PLUGIN_METADATA(IID PrintDialogPlugin_iid FILE "Info.json")
+    Q_INTERFACES(pdekit::PrintDialogPlugin)
 
-std::optional<pdekit::PanelList>
-PostcardPlugin::PDEPanelsForTypeWithHostInfo(const QString &type, const pdekit::HostInfo &hostInfo)
-{
-    if (type != QLatin1String(pdekit::PrinterPanelsType))
-        return std::nullopt;
-    pdekit::PanelList panels;
-    panels.push_back(std::make_unique<BorderPanel>(*bundle_, hostInfo));
-    return panels;
-}
+public:
+    bool initWithBundle(const pdekit::Bundle &bundle) override
+    {
+        bundle_ = bundle;
+        return bundle.identifier() == QLatin1String("org.corvel.examples.Postcard");
+    }
 
-#include "moc_PostcardPlugin.cpp"
+    std::optional<pdekit::PanelList> PDEPanelsForTypeWithHostInfo(const QString &type,
+                                                                  const pdekit::HostInfo &hostInfo) override
+    {
+        if (type != QLatin1String(pdekit::PrinterPanelsType))
+            return std::nullopt;
+        const pdekit::OptionPanel::Control popUp = {1, QStringLiteral("Border")};
+        pdekit::PanelList panels;
+        panels.push_back(
+            std::make_unique<pdekit::OptionPanel>(*bundle_, hostInfo,
+                                                  pdekit::OptionPanel::Page{QStringLiteral("Postcard Border"),
+                                                                            QStringLiteral("border"),
+                                                                            QStringLiteral("border"),
+                                                                            {popUp}}));
+        return panels;
+    }
+
+private:
+    std::optional<pdekit::Bundle> bundle_;
+};
+
+#include "PostcardPlugin.moc"

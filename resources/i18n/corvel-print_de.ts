@@ -1270,6 +1270,17 @@ Beispiele:
     </message>
 </context>
 <context>
+    <name>pdekit::OptionPanel</name>
+    <message>
+        <source>the printer has no PPD file</source>
+        <translation>der Drucker hat keine PPD-Datei</translation>
+    </message>
+    <message>
+        <source>the job has no print settings</source>
+        <translation>der Auftrag hat keine Druckeinstellungen</translation>
+    </message>
+</context>
+<context>
     <name>printdialog::ChoiceCallout</name>
     <message>
         <source>Dismiss (Esc)</source>

@@ -1269,6 +1269,17 @@ Ejemplos:
     </message>
 </context>
 <context>
+    <name>pdekit::OptionPanel</name>
+    <message>
+        <source>the printer has no PPD file</source>
+        <translation>la impresora no tiene archivo PPD</translation>
+    </message>
+    <message>
+        <source>the job has no print settings</source>
+        <translation>el trabajo no tiene ajustes de impresión</translation>
+    </message>
+</context>
+<context>
     <name>printdialog::ChoiceCallout</name>
     <message>
         <source>Dismiss (Esc)</source>

@@ -1270,6 +1270,17 @@ Exemples&#x202f;:
     </message>
 </context>
 <context>
+    <name>pdekit::OptionPanel</name>
+    <message>
+        <source>the printer has no PPD file</source>
+        <translation>l’imprimante n’a pas de fichier PPD</translation>
+    </message>
+    <message>
+        <source>the job has no print settings</source>
+        <translation>la tâche n’a pas de réglages d’impression</translation>
+    </message>
+</context>
+<context>
     <name>printdialog::ChoiceCallout</name>
     <message>
         <source>Dismiss (Esc)</source>

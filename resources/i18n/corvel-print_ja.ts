@@ -1268,6 +1268,17 @@ Examples:
     </message>
 </context>
 <context>
+    <name>pdekit::OptionPanel</name>
+    <message>
+        <source>the printer has no PPD file</source>
+        <translation>プリンターにPPDファイルがありません</translation>
+    </message>
+    <message>
+        <source>the job has no print settings</source>
+        <translation>ジョブに印刷設定がありません</translation>
+    </message>
+</context>
+<context>
     <name>printdialog::ChoiceCallout</name>
     <message>
         <source>Dismiss (Esc)</source>
