@@ -4,8 +4,8 @@
 #include "OptionTable.h"
 
 #include "DialogSession.h"
+#include "GuardedPanel.h"
 #include "NumericChoices.h"
-#include "PrintDialogPanel.h"
 
 #include <QtCore/QJsonObject>
 
@@ -20,12 +20,11 @@ namespace {
 QHash<QString, QString> panelNames(const DialogSession &session)
 {
     QHash<QString, QString> names;
-    for (const pdekit::PanelPointer &panel : session.panels()) {
-        const QString name = panel->panelName().value_or(QString());
-        const QStringList keys = panel->supportedPPDOptionKeys();
+    for (const auto &panel : session.panels()) {
+        const QStringList keys = panel->keys();
         for (const QString &key : keys) {
             if (!names.contains(key))
-                names.insert(key, name);
+                names.insert(key, panel->name());
         }
     }
     return names;

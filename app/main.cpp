@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: Corvel print dialog authors
 // SPDX-License-Identifier: Apache-2.0
 
+#include "ActionGuard.h"
 #include "BatchRun.h"
 #include "CommandLine.h"
 #include "Console.h"
@@ -22,6 +23,24 @@
 using namespace printdialog;
 
 namespace {
+
+/// Lets no exception of a panel's own event handlers out into Qt's event loop, which would end the program.
+class GuardedApplication final : public QApplication
+{
+public:
+    using QApplication::QApplication;
+
+    bool notify(QObject *receiver, QEvent *event) override
+    {
+        try {
+            return QApplication::notify(receiver, event);
+        } catch (...) {
+            if (!pdekit::handleFailure(receiver))
+                throw;
+            return true;
+        }
+    }
+};
 
 /// Loads the program's texts in the first of the user's languages that it has. The texts in the source are
 /// the English ones, but for their plural forms.
@@ -170,7 +189,7 @@ int main(int argc, char *argv[])
         qputenv("CUPS_SERVER", commandLine->server->toLocal8Bit());
     if (!choosePlatform(*commandLine))
         return failWithoutDisplay(argc, argv);
-    QApplication application(argc, argv);
+    GuardedApplication application(argc, argv);
     loadTranslations(application);
     if (commandLine->runsWithoutWindow())
         return runWithoutWindow(*commandLine);

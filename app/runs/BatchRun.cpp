@@ -40,6 +40,8 @@ int BatchRun::run()
                         .arg(session.ppd().pageSizes().constFirst().keyword));
     if (!made)
         return fail(made.failure().text);
+    if (!made->missing.isEmpty())
+        return fail(Console::oneLine(made->missing));
     for (const QString &remark : made->remarks)
         console_.complain(remark);
     if (commandLine_.summary)

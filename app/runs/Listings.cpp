@@ -141,6 +141,8 @@ int listOptions(const CommandLine &commandLine, Console &console)
     const auto job = session.jobOptions();
     if (!job && !commandLine.options.isEmpty())
         return fail(console, job.failure().text);
+    if (job && !job->missing.isEmpty())
+        return fail(console, Console::oneLine(job->missing));
     const OptionTable table(session);
     if (commandLine.json)
         console.writeJson(table.json());
@@ -155,8 +157,9 @@ int showSummary(const CommandLine &commandLine, Console &console)
     if (!opened)
         return exitFailed;
     DialogSession &session = *opened->session;
-    if (const auto job = session.jobOptions(); !job)
-        return fail(console, job.failure().text);
+    const auto job = session.jobOptions();
+    if (!job || !job->missing.isEmpty())
+        return fail(console, job ? Console::oneLine(job->missing) : job.failure().text);
     const SummaryEntries entries = jobSummary(session, opened->copies, {commandLine.placement});
     if (!commandLine.json) {
         console.writeLines(summaryLines(entries));

@@ -147,6 +147,7 @@ Result<RequestedSession, std::monostate> openRequestedSession(const CommandLine 
         if (ruling.verdict != Verdict::Accepted)
             return refusal(ruling.text);
     }
+    requested.leftOut += requested.session->restoreFailures();
     return requested;
 }
 

@@ -15,9 +15,9 @@ namespace printdialog {
 struct RequestedSession
 {
     std::unique_ptr<DialogSession> session;
-    int copies = 1; ///< as asked for, or else the preset's
-    QStringList
-        leftOut; ///< a line about choices of the preset, and one about panels, that there are not here
+    int copies = 1;      ///< as asked for, or else the preset's
+    QStringList leftOut; ///< a line about choices of the preset, and one about panels, that there are not
+                         ///< here, and one for each panel that could not read the job's choices
 };
 
 /// Opens the printer that the command line asks for: the built-in one by its name or with --ppd, the queue

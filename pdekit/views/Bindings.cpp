@@ -3,6 +3,7 @@
 
 #include "Bindings.h"
 
+#include "ActionGuard.h"
 #include "ControlValues.h"
 #include "KeyValueObject.h"
 #include "RadioMatrix.h"
@@ -52,7 +53,7 @@ void bindValue(QWidget *control, KeyValueObject *owner, const QString &key)
         if (shown && owner->property(property.constData()).toString() != *shown)
             owner->setProperty(property.constData(), *shown);
     };
-    connectValueChange(control, owner, follow);
+    connectValueChange(control, owner, [control, follow] { guardAction(control, follow); });
     QObject::connect(owner, &KeyValueObject::valueDidChange, control,
                      [control, owner, key, property](const QString &changed) {
                          if (changed != key)

@@ -3,6 +3,7 @@
 
 #include "ControlAction.h"
 
+#include "ActionGuard.h"
 #include "ControlValues.h"
 #include "RadioMatrix.h"
 
@@ -34,30 +35,12 @@ void connectButton(QAbstractButton *button, QObject *context, const std::functio
     });
 }
 
-QWidget *acting = nullptr; // the main thread's
-
 } // namespace
 
-QWidget *actingControl()
+bool connectAction(QWidget *control, QObject *context, const std::function<void()> &unguarded)
 {
-    return acting;
-}
-
-ActingControl::ActingControl(QWidget *control)
-    : outer_(std::exchange(acting, control))
-{
-}
-
-ActingControl::~ActingControl()
-{
-    acting = outer_;
-}
-
-bool connectAction(QWidget *control, QObject *context, const std::function<void()> &performed)
-{
-    const auto action = [control, performed] {
-        const ActingControl scope(control);
-        performed();
+    const auto action = [control, unguarded] {
+        guardAction(control, unguarded);
     };
     if (auto *slider = qobject_cast<QAbstractSlider *>(control)) {
         // Not actionTriggered: an assistive tool sets the value itself.

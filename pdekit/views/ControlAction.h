@@ -5,8 +5,6 @@
 
 #include "pdekit_export.h"
 
-#include <QtCore/QtGlobal>
-
 #include <functional>
 
 class QObject;
@@ -19,21 +17,5 @@ namespace pdekit {
 /// value that a program sets (ControlValues.h) is no action. Ends with `context`. False when the widget has
 /// no such action; a text field's are TextFieldEvents.
 PDEKIT_EXPORT bool connectAction(QWidget *control, QObject *context, const std::function<void()> &action);
-
-/// The control whose action is being performed, or whose text the user is changing: the innermost one. Null
-/// outside of actions. For the dialog, which is asked by a panel and wants to answer beside the control.
-PDEKIT_EXPORT QWidget *actingControl();
-
-/// Makes a control the acting one, until it goes.
-class PDEKIT_EXPORT ActingControl
-{
-public:
-    explicit ActingControl(QWidget *control);
-    ~ActingControl();
-    Q_DISABLE_COPY_MOVE(ActingControl)
-
-private:
-    QWidget *outer_;
-};
 
 } // namespace pdekit

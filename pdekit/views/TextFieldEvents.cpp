@@ -3,7 +3,7 @@
 
 #include "TextFieldEvents.h"
 
-#include "ControlAction.h"
+#include "ActionGuard.h"
 
 #include <QtGui/QKeyEvent>
 #include <QtWidgets/QLineEdit>
@@ -30,8 +30,7 @@ TextFieldEvents::TextFieldEvents(QLineEdit *field)
 void TextFieldEvents::noteEdit()
 {
     edited_ = true;
-    const ActingControl scope(static_cast<QLineEdit *>(parent()));
-    Q_EMIT textDidChange();
+    guardAction(parent(), [this] { Q_EMIT textDidChange(); });
 }
 
 // QLineEdit tells of Return before it tells that editing has finished; and it tells of the latter also when
@@ -39,11 +38,10 @@ void TextFieldEvents::noteEdit()
 void TextFieldEvents::finishEditing()
 {
     const bool byReturn = std::exchange(returnPressed_, false);
-    const ActingControl scope(static_cast<QLineEdit *>(parent()));
     if (std::exchange(edited_, false) || byReturn)
-        Q_EMIT textDidEndEditing();
+        guardAction(parent(), [this] { Q_EMIT textDidEndEditing(); });
     if (byReturn)
-        Q_EMIT action();
+        guardAction(parent(), [this] { Q_EMIT action(); });
 }
 
 // Return belongs to the field: it must not reach the dialog, whose default button would print.

@@ -98,6 +98,12 @@ void ChosenOptions::adopt(const QStringList &keys)
     }
 }
 
+void ChosenOptions::forget(const QStringList &keys)
+{
+    for (const QString &key : keys)
+        chosenAt_.remove(key);
+}
+
 ChoicePlan ChosenOptions::plan(const QMap<QString, QString> &wanted, const QMap<QString, QString> &base) const
 {
     return marker_.plan(wanted, base);

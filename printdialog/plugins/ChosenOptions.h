@@ -63,6 +63,8 @@ public:
     QStringList chooseTogether(const QMap<QString, QString> &choices);
     /// Takes note of what a panel has saved for these options in the ticket.
     void adopt(const QStringList &keys);
+    /// Nobody counts as having chosen these options any more: their panel is lost. Their choices stay.
+    void forget(const QStringList &keys);
 
     /// See ChoiceMarker::plan: what of the wanted choices goes together, and with the others.
     ChoicePlan plan(const QMap<QString, QString> &wanted, const QMap<QString, QString> &base) const;

@@ -3,9 +3,9 @@
 
 #include "DialogSession.h"
 
+#include "ActionGuard.h"
 #include "CallbackObject.h"
-#include "ChoiceReceiver.h"
-#include "ControlAction.h"
+#include "GuardedPanel.h"
 
 #include <utility>
 
@@ -14,11 +14,6 @@ namespace printdialog {
 namespace {
 
 const QString pageSizeKey = QStringLiteral("PageSize");
-
-QObject *objectOf(pdekit::PrintDialogPanel &panel)
-{
-    return dynamic_cast<QObject *>(&panel);
-}
 
 } // namespace
 
@@ -53,15 +48,31 @@ std::optional<Failure<PluginFault>> DialogSession::loadPanels()
     auto panels = PluginLoader::panels(*plugin, callback_);
     if (!panels)
         return panels.failure();
-    panels_ = *std::move(panels);
     bundle_ = plugin->bundle;
-    for (const pdekit::PanelPointer &panel : panels_) {
-        panel->restoreValuesAndReturnError(nullptr);
-        const QStringList keys = panel->supportedPPDOptionKeys();
+    for (pdekit::PanelPointer &made : *panels) {
+        panels_.push_back(std::make_unique<GuardedPanel>(std::move(made)));
+        GuardedPanel *panel = panels_.back().get();
+        connect(panel, &GuardedPanel::lost, this, [this, panel] {
+            chosen_.forget(panel->keys());
+            Q_EMIT panelFailed(panel->loss());
+        });
+        connect(panel, &GuardedPanel::restoreFailed, this,
+                [this, panel] { Q_EMIT panelFailed(panel->restoreFailure()); });
+        panel->open();
+        const QStringList keys = panel->keys();
         for (const QString &key : keys)
             panelOf_.insert(key, panel.get());
     }
     return std::nullopt;
+}
+
+QStringList DialogSession::restoreFailures() const
+{
+    QStringList sentences;
+    for (const auto &panel : panels_)
+        sentences += panel->restoreFailure();
+    sentences.removeAll(QString());
+    return sentences;
 }
 
 // Choices
@@ -80,19 +91,19 @@ bool DialogSession::rule(const QString &key, const QString &choice)
 // A choice may change that of another option. The panel that has asked records its own choice itself.
 void DialogSession::tellPanels(const QString &askedKey)
 {
-    QList<pdekit::PrintDialogPanel *> told;
+    QList<GuardedPanel *> told;
     const QStringList keys = std::exchange(changedKeys_, {});
     for (const QString &key : keys) {
-        pdekit::PrintDialogPanel *panel = panelOf_.value(key);
+        GuardedPanel *panel = panelFor(key);
         const auto choice = chosen_.choice(key);
         if (key == askedKey || !panel || !choice)
             continue;
-        panel->PPDOptionKeyValueDidChangePpdChoice(key, choice);
+        panel->choiceDidChange(key, *choice);
         if (!told.contains(panel))
             told.append(panel);
     }
-    for (pdekit::PrintDialogPanel *panel : std::as_const(told))
-        panel->restoreValuesAndReturnError(nullptr);
+    for (GuardedPanel *panel : std::as_const(told))
+        panel->restore();
 }
 
 Ruling DialogSession::choose(const QString &key, const QString &choice)
@@ -100,23 +111,22 @@ Ruling DialogSession::choose(const QString &key, const QString &choice)
     const Ruling ruling = chosen_.weigh(key, choice);
     if (ruling.verdict != Verdict::Accepted)
         return ruling;
-    if (pdekit::PrintDialogPanel *panel = panelOf_.value(key))
+    if (GuardedPanel *panel = panelFor(key))
         return chooseThroughPanel(*panel, ruling);
     return chooseDirectly(ruling);
 }
 
-Ruling DialogSession::chooseThroughPanel(pdekit::PrintDialogPanel &panel, const Ruling &offered)
+Ruling DialogSession::chooseThroughPanel(GuardedPanel &panel, const Ruling &offered)
 {
-    auto *receiver = qobject_cast<pdekit::ChoiceReceiver *>(objectOf(panel));
-    if (!receiver) {
+    if (!panel.receivesChoices()) {
         Ruling ruling = chooseDirectly(offered);
-        panel.PPDOptionKeyValueDidChangePpdChoice(offered.key, offered.choice);
+        panel.choiceDidChange(offered.key, offered.choice);
         return ruling;
     }
     lastRuling_ = offered;
-    receiver->markChoiceForPPDOptionKeyFromSender(offered.choice, offered.key, nullptr);
+    panel.receiveChoice(offered.key, offered.choice);
     adoptChoices(panel);
-    return lastRuling_;
+    return panel.isLost() ? chooseDirectly(offered) : lastRuling_;
 }
 
 Ruling DialogSession::chooseDirectly(const Ruling &offered)
@@ -126,19 +136,19 @@ Ruling DialogSession::chooseDirectly(const Ruling &offered)
     return ruling;
 }
 
-void DialogSession::adoptChoices(pdekit::PrintDialogPanel &panel)
+void DialogSession::adoptChoices(GuardedPanel &panel)
 {
     if (mode_ != PanelMode::Settings)
         return;
-    panel.saveValuesAndReturnError(nullptr);
-    chosen_.adopt(panel.supportedPPDOptionKeys());
+    panel.save();
+    chosen_.adopt(panel.keys());
     changedKeys_.clear(); // the panel's own
 }
 
 void DialogSession::savePanels()
 {
-    for (const pdekit::PanelPointer &panel : panels_)
-        panel->saveValuesAndReturnError(nullptr);
+    for (const auto &panel : panels_)
+        panel->save();
     if (mode_ == PanelMode::Settings)
         chosen_.adopt(panelOf_.keys());
     changedKeys_.clear();
@@ -148,10 +158,16 @@ void DialogSession::savePanels()
 void DialogSession::refreshPanels()
 {
     begunKeys_.clear();
-    for (const pdekit::PanelPointer &panel : panels_) {
-        panel->saveValuesAndReturnError(nullptr);
-        panel->restoreValuesAndReturnError(nullptr);
+    for (const auto &panel : panels_) {
+        panel->save();
+        panel->restore();
     }
+}
+
+GuardedPanel *DialogSession::panelFor(const QString &key) const
+{
+    GuardedPanel *panel = panelOf_.value(key);
+    return panel && !panel->isLost() ? panel : nullptr;
 }
 
 // The job
@@ -159,14 +175,16 @@ void DialogSession::refreshPanels()
 QList<QPair<QString, QString>> DialogSession::summary()
 {
     QList<QPair<QString, QString>> entries;
-    for (const pdekit::PanelPointer &panel : panels_) {
-        auto info = panel->summaryInfo();
+    for (const auto &panel : panels_) {
+        auto info = panel->summary();
         if (!info)
             continue;
         // They come by name, so that another language would have another order.
-        const QStringList keys = panel->supportedPPDOptionKeys();
+        const QStringList keys = panel->keys();
         for (const QString &key : keys) {
-            const auto entry = info->constFind(bundle_->localizedString(key));
+            auto entry = info->constFind(bundle_->localizedString(key));
+            if (entry == info->cend())
+                entry = info->constFind(ppd_.optionText(key));
             if (entry == info->cend())
                 continue;
             entries.append({entry.key(), entry.value()});
@@ -181,9 +199,16 @@ QList<QPair<QString, QString>> DialogSession::summary()
 QStringList DialogSession::jobKeys() const
 {
     QStringList keys = {pageSizeKey};
-    for (const pdekit::PanelPointer &panel : panels_)
-        keys += panel->supportedPPDOptionKeys();
-    keys += chosen_.chosenKeys();
+    for (const auto &panel : panels_) {
+        if (panel->missing().isEmpty())
+            keys += panel->keys();
+    }
+    const QStringList chosen = chosen_.chosenKeys();
+    for (const QString &key : chosen) {
+        const GuardedPanel *panel = panelFor(key);
+        if (!panel || panel->missing().isEmpty())
+            keys += key;
+    }
     keys.removeDuplicates();
     return keys;
 }
@@ -193,6 +218,9 @@ Result<JobOptions, Verdict> DialogSession::jobOptions()
     finishTyping();
     savePanels();
     JobOptions job;
+    for (const auto &panel : panels_)
+        job.missing += panel->missing();
+    job.missing.removeAll(QString());
     if (mode_ == PanelMode::Settings) {
         const QList<Ruling> replaced = chosen_.markTicket();
         for (const Ruling &ruling : replaced)

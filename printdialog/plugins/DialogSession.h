@@ -16,11 +16,16 @@
 
 namespace printdialog {
 
+class GuardedPanel;
+using GuardedPanels = std::vector<std::unique_ptr<GuardedPanel>>;
+
 /// What is sent with a job.
 struct JobOptions
 {
     QMap<QString, QString> options; ///< option keyword to choice keyword, each one the PPD's
     QStringList dropped;            ///< a sentence for each recorded choice that is none of the PPD's
+    QStringList missing; ///< a sentence for each page that has not handed over its choices, which are not
+                         ///< among the options then
 };
 
 /// One opened printer: its PPD, its panels, and the choices made for the next job. The print system that the
@@ -40,7 +45,9 @@ public:
     /// Loads the panels that the PPD asks for, and restores them. Without them the session prints all the
     /// same. Nothing when the PPD asks for none or all went well.
     std::optional<Failure<PluginFault>> loadPanels();
-    const pdekit::PanelList &panels() const { return panels_; }
+    const GuardedPanels &panels() const { return panels_; }
+    /// A sentence for each panel that could not read the job's choices.
+    QStringList restoreFailures() const;
 
     /// Makes a choice as the user would: through the panel that supports the option, else with the print
     /// system itself. `choice` may be any text that stands for one of the option's choices. A choice that is
@@ -70,7 +77,7 @@ public:
 
     /// The user has acted on a control of the panel: where panels keep their choices themselves, they are
     /// taken note of.
-    void adoptChoices(pdekit::PrintDialogPanel &panel);
+    void adoptChoices(GuardedPanel &panel);
 
     /// What is chosen, with notices of each change.
     const ChosenOptions &chosen() const { return chosen_; }
@@ -89,12 +96,18 @@ public:
     /// stand in each other's way.
     const Ruling &jobRefusal() const { return jobRefusal_; }
 
+Q_SIGNALS:
+    /// A panel has been lost, or could not read the job's choices: a sentence for people. It may come in the
+    /// middle of any call of the session, and of an event of the panel's.
+    void panelFailed(const QString &sentence);
+
 private:
     bool rule(const QString &key, const QString &choice);
     void savePanels();
     void tellPanels(const QString &askedKey);
-    Ruling chooseThroughPanel(pdekit::PrintDialogPanel &panel, const Ruling &offered);
+    Ruling chooseThroughPanel(GuardedPanel &panel, const Ruling &offered);
     Ruling chooseDirectly(const Ruling &offered);
+    GuardedPanel *panelFor(const QString &key) const;
     QStringList jobKeys() const;
     void showReplaced(const QList<Ruling> &replaced);
 
@@ -104,9 +117,9 @@ private:
     ChosenOptions chosen_;
     SessionPrinter sessionPrinter_;
     pdekit::HostInfo callback_;
-    std::optional<pdekit::Bundle> bundle_; ///< of the panels
-    pdekit::PanelList panels_;             ///< after what they are made from, so that they go first
-    QHash<QString, pdekit::PrintDialogPanel *> panelOf_; ///< by option
+    std::optional<pdekit::Bundle> bundle_;   ///< of the panels
+    GuardedPanels panels_;                   ///< after what they are made from, so that they go first
+    QHash<QString, GuardedPanel *> panelOf_; ///< by option
     Ruling lastRuling_;
     Ruling jobRefusal_;
     QStringList changedKeys_; ///< options whose panels have not been told yet

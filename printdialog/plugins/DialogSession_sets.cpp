@@ -3,6 +3,8 @@
 
 #include "DialogSession.h"
 
+#include "GuardedPanel.h"
+
 #include <algorithm>
 #include <utility>
 
@@ -39,8 +41,8 @@ void DialogSession::finishTyping()
 {
     const QStringList keys = std::exchange(begunKeys_, {});
     for (const QString &key : keys) {
-        if (pdekit::PrintDialogPanel *panel = panelOf_.value(key))
-            panel->restoreValuesAndReturnError(nullptr);
+        if (GuardedPanel *panel = panelFor(key))
+            panel->restore();
     }
 }
 
@@ -49,15 +51,15 @@ void DialogSession::showReplaced(const QList<Ruling> &replaced)
     changedKeys_.clear();
     for (const Ruling &ruling : replaced) {
         const std::optional<QString> marked = ppd_.markedChoice(ruling.key);
-        pdekit::PrintDialogPanel *panel = panelOf_.value(ruling.key);
+        GuardedPanel *panel = panelFor(ruling.key);
         if (!marked || !panel)
             continue;
-        panel->PPDOptionKeyValueDidChangePpdChoice(ruling.key, marked);
+        panel->choiceDidChange(ruling.key, *marked);
         // A ticket without one of its options makes a panel take the defaults of all.
-        const QStringList keys = panel->supportedPPDOptionKeys();
+        const QStringList keys = panel->keys();
         const pdekit::PPDDictionary &recorded = chosen_.ticket().options();
         if (std::ranges::all_of(keys, [&recorded](const QString &key) { return recorded.contains(key); }))
-            panel->restoreValuesAndReturnError(nullptr);
+            panel->restore();
     }
 }
 

@@ -5,6 +5,7 @@
 
 #include "CorvelPaths.h"
 #include "PlainText.h"
+#include "PluginGuard.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QDir>
@@ -79,6 +80,13 @@ Failure<PluginFault> unusable(PluginFault fault, const QString &path, const QStr
         fault, Text::tr("The plug-in bundle \"%1\" cannot be used: %2. Install it again.").arg(path, reason));
 }
 
+Failure<PluginFault> failed(const QString &path, const QString &thrown)
+{
+    return failure(
+        PluginFault::Failed,
+        Text::tr("The plug-in of the bundle \"%1\" has failed: %2. Update the plug-in.").arg(path, thrown));
+}
+
 } // namespace
 
 QStringList PluginLoader::folders()
@@ -110,13 +118,18 @@ Result<LoadedPlugin, PluginFault> PluginLoader::load(const QStringList &names)
     loader.setLoadHints(QLibrary::PreventUnloadHint);
     if (loader.metaData().value(QLatin1String("IID")).toString() != QLatin1String(PrintDialogPlugin_iid))
         return unusable(PluginFault::NotAPlugin, *path, Text::tr("its module is not a print-dialog plug-in"));
-    QObject *root = loader.instance();
+    QObject *root = nullptr;
+    if (const auto thrown = thrownBy([&] { root = loader.instance(); }))
+        return failed(*path, *thrown);
     if (!root)
         return unusable(PluginFault::NotLoadable, *path, loader.errorString());
     auto *plugin = qobject_cast<pdekit::PrintDialogPlugin *>(root);
     if (!plugin)
         return unusable(PluginFault::NotAPlugin, *path, Text::tr("its module is not a print-dialog plug-in"));
-    if (!plugin->initWithBundle(*bundle)) {
+    bool isItsOwn = false;
+    if (const auto thrown = thrownBy([&] { isItsOwn = plugin->initWithBundle(*bundle); }))
+        return failed(*path, *thrown);
+    if (!isItsOwn) {
         return unusable(PluginFault::Refused, *path,
                         Text::tr("its identifier \"%1\" is not the one that its module was built for")
                             .arg(bundle->identifier()));
@@ -127,8 +140,13 @@ Result<LoadedPlugin, PluginFault> PluginLoader::load(const QStringList &names)
 Result<pdekit::PanelList, PluginFault> PluginLoader::panels(const LoadedPlugin &plugin,
                                                             const pdekit::HostInfo &hostInfo)
 {
-    auto panels =
-        plugin.plugin->PDEPanelsForTypeWithHostInfo(QString::fromLatin1(pdekit::PrinterPanelsType), hostInfo);
+    std::optional<pdekit::PanelList> panels;
+    const QString type = QString::fromLatin1(pdekit::PrinterPanelsType);
+    if (const auto thrown =
+            thrownBy([&] { panels = plugin.plugin->PDEPanelsForTypeWithHostInfo(type, hostInfo); }))
+        return failed(plugin.bundle.path(), *thrown);
+    if (panels)
+        std::erase(*panels, nullptr);
     if (!panels || panels->empty())
         return unusable(PluginFault::NoPanels, plugin.bundle.path(),
                         Text::tr("it offers no panel for this printer"));

@@ -18,6 +18,7 @@ enum class PluginFault {
     NotLoadable, ///< its module is missing or the dynamic linker refuses it
     NotAPlugin,  ///< its module is not a print-dialog plug-in
     Refused,     ///< the plug-in does not take the bundle for its own
+    Failed,      ///< the plug-in has thrown something
     NoPanels,    ///< it offers no panel for this printer
 };
 

@@ -35,7 +35,7 @@ Result<SessionJob, SessionJobFault> jobOf(DialogSession &session, int copies)
         job.ppd = ppd.data();
         job.directTypes = typesTakenAsTheyAre(ppd);
     }
-    return SessionJob{job, options->dropped};
+    return SessionJob{job, options->dropped, options->missing};
 }
 
 } // namespace printdialog

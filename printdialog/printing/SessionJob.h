@@ -23,6 +23,7 @@ struct SessionJob
 {
     PrintJob job;
     QStringList remarks; ///< A sentence for each recorded choice that is not the PPD's, and so left out.
+    QStringList missing; ///< See JobOptions.
 };
 
 /// Has the panels save their choices, and makes the job of them: the one way, so that the window and the

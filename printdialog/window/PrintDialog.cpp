@@ -6,6 +6,7 @@
 #include "ChoiceController.h"
 #include "DialogSession.h"
 #include "EscapeGuard.h"
+#include "GuardedPanel.h"
 #include "HelpWindow.h"
 #include "PlainText.h"
 #include "PpdFetcher.h"
@@ -196,7 +197,7 @@ void PrintDialog::browseFolder()
 
 void PrintDialog::showHelp()
 {
-    pdekit::PrintDialogPanel *panel = ui_->panels->currentPanel();
+    GuardedPanel *panel = ui_->panels->currentPanel();
     if (panel && !panel->shouldShowHelp())
         return;
     HelpWindow::showFor(this);

@@ -115,6 +115,7 @@ private:
     void takeSession(std::unique_ptr<DialogSession> session);
     void closeSession(const QString &reason);
     bool applyOptions();
+    void showPanelFailure(const QString &sentence);
     void clearMessage();
 
     // The page
@@ -126,6 +127,7 @@ private:
     void askAboutDamage();
     void finishPrinting(const PrintOutcome &outcome);
     std::optional<SessionJob> makeJob();
+    void askAboutMissing(const QStringList &missing);
     void cancelOrStop();
     void stopPrinting();
     QString whatGoesOn() const;
@@ -143,15 +145,16 @@ private:
     ChoiceController *choices_;
     PpdFetcher *fetcher_;
     PrintWorker *worker_;
-    QString builtInPreset_;   ///< the built-in printer is asked for with it; mostly empty
-    Queue queue_;             ///< the printer that is shown
-    QString whyNotReady_;     ///< why Print is off; empty when it is on
-    QStringList remarks_;     ///< what was left out of the job that is printed
-    PrintJob job_;            ///< of what is being printed, or was
-    bool hasPrinted_ = false; ///< there was a run, whatever became of it
-    bool isStopping_ = false; ///< the user wants what is printed stopped
-    bool isLeaving_ = false;  ///< what is asked is whether to close the window
-    QString notKept_;         ///< why the choices are not kept for the next time; mostly empty
+    QString builtInPreset_;       ///< the built-in printer is asked for with it; mostly empty
+    Queue queue_;                 ///< the printer that is shown
+    QString whyNotReady_;         ///< why Print is off; empty when it is on
+    QStringList remarks_;         ///< what was left out of the job that is printed
+    QStringList acceptedMissing_; ///< what is missing of the job, and the user prints without
+    PrintJob job_;                ///< of what is being printed, or was
+    bool hasPrinted_ = false;     ///< there was a run, whatever became of it
+    bool isStopping_ = false;     ///< the user wants what is printed stopped
+    bool isLeaving_ = false;      ///< what is asked is whether to close the window
+    QString notKept_;             ///< why the choices are not kept for the next time; mostly empty
 };
 
 } // namespace printdialog

@@ -277,6 +277,10 @@ void PrintDialog::takeSession(std::unique_ptr<DialogSession> session)
         if (change.key == pageSizeKey)
             showPageSize();
     });
+    // Not at once: it is part of what is being done, which has its own messages.
+    connect(session_.get(), &DialogSession::panelFailed, this, &PrintDialog::showPanelFailure,
+            Qt::QueuedConnection);
+    acceptedMissing_.clear();
     const auto noPanels = session_->loadPanels();
     choices_->setSession(session_.get(), wasChosenHere() ? QString() : builtInPreset_);
     if (applyOptions())
@@ -297,6 +301,14 @@ void PrintDialog::takeSession(std::unique_ptr<DialogSession> session)
         ui_->message->show(MessageBar::Kind::Information,
                            tr("This printer has no panels of its own; it prints with its defaults."));
     updateButtons();
+}
+
+void PrintDialog::showPanelFailure(const QString &sentence)
+{
+    if (ui_->message->isAsking())
+        return; // a page that is lost says so itself
+    const QString before = ui_->message->text();
+    ui_->message->show(MessageBar::Kind::Error, before.isEmpty() ? sentence : before + u'\n' + sentence);
 }
 
 // The options asked for hold until the user chooses another printer, which has choices of its own.

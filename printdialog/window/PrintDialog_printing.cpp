@@ -38,6 +38,10 @@ void PrintDialog::updateButtons()
 std::optional<SessionJob> PrintDialog::makeJob()
 {
     auto job = jobOf(*session_, ui_->copies->value());
+    if (job && !job->missing.isEmpty() && job->missing != acceptedMissing_) {
+        askAboutMissing(job->missing);
+        return std::nullopt;
+    }
     if (job) {
         notKept_ = choices_->keep(job->job.options);
         return *std::move(job);
@@ -92,6 +96,19 @@ void PrintDialog::askAboutDamage()
                                      ui_->photos->acceptDamagedPhotos();
                                      print();
                                  });
+}
+
+/// Pages that have not handed over their choices. It is printed once the user wants it without them.
+void PrintDialog::askAboutMissing(const QStringList &missing)
+{
+    ui_->message->showWithAction(
+        MessageBar::Kind::Warning,
+        missing.join(u'\n') + u'\n' +
+            tr("Print without these choices? The printer's own defaults take their place."),
+        tr("Print Without Them"), [this, missing] {
+            acceptedMissing_ = missing;
+            print();
+        });
 }
 
 void PrintDialog::finishPrinting(const PrintOutcome &outcome)
@@ -211,6 +228,11 @@ void PrintDialog::saveSettings()
     const auto options = session_->jobOptions();
     if (!options) {
         choices_->explainJob();
+        return;
+    }
+    if (!options->missing.isEmpty()) {
+        ui_->message->show(MessageBar::Kind::Error,
+                           options->missing.join(u'\n') + u'\n' + tr("Nothing is saved."));
         return;
     }
     const QString failure = choices_->keep(options->options);

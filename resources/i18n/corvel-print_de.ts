@@ -543,6 +543,13 @@ Beispiele:
     </message>
 </context>
 <context>
+    <name>PluginGuard</name>
+    <message>
+        <source>an error without a description</source>
+        <translation>ein Fehler ohne Beschreibung</translation>
+    </message>
+</context>
+<context>
     <name>PluginLoader</name>
     <message>
         <source>it is not a folder</source>
@@ -591,6 +598,10 @@ Beispiele:
     <message>
         <source>its module is not a print-dialog plug-in</source>
         <translation>sein Modul ist kein Plug-in für den Druckdialog</translation>
+    </message>
+    <message>
+        <source>The plug-in of the bundle &quot;%1&quot; has failed: %2. Update the plug-in.</source>
+        <translation>Das Plug-in im Paket „%1“ hat versagt: %2. Aktualisieren Sie das Plug-in.</translation>
     </message>
 </context>
 <context>
@@ -1349,6 +1360,29 @@ Beispiele:
     </message>
 </context>
 <context>
+    <name>printdialog::GuardedPanel</name>
+    <message>
+        <source>its plug-in gives no reason</source>
+        <translation>ihr Plug-in nennt keinen Grund</translation>
+    </message>
+    <message>
+        <source>The page &quot;%1&quot; was closed because its plug-in failed: %2. Update the plug-in. Everything else works.</source>
+        <translation>Die Seite „%1“ wurde geschlossen, weil ihr Plug-in versagt hat: %2. Aktualisieren Sie das Plug-in. Alles andere funktioniert.</translation>
+    </message>
+    <message>
+        <source>The choices of the page &quot;%1&quot; are missing, because its plug-in failed: %2. Update the plug-in.</source>
+        <translation>Die Einstellungen der Seite „%1“ fehlen, weil ihr Plug-in versagt hat: %2. Aktualisieren Sie das Plug-in.</translation>
+    </message>
+    <message>
+        <source>The choices of the page &quot;%1&quot; are missing, because it could not save them: %2.</source>
+        <translation>Die Einstellungen der Seite „%1“ fehlen, weil sie nicht gespeichert werden konnten: %2.</translation>
+    </message>
+    <message>
+        <source>The page &quot;%1&quot; could not read the job&apos;s choices, and may show other ones: %2.</source>
+        <translation>Die Seite „%1“ konnte die Einstellungen des Auftrags nicht lesen und zeigt vielleicht andere: %2.</translation>
+    </message>
+</context>
+<context>
     <name>printdialog::HelpWindow</name>
     <message>
         <source>Help</source>
@@ -1969,6 +2003,18 @@ Beispiele:
     <message>
         <source>Use the Built-in Printer</source>
         <translation>Eingebauten Drucker verwenden</translation>
+    </message>
+    <message>
+        <source>Print without these choices? The printer&apos;s own defaults take their place.</source>
+        <translation>Ohne diese Einstellungen drucken? An ihre Stelle treten die Voreinstellungen des Druckers.</translation>
+    </message>
+    <message>
+        <source>Print Without Them</source>
+        <translation>Ohne sie drucken</translation>
+    </message>
+    <message>
+        <source>Nothing is saved.</source>
+        <translation>Es wird nichts gespeichert.</translation>
     </message>
 </context>
 <context>

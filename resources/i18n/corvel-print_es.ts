@@ -542,6 +542,13 @@ Ejemplos:
     </message>
 </context>
 <context>
+    <name>PluginGuard</name>
+    <message>
+        <source>an error without a description</source>
+        <translation>un error sin descripción</translation>
+    </message>
+</context>
+<context>
     <name>PluginLoader</name>
     <message>
         <source>it is not a folder</source>
@@ -590,6 +597,10 @@ Ejemplos:
     <message>
         <source>its module is not a print-dialog plug-in</source>
         <translation>su módulo no es un complemento del diálogo de impresión</translation>
+    </message>
+    <message>
+        <source>The plug-in of the bundle &quot;%1&quot; has failed: %2. Update the plug-in.</source>
+        <translation>El complemento «%1» ha fallado: %2. Actualice el complemento.</translation>
     </message>
 </context>
 <context>
@@ -1348,6 +1359,29 @@ Ejemplos:
     </message>
 </context>
 <context>
+    <name>printdialog::GuardedPanel</name>
+    <message>
+        <source>its plug-in gives no reason</source>
+        <translation>su complemento no indica el motivo</translation>
+    </message>
+    <message>
+        <source>The page &quot;%1&quot; was closed because its plug-in failed: %2. Update the plug-in. Everything else works.</source>
+        <translation>Se ha cerrado la página «%1» porque su complemento ha fallado: %2. Actualice el complemento. Todo lo demás funciona.</translation>
+    </message>
+    <message>
+        <source>The choices of the page &quot;%1&quot; are missing, because its plug-in failed: %2. Update the plug-in.</source>
+        <translation>Faltan las opciones de la página «%1», porque su complemento ha fallado: %2. Actualice el complemento.</translation>
+    </message>
+    <message>
+        <source>The choices of the page &quot;%1&quot; are missing, because it could not save them: %2.</source>
+        <translation>Faltan las opciones de la página «%1», porque no ha podido guardarlas: %2.</translation>
+    </message>
+    <message>
+        <source>The page &quot;%1&quot; could not read the job&apos;s choices, and may show other ones: %2.</source>
+        <translation>La página «%1» no ha podido leer las opciones del trabajo y quizá muestre otras: %2.</translation>
+    </message>
+</context>
+<context>
     <name>printdialog::HelpWindow</name>
     <message>
         <source>Help</source>
@@ -1968,6 +2002,18 @@ Ejemplos:
     <message>
         <source>Use the Built-in Printer</source>
         <translation>Usar la impresora integrada</translation>
+    </message>
+    <message>
+        <source>Print without these choices? The printer&apos;s own defaults take their place.</source>
+        <translation>¿Imprimir sin estas opciones? En su lugar se usan los valores predeterminados de la impresora.</translation>
+    </message>
+    <message>
+        <source>Print Without Them</source>
+        <translation>Imprimir sin ellas</translation>
+    </message>
+    <message>
+        <source>Nothing is saved.</source>
+        <translation>No se guarda nada.</translation>
     </message>
 </context>
 <context>

@@ -543,6 +543,13 @@ Exemples&#x202f;:
     </message>
 </context>
 <context>
+    <name>PluginGuard</name>
+    <message>
+        <source>an error without a description</source>
+        <translation>une erreur sans description</translation>
+    </message>
+</context>
+<context>
     <name>PluginLoader</name>
     <message>
         <source>it is not a folder</source>
@@ -591,6 +598,10 @@ Exemples&#x202f;:
     <message>
         <source>its module is not a print-dialog plug-in</source>
         <translation>sa bibliothèque n’est pas une extension de la boîte de dialogue d’impression</translation>
+    </message>
+    <message>
+        <source>The plug-in of the bundle &quot;%1&quot; has failed: %2. Update the plug-in.</source>
+        <translation>Le module « %1 » a échoué : %2. Mettez le module à jour.</translation>
     </message>
 </context>
 <context>
@@ -1349,6 +1360,29 @@ Exemples&#x202f;:
     </message>
 </context>
 <context>
+    <name>printdialog::GuardedPanel</name>
+    <message>
+        <source>its plug-in gives no reason</source>
+        <translation>son module n’en donne pas la raison</translation>
+    </message>
+    <message>
+        <source>The page &quot;%1&quot; was closed because its plug-in failed: %2. Update the plug-in. Everything else works.</source>
+        <translation>La page « %1 » a été fermée parce que son module a échoué : %2. Mettez le module à jour. Tout le reste fonctionne.</translation>
+    </message>
+    <message>
+        <source>The choices of the page &quot;%1&quot; are missing, because its plug-in failed: %2. Update the plug-in.</source>
+        <translation>Les choix de la page « %1 » manquent, parce que son module a échoué : %2. Mettez le module à jour.</translation>
+    </message>
+    <message>
+        <source>The choices of the page &quot;%1&quot; are missing, because it could not save them: %2.</source>
+        <translation>Les choix de la page « %1 » manquent, parce qu’elle n’a pas pu les enregistrer : %2.</translation>
+    </message>
+    <message>
+        <source>The page &quot;%1&quot; could not read the job&apos;s choices, and may show other ones: %2.</source>
+        <translation>La page « %1 » n’a pas pu lire les choix de la tâche et en montre peut-être d’autres : %2.</translation>
+    </message>
+</context>
+<context>
     <name>printdialog::HelpWindow</name>
     <message>
         <source>Help</source>
@@ -1969,6 +2003,18 @@ Exemples&#x202f;:
     <message>
         <source>Use the Built-in Printer</source>
         <translation>Utiliser l’imprimante intégrée</translation>
+    </message>
+    <message>
+        <source>Print without these choices? The printer&apos;s own defaults take their place.</source>
+        <translation>Imprimer sans ces choix ? Les réglages par défaut de l’imprimante les remplacent.</translation>
+    </message>
+    <message>
+        <source>Print Without Them</source>
+        <translation>Imprimer sans eux</translation>
+    </message>
+    <message>
+        <source>Nothing is saved.</source>
+        <translation>Rien n’est enregistré.</translation>
     </message>
 </context>
 <context>

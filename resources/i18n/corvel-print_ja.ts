@@ -541,6 +541,13 @@ Examples:
     </message>
 </context>
 <context>
+    <name>PluginGuard</name>
+    <message>
+        <source>an error without a description</source>
+        <translation>説明のないエラー</translation>
+    </message>
+</context>
+<context>
     <name>PluginLoader</name>
     <message>
         <source>it is not a folder</source>
@@ -589,6 +596,10 @@ Examples:
     <message>
         <source>its module is not a print-dialog plug-in</source>
         <translation>モジュールが印刷ダイアログのプラグインではありません</translation>
+    </message>
+    <message>
+        <source>The plug-in of the bundle &quot;%1&quot; has failed: %2. Update the plug-in.</source>
+        <translation>プラグイン「%1」でエラーが起きました: %2。プラグインを更新してください。</translation>
     </message>
 </context>
 <context>
@@ -1347,6 +1358,29 @@ Examples:
     </message>
 </context>
 <context>
+    <name>printdialog::GuardedPanel</name>
+    <message>
+        <source>its plug-in gives no reason</source>
+        <translation>プラグインは理由を示していません</translation>
+    </message>
+    <message>
+        <source>The page &quot;%1&quot; was closed because its plug-in failed: %2. Update the plug-in. Everything else works.</source>
+        <translation>ページ「%1」は、プラグインでエラーが起きたため閉じました: %2。プラグインを更新してください。その他はすべて使えます。</translation>
+    </message>
+    <message>
+        <source>The choices of the page &quot;%1&quot; are missing, because its plug-in failed: %2. Update the plug-in.</source>
+        <translation>プラグインでエラーが起きたため、ページ「%1」の設定がありません: %2。プラグインを更新してください。</translation>
+    </message>
+    <message>
+        <source>The choices of the page &quot;%1&quot; are missing, because it could not save them: %2.</source>
+        <translation>ページ「%1」の設定は、保存できなかったためありません: %2。</translation>
+    </message>
+    <message>
+        <source>The page &quot;%1&quot; could not read the job&apos;s choices, and may show other ones: %2.</source>
+        <translation>ページ「%1」はジョブの設定を読み込めず、異なる設定を表示している可能性があります: %2。</translation>
+    </message>
+</context>
+<context>
     <name>printdialog::HelpWindow</name>
     <message>
         <source>Help</source>
@@ -1965,6 +1999,18 @@ Examples:
     <message>
         <source>Use the Built-in Printer</source>
         <translation>内蔵プリンターを使う</translation>
+    </message>
+    <message>
+        <source>Print without these choices? The printer&apos;s own defaults take their place.</source>
+        <translation>これらの設定なしで印刷しますか？代わりにプリンターの既定値が使われます。</translation>
+    </message>
+    <message>
+        <source>Print Without Them</source>
+        <translation>設定なしで印刷</translation>
+    </message>
+    <message>
+        <source>Nothing is saved.</source>
+        <translation>何も保存されません。</translation>
     </message>
 </context>
 <context>

@@ -133,6 +133,22 @@ class RefusalsTest(ProgramTest):
                 self.refuses(self.print(PHOTO, **place), 1, "Corvel9031.bundle", word)
                 self.refuses(run("--list-options", **place), 1, "Corvel9031.bundle", word)
 
+    def test_plugin_that_fails(self):
+        surroundings = {"CORVEL_PDE_PATH": os.environ["CORVEL_TEST_PDE_DIR"]}
+        postcard = "--ppd", os.environ["CORVEL_POSTCARD_PPD"]
+        for fault, *words in (("init:std", "Postcard.bundle", "no paper feed"),
+                              ("restore:platform", '"Border"', "missing", "no paper feed"),
+                              ("choice:int", '"Border"', "missing", "without a description"),
+                              ("save:std", '"Border"', "missing", "no paper feed"),
+                              ("save:false", '"Border"', "missing", "disk is full")):
+            for mode in MODES:
+                self.refuses(self.print("--mode", mode, *postcard, "-o", "Border=White", PHOTO, **surroundings,
+                                        CORVEL_TEST_FAULT=fault), 1, *words)
+        shown = run("--screenshot", self.out, *postcard, PHOTO, **surroundings, CORVEL_TEST_FAULT="event:std",
+                    QT_QPA_PLATFORM="offscreen")
+        self.assertEqual(shown.status, 0)
+        self.assertIn("border.png", self.names())
+
     # Nor are the extensions of other systems' dialogs, which a PPD may name as well.
     def test_panels_that_are_not_installed_are_no_loss(self):
         own = self.print("-o", "Red=12", PHOTO, CORVEL_PDE_PATH=str(self.folder))

@@ -100,7 +100,7 @@ void ChoiceSteps::noteAct(QWidget *control, bool goesOn)
 {
     if (!session_)
         return;
-    if (pdekit::PrintDialogPanel *panel = widgets_.panels->panelOf(control))
+    if (GuardedPanel *panel = widgets_.panels->panelOf(control))
         session_->adoptChoices(*panel);
     Q_EMIT acted(control, goesOn);
 }

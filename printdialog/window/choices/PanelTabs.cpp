@@ -4,11 +4,9 @@
 #include "PanelTabs.h"
 
 #include "DialogSession.h"
+#include "GuardedPanel.h"
 #include "Mnemonics.h"
-#include "PlatformException.h"
-#include "PrintDialogPanel.h"
 #include "SummaryPage.h"
-#include "SystemLog.h"
 
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QTabBar>
@@ -20,16 +18,6 @@ namespace {
 
 constexpr int pageMargin = 8;
 constexpr int handPlacedMargin = 17; // about what a view with a layout keeps free in the page
-
-QWidget *viewOf(pdekit::PrintDialogPanel &panel)
-{
-    try {
-        return panel.panelView();
-    } catch (const pdekit::PlatformException &exception) {
-        pdekit::systemLog(exception.description());
-        return nullptr;
-    }
-}
 
 /// What the keyboard reaches in the view, in the order of its form.
 QList<QWidget *> focusChain(QWidget *view)
@@ -70,14 +58,19 @@ void PanelTabs::makePages()
     panelOf_.clear();
     if (!session_)
         return;
-    for (const pdekit::PanelPointer &panel : session_->panels()) {
+    for (const auto &panel : session_->panels()) {
         auto *holder = new QWidget;
         auto *layout = new QVBoxLayout(holder);
         layout->setContentsMargins(pageMargin, pageMargin, pageMargin, pageMargin);
         pages_.append({panel.get(), holder});
         panelOf_.insert(holder, panel.get());
         // A name is not a button's text: an ampersand in it is one.
-        addTab(holder, panel->panelName().value_or(tr("Options")).replace(u'&', QStringLiteral("&&")));
+        const QString name = panel->name().isEmpty() ? tr("Options") : panel->name();
+        addTab(holder, QString(name).replace(u'&', QStringLiteral("&&")));
+        // Not at once: the event may be one of the view's.
+        connect(
+            panel.get(), &GuardedPanel::lost, holder, [this, lost = panel.get()] { closePage(lost); },
+            Qt::QueuedConnection);
     }
     addTab(summary_, tr("Summary"));
     markTabs();
@@ -113,13 +106,13 @@ void PanelTabs::turnPages(int pages)
         setCurrentIndex((currentIndex() + pages + count()) % count());
 }
 
-pdekit::PrintDialogPanel *PanelTabs::currentPanel() const
+GuardedPanel *PanelTabs::currentPanel() const
 {
     const int page = currentIndex();
     return page >= 0 && page < pages_.size() ? pages_.at(page).panel : nullptr;
 }
 
-pdekit::PrintDialogPanel *PanelTabs::panelOf(const QWidget *control) const
+GuardedPanel *PanelTabs::panelOf(const QWidget *control) const
 {
     while (control && !panelOf_.contains(control))
         control = control->parentWidget();
@@ -130,7 +123,7 @@ QString PanelTabs::kindSuffix(int page) const
 {
     if (page < 0 || page >= pages_.size())
         return {};
-    return pages_.at(page).panel->panelKind().value_or(QString()).section(QLatin1Char('.'), -1);
+    return pages_.at(page).panel->kind().section(QLatin1Char('.'), -1);
 }
 
 QSize PanelTabs::sizeHint() const
@@ -161,7 +154,7 @@ void PanelTabs::fillPage(Page &page)
     if (page.wasShown)
         return;
     page.wasShown = true;
-    if (QWidget *view = viewOf(*page.panel)) {
+    if (QWidget *view = page.panel->view()) {
         const QList<QWidget *> order = focusChain(view);
         if (view->layout()) {
             page.holder->layout()->addWidget(view);
@@ -184,16 +177,41 @@ void PanelTabs::fillPage(Page &page)
         Q_EMIT viewMade(view);
         return;
     }
+    if (page.panel->isLost()) {
+        showNote(page, page.panel->loss());
+        return;
+    }
     const QString text =
         tr("The panel \"%1\" cannot be shown: its form is missing from the plug-in bundle or damaged. "
            "Install the bundle again. Everything else works.")
-            .arg(page.panel->panelName().value_or(QString()));
-    auto *label = new QLabel(text, page.holder);
-    label->setTextFormat(Qt::PlainText);
-    label->setWordWrap(true);
-    label->setAlignment(Qt::AlignTop | Qt::AlignLeading);
-    page.holder->layout()->addWidget(label);
+            .arg(page.panel->name());
+    showNote(page, text);
     Q_EMIT panelFailed(text);
+}
+
+/// The view stays, unseen, until the session ends: code of it may be running.
+void PanelTabs::closePage(const GuardedPanel *panel)
+{
+    for (Page &page : pages_) {
+        if (page.panel != panel)
+            continue;
+        const auto views = page.holder->findChildren<QWidget *>(Qt::FindDirectChildrenOnly);
+        for (QWidget *view : views)
+            view->hide();
+        page.wasShown = true;
+        showNote(page, panel->loss());
+    }
+    updateSummary();
+}
+
+void PanelTabs::showNote(Page &page, const QString &text)
+{
+    delete page.note;
+    page.note = new QLabel(text, page.holder);
+    page.note->setTextFormat(Qt::PlainText);
+    page.note->setWordWrap(true);
+    page.note->setAlignment(Qt::AlignTop | Qt::AlignLeading);
+    page.holder->layout()->addWidget(page.note);
 }
 
 } // namespace printdialog

@@ -10,13 +10,12 @@
 
 #include <functional>
 
-namespace pdekit {
-class PrintDialogPanel;
-}
+class QLabel;
 
 namespace printdialog {
 
 class DialogSession;
+class GuardedPanel;
 class SummaryPage;
 
 /// The pages of one session: a tab for each panel in the plug-in's order, and the summary. A panel's view is
@@ -39,9 +38,9 @@ public:
     /// Something that the summary shows may have changed.
     void updateSummary();
     /// The panel whose page is shown; null for the summary.
-    pdekit::PrintDialogPanel *currentPanel() const;
+    GuardedPanel *currentPanel() const;
     /// The panel in whose view the control stands; null for any other.
-    pdekit::PrintDialogPanel *panelOf(const QWidget *control) const;
+    GuardedPanel *panelOf(const QWidget *control) const;
     /// The last component of the kind of the panel on the page, such as "coloradjust"; empty for the summary.
     QString kindSuffix(int page) const;
 
@@ -60,9 +59,10 @@ Q_SIGNALS:
 private:
     struct Page
     {
-        pdekit::PrintDialogPanel *panel;
+        GuardedPanel *panel;
         QWidget *holder;
         bool wasShown = false;
+        QLabel *note = nullptr; ///< in the place of a view
     };
 
     void makePages();
@@ -70,10 +70,12 @@ private:
     void markView(QWidget &view);
     void showPage(int page);
     void fillPage(Page &page);
+    void closePage(const GuardedPanel *panel);
+    static void showNote(Page &page, const QString &text);
 
     DialogSession *session_ = nullptr;
     QList<Page> pages_;
-    QHash<const QWidget *, pdekit::PrintDialogPanel *> panelOf_; ///< by what holds its view
+    QHash<const QWidget *, GuardedPanel *> panelOf_; ///< by what holds its view
     QStringList reserved_;
     SummaryPage *summary_;
     std::function<SummaryEntries()> entries_;

@@ -166,6 +166,10 @@ std::optional<QMap<QString, QString>> PresetController::kept()
         Q_EMIT jobRefused();
         return std::nullopt;
     }
+    if (!job->missing.isEmpty()) {
+        bar_->showError(job->missing.join(u' '));
+        return std::nullopt;
+    }
     steps_->note(); // what took the place of a dropped choice
     return withCopies(job->options);
 }

@@ -1,0 +1,140 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "Bundle.h"
+#include "OptionPanel.h"
+#include "PlatformException.h"
+
+#include <QtCore/QCoreApplication>
+#include <QtCore/QEvent>
+#include <QtCore/QFile>
+
+#include <stdexcept>
+
+namespace {
+
+/// Adds the call to the file CORVEL_TEST_CALLS, and fails where CORVEL_TEST_FAULT is "call:how". False: the
+/// call is to report a failure.
+bool note(const QString &call)
+{
+    if (QFile file(qEnvironmentVariable("CORVEL_TEST_CALLS")); file.open(QIODevice::Append))
+        file.write(call.toUtf8() + '\n');
+    const QStringList fault = qEnvironmentVariable("CORVEL_TEST_FAULT").split(u':');
+    if (fault.size() != 2 || fault.at(0) != call)
+        return true;
+    if (fault.at(1) == QLatin1String("platform"))
+        throw pdekit::PlatformException(QStringLiteral("no paper feed"));
+    if (fault.at(1) == QLatin1String("std"))
+        throw std::runtime_error("no paper feed.");
+    if (fault.at(1) == QLatin1String("int"))
+        throw 7;
+    return false;
+}
+
+bool answer(bool isDone, QString *error)
+{
+    if (!isDone && error)
+        *error = QStringLiteral("the disk is full.");
+    return isDone;
+}
+
+} // namespace
+
+/// The panel of one pop-up, which notes what the dialog calls.
+class RecordingPanel : public pdekit::OptionPanel
+{
+    Q_OBJECT
+
+public:
+    using pdekit::OptionPanel::OptionPanel;
+
+    std::optional<QString> panelName() override
+    {
+        note(QStringLiteral("name"));
+        return OptionPanel::panelName();
+    }
+    QWidget *panelView() override
+    {
+        note(QStringLiteral("view"));
+        return OptionPanel::panelView();
+    }
+    bool restoreValuesAndReturnError(QString *error) override
+    {
+        return answer(note(QStringLiteral("restore")) && OptionPanel::restoreValuesAndReturnError(error),
+                      error);
+    }
+    bool saveValuesAndReturnError(QString *error) override
+    {
+        return answer(note(QStringLiteral("save")) && OptionPanel::saveValuesAndReturnError(error), error);
+    }
+    void willShow() override
+    {
+        note(QStringLiteral("willShow"));
+        if (qEnvironmentVariable("CORVEL_TEST_FAULT").startsWith(QLatin1String("event")))
+            QCoreApplication::postEvent(this, new QEvent(QEvent::User));
+        OptionPanel::willShow();
+    }
+    bool shouldHide() override { return note(QStringLiteral("shouldHide")); }
+    std::optional<Summary> summaryInfo() override
+    {
+        note(QStringLiteral("summary"));
+        return OptionPanel::summaryInfo();
+    }
+    void PPDOptionKeyValueDidChangePpdChoice(const std::optional<QString> &key,
+                                             const std::optional<QString> &choice) override
+    {
+        note(QStringLiteral("didChange"));
+        OptionPanel::PPDOptionKeyValueDidChangePpdChoice(key, choice);
+    }
+    bool shouldShowHelp() override
+    {
+        note(QStringLiteral("help"));
+        return OptionPanel::shouldShowHelp();
+    }
+    bool markChoiceForPPDOptionKeyFromSender(const std::optional<QString> &choice,
+                                             const std::optional<QString> &key, QWidget *sender) override
+    {
+        note(sender ? QStringLiteral("act") : QStringLiteral("choice"));
+        return OptionPanel::markChoiceForPPDOptionKeyFromSender(choice, key, sender);
+    }
+
+protected:
+    bool event(QEvent *event) override
+    {
+        if (event->type() == QEvent::User)
+            note(QStringLiteral("event"));
+        return OptionPanel::event(event);
+    }
+};
+
+class RecordingPlugin : public QObject, public pdekit::PrintDialogPlugin
+{
+    Q_OBJECT
+    Q_PLUGIN_METADATA(IID PrintDialogPlugin_iid FILE "Info.json")
+    Q_INTERFACES(pdekit::PrintDialogPlugin)
+
+public:
+    bool initWithBundle(const pdekit::Bundle &bundle) override
+    {
+        bundle_ = bundle;
+        return note(QStringLiteral("init"));
+    }
+    std::optional<pdekit::PanelList> PDEPanelsForTypeWithHostInfo(const QString & /*type*/,
+                                                                  const pdekit::HostInfo &hostInfo) override
+    {
+        note(QStringLiteral("panels"));
+        pdekit::PanelList panels;
+        panels.push_back(
+            std::make_unique<RecordingPanel>(*bundle_, hostInfo,
+                                             pdekit::OptionPanel::Page{QStringLiteral("Border"),
+                                                                       QStringLiteral("border"),
+                                                                       QStringLiteral("border"),
+                                                                       {{1, QStringLiteral("Border")}}}));
+        return panels;
+    }
+
+private:
+    std::optional<pdekit::Bundle> bundle_;
+};
+
+#include "RecordingPlugin.moc"
