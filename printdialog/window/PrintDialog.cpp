@@ -67,6 +67,7 @@ PrintDialog::PrintDialog(const PrintDialogSetup &setup, QWidget *parent)
         this);
     ui_->folder->setText(QDir::toNativeSeparators(QDir(setup.outputFolder).absolutePath()));
     connect(ui_->printer, &PrinterChooser::printerChosen, this, &PrintDialog::openPrinter);
+    ui_->printer->setStaying([this] { return pageStays() ? std::optional(queue_.id()) : std::nullopt; });
     connect(ui_->printer, &PrinterChooser::searchFailed, this, &PrintDialog::takeSearchFailure);
     connect(ui_->printer, &PrinterChooser::currentRemoved, this,
             [this](const QString &text) { ui_->message->show(MessageBar::Kind::Warning, text); });
@@ -74,6 +75,8 @@ PrintDialog::PrintDialog(const PrintDialogSetup &setup, QWidget *parent)
     connect(ui_->browse, &QPushButton::clicked, this, &PrintDialog::browseFolder);
     connect(ui_->panels, &PanelTabs::panelFailed, this,
             [this](const QString &text) { ui_->message->show(MessageBar::Kind::Error, text); });
+    connect(ui_->panels, &PanelTabs::pageStayed, this,
+            [this](const QString &text) { ui_->message->show(MessageBar::Kind::Warning, text); });
     connect(ui_->help, &QPushButton::clicked, this, &PrintDialog::showHelp);
     // Not the button's own shortcut: that is the letter underlined in its text.
     connect(new QShortcut(QKeySequence::HelpContents, this), &QShortcut::activated, this,

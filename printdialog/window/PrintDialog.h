@@ -128,6 +128,8 @@ private:
     void finishPrinting(const PrintOutcome &outcome);
     std::optional<SessionJob> makeJob();
     void askAboutMissing(const QStringList &missing);
+    bool pageStays();
+    void closeUnlessPageStays();
     void cancelOrStop();
     void stopPrinting();
     QString whatGoesOn() const;

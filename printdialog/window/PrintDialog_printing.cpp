@@ -57,6 +57,8 @@ void PrintDialog::print()
 {
     if (!isReady() || worker_->isBusy() || ui_->photos->photos().isEmpty())
         return;
+    if (pageStays())
+        return;
     if (!ui_->photos->damagedPhotos().isEmpty())
         return askAboutDamage();
     const std::optional<SessionJob> made = makeJob();
@@ -146,7 +148,27 @@ void PrintDialog::cancelOrStop()
     if (worker_->isBusy())
         stopPrinting();
     else
+        closeUnlessPageStays();
+}
+
+/// Whether the page that is shown has to stay, which the user is told then.
+bool PrintDialog::pageStays()
+{
+    const QString reason = ui_->panels->whyPageStays();
+    if (!reason.isEmpty())
+        ui_->message->show(MessageBar::Kind::Warning, reason);
+    return !reason.isEmpty();
+}
+
+/// No plug-in can hold the window for good.
+void PrintDialog::closeUnlessPageStays()
+{
+    const QString reason = ui_->panels->whyPageStays();
+    if (reason.isEmpty())
         QDialog::reject();
+    else
+        ui_->message->showWithAction(MessageBar::Kind::Warning, reason, tr("Close Anyway"),
+                                     [this] { QDialog::reject(); });
 }
 
 void PrintDialog::stopPrinting()
@@ -162,7 +184,7 @@ void PrintDialog::stopPrinting()
 void PrintDialog::reject()
 {
     if (!worker_->isBusy()) {
-        QDialog::reject();
+        closeUnlessPageStays();
     } else if (ui_->message->isAsking()) {
         ui_->message->clear();
         ui_->cancel->setFocus(Qt::OtherFocusReason);

@@ -1492,6 +1492,10 @@ Beispiele:
         <source>The panel &quot;%1&quot; cannot be shown: its form is missing from the plug-in bundle or damaged. Install the bundle again. Everything else works.</source>
         <translation>Die Seite „%1“ kann nicht angezeigt werden: Ihr Formular fehlt im Plug-in-Paket oder ist beschädigt. Installieren Sie das Paket erneut. Alles andere funktioniert.</translation>
     </message>
+    <message>
+        <source>The page &quot;%1&quot; cannot be left yet. Finish what it asks for.</source>
+        <translation>Die Seite „%1“ kann noch nicht verlassen werden. Erledigen Sie zuerst, was sie verlangt.</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::PdfWriter</name>
@@ -2015,6 +2019,10 @@ Beispiele:
     <message>
         <source>Nothing is saved.</source>
         <translation>Es wird nichts gespeichert.</translation>
+    </message>
+    <message>
+        <source>Close Anyway</source>
+        <translation>Trotzdem schließen</translation>
     </message>
 </context>
 <context>

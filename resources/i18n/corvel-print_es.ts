@@ -1491,6 +1491,10 @@ Ejemplos:
         <source>The panel &quot;%1&quot; cannot be shown: its form is missing from the plug-in bundle or damaged. Install the bundle again. Everything else works.</source>
         <translation>No se puede mostrar el panel «%1»: su formulario falta en el complemento o está dañado. Instale de nuevo el complemento. Todo lo demás funciona.</translation>
     </message>
+    <message>
+        <source>The page &quot;%1&quot; cannot be left yet. Finish what it asks for.</source>
+        <translation>Todavía no se puede salir de la página «%1». Termine primero lo que pide.</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::PdfWriter</name>
@@ -2014,6 +2018,10 @@ Ejemplos:
     <message>
         <source>Nothing is saved.</source>
         <translation>No se guarda nada.</translation>
+    </message>
+    <message>
+        <source>Close Anyway</source>
+        <translation>Cerrar de todos modos</translation>
     </message>
 </context>
 <context>

@@ -601,7 +601,7 @@ Exemples&#x202f;:
     </message>
     <message>
         <source>The plug-in of the bundle &quot;%1&quot; has failed: %2. Update the plug-in.</source>
-        <translation>Le module « %1 » a échoué : %2. Mettez le module à jour.</translation>
+        <translation>Le module «&#x202f;%1&#x202f;» a échoué&#x202f;: %2. Mettez le module à jour.</translation>
     </message>
 </context>
 <context>
@@ -1367,19 +1367,19 @@ Exemples&#x202f;:
     </message>
     <message>
         <source>The page &quot;%1&quot; was closed because its plug-in failed: %2. Update the plug-in. Everything else works.</source>
-        <translation>La page « %1 » a été fermée parce que son module a échoué : %2. Mettez le module à jour. Tout le reste fonctionne.</translation>
+        <translation>La page «&#x202f;%1&#x202f;» a été fermée parce que son module a échoué&#x202f;: %2. Mettez le module à jour. Tout le reste fonctionne.</translation>
     </message>
     <message>
         <source>The choices of the page &quot;%1&quot; are missing, because its plug-in failed: %2. Update the plug-in.</source>
-        <translation>Les choix de la page « %1 » manquent, parce que son module a échoué : %2. Mettez le module à jour.</translation>
+        <translation>Les choix de la page «&#x202f;%1&#x202f;» manquent, parce que son module a échoué&#x202f;: %2. Mettez le module à jour.</translation>
     </message>
     <message>
         <source>The choices of the page &quot;%1&quot; are missing, because it could not save them: %2.</source>
-        <translation>Les choix de la page « %1 » manquent, parce qu’elle n’a pas pu les enregistrer : %2.</translation>
+        <translation>Les choix de la page «&#x202f;%1&#x202f;» manquent, parce qu’elle n’a pas pu les enregistrer&#x202f;: %2.</translation>
     </message>
     <message>
         <source>The page &quot;%1&quot; could not read the job&apos;s choices, and may show other ones: %2.</source>
-        <translation>La page « %1 » n’a pas pu lire les choix de la tâche et en montre peut-être d’autres : %2.</translation>
+        <translation>La page «&#x202f;%1&#x202f;» n’a pas pu lire les choix de la tâche et en montre peut-être d’autres&#x202f;: %2.</translation>
     </message>
 </context>
 <context>
@@ -1491,6 +1491,10 @@ Exemples&#x202f;:
     <message>
         <source>The panel &quot;%1&quot; cannot be shown: its form is missing from the plug-in bundle or damaged. Install the bundle again. Everything else works.</source>
         <translation>L’onglet «&#x202f;%1&#x202f;» ne peut pas être affiché&#x202f;: son formulaire manque dans le module ou est endommagé. Réinstallez le module. Tout le reste fonctionne.</translation>
+    </message>
+    <message>
+        <source>The page &quot;%1&quot; cannot be left yet. Finish what it asks for.</source>
+        <translation>La page « %1 » ne peut pas encore être quittée. Terminez d’abord ce qu’elle demande.</translation>
     </message>
 </context>
 <context>
@@ -2006,7 +2010,7 @@ Exemples&#x202f;:
     </message>
     <message>
         <source>Print without these choices? The printer&apos;s own defaults take their place.</source>
-        <translation>Imprimer sans ces choix ? Les réglages par défaut de l’imprimante les remplacent.</translation>
+        <translation>Imprimer sans ces choix&#x202f;? Les réglages par défaut de l’imprimante les remplacent.</translation>
     </message>
     <message>
         <source>Print Without Them</source>
@@ -2015,6 +2019,10 @@ Exemples&#x202f;:
     <message>
         <source>Nothing is saved.</source>
         <translation>Rien n’est enregistré.</translation>
+    </message>
+    <message>
+        <source>Close Anyway</source>
+        <translation>Fermer quand même</translation>
     </message>
 </context>
 <context>

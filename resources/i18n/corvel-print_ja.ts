@@ -1490,6 +1490,10 @@ Examples:
         <source>The panel &quot;%1&quot; cannot be shown: its form is missing from the plug-in bundle or damaged. Install the bundle again. Everything else works.</source>
         <translation>「%1」の画面を表示できません。プラグインの中にフォームがないか、壊れています。プラグインを再インストールしてください。ほかの機能は使えます。</translation>
     </message>
+    <message>
+        <source>The page &quot;%1&quot; cannot be left yet. Finish what it asks for.</source>
+        <translation>ページ「%1」からはまだ移動できません。先にそのページが求める操作を済ませてください。</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::PdfWriter</name>
@@ -2011,6 +2015,10 @@ Examples:
     <message>
         <source>Nothing is saved.</source>
         <translation>何も保存されません。</translation>
+    </message>
+    <message>
+        <source>Close Anyway</source>
+        <translation>それでも閉じる</translation>
     </message>
 </context>
 <context>

@@ -4,8 +4,11 @@
 #include "OpenedDialog.h"
 #include "TestMain.h"
 
+#include "MessageBar.h"
+
 #include <QtCore/QFile>
 #include <QtTest/QTest>
+#include <QtWidgets/QAbstractItemView>
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QPushButton>
@@ -30,6 +33,7 @@ private Q_SLOTS:
     void saysWhatIsMissing_data();
     void saysWhatIsMissing();
     void saysWhatCouldNotBeRestored();
+    void staysUntilItMayHide();
 
 private:
     static std::unique_ptr<OpenedDialog> open();
@@ -152,6 +156,36 @@ void PluginTest::saysWhatCouldNotBeRestored()
     QTRY_VERIFY(opened->dialog->message().contains(u"the disk is full."_s));
     opened->dialog->print();
     QTRY_COMPARE(opened->options()[u"Border"_s].toString(), u"None"_s);
+}
+
+void PluginTest::staysUntilItMayHide()
+{
+    const auto opened = open();
+    const QWidget *popUp = opened->control(1);
+    auto *printer = opened->find<QComboBox>(u"printer"_s);
+    qputenv("CORVEL_TEST_FAULT", "shouldHide:false");
+    const auto stays = [&] {
+        const bool isSaid = opened->dialog->message().contains(u"\"Border\" cannot be left yet"_s);
+        return isSaid && opened->dialog->isVisible() && opened->control(1) == popUp && popUp->isVisible();
+    };
+    opened->dialog->showPage(1);
+    QVERIFY(stays());
+    opened->find<MessageBar>(u"message"_s)->clear();
+    printer->showPopup();
+    QTest::keyClick(printer->view(), Qt::Key_Return);
+    QVERIFY(stays());
+    opened->find<MessageBar>(u"message"_s)->clear();
+    opened->dialog->print();
+    QVERIFY(stays() && !opened->hasPrinted());
+    for (const bool isClosed : {false, true}) {
+        opened->dialog->close();
+        QVERIFY(stays());
+        if (isClosed)
+            button(*opened, u"Close Anyway"_s)->click();
+        else
+            QTest::keyClick(opened->dialog.get(), Qt::Key_Escape);
+        QCOMPARE(!opened->dialog->isVisible(), isClosed);
+    }
 }
 
 CORVEL_WIDGETS_TEST(PluginTest)

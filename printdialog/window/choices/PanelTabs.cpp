@@ -43,6 +43,7 @@ PanelTabs::PanelTabs(QWidget *parent)
 void PanelTabs::setSession(DialogSession *session)
 {
     session_ = session;
+    shown_ = -1;
     makePages();
     if (session)
         showPage(currentIndex());
@@ -106,9 +107,8 @@ void PanelTabs::turnPages(int pages)
         setCurrentIndex((currentIndex() + pages + count()) % count());
 }
 
-GuardedPanel *PanelTabs::currentPanel() const
+GuardedPanel *PanelTabs::panelOn(int page) const
 {
-    const int page = currentIndex();
     return page >= 0 && page < pages_.size() ? pages_.at(page).panel : nullptr;
 }
 
@@ -117,6 +117,14 @@ GuardedPanel *PanelTabs::panelOf(const QWidget *control) const
     while (control && !panelOf_.contains(control))
         control = control->parentWidget();
     return panelOf_.value(control);
+}
+
+QString PanelTabs::whyPageStays() const
+{
+    GuardedPanel *panel = panelOn(shown_);
+    if (!panel || panel->shouldHide())
+        return {};
+    return tr("The page \"%1\" cannot be left yet. Finish what it asks for.").arg(panel->name());
 }
 
 QString PanelTabs::kindSuffix(int page) const
@@ -135,6 +143,17 @@ void PanelTabs::showPage(int index)
 {
     if (!session_)
         return;
+    if (index != shown_) {
+        if (const QString reason = whyPageStays(); !reason.isEmpty()) {
+            {
+                const QSignalBlocker blocker(this);
+                setCurrentIndex(shown_);
+            }
+            Q_EMIT pageStayed(reason);
+            return;
+        }
+        shown_ = index;
+    }
     if (index >= 0 && index < pages_.size())
         fillPage(pages_[index]);
     else

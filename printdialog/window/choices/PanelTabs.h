@@ -35,10 +35,13 @@ public:
 
     /// Shows the session, which must outlive this or the next call; null shows nothing.
     void setSession(DialogSession *session);
+    /// Why the page that is shown must stay, by its panel's word: a sentence for people. Empty: it may be
+    /// left.
+    QString whyPageStays() const;
     /// Something that the summary shows may have changed.
     void updateSummary();
     /// The panel whose page is shown; null for the summary.
-    GuardedPanel *currentPanel() const;
+    GuardedPanel *currentPanel() const { return panelOn(currentIndex()); }
     /// The panel in whose view the control stands; null for any other.
     GuardedPanel *panelOf(const QWidget *control) const;
     /// The last component of the kind of the panel on the page, such as "coloradjust"; empty for the summary.
@@ -53,6 +56,8 @@ public:
 Q_SIGNALS:
     /// A panel's view is about to be seen for the first time.
     void viewMade(QWidget *view);
+    /// The user has turned to another page, and the one before stays: whyPageStays().
+    void pageStayed(const QString &text);
     /// A panel's view cannot be shown: one sentence for people.
     void panelFailed(const QString &text);
 
@@ -65,6 +70,7 @@ private:
         QLabel *note = nullptr; ///< in the place of a view
     };
 
+    GuardedPanel *panelOn(int page) const;
     void makePages();
     void markTabs();
     void markView(QWidget &view);
@@ -76,6 +82,7 @@ private:
     DialogSession *session_ = nullptr;
     QList<Page> pages_;
     QHash<const QWidget *, GuardedPanel *> panelOf_; ///< by what holds its view
+    int shown_ = -1; ///< the page that was let go of last or is shown
     QStringList reserved_;
     SummaryPage *summary_;
     std::function<SummaryEntries()> entries_;

@@ -30,6 +30,10 @@ PrinterChooser::PrinterChooser(QWidget *parent)
     setMinimumContentsLength(24);
     add(Queue::builtIn());
     connect(this, &QComboBox::activated, this, [this](int index) {
+        if (const auto staying = staying_ ? staying_() : std::nullopt) {
+            setCurrentIndex(indexOf(*staying));
+            return;
+        }
         const Queue queue = itemData(index).value<Queue>();
         selection_.chosen(queue.destination());
         Q_EMIT printerChosen(queue);

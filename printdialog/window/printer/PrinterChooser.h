@@ -9,6 +9,7 @@
 #include <QtCore/QHash>
 #include <QtWidgets/QComboBox>
 
+#include <functional>
 #include <optional>
 
 namespace printdialog {
@@ -33,6 +34,9 @@ public:
     void search(const std::optional<Destination> &wanted);
     /// As if the user had chosen it.
     void chooseBuiltIn();
+    /// Asked when the user chooses another printer: the id of the printer that is to stay, nothing when none
+    /// is.
+    void setStaying(const std::function<std::optional<QString>()> &staying) { staying_ = staying; }
     Queue current() const;
     PrinterSelection &selection() { return selection_; }
 
@@ -61,6 +65,7 @@ private:
     int indexOf(const QString &id) const { return indexes_.value(id, -1); }
 
     QueueFinder *finder_;
+    std::function<std::optional<QString>()> staying_;
     QHash<QString, int> indexes_; ///< by id
     PrinterSelection selection_;
     QString failure_; ///< why the server could not be asked
