@@ -15,7 +15,26 @@ class QWidget;
 namespace pdekit {
 
 /// One page of the print dialog, offered by a plug-in: a QObject that implements this interface. The dialog
-/// calls it on the main thread, in any order after construction.
+/// calls it on the main thread, in this order:
+///
+/// 1. `panelName`, `panelKind`, `supportedPPDOptionKeys`, once each. The answers hold as long as the panel.
+/// 2. `restoreValuesAndReturnError`: the job's choices, before anything is asked about them. Choices kept
+/// from an
+///    earlier time, or of the command line, follow (ChoiceReceiver, else
+///    PPDOptionKeyValueDidChangePpdChoice).
+/// 3. `panelView` when the page is first to be seen, and `willShow` then, once. A run without a window asks
+/// for
+///    neither.
+/// 4. From then on, whatever the user does, any number of times: `saveValuesAndReturnError` whenever the
+/// dialog needs
+///    to know the panel's choices, so after each act of the user's as well;
+///    `PPDOptionKeyValueDidChangePpdChoice`, and `restoreValuesAndReturnError` after it, when a choice comes
+///    from elsewhere; `summaryInfo` after a save; `shouldShowHelp`; `shouldHide` before another page or
+///    another printer takes the page's place, before it prints, and before the window closes.
+/// 5. For a job: `saveValuesAndReturnError`, then `summaryInfo`.
+///
+/// A panel that throws anything, in these calls or in an action of its form, is called no more: its page is
+/// closed, and the user is told with the exception's what(). Its choices are missing then, which Print says.
 class PrintDialogPanel
 {
 public:
@@ -32,13 +51,16 @@ public:
     /// the panel, or with the widget that the dialog makes its parent, whichever goes first.
     virtual QWidget *panelView() = 0;
 
-    /// Takes over the job's current choices. `error` may be null.
+    /// Takes over the job's current choices. False: it cannot, and `error` (which may be null) gets the
+    /// reason, a clause for people such as "the disk is full".
     virtual bool restoreValuesAndReturnError(QString *error) = 0;
-    /// Puts the panel's choices into the job's print settings. `error` may be null.
+    /// Puts the panel's choices into the job's print settings. False as above: the user is asked whether to
+    /// print without them.
     virtual bool saveValuesAndReturnError(QString *error) = 0;
 
     virtual void willShow() = 0;
-    /// False keeps the panel on the screen.
+    /// False keeps the panel on the screen. The panel itself says what has to be done first. The user can
+    /// close the window all the same.
     virtual bool shouldHide() = 0;
 
     /// The panel's entries for the dialog's summary of the job.

@@ -14,6 +14,8 @@
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QTabWidget>
 
+#include <algorithm>
+
 using namespace printdialog;
 using namespace testing_support;
 using namespace Qt::StringLiterals;
@@ -34,6 +36,7 @@ private Q_SLOTS:
     void saysWhatIsMissing();
     void saysWhatCouldNotBeRestored();
     void staysUntilItMayHide();
+    void callsInOrder();
 
 private:
     static std::unique_ptr<OpenedDialog> open();
@@ -186,6 +189,36 @@ void PluginTest::staysUntilItMayHide()
             QTest::keyClick(opened->dialog.get(), Qt::Key_Escape);
         QCOMPARE(!opened->dialog->isVisible(), isClosed);
     }
+}
+
+// As PrintDialogPanel.h has it. What is asked several times in a row counts once.
+void PluginTest::callsInOrder()
+{
+    const auto calls = [this] {
+        QFile file(folder_->filePath(u"calls"_s));
+        QStringList names;
+        if (file.open(QIODevice::ReadOnly))
+            names = QString::fromUtf8(file.readAll()).split(u'\n', Qt::SkipEmptyParts);
+        names.erase(std::unique(names.begin(), names.end()), names.end());
+        file.remove();
+        return names.join(u' ');
+    };
+    const auto opened = open();
+    QCOMPARE(calls(), u"init panels name restore save restore save view willShow"_s);
+    chooseDeckle(*opened);
+    QCOMPARE(calls(), u"act save"_s);
+    QTest::keyClick(opened->dialog.get(), Qt::Key_F1);
+    QTest::keyClick(opened->dialog.get(), Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(calls(), u"help save choice save restore save"_s);
+    opened->dialog->showPage(1);
+    opened->dialog->showPage(0);
+    QCOMPARE(calls(), u"shouldHide summary"_s);
+    opened->dialog->print();
+    QTRY_VERIFY(opened->find<QPushButton>(u"cancel"_s)->text().remove(u'&') ==
+                u"Close"_s); // printing is over
+    QCOMPARE(calls(), u"shouldHide save summary save"_s);
+    opened->dialog->close();
+    QCOMPARE(calls(), u"shouldHide"_s);
 }
 
 CORVEL_WIDGETS_TEST(PluginTest)
