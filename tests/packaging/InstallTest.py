@@ -98,15 +98,27 @@ class InstallTest(CommandTest):  # in the order of the names
             self.assertEqual(corvel_print(*batch, "-o", "PageSize=Square")[0], 1)
 
     # Neither from where it is installed nor from where the example is built.
-    def test_5_loads_no_strangers_library(self):
+    def test_6_loads_no_strangers_library(self):
         self.output_of(sys.executable, f"{SOURCE}/tests/packaging/libraryPaths.py", PREFIX, FOLDER / "postcard")
 
-    # Files and folders of others stay: among them the example's bundle.
-    def test_6_uninstalls(self):
+    # What docs/plugins.md says, word for word.
+    def test_5_guide_can_be_followed(self):
+        folder = FOLDER / "guide"
+        folder.mkdir()
+        self.output_of(sys.executable, f"{SOURCE}/tests/packaging/guideFiles.py", f"{SOURCE}/docs/plugins.md", folder)
+        shown = self.output_of("/bin/sh", "-c", f"cd '{folder}' && . ./commands.sh", CMAKE_PREFIX_PATH=str(PREFIX),
+                               PATH=f"{PREFIX / BINDIR}:{os.environ['PATH']}", CMAKE_GENERATOR="Ninja", CXX=COMPILER,
+                               CXXFLAGS="-Wall -Wextra -Werror", QT_QPA_PLATFORM=None, CORVEL_PDE_PATH=None)
+        self.assert_all_in(("Handle", "Right"), shown)
+        self.assertEqual(shown.count("Handle: On the left\nGlossy: Yes\n"), 2)
+        self.assertEqual(shown.count("  Mug  "), 4)
+
+    # Files and folders of others stay: among them the bundles of the example and the guide.
+    def test_7_uninstalls(self):
         self.output_of(CMAKE, f"-DMANIFEST={MANIFEST}", "-P", f"{SOURCE}/cmake/uninstall.cmake")
         self.assertTrue(files())
         for path in files():
-            self.assertIn("/corvel-print/PDEs/Postcard.bundle/", str(path))
+            self.assertRegex(str(path), "/corvel-print/PDEs/(Postcard|Mug).bundle/")
         for path in map(str, PREFIX.rglob("*")):
             self.assertNotRegex(path, "pdekit|Corvel9031|/ppd/corvel-print$")
         self.assertFalse(os.path.exists(MANIFEST))
