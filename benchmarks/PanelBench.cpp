@@ -3,6 +3,7 @@
 
 #include "BenchTable.h"
 #include "Benches.h"
+#include "GuardedPanel.h"
 #include "PrintDialog.h"
 #include "SessionOpening.h"
 #include "SystemLog.h"
@@ -41,8 +42,8 @@ std::unique_ptr<DialogSession> openSession(int choices, PanelMode mode)
 QList<QByteArray> panelKeys(const DialogSession &session)
 {
     QList<QByteArray> keys;
-    for (const pdekit::PanelPointer &panel : session.panels()) {
-        const QStringList supported = panel->supportedPPDOptionKeys();
+    for (const auto &panel : session.panels()) {
+        const QStringList supported = panel->keys();
         for (const QString &key : supported)
             keys.append(key.toUtf8());
     }
@@ -115,8 +116,8 @@ double keystroke(const QWidget *view)
 double restoreAll(DialogSession &session)
 {
     QList<QAbstractButton *> defaults;
-    for (const pdekit::PanelPointer &panel : session.panels()) {
-        auto *button = qobject_cast<QAbstractButton *>(pdekit::viewWithTag(panel->panelView(), defaultsTag));
+    for (const auto &panel : session.panels()) {
+        auto *button = qobject_cast<QAbstractButton *>(pdekit::viewWithTag(panel->view(), defaultsTag));
         if (button)
             defaults.append(button);
     }
@@ -139,11 +140,11 @@ void benchMode(PanelMode mode, const QString &name)
     for (const int choices : {100, 1000, 10000, 100000}) {
         const auto session = openSession(choices, mode);
         session->panels().front()->willShow();
-        session->panels().front()->panelView()->show();
+        session->panels().front()->view()->show();
         if (choices >= everyStep) {
             const double bare = bareKeystroke(session->ppd().record(), mode);
             printRow({QStringLiteral("keystroke to recorded choice, %1, %2 choices").arg(name).arg(choices),
-                      keystroke(session->panels().front()->panelView()),
+                      keystroke(session->panels().front()->view()),
                       QStringLiteral("libcups"),
                       bare,
                       {},
