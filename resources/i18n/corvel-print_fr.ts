@@ -1494,7 +1494,7 @@ Exemples&#x202f;:
     </message>
     <message>
         <source>The page &quot;%1&quot; cannot be left yet. Finish what it asks for.</source>
-        <translation>La page « %1 » ne peut pas encore être quittée. Terminez d’abord ce qu’elle demande.</translation>
+        <translation>La page «&#x202f;%1&#x202f;» ne peut pas encore être quittée. Terminez d’abord ce qu’elle demande.</translation>
     </message>
 </context>
 <context>

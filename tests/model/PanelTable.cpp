@@ -99,7 +99,7 @@ PanelTable PanelTable::sharpness(bool withThousandths)
     // A third of the numbers that can be typed, so that some are recorded without being marked.
     table.options = {{text("SharpnessRadius"), text("1"), numbers(0, 3)},
                      {text("SharpnessIntensity"), text("0.99"), numbers(0, 300, 3, 2)}};
-    addBoxAndButton(table, "False");
+    addBoxAndButton(table, withThousandths ? "True" : "False");
     return table;
 }
 

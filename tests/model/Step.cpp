@@ -27,9 +27,9 @@ QString anyChoice(const PanelTable &table, const QString &key, QRandomGenerator 
 Step inField(QRandomGenerator &random)
 {
     const QString characters = text("00112233456789..---+ ea");
-    const QStringList texts =
-        text("0.055|0.225|+3.7|1e1|-0.4|26|-26|-0| 7 apples|99999999999|1.505|3.004|0x10|nan|1e|.|-")
-            .split(QLatin1Char('|'));
+    const QStringList texts = text("0.055|0.225|0.445|0.245|0.515|0.325|+3.7|1e1|-0.4|-1|1|26|-26|-0| 7 "
+                                   "apples|99999999999|3.004|0x10|nan|1e|.|-|%1")
+                                  .split(QLatin1Char('|'));
     const QList<Step::Act> acts = {Step::TypeKey,   Step::TypeKey,  Step::TypeKey,
                                    Step::TypeKey,   Step::TypeOver, Step::PasteText,
                                    Step::PasteText, Step::EraseKey, Step::ReturnKey};
