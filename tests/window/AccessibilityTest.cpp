@@ -17,6 +17,7 @@ using namespace testing_support;
 namespace {
 
 constexpr uint alertRole = 2; // ATSPI_ROLE_ALERT
+const QString accessible = u"org.a11y.atspi.Accessible"_s;
 
 /// What a screen reader has: a display, a session bus, and on it the accessibility bus.
 class Desktop
@@ -93,8 +94,12 @@ private Q_SLOTS:
 
 private:
     // This program answers itself: nothing here may wait without handling events.
-    QDBusMessage ask(const Object &object, const QString &interface, const QString &method,
-                     const QVariantList &arguments = {}) const;
+    QVariant ask(const Object &object, const QString &interface, const QString &method,
+                 const QVariantList &arguments = {}) const;
+    QVariant ask(const Object &object, const QString &method) const
+    {
+        return ask(object, accessible, method);
+    }
     QList<Object> childrenOf(const Object &object) const;
     /// The names of the alerts that are shown in this program's windows.
     QStringList alerts() const;
@@ -119,8 +124,9 @@ void AccessibilityTest::initTestCase()
     QVERIFY2(bus_.isConnected(), qPrintable(bus_.lastError().message()));
 }
 
-QDBusMessage AccessibilityTest::ask(const Object &object, const QString &interface, const QString &method,
-                                    const QVariantList &arguments) const
+/// The first value of the answer.
+QVariant AccessibilityTest::ask(const Object &object, const QString &interface, const QString &method,
+                                const QVariantList &arguments) const
 {
     auto call = QDBusMessage::createMethodCall(object.service, object.path, interface, method);
     call.setArguments(arguments);
@@ -129,16 +135,16 @@ QDBusMessage AccessibilityTest::ask(const Object &object, const QString &interfa
     connect(&answer, &QDBusPendingCallWatcher::finished, &loop, &QEventLoop::quit);
     if (!answer.isFinished())
         loop.exec();
-    return answer.reply();
+    return answer.reply().arguments().value(0);
 }
 
 QList<Object> AccessibilityTest::childrenOf(const Object &object) const
 {
     QList<Object> children;
-    const QDBusMessage answer = ask(object, u"org.a11y.atspi.Accessible"_s, u"GetChildren"_s);
-    if (answer.arguments().isEmpty())
+    const QVariant answer = ask(object, u"GetChildren"_s);
+    if (!answer.isValid())
         return children;
-    const auto list = answer.arguments().constFirst().value<QDBusArgument>();
+    const auto list = answer.value<QDBusArgument>();
     list.beginArray();
     while (!list.atEnd()) {
         Object child;
@@ -155,18 +161,15 @@ QList<Object> AccessibilityTest::childrenOf(const Object &object) const
 
 void AccessibilityTest::collect(const Object &object, QStringList &names) const
 {
-    const QString accessible = u"org.a11y.atspi.Accessible"_s;
-    if (ask(object, accessible, u"GetRole"_s).arguments().value(0).toUInt() == alertRole) {
+    if (ask(object, u"GetRole"_s).toUInt() == alertRole) {
         constexpr uint showing = 1U << 25; // ATSPI_STATE_SHOWING
-        const auto states =
-            ask(object, accessible, u"GetState"_s).arguments().value(0).value<QDBusArgument>();
         QList<uint> bits;
-        states >> bits;
-        const QDBusMessage name =
+        ask(object, u"GetState"_s).value<QDBusArgument>() >> bits;
+        const QVariant name =
             ask(object, u"org.freedesktop.DBus.Properties"_s, u"Get"_s, {accessible, u"Name"_s});
         if (bits.value(0) & showing) {
             alertPath_ = object.path;
-            names += name.arguments().value(0).value<QDBusVariant>().variant().toString();
+            names += name.value<QDBusVariant>().variant().toString();
         }
     }
     for (const Object &child : childrenOf(object))
@@ -204,7 +207,7 @@ void AccessibilityTest::messagesAreAlerts()
 
 void AccessibilityTest::refusalsAreAlerts()
 {
-    const OpenedDialog opened(PanelMode::Constraint);
+    const OpenedDialog opened;
     QCOMPARE(alerts(), QStringList());
     opened.dialog->showPage(2);
     opened.click(u"matte"_s);
@@ -215,7 +218,7 @@ void AccessibilityTest::refusalsAreAlerts()
 // What stands beside a field.
 void AccessibilityTest::notesAreAlerts()
 {
-    const OpenedDialog opened(PanelMode::Constraint);
+    const OpenedDialog opened;
     opened.type(81, u"99"_s);
     QTRY_COMPARE(alerts(), QStringList{u"Enter a number from -25 to 25."_s});
     opened.find<QMenu>(u"presetMenu"_s)->actions().at(1)->trigger(); // Save As

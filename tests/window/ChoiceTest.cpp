@@ -31,9 +31,9 @@ void ChoiceTest::initTestCase()
     QVERIFY(file.open(QIODevice::WriteOnly) && file.write(ppd) == ppd.size());
 }
 
-PrintDialogSetup ChoiceTest::setup(PanelMode mode) const
+PrintDialogSetup ChoiceTest::setup() const
 {
-    PrintDialogSetup setup = setupFor(mode);
+    PrintDialogSetup setup = setupFor(mode_);
     setup.ppdFile = folder_.filePath(u"constrained.ppd"_s);
     return setup;
 }
@@ -54,11 +54,10 @@ void ChoiceTest::refusalIsExplainedBesideItsControl_data()
 
 void ChoiceTest::refusalIsExplainedBesideItsControl()
 {
-    QFETCH_GLOBAL(PanelMode, mode);
-    if (mode == PanelMode::Settings)
+    if (mode_ == PanelMode::Settings)
         return; // nothing is refused before the job is made
     const auto [page, tag, sentence, offer] = row<int, int, QString, QString>();
-    const OpenedDialog opened(setup(mode));
+    const OpenedDialog opened(setup());
     opened.dialog->showPage(page);
     QWidget *control = opened.control(tag);
     control->setFocus();
@@ -85,7 +84,7 @@ void ChoiceTest::refusalIsExplainedBesideItsControl()
     // The keyboard goes on from the control to the offer.
     QWidget *offered = opened.find<QPushButton>(u"calloutOffer"_s);
     for (int i = 0; i < 3 && QApplication::focusWidget() != offered; ++i)
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        opened.press(Qt::Key_Tab);
     QCOMPARE(QApplication::focusWidget(), offered);
     QVERIFY(callout->isVisible());
 }
@@ -93,8 +92,7 @@ void ChoiceTest::refusalIsExplainedBesideItsControl()
 // What a screen reader would hear, if the platform had one listening.
 void ChoiceTest::screenReaderIsTold()
 {
-    QFETCH_GLOBAL(PanelMode, mode);
-    if (mode == PanelMode::Settings)
+    if (mode_ == PanelMode::Settings)
         return;
     static QStringList heard;
     heard.clear();
@@ -104,7 +102,7 @@ void ChoiceTest::screenReaderIsTold()
         if (event->type() == QAccessible::Alert)
             heard.append(event->accessibleInterface()->text(QAccessible::Name));
     });
-    const OpenedDialog opened(setup(mode));
+    const OpenedDialog opened(setup());
     opened.type(81, u"25"_s);
     opened.type(82, u"99"_s);
     QAccessible::installUpdateHandler(before);
@@ -115,20 +113,19 @@ void ChoiceTest::screenReaderIsTold()
 
 void ChoiceTest::calloutGoesByKeyAndByTheNextChoice()
 {
-    QFETCH_GLOBAL(PanelMode, mode);
-    if (mode == PanelMode::Settings)
+    if (mode_ == PanelMode::Settings)
         return;
-    const OpenedDialog opened(setup(mode));
+    const OpenedDialog opened(setup());
     auto *callout = opened.find<QWidget>(u"callout"_s);
     opened.dialog->showPage(2);
     opened.click(u"matte"_s);
     QVERIFY(callout->isVisible());
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+    opened.press(Qt::Key_Escape);
     QVERIFY(!callout->isVisible() && opened.dialog->isVisible());
     opened.click(u"matte"_s);
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space); // its button
+    opened.press(Qt::Key_Tab);
+    opened.press(Qt::Key_Tab);
+    opened.press(Qt::Key_Space); // its button
     QVERIFY(!callout->isVisible());
     QCOMPARE(QApplication::focusWidget(),
              opened.find<QRadioButton>(u"matte"_s)); // from there the keyboard goes on
@@ -153,10 +150,9 @@ void ChoiceTest::calloutGoesByKeyAndByTheNextChoice()
 
 void ChoiceTest::offerMakesTheChoiceAndOneStep()
 {
-    QFETCH_GLOBAL(PanelMode, mode);
-    if (mode == PanelMode::Settings)
+    if (mode_ == PanelMode::Settings)
         return;
-    const OpenedDialog opened(setup(mode));
+    const OpenedDialog opened(setup());
     opened.type(81, u"25"_s);
     QCOMPARE(opened.fieldText(81), u"2"_s);
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_O, Qt::AltModifier);
@@ -179,10 +175,9 @@ void ChoiceTest::offerMakesTheChoiceAndOneStep()
 // The way out would be another page size, which is for the user alone to change.
 void ChoiceTest::noOfferWithoutAWay()
 {
-    QFETCH_GLOBAL(PanelMode, mode);
-    const OpenedDialog opened(setup(mode));
+    const OpenedDialog opened(setup());
     opened.type(82, u"7"_s);
-    if (mode == PanelMode::Settings) {
+    if (mode_ == PanelMode::Settings) {
         opened.click(u"print"_s);
         QVERIFY(!opened.isSeen(u"messageAction"_s) ||
                 opened.find<QPushButton>(u"messageAction"_s)->text().contains(u"Green"_s));
@@ -197,10 +192,9 @@ void ChoiceTest::noOfferWithoutAWay()
 
 void ChoiceTest::refusedPageSize()
 {
-    QFETCH_GLOBAL(PanelMode, mode);
-    if (mode == PanelMode::Settings)
+    if (mode_ == PanelMode::Settings)
         return;
-    const OpenedDialog opened(setup(mode));
+    const OpenedDialog opened(setup());
     opened.type(87, u"2"_s);
     auto *sizes = opened.find<QComboBox>(u"pageSize"_s);
     const QString before = sizes->currentText();
@@ -221,10 +215,9 @@ void ChoiceTest::refusedPageSize()
 // All choices are weighed when the job is made; the one that was made last is the one that is kept.
 void ChoiceTest::conflictOfTheJobIsSettled()
 {
-    QFETCH_GLOBAL(PanelMode, mode);
-    if (mode == PanelMode::Constraint)
+    if (mode_ == PanelMode::Constraint)
         return;
-    const OpenedDialog opened(setup(mode));
+    const OpenedDialog opened(setup());
     opened.dialog->showPage(2);
     opened.click(u"matte"_s);
     opened.click(u"print"_s);

@@ -32,6 +32,6 @@ private Q_SLOTS:
     void keptChoicesThatConflict();
 
 private:
-    printdialog::PrintDialogSetup setup(printdialog::PanelMode mode) const;
+    printdialog::PrintDialogSetup setup() const;
     QTemporaryDir folder_;
 };

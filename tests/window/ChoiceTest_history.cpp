@@ -9,8 +9,7 @@ using namespace testing_support;
 
 void ChoiceTest::undoAndRedo()
 {
-    QFETCH_GLOBAL(PanelMode, mode);
-    const OpenedDialog opened(setup(mode));
+    const OpenedDialog opened(setup());
     auto *sizes = opened.find<QComboBox>(u"pageSize"_s);
     const int size = sizes->currentIndex();
     opened.undo(); // there is nothing to undo yet
@@ -53,8 +52,7 @@ void ChoiceTest::undoAndRedo()
 
 void ChoiceTest::oneActIsOneStep()
 {
-    QFETCH_GLOBAL(PanelMode, mode);
-    const OpenedDialog opened(setup(mode));
+    const OpenedDialog opened(setup());
     auto *slider = opened.slider(3);
     const auto drag = [slider](int from, int to) {
         const auto at = [slider](int percent) {
@@ -93,13 +91,12 @@ void ChoiceTest::oneActIsOneStep()
 // No single choice leads from one state to the other.
 void ChoiceTest::undoOfChoicesThatAllowEachOtherOnlyTogether()
 {
-    QFETCH_GLOBAL(PanelMode, mode);
-    const OpenedDialog opened(setup(mode));
+    const OpenedDialog opened(setup());
     const int saturation = 86;
     const int contrast = 85;
     opened.type(saturation, u"5"_s);
-    opened.click(mode == PanelMode::Constraint ? u"calloutOffer"_s : u"print"_s);
-    if (mode == PanelMode::Settings)
+    opened.click(mode_ == PanelMode::Constraint ? u"calloutOffer"_s : u"print"_s);
+    if (mode_ == PanelMode::Settings)
         opened.click(u"messageAction"_s);
     QCOMPARE(opened.fieldText(saturation), u"5"_s);
     const QString settled = opened.fieldText(contrast);
@@ -114,8 +111,7 @@ void ChoiceTest::undoOfChoicesThatAllowEachOtherOnlyTogether()
 
 void ChoiceTest::revertIsAStep()
 {
-    QFETCH_GLOBAL(PanelMode, mode);
-    PrintDialogSetup with = setup(mode);
+    PrintDialogSetup with = setup();
     with.options = {{u"Red"_s, u"3"_s}};
     const OpenedDialog opened(with);
     const QList<QAction *> actions = opened.find<QWidget>(u"presetMenu"_s)->actions();
@@ -133,15 +129,14 @@ void ChoiceTest::revertIsAStep()
 
 void ChoiceTest::printingKeepsTheChoices()
 {
-    QFETCH_GLOBAL(PanelMode, mode);
     {
-        const OpenedDialog opened(setup(mode));
+        const OpenedDialog opened(setup());
         opened.type(81, u"5"_s);
         opened.find<QSpinBox>(u"copies"_s)->setValue(4);
         opened.chooseLast(u"pageSize"_s);
         QVERIFY(opened.prints());
     }
-    const OpenedDialog opened(setup(mode));
+    const OpenedDialog opened(setup());
     QCOMPARE(opened.fieldText(81), u"5"_s);
     QCOMPARE(opened.find<QSpinBox>(u"copies"_s)->value(), 4);
     auto *sizes = opened.find<QComboBox>(u"pageSize"_s);
@@ -152,8 +147,7 @@ void ChoiceTest::printingKeepsTheChoices()
 
 void ChoiceTest::cancelKeepsNothing()
 {
-    QFETCH_GLOBAL(PanelMode, mode);
-    const OpenedDialog opened(setup(mode));
+    const OpenedDialog opened(setup());
     opened.type(81, u"5"_s);
     opened.click(u"cancel"_s);
     QVERIFY(!opened.dialog->isVisible() && !opened.hasPrinted());
@@ -163,7 +157,6 @@ void ChoiceTest::cancelKeepsNothing()
 // Saved by another version, or for another PPD: what cannot be together is left out, and said.
 void ChoiceTest::keptChoicesThatConflict()
 {
-    QFETCH_GLOBAL(PanelMode, mode);
     const QString folder = config_->filePath(u"corvel-print/queues"_s);
     QVERIFY(QDir().mkpath(folder));
     QFile file(folder + u"/built-in.json"_s);
@@ -171,7 +164,7 @@ void ChoiceTest::keptChoicesThatConflict()
     file.write(R"({"version": 1, "options": {"Overcoat": "Matte", "Quality": "Standard", "Red": "8",
                    "Blue": "999", "Gone": "1", "copies": "0"}})");
     file.close();
-    const OpenedDialog opened(setup(mode));
+    const OpenedDialog opened(setup());
     for (const QString &part : {u"Surface Finish"_s, u"Matte"_s, u"999"_s, u"Gone"_s, u"copies"_s})
         QVERIFY2(opened.message().contains(part), qPrintable(opened.message()));
     QCOMPARE(opened.fieldText(81), u"8"_s);

@@ -20,9 +20,8 @@ void ChoiceTest::numberLeftUnfinished_data()
 
 void ChoiceTest::numberLeftUnfinished()
 {
-    QFETCH_GLOBAL(PanelMode, mode);
     QFETCH(QString, button);
-    const OpenedDialog opened(setup(mode));
+    const OpenedDialog opened(setup());
     opened.type(81, u"-12"_s);
     opened.control(82)->setFocus();
     opened.type(81, u"-"_s);
@@ -32,7 +31,7 @@ void ChoiceTest::numberLeftUnfinished()
         opened.find<QAbstractButton>(button)->click(); // by its key, with the focus in the field
     const auto *slider = opened.slider(1);
     // The print system goes by what is marked; without it there is the default, and a word about it.
-    const bool isMarked = mode == PanelMode::Constraint;
+    const bool isMarked = mode_ == PanelMode::Constraint;
     const QString shown = isMarked ? u"-12"_s : u"0"_s;
     QCOMPARE(opened.fieldText(81), shown);
     QCOMPARE(slider->value(), shown.toInt());

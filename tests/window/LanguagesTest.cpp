@@ -71,10 +71,9 @@ private Q_SLOTS:
     void initTestCase_data();
     void init();
     void cleanup();
-    void textsFit();
+    void textsFitAndControlsAreNamed();
     void keysAreUnique();
     void keysLeadToPagesAndControls();
-    void controlsAreNamed();
     void numbersAsPeopleTypeThem();
     void placementIsKept();
     void helpIsInTheLanguage();
@@ -106,21 +105,44 @@ void LanguagesTest::cleanup()
     QLocale::setDefault(QLocale::c());
 }
 
-void LanguagesTest::textsFit()
+// Nothing is cut off; and through the interface that a screen reader asks: what each control is, what it is
+// called, what it stands for.
+void LanguagesTest::textsFitAndControlsAreNamed()
 {
     const OpenedDialog opened;
     for (int page = 0; page < opened.dialog->pageCount(); ++page) {
         opened.dialog->showPage(page);
         QCoreApplication::processEvents();
-        for (const QWidget *widget : opened.dialog->findChildren<QWidget *>()) {
-            const auto *label = qobject_cast<const QLabel *>(widget);
-            if (!widget->isVisible() || textOf(widget).isEmpty() || (label && label->wordWrap()))
+        for (QWidget *widget : opened.dialog->findChildren<QWidget *>()) {
+            if (!widget->isVisible())
                 continue;
-            const QSize needed = label ? widget->minimumSizeHint() : widget->sizeHint();
-            QVERIFY2(widget->width() >= needed.width() && widget->height() >= needed.height(),
-                     qPrintable(nameOf(widget) + u": "_s + textOf(widget)));
-            // Nor cut off by what it stands in.
-            QCOMPARE(widget->visibleRegion().boundingRect().size(), widget->size());
+            const QByteArray name = (nameOf(widget) + u": "_s + textOf(widget)).toUtf8();
+            const auto *label = qobject_cast<const QLabel *>(widget);
+            if (!textOf(widget).isEmpty() && !(label && label->wordWrap())) {
+                const QSize needed = label ? widget->minimumSizeHint() : widget->sizeHint();
+                QVERIFY2(widget->width() >= needed.width() && widget->height() >= needed.height(),
+                         name.constData());
+                // Nor cut off by what it stands in.
+                QCOMPARE(widget->visibleRegion().boundingRect().size(), widget->size());
+            }
+            if (label && label->buddy()) {
+                const auto relations =
+                    QAccessible::queryAccessibleInterface(label->buddy())->relations(QAccessible::Label);
+                const auto isThis = [label](const auto &pair) {
+                    return pair.first->object() == label;
+                };
+                QVERIFY2(std::any_of(relations.begin(), relations.end(), isThis), name.constData());
+            }
+            // The parts of a widget are reached through it, a row of tabs through its tabs.
+            const bool isPart = widget->objectName().startsWith(u"qt_"_s) || widget->focusProxy();
+            if (widget->focusPolicy() == Qt::NoFocus || isPart)
+                continue;
+            QAccessibleInterface *accessible = QAccessible::queryAccessibleInterface(widget);
+            QVERIFY2(accessible, name.constData());
+            const auto role = accessible->role();
+            QVERIFY2(role != QAccessible::NoRole && role != QAccessible::Client, name.constData());
+            QVERIFY2(!accessible->text(QAccessible::Name).isEmpty(), name.constData());
+            QVERIFY2(!qobject_cast<QSlider *>(widget) || accessible->valueInterface(), name.constData());
         }
     }
 }
@@ -185,38 +207,6 @@ void LanguagesTest::keysLeadToPagesAndControls()
         for (const auto *button : pages->currentWidget()->findChildren<QAbstractButton *>())
             reached += button->isVisible() && !button->shortcut().isEmpty() ? 1 : 0;
         QVERIFY(page == pages->count() - 1 || reached > 0);
-    }
-}
-
-// Through the interface that a screen reader asks: what it is, what it is called, what it stands for.
-void LanguagesTest::controlsAreNamed()
-{
-    const OpenedDialog opened;
-    for (int page = 0; page < opened.dialog->pageCount(); ++page) {
-        opened.dialog->showPage(page);
-        for (QWidget *widget : opened.dialog->findChildren<QWidget *>()) {
-            // The parts of a widget are reached through it, a row of tabs through its tabs.
-            const bool isPart = widget->objectName().startsWith(u"qt_"_s) || widget->focusProxy();
-            if (!widget->isVisible() || widget->focusPolicy() == Qt::NoFocus || isPart)
-                continue;
-            QAccessibleInterface *accessible = QAccessible::queryAccessibleInterface(widget);
-            QVERIFY2(accessible, qPrintable(nameOf(widget)));
-            const auto role = accessible->role();
-            QVERIFY2(role != QAccessible::NoRole && role != QAccessible::Client, qPrintable(nameOf(widget)));
-            QVERIFY2(!accessible->text(QAccessible::Name).isEmpty(), qPrintable(nameOf(widget)));
-            if (qobject_cast<QSlider *>(widget))
-                QVERIFY2(accessible->valueInterface(), qPrintable(nameOf(widget)));
-        }
-        for (const QLabel *label : opened.dialog->findChildren<QLabel *>()) {
-            if (!label->isVisible() || !label->buddy())
-                continue;
-            const auto relations =
-                QAccessible::queryAccessibleInterface(label->buddy())->relations(QAccessible::Label);
-            const bool isLabelled =
-                std::any_of(relations.begin(), relations.end(),
-                            [label](const auto &pair) { return pair.first->object() == label; });
-            QVERIFY2(isLabelled, qPrintable(nameOf(label)));
-        }
     }
 }
 

@@ -22,10 +22,15 @@ void WindowTest::init()
     qputenv("XDG_CACHE_HOME", QFile::encodeName(config_->filePath(u"cache"_s)));
     for (const char *name : {"LPDEST", "PRINTER", "CUPS_SERVERROOT"})
         qunsetenv(name);
+    if (hasModes_) {
+        QFETCH_GLOBAL(PanelMode, mode);
+        mode_ = mode;
+    }
 }
 
 void WindowTest::addModes()
 {
+    hasModes_ = true;
     QTest::addColumn<PanelMode>("mode");
     QTest::newRow("constraint") << PanelMode::Constraint;
     QTest::newRow("settings") << PanelMode::Settings;

@@ -50,11 +50,15 @@ protected Q_SLOTS:
     void init();
 
 protected:
-    /// For tests that run in each mode: the column "mode".
-    static void addModes();
+    /// For tests that run in each mode, which is mode_ then; for initTestCase_data().
+    void addModes();
 
+    PanelMode mode_ = PanelMode::Constraint;
     std::shared_ptr<RecordingFeedback> feedback_;
     std::unique_ptr<QTemporaryDir> config_;
+
+private:
+    bool hasModes_ = false;
 };
 
 /// The setup of a dialog with the sample photo, for the built-in printer with the PPD of the model that has

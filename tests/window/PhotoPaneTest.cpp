@@ -68,6 +68,17 @@ private:
                        samples::withOrientation(samples::encoded(gradients(size), "jpeg"), orientation));
         return *Photo::open(pathOf(name));
     }
+    /// A pane with the photos on the page, shown.
+    static std::unique_ptr<PhotoPane> shown(const QList<Photo> &photos, const PlacementChoice &placement = {},
+                                            const PageGeometry &page = bordered)
+    {
+        auto pane = std::make_unique<PhotoPane>();
+        pane->resize(500, 600);
+        pane->setPage(page);
+        pane->setPhotos(photos, placement);
+        pane->QWidget::show();
+        return QTest::qWaitForWindowExposed(pane.get()) ? std::move(pane) : nullptr;
+    }
     QStringList namesIn(const PhotoPane &pane) const
     {
         QStringList names;
@@ -205,13 +216,9 @@ void PhotoPaneTest::moreDetailWhenLarger()
 
 void PhotoPaneTest::cropByMouseAndKeys()
 {
-    PhotoPane pane;
-    pane.resize(500, 600);
-    pane.setPage(borderless);
-    pane.setPhotos({photoOf(u"photo.jpg"_s, QSize(400, 200))}, {Scaling::Fill, 0, {0.5, 0.5}});
-    pane.QWidget::show();
-    QVERIFY(QTest::qWaitForWindowExposed(&pane));
-    auto *preview = pane.findChild<PreviewWidget *>();
+    const auto pane =
+        shown({photoOf(u"photo.jpg"_s, QSize(400, 200))}, {Scaling::Fill, 0, {0.5, 0.5}}, borderless);
+    auto *preview = pane->findChild<PreviewWidget *>();
     QTRY_VERIFY(preview->isReady());
     const auto onScreen = [preview] {
         return preview->pageToWidget().mapRect(preview->placement()->target);
@@ -227,7 +234,7 @@ void PhotoPaneTest::cropByMouseAndKeys()
     QTest::mouseRelease(preview, Qt::LeftButton, {}, from + QPoint(-20, 15));
     QVERIFY(std::abs(distance(before).x() + 20) < 0.5);
     QVERIFY(std::abs(distance(before).y()) < 0.5);
-    QVERIFY(pane.photos().constFirst().placement.crop.x() > 0.5);
+    QVERIFY(pane->photos().constFirst().placement.crop.x() > 0.5);
     QTest::mouseMove(preview, from); // no longer held
     QVERIFY(std::abs(distance(before).x() + 20) < 0.5);
 
@@ -238,10 +245,10 @@ void PhotoPaneTest::cropByMouseAndKeys()
     QTest::keyClick(preview, Qt::Key_Left, Qt::ShiftModifier);
     QVERIFY(std::abs(distance(before).x() - 6) < 0.5);
     QTest::keyClick(preview, Qt::Key_Home);
-    QCOMPARE(pane.photos().constFirst().placement.crop, QPointF(0.5, 0.5));
+    QCOMPARE(pane->photos().constFirst().placement.crop, QPointF(0.5, 0.5));
     for (int i = 0; i < 200; ++i)
         QTest::keyClick(preview, Qt::Key_Left);
-    QCOMPARE(pane.photos().constFirst().placement.crop.x(), 1.0);
+    QCOMPARE(pane->photos().constFirst().placement.crop.x(), 1.0);
     QVERIFY(!preview->accessibleDescription().isEmpty());
 }
 
@@ -293,53 +300,46 @@ void PhotoPaneTest::paintsWhilePhotosAreDecoded()
 
 void PhotoPaneTest::placementByControls()
 {
-    PhotoPane pane;
-    pane.setPage(bordered);
-    pane.setPhotos({photoOf(u"a.jpg"_s), photoOf(u"b.jpg"_s)}, {});
-    pane.QWidget::show();
-    auto *scaling = pane.findChild<QComboBox *>(u"scaling"_s);
+    const auto pane = shown({photoOf(u"a.jpg"_s), photoOf(u"b.jpg"_s)});
+    auto *scaling = pane->findChild<QComboBox *>(u"scaling"_s);
     QTest::keyClick(scaling, Qt::Key_Down);
-    QTest::mouseClick(pane.findChild<QPushButton *>(u"turn"_s), Qt::LeftButton);
-    QCOMPARE(pane.photos()[0].placement, (PlacementChoice{Scaling::Fill, 1, {0.5, 0.5}}));
-    QCOMPARE(pane.photos()[1].placement, PlacementChoice()); // each its own
-    pane.setCurrent(1);
+    QTest::mouseClick(pane->findChild<QPushButton *>(u"turn"_s), Qt::LeftButton);
+    QCOMPARE(pane->photos()[0].placement, (PlacementChoice{Scaling::Fill, 1, {0.5, 0.5}}));
+    QCOMPARE(pane->photos()[1].placement, PlacementChoice()); // each its own
+    pane->setCurrent(1);
     QCOMPARE(scaling->currentIndex(), 0);
-    pane.setCurrent(0);
+    pane->setCurrent(0);
     QCOMPARE(scaling->currentIndex(), 1);
-    auto *preview = pane.findChild<PreviewWidget *>();
+    auto *preview = pane->findChild<PreviewWidget *>();
     QCOMPARE(preview->placement()->quarterTurns, 2);
 }
 
 void PhotoPaneTest::strip()
 {
-    PhotoPane pane;
-    pane.resize(500, 600);
-    pane.setPhotos({photoOf(u"a.jpg"_s), photoOf(u"b.jpg"_s), photoOf(u"c.jpg"_s)}, {});
-    pane.QWidget::show();
-    QVERIFY(QTest::qWaitForWindowExposed(&pane));
-    auto *strip = pane.findChild<PhotoStrip *>();
+    const auto pane = shown({photoOf(u"a.jpg"_s), photoOf(u"b.jpg"_s), photoOf(u"c.jpg"_s)});
+    auto *strip = pane->findChild<PhotoStrip *>();
     QVERIFY(strip->isVisible());
     QTRY_VERIFY(!strip->item(2)->icon().isNull());
     QTest::mouseClick(strip->viewport(), Qt::LeftButton, {}, strip->visualItemRect(strip->item(1)).center());
-    QCOMPARE(pane.current(), 1);
+    QCOMPARE(pane->current(), 1);
     strip->setFocus();
     QTest::keyClick(strip, Qt::Key_Right);
-    QCOMPARE(pane.current(), 2);
+    QCOMPARE(pane->current(), 2);
     QTest::keyClick(strip, Qt::Key_Left, Qt::AltModifier);
-    QCOMPARE(namesIn(pane), (QStringList{u"a.jpg"_s, u"c.jpg"_s, u"b.jpg"_s}));
-    QCOMPARE(pane.current(), 1);
+    QCOMPARE(namesIn(*pane), (QStringList{u"a.jpg"_s, u"c.jpg"_s, u"b.jpg"_s}));
+    QCOMPARE(pane->current(), 1);
     QCOMPARE(strip->currentItem()->data(Qt::AccessibleTextRole).toString(), u"c.jpg, photo 2 of 3"_s);
     QTest::keyClick(strip, Qt::Key_Delete);
-    QCOMPARE(namesIn(pane), (QStringList{u"a.jpg"_s, u"b.jpg"_s}));
-    QCOMPARE(pane.current(), 1);
-    auto *remove = pane.findChild<QPushButton *>(u"removePhoto"_s);
+    QCOMPARE(namesIn(*pane), (QStringList{u"a.jpg"_s, u"b.jpg"_s}));
+    QCOMPARE(pane->current(), 1);
+    auto *remove = pane->findChild<QPushButton *>(u"removePhoto"_s);
     QTest::mouseClick(remove, Qt::LeftButton);
     QVERIFY(!strip->isVisible());
     QTest::mouseClick(remove, Qt::LeftButton);
-    QVERIFY(pane.photos().isEmpty() && !remove->isEnabled());
+    QVERIFY(pane->photos().isEmpty() && !remove->isEnabled());
     QVERIFY(QFile::exists(pathOf(u"a.jpg"_s)));
     // A file's name is no markup.
-    pane.setPhotos({photoOf(u"a & b.jpg"_s), photoOf(u"<img src=x>.jpg"_s)}, {});
+    pane->setPhotos({photoOf(u"a & b.jpg"_s), photoOf(u"<img src=x>.jpg"_s)}, {});
     QCOMPARE(strip->item(0)->toolTip(), u"a & b.jpg"_s);
     QCOMPARE(QTextDocumentFragment::fromHtml(strip->item(1)->toolTip()).toPlainText(), u"<img src=x>.jpg"_s);
 }

@@ -56,7 +56,7 @@ private Q_SLOTS:
     void builtInPrinterHasPresets();
 
 private:
-    std::unique_ptr<OpenedDialog> openQueue(PanelMode mode, const QString &printer = u"photo"_s) const;
+    std::unique_ptr<OpenedDialog> openQueue(const QString &printer = u"photo"_s) const;
     static void act(const OpenedDialog &opened, Action action)
     {
         opened.find<QMenu>(u"presetMenu"_s)->actions().at(action)->trigger();
@@ -98,9 +98,9 @@ void PresetTest::init()
     QFile::remove(PresetStore::userFile());
 }
 
-std::unique_ptr<OpenedDialog> PresetTest::openQueue(PanelMode mode, const QString &printer) const
+std::unique_ptr<OpenedDialog> PresetTest::openQueue(const QString &printer) const
 {
-    auto opened = std::make_unique<OpenedDialog>(setupForPrinter(mode, printer));
+    auto opened = std::make_unique<OpenedDialog>(setupForPrinter(mode_, printer));
     opened->dialog->searchPrinters();
     if (!showsReady(*opened, printer))
         qWarning("%s", qPrintable(opened->message()));
@@ -142,8 +142,7 @@ bool PresetTest::printsLikeLp(const OpenedDialog &opened, const QString &instanc
 
 void PresetTest::savedPresetPrintsAlike()
 {
-    QFETCH_GLOBAL(PanelMode, mode);
-    const auto opened = openQueue(mode);
+    const auto opened = openQueue();
     opened->type(81, u"-7"_s);
     opened->dialog->showPage(2);
     opened->click(u"fine"_s);
@@ -160,8 +159,7 @@ void PresetTest::savedPresetPrintsAlike()
 // Options that it does not name are as CUPS prints them: the printer's defaults.
 void PresetTest::presetOfCupsAppears()
 {
-    QFETCH_GLOBAL(PanelMode, mode);
-    const auto opened = openQueue(mode);
+    const auto opened = openQueue();
     opened->type(82, u"9"_s);
     QVERIFY(saveByCups(u"warm"_s, u"Red=5 SharpnessIntensity=1.50 copies=3"_s));
     use(*opened, u"warm"_s);
@@ -176,9 +174,8 @@ void PresetTest::presetOfCupsAppears()
 
 void PresetTest::savedRenamedDeleted()
 {
-    QFETCH_GLOBAL(PanelMode, mode);
     QVERIFY(saveByCups(u"other"_s, u"Red=5"_s));
-    const auto opened = openQueue(mode);
+    const auto opened = openQueue();
     auto *presets = opened->find<QComboBox>(u"presets"_s);
     opened->type(81, u"1"_s);
     act(*opened, SaveAs);
@@ -206,7 +203,7 @@ void PresetTest::savedRenamedDeleted()
 
 void PresetTest::namesAreChecked()
 {
-    const auto opened = openQueue(PanelMode::Constraint);
+    const auto opened = openQueue();
     act(*opened, SaveAs);
     for (const QString &bad : {u""_s, u"  "_s, u"bell\a"_s, QString(200, u'x'), QString(50, u'#')}) {
         name(*opened, bad);
@@ -222,10 +219,9 @@ void PresetTest::namesAreChecked()
 // What CUPS does not take in an instance's name is mapped there, and there only.
 void PresetTest::namesStayAsTyped()
 {
-    QFETCH_GLOBAL(PanelMode, mode);
     const QString mine = u"Oma's \"10 / 15\" 光沢 🙂"_s;
     const QString instance = u"photo/Oma%27s%20%2210%20%2F%2015%22%20光沢%20🙂"_s;
-    const auto opened = openQueue(mode);
+    const auto opened = openQueue();
     auto *presets = opened->find<QComboBox>(u"presets"_s);
     opened->type(81, u"-7"_s);
     act(*opened, SaveAs);
@@ -236,7 +232,7 @@ void PresetTest::namesStayAsTyped()
     QCOMPARE(error(*opened), QString());
     QCOMPARE(presets->currentText(), mine);
     QVERIFY(printsLikeLp(*opened, instance, u"red=-7"_s, "1"));
-    const auto again = openQueue(mode, instance);
+    const auto again = openQueue(instance);
     QCOMPARE(again->find<QComboBox>(u"presets"_s)->currentText(), mine);
     QVERIFY(again->find<QComboBox>(u"printer"_s)->currentText().contains(mine));
     QCOMPARE(again->fieldText(81), u"-7"_s);
@@ -244,9 +240,8 @@ void PresetTest::namesStayAsTyped()
 
 void PresetTest::whatIsLeftOutIsSaid()
 {
-    QFETCH_GLOBAL(PanelMode, mode);
     QVERIFY(saveByCups(u"odd"_s, u"Red=999 Blue=4 Quality=Standard Overcoat=Matte"_s));
-    const auto opened = openQueue(mode);
+    const auto opened = openQueue();
     use(*opened, u"odd"_s);
     QCOMPARE(opened->fieldTexts({83, 81}), u"4 0"_s);
     const QString message = opened->message();
@@ -257,9 +252,8 @@ void PresetTest::whatIsLeftOutIsSaid()
 
 void PresetTest::usingAPresetIsAStep()
 {
-    QFETCH_GLOBAL(PanelMode, mode);
     QVERIFY(saveByCups(u"warm"_s, u"Red=5 Blue=4 copies=3"_s));
-    const auto opened = openQueue(mode);
+    const auto opened = openQueue();
     use(*opened, u"warm"_s);
     opened->undo();
     QCOMPARE(opened->fieldTexts({81, 83}), u"0 0"_s);
@@ -272,15 +266,14 @@ void PresetTest::usingAPresetIsAStep()
 
 void PresetTest::builtInPrinterHasPresets()
 {
-    QFETCH_GLOBAL(PanelMode, mode);
     {
-        const OpenedDialog opened(mode);
+        const OpenedDialog opened(mode_);
         opened.type(81, u"6"_s);
         act(opened, SaveAs);
         name(opened, u"mine"_s);
         QCOMPARE(error(opened), QString());
     }
-    const OpenedDialog opened(mode);
+    const OpenedDialog opened(mode_);
     QCOMPARE(opened.fieldText(81), u"0"_s);
     use(opened, u"mine"_s);
     QCOMPARE(opened.fieldText(81), u"6"_s);

@@ -15,8 +15,7 @@ using namespace testing_support;
 // Sliders, typed numbers, radio buttons on all three pages; the same ticket in both modes.
 void PrintDialogTest::printsWhatTheUserChose()
 {
-    QFETCH_GLOBAL(PanelMode, mode);
-    const OpenedDialog opened(mode);
+    const OpenedDialog opened(mode_);
     opened.type(81, u"-12"_s);
     opened.press(Qt::Key_Return); // belongs to the field
     QCOMPARE(opened.message(), QString());
@@ -40,14 +39,13 @@ void PrintDialogTest::printsWhatTheUserChose()
 // worker.
 void PrintDialogTest::damagedPhoto()
 {
-    QFETCH_GLOBAL(PanelMode, mode);
     QFile sample(QStringLiteral(CORVEL_SAMPLE_PHOTO));
     QFile damaged(config_->filePath(u"sample.jpg"_s));
     QVERIFY(sample.open(QFile::ReadOnly) && damaged.open(QFile::WriteOnly));
     const QByteArray content = sample.readAll();
     damaged.write(QByteArray(content).replace(content.size() / 2, 4096, QByteArray(4096, '\0')));
     damaged.close();
-    PrintDialogSetup setup = setupFor(mode);
+    PrintDialogSetup setup = setupFor(mode_);
     setup.photos.append(*Photo::open(damaged.fileName()));
 
     PrintWorker worker;
@@ -91,8 +89,7 @@ void PrintDialogTest::printsByKeyFromAnywhere()
 
 void PrintDialogTest::openingOptionsAreShown()
 {
-    QFETCH_GLOBAL(PanelMode, mode);
-    PrintDialogSetup setup = setupFor(mode);
+    PrintDialogSetup setup = setupFor(mode_);
     setup.options = {{u"Red"_s, u"+3"_s}, {u"Nope"_s, u"1"_s}};
     const OpenedDialog opened(setup);
     QCOMPARE(opened.fieldText(81), u"3"_s);
@@ -102,8 +99,7 @@ void PrintDialogTest::openingOptionsAreShown()
 
 void PrintDialogTest::photosThatCannotBeOpenedAreNamed()
 {
-    QFETCH_GLOBAL(PanelMode, mode);
-    PrintDialogSetup setup = setupFor(mode);
+    PrintDialogSetup setup = setupFor(mode_);
     setup.photoFailures = {u"\"a.jpg\" is empty."_s, u"\"b.jpg\" is damaged."_s};
     setup.copies = 4;
     const OpenedDialog opened(setup);

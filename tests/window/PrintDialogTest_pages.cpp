@@ -54,8 +54,7 @@ void PrintDialogTest::pagesTurnFromAnywhere()
 // being looked at.
 void PrintDialogTest::summaryFollowsTheJob()
 {
-    QFETCH_GLOBAL(PanelMode, mode);
-    const OpenedDialog opened(mode);
+    const OpenedDialog opened(mode_);
     opened.type(81, u"-12"_s);
     opened.dialog->showPage(3);
     QStringList expected =
@@ -160,8 +159,7 @@ void PrintDialogTest::tabOrderAndNames()
 // From the opened window to the printed photo by nothing but keys, each to what has the focus.
 void PrintDialogTest::wholeFlowByKeyboard()
 {
-    QFETCH_GLOBAL(PanelMode, mode);
-    const OpenedDialog opened(mode);
+    const OpenedDialog opened(mode_);
     const auto tabTo = [&](const auto &isThere) {
         for (int i = 0; i < 60 && !isThere(QApplication::focusWidget()); ++i)
             opened.press(Qt::Key_Tab);
@@ -216,11 +214,10 @@ void PrintDialogTest::panelIsToldOnceThatItIsShown()
 
 void PrintDialogTest::missingFormDisablesOnePanel()
 {
-    QFETCH_GLOBAL(PanelMode, mode);
     const QString form = QStringLiteral(CORVEL_PDE_DIR "/Corvel9031.bundle/Contents/Resources/corvelPDE.ui");
     QVERIFY(QFile::rename(form, form + u".away"_s));
     const auto back = qScopeGuard([form] { QFile::rename(form + u".away"_s, form); });
-    const OpenedDialog opened(mode);
+    const OpenedDialog opened(mode_);
     QVERIFY(opened.message().contains(u"Color Adjustments"_s));
     QVERIFY(!opened.control(1));
     opened.dialog->showPage(1);

@@ -34,8 +34,7 @@ void PrinterChoiceTest::choose(const OpenedDialog &opened, const QString &printe
 
 void PrinterChoiceTest::settingsAreKeptForTheirPrinter()
 {
-    QFETCH_GLOBAL(PanelMode, mode);
-    PrintDialogSetup setup = setupFor(mode);
+    PrintDialogSetup setup = setupFor(mode_);
     setup.options = {{u"Quality"_s, u"Fine"_s}, {u"Overcoat"_s, u"Matte"_s}};
     {
         const OpenedDialog opened(setup);
@@ -44,14 +43,14 @@ void PrinterChoiceTest::settingsAreKeptForTheirPrinter()
         opened.type(81, u"10"_s);
     }
     {
-        const OpenedDialog again(mode);
+        const OpenedDialog again(mode_);
         QCOMPARE(again.fieldText(81), u"9"_s);
         again.dialog->showPage(2);
         QVERIFY(again.find<QRadioButton>(u"matte"_s)->isChecked());
         QVERIFY(again.prints());
         QCOMPARE(again.printed(u"Overcoat"_s), u"Matte"_s);
     }
-    const OpenedDialog other(setupForPrinter(mode, u"built-in"_s));
+    const OpenedDialog other(setupForPrinter(mode_, u"built-in"_s));
     other.dialog->searchPrinters();
     choose(other, u"photo"_s);
     QCOMPARE(other.fieldText(81), u"0"_s);
@@ -62,8 +61,7 @@ void PrinterChoiceTest::settingsAreKeptForTheirPrinter()
 // Before the queue is found nothing can be printed: it would come out somewhere else.
 void PrinterChoiceTest::printsOnTheQueueAskedFor()
 {
-    QFETCH_GLOBAL(PanelMode, mode);
-    PrintDialogSetup setup = setupForPrinter(mode, u"photo"_s);
+    PrintDialogSetup setup = setupForPrinter(mode_, u"photo"_s);
     setup.options = {{u"Red"_s, u"12"_s}};
     const OpenedDialog opened(setup);
     QCOMPARE(opened.find<QComboBox>(u"printer"_s)->currentIndex(), -1);
@@ -84,9 +82,8 @@ void PrinterChoiceTest::printsOnTheQueueAskedFor()
 
 void PrinterChoiceTest::defaultQueueTakesTheOptions()
 {
-    QFETCH_GLOBAL(PanelMode, mode);
     QVERIFY(cupsd_.run(u"lpadmin"_s, {u"-d"_s, u"photo"_s}));
-    PrintDialogSetup setup = setupForPrinter(mode);
+    PrintDialogSetup setup = setupForPrinter(mode_);
     setup.options = {{u"Red"_s, u"12"_s}};
     const OpenedDialog opened(setup);
     QCOMPARE(opened.fieldText(81), u"12"_s);

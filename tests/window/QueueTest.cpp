@@ -9,7 +9,6 @@ namespace testing_support {
 
 void QueueTest::initTestCase()
 {
-    WindowTest::init();
     qputenv("HOME", QFile::encodeName(home_.path()));
     QFile ppd(QStringLiteral(CORVEL_SIBLING_PPD));
     QVERIFY(ppd.open(QIODevice::ReadOnly));
