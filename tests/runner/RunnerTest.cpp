@@ -6,6 +6,7 @@
 
 #include "BackendRun.h"
 #include "PlatformException.h"
+#include "Rows.h"
 #include "SignalLog.h"
 
 #include <QtTest/QTest>
@@ -63,27 +64,26 @@ void RunnerTest::record()
 
 void RunnerTest::runs_data()
 {
-    QTest::addColumn<bool>("hasCommand");
-    QTest::addColumn<QStringList>("errors"); // chunks of standard error, as they are read
-    QTest::newRow("reads") << true << QStringList();
-    QTest::newRow("both streams") << true << QStringList{text("INFO: ready\n")};
-    QTest::newRow("arguments") << false << QStringList{text("[--utility][usb://Own/1][-]")};
-    QTest::newRow("ends at once") << false << QStringList();
-    QTest::newRow("silent") << false << QStringList();
-    QTest::newRow("offline in lower case") << false << QStringList{text("state: +offline-error\n")};
-    QTest::newRow("offline in two pieces")
-        << false << QStringList({text("STATE: +off"), text("line-error\n")});
-    QTest::newRow("does not read") << true << QStringList();
-    QTest::newRow("closes standard output first") << false << QStringList{text("INFO: late\n")};
-    QTest::newRow("closes standard error first") << false << QStringList();
-    QTest::newRow("floods standard output") << false << QStringList();
+    // Whether there is a command; the chunks of standard error, as they are read.
+    addRows<bool, QStringList>({
+        {"reads", true, {}},
+        {"both streams", true, {text("INFO: ready\n")}},
+        {"arguments", false, {text("[--utility][usb://Own/1][-]")}},
+        {"ends at once", false, {}},
+        {"silent", false, {}},
+        {"offline in lower case", false, {text("state: +offline-error\n")}},
+        {"offline in two pieces", false, {text("STATE: +off"), text("line-error\n")}},
+        {"does not read", true, {}},
+        {"closes standard output first", false, {text("INFO: late\n")}},
+        {"closes standard error first", false, {}},
+        {"floods standard output", false, {}},
+    });
 }
 
 // After each run: the log exactly, the panel idle, no descriptor and no child left.
 void RunnerTest::runs()
 {
-    QFETCH(bool, hasCommand);
-    QFETCH(QStringList, errors);
+    const auto [hasCommand, errors] = row<bool, QStringList>();
     BackendRun run(QTest::currentDataTag());
     run.dialog.printer.deviceUri = pdekit::URLReference(text("usb://Own/1"));
     pdekit::prepareSignalLog();
@@ -105,26 +105,20 @@ void RunnerTest::runs()
         QCOMPARE(run.input(), qstrcmp(QTest::currentDataTag(), "does not read") == 0 ? "" : "print\n");
 }
 
-void RunnerTest::drains_data()
-{
-    QTest::addColumn<bool>("outputEnds"); // else the errors do
-    QTest::newRow("closes standard output first") << true;
-    QTest::newRow("closes standard error first") << false;
-}
-
 // One stream has ended, the other not: the panel is busy, but no longer waits.
 void RunnerTest::drains()
 {
-    QFETCH(bool, outputEnds);
-    BackendRun run(QTest::currentDataTag());
-    QCOMPARE(run.start(), 0);
-    const auto &ended = outputEnds ? run.panel->streamIN_ : run.panel->streamERR_;
-    const auto &other = outputEnds ? run.panel->streamERR_ : run.panel->streamIN_;
-    QTRY_VERIFY(!ended);
-    QVERIFY(other && !run.panel->waitForCommandCompletion_);
-    QCOMPARE(run.start(), -1);
-    QVERIFY(!run.panel->waitForCommandCompletion_);
-    QTRY_VERIFY(run.isIdle());
+    for (const bool outputEnds : {true, false}) {
+        BackendRun run(outputEnds ? "closes standard output first" : "closes standard error first");
+        QCOMPARE(run.start(), 0);
+        const auto &ended = outputEnds ? run.panel->streamIN_ : run.panel->streamERR_;
+        const auto &other = outputEnds ? run.panel->streamERR_ : run.panel->streamIN_;
+        QTRY_VERIFY(!ended);
+        QVERIFY(other && !run.panel->waitForCommandCompletion_);
+        QCOMPARE(run.start(), -1);
+        QVERIFY(!run.panel->waitForCommandCompletion_);
+        QTRY_VERIFY(run.isIdle());
+    }
 }
 
 // Without a command the child's standard input is the dialog's, here a file.
@@ -186,10 +180,7 @@ void RunnerTest::everyByteArrives()
 
 void RunnerTest::offlineStopsTheBackend_data()
 {
-    QTest::addColumn<int>("interrupts"); // until the backend has ended
-    QTest::newRow("offline") << 1;
-    QTest::newRow("offline in a longer line") << 1;
-    QTest::newRow("offline until the 20th interrupt") << 20;
+    addRows<int>({{"offline", 1}, {"offline in a longer line", 1}, {"offline until the 20th interrupt", 20}});
 }
 
 void RunnerTest::offlineStopsTheBackend()
@@ -199,7 +190,7 @@ void RunnerTest::offlineStopsTheBackend()
     QVERIFY(!run.panel->task_);
     QVERIFY(run.dialog.log.constLast().contains(text("STATE: +offline-error")));
     QTRY_VERIFY(!hasChildren());
-    QFETCH(int, interrupts);
+    const auto [interrupts] = row<int>(); // until the backend has ended
     if (interrupts == 1)
         return;
     // What the backend has written when the last one came: a millisecond before each but the first, of which
@@ -241,23 +232,20 @@ void RunnerTest::closedInputRaisesNothing()
 
 void RunnerTest::backendIsLookedFor_data()
 {
-    QTest::addColumn<QString>("bundle");
-    QTest::addColumn<QString>("backend"); // from the folder
-    QTest::addColumn<bool>("isFound");
-    QTest::newRow("beside the bundle's folder") << text("Own.bundle") << text("cups/backend/velta") << true;
-    QTest::newRow("spaces and letters")
-        << QStringLiteral("Größe 9 ✓.bundle") << QStringLiteral("PDEs/Größe 9 ✓.bundle/Contents/Linux/velta")
-        << true;
-    QTest::newRow("nowhere") << text("Own.bundle") << QString() << false;
+    const QString odd = QStringLiteral("Größe 9 ✓.bundle");
+    addRows<QString, QString, bool>({
+        // the backend from the folder
+        {"beside the bundle's folder", text("Own.bundle"), text("cups/backend/velta"), true},
+        {"spaces and letters", odd, text("PDEs/%1/Contents/Linux/velta").arg(odd), true},
+        {"nowhere", text("Own.bundle"), text("cups/backend/velta"), false},
+    });
 }
 
 void RunnerTest::backendIsLookedFor()
 {
-    QFETCH(QString, bundle);
-    QFETCH(QString, backend);
-    QFETCH(bool, isFound);
+    const auto [bundle, backend, isFound] = row<QString, QString, bool>();
     BackendRun run("descriptors", BackendRun::Installed::Nowhere, bundle);
-    const QString path = run.folder.filePath(backend.isEmpty() ? text("cups/backend/velta") : backend);
+    const QString path = run.folder.filePath(backend);
     if (isFound)
         run.install(path);
     else

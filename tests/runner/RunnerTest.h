@@ -13,7 +13,6 @@ private Q_SLOTS:
     void record();
     void runs_data();
     void runs();
-    void drains_data();
     void drains();
     void inheritsItsInput();
     void endsWithinThePause();

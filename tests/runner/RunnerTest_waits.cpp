@@ -4,6 +4,7 @@
 #include "BackendRun.h"
 #include "FileDescriptor.h"
 #include "InputWindow.h"
+#include "Rows.h"
 #include "RunnerTest.h"
 #include "ScriptedWaits.h"
 #include "SystemLog.h"
@@ -77,18 +78,20 @@ void RunnerTest::silenceAfterOneLine()
 
 void RunnerTest::waitsNest_data()
 {
-    QTest::addColumn<QByteArray>("passes"); // see ScriptedWaits.h
-    QTest::newRow("one wait") << QByteArray("...........");
-    QTest::newRow("one inside the first pass") << QByteArray("e.....................");
-    QTest::newRow("one inside the last pass") << QByteArray("..........e...........");
-    QTest::newRow("three deep, again and again") << QByteArray("ee...e..............e") + QByteArray(60, '.');
-    QTest::newRow("ends inside") << QByteArray("e..e...E");
+    addRows<QByteArray>({
+        // see ScriptedWaits.h
+        {"one wait", "..........."},
+        {"one inside the first pass", "e....................."},
+        {"one inside the last pass", "..........e..........."},
+        {"three deep, again and again", QByteArray("ee...e..............e") + QByteArray(60, '.')},
+        {"ends inside", "e..e...E"},
+    });
 }
 
 // The waits kept in a container against waits that nest on the stack: the same passes, the same interrupts.
 void RunnerTest::waitsNest()
 {
-    QFETCH(QByteArray, passes);
+    const auto [passes] = row<QByteArray>();
     NestedWaits nested;
     nested.script = passes;
     nested.wait();
@@ -100,20 +103,20 @@ void RunnerTest::waitsNest()
 
 void RunnerTest::waitsEndWithTheirRun_data()
 {
-    QTest::addColumn<int>("interval"); // milliseconds, at which a caller asks whether the run is over
-    QTest::addColumn<int>("busy");     // milliseconds, for which the main thread is, before it is told
-    QTest::newRow("asked at every turn") << 0 << 0;
-    QTest::newRow("asked often") << 5 << 0;
-    QTest::newRow("asked now and then") << 50 << 0;
-    QTest::newRow("busy") << 0 << 100;
+    // In milliseconds: how often a caller asks whether the run is over; for how long the main thread is busy
+    // before it is told.
+    addRows<int, int>({{"asked at every turn", 0, 0},
+                       {"asked often", 5, 0},
+                       {"asked now and then", 50, 0},
+                       {"busy", 0, 100}});
 }
 
 // A run that is launched in the turn of the event loop in which the one before ended has none of its waits,
 // at whose end an interrupt would come.
 void RunnerTest::waitsEndWithTheirRun()
 {
-    QFETCH(int, interval);
-    QFETCH(int, busy);
+    const int interval = std::get<0>(row<int, int>());
+    const int busy = std::get<1>(row<int, int>());
     BackendRun run("offline in lower case");
     int passesAtLaunch = 0; // of the next run
     QTimer caller;
@@ -193,9 +196,8 @@ void RunnerTest::waitsPaintAndTakeNoInput()
 
 void RunnerTest::floods_data()
 {
-    QTest::addColumn<qsizetype>("characters"); // that are logged, at least
-    QTest::newRow("floods standard error") << qsizetype(2'000'000);
-    QTest::newRow("floods until interrupted") << qsizetype(500'000);
+    // Characters that are logged, at least.
+    addRows<qsizetype>({{"floods standard error", 2'000'000}, {"floods until interrupted", 500'000}});
 }
 
 void RunnerTest::floods()
@@ -218,8 +220,7 @@ void RunnerTest::floods()
     QCOMPARE(run.start(), 0);
     QTRY_VERIFY_WITH_TIMEOUT(run.isIdle(), 60000);
     pdekit::setSystemLogSink(sink);
-    QFETCH(qsizetype, characters);
-    QVERIFY(logged >= characters);
+    QVERIFY(logged >= std::get<0>(row<qsizetype>()));
     QVERIFY2(highest - lowest < 64 * 1024, qPrintable(QString::number(highest - lowest)));
     const qint64 grown = peakMemory() - memory;
     QVERIFY2(grown < mostGrowth, qPrintable(QString::number(grown)));
@@ -228,18 +229,18 @@ void RunnerTest::floods()
 
 void RunnerTest::destroyedWhileRunning_data()
 {
-    QTest::addColumn<QString>("backend");
-    QTest::addColumn<bool>("isWaiting"); // its own wait is on the stack
-    QTest::newRow("idle") << text("silent after one line") << false;
-    QTest::newRow("waiting") << text("silent after one line") << true;
-    QTest::newRow("ignores interrupts") << text("ignores interrupts") << true;
+    addRows<const char *, bool>({
+        // whether its own wait is on the stack
+        {"idle", "silent after one line", false},
+        {"waiting", "silent after one line", true},
+        {"ignores interrupts", "ignores interrupts", true},
+    });
 }
 
 void RunnerTest::destroyedWhileRunning()
 {
-    QFETCH(QString, backend);
-    QFETCH(bool, isWaiting);
-    auto run = std::make_unique<BackendRun>(backend.toLatin1().constData());
+    const auto [backend, isWaiting] = row<const char *, bool>();
+    auto run = std::make_unique<BackendRun>(backend);
     QCOMPARE(run->start(), 0);
     QPointer<RunnerPanel> panel = run->panel.get();
     QElapsedTimer timer;
@@ -258,18 +259,15 @@ void RunnerTest::destroyedWhileRunning()
 
 void RunnerTest::descriptorsRunOut_data()
 {
-    QTest::addColumn<int>("left"); // descriptors
-    QTest::addColumn<bool>("starts");
-    QTest::newRow("for the pipes") << 3 << false;
-    QTest::newRow("for the streams") << 4 << true;
-    QTest::newRow("for one of the streams") << 5 << true;
+    // How many descriptors are left, and whether it starts.
+    addRows<int, bool>(
+        {{"for the pipes", 3, false}, {"for the streams", 4, true}, {"for one of the streams", 5, true}});
 }
 
 // The panel comes to rest whatever is missing, and leaves no child and no descriptor behind.
 void RunnerTest::descriptorsRunOut()
 {
-    QFETCH(int, left);
-    QFETCH(bool, starts);
+    const auto [left, starts] = row<int, bool>();
     BackendRun run("silent");
     const qsizetype descriptors = openDescriptors();
     QCOMPARE(withDescriptorsLeft(left, [&run] { return run.start(); }), 0);
