@@ -4,6 +4,7 @@
 #include "Bundle.h"
 #include "PanelHarness.h"
 #include "PrintDialogPlugin.h"
+#include "Rows.h"
 #include "TestMain.h"
 
 #include <QtCore/QFile>
@@ -111,18 +112,17 @@ void FactoryTest::order()
 
 void FactoryTest::missingPanelEndsTheList_data()
 {
-    QTest::addColumn<int>("failing");
-    QTest::addColumn<QString>("kinds");
-    QTest::newRow("the first made is the last offered") << 1 << text("coloradjust sharpness");
-    QTest::newRow("the second") << 2 << text("coloradjust");
-    QTest::newRow("the last made is the first offered") << 3 << QString();
+    addRows<int, QString>({
+        {"the first made is the last offered", 1, text("coloradjust sharpness")},
+        {"the second", 2, text("coloradjust")},
+        {"the last made is the first offered", 3, {}},
+    });
 }
 
 void FactoryTest::missingPanelEndsTheList()
 {
     QFETCH_GLOBAL(Mode, mode);
-    QFETCH(int, failing);
-    QFETCH(QString, kinds);
+    const auto [failing, kinds] = row<int, QString>();
     PanelHarness dialog(mode);
     CountingSession session;
     session.ppd = dialog.session.ppd;

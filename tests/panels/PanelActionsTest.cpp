@@ -21,8 +21,7 @@ class PanelActionsTest : public QObject
 
 private Q_SLOTS:
     void initTestCase_data();
-    void returnKey();
-    void cursorStaysInTheNumber();
+    void typing();
     void movingTheSlider();
     void answersOfMarking();
     void mixedEnablerOfTheFinish();
@@ -37,7 +36,7 @@ void PanelActionsTest::initTestCase_data()
     QTest::newRow("print settings") << Mode::Settings;
 }
 
-void PanelActionsTest::returnKey()
+void PanelActionsTest::typing()
 {
     QFETCH_GLOBAL(Mode, mode);
     PanelHarness dialog(mode);
@@ -53,14 +52,7 @@ void PanelActionsTest::returnKey()
     }
     QTest::keyClick(dialog.slider(1), Qt::Key_Return);
     QCOMPARE(dialog.printed, 1); // from elsewhere, Return is the default button's
-}
-
-void PanelActionsTest::cursorStaysInTheNumber()
-{
-    QFETCH_GLOBAL(Mode, mode);
-    PanelHarness dialog(mode);
-    auto panel = dialog.make<LVCorvelMainPDE>();
-    dialog.show(*panel);
+    // What is typed within a number stays there, and the cursor behind it.
     dialog.type(81, text("15"));
     QTest::keyClick(dialog.field(81), Qt::Key_Home);
     QTest::keyClick(dialog.field(81), Qt::Key_Minus);

@@ -14,44 +14,6 @@
 #include <sys/mman.h>
 #include <unistd.h>
 
-pdekit::Status FakeTicket::PMTicketGetPPDDict(int firstNode, int secondNode,
-                                              pdekit::PPDDictionary **dictionary)
-{
-    if (firstNode != 0 || secondNode != 0)
-        return -50;
-    *dictionary = hasDictionary ? &options : nullptr; // even when the status is an error
-    return status;
-}
-
-pdekit::Status FakeSession::GetPPDRefFromSession(ppd_file_s **place)
-{
-    *place = ppd; // even when the status is an error
-    return ppdStatus;
-}
-
-pdekit::Status FakeSession::PMSessionGetTicketFromSession(const QString &type, pdekit::PrintTicket **place)
-{
-    if (type != QLatin1String("PMPrintSettingsTicket"))
-        return -50;
-    *place = &ticket;
-    return ticketStatus;
-}
-
-std::optional<QUrl> FakePrinter::PMPrinterCopyDescriptionURL(const QString &type)
-{
-    return type == QLatin1String("PMPPDDescriptionType") ? description : std::nullopt;
-}
-
-std::optional<QByteArray> FakePrinter::PMCopyPPDData(const QUrl &url)
-{
-    return url == description ? data : std::nullopt;
-}
-
-std::optional<pdekit::URLReference> FakePrinter::PMPrinterCopyDeviceURI()
-{
-    return deviceUri;
-}
-
 bool ConstraintCallback::willChangePPDOptionKeyValuePpdChoice(const QString &key, const QString &choice)
 {
     offers << key + QLatin1Char('=') + choice;
@@ -60,12 +22,6 @@ bool ConstraintCallback::willChangePPDOptionKeyValuePpdChoice(const QString &key
     if (ppdFindChoice(ppdFindOption(ppd, key.toUtf8().constData()), choice.toUtf8().constData()))
         ppdMarkOption(ppd, key.toUtf8().constData(), choice.toUtf8().constData());
     return true;
-}
-
-bool RecordingFeedback::openHelpBook(const pdekit::Bundle & /*bundle*/, const QString &name)
-{
-    helpBooks << name;
-    return opensHelp;
 }
 
 std::optional<pdekit::Bundle> emptyBundle(const QString &folder, const QByteArray &identifier)

@@ -46,7 +46,13 @@ class FakeTicket : public pdekit::PrintTicket
 {
 public:
     pdekit::Status PMTicketGetPPDDict(int firstNode, int secondNode,
-                                      pdekit::PPDDictionary **dictionary) override;
+                                      pdekit::PPDDictionary **dictionary) override
+    {
+        if (firstNode != 0 || secondNode != 0)
+            return -50;
+        *dictionary = hasDictionary ? &options : nullptr; // even when the status is an error
+        return status;
+    }
 
     pdekit::PPDDictionary options;
     pdekit::Status status = pdekit::noErr;
@@ -56,8 +62,18 @@ public:
 class FakeSession : public pdekit::PrintSession
 {
 public:
-    pdekit::Status GetPPDRefFromSession(ppd_file_s **ppd) override;
-    pdekit::Status PMSessionGetTicketFromSession(const QString &type, pdekit::PrintTicket **ticket) override;
+    pdekit::Status GetPPDRefFromSession(ppd_file_s **place) override
+    {
+        *place = ppd; // even when the status is an error
+        return ppdStatus;
+    }
+    pdekit::Status PMSessionGetTicketFromSession(const QString &type, pdekit::PrintTicket **place) override
+    {
+        if (type != QLatin1String("PMPrintSettingsTicket"))
+            return -50;
+        *place = &ticket;
+        return ticketStatus;
+    }
 
     FakeTicket ticket;
     ppd_file_s *ppd = nullptr;
@@ -68,9 +84,15 @@ public:
 class FakePrinter : public pdekit::Printer
 {
 public:
-    std::optional<QUrl> PMPrinterCopyDescriptionURL(const QString &type) override;
-    std::optional<QByteArray> PMCopyPPDData(const QUrl &url) override;
-    std::optional<pdekit::URLReference> PMPrinterCopyDeviceURI() override;
+    std::optional<QUrl> PMPrinterCopyDescriptionURL(const QString &type) override
+    {
+        return type == QLatin1String("PMPPDDescriptionType") ? description : std::nullopt;
+    }
+    std::optional<QByteArray> PMCopyPPDData(const QUrl &url) override
+    {
+        return url == description ? data : std::nullopt;
+    }
+    std::optional<pdekit::URLReference> PMPrinterCopyDeviceURI() override { return deviceUri; }
 
     std::optional<QUrl> description;
     std::optional<QByteArray> data;
@@ -114,7 +136,11 @@ public:
     {
         alerts << alert.message + u'|' + alert.information + u'|' + alert.button;
     }
-    bool openHelpBook(const pdekit::Bundle &bundle, const QString &name) override;
+    bool openHelpBook(const pdekit::Bundle & /*bundle*/, const QString &name) override
+    {
+        helpBooks << name;
+        return opensHelp;
+    }
 
     int beeps = 0;
     QStringList alerts;

@@ -5,6 +5,7 @@
 #include "LVCorvelMainPDE.h"
 #include "PanelHarness.h"
 #include "RadioMatrix.h"
+#include "Rows.h"
 #include "TestMain.h"
 
 #include <QtCore/QLocale>
@@ -63,28 +64,22 @@ void PanelViewsTest::updateUIWalksTwoRuns()
 
 void PanelViewsTest::toggleReaches_data()
 {
-    QTest::addColumn<int>("options");
-    QTest::addColumn<std::optional<int>>("state");
-    QTest::addColumn<Tags>("disabled");
-    const std::optional<int> off;
-    QTest::newRow("gap at 4 goes on to the partners") << 3 << off << Tags{1, 2, 3, 81, 82};
-    QTest::newRow("no options") << 0 << off << Tags{81, 82};
-    QTest::newRow("gap at 14 goes on")
-        << 13 << off << Tags{1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 81, 82};
-    QTest::newRow("gap at 15 ends the walk")
-        << 14 << off << Tags{1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14};
-    QTest::newRow("gap at 16 ends the walk")
-        << 15 << off << Tags{1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15};
-    QTest::newRow("mixed enables") << 3 << std::optional(-1) << Tags{};
-    QTest::newRow("any state enables") << 3 << std::optional(2) << Tags{};
-    QTest::newRow("of which one byte counts") << 1 << std::optional(256) << Tags{1, 81, 82};
+    // How many options there are; what the check box' state is said to be; the tags that are disabled then.
+    addRows<int, std::optional<int>, Tags>({
+        {"gap at 4 goes on to the partners", 3, {}, {1, 2, 3, 81, 82}},
+        {"no options", 0, {}, {81, 82}},
+        {"gap at 14 goes on", 13, {}, {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 81, 82}},
+        {"gap at 15 ends the walk", 14, {}, {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14}},
+        {"gap at 16 ends the walk", 15, {}, {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15}},
+        {"mixed enables", 3, -1, {}},
+        {"any state enables", 3, 2, {}},
+        {"of which one byte counts", 1, 256, {1, 81, 82}},
+    });
 }
 
 void PanelViewsTest::toggleReaches()
 {
-    QFETCH(int, options);
-    QFETCH(std::optional<int>, state);
-    QFETCH(Tags, disabled);
+    const auto [options, state, disabled] = row<int, std::optional<int>, Tags>();
     PanelHarness dialog(Mode::Settings);
     auto panel = dialog.make<BuiltPanel>();
     panel->fixedEnablerState = state;
@@ -108,25 +103,25 @@ void PanelViewsTest::toggleReaches()
 
 void PanelViewsTest::textFieldsWired_data()
 {
-    QTest::addColumn<Tags>("present");
-    QTest::addColumn<Tags>("wired");
-    QTest::newRow("none") << Tags{1, 79} << Tags{};
-    QTest::newRow("80, 82") << Tags{80, 82} << Tags{80, 82};
-    QTest::newRow("only 82") << Tags{82} << Tags{};
-    QTest::newRow("81 without 80") << Tags{81, 82, 83} << Tags{81, 82, 83};
-    QTest::newRow("two missing") << Tags{80, 83} << Tags{80};
-    QTest::newRow("single gaps") << Tags{81, 83, 85, 88} << Tags{81, 83, 85};
+    addRows<Tags, Tags>({
+        // that are there, and that are wired
+        {"none", {1, 79}, {}},
+        {"80, 82", {80, 82}, {80, 82}},
+        {"only 82", {82}, {}},
+        {"81 without 80", {81, 82, 83}, {81, 82, 83}},
+        {"two missing", {80, 83}, {80}},
+        {"single gaps", {81, 83, 85, 88}, {81, 83, 85}},
+    });
 }
 
 void PanelViewsTest::textFieldsWired()
 {
-    QFETCH(Tags, present);
-    QFETCH(Tags, wired);
+    const auto [present, wired] = row<Tags, Tags>();
     PanelHarness dialog(Mode::Settings);
     auto panel = dialog.make<BuiltPanel>();
     QPalette dark;
     dark.setColor(QPalette::Base, Qt::black);
-    for (const int tag : std::as_const(present)) {
+    for (const int tag : present) {
         auto *field = panel->add<QLineEdit>(tag);
         field->setReadOnly(true);
         field->setPalette(dark);
@@ -134,7 +129,7 @@ void PanelViewsTest::textFieldsWired()
     panel->enableTextFieldsForEditingInView(panel->root());
     panel->enableTextFieldsForEditingInView(panel->root()); // wires once, however often it is asked
     Tags found;
-    for (const int tag : std::as_const(present)) {
+    for (const int tag : present) {
         auto *field = qobject_cast<QLineEdit *>(pdekit::viewWithTag(panel->root(), tag));
         panel->events.clear();
         QTest::keyClick(field, Qt::Key_4);
