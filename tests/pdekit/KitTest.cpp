@@ -4,20 +4,10 @@
 #include "KitTest.h"
 #include "TestMain.h"
 
-#include "Bundle.h"
-#include "FormLoader.h"
 #include "NumericText.h"
 #include "SignalLog.h"
-#include "SystemLog.h"
 
-#include <QtCore/QDir>
-#include <QtCore/QFile>
-#include <QtCore/QLocale>
-#include <QtCore/QTemporaryDir>
 #include <QtCore/QTemporaryFile>
-#include <QtTest/QTest>
-#include <QtWidgets/QLabel>
-#include <QtWidgets/QSlider>
 
 #include <cerrno>
 #include <cmath>
@@ -27,16 +17,25 @@
 
 using pdekit::Bundle;
 using pdekit::BundleFault;
-Q_DECLARE_METATYPE(BundleFault)
 
-namespace {
-
-QString text(const char *latin1)
+void KitTest::init()
 {
-    return QString::fromLatin1(latin1);
+    log_.clear();
+    pdekit::setSystemLogSink([this](const QString &line) { log_ << line; });
 }
 
-void write(const QString &path, const QByteArray &bytes)
+void KitTest::cleanup()
+{
+    pdekit::setSystemLogSink({});
+    QLocale::setDefault(QLocale::c());
+}
+
+void KitTest::makeBundle(const QTemporaryDir &folder, const QByteArray &info)
+{
+    write(folder.filePath(text("Contents/Info.json")), info);
+}
+
+void KitTest::write(const QString &path, const QByteArray &bytes)
 {
     QVERIFY(QDir().mkpath(QFileInfo(path).absolutePath()));
     QFile file(path);
@@ -44,90 +43,88 @@ void write(const QString &path, const QByteArray &bytes)
     QCOMPARE(file.write(bytes), bytes.size());
 }
 
-} // namespace
+std::unique_ptr<QWidget> KitTest::loadControls()
+{
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(text("HoloProjector")));
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(text("HoloLayout")));
+    return pdekit::loadForm(Bundle::bundleForClass(staticMetaObject), text("controls"), this);
+}
 
 void KitTest::leadingNumbers_data()
 {
-    QTest::addColumn<QString>("written");
-    QTest::addColumn<int>("integer");
-    QTest::addColumn<double>("real");
-    const auto row = [](const char *written, int integer, double real) {
-        QTest::newRow(written) << QString::fromUtf8(written) << integer << real;
-    };
     const double infinity = std::numeric_limits<double>::infinity();
-    row(" 12x", 12, 12);
-    row("\t-7", -7, -7);
-    row("+5", 5, 5);
-    row("012", 12, 12);
-    row("", 0, 0);
-    row("-", 0, 0);
-    row("+-5", 0, 0);
-    row("- 5", 0, 0);
-    row("3.7", 3, 3.7);
-    row(".5", 0, 0.5);
-    row("-.5", 0, -0.5);
-    row("5.", 5, 5);
-    row(".", 0, 0);
-    row("1,5", 1, 1);
-    row("1e3", 1, 1000);
-    row("1e", 1, 1);
-    row("2e-1x", 2, 0.2);
-    row("0x10", 0, 0);
-    row("nan", 0, 0);
-    row("inf", 0, 0);
-    row("1e999", 1, infinity);
-    row("-1e999", -1, -infinity);
-    row("99999999999", 2147483647, 99999999999.0);
-    row("-99999999999999999999999", -2147483648, -1e23);
-    row("18446744073709551617", 2147483647, 18446744073709551617.0);
-    row("-2147483648", -2147483648, -2147483648.0);
-    row("\u0663", 0, 0); // an Arabic 3
-    row("\u00a0\u20034", 4, 4);
+    addRows<int, double>({
+        {" 12x", 12, 12},
+        {"\t-7", -7, -7},
+        {"+5", 5, 5},
+        {"012", 12, 12},
+        {"", 0, 0},
+        {"-", 0, 0},
+        {"+-5", 0, 0},
+        {"- 5", 0, 0},
+        {"3.7", 3, 3.7},
+        {".5", 0, 0.5},
+        {"-.5", 0, -0.5},
+        {"5.", 5, 5},
+        {".", 0, 0},
+        {"1,5", 1, 1},
+        {"1e3", 1, 1000},
+        {"1e", 1, 1},
+        {"2e-1x", 2, 0.2},
+        {"0x10", 0, 0},
+        {"nan", 0, 0},
+        {"inf", 0, 0},
+        {"1e999", 1, infinity},
+        {"-1e999", -1, -infinity},
+        {"99999999999", 2147483647, 99999999999.0},
+        {"-99999999999999999999999", -2147483648, -1e23},
+        {"18446744073709551617", 2147483647, 18446744073709551617.0},
+        {"-2147483648", -2147483648, -2147483648.0},
+        {"\u0663", 0, 0}, // an Arabic 3
+        {"\u00a0\u20034", 4, 4},
+    });
 }
 
 void KitTest::leadingNumbers()
 {
-    QFETCH(QString, written);
-    QFETCH(double, real);
+    const QString written = QString::fromUtf8(QTest::currentDataTag());
+    const auto [integer, real] = row<int, double>();
     QLocale::setDefault(QLocale(QLocale::German));
-    QTEST(pdekit::leadingInteger(written), "integer");
-    QLocale::setDefault(QLocale::c());
+    QCOMPARE(pdekit::leadingInteger(written), integer);
     const double found = pdekit::leadingDouble(written);
     QVERIFY2(found == real, qPrintable(QString::number(found)));
 }
 
 void KitTest::bundleFaults_data()
 {
-    QTest::addColumn<QByteArray>("info");
-    QTest::addColumn<std::optional<BundleFault>>("fault");
-    const auto row = [](const char *name, const QByteArray &info, std::optional<BundleFault> fault) {
-        QTest::newRow(name) << info << fault;
-    };
     const QByteArray id = R"({"CFBundleIdentifier": "a.b", )";
-    row("sound", id + R"("CFBundleExecutable": "x"})", std::nullopt);
-    row("largest", (id + R"("CFBundleExecutable": "x"})").leftJustified(qsizetype(64) * 1024, ' '),
-        std::nullopt);
-    row("too large", (id + R"("CFBundleExecutable": "x"})").leftJustified(qsizetype(64) * 1024 + 1, ' '),
-        BundleFault::InfoTooLarge);
-    row("huge", QByteArray(10'000'000, '['), BundleFault::InfoTooLarge);
-    row("deep", QByteArray(30'000, '[') + QByteArray(30'000, ']'), BundleFault::BrokenInfo);
-    row("empty", "", BundleFault::BrokenInfo);
-    row("list", "[]", BundleFault::BrokenInfo);
-    row("cut off", id, BundleFault::BrokenInfo);
-    row("no identifier", R"({"CFBundleExecutable": "x"})", BundleFault::NoIdentifier);
-    row("number as identifier", R"({"CFBundleIdentifier": 1, "CFBundleExecutable": "x"})",
-        BundleFault::NoIdentifier);
-    row("no executable", R"({"CFBundleIdentifier": "a.b"})", BundleFault::BadExecutable);
+    addRows<QByteArray, std::optional<BundleFault>>({
+        {"sound", id + R"("CFBundleExecutable": "x"})", std::nullopt},
+        {"largest", (id + R"("CFBundleExecutable": "x"})").leftJustified(qsizetype(64) * 1024, ' '),
+         std::nullopt},
+        {"too large", (id + R"("CFBundleExecutable": "x"})").leftJustified(qsizetype(64) * 1024 + 1, ' '),
+         BundleFault::InfoTooLarge},
+        {"huge", QByteArray(10'000'000, '['), BundleFault::InfoTooLarge},
+        {"deep", QByteArray(30'000, '[') + QByteArray(30'000, ']'), BundleFault::BrokenInfo},
+        {"empty", "", BundleFault::BrokenInfo},
+        {"list", "[]", BundleFault::BrokenInfo},
+        {"cut off", id, BundleFault::BrokenInfo},
+        {"no identifier", R"({"CFBundleExecutable": "x"})", BundleFault::NoIdentifier},
+        {"number as identifier", R"({"CFBundleIdentifier": 1, "CFBundleExecutable": "x"})",
+         BundleFault::NoIdentifier},
+        {"no executable", R"({"CFBundleIdentifier": "a.b"})", BundleFault::BadExecutable},
+    });
     for (const char *executable : {"", ".", "..", ".x", "/bin/sh", "../x", "a/b", "a\\u0000b"})
-        row(executable, id + "\"CFBundleExecutable\": \"" + executable + "\"}", BundleFault::BadExecutable);
+        addRows<QByteArray, std::optional<BundleFault>>(
+            {{executable, id + "\"CFBundleExecutable\": \"" + executable + "\"}",
+              BundleFault::BadExecutable}});
 }
 
 void KitTest::bundleFaults()
 {
-    QFETCH(QByteArray, info);
-    QFETCH(std::optional<BundleFault>, fault);
+    const auto [info, fault] = row<QByteArray, std::optional<BundleFault>>();
     QTemporaryDir folder;
-    write(folder.filePath(text("Contents/Info.json")), info);
+    makeBundle(folder, info);
     BundleFault found = BundleFault::NotFound;
     const auto bundle = Bundle::open(folder.path(), &found);
     QCOMPARE(bundle.has_value(), !fault);
@@ -151,8 +148,7 @@ void KitTest::bundleFiles()
     QCOMPARE(fault, BundleFault::NoInfo);
     QVERIFY(QFile::remove(info));
 
-    write(folder.filePath(text("Contents/Info.json")),
-          R"({"CFBundleIdentifier": "a", "CFBundleExecutable": "x"})");
+    makeBundle(folder);
     const QString helper = folder.filePath(text("Contents/Linux/velta"));
     write(helper, "#!/bin/sh\n");
     write(folder.filePath(text("Contents/run")), "#!/bin/sh\n");
@@ -173,7 +169,6 @@ void KitTest::bundleFiles()
 
 void KitTest::languages()
 {
-    const auto restore = qScopeGuard([] { QLocale::setDefault(QLocale::c()); });
     const Bundle bundle = Bundle::bundleForClass(staticMetaObject);
     const QString key = text("Brightness");
     for (const auto &[locale, expected] :
@@ -192,9 +187,6 @@ void KitTest::languages()
 
 void KitTest::signalLog()
 {
-    QStringList log;
-    const auto before = pdekit::setSystemLogSink([&log](const QString &line) { log << line; });
-    const auto restore = qScopeGuard([&before] { pdekit::setSystemLogSink(before); });
     QVERIFY(pdekit::prepareSignalLog());
     QVERIFY(pdekit::prepareSignalLog());
     errno = ERANGE;
@@ -204,19 +196,19 @@ void KitTest::signalLog()
     pdekit::systemLogFromSignal("", 0);
     const int errnoAfter = errno;
     QCOMPARE(errnoAfter, ERANGE);
-    QVERIFY(log.isEmpty());
-    QTRY_COMPARE(log, QStringList({text("two\nlines\n"), QString(255, u'x'), QString()}));
+    QVERIFY(log_.isEmpty());
+    QTRY_COMPARE(log_, QStringList({text("two\nlines\n"), QString(255, u'x'), QString()}));
     // More than the pipe holds: some are lost, those that come are whole, and nothing waits.
-    log.clear();
+    log_.clear();
     errno = ERANGE;
     for (int i = 0; i < 1000; ++i)
         pdekit::systemLogFromSignal(longLine.constData(), 255);
     const int errnoWhenFull = errno;
     QCOMPARE(errnoWhenFull, ERANGE);
-    QTRY_VERIFY(!log.isEmpty());
+    QTRY_VERIFY(!log_.isEmpty());
     QTest::qWait(1);
-    QVERIFY(log.size() >= 200 && log.size() < 1000);
-    QCOMPARE(log.count(QString(255, u'x')), log.size());
+    QVERIFY(log_.size() >= 200 && log_.size() < 1000);
+    QCOMPARE(log_.count(QString(255, u'x')), log_.size());
 }
 
 void KitTest::systemLogOnStandardError()
@@ -225,6 +217,7 @@ void KitTest::systemLogOnStandardError()
     QVERIFY(file.open());
     const int standardError = dup(STDERR_FILENO);
     qputenv("PDEKIT_LOG_STDERR", "1");
+    pdekit::setSystemLogSink({});
     dup2(file.handle(), STDERR_FILENO);
     pdekit::systemLog(text("50 % of %s"));
     pdekit::systemLog(text("fed\n"));
@@ -238,16 +231,13 @@ void KitTest::systemLogOnStandardError()
 
 void KitTest::forms()
 {
-    const auto restore = qScopeGuard([] { QLocale::setDefault(QLocale::c()); });
     QLocale::setDefault(QLocale(QLocale::German));
     const Bundle bundle = Bundle::bundleForClass(staticMetaObject);
     QVERIFY(!pdekit::loadForm(bundle, text("missing"), this));
     QVERIFY(!pdekit::loadForm(bundle, text("notNamed"), this));
     QTest::ignoreMessage(QtWarningMsg, QRegularExpression(text(".*")));
     QVERIFY(!pdekit::loadForm(bundle, text("notXml"), this));
-    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(text("HoloProjector")));
-    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(text("HoloLayout")));
-    const auto view = pdekit::loadForm(bundle, text("controls"), this);
+    const auto view = loadControls();
     QVERIFY(view);
     QVERIFY(view->findChild<QLabel *>(text("inUnknownLayout")));
     QVERIFY(!view->findChild<QWidget *>(text("projector")));

@@ -3,11 +3,32 @@
 
 #pragma once
 
+#include "Bundle.h"
+#include "ControlAction.h"
+#include "ControlValues.h"
+#include "FormLoader.h"
 #include "KeyValueObject.h"
+#include "RadioMatrix.h"
+#include "Rows.h"
+#include "SystemLog.h"
+#include "TextFieldEvents.h"
 
-#include <QtCore/QObject>
-#include <QtCore/QStringList>
+#include <QtCore/QDir>
+#include <QtCore/QFile>
+#include <QtCore/QLocale>
+#include <QtCore/QTemporaryDir>
 #include <QtCore/QUrl>
+#include <QtWidgets/QCheckBox>
+#include <QtWidgets/QComboBox>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QLineEdit>
+#include <QtWidgets/QRadioButton>
+#include <QtWidgets/QSlider>
+
+inline QString text(const char *latin1)
+{
+    return QString::fromLatin1(latin1);
+}
 
 /// The kit that dialog and plug-in share.
 class KitTest : public pdekit::KeyValueObject
@@ -21,6 +42,8 @@ public:
     Q_INVOKABLE void openPage(const QUrl &page) { openedPages_.append(page.fileName()); }
 
 private Q_SLOTS:
+    void init();
+    void cleanup();
     void leadingNumbers_data();
     void leadingNumbers();
     void bundleFaults_data();
@@ -45,5 +68,14 @@ private Q_SLOTS:
     void boundControlFollowsTheValue();
 
 private:
+    /// A folder with an Info.json: this one, or that of a bundle of no use.
+    static void
+    makeBundle(const QTemporaryDir &folder,
+               const QByteArray &info = R"({"CFBundleIdentifier": "a", "CFBundleExecutable": "x"})");
+    static void write(const QString &path, const QByteArray &bytes);
+    /// The form of controls of every kind.
+    std::unique_ptr<QWidget> loadControls();
+
+    QStringList log_;         ///< the system log of a test
     QStringList openedPages_; ///< by the desktop, as far as it knows
 };

@@ -2,29 +2,14 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include "Bindings.h"
-#include "ControlAction.h"
-#include "ControlValues.h"
 #include "KitTest.h"
-#include "RadioMatrix.h"
-#include "TextFieldEvents.h"
 
-#include <QtTest/QTest>
 #include <QtWidgets/QApplication>
-#include <QtWidgets/QCheckBox>
-#include <QtWidgets/QComboBox>
-#include <QtWidgets/QLineEdit>
-#include <QtWidgets/QRadioButton>
-#include <QtWidgets/QSlider>
 
 #include <functional>
 #include <memory>
 
 namespace {
-
-QString text(const char *latin1)
-{
-    return QString::fromLatin1(latin1);
-}
 
 /// The owner of bound controls; `told` holds the changes of its values, as they come.
 class Owner : public pdekit::KeyValueObject

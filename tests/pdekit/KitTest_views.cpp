@@ -1,83 +1,53 @@
 // SPDX-FileCopyrightText: Corvel print dialog authors
 // SPDX-License-Identifier: Apache-2.0
 
-#include "Bundle.h"
-#include "ControlAction.h"
-#include "ControlValues.h"
 #include "Feedback.h"
-#include "FormLoader.h"
 #include "KitTest.h"
-#include "RadioMatrix.h"
-#include "TextFieldEvents.h"
 #include "ViewTags.h"
 #include "ViewTexts.h"
 
-#include <QtCore/QDir>
-#include <QtCore/QLocale>
 #include <QtCore/QRegularExpression>
-#include <QtCore/QTemporaryDir>
 #include <QtCore/QTimer>
 #include <QtCore/QVariant>
 #include <QtGui/QAccessible>
 #include <QtGui/QDesktopServices>
 #include <QtTest/QSignalSpy>
-#include <QtTest/QTest>
-#include <QtWidgets/QCheckBox>
-#include <QtWidgets/QComboBox>
 #include <QtWidgets/QGroupBox>
-#include <QtWidgets/QLabel>
-#include <QtWidgets/QLineEdit>
 #include <QtWidgets/QMessageBox>
 #include <QtWidgets/QPushButton>
-#include <QtWidgets/QRadioButton>
-#include <QtWidgets/QSlider>
 
 #include <array>
 #include <cstddef>
 #include <new>
 #include <utility>
 
-namespace {
-
-QString text(const char *latin1)
-{
-    return QString::fromLatin1(latin1);
-}
-
-} // namespace
-
 void KitTest::sliderValues_data()
 {
-    QTest::addColumn<QVariant>("decimals");
-    QTest::addColumn<QString>("set");
-    QTest::addColumn<QString>("value");
-    const auto row = [](const QVariant &decimals, const char *set, const char *value) {
-        QTest::newRow(set) << decimals << text(set) << text(value);
-    };
-    row(3, "1.234", "1.234");
-    row(3, "1.2345", "1.235");
-    row(3, "0.5 mm", "0.5");
-    row(3, "1e999", "100000");
-    row(2, "-1e999", "-25");
-    row(2, "-", "0");
-    row(2, "29", "29");
-    row(2, "0.29", "0.29");
-    row(QVariant(), "7.6", "8");
-    row(QVariant(), "150000000", "100000000");
-    row(-4, "12", "12");
-    row(text("many"), "13", "13");
+    addRows<QVariant, QString>({
+        {"1.234", 3, text("1.234")},
+        {"1.2345", 3, text("1.235")},
+        {"0.5 mm", 3, text("0.5")},
+        {"1e999", 3, text("100000")},
+        {"-1e999", 2, text("-25")},
+        {"-", 2, text("0")},
+        {"29", 2, text("29")},
+        {"0.29", 2, text("0.29")},
+        {"7.6", QVariant(), text("8")},
+        {"150000000", QVariant(), text("100000000")},
+        {"12", -4, text("12")},
+        {"13", text("many"), text("13")},
+    });
 }
 
 void KitTest::sliderValues()
 {
-    QFETCH(QVariant, decimals);
-    QFETCH(QString, set);
+    const auto [decimals, value] = row<QVariant, QString>();
     QSlider slider;
     slider.setRange(-2500, 100'000'000);
     slider.setProperty("decimals", decimals);
     slider.setValue(5);
-    QVERIFY(pdekit::setStringValue(&slider, set));
-    QTEST(pdekit::stringValue(&slider).value(), "value");
+    QVERIFY(pdekit::setStringValue(&slider, text(QTest::currentDataTag())));
+    QCOMPARE(pdekit::stringValue(&slider), value);
     QCOMPARE(pdekit::minValue(&slider), decimals.toInt() == 3   ? -2.5
                                         : decimals.toInt() == 2 ? -25.0
                                                                 : -2500.0);
@@ -216,56 +186,43 @@ void KitTest::textFieldEvents()
 
 void KitTest::decimalSeparators_data()
 {
-    QTest::addColumn<QString>("locale");
-    QTest::addColumn<QString>("before"); // the cursor
-    QTest::addColumn<QString>("after");
-    QTest::addColumn<QString>("input");
-    QTest::addColumn<QString>("shown"); // with the cursor as "|"
-    const auto row = [](const char *name, const char *locale, const char *before, const char *after,
-                        const char *input, const char *shown) {
-        QTest::newRow(name) << text(locale) << text(before) << text(after) << text(input) << text(shown);
-    };
-    row("German", "de", "", "", "1,5", "1.5|");
-    row("French", "fr", "", "", "-0,25", "-0.25|");
-    row("Spanish", "es", "", "", ",5", ".5|");
-    row("a point", "de", "", "", "1.5", "1.5|");
-    row("within a number", "de", "1", "25", ",", "1.|25");
-    row("before a number", "de", "", "5", "0,", "0.|5");
-    row("German thousands", "de", "", "", "1.000,5", "1.000.5|");
-    row("English thousands", "en", "", "", "1,000.5", "1,000.5|");
-    row("without a locale", "C", "", "", "1,5", "1,5|");
+    using Text = const char *;
+    addRows<Text, Text, Text, Text, Text>({
+        {"German", "de", "", "", "1,5", "1.5|"},
+        {"French", "fr", "", "", "-0,25", "-0.25|"},
+        {"Spanish", "es", "", "", ",5", ".5|"},
+        {"a point", "de", "", "", "1.5", "1.5|"},
+        {"within a number", "de", "1", "25", ",", "1.|25"},
+        {"before a number", "de", "", "5", "0,", "0.|5"},
+        {"German thousands", "de", "", "", "1.000,5", "1.000.5|"},
+        {"English thousands", "en", "", "", "1,000.5", "1,000.5|"},
+        {"without a locale", "C", "", "", "1,5", "1,5|"},
+    });
 }
 
 // Typed and pasted: who listens sees a point, once for each edit, and the cursor stands behind what was put
 // in.
 void KitTest::decimalSeparators()
 {
-    QFETCH(QString, before);
-    QFETCH(QString, after);
-    QFETCH(QString, input);
-    const auto restore = qScopeGuard([] { QLocale::setDefault(QLocale::c()); });
-    QFETCH(QString, locale);
-    QLocale::setDefault(QLocale(locale));
-    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(text("HoloProjector")));
-    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(text("HoloLayout")));
-    const auto view =
-        pdekit::loadForm(pdekit::Bundle::bundleForClass(staticMetaObject), text("controls"), this);
+    using Text = const char *;
+    const auto [locale, before, after, input, shown] = row<Text, Text, Text, Text, Text>();
+    QLocale::setDefault(QLocale(text(locale)));
+    const auto view = loadControls();
     auto *field = view->findChild<QLineEdit *>(text("field"));
     QStringList heard;
     connect(pdekit::TextFieldEvents::attach(field), &pdekit::TextFieldEvents::textDidChange, field,
             [&heard, field] { heard << field->text(); });
-    QFETCH(QString, shown);
     for (const bool pastes : {false, true}) {
-        pdekit::setStringValue(field, before + after);
-        field->setCursorPosition(static_cast<int>(before.size()));
+        pdekit::setStringValue(field, text(before) + text(after));
+        field->setCursorPosition(int(qstrlen(before)));
         heard.clear();
         if (pastes)
-            field->insert(input);
+            field->insert(text(input));
         else
-            QTest::keyClicks(field, input);
-        QCOMPARE(heard.size(), pastes ? 1 : input.size());
+            QTest::keyClicks(field, text(input));
+        QCOMPARE(heard.size(), pastes ? 1 : qsizetype(qstrlen(input)));
         QCOMPARE(heard.constLast(), field->text());
-        QCOMPARE(field->text().insert(field->cursorPosition(), u'|'), shown);
+        QCOMPARE(field->text().insert(field->cursorPosition(), u'|'), text(shown));
     }
     pdekit::setStringValue(field, text("1,5"));
     QCOMPARE(field->text(), text("1,5")); // a program's text
@@ -273,10 +230,7 @@ void KitTest::decimalSeparators()
 
 void KitTest::rangeOfANumber()
 {
-    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(text("HoloProjector")));
-    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(text("HoloLayout")));
-    const auto view =
-        pdekit::loadForm(pdekit::Bundle::bundleForClass(staticMetaObject), text("controls"), this);
+    const auto view = loadControls();
     auto *field = view->findChild<QLineEdit *>(text("field"));
     const auto *range = view->findChild<QLabel *>(text("range"));
     auto *slider = view->findChild<QSlider *>(text("slider"));
@@ -323,42 +277,48 @@ void KitTest::desktopFeedback()
     const auto restore = qScopeGuard([&] {
         pdekit::Feedback::install(before);
         QDesktopServices::unsetUrlHandler(text("file"));
-        QLocale::setDefault(QLocale::c());
     });
-    // Texts of an alert are never markup.
-    QStringList shown;
-    QTimer::singleShot(0, this, [&shown] {
-        auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
-        const QList<QLabel *> labels = box->findChildren<QLabel *>();
-        for (const QLabel *label : labels) {
-            if (!label->text().isEmpty())
-                shown << label->text() << text(label->textFormat() == Qt::PlainText ? "plain" : "markup");
-        }
-        shown << box->defaultButton()->text();
-        QTest::keyClick(box, Qt::Key_Return);
-    });
-    pdekit::Feedback::current().alert({text("<b>a</b>"), text("<i>c</i>"), text("Fine")});
-    QCOMPARE(shown,
-             QStringList({text("<b>a</b>"), text("plain"), text("<i>c</i>"), text("plain"), text("Fine")}));
+    QWidget window;
+    window.show();
+    // Texts of an alert are never markup; a key dismisses it.
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Space, Qt::Key_Escape}) {
+        window.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+        QStringList shown;
+        bool wasDismissed = false;
+        QTimer::singleShot(0, this, [&] {
+            auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+            if (!box)
+                return;
+            for (const QLabel *label : box->findChildren<QLabel *>()) {
+                if (!label->text().isEmpty())
+                    shown << label->text() << text(label->textFormat() == Qt::PlainText ? "plain" : "markup");
+            }
+            for (const QAbstractButton *button : box->buttons())
+                shown << button->text();
+            shown << text(box->isModal() && box->parentWidget() == &window ? "modal" : "free");
+            std::ignore = QTest::qWaitFor([box] { return box->isActiveWindow() && box->focusWidget(); });
+            QTest::keyClick(box->windowHandle(), key);
+            wasDismissed = !box->isVisible();
+            box->reject(); // lest the test hang
+        });
+        pdekit::Feedback::current().alert({text("<b>a</b>"), text("<i>c</i>"), text("Fine")});
+        QCOMPARE(shown.join(u' '), text("<b>a</b> plain <i>c</i> plain Fine modal"));
+        QVERIFY(wasDismissed);
+    }
     pdekit::Feedback::current().beep();
 
     // The help book opens in the user's first language that it has; what is before English counts.
     const QTemporaryDir folder;
-    QVERIFY(QDir(folder.path()).mkpath(text("Contents/Resources/Book")));
-    for (const char *name : {"Contents/Info.json", "Contents/Resources/Book/index.html",
-                             "Contents/Resources/Book/index_de.html"}) {
-        QFile file(folder.filePath(text(name)));
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write(R"({"CFBundleIdentifier": "a.b", "CFBundleExecutable": "none"})");
-    }
+    makeBundle(folder);
+    write(folder.filePath(text("Contents/Resources/Book/index.html")), "");
+    write(folder.filePath(text("Contents/Resources/Book/index_de.html")), "");
     const auto bundle = pdekit::Bundle::open(folder.path());
     QDesktopServices::setUrlHandler(text("file"), this, "openPage");
-    QLocale::setDefault(QLocale(QLocale::German, QLocale::Austria));
-    QVERIFY(pdekit::Feedback::current().openHelpBook(*bundle, text("Book")));
-    QLocale::setDefault(QLocale(QLocale::Finnish));
-    QVERIFY(pdekit::Feedback::current().openHelpBook(*bundle, text("Book")));
-    QLocale::setDefault(QLocale(QLocale::English));
-    QVERIFY(pdekit::Feedback::current().openHelpBook(*bundle, text("Book")));
+    for (const char *locale : {"de_AT", "fi", "en"}) {
+        QLocale::setDefault(QLocale(text(locale)));
+        QVERIFY(pdekit::Feedback::current().openHelpBook(*bundle, text("Book")));
+    }
     QVERIFY(!pdekit::Feedback::current().openHelpBook(*bundle, text("Missing")));
     QCOMPARE(openedPages_, QStringList({text("index_de.html"), text("index.html"), text("index.html")}));
 }
