@@ -24,6 +24,7 @@ private Q_SLOTS:
     void typing();
     void movingTheSlider();
     void answersOfMarking();
+    void fieldWithoutASlider();
     void mixedEnablerOfTheFinish();
     void sendersThatAreNoControls();
     void missingControls();
@@ -114,7 +115,22 @@ void PanelActionsTest::answersOfMarking()
         return;
     QCOMPARE(dialog.constraints->offers.last(), text("Red=99"));
     dialog.constraints->refused << key;
-    QVERIFY(!panel->markChoiceForPPDOptionKeyFromSender(text("4"), key, nullptr));
+    QVERIFY(!panel->markChoiceForPPDOptionKeyFromSender(text("%2"), key, nullptr)); // no place for a value
+    QVERIFY(dialog.log.last().endsWith(text("choice %2 for PPD Option Red")));
+}
+
+// A number field that is its own slider has no range but 0.
+void PanelActionsTest::fieldWithoutASlider()
+{
+    QFETCH_GLOBAL(Mode, mode);
+    PanelHarness dialog(mode);
+    auto panel = dialog.make<BuiltPanel>();
+    QLineEdit *field = panel->add<QLineEdit>(5);
+    for (const char *choice : {"1", "-1", "0", "-"}) {
+        QVERIFY(panel->markChoiceForPPDOptionKeyFromSender(text(choice), text("Key5"), field));
+        QCOMPARE(panel->recorded(text("Key5")), text(choice).contains(u'1') ? QString() : text(choice));
+    }
+    QCOMPARE(dialog.feedback->beeps, 2);
 }
 
 void PanelActionsTest::mixedEnablerOfTheFinish()
