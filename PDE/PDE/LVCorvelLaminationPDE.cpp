@@ -14,13 +14,13 @@
 
 namespace {
 
-struct CellChoice
+struct LaminationCell
 {
     int cellTag;
     QLatin1String choice;
 };
 
-constexpr std::array<CellChoice, 4> cellChoices = {{
+constexpr std::array<LaminationCell, 4> laminationCells = {{
     {10, QLatin1String("Standard")},
     {11, QLatin1String("Fine")},
     {12, QLatin1String("Glossy")},
@@ -96,7 +96,7 @@ RKTPPRBasePDEcorvel::Text LVCorvelLaminationPDE::ppdOptionKeyForTag(int tag) con
 
 RKTPPRBasePDEcorvel::Text LVCorvelLaminationPDE::ppdChoiceForTag(int cellTag) const
 {
-    for (const CellChoice &cell : cellChoices) {
+    for (const LaminationCell &cell : laminationCells) {
         if (cell.cellTag == cellTag)
             return QString(cell.choice);
     }
@@ -105,7 +105,7 @@ RKTPPRBasePDEcorvel::Text LVCorvelLaminationPDE::ppdChoiceForTag(int cellTag) co
 
 int LVCorvelLaminationPDE::tagForStringValue(const Text &value) const
 {
-    for (const CellChoice &cell : cellChoices) {
+    for (const LaminationCell &cell : laminationCells) {
         if (value && *value == cell.choice)
             return cell.cellTag;
     }

@@ -18,13 +18,13 @@
 
 namespace {
 
-struct CellChoice
+struct SharpnessCell
 {
     int cellTag;
     QLatin1String choice;
 };
 
-constexpr std::array<CellChoice, 4> cellChoices = {{
+constexpr std::array<SharpnessCell, 4> sharpnessCells = {{
     {2, QLatin1String("0")},
     {3, QLatin1String("1")},
     {4, QLatin1String("2")},
@@ -112,7 +112,7 @@ RKTPPRBasePDEcorvel::Text LVSharpnessCorvelPDE::ppdOptionKeyForTag(int tag) cons
 
 RKTPPRBasePDEcorvel::Text LVSharpnessCorvelPDE::ppdChoiceForTag(int cellTag) const
 {
-    for (const CellChoice &cell : cellChoices) {
+    for (const SharpnessCell &cell : sharpnessCells) {
         if (cell.cellTag == cellTag)
             return QString(cell.choice);
     }
@@ -121,7 +121,7 @@ RKTPPRBasePDEcorvel::Text LVSharpnessCorvelPDE::ppdChoiceForTag(int cellTag) con
 
 int LVSharpnessCorvelPDE::tagForStringValue(const Text &value) const
 {
-    for (const CellChoice &cell : cellChoices) {
+    for (const SharpnessCell &cell : sharpnessCells) {
         if (value && *value == cell.choice)
             return cell.cellTag;
     }

@@ -25,7 +25,7 @@ namespace {
 
 constexpr auto listPatience = 2s;
 
-struct Text
+struct ListingText
 {
     Q_DECLARE_TR_FUNCTIONS(Listings)
 };
@@ -119,7 +119,7 @@ int listPrinters(const CommandLine &commandLine, Console &console)
     QList<QStringList> rows;
     QJsonArray array;
     for (const Queue &queue : *printers) {
-        const QString mark = queue.isDefault ? Text::tr("default") : QString();
+        const QString mark = queue.isDefault ? ListingText::tr("default") : QString();
         rows.append({queue.id(), queue.info, stateText(queue), mark});
         array.append(jsonOf(queue));
     }

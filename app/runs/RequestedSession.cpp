@@ -19,10 +19,10 @@ namespace printdialog {
 
 namespace {
 
-constexpr auto listPatience = 2s;
+constexpr auto defaultPatience = 2s;
 constexpr auto queuePatience = 10s;
 
-struct Text
+struct SessionText
 {
     Q_DECLARE_TR_FUNCTIONS(RequestedSession)
 };
@@ -59,9 +59,10 @@ OpenedPrinter openDefaultQueue(const Destination &destination, PanelMode mode)
     auto session = openQueueNamed(destination, mode);
     if (session)
         return session;
-    return refusal(Text::tr("%1 It is your default printer; --printer names another one, and \"--printer "
-                            "built-in\" prints into files.")
-                       .arg(session.failure().text));
+    return refusal(
+        SessionText::tr("%1 It is your default printer; --printer names another one, and \"--printer "
+                        "built-in\" prints into files.")
+            .arg(session.failure().text));
 }
 
 /// What is asked for by its name or as the user's default.
@@ -90,7 +91,7 @@ QString usePreset(RequestedSession &requested, const Destination &destination)
     requested.copies = used.copies.value_or(1);
     QStringList sentences;
     for (const QString &sentence : used.leftOut)
-        sentences += Text::tr("Of the preset \"%1\" is left out: %2").arg(preset->name, sentence);
+        sentences += SessionText::tr("Of the preset \"%1\" is left out: %2").arg(preset->name, sentence);
     if (!sentences.isEmpty())
         requested.leftOut += Console::oneLine(sentences);
     return {};
@@ -107,11 +108,12 @@ OpenedPrinter openRequestedPrinter(const CommandLine &commandLine)
             return orSentence(openBuiltInPrinter(std::nullopt, commandLine.mode));
         return openDefaultQueue(*chosen, commandLine.mode);
     }
-    const auto queues = listQueues(listPatience);
+    const auto queues = listQueues(defaultPatience);
     if (!queues && (commandLine.server || !isWithoutPrintServer(queues.failure())))
-        return refusal(Text::tr("%1 It may have your default printer; --printer names another one, and "
-                                "\"--printer built-in\" prints into files.")
-                           .arg(queues.failure().text));
+        return refusal(
+            SessionText::tr("%1 It may have your default printer; --printer names another one, and "
+                            "\"--printer built-in\" prints into files.")
+                .arg(queues.failure().text));
     if (const std::optional<Destination> found = queues ? defaultQueue(*queues) : std::nullopt)
         return openDefaultQueue(*found, commandLine.mode);
     return orSentence(openBuiltInPrinter(std::nullopt, commandLine.mode));
@@ -133,16 +135,16 @@ Result<RequestedSession, std::monostate> openRequestedSession(const CommandLine 
     const PrinterDescription &printer = requested.session->printer();
     if (!printer.hasPpd && !commandLine.options.isEmpty())
         return refusal(
-            Text::tr("The printer \"%1\" has no PPD file and so no option %2; leave it out, or set "
-                     "the printer up with its driver.")
+            SessionText::tr("The printer \"%1\" has no PPD file and so no option %2; leave it out, or set "
+                            "the printer up with its driver.")
                 .arg(printer.destination.id(), commandLine.options.constFirst().key));
     if (const QString failure = usePreset(requested, destinationOf(commandLine).value_or(Destination()));
         !failure.isEmpty())
         return refusal(failure);
     requested.copies = commandLine.copies.value_or(requested.copies);
     for (const RequestedChoice &choice : commandLine.options) {
-        // Text that is only the beginning of a number is let through while somebody types; here nothing
-        // follows it.
+        // SessionText that is only the beginning of a number is let through while somebody types; here
+        // nothing follows it.
         const Ruling ruling = requested.session->choose(choice.key, choice.choice);
         if (ruling.verdict != Verdict::Accepted)
             return refusal(ruling.text);

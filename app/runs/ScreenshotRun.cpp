@@ -20,7 +20,7 @@ namespace printdialog {
 
 namespace {
 
-struct Text
+struct ScreenshotText
 {
     Q_DECLARE_TR_FUNCTIONS(ScreenshotRun)
 };
@@ -43,7 +43,7 @@ QString save(const QPixmap &picture, const QString &path)
     QSaveFile file(path);
     if (file.open(QIODevice::WriteOnly) && picture.save(&file, "PNG") && file.commit())
         return {};
-    return Text::tr("The picture %1 could not be written: %2. Choose a folder that can be written.")
+    return ScreenshotText::tr("The picture %1 could not be written: %2. Choose a folder that can be written.")
         .arg(path, file.errorString());
 }
 
@@ -107,8 +107,9 @@ int runScreenshot(const CommandLine &commandLine, QApplication &application)
     setup.remembers = false;
     const QDir folder(*commandLine.screenshot);
     if (!folder.mkpath(QStringLiteral(".")))
-        return endWith(Text::tr("The folder %1 cannot be made. Choose another one for the pictures.")
-                           .arg(folder.path()));
+        return endWith(
+            ScreenshotText::tr("The folder %1 cannot be made. Choose another one for the pictures.")
+                .arg(folder.path()));
 
     PrintDialog dialog(setup);
     dialog.show();

@@ -34,7 +34,7 @@ QByteArray ticketOf(const Photo &photo, const PrintJob &job)
     return QJsonDocument(ticket).toJson(QJsonDocument::Indented);
 }
 
-Failure<OutputFault> failureOf(const Failure<PdfFault> &failure)
+Failure<OutputFault> outputFailureOf(const Failure<PdfFault> &failure)
 {
     const auto reason = failure.reason == PdfFault::PageUnusable    ? OutputFault::PageUnusable
                         : failure.reason == PdfFault::PhotoUnusable ? OutputFault::PhotoUnusable
@@ -70,7 +70,7 @@ Result<PrintedFiles, OutputFault> printAs(const QString &name, const PlacedPhoto
     if (const auto damage = check ? check->wait() : std::nullopt)
         return Failure<OutputFault>{OutputFault::PhotoUnusable, damage->text, damage->detail};
     if (!written)
-        return failureOf(written.failure());
+        return outputFailureOf(written.failure());
     (*ticket)->write(ticketOf(placed.photo, job));
 
     const auto paths =

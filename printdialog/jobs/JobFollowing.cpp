@@ -28,7 +28,7 @@ constexpr auto cancelInterval = 50ms;
 const QString printerStopped = QStringLiteral("printer-stopped");
 const QByteArray serverUri = "ipp://localhost/";
 
-struct Text
+struct FollowingText
 {
     Q_DECLARE_TR_FUNCTIONS(JobFollowing)
 };
@@ -131,8 +131,9 @@ public:
             if (status) {
                 // A server that has lost the job does not say what became of it.
                 if (wasAway_ && status->state == JobStatus::State::Gone)
-                    return queueFailure(QueueFault::Failed, queue_,
-                                        Text::tr("it was started again and does not know job %1").arg(id_));
+                    return queueFailure(
+                        QueueFault::Failed, queue_,
+                        FollowingText::tr("it was started again and does not know job %1").arg(id_));
                 heard = now;
                 if (std::exchange(wasAway_, false) || !last || *status != *last) {
                     changed = now;
@@ -212,31 +213,32 @@ QString JobStatus::detail() const
         return words + own;
     if (state == State::Aborted)
         return own;
-    return isWaiting() ? Text::tr("%1: %2").arg(words, own) : words;
+    return isWaiting() ? FollowingText::tr("%1: %2").arg(words, own) : words;
 }
 
 QString JobStatus::text() const
 {
     if (isServerAway)
-        return Text::tr("the print server does not answer; it is asked again");
+        return FollowingText::tr("the print server does not answer; it is asked again");
     const QString more = detail();
     switch (state) {
     case State::Pending:
     case State::Stopped:
-        return more.isEmpty() ? Text::tr("waiting for the printer") : more;
+        return more.isEmpty() ? FollowingText::tr("waiting for the printer") : more;
     case State::Held:
-        return more.isEmpty() ? Text::tr("held") : more;
+        return more.isEmpty() ? FollowingText::tr("held") : more;
     case State::Processing:
-        return more.isEmpty() ? Text::tr("printing") : Text::tr("%1: %2").arg(Text::tr("printing"), more);
+        return more.isEmpty() ? FollowingText::tr("printing")
+                              : FollowingText::tr("%1: %2").arg(FollowingText::tr("printing"), more);
     case State::Canceled:
-        return Text::tr("cancelled");
+        return FollowingText::tr("cancelled");
     case State::Aborted:
-        return Text::tr("failed");
+        return FollowingText::tr("failed");
     case State::Completed:
     case State::Gone:
         break;
     }
-    return Text::tr("printed");
+    return FollowingText::tr("printed");
 }
 
 Result<JobStatus, QueueFault> followJob(CupsConnection &connection, const QString &queue, int id,

@@ -21,7 +21,7 @@ QMap<QString, QString> merged(QMap<QString, QString> choices, const QMap<QString
 }
 
 /// libcups leaves the page size alone, but not its other name.
-bool isPageOption(const QString &key)
+bool isPageKey(const QString &key)
 {
     return key == QLatin1String("PageSize") || key == QLatin1String("PageRegion");
 }
@@ -86,7 +86,7 @@ QList<OptionChoice> ChoiceMarker::changesThatAllow(const Ruling &refusal) const
         const QString choice = QString::fromLatin1(option.value);
         if (key == refusal.key || document_.markedChoice(key) == choice)
             continue;
-        isUsable = isUsable && document_.choice(key, choice) && !isPageOption(key);
+        isUsable = isUsable && document_.choice(key, choice) && !isPageKey(key);
         together.insert(key, choice);
         changes += OptionChoice{key, choice};
     }

@@ -20,7 +20,7 @@ constexpr float largestSide = 72'000; // points: 1,000 inches, beyond every shee
 
 constexpr qsizetype shownText = 200; // UTF-16 units of an option's or a choice's text
 
-struct Text
+struct OpeningText
 {
     Q_DECLARE_TR_FUNCTIONS(PpdDocument)
 };
@@ -82,8 +82,8 @@ Result<PpdDocument, PpdFault> PpdDocument::open(const CheckedPpd &ppd)
         const QString reason = plainText(QString::fromUtf8(ppdErrorString(ppdLastError(&line))));
         return Failure<PpdFault>{
             PpdFault::Malformed,
-            Text::tr("The PPD \"%1\" cannot be used: line %2: %3; correct it or fetch another from "
-                     "the printer's maker.")
+            OpeningText::tr("The PPD \"%1\" cannot be used: line %2: %3; correct it or fetch another from "
+                            "the printer's maker.")
                 .arg(plainText(ppd.name(), 300), QString::number(line), reason),
             {}};
     }
@@ -95,8 +95,9 @@ Result<PpdDocument, PpdFault> PpdDocument::open(const CheckedPpd &ppd)
     if (document.pageSizes_.isEmpty())
         return Failure<PpdFault>{
             PpdFault::NoPageSize,
-            Text::tr("The PPD \"%1\" has no page size that can be printed on; correct it or fetch another "
-                     "from the printer's maker.")
+            OpeningText::tr(
+                "The PPD \"%1\" has no page size that can be printed on; correct it or fetch another "
+                "from the printer's maker.")
                 .arg(plainText(ppd.name(), 300)),
             {}};
     document.markDefaults();
@@ -114,7 +115,7 @@ void PpdDocument::localize()
     if (canBeLocalized(*record_))
         ppdLocalize(record_.get());
     else
-        notes_ += Text::tr("The translations are left out: there are too many.");
+        notes_ += OpeningText::tr("The translations are left out: there are too many.");
 }
 
 void PpdDocument::indexOptions()
@@ -158,10 +159,10 @@ void PpdDocument::indexOption(ppd_option_s &option)
         indexed->choices += {choiceKeyword, decoded(choice.text, choiceKeyword)};
     }
     if (repeated > 0)
-        notes_ += Text::tr("The option \"%1\" repeats %2 of its choices; the first of each counts.")
+        notes_ += OpeningText::tr("The option \"%1\" repeats %2 of its choices; the first of each counts.")
                       .arg(keyword, QString::number(repeated));
     if (indexed->choices.isEmpty()) {
-        notes_ += Text::tr("The option \"%1\" is left out: it has no choices.").arg(keyword);
+        notes_ += OpeningText::tr("The option \"%1\" is left out: it has no choices.").arg(keyword);
         return;
     }
     keywords_ += keyword;
@@ -184,7 +185,7 @@ void PpdDocument::indexPageSizes()
         pageSizes_ += {choice.keyword, choice.text, QSizeF(size->width, size->length), imageableArea(*size)};
     }
     if (unusable > 0)
-        notes_ += Text::tr("Page sizes left out because they have no dimensions: %1.").arg(unusable);
+        notes_ += OpeningText::tr("Page sizes left out because they have no dimensions: %1.").arg(unusable);
 }
 
 void PpdDocument::markDefaults()
@@ -199,8 +200,9 @@ void PpdDocument::markDefaults()
     }
     const QString pageSizeKey = QStringLiteral("PageSize");
     if (!pageSizeOf_.contains(markedChoice(pageSizeKey).value_or(QString()))) {
-        notes_ += Text::tr("The default page size is not one of the printer's; \"%1\" takes its place.")
-                      .arg(pageSizes_.constFirst().keyword);
+        notes_ +=
+            OpeningText::tr("The default page size is not one of the printer's; \"%1\" takes its place.")
+                .arg(pageSizes_.constFirst().keyword);
         mark(pageSizeKey, pageSizes_.constFirst().keyword);
     }
 }

@@ -15,9 +15,9 @@ namespace printdialog {
 
 namespace {
 
-constexpr auto endPatience = 50ms;
+constexpr auto fetchEndPatience = 50ms;
 
-QueueFault faultOf(http_status_t status)
+QueueFault fetchFaultOf(http_status_t status)
 {
     switch (status) {
     case HTTP_STATUS_NOT_FOUND:
@@ -90,7 +90,7 @@ Result<QByteArray, QueueFault> ppdOf(CupsConnection &connection, const QueueReco
                    : failure;
     }
     if (status != HTTP_STATUS_OK)
-        return queueFailure(faultOf(status), queue, QString::fromUtf8(httpStatus(status)));
+        return queueFailure(fetchFaultOf(status), queue, QString::fromUtf8(httpStatus(status)));
     if (ppd.isEmpty())
         return queueFailure(QueueFault::NoPpd, queue, PpdFetcher::tr("what the print server keeps is empty"));
     return ppd;
@@ -111,7 +111,7 @@ PpdFetcher::~PpdFetcher()
 {
     limit_.stop();
     if (worker_)
-        worker_->release(endPatience);
+        worker_->release(fetchEndPatience);
 }
 
 quint64 PpdFetcher::fetch(const Destination &destination, const std::optional<CheckedPpd> &known)

@@ -19,7 +19,7 @@ constexpr auto answerLimit = 5s;
 /// For what no limit of libcups covers: the look-up of a server's name, an answer that never ends.
 constexpr auto firstLookLimit = 8s;
 /// Long enough for an idle worker to end in an orderly way, too short to be felt.
-constexpr auto endPatience = 50ms;
+constexpr auto listEndPatience = 50ms;
 
 /// To be looked up: a server may have thousands.
 QHash<QString, Queue> byId(const QList<Queue> &queues)
@@ -75,7 +75,7 @@ void QueueFinder::stop()
 {
     firstLook_.stop();
     if (const auto worker = std::exchange(worker_, nullptr))
-        worker->release(endPatience);
+        worker->release(listEndPatience);
 }
 
 std::optional<Destination> QueueFinder::defaultQueue() const

@@ -21,7 +21,7 @@ namespace printdialog {
 
 namespace {
 
-constexpr int version = 1;
+constexpr int cacheVersion = 1;
 /// Of a PPD that is remembered, in bytes: as JSON it takes ten times the memory for a moment.
 constexpr qsizetype ppdLimit = qsizetype(3) * 1024 * 1024;
 
@@ -67,7 +67,7 @@ std::optional<RememberedQueue> QueueCache::load()
     if (!isPrivate(path) || file.size() > ppdLimit * 3 / 2 || !file.open(QIODevice::ReadOnly))
         return std::nullopt;
     const QJsonObject content = QJsonDocument::fromJson(file.readAll()).object();
-    if (content[QLatin1String("version")].toInt() != version)
+    if (content[QLatin1String("version")].toInt() != cacheVersion)
         return std::nullopt;
     RememberedQueue remembered;
     const auto text = [&content](const char *name) {
@@ -92,7 +92,7 @@ void QueueCache::save(const RememberedQueue &remembered)
         QFile::remove(file()); // it would name another printer
         return;
     }
-    QJsonObject content = {{QStringLiteral("version"), version},
+    QJsonObject content = {{QStringLiteral("version"), cacheVersion},
                            {QStringLiteral("isClass"), remembered.queue.isClass},
                            {QStringLiteral("isBuiltIn"), remembered.queue.isBuiltIn},
                            {QStringLiteral("wasChosen"), remembered.wasChosen},

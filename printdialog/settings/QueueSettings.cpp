@@ -14,7 +14,7 @@ namespace printdialog {
 
 namespace {
 
-constexpr int version = 1;
+constexpr int settingsVersion = 1;
 
 } // namespace
 
@@ -29,14 +29,14 @@ QMap<QString, QString> QueueSettings::load(const QString &printer)
 {
     const auto text = SettingsFile::read(fileFor(printer));
     const QJsonObject content = QJsonDocument::fromJson(text ? *text : QByteArray()).object();
-    if (content[QLatin1String("version")].toInt() != version)
+    if (content[QLatin1String("version")].toInt() != settingsVersion)
         return {};
     return choicesFromJson(content[QLatin1String("options")].toObject());
 }
 
 SettingsFailure QueueSettings::save(const QString &printer, const QMap<QString, QString> &options)
 {
-    const QJsonObject content = {{QStringLiteral("version"), version},
+    const QJsonObject content = {{QStringLiteral("version"), settingsVersion},
                                  {QStringLiteral("options"), jsonOfChoices(options)}};
     return SettingsFile::change(
         fileFor(printer), [&content](const QByteArray & /*before*/) -> Result<QByteArray, SettingsFault> {

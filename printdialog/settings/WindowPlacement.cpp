@@ -13,7 +13,7 @@ namespace printdialog {
 
 namespace {
 
-constexpr qint64 largestFile = 1024;
+constexpr qint64 largestPlacement = 1024;
 
 QString filePath()
 {
@@ -28,7 +28,7 @@ QByteArray WindowPlacement::load()
     QFile file(filePath());
     if (!QFileInfo(file).isFile() || !file.open(QIODevice::ReadOnly))
         return {};
-    return file.read(largestFile);
+    return file.read(largestPlacement);
 }
 
 bool WindowPlacement::save(const QByteArray &geometry)

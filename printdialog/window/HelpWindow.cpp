@@ -18,7 +18,7 @@ namespace printdialog {
 namespace {
 
 constexpr QSize startSize(86, 33); // average characters and lines, where the screen has room for them
-constexpr int margin = 12;         // pixels around the text
+constexpr int textMargin = 12;     // pixels around the text
 
 QString startPage()
 {
@@ -43,7 +43,7 @@ HelpWindow::HelpWindow(QWidget *parent)
     setWindowTitle(tr("Help"));
     auto *text = new QTextBrowser(this);
     text->setSource(QUrl(QLatin1String("qrc") + startPage()));
-    text->document()->setDocumentMargin(margin);
+    text->document()->setDocumentMargin(textMargin);
     text->setAccessibleName(windowTitle());
     auto *buttons = new QDialogButtonBox(QDialogButtonBox::Close, this);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);

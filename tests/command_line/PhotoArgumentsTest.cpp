@@ -15,12 +15,6 @@ using namespace printdialog;
 using namespace testing_support;
 using namespace Qt::StringLiterals;
 
-namespace {
-
-const QString samplePhoto = QStringLiteral(CORVEL_SAMPLE_PHOTO);
-
-} // namespace
-
 /// Photos on the command line: how they are placed, and what they are called.
 class PhotoArgumentsTest : public QObject
 {

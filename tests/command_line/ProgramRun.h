@@ -11,6 +11,8 @@
 
 namespace testing_support {
 
+inline const QString samplePhoto = QStringLiteral(CORVEL_SAMPLE_PHOTO);
+
 /// What one run of corvel-print left behind it.
 struct ProgramRun
 {

@@ -23,8 +23,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString samplePhoto = QStringLiteral(CORVEL_SAMPLE_PHOTO);
-
 /// The backend's fifth argument without what the scheduler adds to every job, sorted.
 QByteArrayList optionsIn(const RecordedJob &job)
 {

@@ -30,6 +30,11 @@ inline QString text(const char *latin1)
     return QString::fromLatin1(latin1);
 }
 
+inline QString text(const char *latin1)
+{
+    return QString::fromLatin1(latin1);
+}
+
 /// The kit that dialog and plug-in share.
 class KitTest : public pdekit::KeyValueObject
 {

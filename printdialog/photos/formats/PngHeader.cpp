@@ -19,7 +19,7 @@ namespace {
 
 enum ColourType { Grey = 0, Rgb = 2, Palette = 3, GreyAlpha = 4, Rgba = 6 };
 
-constexpr qsizetype largestProfile = 16 << 20; // bytes, decompressed
+constexpr qsizetype largestPngProfile = 16 << 20; // bytes, decompressed
 
 quint32 wordAt(QByteArrayView bytes, qsizetype position)
 {
@@ -185,7 +185,7 @@ private:
     {
         const qsizetype end = content.indexOf('\0');
         if (end >= 0 && end + 2 < content.size())
-            icc_ = inflated(content.sliced(end + 2), largestProfile);
+            icc_ = inflated(content.sliced(end + 2), largestPngProfile);
     }
 
     ColourProfile measuredProfile() const

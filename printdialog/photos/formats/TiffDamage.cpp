@@ -15,7 +15,7 @@
 namespace printdialog {
 namespace {
 
-enum Tag : quint32 {
+enum TiffTag : quint32 {
     Compression = 259,
     StripOffsets = 273,
     StripByteCounts = 279,
@@ -45,14 +45,14 @@ public:
         }
     }
 
-    quint32 number(Tag tag) const
+    quint32 number(TiffTag tag) const
     {
         const std::vector<quint32> all = numbers(tag);
         return all.size() == 1 ? all.front() : 0;
     }
 
     /// The whole numbers of an entry; none when the file ends before they do.
-    std::vector<quint32> numbers(Tag tag) const
+    std::vector<quint32> numbers(TiffTag tag) const
     {
         constexpr quint32 typeShort = 3;
         constexpr quint32 typeLong = 4;
@@ -70,7 +70,7 @@ public:
         return numbers;
     }
 
-    QByteArray bytes(Tag tag) const
+    QByteArray bytes(TiffTag tag) const
     {
         const qsizetype count = this->count(tag);
         return numbers_.bytes(placeOf(tag, count), count);
@@ -96,18 +96,18 @@ public:
     }
 
 private:
-    quint32 type(Tag tag) const
+    quint32 type(TiffTag tag) const
     {
         const auto entry = entries_.find(tag);
         return entry == entries_.end() ? 0 : numbers_.at(entry->second + 2, 2);
     }
-    qsizetype count(Tag tag) const
+    qsizetype count(TiffTag tag) const
     {
         const auto entry = entries_.find(tag);
         return entry == entries_.end() ? 0 : numbers_.at(entry->second + 4, 4);
     }
     /// What fits into the entry lies there.
-    qsizetype placeOf(Tag tag, qsizetype size) const
+    qsizetype placeOf(TiffTag tag, qsizetype size) const
     {
         const auto entry = entries_.find(tag);
         if (entry == entries_.end())

@@ -31,7 +31,7 @@ namespace {
 
 constexpr auto shortestTurn = 2ms; // between looks at a child whose end nothing announces
 
-struct Text
+struct CheckText
 {
     Q_DECLARE_TR_FUNCTIONS(PpdCheck)
 };
@@ -139,14 +139,14 @@ Result<CheckedPpd, PpdFault> checkPpd(const QByteArray &data, const QString &nam
     const auto notTried = [&](const QString &reason) {
         return Failure<PpdFault>{
             PpdFault::NotTried,
-            Text::tr("The PPD \"%1\" is not used, since it could not be tried out safely: %2. "
-                     "Install corvel-print again.")
+            CheckText::tr("The PPD \"%1\" is not used, since it could not be tried out safely: %2. "
+                          "Install corvel-print again.")
                 .arg(shown, reason),
             {}};
     };
     pid_t child = 0;
     if (const int error = start(QFile::encodeName(program), ppd, child))
-        return notTried(Text::tr("\"%1\" cannot be run: %2").arg(program, qt_error_string(error)));
+        return notTried(CheckText::tr("\"%1\" cannot be run: %2").arg(program, qt_error_string(error)));
     const End end = endOf(child, limit);
     if (end.error != 0)
         return notTried(qt_error_string(end.error));
@@ -154,8 +154,8 @@ Result<CheckedPpd, PpdFault> checkPpd(const QByteArray &data, const QString &nam
     if (end.isOverdue || (WIFSIGNALED(end.status) && WTERMSIG(end.status) == SIGKILL))
         return Failure<PpdFault>{
             PpdFault::NotTried,
-            Text::tr("The PPD \"%1\" is not used, since this computer was too busy to try it out. Try "
-                     "again later.")
+            CheckText::tr("The PPD \"%1\" is not used, since this computer was too busy to try it out. Try "
+                          "again later.")
                 .arg(shown),
             {}};
     if (WIFEXITED(end.status)) {
@@ -163,22 +163,23 @@ Result<CheckedPpd, PpdFault> checkPpd(const QByteArray &data, const QString &nam
         case 0:
             return inspected;
         case noSandbox:
-            return notTried(Text::tr("the system offers no sandbox"));
+            return notTried(CheckText::tr("the system offers no sandbox"));
         default: // of the dynamic linker's, most likely
-            return notTried(Text::tr("\"%1\" ends with status %2").arg(program).arg(WEXITSTATUS(end.status)));
+            return notTried(
+                CheckText::tr("\"%1\" ends with status %2").arg(program).arg(WEXITSTATUS(end.status)));
         }
     }
     if (WTERMSIG(end.status) == SIGXCPU)
         return Failure<PpdFault>{
             PpdFault::Harmful,
-            Text::tr("The PPD \"%1\" is not used: libcups does not come to an end with it. Fetch "
-                     "another from the printer's maker.")
+            CheckText::tr("The PPD \"%1\" is not used: libcups does not come to an end with it. Fetch "
+                          "another from the printer's maker.")
                 .arg(shown),
             {}};
     return Failure<PpdFault>{
         PpdFault::Harmful,
-        Text::tr("The PPD \"%1\" is not used: libcups crashes over it. Fetch another from the "
-                 "printer's maker.")
+        CheckText::tr("The PPD \"%1\" is not used: libcups crashes over it. Fetch another from the "
+                      "printer's maker.")
             .arg(shown),
         {}};
 }

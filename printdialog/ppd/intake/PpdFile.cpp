@@ -26,7 +26,7 @@ namespace printdialog {
 
 namespace {
 
-struct Text
+struct FileText
 {
     Q_DECLARE_TR_FUNCTIONS(PpdFile)
 };
@@ -40,11 +40,11 @@ const QByteArray gzipMagic = "\x1f\x8b";
 
 Failure<PpdFault> damagedArchive(const QString &path, const QString &reason)
 {
-    return {
-        PpdFault::CutOff,
-        Text::tr("The compressed PPD \"%1\" cannot be expanded: %2; copy it again from where it came from.")
-            .arg(plainText(path, 300), reason),
-        {}};
+    return {PpdFault::CutOff,
+            FileText::tr(
+                "The compressed PPD \"%1\" cannot be expanded: %2; copy it again from where it came from.")
+                .arg(plainText(path, 300), reason),
+            {}};
 }
 
 /// What gunzip(1) makes of it. One byte more than allowed stands for all that is too large.
@@ -70,9 +70,9 @@ Result<QByteArray, PpdFault> expanded(const QByteArray &compressed, const QStrin
         if (status == Z_STREAM_END && !goesOn)
             return bytes;
         if (goesOn ? inflateReset(&stream) != Z_OK : status == Z_BUF_ERROR)
-            return damagedArchive(path, Text::tr("its end is missing"));
+            return damagedArchive(path, FileText::tr("its end is missing"));
         if (!goesOn && status != Z_OK)
-            return damagedArchive(path, Text::tr("it is damaged"));
+            return damagedArchive(path, FileText::tr("it is damaged"));
     }
     bytes.truncate(PpdLimits::bytes + 1);
     return bytes;
@@ -80,11 +80,12 @@ Result<QByteArray, PpdFault> expanded(const QByteArray &compressed, const QStrin
 
 Failure<PpdFault> notRegular(const QString &path, mode_t mode)
 {
-    return failure(PpdFault::NotReadable,
-                   S_ISDIR(mode)
-                       ? Text::tr("\"%1\" is a directory; name the PPD file itself.")
-                       : Text::tr("\"%1\" is a device or a pipe, not a file; name the printer's PPD file."),
-                   path);
+    return failure(
+        PpdFault::NotReadable,
+        S_ISDIR(mode)
+            ? FileText::tr("\"%1\" is a directory; name the PPD file itself.")
+            : FileText::tr("\"%1\" is a device or a pipe, not a file; name the printer's PPD file."),
+        path);
 }
 
 } // namespace
@@ -94,9 +95,9 @@ Failure<PpdFault> ppdNotReadable(const QString &name, int error)
     if (error == ENOENT && isForeignName(name))
         return {PpdFault::NotFound, foreignNameText(name), {}};
     if (error == ENOENT || error == ENOTDIR)
-        return failure(PpdFault::NotFound, Text::tr("There is no PPD \"%1\"; check the path."), name);
+        return failure(PpdFault::NotFound, FileText::tr("There is no PPD \"%1\"; check the path."), name);
     return {PpdFault::NotReadable,
-            Text::tr("The PPD \"%1\" cannot be read: %2; check the file and its permissions.")
+            FileText::tr("The PPD \"%1\" cannot be read: %2; check the file and its permissions.")
                 .arg(plainText(name, 300), qt_error_string(error)),
             {}};
 }

@@ -11,7 +11,7 @@ namespace printdialog {
 
 namespace {
 
-struct Text
+struct FaultText
 {
     Q_DECLARE_TR_FUNCTIONS(QueueFault)
 };
@@ -21,60 +21,60 @@ QString ownReason(QueueFault fault)
 {
     switch (fault) {
     case QueueFault::NotFound:
-        return Text::tr("the print server does not know it");
+        return FaultText::tr("the print server does not know it");
     case QueueFault::NoServer:
-        return Text::tr("nothing answers at its address");
+        return FaultText::tr("nothing answers at its address");
     case QueueFault::NoPpd:
-        return Text::tr("the print server keeps none for it");
+        return FaultText::tr("the print server keeps none for it");
     case QueueFault::NotAccepting:
-        return Text::tr("it is set to reject them");
+        return FaultText::tr("it is set to reject them");
     case QueueFault::Refused:
-        return Text::tr("no permission");
+        return FaultText::tr("no permission");
     case QueueFault::TimedOut:
-        return Text::tr("time limit reached");
+        return FaultText::tr("time limit reached");
     case QueueFault::Changed:
-        return Text::tr("its PPD file is a new one");
+        return FaultText::tr("its PPD file is a new one");
     case QueueFault::Cancelled:
-        return Text::tr("nothing is printed");
+        return FaultText::tr("nothing is printed");
     case QueueFault::Failed:
         break;
     }
-    return Text::tr("the print server gave no reason");
+    return FaultText::tr("the print server gave no reason");
 }
 
 QString sentence(QueueFault fault)
 {
     switch (fault) {
     case QueueFault::NotFound:
-        return Text::tr(
+        return FaultText::tr(
             "The printer \"%1\" does not exist (%2); choose another one, or add it in the printer settings.");
     case QueueFault::NoServer:
-        return Text::tr(
+        return FaultText::tr(
             "The printer \"%1\" cannot be reached, because no print server is running (%2); start CUPS or "
             "check the server's name.");
     case QueueFault::NoPpd:
-        return Text::tr("The printer \"%1\" has no PPD file (%2); set it up again with its driver.");
+        return FaultText::tr("The printer \"%1\" has no PPD file (%2); set it up again with its driver.");
     case QueueFault::NotAccepting:
-        return Text::tr(
+        return FaultText::tr(
             "The printer \"%1\" does not accept jobs (%2); let it accept them in the printer settings, or "
             "choose another one.");
     case QueueFault::Refused:
-        return Text::tr(
+        return FaultText::tr(
             "The print server refused the request for the printer \"%1\" (%2); ask whoever manages it.");
     case QueueFault::TimedOut:
-        return Text::tr(
+        return FaultText::tr(
             "The print server did not answer about the printer \"%1\" in time (%2); try again, or restart "
             "CUPS.");
     case QueueFault::Changed:
-        return Text::tr(
+        return FaultText::tr(
             "The options of the printer \"%1\" have changed since they were chosen (%2); look at them and "
             "print again.");
     case QueueFault::Cancelled:
-        return Text::tr("The job for the printer \"%1\" was cancelled (%2).");
+        return FaultText::tr("The job for the printer \"%1\" was cancelled (%2).");
     case QueueFault::Failed:
         break;
     }
-    return Text::tr(
+    return FaultText::tr(
         "The print server could not serve the printer \"%1\" (%2); try again, or look into its log.");
 }
 
@@ -82,13 +82,13 @@ QString serverSentence(QueueFault fault)
 {
     switch (fault) {
     case QueueFault::NoServer:
-        return Text::tr("No print server is running (%1); start CUPS or check the server's name.");
+        return FaultText::tr("No print server is running (%1); start CUPS or check the server's name.");
     case QueueFault::Refused:
-        return Text::tr("The print server refused to list its printers (%1); ask whoever manages it.");
+        return FaultText::tr("The print server refused to list its printers (%1); ask whoever manages it.");
     case QueueFault::TimedOut:
-        return Text::tr("The print server did not answer in time (%1); try again, or restart CUPS.");
+        return FaultText::tr("The print server did not answer in time (%1); try again, or restart CUPS.");
     default:
-        return Text::tr(
+        return FaultText::tr(
             "The print server could not list its printers (%1); try again, or look into its log.");
     }
 }

@@ -29,7 +29,7 @@ namespace printdialog {
 namespace {
 
 constexpr int tipHeight = 7;
-constexpr int padding = 8;
+constexpr int calloutPadding = 8;
 constexpr int widest = 420;
 constexpr QColor tint(200, 140, 20);
 
@@ -90,7 +90,7 @@ ChoiceCallout::ChoiceCallout(QWidget *window)
     close_->setToolTip(tr("Dismiss (Esc)"));
     close_->setAccessibleName(tr("Dismiss"));
     auto *layout = new QGridLayout(this);
-    layout->setSpacing(padding);
+    layout->setSpacing(calloutPadding);
     layout->setColumnStretch(0, 1);
     layout->addWidget(text_, 0, 0);
     layout->addWidget(close_, 0, 1, Qt::AlignTop);
@@ -167,8 +167,8 @@ void ChoiceCallout::place()
     const QRect area = inWindow(area_) & view;
     const int width = std::min(area.isEmpty() ? view.width() : area.width(), widest);
     const auto sizeFor = [&](bool below) {
-        layout()->setContentsMargins(padding + 2, padding + (below ? tipHeight : 0), padding,
-                                     padding + (below ? 0 : tipHeight));
+        layout()->setContentsMargins(calloutPadding + 2, calloutPadding + (below ? tipHeight : 0),
+                                     calloutPadding, calloutPadding + (below ? 0 : tipHeight));
         return std::max(layout()->totalHeightForWidth(width), layout()->totalMinimumSize().height());
     };
     const int height = sizeFor(true);

@@ -14,7 +14,7 @@ namespace printdialog {
 
 namespace {
 
-const QString pageSizeKey = QStringLiteral("PageSize");
+const QString pageSizeOption = QStringLiteral("PageSize");
 
 } // namespace
 
@@ -53,7 +53,7 @@ void ChoiceController::choosePageSize(const QString &pageSize)
     if (!session_)
         return;
     steps_->endAct();
-    const Ruling ruling = session_->choose(pageSizeKey, pageSize);
+    const Ruling ruling = session_->choose(pageSizeOption, pageSize);
     if (ruling.verdict == Verdict::Accepted)
         endAct(widgets_.pageSize, false);
     else

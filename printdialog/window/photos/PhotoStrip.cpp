@@ -22,7 +22,7 @@ namespace printdialog {
 namespace {
 
 constexpr QSize thumbnailSize(72, 54);
-constexpr int padding = 6;
+constexpr int photoPadding = 6;
 constexpr qsizetype nameLimit = 60;
 
 /// A photo that was replaced under the same name is another one.
@@ -42,7 +42,7 @@ PhotoStrip::PhotoStrip(QWidget *parent)
     setUniformItemSizes(true);
     setMovement(QListView::Snap);
     setIconSize(thumbnailSize);
-    setGridSize(thumbnailSize + QSize(2 * padding, 2 * padding));
+    setGridSize(thumbnailSize + QSize(2 * photoPadding, 2 * photoPadding));
     setSelectionMode(QAbstractItemView::SingleSelection);
     setDragDropMode(QAbstractItemView::DragDrop);
     setDefaultDropAction(Qt::MoveAction);

@@ -22,7 +22,7 @@ namespace printdialog {
 
 namespace {
 
-constexpr int margin = 16;
+constexpr int paperMargin = 16;
 /// In pixels of the photo's longer side: decoded at first, which is enough for the window as it opens, and at
 /// most.
 constexpr int firstDetail = 800;
@@ -182,7 +182,7 @@ QTransform PreviewWidget::pageToWidget() const
     }
     const bool isTurned = place && place->pageTurns != 0;
     const QSizeF seen = isTurned ? shown.size().transposed() : shown.size();
-    const QRectF room = QRectF(rect()).adjusted(margin, margin, -margin, -margin);
+    const QRectF room = QRectF(rect()).adjusted(paperMargin, paperMargin, -paperMargin, -paperMargin);
     const double scale = std::min(room.width() / seen.width(), room.height() / seen.height());
     QTransform transform;
     if (!(scale > 0) || !std::isfinite(scale))
@@ -208,8 +208,8 @@ void PreviewWidget::paintEvent(QPaintEvent * /*event*/)
     if (const QString words = text(); !words.isEmpty()) {
         painter.setPen(page_.size.isEmpty() ? palette().color(QPalette::WindowText) : QColor(Qt::darkGray));
         const QRectF paper = page_.size.isEmpty() ? rect() : pageToWidget().mapRect(sheetOf(page_));
-        painter.drawText(paper.adjusted(margin, margin, -margin, -margin), Qt::AlignCenter | Qt::TextWordWrap,
-                         words);
+        painter.drawText(paper.adjusted(paperMargin, paperMargin, -paperMargin, -paperMargin),
+                         Qt::AlignCenter | Qt::TextWordWrap, words);
     }
     if (hasFocus()) {
         QStyleOptionFocusRect option;
