@@ -8,6 +8,11 @@
 #include <initializer_list>
 #include <tuple>
 
+inline QString text(const char *latin1)
+{
+    return QString::fromLatin1(latin1);
+}
+
 /// The rows of a test: the name of each and its values, which row() has in the test.
 template <class... Values>
 void addRows(std::initializer_list<std::tuple<const char *, Values...>> rows)

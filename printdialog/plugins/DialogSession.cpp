@@ -61,7 +61,7 @@ std::optional<Failure<PluginFault>> DialogSession::loadPanels()
         panel->open();
         const QStringList keys = panel->keys();
         for (const QString &key : keys)
-            panelOf_.insert(key, panel.get());
+            panelOf_.insert(key, panel);
     }
     return std::nullopt;
 }

@@ -10,6 +10,7 @@
 #include "PrintSession.h"
 #include "Printer.h"
 #include "RKTPPRBasePDEcorvel.h"
+#include "Rows.h"
 #include "ViewTags.h"
 
 #include <QtWidgets/QDialog>
@@ -147,11 +148,6 @@ public:
     QStringList helpBooks;
     bool opensHelp = true;
 };
-
-inline QString text(const char *latin1)
-{
-    return QString::fromLatin1(latin1);
-}
 
 /// A bundle in the folder, of which nothing is there but its Info.json.
 std::optional<pdekit::Bundle> emptyBundle(const QString &folder, const QByteArray &identifier);

@@ -25,16 +25,6 @@
 #include <QtWidgets/QRadioButton>
 #include <QtWidgets/QSlider>
 
-inline QString text(const char *latin1)
-{
-    return QString::fromLatin1(latin1);
-}
-
-inline QString text(const char *latin1)
-{
-    return QString::fromLatin1(latin1);
-}
-
 /// The kit that dialog and plug-in share.
 class KitTest : public pdekit::KeyValueObject
 {

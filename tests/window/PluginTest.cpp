@@ -20,7 +20,6 @@ using namespace printdialog;
 using namespace testing_support;
 using namespace Qt::StringLiterals;
 
-Q_DECLARE_METATYPE(printdialog::PanelMode)
 
 /// The dialog with somebody else's plug-in.
 class PluginTest : public QObject

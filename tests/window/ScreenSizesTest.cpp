@@ -142,11 +142,11 @@ void ScreenSizesTest::wheelChangesNothing()
          {static_cast<QWidget *>(slider), opened.find<QWidget>(u"copies"_s),
           opened.find<QWidget>(u"pageSize"_s), opened.find<QWidget>(u"qt_tabwidget_tabbar"_s)}) {
         bar->setValue(0);
-        const int before = placeInWindow(label).top();
+        const int before = inWindow(label).top();
         const QPointF middle = over->rect().center();
         QWheelEvent wheel(middle, over->mapToGlobal(middle), {}, {0, -120}, {}, {}, Qt::NoScrollPhase, false);
         QApplication::sendEvent(over, &wheel);
-        QVERIFY2(placeInWindow(label).top() < before, qPrintable(over->objectName()));
+        QVERIFY2(inWindow(label).top() < before, qPrintable(over->objectName()));
         QVERIFY2(over->focusPolicy() != Qt::WheelFocus, qPrintable(over->objectName()));
     }
     QCOMPARE(slider->value(), 0);
@@ -167,12 +167,12 @@ void ScreenSizesTest::calloutFollowsItsControl()
     QVERIFY(callout->isVisible());
     QScrollArea *settings = settingsOf(opened);
     QScrollBar *bar = settings->verticalScrollBar();
-    const QRect view = placeInWindow(settings->viewport());
+    const QRect view = inWindow(settings->viewport());
     const QRect window = opened.dialog->rect();
     for (const int value : {0, bar->maximum() / 2, bar->maximum()}) {
         bar->setValue(value);
-        const QRect box = placeInWindow(callout);
-        const QRect control = placeInWindow(opened.control(2));
+        const QRect box = inWindow(callout);
+        const QRect control = inWindow(opened.control(2));
         QVERIFY(window.contains(box));
         QVERIFY(!box.intersects(control));
         if (view.contains(control))
