@@ -19,19 +19,15 @@ namespace pdekit {
 ///
 /// 1. `panelName`, `panelKind`, `supportedPPDOptionKeys`, once each. The answers hold as long as the panel.
 /// 2. `restoreValuesAndReturnError`: the job's choices, before anything is asked about them. Choices kept
-/// from an
-///    earlier time, or of the command line, follow (ChoiceReceiver, else
-///    PPDOptionKeyValueDidChangePpdChoice).
+///    from an earlier time follow by 5, those of the command line by ChoiceReceiver where the panel is one.
 /// 3. `panelView` when the page is first to be seen, and `willShow` then, once. A run without a window asks
-/// for
-///    neither.
-/// 4. From then on, whatever the user does, any number of times: `saveValuesAndReturnError` whenever the
-/// dialog needs
-///    to know the panel's choices, so after each act of the user's as well;
-///    `PPDOptionKeyValueDidChangePpdChoice`, and `restoreValuesAndReturnError` after it, when a choice comes
-///    from elsewhere; `summaryInfo` after a save; `shouldShowHelp`; `shouldHide` before another page or
-///    another printer takes the page's place, before it prints, and before the window closes.
-/// 5. For a job: `saveValuesAndReturnError`, then `summaryInfo`.
+///    for neither.
+/// 4. From then on, any number of times: `summaryInfo`; `shouldShowHelp`; `shouldHide` before another page
+///    or another printer takes the page's place, before it prints, and before the window closes; in a dialog
+///    without ConstraintHandling, `saveValuesAndReturnError` after each act of the user's.
+/// 5. When choices come from elsewhere (undo, a preset, another option): `saveValuesAndReturnError` first if
+///    there are several, `PPDOptionKeyValueDidChangePpdChoice` for each, `restoreValuesAndReturnError`.
+/// 6. For a job, or a preset to be saved: `saveValuesAndReturnError`, then `summaryInfo`.
 ///
 /// A panel that throws anything, in these calls or in an action of its form, is called no more: its page is
 /// closed, and the user is told with the exception's what(). Its choices are missing then, which Print says.

@@ -84,12 +84,12 @@ bool DialogSession::rule(const QString &key, const QString &choice)
     begunKeys_.removeOne(key);
     if (lastRuling_.verdict == Verdict::Incomplete)
         begunKeys_.append(key);
-    tellPanels(key);
+    restore(tellPanels(key));
     return lastRuling_.letsThrough();
 }
 
 // A choice may change that of another option. The panel that has asked records its own choice itself.
-void DialogSession::tellPanels(const QString &askedKey)
+QList<GuardedPanel *> DialogSession::tellPanels(const QString &askedKey)
 {
     QList<GuardedPanel *> told;
     const QStringList keys = std::exchange(changedKeys_, {});
@@ -102,7 +102,12 @@ void DialogSession::tellPanels(const QString &askedKey)
         if (!told.contains(panel))
             told.append(panel);
     }
-    for (GuardedPanel *panel : std::as_const(told))
+    return told;
+}
+
+void DialogSession::restore(const QList<GuardedPanel *> &panels)
+{
+    for (GuardedPanel *panel : panels)
         panel->restore();
 }
 
@@ -132,7 +137,7 @@ Ruling DialogSession::chooseThroughPanel(GuardedPanel &panel, const Ruling &offe
 Ruling DialogSession::chooseDirectly(const Ruling &offered)
 {
     Ruling ruling = chosen_.choose(offered.key, offered.choice);
-    tellPanels(offered.key);
+    restore(tellPanels(offered.key));
     return ruling;
 }
 

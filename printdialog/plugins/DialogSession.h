@@ -104,7 +104,8 @@ Q_SIGNALS:
 private:
     bool rule(const QString &key, const QString &choice);
     void savePanels();
-    void tellPanels(const QString &askedKey);
+    QList<GuardedPanel *> tellPanels(const QString &askedKey);
+    static void restore(const QList<GuardedPanel *> &panels);
     Ruling chooseThroughPanel(GuardedPanel &panel, const Ruling &offered);
     Ruling chooseDirectly(const Ruling &offered);
     GuardedPanel *panelFor(const QString &key) const;

@@ -15,7 +15,9 @@ void DialogSession::chooseTogether(const QMap<QString, QString> &choices)
     savePanels();
     chosen_.chooseTogether(choices);
     tellPanels({});
-    refreshPanels();
+    begunKeys_.clear();
+    for (const auto &panel : panels_)
+        panel->restore();
 }
 
 QList<Ruling> DialogSession::restoreChoices(const QMap<QString, QString> &choices, Unnamed unnamed)

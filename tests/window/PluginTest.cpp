@@ -193,6 +193,7 @@ void PluginTest::staysUntilItMayHide()
 // As PrintDialogPanel.h has it. What is asked several times in a row counts once.
 void PluginTest::callsInOrder()
 {
+    QFETCH_GLOBAL(PanelMode, mode);
     const auto calls = [this] {
         QFile file(folder_->filePath(u"calls"_s));
         QStringList names;
@@ -203,19 +204,19 @@ void PluginTest::callsInOrder()
         return names.join(u' ');
     };
     const auto opened = open();
-    QCOMPARE(calls(), u"init panels name restore save restore save view willShow"_s);
+    QCOMPARE(calls(), u"init panels name restore save restore view willShow"_s);
     chooseDeckle(*opened);
-    QCOMPARE(calls(), u"act save"_s);
+    QCOMPARE(calls(), mode == PanelMode::Constraint ? u"act"_s : u"act save"_s);
     QTest::keyClick(opened->dialog.get(), Qt::Key_F1);
     QTest::keyClick(opened->dialog.get(), Qt::Key_Z, Qt::ControlModifier);
-    QCOMPARE(calls(), u"help save choice save restore save"_s);
+    QCOMPARE(calls(), u"help save didChange restore"_s);
     opened->dialog->showPage(1);
     opened->dialog->showPage(0);
     QCOMPARE(calls(), u"shouldHide summary"_s);
     opened->dialog->print();
     QTRY_VERIFY(opened->find<QPushButton>(u"cancel"_s)->text().remove(u'&') ==
                 u"Close"_s); // printing is over
-    QCOMPARE(calls(), u"shouldHide save summary save"_s);
+    QCOMPARE(calls(), u"shouldHide save summary"_s);
     opened->dialog->close();
     QCOMPARE(calls(), u"shouldHide"_s);
 }
