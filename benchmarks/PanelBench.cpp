@@ -95,7 +95,7 @@ double bareRound(const DialogSession &session, PanelMode mode)
 
 // Ours
 
-double keystroke(const QWidget *view)
+double keystroke(QWidget *view)
 {
     auto *field = qobject_cast<QLineEdit *>(pdekit::viewWithTag(view, 81));
     auto *slider = qobject_cast<QSlider *>(pdekit::viewWithTag(view, 1));
