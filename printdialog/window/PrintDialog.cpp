@@ -10,7 +10,7 @@
 #include "HelpWindow.h"
 #include "PlainText.h"
 #include "PpdFetcher.h"
-#include "PrintWorker.h"
+#include "PrintingController.h"
 #include "QueueCache.h"
 #include "QueueSettings.h"
 #include "SessionOpening.h"
@@ -43,7 +43,6 @@ PrintDialog::PrintDialog(const PrintDialogSetup &setup, QWidget *parent)
     , setup_(setup)
     , ui_(std::make_unique<Ui::PrintDialog>())
     , fetcher_(new PpdFetcher(this))
-    , worker_(new PrintWorker(this))
 {
     const std::optional<RememberedQueue> remembered = firstPrinter();
     // The print server may well be asked while the window is being made.
@@ -65,6 +64,17 @@ PrintDialog::PrintDialog(const PrintDialogSetup &setup, QWidget *parent)
     choices_ = new ChoiceController(
         {this, ui_->panels, ui_->pageSize, ui_->copies, ui_->presetBar, ui_->undo, ui_->redo, ui_->message},
         this);
+    printing_ = new PrintingController({ui_->photos, ui_->progress, ui_->message}, choices_, this);
+    connect(printing_, &PrintingController::stateChanged, this, &PrintDialog::updateButtons);
+    connect(printing_, &PrintingController::printRequested, this, &PrintDialog::print);
+    connect(printing_, &PrintingController::closeRequested, this, [this] { QDialog::reject(); });
+    connect(printing_, &PrintingController::dismissed, ui_->cancel,
+            [this] { ui_->cancel->setFocus(Qt::OtherFocusReason); });
+    connect(printing_, &PrintingController::ppdChanged, this, [this](const QString &reason) {
+        whyNotReady_ = reason;
+        updateButtons();
+        fetcher_->fetch(queue_.destination());
+    });
     ui_->folder->setText(QDir::toNativeSeparators(QDir(setup.outputFolder).absolutePath()));
     connect(ui_->printer, &PrinterChooser::printerChosen, this, &PrintDialog::openPrinter);
     ui_->printer->setStaying([this] { return pageStays() ? std::optional(queue_.id()) : std::nullopt; });
@@ -89,11 +99,6 @@ PrintDialog::PrintDialog(const PrintDialogSetup &setup, QWidget *parent)
     connect(
         fetcher_, &PpdFetcher::failed, this,
         [this](quint64 /*number*/, QueueFault reason, const QString &text) { takePpdFailure(reason, text); });
-    connect(worker_, &PrintWorker::finished, this, &PrintDialog::finishPrinting);
-    connect(worker_, &PrintWorker::progress, this, [this](const QString &text, qint64 done, qint64 total) {
-        if (!isStopping_)
-            ui_->progress->show(text, done, total);
-    });
     connect(ui_->printer, &PrinterChooser::currentUpdated, this, &PrintDialog::takeUpdate);
     connect(new TouchWatch(this), &TouchWatch::touched, this, [this] { ui_->printer->selection().kept(); });
     ui_->panels->setSummary([this] { return summary(); });
@@ -195,7 +200,18 @@ void PrintDialog::browseFolder()
     const QString folder =
         QFileDialog::getExistingDirectory(this, tr("Folder for Printed Files"), ui_->folder->text());
     if (!folder.isEmpty())
-        ui_->folder->setText(QDir::toNativeSeparators(folder));
+        printing_ = new PrintingController({ui_->photos, ui_->progress, ui_->message}, choices_, this);
+    connect(printing_, &PrintingController::stateChanged, this, &PrintDialog::updateButtons);
+    connect(printing_, &PrintingController::printRequested, this, &PrintDialog::print);
+    connect(printing_, &PrintingController::closeRequested, this, [this] { QDialog::reject(); });
+    connect(printing_, &PrintingController::dismissed, ui_->cancel,
+            [this] { ui_->cancel->setFocus(Qt::OtherFocusReason); });
+    connect(printing_, &PrintingController::ppdChanged, this, [this](const QString &reason) {
+        whyNotReady_ = reason;
+        updateButtons();
+        fetcher_->fetch(queue_.destination());
+    });
+    ui_->folder->setText(QDir::toNativeSeparators(folder));
 }
 
 void PrintDialog::showHelp()

@@ -28,10 +28,8 @@ class CheckedPpd;
 class ChoiceController;
 class DialogSession;
 class PpdFetcher;
-class PrintWorker;
-struct PrintOutcome;
+class PrintingController;
 struct RememberedQueue;
-struct SessionJob;
 
 /// What a print dialog is opened with.
 struct PrintDialogSetup
@@ -123,17 +121,10 @@ private:
     void choosePageSize(int index);
     void showPageSize();
 
-    // Printing
-    void askAboutDamage();
-    void finishPrinting(const PrintOutcome &outcome);
-    std::optional<SessionJob> makeJob();
-    void askAboutMissing(const QStringList &missing);
+    // The buttons
     bool pageStays();
     void closeUnlessPageStays();
     void cancelOrStop();
-    void stopPrinting();
-    QString whatGoesOn() const;
-    void leave();
     void updateButtons();
 
     SummaryEntries summary() const;
@@ -146,17 +137,10 @@ private:
     std::unique_ptr<DialogSession> session_;
     ChoiceController *choices_;
     PpdFetcher *fetcher_;
-    PrintWorker *worker_;
-    QString builtInPreset_;       ///< the built-in printer is asked for with it; mostly empty
-    Queue queue_;                 ///< the printer that is shown
-    QString whyNotReady_;         ///< why Print is off; empty when it is on
-    QStringList remarks_;         ///< what was left out of the job that is printed
-    QStringList acceptedMissing_; ///< what is missing of the job, and the user prints without
-    PrintJob job_;                ///< of what is being printed, or was
-    bool hasPrinted_ = false;     ///< there was a run, whatever became of it
-    bool isStopping_ = false;     ///< the user wants what is printed stopped
-    bool isLeaving_ = false;      ///< what is asked is whether to close the window
-    QString notKept_;             ///< why the choices are not kept for the next time; mostly empty
+    PrintingController *printing_ = nullptr;
+    QString builtInPreset_; ///< the built-in printer is asked for with it; mostly empty
+    Queue queue_;           ///< the printer that is shown
+    QString whyNotReady_;   ///< why Print is off; empty when it is on
 };
 
 } // namespace printdialog

@@ -257,6 +257,7 @@ void PrintDialog::closeSession(const QString &reason)
 {
     choices_->setSession(nullptr);
     ui_->panels->setSession(nullptr);
+    printing_->setSession(nullptr);
     session_.reset();
     whyNotReady_ = reason;
     ui_->pageSize->clear();
@@ -280,7 +281,7 @@ void PrintDialog::takeSession(std::unique_ptr<DialogSession> session)
     // Not at once: it is part of what is being done, which has its own messages.
     connect(session_.get(), &DialogSession::panelFailed, this, &PrintDialog::showPanelFailure,
             Qt::QueuedConnection);
-    acceptedMissing_.clear();
+    printing_->setSession(session_.get());
     const auto noPanels = session_->loadPanels();
     choices_->setSession(session_.get(), wasChosenHere() ? QString() : builtInPreset_);
     if (applyOptions())

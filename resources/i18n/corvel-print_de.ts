@@ -1925,10 +1925,6 @@ Beispiele:
         <translation>Der Druck läuft.</translation>
     </message>
     <message>
-        <source>Printing…</source>
-        <translation>Wird gedruckt…</translation>
-    </message>
-    <message>
         <source>Close</source>
         <translation>Schließen</translation>
     </message>
@@ -1957,64 +1953,8 @@ Beispiele:
         <translation>Stoppen</translation>
     </message>
     <message>
-        <source>Stopping…</source>
-        <translation>Wird gestoppt…</translation>
-    </message>
-    <message>
-        <source>Stop Printing</source>
-        <translation>Drucken stoppen</translation>
-    </message>
-    <message>
-        <source>Go On</source>
-        <translation>Weiterdrucken</translation>
-    </message>
-    <message>
-        <source>Close Window</source>
-        <translation>Fenster schließen</translation>
-    </message>
-    <message>
-        <source>Keep Open</source>
-        <translation>Offen lassen</translation>
-    </message>
-    <message>
-        <source>The print server goes on printing when this window is closed.</source>
-        <translation>Der Druckserver druckt weiter, wenn dieses Fenster geschlossen wird.</translation>
-    </message>
-    <message>
-        <source>Stop printing? What is not printed yet is taken back.</source>
-        <translation>Drucken stoppen? Was noch nicht gedruckt ist, wird zurückgenommen.</translation>
-    </message>
-    <message>
-        <source>Printed so far: %1 of %2 photos. The rest is not printed when this window is closed.</source>
-        <translation>Bisher gedruckt: %1 von %2 Fotos. Der Rest wird nicht gedruckt, wenn dieses Fenster geschlossen wird.</translation>
-    </message>
-    <message>
-        <source>When this window is closed, the print server goes on printing the %1 of %2 photos that it has. The rest is not printed.</source>
-        <translation>Wird dieses Fenster geschlossen, druckt der Druckserver die %1 von %2 Fotos, die er hat, weiter. Der Rest wird nicht gedruckt.</translation>
-    </message>
-    <message>
-        <source>%1 is damaged: a part of the picture is missing or wrong. Look at it, then print it as it is, or remove it and copy it again from where it came from.</source>
-        <translation>%1 ist beschädigt: Ein Teil des Bildes fehlt oder ist falsch. Sehen Sie es an und drucken Sie es dann so, oder entfernen Sie es und kopieren Sie es erneut von der Quelle.</translation>
-    </message>
-    <message>
-        <source>These photos are damaged: %1. Look at them, then print them as they are, or remove them and copy them again from where they came from.</source>
-        <translation>Diese Fotos sind beschädigt: %1. Sehen Sie sie an und drucken Sie sie dann so, oder entfernen Sie sie und kopieren Sie sie erneut von der Quelle.</translation>
-    </message>
-    <message>
-        <source>Print Anyway</source>
-        <translation>Trotzdem drucken</translation>
-    </message>
-    <message>
         <source>Use the Built-in Printer</source>
         <translation>Eingebauten Drucker verwenden</translation>
-    </message>
-    <message>
-        <source>Print without these choices? The printer&apos;s own defaults take their place.</source>
-        <translation>Ohne diese Einstellungen drucken? An ihre Stelle treten die Voreinstellungen des Druckers.</translation>
-    </message>
-    <message>
-        <source>Print Without Them</source>
-        <translation>Ohne sie drucken</translation>
     </message>
     <message>
         <source>Nothing is saved.</source>
@@ -2079,6 +2019,73 @@ Beispiele:
     <message>
         <source>The print server is being asked for this printer.</source>
         <translation>Der Druckserver wird nach diesem Drucker gefragt.</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::PrintingController</name>
+    <message>
+        <source>Printing…</source>
+        <translation>Wird gedruckt…</translation>
+    </message>
+    <message>
+        <source>Nothing was printed: a photo that was removed meanwhile is damaged. Print again.</source>
+        <translation>Es wurde nichts gedruckt: Ein Foto, das inzwischen entfernt wurde, ist beschädigt. Drucken Sie erneut.</translation>
+    </message>
+    <message>
+        <source>%1 is damaged: a part of the picture is missing or wrong. Look at it, then print it as it is, or remove it and copy it again from where it came from.</source>
+        <translation>%1 ist beschädigt: Ein Teil des Bildes fehlt oder ist falsch. Sehen Sie es an und drucken Sie es dann so, oder entfernen Sie es und kopieren Sie es erneut von der Quelle.</translation>
+    </message>
+    <message>
+        <source>These photos are damaged: %1. Look at them, then print them as they are, or remove them and copy them again from where they came from.</source>
+        <translation>Diese Fotos sind beschädigt: %1. Sehen Sie sie an und drucken Sie sie dann so, oder entfernen Sie sie und kopieren Sie sie erneut von der Quelle.</translation>
+    </message>
+    <message>
+        <source>Print Anyway</source>
+        <translation>Trotzdem drucken</translation>
+    </message>
+    <message>
+        <source>Print without these choices? The printer&apos;s own defaults take their place.</source>
+        <translation>Ohne diese Einstellungen drucken? An ihre Stelle treten die Voreinstellungen des Druckers.</translation>
+    </message>
+    <message>
+        <source>Print Without Them</source>
+        <translation>Ohne sie drucken</translation>
+    </message>
+    <message>
+        <source>Stopping…</source>
+        <translation>Wird gestoppt…</translation>
+    </message>
+    <message>
+        <source>Stop printing? What is not printed yet is taken back.</source>
+        <translation>Drucken stoppen? Was noch nicht gedruckt ist, wird zurückgenommen.</translation>
+    </message>
+    <message>
+        <source>Stop Printing</source>
+        <translation>Drucken stoppen</translation>
+    </message>
+    <message>
+        <source>Go On</source>
+        <translation>Weiterdrucken</translation>
+    </message>
+    <message>
+        <source>Close Window</source>
+        <translation>Fenster schließen</translation>
+    </message>
+    <message>
+        <source>Keep Open</source>
+        <translation>Offen lassen</translation>
+    </message>
+    <message>
+        <source>The print server goes on printing when this window is closed.</source>
+        <translation>Der Druckserver druckt weiter, wenn dieses Fenster geschlossen wird.</translation>
+    </message>
+    <message>
+        <source>Printed so far: %1 of %2 photos. The rest is not printed when this window is closed.</source>
+        <translation>Bisher gedruckt: %1 von %2 Fotos. Der Rest wird nicht gedruckt, wenn dieses Fenster geschlossen wird.</translation>
+    </message>
+    <message>
+        <source>When this window is closed, the print server goes on printing the %1 of %2 photos that it has. The rest is not printed.</source>
+        <translation>Wird dieses Fenster geschlossen, druckt der Druckserver die %1 von %2 Fotos, die er hat, weiter. Der Rest wird nicht gedruckt.</translation>
     </message>
 </context>
 <context>

@@ -1924,10 +1924,6 @@ Ejemplos:
         <translation>Impresión en curso.</translation>
     </message>
     <message>
-        <source>Printing…</source>
-        <translation>Imprimiendo…</translation>
-    </message>
-    <message>
         <source>Close</source>
         <translation>Cerrar</translation>
     </message>
@@ -1956,64 +1952,8 @@ Ejemplos:
         <translation>Detener</translation>
     </message>
     <message>
-        <source>Stopping…</source>
-        <translation>Deteniendo…</translation>
-    </message>
-    <message>
-        <source>Stop Printing</source>
-        <translation>Detener impresión</translation>
-    </message>
-    <message>
-        <source>Go On</source>
-        <translation>Continuar</translation>
-    </message>
-    <message>
-        <source>Close Window</source>
-        <translation>Cerrar ventana</translation>
-    </message>
-    <message>
-        <source>Keep Open</source>
-        <translation>Dejar abierta</translation>
-    </message>
-    <message>
-        <source>The print server goes on printing when this window is closed.</source>
-        <translation>El servidor de impresión sigue imprimiendo cuando se cierra esta ventana.</translation>
-    </message>
-    <message>
-        <source>Stop printing? What is not printed yet is taken back.</source>
-        <translation>¿Detener la impresión? Lo que aún no esté impreso se retira.</translation>
-    </message>
-    <message>
-        <source>Printed so far: %1 of %2 photos. The rest is not printed when this window is closed.</source>
-        <translation>Impresas hasta ahora: %1 de %2 fotos. El resto no se imprime si se cierra esta ventana.</translation>
-    </message>
-    <message>
-        <source>When this window is closed, the print server goes on printing the %1 of %2 photos that it has. The rest is not printed.</source>
-        <translation>Si se cierra esta ventana, el servidor de impresión sigue imprimiendo las %1 de %2 fotos que tiene. El resto no se imprime.</translation>
-    </message>
-    <message>
-        <source>%1 is damaged: a part of the picture is missing or wrong. Look at it, then print it as it is, or remove it and copy it again from where it came from.</source>
-        <translation>%1 está dañada: falta una parte de la imagen o es errónea. Mírela e imprímala tal como está, o quítela y cópiela de nuevo desde su origen.</translation>
-    </message>
-    <message>
-        <source>These photos are damaged: %1. Look at them, then print them as they are, or remove them and copy them again from where they came from.</source>
-        <translation>Estas fotos están dañadas: %1. Mírelas e imprímalas tal como están, o quítelas y cópielas de nuevo desde su origen.</translation>
-    </message>
-    <message>
-        <source>Print Anyway</source>
-        <translation>Imprimir de todos modos</translation>
-    </message>
-    <message>
         <source>Use the Built-in Printer</source>
         <translation>Usar la impresora integrada</translation>
-    </message>
-    <message>
-        <source>Print without these choices? The printer&apos;s own defaults take their place.</source>
-        <translation>¿Imprimir sin estas opciones? En su lugar se usan los valores predeterminados de la impresora.</translation>
-    </message>
-    <message>
-        <source>Print Without Them</source>
-        <translation>Imprimir sin ellas</translation>
     </message>
     <message>
         <source>Nothing is saved.</source>
@@ -2078,6 +2018,73 @@ Ejemplos:
     <message>
         <source>The print server is being asked for this printer.</source>
         <translation>Se está preguntando al servidor de impresión por esta impresora.</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::PrintingController</name>
+    <message>
+        <source>Printing…</source>
+        <translation>Imprimiendo…</translation>
+    </message>
+    <message>
+        <source>Nothing was printed: a photo that was removed meanwhile is damaged. Print again.</source>
+        <translation>No se ha impreso nada: una foto que se quitó mientras tanto está dañada. Imprima de nuevo.</translation>
+    </message>
+    <message>
+        <source>%1 is damaged: a part of the picture is missing or wrong. Look at it, then print it as it is, or remove it and copy it again from where it came from.</source>
+        <translation>%1 está dañada: falta una parte de la imagen o es errónea. Mírela e imprímala tal como está, o quítela y cópiela de nuevo desde su origen.</translation>
+    </message>
+    <message>
+        <source>These photos are damaged: %1. Look at them, then print them as they are, or remove them and copy them again from where they came from.</source>
+        <translation>Estas fotos están dañadas: %1. Mírelas e imprímalas tal como están, o quítelas y cópielas de nuevo desde su origen.</translation>
+    </message>
+    <message>
+        <source>Print Anyway</source>
+        <translation>Imprimir de todos modos</translation>
+    </message>
+    <message>
+        <source>Print without these choices? The printer&apos;s own defaults take their place.</source>
+        <translation>¿Imprimir sin estas opciones? En su lugar se usan los valores predeterminados de la impresora.</translation>
+    </message>
+    <message>
+        <source>Print Without Them</source>
+        <translation>Imprimir sin ellas</translation>
+    </message>
+    <message>
+        <source>Stopping…</source>
+        <translation>Deteniendo…</translation>
+    </message>
+    <message>
+        <source>Stop printing? What is not printed yet is taken back.</source>
+        <translation>¿Detener la impresión? Lo que aún no esté impreso se retira.</translation>
+    </message>
+    <message>
+        <source>Stop Printing</source>
+        <translation>Detener impresión</translation>
+    </message>
+    <message>
+        <source>Go On</source>
+        <translation>Continuar</translation>
+    </message>
+    <message>
+        <source>Close Window</source>
+        <translation>Cerrar ventana</translation>
+    </message>
+    <message>
+        <source>Keep Open</source>
+        <translation>Dejar abierta</translation>
+    </message>
+    <message>
+        <source>The print server goes on printing when this window is closed.</source>
+        <translation>El servidor de impresión sigue imprimiendo cuando se cierra esta ventana.</translation>
+    </message>
+    <message>
+        <source>Printed so far: %1 of %2 photos. The rest is not printed when this window is closed.</source>
+        <translation>Impresas hasta ahora: %1 de %2 fotos. El resto no se imprime si se cierra esta ventana.</translation>
+    </message>
+    <message>
+        <source>When this window is closed, the print server goes on printing the %1 of %2 photos that it has. The rest is not printed.</source>
+        <translation>Si se cierra esta ventana, el servidor de impresión sigue imprimiendo las %1 de %2 fotos que tiene. El resto no se imprime.</translation>
     </message>
 </context>
 <context>

@@ -1925,10 +1925,6 @@ Exemples&#x202f;:
         <translation>Impression en cours.</translation>
     </message>
     <message>
-        <source>Printing…</source>
-        <translation>Impression…</translation>
-    </message>
-    <message>
         <source>Close</source>
         <translation>Fermer</translation>
     </message>
@@ -1957,64 +1953,8 @@ Exemples&#x202f;:
         <translation>Arrêter</translation>
     </message>
     <message>
-        <source>Stopping…</source>
-        <translation>Arrêt…</translation>
-    </message>
-    <message>
-        <source>Stop Printing</source>
-        <translation>Arrêter l’impression</translation>
-    </message>
-    <message>
-        <source>Go On</source>
-        <translation>Continuer</translation>
-    </message>
-    <message>
-        <source>Close Window</source>
-        <translation>Fermer la fenêtre</translation>
-    </message>
-    <message>
-        <source>Keep Open</source>
-        <translation>Laisser ouverte</translation>
-    </message>
-    <message>
-        <source>The print server goes on printing when this window is closed.</source>
-        <translation>Le serveur d’impression continue d’imprimer quand cette fenêtre est fermée.</translation>
-    </message>
-    <message>
-        <source>Stop printing? What is not printed yet is taken back.</source>
-        <translation>Arrêter l’impression&#x202f;? Ce qui n’est pas encore imprimé est retiré.</translation>
-    </message>
-    <message>
-        <source>Printed so far: %1 of %2 photos. The rest is not printed when this window is closed.</source>
-        <translation>Photos imprimées jusqu’ici&#xa0;: %1 sur %2. Le reste n’est pas imprimé si cette fenêtre est fermée.</translation>
-    </message>
-    <message>
-        <source>When this window is closed, the print server goes on printing the %1 of %2 photos that it has. The rest is not printed.</source>
-        <translation>Si cette fenêtre est fermée, le serveur d’impression continue d’imprimer les %1 photos sur %2 qu’il a reçues. Le reste n’est pas imprimé.</translation>
-    </message>
-    <message>
-        <source>%1 is damaged: a part of the picture is missing or wrong. Look at it, then print it as it is, or remove it and copy it again from where it came from.</source>
-        <translation>%1 est endommagée&#x202f;: une partie de l’image manque ou est fausse. Regardez-la, puis imprimez-la telle quelle, ou retirez-la et copiez-la de nouveau depuis sa source.</translation>
-    </message>
-    <message>
-        <source>These photos are damaged: %1. Look at them, then print them as they are, or remove them and copy them again from where they came from.</source>
-        <translation>Ces photos sont endommagées&#x202f;: %1. Regardez-les, puis imprimez-les telles quelles, ou retirez-les et copiez-les de nouveau depuis leur source.</translation>
-    </message>
-    <message>
-        <source>Print Anyway</source>
-        <translation>Imprimer quand même</translation>
-    </message>
-    <message>
         <source>Use the Built-in Printer</source>
         <translation>Utiliser l’imprimante intégrée</translation>
-    </message>
-    <message>
-        <source>Print without these choices? The printer&apos;s own defaults take their place.</source>
-        <translation>Imprimer sans ces choix&#x202f;? Les réglages par défaut de l’imprimante les remplacent.</translation>
-    </message>
-    <message>
-        <source>Print Without Them</source>
-        <translation>Imprimer sans eux</translation>
     </message>
     <message>
         <source>Nothing is saved.</source>
@@ -2079,6 +2019,73 @@ Exemples&#x202f;:
     <message>
         <source>The print server is being asked for this printer.</source>
         <translation>Le serveur d’impression est interrogé sur cette imprimante.</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::PrintingController</name>
+    <message>
+        <source>Printing…</source>
+        <translation>Impression…</translation>
+    </message>
+    <message>
+        <source>Nothing was printed: a photo that was removed meanwhile is damaged. Print again.</source>
+        <translation>Rien n’a été imprimé : une photo retirée entre-temps est endommagée. Relancez l’impression.</translation>
+    </message>
+    <message>
+        <source>%1 is damaged: a part of the picture is missing or wrong. Look at it, then print it as it is, or remove it and copy it again from where it came from.</source>
+        <translation>%1 est endommagée : une partie de l’image manque ou est fausse. Regardez-la, puis imprimez-la telle quelle, ou retirez-la et copiez-la de nouveau depuis sa source.</translation>
+    </message>
+    <message>
+        <source>These photos are damaged: %1. Look at them, then print them as they are, or remove them and copy them again from where they came from.</source>
+        <translation>Ces photos sont endommagées : %1. Regardez-les, puis imprimez-les telles quelles, ou retirez-les et copiez-les de nouveau depuis leur source.</translation>
+    </message>
+    <message>
+        <source>Print Anyway</source>
+        <translation>Imprimer quand même</translation>
+    </message>
+    <message>
+        <source>Print without these choices? The printer&apos;s own defaults take their place.</source>
+        <translation>Imprimer sans ces choix ? Les réglages par défaut de l’imprimante les remplacent.</translation>
+    </message>
+    <message>
+        <source>Print Without Them</source>
+        <translation>Imprimer sans eux</translation>
+    </message>
+    <message>
+        <source>Stopping…</source>
+        <translation>Arrêt…</translation>
+    </message>
+    <message>
+        <source>Stop printing? What is not printed yet is taken back.</source>
+        <translation>Arrêter l’impression ? Ce qui n’est pas encore imprimé est retiré.</translation>
+    </message>
+    <message>
+        <source>Stop Printing</source>
+        <translation>Arrêter l’impression</translation>
+    </message>
+    <message>
+        <source>Go On</source>
+        <translation>Continuer</translation>
+    </message>
+    <message>
+        <source>Close Window</source>
+        <translation>Fermer la fenêtre</translation>
+    </message>
+    <message>
+        <source>Keep Open</source>
+        <translation>Laisser ouverte</translation>
+    </message>
+    <message>
+        <source>The print server goes on printing when this window is closed.</source>
+        <translation>Le serveur d’impression continue d’imprimer quand cette fenêtre est fermée.</translation>
+    </message>
+    <message>
+        <source>Printed so far: %1 of %2 photos. The rest is not printed when this window is closed.</source>
+        <translation>Photos imprimées jusqu’ici : %1 sur %2. Le reste n’est pas imprimé si cette fenêtre est fermée.</translation>
+    </message>
+    <message>
+        <source>When this window is closed, the print server goes on printing the %1 of %2 photos that it has. The rest is not printed.</source>
+        <translation>Si cette fenêtre est fermée, le serveur d’impression continue d’imprimer les %1 photos sur %2 qu’il a reçues. Le reste n’est pas imprimé.</translation>
     </message>
 </context>
 <context>

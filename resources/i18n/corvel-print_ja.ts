@@ -1921,10 +1921,6 @@ Examples:
         <translation>印刷中です。</translation>
     </message>
     <message>
-        <source>Printing…</source>
-        <translation>印刷しています…</translation>
-    </message>
-    <message>
         <source>Close</source>
         <translation>閉じる</translation>
     </message>
@@ -1953,64 +1949,8 @@ Examples:
         <translation>中止</translation>
     </message>
     <message>
-        <source>Stopping…</source>
-        <translation>中止しています…</translation>
-    </message>
-    <message>
-        <source>Stop Printing</source>
-        <translation>印刷を中止</translation>
-    </message>
-    <message>
-        <source>Go On</source>
-        <translation>続ける</translation>
-    </message>
-    <message>
-        <source>Close Window</source>
-        <translation>ウィンドウを閉じる</translation>
-    </message>
-    <message>
-        <source>Keep Open</source>
-        <translation>開いたままにする</translation>
-    </message>
-    <message>
-        <source>The print server goes on printing when this window is closed.</source>
-        <translation>このウィンドウを閉じても、プリントサーバーは印刷を続けます。</translation>
-    </message>
-    <message>
-        <source>Stop printing? What is not printed yet is taken back.</source>
-        <translation>印刷を中止しますか？まだ印刷されていない写真は取り消されます。</translation>
-    </message>
-    <message>
-        <source>Printed so far: %1 of %2 photos. The rest is not printed when this window is closed.</source>
-        <translation>これまでに %2 枚中 %1 枚の写真を印刷しました。このウィンドウを閉じると、残りは印刷されません。</translation>
-    </message>
-    <message>
-        <source>When this window is closed, the print server goes on printing the %1 of %2 photos that it has. The rest is not printed.</source>
-        <translation>このウィンドウを閉じても、プリントサーバーは %2 枚中、受け取った %1 枚の印刷を続けます。残りは印刷されません。</translation>
-    </message>
-    <message>
-        <source>%1 is damaged: a part of the picture is missing or wrong. Look at it, then print it as it is, or remove it and copy it again from where it came from.</source>
-        <translation>%1 は破損しています。画像の一部が欠けているか、正しくありません。確認してからそのまま印刷するか、削除して元の場所からもう一度コピーしてください。</translation>
-    </message>
-    <message>
-        <source>These photos are damaged: %1. Look at them, then print them as they are, or remove them and copy them again from where they came from.</source>
-        <translation>次の写真は破損しています: %1。確認してからそのまま印刷するか、削除して元の場所からもう一度コピーしてください。</translation>
-    </message>
-    <message>
-        <source>Print Anyway</source>
-        <translation>それでも印刷</translation>
-    </message>
-    <message>
         <source>Use the Built-in Printer</source>
         <translation>内蔵プリンターを使う</translation>
-    </message>
-    <message>
-        <source>Print without these choices? The printer&apos;s own defaults take their place.</source>
-        <translation>これらの設定なしで印刷しますか？代わりにプリンターの既定値が使われます。</translation>
-    </message>
-    <message>
-        <source>Print Without Them</source>
-        <translation>設定なしで印刷</translation>
     </message>
     <message>
         <source>Nothing is saved.</source>
@@ -2075,6 +2015,73 @@ Examples:
     <message>
         <source>The print server is being asked for this printer.</source>
         <translation>このプリンターをプリントサーバーに問い合わせています。</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::PrintingController</name>
+    <message>
+        <source>Printing…</source>
+        <translation>印刷しています…</translation>
+    </message>
+    <message>
+        <source>Nothing was printed: a photo that was removed meanwhile is damaged. Print again.</source>
+        <translation>何も印刷されませんでした。その間に取り除かれた写真が破損しています。もう一度印刷してください。</translation>
+    </message>
+    <message>
+        <source>%1 is damaged: a part of the picture is missing or wrong. Look at it, then print it as it is, or remove it and copy it again from where it came from.</source>
+        <translation>%1 は破損しています。画像の一部が欠けているか、正しくありません。確認してからそのまま印刷するか、削除して元の場所からもう一度コピーしてください。</translation>
+    </message>
+    <message>
+        <source>These photos are damaged: %1. Look at them, then print them as they are, or remove them and copy them again from where they came from.</source>
+        <translation>次の写真は破損しています: %1。確認してからそのまま印刷するか、削除して元の場所からもう一度コピーしてください。</translation>
+    </message>
+    <message>
+        <source>Print Anyway</source>
+        <translation>それでも印刷</translation>
+    </message>
+    <message>
+        <source>Print without these choices? The printer&apos;s own defaults take their place.</source>
+        <translation>これらの設定なしで印刷しますか？代わりにプリンターの既定値が使われます。</translation>
+    </message>
+    <message>
+        <source>Print Without Them</source>
+        <translation>設定なしで印刷</translation>
+    </message>
+    <message>
+        <source>Stopping…</source>
+        <translation>中止しています…</translation>
+    </message>
+    <message>
+        <source>Stop printing? What is not printed yet is taken back.</source>
+        <translation>印刷を中止しますか？まだ印刷されていない写真は取り消されます。</translation>
+    </message>
+    <message>
+        <source>Stop Printing</source>
+        <translation>印刷を中止</translation>
+    </message>
+    <message>
+        <source>Go On</source>
+        <translation>続ける</translation>
+    </message>
+    <message>
+        <source>Close Window</source>
+        <translation>ウィンドウを閉じる</translation>
+    </message>
+    <message>
+        <source>Keep Open</source>
+        <translation>開いたままにする</translation>
+    </message>
+    <message>
+        <source>The print server goes on printing when this window is closed.</source>
+        <translation>このウィンドウを閉じても、プリントサーバーは印刷を続けます。</translation>
+    </message>
+    <message>
+        <source>Printed so far: %1 of %2 photos. The rest is not printed when this window is closed.</source>
+        <translation>これまでに %2 枚中 %1 枚の写真を印刷しました。このウィンドウを閉じると、残りは印刷されません。</translation>
+    </message>
+    <message>
+        <source>When this window is closed, the print server goes on printing the %1 of %2 photos that it has. The rest is not printed.</source>
+        <translation>このウィンドウを閉じても、プリントサーバーは %2 枚中、受け取った %1 枚の印刷を続けます。残りは印刷されません。</translation>
     </message>
 </context>
 <context>

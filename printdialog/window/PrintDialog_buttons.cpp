@@ -1,0 +1,107 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "ChoiceController.h"
+#include "DialogSession.h"
+#include "PrintDialog.h"
+#include "PrintingController.h"
+#include "ViewTexts.h"
+#include "ui_PrintDialog.h"
+
+#include <QtGui/QCloseEvent>
+
+namespace printdialog {
+
+void PrintDialog::updateButtons()
+{
+    QString reason = whyNotReady_;
+    if (reason.isEmpty() && ui_->photos->photos().isEmpty())
+        reason = tr("There is no photo to print.");
+    if (reason.isEmpty() && printing_->isBusy())
+        reason = tr("Printing is under way.");
+    ui_->print->setEnabled(reason.isEmpty());
+    pdekit::setPlainToolTip(ui_->print, reason); // it may name a printer, or hold a PPD's words
+    ui_->save->setEnabled(session_ != nullptr);
+    const QString end = printing_->hasPrinted() ? tr("Close") : tr("Cancel");
+    ui_->cancel->setText(printing_->isBusy() ? tr("Stop") : end);
+    ui_->cancel->setEnabled(!printing_->isStopping());
+}
+
+void PrintDialog::print()
+{
+    if (!isReady() || printing_->isBusy() || ui_->photos->photos().isEmpty() || pageStays())
+        return;
+    if (!printing_->print(ui_->copies->value(), ui_->folder->text()))
+        return;
+    ui_->printer->selection().used();
+    remember();
+}
+
+void PrintDialog::cancelOrStop()
+{
+    if (printing_->isBusy())
+        printing_->stop();
+    else
+        closeUnlessPageStays();
+}
+
+/// Whether the page that is shown has to stay, which the user is told then.
+bool PrintDialog::pageStays()
+{
+    const QString reason = ui_->panels->whyPageStays();
+    if (!reason.isEmpty())
+        ui_->message->show(MessageBar::Kind::Warning, reason);
+    return !reason.isEmpty();
+}
+
+/// No plug-in can hold the window for good.
+void PrintDialog::closeUnlessPageStays()
+{
+    const QString reason = ui_->panels->whyPageStays();
+    if (reason.isEmpty())
+        QDialog::reject();
+    else
+        ui_->message->showWithAction(MessageBar::Kind::Warning, reason, tr("Close Anyway"),
+                                     [this] { QDialog::reject(); });
+}
+
+void PrintDialog::reject()
+{
+    if (printing_->isBusy())
+        printing_->askToStop();
+    else
+        closeUnlessPageStays();
+}
+
+// The window goes only when it has said what that means, or is closed once more.
+void PrintDialog::closeEvent(QCloseEvent *event)
+{
+    if (!printing_->isBusy())
+        QDialog::closeEvent(event);
+    else if (printing_->mayClose())
+        QDialog::reject();
+    else
+        event->ignore();
+}
+
+void PrintDialog::saveSettings()
+{
+    const auto options = session_->jobOptions();
+    if (!options) {
+        choices_->explainJob();
+        return;
+    }
+    if (!options->missing.isEmpty()) {
+        ui_->message->show(MessageBar::Kind::Error,
+                           options->missing.join(u'\n') + u'\n' + tr("Nothing is saved."));
+        return;
+    }
+    const QString failure = choices_->keep(options->options);
+    if (failure.isEmpty())
+        ui_->message->show(MessageBar::Kind::Information,
+                           tr("The settings are saved for \"%1\".").arg(session_->printer().text));
+    else
+        ui_->message->show(MessageBar::Kind::Error, failure);
+}
+
+} // namespace printdialog
