@@ -31,15 +31,6 @@ void PpdDocument::RecordCloser::operator()(ppd_file_s *record) const
     ppdClose(record);
 }
 
-QString PpdDocument::modelName() const
-{
-    for (const char *name : {record_->nickname, record_->modelname}) {
-        if (QString text = plainText(QString::fromUtf8(name).trimmed(), shownTextLimit); !text.isEmpty())
-            return text;
-    }
-    return {};
-}
-
 QString PpdDocument::optionText(const QString &key) const
 {
     const auto option = options_.constFind(key);

@@ -68,8 +68,6 @@ public:
     ppd_file_s *record() const { return record_.get(); }
     /// The path or the name that the document was opened with.
     const QString &name() const { return ppd_.name(); }
-    /// The printer by its NickName or else its ModelName; plain text, may be empty.
-    QString modelName() const;
     /// What was left out while opening, a sentence each; plain text.
     const QStringList &notes() const { return notes_; }
 

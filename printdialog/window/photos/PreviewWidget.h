@@ -27,7 +27,6 @@ public:
     void setPhoto(const Photo &photo);
     void setPage(const PageGeometry &page);
     void setPlacement(const PlacementChoice &choice);
-    const PlacementChoice &placementChoice() const { return choice_; }
     /// Where the photo lies; nothing without a photo or a page.
     std::optional<PhotoPlacement> placement() const;
     /// Whether the photo's pixels are here.
