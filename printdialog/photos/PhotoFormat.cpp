@@ -51,7 +51,7 @@ constexpr std::array signatures{
     Signature{8, QByteArrayView("CR\2\0", 4), "raw"},
     Signature{0, QByteArrayView("IIU\0", 4), "raw"},
     Signature{0, QByteArrayView("IIRO", 4), "raw"},
-    Signature{0, QByteArrayView("FUJIFILMCCD-RAW", 15), "raw"},
+    Signature{8, QByteArrayView("CCD-RAW", 7), "raw"}, // after its writer's letters
     Signature{4, QByteArrayView("ftypcrx ", 8), "raw"},
     Signature{0, QByteArrayView("II*\0", 4), "tiff"},
     Signature{0, QByteArrayView("MM\0*", 4), "tiff"},

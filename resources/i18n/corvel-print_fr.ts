@@ -2029,15 +2029,15 @@ Exemples&#x202f;:
     </message>
     <message>
         <source>Nothing was printed: a photo that was removed meanwhile is damaged. Print again.</source>
-        <translation>Rien n’a été imprimé : une photo retirée entre-temps est endommagée. Relancez l’impression.</translation>
+        <translation>Rien n’a été imprimé&#x202f;: une photo retirée entre-temps est endommagée. Relancez l’impression.</translation>
     </message>
     <message>
         <source>%1 is damaged: a part of the picture is missing or wrong. Look at it, then print it as it is, or remove it and copy it again from where it came from.</source>
-        <translation>%1 est endommagée : une partie de l’image manque ou est fausse. Regardez-la, puis imprimez-la telle quelle, ou retirez-la et copiez-la de nouveau depuis sa source.</translation>
+        <translation>%1 est endommagée&#x202f;: une partie de l’image manque ou est fausse. Regardez-la, puis imprimez-la telle quelle, ou retirez-la et copiez-la de nouveau depuis sa source.</translation>
     </message>
     <message>
         <source>These photos are damaged: %1. Look at them, then print them as they are, or remove them and copy them again from where they came from.</source>
-        <translation>Ces photos sont endommagées : %1. Regardez-les, puis imprimez-les telles quelles, ou retirez-les et copiez-les de nouveau depuis leur source.</translation>
+        <translation>Ces photos sont endommagées&#x202f;: %1. Regardez-les, puis imprimez-les telles quelles, ou retirez-les et copiez-les de nouveau depuis leur source.</translation>
     </message>
     <message>
         <source>Print Anyway</source>
@@ -2045,7 +2045,7 @@ Exemples&#x202f;:
     </message>
     <message>
         <source>Print without these choices? The printer&apos;s own defaults take their place.</source>
-        <translation>Imprimer sans ces choix ? Les réglages par défaut de l’imprimante les remplacent.</translation>
+        <translation>Imprimer sans ces choix&#x202f;? Les réglages par défaut de l’imprimante les remplacent.</translation>
     </message>
     <message>
         <source>Print Without Them</source>
@@ -2057,7 +2057,7 @@ Exemples&#x202f;:
     </message>
     <message>
         <source>Stop printing? What is not printed yet is taken back.</source>
-        <translation>Arrêter l’impression ? Ce qui n’est pas encore imprimé est retiré.</translation>
+        <translation>Arrêter l’impression&#x202f;? Ce qui n’est pas encore imprimé est retiré.</translation>
     </message>
     <message>
         <source>Stop Printing</source>
@@ -2081,7 +2081,7 @@ Exemples&#x202f;:
     </message>
     <message>
         <source>Printed so far: %1 of %2 photos. The rest is not printed when this window is closed.</source>
-        <translation>Photos imprimées jusqu’ici : %1 sur %2. Le reste n’est pas imprimé si cette fenêtre est fermée.</translation>
+        <translation>Photos imprimées jusqu’ici&#xa0;: %1 sur %2. Le reste n’est pas imprimé si cette fenêtre est fermée.</translation>
     </message>
     <message>
         <source>When this window is closed, the print server goes on printing the %1 of %2 photos that it has. The rest is not printed.</source>

@@ -225,7 +225,8 @@ void PhotoTest::wholeJpegs_data()
     const QByteArray progressive = samples::encoded(picture, "jpeg", true);
     QByteArray arithmetic = jpeg;
     arithmetic[jpeg.indexOf("\xff\xc0") + 1] = '\xc9';
-    QByteArray rgb = jpeg.first(2) + jpeg.sliced(20); // without the JFIF segment, which tells the colours
+    QByteArray rgb =
+        jpeg.first(2) + jpeg.sliced(20); // without the JFIF segment, which says what the colours are
     const qsizetype frame = rgb.indexOf("\xff\xc0");
     rgb[frame + 10] = 'R';
     rgb[frame + 13] = 'G';
@@ -372,6 +373,7 @@ void PhotoTest::unreadableFormats_data()
     const QByteArray boxes = QByteArray("\0\0\0\x18", 4) + "ftypcrx ";
     const QByteArray webp("RIFF\0\0\0\0WEBP", 12);
     QTest::newRow("raw by its letters") << raw << u"camera raw"_s;
+    QTest::newRow("raw by its kind") << QByteArray("WRITER00CCD-RAW 0201") << u"camera raw"_s;
     QTest::newRow("raw in boxes") << boxes << u"camera raw"_s;
     QTest::newRow("JPEG XL") << QByteArray("\xff\x0a") << u"JPEG XL"_s;
     QTest::newRow("PDF") << QByteArray("%PDF-1.7") << u"PDF"_s;
