@@ -14,7 +14,7 @@ int runOpeningChild(const QString &which, const QString &queue);
 
 /// What print servers add to the painted window: one that never answers, one with 500 queues.
 void benchQueues();
-/// What such a process does: opens the window and tells when it was painted and had listed the queues.
+/// What such a process does: opens the window and reports when it was painted and had listed the queues.
 int runQueueChild(int queues);
 
 /// Printing to a queue without a window, beside lp.

@@ -25,7 +25,7 @@
 
 namespace {
 
-/// Tells the time of the first paint of the widget that is waited for, and ends the process.
+/// Reports the time of the first paint of the widget that is waited for, and ends the process.
 class PaintWatch : public QObject
 {
 public:
@@ -120,8 +120,8 @@ bool copyWithOneForm(const QString &folder)
     return true;
 }
 
-/// Milliseconds from before the process is made to its first paint; 0 when it failed. The program tells the
-/// time of the paint.
+/// Milliseconds from before the process is made to its first paint; 0 when it failed. The program
+/// reports the time of the paint.
 double opening(const QStringList &command, const QProcessEnvironment &environment)
 {
     QProcess child;
@@ -169,7 +169,7 @@ void printComparison(const QString &what, double ours, const QString &peerName, 
 }
 
 #ifdef CORVEL_BENCH_HAS_CUPSD
-/// An X server of its own, for the peer that has no offscreen platform.
+/// A private X server, for the peer that has no offscreen platform.
 class VirtualDisplay
 {
 public:

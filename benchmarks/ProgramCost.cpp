@@ -46,7 +46,7 @@ double peakMemory(pid_t id)
     return rest.left(rest.indexOf("kB")).trimmed().toDouble() / 1024;
 }
 
-/// Read when the program is about to end: what the system tells afterwards counts in the memory of the
+/// Read when the program is about to end: what the system reports afterwards counts in the memory of the
 /// program that has started it.
 std::optional<double> runForPeakMemory(const QStringList &command)
 {

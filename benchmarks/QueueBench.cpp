@@ -58,7 +58,7 @@ struct Opening
     double held = 0.0;    ///< The longest that the painted window could not have answered a key.
 };
 
-/// Waits for the first paint, then for the queues or for half a second, and tells of both.
+/// Waits for the first paint, then for the queues or for half a second, and reports both.
 class OpeningWatch : public QObject
 {
 public:

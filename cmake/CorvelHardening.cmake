@@ -1,7 +1,7 @@
 # SPDX-FileCopyrightText: Corvel print dialog authors
 # SPDX-License-Identifier: Apache-2.0
 
-# What every target is hardened with, since the program reads files and answers that strangers made.
+# What every target is hardened with, since the program reads untrusted files and answers.
 include(CheckPIESupported)
 check_pie_supported(LANGUAGES CXX) # CMAKE_POSITION_INDEPENDENT_CODE then makes programs PIE when they are linked, too
 target_compile_options(corvel_settings INTERFACE -fstack-protector-strong)

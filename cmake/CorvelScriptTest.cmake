@@ -1,7 +1,7 @@
 # SPDX-FileCopyrightText: Corvel print dialog authors
 # SPDX-License-Identifier: Apache-2.0
 
-# corvel_script_test(NAME ARGUMENT...): NAME.py of the folder, in the same surroundings as the other tests.
+# corvel_script_test(NAME ARGUMENT...): runs the folder's NAME.py in the same environment as the other tests.
 function(corvel_script_test name)
     add_test(NAME ${name} COMMAND Python3::Interpreter ${CMAKE_CURRENT_SOURCE_DIR}/${name}.py ${ARGN})
     set(home ${CMAKE_BINARY_DIR}/tests/home/${name})

@@ -29,7 +29,7 @@ if(CORVEL_FUZZERS)
 endif()
 include(CorvelHardening)
 
-# For the builds that developers wait for, a linker that takes a third of the time; what is installed gets the system's own.
+# Developers' builds use a linker that takes a third of the time; what is installed is linked by the system's own.
 if(CMAKE_BUILD_TYPE STREQUAL "Debug" AND CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
     find_program(CORVEL_FAST_LINKER NAMES ld.mold ld.gold)
     if(CORVEL_FAST_LINKER)
@@ -39,7 +39,7 @@ if(CMAKE_BUILD_TYPE STREQUAL "Debug" AND CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
     endif()
 endif()
 
-# The precompiled headers are built once each and shared: one for every target made half of the building time. A target
+# The precompiled headers are built once each and shared: one for each target took half of the building time. A target
 # takes part only if it is compiled alike, so the targets of a header link the Qt libraries that the header does.
 function(corvel_precompiled name libraries)
     file(CONFIGURE OUTPUT ${CMAKE_BINARY_DIR}/precompiled/${name}.cpp CONTENT "")

@@ -1,7 +1,8 @@
 # SPDX-FileCopyrightText: Corvel print dialog authors
 # SPDX-License-Identifier: Apache-2.0
 #
-# What ./run, ./test, ./bench and ./fuzz share: the Debian packages, and how to get and build what is missing. Sourced, not run.
+# What ./run, ./test, ./bench and ./fuzz share: the Debian packages, and functions that install what is missing and
+# build. Sourced, not run.
 
 corvel_build_packages=(
     cmake ninja-build g++ pkg-config python3
@@ -18,7 +19,7 @@ corvel_test_packages=(
 corvel_bench_packages=(img2pdf imagemagick libgtk-3-dev xvfb)
 corvel_fuzz_packages=(clang libclang-rt-dev llvm qt6-image-formats-plugins)
 
-# corvel_install PACKAGE...: installs those that are not there; costs a few milliseconds when all are.
+# corvel_install PACKAGE...: installs those that are missing; takes a few milliseconds when none is.
 corvel_install() {
     local missing=() package
     local -A installed=()
@@ -45,8 +46,8 @@ corvel_install() {
     fi
 }
 
-# corvel_apt COMMAND...: runs it, in English, without a word, but waits while another package manager holds one of apt's locks (for
-# CORVEL_APT_PATIENCE seconds, 600 when it is not set), and shows the last lines of a failure.
+# corvel_apt COMMAND...: runs it in English and silently. Waits while another package manager holds one of apt's locks,
+# for CORVEL_APT_PATIENCE seconds at most (600 when it is not set). Shows the last lines of a failure.
 corvel_apt() {
     local output waited=0
     until output=$("$@" 2>&1 </dev/null); do

@@ -1,8 +1,8 @@
 # SPDX-FileCopyrightText: Corvel print dialog authors
 # SPDX-License-Identifier: Apache-2.0
 
-# cmake -DMANIFEST=FILE -P uninstall.cmake: removes the files that the last installation wrote down, and those of the
-# folders made for them that hold nothing else. DESTDIR has to be what it was then.
+# cmake -DMANIFEST=FILE -P uninstall.cmake: removes the files that the last installation has listed, and the folders
+# made for them where those are empty then. DESTDIR must be the same as in that installation.
 if(NOT EXISTS ${MANIFEST})
     message(FATAL_ERROR "There is nothing to uninstall: ${MANIFEST} is missing. It is written by cmake --install.")
 endif()
@@ -14,7 +14,7 @@ foreach(file IN LISTS files)
         message(STATUS "Removing ${path}")
         file(REMOVE ${path})
     endif()
-    # Only what carries our name was made for us alone.
+    # Only folders with our name were made for us alone.
     cmake_path(GET file PARENT_PATH folder)
     while(folder MATCHES "/(corvel-print|pdekit)(/|$)")
         list(APPEND folders ${folder})

@@ -12,7 +12,7 @@
 /// The fuzzer's entry: one input, in bytes. Always 0.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size);
 
-/// What the fuzzers share. Each process has an application without a display, a home folder of its own, no
+/// What the fuzzers share. Each process has an application without a display, its own home folder, no
 /// print server, and a dialog that neither beeps nor asks; libFuzzer's own main() sets it up.
 namespace fuzzing {
 

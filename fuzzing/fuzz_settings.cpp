@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Corvel print dialog authors
 // SPDX-License-Identifier: Apache-2.0
 
-// The files that the program keeps, and the user's lpoptions. The first byte tells which.
+// The files that the program keeps, and the user's lpoptions. The first byte says which.
 
 #include "DialogSession.h"
 #include "Fuzzing.h"

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 
 // Texts typed into the panels' fields, in both modes: the panel must do what a plain statement of its rules
-// does. The first byte tells the panel and the mode; each line after it is a field and a text.
+// does. The first byte selects the panel and the mode; each line after it is a field and a text.
 
 #include "Fuzzing.h"
 #include "model/PanelDriver.h"

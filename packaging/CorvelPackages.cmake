@@ -22,7 +22,7 @@ endforeach()
 install(FILES completions/_corvel-print DESTINATION ${CMAKE_INSTALL_DATADIR}/zsh/vendor-completions
     COMPONENT program_debian EXCLUDE_FROM_ALL)
 
-# Who answers for the package: as Debian's tools have it.
+# The packages' maintainer, by default from the environment variables that Debian's tools read.
 set(CORVEL_PACKAGE_CONTACT "" CACHE STRING "Maintainer of the packages: Name <address>")
 set(CPACK_PACKAGE_CONTACT "${CORVEL_PACKAGE_CONTACT}")
 if(NOT CPACK_PACKAGE_CONTACT AND DEFINED ENV{DEBFULLNAME} AND DEFINED ENV{DEBEMAIL})
@@ -33,7 +33,7 @@ endif()
 
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_NAME corvel-print)
-set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "") # each package has a description of its own, whose first line this would be
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "") # would be the first line of each package's own description
 set(CPACK_PACKAGE_VENDOR "Corvel print dialog authors")
 set(CPACK_PACKAGE_DIRECTORY ${CMAKE_BINARY_DIR}/packages)
 set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
@@ -47,8 +47,8 @@ set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
 
-# dpkg-shlibdeps cannot know of a library that is packaged in the same go: it is shown where that lies, and the package
-# is named here.
+# dpkg-shlibdeps does not know a library that is packaged in the same run. It is given the library's folder, and the
+# package is named here.
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS ${CMAKE_LIBRARY_OUTPUT_DIRECTORY})
 set(CPACK_DEBIAN_PROGRAM_PACKAGE_DEPENDS "${library} (= ${PROJECT_VERSION})")
 set(CPACK_DEBIAN_PROGRAM_PACKAGE_RECOMMENDS "libheif1, qt6-image-formats-plugins, qt6-translations-l10n, qt6-wayland")

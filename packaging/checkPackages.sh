@@ -85,7 +85,7 @@ inside ldconfig -p | grep libpdekit >/dev/null || fail "the dynamic linker does 
 inside setpriv --reuid=nobody --clear-groups \
     corvel-print --batch --ppd /usr/share/ppd/corvel-print/Corvel9031.ppd -o Red=7 --output /tmp/check /tmp/check/sample.jpg
 grep -q '"Red": "7"' "$root/tmp/check/sample.ticket.json" || fail "the option did not reach the ticket."
-[ "$(head -c 5 "$root/tmp/check/sample.pdf")" = %PDF- ] || fail "sample.pdf is no PDF file."
+[ "$(head -c 5 "$root/tmp/check/sample.pdf")" = %PDF- ] || fail "sample.pdf is not a PDF file."
 inside corvel-print --printer built-in --list-options | grep 'Color Adjustments' >/dev/null || fail "the plug-in was not found."
 step "prints"
 inside apt-get purge -y -qq -o Dpkg::Use-Pty=0 corvel-print 'libpdekit*' >/dev/null

@@ -1,7 +1,7 @@
 # SPDX-FileCopyrightText: Corvel print dialog authors
 # SPDX-License-Identifier: Apache-2.0
 #
-# bash completion for corvel-print. What there is to choose, the program itself is asked.
+# bash completion for corvel-print. It asks the program itself what there is to choose.
 
 # The choices for the option $1 of the printer, out of the JSON list on standard input. An option's own keyword comes
 # after its choices, and stands less far to the right.

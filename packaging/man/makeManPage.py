@@ -29,7 +29,7 @@ def roff(text):
 
 
 def rows(lines):
-    """(term, text) of a table of two columns; a line that is indented further goes on with the row before it."""
+    """(term, text) of a table of two columns; a line that is indented further continues the row before it."""
     table = []
     for line in filter(None, lines.splitlines()):
         if line.startswith("   "):

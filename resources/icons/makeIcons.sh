@@ -2,7 +2,7 @@
 # SPDX-FileCopyrightText: Corvel print dialog authors
 # SPDX-License-Identifier: Apache-2.0
 #
-# Draws the icon theme's bitmaps anew from corvel-print.svg. Needs rsvg-convert (Debian: librsvg2-bin).
+# Draws the icon theme's bitmaps again from corvel-print.svg. Needs rsvg-convert (Debian: librsvg2-bin).
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")"
 for size in 16 22 24 32 48 64 128 256; do

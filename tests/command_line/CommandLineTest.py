@@ -119,7 +119,7 @@ class CommandLineTest(ProgramTest):
         self.assert_refused(done._replace(out=""), 1, "second.pdf", "sample.jpg")
         self.assertEqual(self.names(), ["sample.pdf", "sample.ticket.json", "second.pdf"])
 
-    # Each with a line of its own; with --no-check they are printed as they are.
+    # Each with a separate line; with --no-check they are printed as they are.
     def test_leaves_damaged_photos_out(self):
         middle = len(JPEG) // 2
         photos = (self.stored("damaged.jpg", JPEG[:middle] + bytes(4096) + JPEG[middle + 4096:]),
@@ -197,7 +197,7 @@ class CommandLineTest(ProgramTest):
             self.assertIn("Print", listed)
             self.assertNotIn("\x9b", listed)
 
-    # Also when whoever starts the program has the ends of child processes ignored.
+    # Also when the program's parent ignores SIGCHLD.
     def test_hears_of_its_helpers_end(self):
         self.assertEqual(shell('env --ignore-signal=CHLD "$@"', "--ppd", PPD, "--list-options").status, 0)
 

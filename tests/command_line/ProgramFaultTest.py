@@ -1,7 +1,7 @@
 # SPDX-FileCopyrightText: Corvel print dialog authors
 # SPDX-License-Identifier: Apache-2.0
-"""corvel-print when it gets no descriptors, and when it is killed. What it leaves is what was there before, or the whole of
-what was to be there."""
+"""corvel-print when it gets no descriptors, and when it is killed. It leaves either what was there before or
+the complete result."""
 
 import pathlib
 import random

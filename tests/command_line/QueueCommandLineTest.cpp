@@ -319,7 +319,7 @@ void QueueCommandLineTest::printsAPresetAsLpDoes()
     const ProgramRun run =
         runProgram({u"--printer"_s, u"photo/warm"_s, u"--batch"_s, u"-o"_s, u"Blue=3"_s, samplePhoto});
     QCOMPARE(run.status, 0);
-    // What the printer does not have is told, and never sent.
+    // What the printer does not have is reported, and never sent.
     QVERIFY2(run.err.count('\n') == 1 && run.err.contains("\"warm\"") && run.err.contains("Gone"),
              run.err.constData());
     const RecordedJob job = cupsd_.job(jobIn(run));

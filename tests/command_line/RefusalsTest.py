@@ -185,7 +185,7 @@ class RefusalsTest(ProgramTest):
                      "\u201e:987\u201c", "--batch")
         self.refuses(run(PHOTO, QT_QPA_PLATFORM="nonesuch"), 1, "cannot start", '"nonesuch"')
         self.refuses(run("--ppd", "/nonexistent.ppd", QT_QPA_PLATFORM="offscreen"), 1, "/nonexistent.ppd")
-        # A window that nobody can see waits for ever.
+        # A window that nobody can see would wait forever.
         unseen = shell(f"cd '{self.folder}' && mkfifo err && "
                        '{ QT_QPA_PLATFORM=offscreen "$@" 2>err & head -n 1 err; kill $!; }', PHOTO).out
         self.assertIn("QT_QPA_PLATFORM", unseen)

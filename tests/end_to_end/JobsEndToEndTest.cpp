@@ -180,7 +180,7 @@ void JobsEndToEndTest::cancelledJobs()
     QVERIFY(again && !*again);
 }
 
-// As a backend tells them to its server.
+// As a backend reports them to its server.
 void JobsEndToEndTest::suppliesAndReasons()
 {
     const auto odd = [] {

@@ -37,7 +37,7 @@ public:
     /// the way.
     QString start(Reach reach = Reach::Socket);
     void stop();
-    /// Has the scheduler answer nothing any more, its connections open, and go on again.
+    /// Stops the scheduler's process, with its connections open, and lets it run again.
     void freeze();
     void thaw();
     /// Ends the scheduler, and starts it again, with its queues and jobs.

@@ -245,7 +245,7 @@ void QueuesEndToEndTest::fetchesAhead()
         QVERIFY(!waits || arrived == before); // was not fetched again
     }
     QCOMPARE(fetched.size(), 2);
-    // Asked for once more, it is fetched anew; and a failure that nobody asked for is none.
+    // Asked for once more, it is fetched again; a failure that nobody asked for is not reported.
     fetcher.fetch(u"photo"_s);
     QTRY_COMPARE(fetched.size(), 3);
     QCOMPARE(arrived, 3);

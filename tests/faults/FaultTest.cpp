@@ -342,7 +342,7 @@ void FaultTest::dialogsLeaveNothing()
 
 int main(int argc, char *argv[])
 {
-    // So that what is no longer in use goes back to the system, and what stays resident can be told.
+    // So that unused memory goes back to the system, and the resident size shows what is still held.
     mallopt(M_ARENA_MAX, 1);
     mallopt(M_MMAP_THRESHOLD, 128 * 1024);
     const QApplication application(argc, argv);

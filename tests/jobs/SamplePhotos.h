@@ -9,7 +9,7 @@
 
 #include <array>
 
-/// Photos for tests, whose corners tell how they were turned and mirrored.
+/// Photos for tests, whose corners show how they were turned and mirrored.
 namespace samples {
 
 /// The corners top left, top right, bottom left, bottom right of the picture as stored: red, green, blue,
@@ -51,8 +51,8 @@ QByteArray withExif(const QByteArray &jpeg, const QByteArray &tiff);
 /// A TIFF block that holds only a resolution, in pixels per inch.
 QByteArray tiffWithResolution(int perInch);
 
-/// The ICC profile of a device whose red is sRGB's green, and the other way round: what is shown by it tells
-/// whether it was applied, and applied twice it does nothing.
+/// The ICC profile of a device whose red is sRGB's green, and the other way round: what is shown by it
+/// reveals whether it was applied, and applied twice it does nothing.
 QByteArray swappedProfile();
 QByteArray withProfile(const QByteArray &jpeg, const QByteArray &icc);
 

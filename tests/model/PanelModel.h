@@ -32,7 +32,7 @@ public:
     /// `localized` is the bundle's strings table.
     PanelModel(PanelTable table, bool constraintMode, std::function<QString(const QString &)> localized);
 
-    /// What the user hears, and what the print system is asked, is told for the last step only.
+    /// What the user hears, and what the print system is asked, is reported for the last step only.
     void take(const Step &step);
     Sight sight() const;
 
@@ -105,7 +105,7 @@ private:
     QStringList log_;
 };
 
-/// The names under which both sides tell what they see.
+/// The names under which both sides report what they see.
 void addControl(Sight &sight, const FormControl &form, const ControlSight &control);
 template <class Map>
 void addEntries(Sight &sight, const QString &name, const Map &entries)

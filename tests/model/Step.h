@@ -22,7 +22,7 @@ struct Step
         ClickCell,   ///< the cell `detail` of the radio group `tag`
         ClickButton, ///< the button `tag`
         PickItem,    ///< a key on the pop-up `tag`; `detail` is the Qt::Key
-        TellChange,  ///< the dialog tells that `key` has the choice `choice` now; an empty one is missing
+        TellChange,  ///< the dialog reports that `key` has the choice `choice` now; an empty one is missing
         MarkChoice,  ///< the dialog marks `choice` for `key` in its PPD
         Refuse,      ///< the dialog refuses `key` from now on, or allows it again
         SetTicket,   ///< the dialog's print settings get `choice` for `key`; an empty one is taken out

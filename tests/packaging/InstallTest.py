@@ -29,7 +29,7 @@ def files():
 
 
 class InstallTest(CommandTest):  # in the order of the names
-    # The list of what was installed is taken away at once: the user's own, of an installation from this build, stays.
+    # The list of what was installed is removed at once: the user's own, of an installation from this build, stays.
     @classmethod
     def setUpClass(cls):
         written = pathlib.Path(BUILD, "install_manifest.txt")

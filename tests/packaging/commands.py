@@ -10,7 +10,7 @@ SOURCE = os.path.dirname(os.path.dirname(os.path.dirname(os.path.abspath(__file_
 
 
 def run(*command, **environment):
-    """The status of a command and what it wrote to both streams. A variable that is None is taken away."""
+    """The status of a command and what it wrote to both streams. A variable that is None is removed."""
     variables = {name: value for name, value in (os.environ | environment).items() if value is not None}
     done = subprocess.run(command, env=variables, stdout=subprocess.PIPE, stderr=subprocess.STDOUT, timeout=240)
     return done.returncode, done.stdout.decode(errors="replace")

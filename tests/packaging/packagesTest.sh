@@ -38,7 +38,7 @@ expect() {
     done
 }
 
-output=$(corvel_install no-such-package 2>&1) && { echo "a missing package is no failure"; exit 1; }
+output=$(corvel_install no-such-package 2>&1) && { echo "a missing package is not a failure"; exit 1; }
 expect "the reason" "$output" "Installing: no-such-package" "Unable to locate package no-such-package" "$missing"
 
 mkfifo "$folder/end"

@@ -8,8 +8,8 @@
 
 #include <QtWidgets/QWidget>
 
-/// A panel whose view a test builds control by control, or loads from a form of its own. Its option keys are
-/// "Key1" to "Key15" at the tags 1 to 15, with their partners, and "Enabler" at 32; radio cells stand for
+/// A panel whose view a test builds control by control, or loads from the test's own form. Its option keys
+/// are "Key1" to "Key15" at the tags 1 to 15, with their partners, and "Enabler" at 32; radio cells stand for
 /// "Standard" (10) and "Fine" (11).
 class BuiltPanel : public RKTPPRBasePDEcorvel
 {

@@ -195,7 +195,7 @@ void LaminationTest::qualIsClamped()
     LVCorvelLaminationPDE panel;
     QStringList notices;
     record(panel, notices);
-    QList<int> seen; // by who is told
+    QList<int> seen; // the value at each notice
     connect(&panel, &pdekit::KeyValueObject::valueWillChange, this, [&] { seen << panel.qual(); });
     connect(&panel, &pdekit::KeyValueObject::valueDidChange, this, [&] { seen << panel.qual(); });
     QCOMPARE(panel.qual(), 0);

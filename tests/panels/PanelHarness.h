@@ -116,7 +116,7 @@ public:
     ppd_file_s *ppd = nullptr;
 };
 
-/// A dialog that owns the PPD: it marks what it allows, and refuses the options that it is told to refuse.
+/// A dialog that owns the PPD: it marks what it allows, and refuses the options that the test names.
 class ConstraintCallback : public SettingsCallback, public pdekit::ConstraintHandling
 {
     Q_OBJECT

@@ -104,7 +104,7 @@ void PanelProtocolTest::fixedTables()
              text("org.corvel.printing.Corvel9031.coloradjust,org.corvel.printing.Corvel9031.sharpness,"
                   "org.corvel.printing.Corvel9031.matte"));
 
-    // A panel without tables of its own has none; one with keys by tag has them up to the first gap.
+    // A panel without its own tables has none; one with keys by tag has them up to the first gap.
     RKTPPRBasePDEcorvel base;
     QVERIFY(!base.nibName() && !base.panelName() && !base.panelKind() && !base.ppdChoiceForTag(2));
     QVERIFY(base.supportedPPDOptionKeys().isEmpty());
@@ -183,7 +183,7 @@ void PanelProtocolTest::endOfAPanel()
         panel->panelView()->setParent(&parent);
     }
     QVERIFY(!panel->PDEView_);
-    QVERIFY(panel->panelView()); // made anew
+    QVERIFY(panel->panelView()); // made again
 }
 
 void PanelProtocolTest::halfOfAChoice()

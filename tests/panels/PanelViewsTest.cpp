@@ -44,7 +44,7 @@ void PanelViewsTest::updateUIWalksTwoRuns()
     auto panel = dialog.make<BuiltPanel>();
     panel->updateUI(); // no view yet
     auto *first = panel->add<QLineEdit>(1);
-    panel->add<QWidget>(2); // a view that is no control is a gap, too
+    panel->add<QWidget>(2); // a view that is not a control is a gap, too
     auto *third = panel->add<QLineEdit>(3);
     auto *box = panel->add<QCheckBox>(32);
     // No run of tags, however full, keeps the walk from ending.
@@ -66,9 +66,9 @@ void PanelViewsTest::toggleReaches_data()
 {
     // How many options there are; what the check box' state is said to be; the tags that are disabled then.
     addRows<int, std::optional<int>, Tags>({
-        {"gap at 4 goes on to the partners", 3, {}, {1, 2, 3, 81, 82}},
+        {"gap at 4 continues with the partners", 3, {}, {1, 2, 3, 81, 82}},
         {"no options", 0, {}, {81, 82}},
-        {"gap at 14 goes on", 13, {}, {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 81, 82}},
+        {"gap at 14 continues", 13, {}, {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 81, 82}},
         {"gap at 15 ends the walk", 14, {}, {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14}},
         {"gap at 16 ends the walk", 15, {}, {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15}},
         {"mixed enables", 3, -1, {}},

@@ -153,7 +153,7 @@ void KitTest::boundValueFollowsTheControl()
     made.act();
     QCOMPARE(actions, 2);
     QCOMPARE(owner.told, QStringList(text("first=") + made.after));
-    // A program's changes are followed both ways, and are no action.
+    // A program's changes are followed both ways, and are not actions.
     owner.showValueInBoundControl(control, made.before);
     QCOMPARE(owner.first(), made.before);
     owner.setFirst(made.after);

@@ -243,7 +243,7 @@ void KitTest::rangeOfANumber()
     field->setEnabled(true);
     QVERIFY(range->isEnabled());
 
-    // Whoever listens puts "0.1" back, except that it lets "2" and what begins with it stand.
+    // The listener puts "0.1" back, except that it lets "2" and what begins with it stand.
     connect(pdekit::TextFieldEvents::attach(field), &pdekit::TextFieldEvents::textDidChange, field, [field] {
         if (!field->text().startsWith(u'2'))
             pdekit::setStringValue(field, text("0.1"));
@@ -343,7 +343,7 @@ void KitTest::viewsByTag()
     QCOMPARE(pdekit::tag(&view), pdekit::noTag);
     view.setProperty("tag", QStringLiteral("8"));
     QCOMPARE(pdekit::tag(&view), 8);
-    // A new view at the place of an old one has none of its own.
+    // A new view at the address of an old one does not have the old one's tag.
     alignas(QWidget) std::array<std::byte, sizeof(QWidget)> place;
     for (const int expected : {9, pdekit::noTag}) {
         auto *here = new (place.data()) QWidget;

@@ -143,7 +143,7 @@ private Q_SLOTS:
 
     void aConflictElsewhereDoesNotCount()
     {
-        // The defaults are in conflict; another choice is refused only for a conflict of its own.
+        // The defaults are in conflict; another choice is refused only for its own conflict.
         PpdDocument document = opened(minimal() + option("A", {"1", "2"}) + option("B", {"1", "2"}) +
                                       option("C", {"1", "2", "3"}) +
                                       "*UIConstraints: *A 1 *B 1\n*UIConstraints: *B 1 *A 1\n"

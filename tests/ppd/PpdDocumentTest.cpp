@@ -266,7 +266,7 @@ private Q_SLOTS:
         row("lacks a library", "exit 127", good, PpdFault::NotTried, u"status 127"_s);
         row("no sandbox", "exit 2", good, PpdFault::NotTried, u"no sandbox"_s);
         row("not installed", "-", good, PpdFault::NotTried, u"Install corvel-print again"_s);
-        // It gets the PPD and nothing else that is open here. The shell has some descriptors of its own.
+        // It gets the PPD and nothing else that is open here. The shell itself opens some descriptors.
         row("descriptors",
             "read line && [ \"$line\" = '*PPD-Adobe: \"4.3\"' ] && [ $(ls /proc/$$/fd | wc -l) -le 8 ]", good,
             std::nullopt, {});
@@ -302,7 +302,7 @@ private Q_SLOTS:
         QVERIFY2(text.contains(reason) && text.contains(u"queue"_s), qPrintable(text));
     }
 
-    // Whoever started the program may have it ignore the ends of its children.
+    // The program's parent may have left SIGCHLD ignored.
     void triesNothingUnheard()
     {
         const auto before = std::signal(SIGCHLD, SIG_IGN);

@@ -13,8 +13,8 @@
 
 namespace testing_support {
 
-/// A print server that misbehaves in one way, on a socket of its own and a thread of its own. CUPS_SERVER
-/// points to it while it lives.
+/// A print server that misbehaves in one way, on its own socket and thread. CUPS_SERVER points to it
+/// while it lives.
 class StubServer
 {
 public:
@@ -28,12 +28,12 @@ public:
 
         // What is "endless" ends after half a GiB.
         Nesting,          ///< 8,000 collections, one inside the other, in 88 kB.
-        EndlessValues,    ///< Attributes without end, each with a name of its own.
+        EndlessValues,    ///< Attributes without end, each with another name.
         EmptyAttributes,  ///< 16 MiB of attributes without values.
         Separators,       ///< 16 MiB of bytes that each begin a group of attributes.
         EndlessHeaders,   ///< Header fields that libcups joins, without end.
-        EndlessContinues, ///< Says without end that it goes on.
-        EndlessChunks,    ///< A whole answer, and then chunks without end.
+        EndlessContinues, ///< Sends "100 Continue" without end.
+        EndlessChunks,    ///< A complete answer, and then chunks without end.
 
         ManyReasons,  ///< A printer in 40,000 sorts of trouble.
         ManyQueues,   ///< 10,000 of them, "0%20" to "9999%20".

@@ -58,7 +58,7 @@ def options_of(ppd):
 
 
 def rows(*columns):
-    """Runs a test with each combination of a value of each column, in a subtest of its own."""
+    """Runs a test with each combination of a value of each column, each in a subtest."""
     def with_rows(test):
         def run(self):
             for row in itertools.product(*columns):
@@ -95,7 +95,7 @@ class TranslationsTest(unittest.TestCase):
             lupdate = subprocess.run(
                 [os.environ["CORVEL_LUPDATE"], *plural, "-silent", "-no-obsolete", "-locations", "none",
                  "printdialog", "app", "pdekit", "-ts", copy], cwd=SOURCE, stderr=subprocess.PIPE, check=True)
-            # It complains of a text whose context it cannot tell: the program would not find the translation.
+            # It complains about a text whose context it cannot determine: the program would not find the translation.
             self.assertEqual(lupdate.stderr, b"")
             self.assertEqual(keys_of(read_ts(copy)), keys_of(read_ts(program_file(language))))
 

@@ -57,7 +57,7 @@ inline bool hasChildren()
     return waitid(P_ALL, 0, &info, WEXITED | WNOHANG | WNOWAIT) == 0;
 }
 
-/// A panel in a bundle of its own, whose backend behaves as told.
+/// A panel in its own bundle, whose backend behaves as the test has it.
 class BackendRun
 {
 public:

@@ -249,8 +249,8 @@ void RunnerTest::backendIsLookedFor()
     if (isFound)
         run.install(path);
     else
-        QDir().mkpath(run.inBundle()); // a folder is no program
-    // What the dialog's process does with its signals is no business of the backend's.
+        QDir().mkpath(run.inBundle()); // a folder is not a program
+    // The backend does not inherit how the dialog's process handles signals.
     sigset_t mask;
     sigset_t blocked;
     sigemptyset(&blocked);
@@ -314,7 +314,8 @@ void RunnerTest::readsPieces()
     QCOMPARE(run.dialog.log, lines);
 }
 
-// Its streams have ended, and so has the run; it goes on beside the next one, and is reaped at its end.
+// Its streams have ended, and so has the run. The backend keeps running beside the next one, and is reaped at
+// its end.
 void RunnerTest::leavesTheLastBackendToItself()
 {
     BackendRun run("lives on");

@@ -104,7 +104,7 @@ void RunnerTest::waitsNest()
 void RunnerTest::waitsEndWithTheirRun_data()
 {
     // In milliseconds: how often a caller asks whether the run is over; for how long the main thread is busy
-    // before it is told.
+    // before the event reaches it.
     addRows<int, int>({{"asked at every turn", 0, 0},
                        {"asked often", 5, 0},
                        {"asked now and then", 50, 0},

@@ -107,7 +107,7 @@ private:
 
     QString missing_;
     mutable QString alertPath_;
-    QStringList told_; ///< the objects that a screen reader was told to be shown
+    QStringList told_; ///< the objects that were announced to a screen reader as shown
     QDBusConnection bus_ = QDBusConnection(u"none"_s);
 };
 
@@ -192,7 +192,7 @@ void AccessibilityTest::messagesAreAlerts()
     const OpenedDialog opened(setup);
     QTRY_COMPARE(alerts(), QStringList{opened.message()});
     QVERIFY(opened.message().contains(u"Nope"_s));
-    // The next one is told as well, although the bar is there already.
+    // The next one is announced as well, although the bar is there already.
     ask({u"org.a11y.atspi.Registry"_s, u"/org/a11y/atspi/registry"_s}, u"org.a11y.atspi.Registry"_s,
         u"RegisterEvent"_s, {u"Object:StateChanged:Showing"_s});
     bus_.connect({}, {}, u"org.a11y.atspi.Event.Object"_s, u"StateChanged"_s, this, SLOT(note(QDBusMessage)));

@@ -81,7 +81,7 @@ void ChoiceTest::refusalIsExplainedBesideItsControl()
     QVERIFY(!opened.isSeen(u"message"_s));
     QVERIFY(opened.find<QPushButton>(u"calloutOffer"_s)->text().contains(offer));
     QVERIFY(!callout->isAncestorOf(QApplication::focusWidget()));
-    // The keyboard goes on from the control to the offer.
+    // Tab leads from the control to the offer.
     QWidget *offered = opened.find<QPushButton>(u"calloutOffer"_s);
     for (int i = 0; i < 3 && QApplication::focusWidget() != offered; ++i)
         opened.press(Qt::Key_Tab);
@@ -128,7 +128,7 @@ void ChoiceTest::calloutGoesByKeyAndByTheNextChoice()
     opened.press(Qt::Key_Space); // its button
     QVERIFY(!callout->isVisible());
     QCOMPARE(QApplication::focusWidget(),
-             opened.find<QRadioButton>(u"matte"_s)); // from there the keyboard goes on
+             opened.find<QRadioButton>(u"matte"_s)); // where the keyboard continues
     opened.click(u"matte"_s);
     opened.click(u"calloutClose"_s);
     QVERIFY(!callout->isVisible());

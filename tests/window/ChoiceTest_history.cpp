@@ -23,7 +23,7 @@ void ChoiceTest::undoAndRedo()
     QTest::keyClick(copies, Qt::Key_Up);
     QCOMPARE(copies->value(), 3);
 
-    opened.undo(); // with the focus in a field that has an undo of its own
+    opened.undo(); // with the focus in a field that has its own undo
     QCOMPARE(copies->value(), 1);
     opened.undo();
     QCOMPARE(sizes->currentIndex(), size);

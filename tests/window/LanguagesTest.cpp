@@ -210,7 +210,8 @@ void LanguagesTest::keysLeadToPagesAndControls()
     }
 }
 
-// With the language's decimal separator; the range stands beside the field, and a number out of it is told.
+// With the language's decimal separator; the range stands beside the field, and a number out of it is
+// reported.
 void LanguagesTest::numbersAsPeopleTypeThem()
 {
     const OpenedDialog opened;

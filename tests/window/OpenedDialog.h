@@ -68,12 +68,12 @@ PrintDialogSetup setupFor(PanelMode mode);
 PrintDialogSetup setupForPrinter(PanelMode mode = PanelMode::Constraint,
                                  const std::optional<QString> &printer = {});
 
-/// Has the program speak the language as long as the translator lives.
+/// Sets the program's language as long as the translator lives.
 bool speak(QTranslator &translator, const QString &language);
 QRect inWindow(const QWidget *widget);
 bool isWhollySeen(const QWidget *widget);
 
-/// A dialog as the program opens it, with a folder of its own for what it prints.
+/// A dialog as the program opens it, with a separate folder for what it prints.
 class OpenedDialog
 {
 public:

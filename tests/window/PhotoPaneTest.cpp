@@ -279,7 +279,7 @@ void PhotoPaneTest::paintsWhilePhotosAreDecoded()
     const int threads = photoThreads().maxThreadCount();
     for (int i = 0; i < threads; ++i)
         photoThreads().start([&decoded] { decoded.acquire(); });
-    // Nothing on the painting thread would let them go on.
+    // Nothing on the painting thread would release them.
     const std::unique_ptr<QThread> rescuer(QThread::create([&] {
         QDeadlineTimer limit(std::chrono::seconds(10));
         while (!limit.hasExpired() && !QThread::currentThread()->isInterruptionRequested())
@@ -338,7 +338,7 @@ void PhotoPaneTest::strip()
     QTest::mouseClick(remove, Qt::LeftButton);
     QVERIFY(pane->photos().isEmpty() && !remove->isEnabled());
     QVERIFY(QFile::exists(pathOf(u"a.jpg"_s)));
-    // A file's name is no markup.
+    // A file's name is not markup.
     pane->setPhotos({photoOf(u"a & b.jpg"_s), photoOf(u"<img src=x>.jpg"_s)}, {});
     QCOMPARE(strip->item(0)->toolTip(), u"a & b.jpg"_s);
     QCOMPARE(QTextDocumentFragment::fromHtml(strip->item(1)->toolTip()).toPlainText(), u"<img src=x>.jpg"_s);

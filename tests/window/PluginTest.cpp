@@ -21,7 +21,7 @@ using namespace testing_support;
 using namespace Qt::StringLiterals;
 
 
-/// The dialog with somebody else's plug-in.
+/// The dialog with another author's plug-in.
 class PluginTest : public QObject
 {
     Q_OBJECT
@@ -190,7 +190,7 @@ void PluginTest::staysUntilItMayHide()
     }
 }
 
-// As PrintDialogPanel.h has it. What is asked several times in a row counts once.
+// As PrintDialogPanel.h says. What is asked several times in a row counts once.
 void PluginTest::callsInOrder()
 {
     QFETCH_GLOBAL(PanelMode, mode);

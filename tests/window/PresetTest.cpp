@@ -166,7 +166,7 @@ void PresetTest::presetOfCupsAppears()
     QCOMPARE(opened->fieldTexts({81, 82}), u"5 0"_s);
     QCOMPARE(opened->find<QSpinBox>(u"copies"_s)->value(), 3);
     QCOMPARE(opened->message(), QString());
-    // Saved by the dialog it is the whole set.
+    // Saved by the dialog it is the complete set.
     opened->type(83, u"2"_s);
     act(*opened, Save);
     QVERIFY(printsLikeLp(*opened, u"photo/warm"_s, u"blue=2"_s, "3"));

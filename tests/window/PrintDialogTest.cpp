@@ -35,8 +35,8 @@ void PrintDialogTest::printsWhatTheUserChose()
     QTRY_VERIFY(opened.message().contains(u"sample.pdf"_s));
 }
 
-// It is printed once the user has seen it and wants it. Whoever is faster than the check is asked by the
-// worker.
+// It is printed once the user has seen it and wants it. When Print comes before the check is done, the worker
+// finds the damage, and the window asks then.
 void PrintDialogTest::damagedPhoto()
 {
     QFile sample(QStringLiteral(CORVEL_SAMPLE_PHOTO));

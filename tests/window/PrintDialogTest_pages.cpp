@@ -156,7 +156,7 @@ void PrintDialogTest::tabOrderAndNames()
     }
 }
 
-// From the opened window to the printed photo by nothing but keys, each to what has the focus.
+// From the opened window to the printed photo by keys alone, each sent to what has the focus.
 void PrintDialogTest::wholeFlowByKeyboard()
 {
     const OpenedDialog opened(mode_);

@@ -12,8 +12,8 @@
 
 using namespace testing_support;
 
-/// The window while it prints many photos, and afterwards. A run goes on in the window only when events are
-/// handled, so that what is done right after its start comes while it prints.
+/// The window while it prints many photos, and afterwards. A run progresses in the window only when events
+/// are handled, so that what is done right after its start comes while it prints.
 class PrintingTest : public WindowTest
 {
     Q_OBJECT

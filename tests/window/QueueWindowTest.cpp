@@ -108,7 +108,7 @@ void QueueWindowTest::rememberedPrivately()
              QFile::Permissions());
     QCOMPARE(QFileInfo(file.path()).permissions() & (QFile::ReadOther | QFile::ExeOther),
              QFile::Permissions());
-    // Nobody else may put a printer there; what is broken is as good as nothing.
+    // Nobody else may put a printer there; a broken file counts as none.
     QVERIFY(QFile::setPermissions(file.filePath(), QFile::ReadOwner | QFile::WriteOwner | QFile::WriteOther));
     QVERIFY(!QueueCache::load());
     QVERIFY(QFile::setPermissions(file.filePath(), QFile::ReadOwner | QFile::WriteOwner));

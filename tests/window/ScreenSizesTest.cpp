@@ -91,7 +91,7 @@ void ScreenSizesTest::everythingIsReached_data()
     });
 }
 
-// By the keyboard, which shows what it comes to; and Print and Cancel stay in sight the whole time.
+// By the keyboard, which scrolls to the focused control. Print and Cancel stay in sight all the time.
 void ScreenSizesTest::everythingIsReached()
 {
     const auto [size, font, language] = row<QSize, double, QString>();
@@ -232,7 +232,7 @@ void ScreenSizesTest::helpFitsTheScreen()
         const auto *help = parent.findChild<HelpWindow *>();
         const QSize room = parent.screen()->availableSize();
         QVERIFY(help->width() <= room.width() && help->height() < room.height());
-        // A line of text is no shorter than with a small font, as far as the screen has room.
+        // A line of text is not shorter than with a small font, as far as the screen has room.
         QVERIFY(help->width() == room.width() || help->width() > 80 * help->fontMetrics().averageCharWidth());
     }
 }
