@@ -5,8 +5,8 @@
 
 #include <QtCore/QString>
 
-/// Process start to painted dialog, ours beside Qt's and GTK's with a PPD's options; each run in a process of
-/// its own.
+/// Process start to painted dialog, ours beside Qt's and GTK's with a PPD's options; each run in a new
+/// process.
 void benchOpening();
 /// What such a process does: `which` is "ours", with the queue or the built-in printer, or "qt". Ends the
 /// process at the first paint, whose time it prints.

@@ -27,7 +27,7 @@ using testing_support::PrivateCupsd;
 constexpr int batchSize = 100;
 constexpr int batchRuns = 3;
 
-/// Of a program that prints what nobody reads.
+/// Milliseconds of a program's run; its output is discarded.
 double timeOf(const QStringList &command)
 {
     QProcess process;
@@ -114,7 +114,7 @@ void benchBatches(PrivateCupsd &server, const QString &lp, const QTemporaryDir &
               {}});
 }
 
-/// Beside a disk, on which each photo's files are waited for, into memory.
+/// To memory, and for comparison to a disk, which takes time to store each photo's files.
 void benchSmallBatch(const QTemporaryDir &folder)
 {
     const QString small = folder.filePath(QStringLiteral("small.jpg"));

@@ -14,7 +14,7 @@ int main(int argc, char *argv[])
         qputenv("QT_QPA_PLATFORM", "offscreen");
     if (!qEnvironmentVariableIsSet("CORVEL_PDE_PATH"))
         qputenv("CORVEL_PDE_PATH", CORVEL_PDE_BUILD_DIR);
-    // Qt's remarks on the platform belong into no table.
+    // Qt's remarks on the platform do not belong in the table.
     qInstallMessageHandler(
         [](QtMsgType type, const QMessageLogContext & /*context*/, const QString &message) {
             if (type == QtFatalMsg)

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Corvel print dialog authors
 // SPDX-License-Identifier: Apache-2.0
 
-// Pictures: what their headers say, where they go on a page, and the PDF of the small ones.
+// Pictures: their headers, their placement on a page, and the PDF of the small ones.
 
 #include "ColourProfile.h"
 #include "ExifData.h"

@@ -170,7 +170,7 @@ class CommandLineTest(ProgramTest):
         self.assertNotEqual(picture("plain", "coloradjust"), picture("plain", "summary"))
         self.assertNotEqual(picture("plain", "coloradjust"), picture("chosen", "coloradjust"))
         self.assertEqual(picture("plain", "sharpness"), picture("chosen", "sharpness"))
-        # A page that is wider than those before moves nothing in its picture.
+        # A page that is wider than the earlier ones does not shift its picture.
         folder = self.folder / "spanish"
         run("--ppd", SIBLING_PPD, "--screenshot", folder, PHOTO, LANG="es_ES.UTF-8", LC_ALL="")
         self.assertEqual(top_left(folder / "coloradjust.png"), top_left(folder / "matte.png"))
@@ -201,7 +201,7 @@ class CommandLineTest(ProgramTest):
     def test_hears_of_its_helpers_end(self):
         self.assertEqual(shell('env --ignore-signal=CHLD "$@"', "--ppd", PPD, "--list-options").status, 0)
 
-    # No file may take the number of a closed stream either: the line would end up in the photo.
+    # A file must not get the descriptor of a closed stream: the program's output would be written into it.
     def test_fails_when_its_output_cannot_be_written(self):
         for streams in "> /dev/full", ">&-", "<&- >&-":
             done = shell('"$@" ' + streams, "--batch", "--overwrite", "--output", self.out, PHOTO)

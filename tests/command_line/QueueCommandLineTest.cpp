@@ -213,7 +213,7 @@ void QueueCommandLineTest::sendsWhatTheDryRunShows()
         QVERIFY2(text.contains(": " + part + '\n'), part.constData());
 }
 
-// Neither as a PDF nor untouched.
+// Whether it would go as a PDF or untouched.
 void QueueCommandLineTest::sendsNoDamagedPhoto()
 {
     const QString path = home_.filePath(u"damaged.jpg"_s);
@@ -330,7 +330,7 @@ void QueueCommandLineTest::printsAPresetAsLpDoes()
     const ProgramRun summary = runProgram({u"--printer"_s, u"photo/warm"_s, u"--summary"_s});
     QVERIFY2(summary.out.contains("\nCopies: 2\n") && summary.out.contains("\nRed: 5\n"),
              summary.out.constData());
-    // By the name that people know it by, too.
+    // Also under the name that people gave it.
     QVERIFY(cupsd_.run(u"lpoptions"_s,
                        {u"-p"_s, u"photo/my%20own"_s, u"-o"_s, u"Red=6"_s, u"-o"_s, u"Gone=1"_s}));
     for (const QString &name : {u"photo/My own"_s, u"photo/my%20own"_s}) {

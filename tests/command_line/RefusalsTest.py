@@ -98,7 +98,7 @@ class RefusalsTest(ProgramTest):
                     arguments = [argument for option in options for argument in ("-o", option)]
                     self.refuses(self.print("--mode", mode, PHOTO, *arguments), 1, *words)
 
-    # The photo before it is not printed either.
+    # When one photo is refused, the one before it is not printed either.
     def test_photo(self):
         for name, bad in (("gone.jpg", None), (ODD, None), ("bad.jpg", b""),
                           ("bad.jpg", content(PHOTO)[:os.path.getsize(PHOTO) // 2]), ("bad.jpg", b"This is no photo.\n"),
@@ -109,7 +109,7 @@ class RefusalsTest(ProgramTest):
 
     # libtiff writes to standard error by itself. Where nothing reads TIFF, that is the one line.
     def test_library_that_complains(self):
-        # 64 x 64 grey pixels, compressed with LZW into bytes that are no codes.
+        # 64 x 64 grey pixels, compressed with LZW into bytes that are not codes.
         entries = ((256, 64), (257, 64), (258, 8), (259, 5), (262, 1), (273, 122), (277, 1), (278, 64), (279, 500))
         tiff = (b"II*\0\x08\0\0\0\x09\0" + b"".join(struct.pack("<HHIHH", tag, 3, 1, value, 0) for tag, value in entries)
                 + bytes(4) + b"\x77" * 500)
@@ -124,7 +124,7 @@ class RefusalsTest(ProgramTest):
             self.refuses(self.print("--ppd", bad, PHOTO), 1, bad.name)
             self.refuses(run("--list-options", "--ppd", bad), 1, bad.name)
 
-    # The options could not go through its panels.
+    # A plug-in that cannot be loaded is a failure: its panels could not check the options.
     def test_plugin(self):
         for command, word in PLUGINS:
             with self.subTest(command):
@@ -149,7 +149,7 @@ class RefusalsTest(ProgramTest):
         self.assertEqual(shown.status, 0)
         self.assertIn("border.png", self.names())
 
-    # Nor are the extensions of other systems' dialogs, which a PPD may name as well.
+    # A PPD may also name extensions of other systems' dialogs; these are not reported as missing.
     def test_panels_that_are_not_installed_are_no_loss(self):
         own = self.print("-o", "Red=12", PHOTO, CORVEL_PDE_PATH=str(self.folder))
         self.assertEqual(own.status, 0)
@@ -162,13 +162,13 @@ class RefusalsTest(ProgramTest):
         self.assert_quiet(both)
         self.assertIn("Color Adjustments", both.out)
 
-    # It is missed only where it is shown.
+    # A run without a window does not load the form.
     def test_missing_form_prints_all_the_same(self):
         self.copied_bundle("rm Contents/Resources/*.ui")
         self.assert_quiet(self.print("-o", "Red=12", PHOTO, CORVEL_PDE_PATH=str(self.folder)))
         self.assertEqual(self.ticket()["Red"], "12")
 
-    # No folder of another name comes of it either.
+    # No folder appears under a converted name.
     def test_name_that_is_not_utf8(self):
         photo = os.fsdecode(bytes(self.folder) + b"/caf\xe9")
         shutil.copy(PHOTO, photo)
@@ -176,7 +176,7 @@ class RefusalsTest(ProgramTest):
             self.refuses(run("--batch", *arguments), 1, "caf\ufffd", "UTF-8", "Rename it.")
         self.assertEqual(os.listdir(bytes(self.folder)), [b"caf\xe9"])
 
-    # Neither a crash nor Qt's advice to install the program again.
+    # The program reports it; it does not crash or repeat Qt's advice to install it again.
     def test_no_display(self):
         without = "env -u QT_QPA_PLATFORM -u DISPLAY -u WAYLAND_DISPLAY -u XDG_RUNTIME_DIR "
         for variables in "", "DISPLAY= ", "WAYLAND_DISPLAY=wayland-9 ":
@@ -197,7 +197,7 @@ class RefusalsTest(ProgramTest):
                                 (["--printer", "no\x1bwhere"], '"nowhere"')):
             self.refuses(run("--batch", PHOTO, *arguments, folder=self.folder), 1, word)
 
-    # The system's signal for it would end the program. The smallest limit holds for the PPD, too, which libcups reads.
+    # SIGXFSZ would end the program. The smallest limit also stops the temporary PPD that libcups reads.
     def test_file_that_grows_too_large(self):
         for limit, words in ((100, ("sample.pdf", "ulimit -f")), (0, ())):
             self.refuses(shell(f'ulimit -f {limit} && exec "$@"', "--batch", "--output", self.out, PHOTO), 1, *words)

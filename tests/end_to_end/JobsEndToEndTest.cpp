@@ -142,7 +142,7 @@ void JobsEndToEndTest::waitingJobIsLeftInTime()
     QVERIFY(cupsd_.waitForJob(*id));
 }
 
-// While it is being sent, and once the server has it.
+// Cancelled while it is being sent, and once the server has it.
 void JobsEndToEndTest::cancelledJobs()
 {
     QVERIFY(cupsd_.setBackendScript("exit 0"));
@@ -205,14 +205,14 @@ void JobsEndToEndTest::suppliesAndReasons()
     const QString text = stateText(queue);
     for (const QString &words : {u"out of paper"_s, u"ribbon or ink low"_s, u"corvel-odd"_s})
         QVERIFY2(text.contains(words), qPrintable(text));
-    // None of it keeps a job away.
+    // None of it keeps a job from printing.
     QVERIFY(cupsd_.setBackendScript("echo 'STATE: -media-empty-error' >&2\nexit 0"));
     const auto next = submit(u"odd"_s);
     QVERIFY(next && follow(u"odd"_s, *next));
     QVERIFY(!stateText(odd()).contains(u"out of paper"_s));
 }
 
-// And one look at the PPD, once no change can hide behind the time of the last one.
+// The PPD is fetched once, as soon as no change can have the same time stamp as the last one.
 void JobsEndToEndTest::oneConnectionForAll()
 {
     CupsConnection connection(5s);

@@ -21,7 +21,7 @@ struct RecordedJob
     QByteArray document;
 };
 
-/// A print server of a test's own: a folder under /tmp, a socket in it, its own queues, no network unless
+/// A private print server for a test: a folder under /tmp, a socket in it, its own queues, no network unless
 /// asked for. Works for root and for an ordinary user. Ends with the object, or with the test program. While
 /// it lives CUPS_SERVER points to it.
 class PrivateCupsd
@@ -33,8 +33,8 @@ public:
 
     enum class Reach { Socket, Network };
 
-    /// Lays out the folder, starts the scheduler and waits for it. Empty, or one line that says what is in
-    /// the way.
+    /// Lays out the folder, starts the scheduler and waits for it. Empty, or one line that says why it does
+    /// not start.
     QString start(Reach reach = Reach::Socket);
     void stop();
     /// Stops the scheduler's process, with its connections open, and lets it run again.
@@ -60,7 +60,7 @@ public:
     RecordedJob job(int id) const;
     /// The ids of the jobs that the scheduler has not finished, as lpstat shows them.
     QByteArray activeJobs();
-    /// How many requests there were that begin so: "GET /printers/photo.ppd".
+    /// How many requests began like this: "GET /printers/photo.ppd".
     qsizetype requests(const QByteArray &line) const;
 
 private:

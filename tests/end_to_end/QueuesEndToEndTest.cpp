@@ -89,7 +89,7 @@ void QueuesEndToEndTest::initTestCase()
 {
     for (const char *name : {"LPDEST", "PRINTER"})
         qunsetenv(name);
-    // The home of nobody's lpoptions.
+    // A home folder without lpoptions.
     QVERIFY(QDir(home_.path()).mkdir(u".cups"_s));
     qputenv("HOME", QFile::encodeName(home_.path()));
 }

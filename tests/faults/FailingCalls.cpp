@@ -1,7 +1,8 @@
 // SPDX-FileCopyrightText: Corvel print dialog authors
 // SPDX-License-Identifier: Apache-2.0
 
-// Linked into a test program, whose functions stand before the C library's: without the project's settings.
+// Linked into a test program, where its functions replace the C library's. Built without the project's
+// settings.
 
 #include "FailingCalls.h"
 

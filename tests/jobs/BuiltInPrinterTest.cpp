@@ -179,7 +179,7 @@ void BuiltInPrinterTest::names()
           {u".jpg"_s, u"photo"_s},
           {u"x\r\n\u202egpj\u2028.jpg"_s, u"x gpj"_s},
           {u"taken.jpg"_s, u"taken-3"_s},
-          // The longest name has 255 bytes: of letters, of large characters, and of bytes that are no text.
+          // The longest name has 255 bytes: of letters, of emoji, of bytes that are not text.
           {QString(250, u'n') + u".jpg"_s, QString(243, u'n')},
           {smile.repeated(62) + u".jpg"_s, smile.repeated(60)},
           {QString(250, u't'), QString(241, u't') + u"-2"_s}})

@@ -34,8 +34,8 @@ heif_error append(heif_context * /*context*/, const void *data, size_t size, voi
     return {heif_error_Ok, heif_suberror_Unspecified, ""};
 }
 
-/// The picture turned by the file's own properties, and by an Exif block that says the same; empty when there
-/// is no encoder for it.
+/// The picture turned by the file's own properties, and by an Exif block that says the same; empty without
+/// an encoder for it.
 QByteArray encoded(const QImage &picture, heif_compression_format format, int orientation,
                    const QByteArray &icc = {})
 {

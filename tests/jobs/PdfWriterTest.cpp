@@ -185,7 +185,7 @@ void PdfWriterTest::pngsOfAllKinds()
              {found.red() - wanted.red(), found.green() - wanted.green(), found.blue() - wanted.blue()})
             QVERIFY2(std::abs(difference) < 4, qPrintable(found.name() + wanted.name()));
     }
-    QVERIFY(pdf.size() < png.size() + 4000); // with a whole palette
+    QVERIFY(pdf.size() < png.size() + 4000); // with a full palette
 }
 
 void PdfWriterTest::impossiblePngs_data()

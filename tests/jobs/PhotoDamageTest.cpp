@@ -16,7 +16,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// One with one strip, compressed by that method; `tables` are what its JPEG strips share.
+/// A TIFF with one strip, compressed by that method; `tables` are what its JPEG strips share.
 QByteArray tiffOf(int method, const QByteArray &strip, const QByteArray &tables = {})
 {
     constexpr int directorySize = 2 + 4 * 12 + 4;
@@ -114,7 +114,7 @@ void PhotoDamageTest::damagedPixels()
         QCOMPARE(damage->reason, PhotoFault::Damaged);
 }
 
-// Decoders of TIFF pass over what they cannot make out.
+// TIFF decoders skip what they cannot decode.
 void PhotoDamageTest::damagedTiffs()
 {
     const auto withZeros = [](QByteArray content) {

@@ -155,7 +155,7 @@ void PhotoTest::zerosAreNotRead()
     QVERIFY(after.ru_maxrss - before.ru_maxrss < 50'000); // kilobytes
 }
 
-// The photo is not to blame. A PNG is printed and shown all the same, row by row.
+// The photo is not reported as damaged. A PNG is printed and shown anyway, row by row.
 void PhotoTest::memoryRunsShort()
 {
 #ifdef __SANITIZE_ADDRESS__
@@ -188,7 +188,7 @@ void PhotoTest::memoryRunsShort()
     QVERIFY(photo->decoded());
 }
 
-// Even one that does not stop to write.
+// Even the messages of one that never stops writing them.
 void PhotoTest::librariesWriteToTheLog()
 {
     QTemporaryFile shown;
@@ -310,7 +310,7 @@ void PhotoTest::orientations()
     QCOMPARE(samples::cornersOf(small, small.rect(), 10), samples::seenCorners[std::size_t(seenAs)]);
 }
 
-// Its height is negative.
+// Such a bitmap's height is negative.
 void PhotoTest::bitmapFromTheTopDown()
 {
     QByteArray bitmap = samples::encoded(samples::quarters(QSize(300, 200)), "bmp");
@@ -364,7 +364,7 @@ void PhotoTest::resolutions()
     QVERIFY(std::abs(photo->printedResolution() - (resolution > 0 ? resolution : 300)) < 0.1);
 }
 
-/// What cannot be read is called by its name, with what would help.
+/// A format that cannot be read is named, with what would help.
 void PhotoTest::unreadableFormats_data()
 {
     QTest::addColumn<QByteArray>("content");

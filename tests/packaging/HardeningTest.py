@@ -35,8 +35,8 @@ class HardeningTest(CommandTest):
             "clearVeltaContextData", "destroyVeltaJobContext", "initializeVeltaContext", "qt_plugin_instance",
             "qt_plugin_query_metadata_v2"])
 
-    # What a plug-in links to is there; what the kit keeps to itself is not. Templates of Qt and of the C++ library are
-    # nobody's.
+    # What a plug-in links to is there; what the kit keeps to itself is not. Templates of Qt and of the C++ library
+    # do not count.
     def test_the_kit_exports_its_interface_only(self):
         names = "\n".join(self.exports(KIT))
         self.assert_all_in((

@@ -29,7 +29,7 @@ def files():
 
 
 class InstallTest(CommandTest):  # in the order of the names
-    # The list of what was installed is removed at once: the user's own, of an installation from this build, stays.
+    # The test removes its own list of installed files: the list of the user's installation from this build stays.
     @classmethod
     def setUpClass(cls):
         written = pathlib.Path(BUILD, "install_manifest.txt")
@@ -65,7 +65,7 @@ class InstallTest(CommandTest):  # in the order of the names
                      "man/man1/corvel-print.1.gz", "bash-completion/completions/corvel-print",
                      "ppd/corvel-print/Corvel9045.ppd"):
             self.assertTrue((PREFIX / DATADIR / file).exists(), file)
-        # Authors of plug-ins get what they need, and nothing that they would hold this program to.
+        # Authors of plug-ins get the headers that they need; the others may change.
         headers = {path.name for path in PREFIX.rglob("pdekit/*.h")}
         self.assertIn("FormLoader.h", headers)
         self.assertFalse(headers & {"ChildProcess.h", "FileDescriptor.h", "InputStream.h", "SignalLog.h", "StringsTable.h"})
@@ -97,11 +97,11 @@ class InstallTest(CommandTest):  # in the order of the names
             self.assertIn("\nBorder: Deckle edge\n", output)
             self.assertEqual(corvel_print(*batch, "-o", "PageSize=Square")[0], 1)
 
-    # Neither from where it is installed nor from where the example is built.
+    # Neither the installed files nor the built example.
     def test_6_loads_no_strangers_library(self):
         self.output_of(sys.executable, f"{SOURCE}/tests/packaging/libraryPaths.py", PREFIX, FOLDER / "postcard")
 
-    # What docs/plugins.md says, word for word.
+    # Follows docs/plugins.md to the letter.
     def test_5_guide_can_be_followed(self):
         folder = FOLDER / "guide"
         folder.mkdir()

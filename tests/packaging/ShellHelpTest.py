@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: Corvel print dialog authors
 # SPDX-License-Identifier: Apache-2.0
-"""ShellHelpTest.py PROGRAM MAN_PAGE: what a shell's user is told of the program, by the manual page and completions."""
+"""ShellHelpTest.py PROGRAM MAN_PAGE: what the manual page and the completions say about the program."""
 
 import re
 import sys
@@ -27,7 +27,7 @@ class ShellHelpTest(CommandTest):
     def completions(self, *words):
         return self.output_of("bash", "-c", BASH, "bash", COMPLETIONS + "corvel-print.bash", PROGRAM, *words).split()
 
-    # It reads well, and says every line of the help.
+    # It is well-formed, and has every line of the help.
     def test_manual_page(self):
         page = self.output_of(
             "groff", "-man", "-ww", "-Tutf8", "-P-cbou", "-rLL=2000n", "-rHY=0", MAN_PAGE)

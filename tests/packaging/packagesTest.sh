@@ -2,8 +2,8 @@
 # SPDX-FileCopyrightText: Corvel print dialog authors
 # SPDX-License-Identifier: Apache-2.0
 #
-# packagesTest.sh ROOT: how ./run and ./test get packages. A real apt-get with folders of the test's own, where nothing can
-# be installed: its package lists are empty.
+# packagesTest.sh ROOT: how ./run and ./test get packages. A real apt-get with the test's folders, where nothing can be
+# installed: the package lists are empty.
 set -uo pipefail
 . "$1/cmake/packages.sh"
 sudo() { # the folders are the user's
@@ -62,7 +62,7 @@ open(sys.argv[2]).read()' "$folder/$lock" "$folder/end" &
     expect "$lock is freed" "$(cat "$folder/output")" "at work" "Unable to locate package no-such-package" "$missing"
 done
 
-# Nobody holds a lock that cannot even be opened, as in a folder of another user's.
+# A lock that cannot be opened, as in another user's folder, is not waited for.
 rm -f "$folder/lists/lock"
 mkdir "$folder/lists/lock"
 output=$(CORVEL_APT_PATIENCE=1 corvel_install no-such-package 2>&1) && exit 1

@@ -99,7 +99,8 @@ void FactoryTest::order()
     PanelHarness dialog(mode);
     const auto panels = panelsOf(builtBundle(), dialog.callback);
     QCOMPARE(kindsOf(panels), text("coloradjust sharpness matte"));
-    // Each has loaded its form when it was made, or does so only now. The lamination panel says nothing.
+    // In settings mode each loads its form when it is made, else when it is first shown. The lamination panel
+    // logs nothing.
     QCOMPARE(dialog.log, dialog.constraints ? QStringList() : QStringList({sharpnessLine, colorLine}));
     for (const pdekit::PanelPointer &panel : panels) {
         const QWidget *view = panel->panelView();

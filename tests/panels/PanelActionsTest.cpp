@@ -143,7 +143,7 @@ void PanelActionsTest::mixedEnablerOfTheFinish()
     QCOMPARE(panel->enablerState(&box), 0); // the printer decides, and the panel's controls are of no use
 }
 
-// Where a control is asked for, none does nothing.
+// A null control does nothing.
 void PanelActionsTest::missingControls()
 {
     QFETCH_GLOBAL(Mode, mode);

@@ -15,7 +15,7 @@
 #include <csignal>
 #include <stdexcept>
 
-// The panels' own handler of this name is seen in its file alone: two that are seen do not link.
+// The panels' handler of this name has internal linkage: otherwise this one would not link.
 extern "C" void catchPIPE(int signal);
 extern "C" void catchPIPE(int /*signal*/)
 {

@@ -336,7 +336,7 @@ void KitTest::viewsByTag()
     pdekit::setTag(&view, 5);
     QCOMPARE(pdekit::viewWithTag(&view, 5), &view);
     QVERIFY(!pdekit::viewWithTag(&view, 6) && !pdekit::viewWithTag(nullptr, 5));
-    // However a tag changes.
+    // A tag is found again after every kind of change.
     view.setProperty("tag", 7);
     QCOMPARE(pdekit::tag(&view), 7);
     view.setProperty("tag", QVariant());

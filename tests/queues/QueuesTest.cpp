@@ -225,7 +225,7 @@ void QueuesTest::badServerCostsOneSentenceInTime()
     QCOMPARE(cancelled.failure().reason, QueueFault::Cancelled);
 }
 
-// Whatever is asked.
+// For every kind of request.
 void QueuesTest::hostileAnswersCostLittle()
 {
     using Manner = StubServer::Manner;
@@ -278,14 +278,14 @@ void QueuesTest::answersThatMakeNoSense()
         QCOMPARE(queues->at(0).name, u"good"_s);
         QCOMPARE(queues->at(0).members, QStringList{u"inner"_s});
     }
-    // Nothing is asked somewhere else.
+    // A redirection is not followed.
     const StubServer server(StubServer::Manner::Redirecting);
     const auto opened = queueNamed(u"photo"_s, 5s);
     QVERIFY(!opened);
     QVERIFY2(opened.failure().text.contains(u"Found"_s), qPrintable(opened.failure().text));
 }
 
-// On the thread that shows them.
+// On the main thread, which shows them.
 void QueuesTest::answersThatAreLongCostLittleTime()
 {
     const auto timeHere = [] {

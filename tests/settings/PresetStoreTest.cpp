@@ -396,7 +396,7 @@ void PresetStoreTest::waitsNoLongerThanASecond()
     }
 }
 
-// As people have who keep their settings elsewhere.
+// Some people keep their settings elsewhere and link to them.
 void PresetStoreTest::linkStaysOne()
 {
     const QString kept = home_->filePath(u"kept/options"_s);

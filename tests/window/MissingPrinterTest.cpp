@@ -37,7 +37,7 @@ void MissingPrinterTest::defaultThatIsNotThere_data()
     });
 }
 
-// Nothing is printed by another one before the user says so.
+// No other printer is used before the user chooses one.
 void MissingPrinterTest::defaultThatIsNotThere()
 {
     const auto [server, reason] = row<std::optional<StubServer::Manner>, QString>();
@@ -77,7 +77,7 @@ void MissingPrinterTest::noDefaultKnown()
     QVERIFY(opened.dialog->isReady());
 }
 
-// Of a queue nothing is printed then; the built-in printer shows the choices last used with it.
+// Nothing is printed on a queue then; the built-in printer shows the choices last used with it.
 void MissingPrinterTest::presetThatIsNotThere()
 {
     const StubServer server(StubServer::Manner::ManyQueues);

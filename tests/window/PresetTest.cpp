@@ -156,7 +156,7 @@ void PresetTest::savedPresetPrintsAlike()
     QVERIFY(printsLikeLp(*opened, u"photo/光沢+10x15"_s, u"red=-7"_s, "2"));
 }
 
-// Options that it does not name are as CUPS prints them: the printer's defaults.
+// Options that the preset does not name take the printer's defaults, as CUPS prints them.
 void PresetTest::presetOfCupsAppears()
 {
     const auto opened = openQueue();

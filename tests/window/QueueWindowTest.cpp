@@ -77,7 +77,7 @@ void QueueWindowTest::remember(const QString &queue)
     choose(opened, queue);
 }
 
-// With its panels, which can be used; but nothing is printed on what the server may not have any more.
+// With its panels, which can be used. It prints only once the server has confirmed the queue.
 void QueueWindowTest::queueUsedLastIsShownAtOnce()
 {
     remember(u"photo"_s);
@@ -124,7 +124,7 @@ void QueueWindowTest::rememberedPrivately()
     // A name that has to be cleaned is not changed into another one.
     QueueCache::save({queueNamed(u"pho\u0007to"_s), {}, true});
     QVERIFY(!QueueCache::load());
-    // Another print server's queues are none of this one's.
+    // The queues of another print server are remembered separately.
     const QByteArray server = qgetenv("CUPS_SERVER");
     qputenv("CUPS_SERVER", "elsewhere.example:631");
     const QString other = QueueCache::file();
