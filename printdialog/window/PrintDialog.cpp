@@ -9,11 +9,8 @@
 #include "GuardedPanel.h"
 #include "HelpWindow.h"
 #include "PlainText.h"
-#include "PpdFetcher.h"
+#include "PrinterController.h"
 #include "PrintingController.h"
-#include "QueueCache.h"
-#include "QueueSettings.h"
-#include "SessionOpening.h"
 #include "TouchWatch.h"
 #include "WrappingRow.h"
 #include "ui_PrintDialog.h"
@@ -42,12 +39,9 @@ PrintDialog::PrintDialog(const PrintDialogSetup &setup, QWidget *parent)
     : QDialog(parent)
     , setup_(setup)
     , ui_(std::make_unique<Ui::PrintDialog>())
-    , fetcher_(new PpdFetcher(this))
+    , printer_(std::make_unique<PrinterController>(
+          PrinterController::Request{setup.printer, setup.ppdFile, setup.mode, setup.remembers}))
 {
-    const std::optional<RememberedQueue> remembered = firstPrinter();
-    // The print server may well be asked while the window is being made.
-    if (setup_.printer && *setup_.printer != Destination::builtIn() && !setup_.ppdFile)
-        fetcher_->fetchAhead(*setup_.printer);
     ui_->setupUi(this);
     auto *buttons = new WrappingRow(ui_->buttons);
     buttons->addWidget(ui_->help);
@@ -70,17 +64,10 @@ PrintDialog::PrintDialog(const PrintDialogSetup &setup, QWidget *parent)
     connect(printing_, &PrintingController::closeRequested, this, [this] { QDialog::reject(); });
     connect(printing_, &PrintingController::dismissed, ui_->cancel,
             [this] { ui_->cancel->setFocus(Qt::OtherFocusReason); });
-    connect(printing_, &PrintingController::ppdChanged, this, [this](const QString &reason) {
-        whyNotReady_ = reason;
-        updateButtons();
-        fetcher_->fetch(queue_.destination());
-    });
+    connect(printing_, &PrintingController::ppdChanged, printer_.get(), &PrinterController::renewOptions);
     ui_->folder->setText(QDir::toNativeSeparators(QDir(setup.outputFolder).absolutePath()));
-    connect(ui_->printer, &PrinterChooser::printerChosen, this, &PrintDialog::openPrinter);
-    ui_->printer->setStaying([this] { return pageStays() ? std::optional(queue_.id()) : std::nullopt; });
-    connect(ui_->printer, &PrinterChooser::searchFailed, this, &PrintDialog::takeSearchFailure);
-    connect(ui_->printer, &PrinterChooser::currentRemoved, this,
-            [this](const QString &text) { ui_->message->show(MessageBar::Kind::Warning, text); });
+    ui_->printer->setStaying(
+        [this] { return pageStays() ? std::optional(printer_->queue().id()) : std::nullopt; });
     connect(ui_->pageSize, &QComboBox::activated, this, &PrintDialog::choosePageSize);
     connect(ui_->browse, &QPushButton::clicked, this, &PrintDialog::browseFolder);
     connect(ui_->panels, &PanelTabs::panelFailed, this,
@@ -95,11 +82,6 @@ PrintDialog::PrintDialog(const PrintDialogSetup &setup, QWidget *parent)
     connect(ui_->save, &QPushButton::clicked, this, &PrintDialog::saveSettings);
     connect(ui_->cancel, &QPushButton::clicked, this, &PrintDialog::cancelOrStop);
     connect(ui_->print, &QPushButton::clicked, this, &PrintDialog::print);
-    connect(fetcher_, &PpdFetcher::fetched, this, &PrintDialog::takePpd);
-    connect(
-        fetcher_, &PpdFetcher::failed, this,
-        [this](quint64 /*number*/, QueueFault reason, const QString &text) { takePpdFailure(reason, text); });
-    connect(ui_->printer, &PrinterChooser::currentUpdated, this, &PrintDialog::takeUpdate);
     connect(new TouchWatch(this), &TouchWatch::touched, this, [this] { ui_->printer->selection().kept(); });
     ui_->panels->setSummary([this] { return summary(); });
     connect(choices_, &ChoiceController::stepsChanged, ui_->panels, &PanelTabs::updateSummary);
@@ -110,7 +92,8 @@ PrintDialog::PrintDialog(const PrintDialogSetup &setup, QWidget *parent)
             [this](const QString &text) { ui_->message->show(MessageBar::Kind::Error, text); });
     ui_->photos->setPhotos(setup.photos, setup.placement);
     showPhoto();
-    openFirstPrinter(remembered);
+    followPrinter();
+    printer_->start(ui_->printer);
     if (message().isEmpty())
         clearMessage();
 }
@@ -148,8 +131,22 @@ void PrintDialog::restorePlacement(const QByteArray &geometry)
 
 void PrintDialog::searchPrinters()
 {
-    if (!setup_.ppdFile)
-        ui_->printer->search(setup_.printer);
+    printer_->search();
+}
+
+QString PrintDialog::printer() const
+{
+    return printer_->queue().id();
+}
+
+bool PrintDialog::isReady() const
+{
+    return printer_->session() && printer_->whyNotReady().isEmpty();
+}
+
+QString PrintDialog::whyNotReady() const
+{
+    return printer_->whyNotReady();
 }
 
 QString PrintDialog::message() const
@@ -183,7 +180,7 @@ SummaryEntries PrintDialog::summary() const
     QList<PlacementChoice> placements;
     for (const PlacedPhoto &placed : ui_->photos->photos())
         placements.append(placed.placement);
-    return jobSummary(*session_, ui_->copies->value(), placements);
+    return jobSummary(*printer_->session(), ui_->copies->value(), placements);
 }
 
 void PrintDialog::showPhoto()
@@ -206,11 +203,7 @@ void PrintDialog::browseFolder()
     connect(printing_, &PrintingController::closeRequested, this, [this] { QDialog::reject(); });
     connect(printing_, &PrintingController::dismissed, ui_->cancel,
             [this] { ui_->cancel->setFocus(Qt::OtherFocusReason); });
-    connect(printing_, &PrintingController::ppdChanged, this, [this](const QString &reason) {
-        whyNotReady_ = reason;
-        updateButtons();
-        fetcher_->fetch(queue_.destination());
-    });
+    connect(printing_, &PrintingController::ppdChanged, printer_.get(), &PrinterController::renewOptions);
     ui_->folder->setText(QDir::toNativeSeparators(folder));
 }
 

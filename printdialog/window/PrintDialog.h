@@ -27,9 +27,8 @@ namespace printdialog {
 class CheckedPpd;
 class ChoiceController;
 class DialogSession;
-class PpdFetcher;
+class PrinterController;
 class PrintingController;
-struct RememberedQueue;
 
 /// What a print dialog is opened with.
 struct PrintDialogSetup
@@ -69,11 +68,11 @@ public:
     void searchPrinters();
 
     /// The id of the printer that is shown; empty while the one asked for is being looked for.
-    QString printer() const { return queue_.id(); }
+    QString printer() const;
     /// Whether the printer's options are there, and it can be printed on.
-    bool isReady() const { return session_ != nullptr && whyNotReady_.isEmpty(); }
+    bool isReady() const;
     /// Why it cannot print; empty when it can.
-    QString whyNotReady() const { return whyNotReady_; }
+    QString whyNotReady() const;
     /// What the user is being told; empty when nothing is.
     QString message() const;
 
@@ -94,27 +93,16 @@ protected:
     void closeEvent(QCloseEvent *event) override;
 
 private:
-    // The printer
-    std::optional<RememberedQueue> firstPrinter();
-    void openFirstPrinter(const std::optional<RememberedQueue> &remembered);
-    void openPrinter(const Queue &queue);
-    void openRemembered(const RememberedQueue &remembered);
-    void takeUpdate(const Queue &queue);
-    void takeSearchFailure(const QString &text);
-    void showUnusable(const QString &reason);
-    void remember();
-    bool wasChosenHere() const;
-    void awaitOptions(const QString &id);
-    void showFolder(bool isBuiltIn);
-    void takePpd(quint64 number, const CheckedPpd &ppd);
-    void takePpdFailure(QueueFault reason, const QString &text);
-    void confirm();
-    void reopen(std::unique_ptr<DialogSession> session);
-    void takeSession(std::unique_ptr<DialogSession> session);
-    void closeSession(const QString &reason);
-    bool applyOptions();
-    void showPanelFailure(const QString &sentence);
+    // The printer and its session
+    void followPrinter();
     void clearMessage();
+    void showUnusable();
+    void showFolder(bool isBuiltIn);
+    void closeSession();
+    void showSession();
+    void showReplacement(const QMap<QString, QString> &choices);
+    void showPanelFailure(const QString &sentence);
+    bool applyOptions();
 
     // The page
     void fillPageSizes();
@@ -134,13 +122,9 @@ private:
 
     PrintDialogSetup setup_;
     std::unique_ptr<Ui::PrintDialog> ui_;
-    std::unique_ptr<DialogSession> session_;
-    ChoiceController *choices_;
-    PpdFetcher *fetcher_;
+    std::unique_ptr<PrinterController> printer_;
+    ChoiceController *choices_ = nullptr;
     PrintingController *printing_ = nullptr;
-    QString builtInPreset_; ///< the built-in printer is asked for with it; mostly empty
-    Queue queue_;           ///< the printer that is shown
-    QString whyNotReady_;   ///< why Print is off; empty when it is on
 };
 
 } // namespace printdialog

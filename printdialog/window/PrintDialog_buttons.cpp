@@ -4,6 +4,7 @@
 #include "ChoiceController.h"
 #include "DialogSession.h"
 #include "PrintDialog.h"
+#include "PrinterController.h"
 #include "PrintingController.h"
 #include "ViewTexts.h"
 #include "ui_PrintDialog.h"
@@ -14,14 +15,14 @@ namespace printdialog {
 
 void PrintDialog::updateButtons()
 {
-    QString reason = whyNotReady_;
+    QString reason = printer_->whyNotReady();
     if (reason.isEmpty() && ui_->photos->photos().isEmpty())
         reason = tr("There is no photo to print.");
     if (reason.isEmpty() && printing_->isBusy())
         reason = tr("Printing is under way.");
     ui_->print->setEnabled(reason.isEmpty());
     pdekit::setPlainToolTip(ui_->print, reason); // it may name a printer, or hold a PPD's words
-    ui_->save->setEnabled(session_ != nullptr);
+    ui_->save->setEnabled(printer_->session() != nullptr);
     const QString end = printing_->hasPrinted() ? tr("Close") : tr("Cancel");
     ui_->cancel->setText(printing_->isBusy() ? tr("Stop") : end);
     ui_->cancel->setEnabled(!printing_->isStopping());
@@ -33,8 +34,7 @@ void PrintDialog::print()
         return;
     if (!printing_->print(ui_->copies->value(), ui_->folder->text()))
         return;
-    ui_->printer->selection().used();
-    remember();
+    printer_->notePrinted();
 }
 
 void PrintDialog::cancelOrStop()
@@ -86,7 +86,7 @@ void PrintDialog::closeEvent(QCloseEvent *event)
 
 void PrintDialog::saveSettings()
 {
-    const auto options = session_->jobOptions();
+    const auto options = printer_->session()->jobOptions();
     if (!options) {
         choices_->explainJob();
         return;
@@ -99,7 +99,7 @@ void PrintDialog::saveSettings()
     const QString failure = choices_->keep(options->options);
     if (failure.isEmpty())
         ui_->message->show(MessageBar::Kind::Information,
-                           tr("The settings are saved for \"%1\".").arg(session_->printer().text));
+                           tr("The settings are saved for \"%1\".").arg(printer_->session()->printer().text));
     else
         ui_->message->show(MessageBar::Kind::Error, failure);
 }

@@ -1909,10 +1909,6 @@ Beispiele:
         <translation>Ordner für gedruckte Dateien</translation>
     </message>
     <message>
-        <source>The options of &quot;%1&quot; are being fetched from the print server.</source>
-        <translation>Die Optionen von „%1“ werden vom Druckserver geholt.</translation>
-    </message>
-    <message>
         <source>This printer has no panels of its own; it prints with its defaults.</source>
         <translation>Dieser Drucker hat keine eigenen Einstellungsseiten; er druckt mit seinen Standardwerten.</translation>
     </message>
@@ -1935,10 +1931,6 @@ Beispiele:
     <message>
         <source>This printer has no PPD file and so no options: it gets the photo&apos;s file as it is, and places it on the page itself.</source>
         <translation>Dieser Drucker hat keine PPD-Datei und deshalb keine Optionen: Er bekommt die Fotodatei unverändert und setzt sie selbst auf das Blatt.</translation>
-    </message>
-    <message>
-        <source>The print server has not confirmed yet that the printer &quot;%1&quot; is there.</source>
-        <translation>Der Druckserver hat noch nicht bestätigt, dass es den Drucker „%1“ gibt.</translation>
     </message>
     <message>
         <source>The options of &quot;%1&quot; have changed. Your choices were kept as far as the printer still has them; look at them before you print.</source>
@@ -2008,6 +2000,17 @@ Beispiele:
     <message>
         <source>The printer &quot;%1&quot; is not there. %2</source>
         <translation>Der Drucker „%1“ ist nicht da. %2</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::PrinterController</name>
+    <message>
+        <source>The print server has not confirmed yet that the printer &quot;%1&quot; is there.</source>
+        <translation>Der Druckserver hat noch nicht bestätigt, dass es den Drucker „%1“ gibt.</translation>
+    </message>
+    <message>
+        <source>The options of &quot;%1&quot; are being fetched from the print server.</source>
+        <translation>Die Optionen von „%1“ werden vom Druckserver geholt.</translation>
     </message>
 </context>
 <context>

@@ -1908,10 +1908,6 @@ Ejemplos:
         <translation>Carpeta para los archivos impresos</translation>
     </message>
     <message>
-        <source>The options of &quot;%1&quot; are being fetched from the print server.</source>
-        <translation>Se están obteniendo del servidor de impresión las opciones de «%1».</translation>
-    </message>
-    <message>
         <source>This printer has no panels of its own; it prints with its defaults.</source>
         <translation>Esta impresora no tiene paneles propios; imprime con sus valores predeterminados.</translation>
     </message>
@@ -1934,10 +1930,6 @@ Ejemplos:
     <message>
         <source>This printer has no PPD file and so no options: it gets the photo&apos;s file as it is, and places it on the page itself.</source>
         <translation>Esta impresora no tiene archivo PPD y por tanto ninguna opción: recibe el archivo de la foto tal cual y lo coloca ella misma en la página.</translation>
-    </message>
-    <message>
-        <source>The print server has not confirmed yet that the printer &quot;%1&quot; is there.</source>
-        <translation>El servidor de impresión aún no ha confirmado que la impresora «%1» esté ahí.</translation>
     </message>
     <message>
         <source>The options of &quot;%1&quot; have changed. Your choices were kept as far as the printer still has them; look at them before you print.</source>
@@ -2007,6 +1999,17 @@ Ejemplos:
     <message>
         <source>The printer &quot;%1&quot; is not there. %2</source>
         <translation>La impresora «%1» no está disponible. %2</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::PrinterController</name>
+    <message>
+        <source>The print server has not confirmed yet that the printer &quot;%1&quot; is there.</source>
+        <translation>El servidor de impresión aún no ha confirmado que la impresora «%1» esté ahí.</translation>
+    </message>
+    <message>
+        <source>The options of &quot;%1&quot; are being fetched from the print server.</source>
+        <translation>Se están obteniendo del servidor de impresión las opciones de «%1».</translation>
     </message>
 </context>
 <context>

@@ -1909,10 +1909,6 @@ Exemples&#x202f;:
         <translation>Dossier des fichiers imprimés</translation>
     </message>
     <message>
-        <source>The options of &quot;%1&quot; are being fetched from the print server.</source>
-        <translation>Les options de «&#x202f;%1&#x202f;» sont en cours de lecture sur le serveur d’impression.</translation>
-    </message>
-    <message>
         <source>This printer has no panels of its own; it prints with its defaults.</source>
         <translation>Cette imprimante n’a pas d’onglets propres&#x202f;; elle imprime avec ses réglages par défaut.</translation>
     </message>
@@ -1935,10 +1931,6 @@ Exemples&#x202f;:
     <message>
         <source>This printer has no PPD file and so no options: it gets the photo&apos;s file as it is, and places it on the page itself.</source>
         <translation>Cette imprimante n’a pas de fichier PPD, donc pas d’options&#xa0;: elle reçoit le fichier de la photo tel quel et le place elle-même sur la page.</translation>
-    </message>
-    <message>
-        <source>The print server has not confirmed yet that the printer &quot;%1&quot; is there.</source>
-        <translation>Le serveur d’impression n’a pas encore confirmé la présence de l’imprimante «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>The options of &quot;%1&quot; have changed. Your choices were kept as far as the printer still has them; look at them before you print.</source>
@@ -2008,6 +2000,17 @@ Exemples&#x202f;:
     <message>
         <source>The printer &quot;%1&quot; is not there. %2</source>
         <translation>L’imprimante «&#x202f;%1&#x202f;» n’est pas là. %2</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::PrinterController</name>
+    <message>
+        <source>The print server has not confirmed yet that the printer &quot;%1&quot; is there.</source>
+        <translation>Le serveur d’impression n’a pas encore confirmé la présence de l’imprimante « %1 ».</translation>
+    </message>
+    <message>
+        <source>The options of &quot;%1&quot; are being fetched from the print server.</source>
+        <translation>Les options de « %1 » sont en cours de lecture sur le serveur d’impression.</translation>
     </message>
 </context>
 <context>

@@ -1905,10 +1905,6 @@ Examples:
         <translation>印刷したファイルの保存先</translation>
     </message>
     <message>
-        <source>The options of &quot;%1&quot; are being fetched from the print server.</source>
-        <translation>「%1」のオプションをプリントサーバーから取得しています。</translation>
-    </message>
-    <message>
         <source>This printer has no panels of its own; it prints with its defaults.</source>
         <translation>このプリンターには専用の設定画面がありません。初期設定で印刷します。</translation>
     </message>
@@ -1931,10 +1927,6 @@ Examples:
     <message>
         <source>This printer has no PPD file and so no options: it gets the photo&apos;s file as it is, and places it on the page itself.</source>
         <translation>このプリンターには PPD ファイルがないため、オプションはありません。写真のファイルがそのまま送られ、配置はプリンターが行います。</translation>
-    </message>
-    <message>
-        <source>The print server has not confirmed yet that the printer &quot;%1&quot; is there.</source>
-        <translation>プリンター「%1」があることを、プリントサーバーはまだ確認していません。</translation>
     </message>
     <message>
         <source>The options of &quot;%1&quot; have changed. Your choices were kept as far as the printer still has them; look at them before you print.</source>
@@ -2004,6 +1996,17 @@ Examples:
     <message>
         <source>The printer &quot;%1&quot; is not there. %2</source>
         <translation>プリンター「%1」が見つかりません。%2</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::PrinterController</name>
+    <message>
+        <source>The print server has not confirmed yet that the printer &quot;%1&quot; is there.</source>
+        <translation>プリンター「%1」があることを、プリントサーバーはまだ確認していません。</translation>
+    </message>
+    <message>
+        <source>The options of &quot;%1&quot; are being fetched from the print server.</source>
+        <translation>「%1」のオプションをプリントサーバーから取得しています。</translation>
     </message>
 </context>
 <context>

@@ -1,0 +1,177 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "ChoiceController.h"
+#include "DialogSession.h"
+#include "PrintDialog.h"
+#include "PrinterController.h"
+#include "PrintingController.h"
+#include "ui_PrintDialog.h"
+
+namespace printdialog {
+
+namespace {
+
+const QString pageSizeKey = QStringLiteral("PageSize");
+
+} // namespace
+
+// The printer
+
+void PrintDialog::followPrinter()
+{
+    connect(printer_.get(), &PrinterController::printerChanged, this, [this] {
+        clearMessage();
+        ui_->status->show(printer_->queue());
+        showFolder(printer_->queue().isBuiltIn);
+    });
+    connect(printer_.get(), &PrinterController::optionsAwaited, this, [this] { showFolder(false); });
+    connect(printer_.get(), &PrinterController::queueUpdated, this,
+            [this] { ui_->status->show(printer_->queue()); });
+    connect(printer_.get(), &PrinterController::unconfirmedShown, ui_->status,
+            &PrinterStatus::showUnconfirmed);
+    connect(printer_.get(), &PrinterController::sessionClosing, this, &PrintDialog::closeSession);
+    connect(printer_.get(), &PrinterController::sessionOpened, this, &PrintDialog::showSession);
+    connect(printer_.get(), &PrinterController::sessionReplaced, this, &PrintDialog::showReplacement);
+    connect(printer_.get(), &PrinterController::confirmed, this, [this](const QString &doubt) {
+        if (ui_->message->text() == doubt)
+            ui_->message->clear(); // the print server is back
+    });
+    connect(printer_.get(), &PrinterController::unusable, this, &PrintDialog::showUnusable);
+    connect(printer_.get(), &PrinterController::readinessChanged, this, &PrintDialog::updateButtons);
+    connect(printer_.get(), &PrinterController::warned, this,
+            [this](const QString &text) { ui_->message->show(MessageBar::Kind::Warning, text); });
+}
+
+/// Photos that could not be opened are named until the user does something about the printer.
+void PrintDialog::clearMessage()
+{
+    ui_->message->clear();
+    if (!setup_.photoFailures.isEmpty() && !printer_->wasChosenHere())
+        ui_->message->show(MessageBar::Kind::Error, setup_.photoFailures.join(u'\n'));
+}
+
+void PrintDialog::showUnusable()
+{
+    if (printer_->queue().isBuiltIn)
+        ui_->message->show(MessageBar::Kind::Error, printer_->whyNotReady());
+    else
+        ui_->message->showWithAction(MessageBar::Kind::Error, printer_->whyNotReady(),
+                                     tr("Use the Built-in Printer"),
+                                     [this] { ui_->printer->chooseBuiltIn(); });
+    updateButtons();
+}
+
+void PrintDialog::showFolder(bool isBuiltIn)
+{
+    ui_->folderLabel->setVisible(isBuiltIn);
+    ui_->folder->setVisible(isBuiltIn);
+    ui_->browse->setVisible(isBuiltIn);
+}
+
+// Its session
+
+void PrintDialog::closeSession()
+{
+    choices_->setSession(nullptr);
+    ui_->panels->setSession(nullptr);
+    printing_->setSession(nullptr);
+    ui_->pageSize->clear();
+}
+
+void PrintDialog::showSession()
+{
+    DialogSession *session = printer_->session();
+    connect(&session->chosen(), &ChosenOptions::changed, this, [this](const ChoiceChange &change) {
+        ui_->message->clear();
+        if (change.key == pageSizeKey)
+            showPageSize();
+    });
+    // Not at once: it is part of what is being done, which has its own messages.
+    connect(session, &DialogSession::panelFailed, this, &PrintDialog::showPanelFailure, Qt::QueuedConnection);
+    printing_->setSession(session);
+    const auto noPanels = session->loadPanels();
+    choices_->setSession(session, printer_->builtInPreset());
+    if (applyOptions())
+        session->refreshPanels();
+    fillPageSizes();
+    choices_->start();
+    ui_->panels->setSession(session);
+    if (noPanels)
+        ui_->message->show(noPanels->reason == PluginFault::NotFound ? MessageBar::Kind::Information
+                                                                     : MessageBar::Kind::Error,
+                           noPanels->text);
+    else if (!session->printer().hasPpd && message().isEmpty())
+        ui_->message->show(
+            MessageBar::Kind::Information,
+            tr("This printer has no PPD file and so no options: it gets the photo's file as it is, "
+               "and places it on the page itself."));
+    else if (session->panels().empty() && message().isEmpty())
+        ui_->message->show(MessageBar::Kind::Information,
+                           tr("This printer has no panels of its own; it prints with its defaults."));
+    updateButtons();
+}
+
+void PrintDialog::showReplacement(const QMap<QString, QString> &choices)
+{
+    const int copies = ui_->copies->value();
+    showSession();
+    printer_->session()->restoreChoices(choices, DialogSession::Unnamed::Default);
+    ui_->copies->setValue(copies);
+    fillPageSizes();
+    choices_->start();
+    ui_->message->show(MessageBar::Kind::Warning,
+                       tr("The options of \"%1\" have changed. Your choices were kept as far as the printer "
+                          "still has them; look at them before you print.")
+                           .arg(printer_->queue().id()));
+}
+
+void PrintDialog::showPanelFailure(const QString &sentence)
+{
+    if (ui_->message->isAsking())
+        return; // a page that is lost says so itself
+    const QString before = ui_->message->text();
+    ui_->message->show(MessageBar::Kind::Error, before.isEmpty() ? sentence : before + u'\n' + sentence);
+}
+
+// The options asked for hold until the user chooses another printer, which has choices of its own.
+bool PrintDialog::applyOptions()
+{
+    if (printer_->wasChosenHere())
+        return false;
+    if (setup_.copies)
+        ui_->copies->setValue(*setup_.copies);
+    for (const auto &[key, choice] : std::as_const(setup_.options)) {
+        const Ruling ruling = printer_->session()->choose(key, choice);
+        if (ruling.verdict != Verdict::Accepted)
+            ui_->message->show(MessageBar::Kind::Warning, ruling.text);
+    }
+    return !setup_.options.isEmpty();
+}
+
+// The page
+
+void PrintDialog::fillPageSizes()
+{
+    ui_->pageSize->clear();
+    for (const PageSize &size : printer_->session()->ppd().pageSizes())
+        ui_->pageSize->addItem(size.text, size.keyword);
+    showPageSize();
+}
+
+void PrintDialog::choosePageSize(int index)
+{
+    choices_->choosePageSize(ui_->pageSize->itemData(index).toString());
+    if (printer_->session())
+        showPageSize();
+}
+
+void PrintDialog::showPageSize()
+{
+    const QString chosen = printer_->session()->chosen(pageSizeKey).value_or(QString());
+    ui_->pageSize->setCurrentIndex(ui_->pageSize->findData(chosen));
+    if (const auto size = printer_->session()->ppd().pageSize(chosen))
+        ui_->photos->setPage({size->points, size->imageable});
+}
+
+} // namespace printdialog

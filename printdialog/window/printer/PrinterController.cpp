@@ -1,0 +1,272 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "PrinterController.h"
+
+#include "PpdFetcher.h"
+#include "PrinterChooser.h"
+#include "QueueCache.h"
+#include "UserDestinations.h"
+
+#include <utility>
+
+namespace printdialog {
+
+namespace {
+
+/// What differs from the PPD's defaults.
+QMap<QString, QString> ownChoices(DialogSession &session)
+{
+    // Has the panels hand over what they keep; whether it goes together does not matter here.
+    [[maybe_unused]] const auto job = session.jobOptions();
+    QMap<QString, QString> choices;
+    for (const QString &key : session.ppd().options()) {
+        const std::optional<QString> choice = session.chosen(key);
+        if (choice && choice != session.ppd().defaultChoice(key))
+            choices.insert(key, *choice);
+    }
+    return choices;
+}
+
+SessionResult openCached(const RememberedQueue &remembered, PanelMode mode)
+{
+    if (remembered.ppd.isEmpty())
+        return openRawQueue(remembered.queue, mode);
+    const auto ppd = trustPpd(remembered.ppd, remembered.queue.id());
+    if (!ppd)
+        return ppd.failure();
+    return openQueue(remembered.queue, *ppd, mode);
+}
+
+} // namespace
+
+PrinterController::PrinterController(const Request &request)
+    : request_(request)
+    , fetcher_(new PpdFetcher(this))
+{
+    std::optional<RememberedQueue> remembered;
+    if (request_.remembers && !request_.ppdFile)
+        remembered = QueueCache::load();
+    // What the user has chosen comes before a default, which is asked for like one that is named.
+    if (!request_.printer && !request_.ppdFile && !(remembered && remembered->wasChosen))
+        request_.printer = UserDestinations::read().defaultPrinter;
+    if (request_.printer && request_.printer->isBuiltIn()) {
+        builtInPreset_ = request_.printer->instance;
+        request_.printer = Destination::builtIn();
+    }
+    if (remembered && (!request_.printer || *request_.printer == remembered->queue.destination()))
+        remembered_ = std::make_unique<RememberedQueue>(*std::move(remembered));
+    if (request_.printer && *request_.printer != Destination::builtIn() && !request_.ppdFile)
+        fetcher_->fetchAhead(*request_.printer);
+    connect(fetcher_, &PpdFetcher::fetched, this,
+            [this](quint64 /*number*/, const CheckedPpd &ppd) { usePpd(ppd); });
+    connect(fetcher_, &PpdFetcher::failed, this,
+            [this](quint64 /*number*/, QueueFault reason, const QString &text) { useFailure(reason, text); });
+}
+
+PrinterController::~PrinterController() = default;
+
+void PrinterController::start(PrinterChooser *chooser)
+{
+    chooser_ = chooser;
+    connect(chooser_, &PrinterChooser::printerChosen, this, &PrinterController::open);
+    connect(chooser_, &PrinterChooser::currentUpdated, this, &PrinterController::updateQueue);
+    connect(chooser_, &PrinterChooser::searchFailed, this, &PrinterController::reportSearchFailure);
+    connect(chooser_, &PrinterChooser::currentRemoved, this, &PrinterController::warned);
+    openFirst();
+}
+
+void PrinterController::search()
+{
+    if (!request_.ppdFile)
+        chooser_->search(request_.printer);
+}
+
+bool PrinterController::wasChosenHere() const
+{
+    return chooser_->selection().state() == PrinterSelection::State::Chosen;
+}
+
+// Which printer is shown
+
+void PrinterController::openFirst()
+{
+    const Queue builtIn = Queue::builtIn();
+    const auto remembered = std::exchange(remembered_, nullptr);
+    if (remembered && !remembered->queue.isBuiltIn) {
+        openRemembered(*remembered);
+    } else if (request_.printer && *request_.printer != builtIn.destination() && !request_.ppdFile) {
+        chooser_->await(request_.printer->id());
+        awaitOptions(request_.printer->id());
+    } else {
+        if (remembered && remembered->wasChosen)
+            chooser_->recall(builtIn, PrinterSelection::State::Used);
+        open(builtIn);
+    }
+}
+
+void PrinterController::openRemembered(const RememberedQueue &remembered)
+{
+    queue_ = remembered.queue;
+    using State = PrinterSelection::State;
+    const State unchosen = request_.printer ? State::Kept : State::Open;
+    chooser_->recall(queue_, remembered.wasChosen ? State::Used : unchosen);
+    SessionResult session = openCached(remembered, request_.mode);
+    awaitOptions(queue_.id());
+    Q_EMIT unconfirmedShown();
+    if (session)
+        setSession(*std::move(session));
+    whyNotReady_ =
+        tr("The print server has not confirmed yet that the printer \"%1\" is there.").arg(queue_.id());
+    Q_EMIT readinessChanged();
+}
+
+void PrinterController::open(const Queue &queue)
+{
+    queue_ = queue;
+    Q_EMIT printerChanged();
+    if (!queue.isBuiltIn) {
+        awaitOptions(queue.id());
+        fetcher_->fetch(queue.destination());
+        return;
+    }
+    fetcher_->cancel();
+    use(openBuiltInPrinter(request_.ppdFile, request_.mode));
+    if (chooser_->selection().isUsersChoice())
+        remember();
+}
+
+void PrinterController::updateQueue(const Queue &queue)
+{
+    queue_ = queue;
+    Q_EMIT queueUpdated();
+    if (!chooser_->selection().hasOldOptions())
+        return;
+    const bool hasPpd = session_ && session_->printer().hasPpd;
+    fetcher_->fetch(queue.destination(), hasPpd ? std::optional(session_->ppd().checked()) : std::nullopt);
+}
+
+void PrinterController::reportSearchFailure(const QString &text)
+{
+    if (chooser_->selection().isConfirmed())
+        Q_EMIT warned(text);
+    else if (chooser_->currentIndex() < 0)
+        closeSession(text);
+    else
+        makeUnusable(text);
+}
+
+void PrinterController::makeUnusable(const QString &reason)
+{
+    whyNotReady_ = reason;
+    Q_EMIT unusable();
+}
+
+void PrinterController::awaitOptions(const QString &id)
+{
+    Q_EMIT optionsAwaited();
+    closeSession({});
+    whyNotReady_ = tr("The options of \"%1\" are being fetched from the print server.").arg(id);
+    Q_EMIT readinessChanged();
+}
+
+void PrinterController::notePrinted()
+{
+    chooser_->selection().used();
+    remember();
+}
+
+void PrinterController::remember()
+{
+    if (!request_.remembers || request_.ppdFile || !session_)
+        return;
+    const bool hasPpd = !queue_.isBuiltIn && session_->printer().hasPpd;
+    QueueCache::save(
+        {queue_, hasPpd ? session_->ppd().data() : QByteArray(), chooser_->selection().isUsersChoice()});
+}
+
+// Its options
+
+void PrinterController::renewOptions(const QString &reason)
+{
+    whyNotReady_ = reason;
+    Q_EMIT readinessChanged();
+    fetcher_->fetch(queue_.destination());
+}
+
+void PrinterController::usePpd(const CheckedPpd &ppd)
+{
+    if (session_ && session_->printer().hasPpd && session_->ppd().data() == ppd.data())
+        confirm();
+    else
+        replaceSession(openQueue(queue_, ppd, request_.mode));
+}
+
+// A queue without a PPD prints as well: there is nothing to choose then.
+void PrinterController::useFailure(QueueFault reason, const QString &text)
+{
+    if (reason != QueueFault::NoPpd)
+        closeSession(text);
+    else if (session_ && !session_->printer().hasPpd)
+        confirm();
+    else
+        replaceSession(openRawQueue(queue_, request_.mode));
+}
+
+// What is shown from an earlier time is what the print server has.
+void PrinterController::confirm()
+{
+    chooser_->selection().confirmOptions();
+    Q_EMIT confirmed(std::exchange(whyNotReady_, QString()));
+    remember();
+    Q_EMIT readinessChanged();
+}
+
+void PrinterController::use(SessionResult session)
+{
+    if (session)
+        setSession(*std::move(session));
+    else
+        closeSession(session.failure().text);
+}
+
+/// Choices made from the options shown before are kept as far as the printer still has them.
+void PrinterController::replaceSession(SessionResult session)
+{
+    if (!session) {
+        closeSession(session.failure().text);
+        return;
+    }
+    const auto kept = session_ ? std::optional(ownChoices(*session_)) : std::nullopt;
+    chooser_->selection().confirmOptions();
+    if (kept) {
+        Q_EMIT sessionClosing();
+        session_ = *std::move(session);
+        whyNotReady_.clear();
+        Q_EMIT sessionReplaced(*kept);
+    } else {
+        setSession(*std::move(session));
+    }
+    remember();
+}
+
+void PrinterController::setSession(std::unique_ptr<DialogSession> session)
+{
+    Q_EMIT sessionClosing();
+    session_ = std::move(session);
+    whyNotReady_.clear();
+    Q_EMIT sessionOpened();
+}
+
+void PrinterController::closeSession(const QString &reason)
+{
+    Q_EMIT sessionClosing();
+    session_.reset();
+    whyNotReady_ = reason;
+    if (reason.isEmpty())
+        Q_EMIT readinessChanged();
+    else
+        Q_EMIT unusable();
+}
+
+} // namespace printdialog
