@@ -33,7 +33,7 @@ bool picture(const QDir &folder, const QString &name,
         return false;
     if (opened.find<QLineEdit>(u"folder"_s)->hasFocus())
         opened.find<QComboBox>(u"printer"_s)->setFocus();
-    QTest::qWait(100);
+    QCoreApplication::processEvents(); // what it shows has changed the layout
     const QImage image = opened.dialog->grab().toImage().convertToFormat(QImage::Format_RGB888);
     return image.save(folder.filePath(name + u".png"_s), "PNG", 0);
 }
