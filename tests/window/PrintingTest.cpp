@@ -19,18 +19,147 @@ class PrintingTest : public WindowTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
-    void manyPhotosAreOneLine();
-    void progressCoversAllPhotos();
-    void longMessagesGrowNothing();
-    void stopping_data();
-    void stopping();
-    void closing();
+    void initTestCase()
+    {
+        for (int i = 1; i <= count; ++i)
+            QVERIFY(QFile::copy(QStringLiteral(CORVEL_SAMPLE_PHOTO),
+                                photos_.filePath(u"photo%1.jpg"_s.arg(i, 2, 10, QLatin1Char('0')))));
+    }
+
+    void manyPhotosAreOneLine()
+    {
+        const OpenedDialog opened(setup());
+        const QSize size(800, 500);
+        opened.dialog->resize(size);
+        opened.dialog->print();
+        QTRY_VERIFY(isIdle(opened));
+        QCOMPARE(opened.message(),
+                 u"Printed 16 photos in the folder %1"_s.arg(opened.folder.filePath(u"out"_s)));
+        QCOMPARE(printed(opened).size(), count);
+        QCOMPARE(opened.find<QPushButton>(u"cancel"_s)->text(), u"Close"_s);
+        auto *details = opened.find<QWidget>(u"messageDetailText"_s);
+        QVERIFY(!details->isVisible());
+        opened.click(u"messageDetails"_s);
+        QTRY_VERIFY(details->isVisible() && isWhollySeen(opened.find<QWidget>(u"print"_s)));
+        QCOMPARE(details->accessibleName().count(u'\n'), count - 1);
+        QVERIFY(details->accessibleName().contains(u"photo11.pdf"_s));
+        QVERIFY(details->height() < size.height() / 4);
+        QCOMPARE(opened.dialog->size(), size);
+        // The next message is not about these photos.
+        opened.dialog->saveSettings();
+        QVERIFY(!details->isVisible() && !opened.find<QWidget>(u"messageDetails"_s)->isVisible());
+    }
+
+    void progressCoversAllPhotos()
+    {
+        const OpenedDialog opened(setup());
+        const auto *bar = opened.find<QProgressBar>(QString());
+        const auto *progress = opened.find<QWidget>(u"progress"_s);
+        QVERIFY(!progress->isVisible());
+        opened.dialog->print();
+        QVERIFY(progress->isVisible());
+        QCOMPARE(opened.find<QPushButton>(u"cancel"_s)->text(), u"Stop"_s);
+        QList<int> values;
+        QStringList texts;
+        while (!isIdle(opened)) {
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+            if (bar->maximum() > 0 && progress->isVisible() &&
+                (values.isEmpty() || values.last() != bar->value())) {
+                values.append(bar->value());
+                texts.append(opened.find<QWidget>(u"progressText"_s)->accessibleName());
+            }
+        }
+        QVERIFY(std::ranges::is_sorted(values));
+        QVERIFY2(values.size() > 5 && values.last() > bar->maximum() / 2,
+                 qPrintable(QString::number(values.size())));
+        QVERIFY2(texts.last().contains(u" of 16"_s) && texts.last().contains(u"photo"_s),
+                 qPrintable(texts.last()));
+        QVERIFY(!progress->isVisible());
+    }
+
+    void longMessagesGrowNothing()
+    {
+        const OpenedDialog opened;
+        const QSize size(800, 500);
+        opened.dialog->resize(size);
+        QStringList missing;
+        for (int i = 0; i < 60; ++i)
+            missing.append(photos_.filePath(u"missing%1.jpg"_s.arg(i)));
+        opened.find<PhotoPane>(u"photos"_s)->addFiles(missing);
+        QTRY_VERIFY(opened.message().contains(u"missing59"_s));
+        opened.find<MessageBar>(u"message"_s)
+            ->showWithAction(MessageBar::Kind::Warning, opened.message(), QString(u'W').repeated(900), {});
+        QTRY_VERIFY(isWhollySeen(opened.find<QWidget>(u"messageAction"_s)));
+        QCOMPARE(opened.dialog->size(), size);
+        for (const QString &name : {u"print"_s, u"cancel"_s, u"printer"_s})
+            QVERIFY2(isWhollySeen(opened.find<QWidget>(name)), qPrintable(name));
+    }
+
+    void stopping_data()
+    {
+        addRows<QList<Qt::Key>, bool>({
+            {"button", {}, true},
+            {"Escape, and Return to the question", {Qt::Key_Escape, Qt::Key_Return}, true},
+            {"Escape, and the other answer", {Qt::Key_Escape, Qt::Key_Tab, Qt::Key_Return}, false},
+            {"Escape twice", {Qt::Key_Escape, Qt::Key_Escape}, false},
+        });
+    }
+
+    void stopping()
+    {
+        const auto [keys, stops] = row<QList<Qt::Key>, bool>();
+        const OpenedDialog opened(setup());
+        opened.dialog->print();
+        if (keys.isEmpty())
+            opened.click(u"cancel"_s);
+        for (const Qt::Key key : keys)
+            opened.press(key);
+        QVERIFY(!opened.find<QWidget>(u"messageAction"_s) ||
+                !opened.find<MessageBar>(u"message"_s)->isAsking());
+        QTRY_VERIFY(isIdle(opened));
+        QVERIFY(opened.dialog->isVisible());
+        const auto there = static_cast<int>(printed(opened).size());
+        if (stops) {
+            QVERIFY(there < count);
+            QCOMPARE(opened.message(), u"Printing was stopped: printed %1 of 16 photos."_s.arg(there));
+        } else {
+            QCOMPARE(there, count);
+        }
+        QTest::keyClick(opened.dialog.get(), Qt::Key_Escape);
+        QVERIFY(opened.dialog->isHidden());
+    }
+
+    // It says what becomes of the photos, and goes when that is confirmed, or when it is closed once more.
+    void closing()
+    {
+        for (const bool byButton : {false, true}) {
+            const OpenedDialog opened(setup());
+            opened.dialog->print();
+            opened.dialog->close();
+            QVERIFY(opened.dialog->isVisible());
+            QVERIFY2(opened.message().contains(u"The rest"_s), qPrintable(opened.message()));
+            if (byButton)
+                opened.click(u"messageAction"_s);
+            else
+                opened.dialog->close();
+            QVERIFY(opened.dialog->isHidden());
+            QTRY_VERIFY(isIdle(opened));
+            QVERIFY(printed(opened).size() < count);
+        }
+    }
 
 private:
     static constexpr int count = 16;
 
-    PrintDialogSetup setup() const;
+    PrintDialogSetup setup() const
+    {
+        PrintDialogSetup setup = setupFor(PanelMode::Constraint);
+        setup.photos.clear();
+        for (const QString &name : QDir(photos_.path()).entryList(QDir::Files))
+            setup.photos.append(*Photo::open(photos_.filePath(name)));
+        return setup;
+    }
+
     static QStringList printed(const OpenedDialog &opened)
     {
         return QDir(opened.folder.filePath(u"out"_s)).entryList({u"*.pdf"_s});
@@ -42,142 +171,6 @@ private:
 
     QTemporaryDir photos_;
 };
-
-void PrintingTest::initTestCase()
-{
-    for (int i = 1; i <= count; ++i)
-        QVERIFY(QFile::copy(QStringLiteral(CORVEL_SAMPLE_PHOTO),
-                            photos_.filePath(u"photo%1.jpg"_s.arg(i, 2, 10, QLatin1Char('0')))));
-}
-
-PrintDialogSetup PrintingTest::setup() const
-{
-    PrintDialogSetup setup = setupFor(PanelMode::Constraint);
-    setup.photos.clear();
-    for (const QString &name : QDir(photos_.path()).entryList(QDir::Files))
-        setup.photos.append(*Photo::open(photos_.filePath(name)));
-    return setup;
-}
-
-void PrintingTest::manyPhotosAreOneLine()
-{
-    const OpenedDialog opened(setup());
-    const QSize size(800, 500);
-    opened.dialog->resize(size);
-    opened.dialog->print();
-    QTRY_VERIFY(isIdle(opened));
-    QCOMPARE(opened.message(), u"Printed 16 photos in the folder %1"_s.arg(opened.folder.filePath(u"out"_s)));
-    QCOMPARE(printed(opened).size(), count);
-    QCOMPARE(opened.find<QPushButton>(u"cancel"_s)->text(), u"Close"_s);
-    auto *details = opened.find<QWidget>(u"messageDetailText"_s);
-    QVERIFY(!details->isVisible());
-    opened.click(u"messageDetails"_s);
-    QTRY_VERIFY(details->isVisible() && isWhollySeen(opened.find<QWidget>(u"print"_s)));
-    QCOMPARE(details->accessibleName().count(u'\n'), count - 1);
-    QVERIFY(details->accessibleName().contains(u"photo11.pdf"_s));
-    QVERIFY(details->height() < size.height() / 4);
-    QCOMPARE(opened.dialog->size(), size);
-    // The next message is not about these photos.
-    opened.dialog->saveSettings();
-    QVERIFY(!details->isVisible() && !opened.find<QWidget>(u"messageDetails"_s)->isVisible());
-}
-
-void PrintingTest::progressCoversAllPhotos()
-{
-    const OpenedDialog opened(setup());
-    const auto *bar = opened.find<QProgressBar>(QString());
-    const auto *progress = opened.find<QWidget>(u"progress"_s);
-    QVERIFY(!progress->isVisible());
-    opened.dialog->print();
-    QVERIFY(progress->isVisible());
-    QCOMPARE(opened.find<QPushButton>(u"cancel"_s)->text(), u"Stop"_s);
-    QList<int> values;
-    QStringList texts;
-    while (!isIdle(opened)) {
-        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
-        if (bar->maximum() > 0 && progress->isVisible() &&
-            (values.isEmpty() || values.last() != bar->value())) {
-            values.append(bar->value());
-            texts.append(opened.find<QWidget>(u"progressText"_s)->accessibleName());
-        }
-    }
-    QVERIFY(std::ranges::is_sorted(values));
-    QVERIFY2(values.size() > 5 && values.last() > bar->maximum() / 2,
-             qPrintable(QString::number(values.size())));
-    QVERIFY2(texts.last().contains(u" of 16"_s) && texts.last().contains(u"photo"_s),
-             qPrintable(texts.last()));
-    QVERIFY(!progress->isVisible());
-}
-
-void PrintingTest::longMessagesGrowNothing()
-{
-    const OpenedDialog opened;
-    const QSize size(800, 500);
-    opened.dialog->resize(size);
-    QStringList missing;
-    for (int i = 0; i < 60; ++i)
-        missing.append(photos_.filePath(u"missing%1.jpg"_s.arg(i)));
-    opened.find<PhotoPane>(u"photos"_s)->addFiles(missing);
-    QTRY_VERIFY(opened.message().contains(u"missing59"_s));
-    opened.find<MessageBar>(u"message"_s)
-        ->showWithAction(MessageBar::Kind::Warning, opened.message(), QString(u'W').repeated(900), {});
-    QTRY_VERIFY(isWhollySeen(opened.find<QWidget>(u"messageAction"_s)));
-    QCOMPARE(opened.dialog->size(), size);
-    for (const QString &name : {u"print"_s, u"cancel"_s, u"printer"_s})
-        QVERIFY2(isWhollySeen(opened.find<QWidget>(name)), qPrintable(name));
-}
-
-void PrintingTest::stopping_data()
-{
-    addRows<QList<Qt::Key>, bool>({
-        {"button", {}, true},
-        {"Escape, and Return to the question", {Qt::Key_Escape, Qt::Key_Return}, true},
-        {"Escape, and the other answer", {Qt::Key_Escape, Qt::Key_Tab, Qt::Key_Return}, false},
-        {"Escape twice", {Qt::Key_Escape, Qt::Key_Escape}, false},
-    });
-}
-
-void PrintingTest::stopping()
-{
-    const auto [keys, stops] = row<QList<Qt::Key>, bool>();
-    const OpenedDialog opened(setup());
-    opened.dialog->print();
-    if (keys.isEmpty())
-        opened.click(u"cancel"_s);
-    for (const Qt::Key key : keys)
-        opened.press(key);
-    QVERIFY(!opened.find<QWidget>(u"messageAction"_s) || !opened.find<MessageBar>(u"message"_s)->isAsking());
-    QTRY_VERIFY(isIdle(opened));
-    QVERIFY(opened.dialog->isVisible());
-    const auto there = static_cast<int>(printed(opened).size());
-    if (stops) {
-        QVERIFY(there < count);
-        QCOMPARE(opened.message(), u"Printing was stopped: printed %1 of 16 photos."_s.arg(there));
-    } else {
-        QCOMPARE(there, count);
-    }
-    QTest::keyClick(opened.dialog.get(), Qt::Key_Escape);
-    QVERIFY(opened.dialog->isHidden());
-}
-
-// It says what becomes of the photos, and goes when that is confirmed, or when it is closed once more.
-void PrintingTest::closing()
-{
-    for (const bool byButton : {false, true}) {
-        const OpenedDialog opened(setup());
-        opened.dialog->print();
-        opened.dialog->close();
-        QVERIFY(opened.dialog->isVisible());
-        QVERIFY2(opened.message().contains(u"The rest"_s), qPrintable(opened.message()));
-        if (byButton)
-            opened.click(u"messageAction"_s);
-        else
-            opened.dialog->close();
-        QVERIFY(opened.dialog->isHidden());
-        QTRY_VERIFY(isIdle(opened));
-        QVERIFY(printed(opened).size() < count);
-    }
-}
 
 CORVEL_WIDGETS_TEST(PrintingTest)
 #include "PrintingTest.moc"

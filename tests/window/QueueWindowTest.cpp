@@ -16,279 +16,263 @@ class QueueWindowTest : public QueueTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
-    void init();
-    void queueUsedLastIsShownAtOnce();
-    void rememberedPrivately();
-    void changedPpdKeepsWhatItCan();
-    void rememberedQueueThatIsGone();
-    void lateDefaultReplacesNothingTouched();
-    void rememberedDefaultGivesWayToTheDefault();
-    void ppdThatChangesBeforePrinting();
-    void queueWithoutPpd();
-    void statusIsShownInWords();
-    void failingAndStoppedJobs();
-    void manyJobs();
+    void initTestCase()
+    {
+        QueueTest::initTestCase();
+        QVERIFY(cupsd_.addQueue(u"raw"_s));
+        QVERIFY(cupsd_.addQueue(u"odd"_s, ppd_, {u"-v"_s, u"scripted:/"_s}));
+    }
+
+    void init()
+    {
+        WindowTest::init();
+        QVERIFY(cupsd_.addQueue(u"photo"_s, ppd_));
+    }
+
+    // With its panels, which can be used; but nothing is printed on what the server may not have any more.
+    void queueUsedLastIsShownAtOnce()
+    {
+        remember(u"photo"_s);
+        const OpenedDialog opened(setupForPrinter());
+        QCOMPARE(opened.dialog->printer(), u"photo"_s);
+        QVERIFY(!opened.isSeen(u"folder"_s));
+        opened.type(81, u"9"_s);
+        QVERIFY(!opened.find<QPushButton>(u"print"_s)->isEnabled());
+        opened.dialog->print();
+        QTest::keyClick(opened.dialog.get(), Qt::Key_P, Qt::ControlModifier);
+        QVERIFY2(cupsd_.activeJobs().isEmpty(), cupsd_.activeJobs().constData());
+        QVERIFY(opened.dialog->whyNotReady().contains(u"photo"_s));
+
+        opened.dialog->searchPrinters();
+        QTRY_VERIFY(opened.dialog->isReady());
+        QCOMPARE(opened.fieldText(81), u"9"_s);
+        QCOMPARE(opened.message(), QString());
+        QVERIFY(hasOption(print(opened), "Red=9"));
+    }
+
+    void rememberedPrivately()
+    {
+        remember(u"photo"_s);
+        const QFileInfo file(QueueCache::file());
+        QVERIFY(file.filePath().startsWith(config_->filePath(u"cache"_s)));
+        QCOMPARE(file.permissions() &
+                     (QFile::ReadGroup | QFile::ReadOther | QFile::WriteGroup | QFile::WriteOther),
+                 QFile::Permissions());
+        QCOMPARE(QFileInfo(file.path()).permissions() & (QFile::ReadOther | QFile::ExeOther),
+                 QFile::Permissions());
+        // Nobody else may put a printer there; what is broken is as good as nothing.
+        QVERIFY(
+            QFile::setPermissions(file.filePath(), QFile::ReadOwner | QFile::WriteOwner | QFile::WriteOther));
+        QVERIFY(!QueueCache::load());
+        QVERIFY(QFile::setPermissions(file.filePath(), QFile::ReadOwner | QFile::WriteOwner));
+        QVERIFY(QueueCache::load());
+        QVERIFY(QFile::resize(file.filePath(), file.size() / 2));
+        const OpenedDialog opened(setupForPrinter());
+        QCOMPARE(opened.dialog->printer(), u"built-in"_s);
+        // A printer whose PPD is too large to be kept does not leave the one before in its place.
+        QueueCache::save({queueNamed(u"large"_s), "*PPD-Adobe", true});
+        QVERIFY(QueueCache::load());
+        QueueCache::save({queueNamed(u"large"_s), QByteArray(4 << 20, '*'), true});
+        QVERIFY(!QueueCache::load());
+        // A name that has to be cleaned is not changed into another one.
+        QueueCache::save({queueNamed(u"pho\u0007to"_s), {}, true});
+        QVERIFY(!QueueCache::load());
+        // Another print server's queues are none of this one's.
+        const QByteArray server = qgetenv("CUPS_SERVER");
+        qputenv("CUPS_SERVER", "elsewhere.example:631");
+        const QString other = QueueCache::file();
+        qputenv("CUPS_SERVER", server);
+        QVERIFY(other != file.filePath());
+    }
+
+    void changedPpdKeepsWhatItCan()
+    {
+        remember(u"photo"_s);
+        QVERIFY(cupsd_.addQueue(u"photo"_s, reduced_));
+        const OpenedDialog opened(setupForPrinter());
+        opened.type(81, u"9"_s);
+        opened.type(82, u"8"_s);
+        opened.dialog->searchPrinters();
+        QTRY_VERIFY(opened.dialog->isReady());
+        QVERIFY2(opened.message().contains(u"have changed"_s), qPrintable(opened.message()));
+        QCOMPARE(opened.fieldTexts({81, 82}), u"0 8"_s);
+    }
+
+    void rememberedQueueThatIsGone()
+    {
+        remember(u"photo"_s);
+        QVERIFY(cupsd_.deleteQueue(u"photo"_s));
+        const OpenedDialog opened(setupForPrinter());
+        QCOMPARE(opened.dialog->printer(), u"photo"_s);
+        opened.dialog->searchPrinters();
+        QTRY_COMPARE(opened.dialog->printer(), u"built-in"_s);
+        QVERIFY(opened.dialog->isReady());
+        QVERIFY2(opened.message().contains(u"\"photo\""_s), qPrintable(opened.message()));
+        QVERIFY(!isListed(opened, u"photo"_s));
+    }
+
+    void lateDefaultReplacesNothingTouched()
+    {
+        QVERIFY(cupsd_.run(u"lpadmin"_s, {u"-d"_s, u"photo"_s}));
+        const OpenedDialog touched(setupForPrinter());
+        touched.type(81, u"9"_s);
+        touched.dialog->searchPrinters();
+        QTRY_VERIFY(isListed(touched, u"photo"_s));
+        QTest::qWait(100);
+        QCOMPARE(touched.dialog->printer(), u"built-in"_s);
+        QCOMPARE(touched.fieldText(81), u"9"_s);
+        const OpenedDialog untouched(setupForPrinter());
+        QTest::keyClick(untouched.dialog.get(), Qt::Key_Tab); // a look round
+        untouched.dialog->searchPrinters();
+        QTRY_COMPARE(untouched.dialog->printer(), u"photo"_s);
+        QVERIFY(cupsd_.run(u"lpadmin"_s, {u"-x"_s, u"photo"_s}));
+    }
+
+    // What the user has chosen stays; what was merely the default does not outlive it.
+    void rememberedDefaultGivesWayToTheDefault()
+    {
+        for (const bool wasChosen : {false, true}) {
+            QueueCache::save({queueNamed(u"odd"_s), ppd_, wasChosen});
+            QVERIFY(cupsd_.run(u"lpadmin"_s, {u"-d"_s, u"photo"_s}));
+            const OpenedDialog opened(setupForPrinter());
+            QCOMPARE(opened.dialog->printer(), u"odd"_s);
+            opened.dialog->searchPrinters();
+            QTRY_VERIFY(isListed(opened, u"photo"_s) && opened.dialog->isReady());
+            QCOMPARE(opened.dialog->printer(), wasChosen ? u"odd"_s : u"photo"_s);
+        }
+    }
+
+    void ppdThatChangesBeforePrinting()
+    {
+        const OpenedDialog opened(setupForPrinter());
+        choose(opened, u"photo"_s);
+        opened.type(81, u"9"_s);
+        opened.type(82, u"8"_s);
+        QVERIFY(cupsd_.addQueue(u"photo"_s, reduced_));
+        opened.dialog->print();
+        QTRY_VERIFY(opened.message().contains(u"kept as far"_s));
+        QVERIFY2(cupsd_.activeJobs().isEmpty(), cupsd_.activeJobs().constData());
+        QVERIFY(opened.dialog->isReady());
+        QCOMPARE(opened.fieldText(81), u"0"_s);
+        const int id = print(opened);
+        QVERIFY(hasOption(id, "Red=0") && hasOption(id, "Green=8"));
+    }
+
+    void queueWithoutPpd()
+    {
+        const OpenedDialog opened(setupForPrinter());
+        choose(opened, u"raw"_s);
+        QVERIFY(opened.message().contains(u"no PPD"_s));
+        QCOMPARE(opened.find<QComboBox>(u"pageSize"_s)->count(), 1);
+        const RecordedJob job = cupsd_.job(print(opened));
+        QVERIFY(job.document == setupForPrinter().photos.constFirst().content());
+        QVERIFY(!job.options.contains("PageSize"));
+    }
+
+    void statusIsShownInWords()
+    {
+        QVERIFY(cupsd_.setBackendScript(
+            "echo 'ATTR: marker-names=Ribbon marker-types=ribbon marker-levels=42' >&2\n"
+            "echo 'STATE: +media-empty-warning' >&2\nexit 0"));
+        const OpenedDialog opened(setupForPrinter());
+        choose(opened, u"odd"_s);
+        auto *status = opened.find<QLabel>(u"status"_s);
+        QCOMPARE(status->text(), u"ready"_s);
+        opened.dialog->print();
+        QTRY_VERIFY(jobOf(opened) > 0);
+        QTRY_VERIFY_WITH_TIMEOUT(status->text().contains(u"out of paper"_s), 10000);
+        QVERIFY2(status->text().contains(u"Ribbon 42 %"_s), qPrintable(status->text()));
+        QVERIFY(opened.dialog->isReady());
+    }
+
+    void failingAndStoppedJobs()
+    {
+        const OpenedDialog opened(setupForPrinter());
+        choose(opened, u"odd"_s);
+        QVERIFY(cupsd_.setBackendScript("echo 'ERROR: Ribbon torn' >&2; exit 1"));
+        opened.dialog->print();
+        QTRY_VERIFY(opened.message().contains(u"Ribbon torn"_s));
+        QVERIFY(cupsd_.setBackendScript("trap 'exit 0' TERM; sleep 20 & wait"));
+        opened.dialog->print();
+        QTRY_VERIFY(cupsd_.activeJobs().contains("odd-"));
+        QVERIFY(opened.isSeen(u"progress"_s));
+        opened.click(u"cancel"_s);
+        QTRY_VERIFY(opened.message().contains(u"stopped"_s));
+        QTRY_COMPARE(cupsd_.activeJobs(), QByteArray());
+        QVERIFY(!opened.isSeen(u"progress"_s));
+        // Closed while the printer works, the window leaves the job alone, and says so before.
+        opened.dialog->print();
+        QTRY_VERIFY(cupsd_.activeJobs().contains("odd-"));
+        QTRY_VERIFY(opened.find<QWidget>(u"progressText"_s)->accessibleName().contains(u"printing"_s));
+        opened.dialog->close();
+        QVERIFY(opened.dialog->isVisible());
+        QVERIFY2(opened.message().contains(u"goes on printing"_s), qPrintable(opened.message()));
+        opened.click(u"messageAction"_s);
+        QVERIFY(opened.dialog->isHidden());
+        QTRY_VERIFY(opened.find<QWidget>(u"print"_s)->isEnabled()); // nothing follows the job any more
+        QVERIFY(cupsd_.activeJobs().contains("odd-"));
+        QVERIFY(cupsd_.run(u"cancel"_s, {u"-a"_s}));
+    }
+
+    // One line for all; and when it is stopped, how many came out.
+    void manyJobs()
+    {
+        PrintDialogSetup three = setupForPrinter();
+        three.photos = QList<Photo>(3, three.photos.constFirst());
+        const OpenedDialog opened(three);
+        choose(opened, u"odd"_s);
+        QVERIFY(cupsd_.setBackendScript("exit 0"));
+        opened.dialog->print();
+        QTRY_VERIFY_WITH_TIMEOUT(opened.message().contains(u"(jobs "_s), 15000);
+        static const QRegularExpression line(u"^Printed 3 photos on odd \\(jobs ([0-9]+) to ([0-9]+)\\)$"_s);
+        const QRegularExpressionMatch match = line.match(opened.message());
+        QVERIFY2(match.hasMatch(), qPrintable(opened.message()));
+        QCOMPARE(match.captured(2).toInt(), match.captured(1).toInt() + 2);
+        QCOMPARE(opened.find<QWidget>(u"messageDetailText"_s)->accessibleName().count(u"sample.jpg"_s), 3);
+
+        const int second = match.captured(2).toInt() + 2;
+        QVERIFY(cupsd_.setBackendScript("[ $1 -lt " + QByteArray::number(second) +
+                                        " ] && exit 0; trap 'exit 0' TERM; sleep 20 & wait"));
+        opened.dialog->print();
+        const auto *text = opened.find<QWidget>(u"progressText"_s);
+        QTRY_VERIFY_WITH_TIMEOUT(text->accessibleName().startsWith(u"2 of 3"_s) &&
+                                     text->accessibleName().contains(u"printing"_s),
+                                 15000);
+        opened.click(u"cancel"_s);
+        QTRY_COMPARE(opened.message(), u"Printing was stopped: printed 1 of 3 photos."_s);
+        QTRY_COMPARE(cupsd_.activeJobs(), QByteArray());
+    }
 
 private:
-    static bool isListed(const OpenedDialog &opened, const QString &text);
-    static void choose(const OpenedDialog &opened, const QString &printer);
+    static bool isListed(const OpenedDialog &opened, const QString &text)
+    {
+        return opened.find<QComboBox>(u"printer"_s)->findText(text, Qt::MatchContains) >= 0;
+    }
+
+    static void choose(const OpenedDialog &opened, const QString &printer)
+    {
+        opened.dialog->searchPrinters();
+        QTRY_VERIFY(isListed(opened, printer));
+        auto *chooser = opened.find<QComboBox>(u"printer"_s);
+        chooser->setFocus();
+        QTest::keyClick(chooser, printer.at(0).toLatin1());
+        QVERIFY(showsReady(opened, printer));
+    }
+
     static Queue queueNamed(const QString &name)
     {
         Queue queue;
         queue.name = name;
         return queue;
     }
+
     /// Uses the queue once.
-    static void remember(const QString &queue);
-};
-
-void QueueWindowTest::initTestCase()
-{
-    QueueTest::initTestCase();
-    QVERIFY(cupsd_.addQueue(u"raw"_s));
-    QVERIFY(cupsd_.addQueue(u"odd"_s, ppd_, {u"-v"_s, u"scripted:/"_s}));
-}
-
-void QueueWindowTest::init()
-{
-    WindowTest::init();
-    QVERIFY(cupsd_.addQueue(u"photo"_s, ppd_));
-}
-
-bool QueueWindowTest::isListed(const OpenedDialog &opened, const QString &text)
-{
-    return opened.find<QComboBox>(u"printer"_s)->findText(text, Qt::MatchContains) >= 0;
-}
-
-void QueueWindowTest::choose(const OpenedDialog &opened, const QString &printer)
-{
-    opened.dialog->searchPrinters();
-    QTRY_VERIFY(isListed(opened, printer));
-    auto *chooser = opened.find<QComboBox>(u"printer"_s);
-    chooser->setFocus();
-    QTest::keyClick(chooser, printer.at(0).toLatin1());
-    QVERIFY(showsReady(opened, printer));
-}
-
-void QueueWindowTest::remember(const QString &queue)
-{
-    const OpenedDialog opened(setupForPrinter());
-    choose(opened, queue);
-}
-
-// With its panels, which can be used. It prints only once the server has confirmed the queue.
-void QueueWindowTest::queueUsedLastIsShownAtOnce()
-{
-    remember(u"photo"_s);
-    const OpenedDialog opened(setupForPrinter());
-    QCOMPARE(opened.dialog->printer(), u"photo"_s);
-    QVERIFY(!opened.isSeen(u"folder"_s));
-    opened.type(81, u"9"_s);
-    QVERIFY(!opened.find<QPushButton>(u"print"_s)->isEnabled());
-    opened.dialog->print();
-    QTest::keyClick(opened.dialog.get(), Qt::Key_P, Qt::ControlModifier);
-    QVERIFY2(cupsd_.activeJobs().isEmpty(), cupsd_.activeJobs().constData());
-    QVERIFY(opened.dialog->whyNotReady().contains(u"photo"_s));
-
-    opened.dialog->searchPrinters();
-    QTRY_VERIFY(opened.dialog->isReady());
-    QCOMPARE(opened.fieldText(81), u"9"_s);
-    QCOMPARE(opened.message(), QString());
-    QVERIFY(hasOption(print(opened), "Red=9"));
-}
-
-void QueueWindowTest::rememberedPrivately()
-{
-    remember(u"photo"_s);
-    const QFileInfo file(QueueCache::file());
-    QVERIFY(file.filePath().startsWith(config_->filePath(u"cache"_s)));
-    QCOMPARE(file.permissions() &
-                 (QFile::ReadGroup | QFile::ReadOther | QFile::WriteGroup | QFile::WriteOther),
-             QFile::Permissions());
-    QCOMPARE(QFileInfo(file.path()).permissions() & (QFile::ReadOther | QFile::ExeOther),
-             QFile::Permissions());
-    // Nobody else may put a printer there; a broken file counts as none.
-    QVERIFY(QFile::setPermissions(file.filePath(), QFile::ReadOwner | QFile::WriteOwner | QFile::WriteOther));
-    QVERIFY(!QueueCache::load());
-    QVERIFY(QFile::setPermissions(file.filePath(), QFile::ReadOwner | QFile::WriteOwner));
-    QVERIFY(QueueCache::load());
-    QVERIFY(QFile::resize(file.filePath(), file.size() / 2));
-    const OpenedDialog opened(setupForPrinter());
-    QCOMPARE(opened.dialog->printer(), u"built-in"_s);
-    // A printer whose PPD is too large to be kept does not leave the one before in its place.
-    QueueCache::save({queueNamed(u"large"_s), "*PPD-Adobe", true});
-    QVERIFY(QueueCache::load());
-    QueueCache::save({queueNamed(u"large"_s), QByteArray(4 << 20, '*'), true});
-    QVERIFY(!QueueCache::load());
-    // A name that has to be cleaned is not changed into another one.
-    QueueCache::save({queueNamed(u"pho\u0007to"_s), {}, true});
-    QVERIFY(!QueueCache::load());
-    // The queues of another print server are remembered separately.
-    const QByteArray server = qgetenv("CUPS_SERVER");
-    qputenv("CUPS_SERVER", "elsewhere.example:631");
-    const QString other = QueueCache::file();
-    qputenv("CUPS_SERVER", server);
-    QVERIFY(other != file.filePath());
-}
-
-void QueueWindowTest::changedPpdKeepsWhatItCan()
-{
-    remember(u"photo"_s);
-    QVERIFY(cupsd_.addQueue(u"photo"_s, reduced_));
-    const OpenedDialog opened(setupForPrinter());
-    opened.type(81, u"9"_s);
-    opened.type(82, u"8"_s);
-    opened.dialog->searchPrinters();
-    QTRY_VERIFY(opened.dialog->isReady());
-    QVERIFY2(opened.message().contains(u"have changed"_s), qPrintable(opened.message()));
-    QCOMPARE(opened.fieldTexts({81, 82}), u"0 8"_s);
-}
-
-void QueueWindowTest::rememberedQueueThatIsGone()
-{
-    remember(u"photo"_s);
-    QVERIFY(cupsd_.deleteQueue(u"photo"_s));
-    const OpenedDialog opened(setupForPrinter());
-    QCOMPARE(opened.dialog->printer(), u"photo"_s);
-    opened.dialog->searchPrinters();
-    QTRY_COMPARE(opened.dialog->printer(), u"built-in"_s);
-    QVERIFY(opened.dialog->isReady());
-    QVERIFY2(opened.message().contains(u"\"photo\""_s), qPrintable(opened.message()));
-    QVERIFY(!isListed(opened, u"photo"_s));
-}
-
-void QueueWindowTest::lateDefaultReplacesNothingTouched()
-{
-    QVERIFY(cupsd_.run(u"lpadmin"_s, {u"-d"_s, u"photo"_s}));
-    const OpenedDialog touched(setupForPrinter());
-    touched.type(81, u"9"_s);
-    touched.dialog->searchPrinters();
-    QTRY_VERIFY(isListed(touched, u"photo"_s));
-    QTest::qWait(100);
-    QCOMPARE(touched.dialog->printer(), u"built-in"_s);
-    QCOMPARE(touched.fieldText(81), u"9"_s);
-    const OpenedDialog untouched(setupForPrinter());
-    QTest::keyClick(untouched.dialog.get(), Qt::Key_Tab); // a look round
-    untouched.dialog->searchPrinters();
-    QTRY_COMPARE(untouched.dialog->printer(), u"photo"_s);
-    QVERIFY(cupsd_.run(u"lpadmin"_s, {u"-x"_s, u"photo"_s}));
-}
-
-// What the user has chosen stays; what was merely the default does not outlive it.
-void QueueWindowTest::rememberedDefaultGivesWayToTheDefault()
-{
-    for (const bool wasChosen : {false, true}) {
-        QueueCache::save({queueNamed(u"odd"_s), ppd_, wasChosen});
-        QVERIFY(cupsd_.run(u"lpadmin"_s, {u"-d"_s, u"photo"_s}));
+    static void remember(const QString &queue)
+    {
         const OpenedDialog opened(setupForPrinter());
-        QCOMPARE(opened.dialog->printer(), u"odd"_s);
-        opened.dialog->searchPrinters();
-        QTRY_VERIFY(isListed(opened, u"photo"_s) && opened.dialog->isReady());
-        QCOMPARE(opened.dialog->printer(), wasChosen ? u"odd"_s : u"photo"_s);
+        choose(opened, queue);
     }
-}
-
-void QueueWindowTest::ppdThatChangesBeforePrinting()
-{
-    const OpenedDialog opened(setupForPrinter());
-    choose(opened, u"photo"_s);
-    opened.type(81, u"9"_s);
-    opened.type(82, u"8"_s);
-    QVERIFY(cupsd_.addQueue(u"photo"_s, reduced_));
-    opened.dialog->print();
-    QTRY_VERIFY(opened.message().contains(u"kept as far"_s));
-    QVERIFY2(cupsd_.activeJobs().isEmpty(), cupsd_.activeJobs().constData());
-    QVERIFY(opened.dialog->isReady());
-    QCOMPARE(opened.fieldText(81), u"0"_s);
-    const int id = print(opened);
-    QVERIFY(hasOption(id, "Red=0") && hasOption(id, "Green=8"));
-}
-
-void QueueWindowTest::queueWithoutPpd()
-{
-    const OpenedDialog opened(setupForPrinter());
-    choose(opened, u"raw"_s);
-    QVERIFY(opened.message().contains(u"no PPD"_s));
-    QCOMPARE(opened.find<QComboBox>(u"pageSize"_s)->count(), 1);
-    const RecordedJob job = cupsd_.job(print(opened));
-    QVERIFY(job.document == setupForPrinter().photos.constFirst().content());
-    QVERIFY(!job.options.contains("PageSize"));
-}
-
-void QueueWindowTest::statusIsShownInWords()
-{
-    QVERIFY(
-        cupsd_.setBackendScript("echo 'ATTR: marker-names=Ribbon marker-types=ribbon marker-levels=42' >&2\n"
-                                "echo 'STATE: +media-empty-warning' >&2\nexit 0"));
-    const OpenedDialog opened(setupForPrinter());
-    choose(opened, u"odd"_s);
-    auto *status = opened.find<QLabel>(u"status"_s);
-    QCOMPARE(status->text(), u"ready"_s);
-    opened.dialog->print();
-    QTRY_VERIFY(jobOf(opened) > 0);
-    QTRY_VERIFY_WITH_TIMEOUT(status->text().contains(u"out of paper"_s), 10000);
-    QVERIFY2(status->text().contains(u"Ribbon 42 %"_s), qPrintable(status->text()));
-    QVERIFY(opened.dialog->isReady());
-}
-
-void QueueWindowTest::failingAndStoppedJobs()
-{
-    const OpenedDialog opened(setupForPrinter());
-    choose(opened, u"odd"_s);
-    QVERIFY(cupsd_.setBackendScript("echo 'ERROR: Ribbon torn' >&2; exit 1"));
-    opened.dialog->print();
-    QTRY_VERIFY(opened.message().contains(u"Ribbon torn"_s));
-    QVERIFY(cupsd_.setBackendScript("trap 'exit 0' TERM; sleep 20 & wait"));
-    opened.dialog->print();
-    QTRY_VERIFY(cupsd_.activeJobs().contains("odd-"));
-    QVERIFY(opened.isSeen(u"progress"_s));
-    opened.click(u"cancel"_s);
-    QTRY_VERIFY(opened.message().contains(u"stopped"_s));
-    QTRY_COMPARE(cupsd_.activeJobs(), QByteArray());
-    QVERIFY(!opened.isSeen(u"progress"_s));
-    // Closed while the printer works, the window leaves the job alone, and says so before.
-    opened.dialog->print();
-    QTRY_VERIFY(cupsd_.activeJobs().contains("odd-"));
-    QTRY_VERIFY(opened.find<QWidget>(u"progressText"_s)->accessibleName().contains(u"printing"_s));
-    opened.dialog->close();
-    QVERIFY(opened.dialog->isVisible());
-    QVERIFY2(opened.message().contains(u"goes on printing"_s), qPrintable(opened.message()));
-    opened.click(u"messageAction"_s);
-    QVERIFY(opened.dialog->isHidden());
-    QTRY_VERIFY(opened.find<QWidget>(u"print"_s)->isEnabled()); // nothing follows the job any more
-    QVERIFY(cupsd_.activeJobs().contains("odd-"));
-    QVERIFY(cupsd_.run(u"cancel"_s, {u"-a"_s}));
-}
-
-// One line for all; and when it is stopped, how many came out.
-void QueueWindowTest::manyJobs()
-{
-    PrintDialogSetup three = setupForPrinter();
-    three.photos = QList<Photo>(3, three.photos.constFirst());
-    const OpenedDialog opened(three);
-    choose(opened, u"odd"_s);
-    QVERIFY(cupsd_.setBackendScript("exit 0"));
-    opened.dialog->print();
-    QTRY_VERIFY_WITH_TIMEOUT(opened.message().contains(u"(jobs "_s), 15000);
-    static const QRegularExpression line(u"^Printed 3 photos on odd \\(jobs ([0-9]+) to ([0-9]+)\\)$"_s);
-    const QRegularExpressionMatch match = line.match(opened.message());
-    QVERIFY2(match.hasMatch(), qPrintable(opened.message()));
-    QCOMPARE(match.captured(2).toInt(), match.captured(1).toInt() + 2);
-    QCOMPARE(opened.find<QWidget>(u"messageDetailText"_s)->accessibleName().count(u"sample.jpg"_s), 3);
-
-    const int second = match.captured(2).toInt() + 2;
-    QVERIFY(cupsd_.setBackendScript("[ $1 -lt " + QByteArray::number(second) +
-                                    " ] && exit 0; trap 'exit 0' TERM; sleep 20 & wait"));
-    opened.dialog->print();
-    const auto *text = opened.find<QWidget>(u"progressText"_s);
-    QTRY_VERIFY_WITH_TIMEOUT(text->accessibleName().startsWith(u"2 of 3"_s) &&
-                                 text->accessibleName().contains(u"printing"_s),
-                             15000);
-    opened.click(u"cancel"_s);
-    QTRY_COMPARE(opened.message(), u"Printing was stopped: printed 1 of 3 photos."_s);
-    QTRY_COMPARE(cupsd_.activeJobs(), QByteArray());
-}
+};
 
 CORVEL_WIDGETS_TEST(QueueWindowTest)
 #include "QueueWindowTest.moc"
