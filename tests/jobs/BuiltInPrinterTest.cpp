@@ -75,180 +75,177 @@ private:
 
 private Q_SLOTS:
     void init() { folder_ = std::make_unique<QTemporaryDir>(); }
-    void leavesThePair();
-    void keepsWhatIsThere_data();
-    void keepsWhatIsThere();
-    void names();
-    void failuresLeaveNothing_data();
-    void failuresLeaveNothing();
-};
 
-void BuiltInPrinterTest::leavesThePair()
-{
-    const QByteArray jpeg = samples::encoded(samples::quarters(QSize(30, 20)), "jpeg");
-    const QString output = pathOf(u"new/out"_s);
-    PrintedNames names({output});
-    for (const QString &source : {u"a"_s, u"b"_s}) {
-        QDir(folder_->path()).mkdir(source);
-        samples::store(pathOf(source + u"/photo.jpg"_s), jpeg);
-        const auto photo = Photo::open(pathOf(source + u"/photo.jpg"_s));
-        const auto files = BuiltInPrinter::print({*photo}, usualJob(), names);
-        QVERIFY2(files, files ? "" : qPrintable(files.failure().text));
-        const QString name = source == u"a" ? u"photo"_s : u"photo-2"_s;
-        QCOMPARE(files->pdf, output + u'/' + name + u".pdf"_s);
-        QCOMPARE(files->ticket, output + u'/' + name + u".ticket.json"_s);
-        QVERIFY(samples::load(files->pdf).endsWith("%%EOF\n"));
+    void leavesThePair()
+    {
+        const QByteArray jpeg = samples::encoded(samples::quarters(QSize(30, 20)), "jpeg");
+        const QString output = pathOf(u"new/out"_s);
+        PrintedNames names({output});
+        for (const QString &source : {u"a"_s, u"b"_s}) {
+            QDir(folder_->path()).mkdir(source);
+            samples::store(pathOf(source + u"/photo.jpg"_s), jpeg);
+            const auto photo = Photo::open(pathOf(source + u"/photo.jpg"_s));
+            const auto files = BuiltInPrinter::print({*photo}, usualJob(), names);
+            QVERIFY2(files, files ? "" : qPrintable(files.failure().text));
+            const QString name = source == u"a" ? u"photo"_s : u"photo-2"_s;
+            QCOMPARE(files->pdf, output + u'/' + name + u".pdf"_s);
+            QCOMPARE(files->ticket, output + u'/' + name + u".ticket.json"_s);
+            QVERIFY(samples::load(files->pdf).endsWith("%%EOF\n"));
 
-        const QByteArray ticket = samples::load(files->ticket);
-        const QJsonObject expected{
-            {u"printer"_s, u"Booth \"A\""_s},
-            {u"document"_s, pathOf(source + u"/photo.jpg"_s)},
-            {u"options"_s, QJsonObject{{u"PageSize"_s, u"w288h432"_s}, {u"Note"_s, u"a\\b \n\u00e9"_s}}},
-            {u"summary"_s, QJsonObject{{u"Finish"_s, u"Matte"_s}}},
-            {u"copies"_s, 3}};
-        QCOMPARE(QJsonDocument::fromJson(ticket).object(), expected);
-        QVERIFY(ticket.contains("\n    \"printer\""));
-    }
-    QCOMPARE(contentOf(output).size(), 4);
-}
-
-void BuiltInPrinterTest::keepsWhatIsThere_data()
-{
-    QTest::addColumn<QStringList>("earlier");
-    QTest::addColumn<bool>("isOverwritten");
-    QTest::addColumn<QString>("name");
-    const auto row = [](const char *test, const QStringList &earlier, bool isOverwritten,
-                        const QString &name) {
-        QTest::newRow(test) << earlier << isOverwritten << name;
-    };
-    const QString pdf = u"photo.pdf"_s;
-    row("nothing", {}, false, u"photo"_s);
-    row("a page", {pdf}, false, u"photo-2"_s);
-    row("a ticket", {u"photo.ticket.json"_s}, false, u"photo-2"_s);
-    row("half of each", {pdf, u"photo-2.ticket.json"_s}, false, u"photo-3"_s);
-    row("overwritten", {pdf, u"photo.ticket.json"_s}, true, u"photo"_s);
-    // Photos may have such names; they are JPEG files all the same.
-    row("a photo", {pdf, u"a photo"_s}, false, u"photo-2"_s);
-    row("a photo, overwritten", {pdf, u"a photo"_s}, true, u"photo-2"_s);
-    row("a photo that is a link, overwritten", {pdf, u"a photo"_s, u"a link"_s}, true, u"photo-2"_s);
-}
-
-void BuiltInPrinterTest::keepsWhatIsThere()
-{
-    QFETCH(QStringList, earlier);
-    QFETCH(const bool, isOverwritten);
-    QFETCH(const QString, name);
-    OutputFolder folder{folder_->path(), isOverwritten};
-    if (earlier.removeOne(u"a photo"_s))
-        folder.photos.append(folder_->path() + u"/./photo.pdf"_s); // named otherwise than its page would be
-    const bool isLink = earlier.removeOne(u"a link"_s);
-    for (const QString &file : std::as_const(earlier))
-        samples::store(pathOf(file), "earlier");
-    if (isLink)
-        QVERIFY(QFile::rename(pathOf(u"photo.pdf"_s), pathOf(u"real"_s)) &&
-                QFile::link(pathOf(u"real"_s), pathOf(u"photo.pdf"_s)));
-    samples::store(pathOf(u"photo.jpg"_s), samples::encoded(samples::quarters(QSize(30, 20)), "jpeg"));
-    const auto before = contentOf(folder_->path());
-
-    PrintedNames names(folder);
-    const auto files = BuiltInPrinter::print({*Photo::open(pathOf(u"photo.jpg"_s))}, usualJob(), names);
-    QVERIFY2(files, files ? "" : qPrintable(files.failure().text));
-    QCOMPARE(files->pdf, pathOf(name + u".pdf"_s));
-    QCOMPARE(files->ticket, pathOf(name + u".ticket.json"_s));
-    auto after = contentOf(folder_->path());
-    QVERIFY(after.take(files->pdf).startsWith("%PDF") && after.take(files->ticket).startsWith('{'));
-    QCOMPARE(QFileInfo(pathOf(u"photo.pdf"_s)).isSymLink(), isLink);
-    for (const QString &file : std::as_const(earlier))
-        QVERIFY(!after.contains(pathOf(file)) || after.value(pathOf(file)) == "earlier");
-    QCOMPARE(after.size(), before.size() - (name == u"photo"_s ? earlier.size() : 0));
-}
-
-void BuiltInPrinterTest::names()
-{
-    PrintedNames names({folder_->path()});
-    names.markTaken(u"taken"_s);
-    names.markTaken(u"taken-2"_s);
-    names.markTaken(QString(243, u't'));
-    const QString smile = u"\U0001f600"_s;
-    for (const auto &[photo, name] :
-         {std::pair(u"photo.jpg"_s, u"photo"_s),
-          {u"Tag 1.v2 \u65e5\U0001f600.JPG"_s, u"Tag 1.v2 \u65e5\U0001f600"_s},
-          {u"photo"_s, u"photo"_s},
-          {u"..photo.jpg"_s, u"photo"_s},
-          {u"\n.x.jpg"_s, u"x"_s},
-          {u".jpg"_s, u"photo"_s},
-          {u"x\r\n\u202egpj\u2028.jpg"_s, u"x gpj"_s},
-          {u"taken.jpg"_s, u"taken-3"_s},
-          // The longest name has 255 bytes: of letters, of emoji, of bytes that are not text.
-          {QString(250, u'n') + u".jpg"_s, QString(243, u'n')},
-          {smile.repeated(62) + u".jpg"_s, smile.repeated(60)},
-          {QString(250, u't'), QString(241, u't') + u"-2"_s}})
-        QCOMPARE(names.nameFor(u"/a/"_s + photo), name);
-}
-
-void BuiltInPrinterTest::failuresLeaveNothing_data()
-{
-    QTest::addColumn<QString>("output"); // within the test's folder
-    QTest::addColumn<QString>("named");  // what the message names
-    QTest::addColumn<OutputFault>("fault");
-    const auto row = [](const char *test, const QString &output, const QString &named, OutputFault fault) {
-        QTest::newRow(test) << output << named << fault;
-    };
-    row("folder is a file", u"file"_s, u"file"_s, OutputFault::NotAFolder);
-    row("folder below a file", u"file/new"_s, u"file/new"_s, OutputFault::NotAFolder);
-    row("link to nowhere", u"link"_s, u"link"_s, OutputFault::FolderMissing);
-    row("no permission", u"locked"_s, u"locked/photo.pdf"_s, OutputFault::NotWritable);
-    row("no permission to make it", u"locked/new"_s, u"locked/new"_s, OutputFault::NotWritable);
-    row("folder in the ticket's place", u"taken"_s, u"photo.ticket.json"_s, OutputFault::NameTaken);
-    row("name too long", QString(300, u'n'), u"nnn"_s, OutputFault::NameTooLong);
-    row("disk full, in new folders", u"new/out"_s, u"photo.pdf"_s, OutputFault::DiskFull);
-    row("disk full, over an earlier pair", u"pair"_s, u"photo.pdf"_s, OutputFault::DiskFull);
-    row("damaged photo", u"pair"_s, u"photo.jpg"_s, OutputFault::PhotoUnusable);
-    row("no page", u"new/out"_s, u"page"_s, OutputFault::PageUnusable);
-}
-
-void BuiltInPrinterTest::failuresLeaveNothing()
-{
-    QFETCH(const QString, output);
-    QFETCH(const QString, named);
-    QFETCH(const OutputFault, fault);
-    QDir folder(folder_->path());
-    for (const QString &name : {u"pair"_s, u"taken"_s, u"locked"_s, u"taken/photo.ticket.json"_s})
-        QVERIFY(folder.mkdir(name));
-    for (const QString &name : {u"file"_s, u"pair/photo.pdf"_s, u"pair/photo.ticket.json"_s,
-                                u"taken/photo.pdf"_s, u"taken/photo.ticket.json/inside"_s})
-        samples::store(pathOf(name), "earlier");
-    QVERIFY(QFile::link(u"/nonexistent/folder"_s, pathOf(u"link"_s)));
-    const QByteArray content = fault == OutputFault::PhotoUnusable
-                                   ? samples::undecodableJpeg()
-                                   : samples::encoded(samples::quarters(QSize(300, 200)), "jpeg");
-    samples::store(pathOf(u"photo.jpg"_s), content);
-    const auto photo = Photo::open(pathOf(u"photo.jpg"_s));
-    QVERIFY(photo);
-    PrintJob job = usualJob();
-    if (fault == OutputFault::PageUnusable)
-        job.page = {};
-
-    const auto before = contentOf(folder_->path());
-    PrintedNames names({pathOf(output), true});
-    const auto files = [&] {
-        std::optional<FullDisk> fullDisk;
-        std::optional<samples::OrdinaryRights> rights;
-        if (fault == OutputFault::DiskFull)
-            fullDisk.emplace();
-        if (fault == OutputFault::NotWritable) {
-            QFile::setPermissions(folder_->path(), QFile::Permissions(0x7755));
-            QFile::setPermissions(pathOf(u"locked"_s), QFile::Permissions(0x5555));
-            rights.emplace();
+            const QByteArray ticket = samples::load(files->ticket);
+            const QJsonObject expected{
+                {u"printer"_s, u"Booth \"A\""_s},
+                {u"document"_s, pathOf(source + u"/photo.jpg"_s)},
+                {u"options"_s, QJsonObject{{u"PageSize"_s, u"w288h432"_s}, {u"Note"_s, u"a\\b \n\u00e9"_s}}},
+                {u"summary"_s, QJsonObject{{u"Finish"_s, u"Matte"_s}}},
+                {u"copies"_s, 3}};
+            QCOMPARE(QJsonDocument::fromJson(ticket).object(), expected);
+            QVERIFY(ticket.contains("\n    \"printer\""));
         }
-        return BuiltInPrinter::print({*photo}, job, names);
-    }();
-    QVERIFY(!files);
-    QCOMPARE(files.failure().reason, fault);
-    QVERIFY2(files.failure().text.contains(named), qPrintable(files.failure().text));
-    QCOMPARE(contentOf(folder_->path()), before);
-    QCOMPARE(names.nameFor(u"photo.jpg"_s), u"photo"_s);
-}
+        QCOMPARE(contentOf(output).size(), 4);
+    }
+
+    void keepsWhatIsThere_data()
+    {
+        QTest::addColumn<QStringList>("earlier");
+        QTest::addColumn<bool>("isOverwritten");
+        QTest::addColumn<QString>("name");
+        const auto row = [](const char *test, const QStringList &earlier, bool isOverwritten,
+                            const QString &name) {
+            QTest::newRow(test) << earlier << isOverwritten << name;
+        };
+        const QString pdf = u"photo.pdf"_s;
+        row("nothing", {}, false, u"photo"_s);
+        row("a page", {pdf}, false, u"photo-2"_s);
+        row("a ticket", {u"photo.ticket.json"_s}, false, u"photo-2"_s);
+        row("half of each", {pdf, u"photo-2.ticket.json"_s}, false, u"photo-3"_s);
+        row("overwritten", {pdf, u"photo.ticket.json"_s}, true, u"photo"_s);
+        // Photos may have such names; they are JPEG files all the same.
+        row("a photo", {pdf, u"a photo"_s}, false, u"photo-2"_s);
+        row("a photo, overwritten", {pdf, u"a photo"_s}, true, u"photo-2"_s);
+        row("a photo that is a link, overwritten", {pdf, u"a photo"_s, u"a link"_s}, true, u"photo-2"_s);
+    }
+
+    void keepsWhatIsThere()
+    {
+        QFETCH(QStringList, earlier);
+        QFETCH(const bool, isOverwritten);
+        QFETCH(const QString, name);
+        OutputFolder folder{folder_->path(), isOverwritten};
+        if (earlier.removeOne(u"a photo"_s))
+            folder.photos.append(folder_->path() +
+                                 u"/./photo.pdf"_s); // named otherwise than its page would be
+        const bool isLink = earlier.removeOne(u"a link"_s);
+        for (const QString &file : std::as_const(earlier))
+            samples::store(pathOf(file), "earlier");
+        if (isLink)
+            QVERIFY(QFile::rename(pathOf(u"photo.pdf"_s), pathOf(u"real"_s)) &&
+                    QFile::link(pathOf(u"real"_s), pathOf(u"photo.pdf"_s)));
+        samples::store(pathOf(u"photo.jpg"_s), samples::encoded(samples::quarters(QSize(30, 20)), "jpeg"));
+        const auto before = contentOf(folder_->path());
+
+        PrintedNames names(folder);
+        const auto files = BuiltInPrinter::print({*Photo::open(pathOf(u"photo.jpg"_s))}, usualJob(), names);
+        QVERIFY2(files, files ? "" : qPrintable(files.failure().text));
+        QCOMPARE(files->pdf, pathOf(name + u".pdf"_s));
+        QCOMPARE(files->ticket, pathOf(name + u".ticket.json"_s));
+        auto after = contentOf(folder_->path());
+        QVERIFY(after.take(files->pdf).startsWith("%PDF") && after.take(files->ticket).startsWith('{'));
+        QCOMPARE(QFileInfo(pathOf(u"photo.pdf"_s)).isSymLink(), isLink);
+        for (const QString &file : std::as_const(earlier))
+            QVERIFY(!after.contains(pathOf(file)) || after.value(pathOf(file)) == "earlier");
+        QCOMPARE(after.size(), before.size() - (name == u"photo"_s ? earlier.size() : 0));
+    }
+
+    void names()
+    {
+        PrintedNames names({folder_->path()});
+        names.markTaken(u"taken"_s);
+        names.markTaken(u"taken-2"_s);
+        names.markTaken(QString(243, u't'));
+        const QString smile = u"\U0001f600"_s;
+        for (const auto &[photo, name] :
+             {std::pair(u"photo.jpg"_s, u"photo"_s),
+              {u"Tag 1.v2 \u65e5\U0001f600.JPG"_s, u"Tag 1.v2 \u65e5\U0001f600"_s},
+              {u"photo"_s, u"photo"_s},
+              {u"..photo.jpg"_s, u"photo"_s},
+              {u"\n.x.jpg"_s, u"x"_s},
+              {u".jpg"_s, u"photo"_s},
+              {u"x\r\n\u202egpj\u2028.jpg"_s, u"x gpj"_s},
+              {u"taken.jpg"_s, u"taken-3"_s},
+              // The longest name has 255 bytes: of letters, of large characters, and of bytes that are no
+              // text.
+              {QString(250, u'n') + u".jpg"_s, QString(243, u'n')},
+              {smile.repeated(62) + u".jpg"_s, smile.repeated(60)},
+              {QString(250, u't'), QString(241, u't') + u"-2"_s}})
+            QCOMPARE(names.nameFor(u"/a/"_s + photo), name);
+    }
+
+    void failuresLeaveNothing_data()
+    {
+        QTest::addColumn<QString>("output"); // within the test's folder
+        QTest::addColumn<QString>("named");  // what the message names
+        QTest::addColumn<OutputFault>("fault");
+        const auto row = [](const char *test, const QString &output, const QString &named,
+                            OutputFault fault) {
+            QTest::newRow(test) << output << named << fault;
+        };
+        row("folder is a file", u"file"_s, u"file"_s, OutputFault::NotAFolder);
+        row("folder below a file", u"file/new"_s, u"file/new"_s, OutputFault::NotAFolder);
+        row("link to nowhere", u"link"_s, u"link"_s, OutputFault::FolderMissing);
+        row("no permission", u"locked"_s, u"locked/photo.pdf"_s, OutputFault::NotWritable);
+        row("no permission to make it", u"locked/new"_s, u"locked/new"_s, OutputFault::NotWritable);
+        row("folder in the ticket's place", u"taken"_s, u"photo.ticket.json"_s, OutputFault::NameTaken);
+        row("name too long", QString(300, u'n'), u"nnn"_s, OutputFault::NameTooLong);
+        row("disk full, in new folders", u"new/out"_s, u"photo.pdf"_s, OutputFault::DiskFull);
+        row("disk full, over an earlier pair", u"pair"_s, u"photo.pdf"_s, OutputFault::DiskFull);
+        row("damaged photo", u"pair"_s, u"photo.jpg"_s, OutputFault::PhotoUnusable);
+        row("no page", u"new/out"_s, u"page"_s, OutputFault::PageUnusable);
+    }
+
+    void failuresLeaveNothing()
+    {
+        QFETCH(const QString, output);
+        QFETCH(const QString, named);
+        QFETCH(const OutputFault, fault);
+        QDir folder(folder_->path());
+        for (const QString &name : {u"pair"_s, u"taken"_s, u"locked"_s, u"taken/photo.ticket.json"_s})
+            QVERIFY(folder.mkdir(name));
+        for (const QString &name : {u"file"_s, u"pair/photo.pdf"_s, u"pair/photo.ticket.json"_s,
+                                    u"taken/photo.pdf"_s, u"taken/photo.ticket.json/inside"_s})
+            samples::store(pathOf(name), "earlier");
+        QVERIFY(QFile::link(u"/nonexistent/folder"_s, pathOf(u"link"_s)));
+        const QByteArray content = fault == OutputFault::PhotoUnusable
+                                       ? samples::undecodableJpeg()
+                                       : samples::encoded(samples::quarters(QSize(300, 200)), "jpeg");
+        samples::store(pathOf(u"photo.jpg"_s), content);
+        const auto photo = Photo::open(pathOf(u"photo.jpg"_s));
+        QVERIFY(photo);
+        PrintJob job = usualJob();
+        if (fault == OutputFault::PageUnusable)
+            job.page = {};
+
+        const auto before = contentOf(folder_->path());
+        PrintedNames names({pathOf(output), true});
+        const auto files = [&] {
+            std::optional<FullDisk> fullDisk;
+            std::optional<samples::OrdinaryRights> rights;
+            if (fault == OutputFault::DiskFull)
+                fullDisk.emplace();
+            if (fault == OutputFault::NotWritable) {
+                QFile::setPermissions(folder_->path(), QFile::Permissions(0x7755));
+                QFile::setPermissions(pathOf(u"locked"_s), QFile::Permissions(0x5555));
+                rights.emplace();
+            }
+            return BuiltInPrinter::print({*photo}, job, names);
+        }();
+        QVERIFY(!files);
+        QCOMPARE(files.failure().reason, fault);
+        QVERIFY2(files.failure().text.contains(named), qPrintable(files.failure().text));
+        QCOMPARE(contentOf(folder_->path()), before);
+        QCOMPARE(names.nameFor(u"photo.jpg"_s), u"photo"_s);
+    }
+};
 
 CORVEL_TEST(BuiltInPrinterTest)
 #include "BuiltInPrinterTest.moc"

@@ -85,96 +85,91 @@ private:
     QTemporaryDir folder_;
 
 private Q_SLOTS:
-    void isTurnedOnce_data();
-    void isTurnedOnce();
-    void profileIsKept();
-    void damage();
-    void anotherSizeThanTold();
-};
-
-void HeifTest::isTurnedOnce_data()
-{
-    QTest::addColumn<int>("format");
-    QTest::addColumn<int>("orientation");
-    for (int orientation = 1; orientation <= 8; ++orientation) {
-        QTest::addRow("HEIF, orientation %d", orientation) << int(heif_compression_HEVC) << orientation;
-        QTest::addRow("AVIF, orientation %d", orientation) << int(heif_compression_AV1) << orientation;
+    void isTurnedOnce_data()
+    {
+        QTest::addColumn<int>("format");
+        QTest::addColumn<int>("orientation");
+        for (int orientation = 1; orientation <= 8; ++orientation) {
+            QTest::addRow("HEIF, orientation %d", orientation) << int(heif_compression_HEVC) << orientation;
+            QTest::addRow("AVIF, orientation %d", orientation) << int(heif_compression_AV1) << orientation;
+        }
     }
-}
 
-void HeifTest::isTurnedOnce()
-{
-    QFETCH(const int, format);
-    QFETCH(const int, orientation);
-    const QByteArray content =
-        encoded(samples::quarters(QSize(128, 64)), heif_compression_format(format), orientation);
-    if (content.isEmpty())
-        QSKIP("libheif has no encoder for it here");
-    QVERIFY(content.contains("Exif"));
-    samples::store(pathOf(u"photo.jpg"_s), content);
-    const auto photo = Photo::open(pathOf(u"photo.jpg"_s));
-    QVERIFY2(photo, photo ? "" : qPrintable(photo.failure().text + photo.failure().detail));
-    QCOMPARE(photo->format(), format == heif_compression_AV1 ? "avif" : "heif");
-    QCOMPARE(photo->orientedSize(), orientation >= 5 ? QSize(64, 128) : QSize(128, 64));
-    const auto decoded = photo->decoded();
-    QVERIFY(decoded);
-    const QString &corners = samples::seenCorners[std::size_t(orientation)];
-    QCOMPARE(samples::cornersOf(photo->orientation().applied(*decoded), QRect({}, photo->orientedSize()), 8),
-             corners);
-    const QImage small = photo->preview(QSize(50, 50));
-    QCOMPARE(small.size(), photo->orientedSize().scaled(50, 50, Qt::KeepAspectRatio));
-    QCOMPARE(samples::cornersOf(small, small.rect(), 5), corners);
-    QBuffer buffer;
-    buffer.open(QIODevice::WriteOnly);
-    const auto written = PdfWriter::write(*photo, {QSizeF(288, 432), QRectF(0, 0, 288, 432)}, buffer);
-    QVERIFY(written);
-    QCOMPARE(*written, PdfWriter::Embedding::Pixels);
-}
+    void isTurnedOnce()
+    {
+        QFETCH(const int, format);
+        QFETCH(const int, orientation);
+        const QByteArray content =
+            encoded(samples::quarters(QSize(128, 64)), heif_compression_format(format), orientation);
+        if (content.isEmpty())
+            QSKIP("libheif has no encoder for it here");
+        QVERIFY(content.contains("Exif"));
+        samples::store(pathOf(u"photo.jpg"_s), content);
+        const auto photo = Photo::open(pathOf(u"photo.jpg"_s));
+        QVERIFY2(photo, photo ? "" : qPrintable(photo.failure().text + photo.failure().detail));
+        QCOMPARE(photo->format(), format == heif_compression_AV1 ? "avif" : "heif");
+        QCOMPARE(photo->orientedSize(), orientation >= 5 ? QSize(64, 128) : QSize(128, 64));
+        const auto decoded = photo->decoded();
+        QVERIFY(decoded);
+        const QString &corners = samples::seenCorners[std::size_t(orientation)];
+        QCOMPARE(
+            samples::cornersOf(photo->orientation().applied(*decoded), QRect({}, photo->orientedSize()), 8),
+            corners);
+        const QImage small = photo->preview(QSize(50, 50));
+        QCOMPARE(small.size(), photo->orientedSize().scaled(50, 50, Qt::KeepAspectRatio));
+        QCOMPARE(samples::cornersOf(small, small.rect(), 5), corners);
+        QBuffer buffer;
+        buffer.open(QIODevice::WriteOnly);
+        const auto written = PdfWriter::write(*photo, {QSizeF(288, 432), QRectF(0, 0, 288, 432)}, buffer);
+        QVERIFY(written);
+        QCOMPARE(*written, PdfWriter::Embedding::Pixels);
+    }
 
-void HeifTest::profileIsKept()
-{
-    const QByteArray icc = samples::swappedProfile();
-    const QByteArray content = encoded(samples::quarters(QSize(128, 64)), heif_compression_HEVC, 1, icc);
-    if (content.isEmpty())
-        QSKIP("libheif has no encoder for it here");
-    samples::store(pathOf(u"photo.heic"_s), content);
-    const auto photo = Photo::open(pathOf(u"photo.heic"_s));
-    QVERIFY(photo);
-    QCOMPARE(photo->profile().icc(), icc);
-    QCOMPARE(samples::cornersOf(photo->preview(QSize(128, 64)), QRect(0, 0, 128, 64), 8), u"GRBY"_s);
-}
-
-void HeifTest::damage()
-{
-    const QByteArray content = encoded(samples::quarters(QSize(128, 64)), heif_compression_HEVC, 1);
-    if (content.isEmpty())
-        QSKIP("libheif has no encoder for it here");
-    const QByteArray changed =
-        QByteArray(content).replace(content.indexOf("meta") + 8, 200, QByteArray(200, 'x'));
-    for (const QByteArray &damaged : {content.first(60), content.chopped(1), changed}) {
-        samples::store(pathOf(u"photo.heic"_s), damaged);
+    void profileIsKept()
+    {
+        const QByteArray icc = samples::swappedProfile();
+        const QByteArray content = encoded(samples::quarters(QSize(128, 64)), heif_compression_HEVC, 1, icc);
+        if (content.isEmpty())
+            QSKIP("libheif has no encoder for it here");
+        samples::store(pathOf(u"photo.heic"_s), content);
         const auto photo = Photo::open(pathOf(u"photo.heic"_s));
-        QVERIFY(!photo);
-        QCOMPARE(photo.failure().reason, damaged == changed ? PhotoFault::Broken : PhotoFault::Truncated);
+        QVERIFY(photo);
+        QCOMPARE(photo->profile().icc(), icc);
+        QCOMPARE(samples::cornersOf(photo->preview(QSize(128, 64)), QRect(0, 0, 128, 64), 8), u"GRBY"_s);
     }
-}
 
-void HeifTest::anotherSizeThanTold()
-{
-    QByteArray content = encoded(samples::quarters(QSize(128, 64)), heif_compression_HEVC, 1);
-    if (content.isEmpty())
-        QSKIP("libheif has no encoder for it here");
-    for (qsizetype at = 0; (at = content.indexOf("ispe", at + 1)) > 0;)
-        content[at + 4 + 4 + 3] = 16; // the width's last byte
-    samples::store(pathOf(u"photo.heic"_s), content);
-    const auto photo = Photo::open(pathOf(u"photo.heic"_s));
-    QVERIFY2(photo, photo ? "" : qPrintable(photo.failure().detail));
-    QCOMPARE(photo->storedSize(), QSize(16, 64));
-    const auto decoded = photo->decoded();
-    QVERIFY(!decoded);
-    QCOMPARE(decoded.failure().reason, PhotoFault::Broken);
-    QVERIFY(photo->preview(QSize(64, 64)).isNull());
-}
+    void damage()
+    {
+        const QByteArray content = encoded(samples::quarters(QSize(128, 64)), heif_compression_HEVC, 1);
+        if (content.isEmpty())
+            QSKIP("libheif has no encoder for it here");
+        const QByteArray changed =
+            QByteArray(content).replace(content.indexOf("meta") + 8, 200, QByteArray(200, 'x'));
+        for (const QByteArray &damaged : {content.first(60), content.chopped(1), changed}) {
+            samples::store(pathOf(u"photo.heic"_s), damaged);
+            const auto photo = Photo::open(pathOf(u"photo.heic"_s));
+            QVERIFY(!photo);
+            QCOMPARE(photo.failure().reason, damaged == changed ? PhotoFault::Broken : PhotoFault::Truncated);
+        }
+    }
+
+    void anotherSizeThanTold()
+    {
+        QByteArray content = encoded(samples::quarters(QSize(128, 64)), heif_compression_HEVC, 1);
+        if (content.isEmpty())
+            QSKIP("libheif has no encoder for it here");
+        for (qsizetype at = 0; (at = content.indexOf("ispe", at + 1)) > 0;)
+            content[at + 4 + 4 + 3] = 16; // the width's last byte
+        samples::store(pathOf(u"photo.heic"_s), content);
+        const auto photo = Photo::open(pathOf(u"photo.heic"_s));
+        QVERIFY2(photo, photo ? "" : qPrintable(photo.failure().detail));
+        QCOMPARE(photo->storedSize(), QSize(16, 64));
+        const auto decoded = photo->decoded();
+        QVERIFY(!decoded);
+        QCOMPARE(decoded.failure().reason, PhotoFault::Broken);
+        QVERIFY(photo->preview(QSize(64, 64)).isNull());
+    }
+};
 
 CORVEL_TEST(HeifTest)
 #include "HeifTest.moc"

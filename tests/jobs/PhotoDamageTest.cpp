@@ -16,7 +16,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// A TIFF with one strip, compressed by that method; `tables` are what its JPEG strips share.
+/// One with one strip, compressed by that method; `tables` are what its JPEG strips share.
 QByteArray tiffOf(int method, const QByteArray &strip, const QByteArray &tables = {})
 {
     constexpr int directorySize = 2 + 4 * 12 + 4;
@@ -50,89 +50,86 @@ private:
     QTemporaryDir folder_;
 
 private Q_SLOTS:
-    void damagedPixels_data();
-    void damagedPixels();
-    void damagedTiffs();
-};
+    /// What lies behind sound headers.
+    void damagedPixels_data()
+    {
+        QTest::addColumn<QByteArray>("content");
+        QTest::addColumn<bool>("isDamaged");
 
-/// What lies behind sound headers.
-void PhotoDamageTest::damagedPixels_data()
-{
-    QTest::addColumn<QByteArray>("content");
-    QTest::addColumn<bool>("isDamaged");
-
-    const auto row = [](const QByteArray &test, const QByteArray &content, bool isDamaged) {
-        QTest::newRow(test.constData()) << content << isDamaged;
-    };
-    const auto withBytes = [](QByteArray content, qsizetype position, const QByteArray &bytes) {
-        return content.replace(position, bytes.size(), bytes);
-    };
-    const QByteArray zeros(2048, '\0');
-    const QByteArray noise = samples::noise(2048);
-    for (const bool isProgressive : {false, true}) {
-        const QByteArray kind = isProgressive ? "progressive JPEG" : "JPEG";
-        const QByteArray jpeg = samples::encoded(samples::grain(QSize(640, 400)), "jpeg", isProgressive);
-        const qsizetype middle = jpeg.size() / 2;
-        row(kind, jpeg, false);
-        row(kind + ", padded to a round size", jpeg.chopped(2) + QByteArray(7, '\0') + jpeg.last(2), false);
-        row(kind + " with a zeroed sector", withBytes(jpeg, middle, zeros), true);
-        row(kind + " with another file's sector", withBytes(jpeg, middle, noise), true);
-        row(kind + ", half of it, then its end", jpeg.first(middle) + jpeg.last(2), true);
-        row(kind + ", half of it zeros, then its end",
-            withBytes(jpeg, middle, QByteArray(jpeg.size() - middle - 2, '\0')), true);
+        const auto row = [](const QByteArray &test, const QByteArray &content, bool isDamaged) {
+            QTest::newRow(test.constData()) << content << isDamaged;
+        };
+        const auto withBytes = [](QByteArray content, qsizetype position, const QByteArray &bytes) {
+            return content.replace(position, bytes.size(), bytes);
+        };
+        const QByteArray zeros(2048, '\0');
+        const QByteArray noise = samples::noise(2048);
+        for (const bool isProgressive : {false, true}) {
+            const QByteArray kind = isProgressive ? "progressive JPEG" : "JPEG";
+            const QByteArray jpeg = samples::encoded(samples::grain(QSize(640, 400)), "jpeg", isProgressive);
+            const qsizetype middle = jpeg.size() / 2;
+            row(kind, jpeg, false);
+            row(kind + ", padded to a round size", jpeg.chopped(2) + QByteArray(7, '\0') + jpeg.last(2),
+                false);
+            row(kind + " with a zeroed sector", withBytes(jpeg, middle, zeros), true);
+            row(kind + " with another file's sector", withBytes(jpeg, middle, noise), true);
+            row(kind + ", half of it, then its end", jpeg.first(middle) + jpeg.last(2), true);
+            row(kind + ", half of it zeros, then its end",
+                withBytes(jpeg, middle, QByteArray(jpeg.size() - middle - 2, '\0')), true);
+        }
+        const QImage grain = samples::grain(QSize(99, 99));
+        row("grey JPEG", samples::encoded(grain.convertToFormat(QImage::Format_Grayscale8), "jpeg"), false);
+        row("CMYK JPEG", samples::redCmykJpeg(), false);
+        const QByteArray large =
+            samples::encoded(samples::quarters(QSize(64, 64)), "jpeg"); // its steps are immense
+        row("JPEG of impossible contrast",
+            withBytes(large, large.indexOf("\xff\xdb") + 5, QByteArray(64, '\xff')), true);
+        const QByteArray png = samples::encoded(samples::grain(QSize(64, 64)), "png");
+        row("PNG", png, false);
+        row("PNG with a changed pixel", withBytes(png, png.indexOf("IDAT") + 300, "?"), true);
+        if (!QImageWriter::supportedImageFormats().contains("webp"))
+            return;
+        const QByteArray webp = samples::encoded(samples::grain(QSize(640, 400)), "webp");
+        row("WebP", webp, false);
+        row("small WebP", samples::encoded(samples::quarters(QSize(8, 8)), "webp"), false);
+        row("WebP with a zeroed sector", withBytes(webp, webp.size() / 2, zeros), true);
     }
-    const QImage grain = samples::grain(QSize(99, 99));
-    row("grey JPEG", samples::encoded(grain.convertToFormat(QImage::Format_Grayscale8), "jpeg"), false);
-    row("CMYK JPEG", samples::redCmykJpeg(), false);
-    const QByteArray large =
-        samples::encoded(samples::quarters(QSize(64, 64)), "jpeg"); // its steps are immense
-    row("JPEG of impossible contrast",
-        withBytes(large, large.indexOf("\xff\xdb") + 5, QByteArray(64, '\xff')), true);
-    const QByteArray png = samples::encoded(samples::grain(QSize(64, 64)), "png");
-    row("PNG", png, false);
-    row("PNG with a changed pixel", withBytes(png, png.indexOf("IDAT") + 300, "?"), true);
-    if (!QImageWriter::supportedImageFormats().contains("webp"))
-        return;
-    const QByteArray webp = samples::encoded(samples::grain(QSize(640, 400)), "webp");
-    row("WebP", webp, false);
-    row("small WebP", samples::encoded(samples::quarters(QSize(8, 8)), "webp"), false);
-    row("WebP with a zeroed sector", withBytes(webp, webp.size() / 2, zeros), true);
-}
 
-void PhotoDamageTest::damagedPixels()
-{
-    QFETCH(const QByteArray, content);
-    QFETCH(const bool, isDamaged);
-    samples::store(pathOf(u"photo"_s), content);
-    const auto photo = Photo::open(pathOf(u"photo"_s));
-    QVERIFY2(photo, photo ? "" : qPrintable(photo.failure().text));
-    const Photo copy = *photo;
-    const auto damage = photo->damage();
-    QVERIFY2(damage.has_value() == isDamaged, damage ? qPrintable(damage->detail) : "");
-    QVERIFY(copy.isChecked());
-    if (damage)
-        QCOMPARE(damage->reason, PhotoFault::Damaged);
-}
+    void damagedPixels()
+    {
+        QFETCH(const QByteArray, content);
+        QFETCH(const bool, isDamaged);
+        samples::store(pathOf(u"photo"_s), content);
+        const auto photo = Photo::open(pathOf(u"photo"_s));
+        QVERIFY2(photo, photo ? "" : qPrintable(photo.failure().text));
+        const Photo copy = *photo;
+        const auto damage = photo->damage();
+        QVERIFY2(damage.has_value() == isDamaged, damage ? qPrintable(damage->detail) : "");
+        QVERIFY(copy.isChecked());
+        if (damage)
+            QCOMPARE(damage->reason, PhotoFault::Damaged);
+    }
 
-// TIFF decoders skip what they cannot decode.
-void PhotoDamageTest::damagedTiffs()
-{
-    const auto withZeros = [](QByteArray content) {
-        return content.replace(content.size() / 2, 2048, QByteArray(2048, '\0'));
-    };
-    const QByteArray jpeg = samples::encoded(samples::grain(QSize(640, 400)), "jpeg");
-    const qsizetype tables = jpeg.indexOf("\xff\xdb");
-    const qsizetype frame = jpeg.indexOf("\xff\xc0");
-    const QByteArray shared = "\xff\xd8" + jpeg.sliced(tables, frame - tables) + "\xff\xd9";
-    const QByteArray abbreviated = "\xff\xd8" + jpeg.sliced(frame);
-    const QByteArray zlib = qCompress(samples::noise(8192)).sliced(4);
-    QVERIFY(!tiffDamage(tiffOf(7, jpeg)) && tiffDamage(tiffOf(7, withZeros(jpeg))));
-    QVERIFY(!tiffDamage(tiffOf(7, abbreviated, shared)) &&
-            tiffDamage(tiffOf(7, withZeros(abbreviated), shared)));
-    QVERIFY(!tiffDamage(tiffOf(8, zlib)) && tiffDamage(tiffOf(8, withZeros(zlib))));
-    QVERIFY(!tiffDamage(tiffOf(1, withZeros(jpeg))));            // not compressed
-    QVERIFY(!tiffDamage(tiffOf(7, withZeros(jpeg)).chopped(1))); // a strip behind the end
-}
+    // Decoders of TIFF pass over what they cannot make out.
+    void damagedTiffs()
+    {
+        const auto withZeros = [](QByteArray content) {
+            return content.replace(content.size() / 2, 2048, QByteArray(2048, '\0'));
+        };
+        const QByteArray jpeg = samples::encoded(samples::grain(QSize(640, 400)), "jpeg");
+        const qsizetype tables = jpeg.indexOf("\xff\xdb");
+        const qsizetype frame = jpeg.indexOf("\xff\xc0");
+        const QByteArray shared = "\xff\xd8" + jpeg.sliced(tables, frame - tables) + "\xff\xd9";
+        const QByteArray abbreviated = "\xff\xd8" + jpeg.sliced(frame);
+        const QByteArray zlib = qCompress(samples::noise(8192)).sliced(4);
+        QVERIFY(!tiffDamage(tiffOf(7, jpeg)) && tiffDamage(tiffOf(7, withZeros(jpeg))));
+        QVERIFY(!tiffDamage(tiffOf(7, abbreviated, shared)) &&
+                tiffDamage(tiffOf(7, withZeros(abbreviated), shared)));
+        QVERIFY(!tiffDamage(tiffOf(8, zlib)) && tiffDamage(tiffOf(8, withZeros(zlib))));
+        QVERIFY(!tiffDamage(tiffOf(1, withZeros(jpeg))));            // not compressed
+        QVERIFY(!tiffDamage(tiffOf(7, withZeros(jpeg)).chopped(1))); // a strip behind the end
+    }
+};
 
 CORVEL_TEST(PhotoDamageTest)
 #include "PhotoDamageTest.moc"

@@ -37,361 +37,345 @@ private:
     QTemporaryDir folder_;
 
 private Q_SLOTS:
-    void faults_data();
-    void faults();
-    void zerosAreNotRead();
-    void memoryRunsShort();
-    void librariesWriteToTheLog();
-    void wholeJpegs_data();
-    void wholeJpegs();
-    void damagedHeadersAreSafe();
-    void orientations_data();
-    void orientations();
-    void bitmapFromTheTopDown();
-    void resolutions_data();
-    void resolutions();
-    void unreadableFormats_data();
-    void unreadableFormats();
-};
-
-void PhotoTest::faults_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QByteArray>("content");
-    QTest::addColumn<PhotoFault>("fault");
-    const auto row = [](const char *test, const QString &name, PhotoFault fault,
-                        const QByteArray &content = {}) {
-        QTest::newRow(test) << name << content << fault;
-    };
-    const QImage picture = samples::quarters(QSize(120, 80));
-    const QByteArray jpeg = samples::encoded(picture, "jpeg");
-    const QByteArray progressive = samples::encoded(picture, "jpeg", true);
-    const QByteArray png = samples::encoded(picture, "png");
-    const qsizetype frame = jpeg.indexOf("\xff\xc0");
-    const auto withBytes = [](QByteArray content, qsizetype position, const QByteArray &bytes) {
-        return content.replace(position, bytes.size(), bytes);
-    };
-    QByteArray commented = progressive; // a comment between scans that holds an end marker
-    commented.insert(commented.lastIndexOf("\xff\xda"), QByteArray("\xff\xfe\0\x04\xff\xd9", 6));
-
-    row("missing", u"missing.jpg"_s, PhotoFault::NotFound);
-    row("below a file", u"text.jpg/photo.jpg"_s, PhotoFault::NotFound);
-    row("folder", u"folder.jpg"_s, PhotoFault::NotReadable);
-    row("pipe that nobody writes to", u"pipe.jpg"_s, PhotoFault::NotReadable);
-    row("device", u"/dev/zero"_s, PhotoFault::NotReadable);
-    row("no permission", u"locked.jpg"_s, PhotoFault::NotReadable);
-    row("empty", u"empty.jpg"_s, PhotoFault::Empty);
-    row("too many bytes", u"long.jpg"_s, PhotoFault::TooLarge);
-    row("JPEG of too many pixels", u"p"_s, PhotoFault::TooLarge,
-        withBytes(jpeg, frame + 5, "\xea\x60\xea\x60"));
-    row("PNG too wide", u"p"_s, PhotoFault::TooLarge,
-        samples::encoded(QImage(40000, 1, QImage::Format_ARGB32), "png"));
-    row("interlaced PNG of too many pixels", u"p"_s, PhotoFault::TooLarge,
-        samples::pngOf(samples::pngHeader(QSize(12000, 12000), 6, true), ""));
-    row("text named .jpg", u"text.jpg"_s, PhotoFault::UnknownType, "Dear all,");
-    row("drawing", u"d.svg"_s, PhotoFault::UnknownType, "<?xml version='1.0'?><svg/>");
-    row("JPEG without its last half", u"p"_s, PhotoFault::Truncated, jpeg.first(jpeg.size() / 2));
-    row("JPEG without its last byte", u"p"_s, PhotoFault::Truncated, jpeg.chopped(1));
-    row("JPEG half copied, the rest zeros", u"p"_s, PhotoFault::Truncated,
-        jpeg.first(jpeg.size() / 2) + QByteArray(jpeg.size(), '\0'));
-    row("progressive JPEG without its last scans", u"p"_s, PhotoFault::Truncated,
-        progressive.first(progressive.size() * 3 / 4));
-    row("JPEG cut in its headers", u"p"_s, PhotoFault::Truncated, jpeg.first(100));
-    row("JPEG with an end marker in a comment", u"p"_s, PhotoFault::Truncated, commented.chopped(1));
-    row("BMP without its last row", u"p"_s, PhotoFault::Truncated,
-        samples::encoded(picture, "bmp").chopped(360));
-    row("GIF without its trailer", u"p"_s, PhotoFault::Truncated,
-        QByteArray("GIF89a\1\0\1\0\x80\0\0\0\0\0\xff\xff\xff,\0\0\0\0\1\0\1\0\0\2\2D\1\0", 34));
-    row("GIF with a canvas far larger than its frame", u"p"_s, PhotoFault::Broken,
-        QByteArray("GIF89a\2&\2\0\x80\0\0\0\0\0\xff\xff\xff,\0\0\0\0\2\0\2\0\0\2\3D\2\5\0;", 36));
-    row("PNG without its end", u"p"_s, PhotoFault::Truncated, png.chopped(12));
-    row("JPEG without a picture", u"p"_s, PhotoFault::Broken, jpeg.first(20) + "\xff\xd9");
-    row("JPEG of 12 bits", u"p"_s, PhotoFault::UnknownType, withBytes(jpeg, frame + 4, "\x0c"));
-    row("lossless JPEG", u"p"_s, PhotoFault::UnknownType, withBytes(jpeg, frame + 1, "\xc3"));
-    const qsizetype header = png.indexOf("IHDR") + 6;
-    row("PNG with a changed header", u"p"_s, PhotoFault::Broken,
-        withBytes(png, header, QByteArray(1, char(png[header] ^ 1))));
-}
-
-void PhotoTest::faults()
-{
-    QFETCH(const QString, name);
-    QFETCH(const QByteArray, content);
-    QFETCH(const PhotoFault, fault);
-    const QString path = pathOf(name);
-    if (name == u"folder.jpg")
-        QVERIFY(QDir().mkdir(path));
-    else if (name == u"pipe.jpg")
-        QCOMPARE(mkfifo(path.toLocal8Bit().constData(), 0600), 0);
-    else if (fault != PhotoFault::NotFound && !name.startsWith(u'/'))
-        samples::store(path, content);
-    if (name == u"long.jpg") {
-        samples::store(path, samples::encoded(samples::quarters(QSize(8, 8)), "jpeg"));
-        QVERIFY(QFile::resize(path, Photo::maximumFileSize + 1));
-    }
-    std::optional<samples::OrdinaryRights> rights;
-    if (name == u"locked.jpg") {
-        QVERIFY(QFile::setPermissions(path, {}));
-        rights.emplace();
-    }
-    const auto photo = Photo::open(path);
-    QVERIFY(!photo);
-    QCOMPARE(photo.failure().reason, fault);
-    QVERIFY2(photo.failure().text.contains(QFileInfo(path).fileName()), qPrintable(photo.failure().text));
-    QVERIFY2(photo.failure().text.endsWith(u'.'), qPrintable(photo.failure().text));
-}
-
-void PhotoTest::zerosAreNotRead()
-{
-    samples::store(pathOf(u"zeros.jpg"_s), {});
-    QVERIFY(QFile::resize(pathOf(u"zeros.jpg"_s), qint64(1) << 30));
-    rusage before = {};
-    rusage after = {};
-    getrusage(RUSAGE_SELF, &before);
-    const auto photo = Photo::open(pathOf(u"zeros.jpg"_s));
-    getrusage(RUSAGE_SELF, &after);
-    QVERIFY(!photo);
-    QCOMPARE(photo.failure().reason, PhotoFault::UnknownType);
-    QVERIFY(after.ru_maxrss - before.ru_maxrss < 50'000); // kilobytes
-}
-
-// The photo is not reported as damaged. A PNG is printed and shown anyway, row by row.
-void PhotoTest::memoryRunsShort()
-{
-#ifdef __SANITIZE_ADDRESS__
-    QSKIP("AddressSanitizer's own memory leaves no room for a limit.");
-#endif
-    const QSize size(3000, 3000);
-    const QByteArray row(1 + qsizetype(size.width()) * 4, '\0');
-    samples::store(pathOf(u"large.png"_s),
-                   samples::pngOf(samples::pngHeader(size, 6), row.repeated(size.height())));
-    QFile nowhere(u"/dev/null"_s);
-    QVERIFY(nowhere.open(QFile::WriteOnly));
-    const auto photo = Photo::open(pathOf(u"large.png"_s));
-    QVERIFY(photo);
-    QVERIFY(!photo->preview(QSize(200, 200)).isNull()); // Qt scales with threads, and hangs when it gets none
-    QFile statistics(u"/proc/self/statm"_s);
-    QVERIFY(statistics.open(QFile::ReadOnly));
-    const rlim_t pages = statistics.readLine().split(' ').constFirst().toULong();
-    rlimit before = {};
-    getrlimit(RLIMIT_AS, &before);
-    const rlimit tight = {pages * rlim_t(sysconf(_SC_PAGESIZE)) + (rlim_t(16) << 20), before.rlim_max};
-    QCOMPARE(setrlimit(RLIMIT_AS, &tight), 0);
-    const auto decoded = photo->decoded();
-    const QImage preview = photo->preview(QSize(200, 200));
-    const bool written(PdfWriter::write(*photo, {QSizeF(300, 300), QRectF(0, 0, 300, 300)}, nowhere));
-    setrlimit(RLIMIT_AS, &before);
-    QVERIFY(!decoded);
-    QCOMPARE(decoded.failure().reason, PhotoFault::TooLarge);
-    QCOMPARE(preview.size(), QSize(200, 200));
-    QVERIFY(written);
-    QVERIFY(photo->decoded());
-}
-
-// Even the messages of one that never stops writing them.
-void PhotoTest::librariesWriteToTheLog()
-{
-    QTemporaryFile shown;
-    QVERIFY(shown.open());
-    const int before = dup(STDERR_FILENO);
-    const auto restore = qScopeGuard([before] {
-        dup2(before, STDERR_FILENO);
-        close(before);
-    });
-    const auto say = [](const QByteArray &text) {
-        return ::write(STDERR_FILENO, text.constData(), std::size_t(text.size())) == text.size();
-    };
-    dup2(shown.handle(), STDERR_FILENO);
-    QuietDecoding::enable();
-    QTest::ignoreMessage(QtWarningMsg, "from a library");
-    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"^x+$"_s));
+    void faults_data()
     {
-        const QuietDecoding quiet;
-        QVERIFY(say("from a library\n"));
-        for (int i = 0; i < 200; ++i)
-            say(QByteArray(1024, 'x'));
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QByteArray>("content");
+        QTest::addColumn<PhotoFault>("fault");
+        const auto row = [](const char *test, const QString &name, PhotoFault fault,
+                            const QByteArray &content = {}) {
+            QTest::newRow(test) << name << content << fault;
+        };
+        const QImage picture = samples::quarters(QSize(120, 80));
+        const QByteArray jpeg = samples::encoded(picture, "jpeg");
+        const QByteArray progressive = samples::encoded(picture, "jpeg", true);
+        const QByteArray png = samples::encoded(picture, "png");
+        const qsizetype frame = jpeg.indexOf("\xff\xc0");
+        const auto withBytes = [](QByteArray content, qsizetype position, const QByteArray &bytes) {
+            return content.replace(position, bytes.size(), bytes);
+        };
+        QByteArray commented = progressive; // a comment between scans that holds an end marker
+        commented.insert(commented.lastIndexOf("\xff\xda"), QByteArray("\xff\xfe\0\x04\xff\xd9", 6));
+
+        row("missing", u"missing.jpg"_s, PhotoFault::NotFound);
+        row("below a file", u"text.jpg/photo.jpg"_s, PhotoFault::NotFound);
+        row("folder", u"folder.jpg"_s, PhotoFault::NotReadable);
+        row("pipe that nobody writes to", u"pipe.jpg"_s, PhotoFault::NotReadable);
+        row("device", u"/dev/zero"_s, PhotoFault::NotReadable);
+        row("no permission", u"locked.jpg"_s, PhotoFault::NotReadable);
+        row("empty", u"empty.jpg"_s, PhotoFault::Empty);
+        row("too many bytes", u"long.jpg"_s, PhotoFault::TooLarge);
+        row("JPEG of too many pixels", u"p"_s, PhotoFault::TooLarge,
+            withBytes(jpeg, frame + 5, "\xea\x60\xea\x60"));
+        row("PNG too wide", u"p"_s, PhotoFault::TooLarge,
+            samples::encoded(QImage(40000, 1, QImage::Format_ARGB32), "png"));
+        row("interlaced PNG of too many pixels", u"p"_s, PhotoFault::TooLarge,
+            samples::pngOf(samples::pngHeader(QSize(12000, 12000), 6, true), ""));
+        row("text named .jpg", u"text.jpg"_s, PhotoFault::UnknownType, "Dear all,");
+        row("drawing", u"d.svg"_s, PhotoFault::UnknownType, "<?xml version='1.0'?><svg/>");
+        row("JPEG without its last half", u"p"_s, PhotoFault::Truncated, jpeg.first(jpeg.size() / 2));
+        row("JPEG without its last byte", u"p"_s, PhotoFault::Truncated, jpeg.chopped(1));
+        row("JPEG half copied, the rest zeros", u"p"_s, PhotoFault::Truncated,
+            jpeg.first(jpeg.size() / 2) + QByteArray(jpeg.size(), '\0'));
+        row("progressive JPEG without its last scans", u"p"_s, PhotoFault::Truncated,
+            progressive.first(progressive.size() * 3 / 4));
+        row("JPEG cut in its headers", u"p"_s, PhotoFault::Truncated, jpeg.first(100));
+        row("JPEG with an end marker in a comment", u"p"_s, PhotoFault::Truncated, commented.chopped(1));
+        row("BMP without its last row", u"p"_s, PhotoFault::Truncated,
+            samples::encoded(picture, "bmp").chopped(360));
+        row("GIF without its trailer", u"p"_s, PhotoFault::Truncated,
+            QByteArray("GIF89a\1\0\1\0\x80\0\0\0\0\0\xff\xff\xff,\0\0\0\0\1\0\1\0\0\2\2D\1\0", 34));
+        row("GIF with a canvas far larger than its frame", u"p"_s, PhotoFault::Broken,
+            QByteArray("GIF89a\2&\2\0\x80\0\0\0\0\0\xff\xff\xff,\0\0\0\0\2\0\2\0\0\2\3D\2\5\0;", 36));
+        row("PNG without its end", u"p"_s, PhotoFault::Truncated, png.chopped(12));
+        row("JPEG without a picture", u"p"_s, PhotoFault::Broken, jpeg.first(20) + "\xff\xd9");
+        row("JPEG of 12 bits", u"p"_s, PhotoFault::UnknownType, withBytes(jpeg, frame + 4, "\x0c"));
+        row("lossless JPEG", u"p"_s, PhotoFault::UnknownType, withBytes(jpeg, frame + 1, "\xc3"));
+        const qsizetype header = png.indexOf("IHDR") + 6;
+        row("PNG with a changed header", u"p"_s, PhotoFault::Broken,
+            withBytes(png, header, QByteArray(1, char(png[header] ^ 1))));
     }
-    QVERIFY(say("from the program"));
-    QCOMPARE(samples::load(shown.fileName()), "from the program");
-}
 
-void PhotoTest::wholeJpegs_data()
-{
-    QTest::addColumn<QByteArray>("content");
-    QTest::addColumn<bool>("isEmbeddable");
+    void faults()
+    {
+        QFETCH(const QString, name);
+        QFETCH(const QByteArray, content);
+        QFETCH(const PhotoFault, fault);
+        const QString path = pathOf(name);
+        if (name == u"folder.jpg")
+            QVERIFY(QDir().mkdir(path));
+        else if (name == u"pipe.jpg")
+            QCOMPARE(mkfifo(path.toLocal8Bit().constData(), 0600), 0);
+        else if (fault != PhotoFault::NotFound && !name.startsWith(u'/'))
+            samples::store(path, content);
+        if (name == u"long.jpg") {
+            samples::store(path, samples::encoded(samples::quarters(QSize(8, 8)), "jpeg"));
+            QVERIFY(QFile::resize(path, Photo::maximumFileSize + 1));
+        }
+        std::optional<samples::OrdinaryRights> rights;
+        if (name == u"locked.jpg") {
+            QVERIFY(QFile::setPermissions(path, {}));
+            rights.emplace();
+        }
+        const auto photo = Photo::open(path);
+        QVERIFY(!photo);
+        QCOMPARE(photo.failure().reason, fault);
+        QVERIFY2(photo.failure().text.contains(QFileInfo(path).fileName()), qPrintable(photo.failure().text));
+        QVERIFY2(photo.failure().text.endsWith(u'.'), qPrintable(photo.failure().text));
+    }
 
-    const QImage picture = samples::quarters(QSize(120, 80));
-    const QByteArray jpeg = samples::encoded(picture, "jpeg");
-    const QByteArray progressive = samples::encoded(picture, "jpeg", true);
-    QByteArray arithmetic = jpeg;
-    arithmetic[jpeg.indexOf("\xff\xc0") + 1] = '\xc9';
-    QByteArray rgb =
-        jpeg.first(2) + jpeg.sliced(20); // without the JFIF segment, which says what the colours are
-    const qsizetype frame = rgb.indexOf("\xff\xc0");
-    rgb[frame + 10] = 'R';
-    rgb[frame + 13] = 'G';
-    rgb[frame + 16] = 'B';
+    void zerosAreNotRead()
+    {
+        samples::store(pathOf(u"zeros.jpg"_s), {});
+        QVERIFY(QFile::resize(pathOf(u"zeros.jpg"_s), qint64(1) << 30));
+        rusage before = {};
+        rusage after = {};
+        getrusage(RUSAGE_SELF, &before);
+        const auto photo = Photo::open(pathOf(u"zeros.jpg"_s));
+        getrusage(RUSAGE_SELF, &after);
+        QVERIFY(!photo);
+        QCOMPARE(photo.failure().reason, PhotoFault::UnknownType);
+        QVERIFY(after.ru_maxrss - before.ru_maxrss < 50'000); // kilobytes
+    }
 
-    QTest::newRow("baseline") << jpeg << true;
-    QTest::newRow("progressive") << progressive << true;
-    QTest::newRow("grey") << samples::encoded(picture.convertToFormat(QImage::Format_Grayscale8), "jpeg")
-                          << true;
-    QTest::newRow("with a film behind the picture")
-        << jpeg + QByteArray("\0\0\0\x18", 4) + "ftypmp42" << true;
-    QTest::newRow("progressive, with zeros behind it") << progressive + QByteArray(5000, '\0') << true;
-    QTest::newRow("padding before a segment") << jpeg.first(2) + "\xff\xff" + jpeg.sliced(2) << false;
-    QTest::newRow("arithmetic coding") << arithmetic << false;
-    QTest::newRow("RGB by its components' names alone") << rgb << false;
-    QTest::newRow("CMYK") << samples::redCmykJpeg() << true;
-}
+    // The photo is not to blame. A PNG is printed and shown all the same, row by row.
+    void memoryRunsShort()
+    {
+#ifdef __SANITIZE_ADDRESS__
+        QSKIP("AddressSanitizer's own memory leaves no room for a limit.");
+#endif
+        const QSize size(3000, 3000);
+        const QByteArray row(1 + qsizetype(size.width()) * 4, '\0');
+        samples::store(pathOf(u"large.png"_s),
+                       samples::pngOf(samples::pngHeader(size, 6), row.repeated(size.height())));
+        QFile nowhere(u"/dev/null"_s);
+        QVERIFY(nowhere.open(QFile::WriteOnly));
+        const auto photo = Photo::open(pathOf(u"large.png"_s));
+        QVERIFY(photo);
+        QVERIFY(
+            !photo->preview(QSize(200, 200)).isNull()); // Qt scales with threads, and hangs when it gets none
+        QFile statistics(u"/proc/self/statm"_s);
+        QVERIFY(statistics.open(QFile::ReadOnly));
+        const rlim_t pages = statistics.readLine().split(' ').constFirst().toULong();
+        rlimit before = {};
+        getrlimit(RLIMIT_AS, &before);
+        const rlimit tight = {pages * rlim_t(sysconf(_SC_PAGESIZE)) + (rlim_t(16) << 20), before.rlim_max};
+        QCOMPARE(setrlimit(RLIMIT_AS, &tight), 0);
+        const auto decoded = photo->decoded();
+        const QImage preview = photo->preview(QSize(200, 200));
+        const bool written(PdfWriter::write(*photo, {QSizeF(300, 300), QRectF(0, 0, 300, 300)}, nowhere));
+        setrlimit(RLIMIT_AS, &before);
+        QVERIFY(!decoded);
+        QCOMPARE(decoded.failure().reason, PhotoFault::TooLarge);
+        QCOMPARE(preview.size(), QSize(200, 200));
+        QVERIFY(written);
+        QVERIFY(photo->decoded());
+    }
 
-void PhotoTest::wholeJpegs()
-{
-    QFETCH(const QByteArray, content);
-    QFETCH(const bool, isEmbeddable);
-    samples::store(pathOf(u"photo"_s), content);
-    const auto photo = Photo::open(pathOf(u"photo"_s));
-    QVERIFY2(photo, photo ? "" : qPrintable(photo.failure().text));
-    QCOMPARE(photo->format(), "jpeg");
-    QCOMPARE(photo->isEmbeddable(), isEmbeddable);
-    QVERIFY(photo->content() == content);
-}
+    // Even one that does not stop to write.
+    void librariesWriteToTheLog()
+    {
+        QTemporaryFile shown;
+        QVERIFY(shown.open());
+        const int before = dup(STDERR_FILENO);
+        const auto restore = qScopeGuard([before] {
+            dup2(before, STDERR_FILENO);
+            close(before);
+        });
+        const auto say = [](const QByteArray &text) {
+            return ::write(STDERR_FILENO, text.constData(), std::size_t(text.size())) == text.size();
+        };
+        dup2(shown.handle(), STDERR_FILENO);
+        QuietDecoding::enable();
+        QTest::ignoreMessage(QtWarningMsg, "from a library");
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"^x+$"_s));
+        {
+            const QuietDecoding quiet;
+            QVERIFY(say("from a library\n"));
+            for (int i = 0; i < 200; ++i)
+                say(QByteArray(1024, 'x'));
+        }
+        QVERIFY(say("from the program"));
+        QCOMPARE(samples::load(shown.fileName()), "from the program");
+    }
 
-/// Each byte of the headers replaced by values that make lengths, counts and offsets extreme.
-void PhotoTest::damagedHeadersAreSafe()
-{
-    const QByteArray jpeg = samples::encoded(samples::quarters(QSize(16, 16)), "jpeg");
-    for (const bool bigEndian : {false, true}) {
-        const QByteArray whole = samples::withOrientation(jpeg, 6, bigEndian);
-        QCOMPARE(JpegHeader::read(whole).orientation.value(), 6);
-        for (qsizetype i = 2; i < whole.size(); ++i) {
-            for (const char value : {'\0', '\x01', '\x7f', '\xda', '\xff'}) {
-                QByteArray damaged = whole;
-                damaged[i] = value;
-                const int orientation = JpegHeader::read(damaged).orientation.value();
-                QVERIFY(orientation >= 1 && orientation <= 8);
+    void wholeJpegs_data()
+    {
+        QTest::addColumn<QByteArray>("content");
+        QTest::addColumn<bool>("isEmbeddable");
+
+        const QImage picture = samples::quarters(QSize(120, 80));
+        const QByteArray jpeg = samples::encoded(picture, "jpeg");
+        const QByteArray progressive = samples::encoded(picture, "jpeg", true);
+        QByteArray arithmetic = jpeg;
+        arithmetic[jpeg.indexOf("\xff\xc0") + 1] = '\xc9';
+        QByteArray rgb = jpeg.first(2) + jpeg.sliced(20); // without the JFIF segment, which tells the colours
+        const qsizetype frame = rgb.indexOf("\xff\xc0");
+        rgb[frame + 10] = 'R';
+        rgb[frame + 13] = 'G';
+        rgb[frame + 16] = 'B';
+
+        QTest::newRow("baseline") << jpeg << true;
+        QTest::newRow("progressive") << progressive << true;
+        QTest::newRow("grey") << samples::encoded(picture.convertToFormat(QImage::Format_Grayscale8), "jpeg")
+                              << true;
+        QTest::newRow("with a film behind the picture")
+            << jpeg + QByteArray("\0\0\0\x18", 4) + "ftypmp42" << true;
+        QTest::newRow("progressive, with zeros behind it") << progressive + QByteArray(5000, '\0') << true;
+        QTest::newRow("padding before a segment") << jpeg.first(2) + "\xff\xff" + jpeg.sliced(2) << false;
+        QTest::newRow("arithmetic coding") << arithmetic << false;
+        QTest::newRow("RGB by its components' names alone") << rgb << false;
+        QTest::newRow("CMYK") << samples::redCmykJpeg() << true;
+    }
+
+    void wholeJpegs()
+    {
+        QFETCH(const QByteArray, content);
+        QFETCH(const bool, isEmbeddable);
+        samples::store(pathOf(u"photo"_s), content);
+        const auto photo = Photo::open(pathOf(u"photo"_s));
+        QVERIFY2(photo, photo ? "" : qPrintable(photo.failure().text));
+        QCOMPARE(photo->format(), "jpeg");
+        QCOMPARE(photo->isEmbeddable(), isEmbeddable);
+        QVERIFY(photo->content() == content);
+    }
+
+    /// Each byte of the headers replaced by values that make lengths, counts and offsets extreme.
+    void damagedHeadersAreSafe()
+    {
+        const QByteArray jpeg = samples::encoded(samples::quarters(QSize(16, 16)), "jpeg");
+        for (const bool bigEndian : {false, true}) {
+            const QByteArray whole = samples::withOrientation(jpeg, 6, bigEndian);
+            QCOMPARE(JpegHeader::read(whole).orientation.value(), 6);
+            for (qsizetype i = 2; i < whole.size(); ++i) {
+                for (const char value : {'\0', '\x01', '\x7f', '\xda', '\xff'}) {
+                    QByteArray damaged = whole;
+                    damaged[i] = value;
+                    const int orientation = JpegHeader::read(damaged).orientation.value();
+                    QVERIFY(orientation >= 1 && orientation <= 8);
+                }
+                // The heap block ends with the bytes, so that a sanitizer sees the first one read behind
+                // them.
+                QVERIFY(JpegHeader::read(std::vector<char>(whole.begin(), whole.begin() + i)).state !=
+                        JpegHeader::State::Complete);
             }
-            // The heap block ends with the bytes, so that a sanitizer sees the first one read behind them.
-            QVERIFY(JpegHeader::read(std::vector<char>(whole.begin(), whole.begin() + i)).state !=
-                    JpegHeader::State::Complete);
         }
     }
-}
 
-void PhotoTest::orientations_data()
-{
-    QTest::addColumn<int>("orientation");
-    QTest::addColumn<int>("seenAs");
-    QTest::addColumn<bool>("bigEndian");
-    for (int i = 1; i <= 8; ++i)
-        QTest::addRow("Exif orientation %d", i) << i << i << (i % 2 == 0);
-    QTest::newRow("Exif orientation 0, which does not exist") << 0 << 1 << false;
-    QTest::newRow("Exif orientation 9, which does not exist") << 9 << 1 << true;
-}
+    void orientations_data()
+    {
+        QTest::addColumn<int>("orientation");
+        QTest::addColumn<int>("seenAs");
+        QTest::addColumn<bool>("bigEndian");
+        for (int i = 1; i <= 8; ++i)
+            QTest::addRow("Exif orientation %d", i) << i << i << (i % 2 == 0);
+        QTest::newRow("Exif orientation 0, which does not exist") << 0 << 1 << false;
+        QTest::newRow("Exif orientation 9, which does not exist") << 9 << 1 << true;
+    }
 
-void PhotoTest::orientations()
-{
-    QFETCH(const int, orientation);
-    QFETCH(const int, seenAs);
-    QFETCH(const bool, bigEndian);
-    const QByteArray jpeg = samples::encoded(samples::quarters(QSize(300, 200)), "jpeg");
-    samples::store(pathOf(u"photo.jpg"_s), samples::withOrientation(jpeg, orientation, bigEndian));
-    const auto photo = Photo::open(pathOf(u"photo.jpg"_s));
-    QVERIFY(photo);
-    QCOMPARE(photo->orientation().value(), seenAs);
-    const QSize seen = seenAs >= 5 ? QSize(200, 300) : QSize(300, 200);
-    QCOMPARE(photo->orientedSize(), seen);
+    void orientations()
+    {
+        QFETCH(const int, orientation);
+        QFETCH(const int, seenAs);
+        QFETCH(const bool, bigEndian);
+        const QByteArray jpeg = samples::encoded(samples::quarters(QSize(300, 200)), "jpeg");
+        samples::store(pathOf(u"photo.jpg"_s), samples::withOrientation(jpeg, orientation, bigEndian));
+        const auto photo = Photo::open(pathOf(u"photo.jpg"_s));
+        QVERIFY(photo);
+        QCOMPARE(photo->orientation().value(), seenAs);
+        const QSize seen = seenAs >= 5 ? QSize(200, 300) : QSize(300, 200);
+        QCOMPARE(photo->orientedSize(), seen);
 
-    const QImage large = photo->preview(QSize(1000, 1000));
-    QCOMPARE(large.size(), seen);
-    QCOMPARE(samples::cornersOf(large, large.rect(), 20), samples::seenCorners[std::size_t(seenAs)]);
-    const QImage small = photo->preview(QSize(60, 1000));
-    QCOMPARE(small.size(), seen.scaled(60, 1000, Qt::KeepAspectRatio));
-    QCOMPARE(samples::cornersOf(small, small.rect(), 10), samples::seenCorners[std::size_t(seenAs)]);
-}
+        const QImage large = photo->preview(QSize(1000, 1000));
+        QCOMPARE(large.size(), seen);
+        QCOMPARE(samples::cornersOf(large, large.rect(), 20), samples::seenCorners[std::size_t(seenAs)]);
+        const QImage small = photo->preview(QSize(60, 1000));
+        QCOMPARE(small.size(), seen.scaled(60, 1000, Qt::KeepAspectRatio));
+        QCOMPARE(samples::cornersOf(small, small.rect(), 10), samples::seenCorners[std::size_t(seenAs)]);
+    }
 
-// Such a bitmap's height is negative.
-void PhotoTest::bitmapFromTheTopDown()
-{
-    QByteArray bitmap = samples::encoded(samples::quarters(QSize(300, 200)), "bmp");
-    qToLittleEndian<qint32>(-200, bitmap.data() + 22);
-    samples::store(pathOf(u"photo.bmp"_s), bitmap);
-    const auto photo = Photo::open(pathOf(u"photo.bmp"_s));
-    QVERIFY(photo);
-    const QImage preview = photo->preview(QSize(60, 40));
-    QCOMPARE(samples::cornersOf(preview, preview.rect(), 8), u"BYRG"_s);
-    QVERIFY(photo->decoded());
-    qToLittleEndian<qint32>(INT_MIN, bitmap.data() + 22);
-    samples::store(pathOf(u"photo.bmp"_s), bitmap);
-    QVERIFY(!Photo::open(pathOf(u"photo.bmp"_s)));
-}
+    // Its height is negative.
+    void bitmapFromTheTopDown()
+    {
+        QByteArray bitmap = samples::encoded(samples::quarters(QSize(300, 200)), "bmp");
+        qToLittleEndian<qint32>(-200, bitmap.data() + 22);
+        samples::store(pathOf(u"photo.bmp"_s), bitmap);
+        const auto photo = Photo::open(pathOf(u"photo.bmp"_s));
+        QVERIFY(photo);
+        const QImage preview = photo->preview(QSize(60, 40));
+        QCOMPARE(samples::cornersOf(preview, preview.rect(), 8), u"BYRG"_s);
+        QVERIFY(photo->decoded());
+        qToLittleEndian<qint32>(INT_MIN, bitmap.data() + 22);
+        samples::store(pathOf(u"photo.bmp"_s), bitmap);
+        QVERIFY(!Photo::open(pathOf(u"photo.bmp"_s)));
+    }
 
-void PhotoTest::resolutions_data()
-{
-    QTest::addColumn<QByteArray>("content");
-    QTest::addColumn<double>("resolution"); // 0: none
+    void resolutions_data()
+    {
+        QTest::addColumn<QByteArray>("content");
+        QTest::addColumn<double>("resolution"); // 0: none
 
-    QImage picture = samples::quarters(QSize(60, 40));
-    picture.setDotsPerMeterX(7874); // 200 per inch
-    picture.setDotsPerMeterY(7874);
-    const QByteArray jpeg = samples::encoded(picture, "jpeg");
-    const auto exif = [&jpeg](int perInch) {
-        return samples::withExif(jpeg, samples::tiffWithResolution(perInch));
-    };
-    const auto jfif = [](QByteArray content, qsizetype at, char value) {
-        content[content.indexOf("JFIF") + at] = value;
-        return content;
-    };
-    QTest::newRow("JFIF") << jpeg << 200.0;
-    QTest::newRow("JFIF, per centimetre") << jfif(jpeg, 7, 2) << 508.0;
-    QTest::newRow("JFIF of a ratio only") << jfif(jpeg, 7, 0) << 0.0;
-    QTest::newRow("two directions that differ") << jfif(jpeg, 11, 100) << 0.0;
-    QTest::newRow("Exif before JFIF") << exif(250) << 250.0;
-    QTest::newRow("no number") << exif(0) << 200.0;
-    QTest::newRow("a camera that says twice that it does not know")
-        << jfif(jfif(exif(72), 9, 72), 11, 72) << 0.0;
-    QTest::newRow("PNG") << samples::encoded(picture, "png") << 200.0;
-}
+        QImage picture = samples::quarters(QSize(60, 40));
+        picture.setDotsPerMeterX(7874); // 200 per inch
+        picture.setDotsPerMeterY(7874);
+        const QByteArray jpeg = samples::encoded(picture, "jpeg");
+        const auto exif = [&jpeg](int perInch) {
+            return samples::withExif(jpeg, samples::tiffWithResolution(perInch));
+        };
+        const auto jfif = [](QByteArray content, qsizetype at, char value) {
+            content[content.indexOf("JFIF") + at] = value;
+            return content;
+        };
+        QTest::newRow("JFIF") << jpeg << 200.0;
+        QTest::newRow("JFIF, per centimetre") << jfif(jpeg, 7, 2) << 508.0;
+        QTest::newRow("JFIF of a ratio only") << jfif(jpeg, 7, 0) << 0.0;
+        QTest::newRow("two directions that differ") << jfif(jpeg, 11, 100) << 0.0;
+        QTest::newRow("Exif before JFIF") << exif(250) << 250.0;
+        QTest::newRow("no number") << exif(0) << 200.0;
+        QTest::newRow("a camera that says twice that it does not know")
+            << jfif(jfif(exif(72), 9, 72), 11, 72) << 0.0;
+        QTest::newRow("PNG") << samples::encoded(picture, "png") << 200.0;
+    }
 
-void PhotoTest::resolutions()
-{
-    QFETCH(const QByteArray, content);
-    QFETCH(const double, resolution);
-    samples::store(pathOf(u"photo"_s), content);
-    const auto photo = Photo::open(pathOf(u"photo"_s));
-    QVERIFY(photo);
-    QCOMPARE(photo->resolution().has_value(), resolution > 0);
-    QVERIFY(std::abs(photo->printedResolution() - (resolution > 0 ? resolution : 300)) < 0.1);
-}
+    void resolutions()
+    {
+        QFETCH(const QByteArray, content);
+        QFETCH(const double, resolution);
+        samples::store(pathOf(u"photo"_s), content);
+        const auto photo = Photo::open(pathOf(u"photo"_s));
+        QVERIFY(photo);
+        QCOMPARE(photo->resolution().has_value(), resolution > 0);
+        QVERIFY(std::abs(photo->printedResolution() - (resolution > 0 ? resolution : 300)) < 0.1);
+    }
 
-/// A format that cannot be read is named, with what would help.
-void PhotoTest::unreadableFormats_data()
-{
-    QTest::addColumn<QByteArray>("content");
-    QTest::addColumn<QString>("named");
-    const QByteArray raw("II*\0\x10\0\0\0CR\2\0", 12);
-    const QByteArray boxes = QByteArray("\0\0\0\x18", 4) + "ftypcrx ";
-    const QByteArray webp("RIFF\0\0\0\0WEBP", 12);
-    QTest::newRow("raw by its letters") << raw << u"camera raw"_s;
-    QTest::newRow("raw by its kind") << QByteArray("WRITER00CCD-RAW 0201") << u"camera raw"_s;
-    QTest::newRow("raw in boxes") << boxes << u"camera raw"_s;
-    QTest::newRow("JPEG XL") << QByteArray("\xff\x0a") << u"JPEG XL"_s;
-    QTest::newRow("PDF") << QByteArray("%PDF-1.7") << u"PDF"_s;
-    if (!PhotoFormat::of(webp).isReadable())
-        QTest::newRow("WebP") << webp << u"qt6-image-formats-plugins"_s;
-}
+    /// What cannot be read is called by its name, with what would help.
+    void unreadableFormats_data()
+    {
+        QTest::addColumn<QByteArray>("content");
+        QTest::addColumn<QString>("named");
+        const QByteArray raw("II*\0\x10\0\0\0CR\2\0", 12);
+        const QByteArray boxes = QByteArray("\0\0\0\x18", 4) + "ftypcrx ";
+        const QByteArray webp("RIFF\0\0\0\0WEBP", 12);
+        QTest::newRow("raw by its letters") << raw << u"camera raw"_s;
+        QTest::newRow("raw in boxes") << boxes << u"camera raw"_s;
+        QTest::newRow("JPEG XL") << QByteArray("\xff\x0a") << u"JPEG XL"_s;
+        QTest::newRow("PDF") << QByteArray("%PDF-1.7") << u"PDF"_s;
+        if (!PhotoFormat::of(webp).isReadable())
+            QTest::newRow("WebP") << webp << u"qt6-image-formats-plugins"_s;
+    }
 
-void PhotoTest::unreadableFormats()
-{
-    QFETCH(const QByteArray, content);
-    QFETCH(const QString, named);
-    samples::store(pathOf(u"photo"_s), content + QByteArray(64, '\0'));
-    const auto photo = Photo::open(pathOf(u"photo"_s));
-    QVERIFY(!photo);
-    QVERIFY2(photo.failure().text.contains(named), qPrintable(photo.failure().text));
-    QCOMPARE(photo.failure().reason,
-             named.contains(u"plugins") ? PhotoFault::NeedsPackage : PhotoFault::UnknownType);
-}
+    void unreadableFormats()
+    {
+        QFETCH(const QByteArray, content);
+        QFETCH(const QString, named);
+        samples::store(pathOf(u"photo"_s), content + QByteArray(64, '\0'));
+        const auto photo = Photo::open(pathOf(u"photo"_s));
+        QVERIFY(!photo);
+        QVERIFY2(photo.failure().text.contains(named), qPrintable(photo.failure().text));
+        QCOMPARE(photo.failure().reason,
+                 named.contains(u"plugins") ? PhotoFault::NeedsPackage : PhotoFault::UnknownType);
+    }
+};
 
 CORVEL_TEST(PhotoTest)
 #include "PhotoTest.moc"
