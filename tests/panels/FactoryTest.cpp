@@ -78,105 +78,98 @@ class FactoryTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase_data();
-    void order();
-    void missingPanelEndsTheList_data();
-    void missingPanelEndsTheList();
-    void missingForm();
-    void entry();
+    void initTestCase_data()
+    {
+        QTest::addColumn<Mode>("mode");
+        QTest::newRow("constraint handling") << Mode::Constraint;
+        QTest::newRow("print settings") << Mode::Settings;
+    }
+
+    void order()
+    {
+        QFETCH_GLOBAL(Mode, mode);
+        PanelHarness dialog(mode);
+        const auto panels = panelsOf(builtBundle(), dialog.callback);
+        QCOMPARE(kindsOf(panels), text("coloradjust sharpness matte"));
+        // Each has loaded its form when it was made, or does so only now. The lamination panel says nothing.
+        QCOMPARE(dialog.log, dialog.constraints ? QStringList() : QStringList({sharpnessLine, colorLine}));
+        for (const pdekit::PanelPointer &panel : panels) {
+            const QWidget *view = panel->panelView();
+            QVERIFY(view);
+            QCOMPARE(panel->panelView(), view);
+        }
+        if (dialog.constraints)
+            QCOMPARE(dialog.log, QStringList({colorLine, sharpnessLine}));
+    }
+
+    void missingPanelEndsTheList_data()
+    {
+        addRows<int, QString>({
+            {"the first made is the last offered", 1, text("coloradjust sharpness")},
+            {"the second", 2, text("coloradjust")},
+            {"the last made is the first offered", 3, {}},
+        });
+    }
+
+    void missingPanelEndsTheList()
+    {
+        QFETCH_GLOBAL(Mode, mode);
+        const auto [failing, kinds] = row<int, QString>();
+        PanelHarness dialog(mode);
+        CountingSession session;
+        session.ppd = dialog.session.ppd;
+        dialog.callback->session = &session;
+        auto counting = std::make_shared<CountingCallback>();
+        counting->ppd = dialog.callback->ppd;
+        requests = 0;
+        failingRequest = failing;
+        const pdekit::HostInfo hostInfo = dialog.constraints ? counting : dialog.callback;
+        QCOMPARE(kindsOf(panelsOf(builtBundle(), hostInfo)), kinds);
+        QCOMPARE(requests, 3);             // all were tried
+        QCOMPARE(hostInfo.use_count(), 2); // none was kept
+    }
+
+    void missingForm()
+    {
+        QFETCH_GLOBAL(Mode, mode);
+        QTemporaryDir folder;
+        const QString path = folder.filePath(text("Corvel9031.bundle"));
+        std::filesystem::copy(builtBundle().toStdString(), path.toStdString(),
+                              std::filesystem::copy_options::recursive);
+        QVERIFY(QFile::remove(path + text("/Contents/Resources/corvelMatte.ui")));
+        PanelHarness dialog(mode);
+        dialog.printer.description = QUrl(text("ppd:x"));
+        dialog.printer.data = "K9031"; // whose controls would be retired
+        const auto panels = panelsOf(path, dialog.callback);
+        QCOMPARE(kindsOf(panels), text("coloradjust sharpness matte"));
+        if (!dialog.constraints) {
+            QCOMPARE(dialog.log, QStringList({laminationLine, sharpnessLine, colorLine}));
+            dialog.log.clear();
+        }
+        QVERIFY(!panels.at(2)->panelView()); // tries again each time
+        QCOMPARE(dialog.log, QStringList(laminationLine));
+        QVERIFY(panels.at(2)->restoreValuesAndReturnError(nullptr));
+        panels.at(2)->willShow();
+        QVERIFY(panels.at(0)->panelView() && panels.at(1)->panelView());
+    }
+
+    void entry()
+    {
+        PanelHarness dialog(Mode::Constraint);
+        pdekit::PrintDialogPlugin *plugin = pluginOf(builtBundle());
+        QVERIFY(plugin->initWithBundle(*pdekit::Bundle::open(builtBundle())));
+        const QTemporaryDir folder;
+        QVERIFY(
+            !plugin->initWithBundle(emptyBundle(folder.path(), "org.corvel.printing.corvel9031").value()));
+        QCOMPARE(dialog.log,
+                 QStringList({text("INIT: loading bundle with id \"org.corvel.printing.Corvel9031\""),
+                              text("ERROR: bad bundle id \"org.corvel.printing.corvel9031\" not equal to "
+                                   "\"org.corvel.printing.Corvel9031\"")}));
+        for (const QString &type : {panelsType.toLower(), QString()})
+            QVERIFY(!plugin->PDEPanelsForTypeWithHostInfo(type, dialog.callback));
+        QCOMPARE(dialog.log.size(), 2);
+    }
 };
-
-void FactoryTest::initTestCase_data()
-{
-    QTest::addColumn<Mode>("mode");
-    QTest::newRow("constraint handling") << Mode::Constraint;
-    QTest::newRow("print settings") << Mode::Settings;
-}
-
-void FactoryTest::order()
-{
-    QFETCH_GLOBAL(Mode, mode);
-    PanelHarness dialog(mode);
-    const auto panels = panelsOf(builtBundle(), dialog.callback);
-    QCOMPARE(kindsOf(panels), text("coloradjust sharpness matte"));
-    // In settings mode each loads its form when it is made, else when it is first shown. The lamination panel
-    // logs nothing.
-    QCOMPARE(dialog.log, dialog.constraints ? QStringList() : QStringList({sharpnessLine, colorLine}));
-    for (const pdekit::PanelPointer &panel : panels) {
-        const QWidget *view = panel->panelView();
-        QVERIFY(view);
-        QCOMPARE(panel->panelView(), view);
-    }
-    if (dialog.constraints)
-        QCOMPARE(dialog.log, QStringList({colorLine, sharpnessLine}));
-}
-
-void FactoryTest::missingPanelEndsTheList_data()
-{
-    addRows<int, QString>({
-        {"the first made is the last offered", 1, text("coloradjust sharpness")},
-        {"the second", 2, text("coloradjust")},
-        {"the last made is the first offered", 3, {}},
-    });
-}
-
-void FactoryTest::missingPanelEndsTheList()
-{
-    QFETCH_GLOBAL(Mode, mode);
-    const auto [failing, kinds] = row<int, QString>();
-    PanelHarness dialog(mode);
-    CountingSession session;
-    session.ppd = dialog.session.ppd;
-    dialog.callback->session = &session;
-    auto counting = std::make_shared<CountingCallback>();
-    counting->ppd = dialog.callback->ppd;
-    requests = 0;
-    failingRequest = failing;
-    const pdekit::HostInfo hostInfo = dialog.constraints ? counting : dialog.callback;
-    QCOMPARE(kindsOf(panelsOf(builtBundle(), hostInfo)), kinds);
-    QCOMPARE(requests, 3);             // all were tried
-    QCOMPARE(hostInfo.use_count(), 2); // none was kept
-}
-
-void FactoryTest::missingForm()
-{
-    QFETCH_GLOBAL(Mode, mode);
-    QTemporaryDir folder;
-    const QString path = folder.filePath(text("Corvel9031.bundle"));
-    std::filesystem::copy(builtBundle().toStdString(), path.toStdString(),
-                          std::filesystem::copy_options::recursive);
-    QVERIFY(QFile::remove(path + text("/Contents/Resources/corvelMatte.ui")));
-    PanelHarness dialog(mode);
-    dialog.printer.description = QUrl(text("ppd:x"));
-    dialog.printer.data = "K9031"; // whose controls would be retired
-    const auto panels = panelsOf(path, dialog.callback);
-    QCOMPARE(kindsOf(panels), text("coloradjust sharpness matte"));
-    if (!dialog.constraints) {
-        QCOMPARE(dialog.log, QStringList({laminationLine, sharpnessLine, colorLine}));
-        dialog.log.clear();
-    }
-    QVERIFY(!panels.at(2)->panelView()); // tries again each time
-    QCOMPARE(dialog.log, QStringList(laminationLine));
-    QVERIFY(panels.at(2)->restoreValuesAndReturnError(nullptr));
-    panels.at(2)->willShow();
-    QVERIFY(panels.at(0)->panelView() && panels.at(1)->panelView());
-}
-
-void FactoryTest::entry()
-{
-    PanelHarness dialog(Mode::Constraint);
-    pdekit::PrintDialogPlugin *plugin = pluginOf(builtBundle());
-    QVERIFY(plugin->initWithBundle(*pdekit::Bundle::open(builtBundle())));
-    const QTemporaryDir folder;
-    QVERIFY(!plugin->initWithBundle(emptyBundle(folder.path(), "org.corvel.printing.corvel9031").value()));
-    QCOMPARE(dialog.log,
-             QStringList({text("INIT: loading bundle with id \"org.corvel.printing.Corvel9031\""),
-                          text("ERROR: bad bundle id \"org.corvel.printing.corvel9031\" not equal to "
-                               "\"org.corvel.printing.Corvel9031\"")}));
-    for (const QString &type : {panelsType.toLower(), QString()})
-        QVERIFY(!plugin->PDEPanelsForTypeWithHostInfo(type, dialog.callback));
-    QCOMPARE(dialog.log.size(), 2);
-}
 
 CORVEL_WIDGETS_TEST(FactoryTest)
 #include "FactoryTest.moc"
