@@ -116,56 +116,52 @@ class ModelTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void panelDoesWhatTheModelDoes_data();
-    void panelDoesWhatTheModelDoes();
-    void faultIsFoundAndShrunk();
-};
-
-void ModelTest::panelDoesWhatTheModelDoes_data()
-{
-    QTest::addColumn<PanelTable>("table");
-    QTest::addColumn<Mode>("mode");
-    PanelTable poor = PanelTable::colour(); // of a PPD that lacks an option
-    poor.options.removeFirst();
-    const QList<std::pair<const char *, PanelTable>> tables = {
-        {"colour", PanelTable::colour()},
-        {"colour, option missing", poor},
-        {"sharpness", PanelTable::sharpness()},
-        {"sharpness in thousandths", PanelTable::sharpness(true)},
-        {"finish", PanelTable::lamination()},
-        {"finish of the K9031", PanelTable::lamination("*ModelName: \"some k9031")},
-        {"finish of another model", PanelTable::lamination("*ModelName: \"K9045\"\n*NickName: \"K903")},
-        {"mixed controls", PanelTable::mixed()},
-    };
-    for (const auto &[name, table] : tables) {
-        QTest::addRow("%s, constraint handling", name) << table << Mode::Constraint;
-        QTest::addRow("%s, print settings", name) << table << Mode::Settings;
+    void panelDoesWhatTheModelDoes_data()
+    {
+        QTest::addColumn<PanelTable>("table");
+        QTest::addColumn<Mode>("mode");
+        PanelTable poor = PanelTable::colour(); // of a PPD that lacks an option
+        poor.options.removeFirst();
+        const QList<std::pair<const char *, PanelTable>> tables = {
+            {"colour", PanelTable::colour()},
+            {"colour, option missing", poor},
+            {"sharpness", PanelTable::sharpness()},
+            {"sharpness in thousandths", PanelTable::sharpness(true)},
+            {"finish", PanelTable::lamination()},
+            {"finish of the K9031", PanelTable::lamination("*ModelName: \"some k9031")},
+            {"finish of another model", PanelTable::lamination("*ModelName: \"K9045\"\n*NickName: \"K903")},
+            {"mixed controls", PanelTable::mixed()},
+        };
+        for (const auto &[name, table] : tables) {
+            QTest::addRow("%s, constraint handling", name) << table << Mode::Constraint;
+            QTest::addRow("%s, print settings", name) << table << Mode::Settings;
+        }
     }
-}
 
-void ModelTest::panelDoesWhatTheModelDoes()
-{
-    QFETCH(PanelTable, table);
-    QFETCH(Mode, mode);
-    const quint32 seed = number("CORVEL_MODEL_SEED", 9031);
-    const int steps = int(number("CORVEL_MODEL_STEPS", 600));
-    const QString found = searched(
-        table, mode, [](PanelDriver &driver) { driver.open(); }, seed, steps);
-    if (!found.isEmpty())
-        QFAIL(qUtf8Printable(text("seed %1:\n%2").arg(QString::number(seed), found)));
-    qInfo("seed %u: %d steps alike", seed, steps);
-}
+    void panelDoesWhatTheModelDoes()
+    {
+        QFETCH(PanelTable, table);
+        QFETCH(Mode, mode);
+        const quint32 seed = number("CORVEL_MODEL_SEED", 9031);
+        const int steps = int(number("CORVEL_MODEL_STEPS", 600));
+        const QString found = searched(
+            table, mode, [](PanelDriver &driver) { driver.open(); }, seed, steps);
+        if (!found.isEmpty())
+            QFAIL(qUtf8Printable(text("seed %1:\n%2").arg(QString::number(seed), found)));
+        qInfo("seed %u: %d steps alike", seed, steps);
+    }
 
-void ModelTest::faultIsFoundAndShrunk()
-{
-    const QString found = searched(
-        PanelTable::colour(), Mode::Settings, [](PanelDriver &driver) { driver.open<RangelessPanel>(); }, 1,
-        3000);
-    // What is needed is a number beyond the range, no more.
-    QVERIFY2(found.count(QLatin1Char('\n')) <= 2 &&
-                 found.endsWith(QLatin1String("beeps should be \"1\" and is \"0\"")),
-             qUtf8Printable(found));
-}
+    void faultIsFoundAndShrunk()
+    {
+        const QString found = searched(
+            PanelTable::colour(), Mode::Settings, [](PanelDriver &driver) { driver.open<RangelessPanel>(); },
+            1, 3000);
+        // What is needed is a number beyond the range, no more.
+        QVERIFY2(found.count(QLatin1Char('\n')) <= 2 &&
+                     found.endsWith(QLatin1String("beeps should be \"1\" and is \"0\"")),
+                 qUtf8Printable(found));
+    }
+};
 
 CORVEL_WIDGETS_TEST(ModelTest)
 #include "ModelTest.moc"

@@ -18,10 +18,74 @@ class OptionPanelTest : public QObject
 
 private Q_SLOTS:
     void choicesGoBothWays_data() { modes(); }
-    void choicesGoBothWays();
+
+    void choicesGoBothWays()
+    {
+        QFETCH(Mode, mode);
+        PanelHarness dialog(mode, ppd());
+        dialog.session.ticket.options.insert(text("Red"), text("0"));
+        const auto panel = made(dialog);
+        QVERIFY(panel->restoreValuesAndReturnError(nullptr));
+        auto *view = panel->panelView();
+        view->show();
+        auto *popUp = view->findChild<QComboBox *>(text("popUp"));
+        auto *field = view->findChild<QLineEdit *>(text("field"));
+        QCOMPARE(popUp->currentText(), text("Shiny"));
+        QVERIFY(view->findChild<QCheckBox *>(text("box"))->isChecked());
+
+        view->findChild<QRadioButton *>(text("matte"))->click();
+        QCOMPARE(popUp->currentText(), text("Dull"));
+        field->selectAll();
+        QTest::keyClicks(field, text("-12"));
+        QCOMPARE(view->findChild<QSlider *>(text("slider"))->value(), -12);
+        view->findChild<QCheckBox *>(text("box"))->click();
+        QVERIFY(panel->markChoiceForPPDOptionKeyFromSender(text("glossy"), text("Finish"), nullptr));
+        QVERIFY(view->findChild<QRadioButton *>(text("glossy"))->isChecked());
+        QCOMPARE(dialog.feedback->beeps, 0);
+
+        QVERIFY(panel->saveValuesAndReturnError(nullptr));
+        const auto chosen = [&](const char *key) {
+            return mode == Mode::Constraint ? dialog.marked(text(key))
+                                            : dialog.session.ticket.options.value(text(key));
+        };
+        QCOMPARE(chosen("Red"), text("-12"));
+        QCOMPARE(chosen("AdjustmentsEnabled"), text("False"));
+        QCOMPARE(panel->summaryInfo()->value(text("Finish")), text("Shiny"));
+
+        view->findChild<QPushButton *>(text("defaults"))->click();
+        QVERIFY(panel->saveValuesAndReturnError(nullptr));
+        QCOMPARE(chosen("Red"), text("0"));
+        QCOMPARE(chosen("AdjustmentsEnabled"), text("True"));
+    }
+
     void refusedChoiceIsPutBack_data() { modes(); }
-    void refusedChoiceIsPutBack();
-    void reportsWhatIsMissing();
+
+    void refusedChoiceIsPutBack()
+    {
+        QFETCH(Mode, mode);
+        PanelHarness dialog(mode, ppd());
+        if (dialog.constraints)
+            dialog.constraints->refused = QStringList{text("Red")};
+        const auto panel = made(dialog);
+        panel->restoreValuesAndReturnError(nullptr);
+        auto *field = panel->panelView()->findChild<QLineEdit *>(text("field"));
+        field->selectAll();
+        QTest::keyClicks(field, text("ab"));
+        QTest::keyClick(field, Qt::Key_Return);
+        QCOMPARE(field->text(), text("0"));
+        QVERIFY(dialog.feedback->beeps > 0);
+    }
+
+    void reportsWhatIsMissing()
+    {
+        PanelHarness dialog(Mode::Settings, ppd());
+        const auto panel = made(dialog);
+        dialog.session.ticketStatus = -1;
+        QString error;
+        QVERIFY(!panel->saveValuesAndReturnError(&error) && error.contains(text("print settings")));
+        dialog.session.ppdStatus = -1;
+        QVERIFY(!panel->restoreValuesAndReturnError(&error) && error.contains(text("PPD")));
+    }
 
 private:
     static void modes()
@@ -50,72 +114,6 @@ private:
                                        {5, text("Finish")}}});
     }
 };
-
-void OptionPanelTest::choicesGoBothWays()
-{
-    QFETCH(Mode, mode);
-    PanelHarness dialog(mode, ppd());
-    dialog.session.ticket.options.insert(text("Red"), text("0"));
-    const auto panel = made(dialog);
-    QVERIFY(panel->restoreValuesAndReturnError(nullptr));
-    auto *view = panel->panelView();
-    view->show();
-    auto *popUp = view->findChild<QComboBox *>(text("popUp"));
-    auto *field = view->findChild<QLineEdit *>(text("field"));
-    QCOMPARE(popUp->currentText(), text("Shiny"));
-    QVERIFY(view->findChild<QCheckBox *>(text("box"))->isChecked());
-
-    view->findChild<QRadioButton *>(text("matte"))->click();
-    QCOMPARE(popUp->currentText(), text("Dull"));
-    field->selectAll();
-    QTest::keyClicks(field, text("-12"));
-    QCOMPARE(view->findChild<QSlider *>(text("slider"))->value(), -12);
-    view->findChild<QCheckBox *>(text("box"))->click();
-    QVERIFY(panel->markChoiceForPPDOptionKeyFromSender(text("glossy"), text("Finish"), nullptr));
-    QVERIFY(view->findChild<QRadioButton *>(text("glossy"))->isChecked());
-    QCOMPARE(dialog.feedback->beeps, 0);
-
-    QVERIFY(panel->saveValuesAndReturnError(nullptr));
-    const auto chosen = [&](const char *key) {
-        return mode == Mode::Constraint ? dialog.marked(text(key))
-                                        : dialog.session.ticket.options.value(text(key));
-    };
-    QCOMPARE(chosen("Red"), text("-12"));
-    QCOMPARE(chosen("AdjustmentsEnabled"), text("False"));
-    QCOMPARE(panel->summaryInfo()->value(text("Finish")), text("Shiny"));
-
-    view->findChild<QPushButton *>(text("defaults"))->click();
-    QVERIFY(panel->saveValuesAndReturnError(nullptr));
-    QCOMPARE(chosen("Red"), text("0"));
-    QCOMPARE(chosen("AdjustmentsEnabled"), text("True"));
-}
-
-void OptionPanelTest::refusedChoiceIsPutBack()
-{
-    QFETCH(Mode, mode);
-    PanelHarness dialog(mode, ppd());
-    if (dialog.constraints)
-        dialog.constraints->refused = QStringList{text("Red")};
-    const auto panel = made(dialog);
-    panel->restoreValuesAndReturnError(nullptr);
-    auto *field = panel->panelView()->findChild<QLineEdit *>(text("field"));
-    field->selectAll();
-    QTest::keyClicks(field, text("ab"));
-    QTest::keyClick(field, Qt::Key_Return);
-    QCOMPARE(field->text(), text("0"));
-    QVERIFY(dialog.feedback->beeps > 0);
-}
-
-void OptionPanelTest::reportsWhatIsMissing()
-{
-    PanelHarness dialog(Mode::Settings, ppd());
-    const auto panel = made(dialog);
-    dialog.session.ticketStatus = -1;
-    QString error;
-    QVERIFY(!panel->saveValuesAndReturnError(&error) && error.contains(text("print settings")));
-    dialog.session.ppdStatus = -1;
-    QVERIFY(!panel->restoreValuesAndReturnError(&error) && error.contains(text("PPD")));
-}
 
 CORVEL_WIDGETS_TEST(OptionPanelTest)
 #include "OptionPanelTest.moc"
