@@ -27,59 +27,56 @@ private:
 
 private Q_SLOTS:
     void init() { folder_ = std::make_unique<QTemporaryDir>(); }
-    void nameAsUrl_data();
-    void nameAsUrl();
-    void badPhotosLeaveTheWindowToTheGoodOnes();
-    void outputFolder();
+
+    void nameAsUrl_data()
+    {
+        QTest::addColumn<QString>("argument");
+        QTest::addColumn<QString>("path");
+        QTest::newRow("path") << u"a b.jpg"_s << u"a b.jpg"_s;
+        QTest::newRow("escaped") << u"file:///tmp/a%20b%C3%A9.jpg"_s << u"/tmp/a b\u00e9.jpg"_s;
+        QTest::newRow("not escaped") << u"file:///tmp/a b.jpg"_s << u"/tmp/a b.jpg"_s;
+        QTest::newRow("without a host") << u"file:/tmp/a.jpg"_s << u"/tmp/a.jpg"_s;
+        QTest::newRow("with this host") << u"file://localhost/tmp/a.jpg"_s << u"/tmp/a.jpg"_s;
+        QTest::newRow("bytes") << u"file:///tmp/%E9.jpg"_s << u"/tmp/\ufffd.jpg"_s;
+        QTest::newRow("number sign") << u"file:///tmp/a%23b.jpg"_s << u"/tmp/a#b.jpg"_s;
+    }
+
+    void nameAsUrl()
+    {
+        QFETCH(QString, argument);
+        const auto commandLine = CommandLine::parse({u"corvel-print"_s, argument});
+        QVERIFY(commandLine);
+        QTEST(commandLine->photos.value(0), "path");
+    }
+
+    void badPhotosLeaveTheWindowToTheGoodOnes()
+    {
+        QVERIFY(store(pathOf(u"bad.jpg"_s), "no photo"));
+        const QStringList bad = {pathOf(u"none.jpg"_s), pathOf(u"bad.jpg"_s)};
+        const PrintDialogSetup setup =
+            windowSetup(*CommandLine::parse({u"corvel-print"_s, bad[0], samplePhoto, bad[1]}));
+        QCOMPARE(setup.photos.size(), 1);
+        QCOMPARE(setup.photoFailures.size(), 2);
+        for (int i : {0, 1})
+            QVERIFY2(setup.photoFailures.at(i).contains(bad.at(i)), qPrintable(setup.photoFailures.at(i)));
+        // Without a good one there is nothing to show.
+        const ProgramRun none = runProgram(bad, {{u"QT_QPA_PLATFORM"_s, u"offscreen"_s}});
+        QCOMPARE(wrongInRefusal(none, 1, bad), QByteArray());
+    }
+
+    // What a user of the window prints is not left in the folder that the desktop happens to start programs
+    // in.
+    void outputFolder()
+    {
+        const auto folderOf = [](const QStringList &arguments) {
+            return CommandLine::parse(QStringList{u"corvel-print"_s} + arguments)->outputFolder();
+        };
+        const QString pictures = QStandardPaths::writableLocation(QStandardPaths::PicturesLocation);
+        QCOMPARE(folderOf({samplePhoto}), pictures + u"/Prints"_s);
+        QCOMPARE(folderOf({samplePhoto, u"--batch"_s}), u"."_s);
+        QCOMPARE(folderOf({samplePhoto, u"--output=there"_s}), u"there"_s);
+    }
 };
-
-void PhotoArgumentsTest::nameAsUrl_data()
-{
-    QTest::addColumn<QString>("argument");
-    QTest::addColumn<QString>("path");
-    QTest::newRow("path") << u"a b.jpg"_s << u"a b.jpg"_s;
-    QTest::newRow("escaped") << u"file:///tmp/a%20b%C3%A9.jpg"_s << u"/tmp/a b\u00e9.jpg"_s;
-    QTest::newRow("not escaped") << u"file:///tmp/a b.jpg"_s << u"/tmp/a b.jpg"_s;
-    QTest::newRow("without a host") << u"file:/tmp/a.jpg"_s << u"/tmp/a.jpg"_s;
-    QTest::newRow("with this host") << u"file://localhost/tmp/a.jpg"_s << u"/tmp/a.jpg"_s;
-    QTest::newRow("bytes") << u"file:///tmp/%E9.jpg"_s << u"/tmp/\ufffd.jpg"_s;
-    QTest::newRow("number sign") << u"file:///tmp/a%23b.jpg"_s << u"/tmp/a#b.jpg"_s;
-}
-
-void PhotoArgumentsTest::nameAsUrl()
-{
-    QFETCH(QString, argument);
-    const auto commandLine = CommandLine::parse({u"corvel-print"_s, argument});
-    QVERIFY(commandLine);
-    QTEST(commandLine->photos.value(0), "path");
-}
-
-void PhotoArgumentsTest::badPhotosLeaveTheWindowToTheGoodOnes()
-{
-    QVERIFY(store(pathOf(u"bad.jpg"_s), "no photo"));
-    const QStringList bad = {pathOf(u"none.jpg"_s), pathOf(u"bad.jpg"_s)};
-    const PrintDialogSetup setup =
-        windowSetup(*CommandLine::parse({u"corvel-print"_s, bad[0], samplePhoto, bad[1]}));
-    QCOMPARE(setup.photos.size(), 1);
-    QCOMPARE(setup.photoFailures.size(), 2);
-    for (int i : {0, 1})
-        QVERIFY2(setup.photoFailures.at(i).contains(bad.at(i)), qPrintable(setup.photoFailures.at(i)));
-    // Without a good one there is nothing to show.
-    const ProgramRun none = runProgram(bad, {{u"QT_QPA_PLATFORM"_s, u"offscreen"_s}});
-    QCOMPARE(wrongInRefusal(none, 1, bad), QByteArray());
-}
-
-// What a user of the window prints is not left in the folder that the desktop happens to start programs in.
-void PhotoArgumentsTest::outputFolder()
-{
-    const auto folderOf = [](const QStringList &arguments) {
-        return CommandLine::parse(QStringList{u"corvel-print"_s} + arguments)->outputFolder();
-    };
-    const QString pictures = QStandardPaths::writableLocation(QStandardPaths::PicturesLocation);
-    QCOMPARE(folderOf({samplePhoto}), pictures + u"/Prints"_s);
-    QCOMPARE(folderOf({samplePhoto, u"--batch"_s}), u"."_s);
-    QCOMPARE(folderOf({samplePhoto, u"--output=there"_s}), u"there"_s);
-}
 
 CORVEL_TEST(PhotoArgumentsTest)
 #include "PhotoArgumentsTest.moc"

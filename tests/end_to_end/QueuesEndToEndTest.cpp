@@ -69,257 +69,247 @@ class QueuesEndToEndTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
-    void finderSeesServerAndQueuesComeAndGo();
-    void queuesAreListedWithWhatTheServerSays();
-    void defaultIsTheUsersOrTheServers();
-    void ppdIsThatOfTheQueue();
-    void fetcherAnnouncesThePpd();
-    void fetchesAhead();
-    void jobArrivesByteForByteWithExactOptions();
-    void failedSubmissionLeavesNothing_data();
-    void failedSubmissionLeavesNothing();
+    void initTestCase()
+    {
+        for (const char *name : {"LPDEST", "PRINTER"})
+            qunsetenv(name);
+        // The home of nobody's lpoptions.
+        QVERIFY(QDir(home_.path()).mkdir(u".cups"_s));
+        qputenv("HOME", QFile::encodeName(home_.path()));
+    }
+
+    void finderSeesServerAndQueuesComeAndGo()
+    {
+        QueueFinder finder(nullptr, 50ms);
+        const QSignalSpy found(&finder, &QueueFinder::queueFound);
+        const QSignalSpy removed(&finder, &QueueFinder::queueRemoved);
+        const QSignalSpy finished(&finder, &QueueFinder::finished);
+        finder.start();
+        QTRY_COMPARE(finished.size(), 1);
+
+        const QString trouble = cupsd_.start();
+        QVERIFY2(trouble.isEmpty(), qPrintable(trouble));
+        QVERIFY(cupsd_.addQueue(u"photo"_s, testing_support::smallPpd(finishOption),
+                                {u"-D"_s, u"Photo \u202eprinter"_s, u"-L"_s, u"Büro"_s}));
+        QTRY_COMPARE(idsOf(finder.queues()), QStringList{u"photo"_s});
+        const qsizetype sightings = found.size();
+        QVERIFY(cupsd_.run(u"cupsdisable"_s, {u"photo"_s}));
+        QTRY_COMPARE(finder.queues().at(0).state, Queue::State::Stopped);
+        QVERIFY(found.size() > sightings);
+        QVERIFY(cupsd_.run(u"cupsenable"_s, {u"photo"_s}));
+        QCOMPARE(removed.size(), 0);
+
+        // The last queue too: an empty server is an answer, not a failure.
+        QVERIFY(cupsd_.deleteQueue(u"photo"_s));
+        QTRY_COMPARE(removed.size(), 1);
+        QCOMPARE(removed.at(0).at(0).toString(), u"photo"_s);
+        QCOMPARE(finished.size(), 1);
+        QVERIFY(cupsd_.addQueue(u"photo"_s, testing_support::smallPpd(finishOption),
+                                {u"-D"_s, u"Photo \u202eprinter"_s, u"-L"_s, u"Büro"_s}));
+        QVERIFY(cupsd_.addQueue(u"raw"_s));
+        QVERIFY(cupsd_.run(u"lpadmin"_s, {u"-p"_s, u"photo"_s, u"-c"_s, u"group"_s}));
+        QTRY_COMPARE(finder.queues().size(), 3);
+    }
+
+    void queuesAreListedWithWhatTheServerSays()
+    {
+        const auto listed = listQueues(5s);
+        QVERIFY2(listed, listed ? "" : qPrintable(listed.failure().text));
+        const QList<Queue> &queues = *listed;
+        QCOMPARE(idsOf(queues), (QStringList{u"group"_s, u"photo"_s, u"raw"_s}));
+        QVERIFY(queues.at(0).isClass);
+        QCOMPARE(queues.at(0).members, QStringList{u"photo"_s});
+        const Queue &photo = queues.at(1);
+        QCOMPARE(photo.info, u"Photo printer"_s);
+        QCOMPARE(photo.location, u"Büro"_s);
+        QCOMPARE(photo.makeAndModel, u"Small"_s);
+        QCOMPARE(photo.deviceUri, u"recorder:/"_s);
+        QCOMPARE(photo.state, Queue::State::Idle);
+        QVERIFY(photo.stateReasons.isEmpty());
+        QVERIFY(photo.acceptsJobs && !photo.isClass && !photo.isBuiltIn);
+        QVERIFY(cupsd_.run(u"cupsreject"_s, {u"raw"_s}));
+        QVERIFY(!listQueues(5s)->at(2).acceptsJobs);
+        QVERIFY(cupsd_.run(u"cupsaccept"_s, {u"raw"_s}));
+    }
+
+    void defaultIsTheUsersOrTheServers()
+    {
+        const auto chosen = [] {
+            return defaultQueue(*listQueues(5s)).value_or(Destination()).id();
+        };
+        QCOMPARE(chosen(), QString());
+        QVERIFY(cupsd_.run(u"lpadmin"_s, {u"-d"_s, u"raw"_s}));
+        QCOMPARE(chosen(), u"raw"_s);
+        QFile lpoptions(home_.filePath(u".cups/lpoptions"_s));
+        QVERIFY(lpoptions.open(QIODevice::WriteOnly));
+        // No later job may carry these options: they were not asked for.
+        lpoptions.write("Dest photo Stray=1\nDefault photo/borderless Stray=1\n");
+        lpoptions.close();
+        QCOMPARE(chosen(), u"photo/borderless"_s);
+        for (const char *printer : {"photo", "photo/borderless"}) {
+            qputenv("PRINTER", printer);
+            QCOMPARE(chosen(), QString::fromLatin1(printer));
+        }
+        qputenv("LPDEST", "group");
+        QCOMPARE(chosen(), u"group"_s);
+        qunsetenv("LPDEST");
+        qunsetenv("PRINTER");
+    }
+
+    void ppdIsThatOfTheQueue()
+    {
+        for (const QString &id : {u"photo"_s, u"photo/borderless"_s, u"group"_s}) {
+            const auto opened = queueNamed(id, 5s);
+            QVERIFY2(opened, opened ? "" : qPrintable(opened.failure().text));
+            QCOMPARE(opened->ppd, testing_support::smallPpd(finishOption));
+        }
+        const auto raw = queueNamed(u"raw"_s, 5s);
+        QVERIFY(raw && !raw->hasPpd);
+        const auto gone = queueNamed(u"gone"_s, 5s);
+        QVERIFY(!gone);
+        QCOMPARE(gone.failure().reason, QueueFault::NotFound);
+        QCOMPARE(gone.failure().text,
+                 u"The printer \"gone\" does not exist (The printer or class does not exist); "
+                 "choose another one, or add it in the printer settings."_s);
+    }
+
+    void fetcherAnnouncesThePpd()
+    {
+        // What is refused is never announced. The check has all the time that it wants, and no work with what
+        // has passed before.
+        std::optional<CheckedPpd> passed;
+        PpdFetcher fetcher(nullptr, 2s, [&passed](const QByteArray &ppd, const QString &queue) {
+            if (!passed)
+                return checkPpd(ppd, queue);
+            QThread::msleep(2500);
+            const QString text = QStringLiteral("%1 bytes of %2").arg(ppd.size() > 100).arg(queue);
+            return Result<CheckedPpd, PpdFault>(Failure<PpdFault>{PpdFault::Harmful, text, {}});
+        });
+        quint64 number = 0;
+        connect(&fetcher, &PpdFetcher::fetched, this, [&](quint64 announced, const CheckedPpd &ppd) {
+            number = announced;
+            passed = ppd;
+        });
+        const QSignalSpy failed(&fetcher, &PpdFetcher::failed);
+        fetcher.fetch(u"raw"_s);
+        const quint64 asked = fetcher.fetch(u"photo"_s);
+        QTRY_VERIFY(passed);
+        QCOMPARE(number, asked);
+        QVERIFY(passed->data().contains("*DefaultFinish: Glossy"));
+        const quint64 next = fetcher.fetch(u"gone"_s);
+        QTRY_COMPARE(failed.size(), 1);
+        QCOMPARE(failed.at(0).at(0).toULongLong(), next);
+        const quint64 known = fetcher.fetch(u"photo"_s, passed);
+        QTRY_COMPARE(number, known);
+        fetcher.fetch(u"photo"_s);
+        QTRY_COMPARE(failed.size(), 2);
+        QCOMPARE(failed.at(1).at(2).toString(), u"1 bytes of photo"_s);
+        QCOMPARE(number, known);
+    }
+
+    void fetchesAhead()
+    {
+        std::atomic<int> arrived = 0;
+        PpdFetcher fetcher(nullptr, 10s, [&arrived](const QByteArray &ppd, const QString &queue) {
+            ++arrived;
+            return trustPpd(ppd, queue);
+        });
+        const QSignalSpy fetched(&fetcher, &PpdFetcher::fetched);
+        const QSignalSpy failed(&fetcher, &PpdFetcher::failed);
+        for (const bool waits : {true, false}) {
+            fetcher.fetchAhead(u"photo"_s);
+            if (waits) {
+                QTRY_COMPARE(arrived, 1);
+                QTest::qWait(100);
+                QCOMPARE(fetched.size(), 0); // nobody has asked for it yet
+            }
+            const quint64 number = fetcher.fetch(u"photo"_s);
+            const int before = arrived;
+            QTRY_VERIFY(fetched.size() > 0 && fetched.constLast().at(0).toULongLong() == number);
+            QVERIFY(!waits || arrived == before); // was not fetched again
+        }
+        QCOMPARE(fetched.size(), 2);
+        // Asked for once more, it is fetched anew; and a failure that nobody asked for is none.
+        fetcher.fetch(u"photo"_s);
+        QTRY_COMPARE(fetched.size(), 3);
+        QCOMPARE(arrived, 3);
+        fetcher.fetchAhead(u"gone"_s);
+        QTest::qWait(300);
+        QCOMPARE(failed.size(), 0);
+        fetcher.fetch(u"gone"_s);
+        QTRY_COMPARE(failed.size(), 1);
+    }
+
+    void jobArrivesByteForByteWithExactOptions()
+    {
+        const QMap<QString, QString> options{{u"PageSize"_s, u"w288h432"_s},
+                                             {u"Green"_s, u"-5"_s},
+                                             {u"Gamma"_s, u"1.00"_s},
+                                             {u"Spaces"_s, u" two  words "_s},
+                                             {u"Single"_s, u"it's"_s},
+                                             {u"Double"_s, u"\"so\""_s},
+                                             {u"Quotes"_s, u"'\"' \""_s},
+                                             {u"Slashes"_s, u"a\\b\\\\c\\"_s},
+                                             {u"Both"_s, u"\\\"\\'"_s},
+                                             {u"Braces"_s, u"a{b=c}"_s},
+                                             {u"Comma"_s, u"a,b"_s},
+                                             {u"Shell"_s, u"$(id);`id`|&<>*"_s},
+                                             {u"Long"_s, QString(255, u'x')},
+                                             {u"Finish"_s, u"Glänzend 光沢"_s},
+                                             {u"On"_s, u"True"_s},
+                                             {u"Off"_s, u"false"_s},
+                                             {u"NoEdge"_s, u"True"_s},
+                                             {u"noise"_s, u"false"_s}};
+        QByteArray bytes(200'000, Qt::Uninitialized);
+        for (qsizetype i = 0; i < bytes.size(); ++i)
+            bytes[i] = static_cast<char>((i * 7919) >> 3);
+        const auto id = submit(u"photo/borderless"_s, {bytes, "image/jpeg", u"My\nphoto"_s}, options, 3);
+        QVERIFY2(id, id ? "" : qPrintable(id.failure().text));
+        QVERIFY(cupsd_.waitForJob(*id));
+        const auto job = cupsd_.job(*id);
+        QVERIFY(job.document == bytes);
+        QCOMPARE(job.title, QByteArray("My photo"));
+        QCOMPARE(job.copies, QByteArray("3"));
+        auto arrived = optionsOf(job.options);
+        // What the scheduler itself adds to every job.
+        arrived.removeIf([](const std::pair<const QString &, QString &> &option) {
+            return option.first.startsWith(u"job-"_s) || option.first.contains(u"time-at-"_s) ||
+                   option.first.startsWith(u"document-"_s);
+        });
+        QCOMPARE(arrived, options);
+    }
+
+    void failedSubmissionLeavesNothing_data()
+    {
+        QTest::addColumn<QString>("queue");
+        QTest::addColumn<QByteArray>("type");
+        QTest::addColumn<QueueFault>("fault");
+        QTest::addColumn<QString>("words");
+        const QByteArray good = "image/jpeg";
+        QTest::newRow("queue vanished") << u"gone"_s << good << QueueFault::NotFound << u"\"gone\""_s;
+        QTest::newRow("queue rejects")
+            << u"raw"_s << good << QueueFault::NotAccepting << u"(out of ribbon)"_s;
+        QTest::newRow("type refused")
+            << u"photo"_s << QByteArray("image/x-nobody") << QueueFault::Failed << u"image/x-nobody"_s;
+    }
+
+    void failedSubmissionLeavesNothing()
+    {
+        QFETCH(QString, queue);
+        QFETCH(QByteArray, type);
+        QFETCH(QString, words);
+        QVERIFY(cupsd_.run(u"cupsreject"_s, {u"-r"_s, u"out of ribbon"_s, u"raw"_s}));
+        const auto id = submit(queue, {"bytes", type, u"a.jpg"_s});
+        QVERIFY(!id);
+        QTEST(id.failure().reason, "fault");
+        QVERIFY2(id.failure().text.contains(words), qPrintable(id.failure().text));
+        QCOMPARE(cupsd_.activeJobs(), QByteArray());
+    }
 
 private:
     QTemporaryDir home_;
     PrivateCupsd cupsd_;
 };
-
-void QueuesEndToEndTest::initTestCase()
-{
-    for (const char *name : {"LPDEST", "PRINTER"})
-        qunsetenv(name);
-    // A home folder without lpoptions.
-    QVERIFY(QDir(home_.path()).mkdir(u".cups"_s));
-    qputenv("HOME", QFile::encodeName(home_.path()));
-}
-
-void QueuesEndToEndTest::finderSeesServerAndQueuesComeAndGo()
-{
-    QueueFinder finder(nullptr, 50ms);
-    const QSignalSpy found(&finder, &QueueFinder::queueFound);
-    const QSignalSpy removed(&finder, &QueueFinder::queueRemoved);
-    const QSignalSpy finished(&finder, &QueueFinder::finished);
-    finder.start();
-    QTRY_COMPARE(finished.size(), 1);
-
-    const QString trouble = cupsd_.start();
-    QVERIFY2(trouble.isEmpty(), qPrintable(trouble));
-    QVERIFY(cupsd_.addQueue(u"photo"_s, testing_support::smallPpd(finishOption),
-                            {u"-D"_s, u"Photo \u202eprinter"_s, u"-L"_s, u"Büro"_s}));
-    QTRY_COMPARE(idsOf(finder.queues()), QStringList{u"photo"_s});
-    const qsizetype sightings = found.size();
-    QVERIFY(cupsd_.run(u"cupsdisable"_s, {u"photo"_s}));
-    QTRY_COMPARE(finder.queues().at(0).state, Queue::State::Stopped);
-    QVERIFY(found.size() > sightings);
-    QVERIFY(cupsd_.run(u"cupsenable"_s, {u"photo"_s}));
-    QCOMPARE(removed.size(), 0);
-
-    // The last queue too: an empty server is an answer, not a failure.
-    QVERIFY(cupsd_.deleteQueue(u"photo"_s));
-    QTRY_COMPARE(removed.size(), 1);
-    QCOMPARE(removed.at(0).at(0).toString(), u"photo"_s);
-    QCOMPARE(finished.size(), 1);
-    QVERIFY(cupsd_.addQueue(u"photo"_s, testing_support::smallPpd(finishOption),
-                            {u"-D"_s, u"Photo \u202eprinter"_s, u"-L"_s, u"Büro"_s}));
-    QVERIFY(cupsd_.addQueue(u"raw"_s));
-    QVERIFY(cupsd_.run(u"lpadmin"_s, {u"-p"_s, u"photo"_s, u"-c"_s, u"group"_s}));
-    QTRY_COMPARE(finder.queues().size(), 3);
-}
-
-void QueuesEndToEndTest::queuesAreListedWithWhatTheServerSays()
-{
-    const auto listed = listQueues(5s);
-    QVERIFY2(listed, listed ? "" : qPrintable(listed.failure().text));
-    const QList<Queue> &queues = *listed;
-    QCOMPARE(idsOf(queues), (QStringList{u"group"_s, u"photo"_s, u"raw"_s}));
-    QVERIFY(queues.at(0).isClass);
-    QCOMPARE(queues.at(0).members, QStringList{u"photo"_s});
-    const Queue &photo = queues.at(1);
-    QCOMPARE(photo.info, u"Photo printer"_s);
-    QCOMPARE(photo.location, u"Büro"_s);
-    QCOMPARE(photo.makeAndModel, u"Small"_s);
-    QCOMPARE(photo.deviceUri, u"recorder:/"_s);
-    QCOMPARE(photo.state, Queue::State::Idle);
-    QVERIFY(photo.stateReasons.isEmpty());
-    QVERIFY(photo.acceptsJobs && !photo.isClass && !photo.isBuiltIn);
-    QVERIFY(cupsd_.run(u"cupsreject"_s, {u"raw"_s}));
-    QVERIFY(!listQueues(5s)->at(2).acceptsJobs);
-    QVERIFY(cupsd_.run(u"cupsaccept"_s, {u"raw"_s}));
-}
-
-void QueuesEndToEndTest::defaultIsTheUsersOrTheServers()
-{
-    const auto chosen = [] {
-        return defaultQueue(*listQueues(5s)).value_or(Destination()).id();
-    };
-    QCOMPARE(chosen(), QString());
-    QVERIFY(cupsd_.run(u"lpadmin"_s, {u"-d"_s, u"raw"_s}));
-    QCOMPARE(chosen(), u"raw"_s);
-    QFile lpoptions(home_.filePath(u".cups/lpoptions"_s));
-    QVERIFY(lpoptions.open(QIODevice::WriteOnly));
-    // No later job may carry these options: they were not asked for.
-    lpoptions.write("Dest photo Stray=1\nDefault photo/borderless Stray=1\n");
-    lpoptions.close();
-    QCOMPARE(chosen(), u"photo/borderless"_s);
-    for (const char *printer : {"photo", "photo/borderless"}) {
-        qputenv("PRINTER", printer);
-        QCOMPARE(chosen(), QString::fromLatin1(printer));
-    }
-    qputenv("LPDEST", "group");
-    QCOMPARE(chosen(), u"group"_s);
-    qunsetenv("LPDEST");
-    qunsetenv("PRINTER");
-}
-
-void QueuesEndToEndTest::ppdIsThatOfTheQueue()
-{
-    for (const QString &id : {u"photo"_s, u"photo/borderless"_s, u"group"_s}) {
-        const auto opened = queueNamed(id, 5s);
-        QVERIFY2(opened, opened ? "" : qPrintable(opened.failure().text));
-        QCOMPARE(opened->ppd, testing_support::smallPpd(finishOption));
-    }
-    const auto raw = queueNamed(u"raw"_s, 5s);
-    QVERIFY(raw && !raw->hasPpd);
-    const auto gone = queueNamed(u"gone"_s, 5s);
-    QVERIFY(!gone);
-    QCOMPARE(gone.failure().reason, QueueFault::NotFound);
-    QCOMPARE(gone.failure().text,
-             u"The printer \"gone\" does not exist (The printer or class does not exist); "
-             "choose another one, or add it in the printer settings."_s);
-}
-
-void QueuesEndToEndTest::fetcherAnnouncesThePpd()
-{
-    // What is refused is never announced. The check has all the time that it wants, and no work with what has
-    // passed before.
-    std::optional<CheckedPpd> passed;
-    PpdFetcher fetcher(nullptr, 2s, [&passed](const QByteArray &ppd, const QString &queue) {
-        if (!passed)
-            return checkPpd(ppd, queue);
-        QThread::msleep(2500);
-        const QString text = QStringLiteral("%1 bytes of %2").arg(ppd.size() > 100).arg(queue);
-        return Result<CheckedPpd, PpdFault>(Failure<PpdFault>{PpdFault::Harmful, text, {}});
-    });
-    quint64 number = 0;
-    connect(&fetcher, &PpdFetcher::fetched, this, [&](quint64 announced, const CheckedPpd &ppd) {
-        number = announced;
-        passed = ppd;
-    });
-    const QSignalSpy failed(&fetcher, &PpdFetcher::failed);
-    fetcher.fetch(u"raw"_s);
-    const quint64 asked = fetcher.fetch(u"photo"_s);
-    QTRY_VERIFY(passed);
-    QCOMPARE(number, asked);
-    QVERIFY(passed->data().contains("*DefaultFinish: Glossy"));
-    const quint64 next = fetcher.fetch(u"gone"_s);
-    QTRY_COMPARE(failed.size(), 1);
-    QCOMPARE(failed.at(0).at(0).toULongLong(), next);
-    const quint64 known = fetcher.fetch(u"photo"_s, passed);
-    QTRY_COMPARE(number, known);
-    fetcher.fetch(u"photo"_s);
-    QTRY_COMPARE(failed.size(), 2);
-    QCOMPARE(failed.at(1).at(2).toString(), u"1 bytes of photo"_s);
-    QCOMPARE(number, known);
-}
-
-void QueuesEndToEndTest::fetchesAhead()
-{
-    std::atomic<int> arrived = 0;
-    PpdFetcher fetcher(nullptr, 10s, [&arrived](const QByteArray &ppd, const QString &queue) {
-        ++arrived;
-        return trustPpd(ppd, queue);
-    });
-    const QSignalSpy fetched(&fetcher, &PpdFetcher::fetched);
-    const QSignalSpy failed(&fetcher, &PpdFetcher::failed);
-    for (const bool waits : {true, false}) {
-        fetcher.fetchAhead(u"photo"_s);
-        if (waits) {
-            QTRY_COMPARE(arrived, 1);
-            QTest::qWait(100);
-            QCOMPARE(fetched.size(), 0); // nobody has asked for it yet
-        }
-        const quint64 number = fetcher.fetch(u"photo"_s);
-        const int before = arrived;
-        QTRY_VERIFY(fetched.size() > 0 && fetched.constLast().at(0).toULongLong() == number);
-        QVERIFY(!waits || arrived == before); // was not fetched again
-    }
-    QCOMPARE(fetched.size(), 2);
-    // Asked for once more, it is fetched again; a failure that nobody asked for is not reported.
-    fetcher.fetch(u"photo"_s);
-    QTRY_COMPARE(fetched.size(), 3);
-    QCOMPARE(arrived, 3);
-    fetcher.fetchAhead(u"gone"_s);
-    QTest::qWait(300);
-    QCOMPARE(failed.size(), 0);
-    fetcher.fetch(u"gone"_s);
-    QTRY_COMPARE(failed.size(), 1);
-}
-
-void QueuesEndToEndTest::jobArrivesByteForByteWithExactOptions()
-{
-    const QMap<QString, QString> options{{u"PageSize"_s, u"w288h432"_s},
-                                         {u"Green"_s, u"-5"_s},
-                                         {u"Gamma"_s, u"1.00"_s},
-                                         {u"Spaces"_s, u" two  words "_s},
-                                         {u"Single"_s, u"it's"_s},
-                                         {u"Double"_s, u"\"so\""_s},
-                                         {u"Quotes"_s, u"'\"' \""_s},
-                                         {u"Slashes"_s, u"a\\b\\\\c\\"_s},
-                                         {u"Both"_s, u"\\\"\\'"_s},
-                                         {u"Braces"_s, u"a{b=c}"_s},
-                                         {u"Comma"_s, u"a,b"_s},
-                                         {u"Shell"_s, u"$(id);`id`|&<>*"_s},
-                                         {u"Long"_s, QString(255, u'x')},
-                                         {u"Finish"_s, u"Glänzend 光沢"_s},
-                                         {u"On"_s, u"True"_s},
-                                         {u"Off"_s, u"false"_s},
-                                         {u"NoEdge"_s, u"True"_s},
-                                         {u"noise"_s, u"false"_s}};
-    QByteArray bytes(200'000, Qt::Uninitialized);
-    for (qsizetype i = 0; i < bytes.size(); ++i)
-        bytes[i] = static_cast<char>((i * 7919) >> 3);
-    const auto id = submit(u"photo/borderless"_s, {bytes, "image/jpeg", u"My\nphoto"_s}, options, 3);
-    QVERIFY2(id, id ? "" : qPrintable(id.failure().text));
-    QVERIFY(cupsd_.waitForJob(*id));
-    const auto job = cupsd_.job(*id);
-    QVERIFY(job.document == bytes);
-    QCOMPARE(job.title, QByteArray("My photo"));
-    QCOMPARE(job.copies, QByteArray("3"));
-    auto arrived = optionsOf(job.options);
-    // What the scheduler itself adds to every job.
-    arrived.removeIf([](const std::pair<const QString &, QString &> &option) {
-        return option.first.startsWith(u"job-"_s) || option.first.contains(u"time-at-"_s) ||
-               option.first.startsWith(u"document-"_s);
-    });
-    QCOMPARE(arrived, options);
-}
-
-void QueuesEndToEndTest::failedSubmissionLeavesNothing_data()
-{
-    QTest::addColumn<QString>("queue");
-    QTest::addColumn<QByteArray>("type");
-    QTest::addColumn<QueueFault>("fault");
-    QTest::addColumn<QString>("words");
-    const QByteArray good = "image/jpeg";
-    QTest::newRow("queue vanished") << u"gone"_s << good << QueueFault::NotFound << u"\"gone\""_s;
-    QTest::newRow("queue rejects") << u"raw"_s << good << QueueFault::NotAccepting << u"(out of ribbon)"_s;
-    QTest::newRow("type refused") << u"photo"_s << QByteArray("image/x-nobody") << QueueFault::Failed
-                                  << u"image/x-nobody"_s;
-}
-
-void QueuesEndToEndTest::failedSubmissionLeavesNothing()
-{
-    QFETCH(QString, queue);
-    QFETCH(QByteArray, type);
-    QFETCH(QString, words);
-    QVERIFY(cupsd_.run(u"cupsreject"_s, {u"-r"_s, u"out of ribbon"_s, u"raw"_s}));
-    const auto id = submit(queue, {"bytes", type, u"a.jpg"_s});
-    QVERIFY(!id);
-    QTEST(id.failure().reason, "fault");
-    QVERIFY2(id.failure().text.contains(words), qPrintable(id.failure().text));
-    QCOMPARE(cupsd_.activeJobs(), QByteArray());
-}
 
 CORVEL_TEST(QueuesEndToEndTest)
 #include "QueuesEndToEndTest.moc"

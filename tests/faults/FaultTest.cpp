@@ -81,264 +81,254 @@ class FaultTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
-    void savesOrKeepsSettings_data();
-    void savesOrKeepsSettings();
-    void printsBothOrNeither_data();
-    void printsBothOrNeither();
-    void killedWhilePrinting_data();
-    void killedWhilePrinting();
-    void launchesOrSaysWhy_data();
-    void launchesOrSaysWhy();
-    void dialogsLeaveNothing();
+    void initTestCase()
+    {
+        qputenv("HOME", home_.path().toUtf8());
+        qputenv("XDG_CONFIG_HOME", home_.filePath(u"config"_s).toUtf8());
+    }
+
+    void savesOrKeepsSettings_data()
+    {
+        QTest::addColumn<QByteArray>("call");
+        QTest::addColumn<int>("error");
+        for (const auto &[call, error] : {std::pair("read", EIO),
+                                          {"read", EINTR},
+                                          {"write", EIO},
+                                          {"fsync", EIO},
+                                          {"close", EIO},
+                                          {"renameat", EIO},
+                                          {"rename", EIO}})
+            QTest::addRow("%s: %s", call, std::strerror(error)) << QByteArray(call) << error;
+    }
+
+    // What was there before is always kept, whatever becomes of the new preset.
+    void savesOrKeepsSettings()
+    {
+        QFETCH(const QByteArray, call);
+        QFETCH(const int, error);
+        for (const bool isBuiltIn : {false, true}) {
+            PresetStore store = PresetStore::of(u"photo"_s, isBuiltIn);
+            const QString name = QLatin1String(call) + QString::number(error) + u'.';
+            QVERIFY(!store.add(name, {}));
+            bool isInjected = true;
+            for (int number = 1; isInjected; ++number) {
+                const auto before = store.presets();
+                armFault(call.constData(), error, number, Among::Files);
+                const SettingsFailure failure =
+                    store.add(name + QString::number(number), {{u"Red"_s, u"1"_s}});
+                isInjected = disarmFault();
+                QVERIFY(!failure || (isInjected && error != EINTR));
+                const auto after = store.presets();
+                QVERIFY(before && after);
+                QCOMPARE(after->size(), before->size() + (failure ? 0 : 1));
+            }
+        }
+    }
+
+    void printsBothOrNeither_data()
+    {
+        QTest::addColumn<QByteArray>("call");
+        QTest::addColumn<int>("error");
+        QTest::addColumn<bool>("isMet"); // what the program has to get by
+        const auto row = [](const char *call, int error, bool isMet = false) {
+            QTest::addRow("%s: %s", call, std::strerror(error)) << QByteArray(call) << error << isMet;
+        };
+        row("openat", EMFILE);
+        row("write", ENOSPC);
+        row("write", EIO);
+        row("write", EINTR, true);
+        row("close", EIO);
+        row("close", EINTR, true);
+        row("fsync", EIO);
+        row("fsync", EINTR, true);
+        row("linkat", ENOSPC);
+        row("renameat", EIO);
+        row("renameat2", EIO);
+        row("renameat2", EINVAL, true); // a file system that cannot
+        row("renameat2", EEXIST, true); // another program is faster
+    }
+
+    // A page and its ticket: in an empty folder, in the place of an earlier pair, and beside it.
+    void printsBothOrNeither()
+    {
+        QFETCH(const QByteArray, call);
+        QFETCH(const int, error);
+        QFETCH(const bool, isMet);
+        const QTemporaryDir whole;
+        QVERIFY(print(whole.path(), false));
+        const QByteArrayList expected = contentsOf(whole.path()).values();
+        int faults = 0;
+        int refusals = 0;
+        for (const char *manner : {"new", "over", "beside"}) {
+            for (int number = 1;; ++number) {
+                const QTemporaryDir folder;
+                for (const char *name : {"/sample.pdf", "/sample.ticket.json"}) {
+                    QFile earlier(folder.path() + QLatin1String(name));
+                    QVERIFY(qstrcmp(manner, "new") == 0 ||
+                            (earlier.open(QFile::WriteOnly) && earlier.write(name) > 0));
+                }
+                const Contents before = contentsOf(folder.path());
+                armFault(call.constData(), error, number, Among::Files);
+                const auto files = print(folder.path(), qstrcmp(manner, "over") == 0);
+                const bool isInjected = disarmFault();
+                Contents after = contentsOf(folder.path());
+                const QString found = u"%1 %2: "_s.arg(QLatin1String(manner)).arg(number) +
+                                      (files ? u"printed"_s : files.failure().text) + after.keys().join(u' ');
+                QVERIFY2(files || (isInjected && !isMet), qPrintable(found));
+                if (files) {
+                    const QByteArrayList printed{after.take(QFileInfo(files->pdf).fileName()),
+                                                 after.take(QFileInfo(files->ticket).fileName())};
+                    QVERIFY2(printed == expected &&
+                                 after == (qstrcmp(manner, "beside") == 0 ? before : Contents()),
+                             qPrintable(found));
+                } else {
+                    QVERIFY2(after == before && files.failure().text.contains(folder.path()) &&
+                                 files.failure().text.endsWith(u'.'),
+                             qPrintable(found));
+                }
+                if (!isInjected)
+                    break;
+                ++faults;
+                refusals += files ? 0 : 1;
+            }
+        }
+        QVERIFY(faults > 1);
+        QVERIFY(isMet || call == "openat" || refusals > 0);
+    }
+
+    void killedWhilePrinting_data()
+    {
+        QTest::addColumn<QByteArray>("call");
+        for (const char *call : {"write", "fsync", "linkat", "renameat"})
+            QTest::newRow(call) << QByteArray(call);
+    }
+
+    // At each call, in the place of an earlier pair: each file is the old or the new one, and the next run
+    // cleans up.
+    void killedWhilePrinting()
+    {
+        QFETCH(const QByteArray, call);
+        const QTemporaryDir folder;
+        QVERIFY(print(folder.path(), true));
+        const Contents whole = contentsOf(folder.path());
+        bool isKilled = true;
+        for (int number = 1; isKilled; ++number) {
+            Contents old = whole;
+            for (auto file = old.begin(); file != old.end(); ++file) {
+                *file = "old";
+                QFile earlier(folder.filePath(file.key()));
+                QVERIFY(earlier.open(QFile::WriteOnly) && earlier.write(*file) == 3);
+            }
+            const pid_t child = fork();
+            if (child == 0) {
+                armFault(call.constData(), 0, number, Among::Files);
+                _exit(print(folder.path(), true) ? 0 : 1);
+            }
+            int status = 0;
+            QVERIFY(child > 0 && waitpid(child, &status, 0) == child);
+            isKilled = WIFSIGNALED(status);
+            QVERIFY(isKilled || number > 1);
+            const Contents left = contentsOf(folder.path());
+            for (auto file = whole.begin(); file != whole.end(); ++file)
+                QVERIFY2(left.value(file.key()) == *file || (isKilled && left.value(file.key()) == "old"),
+                         qPrintable(QString::number(number)));
+            QVERIFY(print(folder.path(), true));
+            QCOMPARE(contentsOf(folder.path()), whole);
+        }
+    }
+
+    void launchesOrSaysWhy_data()
+    {
+        QTest::addColumn<int>("error");
+        QTest::newRow("pipe2") << EMFILE;
+        QTest::newRow("posix_spawn") << ENOMEM;
+        QTest::newRow("write") << EPIPE;
+        QTest::newRow("write interrupted") << EINTR;
+        QTest::newRow("read") << EIO;
+        QTest::newRow("read interrupted") << EINTR;
+        QTest::newRow("close") << EIO;
+    }
+
+    // Whatever fails, the panel is idle in the end, nothing of the run is left, and the next one works.
+    void launchesOrSaysWhy()
+    {
+        QFETCH(int, error);
+        const QByteArray call = QByteArray(QTest::currentDataTag()).split(' ').constFirst();
+        const bool isInterrupted = error == EINTR;
+        BackendRun run("both streams");
+        run.command("print\n");
+        QVERIFY(run.start() == 0 && QTest::qWaitFor([&run] { return run.isIdle(); }));
+        QTRY_VERIFY(!hasChildren());
+        const qsizetype descriptors = openDescriptors();
+        const auto hasWorked = [&run] {
+            return run.input() == "print\n" && run.dialog.log.contains(u"backend err = INFO: ready\n"_s);
+        };
+        int number = 1;
+        for (;; ++number) {
+            QFile::remove(run.folder.filePath(u"input"_s));
+            run.dialog.log.clear();
+            armFault(call.constData(), error, number, Among::Pipes);
+            bool isLaunched = true;
+            try {
+                isLaunched = run.start() == 0;
+            } catch (const pdekit::PlatformException &exception) {
+                isLaunched = false;
+                QVERIFY(QString::fromLocal8Bit(exception.what()).contains("cannot launch"_L1));
+            }
+            const bool isIdle = QTest::qWaitFor([&run] { return run.isIdle(); }, 15000);
+            const bool isInjected = disarmFault();
+            QVERIFY2(isIdle, qPrintable(QString::number(number)));
+            QTRY_VERIFY(!hasChildren());
+            QTRY_COMPARE(openDescriptors(), descriptors);
+            if (!isInjected)
+                break;
+            QVERIFY2(!isInterrupted || (isLaunched && hasWorked()), qPrintable(QString::number(number)));
+            QVERIFY(call != "posix_spawn" || !isLaunched);
+            run.dialog.log.clear();
+            QVERIFY(run.start() == 0 && QTest::qWaitFor([&run] { return run.isIdle(); }) && hasWorked());
+            QTRY_VERIFY(!hasChildren());
+        }
+        QVERIFY(hasWorked() && number > 1);
+        qInfo("%d faults", number - 1);
+    }
+
+    // Memory, descriptors and threads, after enough dialogs to have filled whatever is kept for the next one.
+    void dialogsLeaveNothing()
+    {
+        const auto openAndClose = [](int count) {
+            for (int i = 0; i < count; ++i) {
+                const PanelMode mode = i % 2 == 0 ? PanelMode::Constraint : PanelMode::Settings;
+                PrintDialogSetup setup = setupFor(mode);
+                if (i % 10 != 0)
+                    setup.photos.clear(); // reading one takes longer than all the rest
+                OpenedDialog opened(setup);
+                opened.type(81, u"12"_s);
+                QCOMPARE(opened.fieldText(81), u"12"_s);
+            }
+            QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        };
+        const auto threads = [] {
+            return QDir(u"/proc/self/task"_s).entryList(QDir::NoDotAndDotDot | QDir::Dirs).size();
+        };
+        openAndClose(20);
+        const qsizetype descriptors = openDescriptors();
+        const qsizetype threadsBefore = threads();
+        const Memory before = Memory::now();
+        openAndClose(100);
+        QTRY_COMPARE(openDescriptors(), descriptors);
+        QTRY_COMPARE(threads(), threadsBefore);
+        const Memory after = Memory::now();
+        const qint64 heap = after.heap - before.heap;
+        const qint64 resident = after.resident - before.resident;
+        qInfo("%lld KiB more in use, %lld KiB more resident", static_cast<long long>(heap),
+              static_cast<long long>(resident));
+        QVERIFY(heap < 64);
+        QVERIFY(resident < residentGrowthLimit);
+    }
 
 private:
     QTemporaryDir home_;
 };
-
-void FaultTest::initTestCase()
-{
-    qputenv("HOME", home_.path().toUtf8());
-    qputenv("XDG_CONFIG_HOME", home_.filePath(u"config"_s).toUtf8());
-}
-
-void FaultTest::savesOrKeepsSettings_data()
-{
-    QTest::addColumn<QByteArray>("call");
-    QTest::addColumn<int>("error");
-    for (const auto &[call, error] : {std::pair("read", EIO),
-                                      {"read", EINTR},
-                                      {"write", EIO},
-                                      {"fsync", EIO},
-                                      {"close", EIO},
-                                      {"renameat", EIO},
-                                      {"rename", EIO}})
-        QTest::addRow("%s: %s", call, std::strerror(error)) << QByteArray(call) << error;
-}
-
-// What was there before is always kept, whatever becomes of the new preset.
-void FaultTest::savesOrKeepsSettings()
-{
-    QFETCH(const QByteArray, call);
-    QFETCH(const int, error);
-    for (const bool isBuiltIn : {false, true}) {
-        PresetStore store = PresetStore::of(u"photo"_s, isBuiltIn);
-        const QString name = QLatin1String(call) + QString::number(error) + u'.';
-        QVERIFY(!store.add(name, {}));
-        bool isInjected = true;
-        for (int number = 1; isInjected; ++number) {
-            const auto before = store.presets();
-            armFault(call.constData(), error, number, Among::Files);
-            const SettingsFailure failure = store.add(name + QString::number(number), {{u"Red"_s, u"1"_s}});
-            isInjected = disarmFault();
-            QVERIFY(!failure || (isInjected && error != EINTR));
-            const auto after = store.presets();
-            QVERIFY(before && after);
-            QCOMPARE(after->size(), before->size() + (failure ? 0 : 1));
-        }
-    }
-}
-
-void FaultTest::printsBothOrNeither_data()
-{
-    QTest::addColumn<QByteArray>("call");
-    QTest::addColumn<int>("error");
-    QTest::addColumn<bool>("isMet"); // what the program has to get by
-    const auto row = [](const char *call, int error, bool isMet = false) {
-        QTest::addRow("%s: %s", call, std::strerror(error)) << QByteArray(call) << error << isMet;
-    };
-    row("openat", EMFILE);
-    row("write", ENOSPC);
-    row("write", EIO);
-    row("write", EINTR, true);
-    row("close", EIO);
-    row("close", EINTR, true);
-    row("fsync", EIO);
-    row("fsync", EINTR, true);
-    row("linkat", ENOSPC);
-    row("renameat", EIO);
-    row("renameat2", EIO);
-    row("renameat2", EINVAL, true); // a file system that cannot
-    row("renameat2", EEXIST, true); // another program is faster
-}
-
-// A page and its ticket: in an empty folder, in the place of an earlier pair, and beside it.
-void FaultTest::printsBothOrNeither()
-{
-    QFETCH(const QByteArray, call);
-    QFETCH(const int, error);
-    QFETCH(const bool, isMet);
-    const QTemporaryDir whole;
-    QVERIFY(print(whole.path(), false));
-    const QByteArrayList expected = contentsOf(whole.path()).values();
-    int faults = 0;
-    int refusals = 0;
-    for (const char *manner : {"new", "over", "beside"}) {
-        for (int number = 1;; ++number) {
-            const QTemporaryDir folder;
-            for (const char *name : {"/sample.pdf", "/sample.ticket.json"}) {
-                QFile earlier(folder.path() + QLatin1String(name));
-                QVERIFY(qstrcmp(manner, "new") == 0 ||
-                        (earlier.open(QFile::WriteOnly) && earlier.write(name) > 0));
-            }
-            const Contents before = contentsOf(folder.path());
-            armFault(call.constData(), error, number, Among::Files);
-            const auto files = print(folder.path(), qstrcmp(manner, "over") == 0);
-            const bool isInjected = disarmFault();
-            Contents after = contentsOf(folder.path());
-            const QString found = u"%1 %2: "_s.arg(QLatin1String(manner)).arg(number) +
-                                  (files ? u"printed"_s : files.failure().text) + after.keys().join(u' ');
-            QVERIFY2(files || (isInjected && !isMet), qPrintable(found));
-            if (files) {
-                const QByteArrayList printed{after.take(QFileInfo(files->pdf).fileName()),
-                                             after.take(QFileInfo(files->ticket).fileName())};
-                QVERIFY2(printed == expected &&
-                             after == (qstrcmp(manner, "beside") == 0 ? before : Contents()),
-                         qPrintable(found));
-            } else {
-                QVERIFY2(after == before && files.failure().text.contains(folder.path()) &&
-                             files.failure().text.endsWith(u'.'),
-                         qPrintable(found));
-            }
-            if (!isInjected)
-                break;
-            ++faults;
-            refusals += files ? 0 : 1;
-        }
-    }
-    QVERIFY(faults > 1);
-    QVERIFY(isMet || call == "openat" || refusals > 0);
-}
-
-void FaultTest::killedWhilePrinting_data()
-{
-    QTest::addColumn<QByteArray>("call");
-    for (const char *call : {"write", "fsync", "linkat", "renameat"})
-        QTest::newRow(call) << QByteArray(call);
-}
-
-// At each call, in the place of an earlier pair: each file is the old or the new one, and the next run cleans
-// up.
-void FaultTest::killedWhilePrinting()
-{
-    QFETCH(const QByteArray, call);
-    const QTemporaryDir folder;
-    QVERIFY(print(folder.path(), true));
-    const Contents whole = contentsOf(folder.path());
-    bool isKilled = true;
-    for (int number = 1; isKilled; ++number) {
-        Contents old = whole;
-        for (auto file = old.begin(); file != old.end(); ++file) {
-            *file = "old";
-            QFile earlier(folder.filePath(file.key()));
-            QVERIFY(earlier.open(QFile::WriteOnly) && earlier.write(*file) == 3);
-        }
-        const pid_t child = fork();
-        if (child == 0) {
-            armFault(call.constData(), 0, number, Among::Files);
-            _exit(print(folder.path(), true) ? 0 : 1);
-        }
-        int status = 0;
-        QVERIFY(child > 0 && waitpid(child, &status, 0) == child);
-        isKilled = WIFSIGNALED(status);
-        QVERIFY(isKilled || number > 1);
-        const Contents left = contentsOf(folder.path());
-        for (auto file = whole.begin(); file != whole.end(); ++file)
-            QVERIFY2(left.value(file.key()) == *file || (isKilled && left.value(file.key()) == "old"),
-                     qPrintable(QString::number(number)));
-        QVERIFY(print(folder.path(), true));
-        QCOMPARE(contentsOf(folder.path()), whole);
-    }
-}
-
-void FaultTest::launchesOrSaysWhy_data()
-{
-    QTest::addColumn<int>("error");
-    QTest::newRow("pipe2") << EMFILE;
-    QTest::newRow("posix_spawn") << ENOMEM;
-    QTest::newRow("write") << EPIPE;
-    QTest::newRow("write interrupted") << EINTR;
-    QTest::newRow("read") << EIO;
-    QTest::newRow("read interrupted") << EINTR;
-    QTest::newRow("close") << EIO;
-}
-
-// Whatever fails, the panel is idle in the end, nothing of the run is left, and the next one works.
-void FaultTest::launchesOrSaysWhy()
-{
-    QFETCH(int, error);
-    const QByteArray call = QByteArray(QTest::currentDataTag()).split(' ').constFirst();
-    const bool isInterrupted = error == EINTR;
-    BackendRun run("both streams");
-    run.command("print\n");
-    QVERIFY(run.start() == 0 && QTest::qWaitFor([&run] { return run.isIdle(); }));
-    QTRY_VERIFY(!hasChildren());
-    const qsizetype descriptors = openDescriptors();
-    const auto hasWorked = [&run] {
-        return run.input() == "print\n" && run.dialog.log.contains(u"backend err = INFO: ready\n"_s);
-    };
-    int number = 1;
-    for (;; ++number) {
-        QFile::remove(run.folder.filePath(u"input"_s));
-        run.dialog.log.clear();
-        armFault(call.constData(), error, number, Among::Pipes);
-        bool isLaunched = true;
-        try {
-            isLaunched = run.start() == 0;
-        } catch (const pdekit::PlatformException &exception) {
-            isLaunched = false;
-            QVERIFY(QString::fromLocal8Bit(exception.what()).contains("cannot launch"_L1));
-        }
-        const bool isIdle = QTest::qWaitFor([&run] { return run.isIdle(); }, 15000);
-        const bool isInjected = disarmFault();
-        QVERIFY2(isIdle, qPrintable(QString::number(number)));
-        QTRY_VERIFY(!hasChildren());
-        QTRY_COMPARE(openDescriptors(), descriptors);
-        if (!isInjected)
-            break;
-        QVERIFY2(!isInterrupted || (isLaunched && hasWorked()), qPrintable(QString::number(number)));
-        QVERIFY(call != "posix_spawn" || !isLaunched);
-        run.dialog.log.clear();
-        QVERIFY(run.start() == 0 && QTest::qWaitFor([&run] { return run.isIdle(); }) && hasWorked());
-        QTRY_VERIFY(!hasChildren());
-    }
-    QVERIFY(hasWorked() && number > 1);
-    qInfo("%d faults", number - 1);
-}
-
-// Memory, descriptors and threads, after enough dialogs to have filled whatever is kept for the next one.
-void FaultTest::dialogsLeaveNothing()
-{
-    const auto openAndClose = [](int count) {
-        for (int i = 0; i < count; ++i) {
-            const PanelMode mode = i % 2 == 0 ? PanelMode::Constraint : PanelMode::Settings;
-            PrintDialogSetup setup = setupFor(mode);
-            if (i % 10 != 0)
-                setup.photos.clear(); // reading one takes longer than all the rest
-            OpenedDialog opened(setup);
-            opened.type(81, u"12"_s);
-            QCOMPARE(opened.fieldText(81), u"12"_s);
-        }
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    };
-    const auto threads = [] {
-        return QDir(u"/proc/self/task"_s).entryList(QDir::NoDotAndDotDot | QDir::Dirs).size();
-    };
-    openAndClose(20);
-    const qsizetype descriptors = openDescriptors();
-    const qsizetype threadsBefore = threads();
-    const Memory before = Memory::now();
-    openAndClose(100);
-    QTRY_COMPARE(openDescriptors(), descriptors);
-    QTRY_COMPARE(threads(), threadsBefore);
-    const Memory after = Memory::now();
-    const qint64 heap = after.heap - before.heap;
-    const qint64 resident = after.resident - before.resident;
-    qInfo("%lld KiB more in use, %lld KiB more resident", static_cast<long long>(heap),
-          static_cast<long long>(resident));
-    QVERIFY(heap < 64);
-    QVERIFY(resident < residentGrowthLimit);
-}
 
 int main(int argc, char *argv[])
 {

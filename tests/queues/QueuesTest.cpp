@@ -82,302 +82,288 @@ class QueuesTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void handlerOfBrokenPipesStaysInForce();
-    void textFromOutsideIsCleaned_data();
-    void textFromOutsideIsCleaned();
-    void failuresNameTheQueueAndKeepPlaceholdersApart();
-    void unfitOptionIsRefusedBeforeAnythingIsSent();
-    void badServerCostsOneSentenceInTime_data();
-    void badServerCostsOneSentenceInTime();
-    void hostileAnswersCostLittle();
-    void answersThatMakeNoSense();
-    void answersThatAreLongCostLittleTime();
-    void finderNeverBlocks();
-    void onlyTheLatestFetchIsAnnounced();
-    void noServerIsToldAtOnce();
-};
-
-void QueuesTest::handlerOfBrokenPipesStaysInForce()
-{
-    // libcups would have the signal ignored from its first use on, which is here.
-    const auto handler = [](int) {
-    };
-    struct sigaction installed = {};
-    installed.sa_handler = handler;
-    sigaction(SIGPIPE, &installed, nullptr);
-    QVERIFY(!listQueues(1s));
-    struct sigaction found = {};
-    sigaction(SIGPIPE, nullptr, &found);
-    QVERIFY(found.sa_handler == installed.sa_handler);
-}
-
-void QueuesTest::textFromOutsideIsCleaned_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QString>("expected");
-    QTest::newRow("plain, with accents") << u"Büro (2. OG)"_s << u"Büro (2. OG)"_s;
-    QTest::newRow("line breaks and tabs") << u"a\r\n\tb"_s << u"a  b"_s;
-    QTest::newRow("controls, C0 and C1") << u"a\u0007\u001b[1m\u0085\u009bb"_s << u"a[1mb"_s;
-    QTest::newRow("writing direction") << u"a\u202egpj.\u202c\u2066b\u200f"_s << u"agpj.b"_s;
-    QTest::newRow("too long") << QString(400, u'x') << QString(299, u'x') + QChar(0x2026);
-    QTest::newRow("too long, a pair at the cut")
-        << QString(298, u'x') + u"\U0001f5a8yy"_s << QString(298, u'x') + QChar(0x2026);
-}
-
-void QueuesTest::textFromOutsideIsCleaned()
-{
-    QFETCH(QString, text);
-    QTEST(plainText(text, shownTextLimit), "expected");
-}
-
-void QueuesTest::failuresNameTheQueueAndKeepPlaceholdersApart()
-{
-    const QString text = queueFailure(QueueFault::NotFound, u"a%2b"_s, u"Gone\nfor good."_s).text;
-    QVERIFY2(text.contains(u"\"a%2b\" does not exist (Gone for good);"_s), qPrintable(text));
-}
-
-// Control characters, what is too long, and what CUPS takes for something else.
-void QueuesTest::unfitOptionIsRefusedBeforeAnythingIsSent()
-{
-    for (const auto &[keyword, value] : {std::pair(u"Finish"_s, u"Matte\nStray=1"_s),
-                                         {u"Finish"_s, u"\rMatte"_s},
-                                         {u"Finish"_s, u"Mat"_s + QChar(0) + u"te"_s},
-                                         {u"Finish"_s, u"Matte\u007f"_s},
-                                         {u"Finish"_s, u"\u0085"_s},
-                                         {u"Finish"_s, u"\u2028"_s},
-                                         {u"Finish"_s, QString(128, u'\u00e4')},
-                                         {u"Finish"_s, u"{a=b}"_s},
-                                         {u"Fin\nish"_s, u"Matte"_s},
-                                         {u"Finish Stray"_s, u"1"_s},
-                                         {u"Finish=1"_s, u"1"_s},
-                                         {QString(), u"1"_s},
-                                         {u"copies"_s, u"2"_s}}) {
-        // With a server that is not there: any other outcome would be NoServer.
-        const auto job = submit({{keyword, value}});
-        QVERIFY2(!job, qPrintable(keyword + value));
-        QCOMPARE(job.failure().reason, QueueFault::Refused);
-        const QString text = job.failure().text;
-        QVERIFY2(text.contains(u'"' + plainText(keyword) + u'"') && !hasControls(text), qPrintable(text));
+    void handlerOfBrokenPipesStaysInForce()
+    {
+        // libcups would have the signal ignored from its first use on, which is here.
+        const auto handler = [](int) {
+        };
+        struct sigaction installed = {};
+        installed.sa_handler = handler;
+        sigaction(SIGPIPE, &installed, nullptr);
+        QVERIFY(!listQueues(1s));
+        struct sigaction found = {};
+        sigaction(SIGPIPE, nullptr, &found);
+        QVERIFY(found.sa_handler == installed.sa_handler);
     }
-}
 
-void QueuesTest::badServerCostsOneSentenceInTime_data()
-{
-    QTest::addColumn<StubServer::Manner>("manner");
-    QTest::addColumn<QueueFault>("fault");
-    QTest::addColumn<QString>("reason");
-    QTest::newRow("silent") << StubServer::Manner::Silent << QueueFault::TimedOut << u"0.3 s"_s;
-    QTest::newRow("one byte at a time")
-        << StubServer::Manner::Trickling << QueueFault::TimedOut << u"0.3 s"_s;
-    QTest::newRow("closes in a PPD") << StubServer::Manner::BreakingOff << QueueFault::Failed
-                                     << u"in the middle"_s;
-    QTest::newRow("PPD too large") << StubServer::Manner::Overflowing << QueueFault::Failed << u"8 MiB"_s;
-}
+    void textFromOutsideIsCleaned_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QString>("expected");
+        QTest::newRow("plain, with accents") << u"Büro (2. OG)"_s << u"Büro (2. OG)"_s;
+        QTest::newRow("line breaks and tabs") << u"a\r\n\tb"_s << u"a  b"_s;
+        QTest::newRow("controls, C0 and C1") << u"a\u0007\u001b[1m\u0085\u009bb"_s << u"a[1mb"_s;
+        QTest::newRow("writing direction") << u"a\u202egpj.\u202c\u2066b\u200f"_s << u"agpj.b"_s;
+        QTest::newRow("too long") << QString(400, u'x') << QString(299, u'x') + QChar(0x2026);
+        QTest::newRow("too long, a pair at the cut")
+            << QString(298, u'x') + u"\U0001f5a8yy"_s << QString(298, u'x') + QChar(0x2026);
+    }
 
-void QueuesTest::badServerCostsOneSentenceInTime()
-{
-    QFETCH(StubServer::Manner, manner);
-    QFETCH(QueueFault, fault);
-    QFETCH(QString, reason);
-    const StubServer server(manner, fault == QueueFault::TimedOut ? StubServer::Requests::All
-                                                                  : StubServer::Requests::Files);
-    const auto limit = fault == QueueFault::TimedOut ? 300ms : 10000ms;
-    QVERIFY(resetPeak());
-    const qint64 before = peak();
-    QElapsedTimer timer;
-    timer.start();
-    const auto ppd = fetched(limit);
-    QVERIFY(timer.elapsed() < limit.count() + 200);
-    QVERIFY(peak() - before < qint64(32) * 1024 * 1024);
-    QVERIFY(!ppd);
-    QCOMPARE(ppd.failure().reason, fault);
-    const QString text = ppd.failure().text;
-    QVERIFY2(text.contains(u"\"photo\""_s) && text.contains(reason), qPrintable(text));
-    if (fault != QueueFault::TimedOut)
-        return;
-    timer.start();
-    QVERIFY(!listQueues(limit));
-    QVERIFY(timer.elapsed() < limit.count() + 200);
-    timer.start();
-    const auto job = submit({}, nullptr, limit);
-    QVERIFY(timer.elapsed() < limit.count() + 200);
-    QVERIFY(!job);
-    QCOMPARE(job.failure().reason, fault);
+    void textFromOutsideIsCleaned()
+    {
+        QFETCH(QString, text);
+        QTEST(plainText(text, shownTextLimit), "expected");
+    }
 
-    FollowLimits limits;
-    limits.total = 300ms;
-    timer.start();
-    CupsConnection connection(10s);
-    QVERIFY(!followJob(connection, u"photo"_s, 1, limits));
-    QVERIFY(timer.elapsed() < 1500);
+    void failuresNameTheQueueAndKeepPlaceholdersApart()
+    {
+        const QString text = queueFailure(QueueFault::NotFound, u"a%2b"_s, u"Gone\nfor good."_s).text;
+        QVERIFY2(text.contains(u"\"a%2b\" does not exist (Gone for good);"_s), qPrintable(text));
+    }
 
-    // Given up by another thread while the server keeps it waiting.
-    int cancel = 0;
-    std::thread canceller([&cancel] {
-        std::this_thread::sleep_for(100ms);
-        std::atomic_ref(cancel).store(1);
-    });
-    timer.start();
-    const auto cancelled = submit({}, &cancel, 10s);
-    canceller.join();
-    QVERIFY(timer.elapsed() < 400);
-    QVERIFY(!cancelled);
-    QCOMPARE(cancelled.failure().reason, QueueFault::Cancelled);
-}
+    // Control characters, what is too long, and what CUPS takes for something else.
+    void unfitOptionIsRefusedBeforeAnythingIsSent()
+    {
+        for (const auto &[keyword, value] : {std::pair(u"Finish"_s, u"Matte\nStray=1"_s),
+                                             {u"Finish"_s, u"\rMatte"_s},
+                                             {u"Finish"_s, u"Mat"_s + QChar(0) + u"te"_s},
+                                             {u"Finish"_s, u"Matte\u007f"_s},
+                                             {u"Finish"_s, u"\u0085"_s},
+                                             {u"Finish"_s, u"\u2028"_s},
+                                             {u"Finish"_s, QString(128, u'\u00e4')},
+                                             {u"Finish"_s, u"{a=b}"_s},
+                                             {u"Fin\nish"_s, u"Matte"_s},
+                                             {u"Finish Stray"_s, u"1"_s},
+                                             {u"Finish=1"_s, u"1"_s},
+                                             {QString(), u"1"_s},
+                                             {u"copies"_s, u"2"_s}}) {
+            // With a server that is not there: any other outcome would be NoServer.
+            const auto job = submit({{keyword, value}});
+            QVERIFY2(!job, qPrintable(keyword + value));
+            QCOMPARE(job.failure().reason, QueueFault::Refused);
+            const QString text = job.failure().text;
+            QVERIFY2(text.contains(u'"' + plainText(keyword) + u'"') && !hasControls(text), qPrintable(text));
+        }
+    }
 
-// For every kind of request.
-void QueuesTest::hostileAnswersCostLittle()
-{
-    using Manner = StubServer::Manner;
-    using Requests = StubServer::Requests;
-    const auto isRefused = [](const auto &outcome) {
-        return !outcome && outcome.failure().reason == QueueFault::Failed &&
-               outcome.failure().text.contains(u"too large or malformed"_s);
-    };
-    for (const Manner manner :
-         {Manner::Nesting, Manner::EndlessValues, Manner::EmptyAttributes, Manner::Separators,
-          Manner::EndlessHeaders, Manner::EndlessContinues, Manner::EndlessChunks}) {
+    void badServerCostsOneSentenceInTime_data()
+    {
+        QTest::addColumn<StubServer::Manner>("manner");
+        QTest::addColumn<QueueFault>("fault");
+        QTest::addColumn<QString>("reason");
+        QTest::newRow("silent") << StubServer::Manner::Silent << QueueFault::TimedOut << u"0.3 s"_s;
+        QTest::newRow("one byte at a time")
+            << StubServer::Manner::Trickling << QueueFault::TimedOut << u"0.3 s"_s;
+        QTest::newRow("closes in a PPD")
+            << StubServer::Manner::BreakingOff << QueueFault::Failed << u"in the middle"_s;
+        QTest::newRow("PPD too large") << StubServer::Manner::Overflowing << QueueFault::Failed << u"8 MiB"_s;
+    }
+
+    void badServerCostsOneSentenceInTime()
+    {
+        QFETCH(StubServer::Manner, manner);
+        QFETCH(QueueFault, fault);
+        QFETCH(QString, reason);
+        const StubServer server(manner, fault == QueueFault::TimedOut ? StubServer::Requests::All
+                                                                      : StubServer::Requests::Files);
+        const auto limit = fault == QueueFault::TimedOut ? 300ms : 10000ms;
         QVERIFY(resetPeak());
         const qint64 before = peak();
-        {
-            const StubServer server(manner);
-            QVERIFY(isRefused(sweepQueues(10s, nullptr)));
-            QVERIFY(isRefused(queueNamed(u"photo"_s, 10s)));
-            CupsConnection connection(10s);
-            QVERIFY(manner != Manner::Nesting || isRefused(followJob(connection, u"photo"_s, 1, {})));
-            QVERIFY(manner != Manner::Nesting || isRefused(cancelJob(connection, u"photo"_s, 1)));
-        }
-        {
-            const StubServer server(manner, Requests::Jobs);
-            QVERIFY(isRefused(submit()));
-        }
-        if (manner == Manner::EndlessHeaders || manner == Manner::EndlessContinues) {
-            const StubServer server(manner, Requests::Files);
-            QVERIFY(isRefused(fetched(10s)));
-        }
-#ifndef __SANITIZE_ADDRESS__ // which keeps what was freed
-        QVERIFY2(peak() - before < qint64(64) * 1024 * 1024, qPrintable(QString::number(int(manner))));
-#endif
-    }
-}
-
-void QueuesTest::answersThatMakeNoSense()
-{
-    {
-        const StubServer server(StubServer::Manner::JobBelowZero, StubServer::Requests::Jobs);
-        const auto job = submit();
-        QVERIFY(!job);
-        QVERIFY2(job.failure().text.contains(u"number"_s), qPrintable(job.failure().text));
-    }
-    {
-        // Cleaned, "go\tod" would be another queue.
-        const StubServer server(StubServer::Manner::OddNames);
-        const auto queues = sweepQueues(5s, nullptr);
-        QVERIFY2(queues, queues ? "" : qPrintable(queues.failure().text));
-        QCOMPARE(queues->size(), 1);
-        QCOMPARE(queues->at(0).name, u"good"_s);
-        QCOMPARE(queues->at(0).members, QStringList{u"inner"_s});
-    }
-    // A redirection is not followed.
-    const StubServer server(StubServer::Manner::Redirecting);
-    const auto opened = queueNamed(u"photo"_s, 5s);
-    QVERIFY(!opened);
-    QVERIFY2(opened.failure().text.contains(u"Found"_s), qPrintable(opened.failure().text));
-}
-
-// On the main thread, which shows them.
-void QueuesTest::answersThatAreLongCostLittleTime()
-{
-    const auto timeHere = [] {
-        timespec time = {};
-        clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
-        return std::chrono::seconds(time.tv_sec) + std::chrono::nanoseconds(time.tv_nsec);
-    };
-    {
-        const StubServer server(StubServer::Manner::ManyReasons);
-        const auto queues = listQueues(10s);
-        QVERIFY2(queues, queues ? "" : qPrintable(queues.failure().text));
-        const auto start = timeHere();
-        const QString text = stateText(queues->at(0));
-        QVERIFY(timeHere() - start < 100ms);
-        QVERIFY2(text.contains(u"17, 18, 19"_s) && text.size() < 400, qPrintable(text.left(400)));
-    }
-    const StubServer server(StubServer::Manner::ManyQueues);
-    QueueFinder finder(nullptr, 10ms);
-    int found = 0;
-    connect(&finder, &QueueFinder::queueFound, this, [&found] { ++found; });
-    const auto start = timeHere();
-    finder.start();
-    QTRY_COMPARE_WITH_TIMEOUT(found, 10000, 10000);
-    QTest::qWait(1000); // it looks again
-    finder.stop();
-    QVERIFY(timeHere() - start < 1s);
-    QCOMPARE(found, 10000);
-}
-
-void QueuesTest::finderNeverBlocks()
-{
-    for (const auto manner : {StubServer::Manner::Silent, StubServer::Manner::Trickling}) {
-        const StubServer server(manner);
         QElapsedTimer timer;
         timer.start();
-        auto finder = std::make_unique<QueueFinder>();
-        const QSignalSpy finished(finder.get(), &QueueFinder::finished);
-        finder->start();
-        QVERIFY(timer.restart() < 100);
-        QTest::qWait(50); // the worker is in the middle of its wait now
+        const auto ppd = fetched(limit);
+        QVERIFY(timer.elapsed() < limit.count() + 200);
+        QVERIFY(peak() - before < qint64(32) * 1024 * 1024);
+        QVERIFY(!ppd);
+        QCOMPARE(ppd.failure().reason, fault);
+        const QString text = ppd.failure().text;
+        QVERIFY2(text.contains(u"\"photo\""_s) && text.contains(reason), qPrintable(text));
+        if (fault != QueueFault::TimedOut)
+            return;
         timer.start();
-        finder->stop();
-        QVERIFY(timer.restart() < 100);
-        finder->start();
-        QVERIFY(timer.restart() < 100);
-        finder.reset();
-        QVERIFY(timer.restart() < 100);
-        QTest::qWait(300); // time for a worker that would touch what is gone
-        QCOMPARE(finished.size(), 0);
+        QVERIFY(!listQueues(limit));
+        QVERIFY(timer.elapsed() < limit.count() + 200);
+        timer.start();
+        const auto job = submit({}, nullptr, limit);
+        QVERIFY(timer.elapsed() < limit.count() + 200);
+        QVERIFY(!job);
+        QCOMPARE(job.failure().reason, fault);
+
+        FollowLimits limits;
+        limits.total = 300ms;
+        timer.start();
+        CupsConnection connection(10s);
+        QVERIFY(!followJob(connection, u"photo"_s, 1, limits));
+        QVERIFY(timer.elapsed() < 1500);
+
+        // Given up by another thread while the server keeps it waiting.
+        int cancel = 0;
+        std::thread canceller([&cancel] {
+            std::this_thread::sleep_for(100ms);
+            std::atomic_ref(cancel).store(1);
+        });
+        timer.start();
+        const auto cancelled = submit({}, &cancel, 10s);
+        canceller.join();
+        QVERIFY(timer.elapsed() < 400);
+        QVERIFY(!cancelled);
+        QCOMPARE(cancelled.failure().reason, QueueFault::Cancelled);
     }
-}
 
-void QueuesTest::onlyTheLatestFetchIsAnnounced()
-{
-    PpdFetcher fetcher(nullptr, 200ms);
-    const QSignalSpy failed(&fetcher, &PpdFetcher::failed);
-    // Fails at once, for want of a server: its outcome is under way and must not arrive.
-    fetcher.fetch(u"none"_s);
-    QTest::qSleep(100);
-    const StubServer server(StubServer::Manner::Silent);
-    const quint64 first = fetcher.fetch(u"one"_s);
-    const quint64 second = fetcher.fetch(u"two"_s);
-    QVERIFY(first != second);
-    QTRY_COMPARE(failed.size(), 1);
-    QTest::qWait(300);
-    QCOMPARE(failed.size(), 1);
-    QCOMPARE(failed.at(0).at(0).toULongLong(), second);
-    QVERIFY(failed.at(0).at(2).toString().contains(u"\"two\""_s));
-}
+    // Whatever is asked.
+    void hostileAnswersCostLittle()
+    {
+        using Manner = StubServer::Manner;
+        using Requests = StubServer::Requests;
+        const auto isRefused = [](const auto &outcome) {
+            return !outcome && outcome.failure().reason == QueueFault::Failed &&
+                   outcome.failure().text.contains(u"too large or malformed"_s);
+        };
+        for (const Manner manner :
+             {Manner::Nesting, Manner::EndlessValues, Manner::EmptyAttributes, Manner::Separators,
+              Manner::EndlessHeaders, Manner::EndlessContinues, Manner::EndlessChunks}) {
+            QVERIFY(resetPeak());
+            const qint64 before = peak();
+            {
+                const StubServer server(manner);
+                QVERIFY(isRefused(sweepQueues(10s, nullptr)));
+                QVERIFY(isRefused(queueNamed(u"photo"_s, 10s)));
+                CupsConnection connection(10s);
+                QVERIFY(manner != Manner::Nesting || isRefused(followJob(connection, u"photo"_s, 1, {})));
+                QVERIFY(manner != Manner::Nesting || isRefused(cancelJob(connection, u"photo"_s, 1)));
+            }
+            {
+                const StubServer server(manner, Requests::Jobs);
+                QVERIFY(isRefused(submit()));
+            }
+            if (manner == Manner::EndlessHeaders || manner == Manner::EndlessContinues) {
+                const StubServer server(manner, Requests::Files);
+                QVERIFY(isRefused(fetched(10s)));
+            }
+#ifndef __SANITIZE_ADDRESS__ // which keeps what was freed
+            QVERIFY2(peak() - before < qint64(64) * 1024 * 1024, qPrintable(QString::number(int(manner))));
+#endif
+        }
+    }
 
-void QueuesTest::noServerIsToldAtOnce()
-{
-    QElapsedTimer timer;
-    timer.start();
-    QVERIFY(!listQueues(5s));
-    QVERIFY(timer.elapsed() < 100);
-    QueueFinder finder(nullptr, 10ms);
-    const QSignalSpy finished(&finder, &QueueFinder::finished);
-    const QSignalSpy failed(&finder, &QueueFinder::failed);
-    timer.start();
-    finder.start();
-    QTRY_COMPARE(finished.size(), 1);
-    QVERIFY(timer.elapsed() < 100);
-    QTest::qWait(100); // several more looks: each reason is said once
-    QCOMPARE(finished.size(), 1);
-    QCOMPARE(failed.size(), 1);
-    QVERIFY(failed.at(0).at(0).toString().contains(u"nothing answers at /nonexistent/cups.sock"_s));
+    void answersThatMakeNoSense()
+    {
+        {
+            const StubServer server(StubServer::Manner::JobBelowZero, StubServer::Requests::Jobs);
+            const auto job = submit();
+            QVERIFY(!job);
+            QVERIFY2(job.failure().text.contains(u"number"_s), qPrintable(job.failure().text));
+        }
+        {
+            // Cleaned, "go\tod" would be another queue.
+            const StubServer server(StubServer::Manner::OddNames);
+            const auto queues = sweepQueues(5s, nullptr);
+            QVERIFY2(queues, queues ? "" : qPrintable(queues.failure().text));
+            QCOMPARE(queues->size(), 1);
+            QCOMPARE(queues->at(0).name, u"good"_s);
+            QCOMPARE(queues->at(0).members, QStringList{u"inner"_s});
+        }
+        // Nothing is asked somewhere else.
+        const StubServer server(StubServer::Manner::Redirecting);
+        const auto opened = queueNamed(u"photo"_s, 5s);
+        QVERIFY(!opened);
+        QVERIFY2(opened.failure().text.contains(u"Found"_s), qPrintable(opened.failure().text));
+    }
 
-    const auto ppd = fetched(5s);
-    QVERIFY(!ppd);
-    QCOMPARE(ppd.failure().reason, QueueFault::NoServer);
-}
+    // On the thread that shows them.
+    void answersThatAreLongCostLittleTime()
+    {
+        const auto timeHere = [] {
+            timespec time = {};
+            clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
+            return std::chrono::seconds(time.tv_sec) + std::chrono::nanoseconds(time.tv_nsec);
+        };
+        {
+            const StubServer server(StubServer::Manner::ManyReasons);
+            const auto queues = listQueues(10s);
+            QVERIFY2(queues, queues ? "" : qPrintable(queues.failure().text));
+            const auto start = timeHere();
+            const QString text = stateText(queues->at(0));
+            QVERIFY(timeHere() - start < 100ms);
+            QVERIFY2(text.contains(u"17, 18, 19"_s) && text.size() < 400, qPrintable(text.left(400)));
+        }
+        const StubServer server(StubServer::Manner::ManyQueues);
+        QueueFinder finder(nullptr, 10ms);
+        int found = 0;
+        connect(&finder, &QueueFinder::queueFound, this, [&found] { ++found; });
+        const auto start = timeHere();
+        finder.start();
+        QTRY_COMPARE_WITH_TIMEOUT(found, 10000, 10000);
+        QTest::qWait(1000); // it looks again
+        finder.stop();
+        QVERIFY(timeHere() - start < 1s);
+        QCOMPARE(found, 10000);
+    }
+
+    void finderNeverBlocks()
+    {
+        for (const auto manner : {StubServer::Manner::Silent, StubServer::Manner::Trickling}) {
+            const StubServer server(manner);
+            QElapsedTimer timer;
+            timer.start();
+            auto finder = std::make_unique<QueueFinder>();
+            const QSignalSpy finished(finder.get(), &QueueFinder::finished);
+            finder->start();
+            QVERIFY(timer.restart() < 100);
+            QTest::qWait(50); // the worker is in the middle of its wait now
+            timer.start();
+            finder->stop();
+            QVERIFY(timer.restart() < 100);
+            finder->start();
+            QVERIFY(timer.restart() < 100);
+            finder.reset();
+            QVERIFY(timer.restart() < 100);
+            QTest::qWait(300); // time for a worker that would touch what is gone
+            QCOMPARE(finished.size(), 0);
+        }
+    }
+
+    void onlyTheLatestFetchIsAnnounced()
+    {
+        PpdFetcher fetcher(nullptr, 200ms);
+        const QSignalSpy failed(&fetcher, &PpdFetcher::failed);
+        // Fails at once, for want of a server: its outcome is under way and must not arrive.
+        fetcher.fetch(u"none"_s);
+        QTest::qSleep(100);
+        const StubServer server(StubServer::Manner::Silent);
+        const quint64 first = fetcher.fetch(u"one"_s);
+        const quint64 second = fetcher.fetch(u"two"_s);
+        QVERIFY(first != second);
+        QTRY_COMPARE(failed.size(), 1);
+        QTest::qWait(300);
+        QCOMPARE(failed.size(), 1);
+        QCOMPARE(failed.at(0).at(0).toULongLong(), second);
+        QVERIFY(failed.at(0).at(2).toString().contains(u"\"two\""_s));
+    }
+
+    void noServerIsToldAtOnce()
+    {
+        QElapsedTimer timer;
+        timer.start();
+        QVERIFY(!listQueues(5s));
+        QVERIFY(timer.elapsed() < 100);
+        QueueFinder finder(nullptr, 10ms);
+        const QSignalSpy finished(&finder, &QueueFinder::finished);
+        const QSignalSpy failed(&finder, &QueueFinder::failed);
+        timer.start();
+        finder.start();
+        QTRY_COMPARE(finished.size(), 1);
+        QVERIFY(timer.elapsed() < 100);
+        QTest::qWait(100); // several more looks: each reason is said once
+        QCOMPARE(finished.size(), 1);
+        QCOMPARE(failed.size(), 1);
+        QVERIFY(failed.at(0).at(0).toString().contains(u"nothing answers at /nonexistent/cups.sock"_s));
+
+        const auto ppd = fetched(5s);
+        QVERIFY(!ppd);
+        QCOMPARE(ppd.failure().reason, QueueFault::NoServer);
+    }
+};
 
 CORVEL_TEST(QueuesTest)
 #include "QueuesTest.moc"
