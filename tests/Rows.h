@@ -13,17 +13,23 @@ inline QString text(const char *latin1)
     return QString::fromLatin1(latin1);
 }
 
-/// The rows of a test: the name of each and its values, which row() has in the test.
+/// What adds the rows of a test, one at a time: the name of each and its values, which row() has in the test.
 template <class... Values>
-void addRows(std::initializer_list<std::tuple<const char *, Values...>> rows)
+auto rows()
 {
     QTest::addColumn<std::tuple<Values...>>("values");
-    for (const auto &each : rows) {
-        const auto add = [](const char *name, const Values &...values) {
-            QTest::newRow(name) << std::tuple<Values...>(values...);
-        };
+    return [](const char *name, const Values &...values) {
+        QTest::newRow(name) << std::tuple<Values...>(values...);
+    };
+}
+
+/// Adds the rows of a test.
+template <class... Values>
+void addRows(std::initializer_list<std::tuple<const char *, Values...>> all)
+{
+    const auto add = rows<Values...>();
+    for (const auto &each : all)
         std::apply(add, each);
-    }
 }
 
 template <class... Values>

@@ -3,6 +3,7 @@
 
 #include "CommandLine.h"
 #include "ProgramRun.h"
+#include "Rows.h"
 #include "TestMain.h"
 #include "WindowRun.h"
 
@@ -30,23 +31,22 @@ private Q_SLOTS:
 
     void nameAsUrl_data()
     {
-        QTest::addColumn<QString>("argument");
-        QTest::addColumn<QString>("path");
-        QTest::newRow("path") << u"a b.jpg"_s << u"a b.jpg"_s;
-        QTest::newRow("escaped") << u"file:///tmp/a%20b%C3%A9.jpg"_s << u"/tmp/a b\u00e9.jpg"_s;
-        QTest::newRow("not escaped") << u"file:///tmp/a b.jpg"_s << u"/tmp/a b.jpg"_s;
-        QTest::newRow("without a host") << u"file:/tmp/a.jpg"_s << u"/tmp/a.jpg"_s;
-        QTest::newRow("with this host") << u"file://localhost/tmp/a.jpg"_s << u"/tmp/a.jpg"_s;
-        QTest::newRow("bytes") << u"file:///tmp/%E9.jpg"_s << u"/tmp/\ufffd.jpg"_s;
-        QTest::newRow("number sign") << u"file:///tmp/a%23b.jpg"_s << u"/tmp/a#b.jpg"_s;
+        const auto add = rows<QString, QString>();
+        add("path", u"a b.jpg"_s, u"a b.jpg"_s);
+        add("escaped", u"file:///tmp/a%20b%C3%A9.jpg"_s, u"/tmp/a b\u00e9.jpg"_s);
+        add("not escaped", u"file:///tmp/a b.jpg"_s, u"/tmp/a b.jpg"_s);
+        add("without a host", u"file:/tmp/a.jpg"_s, u"/tmp/a.jpg"_s);
+        add("with this host", u"file://localhost/tmp/a.jpg"_s, u"/tmp/a.jpg"_s);
+        add("bytes", u"file:///tmp/%E9.jpg"_s, u"/tmp/\ufffd.jpg"_s);
+        add("number sign", u"file:///tmp/a%23b.jpg"_s, u"/tmp/a#b.jpg"_s);
     }
 
     void nameAsUrl()
     {
-        QFETCH(QString, argument);
+        const auto [argument, path] = row<QString, QString>();
         const auto commandLine = CommandLine::parse({u"corvel-print"_s, argument});
         QVERIFY(commandLine);
-        QTEST(commandLine->photos.value(0), "path");
+        QCOMPARE(commandLine->photos.value(0), path);
     }
 
     void badPhotosLeaveTheWindowToTheGoodOnes()

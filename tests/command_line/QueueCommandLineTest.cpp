@@ -3,6 +3,7 @@
 
 #include "PrivateCupsd.h"
 #include "ProgramRun.h"
+#include "Rows.h"
 #include "TestMain.h"
 
 #include <QtCore/QDir>
@@ -92,31 +93,25 @@ private Q_SLOTS:
 
     void refusesQueues_data()
     {
-        QTest::addColumn<QString>("queue");
-        QTest::addColumn<QString>("option");
-        QTest::addColumn<QString>("word");
-        QTest::newRow("unknown") << u"nowhere"_s << u"Red=12"_s << u"does not exist"_s;
-        QTest::newRow("unknown with a preset")
-            << u"nowhere/matte"_s << u"Red=12"_s << u"\"nowhere/matte\" does not exist"_s;
-        QTest::newRow("unknown preset") << u"photo/matte"_s << u"Red=12"_s
-                                        << u"\"photo\" has no preset \"matte\". Its presets: \"My own\"."_s;
-        QTest::newRow("unknown preset, and no other")
-            << u"odd/two sided"_s << u"Red=12"_s << u"\"odd\" has no preset \"two sided\", nor any other"_s;
-        QTest::newRow("unknown preset of many")
-            << u"group/matte"_s << u"Red=12"_s
-            << u"\"group\" has no preset \"matte\". Choose one of its 6 others"_s;
-        QTest::newRow("unknown preset of the built-in printer")
-            << u"built-in/matte"_s << u"Red=12"_s << u"\"built-in\" has no preset \"matte\", nor any other"_s;
-        QTest::newRow("without a PPD") << u"raw"_s << u"Red=12"_s << u"PPD"_s;
-        QTest::newRow("rejects jobs") << u"closed"_s << u"Red=12"_s << u"does not accept"_s;
-        QTest::newRow("choice") << u"photo"_s << u"Red=99"_s << u"-25 to 25"_s;
+        const auto add = rows<QString, QString, QString>();
+        add("unknown", u"nowhere"_s, u"Red=12"_s, u"does not exist"_s);
+        add("unknown with a preset", u"nowhere/matte"_s, u"Red=12"_s, u"\"nowhere/matte\" does not exist"_s);
+        add("unknown preset", u"photo/matte"_s, u"Red=12"_s,
+            u"\"photo\" has no preset \"matte\". Its presets: \"My own\"."_s);
+        add("unknown preset, and no other", u"odd/two sided"_s, u"Red=12"_s,
+            u"\"odd\" has no preset \"two sided\", nor any other"_s);
+        add("unknown preset of many", u"group/matte"_s, u"Red=12"_s,
+            u"\"group\" has no preset \"matte\". Choose one of its 6 others"_s);
+        add("unknown preset of the built-in printer", u"built-in/matte"_s, u"Red=12"_s,
+            u"\"built-in\" has no preset \"matte\", nor any other"_s);
+        add("without a PPD", u"raw"_s, u"Red=12"_s, u"PPD"_s);
+        add("rejects jobs", u"closed"_s, u"Red=12"_s, u"does not accept"_s);
+        add("choice", u"photo"_s, u"Red=99"_s, u"-25 to 25"_s);
     }
 
     void refusesQueues()
     {
-        QFETCH(QString, queue);
-        QFETCH(QString, option);
-        QFETCH(QString, word);
+        const auto [queue, option, word] = row<QString, QString, QString>();
         QByteArray presets = "Dest photo/My%20own Red=1\n";
         for (int i = 0; i < 6; ++i)
             presets += "Dest group/" + QByteArray::number(i) + " Red=1\n";
@@ -132,31 +127,23 @@ private Q_SLOTS:
 
     void sendsWhatTheDryRunShows_data()
     {
-        QTest::addColumn<QString>("queue");
-        QTest::addColumn<QString>("photo");
-        QTest::addColumn<QStringList>("options");
-        QTest::addColumn<QString>("format");
+        const auto add = rows<QString, QString, QStringList, QString>();
         const QStringList red = {u"-o"_s, u"Red=12"_s};
         const QStringList small = {u"-o"_s, u"PageSize=4x6"_s};
-        QTest::newRow("default") << QString() << samplePhoto << red << u"application/pdf"_s;
-        QTest::newRow("placed") << u"photo"_s << samplePhoto << red << u"application/pdf"_s;
-        QTest::newRow("nothing to place") << u"photo"_s << uprightPhoto() << red << u"image/jpeg"_s;
-        QTest::newRow("class") << u"group"_s << uprightPhoto() << red << u"image/jpeg"_s;
-        QTest::newRow("with margins") << u"photo"_s << uprightPhoto() << small << u"application/pdf"_s;
-        QTest::newRow("colours of its own")
-            << u"photo"_s << home_.filePath(u"wide.jpg"_s) << red << u"application/pdf"_s;
-        QTest::newRow("colours named sRGB")
-            << u"photo"_s << home_.filePath(u"named.jpg"_s) << red << u"image/jpeg"_s;
-        QTest::newRow("no JPEG") << u"photo"_s << home_.filePath(u"upright.webp"_s) << red
-                                 << u"application/pdf"_s;
-        QTest::newRow("without a PPD") << u"raw"_s << samplePhoto << QStringList() << u"image/jpeg"_s;
+        add("default", QString(), samplePhoto, red, u"application/pdf"_s);
+        add("placed", u"photo"_s, samplePhoto, red, u"application/pdf"_s);
+        add("nothing to place", u"photo"_s, uprightPhoto(), red, u"image/jpeg"_s);
+        add("class", u"group"_s, uprightPhoto(), red, u"image/jpeg"_s);
+        add("with margins", u"photo"_s, uprightPhoto(), small, u"application/pdf"_s);
+        add("colours of its own", u"photo"_s, home_.filePath(u"wide.jpg"_s), red, u"application/pdf"_s);
+        add("colours named sRGB", u"photo"_s, home_.filePath(u"named.jpg"_s), red, u"image/jpeg"_s);
+        add("no JPEG", u"photo"_s, home_.filePath(u"upright.webp"_s), red, u"application/pdf"_s);
+        add("without a PPD", u"raw"_s, samplePhoto, QStringList(), u"image/jpeg"_s);
     }
 
     void sendsWhatTheDryRunShows()
     {
-        QFETCH(QString, queue);
-        QFETCH(QString, photo);
-        QFETCH(QStringList, options);
+        const auto [queue, photo, options, format] = row<QString, QString, QStringList, QString>();
         QStringList arguments = QStringList(photo) + options;
         if (!queue.isEmpty())
             arguments += {u"--printer"_s, queue};
@@ -165,7 +152,7 @@ private Q_SLOTS:
         const ProgramRun dry = runProgram(arguments + QStringList{u"--dry-run"_s, u"--json"_s});
         QCOMPARE(dry.err, QByteArray());
         const QJsonObject plan = dry.json().array().at(0).toObject();
-        QTEST(plan[u"format"_s].toString(), "format");
+        QCOMPARE(plan[u"format"_s].toString(), format);
         QCOMPARE(plan[u"queue"_s].toString(), name);
         QCOMPARE(plan[u"server"_s].toString(), cupsd_.socketPath());
         QVERIFY(plan[u"uri"_s].toString().startsWith(u"ipp://"_s) &&
@@ -256,28 +243,18 @@ private Q_SLOTS:
 
     void followsTheJob_data()
     {
-        QTest::addColumn<QByteArray>("backend");
-        QTest::addColumn<bool>("isStopped");
-        QTest::addColumn<QString>("wait");
-        QTest::addColumn<int>("status");
-        QTest::addColumn<QByteArrayList>("words");
-        const auto row = [](const char *name, const QByteArray &backend, bool isStopped, const QString &wait,
-                            int status, const QByteArrayList &words) {
-            QTest::newRow(name) << backend << isStopped << wait << status << words;
-        };
-        row("failing printer", "echo 'ERROR: Ribbon torn' >&2; exit 1", false, u"60"_s, 1,
+        const auto add = rows<QByteArray, bool, QString, int, QByteArrayList>();
+        add("failing printer", "echo 'ERROR: Ribbon torn' >&2; exit 1", false, u"60"_s, 1,
             {"\"odd\"", "Ribbon torn"});
-        row("stopped queue", "sleep 2", true, u"1"_s, 0, {"not printed yet", "out of ribbon"});
-        row("not followed", "sleep 2", false, u"0"_s, 0, {});
-        row("server that ends", "kill -KILL $PPID; sleep 3", false, u"1"_s, 0, {"not printed yet"});
+        add("stopped queue", "sleep 2", true, u"1"_s, 0, {"not printed yet", "out of ribbon"});
+        add("not followed", "sleep 2", false, u"0"_s, 0, {});
+        add("server that ends", "kill -KILL $PPID; sleep 3", false, u"1"_s, 0, {"not printed yet"});
     }
 
     void followsTheJob()
     {
-        QFETCH(QByteArray, backend);
-        QFETCH(bool, isStopped);
-        QFETCH(QString, wait);
-        QFETCH(QByteArrayList, words);
+        const auto [backend, isStopped, wait, status, words] =
+            row<QByteArray, bool, QString, int, QByteArrayList>();
         QVERIFY(cupsd_.setBackendScript(backend));
         if (isStopped)
             QVERIFY(cupsd_.run(u"cupsdisable"_s, {u"-r"_s, u"out of ribbon"_s, u"odd"_s}));
@@ -287,7 +264,7 @@ private Q_SLOTS:
             runProgram({u"--printer"_s, u"odd"_s, u"--batch"_s, uprightPhoto(), u"--wait"_s, wait});
         QVERIFY(timer.elapsed() < 2000);
         QVERIFY(run.out.startsWith("Sent upright.jpg to odd as job "));
-        QTEST(run.status, "status");
+        QCOMPARE(run.status, status);
         QCOMPARE(run.err.count('\n'), words.isEmpty() ? 0 : 1);
         for (const QByteArray &word : words)
             QVERIFY2(run.err.contains(word), run.err.constData());

@@ -8,6 +8,7 @@
 #include "PrivateCupsd.h"
 #include "QueueList.h"
 #include "QueueRecord.h"
+#include "Rows.h"
 #include "StateText.h"
 #include "TestMain.h"
 
@@ -82,23 +83,17 @@ private Q_SLOTS:
     void jobIsFollowedToItsEnd_data()
     {
         using State = JobStatus::State;
-        QTest::addColumn<QString>("queue");
-        QTest::addColumn<QByteArray>("backend");
-        QTest::addColumn<State>("state");
-        QTest::addColumn<QString>("words");
-        QTest::newRow("done") << u"odd"_s << QByteArray("exit 0") << State::Completed << QString();
-        QTest::newRow("done, by a class")
-            << u"group"_s << QByteArray("exit 0") << State::Completed << QString();
-        QTest::newRow("failed, with words of its own")
-            << u"odd"_s << QByteArray("printf 'ERROR: Ribbon \\033[1mtorn\\n' >&2; exit 1") << State::Aborted
-            << u"Ribbon [1mtorn"_s;
+        const auto add = rows<QString, QByteArray, State, QString>();
+        add("done", u"odd"_s, QByteArray("exit 0"), State::Completed, QString());
+        add("done, by a class", u"group"_s, QByteArray("exit 0"), State::Completed, QString());
+        add("failed, with words of its own", u"odd"_s,
+            QByteArray("printf 'ERROR: Ribbon \\033[1mtorn\\n' >&2; exit 1"), State::Aborted,
+            u"Ribbon [1mtorn"_s);
     }
 
     void jobIsFollowedToItsEnd()
     {
-        QFETCH(QString, queue);
-        QFETCH(QByteArray, backend);
-        QFETCH(QString, words);
+        const auto [queue, backend, state, words] = row<QString, QByteArray, JobStatus::State, QString>();
         // It is seen while it is being printed.
         QVERIFY(cupsd_.setBackendScript("sleep 0.2\n" + backend));
         const auto id = submit(queue);
@@ -107,7 +102,7 @@ private Q_SLOTS:
         const auto status =
             follow(queue, *id, {}, [&states](const JobStatus &news) { states.append(news.state); });
         QVERIFY2(status, status ? "" : qPrintable(status.failure().text));
-        QTEST(status->state, "state");
+        QCOMPARE(status->state, state);
         QVERIFY2(status->detail().contains(words), qPrintable(status->detail()));
         QVERIFY(states.contains(JobStatus::State::Processing));
         QCOMPARE(states.constLast(), status->state);

@@ -6,6 +6,7 @@
 #include "PrivateCupsd.h"
 #include "QueueFinder.h"
 #include "QueueList.h"
+#include "Rows.h"
 #include "TestMain.h"
 
 #include <QtCore/QDir>
@@ -281,27 +282,21 @@ private Q_SLOTS:
 
     void failedSubmissionLeavesNothing_data()
     {
-        QTest::addColumn<QString>("queue");
-        QTest::addColumn<QByteArray>("type");
-        QTest::addColumn<QueueFault>("fault");
-        QTest::addColumn<QString>("words");
+        const auto add = rows<QString, QByteArray, QueueFault, QString>();
         const QByteArray good = "image/jpeg";
-        QTest::newRow("queue vanished") << u"gone"_s << good << QueueFault::NotFound << u"\"gone\""_s;
-        QTest::newRow("queue rejects")
-            << u"raw"_s << good << QueueFault::NotAccepting << u"(out of ribbon)"_s;
-        QTest::newRow("type refused")
-            << u"photo"_s << QByteArray("image/x-nobody") << QueueFault::Failed << u"image/x-nobody"_s;
+        add("queue vanished", u"gone"_s, good, QueueFault::NotFound, u"\"gone\""_s);
+        add("queue rejects", u"raw"_s, good, QueueFault::NotAccepting, u"(out of ribbon)"_s);
+        add("type refused", u"photo"_s, QByteArray("image/x-nobody"), QueueFault::Failed,
+            u"image/x-nobody"_s);
     }
 
     void failedSubmissionLeavesNothing()
     {
-        QFETCH(QString, queue);
-        QFETCH(QByteArray, type);
-        QFETCH(QString, words);
+        const auto [queue, type, fault, words] = row<QString, QByteArray, QueueFault, QString>();
         QVERIFY(cupsd_.run(u"cupsreject"_s, {u"-r"_s, u"out of ribbon"_s, u"raw"_s}));
         const auto id = submit(queue, {"bytes", type, u"a.jpg"_s});
         QVERIFY(!id);
-        QTEST(id.failure().reason, "fault");
+        QCOMPARE(id.failure().reason, fault);
         QVERIFY2(id.failure().text.contains(words), qPrintable(id.failure().text));
         QCOMPARE(cupsd_.activeJobs(), QByteArray());
     }

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include "BuiltInPrinter.h"
+#include "Rows.h"
 #include "SamplePhotos.h"
 #include "TestMain.h"
 
@@ -107,30 +108,22 @@ private Q_SLOTS:
 
     void keepsWhatIsThere_data()
     {
-        QTest::addColumn<QStringList>("earlier");
-        QTest::addColumn<bool>("isOverwritten");
-        QTest::addColumn<QString>("name");
-        const auto row = [](const char *test, const QStringList &earlier, bool isOverwritten,
-                            const QString &name) {
-            QTest::newRow(test) << earlier << isOverwritten << name;
-        };
+        const auto add = rows<QStringList, bool, QString>();
         const QString pdf = u"photo.pdf"_s;
-        row("nothing", {}, false, u"photo"_s);
-        row("a page", {pdf}, false, u"photo-2"_s);
-        row("a ticket", {u"photo.ticket.json"_s}, false, u"photo-2"_s);
-        row("half of each", {pdf, u"photo-2.ticket.json"_s}, false, u"photo-3"_s);
-        row("overwritten", {pdf, u"photo.ticket.json"_s}, true, u"photo"_s);
+        add("nothing", {}, false, u"photo"_s);
+        add("a page", {pdf}, false, u"photo-2"_s);
+        add("a ticket", {u"photo.ticket.json"_s}, false, u"photo-2"_s);
+        add("half of each", {pdf, u"photo-2.ticket.json"_s}, false, u"photo-3"_s);
+        add("overwritten", {pdf, u"photo.ticket.json"_s}, true, u"photo"_s);
         // Photos may have such names; they are JPEG files all the same.
-        row("a photo", {pdf, u"a photo"_s}, false, u"photo-2"_s);
-        row("a photo, overwritten", {pdf, u"a photo"_s}, true, u"photo-2"_s);
-        row("a photo that is a link, overwritten", {pdf, u"a photo"_s, u"a link"_s}, true, u"photo-2"_s);
+        add("a photo", {pdf, u"a photo"_s}, false, u"photo-2"_s);
+        add("a photo, overwritten", {pdf, u"a photo"_s}, true, u"photo-2"_s);
+        add("a photo that is a link, overwritten", {pdf, u"a photo"_s, u"a link"_s}, true, u"photo-2"_s);
     }
 
     void keepsWhatIsThere()
     {
-        QFETCH(QStringList, earlier);
-        QFETCH(const bool, isOverwritten);
-        QFETCH(const QString, name);
+        auto [earlier, isOverwritten, name] = row<QStringList, bool, QString>();
         OutputFolder folder{folder_->path(), isOverwritten};
         if (earlier.removeOne(u"a photo"_s))
             folder.photos.append(folder_->path() +
@@ -183,31 +176,24 @@ private Q_SLOTS:
 
     void failuresLeaveNothing_data()
     {
-        QTest::addColumn<QString>("output"); // within the test's folder
-        QTest::addColumn<QString>("named");  // what the message names
-        QTest::addColumn<OutputFault>("fault");
-        const auto row = [](const char *test, const QString &output, const QString &named,
-                            OutputFault fault) {
-            QTest::newRow(test) << output << named << fault;
-        };
-        row("folder is a file", u"file"_s, u"file"_s, OutputFault::NotAFolder);
-        row("folder below a file", u"file/new"_s, u"file/new"_s, OutputFault::NotAFolder);
-        row("link to nowhere", u"link"_s, u"link"_s, OutputFault::FolderMissing);
-        row("no permission", u"locked"_s, u"locked/photo.pdf"_s, OutputFault::NotWritable);
-        row("no permission to make it", u"locked/new"_s, u"locked/new"_s, OutputFault::NotWritable);
-        row("folder in the ticket's place", u"taken"_s, u"photo.ticket.json"_s, OutputFault::NameTaken);
-        row("name too long", QString(300, u'n'), u"nnn"_s, OutputFault::NameTooLong);
-        row("disk full, in new folders", u"new/out"_s, u"photo.pdf"_s, OutputFault::DiskFull);
-        row("disk full, over an earlier pair", u"pair"_s, u"photo.pdf"_s, OutputFault::DiskFull);
-        row("damaged photo", u"pair"_s, u"photo.jpg"_s, OutputFault::PhotoUnusable);
-        row("no page", u"new/out"_s, u"page"_s, OutputFault::PageUnusable);
+        // Within the test's folder; what the message names.
+        const auto add = rows<QString, QString, OutputFault>();
+        add("folder is a file", u"file"_s, u"file"_s, OutputFault::NotAFolder);
+        add("folder below a file", u"file/new"_s, u"file/new"_s, OutputFault::NotAFolder);
+        add("link to nowhere", u"link"_s, u"link"_s, OutputFault::FolderMissing);
+        add("no permission", u"locked"_s, u"locked/photo.pdf"_s, OutputFault::NotWritable);
+        add("no permission to make it", u"locked/new"_s, u"locked/new"_s, OutputFault::NotWritable);
+        add("folder in the ticket's place", u"taken"_s, u"photo.ticket.json"_s, OutputFault::NameTaken);
+        add("name too long", QString(300, u'n'), u"nnn"_s, OutputFault::NameTooLong);
+        add("disk full, in new folders", u"new/out"_s, u"photo.pdf"_s, OutputFault::DiskFull);
+        add("disk full, over an earlier pair", u"pair"_s, u"photo.pdf"_s, OutputFault::DiskFull);
+        add("damaged photo", u"pair"_s, u"photo.jpg"_s, OutputFault::PhotoUnusable);
+        add("no page", u"new/out"_s, u"page"_s, OutputFault::PageUnusable);
     }
 
     void failuresLeaveNothing()
     {
-        QFETCH(const QString, output);
-        QFETCH(const QString, named);
-        QFETCH(const OutputFault, fault);
+        const auto [output, named, fault] = row<QString, QString, OutputFault>();
         QDir folder(folder_->path());
         for (const QString &name : {u"pair"_s, u"taken"_s, u"locked"_s, u"taken/photo.ticket.json"_s})
             QVERIFY(folder.mkdir(name));
@@ -227,7 +213,7 @@ private Q_SLOTS:
 
         const auto before = contentOf(folder_->path());
         PrintedNames names({pathOf(output), true});
-        const auto files = [&] {
+        const auto files = [&, fault = fault] {
             std::optional<FullDisk> fullDisk;
             std::optional<samples::OrdinaryRights> rights;
             if (fault == OutputFault::DiskFull)

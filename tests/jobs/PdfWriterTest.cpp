@@ -3,10 +3,12 @@
 
 #include "PdfWriter.h"
 #include "PhotoPlacement.h"
+#include "Rows.h"
 #include "SamplePhotos.h"
 #include "TestMain.h"
 
 #include <QtCore/QBuffer>
+#include <QtCore/QDateTime>
 #include <QtCore/QProcess>
 #include <QtCore/QRegularExpression>
 #include <QtCore/QTemporaryDir>
@@ -133,26 +135,23 @@ private Q_SLOTS:
     /// way.
     void pngsOfAllKinds_data()
     {
-        QTest::addColumn<QImage>("picture");
-        QTest::addColumn<bool>("goesInUntouched");
+        const auto add = rows<QImage, bool>();
         const QImage picture = samples::quarters(QSize(301, 201));
         const QImage grey = picture.convertToFormat(QImage::Format_Grayscale8);
         QImage half = picture.convertToFormat(QImage::Format_ARGB32);
         half.setAlphaChannel(QImage(half.size(), QImage::Format_Alpha8));
-        QTest::newRow("colour") << picture << true;
-        QTest::newRow("colour of 16 bits") << picture.convertToFormat(QImage::Format_RGBX64) << true;
-        QTest::newRow("grey") << grey << true;
-        QTest::newRow("grey of 16 bits") << picture.convertToFormat(QImage::Format_Grayscale16) << true;
-        QTest::newRow("palette") << picture.convertToFormat(QImage::Format_Indexed8) << true;
-        QTest::newRow("black and white")
-            << grey.convertToFormat(QImage::Format_Mono, Qt::ThresholdDither) << true;
-        QTest::newRow("opaque alpha") << picture.convertToFormat(QImage::Format_ARGB32) << false;
+        add("colour", picture, true);
+        add("colour of 16 bits", picture.convertToFormat(QImage::Format_RGBX64), true);
+        add("grey", grey, true);
+        add("grey of 16 bits", picture.convertToFormat(QImage::Format_Grayscale16), true);
+        add("palette", picture.convertToFormat(QImage::Format_Indexed8), true);
+        add("black and white", grey.convertToFormat(QImage::Format_Mono, Qt::ThresholdDither), true);
+        add("opaque alpha", picture.convertToFormat(QImage::Format_ARGB32), false);
     }
 
     void pngsOfAllKinds()
     {
-        QFETCH(const QImage, picture);
-        QFETCH(const bool, goesInUntouched);
+        const auto [picture, goesInUntouched] = row<QImage, bool>();
         const QByteArray png = samples::encoded(picture, "png");
         const QByteArray pdf =
             pdfOf(photoOf(png), landscapePage,
@@ -174,36 +173,28 @@ private Q_SLOTS:
 
     void impossiblePngs_data()
     {
-        QTest::addColumn<QByteArray>("kind"); // bits, type of colours, method of compression, of filtering
-        QTest::addColumn<int>("rows");
-        QTest::addColumn<bool>("isPossible");
-        QTest::addColumn<QByteArray>("behind"); // the compressed data
-        const auto row = [](const char *name, const QByteArray &kind, int rows, bool isPossible,
-                            const QByteArray &behind = {}) {
-            QTest::newRow(name) << kind.leftJustified(5, '\0') << rows << isPossible << behind;
-        };
-        row("grey", "\x08", 20, true);
-        row("palette that lacks colours", "\4\3", 20, true);
-        row("rows missing", "\x08", 19, false);
-        row("rows missing, with alpha", "\x08\x06", 19, false);
-        row("a row too many", "\x08", 21, true);
-        row("a row too many, with alpha", "\x08\x06", 21, true);
-        row("bytes behind the rows", "\x08", 20, true, "more");
-        row("bytes behind the rows, with alpha", "\x08\x06", 20, true, "more");
-        row("no bits", "", 20, false);
-        row("grey of 3 bits", "\3", 20, false);
-        row("colours of 1 bit", "\1\2", 20, false);
-        row("palette of 16 bits", "\x10\3", 20, false);
-        row("unknown filters", QByteArray("\x08\0\0\x40", 4), 20, false);
+        // Bits, type of colours, methods of compression and filtering; rows; bytes behind the data.
+        const auto add = rows<QByteArray, int, bool, QByteArray>();
+        add("grey", "\x08", 20, true, {});
+        add("palette that lacks colours", "\4\3", 20, true, {});
+        add("rows missing", "\x08", 19, false, {});
+        add("rows missing, with alpha", "\x08\x06", 19, false, {});
+        add("a row too many", "\x08", 21, true, {});
+        add("a row too many, with alpha", "\x08\x06", 21, true, {});
+        add("bytes behind the rows", "\x08", 20, true, "more");
+        add("bytes behind the rows, with alpha", "\x08\x06", 20, true, "more");
+        add("no bits", "", 20, false, {});
+        add("grey of 3 bits", "\3", 20, false, {});
+        add("colours of 1 bit", "\1\2", 20, false, {});
+        add("palette of 16 bits", "\x10\3", 20, false, {});
+        add("unknown filters", QByteArray("\x08\0\0\x40", 4), 20, false, {});
     }
 
     /// Damage that the checksums do not show is found out; what is there beside the picture is not damage.
     void impossiblePngs()
     {
-        QFETCH(QByteArray, kind);
-        QFETCH(int, rows);
-        QFETCH(bool, isPossible);
-        QFETCH(QByteArray, behind);
+        const auto [bytes, rows, isPossible, behind] = row<QByteArray, int, bool, QByteArray>();
+        const QByteArray kind = bytes.leftJustified(5, '\0');
         const int bits = kind[0] * (kind[1] == 6 ? 4 : kind[1] == 2 ? 3 : 1);
         const QByteArray row = '\0' + QByteArray((30 * bits + 7) / 8, '\x77');
         samples::store(
@@ -221,18 +212,16 @@ private Q_SLOTS:
 
     void transparentPngsLieOnWhite_data()
     {
-        QTest::addColumn<char>("colourType");
-        QTest::addColumn<bool>("isInterlaced");
-        QTest::newRow("colour") << '\6' << false;
-        QTest::newRow("colour, interlaced") << '\6' << true;
-        QTest::newRow("grey") << '\4' << false;
-        QTest::newRow("grey, interlaced") << '\4' << true;
+        const auto add = rows<char, bool>();
+        add("colour", '\6', false);
+        add("colour, interlaced", '\6', true);
+        add("grey", '\4', false);
+        add("grey, interlaced", '\4', true);
     }
 
     void transparentPngsLieOnWhite()
     {
-        QFETCH(char, colourType);
-        QFETCH(bool, isInterlaced);
+        const auto [colourType, isInterlaced] = row<char, bool>();
         const QSize size(19, 11);
         const int colours = colourType == 4 ? 1 : 3;
         const auto numberAt = [](int x, int y, int index) {
@@ -273,8 +262,7 @@ private Q_SLOTS:
     /// preview.
     void profileIsAppliedOnce_data()
     {
-        QTest::addColumn<QByteArray>("content");
-        QTest::addColumn<QString>("corners");
+        const auto add = rows<QByteArray, QString>();
         const QImage picture = samples::quarters(QSize(300, 200));
         QImage tagged = picture;
         tagged.setColorSpace(QColorSpace::fromIccProfile(samples::swappedProfile()));
@@ -282,23 +270,20 @@ private Q_SLOTS:
         const QByteArray png = samples::encoded(tagged, "png");
         const QByteArray cmyk = samples::redCmykJpeg();
         const QByteArray grey = samples::encoded(picture.convertToFormat(QImage::Format_Grayscale8), "jpeg");
-        QTest::newRow("JPEG") << samples::withProfile(jpeg, samples::swappedProfile()) << u"GRBY"_s;
-        QTest::newRow("PNG") << png << u"GRBY"_s;
-        QTest::newRow("PNG with alpha")
-            << samples::encoded(tagged.convertToFormat(QImage::Format_ARGB32), "png") << u"GRBY"_s;
-        QTest::newRow("JPEG that is decoded")
-            << samples::withProfile(jpeg.first(2) + "\xff\xff" + jpeg.sliced(2), samples::swappedProfile())
-            << u"GRBY"_s;
-        QTest::newRow("JPEG, profile damaged")
-            << samples::withProfile(jpeg, QByteArray(400, 'x')) << u"RGBY"_s;
-        QTest::newRow("CMYK with a profile of RGB")
-            << samples::withProfile(cmyk, samples::swappedProfile()) << u"RRRR"_s;
+        add("JPEG", samples::withProfile(jpeg, samples::swappedProfile()), u"GRBY"_s);
+        add("PNG", png, u"GRBY"_s);
+        add("PNG with alpha", samples::encoded(tagged.convertToFormat(QImage::Format_ARGB32), "png"),
+            u"GRBY"_s);
+        add("JPEG that is decoded",
+            samples::withProfile(jpeg.first(2) + "\xff\xff" + jpeg.sliced(2), samples::swappedProfile()),
+            u"GRBY"_s);
+        add("JPEG, profile damaged", samples::withProfile(jpeg, QByteArray(400, 'x')), u"RGBY"_s);
+        add("CMYK with a profile of RGB", samples::withProfile(cmyk, samples::swappedProfile()), u"RRRR"_s);
     }
 
     void profileIsAppliedOnce()
     {
-        QFETCH(const QByteArray, content);
-        QFETCH(const QString, corners);
+        const auto [content, corners] = row<QByteArray, QString>();
         const Photo photo = photoOf(content);
         QBuffer buffer;
         buffer.open(QIODevice::WriteOnly);
@@ -337,36 +322,29 @@ private Q_SLOTS:
             QVERIFY2(information.contains(
                          QRegularExpression(u"^%1$"_s.arg(line), QRegularExpression::MultilineOption)),
                      qPrintable(information));
-        QTest::qWait(1100); // the clock's second, which must not get into the file
+        const qint64 second = QDateTime::currentSecsSinceEpoch(); // which must not get into the file
+        QTRY_VERIFY(QDateTime::currentSecsSinceEpoch() > second);
         QVERIFY(pdfOf(photo, portraitPage, PdfWriter::Embedding::OriginalJpeg) == pdf);
     }
 
     void faults_data()
     {
-        QTest::addColumn<QSizeF>("size");
-        QTest::addColumn<QRectF>("imageable");
-        QTest::addColumn<QString>("device");
-        QTest::addColumn<int>("fault");
+        const auto add = rows<QSizeF, QRectF, QString, int>();
         const QSizeF size(288, 432);
         const QRectF whole(QPointF(0, 0), size);
         const int page = int(PdfFault::PageUnusable);
         const QString null = u"/dev/null"_s;
-        QTest::newRow("page without a size") << QSizeF() << whole << null << page;
-        QTest::newRow("page of no number")
-            << QSizeF(std::numeric_limits<double>::quiet_NaN(), 432) << whole << null << page;
-        QTest::newRow("page beyond what a PDF has") << QSizeF(288, 1e9) << whole << null << page;
-        QTest::newRow("nothing imageable") << size << QRectF(10, 10, 0, 400) << null << page;
-        QTest::newRow("full disk") << size << whole << u"/dev/full"_s << int(PdfFault::WriteFailed);
-        QTest::newRow("pixels that cannot be decoded")
-            << size << whole << null << int(PdfFault::PhotoUnusable);
+        add("page without a size", QSizeF(), whole, null, page);
+        add("page of no number", QSizeF(std::numeric_limits<double>::quiet_NaN(), 432), whole, null, page);
+        add("page beyond what a PDF has", QSizeF(288, 1e9), whole, null, page);
+        add("nothing imageable", size, QRectF(10, 10, 0, 400), null, page);
+        add("full disk", size, whole, u"/dev/full"_s, int(PdfFault::WriteFailed));
+        add("pixels that cannot be decoded", size, whole, null, int(PdfFault::PhotoUnusable));
     }
 
     void faults()
     {
-        QFETCH(const QSizeF, size);
-        QFETCH(const QRectF, imageable);
-        QFETCH(const QString, device);
-        QFETCH(const int, fault);
+        const auto [size, imageable, device, fault] = row<QSizeF, QRectF, QString, int>();
         const QByteArray content = fault == int(PdfFault::PhotoUnusable)
                                        ? samples::undecodableJpeg()
                                        : samples::encoded(samples::quarters(QSize(30, 20)), "jpeg");

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include "Photo.h"
+#include "Rows.h"
 #include "SamplePhotos.h"
 #include "TestMain.h"
 #include "TiffDamage.h"
@@ -53,11 +54,9 @@ private Q_SLOTS:
     /// What lies behind sound headers.
     void damagedPixels_data()
     {
-        QTest::addColumn<QByteArray>("content");
-        QTest::addColumn<bool>("isDamaged");
-
-        const auto row = [](const QByteArray &test, const QByteArray &content, bool isDamaged) {
-            QTest::newRow(test.constData()) << content << isDamaged;
+        const auto add = rows<QByteArray, bool>();
+        const auto row = [&add](const QByteArray &test, const QByteArray &content, bool isDamaged) {
+            add(test.constData(), content, isDamaged);
         };
         const auto withBytes = [](QByteArray content, qsizetype position, const QByteArray &bytes) {
             return content.replace(position, bytes.size(), bytes);
@@ -97,8 +96,7 @@ private Q_SLOTS:
 
     void damagedPixels()
     {
-        QFETCH(const QByteArray, content);
-        QFETCH(const bool, isDamaged);
+        const auto [content, isDamaged] = row<QByteArray, bool>();
         samples::store(pathOf(u"photo"_s), content);
         const auto photo = Photo::open(pathOf(u"photo"_s));
         QVERIFY2(photo, photo ? "" : qPrintable(photo.failure().text));

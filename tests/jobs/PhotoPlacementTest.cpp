@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include "PhotoPlacement.h"
+#include "Rows.h"
 #include "TestMain.h"
 
 #include <QtTest/QTest>
@@ -36,54 +37,43 @@ class PhotoPlacementTest : public QObject
 private Q_SLOTS:
     void places_data()
     {
-        QTest::addColumn<PageGeometry>("page");
-        QTest::addColumn<QSize>("photo");
-        QTest::addColumn<PlacementChoice>("choice");
-        QTest::addColumn<QRectF>("target");
-        QTest::addColumn<int>("turns");
+        const auto add = rows<PageGeometry, QSize, PlacementChoice, QRectF, int>();
 
         const PlacementChoice fit;
         const PlacementChoice fill{Scaling::Fill, 0, {0.5, 0.5}};
         const PlacementChoice actual{Scaling::ActualSize, 0, {0.5, 0.5}};
-        const auto row = [](const char *name, const PageGeometry &page, const QSize &photo,
-                            const PlacementChoice &choice, const QRectF &target, int turns) {
-            QTest::newRow(name) << page << photo << choice << target << turns;
-        };
-        row("fit: same shape", portrait, QSize(2000, 3000), fit, portrait.imageable, 0);
-        row("fit: landscape on portrait", portrait, QSize(3000, 2000), fit, portrait.imageable, 1);
-        row("fit: portrait on landscape", landscape, QSize(2000, 3000), fit, landscape.imageable, 1);
-        row("fit: square", portrait, QSize(999, 999), fit, QRectF(10, 70, 200, 200), 0);
-        row("fit: any shape on a square", square, QSize(400, 200), fit, QRectF(0, 25, 100, 50), 0);
-        row("fit: panorama, enlarged", portrait, QSize(30, 10), fit, QRectF(60, 20, 100, 300), 1);
-        row("fit: turned by hand", portrait, QSize(3000, 2000), PlacementChoice{Scaling::Fit, 1, {}},
+        add("fit: same shape", portrait, QSize(2000, 3000), fit, portrait.imageable, 0);
+        add("fit: landscape on portrait", portrait, QSize(3000, 2000), fit, portrait.imageable, 1);
+        add("fit: portrait on landscape", landscape, QSize(2000, 3000), fit, landscape.imageable, 1);
+        add("fit: square", portrait, QSize(999, 999), fit, QRectF(10, 70, 200, 200), 0);
+        add("fit: any shape on a square", square, QSize(400, 200), fit, QRectF(0, 25, 100, 50), 0);
+        add("fit: panorama, enlarged", portrait, QSize(30, 10), fit, QRectF(60, 20, 100, 300), 1);
+        add("fit: turned by hand", portrait, QSize(3000, 2000), PlacementChoice{Scaling::Fit, 1, {}},
             QRectF(10, 103.3333333, 200, 133.3333333), 2);
-        row("fit: turned back by hand", portrait, QSize(3000, 2000), PlacementChoice{Scaling::Fit, 3, {}},
+        add("fit: turned back by hand", portrait, QSize(3000, 2000), PlacementChoice{Scaling::Fit, 3, {}},
             QRectF(10, 103.3333333, 200, 133.3333333), 0);
-        row("fit: never beyond the sheet", overprinted, QSize(200, 300), fit, QRectF(0, 0, 200, 300), 0);
-        row("fill: the middle", portrait, QSize(300, 300), fill, QRectF(-40, 20, 300, 300), 0);
-        row("fill: the left", portrait, QSize(300, 300), PlacementChoice{Scaling::Fill, 0, {0, 0.5}},
+        add("fit: never beyond the sheet", overprinted, QSize(200, 300), fit, QRectF(0, 0, 200, 300), 0);
+        add("fill: the middle", portrait, QSize(300, 300), fill, QRectF(-40, 20, 300, 300), 0);
+        add("fill: the left", portrait, QSize(300, 300), PlacementChoice{Scaling::Fill, 0, {0, 0.5}},
             QRectF(10, 20, 300, 300), 0);
-        row("fill: the bottom, which is on the left when turned", portrait, QSize(400, 200),
+        add("fill: the bottom, which is on the left when turned", portrait, QSize(400, 200),
             PlacementChoice{Scaling::Fill, 0, {0.5, 1}}, QRectF(10, -30, 200, 400), 1);
-        row("fill: the right, which is the bottom when turned", portrait, QSize(400, 200),
+        add("fill: the right, which is the bottom when turned", portrait, QSize(400, 200),
             PlacementChoice{Scaling::Fill, 0, {1, 0.5}}, QRectF(10, -80, 200, 400), 1);
-        row("fill: turned by hand, kept to the left", square, QSize(200, 100),
+        add("fill: turned by hand, kept to the left", square, QSize(200, 100),
             PlacementChoice{Scaling::Fill, 2, {0, 0.5}}, QRectF(-100, 0, 200, 100), 2);
-        row("fill: beyond the sheet's edges", overprinted, QSize(220, 320), fill, overprinted.imageable, 0);
-        row("actual: smaller than the page", portrait, QSize(300, 300), actual, QRectF(38, 98, 144, 144), 0);
-        row("actual: fits either way", portrait, QSize(300, 150), actual, QRectF(38, 134, 144, 72), 0);
-        row("actual: cut less when turned", portrait, QSize(600, 300), actual, QRectF(38, 26, 144, 288), 1);
-        row("actual: cut", square, QSize(300, 150), PlacementChoice{Scaling::ActualSize, 0, {1, 0}},
+        add("fill: beyond the sheet's edges", overprinted, QSize(220, 320), fill, overprinted.imageable, 0);
+        add("actual: smaller than the page", portrait, QSize(300, 300), actual, QRectF(38, 98, 144, 144), 0);
+        add("actual: fits either way", portrait, QSize(300, 150), actual, QRectF(38, 134, 144, 72), 0);
+        add("actual: cut less when turned", portrait, QSize(600, 300), actual, QRectF(38, 26, 144, 288), 1);
+        add("actual: cut", square, QSize(300, 150), PlacementChoice{Scaling::ActualSize, 0, {1, 0}},
             QRectF(-44, 0, 144, 72), 0);
     }
 
     void places()
     {
-        QFETCH(const PageGeometry, page);
-        QFETCH(const QSize, photo);
-        QFETCH(const PlacementChoice, choice);
-        QFETCH(const QRectF, target);
-        QFETCH(const int, turns);
+        const auto [page, photo, choice, target, turns] =
+            row<PageGeometry, QSize, PlacementChoice, QRectF, int>();
         const auto placement = PhotoPlacement::place(photo, 150, page, choice);
         QVERIFY2(isNear(placement.target, target),
                  std::unique_ptr<char[]>(QTest::toString(placement.target)).get());
@@ -96,30 +86,21 @@ private Q_SLOTS:
 
     void movesAsFarAsItGoes_data()
     {
-        QTest::addColumn<Scaling>("scaling");
-        QTest::addColumn<int>("turns");
-        QTest::addColumn<QPointF>("distance");
-        QTest::addColumn<QPointF>("moved");
+        const auto add = rows<Scaling, int, QPointF, QPointF>();
 
         // 400 x 200 on 200 x 300: turned by the page, 400 of 300 points high when it fills the area.
-        QTest::newRow("fit stays") << Scaling::Fit << 0 << QPointF(9, 9) << QPointF(0, 0);
-        QTest::newRow("fill moves along the page") << Scaling::Fill << 0 << QPointF(9, 20) << QPointF(0, 20);
-        QTest::newRow("fill, upside down") << Scaling::Fill << 2 << QPointF(9, -20) << QPointF(0, -20);
-        QTest::newRow("fill, across") << Scaling::Fill << 1 << QPointF(-30, 5) << QPointF(-30, 0);
-        QTest::newRow("no further than the photo's edge")
-            << Scaling::Fill << 0 << QPointF(0, 900) << QPointF(0, 50);
-        QTest::newRow("actual size, within the page")
-            << Scaling::ActualSize << 0 << QPointF(-9, 10) << QPointF(-4, 10);
-        QTest::newRow("actual size, to the page's edge")
-            << Scaling::ActualSize << 3 << QPointF(-900, 900) << QPointF(-52, 54);
+        add("fit stays", Scaling::Fit, 0, QPointF(9, 9), QPointF(0, 0));
+        add("fill moves along the page", Scaling::Fill, 0, QPointF(9, 20), QPointF(0, 20));
+        add("fill, upside down", Scaling::Fill, 2, QPointF(9, -20), QPointF(0, -20));
+        add("fill, across", Scaling::Fill, 1, QPointF(-30, 5), QPointF(-30, 0));
+        add("no further than the photo's edge", Scaling::Fill, 0, QPointF(0, 900), QPointF(0, 50));
+        add("actual size, within the page", Scaling::ActualSize, 0, QPointF(-9, 10), QPointF(-4, 10));
+        add("actual size, to the page's edge", Scaling::ActualSize, 3, QPointF(-900, 900), QPointF(-52, 54));
     }
 
     void movesAsFarAsItGoes()
     {
-        QFETCH(const Scaling, scaling);
-        QFETCH(const int, turns);
-        QFETCH(const QPointF, distance);
-        QFETCH(const QPointF, moved);
+        const auto [scaling, turns, distance, moved] = row<Scaling, int, QPointF, QPointF>();
         const QSize photo(400, 200);
         const PlacementChoice before{scaling, turns, {0.5, 0.5}};
         const auto from = PhotoPlacement::place(photo, 150, portrait, before);

@@ -6,6 +6,7 @@
 #include "PdfWriter.h"
 #include "PhotoFormat.h"
 #include "QuietDecoding.h"
+#include "Rows.h"
 #include "SamplePhotos.h"
 #include "TestMain.h"
 
@@ -39,13 +40,7 @@ private:
 private Q_SLOTS:
     void faults_data()
     {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QByteArray>("content");
-        QTest::addColumn<PhotoFault>("fault");
-        const auto row = [](const char *test, const QString &name, PhotoFault fault,
-                            const QByteArray &content = {}) {
-            QTest::newRow(test) << name << content << fault;
-        };
+        const auto add = rows<QString, PhotoFault, QByteArray>();
         const QImage picture = samples::quarters(QSize(120, 80));
         const QByteArray jpeg = samples::encoded(picture, "jpeg");
         const QByteArray progressive = samples::encoded(picture, "jpeg", true);
@@ -57,50 +52,48 @@ private Q_SLOTS:
         QByteArray commented = progressive; // a comment between scans that holds an end marker
         commented.insert(commented.lastIndexOf("\xff\xda"), QByteArray("\xff\xfe\0\x04\xff\xd9", 6));
 
-        row("missing", u"missing.jpg"_s, PhotoFault::NotFound);
-        row("below a file", u"text.jpg/photo.jpg"_s, PhotoFault::NotFound);
-        row("folder", u"folder.jpg"_s, PhotoFault::NotReadable);
-        row("pipe that nobody writes to", u"pipe.jpg"_s, PhotoFault::NotReadable);
-        row("device", u"/dev/zero"_s, PhotoFault::NotReadable);
-        row("no permission", u"locked.jpg"_s, PhotoFault::NotReadable);
-        row("empty", u"empty.jpg"_s, PhotoFault::Empty);
-        row("too many bytes", u"long.jpg"_s, PhotoFault::TooLarge);
-        row("JPEG of too many pixels", u"p"_s, PhotoFault::TooLarge,
+        add("missing", u"missing.jpg"_s, PhotoFault::NotFound, {});
+        add("below a file", u"text.jpg/photo.jpg"_s, PhotoFault::NotFound, {});
+        add("folder", u"folder.jpg"_s, PhotoFault::NotReadable, {});
+        add("pipe that nobody writes to", u"pipe.jpg"_s, PhotoFault::NotReadable, {});
+        add("device", u"/dev/zero"_s, PhotoFault::NotReadable, {});
+        add("no permission", u"locked.jpg"_s, PhotoFault::NotReadable, {});
+        add("empty", u"empty.jpg"_s, PhotoFault::Empty, {});
+        add("too many bytes", u"long.jpg"_s, PhotoFault::TooLarge, {});
+        add("JPEG of too many pixels", u"p"_s, PhotoFault::TooLarge,
             withBytes(jpeg, frame + 5, "\xea\x60\xea\x60"));
-        row("PNG too wide", u"p"_s, PhotoFault::TooLarge,
+        add("PNG too wide", u"p"_s, PhotoFault::TooLarge,
             samples::encoded(QImage(40000, 1, QImage::Format_ARGB32), "png"));
-        row("interlaced PNG of too many pixels", u"p"_s, PhotoFault::TooLarge,
+        add("interlaced PNG of too many pixels", u"p"_s, PhotoFault::TooLarge,
             samples::pngOf(samples::pngHeader(QSize(12000, 12000), 6, true), ""));
-        row("text named .jpg", u"text.jpg"_s, PhotoFault::UnknownType, "Dear all,");
-        row("drawing", u"d.svg"_s, PhotoFault::UnknownType, "<?xml version='1.0'?><svg/>");
-        row("JPEG without its last half", u"p"_s, PhotoFault::Truncated, jpeg.first(jpeg.size() / 2));
-        row("JPEG without its last byte", u"p"_s, PhotoFault::Truncated, jpeg.chopped(1));
-        row("JPEG half copied, the rest zeros", u"p"_s, PhotoFault::Truncated,
+        add("text named .jpg", u"text.jpg"_s, PhotoFault::UnknownType, "Dear all,");
+        add("drawing", u"d.svg"_s, PhotoFault::UnknownType, "<?xml version='1.0'?><svg/>");
+        add("JPEG without its last half", u"p"_s, PhotoFault::Truncated, jpeg.first(jpeg.size() / 2));
+        add("JPEG without its last byte", u"p"_s, PhotoFault::Truncated, jpeg.chopped(1));
+        add("JPEG half copied, the rest zeros", u"p"_s, PhotoFault::Truncated,
             jpeg.first(jpeg.size() / 2) + QByteArray(jpeg.size(), '\0'));
-        row("progressive JPEG without its last scans", u"p"_s, PhotoFault::Truncated,
+        add("progressive JPEG without its last scans", u"p"_s, PhotoFault::Truncated,
             progressive.first(progressive.size() * 3 / 4));
-        row("JPEG cut in its headers", u"p"_s, PhotoFault::Truncated, jpeg.first(100));
-        row("JPEG with an end marker in a comment", u"p"_s, PhotoFault::Truncated, commented.chopped(1));
-        row("BMP without its last row", u"p"_s, PhotoFault::Truncated,
+        add("JPEG cut in its headers", u"p"_s, PhotoFault::Truncated, jpeg.first(100));
+        add("JPEG with an end marker in a comment", u"p"_s, PhotoFault::Truncated, commented.chopped(1));
+        add("BMP without its last row", u"p"_s, PhotoFault::Truncated,
             samples::encoded(picture, "bmp").chopped(360));
-        row("GIF without its trailer", u"p"_s, PhotoFault::Truncated,
+        add("GIF without its trailer", u"p"_s, PhotoFault::Truncated,
             QByteArray("GIF89a\1\0\1\0\x80\0\0\0\0\0\xff\xff\xff,\0\0\0\0\1\0\1\0\0\2\2D\1\0", 34));
-        row("GIF with a canvas far larger than its frame", u"p"_s, PhotoFault::Broken,
+        add("GIF with a canvas far larger than its frame", u"p"_s, PhotoFault::Broken,
             QByteArray("GIF89a\2&\2\0\x80\0\0\0\0\0\xff\xff\xff,\0\0\0\0\2\0\2\0\0\2\3D\2\5\0;", 36));
-        row("PNG without its end", u"p"_s, PhotoFault::Truncated, png.chopped(12));
-        row("JPEG without a picture", u"p"_s, PhotoFault::Broken, jpeg.first(20) + "\xff\xd9");
-        row("JPEG of 12 bits", u"p"_s, PhotoFault::UnknownType, withBytes(jpeg, frame + 4, "\x0c"));
-        row("lossless JPEG", u"p"_s, PhotoFault::UnknownType, withBytes(jpeg, frame + 1, "\xc3"));
+        add("PNG without its end", u"p"_s, PhotoFault::Truncated, png.chopped(12));
+        add("JPEG without a picture", u"p"_s, PhotoFault::Broken, jpeg.first(20) + "\xff\xd9");
+        add("JPEG of 12 bits", u"p"_s, PhotoFault::UnknownType, withBytes(jpeg, frame + 4, "\x0c"));
+        add("lossless JPEG", u"p"_s, PhotoFault::UnknownType, withBytes(jpeg, frame + 1, "\xc3"));
         const qsizetype header = png.indexOf("IHDR") + 6;
-        row("PNG with a changed header", u"p"_s, PhotoFault::Broken,
+        add("PNG with a changed header", u"p"_s, PhotoFault::Broken,
             withBytes(png, header, QByteArray(1, char(png[header] ^ 1))));
     }
 
     void faults()
     {
-        QFETCH(const QString, name);
-        QFETCH(const QByteArray, content);
-        QFETCH(const PhotoFault, fault);
+        const auto [name, fault, content] = row<QString, PhotoFault, QByteArray>();
         const QString path = pathOf(name);
         if (name == u"folder.jpg")
             QVERIFY(QDir().mkdir(path));
@@ -201,8 +194,7 @@ private Q_SLOTS:
 
     void wholeJpegs_data()
     {
-        QTest::addColumn<QByteArray>("content");
-        QTest::addColumn<bool>("isEmbeddable");
+        const auto add = rows<QByteArray, bool>();
 
         const QImage picture = samples::quarters(QSize(120, 80));
         const QByteArray jpeg = samples::encoded(picture, "jpeg");
@@ -215,23 +207,20 @@ private Q_SLOTS:
         rgb[frame + 13] = 'G';
         rgb[frame + 16] = 'B';
 
-        QTest::newRow("baseline") << jpeg << true;
-        QTest::newRow("progressive") << progressive << true;
-        QTest::newRow("grey") << samples::encoded(picture.convertToFormat(QImage::Format_Grayscale8), "jpeg")
-                              << true;
-        QTest::newRow("with a film behind the picture")
-            << jpeg + QByteArray("\0\0\0\x18", 4) + "ftypmp42" << true;
-        QTest::newRow("progressive, with zeros behind it") << progressive + QByteArray(5000, '\0') << true;
-        QTest::newRow("padding before a segment") << jpeg.first(2) + "\xff\xff" + jpeg.sliced(2) << false;
-        QTest::newRow("arithmetic coding") << arithmetic << false;
-        QTest::newRow("RGB by its components' names alone") << rgb << false;
-        QTest::newRow("CMYK") << samples::redCmykJpeg() << true;
+        add("baseline", jpeg, true);
+        add("progressive", progressive, true);
+        add("grey", samples::encoded(picture.convertToFormat(QImage::Format_Grayscale8), "jpeg"), true);
+        add("with a film behind the picture", jpeg + QByteArray("\0\0\0\x18", 4) + "ftypmp42", true);
+        add("progressive, with zeros behind it", progressive + QByteArray(5000, '\0'), true);
+        add("padding before a segment", jpeg.first(2) + "\xff\xff" + jpeg.sliced(2), false);
+        add("arithmetic coding", arithmetic, false);
+        add("RGB by its components' names alone", rgb, false);
+        add("CMYK", samples::redCmykJpeg(), true);
     }
 
     void wholeJpegs()
     {
-        QFETCH(const QByteArray, content);
-        QFETCH(const bool, isEmbeddable);
+        const auto [content, isEmbeddable] = row<QByteArray, bool>();
         samples::store(pathOf(u"photo"_s), content);
         const auto photo = Photo::open(pathOf(u"photo"_s));
         QVERIFY2(photo, photo ? "" : qPrintable(photo.failure().text));
@@ -312,9 +301,7 @@ private Q_SLOTS:
 
     void resolutions_data()
     {
-        QTest::addColumn<QByteArray>("content");
-        QTest::addColumn<double>("resolution"); // 0: none
-
+        const auto add = rows<QByteArray, double>(); // 0: no resolution
         QImage picture = samples::quarters(QSize(60, 40));
         picture.setDotsPerMeterX(7874); // 200 per inch
         picture.setDotsPerMeterY(7874);
@@ -326,21 +313,19 @@ private Q_SLOTS:
             content[content.indexOf("JFIF") + at] = value;
             return content;
         };
-        QTest::newRow("JFIF") << jpeg << 200.0;
-        QTest::newRow("JFIF, per centimetre") << jfif(jpeg, 7, 2) << 508.0;
-        QTest::newRow("JFIF of a ratio only") << jfif(jpeg, 7, 0) << 0.0;
-        QTest::newRow("two directions that differ") << jfif(jpeg, 11, 100) << 0.0;
-        QTest::newRow("Exif before JFIF") << exif(250) << 250.0;
-        QTest::newRow("no number") << exif(0) << 200.0;
-        QTest::newRow("a camera that says twice that it does not know")
-            << jfif(jfif(exif(72), 9, 72), 11, 72) << 0.0;
-        QTest::newRow("PNG") << samples::encoded(picture, "png") << 200.0;
+        add("JFIF", jpeg, 200.0);
+        add("JFIF, per centimetre", jfif(jpeg, 7, 2), 508.0);
+        add("JFIF of a ratio only", jfif(jpeg, 7, 0), 0.0);
+        add("two directions that differ", jfif(jpeg, 11, 100), 0.0);
+        add("Exif before JFIF", exif(250), 250.0);
+        add("no number", exif(0), 200.0);
+        add("a camera that says twice that it does not know", jfif(jfif(exif(72), 9, 72), 11, 72), 0.0);
+        add("PNG", samples::encoded(picture, "png"), 200.0);
     }
 
     void resolutions()
     {
-        QFETCH(const QByteArray, content);
-        QFETCH(const double, resolution);
+        const auto [content, resolution] = row<QByteArray, double>();
         samples::store(pathOf(u"photo"_s), content);
         const auto photo = Photo::open(pathOf(u"photo"_s));
         QVERIFY(photo);
@@ -351,23 +336,21 @@ private Q_SLOTS:
     /// What cannot be read is called by its name, with what would help.
     void unreadableFormats_data()
     {
-        QTest::addColumn<QByteArray>("content");
-        QTest::addColumn<QString>("named");
+        const auto add = rows<QByteArray, QString>();
         const QByteArray raw("II*\0\x10\0\0\0CR\2\0", 12);
         const QByteArray boxes = QByteArray("\0\0\0\x18", 4) + "ftypcrx ";
         const QByteArray webp("RIFF\0\0\0\0WEBP", 12);
-        QTest::newRow("raw by its letters") << raw << u"camera raw"_s;
-        QTest::newRow("raw in boxes") << boxes << u"camera raw"_s;
-        QTest::newRow("JPEG XL") << QByteArray("\xff\x0a") << u"JPEG XL"_s;
-        QTest::newRow("PDF") << QByteArray("%PDF-1.7") << u"PDF"_s;
+        add("raw by its letters", raw, u"camera raw"_s);
+        add("raw in boxes", boxes, u"camera raw"_s);
+        add("JPEG XL", QByteArray("\xff\x0a"), u"JPEG XL"_s);
+        add("PDF", QByteArray("%PDF-1.7"), u"PDF"_s);
         if (!PhotoFormat::of(webp).isReadable())
-            QTest::newRow("WebP") << webp << u"qt6-image-formats-plugins"_s;
+            add("WebP", webp, u"qt6-image-formats-plugins"_s);
     }
 
     void unreadableFormats()
     {
-        QFETCH(const QByteArray, content);
-        QFETCH(const QString, named);
+        const auto [content, named] = row<QByteArray, QString>();
         samples::store(pathOf(u"photo"_s), content + QByteArray(64, '\0'));
         const auto photo = Photo::open(pathOf(u"photo"_s));
         QVERIFY(!photo);

@@ -3,6 +3,7 @@
 
 #include "PpdDocument.h"
 #include "PpdCheck.h"
+#include "Rows.h"
 #include "SmallPpd.h"
 #include "TestMain.h"
 
@@ -70,27 +71,22 @@ class PpdDocumentTest : public QObject
 private Q_SLOTS:
     void refusesFiles_data()
     {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<PpdFault>("fault");
-        QTest::addColumn<QString>("reason");
-        const auto row = [](const char *test, const QString &name, PpdFault fault, const QString &reason) {
-            QTest::newRow(test) << name << fault << reason;
-        };
-        row("missing", u"none.ppd"_s, PpdFault::NotFound, u"There is no"_s);
-        row("below a file", u"empty.ppd/x"_s, PpdFault::NotFound, u"There is no"_s);
-        row("directory", u"folder"_s, PpdFault::NotReadable, u"is a directory"_s);
-        row("pipe that nobody writes to", u"pipe"_s, PpdFault::NotReadable, u"device or a pipe"_s);
-        row("device", u"../../dev/zero"_s, PpdFault::NotReadable, u"device or a pipe"_s);
-        row("empty", u"empty.ppd"_s, PpdFault::Empty, u"is empty"_s);
-        row("sparse, huge", u"huge.ppd"_s, PpdFault::TooLarge, u"larger than 32 MiB"_s);
-        row("expands too far", u"bomb.ppd.gz"_s, PpdFault::TooLarge, u"larger than 32 MiB"_s);
-        row("compressed, cut off", u"cut.ppd.gz"_s, PpdFault::CutOff, u"its end is missing"_s);
-        row("compressed, damaged", u"bad.ppd.gz"_s, PpdFault::CutOff, u"it is damaged"_s);
+        const auto add = rows<QString, PpdFault, QString>();
+        add("missing", u"none.ppd"_s, PpdFault::NotFound, u"There is no"_s);
+        add("below a file", u"empty.ppd/x"_s, PpdFault::NotFound, u"There is no"_s);
+        add("directory", u"folder"_s, PpdFault::NotReadable, u"is a directory"_s);
+        add("pipe that nobody writes to", u"pipe"_s, PpdFault::NotReadable, u"device or a pipe"_s);
+        add("device", u"../../dev/zero"_s, PpdFault::NotReadable, u"device or a pipe"_s);
+        add("empty", u"empty.ppd"_s, PpdFault::Empty, u"is empty"_s);
+        add("sparse, huge", u"huge.ppd"_s, PpdFault::TooLarge, u"larger than 32 MiB"_s);
+        add("expands too far", u"bomb.ppd.gz"_s, PpdFault::TooLarge, u"larger than 32 MiB"_s);
+        add("compressed, cut off", u"cut.ppd.gz"_s, PpdFault::CutOff, u"its end is missing"_s);
+        add("compressed, damaged", u"bad.ppd.gz"_s, PpdFault::CutOff, u"it is damaged"_s);
     }
 
     void refusesFiles()
     {
-        QFETCH(QString, name);
+        const auto [name, fault, reason] = row<QString, PpdFault, QString>();
         const QTemporaryDir folder(u"/tmp/ppdXXXXXX"_s);
         const auto path = [&](const QString &file) {
             return folder.filePath(file);
@@ -107,8 +103,7 @@ private Q_SLOTS:
             store(path(u"bad.ppd.gz"_s), QByteArray(compressed).replace(compressed.size() / 2, 4, "oops")));
         const auto document = PpdDocument::openFile(path(name));
         QVERIFY(!document);
-        QTEST(document.failure().reason, "fault");
-        QFETCH(QString, reason);
+        QCOMPARE(document.failure().reason, fault);
         QVERIFY2(document.failure().text.contains(reason), qPrintable(document.failure().text));
         QVERIFY2(document.failure().text.contains(name), qPrintable(document.failure().text));
     }
@@ -129,108 +124,98 @@ private Q_SLOTS:
 
     void refusesData_data()
     {
-        QTest::addColumn<QByteArray>("data");
-        QTest::addColumn<PpdFault>("fault");
-        QTest::addColumn<QString>("reason");
-        const auto row = [](const char *name, const QByteArray &data, PpdFault fault, const QString &reason) {
-            QTest::newRow(name) << data << fault << reason;
-        };
+        const auto add = rows<QByteArray, PpdFault, QString>();
         QByteArray options;
         for (int i = 0; i < 100'000; ++i)
             options += option("O" + QByteArray::number(i), {"a"});
         const QByteArray manyChoices = option("Big", numbered(0, 200'000));
         const QByteArray big = option("Big", numbered(0, 100'000, "c"));
-        row("other text", "Hello\n", PpdFault::NotAPpd, u"is not a PPD"_s);
-        row("NUL", minimal() + QByteArray("\0\n", 2), PpdFault::NotAPpd, u"is not a PPD"_s);
-        row("control bytes", minimal() + QByteArray(200, '\x02') + "\n", PpdFault::NotAPpd,
+        add("other text", "Hello\n", PpdFault::NotAPpd, u"is not a PPD"_s);
+        add("NUL", minimal() + QByteArray("\0\n", 2), PpdFault::NotAPpd, u"is not a PPD"_s);
+        add("control bytes", minimal() + QByteArray(200, '\x02') + "\n", PpdFault::NotAPpd,
             u"is not a PPD"_s);
-        row("cut in a quote", minimal() + "*Foo: \"abc\n", PpdFault::CutOff, u"line 16"_s);
-        row("cut in an option", minimal() + "*OpenUI *Red/R: PickOne\n*Red 1: 0", PpdFault::CutOff,
+        add("cut in a quote", minimal() + "*Foo: \"abc\n", PpdFault::CutOff, u"line 16"_s);
+        add("cut in an option", minimal() + "*OpenUI *Red/R: PickOne\n*Red 1: 0", PpdFault::CutOff,
             u"line 17"_s);
-        row("cut in a group", minimal() + "*OpenGroup: G/g\n*Foo: ab", PpdFault::CutOff, u"line 17"_s);
-        row("100,000 options", minimal() + options, PpdFault::TooManyOptions, u"2000 options"_s);
-        row("200,001 choices", minimal() + manyChoices, PpdFault::TooManyChoices, u"200000 choices"_s);
-        row("5,000 page sizes", header + option("PageSize", numbered(1, 5'000, "s")),
+        add("cut in a group", minimal() + "*OpenGroup: G/g\n*Foo: ab", PpdFault::CutOff, u"line 17"_s);
+        add("100,000 options", minimal() + options, PpdFault::TooManyOptions, u"2000 options"_s);
+        add("200,001 choices", minimal() + manyChoices, PpdFault::TooManyChoices, u"200000 choices"_s);
+        add("5,000 page sizes", header + option("PageSize", numbered(1, 5'000, "s")),
             PpdFault::TooManyChoices, u"page sizes"_s);
-        row("20,001 constraints", minimal() + QByteArray("*UIConstraints: *A b *C d\n").repeated(20'001),
+        add("20,001 constraints", minimal() + QByteArray("*UIConstraints: *A b *C d\n").repeated(20'001),
             PpdFault::TooManyConstraints, u"20000 constraints"_s);
-        row("costly constraints",
+        add("costly constraints",
             minimal() + big + QByteArray("*UIConstraints: *Big c1 *A b\n").repeated(600),
             PpdFault::TooManyConstraints, u"too many choices"_s);
-        row("many other entries", minimal() + QByteArray("*A: \"\"\n").repeated(100'001), PpdFault::Malformed,
+        add("many other entries", minimal() + QByteArray("*A: \"\"\n").repeated(100'001), PpdFault::Malformed,
             u"100000 entries"_s);
-        row("UTF-8 option keyword", minimal() + option("R\xc3\xb6t", {"1"}), PpdFault::BadKeyword,
+        add("UTF-8 option keyword", minimal() + option("R\xc3\xb6t", {"1"}), PpdFault::BadKeyword,
             u"line 16"_s);
-        row("long option keyword", minimal() + option(QByteArray(41, 'k'), {"1"}), PpdFault::BadKeyword,
+        add("long option keyword", minimal() + option(QByteArray(41, 'k'), {"1"}), PpdFault::BadKeyword,
             u"40"_s);
-        row("option without keyword", minimal() + "*OpenUI: PickOne\n", PpdFault::BadKeyword,
+        add("option without keyword", minimal() + "*OpenUI: PickOne\n", PpdFault::BadKeyword,
             u"no keyword"_s);
-        row("long line", minimal() + "*Foo: " + QByteArray(5'000, 'x') + "\n", PpdFault::Malformed,
+        add("long line", minimal() + "*Foo: " + QByteArray(5'000, 'x') + "\n", PpdFault::Malformed,
             u"4096"_s);
-        row("long value", minimal() + "*Foo: \"" + QByteArray("abc\n").repeated(70'000) + "\"\n",
+        add("long value", minimal() + "*Foo: \"" + QByteArray("abc\n").repeated(70'000) + "\"\n",
             PpdFault::Malformed, u"250000"_s);
-        row("told by libcups", minimal() + "*Foo \xff: \"a\nb\"\n*End\nnot an entry\n", PpdFault::Malformed,
+        add("told by libcups", minimal() + "*Foo \xff: \"a\nb\"\n*End\nnot an entry\n", PpdFault::Malformed,
             u"line 19: Missing asterisk"_s);
-        row("no page size", header + option("Red", {"1"}), PpdFault::NoPageSize, u"no page size"_s);
-        row("page size without dimensions", header + option("PageSize", {"A4"}), PpdFault::NoPageSize,
+        add("no page size", header + option("Red", {"1"}), PpdFault::NoPageSize, u"no page size"_s);
+        add("page size without dimensions", header + option("PageSize", {"A4"}), PpdFault::NoPageSize,
             u"no page size"_s);
         for (const char *size : {"1e30 200", "100 nan", "-100 200", "0 200"})
-            row(qPrintable(u"page size "_s + QLatin1String(size)),
+            add(qPrintable(u"page size "_s + QLatin1String(size)),
                 header + option("PageSize", {"A4"}) + "*PaperDimension A4: \"" + size + "\"\n",
                 PpdFault::NoPageSize, u"no page size"_s);
     }
 
     void refusesData()
     {
-        QFETCH(QByteArray, data);
-        QFETCH(QString, reason);
+        const auto [data, fault, reason] = row<QByteArray, PpdFault, QString>();
         const auto document = trusted(data, u"my\u202equ\u001beue"_s);
         QVERIFY(!document);
-        QTEST(document.failure().reason, "fault");
+        QCOMPARE(document.failure().reason, fault);
         const QString text = document.failure().text;
         QVERIFY2(text.contains(reason) && text.contains(u"\"myqueue\""_s), qPrintable(text));
     }
 
     void keepsOddPpds_data()
     {
-        QTest::addColumn<QByteArray>("data");
-        QTest::addColumn<QString>("note");
+        const auto add = rows<QByteArray, QString>();
         const QByteArray odd = minimal() + option("Red", {"1", "2(b)/Two (b)"});
-        const auto row = [](const char *test, const QByteArray &data, const QString &note = {}) {
-            QTest::newRow(test) << data << note;
-        };
         const auto with = [&odd](const QByteArray &before, const QByteArray &after) {
             return QByteArray(odd).replace(before, after);
         };
-        row("LF, parentheses", odd);
-        row("quote in a comment", odd + "*% a: \"\n");
-        row("quote before the colon", odd + "*Foo \"a\n");
-        row("CR", with("\n", "\r"));
-        row("CRLF, Ctrl-Z", with("\n", "\r\n") + "\x1a");
-        row("no end of the last line", odd.chopped(1));
-        row("no end of a last line that is left out", odd + "*ImageableArea \xff: \"0 0 1 1\"",
+        add("LF, parentheses", odd, {});
+        add("quote in a comment", odd + "*% a: \"\n", {});
+        add("quote before the colon", odd + "*Foo \"a\n", {});
+        add("CR", with("\n", "\r"), {});
+        add("CRLF, Ctrl-Z", with("\n", "\r\n") + "\x1a", {});
+        add("no end of the last line", odd.chopped(1), {});
+        add("no end of a last line that is left out", odd + "*ImageableArea \xff: \"0 0 1 1\"",
             u"ImageableArea"_s);
-        row("option and group that never close",
+        add("option and group that never close",
             with("*OpenUI *Red", "*OpenGroup: G/g\n*OpenUI *Red").replace("*CloseUI: *Red\n", {}),
             u"The option \"Red\" opened in line 17 never closes.\nThe group opened in line 16 never closes."_s);
-        row("bad choice", with("*Red 1:", "*Red \xc3\xa9:\x20\"a\nb\"\n*End\n*Red 1:"),
+        add("bad choice", with("*Red 1:", "*Red \xc3\xa9:\x20\"a\nb\"\n*End\n*Red 1:"),
             u"Line 18: the choice \"é\" of the option \"Red\" is left out"_s);
-        row("long choice", with("*Red 1:", "*Red " + QByteArray(41, 'a') + ": \"\"\n*Red 1:"),
+        add("long choice", with("*Red 1:", "*Red " + QByteArray(41, 'a') + ": \"\"\n*Red 1:"),
             u"longer than 40 characters"_s);
-        row("long lines",
+        add("long lines",
             odd + "*%" + QByteArray(300, 'x') + "\n*Foo: \"\n" + QByteArray(9'000, 'x') + "\"\n*End\n",
             u"\"Foo\""_s);
-        row("many languages", odd + QByteArray("*de.Foo a/b: \"\"\n*fr.Foo a/b: \"\"\n").repeated(60'000));
-        row("bad entry", odd + "*ImageableArea \xff: \"0 0 1 1\"\n", u"ImageableArea"_s);
-        row("repeated choice", with("*CloseUI: *Red", "*Red 1: \"\"\n*CloseUI: *Red"), u"repeats 1"_s);
-        row("option without choices", odd + "*OpenUI *Nil: PickOne\n*CloseUI: *Nil\n", u"\"Nil\""_s);
-        row("many bad entries", odd + QByteArray("*Foo \xff: \"\"\n").repeated(1'000), u"left out: 950"_s);
+        add("many languages", odd + QByteArray("*de.Foo a/b: \"\"\n*fr.Foo a/b: \"\"\n").repeated(60'000),
+            {});
+        add("bad entry", odd + "*ImageableArea \xff: \"0 0 1 1\"\n", u"ImageableArea"_s);
+        add("repeated choice", with("*CloseUI: *Red", "*Red 1: \"\"\n*CloseUI: *Red"), u"repeats 1"_s);
+        add("option without choices", odd + "*OpenUI *Nil: PickOne\n*CloseUI: *Nil\n", u"\"Nil\""_s);
+        add("many bad entries", odd + QByteArray("*Foo \xff: \"\"\n").repeated(1'000), u"left out: 950"_s);
     }
 
     void keepsOddPpds()
     {
-        QFETCH(QByteArray, data);
-        QFETCH(QString, note);
+        const auto [data, note] = row<QByteArray, QString>();
         const PpdDocument document = opened(data);
         QCOMPARE(document.data(), data);
         QCOMPARE(document.options(), QStringList({u"PageSize"_s, u"Red"_s}));
@@ -244,40 +229,32 @@ private Q_SLOTS:
     // What a program that tries out a PPD may come to.
     void triesOutPpds_data()
     {
-        QTest::addColumn<QByteArray>("script"); // empty: the real one
-        QTest::addColumn<QByteArray>("data");
-        QTest::addColumn<std::optional<PpdFault>>("fault");
-        QTest::addColumn<QString>("reason");
-        const auto row = [](const char *name, const QByteArray &script, const QByteArray &data,
-                            const std::optional<PpdFault> &fault, const QString &reason) {
-            QTest::newRow(name) << script << data << fault << reason;
-        };
+        // No script: the real one.
+        const auto add = rows<QByteArray, QByteArray, std::optional<PpdFault>, QString>();
         const QByteArray good = minimal() + option("Red", {"1", "2"});
-        row("good", {}, good, std::nullopt, {});
-        row("in another alphabet", {}, QByteArray(good).replace("ISOLatin1", "ISOLatin2"), std::nullopt, {});
-        row("left to the parser", {}, good + "*UIConstraints: *Red\n", std::nullopt, {});
-        row("not even inspected", {}, "%!PS", PpdFault::NotAPpd, u"queue"_s);
-        row("crashes", "kill -SEGV $$", good, PpdFault::Harmful, u"crashes over it"_s);
-        row("aborts", "kill -ABRT $$", good, PpdFault::Harmful, u"crashes over it"_s);
-        row("takes too much time", "ulimit -S -t 1; while :; do :; done", good, PpdFault::Harmful,
+        add("good", {}, good, std::nullopt, {});
+        add("in another alphabet", {}, QByteArray(good).replace("ISOLatin1", "ISOLatin2"), std::nullopt, {});
+        add("left to the parser", {}, good + "*UIConstraints: *Red\n", std::nullopt, {});
+        add("not even inspected", {}, "%!PS", PpdFault::NotAPpd, u"queue"_s);
+        add("crashes", "kill -SEGV $$", good, PpdFault::Harmful, u"crashes over it"_s);
+        add("aborts", "kill -ABRT $$", good, PpdFault::Harmful, u"crashes over it"_s);
+        add("takes too much time", "ulimit -S -t 1; while :; do :; done", good, PpdFault::Harmful,
             u"does not come to an end"_s);
-        row("is ended by the system", "kill -KILL $$", good, PpdFault::NotTried, u"too busy"_s);
-        row("gets no time", "exec sleep 60", good, PpdFault::NotTried, u"too busy"_s);
-        row("lacks a library", "exit 127", good, PpdFault::NotTried, u"status 127"_s);
-        row("no sandbox", "exit 2", good, PpdFault::NotTried, u"no sandbox"_s);
-        row("not installed", "-", good, PpdFault::NotTried, u"Install corvel-print again"_s);
-        // It gets the PPD and nothing else that is open here. The shell itself opens some descriptors.
-        row("descriptors",
+        add("is ended by the system", "kill -KILL $$", good, PpdFault::NotTried, u"too busy"_s);
+        add("gets no time", "exec sleep 60", good, PpdFault::NotTried, u"too busy"_s);
+        add("lacks a library", "exit 127", good, PpdFault::NotTried, u"status 127"_s);
+        add("no sandbox", "exit 2", good, PpdFault::NotTried, u"no sandbox"_s);
+        add("not installed", "-", good, PpdFault::NotTried, u"Install corvel-print again"_s);
+        // It gets the PPD and nothing else that is open here. The shell has some descriptors of its own.
+        add("descriptors",
             "read line && [ \"$line\" = '*PPD-Adobe: \"4.3\"' ] && [ $(ls /proc/$$/fd | wc -l) -le 8 ]", good,
             std::nullopt, {});
     }
 
     void triesOutPpds()
     {
-        QFETCH(const QByteArray, script);
-        QFETCH(const QByteArray, data);
-        QFETCH(const std::optional<PpdFault>, fault);
-        QFETCH(const QString, reason);
+        const auto [script, data, fault, reason] =
+            row<QByteArray, QByteArray, std::optional<PpdFault>, QString>();
         const QTemporaryDir folder;
         QString program = folder.filePath(u"check"_s);
         if (script.isEmpty()) {
@@ -302,7 +279,7 @@ private Q_SLOTS:
         QVERIFY2(text.contains(reason) && text.contains(u"queue"_s), qPrintable(text));
     }
 
-    // The program's parent may have left SIGCHLD ignored.
+    // Whoever started the program may have it ignore the ends of its children.
     void triesNothingUnheard()
     {
         const auto before = std::signal(SIGCHLD, SIG_IGN);
@@ -331,6 +308,7 @@ private Q_SLOTS:
             option("Lacking", {"Nope/n", "Yes"}).replace("*Lacking Nope/n: \"\"\n", "") +
             option("Many", {"a", "b", "c"}).replace("PickOne", "PickMany") + "*CloseGroup: Photo\n");
         QCOMPARE(document.options(), QStringList({u"PageSize"_s, u"Overcoat"_s, u"Lacking"_s, u"Many"_s}));
+        QCOMPARE(document.modelName(), u"Photo 9"_s);
         QCOMPARE(document.optionText(u"Overcoat"_s), u"Lamination"_s);
         QCOMPARE(document.choice(u"Overcoat"_s, u"Glossy"_s)->text, u"Glänzend"_s);
         QCOMPARE(document.choice(u"Overcoat"_s, u"Matte"_s)->text,

@@ -8,6 +8,7 @@
 #include "PpdFetcher.h"
 #include "QueueFinder.h"
 #include "QueueList.h"
+#include "Rows.h"
 #include "StateText.h"
 #include "StubServer.h"
 #include "TestMain.h"
@@ -98,21 +99,20 @@ private Q_SLOTS:
 
     void textFromOutsideIsCleaned_data()
     {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QString>("expected");
-        QTest::newRow("plain, with accents") << u"Büro (2. OG)"_s << u"Büro (2. OG)"_s;
-        QTest::newRow("line breaks and tabs") << u"a\r\n\tb"_s << u"a  b"_s;
-        QTest::newRow("controls, C0 and C1") << u"a\u0007\u001b[1m\u0085\u009bb"_s << u"a[1mb"_s;
-        QTest::newRow("writing direction") << u"a\u202egpj.\u202c\u2066b\u200f"_s << u"agpj.b"_s;
-        QTest::newRow("too long") << QString(400, u'x') << QString(299, u'x') + QChar(0x2026);
-        QTest::newRow("too long, a pair at the cut")
-            << QString(298, u'x') + u"\U0001f5a8yy"_s << QString(298, u'x') + QChar(0x2026);
+        const auto add = rows<QString, QString>();
+        add("plain, with accents", u"Büro (2. OG)"_s, u"Büro (2. OG)"_s);
+        add("line breaks and tabs", u"a\r\n\tb"_s, u"a  b"_s);
+        add("controls, C0 and C1", u"a\u0007\u001b[1m\u0085\u009bb"_s, u"a[1mb"_s);
+        add("writing direction", u"a\u202egpj.\u202c\u2066b\u200f"_s, u"agpj.b"_s);
+        add("too long", QString(400, u'x'), QString(299, u'x') + QChar(0x2026));
+        add("too long, a pair at the cut", QString(298, u'x') + u"\U0001f5a8yy"_s,
+            QString(298, u'x') + QChar(0x2026));
     }
 
     void textFromOutsideIsCleaned()
     {
-        QFETCH(QString, text);
-        QTEST(plainText(text, shownTextLimit), "expected");
+        const auto [text, expected] = row<QString, QString>();
+        QCOMPARE(plainText(text, shownTextLimit), expected);
     }
 
     void failuresNameTheQueueAndKeepPlaceholdersApart()
@@ -148,22 +148,16 @@ private Q_SLOTS:
 
     void badServerCostsOneSentenceInTime_data()
     {
-        QTest::addColumn<StubServer::Manner>("manner");
-        QTest::addColumn<QueueFault>("fault");
-        QTest::addColumn<QString>("reason");
-        QTest::newRow("silent") << StubServer::Manner::Silent << QueueFault::TimedOut << u"0.3 s"_s;
-        QTest::newRow("one byte at a time")
-            << StubServer::Manner::Trickling << QueueFault::TimedOut << u"0.3 s"_s;
-        QTest::newRow("closes in a PPD")
-            << StubServer::Manner::BreakingOff << QueueFault::Failed << u"in the middle"_s;
-        QTest::newRow("PPD too large") << StubServer::Manner::Overflowing << QueueFault::Failed << u"8 MiB"_s;
+        const auto add = rows<StubServer::Manner, QueueFault, QString>();
+        add("silent", StubServer::Manner::Silent, QueueFault::TimedOut, u"0.3 s"_s);
+        add("one byte at a time", StubServer::Manner::Trickling, QueueFault::TimedOut, u"0.3 s"_s);
+        add("closes in a PPD", StubServer::Manner::BreakingOff, QueueFault::Failed, u"in the middle"_s);
+        add("PPD too large", StubServer::Manner::Overflowing, QueueFault::Failed, u"8 MiB"_s);
     }
 
     void badServerCostsOneSentenceInTime()
     {
-        QFETCH(StubServer::Manner, manner);
-        QFETCH(QueueFault, fault);
-        QFETCH(QString, reason);
+        const auto [manner, fault, reason] = row<StubServer::Manner, QueueFault, QString>();
         const StubServer server(manner, fault == QueueFault::TimedOut ? StubServer::Requests::All
                                                                       : StubServer::Requests::Files);
         const auto limit = fault == QueueFault::TimedOut ? 300ms : 10000ms;
@@ -198,8 +192,10 @@ private Q_SLOTS:
 
         // Given up by another thread while the server keeps it waiting.
         int cancel = 0;
-        std::thread canceller([&cancel] {
-            std::this_thread::sleep_for(100ms);
+        const int earlier = server.connections();
+        std::thread canceller([&] {
+            while (server.connections() == earlier)
+                std::this_thread::yield();
             std::atomic_ref(cancel).store(1);
         });
         timer.start();
@@ -294,7 +290,8 @@ private Q_SLOTS:
         const auto start = timeHere();
         finder.start();
         QTRY_COMPARE_WITH_TIMEOUT(found, 10000, 10000);
-        QTest::qWait(1000); // it looks again
+        const int before = server.connections();
+        QTRY_VERIFY(server.connections() > before + 4); // it has looked again
         finder.stop();
         QVERIFY(timeHere() - start < 1s);
         QCOMPARE(found, 10000);
@@ -310,7 +307,7 @@ private Q_SLOTS:
             const QSignalSpy finished(finder.get(), &QueueFinder::finished);
             finder->start();
             QVERIFY(timer.restart() < 100);
-            QTest::qWait(50); // the worker is in the middle of its wait now
+            QTRY_VERIFY(server.connections() > 0); // the worker is in the middle of its wait now
             timer.start();
             finder->stop();
             QVERIFY(timer.restart() < 100);

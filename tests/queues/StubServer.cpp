@@ -103,6 +103,7 @@ StubServer::~StubServer()
 void StubServer::serve()
 {
     for (int client = -1; (client = accept4(listener_, nullptr, nullptr, SOCK_CLOEXEC)) >= 0;) {
+        ++connections_;
         if (manner_ == Manner::Silent) {
             held_.append(client);
             continue;

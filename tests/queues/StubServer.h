@@ -47,6 +47,9 @@ public:
     ~StubServer();
     Q_DISABLE_COPY_MOVE(StubServer)
 
+    /// How many connections it has had.
+    int connections() const { return connections_; }
+
 private:
     void serve();
     void answer(int client);
@@ -61,6 +64,7 @@ private:
     QByteArray serverBefore_;
     int listener_ = -1;
     std::atomic<bool> ends_ = false;
+    std::atomic<int> connections_ = 0;
     QList<int> held_; // silent connections, closed at the end; the thread's own
     std::thread thread_;
 };

@@ -5,6 +5,7 @@
 #include "LpoptionsFile.h"
 #include "PresetName.h"
 #include "QueueSettings.h"
+#include "Rows.h"
 #include "TestMain.h"
 
 #include <QtCore/QDir>
@@ -166,29 +167,24 @@ private Q_SLOTS:
 
     void namesAreMapped_data()
     {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QString>("instance");
-        const auto row = [](const char *what, const QString &name, const QString &instance) {
-            QTest::newRow(what) << name << instance;
-        };
-        row("as it is", u"10x15+Glänzend"_s, u"10x15+Glänzend"_s);
-        row("space", u"My preset"_s, u"My%20preset"_s);
-        row("slash", u"../10/15"_s, u"..%2F10%2F15"_s);
-        row("dots", u".."_s, u".."_s);
-        row("quotes and signs", u"it's \"#1\"? \\"_s, u"it%27s%20%22%231%22%3F%20%5C"_s);
-        row("per cent", u"50% and 100%"_s, u"50%%20and%20100%"_s);
-        row("looks mapped", u"a%20b%2fc%25"_s, u"a%2520b%252fc%25"_s);
-        row("looks mapped twice", u"a%2520b"_s, u"a%252520b"_s);
-        row("Hebrew", u"תמונה מבריקה"_s, u"תמונה%20מבריקה"_s);
-        row("Japanese space", u"光沢\u3000厚い"_s, u"光沢\u3000厚い"_s);
-        row("emoji of several parts", u"👨\u200d👩\u200d👧 ☀\ufe0f"_s, u"👨\u200d👩\u200d👧%20☀\ufe0f"_s);
+        const auto add = rows<QString, QString>();
+        add("as it is", u"10x15+Glänzend"_s, u"10x15+Glänzend"_s);
+        add("space", u"My preset"_s, u"My%20preset"_s);
+        add("slash", u"../10/15"_s, u"..%2F10%2F15"_s);
+        add("dots", u".."_s, u".."_s);
+        add("quotes and signs", u"it's \"#1\"? \\"_s, u"it%27s%20%22%231%22%3F%20%5C"_s);
+        add("per cent", u"50% and 100%"_s, u"50%%20and%20100%"_s);
+        add("looks mapped", u"a%20b%2fc%25"_s, u"a%2520b%252fc%25"_s);
+        add("looks mapped twice", u"a%2520b"_s, u"a%252520b"_s);
+        add("Hebrew", u"תמונה מבריקה"_s, u"תמונה%20מבריקה"_s);
+        add("Japanese space", u"光沢\u3000厚い"_s, u"光沢\u3000厚い"_s);
+        add("emoji of several parts", u"👨\u200d👩\u200d👧 ☀\ufe0f"_s, u"👨\u200d👩\u200d👧%20☀\ufe0f"_s);
     }
 
     // CUPS finds the preset by its instance, people by its name and by both in "queue/preset".
     void namesAreMapped()
     {
-        QFETCH(QString, name);
-        QFETCH(QString, instance);
+        const auto [name, instance] = row<QString, QString>();
         const Options red{{u"Red"_s, u"5"_s}};
         PresetStore store(u"photo"_s);
         QCOMPARE(PresetName::cleaned(name), name);
@@ -236,20 +232,18 @@ private Q_SLOTS:
 
     void noPresetHasSuchAName_data()
     {
-        QTest::addColumn<QString>("typed");
-        QTest::addColumn<QString>("reason");
-        QTest::newRow("nothing") << u" \n "_s << u"needs a name"_s;
-        QTest::newRow("tab") << u"a\tb"_s << u"control character"_s;
-        QTest::newRow("line break") << u"a\nDest photo"_s << u"control character"_s;
-        QTest::newRow("escape") << u"\x1b[31m"_s << u"control character"_s;
-        QTest::newRow("too long when mapped") << QString(43, u'/') << u"129 bytes"_s;
-        QTest::newRow("too long in UTF-8") << QString(43, u'光') << u"129 bytes"_s;
+        const auto add = rows<QString, QString>();
+        add("nothing", u" \n "_s, u"needs a name"_s);
+        add("tab", u"a\tb"_s, u"control character"_s);
+        add("line break", u"a\nDest photo"_s, u"control character"_s);
+        add("escape", u"\x1b[31m"_s, u"control character"_s);
+        add("too long when mapped", QString(43, u'/'), u"129 bytes"_s);
+        add("too long in UTF-8", QString(43, u'光'), u"129 bytes"_s);
     }
 
     void noPresetHasSuchAName()
     {
-        QFETCH(QString, typed);
-        QFETCH(QString, reason);
+        const auto [typed, reason] = row<QString, QString>();
         const QString name = PresetName::cleaned(typed);
         const auto failure = PresetStore(u"photo"_s).add(name, {});
         QVERIFY2(failure && failure->reason == SettingsFault::BadName && failure->text.contains(reason),
