@@ -44,11 +44,14 @@ void ChoiceTest::refusalIsExplainedBesideItsControl_data()
     const QString radius = u"\"Sharpness Radius\" cannot be \"3\" while \"Blue\" is \"0\"."_s;
     const QString finish =
         u"\"Surface Finish\" cannot be \"Matte\" while \"Print Quality\" is \"Standard\"."_s;
-    addRows<int, int, QString, QString>({
-        {"number typed", 0, 81, red, u"\"Print Quality\" to \"Fine\""_s},
-        {"slider moved", 0, 1, red, u"\"Print Quality\" to \"Fine\""_s},
-        {"second page", 1, 81, radius, u"\"Blue\" to"_s},
-        {"radio button", 2, 2, finish, u"\"Print Quality\" to \"Fine\""_s},
+    const QString fine = u"\"Print Quality\" to \"Fine\""_s;
+    // The page; the control that is acted on, and the one that has the focus.
+    addRows<int, int, int, QString, QString>({
+        {"number typed", 0, 81, 81, red, fine},
+        {"slider moved", 0, 1, 1, red, fine},
+        {"second page", 1, 81, 81, radius, u"\"Blue\" to"_s},
+        {"radio button", 2, 2, 2, finish, fine},
+        {"radio button, the focus elsewhere", 2, 2, 32, finish, fine},
     });
 }
 
@@ -56,11 +59,12 @@ void ChoiceTest::refusalIsExplainedBesideItsControl()
 {
     if (mode_ == PanelMode::Settings)
         return; // nothing is refused before the job is made
-    const auto [page, tag, sentence, offer] = row<int, int, QString, QString>();
+    const auto [page, tag, focus, sentence, offer] = row<int, int, int, QString, QString>();
     const OpenedDialog opened(setup());
     opened.dialog->showPage(page);
     QWidget *control = opened.control(tag);
-    control->setFocus();
+    opened.control(focus)->setFocus();
+    opened.find<QWidget>(u"matte"_s)->setFocusPolicy(Qt::TabFocus); // as where a click leaves the focus alone
     if (qobject_cast<QLineEdit *>(control))
         opened.type(tag, page == 0 ? u"25"_s : u"3"_s);
     else if (qobject_cast<QSlider *>(control))
@@ -87,6 +91,24 @@ void ChoiceTest::refusalIsExplainedBesideItsControl()
         opened.press(Qt::Key_Tab);
     QCOMPARE(QApplication::focusWidget(), offered);
     QVERIFY(callout->isVisible());
+}
+
+// The defaults are chosen one after the other: one is refused, and the others are made.
+void ChoiceTest::refusalOutlastsTheRestOfItsAct()
+{
+    if (mode_ == PanelMode::Settings)
+        return;
+    const OpenedDialog opened(setup());
+    opened.type(86, u"5"_s);
+    opened.click(u"calloutOffer"_s); // the contrast, which cannot go back before the saturation does
+    opened.type(81, u"9"_s);
+    QVERIFY(!opened.isSeen(u"callout"_s));
+    auto *defaults = opened.control(16);
+    QTest::mouseClick(defaults, Qt::LeftButton);
+    QCOMPARE(opened.fieldTexts({81, 86}), u"0 0"_s);
+    QVERIFY(opened.message().startsWith(u"\"Contrast\" cannot be \"0\""_s));
+    const QRect box = inWindow(opened.find<QWidget>(u"callout"_s));
+    QVERIFY(opened.isSeen(u"callout"_s) && box.intersects(inWindow(defaults).adjusted(0, -2, 0, 2)));
 }
 
 // What a screen reader would hear, if the platform had one listening.

@@ -15,6 +15,7 @@ private Q_SLOTS:
     void initTestCase();
     void refusalIsExplainedBesideItsControl_data();
     void refusalIsExplainedBesideItsControl();
+    void refusalOutlastsTheRestOfItsAct();
     void screenReaderIsTold();
     void calloutGoesByKeyAndByTheNextChoice();
     void offerMakesTheChoiceAndOneStep();
