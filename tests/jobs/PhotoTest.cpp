@@ -341,6 +341,7 @@ private Q_SLOTS:
         const QByteArray boxes = QByteArray("\0\0\0\x18", 4) + "ftypcrx ";
         const QByteArray webp("RIFF\0\0\0\0WEBP", 12);
         add("raw by its letters", raw, u"camera raw"_s);
+        add("raw by its kind", "WRITER00CCD-RAW 0201", u"camera raw"_s);
         add("raw in boxes", boxes, u"camera raw"_s);
         add("JPEG XL", QByteArray("\xff\x0a"), u"JPEG XL"_s);
         add("PDF", QByteArray("%PDF-1.7"), u"PDF"_s);

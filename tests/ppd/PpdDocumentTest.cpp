@@ -308,7 +308,6 @@ private Q_SLOTS:
             option("Lacking", {"Nope/n", "Yes"}).replace("*Lacking Nope/n: \"\"\n", "") +
             option("Many", {"a", "b", "c"}).replace("PickOne", "PickMany") + "*CloseGroup: Photo\n");
         QCOMPARE(document.options(), QStringList({u"PageSize"_s, u"Overcoat"_s, u"Lacking"_s, u"Many"_s}));
-        QCOMPARE(document.modelName(), u"Photo 9"_s);
         QCOMPARE(document.optionText(u"Overcoat"_s), u"Lamination"_s);
         QCOMPARE(document.choice(u"Overcoat"_s, u"Glossy"_s)->text, u"Glänzend"_s);
         QCOMPARE(document.choice(u"Overcoat"_s, u"Matte"_s)->text,
