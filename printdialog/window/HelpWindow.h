@@ -7,15 +7,16 @@
 
 namespace printdialog {
 
-/// The dialog's own help, for a page that has none of its own. Its text travels inside the program, so that
-/// it can be read on any desktop.
+/// The dialog's own help, shown for a page that has none. The text is compiled into the program, so it can be
+/// read on any desktop.
 class HelpWindow : public QDialog
 {
     Q_OBJECT
 
 public:
-    /// Shows the help above `parent`, in the first of the user's languages that there is, else in English. A
-    /// window that is there already is brought to the front; it goes when it is closed.
+    /// Shows the help above `parent`, in the first of the user's languages that it is available in, else in
+    /// English. A window that is already open is brought to the front. The window is deleted when it is
+    /// closed.
     static void showFor(QWidget *parent);
 
 private:

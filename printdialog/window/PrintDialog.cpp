@@ -28,10 +28,11 @@ namespace printdialog {
 
 namespace {
 
-// In characters. Less would have the window change when the panels come; more would not be read more easily.
+// In characters. A narrower window would change its size when the panels load; a wider one is not easier to
+// read.
 constexpr int narrowestSettings = 78;
 constexpr int widestSettings = 110;
-constexpr int panelHeight = 48; // pixels, of what a desktop has at the edge of a screen
+constexpr int panelHeight = 48; // pixels, of a desktop panel at the edge of the screen
 
 } // namespace
 
@@ -75,7 +76,7 @@ PrintDialog::PrintDialog(const PrintDialogSetup &setup, QWidget *parent)
     connect(ui_->panels, &PanelTabs::pageStayed, this,
             [this](const QString &text) { ui_->message->show(MessageBar::Kind::Warning, text); });
     connect(ui_->help, &QPushButton::clicked, this, &PrintDialog::showHelp);
-    // Not the button's own shortcut: that is the letter underlined in its text.
+    // Not QPushButton::setShortcut(): that would replace the letter underlined in the button's text.
     connect(new QShortcut(QKeySequence::HelpContents, this), &QShortcut::activated, this,
             &PrintDialog::showHelp);
     connect(new QShortcut(QKeySequence::Print, this), &QShortcut::activated, this, &PrintDialog::print);
@@ -106,23 +107,24 @@ PrintDialog::~PrintDialog()
 
 void PrintDialog::restorePlacement(const QByteArray &geometry)
 {
-    // What the contents asked for before the panels came is kept until the window is shown.
+    // Size hints from before the panels were loaded stay cached until the window is shown.
     const QList<QWidget *> contents = findChildren<QWidget *>();
     for (QWidget *widget : contents)
         widget->updateGeometry();
     layout()->activate();
     resize(size().expandedTo(sizeHint()));
-    // It refuses a placement from a screen that was much wider or narrower.
+    // restoreGeometry() refuses a placement from a screen that was much wider or narrower.
     const bool isRestored = !geometry.isEmpty() && restoreGeometry(geometry);
     if (isMaximized() || isFullScreen())
         return;
     QRect room = screen()->availableGeometry();
     room.setTop(room.top() + style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, this));
     if (QGuiApplication::platformName().startsWith(QLatin1String("wayland")))
-        room.setBottom(room.bottom() - panelHeight); // no program is told what the desktop keeps for itself
+        room.setBottom(room.bottom() -
+                       panelHeight); // Wayland does not report the space that the desktop reserves
     resize(size().boundedTo(room.size()));
     if (!isRestored)
-        return; // the desktop finds a place
+        return; // the desktop chooses the position
     const QPoint lastPlace(room.right() + 1 - width(), room.bottom() + 1 - height());
     setGeometry(
         QRect(QPoint(std::clamp(x(), room.left(), lastPlace.x()), std::clamp(y(), room.top(), lastPlace.y())),

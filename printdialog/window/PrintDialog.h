@@ -30,26 +30,26 @@ class DialogSession;
 class PrinterController;
 class PrintingController;
 
-/// What a print dialog is opened with.
+/// The arguments that a print dialog is opened with.
 struct PrintDialogSetup
 {
     QList<Photo> photos;
     QStringList photoFailures; ///< a sentence for each photo that could not be opened
     PanelMode mode = PanelMode::Constraint;
-    std::optional<Destination> printer;     ///< without it the default
-    std::optional<QString> ppdFile;         ///< for the built-in printer, instead of its own
-    QList<QPair<QString, QString>> options; ///< choices to begin with, in order
-    std::optional<int> copies;              ///< to begin with
+    std::optional<Destination> printer;     ///< the default one when empty
+    std::optional<QString> ppdFile;         ///< for the built-in printer, in place of its own
+    QList<QPair<QString, QString>> options; ///< initial choices, in order
+    std::optional<int> copies;              ///< initial number
     QString outputFolder;                   ///< where the built-in printer leaves its files
     bool remembers = true;     ///< open with the printer used last, and remember the one used now
-    PlacementChoice placement; ///< of each photo, to begin with
+    PlacementChoice placement; ///< initial placement of each photo
 };
 
-/// The print dialog: the photo on its page, the printer, the panels of the printer's plug-in. It works at
-/// once with the built-in printer, unless a queue is asked for by its name or as the user's default (LPDEST,
-/// PRINTER, lpoptions): then it prints on no other one that the user has not chosen.
-/// The queue used last is shown at once, with its panels, and can be printed on once the print server has
-/// confirmed it. Whatever a print server has to say comes later and blocks nothing.
+/// The print dialog: the photo on its page, the printer, and the panels of the printer's plug-in. It works at
+/// once with the built-in printer, unless a queue is requested by name or as the user's default (LPDEST,
+/// PRINTER, lpoptions). Then it prints on another printer only if the user chooses it. The queue used last is
+/// shown at once, with its panels, and can be printed on once the print server has confirmed it. Answers from
+/// a print server arrive later and block nothing.
 class PrintDialog : public QDialog
 {
     Q_OBJECT
@@ -58,35 +58,34 @@ public:
     explicit PrintDialog(const PrintDialogSetup &setup, QWidget *parent = nullptr);
     ~PrintDialog() override;
 
-    /// Gives the window its size, and its place where the desktop leaves that to programs: those of an
-    /// earlier time (WindowPlacement), or else what its contents ask for; never more than the screen has room
-    /// for.
+    /// Sets the window's size, and its position where the desktop leaves that to programs: those of an
+    /// earlier run (WindowPlacement), or else the size hint. The window never exceeds the screen.
     void restorePlacement(const QByteArray &geometry);
 
-    /// Starts to look for the print server's queues. When the one asked for is not among them, the user is
-    /// told, and offered the built-in printer.
+    /// Starts looking for the print server's queues. When the requested one is not among them, the window
+    /// says so and offers the built-in printer.
     void searchPrinters();
 
-    /// The id of the printer that is shown; empty while the one asked for is being looked for.
+    /// The id of the printer that is shown; empty while the requested one is being looked for.
     QString printer() const;
-    /// Whether the printer's options are there, and it can be printed on.
+    /// Whether the printer's options are loaded and it can print.
     bool isReady() const;
-    /// Why it cannot print; empty when it can.
+    /// Why printing is not possible now; empty when it is.
     QString whyNotReady() const;
-    /// What the user is being told; empty when nothing is.
+    /// The text in the message bar; empty when there is none.
     QString message() const;
 
     int pageCount() const;
     void showPage(int page);
     /// See PanelTabs::kindSuffix.
     QString pageKindSuffix(int page) const;
-    /// Whether the photo's preview is there.
+    /// Whether the photo's preview is complete.
     bool isPreviewReady() const;
 
 public Q_SLOTS:
     void print();
     void saveSettings();
-    /// Closes the window; while it prints it asks whether to stop that first.
+    /// Closes the window; while it prints, it first asks whether to stop.
     void reject() override;
 
 protected:

@@ -45,7 +45,7 @@ void PrintDialog::cancelOrStop()
         closeUnlessPageStays();
 }
 
-/// Whether the page that is shown has to stay, which the user is told then.
+/// Whether the current page must stay; if so, shows why.
 bool PrintDialog::pageStays()
 {
     const QString reason = ui_->panels->whyPageStays();
@@ -54,7 +54,7 @@ bool PrintDialog::pageStays()
     return !reason.isEmpty();
 }
 
-/// No plug-in can hold the window for good.
+/// No plug-in can keep the window open for good: closing is offered all the same.
 void PrintDialog::closeUnlessPageStays()
 {
     const QString reason = ui_->panels->whyPageStays();
@@ -73,7 +73,7 @@ void PrintDialog::reject()
         closeUnlessPageStays();
 }
 
-// The window goes only when it has said what that means, or is closed once more.
+// While printing, the window closes only after it has said what that means, or at a second close.
 void PrintDialog::closeEvent(QCloseEvent *event)
 {
     if (!printing_->isBusy())

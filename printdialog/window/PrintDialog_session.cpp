@@ -43,7 +43,7 @@ void PrintDialog::followPrinter()
             [this](const QString &text) { ui_->message->show(MessageBar::Kind::Warning, text); });
 }
 
-/// Photos that could not be opened are named until the user does something about the printer.
+/// The message about photos that could not be opened stays until the user acts on the printer.
 void PrintDialog::clearMessage()
 {
     ui_->message->clear();
@@ -87,7 +87,7 @@ void PrintDialog::showSession()
         if (change.key == pageSizeKey)
             showPageSize();
     });
-    // Not at once: it is part of what is being done, which has its own messages.
+    // Queued: the failure occurs in the middle of an operation that shows its own messages.
     connect(session, &DialogSession::panelFailed, this, &PrintDialog::showPanelFailure, Qt::QueuedConnection);
     printing_->setSession(session);
     const auto noPanels = session->loadPanels();
@@ -129,12 +129,12 @@ void PrintDialog::showReplacement(const QMap<QString, QString> &choices)
 void PrintDialog::showPanelFailure(const QString &sentence)
 {
     if (ui_->message->isAsking())
-        return; // a page that is lost says so itself
+        return; // the lost page says so in its place
     const QString before = ui_->message->text();
     ui_->message->show(MessageBar::Kind::Error, before.isEmpty() ? sentence : before + u'\n' + sentence);
 }
 
-// The options asked for hold until the user chooses another printer, which has choices of its own.
+// The requested options apply until the user chooses another printer, which has its own choices.
 bool PrintDialog::applyOptions()
 {
     if (printer_->wasChosenHere())

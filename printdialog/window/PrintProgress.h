@@ -11,7 +11,7 @@ namespace printdialog {
 
 class LimitedText;
 
-/// How far printing is. Hidden while nothing is printed.
+/// The progress of printing. Hidden while nothing is being printed.
 class PrintProgress : public QWidget
 {
     Q_OBJECT
@@ -19,8 +19,8 @@ class PrintProgress : public QWidget
 public:
     explicit PrintProgress(QWidget *parent = nullptr);
 
-    /// @param text what is being done; may hold text from a server
-    /// @param total 0: how long it takes is not known
+    /// @param text the current activity; may contain text from a server
+    /// @param total 0: unknown
     void show(const QString &text, qint64 done = 0, qint64 total = 0);
 
     QString text() const;

@@ -64,7 +64,7 @@ bool PrintingController::print(int copies, const QString &folder)
     return true;
 }
 
-/// Keeps the choices for the next time, too. Where there is no job, the user sees why.
+/// Also saves the choices for the next time. When no job can be made, the user sees why.
 std::optional<SessionJob> PrintingController::makeJob(int copies)
 {
     auto job = jobOf(*session_, copies);
@@ -83,7 +83,7 @@ std::optional<SessionJob> PrintingController::makeJob(int copies)
     return std::nullopt;
 }
 
-/// Shows the first photo that is damaged. It is printed once the user wants it like that.
+/// Shows the first damaged photo. It is printed only if the user confirms that.
 void PrintingController::askAboutDamage()
 {
     const QList<int> damaged = widgets_.photos->damagedPhotos();
@@ -110,7 +110,8 @@ void PrintingController::askAboutDamage()
                                      });
 }
 
-/// Pages that have not handed over their choices. It is printed once the user wants it without them.
+/// Asks about pages that have not handed over their choices. The job is printed without them only if the user
+/// confirms that.
 void PrintingController::askAboutMissing(const QStringList &missing)
 {
     widgets_.message->showWithAction(
@@ -159,7 +160,7 @@ void PrintingController::stop()
     Q_EMIT stateChanged();
 }
 
-// Escape is pressed to be rid of a question as well.
+// Users press Escape to dismiss a question, too.
 void PrintingController::askToStop()
 {
     if (widgets_.message->isAsking()) {

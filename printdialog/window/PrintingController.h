@@ -51,7 +51,7 @@ public:
     bool hasPrinted() const { return hasPrinted_; }
 
     void stop();
-    /// Escape while it prints: asks whether to stop, or is rid of a question.
+    /// Escape while it prints: asks whether to stop, or dismisses a question.
     void askToStop();
     /// Whether the window may close now. While it prints, the user is asked first; asking to close again is
     /// an answer, too, and gives up the run.

@@ -2006,11 +2006,11 @@ Exemples&#x202f;:
     <name>printdialog::PrinterController</name>
     <message>
         <source>The print server has not confirmed yet that the printer &quot;%1&quot; is there.</source>
-        <translation>Le serveur d’impression n’a pas encore confirmé la présence de l’imprimante « %1 ».</translation>
+        <translation>Le serveur d’impression n’a pas encore confirmé la présence de l’imprimante «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>The options of &quot;%1&quot; are being fetched from the print server.</source>
-        <translation>Les options de « %1 » sont en cours de lecture sur le serveur d’impression.</translation>
+        <translation>Les options de «&#x202f;%1&#x202f;» sont en cours de lecture sur le serveur d’impression.</translation>
     </message>
 </context>
 <context>

@@ -38,7 +38,7 @@ QRect inWindow(const QWidget *widget)
     return {widget->mapTo(widget->window(), QPoint()), widget->size()};
 }
 
-/// The innermost one that scrolls the widget; null: nothing does.
+/// The innermost scroll area around the widget; null when there is none.
 QScrollArea *scrollAreaOf(const QWidget *widget)
 {
     QWidget *above = widget ? widget->parentWidget() : nullptr;
@@ -47,7 +47,7 @@ QScrollArea *scrollAreaOf(const QWidget *widget)
     return static_cast<QScrollArea *>(above);
 }
 
-/// What can be seen, in the window's coordinates, of what scrolls together with the widget.
+/// The visible part of the area that the widget scrolls in, in the window's coordinates.
 QRect viewOf(const QWidget *widget, const QWidget *window)
 {
     QRect view = window->rect();
@@ -58,7 +58,8 @@ QRect viewOf(const QWidget *widget, const QWidget *window)
     return view;
 }
 
-/// The part of the control that is seen; when it is scrolled away, the edge of the view behind which it is.
+/// The visible part of the control; when it is scrolled out of sight, the edge of the view that it lies
+/// behind.
 QRect inView(const QRect &control, const QRect &view)
 {
     if (control.bottom() < view.top())
@@ -96,8 +97,8 @@ ChoiceCallout::ChoiceCallout(QWidget *window)
     layout->addWidget(close_, 0, 1, Qt::AlignTop);
     layout->addWidget(offer_, 1, 0, 1, 2, Qt::AlignLeft);
     connect(close_, &QToolButton::clicked, this, &ChoiceCallout::dismiss);
-    connect(offer_, &QPushButton::clicked, this, &ChoiceCallout::offerTaken);
-    // Before the dialog takes the key to close itself.
+    connect(offer_, &QPushButton::clicked, this, &ChoiceCallout::offerAccepted);
+    // A shortcut, so that it comes before the dialog's own use of Escape, which closes it.
     connect(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, this, &ChoiceCallout::dismiss);
     hide();
 }
@@ -117,13 +118,13 @@ void ChoiceCallout::show(QWidget *control, QWidget *area, const QString &text, c
     pdekit::announce(this);
 }
 
-// The keyboard comes from the control to the callout, and from there to what followed the control.
+// In the tab order, the callout comes after the control and before the control's former successor.
 void ChoiceCallout::join(QWidget *control)
 {
     control_ = control;
     QWidget *focused = window()->focusWidget();
     focused_ = control->isAncestorOf(focused) ? focused : control;
-    // It moves with whatever it stands in: a page that scrolls moves as a whole.
+    // The control moves with each of its ancestors: scrolling moves a whole page.
     for (QWidget *above = control; above && above != parentWidget(); above = above->parentWidget()) {
         above->installEventFilter(this);
         watched_.append(above);
@@ -172,7 +173,7 @@ void ChoiceCallout::place()
         return std::max(layout()->totalHeightForWidth(width), layout()->totalMinimumSize().height());
     };
     const int height = sizeFor(true);
-    // Where there is no room in the page it stands beside the control all the same, over other things.
+    // Without room in the page, the callout still stands beside the control and covers other widgets.
     QRect room = window;
     isBelow_ = window.bottom() - control.bottom() > control.top();
     for (const QRect &each : {area, view, window}) {
@@ -205,7 +206,7 @@ bool ChoiceCallout::eventFilter(QObject *watched, QEvent *event)
     return QFrame::eventFilter(watched, event);
 }
 
-// It hides a part of what the user may want to scroll.
+// The callout covers a part of the page; turning the wheel over it scrolls the page below.
 void ChoiceCallout::wheelEvent(QWheelEvent *event)
 {
     if (auto *area = scrollAreaOf(control_))

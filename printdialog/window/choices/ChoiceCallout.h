@@ -13,27 +13,27 @@ class QToolButton;
 
 namespace printdialog {
 
-/// Says beside a control why the choice just made there was refused, and offers a way to it. It stands below
-/// or above the control, never over it, takes no focus by itself, and goes when it is dismissed (Escape, or
-/// its button). Plain text only.
+/// Explains beside a control why the choice just made there was refused, and offers changes that allow it. It
+/// is placed below or above the control, never over it. It does not grab the focus, and disappears when it is
+/// dismissed (Escape, or its button). Plain text only.
 class ChoiceCallout : public QFrame
 {
     Q_OBJECT
 
 public:
-    /// A child of the window that it is shown in.
+    /// The callout becomes a child of the window that it is shown in.
     explicit ChoiceCallout(QWidget *window);
 
-    /// Shows the text beside the control, within `area` (an ancestor of the control) if there is room, with a
+    /// Shows the text beside the control, within `area` (an ancestor of the control) if there is room. Adds a
     /// button for the offer unless `offer` is empty.
     void show(QWidget *control, QWidget *area, const QString &text, const QString &offer);
     void dismiss();
 
-    /// What it says; empty while it is hidden.
+    /// The text shown; empty while the callout is hidden.
     QString text() const;
 
 Q_SIGNALS:
-    void offerTaken();
+    void offerAccepted();
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
@@ -48,11 +48,11 @@ private:
     QPushButton *offer_;
     QToolButton *close_;
     QPointer<QWidget> control_;
-    QPointer<QWidget> focused_; ///< the control, or what the user was at in a group of buttons
+    QPointer<QWidget> focused_; ///< the control, or the focused button within a group
     QPointer<QWidget> area_;
-    QList<QPointer<QWidget>> watched_; ///< the control and what it stands in
-    bool isBelow_ = true;              ///< the control is above it
-    int tip_ = 0;                      ///< where it points at the control
+    QList<QPointer<QWidget>> watched_; ///< the control and its ancestors
+    bool isBelow_ = true;              ///< whether the callout is below the control
+    int tip_ = 0;                      ///< the x coordinate at which it points at the control
 };
 
 } // namespace printdialog

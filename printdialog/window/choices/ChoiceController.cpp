@@ -26,7 +26,7 @@ ChoiceController::ChoiceController(const ChoiceWidgets &widgets, QObject *parent
           new ChoiceSteps({widgets.window, widgets.panels, widgets.copies, widgets.undo, widgets.redo}, this))
     , presets_(new PresetController(widgets.presets, widgets.message, steps_, this))
 {
-    connect(refusals_, &ChoiceRefusals::offerTaken, steps_, [this] { steps_->note(); });
+    connect(refusals_, &ChoiceRefusals::offerAccepted, steps_, [this] { steps_->note(); });
     connect(steps_, &ChoiceSteps::acted, this, &ChoiceController::endAct);
     connect(steps_, &ChoiceSteps::aboutToMake, this, &ChoiceController::clearMessages);
     connect(steps_, &ChoiceSteps::changed, presets_, &PresetController::update);
@@ -67,13 +67,13 @@ void ChoiceController::explainJob()
 
 QString ChoiceController::keep(const QMap<QString, QString> &options)
 {
-    refusals_->dismiss(); // the choice that was refused is none of the job's
+    refusals_->dismiss(); // the refused choice is not part of the job
     return presets_->keep(options);
 }
 
-void ChoiceController::endAct(QWidget *control, bool goesOn)
+void ChoiceController::endAct(QWidget *control, bool continues)
 {
-    refusals_->endAct(control, steps_->note(goesOn));
+    refusals_->endAct(control, steps_->note(continues));
 }
 
 void ChoiceController::clearMessages()

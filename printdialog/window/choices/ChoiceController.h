@@ -18,7 +18,7 @@ class PanelTabs;
 class PresetBar;
 class PresetController;
 
-/// The parts of the window that choices are made and shown with.
+/// The window's widgets that make and show choices.
 struct ChoiceWidgets
 {
     QWidget *window;
@@ -31,8 +31,8 @@ struct ChoiceWidgets
     MessageBar *message;
 };
 
-/// What happens around the choices in the window: it brings together refusals (ChoiceRefusals), steps back
-/// (ChoiceSteps) and presets (PresetController). The choices themselves are the session's.
+/// Coordinates the window's handling of choices: refusals (ChoiceRefusals), undo and redo (ChoiceSteps) and
+/// presets (PresetController). The choices themselves belong to the session.
 class ChoiceController : public QObject
 {
     Q_OBJECT
@@ -40,29 +40,29 @@ class ChoiceController : public QObject
 public:
     ChoiceController(const ChoiceWidgets &widgets, QObject *parent);
 
-    /// Follows a session, whose panels are loaded and not shown yet, which must outlive this or the next
-    /// call, and makes the choices that it opens with, see PresetController::setSession. Null: none.
+    /// Follows a session whose panels are loaded but not yet shown, and makes the choices that it opens with
+    /// (see PresetController::setSession). The session must outlive this object or the next call. Null: none.
     void setSession(DialogSession *session, const QString &builtInPreset = {});
-    /// The session is as the dialog opens with it.
+    /// Call when the session is in the state that the dialog opens with.
     void start();
 
-    /// Makes the user's choice of a page size.
+    /// Applies the user's choice of a page size.
     void choosePageSize(const QString &pageSize);
-    /// Why the session's job cannot be made, with what can be done about it.
+    /// Shows why the session's job cannot be made, and offers a remedy.
     void explainJob();
 
-    /// Keeps the choices for the next time with this printer. A sentence when that fails.
+    /// Saves the choices for the next time with this printer. Returns a sentence when that fails.
     QString keep(const QMap<QString, QString> &options);
 
-    /// What is being explained beside a control; empty when nothing is.
+    /// The explanation shown beside a control; empty when there is none.
     QString explanation() const { return refusals_->text(); }
 
 Q_SIGNALS:
-    /// A step was made, taken back or made again, or the steps begin from here.
+    /// A step was made, undone or redone, or the history was restarted.
     void stepsChanged();
 
 private:
-    void endAct(QWidget *control, bool goesOn);
+    void endAct(QWidget *control, bool continues);
     void clearMessages();
 
     ChoiceWidgets widgets_;

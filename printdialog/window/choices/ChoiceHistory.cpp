@@ -29,7 +29,7 @@ public:
     void undo() override { history_.make(sides(&Change::before)); }
     void redo() override
     {
-        // Pushed on the stack when it is done already.
+        // QUndoStack::push() calls redo(), but the change is already made by then.
         if (std::exchange(isDone_, true))
             history_.make(sides(&Change::after));
     }
@@ -107,9 +107,9 @@ void ChoiceHistory::merge(Changes &changes, const QString &key, const Change &ch
         changes.insert(key, {before, change.after});
 }
 
-void ChoiceHistory::note(bool goesOn)
+void ChoiceHistory::note(bool continues)
 {
-    if (!goesOn)
+    if (!continues)
         ++act_;
     if (pending_.isEmpty())
         return;

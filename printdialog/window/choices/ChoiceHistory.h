@@ -16,8 +16,8 @@ class QUndoStack;
 
 namespace printdialog {
 
-/// What the user has chosen since the dialog opened, step by step, and back. A step holds what it changes, so
-/// that its cost does not depend on how much there is to choose.
+/// The undo history of the user's choices since the dialog opened. A step stores only what it changes, so its
+/// cost does not depend on the number of options.
 class ChoiceHistory : public QObject
 {
     Q_OBJECT
@@ -25,34 +25,34 @@ class ChoiceHistory : public QObject
 public:
     /// Option keyword to choice keyword.
     using State = QMap<QString, QString>;
-    /// Makes choices. What it changes is announced by change().
+    /// Makes choices. Its effects must be reported by change().
     using Maker = std::function<void(const State &)>;
 
     explicit ChoiceHistory(Maker maker, QObject *parent = nullptr);
 
-    /// Starts again: this is how the dialog opens.
+    /// Restarts the history with the state that the dialog opens with.
     void start(const State &state);
-    /// A choice has changed: a part of the step that the next note() makes.
+    /// Records a changed choice as a part of the step that the next note() makes.
     void change(const ChoiceChange &change);
     bool hasChanges() const { return !pending_.isEmpty(); }
-    /// The user's act is over. What has changed since the last one is a step; with `goesOn` it becomes part
+    /// Ends an act of the user's: the changes since the last one become a step or, with `continues`, a part
     /// of the last step.
-    void note(bool goesOn);
+    void note(bool continues);
 
     /// Remembers the state as that of the preset in use.
     void mark(const State &state) { mark_.start(state); }
-    /// Whether the choices are not those of the preset in use.
+    /// Whether the choices differ from those of the preset in use.
     bool differsFromMark() const { return !mark_.differing.isEmpty(); }
 
     bool canUndo() const;
     bool canRedo() const;
-    /// Whether it is not as the dialog opened.
+    /// Whether the state differs from the one that the dialog opened with.
     bool canRevert() const { return !opening_.differing.isEmpty(); }
 
 public Q_SLOTS:
     void undo();
     void redo();
-    /// Goes back to how the dialog opened, as a step of its own.
+    /// Returns to the state that the dialog opened with, as a separate step.
     void revert();
 
 Q_SIGNALS:
@@ -60,7 +60,7 @@ Q_SIGNALS:
 
 private:
     class Step;
-    /// What an option's choice was before a step, and after it; a null string: none.
+    /// An option's choice before and after a step; a null string: none.
     struct Change
     {
         QString before;
@@ -68,7 +68,7 @@ private:
     };
     using Changes = QMap<QString, Change>;
 
-    /// A state, and where the present choices differ from it.
+    /// A state, and how the present choices differ from it.
     struct Baseline
     {
         State state;
@@ -86,8 +86,8 @@ private:
     Baseline opening_;
     Baseline mark_;
     Changes pending_;
-    bool isMaking_ = false; // a step is taken back or made again, which is no new one
-    int act_ = 0;           // what belongs to one act is one step
+    bool isMaking_ = false; // during undo and redo, whose changes are not a new step
+    int act_ = 0;           // numbers the acts: changes of one act form one step
 };
 
 } // namespace printdialog

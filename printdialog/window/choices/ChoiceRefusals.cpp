@@ -15,7 +15,7 @@ namespace printdialog {
 
 namespace {
 
-/// As a button's text, in which an ampersand would underline the next letter.
+/// Escapes ampersands, which would underline the next letter of a button's text.
 QString forButton(QString text)
 {
     return text.replace(QLatin1Char('&'), QLatin1String("&&"));
@@ -31,7 +31,7 @@ ChoiceRefusals::ChoiceRefusals(QWidget *window, PanelTabs *panels, MessageBar *m
     , callout_(new ChoiceCallout(window))
 {
     connect(panels, &PanelTabs::currentChanged, callout_, &ChoiceCallout::dismiss);
-    connect(callout_, &ChoiceCallout::offerTaken, this, &ChoiceRefusals::takeOffer);
+    connect(callout_, &ChoiceCallout::offerAccepted, this, &ChoiceRefusals::applyOffer);
 }
 
 void ChoiceRefusals::setSession(DialogSession *session)
@@ -43,7 +43,8 @@ void ChoiceRefusals::setSession(DialogSession *session)
         return;
     connect(&session->chosen(), &ChosenOptions::refused, this, [this](const Ruling &ruling, QWidget *sender) {
         refused_ = sender;
-        // A panel that wires its controls by itself is not known to be acted on; the focus is there mostly.
+        // A control that a panel connects itself is not watched; mostly the focused widget is the one acted
+        // on.
         QWidget *focus = window_->focusWidget();
         explain(ruling, sender || !focus || !panels_->isAncestorOf(focus) ? sender : focus);
     });
@@ -62,7 +63,7 @@ void ChoiceRefusals::explain(const Ruling &ruling, QWidget *control)
     } else if (offer.isEmpty()) {
         message_->show(MessageBar::Kind::Warning, text);
     } else {
-        message_->showWithAction(MessageBar::Kind::Warning, text, offer, [this] { takeOffer(); });
+        message_->showWithAction(MessageBar::Kind::Warning, text, offer, [this] { applyOffer(); });
     }
 }
 
@@ -92,18 +93,18 @@ QString ChoiceRefusals::offerText(const QList<OptionChoice> &changes) const
     return tr("Als&o change %1").arg(forButton(ChoiceExplanation(session_->ppd()).changes(changes)));
 }
 
-void ChoiceRefusals::takeOffer()
+void ChoiceRefusals::applyOffer()
 {
     const QList<OptionChoice> changes = session_->chosen().changesThatAllow(explained_);
     callout_->dismiss();
     message_->clear();
-    if (changes.isEmpty()) // no longer: something else was chosen since
+    if (changes.isEmpty()) // no remedy any more: something else was chosen since
         return;
     QMap<QString, QString> together = {{explained_.key, explained_.choice}};
     for (const OptionChoice &change : changes)
         together.insert(change.option, change.choice);
     session_->chooseTogether(together);
-    Q_EMIT offerTaken();
+    Q_EMIT offerAccepted();
 }
 
 void ChoiceRefusals::explainJob()
@@ -111,7 +112,7 @@ void ChoiceRefusals::explainJob()
     callout_->dismiss();
     Ruling refusal = session_->jobRefusal();
     QList<OptionChoice> changes = session_->chosen().changesThatAllow(refusal);
-    // Without a way to what was chosen last there may be one to what was chosen before.
+    // If nothing allows the choice made last, something may allow one made before it.
     for (qsizetype i = 0; changes.isEmpty() && i < session_->jobRefusal().others.size(); ++i) {
         refusal = session_->jobRefusal();
         const OptionChoice other = refusal.others.at(i);
@@ -130,7 +131,7 @@ void ChoiceRefusals::explainJob()
     explained_ = refusal;
     const QString changed = ChoiceExplanation(session_->ppd()).changes(changes);
     message_->showWithAction(MessageBar::Kind::Warning, text, tr("Chan&ge %1").arg(forButton(changed)),
-                             [this] { takeOffer(); });
+                             [this] { applyOffer(); });
 }
 
 } // namespace printdialog

@@ -16,8 +16,8 @@ class DialogSession;
 class MessageBar;
 class PanelTabs;
 
-/// Explains refusals, of a choice beside its control and of a job in the message bar, and offers the way out
-/// where there is one.
+/// Explains refusals and offers a remedy where there is one: of a choice beside its control, of a job in the
+/// message bar.
 class ChoiceRefusals : public QObject
 {
     Q_OBJECT
@@ -25,31 +25,31 @@ class ChoiceRefusals : public QObject
 public:
     ChoiceRefusals(QWidget *window, PanelTabs *panels, MessageBar *message, QObject *parent);
 
-    /// Explains what this session refuses, which must outlive this or the next call; null: none.
+    /// Explains the refusals of this session, which must outlive this object or the next call; null: none.
     void setSession(DialogSession *session);
 
-    /// Explains why a choice is refused, beside the control where it is to be seen.
+    /// Explains why a choice is refused, beside the control if that is visible.
     void explain(const Ruling &ruling, QWidget *control);
-    /// Why the session's job cannot be made.
+    /// Explains why the session's job cannot be made.
     void explainJob();
-    /// The user's act on the control is over. When it has changed something, an explanation from before is
-    /// outdated; one of this act stays, with an offer that fits what is chosen now (a button for all defaults
-    /// makes many choices, of which one may be refused).
+    /// Ends the user's act on the control. If it has changed something, an earlier explanation is outdated.
+    /// One from this act stays, and its offer is updated to the present choices: a defaults button makes many
+    /// choices, of which one may be refused.
     void endAct(QWidget *control, bool hasChanged);
     void dismiss();
-    /// What is being explained beside a control; empty when nothing is.
+    /// The explanation shown beside a control; empty when there is none.
     QString text() const;
 
     /// The texts of the buttons that may appear beside a refusal.
     static QStringList offerTexts() { return {tr("Als&o change %1"), tr("Chan&ge %1")}; }
 
 Q_SIGNALS:
-    /// The offered way out was chosen.
-    void offerTaken();
+    /// The user has accepted the offered remedy.
+    void offerAccepted();
 
 private:
     QString offerText(const QList<OptionChoice> &changes) const;
-    void takeOffer();
+    void applyOffer();
 
     QWidget *window_;
     PanelTabs *panels_;
@@ -57,7 +57,7 @@ private:
     ChoiceCallout *callout_;
     DialogSession *session_ = nullptr;
     Ruling explained_;
-    const QWidget *refused_ = nullptr; ///< the control of the act that is being dealt with; only compared
+    const QWidget *refused_ = nullptr; ///< the control of the current act; only compared
 };
 
 } // namespace printdialog

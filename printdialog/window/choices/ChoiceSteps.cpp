@@ -52,7 +52,7 @@ ChoiceSteps::ChoiceSteps(const Widgets &widgets, QObject *parent)
     const QKeySequence redoKey(Qt::CTRL | Qt::SHIFT | Qt::Key_Z);
     prepareTool(widgets.undo, QStringLiteral("edit-undo"), QStringLiteral("\u21b6"), tr("Undo"), undoKey);
     prepareTool(widgets.redo, QStringLiteral("edit-redo"), QStringLiteral("\u21b7"), tr("Redo"), redoKey);
-    // Always enabled: without any step the key must not reach a field's own undo.
+    // Always enabled: even without a step, the key must not reach a text field's own undo.
     connect(new QShortcut(undoKey, widgets.window), &QShortcut::activated, history_, &ChoiceHistory::undo);
     connect(new QShortcut(redoKey, widgets.window), &QShortcut::activated, history_, &ChoiceHistory::redo);
     connect(widgets.undo, &QToolButton::clicked, history_, &ChoiceHistory::undo);
@@ -96,19 +96,19 @@ void ChoiceSteps::endAct()
     watcher_->endAct();
 }
 
-void ChoiceSteps::noteAct(QWidget *control, bool goesOn)
+void ChoiceSteps::noteAct(QWidget *control, bool continues)
 {
     if (!session_)
         return;
     if (GuardedPanel *panel = widgets_.panels->panelOf(control))
         session_->adoptChoices(*panel);
-    Q_EMIT acted(control, goesOn);
+    Q_EMIT acted(control, continues);
 }
 
-bool ChoiceSteps::note(bool goesOn)
+bool ChoiceSteps::note(bool continues)
 {
     const bool hasChanges = history_->hasChanges();
-    history_->note(goesOn);
+    history_->note(continues);
     return hasChanges;
 }
 

@@ -14,8 +14,8 @@ class ControlWatcher;
 class DialogSession;
 class PanelTabs;
 
-/// Every act of the user's is a step that can be undone: it follows what is chosen in the session, and the
-/// number of copies, and knows when an act is over.
+/// Makes every act of the user a step that can be undone. It follows the session's choices and the number of
+/// copies, and detects when an act is over.
 class ChoiceSteps : public QObject
 {
     Q_OBJECT
@@ -32,38 +32,38 @@ public:
 
     ChoiceSteps(const Widgets &widgets, QObject *parent);
 
-    /// Follows a session, which must outlive this or the next call; null: none.
+    /// Follows a session, which must outlive this object or the next call; null: none.
     void setSession(DialogSession *session);
-    /// The session is as the dialog opens with it.
+    /// Call when the session is in the state that the dialog opens with.
     void start();
 
     int copies() const { return copies_; }
-    /// A program's number of copies: no step by itself.
+    /// Sets the number of copies without making a step.
     void setCopies(int copies);
 
-    /// What comes next is an act of its own.
+    /// The next change begins a new act.
     void endAct();
-    /// The act is over: whatever has changed since the last one is a step. False when nothing has.
-    bool note(bool goesOn = false);
+    /// Ends the act: the changes since the last one become a step. False when nothing has changed.
+    bool note(bool continues = false);
 
     bool canRevert() const;
     void revert();
-    /// The present choices are those of the preset in use.
+    /// Records the present choices as those of the preset in use.
     void markPreset();
     bool differsFromPreset() const { return history_->differsFromMark(); }
 
 Q_SIGNALS:
-    /// The user has acted on the control, and its panel has dealt with that.
-    void acted(QWidget *control, bool goesOn);
-    /// A step is about to be taken back or made again.
+    /// The user has acted on the control, and its panel has handled that.
+    void acted(QWidget *control, bool continues);
+    /// A step is about to be undone or redone.
     void aboutToMake();
-    /// A step was made, taken back or made again, or the steps begin from here.
+    /// A step was made, undone or redone, or the history was restarted.
     void changed();
 
 private:
     ChoiceHistory::State state() const;
     void make(const ChoiceHistory::State &state);
-    void noteAct(QWidget *control, bool goesOn);
+    void noteAct(QWidget *control, bool continues);
     void noteCopies(int copies);
     void updateButtons();
 

@@ -16,14 +16,14 @@ namespace printdialog {
 
 namespace {
 
-/// A menu or another window takes the focus for a while only.
+/// Focus lost to a menu or another window comes back, so the field is not left.
 bool isLeft(const QEvent *event)
 {
     const Qt::FocusReason reason = static_cast<const QFocusEvent *>(event)->reason();
     return reason != Qt::PopupFocusReason && reason != Qt::ActiveWindowFocusReason;
 }
 
-bool canGoOn(const QWidget *control)
+bool canContinue(const QWidget *control)
 {
     return pdekit::isTextField(control) || pdekit::isSlider(control) ||
            qobject_cast<const QAbstractSpinBox *>(control);
@@ -67,9 +67,9 @@ void ControlWatcher::watchField(QWidget *field)
 
 void ControlWatcher::note(QWidget *control)
 {
-    const bool goesOn = control == last_ && canGoOn(control);
+    const bool continues = control == last_ && canContinue(control);
     last_ = control;
-    Q_EMIT acted(control, goesOn);
+    Q_EMIT acted(control, continues);
 }
 
 bool ControlWatcher::eventFilter(QObject *watched, QEvent *event)
@@ -84,7 +84,7 @@ bool ControlWatcher::eventFilter(QObject *watched, QEvent *event)
             endAct();
         break;
     case QEvent::ShortcutOverride:
-        // A text field would take the key for itself.
+        // Otherwise a text field would handle the key itself.
         if (isUndoOrRedo(event)) {
             event->ignore();
             return true;

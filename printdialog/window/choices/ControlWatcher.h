@@ -10,8 +10,8 @@ class QWidget;
 
 namespace printdialog {
 
-/// Tells which of the panels' controls the user has acted on, after the panel has dealt with it. It knows the
-/// stock controls by their tags (pdekit/views), and nothing of what they stand for.
+/// Reports which of the panels' controls the user has acted on, after the panel has handled it. It finds the
+/// stock controls by their tags (pdekit/views) and does not know what they stand for.
 class ControlWatcher : public QObject
 {
     Q_OBJECT
@@ -19,20 +19,21 @@ class ControlWatcher : public QObject
 public:
     using QObject::QObject;
 
-    /// Watches the tagged controls in the view, as long as they live. Each view once, when its panel has made
-    /// it: a panel is to hear of its controls first.
+    /// Watches the tagged controls in the view, as long as they live. Call it once per view, after its panel
+    /// has made it, so that the panel receives the controls' events first.
     void watchView(QWidget *view);
-    /// Watches one field for the end of the user's act. Undo and redo are the dialog's there, not the field's
-    /// own, as in every text field that is watched.
+    /// Watches one field for the end of the user's act. As in every watched text field, undo and redo are the
+    /// dialog's, not the field's own.
     void watchField(QWidget *field);
-    /// The user has acted on the control.
+    /// Records that the user has acted on the control.
     void note(QWidget *control);
-    /// What comes next is an act of its own, also on the same control.
+    /// The next change begins a new act, even on the same control.
     void endAct() { last_.clear(); }
 
 Q_SIGNALS:
-    /// `goesOn`: more of the same: typing in the same field, moving the same slider without letting go of it.
-    void acted(QWidget *control, bool goesOn);
+    /// `continues`: the act continues the last one, such as typing in the same field or dragging the same
+    /// slider.
+    void acted(QWidget *control, bool continues);
     /// The user has left a text field or pressed Return in it.
     void typingFinished();
 

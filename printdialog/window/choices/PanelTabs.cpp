@@ -17,9 +17,9 @@ namespace printdialog {
 namespace {
 
 constexpr int pageMargin = 8;
-constexpr int handPlacedMargin = 17; // about what a view with a layout keeps free in the page
+constexpr int handPlacedMargin = 17; // pixels, about the margin that a view with a layout has in the page
 
-/// What the keyboard reaches in the view, in the order of its form.
+/// The view's widgets that accept the keyboard focus, in the form's order.
 QList<QWidget *> focusChain(QWidget *view)
 {
     QList<QWidget *> chain;
@@ -51,7 +51,7 @@ void PanelTabs::setSession(DialogSession *session)
 
 void PanelTabs::makePages()
 {
-    const QSignalBlocker blocker(this); // no page is shown before all are there
+    const QSignalBlocker blocker(this); // no page is shown before all are added
     clear();
     for (const Page &page : std::as_const(pages_))
         delete page.holder;
@@ -65,10 +65,10 @@ void PanelTabs::makePages()
         layout->setContentsMargins(pageMargin, pageMargin, pageMargin, pageMargin);
         pages_.append({panel.get(), holder});
         panelOf_.insert(holder, panel.get());
-        // A name is not a button's text: an ampersand in it is one.
+        // A tab's text is read like a button's, so an ampersand in a name is escaped.
         const QString name = panel->name().isEmpty() ? tr("Options") : panel->name();
         addTab(holder, QString(name).replace(u'&', QStringLiteral("&&")));
-        // Not at once: the event may be one of the view's.
+        // Queued: the current event may be one of the view's.
         connect(
             panel.get(), &GuardedPanel::lost, holder, [this, lost = panel.get()] { closePage(lost); },
             Qt::QueuedConnection);
@@ -81,8 +81,8 @@ void PanelTabs::makePages()
 void PanelTabs::markTabs()
 {
     Mnemonics letters;
-    letters.take(reserved_);
-    letters.takeAllIn(*window(), this);
+    letters.reserve(reserved_);
+    letters.reserveAllIn(*window(), this);
     QStringList names;
     for (int i = 0; i < count(); ++i)
         names.append(tabText(i));
@@ -94,10 +94,10 @@ void PanelTabs::markTabs()
 void PanelTabs::markView(QWidget &view)
 {
     Mnemonics letters;
-    letters.take(reserved_);
-    letters.takeAllIn(*window(), this);
+    letters.reserve(reserved_);
+    letters.reserveAllIn(*window(), this);
     for (int i = 0; i < count(); ++i)
-        letters.take({tabText(i)});
+        letters.reserve({tabText(i)});
     letters.markAllIn(view);
 }
 
@@ -166,8 +166,7 @@ void PanelTabs::updateSummary()
         summary_->setEntries(entries_());
 }
 
-// Each panel is told once for each opening of the dialog that it is about to be shown: one that moves its
-// controls does so each time it is told.
+// willShow() is called once per opening of the dialog: a panel that moves its controls does so at each call.
 void PanelTabs::fillPage(Page &page)
 {
     if (page.wasShown)
@@ -179,7 +178,7 @@ void PanelTabs::fillPage(Page &page)
             page.holder->layout()->addWidget(view);
             page.panel->willShow();
         } else {
-            // A panel that places its controls by hand has the size that it gives itself.
+            // A panel that places its controls without a layout sets its own size.
             view->setParent(page.holder);
             page.panel->willShow();
             view->move(handPlacedMargin, handPlacedMargin);
@@ -187,7 +186,7 @@ void PanelTabs::fillPage(Page &page)
         }
         view->show();
         markView(*view);
-        // A view that comes later would be the last in the tab order; its place is after the tabs.
+        // A view that is loaded later would be last in the tab order; it belongs after the tabs.
         QWidget *previous = tabBar();
         for (QWidget *widget : order) {
             setTabOrder(previous, widget);
@@ -208,7 +207,7 @@ void PanelTabs::fillPage(Page &page)
     Q_EMIT panelFailed(text);
 }
 
-/// The view stays, unseen, until the session ends: code of it may be running.
+/// The view stays, hidden, until the session ends: its code may be running.
 void PanelTabs::closePage(const GuardedPanel *panel)
 {
     for (Page &page : pages_) {

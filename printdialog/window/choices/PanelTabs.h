@@ -19,8 +19,8 @@ class GuardedPanel;
 class SummaryPage;
 
 /// The pages of one session: a tab for each panel in the plug-in's order, and the summary. A panel's view is
-/// loaded when its page is first shown. Tabs and views get letters for Alt that nothing else in the window
-/// has, as far as there are any, whatever the plug-in and the language.
+/// loaded when its page is first shown. Tabs and views get Alt letters that nothing else in the window uses,
+/// as far as letters are left, whatever the plug-in and the language.
 class PanelTabs : public QTabWidget
 {
     Q_OBJECT
@@ -28,17 +28,16 @@ class PanelTabs : public QTabWidget
 public:
     explicit PanelTabs(QWidget *parent = nullptr);
 
-    /// What the summary shows, asked for whenever it does.
+    /// Sets the function that returns the summary's entries; it is called each time they are shown.
     void setSummary(const std::function<SummaryEntries()> &summary) { entries_ = summary; }
-    /// Keeps the letters that these texts mark for what may appear in the window.
+    /// Reserves the Alt letters that these texts mark, for widgets that may appear later.
     void setReservedKeys(const QStringList &texts) { reserved_ = texts; }
 
-    /// Shows the session, which must outlive this or the next call; null shows nothing.
+    /// Shows the session, which must outlive this object or the next call; null shows nothing.
     void setSession(DialogSession *session);
-    /// Why the page that is shown must stay, by its panel's word: a sentence for people. Empty: it may be
-    /// left.
+    /// Why the current page's panel does not let it be left: a sentence for people. Empty: it may be left.
     QString whyPageStays() const;
-    /// Something that the summary shows may have changed.
+    /// Call when something that the summary shows may have changed.
     void updateSummary();
     /// The panel whose page is shown; null for the summary.
     GuardedPanel *currentPanel() const { return panelOn(currentIndex()); }
@@ -47,16 +46,16 @@ public:
     /// The last component of the kind of the panel on the page, such as "coloradjust"; empty for the summary.
     QString kindSuffix(int page) const;
 
-    /// Shows the page that many pages on, round from the last to the first.
+    /// Moves on by that many pages, wrapping around at either end.
     void turnPages(int pages);
 
-    /// With room for every tab; where there is less, the tabs scroll.
+    /// Leaves room for every tab; in a narrower window the tabs scroll.
     QSize sizeHint() const override;
 
 Q_SIGNALS:
-    /// A panel's view is about to be seen for the first time.
+    /// A panel's view is about to be shown for the first time.
     void viewMade(QWidget *view);
-    /// The user has turned to another page, and the one before stays: whyPageStays().
+    /// The user has turned to another page, but the current one stays; the text is whyPageStays().
     void pageStayed(const QString &text);
     /// A panel's view cannot be shown: one sentence for people.
     void panelFailed(const QString &text);
@@ -67,7 +66,7 @@ private:
         GuardedPanel *panel;
         QWidget *holder;
         bool wasShown = false;
-        QLabel *note = nullptr; ///< in the place of a view
+        QLabel *note = nullptr; ///< shown in place of a view
     };
 
     GuardedPanel *panelOn(int page) const;
@@ -81,8 +80,8 @@ private:
 
     DialogSession *session_ = nullptr;
     QList<Page> pages_;
-    QHash<const QWidget *, GuardedPanel *> panelOf_; ///< by what holds its view
-    int shown_ = -1; ///< the page that was let go of last or is shown
+    QHash<const QWidget *, GuardedPanel *> panelOf_; ///< by the widget that holds its view
+    int shown_ = -1; ///< the page that is shown, or the last one that could be left
     QStringList reserved_;
     SummaryPage *summary_;
     std::function<SummaryEntries()> entries_;

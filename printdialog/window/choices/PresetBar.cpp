@@ -28,7 +28,7 @@ namespace {
 
 enum Row { Choosing, Naming, Removing };
 
-/// Says when its list opens.
+/// Reports when its list opens.
 class NamesBox : public QComboBox
 {
 public:
@@ -131,7 +131,7 @@ QWidget *PresetBar::makeNamingRow()
     layout->addWidget(name_, 1);
     layout->addWidget(accept_);
     layout->addWidget(cancel);
-    // Return belongs to the field; it must not print.
+    // The field handles Return, so that it does not print.
     connect(pdekit::TextFieldEvents::attach(name_), &pdekit::TextFieldEvents::action, this,
             &PresetBar::acceptName);
     connect(name_, &QLineEdit::textEdited, this, &PresetBar::clearError);

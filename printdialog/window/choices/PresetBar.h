@@ -17,9 +17,8 @@ class QToolButton;
 
 namespace printdialog {
 
-/// The names of a printer's presets, to choose one of them, and to save, rename and delete them without any
-/// box over the dialog. It knows names only: what they stand for, and whether a name may be used, is for
-/// others to say.
+/// The names of a printer's presets: chooses, saves, renames and deletes them without a box over the dialog.
+/// It knows names only; others decide what they stand for and whether a name is allowed.
 class PresetBar : public QWidget
 {
     Q_OBJECT
@@ -33,24 +32,24 @@ public:
 
     explicit PresetBar(QWidget *parent = nullptr);
 
-    /// What there is to choose from; none of them is in use then.
+    /// Sets the names to choose from; afterwards, none of them is in use.
     void setNames(const QList<Name> &names);
-    /// The preset in use, none for a name that there is not, and whether anything was changed since.
+    /// Sets the preset in use (none for an unknown name), and whether its choices were changed since.
     void setCurrent(const QString &name, bool isChanged);
     QString current() const { return current_; }
 
-    /// Says why something is not possible; a name that is being typed stays.
+    /// Shows why something is not possible; a name that is being typed stays.
     void showError(const QString &text);
-    /// What was asked for is done.
+    /// Call when the requested change is done.
     void endEditing();
-    /// What it says is not possible; empty when nothing is.
+    /// The error shown; empty when there is none.
     QString error() const;
 
-    /// The menu of what can be done with presets, to which others may add.
+    /// The menu of the preset actions, to which others may add.
     QMenu *menu() const { return menu_; }
 
 Q_SIGNALS:
-    /// The user is about to see the names.
+    /// The list of names is about to open.
     void aboutToChoose();
     void chosen(const QString &name);
     void addRequested(const QString &name);
@@ -87,7 +86,7 @@ private:
     QList<Name> known_;
     QString current_;
     bool isChanged_ = false;
-    bool isNew_ = false; ///< the name being typed is a new preset's
+    bool isNew_ = false; ///< the name being typed is for a new preset
 };
 
 } // namespace printdialog

@@ -58,11 +58,11 @@ void PresetController::update()
         bar_->setCurrent(preset, steps_->differsFromPreset());
 }
 
-/// Whether there is such a preset, in use now. Where one that was asked for is missing, the user is told.
+/// Whether the preset exists and is now in use. Shows a message when a requested one is missing.
 bool PresetController::openWith(const QString &instance)
 {
     const auto presets = store_->presets();
-    if (instance.isEmpty() || !presets) // the failure is shown
+    if (instance.isEmpty() || !presets) // the failure is already shown
         return false;
     const Preset *preset = PresetStore::findInstance(*presets, instance);
     if (preset)
@@ -74,7 +74,7 @@ bool PresetController::openWith(const QString &instance)
 
 QString PresetController::keep(const QMap<QString, QString> &options)
 {
-    steps_->note(); // what took the place of a dropped choice
+    steps_->note(); // includes the replacements of dropped choices
     const auto failure = QueueSettings::save(session_->printer().destination.queue, withCopies(options));
     return failure ? failure->text : QString();
 }
@@ -128,7 +128,7 @@ void PresetController::use(const QString &name)
     sayLeftOut(tr("Of the preset \"%1\", some choices are left out:").arg(name), leftOut);
 }
 
-/// Answers what is left out.
+/// Returns what is left out.
 QStringList PresetController::restore(const QString &name)
 {
     const auto presets = store_->presets();
@@ -158,7 +158,7 @@ void PresetController::sayLeftOut(const QString &introduction, const QStringList
     message_->show(MessageBar::Kind::Warning, lines.join(u'\n'));
 }
 
-/// The whole set of choices of a job; nothing when they do not go together, which the user is told.
+/// All choices of the job; nothing when they conflict, which is then shown.
 std::optional<QMap<QString, QString>> PresetController::kept()
 {
     const auto job = session_->jobOptions();
@@ -170,7 +170,7 @@ std::optional<QMap<QString, QString>> PresetController::kept()
         bar_->showError(job->missing.join(u' '));
         return std::nullopt;
     }
-    steps_->note(); // what took the place of a dropped choice
+    steps_->note(); // includes the replacements of dropped choices
     return withCopies(job->options);
 }
 

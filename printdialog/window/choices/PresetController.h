@@ -20,7 +20,7 @@ class MessageBar;
 class PresetBar;
 class PresetStore;
 
-/// Choices come from a printer's presets and from the last time, and go there.
+/// Loads choices from a printer's presets and from the last time, and saves them there.
 class PresetController : public QObject
 {
     Q_OBJECT
@@ -29,20 +29,20 @@ public:
     PresetController(PresetBar *bar, MessageBar *message, ChoiceSteps *steps, QObject *parent);
     ~PresetController() override;
 
-    /// Makes the choices of the preset that the printer's name has in it, or else those last used with the
-    /// printer. The session must outlive this or the next call; null: none.
-    /// @param builtInPreset the built-in printer's preset, whose name is not in the printer's
+    /// Makes the choices of the preset that the printer's id names, or else those last used with the printer.
+    /// The session must outlive this object or the next call; null: none.
+    /// @param builtInPreset the built-in printer's preset, which its id does not name
     void setSession(DialogSession *session, const QString &builtInPreset);
-    /// A step was made or taken back.
+    /// Call when a step was made or undone.
     void update();
 
-    /// Keeps the choices for the next time with this printer. A sentence when that fails.
+    /// Saves the choices for the next time with this printer. Returns a sentence when that fails.
     QString keep(const QMap<QString, QString> &options);
 
 Q_SIGNALS:
     /// The user has asked for a preset's choices.
     void aboutToUse();
-    /// Choices that are to be saved do not go together.
+    /// The choices to be saved conflict.
     void jobRefused();
 
 private:

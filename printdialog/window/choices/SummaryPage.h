@@ -17,7 +17,7 @@ class SummaryPage : public QTreeWidget
 public:
     explicit SummaryPage(QWidget *parent = nullptr);
 
-    /// Shows them. The line that the user is at stays.
+    /// Replaces the entries; the current line stays current.
     void setEntries(const SummaryEntries &entries);
 };
 

@@ -9,7 +9,7 @@ class QMimeData;
 
 namespace printdialog {
 
-/// The files on this computer that are dragged.
+/// The paths of the dragged files that are on this computer.
 QStringList droppedFiles(const QMimeData &data);
 
 } // namespace printdialog

@@ -115,7 +115,7 @@ void PhotoPane::addFiles(const QStringList &paths)
         QMetaObject::invokeMethod(qApp, [self, opened, failures] {
             if (!self)
                 return;
-            // In front of the message that follows, since it is what the user sees of it.
+            // Before the message that follows, since the photos are what the user sees of it.
             const PlacementChoice placement =
                 self->current_ < 0 ? self->initial_ : self->photos_.at(self->current_).placement;
             const auto first = static_cast<int>(self->photos_.size());
@@ -210,7 +210,7 @@ bool PhotoPane::isReady() const
     return photos_.isEmpty() || (preview_->isReady() && strip_->isReady());
 }
 
-// Where it is scrolled it takes no more than it needs: the preview becomes smaller first.
+// Inside a scroll area, the minimum height is asked for: the preview shrinks before anything scrolls.
 int PhotoPane::heightForWidth(int width) const
 {
     return layout()->minimumHeightForWidth(width);
@@ -232,7 +232,7 @@ void PhotoPane::show()
     placement_->setPlacement(shown.placement);
     placement_->setEnabled(current_ >= 0);
     remove_->setEnabled(current_ >= 0);
-    QList<Photo> several; // one alone needs no strip, and no thumbnail
+    QList<Photo> several; // a single photo needs no strip, and no thumbnail
     for (const PlacedPhoto &placed : std::as_const(photos_)) {
         if (photos_.size() > 1)
             several.append(placed.photo);

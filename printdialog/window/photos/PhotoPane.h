@@ -20,9 +20,9 @@ class PhotoStrip;
 class PlacementBar;
 class PreviewWidget;
 
-/// The photos of a job: the current one on its page, how it is placed there, and all of them as a strip.
-/// Photos are added by a button or dropped from another program; they are opened, and then looked through for
-/// damage, on a worker thread.
+/// The photos of a job: the current one on its page with its placement, and all of them as a strip. Photos
+/// are added by a button or dropped from another program. They are opened, and then checked for damage, on a
+/// worker thread.
 class PhotoPane : public QWidget
 {
     Q_OBJECT
@@ -30,26 +30,26 @@ class PhotoPane : public QWidget
 public:
     explicit PhotoPane(QWidget *parent = nullptr);
 
-    /// The photos to begin with, all placed alike; later ones are placed like the current one.
+    /// Sets the initial photos, all with the same placement; later ones are placed like the current one.
     void setPhotos(const QList<Photo> &photos, const PlacementChoice &placement);
     const QList<PlacedPhoto> &photos() const { return photos_; }
     void setPage(const PageGeometry &page);
 
-    /// Opens the files and puts those that are photos behind the others.
+    /// Opens the files and appends those that are photos.
     void addFiles(const QStringList &paths);
     void removePhoto(int index);
     void movePhoto(int from, int to);
     void setCurrent(int index);
     int current() const { return current_; }
-    /// Replaces how the current photo is placed.
+    /// Replaces the placement of the current photo.
     void place(const PlacementChoice &choice);
 
-    /// Those that are known to be damaged, and that the user has not accepted as they are: numbers of photos.
+    /// The indexes of the photos that are known to be damaged and that the user has not accepted.
     QList<int> damagedPhotos() const;
-    /// They are printed as they are.
+    /// Accepts the damaged photos: they are printed as they are.
     void acceptDamagedPhotos();
 
-    /// Whether there is nothing left to be decoded for the preview and the strip.
+    /// Whether everything is decoded for the preview and the strip.
     bool isReady() const;
 
     int heightForWidth(int width) const override;
@@ -57,9 +57,9 @@ public:
 Q_SIGNALS:
     /// Photos were added, removed or moved, or another one is current.
     void photosChanged();
-    /// A photo is placed otherwise than before.
+    /// A photo's placement has changed.
     void placementChanged();
-    /// Some of the files that were to be added cannot be printed: a sentence for each.
+    /// Some of the files to be added cannot be printed: a sentence for each.
     void failed(const QString &sentences);
 
 protected:

@@ -25,7 +25,7 @@ constexpr QSize thumbnailSize(72, 54);
 constexpr int photoPadding = 6;
 constexpr qsizetype nameLimit = 60;
 
-/// A photo that was replaced under the same name is another one.
+/// The key of a photo's thumbnail. Includes the time, since a file may be replaced under the same name.
 QString keyOf(const Photo &photo)
 {
     return photo.path() + u'\n' + QString::number(photo.modified().toMSecsSinceEpoch());
@@ -63,7 +63,7 @@ void PhotoStrip::setPhotos(const QList<Photo> &photos, int current)
     bool isShown = count() == photos.size();
     for (int row = 0; isShown && row < count(); ++row)
         isShown = item(row)->data(Qt::UserRole).toString() == keyOf(photos.at(row));
-    if (isShown) // the view may be in the middle of making one of them current
+    if (isShown) // the view may be in the middle of changing the current item
         return setCurrentRow(current);
     clear();
     QHash<QString, QPixmap> kept;
@@ -84,7 +84,7 @@ void PhotoStrip::addPhoto(const Photo &photo, int number, int count)
     item->setData(Qt::UserRole, keyOf(photo));
     item->setData(Qt::AccessibleTextRole, tr("%1, photo %2 of %3").arg(name).arg(number).arg(count));
     item->setToolTip(pdekit::plainToolTip(name));
-    item->setSizeHint(gridSize()); // an item that waits for its thumbnail would have no size
+    item->setSizeHint(gridSize()); // without a thumbnail, an item would have no size
     item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsDragEnabled);
     if (const auto known = thumbnails_.constFind(keyOf(photo)); known != thumbnails_.constEnd())
         item->setIcon(QIcon(known.value()));
@@ -141,12 +141,12 @@ void PhotoStrip::keyPressEvent(QKeyEvent *event)
              (event->key() == Qt::Key_Right || event->key() == Qt::Key_Down))
         Q_EMIT moveWanted(row, row + 1);
     else if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
-        event->ignore(); // it prints
+        event->ignore(); // for the dialog, which prints
     else
         QListWidget::keyPressEvent(event);
 }
 
-// A thumbnail that is dragged within the strip changes its place; anything else is for the widget around.
+// Dragging a thumbnail within the strip moves its photo; other drags are for the parent widget.
 
 bool PhotoStrip::isOwnDrag(const QDropEvent &event) const
 {
@@ -176,7 +176,7 @@ void PhotoStrip::dropEvent(QDropEvent *event)
     const int from = currentRow();
     const int x = static_cast<int>(event->position().x()) + horizontalOffset();
     const int to = std::clamp(x / gridSize().width(), 0, count() - 1);
-    // Not as the view would do it, which moves items and leaves the photos behind.
+    // A copy, so that the view does not move items itself: it would leave the photos behind.
     event->setDropAction(Qt::CopyAction);
     event->accept();
     if (from >= 0 && from != to)

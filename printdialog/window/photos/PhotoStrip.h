@@ -12,7 +12,8 @@ namespace printdialog {
 
 /// The photos of a job as a strip of thumbnails, in the order in which they are printed. The current one is
 /// picked with the mouse or the arrow keys, removed with Delete, and moved with Alt and an arrow key or by
-/// dragging. It only shows: whoever owns the photos does what is asked for and sets them anew.
+/// dragging. It only shows and reports: the owner of the photos makes the requested change and sets them
+/// again.
 class PhotoStrip : public QListWidget
 {
     Q_OBJECT
@@ -20,10 +21,10 @@ class PhotoStrip : public QListWidget
 public:
     explicit PhotoStrip(QWidget *parent = nullptr);
 
-    /// Thumbnails come later, from worker threads.
+    /// Thumbnails arrive later, from worker threads.
     void setPhotos(const QList<Photo> &photos, int current);
 
-    /// Whether no thumbnail is being made.
+    /// Whether all thumbnails are made.
     bool isReady() const { return pending_ == 0; }
 
     QSize sizeHint() const override;

@@ -11,7 +11,7 @@ namespace printdialog {
 QThreadPool &photoThreads()
 {
     static QThreadPool threads;
-    // Tasks answer by the application's event loop, so that none may outlive it.
+    // Tasks post their results to the application's event loop, so none may outlive it.
     static const bool areEnded = (qAddPostRoutine([] {
                                       threads.clear();
                                       threads.waitForDone();

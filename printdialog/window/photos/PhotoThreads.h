@@ -7,12 +7,12 @@ class QThreadPool;
 
 namespace printdialog {
 
-/// How soon a photo is wanted; the higher one comes first.
+/// The priority of a photo; higher ones come first.
 enum PhotoPriority { CheckedPhoto = -1, ThumbnailPhoto = 0, ShownPhoto = 1 };
 
-/// The threads on which the window opens, decodes and checks photos. Not the application's own pool: Qt
-/// paints and scales on that one, and would wait there until every photo is decoded. What has not begun when
-/// the application ends is left out.
+/// The thread pool on which the window opens, decodes and checks photos. It is separate from the global pool,
+/// on which Qt paints and scales: there Qt would wait until every photo is decoded. Tasks that have not begun
+/// when the application ends are dropped.
 QThreadPool &photoThreads();
 
 } // namespace printdialog

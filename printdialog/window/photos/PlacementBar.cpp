@@ -15,7 +15,7 @@ namespace printdialog {
 
 namespace {
 
-constexpr int shortestScaling = 8; // characters of the placement that are seen in a narrow window
+constexpr int shortestScaling = 8; // characters of the placement that a narrow window shows
 
 } // namespace
 

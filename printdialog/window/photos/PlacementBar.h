@@ -12,7 +12,7 @@ class QPushButton;
 
 namespace printdialog {
 
-/// How the photo that is shown goes on its page: its scaling, and a turn by hand.
+/// The controls for the current photo's placement on its page: its scaling, and a manual turn.
 class PlacementBar : public QWidget
 {
     Q_OBJECT
@@ -20,7 +20,7 @@ class PlacementBar : public QWidget
 public:
     explicit PlacementBar(QWidget *parent = nullptr);
 
-    /// Shows the choice; nothing is announced.
+    /// Shows the choice; no signal is emitted.
     void setPlacement(const PlacementChoice &choice);
 
 Q_SIGNALS:

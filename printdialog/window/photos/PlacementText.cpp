@@ -46,7 +46,7 @@ QString placementText(const Photo &photo, const PhotoPlacement &placement, const
     if (const double cutOff = placement.cutOff(page); cutOff >= 0.001)
         parts += Text::tr("%1 % cut off").arg(std::ceil(cutOff * 100));
     for (QString &part : parts)
-        part.replace(u' ', QChar(QChar::Nbsp)); // lines break between the parts only
+        part.replace(u' ', QChar(QChar::Nbsp)); // so that lines break between the parts only
     return parts.join(QStringLiteral(" · "));
 }
 

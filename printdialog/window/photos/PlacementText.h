@@ -10,8 +10,8 @@
 
 namespace printdialog {
 
-/// One line about a photo on its page, for people: its size there in their units, how many pixels go into an
-/// inch, and what is cut off.
+/// One line for people about a photo on its page: its printed size in their units, its pixels per inch, and
+/// how much is cut off.
 QString placementText(const Photo &photo, const PhotoPlacement &placement, const PlacementChoice &choice,
                       const PageGeometry &page);
 

@@ -23,16 +23,16 @@ namespace printdialog {
 namespace {
 
 constexpr int paperMargin = 16;
-/// In pixels of the photo's longer side: decoded at first, which is enough for the window as it opens, and at
+/// Pixels of the photo's longer side: the first decoding, which is enough for the window as it opens, and the
 /// most.
 constexpr int firstDetail = 800;
 constexpr int mostDetail = 3200;
-/// How much beyond the sheet is shown at most on either side, of its longer side.
+/// How far beyond the sheet the photo is shown on either side, at most, as a share of the longer side.
 constexpr double shownCutOff = 0.15;
 constexpr double dimmed = 0.3;
 constexpr double step = 8; ///< of an arrow key, in widget pixels; a quarter with Shift
 
-/// To a screen reader a widget that paints itself is nothing in particular; this one is a picture.
+/// A widget that paints itself has no role for screen readers; this one gets that of a picture.
 QAccessibleInterface *accessiblePicture(const QString & /*className*/, QObject *object)
 {
     auto *preview = qobject_cast<PreviewWidget *>(object);
@@ -82,13 +82,13 @@ void PreviewWidget::decode(int detail)
             const QImage image = photo.preview({detail, detail});
             QMetaObject::invokeMethod(qApp, [self, number, detail, image] {
                 if (self)
-                    self->take(number, detail, image);
+                    self->showImage(number, detail, image);
             });
         },
         ShownPhoto);
 }
 
-void PreviewWidget::take(quint64 number, int detail, const QImage &image)
+void PreviewWidget::showImage(quint64 number, int detail, const QImage &image)
 {
     const bool isLate = number != number_ || detail < detail_;
     if (isLate || (image.isNull() && !image_.isNull()))
@@ -138,7 +138,7 @@ QString PreviewWidget::text() const
     return isUnreadable_ ? tr("This photo cannot be shown") : QString();
 }
 
-/// What a screen reader says.
+/// Updates the texts for screen readers.
 void PreviewWidget::describe()
 {
     setAccessibleName(photo_.storedSize().isEmpty() ? tr("Preview of the page")
@@ -166,15 +166,15 @@ bool PreviewWidget::isMovable() const
            std::max(std::abs(place->slack().x()), std::abs(place->slack().y())) > leastRoom;
 }
 
-/// One transformation stands between the page and the screen. A photo that the page lays on its side is shown
-/// upright, and the page lies on its side instead.
+/// The only transformation between the page and the screen. A photo that lies on its side on the page is
+/// shown upright, and the page is turned instead.
 QTransform PreviewWidget::pageToWidget() const
 {
     const QRectF sheet = sheetOf(page_);
     const auto place = placement();
     QRectF shown = sheet;
     if (place) {
-        // The same on both sides, so that the page stays where it is while the photo is moved.
+        // The same on both sides, so that the page does not move while the photo is moved.
         const double most = std::max(sheet.width(), sheet.height()) * shownCutOff;
         const double across = std::clamp((place->target.width() - sheet.width()) / 2, 0.0, most);
         const double along = std::clamp((place->target.height() - sheet.height()) / 2, 0.0, most);
@@ -226,7 +226,7 @@ void PreviewWidget::paintPage(QPainter &painter)
     const double pixel = 1.0 / std::sqrt(std::abs(transform.determinant()));
     const auto place = image_.isNull() ? std::nullopt : placement();
 
-    // The shadow is the paper's, so it falls downwards however the page lies.
+    // The shadow falls downwards on the screen, however the page is turned.
     const QRectF onScreen = transform.mapRect(sheet);
     for (int i = 4; i > 0; --i)
         painter.fillRect(onScreen.adjusted(-i, -i, i, i + 2), QColor(0, 0, 0, 18));
@@ -245,7 +245,7 @@ void PreviewWidget::paintPage(QPainter &painter)
     }
 }
 
-/// What is printed as it is, and what is cut off on the paper and around it, dimmed.
+/// Paints the printed part as it is, and dims what is cut off, on the paper and around it.
 void PreviewWidget::paintPhoto(QPainter &painter, const PhotoPlacement &placement)
 {
     const QTransform toWidget = painter.transform();
@@ -272,8 +272,8 @@ void PreviewWidget::paintPhoto(QPainter &painter, const PhotoPlacement &placemen
     painter.restore();
 }
 
-/// Painting scales well down to a half; below, the pixels between are left out and edges shimmer. What is
-/// shown larger than it was decoded stays until the photo has been decoded with more detail.
+/// QPainter scales well down to one half; below that it skips pixels, and edges shimmer. A photo shown larger
+/// than it was decoded stays as it is until it is decoded with more detail.
 const QImage &PreviewWidget::imageFor(const QSizeF &devicePixels)
 {
     constexpr double wellScaled = 0.6;

@@ -13,9 +13,9 @@
 
 namespace printdialog {
 
-/// The page as it will be printed: the paper with the photo on it, placed as the PDF places it, and what is
-/// cut off, dimmed. The photo is moved with the mouse or the arrow keys. It is decoded on a worker thread,
-/// with the detail that is shown.
+/// The page as it will be printed: the paper with the photo placed as in the PDF; the cut-off parts are
+/// dimmed. The user moves the photo with the mouse or the arrow keys. It is decoded on a worker thread, as
+/// large as it is shown.
 class PreviewWidget : public QWidget
 {
     Q_OBJECT
@@ -23,15 +23,15 @@ class PreviewWidget : public QWidget
 public:
     explicit PreviewWidget(QWidget *parent = nullptr);
 
-    /// The photo is decoded anew only when it is another one than before.
+    /// The photo is decoded again only when it differs from the previous one.
     void setPhoto(const Photo &photo);
     void setPage(const PageGeometry &page);
     void setPlacement(const PlacementChoice &choice);
-    /// Where the photo lies; nothing without a photo or a page.
+    /// The photo's placement; nothing without a photo or a page.
     std::optional<PhotoPlacement> placement() const;
-    /// Whether the photo's pixels are here.
+    /// Whether the photo is decoded, or has turned out to be unreadable.
     bool isReady() const { return !image_.isNull() || isUnreadable_; }
-    /// From the page in points to this widget. A page that is turned for the photo lies on its side.
+    /// Maps the page in points to this widget. A page that is turned for the photo lies on its side.
     QTransform pageToWidget() const;
 
     QSize sizeHint() const override;
@@ -51,7 +51,7 @@ protected:
 
 private:
     void decode(int detail);
-    void take(quint64 number, int detail, const QImage &image);
+    void showImage(quint64 number, int detail, const QImage &image);
     void paintPage(QPainter &painter);
     void paintPhoto(QPainter &painter, const PhotoPlacement &placement);
     const QImage &imageFor(const QSizeF &devicePixels);
@@ -65,12 +65,12 @@ private:
     PageGeometry page_;
     PlacementChoice choice_;
     QImage image_;
-    QImage scaledImage_; ///< of image_, for the size on the screen; null when that is not much smaller
+    QImage scaledImage_; ///< image_ at the size on the screen; null when that is not much smaller
     QPointF lastPosition_;
     bool isDragging_ = false;
     bool isUnreadable_ = false;
-    int detail_ = 0;     ///< of the photo's longer side, in pixels, that image_ has or will soon have
-    quint64 number_ = 0; ///< of the photo that is shown; an answer for another one is dropped
+    int detail_ = 0;     ///< pixels of the longer side of image_, or of the decoding under way
+    quint64 number_ = 0; ///< identifies the current photo; results for another one are dropped
 };
 
 } // namespace printdialog

@@ -38,7 +38,7 @@ PrinterChooser::PrinterChooser(QWidget *parent)
         selection_.chosen(queue.destination());
         Q_EMIT printerChosen(queue);
     });
-    connect(finder_, &QueueFinder::queueFound, this, &PrinterChooser::take);
+    connect(finder_, &QueueFinder::queueFound, this, &PrinterChooser::updateQueue);
     connect(finder_, &QueueFinder::queueRemoved, this, &PrinterChooser::remove);
     connect(finder_, &QueueFinder::failed, this, [this](const QString &text) { failure_ = text; });
     connect(finder_, &QueueFinder::finished, this, &PrinterChooser::endSearch);
@@ -76,11 +76,11 @@ Queue PrinterChooser::current() const
     return currentData().value<Queue>();
 }
 
-void PrinterChooser::take(const Queue &queue)
+void PrinterChooser::updateQueue(const Queue &queue)
 {
     const QString id = queue.id();
     const int known = indexOf(id);
-    // A queue's instances are its presets, chosen as such.
+    // The instances of a queue are its presets; they are chosen there.
     if (known < 0 && !queue.instance.isEmpty() && !queue.isDefault &&
         queue.destination() != selection_.wanted())
         return;
@@ -141,7 +141,7 @@ void PrinterChooser::remove(const QString &id)
         Q_EMIT currentRemoved(tr("The printer \"%1\" is no longer there. Choose another one.").arg(id));
 }
 
-/// Says which of the two there is not: the printer, or its preset.
+/// Says which of the two is missing: the printer, or its preset.
 QString PrinterChooser::missing(const Destination &destination) const
 {
     const auto &[queue, preset] = destination;
@@ -152,7 +152,7 @@ QString PrinterChooser::missing(const Destination &destination) const
     return tr("There is no printer \"%1\". Choose another one.").arg(destination.id());
 }
 
-// The finder goes on looking: once there is a server again it may have the queue.
+// The finder keeps looking: when the server is back, it may have the queue.
 void PrinterChooser::endSearch()
 {
     if (failure_.isEmpty())
@@ -169,7 +169,7 @@ void PrinterChooser::endSearch()
     selection_.kept();
 }
 
-// The server does not have the recalled queue any more.
+// The server no longer has the recalled queue.
 void PrinterChooser::forgetRecalled()
 {
     if (!selection_.recalled())

@@ -16,8 +16,8 @@ namespace printdialog {
 
 class QueueFinder;
 
-/// The printers to choose from: the built-in one at once, with the one remembered from the last time, and the
-/// queues of the print server as they are found and as long as they are there.
+/// The printers to choose from: at once the built-in one and the one remembered from the last time, then the
+/// queues of the print server while they exist.
 class PrinterChooser : public QComboBox
 {
     Q_OBJECT
@@ -25,35 +25,35 @@ class PrinterChooser : public QComboBox
 public:
     explicit PrinterChooser(QWidget *parent = nullptr);
 
-    /// Shows the queue's id with no printer chosen, until a search has found the queue or the user chooses.
+    /// Shows the queue's id, with no printer chosen, until a search finds the queue or the user chooses one.
     void await(const QString &id);
-    /// Makes a printer from an earlier time the current one, before any server has been asked for it.
+    /// Makes a printer remembered from an earlier run the current one, before a server is asked for it.
     void recall(const Queue &queue, PrinterSelection::State state);
-    /// Starts to look for queues. The queue `wanted`, or else the default, is chosen when it is found, as far
-    /// as the selection has it.
+    /// Starts looking for queues. The queue `wanted`, or else the default, becomes current when it is found,
+    /// if the selection allows it.
     void search(const std::optional<Destination> &wanted);
-    /// As if the user had chosen it.
+    /// Chooses the built-in printer as if the user had.
     void chooseBuiltIn();
-    /// Asked when the user chooses another printer: the id of the printer that is to stay, nothing when none
-    /// is.
+    /// Sets the function that is called when the user chooses another printer. It returns the id of the
+    /// printer that must stay, or nothing.
     void setStaying(const std::function<std::optional<QString>()> &staying) { staying_ = staying; }
     Queue current() const;
     PrinterSelection &selection() { return selection_; }
 
 Q_SIGNALS:
-    /// Another printer is the current one now.
+    /// Another printer is now the current one.
     void printerChosen(const printdialog::Queue &queue);
-    /// The print server has something new to say about the current printer: its state, its supplies, or that
-    /// the recalled one is there.
+    /// The print server has news of the current printer: its state, its supplies, or that the recalled one
+    /// exists.
     void currentUpdated(const printdialog::Queue &queue);
-    /// What the search has not found, or why the print server cannot be asked, in a sentence or two for
+    /// The search did not find the printer, or the print server cannot be reached: a sentence or two for
     /// people. There may be no current printer now.
     void searchFailed(const QString &text);
-    /// The queue that was the current one is gone; another one is the current one now.
+    /// The current queue was removed; another printer is now the current one.
     void currentRemoved(const QString &text);
 
 private:
-    void take(const Queue &queue);
+    void updateQueue(const Queue &queue);
     void add(const Queue &queue);
     void update(int index, const Queue &queue);
     void remove(const QString &id);

@@ -14,10 +14,10 @@ namespace printdialog {
 
 namespace {
 
-/// What differs from the PPD's defaults.
+/// The choices that differ from the PPD's defaults.
 QMap<QString, QString> ownChoices(DialogSession &session)
 {
-    // Has the panels hand over what they keep; whether it goes together does not matter here.
+    // Makes the panels save their choices; whether these conflict does not matter here.
     [[maybe_unused]] const auto job = session.jobOptions();
     QMap<QString, QString> choices;
     for (const QString &key : session.ppd().options()) {
@@ -47,7 +47,7 @@ PrinterController::PrinterController(const Request &request)
     std::optional<RememberedQueue> remembered;
     if (request_.remembers && !request_.ppdFile)
         remembered = QueueCache::load();
-    // What the user has chosen comes before a default, which is asked for like one that is named.
+    // A printer that the user has chosen comes before a default, which is treated like one that is named.
     if (!request_.printer && !request_.ppdFile && !(remembered && remembered->wasChosen))
         request_.printer = UserDestinations::read().defaultPrinter;
     if (request_.printer && request_.printer->isBuiltIn()) {
@@ -132,7 +132,7 @@ void PrinterController::open(const Queue &queue)
     }
     fetcher_->cancel();
     use(openBuiltInPrinter(request_.ppdFile, request_.mode));
-    if (chooser_->selection().isUsersChoice())
+    if (chooser_->selection().isUserChoice())
         remember();
 }
 
@@ -182,7 +182,7 @@ void PrinterController::remember()
         return;
     const bool hasPpd = !queue_.isBuiltIn && session_->printer().hasPpd;
     QueueCache::save(
-        {queue_, hasPpd ? session_->ppd().data() : QByteArray(), chooser_->selection().isUsersChoice()});
+        {queue_, hasPpd ? session_->ppd().data() : QByteArray(), chooser_->selection().isUserChoice()});
 }
 
 // Its options
@@ -202,7 +202,7 @@ void PrinterController::usePpd(const CheckedPpd &ppd)
         replaceSession(openQueue(queue_, ppd, request_.mode));
 }
 
-// A queue without a PPD prints as well: there is nothing to choose then.
+// A queue without a PPD can print, too: it only has nothing to choose.
 void PrinterController::useFailure(QueueFault reason, const QString &text)
 {
     if (reason != QueueFault::NoPpd)
@@ -213,7 +213,7 @@ void PrinterController::useFailure(QueueFault reason, const QString &text)
         replaceSession(openRawQueue(queue_, request_.mode));
 }
 
-// What is shown from an earlier time is what the print server has.
+// The options remembered from an earlier run are still those of the print server.
 void PrinterController::confirm()
 {
     chooser_->selection().confirmOptions();

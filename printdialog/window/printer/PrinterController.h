@@ -68,7 +68,7 @@ Q_SIGNALS:
     void printerChanged();
     /// The options of the printer are awaited.
     void optionsAwaited();
-    /// The print server has told something about the printer that is shown, see queue().
+    /// The print server has news of the printer that is shown, see queue().
     void queueUpdated();
     /// The printer of an earlier time is shown, before the print server has confirmed it.
     void unconfirmedShown();

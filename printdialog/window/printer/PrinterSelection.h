@@ -9,8 +9,8 @@
 
 namespace printdialog {
 
-/// Which printer is shown, and what may still take its place. Driven by what the user does and what the
-/// print server says; it has no widget and asks nobody.
+/// Which printer is shown, and which may still replace it. A state machine driven by the user's acts and the
+/// print server's answers; it has no widget and makes no request.
 ///
 ///     event                     Open      Awaited   Kept      Used      Chosen
 ///     awaits                    Awaited   Awaited   Awaited   Awaited   Awaited
@@ -20,44 +20,47 @@ namespace printdialog {
 ///     chosen                    Chosen *  Chosen *  Chosen *  Chosen *  Chosen *
 ///     gone                      Kept *    -         Kept *    Kept *    -  *
 ///
-/// An asterisk: another printer is shown then (after gone, the built-in one), with its own options. A search
-/// may find that the printer of an earlier time is gone: then it is awaited where it was asked for.
+/// An asterisk: another printer is then shown (after gone, the built-in one), with its own options. A search
+/// may find that the printer of an earlier run is gone: if it was requested, it is then awaited.
 class PrinterSelection
 {
 public:
     enum class State {
-        Open,    ///< Nobody has asked for what is shown: a default takes its place.
-        Awaited, ///< Nothing is shown: the one asked for is being looked for.
-        Kept,    ///< Asked for, found as the default, or there when the user began to work.
-        Used,    ///< Kept, and chosen by the user an earlier time, or printed on: the next window has it.
-        Chosen,  ///< By the user, in this window, be it the one that was shown anyway: the next one has it.
+        Open,    ///< The printer shown was not requested: a default replaces it.
+        Awaited, ///< No printer is shown: the requested one is being looked for.
+        Kept,    ///< Requested, found as the default, or shown when the user began to work.
+        Used,    ///< Kept, and chosen by the user in an earlier run or printed on: the next window opens with
+                 ///< it.
+        Chosen,  ///< Chosen by the user in this window, even if it was already shown: the next one opens with
+                 ///< it.
     };
 
     State state() const { return state_; }
-    /// The one asked for by its name, or as the user's default; else the server's default is looked for.
+    /// The printer requested by name or as the user's default; without it, the server's default is looked
+    /// for.
     const std::optional<Destination> &wanted() const { return wanted_; }
-    /// Whether the print server has said in this search that the one shown is there. The built-in one is.
+    /// Whether this search has found the printer shown. Always true of the built-in one.
     bool isConfirmed() const { return shown_ && shown_ != recalled_; }
-    /// Of an earlier time, and not known to the server yet, be it shown or not.
+    /// The printer of an earlier run that the server has not confirmed yet, shown or not.
     const std::optional<Destination> &recalled() const { return recalled_; }
-    /// Whether its options are those of an earlier time.
+    /// Whether the options shown are those of an earlier run.
     bool hasOldOptions() const { return hasOldOptions_; }
-    bool isUsersChoice() const { return state_ == State::Used || state_ == State::Chosen; }
+    bool isUserChoice() const { return state_ == State::Used || state_ == State::Chosen; }
 
-    /// Shows the one of an earlier time, with its options. @param state Open, Kept or Used
+    /// Shows the printer of an earlier run, with its options. `state` is Open, Kept or Used.
     void recall(const Destination &destination, State state);
     void awaits();
     void asksFor(const std::optional<Destination> &wanted);
-    /// The user has begun to work with it, or the first search is over.
+    /// The user has begun to work with the printer shown, or the first search is over.
     void kept();
-    /// Whether it takes the place of the one that is shown.
+    /// A printer was found. True when it replaces the one shown.
     bool found(const Destination &destination, bool isDefault);
     void used();
     void chosen(const Destination &destination);
     void gone();
-    /// Of the one of an earlier time the server knows nothing, or not any more.
+    /// The server does not know the printer of an earlier run, or no longer does.
     void forgetRecalled() { recalled_.reset(); }
-    /// The options shown are the server's.
+    /// The options shown are now the server's.
     void confirmOptions() { hasOldOptions_ = false; }
 
 private:

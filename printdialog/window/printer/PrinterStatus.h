@@ -9,8 +9,8 @@
 
 namespace printdialog {
 
-/// What the print server says of a queue: its state with the reasons in words, its supplies, the members of a
-/// class. Hidden for the built-in printer, which has none of it.
+/// The print server's report on a queue: its state with the reasons in words, its supplies, the members of a
+/// class. Hidden for the built-in printer, which has none of these.
 class PrinterStatus : public QLabel
 {
     Q_OBJECT
@@ -19,7 +19,7 @@ public:
     explicit PrinterStatus(QWidget *parent = nullptr);
 
     void show(const Queue &queue);
-    /// For a queue that the server has not told of yet.
+    /// Shows a queue that the server has not reported yet.
     void showUnconfirmed();
 };
 

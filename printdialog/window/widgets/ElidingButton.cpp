@@ -17,7 +17,7 @@ namespace {
 
 constexpr int leastCharacters = 16;
 
-/// Without the sign that underlines a letter.
+/// The text without the ampersand that underlines a letter.
 QString withoutMnemonic(const QString &text)
 {
     QString plain;

@@ -7,8 +7,8 @@
 
 namespace printdialog {
 
-/// A button for text of any length, such as a PPD's: where it has not the room for all of it, the text ends
-/// in dots, and a tool tip shows the whole. Never the reason why a window is wide.
+/// A button for text of any length, such as a PPD's. Text that does not fit is elided, and a tool tip shows
+/// all of it. The text never makes a window wider.
 class ElidingButton : public QPushButton
 {
     Q_OBJECT

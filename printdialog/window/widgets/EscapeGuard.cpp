@@ -26,10 +26,10 @@ bool EscapeGuard::eventFilter(QObject *watched, QEvent *event)
         return false;
     const bool hasPopup = QApplication::activePopupWidget() != nullptr;
     if (type == QEvent::ShortcutOverride)
-        isPopups_ |= hasPopup; // the window is asked as well, when the popup is closed already
+        wentToPopup_ |= hasPopup; // the window is asked, too, and by then the popup is already closed
     else if (type == QEvent::KeyRelease && !key->isAutoRepeat())
-        isPopups_ = false;
-    return type == QEvent::KeyPress && isPopups_ && !hasPopup &&
+        wentToPopup_ = false;
+    return type == QEvent::KeyPress && wentToPopup_ && !hasPopup &&
            (widget == window_ || window_->isAncestorOf(widget));
 }
 

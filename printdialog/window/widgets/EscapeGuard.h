@@ -9,14 +9,14 @@ class QWidget;
 
 namespace printdialog {
 
-/// Has the Escape that closes a list or a menu close nothing else. Under Wayland, Qt 6.4 closes a combo box's
-/// list when it asks who wants the key, and then hands the key to the window below.
+/// Makes the Escape that closes a list or a menu close nothing else. Under Wayland, Qt 6.4 closes a combo
+/// box's list at the ShortcutOverride event, and then sends the key to the window below.
 class EscapeGuard : public QObject
 {
     Q_OBJECT
 
 public:
-    /// A child of the window that it guards.
+    /// The guard becomes a child of the window that it guards.
     explicit EscapeGuard(QWidget *window);
 
 protected:
@@ -24,7 +24,7 @@ protected:
 
 private:
     QWidget *window_;
-    bool isPopups_ = false; ///< the key that is down went to a popup
+    bool wentToPopup_ = false; ///< the pressed key went to a popup
 };
 
 } // namespace printdialog

@@ -31,7 +31,7 @@ LimitedText::LimitedText(int mostLines, QWidget *parent)
     setFrameShape(QFrame::NoFrame);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setFocusPolicy(Qt::NoFocus);
-    // The colour is that of what it stands in.
+    // Transparent, so that the parent's background shows.
     label_->setAutoFillBackground(false);
     viewport()->setAutoFillBackground(false);
     QSizePolicy policy(QSizePolicy::Expanding, QSizePolicy::Preferred);
@@ -78,7 +78,7 @@ QSize LimitedText::minimumSizeHint() const
 void LimitedText::resizeEvent(QResizeEvent *event)
 {
     QScrollArea::resizeEvent(event);
-    // The keyboard stops here only where there is something to scroll.
+    // Accepts the keyboard focus only when there is something to scroll.
     setFocusPolicy(verticalScrollBar()->maximum() > 0 ? Qt::StrongFocus : Qt::NoFocus);
 }
 

@@ -9,14 +9,13 @@ class QLabel;
 
 namespace printdialog {
 
-/// Plain text of any length, wrapped, in a place of limited height: it scrolls, by keys as well, where it is
-/// longer than that.
+/// Wrapped plain text of any length, of limited height: longer text scrolls, by keys as well.
 class LimitedText : public QScrollArea
 {
     Q_OBJECT
 
 public:
-    /// @param mostLines how many lines of text are seen at once, at most
+    /// @param mostLines the most lines of text shown at once
     explicit LimitedText(int mostLines, QWidget *parent = nullptr);
 
     void setText(const QString &text);

@@ -128,14 +128,14 @@ void MessageBar::makeActions()
 {
     for (QPushButton *button : std::exchange(actionButtons_, {})) {
         button->hide();
-        button->deleteLater(); // it may be the one that was pressed
+        button->deleteLater(); // it may be the one that was pressed, whose slot is running
     }
     QWidget *previous = openFolder_;
     for (qsizetype i = 0; i < message_.actions.size(); ++i) {
         auto *button = new ElidingButton(message_.actions.at(i).text, this);
         button->setObjectName(QStringLiteral("messageAction") + (i > 0 ? QString::number(i + 1) : QString()));
         button->setAutoDefault(false);
-        connect(button, &QPushButton::clicked, this, [this, i] { take(i); });
+        connect(button, &QPushButton::clicked, this, [this, i] { perform(i); });
         row_->addWidget(button);
         setTabOrder(previous, button);
         previous = button;
@@ -144,13 +144,13 @@ void MessageBar::makeActions()
     }
 }
 
-void MessageBar::take(qsizetype action)
+void MessageBar::perform(qsizetype index)
 {
-    const std::function<void()> taken = message_.actions.at(action).take; // which may show another message
+    const std::function<void()> action = message_.actions.at(index).perform; // it may show another message
     if (message_.kind == Kind::Question)
         clear();
-    if (taken)
-        taken();
+    if (action)
+        action();
 }
 
 void MessageBar::showDetails(bool areShown)

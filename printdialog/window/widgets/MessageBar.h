@@ -16,9 +16,9 @@ namespace printdialog {
 class LimitedText;
 class WrappingRow;
 
-/// One message to the user inside the window, beside what it is about instead of in a box over it. Plain text
-/// only, since what it tells may come from another machine, and of any length: the bar stays low, and
-/// scrolls. Hidden while there is nothing to say.
+/// One message to the user, inside the window rather than in a box over it. Plain text only, since it may
+/// come from another machine. It may have any length: the bar stays low, and scrolls. Hidden while there is
+/// no message.
 class MessageBar : public QFrame
 {
     Q_OBJECT
@@ -26,11 +26,11 @@ class MessageBar : public QFrame
 public:
     enum class Kind { Information, Warning, Error, Question };
 
-    /// Something that can be done about a message, by a button.
+    /// A remedy or an answer, offered as a button.
     struct Action
     {
         QString text;
-        std::function<void()> take;
+        std::function<void()> perform;
     };
 
     struct Message
@@ -46,15 +46,15 @@ public:
 
     void show(const Message &message);
     void show(Kind kind, const QString &text) { show(Message{kind, text, {}, {}, {}}); }
-    /// The message with a button for what can be done about it.
+    /// Shows the message with a button for a remedy.
     void showWithAction(Kind kind, const QString &text, const QString &actionText,
                         const std::function<void()> &action);
-    /// Shows the question, with its first answer ready for the keyboard. An answer takes it away.
+    /// Shows the question and gives its first answer the focus. An answer removes it.
     void ask(const QString &text, const QList<Action> &answers);
     void clear();
 
     QString text() const;
-    /// Whether it waits for an answer.
+    /// Whether a question is waiting for an answer.
     bool isAsking() const { return isVisible() && message_.kind == Kind::Question; }
 
 protected:
@@ -62,7 +62,7 @@ protected:
 
 private:
     void makeActions();
-    void take(qsizetype action);
+    void perform(qsizetype index);
     void showDetails(bool areShown);
     void applyColors();
 

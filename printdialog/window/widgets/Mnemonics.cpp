@@ -20,7 +20,7 @@ bool isKey(QChar c)
     return (c >= u'A' && c <= u'Z') || (c >= u'0' && c <= u'9'); // what every keyboard has
 }
 
-/// Where the marked letter stands; -1: there is none.
+/// The index of the marked letter; -1: there is none.
 qsizetype markedAt(const QString &text)
 {
     for (qsizetype i = 0; i + 1 < text.size(); ++i) {
@@ -46,7 +46,7 @@ QString unmarked(QString text)
     return text;
 }
 
-/// The letters that can be marked: the first ones of words before others.
+/// The letters that can be marked: first letters of words come first.
 QString lettersOf(const QString &text)
 {
     QString starts;
@@ -80,7 +80,7 @@ QString withMark(const QString &text, QChar letter)
     return QString(text).insert(place, u'&');
 }
 
-/// The text of a button, or of a label that stands for another widget; null for other widgets.
+/// The text of a button, or of a label with a buddy; null for other widgets.
 std::optional<QString> textOf(const QWidget *widget)
 {
     if (const auto *button = qobject_cast<const QAbstractButton *>(widget))
@@ -89,7 +89,7 @@ std::optional<QString> textOf(const QWidget *widget)
     return label && label->buddy() ? std::optional(label->text()) : std::nullopt;
 }
 
-/// Whether a key leads anywhere from it.
+/// Whether its Alt letter would do anything.
 bool isUseful(const QWidget *widget)
 {
     const auto *label = qobject_cast<const QLabel *>(widget);
@@ -107,7 +107,7 @@ void setTextOf(QWidget *widget, const QString &text)
 
 } // namespace
 
-void Mnemonics::take(const QStringList &texts)
+void Mnemonics::reserve(const QStringList &texts)
 {
     for (const QString &text : texts) {
         if (const QChar letter = marked(text); !letter.isNull())
@@ -115,15 +115,15 @@ void Mnemonics::take(const QStringList &texts)
     }
 }
 
-void Mnemonics::takeAllIn(const QWidget &window, const QWidget *except)
+void Mnemonics::reserveAllIn(const QWidget &window, const QWidget *except)
 {
     for (const QWidget *widget : window.findChildren<QWidget *>()) {
         if (const auto text = textOf(widget); text && widget != except && !except->isAncestorOf(widget))
-            take({*text});
+            reserve({*text});
     }
 }
 
-// Each text in turn gets a letter, for which earlier ones may change theirs for another of their own.
+// Each text in turn gets a letter; earlier texts may switch to another of their letters for that.
 QStringList Mnemonics::mark(const QStringList &texts)
 {
     QStringList plain;

@@ -10,19 +10,19 @@ class QWidget;
 
 namespace printdialog {
 
-/// The letters that Alt is pressed with, none of which may stand for two things in one window. It finds free
-/// ones for texts that come from elsewhere, such as a plug-in's.
+/// The letters pressed together with Alt, none of which may stand for two things in one window. It finds free
+/// letters for texts that come from elsewhere, such as a plug-in's.
 class Mnemonics
 {
 public:
-    /// Takes the letters that the texts have.
-    void take(const QStringList &texts);
-    /// Takes those of the window's labels and buttons, hidden ones as well, but of none in `except`.
-    void takeAllIn(const QWidget &window, const QWidget *except);
+    /// Reserves the letters marked in the texts.
+    void reserve(const QStringList &texts);
+    /// Reserves those of the window's labels and buttons, hidden ones included, except inside `except`.
+    void reserveAllIn(const QWidget &window, const QWidget *except);
 
-    /// The texts with a free letter marked in as many as possible; the first texts come first. A letter that
-    /// is marked and free stays; in a writing without Latin letters it is put behind the text. Takes the
-    /// letters.
+    /// Marks a free letter in as many of the texts as possible, earlier texts first, and reserves it. Returns
+    /// the texts. A letter that is already marked and free stays. In a script without Latin letters, the
+    /// letter is appended to the text.
     QStringList mark(const QStringList &texts);
 
     /// Marks letters in the view's labels and buttons, as mark() does.

@@ -18,10 +18,10 @@ namespace printdialog {
 
 namespace {
 
-constexpr QSize smallest(300, 110); // pixels; both sides and what is below them fit in 800 x 500
-constexpr int focusMargin = 16;     // pixels around what is brought into view
+constexpr QSize smallest(300, 110); // pixels; both sides and the widgets below them fit in 800 x 500
+constexpr int focusMargin = 16;     // pixels around the widget that is brought into view
 
-/// The user moved the focus by a key, or the program did. A click must not move what it was aimed at.
+/// Whether a key or the program moved the focus. A click must not move the widget that it was aimed at.
 bool isMoved(const QFocusEvent &event)
 {
     switch (event.reason()) {
@@ -34,7 +34,7 @@ bool isMoved(const QFocusEvent &event)
     }
 }
 
-/// Whether the wheel would change what the widget stands for.
+/// Whether the wheel would change the widget's value.
 bool isChangedByWheel(const QWidget *widget)
 {
     return qobject_cast<const QComboBox *>(widget) || qobject_cast<const QAbstractSpinBox *>(widget) ||
@@ -50,7 +50,8 @@ SideArea::SideArea(QWidget *parent)
     setWidgetResizable(true);
     setFrameShape(QFrame::NoFrame);
     setFocusPolicy(Qt::NoFocus);
-    // Views come and go in it, and a focus that moves from elsewhere does not pass through it.
+    // On the application, since views are added and removed, and focus events do not pass through the
+    // parents.
     QCoreApplication::instance()->installEventFilter(this);
 }
 
@@ -66,7 +67,7 @@ int SideArea::scrollBarWidth() const
     return style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this);
 }
 
-// With room for the scroll bar, so that the contents keep their width when it appears.
+// Leaves room for the scroll bar, so that the contents keep their width when it appears.
 QSize SideArea::sizeHint() const
 {
     if (!widget())
@@ -79,7 +80,7 @@ QSize SideArea::sizeHint() const
     return size;
 }
 
-// No wider than all of the contents needs: on the smallest screens the other side needs the rest.
+// Not wider than the contents need: on the smallest screens the other side needs the rest.
 QSize SideArea::minimumSizeHint() const
 {
     QSize size = smallest.boundedTo(sizeHint());
@@ -91,11 +92,11 @@ QSize SideArea::minimumSizeHint() const
 bool SideArea::event(QEvent *event)
 {
     if (event->type() == QEvent::LayoutRequest)
-        updateGeometry(); // the contents ask for another size than before
+        updateGeometry(); // the contents' size hint has changed
     return QScrollArea::event(event);
 }
 
-bool SideArea::takesWheel(const QWidget *widget) const
+bool SideArea::acceptsWheel(const QWidget *widget) const
 {
     return verticalScrollBar()->maximum() > 0 && isChangedByWheel(widget) && this->widget() &&
            this->widget()->isAncestorOf(widget);
@@ -105,13 +106,14 @@ bool SideArea::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() == QEvent::Wheel) {
         const auto *over = qobject_cast<QWidget *>(watched);
-        if (over && takesWheel(over)) {
+        if (over && acceptsWheel(over)) {
             QCoreApplication::sendEvent(verticalScrollBar(), event);
             return true;
         }
     } else if (event->type() == QEvent::Show) {
         auto *shown = qobject_cast<QWidget *>(watched);
-        // What merely passes below the mouse gets no focus either, or the next key would change it.
+        // A widget that scrolls below the mouse does not get the focus either, or the next key would change
+        // it.
         if (shown && shown->focusPolicy() == Qt::WheelFocus && widget() && widget()->isAncestorOf(shown))
             shown->setFocusPolicy(Qt::StrongFocus);
     } else if (event->type() == QEvent::FocusIn && isMoved(*static_cast<QFocusEvent *>(event))) {

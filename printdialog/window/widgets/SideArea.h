@@ -7,9 +7,9 @@
 
 namespace printdialog {
 
-/// One side of the window: it scrolls where the window is too small for its contents, so that a small screen
-/// or a large font hides nothing. What gets the focus by a key comes into view. The wheel scrolls: it changes
-/// no choice that happens to pass below the mouse.
+/// One side of the window. It scrolls when the window is too small for its contents, so that a small screen
+/// or a large font hides nothing. A widget that gets the focus by a key is scrolled into view. The wheel only
+/// scrolls: it never changes a choice that passes below the mouse.
 class SideArea : public QScrollArea
 {
     Q_OBJECT
@@ -17,8 +17,8 @@ class SideArea : public QScrollArea
 public:
     explicit SideArea(QWidget *parent = nullptr);
 
-    /// The widths that the side asks for, whatever its contents, in average characters of its font; 0: the
-    /// contents decide.
+    /// Sets the widths that the side requests, whatever its contents, in average characters of its font. 0:
+    /// the contents decide.
     void setReadableWidth(int least, int most);
 
     QSize sizeHint() const override;
@@ -30,7 +30,7 @@ protected:
 
 private:
     int scrollBarWidth() const;
-    bool takesWheel(const QWidget *widget) const;
+    bool acceptsWheel(const QWidget *widget) const;
 
     int leastWidth_ = 0;
     int mostWidth_ = 0;

@@ -9,14 +9,14 @@ class QWidget;
 
 namespace printdialog {
 
-/// Tells once when the user first does something inside a window: a click, a key, a turn of the wheel. Keys
-/// that only move through the window, or leave it, are not counted.
+/// Reports once, when the user first does something inside a window: a click, a key, a turn of the wheel.
+/// Keys that only move the focus or leave the window do not count.
 class TouchWatch : public QObject
 {
     Q_OBJECT
 
 public:
-    /// @param window is its parent
+    /// @param window becomes the parent of this object
     explicit TouchWatch(QWidget *window);
 
     bool eventFilter(QObject *watched, QEvent *event) override;

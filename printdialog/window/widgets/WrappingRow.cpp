@@ -18,13 +18,13 @@ bool expands(const QLayoutItem *item)
     return item->expandingDirections().testFlag(Qt::Horizontal);
 }
 
-/// Empty space, which is an item as well, is never hidden.
+/// Whether the item takes no room. A spacer is never hidden.
 bool isHidden(QLayoutItem *item)
 {
     return item->isEmpty() && !item->spacerItem();
 }
 
-/// What expands may be as narrow as it can be: it gets the rest of its line.
+/// The width to lay the item out by. One that expands counts with its minimum: it gets the rest of its line.
 int widthOf(const QLayoutItem *item)
 {
     return expands(item) ? item->minimumSize().width() : item->sizeHint().width();
@@ -38,7 +38,7 @@ WrappingRow::WrappingRow(QWidget *parent)
     setContentsMargins(0, 0, 0, 0);
 }
 
-// A layout in the row takes itself out of it when it is deleted.
+// A nested layout removes itself from its parent when it is deleted.
 WrappingRow::~WrappingRow()
 {
     while (const QLayoutItem *item = WrappingRow::takeAt(0))

@@ -11,14 +11,14 @@
 
 namespace printdialog {
 
-/// A row that goes on in a second line, and more, where it is too narrow for its items. What a line has left
-/// goes to its items that expand, or else stays free before the first one. Without margins.
+/// A row that wraps to further lines when it is too narrow for its items. The room left on a line goes to its
+/// expanding items, or else stays free before the first one. Without margins.
 class WrappingRow : public QLayout
 {
     Q_OBJECT
 
 public:
-    /// @param parent the widget that is laid out; without one, for a row within another layout
+    /// @param parent the widget that is laid out; null for a row within another layout
     explicit WrappingRow(QWidget *parent = nullptr);
     ~WrappingRow() override;
 
