@@ -92,7 +92,7 @@ QString withoutPlatform()
 
 /// What Qt itself has to say belongs into the log: standard error holds one clear line, or nothing. Qt gives
 /// up where it finds no display, which is no reason to leave a core file.
-void takeQtMessage(QtMsgType type, const QMessageLogContext & /*context*/, const QString &message)
+void logQtMessage(QtMsgType type, const QMessageLogContext & /*context*/, const QString &message)
 {
     pdekit::systemLog(message);
     if (type != QtFatalMsg)
@@ -178,7 +178,7 @@ int main(int argc, char *argv[])
         arguments.append(QFile::decodeName(argv[i]));
     argc = 1; // none of them is meant for Qt
 
-    qInstallMessageHandler(takeQtMessage);
+    qInstallMessageHandler(logQtMessage);
     QCoreApplication::setApplicationName(QStringLiteral("corvel-print"));
     QCoreApplication::setApplicationVersion(QStringLiteral(CORVEL_PRINT_VERSION));
     const auto commandLine = CommandLine::parse(arguments);

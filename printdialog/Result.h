@@ -10,17 +10,17 @@
 
 namespace printdialog {
 
-/// Why something could not be done.
+/// The reason for a failure.
 template <class Reason>
 struct Failure
 {
     Reason reason;
-    QString
-        text; ///< One sentence or two for people: the thing by its name, the reason, the remedy. Plain text.
+    /// One or two sentences for people: the thing by its name, the reason, the remedy. Plain text.
+    QString text;
     QString detail; ///< For the log, untranslated; may be empty.
 };
 
-/// The value that was asked for, or the failure that took its place.
+/// The requested value, or the failure in its place.
 template <class Value, class Reason>
 class [[nodiscard]] Result
 {

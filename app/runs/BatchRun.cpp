@@ -61,7 +61,7 @@ int BatchRun::showPlan(PhotoList &photos, const PrintJob &job, const QString &ur
         if (!photo)
             return fail(photo.failure().text);
         const auto plan = JobPlan::make(placed(*std::move(photo)), job, uri, names);
-        if (!plan && plan.failure().reason.isPhotos) {
+        if (!plan && plan.failure().reason.isPhotoFault) {
             skipped(plan.failure().text);
             continue;
         }

@@ -254,7 +254,7 @@ int AtomicFiles::putInFreePlace(const File &file) const
     return error;
 }
 
-void AtomicFiles::takeBack(File &file) const
+void AtomicFiles::rollBack(File &file) const
 {
     const int folder = descriptor_.number();
     if (!file.isInPlace && !file.temporary.isEmpty())
@@ -276,7 +276,7 @@ void AtomicFiles::takeBack(File &file) const
 void AtomicFiles::discard()
 {
     for (File &file : files_)
-        takeBack(file);
+        rollBack(file);
     files_.clear();
     // Only empty folders go, so whatever another program has put there meanwhile stays.
     std::reverse(madeFolders_.begin(), madeFolders_.end());

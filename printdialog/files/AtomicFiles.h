@@ -69,7 +69,7 @@ private:
     void keepEarlier(File &file) const;
     int putInPlace(File &file, Earlier earlier) const;
     int putInFreePlace(const File &file) const;
-    void takeBack(File &file) const;
+    void rollBack(File &file) const;
     void discard();
 
     QString folder_; ///< Absolute.

@@ -46,14 +46,14 @@ Failure<OutputFault> outputFailureOf(const Failure<PdfFault> &failure)
 
 namespace {
 
-/// `name` is that of both files, without suffix.
+/// `name` is the common name of both files, without suffix.
 Result<PrintedFiles, OutputFault> printAs(const QString &name, const PlacedPhoto &placed, const PrintJob &job,
                                           const OutputFolder &folder)
 {
     auto files = AtomicFiles::open(folder.path);
     if (!files)
         return files.failure();
-    // Both are begun before the work, so that a folder or name that cannot be written to is known at once.
+    // Both files are created before the work, so that an unusable folder or name is detected at once.
     auto pdf = files->add(name + PrintedNames::pageSuffix);
     if (!pdf)
         return pdf.failure();
@@ -92,7 +92,7 @@ Result<PrintedFiles, OutputFault> BuiltInPrinter::print(const PlacedPhoto &place
         const bool isTaken = !files && files.failure().reason == OutputFault::NameTaken;
         if (files || (isTaken && !names.folder().isOverwritten))
             names.markTaken(name);
-        // Taken by another program after it was found to be free: there are other names.
+        // Another program took the name after it was found to be free: try another one.
         if (!isTaken || names.folder().isOverwritten || tries == mostTries)
             return files;
     }

@@ -13,22 +13,21 @@
 
 namespace printdialog {
 
-/// The files that a job has left; absolute paths.
+/// The files that a job has written; absolute paths.
 struct PrintedFiles
 {
     QString pdf;
     QString ticket;
 };
 
-/// The printer that needs no printer: for photo.jpg it leaves photo.pdf, the page, and photo.ticket.json, the
-/// job.
+/// The printer without a device: for photo.jpg it writes photo.pdf, the page, and photo.ticket.json, the job.
 class BuiltInPrinter
 {
 public:
-    /// Leaves both files in the folder of `names`, or none; none for a damaged photo that nobody accepts. A
-    /// missing folder is made, with the folders above it; when the job fails it is removed again. `names`
-    /// gives the files a name that is free, and learns of it when the job has succeeded. Copies are counted
-    /// in the ticket; the PDF has one page. May run on any thread, one call per `names`.
+    /// Writes both files to the folder of `names`, or neither. A damaged photo is printed only if it is
+    /// accepted. A missing folder is created, with its parents, and removed again when the job fails. `names`
+    /// chooses a free name, which is marked as taken when the job has succeeded. The ticket holds the number
+    /// of copies; the PDF has one page. May run on any thread, one call at a time per `names`.
     ///
     /// The ticket is a JSON object, UTF-8 and indented: "printer", "document" (the photo's absolute path),
     /// "options" and "summary" (objects of texts), "copies" (a number).

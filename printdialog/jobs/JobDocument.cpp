@@ -15,11 +15,11 @@ namespace printdialog {
 
 namespace {
 
-/// Points.
+/// In points.
 constexpr double dot = 72.0 / 300;
 
-/// What the print server calls the photo's type. A type that it may not know goes as raw data, which it hands
-/// on without a look.
+/// The photo's type for the print server. A type that the server may not know is sent as raw data, which it
+/// passes on unread.
 QByteArray mimeTypeOf(const Photo &photo)
 {
     static constexpr std::array known = {"gif", "jpeg", "png", "tiff"};

@@ -9,7 +9,7 @@
 
 namespace printdialog {
 
-/// What a queue is sent for one photo.
+/// The document sent to a queue for one photo.
 struct JobDocument
 {
     QByteArray data;     ///< Sent byte for byte.
@@ -17,18 +17,17 @@ struct JobDocument
     QString name;        ///< The photo's file name: the job's title, and the document's name at the server.
 };
 
-/// Whether the photo's own file, printed by itself, comes out as the placement on the page has it, however
-/// the printer places a picture: fitted, filled or stretched to the sheet. That is so when
-/// - the file is a JPEG of the plain kind that every printer reads, one picture without anything transparent,
-/// - its colours are sRGB, as everything takes them for that reads no profile,
-/// - its pixels are stored upright, since what becomes of a note about their orientation is anybody's guess,
+/// Whether the photo's own file, sent unchanged, prints as the placement says, however the printer places a
+/// picture: fitted, filled or stretched to the sheet. That holds when
+/// - the file is a JPEG of the plain kind that every printer reads,
+/// - its colours are sRGB, which every reader that ignores profiles assumes,
+/// - its pixels are stored upright, since not every printer honours the Exif orientation,
 /// - the whole sheet can be printed on, and
-/// - the placement turns nothing and covers the sheet to within a dot of 300 to the inch on each side.
+/// - the placement has no turn and covers the sheet to within 1/300 inch on each side.
 bool canGoUntouched(const Photo &photo, const PageGeometry &page, const PlacementChoice &choice);
 
-/// What a queue is sent for a photo: the untouched file when the queue hands that type to its printer as it
-/// is and the file can go untouched, or when the queue has no PPD to place anything by; else a PDF of the
-/// page.
+/// Makes the document for a photo. It is the unchanged file when the queue passes that type to its printer as
+/// it is and canGoUntouched(), or when the queue has no PPD to place the photo by; else a PDF of the page.
 Result<JobDocument, PdfFault> jobDocument(const PlacedPhoto &placed, const PrintJob &job);
 
 } // namespace printdialog

@@ -78,7 +78,8 @@ Result<JobStatus, QueueFault> jobStatus(CupsConnection &connection, const QStrin
     return status;
 }
 
-/// Of a job that was not begun the server does not say that its printer is stopped, nor ever why.
+/// Adds the printer's reasons and message: for a job that has not begun, the server reports neither that the
+/// printer is stopped nor why.
 void addPrintersWords(CupsConnection &connection, const QString &queue, JobStatus &status)
 {
     const auto record = queueRecord(connection, queue);
@@ -110,16 +111,16 @@ public:
     {
         std::optional<JobStatus> last;
         auto changed = start_;
-        auto moved = start_; // when it was last seen not to wait
+        auto moved = start_; // when the job was last seen not waiting
         auto heard = start_;
         for (auto interval = std::chrono::milliseconds(firstInterval);;) {
             const auto status = look();
             const auto now = Clock::now();
-            // In the last moments there is no time for an answer.
+            // Just before the total limit, there is no time left for an answer.
             if (!status && last && status.failure().reason == QueueFault::TimedOut &&
                 now - start_ >= limits_.total)
                 return *last;
-            if (!status && !isCancelled()) {
+            if (!status && !isCanceled()) {
                 if (!isAway(status.failure().reason) || now - heard >= limits_.away ||
                     now - start_ >= limits_.total)
                     return status.failure();
@@ -129,7 +130,7 @@ public:
                     news(old);
             }
             if (status) {
-                // A server that has lost the job does not say what became of it.
+                // A server that has lost the job cannot report its outcome.
                 if (wasAway_ && status->state == JobStatus::State::Gone)
                     return queueFailure(
                         QueueFault::Failed, queue_,
@@ -144,7 +145,7 @@ public:
             }
             if (!last || !last->isWaiting())
                 moved = now;
-            if (isCancelled() || (last && last->isOver()) || now - start_ >= limits_.total ||
+            if (isCanceled() || (last && last->isOver()) || now - start_ >= limits_.total ||
                 now - changed >= limits_.quiet || now - moved >= limits_.waiting)
                 return last.value_or(JobStatus());
             pause(interval);
@@ -153,23 +154,23 @@ public:
     }
 
 private:
-    /// Whether nobody is there: a server that is started again answers nothing for some seconds.
+    /// Whether no server is listening: while it restarts, it does not answer for some seconds.
     bool isAway(QueueFault fault) const
     {
         return fault == QueueFault::NoServer || (fault == QueueFault::Failed && connection_.isBroken());
     }
 
-    bool isCancelled() const { return cancel_ && std::atomic_ref(*cancel_).load() != 0; }
+    bool isCanceled() const { return cancel_ && std::atomic_ref(*cancel_).load() != 0; }
 
     void pause(std::chrono::milliseconds time) const
     {
         const auto end = Clock::now() + time;
-        while (!isCancelled() && Clock::now() < end)
+        while (!isCanceled() && Clock::now() < end)
             std::this_thread::sleep_for(std::min<Clock::duration>(cancelInterval, end - Clock::now()));
     }
 
-    /// For one look, the last one, too, at a server that is busy. It is shown, and so without odd
-    /// milliseconds.
+    /// The limit for one request, long enough for a busy server even at the last one. Rounded to tenths of a
+    /// second, since messages show it.
     std::chrono::milliseconds patience() const
     {
         using Tenths = std::chrono::duration<std::chrono::milliseconds::rep, std::deci>;
@@ -193,7 +194,7 @@ private:
     const FollowLimits &limits_;
     int *cancel_;
     const Clock::time_point start_ = Clock::now();
-    bool wasAway_ = false; // since it was last heard
+    bool wasAway_ = false; // since the last answer
 };
 
 } // namespace
@@ -207,7 +208,7 @@ bool JobStatus::isWaiting() const
 QString JobStatus::detail() const
 {
     const QString words = reasonsText(reasons);
-    // "Paused" is what CUPS says of every stopped printer.
+    // CUPS reports "Paused" for every stopped printer.
     QString own = message == QLatin1String("Paused") ? QString() : message;
     if (own.isEmpty() || words.isEmpty())
         return words + own;

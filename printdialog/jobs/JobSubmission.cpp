@@ -45,9 +45,9 @@ bool isKeyword(const QString &text)
                        [](QChar c) { return c > u' ' && c < QChar(0x7f) && !separators.contains(c); });
 }
 
-/// Adds an option as the text that it is. libcups' own encoding is for IPP's attributes, whose types it
-/// knows: of a PPD's True and False it makes booleans, and the scheduler then hands "NoEdge=true" to the
-/// printer as "Edge=false".
+/// Adds an option as text. libcups' own encoding is meant for IPP attributes, whose types it knows. It turns
+/// a PPD's True and False into booleans, and the scheduler then hands "NoEdge=true" to the printer as
+/// "Edge=false".
 void addOption(ipp_t *request, const QByteArray &keyword, const QByteArray &value)
 {
     const IppPointer probe(ippNew());
@@ -58,9 +58,9 @@ void addOption(ipp_t *request, const QByteArray &keyword, const QByteArray &valu
         ippAddString(request, IPP_TAG_JOB, IPP_TAG_NAME, keyword.constData(), nullptr, value.constData());
 }
 
-/// One job in one request, with its document: the server makes the job when it has the last byte, so that
-/// whatever breaks off before leaves no job behind. Create-Job and Send-Document would leave an empty one
-/// whenever the way to the server is lost between them.
+/// One job in one request, with its document. The server creates the job when it has the last byte, so a
+/// connection that breaks before leaves no job behind. Create-Job and Send-Document leave an empty job when
+/// the connection is lost between them.
 class JobInMaking
 {
 public:
@@ -88,10 +88,10 @@ public:
             sent += size;
             if (isTaken && sent_)
                 sent_(sent, total);
-            if (connection_.isCancelled())
-                return queueFailure(QueueFault::Cancelled, job.destination.id());
+            if (connection_.isCanceled())
+                return queueFailure(QueueFault::Canceled, job.destination.id());
         }
-        return takeAnswer(job.destination.id());
+        return receiveAnswer(job.destination.id());
     }
 
 private:
@@ -110,9 +110,9 @@ private:
         return request;
     }
 
-    /// The server may have the whole job now: it is waited for even when the job is given up, so as to know
-    /// what to cancel. Where the server has stopped taking the document it says why.
-    Result<int, QueueFault> takeAnswer(const QString &queue)
+    /// Waits for the answer even when the job is given up: the server may have the complete job by now, and
+    /// its id is needed to cancel it. A server that stopped reading the document says why.
+    Result<int, QueueFault> receiveAnswer(const QString &queue)
     {
         connection_.heed(nullptr);
         connection_.extend();
@@ -126,8 +126,8 @@ private:
                                 Text::tr("it took the job without giving it a number"));
         if (cancel_ && std::atomic_ref(*cancel_).load() != 0) {
             connection_.extend();
-            [[maybe_unused]] const auto cancelled = cancelJob(connection_, queue, id);
-            return queueFailure(QueueFault::Cancelled, queue);
+            [[maybe_unused]] const auto canceled = cancelJob(connection_, queue, id);
+            return queueFailure(QueueFault::Canceled, queue);
         }
         return id;
     }
@@ -156,7 +156,7 @@ std::optional<Failure<QueueFault>> whyUnfit(const PrintJob &job, const JobDocume
                     "The option \"%1\" is not sent, because its value has a line break or another control "
                     "character in it; choose another value.")
                     .arg(keyword));
-        // On the way to the printer it is read as a collection, and what follows it with it.
+        // CUPS would read it, and everything after it, as a collection.
         if (option.value().startsWith(u'{'))
             return refusal(
                 Text::tr("The option \"%1\" is not sent, because CUPS misreads a value that begins with a "

@@ -17,40 +17,40 @@ namespace printdialog {
 class CupsConnection;
 struct QueueRecord;
 
-/// Why the document cannot be sent with the job, whatever the server; nothing when it can.
+/// Why the job and the document cannot be sent to any server; nothing when they can.
 ///
-/// An option whose keyword or value could be read as something else by the server (control characters above
-/// all) is none that can be sent.
+/// An option is refused when the server could misread its keyword or value, for example because of control
+/// characters.
 std::optional<Failure<QueueFault>> whyUnfit(const PrintJob &job, const JobDocument &document);
 
-/// Sends documents to queues, each as a job of its own, over one connection. To be used by the thread that
-/// made it.
+/// Sends documents to queues over one connection, each as a separate job. Use it only on the thread that made
+/// it.
 class JobSubmission
 {
 public:
-    /// Bytes sent so far, and in all.
+    /// Bytes sent so far, and in total.
     using Progress = std::function<void(qint64 sent, qint64 total)>;
 
     /// @param sent called on the thread that sends; may be empty
     /// @param cancel non-zero: give up; outlives this object; may be null
-    /// @param patience how long the server may take for each step; sending 64 KiB is one
+    /// @param patience how long the server may take for each step, such as receiving 64 KiB
     explicit JobSubmission(const Progress &sent = {}, int *cancel = nullptr,
                            std::chrono::milliseconds patience = std::chrono::seconds(30));
     ~JobSubmission();
     Q_DISABLE_COPY_MOVE(JobSubmission)
 
-    /// Returns the new job's id. Blocks until the server has taken all of it: for a worker, or the command
-    /// line. A job that cannot be finished is cancelled.
+    /// Returns the new job's id. Blocks until the server has received the complete job: for a worker, or the
+    /// command line. A job that cannot be finished is cancelled.
     ///
-    /// Every option goes out exactly as given, and nothing else but the number of copies; what is unfit is
-    /// refused before anything is sent, and names are cleaned. Failures: all but NoPpd.
+    /// Every option is sent exactly as given, and otherwise only the number of copies. Unfit options are
+    /// refused before anything is sent (see whyUnfit), and names are cleaned. Failures: all but NoPpd.
     Result<int, QueueFault> send(const PrintJob &job, const JobDocument &document);
 
-    /// For what else concerns the jobs, once one was sent.
+    /// For further requests about the jobs, once one was sent.
     CupsConnection &connection() { return *connection_; }
 
 private:
-    /// The queue's PPD was the job's, and the queue has not changed since.
+    /// A queue whose PPD was found to be the job's, and that has not changed since.
     struct Compared
     {
         QByteArray uri;

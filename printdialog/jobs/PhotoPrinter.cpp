@@ -21,7 +21,7 @@ Failure<PhotoPrinter::Fault> failureOf(const Failure<QueueFault> &failure)
     return {{failure.reason, false}, failure.text, failure.detail};
 }
 
-/// Of OutputFault or PdfFault.
+/// For OutputFault or PdfFault.
 template <class Reason>
 Failure<PhotoPrinter::Fault> failureOf(const Failure<Reason> &failure)
 {
@@ -136,7 +136,7 @@ void PhotoPrinter::note(const SentJob &job, const JobStatus &status, Outcome &ou
     }
 }
 
-QStringList PhotoPrinter::takeBack(int &over)
+QStringList PhotoPrinter::cancelJobs(int &over)
 {
     constexpr auto patience = 5s;
     over = 0;
@@ -145,11 +145,11 @@ QStringList PhotoPrinter::takeBack(int &over)
         CupsConnection &connection = submission_.connection();
         connection.heed(nullptr);
         connection.extend(patience);
-        const auto cancelled = cancelJob(connection, job_.destination.id(), job.id);
-        if (!cancelled)
+        const auto canceled = cancelJob(connection, job_.destination.id(), job.id);
+        if (!canceled)
             failures.append(tr("The job %1 for %2 could not be cancelled: %3")
-                                .arg(QString::number(job.id), job.photo, cancelled.failure().text));
-        else if (!*cancelled)
+                                .arg(QString::number(job.id), job.photo, canceled.failure().text));
+        else if (!*canceled)
             ++over;
     }
     return failures;

@@ -17,60 +17,60 @@
 
 namespace printdialog {
 
-/// Prints photos one after the other, on a queue or the built-in printer; the names of their files are kept
-/// apart. What a queue has is followed until it is over, or taken back. Blocking, for a worker thread or the
-/// command line; one thread at a time.
+/// Prints photos one after the other, on a queue or the built-in printer, which gives each photo's files
+/// different names. The jobs of a queue can be followed to their end, or cancelled. Blocking, for a worker
+/// thread or the command line; one thread at a time.
 class PhotoPrinter
 {
     Q_DECLARE_TR_FUNCTIONS(printdialog::PhotoPrinter)
 
 public:
-    /// Why a photo was not printed, in one of the user's sentences. The reasons lie in too many places for
-    /// one enumeration to be of use.
+    /// Why a photo was not printed; the failure's text is a sentence for people. The reasons come from too
+    /// many parts for one useful enumeration.
     struct Fault
     {
-        std::optional<QueueFault> queue; ///< The queue's own reason.
-        bool isPhotos =
-            false; ///< The photo is damaged, or needs too much memory; another one may be printed.
+        std::optional<QueueFault> queue; ///< The queue's reason, if it is one.
+        /// The photo is damaged or needs too much memory; other photos may still print.
+        bool isPhotoFault = false;
     };
 
     /// @param sent, cancel see JobSubmission
     explicit PhotoPrinter(const PrintJob &job, const JobSubmission::Progress &sent = {},
                           int *cancel = nullptr);
 
-    /// Sends the photo to the queue, or leaves it as files: one sentence for people about it.
+    /// Sends the photo to the queue, or writes its files. Returns a sentence for people.
     Result<QString, Fault> print(const PlacedPhoto &placed);
 
-    /// What print() sends to a queue.
+    /// The document that print() sends to a queue.
     static Result<JobDocument, Fault> documentOf(const PlacedPhoto &placed, const PrintJob &job);
 
-    /// The ids of the jobs that the queue has; none of the built-in printer.
+    /// The ids of the jobs sent to the queue; empty for the built-in printer.
     QList<int> sentJobs() const;
 
-    /// What has become of the jobs that the queue has.
+    /// The outcome of the jobs sent to the queue.
     struct Outcome
     {
-        QStringList printed; ///< A sentence for each job that the server says is done.
+        QStringList printed; ///< A sentence for each job that the server reports as completed.
         QList<int> ids;      ///< The ids of those jobs.
-        QStringList waiting; ///< A sentence for each that stands still, and why; the server keeps it.
-        std::optional<QString> failure; ///< Why one was not printed, the first such; a sentence.
+        QStringList waiting; ///< A sentence with the reason for each job that waits; the server keeps it.
+        std::optional<QString> failure; ///< Why a job was not printed; a sentence about the first one.
     };
 
-    /// Follows one job after the other. A job that waits has its time from the first one's on: all of them
-    /// wait for the same printer.
-    /// @param news the photo's number, counted among those that were sent, and its job's state in words
+    /// Follows one job after the other. The limit for waiting counts from the first job's start, since all of
+    /// them wait for the same printer.
+    /// @param news called with the photo's index among those that were sent, and its job's state in words
     /// @param cancel non-zero: stop following; may be null
     Outcome follow(const FollowLimits &limits, const std::function<void(int photo, const QString &)> &news,
                    int *cancel);
 
-    /// Cancels what is not over yet. A sentence for each job that could not be cancelled.
-    /// @param over becomes how many were over already
-    QStringList takeBack(int &over);
+    /// Cancels the jobs that are not over. Returns a sentence for each one that could not be cancelled.
+    /// @param over set to the number of jobs that were already over
+    QStringList cancelJobs(int &over);
 
 private:
     struct SentJob
     {
-        QString photo; ///< Its file's name.
+        QString photo; ///< The name of its file.
         int id;
     };
 

@@ -15,24 +15,24 @@
 
 namespace printdialog {
 
-/// How many copies of each photo a job has at most.
+/// The most copies of each photo in a job.
 inline constexpr int mostCopies = 999;
 
-/// What is asked of a printer besides the photos (PlacedPhoto).
+/// A job's settings, without its photos (PlacedPhoto).
 struct PrintJob
 {
     Destination destination;
     OutputFolder folder; ///< Only for the built-in printer.
     PageGeometry page;
     QMap<QString, QString> options; ///< Option keyword to choice keyword, both the PPD's; not "copies".
-    QMap<QString, QString> summary; ///< What people are shown: label to text.
+    QMap<QString, QString> summary; ///< Shown to people: label to text.
     int copies = 1;                 ///< From 1 to mostCopies.
-    /// The PPD that the options were chosen from: a queue that has another one by now is sent nothing. Empty
-    /// for a queue that has none, see hasPpd(). Without it nothing is compared.
+    /// The PPD that the options were chosen from: nothing is sent to a queue whose PPD has changed since.
+    /// Empty for a queue without one, see hasPpd(). Nothing: no comparison.
     std::optional<QByteArray> ppd = std::nullopt;
-    QByteArrayList directTypes; ///< What the printer itself gets as it is, see typesTakenAsTheyAre().
+    QByteArrayList directTypes; ///< The types that reach the printer unfiltered, see typesPassedThrough().
 
-    /// Without one a job is the photo's own file, without any option.
+    /// Without a PPD, a job is the photo's own file, without options.
     bool hasPpd() const { return !ppd || !ppd->isEmpty(); }
 };
 

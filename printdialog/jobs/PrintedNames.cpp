@@ -17,14 +17,14 @@
 namespace printdialog {
 namespace {
 
-/// A folder that has yet to be made most likely allows the usual length.
+/// A folder that does not exist yet most likely allows the usual length.
 qsizetype longestNameIn(const QString &folder)
 {
     const long bytes = ::pathconf(QFile::encodeName(folder).constData(), _PC_NAME_MAX);
     return (bytes > 0 ? bytes : NAME_MAX) - PrintedNames::ticketSuffix.size();
 }
 
-/// As much of the beginning as takes no more bytes than that.
+/// The longest beginning of the text that fits in that many bytes.
 QString shortened(QString text, qsizetype bytes)
 {
     while (!text.isEmpty() && QFile::encodeName(text).size() > bytes)
@@ -40,7 +40,7 @@ PrintedNames::PrintedNames(const OutputFolder &folder)
 {
     for (const QString &photo : folder.photos) {
         const QByteArray path = QFile::encodeName(photo);
-        // A link is the photo as the user knows it, too.
+        // A symbolic link to a photo is protected as well.
         for (const int flags : {0, AT_SYMLINK_NOFOLLOW}) {
             struct stat status = {};
             if (::fstatat(AT_FDCWD, path.constData(), &status, flags) == 0)
@@ -64,7 +64,7 @@ QString PrintedNames::nameFor(const QString &photoPath) const
     return name;
 }
 
-/// A name that cannot be looked at counts as free: the attempt to write there says what is wrong with it.
+/// A name that cannot be examined counts as free: writing to it then reports the reason.
 bool PrintedNames::isFree(const QString &name) const
 {
     if (taken_.contains(name))
@@ -74,7 +74,7 @@ bool PrintedNames::isFree(const QString &name) const
         struct stat status = {};
         if (::lstat(path.constData(), &status) != 0)
             continue;
-        // Another link is replaced itself; what it leads to is not.
+        // Any other link is replaced itself; its target is not.
         if (!folder_.isOverwritten || photos_.contains({status.st_dev, status.st_ino}))
             return false;
     }

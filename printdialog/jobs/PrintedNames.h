@@ -11,17 +11,17 @@
 
 namespace printdialog {
 
-/// Where the built-in printer leaves its files.
+/// Where the built-in printer writes its files.
 struct OutputFolder
 {
     QString path;
-    bool isOverwritten = false; ///< Files of an earlier run are replaced.
-    QStringList photos = {};    ///< Files that are not replaced all the same.
+    bool isOverwritten = false; ///< Whether files of an earlier run are replaced.
+    QStringList photos = {};    ///< Files that are never replaced.
 };
 
-/// The names of the files that one run of printing leaves in a folder. A photo has two, its page and its
-/// ticket, of the same name but for the suffix. No file that another run or program has made is replaced,
-/// unless the folder is overwritten; a photo never is, nor what this run has made.
+/// The names of the files that one run writes to a folder. Each photo has two, its page and its ticket, whose
+/// names differ only in the suffix. Files of other runs or programs are replaced only if `isOverwritten` is
+/// set. Photos and this run's own files are never replaced.
 class PrintedNames
 {
 public:
@@ -32,10 +32,10 @@ public:
 
     const OutputFolder &folder() const { return folder_; }
     /// The name for a photo's files, without suffix: the photo's file name without its last suffix, control
-    /// characters and leading dots; "photo" when nothing is left. `photo-2`, `photo-3`, ... when one of the
-    /// two is taken. Of a long name, only as much as the folder allows.
+    /// characters and leading dots, or "photo" when nothing is left. If one of the two files exists,
+    /// `photo-2`, `photo-3` and so on. A long name is shortened to what the folder allows.
     QString nameFor(const QString &photoPath) const;
-    /// This run has given the name to its files, or another program has taken it.
+    /// Marks the name as used, by this run's files or by another program.
     void markTaken(const QString &name) { taken_.insert(name); }
 
 private:

@@ -14,8 +14,8 @@ class PpdDocument;
 class SessionPrinter;
 class SessionTicket;
 
-/// The callback object of a dialog that keeps no constraints: the panels work through the print settings.
-/// What it hands out is the session's and must outlive it.
+/// The callback object of a dialog that does not check constraints: the panels work through the print
+/// settings. The objects that it hands out belong to the session and must outlive it.
 class CallbackObject : public QObject, public pdekit::PrintDialogCallback, public pdekit::PrintSession
 {
     Q_OBJECT
@@ -44,7 +44,7 @@ class ConstrainingCallbackObject final : public CallbackObject, public pdekit::C
     Q_INTERFACES(pdekit::ConstraintHandling)
 
 public:
-    /// True when the choice is the job's now.
+    /// True when the choice now applies to the job.
     using Rule = std::function<bool(const QString &key, const QString &choice)>;
 
     ConstrainingCallbackObject(const PpdDocument &ppd, SessionPrinter &printer, SessionTicket &ticket,

@@ -13,7 +13,7 @@ namespace printdialog {
 
 namespace {
 
-/// Options whose marks libcups changes when it marks another of them (ppdMarkOption).
+/// Marking one of these options makes libcups change the marks of others (ppdMarkOption).
 const std::array<QString, 4> coupledKeys = {QStringLiteral("InputSlot"), QStringLiteral("ManualFeed"),
                                             QStringLiteral("PageRegion"), QStringLiteral("PageSize")};
 
@@ -43,7 +43,8 @@ QStringList ChosenOptions::chosenKeys() const
 Ruling ChosenOptions::weigh(const QString &key, const QString &choice) const
 {
     Ruling ruling = marker_.check(key, choice);
-    // Only when the job is made are all of the ticket's choices there.
+    // In settings mode, conflicts are checked when the job is made: only then does the ticket have all
+    // choices.
     if (mode_ == PanelMode::Settings && ruling.verdict == Verdict::Conflict)
         ruling.verdict = Verdict::Accepted;
     return ruling;
@@ -131,7 +132,7 @@ void ChosenOptions::noteChosen(const QString &key)
     chosenAt_.insert(key, ++acts_);
 }
 
-/// The choice in the PPD's spelling; nothing for one that is none of the PPD's.
+/// The choice in the PPD's spelling; nothing for one that the PPD does not have.
 std::optional<QString> ChosenOptions::canonical(const QString &key) const
 {
     const auto chosen = choice(key);

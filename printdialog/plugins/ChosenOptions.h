@@ -22,20 +22,21 @@ namespace printdialog {
 struct ChoiceChange
 {
     QString key;
-    std::optional<QString> before; ///< nothing: none was marked, as for an option without a usable default
+    std::optional<QString>
+        before; ///< nothing when none was marked, as for an option without a usable default
     std::optional<QString> after;
-    bool isAsked = true; ///< false: another option's choice has changed this one (PageRegion by PageSize)
+    bool isAsked = true; ///< false: changed by another option's choice, as PageRegion by PageSize
 };
 
-/// What is chosen for the next job of one session: the choice of each of the PPD's options. Everything that
-/// shows, keeps, undoes or prints choices reads them here, and hears of each change.
+/// The choices for the next job of one session, one for each of the PPD's options. All code that shows,
+/// stores, undoes or prints choices reads them here and is notified of each change.
 ///
-/// In constraint mode the choices are the PPD's marks, and each is ruled on before it is made. In settings
-/// mode they are those of the job ticket, which panels write when they are saved (adopt()), over the PPD's
-/// marks; what goes together is weighed when the job is made (markTicket()).
+/// In constraint mode, the choices are the PPD's marks, and each one is checked before it is made. In
+/// settings mode, they are those of the job ticket, which panels write when they are saved (adopt()), and
+/// else the PPD's marks; conflicts are checked when the job is made (markTicket()).
 ///
-/// A choice costs the same however many options there are. Borrows the document, which must outlive it and
-/// not be moved meanwhile. Main thread only.
+/// The cost of a choice does not depend on the number of options. Borrows the document, which must outlive it
+/// and must not be moved. Main thread only.
 class ChosenOptions : public QObject
 {
     Q_OBJECT
@@ -44,37 +45,37 @@ public:
     ChosenOptions(PpdDocument &ppd, PanelMode mode);
 
     /// Option keyword to choice keyword, both in the PPD's spelling, of every option that has a choice. While
-    /// a number is being typed, the choice before it counts.
+    /// a number is being typed, the previous choice remains.
     const QMap<QString, QString> &choices() const { return choices_; }
-    /// What is recorded in the ticket, as it stands there, or else the PPD's mark.
+    /// The choice recorded in the ticket, exactly as written there, or else the PPD's mark.
     std::optional<QString> choice(const QString &key) const;
-    /// The options that were chosen, by whoever it was, the last one first.
+    /// The options that were chosen, by the user or a program, latest first.
     QStringList chosenKeys() const;
-    /// For the panels of settings mode. What they write counts once it is adopted.
+    /// For the panels in settings mode. What they write takes effect with adopt().
     SessionTicket &ticket() { return ticket_; }
 
-    /// What choose() would say. Changes nothing.
+    /// The ruling that choose() would return. Changes nothing.
     Ruling weigh(const QString &key, const QString &choice) const;
-    /// Makes a choice unless it is refused, in the ruling's spelling. A refusal leaves everything as it was,
-    /// and is announced with the control that the user acted on; null for a program's choice.
+    /// Makes a choice, in the ruling's spelling, unless it is refused. A refusal changes nothing and is
+    /// signalled together with `sender`, the control that the user acted on; null for a program's choice.
     Ruling choose(const QString &key, const QString &choice, QWidget *sender = nullptr);
-    /// Makes choices of the PPD, whatever stands between them. What is no choice of the PPD is passed over.
-    /// Answers the options whose choice has changed.
+    /// Makes choices even if they conflict. Skips those that the PPD does not have. Returns the options whose
+    /// choice has changed.
     QStringList chooseTogether(const QMap<QString, QString> &choices);
-    /// Takes note of what a panel has saved for these options in the ticket.
+    /// Adopts what a panel has saved for these options in the ticket.
     void adopt(const QStringList &keys);
-    /// Nobody counts as having chosen these options any more: their panel is lost. Their choices stay.
+    /// Drops these options from chosenKeys(), since their panel is lost. Their choices stay.
     void forget(const QStringList &keys);
 
-    /// See ChoiceMarker::plan: what of the wanted choices goes together, and with the others.
+    /// See ChoiceMarker::plan: the wanted choices that are allowed together and with `base`.
     ChoicePlan plan(const QMap<QString, QString> &wanted, const QMap<QString, QString> &base) const;
     /// See ChoiceMarker::changesThatAllow.
     QList<OptionChoice> changesThatAllow(const Ruling &refusal) const;
 
-    /// Marks the ticket's choices in the PPD. What is no choice of the PPD is replaced by the option's
-    /// default, in the ticket as well; answers a ruling for each.
+    /// Marks the ticket's choices in the PPD. A choice that the PPD does not have is replaced by the option's
+    /// default, in the ticket as well. Returns a ruling for each replaced choice.
     QList<Ruling> markTicket();
-    /// Two choices that may not be together; the ruling's key is the one of them that was chosen last.
+    /// Two choices that conflict; the ruling's key is the option that was chosen later.
     std::optional<Ruling> firstConflict() const { return marker_.firstConflict(chosenKeys()); }
 
 Q_SIGNALS:
@@ -91,8 +92,7 @@ private:
     PanelMode mode_;
     ChoiceMarker marker_;
     SessionTicket ticket_;
-    QMap<QString, QString>
-        choices_; // the PPD's marks and the ticket's choices, as they are known to everyone
+    QMap<QString, QString> choices_; // the PPD's marks and the ticket's choices, as last signalled
     QHash<QString, quint64> chosenAt_;
     quint64 acts_ = 0;
 };

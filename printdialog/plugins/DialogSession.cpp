@@ -77,7 +77,7 @@ QStringList DialogSession::restoreFailures() const
 
 // Choices
 
-// A panel's question, in constraint-handling mode.
+// Called by a panel in constraint-handling mode.
 bool DialogSession::rule(const QString &key, const QString &choice)
 {
     lastRuling_ = chosen_.choose(key, choice, pdekit::actingControl());
@@ -88,7 +88,7 @@ bool DialogSession::rule(const QString &key, const QString &choice)
     return lastRuling_.letsThrough();
 }
 
-// A choice may change that of another option. The panel that has asked records its own choice itself.
+// A choice may change that of another option. The panel that made the choice records its own.
 QList<GuardedPanel *> DialogSession::tellPanels(const QString &askedKey)
 {
     QList<GuardedPanel *> told;
@@ -147,7 +147,7 @@ void DialogSession::adoptChoices(GuardedPanel &panel)
         return;
     panel.save();
     chosen_.adopt(panel.keys());
-    changedKeys_.clear(); // the panel's own
+    changedKeys_.clear(); // of the panel itself
 }
 
 void DialogSession::savePanels()
@@ -159,7 +159,7 @@ void DialogSession::savePanels()
     changedKeys_.clear();
 }
 
-// A panel restores from where its mode keeps the choices, so what it has recorded goes there first.
+// A panel restores from where its mode stores the choices, so its recorded choices are saved there first.
 void DialogSession::refreshPanels()
 {
     begunKeys_.clear();
@@ -184,7 +184,7 @@ QList<QPair<QString, QString>> DialogSession::summary()
         auto info = panel->summary();
         if (!info)
             continue;
-        // They come by name, so that another language would have another order.
+        // The entries are sorted by translated name; the options' order does not depend on the language.
         const QStringList keys = panel->keys();
         for (const QString &key : keys) {
             auto entry = info->constFind(bundle_->localizedString(key));

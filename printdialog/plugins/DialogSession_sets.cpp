@@ -57,7 +57,7 @@ void DialogSession::showReplaced(const QList<Ruling> &replaced)
         if (!marked || !panel)
             continue;
         panel->choiceDidChange(ruling.key, *marked);
-        // A ticket without one of its options makes a panel take the defaults of all.
+        // If the ticket lacks one of a panel's options, the panel restores the defaults of all.
         const QStringList keys = panel->keys();
         const pdekit::PPDDictionary &recorded = chosen_.ticket().options();
         if (std::ranges::all_of(keys, [&recorded](const QString &key) { return recorded.contains(key); }))

@@ -82,7 +82,7 @@ QWidget *GuardedPanel::view()
     return isLost() ? nullptr : view;
 }
 
-/// Why the panel did not do what was asked, empty when it did; nothing when it is lost.
+/// Why the request failed; empty when it succeeded, nothing when the panel is lost.
 std::optional<QString> GuardedPanel::problemOf(bool (pdekit::PrintDialogPanel::*request)(QString *))
 {
     QString error;

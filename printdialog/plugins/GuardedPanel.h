@@ -13,10 +13,9 @@
 
 namespace printdialog {
 
-/// A plug-in's panel as the dialog sees it: nothing else calls one. A panel that throws anything, here or
-/// while it deals with an event of its view, is lost: it is called no more, and what is asked of it is
-/// answered as by a panel that has nothing to say. Everything that a panel reports goes to the system log as
-/// well. Main thread only.
+/// The only way in which the dialog calls a plug-in's panel. A panel that throws, here or while handling an
+/// event of its view, is lost: it is not called again, and this class returns empty answers for it. All
+/// failures are also logged to the system log. Main thread only.
 class GuardedPanel : public QObject
 {
     Q_OBJECT
@@ -27,10 +26,10 @@ public:
     explicit GuardedPanel(pdekit::PanelPointer panel);
     ~GuardedPanel() override;
 
-    /// Asks the panel for what it does not change, and has it restore the job's choices. Once, first.
+    /// Queries the panel's constant properties, and makes it restore the job's choices. Call once, first.
     void open();
 
-    /// Fit to be shown; empty when the panel has none.
+    /// Safe to show; empty when the panel has none.
     QString name() const { return name_; }
     QString kind() const { return kind_; }
     QStringList keys() const { return keys_; }
@@ -44,23 +43,23 @@ public:
     void choiceDidChange(const QString &key, const QString &choice);
     bool shouldShowHelp();
 
-    /// Whether the panel takes a program's choices (pdekit::ChoiceReceiver).
+    /// Whether the panel accepts a program's choices (pdekit::ChoiceReceiver).
     bool receivesChoices() const;
     void receiveChoice(const QString &key, const QString &choice);
 
     bool isLost() const { return !thrown_.isEmpty(); }
-    /// A sentence about the loss; empty before.
+    /// A sentence about the loss; empty while the panel works.
     QString loss() const;
-    /// A sentence about the choices that the panel has not handed over: it is lost, or its last save failed.
-    /// Else empty.
+    /// A sentence when the panel's choices are missing because it is lost or its last save failed; else
+    /// empty.
     QString missing() const;
-    /// A sentence when the panel could not read the job's choices the last time; else empty.
+    /// A sentence when the panel's last restore failed; else empty.
     QString restoreFailure() const;
 
 Q_SIGNALS:
-    /// The panel has just been lost. Its code may still be running, further out.
+    /// The panel has just been lost. Its code may still be on the call stack.
     void lost();
-    /// There is another restoreFailure() now.
+    /// restoreFailure() has changed.
     void restoreFailed();
 
 private:

@@ -26,7 +26,7 @@ QString caughtText()
         throw;
     } catch (const std::exception &exception) {
         text = insideSentence(QString::fromUtf8(exception.what()));
-    } catch (...) { // anything can be thrown, and has no words then
+    } catch (...) { // not a std::exception, so without a text
     }
     return text.isEmpty() ? QCoreApplication::translate("PluginGuard", "an error without a description")
                           : text;

@@ -10,14 +10,14 @@
 
 namespace printdialog {
 
-/// The exception that is being caught, in its own words, which are fit to be shown, without a full stop.
+/// The text of the exception being handled, safe to show, without a final full stop.
 QString caughtText();
 
-/// The one way in which the dialog calls a plug-in: whatever that throws ends here. Nothing when the call has
-/// come back, else caughtText().
+/// Calls a plug-in; every such call of the dialog goes through here, so that exceptions end here. Returns
+/// nothing when the call has returned, else caughtText().
 std::optional<QString> thrownBy(const std::function<void()> &call);
 
-/// A text of a plug-in's, fit to stand inside a sentence.
+/// A plug-in's text, made fit for use inside a sentence.
 QString insideSentence(const QString &pluginText);
 
 } // namespace printdialog

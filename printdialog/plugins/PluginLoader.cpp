@@ -33,7 +33,7 @@ bool isBundleName(const QString &name)
            !name.contains(QLatin1Char('/')) && !name.contains(QChar::Null);
 }
 
-/// Seen from the program, so that a whole that was installed elsewhere, or moved, still finds its parts.
+/// Relative to the program, so that an installed tree that was moved still finds its parts.
 QString installedFolder()
 {
     return QDir::cleanPath(QCoreApplication::applicationDirPath() +

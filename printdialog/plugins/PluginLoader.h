@@ -13,16 +13,16 @@ namespace printdialog {
 
 /// Why a plug-in offers no panels.
 enum class PluginFault {
-    NotFound,    ///< no plug-in folder holds a bundle of any of the names; nothing is wrong with the printer
-    BrokenInfo,  ///< its Info.json is missing, too large, not JSON, or lacks what a bundle needs
+    NotFound,    ///< no plug-in folder holds a bundle of these names; the printer itself is fine
+    BrokenInfo,  ///< its Info.json is missing, too large, not JSON, or lacks a required key
     NotLoadable, ///< its module is missing or the dynamic linker refuses it
     NotAPlugin,  ///< its module is not a print-dialog plug-in
-    Refused,     ///< the plug-in does not take the bundle for its own
-    Failed,      ///< the plug-in has thrown something
+    Refused,     ///< the plug-in was built for another bundle
+    Failed,      ///< the plug-in has thrown an exception
     NoPanels,    ///< it offers no panel for this printer
 };
 
-/// A plug-in in its bundle.
+/// A plug-in and its bundle.
 struct LoadedPlugin
 {
     pdekit::Bundle bundle;
@@ -38,11 +38,11 @@ public:
     static QStringList folders();
 
     /// Loads the first of the bundles (plain file names) that is installed, from the first folder that has
-    /// it. Its Info.json is checked, and the metadata of its module, before any of its code runs. A PPD may
-    /// name extensions of other systems' dialogs as well, which are not looked for.
+    /// it. Checks its Info.json and its module's metadata before any of its code runs. Names of other
+    /// systems' dialog extensions, which a PPD may list as well, are skipped.
     static Result<LoadedPlugin, PluginFault> load(const QStringList &names);
 
-    /// The plug-in's panels over the callback object; at least one.
+    /// Makes the plug-in's panels for the callback object; at least one.
     static Result<pdekit::PanelList, PluginFault> panels(const LoadedPlugin &plugin,
                                                          const pdekit::HostInfo &hostInfo);
 };

@@ -13,14 +13,14 @@ namespace printdialog {
 struct PrinterDescription
 {
     Destination destination;
-    QString text;      ///< what people call it
+    QString text;      ///< the name shown to people
     QString deviceUri; ///< empty when it is not known
     bool isBuiltIn = false;
-    bool hasPpd = true; ///< without one (a raw queue) there is nothing to choose
+    bool hasPpd = true; ///< false for a raw queue, which has nothing to choose
     QString uri = {};   ///< the queue's address at its print server; empty for the built-in printer
 };
 
-/// How the dialog works with its panels.
+/// Who owns the choices: the dialog or its panels.
 enum class PanelMode {
     Constraint, ///< the dialog owns the PPD's marks and rules on each choice
     Settings,   ///< the panels keep their choices in the job ticket, and the dialog checks it before printing

@@ -28,7 +28,7 @@ QByteArray builtInPpd()
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-/// What stands in for a PPD where there is none. Its page is for the preview only.
+/// The substitute for a missing PPD. Its page is for the preview only.
 QByteArray standIn()
 {
     const QByteArray size = QCoreApplication::translate("SessionOpening", "As set at the printer").toUtf8();

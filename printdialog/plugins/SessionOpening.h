@@ -10,14 +10,15 @@ namespace printdialog {
 
 using SessionResult = Result<std::unique_ptr<DialogSession>, PpdFault>;
 
-/// A session for the built-in printer, with its own PPD or the one in the file. Panels are not loaded yet.
+/// Opens a session for the built-in printer, with its own PPD or the one in the file. Panels are not loaded
+/// yet.
 SessionResult openBuiltInPrinter(const std::optional<QString> &ppdFile, PanelMode mode);
 
-/// A session for a queue with its PPD. Panels are not loaded yet.
+/// Opens a session for a queue with its PPD. Panels are not loaded yet.
 SessionResult openQueue(const Queue &queue, const CheckedPpd &ppd, PanelMode mode);
 
-/// A session for a queue without a PPD: it has no options and no panels, and one page size, which stands for
-/// whatever is set at the printer.
+/// Opens a session for a queue without a PPD. It has no options and no panels, and one page size, which
+/// stands for the one set at the printer.
 SessionResult openRawQueue(const Queue &queue, PanelMode mode);
 
 } // namespace printdialog

@@ -9,7 +9,7 @@ namespace printdialog {
 
 namespace {
 
-/// Where the session's PPD is had: from the session, and from nowhere else.
+/// The URL that stands for the session's own PPD, the only one that can be read.
 const QUrl descriptionUrl(QStringLiteral("ppd:session"));
 
 } // namespace

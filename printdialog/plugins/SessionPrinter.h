@@ -10,7 +10,7 @@ namespace printdialog {
 
 class PpdDocument;
 
-/// What the panels learn of the printer. The PPD is borrowed and must outlive it.
+/// The printer as the panels see it. The PPD is borrowed and must outlive this object.
 class SessionPrinter final : public pdekit::Printer
 {
 public:

@@ -11,8 +11,8 @@ namespace printdialog {
 
 class PpdDocument;
 
-/// Choices in words for the window: by the PPD's texts in the user's language, as far as it has them, without
-/// keywords. Plain text. Borrows the document.
+/// Explains choices in words for the window. Uses the PPD's texts, in the user's language where it has them,
+/// and no keywords. Plain text. Borrows the document.
 class ChoiceExplanation
 {
     Q_DECLARE_TR_FUNCTIONS(printdialog::ChoiceExplanation)
@@ -20,11 +20,11 @@ class ChoiceExplanation
 public:
     explicit ChoiceExplanation(const PpdDocument &document);
 
-    /// Why the choice is refused, with the other options and their choices: one sentence.
+    /// One sentence: why the choice is refused, with the other options and their choices.
     QString refusal(const Ruling &ruling) const;
-    /// "Quality to Fine": a change of one option.
+    /// A change of one option, such as "Quality to Fine".
     QString change(const OptionChoice &change) const;
-    /// The changes, one after the other.
+    /// The changes as a list.
     QString changes(const QList<OptionChoice> &changes) const;
 
 private:

@@ -17,7 +17,7 @@ namespace {
 
 constexpr qsizetype mostListed = 12;
 constexpr qsizetype mostOptionsListed = 20;
-constexpr qsizetype mostQuoted = 60; // characters of what somebody asked for
+constexpr qsizetype mostQuoted = 60; // characters of a requested text
 
 struct Text
 {
@@ -29,7 +29,7 @@ QString quoted(const QString &keyword, const QString &text)
     return text == keyword ? Text::tr("\"%1\"").arg(keyword) : Text::tr("\"%1\" (%2)").arg(keyword, text);
 }
 
-/// The option list that libcups fills in.
+/// Owns the option list that libcups fills in.
 class ConflictList
 {
 public:
@@ -116,7 +116,7 @@ QList<Ruling> ChoiceMarker::markTogether(const QMap<QString, QString> &choices)
 
 void ChoiceMarker::markUnchecked(const QString &key, const QString &choice)
 {
-    // libcups returns the number of conflicts in the whole PPD, which says nothing about this choice.
+    // The result is ignored: libcups returns the number of conflicts in the whole PPD, not of this choice.
     ppdMarkOption(document_.record(), key.toLatin1().constData(), choice.toLatin1().constData());
 }
 

@@ -14,31 +14,32 @@ namespace printdialog {
 
 class PpdDocument;
 
-/// What the constraint handling says to one choice.
+/// The verdict of the constraint handling on one choice.
 enum class Verdict {
     Accepted,
-    Incomplete, ///< The beginning of a number, for an option with numbers. Let through; nothing is marked.
+    Incomplete, ///< The beginning of a number, for a numeric option. Let through; nothing is marked.
     UnknownOption,
     UnknownChoice,
-    Conflict, ///< Something that is marked may not be together with it.
+    Conflict, ///< It conflicts with a marked choice.
 };
 
 struct Ruling
 {
     Verdict verdict = Verdict::Accepted;
-    QString key; ///< The option that was asked for; plain text.
-    QString
-        choice; ///< The choice's keyword in the PPD's spelling (`1.50` for `1.5`); unknown: as asked, plain.
+    QString key; ///< The requested option; plain text.
+    /// The choice's keyword in the PPD's spelling (`1.50` for `1.5`); an unknown one as requested, plain
+    /// text.
+    QString choice;
     QString text;                    ///< One sentence for people, plain text; empty when accepted.
-    QString otherOption;             ///< In a conflict: the keyword of the option that stands in the way,
+    QString otherOption;             ///< In a conflict: the keyword of the other option,
     QString otherChoice;             ///< and of its marked choice.
-    QList<OptionChoice> others = {}; ///< In a conflict: all that the choice may not be together with.
+    QList<OptionChoice> others = {}; ///< In a conflict: all choices that the choice conflicts with.
 
-    /// Nothing stands against going on: accepted, or still being typed.
+    /// Whether the choice is accepted, or may become one while it is typed.
     bool letsThrough() const { return verdict == Verdict::Accepted || verdict == Verdict::Incomplete; }
 };
 
-/// What becomes of choices that were made another time.
+/// Which saved choices can be made.
 struct ChoicePlan
 {
     QMap<QString, QString> choices; ///< those that can be made together, in the PPD's spelling
@@ -46,49 +47,47 @@ struct ChoicePlan
 };
 
 /// The constraint handling: marks choices in one PPD and refuses what the PPD does not allow. Borrows the
-/// document, which must outlive it and not be moved meanwhile; same thread.
+/// document, which must outlive it and must not be moved. Use it on the document's thread.
 ///
-/// A choice is named by its keyword, letter case too, or by any plain decimal spelling of its number. Whether
-/// a choice is in conflict is libcups' own answer (cupsGetConflicts), except that a conflict between other
-/// options, which was there before, does not count against it. An option's present choice is judged like any
-/// other.
+/// A choice is named by its keyword, case-sensitively, or by any plain decimal spelling of its number.
+/// libcups decides whether a choice conflicts (cupsGetConflicts), except that existing conflicts between
+/// other options do not count against it. An option's present choice is judged like any other.
 class ChoiceMarker
 {
 public:
     explicit ChoiceMarker(PpdDocument &document);
 
-    /// What mark() would say. Marks nothing.
+    /// The ruling that mark() would return. Marks nothing.
     Ruling check(const QString &key, const QString &choice) const;
-    /// Marks the choice when it is accepted. Otherwise the PPD stays exactly as it was.
+    /// Marks the choice when it is accepted. Otherwise the PPD is unchanged.
     Ruling mark(const QString &key, const QString &choice);
 
-    /// Marks all the choices at once, also where they stand in each other's way: firstConflict() tells
-    /// afterwards. Instead of what is no choice of the PPD the option's default is marked; the answer has a
-    /// ruling for each.
+    /// Marks all the choices at once, even if they conflict (check with firstConflict()). In place of a
+    /// choice that the PPD does not have, marks the option's default, and returns a ruling for each of these.
     QList<Ruling> markTogether(const QMap<QString, QString> &choices);
 
-    /// Marks choices of the PPD, also where they stand in each other's way.
+    /// Marks a choice of the PPD even if it conflicts.
     void markUnchecked(const QString &key, const QString &choice);
 
-    /// Which of the wanted choices the PPD has, and allows together with the choices in `base`, which count
-    /// instead of what is marked. All of them when they go together, in whatever order; else as many as can
-    /// be made one after the other. Marks nothing.
+    /// Finds the wanted choices that the PPD has and allows together with those in `base`, which count in
+    /// place of the marks. All of them when they are allowed together, in any order; else as many as can be
+    /// made one after the other. Marks nothing.
     ChoicePlan plan(const QMap<QString, QString> &wanted, const QMap<QString, QString> &base) const;
 
-    /// The changes of other options that would allow the choice that the ruling refuses, worked out by
-    /// libcups (cupsResolveConflicts) from what is marked: never of the page size, nor of the option itself.
-    /// Nothing when there is no such way. Marks nothing.
+    /// The changes of other options that would allow the refused choice, found by libcups
+    /// (cupsResolveConflicts) from the marks. They never change the page size or the option itself. Empty
+    /// when there are none. Marks nothing.
     QList<OptionChoice> changesThatAllow(const Ruling &refusal) const;
 
-    /// The choice's keyword in the PPD's spelling, or nothing when it is no choice of the option.
+    /// The choice's keyword in the PPD's spelling, or nothing when the option does not have it.
     std::optional<QString> canonicalChoice(const QString &key, const QString &choice) const;
 
     /// The marked choice of every option that has one.
     QMap<QString, QString> markedChoices() const;
-    /// A sentence for each conflict within the marked choices, mirrored constraints once; mostly empty.
+    /// A sentence for each conflict among the marked choices; mirrored constraints count once. Mostly empty.
     QStringList conflicts() const;
-    /// The first conflict within the marked choices; its key and otherOption are the two that may not be
-    /// together. The key is the one of them that stands first in `keys`, if any does.
+    /// The first conflict among the marked choices; its key and otherOption are the conflicting options. The
+    /// key is the one that comes first in `keys`, if either is in it.
     std::optional<Ruling> firstConflict(const QStringList &keys = {}) const;
 
 private:
@@ -102,7 +101,7 @@ private:
 
     PpdDocument &document_;
     PpdConstraints constraints_;
-    mutable QHash<QString, NumericChoices> numbers_; // worked out when first asked for
+    mutable QHash<QString, NumericChoices> numbers_; // computed on first use
 };
 
 } // namespace printdialog

@@ -13,14 +13,14 @@ namespace printdialog {
 
 namespace {
 
-/// `over` counts where both have a choice.
+/// Where both have a choice, the one in `over` wins.
 QMap<QString, QString> merged(QMap<QString, QString> choices, const QMap<QString, QString> &over)
 {
     choices.insert(over);
     return choices;
 }
 
-/// libcups leaves the page size alone, but not its other name.
+/// libcups does not change PageSize, but it does change PageRegion.
 bool isPageKey(const QString &key)
 {
     return key == QLatin1String("PageSize") || key == QLatin1String("PageRegion");
@@ -49,7 +49,7 @@ ChoicePlan ChoiceMarker::plan(const QMap<QString, QString> &wanted, const QMap<Q
         plan.choices = waiting;
         return plan;
     }
-    // One choice may be in another's way until a third is made, so go round as long as that helps.
+    // One choice may block another until a third is made, so repeat as long as that helps.
     QMap<QString, QString> made = base;
     for (qsizetype before = -1; before != waiting.size();) {
         before = waiting.size();
@@ -91,8 +91,8 @@ QList<OptionChoice> ChoiceMarker::changesThatAllow(const Ruling &refusal) const
         changes += OptionChoice{key, choice};
     }
     cupsFreeOptions(count, options);
-    // libcups gives up only after a while, and a resolver of the PPD's own may be wrong: what is offered has
-    // to work.
+    // Verify the result, since the offer has to work: libcups may return after giving up, and a PPD's own
+    // resolver may be wrong.
     const auto broken = constraints_.broken(together);
     if (!isUsable ||
         std::ranges::any_of(broken, [&](const auto &each) { return namesOneOf(each, together); }))

@@ -13,14 +13,14 @@ namespace printdialog {
 
 namespace {
 
-constexpr qsizetype exactDigits = 17; // that fit into 64 bits together with the sign
+constexpr qsizetype exactDigits = 17; // fit in 64 bits with the sign
 
 bool isDigit(QChar character)
 {
     return character >= u'0' && character <= u'9';
 }
 
-/// The two halves of a number around its point, without sign.
+/// The digits before and after a number's decimal point, without sign.
 struct Halves
 {
     bool negative;
@@ -36,7 +36,7 @@ Halves halves(const QString &number)
     return {number.startsWith(u'-'), digits.left(point), point < 0 ? QString() : digits.sliced(point + 1)};
 }
 
-/// The same for all spellings of a value, and different for any two values, however many digits they have.
+/// The canonical spelling of a value, exact for any number of digits.
 QString shortest(const QString &number)
 {
     auto [negative, whole, fraction] = halves(number);
@@ -49,7 +49,7 @@ QString shortest(const QString &number)
     return QStringLiteral("%1%2.%3").arg(negative ? QStringLiteral("-") : QString(), whole, fraction);
 }
 
-/// In units of the last decimal.
+/// The number in units of the last decimal.
 std::optional<qint64> scaled(const QString &number, qsizetype decimals)
 {
     const auto [negative, whole, fraction] = halves(number);

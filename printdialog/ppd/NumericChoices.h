@@ -10,11 +10,11 @@
 
 namespace printdialog {
 
-/// What a text is as a plain decimal number: digits with an optional sign and point; no exponent, no other
-/// base.
+/// How a text reads as a plain decimal number: digits with an optional sign and point, without exponent or
+/// other bases.
 enum class DecimalText {
     Number,    ///< `12`, `-0.5`, `+12`, `.5`, `1.`
-    Beginning, ///< What a person has typed before the first digit: nothing, `-`, `+`, `.`, `-.`, `+.`
+    Beginning, ///< Typed so far, without a digit: nothing, `-`, `+`, `.`, `-.`, `+.`
     Other,
 };
 
@@ -24,14 +24,14 @@ DecimalText decimalText(const QString &text);
 class NumericChoices
 {
 public:
-    /// Takes all choice keywords of the option and keeps the numbers among them.
+    /// Keeps the numbers among the option's choice keywords.
     explicit NumericChoices(const QStringList &keywords = {});
 
     bool isEmpty() const { return keywordOf_.isEmpty(); }
-    /// The choice keyword of the number's value: `1.50` for `1.5`. The first one when several have it.
+    /// The choice keyword with the number's value, such as `1.50` for `1.5`; the first of several.
     std::optional<QString> byValue(const QString &number) const;
-    /// What is allowed, such as `-25 to 25` or `0.00 to 3.00 in steps of 0.01`, in the PPD's own spelling.
-    /// Empty when there are fewer than three values or their distances differ.
+    /// The allowed range in the PPD's spelling, such as `-25 to 25` or `0.00 to 3.00 in steps of 0.01`. Empty
+    /// when there are fewer than three values or their distances differ.
     QString range() const;
 
 private:

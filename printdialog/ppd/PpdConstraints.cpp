@@ -73,7 +73,7 @@ void PpdConstraints::loadPairs(const ppd_file_s &record)
 
 void PpdConstraints::add(Constraint constraint)
 {
-    // A constraint of an option with itself says nothing that a person could follow.
+    // Skip a constraint of an option with itself: it means nothing to people.
     const auto ofFirst = [&](const Term &term) {
         const QString &first = constraint.constFirst().option;
         return same(term.option, first) || (isPageOption(term.option) && isPageOption(first));
@@ -83,7 +83,7 @@ void PpdConstraints::add(Constraint constraint)
     for (Term &term : constraint) {
         const auto keyword = keywordOf_.constFind(term.option.toLower());
         if (keyword == keywordOf_.cend())
-            return; // about an option that the PPD does not have: never broken
+            return; // for an option that the PPD does not have: never broken
         term.option = *keyword;
     }
     const qsizetype index = constraints_.size();
@@ -152,7 +152,7 @@ QList<OptionChoice> PpdConstraints::against(const QString &option, const QString
 QList<QList<OptionChoice>> PpdConstraints::broken(const Supposed &supposed) const
 {
     QList<QList<OptionChoice>> all;
-    QSet<QString> seen; // constraints mostly come in two directions
+    QSet<QString> seen; // most constraints are given in both directions
     for (const Constraint &constraint : constraints_) {
         QList<OptionChoice> together;
         QStringList names;

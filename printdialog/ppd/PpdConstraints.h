@@ -16,7 +16,7 @@ namespace printdialog {
 
 class PpdDocument;
 
-/// A choice of an option, by their keywords.
+/// An option and its choice, by their keywords.
 struct OptionChoice
 {
     QString option;
@@ -25,25 +25,25 @@ struct OptionChoice
     bool operator==(const OptionChoice &) const = default;
 };
 
-/// Which constraint forbids what. libcups tells whether a choice is in conflict, and with which options, but
-/// counts in every conflict that is anywhere in the PPD; this tells those that a choice takes part in, and
-/// who with. The rules are libcups': letter case does not matter; a constraint without a choice means every
-/// choice but None, Off and False; PageSize and PageRegion stand for each other; cupsUIConstraints, where a
-/// PPD has them, replace the older UIConstraints and NonUIConstraints. Borrows the document.
+/// The PPD's constraints. libcups reports whether a choice conflicts, and with which options, but includes
+/// all conflicts anywhere in the PPD. This class finds those that one choice takes part in. The rules are
+/// those of libcups: case-insensitive; a constraint without a choice means every choice but None, Off and
+/// False; PageSize and PageRegion stand for each other; cupsUIConstraints, where a PPD has them, replace the
+/// older UIConstraints and NonUIConstraints. Borrows the document.
 class PpdConstraints
 {
 public:
-    /// Choices by option keyword, in the PPD's spelling, that count instead of what is marked.
+    /// Choices by option keyword, in the PPD's spelling, that count in place of the marks.
     using Supposed = QMap<QString, QString>;
 
     explicit PpdConstraints(const PpdDocument &document);
 
-    /// What is marked or supposed and may not be together with the choice: the rest of the first constraint
-    /// that would be broken if the choice were marked. Empty when none would be.
+    /// The marked or supposed choices that conflict with the choice: the other terms of the first constraint
+    /// that marking it would break. Empty when it would break none.
     QList<OptionChoice> against(const QString &option, const QString &choice,
                                 const Supposed &supposed = {}) const;
-    /// Each broken constraint among the marked and supposed choices, as the choices that may not be together,
-    /// each set once.
+    /// The broken constraints among the marked and supposed choices, each as the set of conflicting choices,
+    /// without duplicates.
     QList<QList<OptionChoice>> broken(const Supposed &supposed = {}) const;
 
 private:

@@ -25,36 +25,36 @@ namespace printdialog {
 struct PpdChoice
 {
     QString keyword;
-    QString text; ///< Plain text in the user's language where the PPD has it; the keyword where it has none.
+    QString text; ///< Plain text in the user's language if the PPD has it; the keyword if there is no text.
 
     bool operator==(const PpdChoice &) const = default;
 };
 
-/// One page size that can be printed on.
+/// A page size that can be printed.
 struct PageSize
 {
     QString keyword;
     QString text;  ///< Plain text.
-    QSizeF points; ///< Of the sheet.
-    /// The area that the printer can reach, in points; the origin is the sheet's top left. Where it prints
-    /// over the edges, it reaches beyond the sheet.
+    QSizeF points; ///< The sheet's size.
+    /// The printable area, in points; the origin is the sheet's top left. For borderless printing it extends
+    /// beyond the sheet.
     QRectF imageable;
 };
 
-/// Owner of one opened PPD and of the choices marked in it. Move-only; to be used by one thread at a time.
-/// A PPD is untrusted: only one that was checked is opened, and nothing in it is ever run or opened.
+/// Owns one opened PPD and the choices marked in it. Move-only; one thread at a time. A PPD is untrusted: it
+/// is opened only after a check, and nothing that it names is ever run or opened.
 ///
-/// Opening marks the defaults. Every option takes exactly one choice, also those that the PPD declares as
-/// `PickMany`. What can never be chosen is left out and mentioned in notes(): an option without choices, a
-/// choice that repeats an earlier one (libcups ignores letter case), a page size without dimensions, and
-/// custom choices, which need a value that no choice keyword carries.
+/// Opening marks the defaults. Every option has exactly one choice, also those that the PPD declares as
+/// `PickMany`. Parts that can never be chosen are left out and listed in notes(): an option without choices,
+/// a choice that repeats an earlier one (libcups is case-insensitive), a page size without dimensions, and
+/// custom choices, which need a value beyond a keyword.
 class PpdDocument
 {
 public:
-    /// Reads a regular file, and tries it out with checkPpd() first. Never blocks on a device or a pipe:
-    /// those are refused as NotReadable.
+    /// Reads a regular file and checks it with checkPpd() before opening it. Never blocks on a device or a
+    /// pipe: those are refused as NotReadable.
     static Result<PpdDocument, PpdFault> openFile(const QString &path);
-    /// The bytes inspected are the bytes parsed: no file stands between the two.
+    /// Parses the very bytes that were inspected, without a file in between.
     static Result<PpdDocument, PpdFault> open(const CheckedPpd &ppd);
 
     PpdDocument(PpdDocument &&) noexcept;
@@ -68,12 +68,12 @@ public:
     ppd_file_s *record() const { return record_.get(); }
     /// The path or the name that the document was opened with.
     const QString &name() const { return ppd_.name(); }
-    /// What was left out while opening, a sentence each; plain text.
+    /// A sentence for each part that was left out while opening; plain text.
     const QStringList &notes() const { return notes_; }
 
-    /// Option keywords in the PPD's order, of all groups.
+    /// The option keywords of all groups, in the PPD's order.
     const QStringList &options() const { return keywords_; }
-    /// Keywords match exactly, letter case too, here and below. Constant time.
+    /// Keywords are case-sensitive, here and below. Constant time.
     bool hasOption(const QString &key) const { return options_.contains(key); }
     /// Plain text; empty for an unknown option.
     QString optionText(const QString &key) const;
@@ -81,18 +81,18 @@ public:
     QList<PpdChoice> choices(const QString &key) const;
     /// The choice by its keyword in constant time, or null. Valid as long as this document.
     const PpdChoice *choice(const QString &key, const QString &keyword) const;
-    /// The default that the PPD declares, if it is one of the choices.
+    /// The PPD's default, if it is one of the choices.
     std::optional<QString> defaultChoice(const QString &key) const;
-    /// What is marked now. Nothing when the PPD declares no usable default and nobody has chosen yet, and for
-    /// an option that another one has put out of use (PageRegion by PageSize).
+    /// The marked choice. Nothing when the PPD has no usable default and none was chosen yet, and for an
+    /// option that another one disables (PageRegion by PageSize).
     std::optional<QString> markedChoice(const QString &key) const;
 
-    /// The page sizes that can be printed on, in the PPD's order; never empty.
+    /// The page sizes that can be printed, in the PPD's order; never empty.
     const QList<PageSize> &pageSizes() const { return pageSizes_; }
     std::optional<PageSize> pageSize(const QString &keyword) const;
 
-    /// The dialog extensions that the PPD asks for by its attributes APDialogExtension, in its order: plain
-    /// file names, never paths. Only the last component is believed, since the PPD may come from another
+    /// The dialog extensions that the PPD requests with APDialogExtension attributes, in its order. They are
+    /// plain file names, never paths: only the last component is used, since the PPD may come from another
     /// machine.
     QStringList requestedBundles() const;
 
@@ -114,7 +114,8 @@ private:
     std::unique_ptr<ppd_file_s, RecordCloser> record_;
     QStringList notes_;
     QStringList keywords_;
-    QHash<QString, std::shared_ptr<Option>> options_; // libcups walks through an option's choices one by one
+    QHash<QString, std::shared_ptr<Option>>
+        options_; // an index, since libcups searches an option's choices one by one
     QList<PageSize> pageSizes_;
     QHash<QString, qsizetype> pageSizeOf_;
 };

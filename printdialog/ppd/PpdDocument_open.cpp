@@ -18,7 +18,7 @@ namespace {
 
 constexpr float largestSide = 72'000; // points: 1,000 inches, beyond every sheet and roll
 
-constexpr qsizetype shownText = 200; // UTF-16 units of an option's or a choice's text
+constexpr qsizetype shownText = 200; // UTF-16 units, of an option's or a choice's text
 
 struct OpeningText
 {
@@ -39,7 +39,7 @@ bool isPrintable(const ppd_size_t &size)
     return isSide(size.width) && isSide(size.length);
 }
 
-/// The area may reach beyond the sheet, so that no edge stays white when the paper lies a little askew.
+/// The area may extend beyond the sheet, so that no edge stays white when the paper is slightly skewed.
 QRectF imageableArea(const ppd_size_t &size)
 {
     constexpr double largestBleed = 36; // points
@@ -75,7 +75,7 @@ Result<PpdDocument, PpdFault> PpdDocument::open(const CheckedPpd &ppd)
     if (descriptor < 0)
         return ppdNotReadable(ppd.name(), errno);
     ppdSetConformance(PPD_CONFORM_RELAXED);
-    // Closes the descriptor.
+    // ppdOpenFd() closes the descriptor.
     std::unique_ptr<ppd_file_t, RecordCloser> record(ppdOpenFd(descriptor));
     if (!record) {
         int line = 0;
@@ -120,7 +120,7 @@ void PpdDocument::localize()
 
 void PpdDocument::indexOptions()
 {
-    // libcups knows one level of groups below the groups.
+    // libcups has one level of subgroups.
     const auto indexGroup = [this](const ppd_group_t &group) {
         for (ppd_option_t &option : std::span(group.options, static_cast<size_t>(group.num_options)))
             indexOption(option);
@@ -134,7 +134,7 @@ void PpdDocument::indexOptions()
 
 void PpdDocument::indexOption(ppd_option_s &option)
 {
-    // An option that stands in two groups is two records, of which libcups marks only one.
+    // libcups has two records for an option in two groups, and marks only one of them.
     if (ppdFindOption(record_.get(), option.keyword) != &option)
         return;
     option.ui = option.ui == PPD_UI_PICKMANY ? PPD_UI_PICKONE : option.ui;

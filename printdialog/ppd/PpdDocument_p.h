@@ -13,7 +13,7 @@ struct PpdDocument::Option
     ppd_option_t *record; // owned by the document's record
     QString text;
     QList<PpdChoice> choices;
-    QHash<QString, qsizetype> indexOf; // by keyword in lower case, as libcups compares
+    QHash<QString, qsizetype> indexOf; // by keyword in lower case, since libcups is case-insensitive
 };
 
 } // namespace printdialog

@@ -34,10 +34,10 @@ QList<Filter> filtersOf(ppd_file_t *record, const char *keyword)
 
 } // namespace
 
-QByteArrayList typesTakenAsTheyAre(const PpdDocument &ppd)
+QByteArrayList typesPassedThrough(const PpdDocument &ppd)
 {
     ppd_file_t *record = ppd.record();
-    // Where the newer keyword is there, the print server does not look at the older one.
+    // The print server ignores the older keyword when the newer one is present.
     QList<Filter> filters = filtersOf(record, "cupsFilter2");
     for (int i = 0; filters.isEmpty() && i < record->num_filters; ++i)
         filters.append(filterOf(record->filters[i]));
@@ -46,7 +46,7 @@ QByteArrayList typesTakenAsTheyAre(const PpdDocument &ppd)
         if (filter.program == "-" && filter.source.contains('/') && !types.contains(filter.source))
             types.append(filter.source);
     }
-    // A program for the same type may be the cheaper way, and a pre-filter is always on it.
+    // Another filter for the same type may cost less, and a pre-filter always runs.
     for (const Filter &filter : filters + filtersOf(record, "cupsPreFilter")) {
         if (filter.program != "-")
             types.removeAll(filter.source);

@@ -9,9 +9,8 @@ namespace printdialog {
 
 class PpdDocument;
 
-/// The types of documents (MIME, lower case) that a queue with this PPD hands to its printer as they are: no
-/// filter of the print server reads them on the way. Told by the keywords cupsFilter, cupsFilter2 and
-/// cupsPreFilter.
-QByteArrayList typesTakenAsTheyAre(const PpdDocument &ppd);
+/// The document types (MIME, lower case) that a queue with this PPD passes to its printer unchanged, without
+/// a filter of the print server. Read from cupsFilter, cupsFilter2 and cupsPreFilter.
+QByteArrayList typesPassedThrough(const PpdDocument &ppd);
 
 } // namespace printdialog

@@ -13,14 +13,14 @@ namespace printdialog {
 
 class DialogSession;
 
-/// Label and text.
+/// Pairs of label and text.
 using SummaryEntries = QList<QPair<QString, QString>>;
 
-/// What people call it.
+/// The scaling's name for people.
 QString scalingText(Scaling scaling);
 
-/// The job in words: the paper, the copies, how the photos are placed, then what the panels say. Nothing
-/// about the placement without photos, or for a printer that places them itself.
+/// The job in words: the paper, the copies, the photos' placement, then the panels' entries. The placement is
+/// left out without photos, or for a printer that places them itself.
 SummaryEntries jobSummary(DialogSession &session, int copies, const QList<PlacementChoice> &placements);
 
 } // namespace printdialog

@@ -52,7 +52,7 @@ QString OutcomeText::allPrinted() const
         return tr("Printed %1 photos in the folder %2")
             .arg(QString::number(outcome_.total),
                  QDir::toNativeSeparators(QFileInfo(job_.folder.path).absoluteFilePath()));
-    // Jobs of others may have come in between.
+    // Other users' jobs may have ids in between.
     const QList<int> &jobs = outcome_.jobs;
     if (jobs.size() == outcome_.total && jobs.constLast() - jobs.constFirst() == outcome_.total - 1)
         return tr("Printed %1 photos on %2 (jobs %3 to %4)")
@@ -63,7 +63,7 @@ QString OutcomeText::allPrinted() const
 
 QString OutcomeText::details() const
 {
-    // Photos that were merely sent are not printed when the run was stopped.
+    // When the run was stopped, photos that were only sent are not printed, so they are not listed.
     const bool isTold =
         outcome_.total == 1 || (outcome_.wasStopped && !outcome_.isFollowed && !job_.destination.isBuiltIn());
     return isTold ? QString() : (outcome_.printed + outcome_.waiting + outcome_.skipped).join(u'\n');

@@ -9,8 +9,8 @@
 
 namespace printdialog {
 
-/// What is said about a run of photos: every photo's sentence when there is one photo, else how many were
-/// printed, with the sentences as details.
+/// The report on a run: the photo's sentence when there is one photo, else how many were printed, with the
+/// sentences as details.
 class OutcomeText
 {
     Q_DECLARE_TR_FUNCTIONS(printdialog::OutcomeText)
@@ -22,9 +22,9 @@ public:
     {
     }
 
-    /// Few lines, however many photos there are.
+    /// A few lines, whatever the number of photos.
     QString summary() const;
-    /// A line for each photo; empty when the summary says it all.
+    /// A line for each photo; empty when the summary says everything.
     QString details() const;
 
 private:

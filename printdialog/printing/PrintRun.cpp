@@ -31,7 +31,7 @@ bool PrintRun::isRaised(int *flag)
 PrintOutcome PrintRun::print(qsizetype count, const PhotoSource &photos)
 {
     outcome_.total = static_cast<int>(count);
-    // The next photo is looked at while this one is printed: a check takes longer than all the rest.
+    // The next photo is checked while this one is printed: the check takes longest.
     auto next = count > 0 ? std::optional(photos(0)) : std::nullopt;
     for (index_ = 0; index_ < count && !isRaised(flags_.cancel); ++index_) {
         const auto placed = *std::move(next);
@@ -48,14 +48,14 @@ PrintOutcome PrintRun::print(qsizetype count, const PhotoSource &photos)
     const bool isFine = outcome_.failure.isEmpty() && !isRaised(flags_.cancel);
     if (isFine && !printer_.sentJobs().isEmpty() && limits_.total > FollowLimits::Time::zero())
         follow();
-    // What the built-in printer has left cannot be taken back, and is not worth a word when it is all.
+    // Files of the built-in printer cannot be taken back, which needs no message when all are written.
     const bool isOver = index_ == count && printer_.sentJobs().isEmpty();
     if (isRaised(flags_.cancel) && !isRaised(flags_.keep) && !isOver)
-        takeBack();
+        cancelJobs();
     return outcome_;
 }
 
-/// Whether the next one can be printed.
+/// False: stop; do not print the next photo.
 bool PrintRun::printOne(const PlacedPhoto &placed)
 {
     name_ = placed.photo.fileName();
@@ -63,7 +63,7 @@ bool PrintRun::printOne(const PlacedPhoto &placed)
     const auto printed = printer_.print(placed);
     if (!printed && isRaised(flags_.cancel))
         return false;
-    if (!printed && printed.failure().reason.isPhotos) {
+    if (!printed && printed.failure().reason.isPhotoFault) {
         outcome_.skipped.append(printed.failure().text);
         listener_.skipped(printed.failure().text);
         return true;
@@ -97,10 +97,10 @@ void PrintRun::follow()
     outcome_.failure = followed.failure.value_or(QString());
 }
 
-void PrintRun::takeBack()
+void PrintRun::cancelJobs()
 {
     int over = 0;
-    const QStringList failures = printer_.takeBack(over);
+    const QStringList failures = printer_.cancelJobs(over);
     outcome_.done = std::max(outcome_.done, over);
     outcome_.wasStopped = failures.isEmpty();
     outcome_.failure = failures.join(u' ');

@@ -9,26 +9,26 @@
 
 namespace printdialog {
 
-/// Raised by the window, looked at by the thread and by libcups, which wants plain numbers.
+/// Raised by the window, read by the thread and by libcups, which needs plain ints.
 struct PrintWorker::Flags
 {
     static void raise(int &flag) { std::atomic_ref(flag).store(1); }
     static bool isRaised(int &flag) { return std::atomic_ref(flag).load() != 0; }
 
     int cancel = 0; ///< send nothing more
-    int keep = 0;   ///< but leave alone what was sent
-    int leave = 0;  ///< follow no longer
+    int keep = 0;   ///< with cancel: do not cancel jobs that were sent
+    int leave = 0;  ///< stop following
     int following = 0;
     std::atomic<int> sent = 0;
 };
 
 namespace {
 
-// Parts of the bar: sending is soon done, printing is not.
+// Shares of the progress bar: sending is quick, printing is slow.
 constexpr int sendingShare = 100;
 constexpr int photoShare = 1000;
 
-/// Says in words, and as a share of the whole run, how far it is.
+/// Reports the progress in words and as a share of the run.
 class Progress : public PrintRunListener
 {
 public:
@@ -65,7 +65,7 @@ public:
     }
 
 private:
-    /// Where the photo stands among those of the run, in front of what is done with it.
+    /// The text, preceded by the photo's number within the run.
     QString counted(qsizetype photo, const QString &text) const
     {
         return count_ == 1 ? text : PrintWorker::tr("%1 of %2: %3").arg(photo + 1).arg(count_).arg(text);
@@ -81,7 +81,7 @@ private:
 PrintOutcome printed(const QList<PlacedPhoto> &photos, PrintRun &run)
 {
     PrintOutcome outcome;
-    // Mostly known already; before anything is printed, so that the user can decide about all of it.
+    // Checked before anything is printed, so that the user can decide about all photos; mostly known already.
     outcome.hasDamaged = std::any_of(photos.begin(), photos.end(), [](const PlacedPhoto &placed) {
         return !placed.isAccepted && placed.photo.damage();
     });
@@ -128,7 +128,7 @@ void PrintWorker::giveUp()
 {
     if (!flags_)
         return;
-    Flags::raise(flags_->keep); // before the thread sees that it is to end
+    Flags::raise(flags_->keep); // before the thread sees the cancel flag
     cancel();
 }
 
@@ -136,7 +136,7 @@ void PrintWorker::print(const QList<PlacedPhoto> &photos, const PrintJob &job)
 {
     auto outcome = std::make_shared<PrintOutcome>();
     flags_ = std::make_shared<Flags>();
-    // This object waits for the thread before it goes, so that the thread may name it.
+    // The destructor waits for the thread, so the thread may use this object.
     thread_.reset(QThread::create([this, flags = flags_, photos, job, outcome] {
         const auto say = [this](const QString &text, qint64 done, qint64 total) {
             Q_EMIT progress(text, done, total);

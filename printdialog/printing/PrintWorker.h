@@ -10,33 +10,33 @@
 
 namespace printdialog {
 
-/// Prints photos on a thread of its own and follows a queue's jobs to their end. Signals come on the thread
-/// of this object.
+/// Prints photos on a separate thread and follows a queue's jobs to their end. Signals are emitted on this
+/// object's thread.
 class PrintWorker : public QObject
 {
     Q_OBJECT
 
 public:
     explicit PrintWorker(QObject *parent = nullptr);
-    /// As giveUp().
+    /// Calls giveUp().
     ~PrintWorker() override;
 
     bool isBusy() const { return thread_ != nullptr; }
-    /// Whether the print server or the folder has everything.
+    /// Whether everything was sent to the print server or written to the folder.
     bool isFollowing() const;
-    /// How many photos the print server or the folder has.
+    /// The number of photos sent or written.
     int sent() const;
-    /// Prints the photos, each where it is placed, with the job's settings, one after the other. Not while
+    /// Prints the photos, each with its placement, one after the other with the job's settings. Not while
     /// busy.
     void print(const QList<PlacedPhoto> &photos, const PrintJob &job);
-    /// Sends nothing more, and takes back the jobs that are not over.
+    /// Sends nothing more, and cancels the jobs that are not over.
     void cancel();
-    /// Sends nothing more, takes back what is being sent, and follows no longer what the print server has:
-    /// that goes on.
+    /// Sends nothing more, cancels the job being sent, and stops following. Jobs already sent continue to
+    /// print.
     void giveUp();
 
 Q_SIGNALS:
-    /// What is being done, in words, and how much of the whole run; total is 0 when that is not known.
+    /// The current activity in words, and the progress of the run; total is 0 when that is unknown.
     void progress(const QString &text, qint64 done, qint64 total);
     void finished(const printdialog::PrintOutcome &outcome);
 

@@ -33,7 +33,7 @@ Result<SessionJob, SessionJobFault> jobOf(DialogSession &session, int copies)
     if (printer.hasPpd) {
         job.options = options->options;
         job.ppd = ppd.data();
-        job.directTypes = typesTakenAsTheyAre(ppd);
+        job.directTypes = typesPassedThrough(ppd);
     }
     return SessionJob{job, options->dropped, options->missing};
 }

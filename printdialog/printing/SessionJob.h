@@ -14,20 +14,21 @@ class DialogSession;
 
 /// Why a session makes no job.
 enum class SessionJobFault {
-    Conflict, ///< Choices stand in each other's way, see DialogSession::jobRefusal().
+    Conflict, ///< Choices conflict, see DialogSession::jobRefusal().
     NoPaper,  ///< No paper size is chosen.
 };
 
-/// A job of the choices made in a session.
+/// A job made from a session's choices.
 struct SessionJob
 {
     PrintJob job;
-    QStringList remarks; ///< A sentence for each recorded choice that is not the PPD's, and so left out.
+    QStringList
+        remarks; ///< A sentence for each recorded choice that was left out because the PPD does not have it.
     QStringList missing; ///< See JobOptions.
 };
 
-/// Has the panels save their choices, and makes the job of them: the one way, so that the window and the
-/// command line print alike. Main thread.
+/// Makes the panels save their choices, and makes a job of them. The window and the command line both use it,
+/// so that they print alike. Main thread.
 /// @param copies from 1 to mostCopies
 Result<SessionJob, SessionJobFault> jobOf(DialogSession &session, int copies);
 

@@ -7,21 +7,21 @@
 
 namespace printdialog {
 
-/// Where a job goes: a queue of the print server or the built-in printer, with the user's instance of it
-/// (lpoptions(1)), which is a preset. A plain value; nothing says that there is such a queue.
+/// Where a job goes: a queue of the print server or the built-in printer, with an optional instance
+/// (lpoptions(1)), which is a preset. A plain value; the queue need not exist.
 struct Destination
 {
     Destination() = default;
-    /// @param id "queue" or "queue/instance", as settings, the command line and the user have it
+    /// @param id "queue" or "queue/instance", as in settings and on the command line
     Destination(const QString &id);
     Destination(const QString &queueName, const QString &instanceName);
 
     QString queue;
     QString instance; ///< Mostly empty.
 
-    /// What it is called everywhere: "queue", or "queue/instance".
+    /// Its identifier everywhere: "queue" or "queue/instance".
     QString id() const;
-    /// Whether the queue is by its name the printer that needs no server.
+    /// Whether the name is that of the built-in printer, which needs no server.
     bool isBuiltIn() const;
 
     static Destination builtIn();

@@ -76,8 +76,8 @@ Result<CheckedPpd, QueueFault> checked(const Result<QByteArray, QueueFault> &fet
 Result<QByteArray, QueueFault> ppdOf(CupsConnection &connection, const QueueRecord &record)
 {
     const QString &queue = record.destination.queue;
-    // Not cupsGetPPD3: on a local socket it links to whatever lies under the queue's name in this machine's
-    // own /etc/cups/ppd, and it opens a second connection, which has no limits.
+    // Not cupsGetPPD3(): with a local socket it links to the file of the queue's name in this machine's
+    // /etc/cups/ppd, and it opens a second connection, which has no limits.
     const QByteArray resource = "/printers/" + QUrl::toPercentEncoding(queue) + ".ppd";
     QByteArray ppd;
     const http_status_t status = connection.fetch(resource, fetchedPpdLimit, ppd);
@@ -144,7 +144,7 @@ void PpdFetcher::start(const Destination &destination, const std::optional<Check
     worker_->run(
         [this, destination, known, limit = limit_.intervalAsDuration(), check = check_](BoundedWorker &self) {
             const auto fetched = fetchHere(destination, limit, self.cancelFlag());
-            self.post([this] { limit_.stop(); }); // what follows has nothing to do with the server
+            self.post([this] { limit_.stop(); }); // the check that follows does not involve the server
             const auto outcome = checked(fetched, known, check, destination.id());
             self.post([this, outcome] { take(outcome); });
         });

@@ -22,17 +22,17 @@ class BoundedWorker;
 class CupsConnection;
 struct QueueRecord;
 
-/// The largest PPD that is taken from a server, in bytes. Those of real printers stay below 3 MiB; a few
-/// copies of one are made on its way to the panels.
+/// The largest PPD that is accepted from a server, in bytes. Those of real printers are below 3 MiB; several
+/// copies of it are in memory at times.
 constexpr qsizetype fetchedPpdLimit = qsizetype(8) * 1024 * 1024;
 
-/// The PPD of a queue, of a class that of its first member, as the server hands it out: untrusted, unparsed.
-/// Within the connection's limit. It never lies in a file that another process could see or that could be
-/// left behind. Failures: all of QueueFault but NotAccepting.
+/// The PPD of a queue as the server sends it, untrusted and unparsed; for a class, that of its first member.
+/// Blocks, at most for the connection's limit. It is never stored in a file that another process could see or
+/// that could be left behind. Failures: all of QueueFault but NotAccepting.
 Result<QByteArray, QueueFault> ppdOf(CupsConnection &connection, const QueueRecord &record);
 
-/// Fetches PPDs without blocking. Everything about it happens on the thread that made it, where it needs an
-/// event loop; the server is asked by a worker thread that is left behind when it does not answer.
+/// Fetches PPDs without blocking. Lives on the thread that made it, which needs an event loop. A worker
+/// thread asks the server, and is abandoned when the server does not answer.
 class PpdFetcher : public QObject
 {
     Q_OBJECT
@@ -40,24 +40,24 @@ class PpdFetcher : public QObject
 public:
     /// Called on the worker thread, once for each PPD.
     using Check = std::function<Result<CheckedPpd, PpdFault>(const QByteArray &ppd, const QString &name)>;
-    /// @param limit for one fetch; the check has its own
+    /// @param limit for one fetch; the check has its own limit
     explicit PpdFetcher(QObject *parent = nullptr, std::chrono::milliseconds limit = std::chrono::seconds(10),
                         Check check = checkFetched);
     ~PpdFetcher() override;
 
-    /// Starts, and gives up any earlier fetch: of that one nothing is heard any more. Returns the number
-    /// under which the outcome is announced, exactly once, after this has returned.
-    /// @param known the PPD that the queue has most likely; it is not checked again
+    /// Starts a fetch and cancels an earlier one, for which no signal follows. Returns the number that the
+    /// outcome is signalled with, exactly once, after this call has returned.
+    /// @param known the PPD that the queue most likely has; it is not checked again
     quint64 fetch(const Destination &destination, const std::optional<CheckedPpd> &known = std::nullopt);
-    /// Starts a fetch that is wanted soon, if at all: the next fetch() of the same queue takes it up where it
-    /// stands then. Nothing is announced before, and a failure not at all.
+    /// Starts a fetch that may be needed soon: the next fetch() of the same queue continues it. No signal is
+    /// emitted before that, and none about a failure.
     void fetchAhead(const Destination &destination);
-    /// Gives up the fetch under way; nothing is announced.
+    /// Cancels the fetch under way; no signal follows.
     void cancel();
 
 Q_SIGNALS:
     void fetched(quint64 number, const printdialog::CheckedPpd &ppd);
-    /// With one sentence for people, see queueFailure().
+    /// `text` is a sentence for people, see queueFailure().
     void failed(quint64 number, printdialog::QueueFault reason, const QString &text);
 
 private:
@@ -67,11 +67,11 @@ private:
     void take(const Result<CheckedPpd, QueueFault> &outcome);
 
     Check check_;
-    QTimer limit_; // for what the worker's own limit does not cover
+    QTimer limit_; // for calls that the worker's own limit does not cover
     Destination destination_;
     quint64 number_ = 0;
-    bool isAhead_ = false;                  // nobody has asked for the outcome yet
-    std::optional<CheckedPpd> early_;       // what has arrived before anybody asked
+    bool isAhead_ = false;                  // the outcome was not requested yet
+    std::optional<CheckedPpd> early_;       // arrived before it was requested
     std::shared_ptr<BoundedWorker> worker_; // null when nothing is under way
 };
 

@@ -16,12 +16,12 @@ namespace printdialog {
 namespace {
 
 constexpr auto answerLimit = 5s;
-/// For what no limit of libcups covers: the look-up of a server's name, an answer that never ends.
+/// For waits that no limit of libcups covers: the look-up of a server's name, an answer that never ends.
 constexpr auto firstLookLimit = 8s;
-/// Long enough for an idle worker to end in an orderly way, too short to be felt.
+/// Long enough for an idle worker to end normally, too short to be noticed.
 constexpr auto listEndPatience = 50ms;
 
-/// To be looked up: a server may have thousands.
+/// For look-ups by id: a server may have thousands of queues.
 QHash<QString, Queue> byId(const QList<Queue> &queues)
 {
     QHash<QString, Queue> found;
@@ -39,7 +39,7 @@ QueueFinder::QueueFinder(QObject *parent, std::chrono::milliseconds interval)
     firstLook_.setSingleShot(true);
     firstLook_.setInterval(firstLookLimit);
     connect(&firstLook_, &QTimer::timeout, this,
-            [this] { takeFailure(queueFailure(QueueFault::TimedOut, {}).text, false); });
+            [this] { reportFailure(queueFailure(QueueFault::TimedOut, {}).text, false); });
 }
 
 QueueFinder::~QueueFinder()
@@ -57,15 +57,15 @@ void QueueFinder::start()
     firstLook_.start();
     worker_ = std::make_shared<BoundedWorker>(this);
     worker_->run([this, interval = interval_](BoundedWorker &self) {
-        // This object is only named here: what is posted runs on its thread, and not after it is gone.
+        // `this` is only captured here: posted calls run on its thread, and never after its destruction.
         do {
             auto swept = sweepQueues(answerLimit, self.cancelFlag());
             if (swept)
-                self.post([this, queues = *swept] { takeQueues(queues); });
+                self.post([this, queues = *swept] { applyQueues(queues); });
             else
                 self.post([this, text = swept.failure().text,
                            isAbsent = printdialog::isWithoutPrintServer(swept.failure())] {
-                    takeFailure(text, isAbsent);
+                    reportFailure(text, isAbsent);
                 });
         } while (self.pause(interval));
     });
@@ -83,9 +83,9 @@ std::optional<Destination> QueueFinder::defaultQueue() const
     return printdialog::defaultQueue(queues_);
 }
 
-void QueueFinder::takeQueues(const QList<Queue> &queues)
+void QueueFinder::applyQueues(const QList<Queue> &queues)
 {
-    // A slot may stop, restart or destroy this object: then the rest of the news is old.
+    // A slot may stop, restart or destroy this object; then the remaining signals are outdated.
     const QPointer<QueueFinder> self(this);
     const auto worker = worker_;
     const auto isCurrent = [&] {
@@ -96,7 +96,7 @@ void QueueFinder::takeQueues(const QList<Queue> &queues)
     const QHash<QString, Queue> later = byId(queues);
     lastFailure_.clear();
     isWithoutPrintServer_ = false;
-    // The last one first, so that nobody has to move the others up for each.
+    // Backwards, so that a receiver's list need not shift its entries for each removal.
     for (auto queue = before.crbegin(); queue != before.crend(); ++queue) {
         if (isCurrent() && !later.contains(queue->id()))
             Q_EMIT queueRemoved(queue->id());
@@ -110,7 +110,7 @@ void QueueFinder::takeQueues(const QList<Queue> &queues)
         endFirstLook();
 }
 
-void QueueFinder::takeFailure(const QString &text, bool isWithoutPrintServer)
+void QueueFinder::reportFailure(const QString &text, bool isWithoutPrintServer)
 {
     isWithoutPrintServer_ = isWithoutPrintServer;
     const QPointer<QueueFinder> self(this);

@@ -17,30 +17,29 @@ namespace printdialog {
 
 class BoundedWorker;
 
-/// Finds the queues of the print server, and keeps watching for those that come and go. Everything about it
-/// happens on the thread that made it, where it needs an event loop; libcups is called on one worker thread
-/// of its own. No call blocks, whatever the server does: stop() and the destructor wait a twentieth of a
-/// second at most.
+/// Finds the queues of the print server and keeps watching for added, changed and removed ones. Lives on the
+/// thread that made it, which needs an event loop; libcups is called on one worker thread. No call blocks,
+/// whatever the server does: stop() and the destructor wait at most 50 ms.
 class QueueFinder : public QObject
 {
     Q_OBJECT
 
 public:
-    /// @param interval between two looks at the server
+    /// @param interval between two requests to the server
     explicit QueueFinder(QObject *parent = nullptr,
                          std::chrono::milliseconds interval = std::chrono::seconds(5));
     ~QueueFinder() override;
 
-    /// Starts, and announces every queue anew; nothing when it runs already.
+    /// Starts, and signals every queue again. Does nothing while it runs.
     void start();
-    /// Stops: no signal comes any more until start().
+    /// Stops: no signal follows until start().
     void stop();
 
-    /// What was found so far, in the server's order.
+    /// The queues found so far, in the server's order.
     QList<Queue> queues() const { return queues_; }
     /// The user's default queue, or else the server's, as far as it was found.
     std::optional<Destination> defaultQueue() const;
-    /// Whether this machine has no print server, and nobody has named another one.
+    /// Whether this machine has no print server and no other one is configured.
     bool isWithoutPrintServer() const { return isWithoutPrintServer_; }
 
 Q_SIGNALS:
@@ -48,21 +47,21 @@ Q_SIGNALS:
     /// default).
     void queueFound(const printdialog::Queue &queue);
     void queueRemoved(const QString &id);
-    /// The first look is over, with or without success. Once after each start().
+    /// The first request is over, with or without success. Emitted once after each start().
     void finished();
-    /// The server cannot be asked; said once per reason. Queues already found stay: it may come back.
+    /// The server cannot be reached; emitted once per reason. Queues already found stay, since it may come
+    /// back.
     void failed(const QString &text);
 
 private:
-    void takeQueues(const QList<Queue> &queues);
-    void takeFailure(const QString &text, bool isWithoutPrintServer);
+    void applyQueues(const QList<Queue> &queues);
+    void reportFailure(const QString &text, bool isWithoutPrintServer);
     void endFirstLook();
 
     std::chrono::milliseconds interval_;
-    QTimer firstLook_; // ends the first look when the worker does not
+    QTimer firstLook_; // ends the first request when the worker does not
     bool firstLookPending_ = false;
-    std::shared_ptr<BoundedWorker>
-        worker_; // null when stopped; may outlive this object, and then leaves it alone
+    std::shared_ptr<BoundedWorker> worker_; // null when stopped; may outlive this object without using it
     QList<Queue> queues_;
     QString lastFailure_;
     bool isWithoutPrintServer_ = false;

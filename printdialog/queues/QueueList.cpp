@@ -20,7 +20,7 @@ namespace printdialog {
 
 namespace {
 
-/// The attributes of one queue in an answer that tells of many.
+/// The attributes of one queue in an answer about many.
 class QueueAttributes
 {
 public:
@@ -36,8 +36,8 @@ public:
         return texts;
     }
     QString text(const char *name) const { return texts(name).value(0); }
-    /// The names of queues, as they are. One that needs cleaning is left out: it could not be handed back to
-    /// the server, and cleaned it may be that of another queue.
+    /// The names of queues, unchanged. A name that needs cleaning is left out: the server would not recognize
+    /// it, or take it for another queue's.
     QStringList names(const char *attributeName) const
     {
         QStringList names;
@@ -51,7 +51,7 @@ public:
         return names;
     }
 
-    /// Of an integer or enumeration; `otherwise` when there is no such value.
+    /// The value of an integer or enumeration; `otherwise` when there is none.
     int number(const char *name, int otherwise, int index = 0) const
     {
         ipp_attribute_t *attribute = attributes_.value(name);
@@ -67,7 +67,7 @@ private:
     QHash<QByteArray, ipp_attribute_t *> attributes_;
 };
 
-/// Those beyond are left out: nobody finds a printer among so many.
+/// Further queues are left out: nobody finds a printer among so many.
 constexpr qsizetype mostQueues = 10'000;
 
 constexpr std::array wantedAttributes = {
@@ -106,7 +106,7 @@ QList<Supply> suppliesOf(const QueueAttributes &attributes)
         Supply supply{names.at(i).isEmpty() ? types.value(i) : names.at(i), {}, false};
         if (level >= 0 && level <= 100) {
             supply.level = level;
-            // What collects waste is in trouble when it is full.
+            // A waste container is a problem when it is full.
             supply.isLow =
                 types.value(i).startsWith(QLatin1String("waste"))
                     ? level >= attributes.number("marker-high-levels", 100 - defaultLowLevel, index)
@@ -146,7 +146,7 @@ QList<Queue> queuesIn(ipp_t *answer)
     QueueAttributes attributes;
     const auto take = [&] {
         const Queue queue = queueOf(std::exchange(attributes, {}));
-        // One that is called like the printer that needs no server could not be asked for.
+        // A queue named like the built-in printer could not be requested by name.
         if (queue.name.isEmpty() || queue.destination().isBuiltIn() || queues.size() >= mostQueues ||
             names.contains(queue.name))
             return;
@@ -182,9 +182,9 @@ QList<Queue> withInstances(const QList<Queue> &queues, const QList<Destination> 
 
 } // namespace
 
-// One connection with a limit asks for what is needed, and nothing else. cupsEnumDests has a connection of
-// its own without any limit, so that a server which falls silent holds its thread for good; it asks for more
-// of each queue, and leaves out the members of a class.
+// Uses one connection with a limit and requests only what is needed. cupsEnumDests() uses its own connection
+// without a limit, so a server that falls silent blocks its thread forever. It also requests more attributes
+// of each queue, and does not report the members of a class.
 Result<QList<Queue>, QueueFault> sweepQueues(std::chrono::milliseconds limit, int *cancel)
 {
     CupsConnection connection(limit, cancel);
@@ -260,7 +260,7 @@ bool isWithoutPrintServer(const Failure<QueueFault> &failure)
     constexpr int usualPort = 631;
     cupsSetServer(nullptr);
     const QString server = QString::fromUtf8(cupsServer());
-    // Another port is somebody's choice: the end of a tunnel, say.
+    // Another port was configured on purpose, for example for a tunnel.
     return failure.reason == QueueFault::NoServer &&
            (server.startsWith(u'/') || (server == QLatin1String("localhost") && ippPort() == usualPort));
 }

@@ -14,16 +14,16 @@
 
 namespace printdialog {
 
-/// The queues of the print server with the user's instances of them, in the server's order. The built-in
-/// printer is not among them. Blocks, at most for the limit. Failures: NoServer, Refused, TimedOut, Failed.
+/// The queues of the print server with the user's instances of them, in the server's order, without the
+/// built-in printer. Blocks, at most for the limit. Failures: NoServer, Refused, TimedOut, Failed.
 Result<QList<Queue>, QueueFault> listQueues(std::chrono::milliseconds limit);
 
-/// The same, on the calling thread. For a worker: the look-up of a server's name may hold it longer than the
+/// The same, on the calling thread. For a worker: the look-up of a server's name may block it longer than the
 /// limit.
-/// @param cancel non-zero once it shall give up; may be null
+/// @param cancel non-zero: give up; may be null
 Result<QList<Queue>, QueueFault> sweepQueues(std::chrono::milliseconds limit, int *cancel);
 
-/// One queue and what its options come from.
+/// A queue and its PPD.
 struct OpenedQueue
 {
     Queue queue;
@@ -31,22 +31,21 @@ struct OpenedQueue
     QByteArray ppd;      ///< Untrusted, unparsed.
 };
 
-/// Asks for one queue and its PPD without listing the others. Of an instance nothing is asked: it is the
-/// user's own. Blocks, at most for the limit. Failures: those
-/// of QueueFault but NoPpd.
+/// Requests one queue and its PPD without listing the others. An instance is not checked, since it exists
+/// only on this side. Blocks, at most for the limit. Failures: all of QueueFault but NoPpd.
 Result<OpenedQueue, QueueFault> queueNamed(const Destination &destination, std::chrono::milliseconds limit);
 
-/// Whether a failure of one of these says that this machine prints nowhere: its print server is one of its
-/// own, on CUPS' usual port or socket, and nobody listens there. Any other server that cannot be asked may
-/// have the user's printer. Reads the configuration of CUPS.
+/// Whether a failure of one of these means that this machine has no print server: the configured one is
+/// local, on CUPS' usual port or socket, and nothing listens there. Any other server that cannot be reached
+/// may have the user's printer. Reads the configuration of CUPS.
 bool isWithoutPrintServer(const Failure<QueueFault> &failure);
 
-/// Where the print server of this process is asked: a socket's path, or "host:port". Reads the configuration
-/// of CUPS.
+/// The address of this process's print server: a socket's path, or "host:port". Reads the configuration of
+/// CUPS.
 QString printServerAddress();
 
-/// The default among queues: what the user set (LPDEST, PRINTER, lpoptions), or else the server's. Nothing
-/// when there is none, or when it names a queue that is not there.
+/// The default among queues: the user's (LPDEST, PRINTER, lpoptions), or else the server's. Nothing when
+/// there is none, or when it names a queue that does not exist.
 std::optional<Destination> defaultQueue(const QList<Queue> &queues);
 
 } // namespace printdialog

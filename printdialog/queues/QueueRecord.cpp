@@ -18,7 +18,7 @@ constexpr qsizetype queueNameLimit = 127; // bytes
 
 std::optional<int> unchangedSince(ipp_t *answer)
 {
-    constexpr int settled = 2; // seconds: the times have no fractions
+    constexpr int settled = 2; // seconds, since the times have no fractions
     ipp_attribute_t *changed = ippFindAttribute(answer, "printer-config-change-time", IPP_TAG_INTEGER);
     ipp_attribute_t *now = ippFindAttribute(answer, "printer-up-time", IPP_TAG_INTEGER);
     ipp_attribute_t *type = ippFindAttribute(answer, "printer-type", IPP_TAG_ENUM);

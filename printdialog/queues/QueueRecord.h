@@ -15,26 +15,26 @@ namespace printdialog {
 
 class CupsConnection;
 
-/// What has to be known of a queue before it is used.
+/// The properties of a queue that are needed before it is used.
 struct QueueRecord
 {
     Destination destination;
-    QByteArray uri; ///< The queue's own, as the server gives it.
+    QByteArray uri; ///< The queue's own, as the server sends it.
     QString stateMessage;
     QStringList stateReasons; ///< Keywords.
     bool acceptsJobs = false;
     bool isStopped = false;
-    /// Since when its settings, and its PPD among them, are as they are, by the server's clock. Only when
-    /// another change could not bear the same time, and never of a class, whose PPD is that of a member.
+    /// The time of the last change of the queue's settings, including its PPD, by the server's clock. Set
+    /// only when a further change could not have the same time, and never for a class, whose PPD is a
+    /// member's.
     std::optional<int> unchangedSince;
 };
 
-/// Asks the server about a queue. A name that no queue can have is not cleaned, but not found. Failures:
-/// NotFound, Refused, TimedOut, Failed.
+/// Requests a queue's record from the server. A name that no queue can have is NotFound. Failures: NotFound,
+/// Refused, TimedOut, Failed.
 Result<QueueRecord, QueueFault> queueRecord(CupsConnection &connection, const Destination &destination);
 
-/// Whether a queue can have this name: text that is not changed by being shown, and no longer than CUPS
-/// allows.
+/// Whether a queue can have this name: plainText() does not change it, and CUPS allows its length.
 bool isQueueName(const QString &name);
 
 } // namespace printdialog

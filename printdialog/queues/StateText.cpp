@@ -21,8 +21,8 @@ struct Text
 
 struct ReasonRow
 {
-    const char *keyword; ///< without its severity
-    const char *text;    ///< null: there is nothing in it that the state does not say
+    const char *keyword; ///< without the severity suffix
+    const char *text;    ///< null: it adds nothing to the state
 };
 
 constexpr std::array reasonRows = {
@@ -59,7 +59,7 @@ constexpr std::array reasonRows = {
     ReasonRow{"cups-insecure-filter", QT_TRANSLATE_NOOP("StateText", "a filter of its driver is not safe")},
     ReasonRow{"cups-waiting-for-job-completed", nullptr},
     ReasonRow{"other", QT_TRANSLATE_NOOP("StateText", "trouble that it does not name")},
-    // Of jobs.
+    // Reasons of jobs.
     ReasonRow{"printer-stopped", QT_TRANSLATE_NOOP("StateText", "the printer is stopped")},
     ReasonRow{"printer-stopped-partly", QT_TRANSLATE_NOOP("StateText", "a part of the printer is stopped")},
     ReasonRow{"job-hold-until-specified", QT_TRANSLATE_NOOP("StateText", "held")},
@@ -86,7 +86,7 @@ constexpr std::array reasonRows = {
     ReasonRow{"processing-to-stop-point", nullptr},
 };
 
-/// A keyword ends in how serious it is, and that is no part of what has happened.
+/// Removes the severity suffix of a keyword, such as "-error".
 QString withoutSeverity(const QString &keyword)
 {
     for (const QLatin1String severity :
@@ -149,12 +149,12 @@ QString stateWord(const Queue &queue)
 
 QString stateText(const Queue &queue)
 {
-    // "paused" is what every stopped queue of CUPS says.
+    // CUPS reports "paused" for every stopped queue.
     QStringList reasons = queue.stateReasons;
     if (queue.state == Queue::State::Stopped)
         reasons.removeAll(QStringLiteral("paused"));
     QString detail = reasonsText(reasons);
-    // What CUPS itself puts there when nobody gave a reason.
+    // Skip CUPS' own texts for when no reason was given.
     const bool saysMore = queue.stateMessage != QLatin1String("Rejecting Jobs") &&
                           queue.stateMessage != QLatin1String("Paused");
     if (saysMore && !queue.stateMessage.isEmpty() &&

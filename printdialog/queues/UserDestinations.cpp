@@ -13,7 +13,7 @@ namespace {
 
 constexpr qint64 largestFile = qint64(1024) * 1024;
 
-/// Lines of "Dest name/instance option=value..." and "Default name/instance ...".
+/// Reads lines of the form "Dest name/instance option=value..." and "Default name/instance ...".
 void readFile(const QString &path, UserDestinations &destinations)
 {
     QFile file(path);
@@ -44,7 +44,7 @@ UserDestinations UserDestinations::read()
     const QString systemFolder = qEnvironmentVariable("CUPS_SERVERROOT", QStringLiteral("/etc/cups"));
     readFile(systemFolder + QStringLiteral("/lpoptions"), destinations);
     readFile(QDir::homePath() + QStringLiteral("/.cups/lpoptions"), destinations);
-    // As lp(1) has it: PRINTER=lp says nothing, since many a shell sets it.
+    // Like lp(1), ignore PRINTER=lp, since many shells set it.
     const QString printer = qEnvironmentVariable("PRINTER");
     if (const QString destination = qEnvironmentVariable("LPDEST"); !destination.isEmpty())
         destinations.defaultPrinter = destination;

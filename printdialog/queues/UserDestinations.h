@@ -11,14 +11,14 @@
 
 namespace printdialog {
 
-/// What the user and the system's manager keep about destinations beside the server: in the lpoptions files
-/// (lpoptions(1)) and the environment. Only the names: the options in there are not for this program.
+/// The client-side settings of destinations, by the user and the administrator: the lpoptions files
+/// (lpoptions(1)) and the environment. Only the names are read, not the options.
 struct UserDestinations
 {
-    QList<Destination> instances;              ///< In the files' order.
+    QList<Destination> instances;              ///< In the order of the files.
     std::optional<Destination> defaultPrinter; ///< The user's default, else this machine's.
 
-    /// Reads the small files; no print server is asked.
+    /// Reads the files, which are small; makes no request to a print server.
     static UserDestinations read();
 };
 

@@ -39,9 +39,9 @@ QMap<QString, QString> Preset::choicesFor(const QStringList &printerOptions) con
 {
     QMap<QString, QString> choices = options;
     for (auto entry = inherited.cbegin(); entry != inherited.cend(); ++entry) {
-        const bool isOurs =
+        const bool isRelevant =
             entry.key() == QLatin1String(copiesOption) || printerOptions.contains(entry.key());
-        if (isOurs && !choices.contains(entry.key()))
+        if (isRelevant && !choices.contains(entry.key()))
             choices.insert(entry.key(), entry.value());
     }
     return choices;
@@ -89,8 +89,8 @@ PresetStore::Presets PresetStore::presetsIn(const QByteArray &user) const
     const QByteArray system = read ? *read : QByteArray();
     Presets presets;
     QMap<QString, QString> ofQueue;
-    for (const bool isUsers : {false, true}) {
-        const auto entries = LpoptionsFile(isUsers ? user : system).entries();
+    for (const bool isUserFile : {false, true}) {
+        const auto entries = LpoptionsFile(isUserFile ? user : system).entries();
         for (const LpoptionsFile::Entry &entry : entries) {
             const QString &instance = entry.destination.instance;
             // A name that needs cleaning could not be handed back to CUPS.
@@ -105,10 +105,10 @@ PresetStore::Presets PresetStore::presetsIn(const QByteArray &user) const
             });
             if (known == presets.end()) {
                 // libcups hands an instance the options that its queue has by then.
-                presets += {instance, entry.options, ofQueue, isUsers, instance};
+                presets += {instance, entry.options, ofQueue, isUserFile, instance};
             } else {
                 known->options.insert(entry.options);
-                known->isWritable = isUsers;
+                known->isWritable = isUserFile;
             }
         }
     }

@@ -136,7 +136,7 @@ private Q_SLOTS:
         };
         const auto id = submit(u"odd"_s, muchData(), sent, &cancel);
         QVERIFY(!id);
-        QCOMPARE(id.failure().reason, QueueFault::Cancelled);
+        QCOMPARE(id.failure().reason, QueueFault::Canceled);
 
         const auto printing = submit(u"odd"_s);
         QVERIFY(printing);

@@ -203,7 +203,7 @@ private Q_SLOTS:
         canceller.join();
         QVERIFY(timer.elapsed() < 400);
         QVERIFY(!cancelled);
-        QCOMPARE(cancelled.failure().reason, QueueFault::Cancelled);
+        QCOMPARE(cancelled.failure().reason, QueueFault::Canceled);
     }
 
     // Whatever is asked.

@@ -132,7 +132,7 @@ struct Decoder
             self->errors.format_message(common, text);
             self->giveUp(text);
         };
-        errors.emit_message = takeMessage;
+        errors.emit_message = checkMessage;
         errors.output_message = [](j_common_ptr) {
         };
     }
@@ -171,7 +171,7 @@ private:
 
     /// Complaints about headers are no damage: programs write versions and sequences of scans that libjpeg
     /// does not know, and the profile is read elsewhere.
-    static void takeMessage(j_common_ptr common, int level)
+    static void checkMessage(j_common_ptr common, int level)
     {
         if (level >= 0)
             return;

@@ -49,7 +49,7 @@ public:
     {
         header_.state = readSegments();
         header_.isEmbeddable = isPlain_ && hasPlainColours();
-        header_.isInverted = header_.components == 4 && isAdobes_;
+        header_.isInverted = header_.components == 4 && hasAdobeMarker_;
         header_.iccProfile = profile();
         if (hasExif_ && header_.resolution == ExifData::unknownResolution)
             header_.resolution.reset();
@@ -126,7 +126,7 @@ private:
             isJfif_ = true;
             readDensity(content);
         } else if (marker == App14 && content.startsWith("Adobe")) {
-            isAdobes_ = true;
+            hasAdobeMarker_ = true;
         } else if (marker == App1 && !hasExif_ && content.startsWith(exif)) {
             hasExif_ = true;
             const ExifData data = ExifData::fromTiff(content.sliced(exif.size()));
@@ -171,7 +171,7 @@ private:
     {
         const int components = header_.components;
         return components == 1 || components == 4 ||
-               (components == 3 && (!namesRgb_ || isJfif_ || isAdobes_));
+               (components == 3 && (!namesRgb_ || isJfif_ || hasAdobeMarker_));
     }
 
     /// From behind the first scan's header to the end of the picture, over the compressed data.
@@ -208,7 +208,7 @@ private:
     bool isPlain_ = true;
     bool namesRgb_ = false;
     bool isJfif_ = false;
-    bool isAdobes_ = false;
+    bool hasAdobeMarker_ = false;
     bool hasExif_ = false;
 };
 

@@ -62,18 +62,18 @@ public:
     {
         header_.isValid =
             hasUsualMethods_ && hasAllowedBits() && (type_ != Palette || !header_.palette.isEmpty());
-        const bool isPalettes = type_ == Palette;
+        const bool hasPalette = type_ == Palette;
         header_.components = type_ == Rgb ? 3 : 1;
         header_.decodedComponents = type_ == Grey || type_ == GreyAlpha ? 1 : 3;
         const bool hasAlpha = isTransparent_ || type_ == GreyAlpha || type_ == Rgba;
         header_.decodedChannels = header_.decodedComponents + (hasAlpha ? 1 : 0);
-        header_.isEmbeddable = header_.isValid && (type_ == Grey || type_ == Rgb || isPalettes) &&
+        header_.isEmbeddable = header_.isValid && (type_ == Grey || type_ == Rgb || hasPalette) &&
                                !isTransparent_ && !header_.isInterlaced && !header_.data.isEmpty();
-        if (header_.isValid && isPalettes) {
+        if (header_.isValid && hasPalette) {
             const qsizetype colours = qsizetype(1) << header_.bitsPerSample;
             header_.palette = header_.palette.leftJustified(colours * 3, '\0', true);
         }
-        if (!isPalettes)
+        if (!hasPalette)
             header_.palette.clear();
         const ColourProfile embedded = ColourProfile::fromIcc(icc_);
         if (embedded.components() == (type_ == Grey || type_ == GreyAlpha ? 1 : 3))

@@ -31,7 +31,7 @@ class PngPixels::Decoder
 public:
     explicit Decoder(QByteArrayView png)
         : unread_(png)
-        , png_(png_create_read_struct(PNG_LIBPNG_VER_STRING, this, takeError,
+        , png_(png_create_read_struct(PNG_LIBPNG_VER_STRING, this, leaveWithError,
                                       [](png_structp, png_const_charp) {}))
         , info_(png_ ? png_create_info_struct(png_) : nullptr)
     {
@@ -67,7 +67,7 @@ public:
     bool isShortOfMemory() const { return isShortOfMemory_; }
 
 private:
-    [[noreturn]] static void takeError(png_structp png, png_const_charp text)
+    [[noreturn]] static void leaveWithError(png_structp png, png_const_charp text)
     {
         auto *self = static_cast<Decoder *>(png_get_error_ptr(png));
         self->isShortOfMemory_ = std::strcmp(text, "Out of memory") == 0;

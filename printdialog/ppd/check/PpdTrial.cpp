@@ -18,8 +18,8 @@ struct RecordCloser
     void operator()(ppd_file_t *record) const { ppdClose(record); }
 };
 
-/// What libcups does for a conflict is by far the costliest, and one with a choice of each option is more
-/// than a user ever makes.
+/// Resolving conflicts is by far the most expensive part, and trying it with each option is more than a user
+/// ever does.
 constexpr std::clock_t resolvingTime = CLOCKS_PER_SEC;
 
 void tryToResolve(ppd_file_t &record, const char *key, const char *choice)

@@ -5,9 +5,9 @@
 
 namespace printdialog {
 
-/// Does with a PPD what the dialog does with libcups: opens and localizes it, marks the defaults, and for
-/// each option another choice, and asks for conflicts and, for a second of processor time, for ways out of
-/// them. Returns when libcups survives that, whatever it thinks of the PPD. Closes the descriptor.
+/// Exercises libcups with a PPD as the dialog does: opens and localizes it, marks the defaults and, for each
+/// option, another choice, gets the conflicts and, for a second of processor time, resolves them. Returns if
+/// libcups survives, whatever its results. Closes the descriptor.
 void tryPpd(int descriptor);
 
 } // namespace printdialog

@@ -14,7 +14,7 @@ namespace printdialog {
 
 namespace {
 
-/// The argument at `index` of a call, and what has to be true of it.
+/// A condition on the system call's argument at `index`.
 scmp_arg_cmp argument(unsigned index, scmp_compare comparison, scmp_datum_t a, scmp_datum_t b = 0)
 {
     return {index, comparison, a, b};
@@ -25,7 +25,8 @@ constexpr rlim_t processorTime = 5;        // seconds
 
 bool limit(__rlimit_resource resource, rlim_t most)
 {
-    // One later for the end that nobody survives, which would look like one that the system chose.
+    // The hard limit is one second above the soft one, so that SIGXCPU comes before SIGKILL, which would look
+    // like the OOM killer's.
     const rlimit value = {most, resource == RLIMIT_CPU ? most + 1 : most};
     return setrlimit(resource, &value) == 0;
 }
@@ -67,14 +68,14 @@ bool enterSandbox()
           SCMP_SYS(sigaltstack), SCMP_SYS(clock_gettime), SCMP_SYS(gettimeofday),   SCMP_SYS(getrandom),
           SCMP_SYS(getpid),      SCMP_SYS(gettid),        SCMP_SYS(exit),           SCMP_SYS(exit_group)})
         isReady = isReady && seccomp_rule_add(filter, SCMP_ACT_ALLOW, call, 0) == 0;
-    // Not those that have the kernel send signals to others.
+    // Only these commands: others make the kernel send signals to other processes.
     for (const auto command : {scmp_datum_t(F_GETFD), scmp_datum_t(F_SETFD), scmp_datum_t(F_GETFL)})
         isReady = isReady && seccomp_rule_add(filter, SCMP_ACT_ALLOW, SCMP_SYS(fcntl), 1,
                                               argument(1, SCMP_CMP_EQ, command)) == 0;
-    // For abort(): this process may signal itself, and no other one.
+    // For abort(): this process may signal only itself.
     isReady = isReady && seccomp_rule_add(filter, SCMP_ACT_ALLOW, SCMP_SYS(tgkill), 1,
                                           argument(0, SCMP_CMP_EQ, static_cast<scmp_datum_t>(getpid()))) == 0;
-    isReady = isReady && seccomp_load(filter) == 0; // sets no_new_privs, too
+    isReady = isReady && seccomp_load(filter) == 0; // also sets no_new_privs
     seccomp_release(filter);
     return isReady;
 }

@@ -5,10 +5,10 @@
 
 namespace printdialog {
 
-/// Takes from this process, for good, what a reader of hostile data has no use for: much memory, much time,
-/// writing, the network, other processes. Files can still be opened for reading, which the C library does
-/// for a character set. What is not allowed fails with EPERM, so that a C library that asks for something
-/// new goes on without it. False when the system does not offer that.
+/// Permanently removes from this process what a parser of hostile data does not need: much memory, much time,
+/// writing, the network, other processes. Files can still be opened for reading, which the C library needs
+/// for character sets. Forbidden calls fail with EPERM, so that a newer C library can fall back. False when
+/// the system does not support this.
 bool enterSandbox();
 
 } // namespace printdialog

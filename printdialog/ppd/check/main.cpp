@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: Corvel print dialog authors
 // SPDX-License-Identifier: Apache-2.0
 //
-// corvel-ppd-check: tries out the PPD on its standard input, so that one over which libcups crashes takes
-// down this process and not the dialog. Exit status: 0, libcups survives it; 2, there is no sandbox. Run by
+// corvel-ppd-check: opens the PPD on its standard input with libcups, so that a PPD that crashes libcups ends
+// this process and not the dialog. Exit status: 0, libcups survives; 2, no sandbox is available. Run by
 // checkPpd().
 
 #include "PpdTrial.h"
@@ -15,12 +15,12 @@
 
 int main()
 {
-    // What libcups reads for itself, and only once.
+    // Before the sandbox: libcups reads these once and keeps them.
     std::setlocale(LC_ALL, "");
     cupsLangDefault();
     cupsServer();
     if (!printdialog::enterSandbox())
         _exit(2);
     printdialog::tryPpd(STDIN_FILENO);
-    _exit(0); // nothing is left to do, and the sandbox would not let it
+    _exit(0); // skips exit handlers, which the sandbox would not allow to run
 }

@@ -3,7 +3,7 @@
 
 #pragma once
 
-// The PPD interface of libcups, for the sources of this folder only. CUPS marks it as deprecated without
-// offering another way to read a queue's options, so the warning is off here and nowhere else.
+// The PPD interface of libcups, for printdialog/ppd only. CUPS deprecates it without offering another way to
+// read a queue's options, so the warning is disabled here and nowhere else.
 #include <cups/ppd.h>
 #pragma GCC diagnostic ignored "-Wdeprecated-declarations"

@@ -7,8 +7,8 @@
 
 namespace printdialog {
 
-/// Whether ppdLocalize() ends within about a tenth of a second on the record: to find the translation of one
-/// choice, libcups goes through all translations of the option.
+/// Whether ppdLocalize() takes less than about a tenth of a second on the record. To find the translation of
+/// one choice, libcups searches all translations of the option.
 bool canBeLocalized(const ppd_file_t &record);
 
 } // namespace printdialog

@@ -29,7 +29,7 @@ namespace printdialog {
 
 namespace {
 
-constexpr auto shortestTurn = 2ms; // between looks at a child whose end nothing announces
+constexpr auto shortestTurn = 2ms; // interval for polling a child without a pidfd
 
 struct CheckText
 {
@@ -46,8 +46,8 @@ struct AttributesDeleter
     void operator()(posix_spawnattr_t *attributes) const { posix_spawnattr_destroy(attributes); }
 };
 
-/// Starts the program with the PPD as its standard input and no other descriptor of ours; the errno when it
-/// cannot be started.
+/// Starts the program with the PPD as its standard input and none of our other descriptors. Returns 0 or an
+/// errno.
 int start(const QByteArray &program, const FileDescriptor &ppd, pid_t &child)
 {
     posix_spawn_file_actions_t actionList;
@@ -73,15 +73,15 @@ int start(const QByteArray &program, const FileDescriptor &ppd, pid_t &child)
     return ::posix_spawn(&child, path.constData(), actions.get(), attributes.get(), arguments, environ);
 }
 
-/// What became of the child.
+/// How the child ended.
 struct End
 {
-    int status = 0;         ///< that of waitpid(2)
-    int error = 0;          ///< an errno, when the status cannot be told
-    bool isOverdue = false; ///< it was ended at the limit
+    int status = 0;         ///< from waitpid(2)
+    int error = 0;          ///< an errno when the status is not available
+    bool isOverdue = false; ///< killed at the limit
 };
 
-/// Waits for the child's end, and makes it come at the limit.
+/// Waits for the child to end, and kills it at the limit.
 End endOf(pid_t child, std::chrono::milliseconds limit)
 {
     const auto deadline = std::chrono::steady_clock::now() + limit;
@@ -102,7 +102,8 @@ End endOf(pid_t child, std::chrono::milliseconds limit)
             ::kill(child, SIGKILL);
             continue;
         }
-        pollfd watched = {announcement.number(), POLLIN, 0}; // a negative number is only slept over
+        pollfd watched = {announcement.number(), POLLIN,
+                          0}; // poll(2) ignores a negative descriptor and only sleeps
         ::poll(&watched, 1,
                static_cast<int>((announcement.number() < 0 ? std::min(left, +shortestTurn) : left).count()));
     }
@@ -150,7 +151,7 @@ Result<CheckedPpd, PpdFault> checkPpd(const QByteArray &data, const QString &nam
     const End end = endOf(child, limit);
     if (end.error != 0)
         return notTried(qt_error_string(end.error));
-    // The system ends whom it likes when memory runs short.
+    // SIGKILL that we did not send is most likely the OOM killer's, and says nothing about the PPD.
     if (end.isOverdue || (WIFSIGNALED(end.status) && WTERMSIG(end.status) == SIGKILL))
         return Failure<PpdFault>{
             PpdFault::NotTried,
@@ -164,7 +165,7 @@ Result<CheckedPpd, PpdFault> checkPpd(const QByteArray &data, const QString &nam
             return inspected;
         case noSandbox:
             return notTried(CheckText::tr("the system offers no sandbox"));
-        default: // of the dynamic linker's, most likely
+        default: // most likely the dynamic linker's
             return notTried(
                 CheckText::tr("\"%1\" ends with status %2").arg(program).arg(WEXITSTATUS(end.status)));
         }

@@ -9,13 +9,14 @@
 
 namespace printdialog {
 
-/// A PPD that libcups may open: only the functions below make one. A plain value; its bytes are shared.
+/// A PPD that is safe for libcups to open; only the functions below create one. A plain value; copies share
+/// the bytes.
 class CheckedPpd
 {
 public:
     /// The original bytes.
     const QByteArray &data() const { return data_; }
-    /// What people call it, such as the queue's name or a path.
+    /// Its name for people, such as the queue's name or a path.
     const QString &name() const { return name_; }
     const PpdInspection &inspection() const { return inspection_; }
 
@@ -34,19 +35,19 @@ private:
     PpdInspection inspection_;
 };
 
-/// The program that tries out PPDs, from this program's own place.
+/// The path of the program that checks PPDs, found relative to this program.
 QString ppdCheckProgram();
 
-/// Tries out an untrusted PPD, once it has passed inspectPpd(), in a process of its own without any rights,
-/// so that one over which libcups crashes or never ends does no harm here. Blocks, at most for the limit,
-/// within which the process has five seconds of processor time; any thread. A PPD that only breaks the format
-/// is left to PpdDocument, which says where. `name` is what people call the PPD.
+/// Checks an untrusted PPD: first with inspectPpd(), then by opening it with libcups in a separate, sandboxed
+/// process, so that a crash or an endless loop does no harm here. Blocks, at most for the limit; the process
+/// also has at most five seconds of processor time. Any thread. A PPD that only violates the format passes:
+/// PpdDocument reports where. `name` is the PPD's name for people.
 Result<CheckedPpd, PpdFault> checkPpd(const QByteArray &data, const QString &name,
                                       const QString &program = ppdCheckProgram(),
                                       std::chrono::milliseconds limit = std::chrono::seconds(20));
 
-/// The same without a trial, for a PPD that nobody else can have written: the program's own, and one that has
-/// been through checkPpd() and was kept where only the user can write.
+/// The same without the separate process, for a PPD that nobody else can have written: the program's own, or
+/// one that has passed checkPpd() and was stored where only the user can write.
 Result<CheckedPpd, PpdFault> trustPpd(const QByteArray &data, const QString &name);
 
 } // namespace printdialog

@@ -47,14 +47,14 @@ Failure<PpdFault> damagedArchive(const QString &path, const QString &reason)
             {}};
 }
 
-/// What gunzip(1) makes of it. One byte more than allowed stands for all that is too large.
+/// Decompresses like gunzip(1), up to one byte more than allowed, which shows that it is too large.
 Result<QByteArray, PpdFault> expanded(const QByteArray &compressed, const QString &path)
 {
     z_stream stream = {};
-    if (inflateInit2(&stream, MAX_WBITS + 16) != Z_OK) // 16: with a header of gzip
+    if (inflateInit2(&stream, MAX_WBITS + 16) != Z_OK) // 16: expect a gzip header
         return ppdNotReadable(path, ENOMEM);
     const std::unique_ptr<z_stream, int (*)(z_stream *)> owner(&stream, inflateEnd);
-    // zlib does not write to its input, though its type says so.
+    // zlib does not write to its input, although the type is not const.
     stream.next_in = reinterpret_cast<Bytef *>(const_cast<char *>(compressed.constData()));
     stream.avail_in = static_cast<uInt>(compressed.size());
     QByteArray bytes;
@@ -64,14 +64,14 @@ Result<QByteArray, PpdFault> expanded(const QByteArray &compressed, const QStrin
         stream.avail_out = chunk.size();
         const int status = inflate(&stream, Z_NO_FLUSH);
         bytes.append(chunk.data(), static_cast<qsizetype>(chunk.size() - stream.avail_out));
-        // A file may hold several of them, one behind the other; what follows the last one is padding.
-        const bool goesOn = status == Z_STREAM_END && stream.avail_in >= 2 && stream.next_in[0] == 0x1f &&
-                            stream.next_in[1] == 0x8b;
-        if (status == Z_STREAM_END && !goesOn)
+        // A file may consist of several gzip members; bytes after the last one are padding.
+        const bool hasMoreMembers = status == Z_STREAM_END && stream.avail_in >= 2 &&
+                                    stream.next_in[0] == 0x1f && stream.next_in[1] == 0x8b;
+        if (status == Z_STREAM_END && !hasMoreMembers)
             return bytes;
-        if (goesOn ? inflateReset(&stream) != Z_OK : status == Z_BUF_ERROR)
+        if (hasMoreMembers ? inflateReset(&stream) != Z_OK : status == Z_BUF_ERROR)
             return damagedArchive(path, FileText::tr("its end is missing"));
-        if (!goesOn && status != Z_OK)
+        if (!hasMoreMembers && status != Z_OK)
             return damagedArchive(path, FileText::tr("it is damaged"));
     }
     bytes.truncate(PpdLimits::bytes + 1);
@@ -108,7 +108,7 @@ Result<QByteArray, PpdFault> readPpdFile(const QString &path)
         return ppdNotReadable(path, ENOENT);
     const QByteArray nativePath = QFile::encodeName(path);
     struct stat status = {};
-    // Opening a device may already have an effect, so it is looked at by its name first.
+    // Opening a device may already have an effect, so check the path first.
     if (::stat(nativePath.constData(), &status) != 0)
         return ppdNotReadable(path, errno);
     if (!S_ISREG(status.st_mode))
@@ -119,7 +119,7 @@ Result<QByteArray, PpdFault> readPpdFile(const QString &path)
     if (!S_ISREG(status.st_mode))
         return notRegular(path, status.st_mode);
 
-    // One byte more than allowed tells a file that is too large, also one that grows meanwhile.
+    // Reading one byte more than allowed detects a file that is too large, even if it grows meanwhile.
     const qsizetype most = PpdLimits::bytes + 1;
     QByteArray bytes(std::min<qsizetype>(most, status.st_size + 1), Qt::Uninitialized);
     qsizetype size = 0;

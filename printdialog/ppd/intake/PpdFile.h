@@ -7,15 +7,15 @@
 
 namespace printdialog {
 
-/// The PPD in a regular file, at most PpdLimits::bytes of it; expanded when it is compressed by gzip, as
-/// those that CUPS brings with it are. Refuses everything else without blocking on it.
+/// Reads the PPD in a regular file, at most PpdLimits::bytes; decompresses gzip, which CUPS uses for its own
+/// PPDs. Refuses everything else without blocking on it.
 Result<QByteArray, PpdFault> readPpdFile(const QString &path);
 
-/// A descriptor at the start of a nameless file in memory that holds the bytes; the caller closes it. -1 with
-/// errno when the system has none to give.
+/// A descriptor at the start of an unnamed file in memory that holds the bytes; the caller closes it. -1 with
+/// errno on failure.
 int ppdInMemory(const QByteArray &bytes);
 
-/// The failure for a PPD that the system does not hand out, with the reason of `error` (an errno).
+/// The failure for a PPD that cannot be read because of `error` (an errno).
 Failure<PpdFault> ppdNotReadable(const QString &name, int error);
 
 } // namespace printdialog

@@ -56,7 +56,7 @@ QByteArrayView withoutAsterisk(QByteArrayView keyword)
     return keyword.startsWith('*') ? keyword.sliced(1) : keyword;
 }
 
-/// The `de` of `de.PageSize`, the `zh_TW` of `zh_TW.PageSize`; empty for what is no translation.
+/// The `de` of `de.PageSize`, the `zh_TW` of `zh_TW.PageSize`; empty for other keywords.
 QByteArrayView languageOf(QByteArrayView keyword)
 {
     const qsizetype dot = keyword.indexOf('.');
@@ -82,7 +82,7 @@ public:
     }
 
 private:
-    /// Empty when libcups takes the keyword.
+    /// Empty when libcups accepts the keyword.
     static QString keywordFault(QByteArrayView keyword)
     {
         if (!std::all_of(keyword.begin(), keyword.end(), [](char byte) { return byte > ' ' && byte < 127; }))
@@ -185,7 +185,7 @@ private:
         const QByteArrayView keyword = withoutAsterisk(line.optionKeyword);
         if (keyword.isEmpty())
             return correct(PpdFault::BadKeyword, tr("the option in line %1 has no keyword").arg(line.number));
-        // libcups counts the asterisk, too.
+        // libcups includes the asterisk in the length.
         if (const QString fault = keywordFault(line.optionKeyword); !fault.isEmpty())
             return correct(PpdFault::BadKeyword, tr("the keyword of the option \"%1\" in line %2 is bad: %3")
                                                      .arg(shown(keyword), number(line.number), fault));
@@ -216,7 +216,7 @@ private:
                 return tooMany(PpdFault::Malformed, tr("parameters of custom choices"),
                                Limits::customParameters);
         } else if (const QByteArrayView language = languageOf(keyword); !language.isEmpty()) {
-            // libcups keeps one language only.
+            // Counted per language, since libcups keeps only one.
             if (++translations_[language] > Limits::otherEntries)
                 return tooMany(PpdFault::Malformed, tr("translations into one language"),
                                Limits::otherEntries);
@@ -242,8 +242,8 @@ private:
 
     bool inspectEnd()
     {
-        // Real PPDs forget the line that closes an option, or the end of their last line; libcups minds
-        // neither. Both at once are what is left of a file that was cut off.
+        // Some real PPDs lack the line that closes an option, or the end of their last line; libcups accepts
+        // either. Both together mean that the file was cut off.
         const bool isOpen = !option_.isEmpty() || groupLine_ > 0;
         if (isOpen && lacksLineEnd_)
             return fetchAgain(PpdFault::CutOff, tr("it is cut off in line %1").arg(lastLine_));
@@ -252,7 +252,7 @@ private:
                           .arg(shown(option_), number(optionLine_));
         if (groupLine_ > 0)
             notes_ += tr("The group opened in line %1 never closes.").arg(groupLine_);
-        // For each constraint libcups walks through the choices of the options that it names.
+        // For each constraint, libcups searches the choices of the options that it names.
         qint64 cost = 0;
         for (auto it = constraintsOn_.cbegin(); it != constraintsOn_.cend(); ++it)
             cost += it.value() * choicesOf_.value(it.key());
@@ -264,7 +264,7 @@ private:
 
     bool isPadding(const PpdLine &line) const
     {
-        // A file from DOS may end in Ctrl-Z.
+        // A file from DOS may end with Ctrl-Z.
         return std::all_of(data_.begin() + line.begin, data_.begin() + line.end,
                            [](char byte) { return byte == '\x1a' || byte == ' ' || byte == '\t'; });
     }
@@ -288,7 +288,7 @@ private:
         return all;
     }
 
-    /// Line ends stay, so that libcups counts the lines as people do.
+    /// Keeps the line ends, so that libcups' line numbers are those of the file.
     QByteArray withoutDropped() const
     {
         const QByteArray lineEnd = lacksLineEnd_ ? "\n" : "";
@@ -331,14 +331,14 @@ private:
     QString name_;
     Failure<PpdFault> failure_{PpdFault::Malformed, {}, {}};
     std::vector<PpdLine> dropped_;
-    bool lacksLineEnd_ = false; // the last line
+    bool lacksLineEnd_ = false; // of the last line
     int lastLine_ = 0;
     QStringList notes_;
     int noteCount_ = 0;
 
-    QByteArrayView option_; // the option that is open
+    QByteArrayView option_; // the open option
     int optionLine_ = 0;
-    int groupLine_ = 0; // of the group that is open
+    int groupLine_ = 0; // of the open group
     int options_ = 0;
     int groups_ = 0;
     int choices_ = 0;

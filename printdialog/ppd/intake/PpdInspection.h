@@ -13,8 +13,8 @@ namespace printdialog {
 /// Why a PPD is not used.
 enum class PpdFault {
     NotFound,           ///< There is no such file.
-    NotReadable,        ///< No permission, an input error, or no regular file at all.
-    Empty,              ///< No byte in it.
+    NotReadable,        ///< No permission, an input error, or not a regular file.
+    Empty,              ///< Zero bytes.
     TooLarge,           ///< More than 32 MiB.
     NotAPpd,            ///< Something else: another kind of text, an archive, binary data.
     CutOff,             ///< The end is missing.
@@ -25,17 +25,17 @@ enum class PpdFault {
     Malformed,          ///< Breaks the rules of the format in another way.
     NoPageSize,         ///< No page size that can be printed on.
     Harmful,            ///< libcups crashes over it, or never ends.
-    NotTried,           ///< It could not be found out whether libcups survives it.
+    NotTried,           ///< It could not be checked whether libcups survives it.
 };
 
-/// What a PPD may hold at most. Far above every real one, and low enough that libcups, which searches some of
-/// its lists from the start for each new entry, opens a file at the limit within seconds.
+/// The limits for a PPD. Far above every real one, and low enough that libcups opens a file at the limits
+/// within seconds, although it searches some of its lists from the start for each new entry.
 struct PpdLimits
 {
     static constexpr qsizetype bytes = qsizetype(32) << 20;
-    static constexpr qsizetype lineBytes = 4096;        ///< Of a line outside quotes.
-    static constexpr qsizetype entryBytes = 250'000;    ///< Of an entry with its quoted value.
-    static constexpr qsizetype readableLineBytes = 255; ///< libcups gives up at a line that is longer.
+    static constexpr qsizetype lineBytes = 4096;        ///< In a line outside quotes.
+    static constexpr qsizetype entryBytes = 250'000;    ///< In an entry with its quoted value.
+    static constexpr qsizetype readableLineBytes = 255; ///< libcups fails on a longer line.
     static constexpr qsizetype keywordBytes = 40;       ///< PPD_MAX_NAME without its final NUL.
     static constexpr int options = 2'000;
     static constexpr int groups = 2'000;
@@ -43,24 +43,25 @@ struct PpdLimits
     static constexpr int pageSizes = 4'000;
     static constexpr int customParameters = 4'000;
     static constexpr int constraints = 20'000;
-    static constexpr qint64 constraintCost =
-        50'000'000;                              ///< Sum of the choices of the options that they name.
-    static constexpr int otherEntries = 100'000; ///< Beside options; as many again for each language.
+    /// The sum of the choices of the options that the constraints name.
+    static constexpr qint64 constraintCost = 50'000'000;
+    static constexpr int otherEntries = 100'000; ///< Other than options; also the limit for each language.
     static constexpr int notes = 50;
 };
 
-/// A PPD that passed.
+/// A PPD that passed the inspection.
 struct PpdInspection
 {
     QByteArray bytes; ///< What libcups may parse: the same lines, the dropped ones empty, the last one ended.
-    QStringList
-        notes; ///< One sentence for each thing that was dropped, at most PpdLimits::notes and a last one.
+    /// A sentence for each part that was dropped, at most PpdLimits::notes, then one for the rest.
+    QStringList notes;
 };
 
-/// Looks at an untrusted PPD before libcups does, without libcups, in time linear in its size. Refuses what
-/// is no PPD, ends within a quoted value or is too much; drops a single bad line (a choice whose keyword is
-/// not printable ASCII or is too long) with a note, so that an odd PPD keeps its queue. `name` is what people
-/// call the PPD: a file, a queue. Reentrant. Rules: Adobe's PPD specification 4.3 as far as libcups keeps it.
+/// Inspects an untrusted PPD before libcups sees it, in time linear in its size. Refuses data that is not a
+/// PPD, ends within a quoted value or exceeds a limit. Drops a single bad line (a choice whose keyword is not
+/// printable ASCII or is too long) with a note, so that a queue with an odd PPD stays usable. `name` is the
+/// PPD's name for people: a file or a queue. Reentrant. Rules: Adobe's PPD specification 4.3 as far as
+/// libcups follows it.
 Result<PpdInspection, PpdFault> inspectPpd(const QByteArray &data, const QString &name);
 
 } // namespace printdialog

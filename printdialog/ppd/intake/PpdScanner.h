@@ -9,24 +9,24 @@
 
 namespace printdialog {
 
-/// One entry of a PPD: a line, or several when its quoted value goes on.
+/// One entry of a PPD: a line, or several when its quoted value continues.
 struct PpdLine
 {
     qsizetype begin = 0;      ///< Offset of the first byte.
     qsizetype end = 0;        ///< Offset after the last byte, without the line's end.
-    int number = 0;           ///< Of the first line, from 1.
-    qsizetype longest = 0;    ///< Bytes of the longest line of the entry.
-    bool complete = false;    ///< The last line had an end.
-    bool quoteClosed = false; ///< Quotes are in pairs.
-    QByteArrayView
-        mainKeyword; ///< Without the asterisk; empty for comments, blank lines and what is no entry.
+    int number = 0;           ///< The number of its first line, from 1.
+    qsizetype longest = 0;    ///< The bytes of its longest line.
+    bool complete = false;    ///< The last line has a line end.
+    bool quoteClosed = false; ///< All quotes are paired.
+    /// Without the asterisk; empty for comments, blank lines and lines that are not entries.
+    QByteArrayView mainKeyword;
     QByteArrayView optionKeyword; ///< May be empty.
     QByteArrayView text;          ///< The translation after the slash; may be empty.
     QByteArrayView value;         ///< After the colon, trimmed, with its quotes.
 };
 
-/// Cuts a PPD into entries by libcups' own rules for line ends (CR, LF, CRLF) and quotes, so that what is
-/// counted here is what libcups will see. Borrows the bytes. One pass; a line is never read twice.
+/// Splits a PPD into entries by libcups' rules for line ends (CR, LF, CRLF) and quotes, so that both see the
+/// same entries. Borrows the bytes. A single pass.
 class PpdScanner
 {
 public:

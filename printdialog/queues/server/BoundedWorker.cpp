@@ -17,7 +17,8 @@ BoundedWorker::BoundedWorker(QObject *owner)
 
 void BoundedWorker::run(std::function<void(BoundedWorker &)> work)
 {
-    // A thread inherits the mask, so that not one signal slips through before it could block them itself.
+    // Block signals before the thread starts: it inherits the mask, so none can arrive before it could block
+    // them.
     sigset_t all;
     sigset_t before;
     sigfillset(&all);
@@ -48,7 +49,7 @@ void BoundedWorker::release(std::chrono::milliseconds patience)
     {
         const std::lock_guard lock(mutex_);
         owner_ = nullptr;
-        std::atomic_ref(cancelled_).store(1);
+        std::atomic_ref(canceled_).store(1);
         changed_.notify_all();
     }
     if (!endsWithin(patience))
@@ -58,7 +59,7 @@ void BoundedWorker::release(std::chrono::milliseconds patience)
 bool BoundedWorker::pause(std::chrono::milliseconds time)
 {
     std::unique_lock lock(mutex_);
-    return !changed_.wait_for(lock, time, [this] { return cancelled_ != 0; });
+    return !changed_.wait_for(lock, time, [this] { return canceled_ != 0; });
 }
 
 void BoundedWorker::post(std::function<void()> call)

@@ -15,46 +15,46 @@
 
 namespace printdialog {
 
-/// A thread that may block in a call nobody can interrupt (a name look-up, a server that stays silent), and
-/// that its owner can leave behind at any time: from then on it reaches the owner no more, and ends when its
-/// call returns. Always held by a shared_ptr; the running thread holds one of its own.
+/// A thread that may block in a call that cannot be interrupted (a name look-up, a silent server), and that
+/// its owner can abandon at any time. From then on it no longer reaches the owner, and ends when its call
+/// returns. Always held by a shared_ptr; the running thread holds one, too.
 class BoundedWorker : public std::enable_shared_from_this<BoundedWorker>
 {
 public:
-    /// @param owner receives what is posted, on its own thread; not owned; may be null when nothing is posted
+    /// @param owner its thread runs the posted calls; not owned; may be null when nothing is posted
     explicit BoundedWorker(QObject *owner = nullptr);
 
     // On the owner's thread:
 
-    /// Starts the thread; once per worker. Signals are blocked in it: their handlers belong to the
-    /// application.
+    /// Starts the thread; once per worker. Signals are blocked in it, so that the application's own threads
+    /// handle them.
     void run(std::function<void(BoundedWorker &)> work);
-    /// Waits for the thread to end, at most so long. False: it still runs.
+    /// Waits for the thread to end, at most for the limit. False: it still runs.
     bool endsWithin(std::chrono::milliseconds limit);
-    /// Cancels, drops what is posted but not yet delivered, and waits at most so long before the thread is
-    /// left behind. The owner may be destroyed afterwards.
+    /// Cancels, drops calls that are posted but not yet delivered, and waits at most that long before it
+    /// abandons the thread. The owner may be destroyed afterwards.
     void release(std::chrono::milliseconds patience);
 
     // On the worker's thread:
 
-    /// Non-zero once released: the form in which libcups wants to see it.
-    int *cancelFlag() { return &cancelled_; }
-    /// Sleeps until the time is over or the worker is released. False: released, end now.
+    /// Non-zero once released; a plain int, as libcups needs it.
+    int *cancelFlag() { return &canceled_; }
+    /// Sleeps until the time is over or the worker is released. False: released, so end now.
     bool pause(std::chrono::milliseconds time);
-    /// Has call run on the owner's thread, by its event loop, unless the worker is released before.
+    /// Runs `call` on the owner's thread, by its event loop, unless the worker is released before.
     void post(std::function<void()> call);
 
 private:
-    QObject *owner_; // guarded by mutex_; cleared by the owner's thread only
+    QObject *owner_; // guarded by mutex_; cleared only on the owner's thread
     std::mutex mutex_;
     std::condition_variable changed_;
     std::thread thread_;
-    int cancelled_ = 0; // written through atomic_ref: libcups reads it as a plain int
+    int canceled_ = 0; // written through atomic_ref: libcups reads it as a plain int
     bool ended_ = false;
 };
 
-/// The value of call, run on a thread of its own, or nothing when the limit passes first. The call then goes
-/// on unheard, with its cancel flag raised: it must own all that it uses.
+/// Runs `call` on a separate thread. Returns its value, or nothing when the limit passes first. The call then
+/// continues, with its cancel flag raised and its value unused, so it must own everything that it uses.
 template <class Value>
 std::optional<Value> callWithin(std::chrono::milliseconds limit, std::function<Value(int *cancel)> call)
 {

@@ -19,10 +19,9 @@ namespace printdialog {
 
 namespace {
 
-/// A server on this machine accepts at once or not at all.
+/// A local server accepts at once or not at all.
 constexpr auto loopbackLimit = 250ms;
-/// libcups sets SIGPIPE to be ignored when it is first used; a handler that somebody installed stays in
-/// force.
+/// On first use, libcups makes the process ignore SIGPIPE. Restores a handler that was installed before.
 void initializeCups()
 {
     static std::once_flag once;
@@ -83,7 +82,7 @@ CupsConnection::CupsConnection(std::chrono::milliseconds limit, int *cancel)
 {
     initializeCups();
     cupsSetPasswordCB2(noPassword, nullptr);
-    // libcups keeps the server's name for the life of a thread; a socket that appears later must be seen.
+    // libcups caches the server's name per thread; reset it so that a socket that appears later is found.
     cupsSetServer(nullptr);
     server_ = QFile::decodeName(cupsServer());
     encryption_ = cupsEncryption();
@@ -111,7 +110,7 @@ bool CupsConnection::connect()
     const bool isLocal = isSocket || server_ == QLatin1String("localhost");
     const auto left = std::chrono::ceil<std::chrono::milliseconds>(deadline_ - SocketLimit::Clock::now());
     const auto connectLimit = isLocal ? std::min<std::chrono::milliseconds>(left, loopbackLimit) : left;
-    // An upgrade to encryption is a request of its own, whose answer has its limits, too.
+    // An upgrade to encryption is a separate request, and its answer has limits, too.
     const bool isUpgrade = encryption_ == HTTP_ENCRYPTION_REQUIRED;
     http_.reset(httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC,
                              isUpgrade ? HTTP_ENCRYPTION_IF_REQUESTED : encryption_, 1,
@@ -138,7 +137,7 @@ void CupsConnection::extend(std::chrono::milliseconds limit)
     extend();
 }
 
-bool CupsConnection::isCancelled() const
+bool CupsConnection::isCanceled() const
 {
     return cancel_ && std::atomic_ref(*cancel_).load() != 0;
 }
@@ -159,8 +158,8 @@ QString CupsConnection::unreachableReason() const
 
 Failure<QueueFault> CupsConnection::lastFailure(const QString &queue) const
 {
-    if (isCancelled())
-        return queueFailure(QueueFault::Cancelled, queue);
+    if (isCanceled())
+        return queueFailure(QueueFault::Canceled, queue);
     if (end_ == End::Nobody)
         return queueFailure(QueueFault::NoServer, queue, unreachableReason());
     if (socketLimit_ ? socketLimit_->isOver() : SocketLimit::Clock::now() >= deadline_) {

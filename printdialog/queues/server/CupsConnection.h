@@ -20,47 +20,47 @@ struct HttpCloser
     void operator()(http_t *http) const { httpClose(http); }
 };
 
-/// A connection to the print server of this process (CUPS_SERVER, client.conf, the local socket) that gives
-/// up when the server is silent, which libcups' own connection never does, and reads no more than an answer
-/// may hold (IppInspection.h). All requests go through here: what libcups has for whole requests
-/// (cupsDoRequest, cupsSendRequest, cupsGetFd) reads without limits and connects again past SocketLimit. It
-/// belongs to the thread that made it. It never asks for a password: a request that needs one is refused.
+/// A connection to the print server of this process (CUPS_SERVER, client.conf, the local socket). Unlike
+/// libcups' own connection, it gives up when the server is silent, and it limits the size of an answer
+/// (IppInspection.h). All requests go through it: libcups' functions for complete requests (cupsDoRequest,
+/// cupsSendRequest, cupsGetFd) read without limits and reconnect past SocketLimit. Use it only on the thread
+/// that made it. It never asks for a password: a request that needs one is refused.
 class CupsConnection
 {
 public:
-    /// Connects for the first request, and again for one that finds the connection closed. The limit is for
-    /// connecting and for everything afterwards, until extend() starts it anew; it holds for a server that
-    /// sends a byte now and then as well as for a silent one.
+    /// Connects at the first request, and again at one that finds the connection closed. The limit covers
+    /// connecting and everything afterwards until extend() restarts it. It applies to a server that sends a
+    /// byte now and then as well as to a silent one.
     /// @param cancel see heed()
     explicit CupsConnection(std::chrono::milliseconds limit, int *cancel = nullptr);
     ~CupsConnection();
     Q_DISABLE_COPY_MOVE(CupsConnection)
 
-    /// Starts the time limit anew, after progress.
+    /// Restarts the time limit; call after progress.
     void extend();
-    /// Starts another one.
+    /// Starts another time limit.
     void extend(std::chrono::milliseconds limit);
 
-    bool isCancelled() const;
-    /// From now on this flag, non-zero, ends what is under way, besides the time limit. Looked at twenty
-    /// times a second; outlives the connection; may be null.
+    bool isCanceled() const;
+    /// Sets the flag that, when non-zero, ends the request under way like the time limit does. Polled twenty
+    /// times a second; must outlive the connection; may be null.
     void heed(int *cancel);
 
-    /// Sends the request, and reads the answer; null when there is none that can be used. The answer may tell
-    /// of a failure: see status().
+    /// Sends the request and reads the answer; null when there is no usable one. The answer may report a
+    /// failure: see status().
     IppPointer answerTo(IppPointer request, const char *resource);
 
     // A request with a document:
 
-    /// Sends the request. Whether the server wants the document: otherwise its answer is there.
+    /// Sends the request. True: the server wants the document; false: read answer().
     bool begin(ipp_t *request, const QByteArray &resource, qint64 documentSize);
-    /// Sends a part of the document. False: the server takes no more of it, which its answer may explain.
+    /// Sends a part of the document. False: the server accepts no more of it; its answer may say why.
     bool write(const char *data, size_t size);
     IppPointer answer();
 
-    /// Fetches a file; its bytes only when the status is HTTP_STATUS_OK. HTTP_STATUS_ERROR: see
+    /// Fetches a file. `bytes` is set only when the status is HTTP_STATUS_OK. HTTP_STATUS_ERROR: see
     /// lastFailure().
-    /// @param sizeLimit more is not read, and a failure
+    /// @param sizeLimit a longer file is a failure, and not read further
     http_status_t fetch(const QByteArray &resource, qsizetype sizeLimit, QByteArray &bytes);
 
     /// The status in the last answer to an IPP request; IPP_STATUS_ERROR_INTERNAL when there was none.
@@ -68,18 +68,18 @@ public:
     bool hasSucceeded() const { return status_ <= IPP_STATUS_OK_CONFLICTING; }
     /// Whether the last request failed because the connection broke.
     bool isBroken() const { return end_ == End::Broken; }
-    /// What the last request failed with, or else that the server has not answered what was asked.
+    /// The failure of the last request, or else that the server's answer was not usable.
     Failure<QueueFault> lastFailure(const QString &queue) const;
 
 private:
-    /// For an answer's head, and as much for its body's framing and encryption.
+    /// Bytes allowed for an answer's head, and as many for its body's framing and encryption.
     static constexpr qint64 overheadLimit = qint64(512) * 1024;
 
     /// How the last request ended.
     enum class End {
         Answered, ///< See status_.
-        Http,     ///< The server has refused it before it was IPP; see httpStatus_.
-        Nobody,   ///< Nobody was there.
+        Http,     ///< The server refused it at the HTTP level; see httpStatus_.
+        Nobody,   ///< Nothing listens at the address.
         Broken,   ///< The connection broke.
         Unfit     ///< The answer is too large or malformed.
     };
@@ -88,14 +88,13 @@ private:
     QString unreachableReason() const;
     bool connect();
     void disconnect();
-    /// A connection for one more request.
+    /// Makes sure that the connection is ready for another request.
     bool prepare();
     bool post(ipp_t *request, const QByteArray &resource, qint64 documentSize, bool asksBefore);
-    /// Whether the request may have success when it is sent again, over another connection: a server closes
-    /// one that was idle, and may want encryption or to know who asks.
+    /// Whether the request may succeed when it is sent again over a new connection: a server closes idle
+    /// connections, and may require encryption or authentication.
     bool removesObstacle(const char *method, const QByteArray &resource);
-    /// Waits for the head of the answer itself, or only for what comes next: that the server wants the
-    /// document is not an answer yet.
+    /// Waits for the head of the final answer, or for the next one, which may only be "100 Continue".
     enum class Head { Answer, Next };
     void readHead(Head head);
     IppPointer readAnswer();
@@ -110,14 +109,14 @@ private:
     http_encryption_t encryption_ = HTTP_ENCRYPTION_IF_REQUESTED;
     QByteArray authorization_;
     std::unique_ptr<http_t, HttpCloser> http_;
-    std::unique_ptr<SocketLimit> socketLimit_; ///< before what it watches is closed
+    std::unique_ptr<SocketLimit> socketLimit_; ///< destroyed before the socket that it watches is closed
 
-    bool isUsed_ = false;  ///< an earlier request has had its answer over this connection
-    bool isSpent_ = false; ///< the connection is of no use for another request
-    http_status_t httpStatus_ = HTTP_STATUS_CONTINUE; ///< of the request under way; continue: no head yet
+    bool isUsed_ = false;  ///< an earlier request was answered over this connection
+    bool isSpent_ = false; ///< the connection cannot be used for another request
+    http_status_t httpStatus_ = HTTP_STATUS_CONTINUE; ///< of the current request; CONTINUE: no head yet
     End end_ = End::Answered;
     ipp_status_t status_ = IPP_STATUS_OK;
-    QString words_; ///< the server's, about status_
+    QString words_; ///< the server's message about status_
 };
 
 } // namespace printdialog

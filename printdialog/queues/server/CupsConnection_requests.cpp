@@ -12,15 +12,15 @@ namespace printdialog {
 
 namespace {
 
-/// How long a document is held back for a server that may want something else first.
+/// How long to wait for "100 Continue" before sending a document.
 constexpr int continueLimit = 1000; // ms
-/// For what ends an answer after its last byte, and how much that may be.
+/// How long to wait for the end of an answer's framing after its last byte.
 constexpr int restLimit = 100; // ms
 constexpr qint64 restBytesLimit = 65536;
-/// A password is never asked for, so that more attempts bring nothing.
+/// Without a password, more attempts cannot succeed.
 constexpr int mostAttempts = 3;
 
-/// The bytes of an answer on their way to libcups.
+/// Feeds the bytes of an answer to libcups through the inspection.
 struct InspectedBody
 {
     http_t *http = nullptr;
@@ -76,7 +76,7 @@ bool CupsConnection::prepare()
     status_ = IPP_STATUS_ERROR_INTERNAL;
     words_.clear();
     httpStatus_ = HTTP_STATUS_CONTINUE;
-    // libcups connects again by itself where it finds the connection unfit for another request.
+    // Reconnect in these cases: otherwise libcups would, past SocketLimit.
     if (!isOpen() || isSpent_ || httpGetFd(http_.get()) < 0 ||
         httpGetState(http_.get()) != HTTP_STATE_WAITING) {
         if (!connect()) {
@@ -84,7 +84,7 @@ bool CupsConnection::prepare()
             return false;
         }
     }
-    isSpent_ = true; // until the answer has been read to its end
+    isSpent_ = true; // until the answer is read to its end
     httpClearFields(http_.get());
     httpSetField(http_.get(), HTTP_FIELD_AUTHORIZATION, authorization_.constData());
     socketLimit_->allow(overheadLimit);
@@ -95,7 +95,7 @@ bool CupsConnection::post(ipp_t *request, const QByteArray &resource, qint64 doc
 {
     http_t *http = http_.get();
     httpSetField(http, HTTP_FIELD_CONTENT_TYPE, "application/ipp");
-    // With its length told, a document that is cut off is never taken for a whole one.
+    // With a length, the server never takes a document that was cut off for a complete one.
     httpSetLength(http, ippLength(request) + static_cast<size_t>(documentSize));
     if (asksBefore)
         httpSetExpect(http, HTTP_STATUS_CONTINUE);
@@ -192,7 +192,7 @@ IppPointer CupsConnection::readAnswer()
     return answer;
 }
 
-// Where the end of the answer does not come soon, the next request has a connection of its own.
+// If the end of the answer does not arrive soon, the next request uses a new connection.
 void CupsConnection::readRest()
 {
     http_t *http = http_.get();
@@ -238,7 +238,7 @@ http_status_t CupsConnection::fetch(const QByteArray &resource, qsizetype sizeLi
         bytes.append(chunk.data(), count);
     if (bytes.size() > sizeLimit)
         fail(End::Unfit);
-    // The connection goes back to waiting only when the whole body was read.
+    // libcups returns to HTTP_STATE_WAITING only when the complete body was read.
     else if (count < 0 || httpGetState(http_.get()) != HTTP_STATE_WAITING)
         fail(End::Broken);
     else

@@ -20,9 +20,9 @@ constexpr unsigned char lastTextTag = 0x4a;
 constexpr unsigned char memberName = 0x4a;
 constexpr unsigned char extension = 0x7f;
 
-// What libcups allocates, rounded up.
+// The memory that libcups allocates, rounded up.
 constexpr qint64 attributeMemory = 80;
-constexpr qint64 furtherValueMemory = 112; // the second makes room for eight
+constexpr qint64 furtherValueMemory = 112; // the second value makes room for eight
 constexpr qint64 textMemory = 80;
 constexpr qint64 collectionMemory = 256;
 
@@ -48,13 +48,13 @@ bool IppInspection::admits(const unsigned char *bytes, size_t count)
             break;
         }
         case Part::Tag:
-            isRefused_ = !takeTag(bytes[i++]);
+            isRefused_ = !readTag(bytes[i++]);
             break;
         case Part::NameLength:
         case Part::ValueLength:
             number_ = number_ * 256 + bytes[i++];
             if (--left_ == 0)
-                isRefused_ = !(part_ == Part::NameLength ? takeNameLength() : takeValueLength());
+                isRefused_ = !(part_ == Part::NameLength ? readNameLength() : readValueLength());
             break;
         case Part::End:
             isRefused_ = true;
@@ -79,10 +79,10 @@ bool IppInspection::charge(qint64 memory)
     return memory_ <= answerMemoryLimit;
 }
 
-/// libcups keeps each name and each text once, but bytes of no known type as often as they come.
+/// libcups stores equal names and texts once, but bytes of an unknown type each time.
 bool IppInspection::chargeText()
 {
-    // Two texts in one value, which nobody needs.
+    // Such a value holds two texts; no real server uses it here.
     if (tag_ == textWithLanguage || tag_ == nameWithLanguage)
         texts_.insert(~text_);
     const bool isText = part_ == Part::Name || (tag_ >= firstTextTag && tag_ <= lastTextTag);
@@ -92,15 +92,15 @@ bool IppInspection::chargeText()
     return texts_.size() <= answerTextsLimit && charge(textMemory + length_);
 }
 
-bool IppInspection::takeTag(unsigned char tag)
+bool IppInspection::readTag(unsigned char tag)
 {
     tag_ = tag;
-    if (tag < firstValueTag) { // a group of attributes begins, or all of them end
+    if (tag < firstValueTag) { // a delimiter: a group of attributes begins, or the attributes end
         if (depth_ > 0 || tag == 0)
             return false;
         if (tag == endOfAttributes)
             expect(Part::End, 0);
-        return ++values_ <= answerValuesLimit && charge(attributeMemory); // libcups keeps a separator
+        return ++values_ <= answerValuesLimit && charge(attributeMemory); // libcups stores a separator
     }
     if (tag == extension || (tag == beginCollection && ++depth_ > answerDepthLimit))
         return false;
@@ -108,7 +108,7 @@ bool IppInspection::takeTag(unsigned char tag)
     return true;
 }
 
-bool IppInspection::takeNameLength()
+bool IppInspection::readNameLength()
 {
     nameLength_ = number_;
     if (nameLength_ > 0 && (tag_ == memberName || tag_ == endCollection))
@@ -120,7 +120,7 @@ bool IppInspection::takeNameLength()
     return true;
 }
 
-bool IppInspection::takeValueLength()
+bool IppInspection::readValueLength()
 {
     const int length = number_;
     if (length > 0 && (tag_ == beginCollection || tag_ == endCollection))

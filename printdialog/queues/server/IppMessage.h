@@ -18,18 +18,17 @@ struct IppDeleter
 };
 using IppPointer = std::unique_ptr<ipp_t, IppDeleter>;
 
-/// A request with what every request about a printer or job begins with.
+/// Creates a request with the attributes that every request about a printer or job begins with.
 /// @param uri of the queue, or of the server ("ipp://localhost/")
 IppPointer ippRequest(ipp_op_t operation, const QByteArray &uri);
 
-/// How many values of an attribute are read: nobody looks at more, and a server may send any number.
+/// The most values of an attribute that are read; a server may send any number.
 constexpr int mostValues = 100;
 
-/// The values of an attribute as texts, as the server sends them; none when it has no such attribute. At most
-/// mostValues.
+/// The values of an attribute as texts, unchanged; empty when there is no such attribute. At most mostValues.
 QStringList textsOf(ipp_t *answer, const char *attribute);
 
-/// The first of them, byte for byte; empty when there is none.
+/// The first value, byte for byte; empty when there is none.
 QByteArray textOf(ipp_t *answer, const char *attribute);
 
 } // namespace printdialog

@@ -9,8 +9,8 @@
 
 namespace printdialog {
 
-/// While it lives, writing to a connection that the server has closed is an error and no SIGPIPE, on this
-/// thread: the signal's handler, if there is one, is for other pipes.
+/// While it exists, writing to a connection that the server has closed fails on this thread without a
+/// SIGPIPE. A handler of that signal, if there is one, is meant for other pipes.
 class PipeSignalBlock
 {
 public:

@@ -16,7 +16,7 @@ struct FaultText
     Q_DECLARE_TR_FUNCTIONS(QueueFault)
 };
 
-/// What is said when the server gave no reason.
+/// The reason to show when the server gave none.
 QString ownReason(QueueFault fault)
 {
     switch (fault) {
@@ -34,7 +34,7 @@ QString ownReason(QueueFault fault)
         return FaultText::tr("time limit reached");
     case QueueFault::Changed:
         return FaultText::tr("its PPD file is a new one");
-    case QueueFault::Cancelled:
+    case QueueFault::Canceled:
         return FaultText::tr("nothing is printed");
     case QueueFault::Failed:
         break;
@@ -69,7 +69,7 @@ QString sentence(QueueFault fault)
         return FaultText::tr(
             "The options of the printer \"%1\" have changed since they were chosen (%2); look at them and "
             "print again.");
-    case QueueFault::Cancelled:
+    case QueueFault::Canceled:
         return FaultText::tr("The job for the printer \"%1\" was cancelled (%2).");
     case QueueFault::Failed:
         break;

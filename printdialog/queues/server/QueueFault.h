@@ -10,18 +10,19 @@ namespace printdialog {
 /// Why a queue could not be used.
 enum class QueueFault {
     NotFound,     ///< The server has no queue of this name.
-    NoServer,     ///< Nobody listens where the print server should.
+    NoServer,     ///< Nothing listens at the print server's address.
     NoPpd,        ///< The queue has no PPD (a raw queue, or a class of them).
     NotAccepting, ///< The queue rejects jobs.
-    Refused,      ///< Not allowed by the server, or unfit to be sent to it.
-    TimedOut,     ///< The server was silent, or slow, for too long.
-    Changed,      ///< The queue's PPD is another one than that which the options were chosen from.
-    Cancelled,    ///< Given up by whoever had begun it.
+    Refused,      ///< Not allowed by the server, or not fit to be sent.
+    TimedOut,     ///< The server was silent or slow for too long.
+    Changed,      ///< The queue's PPD has changed since the options were chosen.
+    Canceled,     ///< Canceled by the caller.
     Failed        ///< Anything else; the server's own words say what.
 };
 
 /// The failure with its sentence: the queue by its name, the reason, the remedy.
-/// @param queue the queue's id; empty when the server itself is meant (NoServer, TimedOut, Refused, Failed)
+/// @param queue the queue's id; empty for a failure of the server itself (NoServer, TimedOut, Refused,
+/// Failed)
 /// @param words the server's own message, or another reason; untrusted, cleaned here; may be empty
 Failure<QueueFault> queueFailure(QueueFault fault, const QString &queue, const QString &words = {});
 

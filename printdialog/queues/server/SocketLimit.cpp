@@ -24,9 +24,9 @@ namespace printdialog {
 
 namespace {
 
-constexpr auto lookInterval = 50ms; // at the cancel flag, which has nobody who would wake the thread
+constexpr auto lookInterval = 50ms; // for polling the cancel flag, which cannot wake the thread
 
-/// Longer than a busy machine takes between the head of an answer and what is allowed for the rest.
+/// Longer than a busy machine takes between reading an answer's head and allowing its body.
 constexpr auto starvingLimit = 1s;
 
 void closeAll(std::initializer_list<int> descriptors)
@@ -49,7 +49,7 @@ struct SocketLimit::Stretch
     std::array<char, 65536> bytes = {};
     size_t begin = 0;
     size_t end = 0;
-    bool isCut = false; ///< nothing more comes, or nobody takes it
+    bool isCut = false; ///< the sender has ended, or the receiver no longer reads
 
     bool isEmpty() const { return begin == end; }
 };
@@ -60,7 +60,7 @@ SocketLimit::SocketLimit(http_t *http, Clock::time_point deadline, int *cancel)
 {
     if (!takePlace(http))
         return;
-    // Signals are for the application's own threads.
+    // Block signals, so that the application's own threads handle them.
     sigset_t all;
     sigset_t before;
     sigfillset(&all);
@@ -138,7 +138,7 @@ bool SocketLimit::isExceeded()
     return isExceeded_;
 }
 
-/// @param milliseconds becomes the time until the next look
+/// @param milliseconds set to the time until the next check
 bool SocketLimit::mustEnd(int &milliseconds)
 {
     const std::lock_guard lock(mutex_);
@@ -154,7 +154,7 @@ bool SocketLimit::mustEnd(int &milliseconds)
     return ends_ || isOver_ || isExceeded_;
 }
 
-/// Whether the server has more than is allowed, and libcups has read all that was.
+/// Whether the server sends more than is allowed, and libcups has read everything that was.
 bool SocketLimit::isStarving() const
 {
     pollfd more = {server_, POLLIN, 0};
@@ -199,8 +199,7 @@ SocketLimit::Flow SocketLimit::send(int socket, Stretch &stretch)
     return Flow::Goes;
 }
 
-// A server that takes nothing more may have said why before: that is passed on, while libcups learns that it
-// writes in vain.
+// A server that reads no more may have said why: that is passed on, while libcups' writes fail.
 void SocketLimit::passOn()
 {
     const auto request = std::make_unique<Stretch>();
@@ -212,7 +211,7 @@ void SocketLimit::passOn()
             pollfd{server_, events(isFree, !request->isCut && !request->isEmpty()), 0},
             pollfd{inner_, events(!request->isCut && request->isEmpty(), !answer->isEmpty()), 0},
             pollfd{wake_, POLLIN, 0}};
-        // An end that waits for nothing would report again and again that it was hung up.
+        // poll(2) would report a hang-up again and again, so an end with nothing to wait for is left out.
         for (pollfd &end : ends)
             end.fd = end.events ? end.fd : -1;
         if (poll(ends.data(), ends.size(), milliseconds) <= 0)

@@ -9,42 +9,42 @@
 #include <mutex>
 #include <thread>
 
-typedef struct _http_s http_t; // NOLINT(bugprone-reserved-identifier): libcups names it so
+typedef struct _http_s http_t; // NOLINT(bugprone-reserved-identifier): libcups' name
 
 namespace printdialog {
 
-/// Stands between libcups and the server's socket, and ends the connection once its time is over, the work is
-/// given up, or the server has sent more than is allowed, so that whatever call is under way returns.
-/// libcups' own limit counts silence only, which a server that sends one byte a second never exceeds; and it
-/// keeps the headers of an answer however many there are. A thread of its own passes the bytes on.
+/// A relay between libcups and the server's socket. It ends the connection when the time is over, the work is
+/// canceled, or the server has sent more than is allowed, so that the current libcups call returns. libcups'
+/// own limit covers only silence, which a server that sends one byte a second never exceeds, and libcups
+/// stores any number of headers. A separate thread relays the bytes.
 class SocketLimit
 {
 public:
     using Clock = std::chrono::steady_clock;
 
-    /// Takes the place of the connection's socket, under the same descriptor. What libcups connects again by
-    /// itself goes past it.
+    /// Replaces the connection's socket, under the same descriptor. A connection that libcups reopens itself
+    /// is not limited.
     /// @param http outlives this object
-    /// @param cancel non-zero: give up; may be null, otherwise outlives this object
+    /// @param cancel non-zero: give up; may be null, else must outlive this object
     SocketLimit(http_t *http, Clock::time_point deadline, int *cancel);
     ~SocketLimit();
     Q_DISABLE_COPY_MOVE(SocketLimit)
 
-    /// Whether it stands there; otherwise there were no descriptors left, and the connection is of no use.
+    /// Whether the relay works; false when no descriptors were left, and the connection cannot be used.
     bool isInPlace() const { return thread_.joinable(); }
     void setDeadline(Clock::time_point deadline);
     void heed(int *cancel);
-    /// How many bytes the server may send from now on; none at first. More of them wait, and when libcups
-    /// waits for them, too, the connection is ended after a second.
+    /// Sets how many bytes the server may send from now on; initially 0. Further bytes are held back, and if
+    /// libcups waits for them, the connection is ended after a second.
     void allow(qint64 bytes);
 
-    /// Whether the time is over, or was when the connection was ended, or the work was given up.
+    /// Whether the time is over, or was when the connection ended, or the work was canceled.
     bool isOver();
-    /// Whether the connection was ended because the server had sent more than was allowed.
+    /// Whether the connection was ended because the server sent more than was allowed.
     bool isExceeded();
 
 private:
-    /// Bytes on their way.
+    /// Bytes being relayed in one direction.
     struct Stretch;
     enum class Flow { Goes, Waits, Ended };
 
@@ -58,15 +58,15 @@ private:
     static Flow send(int socket, Stretch &stretch);
 
     int server_ = -1; ///< the server's socket
-    int inner_ = -1;  ///< the other end of what libcups uses
+    int inner_ = -1;  ///< the other end of libcups' socket
     int wake_ = -1;
-    std::mutex mutex_; // for what follows
+    std::mutex mutex_; // guards the members below
     int *cancel_;
     Clock::time_point deadline_;
     qint64 allowed_ = 0;
     bool isOver_ = false;
     bool isExceeded_ = false;
-    Clock::time_point fedAt_; ///< when libcups was last seen not to wait for what is held back
+    Clock::time_point fedAt_; ///< when libcups was last seen not waiting for held-back bytes
     bool ends_ = false;
     std::thread thread_;
 };
