@@ -10,12 +10,12 @@
 namespace printdialog {
 namespace {
 
-constexpr int level = 4; // what takes twice as long saves a few per cent of a photo
+constexpr int level = 4; // higher levels take twice as long and save a few per cent of a photo
 constexpr std::size_t outputSize = std::size_t(128) << 10;
 
 enum Filter : Bytef { Sub = 1, Up = 2, Paeth = 4 };
 
-/// Of the pixels to the left, above, and above to the left, the one nearest to what the three make likely.
+/// The Paeth predictor: of the bytes left, above, and above left, the one closest to left + above - corner.
 inline int likeliest(int left, int above, int corner)
 {
     const int byLeft = std::abs(above - corner);
@@ -25,7 +25,7 @@ inline int likeliest(int left, int above, int corner)
     return byLeft <= byAbove && byLeft <= byCorner ? left : ofTwo;
 }
 
-/// Filters a row and answers how large the numbers are that it leaves.
+/// Filters a row and returns the sum of the absolute results.
 template <class Predictor>
 unsigned filter(std::vector<Bytef> &result, Bytef name, const Bytef *row, std::size_t size,
                 const Predictor &predictor)

@@ -13,15 +13,14 @@
 
 namespace printdialog {
 
-/// Compresses the rows of a picture without loss, as PNG files do: each row by the filter that leaves the
-/// smallest numbers, then all of them as one zlib stream.
+/// Compresses the rows of a picture without loss, like PNG: each row with the filter that gives the smallest
+/// sum, then all of them as one zlib stream.
 class DeflatedRows
 {
 public:
     using Sink = std::function<void(QByteArrayView)>;
 
-    /// Rows of so many bytes, with so many bytes to a pixel. The sink takes the compressed bytes as they
-    /// come.
+    /// Sizes are in bytes. The sink receives the compressed bytes as they are produced.
     DeflatedRows(std::size_t rowSize, std::size_t pixelSize, Sink sink);
     ~DeflatedRows();
     DeflatedRows(const DeflatedRows &) = delete;
@@ -37,7 +36,7 @@ private:
     std::size_t pixelSize_;
     Sink sink_;
     z_stream stream_ = {};
-    // Each filtered row begins with the number of its filter; the row before begins with a pixel of zeros.
+    // Each filtered row begins with its filter's number; the previous row begins with a pixel of zeros.
     std::vector<Bytef> previous_;
     std::vector<Bytef> current_;
     std::vector<Bytef> best_;

@@ -8,7 +8,7 @@ namespace printdialog {
 PdfFile::PdfFile(QIODevice &device)
     : device_(device)
 {
-    // The second line tells transfer programs that this is no text.
+    // The second line marks the file as binary for transfer programs.
     write("%PDF-1.7\n%\xe2\xe3\xcf\xd3\n");
 }
 

@@ -12,31 +12,31 @@
 
 namespace printdialog {
 
-/// The objects of a PDF file (ISO 32000-1), written one after the other to a device that need not be able to
-/// go back. Nothing of a stream is kept. After the device has refused something nothing more is written.
+/// Writes the objects of a PDF file (ISO 32000-1) one after the other to a device that may be sequential.
+/// Streams are not buffered. After a write error, nothing more is written.
 class PdfFile
 {
 public:
-    /// The device is borrowed and open for writing.
+    /// Borrows the device, which is open for writing.
     explicit PdfFile(QIODevice &device);
 
-    /// The number of an object that is to be written later.
+    /// Reserves the number of an object that is written later.
     int reserve();
-    /// An object's content, without its frame.
+    /// Writes an object; `content` is without "obj" and "endobj".
     void writeObject(int number, const QByteArray &content);
-    /// A stream object: its dictionary's entries but for the length, then its data in parts.
+    /// Begins a stream object with its dictionary's entries except the length. The data follow in parts.
     void beginStream(int number, const QByteArray &entries);
     void writeData(QByteArrayView data);
     void endStream();
-    /// The table of the objects, all of which have been written. False when the device has refused anything.
+    /// Writes the cross-reference table; all objects are written by then. False after a write error.
     bool finish(int catalog, int information);
 
     bool hasFailed() const { return hasFailed_; }
 
-    /// How an object refers to another.
+    /// A reference to an object.
     static QByteArray reference(int number);
     static QByteArray number(double value);
-    /// Any text.
+    /// A text string object for any text.
     static QByteArray string(const QString &text);
 
 private:
@@ -45,7 +45,7 @@ private:
 
     QIODevice &device_;
     qint64 position_ = 0;
-    std::vector<qint64> offsets_; // of object 1 and those behind it
+    std::vector<qint64> offsets_; // of object 1 and the following ones
     qint64 dataBegin_ = 0;
     int lengthNumber_ = 0;
     bool hasFailed_ = false;

@@ -11,7 +11,7 @@
 namespace printdialog {
 namespace {
 
-/// The picture as it lies on white paper, in a format whose bytes are a PDF's; null when memory is short.
+/// The picture composed on white, in a format with the byte order of a PDF; null when memory is short.
 QImage onPaper(QImage image)
 {
     if (image.hasAlphaChannel()) {
@@ -33,7 +33,7 @@ QByteArray deviceSpace(int components)
     return components == 1 ? "/DeviceGray" : components == 3 ? "/DeviceRGB" : "/DeviceCMYK";
 }
 
-/// The colour space of an image with so many numbers to a colour: by the profile when that is for as many.
+/// The colour space of an image with that many components: the profile if it has as many.
 QByteArray colourSpace(PdfFile &file, const ColourProfile &profile, int components)
 {
     if (profile.components() != components)
@@ -41,7 +41,7 @@ QByteArray colourSpace(PdfFile &file, const ColourProfile &profile, int componen
     const int number = file.reserve();
     file.beginStream(number, "/N " + QByteArray::number(components) + " /Alternate " +
                                  deviceSpace(components) + " /Filter /FlateDecode");
-    constexpr qsizetype lengthSize = 4; // which qCompress() puts before the data
+    constexpr qsizetype lengthSize = 4; // the prefix that qCompress() adds
     file.writeData(QByteArrayView(qCompress(profile.icc())).sliced(lengthSize));
     file.endStream();
     return "[/ICCBased " + PdfFile::reference(number) + "]";
@@ -71,7 +71,7 @@ Result<PdfImage, PhotoFault> PdfImage::of(const Photo &photo)
         if (photo.jpegHeader())
             return image;
         image.embedding_ = Embedding::OriginalPng;
-        // libpng knows what else can be made a picture of.
+        // Otherwise decode with libpng, which may still make a picture of them.
         if (!photo.pngHeader()->hasAllPixels())
             image.embedding_ = Embedding::Pixels;
         return image;
@@ -113,7 +113,7 @@ void PdfImage::writeJpeg(PdfFile &file, int number) const
 {
     const JpegHeader &header = *photo_.jpegHeader();
     const QByteArray space = colourSpace(file, photo_.profile(), header.components);
-    // PDF readers ignore by what mark programs tell that the inks are inverted.
+    // PDF readers ignore Adobe's marker for inverted inks, so /Decode says it.
     const QByteArray inverted = header.isInverted ? " /Decode [1 0 1 0 1 0 1 0]" : "";
     file.beginStream(number, entriesOf(header.size, space, 8) + inverted + " /Filter /DCTDecode");
     file.writeData(photo_.content());

@@ -9,26 +9,26 @@
 
 namespace printdialog {
 
-/// A photo as an image of a PDF. The compressed bytes of the file go in as they are wherever a PDF can hold
-/// them; other photos are decoded and compressed without loss, row by row. The photo's colour profile goes in
-/// once, as the image's colour space, and the numbers of the colours stay as they are.
+/// A photo as an image of a PDF. The file's compressed bytes are embedded unchanged if a PDF can hold them;
+/// other photos are decoded and compressed without loss, row by row. The photo's colour profile is embedded
+/// once, as the image's colour space, and the colour values are not converted.
 class PdfImage
 {
 public:
-    /// How the photo gets into the PDF. Neither way loses anything of its 8 bits per colour.
+    /// How the photo is embedded. All ways keep its 8 bits per component.
     enum class Embedding {
         OriginalJpeg, ///< The file's own bytes.
         OriginalPng,  ///< The file's own compressed pixels, without their chunks.
-        Pixels,       ///< Decoded, then compressed without loss; what is transparent is white.
+        Pixels,       ///< Decoded, then compressed without loss; transparency becomes white.
     };
 
-    /// Finds out how the photo goes in, and decodes it when it must, but for a PNG, whose pixels are decoded
-    /// while they are written. Fails when its pixels are not all there.
+    /// Decides how to embed the photo, and decodes it if necessary, except a PNG, which is decoded while it
+    /// is written. Fails when pixels are missing.
     static Result<PdfImage, PhotoFault> of(const Photo &photo);
 
     Embedding embedding() const { return embedding_; }
-    /// Writes the image, and the profile as an object of its own. Answers the image's number. Fails, with a
-    /// part of it written, when a PNG's pixels are not all there.
+    /// Writes the image, and the profile as a separate object. Returns the image's object number. Fails, with
+    /// the image partly written, when a PNG's pixels are incomplete.
     Result<int, PhotoFault> write(PdfFile &file) const;
 
 private:
@@ -44,7 +44,7 @@ private:
 
     Photo photo_;
     Embedding embedding_ = Embedding::Pixels;
-    QImage pixels_; ///< RGB888 or Grayscale8; null unless the photo was decoded as a whole
+    QImage pixels_; ///< RGB888 or Grayscale8; null unless the photo was decoded at once
 };
 
 } // namespace printdialog

@@ -14,7 +14,7 @@ namespace {
 
 bool isUsable(const PageGeometry &page)
 {
-    constexpr double longestSide = 14400; // points; PDF readers take no longer one
+    constexpr double longestSide = 14400; // points; the limit of PDF readers
     const auto fits = [](const QSizeF &size) {
         return size.width() > 0 && size.height() > 0 && size.width() <= longestSide &&
                size.height() <= longestSide;
@@ -31,8 +31,8 @@ QByteArray numbers(std::initializer_list<double> values)
     return text;
 }
 
-/// What draws the page: the image's unit square where the photo belongs, and nothing outside the imageable
-/// area. A PDF's y runs up, from the page's bottom and from the image's.
+/// The page's content stream: the image's unit square in the photo's place, clipped to the imageable area. In
+/// a PDF, y runs up from the bottom of the page and of the image.
 QByteArray drawing(const Photo &photo, const PageGeometry &page, const PlacementChoice &choice)
 {
     const PhotoPlacement placement =
@@ -46,7 +46,7 @@ QByteArray drawing(const Photo &photo, const PageGeometry &page, const Placement
            "cm\n/Photo Do\nQ\n";
 }
 
-/// Text and dates of the document. The photo's date keeps two runs alike.
+/// The document's information dictionary. The photo's date makes repeated runs give the same bytes.
 QByteArray information(const Photo &photo)
 {
     return "<< /Title " + PdfFile::string(plainText(photo.fileName())) +

@@ -30,10 +30,10 @@ namespace printdialog {
 namespace {
 
 constexpr qint64 headSize = 4096;
-constexpr int maximumRasterSide = 32767; ///< In pixels; painters reach no further.
+constexpr int maximumRasterSide = 32767; ///< In pixels; the limit of QPainter.
 
-/// Lets the image reader allocate what this photo takes. The limit holds for the whole program and other
-/// threads may be decoding, so it only ever grows; maximumPixels is its ceiling.
+/// Lets the image reader allocate the memory for this photo. The limit is global and other threads may be
+/// decoding, so it only ever grows, up to what maximumPixels needs.
 void allowDecoding(const QSize &size)
 {
     constexpr qint64 bytesPerPixel = 8;
@@ -44,7 +44,7 @@ void allowDecoding(const QSize &size)
         QImageReader::setAllocationLimit(mebibytes);
 }
 
-/// The size of a GIF's logical screen; none when it is cut off before that (GIF89a, 18).
+/// The size of a GIF's logical screen (GIF89a, 18); empty when the file is cut off before it.
 QSize gifCanvas(QByteArrayView gif)
 {
     if (gif.size() < 10)
@@ -52,7 +52,7 @@ QSize gifCanvas(QByteArrayView gif)
     return {qFromLittleEndian<quint16>(gif.data() + 6), qFromLittleEndian<quint16>(gif.data() + 8)};
 }
 
-/// A reader over a photo's content that takes the format for granted and leaves the orientation alone.
+/// A reader of a photo's content that does not detect the format again and does not apply the orientation.
 class ContentReader
 {
 public:
@@ -77,7 +77,7 @@ private:
 
 } // namespace
 
-/// What copies of a photo share about its pixels.
+/// The result of checking the pixels, shared by copies of a photo.
 struct Photo::Verdict
 {
     std::once_flag once;
@@ -143,7 +143,7 @@ std::optional<Failure<PhotoFault>> Photo::inspectJpeg()
     storedSize_ = header.size;
     orientation_ = header.orientation;
     resolution_ = header.resolution;
-    // Decoders make colour of CMYK, which a profile of another kind must not be taken for.
+    // Decoders convert CMYK to RGB, so a profile must have as many components as the file's colours.
     if (ColourProfile profile = ColourProfile::fromIcc(header.iccProfile);
         profile.components() == header.components)
         profile_ = std::move(profile);
@@ -180,7 +180,7 @@ std::optional<Failure<PhotoFault>> Photo::inspectPng()
     return std::nullopt;
 }
 
-/// Whatever turns the picture is done when it is decoded; an Exif orientation repeats it and is not heeded.
+/// libheif applies all turns while decoding, so a repeated Exif orientation is ignored.
 std::optional<Failure<PhotoFault>> Photo::inspectHeif()
 {
     if (!hasPictureEnd(format_, content_))
@@ -201,14 +201,14 @@ std::optional<Failure<PhotoFault>> Photo::inspectOther()
     const QuietDecoding quiet;
     ContentReader reader(content_, format_);
     storedSize_ = reader->size();
-    if (format_ == "bmp" && storedSize_.height() < 0) // its rows are stored from the top down
+    if (format_ == "bmp" && storedSize_.height() < 0) // a negative height: rows are stored top-down
         storedSize_.setHeight(-std::max(storedSize_.height(), -INT_MAX));
     if (storedSize_.isEmpty())
         return broken(reader->errorString());
     orientation_ = ExifOrientation::fromTransformations(reader->transformation());
     if (format_ == "gif") {
-        // Qt tells the size of the frame where the canvas is far larger, and decodes the canvas.
-        // A side of 0 is the frame's.
+        // Qt reports the size of the frame, but decodes the canvas, which may be far larger. A canvas side of
+        // 0 means that of the frame.
         const QSize canvas = gifCanvas(content_);
         if ((canvas.width() > 0 && canvas.width() != storedSize_.width()) ||
             (canvas.height() > 0 && canvas.height() != storedSize_.height()))
@@ -258,8 +258,9 @@ std::optional<QString> Photo::findDamage() const
         return jpegDamage(content_);
     if (format_ == "tiff")
         return tiffDamage(content_);
-    // WebP has no checksums, and any bytes decode to some picture. That one hardly ever needs just as many
-    // bytes as there are: with fewer, a sound file cannot be decoded. More are missed when it is printed.
+    // WebP has no checksums, and any bytes decode to some picture. But a damaged one hardly ever needs
+    // exactly as many bytes as there are, whereas an intact file cannot be decoded with fewer. Printing finds
+    // further damage.
     allowDecoding(storedSize_);
     ContentReader reader(shortenedWebp(content_), format_);
     if (reader->read().isNull())
@@ -322,7 +323,7 @@ QImage Photo::decodedWithin(const QSize &storedBound, QString &error) const
         image = reader->read();
         error = reader->errorString();
     }
-    // Everything else goes by the size that the file's head tells.
+    // All other code relies on the size in the file's header.
     if (!image.isNull() && image.size() != storedSize_ && image.size() != storedBound) {
         error = QStringLiteral("the pixels are %1 x %2").arg(image.width()).arg(image.height());
         return {};
@@ -336,7 +337,7 @@ Result<QImage, PhotoFault> Photo::decoded() const
     QImage image = decodedWithin({}, error);
     if (!image.isNull())
         return image;
-    // Qt does not tell why; the largest of its formats would need as much.
+    // Qt does not report the reason, so try to allocate its largest format.
     if (QImage(storedSize_, QImage::Format_RGBA64).isNull())
         return memoryFailure();
     return broken(error);

@@ -15,7 +15,7 @@ PhotoCheck::PhotoCheck(const Photo &photo)
     try {
         thread_ = std::thread([photo] { (void)photo.damage(); });
     } catch (const std::system_error &) {
-        // No thread is left; wait() does the work.
+        // No thread could be started; wait() does the work.
     }
 }
 

@@ -9,18 +9,18 @@
 
 namespace printdialog {
 
-/// Looks for damage in a photo's pixels on a thread of its own, beside what is done with the photo meanwhile.
+/// Checks a photo's pixels for damage on a separate thread, while the caller works with the photo.
 class PhotoCheck
 {
 public:
-    /// Begins, unless the photo was checked before.
+    /// Starts the check, unless the photo is already checked.
     explicit PhotoCheck(const Photo &photo);
-    /// Waits for the end.
+    /// Waits for the check to end.
     ~PhotoCheck();
     PhotoCheck(const PhotoCheck &) = delete;
     PhotoCheck &operator=(const PhotoCheck &) = delete;
 
-    /// Waits for the end, and answers the damage; nothing when the photo is sound.
+    /// Waits for the check to end and returns the damage; nothing when the photo is intact.
     std::optional<Failure<PhotoFault>> wait();
 
 private:

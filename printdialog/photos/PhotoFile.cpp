@@ -54,7 +54,7 @@ std::optional<Failure<PhotoFault>> kindFailure(mode_t mode, const QString &path)
     return Failure<PhotoFault>{PhotoFault::NotReadable, text.arg(plainText(path)), {}};
 }
 
-/// Reads until the buffer is full or the file has ended, and answers the number of bytes, or -1.
+/// Reads until the buffer is full or the file ends. Returns the number of bytes, or -1.
 qint64 readFully(int descriptor, QByteArray &buffer)
 {
     qint64 done = 0;
@@ -78,7 +78,7 @@ Result<PhotoFile, PhotoFault> PhotoFile::open(const QString &path)
 {
     const QByteArray encoded = QFile::encodeName(path);
     struct stat status = {};
-    // Asked before it is opened, since opening is enough to disturb some devices.
+    // Check before opening, since opening alone disturbs some devices.
     if (::stat(encoded.constData(), &status) != 0)
         return systemFailure(errno, path);
     if (auto failure = kindFailure(status.st_mode, path))

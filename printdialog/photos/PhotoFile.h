@@ -15,14 +15,14 @@ namespace printdialog {
 /// Why a photo cannot be printed.
 enum class PhotoFault {
     NotFound,     ///< No such file.
-    NotReadable,  ///< A folder, a pipe, a device, or a file that may not or cannot be read.
+    NotReadable,  ///< A folder, a pipe, a device, or a file without permission or with a read error.
     Empty,        ///< A file without content.
     TooLarge,     ///< More bytes or pixels than a photo may have.
-    NeedsPackage, ///< A picture whose format needs a package that is not installed.
-    UnknownType,  ///< The content is no picture that can be printed, whatever the file's name says.
-    Truncated,    ///< The picture's end is missing.
+    NeedsPackage, ///< The format needs a package that is not installed.
+    UnknownType,  ///< The content is not a printable picture, whatever the file's name says.
+    Truncated,    ///< The end of the picture is missing.
     Broken,       ///< The content contradicts its own format.
-    Damaged,      ///< The headers are sound, but the pixels are not as they were stored.
+    Damaged,      ///< The headers are intact, but the pixels are corrupted.
 };
 
 /// An open file that may hold a photo. Only a regular file is opened, so that no pipe or device can block.
@@ -31,15 +31,15 @@ class PhotoFile
     Q_DECLARE_TR_FUNCTIONS(printdialog::PhotoFile)
 
 public:
-    /// Opens without reading. Faults: NotFound, NotReadable, Empty.
+    /// Opens the file without reading it. Faults: NotFound, NotReadable, Empty.
     static Result<PhotoFile, PhotoFault> open(const QString &path);
 
     qint64 size() const { return size_; } ///< In bytes, when it was opened.
     QDateTime modified() const { return modified_; }
-    /// The first bytes, at most as many as asked for.
+    /// The first bytes of the file, at most that many.
     QByteArray head(qint64 bytes) const;
-    /// The whole content, as much of it as there still is. It is copied and not mapped, since reading from a
-    /// mapped file that another program shortens ends the process. Fault: NotReadable.
+    /// The complete current content. It is copied and not mapped, since the process would be killed if
+    /// another program truncated a mapped file. Fault: NotReadable.
     Result<QByteArray, PhotoFault> content() const;
 
 private:

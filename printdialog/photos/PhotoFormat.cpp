@@ -23,7 +23,7 @@ struct KnownFormat
 {
     const char *name; ///< as the image reader names it
     const char *text;
-    const char *package; ///< what reads it when the image reader itself does not; null: nothing
+    const char *package; ///< the package needed when the image reader cannot read it; null: there is none
 };
 
 constexpr std::array knownFormats{
@@ -44,7 +44,7 @@ struct Signature
     const char *name; ///< of a known format, or "raw"
 };
 
-// Where one begins like another one, the longer is first.
+// If one signature is a prefix of another, the longer one comes first.
 constexpr std::array signatures{
     Signature{0, QByteArrayView("\xff\xd8\xff", 3), "jpeg"},
     Signature{0, QByteArrayView("\x89PNG\r\n\x1a\n", 8), "png"},
@@ -64,7 +64,7 @@ constexpr std::array signatures{
     Signature{0, QByteArrayView("%PDF", 4), "pdf"},
 };
 
-/// The name of a file of boxes by its brands; empty when it is none of pictures.
+/// The format of a file of boxes (ISO base media) by its brands; empty when it is not a picture.
 QByteArray boxedFormat(const QByteArray &head)
 {
     constexpr std::array<QByteArrayView, 2> avif{"avif", "avis"};

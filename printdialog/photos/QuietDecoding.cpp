@@ -30,7 +30,7 @@ QuietDecoding::QuietDecoding()
     auto pipe = isEnabled ? pdekit::Pipe::make() : std::nullopt;
     if (!pipe)
         return;
-    // Neither end waits for the other: a full pipe refuses what is written.
+    // Neither end blocks: writing to a full pipe fails.
     for (const pdekit::FileDescriptor *end : {&pipe->reading, &pipe->writing})
         ::fcntl(end->number(), F_SETFL, O_NONBLOCK);
     written_ = std::move(pipe->reading);

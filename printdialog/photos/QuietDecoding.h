@@ -7,12 +7,12 @@
 
 namespace printdialog {
 
-/// While it lives, what image libraries write to standard error goes to the log instead. libtiff and others
-/// write there by themselves, behind Qt's plug-ins, where their handlers are out of reach. Of a flood only
-/// the beginning is kept.
+/// While it exists, redirects the output of image libraries on standard error to the log. libtiff and others
+/// write there from within Qt's plug-ins, where their message handlers cannot be set. Only the beginning of
+/// long output is kept.
 ///
-/// Standard error is the whole process's, so that it does nothing unless the program has asked for it. That
-/// is for programs whose standard error is read, and which decode on one thread.
+/// Standard error belongs to the process, so this does nothing unless the program enables it. It is meant for
+/// programs whose standard error is read and that decode on one thread.
 class QuietDecoding
 {
 public:
@@ -24,7 +24,7 @@ public:
     QuietDecoding &operator=(const QuietDecoding &) = delete;
 
 private:
-    pdekit::FileDescriptor standardError_; ///< The real one; closed when nothing is redirected.
+    pdekit::FileDescriptor standardError_; ///< The original one; closed when nothing is redirected.
     pdekit::FileDescriptor written_;
 };
 

@@ -7,9 +7,9 @@
 
 namespace printdialog {
 
-/// What is used of libheif. The library is loaded with the first photo that needs it and stays, so that it
-/// need not be installed, and its codecs are not loaded for other photos. Without it there is no HEIF and no
-/// AVIF, and everything else works.
+/// The functions of libheif that are used. The library is loaded for the first photo that needs it, and stays
+/// loaded. So it need not be installed, and its codecs are not loaded for other photos. Without it, only HEIF
+/// and AVIF cannot be read.
 struct HeifLibrary
 {
     /// The library, or null when it is not installed. May be called on any thread.

@@ -23,11 +23,11 @@ Failure<std::monostate> failure(const heif_error &error)
     return failure(QString::fromUtf8(error.message));
 }
 
-/// A file that is open in libheif: its primary picture.
+/// The primary picture of a file opened by libheif.
 class OpenedPicture
 {
 public:
-    /// Both are borrowed.
+    /// Borrows both.
     OpenedPicture(const HeifLibrary &heif, const QByteArray &content)
         : heif_(heif)
         , context_(heif.contextAlloc(), heif.contextFree)
@@ -88,7 +88,7 @@ public:
     }
 
 private:
-    /// Pictures are meant for screens, so that the curve is taken for sRGB's whatever it is called.
+    /// Pictures are meant for screens, so the transfer curve is assumed to be that of sRGB.
     ColourProfile primariesProfile() const
     {
         heif_color_profile_nclx *nclx = nullptr;

@@ -14,17 +14,17 @@
 
 namespace printdialog {
 
-/// The primary picture of a HEIF or AVIF file. libheif turns, mirrors and crops it as the file tells, so that
-/// it is upright whatever else is said about its orientation. Untrusted bytes. Failures have a detail only.
+/// The primary picture of a HEIF or AVIF file. libheif applies the file's turns, mirroring and cropping, so
+/// the result is upright whatever Exif says. Untrusted bytes. Failures have only a detail.
 struct HeifPicture
 {
     QSize size; ///< In pixels, upright.
-    /// The file's ICC profile, or one that is made of its colour primaries; none for sRGB.
+    /// The file's ICC profile, or one made from its colour primaries; none for sRGB.
     ColourProfile profile;
 
     /// Reads the headers without decoding.
     static Result<HeifPicture, std::monostate> read(const QByteArray &content);
-    /// The upright pixels, of 8 bits per colour.
+    /// The upright pixels, with 8 bits per component.
     static Result<QImage, std::monostate> decode(const QByteArray &content);
 };
 

@@ -21,16 +21,16 @@
 namespace printdialog {
 namespace {
 
-/// A coefficient times its quantization step is never larger than 1024 in a picture of 8 bits; encoders that
-/// overshoot on purpose have as much again.
+/// A coefficient times its quantization step is at most 1024 in a picture of 8 bits, and twice that from
+/// encoders that overshoot on purpose.
 constexpr unsigned largestCoefficient = 2048;
-/// Each scan takes time for all of the picture, and a file may have millions of them. Programs make about 10.
+/// Each scan costs time for the complete picture, and a file may have millions of them. Programs write about
+/// 10.
 constexpr int mostScans = 500;
 
-/// Stands in for libjpeg's own store of the coefficients of one component, which keeps all of them. Of a
-/// sequential picture the decoder never looks at a coefficient again, so that a few rows of blocks will do;
-/// of a progressive one it asks later only which coefficients are not zero: for each block a number of 64
-/// bits.
+/// Replaces libjpeg's store for the coefficients of one component, which keeps all of them. In a sequential
+/// picture, the decoder never reads a coefficient again, so a few rows of blocks are enough. In a progressive
+/// one, it later needs only which coefficients are not zero: 64 bits per block.
 class CoefficientRows
 {
 public:
@@ -44,7 +44,7 @@ public:
             nonZero_.resize(std::size_t(width) * height);
     }
 
-    /// Takes in what was decoded into the rows.
+    /// Stores the coefficients that were decoded into the rows.
     void store()
     {
         for (JDIMENSION y = 0; y < count_ && !nonZero_.empty(); ++y) {
@@ -65,11 +65,11 @@ public:
         return rows_;
     }
 
-    /// Of what was decoded into the rows and not stored yet.
+    /// Checks the coefficients in the rows that are not stored yet.
     bool isPlausible(const JQUANT_TBL *steps) const
     {
         if (!steps || !nonZero_.empty())
-            return true; // what is kept of progressive scans are no numbers
+            return true; // for progressive scans, the values themselves are not kept
         unsigned short largest[DCTSIZE2];
         for (int i = 0; i < DCTSIZE2; ++i)
             largest[i] = static_cast<unsigned short>(
@@ -93,7 +93,7 @@ private:
         constexpr int step = sizeof(quint64) / sizeof(JCOEF);
         quint64 bits = 0;
         for (int i = 0; i < DCTSIZE2; i += step) {
-            quint64 several = 0; // most are zero
+            quint64 several = 0; // nearly all are zero
             std::memcpy(&several, block + i, sizeof(several));
             for (int j = i; several != 0 && j < i + step; ++j)
                 bits |= quint64(block[j] != 0) << j;
@@ -103,7 +103,7 @@ private:
 
     static void spread(quint64 bits, JCOEF *block)
     {
-        constexpr JCOEF anyNumber = 1 << 14; // whose lower bits, which a later scan fills in, are not set yet
+        constexpr JCOEF anyNumber = 1 << 14; // nonzero; a later scan adds the lower bits
         for (; bits != 0; bits &= bits - 1)
             block[qCountTrailingZeroBits(bits)] = anyNumber;
     }
@@ -116,8 +116,8 @@ private:
     std::vector<quint64> nonZero_; ///< Empty for a sequential picture.
 };
 
-/// libjpeg's decoder, and what its callbacks need. They leave it by longjmp(), since nothing may be thrown
-/// through C functions; what has to be destroyed then lies in here.
+/// libjpeg's decoder and the data of its callbacks. These leave it with longjmp(), since exceptions must not
+/// pass through C functions; all objects that need destruction are members.
 struct Decoder
 {
     Decoder()
@@ -169,7 +169,7 @@ private:
         std::longjmp(end, 1);
     }
 
-    /// Complaints about headers are no damage: programs write versions and sequences of scans that libjpeg
+    /// Warnings about headers do not mean damage: programs write versions and scan sequences that libjpeg
     /// does not know, and the profile is read elsewhere.
     static void checkMessage(j_common_ptr common, int level)
     {
@@ -192,7 +192,7 @@ private:
         common->err->error_exit(common);
     }
 
-    /// Whether the last bytes before a marker only bring it to a round address.
+    /// Whether the last bytes before a marker are only padding for alignment.
     bool isPadding(int size) const
     {
         constexpr int longest = 16;

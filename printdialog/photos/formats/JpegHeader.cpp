@@ -87,7 +87,7 @@ private:
         return State::Truncated;
     }
 
-    /// Goes behind the next marker and answers it; 0 at the end of the bytes.
+    /// Moves behind the next marker and returns it; 0 at the end of the bytes.
     int nextMarker()
     {
         while (position_ < bytes_.size()) {
@@ -95,7 +95,7 @@ private:
             if (byte == 0xff && position_ < bytes_.size() && byteAt(position_) != 0 &&
                 byteAt(position_) != 0xff)
                 return byteAt(position_++);
-            isPlain_ = false; // padding between segments: decoders skip it, not every PDF program does
+            isPlain_ = false; // padding between segments: decoders skip it, but not all PDF programs
         }
         return 0;
     }
@@ -153,7 +153,7 @@ private:
             header_.resolution = plausibleResolution(wordOf(8) * perInch, wordOf(10) * perInch);
     }
 
-    /// The parts in their order; nothing when one is missing.
+    /// The joined parts of the profile; empty when one is missing.
     QByteArray profile() const
     {
         QByteArray whole;
@@ -165,8 +165,7 @@ private:
         return whole;
     }
 
-    /// Components named R, G and B are not converted from luminance and chrominance by decoders, but by PDF
-    /// readers.
+    /// Decoders take components named R, G and B as RGB, but PDF readers convert them from YCbCr.
     bool hasPlainColours() const
     {
         const int components = header_.components;
@@ -174,7 +173,7 @@ private:
                (components == 3 && (!namesRgb_ || isJfif_ || hasAdobeMarker_));
     }
 
-    /// From behind the first scan's header to the end of the picture, over the compressed data.
+    /// Skips the compressed data from behind the first scan's header to the end of the picture.
     State findEnd()
     {
         if (bytes_.endsWith("\xff\xd9"))

@@ -16,8 +16,7 @@ qint64 numberAt(QByteArrayView bytes, qsizetype position)
     return qFromLittleEndian<Number>(bytes.data() + position);
 }
 
-/// The rows of an uncompressed bitmap have a fixed length. The file's length in its header is not to be
-/// relied on.
+/// The rows of an uncompressed bitmap have a fixed length. The file length in the header is not reliable.
 bool hasBmpEnd(QByteArrayView bytes)
 {
     constexpr qsizetype headerSize = 34;
@@ -35,7 +34,7 @@ bool hasBmpEnd(QByteArrayView bytes)
     return height == 0 || available / height >= rowSize;
 }
 
-/// The last byte, but for padding, is the trailer.
+/// The last byte before any padding is the trailer.
 bool hasGifEnd(QByteArrayView bytes)
 {
     while (bytes.endsWith('\0'))
@@ -49,7 +48,7 @@ bool hasWebpEnd(QByteArrayView bytes)
     return bytes.size() >= headerSize && bytes.size() - headerSize >= numberAt<quint32>(bytes, 4);
 }
 
-/// The file is a row of boxes, each with its length. A length of 0 reaches to the file's end.
+/// The file is a sequence of boxes, each with its length. A length of 0 extends to the end of the file.
 bool hasBoxesEnd(QByteArrayView bytes)
 {
     constexpr qsizetype headerSize = 8;

@@ -32,7 +32,7 @@ quint32 checksum(QByteArrayView bytes)
     return static_cast<quint32>(crc32_z(0, data, static_cast<z_size_t>(bytes.size())));
 }
 
-/// Decompresses a whole zlib stream; nothing when it is damaged or longer than allowed.
+/// Decompresses a zlib stream; empty when it is damaged or longer than the limit.
 QByteArray inflated(QByteArrayView bytes, qsizetype limit)
 {
     QByteArray result;
@@ -180,7 +180,7 @@ private:
                                  wordAt(content, qsizetype(i) * 8 + 4) / 100000.0);
     }
 
-    /// A name, a null byte, the method of compression, the profile.
+    /// The chunk holds a name, a null byte, the compression method, and the profile.
     void readProfile(QByteArrayView content)
     {
         const qsizetype end = content.indexOf('\0');
@@ -196,13 +196,13 @@ private:
         };
         const bool hasUsualPoints = std::equal(points_.begin(), points_.end(), usualPoints.begin(), isNear);
         if (hasUsualPoints && gamma_ > 0.44 && gamma_ < 0.47)
-            return {}; // what programs write who mean sRGB
+            return {}; // written by programs that mean sRGB
         const QColorSpace space(points_[0], points_[1], points_[2], points_[3],
                                 QColorSpace::TransferFunction::Gamma, static_cast<float>(1 / gamma_));
         return space.isValid() ? ColourProfile::fromIcc(space.iccProfile()) : ColourProfile();
     }
 
-    /// White, red, green and blue of sRGB.
+    /// The white point and primaries of sRGB: white, red, green, blue.
     static constexpr std::array<QPointF, 4> usualPoints{QPointF(0.3127, 0.329), QPointF(0.64, 0.33),
                                                         QPointF(0.3, 0.6), QPointF(0.15, 0.06)};
 
@@ -211,7 +211,7 @@ private:
     std::array<QPointF, 4> points_ = usualPoints;
     double gamma_ = 0;
     int type_ = -1;
-    bool hasUsualMethods_ = false; // of compression and filtering: there is one each
+    bool hasUsualMethods_ = false; // of compression and filtering: only one of each is defined
     bool isTransparent_ = false;
     bool isSrgb_ = false;
 };
@@ -242,7 +242,7 @@ bool PngHeader::hasAllPixels() const
             stream.avail_out = static_cast<uInt>(buffer.size());
             status = inflate(&stream, Z_NO_FLUSH);
             const auto count = qint64(buffer.size()) - stream.avail_out;
-            // Each row begins with the number of its filter.
+            // Each row begins with its filter's number.
             for (qint64 i = (rowSize - done % rowSize) % rowSize; i < count; i += rowSize) {
                 if (buffer[std::size_t(i)] > lastFilter)
                     status = Z_DATA_ERROR;

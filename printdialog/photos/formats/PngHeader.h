@@ -15,43 +15,41 @@
 
 namespace printdialog {
 
-/// What the chunks of a PNG file say, read without decoding it.
+/// The chunks of a PNG file, read without decoding it.
 struct PngHeader
 {
-    /// How far the chunks can be trusted.
+    /// Whether the chunks are intact.
     enum class State {
-        Whole,         ///< Every chunk up to the last one is there and unchanged.
+        Whole,         ///< All chunks are present and match their checksums.
         Truncated,     ///< The bytes end before the last chunk does.
-        Broken,        ///< A chunk is not what its checksum says.
-        DamagedPixels, ///< Nothing but pixels is not what its checksum says.
+        Broken,        ///< A chunk other than the pixels does not match its checksum.
+        DamagedPixels, ///< Only pixel chunks do not match their checksums.
     };
 
     State state = State::Truncated;
     QSize size;            ///< In pixels, as stored.
     int bitsPerSample = 0; ///< 1, 2, 4, 8 or 16.
-    int components = 0;    ///< Numbers of a colour as they are stored: 1 (grey, or a palette's index) or 3.
-    /// Numbers of a colour when it is decoded and laid on paper: 1 (grey) or 3.
+    int components = 0;    ///< Stored colour components: 1 (grey, or a palette index) or 3.
+    /// Colour components after decoding and composing on white: 1 (grey) or 3.
     int decodedComponents = 0;
-    /// The same with what tells the transparent pixels: bytes of a decoded pixel.
+    /// The same with the alpha channel: bytes of a decoded pixel.
     int decodedChannels = 0;
-    /// Red, green, blue of each colour that a pixel can name, black where the file has none; empty without a
-    /// palette.
+    /// Red, green, blue of each possible index, black where the file has none; empty without a palette.
     QByteArray palette;
-    QList<QByteArrayView> data; ///< The parts of the compressed pixels; they point into the file's bytes.
-    ColourProfile profile;      ///< Of iCCP, or else of gAMA and cHRM; none for sRGB.
+    QList<QByteArrayView> data; ///< The parts of the compressed pixels; they refer to the file's bytes.
+    ColourProfile profile;      ///< From iCCP, or else gAMA and cHRM; none for sRGB.
     ExifOrientation orientation;
     std::optional<double> resolution; ///< In pixels per inch.
-    /// Whether the format knows such pixels at all.
+    /// Whether the format defines this kind of pixels.
     bool isValid = false;
     bool isInterlaced = false;
-    /// Whether the compressed pixels can go into a PDF as they are: opaque and not interlaced.
+    /// Whether a PDF can embed the compressed pixels unchanged: opaque and not interlaced.
     bool isEmbeddable = false;
 
-    /// Reads untrusted bytes, which begin with a PNG signature and outlive the answer. What cannot be read
-    /// counts as not there. Damage found here never reaches the PNG library, which writes about it to
-    /// standard error on its own.
+    /// Reads untrusted bytes, which begin with a PNG signature and outlive the result. Unreadable chunks
+    /// count as missing. Damage found here never reaches libpng, which would report it on standard error.
     static PngHeader read(QByteArrayView bytes);
-    /// Whether the compressed pixels are all there, and nothing more. Decompresses them, and keeps nothing.
+    /// Whether the compressed pixels are complete, without surplus. Decompresses them without keeping them.
     bool hasAllPixels() const;
 };
 

@@ -12,8 +12,8 @@
 namespace printdialog {
 namespace {
 
-/// Makes a smaller picture of rows: each of its pixels is the mean of a square of so many pixels on each
-/// side, or of what of it lies in the picture.
+/// Scales a picture down row by row: each pixel is the mean of a square with `side` pixels on each side,
+/// clipped to the picture.
 class MeanRows
 {
 public:
@@ -27,7 +27,7 @@ public:
     {
     }
 
-    /// Null when memory is short.
+    /// A null image when memory is short.
     const QImage &image() const { return image_; }
 
     void addRow(int y, const unsigned char *row)
@@ -69,7 +69,7 @@ QImage decodedPng(QByteArrayView png, const PngHeader &header, const QSize &boun
     const QSize size = header.size;
     const bool isScaled =
         !bound.isEmpty() && bound.width() <= size.width() && bound.height() <= size.height();
-    // The rest of the way, to less than half of it, is scaled smoothly.
+    // The remaining factor, less than two, is scaled smoothly.
     const int side = isScaled ? std::min(size.width() / bound.width(), size.height() / bound.height()) : 1;
     MeanRows rows(size, std::clamp(side, 1, 4096), header.decodedComponents);
     if (rows.image().isNull())

@@ -11,10 +11,10 @@
 
 namespace printdialog {
 
-/// The pixels of a PNG file with the header, which is valid, as they lie on white paper: RGB888 or
-/// Grayscale8, scaled down to `bound` (in pixels) unless that is empty or larger. Besides the result a few
-/// rows of it are in memory, however large the picture is (see PngPixels). Null when memory is short, or the
-/// pixels are damaged: then `error` says why.
+/// Decodes a PNG file with a valid header, composed on white: RGB888 or Grayscale8, scaled down to `bound`
+/// (in pixels) unless that is empty or larger. Besides the result, only a few rows are in memory, whatever
+/// the picture's size (see PngPixels). A null image when memory is short or the pixels are damaged; `error`
+/// then says why.
 QImage decodedPng(QByteArrayView png, const PngHeader &header, const QSize &bound, QString &error);
 
 } // namespace printdialog

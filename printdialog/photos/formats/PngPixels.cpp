@@ -24,8 +24,8 @@ unsigned char onWhite(int number, int alpha)
 
 } // namespace
 
-/// libpng's reader. Its errors leave it by longjmp(), since nothing may be thrown through C functions; each
-/// function here that calls it begins with a setjmp() and has nothing to be destroyed.
+/// libpng's reader. Its errors leave it with longjmp(), since exceptions must not pass through C functions.
+/// Each function here that calls it begins with setjmp() and has no objects that need destruction.
 class PngPixels::Decoder
 {
 public:
@@ -89,7 +89,7 @@ private:
         if (setjmp(end_) != 0)
             return false;
         png_set_read_fn(png_, this, read);
-        // All other chunks are read elsewhere.
+        // Other chunks are read elsewhere.
         png_set_keep_unknown_chunks(png_, PNG_HANDLE_CHUNK_NEVER, nullptr, -1);
         png_set_user_limits(png_, PNG_UINT_31_MAX, PNG_UINT_31_MAX);
         png_read_info(png_, info_);
@@ -132,7 +132,7 @@ private:
         return true;
     }
 
-    /// The last channel tells how opaque a pixel is.
+    /// Composes a row on white; its last channel is alpha.
     const unsigned char *laidOnPaper(const unsigned char *row)
     {
         const std::size_t colours = channels_ - 1;
@@ -149,8 +149,8 @@ private:
     png_infop info_;
     std::jmp_buf end_ = {};
     std::array<char, 128> error_ = {};
-    std::vector<unsigned char> stored_; ///< A row, or all of them.
-    std::vector<unsigned char> opaque_; ///< A row.
+    std::vector<unsigned char> stored_; ///< One row, or all of them.
+    std::vector<unsigned char> opaque_; ///< One row.
     std::vector<png_bytep> rows_;
     std::size_t rowSize_ = 0;
     std::size_t width_ = 0;

@@ -10,23 +10,23 @@
 
 namespace printdialog {
 
-/// Decodes the pixels of a PNG file row by row, from the top down, as they lie on white paper: 8 bits for
-/// each number, and nothing transparent. Only an interlaced picture is in memory as a whole. Complaints go to
-/// nobody but the caller. One thread at a time.
+/// Decodes the pixels of a PNG file row by row, from the top down, composed on white, with 8 bits per
+/// component. Only an interlaced picture is held in memory completely. Errors are reported only to the
+/// caller. One thread at a time.
 class PngPixels
 {
 public:
-    /// How much memory an interlaced picture may take, in bytes.
+    /// The memory limit for an interlaced picture, in bytes.
     static constexpr qint64 largestInterlaced = qint64(400) << 20;
 
-    /// The bytes are untrusted and outlive this object; their header was found to be valid.
+    /// The bytes are untrusted and outlive this object; their header is valid.
     explicit PngPixels(QByteArrayView png);
     ~PngPixels();
     PngPixels(const PngPixels &) = delete;
     PngPixels &operator=(const PngPixels &) = delete;
 
-    /// The next row, valid until the next call; null when there is no more, or after an error. What follows
-    /// the last row is not looked at.
+    /// The next row, valid until the next call; null after the last row or an error. Data after the last row
+    /// are ignored.
     const unsigned char *nextRow();
 
     /// Untranslated; empty when all went well.

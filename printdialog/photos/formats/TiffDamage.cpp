@@ -51,7 +51,7 @@ public:
         return all.size() == 1 ? all.front() : 0;
     }
 
-    /// The whole numbers of an entry; none when the file ends before they do.
+    /// The integers of an entry; empty when they extend beyond the file.
     std::vector<quint32> numbers(TiffTag tag) const
     {
         constexpr quint32 typeShort = 3;
@@ -76,7 +76,7 @@ public:
         return numbers_.bytes(placeOf(tag, count), count);
     }
 
-    /// The compressed strips or tiles; none when they lie outside the file or over each other.
+    /// The compressed strips or tiles; empty when they extend beyond the file or overlap.
     std::vector<QByteArrayView> parts() const
     {
         const bool isTiled = entries_.contains(TileOffsets);
@@ -106,7 +106,7 @@ private:
         const auto entry = entries_.find(tag);
         return entry == entries_.end() ? 0 : numbers_.at(entry->second + 4, 4);
     }
-    /// What fits into the entry lies there.
+    /// The offset of an entry's value, which is inside the entry if it fits.
     qsizetype placeOf(TiffTag tag, qsizetype size) const
     {
         const auto entry = entries_.find(tag);
@@ -117,10 +117,10 @@ private:
 
     QByteArrayView tiff_;
     TiffNumbers numbers_;
-    std::map<quint32, qsizetype> entries_; ///< By tag, where each begins.
+    std::map<quint32, qsizetype> entries_; ///< The offset of each entry, by tag.
 };
 
-/// `limit` (in bytes) is lowered by what the part expands to; nothing is known of what is beyond it.
+/// Lowers `limit` by the bytes that the part expands to; anything beyond the limit is not checked.
 std::optional<QString> zlibDamage(QByteArrayView part, qint64 &limit)
 {
     z_stream stream = {};
@@ -138,7 +138,7 @@ std::optional<QString> zlibDamage(QByteArrayView part, qint64 &limit)
     }
     inflateEnd(&stream);
     if (status != Z_DATA_ERROR)
-        return std::nullopt; // also where the end is missing, which decoders do not need
+        return std::nullopt; // a missing end is accepted, since decoders do not need it
     return QStringLiteral("zlib data of a TIFF file are damaged");
 }
 

@@ -10,10 +10,9 @@
 
 namespace printdialog {
 
-/// What is wrong with the compressed pixels of a TIFF file's first picture, untranslated, where decoders pass
-/// over it: strips and tiles of JPEG (see jpegDamage), and of zlib, whose checksums are looked at. Nothing
-/// for other kinds of compression, or when the directory contradicts itself. Untrusted bytes. May run on any
-/// thread.
+/// The damage in the compressed pixels of a TIFF file's first picture, untranslated, as far as decoders do
+/// not report it: in strips and tiles of JPEG (see jpegDamage) and of zlib, by its checksums. Nothing for
+/// other kinds of compression, or when the directory is inconsistent. Untrusted bytes. May run on any thread.
 std::optional<QString> tiffDamage(QByteArrayView tiff);
 
 } // namespace printdialog

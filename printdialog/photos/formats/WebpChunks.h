@@ -8,12 +8,12 @@
 
 namespace printdialog {
 
-/// The content of the first chunk with that name of four letters in a WebP file; empty when there is none.
+/// The content of the first chunk with that name (four letters) in a WebP file; empty when there is none.
 /// Untrusted bytes.
 QByteArrayView webpChunk(QByteArrayView bytes, QByteArrayView name);
 
-/// A WebP file of the same picture whose compressed pixels lack their last bytes; empty when it has hardly
-/// more than those, or is an animation. Untrusted bytes.
+/// The same WebP file without the last bytes of its compressed pixels; empty when it is too short for that,
+/// or is an animation. Untrusted bytes.
 QByteArray shortenedWebp(QByteArrayView bytes);
 
 } // namespace printdialog

@@ -23,7 +23,7 @@ struct TransformDeleter
 using Profile = std::unique_ptr<void, ProfileCloser>;
 using Transform = std::unique_ptr<void, TransformDeleter>;
 
-constexpr qsizetype largestProfile = 16 << 20; // bytes; the largest of printers have a few megabytes
+constexpr qsizetype largestProfile = 16 << 20; // bytes; the largest printer profiles have a few megabytes
 
 Profile opened(const QByteArray &icc)
 {

@@ -8,24 +8,24 @@
 
 namespace printdialog {
 
-/// What a photo's numbers mean as colours: its ICC profile. A value; the default is no profile.
+/// A photo's ICC profile, which defines its colours. A value; the default is no profile.
 class ColourProfile
 {
 public:
     ColourProfile() = default;
 
-    /// From an untrusted ICC profile; no profile when it cannot be read or is not one of pictures.
+    /// Reads an untrusted ICC profile; no profile when it cannot be read or is not for pictures.
     static ColourProfile fromIcc(const QByteArray &icc);
 
     bool isEmpty() const { return icc_.isEmpty(); }
-    /// What everything takes colours for that come without a profile.
+    /// Whether it is sRGB, which is also assumed for colours without a profile.
     bool isSrgb() const;
     const QByteArray &icc() const { return icc_; }
-    /// How many numbers a colour has: 1 (grey), 3 (RGB) or 4 (CMYK); 0 of no profile.
+    /// The number of colour components: 1 (grey), 3 (RGB) or 4 (CMYK); 0 without a profile.
     int components() const { return components_; }
 
-    /// The picture in the colours of a screen (sRGB); as it is without a profile, or when the profile is for
-    /// another number of components than the picture has.
+    /// The picture converted to sRGB for the screen; unchanged without a profile, or when the profile has
+    /// another number of components than the picture.
     QImage toScreen(const QImage &image) const;
 
 private:

@@ -106,7 +106,7 @@ std::optional<double> plausibleResolution(double horizontal, double vertical)
 {
     constexpr double least = 10;
     constexpr double most = 10000;
-    constexpr double largestDifference = 0.01; // of rounding to whole pixels per metre
+    constexpr double largestDifference = 0.01; // from rounding to whole pixels per metre
     if (!(horizontal >= least) || horizontal > most ||
         !(std::abs(vertical - horizontal) <= horizontal * largestDifference))
         return std::nullopt;

@@ -12,25 +12,25 @@
 
 namespace printdialog {
 
-/// What the first directory of a TIFF block says: of an Exif block, or of a TIFF file.
+/// The first directory of a TIFF structure: an Exif block or a TIFF file.
 struct ExifData
 {
-    /// How the Exif standard has a camera say that it knows no resolution, in pixels per inch.
+    /// The value that stands for an unknown resolution in the Exif standard, in pixels per inch.
     static constexpr double unknownResolution = 72;
 
     ExifOrientation orientation;
-    /// In pixels per inch; nothing when none is named, when the two directions differ, or when it is unknown.
+    /// In pixels per inch; nothing when it is missing or unknown, or when the two directions differ.
     std::optional<double> resolution;
-    /// Whether the picture of the directory stands for a larger one elsewhere in the file, as in the raw
-    /// files of cameras.
+    /// Whether the directory's picture is a reduced version of another one in the file, as in camera raw
+    /// files.
     bool isReduced = false;
     QByteArray iccProfile; ///< Unchecked; empty when there is none.
 
-    /// Reads untrusted bytes: whatever cannot be read counts as not there.
+    /// Reads untrusted bytes; unreadable entries count as missing.
     static ExifData fromTiff(QByteArrayView tiff);
 };
 
-/// A resolution in pixels per inch that a photo can have had in earnest; nothing for any other number.
+/// The resolution in pixels per inch if it is plausible for a photo; else nothing.
 std::optional<double> plausibleResolution(double horizontal, double vertical);
 
 } // namespace printdialog

@@ -59,7 +59,7 @@ QTransform ExifOrientation::transform() const
 
 QImage ExifOrientation::applied(const QImage &stored) const
 {
-    // Mirroring and quarter turns apart, since only those move pixels without resampling them.
+    // Mirror and turn in separate steps: only these move pixels without resampling.
     const bool mirrorsAcross = value_ == 2 || value_ == 3 || value_ == 7;
     const bool mirrorsDown = value_ == 3 || value_ == 4 || value_ == 5;
     const QImage mirrored =

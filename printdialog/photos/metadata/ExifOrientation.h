@@ -9,26 +9,26 @@
 
 namespace printdialog {
 
-/// How the pixels of a photo, as they are stored, are turned and mirrored to be seen upright: one of the
-/// eight values of the Exif tag Orientation (0x0112). The default is 1, upright as stored.
+/// How a photo's stored pixels are turned and mirrored to be upright: one of the eight values of the Exif tag
+/// Orientation (0x0112). The default is 1, upright as stored.
 class ExifOrientation
 {
 public:
     ExifOrientation() = default;
 
-    /// From the tag's value; anything but 1 to 8 counts as 1.
+    /// From the tag's value; any value but 1 to 8 counts as 1.
     static ExifOrientation fromValue(int value);
-    /// From what an image reader says.
+    /// From an image reader's transformation.
     static ExifOrientation fromTransformations(QImageIOHandler::Transformations transformations);
 
     int value() const { return value_; }
-    /// Whether width and height change places.
+    /// Whether width and height are swapped.
     bool swapsSides() const { return value_ >= 5; }
-    /// The size as seen, from the size as stored.
+    /// The upright size for a stored size.
     QSize seenSize(const QSize &stored) const { return swapsSides() ? stored.transposed() : stored; }
-    /// From the unit square of the stored photo to the unit square of the upright one; y runs down in both.
+    /// Maps the unit square of the stored photo to that of the upright one; y runs down in both.
     QTransform transform() const;
-    /// The upright copy of a stored image.
+    /// An upright copy of a stored image.
     QImage applied(const QImage &stored) const;
 
     bool operator==(const ExifOrientation &) const = default;

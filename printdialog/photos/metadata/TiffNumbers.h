@@ -8,7 +8,7 @@
 
 namespace printdialog {
 
-/// Numbers of a TIFF block in its own byte order; nothing outside the block.
+/// Reads the integers of a TIFF block in its byte order, never outside the block.
 class TiffNumbers
 {
 public:
@@ -20,7 +20,7 @@ public:
 
     bool isTiff() const { return isBigEndian_ || block_.startsWith(QByteArrayView("II*\0", 4)); }
 
-    /// The number of that many bytes, or 0 where the block has ended.
+    /// The integer of that many bytes, or 0 beyond the end of the block.
     quint32 at(qsizetype offset, int bytes) const
     {
         if (offset < 0 || offset > block_.size() - bytes)
