@@ -37,9 +37,9 @@ QByteArray hiddenName(const char *prefix = hiddenPrefix)
     return prefix + QByteArray::number(QRandomGenerator::system()->generate64(), 36);
 }
 
-/// Removes what a program that was killed has left under a hidden name: any such file when nobody else is at
-/// work in the folder, else those that are older than any work takes. The age of an earlier file tells
-/// nothing: it is as old as the user's own.
+/// Removes hidden files that a killed program has left: all of them when no other program works in the
+/// folder, else those older than any job takes. The age of a moved earlier file means nothing: it is that of
+/// the user's file.
 void removeStale(const QString &folder, bool isAlone)
 {
     DIR *entries = ::opendir(QFile::encodeName(folder).constData());
@@ -82,13 +82,13 @@ Result<AtomicFiles, OutputFault> AtomicFiles::open(const QString &folder)
     return files;
 }
 
-// All that are at work in a folder share a lock on it, which goes with the process, however that ends. A file
-// system without such locks leaves it at the files' age.
+// All programs at work in a folder share a lock on it, which the kernel releases when the process ends. On a
+// file system without such locks, only the files' age counts.
 void AtomicFiles::shareFolder()
 {
     const bool isAlone = ::flock(descriptor_.number(), LOCK_EX | LOCK_NB) == 0;
     removeStale(folder_, isAlone);
-    // One that is alone keeps the others waiting for a moment.
+    // Another program may hold the lock exclusively for a moment while it cleans up.
     for (int tries = 0; ::flock(descriptor_.number(), LOCK_SH | LOCK_NB) != 0; ++tries) {
         if (errno != EWOULDBLOCK || tries == shareTries)
             return;
@@ -104,7 +104,7 @@ int AtomicFiles::makeFolders()
          path.truncate(std::max<qsizetype>(1, path.lastIndexOf(QLatin1Char('/'))))) {
         if (errno != ENOENT || path.size() <= 1)
             return errno;
-        if (isForeignName(path)) // what would be made is another folder
+        if (isForeignName(path)) // a different folder would be created
             return EILSEQ;
         missing.push_back(QFile::encodeName(path));
     }
@@ -123,7 +123,7 @@ Result<QIODevice *, OutputFault> AtomicFiles::add(const QString &name)
     Q_ASSERT(!name.isEmpty() && !name.contains(QLatin1Char('/')));
     File file;
     file.name = QFile::encodeName(name);
-    // A name that is too long is better known before the work than after it.
+    // Detect a name that is too long before the work, not after it.
     struct stat status = {};
     if (::fstatat(descriptor_.number(), file.name.constData(), &status, AT_SYMLINK_NOFOLLOW) != 0 &&
         errno != ENOENT)
@@ -168,7 +168,7 @@ Result<QStringList, OutputFault> AtomicFiles::commit(Earlier earlier)
     }
     QStringList paths;
     for (File &file : files_) {
-        // What the last one replaces is never put back: nothing comes after it that could fail.
+        // The last file's predecessor is never put back, since nothing after it can fail.
         if (earlier == Earlier::Replaced && &file != &files_.back())
             keepEarlier(file);
         if (const int error = putInPlace(file, earlier)) {
@@ -188,7 +188,7 @@ Result<QStringList, OutputFault> AtomicFiles::commit(Earlier earlier)
     return paths;
 }
 
-// These answer the system's error number, or 0.
+// These return an errno, or 0.
 
 int AtomicFiles::finish(File &file) const
 {
@@ -201,19 +201,19 @@ int AtomicFiles::finish(File &file) const
     return file.device->finish();
 }
 
-/// A second name for the earlier file, if there is one, where the file system knows more than one for a file.
+/// Gives an earlier file a second name, if the file system has hard links.
 void AtomicFiles::keepEarlier(File &file) const
 {
     const int folder = descriptor_.number();
     struct stat status = {};
     const bool exists = ::fstatat(folder, file.name.constData(), &status, AT_SYMLINK_NOFOLLOW) == 0;
     if (!exists || S_ISDIR(status.st_mode))
-        return; // a folder is never moved out of the way: the renaming refuses
+        return; // folders are never moved: renaming over one fails
     const QByteArray other = hiddenName(earlierPrefix);
     if (::linkat(folder, file.name.constData(), folder, other.constData(), 0) == 0)
         file.earlier = other;
     else
-        file.isForGood = true; // never moved out of the way: who ends us then would leave no file at all
+        file.isForGood = true; // not moved, since a process killed in between would leave no file
 }
 
 int AtomicFiles::putInPlace(File &file, Earlier earlier) const
@@ -227,8 +227,8 @@ int AtomicFiles::putInPlace(File &file, Earlier earlier) const
     return error;
 }
 
-/// Not every file system can rename without replacing (rename(2)), nor has every one hard links. Where it has
-/// neither, the name is taken by an empty file first.
+/// Not every file system can rename without replacing (rename(2)) or has hard links. Without either, an empty
+/// file reserves the name first.
 int AtomicFiles::putInFreePlace(const File &file) const
 {
     const int folder = descriptor_.number();
@@ -269,7 +269,7 @@ void AtomicFiles::rollBack(File &file) const
                   file.earlier.constData(), qUtf8Printable(qt_error_string(errno)));
         return;
     }
-    // Renaming does nothing when both are names of the same file.
+    // rename(2) does nothing when both are names of the same file.
     ::unlinkat(folder, file.earlier.constData(), 0);
 }
 
@@ -278,7 +278,7 @@ void AtomicFiles::discard()
     for (File &file : files_)
         rollBack(file);
     files_.clear();
-    // Only empty folders go, so whatever another program has put there meanwhile stays.
+    // Only empty folders are removed, so files that another program has put there stay.
     std::reverse(madeFolders_.begin(), madeFolders_.end());
     for (const QByteArray &folder : madeFolders_)
         ::rmdir(folder.constData());

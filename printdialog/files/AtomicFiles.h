@@ -20,44 +20,44 @@ namespace printdialog {
 class DescriptorDevice;
 
 /// A set of files in one folder that appear together or not at all. Each is written without a name (O_TMPFILE
-/// of open(2)), so that a crash leaves nothing behind; where the file system cannot do that, under a hidden
-/// name that nobody else has. Unless commit() succeeds, the folder is left as it was: earlier files of the
-/// same names untouched or put back, nothing temporary, and no folder that was made for this. A file never
-/// has a moment without either its earlier or its new content. What cannot be had where the file system knows
-/// one name only for each file (FAT): there, what has replaced an earlier file stays when the next one fails.
+/// of open(2)), so that a crash leaves nothing behind, or under a unique hidden name if the file system lacks
+/// that. Unless commit() succeeds, the folder is left as it was: earlier files of the same names are
+/// untouched or put back, and temporary files and created folders are removed. At every moment, a file has
+/// either its earlier or its new content. Exception: on a file system without hard links (FAT), a file that
+/// has replaced an earlier one stays when a later file fails.
 class AtomicFiles
 {
 public:
-    /// Opens the folder. A missing one is made, with the folders above it, as `mkdir -p` does.
+    /// Opens the folder. A missing one is created with its parents, like `mkdir -p`.
     static Result<AtomicFiles, OutputFault> open(const QString &folder);
     /// Removes what was not committed.
     ~AtomicFiles();
     AtomicFiles(AtomicFiles &&) noexcept;
     AtomicFiles &operator=(AtomicFiles &&) = delete;
 
-    /// Begins a file. `name` is its final name, without a folder. The device belongs to this object and is
+    /// Creates a file. `name` is its final name, without a folder. This object owns the device, which is
     /// valid until commit().
     Result<QIODevice *, OutputFault> add(const QString &name);
-    /// The failure of the first file that could not be written, by its final name.
+    /// The failure of the first file that could not be written; names it by its final name.
     std::optional<Failure<OutputFault>> writeFailure() const;
-    /// What becomes of earlier files of the same names.
+    /// How to treat earlier files of the same names.
     enum class Earlier {
         Replaced,
-        Kept, ///< One of them is the fault NameTaken, also when it appears at the last moment.
+        Kept, ///< An earlier file is the fault NameTaken, even if it appears at the last moment.
     };
-    /// Brings all files to the disk, then gives them their names. Answers their absolute paths in the order
-    /// of add(). May be called once.
+    /// Syncs all files to the disk, then gives them their names. Returns their absolute paths in the order of
+    /// add(). Call at most once.
     Result<QStringList, OutputFault> commit(Earlier earlier = Earlier::Replaced);
 
 private:
     struct File
     {
-        QByteArray name;      ///< The final one, in the file system's encoding.
-        QByteArray temporary; ///< Its hidden name; empty as long as it has none.
-        QByteArray earlier;   ///< Another name of an earlier file; empty when there is none.
+        QByteArray name;      ///< The final name, in the file system's encoding.
+        QByteArray temporary; ///< Its hidden name; empty while it has none.
+        QByteArray earlier;   ///< A second name of the earlier file; empty when there is none.
         std::unique_ptr<DescriptorDevice> device;
         bool isInPlace = false;
-        bool isForGood = false; ///< It replaces an earlier file that has no other name.
+        bool isForGood = false; ///< It replaces an earlier file that has no second name.
     };
 
     AtomicFiles();

@@ -27,7 +27,7 @@ int DescriptorDevice::finish()
         if (errno != EINTR)
             error_ = errno;
     }
-    // Network file systems tell only now that they could not store it.
+    // Network file systems report only now that they could not store the data.
     if (::close(descriptor_.release()) != 0 && error_ == 0 && errno != EINTR)
         error_ = errno;
     return error_;

@@ -9,18 +9,17 @@
 
 namespace printdialog {
 
-/// Writes to a descriptor that it owns, without a buffer, and keeps the system's error number, which QFile
-/// does not.
+/// Writes unbuffered to a descriptor that it owns, and keeps the errno, which QFile does not.
 class DescriptorDevice final : public QIODevice
 {
 public:
     explicit DescriptorDevice(pdekit::FileDescriptor descriptor);
 
-    /// The first error of a write, or 0.
+    /// The errno of the first failed write, or 0.
     int error() const { return error_; }
-    /// Gives a file without a name the name `name` in the folder. Answers the error, or 0.
+    /// Links an unnamed file to `name` in the folder. Returns an errno, or 0.
     int link(int folder, const QByteArray &name) const;
-    /// Brings what was written to the disk and closes the descriptor. Answers the first error of all, or 0.
+    /// Syncs the file to the disk and closes the descriptor. Returns the first errno of all, or 0.
     int finish();
 
 protected:

@@ -13,7 +13,7 @@
 namespace printdialog {
 namespace {
 
-/// Puts the path and the system's own words for the error into a translated text.
+/// The failure with a translated text that contains the path, and the system's error text as detail.
 Failure<OutputFault> failureWith(OutputFault reason, const char *text, int error, const QString &path)
 {
     const QString cause = qt_error_string(error);

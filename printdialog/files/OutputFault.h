@@ -9,20 +9,20 @@
 
 namespace printdialog {
 
-/// Why the files of a job could not be left in their folder.
+/// Why the files of a job could not be written to their folder.
 enum class OutputFault {
     PhotoUnusable, ///< The photo cannot be decoded.
-    PageUnusable,  ///< The page cannot be printed on.
+    PageUnusable,  ///< The page size is not usable.
     NotAFolder,    ///< A part of the folder's path is a file.
-    FolderMissing, ///< The folder is not there and cannot be made.
+    FolderMissing, ///< The folder does not exist and cannot be created.
     NotWritable,   ///< No permission to write there.
-    NameTaken,     ///< A folder stands where a file should go.
+    NameTaken,     ///< A file of that name that is not replaced, or a folder.
     NameTooLong,   ///< Longer than the file system allows.
-    DiskFull,      ///< No space left, or no more for this user.
-    WriteFailed,   ///< Any other error of the system.
+    DiskFull,      ///< No space left, or the user's quota is used up.
+    WriteFailed,   ///< Any other system error.
 };
 
-/// The failure for an error number of the system that came up with a file or folder.
+/// The failure for an errno that occurred with a file or folder.
 Failure<OutputFault> outputFailure(int error, const QString &path);
 
 } // namespace printdialog

@@ -8,14 +8,14 @@
 
 namespace printdialog {
 
-/// A page and the part of it that the printer can print on. In points (1/72 inch); the origin is the page's
-/// top left corner and y runs down.
+/// A page and its printable part. In points (1/72 inch); the origin is the page's top left corner and y runs
+/// down.
 struct PageGeometry
 {
     QSizeF size;
-    QRectF imageable; ///< Larger than the page where the printer prints over the sheet's edges.
+    QRectF imageable; ///< The printable area; larger than the page for borderless printing.
 
-    /// What is seen of a print: the imageable area on the sheet.
+    /// The visible part of a print: the imageable area within the sheet.
     QRectF printed() const { return imageable & QRectF(QPointF(0, 0), size); }
 
     bool operator==(const PageGeometry &) const = default;

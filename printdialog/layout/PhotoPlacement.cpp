@@ -10,7 +10,7 @@ namespace printdialog {
 namespace {
 
 constexpr double pointsPerInch = 72;
-constexpr double shortestMove = 0.01; // points; less than that is rounding
+constexpr double shortestMove = 0.01; // points; smaller moves are rounding errors
 
 double scaleToFit(const QSizeF &photo, const QSizeF &area)
 {
@@ -27,8 +27,8 @@ double visibleSurface(const QSizeF &photo, const QSizeF &area)
     return std::min(photo.width(), area.width()) * std::min(photo.height(), area.height());
 }
 
-/// Whether a photo is better off on its side. A turn must gain more than rounding does: a square photo, or
-/// one on a square area, stays as it is.
+/// Whether the photo fits better on its side. The gain must exceed rounding errors: a square photo, or any
+/// photo on a square area, is not turned.
 bool gainsByTurn(const QSizeF &photo, const QSizeF &area, Scaling scaling)
 {
     constexpr double leastGain = 1 + 1e-9;
@@ -44,7 +44,7 @@ bool gainsByTurn(const QSizeF &photo, const QSizeF &area, Scaling scaling)
     return visibleSurface(turned, area) > visibleSurface(photo, area) * leastGain;
 }
 
-/// A point of the upright photo's unit square after so many quarter turns clockwise.
+/// A point of the upright photo's unit square after that many quarter turns clockwise.
 QPointF turned(QPointF point, int quarterTurns)
 {
     for (int i = 0; i < quarterTurns; ++i)

@@ -13,50 +13,51 @@
 
 namespace printdialog {
 
-/// How large a photo is made on its page. It is never distorted.
+/// How a photo is scaled on its page. It is never distorted.
 enum class Scaling {
-    Fit,        ///< As large as it goes without losing a part.
-    Fill,       ///< As small as it goes without leaving a part of the area free; the rest is cut off.
-    ActualSize, ///< As large as its resolution makes it; what does not fit is cut off.
+    Fit,        ///< As large as possible without cutting anything off.
+    Fill,       ///< As small as possible while it covers the area; the rest is cut off.
+    ActualSize, ///< The size given by its resolution; parts that do not fit are cut off.
 };
 
-/// What is wanted of a photo's place on its page. A value; the default is what a photo gets unasked.
+/// The requested placement of a photo on its page. A value; the default is used when nothing is requested.
 struct PlacementChoice
 {
     Scaling scaling = Scaling::Fit;
-    /// Quarter turns clockwise, 0 to 3, on top of the turn that a page brings with it.
+    /// Quarter turns clockwise, 0 to 3, in addition to the turn that the page's shape causes.
     int turns = 0;
-    /// Which part of a photo that is cut is kept, along the sides of the upright photo: from 0 (left, top)
-    /// over 0.5 (the middle) to 1 (right, bottom). A photo smaller than the area is moved in it. Fit always
-    /// takes the middle.
+    /// Which part of a cropped photo is kept, along the sides of the upright photo: from 0 (left, top)
+    /// through 0.5 (centre) to 1 (right, bottom). A photo smaller than the area is moved within it. Fit
+    /// always centres.
     QPointF crop{0.5, 0.5};
 
     bool operator==(const PlacementChoice &) const = default;
 };
 
-/// Where a photo goes on a page. The preview and the printed page both come from here.
+/// Where a photo is placed on a page, for both the preview and the printed page.
 struct PhotoPlacement
 {
-    QRectF target;        ///< The whole photo on the page, in points, as it lies there after the turn.
-    QRectF area;          ///< Where the photo was to go, in points. Only the imageable area is ever printed.
+    QRectF target; ///< The complete photo on the page after the turn, in points.
+    QRectF area;   ///< The area that the photo was placed in, in points. Only the imageable area is printed.
     int quarterTurns = 0; ///< Clockwise, of the upright photo, 0 to 3.
-    int pageTurns = 0;    ///< How many of them the page brings with it, since the photo suits it better so.
+    int pageTurns = 0;    ///< How many of them are due to the page's shape.
 
-    /// `seenSize` is the size of the upright photo in pixels; neither it nor the imageable area is empty.
-    /// The area is the imageable one, and, unless it is to be filled, the part of it that is on the sheet.
+    /// Computes the placement. `seenSize` is the size of the upright photo in pixels; neither it nor the
+    /// imageable area is empty. The photo is placed in the imageable area or, unless it is to be filled, in
+    /// the part of it that is on the sheet.
     static PhotoPlacement place(const QSize &seenSize, double pixelsPerInch, const PageGeometry &page,
                                 const PlacementChoice &choice);
 
-    /// From the unit square of a picture to the page in points. Of the photo's stored pixels with their
-    /// orientation; or, without one, of a picture that is upright already.
+    /// Maps the unit square of a picture to the page in points: of the photo's stored pixels with their
+    /// orientation or, without one, of a picture that is already upright.
     QTransform toPage(ExifOrientation orientation = {}) const;
 
-    /// By how much the area is wider and higher than the photo, in points; negative where the photo is.
+    /// By how much the area is wider and higher than the photo, in points; negative when the photo is larger.
     QPointF slack() const;
-    /// The choice that brings the photo as far as it goes in the direction of a distance on the page, in
-    /// points. The same choice when the photo cannot be moved that way.
+    /// The choice that moves the photo by the distance on the page, in points, as far as possible. The same
+    /// choice when the photo cannot move that way.
     PlacementChoice moved(const PlacementChoice &choice, const QPointF &distance) const;
-    /// The share of the photo, 0 to 1, that is not printed on the page.
+    /// The fraction of the photo, 0 to 1, that is not printed on the page.
     double cutOff(const PageGeometry &page) const;
 };
 

@@ -8,7 +8,7 @@
 
 namespace printdialog {
 
-/// One photo of a job, and how it is wanted on its page.
+/// One photo of a job and its requested placement.
 struct PlacedPhoto
 {
     Photo photo;

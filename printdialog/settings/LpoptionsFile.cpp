@@ -15,7 +15,7 @@ namespace printdialog {
 
 namespace {
 
-/// The parts of one line; the options as they stand there.
+/// The parts of one line; the options are unparsed.
 struct Line
 {
     QByteArray keyword; // "Dest", or "Default" for the user's default
@@ -34,7 +34,7 @@ bool isSpace(char c)
     return c == ' ' || (c >= '\t' && c <= '\r');
 }
 
-/// The text up to the next space, which goes with it.
+/// Removes the first word and the spaces after it, and returns the word.
 QByteArray takeWord(QByteArray &text)
 {
     const auto end = std::find_if(text.cbegin(), text.cend(), isSpace);
@@ -43,7 +43,7 @@ QByteArray takeWord(QByteArray &text)
     return word;
 }
 
-/// As libcups reads it: the first number sign begins a comment, or stands for itself after a backslash.
+/// Like libcups: the first number sign begins a comment, unless it follows a backslash.
 QByteArray withoutComment(QByteArray line)
 {
     const qsizetype sign = line.indexOf('#');
@@ -88,7 +88,7 @@ QByteArray quoted(const QByteArray &value)
         return value;
     QByteArray text = "\"";
     for (const char c : value) {
-        // The number sign, too: libcups would take it for a comment's beginning.
+        // Also escape the number sign, which begins a comment for libcups.
         if (c == '"' || c == '\\' || c == '#')
             text += '\\';
         text += c;
@@ -123,7 +123,7 @@ bool LpoptionsFile::set(const Destination &destination, const QMap<QString, QStr
     const QByteArray added = "Dest " + destination.id().toUtf8() + text;
     if (added.size() + qsizetype(sizeof "Default") > longestLine)
         return false;
-    // libcups adds up the lines of one entry.
+    // libcups merges all lines of one entry.
     bool isSet = false;
     for (auto each = lines_.begin(); each != lines_.end();) {
         const auto line = parsed(*each);

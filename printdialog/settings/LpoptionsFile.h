@@ -12,8 +12,8 @@
 
 namespace printdialog {
 
-/// The text of a CUPS "lpoptions" file (lpoptions(1)): a line for each queue, or instance of one, with its
-/// options. Lines that are not asked for stay byte for byte.
+/// The text of a CUPS "lpoptions" file (lpoptions(1)): a line for each queue or instance, with its options.
+/// Other lines are kept byte for byte.
 class LpoptionsFile
 {
 public:
@@ -28,14 +28,13 @@ public:
 
     explicit LpoptionsFile(const QByteArray &text);
 
-    /// In the file's order; what is no entry is left out.
+    /// The entries in the file's order; other lines are skipped.
     QList<Entry> entries() const;
 
-    /// Puts the options in the place of those the entry has, or adds it at the end. False: its line would be
-    /// too long.
+    /// Replaces the entry's options, or appends the entry. False: its line would be too long.
     bool set(const Destination &destination, const QMap<QString, QString> &options);
-    /// Gives the entry another instance name; its options stay byte for byte. False: a line would be too
-    /// long; nothing has changed then.
+    /// Renames the entry's instance; its options stay byte for byte. False: a line would be too long, and
+    /// nothing was changed.
     bool rename(const Destination &destination, const QString &newInstance);
     void remove(const Destination &destination);
 

@@ -9,8 +9,9 @@ namespace printdialog {
 
 namespace {
 
-constexpr qsizetype mostBytes = 127;                // as for a queue's name
-const QString mapped = QStringLiteral(" /\\?'\"#"); // as lpadmin(8) refuses them in a queue's name
+constexpr qsizetype mostBytes = 127; // the limit of a queue's name
+const QString mapped =
+    QStringLiteral(" /\\?'\"#"); // the characters that lpadmin(8) refuses in a queue's name
 
 /// The mapped character whose hexadecimal digits the text begins with.
 std::optional<QChar> characterOf(QStringView digits)
@@ -19,8 +20,8 @@ std::optional<QChar> characterOf(QStringView digits)
     return mapped.contains(character) ? std::optional(character) : std::nullopt;
 }
 
-/// Whether a percent sign with the text behind it would be read as a mapped character, or as a percent sign
-/// that is mapped to keep it from that.
+/// Whether a percent sign with the text after it would be read as a mapped character or as a mapped percent
+/// sign.
 bool needsMapping(QStringView behindPercent)
 {
     while (behindPercent.startsWith(u"25"))

@@ -18,8 +18,9 @@ namespace printdialog {
 
 namespace {
 
-/// Each has its instance for a name so far. lpoptions(1) takes characters that are mapped here: such a preset
-/// keeps its name, and another one that would have the same is shown as its instance.
+/// Replaces the instances, which are the names so far, by names. lpoptions(1) accepts characters that are
+/// mapped here: such a preset keeps its name, and another one that would get the same name is shown by its
+/// instance.
 void giveNames(QList<Preset> &presets)
 {
     for (Preset &preset : presets) {
@@ -84,7 +85,7 @@ Result<QList<Preset>, SettingsFault> PresetStore::presets() const
 
 PresetStore::Presets PresetStore::presetsIn(const QByteArray &user) const
 {
-    // What the system's file says is a help only: it need not be readable.
+    // The system's file is optional: it need not be readable.
     const auto read = SettingsFile::read(systemFile_);
     const QByteArray system = read ? *read : QByteArray();
     Presets presets;
@@ -93,7 +94,7 @@ PresetStore::Presets PresetStore::presetsIn(const QByteArray &user) const
         const auto entries = LpoptionsFile(isUserFile ? user : system).entries();
         for (const LpoptionsFile::Entry &entry : entries) {
             const QString &instance = entry.destination.instance;
-            // A name that needs cleaning could not be handed back to CUPS.
+            // CUPS would not recognize a name that was cleaned.
             if (!PresetName::areSame(entry.destination.queue, queue_) || plainText(instance) != instance)
                 continue;
             if (instance.isEmpty()) {
@@ -104,7 +105,7 @@ PresetStore::Presets PresetStore::presetsIn(const QByteArray &user) const
                 return PresetName::areSame(preset.instance, instance);
             });
             if (known == presets.end()) {
-                // libcups hands an instance the options that its queue has by then.
+                // In libcups, an instance inherits the options read so far for its queue.
                 presets += {instance, entry.options, ofQueue, isUserFile, instance};
             } else {
                 known->options.insert(entry.options);

@@ -22,7 +22,7 @@ namespace printdialog {
 namespace {
 
 constexpr int cacheVersion = 1;
-/// Of a PPD that is remembered, in bytes: as JSON it takes ten times the memory for a moment.
+/// The largest PPD that is stored, in bytes: as JSON it briefly needs ten times the memory.
 constexpr qsizetype ppdLimit = qsizetype(3) * 1024 * 1024;
 
 struct TextField
@@ -41,7 +41,7 @@ constexpr std::array textFields = {
     TextField{"uri", &Queue::uri},
 };
 
-/// Whether the file is the user's own and nobody else's to write to.
+/// Whether the file belongs to the user and nobody else can write to it.
 bool isPrivate(const QString &path)
 {
     struct stat found = {};
@@ -63,7 +63,7 @@ std::optional<RememberedQueue> QueueCache::load()
 {
     const QString path = file();
     QFile file(path);
-    // In base 64 the PPD is a third larger.
+    // In base64, the PPD is a third larger.
     if (!isPrivate(path) || file.size() > ppdLimit * 3 / 2 || !file.open(QIODevice::ReadOnly))
         return std::nullopt;
     const QJsonObject content = QJsonDocument::fromJson(file.readAll()).object();
@@ -75,7 +75,7 @@ std::optional<RememberedQueue> QueueCache::load()
     };
     for (const TextField &field : textFields)
         remembered.queue.*field.member = plainText(text(field.name), shownTextLimit);
-    // What has to be cleaned would name another queue afterwards.
+    // A name that needs cleaning would afterwards be another queue's.
     if (!isQueueName(text("name")) || remembered.queue.instance != text("instance"))
         return std::nullopt;
     remembered.queue.isClass = content[QLatin1String("isClass")].toBool();
@@ -89,7 +89,7 @@ std::optional<RememberedQueue> QueueCache::load()
 void QueueCache::save(const RememberedQueue &remembered)
 {
     if (remembered.ppd.size() > ppdLimit) {
-        QFile::remove(file()); // it would name another printer
+        QFile::remove(file()); // it may be of another printer
         return;
     }
     QJsonObject content = {{QStringLiteral("version"), cacheVersion},
@@ -106,8 +106,8 @@ void QueueCache::save(const RememberedQueue &remembered)
     if (isPrivate(path) && before.open(QIODevice::ReadOnly) && before.readAll() == bytes)
         return;
     if (!isPrivate(path))
-        QFile::remove(path); // a file that is replaced keeps its permissions
-    SettingsFile::replace(path, bytes); // else the server is asked again next time
+        QFile::remove(path);            // since replacing keeps the old permissions
+    SettingsFile::replace(path, bytes); // on failure, the next window waits for the server
 }
 
 } // namespace printdialog

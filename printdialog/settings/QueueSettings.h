@@ -10,18 +10,18 @@
 
 namespace printdialog {
 
-/// The choices last used with each printer, or saved for it: one small JSON file for each, in the user's
-/// configuration folder (the desktop's base directories, XDG_CONFIG_HOME).
+/// The choices last used with each printer, or saved for it: one small JSON file per printer in the user's
+/// configuration folder (XDG_CONFIG_HOME).
 class QueueSettings
 {
 public:
-    /// Option keyword to choice keyword, as last saved for the printer; empty when there is nothing of use.
-    /// Whether the printer still has these choices is for its PPD to say.
+    /// Option keyword to choice keyword, as last saved for the printer; empty when there is no usable file.
+    /// The printer's PPD may no longer have these choices.
     static QMap<QString, QString> load(const QString &printer);
-    /// Keeps the choices in the place of those saved before. The old ones stay whole when this fails.
+    /// Replaces the saved choices. The old ones are unchanged when this fails.
     static SettingsFailure save(const QString &printer, const QMap<QString, QString> &options);
 
-    /// The file for the printer, whatever characters its name has.
+    /// The file for the printer; any characters in its name are allowed.
     static QString fileFor(const QString &printer);
 };
 

@@ -9,19 +9,19 @@
 
 namespace printdialog {
 
-/// Why settings or presets could not be kept, or read.
+/// Why settings or presets could not be saved or read.
 enum class SettingsFault {
-    NotReadable, ///< the file is there and cannot be read, or is too large to be one of these
-    NotWritable, ///< the folder cannot be made, or the file cannot be written or put in place
+    NotReadable, ///< the file exists and cannot be read, or is too large
+    NotWritable, ///< the folder cannot be created, or the file cannot be written or replaced
     Busy,        ///< another program keeps the file locked
-    BadName,     ///< no preset can have this name
-    NameTaken,   ///< there is a preset of this name
-    NotThere,    ///< there is no preset of this name
+    BadName,     ///< a preset cannot have this name
+    NameTaken,   ///< a preset with this name exists
+    NotThere,    ///< no preset with this name exists
     ReadOnly,    ///< the preset is the system's, not the user's
     TooLong,     ///< CUPS could not read the preset's line
 };
 
-/// Nothing when it went well.
+/// Nothing on success.
 using SettingsFailure = std::optional<Failure<SettingsFault>>;
 
 } // namespace printdialog

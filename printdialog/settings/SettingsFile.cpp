@@ -19,8 +19,8 @@ namespace {
 
 constexpr qsizetype largestFile = qsizetype(1024) * 1024;
 constexpr auto lockPatience = 1s;
-/// After which a lock file without content, whose writer was killed right then, is in nobody's way. One that
-/// has content goes at once when its writer is gone.
+/// The age at which an empty lock file is stale: its writer was killed while creating it. One with content is
+/// stale as soon as its writer has ended.
 constexpr auto staleLock = 500ms;
 
 constexpr auto ownersFile = QFile::ReadOwner | QFile::WriteOwner;
@@ -48,14 +48,13 @@ Result<QByteArray, SettingsFault> SettingsFile::read(const QString &path)
     const QFileInfo info(path);
     if (!info.exists())
         return QByteArray();
-    if (!info.isFile()) // a pipe would be waited for, and a device read without end
+    if (!info.isFile()) // reading a pipe could block, and a device may never end
         return failure(tr("it is not a file"));
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         return failure(file.errorString());
     const QByteArray content = file.read(largestFile + 1);
-    // A file that was not read to its end is never taken for a shorter one: what follows would be written
-    // over.
+    // Never treat a partly read file as a shorter one: a change would then drop the rest.
     if (file.error() != QFile::NoError)
         return failure(file.errorString());
     if (content.size() > largestFile)
@@ -73,8 +72,8 @@ std::optional<QString> SettingsFile::replace(const QString &path, const QByteArr
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly) || (!info.exists() && !file.setPermissions(ownersFile)))
         return file.errorString();
-    // commit() goes by neither: not by what comes up when the last part is written, nor by fsync(2), by which
-    // network file systems report that they could not store it.
+    // Check both here, since commit() does not: the write of the last part, and fsync(2), by which network
+    // file systems report that they could not store the data.
     if (file.write(content) != content.size() || !file.flush())
         return file.errorString();
     if (::fsync(file.handle()) != 0)

@@ -12,9 +12,8 @@
 
 namespace printdialog {
 
-/// A small file of the user's: read whole, and changed whole or not at all, so that it holds the old content
-/// or the new one whatever happens. Nobody else can read a new one; one that was there keeps its permissions,
-/// and a link stays one.
+/// A small file of the user, replaced atomically, so that it always holds the complete old or new content.
+/// Only the user can read a new file; an existing one keeps its permissions, and a symbolic link stays one.
 class SettingsFile
 {
     Q_DECLARE_TR_FUNCTIONS(printdialog::SettingsFile)
@@ -23,15 +22,15 @@ public:
     /// The content; empty when there is no such file. Failures: NotReadable.
     static Result<QByteArray, SettingsFault> read(const QString &path);
 
-    /// Puts the content in the file's place, and makes the folder, private too. Nothing, or why the file has
-    /// not its new content.
+    /// Replaces the file's content, and creates a missing folder, readable only by the user. Returns nothing,
+    /// or why that failed.
     static std::optional<QString> replace(const QString &path, const QByteArray &content);
 
-    /// What is to be in the file instead of what is there, or why it stays.
+    /// Returns the file's new content, or why it stays unchanged.
     using Change = std::function<Result<QByteArray, SettingsFault>(const QByteArray &before)>;
-    /// Reads the file, asks for the change, and puts it in place, while no other dialog does the same: none
-    /// loses what another one writes. Waits for others no longer than a second. Makes the folder, private
-    /// too. Failures: NotReadable, NotWritable, Busy, and those of the change.
+    /// Reads the file, calls `change` and replaces the content under a lock, so that no dialog overwrites
+    /// another's change. Waits for the lock at most a second. Creates a missing folder, readable only by the
+    /// user. Failures: NotReadable, NotWritable, Busy, and those of `change`.
     static SettingsFailure change(const QString &path, const Change &change);
 };
 

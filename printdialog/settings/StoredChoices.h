@@ -9,10 +9,11 @@
 
 namespace printdialog {
 
-/// The option with the number of copies, among choices that are kept.
+/// The key of the number of copies among stored choices.
 inline constexpr char copiesOption[] = "copies";
 
-/// Choices as a JSON object, option keyword to choice keyword, and back; what is no text is left out.
+/// Converts choices to a JSON object, option keyword to choice keyword, and back; values that are not strings
+/// are left out.
 QJsonObject jsonOfChoices(const QMap<QString, QString> &choices);
 QMap<QString, QString> choicesFromJson(const QJsonObject &object);
 

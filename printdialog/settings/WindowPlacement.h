@@ -7,15 +7,15 @@
 
 namespace printdialog {
 
-/// Where the window was and how large, from one time to the next: one small file in the user's
-/// configuration folder (the desktop's base directories, XDG_CONFIG_HOME).
+/// Stores the window's position and size between runs, in one small file in the user's configuration folder
+/// (XDG_CONFIG_HOME).
 class WindowPlacement
 {
 public:
-    /// As QWidget::restoreGeometry() takes it; empty when nothing is kept.
+    /// For QWidget::restoreGeometry(); empty when nothing is stored.
     static QByteArray load();
-    /// What QWidget::saveGeometry() has made. False: it could not be kept, and what was kept before stays. No
-    /// reason to trouble the user.
+    /// Stores the result of QWidget::saveGeometry(). False: it could not be stored, and the old one stays.
+    /// Not worth a message to the user.
     static bool save(const QByteArray &geometry);
 };
 

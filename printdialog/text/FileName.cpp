@@ -28,9 +28,9 @@ std::optional<QString> fileOfUrl(const QUrl &url)
     const bool isHere = url.host().isEmpty() || url.host() == QLatin1String("localhost");
     if (!url.isLocalFile() || !isHere || url.path().isEmpty())
         return std::nullopt;
-    // QUrl's own text leaves what is not UTF-8 in its per-cent form, which is another file's name.
+    // QUrl would leave bytes that are not UTF-8 percent-encoded, which is another file's name.
     const QByteArray bytes = QByteArray::fromPercentEncoding(url.path(QUrl::FullyEncoded).toLatin1());
-    if (bytes.contains('\0')) // the system would read it as the name before that
+    if (bytes.contains('\0')) // the system would end the name there
         return std::nullopt;
     return QFile::decodeName(bytes);
 }

@@ -11,12 +11,12 @@ class QUrl;
 
 namespace printdialog {
 
-/// Whether the name may come from bytes that are not UTF-8. Qt decodes each of them as U+FFFD, so that the
-/// text leads back to no file.
+/// Whether the name may come from bytes that are not UTF-8. Qt decodes each such byte to U+FFFD, so the file
+/// cannot be opened by the decoded name.
 bool isForeignName(const QString &path);
-/// Says for people that a file or folder has such a name.
+/// A sentence for people: a file or folder has such a name.
 QString foreignNameText(const QString &path);
-/// The file on this computer that a URL of the scheme "file" names (RFC 8089); nothing for any other one.
+/// The local file that a "file" URL names (RFC 8089); nothing for any other URL.
 std::optional<QString> fileOfUrl(const QUrl &url);
 
 } // namespace printdialog

@@ -19,8 +19,8 @@ bool isControl(QChar character)
            category == QChar::Separator_Paragraph;
 }
 
-/// Format characters hold those that turn the direction of writing; some languages cannot be written without
-/// the joiners.
+/// Format characters include those that change the writing direction. The joiners are kept, since some
+/// languages need them.
 bool isUnwantedFormat(QChar character)
 {
     return character.category() == QChar::Other_Format && character != zeroWidthJoiner &&

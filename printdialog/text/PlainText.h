@@ -9,17 +9,17 @@
 
 namespace printdialog {
 
-/// The longest text of a PPD, a server or a file's name that a sentence holds, in UTF-16 units.
+/// The longest text of a PPD, a server or a file name inside a sentence, in UTF-16 units.
 inline constexpr qsizetype shownTextLimit = 300;
 
-/// Text from outside (a PPD, a server, a file's name, a command line) made fit to be shown or to name a file:
-/// tabs and line breaks become spaces; other control characters, the characters that turn the direction of
-/// writing, and halves of surrogate pairs are dropped. What is longer than
-/// `limit` UTF-16 units ends in an ellipsis.
+/// Makes text from outside (a PPD, a server, a file name, a command line) safe to show or to use as a file
+/// name. Tabs and line breaks become spaces. Other control characters, characters that change the writing
+/// direction, and unpaired surrogates are dropped. Text longer than `limit` UTF-16 units is cut and ends with
+/// an ellipsis.
 QString plainText(const QString &untrusted, qsizetype limit = std::numeric_limits<qsizetype>::max());
 
-/// Whether the text holds a control character or a line separator. Such text never goes to a print server:
-/// the scheduler keeps options line by line, and a line break in a value is read again as an entry of its own
+/// Whether the text has a control character or a line separator. Such text is never sent to a print server:
+/// the scheduler stores options line by line, and would read a line break in a value as a new entry
 /// (CVE-2026-34980).
 bool hasControls(const QString &text);
 
