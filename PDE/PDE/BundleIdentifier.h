@@ -3,6 +3,6 @@
 
 #pragma once
 
-/// The identifier of the bundle that this plug-in is built for; a panel's kind is it with a suffix of the
-/// panel's own.
+/// The identifier of the bundle that this plug-in is built for. A panel's kind is this identifier with the
+/// panel's suffix.
 #define CORVEL_9031_BUNDLE_IDENTIFIER "org.corvel.printing.Corvel9031"

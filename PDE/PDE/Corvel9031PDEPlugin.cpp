@@ -29,8 +29,8 @@ Corvel9031PDEPlugin::PDEPanelsForTypeWithHostInfo(const QString &type, const pde
     pdekit::PanelPointer sharpness = RKTPPRBasePDEcorvel::make<LVSharpnessCorvelPDE>(hostInfo);
     pdekit::PanelPointer colorAdjustment = RKTPPRBasePDEcorvel::make<LVCorvelMainPDE>(hostInfo);
 
-    // Made last, offered first. A panel that could not be made ends the list: those after it are not offered
-    // either.
+    // The last one made is offered first. A panel that cannot be made ends the list: the panels after it are
+    // not offered.
     pdekit::PanelList panels;
     for (pdekit::PanelPointer *panel : {&colorAdjustment, &sharpness, &lamination}) {
         if (!*panel)

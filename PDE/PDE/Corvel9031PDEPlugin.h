@@ -7,7 +7,7 @@
 
 #include <QtCore/QObject>
 
-/// The plug-in's principal class: checks that it stands in its own bundle, and makes the panels.
+/// The plug-in's principal class: checks that it is in its own bundle, and makes the panels.
 class Corvel9031PDEPlugin : public QObject, public pdekit::PrintDialogPlugin
 {
     Q_OBJECT

@@ -32,7 +32,7 @@ constexpr int companionBits = 160;
 constexpr int retiredBit = 256;
 constexpr int retiredHeight = 100; // points
 
-/// Whether the PPD is that of the model whose finish cannot be chosen; letter case does not matter.
+/// Whether the PPD is that of the model whose finish cannot be chosen. Case-insensitive.
 bool namesModel(const QByteArray &ppd)
 {
     constexpr QLatin1String model("K9031");
@@ -42,7 +42,7 @@ bool namesModel(const QByteArray &ppd)
     return std::search(ppd.begin(), ppd.end(), model.begin(), model.end(), sameLetter) != ppd.end();
 }
 
-/// Takes a control out of the panel: nothing that looks for its tag finds it any more.
+/// Removes a control from the panel: a search for its tag no longer finds it.
 void retire(QWidget *view, int tag)
 {
     view->setEnabled(false);
@@ -128,7 +128,7 @@ void LVCorvelLaminationPDE::willShow()
     if (!view)
         return;
     retireControls(view);
-    // Each time, also when there was nothing left to retire: the shift adds up.
+    // At every call, even when nothing is left to retire: the shifts add up.
     if (QWidget *defaultsButton = pdekit::viewWithTag(view, defaultsTag))
         defaultsButton->move(defaultsButton->x(), defaultsButton->y() - retiredHeight);
     view->resize(view->width(), view->height() - retiredHeight);

@@ -32,15 +32,15 @@ public:
     Text ppdOptionKeyForTag(int tag) const override;
     Text ppdChoiceForTag(int cellTag) const override;
     int tagForStringValue(const Text &value) const override;
-    /// Inverted: a ticked box disables the option controls.
+    /// Inverted: a checked box disables the option controls.
     int enablerState(QWidget *enabler) const override;
 
-    /// A change of "Overcoat" is a change of "isMatte", too.
+    /// A change of "Overcoat" is also a change of "isMatte".
     void willChangeValueForKey(const QString &key) override;
     void didChangeValueForKey(const QString &key) override;
 
     Q_INVOKABLE std::int32_t qual() const { return qual_; }
-    /// Keeps `qual` within -25 to 25; tells of the change when the value had to be clamped.
+    /// Keeps `qual` within -25 to 25; notifies of the change when the value had to be clamped.
     void setQual(std::int32_t value);
     Q_INVOKABLE bool isMatte() const;
 
@@ -53,7 +53,7 @@ public:
 
     /// Stores a bound value as the choice for the option, after asking the print system in
     /// constraint-handling mode. A refusal is answered with an alert, and nothing is stored or put back. An
-    /// invokable member without arguments that is named `key` is called first, and its answer dropped.
+    /// invokable member without arguments that is named `key` is called first, and its result dropped.
     Q_INVOKABLE void setValueForBoundControlWithKey(const QString &value, const QString &key);
 
 private:

@@ -18,7 +18,7 @@ const QString overcoatKey = QStringLiteral("Overcoat");
 const QString isMatteKey = QStringLiteral("isMatte");
 const QString qualKey = QStringLiteral("qual");
 
-/// Calls the object's invokable member of that name that takes no argument, if it has one.
+/// Calls the object's invokable member of that name without arguments, if it has one.
 void performNamed(QObject *object, const QString &name)
 {
     const QMetaObject *metaObject = object->metaObject();

@@ -24,8 +24,8 @@ RKTPPRBasePDEcorvel::Text LVCorvelMainPDE::panelKind() const
     return QStringLiteral(CORVEL_9031_BUNDLE_IDENTIFIER ".coloradjust");
 }
 
-// The tone settings come first here and last among the tags: this order is that of the defaults and the
-// summary, the other one is that of the controls.
+// The tone settings come first here and last among the tags: this is the order of the defaults and the
+// summary, the tags have that of the controls.
 QStringList LVCorvelMainPDE::supportedPPDOptionKeys()
 {
     if (!supportedPPDOptionKeys_) {

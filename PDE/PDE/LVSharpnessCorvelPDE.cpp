@@ -31,7 +31,8 @@ constexpr std::array<SharpnessCell, 4> sharpnessCells = {{
     {5, QLatin1String("3")},
 }};
 
-/// The bit of the tag that tells the intensity's slider (2) and field (82) from the radius's (1, 81).
+/// The tag's bit that distinguishes the intensity's slider (2) and field (82) from those of the radius (1,
+/// 81).
 constexpr int intensityBit = 2;
 
 bool isIntensity(const QWidget *control)
@@ -39,7 +40,7 @@ bool isIntensity(const QWidget *control)
     return (pdekit::tag(control) & intensityBit) != 0;
 }
 
-/// As printf(3) writes "%.2f", in the C locale whatever the user's is.
+/// Formats like "%.2f" of printf(3), in the C locale whatever the user's.
 QString withTwoDecimals(double value)
 {
     std::array<char, std::numeric_limits<double>::max_exponent10 + 8> text;
@@ -48,7 +49,7 @@ QString withTwoDecimals(double value)
     return QString::fromLatin1(text.data(), end - text.data());
 }
 
-/// Without what stands before the first and after the last digit or point: a sign, too.
+/// Removes everything before the first and after the last digit or point, including a sign.
 QStringView trimmedToNumber(QStringView text)
 {
     const auto isPartOfNumber = [](QChar c) {
@@ -145,7 +146,7 @@ void LVSharpnessCorvelPDE::controlTextDidEndEditing(QWidget *object)
     RKTPPRBasePDEcorvel::controlTextDidEndEditing(object);
     if (!object || !isIntensity(object))
         return;
-    // Single precision here and double on the slider's way: the two may round a third decimal differently.
+    // Single precision here and double for the slider: the two may round a third decimal differently.
     const double typed = pdekit::leadingDouble(pdekit::stringValue(object).value_or(QString()));
     pdekit::setStringValue(object, withTwoDecimals(singlePrecision(typed)));
     changePrinterSetting(object);

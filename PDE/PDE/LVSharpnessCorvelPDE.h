@@ -20,9 +20,9 @@ public:
     Text ppdChoiceForTag(int cellTag) const override;
     int tagForStringValue(const Text &value) const override;
 
-    /// A whole number, but for the intensity: its slider gives two decimals without a sign, its field the
-    /// text as it is typed.
+    /// An integer, except for the intensity: its slider gives two decimals without a sign, its field the text
+    /// as typed.
     Text newChoiceForSender(QWidget *sender) override;
-    /// Rewrites the intensity with two decimals, and offers it once more.
+    /// Rewrites the intensity with two decimals, and offers it again.
     void controlTextDidEndEditing(QWidget *object) override;
 };

@@ -3,8 +3,7 @@
 
 #pragma once
 
-// The panels read the dialog's PPD record. CUPS has deprecated its PPD interface without a successor for a
-// dialog that keeps a queue's PPD, so the warning is off in the sources that include this header, and nowhere
-// else.
+// The panels read the dialog's PPD record. CUPS deprecates its PPD interface without offering another way to
+// read a queue's PPD, so the warning is disabled in the sources that include this header, and nowhere else.
 #include <cups/ppd.h>
 #pragma GCC diagnostic ignored "-Wdeprecated-declarations"

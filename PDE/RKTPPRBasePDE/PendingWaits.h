@@ -6,9 +6,8 @@
 #include <cstdint>
 #include <vector>
 
-/// The waits of the backend runner, the innermost last, each with the number of passes of the event loop that
-/// it has made. A flood of standard-error events makes as many waits as there are events, nearly all of them
-/// alike: equal neighbours share one entry.
+/// The backend runner's waits, innermost last, each with its number of event-loop passes. Many standard-error
+/// events cause as many waits, nearly all of them equal, so equal neighbours share one entry.
 class PendingWaits
 {
 public:
@@ -17,10 +16,10 @@ public:
     bool isEmpty() const { return runs_.empty(); }
     void begin() { push(0); }
     void clear() { runs_.clear(); }
-    /// How many waits there have been: tells whether one has begun since.
+    /// How many waits have begun so far; comparing it shows whether another one has begun.
     std::uint64_t begun() const { return begun_; }
 
-    /// Counts a pass of the innermost wait. True when that was its last one: the wait is over then.
+    /// Counts a pass of the innermost wait. True when that was its last one, and the wait is over.
     bool endPass();
 
 private:

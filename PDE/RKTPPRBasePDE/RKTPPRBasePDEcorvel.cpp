@@ -47,8 +47,8 @@ void catchPIPE(int signal)
     pdekit::systemLogFromSignal(line.data(), length);
 }
 
-/// Makes `catchPIPE` the process's handler for SIGPIPE, so that a write to a child that has ended fails
-/// instead of ending the process. False: it could not be registered.
+/// Installs `catchPIPE` as the process's handler for SIGPIPE, so that a write to a child that has ended fails
+/// instead of ending the process. False: it could not be installed.
 bool registerPipeHandler()
 {
     pdekit::prepareSignalLog();

@@ -27,9 +27,8 @@ class PrintDialogCallback;
 class RadioMatrix;
 } // namespace pdekit
 
-/// The base of the plug-in's panels: all that they share of the dialog's protocol, of the road from a control
-/// to a recorded choice and back, and of the access to the print system. A concrete panel overrides hooks
-/// only.
+/// The base of the plug-in's panels: the shared parts of the dialog's protocol, of the path from a control to
+/// a recorded choice and back, and of the access to the print system. A concrete panel only overrides hooks.
 ///
 /// A panel works in one of two modes, fixed at construction. Constraint-handling mode: the dialog owns the
 /// PPD, marks choices in it and rules on each; the panel reads the marks and never writes the print settings.
@@ -37,9 +36,8 @@ class RadioMatrix;
 /// settings itself.
 ///
 /// Controls are found by tag: option controls 1, 2, 3, ...; the partner that shows the same value as control
-/// N at N ^ 80; the defaults button 16; the enabler check box 32. Where a control is asked for, null does
-/// nothing, and stands for no choice. What takes no argument can be called by its name (QMetaObject). Main
-/// thread only.
+/// N at N ^ 80; the defaults button 16; the enabler check box 32. A null control is allowed: it does nothing
+/// and has no choice. Members without arguments can be called by name (QMetaObject). Main thread only.
 class RKTPPRBasePDEcorvel : public pdekit::KeyValueObject,
                             public pdekit::PrintDialogPanel,
                             public pdekit::ChoiceReceiver
@@ -59,7 +57,7 @@ public:
     ~RKTPPRBasePDEcorvel() override;
     Q_DISABLE_COPY_MOVE(RKTPPRBasePDEcorvel)
 
-    /// A panel of the class over the dialog's callback object; null when no PPD can be had for the printer.
+    /// Makes a panel of the class for the dialog's callback object; null when the printer has no PPD.
     template <class Panel>
     static std::unique_ptr<Panel> make(const std::shared_ptr<QObject> &callback)
     {
@@ -69,13 +67,13 @@ public:
         return panel;
     }
 
-    /// Called once, right after construction. False: there is no PPD, and the panel is of no use.
+    /// Called once, right after construction. False: there is no PPD, and the panel cannot be used.
     virtual bool initWithCallback(const std::shared_ptr<QObject> &callback);
 
     // Print settings and PPD.
     /// The bytes of the printer's PPD file, without a terminating NUL.
     Q_INVOKABLE virtual std::optional<QByteArray> ppdDataCopy();
-    /// "usb://" as long as the printer's own is not known.
+    /// "usb://" while the printer's own URI is unknown.
     Q_INVOKABLE virtual QString printerDeviceURI();
 
     // Hooks and operations on a loaded view.
@@ -94,11 +92,11 @@ public:
     virtual void rejectChoiceForPPDOptionKeyFromSender(const Text &choice, const Text &key, QWidget *sender);
     virtual QString displayStringForValueForPPDOptionKey(const QString &value, const QString &key) const;
     /// True when a choice and a key were given and the print system did not refuse. A typed number that is
-    /// out of range is put back, and the answer is true all the same.
+    /// out of range is reverted, and the result is still true.
     bool markChoiceForPPDOptionKeyFromSender(const Text &choice, const Text &key, QWidget *sender) override;
 
     // From the recorded choices to the controls.
-    /// The tag of the radio cell that stands for the choice; 0 when none does.
+    /// The tag of the radio cell for the choice; 0 when there is none.
     virtual int tagForStringValue(const Text &value) const;
     Q_INVOKABLE bool shouldShowHelp() override;
     /// Non-zero enables the option controls.
@@ -111,7 +109,7 @@ public:
     // Actions.
     /// The hook for an immediate printer command; does nothing.
     Q_INVOKABLE virtual void sendPrinterCommand(QObject *sender);
-    /// The action of every control that stands for a printer setting.
+    /// The action of every control of a printer setting.
     Q_INVOKABLE virtual void changePrinterSetting(QObject *sender);
     /// The user has left the text field `object`.
     virtual void controlTextDidEndEditing(QWidget *object);
@@ -119,18 +117,18 @@ public:
     virtual void controlTextDidChange(QWidget *object);
 
     // The backend runner.
-    /// Interrupts the backend, a millisecond apart, until it ends, and lets go of it. For 5 seconds at most:
-    /// a backend that no interrupt ends would hold the dialog for ever. It is killed then, and the system log
-    /// says so.
+    /// Interrupts the backend every millisecond until it ends, and releases it. A backend that ignores
+    /// interrupts would block the dialog forever, so after 5 seconds it is killed, which is logged to the
+    /// system log.
     Q_INVOKABLE virtual void killCurrentTask();
     virtual void bytesAvailableForStreamIN(pdekit::InputStream *stream);
     virtual void streamINHandleEvent(pdekit::InputStream *stream, quintptr event);
-    /// Waits, within limits, for the completion of the command; the event loop runs meanwhile.
+    /// Waits, within limits, for the command's completion while the event loop runs.
     virtual void streamERRHandleEvent(pdekit::InputStream *stream, quintptr event);
-    /// The streams' delegate: on to the two above.
+    /// The streams' delegate: dispatches to the two above.
     virtual void streamHandleEvent(pdekit::InputStream *stream, quintptr event);
-    /// Starts the backend "velta" with the arguments, and writes the record's command to it. 0: done, or a
-    /// pipe was not to be had; 1: refused (no arguments, no executable backend); -1: another run is in
+    /// Starts the backend "velta" with the arguments, and writes the record's command to it. 0: done, or no
+    /// pipe could be created; 1: refused (no arguments, no executable backend); -1: another run is in
     /// progress. Throws PlatformException when the backend cannot be launched. `context` is required.
     virtual std::int32_t performTaskwithVeltaWithArgsAndContext(const std::optional<QStringList> &arguments,
                                                                 veltaTaskContext_s *context);
@@ -155,8 +153,8 @@ public:
     Q_INVOKABLE Text panelKind() const override;
     Q_INVOKABLE std::optional<Summary> summaryInfo() override;
 
-    // The road to the print settings of a dialog without constraint handling.
-    /// The print session's PPD record, which stays the session's; null when it cannot be had.
+    // The path to the print settings of a dialog without constraint handling.
+    /// The print session's PPD record, owned by the session; null when it is not available.
     Q_INVOKABLE virtual ppd_file_s *getPPDOnTiger();
     /// True writes the recorded choices to the print settings, false reads them from there.
     virtual void usePPDSettingsFromPrintSettingsOnTiger(bool write);
@@ -164,7 +162,7 @@ public:
     Q_INVOKABLE virtual void writePPDSettingsToPrintSettingsOnTiger();
 
 protected:
-    /// `tag`, or the tag of the option control whose partner it is.
+    /// `tag`, or the tag of the option control that it is the partner of.
     static int foldedTag(int tag) { return (tag & partnerBits) != 0 ? tag ^ partnerBits : tag; }
 
     /// The keyword of the choice marked in the PPD.
@@ -172,10 +170,10 @@ protected:
     Text recordedChoice(const Text &key) const;
     /// The choice of a radio group's selected cell, or that for the tag of any other control.
     Text cellChoice(QWidget *sender) const;
-    /// Selects the cell that stands for the choice.
+    /// Selects the cell for the choice.
     void selectCell(pdekit::RadioMatrix *matrix, const Text &value);
 
-    /// One pass of a wait: runs the event loop until one of the backend's streams tells something, or for a
+    /// One pass of a wait: runs the event loop until an event of one of the backend's streams, or for a
     /// second. False when there is no stream.
     virtual bool runEventLoopOnce();
     /// Sends the backend SIGINT, if it runs.
@@ -193,7 +191,7 @@ protected:
     bool waitForCommandCompletion_ = false; ///< from a launch to the first end of one of its streams
     Text deviceURI_;
     ppd_file_s *ppd_ = nullptr;                      ///< borrowed from the dialog or the session
-    std::unique_ptr<pdekit::ChildProcess> task_;     ///< the backend of this run or the last one
+    std::unique_ptr<pdekit::ChildProcess> task_;     ///< the backend of the current or the last run
     std::unique_ptr<pdekit::InputStream> streamIN_;  ///< the backend's standard output, until its end
     std::unique_ptr<pdekit::InputStream> streamERR_; ///< the backend's standard error, until its end
     QPointer<QWidget> PDEView_;

@@ -21,7 +21,7 @@ const QString loneMinus = QStringLiteral("-");
 
 } // namespace
 
-// The action: a control has been acted on
+// The action: the user has acted on a control
 
 void RKTPPRBasePDEcorvel::changePrinterSetting(QObject *object)
 {
@@ -80,7 +80,7 @@ RKTPPRBasePDEcorvel::Text RKTPPRBasePDEcorvel::cellChoice(QWidget *sender) const
                                   : pdekit::tag(sender));
 }
 
-// The choice's way into the record, or back to the control
+// From the choice to the record, or back to the control
 
 bool RKTPPRBasePDEcorvel::markChoiceForPPDOptionKeyFromSender(const Text &choice, const Text &key,
                                                               QWidget *sender)
@@ -91,7 +91,7 @@ bool RKTPPRBasePDEcorvel::markChoiceForPPDOptionKeyFromSender(const Text &choice
     }
     if (!validateChoiceForPPDOptionKeyFromSender(*choice, *key, sender)) {
         rejectChoiceForPPDOptionKeyFromSender(choice, key, sender);
-        return true; // a choice and a key were given; the answer says no more than that
+        return true; // the result only means that a choice and a key were given
     }
     if (useConstraintHandling_ && !offerToPrintSystem(*choice, *key, sender))
         return false;
@@ -107,8 +107,8 @@ bool RKTPPRBasePDEcorvel::validateChoiceForPPDOptionKeyFromSender(const QString 
     if (!sender || !pdekit::isTextField(sender))
         return true;
     const double value = pdekit::leadingDouble(choice);
-    // A field without a slider beside it has the empty range around 0. Tick marks set no limit: a value
-    // between two of them is taken as it is.
+    // A field without a slider beside it has the empty range at 0. Tick marks are not a limit: a value
+    // between two of them is used unchanged.
     const QWidget *slider = pdekit::viewWithTag(sender->parentWidget(), foldedTag(pdekit::tag(sender)));
     const double maximum = slider ? pdekit::maxValue(slider).value_or(0.0) : 0.0;
     const double minimum = slider ? pdekit::minValue(slider).value_or(0.0) : 0.0;

@@ -94,7 +94,7 @@ void RKTPPRBasePDEcorvel::updateUI()
     QWidget *view = panelView();
     if (!view)
         return;
-    // Two runs of tags without a gap: the option controls from 1, then those from the enabler on.
+    // Two contiguous ranges of tags: the option controls from 1, then those from the enabler.
     bool atEnabler = false;
     for (int tag = 1;; ++tag) {
         QWidget *control = pdekit::viewWithTag(view, tag);
@@ -121,7 +121,7 @@ void RKTPPRBasePDEcorvel::setControlsEnabledByToggle(QWidget *enabler)
             view->setEnabled(enabled);
             continue;
         }
-        // The tag after the gap decides whether the partners follow: not when it has one of their bits.
+        // The first tag after the gap decides whether the partners follow: not when it has one of their bits.
         if ((tag & partnerBits) != 0 || atPartners)
             return;
         atPartners = true;

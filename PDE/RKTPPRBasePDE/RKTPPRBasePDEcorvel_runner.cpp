@@ -31,7 +31,7 @@ constexpr bool writesCommand = true;
 constexpr bool writesCommand = false;
 #endif
 
-constexpr useconds_t launchPause = 10'000; // microseconds, for the child to come up
+constexpr useconds_t launchPause = 10'000; // microseconds, for the child to start
 const QString backendName = QStringLiteral("velta");
 
 QString parentFolder(const QString &path)
@@ -39,7 +39,7 @@ QString parentFolder(const QString &path)
     return QFileInfo(path).path();
 }
 
-/// The bundle's own backend, or that of the installation that the bundle stands in.
+/// The bundle's own backend, or that of the installation that contains the bundle.
 QString backendPath(const pdekit::Bundle &bundle)
 {
     if (const auto own = bundle.pathForAuxiliaryExecutable(backendName))
@@ -54,7 +54,7 @@ bool isExecutableFile(const QString &path)
     return file.isFile() && file.isExecutable();
 }
 
-/// Writes all of it. Throws PlatformException when the reader has gone or the system fails.
+/// Writes all bytes. Throws PlatformException when the reader has closed its end or on a system error.
 void writeData(const pdekit::FileDescriptor &descriptor, const char *data, std::size_t length)
 {
     while (length > 0) {
@@ -68,7 +68,7 @@ void writeData(const pdekit::FileDescriptor &descriptor, const char *data, std::
     }
 }
 
-/// A stream with a descriptor of its own on the pipe.
+/// Opens a stream with a separate descriptor for the pipe.
 std::unique_ptr<InputStream> openStream(const pdekit::FileDescriptor &reading)
 {
     auto stream = std::make_unique<InputStream>(QStringLiteral("/dev/fd/%1").arg(reading.number()));
@@ -89,7 +89,7 @@ void writeCommand(const pdekit::FileDescriptor &standardInput, const veltaTaskCo
     try {
         writeData(standardInput, context.command, static_cast<std::size_t>(length));
     } catch (const pdekit::PlatformException &) {
-        // A backend that does not read its command says so itself, on its standard error.
+        // A backend that does not read its command reports that on its standard error.
     }
 }
 
@@ -130,7 +130,7 @@ RKTPPRBasePDEcorvel::performTaskwithVeltaWithArgsAndContext(const std::optional<
     std::optional<Pipe> outputPipe = Pipe::make();
     const bool wantsInput = context->commandLength != 0;
     std::optional<Pipe> inputPipe = wantsInput ? Pipe::make() : std::nullopt;
-    // The child of an earlier run may still be at work, with its streams closed.
+    // The child of an earlier run may still be running, with its streams closed.
     ChildProcess::leaveToItself(std::exchange(task_, std::make_unique<ChildProcess>()));
     if (!outputPipe || (wantsInput && !inputPipe))
         return runDone;

@@ -22,7 +22,7 @@ constexpr std::size_t readSize = 1024;       // bytes, at most, of one event
 constexpr useconds_t interruptPause = 1'000; // microseconds
 constexpr std::chrono::milliseconds longestPass(1000);
 
-/// Ends a stream that may be telling just that.
+/// Closes and deletes a stream that may be in the middle of emitting an event.
 void closeAndRelease(std::unique_ptr<InputStream> &stream)
 {
     if (!stream)
@@ -78,20 +78,20 @@ void RKTPPRBasePDEcorvel::streamERRHandleEvent(InputStream *stream, quintptr eve
     waitForCompletion();
 }
 
-// The first end of either stream. The waits end at once, not when the driver below looks next: within the
-// same turn of the event loop somebody may launch the next command, whose waits are not these.
+// Called at the first end of either stream. The waits end at once, not at the driver's next check below:
+// within the same turn of the event loop the next command may be launched, whose waits are different ones.
 void RKTPPRBasePDEcorvel::completeCommand()
 {
     waitForCommandCompletion_ = false;
     pendingWaits_.clear();
 }
 
-// Each standard-error event waits for the command's completion in a loop of its own: at most 11 passes of the
-// event loop, each until a stream tells something or a second is over. Events that come meanwhile begin waits
-// inside this one. Were they nested on the stack, a backend that writes a line every microsecond would
-// overflow it, so the waits that have begun are kept in a container, and the handler that began the first of
-// them drives all: the innermost makes its passes; when it is over, the pass of the one around it is, too.
-// Order, limits, log and interrupts are those of plain nesting.
+// Each standard-error event waits for the command's completion in a loop: at most 11 passes of the event
+// loop, each until a stream event or for a second. Events that arrive meanwhile begin waits inside this one.
+// Nested on the stack, a backend that writes a line every microsecond would overflow it. So the pending waits
+// are kept in a container, and the handler of the first one drives all of them: the innermost makes its
+// passes, and when it is over, so is the current pass of the one around it. Order, limits, log and interrupts
+// are those of plain nesting.
 void RKTPPRBasePDEcorvel::waitForCompletion()
 {
     if (!waitForCommandCompletion_)
@@ -105,11 +105,11 @@ void RKTPPRBasePDEcorvel::waitForCompletion()
         const std::uint64_t begunBefore = pendingWaits_.begun();
         const bool hasRun = runEventLoopOnce();
         if (!self)
-            return; // the panel went during the pass
+            return; // the panel was destroyed during the pass
         if (!waitForCommandCompletion_ || !hasRun)
             pendingWaits_.clear();
         if (pendingWaits_.begun() != begunBefore)
-            continue; // the innermost goes first
+            continue; // the new innermost wait comes first
         while (!pendingWaits_.isEmpty() && pendingWaits_.endPass()) {
             interruptBackend();
             interruptBackend();
@@ -118,8 +118,7 @@ void RKTPPRBasePDEcorvel::waitForCompletion()
     isDrivingWaits_ = false;
 }
 
-// False when there is nothing that could tell anything. What the user does meanwhile waits: it could lead
-// back here.
+// False when there is no stream. User input is held back meanwhile, since it could lead back here.
 bool RKTPPRBasePDEcorvel::runEventLoopOnce()
 {
     if (!streamIN_ && !streamERR_)

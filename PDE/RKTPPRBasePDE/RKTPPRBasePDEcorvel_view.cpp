@@ -16,7 +16,7 @@ namespace {
 
 constexpr int firstTextFieldTag = 80;
 
-/// The text that the strings table has for `text`, when it has one that differs.
+/// The strings table's text for `text`, if it has a different one.
 std::optional<QString> translation(const pdekit::Bundle &bundle, const QString &text)
 {
     QString localized = bundle.localizedString(text);
@@ -30,7 +30,7 @@ std::optional<QString> toolTipTranslation(const pdekit::Bundle &bundle, const QS
     return toolTip.isEmpty() ? std::nullopt : translation(bundle, toolTip);
 }
 
-/// A radio cell has no tool tip of its own: the one that shows is kept by its matrix.
+/// A radio cell has no tool tip: the visible one belongs to its matrix.
 bool isCell(const QWidget *view)
 {
     return qobject_cast<const QAbstractButton *>(view) &&
@@ -59,7 +59,7 @@ bool localizeOwnText(QWidget *view, const pdekit::Bundle &bundle)
     return false;
 }
 
-/// White at any theme, and text that can be read on it.
+/// White in any theme, with a readable text colour.
 void paperWhite(QWidget *field)
 {
     QPalette palette = field->palette();
@@ -82,7 +82,7 @@ bool RKTPPRBasePDEcorvel::localizeStringsInViewAndSubviewsResizeTofit(QWidget *v
         auto *matrix = qobject_cast<pdekit::RadioMatrix *>(view);
         const QList<QWidget *> children = childrenOf(view);
         for (QWidget *child : children) {
-            // The last child decides, not any of them: a container is as changed as its last child.
+            // Only the last child counts: a container's result is that of its last child.
             changed = localizeStringsInViewAndSubviewsResizeTofit(child, true, resize);
             auto *cell = matrix ? qobject_cast<QAbstractButton *>(child) : nullptr;
             if (!cell)

@@ -5,7 +5,7 @@
 
 #include "RKTPPRBasePDEcorvel.h"
 
-/// The base of panels whose option controls are all radio groups: every other control is left alone.
+/// The base of panels whose option controls are all radio groups; other controls are ignored.
 class RKTPPRMatrixPDEcorvel : public RKTPPRBasePDEcorvel
 {
     Q_OBJECT
@@ -13,6 +13,6 @@ class RKTPPRMatrixPDEcorvel : public RKTPPRBasePDEcorvel
 public:
     void updateControlWithValue(QWidget *control, const Text &value) override;
     Text newChoiceForSender(QWidget *sender) override;
-    /// Sets an empty tool tip, whatever is given.
+    /// Sets an empty tool tip, whatever the argument.
     void setToolTipFromSender(const QString &toolTip, QWidget *sender) override;
 };

@@ -25,7 +25,7 @@ void release(GBytes *&data)
         g_bytes_unref(std::exchange(data, nullptr));
 }
 
-/// As strlcpy(3), which this C library does not have yet: always ends with a NUL, and answers the source's
+/// Like strlcpy(3), which this C library does not have yet: always appends a NUL, and returns the source's
 /// length.
 template <std::size_t size>
 std::size_t copyBounded(char (&destination)[size], const char *source)

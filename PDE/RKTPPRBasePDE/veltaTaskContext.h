@@ -11,7 +11,7 @@
 #include <type_traits>
 
 /// One command for the printer's backend. The caller owns the record and its storage. The order and the
-/// widths of the fields are an interface.
+/// widths of the fields are part of the interface.
 struct veltaTaskContext_s
 {
     GRefString
@@ -44,13 +44,13 @@ static_assert(offsetof(veltaTaskContext_s, deviceURIBuffer) == 4 * sizeof(void *
 
 extern "C" {
 
-/// Prepares a record whose storage the caller provides. Whatever its fields held is overwritten, not
+/// Initializes a record in the caller's storage. Earlier contents of its fields are overwritten, not
 /// released.
 Q_DECL_EXPORT void initializeVeltaContext(veltaTaskContext_s *context);
 
 /// Drops the data of the previous command; a null pointer does nothing.
 Q_DECL_EXPORT void clearVeltaContextData(veltaTaskContext_s *context);
 
-/// Releases what the record owns; the record itself stays the caller's.
+/// Releases the data that the record owns, but not the record itself.
 Q_DECL_EXPORT void destroyVeltaJobContext(veltaTaskContext_s *context);
 }

@@ -96,7 +96,7 @@ ppd_file_s *OptionPanel::Private::ppd() const
     return record;
 }
 
-/// The PPD's choice that the text stands for: its keyword, or the same number. Null when there is none.
+/// The PPD's choice for the text: by keyword, or as the same number. Null when there is none.
 const ppd_choice_t *OptionPanel::Private::choice(const QString &key, const QString &text) const
 {
     ppd_option_t *found = option(key);
@@ -182,8 +182,8 @@ void OptionPanel::Private::prepareView(OptionPanel *panel)
     panel->showChoices();
 }
 
-/// What is a choice counts while it is typed; what is none may be the beginning of one, until the field is
-/// left.
+/// A typed text that is a choice applies at once. Any other text may be the beginning of one until the field
+/// is left.
 void OptionPanel::Private::follow(QLineEdit *field, const QString &key, OptionPanel *panel)
 {
     auto *events = TextFieldEvents::attach(field);
@@ -266,8 +266,8 @@ bool OptionPanel::markChoiceForPPDOptionKeyFromSender(const std::optional<QStrin
 {
     bool isMade = choice && key && supportedPPDOptionKeys().contains(*key);
     if (isMade) {
-        // The PPD's own spelling where it has the choice; else the dialog is asked all the same, and says why
-        // not.
+        // Uses the PPD's spelling if it has the choice. Otherwise the dialog is still asked, so that it
+        // explains the refusal.
         const ppd_choice_t *known = d_->choice(*key, *choice);
         const QString keyword = known ? QString::fromUtf8(known->choice) : *choice;
         ConstraintHandling *ruler = d_->ruler();

@@ -16,14 +16,14 @@
 
 namespace pdekit {
 
-/// A page of controls for PPD options, told by a table which is for which: restore, save, defaults, summary
-/// and a program's choices come with it, both where the dialog rules on choices (ConstraintHandling) and
-/// where the panel keeps them until it is saved. It can be used as it is; a subclass overrides what its page
-/// does otherwise.
+/// A page of controls for PPD options, which a table assigns to each other. It implements restore, save,
+/// defaults, summary and a program's choices, both when the dialog rules on choices (ConstraintHandling) and
+/// when the panel keeps them until it is saved. Usable without subclassing; a subclass overrides what its
+/// page does differently.
 ///
 /// The form's controls name their action in the property `action`: "choose", and "chooseDefaults" for a
-/// button that chooses the PPD's defaults. A text field needs none. Button titles, labels and tool tips of
-/// the form are keys of the bundle's strings table, as are the page's name and the texts of the PPD. Main
+/// button that chooses the PPD's defaults. A text field needs no action. Button titles, labels and tool tips
+/// of the form are keys of the bundle's strings table, as are the page's name and the texts of the PPD. Main
 /// thread only.
 class PDEKIT_EXPORT OptionPanel : public KeyValueObject, public PrintDialogPanel, public ChoiceReceiver
 {
@@ -42,7 +42,7 @@ public:
     {
         int tag;                       ///< of the control
         QString key;                   ///< the option's keyword
-        QMap<int, QString> cells = {}; ///< of a radio group: the choice for each cell's tag
+        QMap<int, QString> cells = {}; ///< for a radio group: the choice of each cell's tag
     };
 
     struct Page
@@ -53,19 +53,19 @@ public:
         QList<Control> controls; ///< in the order of the summary
     };
 
-    /// @param hostInfo as the plug-in got it from the dialog
+    /// @param hostInfo as the dialog passed it to the plug-in
     OptionPanel(const Bundle &bundle, const HostInfo &hostInfo, const Page &page);
     ~OptionPanel() override;
 
-    /// The user's choice of the control. One that is refused beeps, and the control shows the choice before
-    /// it.
+    /// Handles the user's choice in the control. If it is refused, beeps, and the control shows the previous
+    /// choice.
     Q_INVOKABLE void choose(QObject *control);
     Q_INVOKABLE void chooseDefaults(QObject *button);
 
     std::optional<QString> panelName() override;
     std::optional<QString> panelKind() const override;
     QWidget *panelView() override;
-    /// Fails without a PPD, and where choices are kept in print settings without those.
+    /// Fails without a PPD, or without print settings when the choices are stored there.
     bool restoreValuesAndReturnError(QString *error) override;
     bool saveValuesAndReturnError(QString *error) override;
     void willShow() override;
@@ -81,9 +81,9 @@ public:
 
 protected:
     const Bundle &bundle() const;
-    /// The keyword of the option's present choice; empty when there is none.
+    /// The keyword of the option's current choice; empty when there is none.
     QString choice(const QString &key) const;
-    /// Makes the view's controls show the present choices.
+    /// Makes the view's controls show the current choices.
     void showChoices();
 
 private:

@@ -12,8 +12,8 @@ class QWidget;
 
 namespace pdekit {
 
-/// The optional ability of a panel: to take a choice that comes from a program, such as a command line, by
-/// the road that the user's choices take.
+/// An optional interface of a panel: receives a choice from a program, such as the command line, and handles
+/// it like one of the user's.
 class ChoiceReceiver
 {
 public:

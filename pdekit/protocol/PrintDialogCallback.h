@@ -12,9 +12,9 @@ namespace pdekit {
 class Printer;
 class PrintSession;
 
-/// What a panel may ask of the dialog. The dialog hands a panel one QObject, the callback object, that
-/// implements this interface and, when the dialog keeps the PPD's constraints itself, ConstraintHandling too.
-/// Everything it hands out stays the dialog's, and may be null when there is none.
+/// What a panel can request from the dialog. The dialog passes a panel one QObject, the callback object, that
+/// implements this interface and, if the dialog checks the PPD's constraints itself, also ConstraintHandling.
+/// Everything that it returns is owned by the dialog, and may be null.
 class PrintDialogCallback
 {
 public:
@@ -22,18 +22,19 @@ public:
 
     virtual PrintSession *printSession() = 0;
     virtual Printer *PMPrinter() = 0;
-    /// The libcups record in which the dialog keeps the marked choices.
+    /// The libcups record that holds the marked choices.
     virtual ppd_file_s *ppdFile() = 0;
 };
 
-/// The optional ability of a callback object: the dialog owns the PPD's marks and rules on each choice. A
-/// panel asks for it once (qobject_cast), and works without it through the print settings.
+/// An optional interface of a callback object: the dialog owns the PPD's marks and rules on each choice. A
+/// panel checks for it once (qobject_cast); without it, it works through the print settings.
 class ConstraintHandling
 {
 public:
     virtual ~ConstraintHandling() = default;
 
-    /// Offers a choice. True: the choice is the job's now. False: it is refused, and the PPD is as it was.
+    /// Offers a choice. True: the choice now applies to the job. False: it is refused, and the PPD is
+    /// unchanged.
     virtual bool willChangePPDOptionKeyValuePpdChoice(const QString &key, const QString &choice) = 0;
 };
 

@@ -20,8 +20,8 @@ namespace pdekit {
 /// 1. `panelName`, `panelKind`, `supportedPPDOptionKeys`, once each. The answers hold as long as the panel.
 /// 2. `restoreValuesAndReturnError`: the job's choices, before anything is asked about them. Choices kept
 ///    from an earlier time follow by 5, those of the command line by ChoiceReceiver where the panel is one.
-/// 3. `panelView` when the page is first to be seen, and `willShow` then, once. A run without a window asks
-///    for neither.
+/// 3. `panelView` when the page is first shown, followed by `willShow`, once. A run without a window calls
+///    neither.
 /// 4. From then on, any number of times: `summaryInfo`; `shouldShowHelp`; `shouldHide` before another page
 ///    or another printer takes the page's place, before it prints, and before the window closes; in a dialog
 ///    without ConstraintHandling, `saveValuesAndReturnError` after each act of the user's.
@@ -29,45 +29,45 @@ namespace pdekit {
 ///    there are several, `PPDOptionKeyValueDidChangePpdChoice` for each, `restoreValuesAndReturnError`.
 /// 6. For a job, or a preset to be saved: `saveValuesAndReturnError`, then `summaryInfo`.
 ///
-/// A panel that throws anything, in these calls or in an action of its form, is called no more: its page is
-/// closed, and the user is told with the exception's what(). Its choices are missing then, which Print says.
+/// A panel that throws, in these calls or in an action of its form, is not called again. Its page is closed,
+/// and the user sees the exception's what(). Its choices are then missing, which Print reports.
 class PrintDialogPanel
 {
 public:
-    /// Localised name of an option to localised text of its choice.
+    /// Localized name of an option to localized text of its choice.
     using Summary = QMap<QString, QString>;
 
     virtual ~PrintDialogPanel() = default;
 
-    /// The name to show the user, localised.
+    /// The name shown to the user, localized.
     virtual std::optional<QString> panelName() = 0;
-    /// A reverse-DNS name that tells this panel from every other.
+    /// A reverse-DNS name that identifies the panel uniquely.
     virtual std::optional<QString> panelKind() const = 0;
-    /// The panel's view, made on the first call; null when it has none or it cannot be loaded. It goes with
-    /// the panel, or with the widget that the dialog makes its parent, whichever goes first.
+    /// The panel's view, made on the first call; null when it has none or it cannot be loaded. It is deleted
+    /// with the panel, or with the parent that the dialog gives it, whichever comes first.
     virtual QWidget *panelView() = 0;
 
-    /// Takes over the job's current choices. False: it cannot, and `error` (which may be null) gets the
+    /// Adopts the job's current choices. False: it failed, and `error` (which may be null) receives the
     /// reason, a clause for people such as "the disk is full".
     virtual bool restoreValuesAndReturnError(QString *error) = 0;
-    /// Puts the panel's choices into the job's print settings. False as above: the user is asked whether to
-    /// print without them.
+    /// Writes the panel's choices to the job's print settings. False: as above, and the user is asked whether
+    /// to print without them.
     virtual bool saveValuesAndReturnError(QString *error) = 0;
 
     virtual void willShow() = 0;
-    /// False keeps the panel on the screen. The panel itself says what has to be done first. The user can
-    /// close the window all the same.
+    /// False keeps the panel on the screen; the panel itself says what has to be done first. The user can
+    /// still close the window.
     virtual bool shouldHide() = 0;
 
     /// The panel's entries for the dialog's summary of the job.
     virtual std::optional<Summary> summaryInfo() = 0;
     /// The keywords of the PPD options that the panel handles, in its own order.
     virtual QStringList supportedPPDOptionKeys() = 0;
-    /// Tells the panel that the dialog has changed the choice of an option.
+    /// Notifies the panel that the dialog has changed the choice of an option.
     virtual void PPDOptionKeyValueDidChangePpdChoice(const std::optional<QString> &key,
                                                      const std::optional<QString> &choice) = 0;
 
-    /// False when the panel has opened its own help; true asks the dialog for help of the dialog's.
+    /// False when the panel has opened its own help; true asks the dialog to show the dialog's help.
     virtual bool shouldShowHelp() = 0;
 };
 

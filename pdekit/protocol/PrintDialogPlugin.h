@@ -15,14 +15,14 @@ namespace pdekit {
 
 class Bundle;
 
-/// A panel as a factory hands it over: the receiver owns it.
+/// A panel made by a factory; the receiver owns it.
 using PanelPointer = std::unique_ptr<PrintDialogPanel>;
 using PanelList = std::vector<PanelPointer>;
 
-/// The dialog's callback object; the panels that are made from it share its ownership.
+/// The dialog's callback object; panels made from it share its ownership.
 using HostInfo = std::shared_ptr<QObject>;
 
-/// The type identifier under which a print dialog asks a printer's own plug-in for panels.
+/// The type identifier with which a print dialog requests panels from a printer's own plug-in.
 inline constexpr char PrinterPanelsType[] = "BDB091F4-E57F-11D3-B5CC-0050E4603277";
 
 /// The principal class of a plug-in bundle: the root object of its Qt plug-in (QPluginLoader::instance).
@@ -33,8 +33,8 @@ public:
 
     /// Called once, first. False: this is not the bundle that the plug-in was built for.
     virtual bool initWithBundle(const Bundle &bundle) = 0;
-    /// The panels for a dialog of `type`, in the order in which to show them; nothing for a type that the
-    /// plug-in does not know.
+    /// The panels for a dialog of `type`, in display order; nothing for a type that the plug-in does not
+    /// know.
     virtual std::optional<PanelList> PDEPanelsForTypeWithHostInfo(const QString &type,
                                                                   const HostInfo &hostInfo) = 0;
 };

@@ -27,7 +27,8 @@ public:
     virtual ~PrintTicket() = default;
 
     /// Writes to `dictionary` the ticket's PPD options at the node (0, 0 is its top level). The dictionary
-    /// belongs to the ticket and is changed in place. Leaves `dictionary` alone when the status is not noErr.
+    /// belongs to the ticket and is changed in place. Does not change `dictionary` when the status is not
+    /// noErr.
     virtual Status PMTicketGetPPDDict(int firstNode, int secondNode, PPDDictionary **dictionary) = 0;
 };
 

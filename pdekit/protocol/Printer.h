@@ -13,16 +13,16 @@
 
 namespace pdekit {
 
-/// The kind of description that PMPrinterCopyDescriptionURL is asked for.
+/// The type of description to pass to PMPrinterCopyDescriptionURL.
 inline constexpr char PMPPDDescriptionType[] = "PMPPDDescriptionType";
 
-/// The printer that the dialog prints to. Implemented by the dialog; valid while its callback object is.
+/// The printer that the dialog prints to. Implemented by the dialog; valid as long as its callback object.
 class Printer
 {
 public:
     virtual ~Printer() = default;
 
-    /// Where the printer's description of `type` can be had; nothing when the printer has none.
+    /// The URL of the printer's description of `type`; nothing when the printer has none.
     virtual std::optional<QUrl> PMPrinterCopyDescriptionURL(const QString &type) = 0;
     /// The bytes of the PPD file (PPD 4.3) at `url`, without a terminating NUL; nothing when it cannot be
     /// read.

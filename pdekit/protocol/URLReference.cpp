@@ -10,7 +10,7 @@ namespace pdekit {
 
 namespace {
 
-/// What a reference is made of, each part with its delimiter; null when it has none.
+/// The parts of a reference, each with its delimiter; null when it is missing.
 struct Parts
 {
     QString scheme;
@@ -42,7 +42,7 @@ QString withoutDots(const QString &path)
             kept += segment;
             continue;
         }
-        // The empty segment before the first slash is the root, above which there is nothing.
+        // The empty segment before the first slash is the root, which has no parent.
         if (segment.size() == 2 && (kept.size() > 1 || (kept.size() == 1 && !kept.constFirst().isEmpty())))
             kept.removeLast();
         if (i == segments.size() - 1)
@@ -51,7 +51,7 @@ QString withoutDots(const QString &path)
     return kept.join(u'/');
 }
 
-/// The reference's path in the place of all that follows the base's last slash.
+/// The reference's path in place of everything after the base's last slash.
 QString mergedPath(const Parts &base, const QString &path)
 {
     if (!base.authority.isNull() && base.path.isEmpty())

@@ -12,8 +12,8 @@
 
 namespace pdekit {
 
-/// A URL as a print system hands it out: possibly relative to a base. It is kept as text, since QUrl refuses
-/// or rewrites what device URIs are made of: upper case and "%20" in the place of the host.
+/// A URL as a print system hands it out: possibly relative to a base. It is stored as text, since QUrl
+/// refuses or rewrites parts of device URIs: upper case and "%20" in the host.
 struct PDEKIT_EXPORT URLReference
 {
     explicit URLReference(const QString &reference, const std::optional<QString> &baseText = std::nullopt)
@@ -32,8 +32,8 @@ struct PDEKIT_EXPORT URLReference
     QString text;
     std::optional<QString> base; ///< of a relative reference
 
-    /// The URL made absolute where it is relative to a base (RFC 3986, 5.2), and as it is otherwise. Letter
-    /// case and escapes stay as they are.
+    /// The URL, resolved against its base if it has one (RFC 3986, 5.2). Letter case and escapes are
+    /// unchanged.
     QString absolute() const;
 };
 

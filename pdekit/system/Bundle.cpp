@@ -35,14 +35,14 @@ bool isPlainFileName(const QString &name)
            !name.contains(QChar::Null);
 }
 
-/// The file of the module, or of the program, that `address` lies in.
+/// The file of the module or program that contains `address`.
 QString moduleOf(const void *address)
 {
     Dl_info module = {};
     if (dladdr(address, &module) == 0 || !module.dli_fname)
         return {};
     const QString file = QFile::decodeName(module.dli_fname);
-    // The dynamic linker knows the program itself only by the name under which it was started.
+    // For the program itself, the dynamic linker only has the name that it was started with.
     return QDir::isAbsolutePath(file) ? file : QCoreApplication::applicationFilePath();
 }
 
@@ -68,7 +68,7 @@ std::optional<QJsonObject> readInfo(const QString &bundlePath, BundleFault &faul
     return std::nullopt;
 }
 
-/// The first table that there is, each language with its territory before it is without.
+/// Loads the first table that exists; each language is tried with its territory first.
 void loadTable(QTranslator &table, const QString &folder)
 {
     const QStringList languages = QLocale().uiLanguages() << QStringLiteral("en");

@@ -31,14 +31,14 @@ enum class BundleFault {
 ///     NAME.bundle/Contents/Linux/                the module and auxiliary executables
 ///     NAME.bundle/Contents/Resources/            forms, help books, Localizable_<language>.qm
 ///
-/// A value; copies share what they hold. Main thread only.
+/// A value; copies share their data. Main thread only.
 class PDEKIT_EXPORT Bundle
 {
 public:
-    /// The bundle at `path`. Where there is none, nothing, with the reason in `fault` unless it is null.
+    /// The bundle at `path`; nothing when there is none, with the reason in `fault` unless that is null.
     static std::optional<Bundle> open(const QString &path, BundleFault *fault = nullptr);
-    /// The bundle of the module or program that holds the class; when that stands in none, an empty bundle
-    /// with the folder of that file as its path.
+    /// The bundle of the module or program that contains the class; when that is not in a bundle, an empty
+    /// bundle with that file's folder as its path.
     static Bundle bundleForClass(const QMetaObject &metaObject);
 
     /// Absolute.
@@ -49,14 +49,14 @@ public:
 
     /// The absolute path of the bundle's module; the file need not exist.
     QString executablePath() const;
-    /// The file `name` that lies beside the module; whether it can be executed is not looked at.
+    /// The file `name` beside the module; not checked to be executable.
     std::optional<QString> pathForAuxiliaryExecutable(const QString &name) const;
-    /// The resource `name`.`type`; the name may lead into folders.
+    /// The path of the resource `name`.`type`; the name may include folders.
     std::optional<QString> pathForResource(const QString &name, const QString &type) const;
 
     /// The text for `key` in the strings table (Qt Linguist, context "Localizable") of the first of the
-    /// user's languages that the bundle has, else in the English one. Without an entry: `value`, or, when
-    /// that is empty, the key itself.
+    /// user's languages that the bundle has, else of English. Without an entry: `value`, or, when that is
+    /// empty, the key itself.
     QString localizedString(const QString &key, const QString &value = QString()) const;
 
 private:

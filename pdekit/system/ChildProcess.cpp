@@ -29,7 +29,7 @@ constexpr std::chrono::milliseconds destructorPatience(500);
 constexpr std::chrono::milliseconds killPatience(500);
 constexpr std::chrono::milliseconds endPollInterval(50);
 
-/// Owner of what posix_spawn(3) takes.
+/// Owns the arguments of posix_spawn(3).
 class SpawnSettings
 {
 public:
@@ -66,7 +66,7 @@ private:
     posix_spawnattr_t attributes_;
 };
 
-/// Children that nobody owns any more, until they end.
+/// Children without an owner, until they end.
 std::vector<std::unique_ptr<ChildProcess>> &leftToThemselves()
 {
     static std::vector<std::unique_ptr<ChildProcess>> children;
@@ -80,7 +80,7 @@ ChildProcess::ChildProcess() = default;
 ChildProcess::~ChildProcess()
 {
     if (isLeftToItself_)
-        return; // the process ends; whoever comes after it reaps the child
+        return; // this process is ending; init reaps the child
     takeDown(destructorPatience);
 }
 
@@ -116,7 +116,7 @@ void ChildProcess::launch()
 void ChildProcess::watchForEnd()
 {
     if (!QCoreApplication::instance())
-        return; // the child is reaped when it is asked for
+        return; // the child is reaped at the next query
     // By its number, since the C library declares the call without C linkage.
     pidDescriptor_ = FileDescriptor(static_cast<int>(syscall(SYS_pidfd_open, pid_, 0)));
     if (pidDescriptor_.isOpen()) {
@@ -125,7 +125,7 @@ void ChildProcess::watchForEnd()
         endWatcher_ = std::move(notifier);
         return;
     }
-    // No descriptor left, or a kernel or sandbox that knows no such call.
+    // No descriptor is left, or the kernel or a sandbox does not support the call: poll instead.
     auto timer = std::make_unique<QTimer>();
     QObject::connect(timer.get(), &QTimer::timeout, timer.get(), [this] { noteEnd(); });
     timer->start(endPollInterval);
@@ -178,7 +178,7 @@ void ChildProcess::takeDown(std::chrono::milliseconds patience)
     kill(pid_, SIGKILL);
     if (endsWithin(killPatience))
         return;
-    // The kernel holds it, in a device that does not answer: it is reaped when that is over.
+    // The kernel still holds the child, for example in a device that does not answer: reap it later.
     auto held = std::make_unique<ChildProcess>();
     held->pid_ = std::exchange(pid_, -1);
     stopWatching();
@@ -186,7 +186,7 @@ void ChildProcess::takeDown(std::chrono::milliseconds patience)
     leaveToItself(std::move(held));
 }
 
-// The watcher may be the one that is just telling us.
+// The watcher may be the sender of the current signal.
 void ChildProcess::stopWatching()
 {
     if (auto *notifier = qobject_cast<QSocketNotifier *>(endWatcher_.get()))

@@ -17,9 +17,9 @@ class QObject;
 
 namespace pdekit {
 
-/// A child process. It starts with default signal dispositions, an empty signal mask, and no descriptors but
-/// its three standard ones. It is reaped as soon as it ends, or with this object, which takes it down within
-/// a bounded time when it still runs. Main thread only.
+/// A child process. It starts with default signal dispositions, an empty signal mask, and only its three
+/// standard descriptors. It is reaped as soon as it ends. The destructor ends a running child within a
+/// bounded time. Main thread only.
 class PDEKIT_EXPORT ChildProcess
 {
 public:
@@ -29,8 +29,7 @@ public:
 
     void setLaunchPath(const QString &path) { path_ = path; }
     void setArguments(const QStringList &arguments) { arguments_ = arguments; }
-    /// The descriptors that become the child's; those not set are inherited. Closed here once the child has
-    /// them.
+    /// The child's descriptors; those not set are inherited. They are closed here once the child has them.
     void setStandardInput(FileDescriptor descriptor) { standardInput_ = std::move(descriptor); }
     void setStandardOutput(FileDescriptor descriptor) { standardOutput_ = std::move(descriptor); }
     void setStandardError(FileDescriptor descriptor) { standardError_ = std::move(descriptor); }
@@ -40,12 +39,12 @@ public:
     bool isRunning();
     /// Sends SIGINT, if the child runs.
     void interrupt();
-    /// Interrupts the child, waits for its end, and kills it when that does not come in time. One that not
-    /// even that ends at once (the kernel waits for a device) is reaped later.
+    /// Interrupts the child, waits for it to end, and kills it when it does not end in time. If even that
+    /// does not end it at once (the kernel waits for a device), it is reaped later.
     void takeDown(std::chrono::milliseconds patience);
     pid_t processIdentifier() const { return pid_; }
 
-    /// Lets the child go on without an owner; it is reaped when it ends.
+    /// Lets the child continue without an owner; it is reaped when it ends.
     static void leaveToItself(std::unique_ptr<ChildProcess> child);
 
 private:
@@ -60,8 +59,8 @@ private:
     FileDescriptor standardOutput_;
     FileDescriptor standardError_;
     FileDescriptor pidDescriptor_;
-    std::unique_ptr<QObject> endWatcher_; ///< tells the event loop that the child has ended
-    pid_t pid_ = -1;                      ///< of the child until it is reaped
+    std::unique_ptr<QObject> endWatcher_; ///< notifies the event loop when the child ends
+    pid_t pid_ = -1;                      ///< the child's, until it is reaped
     bool isLeftToItself_ = false;
 };
 

@@ -44,7 +44,7 @@ void DesktopFeedback::alert(const Alert &alert)
                     QApplication::activeWindow());
     box.setTextFormat(Qt::PlainText);
     box.setInformativeText(alert.information);
-    // The text format above is that of the message alone.
+    // The text format above applies only to the message.
     const QList<QLabel *> labels = box.findChildren<QLabel *>();
     for (QLabel *label : labels)
         label->setTextFormat(Qt::PlainText);

@@ -12,7 +12,7 @@
 
 namespace pdekit {
 
-/// Owner of a file descriptor; move-only.
+/// Owns a file descriptor; move-only.
 class FileDescriptor
 {
 public:
@@ -38,7 +38,7 @@ public:
 
     bool isOpen() const { return descriptor_ >= 0; }
     int number() const { return descriptor_; }
-    /// Gives the descriptor away; the caller closes it.
+    /// Releases the descriptor; the caller closes it.
     int release() { return std::exchange(descriptor_, -1); }
     void close()
     {
@@ -56,8 +56,8 @@ struct Pipe
     FileDescriptor reading;
     FileDescriptor writing;
 
-    /// Neither end is one of the three standard descriptors, even in a process that runs without them: there
-    /// a child's descriptors would overwrite each other. Nothing when the system has none to give.
+    /// Neither end is one of the three standard descriptors, even in a process that runs without them:
+    /// otherwise a child's descriptors would overwrite each other. Nothing when no descriptors are left.
     static std::optional<Pipe> make()
     {
         int ends[2] = {-1, -1};

@@ -37,7 +37,7 @@ bool InputStream::open()
 void InputStream::close()
 {
     if (notifier_) {
-        // It may be the one that is just telling us.
+        // It may be the sender of the current signal, so it is deleted later.
         notifier_->setEnabled(false);
         notifier_->setParent(nullptr);
         notifier_->deleteLater();
@@ -62,18 +62,18 @@ void InputStream::tellWhatIsThere()
         return;
     const bool hasBytes = (state.revents & POLLIN) != 0;
     const bool hasEnded = !hasBytes && (state.revents & POLLHUP) != 0;
-    // The end would be told for ever.
+    // Otherwise the end would be reported forever.
     if (!hasBytes)
         notifier_->setEnabled(false);
     if (!hasBytes && !hasEnded) {
         tellFailureSoon();
         return;
     }
-    // Whoever hears this may delete the stream: nothing of it is touched afterwards.
+    // A receiver may delete the stream: do not use it afterwards.
     Q_EMIT handleEvent(hasBytes ? StreamEventHasBytesAvailable : StreamEventEndEncountered);
 }
 
-// Each from the event loop: whoever hears of the error may wait there for the end.
+// Each event comes from the event loop: a receiver of the error may wait there for the end.
 void InputStream::tellFailureSoon()
 {
     for (const StreamEvent event : {StreamEventErrorOccurred, StreamEventEndEncountered})

@@ -15,14 +15,14 @@ class QSocketNotifier;
 
 namespace pdekit {
 
-/// What happens on a stream.
+/// The events of a stream.
 enum StreamEvent : quintptr {
     StreamEventHasBytesAvailable = 2,
     StreamEventErrorOccurred = 8,
     StreamEventEndEncountered = 16,
 };
 
-/// Reads from a path with a descriptor of its own, and tells on the thread's event loop when there is
+/// Reads from a path with a separate descriptor, and reports on the thread's event loop when there is
 /// something to read.
 class PDEKIT_EXPORT InputStream : public QObject
 {
@@ -33,12 +33,13 @@ public:
     ~InputStream() override;
 
     /// Opens the path and schedules the stream on this thread's event loop. False: it cannot be opened. A
-    /// stream that fails, here or later, tells an error and then its end, so that nobody waits for it.
+    /// stream that fails, here or later, reports an error and then its end, so that nothing keeps waiting for
+    /// it.
     bool open();
-    /// No event comes any more.
+    /// Closes the stream; no more events follow.
     void close();
-    /// At most `size` bytes of what is there; 0 at the end, -1 when there is nothing or reading fails. Never
-    /// blocks.
+    /// Reads at most `size` available bytes; 0 at the end, -1 when nothing is available or reading fails.
+    /// Never blocks.
     std::ptrdiff_t read(char *buffer, std::size_t size);
 
 Q_SIGNALS:

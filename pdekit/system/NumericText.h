@@ -9,12 +9,12 @@
 
 namespace pdekit {
 
-/// The integer with which `text` begins, after white space: a sign and decimal digits; 0 when there is none.
-/// What is beyond the range of int becomes its end. No locale takes part.
+/// The integer at the beginning of `text`, after white space: a sign and decimal digits; 0 when there is
+/// none. Clamped to the range of int. Independent of the locale.
 PDEKIT_EXPORT int leadingInteger(QStringView text);
 
-/// The number with which `text` begins, after white space: a sign, decimal digits with a point, an exponent;
-/// 0.0 when there is none. Hexadecimal, "inf" and "nan" are no numbers. No locale takes part.
+/// The number at the beginning of `text`, after white space: a sign, decimal digits with a point, an
+/// exponent; 0.0 when there is none. Hexadecimal, "inf" and "nan" are not numbers. Independent of the locale.
 PDEKIT_EXPORT double leadingDouble(QStringView text);
 
 } // namespace pdekit

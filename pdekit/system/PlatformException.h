@@ -11,8 +11,7 @@
 
 namespace pdekit {
 
-/// The exception that the platform's services raise. A guard around a call of the platform catches this class
-/// and lets every other exception pass.
+/// The exception that the platform's services throw. A guard around a platform call catches only this class.
 class PDEKIT_EXPORT PlatformException : public std::exception
 {
 public:

@@ -21,13 +21,13 @@ namespace pdekit {
 
 namespace {
 
-// The ends live as long as the process: a handler may run until the very last moment.
+// The pipe's ends are never closed: a handler may run until the process ends.
 std::atomic<int> writeEnd = -1;
 int readEnd = -1;
 
 constexpr std::size_t longestLine = 255;
 
-/// Each line ends with a NUL in the pipe, since a line feed may be part of it.
+/// In the pipe, each line ends with a NUL, since it may contain line feeds.
 void logWaitingLines()
 {
     static QByteArray pending;
@@ -65,7 +65,7 @@ void systemLogFromSignal(const char *text, std::size_t length) noexcept
     const std::size_t kept = std::min(length, longestLine);
     std::memcpy(record.data(), text, kept);
     record[kept] = '\0';
-    // One write of less than PIPE_BUF bytes is whole or fails, so lines of several threads never mix.
+    // A write of less than PIPE_BUF bytes is atomic, so lines of several threads never mix.
     [[maybe_unused]] const ssize_t written = write(writeEnd, record.data(), kept + 1);
     errno = savedErrno;
 }

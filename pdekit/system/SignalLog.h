@@ -9,13 +9,14 @@
 
 namespace pdekit {
 
-/// Makes ready for systemLogFromSignal: a pipe, and its reader on the main thread's event loop. Called on the
+/// Prepares systemLogFromSignal: makes a pipe, and its reader on the main thread's event loop. Call it on the
 /// main thread before a handler that logs is installed; further calls do nothing. False: no pipe could be
-/// had, and what handlers log is lost.
+/// created, and the handlers' lines are lost.
 PDEKIT_EXPORT bool prepareSignalLog();
 
-/// Logs one line from a signal handler: async-signal-safe (signal-safety(7)), errno is kept. The line reaches
-/// the system log when the event loop runs next. At most 255 bytes; lost when thousands are waiting already.
+/// Logs one line from a signal handler: async-signal-safe (signal-safety(7)), preserves errno. The line
+/// reaches the system log when the event loop next runs. At most 255 bytes; lost when thousands are already
+/// waiting.
 PDEKIT_EXPORT void systemLogFromSignal(const char *text, std::size_t length) noexcept;
 
 } // namespace pdekit

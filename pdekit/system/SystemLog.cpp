@@ -25,8 +25,8 @@ bool echoesToStandardError()
     return echoes;
 }
 
-/// A line may quote a file, a command line or what a backend prints: what would steer a terminal, or end the
-/// line early, is shown as "?".
+/// A line may quote a file, a command line or a backend's output: characters that would control a terminal or
+/// end the line early are shown as "?".
 QString withoutControls(QString line)
 {
     for (QChar &character : line) {

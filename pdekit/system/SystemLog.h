@@ -14,11 +14,11 @@ namespace pdekit {
 using LogSink = std::function<void(const QString &line)>;
 
 /// Writes one plain line to the system log: to syslog(3), and to standard error when that is a terminal or
-/// the environment variable PDEKIT_LOG_STDERR is set; without control characters but tabs and line feeds. A
-/// line feed at the end of `line` is part of the line. Main thread only.
+/// the environment variable PDEKIT_LOG_STDERR is set. Control characters except tabs and line feeds are
+/// replaced. A line feed at the end of `line` is part of the line. Main thread only.
 PDEKIT_EXPORT void systemLog(const QString &line);
 
-/// Puts `sink` in the place of the system log, and answers the one before (empty: the system log itself).
+/// Replaces the system log by `sink`, and returns the previous sink (empty: the system log itself).
 PDEKIT_EXPORT LogSink setSystemLogSink(LogSink sink);
 
 } // namespace pdekit

@@ -17,7 +17,7 @@ FailureHandler &currentHandler()
     return *handler;
 }
 
-QWidget *acting = nullptr; // the main thread's
+QWidget *acting = nullptr; // used on the main thread only
 
 } // namespace
 

@@ -14,23 +14,21 @@ class QWidget;
 
 namespace pdekit {
 
-/// What a program does about an exception that a panel has thrown while it dealt with an event for
-/// `receiver`, a control of its view mostly. It is called inside the catch clause. False: it knows of no such
-/// panel.
+/// A program's handler for an exception that a panel has thrown while handling an event for `receiver`,
+/// mostly a control of its view. Called inside the catch clause. False: it knows no such panel.
 using FailureHandler = std::function<bool(const QObject *receiver)>;
 
-/// Puts `handler` in place (empty: none), and answers the one before it. Main thread only.
+/// Installs `handler` (empty: none), and returns the previous one. Main thread only.
 PDEKIT_EXPORT FailureHandler setFailureHandler(FailureHandler handler);
 
-/// Offers the exception that is being caught to the handler. False: there is none, or it does not deal with
-/// it.
+/// Passes the exception being caught to the handler. False: there is no handler, or it does not handle it.
 PDEKIT_EXPORT bool handleFailure(const QObject *receiver);
 
-/// What the user's act that is being dealt with was on, the innermost one: a control; null outside of acts.
-/// For a dialog that is asked by a panel and answers beside the control.
+/// The control of the user's act that is being handled, the innermost one; null outside of acts. Lets a
+/// dialog that is called by a panel answer beside the control.
 PDEKIT_EXPORT QWidget *actingControl();
 
-/// Makes a control the acting one, until it goes.
+/// Makes a control the acting one for the lifetime of this object.
 class PDEKIT_EXPORT ActingControl
 {
 public:
@@ -42,8 +40,8 @@ private:
     QWidget *outer_;
 };
 
-/// Runs `action`, which deals with an event for `receiver`. What it throws goes to the handler, and on to the
-/// caller only where that does not deal with it: Qt's event loop lets no exception through.
+/// Runs `action`, which handles an event for `receiver`. Passes its exceptions to the handler, and rethrows
+/// those not handled: Qt's event loop does not support exceptions.
 template <class Action>
 void guardAction(QObject *receiver, Action &&action)
 {

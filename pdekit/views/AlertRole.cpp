@@ -31,7 +31,8 @@ void announce(QWidget *alert)
 {
     QAccessibleEvent changed(alert, QAccessible::Alert);
     QAccessible::updateAccessibility(&changed);
-    // The accessibility bus reports an alert when it appears, also one that only says something else now.
+    // The accessibility bus reports an alert when it appears, so a changed text is reported as appearing,
+    // too.
     QAccessibleEvent shown(alert, QAccessible::ObjectShow);
     QAccessible::updateAccessibility(&shown);
 }

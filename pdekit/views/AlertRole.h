@@ -9,11 +9,11 @@ class QWidget;
 
 namespace pdekit {
 
-/// Has screen readers take the view for an alert, which they read out, and not for a frame or a label with
-/// some text. To be called when the view is made.
+/// Makes the view an alert to screen readers, so that they read it out, instead of a frame or a label. Call
+/// it when the view is created.
 PDEKIT_EXPORT void setAlertRole(QWidget *view);
 
-/// Has a screen reader say the alert's accessible name.
+/// Makes screen readers read the alert's accessible name.
 PDEKIT_EXPORT void announce(QWidget *alert);
 
 } // namespace pdekit

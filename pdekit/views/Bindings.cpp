@@ -20,7 +20,7 @@ namespace pdekit {
 
 namespace {
 
-// A pop-up changes before it tells of the user's action, which may put it back.
+// A pop-up changes before it reports the user's action, which may revert it.
 void connectPopUpChange(QComboBox *combo, QObject *context, const std::function<void()> &changed)
 {
     QObject::connect(combo, &QComboBox::activated, context, changed);
@@ -30,7 +30,7 @@ void connectPopUpChange(QComboBox *combo, QObject *context, const std::function<
     });
 }
 
-/// Calls `changed` whenever the control shows another value, whoever has set it.
+/// Calls `changed` whenever the control's value changes, by the user or a program.
 void connectValueChange(QWidget *control, QObject *context, const std::function<void()> &changed)
 {
     if (auto *matrix = qobject_cast<RadioMatrix *>(control))

@@ -19,9 +19,9 @@ class KeyValueObject;
 ///     enabledBinding  a key: the view, with all it holds, is enabled as long as the owner's value for it is
 ///     true
 ///
-/// A value follows what the control shows when its action has been dealt with: a choice that is refused, so
-/// that the control is put back, is never seen. Views that are enabled by other means too can be put into a
-/// container that carries the binding; then both have a say.
+/// A value follows the control when the control's action is done, so a refused choice, after which the
+/// control is reverted, is never seen. A view that other code enables, too, can be put into a container with
+/// the binding; then both apply.
 PDEKIT_EXPORT void bindControls(QWidget *view, KeyValueObject *owner);
 
 } // namespace pdekit

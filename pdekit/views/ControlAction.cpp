@@ -17,13 +17,13 @@ namespace pdekit {
 
 namespace {
 
-// A click toggles a button first; an assistive tool only toggles it. Each is one action.
+// A click also toggles a button; an assistive tool only toggles it. Both count as one action.
 void connectButton(QAbstractButton *button, QObject *context, const std::function<void()> &action)
 {
     const auto acted = std::make_shared<bool>(false);
     QObject::connect(button, &QAbstractButton::pressed, context, [acted] { *acted = false; });
     QObject::connect(button, &QAbstractButton::toggled, context, [button, action, acted](bool on) {
-        // A radio button goes off because another one was picked.
+        // A radio button is switched off because another one was selected.
         if (isBeingSet(button) || (!on && button->autoExclusive()))
             return;
         *acted = true;
@@ -43,7 +43,7 @@ bool connectAction(QWidget *control, QObject *context, const std::function<void(
         guardAction(control, unguarded);
     };
     if (auto *slider = qobject_cast<QAbstractSlider *>(control)) {
-        // Not actionTriggered: an assistive tool sets the value itself.
+        // Not actionTriggered: an assistive tool sets the value directly.
         QObject::connect(slider, &QAbstractSlider::valueChanged, context, [slider, action] {
             if (!isBeingSet(slider))
                 action();

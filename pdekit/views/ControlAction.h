@@ -14,8 +14,8 @@ namespace pdekit {
 
 /// Calls `action` each time the user, with mouse, keyboard, wheel or an assistive tool, acts on the control:
 /// a button or a radio cell clicked, a slider moved (while it is dragged, too), an item of a pop-up picked. A
-/// value that a program sets (ControlValues.h) is no action. Ends with `context`. False when the widget has
-/// no such action; a text field's are TextFieldEvents.
+/// value set by a program (ControlValues.h) is not an action. Ends with `context`. False when the widget has
+/// no such action; for text fields see TextFieldEvents.
 PDEKIT_EXPORT bool connectAction(QWidget *control, QObject *context, const std::function<void()> &action);
 
 } // namespace pdekit

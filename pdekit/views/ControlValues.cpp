@@ -22,8 +22,8 @@ namespace pdekit {
 
 namespace {
 
-/// Marks a control as being set by the program while it lives. Setting one control may set another, so they
-/// chain.
+/// Marks a control as being set by the program during its lifetime. Setting one control may set another, so
+/// scopes nest.
 class SettingScope
 {
 public:
@@ -151,8 +151,8 @@ std::optional<int> state(const QWidget *control)
 bool setState(QWidget *control, int state)
 {
     const SettingScope scope(control);
-    // Not setChecked: a box that is on its way to the mixed state counts as checked already, and would stay
-    // there.
+    // Not setChecked(): a box that is changing to the mixed state already counts as checked, and would stay
+    // mixed.
     if (auto *box = qobject_cast<QCheckBox *>(control)) {
         const bool mixed = state < 0 && box->isTristate();
         const Qt::CheckState whole = state != 0 ? Qt::Checked : Qt::Unchecked;

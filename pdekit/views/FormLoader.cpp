@@ -22,7 +22,7 @@ namespace pdekit {
 
 namespace {
 
-/// Knows the kit's own controls beside Qt's.
+/// Creates the kit's own controls besides Qt's.
 class Loader final : public QUiLoader
 {
 public:
@@ -35,7 +35,7 @@ public:
         return matrix;
     }
 
-    /// A column in the place of a layout that Qt does not know: QUiLoader goes on as if it had got one.
+    /// A column in place of an unknown layout: QUiLoader continues as if it had received one.
     QLayout *createLayout(const QString &className, QObject *parent, const QString &name) override
     {
         if (QLayout *layout = QUiLoader::createLayout(className, parent, name))
@@ -44,8 +44,8 @@ public:
     }
 };
 
-/// One loader serves all forms. Its constructor would load every Designer plug-in of the system, which takes
-/// tens of milliseconds, and none is wanted: stock widgets are built in.
+/// One loader serves all forms. Its constructor would load all of the system's Designer plug-ins, which takes
+/// tens of milliseconds; none is needed, since stock widgets are built in.
 Loader &sharedLoader()
 {
     static Loader *const loader = [] {
@@ -88,7 +88,7 @@ void localizeAccessibleTexts(QWidget *view, const Bundle &bundle)
         view->setAccessibleDescription(bundle.localizedString(view->accessibleDescription()));
 }
 
-/// Enlarges what is placed by hand as far as the font is larger than the form has room for.
+/// Scales widgets without a layout by the factor by which the font is larger than the form expects.
 void fitToFont(QWidget *view, const QList<QWidget *> &views)
 {
     const int lineHeight = view->property("lineHeight").toInt();

@@ -14,7 +14,7 @@ class QWidget;
 
 namespace pdekit {
 
-/// An object whose values can be read and written by key (its Qt properties) and that tells of changes. The
+/// An object whose values can be read and written by key (its Qt properties) and that reports changes. The
 /// owner of a form: the form's controls may be bound to its keys (see bindControls).
 class PDEKIT_EXPORT KeyValueObject : public QObject
 {
@@ -23,14 +23,14 @@ class PDEKIT_EXPORT KeyValueObject : public QObject
 public:
     using QObject::QObject;
 
-    /// Told before the value for `key` changes, and after it has changed. An override that derives other
-    /// values from it tells of those too.
+    /// Called before the value for `key` changes, and after it has changed. An override that derives other
+    /// values from it reports those as well.
     virtual void willChangeValueForKey(const QString &key);
     virtual void didChangeValueForKey(const QString &key);
 
-    /// The value that a bound control of this object's form shows.
+    /// The value shown by a bound control of this object's form.
     virtual std::optional<QString> valueOfBoundControl(QWidget *control);
-    /// Makes a bound control show the value, without any action.
+    /// Makes a bound control show the value without triggering an action.
     virtual void showValueInBoundControl(QWidget *control, const QString &value);
 
 Q_SIGNALS:

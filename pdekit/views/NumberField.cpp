@@ -24,8 +24,8 @@ namespace {
 
 constexpr int noteMargin = 4; // pixels
 
-/// Accepts every text, with a point in the place of the locale's decimal separator. QLineEdit asks it before
-/// it reports an edit, and moves the cursor as it says.
+/// Accepts every text, but replaces the locale's decimal separator by a point. QLineEdit calls it before it
+/// reports an edit, and applies its cursor position.
 class DecimalPoint final : public QValidator
 {
 public:
@@ -38,7 +38,7 @@ public:
     State validate(QString &text, int &cursor) const override
     {
         const QString separator = field_->locale().decimalPoint();
-        // What a program shows is a choice, and stays as it is.
+        // A text set by a program is a choice, and is not changed.
         if (separator == QLatin1String(".") || isBeingSet(field_) || !text.contains(separator))
             return Acceptable;
         const QString after = text.mid(cursor).replace(separator, QLatin1String("."));
@@ -88,7 +88,7 @@ NumberField::NumberField(QWidget *view, QLineEdit *field, QAbstractSlider *slide
     showRange();
 }
 
-/// The text with the ends of the range, with as many decimals as the slider has.
+/// Inserts the ends of the range into the text, with the slider's number of decimals.
 QString NumberField::withRange(QString text) const
 {
     const int decimals = std::max(slider_->property("decimals").toInt(), 0);
@@ -113,7 +113,7 @@ void NumberField::noteEdit(const QString &text)
     typed_ = text;
 }
 
-// QLineEdit reports an edit first, while this panel's text may still be put back, and of the change then.
+// QLineEdit first emits textEdited, during which the panel may revert the text, and then textChanged.
 void NumberField::noteChange(const QString &text)
 {
     if (typed_.isNull())
@@ -148,7 +148,7 @@ void NumberField::showNote()
     note_->setText(text);
     note_->setAccessibleName(text);
     note_->adjustSize();
-    // Under the field, or over it where there is no room; never beyond the view's edge.
+    // Below the field, or above it if there is no room; never beyond the view's edge.
     const QRect field(field_->mapTo(view_, QPoint()), field_->size());
     const int left = std::min(field.left(), view_->width() - note_->width());
     const bool fitsBelow = field.bottom() + 1 + note_->height() <= view_->height();

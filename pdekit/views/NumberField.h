@@ -16,25 +16,24 @@ namespace pdekit {
 
 class Bundle;
 
-/// What makes a text field easier to use that stands beside a slider and shows its number. A child of the
-/// field.
+/// Makes a text field that shows a slider's number easier to use. A child of the field.
 ///
-/// The decimal separator of the field's locale becomes the point, in which a choice is written, as it is
-/// typed or pasted; thousands separators stay. The range, in the field's notation, is the field's accessible
-/// description and stands in a label. When a number that is typed is out of it, and the receiver of the edit
-/// puts the text back, a note at the field says the range, and a screen reader says it at once; it goes with
-/// the next edit and when the field is left.
+/// When text is typed or pasted, the locale's decimal separator is replaced by a point, as choices are
+/// written; thousands separators stay. The range, in the field's notation, is the field's accessible
+/// description and is shown in a label. When a typed number is out of range and the receiver of the edit
+/// reverts the text, a note at the field shows the range, and a screen reader reads it at once. The note
+/// disappears with the next edit and when the field is left.
 ///
 /// Its texts are the entries "pdekitRange" and "pdekitOutOfRange" of the bundle's strings table, with the
-/// range's ends as %1 and %2; English where there are none.
+/// range's ends as %1 and %2; English if they are missing.
 class NumberField : public QObject
 {
     Q_OBJECT
 
 public:
     /// Attaches one to each field in the view whose dynamic property `numberOf` names a slider in it. A label
-    /// whose property `rangeOf` names the slider is to show the range. Called before anybody else listens to
-    /// the fields.
+    /// whose property `rangeOf` names the slider shows the range. Call it before other code connects to the
+    /// fields.
     static void attachIn(QWidget *view, const Bundle &bundle);
 
 protected:
@@ -51,14 +50,14 @@ private:
     void hideNote();
     QString withRange(QString text) const;
 
-    QWidget *view_; ///< that holds them all
+    QWidget *view_; ///< the panel's view
     QLineEdit *field_;
     QAbstractSlider *slider_;
     QPointer<QLabel> range_;
-    QPointer<QLabel> note_; ///< the view's; made when it is first needed
+    QPointer<QLabel> note_; ///< a child of the view; made when first needed
     QString rangeText_;
     QString noteText_;
-    QString typed_; ///< while those who listen deal with it; null otherwise
+    QString typed_; ///< the edit that the receivers are handling; null otherwise
 };
 
 } // namespace pdekit

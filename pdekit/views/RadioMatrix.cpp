@@ -63,7 +63,7 @@ void RadioMatrix::connectCell(QAbstractButton *cell)
     if (connectedCells_.contains(cell))
         return;
     connectedCells_.insert(cell);
-    // In this order: who follows the selection sees it as the action has left it.
+    // In this order: receivers of selectionChanged see the result of the action.
     connectAction(cell, this, [this] { Q_EMIT cellClicked(); });
     connect(cell, &QAbstractButton::toggled, this, [this](bool on) {
         if (on)
@@ -73,7 +73,7 @@ void RadioMatrix::connectCell(QAbstractButton *cell)
 
 void RadioMatrix::childEvent(QChildEvent *event)
 {
-    // A cell that is being added may not be a button yet; at polishing it is whole.
+    // A child that is being added may not be a button yet; when it is polished, it is complete.
     if (event->polished()) {
         if (auto *cell = qobject_cast<QAbstractButton *>(event->child()))
             connectCell(cell);

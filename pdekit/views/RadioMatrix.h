@@ -12,9 +12,8 @@ class QAbstractButton;
 
 namespace pdekit {
 
-/// A radio group as one control. Its cells are the buttons that are its children; each carries the number of
-/// the choice it stands for in the dynamic property `cellTag`, so that no search for a view's tag ever finds
-/// a cell.
+/// A radio group as one control. Its cells are the buttons that are its children; each has the number of its
+/// choice in the dynamic property `cellTag`, so that a search for a view's tag never finds a cell.
 class PDEKIT_EXPORT RadioMatrix : public QWidget
 {
     Q_OBJECT
@@ -25,19 +24,19 @@ public:
     QList<QAbstractButton *> cells() const;
     /// Null when no cell is selected.
     QAbstractButton *selectedCell() const;
-    /// Selects the cell; when no cell has the tag, the selection stays as it is and the answer is false.
+    /// Selects the cell; when no cell has the tag, returns false and leaves the selection unchanged.
     bool selectCellWithTag(int cellTag);
 
     QString toolTipForCell(const QAbstractButton *cell) const;
     void setToolTipForCell(const QString &toolTip, QAbstractButton *cell);
 
-    /// 0 when the cell carries none, or is null.
+    /// The cell's `cellTag`; 0 when it has none or is null.
     static int cellTag(const QAbstractButton *cell);
 
 Q_SIGNALS:
-    /// The user has picked a cell.
+    /// The user has selected a cell.
     void cellClicked();
-    /// Another cell is selected, whoever has selected it; after cellClicked when it was the user.
+    /// Another cell is selected, by the user (then after cellClicked) or a program.
     void selectionChanged();
 
 protected:

@@ -33,8 +33,8 @@ void TextFieldEvents::noteEdit()
     guardAction(parent(), [this] { Q_EMIT textDidChange(); });
 }
 
-// QLineEdit tells of Return before it tells that editing has finished; and it tells of the latter also when
-// only a program has changed the text.
+// QLineEdit emits returnPressed before editingFinished, and emits the latter even if only a program has
+// changed the text.
 void TextFieldEvents::finishEditing()
 {
     const bool byReturn = std::exchange(returnPressed_, false);
@@ -44,7 +44,7 @@ void TextFieldEvents::finishEditing()
         guardAction(parent(), [this] { Q_EMIT action(); });
 }
 
-// Return belongs to the field: it must not reach the dialog, whose default button would print.
+// The field consumes Return: it must not reach the dialog, whose default button would print.
 bool TextFieldEvents::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() != QEvent::KeyPress)

@@ -11,13 +11,13 @@ class QLineEdit;
 
 namespace pdekit {
 
-/// What a user does in one text field, told apart from what a program puts there. A child of the field.
+/// The user's events in one text field, as distinct from changes by a program. A child of the field.
 class PDEKIT_EXPORT TextFieldEvents : public QObject
 {
     Q_OBJECT
 
 public:
-    /// The field's events, in the place of any that were attached before.
+    /// The field's events; replaces those attached before.
     static TextFieldEvents *attach(QLineEdit *field);
 
 Q_SIGNALS:
@@ -25,7 +25,7 @@ Q_SIGNALS:
     void textDidChange();
     /// The user has left the field after typing in it, or has pressed Return.
     void textDidEndEditing();
-    /// The user has pressed Return; sent after textDidEndEditing.
+    /// The user has pressed Return; emitted after textDidEndEditing.
     void action();
 
 protected:

@@ -14,8 +14,8 @@ namespace {
 
 constexpr char tagName[] = "tag";
 
-/// QObject::property() compares the name with each of the class's own properties first, some hundred, and a
-/// tag is looked for among all views of a panel at each change: tags that have been asked for are kept here.
+/// A cache of tags. QObject::property() first compares the name with about a hundred properties of the class,
+/// and each change searches all views of a panel for a tag.
 QHash<const QWidget *, int> &knownTags()
 {
     static auto *const tags = new QHash<const QWidget *, int>; // outlives every view
@@ -27,7 +27,7 @@ int tagProperty(const QWidget *view)
     return view->dynamicPropertyNames().contains(tagName) ? view->property(tagName).toInt() : noTag;
 }
 
-/// Keeps the known tag of its view true, as long as that lives.
+/// Keeps its view's cached tag up to date, and drops it with the view.
 class TagWatch final : public QObject
 {
 public:
@@ -61,7 +61,7 @@ int tag(const QWidget *view)
         return *known;
     const int tag = tagProperty(view);
     if (tag != noTag) {
-        new TagWatch(const_cast<QWidget *>(view)); // the view's
+        new TagWatch(const_cast<QWidget *>(view)); // owned by the view
         knownTags().insert(view, tag);
     }
     return tag;

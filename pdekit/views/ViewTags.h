@@ -9,7 +9,7 @@ class QWidget;
 
 namespace pdekit {
 
-/// What a view without a tag answers.
+/// The result for a view without a tag.
 inline constexpr int noTag = -1;
 
 /// The tag of a view: its dynamic property `tag`, which a form sets.

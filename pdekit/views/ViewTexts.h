@@ -13,17 +13,17 @@ class QWidget;
 
 namespace pdekit {
 
-/// The title of a button, radio cell or group box; nothing for a view that has none.
+/// The title of a button, radio cell or group box; nothing for other views.
 PDEKIT_EXPORT std::optional<QString> title(const QWidget *view);
 PDEKIT_EXPORT bool setTitle(QWidget *view, const QString &title);
 
-/// What a tool tip must hold to show `text` as it is: one that looks like markup is otherwise taken for
-/// markup. For texts from outside, such as a PPD's keywords or a file's name.
+/// Escapes a tool tip so that it shows `text` literally: Qt would interpret text that looks like markup. For
+/// texts from outside, such as a PPD's keywords or a file's name.
 PDEKIT_EXPORT QString plainToolTip(const QString &text);
-/// Makes `text` the view's tool tip, by plainToolTip().
+/// Sets the view's tool tip to plainToolTip(text).
 PDEKIT_EXPORT void setPlainToolTip(QWidget *view, const QString &text);
 
-/// Gives a control its preferred size; false for a view that is no control.
+/// Resizes a control to its preferred size; false for a view that is not a control.
 PDEKIT_EXPORT bool sizeToFit(QWidget *view);
 
 } // namespace pdekit
