@@ -27,8 +27,8 @@ struct Text
 struct OptionRow
 {
     const char *names; ///< separated by commas, the short one first
-    const char *value; ///< how the help calls its value; null: it has none
-    const char *text;  ///< a line break is kept
+    const char *value; ///< the value's name in the help; null: the option has none
+    const char *text;  ///< line breaks are kept
 };
 
 constexpr std::array optionRows = {
@@ -116,7 +116,7 @@ Failure<UsageFault> fault(UsageFault reason, const QString &text)
     return {reason, text, {}};
 }
 
-/// A value may be anything but nothing at all.
+/// Any value is allowed, but not an empty one.
 template <class Value>
 Fault readValue(const QCommandLineParser &parser, const char *name, std::optional<Value> &value)
 {
@@ -142,7 +142,7 @@ Fault readMode(const QCommandLineParser &parser, PanelMode &mode)
     return std::nullopt;
 }
 
-/// The address of a server as CUPS takes it: a name or number with a port if wanted, or a socket's path.
+/// The address of a server as CUPS accepts it: a name or number with an optional port, or a socket's path.
 Fault readServer(const QCommandLineParser &parser, std::optional<QString> &server)
 {
     if (Fault found = readValue(parser, "server", server); found || !server)
@@ -188,7 +188,7 @@ Fault readCopies(const QCommandLineParser &parser, std::optional<int> &copies)
     return std::nullopt;
 }
 
-/// A file manager hands out URLs. A file may have such a name all the same.
+/// File managers pass URLs. But a file may also have such a name.
 Fault readPhotos(const QStringList &arguments, QStringList &photos)
 {
     for (const QString &argument : arguments) {
@@ -219,7 +219,7 @@ Fault readScaling(const QCommandLineParser &parser, Scaling &scaling)
     return std::nullopt;
 }
 
-/// Behind readScaling().
+/// Call after readScaling().
 Fault readCrop(const QCommandLineParser &parser, PlacementChoice &placement)
 {
     std::optional<QString> value;
@@ -260,7 +260,7 @@ Fault readChoices(const QCommandLineParser &parser, QList<RequestedChoice> &choi
     return std::nullopt;
 }
 
-/// The tasks that are asked for, as they are written on the command line.
+/// The requested tasks, as they are written on the command line.
 QStringList tasksOf(const CommandLine &line)
 {
     QStringList tasks;

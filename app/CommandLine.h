@@ -17,10 +17,10 @@
 
 namespace printdialog {
 
-/// What the program ends with.
+/// The program's exit status.
 enum ExitStatus {
     exitDone = 0,
-    exitFailed = 1, ///< refused or failed, and said why
+    exitFailed = 1, ///< refused or failed, with the reason on standard error
     exitWrongUsage = 2,
 };
 
@@ -28,24 +28,23 @@ enum ExitStatus {
 enum class UsageFault {
     Syntax,      ///< an unknown option, or one without its value
     Value,       ///< a value that the option cannot have
-    Missing,     ///< something that has to be there as well
+    Missing,     ///< something required is missing
     Combination, ///< options that exclude each other
 };
 
-/// A choice that is asked for on the command line.
+/// A choice requested on the command line.
 struct RequestedChoice
 {
     QString key;
-    QString choice; ///< any text that may stand for a choice; nothing in it is checked yet
+    QString choice; ///< any text that may stand for a choice, not checked yet
 };
 
-/// What the program is asked to do. A plain value. At most one of batch, listPrinters, listOptions and
-/// screenshot is set, summary beside none of them but batch, and dryRun likewise; without any of them it is
-/// the window.
+/// The program's task. A plain value. At most one of batch, listPrinters, listOptions and screenshot is set;
+/// summary and dryRun are each set alone or together with batch. Without any of them, the window is shown.
 struct CommandLine
 {
-    QStringList photos;                 ///< paths, also of those that are given as file URLs
-    std::optional<Destination> printer; ///< its instance is a preset's name, or what CUPS calls the preset
+    QStringList photos;                 ///< paths; file URLs are converted
+    std::optional<Destination> printer; ///< its instance is a preset's name, or the preset's instance in CUPS
     std::optional<QString> ppd;         ///< a file, for the built-in printer
     PanelMode mode = PanelMode::Constraint;
     QList<RequestedChoice> options; ///< in the order given
@@ -57,7 +56,7 @@ struct CommandLine
     bool dryRun = false;
     bool checks = true;            ///< whether damaged photos are left out
     std::optional<QString> server; ///< "host", "host:port" or a socket's path, fit for CUPS_SERVER
-    /// How long a job is followed at most; without it to its end.
+    /// The limit for following a job; without it, to its end.
     std::optional<std::chrono::seconds> wait;
     bool listPrinters = false;
     bool listOptions = false;
@@ -67,19 +66,19 @@ struct CommandLine
     bool help = false;
     bool version = false;
 
-    /// Reads the arguments, the program's name first. Needs no application object. With help or version
-    /// nothing else is checked but that every option is known and has its value.
+    /// Parses the arguments, the program's name first. Needs no application object. With help or version,
+    /// only checks that every option is known and has its value.
     static Result<CommandLine, UsageFault> parse(const QStringList &arguments);
 
-    /// What --help shows; ends with a line feed.
+    /// The text of --help; ends with a line feed.
     static QString helpText();
 
-    /// Whether the printer is by its very name the built-in one.
+    /// Whether the printer is the built-in one by name.
     bool asksForBuiltInPrinter() const;
-    /// Where the built-in printer leaves its files: the folder asked for, or else the current one, with a
-    /// window the folder "Prints" among the user's pictures.
+    /// The folder for the built-in printer's files: the requested one, or else the current one or, with a
+    /// window, "Prints" in the user's pictures folder.
     QString outputFolder() const;
-    /// Whether the task is done without any widget on a screen or in a picture.
+    /// Whether the task shows no widget, on a screen or in a picture.
     bool runsWithoutWindow() const { return batch || dryRun || listPrinters || listOptions || summary; }
 };
 

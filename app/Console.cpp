@@ -21,7 +21,7 @@ namespace printdialog {
 
 namespace {
 
-/// The system's error number, or 0.
+/// Returns an errno, or 0.
 int writeAll(int descriptor, const QByteArray &bytes)
 {
     for (qsizetype done = 0; done < bytes.size();) {
@@ -42,7 +42,7 @@ QString indented(const QJsonValue &value)
     return QString::fromUtf8(document.toJson(QJsonDocument::Indented));
 }
 
-/// JSON escapes only the control characters below the space, and terminals obey those from DEL on as well.
+/// JSON escapes only the control characters below the space, but terminals also obey those from DEL on.
 QString escaped(const QString &json)
 {
     QString safe;
@@ -64,7 +64,7 @@ void Console::prepareStreams()
     std::signal(SIGXFSZ, SIG_IGN);
     for (const int descriptor : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
         if (fcntl(descriptor, F_GETFD) == -1 && errno == EBADF) {
-            // The lowest free number is this one. Open for reading, so that writing to it stays an error.
+            // open() uses this number, the lowest free one. Read-only, so that writing to it still fails.
             [[maybe_unused]] const int held = ::open("/dev/null", O_RDONLY);
         }
     }

@@ -9,7 +9,7 @@ namespace printdialog {
 
 namespace {
 
-int raised = 0; // through atomic_ref
+int raised = 0; // accessed through atomic_ref
 
 void raise(int /*signal*/)
 {

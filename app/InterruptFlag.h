@@ -9,8 +9,8 @@
 
 namespace printdialog {
 
-/// While it lives, Ctrl+C and a request to end (SIGINT, SIGTERM) raise a flag instead of ending the program,
-/// so that it can take back what it has begun. A second one ends it at once. One at a time.
+/// While it exists, Ctrl+C and termination requests (SIGINT, SIGTERM) raise a flag instead of ending the
+/// program, so that it can cancel its jobs. A second one ends it at once. One object at a time.
 class InterruptFlag
 {
 public:
@@ -18,7 +18,7 @@ public:
     ~InterruptFlag();
     Q_DISABLE_COPY_MOVE(InterruptFlag)
 
-    /// Non-zero once raised; as long as the program runs.
+    /// Non-zero once raised; valid as long as the program runs.
     int *flag() const;
     bool isRaised() const;
 

@@ -16,7 +16,7 @@ namespace printdialog {
 
 namespace {
 
-/// By option keyword.
+/// The panels' names by option keyword.
 QHash<QString, QString> panelNames(const DialogSession &session)
 {
     QHash<QString, QString> names;

@@ -13,7 +13,7 @@ namespace printdialog {
 
 class DialogSession;
 
-/// The options of a printer as they stand in a session, for people and for programs. A snapshot.
+/// The options of a printer and their current choices in a session, for people and for programs. A snapshot.
 class OptionTable
 {
     Q_DECLARE_TR_FUNCTIONS(OptionTable)
@@ -21,7 +21,7 @@ class OptionTable
 public:
     explicit OptionTable(const DialogSession &session);
 
-    /// A headed table with aligned columns; the numbers of an option are shortened to their range.
+    /// A table with a header and aligned columns; an option's numbers are shortened to their range.
     QStringList lines() const;
     QJsonArray json() const;
 

@@ -11,21 +11,21 @@
 
 namespace printdialog {
 
-/// The photos of one run, all of them looked at before the first is printed. Only so many stay in memory; the
-/// others are read again when their turn comes.
+/// The photos of one run, all of them opened before the first is printed. Only some stay in memory; the
+/// others are read again when they are printed.
 class PhotoList
 {
 public:
-    /// How much of the photos' content is kept, in bytes.
+    /// The limit for the content kept in memory, in bytes.
     static constexpr qsizetype keptBytes = qsizetype(256) << 20;
 
     /// Opens each photo. Fails with the first one that cannot be printed.
     static Result<PhotoList, PhotoFault> open(const QStringList &paths);
 
-    /// The first one, not handed over; nothing when it was not kept.
+    /// The first photo, without taking it; nothing when it was not kept.
     std::optional<Photo> first() const { return photos_.empty() ? std::nullopt : photos_.front().photo; }
     qsizetype size() const { return static_cast<qsizetype>(photos_.size()); }
-    /// The photo, handed over: it can be taken once.
+    /// Takes the photo; call once per index.
     Result<Photo, PhotoFault> take(qsizetype index);
 
 private:

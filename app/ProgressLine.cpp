@@ -18,7 +18,7 @@ namespace {
 constexpr int barWidth = 24;
 constexpr auto interval = 50ms;
 
-/// The terminal's, so that the line is never broken: a broken one could not be taken away.
+/// The terminal's width: a line that wraps could not be erased.
 int columns()
 {
     winsize size = {};

@@ -9,8 +9,8 @@
 
 namespace printdialog {
 
-/// One line at the bottom of a terminal that tells how far printing is, on standard error. Shows nothing when
-/// that is no terminal. Main thread only.
+/// A progress line at the bottom of a terminal, on standard error. Shows nothing when that is not a terminal.
+/// Main thread only.
 class ProgressLine
 {
 public:
@@ -18,11 +18,11 @@ public:
     ~ProgressLine();
     Q_DISABLE_COPY_MOVE(ProgressLine)
 
-    /// What is being done, without a bar.
+    /// Shows the current activity, without a bar.
     void show(const QString &text);
     /// The same with a bar.
     void show(const QString &text, qint64 done, qint64 total);
-    /// Takes the line away, so that another one can be written.
+    /// Erases the line, so that another one can be written.
     void clear();
 
 private:

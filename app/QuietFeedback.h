@@ -7,8 +7,7 @@
 
 namespace printdialog {
 
-/// The feedback of a run without a window: nothing beeps, nothing waits for a person. Alerts go to the system
-/// log.
+/// The feedback of a run without a window: no beeps, no waiting for the user. Alerts go to the system log.
 class QuietFeedback final : public pdekit::Feedback
 {
 public:

@@ -24,7 +24,7 @@ using namespace printdialog;
 
 namespace {
 
-/// Lets no exception of a panel's own event handlers out into Qt's event loop, which would end the program.
+/// Catches exceptions of panels' event handlers: in Qt's event loop they would end the program.
 class GuardedApplication final : public QApplication
 {
 public:
@@ -43,7 +43,7 @@ public:
 };
 
 /// Loads the program's texts in the first of the user's languages that it has. The texts in the source are
-/// the English ones, but for their plural forms.
+/// the English ones, except for plural forms.
 /// @return the language's code; empty when there are none
 QString loadOwnTexts(QTranslator &translator)
 {
@@ -56,8 +56,8 @@ QString loadOwnTexts(QTranslator &translator)
     return {};
 }
 
-/// Installs the program's texts in the user's language, and Qt's own (file dialogs, buttons) in the same one,
-/// where they are installed.
+/// Installs the program's texts in the user's language, and Qt's own (file dialogs, buttons) in the same
+/// language, if present.
 void loadTranslations(QCoreApplication &application)
 {
     auto *own = new QTranslator(&application);
@@ -69,7 +69,7 @@ void loadTranslations(QCoreApplication &application)
         QCoreApplication::installTranslator(qts);
 }
 
-/// Why Qt has nothing to draw on. It happens before any translation can be installed.
+/// The message that Qt has no platform to draw on. It is needed before a translation can be installed.
 QString withoutPlatform()
 {
     QTranslator texts;
@@ -90,8 +90,8 @@ QString withoutPlatform()
         .arg(display.isEmpty() ? qEnvironmentVariable("WAYLAND_DISPLAY") : display);
 }
 
-/// What Qt itself has to say belongs into the log: standard error holds one clear line, or nothing. Qt gives
-/// up where it finds no display, which is no reason to leave a core file.
+/// Sends Qt's messages to the log: standard error has one clear line, or nothing. Qt aborts when it finds no
+/// display, which should not leave a core file.
 void logQtMessage(QtMsgType type, const QMessageLogContext & /*context*/, const QString &message)
 {
     pdekit::systemLog(message);
@@ -105,13 +105,14 @@ void logQtMessage(QtMsgType type, const QMessageLogContext & /*context*/, const 
     _exit(exitFailed);
 }
 
-/// The runs that need neither a display nor the application's other parts.
+/// Handles the runs that need neither a display nor the application's other parts.
 int runWithoutApplication(const QStringList &arguments, int &argc, char **argv)
 {
     const QCoreApplication application(argc, argv);
     loadTranslations(*QCoreApplication::instance());
     Console console;
-    const auto commandLine = CommandLine::parse(arguments); // again, now in the user's language
+    const auto commandLine =
+        CommandLine::parse(arguments); // parsed again for messages in the user's language
     if (!commandLine) {
         console.complain(QCoreApplication::translate("main", "%1 See corvel-print --help.")
                              .arg(commandLine.failure().text));
@@ -124,7 +125,7 @@ int runWithoutApplication(const QStringList &arguments, int &argc, char **argv)
     return console.finish(exitDone);
 }
 
-/// Chooses what Qt draws on, unless the user has. False: there is no display, and the task needs one.
+/// Chooses Qt's platform, unless the user has. False: there is no display, and the task needs one.
 bool choosePlatform(const CommandLine &commandLine)
 {
     const auto isSet = [](const char *variable) {
@@ -132,14 +133,14 @@ bool choosePlatform(const CommandLine &commandLine)
     };
     if (isSet("QT_QPA_PLATFORM"))
         return true;
-    // Nobody sees the widgets that panels make: this platform spares them the system's fonts, which are a
-    // quarter of such a run's time.
+    // The panels' widgets are not shown: this platform does not load the system's fonts, which would take a
+    // quarter of the run's time.
     if (commandLine.runsWithoutWindow())
         return qputenv("QT_QPA_PLATFORM", "minimal");
-    // Pictures of the dialog look the same with and without a display.
+    // Pictures of the dialog then look the same with and without a display.
     if (commandLine.screenshot)
         return qputenv("QT_QPA_PLATFORM", "offscreen");
-    // A name that is not a path is one in that folder, and the library would complain without it.
+    // A name that is not a path is relative to that folder, and the library would print an error without it.
     const bool hasWayland =
         isSet("WAYLAND_DISPLAY") && (isSet("XDG_RUNTIME_DIR") || qgetenv("WAYLAND_DISPLAY").startsWith('/'));
     return isSet("DISPLAY") || hasWayland;
@@ -172,11 +173,12 @@ int runWithoutWindow(const CommandLine &commandLine)
 int main(int argc, char *argv[])
 {
     Console::prepareStreams();
-    std::signal(SIGCHLD, SIG_DFL); // who starts the program may have it ignored, and then nobody tells an end
+    std::signal(SIGCHLD,
+                SIG_DFL); // a parent may have set it to ignored; then no child's end would be reported
     QStringList arguments;
     for (int i = 0; i < argc; ++i)
         arguments.append(QFile::decodeName(argv[i]));
-    argc = 1; // none of them is meant for Qt
+    argc = 1; // no argument is meant for Qt
 
     qInstallMessageHandler(logQtMessage);
     QCoreApplication::setApplicationName(QStringLiteral("corvel-print"));

@@ -111,14 +111,14 @@ int BatchRun::conclude(const PrintOutcome &outcome, bool isQueue)
         console_.complain(waiting);
     if (outcome.failure.isEmpty())
         return endOf(exitDone);
-    const bool isAboutAll = outcome.isFollowed || interrupt_.isRaised(); // and not about one photo
+    const bool isAboutAll = outcome.isFollowed || interrupt_.isRaised(); // not about one photo
     if (isAboutAll || outcome.names.isEmpty())
         return fail(outcome.failure);
     return fail(
         tr("%1 Printed before it: %2.").arg(outcome.failure, outcome.names.join(QLatin1String(", "))));
 }
 
-// How it goes on
+// Progress
 
 void BatchRun::sending(qsizetype /*photo*/, const QString &name, qint64 sent, qint64 total)
 {
@@ -134,7 +134,7 @@ void BatchRun::printed(const QString &sentence)
     console_.writeLine(sentence);
 }
 
-/// The others can be printed all the same.
+/// The other photos can still be printed.
 void BatchRun::skipped(const QString &sentence)
 {
     progress_.clear();

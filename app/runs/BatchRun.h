@@ -15,19 +15,19 @@ namespace printdialog {
 class Console;
 class PhotoList;
 
-/// Printing without a window. Everything is looked at before anything is printed: the photos, the printer,
-/// each choice. Main thread; blocks until the last photo is printed, or a queue's jobs have been followed as
-/// long as the command line has it. Interrupted, it cancels what it has sent and fails.
+/// Prints without a window. The photos, the printer and each choice are checked before anything is printed.
+/// Main thread; blocks until the last photo is printed, or a queue's jobs were followed up to the command
+/// line's limit. When interrupted, it cancels the jobs it has sent and fails.
 class BatchRun : private PrintRunListener
 {
     Q_DECLARE_TR_FUNCTIONS(BatchRun)
 
 public:
-    /// Both are borrowed.
+    /// Borrows both.
     BatchRun(const CommandLine &commandLine, Console &console);
 
-    /// Prints, writes a line for each printed photo, complains about each that is damaged, which is left out,
-    /// and about the first other thing that went wrong. A dry run shows what would be sent instead.
+    /// Prints, and writes a line for each printed photo. Complains about each damaged photo, which is left
+    /// out, and about the first other failure. A dry run shows instead what would be sent.
     int run();
 
 private:

@@ -10,18 +10,18 @@
 
 namespace printdialog {
 
-/// What printing one photo would send to a queue, or leave as files, told instead of done. A snapshot.
+/// A dry run of one photo: what printing it would send to a queue, or write as files. A snapshot.
 class JobPlan
 {
     Q_DECLARE_TR_FUNCTIONS(JobPlan)
 
 public:
-    /// Makes what would be sent, and sends nothing. `uri` is the queue's own address, `names` has the names
-    /// for the built-in printer's files.
+    /// Makes the document without sending it. `uri` is the queue's own address; `names` chooses the names of
+    /// the built-in printer's files.
     static Result<JobPlan, PhotoPrinter::Fault> make(const PlacedPhoto &placed, const PrintJob &job,
                                                      const QString &uri, PrintedNames &names);
 
-    /// "label: value", one for each thing.
+    /// One line per entry: "label: value".
     QStringList lines() const;
     /// An object with "queue", "server", "uri", "document", "format", "bytes", "untouched", "title", "copies"
     /// and "options"; for the built-in printer "queue", "files", "document", "copies" and "options".

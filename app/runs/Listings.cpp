@@ -30,7 +30,8 @@ struct ListingText
     Q_DECLARE_TR_FUNCTIONS(Listings)
 };
 
-/// The built-in printer first; it is the default when the user has made it that, or when there is no other.
+/// The built-in printer comes first. It is the default if the user has set it, or if there is no other
+/// printer.
 Result<QList<Queue>, QueueFault> allPrinters(const CommandLine &commandLine)
 {
     const std::optional<Destination> chosen = UserDestinations::read().defaultPrinter;
@@ -96,7 +97,7 @@ int fail(Console &console, const QString &sentence)
     return exitFailed;
 }
 
-/// Nothing when there is none; the user has been told why.
+/// Nothing on failure, after a complaint.
 std::optional<RequestedSession> openJob(const CommandLine &commandLine, Console &console)
 {
     auto requested = openRequestedSession(commandLine);
@@ -136,8 +137,8 @@ int listOptions(const CommandLine &commandLine, Console &console)
     if (!opened)
         return exitFailed;
     DialogSession &session = *opened->session;
-    // The panels keep their choices to themselves until they are saved. Without any choice of the command
-    // line a printer whose own defaults are in conflict is shown all the same.
+    // Makes the panels save their choices. A printer whose own defaults conflict is still shown if the
+    // command line makes no choice.
     const auto job = session.jobOptions();
     if (!job && !commandLine.options.isEmpty())
         return fail(console, job.failure().text);

@@ -16,12 +16,12 @@ class Console;
 /// The built-in printer and the queues. Text: a line for each, its cells separated by tabs. JSON: an array of
 /// objects with "name", "description", "location", "model", "state", "stateReasons" (keywords), "stateText"
 /// (both in words), "acceptsJobs", "supplies" (objects with "name", "level" in percent or null, and "low"),
-/// "members" (of a class), "uri", "default" and "builtIn". A print server that cannot be asked is a failure,
-/// but for a machine without one (isWithoutPrintServer()) whose user has named neither a server nor a default
-/// printer: it has the built-in printer.
+/// "members" (of a class), "uri", "default" and "builtIn". A print server that cannot be reached is a
+/// failure, except on a machine without one (isWithoutPrintServer()) if neither a server nor a default
+/// printer is named: it has the built-in printer.
 int listPrinters(const CommandLine &commandLine, Console &console);
 
-/// The options of the printer asked for, after the choices of the command line. Text: a table. JSON: an array
+/// The options of the requested printer, after the choices of the command line. Text: a table. JSON: an array
 /// of objects with "keyword", "text", "choice", "default" (null when there is none), "panel" (its name, or
 /// null) and "choices" (objects with "keyword" and "text").
 int listOptions(const CommandLine &commandLine, Console &console);

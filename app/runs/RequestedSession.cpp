@@ -65,7 +65,7 @@ OpenedPrinter openDefaultQueue(const Destination &destination, PanelMode mode)
             .arg(session.failure().text));
 }
 
-/// What is asked for by its name or as the user's default.
+/// The printer requested by name or as the user's default.
 std::optional<Destination> destinationOf(const CommandLine &commandLine)
 {
     if (commandLine.printer || commandLine.ppd)
@@ -73,7 +73,7 @@ std::optional<Destination> destinationOf(const CommandLine &commandLine)
     return UserDestinations::read().defaultPrinter;
 }
 
-/// Makes the choices of the preset that the destination names. Empty, or why they cannot be had.
+/// Makes the choices of the preset that the destination names. Returns an empty string, or why it failed.
 QString usePreset(RequestedSession &requested, const Destination &destination)
 {
     const PrinterDescription &printer = requested.session->printer();

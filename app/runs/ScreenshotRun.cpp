@@ -37,7 +37,7 @@ void waitFor(QApplication &application, Condition condition)
     }
 }
 
-/// The sentence for what went wrong; empty when the picture is there.
+/// Returns a sentence on failure; empty on success.
 QString save(const QPixmap &picture, const QString &path)
 {
     QSaveFile file(path);
@@ -49,7 +49,8 @@ QString save(const QPixmap &picture, const QString &path)
 
 QString renderPages(PrintDialog &dialog, QApplication &application, const QDir &folder)
 {
-    // A page is made when it is first shown, and may be wider than those before: each picture has them all.
+    // A page is created when it is first shown, and may be wider than earlier ones, so create all before the
+    // first picture.
     for (int page = 0; page < dialog.pageCount(); ++page) {
         dialog.showPage(page);
         application.processEvents();
@@ -68,7 +69,7 @@ QString renderPages(PrintDialog &dialog, QApplication &application, const QDir &
     return {};
 }
 
-/// The sentence for why the printer's options are not there; empty when they are.
+/// Returns a sentence when the printer's options could not be loaded; empty on success.
 QString openPrinter(PrintDialog &dialog, QApplication &application, const QString &id)
 {
     const auto isOpen = [&dialog, &id] {
@@ -97,12 +98,13 @@ int runScreenshot(const CommandLine &commandLine, QApplication &application)
     auto setup = windowSetup(commandLine);
     if (!setup.photoFailures.isEmpty())
         return endWith(Console::oneLine(setup.photoFailures));
-    // What the dialog only tells in its window (a choice refused, a plug-in missing) is a failure here.
+    // Problems that the dialog only shows in its window (a refused choice, a missing plug-in) are failures
+    // here.
     const auto requested = openRequestedSession(commandLine);
     if (!requested)
         return endWith(requested.failure().text);
     const QString printer = requested->session->printer().destination.id();
-    if (!commandLine.asksForBuiltInPrinter()) // which may be with a preset
+    if (!commandLine.asksForBuiltInPrinter()) // the id may include a preset
         setup.printer = printer;
     setup.remembers = false;
     const QDir folder(*commandLine.screenshot);

@@ -10,7 +10,7 @@ class QApplication;
 namespace printdialog {
 
 /// Renders the dialog with each of its pages to FOLDER/<suffix of the panel's kind>.png, the summary to
-/// FOLDER/summary.png; the exit status.
+/// FOLDER/summary.png. Returns the exit status.
 int runScreenshot(const CommandLine &commandLine, QApplication &application);
 
 } // namespace printdialog

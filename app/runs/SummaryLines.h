@@ -9,7 +9,7 @@
 
 namespace printdialog {
 
-/// "label: text", one for each entry.
+/// One line per entry: "label: text".
 QStringList summaryLines(const SummaryEntries &entries);
 
 } // namespace printdialog

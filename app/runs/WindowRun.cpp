@@ -42,8 +42,8 @@ int runWindow(const CommandLine &commandLine, QApplication & /*application*/)
         console.complain(Console::oneLine(setup.photoFailures));
         return exitFailed;
     }
-    // The desktop knows the window by its desktop file. The icon is the program's own: to look for it in the
-    // icon theme takes longer than all of the panels.
+    // The desktop file identifies the window to the desktop. The icon is compiled in: finding it in the icon
+    // theme takes longer than loading all panels.
     QGuiApplication::setDesktopFileName(QStringLiteral("org.corvel.print"));
     QGuiApplication::setWindowIcon(QIcon(QStringLiteral(":/corvel-print/icons/corvel-print.png")));
     PrintDialog dialog(setup);
@@ -59,7 +59,7 @@ int runWindow(const CommandLine &commandLine, QApplication & /*application*/)
                 "The window cannot be seen, because QT_QPA_PLATFORM asks for \"%1\". Unset it, or print "
                 "without a window (--batch).")
                 .arg(platform));
-    // Queues are looked for once the window is there; none of it may hold up the first picture.
+    // Search for queues once the window is shown, so that nothing delays its first frame.
     QTimer::singleShot(0, &dialog, &PrintDialog::searchPrinters);
     dialog.restorePlacement(WindowPlacement::load());
     dialog.exec();

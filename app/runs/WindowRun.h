@@ -10,10 +10,10 @@ class QApplication;
 
 namespace printdialog {
 
-/// The setup of a window for the command line, its photos opened as far as they can be.
+/// The setup of a window for the command line; its photos are opened if possible.
 PrintDialogSetup windowSetup(const CommandLine &commandLine);
 
-/// Shows the dialog until the user closes it; the exit status.
+/// Shows the dialog until the user closes it. Returns the exit status.
 int runWindow(const CommandLine &commandLine, QApplication &application);
 
 } // namespace printdialog
