@@ -40,7 +40,7 @@ public:
     QString keep(const QMap<QString, QString> &options);
 
 Q_SIGNALS:
-    /// The user has asked for a preset's choices.
+    /// The user has selected a preset.
     void aboutToUse();
     /// The choices to be saved conflict.
     void jobRefused();

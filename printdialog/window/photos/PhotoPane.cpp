@@ -210,7 +210,7 @@ bool PhotoPane::isReady() const
     return photos_.isEmpty() || (preview_->isReady() && strip_->isReady());
 }
 
-// Inside a scroll area, the minimum height is asked for: the preview shrinks before anything scrolls.
+// Inside a scroll area, requests only the minimum height: the preview shrinks before anything scrolls.
 int PhotoPane::heightForWidth(int width) const
 {
     return layout()->minimumHeightForWidth(width);
