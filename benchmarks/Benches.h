@@ -8,9 +8,8 @@
 /// Process start to painted dialog, ours beside Qt's and GTK's with a PPD's options; each run in a new
 /// process.
 void benchOpening();
-/// What such a process does: `which` is "ours", with the queue or the built-in printer, or "qt". Ends the
-/// process at the first paint, whose time it prints.
-int runOpeningChild(const QString &which, const QString &queue);
+/// What such a process does with Qt's dialog. Ends the process at the first paint, whose time it prints.
+int runOpeningChild();
 
 /// What print servers add to the painted window: one that never answers, one with 500 queues.
 void benchQueues();

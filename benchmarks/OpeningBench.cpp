@@ -3,7 +3,7 @@
 
 #include "BenchTable.h"
 #include "Benches.h"
-#include "PrintDialog.h"
+#include "PaintWatch.h"
 
 #include <QtCore/QDirIterator>
 #include <QtCore/QFile>
@@ -17,59 +17,12 @@
 #include <QtWidgets/QTabWidget>
 
 #include <algorithm>
-#include <unistd.h>
 
 #ifdef CORVEL_BENCH_HAS_CUPSD
 #include "PrivateCupsd.h"
 #endif
 
 namespace {
-
-/// Reports the time of the first paint of the widget that is waited for, and ends the process.
-class PaintWatch : public QObject
-{
-public:
-    explicit PaintWatch(QString objectName)
-        : QObject(qApp)
-        , objectName_(std::move(objectName))
-    {
-        qApp->installEventFilter(this);
-    }
-
-    bool eventFilter(QObject *watched, QEvent *event) override
-    {
-        // The paint event itself has not been dealt with yet; the next turn of the loop comes after it.
-        if (event->type() == QEvent::Paint && watched->objectName() == objectName_) {
-            QTimer::singleShot(0, this, [] {
-                std::printf("%.3f\n", monotonicMilliseconds());
-                std::fflush(stdout);
-                _exit(0);
-            });
-        }
-        return QObject::eventFilter(watched, event);
-    }
-
-private:
-    QString objectName_;
-};
-
-/// Our dialog, with the built-in printer or with a queue, until a panel is painted.
-int openOurs(const std::optional<QString> &queue)
-{
-    using namespace printdialog;
-    PrintDialogSetup setup;
-    const auto photo = Photo::open(QStringLiteral(CORVEL_SAMPLE_PHOTO));
-    if (!photo)
-        return 1;
-    setup.photos = {*photo};
-    setup.printer = queue;
-    setup.remembers = false;
-    PrintDialog dialog(setup);
-    new PaintWatch(QStringLiteral("PDEView"));
-    if (queue)
-        QTimer::singleShot(0, &dialog, &PrintDialog::searchPrinters);
-    return dialog.exec();
-}
 
 /// Qt's dialog, then its printer's properties with the page of the PPD's options.
 int openQts()
@@ -134,9 +87,11 @@ double opening(const QStringList &command, const QProcessEnvironment &environmen
     return child.exitCode() == 0 && end > 0.0 ? end - begin : 0.0;
 }
 
-QStringList childCommand(const QString &which)
+/// Our program, with the queue or the built-in printer.
+QStringList ours(const QString &queue = {})
 {
-    return {QApplication::applicationFilePath(), QStringLiteral("--child"), which};
+    const QStringList program = {QStringLiteral(CORVEL_BENCH_OURS)};
+    return queue.isEmpty() ? program : program + QStringList(queue);
 }
 
 /// The medians of each command's openings, which took turns; 0 for one that failed.
@@ -211,7 +166,7 @@ void benchBesideGtk()
     environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("xcb"));
     environment.insert(QStringLiteral("GDK_BACKEND"), QStringLiteral("x11"));
     const std::vector<double> times =
-        compare({{childCommand(QStringLiteral("ours")) << QStringLiteral("photo"), environment},
+        compare({{ours(QStringLiteral("photo")), environment},
                  {{QStringLiteral(CORVEL_BENCH_GTK), QStringLiteral("photo")}, environment}});
     printComparison(what, times[0], QStringLiteral("GTK"), times[1], 1.0);
 #endif
@@ -220,11 +175,9 @@ void benchBesideGtk()
 
 } // namespace
 
-int runOpeningChild(const QString &which, const QString &queue)
+int runOpeningChild()
 {
     QTimer::singleShot(15000, qApp, [] { _exit(1); });
-    if (which == QLatin1String("ours"))
-        return openOurs(queue.isEmpty() ? std::nullopt : std::optional(queue));
     return openQts();
 }
 
@@ -236,8 +189,7 @@ void benchOpening()
     if (copyWithOneForm(bundles.path())) {
         QProcessEnvironment oneForm = environment;
         oneForm.insert(QStringLiteral("CORVEL_PDE_PATH"), bundles.path());
-        const std::vector<double> times = compare({{childCommand(QStringLiteral("ours")), environment},
-                                                   {childCommand(QStringLiteral("ours")), oneForm}});
+        const std::vector<double> times = compare({{ours(), environment}, {ours(), oneForm}});
         printComparison(what, times[0], QStringLiteral("one form"), times[1], 1.3);
     }
 #ifdef CORVEL_BENCH_HAS_CUPSD
@@ -250,10 +202,10 @@ void benchOpening()
     }
     server.run(QStringLiteral("lpadmin"), {QStringLiteral("-d"), QStringLiteral("photo")});
     const QProcessEnvironment withServer = QProcessEnvironment::systemEnvironment();
-    const std::vector<double> times =
-        compare({{childCommand(QStringLiteral("ours")) << QStringLiteral("photo"), withServer},
-                 {childCommand(QStringLiteral("qt")), withServer},
-                 {{QStringLiteral(CORVEL_BENCH_PLAIN)}, withServer}});
+    const std::vector<double> times = compare(
+        {{ours(QStringLiteral("photo")), withServer},
+         {{QApplication::applicationFilePath(), QStringLiteral("--child"), QStringLiteral("qt")}, withServer},
+         {{QStringLiteral(CORVEL_BENCH_PLAIN)}, withServer}});
     const QString queues = QStringLiteral("process start to a queue's painted options");
     printComparison(queues, times[0], QStringLiteral("QPrintDialog"), times[1], 0.7);
     printComparison(queues, times[0], QStringLiteral("20 sliders"), times[2], 1.6);

@@ -23,9 +23,8 @@ int main(int argc, char *argv[])
     QApplication application(argc, argv);
     const QStringList arguments = QApplication::arguments();
     if (arguments.value(1) == QLatin1String("--child"))
-        return arguments.value(2) == QLatin1String("queues")
-                   ? runQueueChild(arguments.value(3).toInt())
-                   : runOpeningChild(arguments.value(2), arguments.value(3));
+        return arguments.value(2) == QLatin1String("queues") ? runQueueChild(arguments.value(3).toInt())
+                                                             : runOpeningChild();
 
     // With names of parts only those: corvel-bench queues jobs
     const std::pair<const char *, void (*)()> parts[] = {{"opening", benchOpening}, {"queues", benchQueues},
