@@ -8,6 +8,10 @@
 
 #include <QtCore/QBuffer>
 #include <QtCore/QByteArrayView>
+#include <QtCore/QDirIterator>
+#include <QtCore/QJsonArray>
+#include <QtCore/QJsonObject>
+#include <QtCore/QPluginLoader>
 #include <QtGui/QImageReader>
 
 #include <algorithm>
@@ -96,8 +100,31 @@ QByteArray nameOf(QByteArray head)
     return boxedFormat(head);
 }
 
+/// Whether a plug-in of the image reader names the format. It is only looked at, not loaded.
+bool isNamedByPlugin(const QByteArray &name)
+{
+    const QStringList folders = QCoreApplication::libraryPaths();
+    for (const QString &folder : folders) {
+        QDirIterator files(folder + QLatin1String("/imageformats"), QDir::Files);
+        while (files.hasNext()) {
+            const QJsonObject description = QPluginLoader(files.next()).metaData();
+            const QJsonArray keys = description[QLatin1String("MetaData")][QLatin1String("Keys")].toArray();
+            if (keys.contains(QString::fromLatin1(name)))
+                return true;
+        }
+    }
+    return false;
+}
+
+/// To ask the image reader loads all of its plug-ins. A window would wait for them as it opens, while the
+/// thread that decodes its photo loads them anyway; so nearly every photo's format goes without.
 bool imageReaderReads(const QByteArray &name)
 {
+    if (name == "jpeg") {
+        static const bool isNamed = isNamedByPlugin("jpeg");
+        if (isNamed)
+            return true;
+    }
     static const QList<QByteArray> formats = QImageReader::supportedImageFormats();
     return formats.contains(name);
 }
