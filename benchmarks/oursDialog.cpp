@@ -28,7 +28,7 @@ int open(const std::optional<QString> &queue)
     PrintDialog dialog(setup);
     new PaintWatch(QStringLiteral("PDEView"));
     if (queue)
-        QTimer::singleShot(0, &dialog, &PrintDialog::searchPrinters);
+        dialog.searchPrinters();
     return dialog.exec();
 }
 

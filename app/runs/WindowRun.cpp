@@ -7,7 +7,6 @@
 #include "PresetStore.h"
 #include "WindowPlacement.h"
 
-#include <QtCore/QTimer>
 #include <QtGui/QIcon>
 #include <QtWidgets/QApplication>
 
@@ -59,8 +58,8 @@ int runWindow(const CommandLine &commandLine, QApplication & /*application*/)
                 "The window cannot be seen, because QT_QPA_PLATFORM asks for \"%1\". Unset it, or print "
                 "without a window (--batch).")
                 .arg(platform));
-    // Search for queues once the window is shown, so that nothing delays its first frame.
-    QTimer::singleShot(0, &dialog, &PrintDialog::searchPrinters);
+    // A worker thread searches while the window is laid out and shown.
+    dialog.searchPrinters();
     dialog.restorePlacement(WindowPlacement::load());
     dialog.exec();
     WindowPlacement::save(dialog.saveGeometry());
