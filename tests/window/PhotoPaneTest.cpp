@@ -32,6 +32,7 @@
 #include <cmath>
 #include <cstdlib>
 #include <memory>
+#include <sys/resource.h>
 
 using namespace printdialog;
 using namespace Qt::StringLiterals;
@@ -107,6 +108,7 @@ private Q_SLOTS:
     void cropByMouseAndKeys();
     void paperIsWhiteInDarkThemes();
     void paintsWhilePhotosAreDecoded();
+    void photosGiveWay();
     void placementByControls();
     void strip();
     void droppedFiles();
@@ -296,6 +298,24 @@ void PhotoPaneTest::paintsWhilePhotosAreDecoded()
     rescuer->wait();
     photoThreads().waitForDone();
     QVERIFY(!isLate);
+}
+
+void PhotoPaneTest::photosGiveWay()
+{
+    const int ours = getpriority(PRIO_PROCESS, 0);
+    for (int i = 0; i < 2; ++i) { // a thread does many
+        int theirs = ours;
+        QSemaphore done;
+        startPhotoTask(
+            [&] {
+                theirs = getpriority(PRIO_PROCESS, 0);
+                done.release();
+            },
+            ShownPhoto);
+        QVERIFY(done.tryAcquire(1, 10000));
+        QCOMPARE(theirs, std::min(ours + 10, 19));
+    }
+    QCOMPARE(getpriority(PRIO_PROCESS, 0), ours);
 }
 
 void PhotoPaneTest::placementByControls()

@@ -14,7 +14,6 @@
 
 #include <QtCore/QFileInfo>
 #include <QtCore/QPointer>
-#include <QtCore/QThreadPool>
 #include <QtGui/QDragEnterEvent>
 #include <QtWidgets/QFileDialog>
 #include <QtWidgets/QHBoxLayout>
@@ -129,14 +128,14 @@ void PhotoPane::addFiles(const QStringList &paths)
                 Q_EMIT self->failed(failures.join(u'\n'));
         });
     };
-    photoThreads().start(open, ShownPhoto);
+    startPhotoTask(open, ShownPhoto);
 }
 
 void PhotoPane::check(const Photo &photo)
 {
     if (photo.isChecked())
         return;
-    photoThreads().start(
+    startPhotoTask(
         [photo, self = QPointer<PhotoPane>(this)] {
             if (!photo.damage())
                 return;

@@ -9,7 +9,6 @@
 
 #include <QtCore/QPointer>
 #include <QtCore/QSignalBlocker>
-#include <QtCore/QThreadPool>
 #include <QtGui/QDropEvent>
 #include <QtGui/QKeyEvent>
 #include <QtWidgets/QScrollBar>
@@ -115,7 +114,7 @@ void PhotoStrip::makeThumbnail(const Photo &photo)
             }
         });
     };
-    photoThreads().start(make, ThumbnailPhoto);
+    startPhotoTask(make, ThumbnailPhoto);
 }
 
 QSize PhotoStrip::sizeHint() const

@@ -6,7 +6,23 @@
 #include <QtCore/QCoreApplication>
 #include <QtCore/QThreadPool>
 
+#include <unistd.h>
+#include <utility>
+
 namespace printdialog {
+
+namespace {
+
+/// Qt's priorities of threads change nothing under Linux's usual scheduling, and its nice values are a
+/// thread's own.
+void giveWay()
+{
+    constexpr int nicer = 10;
+    thread_local const int value = ::nice(nicer);
+    Q_UNUSED(value)
+}
+
+} // namespace
 
 QThreadPool &photoThreads()
 {
@@ -19,6 +35,16 @@ QThreadPool &photoThreads()
                                   true);
     Q_UNUSED(areEnded)
     return threads;
+}
+
+void startPhotoTask(std::function<void()> task, PhotoPriority priority)
+{
+    photoThreads().start(
+        [task = std::move(task)] {
+            giveWay();
+            task();
+        },
+        priority);
 }
 
 } // namespace printdialog

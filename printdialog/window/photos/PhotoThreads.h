@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include <functional>
+
 class QThreadPool;
 
 namespace printdialog {
@@ -14,5 +16,8 @@ enum PhotoPriority { CheckedPhoto = -1, ThumbnailPhoto = 0, ShownPhoto = 1 };
 /// on which Qt paints and scales: there Qt would wait until every photo is decoded. Tasks that have not begun
 /// when the application ends are dropped.
 QThreadPool &photoThreads();
+/// Has one of these threads do the task. They give way to the rest of the program, and of the computer: a
+/// window that opens waits for its printer's options on no more cores than it has.
+void startPhotoTask(std::function<void()> task, PhotoPriority priority);
 
 } // namespace printdialog

@@ -7,7 +7,6 @@
 #include "PlainText.h"
 
 #include <QtCore/QPointer>
-#include <QtCore/QThreadPool>
 #include <QtGui/QMouseEvent>
 #include <QtGui/QPainter>
 #include <QtGui/QPainterPath>
@@ -77,7 +76,7 @@ void PreviewWidget::setPhoto(const Photo &photo)
 void PreviewWidget::decode(int detail)
 {
     detail_ = detail;
-    photoThreads().start(
+    startPhotoTask(
         [photo = photo_, number = number_, detail, self = QPointer<PreviewWidget>(this)] {
             const QImage image = photo.preview({detail, detail});
             QMetaObject::invokeMethod(qApp, [self, number, detail, image] {
