@@ -124,12 +124,11 @@ public:
     {
         note(QStringLiteral("panels"));
         pdekit::PanelList panels;
-        panels.push_back(
-            std::make_unique<RecordingPanel>(*bundle_, hostInfo,
-                                             pdekit::OptionPanel::Page{QStringLiteral("Border"),
-                                                                       QStringLiteral("border"),
-                                                                       QStringLiteral("border"),
-                                                                       {{1, QStringLiteral("Border")}}}));
+        const QString option = qEnvironmentVariable("CORVEL_TEST_OPTION", QStringLiteral("Border"));
+        panels.push_back(std::make_unique<RecordingPanel>(
+            *bundle_, hostInfo,
+            pdekit::OptionPanel::Page{
+                option, QStringLiteral("border"), QStringLiteral("border"), {{1, option}}}));
         return panels;
     }
 

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include "OpenedDialog.h"
+#include "Rows.h"
 #include "TestMain.h"
 
 #include "MessageBar.h"
@@ -21,45 +22,37 @@ using namespace testing_support;
 using namespace Qt::StringLiterals;
 
 /// The dialog with somebody else's plug-in.
-class PluginTest : public QObject
+class PluginTest : public WindowTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase_data()
-    {
-        QTest::addColumn<PanelMode>("mode");
-        QTest::newRow("constraint handling") << PanelMode::Constraint;
-        QTest::newRow("print settings") << PanelMode::Settings;
-    }
+    void initTestCase_data() { addModes(); }
 
     void init()
     {
-        folder_ = std::make_unique<QTemporaryDir>();
-        qputenv("XDG_CONFIG_HOME", QFile::encodeName(folder_->path()));
-        qputenv("CORVEL_TEST_CALLS", QFile::encodeName(folder_->filePath(u"calls"_s)));
-        qunsetenv("CORVEL_TEST_FAULT");
-        pdekit::Feedback::install(std::make_shared<RecordingFeedback>());
+        WindowTest::init();
+        qputenv("CORVEL_TEST_CALLS", QFile::encodeName(config_->filePath(u"calls"_s)));
+        for (const char *name : {"CORVEL_TEST_FAULT", "CORVEL_TEST_OPTION"})
+            qunsetenv(name);
     }
 
     void losesOnlyItsPage_data()
     {
-        QTest::addColumn<QString>("fault");
-        QTest::addColumn<QString>("word");
-        QTest::newRow("before there is a page") << u"panels:std"_s << u"no paper feed."_s;
-        QTest::newRow("its name") << u"name:platform"_s << u"no paper feed."_s;
-        QTest::newRow("restoring") << u"restore:std"_s << u"no paper feed."_s;
-        QTest::newRow("its view") << u"view:int"_s << u"without a description."_s;
-        QTest::newRow("showing") << u"willShow:std"_s << u"no paper feed."_s;
-        QTest::newRow("the user's choice") << u"act:platform"_s << u"\"Border\""_s;
-        QTest::newRow("help") << u"help:int"_s << u"\"Border\""_s;
-        QTest::newRow("its summary") << u"summary:std"_s << u"\"Border\""_s;
+        const auto add = rows<QString, QString>();
+        add("before there is a page", u"panels:std"_s, u"no paper feed."_s);
+        add("its name", u"name:platform"_s, u"no paper feed."_s);
+        add("restoring", u"restore:std"_s, u"no paper feed."_s);
+        add("its view", u"view:int"_s, u"without a description."_s);
+        add("showing", u"willShow:std"_s, u"no paper feed."_s);
+        add("the user's choice", u"act:platform"_s, u"\"Border\""_s);
+        add("help", u"help:int"_s, u"\"Border\""_s);
+        add("its summary", u"summary:std"_s, u"\"Border\""_s);
     }
 
     void losesOnlyItsPage()
     {
-        QFETCH(QString, fault);
-        QFETCH(QString, word);
+        const auto [fault, word] = row<QString, QString>();
         qputenv("CORVEL_TEST_FAULT", fault.toUtf8());
         const auto opened = open();
         const auto *pages = opened->find<QTabWidget>(u"panels"_s);
@@ -81,16 +74,14 @@ private Q_SLOTS:
 
     void saysWhatIsMissing_data()
     {
-        QTest::addColumn<QString>("fault");
-        QTest::addColumn<QString>("word");
-        QTest::newRow("thrown") << u"save:int"_s << u"without a description"_s;
-        QTest::newRow("reported") << u"save:false"_s << u"the disk is full."_s;
+        const auto add = rows<QString, QString>();
+        add("thrown", u"save:int"_s, u"without a description"_s);
+        add("reported", u"save:false"_s, u"the disk is full."_s);
     }
 
     void saysWhatIsMissing()
     {
-        QFETCH(QString, fault);
-        QFETCH(QString, word);
+        const auto [fault, word] = row<QString, QString>();
         const auto opened = open();
         chooseDeckle(*opened);
         qputenv("CORVEL_TEST_FAULT", fault.toUtf8());
@@ -147,9 +138,8 @@ private Q_SLOTS:
     // As PrintDialogPanel.h has it. What is asked several times in a row counts once.
     void callsInOrder()
     {
-        QFETCH_GLOBAL(PanelMode, mode);
         const auto calls = [this] {
-            QFile file(folder_->filePath(u"calls"_s));
+            QFile file(config_->filePath(u"calls"_s));
             QStringList names;
             if (file.open(QIODevice::ReadOnly))
                 names = QString::fromUtf8(file.readAll()).split(u'\n', Qt::SkipEmptyParts);
@@ -160,7 +150,7 @@ private Q_SLOTS:
         const auto opened = open();
         QCOMPARE(calls(), u"init panels name restore save restore view willShow"_s);
         chooseDeckle(*opened);
-        QCOMPARE(calls(), mode == PanelMode::Constraint ? u"act"_s : u"act save"_s);
+        QCOMPARE(calls(), mode_ == PanelMode::Constraint ? u"act"_s : u"act save"_s);
         QTest::keyClick(opened->dialog.get(), Qt::Key_F1);
         QTest::keyClick(opened->dialog.get(), Qt::Key_Z, Qt::ControlModifier);
         QCOMPARE(calls(), u"help save didChange restore"_s);
@@ -175,12 +165,44 @@ private Q_SLOTS:
         QCOMPARE(calls(), u"shouldHide"_s);
     }
 
-private:
-    static std::unique_ptr<OpenedDialog> open()
+    // libcups takes back the manual feed when a tray is chosen: both belong to the step.
+    void choiceChangesAnotherOne()
     {
-        QFETCH_GLOBAL(PanelMode, mode);
-        PrintDialogSetup setup = setupFor(mode);
-        setup.ppdFile = QStringLiteral(CORVEL_POSTCARD_PPD);
+        QFile example(QStringLiteral(CORVEL_POSTCARD_PPD));
+        QFile file(config_->filePath(u"trays.ppd"_s));
+        QVERIFY(example.open(QIODevice::ReadOnly) && file.open(QIODevice::WriteOnly));
+        file.write(example.readAll().replace("Border", "InputSlot"));
+        file.write("*OpenUI *ManualFeed: Boolean\n*DefaultManualFeed: False\n*ManualFeed True: \"\"\n"
+                   "*ManualFeed False: \"\"\n*CloseUI: *ManualFeed\n");
+        file.close();
+        qputenv("CORVEL_TEST_OPTION", "InputSlot");
+        const auto opened = open(file.fileName(), {{u"ManualFeed"_s, u"True"_s}});
+        const auto printed = [&] {
+            QDir(opened->folder.filePath(u"out"_s)).removeRecursively();
+            opened->dialog->print();
+            return QTest::qWaitFor(
+                       [&] { return opened->hasPrinted() && opened->find<QWidget>(u"print"_s)->isEnabled(); })
+                       ? opened->options()
+                       : QJsonObject();
+        };
+        const QJsonObject before = printed();
+        chooseDeckle(*opened);
+        const QJsonObject after = printed();
+        if (mode_ == PanelMode::Constraint)
+            QCOMPARE(after.keys(), QStringList({u"InputSlot"_s, u"PageSize"_s}));
+        opened->undo();
+        QCOMPARE(printed(), before);
+        opened->redo();
+        QCOMPARE(printed(), after);
+    }
+
+private:
+    std::unique_ptr<OpenedDialog> open(const QString &ppd = QStringLiteral(CORVEL_POSTCARD_PPD),
+                                       const QList<QPair<QString, QString>> &options = {}) const
+    {
+        PrintDialogSetup setup = setupFor(mode_);
+        setup.ppdFile = ppd;
+        setup.options = options;
         return std::make_unique<OpenedDialog>(setup);
     }
 
@@ -202,8 +224,6 @@ private:
         }
         return nullptr;
     }
-
-    std::unique_ptr<QTemporaryDir> folder_;
 };
 
 CORVEL_WIDGETS_TEST(PluginTest)
