@@ -267,6 +267,10 @@ void KitTest::rangeOfANumber()
     field->selectAll();
     field->insert(text("9"));
     QCOMPARE(note(), sentence);
+    field->move(0, view->height() - field->height());
+    field->selectAll();
+    field->insert(text("-9"));
+    QVERIFY(view->findChild<QLabel *>(text("numberNote"))->geometry().bottom() < field->y());
     slider->setFocus();
     QCOMPARE(note(), QString());
 }

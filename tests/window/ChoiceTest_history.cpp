@@ -53,6 +53,10 @@ void ChoiceTest::undoAndRedo()
 void ChoiceTest::oneActIsOneStep()
 {
     const OpenedDialog opened(setup());
+    for (const QString &number : {u"5"_s, u"0"_s})
+        opened.type(81, number);
+    QVERIFY(!opened.find<QWidget>(u"undo"_s)->isEnabled()); // what is as it was is no step
+    opened.control(82)->setFocus();
     auto *slider = opened.slider(3);
     const auto drag = [slider](int from, int to) {
         const auto at = [slider](int percent) {

@@ -81,6 +81,7 @@ private Q_SLOTS:
         // Saved by the dialog it is the whole set.
         opened->type(83, u"2"_s);
         act(*opened, Save);
+        QVERIFY(!opened->find<QMenu>(u"presetMenu"_s)->actions().at(Save)->isEnabled());
         QVERIFY(printsLikeLp(*opened, u"photo/warm"_s, u"blue=2"_s, "3"));
     }
 
@@ -96,11 +97,12 @@ private Q_SLOTS:
         QVERIFY(presets->currentText() != u"first"_s); // it says that it is changed
         use(*opened, u"first"_s);
         QCOMPARE(opened->fieldText(81), u"1"_s);
+        opened->type(82, u"4"_s);
         act(*opened, Rename);
         name(*opened, u"other"_s);
         QVERIFY(error(*opened).contains(u"\"other\""_s));
         name(*opened, u"second"_s);
-        QCOMPARE(presets->currentText(), u"second"_s);
+        QCOMPARE(presets->currentText(), u"second (changed)"_s);
         QVERIFY(lpoptions().contains("photo/second") && !lpoptions().contains("photo/first"));
         act(*opened, Remove);
         QVERIFY(opened->isSeen(u"presetRemove"_s));
@@ -174,6 +176,9 @@ private Q_SLOTS:
         QCOMPARE(opened->fieldTexts({81, 83}), u"5 4"_s);
         QCOMPARE(opened->find<QSpinBox>(u"copies"_s)->value(), 3);
         QCOMPARE(opened->find<QComboBox>(u"presets"_s)->currentText(), u"warm"_s);
+        opened->dialog->saveSettings();
+        use(*opened, u"warm"_s);
+        QCOMPARE(opened->message(), QString()); // of the settings that were saved
     }
 
     void builtInPrinterHasPresets()

@@ -229,6 +229,8 @@ private Q_SLOTS:
         QVERIFY2(match.hasMatch(), qPrintable(opened.message()));
         QCOMPARE(match.captured(2).toInt(), match.captured(1).toInt() + 2);
         QCOMPARE(opened.find<QWidget>(u"messageDetailText"_s)->accessibleName().count(u"sample.jpg"_s), 3);
+        for (const auto *button : opened.dialog->findChildren<QPushButton *>())
+            QVERIFY(button->text() != u"Open Folder"_s || !button->isVisible());
 
         const int second = match.captured(2).toInt() + 2;
         QVERIFY(cupsd_.setBackendScript("[ $1 -lt " + QByteArray::number(second) +
