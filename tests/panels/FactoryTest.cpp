@@ -73,22 +73,14 @@ QString kindsOf(const pdekit::PanelList &panels)
 } // namespace
 
 /// The panels that the plug-in makes for a dialog.
-class FactoryTest : public QObject
+class FactoryTest : public ModesTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase_data()
-    {
-        QTest::addColumn<Mode>("mode");
-        QTest::newRow("constraint handling") << Mode::Constraint;
-        QTest::newRow("print settings") << Mode::Settings;
-    }
-
     void order()
     {
-        QFETCH_GLOBAL(Mode, mode);
-        PanelHarness dialog(mode);
+        PanelHarness dialog(mode_);
         const auto panels = panelsOf(builtBundle(), dialog.callback);
         QCOMPARE(kindsOf(panels), text("coloradjust sharpness matte"));
         // Each has loaded its form when it was made, or does so only now. The lamination panel says nothing.
@@ -113,9 +105,8 @@ private Q_SLOTS:
 
     void missingPanelEndsTheList()
     {
-        QFETCH_GLOBAL(Mode, mode);
         const auto [failing, kinds] = row<int, QString>();
-        PanelHarness dialog(mode);
+        PanelHarness dialog(mode_);
         CountingSession session;
         session.ppd = dialog.session.ppd;
         dialog.callback->session = &session;
@@ -131,13 +122,12 @@ private Q_SLOTS:
 
     void missingForm()
     {
-        QFETCH_GLOBAL(Mode, mode);
         QTemporaryDir folder;
         const QString path = folder.filePath(text("Corvel9031.bundle"));
         std::filesystem::copy(builtBundle().toStdString(), path.toStdString(),
                               std::filesystem::copy_options::recursive);
         QVERIFY(QFile::remove(path + text("/Contents/Resources/corvelMatte.ui")));
-        PanelHarness dialog(mode);
+        PanelHarness dialog(mode_);
         dialog.printer.description = QUrl(text("ppd:x"));
         dialog.printer.data = "K9031"; // whose controls would be retired
         const auto panels = panelsOf(path, dialog.callback);

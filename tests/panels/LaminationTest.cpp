@@ -96,12 +96,11 @@ void record(pdekit::KeyValueObject &panel, QStringList &notices)
 } // namespace
 
 /// The panel of the print quality and the finish: its notices, its values, and what its model takes away.
-class LaminationTest : public QObject
+class LaminationTest : public ModesTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase_data();
     void refusedCellIsNeverSeen();
     void matrixVariant();
     void qualIsClamped();
@@ -110,13 +109,6 @@ private Q_SLOTS:
     void boundValueNamesAnOperation_data();
     void boundValueNamesAnOperation();
 };
-
-void LaminationTest::initTestCase_data()
-{
-    QTest::addColumn<Mode>("mode");
-    QTest::newRow("constraint handling") << Mode::Constraint;
-    QTest::newRow("print settings") << Mode::Settings;
-}
 
 void LaminationTest::refusedCellIsNeverSeen()
 {
@@ -234,8 +226,7 @@ void LaminationTest::isMatte()
 
 void LaminationTest::boundValueNamesAMember()
 {
-    QFETCH_GLOBAL(Mode, mode);
-    PanelHarness dialog(mode, ppd());
+    PanelHarness dialog(mode_, ppd());
     auto panel = dialog.make<NamedPanel>();
     panel->setValueForBoundControlWithKey(text("7"), text("probe"));
     QCOMPARE(panel->probes, 1);
@@ -269,9 +260,8 @@ void LaminationTest::boundValueNamesAnOperation_data()
 // To the letter, and only what takes no argument; in print-settings mode nobody is asked first.
 void LaminationTest::boundValueNamesAnOperation()
 {
-    QFETCH_GLOBAL(Mode, mode);
     QFETCH(bool, isPerformed);
-    if (mode == Mode::Constraint)
+    if (mode_ == Mode::Constraint)
         return;
     ListeningPanel panel;
     panel.setChoiceForKey({}, {}); // the record asks for the keys when it is made

@@ -15,22 +15,14 @@
 #include <QtWidgets/QCheckBox>
 
 /// What the model of the panels does not see of the user's acts, in both modes: the widgets get real events.
-class PanelActionsTest : public QObject
+class PanelActionsTest : public ModesTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase_data()
-    {
-        QTest::addColumn<Mode>("mode");
-        QTest::newRow("constraint handling") << Mode::Constraint;
-        QTest::newRow("print settings") << Mode::Settings;
-    }
-
     void typing()
     {
-        QFETCH_GLOBAL(Mode, mode);
-        PanelHarness dialog(mode);
+        PanelHarness dialog(mode_);
         auto panel = dialog.make<LVCorvelMainPDE>();
         dialog.show(*panel);
         for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter}) {
@@ -53,8 +45,7 @@ private Q_SLOTS:
 
     void movingTheSlider()
     {
-        QFETCH_GLOBAL(Mode, mode);
-        PanelHarness dialog(mode);
+        PanelHarness dialog(mode_);
         auto panel = dialog.make<LVCorvelMainPDE>();
         dialog.show(*panel);
         QSlider *slider = dialog.slider(4);
@@ -79,8 +70,7 @@ private Q_SLOTS:
     // Only a missing choice, a missing key or the print system makes it false.
     void answersOfMarking()
     {
-        QFETCH_GLOBAL(Mode, mode);
-        PanelHarness dialog(mode);
+        PanelHarness dialog(mode_);
         auto panel = dialog.make<LVCorvelMainPDE>();
         dialog.show(*panel);
         const QString key = text("Red");
@@ -113,8 +103,7 @@ private Q_SLOTS:
     // A number field that is its own slider has no range but 0.
     void fieldWithoutASlider()
     {
-        QFETCH_GLOBAL(Mode, mode);
-        PanelHarness dialog(mode);
+        PanelHarness dialog(mode_);
         auto panel = dialog.make<BuiltPanel>();
         QLineEdit *field = panel->add<QLineEdit>(5);
         for (const char *choice : {"1", "-1", "0", "-"}) {
@@ -126,8 +115,7 @@ private Q_SLOTS:
 
     void mixedEnablerOfTheFinish()
     {
-        QFETCH_GLOBAL(Mode, mode);
-        PanelHarness dialog(mode);
+        PanelHarness dialog(mode_);
         auto panel = dialog.make<LVCorvelLaminationPDE>();
         QCheckBox box;
         box.setCheckState(Qt::PartiallyChecked);
@@ -136,8 +124,7 @@ private Q_SLOTS:
 
     void sendersThatAreNoControls()
     {
-        QFETCH_GLOBAL(Mode, mode);
-        PanelHarness dialog(mode);
+        PanelHarness dialog(mode_);
         auto panel = dialog.make<BuiltPanel>();
         panel->changePrinterSetting(panel->add<QWidget>(1));
         panel->changePrinterSetting(panel.get());
@@ -150,8 +137,7 @@ private Q_SLOTS:
     // Where a control is asked for, none does nothing.
     void missingControls()
     {
-        QFETCH_GLOBAL(Mode, mode);
-        PanelHarness dialog(mode);
+        PanelHarness dialog(mode_);
         const auto ask = [&dialog](RKTPPRBasePDEcorvel &panel) {
             dialog.log.clear();
             panel.controlTextDidEndEditing(nullptr);

@@ -24,6 +24,19 @@ bool ConstraintCallback::willChangePPDOptionKeyValuePpdChoice(const QString &key
     return true;
 }
 
+void ModesTest::initTestCase_data()
+{
+    QTest::addColumn<Mode>("mode");
+    QTest::newRow("constraint handling") << Mode::Constraint;
+    QTest::newRow("print settings") << Mode::Settings;
+}
+
+void ModesTest::init()
+{
+    QFETCH_GLOBAL(Mode, mode);
+    mode_ = mode;
+}
+
 std::optional<pdekit::Bundle> emptyBundle(const QString &folder, const QByteArray &identifier)
 {
     QFile info(folder + text("/Contents/Info.json"));

@@ -5,11 +5,11 @@
 
 #include "Bundle.h"
 #include "ControlValues.h"
-#include "Feedback.h"
 #include "PrintDialogCallback.h"
 #include "PrintSession.h"
 #include "Printer.h"
 #include "RKTPPRBasePDEcorvel.h"
+#include "RecordingFeedback.h"
 #include "Rows.h"
 #include "ViewTags.h"
 
@@ -129,31 +129,24 @@ public:
     QStringList offers;  ///< "key=choice"
 };
 
-class RecordingFeedback : public pdekit::Feedback
-{
-public:
-    void beep() override { ++beeps; }
-    void alert(const pdekit::Alert &alert) override
-    {
-        alerts << alert.message + u'|' + alert.information + u'|' + alert.button;
-    }
-    bool openHelpBook(const pdekit::Bundle & /*bundle*/, const QString &name) override
-    {
-        helpBooks << name;
-        return opensHelp;
-    }
-
-    int beeps = 0;
-    QStringList alerts;
-    QStringList helpBooks;
-    bool opensHelp = true;
-};
-
 /// A bundle in the folder, of which nothing is there but its Info.json.
 std::optional<pdekit::Bundle> emptyBundle(const QString &folder, const QByteArray &identifier);
 
 enum class Mode { Constraint, Settings };
 Q_DECLARE_METATYPE(Mode)
+
+/// A test that runs in each mode, which is mode_ then.
+class ModesTest : public QObject
+{
+    Q_OBJECT
+
+protected Q_SLOTS:
+    void initTestCase_data();
+    void init();
+
+protected:
+    Mode mode_ = Mode::Constraint;
+};
 
 /// The dialog's side of one panel: a real PPD, the callback object, the log, what the user hears, and a
 /// window with a default button.

@@ -12,17 +12,14 @@
 #include <QtWidgets/QRadioButton>
 
 /// A page from a table, with a control of each kind.
-class OptionPanelTest : public QObject
+class OptionPanelTest : public ModesTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void choicesGoBothWays_data() { modes(); }
-
     void choicesGoBothWays()
     {
-        QFETCH(Mode, mode);
-        PanelHarness dialog(mode, ppd());
+        PanelHarness dialog(mode_, ppd());
         dialog.session.ticket.options.insert(text("Red"), text("0"));
         const auto panel = made(dialog);
         QVERIFY(panel->restoreValuesAndReturnError(nullptr));
@@ -45,8 +42,8 @@ private Q_SLOTS:
 
         QVERIFY(panel->saveValuesAndReturnError(nullptr));
         const auto chosen = [&](const char *key) {
-            return mode == Mode::Constraint ? dialog.marked(text(key))
-                                            : dialog.session.ticket.options.value(text(key));
+            return mode_ == Mode::Constraint ? dialog.marked(text(key))
+                                             : dialog.session.ticket.options.value(text(key));
         };
         QCOMPARE(chosen("Red"), text("-12"));
         QCOMPARE(chosen("AdjustmentsEnabled"), text("False"));
@@ -58,12 +55,9 @@ private Q_SLOTS:
         QCOMPARE(chosen("AdjustmentsEnabled"), text("True"));
     }
 
-    void refusedChoiceIsPutBack_data() { modes(); }
-
     void refusedChoiceIsPutBack()
     {
-        QFETCH(Mode, mode);
-        PanelHarness dialog(mode, ppd());
+        PanelHarness dialog(mode_, ppd());
         if (dialog.constraints)
             dialog.constraints->refused = QStringList{text("Red")};
         const auto panel = made(dialog);
@@ -88,12 +82,6 @@ private Q_SLOTS:
     }
 
 private:
-    static void modes()
-    {
-        QTest::addColumn<Mode>("mode");
-        QTest::newRow("constraint handling") << Mode::Constraint;
-        QTest::newRow("print settings") << Mode::Settings;
-    }
     static QByteArray ppd()
     {
         return PanelHarness::colorPpd(

@@ -36,12 +36,6 @@ void WindowTest::addModes()
     QTest::newRow("settings") << PanelMode::Settings;
 }
 
-bool RecordingFeedback::openHelpBook(const pdekit::Bundle & /*bundle*/, const QString &name)
-{
-    helpBooks << name;
-    return opensHelp;
-}
-
 PrintDialogSetup setupFor(PanelMode mode)
 {
     const auto photo = Photo::open(QStringLiteral(CORVEL_SAMPLE_PHOTO));

@@ -3,8 +3,8 @@
 
 #pragma once
 
-#include "Feedback.h"
 #include "PrintDialog.h"
+#include "RecordingFeedback.h"
 
 #include <QtCore/QFile>
 #include <QtCore/QJsonObject>
@@ -27,19 +27,6 @@ namespace testing_support {
 
 using namespace printdialog;
 using namespace Qt::StringLiterals;
-
-/// What the panels do to the desktop, counted instead of done.
-class RecordingFeedback : public pdekit::Feedback
-{
-public:
-    void beep() override { ++beeps; }
-    void alert(const pdekit::Alert & /*alert*/) override {}
-    bool openHelpBook(const pdekit::Bundle &bundle, const QString &name) override;
-
-    int beeps = 0;
-    QStringList helpBooks;
-    bool opensHelp = true;
-};
 
 /// A test of the window: each case has its own settings and caches, which are empty.
 class WindowTest : public QObject
