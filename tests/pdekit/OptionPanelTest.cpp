@@ -67,7 +67,9 @@ private Q_SLOTS:
         QTest::keyClicks(field, text("ab"));
         QTest::keyClick(field, Qt::Key_Return);
         QCOMPARE(field->text(), text("0"));
-        QVERIFY(dialog.feedback->beeps > 0);
+        QVERIFY(std::exchange(dialog.feedback->beeps, 0) > 0);
+        QVERIFY(!panel->markChoiceForPPDOptionKeyFromSender(text("ab"), text("Red"), nullptr));
+        QCOMPARE(dialog.feedback->beeps, 0); // a program's choice
     }
 
     void reportsWhatIsMissing()

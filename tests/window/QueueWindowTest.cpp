@@ -92,10 +92,12 @@ private Q_SLOTS:
         const OpenedDialog opened(setupForPrinter());
         opened.type(81, u"9"_s);
         opened.type(82, u"8"_s);
+        opened.find<QSpinBox>(u"copies"_s)->setValue(3);
         opened.dialog->searchPrinters();
         QTRY_VERIFY(opened.dialog->isReady());
         QVERIFY2(opened.message().contains(u"have changed"_s), qPrintable(opened.message()));
         QCOMPARE(opened.fieldTexts({81, 82}), u"0 8"_s);
+        QCOMPARE(opened.find<QSpinBox>(u"copies"_s)->value(), 3);
     }
 
     void rememberedQueueThatIsGone()
