@@ -136,7 +136,7 @@ Fault readMode(const QCommandLineParser &parser, PanelMode &mode)
         return found;
     if (*name != QLatin1String("constraint") && *name != QLatin1String("settings")) {
         return fault(UsageFault::Value,
-                     Text::tr("There is no mode \"%1\"; it is either constraint or settings.").arg(*name));
+                     Text::tr("There is no mode \"%1\". Choose constraint or settings.").arg(*name));
     }
     mode = *name == QLatin1String("settings") ? PanelMode::Settings : PanelMode::Constraint;
     return std::nullopt;
@@ -154,7 +154,7 @@ Fault readServer(const QCommandLineParser &parser, std::optional<QString> &serve
     if (match.hasMatch() && port >= 1 && port <= 65535)
         return std::nullopt;
     return fault(UsageFault::Value,
-                 Text::tr("\"%1\" is not a print server; it is given as HOST or HOST:PORT.").arg(*server));
+                 Text::tr("\"%1\" is not a print server. Give it as HOST or HOST:PORT.").arg(*server));
 }
 
 Fault readWait(const QCommandLineParser &parser, std::optional<std::chrono::seconds> &wait)
@@ -167,7 +167,7 @@ Fault readWait(const QCommandLineParser &parser, std::optional<std::chrono::seco
     const int seconds = text->toInt(&isNumber);
     if (!isNumber || seconds < 0 || seconds > longest)
         return fault(UsageFault::Value,
-                     Text::tr("\"%1\" is not a time to wait; it is a number of seconds from 0 to %2.")
+                     Text::tr("\"%1\" is not a time to wait. Give a number of seconds from 0 to %2.")
                          .arg(*text, QString::number(longest)));
     wait = std::chrono::seconds(seconds);
     return std::nullopt;
@@ -182,7 +182,7 @@ Fault readCopies(const QCommandLineParser &parser, std::optional<int> &copies)
     const int number = text->toInt(&isNumber);
     if (!isNumber || number < 1 || number > mostCopies)
         return fault(UsageFault::Value,
-                     Text::tr("\"%1\" copies cannot be printed; give a number from 1 to %2.")
+                     Text::tr("\"%1\" copies cannot be printed. Give a number from 1 to %2.")
                          .arg(*text, QString::number(mostCopies)));
     copies = number;
     return std::nullopt;
@@ -198,7 +198,7 @@ Fault readPhotos(const QStringList &arguments, QStringList &photos)
         if (!path)
             return fault(
                 UsageFault::Value,
-                Text::tr("\"%1\" is not a file on this computer; copy the photo here first.").arg(argument));
+                Text::tr("\"%1\" is not a file on this computer. Copy the photo here first.").arg(argument));
         photos.append(*path);
     }
     return std::nullopt;
@@ -215,7 +215,7 @@ Fault readScaling(const QCommandLineParser &parser, Scaling &scaling)
         scaling = Scaling::ActualSize;
     else if (*name != QLatin1String("fit"))
         return fault(UsageFault::Value,
-                     Text::tr("There is no scaling \"%1\"; it is fit, fill or actual.").arg(*name));
+                     Text::tr("There is no scaling \"%1\". Choose fit, fill or actual.").arg(*name));
     return std::nullopt;
 }
 
@@ -236,7 +236,7 @@ Fault readCrop(const QCommandLineParser &parser, PlacementChoice &placement)
     if (parts.size() != 2 || !isLeftNumber || !isTopNumber || !isPerCent(left) || !isPerCent(top)) {
         return fault(
             UsageFault::Value,
-            Text::tr("\"%1\" is not a crop; it is two numbers from 0 to 100, such as 50,0.").arg(*value));
+            Text::tr("\"%1\" is not a crop. Give two numbers from 0 to 100, such as 50,0.").arg(*value));
     }
     if (placement.scaling == Scaling::Fit) {
         return fault(UsageFault::Combination,
@@ -253,7 +253,7 @@ Fault readChoices(const QCommandLineParser &parser, QList<RequestedChoice> &choi
         const qsizetype equals = value.indexOf(u'=');
         if (equals < 1) {
             return fault(UsageFault::Value,
-                         Text::tr("\"%1\" chooses nothing; an option is given as KEY=CHOICE.").arg(value));
+                         Text::tr("\"%1\" is not an option. Give it as KEY=CHOICE.").arg(value));
         }
         choices.append({value.left(equals), value.mid(equals + 1)});
     }

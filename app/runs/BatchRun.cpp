@@ -105,7 +105,7 @@ int BatchRun::conclude(const PrintOutcome &outcome, bool isQueue)
 {
     if (outcome.wasStopped)
         return fail(isQueue && !outcome.names.isEmpty()
-                        ? tr("Cancelled; the jobs sent were taken back from the printer.")
+                        ? tr("Cancelled; the jobs already sent were cancelled, too.")
                         : tr("Cancelled; nothing more is printed."));
     for (const QString &waiting : outcome.waiting)
         console_.complain(waiting);

@@ -134,10 +134,9 @@ Result<RequestedSession, std::monostate> openRequestedSession(const CommandLine 
     }
     const PrinterDescription &printer = requested.session->printer();
     if (!printer.hasPpd && !commandLine.options.isEmpty())
-        return refusal(
-            SessionText::tr("The printer \"%1\" has no PPD file and so no option %2; leave it out, or set "
-                            "the printer up with its driver.")
-                .arg(printer.destination.id(), commandLine.options.constFirst().key));
+        return refusal(SessionText::tr("The printer \"%1\" has no PPD file and so no option %2. Leave it "
+                                       "out, or set the printer up with its driver.")
+                           .arg(printer.destination.id(), commandLine.options.constFirst().key));
     if (const QString failure = usePreset(requested, destinationOf(commandLine).value_or(Destination()));
         !failure.isEmpty())
         return refusal(failure);

@@ -220,7 +220,7 @@ QString JobStatus::detail() const
 QString JobStatus::text() const
 {
     if (isServerAway)
-        return FollowingText::tr("the print server does not answer; it is asked again");
+        return FollowingText::tr("the print server does not answer; asking again");
     const QString more = detail();
     switch (state) {
     case State::Pending:

@@ -123,7 +123,7 @@ private:
         const int id = attribute ? ippGetInteger(attribute, 0) : 0;
         if (id <= 0)
             return queueFailure(QueueFault::Failed, queue,
-                                Text::tr("it took the job without giving it a number"));
+                                Text::tr("it accepted the job without giving it a number"));
         if (cancel_ && std::atomic_ref(*cancel_).load() != 0) {
             connection_.extend();
             [[maybe_unused]] const auto canceled = cancelJob(connection_, queue, id);
@@ -148,32 +148,28 @@ std::optional<Failure<QueueFault>> whyUnfit(const PrintJob &job, const JobDocume
         const QString keyword = plainText(option.key(), 80);
         if (!isKeyword(option.key()) || option.key() == QLatin1String("copies"))
             return refusal(Text::tr("The option \"%1\" is not sent, because this cannot be an option's "
-                                    "keyword; leave it out.")
+                                    "keyword. Leave it out.")
                                .arg(keyword));
         if (hasControls(option.value()))
-            return refusal(
-                Text::tr(
-                    "The option \"%1\" is not sent, because its value has a line break or another control "
-                    "character in it; choose another value.")
-                    .arg(keyword));
+            return refusal(Text::tr("The option \"%1\" is not sent, because its value has a line break or "
+                                    "another control character in it. Choose another value.")
+                               .arg(keyword));
         // CUPS would read it, and everything after it, as a collection.
         if (option.value().startsWith(u'{'))
-            return refusal(
-                Text::tr("The option \"%1\" is not sent, because CUPS misreads a value that begins with a "
-                         "brace; choose another value.")
-                    .arg(keyword));
+            return refusal(Text::tr("The option \"%1\" is not sent, because CUPS misreads a value that "
+                                    "begins with a brace. Choose another value.")
+                               .arg(keyword));
         if (option.value().toUtf8().size() > valueLimit)
-            return refusal(
-                Text::tr("The option \"%1\" is not sent, because its value is longer than %2 bytes; choose "
-                         "another value.")
-                    .arg(keyword, QString::number(valueLimit)));
+            return refusal(Text::tr("The option \"%1\" is not sent, because its value is longer than %2 "
+                                    "bytes. Choose another value.")
+                               .arg(keyword, QString::number(valueLimit)));
     }
     if (hasControls(QString::fromLatin1(document.mimeType)))
         return refusal(
             Text::tr("The document \"%1\" is not sent, because its type has a control character in it.")
                 .arg(plainText(document.name, shownTextLimit)));
     if (job.copies < 1 || job.copies > copiesLimit)
-        return refusal(Text::tr("%1 copies cannot be printed; choose a number from 1 to %2.")
+        return refusal(Text::tr("%1 copies cannot be printed. Choose a number from 1 to %2.")
                            .arg(QString::number(job.copies), QString::number(copiesLimit)));
     return std::nullopt;
 }

@@ -100,7 +100,7 @@ PhotoPrinter::Outcome PhotoPrinter::follow(const FollowLimits &limits,
         if (cancel && std::atomic_ref(*cancel).load() != 0)
             return outcome;
         if (!status) {
-            outcome.failure = tr("What has become of %1 (job %2) is not known: %3")
+            outcome.failure = tr("The outcome of %1 (job %2) is unknown: %3")
                                   .arg(job.photo, QString::number(job.id), status.failure().text);
             return outcome;
         }
@@ -117,9 +117,9 @@ void PhotoPrinter::note(const SentJob &job, const JobStatus &status, Outcome &ou
     const QString id = QString::number(job.id);
     const QString detail = status.detail();
     if (!status.isOver()) {
-        outcome.waiting.append(tr("%1 (job %2) is not printed yet: %3. The print server keeps it; "
-                                  "\"cancel %2\" takes it back.")
-                                   .arg(job.photo, id, status.text()));
+        outcome.waiting.append(
+            tr("%1 (job %2) is not printed yet: %3. The print server keeps it; \"cancel %2\" cancels it.")
+                .arg(job.photo, id, status.text()));
     } else if (status.state == JobStatus::State::Aborted) {
         if (!outcome.failure)
             outcome.failure =
@@ -129,7 +129,7 @@ void PhotoPrinter::note(const SentJob &job, const JobStatus &status, Outcome &ou
         if (!outcome.failure)
             outcome.failure =
                 tr("The job %3 for %2 on the printer \"%1\" was cancelled (%4).")
-                    .arg(queue, job.photo, id, detail.isEmpty() ? tr("nobody said why") : detail);
+                    .arg(queue, job.photo, id, detail.isEmpty() ? tr("no reason given") : detail);
     } else {
         outcome.ids.append(job.id);
         outcome.printed.append(tr("Printed %1 on %2 (job %3)").arg(job.photo, queue, id));

@@ -289,7 +289,7 @@ std::optional<Failure<PhotoFault>> Photo::damage() const
 Failure<PhotoFault> Photo::broken(const QString &detail) const
 {
     return {PhotoFault::Broken,
-            tr("\"%1\" is damaged and cannot be shown. Copy it again, or save it anew in a photo program.")
+            tr("\"%1\" is damaged and cannot be shown. Copy it again, or save it again in a photo program.")
                 .arg(plainText(path_)),
             detail};
 }

@@ -80,12 +80,11 @@ Result<PpdDocument, PpdFault> PpdDocument::open(const CheckedPpd &ppd)
     if (!record) {
         int line = 0;
         const QString reason = plainText(QString::fromUtf8(ppdErrorString(ppdLastError(&line))));
-        return Failure<PpdFault>{
-            PpdFault::Malformed,
-            OpeningText::tr("The PPD \"%1\" cannot be used: line %2: %3; correct it or fetch another from "
-                            "the printer's maker.")
-                .arg(plainText(ppd.name(), 300), QString::number(line), reason),
-            {}};
+        return Failure<PpdFault>{PpdFault::Malformed,
+                                 OpeningText::tr("The PPD \"%1\" cannot be used: line %2: %3. Correct it or "
+                                                 "fetch another from the printer's maker.")
+                                     .arg(plainText(ppd.name(), 300), QString::number(line), reason),
+                                 {}};
     }
     PpdDocument document(ppd, record.release());
     document.notes_ = ppd.inspection().notes;
@@ -93,13 +92,11 @@ Result<PpdDocument, PpdFault> PpdDocument::open(const CheckedPpd &ppd)
     document.indexOptions();
     document.indexPageSizes();
     if (document.pageSizes_.isEmpty())
-        return Failure<PpdFault>{
-            PpdFault::NoPageSize,
-            OpeningText::tr(
-                "The PPD \"%1\" has no page size that can be printed on; correct it or fetch another "
-                "from the printer's maker.")
-                .arg(plainText(ppd.name(), 300)),
-            {}};
+        return Failure<PpdFault>{PpdFault::NoPageSize,
+                                 OpeningText::tr("The PPD \"%1\" has no page size that can be printed on. "
+                                                 "Correct it or fetch another from the printer's maker.")
+                                     .arg(plainText(ppd.name(), 300)),
+                                 {}};
     document.markDefaults();
     return document;
 }

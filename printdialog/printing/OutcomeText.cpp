@@ -34,7 +34,7 @@ QString OutcomeText::counted() const
         return allPrinted();
     if (!job_.destination.isBuiltIn() && !outcome_.isFollowed)
         return outcome_.printed.isEmpty() ? QString()
-                                          : tr("Sent %1 of %2 photos to %3, which goes on printing.")
+                                          : tr("Sent %1 of %2 photos to %3, which continues printing.")
                                                 .arg(QString::number(outcome_.printed.size()),
                                                      QString::number(outcome_.total), job_.destination.id());
     QString text = tr("Printed %1 of %2 photos.").arg(outcome_.done).arg(outcome_.total);

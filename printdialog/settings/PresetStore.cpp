@@ -252,7 +252,7 @@ SettingsFailure PresetStore::mayChange(const Presets &presets, const QString &na
     if (!preset)
         return Failure<SettingsFault>{
             SettingsFault::NotThere,
-            tr("There is no preset \"%1\" any more. Save it under a new name.").arg(name),
+            tr("The preset \"%1\" no longer exists. Save it under a new name.").arg(name),
             {}};
     if (!preset->isWritable)
         return Failure<SettingsFault>{

@@ -168,12 +168,12 @@ void PrintingController::askToStop()
         Q_EMIT dismissed();
     } else if (!isStopping_) {
         asksToClose_ = false;
-        widgets_.message->ask(tr("Stop printing? What is not printed yet is taken back."),
+        widgets_.message->ask(tr("Stop printing? Photos not printed yet are cancelled."),
                               {{tr("Stop Printing"),
                                 [this] {
                                     stop();
                                 }},
-                               {tr("Go On"), [this] {
+                               {tr("Continue"), [this] {
                                     Q_EMIT dismissed();
                                 }}});
     }
@@ -202,13 +202,13 @@ bool PrintingController::mayClose()
 QString PrintingController::whatContinues() const
 {
     if (worker_->isFollowing())
-        return tr("The print server goes on printing when this window is closed.");
+        return tr("The print server continues printing when this window is closed.");
     const auto count = static_cast<int>(widgets_.photos->photos().size());
     if (job_.destination.isBuiltIn())
         return tr("Printed so far: %1 of %2 photos. The rest is not printed when this window is closed.")
             .arg(worker_->sent())
             .arg(count);
-    return tr("When this window is closed, the print server goes on printing the %1 of %2 photos that it "
+    return tr("When this window is closed, the print server continues printing the %1 of %2 photos that it "
               "has. "
               "The rest is not printed.")
         .arg(worker_->sent())

@@ -20,7 +20,7 @@
         <translation>Abgebrochen; es wird nichts mehr gedruckt.</translation>
     </message>
     <message>
-        <source>Cancelled; the jobs sent were taken back from the printer.</source>
+        <source>Cancelled; the jobs already sent were cancelled, too.</source>
         <translation>Abgebrochen; die gesendeten Aufträge wurden vom Drucker zurückgenommen.</translation>
     </message>
 </context>
@@ -126,14 +126,6 @@ was die Seiten sagen; mit --batch zusätzlich zum Drucken</translation>
         <translation>Der Wert von --%1 ist leer.</translation>
     </message>
     <message>
-        <source>There is no mode &quot;%1&quot;; it is either constraint or settings.</source>
-        <translation>Es gibt keinen Modus „%1“; möglich sind constraint und settings.</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; chooses nothing; an option is given as KEY=CHOICE.</source>
-        <translation>„%1“ wählt nichts aus; eine Option wird als KEY=CHOICE angegeben.</translation>
-    </message>
-    <message>
         <source>--ppd is for the built-in printer, and --printer names the queue &quot;%1&quot;.</source>
         <translation>--ppd gilt für den eingebauten Drucker, --printer nennt aber die Warteschlange „%1“.</translation>
     </message>
@@ -206,10 +198,6 @@ and from its top (otherwise 50,50, the middle)</source>
 linken und oberen Rand aus (sonst 50,50, die Mitte)</translation>
     </message>
     <message>
-        <source>There is no scaling &quot;%1&quot;; it is fit, fill or actual.</source>
-        <translation>Es gibt keine Größenanpassung „%1“; möglich sind fit, fill und actual.</translation>
-    </message>
-    <message>
         <source>--crop is for --scaling fill or actual; with fit nothing is cropped.</source>
         <translation>--crop gehört zu --scaling fill oder actual; mit fit wird nichts beschnitten.</translation>
     </message>
@@ -232,14 +220,6 @@ die neuen zu nummerieren; ein Foto wird nie ersetzt</translation>
     <message>
         <source>how many copies of each photo; otherwise the preset&apos;s, or 1</source>
         <translation>wie oft jedes Foto gedruckt wird; sonst wie in der Voreinstellung, oder 1</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; copies cannot be printed; give a number from 1 to %2.</source>
-        <translation>„%1“ Exemplare lassen sich nicht drucken; geben Sie eine Zahl von 1 bis %2 an.</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is not a file on this computer; copy the photo here first.</source>
-        <translation>„%1“ ist keine Datei auf diesem Computer; kopieren Sie das Foto zuerst hierher.</translation>
     </message>
     <message>
         <source>--batch and --dry-run do not look for damage in photos,
@@ -277,16 +257,36 @@ Beispiele:
 </translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is not a print server; it is given as HOST or HOST:PORT.</source>
-        <translation>„%1“ ist kein Druckserver; er wird als HOST oder HOST:PORT angegeben.</translation>
+        <source>There is no mode &quot;%1&quot;. Choose constraint or settings.</source>
+        <translation>Es gibt keinen Modus „%1“. Wählen Sie constraint oder settings.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is not a time to wait; it is a number of seconds from 0 to %2.</source>
-        <translation>„%1“ ist keine Wartezeit; sie ist eine Zahl von Sekunden von 0 bis %2.</translation>
+        <source>&quot;%1&quot; is not a print server. Give it as HOST or HOST:PORT.</source>
+        <translation>„%1“ ist kein Druckserver. Geben Sie ihn als HOST oder HOST:PORT an.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is not a crop; it is two numbers from 0 to 100, such as 50,0.</source>
-        <translation>„%1“ ist kein Ausschnitt; es sind zwei Zahlen von 0 bis 100, etwa 50,0.</translation>
+        <source>&quot;%1&quot; is not a time to wait. Give a number of seconds from 0 to %2.</source>
+        <translation>„%1“ ist keine Wartezeit. Geben Sie eine Zahl von Sekunden von 0 bis %2 an.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; copies cannot be printed. Give a number from 1 to %2.</source>
+        <translation>„%1“ Exemplare lassen sich nicht drucken. Geben Sie eine Zahl von 1 bis %2 an.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a file on this computer. Copy the photo here first.</source>
+        <translation>„%1“ ist keine Datei auf diesem Computer. Kopieren Sie das Foto zuerst hierher.</translation>
+    </message>
+    <message>
+        <source>There is no scaling &quot;%1&quot;. Choose fit, fill or actual.</source>
+        <translation>Es gibt keine Größenanpassung „%1“. Wählen Sie fit, fill oder actual.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a crop. Give two numbers from 0 to 100, such as 50,0.</source>
+        <translation>„%1“ ist kein Ausschnitt. Geben Sie zwei Zahlen von 0 bis 100 an, etwa 50,0.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not an option. Give it as KEY=CHOICE.</source>
+        <translation>„%1“ ist keine Option. Geben Sie sie als KEY=CHOICE an.</translation>
     </message>
 </context>
 <context>
@@ -361,7 +361,7 @@ Beispiele:
         <translation>er wurde neu gestartet und kennt den Auftrag %1 nicht</translation>
     </message>
     <message>
-        <source>the print server does not answer; it is asked again</source>
+        <source>the print server does not answer; asking again</source>
         <translation>der Druckserver antwortet nicht; er wird weiter gefragt</translation>
     </message>
 </context>
@@ -415,32 +415,32 @@ Beispiele:
 <context>
     <name>JobSubmission</name>
     <message>
-        <source>The option &quot;%1&quot; is not sent, because this cannot be an option&apos;s keyword; leave it out.</source>
-        <translation>Die Option „%1“ wird nicht gesendet, weil so kein Schlüsselwort einer Option heißen kann; lassen Sie sie weg.</translation>
-    </message>
-    <message>
-        <source>The option &quot;%1&quot; is not sent, because its value has a line break or another control character in it; choose another value.</source>
-        <translation>Die Option „%1“ wird nicht gesendet, weil ihr Wert einen Zeilenumbruch oder ein anderes Steuerzeichen enthält; wählen Sie einen anderen Wert.</translation>
-    </message>
-    <message>
-        <source>The option &quot;%1&quot; is not sent, because CUPS misreads a value that begins with a brace; choose another value.</source>
-        <translation>Die Option „%1“ wird nicht gesendet, weil CUPS einen Wert falsch liest, der mit einer geschweiften Klammer beginnt; wählen Sie einen anderen Wert.</translation>
-    </message>
-    <message>
-        <source>The option &quot;%1&quot; is not sent, because its value is longer than %2 bytes; choose another value.</source>
-        <translation>Die Option „%1“ wird nicht gesendet, weil ihr Wert länger als %2 Byte ist; wählen Sie einen anderen Wert.</translation>
-    </message>
-    <message>
         <source>The document &quot;%1&quot; is not sent, because its type has a control character in it.</source>
         <translation>Das Dokument „%1“ wird nicht gesendet, weil sein Typ ein Steuerzeichen enthält.</translation>
     </message>
     <message>
-        <source>%1 copies cannot be printed; choose a number from 1 to %2.</source>
-        <translation>%1 Exemplare können nicht gedruckt werden; wählen Sie eine Zahl von 1 bis %2.</translation>
+        <source>it accepted the job without giving it a number</source>
+        <translation>er hat den Auftrag angenommen, ihm aber keine Nummer gegeben</translation>
     </message>
     <message>
-        <source>it took the job without giving it a number</source>
-        <translation>er hat den Auftrag angenommen, ihm aber keine Nummer gegeben</translation>
+        <source>The option &quot;%1&quot; is not sent, because this cannot be an option&apos;s keyword. Leave it out.</source>
+        <translation>Die Option „%1“ wird nicht gesendet, weil so kein Schlüsselwort einer Option heißen kann. Lassen Sie sie weg.</translation>
+    </message>
+    <message>
+        <source>The option &quot;%1&quot; is not sent, because its value has a line break or another control character in it. Choose another value.</source>
+        <translation>Die Option „%1“ wird nicht gesendet, weil ihr Wert einen Zeilenumbruch oder ein anderes Steuerzeichen enthält. Wählen Sie einen anderen Wert.</translation>
+    </message>
+    <message>
+        <source>The option &quot;%1&quot; is not sent, because CUPS misreads a value that begins with a brace. Choose another value.</source>
+        <translation>Die Option „%1“ wird nicht gesendet, weil CUPS einen Wert falsch liest, der mit einer geschweiften Klammer beginnt. Wählen Sie einen anderen Wert.</translation>
+    </message>
+    <message>
+        <source>The option &quot;%1&quot; is not sent, because its value is longer than %2 bytes. Choose another value.</source>
+        <translation>Die Option „%1“ wird nicht gesendet, weil ihr Wert länger als %2 Byte ist. Wählen Sie einen anderen Wert.</translation>
+    </message>
+    <message>
+        <source>%1 copies cannot be printed. Choose a number from 1 to %2.</source>
+        <translation>%1 Exemplare können nicht gedruckt werden. Wählen Sie eine Zahl von 1 bis %2.</translation>
     </message>
 </context>
 <context>
@@ -607,10 +607,6 @@ Beispiele:
 <context>
     <name>PpdCheck</name>
     <message>
-        <source>The PPD &quot;%1&quot; is not used, since it could not be tried out safely: %2. Install corvel-print again.</source>
-        <translation>Die PPD-Datei „%1“ wird nicht verwendet, weil sie nicht gefahrlos erprobt werden konnte: %2. Installieren Sie corvel-print neu.</translation>
-    </message>
-    <message>
         <source>&quot;%1&quot; cannot be run: %2</source>
         <translation>„%1“ lässt sich nicht starten: %2</translation>
     </message>
@@ -619,32 +615,28 @@ Beispiele:
         <translation>das System bietet keine abgeschottete Umgebung</translation>
     </message>
     <message>
-        <source>The PPD &quot;%1&quot; is not used: libcups does not come to an end with it. Fetch another from the printer&apos;s maker.</source>
-        <translation>Die PPD-Datei „%1“ wird nicht verwendet: libcups kommt mit ihr zu keinem Ende. Holen Sie eine andere vom Hersteller des Druckers.</translation>
+        <source>&quot;%1&quot; ends with status %2</source>
+        <translation>„%1“ endet mit Status %2</translation>
     </message>
     <message>
-        <source>The PPD &quot;%1&quot; is not used: libcups crashes over it. Fetch another from the printer&apos;s maker.</source>
-        <translation>Die PPD-Datei „%1“ wird nicht verwendet: libcups stürzt über ihr ab. Holen Sie eine andere vom Hersteller des Druckers.</translation>
+        <source>The PPD &quot;%1&quot; is not used, since it could not be checked safely: %2. Install corvel-print again.</source>
+        <translation>Die PPD-Datei „%1“ wird nicht verwendet, weil sie nicht gefahrlos erprobt werden konnte: %2. Installieren Sie corvel-print neu.</translation>
     </message>
     <message>
-        <source>The PPD &quot;%1&quot; is not used, since this computer was too busy to try it out. Try again later.</source>
+        <source>The PPD &quot;%1&quot; is not used, since this computer was too busy to check it. Try again later.</source>
         <translation>Die PPD-Datei „%1“ wird nicht verwendet, weil dieser Rechner zu ausgelastet war, um sie zu erproben. Versuchen Sie es später noch einmal.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; ends with status %2</source>
-        <translation>„%1“ endet mit Status %2</translation>
+        <source>The PPD &quot;%1&quot; is not used: libcups does not finish reading it. Fetch another from the printer&apos;s maker.</source>
+        <translation>Die PPD-Datei „%1“ wird nicht verwendet: libcups wird mit ihr nicht fertig. Holen Sie eine andere vom Hersteller des Druckers.</translation>
+    </message>
+    <message>
+        <source>The PPD &quot;%1&quot; is not used: it makes libcups crash. Fetch another from the printer&apos;s maker.</source>
+        <translation>Die PPD-Datei „%1“ wird nicht verwendet: libcups stürzt über ihr ab. Holen Sie eine andere vom Hersteller des Druckers.</translation>
     </message>
 </context>
 <context>
     <name>PpdDocument</name>
-    <message>
-        <source>The PPD &quot;%1&quot; cannot be used: line %2: %3; correct it or fetch another from the printer&apos;s maker.</source>
-        <translation>Die PPD-Datei „%1“ kann nicht verwendet werden: Zeile %2: %3; korrigieren Sie sie oder holen Sie eine andere vom Hersteller des Druckers.</translation>
-    </message>
-    <message>
-        <source>The PPD &quot;%1&quot; has no page size that can be printed on; correct it or fetch another from the printer&apos;s maker.</source>
-        <translation>Die PPD-Datei „%1“ hat kein bedruckbares Papierformat; korrigieren Sie sie oder holen Sie eine andere vom Hersteller des Druckers.</translation>
-    </message>
     <message>
         <source>The translations are left out: there are too many.</source>
         <translation>Die Übersetzungen wurden weggelassen: Es sind zu viele.</translation>
@@ -665,29 +657,17 @@ Beispiele:
         <source>The default page size is not one of the printer&apos;s; &quot;%1&quot; takes its place.</source>
         <translation>Das Standardpapierformat gehört nicht zu diesem Drucker; „%1“ tritt an seine Stelle.</translation>
     </message>
+    <message>
+        <source>The PPD &quot;%1&quot; cannot be used: line %2: %3. Correct it or fetch another from the printer&apos;s maker.</source>
+        <translation>Die PPD-Datei „%1“ kann nicht verwendet werden: Zeile %2: %3. Korrigieren Sie sie oder holen Sie eine andere vom Hersteller des Druckers.</translation>
+    </message>
+    <message>
+        <source>The PPD &quot;%1&quot; has no page size that can be printed on. Correct it or fetch another from the printer&apos;s maker.</source>
+        <translation>Die PPD-Datei „%1“ hat kein bedruckbares Papierformat. Korrigieren Sie sie oder holen Sie eine andere vom Hersteller des Druckers.</translation>
+    </message>
 </context>
 <context>
     <name>PpdFile</name>
-    <message>
-        <source>&quot;%1&quot; is a directory; name the PPD file itself.</source>
-        <translation>„%1“ ist ein Ordner; nennen Sie die PPD-Datei selbst.</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is a device or a pipe, not a file; name the printer&apos;s PPD file.</source>
-        <translation>„%1“ ist ein Gerät oder eine Pipe, keine Datei; nennen Sie die PPD-Datei des Druckers.</translation>
-    </message>
-    <message>
-        <source>There is no PPD &quot;%1&quot;; check the path.</source>
-        <translation>Es gibt keine PPD-Datei „%1“; prüfen Sie den Pfad.</translation>
-    </message>
-    <message>
-        <source>The PPD &quot;%1&quot; cannot be read: %2; check the file and its permissions.</source>
-        <translation>Die PPD-Datei „%1“ kann nicht gelesen werden: %2; prüfen Sie die Datei und ihre Zugriffsrechte.</translation>
-    </message>
-    <message>
-        <source>The compressed PPD &quot;%1&quot; cannot be expanded: %2; copy it again from where it came from.</source>
-        <translation>Die komprimierte PPD „%1“ lässt sich nicht entpacken: %2; kopieren Sie sie noch einmal von ihrem Ursprung.</translation>
-    </message>
     <message>
         <source>its end is missing</source>
         <translation>das Ende fehlt</translation>
@@ -695,6 +675,26 @@ Beispiele:
     <message>
         <source>it is damaged</source>
         <translation>sie ist beschädigt</translation>
+    </message>
+    <message>
+        <source>The compressed PPD &quot;%1&quot; cannot be expanded: %2. Copy it again from where it came from.</source>
+        <translation>Die komprimierte PPD „%1“ lässt sich nicht entpacken: %2. Kopieren Sie sie noch einmal von ihrem Ursprung.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a directory. Name the PPD file itself.</source>
+        <translation>„%1“ ist ein Ordner. Nennen Sie die PPD-Datei selbst.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a device or a pipe, not a file. Name the printer&apos;s PPD file.</source>
+        <translation>„%1“ ist ein Gerät oder eine Pipe, keine Datei. Nennen Sie die PPD-Datei des Druckers.</translation>
+    </message>
+    <message>
+        <source>There is no PPD &quot;%1&quot;. Check the path.</source>
+        <translation>Es gibt keine PPD-Datei „%1“. Prüfen Sie den Pfad.</translation>
+    </message>
+    <message>
+        <source>The PPD &quot;%1&quot; cannot be read: %2. Check the file and its permissions.</source>
+        <translation>Die PPD-Datei „%1“ kann nicht gelesen werden: %2. Prüfen Sie die Datei und ihre Zugriffsrechte.</translation>
     </message>
 </context>
 <context>
@@ -714,10 +714,6 @@ Beispiele:
     <message>
         <source>it is larger than %1 MiB</source>
         <translation>sie ist größer als %1 MiB</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is not a PPD, which is a text that begins with &quot;*PPD-Adobe:&quot;; name the printer&apos;s PPD file.</source>
-        <translation>„%1“ ist keine PPD-Datei, also kein Text, der mit „*PPD-Adobe:“ beginnt; nennen Sie die PPD-Datei des Druckers.</translation>
     </message>
     <message>
         <source>it is cut off: the quote opened in line %1 never closes</source>
@@ -804,20 +800,8 @@ Beispiele:
         <translation>Weitere weggelassene Einträge: %1.</translation>
     </message>
     <message>
-        <source>fetch the printer&apos;s PPD again</source>
-        <translation>holen Sie die PPD-Datei des Druckers erneut</translation>
-    </message>
-    <message>
-        <source>correct it or fetch another from the printer&apos;s maker</source>
-        <translation>korrigieren Sie sie oder holen Sie eine andere vom Hersteller des Druckers</translation>
-    </message>
-    <message>
         <source>it has more than %1 %2</source>
         <translation>zu viele %2: mehr als %1</translation>
-    </message>
-    <message>
-        <source>The PPD &quot;%1&quot; cannot be used: %2; %3.</source>
-        <translation>Die PPD-Datei „%1“ kann nicht verwendet werden: %2; %3.</translation>
     </message>
     <message>
         <source>The option &quot;%1&quot; opened in line %2 never closes.</source>
@@ -830,6 +814,22 @@ Beispiele:
     <message>
         <source>it is cut off in line %1</source>
         <translation>sie ist in Zeile %1 abgeschnitten</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a PPD, which is a text that begins with &quot;*PPD-Adobe:&quot;. Name the printer&apos;s PPD file.</source>
+        <translation>„%1“ ist keine PPD-Datei, also kein Text, der mit „*PPD-Adobe:“ beginnt. Nennen Sie die PPD-Datei des Druckers.</translation>
+    </message>
+    <message>
+        <source>Fetch the printer&apos;s PPD again</source>
+        <translation>Holen Sie die PPD-Datei des Druckers erneut</translation>
+    </message>
+    <message>
+        <source>Correct it or fetch another from the printer&apos;s maker</source>
+        <translation>Korrigieren Sie sie oder holen Sie eine andere vom Hersteller des Druckers</translation>
+    </message>
+    <message>
+        <source>The PPD &quot;%1&quot; cannot be used: %2. %3.</source>
+        <translation>Die PPD-Datei „%1“ kann nicht verwendet werden: %2. %3.</translation>
     </message>
 </context>
 <context>
@@ -921,50 +921,6 @@ Beispiele:
         <translation>der Druckserver nannte keinen Grund</translation>
     </message>
     <message>
-        <source>The printer &quot;%1&quot; does not exist (%2); choose another one, or add it in the printer settings.</source>
-        <translation>Den Drucker „%1“ gibt es nicht (%2); wählen Sie einen anderen oder fügen Sie ihn in den Druckereinstellungen hinzu.</translation>
-    </message>
-    <message>
-        <source>The printer &quot;%1&quot; cannot be reached, because no print server is running (%2); start CUPS or check the server&apos;s name.</source>
-        <translation>Der Drucker „%1“ ist nicht erreichbar, weil kein Druckserver läuft (%2); starten Sie CUPS oder prüfen Sie den Namen des Servers.</translation>
-    </message>
-    <message>
-        <source>The printer &quot;%1&quot; has no PPD file (%2); set it up again with its driver.</source>
-        <translation>Der Drucker „%1“ hat keine PPD-Datei (%2); richten Sie ihn mit seinem Treiber neu ein.</translation>
-    </message>
-    <message>
-        <source>The printer &quot;%1&quot; does not accept jobs (%2); let it accept them in the printer settings, or choose another one.</source>
-        <translation>Der Drucker „%1“ nimmt keine Aufträge an (%2); erlauben Sie es in den Druckereinstellungen oder wählen Sie einen anderen.</translation>
-    </message>
-    <message>
-        <source>The print server refused the request for the printer &quot;%1&quot; (%2); ask whoever manages it.</source>
-        <translation>Der Druckserver hat die Anfrage für den Drucker „%1“ abgelehnt (%2); fragen Sie, wer ihn verwaltet.</translation>
-    </message>
-    <message>
-        <source>The print server did not answer about the printer &quot;%1&quot; in time (%2); try again, or restart CUPS.</source>
-        <translation>Der Druckserver hat zum Drucker „%1“ nicht rechtzeitig geantwortet (%2); versuchen Sie es erneut oder starten Sie CUPS neu.</translation>
-    </message>
-    <message>
-        <source>The print server could not serve the printer &quot;%1&quot; (%2); try again, or look into its log.</source>
-        <translation>Der Druckserver konnte den Drucker „%1“ nicht bedienen (%2); versuchen Sie es erneut oder sehen Sie in sein Protokoll.</translation>
-    </message>
-    <message>
-        <source>No print server is running (%1); start CUPS or check the server&apos;s name.</source>
-        <translation>Es läuft kein Druckserver (%1); starten Sie CUPS oder prüfen Sie den Namen des Servers.</translation>
-    </message>
-    <message>
-        <source>The print server refused to list its printers (%1); ask whoever manages it.</source>
-        <translation>Der Druckserver will seine Drucker nicht auflisten (%1); fragen Sie, wer ihn verwaltet.</translation>
-    </message>
-    <message>
-        <source>The print server did not answer in time (%1); try again, or restart CUPS.</source>
-        <translation>Der Druckserver hat nicht rechtzeitig geantwortet (%1); versuchen Sie es erneut oder starten Sie CUPS neu.</translation>
-    </message>
-    <message>
-        <source>The print server could not list its printers (%1); try again, or look into its log.</source>
-        <translation>Der Druckserver konnte seine Drucker nicht auflisten (%1); versuchen Sie es erneut oder sehen Sie in sein Protokoll.</translation>
-    </message>
-    <message>
         <source>its PPD file is a new one</source>
         <translation>seine PPD-Datei ist eine neue</translation>
     </message>
@@ -973,20 +929,60 @@ Beispiele:
         <translation>es wird nichts gedruckt</translation>
     </message>
     <message>
-        <source>The options of the printer &quot;%1&quot; have changed since they were chosen (%2); look at them and print again.</source>
-        <translation>Die Optionen des Druckers „%1“ haben sich geändert, seit sie gewählt wurden (%2); sehen Sie sie durch und drucken Sie noch einmal.</translation>
-    </message>
-    <message>
         <source>The job for the printer &quot;%1&quot; was cancelled (%2).</source>
         <translation>Der Auftrag für den Drucker „%1“ wurde abgebrochen (%2).</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; does not exist (%2). Choose another one, or add it in the printer settings.</source>
+        <translation>Den Drucker „%1“ gibt es nicht (%2). Wählen Sie einen anderen oder fügen Sie ihn in den Druckereinstellungen hinzu.</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; cannot be reached, because no print server is running (%2). Start CUPS or check the server&apos;s name.</source>
+        <translation>Der Drucker „%1“ ist nicht erreichbar, weil kein Druckserver läuft (%2). Starten Sie CUPS oder prüfen Sie den Namen des Servers.</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; has no PPD file (%2). Set it up again with its driver.</source>
+        <translation>Der Drucker „%1“ hat keine PPD-Datei (%2). Richten Sie ihn mit seinem Treiber neu ein.</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; does not accept jobs (%2). Allow them in the printer settings, or choose another printer.</source>
+        <translation>Der Drucker „%1“ nimmt keine Aufträge an (%2). Erlauben Sie es in den Druckereinstellungen oder wählen Sie einen anderen.</translation>
+    </message>
+    <message>
+        <source>The print server refused the request for the printer &quot;%1&quot; (%2). Ask its administrator.</source>
+        <translation>Der Druckserver hat die Anfrage für den Drucker „%1“ abgelehnt (%2). Wenden Sie sich an seinen Administrator.</translation>
+    </message>
+    <message>
+        <source>The print server did not answer about the printer &quot;%1&quot; in time (%2). Try again, or restart CUPS.</source>
+        <translation>Der Druckserver hat zum Drucker „%1“ nicht rechtzeitig geantwortet (%2). Versuchen Sie es erneut oder starten Sie CUPS neu.</translation>
+    </message>
+    <message>
+        <source>The options of the printer &quot;%1&quot; have changed since they were chosen (%2). Look at them and print again.</source>
+        <translation>Die Optionen des Druckers „%1“ haben sich geändert, seit sie gewählt wurden (%2). Sehen Sie sie durch und drucken Sie noch einmal.</translation>
+    </message>
+    <message>
+        <source>The print server could not serve the printer &quot;%1&quot; (%2). Try again, or check its log.</source>
+        <translation>Der Druckserver konnte den Drucker „%1“ nicht bedienen (%2). Versuchen Sie es erneut oder sehen Sie in sein Protokoll.</translation>
+    </message>
+    <message>
+        <source>No print server is running (%1). Start CUPS or check the server&apos;s name.</source>
+        <translation>Es läuft kein Druckserver (%1). Starten Sie CUPS oder prüfen Sie den Namen des Servers.</translation>
+    </message>
+    <message>
+        <source>The print server refused to list its printers (%1). Ask its administrator.</source>
+        <translation>Der Druckserver will seine Drucker nicht auflisten (%1). Wenden Sie sich an seinen Administrator.</translation>
+    </message>
+    <message>
+        <source>The print server did not answer in time (%1). Try again, or restart CUPS.</source>
+        <translation>Der Druckserver hat nicht rechtzeitig geantwortet (%1). Versuchen Sie es erneut oder starten Sie CUPS neu.</translation>
+    </message>
+    <message>
+        <source>The print server could not list its printers (%1). Try again, or check its log.</source>
+        <translation>Der Druckserver konnte seine Drucker nicht auflisten (%1). Versuchen Sie es erneut oder sehen Sie in sein Protokoll.</translation>
     </message>
 </context>
 <context>
     <name>RequestedSession</name>
-    <message>
-        <source>The printer &quot;%1&quot; has no PPD file and so no option %2; leave it out, or set the printer up with its driver.</source>
-        <translation>Der Drucker „%1“ hat keine PPD-Datei und deshalb keine Option %2; lassen Sie sie weg oder richten Sie den Drucker mit seinem Treiber ein.</translation>
-    </message>
     <message>
         <source>Of the preset &quot;%1&quot; is left out: %2</source>
         <translation>Von der Voreinstellung „%1“ bleibt weg: %2</translation>
@@ -998,6 +994,10 @@ Beispiele:
     <message>
         <source>%1 It may have your default printer; --printer names another one, and &quot;--printer built-in&quot; prints into files.</source>
         <translation>%1 Er hat vielleicht Ihren Standarddrucker; mit --printer nennen Sie einen anderen, und „--printer built-in“ druckt in Dateien.</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; has no PPD file and so no option %2. Leave it out, or set the printer up with its driver.</source>
+        <translation>Der Drucker „%1“ hat keine PPD-Datei und deshalb keine Option %2. Lassen Sie sie weg oder richten Sie den Drucker mit seinem Treiber ein.</translation>
     </message>
 </context>
 <context>
@@ -1148,10 +1148,6 @@ Beispiele:
         <translation>ein Filter seines Treibers ist unsicher</translation>
     </message>
     <message>
-        <source>trouble that it does not name</source>
-        <translation>eine Störung, die er nicht nennt</translation>
-    </message>
-    <message>
         <source>the printer is stopped</source>
         <translation>der Drucker ist angehalten</translation>
     </message>
@@ -1164,10 +1160,6 @@ Beispiele:
         <translation>angehalten</translation>
     </message>
     <message>
-        <source>held until somebody signs in</source>
-        <translation>angehalten, bis sich jemand anmeldet</translation>
-    </message>
-    <message>
         <source>what it needs is not ready</source>
         <translation>was er braucht, ist nicht bereit</translation>
     </message>
@@ -1178,10 +1170,6 @@ Beispiele:
     <message>
         <source>the document could not be printed</source>
         <translation>das Dokument konnte nicht gedruckt werden</translation>
-    </message>
-    <message>
-        <source>the printer does not take this kind of document</source>
-        <translation>der Drucker nimmt diese Art von Dokument nicht</translation>
     </message>
     <message>
         <source>cancelled by the user</source>
@@ -1234,6 +1222,18 @@ Beispiele:
     <message>
         <source>%1 %2 %</source>
         <translation>%1 %2 %</translation>
+    </message>
+    <message>
+        <source>unspecified problem</source>
+        <translation>eine nicht näher bezeichnete Störung</translation>
+    </message>
+    <message>
+        <source>held for authentication</source>
+        <translation>angehalten, bis sich jemand anmeldet</translation>
+    </message>
+    <message>
+        <source>the printer does not accept this kind of document</source>
+        <translation>der Drucker nimmt diese Art von Dokument nicht</translation>
     </message>
 </context>
 <context>
@@ -1423,10 +1423,6 @@ Beispiele:
         <translation>Das Drucken wurde gestoppt: %1 von %2 Fotos gedruckt.</translation>
     </message>
     <message>
-        <source>Sent %1 of %2 photos to %3, which goes on printing.</source>
-        <translation>%1 von %2 Fotos an %3 gesendet; der Druck geht dort weiter.</translation>
-    </message>
-    <message>
         <source>Printed %1 of %2 photos.</source>
         <translation>%1 von %2 Fotos gedruckt.</translation>
     </message>
@@ -1437,6 +1433,10 @@ Beispiele:
     <message>
         <source>%1 photos cannot be printed.</source>
         <translation>%1 Fotos lassen sich nicht drucken.</translation>
+    </message>
+    <message>
+        <source>Sent %1 of %2 photos to %3, which continues printing.</source>
+        <translation>%1 von %2 Fotos an %3 gesendet; der Druck geht dort weiter.</translation>
     </message>
 </context>
 <context>
@@ -1523,10 +1523,6 @@ Beispiele:
         <translation>„%1“ ist unvollständig: Das Ende fehlt. Kopieren Sie es erneut von der Quelle.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is damaged and cannot be shown. Copy it again, or save it anew in a photo program.</source>
-        <translation>„%1“ ist beschädigt und kann nicht angezeigt werden. Kopieren Sie es erneut oder speichern Sie es in einem Fotoprogramm neu.</translation>
-    </message>
-    <message>
         <source>There is not enough memory for &quot;%1&quot;. Scale it down in a photo program.</source>
         <translation>Für „%1“ reicht der Speicher nicht. Verkleinern Sie es in einem Fotoprogramm.</translation>
     </message>
@@ -1541,6 +1537,10 @@ Beispiele:
     <message>
         <source>&quot;%1&quot; is a JPEG of a rare kind, lossless or with more than 8 bits, which cannot be printed. Save it as a usual JPEG in a photo program.</source>
         <translation>„%1“ ist ein JPEG einer seltenen Art, verlustfrei oder mit mehr als 8 Bit, die sich nicht drucken lässt. Speichern Sie es in einem Fotoprogramm als gewöhnliches JPEG.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is damaged and cannot be shown. Copy it again, or save it again in a photo program.</source>
+        <translation>„%1“ ist beschädigt und kann nicht angezeigt werden. Kopieren Sie es erneut oder speichern Sie es in einem Fotoprogramm neu.</translation>
     </message>
 </context>
 <context>
@@ -1631,14 +1631,6 @@ Beispiele:
         <translation>%1 als Auftrag %3 an %2 gesendet</translation>
     </message>
     <message>
-        <source>What has become of %1 (job %2) is not known: %3</source>
-        <translation>Was aus %1 (Auftrag %2) geworden ist, ist nicht bekannt: %3</translation>
-    </message>
-    <message>
-        <source>%1 (job %2) is not printed yet: %3. The print server keeps it; &quot;cancel %2&quot; takes it back.</source>
-        <translation>%1 (Auftrag %2) ist noch nicht gedruckt: %3. Der Druckserver behält ihn; „cancel %2“ nimmt ihn zurück.</translation>
-    </message>
-    <message>
         <source>The printer &quot;%1&quot; could not print %2 (job %3): %4. Look at the printer and print again.</source>
         <translation>Der Drucker „%1“ konnte %2 (Auftrag %3) nicht drucken: %4. Sehen Sie nach dem Drucker und drucken Sie noch einmal.</translation>
     </message>
@@ -1651,16 +1643,24 @@ Beispiele:
         <translation>Der Auftrag %3 für %2 auf dem Drucker „%1“ wurde abgebrochen (%4).</translation>
     </message>
     <message>
-        <source>nobody said why</source>
-        <translation>ohne Angabe von Gründen</translation>
-    </message>
-    <message>
         <source>Printed %1 on %2 (job %3)</source>
         <translation>%1 auf %2 gedruckt (Auftrag %3)</translation>
     </message>
     <message>
         <source>The job %1 for %2 could not be cancelled: %3</source>
         <translation>Der Auftrag %1 für %2 konnte nicht abgebrochen werden: %3</translation>
+    </message>
+    <message>
+        <source>The outcome of %1 (job %2) is unknown: %3</source>
+        <translation>Das Ergebnis von %1 (Auftrag %2) ist nicht bekannt: %3</translation>
+    </message>
+    <message>
+        <source>%1 (job %2) is not printed yet: %3. The print server keeps it; &quot;cancel %2&quot; cancels it.</source>
+        <translation>%1 (Auftrag %2) ist noch nicht gedruckt: %3. Der Druckserver behält ihn; „cancel %2“ nimmt ihn zurück.</translation>
+    </message>
+    <message>
+        <source>no reason given</source>
+        <translation>ohne Angabe von Gründen</translation>
     </message>
 </context>
 <context>
@@ -1801,16 +1801,16 @@ Beispiele:
         <source>Of the preset &quot;%1&quot;, some choices are left out:</source>
         <translation>Von der Voreinstellung „%1“ entfällt einiges:</translation>
     </message>
-    <message>
-        <source>There is no preset &quot;%1&quot; any more.</source>
-        <translation>Die Voreinstellung „%1“ gibt es nicht mehr.</translation>
-    </message>
     <message numerus="yes">
         <source>And %n more.</source>
         <translation>
             <numerusform>Und %n weitere.</numerusform>
             <numerusform>Und %n weitere.</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>The preset &quot;%1&quot; no longer exists.</source>
+        <translation>Die Voreinstellung „%1“ gibt es nicht mehr.</translation>
     </message>
 </context>
 <context>
@@ -1855,12 +1855,12 @@ Beispiele:
         <translation>Es gibt schon eine Voreinstellung „%1“. Wählen Sie einen anderen Namen.</translation>
     </message>
     <message>
-        <source>There is no preset &quot;%1&quot; any more. Save it under a new name.</source>
-        <translation>Die Voreinstellung „%1“ gibt es nicht mehr. Sichern Sie sie unter einem neuen Namen.</translation>
-    </message>
-    <message>
         <source>The preset &quot;%1&quot; is the system&apos;s. Save one of your own under a new name.</source>
         <translation>Die Voreinstellung „%1“ gehört zum System. Sichern Sie eine eigene unter einem neuen Namen.</translation>
+    </message>
+    <message>
+        <source>The preset &quot;%1&quot; no longer exists. Save it under a new name.</source>
+        <translation>Die Voreinstellung „%1“ gibt es nicht mehr. Sichern Sie sie unter einem neuen Namen.</translation>
     </message>
 </context>
 <context>
@@ -2059,16 +2059,8 @@ Beispiele:
         <translation>Wird gestoppt…</translation>
     </message>
     <message>
-        <source>Stop printing? What is not printed yet is taken back.</source>
-        <translation>Drucken stoppen? Was noch nicht gedruckt ist, wird zurückgenommen.</translation>
-    </message>
-    <message>
         <source>Stop Printing</source>
         <translation>Drucken stoppen</translation>
-    </message>
-    <message>
-        <source>Go On</source>
-        <translation>Weiterdrucken</translation>
     </message>
     <message>
         <source>Close Window</source>
@@ -2079,15 +2071,23 @@ Beispiele:
         <translation>Offen lassen</translation>
     </message>
     <message>
-        <source>The print server goes on printing when this window is closed.</source>
-        <translation>Der Druckserver druckt weiter, wenn dieses Fenster geschlossen wird.</translation>
-    </message>
-    <message>
         <source>Printed so far: %1 of %2 photos. The rest is not printed when this window is closed.</source>
         <translation>Bisher gedruckt: %1 von %2 Fotos. Der Rest wird nicht gedruckt, wenn dieses Fenster geschlossen wird.</translation>
     </message>
     <message>
-        <source>When this window is closed, the print server goes on printing the %1 of %2 photos that it has. The rest is not printed.</source>
+        <source>Stop printing? Photos not printed yet are cancelled.</source>
+        <translation>Drucken stoppen? Was noch nicht gedruckt ist, wird zurückgenommen.</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Weiterdrucken</translation>
+    </message>
+    <message>
+        <source>The print server continues printing when this window is closed.</source>
+        <translation>Der Druckserver druckt weiter, wenn dieses Fenster geschlossen wird.</translation>
+    </message>
+    <message>
+        <source>When this window is closed, the print server continues printing the %1 of %2 photos that it has. The rest is not printed.</source>
         <translation>Wird dieses Fenster geschlossen, druckt der Druckserver die %1 von %2 Fotos, die er hat, weiter. Der Rest wird nicht gedruckt.</translation>
     </message>
 </context>

@@ -20,7 +20,7 @@
         <translation>Cancelado; no se imprime nada más.</translation>
     </message>
     <message>
-        <source>Cancelled; the jobs sent were taken back from the printer.</source>
+        <source>Cancelled; the jobs already sent were cancelled, too.</source>
         <translation>Cancelado; los trabajos enviados se han retirado de la impresora.</translation>
     </message>
 </context>
@@ -126,14 +126,6 @@ dicen los paneles; con --batch, además de imprimir</translation>
         <translation>El valor de --%1 está vacío.</translation>
     </message>
     <message>
-        <source>There is no mode &quot;%1&quot;; it is either constraint or settings.</source>
-        <translation>No hay ningún modo «%1»; puede ser constraint o settings.</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; chooses nothing; an option is given as KEY=CHOICE.</source>
-        <translation>«%1» no elige nada; una opción se indica como KEY=CHOICE.</translation>
-    </message>
-    <message>
         <source>--ppd is for the built-in printer, and --printer names the queue &quot;%1&quot;.</source>
         <translation>--ppd es para la impresora integrada, pero --printer indica la cola «%1».</translation>
     </message>
@@ -206,10 +198,6 @@ and from its top (otherwise 50,50, the middle)</source>
 izquierda y desde arriba (si no, 50,50, el centro)</translation>
     </message>
     <message>
-        <source>There is no scaling &quot;%1&quot;; it is fit, fill or actual.</source>
-        <translation>No existe la escala «%1»; puede ser fit, fill o actual.</translation>
-    </message>
-    <message>
         <source>--crop is for --scaling fill or actual; with fit nothing is cropped.</source>
         <translation>--crop es para --scaling fill o actual; con fit no se recorta nada.</translation>
     </message>
@@ -232,14 +220,6 @@ en lugar de numerar los nuevos; una foto nunca se reemplaza</translation>
     <message>
         <source>how many copies of each photo; otherwise the preset&apos;s, or 1</source>
         <translation>cuántas copias de cada foto; si no, las del preajuste, o 1</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; copies cannot be printed; give a number from 1 to %2.</source>
-        <translation>No se pueden imprimir «%1» copias; indique un número de 1 a %2.</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is not a file on this computer; copy the photo here first.</source>
-        <translation>«%1» no es un archivo de este equipo; copie primero la foto aquí.</translation>
     </message>
     <message>
         <source>--batch and --dry-run do not look for damage in photos,
@@ -276,16 +256,36 @@ Ejemplos:
 </translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is not a print server; it is given as HOST or HOST:PORT.</source>
-        <translation>«%1» no es un servidor de impresión; se indica como HOST o HOST:PORT.</translation>
+        <source>There is no mode &quot;%1&quot;. Choose constraint or settings.</source>
+        <translation>No existe el modo «%1». Elija constraint o settings.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is not a time to wait; it is a number of seconds from 0 to %2.</source>
-        <translation>«%1» no es un tiempo de espera; es un número de segundos de 0 a %2.</translation>
+        <source>&quot;%1&quot; is not a print server. Give it as HOST or HOST:PORT.</source>
+        <translation>«%1» no es un servidor de impresión. Indíquelo como HOST o HOST:PORT.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is not a crop; it is two numbers from 0 to 100, such as 50,0.</source>
-        <translation>«%1» no es un recorte; son dos números de 0 a 100, por ejemplo 50,0.</translation>
+        <source>&quot;%1&quot; is not a time to wait. Give a number of seconds from 0 to %2.</source>
+        <translation>«%1» no es un tiempo de espera. Indique un número de segundos de 0 a %2.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; copies cannot be printed. Give a number from 1 to %2.</source>
+        <translation>No se pueden imprimir «%1» copias. Indique un número de 1 a %2.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a file on this computer. Copy the photo here first.</source>
+        <translation>«%1» no es un archivo de este equipo. Copie primero la foto aquí.</translation>
+    </message>
+    <message>
+        <source>There is no scaling &quot;%1&quot;. Choose fit, fill or actual.</source>
+        <translation>No existe la escala «%1». Elija fit, fill o actual.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a crop. Give two numbers from 0 to 100, such as 50,0.</source>
+        <translation>«%1» no es un recorte. Indique dos números de 0 a 100, por ejemplo 50,0.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not an option. Give it as KEY=CHOICE.</source>
+        <translation>«%1» no es una opción. Indíquela como KEY=CHOICE.</translation>
     </message>
 </context>
 <context>
@@ -360,7 +360,7 @@ Ejemplos:
         <translation>se ha reiniciado y no conoce el trabajo %1</translation>
     </message>
     <message>
-        <source>the print server does not answer; it is asked again</source>
+        <source>the print server does not answer; asking again</source>
         <translation>el servidor de impresión no responde; se le vuelve a preguntar</translation>
     </message>
 </context>
@@ -414,32 +414,32 @@ Ejemplos:
 <context>
     <name>JobSubmission</name>
     <message>
-        <source>The option &quot;%1&quot; is not sent, because this cannot be an option&apos;s keyword; leave it out.</source>
-        <translation>La opción «%1» no se envía, porque no puede ser la palabra clave de una opción; quítela.</translation>
-    </message>
-    <message>
-        <source>The option &quot;%1&quot; is not sent, because its value has a line break or another control character in it; choose another value.</source>
-        <translation>La opción «%1» no se envía, porque su valor contiene un salto de línea u otro carácter de control; elija otro valor.</translation>
-    </message>
-    <message>
-        <source>The option &quot;%1&quot; is not sent, because CUPS misreads a value that begins with a brace; choose another value.</source>
-        <translation>La opción «%1» no se envía, porque CUPS interpreta mal un valor que empieza por una llave; elija otro valor.</translation>
-    </message>
-    <message>
-        <source>The option &quot;%1&quot; is not sent, because its value is longer than %2 bytes; choose another value.</source>
-        <translation>La opción «%1» no se envía, porque su valor ocupa más de %2 bytes; elija otro valor.</translation>
-    </message>
-    <message>
         <source>The document &quot;%1&quot; is not sent, because its type has a control character in it.</source>
         <translation>El documento «%1» no se envía, porque su tipo contiene un carácter de control.</translation>
     </message>
     <message>
-        <source>%1 copies cannot be printed; choose a number from 1 to %2.</source>
-        <translation>No se pueden imprimir %1 copias; elija un número de 1 a %2.</translation>
+        <source>it accepted the job without giving it a number</source>
+        <translation>ha aceptado el trabajo sin darle un número</translation>
     </message>
     <message>
-        <source>it took the job without giving it a number</source>
-        <translation>ha aceptado el trabajo sin darle un número</translation>
+        <source>The option &quot;%1&quot; is not sent, because this cannot be an option&apos;s keyword. Leave it out.</source>
+        <translation>La opción «%1» no se envía, porque no puede ser la palabra clave de una opción. Quítela.</translation>
+    </message>
+    <message>
+        <source>The option &quot;%1&quot; is not sent, because its value has a line break or another control character in it. Choose another value.</source>
+        <translation>La opción «%1» no se envía, porque su valor contiene un salto de línea u otro carácter de control. Elija otro valor.</translation>
+    </message>
+    <message>
+        <source>The option &quot;%1&quot; is not sent, because CUPS misreads a value that begins with a brace. Choose another value.</source>
+        <translation>La opción «%1» no se envía, porque CUPS interpreta mal un valor que empieza por una llave. Elija otro valor.</translation>
+    </message>
+    <message>
+        <source>The option &quot;%1&quot; is not sent, because its value is longer than %2 bytes. Choose another value.</source>
+        <translation>La opción «%1» no se envía, porque su valor ocupa más de %2 bytes. Elija otro valor.</translation>
+    </message>
+    <message>
+        <source>%1 copies cannot be printed. Choose a number from 1 to %2.</source>
+        <translation>No se pueden imprimir %1 copias. Elija un número de 1 a %2.</translation>
     </message>
 </context>
 <context>
@@ -606,10 +606,6 @@ Ejemplos:
 <context>
     <name>PpdCheck</name>
     <message>
-        <source>The PPD &quot;%1&quot; is not used, since it could not be tried out safely: %2. Install corvel-print again.</source>
-        <translation>El PPD «%1» no se usa, porque no se pudo probar sin riesgo: %2. Vuelva a instalar corvel-print.</translation>
-    </message>
-    <message>
         <source>&quot;%1&quot; cannot be run: %2</source>
         <translation>no se puede ejecutar «%1»: %2</translation>
     </message>
@@ -618,32 +614,28 @@ Ejemplos:
         <translation>el sistema no ofrece un entorno aislado</translation>
     </message>
     <message>
-        <source>The PPD &quot;%1&quot; is not used: libcups does not come to an end with it. Fetch another from the printer&apos;s maker.</source>
-        <translation>El PPD «%1» no se usa: libcups no termina de leerlo. Consiga otro del fabricante de la impresora.</translation>
+        <source>&quot;%1&quot; ends with status %2</source>
+        <translation>«%1» termina con el código %2</translation>
     </message>
     <message>
-        <source>The PPD &quot;%1&quot; is not used: libcups crashes over it. Fetch another from the printer&apos;s maker.</source>
-        <translation>El PPD «%1» no se usa: hace fallar a libcups. Consiga otro del fabricante de la impresora.</translation>
+        <source>The PPD &quot;%1&quot; is not used, since it could not be checked safely: %2. Install corvel-print again.</source>
+        <translation>El PPD «%1» no se usa, porque no se pudo probar sin riesgo: %2. Vuelva a instalar corvel-print.</translation>
     </message>
     <message>
-        <source>The PPD &quot;%1&quot; is not used, since this computer was too busy to try it out. Try again later.</source>
+        <source>The PPD &quot;%1&quot; is not used, since this computer was too busy to check it. Try again later.</source>
         <translation>El PPD «%1» no se usa, porque este equipo estaba demasiado ocupado para probarlo. Inténtelo de nuevo más tarde.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; ends with status %2</source>
-        <translation>«%1» termina con el código %2</translation>
+        <source>The PPD &quot;%1&quot; is not used: libcups does not finish reading it. Fetch another from the printer&apos;s maker.</source>
+        <translation>El PPD «%1» no se usa: libcups no termina de leerlo. Consiga otro del fabricante de la impresora.</translation>
+    </message>
+    <message>
+        <source>The PPD &quot;%1&quot; is not used: it makes libcups crash. Fetch another from the printer&apos;s maker.</source>
+        <translation>El PPD «%1» no se usa: hace fallar a libcups. Consiga otro del fabricante de la impresora.</translation>
     </message>
 </context>
 <context>
     <name>PpdDocument</name>
-    <message>
-        <source>The PPD &quot;%1&quot; cannot be used: line %2: %3; correct it or fetch another from the printer&apos;s maker.</source>
-        <translation>No se puede usar el PPD «%1»: línea %2: %3; corríjalo u obtenga otro del fabricante de la impresora.</translation>
-    </message>
-    <message>
-        <source>The PPD &quot;%1&quot; has no page size that can be printed on; correct it or fetch another from the printer&apos;s maker.</source>
-        <translation>El PPD «%1» no tiene ningún tamaño de papel imprimible; corríjalo u obtenga otro del fabricante de la impresora.</translation>
-    </message>
     <message>
         <source>The translations are left out: there are too many.</source>
         <translation>Se omiten las traducciones: hay demasiadas.</translation>
@@ -664,29 +656,17 @@ Ejemplos:
         <source>The default page size is not one of the printer&apos;s; &quot;%1&quot; takes its place.</source>
         <translation>El tamaño de papel predeterminado no es de esta impresora; se usa «%1» en su lugar.</translation>
     </message>
+    <message>
+        <source>The PPD &quot;%1&quot; cannot be used: line %2: %3. Correct it or fetch another from the printer&apos;s maker.</source>
+        <translation>No se puede usar el PPD «%1»: línea %2: %3. Corríjalo u obtenga otro del fabricante de la impresora.</translation>
+    </message>
+    <message>
+        <source>The PPD &quot;%1&quot; has no page size that can be printed on. Correct it or fetch another from the printer&apos;s maker.</source>
+        <translation>El PPD «%1» no tiene ningún tamaño de papel imprimible. Corríjalo u obtenga otro del fabricante de la impresora.</translation>
+    </message>
 </context>
 <context>
     <name>PpdFile</name>
-    <message>
-        <source>&quot;%1&quot; is a directory; name the PPD file itself.</source>
-        <translation>«%1» es una carpeta; indique el archivo PPD mismo.</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is a device or a pipe, not a file; name the printer&apos;s PPD file.</source>
-        <translation>«%1» es un dispositivo o una tubería, no un archivo; indique el archivo PPD de la impresora.</translation>
-    </message>
-    <message>
-        <source>There is no PPD &quot;%1&quot;; check the path.</source>
-        <translation>No existe el PPD «%1»; compruebe la ruta.</translation>
-    </message>
-    <message>
-        <source>The PPD &quot;%1&quot; cannot be read: %2; check the file and its permissions.</source>
-        <translation>No se puede leer el PPD «%1»: %2; compruebe el archivo y sus permisos.</translation>
-    </message>
-    <message>
-        <source>The compressed PPD &quot;%1&quot; cannot be expanded: %2; copy it again from where it came from.</source>
-        <translation>El PPD comprimido «%1» no se puede descomprimir: %2; cópielo de nuevo desde su origen.</translation>
-    </message>
     <message>
         <source>its end is missing</source>
         <translation>falta el final</translation>
@@ -694,6 +674,26 @@ Ejemplos:
     <message>
         <source>it is damaged</source>
         <translation>está dañado</translation>
+    </message>
+    <message>
+        <source>The compressed PPD &quot;%1&quot; cannot be expanded: %2. Copy it again from where it came from.</source>
+        <translation>El PPD comprimido «%1» no se puede descomprimir: %2. Cópielo de nuevo desde su origen.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a directory. Name the PPD file itself.</source>
+        <translation>«%1» es una carpeta. Indique el archivo PPD mismo.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a device or a pipe, not a file. Name the printer&apos;s PPD file.</source>
+        <translation>«%1» es un dispositivo o una tubería, no un archivo. Indique el archivo PPD de la impresora.</translation>
+    </message>
+    <message>
+        <source>There is no PPD &quot;%1&quot;. Check the path.</source>
+        <translation>No existe el PPD «%1». Compruebe la ruta.</translation>
+    </message>
+    <message>
+        <source>The PPD &quot;%1&quot; cannot be read: %2. Check the file and its permissions.</source>
+        <translation>No se puede leer el PPD «%1»: %2. Compruebe el archivo y sus permisos.</translation>
     </message>
 </context>
 <context>
@@ -713,10 +713,6 @@ Ejemplos:
     <message>
         <source>it is larger than %1 MiB</source>
         <translation>ocupa más de %1 MiB</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is not a PPD, which is a text that begins with &quot;*PPD-Adobe:&quot;; name the printer&apos;s PPD file.</source>
-        <translation>«%1» no es un PPD, es decir, un texto que empieza por «*PPD-Adobe:»; indique el archivo PPD de la impresora.</translation>
     </message>
     <message>
         <source>it is cut off: the quote opened in line %1 never closes</source>
@@ -803,20 +799,8 @@ Ejemplos:
         <translation>Otras entradas omitidas: %1.</translation>
     </message>
     <message>
-        <source>fetch the printer&apos;s PPD again</source>
-        <translation>obtenga de nuevo el PPD de la impresora</translation>
-    </message>
-    <message>
-        <source>correct it or fetch another from the printer&apos;s maker</source>
-        <translation>corríjalo u obtenga otro del fabricante de la impresora</translation>
-    </message>
-    <message>
         <source>it has more than %1 %2</source>
         <translation>tiene más de %1 %2</translation>
-    </message>
-    <message>
-        <source>The PPD &quot;%1&quot; cannot be used: %2; %3.</source>
-        <translation>No se puede usar el PPD «%1»: %2; %3.</translation>
     </message>
     <message>
         <source>The option &quot;%1&quot; opened in line %2 never closes.</source>
@@ -829,6 +813,22 @@ Ejemplos:
     <message>
         <source>it is cut off in line %1</source>
         <translation>está cortado en la línea %1</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a PPD, which is a text that begins with &quot;*PPD-Adobe:&quot;. Name the printer&apos;s PPD file.</source>
+        <translation>«%1» no es un PPD, es decir, un texto que empieza por «*PPD-Adobe:». Indique el archivo PPD de la impresora.</translation>
+    </message>
+    <message>
+        <source>Fetch the printer&apos;s PPD again</source>
+        <translation>Obtenga de nuevo el PPD de la impresora</translation>
+    </message>
+    <message>
+        <source>Correct it or fetch another from the printer&apos;s maker</source>
+        <translation>Corríjalo u obtenga otro del fabricante de la impresora</translation>
+    </message>
+    <message>
+        <source>The PPD &quot;%1&quot; cannot be used: %2. %3.</source>
+        <translation>No se puede usar el PPD «%1»: %2. %3.</translation>
     </message>
 </context>
 <context>
@@ -920,50 +920,6 @@ Ejemplos:
         <translation>el servidor de impresión no dio ningún motivo</translation>
     </message>
     <message>
-        <source>The printer &quot;%1&quot; does not exist (%2); choose another one, or add it in the printer settings.</source>
-        <translation>La impresora «%1» no existe (%2); elija otra o añádala en la configuración de impresoras.</translation>
-    </message>
-    <message>
-        <source>The printer &quot;%1&quot; cannot be reached, because no print server is running (%2); start CUPS or check the server&apos;s name.</source>
-        <translation>No se puede acceder a la impresora «%1», porque no hay ningún servidor de impresión en marcha (%2); inicie CUPS o compruebe el nombre del servidor.</translation>
-    </message>
-    <message>
-        <source>The printer &quot;%1&quot; has no PPD file (%2); set it up again with its driver.</source>
-        <translation>La impresora «%1» no tiene archivo PPD (%2); configúrela de nuevo con su controlador.</translation>
-    </message>
-    <message>
-        <source>The printer &quot;%1&quot; does not accept jobs (%2); let it accept them in the printer settings, or choose another one.</source>
-        <translation>La impresora «%1» no acepta trabajos (%2); permítalo en la configuración de impresoras o elija otra.</translation>
-    </message>
-    <message>
-        <source>The print server refused the request for the printer &quot;%1&quot; (%2); ask whoever manages it.</source>
-        <translation>El servidor de impresión ha rechazado la petición para la impresora «%1» (%2); consulte a su administrador.</translation>
-    </message>
-    <message>
-        <source>The print server did not answer about the printer &quot;%1&quot; in time (%2); try again, or restart CUPS.</source>
-        <translation>El servidor de impresión no ha respondido a tiempo sobre la impresora «%1» (%2); inténtelo de nuevo o reinicie CUPS.</translation>
-    </message>
-    <message>
-        <source>The print server could not serve the printer &quot;%1&quot; (%2); try again, or look into its log.</source>
-        <translation>El servidor de impresión no ha podido atender a la impresora «%1» (%2); inténtelo de nuevo o consulte su registro.</translation>
-    </message>
-    <message>
-        <source>No print server is running (%1); start CUPS or check the server&apos;s name.</source>
-        <translation>No hay ningún servidor de impresión en marcha (%1); inicie CUPS o compruebe el nombre del servidor.</translation>
-    </message>
-    <message>
-        <source>The print server refused to list its printers (%1); ask whoever manages it.</source>
-        <translation>El servidor de impresión se niega a listar sus impresoras (%1); consulte a su administrador.</translation>
-    </message>
-    <message>
-        <source>The print server did not answer in time (%1); try again, or restart CUPS.</source>
-        <translation>El servidor de impresión no ha respondido a tiempo (%1); inténtelo de nuevo o reinicie CUPS.</translation>
-    </message>
-    <message>
-        <source>The print server could not list its printers (%1); try again, or look into its log.</source>
-        <translation>El servidor de impresión no ha podido listar sus impresoras (%1); inténtelo de nuevo o consulte su registro.</translation>
-    </message>
-    <message>
         <source>its PPD file is a new one</source>
         <translation>su archivo PPD es otro</translation>
     </message>
@@ -972,20 +928,60 @@ Ejemplos:
         <translation>no se imprime nada</translation>
     </message>
     <message>
-        <source>The options of the printer &quot;%1&quot; have changed since they were chosen (%2); look at them and print again.</source>
-        <translation>Las opciones de la impresora «%1» han cambiado desde que se eligieron (%2); revíselas e imprima de nuevo.</translation>
-    </message>
-    <message>
         <source>The job for the printer &quot;%1&quot; was cancelled (%2).</source>
         <translation>El trabajo para la impresora «%1» se ha cancelado (%2).</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; does not exist (%2). Choose another one, or add it in the printer settings.</source>
+        <translation>La impresora «%1» no existe (%2). Elija otra o añádala en la configuración de impresoras.</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; cannot be reached, because no print server is running (%2). Start CUPS or check the server&apos;s name.</source>
+        <translation>No se puede acceder a la impresora «%1», porque no hay ningún servidor de impresión en marcha (%2). Inicie CUPS o compruebe el nombre del servidor.</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; has no PPD file (%2). Set it up again with its driver.</source>
+        <translation>La impresora «%1» no tiene archivo PPD (%2). Configúrela de nuevo con su controlador.</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; does not accept jobs (%2). Allow them in the printer settings, or choose another printer.</source>
+        <translation>La impresora «%1» no acepta trabajos (%2). Permítalo en la configuración de impresoras o elija otra.</translation>
+    </message>
+    <message>
+        <source>The print server refused the request for the printer &quot;%1&quot; (%2). Ask its administrator.</source>
+        <translation>El servidor de impresión ha rechazado la petición para la impresora «%1» (%2). Consulte a su administrador.</translation>
+    </message>
+    <message>
+        <source>The print server did not answer about the printer &quot;%1&quot; in time (%2). Try again, or restart CUPS.</source>
+        <translation>El servidor de impresión no ha respondido a tiempo sobre la impresora «%1» (%2). Inténtelo de nuevo o reinicie CUPS.</translation>
+    </message>
+    <message>
+        <source>The options of the printer &quot;%1&quot; have changed since they were chosen (%2). Look at them and print again.</source>
+        <translation>Las opciones de la impresora «%1» han cambiado desde que se eligieron (%2). Revíselas e imprima de nuevo.</translation>
+    </message>
+    <message>
+        <source>The print server could not serve the printer &quot;%1&quot; (%2). Try again, or check its log.</source>
+        <translation>El servidor de impresión no ha podido atender a la impresora «%1» (%2). Inténtelo de nuevo o consulte su registro.</translation>
+    </message>
+    <message>
+        <source>No print server is running (%1). Start CUPS or check the server&apos;s name.</source>
+        <translation>No hay ningún servidor de impresión en marcha (%1). Inicie CUPS o compruebe el nombre del servidor.</translation>
+    </message>
+    <message>
+        <source>The print server refused to list its printers (%1). Ask its administrator.</source>
+        <translation>El servidor de impresión se niega a listar sus impresoras (%1). Consulte a su administrador.</translation>
+    </message>
+    <message>
+        <source>The print server did not answer in time (%1). Try again, or restart CUPS.</source>
+        <translation>El servidor de impresión no ha respondido a tiempo (%1). Inténtelo de nuevo o reinicie CUPS.</translation>
+    </message>
+    <message>
+        <source>The print server could not list its printers (%1). Try again, or check its log.</source>
+        <translation>El servidor de impresión no ha podido listar sus impresoras (%1). Inténtelo de nuevo o consulte su registro.</translation>
     </message>
 </context>
 <context>
     <name>RequestedSession</name>
-    <message>
-        <source>The printer &quot;%1&quot; has no PPD file and so no option %2; leave it out, or set the printer up with its driver.</source>
-        <translation>La impresora «%1» no tiene archivo PPD y por tanto ninguna opción %2; omítala o configure la impresora con su controlador.</translation>
-    </message>
     <message>
         <source>Of the preset &quot;%1&quot; is left out: %2</source>
         <translation>Del preajuste «%1» se omite: %2</translation>
@@ -997,6 +993,10 @@ Ejemplos:
     <message>
         <source>%1 It may have your default printer; --printer names another one, and &quot;--printer built-in&quot; prints into files.</source>
         <translation>%1 Puede que tenga su impresora predeterminada; con --printer puede indicar otra, y «--printer built-in» imprime en archivos.</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; has no PPD file and so no option %2. Leave it out, or set the printer up with its driver.</source>
+        <translation>La impresora «%1» no tiene archivo PPD y por tanto ninguna opción %2. Omítala o configure la impresora con su controlador.</translation>
     </message>
 </context>
 <context>
@@ -1147,10 +1147,6 @@ Ejemplos:
         <translation>un filtro de su controlador no es seguro</translation>
     </message>
     <message>
-        <source>trouble that it does not name</source>
-        <translation>un problema que no indica</translation>
-    </message>
-    <message>
         <source>the printer is stopped</source>
         <translation>la impresora está detenida</translation>
     </message>
@@ -1163,10 +1159,6 @@ Ejemplos:
         <translation>retenido</translation>
     </message>
     <message>
-        <source>held until somebody signs in</source>
-        <translation>retenido hasta que alguien se identifique</translation>
-    </message>
-    <message>
         <source>what it needs is not ready</source>
         <translation>lo que necesita no está listo</translation>
     </message>
@@ -1177,10 +1169,6 @@ Ejemplos:
     <message>
         <source>the document could not be printed</source>
         <translation>no se ha podido imprimir el documento</translation>
-    </message>
-    <message>
-        <source>the printer does not take this kind of document</source>
-        <translation>la impresora no admite este tipo de documento</translation>
     </message>
     <message>
         <source>cancelled by the user</source>
@@ -1233,6 +1221,18 @@ Ejemplos:
     <message>
         <source>%1 %2 %</source>
         <translation>%1 %2 %</translation>
+    </message>
+    <message>
+        <source>unspecified problem</source>
+        <translation>un problema no especificado</translation>
+    </message>
+    <message>
+        <source>held for authentication</source>
+        <translation>retenido hasta que alguien se identifique</translation>
+    </message>
+    <message>
+        <source>the printer does not accept this kind of document</source>
+        <translation>la impresora no admite este tipo de documento</translation>
     </message>
 </context>
 <context>
@@ -1422,10 +1422,6 @@ Ejemplos:
         <translation>Se ha detenido la impresión: %1 de %2 fotos impresas.</translation>
     </message>
     <message>
-        <source>Sent %1 of %2 photos to %3, which goes on printing.</source>
-        <translation>Enviadas %1 de %2 fotos a %3, que sigue imprimiendo.</translation>
-    </message>
-    <message>
         <source>Printed %1 of %2 photos.</source>
         <translation>%1 de %2 fotos impresas.</translation>
     </message>
@@ -1436,6 +1432,10 @@ Ejemplos:
     <message>
         <source>%1 photos cannot be printed.</source>
         <translation>No se pueden imprimir %1 fotos.</translation>
+    </message>
+    <message>
+        <source>Sent %1 of %2 photos to %3, which continues printing.</source>
+        <translation>Enviadas %1 de %2 fotos a %3, que sigue imprimiendo.</translation>
     </message>
 </context>
 <context>
@@ -1522,10 +1522,6 @@ Ejemplos:
         <translation>«%1» está incompleta: falta el final. Cópiela de nuevo desde su origen.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is damaged and cannot be shown. Copy it again, or save it anew in a photo program.</source>
-        <translation>«%1» está dañada y no se puede mostrar. Cópiela de nuevo o guárdela otra vez en un programa de fotografía.</translation>
-    </message>
-    <message>
         <source>There is not enough memory for &quot;%1&quot;. Scale it down in a photo program.</source>
         <translation>No hay memoria suficiente para «%1». Redúzcala en un programa de fotos.</translation>
     </message>
@@ -1540,6 +1536,10 @@ Ejemplos:
     <message>
         <source>&quot;%1&quot; is a JPEG of a rare kind, lossless or with more than 8 bits, which cannot be printed. Save it as a usual JPEG in a photo program.</source>
         <translation>«%1» es un JPEG de un tipo poco común, sin pérdidas o de más de 8 bits, que no se puede imprimir. Guárdelo como JPEG corriente en un programa de fotos.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is damaged and cannot be shown. Copy it again, or save it again in a photo program.</source>
+        <translation>«%1» está dañada y no se puede mostrar. Cópiela de nuevo o guárdela otra vez en un programa de fotografía.</translation>
     </message>
 </context>
 <context>
@@ -1630,14 +1630,6 @@ Ejemplos:
         <translation>%1 enviada a %2 como trabajo %3</translation>
     </message>
     <message>
-        <source>What has become of %1 (job %2) is not known: %3</source>
-        <translation>No se sabe qué ha sido de %1 (trabajo %2): %3</translation>
-    </message>
-    <message>
-        <source>%1 (job %2) is not printed yet: %3. The print server keeps it; &quot;cancel %2&quot; takes it back.</source>
-        <translation>%1 (trabajo %2) no está impreso todavía: %3. El servidor de impresión lo conserva; «cancel %2» lo retira.</translation>
-    </message>
-    <message>
         <source>The printer &quot;%1&quot; could not print %2 (job %3): %4. Look at the printer and print again.</source>
         <translation>La impresora «%1» no ha podido imprimir %2 (trabajo %3): %4. Revise la impresora e imprima de nuevo.</translation>
     </message>
@@ -1650,16 +1642,24 @@ Ejemplos:
         <translation>El trabajo %3 para %2 en la impresora «%1» se ha cancelado (%4).</translation>
     </message>
     <message>
-        <source>nobody said why</source>
-        <translation>sin indicar el motivo</translation>
-    </message>
-    <message>
         <source>Printed %1 on %2 (job %3)</source>
         <translation>Se ha impreso %1 en %2 (trabajo %3)</translation>
     </message>
     <message>
         <source>The job %1 for %2 could not be cancelled: %3</source>
         <translation>El trabajo %1 para %2 no se ha podido cancelar: %3</translation>
+    </message>
+    <message>
+        <source>The outcome of %1 (job %2) is unknown: %3</source>
+        <translation>No se conoce el resultado de %1 (trabajo %2): %3</translation>
+    </message>
+    <message>
+        <source>%1 (job %2) is not printed yet: %3. The print server keeps it; &quot;cancel %2&quot; cancels it.</source>
+        <translation>%1 (trabajo %2) no está impreso todavía: %3. El servidor de impresión lo conserva; «cancel %2» lo retira.</translation>
+    </message>
+    <message>
+        <source>no reason given</source>
+        <translation>sin indicar el motivo</translation>
     </message>
 </context>
 <context>
@@ -1800,16 +1800,16 @@ Ejemplos:
         <source>Of the preset &quot;%1&quot;, some choices are left out:</source>
         <translation>Del preajuste «%1» se omiten algunas opciones:</translation>
     </message>
-    <message>
-        <source>There is no preset &quot;%1&quot; any more.</source>
-        <translation>El preajuste «%1» ya no existe.</translation>
-    </message>
     <message numerus="yes">
         <source>And %n more.</source>
         <translation>
             <numerusform>Y %n más.</numerusform>
             <numerusform>Y %n más.</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>The preset &quot;%1&quot; no longer exists.</source>
+        <translation>El preajuste «%1» ya no existe.</translation>
     </message>
 </context>
 <context>
@@ -1854,12 +1854,12 @@ Ejemplos:
         <translation>Ya hay un preajuste «%1». Elija otro nombre.</translation>
     </message>
     <message>
-        <source>There is no preset &quot;%1&quot; any more. Save it under a new name.</source>
-        <translation>El preajuste «%1» ya no existe. Guárdelo con un nombre nuevo.</translation>
-    </message>
-    <message>
         <source>The preset &quot;%1&quot; is the system&apos;s. Save one of your own under a new name.</source>
         <translation>El preajuste «%1» es del sistema. Guarde uno propio con un nombre nuevo.</translation>
+    </message>
+    <message>
+        <source>The preset &quot;%1&quot; no longer exists. Save it under a new name.</source>
+        <translation>El preajuste «%1» ya no existe. Guárdelo con un nombre nuevo.</translation>
     </message>
 </context>
 <context>
@@ -2058,16 +2058,8 @@ Ejemplos:
         <translation>Deteniendo…</translation>
     </message>
     <message>
-        <source>Stop printing? What is not printed yet is taken back.</source>
-        <translation>¿Detener la impresión? Lo que aún no esté impreso se retira.</translation>
-    </message>
-    <message>
         <source>Stop Printing</source>
         <translation>Detener impresión</translation>
-    </message>
-    <message>
-        <source>Go On</source>
-        <translation>Continuar</translation>
     </message>
     <message>
         <source>Close Window</source>
@@ -2078,15 +2070,23 @@ Ejemplos:
         <translation>Dejar abierta</translation>
     </message>
     <message>
-        <source>The print server goes on printing when this window is closed.</source>
-        <translation>El servidor de impresión sigue imprimiendo cuando se cierra esta ventana.</translation>
-    </message>
-    <message>
         <source>Printed so far: %1 of %2 photos. The rest is not printed when this window is closed.</source>
         <translation>Impresas hasta ahora: %1 de %2 fotos. El resto no se imprime si se cierra esta ventana.</translation>
     </message>
     <message>
-        <source>When this window is closed, the print server goes on printing the %1 of %2 photos that it has. The rest is not printed.</source>
+        <source>Stop printing? Photos not printed yet are cancelled.</source>
+        <translation>¿Detener la impresión? Lo que aún no esté impreso se retira.</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Continuar</translation>
+    </message>
+    <message>
+        <source>The print server continues printing when this window is closed.</source>
+        <translation>El servidor de impresión sigue imprimiendo cuando se cierra esta ventana.</translation>
+    </message>
+    <message>
+        <source>When this window is closed, the print server continues printing the %1 of %2 photos that it has. The rest is not printed.</source>
         <translation>Si se cierra esta ventana, el servidor de impresión sigue imprimiendo las %1 de %2 fotos que tiene. El resto no se imprime.</translation>
     </message>
 </context>

@@ -20,8 +20,8 @@
         <translation>Annulé&#xa0;; rien de plus ne sera imprimé.</translation>
     </message>
     <message>
-        <source>Cancelled; the jobs sent were taken back from the printer.</source>
-        <translation>Annulé&#xa0;; les tâches envoyées ont été retirées de l’imprimante.</translation>
+        <source>Cancelled; the jobs already sent were cancelled, too.</source>
+        <translation>Annulé ; les tâches envoyées ont été retirées de l’imprimante.</translation>
     </message>
 </context>
 <context>
@@ -126,14 +126,6 @@ disent les onglets&#x202f;; avec --batch, en plus de l’impression</translation
         <translation>La valeur de --%1 est vide.</translation>
     </message>
     <message>
-        <source>There is no mode &quot;%1&quot;; it is either constraint or settings.</source>
-        <translation>Il n’y a pas de mode «&#x202f;%1&#x202f;»&#x202f;; c’est constraint ou settings.</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; chooses nothing; an option is given as KEY=CHOICE.</source>
-        <translation>«&#x202f;%1&#x202f;» ne choisit rien&#x202f;; une option s’écrit KEY=CHOICE.</translation>
-    </message>
-    <message>
         <source>--ppd is for the built-in printer, and --printer names the queue &quot;%1&quot;.</source>
         <translation>--ppd concerne l’imprimante intégrée, mais --printer désigne la file «&#x202f;%1&#x202f;».</translation>
     </message>
@@ -206,10 +198,6 @@ and from its top (otherwise 50,50, the middle)</source>
 et depuis son haut (sinon 50,50, le milieu)</translation>
     </message>
     <message>
-        <source>There is no scaling &quot;%1&quot;; it is fit, fill or actual.</source>
-        <translation>La mise à l’échelle «&#x202f;%1&#x202f;» n’existe pas&#x202f;; c’est fit, fill ou actual.</translation>
-    </message>
-    <message>
         <source>--crop is for --scaling fill or actual; with fit nothing is cropped.</source>
         <translation>--crop va avec --scaling fill ou actual&#x202f;; avec fit, rien n’est rogné.</translation>
     </message>
@@ -232,14 +220,6 @@ au lieu de numéroter les nouveaux&#x202f;; une photo n’est jamais remplacée<
     <message>
         <source>how many copies of each photo; otherwise the preset&apos;s, or 1</source>
         <translation>nombre d’exemplaires de chaque photo&#x202f;; sinon celui du préréglage, ou 1</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; copies cannot be printed; give a number from 1 to %2.</source>
-        <translation>«&#x202f;%1&#x202f;» exemplaires ne peuvent pas être imprimés&#x202f;; indiquez un nombre de 1 à %2.</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is not a file on this computer; copy the photo here first.</source>
-        <translation>«&#x202f;%1&#x202f;» n’est pas un fichier de cet ordinateur&#x202f;; copiez d’abord la photo ici.</translation>
     </message>
     <message>
         <source>--batch and --dry-run do not look for damage in photos,
@@ -277,16 +257,36 @@ Exemples&#x202f;:
 </translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is not a print server; it is given as HOST or HOST:PORT.</source>
-        <translation>«&#xa0;%1&#xa0;» n’est pas un serveur d’impression&#xa0;; indiquez HOST ou HOST:PORT.</translation>
+        <source>There is no mode &quot;%1&quot;. Choose constraint or settings.</source>
+        <translation>Le mode « %1 » n’existe pas. Choisissez constraint ou settings.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is not a time to wait; it is a number of seconds from 0 to %2.</source>
-        <translation>«&#xa0;%1&#xa0;» n’est pas une durée d’attente&#xa0;; c’est un nombre de secondes de 0 à %2.</translation>
+        <source>&quot;%1&quot; is not a print server. Give it as HOST or HOST:PORT.</source>
+        <translation>« %1 » n’est pas un serveur d’impression. Indiquez HOST ou HOST:PORT.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is not a crop; it is two numbers from 0 to 100, such as 50,0.</source>
-        <translation>«&#x202f;%1&#x202f;» n’est pas un cadrage&#x202f;; il faut deux nombres de 0 à 100, par exemple 50,0.</translation>
+        <source>&quot;%1&quot; is not a time to wait. Give a number of seconds from 0 to %2.</source>
+        <translation>« %1 » n’est pas une durée d’attente. Indiquez un nombre de secondes de 0 à %2.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; copies cannot be printed. Give a number from 1 to %2.</source>
+        <translation>« %1 » exemplaires ne peuvent pas être imprimés. Indiquez un nombre de 1 à %2.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a file on this computer. Copy the photo here first.</source>
+        <translation>« %1 » n’est pas un fichier de cet ordinateur. Copiez d’abord la photo ici.</translation>
+    </message>
+    <message>
+        <source>There is no scaling &quot;%1&quot;. Choose fit, fill or actual.</source>
+        <translation>La mise à l’échelle « %1 » n’existe pas. Choisissez fit, fill ou actual.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a crop. Give two numbers from 0 to 100, such as 50,0.</source>
+        <translation>« %1 » n’est pas un cadrage. Indiquez deux nombres de 0 à 100, par exemple 50,0.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not an option. Give it as KEY=CHOICE.</source>
+        <translation>« %1 » n’est pas une option. Indiquez-la sous la forme KEY=CHOICE.</translation>
     </message>
 </context>
 <context>
@@ -361,8 +361,8 @@ Exemples&#x202f;:
         <translation>il a été redémarré et ne connaît pas la tâche %1</translation>
     </message>
     <message>
-        <source>the print server does not answer; it is asked again</source>
-        <translation>le serveur d’impression ne répond pas&#xa0;; il est interrogé de nouveau</translation>
+        <source>the print server does not answer; asking again</source>
+        <translation>le serveur d’impression ne répond pas ; il est interrogé de nouveau</translation>
     </message>
 </context>
 <context>
@@ -415,32 +415,32 @@ Exemples&#x202f;:
 <context>
     <name>JobSubmission</name>
     <message>
-        <source>The option &quot;%1&quot; is not sent, because this cannot be an option&apos;s keyword; leave it out.</source>
-        <translation>L’option «&#x202f;%1&#x202f;» n’est pas envoyée, car ce ne peut être le mot-clé d’une option&#x202f;; ne l’indiquez pas.</translation>
-    </message>
-    <message>
-        <source>The option &quot;%1&quot; is not sent, because its value has a line break or another control character in it; choose another value.</source>
-        <translation>L’option «&#x202f;%1&#x202f;» n’est pas envoyée, car sa valeur contient un saut de ligne ou un autre caractère de contrôle&#x202f;; choisissez une autre valeur.</translation>
-    </message>
-    <message>
-        <source>The option &quot;%1&quot; is not sent, because CUPS misreads a value that begins with a brace; choose another value.</source>
-        <translation>L’option «&#x202f;%1&#x202f;» n’est pas envoyée, car CUPS interprète mal une valeur qui commence par une accolade&#x202f;; choisissez une autre valeur.</translation>
-    </message>
-    <message>
-        <source>The option &quot;%1&quot; is not sent, because its value is longer than %2 bytes; choose another value.</source>
-        <translation>L’option «&#x202f;%1&#x202f;» n’est pas envoyée, car sa valeur dépasse %2 octets&#x202f;; choisissez une autre valeur.</translation>
-    </message>
-    <message>
         <source>The document &quot;%1&quot; is not sent, because its type has a control character in it.</source>
         <translation>Le document «&#x202f;%1&#x202f;» n’est pas envoyé, car son type contient un caractère de contrôle.</translation>
     </message>
     <message>
-        <source>%1 copies cannot be printed; choose a number from 1 to %2.</source>
-        <translation>Impossible d’imprimer en %1 copies&#x202f;; choisissez un nombre de 1 à %2.</translation>
+        <source>it accepted the job without giving it a number</source>
+        <translation>il a accepté la tâche sans lui donner de numéro</translation>
     </message>
     <message>
-        <source>it took the job without giving it a number</source>
-        <translation>il a accepté la tâche sans lui donner de numéro</translation>
+        <source>The option &quot;%1&quot; is not sent, because this cannot be an option&apos;s keyword. Leave it out.</source>
+        <translation>L’option « %1 » n’est pas envoyée, car ce ne peut être le mot-clé d’une option. Ne l’indiquez pas.</translation>
+    </message>
+    <message>
+        <source>The option &quot;%1&quot; is not sent, because its value has a line break or another control character in it. Choose another value.</source>
+        <translation>L’option « %1 » n’est pas envoyée, car sa valeur contient un saut de ligne ou un autre caractère de contrôle. Choisissez une autre valeur.</translation>
+    </message>
+    <message>
+        <source>The option &quot;%1&quot; is not sent, because CUPS misreads a value that begins with a brace. Choose another value.</source>
+        <translation>L’option « %1 » n’est pas envoyée, car CUPS interprète mal une valeur qui commence par une accolade. Choisissez une autre valeur.</translation>
+    </message>
+    <message>
+        <source>The option &quot;%1&quot; is not sent, because its value is longer than %2 bytes. Choose another value.</source>
+        <translation>L’option « %1 » n’est pas envoyée, car sa valeur dépasse %2 octets. Choisissez une autre valeur.</translation>
+    </message>
+    <message>
+        <source>%1 copies cannot be printed. Choose a number from 1 to %2.</source>
+        <translation>Impossible d’imprimer en %1 copies. Choisissez un nombre de 1 à %2.</translation>
     </message>
 </context>
 <context>
@@ -607,10 +607,6 @@ Exemples&#x202f;:
 <context>
     <name>PpdCheck</name>
     <message>
-        <source>The PPD &quot;%1&quot; is not used, since it could not be tried out safely: %2. Install corvel-print again.</source>
-        <translation>Le PPD «&#x202f;%1&#x202f;» n’est pas utilisé, car il n’a pas pu être essayé sans risque&#x202f;: %2. Réinstallez corvel-print.</translation>
-    </message>
-    <message>
         <source>&quot;%1&quot; cannot be run: %2</source>
         <translation>impossible de lancer «&#x202f;%1&#x202f;»&#x202f;: %2</translation>
     </message>
@@ -619,32 +615,28 @@ Exemples&#x202f;:
         <translation>le système n’offre pas d’environnement isolé</translation>
     </message>
     <message>
-        <source>The PPD &quot;%1&quot; is not used: libcups does not come to an end with it. Fetch another from the printer&apos;s maker.</source>
-        <translation>Le PPD «&#x202f;%1&#x202f;» n’est pas utilisé&#x202f;: libcups n’en vient pas à bout. Procurez-vous-en un autre auprès du fabricant de l’imprimante.</translation>
-    </message>
-    <message>
-        <source>The PPD &quot;%1&quot; is not used: libcups crashes over it. Fetch another from the printer&apos;s maker.</source>
-        <translation>Le PPD «&#x202f;%1&#x202f;» n’est pas utilisé&#x202f;: il fait planter libcups. Procurez-vous-en un autre auprès du fabricant de l’imprimante.</translation>
-    </message>
-    <message>
-        <source>The PPD &quot;%1&quot; is not used, since this computer was too busy to try it out. Try again later.</source>
-        <translation>Le PPD «&#x202f;%1&#x202f;» n’est pas utilisé, car cet ordinateur était trop occupé pour l’essayer. Réessayez plus tard.</translation>
-    </message>
-    <message>
         <source>&quot;%1&quot; ends with status %2</source>
         <translation>«&#x202f;%1&#x202f;» se termine avec le code %2</translation>
+    </message>
+    <message>
+        <source>The PPD &quot;%1&quot; is not used, since it could not be checked safely: %2. Install corvel-print again.</source>
+        <translation>Le PPD « %1 » n’est pas utilisé, car il n’a pas pu être essayé sans risque : %2. Réinstallez corvel-print.</translation>
+    </message>
+    <message>
+        <source>The PPD &quot;%1&quot; is not used, since this computer was too busy to check it. Try again later.</source>
+        <translation>Le PPD « %1 » n’est pas utilisé, car cet ordinateur était trop occupé pour l’essayer. Réessayez plus tard.</translation>
+    </message>
+    <message>
+        <source>The PPD &quot;%1&quot; is not used: libcups does not finish reading it. Fetch another from the printer&apos;s maker.</source>
+        <translation>Le PPD « %1 » n’est pas utilisé : libcups n’en vient pas à bout. Procurez-vous-en un autre auprès du fabricant de l’imprimante.</translation>
+    </message>
+    <message>
+        <source>The PPD &quot;%1&quot; is not used: it makes libcups crash. Fetch another from the printer&apos;s maker.</source>
+        <translation>Le PPD « %1 » n’est pas utilisé : il fait planter libcups. Procurez-vous-en un autre auprès du fabricant de l’imprimante.</translation>
     </message>
 </context>
 <context>
     <name>PpdDocument</name>
-    <message>
-        <source>The PPD &quot;%1&quot; cannot be used: line %2: %3; correct it or fetch another from the printer&apos;s maker.</source>
-        <translation>Le PPD «&#x202f;%1&#x202f;» est inutilisable&#x202f;: ligne %2&#x202f;: %3&#x202f;; corrigez-le ou procurez-vous-en un autre auprès du fabricant de l’imprimante.</translation>
-    </message>
-    <message>
-        <source>The PPD &quot;%1&quot; has no page size that can be printed on; correct it or fetch another from the printer&apos;s maker.</source>
-        <translation>Le PPD «&#x202f;%1&#x202f;» n’a aucun format de papier imprimable&#x202f;; corrigez-le ou procurez-vous-en un autre auprès du fabricant de l’imprimante.</translation>
-    </message>
     <message>
         <source>The translations are left out: there are too many.</source>
         <translation>Les traductions sont ignorées&#x202f;: il y en a trop.</translation>
@@ -665,29 +657,17 @@ Exemples&#x202f;:
         <source>The default page size is not one of the printer&apos;s; &quot;%1&quot; takes its place.</source>
         <translation>Le format de papier par défaut n’est pas de cette imprimante&#x202f;; «&#x202f;%1&#x202f;» le remplace.</translation>
     </message>
+    <message>
+        <source>The PPD &quot;%1&quot; cannot be used: line %2: %3. Correct it or fetch another from the printer&apos;s maker.</source>
+        <translation>Le PPD « %1 » est inutilisable : ligne %2 : %3. Corrigez-le ou procurez-vous-en un autre auprès du fabricant de l’imprimante.</translation>
+    </message>
+    <message>
+        <source>The PPD &quot;%1&quot; has no page size that can be printed on. Correct it or fetch another from the printer&apos;s maker.</source>
+        <translation>Le PPD « %1 » n’a aucun format de papier imprimable. Corrigez-le ou procurez-vous-en un autre auprès du fabricant de l’imprimante.</translation>
+    </message>
 </context>
 <context>
     <name>PpdFile</name>
-    <message>
-        <source>&quot;%1&quot; is a directory; name the PPD file itself.</source>
-        <translation>«&#x202f;%1&#x202f;» est un dossier&#x202f;; indiquez le fichier PPD lui-même.</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is a device or a pipe, not a file; name the printer&apos;s PPD file.</source>
-        <translation>«&#x202f;%1&#x202f;» est un périphérique ou un tube, pas un fichier&#x202f;; indiquez le fichier PPD de l’imprimante.</translation>
-    </message>
-    <message>
-        <source>There is no PPD &quot;%1&quot;; check the path.</source>
-        <translation>Il n’y a pas de PPD «&#x202f;%1&#x202f;»&#x202f;; vérifiez le chemin.</translation>
-    </message>
-    <message>
-        <source>The PPD &quot;%1&quot; cannot be read: %2; check the file and its permissions.</source>
-        <translation>Le PPD «&#x202f;%1&#x202f;» ne peut pas être lu&#x202f;: %2&#x202f;; vérifiez le fichier et ses droits d’accès.</translation>
-    </message>
-    <message>
-        <source>The compressed PPD &quot;%1&quot; cannot be expanded: %2; copy it again from where it came from.</source>
-        <translation>Le PPD compressé «&#x202f;%1&#x202f;» ne peut pas être décompressé&#x202f;: %2&#x202f;; copiez-le de nouveau depuis son origine.</translation>
-    </message>
     <message>
         <source>its end is missing</source>
         <translation>la fin manque</translation>
@@ -695,6 +675,26 @@ Exemples&#x202f;:
     <message>
         <source>it is damaged</source>
         <translation>il est endommagé</translation>
+    </message>
+    <message>
+        <source>The compressed PPD &quot;%1&quot; cannot be expanded: %2. Copy it again from where it came from.</source>
+        <translation>Le PPD compressé « %1 » ne peut pas être décompressé : %2. Copiez-le de nouveau depuis son origine.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a directory. Name the PPD file itself.</source>
+        <translation>« %1 » est un dossier. Indiquez le fichier PPD lui-même.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a device or a pipe, not a file. Name the printer&apos;s PPD file.</source>
+        <translation>« %1 » est un périphérique ou un tube, pas un fichier. Indiquez le fichier PPD de l’imprimante.</translation>
+    </message>
+    <message>
+        <source>There is no PPD &quot;%1&quot;. Check the path.</source>
+        <translation>Il n’y a pas de PPD « %1 ». Vérifiez le chemin.</translation>
+    </message>
+    <message>
+        <source>The PPD &quot;%1&quot; cannot be read: %2. Check the file and its permissions.</source>
+        <translation>Le PPD « %1 » ne peut pas être lu : %2. Vérifiez le fichier et ses droits d’accès.</translation>
     </message>
 </context>
 <context>
@@ -714,10 +714,6 @@ Exemples&#x202f;:
     <message>
         <source>it is larger than %1 MiB</source>
         <translation>il dépasse %1 Mio</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is not a PPD, which is a text that begins with &quot;*PPD-Adobe:&quot;; name the printer&apos;s PPD file.</source>
-        <translation>«&#x202f;%1&#x202f;» n’est pas un PPD, c’est-à-dire un texte qui commence par «&#x202f;*PPD-Adobe:&#x202f;»&#x202f;; indiquez le fichier PPD de l’imprimante.</translation>
     </message>
     <message>
         <source>it is cut off: the quote opened in line %1 never closes</source>
@@ -804,20 +800,8 @@ Exemples&#x202f;:
         <translation>Autres entrées ignorées&#x202f;: %1.</translation>
     </message>
     <message>
-        <source>fetch the printer&apos;s PPD again</source>
-        <translation>procurez-vous de nouveau le PPD de l’imprimante</translation>
-    </message>
-    <message>
-        <source>correct it or fetch another from the printer&apos;s maker</source>
-        <translation>corrigez-le ou procurez-vous-en un autre auprès du fabricant de l’imprimante</translation>
-    </message>
-    <message>
         <source>it has more than %1 %2</source>
         <translation>plus de %1 %2</translation>
-    </message>
-    <message>
-        <source>The PPD &quot;%1&quot; cannot be used: %2; %3.</source>
-        <translation>Le PPD «&#x202f;%1&#x202f;» est inutilisable&#x202f;: %2&#x202f;; %3.</translation>
     </message>
     <message>
         <source>The option &quot;%1&quot; opened in line %2 never closes.</source>
@@ -830,6 +814,22 @@ Exemples&#x202f;:
     <message>
         <source>it is cut off in line %1</source>
         <translation>il est tronqué à la ligne %1</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a PPD, which is a text that begins with &quot;*PPD-Adobe:&quot;. Name the printer&apos;s PPD file.</source>
+        <translation>« %1 » n’est pas un PPD, c’est-à-dire un texte qui commence par « *PPD-Adobe: ». Indiquez le fichier PPD de l’imprimante.</translation>
+    </message>
+    <message>
+        <source>Fetch the printer&apos;s PPD again</source>
+        <translation>Procurez-vous de nouveau le PPD de l’imprimante</translation>
+    </message>
+    <message>
+        <source>Correct it or fetch another from the printer&apos;s maker</source>
+        <translation>Corrigez-le ou procurez-vous-en un autre auprès du fabricant de l’imprimante</translation>
+    </message>
+    <message>
+        <source>The PPD &quot;%1&quot; cannot be used: %2. %3.</source>
+        <translation>Le PPD « %1 » est inutilisable : %2. %3.</translation>
     </message>
 </context>
 <context>
@@ -921,50 +921,6 @@ Exemples&#x202f;:
         <translation>le serveur d’impression n’a pas donné de raison</translation>
     </message>
     <message>
-        <source>The printer &quot;%1&quot; does not exist (%2); choose another one, or add it in the printer settings.</source>
-        <translation>L’imprimante «&#x202f;%1&#x202f;» n’existe pas (%2)&#x202f;; choisissez-en une autre ou ajoutez-la dans les paramètres d’impression.</translation>
-    </message>
-    <message>
-        <source>The printer &quot;%1&quot; cannot be reached, because no print server is running (%2); start CUPS or check the server&apos;s name.</source>
-        <translation>L’imprimante «&#x202f;%1&#x202f;» est injoignable, car aucun serveur d’impression ne fonctionne (%2)&#x202f;; démarrez CUPS ou vérifiez le nom du serveur.</translation>
-    </message>
-    <message>
-        <source>The printer &quot;%1&quot; has no PPD file (%2); set it up again with its driver.</source>
-        <translation>L’imprimante «&#x202f;%1&#x202f;» n’a pas de fichier PPD (%2)&#x202f;; configurez-la de nouveau avec son pilote.</translation>
-    </message>
-    <message>
-        <source>The printer &quot;%1&quot; does not accept jobs (%2); let it accept them in the printer settings, or choose another one.</source>
-        <translation>L’imprimante «&#x202f;%1&#x202f;» n’accepte pas de travaux (%2)&#x202f;; autorisez-les dans les paramètres d’impression ou choisissez-en une autre.</translation>
-    </message>
-    <message>
-        <source>The print server refused the request for the printer &quot;%1&quot; (%2); ask whoever manages it.</source>
-        <translation>Le serveur d’impression a refusé la demande pour l’imprimante «&#x202f;%1&#x202f;» (%2)&#x202f;; adressez-vous à son administrateur.</translation>
-    </message>
-    <message>
-        <source>The print server did not answer about the printer &quot;%1&quot; in time (%2); try again, or restart CUPS.</source>
-        <translation>Le serveur d’impression n’a pas répondu à temps au sujet de l’imprimante «&#x202f;%1&#x202f;» (%2)&#x202f;; réessayez ou redémarrez CUPS.</translation>
-    </message>
-    <message>
-        <source>The print server could not serve the printer &quot;%1&quot; (%2); try again, or look into its log.</source>
-        <translation>Le serveur d’impression n’a pas pu traiter la demande pour l’imprimante «&#x202f;%1&#x202f;» (%2)&#x202f;; réessayez ou consultez son journal.</translation>
-    </message>
-    <message>
-        <source>No print server is running (%1); start CUPS or check the server&apos;s name.</source>
-        <translation>Aucun serveur d’impression ne fonctionne (%1)&#x202f;; démarrez CUPS ou vérifiez le nom du serveur.</translation>
-    </message>
-    <message>
-        <source>The print server refused to list its printers (%1); ask whoever manages it.</source>
-        <translation>Le serveur d’impression a refusé de lister ses imprimantes (%1)&#x202f;; adressez-vous à son administrateur.</translation>
-    </message>
-    <message>
-        <source>The print server did not answer in time (%1); try again, or restart CUPS.</source>
-        <translation>Le serveur d’impression n’a pas répondu à temps (%1)&#x202f;; réessayez ou redémarrez CUPS.</translation>
-    </message>
-    <message>
-        <source>The print server could not list its printers (%1); try again, or look into its log.</source>
-        <translation>Le serveur d’impression n’a pas pu lister ses imprimantes (%1)&#x202f;; réessayez ou consultez son journal.</translation>
-    </message>
-    <message>
         <source>its PPD file is a new one</source>
         <translation>son fichier PPD a été remplacé</translation>
     </message>
@@ -973,20 +929,60 @@ Exemples&#x202f;:
         <translation>rien n’est imprimé</translation>
     </message>
     <message>
-        <source>The options of the printer &quot;%1&quot; have changed since they were chosen (%2); look at them and print again.</source>
-        <translation>Les options de l’imprimante «&#xa0;%1&#xa0;» ont changé depuis qu’elles ont été choisies (%2)&#xa0;; vérifiez-les et relancez l’impression.</translation>
-    </message>
-    <message>
         <source>The job for the printer &quot;%1&quot; was cancelled (%2).</source>
         <translation>La tâche pour l’imprimante «&#xa0;%1&#xa0;» a été annulée (%2).</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; does not exist (%2). Choose another one, or add it in the printer settings.</source>
+        <translation>L’imprimante « %1 » n’existe pas (%2). Choisissez-en une autre ou ajoutez-la dans les paramètres d’impression.</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; cannot be reached, because no print server is running (%2). Start CUPS or check the server&apos;s name.</source>
+        <translation>L’imprimante « %1 » est injoignable, car aucun serveur d’impression ne fonctionne (%2). Démarrez CUPS ou vérifiez le nom du serveur.</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; has no PPD file (%2). Set it up again with its driver.</source>
+        <translation>L’imprimante « %1 » n’a pas de fichier PPD (%2). Configurez-la de nouveau avec son pilote.</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; does not accept jobs (%2). Allow them in the printer settings, or choose another printer.</source>
+        <translation>L’imprimante « %1 » n’accepte pas de travaux (%2). Autorisez-les dans les paramètres d’impression ou choisissez-en une autre.</translation>
+    </message>
+    <message>
+        <source>The print server refused the request for the printer &quot;%1&quot; (%2). Ask its administrator.</source>
+        <translation>Le serveur d’impression a refusé la demande pour l’imprimante « %1 » (%2). Adressez-vous à son administrateur.</translation>
+    </message>
+    <message>
+        <source>The print server did not answer about the printer &quot;%1&quot; in time (%2). Try again, or restart CUPS.</source>
+        <translation>Le serveur d’impression n’a pas répondu à temps au sujet de l’imprimante « %1 » (%2). Réessayez ou redémarrez CUPS.</translation>
+    </message>
+    <message>
+        <source>The options of the printer &quot;%1&quot; have changed since they were chosen (%2). Look at them and print again.</source>
+        <translation>Les options de l’imprimante « %1 » ont changé depuis qu’elles ont été choisies (%2). Vérifiez-les et relancez l’impression.</translation>
+    </message>
+    <message>
+        <source>The print server could not serve the printer &quot;%1&quot; (%2). Try again, or check its log.</source>
+        <translation>Le serveur d’impression n’a pas pu traiter la demande pour l’imprimante « %1 » (%2). Réessayez ou consultez son journal.</translation>
+    </message>
+    <message>
+        <source>No print server is running (%1). Start CUPS or check the server&apos;s name.</source>
+        <translation>Aucun serveur d’impression ne fonctionne (%1). Démarrez CUPS ou vérifiez le nom du serveur.</translation>
+    </message>
+    <message>
+        <source>The print server refused to list its printers (%1). Ask its administrator.</source>
+        <translation>Le serveur d’impression a refusé de lister ses imprimantes (%1). Adressez-vous à son administrateur.</translation>
+    </message>
+    <message>
+        <source>The print server did not answer in time (%1). Try again, or restart CUPS.</source>
+        <translation>Le serveur d’impression n’a pas répondu à temps (%1). Réessayez ou redémarrez CUPS.</translation>
+    </message>
+    <message>
+        <source>The print server could not list its printers (%1). Try again, or check its log.</source>
+        <translation>Le serveur d’impression n’a pas pu lister ses imprimantes (%1). Réessayez ou consultez son journal.</translation>
     </message>
 </context>
 <context>
     <name>RequestedSession</name>
-    <message>
-        <source>The printer &quot;%1&quot; has no PPD file and so no option %2; leave it out, or set the printer up with its driver.</source>
-        <translation>L’imprimante «&#xa0;%1&#xa0;» n’a pas de fichier PPD, donc pas d’option %2&#xa0;; retirez-la ou installez l’imprimante avec son pilote.</translation>
-    </message>
     <message>
         <source>Of the preset &quot;%1&quot; is left out: %2</source>
         <translation>Du préréglage «&#x202f;%1&#x202f;» est laissé de côté&#x202f;: %2</translation>
@@ -998,6 +994,10 @@ Exemples&#x202f;:
     <message>
         <source>%1 It may have your default printer; --printer names another one, and &quot;--printer built-in&quot; prints into files.</source>
         <translation>%1 Votre imprimante par défaut y est peut-être&#x202f;; --printer permet d’en nommer une autre, et «&#x202f;--printer built-in&#x202f;» imprime dans des fichiers.</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; has no PPD file and so no option %2. Leave it out, or set the printer up with its driver.</source>
+        <translation>L’imprimante « %1 » n’a pas de fichier PPD, donc pas d’option %2. Retirez-la ou installez l’imprimante avec son pilote.</translation>
     </message>
 </context>
 <context>
@@ -1148,10 +1148,6 @@ Exemples&#x202f;:
         <translation>un filtre de son pilote n’est pas sûr</translation>
     </message>
     <message>
-        <source>trouble that it does not name</source>
-        <translation>un problème qu’elle ne précise pas</translation>
-    </message>
-    <message>
         <source>the printer is stopped</source>
         <translation>l’imprimante est arrêtée</translation>
     </message>
@@ -1164,10 +1160,6 @@ Exemples&#x202f;:
         <translation>retenue</translation>
     </message>
     <message>
-        <source>held until somebody signs in</source>
-        <translation>retenue jusqu’à une identification</translation>
-    </message>
-    <message>
         <source>what it needs is not ready</source>
         <translation>ce qu’il lui faut n’est pas prêt</translation>
     </message>
@@ -1178,10 +1170,6 @@ Exemples&#x202f;:
     <message>
         <source>the document could not be printed</source>
         <translation>le document n’a pas pu être imprimé</translation>
-    </message>
-    <message>
-        <source>the printer does not take this kind of document</source>
-        <translation>l’imprimante n’accepte pas ce type de document</translation>
     </message>
     <message>
         <source>cancelled by the user</source>
@@ -1234,6 +1222,18 @@ Exemples&#x202f;:
     <message>
         <source>%1 %2 %</source>
         <translation>%1 %2 %</translation>
+    </message>
+    <message>
+        <source>unspecified problem</source>
+        <translation>un problème non précisé</translation>
+    </message>
+    <message>
+        <source>held for authentication</source>
+        <translation>retenue jusqu’à une identification</translation>
+    </message>
+    <message>
+        <source>the printer does not accept this kind of document</source>
+        <translation>l’imprimante n’accepte pas ce type de document</translation>
     </message>
 </context>
 <context>
@@ -1423,10 +1423,6 @@ Exemples&#x202f;:
         <translation>L’impression a été arrêtée&#xa0;: %1 photos imprimées sur %2.</translation>
     </message>
     <message>
-        <source>Sent %1 of %2 photos to %3, which goes on printing.</source>
-        <translation>%1 photos sur %2 envoyées à %3, qui continue d’imprimer.</translation>
-    </message>
-    <message>
         <source>Printed %1 of %2 photos.</source>
         <translation>%1 photos imprimées sur %2.</translation>
     </message>
@@ -1437,6 +1433,10 @@ Exemples&#x202f;:
     <message>
         <source>%1 photos cannot be printed.</source>
         <translation>%1 photos ne peuvent pas être imprimées.</translation>
+    </message>
+    <message>
+        <source>Sent %1 of %2 photos to %3, which continues printing.</source>
+        <translation>%1 photos sur %2 envoyées à %3, qui continue d’imprimer.</translation>
     </message>
 </context>
 <context>
@@ -1523,10 +1523,6 @@ Exemples&#x202f;:
         <translation>«&#x202f;%1&#x202f;» est incomplète&#x202f;: la fin manque. Copiez-la de nouveau depuis sa source.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is damaged and cannot be shown. Copy it again, or save it anew in a photo program.</source>
-        <translation>«&#x202f;%1&#x202f;» est endommagée et ne peut pas être affichée. Copiez-la de nouveau ou enregistrez-la de nouveau dans un logiciel de retouche.</translation>
-    </message>
-    <message>
         <source>There is not enough memory for &quot;%1&quot;. Scale it down in a photo program.</source>
         <translation>La mémoire ne suffit pas pour «&#x202f;%1&#x202f;». Réduisez-la dans un logiciel de photo.</translation>
     </message>
@@ -1541,6 +1537,10 @@ Exemples&#x202f;:
     <message>
         <source>&quot;%1&quot; is a JPEG of a rare kind, lossless or with more than 8 bits, which cannot be printed. Save it as a usual JPEG in a photo program.</source>
         <translation>«&#x202f;%1&#x202f;» est un JPEG d’un type rare, sans perte ou de plus de 8 bits, qui ne peut pas être imprimé. Enregistrez-le comme JPEG ordinaire dans un logiciel de photo.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is damaged and cannot be shown. Copy it again, or save it again in a photo program.</source>
+        <translation>« %1 » est endommagée et ne peut pas être affichée. Copiez-la de nouveau ou enregistrez-la de nouveau dans un logiciel de retouche.</translation>
     </message>
 </context>
 <context>
@@ -1631,14 +1631,6 @@ Exemples&#x202f;:
         <translation>%1 envoyée à %2 (travail %3)</translation>
     </message>
     <message>
-        <source>What has become of %1 (job %2) is not known: %3</source>
-        <translation>On ne sait pas ce qu’est devenue %1 (tâche %2)&#xa0;: %3</translation>
-    </message>
-    <message>
-        <source>%1 (job %2) is not printed yet: %3. The print server keeps it; &quot;cancel %2&quot; takes it back.</source>
-        <translation>%1 (tâche %2) n’est pas encore imprimée&#xa0;: %3. Le serveur d’impression la garde&#xa0;; «&#xa0;cancel %2&#xa0;» la retire.</translation>
-    </message>
-    <message>
         <source>The printer &quot;%1&quot; could not print %2 (job %3): %4. Look at the printer and print again.</source>
         <translation>L’imprimante «&#xa0;%1&#xa0;» n’a pas pu imprimer %2 (tâche %3)&#xa0;: %4. Vérifiez l’imprimante et relancez l’impression.</translation>
     </message>
@@ -1651,16 +1643,24 @@ Exemples&#x202f;:
         <translation>La tâche %3 pour %2 sur l’imprimante «&#xa0;%1&#xa0;» a été annulée (%4).</translation>
     </message>
     <message>
-        <source>nobody said why</source>
-        <translation>sans raison indiquée</translation>
-    </message>
-    <message>
         <source>Printed %1 on %2 (job %3)</source>
         <translation>%1 imprimée sur %2 (tâche %3)</translation>
     </message>
     <message>
         <source>The job %1 for %2 could not be cancelled: %3</source>
         <translation>La tâche %1 pour %2 n’a pas pu être annulée&#xa0;: %3</translation>
+    </message>
+    <message>
+        <source>The outcome of %1 (job %2) is unknown: %3</source>
+        <translation>Le résultat de %1 (tâche %2) est inconnu : %3</translation>
+    </message>
+    <message>
+        <source>%1 (job %2) is not printed yet: %3. The print server keeps it; &quot;cancel %2&quot; cancels it.</source>
+        <translation>%1 (tâche %2) n’est pas encore imprimée : %3. Le serveur d’impression la garde ; « cancel %2 » la retire.</translation>
+    </message>
+    <message>
+        <source>no reason given</source>
+        <translation>sans raison indiquée</translation>
     </message>
 </context>
 <context>
@@ -1801,16 +1801,16 @@ Exemples&#x202f;:
         <source>Of the preset &quot;%1&quot;, some choices are left out:</source>
         <translation>Certains choix du préréglage «&#x202f;%1&#x202f;» ne sont pas repris&#x202f;:</translation>
     </message>
-    <message>
-        <source>There is no preset &quot;%1&quot; any more.</source>
-        <translation>Le préréglage «&#x202f;%1&#x202f;» n’existe plus.</translation>
-    </message>
     <message numerus="yes">
         <source>And %n more.</source>
         <translation>
             <numerusform>Et %n autre.</numerusform>
             <numerusform>Et %n autres.</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>The preset &quot;%1&quot; no longer exists.</source>
+        <translation>Le préréglage « %1 » n’existe plus.</translation>
     </message>
 </context>
 <context>
@@ -1855,12 +1855,12 @@ Exemples&#x202f;:
         <translation>Il existe déjà un préréglage «&#x202f;%1&#x202f;». Choisissez un autre nom.</translation>
     </message>
     <message>
-        <source>There is no preset &quot;%1&quot; any more. Save it under a new name.</source>
-        <translation>Le préréglage «&#x202f;%1&#x202f;» n’existe plus. Enregistrez-le sous un nouveau nom.</translation>
-    </message>
-    <message>
         <source>The preset &quot;%1&quot; is the system&apos;s. Save one of your own under a new name.</source>
         <translation>Le préréglage «&#x202f;%1&#x202f;» est celui du système. Enregistrez le vôtre sous un nouveau nom.</translation>
+    </message>
+    <message>
+        <source>The preset &quot;%1&quot; no longer exists. Save it under a new name.</source>
+        <translation>Le préréglage « %1 » n’existe plus. Enregistrez-le sous un nouveau nom.</translation>
     </message>
 </context>
 <context>
@@ -2059,16 +2059,8 @@ Exemples&#x202f;:
         <translation>Arrêt…</translation>
     </message>
     <message>
-        <source>Stop printing? What is not printed yet is taken back.</source>
-        <translation>Arrêter l’impression&#x202f;? Ce qui n’est pas encore imprimé est retiré.</translation>
-    </message>
-    <message>
         <source>Stop Printing</source>
         <translation>Arrêter l’impression</translation>
-    </message>
-    <message>
-        <source>Go On</source>
-        <translation>Continuer</translation>
     </message>
     <message>
         <source>Close Window</source>
@@ -2079,15 +2071,23 @@ Exemples&#x202f;:
         <translation>Laisser ouverte</translation>
     </message>
     <message>
-        <source>The print server goes on printing when this window is closed.</source>
-        <translation>Le serveur d’impression continue d’imprimer quand cette fenêtre est fermée.</translation>
-    </message>
-    <message>
         <source>Printed so far: %1 of %2 photos. The rest is not printed when this window is closed.</source>
         <translation>Photos imprimées jusqu’ici&#xa0;: %1 sur %2. Le reste n’est pas imprimé si cette fenêtre est fermée.</translation>
     </message>
     <message>
-        <source>When this window is closed, the print server goes on printing the %1 of %2 photos that it has. The rest is not printed.</source>
+        <source>Stop printing? Photos not printed yet are cancelled.</source>
+        <translation>Arrêter l’impression ? Ce qui n’est pas encore imprimé est retiré.</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Continuer</translation>
+    </message>
+    <message>
+        <source>The print server continues printing when this window is closed.</source>
+        <translation>Le serveur d’impression continue d’imprimer quand cette fenêtre est fermée.</translation>
+    </message>
+    <message>
+        <source>When this window is closed, the print server continues printing the %1 of %2 photos that it has. The rest is not printed.</source>
         <translation>Si cette fenêtre est fermée, le serveur d’impression continue d’imprimer les %1 photos sur %2 qu’il a reçues. Le reste n’est pas imprimé.</translation>
     </message>
 </context>

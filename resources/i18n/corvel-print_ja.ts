@@ -20,7 +20,7 @@
         <translation>中止しました。これ以上は印刷されません。</translation>
     </message>
     <message>
-        <source>Cancelled; the jobs sent were taken back from the printer.</source>
+        <source>Cancelled; the jobs already sent were cancelled, too.</source>
         <translation>中止しました。送信したジョブはプリンターから取り消しました。</translation>
     </message>
 </context>
@@ -126,14 +126,6 @@ what the panels say; with --batch as well as printing</source>
         <translation>--%1 の値が空です。</translation>
     </message>
     <message>
-        <source>There is no mode &quot;%1&quot;; it is either constraint or settings.</source>
-        <translation>「%1」というモードはありません。constraint か settings を指定してください。</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; chooses nothing; an option is given as KEY=CHOICE.</source>
-        <translation>「%1」では何も選択されません。オプションは KEY=CHOICE の形で指定してください。</translation>
-    </message>
-    <message>
         <source>--ppd is for the built-in printer, and --printer names the queue &quot;%1&quot;.</source>
         <translation>--ppd は内蔵プリンター用ですが、--printer でキュー「%1」が指定されています。</translation>
     </message>
@@ -206,10 +198,6 @@ and from its top (otherwise 50,50, the middle)</source>
 パーセント（指定がなければ中央の 50,50）</translation>
     </message>
     <message>
-        <source>There is no scaling &quot;%1&quot;; it is fit, fill or actual.</source>
-        <translation>「%1」という拡大縮小はありません。fit、fill、actual のいずれかです。</translation>
-    </message>
-    <message>
         <source>--crop is for --scaling fill or actual; with fit nothing is cropped.</source>
         <translation>--crop は --scaling fill または actual と使います。fit では何も切り取られません。</translation>
     </message>
@@ -232,14 +220,6 @@ instead of numbering the new ones; a photo is never replaced</source>
     <message>
         <source>how many copies of each photo; otherwise the preset&apos;s, or 1</source>
         <translation>各写真の部数 (省略するとプリセットの部数、または 1)</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; copies cannot be printed; give a number from 1 to %2.</source>
-        <translation>「%1」部は印刷できません。1 から %2 までの数を指定してください。</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is not a file on this computer; copy the photo here first.</source>
-        <translation>「%1」はこのコンピューターのファイルではありません。先に写真をコピーしてください。</translation>
     </message>
     <message>
         <source>--batch and --dry-run do not look for damage in photos,
@@ -276,16 +256,36 @@ Examples:
 </translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is not a print server; it is given as HOST or HOST:PORT.</source>
+        <source>There is no mode &quot;%1&quot;. Choose constraint or settings.</source>
+        <translation>「%1」というモードはありません。constraint か settings を指定してください。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a print server. Give it as HOST or HOST:PORT.</source>
         <translation>「%1」はプリントサーバーではありません。HOST または HOST:PORT の形で指定してください。</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is not a time to wait; it is a number of seconds from 0 to %2.</source>
+        <source>&quot;%1&quot; is not a time to wait. Give a number of seconds from 0 to %2.</source>
         <translation>「%1」は待ち時間ではありません。0 から %2 までの秒数を指定してください。</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is not a crop; it is two numbers from 0 to 100, such as 50,0.</source>
-        <translation>「%1」は切り取り位置ではありません。50,0 のように 0 から 100 までの数を 2 つ指定します。</translation>
+        <source>&quot;%1&quot; copies cannot be printed. Give a number from 1 to %2.</source>
+        <translation>「%1」部は印刷できません。1 から %2 までの数を指定してください。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a file on this computer. Copy the photo here first.</source>
+        <translation>「%1」はこのコンピューターのファイルではありません。先に写真をコピーしてください。</translation>
+    </message>
+    <message>
+        <source>There is no scaling &quot;%1&quot;. Choose fit, fill or actual.</source>
+        <translation>「%1」という拡大縮小はありません。fit、fill、actual のいずれかを指定してください。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a crop. Give two numbers from 0 to 100, such as 50,0.</source>
+        <translation>「%1」は切り取り位置ではありません。50,0 のように 0 から 100 までの数を 2 つ指定してください。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not an option. Give it as KEY=CHOICE.</source>
+        <translation>「%1」はオプションではありません。KEY=CHOICE の形で指定してください。</translation>
     </message>
 </context>
 <context>
@@ -359,7 +359,7 @@ Examples:
         <translation>再起動され、ジョブ %1 が見つかりません</translation>
     </message>
     <message>
-        <source>the print server does not answer; it is asked again</source>
+        <source>the print server does not answer; asking again</source>
         <translation>プリントサーバーが応答しません。再び問い合わせています</translation>
     </message>
 </context>
@@ -413,32 +413,32 @@ Examples:
 <context>
     <name>JobSubmission</name>
     <message>
-        <source>The option &quot;%1&quot; is not sent, because this cannot be an option&apos;s keyword; leave it out.</source>
-        <translation>「%1」はオプションのキーワードになりえないため、送りません。指定しないでください。</translation>
-    </message>
-    <message>
-        <source>The option &quot;%1&quot; is not sent, because its value has a line break or another control character in it; choose another value.</source>
-        <translation>オプション「%1」の値に改行などの制御文字が含まれているため、送りません。別の値を選んでください。</translation>
-    </message>
-    <message>
-        <source>The option &quot;%1&quot; is not sent, because CUPS misreads a value that begins with a brace; choose another value.</source>
-        <translation>波かっこで始まる値は CUPS が正しく読めないため、オプション「%1」は送りません。別の値を選んでください。</translation>
-    </message>
-    <message>
-        <source>The option &quot;%1&quot; is not sent, because its value is longer than %2 bytes; choose another value.</source>
-        <translation>オプション「%1」の値が %2 バイトを超えているため、送りません。別の値を選んでください。</translation>
-    </message>
-    <message>
         <source>The document &quot;%1&quot; is not sent, because its type has a control character in it.</source>
         <translation>文書「%1」の種類に制御文字が含まれているため、送りません。</translation>
     </message>
     <message>
-        <source>%1 copies cannot be printed; choose a number from 1 to %2.</source>
-        <translation>%1 部は印刷できません。1 から %2 までの数を選んでください。</translation>
+        <source>it accepted the job without giving it a number</source>
+        <translation>ジョブは受け付けられましたが、番号が付けられていません</translation>
     </message>
     <message>
-        <source>it took the job without giving it a number</source>
-        <translation>ジョブは受け付けられましたが、番号が付けられていません</translation>
+        <source>The option &quot;%1&quot; is not sent, because this cannot be an option&apos;s keyword. Leave it out.</source>
+        <translation>「%1」はオプションのキーワードになりえないため、送りません。指定しないでください。</translation>
+    </message>
+    <message>
+        <source>The option &quot;%1&quot; is not sent, because its value has a line break or another control character in it. Choose another value.</source>
+        <translation>オプション「%1」の値に改行などの制御文字が含まれているため、送りません。別の値を選んでください。</translation>
+    </message>
+    <message>
+        <source>The option &quot;%1&quot; is not sent, because CUPS misreads a value that begins with a brace. Choose another value.</source>
+        <translation>波かっこで始まる値は CUPS が正しく読めないため、オプション「%1」は送りません。別の値を選んでください。</translation>
+    </message>
+    <message>
+        <source>The option &quot;%1&quot; is not sent, because its value is longer than %2 bytes. Choose another value.</source>
+        <translation>オプション「%1」の値が %2 バイトを超えているため、送りません。別の値を選んでください。</translation>
+    </message>
+    <message>
+        <source>%1 copies cannot be printed. Choose a number from 1 to %2.</source>
+        <translation>%1 部は印刷できません。1 から %2 までの数を選んでください。</translation>
     </message>
 </context>
 <context>
@@ -605,10 +605,6 @@ Examples:
 <context>
     <name>PpdCheck</name>
     <message>
-        <source>The PPD &quot;%1&quot; is not used, since it could not be tried out safely: %2. Install corvel-print again.</source>
-        <translation>PPD「%1」は安全に試せなかったため使用しません: %2。corvel-print を再インストールしてください。</translation>
-    </message>
-    <message>
         <source>&quot;%1&quot; cannot be run: %2</source>
         <translation>「%1」を実行できません: %2</translation>
     </message>
@@ -617,32 +613,28 @@ Examples:
         <translation>システムに隔離環境がありません</translation>
     </message>
     <message>
-        <source>The PPD &quot;%1&quot; is not used: libcups does not come to an end with it. Fetch another from the printer&apos;s maker.</source>
-        <translation>PPD「%1」は使用しません: libcups が処理を終えられません。プリンターの製造元から別の PPD を入手してください。</translation>
+        <source>&quot;%1&quot; ends with status %2</source>
+        <translation>「%1」がステータス %2 で終了しました</translation>
     </message>
     <message>
-        <source>The PPD &quot;%1&quot; is not used: libcups crashes over it. Fetch another from the printer&apos;s maker.</source>
-        <translation>PPD「%1」は使用しません: libcups が異常終了します。プリンターの製造元から別の PPD を入手してください。</translation>
+        <source>The PPD &quot;%1&quot; is not used, since it could not be checked safely: %2. Install corvel-print again.</source>
+        <translation>PPD「%1」は安全に試せなかったため使用しません: %2。corvel-print を再インストールしてください。</translation>
     </message>
     <message>
-        <source>The PPD &quot;%1&quot; is not used, since this computer was too busy to try it out. Try again later.</source>
+        <source>The PPD &quot;%1&quot; is not used, since this computer was too busy to check it. Try again later.</source>
         <translation>このコンピューターの負荷が高くPPD「%1」を試せなかったため使用しません。しばらくしてからもう一度お試しください。</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; ends with status %2</source>
-        <translation>「%1」がステータス %2 で終了しました</translation>
+        <source>The PPD &quot;%1&quot; is not used: libcups does not finish reading it. Fetch another from the printer&apos;s maker.</source>
+        <translation>PPD「%1」は使用しません: libcups が処理を終えられません。プリンターの製造元から別の PPD を入手してください。</translation>
+    </message>
+    <message>
+        <source>The PPD &quot;%1&quot; is not used: it makes libcups crash. Fetch another from the printer&apos;s maker.</source>
+        <translation>PPD「%1」は使用しません: libcups が異常終了します。プリンターの製造元から別の PPD を入手してください。</translation>
     </message>
 </context>
 <context>
     <name>PpdDocument</name>
-    <message>
-        <source>The PPD &quot;%1&quot; cannot be used: line %2: %3; correct it or fetch another from the printer&apos;s maker.</source>
-        <translation>PPD「%1」は使えません: %2 行目: %3。修正するか、プリンターのメーカーから別のものを入手してください。</translation>
-    </message>
-    <message>
-        <source>The PPD &quot;%1&quot; has no page size that can be printed on; correct it or fetch another from the printer&apos;s maker.</source>
-        <translation>PPD「%1」には印刷できる用紙サイズがありません。修正するか、プリンターのメーカーから別のものを入手してください。</translation>
-    </message>
     <message>
         <source>The translations are left out: there are too many.</source>
         <translation>翻訳が多すぎるため、省きました。</translation>
@@ -663,29 +655,17 @@ Examples:
         <source>The default page size is not one of the printer&apos;s; &quot;%1&quot; takes its place.</source>
         <translation>既定の用紙サイズはこのプリンターのものではありません。代わりに「%1」を使います。</translation>
     </message>
+    <message>
+        <source>The PPD &quot;%1&quot; cannot be used: line %2: %3. Correct it or fetch another from the printer&apos;s maker.</source>
+        <translation>PPD「%1」は使えません: %2 行目: %3。修正するか、プリンターのメーカーから別のものを入手してください。</translation>
+    </message>
+    <message>
+        <source>The PPD &quot;%1&quot; has no page size that can be printed on. Correct it or fetch another from the printer&apos;s maker.</source>
+        <translation>PPD「%1」には印刷できる用紙サイズがありません。修正するか、プリンターのメーカーから別のものを入手してください。</translation>
+    </message>
 </context>
 <context>
     <name>PpdFile</name>
-    <message>
-        <source>&quot;%1&quot; is a directory; name the PPD file itself.</source>
-        <translation>「%1」はフォルダーです。PPD ファイルそのものを指定してください。</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is a device or a pipe, not a file; name the printer&apos;s PPD file.</source>
-        <translation>「%1」はファイルではなく、デバイスかパイプです。プリンターの PPD ファイルを指定してください。</translation>
-    </message>
-    <message>
-        <source>There is no PPD &quot;%1&quot;; check the path.</source>
-        <translation>PPD「%1」はありません。パスを確認してください。</translation>
-    </message>
-    <message>
-        <source>The PPD &quot;%1&quot; cannot be read: %2; check the file and its permissions.</source>
-        <translation>PPD「%1」を読めません: %2。ファイルとそのアクセス権を確認してください。</translation>
-    </message>
-    <message>
-        <source>The compressed PPD &quot;%1&quot; cannot be expanded: %2; copy it again from where it came from.</source>
-        <translation>圧縮された PPD「%1」を展開できません: %2。元の場所からもう一度コピーしてください。</translation>
-    </message>
     <message>
         <source>its end is missing</source>
         <translation>末尾がありません</translation>
@@ -693,6 +673,26 @@ Examples:
     <message>
         <source>it is damaged</source>
         <translation>破損しています</translation>
+    </message>
+    <message>
+        <source>The compressed PPD &quot;%1&quot; cannot be expanded: %2. Copy it again from where it came from.</source>
+        <translation>圧縮された PPD「%1」を展開できません: %2。元の場所からもう一度コピーしてください。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a directory. Name the PPD file itself.</source>
+        <translation>「%1」はフォルダーです。PPD ファイルそのものを指定してください。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a device or a pipe, not a file. Name the printer&apos;s PPD file.</source>
+        <translation>「%1」はファイルではなく、デバイスかパイプです。プリンターの PPD ファイルを指定してください。</translation>
+    </message>
+    <message>
+        <source>There is no PPD &quot;%1&quot;. Check the path.</source>
+        <translation>PPD「%1」はありません。パスを確認してください。</translation>
+    </message>
+    <message>
+        <source>The PPD &quot;%1&quot; cannot be read: %2. Check the file and its permissions.</source>
+        <translation>PPD「%1」を読めません: %2。ファイルとそのアクセス権を確認してください。</translation>
     </message>
 </context>
 <context>
@@ -712,10 +712,6 @@ Examples:
     <message>
         <source>it is larger than %1 MiB</source>
         <translation>%1 MiB を超えています</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is not a PPD, which is a text that begins with &quot;*PPD-Adobe:&quot;; name the printer&apos;s PPD file.</source>
-        <translation>「%1」は PPD (「*PPD-Adobe:」で始まるテキスト) ではありません。プリンターの PPD ファイルを指定してください。</translation>
     </message>
     <message>
         <source>it is cut off: the quote opened in line %1 never closes</source>
@@ -802,20 +798,8 @@ Examples:
         <translation>ほかに省いた項目: %1 件。</translation>
     </message>
     <message>
-        <source>fetch the printer&apos;s PPD again</source>
-        <translation>プリンターの PPD を取得し直してください</translation>
-    </message>
-    <message>
-        <source>correct it or fetch another from the printer&apos;s maker</source>
-        <translation>修正するか、プリンターのメーカーから別のものを入手してください</translation>
-    </message>
-    <message>
         <source>it has more than %1 %2</source>
         <translation>%2が %1 を超えています</translation>
-    </message>
-    <message>
-        <source>The PPD &quot;%1&quot; cannot be used: %2; %3.</source>
-        <translation>PPD「%1」は使えません: %2。%3。</translation>
     </message>
     <message>
         <source>The option &quot;%1&quot; opened in line %2 never closes.</source>
@@ -828,6 +812,22 @@ Examples:
     <message>
         <source>it is cut off in line %1</source>
         <translation>%1 行目で切れています</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a PPD, which is a text that begins with &quot;*PPD-Adobe:&quot;. Name the printer&apos;s PPD file.</source>
+        <translation>「%1」は PPD (「*PPD-Adobe:」で始まるテキスト) ではありません。プリンターの PPD ファイルを指定してください。</translation>
+    </message>
+    <message>
+        <source>Fetch the printer&apos;s PPD again</source>
+        <translation>プリンターの PPD を取得し直してください</translation>
+    </message>
+    <message>
+        <source>Correct it or fetch another from the printer&apos;s maker</source>
+        <translation>修正するか、プリンターのメーカーから別のものを入手してください</translation>
+    </message>
+    <message>
+        <source>The PPD &quot;%1&quot; cannot be used: %2. %3.</source>
+        <translation>PPD「%1」は使えません: %2。%3。</translation>
     </message>
 </context>
 <context>
@@ -919,50 +919,6 @@ Examples:
         <translation>プリントサーバーは理由を示しませんでした</translation>
     </message>
     <message>
-        <source>The printer &quot;%1&quot; does not exist (%2); choose another one, or add it in the printer settings.</source>
-        <translation>プリンター「%1」はありません (%2)。別のプリンターを選ぶか、プリンターの設定で追加してください。</translation>
-    </message>
-    <message>
-        <source>The printer &quot;%1&quot; cannot be reached, because no print server is running (%2); start CUPS or check the server&apos;s name.</source>
-        <translation>プリントサーバーが動いていないため、プリンター「%1」に接続できません (%2)。CUPS を起動するか、サーバーの名前を確認してください。</translation>
-    </message>
-    <message>
-        <source>The printer &quot;%1&quot; has no PPD file (%2); set it up again with its driver.</source>
-        <translation>プリンター「%1」には PPD ファイルがありません (%2)。ドライバーを使って設定し直してください。</translation>
-    </message>
-    <message>
-        <source>The printer &quot;%1&quot; does not accept jobs (%2); let it accept them in the printer settings, or choose another one.</source>
-        <translation>プリンター「%1」はジョブを受け付けていません (%2)。プリンターの設定で受け付けるようにするか、別のプリンターを選んでください。</translation>
-    </message>
-    <message>
-        <source>The print server refused the request for the printer &quot;%1&quot; (%2); ask whoever manages it.</source>
-        <translation>プリントサーバーがプリンター「%1」への要求を拒否しました (%2)。管理者に問い合わせてください。</translation>
-    </message>
-    <message>
-        <source>The print server did not answer about the printer &quot;%1&quot; in time (%2); try again, or restart CUPS.</source>
-        <translation>プリントサーバーがプリンター「%1」について時間内に応答しませんでした (%2)。やり直すか、CUPS を再起動してください。</translation>
-    </message>
-    <message>
-        <source>The print server could not serve the printer &quot;%1&quot; (%2); try again, or look into its log.</source>
-        <translation>プリントサーバーがプリンター「%1」の要求を処理できませんでした (%2)。やり直すか、サーバーのログを確認してください。</translation>
-    </message>
-    <message>
-        <source>No print server is running (%1); start CUPS or check the server&apos;s name.</source>
-        <translation>プリントサーバーが動いていません (%1)。CUPS を起動するか、サーバーの名前を確認してください。</translation>
-    </message>
-    <message>
-        <source>The print server refused to list its printers (%1); ask whoever manages it.</source>
-        <translation>プリントサーバーがプリンターの一覧を拒否しました (%1)。管理者に問い合わせてください。</translation>
-    </message>
-    <message>
-        <source>The print server did not answer in time (%1); try again, or restart CUPS.</source>
-        <translation>プリントサーバーが時間内に応答しませんでした (%1)。やり直すか、CUPS を再起動してください。</translation>
-    </message>
-    <message>
-        <source>The print server could not list its printers (%1); try again, or look into its log.</source>
-        <translation>プリントサーバーがプリンターの一覧を作れませんでした (%1)。やり直すか、サーバーのログを確認してください。</translation>
-    </message>
-    <message>
         <source>its PPD file is a new one</source>
         <translation>PPD ファイルが新しくなりました</translation>
     </message>
@@ -971,20 +927,60 @@ Examples:
         <translation>何も印刷されません</translation>
     </message>
     <message>
-        <source>The options of the printer &quot;%1&quot; have changed since they were chosen (%2); look at them and print again.</source>
+        <source>The job for the printer &quot;%1&quot; was cancelled (%2).</source>
+        <translation>プリンター「%1」へのジョブを取り消しました（%2）。</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; does not exist (%2). Choose another one, or add it in the printer settings.</source>
+        <translation>プリンター「%1」はありません (%2)。別のプリンターを選ぶか、プリンターの設定で追加してください。</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; cannot be reached, because no print server is running (%2). Start CUPS or check the server&apos;s name.</source>
+        <translation>プリントサーバーが動いていないため、プリンター「%1」に接続できません (%2)。CUPS を起動するか、サーバーの名前を確認してください。</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; has no PPD file (%2). Set it up again with its driver.</source>
+        <translation>プリンター「%1」には PPD ファイルがありません (%2)。ドライバーを使って設定し直してください。</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; does not accept jobs (%2). Allow them in the printer settings, or choose another printer.</source>
+        <translation>プリンター「%1」はジョブを受け付けていません (%2)。プリンターの設定で受け付けるようにするか、別のプリンターを選んでください。</translation>
+    </message>
+    <message>
+        <source>The print server refused the request for the printer &quot;%1&quot; (%2). Ask its administrator.</source>
+        <translation>プリントサーバーがプリンター「%1」への要求を拒否しました (%2)。管理者に問い合わせてください。</translation>
+    </message>
+    <message>
+        <source>The print server did not answer about the printer &quot;%1&quot; in time (%2). Try again, or restart CUPS.</source>
+        <translation>プリントサーバーがプリンター「%1」について時間内に応答しませんでした (%2)。やり直すか、CUPS を再起動してください。</translation>
+    </message>
+    <message>
+        <source>The options of the printer &quot;%1&quot; have changed since they were chosen (%2). Look at them and print again.</source>
         <translation>プリンター「%1」のオプションは、選択した後に変わりました（%2）。確認してからもう一度印刷してください。</translation>
     </message>
     <message>
-        <source>The job for the printer &quot;%1&quot; was cancelled (%2).</source>
-        <translation>プリンター「%1」へのジョブを取り消しました（%2）。</translation>
+        <source>The print server could not serve the printer &quot;%1&quot; (%2). Try again, or check its log.</source>
+        <translation>プリントサーバーがプリンター「%1」の要求を処理できませんでした (%2)。やり直すか、サーバーのログを確認してください。</translation>
+    </message>
+    <message>
+        <source>No print server is running (%1). Start CUPS or check the server&apos;s name.</source>
+        <translation>プリントサーバーが動いていません (%1)。CUPS を起動するか、サーバーの名前を確認してください。</translation>
+    </message>
+    <message>
+        <source>The print server refused to list its printers (%1). Ask its administrator.</source>
+        <translation>プリントサーバーがプリンターの一覧を拒否しました (%1)。管理者に問い合わせてください。</translation>
+    </message>
+    <message>
+        <source>The print server did not answer in time (%1). Try again, or restart CUPS.</source>
+        <translation>プリントサーバーが時間内に応答しませんでした (%1)。やり直すか、CUPS を再起動してください。</translation>
+    </message>
+    <message>
+        <source>The print server could not list its printers (%1). Try again, or check its log.</source>
+        <translation>プリントサーバーがプリンターの一覧を作れませんでした (%1)。やり直すか、サーバーのログを確認してください。</translation>
     </message>
 </context>
 <context>
     <name>RequestedSession</name>
-    <message>
-        <source>The printer &quot;%1&quot; has no PPD file and so no option %2; leave it out, or set the printer up with its driver.</source>
-        <translation>プリンター「%1」には PPD ファイルがないため、オプション %2 はありません。指定を外すか、ドライバーを使ってプリンターを設定してください。</translation>
-    </message>
     <message>
         <source>Of the preset &quot;%1&quot; is left out: %2</source>
         <translation>プリセット「%1」のうち次は使われません: %2</translation>
@@ -996,6 +992,10 @@ Examples:
     <message>
         <source>%1 It may have your default printer; --printer names another one, and &quot;--printer built-in&quot; prints into files.</source>
         <translation>%1 既定のプリンターがこのサーバーにあるかもしれません。別のプリンターは --printer で指定できます。「--printer built-in」ではファイルに印刷します。</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; has no PPD file and so no option %2. Leave it out, or set the printer up with its driver.</source>
+        <translation>プリンター「%1」には PPD ファイルがないため、オプション %2 はありません。指定を外すか、ドライバーを使ってプリンターを設定してください。</translation>
     </message>
 </context>
 <context>
@@ -1146,10 +1146,6 @@ Examples:
         <translation>ドライバーのフィルターが安全ではありません</translation>
     </message>
     <message>
-        <source>trouble that it does not name</source>
-        <translation>不明な問題</translation>
-    </message>
-    <message>
         <source>the printer is stopped</source>
         <translation>プリンターが停止しています</translation>
     </message>
@@ -1162,10 +1158,6 @@ Examples:
         <translation>保留中</translation>
     </message>
     <message>
-        <source>held until somebody signs in</source>
-        <translation>サインインされるまで保留中</translation>
-    </message>
-    <message>
         <source>what it needs is not ready</source>
         <translation>必要なものの準備ができていません</translation>
     </message>
@@ -1176,10 +1168,6 @@ Examples:
     <message>
         <source>the document could not be printed</source>
         <translation>文書を印刷できませんでした</translation>
-    </message>
-    <message>
-        <source>the printer does not take this kind of document</source>
-        <translation>プリンターはこの種類の文書に対応していません</translation>
     </message>
     <message>
         <source>cancelled by the user</source>
@@ -1232,6 +1220,18 @@ Examples:
     <message>
         <source>%1 %2 %</source>
         <translation>%1 %2 %</translation>
+    </message>
+    <message>
+        <source>unspecified problem</source>
+        <translation>不明な問題</translation>
+    </message>
+    <message>
+        <source>held for authentication</source>
+        <translation>サインインされるまで保留中</translation>
+    </message>
+    <message>
+        <source>the printer does not accept this kind of document</source>
+        <translation>プリンターはこの種類の文書に対応していません</translation>
     </message>
 </context>
 <context>
@@ -1421,10 +1421,6 @@ Examples:
         <translation>印刷を中止しました: %2 枚中 %1 枚の写真を印刷しました。</translation>
     </message>
     <message>
-        <source>Sent %1 of %2 photos to %3, which goes on printing.</source>
-        <translation>%2 枚中 %1 枚の写真を %3 に送りました。印刷は続きます。</translation>
-    </message>
-    <message>
         <source>Printed %1 of %2 photos.</source>
         <translation>%2 枚中 %1 枚の写真を印刷しました。</translation>
     </message>
@@ -1435,6 +1431,10 @@ Examples:
     <message>
         <source>%1 photos cannot be printed.</source>
         <translation>%1 枚の写真は印刷できません。</translation>
+    </message>
+    <message>
+        <source>Sent %1 of %2 photos to %3, which continues printing.</source>
+        <translation>%2 枚中 %1 枚の写真を %3 に送りました。印刷は続きます。</translation>
     </message>
 </context>
 <context>
@@ -1521,10 +1521,6 @@ Examples:
         <translation>「%1」は途中で切れていて、終わりがありません。元の場所からもう一度コピーしてください。</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is damaged and cannot be shown. Copy it again, or save it anew in a photo program.</source>
-        <translation>「%1」は壊れていて表示できません。もう一度コピーするか、写真ソフトで保存し直してください。</translation>
-    </message>
-    <message>
         <source>There is not enough memory for &quot;%1&quot;. Scale it down in a photo program.</source>
         <translation>「%1」にはメモリが足りません。写真ソフトで縮小してください。</translation>
     </message>
@@ -1539,6 +1535,10 @@ Examples:
     <message>
         <source>&quot;%1&quot; is a JPEG of a rare kind, lossless or with more than 8 bits, which cannot be printed. Save it as a usual JPEG in a photo program.</source>
         <translation>「%1」は、可逆圧縮または 8 ビットを超える特殊な JPEG で、印刷できません。写真ソフトで通常の JPEG として保存してください。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is damaged and cannot be shown. Copy it again, or save it again in a photo program.</source>
+        <translation>「%1」は壊れていて表示できません。もう一度コピーするか、写真ソフトで保存し直してください。</translation>
     </message>
 </context>
 <context>
@@ -1629,14 +1629,6 @@ Examples:
         <translation>%1 を %2 に送りました (ジョブ %3)</translation>
     </message>
     <message>
-        <source>What has become of %1 (job %2) is not known: %3</source>
-        <translation>%1（ジョブ %2）の結果は分かりません: %3</translation>
-    </message>
-    <message>
-        <source>%1 (job %2) is not printed yet: %3. The print server keeps it; &quot;cancel %2&quot; takes it back.</source>
-        <translation>%1（ジョブ %2）はまだ印刷されていません: %3。ジョブはプリントサーバーに残ります。「cancel %2」で取り消せます。</translation>
-    </message>
-    <message>
         <source>The printer &quot;%1&quot; could not print %2 (job %3): %4. Look at the printer and print again.</source>
         <translation>プリンター「%1」は %2（ジョブ %3）を印刷できませんでした: %4。プリンターを確認して、もう一度印刷してください。</translation>
     </message>
@@ -1649,16 +1641,24 @@ Examples:
         <translation>プリンター「%1」の %2 のジョブ %3 は取り消されました（%4）。</translation>
     </message>
     <message>
-        <source>nobody said why</source>
-        <translation>理由は不明</translation>
-    </message>
-    <message>
         <source>Printed %1 on %2 (job %3)</source>
         <translation>%1 を %2 で印刷しました（ジョブ %3）</translation>
     </message>
     <message>
         <source>The job %1 for %2 could not be cancelled: %3</source>
         <translation>%2 のジョブ %1 を取り消せませんでした: %3</translation>
+    </message>
+    <message>
+        <source>The outcome of %1 (job %2) is unknown: %3</source>
+        <translation>%1（ジョブ %2）の結果は分かりません: %3</translation>
+    </message>
+    <message>
+        <source>%1 (job %2) is not printed yet: %3. The print server keeps it; &quot;cancel %2&quot; cancels it.</source>
+        <translation>%1（ジョブ %2）はまだ印刷されていません: %3。ジョブはプリントサーバーに残ります。「cancel %2」で取り消せます。</translation>
+    </message>
+    <message>
+        <source>no reason given</source>
+        <translation>理由は不明</translation>
     </message>
 </context>
 <context>
@@ -1798,15 +1798,15 @@ Examples:
         <source>Of the preset &quot;%1&quot;, some choices are left out:</source>
         <translation>プリセット「%1」のうち、次のものは適用されませんでした:</translation>
     </message>
-    <message>
-        <source>There is no preset &quot;%1&quot; any more.</source>
-        <translation>プリセット「%1」はもうありません。</translation>
-    </message>
     <message numerus="yes">
         <source>And %n more.</source>
         <translation>
             <numerusform>ほか %n 件。</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>The preset &quot;%1&quot; no longer exists.</source>
+        <translation>プリセット「%1」はもうありません。</translation>
     </message>
 </context>
 <context>
@@ -1851,12 +1851,12 @@ Examples:
         <translation>プリセット「%1」はすでにあります。別の名前を選んでください。</translation>
     </message>
     <message>
-        <source>There is no preset &quot;%1&quot; any more. Save it under a new name.</source>
-        <translation>プリセット「%1」はもうありません。新しい名前で保存してください。</translation>
-    </message>
-    <message>
         <source>The preset &quot;%1&quot; is the system&apos;s. Save one of your own under a new name.</source>
         <translation>プリセット「%1」はシステムのものです。新しい名前で自分用に保存してください。</translation>
+    </message>
+    <message>
+        <source>The preset &quot;%1&quot; no longer exists. Save it under a new name.</source>
+        <translation>プリセット「%1」はもうありません。新しい名前で保存してください。</translation>
     </message>
 </context>
 <context>
@@ -2055,16 +2055,8 @@ Examples:
         <translation>中止しています…</translation>
     </message>
     <message>
-        <source>Stop printing? What is not printed yet is taken back.</source>
-        <translation>印刷を中止しますか？まだ印刷されていない写真は取り消されます。</translation>
-    </message>
-    <message>
         <source>Stop Printing</source>
         <translation>印刷を中止</translation>
-    </message>
-    <message>
-        <source>Go On</source>
-        <translation>続ける</translation>
     </message>
     <message>
         <source>Close Window</source>
@@ -2075,15 +2067,23 @@ Examples:
         <translation>開いたままにする</translation>
     </message>
     <message>
-        <source>The print server goes on printing when this window is closed.</source>
-        <translation>このウィンドウを閉じても、プリントサーバーは印刷を続けます。</translation>
-    </message>
-    <message>
         <source>Printed so far: %1 of %2 photos. The rest is not printed when this window is closed.</source>
         <translation>これまでに %2 枚中 %1 枚の写真を印刷しました。このウィンドウを閉じると、残りは印刷されません。</translation>
     </message>
     <message>
-        <source>When this window is closed, the print server goes on printing the %1 of %2 photos that it has. The rest is not printed.</source>
+        <source>Stop printing? Photos not printed yet are cancelled.</source>
+        <translation>印刷を中止しますか？まだ印刷されていない写真は取り消されます。</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>続ける</translation>
+    </message>
+    <message>
+        <source>The print server continues printing when this window is closed.</source>
+        <translation>このウィンドウを閉じても、プリントサーバーは印刷を続けます。</translation>
+    </message>
+    <message>
+        <source>When this window is closed, the print server continues printing the %1 of %2 photos that it has. The rest is not printed.</source>
         <translation>このウィンドウを閉じても、プリントサーバーは %2 枚中、受け取った %1 枚の印刷を続けます。残りは印刷されません。</translation>
     </message>
 </context>

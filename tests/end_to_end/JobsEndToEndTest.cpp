@@ -247,7 +247,7 @@ private Q_SLOTS:
         QVERIFY(isBack);
         QVERIFY2(status, status ? "" : qPrintable(status.failure().text));
         QCOMPARE(status->state, JobStatus::State::Completed);
-        QVERIFY2(texts.contains(u"the print server does not answer; it is asked again"_s),
+        QVERIFY2(texts.contains(u"the print server does not answer; asking again"_s),
                  qPrintable(texts.join(u'\n')));
     }
 

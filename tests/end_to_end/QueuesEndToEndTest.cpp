@@ -170,8 +170,8 @@ private Q_SLOTS:
         QVERIFY(!gone);
         QCOMPARE(gone.failure().reason, QueueFault::NotFound);
         QCOMPARE(gone.failure().text,
-                 u"The printer \"gone\" does not exist (The printer or class does not exist); "
-                 "choose another one, or add it in the printer settings."_s);
+                 u"The printer \"gone\" does not exist (The printer or class does not exist). "
+                 "Choose another one, or add it in the printer settings."_s);
     }
 
     void fetcherAnnouncesThePpd()

@@ -236,10 +236,10 @@ private Q_SLOTS:
         add("in another alphabet", {}, QByteArray(good).replace("ISOLatin1", "ISOLatin2"), std::nullopt, {});
         add("left to the parser", {}, good + "*UIConstraints: *Red\n", std::nullopt, {});
         add("not even inspected", {}, "%!PS", PpdFault::NotAPpd, u"queue"_s);
-        add("crashes", "kill -SEGV $$", good, PpdFault::Harmful, u"crashes over it"_s);
-        add("aborts", "kill -ABRT $$", good, PpdFault::Harmful, u"crashes over it"_s);
+        add("crashes", "kill -SEGV $$", good, PpdFault::Harmful, u"makes libcups crash"_s);
+        add("aborts", "kill -ABRT $$", good, PpdFault::Harmful, u"makes libcups crash"_s);
         add("takes too much time", "ulimit -S -t 1; while :; do :; done", good, PpdFault::Harmful,
-            u"does not come to an end"_s);
+            u"does not finish reading it"_s);
         add("is ended by the system", "kill -KILL $$", good, PpdFault::NotTried, u"too busy"_s);
         add("gets no time", "exec sleep 60", good, PpdFault::NotTried, u"too busy"_s);
         add("lacks a library", "exit 127", good, PpdFault::NotTried, u"status 127"_s);

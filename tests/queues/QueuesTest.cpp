@@ -118,7 +118,7 @@ private Q_SLOTS:
     void failuresNameTheQueueAndKeepPlaceholdersApart()
     {
         const QString text = queueFailure(QueueFault::NotFound, u"a%2b"_s, u"Gone\nfor good."_s).text;
-        QVERIFY2(text.contains(u"\"a%2b\" does not exist (Gone for good);"_s), qPrintable(text));
+        QVERIFY2(text.contains(u"\"a%2b\" does not exist (Gone for good)."_s), qPrintable(text));
     }
 
     // Control characters, what is too long, and what CUPS takes for something else.

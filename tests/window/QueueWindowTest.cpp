@@ -208,7 +208,7 @@ private Q_SLOTS:
         QTRY_VERIFY(opened.find<QWidget>(u"progressText"_s)->accessibleName().contains(u"printing"_s));
         opened.dialog->close();
         QVERIFY(opened.dialog->isVisible());
-        QVERIFY2(opened.message().contains(u"goes on printing"_s), qPrintable(opened.message()));
+        QVERIFY2(opened.message().contains(u"continues printing"_s), qPrintable(opened.message()));
         opened.click(u"messageAction"_s);
         QVERIFY(opened.dialog->isHidden());
         QTRY_VERIFY(opened.find<QWidget>(u"print"_s)->isEnabled()); // nothing follows the job any more

@@ -138,12 +138,11 @@ Result<CheckedPpd, PpdFault> checkPpd(const QByteArray &data, const QString &nam
     constexpr int noSandbox = 2;
     const QString shown = plainText(name, 300);
     const auto notTried = [&](const QString &reason) {
-        return Failure<PpdFault>{
-            PpdFault::NotTried,
-            CheckText::tr("The PPD \"%1\" is not used, since it could not be tried out safely: %2. "
-                          "Install corvel-print again.")
-                .arg(shown, reason),
-            {}};
+        return Failure<PpdFault>{PpdFault::NotTried,
+                                 CheckText::tr("The PPD \"%1\" is not used, since it could not be checked "
+                                               "safely: %2. Install corvel-print again.")
+                                     .arg(shown, reason),
+                                 {}};
     };
     pid_t child = 0;
     if (const int error = start(QFile::encodeName(program), ppd, child))
@@ -155,8 +154,8 @@ Result<CheckedPpd, PpdFault> checkPpd(const QByteArray &data, const QString &nam
     if (end.isOverdue || (WIFSIGNALED(end.status) && WTERMSIG(end.status) == SIGKILL))
         return Failure<PpdFault>{
             PpdFault::NotTried,
-            CheckText::tr("The PPD \"%1\" is not used, since this computer was too busy to try it out. Try "
-                          "again later.")
+            CheckText::tr(
+                "The PPD \"%1\" is not used, since this computer was too busy to check it. Try again later.")
                 .arg(shown),
             {}};
     if (WIFEXITED(end.status)) {
@@ -171,16 +170,15 @@ Result<CheckedPpd, PpdFault> checkPpd(const QByteArray &data, const QString &nam
         }
     }
     if (WTERMSIG(end.status) == SIGXCPU)
-        return Failure<PpdFault>{
-            PpdFault::Harmful,
-            CheckText::tr("The PPD \"%1\" is not used: libcups does not come to an end with it. Fetch "
-                          "another from the printer's maker.")
-                .arg(shown),
-            {}};
+        return Failure<PpdFault>{PpdFault::Harmful,
+                                 CheckText::tr("The PPD \"%1\" is not used: libcups does not finish reading "
+                                               "it. Fetch another from the printer's maker.")
+                                     .arg(shown),
+                                 {}};
     return Failure<PpdFault>{
         PpdFault::Harmful,
-        CheckText::tr("The PPD \"%1\" is not used: libcups crashes over it. Fetch another from the "
-                      "printer's maker.")
+        CheckText::tr(
+            "The PPD \"%1\" is not used: it makes libcups crash. Fetch another from the printer's maker.")
             .arg(shown),
         {}};
 }

@@ -42,7 +42,7 @@ Failure<PpdFault> damagedArchive(const QString &path, const QString &reason)
 {
     return {PpdFault::CutOff,
             FileText::tr(
-                "The compressed PPD \"%1\" cannot be expanded: %2; copy it again from where it came from.")
+                "The compressed PPD \"%1\" cannot be expanded: %2. Copy it again from where it came from.")
                 .arg(plainText(path, 300), reason),
             {}};
 }
@@ -83,8 +83,8 @@ Failure<PpdFault> notRegular(const QString &path, mode_t mode)
     return failure(
         PpdFault::NotReadable,
         S_ISDIR(mode)
-            ? FileText::tr("\"%1\" is a directory; name the PPD file itself.")
-            : FileText::tr("\"%1\" is a device or a pipe, not a file; name the printer's PPD file."),
+            ? FileText::tr("\"%1\" is a directory. Name the PPD file itself.")
+            : FileText::tr("\"%1\" is a device or a pipe, not a file. Name the printer's PPD file."),
         path);
 }
 
@@ -95,9 +95,9 @@ Failure<PpdFault> ppdNotReadable(const QString &name, int error)
     if (error == ENOENT && isForeignName(name))
         return {PpdFault::NotFound, foreignNameText(name), {}};
     if (error == ENOENT || error == ENOTDIR)
-        return failure(PpdFault::NotFound, FileText::tr("There is no PPD \"%1\"; check the path."), name);
+        return failure(PpdFault::NotFound, FileText::tr("There is no PPD \"%1\". Check the path."), name);
     return {PpdFault::NotReadable,
-            FileText::tr("The PPD \"%1\" cannot be read: %2; check the file and its permissions.")
+            FileText::tr("The PPD \"%1\" cannot be read: %2. Check the file and its permissions.")
                 .arg(plainText(name, 300), qt_error_string(error)),
             {}};
 }

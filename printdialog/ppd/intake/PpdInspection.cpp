@@ -101,8 +101,8 @@ private:
                               tr("it is larger than %1 MiB").arg(number(Limits::bytes >> 20)));
         if (!data_.startsWith("*PPD-Adobe:") || looksBinary(data_)) {
             failure_ = {PpdFault::NotAPpd,
-                        tr("\"%1\" is not a PPD, which is a text that begins with \"*PPD-Adobe:\"; "
-                           "name the printer's PPD file.")
+                        tr("\"%1\" is not a PPD, which is a text that begins with \"*PPD-Adobe:\". Name the "
+                           "printer's PPD file.")
                             .arg(name_),
                         {}};
             return false;
@@ -308,12 +308,12 @@ private:
 
     bool fetchAgain(PpdFault fault, const QString &reason)
     {
-        return refuse(fault, reason, tr("fetch the printer's PPD again"));
+        return refuse(fault, reason, tr("Fetch the printer's PPD again"));
     }
 
     bool correct(PpdFault fault, const QString &reason)
     {
-        return refuse(fault, reason, tr("correct it or fetch another from the printer's maker"));
+        return refuse(fault, reason, tr("Correct it or fetch another from the printer's maker"));
     }
 
     bool tooMany(PpdFault fault, const QString &what, qint64 limit)
@@ -323,7 +323,7 @@ private:
 
     bool refuse(PpdFault fault, const QString &reason, const QString &remedy)
     {
-        failure_ = {fault, tr("The PPD \"%1\" cannot be used: %2; %3.").arg(name_, reason, remedy), {}};
+        failure_ = {fault, tr("The PPD \"%1\" cannot be used: %2. %3.").arg(name_, reason, remedy), {}};
         return false;
     }
 

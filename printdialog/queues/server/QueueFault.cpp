@@ -47,49 +47,45 @@ QString sentence(QueueFault fault)
     switch (fault) {
     case QueueFault::NotFound:
         return FaultText::tr(
-            "The printer \"%1\" does not exist (%2); choose another one, or add it in the printer settings.");
+            "The printer \"%1\" does not exist (%2). Choose another one, or add it in the printer settings.");
     case QueueFault::NoServer:
-        return FaultText::tr(
-            "The printer \"%1\" cannot be reached, because no print server is running (%2); start CUPS or "
-            "check the server's name.");
+        return FaultText::tr("The printer \"%1\" cannot be reached, because no print server is running (%2). "
+                             "Start CUPS or check the server's name.");
     case QueueFault::NoPpd:
-        return FaultText::tr("The printer \"%1\" has no PPD file (%2); set it up again with its driver.");
+        return FaultText::tr("The printer \"%1\" has no PPD file (%2). Set it up again with its driver.");
     case QueueFault::NotAccepting:
-        return FaultText::tr(
-            "The printer \"%1\" does not accept jobs (%2); let it accept them in the printer settings, or "
-            "choose another one.");
+        return FaultText::tr("The printer \"%1\" does not accept jobs (%2). Allow them in the printer "
+                             "settings, or choose another printer.");
     case QueueFault::Refused:
         return FaultText::tr(
-            "The print server refused the request for the printer \"%1\" (%2); ask whoever manages it.");
+            "The print server refused the request for the printer \"%1\" (%2). Ask its administrator.");
     case QueueFault::TimedOut:
-        return FaultText::tr(
-            "The print server did not answer about the printer \"%1\" in time (%2); try again, or restart "
-            "CUPS.");
+        return FaultText::tr("The print server did not answer about the printer \"%1\" in time (%2). Try "
+                             "again, or restart CUPS.");
     case QueueFault::Changed:
-        return FaultText::tr(
-            "The options of the printer \"%1\" have changed since they were chosen (%2); look at them and "
-            "print again.");
+        return FaultText::tr("The options of the printer \"%1\" have changed since they were chosen (%2). "
+                             "Look at them and print again.");
     case QueueFault::Canceled:
         return FaultText::tr("The job for the printer \"%1\" was cancelled (%2).");
     case QueueFault::Failed:
         break;
     }
     return FaultText::tr(
-        "The print server could not serve the printer \"%1\" (%2); try again, or look into its log.");
+        "The print server could not serve the printer \"%1\" (%2). Try again, or check its log.");
 }
 
 QString serverSentence(QueueFault fault)
 {
     switch (fault) {
     case QueueFault::NoServer:
-        return FaultText::tr("No print server is running (%1); start CUPS or check the server's name.");
+        return FaultText::tr("No print server is running (%1). Start CUPS or check the server's name.");
     case QueueFault::Refused:
-        return FaultText::tr("The print server refused to list its printers (%1); ask whoever manages it.");
+        return FaultText::tr("The print server refused to list its printers (%1). Ask its administrator.");
     case QueueFault::TimedOut:
-        return FaultText::tr("The print server did not answer in time (%1); try again, or restart CUPS.");
+        return FaultText::tr("The print server did not answer in time (%1). Try again, or restart CUPS.");
     default:
         return FaultText::tr(
-            "The print server could not list its printers (%1); try again, or look into its log.");
+            "The print server could not list its printers (%1). Try again, or check its log.");
     }
 }
 

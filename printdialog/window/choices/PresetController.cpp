@@ -137,7 +137,7 @@ QStringList PresetController::restore(const QString &name)
     const Preset *preset = PresetStore::find(*presets, name);
     if (!preset) {
         load();
-        bar_->showError(tr("There is no preset \"%1\" any more.").arg(name));
+        bar_->showError(tr("The preset \"%1\" no longer exists.").arg(name));
         return {};
     }
     const UsedChoices used = printdialog::usePreset(*session_, *preset);
