@@ -64,7 +64,8 @@ void ChoiceTest::refusalIsExplainedBesideItsControl()
     opened.dialog->showPage(page);
     QWidget *control = opened.control(tag);
     opened.control(focus)->setFocus();
-    opened.find<QWidget>(u"matte"_s)->setFocusPolicy(Qt::TabFocus); // as where a click leaves the focus alone
+    if (focus != tag) // as where a click leaves it
+        opened.find<QWidget>(u"matte"_s)->setFocusPolicy(Qt::TabFocus);
     if (qobject_cast<QLineEdit *>(control))
         opened.type(tag, page == 0 ? u"25"_s : u"3"_s);
     else if (qobject_cast<QSlider *>(control))
@@ -85,7 +86,7 @@ void ChoiceTest::refusalIsExplainedBesideItsControl()
     QVERIFY(!opened.isSeen(u"message"_s));
     QVERIFY(opened.find<QPushButton>(u"calloutOffer"_s)->text().contains(offer));
     QVERIFY(!callout->isAncestorOf(QApplication::focusWidget()));
-    // Tab leads from the control to the offer.
+    // The keyboard goes on from the control to the offer.
     QWidget *offered = opened.find<QPushButton>(u"calloutOffer"_s);
     for (int i = 0; i < 3 && QApplication::focusWidget() != offered; ++i)
         opened.press(Qt::Key_Tab);
@@ -150,7 +151,7 @@ void ChoiceTest::calloutGoesByKeyAndByTheNextChoice()
     opened.press(Qt::Key_Space); // its button
     QVERIFY(!callout->isVisible());
     QCOMPARE(QApplication::focusWidget(),
-             opened.find<QRadioButton>(u"matte"_s)); // where the keyboard continues
+             opened.find<QRadioButton>(u"matte"_s)); // from there the keyboard goes on
     opened.click(u"matte"_s);
     opened.click(u"calloutClose"_s);
     QVERIFY(!callout->isVisible());
@@ -263,6 +264,11 @@ void ChoiceTest::conflictOfTheJobIsSettled()
     opened.redo();
     QVERIFY(opened.prints());
     QCOMPARE(opened.printed(u"Overcoat"_s), u"Glossy"_s);
+    const OpenedDialog other(setup());
+    other.dialog->showPage(2);
+    for (const QString &cell : {u"fine"_s, u"matte"_s, u"standard"_s, u"print"_s})
+        other.click(cell);
+    QVERIFY(other.message().startsWith(u"\"Print Quality\" cannot be \"Standard\""_s));
 }
 
 CORVEL_WIDGETS_TEST(ChoiceTest)
