@@ -12,7 +12,7 @@ endif()
 set(folders app PDE pdekit printdialog benchmarks examples resources tests)
 add_custom_target(cppcheck
     COMMAND ${CORVEL_CPPCHECK} --enable=warning,performance,portability --library=qt --library=posix --language=c++
-        --std=c++20 --inline-suppr --quiet --error-exitcode=1 -I pdekit -I pdekit/protocol -I pdekit/system -I pdekit/views
+        --std=c++20 --inline-suppr --quiet --error-exitcode=1 -I pdekit -I pdekit/protocol -I pdekit/system -I pdekit/views -I pdekit/controls
         -DQ_OBJECT= --library=${CMAKE_SOURCE_DIR}/cmake/cppcheck.cfg
         --suppress=missingInclude --suppress=missingIncludeSystem
         --suppress=readdirCalled # each stream is one thread's

@@ -4,7 +4,7 @@
 #pragma once
 
 #include "Destination.h"
-#include "PageGeometry.h"
+#include "PhotoPlacement.h"
 #include "PrintedNames.h"
 
 #include <QtCore/QByteArrayList>

@@ -4,14 +4,27 @@
 #pragma once
 
 #include "ExifOrientation.h"
-#include "PageGeometry.h"
 
 #include <QtCore/QPointF>
 #include <QtCore/QRectF>
 #include <QtCore/QSize>
+#include <QtCore/QSizeF>
 #include <QtGui/QTransform>
 
 namespace printdialog {
+
+/// A page and its printable part. In points (1/72 inch); the origin is the page's top left corner and y runs
+/// down.
+struct PageGeometry
+{
+    QSizeF size;
+    QRectF imageable; ///< The printable area; larger than the page for borderless printing.
+
+    /// The visible part of a print: the imageable area within the sheet.
+    QRectF printed() const { return imageable & QRectF(QPointF(0, 0), size); }
+
+    bool operator==(const PageGeometry &) const = default;
+};
 
 /// How a photo is scaled on its page. It is never distorted.
 enum class Scaling {

@@ -142,7 +142,8 @@ bool PrivateCupsd::layOut()
         "Listen R/cups.sock\n" +
         (networkAddress_.isEmpty() ? QByteArray() : "Listen " + networkAddress_.toLatin1() + '\n') +
         "Browsing No\nWebInterface No\nDefaultAuthType None\nDefaultEncryption Never\n"
-        "ErrorPolicy abort-job\nLogLevel warn\nAccessLogLevel all\n<Location />\nOrder allow,deny\nAllow all\n</Location>\n"
+        "ErrorPolicy abort-job\nLogLevel warn\nAccessLogLevel all\n<Location />\nOrder allow,deny\nAllow "
+        "all\n</Location>\n"
         "<Policy default>\nJobPrivateAccess all\nJobPrivateValues none\nSubscriptionPrivateAccess all\n"
         "SubscriptionPrivateValues none\n<Limit All>\nOrder allow,deny\nAllow all\n</Limit>\n</Policy>\n";
     // What it keeps of a job appears at once and whole, by the folder's change of name.

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "PageGeometry.h"
+#include "PhotoPlacement.h"
 #include "PlacedPhoto.h"
 
 #include <QtCore/QList>

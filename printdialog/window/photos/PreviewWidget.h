@@ -3,7 +3,6 @@
 
 #pragma once
 
-#include "PageGeometry.h"
 #include "Photo.h"
 #include "PhotoPlacement.h"
 
