@@ -3,7 +3,7 @@
 
 // Pictures: their headers, their placement on a page, and the PDF of the small ones.
 
-#include "ColourProfile.h"
+#include "ColorProfile.h"
 #include "ExifData.h"
 #include "Fuzzing.h"
 #include "PdfWriter.h"
@@ -54,7 +54,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
 {
     const QByteArray bytes = fuzzing::input(data, size);
     const ExifData exif = ExifData::fromTiff(bytes);
-    ColourProfile::fromIcc(exif.iccProfile);
+    ColorProfile::fromIcc(exif.iccProfile);
     tiffDamage(bytes); // the picture itself needs a plug-in
     if (exif.resolution)
         fuzzing::require(*exif.resolution > 0, "a resolution is a positive number");

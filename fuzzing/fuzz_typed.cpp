@@ -53,7 +53,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
 {
     if (size == 0)
         return 0;
-    static const QList<PanelTable> tables = {PanelTable::colour(), PanelTable::sharpness(),
+    static const QList<PanelTable> tables = {PanelTable::color(), PanelTable::sharpness(),
                                              PanelTable::mixed()};
     const PanelTable &table = tables.at(data[0] % tables.size());
     const Mode mode = data[0] & 8 ? Mode::Constraint : Mode::Settings;

@@ -5,7 +5,7 @@
 
 #include "RKTPPRBasePDEcorvel.h"
 
-/// The panel of the colour adjustments: the colour balance and the tone, each a slider with a number field,
+/// The panel of the color adjustments: the color balance and the tone, each a slider with a number field,
 /// and the check box that turns them on.
 class LVCorvelMainPDE : public RKTPPRBasePDEcorvel
 {

@@ -59,7 +59,7 @@ bool localizeOwnText(QWidget *view, const pdekit::Bundle &bundle)
     return false;
 }
 
-/// White in any theme, with a readable text colour.
+/// White in any theme, with a readable text color.
 void paperWhite(QWidget *field)
 {
     QPalette palette = field->palette();

@@ -105,8 +105,8 @@ int BatchRun::conclude(const PrintOutcome &outcome, bool isQueue)
 {
     if (outcome.wasStopped)
         return fail(isQueue && !outcome.names.isEmpty()
-                        ? tr("Cancelled; the jobs already sent were cancelled, too.")
-                        : tr("Cancelled; nothing more is printed."));
+                        ? tr("Canceled; the jobs already sent were canceled, too.")
+                        : tr("Canceled; nothing more is printed."));
     for (const QString &waiting : outcome.waiting)
         console_.complain(waiting);
     if (outcome.failure.isEmpty())

@@ -26,7 +26,7 @@ bool InputStream::open()
     descriptor_ =
         FileDescriptor(::open(QFile::encodeName(path_).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
     if (!descriptor_.isOpen()) {
-        tellFailureSoon();
+        reportFailureSoon();
         return false;
     }
     notifier_ = new QSocketNotifier(descriptor_.number(), QSocketNotifier::Read, this);
@@ -66,7 +66,7 @@ void InputStream::tellWhatIsThere()
     if (!hasBytes)
         notifier_->setEnabled(false);
     if (!hasBytes && !hasEnded) {
-        tellFailureSoon();
+        reportFailureSoon();
         return;
     }
     // A receiver may delete the stream: do not use it afterwards.
@@ -74,7 +74,7 @@ void InputStream::tellWhatIsThere()
 }
 
 // Each event comes from the event loop: a receiver of the error may wait there for the end.
-void InputStream::tellFailureSoon()
+void InputStream::reportFailureSoon()
 {
     for (const StreamEvent event : {StreamEventErrorOccurred, StreamEventEndEncountered})
         QMetaObject::invokeMethod(

@@ -47,7 +47,7 @@ Q_SIGNALS:
 
 private:
     void tellWhatIsThere();
-    void tellFailureSoon();
+    void reportFailureSoon();
 
     QString path_;
     FileDescriptor descriptor_;

@@ -20,7 +20,7 @@ struct JobDocument
 /// Whether the photo's own file, sent unchanged, prints as the placement says, however the printer places a
 /// picture: fitted, filled or stretched to the sheet. That holds when
 /// - the file is a JPEG of the plain kind that every printer reads,
-/// - its colours are sRGB, which every reader that ignores profiles assumes,
+/// - its colors are sRGB, which every reader that ignores profiles assumes,
 /// - its pixels are stored upright, since not every printer honours the Exif orientation,
 /// - the whole sheet can be printed on, and
 /// - the placement has no turn and covers the sheet to within 1/300 inch on each side.

@@ -232,7 +232,7 @@ QString JobStatus::text() const
         return more.isEmpty() ? FollowingText::tr("printing")
                               : FollowingText::tr("%1: %2").arg(FollowingText::tr("printing"), more);
     case State::Canceled:
-        return FollowingText::tr("cancelled");
+        return FollowingText::tr("canceled");
     case State::Aborted:
         return FollowingText::tr("failed");
     case State::Completed:

@@ -40,7 +40,7 @@ public:
     Q_DISABLE_COPY_MOVE(JobSubmission)
 
     /// Returns the new job's id. Blocks until the server has received the complete job: for a worker, or the
-    /// command line. A job that cannot be finished is cancelled.
+    /// command line. A job that cannot be finished is canceled.
     ///
     /// Every option is sent exactly as given, and otherwise only the number of copies. Unfit options are
     /// refused before anything is sent (see whyUnfit), and names are cleaned. Failures: all but NoPpd.

@@ -128,7 +128,7 @@ void PhotoPrinter::note(const SentJob &job, const JobStatus &status, Outcome &ou
     } else if (status.state == JobStatus::State::Canceled) {
         if (!outcome.failure)
             outcome.failure =
-                tr("The job %3 for %2 on the printer \"%1\" was cancelled (%4).")
+                tr("The job %3 for %2 on the printer \"%1\" was canceled (%4).")
                     .arg(queue, job.photo, id, detail.isEmpty() ? tr("no reason given") : detail);
     } else {
         outcome.ids.append(job.id);
@@ -147,7 +147,7 @@ QStringList PhotoPrinter::cancelJobs(int &over)
         connection.extend(patience);
         const auto canceled = cancelJob(connection, job_.destination.id(), job.id);
         if (!canceled)
-            failures.append(tr("The job %1 for %2 could not be cancelled: %3")
+            failures.append(tr("The job %1 for %2 could not be canceled: %3")
                                 .arg(QString::number(job.id), job.photo, canceled.failure().text));
         else if (!*canceled)
             ++over;

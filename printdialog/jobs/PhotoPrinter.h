@@ -18,7 +18,7 @@
 namespace printdialog {
 
 /// Prints photos one after the other, on a queue or the built-in printer, which gives each photo's files
-/// different names. The jobs of a queue can be followed to their end, or cancelled. Blocking, for a worker
+/// different names. The jobs of a queue can be followed to their end, or canceled. Blocking, for a worker
 /// thread or the command line; one thread at a time.
 class PhotoPrinter
 {
@@ -63,7 +63,7 @@ public:
     Outcome follow(const FollowLimits &limits, const std::function<void(int photo, const QString &)> &news,
                    int *cancel);
 
-    /// Cancels the jobs that are not over. Returns a sentence for each one that could not be cancelled.
+    /// Cancels the jobs that are not over. Returns a sentence for each one that could not be canceled.
     /// @param over set to the number of jobs that were already over
     QStringList cancelJobs(int &over);
 

@@ -33,8 +33,8 @@ QByteArray deviceSpace(int components)
     return components == 1 ? "/DeviceGray" : components == 3 ? "/DeviceRGB" : "/DeviceCMYK";
 }
 
-/// The colour space of an image with that many components: the profile if it has as many.
-QByteArray colourSpace(PdfFile &file, const ColourProfile &profile, int components)
+/// The color space of an image with that many components: the profile if it has as many.
+QByteArray colorSpace(PdfFile &file, const ColorProfile &profile, int components)
 {
     if (profile.components() != components)
         return deviceSpace(components);
@@ -47,10 +47,10 @@ QByteArray colourSpace(PdfFile &file, const ColourProfile &profile, int componen
     return "[/ICCBased " + PdfFile::reference(number) + "]";
 }
 
-QByteArray entriesOf(const QSize &size, const QByteArray &colourSpace, int bits)
+QByteArray entriesOf(const QSize &size, const QByteArray &colorSpace, int bits)
 {
     return "/Type /XObject /Subtype /Image /Interpolate true /Width " + QByteArray::number(size.width()) +
-           " /Height " + QByteArray::number(size.height()) + " /ColorSpace " + colourSpace +
+           " /Height " + QByteArray::number(size.height()) + " /ColorSpace " + colorSpace +
            " /BitsPerComponent " + QByteArray::number(bits);
 }
 
@@ -112,7 +112,7 @@ Result<int, PhotoFault> PdfImage::write(PdfFile &file) const
 void PdfImage::writeJpeg(PdfFile &file, int number) const
 {
     const JpegHeader &header = *photo_.jpegHeader();
-    const QByteArray space = colourSpace(file, photo_.profile(), header.components);
+    const QByteArray space = colorSpace(file, photo_.profile(), header.components);
     // PDF readers ignore Adobe's marker for inverted inks, so /Decode says it.
     const QByteArray inverted = header.isInverted ? " /Decode [1 0 1 0 1 0 1 0]" : "";
     file.beginStream(number, entriesOf(header.size, space, 8) + inverted + " /Filter /DCTDecode");
@@ -124,7 +124,7 @@ void PdfImage::writePng(PdfFile &file, int number) const
 {
     const PngHeader &header = *photo_.pngHeader();
     const int bits = header.bitsPerSample;
-    QByteArray space = colourSpace(file, photo_.profile(), header.palette.isEmpty() ? header.components : 3);
+    QByteArray space = colorSpace(file, photo_.profile(), header.palette.isEmpty() ? header.components : 3);
     if (!header.palette.isEmpty())
         space = "[/Indexed " + space + ' ' + QByteArray::number(header.palette.size() / 3 - 1) + " <" +
                 header.palette.toHex() + ">]";
@@ -139,7 +139,7 @@ std::optional<Failure<PhotoFault>> PdfImage::writeDecodedPng(PdfFile &file, int 
 {
     const int components = photo_.pngHeader()->decodedComponents;
     const QSize size = photo_.storedSize();
-    const QByteArray space = colourSpace(file, photo_.profile(), components);
+    const QByteArray space = colorSpace(file, photo_.profile(), components);
     file.beginStream(number, entriesOf(size, space, 8) + predicted(size, components, 8));
     DeflatedRows rows(static_cast<std::size_t>(size.width()) * static_cast<std::size_t>(components),
                       static_cast<std::size_t>(components),
@@ -160,7 +160,7 @@ std::optional<Failure<PhotoFault>> PdfImage::writeDecodedPng(PdfFile &file, int 
 void PdfImage::writePixels(PdfFile &file, int number) const
 {
     const int components = pixels_.format() == QImage::Format_Grayscale8 ? 1 : 3;
-    const QByteArray space = colourSpace(file, photo_.profile(), components);
+    const QByteArray space = colorSpace(file, photo_.profile(), components);
     file.beginStream(number, entriesOf(pixels_.size(), space, 8) + predicted(pixels_.size(), components, 8));
     DeflatedRows rows(static_cast<std::size_t>(pixels_.width()) * static_cast<std::size_t>(components),
                       static_cast<std::size_t>(components),

@@ -10,8 +10,8 @@
 namespace printdialog {
 
 /// A photo as an image of a PDF. The file's compressed bytes are embedded unchanged if a PDF can hold them;
-/// other photos are decoded and compressed without loss, row by row. The photo's colour profile is embedded
-/// once, as the image's colour space, and the colour values are not converted.
+/// other photos are decoded and compressed without loss, row by row. The photo's color profile is embedded
+/// once, as the image's color space, and the color values are not converted.
 class PdfImage
 {
 public:

@@ -143,8 +143,8 @@ std::optional<Failure<PhotoFault>> Photo::inspectJpeg()
     storedSize_ = header.size;
     orientation_ = header.orientation;
     resolution_ = header.resolution;
-    // Decoders convert CMYK to RGB, so a profile must have as many components as the file's colours.
-    if (ColourProfile profile = ColourProfile::fromIcc(header.iccProfile);
+    // Decoders convert CMYK to RGB, so a profile must have as many components as the file's colors.
+    if (ColorProfile profile = ColorProfile::fromIcc(header.iccProfile);
         profile.components() == header.components)
         profile_ = std::move(profile);
     return std::nullopt;
@@ -215,13 +215,13 @@ std::optional<Failure<PhotoFault>> Photo::inspectOther()
             return broken(QStringLiteral("the canvas and the frame differ in size"));
     } else if (format_ == "webp") {
         orientation_ = ExifData::fromTiff(webpChunk(content_, "EXIF")).orientation;
-        profile_ = ColourProfile::fromIcc(webpChunk(content_, "ICCP").toByteArray());
+        profile_ = ColorProfile::fromIcc(webpChunk(content_, "ICCP").toByteArray());
     } else if (format_ == "tiff") {
         const ExifData data = ExifData::fromTiff(content_);
         if (data.isReduced)
             return PhotoFormat::ofCamera().failure(path_);
         resolution_ = data.resolution;
-        profile_ = ColourProfile::fromIcc(data.iccProfile);
+        profile_ = ColorProfile::fromIcc(data.iccProfile);
     }
     return std::nullopt;
 }

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "ColourProfile.h"
+#include "ColorProfile.h"
 #include "ExifOrientation.h"
 #include "JpegHeader.h"
 #include "PhotoFile.h"
@@ -52,8 +52,8 @@ public:
     std::optional<double> resolution() const { return resolution_; }
     /// The resolution that gives the actual size, in pixels per inch.
     double printedResolution() const { return resolution_.value_or(assumedResolution); }
-    /// The profile of both the stored and the decoded colours.
-    const ColourProfile &profile() const { return profile_; }
+    /// The profile of both the stored and the decoded colors.
+    const ColorProfile &profile() const { return profile_; }
     /// The header of a JPEG or PNG file, read once when it was opened; null for other formats. Valid as long
     /// as any copy of this photo.
     const JpegHeader *jpegHeader() const { return jpeg_.get(); }
@@ -99,7 +99,7 @@ private:
     QSize storedSize_;
     ExifOrientation orientation_;
     std::optional<double> resolution_;
-    ColourProfile profile_;
+    ColorProfile profile_;
     std::shared_ptr<const JpegHeader> jpeg_;
     std::shared_ptr<const PngHeader> png_;
     std::shared_ptr<Verdict> verdict_; ///< The result of damage(); null for a null photo.

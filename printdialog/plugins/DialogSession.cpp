@@ -84,12 +84,12 @@ bool DialogSession::rule(const QString &key, const QString &choice)
     begunKeys_.removeOne(key);
     if (lastRuling_.verdict == Verdict::Incomplete)
         begunKeys_.append(key);
-    restore(tellPanels(key));
+    restore(reportChanges(key));
     return lastRuling_.letsThrough();
 }
 
 // A choice may change that of another option. The panel that made the choice records its own.
-QList<GuardedPanel *> DialogSession::tellPanels(const QString &askedKey)
+QList<GuardedPanel *> DialogSession::reportChanges(const QString &askedKey)
 {
     QList<GuardedPanel *> told;
     const QStringList keys = std::exchange(changedKeys_, {});
@@ -137,7 +137,7 @@ Ruling DialogSession::chooseThroughPanel(GuardedPanel &panel, const Ruling &offe
 Ruling DialogSession::chooseDirectly(const Ruling &offered)
 {
     Ruling ruling = chosen_.choose(offered.key, offered.choice);
-    restore(tellPanels(offered.key));
+    restore(reportChanges(offered.key));
     return ruling;
 }
 

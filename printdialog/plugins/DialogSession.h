@@ -102,7 +102,7 @@ Q_SIGNALS:
 private:
     bool rule(const QString &key, const QString &choice);
     void savePanels();
-    QList<GuardedPanel *> tellPanels(const QString &askedKey);
+    QList<GuardedPanel *> reportChanges(const QString &askedKey);
     static void restore(const QList<GuardedPanel *> &panels);
     Ruling chooseThroughPanel(GuardedPanel &panel, const Ruling &offered);
     Ruling chooseDirectly(const Ruling &offered);

@@ -14,7 +14,7 @@ void DialogSession::chooseTogether(const QMap<QString, QString> &choices)
 {
     savePanels();
     chosen_.chooseTogether(choices);
-    tellPanels({});
+    reportChanges({});
     begunKeys_.clear();
     for (const auto &panel : panels_)
         panel->restore();

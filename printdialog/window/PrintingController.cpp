@@ -168,7 +168,7 @@ void PrintingController::askToStop()
         Q_EMIT dismissed();
     } else if (!isStopping_) {
         asksToClose_ = false;
-        widgets_.message->ask(tr("Stop printing? Photos not printed yet are cancelled."),
+        widgets_.message->ask(tr("Stop printing? Photos not printed yet are canceled."),
                               {{tr("Stop Printing"),
                                 [this] {
                                     stop();

@@ -16,11 +16,11 @@
         <translation>%1: %2</translation>
     </message>
     <message>
-        <source>Cancelled; nothing more is printed.</source>
+        <source>Canceled; nothing more is printed.</source>
         <translation>Abgebrochen; es wird nichts mehr gedruckt.</translation>
     </message>
     <message>
-        <source>Cancelled; the jobs already sent were cancelled, too.</source>
+        <source>Canceled; the jobs already sent were canceled, too.</source>
         <translation>Abgebrochen; die gesendeten Aufträge wurden vom Drucker zurückgenommen.</translation>
     </message>
 </context>
@@ -345,7 +345,7 @@ Beispiele:
         <translation>druckt</translation>
     </message>
     <message>
-        <source>cancelled</source>
+        <source>canceled</source>
         <translation>abgebrochen</translation>
     </message>
     <message>
@@ -929,7 +929,7 @@ Beispiele:
         <translation>es wird nichts gedruckt</translation>
     </message>
     <message>
-        <source>The job for the printer &quot;%1&quot; was cancelled (%2).</source>
+        <source>The job for the printer &quot;%1&quot; was canceled (%2).</source>
         <translation>Der Auftrag für den Drucker „%1“ wurde abgebrochen (%2).</translation>
     </message>
     <message>
@@ -1172,15 +1172,15 @@ Beispiele:
         <translation>das Dokument konnte nicht gedruckt werden</translation>
     </message>
     <message>
-        <source>cancelled by the user</source>
+        <source>canceled by the user</source>
         <translation>vom Benutzer abgebrochen</translation>
     </message>
     <message>
-        <source>cancelled by the operator</source>
+        <source>canceled by the operator</source>
         <translation>von der Verwaltung abgebrochen</translation>
     </message>
     <message>
-        <source>cancelled at the printer</source>
+        <source>canceled at the printer</source>
         <translation>am Drucker abgebrochen</translation>
     </message>
     <message>
@@ -1639,7 +1639,7 @@ Beispiele:
         <translation>ohne Angabe von Gründen</translation>
     </message>
     <message>
-        <source>The job %3 for %2 on the printer &quot;%1&quot; was cancelled (%4).</source>
+        <source>The job %3 for %2 on the printer &quot;%1&quot; was canceled (%4).</source>
         <translation>Der Auftrag %3 für %2 auf dem Drucker „%1“ wurde abgebrochen (%4).</translation>
     </message>
     <message>
@@ -1647,7 +1647,7 @@ Beispiele:
         <translation>%1 auf %2 gedruckt (Auftrag %3)</translation>
     </message>
     <message>
-        <source>The job %1 for %2 could not be cancelled: %3</source>
+        <source>The job %1 for %2 could not be canceled: %3</source>
         <translation>Der Auftrag %1 für %2 konnte nicht abgebrochen werden: %3</translation>
     </message>
     <message>
@@ -2075,7 +2075,7 @@ Beispiele:
         <translation>Bisher gedruckt: %1 von %2 Fotos. Der Rest wird nicht gedruckt, wenn dieses Fenster geschlossen wird.</translation>
     </message>
     <message>
-        <source>Stop printing? Photos not printed yet are cancelled.</source>
+        <source>Stop printing? Photos not printed yet are canceled.</source>
         <translation>Drucken stoppen? Was noch nicht gedruckt ist, wird zurückgenommen.</translation>
     </message>
     <message>

@@ -16,11 +16,11 @@
         <translation>%1: %2</translation>
     </message>
     <message>
-        <source>Cancelled; nothing more is printed.</source>
+        <source>Canceled; nothing more is printed.</source>
         <translation>Cancelado; no se imprime nada más.</translation>
     </message>
     <message>
-        <source>Cancelled; the jobs already sent were cancelled, too.</source>
+        <source>Canceled; the jobs already sent were canceled, too.</source>
         <translation>Cancelado; los trabajos enviados se han retirado de la impresora.</translation>
     </message>
 </context>
@@ -344,7 +344,7 @@ Ejemplos:
         <translation>imprimiendo</translation>
     </message>
     <message>
-        <source>cancelled</source>
+        <source>canceled</source>
         <translation>cancelado</translation>
     </message>
     <message>
@@ -928,7 +928,7 @@ Ejemplos:
         <translation>no se imprime nada</translation>
     </message>
     <message>
-        <source>The job for the printer &quot;%1&quot; was cancelled (%2).</source>
+        <source>The job for the printer &quot;%1&quot; was canceled (%2).</source>
         <translation>El trabajo para la impresora «%1» se ha cancelado (%2).</translation>
     </message>
     <message>
@@ -1171,15 +1171,15 @@ Ejemplos:
         <translation>no se ha podido imprimir el documento</translation>
     </message>
     <message>
-        <source>cancelled by the user</source>
+        <source>canceled by the user</source>
         <translation>cancelado por el usuario</translation>
     </message>
     <message>
-        <source>cancelled by the operator</source>
+        <source>canceled by the operator</source>
         <translation>cancelado por el operador</translation>
     </message>
     <message>
-        <source>cancelled at the printer</source>
+        <source>canceled at the printer</source>
         <translation>cancelado en la impresora</translation>
     </message>
     <message>
@@ -1638,7 +1638,7 @@ Ejemplos:
         <translation>sin indicar el motivo</translation>
     </message>
     <message>
-        <source>The job %3 for %2 on the printer &quot;%1&quot; was cancelled (%4).</source>
+        <source>The job %3 for %2 on the printer &quot;%1&quot; was canceled (%4).</source>
         <translation>El trabajo %3 para %2 en la impresora «%1» se ha cancelado (%4).</translation>
     </message>
     <message>
@@ -1646,7 +1646,7 @@ Ejemplos:
         <translation>Se ha impreso %1 en %2 (trabajo %3)</translation>
     </message>
     <message>
-        <source>The job %1 for %2 could not be cancelled: %3</source>
+        <source>The job %1 for %2 could not be canceled: %3</source>
         <translation>El trabajo %1 para %2 no se ha podido cancelar: %3</translation>
     </message>
     <message>
@@ -2074,7 +2074,7 @@ Ejemplos:
         <translation>Impresas hasta ahora: %1 de %2 fotos. El resto no se imprime si se cierra esta ventana.</translation>
     </message>
     <message>
-        <source>Stop printing? Photos not printed yet are cancelled.</source>
+        <source>Stop printing? Photos not printed yet are canceled.</source>
         <translation>¿Detener la impresión? Lo que aún no esté impreso se retira.</translation>
     </message>
     <message>

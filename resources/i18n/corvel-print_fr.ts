@@ -16,12 +16,12 @@
         <translation>%1&#xa0;: %2</translation>
     </message>
     <message>
-        <source>Cancelled; nothing more is printed.</source>
+        <source>Canceled; nothing more is printed.</source>
         <translation>Annulé&#xa0;; rien de plus ne sera imprimé.</translation>
     </message>
     <message>
-        <source>Cancelled; the jobs already sent were cancelled, too.</source>
-        <translation>Annulé ; les tâches envoyées ont été retirées de l’imprimante.</translation>
+        <source>Canceled; the jobs already sent were canceled, too.</source>
+        <translation>Annulé&#xa0;; les tâches envoyées ont été retirées de l’imprimante.</translation>
     </message>
 </context>
 <context>
@@ -258,35 +258,35 @@ Exemples&#x202f;:
     </message>
     <message>
         <source>There is no mode &quot;%1&quot;. Choose constraint or settings.</source>
-        <translation>Le mode « %1 » n’existe pas. Choisissez constraint ou settings.</translation>
+        <translation>Le mode «&#xa0;%1&#xa0;» n’existe pas. Choisissez constraint ou settings.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is not a print server. Give it as HOST or HOST:PORT.</source>
-        <translation>« %1 » n’est pas un serveur d’impression. Indiquez HOST ou HOST:PORT.</translation>
+        <translation>«&#xa0;%1&#xa0;» n’est pas un serveur d’impression. Indiquez HOST ou HOST:PORT.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is not a time to wait. Give a number of seconds from 0 to %2.</source>
-        <translation>« %1 » n’est pas une durée d’attente. Indiquez un nombre de secondes de 0 à %2.</translation>
+        <translation>«&#xa0;%1&#xa0;» n’est pas une durée d’attente. Indiquez un nombre de secondes de 0 à %2.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; copies cannot be printed. Give a number from 1 to %2.</source>
-        <translation>« %1 » exemplaires ne peuvent pas être imprimés. Indiquez un nombre de 1 à %2.</translation>
+        <translation>«&#x202f;%1&#x202f;» exemplaires ne peuvent pas être imprimés. Indiquez un nombre de 1 à %2.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is not a file on this computer. Copy the photo here first.</source>
-        <translation>« %1 » n’est pas un fichier de cet ordinateur. Copiez d’abord la photo ici.</translation>
+        <translation>«&#x202f;%1&#x202f;» n’est pas un fichier de cet ordinateur. Copiez d’abord la photo ici.</translation>
     </message>
     <message>
         <source>There is no scaling &quot;%1&quot;. Choose fit, fill or actual.</source>
-        <translation>La mise à l’échelle « %1 » n’existe pas. Choisissez fit, fill ou actual.</translation>
+        <translation>La mise à l’échelle «&#xa0;%1&#xa0;» n’existe pas. Choisissez fit, fill ou actual.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is not a crop. Give two numbers from 0 to 100, such as 50,0.</source>
-        <translation>« %1 » n’est pas un cadrage. Indiquez deux nombres de 0 à 100, par exemple 50,0.</translation>
+        <translation>«&#xa0;%1&#xa0;» n’est pas un cadrage. Indiquez deux nombres de 0 à 100, par exemple 50,0.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is not an option. Give it as KEY=CHOICE.</source>
-        <translation>« %1 » n’est pas une option. Indiquez-la sous la forme KEY=CHOICE.</translation>
+        <translation>«&#xa0;%1&#xa0;» n’est pas une option. Indiquez-la sous la forme KEY=CHOICE.</translation>
     </message>
 </context>
 <context>
@@ -345,7 +345,7 @@ Exemples&#x202f;:
         <translation>impression en cours</translation>
     </message>
     <message>
-        <source>cancelled</source>
+        <source>canceled</source>
         <translation>annulée</translation>
     </message>
     <message>
@@ -362,7 +362,7 @@ Exemples&#x202f;:
     </message>
     <message>
         <source>the print server does not answer; asking again</source>
-        <translation>le serveur d’impression ne répond pas ; il est interrogé de nouveau</translation>
+        <translation>le serveur d’impression ne répond pas&#xa0;; il est interrogé de nouveau</translation>
     </message>
 </context>
 <context>
@@ -424,19 +424,19 @@ Exemples&#x202f;:
     </message>
     <message>
         <source>The option &quot;%1&quot; is not sent, because this cannot be an option&apos;s keyword. Leave it out.</source>
-        <translation>L’option « %1 » n’est pas envoyée, car ce ne peut être le mot-clé d’une option. Ne l’indiquez pas.</translation>
+        <translation>L’option «&#x202f;%1&#x202f;» n’est pas envoyée, car ce ne peut être le mot-clé d’une option. Ne l’indiquez pas.</translation>
     </message>
     <message>
         <source>The option &quot;%1&quot; is not sent, because its value has a line break or another control character in it. Choose another value.</source>
-        <translation>L’option « %1 » n’est pas envoyée, car sa valeur contient un saut de ligne ou un autre caractère de contrôle. Choisissez une autre valeur.</translation>
+        <translation>L’option «&#x202f;%1&#x202f;» n’est pas envoyée, car sa valeur contient un saut de ligne ou un autre caractère de contrôle. Choisissez une autre valeur.</translation>
     </message>
     <message>
         <source>The option &quot;%1&quot; is not sent, because CUPS misreads a value that begins with a brace. Choose another value.</source>
-        <translation>L’option « %1 » n’est pas envoyée, car CUPS interprète mal une valeur qui commence par une accolade. Choisissez une autre valeur.</translation>
+        <translation>L’option «&#x202f;%1&#x202f;» n’est pas envoyée, car CUPS interprète mal une valeur qui commence par une accolade. Choisissez une autre valeur.</translation>
     </message>
     <message>
         <source>The option &quot;%1&quot; is not sent, because its value is longer than %2 bytes. Choose another value.</source>
-        <translation>L’option « %1 » n’est pas envoyée, car sa valeur dépasse %2 octets. Choisissez une autre valeur.</translation>
+        <translation>L’option «&#x202f;%1&#x202f;» n’est pas envoyée, car sa valeur dépasse %2 octets. Choisissez une autre valeur.</translation>
     </message>
     <message>
         <source>%1 copies cannot be printed. Choose a number from 1 to %2.</source>
@@ -620,19 +620,19 @@ Exemples&#x202f;:
     </message>
     <message>
         <source>The PPD &quot;%1&quot; is not used, since it could not be checked safely: %2. Install corvel-print again.</source>
-        <translation>Le PPD « %1 » n’est pas utilisé, car il n’a pas pu être essayé sans risque : %2. Réinstallez corvel-print.</translation>
+        <translation>Le PPD «&#x202f;%1&#x202f;» n’est pas utilisé, car il n’a pas pu être essayé sans risque&#x202f;: %2. Réinstallez corvel-print.</translation>
     </message>
     <message>
         <source>The PPD &quot;%1&quot; is not used, since this computer was too busy to check it. Try again later.</source>
-        <translation>Le PPD « %1 » n’est pas utilisé, car cet ordinateur était trop occupé pour l’essayer. Réessayez plus tard.</translation>
+        <translation>Le PPD «&#x202f;%1&#x202f;» n’est pas utilisé, car cet ordinateur était trop occupé pour l’essayer. Réessayez plus tard.</translation>
     </message>
     <message>
         <source>The PPD &quot;%1&quot; is not used: libcups does not finish reading it. Fetch another from the printer&apos;s maker.</source>
-        <translation>Le PPD « %1 » n’est pas utilisé : libcups n’en vient pas à bout. Procurez-vous-en un autre auprès du fabricant de l’imprimante.</translation>
+        <translation>Le PPD «&#x202f;%1&#x202f;» n’est pas utilisé&#x202f;: libcups n’en vient pas à bout. Procurez-vous-en un autre auprès du fabricant de l’imprimante.</translation>
     </message>
     <message>
         <source>The PPD &quot;%1&quot; is not used: it makes libcups crash. Fetch another from the printer&apos;s maker.</source>
-        <translation>Le PPD « %1 » n’est pas utilisé : il fait planter libcups. Procurez-vous-en un autre auprès du fabricant de l’imprimante.</translation>
+        <translation>Le PPD «&#x202f;%1&#x202f;» n’est pas utilisé&#x202f;: il fait planter libcups. Procurez-vous-en un autre auprès du fabricant de l’imprimante.</translation>
     </message>
 </context>
 <context>
@@ -659,11 +659,11 @@ Exemples&#x202f;:
     </message>
     <message>
         <source>The PPD &quot;%1&quot; cannot be used: line %2: %3. Correct it or fetch another from the printer&apos;s maker.</source>
-        <translation>Le PPD « %1 » est inutilisable : ligne %2 : %3. Corrigez-le ou procurez-vous-en un autre auprès du fabricant de l’imprimante.</translation>
+        <translation>Le PPD «&#x202f;%1&#x202f;» est inutilisable&#x202f;: ligne %2&#x202f;: %3. Corrigez-le ou procurez-vous-en un autre auprès du fabricant de l’imprimante.</translation>
     </message>
     <message>
         <source>The PPD &quot;%1&quot; has no page size that can be printed on. Correct it or fetch another from the printer&apos;s maker.</source>
-        <translation>Le PPD « %1 » n’a aucun format de papier imprimable. Corrigez-le ou procurez-vous-en un autre auprès du fabricant de l’imprimante.</translation>
+        <translation>Le PPD «&#x202f;%1&#x202f;» n’a aucun format de papier imprimable. Corrigez-le ou procurez-vous-en un autre auprès du fabricant de l’imprimante.</translation>
     </message>
 </context>
 <context>
@@ -678,23 +678,23 @@ Exemples&#x202f;:
     </message>
     <message>
         <source>The compressed PPD &quot;%1&quot; cannot be expanded: %2. Copy it again from where it came from.</source>
-        <translation>Le PPD compressé « %1 » ne peut pas être décompressé : %2. Copiez-le de nouveau depuis son origine.</translation>
+        <translation>Le PPD compressé «&#x202f;%1&#x202f;» ne peut pas être décompressé&#x202f;: %2. Copiez-le de nouveau depuis son origine.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is a directory. Name the PPD file itself.</source>
-        <translation>« %1 » est un dossier. Indiquez le fichier PPD lui-même.</translation>
+        <translation>«&#x202f;%1&#x202f;» est un dossier. Indiquez le fichier PPD lui-même.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is a device or a pipe, not a file. Name the printer&apos;s PPD file.</source>
-        <translation>« %1 » est un périphérique ou un tube, pas un fichier. Indiquez le fichier PPD de l’imprimante.</translation>
+        <translation>«&#x202f;%1&#x202f;» est un périphérique ou un tube, pas un fichier. Indiquez le fichier PPD de l’imprimante.</translation>
     </message>
     <message>
         <source>There is no PPD &quot;%1&quot;. Check the path.</source>
-        <translation>Il n’y a pas de PPD « %1 ». Vérifiez le chemin.</translation>
+        <translation>Il n’y a pas de PPD «&#x202f;%1&#x202f;». Vérifiez le chemin.</translation>
     </message>
     <message>
         <source>The PPD &quot;%1&quot; cannot be read: %2. Check the file and its permissions.</source>
-        <translation>Le PPD « %1 » ne peut pas être lu : %2. Vérifiez le fichier et ses droits d’accès.</translation>
+        <translation>Le PPD «&#x202f;%1&#x202f;» ne peut pas être lu&#x202f;: %2. Vérifiez le fichier et ses droits d’accès.</translation>
     </message>
 </context>
 <context>
@@ -817,7 +817,7 @@ Exemples&#x202f;:
     </message>
     <message>
         <source>&quot;%1&quot; is not a PPD, which is a text that begins with &quot;*PPD-Adobe:&quot;. Name the printer&apos;s PPD file.</source>
-        <translation>« %1 » n’est pas un PPD, c’est-à-dire un texte qui commence par « *PPD-Adobe: ». Indiquez le fichier PPD de l’imprimante.</translation>
+        <translation>«&#x202f;%1&#x202f;» n’est pas un PPD, c’est-à-dire un texte qui commence par «&#x202f;*PPD-Adobe:&#x202f;». Indiquez le fichier PPD de l’imprimante.</translation>
     </message>
     <message>
         <source>Fetch the printer&apos;s PPD again</source>
@@ -829,7 +829,7 @@ Exemples&#x202f;:
     </message>
     <message>
         <source>The PPD &quot;%1&quot; cannot be used: %2. %3.</source>
-        <translation>Le PPD « %1 » est inutilisable : %2. %3.</translation>
+        <translation>Le PPD «&#xa0;%1&#xa0;» est inutilisable&#xa0;: %2. %3.</translation>
     </message>
 </context>
 <context>
@@ -929,40 +929,40 @@ Exemples&#x202f;:
         <translation>rien n’est imprimé</translation>
     </message>
     <message>
-        <source>The job for the printer &quot;%1&quot; was cancelled (%2).</source>
+        <source>The job for the printer &quot;%1&quot; was canceled (%2).</source>
         <translation>La tâche pour l’imprimante «&#xa0;%1&#xa0;» a été annulée (%2).</translation>
     </message>
     <message>
         <source>The printer &quot;%1&quot; does not exist (%2). Choose another one, or add it in the printer settings.</source>
-        <translation>L’imprimante « %1 » n’existe pas (%2). Choisissez-en une autre ou ajoutez-la dans les paramètres d’impression.</translation>
+        <translation>L’imprimante «&#x202f;%1&#x202f;» n’existe pas (%2). Choisissez-en une autre ou ajoutez-la dans les paramètres d’impression.</translation>
     </message>
     <message>
         <source>The printer &quot;%1&quot; cannot be reached, because no print server is running (%2). Start CUPS or check the server&apos;s name.</source>
-        <translation>L’imprimante « %1 » est injoignable, car aucun serveur d’impression ne fonctionne (%2). Démarrez CUPS ou vérifiez le nom du serveur.</translation>
+        <translation>L’imprimante «&#x202f;%1&#x202f;» est injoignable, car aucun serveur d’impression ne fonctionne (%2). Démarrez CUPS ou vérifiez le nom du serveur.</translation>
     </message>
     <message>
         <source>The printer &quot;%1&quot; has no PPD file (%2). Set it up again with its driver.</source>
-        <translation>L’imprimante « %1 » n’a pas de fichier PPD (%2). Configurez-la de nouveau avec son pilote.</translation>
+        <translation>L’imprimante «&#x202f;%1&#x202f;» n’a pas de fichier PPD (%2). Configurez-la de nouveau avec son pilote.</translation>
     </message>
     <message>
         <source>The printer &quot;%1&quot; does not accept jobs (%2). Allow them in the printer settings, or choose another printer.</source>
-        <translation>L’imprimante « %1 » n’accepte pas de travaux (%2). Autorisez-les dans les paramètres d’impression ou choisissez-en une autre.</translation>
+        <translation>L’imprimante «&#x202f;%1&#x202f;» n’accepte pas de travaux (%2). Autorisez-les dans les paramètres d’impression ou choisissez-en une autre.</translation>
     </message>
     <message>
         <source>The print server refused the request for the printer &quot;%1&quot; (%2). Ask its administrator.</source>
-        <translation>Le serveur d’impression a refusé la demande pour l’imprimante « %1 » (%2). Adressez-vous à son administrateur.</translation>
+        <translation>Le serveur d’impression a refusé la demande pour l’imprimante «&#x202f;%1&#x202f;» (%2). Adressez-vous à son administrateur.</translation>
     </message>
     <message>
         <source>The print server did not answer about the printer &quot;%1&quot; in time (%2). Try again, or restart CUPS.</source>
-        <translation>Le serveur d’impression n’a pas répondu à temps au sujet de l’imprimante « %1 » (%2). Réessayez ou redémarrez CUPS.</translation>
+        <translation>Le serveur d’impression n’a pas répondu à temps au sujet de l’imprimante «&#x202f;%1&#x202f;» (%2). Réessayez ou redémarrez CUPS.</translation>
     </message>
     <message>
         <source>The options of the printer &quot;%1&quot; have changed since they were chosen (%2). Look at them and print again.</source>
-        <translation>Les options de l’imprimante « %1 » ont changé depuis qu’elles ont été choisies (%2). Vérifiez-les et relancez l’impression.</translation>
+        <translation>Les options de l’imprimante «&#xa0;%1&#xa0;» ont changé depuis qu’elles ont été choisies (%2). Vérifiez-les et relancez l’impression.</translation>
     </message>
     <message>
         <source>The print server could not serve the printer &quot;%1&quot; (%2). Try again, or check its log.</source>
-        <translation>Le serveur d’impression n’a pas pu traiter la demande pour l’imprimante « %1 » (%2). Réessayez ou consultez son journal.</translation>
+        <translation>Le serveur d’impression n’a pas pu traiter la demande pour l’imprimante «&#x202f;%1&#x202f;» (%2). Réessayez ou consultez son journal.</translation>
     </message>
     <message>
         <source>No print server is running (%1). Start CUPS or check the server&apos;s name.</source>
@@ -997,7 +997,7 @@ Exemples&#x202f;:
     </message>
     <message>
         <source>The printer &quot;%1&quot; has no PPD file and so no option %2. Leave it out, or set the printer up with its driver.</source>
-        <translation>L’imprimante « %1 » n’a pas de fichier PPD, donc pas d’option %2. Retirez-la ou installez l’imprimante avec son pilote.</translation>
+        <translation>L’imprimante «&#xa0;%1&#xa0;» n’a pas de fichier PPD, donc pas d’option %2. Retirez-la ou installez l’imprimante avec son pilote.</translation>
     </message>
 </context>
 <context>
@@ -1172,15 +1172,15 @@ Exemples&#x202f;:
         <translation>le document n’a pas pu être imprimé</translation>
     </message>
     <message>
-        <source>cancelled by the user</source>
+        <source>canceled by the user</source>
         <translation>annulée par l’utilisateur</translation>
     </message>
     <message>
-        <source>cancelled by the operator</source>
+        <source>canceled by the operator</source>
         <translation>annulée par l’opérateur</translation>
     </message>
     <message>
-        <source>cancelled at the printer</source>
+        <source>canceled at the printer</source>
         <translation>annulée sur l’imprimante</translation>
     </message>
     <message>
@@ -1540,7 +1540,7 @@ Exemples&#x202f;:
     </message>
     <message>
         <source>&quot;%1&quot; is damaged and cannot be shown. Copy it again, or save it again in a photo program.</source>
-        <translation>« %1 » est endommagée et ne peut pas être affichée. Copiez-la de nouveau ou enregistrez-la de nouveau dans un logiciel de retouche.</translation>
+        <translation>«&#x202f;%1&#x202f;» est endommagée et ne peut pas être affichée. Copiez-la de nouveau ou enregistrez-la de nouveau dans un logiciel de retouche.</translation>
     </message>
 </context>
 <context>
@@ -1639,7 +1639,7 @@ Exemples&#x202f;:
         <translation>sans en donner la raison</translation>
     </message>
     <message>
-        <source>The job %3 for %2 on the printer &quot;%1&quot; was cancelled (%4).</source>
+        <source>The job %3 for %2 on the printer &quot;%1&quot; was canceled (%4).</source>
         <translation>La tâche %3 pour %2 sur l’imprimante «&#xa0;%1&#xa0;» a été annulée (%4).</translation>
     </message>
     <message>
@@ -1647,16 +1647,16 @@ Exemples&#x202f;:
         <translation>%1 imprimée sur %2 (tâche %3)</translation>
     </message>
     <message>
-        <source>The job %1 for %2 could not be cancelled: %3</source>
+        <source>The job %1 for %2 could not be canceled: %3</source>
         <translation>La tâche %1 pour %2 n’a pas pu être annulée&#xa0;: %3</translation>
     </message>
     <message>
         <source>The outcome of %1 (job %2) is unknown: %3</source>
-        <translation>Le résultat de %1 (tâche %2) est inconnu : %3</translation>
+        <translation>Le résultat de %1 (tâche %2) est inconnu&#xa0;: %3</translation>
     </message>
     <message>
         <source>%1 (job %2) is not printed yet: %3. The print server keeps it; &quot;cancel %2&quot; cancels it.</source>
-        <translation>%1 (tâche %2) n’est pas encore imprimée : %3. Le serveur d’impression la garde ; « cancel %2 » la retire.</translation>
+        <translation>%1 (tâche %2) n’est pas encore imprimée&#xa0;: %3. Le serveur d’impression la garde&#xa0;; «&#xa0;cancel %2&#xa0;» la retire.</translation>
     </message>
     <message>
         <source>no reason given</source>
@@ -1810,7 +1810,7 @@ Exemples&#x202f;:
     </message>
     <message>
         <source>The preset &quot;%1&quot; no longer exists.</source>
-        <translation>Le préréglage « %1 » n’existe plus.</translation>
+        <translation>Le préréglage «&#x202f;%1&#x202f;» n’existe plus.</translation>
     </message>
 </context>
 <context>
@@ -1860,7 +1860,7 @@ Exemples&#x202f;:
     </message>
     <message>
         <source>The preset &quot;%1&quot; no longer exists. Save it under a new name.</source>
-        <translation>Le préréglage « %1 » n’existe plus. Enregistrez-le sous un nouveau nom.</translation>
+        <translation>Le préréglage «&#x202f;%1&#x202f;» n’existe plus. Enregistrez-le sous un nouveau nom.</translation>
     </message>
 </context>
 <context>
@@ -2075,8 +2075,8 @@ Exemples&#x202f;:
         <translation>Photos imprimées jusqu’ici&#xa0;: %1 sur %2. Le reste n’est pas imprimé si cette fenêtre est fermée.</translation>
     </message>
     <message>
-        <source>Stop printing? Photos not printed yet are cancelled.</source>
-        <translation>Arrêter l’impression ? Ce qui n’est pas encore imprimé est retiré.</translation>
+        <source>Stop printing? Photos not printed yet are canceled.</source>
+        <translation>Arrêter l’impression&#x202f;? Ce qui n’est pas encore imprimé est retiré.</translation>
     </message>
     <message>
         <source>Continue</source>

@@ -16,11 +16,11 @@
         <translation>%1: %2</translation>
     </message>
     <message>
-        <source>Cancelled; nothing more is printed.</source>
+        <source>Canceled; nothing more is printed.</source>
         <translation>中止しました。これ以上は印刷されません。</translation>
     </message>
     <message>
-        <source>Cancelled; the jobs already sent were cancelled, too.</source>
+        <source>Canceled; the jobs already sent were canceled, too.</source>
         <translation>中止しました。送信したジョブはプリンターから取り消しました。</translation>
     </message>
 </context>
@@ -343,7 +343,7 @@ Examples:
         <translation>印刷中</translation>
     </message>
     <message>
-        <source>cancelled</source>
+        <source>canceled</source>
         <translation>取り消されました</translation>
     </message>
     <message>
@@ -927,7 +927,7 @@ Examples:
         <translation>何も印刷されません</translation>
     </message>
     <message>
-        <source>The job for the printer &quot;%1&quot; was cancelled (%2).</source>
+        <source>The job for the printer &quot;%1&quot; was canceled (%2).</source>
         <translation>プリンター「%1」へのジョブを取り消しました（%2）。</translation>
     </message>
     <message>
@@ -1170,15 +1170,15 @@ Examples:
         <translation>文書を印刷できませんでした</translation>
     </message>
     <message>
-        <source>cancelled by the user</source>
+        <source>canceled by the user</source>
         <translation>ユーザーが取り消しました</translation>
     </message>
     <message>
-        <source>cancelled by the operator</source>
+        <source>canceled by the operator</source>
         <translation>管理者が取り消しました</translation>
     </message>
     <message>
-        <source>cancelled at the printer</source>
+        <source>canceled at the printer</source>
         <translation>プリンターで取り消されました</translation>
     </message>
     <message>
@@ -1637,7 +1637,7 @@ Examples:
         <translation>理由は示されていません</translation>
     </message>
     <message>
-        <source>The job %3 for %2 on the printer &quot;%1&quot; was cancelled (%4).</source>
+        <source>The job %3 for %2 on the printer &quot;%1&quot; was canceled (%4).</source>
         <translation>プリンター「%1」の %2 のジョブ %3 は取り消されました（%4）。</translation>
     </message>
     <message>
@@ -1645,7 +1645,7 @@ Examples:
         <translation>%1 を %2 で印刷しました（ジョブ %3）</translation>
     </message>
     <message>
-        <source>The job %1 for %2 could not be cancelled: %3</source>
+        <source>The job %1 for %2 could not be canceled: %3</source>
         <translation>%2 のジョブ %1 を取り消せませんでした: %3</translation>
     </message>
     <message>
@@ -2071,7 +2071,7 @@ Examples:
         <translation>これまでに %2 枚中 %1 枚の写真を印刷しました。このウィンドウを閉じると、残りは印刷されません。</translation>
     </message>
     <message>
-        <source>Stop printing? Photos not printed yet are cancelled.</source>
+        <source>Stop printing? Photos not printed yet are canceled.</source>
         <translation>印刷を中止しますか？まだ印刷されていない写真は取り消されます。</translation>
     </message>
     <message>

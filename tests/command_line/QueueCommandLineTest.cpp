@@ -135,8 +135,8 @@ private Q_SLOTS:
         add("nothing to place", u"photo"_s, uprightPhoto(), red, u"image/jpeg"_s);
         add("class", u"group"_s, uprightPhoto(), red, u"image/jpeg"_s);
         add("with margins", u"photo"_s, uprightPhoto(), small, u"application/pdf"_s);
-        add("colours of its own", u"photo"_s, home_.filePath(u"wide.jpg"_s), red, u"application/pdf"_s);
-        add("colours named sRGB", u"photo"_s, home_.filePath(u"named.jpg"_s), red, u"image/jpeg"_s);
+        add("colors of its own", u"photo"_s, home_.filePath(u"wide.jpg"_s), red, u"application/pdf"_s);
+        add("colors named sRGB", u"photo"_s, home_.filePath(u"named.jpg"_s), red, u"image/jpeg"_s);
         add("no JPEG", u"photo"_s, home_.filePath(u"upright.webp"_s), red, u"application/pdf"_s);
         add("without a PPD", u"raw"_s, samplePhoto, QStringList(), u"image/jpeg"_s);
     }
@@ -322,7 +322,7 @@ private Q_SLOTS:
         QVERIFY(program.waitForFinished(5000));
         QCOMPARE(program.exitCode(), 1);
         const QByteArray err = program.readAllStandardError();
-        QVERIFY2(err.count('\n') == 1 && err.contains("Cancelled"), err.constData());
+        QVERIFY2(err.count('\n') == 1 && err.contains("Canceled"), err.constData());
         QTRY_COMPARE(cupsd_.activeJobs(), QByteArray());
     }
 };

@@ -123,7 +123,7 @@ private Q_SLOTS:
     }
 
     // While it is being sent, and once the server has it.
-    void cancelledJobs()
+    void canceledJobs()
     {
         QVERIFY(cupsd_.setBackendScript("exit 0"));
         const auto before = submit(u"odd"_s);
@@ -151,8 +151,8 @@ private Q_SLOTS:
             &cancel);
         QVERIFY(left && !left->isOver());
         CupsConnection connection(5s);
-        const auto cancelled = cancelJob(connection, u"odd"_s, *printing);
-        QVERIFY(cancelled && *cancelled);
+        const auto canceled = cancelJob(connection, u"odd"_s, *printing);
+        QVERIFY(canceled && *canceled);
         const auto end = follow(u"odd"_s, *printing);
         QVERIFY(end);
         QCOMPARE(end->state, JobStatus::State::Canceled);

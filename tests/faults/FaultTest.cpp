@@ -8,6 +8,7 @@
 #include "PhotoThreads.h"
 #include "PlatformException.h"
 #include "PresetStore.h"
+#include "Rows.h"
 
 #include <QtCore/QProcess>
 #include <QtCore/QTemporaryDir>
@@ -89,8 +90,7 @@ private Q_SLOTS:
 
     void savesOrKeepsSettings_data()
     {
-        QTest::addColumn<QByteArray>("call");
-        QTest::addColumn<int>("error");
+        const auto add = rows<QByteArray, int>();
         for (const auto &[call, error] : {std::pair("read", EIO),
                                           {"read", EINTR},
                                           {"write", EIO},
@@ -98,14 +98,13 @@ private Q_SLOTS:
                                           {"close", EIO},
                                           {"renameat", EIO},
                                           {"rename", EIO}})
-            QTest::addRow("%s: %s", call, std::strerror(error)) << QByteArray(call) << error;
+            add((QByteArray(call) + ": " + std::strerror(error)).constData(), call, error);
     }
 
     // What was there before is always kept, whatever becomes of the new preset.
     void savesOrKeepsSettings()
     {
-        QFETCH(const QByteArray, call);
-        QFETCH(const int, error);
+        const auto [call, error] = row<QByteArray, int>();
         for (const bool isBuiltIn : {false, true}) {
             PresetStore store = PresetStore::of(u"photo"_s, isBuiltIn);
             const QString name = QLatin1String(call) + QString::number(error) + u'.';
@@ -127,11 +126,10 @@ private Q_SLOTS:
 
     void printsBothOrNeither_data()
     {
-        QTest::addColumn<QByteArray>("call");
-        QTest::addColumn<int>("error");
-        QTest::addColumn<bool>("isMet"); // what the program has to get by
-        const auto row = [](const char *call, int error, bool isMet = false) {
-            QTest::addRow("%s: %s", call, std::strerror(error)) << QByteArray(call) << error << isMet;
+        const auto add = rows<QByteArray, int, bool>();
+        // Met: the program has to get by without it.
+        const auto row = [&add](const char *call, int error, bool isMet = false) {
+            add((QByteArray(call) + ": " + std::strerror(error)).constData(), call, error, isMet);
         };
         row("openat", EMFILE);
         row("write", ENOSPC);
@@ -151,9 +149,7 @@ private Q_SLOTS:
     // A page and its ticket: in an empty folder, in the place of an earlier pair, and beside it.
     void printsBothOrNeither()
     {
-        QFETCH(const QByteArray, call);
-        QFETCH(const int, error);
-        QFETCH(const bool, isMet);
+        const auto [call, error, isMet] = row<QByteArray, int, bool>();
         const QTemporaryDir whole;
         QVERIFY(print(whole.path(), false));
         const QByteArrayList expected = contentsOf(whole.path()).values();

@@ -3,6 +3,7 @@
 
 #include "PdfWriter.h"
 #include "Photo.h"
+#include "Rows.h"
 #include "SamplePhotos.h"
 #include "TestMain.h"
 
@@ -87,18 +88,16 @@ private:
 private Q_SLOTS:
     void isTurnedOnce_data()
     {
-        QTest::addColumn<int>("format");
-        QTest::addColumn<int>("orientation");
+        const auto add = rows<int, int>();
         for (int orientation = 1; orientation <= 8; ++orientation) {
-            QTest::addRow("HEIF, orientation %d", orientation) << int(heif_compression_HEVC) << orientation;
-            QTest::addRow("AVIF, orientation %d", orientation) << int(heif_compression_AV1) << orientation;
+            add(qPrintable(u"HEIF, orientation %1"_s.arg(orientation)), heif_compression_HEVC, orientation);
+            add(qPrintable(u"AVIF, orientation %1"_s.arg(orientation)), heif_compression_AV1, orientation);
         }
     }
 
     void isTurnedOnce()
     {
-        QFETCH(const int, format);
-        QFETCH(const int, orientation);
+        const auto [format, orientation] = row<int, int>();
         const QByteArray content =
             encoded(samples::quarters(QSize(128, 64)), heif_compression_format(format), orientation);
         if (content.isEmpty())

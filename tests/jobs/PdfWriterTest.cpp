@@ -90,18 +90,16 @@ private:
 private Q_SLOTS:
     void jpegGoesInUntouchedAndUpright_data()
     {
-        QTest::addColumn<int>("orientation");
-        QTest::addColumn<bool>("isPortrait");
+        const auto add = rows<int, bool>();
         for (int i = 1; i <= 8; ++i) {
-            QTest::addRow("Exif orientation %d on a portrait page", i) << i << true;
-            QTest::addRow("Exif orientation %d on a landscape page", i) << i << false;
+            add(qPrintable(u"Exif orientation %1 on a portrait page"_s.arg(i)), i, true);
+            add(qPrintable(u"Exif orientation %1 on a landscape page"_s.arg(i)), i, false);
         }
     }
 
     void jpegGoesInUntouchedAndUpright()
     {
-        QFETCH(const int, orientation);
-        QFETCH(const bool, isPortrait);
+        const auto [orientation, isPortrait] = row<int, bool>();
         const QByteArray jpeg = samples::withOrientation(
             samples::encoded(samples::quarters(QSize(300, 200)), "jpeg"), orientation);
         const PageGeometry &page = isPortrait ? portraitPage : landscapePage;
@@ -140,8 +138,8 @@ private Q_SLOTS:
         const QImage grey = picture.convertToFormat(QImage::Format_Grayscale8);
         QImage half = picture.convertToFormat(QImage::Format_ARGB32);
         half.setAlphaChannel(QImage(half.size(), QImage::Format_Alpha8));
-        add("colour", picture, true);
-        add("colour of 16 bits", picture.convertToFormat(QImage::Format_RGBX64), true);
+        add("color", picture, true);
+        add("color of 16 bits", picture.convertToFormat(QImage::Format_RGBX64), true);
         add("grey", grey, true);
         add("grey of 16 bits", picture.convertToFormat(QImage::Format_Grayscale16), true);
         add("palette", picture.convertToFormat(QImage::Format_Indexed8), true);
@@ -173,10 +171,10 @@ private Q_SLOTS:
 
     void impossiblePngs_data()
     {
-        // Bits, type of colours, methods of compression and filtering; rows; bytes behind the data.
+        // Bits, type of colors, methods of compression and filtering; rows; bytes behind the data.
         const auto add = rows<QByteArray, int, bool, QByteArray>();
         add("grey", "\x08", 20, true, {});
-        add("palette that lacks colours", "\4\3", 20, true, {});
+        add("palette that lacks colors", "\4\3", 20, true, {});
         add("rows missing", "\x08", 19, false, {});
         add("rows missing, with alpha", "\x08\x06", 19, false, {});
         add("a row too many", "\x08", 21, true, {});
@@ -185,7 +183,7 @@ private Q_SLOTS:
         add("bytes behind the rows, with alpha", "\x08\x06", 20, true, "more");
         add("no bits", "", 20, false, {});
         add("grey of 3 bits", "\3", 20, false, {});
-        add("colours of 1 bit", "\1\2", 20, false, {});
+        add("colors of 1 bit", "\1\2", 20, false, {});
         add("palette of 16 bits", "\x10\3", 20, false, {});
         add("unknown filters", QByteArray("\x08\0\0\x40", 4), 20, false, {});
     }
@@ -213,17 +211,17 @@ private Q_SLOTS:
     void transparentPngsLieOnWhite_data()
     {
         const auto add = rows<char, bool>();
-        add("colour", '\6', false);
-        add("colour, interlaced", '\6', true);
+        add("color", '\6', false);
+        add("color, interlaced", '\6', true);
         add("grey", '\4', false);
         add("grey, interlaced", '\4', true);
     }
 
     void transparentPngsLieOnWhite()
     {
-        const auto [colourType, isInterlaced] = row<char, bool>();
+        const auto [colorType, isInterlaced] = row<char, bool>();
         const QSize size(19, 11);
-        const int colours = colourType == 4 ? 1 : 3;
+        const int colors = colorType == 4 ? 1 : 3;
         const auto numberAt = [](int x, int y, int index) {
             return (x * 13 + y * 7 + index * 50) % 256;
         };
@@ -236,21 +234,21 @@ private Q_SLOTS:
             for (int y = pass.y(); y < size.height(); y += pass.height()) {
                 rows += '\0';
                 for (int x = pass.x(); x < size.width(); x += pass.width()) {
-                    for (int i = 0; i <= colours; ++i)
+                    for (int i = 0; i <= colors; ++i)
                         rows += static_cast<char>(numberAt(x, y, i));
                 }
             }
         }
-        const Photo photo = photoOf(samples::pngOf(samples::pngHeader(size, colourType, isInterlaced), rows));
+        const Photo photo = photoOf(samples::pngOf(samples::pngHeader(size, colorType, isInterlaced), rows));
         pdfOf(photo, portraitPage, PdfWriter::Embedding::Pixels);
         const QImage printed = QImage::fromData(embedded(u"png"_s)).convertToFormat(QImage::Format_RGB888);
         QCOMPARE(printed.size(), size);
         for (int y = 0; y < size.height(); ++y) {
             for (int x = 0; x < size.width(); ++x) {
-                const double opacity = numberAt(x, y, colours) / 255.0;
+                const double opacity = numberAt(x, y, colors) / 255.0;
                 const QRgb pixel = printed.pixel(x, y);
                 for (int i = 0; i < 3; ++i) {
-                    const double wanted = numberAt(x, y, i % colours) * opacity + 255 * (1 - opacity);
+                    const double wanted = numberAt(x, y, i % colors) * opacity + 255 * (1 - opacity);
                     QVERIFY(std::abs((pixel >> (16 - 8 * i) & 0xff) - wanted) < 1);
                 }
             }

@@ -201,7 +201,7 @@ private Q_SLOTS:
         const QByteArray progressive = samples::encoded(picture, "jpeg", true);
         QByteArray arithmetic = jpeg;
         arithmetic[jpeg.indexOf("\xff\xc0") + 1] = '\xc9';
-        QByteArray rgb = jpeg.first(2) + jpeg.sliced(20); // without the JFIF segment, which tells the colours
+        QByteArray rgb = jpeg.first(2) + jpeg.sliced(20); // without the JFIF segment, which tells the colors
         const qsizetype frame = rgb.indexOf("\xff\xc0");
         rgb[frame + 10] = 'R';
         rgb[frame + 13] = 'G';
@@ -253,20 +253,16 @@ private Q_SLOTS:
 
     void orientations_data()
     {
-        QTest::addColumn<int>("orientation");
-        QTest::addColumn<int>("seenAs");
-        QTest::addColumn<bool>("bigEndian");
+        const auto add = rows<int, int, bool>();
         for (int i = 1; i <= 8; ++i)
-            QTest::addRow("Exif orientation %d", i) << i << i << (i % 2 == 0);
-        QTest::newRow("Exif orientation 0, which does not exist") << 0 << 1 << false;
-        QTest::newRow("Exif orientation 9, which does not exist") << 9 << 1 << true;
+            add(qPrintable(u"Exif orientation %1"_s.arg(i)), i, i, i % 2 == 0);
+        add("Exif orientation 0, which does not exist", 0, 1, false);
+        add("Exif orientation 9, which does not exist", 9, 1, true);
     }
 
     void orientations()
     {
-        QFETCH(const int, orientation);
-        QFETCH(const int, seenAs);
-        QFETCH(const bool, bigEndian);
+        const auto [orientation, seenAs, bigEndian] = row<int, int, bool>();
         const QByteArray jpeg = samples::encoded(samples::quarters(QSize(300, 200)), "jpeg");
         samples::store(pathOf(u"photo.jpg"_s), samples::withOrientation(jpeg, orientation, bigEndian));
         const auto photo = Photo::open(pathOf(u"photo.jpg"_s));

@@ -57,9 +57,9 @@ QByteArray pngOf(const QByteArray &header, const QByteArray &rows, const QByteAr
            chunk("IDAT" + qCompress(rows).sliced(lengthSize) + behind) + chunk("IEND");
 }
 
-QByteArray pngHeader(const QSize &size, char colourType, bool isInterlaced)
+QByteArray pngHeader(const QSize &size, char colorType, bool isInterlaced)
 {
-    return number(quint32(size.width())) + number(quint32(size.height())) + '\x08' + colourType +
+    return number(quint32(size.width())) + number(quint32(size.height())) + '\x08' + colorType +
            QByteArray(2, '\0') + (isInterlaced ? '\1' : '\0');
 }
 
@@ -91,8 +91,8 @@ QString cornersOf(const QImage &image, const QRectF &area, double inside)
     QString names;
     for (const QPointF &corner :
          {inner.topLeft(), inner.topRight(), inner.bottomLeft(), inner.bottomRight()}) {
-        const QColor colour = image.pixelColor(corner.toPoint());
-        const int brightness = (colour.red() > 128) * 4 + (colour.green() > 128) * 2 + (colour.blue() > 128);
+        const QColor color = image.pixelColor(corner.toPoint());
+        const int brightness = (color.red() > 128) * 4 + (color.green() > 128) * 2 + (color.blue() > 128);
         names += u"?BGGRRYW"_s[brightness];
     }
     return names;

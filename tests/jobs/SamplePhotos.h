@@ -29,7 +29,7 @@ inline const std::array<QString, 9> seenCorners{
     QStringLiteral("GYRB"), // its top is on the left
 };
 
-/// Four quarters in the colours of storedCorners.
+/// Four quarters in the colors of storedCorners.
 QImage quarters(const QSize &size);
 /// A picture with some detail in each of its pixels, and the same each time.
 QImage grain(const QSize &size);
@@ -37,9 +37,9 @@ QImage grain(const QSize &size);
 QByteArray noise(qsizetype size);
 /// A PNG of a header's content (IHDR), filtered rows, which are compressed, and bytes behind them in IDAT.
 QByteArray pngOf(const QByteArray &header, const QByteArray &rows, const QByteArray &behind = {});
-/// The header's content: 8 bits, one of PNG's types of colours.
-QByteArray pngHeader(const QSize &size, char colourType, bool isInterlaced = false);
-/// The colours of the four corners of an area of an image, that many pixels inside it; W is white, ? another
+/// The header's content: 8 bits, one of PNG's types of colors.
+QByteArray pngHeader(const QSize &size, char colorType, bool isInterlaced = false);
+/// The colors of the four corners of an area of an image, that many pixels inside it; W is white, ? another
 /// one.
 QString cornersOf(const QImage &image, const QRectF &area, double inside);
 
@@ -59,7 +59,7 @@ QByteArray withProfile(const QByteArray &jpeg, const QByteArray &icc);
 /// A red JPEG of 16 x 16 pixels in CMYK, inverted as photo programs store it.
 QByteArray redCmykJpeg();
 
-/// A JPEG whose headers are whole and whose pixels no decoder here reads: they have 12 bits per colour.
+/// A JPEG whose headers are whole and whose pixels no decoder here reads: they have 12 bits per color.
 QByteArray undecodableJpeg();
 
 void store(const QString &path, const QByteArray &content);

@@ -120,11 +120,11 @@ private Q_SLOTS:
     {
         QTest::addColumn<PanelTable>("table");
         QTest::addColumn<Mode>("mode");
-        PanelTable poor = PanelTable::colour(); // of a PPD that lacks an option
+        PanelTable poor = PanelTable::color(); // of a PPD that lacks an option
         poor.options.removeFirst();
         const QList<std::pair<const char *, PanelTable>> tables = {
-            {"colour", PanelTable::colour()},
-            {"colour, option missing", poor},
+            {"color", PanelTable::color()},
+            {"color, option missing", poor},
             {"sharpness", PanelTable::sharpness()},
             {"sharpness in thousandths", PanelTable::sharpness(true)},
             {"finish", PanelTable::lamination()},
@@ -154,7 +154,7 @@ private Q_SLOTS:
     void faultIsFoundAndShrunk()
     {
         const QString found = searched(
-            PanelTable::colour(), Mode::Settings, [](PanelDriver &driver) { driver.open<RangelessPanel>(); },
+            PanelTable::color(), Mode::Settings, [](PanelDriver &driver) { driver.open<RangelessPanel>(); },
             1, 3000);
         // What is needed is a number beyond the range, no more.
         QVERIFY2(found.count(QLatin1Char('\n')) <= 2 &&

@@ -42,7 +42,7 @@ PanelDriver::PanelDriver(const PanelTable &table, Mode mode)
 
 void PanelDriver::open()
 {
-    if (table_.kind == PanelTable::Colour)
+    if (table_.kind == PanelTable::Color)
         open<LVCorvelMainPDE>();
     else if (table_.kind == PanelTable::Sharpness)
         open<LVSharpnessCorvelPDE>();

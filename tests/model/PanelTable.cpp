@@ -73,7 +73,7 @@ QByteArray PanelTable::ppd() const
     return text;
 }
 
-PanelTable PanelTable::colour()
+PanelTable PanelTable::color()
 {
     PanelTable table;
     table.keys = words("Brightness Contrast Saturation Gamma Red Green Blue AdjustmentsEnabled");

@@ -38,9 +38,9 @@ struct PpdOption
 /// What is known of a panel without asking it: its form, its options, its tables of tags.
 struct PanelTable
 {
-    enum Kind { Colour, Sharpness, Lamination, Mixed };
+    enum Kind { Color, Sharpness, Lamination, Mixed };
 
-    Kind kind = Colour;
+    Kind kind = Color;
     std::optional<QByteArray> printersPpd = {}; ///< as the print system has it
     bool setsSliders = false;                   ///< the form's sliders take these ranges
     QList<FormControl> controls = {};
@@ -53,7 +53,7 @@ struct PanelTable
     std::optional<QString> key(int tag) const;
     QByteArray ppd() const;
 
-    static PanelTable colour();
+    static PanelTable color();
     /// With the form's intensities, or negative ones and thousandths, too.
     static PanelTable sharpness(bool withThousandths = false);
     static PanelTable lamination(const std::optional<QByteArray> &printersPpd = {});

@@ -161,7 +161,7 @@ public:
     ~PanelHarness();
     Q_DISABLE_COPY_MOVE(PanelHarness)
 
-    /// The colour panel's options, -25 to 25 each with the text "Level N", and `more`.
+    /// The color panel's options, -25 to 25 each with the text "Level N", and `more`.
     static QByteArray colorPpd(const QByteArray &more = {});
     static QByteArray ppdHead();
     static QByteArray ppdOption(const QByteArray &key, const QByteArray &defaultChoice,

@@ -23,7 +23,7 @@ extern "C" void catchPIPE(int /*signal*/)
 
 namespace {
 
-/// The colour panel with more keys, and with a form that the test picks, or that cannot even be named.
+/// The color panel with more keys, and with a form that the test picks, or that cannot even be named.
 class OddPanel : public LVCorvelMainPDE
 {
 public:
@@ -67,11 +67,11 @@ private Q_SLOTS:
     void fixedTables()
     {
         PanelHarness dialog(Mode::Constraint);
-        auto colour = dialog.make<LVCorvelMainPDE>();
+        auto color = dialog.make<LVCorvelMainPDE>();
         auto sharpness = dialog.make<LVSharpnessCorvelPDE>();
         auto finish = dialog.make<LVCorvelLaminationPDE>();
         QCOMPARE(
-            tablesOf(*colour),
+            tablesOf(*color),
             text("Brightness Contrast Saturation Gamma Red Green Blue AdjustmentsEnabled;"
                  " 1=Red 2=Green 3=Blue 4=Brightness 5=Contrast 6=Saturation 7=Gamma 32=AdjustmentsEnabled"
                  " 81=Red 82=Green 83=Blue 84=Brightness 85=Contrast 86=Saturation 87=Gamma"
@@ -86,9 +86,9 @@ private Q_SLOTS:
         for (const std::optional<QString> &none :
              {std::optional(text("01")), std::optional(text("fine")), {}})
             QCOMPARE(sharpness->tagForStringValue(none) + finish->tagForStringValue(none), 0);
-        const QStringList names = {*colour->panelName(), *sharpness->panelName(), *finish->panelName()};
+        const QStringList names = {*color->panelName(), *sharpness->panelName(), *finish->panelName()};
         QCOMPARE(names.join(u','), text("Color Adjustments,Sharpness,Print Quality and Finish"));
-        const QStringList kinds = {*colour->panelKind(), *sharpness->panelKind(), *finish->panelKind()};
+        const QStringList kinds = {*color->panelKind(), *sharpness->panelKind(), *finish->panelKind()};
         QCOMPARE(kinds.join(u','),
                  text("org.corvel.printing.Corvel9031.coloradjust,org.corvel.printing.Corvel9031.sharpness,"
                       "org.corvel.printing.Corvel9031.matte"));

@@ -3,6 +3,7 @@
 
 #include "ChoiceMarker.h"
 #include "PpdDocument.h"
+#include "Rows.h"
 #include "SmallPpd.h"
 #include "TestMain.h"
 
@@ -47,14 +48,11 @@ class ChoiceMarkerTest : public QObject
 private Q_SLOTS:
     void rulesOnOneChoice_data()
     {
-        QTest::addColumn<QString>("key");
-        QTest::addColumn<QString>("choice");
-        QTest::addColumn<Verdict>("verdict");
-        QTest::addColumn<QString>("expected"); // the canonical choice, or the sentence
-        const auto row = [](const QString &key, const QString &choice, Verdict verdict,
-                            const QString &expected) {
-            QTest::addRow("%s=%s", qPrintable(key), qPrintable(choice))
-                << key << choice << verdict << expected;
+        const auto add = rows<QString, QString, Verdict, QString>();
+        // Expected: the canonical choice, or the sentence.
+        const auto row = [&add](const QString &key, const QString &choice, Verdict verdict,
+                                const QString &expected) {
+            add(qPrintable(key + u'=' + choice), key, choice, verdict, expected);
         };
         const auto red = [&](const QString &choice, const QString &is) {
             row(u"Red"_s, choice, Verdict::Accepted, is);
@@ -102,14 +100,12 @@ private Q_SLOTS:
 
     void rulesOnOneChoice()
     {
-        QFETCH(QString, key);
-        QFETCH(QString, choice);
-        QFETCH(QString, expected);
+        const auto [key, choice, verdict, expected] = row<QString, QString, Verdict, QString>();
         PpdDocument document = opened(photoPrinter());
         ChoiceMarker marker(document);
         auto before = marker.markedChoices();
         const Ruling ruling = marker.check(key, choice);
-        QTEST(ruling.verdict, "verdict");
+        QCOMPARE(ruling.verdict, verdict);
         QCOMPARE(marker.markedChoices(), before);
         const bool accepted = ruling.verdict == Verdict::Accepted;
         QCOMPARE(accepted ? ruling.choice : ruling.text, expected);

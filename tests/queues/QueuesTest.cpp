@@ -199,11 +199,11 @@ private Q_SLOTS:
             std::atomic_ref(cancel).store(1);
         });
         timer.start();
-        const auto cancelled = submit({}, &cancel, 10s);
+        const auto canceled = submit({}, &cancel, 10s);
         canceller.join();
         QVERIFY(timer.elapsed() < 400);
-        QVERIFY(!cancelled);
-        QCOMPARE(cancelled.failure().reason, QueueFault::Canceled);
+        QVERIFY(!canceled);
+        QCOMPARE(canceled.failure().reason, QueueFault::Canceled);
     }
 
     // Whatever is asked.

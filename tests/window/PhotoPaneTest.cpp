@@ -42,7 +42,7 @@ namespace {
 const PageGeometry bordered{QSizeF(200, 300), QRectF(10, 20, 180, 250)};
 const PageGeometry borderless{QSizeF(200, 300), QRectF(0, 0, 200, 300)};
 
-/// Colours that run differently along both sides, so that a shift, a turn or a mirrored side shows.
+/// Colors that run differently along both sides, so that a shift, a turn or a mirrored side shows.
 QImage gradients(const QSize &size)
 {
     QImage image(size, QImage::Format_RGB32);

@@ -48,7 +48,7 @@ public:
 
     QSize size() const { return {heif_.handleWidth(handle_.get()), heif_.handleHeight(handle_.get())}; }
 
-    ColourProfile profile() const
+    ColorProfile profile() const
     {
         const heif_color_profile_type type = heif_.profileType(handle_.get());
         if (type != heif_color_profile_type_prof && type != heif_color_profile_type_rICC)
@@ -58,7 +58,7 @@ public:
         QByteArray icc(static_cast<qsizetype>(qMin(size, largest)), Qt::Uninitialized);
         if (size > largest || heif_.rawProfile(handle_.get(), icc.data()).code != heif_error_Ok)
             return {};
-        return ColourProfile::fromIcc(icc);
+        return ColorProfile::fromIcc(icc);
     }
 
     Result<QImage, std::monostate> decoded() const
@@ -89,7 +89,7 @@ public:
 
 private:
     /// Pictures are meant for screens, so the transfer curve is assumed to be that of sRGB.
-    ColourProfile primariesProfile() const
+    ColorProfile primariesProfile() const
     {
         heif_color_profile_nclx *nclx = nullptr;
         if (heif_.nclxProfile(handle_.get(), &nclx).code != heif_error_Ok || !nclx)
@@ -98,14 +98,14 @@ private:
             nclx, heif_.nclxProfileFree);
         switch (nclx->color_primaries) {
         case heif_color_primaries_SMPTE_EG_432_1:
-            return ColourProfile::fromIcc(
+            return ColorProfile::fromIcc(
                 QColorSpace(QColorSpace::Primaries::DciP3D65, QColorSpace::TransferFunction::SRgb)
                     .iccProfile());
         case heif_color_primaries_ITU_R_BT_2020_2_and_2100_0:
-            return ColourProfile::fromIcc(QColorSpace(QPointF(0.3127, 0.329), QPointF(0.708, 0.292),
-                                                      QPointF(0.17, 0.797), QPointF(0.131, 0.046),
-                                                      QColorSpace::TransferFunction::SRgb)
-                                              .iccProfile());
+            return ColorProfile::fromIcc(QColorSpace(QPointF(0.3127, 0.329), QPointF(0.708, 0.292),
+                                                     QPointF(0.17, 0.797), QPointF(0.131, 0.046),
+                                                     QColorSpace::TransferFunction::SRgb)
+                                             .iccProfile());
         default:
             return {};
         }

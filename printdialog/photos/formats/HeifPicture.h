@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "ColourProfile.h"
+#include "ColorProfile.h"
 #include "Result.h"
 
 #include <QtCore/QByteArray>
@@ -19,8 +19,8 @@ namespace printdialog {
 struct HeifPicture
 {
     QSize size; ///< In pixels, upright.
-    /// The file's ICC profile, or one made from its colour primaries; none for sRGB.
-    ColourProfile profile;
+    /// The file's ICC profile, or one made from its color primaries; none for sRGB.
+    ColorProfile profile;
 
     /// Reads the headers without decoding.
     static Result<HeifPicture, std::monostate> read(const QByteArray &content);

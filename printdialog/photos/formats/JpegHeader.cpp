@@ -48,7 +48,7 @@ public:
     JpegHeader read()
     {
         header_.state = readSegments();
-        header_.isEmbeddable = isPlain_ && hasPlainColours();
+        header_.isEmbeddable = isPlain_ && hasPlainColors();
         header_.isInverted = header_.components == 4 && hasAdobeMarker_;
         header_.iccProfile = profile();
         if (hasExif_ && header_.resolution == ExifData::unknownResolution)
@@ -166,7 +166,7 @@ private:
     }
 
     /// Decoders take components named R, G and B as RGB, but PDF readers convert them from YCbCr.
-    bool hasPlainColours() const
+    bool hasPlainColors() const
     {
         const int components = header_.components;
         return components == 1 || components == 4 ||

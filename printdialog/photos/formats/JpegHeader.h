@@ -24,13 +24,13 @@ struct JpegHeader
 
     State state = State::Broken;
     QSize size;         ///< In pixels, as stored.
-    int components = 0; ///< Per pixel: 1 is grey, 3 colour, 4 CMYK.
+    int components = 0; ///< Per pixel: 1 is grey, 3 color, 4 CMYK.
     ExifOrientation orientation;
     std::optional<double> resolution; ///< In pixels per inch, from Exif or else JFIF; see ExifData.
     QByteArray iccProfile;            ///< Unchecked; empty when there is none.
     /// Whether the values of a CMYK picture are inverted, as Adobe's programs store them.
     bool isInverted = false;
-    /// Whether every PDF reader shows these bytes correctly: grey, colour or CMYK of 8 bits, sequential or
+    /// Whether every PDF reader shows these bytes correctly: grey, color or CMYK of 8 bits, sequential or
     /// progressive, Huffman coded.
     bool isEmbeddable = false;
     /// Whether decoders support the kind: sequential or progressive with 8 bits. Medical and cinema programs

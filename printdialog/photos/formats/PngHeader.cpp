@@ -17,7 +17,7 @@
 namespace printdialog {
 namespace {
 
-enum ColourType { Grey = 0, Rgb = 2, Palette = 3, GreyAlpha = 4, Rgba = 6 };
+enum ColorType { Grey = 0, Rgb = 2, Palette = 3, GreyAlpha = 4, Rgba = 6 };
 
 constexpr qsizetype largestPngProfile = 16 << 20; // bytes, decompressed
 
@@ -70,12 +70,12 @@ public:
         header_.isEmbeddable = header_.isValid && (type_ == Grey || type_ == Rgb || hasPalette) &&
                                !isTransparent_ && !header_.isInterlaced && !header_.data.isEmpty();
         if (header_.isValid && hasPalette) {
-            const qsizetype colours = qsizetype(1) << header_.bitsPerSample;
-            header_.palette = header_.palette.leftJustified(colours * 3, '\0', true);
+            const qsizetype colors = qsizetype(1) << header_.bitsPerSample;
+            header_.palette = header_.palette.leftJustified(colors * 3, '\0', true);
         }
         if (!hasPalette)
             header_.palette.clear();
-        const ColourProfile embedded = ColourProfile::fromIcc(icc_);
+        const ColorProfile embedded = ColorProfile::fromIcc(icc_);
         if (embedded.components() == (type_ == Grey || type_ == GreyAlpha ? 1 : 3))
             header_.profile = embedded;
         else if (!isSrgb_ && gamma_ > 0 && type_ != Grey)
@@ -188,7 +188,7 @@ private:
             icc_ = inflated(content.sliced(end + 2), largestPngProfile);
     }
 
-    ColourProfile measuredProfile() const
+    ColorProfile measuredProfile() const
     {
         constexpr double largestDifference = 0.003;
         const auto isNear = [](const QPointF &a, const QPointF &b) {
@@ -199,7 +199,7 @@ private:
             return {}; // written by programs that mean sRGB
         const QColorSpace space(points_[0], points_[1], points_[2], points_[3],
                                 QColorSpace::TransferFunction::Gamma, static_cast<float>(1 / gamma_));
-        return space.isValid() ? ColourProfile::fromIcc(space.iccProfile()) : ColourProfile();
+        return space.isValid() ? ColorProfile::fromIcc(space.iccProfile()) : ColorProfile();
     }
 
     /// The white point and primaries of sRGB: white, red, green, blue.

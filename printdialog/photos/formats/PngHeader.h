@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "ColourProfile.h"
+#include "ColorProfile.h"
 #include "ExifOrientation.h"
 
 #include <QtCore/QByteArray>
@@ -29,15 +29,15 @@ struct PngHeader
     State state = State::Truncated;
     QSize size;            ///< In pixels, as stored.
     int bitsPerSample = 0; ///< 1, 2, 4, 8 or 16.
-    int components = 0;    ///< Stored colour components: 1 (grey, or a palette index) or 3.
-    /// Colour components after decoding and composing on white: 1 (grey) or 3.
+    int components = 0;    ///< Stored color components: 1 (grey, or a palette index) or 3.
+    /// Color components after decoding and composing on white: 1 (grey) or 3.
     int decodedComponents = 0;
     /// The same with the alpha channel: bytes of a decoded pixel.
     int decodedChannels = 0;
     /// Red, green, blue of each possible index, black where the file has none; empty without a palette.
     QByteArray palette;
     QList<QByteArrayView> data; ///< The parts of the compressed pixels; they refer to the file's bytes.
-    ColourProfile profile;      ///< From iCCP, or else gAMA and cHRM; none for sRGB.
+    ColorProfile profile;       ///< From iCCP, or else gAMA and cHRM; none for sRGB.
     ExifOrientation orientation;
     std::optional<double> resolution; ///< In pixels per inch.
     /// Whether the format defines this kind of pixels.

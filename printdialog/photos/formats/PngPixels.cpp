@@ -135,11 +135,11 @@ private:
     /// Composes a row on white; its last channel is alpha.
     const unsigned char *laidOnPaper(const unsigned char *row)
     {
-        const std::size_t colours = channels_ - 1;
+        const std::size_t colors = channels_ - 1;
         unsigned char *out = opaque_.data();
         for (std::size_t x = 0; x < width_; ++x, row += channels_) {
-            for (std::size_t i = 0; i < colours; ++i)
-                *out++ = onWhite(row[i], row[colours]);
+            for (std::size_t i = 0; i < colors; ++i)
+                *out++ = onWhite(row[i], row[colors]);
         }
         return opaque_.data();
     }

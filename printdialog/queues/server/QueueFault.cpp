@@ -66,7 +66,7 @@ QString sentence(QueueFault fault)
         return FaultText::tr("The options of the printer \"%1\" have changed since they were chosen (%2). "
                              "Look at them and print again.");
     case QueueFault::Canceled:
-        return FaultText::tr("The job for the printer \"%1\" was cancelled (%2).");
+        return FaultText::tr("The job for the printer \"%1\" was canceled (%2).");
     case QueueFault::Failed:
         break;
     }

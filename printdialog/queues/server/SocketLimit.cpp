@@ -58,7 +58,7 @@ SocketLimit::SocketLimit(http_t *http, Clock::time_point deadline, int *cancel)
     : cancel_(cancel)
     , deadline_(deadline)
 {
-    if (!takePlace(http))
+    if (!insertRelay(http))
         return;
     // Block signals, so that the application's own threads handle them.
     sigset_t all;
@@ -82,7 +82,7 @@ SocketLimit::~SocketLimit()
     closeAll({server_, inner_, wake_});
 }
 
-bool SocketLimit::takePlace(http_t *http)
+bool SocketLimit::insertRelay(http_t *http)
 {
     const int used = httpGetFd(http);
     int pair[2] = {-1, -1};

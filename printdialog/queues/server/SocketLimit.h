@@ -48,7 +48,7 @@ private:
     struct Stretch;
     enum class Flow { Goes, Waits, Ended };
 
-    bool takePlace(http_t *http);
+    bool insertRelay(http_t *http);
     void passOn();
     bool mustEnd(int &milliseconds);
     bool isHeld();

@@ -8,7 +8,7 @@
 
 namespace printdialog {
 
-/// The window's own colour with a share of `tint`: it reads well in light and in dark themes.
+/// The window's own color with a share of `tint`: it reads well in light and in dark themes.
 QColor tinted(const QPalette &palette, const QColor &tint, double share = 0.18);
 
 } // namespace printdialog

@@ -8,20 +8,20 @@
 
 namespace printdialog {
 
-/// A photo's ICC profile, which defines its colours. A value; the default is no profile.
-class ColourProfile
+/// A photo's ICC profile, which defines its colors. A value; the default is no profile.
+class ColorProfile
 {
 public:
-    ColourProfile() = default;
+    ColorProfile() = default;
 
     /// Reads an untrusted ICC profile; no profile when it cannot be read or is not for pictures.
-    static ColourProfile fromIcc(const QByteArray &icc);
+    static ColorProfile fromIcc(const QByteArray &icc);
 
     bool isEmpty() const { return icc_.isEmpty(); }
-    /// Whether it is sRGB, which is also assumed for colours without a profile.
+    /// Whether it is sRGB, which is also assumed for colors without a profile.
     bool isSrgb() const;
     const QByteArray &icc() const { return icc_; }
-    /// The number of colour components: 1 (grey), 3 (RGB) or 4 (CMYK); 0 without a profile.
+    /// The number of color components: 1 (grey), 3 (RGB) or 4 (CMYK); 0 without a profile.
     int components() const { return components_; }
 
     /// The picture converted to sRGB for the screen; unchanged without a profile, or when the profile has

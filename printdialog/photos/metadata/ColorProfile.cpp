@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Corvel print dialog authors
 // SPDX-License-Identifier: Apache-2.0
 
-#include "ColourProfile.h"
+#include "ColorProfile.h"
 
 #include <QtGui/QColorSpace>
 
@@ -41,7 +41,7 @@ int componentsOf(cmsHPROFILE profile)
     case cmsSigColorSpaceClass:
         break;
     default:
-        return 0; // links between devices, named colours
+        return 0; // links between devices, named colors
     }
     switch (cmsGetColorSpace(profile)) {
     case cmsSigGrayData:
@@ -57,21 +57,21 @@ int componentsOf(cmsHPROFILE profile)
 
 } // namespace
 
-ColourProfile ColourProfile::fromIcc(const QByteArray &icc)
+ColorProfile ColorProfile::fromIcc(const QByteArray &icc)
 {
     const Profile profile = opened(icc);
-    ColourProfile result;
+    ColorProfile result;
     if (profile && (result.components_ = componentsOf(profile.get())) > 0)
         result.icc_ = icc;
     return result;
 }
 
-bool ColourProfile::isSrgb() const
+bool ColorProfile::isSrgb() const
 {
     return QColorSpace::fromIccProfile(icc_) == QColorSpace(QColorSpace::SRgb);
 }
 
-QImage ColourProfile::toScreen(const QImage &image) const
+QImage ColorProfile::toScreen(const QImage &image) const
 {
     const bool isGrey = image.format() == QImage::Format_Grayscale8;
     if (image.isNull() || components_ != (isGrey ? 1 : 3))
