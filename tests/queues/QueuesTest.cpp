@@ -219,7 +219,7 @@ private Q_SLOTS:
              {Manner::Nesting, Manner::EndlessValues, Manner::EmptyAttributes, Manner::Separators,
               Manner::EndlessHeaders, Manner::EndlessContinues, Manner::EndlessChunks}) {
             QVERIFY(resetPeak());
-            const qint64 before = peak();
+            [[maybe_unused]] const qint64 before = peak();
             {
                 const StubServer server(manner);
                 QVERIFY(isRefused(sweepQueues(10s, nullptr)));
