@@ -199,14 +199,7 @@ void PrintDialog::browseFolder()
     const QString folder =
         QFileDialog::getExistingDirectory(this, tr("Folder for Printed Files"), ui_->folder->text());
     if (!folder.isEmpty())
-        printing_ = new PrintingController({ui_->photos, ui_->progress, ui_->message}, choices_, this);
-    connect(printing_, &PrintingController::stateChanged, this, &PrintDialog::updateButtons);
-    connect(printing_, &PrintingController::printRequested, this, &PrintDialog::print);
-    connect(printing_, &PrintingController::closeRequested, this, [this] { QDialog::reject(); });
-    connect(printing_, &PrintingController::dismissed, ui_->cancel,
-            [this] { ui_->cancel->setFocus(Qt::OtherFocusReason); });
-    connect(printing_, &PrintingController::ppdChanged, printer_.get(), &PrinterController::renewOptions);
-    ui_->folder->setText(QDir::toNativeSeparators(folder));
+        ui_->folder->setText(QDir::toNativeSeparators(folder));
 }
 
 void PrintDialog::showHelp()

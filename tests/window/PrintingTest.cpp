@@ -8,6 +8,8 @@
 #include "TestMain.h"
 
 #include <QtCore/QDir>
+#include <QtCore/QTimer>
+#include <QtWidgets/QFileDialog>
 #include <QtWidgets/QProgressBar>
 
 using namespace testing_support;
@@ -24,6 +26,27 @@ private Q_SLOTS:
         for (int i = 1; i <= count; ++i)
             QVERIFY(QFile::copy(QStringLiteral(CORVEL_SAMPLE_PHOTO),
                                 photos_.filePath(u"photo%1.jpg"_s.arg(i, 2, 10, QLatin1Char('0')))));
+    }
+
+    void folderIsChosen()
+    {
+        const OpenedDialog opened(setup());
+        auto *field = opened.find<QLineEdit>(u"folder"_s);
+        const QString before = field->text();
+        for (const QString &chosen : {QString(), photos_.path()}) {
+            QTimer::singleShot(0, opened.dialog.get(), [&chosen] {
+                auto *files = qobject_cast<QFileDialog *>(QApplication::activeModalWidget());
+                files->selectFile(chosen);
+                static_cast<QDialog *>(files)->done(chosen.isEmpty() ? QDialog::Rejected : QDialog::Accepted);
+            });
+            opened.click(u"browse"_s);
+            QCOMPARE(field->text(), chosen.isEmpty() ? before : chosen);
+        }
+        opened.dialog->print();
+        QTRY_VERIFY(isIdle(opened));
+        QVERIFY(QFile::exists(photos_.filePath(u"photo01.ticket.json"_s)));
+        for (const QString &name : QDir(photos_.path()).entryList({u"*.pdf"_s, u"*.json"_s}))
+            QFile::remove(photos_.filePath(name));
     }
 
     void manyPhotosAreOneLine()
