@@ -130,8 +130,10 @@ void PrintDialog::showPanelFailure(const QString &sentence)
 {
     if (ui_->message->isAsking())
         return; // the lost page says so in its place
-    const QString before = ui_->message->text();
-    ui_->message->show(MessageBar::Kind::Error, before.isEmpty() ? sentence : before + u'\n' + sentence);
+    if (ui_->message->text().isEmpty())
+        ui_->message->show(MessageBar::Kind::Error, sentence);
+    else
+        ui_->message->append(sentence);
 }
 
 // The requested options apply until the user chooses another printer, which has its own choices.

@@ -94,6 +94,13 @@ private Q_SLOTS:
         button(*opened, u"Print Without Them"_s)->click();
         QTRY_VERIFY(opened->hasPrinted());
         QCOMPARE(opened->options().keys(), QStringList{u"PageSize"_s});
+        // The page that is lost adds its own sentence, and leaves the question.
+        qunsetenv("CORVEL_TEST_FAULT");
+        const auto other = open();
+        qputenv("CORVEL_TEST_FAULT", fault.toUtf8());
+        other->dialog->print();
+        QCoreApplication::processEvents();
+        QVERIFY(button(*other, u"Print Without Them"_s)->isVisible());
     }
 
     void saysWhatCouldNotBeRestored()

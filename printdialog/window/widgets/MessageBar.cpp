@@ -115,6 +115,14 @@ void MessageBar::showWithAction(Kind kind, const QString &text, const QString &a
     show({kind, text, {}, {}, {{actionText, action}}});
 }
 
+void MessageBar::append(const QString &sentence)
+{
+    Message message = message_;
+    message.kind = Kind::Error;
+    message.text += u'\n' + sentence;
+    show(message);
+}
+
 void MessageBar::ask(const QString &text, const QList<Action> &answers)
 {
     show({Kind::Question, text, {}, {}, answers});

@@ -51,6 +51,8 @@ public:
                         const std::function<void()> &action);
     /// Shows the question and gives its first answer the focus. An answer removes it.
     void ask(const QString &text, const QList<Action> &answers);
+    /// Adds a sentence to the message, as an error; its buttons stay.
+    void append(const QString &sentence);
     void clear();
 
     QString text() const;
