@@ -146,7 +146,7 @@ void PrintingController::showOutcome(const PrintOutcome &outcome)
         message.folder = QFileInfo(job_.folder.path).absoluteFilePath();
     widgets_.message->show(message);
     if (outcome.hasOtherPpd)
-        Q_EMIT ppdChanged(outcome.failure);
+        Q_EMIT ppdChanged(job_.destination, outcome.failure);
 }
 
 // The end: of printing, and of the window

@@ -67,7 +67,7 @@ Q_SIGNALS:
     /// A question is answered without anything to follow.
     void dismissed();
     /// Nothing is printed, since the print server has another PPD than the session: one sentence.
-    void ppdChanged(const QString &reason);
+    void ppdChanged(const printdialog::Destination &destination, const QString &reason);
 
 private:
     void askAboutDamage();

@@ -187,8 +187,10 @@ void PrinterController::remember()
 
 // Its options
 
-void PrinterController::renewOptions(const QString &reason)
+void PrinterController::renewOptions(const Destination &destination, const QString &reason)
 {
+    if (destination != queue_.destination())
+        return; // another printer is shown by now
     whyNotReady_ = reason;
     Q_EMIT readinessChanged();
     fetcher_->fetch(queue_.destination());

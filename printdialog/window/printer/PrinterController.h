@@ -61,7 +61,7 @@ public:
     /// The printer is being printed on.
     void notePrinted();
     /// The print server has other options of the printer than those shown: asks for them.
-    void renewOptions(const QString &reason);
+    void renewOptions(const Destination &destination, const QString &reason);
 
 Q_SIGNALS:
     /// Another printer is shown, without its session yet.
