@@ -80,12 +80,13 @@ QStringList DialogSession::restoreFailures() const
 // Called by a panel in constraint-handling mode.
 bool DialogSession::rule(const QString &key, const QString &choice)
 {
-    lastRuling_ = chosen_.choose(key, choice, pdekit::actingControl());
+    const Ruling ruling = chosen_.choose(key, choice, pdekit::actingControl());
     begunKeys_.removeOne(key);
-    if (lastRuling_.verdict == Verdict::Incomplete)
+    if (ruling.verdict == Verdict::Incomplete)
         begunKeys_.append(key);
-    restore(reportChanges(key));
-    return lastRuling_.letsThrough();
+    restore(reportChanges(key)); // a panel that is told may ask, too
+    lastRuling_ = ruling;
+    return ruling.letsThrough();
 }
 
 // A choice may change that of another option. The panel that made the choice records its own.
@@ -146,16 +147,19 @@ void DialogSession::adoptChoices(GuardedPanel &panel)
     if (mode_ != PanelMode::Settings)
         return;
     panel.save();
-    chosen_.adopt(panel.keys());
+    if (panel.missing().isEmpty())
+        chosen_.adopt(panel.keys());
     changedKeys_.clear(); // of the panel itself
 }
 
 void DialogSession::savePanels()
 {
-    for (const auto &panel : panels_)
+    for (const auto &panel : panels_) {
         panel->save();
-    if (mode_ == PanelMode::Settings)
-        chosen_.adopt(panelOf_.keys());
+        // What a panel wrote before it failed does not count.
+        if (mode_ == PanelMode::Settings && panel->missing().isEmpty())
+            chosen_.adopt(panel->keys());
+    }
     changedKeys_.clear();
 }
 

@@ -129,6 +129,7 @@ bool ChoiceHistory::canRedo() const
 
 void ChoiceHistory::undo()
 {
+    note(false); // a change that no act was noted for is a step, too
     ++act_;
     steps_->undo();
     Q_EMIT changed();
@@ -136,6 +137,7 @@ void ChoiceHistory::undo()
 
 void ChoiceHistory::redo()
 {
+    note(false);
     ++act_;
     steps_->redo();
     Q_EMIT changed();

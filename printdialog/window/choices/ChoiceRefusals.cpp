@@ -43,11 +43,23 @@ void ChoiceRefusals::setSession(DialogSession *session)
         return;
     connect(&session->chosen(), &ChosenOptions::refused, this, [this](const Ruling &ruling, QWidget *sender) {
         refused_ = sender;
-        // A control that a panel connects itself is not watched; mostly the focused widget is the one acted
-        // on.
-        QWidget *focus = window_->focusWidget();
-        explain(ruling, sender || !focus || !panels_->isAncestorOf(focus) ? sender : focus);
+        if (sender) {
+            explain(ruling, sender);
+            return;
+        }
+        // A control that a panel connects itself is not known; mostly it is the focused one. The rest of the
+        // act may make other choices, which would remove the explanation.
+        QMetaObject::invokeMethod(
+            this, [this, ruling, session = session_] { explainAfterAct(ruling, session); },
+            Qt::QueuedConnection);
     });
+}
+
+void ChoiceRefusals::explainAfterAct(const Ruling &ruling, const DialogSession *session)
+{
+    QWidget *focus = window_->focusWidget();
+    if (session == session_)
+        explain(ruling, focus && panels_->isAncestorOf(focus) ? focus : nullptr);
 }
 
 void ChoiceRefusals::explain(const Ruling &ruling, QWidget *control)

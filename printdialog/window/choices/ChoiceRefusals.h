@@ -48,6 +48,7 @@ Q_SIGNALS:
     void offerAccepted();
 
 private:
+    void explainAfterAct(const Ruling &ruling, const DialogSession *session);
     QString offerText(const QList<OptionChoice> &changes) const;
     void applyOffer();
 
