@@ -7,10 +7,18 @@
 
 #include <algorithm>
 #include <atomic>
+#include <deque>
+#include <iterator>
 #include <memory>
-#include <optional>
+#include <thread>
 
 namespace printdialog {
+
+namespace {
+
+constexpr unsigned mostChecks = 4; // at a time: each holds its photo's file in memory
+
+} // namespace
 
 PrintRun::PrintRun(const PrintJob &job, PrintRunListener &listener, const PrintRunFlags &flags,
                    const FollowLimits &limits)
@@ -31,18 +39,29 @@ bool PrintRun::isRaised(int *flag)
 PrintOutcome PrintRun::print(qsizetype count, const PhotoSource &photos)
 {
     outcome_.total = static_cast<int>(count);
-    // The next photo is checked while this one is printed: the check takes longest.
-    auto next = count > 0 ? std::optional(photos(0)) : std::nullopt;
+    // The check of a photo takes longest, so the next ones are checked on the other cores while this one
+    // prints.
+    struct Ahead
+    {
+        decltype(photos(0)) placed;
+        std::unique_ptr<PhotoCheck> check;
+    };
+    std::deque<Ahead> ahead;
+    const qsizetype most = 1 + std::clamp(std::thread::hardware_concurrency(), 1U, mostChecks);
     for (index_ = 0; index_ < count && !isRaised(flags_.cancel); ++index_) {
-        const auto placed = *std::move(next);
-        if (!placed) {
-            outcome_.failure = placed.failure().text;
+        while (std::ssize(ahead) < most && index_ + std::ssize(ahead) < count) {
+            Ahead next{photos(index_ + std::ssize(ahead)), nullptr};
+            if (next.placed && !next.placed->isAccepted)
+                next.check = std::make_unique<PhotoCheck>(next.placed->photo);
+            ahead.push_back(std::move(next));
+        }
+        const Ahead current = std::move(ahead.front());
+        ahead.pop_front();
+        if (!current.placed) {
+            outcome_.failure = current.placed.failure().text;
             break;
         }
-        next = index_ + 1 < count ? std::optional(photos(index_ + 1)) : std::nullopt;
-        const bool looksAhead = !placed->isAccepted && next && *next && !(*next)->isAccepted;
-        const auto check = looksAhead ? std::make_unique<PhotoCheck>((*next)->photo) : nullptr;
-        if (!isRaised(flags_.cancel) && !printOne(*placed))
+        if (!printOne(*current.placed))
             break;
     }
     const bool isFine = outcome_.failure.isEmpty() && !isRaised(flags_.cancel);
