@@ -65,7 +65,8 @@ public:
     }
     bool saveValuesAndReturnError(QString *error) override
     {
-        return answer(note(QStringLiteral("save")) && OptionPanel::saveValuesAndReturnError(error), error);
+        const bool isSaved = OptionPanel::saveValuesAndReturnError(error);
+        return answer(note(QStringLiteral("save")) && isSaved, error); // it fails when it has written
     }
     void willShow() override
     {
