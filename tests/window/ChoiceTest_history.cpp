@@ -3,6 +3,8 @@
 
 #include "ChoiceTest.h"
 
+#include "ChoiceHistory.h"
+
 using namespace testing_support;
 
 // Steps back and forward, and what is kept for the next time.
@@ -90,6 +92,15 @@ void ChoiceTest::oneActIsOneStep()
     QCOMPARE(slider->value(), first);
     opened.undo();
     QCOMPARE(slider->value(), 0);
+    // A change that no act was noted for is a step, too.
+    QStringList made;
+    ChoiceHistory history([&made](const ChoiceHistory::State &state) { made += state.value(u"Red"_s); });
+    history.start({{u"Red"_s, u"0"_s}});
+    history.change({u"Red"_s, u"0"_s, u"1"_s});
+    history.note(false);
+    history.change({u"Red"_s, u"1"_s, u"2"_s});
+    history.undo();
+    QCOMPARE(made, QStringList{u"1"_s});
 }
 
 // No single choice leads from one state to the other.
