@@ -52,7 +52,7 @@ Ruling ChosenOptions::weigh(const QString &key, const QString &choice) const
 
 Ruling ChosenOptions::choose(const QString &key, const QString &choice, QWidget *sender)
 {
-    Ruling ruling = weigh(key, choice);
+    Ruling ruling = mode_ == PanelMode::Constraint ? marker_.mark(key, choice) : weigh(key, choice);
     if (!ruling.letsThrough()) {
         Q_EMIT refused(ruling, sender);
         return ruling;
@@ -62,15 +62,14 @@ Ruling ChosenOptions::choose(const QString &key, const QString &choice, QWidget 
         return ruling;
     if (mode_ == PanelMode::Settings) {
         ticket_.options().insert(key, ruling.choice);
-        update(key, true);
+        update(key);
     } else {
-        marker_.markUnchecked(key, ruling.choice);
         updateCoupled(key);
     }
     return ruling;
 }
 
-QStringList ChosenOptions::chooseTogether(const QMap<QString, QString> &choices)
+void ChosenOptions::chooseTogether(const QMap<QString, QString> &choices)
 {
     QStringList keys;
     for (auto entry = choices.cbegin(); entry != choices.cend(); ++entry) {
@@ -85,7 +84,6 @@ QStringList ChosenOptions::chooseTogether(const QMap<QString, QString> &choices)
     }
     for (const QString &key : std::as_const(keys))
         updateCoupled(key);
-    return keys;
 }
 
 void ChosenOptions::adopt(const QStringList &keys)
@@ -95,7 +93,7 @@ void ChosenOptions::adopt(const QStringList &keys)
         if (!choice || choices_.value(key) == *choice)
             continue;
         noteChosen(key);
-        update(key, true);
+        update(key);
     }
 }
 
@@ -123,7 +121,7 @@ QList<Ruling> ChosenOptions::markTicket()
             ticket_.options().insert(ruling.key, *marked);
     }
     for (const QString &key : ppd_.options())
-        update(key, false);
+        update(key);
     return replaced;
 }
 
@@ -139,7 +137,7 @@ std::optional<QString> ChosenOptions::canonical(const QString &key) const
     return chosen ? marker_.canonicalChoice(key, *chosen) : std::nullopt;
 }
 
-void ChosenOptions::update(const QString &key, bool isAsked)
+void ChosenOptions::update(const QString &key)
 {
     const auto known = choices_.constFind(key);
     const auto before = known == choices_.cend() ? std::nullopt : std::optional(*known);
@@ -150,16 +148,16 @@ void ChosenOptions::update(const QString &key, bool isAsked)
         choices_.insert(key, *after);
     else
         choices_.remove(key);
-    Q_EMIT changed({key, before, after, isAsked});
+    Q_EMIT changed({key, before, after});
 }
 
 void ChosenOptions::updateCoupled(const QString &key)
 {
-    update(key, true);
+    update(key);
     if (std::ranges::find(coupledKeys, key) == coupledKeys.end())
         return;
     for (const QString &other : coupledKeys)
-        update(other, false);
+        update(other);
 }
 
 } // namespace printdialog

@@ -25,7 +25,6 @@ struct ChoiceChange
     std::optional<QString>
         before; ///< nothing when none was marked, as for an option without a usable default
     std::optional<QString> after;
-    bool isAsked = true; ///< false: changed by another option's choice, as PageRegion by PageSize
 };
 
 /// The choices for the next job of one session, one for each of the PPD's options. All code that shows,
@@ -59,9 +58,8 @@ public:
     /// Makes a choice, in the ruling's spelling, unless it is refused. A refusal changes nothing and is
     /// signalled together with `sender`, the control that the user acted on; null for a program's choice.
     Ruling choose(const QString &key, const QString &choice, QWidget *sender = nullptr);
-    /// Makes choices even if they conflict. Skips those that the PPD does not have. Returns the options whose
-    /// choice has changed.
-    QStringList chooseTogether(const QMap<QString, QString> &choices);
+    /// Makes choices even if they conflict. Skips those that the PPD does not have.
+    void chooseTogether(const QMap<QString, QString> &choices);
     /// Adopts what a panel has saved for these options in the ticket.
     void adopt(const QStringList &keys);
     /// Drops these options from chosenKeys(), since their panel is lost. Their choices stay.
@@ -84,7 +82,7 @@ Q_SIGNALS:
 
 private:
     void noteChosen(const QString &key);
-    void update(const QString &key, bool isAsked);
+    void update(const QString &key);
     void updateCoupled(const QString &key);
     std::optional<QString> canonical(const QString &key) const;
 

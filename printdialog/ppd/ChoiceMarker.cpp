@@ -139,14 +139,6 @@ QMap<QString, QString> ChoiceMarker::markedChoices() const
     return marked;
 }
 
-QStringList ChoiceMarker::conflicts() const
-{
-    QStringList sentences;
-    for (const auto &together : constraints_.broken())
-        sentences += conflict(together.constFirst(), together.sliced(1)).text;
-    return sentences;
-}
-
 std::optional<Ruling> ChoiceMarker::firstConflict(const QStringList &keys) const
 {
     const auto broken = constraints_.broken();

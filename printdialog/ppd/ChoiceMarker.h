@@ -84,8 +84,6 @@ public:
 
     /// The marked choice of every option that has one.
     QMap<QString, QString> markedChoices() const;
-    /// A sentence for each conflict among the marked choices; mirrored constraints count once. Mostly empty.
-    QStringList conflicts() const;
     /// The first conflict among the marked choices; its key and otherOption are the conflicting options. The
     /// key is the one that comes first in `keys`, if either is in it.
     std::optional<Ruling> firstConflict(const QStringList &keys = {}) const;
