@@ -45,18 +45,18 @@ QString orDash(const std::optional<QString> &text)
 OptionTable::OptionTable(const DialogSession &session)
 {
     const QHash<QString, QString> panels = panelNames(session);
-    const PpdDocument &ppd = session.ppd();
-    for (const QString &key : ppd.options()) {
+    const OptionSource &source = session.options();
+    for (const QString &key : source.options()) {
         const auto panel = panels.constFind(key);
-        rows_.append({key, ppd.optionText(key), session.chosen(key), ppd.defaultChoice(key),
-                      panel == panels.cend() ? std::nullopt : std::optional(*panel), ppd.choices(key)});
+        rows_.append({key, source.optionText(key), session.chosen(key), source.defaultChoice(key),
+                      panel == panels.cend() ? std::nullopt : std::optional(*panel), source.choices(key)});
     }
 }
 
-QString OptionTable::shortened(const QList<PpdChoice> &choices)
+QString OptionTable::shortened(const QList<Choice> &choices)
 {
     QStringList keywords;
-    for (const PpdChoice &choice : choices)
+    for (const Choice &choice : choices)
         keywords.append(choice.keyword);
     const QString range = NumericChoices(keywords).range();
     if (!range.isEmpty()) {
@@ -93,7 +93,7 @@ QJsonArray OptionTable::json() const
     QJsonArray array;
     for (const Row &row : rows_) {
         QJsonArray choices;
-        for (const PpdChoice &choice : row.choices) {
+        for (const Choice &choice : row.choices) {
             choices.append(QJsonObject{{QStringLiteral("keyword"), choice.keyword},
                                        {QStringLiteral("text"), choice.text}});
         }

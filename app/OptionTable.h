@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "PpdDocument.h"
+#include "OptionSource.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QJsonArray>
@@ -33,10 +33,10 @@ private:
         std::optional<QString> choice;
         std::optional<QString> defaultChoice;
         std::optional<QString> panel; ///< the name of the panel that handles it
-        QList<PpdChoice> choices;
+        QList<Choice> choices;
     };
 
-    static QString shortened(const QList<PpdChoice> &choices);
+    static QString shortened(const QList<Choice> &choices);
 
     QList<Row> rows_;
 };

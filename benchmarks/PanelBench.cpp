@@ -76,7 +76,7 @@ double bareKeystroke(ppd_file_t *ppd, PanelMode mode)
 /// Every option's mark for restoring it and for the summary, and, with defaults, each one chosen.
 double bareRound(const DialogSession &session, PanelMode mode)
 {
-    ppd_file_t *ppd = session.ppd().record();
+    ppd_file_t *ppd = session.ppd()->record();
     const QList<QByteArray> keys = panelKeys(session);
     std::vector<double> times;
     times.reserve(restores);
@@ -142,7 +142,7 @@ void benchMode(PanelMode mode, const QString &name)
         session->panels().front()->willShow();
         session->panels().front()->view()->show();
         if (choices >= everyStep) {
-            const double bare = bareKeystroke(session->ppd().record(), mode);
+            const double bare = bareKeystroke(session->ppd()->record(), mode);
             printRow({QStringLiteral("keystroke to recorded choice, %1, %2 choices").arg(name).arg(choices),
                       keystroke(session->panels().front()->view()),
                       QStringLiteral("libcups"),

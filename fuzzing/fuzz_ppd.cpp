@@ -22,18 +22,18 @@ void requireAllowed(DialogSession &session)
         return;
     }
     for (auto option = job->options.cbegin(); option != job->options.cend(); ++option)
-        fuzzing::require(session.ppd().choice(option.key(), option.value()) != nullptr,
+        fuzzing::require(session.options().choice(option.key(), option.value()) != nullptr,
                          "only choices of the PPD are sent");
 }
 
 void choose(DialogSession &session)
 {
     const QMap<QString, QString> before = session.choices();
-    const QStringList options = session.ppd().options().mid(0, mostOptions);
+    const QStringList options = session.options().options().mid(0, mostOptions);
     for (const QString &key : options) {
-        const QList<PpdChoice> choices = session.ppd().choices(key);
+        const QList<Choice> choices = session.options().choices(key);
         fuzzing::require(!choices.isEmpty(), "an option has choices");
-        for (const PpdChoice &choice : {choices.constLast(), choices.constFirst()}) {
+        for (const Choice &choice : {choices.constLast(), choices.constFirst()}) {
             const Ruling ruling = session.choose(key, choice.keyword);
             fuzzing::require(ruling.verdict != Verdict::UnknownOption, "an option that is there is known");
             if (!ruling.letsThrough())

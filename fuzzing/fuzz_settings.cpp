@@ -105,7 +105,7 @@ void restoredChoices(const QByteArray &content)
     const auto job = (*session)->jobOptions();
     fuzzing::require(bool(job), "what was restored can be printed");
     for (auto option = job->options.cbegin(); option != job->options.cend(); ++option)
-        fuzzing::require((*session)->ppd().choice(option.key(), option.value()) != nullptr,
+        fuzzing::require((*session)->options().choice(option.key(), option.value()) != nullptr,
                          "only choices of the PPD are sent");
 }
 

@@ -37,7 +37,7 @@ int BatchRun::run()
     if (!made && made.failure().reason == SessionJobFault::NoPaper)
         return fail(tr("No page size is chosen. Choose one with -o PageSize=%1 or another one of "
                        "--list-options.")
-                        .arg(session.ppd().pageSizes().constFirst().keyword));
+                        .arg(session.options().pageSizes().constFirst().keyword));
     if (!made)
         return fail(made.failure().text);
     if (!made->missing.isEmpty())

@@ -14,10 +14,11 @@ namespace printdialog {
 namespace {
 
 constexpr pdekit::Status noSuchTicket = -1;
+constexpr pdekit::Status noPpd = -2;
 
 } // namespace
 
-CallbackObject::CallbackObject(const PpdDocument &ppd, SessionPrinter &printer, SessionTicket &ticket)
+CallbackObject::CallbackObject(const PpdDocument *ppd, SessionPrinter &printer, SessionTicket &ticket)
     : ppd_(ppd)
     , printer_(printer)
     , ticket_(ticket)
@@ -36,12 +37,14 @@ pdekit::Printer *CallbackObject::PMPrinter()
 
 ppd_file_s *CallbackObject::ppdFile()
 {
-    return ppd_.record();
+    return ppd_ ? ppd_->record() : nullptr;
 }
 
 pdekit::Status CallbackObject::GetPPDRefFromSession(ppd_file_s **ppd)
 {
-    *ppd = ppd_.record();
+    if (!ppd_)
+        return noPpd;
+    *ppd = ppd_->record();
     return pdekit::noErr;
 }
 
@@ -54,7 +57,7 @@ pdekit::Status CallbackObject::PMSessionGetTicketFromSession(const QString &type
     return pdekit::noErr;
 }
 
-ConstrainingCallbackObject::ConstrainingCallbackObject(const PpdDocument &ppd, SessionPrinter &printer,
+ConstrainingCallbackObject::ConstrainingCallbackObject(const PpdDocument *ppd, SessionPrinter &printer,
                                                        SessionTicket &ticket, Rule rule)
     : CallbackObject(ppd, printer, ticket)
     , rule_(std::move(rule))

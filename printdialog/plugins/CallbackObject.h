@@ -22,7 +22,7 @@ class CallbackObject : public QObject, public pdekit::PrintDialogCallback, publi
     Q_INTERFACES(pdekit::PrintDialogCallback)
 
 public:
-    CallbackObject(const PpdDocument &ppd, SessionPrinter &printer, SessionTicket &ticket);
+    CallbackObject(const PpdDocument *ppd, SessionPrinter &printer, SessionTicket &ticket);
 
     pdekit::PrintSession *printSession() override;
     pdekit::Printer *PMPrinter() override;
@@ -32,7 +32,7 @@ public:
     pdekit::Status PMSessionGetTicketFromSession(const QString &type, pdekit::PrintTicket **ticket) override;
 
 private:
-    const PpdDocument &ppd_;
+    const PpdDocument *ppd_; ///< null for a printer without one
     SessionPrinter &printer_;
     SessionTicket &ticket_;
 };
@@ -47,7 +47,7 @@ public:
     /// True when the choice now applies to the job.
     using Rule = std::function<bool(const QString &key, const QString &choice)>;
 
-    ConstrainingCallbackObject(const PpdDocument &ppd, SessionPrinter &printer, SessionTicket &ticket,
+    ConstrainingCallbackObject(const PpdDocument *ppd, SessionPrinter &printer, SessionTicket &ticket,
                                Rule rule);
 
     bool willChangePPDOptionKeyValuePpdChoice(const QString &key, const QString &choice) override;

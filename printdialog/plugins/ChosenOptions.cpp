@@ -3,26 +3,17 @@
 
 #include "ChosenOptions.h"
 
-#include "PpdDocument.h"
+#include "OptionSource.h"
 
 #include <algorithm>
-#include <array>
 #include <utility>
 
 namespace printdialog {
 
-namespace {
-
-/// Marking one of these options makes libcups change the marks of others (ppdMarkOption).
-const std::array<QString, 4> coupledKeys = {QStringLiteral("InputSlot"), QStringLiteral("ManualFeed"),
-                                            QStringLiteral("PageRegion"), QStringLiteral("PageSize")};
-
-} // namespace
-
-ChosenOptions::ChosenOptions(PpdDocument &ppd, PanelMode mode)
-    : ppd_(ppd)
+ChosenOptions::ChosenOptions(OptionSource &source, PanelMode mode)
+    : source_(source)
     , mode_(mode)
-    , marker_(ppd)
+    , marker_(source)
     , choices_(marker_.markedChoices())
 {
 }
@@ -30,7 +21,7 @@ ChosenOptions::ChosenOptions(PpdDocument &ppd, PanelMode mode)
 std::optional<QString> ChosenOptions::choice(const QString &key) const
 {
     const auto entry = ticket_.options().constFind(key);
-    return entry != ticket_.options().cend() ? std::optional(*entry) : ppd_.markedChoice(key);
+    return entry != ticket_.options().cend() ? std::optional(*entry) : source_.markedChoice(key);
 }
 
 QStringList ChosenOptions::chosenKeys() const
@@ -73,7 +64,7 @@ void ChosenOptions::chooseTogether(const QMap<QString, QString> &choices)
 {
     QStringList keys;
     for (auto entry = choices.cbegin(); entry != choices.cend(); ++entry) {
-        if (!ppd_.choice(entry.key(), *entry) || choices_.value(entry.key()) == *entry)
+        if (marker_.canonicalChoice(entry.key(), *entry) != *entry || choices_.value(entry.key()) == *entry)
             continue;
         if (mode_ == PanelMode::Settings)
             ticket_.options().insert(entry.key(), *entry);
@@ -117,10 +108,10 @@ QList<Ruling> ChosenOptions::markTicket()
 {
     const QList<Ruling> replaced = marker_.markTogether(ticket_.options());
     for (const Ruling &ruling : replaced) {
-        if (const auto marked = ppd_.markedChoice(ruling.key))
+        if (const auto marked = source_.markedChoice(ruling.key))
             ticket_.options().insert(ruling.key, *marked);
     }
-    for (const QString &key : ppd_.options())
+    for (const QString &key : source_.options())
         update(key);
     return replaced;
 }
@@ -154,10 +145,9 @@ void ChosenOptions::update(const QString &key)
 void ChosenOptions::updateCoupled(const QString &key)
 {
     update(key);
-    if (std::ranges::find(coupledKeys, key) == coupledKeys.end())
-        return;
-    for (const QString &other : coupledKeys)
-        update(other);
+    const QStringList coupled = source_.coupledOptions(key);
+    for (const QString &each : coupled)
+        update(each);
 }
 
 } // namespace printdialog

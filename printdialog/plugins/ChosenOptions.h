@@ -27,21 +27,21 @@ struct ChoiceChange
     std::optional<QString> after;
 };
 
-/// The choices for the next job of one session, one for each of the PPD's options. All code that shows,
+/// The choices for the next job of one session, one for each of the printer's options. All code that shows,
 /// stores, undoes or prints choices reads them here and is notified of each change.
 ///
 /// In constraint mode, the choices are the PPD's marks, and each one is checked before it is made. In
 /// settings mode, they are those of the job ticket, which panels write when they are saved (adopt()), and
 /// else the PPD's marks; conflicts are checked when the job is made (markTicket()).
 ///
-/// The cost of a choice does not depend on the number of options. Borrows the document, which must outlive it
-/// and must not be moved. Main thread only.
+/// The cost of a choice does not depend on the number of options. Borrows the options' source, which must
+/// outlive it and must not be moved. Main thread only.
 class ChosenOptions : public QObject
 {
     Q_OBJECT
 
 public:
-    ChosenOptions(PpdDocument &ppd, PanelMode mode);
+    ChosenOptions(OptionSource &source, PanelMode mode);
 
     /// Option keyword to choice keyword, both in the PPD's spelling, of every option that has a choice. While
     /// a number is being typed, the previous choice remains.
@@ -86,7 +86,7 @@ private:
     void updateCoupled(const QString &key);
     std::optional<QString> canonical(const QString &key) const;
 
-    PpdDocument &ppd_;
+    OptionSource &source_;
     PanelMode mode_;
     ChoiceMarker marker_;
     SessionTicket ticket_;

@@ -6,6 +6,7 @@
 #include "ActionGuard.h"
 #include "CallbackObject.h"
 #include "GuardedPanel.h"
+#include "PpdDocument.h"
 
 #include <utility>
 
@@ -17,21 +18,21 @@ const QString pageSizeKey = QStringLiteral("PageSize");
 
 } // namespace
 
-DialogSession::DialogSession(const PrinterDescription &printer, PpdDocument ppd, PanelMode mode)
+DialogSession::DialogSession(const PrinterDescription &printer, SessionOptions options, PanelMode mode)
     : printer_(printer)
-    , ppd_(std::move(ppd))
+    , options_(std::move(options))
     , mode_(mode)
-    , chosen_(ppd_, mode)
-    , sessionPrinter_(printer, ppd_)
+    , chosen_(*options_.source, mode)
+    , sessionPrinter_(printer, options_.ppd)
 {
     connect(&chosen_, &ChosenOptions::changed, this,
             [this](const ChoiceChange &change) { changedKeys_ += change.key; });
     if (mode == PanelMode::Constraint) {
         callback_ = std::make_shared<ConstrainingCallbackObject>(
-            ppd_, sessionPrinter_, chosen_.ticket(),
+            options_.ppd, sessionPrinter_, chosen_.ticket(),
             [this](const QString &key, const QString &choice) { return rule(key, choice); });
     } else {
-        callback_ = std::make_shared<CallbackObject>(ppd_, sessionPrinter_, chosen_.ticket());
+        callback_ = std::make_shared<CallbackObject>(options_.ppd, sessionPrinter_, chosen_.ticket());
     }
 }
 
@@ -39,7 +40,7 @@ DialogSession::~DialogSession() = default;
 
 std::optional<Failure<PluginFault>> DialogSession::loadPanels()
 {
-    const QStringList names = ppd_.requestedBundles();
+    const QStringList names = options_.ppd ? options_.ppd->requestedBundles() : QStringList();
     if (names.isEmpty())
         return std::nullopt;
     const auto plugin = PluginLoader::load(names);
@@ -193,7 +194,7 @@ QList<QPair<QString, QString>> DialogSession::summary()
         for (const QString &key : keys) {
             auto entry = info->constFind(bundle_->localizedString(key));
             if (entry == info->cend())
-                entry = info->constFind(ppd_.optionText(key));
+                entry = info->constFind(options_.source->optionText(key));
             if (entry == info->cend())
                 continue;
             entries.append({entry.key(), entry.value()});
@@ -242,7 +243,7 @@ Result<JobOptions, Verdict> DialogSession::jobOptions()
     }
     const QStringList keys = jobKeys();
     for (const QString &key : keys) {
-        if (const std::optional<QString> choice = ppd_.markedChoice(key))
+        if (const std::optional<QString> choice = options_.source->markedChoice(key))
             job.options.insert(key, *choice);
     }
     return job;

@@ -4,8 +4,8 @@
 #pragma once
 
 #include "ChosenOptions.h"
+#include "OptionSource.h"
 #include "PluginLoader.h"
-#include "PpdDocument.h"
 #include "PrintDialogPlugin.h"
 #include "PrinterDescription.h"
 #include "SessionPrinter.h"
@@ -17,7 +17,15 @@
 namespace printdialog {
 
 class GuardedPanel;
+class PpdDocument;
 using GuardedPanels = std::vector<std::unique_ptr<GuardedPanel>>;
+
+/// A session's options, and the PPD that they come from, if they do: plug-ins need it.
+struct SessionOptions
+{
+    std::unique_ptr<OptionSource> source;
+    PpdDocument *ppd = nullptr; ///< owned by, or the same as, the source
+};
 
 /// The options sent with a job.
 struct JobOptions
@@ -28,18 +36,20 @@ struct JobOptions
     QStringList missing;
 };
 
-/// One opened printer: its PPD, its panels, and the choices for the next job. To the panels, it is the print
-/// system. Main thread only.
+/// One opened printer: its options, its panels, and the choices for the next job. To the panels, it is the
+/// print system. Main thread only.
 class DialogSession : public QObject
 {
     Q_OBJECT
 
 public:
-    DialogSession(const PrinterDescription &printer, PpdDocument ppd, PanelMode mode);
+    DialogSession(const PrinterDescription &printer, SessionOptions options, PanelMode mode);
     ~DialogSession() override;
 
     const PrinterDescription &printer() const { return printer_; }
-    const PpdDocument &ppd() const { return ppd_; }
+    const OptionSource &options() const { return *options_.source; }
+    /// Null for a printer without one.
+    const PpdDocument *ppd() const { return options_.ppd; }
     PanelMode mode() const { return mode_; }
 
     /// Loads the panels that the PPD requests, and restores them. The session can print without them. Returns
@@ -111,7 +121,7 @@ private:
     void showReplaced(const QList<Ruling> &replaced);
 
     PrinterDescription printer_;
-    PpdDocument ppd_;
+    SessionOptions options_;
     PanelMode mode_;
     ChosenOptions chosen_;
     SessionPrinter sessionPrinter_;

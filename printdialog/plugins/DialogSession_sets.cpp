@@ -28,7 +28,7 @@ QList<Ruling> DialogSession::restoreChoices(const QMap<QString, QString> &choice
     if (unnamed == Unnamed::Default) {
         const QStringList keys = jobKeys();
         for (const QString &key : keys) {
-            if (const auto fallback = ppd_.defaultChoice(key); fallback && !choices.contains(key))
+            if (const auto fallback = options_.source->defaultChoice(key); fallback && !choices.contains(key))
                 made.insert(key, *fallback);
         }
         base.insert(made);
@@ -52,7 +52,7 @@ void DialogSession::showReplaced(const QList<Ruling> &replaced)
 {
     changedKeys_.clear();
     for (const Ruling &ruling : replaced) {
-        const std::optional<QString> marked = ppd_.markedChoice(ruling.key);
+        const std::optional<QString> marked = options_.source->markedChoice(ruling.key);
         GuardedPanel *panel = panelFor(ruling.key);
         if (!marked || !panel)
             continue;

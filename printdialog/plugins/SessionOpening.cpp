@@ -3,6 +3,8 @@
 
 #include "SessionOpening.h"
 
+#include "PpdDocument.h"
+
 #include <QtCore/QCoreApplication>
 #include <QtCore/QFile>
 
@@ -15,11 +17,18 @@ PrinterDescription describe(const Queue &queue)
     return {queue.destination(), queue.info, queue.deviceUri, queue.isBuiltIn, true, queue.uri};
 }
 
+SessionOptions optionsOf(PpdDocument ppd)
+{
+    auto document = std::make_unique<PpdDocument>(std::move(ppd));
+    PpdDocument *borrowed = document.get();
+    return {std::move(document), borrowed};
+}
+
 SessionResult session(const Queue &queue, Result<PpdDocument, PpdFault> ppd, PanelMode mode)
 {
     if (!ppd)
         return ppd.failure();
-    return std::make_unique<DialogSession>(describe(queue), *std::move(ppd), mode);
+    return std::make_unique<DialogSession>(describe(queue), optionsOf(*std::move(ppd)), mode);
 }
 
 QByteArray builtInPpd()
@@ -73,7 +82,7 @@ SessionResult openRawQueue(const Queue &queue, PanelMode mode)
         return ppd.failure();
     PrinterDescription printer = describe(queue);
     printer.hasPpd = false;
-    return std::make_unique<DialogSession>(printer, *std::move(ppd), mode);
+    return std::make_unique<DialogSession>(printer, optionsOf(*std::move(ppd)), mode);
 }
 
 } // namespace printdialog

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "DialogSession.h"
+#include "PpdCheck.h"
 #include "Queue.h"
 
 namespace printdialog {

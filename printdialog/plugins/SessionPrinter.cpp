@@ -14,7 +14,7 @@ const QUrl descriptionUrl(QStringLiteral("ppd:session"));
 
 } // namespace
 
-SessionPrinter::SessionPrinter(const PrinterDescription &printer, const PpdDocument &ppd)
+SessionPrinter::SessionPrinter(const PrinterDescription &printer, const PpdDocument *ppd)
     : printer_(printer)
     , ppd_(ppd)
 {
@@ -22,16 +22,16 @@ SessionPrinter::SessionPrinter(const PrinterDescription &printer, const PpdDocum
 
 std::optional<QUrl> SessionPrinter::PMPrinterCopyDescriptionURL(const QString &type)
 {
-    if (type != QLatin1String(pdekit::PMPPDDescriptionType))
+    if (type != QLatin1String(pdekit::PMPPDDescriptionType) || !ppd_)
         return std::nullopt;
     return descriptionUrl;
 }
 
 std::optional<QByteArray> SessionPrinter::PMCopyPPDData(const QUrl &url)
 {
-    if (url != descriptionUrl)
+    if (url != descriptionUrl || !ppd_)
         return std::nullopt;
-    return ppd_.data();
+    return ppd_->data();
 }
 
 std::optional<pdekit::URLReference> SessionPrinter::PMPrinterCopyDeviceURI()

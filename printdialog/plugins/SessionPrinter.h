@@ -14,7 +14,7 @@ class PpdDocument;
 class SessionPrinter final : public pdekit::Printer
 {
 public:
-    SessionPrinter(const PrinterDescription &printer, const PpdDocument &ppd);
+    SessionPrinter(const PrinterDescription &printer, const PpdDocument *ppd);
 
     std::optional<QUrl> PMPrinterCopyDescriptionURL(const QString &type) override;
     std::optional<QByteArray> PMCopyPPDData(const QUrl &url) override;
@@ -22,7 +22,7 @@ public:
 
 private:
     PrinterDescription printer_;
-    const PpdDocument &ppd_;
+    const PpdDocument *ppd_; ///< null for a printer without one
 };
 
 } // namespace printdialog

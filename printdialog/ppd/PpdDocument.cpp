@@ -37,13 +37,13 @@ QString PpdDocument::optionText(const QString &key) const
     return option == options_.cend() ? QString() : (*option)->text;
 }
 
-QList<PpdChoice> PpdDocument::choices(const QString &key) const
+QList<Choice> PpdDocument::choices(const QString &key) const
 {
     const auto option = options_.constFind(key);
-    return option == options_.cend() ? QList<PpdChoice>() : (*option)->choices;
+    return option == options_.cend() ? QList<Choice>() : (*option)->choices;
 }
 
-const PpdChoice *PpdDocument::choice(const QString &key, const QString &keyword) const
+const Choice *PpdDocument::choice(const QString &key, const QString &keyword) const
 {
     const auto option = options_.constFind(key);
     if (option == options_.cend())
@@ -66,23 +66,10 @@ std::optional<QString> PpdDocument::defaultChoice(const QString &key) const
     return (*option)->choices.at(index).keyword;
 }
 
-std::optional<QString> PpdDocument::markedChoice(const QString &key) const
+OptionKind PpdDocument::kind(const QString &key) const
 {
     const auto option = options_.constFind(key);
-    if (option == options_.cend())
-        return std::nullopt;
-    const ppd_choice_t *marked = ppdFindMarkedChoice(record_.get(), (*option)->record->keyword);
-    if (!marked)
-        return std::nullopt;
-    return QString::fromLatin1(marked->choice);
-}
-
-std::optional<PageSize> PpdDocument::pageSize(const QString &keyword) const
-{
-    const auto index = pageSizeOf_.constFind(keyword);
-    if (index == pageSizeOf_.cend())
-        return std::nullopt;
-    return pageSizes_.at(*index);
+    return option == options_.cend() ? OptionKind::PickOne : (*option)->kind;
 }
 
 QStringList PpdDocument::requestedBundles() const

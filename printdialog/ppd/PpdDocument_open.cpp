@@ -9,6 +9,7 @@
 
 #include <QtCore/QCoreApplication>
 
+#include <algorithm>
 #include <cmath>
 #include <span>
 
@@ -29,6 +30,20 @@ QString decoded(const char *text, const QString &keyword)
 {
     const QString plain = plainText(QString::fromUtf8(text).trimmed(), shownText);
     return plain.isEmpty() ? keyword : plain;
+}
+
+OptionKind kindOf(const ppd_option_t &option)
+{
+    if (option.ui == PPD_UI_PICKMANY)
+        return OptionKind::PickMany;
+    const bool isBoolean =
+        option.ui == PPD_UI_BOOLEAN &&
+        std::ranges::all_of(std::span(option.choices, static_cast<size_t>(option.num_choices)),
+                            [](const ppd_choice_t &choice) {
+                                return qstrcmp(choice.choice, "True") == 0 ||
+                                       qstrcmp(choice.choice, "False") == 0;
+                            });
+    return isBoolean ? OptionKind::Boolean : OptionKind::PickOne;
 }
 
 bool isPrintable(const ppd_size_t &size)
@@ -117,27 +132,38 @@ void PpdDocument::localize()
 
 void PpdDocument::indexOptions()
 {
-    // libcups has one level of subgroups.
-    const auto indexGroup = [this](const ppd_group_t &group) {
-        for (ppd_option_t &option : std::span(group.options, static_cast<size_t>(group.num_options)))
-            indexOption(option);
-    };
     for (const ppd_group_t &group : std::span(record_->groups, static_cast<size_t>(record_->num_groups))) {
-        indexGroup(group);
+        const bool isInstallable =
+            QByteArrayView(group.name).compare("InstallableOptions", Qt::CaseInsensitive) == 0;
+        indexGroup(group, isInstallable);
+        // libcups has one level of subgroups.
         for (const ppd_group_t &inner : std::span(group.subgroups, static_cast<size_t>(group.num_subgroups)))
-            indexGroup(inner);
+            indexGroup(inner, isInstallable);
     }
 }
 
-void PpdDocument::indexOption(ppd_option_s &option)
+void PpdDocument::indexGroup(const ppd_group_s &group, bool isInstallable)
+{
+    OptionGroup indexed{decoded(group.text, {}), {}, isInstallable};
+    for (ppd_option_t &option : std::span(group.options, static_cast<size_t>(group.num_options))) {
+        if (indexOption(option))
+            indexed.options += keywords_.constLast();
+    }
+    if (!indexed.options.isEmpty())
+        groups_ += indexed;
+}
+
+/// False: the option is left out.
+bool PpdDocument::indexOption(ppd_option_s &option)
 {
     // libcups has two records for an option in two groups, and marks only one of them.
     if (ppdFindOption(record_.get(), option.keyword) != &option)
-        return;
+        return false;
+    const OptionKind kind = kindOf(option);
     option.ui = option.ui == PPD_UI_PICKMANY ? PPD_UI_PICKONE : option.ui;
     const QString keyword = QString::fromLatin1(option.keyword);
     const bool hasCustom = ppdFindCustomOption(record_.get(), option.keyword) != nullptr;
-    auto indexed = std::make_shared<Option>(Option{&option, decoded(option.text, keyword), {}, {}});
+    auto indexed = std::make_shared<Option>(Option{&option, decoded(option.text, keyword), kind, {}, {}});
     const std::span choices(option.choices, static_cast<size_t>(option.num_choices));
     indexed->choices.reserve(option.num_choices);
     indexed->indexOf.reserve(option.num_choices);
@@ -160,10 +186,11 @@ void PpdDocument::indexOption(ppd_option_s &option)
                       .arg(keyword, QString::number(repeated));
     if (indexed->choices.isEmpty()) {
         notes_ += OpeningText::tr("The option \"%1\" is left out: it has no choices.").arg(keyword);
-        return;
+        return false;
     }
     keywords_ += keyword;
     options_.insert(keyword, indexed);
+    return true;
 }
 
 void PpdDocument::indexPageSizes()
@@ -172,7 +199,7 @@ void PpdDocument::indexPageSizes()
     for (const ppd_size_t &size : std::span(record_->sizes, static_cast<size_t>(record_->num_sizes)))
         sizes.insert(QByteArrayView(size.name), &size);
     qsizetype unusable = 0;
-    for (const PpdChoice &choice : choices(QStringLiteral("PageSize"))) {
+    for (const Choice &choice : choices(QStringLiteral("PageSize"))) {
         const ppd_size_t *size = sizes.value(choice.keyword.toLatin1());
         if (!size || !isPrintable(*size)) {
             ++unusable;
@@ -188,11 +215,9 @@ void PpdDocument::indexPageSizes()
 void PpdDocument::markDefaults()
 {
     ppdMarkDefaults(record_.get());
-    const auto mark = [this](const QString &key, const QString &choice) {
-        ppdMarkOption(record_.get(), key.toLatin1().constData(), choice.toLatin1().constData());
-    };
     for (const QString &key : std::as_const(keywords_)) {
-        if (const auto marked = markedChoice(key); marked && !choice(key, *marked))
+        if (const auto marked = markedChoice(key);
+            marked && kind(key) != OptionKind::PickMany && !choice(key, *marked))
             mark(key, choices(key).constFirst().keyword);
     }
     const QString pageSizeKey = QStringLiteral("PageSize");

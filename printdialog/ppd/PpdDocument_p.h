@@ -10,9 +10,10 @@ namespace printdialog {
 
 struct PpdDocument::Option
 {
-    ppd_option_t *record; // owned by the document's record
+    ppd_option_t *record; // owned by the document's record; never PickMany, see mark()
     QString text;
-    QList<PpdChoice> choices;
+    OptionKind kind;
+    QList<Choice> choices;
     QHash<QString, qsizetype> indexOf; // by keyword in lower case, since libcups is case-insensitive
 };
 

@@ -55,7 +55,7 @@ SummaryEntries jobSummary(DialogSession &session, int copies, const QList<Placem
 {
     SummaryEntries entries;
     if (const auto paper =
-            session.ppd().pageSize(session.chosen(QStringLiteral("PageSize")).value_or(QString())))
+            session.options().pageSize(session.chosen(QStringLiteral("PageSize")).value_or(QString())))
         entries.append({Text::tr("Paper size"), paper->text});
     entries.append({Text::tr("Copies"), QLocale().toString(copies)});
     if (session.printer().hasPpd && !placements.isEmpty())

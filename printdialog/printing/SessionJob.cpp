@@ -4,6 +4,7 @@
 #include "SessionJob.h"
 
 #include "DialogSession.h"
+#include "PpdDocument.h"
 #include "PpdFilters.h"
 
 #include <QtCore/QCoreApplication>
@@ -15,8 +16,8 @@ Result<SessionJob, SessionJobFault> jobOf(DialogSession &session, int copies)
     const auto options = session.jobOptions();
     if (!options)
         return Failure<SessionJobFault>{SessionJobFault::Conflict, options.failure().text, {}};
-    const PpdDocument &ppd = session.ppd();
-    const auto size = ppd.pageSize(options->options.value(QStringLiteral("PageSize")));
+    const OptionSource &source = session.options();
+    const auto size = source.pageSize(options->options.value(source.pageSizeKey()));
     if (!size)
         return Failure<SessionJobFault>{
             SessionJobFault::NoPaper,
@@ -32,8 +33,8 @@ Result<SessionJob, SessionJobFault> jobOf(DialogSession &session, int copies)
     job.ppd = QByteArray();
     if (printer.hasPpd) {
         job.options = options->options;
-        job.ppd = ppd.data();
-        job.directTypes = typesPassedThrough(ppd);
+        job.ppd = session.ppd()->data();
+        job.directTypes = typesPassedThrough(*session.ppd());
     }
     return SessionJob{job, options->dropped, options->missing};
 }

@@ -29,13 +29,13 @@ UsedChoices useChoices(DialogSession &session, QMap<QString, QString> choices, D
         return used;
     const auto rulings = session.restoreChoices(choices, unnamed);
     for (const Ruling &ruling : rulings)
-        used.leftOut += ChoiceExplanation(session.ppd()).refusal(ruling);
+        used.leftOut += ChoiceExplanation(session.options()).refusal(ruling);
     return used;
 }
 
 UsedChoices usePreset(DialogSession &session, const Preset &preset)
 {
-    return useChoices(session, preset.choicesFor(session.ppd().options()), DialogSession::Unnamed::Default);
+    return useChoices(session, preset.choicesFor(session.options().options()), DialogSession::Unnamed::Default);
 }
 
 } // namespace printdialog

@@ -156,7 +156,7 @@ bool PrintDialog::applyOptions()
 void PrintDialog::fillPageSizes()
 {
     ui_->pageSize->clear();
-    for (const PageSize &size : printer_->session()->ppd().pageSizes())
+    for (const PageSize &size : printer_->session()->options().pageSizes())
         ui_->pageSize->addItem(size.text, size.keyword);
     showPageSize();
 }
@@ -172,7 +172,7 @@ void PrintDialog::showPageSize()
 {
     const QString chosen = printer_->session()->chosen(pageSizeKey).value_or(QString());
     ui_->pageSize->setCurrentIndex(ui_->pageSize->findData(chosen));
-    if (const auto size = printer_->session()->ppd().pageSize(chosen))
+    if (const auto size = printer_->session()->options().pageSize(chosen))
         ui_->photos->setPage({size->points, size->imageable});
 }
 

@@ -62,6 +62,14 @@
         <source>The printer has no option &quot;%1&quot;; it has %2.</source>
         <translation>Der Drucker hat keine Option „%1“; vorhanden: %2.</translation>
     </message>
+    <message>
+        <source>Custom.VALUE (%1)</source>
+        <translation>Custom.WERT (%1)</translation>
+    </message>
+    <message>
+        <source>%1=VALUE (%2)</source>
+        <translation>%1=WERT (%2)</translation>
+    </message>
 </context>
 <context>
     <name>CommandLine</name>
@@ -327,6 +335,61 @@ Beispiele:
     </message>
 </context>
 <context>
+    <name>CustomChoice</name>
+    <message>
+        <source>%1 mm</source>
+        <translation>%1 mm</translation>
+    </message>
+    <message>
+        <source>%1 in</source>
+        <comment>inches</comment>
+        <translation>%1 Zoll</translation>
+    </message>
+    <message>
+        <source>from %1 to %2</source>
+        <translation>von %1 bis %2</translation>
+    </message>
+    <message>
+        <source>%1 digits</source>
+        <translation>%1 Ziffern</translation>
+    </message>
+    <message>
+        <source>%1 to %2 digits</source>
+        <translation>%1 bis %2 Ziffern</translation>
+    </message>
+    <message>
+        <source>%1 characters</source>
+        <translation>%1 Zeichen</translation>
+    </message>
+    <message>
+        <source>%1 to %2 characters</source>
+        <translation>%1 bis %2 Zeichen</translation>
+    </message>
+    <message>
+        <source>entered, not shown</source>
+        <translation>eingegeben, nicht angezeigt</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>a value&apos;s name and the value</comment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <comment>between the parts of a list</comment>
+        <translation>, </translation>
+    </message>
+    <message>
+        <source>%1 × %2 mm</source>
+        <translation>%1 × %2 mm</translation>
+    </message>
+    <message>
+        <source>%1 × %2 in</source>
+        <comment>inches</comment>
+        <translation>%1 × %2 Zoll</translation>
+    </message>
+</context>
+<context>
     <name>JobFollowing</name>
     <message>
         <source>%1: %2</source>
@@ -494,6 +557,14 @@ Beispiele:
     <message>
         <source>%1 to %2 in steps of %3</source>
         <translation>%1 bis %2 in Schritten von %3</translation>
+    </message>
+</context>
+<context>
+    <name>OptionSource</name>
+    <message>
+        <source>, </source>
+        <comment>between the parts of a list</comment>
+        <translation>, </translation>
     </message>
 </context>
 <context>

@@ -62,6 +62,14 @@
         <source>The printer has no option &quot;%1&quot;; it has %2.</source>
         <translation>La impresora no tiene la opción «%1»; opciones disponibles: %2.</translation>
     </message>
+    <message>
+        <source>Custom.VALUE (%1)</source>
+        <translation>Custom.VALOR (%1)</translation>
+    </message>
+    <message>
+        <source>%1=VALUE (%2)</source>
+        <translation>%1=VALOR (%2)</translation>
+    </message>
 </context>
 <context>
     <name>CommandLine</name>
@@ -326,6 +334,61 @@ Ejemplos:
     </message>
 </context>
 <context>
+    <name>CustomChoice</name>
+    <message>
+        <source>%1 mm</source>
+        <translation>%1 mm</translation>
+    </message>
+    <message>
+        <source>%1 in</source>
+        <comment>inches</comment>
+        <translation>%1 pulg.</translation>
+    </message>
+    <message>
+        <source>from %1 to %2</source>
+        <translation>de %1 a %2</translation>
+    </message>
+    <message>
+        <source>%1 digits</source>
+        <translation>%1 cifras</translation>
+    </message>
+    <message>
+        <source>%1 to %2 digits</source>
+        <translation>de %1 a %2 cifras</translation>
+    </message>
+    <message>
+        <source>%1 characters</source>
+        <translation>%1 caracteres</translation>
+    </message>
+    <message>
+        <source>%1 to %2 characters</source>
+        <translation>de %1 a %2 caracteres</translation>
+    </message>
+    <message>
+        <source>entered, not shown</source>
+        <translation>introducido, no se muestra</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>a value&apos;s name and the value</comment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <comment>between the parts of a list</comment>
+        <translation>, </translation>
+    </message>
+    <message>
+        <source>%1 × %2 mm</source>
+        <translation>%1 × %2 mm</translation>
+    </message>
+    <message>
+        <source>%1 × %2 in</source>
+        <comment>inches</comment>
+        <translation>%1 × %2 pulg.</translation>
+    </message>
+</context>
+<context>
     <name>JobFollowing</name>
     <message>
         <source>%1: %2</source>
@@ -493,6 +556,14 @@ Ejemplos:
     <message>
         <source>%1 to %2 in steps of %3</source>
         <translation>de %1 a %2 en pasos de %3</translation>
+    </message>
+</context>
+<context>
+    <name>OptionSource</name>
+    <message>
+        <source>, </source>
+        <comment>between the parts of a list</comment>
+        <translation>, </translation>
     </message>
 </context>
 <context>

@@ -62,6 +62,14 @@
         <source>The printer has no option &quot;%1&quot;; it has %2.</source>
         <translation>L’imprimante n’a pas d’option «&#x202f;%1&#x202f;»&#x202f;; options disponibles&#x202f;: %2.</translation>
     </message>
+    <message>
+        <source>Custom.VALUE (%1)</source>
+        <translation>Custom.VALEUR (%1)</translation>
+    </message>
+    <message>
+        <source>%1=VALUE (%2)</source>
+        <translation>%1=VALEUR (%2)</translation>
+    </message>
 </context>
 <context>
     <name>CommandLine</name>
@@ -327,6 +335,61 @@ Exemples&#x202f;:
     </message>
 </context>
 <context>
+    <name>CustomChoice</name>
+    <message>
+        <source>%1 mm</source>
+        <translation>%1 mm</translation>
+    </message>
+    <message>
+        <source>%1 in</source>
+        <comment>inches</comment>
+        <translation>%1 po</translation>
+    </message>
+    <message>
+        <source>from %1 to %2</source>
+        <translation>de %1 à %2</translation>
+    </message>
+    <message>
+        <source>%1 digits</source>
+        <translation>%1 chiffres</translation>
+    </message>
+    <message>
+        <source>%1 to %2 digits</source>
+        <translation>%1 à %2 chiffres</translation>
+    </message>
+    <message>
+        <source>%1 characters</source>
+        <translation>%1 caractères</translation>
+    </message>
+    <message>
+        <source>%1 to %2 characters</source>
+        <translation>%1 à %2 caractères</translation>
+    </message>
+    <message>
+        <source>entered, not shown</source>
+        <translation>saisi, non affiché</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>a value&apos;s name and the value</comment>
+        <translation>%1 : %2</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <comment>between the parts of a list</comment>
+        <translation>, </translation>
+    </message>
+    <message>
+        <source>%1 × %2 mm</source>
+        <translation>%1 × %2 mm</translation>
+    </message>
+    <message>
+        <source>%1 × %2 in</source>
+        <comment>inches</comment>
+        <translation>%1 × %2 po</translation>
+    </message>
+</context>
+<context>
     <name>JobFollowing</name>
     <message>
         <source>%1: %2</source>
@@ -494,6 +557,14 @@ Exemples&#x202f;:
     <message>
         <source>%1 to %2 in steps of %3</source>
         <translation>%1 à %2 par pas de %3</translation>
+    </message>
+</context>
+<context>
+    <name>OptionSource</name>
+    <message>
+        <source>, </source>
+        <comment>between the parts of a list</comment>
+        <translation>, </translation>
     </message>
 </context>
 <context>

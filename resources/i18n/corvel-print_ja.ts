@@ -62,6 +62,14 @@
         <source>The printer has no option &quot;%1&quot;; it has %2.</source>
         <translation>このプリンターにオプション「%1」はありません。あるのは %2 です。</translation>
     </message>
+    <message>
+        <source>Custom.VALUE (%1)</source>
+        <translation>Custom.値（%1）</translation>
+    </message>
+    <message>
+        <source>%1=VALUE (%2)</source>
+        <translation>%1=値（%2）</translation>
+    </message>
 </context>
 <context>
     <name>CommandLine</name>
@@ -325,6 +333,61 @@ Examples:
     </message>
 </context>
 <context>
+    <name>CustomChoice</name>
+    <message>
+        <source>%1 mm</source>
+        <translation>%1 mm</translation>
+    </message>
+    <message>
+        <source>%1 in</source>
+        <comment>inches</comment>
+        <translation>%1 インチ</translation>
+    </message>
+    <message>
+        <source>from %1 to %2</source>
+        <translation>%1 から %2 まで</translation>
+    </message>
+    <message>
+        <source>%1 digits</source>
+        <translation>%1 桁の数字</translation>
+    </message>
+    <message>
+        <source>%1 to %2 digits</source>
+        <translation>%1～%2 桁の数字</translation>
+    </message>
+    <message>
+        <source>%1 characters</source>
+        <translation>%1 文字</translation>
+    </message>
+    <message>
+        <source>%1 to %2 characters</source>
+        <translation>%1～%2 文字</translation>
+    </message>
+    <message>
+        <source>entered, not shown</source>
+        <translation>入力済み（非表示）</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>a value&apos;s name and the value</comment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <comment>between the parts of a list</comment>
+        <translation>、</translation>
+    </message>
+    <message>
+        <source>%1 × %2 mm</source>
+        <translation>%1 × %2 mm</translation>
+    </message>
+    <message>
+        <source>%1 × %2 in</source>
+        <comment>inches</comment>
+        <translation>%1 × %2 インチ</translation>
+    </message>
+</context>
+<context>
     <name>JobFollowing</name>
     <message>
         <source>%1: %2</source>
@@ -492,6 +555,14 @@ Examples:
     <message>
         <source>%1 to %2 in steps of %3</source>
         <translation>%1～%2 (%3 刻み)</translation>
+    </message>
+</context>
+<context>
+    <name>OptionSource</name>
+    <message>
+        <source>, </source>
+        <comment>between the parts of a list</comment>
+        <translation>、</translation>
     </message>
 </context>
 <context>

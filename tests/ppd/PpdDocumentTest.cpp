@@ -219,7 +219,7 @@ private Q_SLOTS:
         const PpdDocument document = opened(data);
         QCOMPARE(document.data(), data);
         QCOMPARE(document.options(), QStringList({u"PageSize"_s, u"Red"_s}));
-        const QList<PpdChoice> choices{{u"1"_s, u"1"_s}, {u"2(b)"_s, u"Two (b)"_s}};
+        const QList<Choice> choices{{u"1"_s, u"1"_s}, {u"2(b)"_s, u"Two (b)"_s}};
         QCOMPARE(document.choices(u"Red"_s), choices);
         QVERIFY2(note.isEmpty() ? document.notes().isEmpty() : document.notes().join(u'\n').contains(note),
                  qPrintable(document.notes().join(u'\n')));

@@ -65,7 +65,7 @@ void ChoiceRefusals::explainAfterAct(const Ruling &ruling, const DialogSession *
 void ChoiceRefusals::explain(const Ruling &ruling, QWidget *control)
 {
     explained_ = ruling;
-    const QString text = ChoiceExplanation(session_->ppd()).refusal(ruling);
+    const QString text = ChoiceExplanation(session_->options()).refusal(ruling);
     const QString offer = offerText(session_->chosen().changesThatAllow(ruling));
     message_->clear();
     callout_->dismiss();
@@ -102,7 +102,7 @@ QString ChoiceRefusals::offerText(const QList<OptionChoice> &changes) const
 {
     if (changes.isEmpty())
         return {};
-    return tr("Als&o change %1").arg(forButton(ChoiceExplanation(session_->ppd()).changes(changes)));
+    return tr("Als&o change %1").arg(forButton(ChoiceExplanation(session_->options()).changes(changes)));
 }
 
 void ChoiceRefusals::applyOffer()
@@ -135,13 +135,13 @@ void ChoiceRefusals::explainJob()
     }
     if (changes.isEmpty())
         refusal = session_->jobRefusal();
-    const QString text = ChoiceExplanation(session_->ppd()).refusal(refusal);
+    const QString text = ChoiceExplanation(session_->options()).refusal(refusal);
     if (changes.isEmpty()) {
         message_->show(MessageBar::Kind::Warning, text);
         return;
     }
     explained_ = refusal;
-    const QString changed = ChoiceExplanation(session_->ppd()).changes(changes);
+    const QString changed = ChoiceExplanation(session_->options()).changes(changes);
     message_->showWithAction(MessageBar::Kind::Warning, text, tr("Chan&ge %1").arg(forButton(changed)),
                              [this] { applyOffer(); });
 }

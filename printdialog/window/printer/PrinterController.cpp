@@ -3,6 +3,7 @@
 
 #include "PrinterController.h"
 
+#include "PpdDocument.h"
 #include "PpdFetcher.h"
 #include "PrinterChooser.h"
 #include "QueueCache.h"
@@ -20,9 +21,9 @@ QMap<QString, QString> ownChoices(DialogSession &session)
     // Makes the panels save their choices; whether these conflict does not matter here.
     [[maybe_unused]] const auto job = session.jobOptions();
     QMap<QString, QString> choices;
-    for (const QString &key : session.ppd().options()) {
+    for (const QString &key : session.options().options()) {
         const std::optional<QString> choice = session.chosen(key);
-        if (choice && choice != session.ppd().defaultChoice(key))
+        if (choice && choice != session.options().defaultChoice(key))
             choices.insert(key, *choice);
     }
     return choices;
@@ -143,7 +144,7 @@ void PrinterController::updateQueue(const Queue &queue)
     if (!chooser_->selection().hasOldOptions())
         return;
     const bool hasPpd = session_ && session_->printer().hasPpd;
-    fetcher_->fetch(queue.destination(), hasPpd ? std::optional(session_->ppd().checked()) : std::nullopt);
+    fetcher_->fetch(queue.destination(), hasPpd ? std::optional(session_->ppd()->checked()) : std::nullopt);
 }
 
 void PrinterController::reportSearchFailure(const QString &text)
@@ -182,7 +183,7 @@ void PrinterController::remember()
         return;
     const bool hasPpd = !queue_.isBuiltIn && session_->printer().hasPpd;
     QueueCache::save(
-        {queue_, hasPpd ? session_->ppd().data() : QByteArray(), chooser_->selection().isUserChoice()});
+        {queue_, hasPpd ? session_->ppd()->data() : QByteArray(), chooser_->selection().isUserChoice()});
 }
 
 // Its options
@@ -198,7 +199,7 @@ void PrinterController::renewOptions(const Destination &destination, const QStri
 
 void PrinterController::usePpd(const CheckedPpd &ppd)
 {
-    if (session_ && session_->printer().hasPpd && session_->ppd().data() == ppd.data())
+    if (session_ && session_->printer().hasPpd && session_->ppd()->data() == ppd.data())
         confirm();
     else
         replaceSession(openQueue(queue_, ppd, request_.mode));

@@ -3,8 +3,8 @@
 
 #pragma once
 
+#include "Constraints.h"
 #include "NumericChoices.h"
-#include "PpdConstraints.h"
 
 #include <QtCore/QMap>
 
@@ -12,7 +12,7 @@
 
 namespace printdialog {
 
-class PpdDocument;
+class OptionSource;
 
 /// The verdict of the constraint handling on one choice.
 enum class Verdict {
@@ -27,7 +27,7 @@ struct Ruling
 {
     Verdict verdict = Verdict::Accepted;
     QString key; ///< The requested option; plain text.
-    /// The choice's keyword in the PPD's spelling (`1.50` for `1.5`); an unknown one as requested, plain
+    /// The choice's keyword in the source's spelling (`1.50` for `1.5`); an unknown one as requested, plain
     /// text.
     QString choice;
     QString text;                    ///< One sentence for people, plain text; empty when accepted.
@@ -42,44 +42,46 @@ struct Ruling
 /// Which saved choices can be made.
 struct ChoicePlan
 {
-    QMap<QString, QString> choices; ///< those that can be made together, in the PPD's spelling
+    QMap<QString, QString> choices; ///< those that can be made together, in the source's spelling
     QList<Ruling> leftOut;          ///< a ruling for each of the others
 };
 
-/// The constraint handling: marks choices in one PPD and refuses what the PPD does not allow. Borrows the
-/// document, which must outlive it and must not be moved. Use it on the document's thread.
+/// The constraint handling: marks choices in one source and refuses what the source does not allow. Borrows
+/// the source, which must outlive it and must not be moved. Use it on the source's thread.
 ///
-/// A choice is named by its keyword, case-sensitively, or by any plain decimal spelling of its number.
-/// libcups decides whether a choice conflicts (cupsGetConflicts), except that existing conflicts between
-/// other options do not count against it. An option's present choice is judged like any other.
+/// A choice is named by its keyword, case-sensitively; by any plain decimal spelling of its number; by
+/// several keywords separated by commas, for a PickMany option; or as a custom choice (CustomChoice.h).
+/// Existing conflicts between other options do not count against a choice. An option's present choice is
+/// judged like any other.
 class ChoiceMarker
 {
 public:
-    explicit ChoiceMarker(PpdDocument &document);
+    explicit ChoiceMarker(OptionSource &source);
 
     /// The ruling that mark() would return. Marks nothing.
     Ruling check(const QString &key, const QString &choice) const;
-    /// Marks the choice when it is accepted. Otherwise the PPD is unchanged.
+    /// Marks the choice when it is accepted. Otherwise the source is unchanged.
     Ruling mark(const QString &key, const QString &choice);
 
     /// Marks all the choices at once, even if they conflict (check with firstConflict()). In place of a
-    /// choice that the PPD does not have, marks the option's default, and returns a ruling for each of these.
+    /// choice that the source does not have, marks the option's default, and returns a ruling for each of
+    /// these.
     QList<Ruling> markTogether(const QMap<QString, QString> &choices);
 
-    /// Marks a choice of the PPD even if it conflicts.
+    /// Marks a choice of the source even if it conflicts.
     void markUnchecked(const QString &key, const QString &choice);
 
-    /// Finds the wanted choices that the PPD has and allows together with those in `base`, which count in
+    /// Finds the wanted choices that the source has and allows together with those in `base`, which count in
     /// place of the marks. All of them when they are allowed together, in any order; else as many as can be
     /// made one after the other. Marks nothing.
     ChoicePlan plan(const QMap<QString, QString> &wanted, const QMap<QString, QString> &base) const;
 
-    /// The changes of other options that would allow the refused choice, found by libcups
-    /// (cupsResolveConflicts) from the marks. They never change the page size or the option itself. Empty
-    /// when there are none. Marks nothing.
+    /// The changes of other options that would allow the refused choice, found from the marks. They
+    /// never change the page size, the installed equipment or the option itself. Empty when there are none.
+    /// Marks nothing.
     QList<OptionChoice> changesThatAllow(const Ruling &refusal) const;
 
-    /// The choice's keyword in the PPD's spelling, or nothing when the option does not have it.
+    /// The choice's keyword in the source's spelling, or nothing when the option does not have it.
     std::optional<QString> canonicalChoice(const QString &key, const QString &choice) const;
 
     /// The marked choice of every option that has one.
@@ -95,10 +97,11 @@ private:
     QString optionLabel(const QString &key) const;
     QString choiceLabel(const QString &key, const QString &choice) const;
     Ruling conflict(const OptionChoice &choice, const QList<OptionChoice> &others) const;
-    bool libcupsObjects(const QString &key, const QString &choice) const;
+    std::optional<QString> manyOf(const QString &key, const QString &keywords) const;
+    std::optional<QString> customOf(const QString &key, const QString &choice) const;
 
-    PpdDocument &document_;
-    PpdConstraints constraints_;
+    OptionSource &source_;
+    Constraints constraints_;
     mutable QHash<QString, NumericChoices> numbers_; // computed on first use
 };
 

@@ -9,16 +9,16 @@
 
 namespace printdialog {
 
-class PpdDocument;
+class OptionSource;
 
-/// Explains choices in words for the window. Uses the PPD's texts, in the user's language where it has them,
-/// and no keywords. Plain text. Borrows the document.
+/// Explains choices in words for the window. Uses the source's texts, in the user's language where it has
+/// them, and no keywords. Plain text. Borrows the source.
 class ChoiceExplanation
 {
     Q_DECLARE_TR_FUNCTIONS(printdialog::ChoiceExplanation)
 
 public:
-    explicit ChoiceExplanation(const PpdDocument &document);
+    explicit ChoiceExplanation(const OptionSource &source);
 
     /// One sentence: why the choice is refused, with the other options and their choices.
     QString refusal(const Ruling &ruling) const;
@@ -29,9 +29,8 @@ public:
 
 private:
     QString optionText(const QString &key) const;
-    QString choiceText(const OptionChoice &choice) const;
 
-    const PpdDocument &document_;
+    const OptionSource &source_;
 };
 
 } // namespace printdialog

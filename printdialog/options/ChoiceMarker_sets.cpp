@@ -3,11 +3,9 @@
 
 #include "ChoiceMarker.h"
 
-#include "CupsPpd.h"
-#include "PpdDocument.h"
+#include "OptionSource.h"
 
 #include <algorithm>
-#include <span>
 
 namespace printdialog {
 
@@ -23,7 +21,8 @@ QMap<QString, QString> merged(QMap<QString, QString> choices, const QMap<QString
 /// libcups does not change PageSize, but it does change PageRegion.
 bool isPageKey(const QString &key)
 {
-    return key == QLatin1String("PageSize") || key == QLatin1String("PageRegion");
+    return key == QLatin1String("media") || key == QLatin1String("PageSize") ||
+           key == QLatin1String("PageRegion");
 }
 
 bool namesOneOf(const QList<OptionChoice> &together, const QMap<QString, QString> &choices)
@@ -73,24 +72,17 @@ QList<OptionChoice> ChoiceMarker::changesThatAllow(const Ruling &refusal) const
 {
     if (refusal.verdict != Verdict::Conflict)
         return {};
-    cups_option_t *options = nullptr;
-    int count = 0;
-    if (!cupsResolveConflicts(document_.record(), refusal.key.toLatin1().constData(),
-                              refusal.choice.toLatin1().constData(), &count, &options))
-        return {};
     QMap<QString, QString> together = {{refusal.key, refusal.choice}};
     QList<OptionChoice> changes;
     bool isUsable = true;
-    for (const cups_option_t &option : std::span(options, static_cast<size_t>(count))) {
-        const QString key = QString::fromLatin1(option.name);
-        const QString choice = QString::fromLatin1(option.value);
-        if (key == refusal.key || document_.markedChoice(key) == choice)
+    const QList<OptionChoice> proposed = source_.resolution(refusal.key, refusal.choice);
+    for (const auto &[key, choice] : proposed) {
+        if (key == refusal.key || source_.markedChoice(key) == choice)
             continue;
-        isUsable = isUsable && document_.choice(key, choice) && !isPageKey(key);
+        isUsable = isUsable && source_.choice(key, choice) && !isPageKey(key) && !isInstallable(source_, key);
         together.insert(key, choice);
         changes += OptionChoice{key, choice};
     }
-    cupsFreeOptions(count, options);
     // Verify the result, since the offer has to work: libcups may return after giving up, and a PPD's own
     // resolver may be wrong.
     const auto broken = constraints_.broken(together);

@@ -1,15 +1,13 @@
 // SPDX-FileCopyrightText: Corvel print dialog authors
 // SPDX-License-Identifier: Apache-2.0
 
-#include "PpdConstraints.h"
+#include "Constraints.h"
 
-#include "CupsPpd.h"
-#include "PpdDocument.h"
+#include "CustomChoice.h"
 
 #include <QtCore/QSet>
 
 #include <algorithm>
-#include <span>
 
 namespace printdialog {
 
@@ -31,48 +29,22 @@ bool isOff(const QString &choice)
            same(choice, QStringLiteral("False"));
 }
 
-QString withoutAsterisk(const QString &keyword)
-{
-    return keyword.startsWith(u'*') ? keyword.sliced(1) : keyword;
-}
-
 } // namespace
 
-PpdConstraints::PpdConstraints(const PpdDocument &document)
-    : document_(document)
+Constraints::Constraints(const OptionSource &source)
+    : source_(source)
 {
-    for (const QString &option : document.options())
+    for (const QString &option : source.options())
         keywordOf_.insert(option.toLower(), option);
-    ppd_file_t *record = document.record();
-    const ppd_attr_t *attribute = ppdFindAttr(record, "cupsUIConstraints", nullptr);
-    if (!attribute) {
-        loadPairs(*record);
-        return;
-    }
-    for (; attribute; attribute = ppdFindNextAttr(record, "cupsUIConstraints", nullptr)) {
-        Constraint constraint;
-        const QStringList words =
-            QString::fromLatin1(attribute->value).simplified().split(u' ', Qt::SkipEmptyParts);
-        for (const QString &word : words) {
-            if (word.startsWith(u'*'))
-                constraint += Term{word.sliced(1), {}};
-            else if (!constraint.isEmpty() && constraint.constLast().choice.isEmpty())
-                constraint.last().choice = word;
-        }
+    const QList<ConstraintTerms> all = source.constraints();
+    for (const ConstraintTerms &constraint : all)
         add(constraint);
-    }
 }
 
-void PpdConstraints::loadPairs(const ppd_file_s &record)
+void Constraints::add(ConstraintTerms constraint)
 {
-    for (const ppd_const_t &pair : std::span(record.consts, static_cast<size_t>(record.num_consts))) {
-        add({{withoutAsterisk(QString::fromLatin1(pair.option1)), QString::fromLatin1(pair.choice1)},
-             {withoutAsterisk(QString::fromLatin1(pair.option2)), QString::fromLatin1(pair.choice2)}});
-    }
-}
-
-void PpdConstraints::add(Constraint constraint)
-{
+    if (constraint.isEmpty())
+        return;
     // Skip a constraint of an option with itself: it means nothing to people.
     const auto ofFirst = [&](const Term &term) {
         const QString &first = constraint.constFirst().option;
@@ -83,7 +55,7 @@ void PpdConstraints::add(Constraint constraint)
     for (Term &term : constraint) {
         const auto keyword = keywordOf_.constFind(term.option.toLower());
         if (keyword == keywordOf_.cend())
-            return; // for an option that the PPD does not have: never broken
+            return; // for an option that the printer does not have: never broken
         term.option = *keyword;
     }
     const qsizetype index = constraints_.size();
@@ -101,17 +73,30 @@ void PpdConstraints::add(Constraint constraint)
     constraints_ += std::move(constraint);
 }
 
-std::optional<OptionChoice> PpdConstraints::present(const QString &option, const Supposed &supposed) const
+std::optional<OptionChoice> Constraints::present(const QString &option, const Supposed &supposed) const
 {
     if (const auto entry = supposed.constFind(option); entry != supposed.cend())
         return OptionChoice{option, *entry};
-    if (const auto marked = document_.markedChoice(option))
+    if (const auto marked = source_.markedChoice(option))
         return OptionChoice{option, *marked};
     return std::nullopt;
 }
 
-std::optional<OptionChoice> PpdConstraints::met(const Term &term, const OptionChoice &asked,
-                                                const Supposed &supposed) const
+bool Constraints::isMetBy(const Term &term, const QString &choice) const
+{
+    const auto isMet = [&term](const QString &keyword) {
+        return term.choice.isEmpty() ? !isOff(keyword) : same(keyword, term.choice);
+    };
+    if (isCustomChoice(choice))
+        return isMet(QStringLiteral("Custom"));
+    if (!choice.contains(u',') || source_.kind(term.option) != OptionKind::PickMany)
+        return isMet(choice);
+    const QStringList keywords = choice.split(u',');
+    return std::ranges::any_of(keywords, isMet);
+}
+
+std::optional<OptionChoice> Constraints::met(const Term &term, const OptionChoice &asked,
+                                             const Supposed &supposed) const
 {
     std::optional<OptionChoice> choice;
     if (!term.choice.isEmpty() && isPageOption(term.option)) {
@@ -126,13 +111,13 @@ std::optional<OptionChoice> PpdConstraints::met(const Term &term, const OptionCh
     } else {
         choice = present(term.option, supposed);
     }
-    if (!choice || (term.choice.isEmpty() ? isOff(choice->choice) : !same(choice->choice, term.choice)))
+    if (!choice || !isMetBy({choice->option, term.choice}, choice->choice))
         return std::nullopt;
     return choice;
 }
 
-QList<OptionChoice> PpdConstraints::against(const QString &option, const QString &choice,
-                                            const Supposed &supposed) const
+QList<OptionChoice> Constraints::against(const QString &option, const QString &choice,
+                                         const Supposed &supposed) const
 {
     const OptionChoice asked{option, choice};
     for (const qsizetype index : on_.value(option.toLower())) {
@@ -149,11 +134,11 @@ QList<OptionChoice> PpdConstraints::against(const QString &option, const QString
     return {};
 }
 
-QList<QList<OptionChoice>> PpdConstraints::broken(const Supposed &supposed) const
+QList<QList<OptionChoice>> Constraints::broken(const Supposed &supposed) const
 {
     QList<QList<OptionChoice>> all;
     QSet<QString> seen; // most constraints are given in both directions
-    for (const Constraint &constraint : constraints_) {
+    for (const ConstraintTerms &constraint : constraints_) {
         QList<OptionChoice> together;
         QStringList names;
         const bool isBroken = std::ranges::all_of(constraint, [&](const Term &term) {

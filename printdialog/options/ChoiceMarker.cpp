@@ -3,9 +3,9 @@
 
 #include "ChoiceMarker.h"
 
-#include "CupsPpd.h"
+#include "CustomChoice.h"
+#include "OptionSource.h"
 #include "PlainText.h"
-#include "PpdDocument.h"
 
 #include <QtCore/QCoreApplication>
 
@@ -29,37 +29,31 @@ QString quoted(const QString &keyword, const QString &text)
     return text == keyword ? Text::tr("\"%1\"").arg(keyword) : Text::tr("\"%1\" (%2)").arg(keyword, text);
 }
 
-/// Owns the option list that libcups fills in.
-class ConflictList
+/// Such as "Custom.VALUE (from 1 to 99)".
+QString customAllowed(const QList<CustomParameter> &parameters)
 {
-public:
-    ConflictList(ppd_file_t *record, const QByteArray &key, const QByteArray &choice)
-        : count_(cupsGetConflicts(record, key.constData(), choice.constData(), &options_))
-    {
-    }
-    ~ConflictList() { cupsFreeOptions(count_, options_); }
-    Q_DISABLE_COPY_MOVE(ConflictList)
-
-    int count() const { return count_; }
-
-private:
-    cups_option_t *options_ = nullptr;
-    int count_;
-};
+    if (parameters.size() == 1)
+        return Text::tr("Custom.VALUE (%1)").arg(allowedText(parameters.constFirst()));
+    QStringList each;
+    for (const CustomParameter &parameter : parameters)
+        each += Text::tr("%1=VALUE (%2)").arg(parameter.name, allowedText(parameter));
+    return u'{' + each.join(u' ') + u'}';
+}
 
 } // namespace
 
-ChoiceMarker::ChoiceMarker(PpdDocument &document)
-    : document_(document)
-    , constraints_(document)
+ChoiceMarker::ChoiceMarker(OptionSource &source)
+    : source_(source)
+    , constraints_(source)
 {
 }
 
 Ruling ChoiceMarker::check(const QString &key, const QString &choice) const
 {
     const QString shownKey = plainText(key, mostQuoted);
-    const QString shownChoice = plainText(choice, mostQuoted);
-    if (!document_.hasOption(key))
+    const bool hidesChoice = isCustomChoice(choice) && isSecret(source_.customParameters(key));
+    const QString shownChoice = hidesChoice ? QStringLiteral("Custom") : plainText(choice, mostQuoted);
+    if (!source_.hasOption(key))
         return {Verdict::UnknownOption,
                 shownKey,
                 shownChoice,
@@ -68,7 +62,7 @@ Ruling ChoiceMarker::check(const QString &key, const QString &choice) const
                 {}};
     const auto canonical = canonicalChoice(key, choice);
     if (canonical) {
-        if (libcupsObjects(key, *canonical)) {
+        if (source_.mayConflict(key, *canonical)) {
             if (const auto others = constraints_.against(key, *canonical); !others.isEmpty())
                 return conflict({key, *canonical}, others);
         }
@@ -108,7 +102,7 @@ QList<Ruling> ChoiceMarker::markTogether(const QMap<QString, QString> &choices)
             continue;
         }
         unmarked.append(check(entry.key(), entry.value()));
-        if (const auto fallback = document_.defaultChoice(entry.key()))
+        if (const auto fallback = source_.defaultChoice(entry.key()))
             markUnchecked(entry.key(), *fallback);
     }
     return unmarked;
@@ -116,24 +110,65 @@ QList<Ruling> ChoiceMarker::markTogether(const QMap<QString, QString> &choices)
 
 void ChoiceMarker::markUnchecked(const QString &key, const QString &choice)
 {
-    // The result is ignored: libcups returns the number of conflicts in the whole PPD, not of this choice.
-    ppdMarkOption(document_.record(), key.toLatin1().constData(), choice.toLatin1().constData());
+    source_.mark(key, choice);
 }
 
 std::optional<QString> ChoiceMarker::canonicalChoice(const QString &key, const QString &choice) const
 {
-    if (document_.choice(key, choice))
+    if (source_.choice(key, choice))
         return choice;
-    if (!document_.hasOption(key) || decimalText(choice) != DecimalText::Number)
+    if (!source_.hasOption(key))
         return std::nullopt;
-    return numbers(key).byValue(choice);
+    if (choice.contains(u',') && source_.kind(key) == OptionKind::PickMany)
+        return manyOf(key, choice);
+    if (isCustomChoice(choice))
+        return customOf(key, choice);
+    return decimalText(choice) == DecimalText::Number ? numbers(key).byValue(choice) : std::nullopt;
+}
+
+/// In the source's order, whatever the order that they are asked for in.
+std::optional<QString> ChoiceMarker::manyOf(const QString &key, const QString &keywords) const
+{
+    const QStringList wanted = keywords.split(u',');
+    QStringList found;
+    const QList<Choice> choices = source_.choices(key);
+    for (const Choice &choice : choices) {
+        if (wanted.contains(choice.keyword))
+            found += choice.keyword;
+    }
+    const bool hasAll =
+        std::ranges::all_of(wanted, [&found](const QString &keyword) { return found.contains(keyword); });
+    return hasAll ? std::optional(found.join(u',')) : std::nullopt;
+}
+
+std::optional<QString> ChoiceMarker::customOf(const QString &key, const QString &choice) const
+{
+    if (key == source_.pageSizeKey()) {
+        const auto size = source_.pageSize(choice);
+        return size ? std::optional(size->keyword) : std::nullopt;
+    }
+    const QList<CustomParameter> parameters = source_.customParameters(key);
+    if (parameters.isEmpty())
+        return std::nullopt;
+    if (isSecret(parameters))
+        return choice == QLatin1String("Custom") ? std::optional(choice) : std::nullopt;
+    auto values = customValues(parameters, choice);
+    if (!values)
+        return std::nullopt;
+    for (const CustomParameter &parameter : parameters) {
+        const auto value = customValue(parameter, values->value(parameter.name));
+        if (!value)
+            return std::nullopt;
+        values->insert(parameter.name, *value);
+    }
+    return customChoice(parameters, *values);
 }
 
 QMap<QString, QString> ChoiceMarker::markedChoices() const
 {
     QMap<QString, QString> marked;
-    for (const QString &key : document_.options()) {
-        if (const auto choice = document_.markedChoice(key))
+    for (const QString &key : source_.options()) {
+        if (const auto choice = source_.markedChoice(key))
             marked.insert(key, *choice);
     }
     return marked;
@@ -161,16 +196,16 @@ const NumericChoices &ChoiceMarker::numbers(const QString &key) const
     if (known != numbers_.cend())
         return *known;
     QStringList keywords;
-    for (const PpdChoice &choice : document_.choices(key))
+    for (const Choice &choice : source_.choices(key))
         keywords += choice.keyword;
     return *numbers_.insert(key, NumericChoices(keywords));
 }
 
 QString ChoiceMarker::optionsList() const
 {
-    QStringList keywords = document_.options().mid(0, mostOptionsListed);
+    QStringList keywords = source_.options().mid(0, mostOptionsListed);
     keywords.sort();
-    if (document_.options().size() > mostOptionsListed)
+    if (source_.options().size() > mostOptionsListed)
         keywords.append(QString(QChar(0x2026)));
     return keywords.join(QStringLiteral(", "));
 }
@@ -179,7 +214,7 @@ QString ChoiceMarker::allowed(const QString &key) const
 {
     const QString range = numbers(key).range();
     QStringList listed;
-    for (const PpdChoice &choice : document_.choices(key)) {
+    for (const Choice &choice : source_.choices(key)) {
         if (range.isEmpty() || decimalText(choice.keyword) != DecimalText::Number)
             listed += choice.keyword;
     }
@@ -187,19 +222,21 @@ QString ChoiceMarker::allowed(const QString &key) const
     listed = listed.first(std::min(listed.size(), mostListed));
     if (!range.isEmpty())
         listed += range;
+    const QList<CustomParameter> parameters = source_.customParameters(key);
+    if (!parameters.isEmpty())
+        listed += customAllowed(parameters);
     const QString list = listed.join(QStringLiteral(", "));
     return more > 0 ? Text::tr("%1 and %2 more").arg(list, QString::number(more)) : list;
 }
 
 QString ChoiceMarker::optionLabel(const QString &key) const
 {
-    return quoted(key, document_.optionText(key));
+    return quoted(key, source_.optionText(key));
 }
 
 QString ChoiceMarker::choiceLabel(const QString &key, const QString &choice) const
 {
-    const PpdChoice *known = document_.choice(key, choice);
-    return quoted(choice, known ? known->text : choice);
+    return quoted(choice, choiceText(source_, {key, choice}));
 }
 
 Ruling ChoiceMarker::conflict(const OptionChoice &choice, const QList<OptionChoice> &others) const
@@ -219,11 +256,6 @@ Ruling ChoiceMarker::conflict(const OptionChoice &choice, const QList<OptionChoi
             first.option,
             first.choice,
             others};
-}
-
-bool ChoiceMarker::libcupsObjects(const QString &key, const QString &choice) const
-{
-    return ConflictList(document_.record(), key.toLatin1(), choice.toLatin1()).count() > 0;
 }
 
 } // namespace printdialog

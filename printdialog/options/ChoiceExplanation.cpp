@@ -3,12 +3,12 @@
 
 #include "ChoiceExplanation.h"
 
-#include "PpdDocument.h"
+#include "OptionSource.h"
 
 namespace printdialog {
 
-ChoiceExplanation::ChoiceExplanation(const PpdDocument &document)
-    : document_(document)
+ChoiceExplanation::ChoiceExplanation(const OptionSource &source)
+    : source_(source)
 {
 }
 
@@ -19,18 +19,18 @@ QString ChoiceExplanation::refusal(const Ruling &ruling) const
     QString conditions;
     for (const OptionChoice &other : ruling.others) {
         const QString condition =
-            tr("\"%1\" is \"%2\"", "a condition").arg(optionText(other.option), choiceText(other));
+            tr("\"%1\" is \"%2\"", "a condition").arg(optionText(other.option), choiceText(source_, other));
         conditions =
             conditions.isEmpty() ? condition : tr("%1 and %2", "two conditions").arg(conditions, condition);
     }
     return tr("\"%1\" cannot be \"%2\" while %3.", "options, choices, and conditions")
-        .arg(optionText(ruling.key), choiceText({ruling.key, ruling.choice}), conditions);
+        .arg(optionText(ruling.key), choiceText(source_, {ruling.key, ruling.choice}), conditions);
 }
 
 QString ChoiceExplanation::change(const OptionChoice &change) const
 {
     return tr("\"%1\" to \"%2\"", "change an option to a choice")
-        .arg(optionText(change.option), choiceText(change));
+        .arg(optionText(change.option), choiceText(source_, change));
 }
 
 QString ChoiceExplanation::changes(const QList<OptionChoice> &changes) const
@@ -43,14 +43,8 @@ QString ChoiceExplanation::changes(const QList<OptionChoice> &changes) const
 
 QString ChoiceExplanation::optionText(const QString &key) const
 {
-    const QString text = document_.optionText(key);
+    const QString text = source_.optionText(key);
     return text.isEmpty() ? key : text;
-}
-
-QString ChoiceExplanation::choiceText(const OptionChoice &choice) const
-{
-    const PpdChoice *known = document_.choice(choice.option, choice.choice);
-    return known ? known->text : choice.choice;
 }
 
 } // namespace printdialog
