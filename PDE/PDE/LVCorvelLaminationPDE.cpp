@@ -119,10 +119,25 @@ int LVCorvelLaminationPDE::enablerState(QWidget *enabler) const
 
 // Showing
 
-void LVCorvelLaminationPDE::willShow()
+bool LVCorvelLaminationPDE::retiresControls()
 {
     const std::optional<QByteArray> ppd = ppdDataCopy();
-    if (!ppd || !namesModel(*ppd))
+    return ppd && namesModel(*ppd);
+}
+
+QStringList LVCorvelLaminationPDE::retiredOptionKeys()
+{
+    QStringList keys;
+    if (!retiresControls())
+        return keys;
+    for (int tag = firstRetiredTag; const Text key = ppdOptionKeyForTag(tag); ++tag)
+        keys += *key;
+    return keys;
+}
+
+void LVCorvelLaminationPDE::willShow()
+{
+    if (!retiresControls())
         return;
     QWidget *view = panelView();
     if (!view)

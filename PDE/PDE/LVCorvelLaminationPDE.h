@@ -4,6 +4,7 @@
 #pragma once
 
 #include "RKTPPRBasePDEcorvel.h"
+#include "RetiredOptions.h"
 
 #include <cstdint>
 
@@ -12,9 +13,10 @@
 ///
 /// Its bound values (Quality, Overcoat, MatteValue, qual, isMatte) follow the controls through the form's
 /// bindings.
-class LVCorvelLaminationPDE : public RKTPPRBasePDEcorvel
+class LVCorvelLaminationPDE : public RKTPPRBasePDEcorvel, public pdekit::RetiredOptions
 {
     Q_OBJECT
+    Q_INTERFACES(pdekit::RetiredOptions)
     Q_PROPERTY(QString MatteValue READ matteValue WRITE setMatteValue)
     Q_PROPERTY(QString Quality READ quality WRITE setQuality)
     Q_PROPERTY(QString Overcoat READ overcoat WRITE setOvercoat)
@@ -29,6 +31,8 @@ public:
     Text panelName() override;
     Text panelKind() const override;
     QStringList supportedPPDOptionKeys() override;
+    /// Those of the finish, for the K9031.
+    QStringList retiredOptionKeys() override;
     Text ppdOptionKeyForTag(int tag) const override;
     Text ppdChoiceForTag(int cellTag) const override;
     int tagForStringValue(const Text &value) const override;
@@ -57,6 +61,7 @@ public:
     Q_INVOKABLE void setValueForBoundControlWithKey(const QString &value, const QString &key);
 
 private:
+    bool retiresControls();
     void retireControls(QWidget *view);
     void setBoundValue(QString &field, const QString &key, const QString &value);
 

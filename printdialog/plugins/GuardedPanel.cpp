@@ -7,6 +7,7 @@
 #include "ChoiceReceiver.h"
 #include "PlainText.h"
 #include "PluginGuard.h"
+#include "RetiredOptions.h"
 #include "SystemLog.h"
 
 #include <QtWidgets/QWidget>
@@ -50,6 +51,27 @@ void GuardedPanel::open()
         keys_ = panel_->supportedPPDOptionKeys();
     });
     restore();
+    updateRetiredKeys();
+}
+
+void GuardedPanel::reopen()
+{
+    call([this] { keys_ = panel_->supportedPPDOptionKeys(); });
+    restore();
+}
+
+bool GuardedPanel::updateRetiredKeys()
+{
+    QStringList retired;
+    call([&] {
+        auto *panel = qobject_cast<pdekit::RetiredOptions *>(objectOf(*panel_));
+        const QStringList named = panel ? panel->retiredOptionKeys() : QStringList();
+        for (const QString &key : keys_) {
+            if (named.contains(key))
+                retired += key;
+        }
+    });
+    return std::exchange(retiredKeys_, retired) != retired;
 }
 
 // Calls

@@ -28,11 +28,17 @@ public:
 
     /// Queries the panel's constant properties, and makes it restore the job's choices. Call once, first.
     void open();
+    /// Queries the keys again, of a page of the dialog itself that shows others now, and restores it.
+    void reopen();
 
     /// Safe to show; empty when the panel has none.
     QString name() const { return name_; }
     QString kind() const { return kind_; }
     QStringList keys() const { return keys_; }
+    /// Those of keys() that the panel does not show for this printer (pdekit::RetiredOptions), as last asked.
+    QStringList retiredKeys() const { return retiredKeys_; }
+    /// Asks for them again. False: they are the same.
+    bool updateRetiredKeys();
 
     QWidget *view();
     void restore();
@@ -74,6 +80,7 @@ private:
     QString name_;
     QString kind_;
     QStringList keys_;
+    QStringList retiredKeys_;
     QPointer<QWidget> view_;
     QString thrown_;
     QString saveProblem_;
