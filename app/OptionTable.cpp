@@ -20,12 +20,9 @@ namespace {
 QHash<QString, QString> panelNames(const DialogSession &session)
 {
     QHash<QString, QString> names;
-    for (const auto &panel : session.panels()) {
-        const QStringList keys = panel->keys();
-        for (const QString &key : keys) {
-            if (!names.contains(key))
-                names.insert(key, panel->name());
-        }
+    for (const QString &key : session.options().options()) {
+        if (const GuardedPanel *panel = session.panelFor(key))
+            names.insert(key, panel->name());
     }
     return names;
 }

@@ -81,6 +81,12 @@ public:
     /// Marks nothing.
     QList<OptionChoice> changesThatAllow(const Ruling &refusal) const;
 
+    /// The installed equipment that rules the choice out, whatever else is chosen; empty when none does.
+    QList<OptionChoice> equipmentAgainst(const QString &key, const QString &choice) const
+    {
+        return constraints_.againstEquipment(key, choice);
+    }
+
     /// The choice's keyword in the source's spelling, or nothing when the option does not have it.
     std::optional<QString> canonicalChoice(const QString &key, const QString &choice) const;
 

@@ -36,6 +36,11 @@ Constraints::Constraints(const OptionSource &source)
 {
     for (const QString &option : source.options())
         keywordOf_.insert(option.toLower(), option);
+    const QList<OptionGroup> groups = source.groups();
+    for (const OptionGroup &group : groups) {
+        if (group.isInstallable)
+            equipment_ += QSet<QString>(group.options.cbegin(), group.options.cend());
+    }
     const QList<ConstraintTerms> all = source.constraints();
     for (const ConstraintTerms &constraint : all)
         add(constraint);
@@ -127,6 +132,26 @@ QList<OptionChoice> Constraints::against(const QString &option, const QString &c
             if (choiceOfTerm && *choiceOfTerm != asked)
                 others += *choiceOfTerm;
             return choiceOfTerm.has_value();
+        });
+        if (isBroken && !others.isEmpty())
+            return others;
+    }
+    return {};
+}
+
+QList<OptionChoice> Constraints::againstEquipment(const QString &option, const QString &choice) const
+{
+    const OptionChoice asked{option, choice};
+    if (equipment_.isEmpty() || equipment_.contains(option))
+        return {};
+    for (const qsizetype index : on_.value(option.toLower())) {
+        QList<OptionChoice> others;
+        const bool isBroken = std::ranges::all_of(constraints_.at(index), [&](const Term &term) {
+            const auto choiceOfTerm = met(term, asked, {});
+            const bool isAsked = choiceOfTerm && *choiceOfTerm == asked;
+            if (choiceOfTerm && !isAsked)
+                others += *choiceOfTerm;
+            return choiceOfTerm && (isAsked || equipment_.contains(choiceOfTerm->option));
         });
         if (isBroken && !others.isEmpty())
             return others;

@@ -7,6 +7,7 @@
 
 #include <QtCore/QHash>
 #include <QtCore/QMap>
+#include <QtCore/QSet>
 
 namespace printdialog {
 
@@ -27,6 +28,8 @@ public:
     /// that marking it would break. Empty when it would break none.
     QList<OptionChoice> against(const QString &option, const QString &choice,
                                 const Supposed &supposed = {}) const;
+    /// Like against(), but only what the printer's installed equipment rules out, whatever else is chosen.
+    QList<OptionChoice> againstEquipment(const QString &option, const QString &choice) const;
     /// The broken constraints among the marked and supposed choices, each as the set of conflicting choices,
     /// without duplicates.
     QList<QList<OptionChoice>> broken(const Supposed &supposed = {}) const;
@@ -43,6 +46,7 @@ private:
     const OptionSource &source_;
     QList<ConstraintTerms> constraints_;
     QHash<QString, QList<qsizetype>> on_; // constraints by option keyword in lower case
+    QSet<QString> equipment_;             // the options of installable equipment
     QHash<QString, QString> keywordOf_;   // option keyword as the source spells it, by lower case
 };
 

@@ -54,11 +54,15 @@ bool isMetric()
     return QLocale().measurementSystem() == QLocale::MetricSystem;
 }
 
+double pointsPerUnit()
+{
+    return isMetric() ? pointsPerMillimeter : pointsPerInch;
+}
+
 QString lengthText(double points)
 {
-    return isMetric()
-               ? CustomText::tr("%1 mm").arg(localNumber(points / pointsPerMillimeter, 1))
-               : CustomText::tr("%1 in", "inches").arg(localNumber(points / pointsPerInch, lengthDecimals));
+    return isMetric() ? CustomText::tr("%1 mm").arg(lengthNumber(points))
+                      : CustomText::tr("%1 in", "inches").arg(lengthNumber(points));
 }
 
 QString valueText(const CustomParameter &parameter, const QString &value)
@@ -211,6 +215,49 @@ QString customText(const QList<CustomParameter> &parameters, const QString &choi
     return parts.join(CustomText::tr(", ", "between the parts of a list"));
 }
 
+QString lengthUnit()
+{
+    return isMetric() ? CustomText::tr("mm") : CustomText::tr("in", "inches");
+}
+
+QString lengthNumber(double points)
+{
+    return localNumber(points / pointsPerUnit(), isMetric() ? 1 : lengthDecimals);
+}
+
+std::optional<double> typedLength(const QString &typed)
+{
+    const QString number = typed.trimmed().replace(u',', u'.');
+    if (decimalText(number) != DecimalText::Number)
+        return std::nullopt;
+    const double points = number.toDouble() * pointsPerUnit();
+    return std::isfinite(points) ? std::optional(points) : std::nullopt;
+}
+
+std::optional<QString> typedValue(const CustomParameter &parameter, const QString &typed)
+{
+    if (!parameter.isNumber())
+        return customValue(parameter, typed);
+    if (parameter.kind != CustomParameter::Kind::Points)
+        return customValue(parameter, typed.trimmed().replace(u',', u'.'));
+    const auto points = typedLength(typed);
+    if (!points)
+        return std::nullopt;
+    // What is shown as the end of the range is allowed, even where rounding puts it a little beyond.
+    constexpr double rounding = 0.4;
+    const double nearest =
+        std::clamp(*points, parameter.minimum, std::max(parameter.minimum, parameter.maximum));
+    return customValue(
+        parameter, shortNumber(std::abs(nearest - *points) < rounding ? nearest : *points, lengthDecimals));
+}
+
+QString typedText(const CustomParameter &parameter, const QString &value)
+{
+    if (parameter.kind == CustomParameter::Kind::Points)
+        return lengthNumber(value.toDouble());
+    return parameter.isNumber() ? localNumber(value.toDouble(), realDecimals) : value;
+}
+
 std::optional<QSizeF> customPagePoints(const QString &keyword)
 {
     struct Unit
@@ -245,10 +292,8 @@ QString customPageKeyword(const QSizeF &points)
 
 QString pageSizeText(const QSizeF &points)
 {
-    const double unit = isMetric() ? pointsPerMillimeter : pointsPerInch;
-    const int decimals = isMetric() ? 1 : lengthDecimals;
-    const QString width = localNumber(points.width() / unit, decimals);
-    const QString height = localNumber(points.height() / unit, decimals);
+    const QString width = lengthNumber(points.width());
+    const QString height = lengthNumber(points.height());
     return isMetric() ? CustomText::tr("%1 × %2 mm").arg(width, height)
                       : CustomText::tr("%1 × %2 in", "inches").arg(width, height);
 }

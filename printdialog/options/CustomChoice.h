@@ -39,6 +39,19 @@ QString allowedText(const CustomParameter &parameter);
 /// secret ones.
 QString customText(const QList<CustomParameter> &parameters, const QString &choice);
 
+// Lengths as people type and read them: in millimeters, or in inches where the locale measures so.
+QString lengthUnit();
+/// Without the unit, with the locale's decimal point.
+QString lengthNumber(double points);
+/// The points of a typed length; a comma or a point stands before the decimals. Nothing for any other text.
+std::optional<double> typedLength(const QString &typed);
+
+/// The value that a typed text stands for, in the spelling of customValue(): a number with a comma or a
+/// point, a length in lengthUnit(); nothing when the parameter does not allow it.
+std::optional<QString> typedValue(const CustomParameter &parameter, const QString &typed);
+/// The reverse: the text to edit.
+QString typedText(const CustomParameter &parameter, const QString &value);
+
 /// The size of a custom page in points; nothing when the keyword is not `Custom.WIDTHxHEIGHT` with one of the
 /// units pt (the default), mm, cm, m, in and ft.
 std::optional<QSizeF> customPagePoints(const QString &keyword);

@@ -70,6 +70,12 @@ public:
     /// See ChoiceMarker::changesThatAllow.
     QList<OptionChoice> changesThatAllow(const Ruling &refusal) const;
 
+    /// See ChoiceMarker::equipmentAgainst.
+    QList<OptionChoice> equipmentAgainst(const QString &key, const QString &choice) const
+    {
+        return marker_.equipmentAgainst(key, choice);
+    }
+
     /// Marks the ticket's choices in the PPD. A choice that the PPD does not have is replaced by the option's
     /// default, in the ticket as well. Returns a ruling for each replaced choice.
     QList<Ruling> markTicket();

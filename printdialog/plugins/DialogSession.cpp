@@ -6,7 +6,7 @@
 #include "ActionGuard.h"
 #include "CallbackObject.h"
 #include "GuardedPanel.h"
-#include "PpdDocument.h"
+#include "OptionPage.h"
 
 #include <utility>
 
@@ -30,42 +30,13 @@ DialogSession::DialogSession(const PrinterDescription &printer, SessionOptions o
     if (mode == PanelMode::Constraint) {
         callback_ = std::make_shared<ConstrainingCallbackObject>(
             options_.ppd, sessionPrinter_, chosen_.ticket(),
-            [this](const QString &key, const QString &choice) { return rule(key, choice); });
+            [this](const QString &key, const QString &choice) { return rule(key, choice, false); });
     } else {
         callback_ = std::make_shared<CallbackObject>(options_.ppd, sessionPrinter_, chosen_.ticket());
     }
 }
 
 DialogSession::~DialogSession() = default;
-
-std::optional<Failure<PluginFault>> DialogSession::loadPanels()
-{
-    const QStringList names = options_.ppd ? options_.ppd->requestedBundles() : QStringList();
-    if (names.isEmpty())
-        return std::nullopt;
-    const auto plugin = PluginLoader::load(names);
-    if (!plugin)
-        return plugin.failure();
-    auto panels = PluginLoader::panels(*plugin, callback_);
-    if (!panels)
-        return panels.failure();
-    bundle_ = plugin->bundle;
-    for (pdekit::PanelPointer &made : *panels) {
-        panels_.push_back(std::make_unique<GuardedPanel>(std::move(made)));
-        GuardedPanel *panel = panels_.back().get();
-        connect(panel, &GuardedPanel::lost, this, [this, panel] {
-            chosen_.forget(panel->keys());
-            Q_EMIT panelFailed(panel->loss());
-        });
-        connect(panel, &GuardedPanel::restoreFailed, this,
-                [this, panel] { Q_EMIT panelFailed(panel->restoreFailure()); });
-        panel->open();
-        const QStringList keys = panel->keys();
-        for (const QString &key : keys)
-            panelOf_.insert(key, panel);
-    }
-    return std::nullopt;
-}
 
 QStringList DialogSession::restoreFailures() const
 {
@@ -79,30 +50,33 @@ QStringList DialogSession::restoreFailures() const
 // Choices
 
 // Called by a panel in constraint-handling mode.
-bool DialogSession::rule(const QString &key, const QString &choice)
+bool DialogSession::rule(const QString &key, const QString &choice, bool isOwnPage)
 {
     const Ruling ruling = chosen_.choose(key, choice, pdekit::actingControl());
     begunKeys_.removeOne(key);
     if (ruling.verdict == Verdict::Incomplete)
         begunKeys_.append(key);
-    restore(reportChanges(key)); // a panel that is told may ask, too
+    const GuardedPanel *asker = isOwnPage ? ownPanel_ : panelOf_.value(key);
+    restore(reportChanges(key, asker)); // a panel that is told may ask, too
     lastRuling_ = ruling;
     return ruling.letsThrough();
 }
 
 // A choice may change that of another option. The panel that made the choice records its own.
-QList<GuardedPanel *> DialogSession::reportChanges(const QString &askedKey)
+QList<GuardedPanel *> DialogSession::reportChanges(const QString &askedKey, const GuardedPanel *asker)
 {
     QList<GuardedPanel *> told;
     const QStringList keys = std::exchange(changedKeys_, {});
     for (const QString &key : keys) {
-        GuardedPanel *panel = panelFor(key);
         const auto choice = chosen_.choice(key);
-        if (key == askedKey || !panel || !choice)
-            continue;
-        panel->choiceDidChange(key, *choice);
-        if (!told.contains(panel))
-            told.append(panel);
+        const QList<GuardedPanel *> panels = choice ? panelsWith(key) : QList<GuardedPanel *>();
+        for (GuardedPanel *panel : panels) {
+            if (key == askedKey && panel == asker)
+                continue;
+            panel->choiceDidChange(key, *choice);
+            if (panel != asker && !told.contains(panel))
+                told.append(panel);
+        }
     }
     return told;
 }
@@ -115,7 +89,8 @@ void DialogSession::restore(const QList<GuardedPanel *> &panels)
 
 Ruling DialogSession::choose(const QString &key, const QString &choice)
 {
-    const Ruling ruling = chosen_.weigh(key, choice);
+    const bool isSecretChoice = isCustomChoice(choice) && isSecret(options_.source->customParameters(key));
+    const Ruling ruling = isSecretChoice ? keepSecret(key, choice) : chosen_.weigh(key, choice);
     if (ruling.verdict != Verdict::Accepted)
         return ruling;
     if (GuardedPanel *panel = panelFor(key))
@@ -139,7 +114,7 @@ Ruling DialogSession::chooseThroughPanel(GuardedPanel &panel, const Ruling &offe
 Ruling DialogSession::chooseDirectly(const Ruling &offered)
 {
     Ruling ruling = chosen_.choose(offered.key, offered.choice);
-    restore(reportChanges(offered.key));
+    restore(reportChanges(offered.key, nullptr));
     return ruling;
 }
 
@@ -150,7 +125,14 @@ void DialogSession::adoptChoices(GuardedPanel &panel)
     panel.save();
     if (panel.missing().isEmpty())
         chosen_.adopt(panel.keys());
-    changedKeys_.clear(); // of the panel itself
+    const QStringList keys = std::exchange(changedKeys_, {});
+    for (const QString &key : keys) {
+        const QList<GuardedPanel *> others = panelsWith(key);
+        for (GuardedPanel *other : others) {
+            if (other != &panel)
+                other->choiceDidChange(key, chosen_.choice(key).value_or(QString()));
+        }
+    }
 }
 
 void DialogSession::savePanels()
@@ -174,12 +156,6 @@ void DialogSession::refreshPanels()
     }
 }
 
-GuardedPanel *DialogSession::panelFor(const QString &key) const
-{
-    GuardedPanel *panel = panelOf_.value(key);
-    return panel && !panel->isLost() ? panel : nullptr;
-}
-
 // The job
 
 QList<QPair<QString, QString>> DialogSession::summary()
@@ -189,19 +165,24 @@ QList<QPair<QString, QString>> DialogSession::summary()
         auto info = panel->summary();
         if (!info)
             continue;
+        const auto add = [&entries](const QString &label, const QString &text) {
+            const QPair<QString, QString> entry(label, text);
+            if (!entries.contains(entry)) // an option that one panel handles and another one shows
+                entries.append(entry);
+        };
         // The entries are sorted by translated name; the options' order does not depend on the language.
         const QStringList keys = panel->keys();
         for (const QString &key : keys) {
-            auto entry = info->constFind(bundle_->localizedString(key));
+            auto entry = bundle_ ? info->constFind(bundle_->localizedString(key)) : info->cend();
             if (entry == info->cend())
                 entry = info->constFind(options_.source->optionText(key));
             if (entry == info->cend())
                 continue;
-            entries.append({entry.key(), entry.value()});
+            add(entry.key(), entry.value());
             info->erase(entry);
         }
         for (auto entry = info->cbegin(); entry != info->cend(); ++entry)
-            entries.append({entry.key(), entry.value()});
+            add(entry.key(), entry.value());
     }
     return entries;
 }
@@ -243,8 +224,17 @@ Result<JobOptions, Verdict> DialogSession::jobOptions()
     }
     const QStringList keys = jobKeys();
     for (const QString &key : keys) {
-        if (const std::optional<QString> choice = options_.source->markedChoice(key))
+        const std::optional<QString> choice = options_.source->markedChoice(key);
+        const QList<CustomParameter> parameters = options_.source->customParameters(key);
+        if (choice && *choice == QLatin1String("Custom") && isSecret(parameters)) {
+            if (secrets_.contains(key))
+                job.secrets.insert(key, customChoice(parameters, secrets_.value(key)));
+            else
+                job.missing += tr("The option \"%1\" lacks what has to be entered for it.")
+                                   .arg(options_.source->optionText(key));
+        } else if (choice) {
             job.options.insert(key, *choice);
+        }
     }
     return job;
 }

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "ChosenOptions.h"
+#include "CustomChoice.h"
 #include "OptionSource.h"
 #include "PluginLoader.h"
 #include "PrintDialogPlugin.h"
@@ -17,6 +18,7 @@
 namespace printdialog {
 
 class GuardedPanel;
+class OptionPage;
 class PpdDocument;
 using GuardedPanels = std::vector<std::unique_ptr<GuardedPanel>>;
 
@@ -31,7 +33,9 @@ struct SessionOptions
 struct JobOptions
 {
     QMap<QString, QString> options; ///< option keyword to choice keyword, both the PPD's
-    QStringList dropped;            ///< a sentence for each recorded choice that the PPD does not have
+    /// Custom choices with secret values, such as a PIN, which are only sent: never stored, shown or logged.
+    QMap<QString, QString> secrets;
+    QStringList dropped; ///< a sentence for each recorded choice that the PPD does not have
     /// a sentence for each page that has not handed over its choices, which `options` then lacks
     QStringList missing;
 };
@@ -52,14 +56,22 @@ public:
     const PpdDocument *ppd() const { return options_.ppd; }
     PanelMode mode() const { return mode_; }
 
-    /// Loads the panels that the PPD requests, and restores them. The session can print without them. Returns
-    /// nothing on success or when the PPD requests none.
+    /// Loads the panels that the PPD requests, and restores them; then the dialog's own page for the options
+    /// that none of them shows, if there are any. The session can print without them. Returns nothing on
+    /// success or when the PPD requests none.
     std::optional<Failure<PluginFault>> loadPanels();
     const GuardedPanels &panels() const { return panels_; }
+    /// The panel that shows the option; null when none does.
+    GuardedPanel *panelFor(const QString &key) const;
+    /// Whether it is a page of the dialog itself.
+    bool isOwnPage(const GuardedPanel &panel) const { return &panel == ownPanel_; }
+    /// Call when a panel's view was made and shown: it may then know better which options it does not show.
+    void noteShown(GuardedPanel &panel);
     /// A sentence for each panel that could not read the job's choices.
     QStringList restoreFailures() const;
 
-    /// Makes a choice as the user would: through the panel that supports the option, or else directly.
+    /// Makes a choice as the user would: through the panel that shows the option, or else directly. Secret
+    /// values in a custom choice are kept apart from the choices.
     /// `choice` may be any text that stands for one of the option's choices. A refused choice changes
     /// nothing.
     Ruling choose(const QString &key, const QString &choice);
@@ -105,18 +117,26 @@ public:
     const Ruling &jobRefusal() const { return jobRefusal_; }
 
 Q_SIGNALS:
+    /// A page was added to panels(), as the last one.
+    void pageAdded();
     /// A panel has been lost, or could not read the job's choices: a sentence for people. May be emitted
     /// during any call of the session and during an event of the panel.
     void panelFailed(const QString &sentence);
 
 private:
-    bool rule(const QString &key, const QString &choice);
+    std::optional<Failure<PluginFault>> loadPluginPanels();
+    GuardedPanel *addPanel(pdekit::PanelPointer made);
+    void updateOwnPage();
+    QStringList keysForOwnPage() const;
+    QList<GuardedPanel *> panelsWith(const QString &key) const;
+
+    bool rule(const QString &key, const QString &choice, bool isOwnPage);
     void savePanels();
-    QList<GuardedPanel *> reportChanges(const QString &askedKey);
+    QList<GuardedPanel *> reportChanges(const QString &askedKey, const GuardedPanel *asker);
+    Ruling keepSecret(const QString &key, const QString &choice);
     static void restore(const QList<GuardedPanel *> &panels);
     Ruling chooseThroughPanel(GuardedPanel &panel, const Ruling &offered);
     Ruling chooseDirectly(const Ruling &offered);
-    GuardedPanel *panelFor(const QString &key) const;
     QStringList jobKeys() const;
     void showReplaced(const QList<Ruling> &replaced);
 
@@ -128,7 +148,10 @@ private:
     pdekit::HostInfo callback_;
     std::optional<pdekit::Bundle> bundle_; ///< the panels' bundle
     GuardedPanels panels_; ///< after the members that panels refer to, so that panels are destroyed first
-    QHash<QString, GuardedPanel *> panelOf_; ///< by option
+    QHash<QString, GuardedPanel *> panelOf_; ///< the plug-in's panel, by option
+    OptionPage *ownPage_ = nullptr;          ///< null before it has an option
+    GuardedPanel *ownPanel_ = nullptr;       ///< the same as a panel
+    QHash<QString, CustomValues> secrets_;   ///< by option
     Ruling lastRuling_;
     Ruling jobRefusal_;
     QStringList changedKeys_; ///< options whose panels are not notified yet

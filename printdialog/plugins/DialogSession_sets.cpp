@@ -14,7 +14,7 @@ void DialogSession::chooseTogether(const QMap<QString, QString> &choices)
 {
     savePanels();
     chosen_.chooseTogether(choices);
-    reportChanges({});
+    reportChanges({}, nullptr);
     begunKeys_.clear();
     for (const auto &panel : panels_)
         panel->restore();
@@ -53,15 +53,15 @@ void DialogSession::showReplaced(const QList<Ruling> &replaced)
     changedKeys_.clear();
     for (const Ruling &ruling : replaced) {
         const std::optional<QString> marked = options_.source->markedChoice(ruling.key);
-        GuardedPanel *panel = panelFor(ruling.key);
-        if (!marked || !panel)
-            continue;
-        panel->choiceDidChange(ruling.key, *marked);
-        // If the ticket lacks one of a panel's options, the panel restores the defaults of all.
-        const QStringList keys = panel->keys();
-        const pdekit::PPDDictionary &recorded = chosen_.ticket().options();
-        if (std::ranges::all_of(keys, [&recorded](const QString &key) { return recorded.contains(key); }))
-            panel->restore();
+        const QList<GuardedPanel *> panels = marked ? panelsWith(ruling.key) : QList<GuardedPanel *>();
+        for (GuardedPanel *panel : panels) {
+            panel->choiceDidChange(ruling.key, *marked);
+            // If the ticket lacks one of a panel's options, the panel restores the defaults of all.
+            const QStringList keys = panel->keys();
+            const pdekit::PPDDictionary &recorded = chosen_.ticket().options();
+            if (std::ranges::all_of(keys, [&recorded](const QString &key) { return recorded.contains(key); }))
+                panel->restore();
+        }
     }
 }
 

@@ -8,6 +8,7 @@
 
 #include <array>
 #include <span>
+#include <utility>
 
 namespace printdialog {
 
@@ -115,14 +116,17 @@ void PpdDocument::mark(const QString &key, const QString &choice)
         ppdMarkOption(record_.get(), keyword.constData(), choice.toUtf8().constData());
         return;
     }
-    // The first mark of an option of one choice clears the others; those of a PickMany option are added.
+    // libcups adds a mark to those that a PickMany option has, so all are cleared first.
     ppd_option_t &record = *(*option)->record;
+    for (ppd_choice_t &each : std::span(record.choices, static_cast<size_t>(record.num_choices))) {
+        if (std::exchange(each.marked, 0) != 0)
+            cupsArrayRemove(record_->marked, &each);
+    }
+    record.ui = PPD_UI_PICKMANY;
     const QStringList keywords = choice.split(u',');
     for (const QString &each : keywords) {
         ppdMarkOption(record_.get(), keyword.constData(), each.toLatin1().constData());
-        record.ui = PPD_UI_PICKMANY;
     }
-    record.ui = PPD_UI_PICKONE;
 }
 
 QStringList PpdDocument::coupledOptions(const QString &key) const

@@ -160,7 +160,6 @@ bool PpdDocument::indexOption(ppd_option_s &option)
     if (ppdFindOption(record_.get(), option.keyword) != &option)
         return false;
     const OptionKind kind = kindOf(option);
-    option.ui = option.ui == PPD_UI_PICKMANY ? PPD_UI_PICKONE : option.ui;
     const QString keyword = QString::fromLatin1(option.keyword);
     const bool hasCustom = ppdFindCustomOption(record_.get(), option.keyword) != nullptr;
     auto indexed = std::make_shared<Option>(Option{&option, decoded(option.text, keyword), kind, {}, {}});

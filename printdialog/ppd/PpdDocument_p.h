@@ -10,7 +10,7 @@ namespace printdialog {
 
 struct PpdDocument::Option
 {
-    ppd_option_t *record; // owned by the document's record; never PickMany, see mark()
+    ppd_option_t *record; // owned by the document's record
     QString text;
     OptionKind kind;
     QList<Choice> choices;

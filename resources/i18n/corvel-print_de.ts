@@ -388,6 +388,15 @@ Beispiele:
         <comment>inches</comment>
         <translation>%1 × %2 Zoll</translation>
     </message>
+    <message>
+        <source>mm</source>
+        <translation>mm</translation>
+    </message>
+    <message>
+        <source>in</source>
+        <comment>inches</comment>
+        <translation>Zoll</translation>
+    </message>
 </context>
 <context>
     <name>JobFollowing</name>
@@ -1374,6 +1383,23 @@ Beispiele:
     </message>
 </context>
 <context>
+    <name>printdialog::ChoiceEditor</name>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>an option or choice, and why it is not available</comment>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>Custom…</source>
+        <translation>Eigener Wert …</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>an option and one of its choices</comment>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
     <name>printdialog::ChoiceExplanation</name>
     <message>
         <source>&quot;%1&quot; is &quot;%2&quot;</source>
@@ -1424,6 +1450,31 @@ Beispiele:
     </message>
 </context>
 <context>
+    <name>printdialog::DialogSession</name>
+    <message>
+        <source>The option &quot;%1&quot; lacks what has to be entered for it.</source>
+        <translation>Für die Option „%1“ fehlt die Eingabe.</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>a part of the printer and its state</comment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <comment>between the parts of a list</comment>
+        <translation>, </translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation>Optionen</translation>
+    </message>
+    <message>
+        <source>More Options</source>
+        <translation>Weitere Optionen</translation>
+    </message>
+</context>
+<context>
     <name>printdialog::FileName</name>
     <message>
         <source>&quot;%1&quot; cannot be used: its name is not encoded in UTF-8. Rename it.</source>
@@ -1469,6 +1520,25 @@ Beispiele:
     <message>
         <source>Details</source>
         <translation>Details</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::OptionPageView</name>
+    <message>
+        <source>No option has this text in it.</source>
+        <translation>Keine Option enthält diesen Text.</translation>
+    </message>
+    <message>
+        <source>Search the options</source>
+        <translation>Optionen durchsuchen</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::OptionRow</name>
+    <message>
+        <source>Put &quot;%1&quot; back to &quot;%2&quot;</source>
+        <comment>an option and the printer&apos;s default</comment>
+        <translation>„%1“ auf „%2“ zurücksetzen</translation>
     </message>
 </context>
 <context>

@@ -387,6 +387,15 @@ Ejemplos:
         <comment>inches</comment>
         <translation>%1 × %2 pulg.</translation>
     </message>
+    <message>
+        <source>mm</source>
+        <translation>mm</translation>
+    </message>
+    <message>
+        <source>in</source>
+        <comment>inches</comment>
+        <translation>pulg.</translation>
+    </message>
 </context>
 <context>
     <name>JobFollowing</name>
@@ -1373,6 +1382,23 @@ Ejemplos:
     </message>
 </context>
 <context>
+    <name>printdialog::ChoiceEditor</name>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>an option or choice, and why it is not available</comment>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>Custom…</source>
+        <translation>Personalizado…</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>an option and one of its choices</comment>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
     <name>printdialog::ChoiceExplanation</name>
     <message>
         <source>&quot;%1&quot; is &quot;%2&quot;</source>
@@ -1423,6 +1449,31 @@ Ejemplos:
     </message>
 </context>
 <context>
+    <name>printdialog::DialogSession</name>
+    <message>
+        <source>The option &quot;%1&quot; lacks what has to be entered for it.</source>
+        <translation>Falta lo que hay que introducir para la opción «%1».</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>a part of the printer and its state</comment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <comment>between the parts of a list</comment>
+        <translation>, </translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation>Opciones</translation>
+    </message>
+    <message>
+        <source>More Options</source>
+        <translation>Más opciones</translation>
+    </message>
+</context>
+<context>
     <name>printdialog::FileName</name>
     <message>
         <source>&quot;%1&quot; cannot be used: its name is not encoded in UTF-8. Rename it.</source>
@@ -1468,6 +1519,25 @@ Ejemplos:
     <message>
         <source>Details</source>
         <translation>Detalles</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::OptionPageView</name>
+    <message>
+        <source>No option has this text in it.</source>
+        <translation>Ninguna opción contiene este texto.</translation>
+    </message>
+    <message>
+        <source>Search the options</source>
+        <translation>Buscar en las opciones</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::OptionRow</name>
+    <message>
+        <source>Put &quot;%1&quot; back to &quot;%2&quot;</source>
+        <comment>an option and the printer&apos;s default</comment>
+        <translation>Volver a poner «%1» en «%2»</translation>
     </message>
 </context>
 <context>

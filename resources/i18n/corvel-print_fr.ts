@@ -372,7 +372,7 @@ Exemples&#x202f;:
     <message>
         <source>%1: %2</source>
         <comment>a value&apos;s name and the value</comment>
-        <translation>%1 : %2</translation>
+        <translation>%1&#x202f;: %2</translation>
     </message>
     <message>
         <source>, </source>
@@ -387,6 +387,15 @@ Exemples&#x202f;:
         <source>%1 × %2 in</source>
         <comment>inches</comment>
         <translation>%1 × %2 po</translation>
+    </message>
+    <message>
+        <source>mm</source>
+        <translation>mm</translation>
+    </message>
+    <message>
+        <source>in</source>
+        <comment>inches</comment>
+        <translation>po</translation>
     </message>
 </context>
 <context>
@@ -1374,6 +1383,23 @@ Exemples&#x202f;:
     </message>
 </context>
 <context>
+    <name>printdialog::ChoiceEditor</name>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>an option or choice, and why it is not available</comment>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>Custom…</source>
+        <translation>Personnalisé…</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>an option and one of its choices</comment>
+        <translation>%1&#x202f;: %2</translation>
+    </message>
+</context>
+<context>
     <name>printdialog::ChoiceExplanation</name>
     <message>
         <source>&quot;%1&quot; is &quot;%2&quot;</source>
@@ -1424,6 +1450,31 @@ Exemples&#x202f;:
     </message>
 </context>
 <context>
+    <name>printdialog::DialogSession</name>
+    <message>
+        <source>The option &quot;%1&quot; lacks what has to be entered for it.</source>
+        <translation>Il manque la saisie pour l’option «&#x202f;%1&#x202f;».</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>a part of the printer and its state</comment>
+        <translation>%1&#x202f;: %2</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <comment>between the parts of a list</comment>
+        <translation>, </translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation>Options</translation>
+    </message>
+    <message>
+        <source>More Options</source>
+        <translation>Plus d’options</translation>
+    </message>
+</context>
+<context>
     <name>printdialog::FileName</name>
     <message>
         <source>&quot;%1&quot; cannot be used: its name is not encoded in UTF-8. Rename it.</source>
@@ -1469,6 +1520,25 @@ Exemples&#x202f;:
     <message>
         <source>Details</source>
         <translation>Détails</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::OptionPageView</name>
+    <message>
+        <source>No option has this text in it.</source>
+        <translation>Aucune option ne contient ce texte.</translation>
+    </message>
+    <message>
+        <source>Search the options</source>
+        <translation>Rechercher dans les options</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::OptionRow</name>
+    <message>
+        <source>Put &quot;%1&quot; back to &quot;%2&quot;</source>
+        <comment>an option and the printer&apos;s default</comment>
+        <translation>Remettre «&#x202f;%1&#x202f;» sur «&#x202f;%2&#x202f;»</translation>
     </message>
 </context>
 <context>

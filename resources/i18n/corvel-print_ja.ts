@@ -386,6 +386,15 @@ Examples:
         <comment>inches</comment>
         <translation>%1 × %2 インチ</translation>
     </message>
+    <message>
+        <source>mm</source>
+        <translation>mm</translation>
+    </message>
+    <message>
+        <source>in</source>
+        <comment>inches</comment>
+        <translation>インチ</translation>
+    </message>
 </context>
 <context>
     <name>JobFollowing</name>
@@ -1372,6 +1381,23 @@ Examples:
     </message>
 </context>
 <context>
+    <name>printdialog::ChoiceEditor</name>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>an option or choice, and why it is not available</comment>
+        <translation>%1（%2）</translation>
+    </message>
+    <message>
+        <source>Custom…</source>
+        <translation>カスタム…</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>an option and one of its choices</comment>
+        <translation>%1：%2</translation>
+    </message>
+</context>
+<context>
     <name>printdialog::ChoiceExplanation</name>
     <message>
         <source>&quot;%1&quot; is &quot;%2&quot;</source>
@@ -1422,6 +1448,31 @@ Examples:
     </message>
 </context>
 <context>
+    <name>printdialog::DialogSession</name>
+    <message>
+        <source>The option &quot;%1&quot; lacks what has to be entered for it.</source>
+        <translation>項目「%1」に必要な入力がありません。</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>a part of the printer and its state</comment>
+        <translation>%1：%2</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <comment>between the parts of a list</comment>
+        <translation>、</translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation>項目</translation>
+    </message>
+    <message>
+        <source>More Options</source>
+        <translation>その他の項目</translation>
+    </message>
+</context>
+<context>
     <name>printdialog::FileName</name>
     <message>
         <source>&quot;%1&quot; cannot be used: its name is not encoded in UTF-8. Rename it.</source>
@@ -1467,6 +1518,25 @@ Examples:
     <message>
         <source>Details</source>
         <translation>詳細</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::OptionPageView</name>
+    <message>
+        <source>No option has this text in it.</source>
+        <translation>この文字を含む項目はありません。</translation>
+    </message>
+    <message>
+        <source>Search the options</source>
+        <translation>項目を検索</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::OptionRow</name>
+    <message>
+        <source>Put &quot;%1&quot; back to &quot;%2&quot;</source>
+        <comment>an option and the printer&apos;s default</comment>
+        <translation>「%1」を「%2」に戻す</translation>
     </message>
 </context>
 <context>

@@ -164,7 +164,7 @@ class CommandLineTest(ProgramTest):
             self.assert_quiet(done)
             self.assertEqual(done.out, "")
             self.assertEqual(sorted(path.name for path in (self.folder / folder).iterdir()),
-                             ["coloradjust.png", "matte.png", "sharpness.png", "summary.png"])
+                             ["coloradjust.png", "matte.png", "options.png", "sharpness.png", "summary.png"])
         width, height = struct.unpack(">II", picture("plain", "summary")[16:24])
         self.assertTrue(width > 500 and height > 400, (width, height))
         self.assertNotEqual(picture("plain", "coloradjust"), picture("plain", "summary"))

@@ -177,6 +177,11 @@ private Q_SLOTS:
             return !letter.isEmpty();
         };
         for (int page = pages->count() - 1; page >= 0; --page) {
+            if (page == pages->count() - 2) { // the dialog's own page leaves the letters to others
+                QTest::keyClick(opened.dialog.get(), Qt::Key_Tab, Qt::ControlModifier | Qt::ShiftModifier);
+                QCOMPARE(pages->currentIndex(), page);
+                continue;
+            }
             QVERIFY2(press(pages->tabText(page)), qPrintable(pages->tabText(page)));
             QCOMPARE(pages->currentIndex(), page);
             int reached = 0;

@@ -56,20 +56,22 @@ private Q_SLOTS:
         qputenv("CORVEL_TEST_FAULT", fault.toUtf8());
         const auto opened = open();
         const auto *pages = opened->find<QTabWidget>(u"panels"_s);
-        if (opened->control(1) && opened->control(1)->isVisible())
+        const bool hasPage = pages->tabText(0).contains(u"Border"_s);
+        if (hasPage && opened->control(1) && opened->control(1)->isVisible())
             chooseDeckle(*opened);
         QTest::keyClick(opened->dialog.get(), Qt::Key_F1);
         opened->dialog->showPage(pages->count() - 1);
         QTRY_VERIFY2(opened->dialog->message().contains(word), qPrintable(opened->dialog->message()));
         opened->dialog->showPage(0);
-        QVERIFY(!opened->control(1) || !opened->control(1)->isVisible());
+        QVERIFY(!hasPage || !opened->control(1) || !opened->control(1)->isVisible());
         opened->dialog->print();
-        if (pages->count() > 1) { // a page that is there has choices, which are missing now
+        if (hasPage || pages->count() > 2) { // a page that is there has choices, which are missing now
             QVERIFY(!opened->hasPrinted() && pages->currentWidget()->findChild<QLabel *>());
             button(*opened, u"Print Without Them"_s)->click();
         }
         QTRY_VERIFY(opened->hasPrinted());
-        QCOMPARE(opened->options().keys(), QStringList{u"PageSize"_s});
+        // What no panel has ever shown is on the dialog's own page.
+        QCOMPARE(opened->options().size(), hasPage ? 1 : 2);
     }
 
     void saysWhatIsMissing_data()

@@ -31,7 +31,7 @@ void PrintDialogTest::printsWhatTheUserChose()
     QVERIFY(opened.prints());
     QCOMPARE(opened.printed(u"Red Gamma SharpnessIntensity Quality Overcoat MatteValue Blue"_s),
              u"-12 1 1.50 Fine Matte -7 0"_s);
-    QCOMPARE(opened.options().size(), 16); // fifteen of the panels, and the page size
+    QCOMPARE(opened.options().size(), 17); // fifteen of the panels, and the page size
     QTRY_VERIFY(opened.message().contains(u"sample.pdf"_s));
 }
 

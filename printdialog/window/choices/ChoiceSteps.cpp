@@ -5,6 +5,7 @@
 
 #include "ControlWatcher.h"
 #include "DialogSession.h"
+#include "OptionPageView.h"
 #include "PanelTabs.h"
 #include "StoredChoices.h"
 
@@ -37,7 +38,11 @@ ChoiceSteps::ChoiceSteps(const Widgets &widgets, QObject *parent)
     , history_(new ChoiceHistory([this](const ChoiceHistory::State &state) { make(state); }, this))
     , copies_(widgets.copies->value())
 {
-    connect(widgets.panels, &PanelTabs::viewMade, watcher_, &ControlWatcher::watchView);
+    connect(widgets.panels, &PanelTabs::viewMade, watcher_, [this](QWidget *view) {
+        watcher_->watchView(view);
+        if (auto *page = qobject_cast<OptionPageView *>(view))
+            connect(page, &OptionPageView::rowMade, watcher_, &ControlWatcher::watchView);
+    });
     connect(watcher_, &ControlWatcher::acted, this, &ChoiceSteps::noteAct);
     connect(watcher_, &ControlWatcher::typingFinished, this, [this] {
         if (session_)

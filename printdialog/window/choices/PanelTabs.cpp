@@ -8,6 +8,7 @@
 #include "Mnemonics.h"
 #include "SummaryPage.h"
 
+#include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QTabBar>
 #include <QtWidgets/QVBoxLayout>
@@ -38,6 +39,10 @@ PanelTabs::PanelTabs(QWidget *parent)
 {
     summary_->hide();
     connect(this, &QTabWidget::currentChanged, this, &PanelTabs::showPage);
+    // The arrow keys turn pages; the buttons that scroll the tabs are for the mouse.
+    const auto scrollButtons = tabBar()->findChildren<QAbstractButton *>();
+    for (QAbstractButton *button : scrollButtons)
+        button->setFocusPolicy(Qt::NoFocus);
 }
 
 void PanelTabs::setSession(DialogSession *session)
@@ -45,8 +50,13 @@ void PanelTabs::setSession(DialogSession *session)
     session_ = session;
     shown_ = -1;
     makePages();
-    if (session)
-        showPage(currentIndex());
+    if (!session)
+        return;
+    connect(session, &DialogSession::pageAdded, this, [this] {
+        addPage(*session_->panels().back());
+        markTabs();
+    });
+    showPage(currentIndex());
 }
 
 void PanelTabs::makePages()
@@ -59,23 +69,26 @@ void PanelTabs::makePages()
     panelOf_.clear();
     if (!session_)
         return;
-    for (const auto &panel : session_->panels()) {
-        auto *holder = new QWidget;
-        auto *layout = new QVBoxLayout(holder);
-        layout->setContentsMargins(pageMargin, pageMargin, pageMargin, pageMargin);
-        pages_.append({panel.get(), holder});
-        panelOf_.insert(holder, panel.get());
-        // A tab's text is read like a button's, so an ampersand in a name is escaped.
-        const QString name = panel->name().isEmpty() ? tr("Options") : panel->name();
-        addTab(holder, QString(name).replace(u'&', QStringLiteral("&&")));
-        // Queued: the current event may be one of the view's.
-        connect(
-            panel.get(), &GuardedPanel::lost, holder, [this, lost = panel.get()] { closePage(lost); },
-            Qt::QueuedConnection);
-    }
+    for (const auto &panel : session_->panels())
+        addPage(*panel);
     addTab(summary_, tr("Summary"));
     markTabs();
     setCurrentIndex(0);
+}
+
+void PanelTabs::addPage(GuardedPanel &panel)
+{
+    auto *holder = new QWidget;
+    auto *layout = new QVBoxLayout(holder);
+    layout->setContentsMargins(pageMargin, pageMargin, pageMargin, pageMargin);
+    // A tab's text is read like a button's, so an ampersand in a name is escaped.
+    const QString name = panel.name().isEmpty() ? tr("Options") : panel.name();
+    insertTab(static_cast<int>(pages_.size()), holder, QString(name).replace(u'&', QStringLiteral("&&")));
+    pages_.append({&panel, holder});
+    panelOf_.insert(holder, &panel);
+    // Queued: the current event may be one of the view's.
+    connect(
+        &panel, &GuardedPanel::lost, holder, [this, lost = &panel] { closePage(lost); }, Qt::QueuedConnection);
 }
 
 void PanelTabs::markTabs()
@@ -83,12 +96,18 @@ void PanelTabs::markTabs()
     Mnemonics letters;
     letters.reserve(reserved_);
     letters.reserveAllIn(*window(), this);
+    // The dialog's own pages leave the letters to the plug-in's controls.
+    QList<int> marked;
     QStringList names;
-    for (int i = 0; i < count(); ++i)
+    for (int i = 0; i < count(); ++i) {
+        if (panelOn(i) && session_->isOwnPage(*panelOn(i)))
+            continue;
+        marked.append(i);
         names.append(tabText(i));
+    }
     names = letters.mark(names);
-    for (int i = 0; i < count(); ++i)
-        setTabText(i, names.at(i));
+    for (qsizetype i = 0; i < names.size(); ++i)
+        setTabText(marked.at(i), names.at(i));
 }
 
 void PanelTabs::markView(QWidget &view)
@@ -193,6 +212,7 @@ void PanelTabs::fillPage(Page &page)
             previous = widget;
         }
         Q_EMIT viewMade(view);
+        session_->noteShown(*page.panel); // may add a page: the last use of this one
         return;
     }
     if (page.panel->isLost()) {
