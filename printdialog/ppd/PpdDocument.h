@@ -65,7 +65,7 @@ public:
     std::optional<PageSize> pageSize(const QString &keyword) const override;
     std::optional<CustomPageRange> customPageRange() const override;
 
-    /// cupsUIConstraints, where a PPD has them, replace the older UIConstraints and NonUIConstraints.
+    /// cupsUIConstraints and the older UIConstraints and NonUIConstraints count alike.
     QList<ConstraintTerms> constraints() const override;
     bool mayConflict(const QString &key, const QString &choice) const override;
     QList<OptionChoice> resolution(const QString &key, const QString &choice) const override;

@@ -34,13 +34,11 @@ public:
 QList<ConstraintTerms> PpdDocument::constraints() const
 {
     QList<ConstraintTerms> all;
-    const ppd_attr_t *attribute = ppdFindAttr(record_.get(), "cupsUIConstraints", nullptr);
-    if (!attribute) {
-        for (const ppd_const_t &pair : std::span(record_->consts, static_cast<size_t>(record_->num_consts)))
-            all += {{withoutAsterisk(QString::fromLatin1(pair.option1)), QString::fromLatin1(pair.choice1)},
-                    {withoutAsterisk(QString::fromLatin1(pair.option2)), QString::fromLatin1(pair.choice2)}};
-    }
-    for (; attribute; attribute = ppdFindNextAttr(record_.get(), "cupsUIConstraints", nullptr)) {
+    for (const ppd_const_t &pair : std::span(record_->consts, static_cast<size_t>(record_->num_consts)))
+        all += {{withoutAsterisk(QString::fromLatin1(pair.option1)), QString::fromLatin1(pair.choice1)},
+                {withoutAsterisk(QString::fromLatin1(pair.option2)), QString::fromLatin1(pair.choice2)}};
+    for (const ppd_attr_t *attribute = ppdFindAttr(record_.get(), "cupsUIConstraints", nullptr); attribute;
+         attribute = ppdFindNextAttr(record_.get(), "cupsUIConstraints", nullptr)) {
         ConstraintTerms terms;
         const QStringList words =
             QString::fromLatin1(attribute->value).simplified().split(u' ', Qt::SkipEmptyParts);

@@ -174,14 +174,15 @@ private Q_SLOTS:
     /// libcups and this side must see the same conflicts, in random PPDs with every form of constraint.
     void agreesWithLibcups_data()
     {
-        QTest::addColumn<bool>("newForm");
-        QTest::newRow("UIConstraints") << false;
-        QTest::newRow("cupsUIConstraints") << true;
+        QTest::addColumn<int>("newForms"); // of six constraints
+        QTest::newRow("UIConstraints") << 0;
+        QTest::newRow("cupsUIConstraints") << 6;
+        QTest::newRow("both") << 2;
     }
 
     void agreesWithLibcups()
     {
-        QFETCH(bool, newForm);
+        QFETCH(int, newForms);
         QRandomGenerator random(9031);
         const QByteArrayList names{"PageSize", "PageRegion", "A", "B", "C"};
         const QByteArrayList pages{"w288h432", "w360h504"};
@@ -191,6 +192,7 @@ private Q_SLOTS:
             QByteArray ppd = minimal() + option("PageRegion", pages) + option("A", others) +
                              option("B", others) + option("C", others);
             for (int i = 0; i < 6; ++i) {
+                const bool newForm = i < newForms;
                 QByteArrayList free{random.bounded(2) ? "PageSize" : "PageRegion", "A", "B", "C"};
                 QByteArray terms;
                 for (int term = 0; term < (newForm ? 3 : 2); ++term) {
