@@ -34,7 +34,8 @@ std::optional<Failure<PluginFault>> DialogSession::loadPanels()
 
 std::optional<Failure<PluginFault>> DialogSession::loadPluginPanels()
 {
-    const QStringList names = options_.ppd ? options_.ppd->requestedBundles() : QStringList();
+    const QStringList names =
+        PluginLoader::bundles(options_.ppd ? options_.ppd->requestedBundles() : QStringList());
     if (names.isEmpty())
         return std::nullopt;
     const auto plugin = PluginLoader::load(names);

@@ -44,8 +44,6 @@ std::optional<QString> findBundle(const QStringList &names)
 {
     const QStringList folders = PluginLoader::folders();
     for (const QString &name : names) {
-        if (!isBundleName(name))
-            continue;
         for (const QString &folder : folders) {
             const QString path = QDir(folder).absoluteFilePath(name);
             if (QFileInfo(path).isDir())
@@ -94,6 +92,12 @@ QStringList PluginLoader::folders()
     QStringList folders = qEnvironmentVariable("CORVEL_PDE_PATH").split(QLatin1Char(':'), Qt::SkipEmptyParts);
     folders.append(installedFolder());
     return folders;
+}
+
+QStringList PluginLoader::bundles(QStringList names)
+{
+    names.removeIf([](const QString &name) { return !isBundleName(name); });
+    return names;
 }
 
 Result<LoadedPlugin, PluginFault> PluginLoader::load(const QStringList &names)

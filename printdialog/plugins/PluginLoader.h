@@ -37,9 +37,12 @@ public:
     /// (separated by colons; for development), then the installed one.
     static QStringList folders();
 
-    /// Loads the first of the bundles (plain file names) that is installed, from the first folder that has
-    /// it. Checks its Info.json and its module's metadata before any of its code runs. Names of other
-    /// systems' dialog extensions, which a PPD may list as well, are skipped.
+    /// Those of the names that can be of plug-in bundles. The others are of other systems' dialog extensions,
+    /// which a PPD may list as well or instead.
+    static QStringList bundles(QStringList names);
+
+    /// Loads the first of the bundles (names that bundles() returns) that is installed, from the first folder
+    /// that has it. Checks its Info.json and its module's metadata before any of its code runs.
     static Result<LoadedPlugin, PluginFault> load(const QStringList &names);
 
     /// Makes the plug-in's panels for the callback object; at least one.

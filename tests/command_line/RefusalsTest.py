@@ -155,12 +155,14 @@ class RefusalsTest(ProgramTest):
         self.assertEqual(own.status, 0)
         self.assert_refused(own._replace(out=""), 0, "Corvel9031.bundle", "not installed")
         self.assertEqual(self.ticket()["Red"], "12")
-        extension = b"*APDialogExtension"
-        other = self.stored("other.ppd", content(PPD).replace(
-            extension, extension + b": \"/Library/Printers/Maker/PDEs/Photo.plugin\"\n" + extension))
-        both = run("--list-options", "--ppd", other)
-        self.assert_quiet(both)
-        self.assertIn("Color Adjustments", both.out)
+        extension, bundle = b"*APDialogExtension", b"Corvel9031.bundle"
+        foreign = b"/Library/Printers/Maker/PDEs/Photo.plugin"
+        both = self.stored("both.ppd", content(PPD).replace(
+            extension, extension + b": \"" + foreign + b"\"\n" + extension))
+        for ppd, panel_is_named in (both, True), (self.stored("other.ppd", content(PPD).replace(bundle, foreign)), False):
+            listed = run("--list-options", "--ppd", ppd)
+            self.assert_quiet(listed)
+            self.assertEqual("Color Adjustments" in listed.out, panel_is_named)
 
     # A run without a window does not load the form.
     def test_missing_form_prints_all_the_same(self):
