@@ -14,14 +14,14 @@ namespace printdialog {
 
 namespace {
 
-const QString pageSizeOption = QStringLiteral("PageSize");
+const QString pageOption = QStringLiteral("PageSize");
 const QString customKeyword = QStringLiteral("Custom");
 
 /// Marking one of these options makes libcups change the marks of others (ppdMarkOption).
 const QStringList &coupled()
 {
     static const QStringList keys = {QStringLiteral("InputSlot"), QStringLiteral("ManualFeed"),
-                                     QStringLiteral("PageRegion"), pageSizeOption};
+                                     QStringLiteral("PageRegion"), pageOption};
     return keys;
 }
 
@@ -138,7 +138,7 @@ QStringList PpdDocument::coupledOptions(const QString &key) const
 
 QList<CustomParameter> PpdDocument::customParameters(const QString &key) const
 {
-    if (key == pageSizeOption || !hasOption(key))
+    if (key == pageOption || !hasOption(key))
         return {};
     ppd_coption_t *custom = ppdFindCustomOption(record_.get(), key.toLatin1().constData());
     QList<CustomParameter> parameters;
@@ -152,7 +152,7 @@ QList<CustomParameter> PpdDocument::customParameters(const QString &key) const
 
 QString PpdDocument::pageSizeKey() const
 {
-    return pageSizeOption;
+    return pageOption;
 }
 
 std::optional<CustomPageRange> PpdDocument::customPageRange() const

@@ -8,6 +8,7 @@
 #include "PpdFile.h"
 
 #include <QtCore/QCoreApplication>
+#include <QtCore/QLocale>
 
 #include <algorithm>
 #include <cmath>
@@ -19,6 +20,9 @@ namespace {
 
 constexpr float largestSide = 72'000; // points: 1,000 inches, beyond every sheet and roll
 
+const QString pageSizeOption = QStringLiteral("PageSize");
+const QString pageRegionOption = QStringLiteral("PageRegion");
+
 constexpr qsizetype shownText = 200; // UTF-16 units, of an option's or a choice's text
 
 struct OpeningText
@@ -26,9 +30,18 @@ struct OpeningText
     Q_DECLARE_TR_FUNCTIONS(PpdDocument)
 };
 
-QString decoded(const char *text, const QString &keyword)
+/// The keyword in place of a text that is empty or cannot be read. libcups converts the texts by the PPD's
+/// LanguageEncoding, which may be None or wrong.
+QString decoded(const char *text, const QString &keyword, QStringList &notes)
 {
     const QString plain = plainText(QString::fromUtf8(text).trimmed(), shownText);
+    if (plain.contains(QChar::ReplacementCharacter)) {
+        const QString note = OpeningText::tr(
+            "Texts are left out because they are in another encoding; keywords take their place.");
+        if (!notes.contains(note))
+            notes += note;
+        return keyword;
+    }
     return plain.isEmpty() ? keyword : plain;
 }
 
@@ -54,21 +67,41 @@ bool isPrintable(const ppd_size_t &size)
     return isSide(size.width) && isSide(size.length);
 }
 
+ppd_size_t sheet(float width, float length)
+{
+    return {0, {}, width, length, 0, 0, width, length};
+}
+
+/// By the keyword, for which libcups has the sizes of the standards; otherwise the usual one.
+ppd_size_t assumedSize(const QString &keyword)
+{
+    const auto points = [](int hundredths) { // of a millimetre
+        return static_cast<float>(hundredths) * 72 / 2540;
+    };
+    if (const pwg_media_t *media = pwgMediaForPPD(keyword.toLatin1().constData())) {
+        const ppd_size_t named = sheet(points(media->width), points(media->length));
+        if (isPrintable(named))
+            return named;
+    }
+    const bool isLetter = QLocale().measurementSystem() == QLocale::ImperialUSSystem;
+    return isLetter ? sheet(612, 792) : sheet(595, 842);
+}
+
 /// The area may extend beyond the sheet, so that no edge stays white when the paper is slightly skewed.
 QRectF imageableArea(const ppd_size_t &size)
 {
     constexpr double largestBleed = 36; // points
-    const QRectF sheet(0, 0, size.width, size.length);
-    const QRectF bleed = sheet.adjusted(-largestBleed, -largestBleed, largestBleed, largestBleed);
+    const QRectF paper(0, 0, size.width, size.length);
+    const QRectF bleed = paper.adjusted(-largestBleed, -largestBleed, largestBleed, largestBleed);
     for (const float edge : {size.left, size.bottom, size.right, size.top}) {
         if (!std::isfinite(edge))
-            return sheet;
+            return paper;
     }
     // The PPD's origin is the bottom left.
     const QRectF area(QPointF(size.left, size.length - size.top),
                       QPointF(size.right, size.length - size.bottom));
     const QRectF reachable = area.isValid() ? area & bleed : QRectF();
-    return (reachable & sheet).isEmpty() ? sheet : reachable;
+    return (reachable & paper).isEmpty() ? paper : reachable;
 }
 
 } // namespace
@@ -144,7 +177,7 @@ void PpdDocument::indexOptions()
 
 void PpdDocument::indexGroup(const ppd_group_s &group, bool isInstallable)
 {
-    OptionGroup indexed{decoded(group.text, {}), {}, isInstallable};
+    OptionGroup indexed{decoded(group.text, {}, notes_), {}, isInstallable};
     for (ppd_option_t &option : std::span(group.options, static_cast<size_t>(group.num_options))) {
         if (indexOption(option))
             indexed.options += keywords_.constLast();
@@ -161,8 +194,12 @@ bool PpdDocument::indexOption(ppd_option_s &option)
         return false;
     const OptionKind kind = kindOf(option);
     const QString keyword = QString::fromLatin1(option.keyword);
-    const bool hasCustom = ppdFindCustomOption(record_.get(), option.keyword) != nullptr;
-    auto indexed = std::make_shared<Option>(Option{&option, decoded(option.text, keyword), kind, {}, {}});
+    // A custom page size makes libcups add the choice to PageRegion, too.
+    const bool hasCustom =
+        ppdFindCustomOption(record_.get(), keyword == pageRegionOption ? "PageSize" : option.keyword) !=
+        nullptr;
+    auto indexed =
+        std::make_shared<Option>(Option{&option, decoded(option.text, keyword, notes_), kind, {}, {}});
     const std::span choices(option.choices, static_cast<size_t>(option.num_choices));
     indexed->choices.reserve(option.num_choices);
     indexed->indexOf.reserve(option.num_choices);
@@ -178,7 +215,7 @@ bool PpdDocument::indexOption(ppd_option_s &option)
             continue;
         }
         index = indexed->choices.size();
-        indexed->choices += {choiceKeyword, decoded(choice.text, choiceKeyword)};
+        indexed->choices += {choiceKeyword, decoded(choice.text, choiceKeyword, notes_)};
     }
     if (repeated > 0)
         notes_ += OpeningText::tr("The option \"%1\" repeats %2 of its choices; the first of each counts.")
@@ -197,18 +234,24 @@ void PpdDocument::indexPageSizes()
     QHash<QByteArrayView, const ppd_size_t *> sizes;
     for (const ppd_size_t &size : std::span(record_->sizes, static_cast<size_t>(record_->num_sizes)))
         sizes.insert(QByteArrayView(size.name), &size);
-    qsizetype unusable = 0;
-    for (const Choice &choice : choices(QStringLiteral("PageSize"))) {
-        const ppd_size_t *size = sizes.value(choice.keyword.toLatin1());
-        if (!size || !isPrintable(*size)) {
-            ++unusable;
-            continue;
-        }
+    const auto add = [this](const Choice &choice, const ppd_size_t &size) {
         pageSizeOf_.insert(choice.keyword, pageSizes_.size());
-        pageSizes_ += {choice.keyword, choice.text, QSizeF(size->width, size->length), imageableArea(*size)};
+        pageSizes_ += {choice.keyword, choice.text, QSizeF(size.width, size.length), imageableArea(size)};
+    };
+    const QList<Choice> all = choices(pageSizeOption);
+    for (const Choice &choice : all) {
+        const ppd_size_t *size = sizes.value(choice.keyword.toLatin1());
+        if (size && isPrintable(*size))
+            add(choice, *size);
     }
-    if (unusable > 0)
+    if (pageSizes_.isEmpty()) {
+        for (const Choice &choice : all)
+            add(choice, assumedSize(choice.keyword));
+        notes_ += OpeningText::tr(
+            "The page sizes have no dimensions; those of their names are assumed, or else the usual ones.");
+    } else if (const qsizetype unusable = all.size() - pageSizes_.size(); unusable > 0) {
         notes_ += OpeningText::tr("Page sizes left out because they have no dimensions: %1.").arg(unusable);
+    }
 }
 
 void PpdDocument::markDefaults()
@@ -219,12 +262,11 @@ void PpdDocument::markDefaults()
             marked && kind(key) != OptionKind::PickMany && !choice(key, *marked))
             mark(key, choices(key).constFirst().keyword);
     }
-    const QString pageSizeKey = QStringLiteral("PageSize");
-    if (!pageSizeOf_.contains(markedChoice(pageSizeKey).value_or(QString()))) {
+    if (!pageSizeOf_.contains(markedChoice(pageSizeOption).value_or(QString()))) {
         notes_ +=
             OpeningText::tr("The default page size is not one of the printer's; \"%1\" takes its place.")
                 .arg(pageSizes_.constFirst().keyword);
-        mark(pageSizeKey, pageSizes_.constFirst().keyword);
+        mark(pageSizeOption, pageSizes_.constFirst().keyword);
     }
 }
 

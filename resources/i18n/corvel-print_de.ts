@@ -745,6 +745,14 @@ Beispiele:
         <source>The PPD &quot;%1&quot; has no page size that can be printed on. Correct it or fetch another from the printer&apos;s maker.</source>
         <translation>Die PPD-Datei „%1“ hat kein bedruckbares Papierformat. Korrigieren Sie sie oder holen Sie eine andere vom Hersteller des Druckers.</translation>
     </message>
+    <message>
+        <source>Texts are left out because they are in another encoding; keywords take their place.</source>
+        <translation>Texte in einer anderen Kodierung wurden weggelassen; Schlüsselwörter treten an ihre Stelle.</translation>
+    </message>
+    <message>
+        <source>The page sizes have no dimensions; those of their names are assumed, or else the usual ones.</source>
+        <translation>Die Papierformate haben keine Maße; angenommen werden die ihrer Namen, sonst die üblichen.</translation>
+    </message>
 </context>
 <context>
     <name>PpdFile</name>
@@ -796,10 +804,6 @@ Beispiele:
         <translation>sie ist größer als %1 MiB</translation>
     </message>
     <message>
-        <source>it is cut off: the quote opened in line %1 never closes</source>
-        <translation>sie ist abgeschnitten: das in Zeile %1 geöffnete Anführungszeichen wird nie geschlossen</translation>
-    </message>
-    <message>
         <source>the value in line %1 is longer than %2 bytes</source>
         <translation>der Wert in Zeile %1 ist länger als %2 Byte</translation>
     </message>
@@ -826,10 +830,6 @@ Beispiele:
     <message>
         <source>groups of options</source>
         <translation>Optionsgruppen</translation>
-    </message>
-    <message>
-        <source>the option in line %1 has no keyword</source>
-        <translation>die Option in Zeile %1 hat kein Schlüsselwort</translation>
     </message>
     <message>
         <source>the keyword of the option &quot;%1&quot; in line %2 is bad: %3</source>
@@ -892,10 +892,6 @@ Beispiele:
         <translation>Die in Zeile %1 begonnene Gruppe endet nirgends.</translation>
     </message>
     <message>
-        <source>it is cut off in line %1</source>
-        <translation>sie ist in Zeile %1 abgeschnitten</translation>
-    </message>
-    <message>
         <source>&quot;%1&quot; is not a PPD, which is a text that begins with &quot;*PPD-Adobe:&quot;. Name the printer&apos;s PPD file.</source>
         <translation>„%1“ ist keine PPD-Datei, also kein Text, der mit „*PPD-Adobe:“ beginnt. Nennen Sie die PPD-Datei des Druckers.</translation>
     </message>
@@ -910,6 +906,22 @@ Beispiele:
     <message>
         <source>The PPD &quot;%1&quot; cannot be used: %2. %3.</source>
         <translation>Die PPD-Datei „%1“ kann nicht verwendet werden: %2. %3.</translation>
+    </message>
+    <message>
+        <source>it has no keyword</source>
+        <translation>das Schlüsselwort fehlt</translation>
+    </message>
+    <message>
+        <source>The PPD has no page sizes; A4 and Letter take their place.</source>
+        <translation>Die PPD-Datei hat keine Papierformate; A4 und Letter treten an ihre Stelle.</translation>
+    </message>
+    <message>
+        <source>The quote opened in line %1 never closes.</source>
+        <translation>Das in Zeile %1 geöffnete Anführungszeichen wird nie geschlossen.</translation>
+    </message>
+    <message>
+        <source>The PPD seems to be cut off in line %1.</source>
+        <translation>Die PPD-Datei scheint in Zeile %1 abgeschnitten zu sein.</translation>
     </message>
 </context>
 <context>

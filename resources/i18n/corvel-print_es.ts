@@ -744,6 +744,14 @@ Ejemplos:
         <source>The PPD &quot;%1&quot; has no page size that can be printed on. Correct it or fetch another from the printer&apos;s maker.</source>
         <translation>El PPD «%1» no tiene ningún tamaño de papel imprimible. Corríjalo u obtenga otro del fabricante de la impresora.</translation>
     </message>
+    <message>
+        <source>Texts are left out because they are in another encoding; keywords take their place.</source>
+        <translation>Se omiten textos que están en otra codificación; se usan palabras clave en su lugar.</translation>
+    </message>
+    <message>
+        <source>The page sizes have no dimensions; those of their names are assumed, or else the usual ones.</source>
+        <translation>Los tamaños de papel no tienen dimensiones; se suponen las de sus nombres o, si no, las habituales.</translation>
+    </message>
 </context>
 <context>
     <name>PpdFile</name>
@@ -795,10 +803,6 @@ Ejemplos:
         <translation>ocupa más de %1 MiB</translation>
     </message>
     <message>
-        <source>it is cut off: the quote opened in line %1 never closes</source>
-        <translation>está cortado: las comillas abiertas en la línea %1 no se cierran</translation>
-    </message>
-    <message>
         <source>the value in line %1 is longer than %2 bytes</source>
         <translation>el valor de la línea %1 ocupa más de %2 bytes</translation>
     </message>
@@ -825,10 +829,6 @@ Ejemplos:
     <message>
         <source>groups of options</source>
         <translation>grupos de opciones</translation>
-    </message>
-    <message>
-        <source>the option in line %1 has no keyword</source>
-        <translation>la opción de la línea %1 no tiene palabra clave</translation>
     </message>
     <message>
         <source>the keyword of the option &quot;%1&quot; in line %2 is bad: %3</source>
@@ -891,10 +891,6 @@ Ejemplos:
         <translation>El grupo abierto en la línea %1 nunca se cierra.</translation>
     </message>
     <message>
-        <source>it is cut off in line %1</source>
-        <translation>está cortado en la línea %1</translation>
-    </message>
-    <message>
         <source>&quot;%1&quot; is not a PPD, which is a text that begins with &quot;*PPD-Adobe:&quot;. Name the printer&apos;s PPD file.</source>
         <translation>«%1» no es un PPD, es decir, un texto que empieza por «*PPD-Adobe:». Indique el archivo PPD de la impresora.</translation>
     </message>
@@ -909,6 +905,22 @@ Ejemplos:
     <message>
         <source>The PPD &quot;%1&quot; cannot be used: %2. %3.</source>
         <translation>No se puede usar el PPD «%1»: %2. %3.</translation>
+    </message>
+    <message>
+        <source>it has no keyword</source>
+        <translation>falta la palabra clave</translation>
+    </message>
+    <message>
+        <source>The PPD has no page sizes; A4 and Letter take their place.</source>
+        <translation>El PPD no tiene tamaños de papel; se usan A4 y Letter en su lugar.</translation>
+    </message>
+    <message>
+        <source>The quote opened in line %1 never closes.</source>
+        <translation>Las comillas abiertas en la línea %1 nunca se cierran.</translation>
+    </message>
+    <message>
+        <source>The PPD seems to be cut off in line %1.</source>
+        <translation>El PPD parece estar cortado en la línea %1.</translation>
     </message>
 </context>
 <context>

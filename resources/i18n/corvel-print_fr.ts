@@ -745,6 +745,14 @@ Exemples&#x202f;:
         <source>The PPD &quot;%1&quot; has no page size that can be printed on. Correct it or fetch another from the printer&apos;s maker.</source>
         <translation>Le PPD «&#x202f;%1&#x202f;» n’a aucun format de papier imprimable. Corrigez-le ou procurez-vous-en un autre auprès du fabricant de l’imprimante.</translation>
     </message>
+    <message>
+        <source>Texts are left out because they are in another encoding; keywords take their place.</source>
+        <translation>Des textes dans un autre encodage sont ignorés&#x202f;; des mots-clés les remplacent.</translation>
+    </message>
+    <message>
+        <source>The page sizes have no dimensions; those of their names are assumed, or else the usual ones.</source>
+        <translation>Les formats de papier n’ont pas de dimensions&#x202f;; celles de leurs noms sont supposées, ou à défaut les dimensions usuelles.</translation>
+    </message>
 </context>
 <context>
     <name>PpdFile</name>
@@ -796,10 +804,6 @@ Exemples&#x202f;:
         <translation>il dépasse %1 Mio</translation>
     </message>
     <message>
-        <source>it is cut off: the quote opened in line %1 never closes</source>
-        <translation>il est tronqué&#x202f;: le guillemet ouvert à la ligne %1 n’est jamais fermé</translation>
-    </message>
-    <message>
         <source>the value in line %1 is longer than %2 bytes</source>
         <translation>la valeur de la ligne %1 dépasse %2 octets</translation>
     </message>
@@ -826,10 +830,6 @@ Exemples&#x202f;:
     <message>
         <source>groups of options</source>
         <translation>groupes d’options</translation>
-    </message>
-    <message>
-        <source>the option in line %1 has no keyword</source>
-        <translation>l’option de la ligne %1 n’a pas de mot-clé</translation>
     </message>
     <message>
         <source>the keyword of the option &quot;%1&quot; in line %2 is bad: %3</source>
@@ -892,10 +892,6 @@ Exemples&#x202f;:
         <translation>Le groupe ouvert à la ligne %1 ne se ferme jamais.</translation>
     </message>
     <message>
-        <source>it is cut off in line %1</source>
-        <translation>il est tronqué à la ligne %1</translation>
-    </message>
-    <message>
         <source>&quot;%1&quot; is not a PPD, which is a text that begins with &quot;*PPD-Adobe:&quot;. Name the printer&apos;s PPD file.</source>
         <translation>«&#x202f;%1&#x202f;» n’est pas un PPD, c’est-à-dire un texte qui commence par «&#x202f;*PPD-Adobe:&#x202f;». Indiquez le fichier PPD de l’imprimante.</translation>
     </message>
@@ -910,6 +906,22 @@ Exemples&#x202f;:
     <message>
         <source>The PPD &quot;%1&quot; cannot be used: %2. %3.</source>
         <translation>Le PPD «&#xa0;%1&#xa0;» est inutilisable&#xa0;: %2. %3.</translation>
+    </message>
+    <message>
+        <source>it has no keyword</source>
+        <translation>le mot-clé manque</translation>
+    </message>
+    <message>
+        <source>The PPD has no page sizes; A4 and Letter take their place.</source>
+        <translation>Le PPD n’a pas de formats de papier&#x202f;; A4 et Letter les remplacent.</translation>
+    </message>
+    <message>
+        <source>The quote opened in line %1 never closes.</source>
+        <translation>Le guillemet ouvert à la ligne %1 ne se ferme jamais.</translation>
+    </message>
+    <message>
+        <source>The PPD seems to be cut off in line %1.</source>
+        <translation>Le PPD semble être coupé à la ligne %1.</translation>
     </message>
 </context>
 <context>

@@ -743,6 +743,14 @@ Examples:
         <source>The PPD &quot;%1&quot; has no page size that can be printed on. Correct it or fetch another from the printer&apos;s maker.</source>
         <translation>PPD「%1」には印刷できる用紙サイズがありません。修正するか、プリンターのメーカーから別のものを入手してください。</translation>
     </message>
+    <message>
+        <source>Texts are left out because they are in another encoding; keywords take their place.</source>
+        <translation>文字コードが異なるテキストを省きました。代わりにキーワードを使います。</translation>
+    </message>
+    <message>
+        <source>The page sizes have no dimensions; those of their names are assumed, or else the usual ones.</source>
+        <translation>用紙サイズに寸法がありません。名前に応じた寸法か、一般的な寸法とみなします。</translation>
+    </message>
 </context>
 <context>
     <name>PpdFile</name>
@@ -794,10 +802,6 @@ Examples:
         <translation>%1 MiB を超えています</translation>
     </message>
     <message>
-        <source>it is cut off: the quote opened in line %1 never closes</source>
-        <translation>途中で切れています: %1 行目の引用符が閉じられていません</translation>
-    </message>
-    <message>
         <source>the value in line %1 is longer than %2 bytes</source>
         <translation>%1 行目の値が %2 バイトを超えています</translation>
     </message>
@@ -824,10 +828,6 @@ Examples:
     <message>
         <source>groups of options</source>
         <translation>オプショングループ</translation>
-    </message>
-    <message>
-        <source>the option in line %1 has no keyword</source>
-        <translation>%1 行目のオプションにキーワードがありません</translation>
     </message>
     <message>
         <source>the keyword of the option &quot;%1&quot; in line %2 is bad: %3</source>
@@ -890,10 +890,6 @@ Examples:
         <translation>%1 行目で始まるグループが閉じられていません。</translation>
     </message>
     <message>
-        <source>it is cut off in line %1</source>
-        <translation>%1 行目で切れています</translation>
-    </message>
-    <message>
         <source>&quot;%1&quot; is not a PPD, which is a text that begins with &quot;*PPD-Adobe:&quot;. Name the printer&apos;s PPD file.</source>
         <translation>「%1」は PPD (「*PPD-Adobe:」で始まるテキスト) ではありません。プリンターの PPD ファイルを指定してください。</translation>
     </message>
@@ -908,6 +904,22 @@ Examples:
     <message>
         <source>The PPD &quot;%1&quot; cannot be used: %2. %3.</source>
         <translation>PPD「%1」は使えません: %2。%3。</translation>
+    </message>
+    <message>
+        <source>it has no keyword</source>
+        <translation>キーワードがありません</translation>
+    </message>
+    <message>
+        <source>The PPD has no page sizes; A4 and Letter take their place.</source>
+        <translation>PPD に用紙サイズがありません。代わりに A4 と Letter を使います。</translation>
+    </message>
+    <message>
+        <source>The quote opened in line %1 never closes.</source>
+        <translation>%1 行目で始まる引用符が閉じられていません。</translation>
+    </message>
+    <message>
+        <source>The PPD seems to be cut off in line %1.</source>
+        <translation>PPD は %1 行目で途切れているようです。</translation>
     </message>
 </context>
 <context>

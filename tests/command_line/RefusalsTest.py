@@ -117,8 +117,7 @@ class RefusalsTest(ProgramTest):
 
     def test_ppd(self):
         bad = self.folder / "bad.ppd"
-        good = content(PPD)
-        for written in None, bytes.fromhex("7f454c46020101000000") * 500, good[:len(good) // 2]:
+        for written in None, bytes.fromhex("7f454c46020101000000") * 500:
             if written is not None:
                 bad.write_bytes(written)
             self.refuses(self.print("--ppd", bad, PHOTO), 1, bad.name)

@@ -131,13 +131,6 @@ private Q_SLOTS:
         const QByteArray manyChoices = option("Big", numbered(0, 200'000));
         const QByteArray big = option("Big", numbered(0, 100'000, "c"));
         add("other text", "Hello\n", PpdFault::NotAPpd, u"is not a PPD"_s);
-        add("NUL", minimal() + QByteArray("\0\n", 2), PpdFault::NotAPpd, u"is not a PPD"_s);
-        add("control bytes", minimal() + QByteArray(200, '\x02') + "\n", PpdFault::NotAPpd,
-            u"is not a PPD"_s);
-        add("cut in a quote", minimal() + "*Foo: \"abc\n", PpdFault::CutOff, u"line 16"_s);
-        add("cut in an option", minimal() + "*OpenUI *Red/R: PickOne\n*Red 1: 0", PpdFault::CutOff,
-            u"line 17"_s);
-        add("cut in a group", minimal() + "*OpenGroup: G/g\n*Foo: ab", PpdFault::CutOff, u"line 17"_s);
         add("100,000 options", minimal() + options, PpdFault::TooManyOptions, u"2000 options"_s);
         add("200,001 choices", minimal() + manyChoices, PpdFault::TooManyChoices, u"200000 choices"_s);
         add("5,000 page sizes", header + option("PageSize", numbered(1, 5'000, "s")),
@@ -153,21 +146,12 @@ private Q_SLOTS:
             u"line 16"_s);
         add("long option keyword", minimal() + option(QByteArray(41, 'k'), {"1"}), PpdFault::BadKeyword,
             u"40"_s);
-        add("option without keyword", minimal() + "*OpenUI: PickOne\n", PpdFault::BadKeyword,
-            u"no keyword"_s);
         add("long line", minimal() + "*Foo: " + QByteArray(5'000, 'x') + "\n", PpdFault::Malformed,
             u"4096"_s);
         add("long value", minimal() + "*Foo: \"" + QByteArray("abc\n").repeated(70'000) + "\"\n",
             PpdFault::Malformed, u"250000"_s);
         add("told by libcups", minimal() + "*Foo \xff: \"a\nb\"\n*End\nnot an entry\n", PpdFault::Malformed,
             u"line 19: Missing asterisk"_s);
-        add("no page size", header + option("Red", {"1"}), PpdFault::NoPageSize, u"no page size"_s);
-        add("page size without dimensions", header + option("PageSize", {"A4"}), PpdFault::NoPageSize,
-            u"no page size"_s);
-        for (const char *size : {"1e30 200", "100 nan", "-100 200", "0 200"})
-            add(qPrintable(u"page size "_s + QLatin1String(size)),
-                header + option("PageSize", {"A4"}) + "*PaperDimension A4: \"" + size + "\"\n",
-                PpdFault::NoPageSize, u"no page size"_s);
     }
 
     void refusesData()
@@ -198,6 +182,21 @@ private Q_SLOTS:
         add("option and group that never close",
             with("*OpenUI *Red", "*OpenGroup: G/g\n*OpenUI *Red").replace("*CloseUI: *Red\n", {}),
             u"The option \"Red\" opened in line 17 never closes.\nThe group opened in line 16 never closes."_s);
+        add("cut off in an option", odd.chopped(16), u"The PPD seems to be cut off in line 19."_s);
+        add("cut off in a group", with("*OpenUI *Red", "*OpenGroup: G/g\n*OpenUI *Red").chopped(1),
+            u"The PPD seems to be cut off in line 21."_s);
+        add("cut off in a quote", odd.chopped(17), u"The quote opened in line 19 never closes."_s);
+        add("cut off in a quote that is left out", odd + "*ImageableArea \xff: \"0 0", u"ImageableArea"_s);
+        add("NUL", with("*Red 1:", QByteArray("*Foo\0o 1: \"\"\n*Red 1:", 20)), u"Line 18"_s);
+        add("NULs at the end", odd + QByteArray(300, '\0'), {});
+        add("Ctrl-Z in a keyword", with("*OpenUI *Red", "*OpenUI *\x1aRed"), {});
+        add("space before the first colon", with("*PPD-Adobe:", "*PPD-Adobe :"), {});
+        add("option without keyword", odd + "*OpenUI: PickOne\n*CloseUI:\n", u"it has no keyword"_s);
+        add("text that cannot be read", with("ISOLatin1", "None").replace("*Red 1:", "*Red 1/\xb1\xde:"),
+            u"another encoding"_s);
+        add("page sizes that are empty in another group",
+            with(pageSizes(), "*OpenGroup: A/a\n*OpenUI *PageSize: PickOne\n*CloseGroup: A\n" + pageSizes()),
+            {});
         add("bad choice", with("*Red 1:", "*Red \xc3\xa9:\x20\"a\nb\"\n*End\n*Red 1:"),
             u"Line 18: the choice \"é\" of the option \"Red\" is left out"_s);
         add("long choice", with("*Red 1:", "*Red " + QByteArray(41, 'a') + ": \"\"\n*Red 1:"),
@@ -325,7 +324,8 @@ private Q_SLOTS:
             opened(header + option("PageSize", {"Gone", "w288h432/4 x 6", "Spill", "Bare"}) +
                    "*ImageableArea w288h432: \"6 12 280 420\"\n*PaperDimension w288h432: \"288 432\"\n"
                    "*ImageableArea Spill: \"-9 -9 109 209\"\n*PaperDimension Spill: \"100 200\"\n"
-                   "*PaperDimension Bare: \"100 200\"\n*CustomPageSize True: \"pop\"\n");
+                   "*PaperDimension Bare: \"100 200\"\n" +
+                   option("PageRegion", {"Bare"}) + "*CustomPageSize True: \"pop\"\n");
         QCOMPARE(document.pageSizes().size(), 3);
         const PageSize first = document.pageSizes().constFirst();
         QCOMPARE(first.text, u"4 x 6"_s);
@@ -334,7 +334,40 @@ private Q_SLOTS:
         QCOMPARE(document.pageSize(u"Spill"_s)->imageable, QRectF(-9, -9, 118, 218));
         QCOMPARE(document.pageSize(u"Bare"_s)->imageable, QRectF(0, 0, 100, 200));
         QVERIFY(!document.pageSize(u"Gone"_s) && !document.choice(u"PageSize"_s, u"Custom"_s));
+        QVERIFY(!document.choice(u"PageRegion"_s, u"Custom"_s));       // libcups adds it there, too
         QCOMPARE(document.markedChoice(u"PageSize"_s), u"w288h432"_s); // the default cannot be printed on
+    }
+
+    // libcups opens these, and there has to be a page to print on.
+    void assumesPageSizes_data()
+    {
+        const auto add = rows<QByteArray, const char *, QString, QSize>();
+        const QByteArray red = option("Red", {"1"});
+        const QByteArray open = "*OpenGroup: G/g\n*OpenUI *PageSize: PickOne\n*DefaultPageSize: Custom\n";
+        add("none", header + red, "de_DE", u"A4"_s, {595, 842});
+        add("none, in America", header + red, "en_US", u"Letter"_s, {612, 792});
+        add("none, cut off in a quote", header + red + "*Foo: \"x", "C", u"A4"_s, {595, 842});
+        add("none, in a group that never closes", header + open, "C", u"A4"_s, {595, 842});
+        add("only custom ones", header + open + "*CloseUI: *PageSize\n*CustomPageSize True: \"pop\"\n", "C",
+            u"A4"_s, {595, 842});
+        add("known by name", header + option("PageSize", {"A5", "Odd"}), "C", u"A5"_s, {420, 595});
+        add("not even by name", header + option("PageSize", {"Odd", "A5"}), "en_US", u"Odd"_s, {612, 792});
+        for (const char *size : {"1e30 200", "100 nan", "-100 200", "0 200"})
+            add(size, header + option("PageSize", {"A5"}) + "*PaperDimension A5: \"" + size + "\"\n", "C",
+                u"A5"_s, {420, 595});
+    }
+
+    void assumesPageSizes()
+    {
+        const auto [data, locale, keyword, points] = row<QByteArray, const char *, QString, QSize>();
+        const auto before = qScopeGuard([] { QLocale::setDefault(QLocale::system()); });
+        QLocale::setDefault(QLocale(QString::fromLatin1(locale)));
+        const PpdDocument document = opened(data);
+        QCOMPARE(document.markedChoice(u"PageSize"_s), keyword);
+        const PageSize size = document.pageSize(keyword).value();
+        QCOMPARE(size.points.toSize(), points);
+        QCOMPARE(size.imageable, QRectF(QPointF(), size.points));
+        QVERIFY(document.notes().join(u'\n').contains(u"age size"_s));
     }
 
     void believesOnlyTheBundlesName_data()

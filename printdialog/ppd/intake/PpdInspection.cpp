@@ -3,6 +3,7 @@
 
 #include "PpdInspection.h"
 
+#include "PageSizeSearch.h"
 #include "PlainText.h"
 #include "PpdScanner.h"
 
@@ -35,14 +36,11 @@ bool hasControl(QByteArrayView text)
                        [](char byte) { return byte >= 0 && byte < ' ' && byte != '\t'; });
 }
 
-bool looksBinary(QByteArrayView data)
+/// libcups skips the Ctrl-Z with which a file from DOS may end, wherever it is.
+QByteArray withoutCtrlZ(const QByteArray &data)
 {
-    if (data.contains('\0'))
-        return true;
-    const auto controls = std::count_if(data.begin(), data.end(), [](char byte) {
-        return (byte >= 0 && byte < '\t') || (byte > '\r' && byte < ' ');
-    });
-    return controls > 64 + data.size() / 100;
+    constexpr char ctrlZ = '\x1a';
+    return data.contains(ctrlZ) ? QByteArray(data).replace(ctrlZ, QByteArrayView()) : data;
 }
 
 bool isStructure(QByteArrayView keyword)
@@ -69,7 +67,7 @@ class Inspector
 
 public:
     Inspector(const QByteArray &data, const QString &name)
-        : data_(data)
+        : data_(withoutCtrlZ(data))
         , name_(plainText(name, 300))
     {
     }
@@ -99,7 +97,7 @@ private:
         if (data_.size() > Limits::bytes)
             return fetchAgain(PpdFault::TooLarge,
                               tr("it is larger than %1 MiB").arg(number(Limits::bytes >> 20)));
-        if (!data_.startsWith("*PPD-Adobe:") || looksBinary(data_)) {
+        if (!data_.startsWith("*PPD-Adobe")) {
             failure_ = {PpdFault::NotAPpd,
                         tr("\"%1\" is not a PPD, which is a text that begins with \"*PPD-Adobe:\". Name the "
                            "printer's PPD file.")
@@ -114,10 +112,7 @@ private:
     {
         PpdScanner scanner(data_);
         while (const auto line = scanner.next()) {
-            if (!line->quoteClosed)
-                return fetchAgain(
-                    PpdFault::CutOff,
-                    tr("it is cut off: the quote opened in line %1 never closes").arg(line->number));
+            openQuoteLine_ = line->quoteClosed ? 0 : line->number;
             lacksLineEnd_ = !line->complete && !isPadding(*line);
             lastLine_ = line->number;
             if (line->end - line->begin > Limits::entryBytes)
@@ -133,6 +128,8 @@ private:
     bool inspectLine(const PpdLine &line)
     {
         const bool comment = line.mainKeyword.isEmpty();
+        if (entry(line).contains('\0'))
+            return dropUnread(line);
         if (line.longest > Limits::lineBytes && !line.value.startsWith('"'))
             return correct(PpdFault::Malformed,
                            tr("line %1 is longer than %2 bytes").arg(line.number).arg(Limits::lineBytes));
@@ -155,6 +152,20 @@ private:
             drop(line, tr("its keyword cannot be read"));
         else if (const QString fault = keywordFault(line.optionKeyword); !fault.isEmpty())
             drop(line, fault);
+        else
+            pageSizes_.see(line, option_);
+        return true;
+    }
+
+    /// For libcups, the line ends at the NUL.
+    bool dropUnread(const PpdLine &line)
+    {
+        if (++others_ > Limits::otherEntries)
+            return tooMany(PpdFault::Malformed, tr("entries beside its options"), Limits::otherEntries);
+        if (isPadding(line))
+            dropped_.push_back(line);
+        else
+            drop(line, tr("its text has control characters"));
         return true;
     }
 
@@ -183,16 +194,19 @@ private:
     bool openOption(const PpdLine &line)
     {
         const QByteArrayView keyword = withoutAsterisk(line.optionKeyword);
-        if (keyword.isEmpty())
-            return correct(PpdFault::BadKeyword, tr("the option in line %1 has no keyword").arg(line.number));
+        if (++options_ > Limits::options)
+            return tooMany(PpdFault::TooManyOptions, tr("options"), Limits::options);
+        if (keyword.isEmpty()) {
+            drop(line, tr("it has no keyword"));
+            return true;
+        }
         // libcups includes the asterisk in the length.
         if (const QString fault = keywordFault(line.optionKeyword); !fault.isEmpty())
             return correct(PpdFault::BadKeyword, tr("the keyword of the option \"%1\" in line %2 is bad: %3")
                                                      .arg(shown(keyword), number(line.number), fault));
-        if (++options_ > Limits::options)
-            return tooMany(PpdFault::TooManyOptions, tr("options"), Limits::options);
         option_ = keyword;
         optionLine_ = line.number;
+        pageSizes_.open(line, option_);
         return true;
     }
 
@@ -242,16 +256,10 @@ private:
 
     bool inspectEnd()
     {
-        // Some real PPDs lack the line that closes an option, or the end of their last line; libcups accepts
-        // either. Both together mean that the file was cut off.
-        const bool isOpen = !option_.isEmpty() || groupLine_ > 0;
-        if (isOpen && lacksLineEnd_)
-            return fetchAgain(PpdFault::CutOff, tr("it is cut off in line %1").arg(lastLine_));
-        if (!option_.isEmpty())
-            notes_ += tr("The option \"%1\" opened in line %2 never closes.")
-                          .arg(shown(option_), number(optionLine_));
-        if (groupLine_ > 0)
-            notes_ += tr("The group opened in line %1 never closes.").arg(groupLine_);
+        noteOpenParts();
+        dropEmptyPageSizes();
+        if (!pageSizes_.hasFound())
+            notes_ += tr("The PPD has no page sizes; A4 and Letter take their place.");
         // For each constraint, libcups searches the choices of the options that it names.
         qint64 cost = 0;
         for (auto it = constraintsOn_.cbegin(); it != constraintsOn_.cend(); ++it)
@@ -262,11 +270,41 @@ private:
         return true;
     }
 
+    /// In the order of the lines, as the others.
+    void dropEmptyPageSizes()
+    {
+        dropped_.insert(dropped_.end(), pageSizes_.emptyOnes().begin(), pageSizes_.emptyOnes().end());
+        std::ranges::sort(dropped_, {}, &PpdLine::begin);
+    }
+
+    /// Some real PPDs lack the line that closes an option, or the end of their last line. Both together mean
+    /// that the file was cut off; libcups accepts even that.
+    void noteOpenParts()
+    {
+        const bool isOpen = !option_.isEmpty() || groupLine_ > 0;
+        if (openQuoteLine_ > 0) {
+            notes_ += tr("The quote opened in line %1 never closes.").arg(openQuoteLine_);
+        } else if (isOpen && lacksLineEnd_) {
+            notes_ += tr("The PPD seems to be cut off in line %1.").arg(lastLine_);
+        } else {
+            if (!option_.isEmpty())
+                notes_ += tr("The option \"%1\" opened in line %2 never closes.")
+                              .arg(shown(option_), number(optionLine_));
+            if (groupLine_ > 0)
+                notes_ += tr("The group opened in line %1 never closes.").arg(groupLine_);
+        }
+    }
+
+    QByteArrayView entry(const PpdLine &line) const
+    {
+        return QByteArrayView(data_).sliced(line.begin, line.end - line.begin);
+    }
+
     bool isPadding(const PpdLine &line) const
     {
-        // A file from DOS may end with Ctrl-Z.
-        return std::all_of(data_.begin() + line.begin, data_.begin() + line.end,
-                           [](char byte) { return byte == '\x1a' || byte == ' ' || byte == '\t'; });
+        const QByteArrayView bytes = entry(line);
+        return std::all_of(bytes.begin(), bytes.end(),
+                           [](char byte) { return byte == '\0' || byte == ' ' || byte == '\t'; });
     }
 
     void drop(const PpdLine &line, const QString &reason)
@@ -288,14 +326,24 @@ private:
         return all;
     }
 
+    /// What ends the last line and what is open there, and adds what is missing.
+    QByteArray ending() const
+    {
+        const bool isDropped = !dropped_.empty() && dropped_.back().end == data_.size();
+        QByteArray ending = openQuoteLine_ > 0 && !isDropped ? "\"\n" : lacksLineEnd_ ? "\n" : "";
+        if (!pageSizes_.hasFound())
+            ending += (groupLine_ > 0 ? "*CloseGroup: *\n" : "") + PageSizeSearch::usualOnes();
+        return ending;
+    }
+
     /// Keeps the line ends, so that libcups' line numbers are those of the file.
     QByteArray withoutDropped() const
     {
-        const QByteArray lineEnd = lacksLineEnd_ ? "\n" : "";
+        const QByteArray added = ending();
         if (dropped_.empty())
-            return lineEnd.isEmpty() ? data_ : data_ + lineEnd;
+            return added.isEmpty() ? data_ : data_ + added;
         QByteArray kept;
-        kept.reserve(data_.size() + lineEnd.size());
+        kept.reserve(data_.size() + added.size());
         qsizetype position = 0;
         for (const PpdLine &line : dropped_) {
             kept.append(data_.constData() + position, line.begin - position);
@@ -303,7 +351,7 @@ private:
                          [](char byte) { return byte == '\r' || byte == '\n'; });
             position = line.end;
         }
-        return kept.append(data_.constData() + position, data_.size() - position).append(lineEnd);
+        return kept.append(data_.constData() + position, data_.size() - position).append(added);
     }
 
     bool fetchAgain(PpdFault fault, const QString &reason)
@@ -327,12 +375,13 @@ private:
         return false;
     }
 
-    const QByteArray &data_;
+    const QByteArray data_;
     QString name_;
     Failure<PpdFault> failure_{PpdFault::Malformed, {}, {}};
     std::vector<PpdLine> dropped_;
     bool lacksLineEnd_ = false; // of the last line
     int lastLine_ = 0;
+    int openQuoteLine_ = 0; // where the quote opens that never closes
     QStringList notes_;
     int noteCount_ = 0;
 
@@ -343,6 +392,7 @@ private:
     int groups_ = 0;
     int choices_ = 0;
     int sizes_ = 0;
+    PageSizeSearch pageSizes_;
     int sizeEntries_ = 0;
     int customParameters_ = 0;
     int others_ = 0;

@@ -52,16 +52,19 @@ struct PpdLimits
 /// A PPD that passed the inspection.
 struct PpdInspection
 {
-    QByteArray bytes; ///< What libcups may parse: the same lines, the dropped ones empty, the last one ended.
+    /// What libcups may parse: the same lines, the dropped ones empty, the last one ended, page sizes if it
+    /// has none.
+    QByteArray bytes;
     /// A sentence for each part that was dropped, at most PpdLimits::notes, then one for the rest.
     QStringList notes;
 };
 
 /// Inspects an untrusted PPD before libcups sees it, in time linear in its size. Refuses data that is not a
-/// PPD, ends within a quoted value or exceeds a limit. Drops a single bad line (a choice whose keyword is not
-/// printable ASCII or is too long) with a note, so that a queue with an odd PPD stays usable. `name` is the
-/// PPD's name for people: a file or a queue. Reentrant. Rules: Adobe's PPD specification 4.3 as far as
-/// libcups follows it.
+/// PPD or exceeds a limit; otherwise what libcups accepts is accepted. Drops a single bad line (a choice
+/// whose keyword is not printable ASCII or is too long) with a note, so that a queue with an odd PPD stays
+/// usable, and closes what never closes. A PPD without page sizes gets A4 and Letter, the usual one of the
+/// locale as the default. `name` is the PPD's name for people: a file or a queue. Reentrant. Rules: Adobe's
+/// PPD specification 4.3 as far as libcups follows it.
 Result<PpdInspection, PpdFault> inspectPpd(const QByteArray &data, const QString &name);
 
 } // namespace printdialog
