@@ -5,10 +5,9 @@
 
 #include "PageSizeSearch.h"
 #include "PlainText.h"
-#include "PpdScanner.h"
+#include "PpdCounts.h"
 
 #include <QtCore/QCoreApplication>
-#include <QtCore/QHash>
 
 #include <algorithm>
 #include <utility>
@@ -52,13 +51,6 @@ bool isStructure(QByteArrayView keyword)
 QByteArrayView withoutAsterisk(QByteArrayView keyword)
 {
     return keyword.startsWith('*') ? keyword.sliced(1) : keyword;
-}
-
-/// The `de` of `de.PageSize`, the `zh_TW` of `zh_TW.PageSize`; empty for other keywords.
-QByteArrayView languageOf(QByteArrayView keyword)
-{
-    const qsizetype dot = keyword.indexOf('.');
-    return dot == 2 || dot == 5 ? keyword.first(dot) : QByteArrayView();
 }
 
 class Inspector
@@ -141,8 +133,8 @@ private:
         }
         if (isStructure(line.mainKeyword))
             return inspectStructure(line, tooLong);
-        if (!count(line))
-            return false;
+        if (const auto excess = counts_.add(line, option_))
+            return tooMany(*excess);
         if (tooLong)
             drop(line,
                  tr("a line of it is longer than %1 characters").arg(number(Limits::readableLineBytes)));
@@ -160,8 +152,8 @@ private:
     /// For libcups, the line ends at the NUL.
     bool dropUnread(const PpdLine &line)
     {
-        if (++others_ > Limits::otherEntries)
-            return tooMany(PpdFault::Malformed, tr("entries beside its options"), Limits::otherEntries);
+        if (const auto excess = counts_.addOther())
+            return tooMany(*excess);
         if (isPadding(line))
             dropped_.push_back(line);
         else
@@ -185,8 +177,8 @@ private:
             groupLine_ = 0;
         if (line.mainKeyword == "OpenGroup") {
             groupLine_ = line.number;
-            if (++groups_ > Limits::groups)
-                return tooMany(PpdFault::TooManyOptions, tr("groups of options"), Limits::groups);
+            if (const auto excess = counts_.addGroup())
+                return tooMany(*excess);
         }
         return true;
     }
@@ -194,8 +186,8 @@ private:
     bool openOption(const PpdLine &line)
     {
         const QByteArrayView keyword = withoutAsterisk(line.optionKeyword);
-        if (++options_ > Limits::options)
-            return tooMany(PpdFault::TooManyOptions, tr("options"), Limits::options);
+        if (const auto excess = counts_.addOption())
+            return tooMany(*excess);
         if (keyword.isEmpty()) {
             drop(line, tr("it has no keyword"));
             return true;
@@ -210,61 +202,13 @@ private:
         return true;
     }
 
-    bool count(const PpdLine &line)
-    {
-        const QByteArrayView keyword = line.mainKeyword;
-        if (!option_.isEmpty() && keyword == option_) {
-            ++choicesOf_[option_];
-            if (++choices_ > Limits::choices)
-                return tooMany(PpdFault::TooManyChoices, tr("choices"), Limits::choices);
-            if (keyword == "PageSize" && ++sizes_ > Limits::pageSizes)
-                return tooMany(PpdFault::TooManyChoices, tr("page sizes"), Limits::pageSizes);
-        } else if (keyword == "PaperDimension" || keyword == "ImageableArea") {
-            if (++sizeEntries_ > 2 * Limits::pageSizes)
-                return tooMany(PpdFault::TooManyChoices, tr("page sizes"), Limits::pageSizes);
-        } else if (keyword == "UIConstraints" || keyword == "NonUIConstraints" ||
-                   keyword == "cupsUIConstraints") {
-            return countConstraint(line.value);
-        } else if (keyword.startsWith("ParamCustom")) {
-            if (++customParameters_ > Limits::customParameters)
-                return tooMany(PpdFault::Malformed, tr("parameters of custom choices"),
-                               Limits::customParameters);
-        } else if (const QByteArrayView language = languageOf(keyword); !language.isEmpty()) {
-            // Counted per language, since libcups keeps only one.
-            if (++translations_[language] > Limits::otherEntries)
-                return tooMany(PpdFault::Malformed, tr("translations into one language"),
-                               Limits::otherEntries);
-        } else if (++others_ > Limits::otherEntries) {
-            return tooMany(PpdFault::Malformed, tr("entries beside its options"), Limits::otherEntries);
-        }
-        return true;
-    }
-
-    bool countConstraint(QByteArrayView value)
-    {
-        constraints_ += std::max<qsizetype>(1, std::count(value.begin(), value.end(), '*') / 2);
-        if (constraints_ > Limits::constraints)
-            return tooMany(PpdFault::TooManyConstraints, tr("constraints"), Limits::constraints);
-        for (qsizetype at = value.indexOf('*'); at >= 0; at = value.indexOf('*', at + 1)) {
-            const QByteArrayView rest = value.sliced(at + 1);
-            const auto end =
-                std::find_if(rest.begin(), rest.end(), [](char byte) { return byte <= ' ' || byte == '"'; });
-            ++constraintsOn_[rest.first(end - rest.begin())];
-        }
-        return true;
-    }
-
     bool inspectEnd()
     {
         noteOpenParts();
         dropEmptyPageSizes();
         if (!pageSizes_.hasFound())
             notes_ += tr("The PPD has no page sizes; A4 and Letter take their place.");
-        // For each constraint, libcups searches the choices of the options that it names.
-        qint64 cost = 0;
-        for (auto it = constraintsOn_.cbegin(); it != constraintsOn_.cend(); ++it)
-            cost += it.value() * choicesOf_.value(it.key());
-        if (cost > Limits::constraintCost)
+        if (counts_.constraintCost() > Limits::constraintCost)
             return correct(PpdFault::TooManyConstraints,
                            tr("its constraints name options with too many choices"));
         return true;
@@ -364,9 +308,9 @@ private:
         return refuse(fault, reason, tr("Correct it or fetch another from the printer's maker"));
     }
 
-    bool tooMany(PpdFault fault, const QString &what, qint64 limit)
+    bool tooMany(const PpdExcess &excess)
     {
-        return correct(fault, tr("it has more than %1 %2").arg(number(limit), what));
+        return correct(excess.fault, tr("it has more than %1 %2").arg(number(excess.limit), excess.what));
     }
 
     bool refuse(PpdFault fault, const QString &reason, const QString &remedy)
@@ -388,18 +332,8 @@ private:
     QByteArrayView option_; // the open option
     int optionLine_ = 0;
     int groupLine_ = 0; // of the open group
-    int options_ = 0;
-    int groups_ = 0;
-    int choices_ = 0;
-    int sizes_ = 0;
     PageSizeSearch pageSizes_;
-    int sizeEntries_ = 0;
-    int customParameters_ = 0;
-    int others_ = 0;
-    QHash<QByteArrayView, int> translations_; // by language
-    qint64 constraints_ = 0;
-    QHash<QByteArrayView, qint64> choicesOf_;
-    QHash<QByteArrayView, qint64> constraintsOn_;
+    PpdCounts counts_;
 };
 
 } // namespace
