@@ -135,6 +135,9 @@ private Q_SLOTS:
         add("200,001 choices", minimal() + manyChoices, PpdFault::TooManyChoices, u"200000 choices"_s);
         add("5,000 page sizes", header + option("PageSize", numbered(1, 5'000, "s")),
             PpdFault::TooManyChoices, u"page sizes"_s);
+        add("5,000 page sizes of an option that nothing opens",
+            header + option("PageSize", numbered(1, 5'000, "s")).replace("*OpenUI *PageSize: PickOne\n", {}),
+            PpdFault::TooManyChoices, u"page sizes"_s);
         add("20,001 constraints", minimal() + QByteArray("*UIConstraints: *A b *C d\n").repeated(20'001),
             PpdFault::TooManyConstraints, u"20000 constraints"_s);
         add("costly constraints",

@@ -37,8 +37,9 @@ std::optional<PpdExcess> PpdCounts::addOption()
 std::optional<PpdExcess> PpdCounts::add(const PpdLine &line, QByteArrayView option)
 {
     const QByteArrayView keyword = line.mainKeyword;
-    if (!option.isEmpty() && keyword == option)
-        return addChoice(option);
+    // libcups does without the line that opens PageSize.
+    if (keyword == (option.isEmpty() ? "PageSize" : option))
+        return addChoice(keyword);
     if (keyword == "PaperDimension" || keyword == "ImageableArea") {
         if (++sizeEntries_ > 2 * Limits::pageSizes)
             return PpdExcess{PpdFault::TooManyChoices, tr("page sizes"), Limits::pageSizes};
