@@ -2,7 +2,9 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include "PpdDocument.h"
+#include "CupsPpd.h"
 #include "PpdCheck.h"
+#include "PpdFile.h"
 #include "Rows.h"
 #include "SmallPpd.h"
 #include "TestMain.h"
@@ -10,6 +12,7 @@
 #include <QtCore/QElapsedTimer>
 #include <QtCore/QFile>
 #include <QtCore/QProcess>
+#include <QtCore/QRandomGenerator>
 #include <QtCore/QScopeGuard>
 #include <QtCore/QTemporaryDir>
 #include <QtTest/QTest>
@@ -226,6 +229,52 @@ private Q_SLOTS:
         QVERIFY2(note.isEmpty() ? document.notes().isEmpty() : document.notes().join(u'\n').contains(note),
                  qPrintable(document.notes().join(u'\n')));
         QVERIFY(document.notes().size() <= PpdLimits::notes + 1);
+    }
+
+    // Random PPDs that are cut off, and that lack or gain something.
+    void opensWhatLibcupsOpens()
+    {
+        const QByteArray good = header + "*OpenGroup: G/g\n" + pageSizes() + option("Red", {"1/One", "2"}) +
+                                "*CloseGroup: G\n*CustomPageSize True: \"a\nb\"\n*End\n*% c: \"\n"
+                                "*UIConstraints: *Red 2 *PageSize w360h504\n";
+        const QByteArrayList strange{"\"",        "\n",
+                                     "\r",        "*",
+                                     "\x1a",      "\xff",
+                                     "/",         ":",
+                                     " ",         "<41>",
+                                     "*End\n",    QByteArray(1, '\0'),
+                                     "\n*\n",     "\n*JCL",
+                                     "\n*OpenUI", "\n*OpenUI *: PickOne\n",
+                                     "PageSize",  "\n*OpenGroup: X\n"};
+        const qsizetype firstLine = good.indexOf('\n') + 1;
+        QRandomGenerator random(9031);
+        int count = 0;
+        ppdSetConformance(PPD_CONFORM_RELAXED);
+        for (int round = 0; round < 4'000; ++round) {
+            QByteArray ppd = good;
+            for (int change = random.bounded(1, 4); change > 0; --change) {
+                const qsizetype at = random.bounded(firstLine, ppd.size() + 1);
+                switch (random.bounded(3)) {
+                case 0:
+                    ppd.remove(at, random.bounded(1, 30));
+                    break;
+                case 1:
+                    ppd.insert(at, strange.at(random.bounded(strange.size())));
+                    break;
+                default:
+                    ppd.truncate(at);
+                }
+            }
+            ppd_file_t *record = ppdOpenFd(ppdInMemory(ppd));
+            ppdClose(record);
+            if (!record)
+                continue;
+            ++count;
+            const auto document = trusted(ppd, u"queue"_s);
+            QVERIFY2(document,
+                     document ? "" : qPrintable(document.failure().text + QString::fromLatin1(ppd)));
+        }
+        QVERIFY(count > 1'000);
     }
 
     // What a program that tries out a PPD may come to.

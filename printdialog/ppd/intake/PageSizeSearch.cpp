@@ -24,8 +24,10 @@ void PageSizeSearch::open(const PpdLine &line, QByteArrayView option)
 
 void PageSizeSearch::see(const PpdLine &line, QByteArrayView option)
 {
+    const bool isChoice =
+        line.mainKeyword == pageSize && !line.optionKeyword.isEmpty() && !line.value.isEmpty();
     // For this option, libcups does without the line that opens it.
-    if (line.mainKeyword != pageSize || line.value.isEmpty() || !(option.isEmpty() || option == pageSize))
+    if (!isChoice || !(option.isEmpty() || option == pageSize))
         return;
     hasFound_ = true;
     if (option == pageSize && std::exchange(isLastEmpty_, false))

@@ -120,6 +120,10 @@ private:
     bool inspectLine(const PpdLine &line)
     {
         const bool comment = line.mainKeyword.isEmpty();
+        if (!line.complete && isPadding(line)) {
+            dropped_.push_back(line); // so that page sizes can follow
+            return true;
+        }
         if (entry(line).contains('\0'))
             return dropUnread(line);
         if (line.longest > Limits::lineBytes && !line.value.startsWith('"'))
