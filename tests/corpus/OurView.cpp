@@ -29,7 +29,7 @@ Opening ourView(const std::string &ppd, const std::string &name, bool withTrial)
     for (const QString &key : document->options()) {
         OptionView found;
         noteText(document->optionText(key));
-        for (const PpdChoice &choice : document->choices(key)) {
+        for (const Choice &choice : document->choices(key)) {
             noteText(choice.text);
             found.choices.push_back(choice.keyword.toStdString());
             if (marker.check(key, choice.keyword).verdict == Verdict::Conflict)
