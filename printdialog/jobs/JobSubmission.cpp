@@ -6,7 +6,7 @@
 #include "CupsConnection.h"
 #include "JobFollowing.h"
 #include "PlainText.h"
-#include "PpdFetcher.h"
+#include "OptionsFetcher.h"
 #include "QueueRecord.h"
 
 #include <QtCore/QCoreApplication>

@@ -5,8 +5,8 @@
 
 #include "BoundedWorker.h"
 #include "CupsConnection.h"
+#include "OptionsFetcher.h"
 #include "PlainText.h"
-#include "PpdFetcher.h"
 #include "QueueRecord.h"
 #include "UserDestinations.h"
 
@@ -227,7 +227,7 @@ Result<OpenedQueue, QueueFault> openHere(const Destination &destination, std::ch
     const QList<Queue> found = answer ? queuesIn(answer.get()) : QList<Queue>();
     if (found.isEmpty())
         return connection.lastFailure(destination.id());
-    OpenedQueue opened{found.constFirst(), false, {}};
+    OpenedQueue opened{found.constFirst(), false, {}, {}};
     opened.queue.instance = destination.instance;
     const auto ppd = ppdOf(connection, *record);
     if (!ppd && ppd.failure().reason != QueueFault::NoPpd)
@@ -236,6 +236,7 @@ Result<OpenedQueue, QueueFault> openHere(const Destination &destination, std::ch
         opened.hasPpd = true;
         opened.ppd = *ppd;
     }
+    opened.attributes = attributesOf(connection, *record, opened.hasPpd, attributesPatience(limit));
     return opened;
 }
 
@@ -244,7 +245,8 @@ Result<OpenedQueue, QueueFault> openHere(const Destination &destination, std::ch
 Result<OpenedQueue, QueueFault> queueNamed(const Destination &destination, std::chrono::milliseconds limit)
 {
     auto opened = callWithin<Result<OpenedQueue, QueueFault>>(
-        limit, [destination, limit](int *cancel) { return openHere(destination, limit, cancel); });
+        limit + attributesPatience(limit),
+        [destination, limit](int *cancel) { return openHere(destination, limit, cancel); });
     return opened ? *std::move(opened) : queueFailure(QueueFault::TimedOut, destination.id());
 }
 

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "IppAttributes.h"
 #include "Queue.h"
 #include "QueueFault.h"
 
@@ -23,16 +24,18 @@ Result<QList<Queue>, QueueFault> listQueues(std::chrono::milliseconds limit);
 /// @param cancel non-zero: give up; may be null
 Result<QList<Queue>, QueueFault> sweepQueues(std::chrono::milliseconds limit, int *cancel);
 
-/// A queue and its PPD.
+/// A queue and what can be chosen for it.
 struct OpenedQueue
 {
     Queue queue;
-    bool hasPpd = false; ///< A raw queue, or a class of them, has none.
-    QByteArray ppd;      ///< Untrusted, unparsed.
+    bool hasPpd = false;      ///< A raw queue, or a class of them, has none.
+    QByteArray ppd;           ///< Untrusted, unparsed.
+    IppAttributes attributes; ///< Empty when the server has none.
 };
 
-/// Requests one queue and its PPD without listing the others. An instance is not checked, since it exists
-/// only on this side. Blocks, at most for the limit. Failures: all of QueueFault but NoPpd.
+/// Requests one queue, its PPD and its attributes without listing the others. An instance is not checked,
+/// since it exists only on this side. Blocks, at most for the limit, and for attributesPatience() after the
+/// PPD. Failures: all of QueueFault but NoPpd.
 Result<OpenedQueue, QueueFault> queueNamed(const Destination &destination, std::chrono::milliseconds limit);
 
 /// Whether a failure of one of these means that this machine has no print server: the configured one is

@@ -1554,6 +1554,25 @@ Beispiele:
     </message>
 </context>
 <context>
+    <name>printdialog::OptionsFetcher</name>
+    <message>
+        <source>its PPD is larger than %1 MiB</source>
+        <translation>seine PPD-Datei ist größer als %1 MiB</translation>
+    </message>
+    <message>
+        <source>the connection broke in the middle of its PPD</source>
+        <translation>die Verbindung brach mitten in seiner PPD-Datei ab</translation>
+    </message>
+    <message>
+        <source>what the print server keeps is empty</source>
+        <translation>was der Druckserver hat, ist leer</translation>
+    </message>
+    <message>
+        <source>its PPD did not arrive within %1 s</source>
+        <translation>seine PPD-Datei kam nicht innerhalb von %1 s an</translation>
+    </message>
+</context>
+<context>
     <name>printdialog::OutcomeText</name>
     <message>
         <source>Printing was stopped.</source>
@@ -1851,25 +1870,6 @@ Beispiele:
     <message>
         <source>Turn the photo on the page by a quarter, clockwise</source>
         <translation>Das Foto auf der Seite um ein Viertel im Uhrzeigersinn drehen</translation>
-    </message>
-</context>
-<context>
-    <name>printdialog::PpdFetcher</name>
-    <message>
-        <source>its PPD is larger than %1 MiB</source>
-        <translation>seine PPD-Datei ist größer als %1 MiB</translation>
-    </message>
-    <message>
-        <source>the connection broke in the middle of its PPD</source>
-        <translation>die Verbindung brach mitten in seiner PPD-Datei ab</translation>
-    </message>
-    <message>
-        <source>what the print server keeps is empty</source>
-        <translation>was der Druckserver hat, ist leer</translation>
-    </message>
-    <message>
-        <source>its PPD did not arrive within %1 s</source>
-        <translation>seine PPD-Datei kam nicht innerhalb von %1 s an</translation>
     </message>
 </context>
 <context>

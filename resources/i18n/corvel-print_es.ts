@@ -1553,6 +1553,25 @@ Ejemplos:
     </message>
 </context>
 <context>
+    <name>printdialog::OptionsFetcher</name>
+    <message>
+        <source>its PPD is larger than %1 MiB</source>
+        <translation>su PPD ocupa más de %1 MiB</translation>
+    </message>
+    <message>
+        <source>the connection broke in the middle of its PPD</source>
+        <translation>la conexión se cortó en medio de su PPD</translation>
+    </message>
+    <message>
+        <source>what the print server keeps is empty</source>
+        <translation>el que tiene el servidor de impresión está vacío</translation>
+    </message>
+    <message>
+        <source>its PPD did not arrive within %1 s</source>
+        <translation>su PPD no llegó en %1 s</translation>
+    </message>
+</context>
+<context>
     <name>printdialog::OutcomeText</name>
     <message>
         <source>Printing was stopped.</source>
@@ -1850,25 +1869,6 @@ Ejemplos:
     <message>
         <source>Turn the photo on the page by a quarter, clockwise</source>
         <translation>Girar la foto en la página un cuarto de vuelta, en sentido horario</translation>
-    </message>
-</context>
-<context>
-    <name>printdialog::PpdFetcher</name>
-    <message>
-        <source>its PPD is larger than %1 MiB</source>
-        <translation>su PPD ocupa más de %1 MiB</translation>
-    </message>
-    <message>
-        <source>the connection broke in the middle of its PPD</source>
-        <translation>la conexión se cortó en medio de su PPD</translation>
-    </message>
-    <message>
-        <source>what the print server keeps is empty</source>
-        <translation>el que tiene el servidor de impresión está vacío</translation>
-    </message>
-    <message>
-        <source>its PPD did not arrive within %1 s</source>
-        <translation>su PPD no llegó en %1 s</translation>
     </message>
 </context>
 <context>

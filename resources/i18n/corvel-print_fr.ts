@@ -1554,6 +1554,25 @@ Exemples&#x202f;:
     </message>
 </context>
 <context>
+    <name>printdialog::OptionsFetcher</name>
+    <message>
+        <source>its PPD is larger than %1 MiB</source>
+        <translation>son PPD dépasse %1 Mio</translation>
+    </message>
+    <message>
+        <source>the connection broke in the middle of its PPD</source>
+        <translation>la connexion a été coupée au milieu de son PPD</translation>
+    </message>
+    <message>
+        <source>what the print server keeps is empty</source>
+        <translation>celui du serveur d’impression est vide</translation>
+    </message>
+    <message>
+        <source>its PPD did not arrive within %1 s</source>
+        <translation>son PPD n’est pas arrivé en %1 s</translation>
+    </message>
+</context>
+<context>
     <name>printdialog::OutcomeText</name>
     <message>
         <source>Printing was stopped.</source>
@@ -1851,25 +1870,6 @@ Exemples&#x202f;:
     <message>
         <source>Turn the photo on the page by a quarter, clockwise</source>
         <translation>Tourner la photo d’un quart de tour sur la page, dans le sens horaire</translation>
-    </message>
-</context>
-<context>
-    <name>printdialog::PpdFetcher</name>
-    <message>
-        <source>its PPD is larger than %1 MiB</source>
-        <translation>son PPD dépasse %1 Mio</translation>
-    </message>
-    <message>
-        <source>the connection broke in the middle of its PPD</source>
-        <translation>la connexion a été coupée au milieu de son PPD</translation>
-    </message>
-    <message>
-        <source>what the print server keeps is empty</source>
-        <translation>celui du serveur d’impression est vide</translation>
-    </message>
-    <message>
-        <source>its PPD did not arrive within %1 s</source>
-        <translation>son PPD n’est pas arrivé en %1 s</translation>
     </message>
 </context>
 <context>

@@ -1552,6 +1552,25 @@ Examples:
     </message>
 </context>
 <context>
+    <name>printdialog::OptionsFetcher</name>
+    <message>
+        <source>its PPD is larger than %1 MiB</source>
+        <translation>PPD が %1 MiB を超えています</translation>
+    </message>
+    <message>
+        <source>the connection broke in the middle of its PPD</source>
+        <translation>PPD の途中で接続が切れました</translation>
+    </message>
+    <message>
+        <source>what the print server keeps is empty</source>
+        <translation>プリントサーバーにあるものは空です</translation>
+    </message>
+    <message>
+        <source>its PPD did not arrive within %1 s</source>
+        <translation>%1 秒以内に PPD が届きませんでした</translation>
+    </message>
+</context>
+<context>
     <name>printdialog::OutcomeText</name>
     <message>
         <source>Printing was stopped.</source>
@@ -1848,25 +1867,6 @@ Examples:
     <message>
         <source>Turn the photo on the page by a quarter, clockwise</source>
         <translation>ページ上の写真を時計回りに 90 度回転します</translation>
-    </message>
-</context>
-<context>
-    <name>printdialog::PpdFetcher</name>
-    <message>
-        <source>its PPD is larger than %1 MiB</source>
-        <translation>PPD が %1 MiB を超えています</translation>
-    </message>
-    <message>
-        <source>the connection broke in the middle of its PPD</source>
-        <translation>PPD の途中で接続が切れました</translation>
-    </message>
-    <message>
-        <source>what the print server keeps is empty</source>
-        <translation>プリントサーバーにあるものは空です</translation>
-    </message>
-    <message>
-        <source>its PPD did not arrive within %1 s</source>
-        <translation>%1 秒以内に PPD が届きませんでした</translation>
     </message>
 </context>
 <context>

@@ -4,7 +4,7 @@
 #include "CupsConnection.h"
 #include "JobFollowing.h"
 #include "JobSubmission.h"
-#include "PpdFetcher.h"
+#include "OptionsFetcher.h"
 #include "PrivateCupsd.h"
 #include "QueueList.h"
 #include "QueueRecord.h"

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include "JobSubmission.h"
-#include "PpdFetcher.h"
+#include "OptionsFetcher.h"
 #include "PrivateCupsd.h"
 #include "QueueFinder.h"
 #include "QueueList.h"
@@ -179,7 +179,7 @@ private Q_SLOTS:
         // What is refused is never announced. The check has all the time that it wants, and no work with what
         // has passed before.
         std::optional<CheckedPpd> passed;
-        PpdFetcher fetcher(nullptr, 2s, [&passed](const QByteArray &ppd, const QString &queue) {
+        OptionsFetcher fetcher(nullptr, 2s, [&passed](const QByteArray &ppd, const QString &queue) {
             if (!passed)
                 return checkPpd(ppd, queue);
             QThread::msleep(2500);
@@ -187,11 +187,12 @@ private Q_SLOTS:
             return Result<CheckedPpd, PpdFault>(Failure<PpdFault>{PpdFault::Harmful, text, {}});
         });
         quint64 number = 0;
-        connect(&fetcher, &PpdFetcher::fetched, this, [&](quint64 announced, const CheckedPpd &ppd) {
-            number = announced;
-            passed = ppd;
-        });
-        const QSignalSpy failed(&fetcher, &PpdFetcher::failed);
+        connect(&fetcher, &OptionsFetcher::fetched, this,
+                [&](quint64 announced, const FetchedOptions &options) {
+                    number = announced;
+                    passed = options.ppd;
+                });
+        const QSignalSpy failed(&fetcher, &OptionsFetcher::failed);
         fetcher.fetch(u"raw"_s);
         const quint64 asked = fetcher.fetch(u"photo"_s);
         QTRY_VERIFY(passed);
@@ -208,15 +209,40 @@ private Q_SLOTS:
         QCOMPARE(number, known);
     }
 
+    // The defaults of a PPD's own options are only in them. One request, and without a PPD they come alone.
+    void attributesComeWithThePpd()
+    {
+        QVERIFY(cupsd_.run(u"lpadmin"_s, {u"-p"_s, u"photo"_s, u"-o"_s, u"Finish-default=Matte"_s}));
+        OptionsFetcher fetcher;
+        std::optional<FetchedOptions> options;
+        connect(&fetcher, &OptionsFetcher::fetched, this,
+                [&options](quint64 /*number*/, const FetchedOptions &fetched) { options = fetched; });
+        for (const auto &[queue, hasPpd] :
+             {std::pair(u"photo"_s, true), {u"group"_s, true}, {u"raw"_s, false}}) {
+            const qsizetype before = cupsd_.requests("POST / ");
+            options.reset();
+            fetcher.fetch(queue);
+            QTRY_VERIFY(options);
+            QCOMPARE(options->ppd.has_value(), hasPpd);
+            QCOMPARE(options->attributes.contains(u"job-hold-until-supported"_s), true);
+            QCOMPARE(options->attributes.text(u"Finish-default"_s),
+                     queue == u"photo"_s ? std::optional(u"Matte"_s) : std::nullopt);
+            QCOMPARE(cupsd_.requests("POST / "), before + 2); // with that for the queue's record
+            const auto opened = queueNamed(queue, 5s);
+            QVERIFY(opened && opened->attributes.names().size() == options->attributes.names().size());
+        }
+        QVERIFY(cupsd_.run(u"lpadmin"_s, {u"-p"_s, u"photo"_s, u"-R"_s, u"Finish-default"_s}));
+    }
+
     void fetchesAhead()
     {
         std::atomic<int> arrived = 0;
-        PpdFetcher fetcher(nullptr, 10s, [&arrived](const QByteArray &ppd, const QString &queue) {
+        OptionsFetcher fetcher(nullptr, 10s, [&arrived](const QByteArray &ppd, const QString &queue) {
             ++arrived;
             return trustPpd(ppd, queue);
         });
-        const QSignalSpy fetched(&fetcher, &PpdFetcher::fetched);
-        const QSignalSpy failed(&fetcher, &PpdFetcher::failed);
+        const QSignalSpy fetched(&fetcher, &OptionsFetcher::fetched);
+        const QSignalSpy failed(&fetcher, &OptionsFetcher::failed);
         for (const bool waits : {true, false}) {
             fetcher.fetchAhead(u"photo"_s);
             if (waits) {

@@ -4,8 +4,9 @@
 #include "CupsConnection.h"
 #include "JobFollowing.h"
 #include "JobSubmission.h"
+#include "OptionsFetcher.h"
 #include "PlainText.h"
-#include "PpdFetcher.h"
+#include "PrivateCupsd.h"
 #include "QueueFinder.h"
 #include "QueueList.h"
 #include "Rows.h"
@@ -52,11 +53,11 @@ bool resetPeak()
 /// What a fetch comes to, when it fails.
 Result<CheckedPpd, QueueFault> fetched(std::chrono::milliseconds limit)
 {
-    PpdFetcher fetcher(nullptr, limit);
+    OptionsFetcher fetcher(nullptr, limit);
     Failure<QueueFault> failure{QueueFault::Failed, u"nothing has failed"_s, {}};
     QEventLoop loop;
-    QObject::connect(&fetcher, &PpdFetcher::fetched, &loop, &QEventLoop::quit);
-    QObject::connect(&fetcher, &PpdFetcher::failed, &loop,
+    QObject::connect(&fetcher, &OptionsFetcher::fetched, &loop, &QEventLoop::quit);
+    QObject::connect(&fetcher, &OptionsFetcher::failed, &loop,
                      [&](quint64 /*number*/, QueueFault reason, const QString &text) {
                          failure = {reason, text, {}};
                          loop.quit();
@@ -242,6 +243,24 @@ private Q_SLOTS:
         }
     }
 
+    void ppdCountsWithoutAttributes()
+    {
+        using Manner = StubServer::Manner;
+        for (const Manner manner :
+             {Manner::Failing, Manner::Nesting, Manner::Trickling, Manner::BreakingOff}) {
+            const StubServer server(manner, StubServer::Requests::Attributes);
+            OptionsFetcher fetcher(nullptr, 500ms, [](const QByteArray & /*ppd*/, const QString &name) {
+                return trustPpd(testing_support::smallPpd(), name);
+            });
+            std::optional<FetchedOptions> options;
+            connect(&fetcher, &OptionsFetcher::fetched, this,
+                    [&options](quint64 /*number*/, const FetchedOptions &fetched) { options = fetched; });
+            fetcher.fetch(u"photo"_s);
+            QTRY_VERIFY(options);
+            QVERIFY(options->ppd && options->attributes.isEmpty());
+        }
+    }
+
     void answersThatMakeNoSense()
     {
         {
@@ -322,8 +341,8 @@ private Q_SLOTS:
 
     void onlyTheLatestFetchIsAnnounced()
     {
-        PpdFetcher fetcher(nullptr, 200ms);
-        const QSignalSpy failed(&fetcher, &PpdFetcher::failed);
+        OptionsFetcher fetcher(nullptr, 200ms);
+        const QSignalSpy failed(&fetcher, &OptionsFetcher::failed);
         // Fails at once, for want of a server: its outcome is under way and must not arrive.
         fetcher.fetch(u"none"_s);
         QTest::qSleep(100);

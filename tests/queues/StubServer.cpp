@@ -69,6 +69,11 @@ bool isPrintJob(const QByteArray &request)
     return request.mid(request.indexOf("\r\n\r\n") + 6, 2) == QByteArray("\x00\x02", 2);
 }
 
+bool isForAttributes(const QByteArray &request)
+{
+    return request.contains(attribute(0x44, "requested-attributes", "all"));
+}
+
 } // namespace
 
 StubServer::StubServer(Manner manner, Requests requests)
@@ -141,7 +146,8 @@ void StubServer::answer(int client)
             continue;
         const bool isFile = bytes.startsWith("GET ");
         if (requests_ == Requests::All || (requests_ == Requests::Files && isFile) ||
-            (requests_ == Requests::Jobs && isPrintJob(bytes))) {
+            (requests_ == Requests::Jobs && isPrintJob(bytes)) ||
+            (requests_ == Requests::Attributes && isForAttributes(bytes))) {
             misbehave(client);
             return;
         }

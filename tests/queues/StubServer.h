@@ -41,7 +41,7 @@ public:
         OddNames      ///< Has the queues "good", "go\tod", "a/b" and one with a name that is not UTF-8.
     };
     /// Which requests are answered in this manner; the others with success, as if every queue were known.
-    enum class Requests { All, Jobs, Files };
+    enum class Requests { All, Jobs, Files, Attributes };
 
     explicit StubServer(Manner manner, Requests requests = Requests::All);
     ~StubServer();

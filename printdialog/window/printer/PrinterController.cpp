@@ -3,8 +3,8 @@
 
 #include "PrinterController.h"
 
+#include "OptionsFetcher.h"
 #include "PpdDocument.h"
-#include "PpdFetcher.h"
 #include "PrinterChooser.h"
 #include "QueueCache.h"
 #include "UserDestinations.h"
@@ -43,7 +43,7 @@ SessionResult openCached(const RememberedQueue &remembered, PanelMode mode)
 
 PrinterController::PrinterController(const Request &request)
     : request_(request)
-    , fetcher_(new PpdFetcher(this))
+    , fetcher_(new OptionsFetcher(this))
 {
     std::optional<RememberedQueue> remembered;
     if (request_.remembers && !request_.ppdFile)
@@ -59,10 +59,10 @@ PrinterController::PrinterController(const Request &request)
         remembered_ = std::make_unique<RememberedQueue>(*std::move(remembered));
     if (request_.printer && *request_.printer != Destination::builtIn() && !request_.ppdFile)
         fetcher_->fetchAhead(*request_.printer);
-    connect(fetcher_, &PpdFetcher::fetched, this,
-            [this](quint64 /*number*/, const CheckedPpd &ppd) { usePpd(ppd); });
-    connect(fetcher_, &PpdFetcher::failed, this,
-            [this](quint64 /*number*/, QueueFault reason, const QString &text) { useFailure(reason, text); });
+    connect(fetcher_, &OptionsFetcher::fetched, this,
+            [this](quint64 /*number*/, const FetchedOptions &options) { useOptions(options); });
+    connect(fetcher_, &OptionsFetcher::failed, this,
+            [this](quint64 /*number*/, QueueFault /*reason*/, const QString &text) { closeSession(text); });
 }
 
 PrinterController::~PrinterController() = default;
@@ -197,23 +197,16 @@ void PrinterController::renewOptions(const Destination &destination, const QStri
     fetcher_->fetch(queue_.destination());
 }
 
-void PrinterController::usePpd(const CheckedPpd &ppd)
-{
-    if (session_ && session_->printer().hasPpd && session_->ppd()->data() == ppd.data())
-        confirm();
-    else
-        replaceSession(openQueue(queue_, ppd, request_.mode));
-}
-
 // A queue without a PPD can print, too: it only has nothing to choose.
-void PrinterController::useFailure(QueueFault reason, const QString &text)
+void PrinterController::useOptions(const FetchedOptions &options)
 {
-    if (reason != QueueFault::NoPpd)
-        closeSession(text);
-    else if (session_ && !session_->printer().hasPpd)
+    const auto ppd =
+        session_ && session_->printer().hasPpd ? std::optional(session_->ppd()->data()) : std::nullopt;
+    if (session_ && ppd == (options.ppd ? std::optional(options.ppd->data()) : std::nullopt))
         confirm();
     else
-        replaceSession(openRawQueue(queue_, request_.mode));
+        replaceSession(options.ppd ? openQueue(queue_, *options.ppd, request_.mode)
+                                   : openRawQueue(queue_, request_.mode));
 }
 
 // The options remembered from an earlier run are still those of the print server.

@@ -6,7 +6,6 @@
 #include "DialogSession.h"
 #include "PrinterSelection.h"
 #include "Queue.h"
-#include "QueueFault.h"
 #include "SessionOpening.h"
 
 #include <QtCore/QMap>
@@ -17,8 +16,9 @@
 
 namespace printdialog {
 
-class PpdFetcher;
+class OptionsFetcher;
 class PrinterChooser;
+struct FetchedOptions;
 struct RememberedQueue;
 
 /// Opens the printer that is chosen: asks for its PPD, makes its session, and remembers it for the next time.
@@ -97,8 +97,7 @@ private:
     void awaitOptions(const QString &id);
     void remember();
 
-    void usePpd(const CheckedPpd &ppd);
-    void useFailure(QueueFault reason, const QString &text);
+    void useOptions(const FetchedOptions &options);
     void use(SessionResult session);
     void confirm();
     void setSession(std::unique_ptr<DialogSession> session);
@@ -108,7 +107,7 @@ private:
     Request request_;
     QString builtInPreset_;
     std::unique_ptr<RememberedQueue> remembered_; ///< to begin with
-    PpdFetcher *fetcher_;
+    OptionsFetcher *fetcher_;
     PrinterChooser *chooser_ = nullptr;
     Queue queue_;
     QString whyNotReady_;

@@ -1,13 +1,16 @@
 // SPDX-FileCopyrightText: Corvel print dialog authors
 // SPDX-License-Identifier: Apache-2.0
 
-#include "PpdFetcher.h"
+#include "OptionsFetcher.h"
 
 #include "BoundedWorker.h"
 #include "CupsConnection.h"
 #include "QueueRecord.h"
 
 #include <QtCore/QUrl>
+
+#include <array>
+#include <future>
 
 using namespace std::chrono_literals;
 
@@ -33,39 +36,26 @@ QueueFault fetchFaultOf(http_status_t status)
 
 QString brokenReason()
 {
-    return PpdFetcher::tr("the connection broke in the middle of its PPD");
+    return OptionsFetcher::tr("the connection broke in the middle of its PPD");
 }
 
 QString tooLargeReason()
 {
-    return PpdFetcher::tr("its PPD is larger than %1 MiB").arg(fetchedPpdLimit / 1024 / 1024);
-}
-
-Result<QByteArray, QueueFault> fetchHere(const Destination &destination, std::chrono::milliseconds limit,
-                                         int *cancel)
-{
-    CupsConnection connection(limit, cancel);
-    const auto record = queueRecord(connection, destination);
-    if (!record)
-        return record.failure();
-    return ppdOf(connection, *record);
+    return OptionsFetcher::tr("its PPD is larger than %1 MiB").arg(fetchedPpdLimit / 1024 / 1024);
 }
 
 QString limitReason(std::chrono::milliseconds limit)
 {
-    return PpdFetcher::tr("its PPD did not arrive within %1 s")
+    return OptionsFetcher::tr("its PPD did not arrive within %1 s")
         .arg(std::chrono::duration<double>(limit).count());
 }
 
-Result<CheckedPpd, QueueFault> checked(const Result<QByteArray, QueueFault> &fetched,
-                                       const std::optional<CheckedPpd> &known, const PpdFetcher::Check &check,
-                                       const QString &name)
+Result<CheckedPpd, QueueFault> checked(const QByteArray &fetched, const std::optional<CheckedPpd> &known,
+                                       const OptionsFetcher::Check &check, const QString &name)
 {
-    if (!fetched)
-        return fetched.failure();
-    if (known && known->data() == *fetched)
+    if (known && known->data() == fetched)
         return *known;
-    auto ppd = check(*fetched, name);
+    auto ppd = check(fetched, name);
     if (!ppd)
         return Failure<QueueFault>{QueueFault::Failed, ppd.failure().text, {}};
     return *std::move(ppd);
@@ -92,11 +82,25 @@ Result<QByteArray, QueueFault> ppdOf(CupsConnection &connection, const QueueReco
     if (status != HTTP_STATUS_OK)
         return queueFailure(fetchFaultOf(status), queue, QString::fromUtf8(httpStatus(status)));
     if (ppd.isEmpty())
-        return queueFailure(QueueFault::NoPpd, queue, PpdFetcher::tr("what the print server keeps is empty"));
+        return queueFailure(QueueFault::NoPpd, queue,
+                            OptionsFetcher::tr("what the print server keeps is empty"));
     return ppd;
 }
 
-PpdFetcher::PpdFetcher(QObject *parent, std::chrono::milliseconds limit, Check check)
+IppAttributes attributesOf(CupsConnection &connection, const QueueRecord &record, bool hasPpd,
+                           std::chrono::milliseconds patience)
+{
+    connection.extend(patience);
+    // The server leaves out the defaults of a PPD's own options when more than "all" is requested.
+    static constexpr std::array wanted = {"all", "media-col-database"};
+    IppPointer request = ippRequest(IPP_OP_GET_PRINTER_ATTRIBUTES, record.uri);
+    ippAddStrings(request.get(), IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes",
+                  hasPpd ? 1 : static_cast<int>(wanted.size()), nullptr, wanted.data());
+    const IppPointer answer = connection.answerTo(std::move(request), "/");
+    return answer && connection.hasSucceeded() ? IppAttributes::ofPrinter(answer.get()) : IppAttributes();
+}
+
+OptionsFetcher::OptionsFetcher(QObject *parent, std::chrono::milliseconds limit, Check check)
     : QObject(parent)
     , check_(std::move(check))
 {
@@ -107,14 +111,14 @@ PpdFetcher::PpdFetcher(QObject *parent, std::chrono::milliseconds limit, Check c
     });
 }
 
-PpdFetcher::~PpdFetcher()
+OptionsFetcher::~OptionsFetcher()
 {
     limit_.stop();
     if (worker_)
         worker_->release(fetchEndPatience);
 }
 
-quint64 PpdFetcher::fetch(const Destination &destination, const std::optional<CheckedPpd> &known)
+quint64 OptionsFetcher::fetch(const Destination &destination, const std::optional<CheckedPpd> &known)
 {
     const bool isUnderWay = std::exchange(isAhead_, false) && destination == destination_;
     if (!isUnderWay)
@@ -122,36 +126,57 @@ quint64 PpdFetcher::fetch(const Destination &destination, const std::optional<Ch
     const quint64 number = ++number_;
     if (early_) {
         const auto announce = [this, number] {
-            if (const auto ppd = number == number_ ? std::exchange(early_, {}) : std::nullopt)
-                Q_EMIT fetched(number, *ppd);
+            if (const auto options = number == number_ ? std::exchange(early_, {}) : std::nullopt)
+                Q_EMIT fetched(number, *options);
         };
         QMetaObject::invokeMethod(this, announce, Qt::QueuedConnection);
     }
     return number;
 }
 
-void PpdFetcher::fetchAhead(const Destination &destination)
+void OptionsFetcher::fetchAhead(const Destination &destination)
 {
     start(destination, std::nullopt);
     isAhead_ = true;
 }
 
-void PpdFetcher::start(const Destination &destination, const std::optional<CheckedPpd> &known)
+void OptionsFetcher::start(const Destination &destination, const std::optional<CheckedPpd> &known)
 {
     cancel();
     destination_ = destination;
     worker_ = std::make_shared<BoundedWorker>(this);
     worker_->run(
         [this, destination, known, limit = limit_.intervalAsDuration(), check = check_](BoundedWorker &self) {
-            const auto fetched = fetchHere(destination, limit, self.cancelFlag());
-            self.post([this] { limit_.stop(); }); // the check that follows does not involve the server
-            const auto outcome = checked(fetched, known, check, destination.id());
+            const auto outcome = [&]() -> Result<FetchedOptions, QueueFault> {
+                CupsConnection connection(limit, self.cancelFlag());
+                const auto record = queueRecord(connection, destination);
+                if (!record)
+                    return record.failure();
+                const auto fetched = ppdOf(connection, *record);
+                if (!fetched && fetched.failure().reason != QueueFault::NoPpd)
+                    return fetched.failure();
+                std::future<Result<CheckedPpd, QueueFault>> checking;
+                if (fetched)
+                    checking = std::async(std::launch::async,
+                                          [&] { return checked(*fetched, known, check, destination.id()); });
+                self.post([this] { limit_.start(); });
+                FetchedOptions options{std::nullopt, attributesOf(connection, *record, bool(fetched),
+                                                                  attributesPatience(limit))};
+                self.post([this] { limit_.stop(); }); // the check does not involve the server
+                if (checking.valid()) {
+                    auto ppd = checking.get();
+                    if (!ppd)
+                        return ppd.failure();
+                    options.ppd = *std::move(ppd);
+                }
+                return options;
+            }();
             self.post([this, outcome] { take(outcome); });
         });
     limit_.start();
 }
 
-void PpdFetcher::cancel()
+void OptionsFetcher::cancel()
 {
     limit_.stop();
     isAhead_ = false;
@@ -160,12 +185,12 @@ void PpdFetcher::cancel()
         worker->release({});
 }
 
-Result<CheckedPpd, PpdFault> PpdFetcher::checkFetched(const QByteArray &ppd, const QString &name)
+Result<CheckedPpd, PpdFault> OptionsFetcher::checkFetched(const QByteArray &ppd, const QString &name)
 {
     return checkPpd(ppd, name);
 }
 
-void PpdFetcher::take(const Result<CheckedPpd, QueueFault> &outcome)
+void OptionsFetcher::take(const Result<FetchedOptions, QueueFault> &outcome)
 {
     const bool isEarly = isAhead_;
     cancel();
