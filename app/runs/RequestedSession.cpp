@@ -51,7 +51,7 @@ OpenedPrinter openQueueNamed(const Destination &destination, PanelMode mode)
     const auto ppd = checkPpd(opened->ppd, destination.id());
     if (!ppd)
         return refusal(ppd.failure().text);
-    return orSentence(openQueue(opened->queue, *ppd, mode));
+    return orSentence(openQueue(opened->queue, *ppd, mode, opened->attributes));
 }
 
 OpenedPrinter openDefaultQueue(const Destination &destination, PanelMode mode)
@@ -73,27 +73,37 @@ std::optional<Destination> destinationOf(const CommandLine &commandLine)
     return UserDestinations::read().defaultPrinter;
 }
 
-/// Makes the choices of the preset that the destination names. Returns an empty string, or why it failed.
-QString usePreset(RequestedSession &requested, const Destination &destination)
+/// Notes the copies, and what is left out in one line. @param introduction with a place for the sentences
+void take(RequestedSession &requested, const UsedChoices &used, const QString &introduction)
+{
+    requested.copies = used.copies.value_or(1);
+    QStringList sentences;
+    for (const QString &sentence : used.leftOut)
+        sentences += introduction.arg(sentence);
+    if (!sentences.isEmpty())
+        requested.leftOut += Console::oneLine(sentences);
+}
+
+/// Makes the choices of the preset that the destination names, or else the printer's defaults. Returns an
+/// empty string, or why it failed.
+QString makeFirstChoices(RequestedSession &requested, const Destination &destination)
 {
     const PrinterDescription &printer = requested.session->printer();
     const QString &queue = printer.destination.queue;
     const QString &name = (printer.isBuiltIn ? destination : printer.destination).instance;
-    if (name.isEmpty())
+    if (name.isEmpty()) {
+        take(requested, useDefaults(*requested.session),
+             SessionText::tr("Of the printer's defaults is left out: %1"));
         return {};
+    }
     const auto presets = PresetStore::of(queue, printer.isBuiltIn).presets();
     if (!presets)
         return presets.failure().text;
     const Preset *preset = PresetStore::findInstance(*presets, name);
     if (!preset)
         return PresetStore::missing(queue, name, *presets);
-    const UsedChoices used = printdialog::usePreset(*requested.session, *preset);
-    requested.copies = used.copies.value_or(1);
-    QStringList sentences;
-    for (const QString &sentence : used.leftOut)
-        sentences += SessionText::tr("Of the preset \"%1\" is left out: %2").arg(preset->name, sentence);
-    if (!sentences.isEmpty())
-        requested.leftOut += Console::oneLine(sentences);
+    take(requested, usePreset(*requested.session, *preset),
+         SessionText::tr("Of the preset \"%1\" is left out: %2").arg(preset->name, QStringLiteral("%1")));
     return {};
 }
 
@@ -137,7 +147,8 @@ Result<RequestedSession, std::monostate> openRequestedSession(const CommandLine 
         return refusal(SessionText::tr("The printer \"%1\" has no PPD file and so no option %2. Leave it "
                                        "out, or set the printer up with its driver.")
                            .arg(printer.destination.id(), commandLine.options.constFirst().key));
-    if (const QString failure = usePreset(requested, destinationOf(commandLine).value_or(Destination()));
+    if (const QString failure =
+            makeFirstChoices(requested, destinationOf(commandLine).value_or(Destination()));
         !failure.isEmpty())
         return refusal(failure);
     requested.copies = commandLine.copies.value_or(requested.copies);

@@ -88,6 +88,12 @@ void ChosenOptions::adopt(const QStringList &keys)
     }
 }
 
+void ChosenOptions::keep(const QStringList &keys)
+{
+    for (const QString &key : keys)
+        noteChosen(key);
+}
+
 void ChosenOptions::forget(const QStringList &keys)
 {
     for (const QString &key : keys)

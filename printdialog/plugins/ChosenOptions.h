@@ -62,6 +62,9 @@ public:
     void chooseTogether(const QMap<QString, QString> &choices);
     /// Adopts what a panel has saved for these options in the ticket.
     void adopt(const QStringList &keys);
+    /// Counts these options as chosen, whether their choices have changed or not: they are printed with even
+    /// if the print server has another default.
+    void keep(const QStringList &keys);
     /// Drops these options from chosenKeys(), since their panel is lost. Their choices stay.
     void forget(const QStringList &keys);
 

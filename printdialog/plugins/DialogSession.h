@@ -5,6 +5,7 @@
 
 #include "ChosenOptions.h"
 #include "CustomChoice.h"
+#include "IppAttributes.h"
 #include "OptionSource.h"
 #include "PluginLoader.h"
 #include "PrintDialogPlugin.h"
@@ -26,7 +27,8 @@ using GuardedPanels = std::vector<std::unique_ptr<GuardedPanel>>;
 struct SessionOptions
 {
     std::unique_ptr<OptionSource> source;
-    PpdDocument *ppd = nullptr; ///< owned by, or the same as, the source
+    PpdDocument *ppd = nullptr;    ///< owned by, or the same as, the source
+    IppAttributes attributes = {}; ///< the queue's; empty while they are not known
 };
 
 /// The options sent with a job.
@@ -54,6 +56,7 @@ public:
     const OptionSource &options() const { return *options_.source; }
     /// Null for a printer without one.
     const PpdDocument *ppd() const { return options_.ppd; }
+    const IppAttributes &attributes() const { return options_.attributes; }
     PanelMode mode() const { return mode_; }
 
     /// Loads the panels that the PPD requests, and restores them; then the dialog's own page for the options

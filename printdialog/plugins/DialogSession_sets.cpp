@@ -36,6 +36,7 @@ QList<Ruling> DialogSession::restoreChoices(const QMap<QString, QString> &choice
     const ChoicePlan plan = chosen_.plan(choices, base);
     made.insert(plan.choices);
     chooseTogether(made);
+    chosen_.keep(plan.choices.keys());
     return plan.leftOut;
 }
 

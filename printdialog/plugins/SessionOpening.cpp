@@ -17,18 +17,19 @@ PrinterDescription describe(const Queue &queue)
     return {queue.destination(), queue.info, queue.deviceUri, queue.isBuiltIn, true, queue.uri};
 }
 
-SessionOptions optionsOf(PpdDocument ppd)
+SessionOptions optionsOf(PpdDocument ppd, const IppAttributes &attributes = {})
 {
     auto document = std::make_unique<PpdDocument>(std::move(ppd));
     PpdDocument *borrowed = document.get();
-    return {std::move(document), borrowed};
+    return {std::move(document), borrowed, attributes};
 }
 
-SessionResult session(const Queue &queue, Result<PpdDocument, PpdFault> ppd, PanelMode mode)
+SessionResult session(const Queue &queue, Result<PpdDocument, PpdFault> ppd, PanelMode mode,
+                      const IppAttributes &attributes = {})
 {
     if (!ppd)
         return ppd.failure();
-    return std::make_unique<DialogSession>(describe(queue), optionsOf(*std::move(ppd)), mode);
+    return std::make_unique<DialogSession>(describe(queue), optionsOf(*std::move(ppd), attributes), mode);
 }
 
 QByteArray builtInPpd()
@@ -70,9 +71,10 @@ SessionResult openBuiltInPrinter(const std::optional<QString> &ppdFile, PanelMod
     return session(printer, openTrusted(builtInPpd(), printer.name), mode);
 }
 
-SessionResult openQueue(const Queue &queue, const CheckedPpd &ppd, PanelMode mode)
+SessionResult openQueue(const Queue &queue, const CheckedPpd &ppd, PanelMode mode,
+                        const IppAttributes &attributes)
 {
-    return session(queue, PpdDocument::open(ppd), mode);
+    return session(queue, PpdDocument::open(ppd), mode, attributes);
 }
 
 SessionResult openRawQueue(const Queue &queue, PanelMode mode)

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "DialogSession.h"
+#include "IppAttributes.h"
 #include "PpdCheck.h"
 #include "Queue.h"
 
@@ -16,7 +17,8 @@ using SessionResult = Result<std::unique_ptr<DialogSession>, PpdFault>;
 SessionResult openBuiltInPrinter(const std::optional<QString> &ppdFile, PanelMode mode);
 
 /// Opens a session for a queue with its PPD. Panels are not loaded yet.
-SessionResult openQueue(const Queue &queue, const CheckedPpd &ppd, PanelMode mode);
+SessionResult openQueue(const Queue &queue, const CheckedPpd &ppd, PanelMode mode,
+                        const IppAttributes &attributes = {});
 
 /// Opens a session for a queue without a PPD. It has no options and no panels, and one page size, which
 /// stands for the one set at the printer.

@@ -7,6 +7,7 @@
 #include "PlainText.h"
 #include "PresetStore.h"
 #include "PrintJob.h"
+#include "PrinterDefaults.h"
 #include "StoredChoices.h"
 
 #include <QtCore/QCoreApplication>
@@ -25,7 +26,8 @@ UsedChoices useChoices(DialogSession &session, QMap<QString, QString> choices, D
     else if (!text.isNull())
         used.leftOut += QCoreApplication::translate("UsedChoices", "\"%1\" is not a number of copies.")
                             .arg(plainText(text, longestNumber));
-    if (!session.printer().hasPpd)
+    const bool changesNothing = choices.isEmpty() && unnamed == DialogSession::Unnamed::Kept;
+    if (changesNothing || !session.printer().hasPpd)
         return used;
     const auto rulings = session.restoreChoices(choices, unnamed);
     for (const Ruling &ruling : rulings)
@@ -35,7 +37,12 @@ UsedChoices useChoices(DialogSession &session, QMap<QString, QString> choices, D
 
 UsedChoices usePreset(DialogSession &session, const Preset &preset)
 {
-    return useChoices(session, preset.choicesFor(session.options().options()), DialogSession::Unnamed::Default);
+    return useChoices(session, choicesOfLp(session, preset.options), DialogSession::Unnamed::Default);
+}
+
+UsedChoices useDefaults(DialogSession &session)
+{
+    return useChoices(session, printerDefaults(session), DialogSession::Unnamed::Default);
 }
 
 } // namespace printdialog

@@ -26,7 +26,11 @@ struct UsedChoices
 UsedChoices useChoices(DialogSession &session, QMap<QString, QString> choices,
                        DialogSession::Unnamed unnamed = DialogSession::Unnamed::Kept);
 
-/// Applies a preset as lp(1) prints with it: options that it does not name get the PPD's default.
+/// Applies a preset as lp(1) prints with it: options that it does not name get the print server's default, or
+/// else the PPD's.
 UsedChoices usePreset(DialogSession &session, const Preset &preset);
+
+/// Makes the choices that lp(1) prints with when no preset is named (see printerDefaults), for all options.
+UsedChoices useDefaults(DialogSession &session);
 
 } // namespace printdialog

@@ -36,18 +36,6 @@ void giveNames(QList<Preset> &presets)
 
 } // namespace
 
-QMap<QString, QString> Preset::choicesFor(const QStringList &printerOptions) const
-{
-    QMap<QString, QString> choices = options;
-    for (auto entry = inherited.cbegin(); entry != inherited.cend(); ++entry) {
-        const bool isRelevant =
-            entry.key() == QLatin1String(copiesOption) || printerOptions.contains(entry.key());
-        if (isRelevant && !choices.contains(entry.key()))
-            choices.insert(entry.key(), entry.value());
-    }
-    return choices;
-}
-
 PresetStore::PresetStore(const QString &queue)
     : queue_(queue)
     , file_(userFile())
@@ -89,26 +77,21 @@ PresetStore::Presets PresetStore::presetsIn(const QByteArray &user) const
     const auto read = SettingsFile::read(systemFile_);
     const QByteArray system = read ? *read : QByteArray();
     Presets presets;
-    QMap<QString, QString> ofQueue;
     for (const bool isUserFile : {false, true}) {
         const auto entries = LpoptionsFile(isUserFile ? user : system).entries();
         for (const LpoptionsFile::Entry &entry : entries) {
             const QString &instance = entry.destination.instance;
             // CUPS would not recognize a name that was cleaned.
-            if (!PresetName::areSame(entry.destination.queue, queue_) || plainText(instance) != instance)
+            if (instance.isEmpty() || !PresetName::areSame(entry.destination.queue, queue_) ||
+                plainText(instance) != instance)
                 continue;
-            if (instance.isEmpty()) {
-                ofQueue.insert(entry.options);
-                continue;
-            }
             const auto known = std::ranges::find_if(presets, [&instance](const Preset &preset) {
                 return PresetName::areSame(preset.instance, instance);
             });
             if (known == presets.end()) {
-                // In libcups, an instance inherits the options read so far for its queue.
-                presets += {instance, entry.options, ofQueue, isUserFile, instance};
+                presets += {instance, entry.options, isUserFile, instance};
             } else {
-                known->options.insert(entry.options);
+                mergeOptions(known->options, entry.options);
                 known->isWritable = isUserFile;
             }
         }
@@ -116,6 +99,20 @@ PresetStore::Presets PresetStore::presetsIn(const QByteArray &user) const
     giveNames(presets);
     std::ranges::sort(presets, {}, [](const Preset &preset) { return preset.name.toLower(); });
     return presets;
+}
+
+QMap<QString, QString> PresetStore::queueOptions() const
+{
+    QMap<QString, QString> options;
+    for (const QString &path : {systemFile_, file_}) {
+        const auto text = SettingsFile::read(path);
+        const auto entries = LpoptionsFile(text ? *text : QByteArray()).entries();
+        for (const LpoptionsFile::Entry &entry : entries) {
+            if (entry.destination.instance.isEmpty() && PresetName::areSame(entry.destination.queue, queue_))
+                mergeOptions(options, entry.options);
+        }
+    }
+    return options;
 }
 
 SettingsFailure PresetStore::changeFile(const FileChange &change)

@@ -21,14 +21,9 @@ class LpoptionsFile;
 struct Preset
 {
     QString name;
-    QMap<QString, QString> options;   ///< option keyword to choice keyword, and "copies"
-    QMap<QString, QString> inherited; ///< the options that the queue's own entry adds
-    bool isWritable = true;           ///< false: a system preset, which only the administrator can change
-    QString instance;                 ///< its name in CUPS (see PresetName)
-
-    /// The preset's choices for a printer with these options: its own, and those that the queue's own entry
-    /// adds for the printer's options or the copies. Other options of that entry do not concern the dialog.
-    QMap<QString, QString> choicesFor(const QStringList &printerOptions) const;
+    QMap<QString, QString> options; ///< option keyword to choice keyword, and "copies"
+    bool isWritable = true;         ///< false: a system preset, which only the administrator can change
+    QString instance;               ///< its name in CUPS (see PresetName)
 };
 
 /// The presets of one printer. Those of a queue are its instances in the user's lpoptions file, in the format
@@ -64,6 +59,9 @@ public:
 
     /// Sorted by name.
     Result<QList<Preset>, SettingsFault> presets() const;
+    /// The options for the queue without a preset, in the system's and the user's lpoptions. As with lp(1),
+    /// presets do not inherit them. Empty when the files cannot be read.
+    QMap<QString, QString> queueOptions() const;
 
     /// Adds a preset. Failures: BadName, NameTaken, and those of the file.
     SettingsFailure add(const QString &name, const QMap<QString, QString> &options);

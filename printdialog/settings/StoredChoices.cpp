@@ -5,6 +5,16 @@
 
 namespace printdialog {
 
+void mergeOptions(QMap<QString, QString> &options, const QMap<QString, QString> &added)
+{
+    for (auto option = added.cbegin(); option != added.cend(); ++option) {
+        options.removeIf([&option](const auto &known) {
+            return known.key().compare(option.key(), Qt::CaseInsensitive) == 0;
+        });
+        options.insert(option.key(), *option);
+    }
+}
+
 QJsonObject jsonOfChoices(const QMap<QString, QString> &choices)
 {
     QJsonObject object;

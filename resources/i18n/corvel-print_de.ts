@@ -1091,6 +1091,10 @@ Beispiele:
         <source>The printer &quot;%1&quot; has no PPD file and so no option %2. Leave it out, or set the printer up with its driver.</source>
         <translation>Der Drucker „%1“ hat keine PPD-Datei und deshalb keine Option %2. Lassen Sie sie weg oder richten Sie den Drucker mit seinem Treiber ein.</translation>
     </message>
+    <message>
+        <source>Of the printer&apos;s defaults is left out: %1</source>
+        <translation>Vom Standard des Druckers bleibt weg: %1</translation>
+    </message>
 </context>
 <context>
     <name>ScreenshotRun</name>
@@ -1964,6 +1968,10 @@ Beispiele:
     <message>
         <source>The preset &quot;%1&quot; no longer exists.</source>
         <translation>Die Voreinstellung „%1“ gibt es nicht mehr.</translation>
+    </message>
+    <message>
+        <source>Of the printer&apos;s defaults, some are left out:</source>
+        <translation>Vom Standard des Druckers entfällt einiges:</translation>
     </message>
 </context>
 <context>

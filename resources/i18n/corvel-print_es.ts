@@ -1090,6 +1090,10 @@ Ejemplos:
         <source>The printer &quot;%1&quot; has no PPD file and so no option %2. Leave it out, or set the printer up with its driver.</source>
         <translation>La impresora «%1» no tiene archivo PPD y por tanto ninguna opción %2. Omítala o configure la impresora con su controlador.</translation>
     </message>
+    <message>
+        <source>Of the printer&apos;s defaults is left out: %1</source>
+        <translation>De los valores predeterminados de la impresora se omite: %1</translation>
+    </message>
 </context>
 <context>
     <name>ScreenshotRun</name>
@@ -1963,6 +1967,10 @@ Ejemplos:
     <message>
         <source>The preset &quot;%1&quot; no longer exists.</source>
         <translation>El preajuste «%1» ya no existe.</translation>
+    </message>
+    <message>
+        <source>Of the printer&apos;s defaults, some are left out:</source>
+        <translation>De los valores predeterminados de la impresora, algunos se omiten:</translation>
     </message>
 </context>
 <context>

@@ -1091,6 +1091,10 @@ Exemples&#x202f;:
         <source>The printer &quot;%1&quot; has no PPD file and so no option %2. Leave it out, or set the printer up with its driver.</source>
         <translation>L’imprimante «&#xa0;%1&#xa0;» n’a pas de fichier PPD, donc pas d’option %2. Retirez-la ou installez l’imprimante avec son pilote.</translation>
     </message>
+    <message>
+        <source>Of the printer&apos;s defaults is left out: %1</source>
+        <translation>Des valeurs par défaut de l’imprimante est laissé de côté : %1</translation>
+    </message>
 </context>
 <context>
     <name>ScreenshotRun</name>
@@ -1964,6 +1968,10 @@ Exemples&#x202f;:
     <message>
         <source>The preset &quot;%1&quot; no longer exists.</source>
         <translation>Le préréglage «&#x202f;%1&#x202f;» n’existe plus.</translation>
+    </message>
+    <message>
+        <source>Of the printer&apos;s defaults, some are left out:</source>
+        <translation>Certaines valeurs par défaut de l’imprimante ne sont pas reprises :</translation>
     </message>
 </context>
 <context>

@@ -1089,6 +1089,10 @@ Examples:
         <source>The printer &quot;%1&quot; has no PPD file and so no option %2. Leave it out, or set the printer up with its driver.</source>
         <translation>プリンター「%1」には PPD ファイルがないため、オプション %2 はありません。指定を外すか、ドライバーを使ってプリンターを設定してください。</translation>
     </message>
+    <message>
+        <source>Of the printer&apos;s defaults is left out: %1</source>
+        <translation>プリンタの既定値のうち次は使われません: %1</translation>
+    </message>
 </context>
 <context>
     <name>ScreenshotRun</name>
@@ -1960,6 +1964,10 @@ Examples:
     <message>
         <source>The preset &quot;%1&quot; no longer exists.</source>
         <translation>プリセット「%1」はもうありません。</translation>
+    </message>
+    <message>
+        <source>Of the printer&apos;s defaults, some are left out:</source>
+        <translation>プリンタの既定値のうち、次のものは適用されませんでした:</translation>
     </message>
 </context>
 <context>

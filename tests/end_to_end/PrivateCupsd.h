@@ -52,6 +52,8 @@ public:
     /// Adds a queue, or replaces it, on the recorder backend. Without a PPD it is a raw queue.
     bool addQueue(const QString &name, const QByteArray &ppd = {}, const QStringList &lpadminArguments = {});
     bool deleteQueue(const QString &name);
+    /// The server's copy of the queue's PPD.
+    QString ppdPath(const QString &queue) const { return path("etc/ppd/") + queue + QStringLiteral(".ppd"); }
     /// Runs a program of CUPS against this server (lpadmin, cupsreject, cupsdisable, lpoptions...).
     bool run(const QString &program, const QStringList &arguments);
 

@@ -126,7 +126,7 @@ private Q_SLOTS:
         QCOMPARE(content(PresetStore::userFile()), QByteArray(others).replace("Keep   odd", "Keep odd"));
         const auto presets = store.presets();
         QCOMPARE(presets->constFirst().options, (Options{{u"odd"_s, u"a \" b"_s}}));
-        QCOMPARE(presets->constFirst().inherited, (Options{{u"Stray"_s, u"1"_s}}));
+        QCOMPARE(store.queueOptions(), (Options{{u"Stray"_s, u"1"_s}}));
     }
 
     void valuesComeBackAsCupsReadsThem()
@@ -255,10 +255,10 @@ private Q_SLOTS:
 
     void systemPresetsAreReadOnly()
     {
-        write(home_->filePath(u"system/lpoptions"_s), "Dest photo Blue=2\nDest photo/house Red=1\n");
+        write(home_->filePath(u"system/lpoptions"_s), "Dest photo Blue=2 Red=3\nDest photo/house Red=1\n");
         PresetStore store(u"photo"_s);
         QCOMPARE(namesOf(store), QStringList{u"house"_s});
-        QCOMPARE(store.presets()->constFirst().inherited, (Options{{u"Blue"_s, u"2"_s}}));
+        QCOMPARE(store.presets()->constFirst().options, (Options{{u"Red"_s, u"1"_s}}));
         QCOMPARE(store.update(u"house"_s, {})->reason, SettingsFault::ReadOnly);
         QCOMPARE(store.remove(u"house"_s)->reason, SettingsFault::ReadOnly);
         QCOMPARE(store.add(u"house"_s, {})->reason, SettingsFault::NameTaken);

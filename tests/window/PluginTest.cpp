@@ -160,7 +160,7 @@ private Q_SLOTS:
             return names.join(u' ');
         };
         const auto opened = open();
-        QCOMPARE(calls(), u"init panels name restore save restore view willShow"_s);
+        QCOMPARE(calls(), u"init panels name restore view willShow"_s);
         chooseDeckle(*opened);
         QCOMPARE(calls(), mode_ == PanelMode::Constraint ? u"act"_s : u"act save"_s);
         QTest::keyClick(opened->dialog.get(), Qt::Key_F1);

@@ -18,6 +18,18 @@ struct RecordCloser
     void operator()(ppd_file_t *record) const { ppdClose(record); }
 };
 
+/// Has libcups make its index of the PPD's sizes, trays and presets.
+void tryJobOptions(ppd_file_t &record)
+{
+    cups_option_t *options = nullptr;
+    int count = 0;
+    for (const char *option : {"media=iso_a4_210x297mm", "sides=two-sided-long-edge", "print-quality=5",
+                               "print-color-mode=monochrome", "output-bin=face-down", "finishings=4"})
+        count = cupsParseOptions(option, count, &options);
+    cupsMarkOptions(&record, count, options);
+    cupsFreeOptions(count, options);
+}
+
 /// Resolving conflicts is by far the most expensive part, and trying it with each option is more than a user
 /// ever does.
 constexpr std::clock_t resolvingTime = CLOCKS_PER_SEC;
@@ -75,6 +87,7 @@ void tryPpd(int descriptor)
     for (const ppd_group_t &group : std::span(record->groups, static_cast<std::size_t>(record->num_groups)))
         tryGroup(*record, group);
     ppdConflicts(record.get());
+    tryJobOptions(*record);
     ppdMarkDefaults(record.get());
     ppdPageSize(record.get(), nullptr);
 }

@@ -9,6 +9,7 @@
 #include "PresetBar.h"
 #include "PresetName.h"
 #include "PresetStore.h"
+#include "PrinterDefaults.h"
 #include "QueueSettings.h"
 #include "StoredChoices.h"
 #include "UsedChoices.h"
@@ -46,9 +47,7 @@ void PresetController::setSession(DialogSession *session, const QString &builtIn
     load();
     if (openWith(session->printer().isBuiltIn ? builtInPreset : session->printer().destination.instance))
         return;
-    const UsedChoices last = useChoices(*session, QueueSettings::load(queue));
-    steps_->setCopies(last.copies.value_or(1));
-    sayLeftOut(tr("Of the choices used last, some are left out:"), last.leftOut);
+    openWithLastChoices();
 }
 
 void PresetController::update()
@@ -70,6 +69,19 @@ bool PresetController::openWith(const QString &instance)
     else
         bar_->showError(PresetStore::missing(session_->printer().destination.queue, instance, *presets));
     return preset != nullptr;
+}
+
+/// What was used last, and the printer's defaults for the other options.
+void PresetController::openWithLastChoices()
+{
+    const QMap<QString, QString> last = QueueSettings::load(session_->printer().destination.queue);
+    QMap<QString, QString> defaults = printerDefaults(*session_);
+    defaults.removeIf([&last](const auto &choice) { return last.contains(choice.key()); });
+    const UsedChoices usedLast = useChoices(*session_, last);
+    const UsedChoices used = useChoices(*session_, defaults);
+    steps_->setCopies(usedLast.copies.value_or(used.copies.value_or(1)));
+    sayLeftOut(leftOutLines(tr("Of the choices used last, some are left out:"), usedLast.leftOut) +
+               leftOutOfDefaults(used.leftOut));
 }
 
 QString PresetController::keep(const QMap<QString, QString> &options)
@@ -124,8 +136,7 @@ void PresetController::mark(const QString &name)
 void PresetController::use(const QString &name)
 {
     Q_EMIT aboutToUse();
-    const QStringList leftOut = restore(name);
-    sayLeftOut(tr("Of the preset \"%1\", some choices are left out:").arg(name), leftOut);
+    sayLeftOut(leftOutLines(tr("Of the preset \"%1\", some choices are left out:").arg(name), restore(name)));
 }
 
 /// Returns what is left out.
@@ -140,22 +151,38 @@ QStringList PresetController::restore(const QString &name)
         bar_->showError(tr("The preset \"%1\" no longer exists.").arg(name));
         return {};
     }
-    const UsedChoices used = printdialog::usePreset(*session_, *preset);
+    return take(usePreset(*session_, *preset), preset->name);
+}
+
+/// Returns what is left out.
+QStringList PresetController::take(const UsedChoices &used, const QString &name)
+{
     steps_->setCopies(used.copies.value_or(1));
     steps_->note();
-    mark(preset->name);
+    mark(name);
     return used.leftOut;
 }
 
-void PresetController::sayLeftOut(const QString &introduction, const QStringList &sentences)
+void PresetController::sayLeftOut(const QStringList &lines)
+{
+    if (!lines.isEmpty())
+        message_->show(MessageBar::Kind::Warning, lines.join(u'\n'));
+}
+
+QStringList PresetController::leftOutLines(const QString &introduction, const QStringList &sentences)
 {
     constexpr qsizetype most = 4;
     if (sentences.isEmpty())
-        return;
+        return {};
     QStringList lines = QStringList(introduction) + sentences.first(std::min(sentences.size(), most));
     if (sentences.size() > most)
         lines += tr("And %n more.", nullptr, static_cast<int>(sentences.size() - most));
-    message_->show(MessageBar::Kind::Warning, lines.join(u'\n'));
+    return lines;
+}
+
+QStringList PresetController::leftOutOfDefaults(const QStringList &sentences)
+{
+    return leftOutLines(tr("Of the printer's defaults, some are left out:"), sentences);
 }
 
 /// All choices of the job; nothing when they conflict, which is then shown.

@@ -19,6 +19,7 @@ class DialogSession;
 class MessageBar;
 class PresetBar;
 class PresetStore;
+struct UsedChoices;
 
 /// Loads choices from a printer's presets and from the last time, and saves them there.
 class PresetController : public QObject
@@ -29,7 +30,8 @@ public:
     PresetController(PresetBar *bar, MessageBar *message, ChoiceSteps *steps, QObject *parent);
     ~PresetController() override;
 
-    /// Makes the choices of the preset that the printer's id names, or else those last used with the printer.
+    /// Makes the choices of the preset that the printer's id names, or else those last used with the
+    /// printer, and its defaults for the other options.
     /// The session must outlive this object or the next call; null: none.
     /// @param builtInPreset the built-in printer's preset, which its id does not name
     void setSession(DialogSession *session, const QString &builtInPreset);
@@ -49,8 +51,10 @@ private:
     void makeActions();
     void load();
     bool openWith(const QString &instance);
+    void openWithLastChoices();
     void use(const QString &name);
     QStringList restore(const QString &name);
+    QStringList take(const UsedChoices &used, const QString &name);
     void add(const QString &typed);
     void replace(const QString &name);
     void rename(const QString &name, const QString &typed);
@@ -58,7 +62,9 @@ private:
     std::optional<QMap<QString, QString>> kept();
     QMap<QString, QString> withCopies(QMap<QString, QString> options) const;
     void mark(const QString &name);
-    void sayLeftOut(const QString &introduction, const QStringList &sentences);
+    void sayLeftOut(const QStringList &lines);
+    static QStringList leftOutLines(const QString &introduction, const QStringList &sentences);
+    static QStringList leftOutOfDefaults(const QStringList &sentences);
 
     PresetBar *bar_;
     MessageBar *message_;

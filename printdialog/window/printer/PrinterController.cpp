@@ -205,7 +205,7 @@ void PrinterController::useOptions(const FetchedOptions &options)
     if (session_ && ppd == (options.ppd ? std::optional(options.ppd->data()) : std::nullopt))
         confirm();
     else
-        replaceSession(options.ppd ? openQueue(queue_, *options.ppd, request_.mode)
+        replaceSession(options.ppd ? openQueue(queue_, *options.ppd, request_.mode, options.attributes)
                                    : openRawQueue(queue_, request_.mode));
 }
 
