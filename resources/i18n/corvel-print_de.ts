@@ -1943,6 +1943,10 @@ Beispiele:
         <source>Delete &quot;%1&quot;?</source>
         <translation>„%1“ löschen?</translation>
     </message>
+    <message>
+        <source>Printer Defaults</source>
+        <translation>Standard des Druckers</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::PresetController</name>

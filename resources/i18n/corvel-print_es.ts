@@ -1942,6 +1942,10 @@ Ejemplos:
         <source>Delete &quot;%1&quot;?</source>
         <translation>¿Eliminar «%1»?</translation>
     </message>
+    <message>
+        <source>Printer Defaults</source>
+        <translation>Valores predeterminados de la impresora</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::PresetController</name>

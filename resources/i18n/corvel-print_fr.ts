@@ -1093,7 +1093,7 @@ Exemples&#x202f;:
     </message>
     <message>
         <source>Of the printer&apos;s defaults is left out: %1</source>
-        <translation>Des valeurs par défaut de l’imprimante est laissé de côté : %1</translation>
+        <translation>Des valeurs par défaut de l’imprimante est laissé de côté&#x202f;: %1</translation>
     </message>
 </context>
 <context>
@@ -1943,6 +1943,10 @@ Exemples&#x202f;:
         <source>Delete &quot;%1&quot;?</source>
         <translation>Supprimer «&#x202f;%1&#x202f;»&#x202f;?</translation>
     </message>
+    <message>
+        <source>Printer Defaults</source>
+        <translation>Valeurs par défaut de l’imprimante</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::PresetController</name>
@@ -1971,7 +1975,7 @@ Exemples&#x202f;:
     </message>
     <message>
         <source>Of the printer&apos;s defaults, some are left out:</source>
-        <translation>Certaines valeurs par défaut de l’imprimante ne sont pas reprises :</translation>
+        <translation>Certaines valeurs par défaut de l’imprimante ne sont pas reprises&#x202f;:</translation>
     </message>
 </context>
 <context>

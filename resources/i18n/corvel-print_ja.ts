@@ -1940,6 +1940,10 @@ Examples:
         <source>Delete &quot;%1&quot;?</source>
         <translation>「%1」を削除しますか?</translation>
     </message>
+    <message>
+        <source>Printer Defaults</source>
+        <translation>プリンタの既定値</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::PresetController</name>

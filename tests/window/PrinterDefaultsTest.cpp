@@ -149,6 +149,18 @@ private Q_SLOTS:
         const auto opened = openQueue(u"photo"_s);
         QCOMPARE(opened->fieldText(81), u"9"_s);
         QVERIFY(choicesOf(print(*opened)).contains(u"Duplex=DuplexTumble"_s));
+        // By its name, and as a step.
+        auto *presets = opened->find<QComboBox>(u"presets"_s);
+        presets->setFocus();
+        QTest::keyClick(presets, Qt::Key_P);
+        QCOMPARE(opened->fieldText(81), u"5"_s);
+        QCOMPARE(presets->currentText(), u"Printer Defaults"_s);
+        opened->undo();
+        QCOMPARE(opened->fieldText(81), u"9"_s);
+        QCOMPARE(presets->currentText(), u"Printer Defaults (changed)"_s);
+        opened->redo();
+        QCOMPARE(presets->currentText(), u"Printer Defaults"_s);
+        QVERIFY(choicesOf(print(*opened)).contains(u"Duplex=DuplexNoTumble"_s));
     }
 
 private:

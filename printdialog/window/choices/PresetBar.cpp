@@ -173,6 +173,9 @@ void PresetBar::setNames(const QList<Name> &names)
 {
     known_ = names;
     names_->clear();
+    names_->addItem(tr("Printer Defaults"), defaultsName());
+    if (!names.isEmpty())
+        names_->insertSeparator(1);
     for (const Name &each : names)
         names_->addItem(each.name, each.name);
     setCurrent({}, false);
@@ -185,7 +188,8 @@ void PresetBar::setCurrent(const QString &name, bool isChanged)
     isChanged_ = isKnown && isChanged;
     for (int i = 0; i < names_->count(); ++i) {
         const QString each = names_->itemData(i).toString();
-        names_->setItemText(i, each == current_ && isChanged_ ? tr("%1 (changed)").arg(each) : each);
+        const QString shown = each == defaultsName() ? tr("Printer Defaults") : each;
+        names_->setItemText(i, each == current_ && isChanged_ ? tr("%1 (changed)").arg(shown) : shown);
     }
     names_->setCurrentIndex(names_->findData(name));
     updateActions();
@@ -196,7 +200,7 @@ void PresetBar::updateActions()
     const auto known = std::ranges::find(known_, current_, &Name::name);
     const bool isWritable = known != known_.end() && known->isWritable;
     update_->setText(
-        current_.isEmpty()
+        known == known_.end()
             ? tr("&Save")
             : tr("&Save \"%1\"").arg(QString(current_).replace(QLatin1Char('&'), QLatin1String("&&"))));
     update_->setEnabled(isWritable && isChanged_);

@@ -32,6 +32,10 @@ public:
 
     explicit PresetBar(QWidget *parent = nullptr);
 
+    /// Stands for the printer's defaults, the first of the choices, in place of a preset's name. No preset
+    /// can have this name.
+    static QString defaultsName() { return QStringLiteral("\n"); }
+
     /// Sets the names to choose from; afterwards, none of them is in use.
     void setNames(const QList<Name> &names);
     /// Sets the preset in use (none for an unknown name), and whether its choices were changed since.

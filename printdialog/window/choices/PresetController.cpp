@@ -136,7 +136,11 @@ void PresetController::mark(const QString &name)
 void PresetController::use(const QString &name)
 {
     Q_EMIT aboutToUse();
-    sayLeftOut(leftOutLines(tr("Of the preset \"%1\", some choices are left out:").arg(name), restore(name)));
+    if (name == PresetBar::defaultsName())
+        sayLeftOut(leftOutOfDefaults(take(useDefaults(*session_), name)));
+    else
+        sayLeftOut(
+            leftOutLines(tr("Of the preset \"%1\", some choices are left out:").arg(name), restore(name)));
 }
 
 /// Returns what is left out.
