@@ -21,6 +21,99 @@ int perInch(int resolution, ipp_res_t units)
     return units == IPP_RES_PER_CM ? static_cast<int>(resolution * centimetersPerInch + 0.5) : resolution;
 }
 
+IppValue::Kind kindOfText(ipp_tag_t tag)
+{
+    switch (tag) {
+    case IPP_TAG_KEYWORD:
+        return IppValue::Kind::Keyword;
+    case IPP_TAG_NAME:
+    case IPP_TAG_NAMELANG:
+        return IppValue::Kind::Name;
+    default:
+        return IppValue::Kind::Text;
+    }
+}
+
+ipp_tag_t tagOf(IppValue::Kind kind)
+{
+    switch (kind) {
+    case IppValue::Kind::Enum:
+        return IPP_TAG_ENUM;
+    case IppValue::Kind::Keyword:
+        return IPP_TAG_KEYWORD;
+    case IppValue::Kind::Name:
+        return IPP_TAG_NAME;
+    case IppValue::Kind::Text:
+        return IPP_TAG_TEXT;
+    default:
+        return IPP_TAG_INTEGER;
+    }
+}
+
+/// Adds one attribute whose values are all of the first one's kind.
+void addAttribute(ipp_t *message, ipp_tag_t group, const QByteArray &name, const QList<IppValue> &values)
+{
+    using Kind = IppValue::Kind;
+    const char *key = name.constData();
+    ipp_attribute_t *attribute = nullptr;
+    const auto next = [&attribute] {
+        return ippGetCount(attribute);
+    };
+    for (const IppValue &value : values) {
+        const ipp_tag_t tag = tagOf(value.kind);
+        const QByteArray text = value.text.toUtf8();
+        switch (value.kind) {
+        case Kind::Integer:
+        case Kind::Enum:
+            if (attribute)
+                ippSetInteger(message, &attribute, next(), value.number);
+            else
+                attribute = ippAddInteger(message, group, tag, key, value.number);
+            break;
+        case Kind::Boolean:
+            if (attribute)
+                ippSetBoolean(message, &attribute, next(), static_cast<char>(value.number));
+            else
+                attribute = ippAddBoolean(message, group, key, static_cast<char>(value.number));
+            break;
+        case Kind::Range:
+            if (attribute)
+                ippSetRange(message, &attribute, next(), value.number, value.upper);
+            else
+                attribute = ippAddRange(message, group, key, value.number, value.upper);
+            break;
+        case Kind::Resolution:
+            if (attribute)
+                ippSetResolution(message, &attribute, next(), IPP_RES_PER_INCH, value.number, value.upper);
+            else
+                attribute =
+                    ippAddResolution(message, group, key, IPP_RES_PER_INCH, value.number, value.upper);
+            break;
+        case Kind::Keyword:
+        case Kind::Name:
+        case Kind::Text:
+            if (attribute)
+                ippSetString(message, &attribute, next(), text.constData());
+            else
+                attribute = ippAddString(message, group, tag, key, nullptr, text.constData());
+            break;
+        case Kind::Collection: {
+            ipp_t *members = ippNew();
+            if (value.members)
+                value.members->addTo(members, IPP_TAG_ZERO);
+            if (attribute)
+                ippSetCollection(message, &attribute, next(), members);
+            else
+                attribute = ippAddCollection(message, group, key, members);
+            ippDelete(members); // the attribute has its own reference
+            break;
+        }
+        case Kind::None:
+            break;
+        }
+    }
+}
+
 } // namespace
 
 struct IppReader
@@ -61,7 +154,7 @@ struct IppReader
             break;
         default:
             if (const char *text = ippGetString(attribute, index, nullptr)) {
-                value.kind = ippGetValueTag(attribute) == IPP_TAG_KEYWORD ? Kind::Keyword : Kind::Text;
+                value.kind = kindOfText(ippGetValueTag(attribute));
                 value.text = QString::fromUtf8(text);
             }
             break;
@@ -95,12 +188,25 @@ IppAttributes IppAttributes::ofPrinter(ipp_t *answer)
     return answer ? IppReader::all(answer, 0, IPP_TAG_PRINTER) : IppAttributes();
 }
 
+void IppAttributes::addToJob(ipp_t *request) const
+{
+    addTo(request, IPP_TAG_JOB);
+}
+
+void IppAttributes::addTo(ipp_t *message, int group) const
+{
+    QStringList sorted = names();
+    sorted.sort();
+    for (const QString &name : std::as_const(sorted))
+        addAttribute(message, static_cast<ipp_tag_t>(group), name.toLatin1(), values(name));
+}
+
 QStringList IppAttributes::texts(const QString &name) const
 {
     QStringList texts;
     const QList<IppValue> all = values(name);
     for (const IppValue &value : all) {
-        if (value.kind == IppValue::Kind::Keyword || value.kind == IppValue::Kind::Text)
+        if (value.isText())
             texts += value.text;
     }
     return texts;

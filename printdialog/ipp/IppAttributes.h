@@ -28,7 +28,8 @@ struct IppValue
         Range,      ///< from `number` to `upper`
         Resolution, ///< `number` by `upper` dots per inch
         Keyword,
-        Text, ///< any other kind of text: a name, a text, a URI, a media type
+        Name,
+        Text, ///< any other kind of text: a text, a URI, a media type
         Collection,
         None, ///< no-value, unknown, and kinds that are not read, such as dates
     };
@@ -39,6 +40,7 @@ struct IppValue
     QString text; ///< Untrusted, cut at 1,023 bytes as IPP does; may have any characters.
     std::shared_ptr<const IppAttributes> members; ///< of a collection; null for all others
 
+    bool isText() const { return kind == Kind::Keyword || kind == Kind::Name || kind == Kind::Text; }
     bool isNumber() const { return kind == Kind::Integer || kind == Kind::Enum || kind == Kind::Boolean; }
 };
 
@@ -66,6 +68,12 @@ public:
     std::optional<int> number(const QString &name) const;
 
     void insert(const QString &name, const QList<IppValue> &values) { values_.insert(name, values); }
+    void remove(const QString &name) { values_.remove(name); }
+
+    /// Adds them to the request's job attributes, sorted by name.
+    void addToJob(ipp_t *request) const;
+    /// Adds them to any message. @param group libcups' ipp_tag_t; zero in a collection
+    void addTo(ipp_t *message, int group) const;
 
 private:
     QHash<QString, QList<IppValue>> values_;

@@ -399,6 +399,61 @@ Beispiele:
     </message>
 </context>
 <context>
+    <name>IppOptions</name>
+    <message>
+        <source>Yes</source>
+        <translation>Ja</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>Nein</translation>
+    </message>
+    <message>
+        <source>%1 dpi</source>
+        <translation>%1 dpi</translation>
+    </message>
+    <message>
+        <source>%1 × %2 dpi</source>
+        <translation>%1 × %2 dpi</translation>
+    </message>
+    <message>
+        <source>Paper</source>
+        <translation>Papier</translation>
+    </message>
+    <message>
+        <source>Quality</source>
+        <translation>Qualität</translation>
+    </message>
+    <message>
+        <source>Finishing</source>
+        <translation>Weiterverarbeitung</translation>
+    </message>
+    <message>
+        <source>Further options</source>
+        <translation>Weitere Optionen</translation>
+    </message>
+    <message>
+        <source>Page sizes of the printer left out because they cannot be used: %1.</source>
+        <translation>Weggelassene Papierformate des Druckers, weil sie unbrauchbar sind: %1.</translation>
+    </message>
+    <message>
+        <source>Options left out because they have no usable values: %1.</source>
+        <translation>Weggelassene Optionen, weil sie keine brauchbaren Werte haben: %1.</translation>
+    </message>
+    <message>
+        <source>Values of options left out because they are repeated or cannot be used: %1.</source>
+        <translation>Weggelassene Werte von Optionen, weil sie doppelt oder unbrauchbar sind: %1.</translation>
+    </message>
+    <message>
+        <source>Defaults left out because they are not among the choices: %1.</source>
+        <translation>Weggelassene Vorgaben, weil sie nicht zur Auswahl stehen: %1.</translation>
+    </message>
+    <message>
+        <source>Rules about choices left out because they are too many: %1.</source>
+        <translation>Weggelassene Regeln für die Auswahl, weil es zu viele sind: %1.</translation>
+    </message>
+</context>
+<context>
     <name>JobFollowing</name>
     <message>
         <source>%1: %2</source>
@@ -1119,6 +1174,486 @@ Beispiele:
     <message>
         <source>As set at the printer</source>
         <translation>Wie am Drucker eingestellt</translation>
+    </message>
+</context>
+<context>
+    <name>StandardLabels</name>
+    <message>
+        <source>Paper size</source>
+        <translation>Papierformat</translation>
+    </message>
+    <message>
+        <source>Paper type</source>
+        <translation>Papierart</translation>
+    </message>
+    <message>
+        <source>Paper source</source>
+        <translation>Papierzufuhr</translation>
+    </message>
+    <message>
+        <source>Print quality</source>
+        <translation>Druckqualität</translation>
+    </message>
+    <message>
+        <source>Color mode</source>
+        <translation>Farbmodus</translation>
+    </message>
+    <message>
+        <source>Two-sided printing</source>
+        <translation>Beidseitiger Druck</translation>
+    </message>
+    <message>
+        <source>Output tray</source>
+        <translation>Ausgabefach</translation>
+    </message>
+    <message>
+        <source>Finishing</source>
+        <translation>Weiterverarbeitung</translation>
+    </message>
+    <message>
+        <source>Finishing template</source>
+        <translation>Vorlage für die Weiterverarbeitung</translation>
+    </message>
+    <message>
+        <source>Scaling by the printer</source>
+        <translation>Größenanpassung im Drucker</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>Auflösung</translation>
+    </message>
+    <message>
+        <source>Optimize for</source>
+        <translation>Optimieren für</translation>
+    </message>
+    <message>
+        <source>Rendering intent</source>
+        <translation>Farbwiedergabe</translation>
+    </message>
+    <message>
+        <source>Cutting</source>
+        <translation>Schneiden</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation>Automatisch</translation>
+    </message>
+    <message>
+        <source>Plain paper</source>
+        <translation>Normalpapier</translation>
+    </message>
+    <message>
+        <source>Coated paper</source>
+        <translation>Beschichtetes Papier</translation>
+    </message>
+    <message>
+        <source>Heavy paper</source>
+        <translation>Schweres Papier</translation>
+    </message>
+    <message>
+        <source>Light paper</source>
+        <translation>Leichtes Papier</translation>
+    </message>
+    <message>
+        <source>Inkjet paper</source>
+        <translation>Tintenstrahlpapier</translation>
+    </message>
+    <message>
+        <source>Letterhead</source>
+        <translation>Briefpapier</translation>
+    </message>
+    <message>
+        <source>Photo paper</source>
+        <translation>Fotopapier</translation>
+    </message>
+    <message>
+        <source>Archival photo paper</source>
+        <translation>Archivbeständiges Fotopapier</translation>
+    </message>
+    <message>
+        <source>Photo film</source>
+        <translation>Fotofilm</translation>
+    </message>
+    <message>
+        <source>Glossy photo paper</source>
+        <translation>Glänzendes Fotopapier</translation>
+    </message>
+    <message>
+        <source>High-gloss photo paper</source>
+        <translation>Hochglänzendes Fotopapier</translation>
+    </message>
+    <message>
+        <source>Matte photo paper</source>
+        <translation>Mattes Fotopapier</translation>
+    </message>
+    <message>
+        <source>Satin photo paper</source>
+        <translation>Seidenmattes Fotopapier</translation>
+    </message>
+    <message>
+        <source>Semi-gloss photo paper</source>
+        <translation>Halbglänzendes Fotopapier</translation>
+    </message>
+    <message>
+        <source>Card stock</source>
+        <translation>Karton</translation>
+    </message>
+    <message>
+        <source>Continuous paper</source>
+        <translation>Endlospapier</translation>
+    </message>
+    <message>
+        <source>Disc</source>
+        <translation>Datenträger (CD/DVD)</translation>
+    </message>
+    <message>
+        <source>Envelope</source>
+        <translation>Umschlag</translation>
+    </message>
+    <message>
+        <source>Labels</source>
+        <translation>Etiketten</translation>
+    </message>
+    <message>
+        <source>Transparency</source>
+        <translation>Folie</translation>
+    </message>
+    <message>
+        <source>Other paper</source>
+        <translation>Anderes Papier</translation>
+    </message>
+    <message>
+        <source>Main tray</source>
+        <translation>Hauptfach</translation>
+    </message>
+    <message>
+        <source>Alternate tray</source>
+        <translation>Zweites Fach</translation>
+    </message>
+    <message>
+        <source>Manual feed</source>
+        <translation>Manuelle Zufuhr</translation>
+    </message>
+    <message>
+        <source>Bypass tray</source>
+        <translation>Mehrzweckfach</translation>
+    </message>
+    <message>
+        <source>Photo tray</source>
+        <translation>Fotofach</translation>
+    </message>
+    <message>
+        <source>Postcard tray</source>
+        <translation>Postkartenfach</translation>
+    </message>
+    <message>
+        <source>Envelope tray</source>
+        <translation>Umschlagfach</translation>
+    </message>
+    <message>
+        <source>Disc tray</source>
+        <translation>Datenträgerfach</translation>
+    </message>
+    <message>
+        <source>Large tray</source>
+        <translation>Großes Fach</translation>
+    </message>
+    <message>
+        <source>Main roll</source>
+        <translation>Hauptrolle</translation>
+    </message>
+    <message>
+        <source>Alternate roll</source>
+        <translation>Zweite Rolle</translation>
+    </message>
+    <message>
+        <source>Top tray</source>
+        <translation>Oberes Fach</translation>
+    </message>
+    <message>
+        <source>Middle tray</source>
+        <translation>Mittleres Fach</translation>
+    </message>
+    <message>
+        <source>Bottom tray</source>
+        <translation>Unteres Fach</translation>
+    </message>
+    <message>
+        <source>Center tray</source>
+        <translation>Fach in der Mitte</translation>
+    </message>
+    <message>
+        <source>Left tray</source>
+        <translation>Linkes Fach</translation>
+    </message>
+    <message>
+        <source>Right tray</source>
+        <translation>Rechtes Fach</translation>
+    </message>
+    <message>
+        <source>Rear tray</source>
+        <translation>Hinteres Fach</translation>
+    </message>
+    <message>
+        <source>Side tray</source>
+        <translation>Seitliches Fach</translation>
+    </message>
+    <message>
+        <source>Face up</source>
+        <translation>Bildseite oben</translation>
+    </message>
+    <message>
+        <source>Face down</source>
+        <translation>Bildseite unten</translation>
+    </message>
+    <message>
+        <source>Draft</source>
+        <translation>Entwurf</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>Normal</translation>
+    </message>
+    <message>
+        <source>High</source>
+        <translation>Hoch</translation>
+    </message>
+    <message>
+        <source>Color</source>
+        <translation>Farbe</translation>
+    </message>
+    <message>
+        <source>Color (Adobe RGB)</source>
+        <translation>Farbe (Adobe RGB)</translation>
+    </message>
+    <message>
+        <source>Gray</source>
+        <translation>Graustufen</translation>
+    </message>
+    <message>
+        <source>Gray, automatic</source>
+        <translation>Graustufen, automatisch</translation>
+    </message>
+    <message>
+        <source>Gray from colored ink</source>
+        <translation>Graustufen aus Farbtinte</translation>
+    </message>
+    <message>
+        <source>Black and white</source>
+        <translation>Schwarzweiß</translation>
+    </message>
+    <message>
+        <source>One side</source>
+        <translation>Einseitig</translation>
+    </message>
+    <message>
+        <source>Both sides, turned on the long edge</source>
+        <translation>Beidseitig, an der langen Kante gewendet</translation>
+    </message>
+    <message>
+        <source>Both sides, turned on the short edge</source>
+        <translation>Beidseitig, an der kurzen Kante gewendet</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Keine</translation>
+    </message>
+    <message>
+        <source>Staple</source>
+        <translation>Heften</translation>
+    </message>
+    <message>
+        <source>Punch</source>
+        <translation>Lochen</translation>
+    </message>
+    <message>
+        <source>Cover</source>
+        <translation>Deckblatt</translation>
+    </message>
+    <message>
+        <source>Bind</source>
+        <translation>Binden</translation>
+    </message>
+    <message>
+        <source>Saddle stitch</source>
+        <translation>Rückstichheftung</translation>
+    </message>
+    <message>
+        <source>Edge stitch</source>
+        <translation>Seitliche Heftung</translation>
+    </message>
+    <message>
+        <source>Fold</source>
+        <translation>Falzen</translation>
+    </message>
+    <message>
+        <source>Trim</source>
+        <translation>Beschneiden</translation>
+    </message>
+    <message>
+        <source>Bale</source>
+        <translation>Bündeln</translation>
+    </message>
+    <message>
+        <source>Booklet</source>
+        <translation>Broschüre</translation>
+    </message>
+    <message>
+        <source>Offset stacking</source>
+        <translation>Versetzt ablegen</translation>
+    </message>
+    <message>
+        <source>Coat</source>
+        <translation>Beschichten</translation>
+    </message>
+    <message>
+        <source>Laminate</source>
+        <translation>Laminieren</translation>
+    </message>
+    <message>
+        <source>Staple, top left</source>
+        <translation>Heften, oben links</translation>
+    </message>
+    <message>
+        <source>Staple, bottom left</source>
+        <translation>Heften, unten links</translation>
+    </message>
+    <message>
+        <source>Staple, top right</source>
+        <translation>Heften, oben rechts</translation>
+    </message>
+    <message>
+        <source>Staple, bottom right</source>
+        <translation>Heften, unten rechts</translation>
+    </message>
+    <message>
+        <source>Trim after each page</source>
+        <translation>Nach jeder Seite beschneiden</translation>
+    </message>
+    <message>
+        <source>Trim after each document</source>
+        <translation>Nach jedem Dokument beschneiden</translation>
+    </message>
+    <message>
+        <source>Trim after each copy</source>
+        <translation>Nach jedem Exemplar beschneiden</translation>
+    </message>
+    <message>
+        <source>Trim after the job</source>
+        <translation>Nach dem Auftrag beschneiden</translation>
+    </message>
+    <message>
+        <source>Only if it is too large</source>
+        <translation>Nur wenn es zu groß ist</translation>
+    </message>
+    <message>
+        <source>Fill the paper</source>
+        <translation>Papier füllen</translation>
+    </message>
+    <message>
+        <source>Fit on the paper</source>
+        <translation>Auf das Papier einpassen</translation>
+    </message>
+    <message>
+        <source>Photos</source>
+        <translation>Fotos</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>Graphics</source>
+        <translation>Grafik</translation>
+    </message>
+    <message>
+        <source>Text and graphics</source>
+        <translation>Text und Grafik</translation>
+    </message>
+    <message>
+        <source>Absolute colorimetric</source>
+        <translation>Absolut farbmetrisch</translation>
+    </message>
+    <message>
+        <source>Perceptual</source>
+        <translation>Perzeptiv</translation>
+    </message>
+    <message>
+        <source>Relative colorimetric</source>
+        <translation>Relativ farbmetrisch</translation>
+    </message>
+    <message>
+        <source>Relative colorimetric, black point adapted</source>
+        <translation>Relativ farbmetrisch mit Schwarzpunktanpassung</translation>
+    </message>
+    <message>
+        <source>Saturation</source>
+        <translation>Sättigung</translation>
+    </message>
+    <message>
+        <source>4 × 6 in (10 × 15 cm)</source>
+        <translation>10 × 15 cm (4 × 6 Zoll)</translation>
+    </message>
+    <message>
+        <source>5 × 7 in (13 × 18 cm)</source>
+        <translation>13 × 18 cm (5 × 7 Zoll)</translation>
+    </message>
+    <message>
+        <source>3.5 × 5 in (9 × 13 cm)</source>
+        <translation>9 × 13 cm (3,5 × 5 Zoll)</translation>
+    </message>
+    <message>
+        <source>8 × 10 in (20 × 25 cm)</source>
+        <translation>20 × 25 cm (8 × 10 Zoll)</translation>
+    </message>
+    <message>
+        <source>10 × 15 cm</source>
+        <translation>10 × 15 cm</translation>
+    </message>
+    <message>
+        <source>Postcard (Hagaki)</source>
+        <translation>Postkarte (Hagaki)</translation>
+    </message>
+    <message>
+        <source>Letter</source>
+        <translation>US Letter</translation>
+    </message>
+    <message>
+        <source>Legal</source>
+        <translation>US Legal</translation>
+    </message>
+    <message>
+        <source>Executive</source>
+        <translation>US Executive</translation>
+    </message>
+    <message>
+        <source>Tabloid</source>
+        <translation>US Tabloid</translation>
+    </message>
+    <message>
+        <source>Statement</source>
+        <translation>US Statement</translation>
+    </message>
+    <message>
+        <source>Tray %1</source>
+        <translation>Fach %1</translation>
+    </message>
+    <message>
+        <source>Roll %1</source>
+        <translation>Rolle %1</translation>
+    </message>
+    <message>
+        <source>Stacker %1</source>
+        <translation>Stapler %1</translation>
+    </message>
+    <message>
+        <source>Mailbox %1</source>
+        <translation>Ausgabefach %1</translation>
+    </message>
+    <message>
+        <source>%1, borderless</source>
+        <comment>a page size</comment>
+        <translation>%1, randlos</translation>
     </message>
 </context>
 <context>

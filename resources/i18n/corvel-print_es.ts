@@ -398,6 +398,61 @@ Ejemplos:
     </message>
 </context>
 <context>
+    <name>IppOptions</name>
+    <message>
+        <source>Yes</source>
+        <translation>Sí</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>No</translation>
+    </message>
+    <message>
+        <source>%1 dpi</source>
+        <translation>%1 ppp</translation>
+    </message>
+    <message>
+        <source>%1 × %2 dpi</source>
+        <translation>%1 × %2 ppp</translation>
+    </message>
+    <message>
+        <source>Paper</source>
+        <translation>Papel</translation>
+    </message>
+    <message>
+        <source>Quality</source>
+        <translation>Calidad</translation>
+    </message>
+    <message>
+        <source>Finishing</source>
+        <translation>Acabado</translation>
+    </message>
+    <message>
+        <source>Further options</source>
+        <translation>Otras opciones</translation>
+    </message>
+    <message>
+        <source>Page sizes of the printer left out because they cannot be used: %1.</source>
+        <translation>Tamaños de página de la impresora omitidos porque no se pueden usar: %1.</translation>
+    </message>
+    <message>
+        <source>Options left out because they have no usable values: %1.</source>
+        <translation>Opciones omitidas porque no tienen valores utilizables: %1.</translation>
+    </message>
+    <message>
+        <source>Values of options left out because they are repeated or cannot be used: %1.</source>
+        <translation>Valores de opciones omitidos porque se repiten o no se pueden usar: %1.</translation>
+    </message>
+    <message>
+        <source>Defaults left out because they are not among the choices: %1.</source>
+        <translation>Valores predeterminados omitidos porque no están entre las opciones: %1.</translation>
+    </message>
+    <message>
+        <source>Rules about choices left out because they are too many: %1.</source>
+        <translation>Reglas sobre las opciones omitidas porque son demasiadas: %1.</translation>
+    </message>
+</context>
+<context>
     <name>JobFollowing</name>
     <message>
         <source>%1: %2</source>
@@ -1118,6 +1173,486 @@ Ejemplos:
     <message>
         <source>As set at the printer</source>
         <translation>Según lo ajustado en la impresora</translation>
+    </message>
+</context>
+<context>
+    <name>StandardLabels</name>
+    <message>
+        <source>Paper size</source>
+        <translation>Tamaño de papel</translation>
+    </message>
+    <message>
+        <source>Paper type</source>
+        <translation>Tipo de papel</translation>
+    </message>
+    <message>
+        <source>Paper source</source>
+        <translation>Fuente de papel</translation>
+    </message>
+    <message>
+        <source>Print quality</source>
+        <translation>Calidad de impresión</translation>
+    </message>
+    <message>
+        <source>Color mode</source>
+        <translation>Modo de color</translation>
+    </message>
+    <message>
+        <source>Two-sided printing</source>
+        <translation>Impresión a doble cara</translation>
+    </message>
+    <message>
+        <source>Output tray</source>
+        <translation>Bandeja de salida</translation>
+    </message>
+    <message>
+        <source>Finishing</source>
+        <translation>Acabado</translation>
+    </message>
+    <message>
+        <source>Finishing template</source>
+        <translation>Plantilla de acabado</translation>
+    </message>
+    <message>
+        <source>Scaling by the printer</source>
+        <translation>Escalado en la impresora</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>Resolución</translation>
+    </message>
+    <message>
+        <source>Optimize for</source>
+        <translation>Optimizar para</translation>
+    </message>
+    <message>
+        <source>Rendering intent</source>
+        <translation>Propósito de representación</translation>
+    </message>
+    <message>
+        <source>Cutting</source>
+        <translation>Corte</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation>Automático</translation>
+    </message>
+    <message>
+        <source>Plain paper</source>
+        <translation>Papel normal</translation>
+    </message>
+    <message>
+        <source>Coated paper</source>
+        <translation>Papel estucado</translation>
+    </message>
+    <message>
+        <source>Heavy paper</source>
+        <translation>Papel grueso</translation>
+    </message>
+    <message>
+        <source>Light paper</source>
+        <translation>Papel fino</translation>
+    </message>
+    <message>
+        <source>Inkjet paper</source>
+        <translation>Papel para inyección de tinta</translation>
+    </message>
+    <message>
+        <source>Letterhead</source>
+        <translation>Papel con membrete</translation>
+    </message>
+    <message>
+        <source>Photo paper</source>
+        <translation>Papel fotográfico</translation>
+    </message>
+    <message>
+        <source>Archival photo paper</source>
+        <translation>Papel fotográfico de archivo</translation>
+    </message>
+    <message>
+        <source>Photo film</source>
+        <translation>Película fotográfica</translation>
+    </message>
+    <message>
+        <source>Glossy photo paper</source>
+        <translation>Papel fotográfico brillante</translation>
+    </message>
+    <message>
+        <source>High-gloss photo paper</source>
+        <translation>Papel fotográfico de alto brillo</translation>
+    </message>
+    <message>
+        <source>Matte photo paper</source>
+        <translation>Papel fotográfico mate</translation>
+    </message>
+    <message>
+        <source>Satin photo paper</source>
+        <translation>Papel fotográfico satinado</translation>
+    </message>
+    <message>
+        <source>Semi-gloss photo paper</source>
+        <translation>Papel fotográfico semibrillante</translation>
+    </message>
+    <message>
+        <source>Card stock</source>
+        <translation>Cartulina</translation>
+    </message>
+    <message>
+        <source>Continuous paper</source>
+        <translation>Papel continuo</translation>
+    </message>
+    <message>
+        <source>Disc</source>
+        <translation>Disco</translation>
+    </message>
+    <message>
+        <source>Envelope</source>
+        <translation>Sobre</translation>
+    </message>
+    <message>
+        <source>Labels</source>
+        <translation>Etiquetas</translation>
+    </message>
+    <message>
+        <source>Transparency</source>
+        <translation>Transparencia</translation>
+    </message>
+    <message>
+        <source>Other paper</source>
+        <translation>Otro papel</translation>
+    </message>
+    <message>
+        <source>Main tray</source>
+        <translation>Bandeja principal</translation>
+    </message>
+    <message>
+        <source>Alternate tray</source>
+        <translation>Bandeja alternativa</translation>
+    </message>
+    <message>
+        <source>Manual feed</source>
+        <translation>Alimentación manual</translation>
+    </message>
+    <message>
+        <source>Bypass tray</source>
+        <translation>Bandeja multiuso</translation>
+    </message>
+    <message>
+        <source>Photo tray</source>
+        <translation>Bandeja de fotos</translation>
+    </message>
+    <message>
+        <source>Postcard tray</source>
+        <translation>Bandeja de postales</translation>
+    </message>
+    <message>
+        <source>Envelope tray</source>
+        <translation>Bandeja de sobres</translation>
+    </message>
+    <message>
+        <source>Disc tray</source>
+        <translation>Bandeja de discos</translation>
+    </message>
+    <message>
+        <source>Large tray</source>
+        <translation>Bandeja de gran capacidad</translation>
+    </message>
+    <message>
+        <source>Main roll</source>
+        <translation>Rollo principal</translation>
+    </message>
+    <message>
+        <source>Alternate roll</source>
+        <translation>Rollo alternativo</translation>
+    </message>
+    <message>
+        <source>Top tray</source>
+        <translation>Bandeja superior</translation>
+    </message>
+    <message>
+        <source>Middle tray</source>
+        <translation>Bandeja intermedia</translation>
+    </message>
+    <message>
+        <source>Bottom tray</source>
+        <translation>Bandeja inferior</translation>
+    </message>
+    <message>
+        <source>Center tray</source>
+        <translation>Bandeja central</translation>
+    </message>
+    <message>
+        <source>Left tray</source>
+        <translation>Bandeja izquierda</translation>
+    </message>
+    <message>
+        <source>Right tray</source>
+        <translation>Bandeja derecha</translation>
+    </message>
+    <message>
+        <source>Rear tray</source>
+        <translation>Bandeja trasera</translation>
+    </message>
+    <message>
+        <source>Side tray</source>
+        <translation>Bandeja lateral</translation>
+    </message>
+    <message>
+        <source>Face up</source>
+        <translation>Cara impresa hacia arriba</translation>
+    </message>
+    <message>
+        <source>Face down</source>
+        <translation>Cara impresa hacia abajo</translation>
+    </message>
+    <message>
+        <source>Draft</source>
+        <translation>Borrador</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>Normal</translation>
+    </message>
+    <message>
+        <source>High</source>
+        <translation>Alta</translation>
+    </message>
+    <message>
+        <source>Color</source>
+        <translation>Color</translation>
+    </message>
+    <message>
+        <source>Color (Adobe RGB)</source>
+        <translation>Color (Adobe RGB)</translation>
+    </message>
+    <message>
+        <source>Gray</source>
+        <translation>Escala de grises</translation>
+    </message>
+    <message>
+        <source>Gray, automatic</source>
+        <translation>Escala de grises, automático</translation>
+    </message>
+    <message>
+        <source>Gray from colored ink</source>
+        <translation>Escala de grises con tintas de color</translation>
+    </message>
+    <message>
+        <source>Black and white</source>
+        <translation>Blanco y negro</translation>
+    </message>
+    <message>
+        <source>One side</source>
+        <translation>Una cara</translation>
+    </message>
+    <message>
+        <source>Both sides, turned on the long edge</source>
+        <translation>Doble cara, girado por el borde largo</translation>
+    </message>
+    <message>
+        <source>Both sides, turned on the short edge</source>
+        <translation>Doble cara, girado por el borde corto</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Ninguno</translation>
+    </message>
+    <message>
+        <source>Staple</source>
+        <translation>Grapar</translation>
+    </message>
+    <message>
+        <source>Punch</source>
+        <translation>Perforar</translation>
+    </message>
+    <message>
+        <source>Cover</source>
+        <translation>Cubierta</translation>
+    </message>
+    <message>
+        <source>Bind</source>
+        <translation>Encuadernar</translation>
+    </message>
+    <message>
+        <source>Saddle stitch</source>
+        <translation>Grapado a caballete</translation>
+    </message>
+    <message>
+        <source>Edge stitch</source>
+        <translation>Grapado en el borde</translation>
+    </message>
+    <message>
+        <source>Fold</source>
+        <translation>Plegar</translation>
+    </message>
+    <message>
+        <source>Trim</source>
+        <translation>Recortar</translation>
+    </message>
+    <message>
+        <source>Bale</source>
+        <translation>Empaquetar</translation>
+    </message>
+    <message>
+        <source>Booklet</source>
+        <translation>Folleto</translation>
+    </message>
+    <message>
+        <source>Offset stacking</source>
+        <translation>Apilado desplazado</translation>
+    </message>
+    <message>
+        <source>Coat</source>
+        <translation>Barnizar</translation>
+    </message>
+    <message>
+        <source>Laminate</source>
+        <translation>Laminar</translation>
+    </message>
+    <message>
+        <source>Staple, top left</source>
+        <translation>Grapar, arriba a la izquierda</translation>
+    </message>
+    <message>
+        <source>Staple, bottom left</source>
+        <translation>Grapar, abajo a la izquierda</translation>
+    </message>
+    <message>
+        <source>Staple, top right</source>
+        <translation>Grapar, arriba a la derecha</translation>
+    </message>
+    <message>
+        <source>Staple, bottom right</source>
+        <translation>Grapar, abajo a la derecha</translation>
+    </message>
+    <message>
+        <source>Trim after each page</source>
+        <translation>Recortar después de cada página</translation>
+    </message>
+    <message>
+        <source>Trim after each document</source>
+        <translation>Recortar después de cada documento</translation>
+    </message>
+    <message>
+        <source>Trim after each copy</source>
+        <translation>Recortar después de cada copia</translation>
+    </message>
+    <message>
+        <source>Trim after the job</source>
+        <translation>Recortar después del trabajo</translation>
+    </message>
+    <message>
+        <source>Only if it is too large</source>
+        <translation>Solo si es demasiado grande</translation>
+    </message>
+    <message>
+        <source>Fill the paper</source>
+        <translation>Llenar el papel</translation>
+    </message>
+    <message>
+        <source>Fit on the paper</source>
+        <translation>Ajustar al papel</translation>
+    </message>
+    <message>
+        <source>Photos</source>
+        <translation>Fotos</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Texto</translation>
+    </message>
+    <message>
+        <source>Graphics</source>
+        <translation>Gráficos</translation>
+    </message>
+    <message>
+        <source>Text and graphics</source>
+        <translation>Texto y gráficos</translation>
+    </message>
+    <message>
+        <source>Absolute colorimetric</source>
+        <translation>Colorimétrico absoluto</translation>
+    </message>
+    <message>
+        <source>Perceptual</source>
+        <translation>Perceptual</translation>
+    </message>
+    <message>
+        <source>Relative colorimetric</source>
+        <translation>Colorimétrico relativo</translation>
+    </message>
+    <message>
+        <source>Relative colorimetric, black point adapted</source>
+        <translation>Colorimétrico relativo con compensación del punto negro</translation>
+    </message>
+    <message>
+        <source>Saturation</source>
+        <translation>Saturación</translation>
+    </message>
+    <message>
+        <source>4 × 6 in (10 × 15 cm)</source>
+        <translation>10 × 15 cm (4 × 6 pulg.)</translation>
+    </message>
+    <message>
+        <source>5 × 7 in (13 × 18 cm)</source>
+        <translation>13 × 18 cm (5 × 7 pulg.)</translation>
+    </message>
+    <message>
+        <source>3.5 × 5 in (9 × 13 cm)</source>
+        <translation>9 × 13 cm (3,5 × 5 pulg.)</translation>
+    </message>
+    <message>
+        <source>8 × 10 in (20 × 25 cm)</source>
+        <translation>20 × 25 cm (8 × 10 pulg.)</translation>
+    </message>
+    <message>
+        <source>10 × 15 cm</source>
+        <translation>10 × 15 cm</translation>
+    </message>
+    <message>
+        <source>Postcard (Hagaki)</source>
+        <translation>Postal (Hagaki)</translation>
+    </message>
+    <message>
+        <source>Letter</source>
+        <translation>Carta</translation>
+    </message>
+    <message>
+        <source>Legal</source>
+        <translation>Legal</translation>
+    </message>
+    <message>
+        <source>Executive</source>
+        <translation>Ejecutivo</translation>
+    </message>
+    <message>
+        <source>Tabloid</source>
+        <translation>Tabloide</translation>
+    </message>
+    <message>
+        <source>Statement</source>
+        <translation>Media carta</translation>
+    </message>
+    <message>
+        <source>Tray %1</source>
+        <translation>Bandeja %1</translation>
+    </message>
+    <message>
+        <source>Roll %1</source>
+        <translation>Rollo %1</translation>
+    </message>
+    <message>
+        <source>Stacker %1</source>
+        <translation>Apilador %1</translation>
+    </message>
+    <message>
+        <source>Mailbox %1</source>
+        <translation>Buzón %1</translation>
+    </message>
+    <message>
+        <source>%1, borderless</source>
+        <comment>a page size</comment>
+        <translation>%1, sin bordes</translation>
     </message>
 </context>
 <context>

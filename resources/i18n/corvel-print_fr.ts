@@ -399,6 +399,61 @@ Exemples&#x202f;:
     </message>
 </context>
 <context>
+    <name>IppOptions</name>
+    <message>
+        <source>Yes</source>
+        <translation>Oui</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>Non</translation>
+    </message>
+    <message>
+        <source>%1 dpi</source>
+        <translation>%1 ppp</translation>
+    </message>
+    <message>
+        <source>%1 × %2 dpi</source>
+        <translation>%1 × %2 ppp</translation>
+    </message>
+    <message>
+        <source>Paper</source>
+        <translation>Papier</translation>
+    </message>
+    <message>
+        <source>Quality</source>
+        <translation>Qualité</translation>
+    </message>
+    <message>
+        <source>Finishing</source>
+        <translation>Finition</translation>
+    </message>
+    <message>
+        <source>Further options</source>
+        <translation>Autres options</translation>
+    </message>
+    <message>
+        <source>Page sizes of the printer left out because they cannot be used: %1.</source>
+        <translation>Formats de page de l’imprimante laissés de côté car inutilisables&#x202f;: %1.</translation>
+    </message>
+    <message>
+        <source>Options left out because they have no usable values: %1.</source>
+        <translation>Options laissées de côté car sans valeur utilisable&#x202f;: %1.</translation>
+    </message>
+    <message>
+        <source>Values of options left out because they are repeated or cannot be used: %1.</source>
+        <translation>Valeurs d’options laissées de côté car répétées ou inutilisables&#x202f;: %1.</translation>
+    </message>
+    <message>
+        <source>Defaults left out because they are not among the choices: %1.</source>
+        <translation>Valeurs par défaut laissées de côté car absentes des choix&#x202f;: %1.</translation>
+    </message>
+    <message>
+        <source>Rules about choices left out because they are too many: %1.</source>
+        <translation>Règles sur les choix laissées de côté car trop nombreuses&#x202f;: %1.</translation>
+    </message>
+</context>
+<context>
     <name>JobFollowing</name>
     <message>
         <source>%1: %2</source>
@@ -1119,6 +1174,486 @@ Exemples&#x202f;:
     <message>
         <source>As set at the printer</source>
         <translation>Selon le réglage de l’imprimante</translation>
+    </message>
+</context>
+<context>
+    <name>StandardLabels</name>
+    <message>
+        <source>Paper size</source>
+        <translation>Format du papier</translation>
+    </message>
+    <message>
+        <source>Paper type</source>
+        <translation>Type de papier</translation>
+    </message>
+    <message>
+        <source>Paper source</source>
+        <translation>Source du papier</translation>
+    </message>
+    <message>
+        <source>Print quality</source>
+        <translation>Qualité d’impression</translation>
+    </message>
+    <message>
+        <source>Color mode</source>
+        <translation>Mode couleur</translation>
+    </message>
+    <message>
+        <source>Two-sided printing</source>
+        <translation>Impression recto verso</translation>
+    </message>
+    <message>
+        <source>Output tray</source>
+        <translation>Bac de sortie</translation>
+    </message>
+    <message>
+        <source>Finishing</source>
+        <translation>Finition</translation>
+    </message>
+    <message>
+        <source>Finishing template</source>
+        <translation>Modèle de finition</translation>
+    </message>
+    <message>
+        <source>Scaling by the printer</source>
+        <translation>Mise à l’échelle par l’imprimante</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>Résolution</translation>
+    </message>
+    <message>
+        <source>Optimize for</source>
+        <translation>Optimiser pour</translation>
+    </message>
+    <message>
+        <source>Rendering intent</source>
+        <translation>Intention de rendu</translation>
+    </message>
+    <message>
+        <source>Cutting</source>
+        <translation>Découpe</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation>Automatique</translation>
+    </message>
+    <message>
+        <source>Plain paper</source>
+        <translation>Papier ordinaire</translation>
+    </message>
+    <message>
+        <source>Coated paper</source>
+        <translation>Papier couché</translation>
+    </message>
+    <message>
+        <source>Heavy paper</source>
+        <translation>Papier épais</translation>
+    </message>
+    <message>
+        <source>Light paper</source>
+        <translation>Papier fin</translation>
+    </message>
+    <message>
+        <source>Inkjet paper</source>
+        <translation>Papier jet d’encre</translation>
+    </message>
+    <message>
+        <source>Letterhead</source>
+        <translation>Papier à en-tête</translation>
+    </message>
+    <message>
+        <source>Photo paper</source>
+        <translation>Papier photo</translation>
+    </message>
+    <message>
+        <source>Archival photo paper</source>
+        <translation>Papier photo d’archivage</translation>
+    </message>
+    <message>
+        <source>Photo film</source>
+        <translation>Film photo</translation>
+    </message>
+    <message>
+        <source>Glossy photo paper</source>
+        <translation>Papier photo brillant</translation>
+    </message>
+    <message>
+        <source>High-gloss photo paper</source>
+        <translation>Papier photo ultra-brillant</translation>
+    </message>
+    <message>
+        <source>Matte photo paper</source>
+        <translation>Papier photo mat</translation>
+    </message>
+    <message>
+        <source>Satin photo paper</source>
+        <translation>Papier photo satiné</translation>
+    </message>
+    <message>
+        <source>Semi-gloss photo paper</source>
+        <translation>Papier photo semi-brillant</translation>
+    </message>
+    <message>
+        <source>Card stock</source>
+        <translation>Papier cartonné</translation>
+    </message>
+    <message>
+        <source>Continuous paper</source>
+        <translation>Papier continu</translation>
+    </message>
+    <message>
+        <source>Disc</source>
+        <translation>Disque</translation>
+    </message>
+    <message>
+        <source>Envelope</source>
+        <translation>Enveloppe</translation>
+    </message>
+    <message>
+        <source>Labels</source>
+        <translation>Étiquettes</translation>
+    </message>
+    <message>
+        <source>Transparency</source>
+        <translation>Transparent</translation>
+    </message>
+    <message>
+        <source>Other paper</source>
+        <translation>Autre papier</translation>
+    </message>
+    <message>
+        <source>Main tray</source>
+        <translation>Bac principal</translation>
+    </message>
+    <message>
+        <source>Alternate tray</source>
+        <translation>Bac secondaire</translation>
+    </message>
+    <message>
+        <source>Manual feed</source>
+        <translation>Alimentation manuelle</translation>
+    </message>
+    <message>
+        <source>Bypass tray</source>
+        <translation>Bac polyvalent</translation>
+    </message>
+    <message>
+        <source>Photo tray</source>
+        <translation>Bac photo</translation>
+    </message>
+    <message>
+        <source>Postcard tray</source>
+        <translation>Bac pour cartes postales</translation>
+    </message>
+    <message>
+        <source>Envelope tray</source>
+        <translation>Bac à enveloppes</translation>
+    </message>
+    <message>
+        <source>Disc tray</source>
+        <translation>Bac pour disques</translation>
+    </message>
+    <message>
+        <source>Large tray</source>
+        <translation>Bac grande capacité</translation>
+    </message>
+    <message>
+        <source>Main roll</source>
+        <translation>Rouleau principal</translation>
+    </message>
+    <message>
+        <source>Alternate roll</source>
+        <translation>Rouleau secondaire</translation>
+    </message>
+    <message>
+        <source>Top tray</source>
+        <translation>Bac supérieur</translation>
+    </message>
+    <message>
+        <source>Middle tray</source>
+        <translation>Bac du milieu</translation>
+    </message>
+    <message>
+        <source>Bottom tray</source>
+        <translation>Bac inférieur</translation>
+    </message>
+    <message>
+        <source>Center tray</source>
+        <translation>Bac central</translation>
+    </message>
+    <message>
+        <source>Left tray</source>
+        <translation>Bac de gauche</translation>
+    </message>
+    <message>
+        <source>Right tray</source>
+        <translation>Bac de droite</translation>
+    </message>
+    <message>
+        <source>Rear tray</source>
+        <translation>Bac arrière</translation>
+    </message>
+    <message>
+        <source>Side tray</source>
+        <translation>Bac latéral</translation>
+    </message>
+    <message>
+        <source>Face up</source>
+        <translation>Face imprimée vers le haut</translation>
+    </message>
+    <message>
+        <source>Face down</source>
+        <translation>Face imprimée vers le bas</translation>
+    </message>
+    <message>
+        <source>Draft</source>
+        <translation>Brouillon</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>Normale</translation>
+    </message>
+    <message>
+        <source>High</source>
+        <translation>Élevée</translation>
+    </message>
+    <message>
+        <source>Color</source>
+        <translation>Couleur</translation>
+    </message>
+    <message>
+        <source>Color (Adobe RGB)</source>
+        <translation>Couleur (Adobe RGB)</translation>
+    </message>
+    <message>
+        <source>Gray</source>
+        <translation>Niveaux de gris</translation>
+    </message>
+    <message>
+        <source>Gray, automatic</source>
+        <translation>Niveaux de gris, automatique</translation>
+    </message>
+    <message>
+        <source>Gray from colored ink</source>
+        <translation>Niveaux de gris avec encres de couleur</translation>
+    </message>
+    <message>
+        <source>Black and white</source>
+        <translation>Noir et blanc</translation>
+    </message>
+    <message>
+        <source>One side</source>
+        <translation>Recto seul</translation>
+    </message>
+    <message>
+        <source>Both sides, turned on the long edge</source>
+        <translation>Recto verso, reliure sur le bord long</translation>
+    </message>
+    <message>
+        <source>Both sides, turned on the short edge</source>
+        <translation>Recto verso, reliure sur le bord court</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Aucune</translation>
+    </message>
+    <message>
+        <source>Staple</source>
+        <translation>Agrafer</translation>
+    </message>
+    <message>
+        <source>Punch</source>
+        <translation>Perforer</translation>
+    </message>
+    <message>
+        <source>Cover</source>
+        <translation>Couverture</translation>
+    </message>
+    <message>
+        <source>Bind</source>
+        <translation>Relier</translation>
+    </message>
+    <message>
+        <source>Saddle stitch</source>
+        <translation>Piqûre à cheval</translation>
+    </message>
+    <message>
+        <source>Edge stitch</source>
+        <translation>Piqûre à plat</translation>
+    </message>
+    <message>
+        <source>Fold</source>
+        <translation>Plier</translation>
+    </message>
+    <message>
+        <source>Trim</source>
+        <translation>Massicoter</translation>
+    </message>
+    <message>
+        <source>Bale</source>
+        <translation>Mettre en liasse</translation>
+    </message>
+    <message>
+        <source>Booklet</source>
+        <translation>Livret</translation>
+    </message>
+    <message>
+        <source>Offset stacking</source>
+        <translation>Empilage décalé</translation>
+    </message>
+    <message>
+        <source>Coat</source>
+        <translation>Vernir</translation>
+    </message>
+    <message>
+        <source>Laminate</source>
+        <translation>Plastifier</translation>
+    </message>
+    <message>
+        <source>Staple, top left</source>
+        <translation>Agrafer, en haut à gauche</translation>
+    </message>
+    <message>
+        <source>Staple, bottom left</source>
+        <translation>Agrafer, en bas à gauche</translation>
+    </message>
+    <message>
+        <source>Staple, top right</source>
+        <translation>Agrafer, en haut à droite</translation>
+    </message>
+    <message>
+        <source>Staple, bottom right</source>
+        <translation>Agrafer, en bas à droite</translation>
+    </message>
+    <message>
+        <source>Trim after each page</source>
+        <translation>Massicoter après chaque page</translation>
+    </message>
+    <message>
+        <source>Trim after each document</source>
+        <translation>Massicoter après chaque document</translation>
+    </message>
+    <message>
+        <source>Trim after each copy</source>
+        <translation>Massicoter après chaque exemplaire</translation>
+    </message>
+    <message>
+        <source>Trim after the job</source>
+        <translation>Massicoter après la tâche</translation>
+    </message>
+    <message>
+        <source>Only if it is too large</source>
+        <translation>Seulement si c’est trop grand</translation>
+    </message>
+    <message>
+        <source>Fill the paper</source>
+        <translation>Remplir le papier</translation>
+    </message>
+    <message>
+        <source>Fit on the paper</source>
+        <translation>Adapter au papier</translation>
+    </message>
+    <message>
+        <source>Photos</source>
+        <translation>Photos</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Texte</translation>
+    </message>
+    <message>
+        <source>Graphics</source>
+        <translation>Graphiques</translation>
+    </message>
+    <message>
+        <source>Text and graphics</source>
+        <translation>Texte et graphiques</translation>
+    </message>
+    <message>
+        <source>Absolute colorimetric</source>
+        <translation>Colorimétrique absolu</translation>
+    </message>
+    <message>
+        <source>Perceptual</source>
+        <translation>Perceptif</translation>
+    </message>
+    <message>
+        <source>Relative colorimetric</source>
+        <translation>Colorimétrique relatif</translation>
+    </message>
+    <message>
+        <source>Relative colorimetric, black point adapted</source>
+        <translation>Colorimétrique relatif avec compensation du point noir</translation>
+    </message>
+    <message>
+        <source>Saturation</source>
+        <translation>Saturation</translation>
+    </message>
+    <message>
+        <source>4 × 6 in (10 × 15 cm)</source>
+        <translation>10 × 15 cm (4 × 6 po)</translation>
+    </message>
+    <message>
+        <source>5 × 7 in (13 × 18 cm)</source>
+        <translation>13 × 18 cm (5 × 7 po)</translation>
+    </message>
+    <message>
+        <source>3.5 × 5 in (9 × 13 cm)</source>
+        <translation>9 × 13 cm (3,5 × 5 po)</translation>
+    </message>
+    <message>
+        <source>8 × 10 in (20 × 25 cm)</source>
+        <translation>20 × 25 cm (8 × 10 po)</translation>
+    </message>
+    <message>
+        <source>10 × 15 cm</source>
+        <translation>10 × 15 cm</translation>
+    </message>
+    <message>
+        <source>Postcard (Hagaki)</source>
+        <translation>Carte postale (Hagaki)</translation>
+    </message>
+    <message>
+        <source>Letter</source>
+        <translation>Letter US</translation>
+    </message>
+    <message>
+        <source>Legal</source>
+        <translation>Legal US</translation>
+    </message>
+    <message>
+        <source>Executive</source>
+        <translation>Executive US</translation>
+    </message>
+    <message>
+        <source>Tabloid</source>
+        <translation>Tabloïd US</translation>
+    </message>
+    <message>
+        <source>Statement</source>
+        <translation>Statement US</translation>
+    </message>
+    <message>
+        <source>Tray %1</source>
+        <translation>Bac %1</translation>
+    </message>
+    <message>
+        <source>Roll %1</source>
+        <translation>Rouleau %1</translation>
+    </message>
+    <message>
+        <source>Stacker %1</source>
+        <translation>Empileur %1</translation>
+    </message>
+    <message>
+        <source>Mailbox %1</source>
+        <translation>Boîte de sortie %1</translation>
+    </message>
+    <message>
+        <source>%1, borderless</source>
+        <comment>a page size</comment>
+        <translation>%1, sans marge</translation>
     </message>
 </context>
 <context>

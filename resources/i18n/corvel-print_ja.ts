@@ -397,6 +397,61 @@ Examples:
     </message>
 </context>
 <context>
+    <name>IppOptions</name>
+    <message>
+        <source>Yes</source>
+        <translation>はい</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>いいえ</translation>
+    </message>
+    <message>
+        <source>%1 dpi</source>
+        <translation>%1 dpi</translation>
+    </message>
+    <message>
+        <source>%1 × %2 dpi</source>
+        <translation>%1 × %2 dpi</translation>
+    </message>
+    <message>
+        <source>Paper</source>
+        <translation>用紙</translation>
+    </message>
+    <message>
+        <source>Quality</source>
+        <translation>品質</translation>
+    </message>
+    <message>
+        <source>Finishing</source>
+        <translation>仕上げ</translation>
+    </message>
+    <message>
+        <source>Further options</source>
+        <translation>その他のオプション</translation>
+    </message>
+    <message>
+        <source>Page sizes of the printer left out because they cannot be used: %1.</source>
+        <translation>使用できないため省かれたプリンターの用紙サイズの数: %1。</translation>
+    </message>
+    <message>
+        <source>Options left out because they have no usable values: %1.</source>
+        <translation>使用できる値がないため省かれたオプション: %1。</translation>
+    </message>
+    <message>
+        <source>Values of options left out because they are repeated or cannot be used: %1.</source>
+        <translation>重複しているか使用できないため省かれたオプションの値の数: %1。</translation>
+    </message>
+    <message>
+        <source>Defaults left out because they are not among the choices: %1.</source>
+        <translation>選択肢にないため省かれた既定値: %1。</translation>
+    </message>
+    <message>
+        <source>Rules about choices left out because they are too many: %1.</source>
+        <translation>多すぎるため省かれた選択の規則の数: %1。</translation>
+    </message>
+</context>
+<context>
     <name>JobFollowing</name>
     <message>
         <source>%1: %2</source>
@@ -1117,6 +1172,486 @@ Examples:
     <message>
         <source>As set at the printer</source>
         <translation>プリンターの設定どおり</translation>
+    </message>
+</context>
+<context>
+    <name>StandardLabels</name>
+    <message>
+        <source>Paper size</source>
+        <translation>用紙サイズ</translation>
+    </message>
+    <message>
+        <source>Paper type</source>
+        <translation>用紙の種類</translation>
+    </message>
+    <message>
+        <source>Paper source</source>
+        <translation>給紙方法</translation>
+    </message>
+    <message>
+        <source>Print quality</source>
+        <translation>印刷品質</translation>
+    </message>
+    <message>
+        <source>Color mode</source>
+        <translation>カラーモード</translation>
+    </message>
+    <message>
+        <source>Two-sided printing</source>
+        <translation>両面印刷</translation>
+    </message>
+    <message>
+        <source>Output tray</source>
+        <translation>排紙トレイ</translation>
+    </message>
+    <message>
+        <source>Finishing</source>
+        <translation>仕上げ</translation>
+    </message>
+    <message>
+        <source>Finishing template</source>
+        <translation>仕上げのテンプレート</translation>
+    </message>
+    <message>
+        <source>Scaling by the printer</source>
+        <translation>プリンターによる拡大縮小</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>解像度</translation>
+    </message>
+    <message>
+        <source>Optimize for</source>
+        <translation>最適化の対象</translation>
+    </message>
+    <message>
+        <source>Rendering intent</source>
+        <translation>レンダリングインテント</translation>
+    </message>
+    <message>
+        <source>Cutting</source>
+        <translation>カット</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation>自動</translation>
+    </message>
+    <message>
+        <source>Plain paper</source>
+        <translation>普通紙</translation>
+    </message>
+    <message>
+        <source>Coated paper</source>
+        <translation>コート紙</translation>
+    </message>
+    <message>
+        <source>Heavy paper</source>
+        <translation>厚紙</translation>
+    </message>
+    <message>
+        <source>Light paper</source>
+        <translation>薄紙</translation>
+    </message>
+    <message>
+        <source>Inkjet paper</source>
+        <translation>インクジェット用紙</translation>
+    </message>
+    <message>
+        <source>Letterhead</source>
+        <translation>レターヘッド</translation>
+    </message>
+    <message>
+        <source>Photo paper</source>
+        <translation>写真用紙</translation>
+    </message>
+    <message>
+        <source>Archival photo paper</source>
+        <translation>保存用写真用紙</translation>
+    </message>
+    <message>
+        <source>Photo film</source>
+        <translation>写真用フィルム</translation>
+    </message>
+    <message>
+        <source>Glossy photo paper</source>
+        <translation>光沢写真用紙</translation>
+    </message>
+    <message>
+        <source>High-gloss photo paper</source>
+        <translation>高光沢写真用紙</translation>
+    </message>
+    <message>
+        <source>Matte photo paper</source>
+        <translation>マット写真用紙</translation>
+    </message>
+    <message>
+        <source>Satin photo paper</source>
+        <translation>サテン写真用紙</translation>
+    </message>
+    <message>
+        <source>Semi-gloss photo paper</source>
+        <translation>半光沢写真用紙</translation>
+    </message>
+    <message>
+        <source>Card stock</source>
+        <translation>カード用紙</translation>
+    </message>
+    <message>
+        <source>Continuous paper</source>
+        <translation>連続用紙</translation>
+    </message>
+    <message>
+        <source>Disc</source>
+        <translation>ディスク</translation>
+    </message>
+    <message>
+        <source>Envelope</source>
+        <translation>封筒</translation>
+    </message>
+    <message>
+        <source>Labels</source>
+        <translation>ラベル</translation>
+    </message>
+    <message>
+        <source>Transparency</source>
+        <translation>OHPフィルム</translation>
+    </message>
+    <message>
+        <source>Other paper</source>
+        <translation>その他の用紙</translation>
+    </message>
+    <message>
+        <source>Main tray</source>
+        <translation>メイントレイ</translation>
+    </message>
+    <message>
+        <source>Alternate tray</source>
+        <translation>代替トレイ</translation>
+    </message>
+    <message>
+        <source>Manual feed</source>
+        <translation>手差し</translation>
+    </message>
+    <message>
+        <source>Bypass tray</source>
+        <translation>手差しトレイ</translation>
+    </message>
+    <message>
+        <source>Photo tray</source>
+        <translation>写真トレイ</translation>
+    </message>
+    <message>
+        <source>Postcard tray</source>
+        <translation>はがきトレイ</translation>
+    </message>
+    <message>
+        <source>Envelope tray</source>
+        <translation>封筒トレイ</translation>
+    </message>
+    <message>
+        <source>Disc tray</source>
+        <translation>ディスクトレイ</translation>
+    </message>
+    <message>
+        <source>Large tray</source>
+        <translation>大容量トレイ</translation>
+    </message>
+    <message>
+        <source>Main roll</source>
+        <translation>メインロール</translation>
+    </message>
+    <message>
+        <source>Alternate roll</source>
+        <translation>代替ロール</translation>
+    </message>
+    <message>
+        <source>Top tray</source>
+        <translation>上段トレイ</translation>
+    </message>
+    <message>
+        <source>Middle tray</source>
+        <translation>中段トレイ</translation>
+    </message>
+    <message>
+        <source>Bottom tray</source>
+        <translation>下段トレイ</translation>
+    </message>
+    <message>
+        <source>Center tray</source>
+        <translation>中央トレイ</translation>
+    </message>
+    <message>
+        <source>Left tray</source>
+        <translation>左トレイ</translation>
+    </message>
+    <message>
+        <source>Right tray</source>
+        <translation>右トレイ</translation>
+    </message>
+    <message>
+        <source>Rear tray</source>
+        <translation>後部トレイ</translation>
+    </message>
+    <message>
+        <source>Side tray</source>
+        <translation>側面トレイ</translation>
+    </message>
+    <message>
+        <source>Face up</source>
+        <translation>印刷面を上</translation>
+    </message>
+    <message>
+        <source>Face down</source>
+        <translation>印刷面を下</translation>
+    </message>
+    <message>
+        <source>Draft</source>
+        <translation>ドラフト</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>標準</translation>
+    </message>
+    <message>
+        <source>High</source>
+        <translation>高品質</translation>
+    </message>
+    <message>
+        <source>Color</source>
+        <translation>カラー</translation>
+    </message>
+    <message>
+        <source>Color (Adobe RGB)</source>
+        <translation>カラー (Adobe RGB)</translation>
+    </message>
+    <message>
+        <source>Gray</source>
+        <translation>グレースケール</translation>
+    </message>
+    <message>
+        <source>Gray, automatic</source>
+        <translation>グレースケール (自動)</translation>
+    </message>
+    <message>
+        <source>Gray from colored ink</source>
+        <translation>カラーインクによるグレースケール</translation>
+    </message>
+    <message>
+        <source>Black and white</source>
+        <translation>白黒</translation>
+    </message>
+    <message>
+        <source>One side</source>
+        <translation>片面</translation>
+    </message>
+    <message>
+        <source>Both sides, turned on the long edge</source>
+        <translation>両面 (長辺とじ)</translation>
+    </message>
+    <message>
+        <source>Both sides, turned on the short edge</source>
+        <translation>両面 (短辺とじ)</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>なし</translation>
+    </message>
+    <message>
+        <source>Staple</source>
+        <translation>ステープル</translation>
+    </message>
+    <message>
+        <source>Punch</source>
+        <translation>パンチ</translation>
+    </message>
+    <message>
+        <source>Cover</source>
+        <translation>表紙</translation>
+    </message>
+    <message>
+        <source>Bind</source>
+        <translation>製本</translation>
+    </message>
+    <message>
+        <source>Saddle stitch</source>
+        <translation>中とじ</translation>
+    </message>
+    <message>
+        <source>Edge stitch</source>
+        <translation>平とじ</translation>
+    </message>
+    <message>
+        <source>Fold</source>
+        <translation>折り</translation>
+    </message>
+    <message>
+        <source>Trim</source>
+        <translation>断裁</translation>
+    </message>
+    <message>
+        <source>Bale</source>
+        <translation>結束</translation>
+    </message>
+    <message>
+        <source>Booklet</source>
+        <translation>小冊子</translation>
+    </message>
+    <message>
+        <source>Offset stacking</source>
+        <translation>オフセット排紙</translation>
+    </message>
+    <message>
+        <source>Coat</source>
+        <translation>コーティング</translation>
+    </message>
+    <message>
+        <source>Laminate</source>
+        <translation>ラミネート</translation>
+    </message>
+    <message>
+        <source>Staple, top left</source>
+        <translation>ステープル (左上)</translation>
+    </message>
+    <message>
+        <source>Staple, bottom left</source>
+        <translation>ステープル (左下)</translation>
+    </message>
+    <message>
+        <source>Staple, top right</source>
+        <translation>ステープル (右上)</translation>
+    </message>
+    <message>
+        <source>Staple, bottom right</source>
+        <translation>ステープル (右下)</translation>
+    </message>
+    <message>
+        <source>Trim after each page</source>
+        <translation>ページごとに断裁</translation>
+    </message>
+    <message>
+        <source>Trim after each document</source>
+        <translation>文書ごとに断裁</translation>
+    </message>
+    <message>
+        <source>Trim after each copy</source>
+        <translation>部ごとに断裁</translation>
+    </message>
+    <message>
+        <source>Trim after the job</source>
+        <translation>ジョブの後に断裁</translation>
+    </message>
+    <message>
+        <source>Only if it is too large</source>
+        <translation>大きすぎる場合のみ</translation>
+    </message>
+    <message>
+        <source>Fill the paper</source>
+        <translation>用紙全体に拡大</translation>
+    </message>
+    <message>
+        <source>Fit on the paper</source>
+        <translation>用紙に合わせる</translation>
+    </message>
+    <message>
+        <source>Photos</source>
+        <translation>写真</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>文字</translation>
+    </message>
+    <message>
+        <source>Graphics</source>
+        <translation>グラフィック</translation>
+    </message>
+    <message>
+        <source>Text and graphics</source>
+        <translation>文字とグラフィック</translation>
+    </message>
+    <message>
+        <source>Absolute colorimetric</source>
+        <translation>絶対的な色域を維持</translation>
+    </message>
+    <message>
+        <source>Perceptual</source>
+        <translation>知覚的</translation>
+    </message>
+    <message>
+        <source>Relative colorimetric</source>
+        <translation>相対的な色域を維持</translation>
+    </message>
+    <message>
+        <source>Relative colorimetric, black point adapted</source>
+        <translation>相対的な色域を維持 (黒点の補正あり)</translation>
+    </message>
+    <message>
+        <source>Saturation</source>
+        <translation>彩度</translation>
+    </message>
+    <message>
+        <source>4 × 6 in (10 × 15 cm)</source>
+        <translation>KG判 (102 × 152 mm)</translation>
+    </message>
+    <message>
+        <source>5 × 7 in (13 × 18 cm)</source>
+        <translation>2L判 (127 × 178 mm)</translation>
+    </message>
+    <message>
+        <source>3.5 × 5 in (9 × 13 cm)</source>
+        <translation>L判 (89 × 127 mm)</translation>
+    </message>
+    <message>
+        <source>8 × 10 in (20 × 25 cm)</source>
+        <translation>六切 (203 × 254 mm)</translation>
+    </message>
+    <message>
+        <source>10 × 15 cm</source>
+        <translation>100 × 150 mm</translation>
+    </message>
+    <message>
+        <source>Postcard (Hagaki)</source>
+        <translation>はがき</translation>
+    </message>
+    <message>
+        <source>Letter</source>
+        <translation>レター</translation>
+    </message>
+    <message>
+        <source>Legal</source>
+        <translation>リーガル</translation>
+    </message>
+    <message>
+        <source>Executive</source>
+        <translation>エグゼクティブ</translation>
+    </message>
+    <message>
+        <source>Tabloid</source>
+        <translation>タブロイド</translation>
+    </message>
+    <message>
+        <source>Statement</source>
+        <translation>ステートメント</translation>
+    </message>
+    <message>
+        <source>Tray %1</source>
+        <translation>トレイ %1</translation>
+    </message>
+    <message>
+        <source>Roll %1</source>
+        <translation>ロール %1</translation>
+    </message>
+    <message>
+        <source>Stacker %1</source>
+        <translation>スタッカー %1</translation>
+    </message>
+    <message>
+        <source>Mailbox %1</source>
+        <translation>メールボックス %1</translation>
+    </message>
+    <message>
+        <source>%1, borderless</source>
+        <comment>a page size</comment>
+        <translation>%1 (フチなし)</translation>
     </message>
 </context>
 <context>
