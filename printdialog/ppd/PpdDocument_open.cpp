@@ -6,6 +6,7 @@
 #include "PpdDocument.h"
 #include "PpdDocument_p.h"
 #include "PpdFile.h"
+#include "StandardLabels.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QLocale>
@@ -43,6 +44,35 @@ QString decoded(const char *text, const QString &keyword, QStringList &notes)
         return keyword;
     }
     return plain.isEmpty() ? keyword : plain;
+}
+
+/// What libcups calls options for which a PPD has no text, in English only.
+bool isPlaceholder(const QString &key, const QString &text, const QByteArray &ppd)
+{
+    static const QHash<QString, QString> texts = {
+        {QStringLiteral("PageSize"), QStringLiteral("Media Size")},
+        {QStringLiteral("MediaType"), QStringLiteral("Media Type")},
+        {QStringLiteral("InputSlot"), QStringLiteral("Media Source")},
+        {QStringLiteral("ColorModel"), QStringLiteral("Output Mode")}};
+    return text == texts.value(key) && !ppd.contains("*OpenUI *" + key.toLatin1() + '/');
+}
+
+QString optionLabel(const ppd_option_t &option, const QString &key, const QByteArray &ppd, QStringList &notes)
+{
+    const QString text = decoded(option.text, key, notes);
+    const QString standard =
+        text == key || isPlaceholder(key, text, ppd) ? StandardLabels::option(key) : QString();
+    return standard.isEmpty() ? text : standard;
+}
+
+/// The PPDs that CUPS makes for printers without a driver have texts in one language at most, and none for
+/// papers and trays.
+QString choiceLabel(const ppd_choice_t &choice, const QString &key, const QString &keyword,
+                    QStringList &notes)
+{
+    const QString text = decoded(choice.text, keyword, notes);
+    const QString standard = text == keyword ? StandardLabels::choice(key, keyword) : QString();
+    return standard.isEmpty() ? text : standard;
 }
 
 OptionKind kindOf(const ppd_option_t &option)
@@ -198,8 +228,8 @@ bool PpdDocument::indexOption(ppd_option_s &option)
     const bool hasCustom =
         ppdFindCustomOption(record_.get(), keyword == pageRegionOption ? "PageSize" : option.keyword) !=
         nullptr;
-    auto indexed =
-        std::make_shared<Option>(Option{&option, decoded(option.text, keyword, notes_), kind, {}, {}});
+    auto indexed = std::make_shared<Option>(
+        Option{&option, optionLabel(option, keyword, ppd_.inspection().bytes, notes_), kind, {}, {}});
     const std::span choices(option.choices, static_cast<size_t>(option.num_choices));
     indexed->choices.reserve(option.num_choices);
     indexed->indexOf.reserve(option.num_choices);
@@ -215,7 +245,7 @@ bool PpdDocument::indexOption(ppd_option_s &option)
             continue;
         }
         index = indexed->choices.size();
-        indexed->choices += {choiceKeyword, decoded(choice.text, choiceKeyword, notes_)};
+        indexed->choices += {choiceKeyword, choiceLabel(choice, keyword, choiceKeyword, notes_)};
     }
     if (repeated > 0)
         notes_ += OpeningText::tr("The option \"%1\" repeats %2 of its choices; the first of each counts.")

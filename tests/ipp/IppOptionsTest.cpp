@@ -9,6 +9,7 @@
 
 #include <QtTest/QTest>
 
+#include <algorithm>
 #include <array>
 #include <functional>
 
@@ -335,6 +336,8 @@ void IppOptionsTest::survivesOddAttributes()
     QCOMPARE(keywords(*options, key), choices);
     QCOMPARE(options->markedChoice(key).value_or(QString()), marked);
     QCOMPARE(options->notes().size(), notes);
+    const QList<CustomParameter> typed = options->customParameters(key);
+    QVERIFY(std::ranges::all_of(typed, [](const auto &each) { return each.minimum <= each.maximum; }));
     // The rest works: every size has an area to print on, and what is marked can be chosen and sent.
     QCOMPARE(options->pageSize(*options->markedChoice(u"media"_s))->imageable.isEmpty(), false);
     ChoiceMarker marker(*options);

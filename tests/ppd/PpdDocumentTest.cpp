@@ -444,6 +444,51 @@ private Q_SLOTS:
         QTEST(document.requestedBundles().join(u' '), "bundle");
     }
 
+    void labelsStandardNames_data()
+    {
+        // The option as the PPD has it, its text, and those of its choices.
+        addRows<QByteArray, QString, QString>({
+            {"a PPD without texts", option("MediaType", {"PhotographicGlossy", "Com.exampleLuster"}),
+             u"Paper type"_s, u"Glossy photo paper|Com.exampleLuster"_s},
+            {"its own texts", option("MediaType", {"PhotographicGlossy/Shiny", "Stationery"}, "Stock"),
+             u"Stock"_s, u"Shiny|Plain paper"_s},
+            {"quality", option("cupsPrintQuality", {"Draft", "High"}), u"Print quality"_s, u"Draft|High"_s},
+            {"colors", option("ColorModel", {"FastGray", "RGB"}), u"Color mode"_s,
+             u"Black and white|Color"_s},
+            {"sides", option("Duplex", {"None", "DuplexNoTumble"}), u"Two-sided printing"_s,
+             u"One side|Both sides, turned on the long edge"_s},
+            {"trays", option("InputSlot", {"Auto", "ByPassTray", "Tray3", "Cellar"}), u"Paper source"_s,
+             u"Automatic|Bypass tray|Tray 3|Cellar"_s},
+            {"a maker's own option", option("Overcoat", {"None", "Auto"}), u"Overcoat"_s, u"None|Auto"_s},
+        });
+    }
+
+    void labelsStandardNames()
+    {
+        const auto [lines, text, choices] = row<QByteArray, QString, QString>();
+        const PpdDocument document = opened(minimal() + lines);
+        const QString key = document.options().constLast();
+        QCOMPARE(document.optionText(key), text);
+        QStringList texts;
+        for (const Choice &choice : document.choices(key))
+            texts += choice.text;
+        QCOMPARE(texts.join(u'|'), choices);
+    }
+
+    void labelsStandardPageSizes()
+    {
+        const PpdDocument document =
+            opened(header + option("PageSize", {"4x6.Borderless", "A4", "w100h200", "Giant"}) +
+                   "*PaperDimension 4x6.Borderless: \"288 432\"\n*PaperDimension A4: \"595 842\"\n"
+                   "*PaperDimension w100h200: \"100 200\"\n*PaperDimension Giant: \"900 900\"\n");
+        QStringList texts = {document.optionText(u"PageSize"_s)};
+        for (const PageSize &size : document.pageSizes())
+            texts += size.text;
+        const QStringList expected = {u"Paper size"_s, u"4 × 6 in (10 × 15 cm), borderless"_s, u"A4"_s,
+                                      u"35.3 × 70.6 mm"_s, u"Giant"_s};
+        QCOMPARE(texts, expected);
+    }
+
     void survivesAMove()
     {
         PpdDocument first = opened(minimal());
