@@ -24,6 +24,7 @@ std::optional<QString> optionText(const IppValue &value)
         return value.number == value.upper ? QStringLiteral("%1dpi").arg(value.number)
                                            : QStringLiteral("%1x%2dpi").arg(value.number).arg(value.upper);
     case Kind::Keyword:
+    case Kind::Name:
     case Kind::Text:
         return value.text;
     case Kind::Collection:
