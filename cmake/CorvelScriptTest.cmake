@@ -8,6 +8,7 @@ function(corvel_script_test name)
     file(MAKE_DIRECTORY ${home})
     set(environment "QT_QPA_PLATFORM=offscreen;LC_ALL=C;LANG=C;LANGUAGE=;HOME=${home};XDG_CONFIG_HOME=${home}/config"
         "XDG_CACHE_HOME=${home}/cache;XDG_DATA_HOME=${home}/data;CUPS_SERVER=/nonexistent/cups.sock"
+        "DBUS_SYSTEM_BUS_ADDRESS=unix:path=/nonexistent/bus"
         "CORVEL_PDE_PATH=${CORVEL_PDE_BUILD_DIR};PYTHONDONTWRITEBYTECODE=1")
     set_tests_properties(${name} PROPERTIES TIMEOUT 300 ENVIRONMENT "${environment}")
 endfunction()

@@ -6,6 +6,7 @@
 #include "BoundedWorker.h"
 #include "CupsConnection.h"
 #include "QueueRecord.h"
+#include "TemporaryQueue.h"
 
 #include <QtCore/QUrl>
 
@@ -48,6 +49,31 @@ QString limitReason(std::chrono::milliseconds limit)
 {
     return OptionsFetcher::tr("its PPD did not arrive within %1 s")
         .arg(std::chrono::duration<double>(limit).count());
+}
+
+/// A queue and its PPD, if it has one.
+struct FoundQueue
+{
+    QueueRecord record;
+    std::optional<QByteArray> ppd;
+};
+
+Result<FoundQueue, QueueFault> findQueue(CupsConnection &connection, const Destination &destination,
+                                         const QString &announcedUri, std::chrono::milliseconds limit)
+{
+    if (!announcedUri.isEmpty()) {
+        auto queue = temporaryQueue(connection, destination, announcedUri, limit);
+        if (!queue)
+            return queue.failure();
+        return FoundQueue{std::move(queue->record), std::move(queue->ppd)};
+    }
+    auto record = queueRecord(connection, destination);
+    if (!record)
+        return record.failure();
+    auto ppd = ppdOf(connection, *record);
+    if (!ppd && ppd.failure().reason != QueueFault::NoPpd)
+        return ppd.failure();
+    return FoundQueue{*std::move(record), ppd ? std::optional(*std::move(ppd)) : std::nullopt};
 }
 
 Result<CheckedPpd, QueueFault> checked(const QByteArray &fetched, const std::optional<CheckedPpd> &known,
@@ -107,7 +133,10 @@ OptionsFetcher::OptionsFetcher(QObject *parent, std::chrono::milliseconds limit,
     limit_.setSingleShot(true);
     limit_.setInterval(limit);
     connect(&limit_, &QTimer::timeout, this, [this] {
-        take(queueFailure(QueueFault::TimedOut, destination_.id(), limitReason(limit_.intervalAsDuration())));
+        const auto passed = limit_.intervalAsDuration();
+        take(announcedUri_.isEmpty()
+                 ? queueFailure(QueueFault::TimedOut, destination_.id(), limitReason(passed))
+                 : absentPrinter(destination_.id(), passed));
     });
 }
 
@@ -118,11 +147,13 @@ OptionsFetcher::~OptionsFetcher()
         worker_->release(fetchEndPatience);
 }
 
-quint64 OptionsFetcher::fetch(const Destination &destination, const std::optional<CheckedPpd> &known)
+quint64 OptionsFetcher::fetch(const Destination &destination, const std::optional<CheckedPpd> &known,
+                              const QString &announcedUri)
 {
-    const bool isUnderWay = std::exchange(isAhead_, false) && destination == destination_;
+    const bool isUnderWay =
+        std::exchange(isAhead_, false) && destination == destination_ && announcedUri == announcedUri_;
     if (!isUnderWay)
-        start(destination, known);
+        start(destination, known, announcedUri);
     const quint64 number = ++number_;
     if (early_) {
         const auto announce = [this, number] {
@@ -136,43 +167,44 @@ quint64 OptionsFetcher::fetch(const Destination &destination, const std::optiona
 
 void OptionsFetcher::fetchAhead(const Destination &destination)
 {
-    start(destination, std::nullopt);
+    start(destination, std::nullopt, {});
     isAhead_ = true;
 }
 
-void OptionsFetcher::start(const Destination &destination, const std::optional<CheckedPpd> &known)
+void OptionsFetcher::start(const Destination &destination, const std::optional<CheckedPpd> &known,
+                           const QString &announcedUri)
 {
     cancel();
     destination_ = destination;
+    announcedUri_ = announcedUri;
     worker_ = std::make_shared<BoundedWorker>(this);
-    worker_->run(
-        [this, destination, known, limit = limit_.intervalAsDuration(), check = check_](BoundedWorker &self) {
-            const auto outcome = [&]() -> Result<FetchedOptions, QueueFault> {
-                CupsConnection connection(limit, self.cancelFlag());
-                const auto record = queueRecord(connection, destination);
-                if (!record)
-                    return record.failure();
-                const auto fetched = ppdOf(connection, *record);
-                if (!fetched && fetched.failure().reason != QueueFault::NoPpd)
-                    return fetched.failure();
-                std::future<Result<CheckedPpd, QueueFault>> checking;
-                if (fetched)
-                    checking = std::async(std::launch::async,
-                                          [&] { return checked(*fetched, known, check, destination.id()); });
-                self.post([this] { limit_.start(); });
-                FetchedOptions options{std::nullopt, attributesOf(connection, *record, bool(fetched),
-                                                                  attributesPatience(limit))};
-                self.post([this] { limit_.stop(); }); // the check does not involve the server
-                if (checking.valid()) {
-                    auto ppd = checking.get();
-                    if (!ppd)
-                        return ppd.failure();
-                    options.ppd = *std::move(ppd);
-                }
-                return options;
-            }();
-            self.post([this, outcome] { take(outcome); });
-        });
+    worker_->run([this, destination, known, announcedUri, limit = limit_.intervalAsDuration(),
+                  check = check_](BoundedWorker &self) {
+        const auto outcome = [&]() -> Result<FetchedOptions, QueueFault> {
+            CupsConnection connection(limit, self.cancelFlag());
+            const auto found = findQueue(connection, destination, announcedUri, limit);
+            if (!found)
+                return found.failure();
+            const auto &[record, fetched] = *found;
+            std::future<Result<CheckedPpd, QueueFault>> checking;
+            if (fetched)
+                checking = std::async(std::launch::async, [&, ppd = &*fetched] {
+                    return checked(*ppd, known, check, destination.id());
+                });
+            self.post([this] { limit_.start(); });
+            FetchedOptions options{std::nullopt, attributesOf(connection, record, fetched.has_value(),
+                                                              attributesPatience(limit))};
+            self.post([this] { limit_.stop(); }); // the check does not involve the server
+            if (checking.valid()) {
+                auto ppd = checking.get();
+                if (!ppd)
+                    return ppd.failure();
+                options.ppd = *std::move(ppd);
+            }
+            return options;
+        }();
+        self.post([this, outcome] { take(outcome); });
+    });
     limit_.start();
 }
 

@@ -70,7 +70,9 @@ public:
     /// Starts a fetch and cancels an earlier one, for which no signal follows. Returns the number that the
     /// outcome is signalled with, exactly once, after this call has returned.
     /// @param known the PPD that the queue most likely has; it is not checked again
-    quint64 fetch(const Destination &destination, const std::optional<CheckedPpd> &known = std::nullopt);
+    /// @param announcedUri the device URI of an announced printer, whose queue is made if there is none
+    quint64 fetch(const Destination &destination, const std::optional<CheckedPpd> &known = std::nullopt,
+                  const QString &announcedUri = {});
     /// Starts a fetch that may be needed soon: the next fetch() of the same queue continues it. No signal is
     /// emitted before that, and none about a failure.
     void fetchAhead(const Destination &destination);
@@ -85,12 +87,14 @@ Q_SIGNALS:
 private:
     static Result<CheckedPpd, PpdFault> checkFetched(const QByteArray &ppd, const QString &name);
 
-    void start(const Destination &destination, const std::optional<CheckedPpd> &known);
+    void start(const Destination &destination, const std::optional<CheckedPpd> &known,
+               const QString &announcedUri);
     void take(const Result<FetchedOptions, QueueFault> &outcome);
 
     Check check_;
     QTimer limit_; // for calls that the worker's own limit does not cover
     Destination destination_;
+    QString announcedUri_;
     quint64 number_ = 0;
     bool isAhead_ = false;                  // the outcome was not requested yet
     std::optional<FetchedOptions> early_;   // arrived before it was requested

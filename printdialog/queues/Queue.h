@@ -47,6 +47,9 @@ struct Queue
     bool isDefault = false; ///< The user's default, or else the server's.
     bool isClass = false;
     bool isBuiltIn = false;
+    /// A printer on the network that announces itself: it has none but a temporary queue, which the server
+    /// removes a minute after its last job, and `deviceUri` is what one is made with.
+    bool isAnnounced = false;
 
     /// "name" or "name/instance": the identifier in settings, on the command line, and in this library.
     QString id() const { return destination().id(); }

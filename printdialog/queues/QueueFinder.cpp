@@ -107,6 +107,8 @@ void QueueFinder::applyQueues(const QList<Queue> &queues)
             Q_EMIT queueFound(queue);
     }
     if (isCurrent())
+        Q_EMIT answered();
+    if (isCurrent())
         endFirstLook();
 }
 

@@ -49,6 +49,8 @@ Q_SIGNALS:
     void queueRemoved(const QString &id);
     /// The first request is over, with or without success. Emitted once after each start().
     void finished();
+    /// The server has answered, after the signals about queues.
+    void answered();
     /// The server cannot be reached; emitted once per reason. Queues already found stay, since it may come
     /// back.
     void failed(const QString &text);

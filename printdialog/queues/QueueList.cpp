@@ -8,6 +8,7 @@
 #include "OptionsFetcher.h"
 #include "PlainText.h"
 #include "QueueRecord.h"
+#include "TemporaryQueue.h"
 #include "UserDestinations.h"
 
 #include <QtCore/QHash>
@@ -57,16 +58,18 @@ public:
         ipp_attribute_t *attribute = attributes_.value(name);
         return attribute && index < ippGetCount(attribute) ? ippGetInteger(attribute, index) : otherwise;
     }
-    bool isFalse(const char *name) const
+    bool flag(const char *name, bool otherwise) const
     {
         ipp_attribute_t *attribute = attributes_.value(name);
-        return attribute && ippGetValueTag(attribute) == IPP_TAG_BOOLEAN && !ippGetBoolean(attribute, 0);
+        return attribute && ippGetValueTag(attribute) == IPP_TAG_BOOLEAN ? ippGetBoolean(attribute, 0) != 0
+                                                                         : otherwise;
     }
 
 private:
     QHash<QByteArray, ipp_attribute_t *> attributes_;
 };
 
+constexpr int usualPort = 631;
 /// Further queues are left out: nobody finds a printer among so many.
 constexpr qsizetype mostQueues = 10'000;
 
@@ -76,7 +79,7 @@ constexpr std::array wantedAttributes = {
     "member-names",      "printer-info",           "printer-is-accepting-jobs",
     "printer-location",  "printer-make-and-model", "printer-name",
     "printer-state",     "printer-state-message",  "printer-state-reasons",
-    "printer-type",      "printer-uri-supported"};
+    "printer-type",      "printer-uri-supported",  "printer-is-temporary"};
 
 Queue::State stateOf(int printerState)
 {
@@ -134,7 +137,8 @@ Queue queueOf(const QueueAttributes &attributes)
     queue.stateMessage = attributes.text("printer-state-message");
     queue.supplies = suppliesOf(attributes);
     queue.members = attributes.names("member-names");
-    queue.acceptsJobs = !attributes.isFalse("printer-is-accepting-jobs");
+    queue.acceptsJobs = attributes.flag("printer-is-accepting-jobs", true);
+    queue.isAnnounced = attributes.flag("printer-is-temporary", false);
     queue.isClass = (attributes.number("printer-type", 0) & CUPS_PRINTER_CLASS) != 0;
     return queue;
 }
@@ -164,7 +168,8 @@ QList<Queue> queuesIn(ipp_t *answer)
     return queues;
 }
 
-/// Each queue is followed by the user's instances of it.
+} // namespace
+
 QList<Queue> withInstances(const QList<Queue> &queues, const QList<Destination> &instances)
 {
     QList<Queue> all;
@@ -179,8 +184,6 @@ QList<Queue> withInstances(const QList<Queue> &queues, const QList<Destination> 
     }
     return all;
 }
-
-} // namespace
 
 // Uses one connection with a limit and requests only what is needed. cupsEnumDests() uses its own connection
 // without a limit, so a server that falls silent blocks its thread forever. It also requests more attributes
@@ -214,9 +217,14 @@ Result<QList<Queue>, QueueFault> sweepQueues(std::chrono::milliseconds limit, in
 namespace {
 
 Result<OpenedQueue, QueueFault> openHere(const Destination &destination, std::chrono::milliseconds limit,
-                                         int *cancel)
+                                         const QString &announcedUri, int *cancel)
 {
     CupsConnection connection(limit, cancel);
+    if (!announcedUri.isEmpty()) {
+        const auto made = temporaryQueue(connection, destination, announcedUri, limit);
+        if (!made)
+            return made.failure();
+    }
     const auto record = queueRecord(connection, destination);
     if (!record)
         return record.failure();
@@ -229,6 +237,10 @@ Result<OpenedQueue, QueueFault> openHere(const Destination &destination, std::ch
         return connection.lastFailure(destination.id());
     OpenedQueue opened{found.constFirst(), false, {}, {}};
     opened.queue.instance = destination.instance;
+    if (!announcedUri.isEmpty()) {
+        opened.queue.isAnnounced = true;
+        opened.queue.deviceUri = announcedUri;
+    }
     const auto ppd = ppdOf(connection, *record);
     if (!ppd && ppd.failure().reason != QueueFault::NoPpd)
         return ppd.failure();
@@ -242,12 +254,17 @@ Result<OpenedQueue, QueueFault> openHere(const Destination &destination, std::ch
 
 } // namespace
 
-Result<OpenedQueue, QueueFault> queueNamed(const Destination &destination, std::chrono::milliseconds limit)
+Result<OpenedQueue, QueueFault> queueNamed(const Destination &destination, std::chrono::milliseconds limit,
+                                           const QString &announcedUri)
 {
     auto opened = callWithin<Result<OpenedQueue, QueueFault>>(
-        limit + attributesPatience(limit),
-        [destination, limit](int *cancel) { return openHere(destination, limit, cancel); });
-    return opened ? *std::move(opened) : queueFailure(QueueFault::TimedOut, destination.id());
+        limit + attributesPatience(limit), [destination, limit, announcedUri](int *cancel) {
+            return openHere(destination, limit, announcedUri, cancel);
+        });
+    if (!opened)
+        return announcedUri.isEmpty() ? queueFailure(QueueFault::TimedOut, destination.id())
+                                      : absentPrinter(destination.id(), limit);
+    return *std::move(opened);
 }
 
 QString printServerAddress()
@@ -257,9 +274,17 @@ QString printServerAddress()
     return server.startsWith(u'/') ? server : QStringLiteral("%1:%2").arg(server).arg(ippPort());
 }
 
+bool isPrintServerHere()
+{
+    cupsSetServer(nullptr);
+    const QByteArray server(cupsServer());
+    return server.startsWith('/') ||
+           (ippPort() == usualPort &&
+            (server == "localhost" || server.startsWith("127.") || server == "::1" || server == "[::1]"));
+}
+
 bool isWithoutPrintServer(const Failure<QueueFault> &failure)
 {
-    constexpr int usualPort = 631;
     cupsSetServer(nullptr);
     const QString server = QString::fromUtf8(cupsServer());
     // Another port was configured on purpose, for example for a tunnel.

@@ -24,6 +24,9 @@ Result<QList<Queue>, QueueFault> listQueues(std::chrono::milliseconds limit);
 /// @param cancel non-zero: give up; may be null
 Result<QList<Queue>, QueueFault> sweepQueues(std::chrono::milliseconds limit, int *cancel);
 
+/// The queues, each followed by the user's instances of it (UserDestinations).
+QList<Queue> withInstances(const QList<Queue> &queues, const QList<Destination> &instances);
+
 /// A queue and what can be chosen for it.
 struct OpenedQueue
 {
@@ -36,7 +39,9 @@ struct OpenedQueue
 /// Requests one queue, its PPD and its attributes without listing the others. An instance is not checked,
 /// since it exists only on this side. Blocks, at most for the limit, and for attributesPatience() after the
 /// PPD. Failures: all of QueueFault but NoPpd.
-Result<OpenedQueue, QueueFault> queueNamed(const Destination &destination, std::chrono::milliseconds limit);
+/// @param announcedUri the device URI of an announced printer, whose queue is made if there is none
+Result<OpenedQueue, QueueFault> queueNamed(const Destination &destination, std::chrono::milliseconds limit,
+                                           const QString &announcedUri = {});
 
 /// Whether a failure of one of these means that this machine has no print server: the configured one is
 /// local, on CUPS' usual port or socket, and nothing listens there. Any other server that cannot be reached
@@ -46,6 +51,10 @@ bool isWithoutPrintServer(const Failure<QueueFault> &failure);
 /// The address of this process's print server: a socket's path, or "host:port". Reads the configuration of
 /// CUPS.
 QString printServerAddress();
+
+/// Whether the print server is this computer's own: a socket's path, or the usual port here. Another port may
+/// be a tunnel. Reads the configuration of CUPS.
+bool isPrintServerHere();
 
 /// The default among queues: the user's (LPDEST, PRINTER, lpoptions), or else the server's. Nothing when
 /// there is none, or when it names a queue that does not exist.

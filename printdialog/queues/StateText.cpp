@@ -144,6 +144,8 @@ QString stateWord(const Queue &queue)
     case Queue::State::Unknown:
         break;
     }
+    if (queue.isAnnounced)
+        return Text::tr("found on the network");
     return Text::tr("unknown");
 }
 

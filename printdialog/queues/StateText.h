@@ -15,7 +15,7 @@ QString reasonText(const QString &keyword);
 /// The reasons in words, without duplicates, separated by commas; may be empty.
 QString reasonsText(const QStringList &keywords);
 
-/// "ready", "printing", "stopped", "rejects jobs" or "unknown".
+/// "ready", "printing", "stopped", "rejects jobs", "found on the network" (no queue yet) or "unknown".
 QString stateWord(const Queue &queue);
 
 /// The state with its reasons, or else with the server's message: "stopped: out of paper".

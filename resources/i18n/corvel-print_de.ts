@@ -2,6 +2,17 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
+    <name>AnnouncedPrinters</name>
+    <message>
+        <source>printers on the network are not listed, because Avahi is not running</source>
+        <translation>Drucker im Netzwerk werden nicht aufgelistet, da Avahi nicht läuft</translation>
+    </message>
+    <message>
+        <source>printers on the network are not listed, because Avahi does not answer</source>
+        <translation>Drucker im Netzwerk werden nicht aufgelistet, da Avahi nicht antwortet</translation>
+    </message>
+</context>
+<context>
     <name>BatchRun</name>
     <message>
         <source>No page size is chosen. Choose one with -o PageSize=%1 or another one of --list-options.</source>
@@ -1127,6 +1138,10 @@ Beispiele:
         <source>The print server could not list its printers (%1). Try again, or check its log.</source>
         <translation>Der Druckserver konnte seine Drucker nicht auflisten (%1). Versuchen Sie es erneut oder sehen Sie in sein Protokoll.</translation>
     </message>
+    <message>
+        <source>The printer &quot;%1&quot; on the network does not answer (%2). Switch it on and choose it again in a minute, or choose another printer.</source>
+        <translation>Der Drucker „%1“ im Netzwerk antwortet nicht (%2). Schalten Sie ihn ein und wählen Sie ihn in einer Minute erneut, oder wählen Sie einen anderen Drucker.</translation>
+    </message>
 </context>
 <context>
     <name>RequestedSession</name>
@@ -1866,12 +1881,23 @@ Beispiele:
         <source>the printer does not accept this kind of document</source>
         <translation>der Drucker nimmt diese Art von Dokument nicht</translation>
     </message>
+    <message>
+        <source>found on the network</source>
+        <translation>im Netzwerk gefunden</translation>
+    </message>
 </context>
 <context>
     <name>SummaryLines</name>
     <message>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>TemporaryQueue</name>
+    <message>
+        <source>its options did not arrive within %1 s</source>
+        <translation>seine Optionen kamen nicht innerhalb von %1 s an</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,17 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="es" sourcelanguage="en">
 <context>
+    <name>AnnouncedPrinters</name>
+    <message>
+        <source>printers on the network are not listed, because Avahi is not running</source>
+        <translation>las impresoras de la red no se muestran, porque Avahi no está en marcha</translation>
+    </message>
+    <message>
+        <source>printers on the network are not listed, because Avahi does not answer</source>
+        <translation>las impresoras de la red no se muestran, porque Avahi no responde</translation>
+    </message>
+</context>
+<context>
     <name>BatchRun</name>
     <message>
         <source>No page size is chosen. Choose one with -o PageSize=%1 or another one of --list-options.</source>
@@ -1126,6 +1137,10 @@ Ejemplos:
         <source>The print server could not list its printers (%1). Try again, or check its log.</source>
         <translation>El servidor de impresión no ha podido listar sus impresoras (%1). Inténtelo de nuevo o consulte su registro.</translation>
     </message>
+    <message>
+        <source>The printer &quot;%1&quot; on the network does not answer (%2). Switch it on and choose it again in a minute, or choose another printer.</source>
+        <translation>La impresora «%1» de la red no responde (%2). Enciéndala y vuelva a elegirla dentro de un minuto, o elija otra impresora.</translation>
+    </message>
 </context>
 <context>
     <name>RequestedSession</name>
@@ -1865,12 +1880,23 @@ Ejemplos:
         <source>the printer does not accept this kind of document</source>
         <translation>la impresora no admite este tipo de documento</translation>
     </message>
+    <message>
+        <source>found on the network</source>
+        <translation>encontrada en la red</translation>
+    </message>
 </context>
 <context>
     <name>SummaryLines</name>
     <message>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>TemporaryQueue</name>
+    <message>
+        <source>its options did not arrive within %1 s</source>
+        <translation>sus opciones no llegaron en %1 s</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,17 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr" sourcelanguage="en">
 <context>
+    <name>AnnouncedPrinters</name>
+    <message>
+        <source>printers on the network are not listed, because Avahi is not running</source>
+        <translation>les imprimantes du réseau ne sont pas listées, car Avahi n’est pas lancé</translation>
+    </message>
+    <message>
+        <source>printers on the network are not listed, because Avahi does not answer</source>
+        <translation>les imprimantes du réseau ne sont pas listées, car Avahi ne répond pas</translation>
+    </message>
+</context>
+<context>
     <name>BatchRun</name>
     <message>
         <source>No page size is chosen. Choose one with -o PageSize=%1 or another one of --list-options.</source>
@@ -1127,6 +1138,10 @@ Exemples&#x202f;:
         <source>The print server could not list its printers (%1). Try again, or check its log.</source>
         <translation>Le serveur d’impression n’a pas pu lister ses imprimantes (%1). Réessayez ou consultez son journal.</translation>
     </message>
+    <message>
+        <source>The printer &quot;%1&quot; on the network does not answer (%2). Switch it on and choose it again in a minute, or choose another printer.</source>
+        <translation>L’imprimante «&#x202f;%1&#x202f;» du réseau ne répond pas (%2). Allumez-la et choisissez-la de nouveau dans une minute, ou choisissez une autre imprimante.</translation>
+    </message>
 </context>
 <context>
     <name>RequestedSession</name>
@@ -1866,12 +1881,23 @@ Exemples&#x202f;:
         <source>the printer does not accept this kind of document</source>
         <translation>l’imprimante n’accepte pas ce type de document</translation>
     </message>
+    <message>
+        <source>found on the network</source>
+        <translation>trouvée sur le réseau</translation>
+    </message>
 </context>
 <context>
     <name>SummaryLines</name>
     <message>
         <source>%1: %2</source>
         <translation>%1&#x202f;: %2</translation>
+    </message>
+</context>
+<context>
+    <name>TemporaryQueue</name>
+    <message>
+        <source>its options did not arrive within %1 s</source>
+        <translation>ses options ne sont pas arrivées en %1 s</translation>
     </message>
 </context>
 <context>

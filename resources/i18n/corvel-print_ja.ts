@@ -2,6 +2,17 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ja" sourcelanguage="en">
 <context>
+    <name>AnnouncedPrinters</name>
+    <message>
+        <source>printers on the network are not listed, because Avahi is not running</source>
+        <translation>Avahi が動作していないため、ネットワーク上のプリンターは一覧に出ません</translation>
+    </message>
+    <message>
+        <source>printers on the network are not listed, because Avahi does not answer</source>
+        <translation>Avahi が応答しないため、ネットワーク上のプリンターは一覧に出ません</translation>
+    </message>
+</context>
+<context>
     <name>BatchRun</name>
     <message>
         <source>No page size is chosen. Choose one with -o PageSize=%1 or another one of --list-options.</source>
@@ -1125,6 +1136,10 @@ Examples:
         <source>The print server could not list its printers (%1). Try again, or check its log.</source>
         <translation>プリントサーバーがプリンターの一覧を作れませんでした (%1)。やり直すか、サーバーのログを確認してください。</translation>
     </message>
+    <message>
+        <source>The printer &quot;%1&quot; on the network does not answer (%2). Switch it on and choose it again in a minute, or choose another printer.</source>
+        <translation>ネットワーク上のプリンター「%1」が応答しません (%2)。電源を入れて 1 分後にもう一度選ぶか、別のプリンターを選んでください。</translation>
+    </message>
 </context>
 <context>
     <name>RequestedSession</name>
@@ -1864,12 +1879,23 @@ Examples:
         <source>the printer does not accept this kind of document</source>
         <translation>プリンターはこの種類の文書に対応していません</translation>
     </message>
+    <message>
+        <source>found on the network</source>
+        <translation>ネットワーク上で検出</translation>
+    </message>
 </context>
 <context>
     <name>SummaryLines</name>
     <message>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>TemporaryQueue</name>
+    <message>
+        <source>its options did not arrive within %1 s</source>
+        <translation>%1 秒以内にオプションが届きませんでした</translation>
     </message>
 </context>
 <context>

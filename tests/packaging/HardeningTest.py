@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: Corvel print dialog authors
 # SPDX-License-Identifier: Apache-2.0
-"""HardeningTest.py PROGRAM PPD_CHECK KIT MODULE IS_FORTIFIED: what was built, as binutils see it."""
+"""HardeningTest.py PROGRAM PPD_CHECK PRINTER_LIST KIT MODULE IS_FORTIFIED: what was built, as binutils see it."""
 
 import re
 import sys
@@ -8,7 +8,7 @@ import unittest
 
 from commands import CommandTest
 
-PROGRAM, PPD_CHECK, KIT, MODULE, IS_FORTIFIED = sys.argv[1:]
+PROGRAM, PPD_CHECK, PRINTER_LIST, KIT, MODULE, IS_FORTIFIED = sys.argv[1:]
 
 
 class HardeningTest(CommandTest):
@@ -18,7 +18,7 @@ class HardeningTest(CommandTest):
         return sorted(re.sub(r" [A-Za-z]( [0-9a-f]+){1,2} ?$", "", line) for line in symbols.splitlines())
 
     def test_is_hardened(self):
-        for file, is_program in ((PROGRAM, True), (PPD_CHECK, True), (KIT, False), (MODULE, False)):
+        for file, is_program in ((PROGRAM, True), (PPD_CHECK, True), (PRINTER_LIST, True), (KIT, False), (MODULE, False)):
             with self.subTest(file):
                 headers = self.output_of("readelf", "-hdlW", file)
                 self.assert_all_in(("BIND_NOW", "GNU_RELRO", " DYN ("), headers)
@@ -29,6 +29,11 @@ class HardeningTest(CommandTest):
                 self.assertIn("__stack_chk_fail", imports)
                 if int(IS_FORTIFIED) and file == PROGRAM:
                     self.assertIn("_chk@GLIBC", imports)
+
+    # A hung bus blocks whoever is connected to it.
+    def test_only_the_lister_knows_d_bus(self):
+        for file in PROGRAM, PPD_CHECK, KIT, MODULE:
+            self.assertNotRegex(self.output_of("readelf", "-dW", file), "NEEDED.*DBus")
 
     def test_the_module_exports_its_entry_and_the_record_functions(self):
         self.assertEqual(self.exports(MODULE), [

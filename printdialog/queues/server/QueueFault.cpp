@@ -34,6 +34,8 @@ QString ownReason(QueueFault fault)
         return FaultText::tr("time limit reached");
     case QueueFault::Changed:
         return FaultText::tr("its PPD file is a new one");
+    case QueueFault::Absent:
+        return FaultText::tr("time limit reached");
     case QueueFault::Canceled:
         return FaultText::tr("nothing is printed");
     case QueueFault::Failed:
@@ -65,6 +67,10 @@ QString sentence(QueueFault fault)
     case QueueFault::Changed:
         return FaultText::tr("The options of the printer \"%1\" have changed since they were chosen (%2). "
                              "Look at them and print again.");
+    case QueueFault::Absent:
+        return FaultText::tr(
+            "The printer \"%1\" on the network does not answer (%2). Switch it on and choose it "
+            "again in a minute, or choose another printer.");
     case QueueFault::Canceled:
         return FaultText::tr("The job for the printer \"%1\" was canceled (%2).");
     case QueueFault::Failed:

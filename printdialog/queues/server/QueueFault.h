@@ -16,6 +16,7 @@ enum class QueueFault {
     Refused,      ///< Not allowed by the server, or not fit to be sent.
     TimedOut,     ///< The server was silent or slow for too long.
     Changed,      ///< The queue's PPD has changed since the options were chosen.
+    Absent,       ///< The printer announces itself on the network, and does not answer.
     Canceled,     ///< Canceled by the caller.
     Failed        ///< Anything else; the server's own words say what.
 };
