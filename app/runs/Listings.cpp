@@ -5,6 +5,8 @@
 
 #include "Console.h"
 #include "OptionTable.h"
+#include "PrinterFinder.h"
+#include "PrinterLister.h"
 #include "QueueList.h"
 #include "RequestedSession.h"
 #include "StateText.h"
@@ -24,6 +26,8 @@ namespace printdialog {
 namespace {
 
 constexpr auto listPatience = 2s;
+/// Printers that are there have announced themselves by then.
+constexpr auto networkListPatience = 700ms;
 
 struct ListingText
 {
@@ -36,11 +40,15 @@ Result<QList<Queue>, QueueFault> allPrinters(const CommandLine &commandLine)
 {
     const std::optional<Destination> chosen = UserDestinations::read().defaultPrinter;
     Queue builtIn = Queue::builtIn();
+    const auto network =
+        isPrintServerHere() ? std::make_unique<PrinterLister>(printerListProgram()) : nullptr;
     const auto found = listQueues(listPatience);
     const bool needsServer = commandLine.server || (chosen && !chosen->isBuiltIn());
     if (!found && (needsServer || !isWithoutPrintServer(found.failure())))
         return found.failure();
     QList<Queue> queues = found ? *found : QList<Queue>();
+    if (found && network)
+        queues = withAnnounced(queues, lookForAnnounced(*network, networkListPatience).services);
     builtIn.isDefault = chosen ? chosen->isBuiltIn() : !defaultQueue(queues);
     queues.prepend(builtIn);
     return queues;
@@ -87,6 +95,7 @@ QJsonObject jsonOf(const Queue &queue)
         {QStringLiteral("members"), QJsonArray::fromStringList(queue.members)},
         {QStringLiteral("uri"), queue.uri},
         {QStringLiteral("default"), queue.isDefault},
+        {QStringLiteral("announced"), queue.isAnnounced},
         {QStringLiteral("builtIn"), queue.isBuiltIn},
     };
 }

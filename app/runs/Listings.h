@@ -16,9 +16,10 @@ class Console;
 /// The built-in printer and the queues. Text: a line for each, its cells separated by tabs. JSON: an array of
 /// objects with "name", "description", "location", "model", "state", "stateReasons" (keywords), "stateText"
 /// (both in words), "acceptsJobs", "supplies" (objects with "name", "level" in percent or null, and "low"),
-/// "members" (of a class), "uri", "default" and "builtIn". A print server that cannot be reached is a
-/// failure, except on a machine without one (isWithoutPrintServer()) if neither a server nor a default
-/// printer is named: it has the built-in printer.
+/// "members" (of a class), "uri", "default", "announced" (known by what it announces on the network) and
+/// "builtIn". Printers on the network are looked for for less than a second. A print server that cannot be
+/// reached is a failure, except on a machine without one (isWithoutPrintServer()) if neither a server nor a
+/// default printer is named: it has the built-in printer.
 int listPrinters(const CommandLine &commandLine, Console &console);
 
 /// The options of the requested printer, after the choices of the command line. Text: a table. JSON: an array

@@ -3,9 +3,11 @@
 
 #include "RequestedSession.h"
 
+#include "AnnouncedPrinters.h"
 #include "Console.h"
 #include "PpdCheck.h"
 #include "PresetStore.h"
+#include "PrinterLister.h"
 #include "QueueList.h"
 #include "SessionOpening.h"
 #include "UsedChoices.h"
@@ -21,6 +23,7 @@ namespace {
 
 constexpr auto defaultPatience = 2s;
 constexpr auto queuePatience = 10s;
+constexpr auto networkPatience = 3s;
 
 struct SessionText
 {
@@ -41,9 +44,24 @@ OpenedPrinter orSentence(SessionResult session)
     return *std::move(session);
 }
 
+/// The queue of the print server, or the one that it makes for a printer on the network.
+Result<OpenedQueue, QueueFault> queueOrAnnounced(const Destination &destination)
+{
+    auto opened = queueNamed(destination, queuePatience);
+    if (opened || opened.failure().reason != QueueFault::NotFound || !isPrintServerHere())
+        return opened;
+    PrinterLister lister(printerListProgram());
+    const AnnouncedList network = lookForAnnounced(lister, networkPatience, destination.queue);
+    if (const auto printer = network.services.printer(destination.queue))
+        return queueNamed(destination, queuePatience, printer->queue.deviceUri);
+    if (const QString why = whyIncomplete(network.look); !why.isEmpty())
+        return queueFailure(QueueFault::NotFound, destination.id(), why);
+    return opened;
+}
+
 OpenedPrinter openQueueNamed(const Destination &destination, PanelMode mode)
 {
-    const auto opened = queueNamed(destination, queuePatience);
+    const auto opened = queueOrAnnounced(destination);
     if (!opened)
         return refusal(opened.failure().text);
     if (!opened->hasPpd)

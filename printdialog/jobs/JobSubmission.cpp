@@ -8,6 +8,7 @@
 #include "PlainText.h"
 #include "OptionsFetcher.h"
 #include "QueueRecord.h"
+#include "TemporaryQueue.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QUrl>
@@ -26,6 +27,7 @@ constexpr qsizetype keywordLimit = 255; // bytes in IPP's keywords
 constexpr qsizetype valueLimit = 255;   // bytes in IPP's names
 constexpr qsizetype titleLimit = 120;
 constexpr int copiesLimit = 9999;
+constexpr auto printerLimit = 10s; // for a printer on the network to answer
 
 struct Text
 {
@@ -191,7 +193,9 @@ Result<int, QueueFault> JobSubmission::send(const PrintJob &job, const JobDocume
         connection_ = std::make_unique<CupsConnection>(patience_);
     connection_->heed(cancel_);
     connection_->extend(patience_);
-    const auto record = queueRecord(*connection_, job.destination);
+    auto record = queueRecord(*connection_, job.destination);
+    if (!record && record.failure().reason == QueueFault::NotFound && !job.announcedUri.isEmpty())
+        record = makeAgain(job);
     if (!record)
         return record.failure();
     if (!record->acceptsJobs)
@@ -199,6 +203,16 @@ Result<int, QueueFault> JobSubmission::send(const PrintJob &job, const JobDocume
     if (const auto failure = job.ppd ? comparePpd(*job.ppd, *record) : std::nullopt)
         return *failure;
     return JobInMaking(*connection_, sent_, cancel_, *record).send(job, document);
+}
+
+Result<QueueRecord, QueueFault> JobSubmission::makeAgain(const PrintJob &job)
+{
+    const auto limit = std::min<std::chrono::milliseconds>(patience_, printerLimit);
+    auto queue = temporaryQueue(*connection_, job.destination, job.announcedUri, limit);
+    connection_->extend(patience_);
+    if (!queue)
+        return queue.failure();
+    return std::move(queue->record);
 }
 
 std::optional<Failure<QueueFault>> JobSubmission::comparePpd(const QByteArray &ppd, const QueueRecord &record)

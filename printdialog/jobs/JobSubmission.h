@@ -60,6 +60,7 @@ private:
         bool operator==(const Compared &) const = default;
     };
 
+    Result<QueueRecord, QueueFault> makeAgain(const PrintJob &job);
     std::optional<Failure<QueueFault>> comparePpd(const QByteArray &ppd, const QueueRecord &record);
 
     Progress sent_;

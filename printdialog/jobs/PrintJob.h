@@ -32,6 +32,9 @@ struct PrintJob
     std::optional<QByteArray> ppd = std::nullopt;
     QByteArrayList directTypes; ///< The types that reach the printer unfiltered, see typesPassedThrough().
 
+    /// The device URI of an announced printer, whose queue is made again if there is none any more.
+    QString announcedUri = {};
+
     /// Without a PPD, a job is the photo's own file, without options.
     bool hasPpd() const { return !ppd || !ppd->isEmpty(); }
 };

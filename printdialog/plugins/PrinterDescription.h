@@ -16,8 +16,9 @@ struct PrinterDescription
     QString text;      ///< the name shown to people
     QString deviceUri; ///< empty when it is not known
     bool isBuiltIn = false;
-    bool hasPpd = true; ///< false for a raw queue, which has nothing to choose
-    QString uri = {};   ///< the queue's address at its print server; empty for the built-in printer
+    bool hasPpd = true;       ///< false for a raw queue, which has nothing to choose
+    QString uri = {};         ///< the queue's address at its print server; empty for the built-in printer
+    bool isAnnounced = false; ///< see Queue
 };
 
 /// Who owns the choices: the dialog or its panels.

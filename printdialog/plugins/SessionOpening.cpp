@@ -14,7 +14,8 @@ namespace {
 
 PrinterDescription describe(const Queue &queue)
 {
-    return {queue.destination(), queue.info, queue.deviceUri, queue.isBuiltIn, true, queue.uri};
+    return {queue.destination(), queue.info,       queue.deviceUri, queue.isBuiltIn, true,
+            queue.uri,           queue.isAnnounced};
 }
 
 SessionOptions optionsOf(PpdDocument ppd, const IppAttributes &attributes = {})

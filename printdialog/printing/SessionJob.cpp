@@ -30,6 +30,8 @@ Result<SessionJob, SessionJobFault> jobOf(DialogSession &session, int copies)
     for (const auto &[option, choice] : session.summary())
         job.summary.insert(option, choice);
     job.copies = copies;
+    if (printer.isAnnounced)
+        job.announcedUri = printer.deviceUri;
     job.ppd = QByteArray();
     if (printer.hasPpd) {
         job.options = options->options;

@@ -79,6 +79,7 @@ std::optional<RememberedQueue> QueueCache::load()
     if (!isQueueName(text("name")) || remembered.queue.instance != text("instance"))
         return std::nullopt;
     remembered.queue.isClass = content[QLatin1String("isClass")].toBool();
+    remembered.queue.isAnnounced = content[QLatin1String("isAnnounced")].toBool();
     if (content[QLatin1String("isBuiltIn")].toBool())
         remembered.queue = Queue::builtIn();
     remembered.ppd = QByteArray::fromBase64(content[QLatin1String("ppd")].toString().toLatin1());
@@ -94,6 +95,7 @@ void QueueCache::save(const RememberedQueue &remembered)
     }
     QJsonObject content = {{QStringLiteral("version"), cacheVersion},
                            {QStringLiteral("isClass"), remembered.queue.isClass},
+                           {QStringLiteral("isAnnounced"), remembered.queue.isAnnounced},
                            {QStringLiteral("isBuiltIn"), remembered.queue.isBuiltIn},
                            {QStringLiteral("wasChosen"), remembered.wasChosen},
                            {QStringLiteral("ppd"), QString::fromLatin1(remembered.ppd.toBase64())}};

@@ -32,7 +32,7 @@ void PrintDialog::print()
 {
     if (!isReady() || printing_->isBusy() || ui_->photos->photos().isEmpty() || pageStays())
         return;
-    if (!printing_->print(ui_->copies->value(), ui_->folder->text()))
+    if (!printing_->print(ui_->copies->value(), ui_->folder->text(), printer_->queue()))
         return;
     printer_->notePrinted();
 }

@@ -11,6 +11,7 @@
 #include "PlainText.h"
 #include "PrintProgress.h"
 #include "PrintWorker.h"
+#include "Queue.h"
 #include "SessionJob.h"
 
 #include <QtCore/QFileInfo>
@@ -43,7 +44,7 @@ bool PrintingController::isBusy() const
     return worker_->isBusy();
 }
 
-bool PrintingController::print(int copies, const QString &folder)
+bool PrintingController::print(int copies, const QString &folder, const Queue &queue)
 {
     if (!widgets_.photos->damagedPhotos().isEmpty()) {
         askAboutDamage();
@@ -57,6 +58,7 @@ bool PrintingController::print(int copies, const QString &folder)
         widgets_.message->show(MessageBar::Kind::Warning, made->remarks.join(u'\n'));
     job_ = made->job;
     job_.folder = {folder};
+    job_.announcedUri = queue.isAnnounced ? queue.deviceUri : QString();
     remarks_ = made->remarks;
     widgets_.progress->show(tr("Printing…"));
     worker_->print(widgets_.photos->photos(), job_);

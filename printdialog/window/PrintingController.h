@@ -18,6 +18,7 @@ class MessageBar;
 class PhotoPane;
 class PrintProgress;
 class PrintWorker;
+struct Queue;
 struct PrintOutcome;
 struct SessionJob;
 
@@ -43,7 +44,8 @@ public:
     /// Prints the photos, unless something has to be asked first or there is no job: the message bar says so.
     /// True: printing is under way. Not while busy.
     /// @param folder where the built-in printer leaves its files
-    bool print(int copies, const QString &folder);
+    /// @param queue the session's, as it is known by now: a printer on the network may have another address
+    bool print(int copies, const QString &folder, const Queue &queue);
     bool isBusy() const;
     /// Whether the user wants the run stopped that is under way.
     bool isStopping() const { return isStopping_; }

@@ -2727,6 +2727,14 @@ Beispiele:
         <source>The printer &quot;%1&quot; is not there. %2</source>
         <translation>Der Drucker „%1“ ist nicht da. %2</translation>
     </message>
+    <message>
+        <source>%1 (on the network)</source>
+        <translation>%1 (im Netzwerk)</translation>
+    </message>
+    <message>
+        <source>There is no printer &quot;%1&quot; (%2). Choose another one.</source>
+        <translation>Es gibt keinen Drucker „%1“ (%2). Wählen Sie einen anderen.</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::PrinterController</name>

@@ -2726,6 +2726,14 @@ Ejemplos:
         <source>The printer &quot;%1&quot; is not there. %2</source>
         <translation>La impresora «%1» no está disponible. %2</translation>
     </message>
+    <message>
+        <source>%1 (on the network)</source>
+        <translation>%1 (en la red)</translation>
+    </message>
+    <message>
+        <source>There is no printer &quot;%1&quot; (%2). Choose another one.</source>
+        <translation>No hay ninguna impresora «%1» (%2). Elija otra.</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::PrinterController</name>

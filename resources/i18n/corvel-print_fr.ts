@@ -2727,6 +2727,14 @@ Exemples&#x202f;:
         <source>The printer &quot;%1&quot; is not there. %2</source>
         <translation>L’imprimante «&#x202f;%1&#x202f;» n’est pas là. %2</translation>
     </message>
+    <message>
+        <source>%1 (on the network)</source>
+        <translation>%1 (sur le réseau)</translation>
+    </message>
+    <message>
+        <source>There is no printer &quot;%1&quot; (%2). Choose another one.</source>
+        <translation>Il n’y a pas d’imprimante «&#x202f;%1&#x202f;» (%2). Choisissez-en une autre.</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::PrinterController</name>

@@ -2723,6 +2723,14 @@ Examples:
         <source>The printer &quot;%1&quot; is not there. %2</source>
         <translation>プリンター「%1」が見つかりません。%2</translation>
     </message>
+    <message>
+        <source>%1 (on the network)</source>
+        <translation>%1 (ネットワーク上)</translation>
+    </message>
+    <message>
+        <source>There is no printer &quot;%1&quot; (%2). Choose another one.</source>
+        <translation>プリンター「%1」はありません (%2)。別のプリンターを選んでください。</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::PrinterController</name>

@@ -5,7 +5,7 @@
 
 #include "PresetName.h"
 #include "PresetStore.h"
-#include "QueueFinder.h"
+#include "PrinterFinder.h"
 
 namespace printdialog {
 
@@ -15,6 +15,8 @@ QString label(const Queue &queue)
 {
     const QString preset = PresetName::ofInstance(queue.instance);
     const QString id = Destination(queue.name, preset).id();
+    if (queue.isAnnounced && preset.isEmpty())
+        return PrinterChooser::tr("%1 (on the network)").arg(queue.info);
     if (queue.info.isEmpty() || queue.info == queue.id())
         return id;
     return queue.isBuiltIn ? queue.info : PrinterChooser::tr("%1 (%2)").arg(queue.info, id);
@@ -24,7 +26,7 @@ QString label(const Queue &queue)
 
 PrinterChooser::PrinterChooser(QWidget *parent)
     : QComboBox(parent)
-    , finder_(new QueueFinder(this))
+    , finder_(new PrinterFinder(this))
 {
     setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     setMinimumContentsLength(24);
@@ -38,10 +40,10 @@ PrinterChooser::PrinterChooser(QWidget *parent)
         selection_.chosen(queue.destination());
         Q_EMIT printerChosen(queue);
     });
-    connect(finder_, &QueueFinder::queueFound, this, &PrinterChooser::updateQueue);
-    connect(finder_, &QueueFinder::queueRemoved, this, &PrinterChooser::remove);
-    connect(finder_, &QueueFinder::failed, this, [this](const QString &text) { failure_ = text; });
-    connect(finder_, &QueueFinder::finished, this, &PrinterChooser::endSearch);
+    connect(finder_, &PrinterFinder::queueFound, this, &PrinterChooser::updateQueue);
+    connect(finder_, &PrinterFinder::queueRemoved, this, &PrinterChooser::remove);
+    connect(finder_, &PrinterFinder::failed, this, [this](const QString &text) { failure_ = text; });
+    connect(finder_, &PrinterFinder::finished, this, &PrinterChooser::endSearch);
 }
 
 void PrinterChooser::await(const QString &id)
@@ -62,7 +64,12 @@ void PrinterChooser::recall(const Queue &queue, PrinterSelection::State state)
 void PrinterChooser::search(const std::optional<Destination> &wanted)
 {
     selection_.asksFor(wanted);
-    finder_->start();
+    QSet<QString> awaited;
+    for (const std::optional<Destination> &each : {wanted, selection_.recalled()}) {
+        if (each && !each->isBuiltIn())
+            awaited.insert(each->queue);
+    }
+    finder_->start(awaited);
 }
 
 void PrinterChooser::chooseBuiltIn()
@@ -149,6 +156,8 @@ QString PrinterChooser::missing(const Destination &destination) const
         const auto presets = PresetStore(queue).presets();
         return presets ? PresetStore::missing(queue, preset, *presets) : presets.failure().text;
     }
+    if (const QString why = finder_->whyIncomplete(); !why.isEmpty())
+        return tr("There is no printer \"%1\" (%2). Choose another one.").arg(destination.id(), why);
     return tr("There is no printer \"%1\". Choose another one.").arg(destination.id());
 }
 

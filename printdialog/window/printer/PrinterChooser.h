@@ -14,10 +14,10 @@
 
 namespace printdialog {
 
-class QueueFinder;
+class PrinterFinder;
 
 /// The printers to choose from: at once the built-in one and the one remembered from the last time, then the
-/// queues of the print server while they exist.
+/// queues of the print server and the printers on the network while they exist.
 class PrinterChooser : public QComboBox
 {
     Q_OBJECT
@@ -64,7 +64,7 @@ private:
     void choose(int index);
     int indexOf(const QString &id) const { return indexes_.value(id, -1); }
 
-    QueueFinder *finder_;
+    PrinterFinder *finder_;
     std::function<std::optional<QString>()> staying_;
     QHash<QString, int> indexes_; ///< by id
     PrinterSelection selection_;

@@ -128,7 +128,7 @@ void PrinterController::open(const Queue &queue)
     Q_EMIT printerChanged();
     if (!queue.isBuiltIn) {
         awaitOptions(queue.id());
-        fetcher_->fetch(queue.destination());
+        fetchOptions();
         return;
     }
     fetcher_->cancel();
@@ -144,7 +144,7 @@ void PrinterController::updateQueue(const Queue &queue)
     if (!chooser_->selection().hasOldOptions())
         return;
     const bool hasPpd = session_ && session_->printer().hasPpd;
-    fetcher_->fetch(queue.destination(), hasPpd ? std::optional(session_->ppd()->checked()) : std::nullopt);
+    fetchOptions(hasPpd ? std::optional(session_->ppd()->checked()) : std::nullopt);
 }
 
 void PrinterController::reportSearchFailure(const QString &text)
@@ -194,7 +194,12 @@ void PrinterController::renewOptions(const Destination &destination, const QStri
         return; // another printer is shown by now
     whyNotReady_ = reason;
     Q_EMIT readinessChanged();
-    fetcher_->fetch(queue_.destination());
+    fetchOptions();
+}
+
+void PrinterController::fetchOptions(const std::optional<CheckedPpd> &known)
+{
+    fetcher_->fetch(queue_.destination(), known, queue_.isAnnounced ? queue_.deviceUri : QString());
 }
 
 // A queue without a PPD can print, too: it only has nothing to choose.

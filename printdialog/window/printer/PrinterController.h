@@ -97,6 +97,7 @@ private:
     void awaitOptions(const QString &id);
     void remember();
 
+    void fetchOptions(const std::optional<CheckedPpd> &known = std::nullopt);
     void useOptions(const FetchedOptions &options);
     void use(SessionResult session);
     void confirm();
