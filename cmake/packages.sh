@@ -13,7 +13,7 @@ corvel_build_packages=(
 )
 corvel_test_packages=(
     cups cups-client cups-filters poppler-utils appstream desktop-file-utils bash-completion groff-base
-    at-spi2-core dbus xvfb
+    at-spi2-core dbus xvfb avahi-daemon cups-ipp-utils iproute2
 )
 
 corvel_bench_packages=(img2pdf imagemagick libgtk-3-dev xvfb)
