@@ -3,7 +3,7 @@
 
 #include "NetworkPrinter.h"
 #include "OpenedDialog.h"
-#include "PpdFetcher.h"
+#include "OptionsFetcher.h"
 #include "ProgramRun.h"
 #include "QueueCache.h"
 #include "TestMain.h"
@@ -182,8 +182,8 @@ private Q_SLOTS:
     void printerThatDoesNotAnswer()
     {
         printer_.freeze();
-        PpdFetcher fetcher(nullptr, 1s);
-        const QSignalSpy failed(&fetcher, &PpdFetcher::failed);
+        OptionsFetcher fetcher(nullptr, 1s);
+        const QSignalSpy failed(&fetcher, &OptionsFetcher::failed);
         fetcher.fetch(u"hung"_s, std::nullopt, u"ipp://127.0.0.1:8631/ipp/print"_s);
         QTRY_COMPARE_WITH_TIMEOUT(failed.size(), 1, 2000);
         QVERIFY2(failed.at(0).at(2).toString().contains(u"\"hung\" on the network does not answer"_s),
