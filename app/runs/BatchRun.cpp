@@ -35,9 +35,10 @@ int BatchRun::run()
     DialogSession &session = *requested->session;
     auto made = jobOf(session, requested->copies);
     if (!made && made.failure().reason == SessionJobFault::NoPaper)
-        return fail(tr("No page size is chosen. Choose one with -o PageSize=%1 or another one of "
-                       "--list-options.")
-                        .arg(session.options().pageSizes().constFirst().keyword));
+        return fail(
+            tr("No page size is chosen. Choose one with -o %1=%2 or another one of "
+               "--list-options.")
+                .arg(session.options().pageSizeKey(), session.options().pageSizes().constFirst().keyword));
     if (!made)
         return fail(made.failure().text);
     if (!made->missing.isEmpty())

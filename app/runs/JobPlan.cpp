@@ -4,6 +4,7 @@
 #include "JobPlan.h"
 
 #include "PrintedNames.h"
+#include "PrinterAddress.h"
 #include "QueueList.h"
 
 #include <QtCore/QDir>
@@ -29,8 +30,11 @@ Result<JobPlan, PhotoPrinter::Fault> JobPlan::make(const PlacedPhoto &placed, co
     if (!document)
         return document.failure();
     plan.document_ = *document;
-    plan.server_ = printServerAddress();
+    const auto printer = PrinterAddress::of(job.destination.queue);
+    plan.server_ = printer ? printer->server() : printServerAddress();
     plan.isUntouched_ = document->data == photo.content();
+    if (job.ipp)
+        plan.job_.options = attributesFor(job, *document).spelled();
     return plan;
 }
 

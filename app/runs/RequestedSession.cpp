@@ -65,7 +65,7 @@ OpenedPrinter openQueueNamed(const Destination &destination, PanelMode mode)
     if (!opened)
         return refusal(opened.failure().text);
     if (!opened->hasPpd)
-        return orSentence(openRawQueue(opened->queue, mode));
+        return orSentence(openWithoutPpd(opened->queue, opened->attributes, mode));
     const auto ppd = checkPpd(opened->ppd, destination.id());
     if (!ppd)
         return refusal(ppd.failure().text);
@@ -161,7 +161,7 @@ Result<RequestedSession, std::monostate> openRequestedSession(const CommandLine 
         requested.leftOut += failure->text;
     }
     const PrinterDescription &printer = requested.session->printer();
-    if (!printer.hasPpd && !commandLine.options.isEmpty())
+    if (printer.isRaw && !commandLine.options.isEmpty())
         return refusal(SessionText::tr("The printer \"%1\" has no PPD file and so no option %2. Leave it "
                                        "out, or set the printer up with its driver.")
                            .arg(printer.destination.id(), commandLine.options.constFirst().key));

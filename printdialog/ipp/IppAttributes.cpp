@@ -6,6 +6,7 @@
 #include <cups/cups.h>
 
 #include <algorithm>
+#include <array>
 
 namespace printdialog {
 
@@ -199,6 +200,21 @@ void IppAttributes::addTo(ipp_t *message, int group) const
     sorted.sort();
     for (const QString &name : std::as_const(sorted))
         addAttribute(message, static_cast<ipp_tag_t>(group), name.toLatin1(), values(name));
+}
+
+QMap<QString, QString> IppAttributes::spelled() const
+{
+    constexpr size_t longest = 8192;
+    const std::unique_ptr<ipp_t, decltype(&ippDelete)> message(ippNew(), ippDelete);
+    addToJob(message.get());
+    QMap<QString, QString> all;
+    for (ipp_attribute_t *attribute = ippFirstAttribute(message.get()); attribute;
+         attribute = ippNextAttribute(message.get())) {
+        std::array<char, longest> text = {};
+        ippAttributeString(attribute, text.data(), text.size());
+        all.insert(QString::fromLatin1(ippGetName(attribute)), QString::fromUtf8(text.data()));
+    }
+    return all;
 }
 
 QStringList IppAttributes::texts(const QString &name) const

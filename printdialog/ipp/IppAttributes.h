@@ -5,6 +5,7 @@
 
 #include <QtCore/QHash>
 #include <QtCore/QList>
+#include <QtCore/QMap>
 #include <QtCore/QMetaType>
 #include <QtCore/QString>
 #include <QtCore/QStringList>
@@ -72,6 +73,8 @@ public:
 
     /// Adds them to the request's job attributes, sorted by name.
     void addToJob(ipp_t *request) const;
+    /// Each one by its name, as ipptool(1) shows it; for people who look at a job.
+    QMap<QString, QString> spelled() const;
     /// Adds them to any message. @param group libcups' ipp_tag_t; zero in a collection
     void addTo(ipp_t *message, int group) const;
 

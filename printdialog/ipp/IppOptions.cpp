@@ -143,6 +143,13 @@ QList<IppValue> IppOptions::valuesOf(const QString &key, const QString &choice) 
     }
 }
 
+IppTicket IppOptions::ticket(const QMap<QString, QString> &choices) const
+{
+    IppTicket ticket = ticket_;
+    ticket.attributes = jobAttributes(choices);
+    return ticket;
+}
+
 IppAttributes IppOptions::jobAttributes(const QMap<QString, QString> &choices) const
 {
     IppAttributes job;

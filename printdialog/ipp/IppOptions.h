@@ -14,6 +14,15 @@
 
 namespace printdialog {
 
+/// A job for a printer that describes itself by its IPP attributes.
+struct IppTicket
+{
+    IppAttributes attributes; ///< the choices, with their types
+    QStringList formats;      ///< the document types that the printer takes; empty: not known
+    QStringList scalings;     ///< what it may do with a document's size (`print-scaling`)
+    int mostCopies = 0;       ///< 0: not known
+};
+
 /// The options of a printer that describes itself by its IPP attributes, and their marks. Keywords are the
 /// names of the attributes and their values; enumerations go by number, as in lp(1), and booleans are True
 /// and False. The members of `media-col` are options of their own: the size is `media`.
@@ -59,6 +68,7 @@ public:
     /// The choices as attributes of a job, with their types. The size goes into `media-col`, together with
     /// the source and the type, chosen or marked: a printer need not complete a collection by its defaults.
     IppAttributes jobAttributes(const QMap<QString, QString> &choices) const;
+    IppTicket ticket(const QMap<QString, QString> &choices) const;
 
 private:
     struct Option
@@ -116,6 +126,7 @@ private:
     QHash<QString, QList<qsizetype>> constraintsOn_; ///< by option
     QHash<QString, QList<OptionChoice>> resolvers_;  ///< by name: the choices to make
     QStringList notes_;
+    IppTicket ticket_; ///< without attributes
 };
 
 } // namespace printdialog

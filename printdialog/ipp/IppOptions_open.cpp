@@ -182,6 +182,11 @@ IppOptions::IppOptions(const IppAttributes &printer)
     indexKnown(printer, leftOut);
     indexOthers(printer, leftOut);
     group();
+    ticket_.formats = printer.texts(QStringLiteral("document-format-supported"));
+    ticket_.scalings = printer.texts(QStringLiteral("print-scaling-supported"));
+    const QList<IppValue> copies = printer.values(QStringLiteral("copies-supported"));
+    if (isRange(copies))
+        ticket_.mostCopies = std::max(copies.constFirst().upper, 0);
     readConstraints(printer, leftOut);
     note(leftOut);
 }

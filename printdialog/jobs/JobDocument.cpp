@@ -15,6 +15,16 @@ namespace printdialog {
 
 namespace {
 
+const QByteArray pdfType = "application/pdf";
+const QString scalingName = QStringLiteral("print-scaling");
+const QString unscaled = QStringLiteral("none");
+
+/// Whether the user wants the printer to print a photo by its resolution.
+bool isLeftUnscaled(const PrintJob &job)
+{
+    return job.ipp && job.ipp->attributes.text(scalingName) == unscaled;
+}
+
 /// In points.
 constexpr double dot = 72.0 / 300;
 
@@ -58,8 +68,8 @@ Result<JobDocument, PdfFault> jobDocument(const PlacedPhoto &placed, const Print
     JobDocument document;
     document.name = photo.fileName();
     const QByteArray type = mimeTypeOf(photo);
-    if (!job.hasPpd() ||
-        (job.directTypes.contains(type) && canGoUntouched(photo, job.page, placed.placement))) {
+    if (job.isRaw() || (job.directTypes.contains(type) && !isLeftUnscaled(job) &&
+                        canGoUntouched(photo, job.page, placed.placement))) {
         document.mimeType = type;
         document.data = photo.content();
         return document;
@@ -69,8 +79,26 @@ Result<JobDocument, PdfFault> jobDocument(const PlacedPhoto &placed, const Print
     const auto page = PdfWriter::write(photo, job.page, buffer, placed.placement);
     if (!page)
         return page.failure();
-    document.mimeType = "application/pdf";
+    document.mimeType = pdfType;
     return document;
+}
+
+bool lacksFormat(const PrintJob &job, const QByteArray &mimeType)
+{
+    return job.ipp && !job.ipp->formats.isEmpty() &&
+           !job.ipp->formats.contains(QString::fromLatin1(mimeType), Qt::CaseInsensitive);
+}
+
+IppAttributes attributesFor(const PrintJob &job, const JobDocument &document)
+{
+    if (!job.ipp)
+        return {};
+    IppAttributes attributes = job.ipp->attributes;
+    // A PDF is the page, and an untouched photo covers it: "none" would print that by its resolution.
+    const QString scaling = document.mimeType == pdfType ? unscaled : QStringLiteral("fill");
+    if (!attributes.contains(scalingName) && job.ipp->scalings.contains(scaling))
+        attributes.insert(scalingName, {{IppValue::Kind::Keyword, 0, 0, scaling, {}}});
+    return attributes;
 }
 
 } // namespace printdialog

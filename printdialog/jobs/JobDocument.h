@@ -27,7 +27,14 @@ struct JobDocument
 bool canGoUntouched(const Photo &photo, const PageGeometry &page, const PlacementChoice &choice);
 
 /// Makes the document for a photo. It is the unchanged file when the queue passes that type to its printer as
-/// it is and canGoUntouched(), or when the queue has no PPD to place the photo by; else a PDF of the page.
+/// it is and canGoUntouched(), or when the queue is a raw one; else a PDF of the page.
 Result<JobDocument, PdfFault> jobDocument(const PlacedPhoto &placed, const PrintJob &job);
+
+/// Whether the printer is known not to take documents of the type.
+bool lacksFormat(const PrintJob &job, const QByteArray &mimeType);
+
+/// The job's attributes for a printer that describes itself by its own: its choices, and that the printer
+/// does not scale what is placed on the page already, as far as the user leaves that open. Empty for others.
+IppAttributes attributesFor(const PrintJob &job, const JobDocument &document);
 
 } // namespace printdialog

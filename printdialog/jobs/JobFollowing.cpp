@@ -26,7 +26,6 @@ constexpr auto firstInterval = 20ms;
 constexpr auto longestInterval = 1000ms;
 constexpr auto cancelInterval = 50ms;
 const QString printerStopped = QStringLiteral("printer-stopped");
-const QByteArray serverUri = "ipp://localhost/";
 
 struct FollowingText
 {
@@ -57,7 +56,7 @@ Result<JobStatus, QueueFault> jobStatus(CupsConnection &connection, const QStrin
 {
     static constexpr std::array wanted = {"job-state", "job-state-reasons", "job-printer-state-message",
                                           "job-printer-state-reasons"};
-    IppPointer request = ippRequest(IPP_OP_GET_JOB_ATTRIBUTES, serverUri);
+    IppPointer request = ippRequest(IPP_OP_GET_JOB_ATTRIBUTES, connection.jobsUri());
     ippAddInteger(request.get(), IPP_TAG_OPERATION, IPP_TAG_INTEGER, "job-id", id);
     ippAddStrings(request.get(), IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes",
                   static_cast<int>(wanted.size()), nullptr, wanted.data());
@@ -252,7 +251,7 @@ Result<JobStatus, QueueFault> followJob(CupsConnection &connection, const QStrin
 
 Result<bool, QueueFault> cancelJob(CupsConnection &connection, const QString &queue, int id)
 {
-    IppPointer request = ippRequest(IPP_OP_CANCEL_JOB, serverUri);
+    IppPointer request = ippRequest(IPP_OP_CANCEL_JOB, connection.jobsUri());
     ippAddInteger(request.get(), IPP_TAG_OPERATION, IPP_TAG_INTEGER, "job-id", id);
     const IppPointer answer = connection.answerTo(std::move(request), "/jobs/");
     const ipp_status_t status = connection.status();

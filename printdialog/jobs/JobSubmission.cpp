@@ -5,8 +5,8 @@
 
 #include "CupsConnection.h"
 #include "JobFollowing.h"
-#include "PlainText.h"
 #include "OptionsFetcher.h"
+#include "PlainText.h"
 #include "QueueRecord.h"
 #include "TemporaryQueue.h"
 
@@ -107,6 +107,10 @@ private:
         ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_MIMETYPE, "document-format", nullptr,
                      document.mimeType.constData());
         ippAddInteger(request.get(), IPP_TAG_JOB, IPP_TAG_INTEGER, "copies", job.copies);
+        if (job.ipp) {
+            attributesFor(job, document).addToJob(request.get());
+            return request;
+        }
         for (auto option = job.options.cbegin(); option != job.options.cend(); ++option)
             addOption(request.get(), option.key().toUtf8(), option.value().toUtf8());
         return request;
@@ -170,6 +174,16 @@ std::optional<Failure<QueueFault>> whyUnfit(const PrintJob &job, const JobDocume
         return refusal(
             Text::tr("The document \"%1\" is not sent, because its type has a control character in it.")
                 .arg(plainText(document.name, shownTextLimit)));
+    if (lacksFormat(job, document.mimeType))
+        return refusal(
+            Text::tr("\"%1\" is not sent, because the printer cannot read a PDF, and this photo does "
+                     "not go to it as it is. Choose a borderless paper and fill it with a JPEG, or "
+                     "set up a queue for the printer in the printer settings.")
+                .arg(plainText(document.name, shownTextLimit)));
+    if (job.ipp && job.ipp->mostCopies > 0 && job.copies > job.ipp->mostCopies)
+        return refusal(Text::tr("%1 copies cannot be printed. The printer makes at most %2 at a time; choose "
+                                "fewer.")
+                           .arg(QString::number(job.copies), QString::number(job.ipp->mostCopies)));
     if (job.copies < 1 || job.copies > copiesLimit)
         return refusal(Text::tr("%1 copies cannot be printed. Choose a number from 1 to %2.")
                            .arg(QString::number(job.copies), QString::number(copiesLimit)));
@@ -190,7 +204,8 @@ Result<int, QueueFault> JobSubmission::send(const PrintJob &job, const JobDocume
     if (const auto failure = whyUnfit(job, document))
         return *failure;
     if (!connection_)
-        connection_ = std::make_unique<CupsConnection>(patience_);
+        connection_ =
+            std::make_unique<CupsConnection>(patience_, nullptr, PrinterAddress::of(job.destination.queue));
     connection_->heed(cancel_);
     connection_->extend(patience_);
     auto record = queueRecord(*connection_, job.destination);

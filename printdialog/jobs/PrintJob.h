@@ -4,6 +4,7 @@
 #pragma once
 
 #include "Destination.h"
+#include "IppOptions.h"
 #include "PhotoPlacement.h"
 #include "PrintedNames.h"
 
@@ -28,15 +29,17 @@ struct PrintJob
     QMap<QString, QString> summary; ///< Shown to people: label to text.
     int copies = 1;                 ///< From 1 to mostCopies.
     /// The PPD that the options were chosen from: nothing is sent to a queue whose PPD has changed since.
-    /// Empty for a queue without one, see hasPpd(). Nothing: no comparison.
+    /// Empty for a queue without one. Nothing: no comparison.
     std::optional<QByteArray> ppd = std::nullopt;
     QByteArrayList directTypes; ///< The types that reach the printer unfiltered, see typesPassedThrough().
+    /// Sent in place of the options, to a printer that describes itself by its attributes.
+    std::optional<IppTicket> ipp = std::nullopt;
 
     /// The device URI of an announced printer, whose queue is made again if there is none any more.
     QString announcedUri = {};
 
-    /// Without a PPD, a job is the photo's own file, without options.
-    bool hasPpd() const { return !ppd || !ppd->isEmpty(); }
+    /// Whether there is nothing to choose: a job is then the photo's own file, without options.
+    bool isRaw() const { return ppd && ppd->isEmpty() && !ipp; }
 };
 
 } // namespace printdialog

@@ -12,12 +12,6 @@
 
 namespace printdialog {
 
-namespace {
-
-const QString pageSizeKey = QStringLiteral("PageSize");
-
-} // namespace
-
 DialogSession::DialogSession(const PrinterDescription &printer, SessionOptions options, PanelMode mode)
     : printer_(printer)
     , options_(std::move(options))
@@ -189,7 +183,7 @@ QList<QPair<QString, QString>> DialogSession::summary()
 
 QStringList DialogSession::jobKeys() const
 {
-    QStringList keys = {pageSizeKey};
+    QStringList keys = {options_.source->pageSizeKey()};
     for (const auto &panel : panels_) {
         if (panel->missing().isEmpty())
             keys += panel->keys();

@@ -19,16 +19,18 @@
 namespace printdialog {
 
 class GuardedPanel;
+class IppOptions;
 class OptionPage;
 class PpdDocument;
 using GuardedPanels = std::vector<std::unique_ptr<GuardedPanel>>;
 
-/// A session's options, and the PPD that they come from, if they do: plug-ins need it.
+/// A session's options, and what they come from: plug-ins need the PPD, and jobs the attributes.
 struct SessionOptions
 {
     std::unique_ptr<OptionSource> source;
     PpdDocument *ppd = nullptr;    ///< owned by, or the same as, the source
     IppAttributes attributes = {}; ///< the queue's; empty while they are not known
+    IppOptions *ipp = nullptr;     ///< like the PPD
 };
 
 /// The options sent with a job.
@@ -57,6 +59,8 @@ public:
     /// Null for a printer without one.
     const PpdDocument *ppd() const { return options_.ppd; }
     const IppAttributes &attributes() const { return options_.attributes; }
+    /// Null for a printer that does not describe itself by its attributes.
+    const IppOptions *ipp() const { return options_.ipp; }
     PanelMode mode() const { return mode_; }
 
     /// Loads the panels that the PPD requests, and restores them; then the dialog's own page for the options

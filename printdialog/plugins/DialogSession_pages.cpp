@@ -93,7 +93,7 @@ QStringList DialogSession::keysForOwnPage() const
 
 void DialogSession::updateOwnPage()
 {
-    const QStringList keys = printer_.hasPpd ? keysForOwnPage() : QStringList();
+    const QStringList keys = !printer_.isRaw ? keysForOwnPage() : QStringList();
     if (!ownPage_ && keys.isEmpty())
         return;
     if (ownPage_) {

@@ -16,7 +16,7 @@ struct PrinterDescription
     QString text;      ///< the name shown to people
     QString deviceUri; ///< empty when it is not known
     bool isBuiltIn = false;
-    bool hasPpd = true;       ///< false for a raw queue, which has nothing to choose
+    bool isRaw = false;       ///< has nothing to choose: a job is the photo's own file
     QString uri = {};         ///< the queue's address at its print server; empty for the built-in printer
     bool isAnnounced = false; ///< see Queue
 };

@@ -3,6 +3,7 @@
 
 #include "SessionOpening.h"
 
+#include "IppOptions.h"
 #include "PpdDocument.h"
 
 #include <QtCore/QCoreApplication>
@@ -14,7 +15,7 @@ namespace {
 
 PrinterDescription describe(const Queue &queue)
 {
-    return {queue.destination(), queue.info,       queue.deviceUri, queue.isBuiltIn, true,
+    return {queue.destination(), queue.info,       queue.deviceUri, queue.isBuiltIn, false,
             queue.uri,           queue.isAnnounced};
 }
 
@@ -22,7 +23,7 @@ SessionOptions optionsOf(PpdDocument ppd, const IppAttributes &attributes = {})
 {
     auto document = std::make_unique<PpdDocument>(std::move(ppd));
     PpdDocument *borrowed = document.get();
-    return {std::move(document), borrowed, attributes};
+    return {std::move(document), borrowed, attributes, nullptr};
 }
 
 SessionResult session(const Queue &queue, Result<PpdDocument, PpdFault> ppd, PanelMode mode,
@@ -78,14 +79,26 @@ SessionResult openQueue(const Queue &queue, const CheckedPpd &ppd, PanelMode mod
     return session(queue, PpdDocument::open(ppd), mode, attributes);
 }
 
+SessionResult openWithoutPpd(const Queue &queue, const IppAttributes &attributes, PanelMode mode)
+{
+    auto options = IppOptions::of(attributes);
+    if (!options)
+        return openRawQueue(queue, mode);
+    auto source = std::make_unique<IppOptions>(*std::move(options));
+    IppOptions *borrowed = source.get();
+    return std::make_unique<DialogSession>(describe(queue),
+                                           SessionOptions{std::move(source), nullptr, {}, borrowed}, mode);
+}
+
 SessionResult openRawQueue(const Queue &queue, PanelMode mode)
 {
     auto ppd = openTrusted(standIn(), queue.id());
     if (!ppd)
         return ppd.failure();
     PrinterDescription printer = describe(queue);
-    printer.hasPpd = false;
-    return std::make_unique<DialogSession>(printer, optionsOf(*std::move(ppd)), mode);
+    printer.isRaw = true;
+    return std::make_unique<DialogSession>(
+        printer, SessionOptions{std::make_unique<PpdDocument>(*std::move(ppd)), nullptr, {}, nullptr}, mode);
 }
 
 } // namespace printdialog

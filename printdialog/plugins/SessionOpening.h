@@ -20,6 +20,10 @@ SessionResult openBuiltInPrinter(const std::optional<QString> &ppdFile, PanelMod
 SessionResult openQueue(const Queue &queue, const CheckedPpd &ppd, PanelMode mode,
                         const IppAttributes &attributes = {});
 
+/// Opens a session for a queue or a printer without a PPD, by its attributes. It has no panels. If they do
+/// not say what it can print on, opens it as a raw queue.
+SessionResult openWithoutPpd(const Queue &queue, const IppAttributes &attributes, PanelMode mode);
+
 /// Opens a session for a queue without a PPD. It has no options and no panels, and one page size, which
 /// stands for the one set at the printer.
 SessionResult openRawQueue(const Queue &queue, PanelMode mode);

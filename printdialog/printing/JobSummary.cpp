@@ -54,11 +54,11 @@ QString scalingText(Scaling scaling)
 SummaryEntries jobSummary(DialogSession &session, int copies, const QList<PlacementChoice> &placements)
 {
     SummaryEntries entries;
-    if (const auto paper =
-            session.options().pageSize(session.chosen(QStringLiteral("PageSize")).value_or(QString())))
+    const OptionSource &options = session.options();
+    if (const auto paper = options.pageSize(session.chosen(options.pageSizeKey()).value_or(QString())))
         entries.append({Text::tr("Paper size"), paper->text});
     entries.append({Text::tr("Copies"), QLocale().toString(copies)});
-    if (session.printer().hasPpd && !placements.isEmpty())
+    if (!session.printer().isRaw && !placements.isEmpty())
         entries.append({Text::tr("Placement"), placementText(placements)});
     return entries + session.summary();
 }

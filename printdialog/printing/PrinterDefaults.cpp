@@ -74,7 +74,7 @@ QMap<QString, QString> choicesOfLp(const DialogSession &session, const QMap<QStr
     mergeOptions(job, entry);
 
     QMap<QString, QString> choices;
-    if (session.printer().hasPpd && std::ranges::any_of(job.keys(), isMappedByCups)) {
+    if (session.ppd() && std::ranges::any_of(job.keys(), isMappedByCups)) {
         choices = choicesOfJob(session.ppd()->checked(), job);
         const QString pageSizeKey = session.options().pageSizeKey();
         const bool isServersSize = !std::ranges::any_of(entry.keys(), [](const QString &option) {

@@ -4,6 +4,7 @@
 #include "SessionJob.h"
 
 #include "DialogSession.h"
+#include "IppOptions.h"
 #include "PpdDocument.h"
 #include "PpdFilters.h"
 
@@ -33,10 +34,16 @@ Result<SessionJob, SessionJobFault> jobOf(DialogSession &session, int copies)
     if (printer.isAnnounced)
         job.announcedUri = printer.deviceUri;
     job.ppd = QByteArray();
-    if (printer.hasPpd) {
+    if (!printer.isRaw)
         job.options = options->options;
-        job.ppd = session.ppd()->data();
-        job.directTypes = typesPassedThrough(*session.ppd());
+    if (const PpdDocument *ppd = session.ppd()) {
+        job.ppd = ppd->data();
+        job.directTypes = typesPassedThrough(*ppd);
+    }
+    if (const IppOptions *ipp = session.ipp()) {
+        job.ipp = ipp->ticket(options->options);
+        for (const QString &format : std::as_const(job.ipp->formats))
+            job.directTypes += format.toLatin1().toLower();
     }
     return SessionJob{job, options->dropped, options->missing};
 }

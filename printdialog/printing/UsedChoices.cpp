@@ -27,7 +27,7 @@ UsedChoices useChoices(DialogSession &session, QMap<QString, QString> choices, D
         used.leftOut += QCoreApplication::translate("UsedChoices", "\"%1\" is not a number of copies.")
                             .arg(plainText(text, longestNumber));
     const bool changesNothing = choices.isEmpty() && unnamed == DialogSession::Unnamed::Kept;
-    if (changesNothing || !session.printer().hasPpd)
+    if (changesNothing || session.printer().isRaw)
         return used;
     const auto rulings = session.restoreChoices(choices, unnamed);
     for (const Ruling &ruling : rulings)

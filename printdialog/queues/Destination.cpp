@@ -5,8 +5,19 @@
 
 namespace printdialog {
 
+namespace {
+
+bool isPrinterUri(const QString &name)
+{
+    return name.startsWith(QLatin1String("ipp://"), Qt::CaseInsensitive) ||
+           name.startsWith(QLatin1String("ipps://"), Qt::CaseInsensitive);
+}
+
+} // namespace
+
 Destination::Destination(const QString &id)
-    : Destination(id.section(u'/', 0, 0), id.section(u'/', 1))
+    : Destination(isPrinterUri(id) ? id : id.section(u'/', 0, 0),
+                  isPrinterUri(id) ? QString() : id.section(u'/', 1))
 {
 }
 
@@ -19,6 +30,11 @@ Destination::Destination(const QString &queueName, const QString &instanceName)
 QString Destination::id() const
 {
     return instance.isEmpty() ? queue : queue + u'/' + instance;
+}
+
+bool Destination::isAddress() const
+{
+    return isPrinterUri(queue);
 }
 
 bool Destination::isBuiltIn() const

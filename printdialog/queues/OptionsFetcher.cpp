@@ -10,7 +10,6 @@
 
 #include <QtCore/QUrl>
 
-#include <array>
 #include <future>
 
 using namespace std::chrono_literals;
@@ -92,6 +91,8 @@ Result<CheckedPpd, QueueFault> checked(const QByteArray &fetched, const std::opt
 Result<QByteArray, QueueFault> ppdOf(CupsConnection &connection, const QueueRecord &record)
 {
     const QString &queue = record.destination.queue;
+    if (record.destination.isAddress())
+        return queueFailure(QueueFault::NoPpd, queue);
     // Not cupsGetPPD3(): with a local socket it links to the file of the queue's name in this machine's
     // /etc/cups/ppd, and it opens a second connection, which has no limits.
     const QByteArray resource = "/printers/" + QUrl::toPercentEncoding(queue) + ".ppd";
@@ -113,17 +114,34 @@ Result<QByteArray, QueueFault> ppdOf(CupsConnection &connection, const QueueReco
     return ppd;
 }
 
+namespace {
+
+IppAttributes requested(CupsConnection &connection, const QueueRecord &record, const char *wanted)
+{
+    IppPointer request = ippRequest(IPP_OP_GET_PRINTER_ATTRIBUTES, record.uri);
+    ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes", nullptr, wanted);
+    const IppPointer answer = connection.answerTo(std::move(request), "/");
+    return answer && connection.hasSucceeded() ? IppAttributes::ofPrinter(answer.get()) : IppAttributes();
+}
+
+} // namespace
+
+// "all" does not include the media database. Requested together with it, CUPS leaves out the defaults of a
+// PPD's own options, and its printer applications leave out the maker's attributes.
 IppAttributes attributesOf(CupsConnection &connection, const QueueRecord &record, bool hasPpd,
                            std::chrono::milliseconds patience)
 {
     connection.extend(patience);
-    // The server leaves out the defaults of a PPD's own options when more than "all" is requested.
-    static constexpr std::array wanted = {"all", "media-col-database"};
-    IppPointer request = ippRequest(IPP_OP_GET_PRINTER_ATTRIBUTES, record.uri);
-    ippAddStrings(request.get(), IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes",
-                  hasPpd ? 1 : static_cast<int>(wanted.size()), nullptr, wanted.data());
-    const IppPointer answer = connection.answerTo(std::move(request), "/");
-    return answer && connection.hasSucceeded() ? IppAttributes::ofPrinter(answer.get()) : IppAttributes();
+    IppAttributes attributes = requested(connection, record, "all");
+    const QString database = QStringLiteral("media-col-database");
+    const bool hasMedia = attributes.contains(QStringLiteral("media-supported")) ||
+                          attributes.contains(QStringLiteral("media-size-supported"));
+    if (!hasPpd && hasMedia && !attributes.contains(database)) {
+        const IppAttributes media = requested(connection, record, "media-col-database");
+        if (media.contains(database))
+            attributes.insert(database, media.values(database));
+    }
+    return attributes;
 }
 
 OptionsFetcher::OptionsFetcher(QObject *parent, std::chrono::milliseconds limit, Check check)
@@ -181,7 +199,7 @@ void OptionsFetcher::start(const Destination &destination, const std::optional<C
     worker_->run([this, destination, known, announcedUri, limit = limit_.intervalAsDuration(),
                   check = check_](BoundedWorker &self) {
         const auto outcome = [&]() -> Result<FetchedOptions, QueueFault> {
-            CupsConnection connection(limit, self.cancelFlag());
+            CupsConnection connection(limit, self.cancelFlag(), PrinterAddress::of(destination.queue));
             const auto found = findQueue(connection, destination, announcedUri, limit);
             if (!found)
                 return found.failure();
@@ -193,7 +211,7 @@ void OptionsFetcher::start(const Destination &destination, const std::optional<C
                 });
             self.post([this] { limit_.start(); });
             FetchedOptions options{std::nullopt, attributesOf(connection, record, fetched.has_value(),
-                                                              attributesPatience(limit))};
+                                                              fetched ? attributesPatience(limit) : limit)};
             self.post([this] { limit_.stop(); }); // the check does not involve the server
             if (checking.valid()) {
                 auto ppd = checking.get();

@@ -32,14 +32,14 @@ constexpr qsizetype fetchedPpdLimit = qsizetype(8) * 1024 * 1024;
 /// that could be left behind. Failures: all of QueueFault but NotAccepting.
 Result<QByteArray, QueueFault> ppdOf(CupsConnection &connection, const QueueRecord &record);
 
-/// The attributes of a queue, or of the printer behind it: one request. Empty when the server does not answer
-/// with them; a queue can be used without. Blocks, at most for `patience`, which becomes the connection's
-/// limit.
+/// The attributes of a queue, or of the printer behind it, in one or two requests. Empty when the server does
+/// not answer with them; a queue can be used without. Blocks, at most for `patience`, which becomes the
+/// connection's limit.
 /// @param hasPpd its options are then in the PPD, and their defaults in the attributes
 IppAttributes attributesOf(CupsConnection &connection, const QueueRecord &record, bool hasPpd,
                            std::chrono::milliseconds patience);
 
-/// How long to wait for attributes when the PPD may take `limit`: they are not worth a longer wait.
+/// How long to wait for attributes beside a PPD that may take `limit`: they are not worth a longer wait.
 constexpr std::chrono::milliseconds attributesPatience(std::chrono::milliseconds limit)
 {
     return limit / 5;

@@ -18,4 +18,14 @@ Queue Queue::builtIn()
     return queue;
 }
 
+Queue Queue::at(const Destination &address)
+{
+    Queue queue;
+    queue.name = address.queue;
+    queue.info = address.queue;
+    queue.uri = address.queue;
+    queue.acceptsJobs = true;
+    return queue;
+}
+
 } // namespace printdialog

@@ -58,6 +58,9 @@ struct Queue
     /// The built-in printer, which needs no server: it writes its jobs as files.
     static Queue builtIn();
 
+    /// A printer by its address (Destination::isAddress()), before it was asked about itself.
+    static Queue at(const Destination &address);
+
     friend bool operator==(const Queue &, const Queue &) = default;
 };
 

@@ -216,10 +216,30 @@ Result<QList<Queue>, QueueFault> sweepQueues(std::chrono::milliseconds limit, in
 
 namespace {
 
+Queue printerAt(const Destination &destination, const IppAttributes &attributes)
+{
+    const auto text = [&attributes](const char *name) {
+        return plainText(attributes.text(QLatin1String(name)).value_or(QString()).simplified(),
+                         shownTextLimit);
+    };
+    Queue queue = Queue::at(destination);
+    queue.info.clear();
+    queue.makeAndModel = text("printer-make-and-model");
+    for (const QString &info : {text("printer-info"), text("printer-name"), queue.makeAndModel, queue.name}) {
+        if (queue.info.isEmpty())
+            queue.info = info;
+    }
+    queue.location = text("printer-location");
+    queue.state = stateOf(attributes.number(QStringLiteral("printer-state")).value_or(0));
+    queue.stateMessage = text("printer-state-message");
+    queue.acceptsJobs = attributes.number(QStringLiteral("printer-is-accepting-jobs")).value_or(1) != 0;
+    return queue;
+}
+
 Result<OpenedQueue, QueueFault> openHere(const Destination &destination, std::chrono::milliseconds limit,
                                          const QString &announcedUri, int *cancel)
 {
-    CupsConnection connection(limit, cancel);
+    CupsConnection connection(limit, cancel, PrinterAddress::of(destination.queue));
     if (!announcedUri.isEmpty()) {
         const auto made = temporaryQueue(connection, destination, announcedUri, limit);
         if (!made)
@@ -228,6 +248,10 @@ Result<OpenedQueue, QueueFault> openHere(const Destination &destination, std::ch
     const auto record = queueRecord(connection, destination);
     if (!record)
         return record.failure();
+    if (destination.isAddress()) {
+        const IppAttributes attributes = attributesOf(connection, *record, false, limit);
+        return OpenedQueue{printerAt(destination, attributes), false, {}, attributes};
+    }
     IppPointer request = ippRequest(IPP_OP_GET_PRINTER_ATTRIBUTES, record->uri);
     ippAddStrings(request.get(), IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes",
                   static_cast<int>(wantedAttributes.size()), nullptr, wantedAttributes.data());
@@ -248,7 +272,8 @@ Result<OpenedQueue, QueueFault> openHere(const Destination &destination, std::ch
         opened.hasPpd = true;
         opened.ppd = *ppd;
     }
-    opened.attributes = attributesOf(connection, *record, opened.hasPpd, attributesPatience(limit));
+    opened.attributes =
+        attributesOf(connection, *record, opened.hasPpd, opened.hasPpd ? attributesPatience(limit) : limit);
     return opened;
 }
 
@@ -258,7 +283,7 @@ Result<OpenedQueue, QueueFault> queueNamed(const Destination &destination, std::
                                            const QString &announcedUri)
 {
     auto opened = callWithin<Result<OpenedQueue, QueueFault>>(
-        limit + attributesPatience(limit), [destination, limit, announcedUri](int *cancel) {
+        2 * limit, [destination, limit, announcedUri](int *cancel) {
             return openHere(destination, limit, announcedUri, cancel);
         });
     if (!opened)

@@ -37,8 +37,9 @@ struct OpenedQueue
 };
 
 /// Requests one queue, its PPD and its attributes without listing the others. An instance is not checked,
-/// since it exists only on this side. Blocks, at most for the limit, and for attributesPatience() after the
-/// PPD. Failures: all of QueueFault but NoPpd.
+/// since it exists only on this side. Blocks, at most for the limit, and as long again for attributes where
+/// there is no PPD. A printer's address stands for a queue with this name, without a PPD. Failures: all of
+/// QueueFault but NoPpd.
 /// @param announcedUri the device URI of an announced printer, whose queue is made if there is none
 Result<OpenedQueue, QueueFault> queueNamed(const Destination &destination, std::chrono::milliseconds limit,
                                            const QString &announcedUri = {});

@@ -40,24 +40,29 @@ Result<QueueRecord, QueueFault> queueRecord(CupsConnection &connection, const De
 {
     QueueRecord record;
     record.destination = destination;
-    if (!isQueueName(destination.queue) || hasControls(destination.instance))
+    const auto printer = PrinterAddress::of(destination.queue);
+    if (destination.isAddress() && !printer)
+        return queueFailure(QueueFault::NotFound, destination.id(),
+                            QCoreApplication::translate("CupsConnection", "this is not a printer's address"));
+    if (!printer && (!isQueueName(destination.queue) || hasControls(destination.instance)))
         return queueFailure(QueueFault::NotFound, destination.id(),
                             QCoreApplication::translate("CupsConnection", "no printer can have this name"));
     std::array<char, 1024> uri = {};
     httpAssembleURIf(HTTP_URI_CODING_ALL, uri.data(), static_cast<int>(uri.size()), "ipp", nullptr,
                      "localhost", 0, "/printers/%s", destination.queue.toUtf8().constData());
+    record.uri = printer ? printer->uri : QByteArray(uri.data());
     static constexpr std::array wanted = {
         "printer-uri-supported", "printer-is-accepting-jobs",  "printer-state",   "printer-state-message",
         "printer-state-reasons", "printer-config-change-time", "printer-up-time", "printer-type"};
-    IppPointer request = ippRequest(IPP_OP_GET_PRINTER_ATTRIBUTES, uri.data());
+    IppPointer request = ippRequest(IPP_OP_GET_PRINTER_ATTRIBUTES, record.uri);
     ippAddStrings(request.get(), IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes",
                   static_cast<int>(wanted.size()), nullptr, wanted.data());
     const IppPointer answer = connection.answerTo(std::move(request), "/");
     if (!answer || !connection.hasSucceeded())
         return connection.lastFailure(destination.id());
-    record.uri = textOf(answer.get(), "printer-uri-supported");
-    if (record.uri.isEmpty())
-        record.uri = uri.data();
+    // A printer may know itself by names that do not reach it from here.
+    const QByteArray own = printer ? QByteArray() : textOf(answer.get(), "printer-uri-supported");
+    record.uri = own.isEmpty() ? record.uri : own;
     record.stateMessage = QString::fromUtf8(textOf(answer.get(), "printer-state-message"));
     record.stateReasons = textsOf(answer.get(), "printer-state-reasons");
     record.stateReasons.removeAll(QStringLiteral("none"));

@@ -11,6 +11,7 @@
 
 #include <QtCore/QDir>
 #include <QtCore/QStandardPaths>
+#include <QtCore/QUrl>
 
 #include <algorithm>
 
@@ -55,7 +56,12 @@ PresetStore PresetStore::builtIn()
 
 PresetStore PresetStore::of(const QString &printer, bool isBuiltIn)
 {
-    return isBuiltIn ? builtIn() : PresetStore(printer);
+    if (!Destination(printer).isAddress())
+        return isBuiltIn ? builtIn() : PresetStore(printer);
+    // CUPS does not know it, and would read its slashes as the beginning of an instance.
+    PresetStore store = builtIn();
+    store.queue_ = QString::fromLatin1(QUrl::toPercentEncoding(printer));
+    return store;
 }
 
 QString PresetStore::userFile()

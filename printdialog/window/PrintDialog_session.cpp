@@ -10,12 +10,6 @@
 
 namespace printdialog {
 
-namespace {
-
-const QString pageSizeKey = QStringLiteral("PageSize");
-
-} // namespace
-
 // The printer
 
 void PrintDialog::followPrinter()
@@ -84,7 +78,7 @@ void PrintDialog::showSession()
     DialogSession *session = printer_->session();
     connect(&session->chosen(), &ChosenOptions::changed, this, [this](const ChoiceChange &change) {
         ui_->message->clear();
-        if (change.key == pageSizeKey)
+        if (change.key == printer_->session()->options().pageSizeKey())
             showPageSize();
     });
     // Queued: the failure occurs in the middle of an operation that shows its own messages.
@@ -101,7 +95,7 @@ void PrintDialog::showSession()
         ui_->message->show(noPanels->reason == PluginFault::NotFound ? MessageBar::Kind::Information
                                                                      : MessageBar::Kind::Error,
                            noPanels->text);
-    else if (!session->printer().hasPpd && message().isEmpty())
+    else if (session->printer().isRaw && message().isEmpty())
         ui_->message->show(
             MessageBar::Kind::Information,
             tr("This printer has no PPD file and so no options: it gets the photo's file as it is, "
@@ -170,9 +164,10 @@ void PrintDialog::choosePageSize(int index)
 
 void PrintDialog::showPageSize()
 {
-    const QString chosen = printer_->session()->chosen(pageSizeKey).value_or(QString());
+    const OptionSource &options = printer_->session()->options();
+    const QString chosen = printer_->session()->chosen(options.pageSizeKey()).value_or(QString());
     ui_->pageSize->setCurrentIndex(ui_->pageSize->findData(chosen));
-    if (const auto size = printer_->session()->options().pageSize(chosen))
+    if (const auto size = options.pageSize(chosen))
         ui_->photos->setPage({size->points, size->imageable});
 }
 

@@ -15,10 +15,6 @@
 <context>
     <name>BatchRun</name>
     <message>
-        <source>No page size is chosen. Choose one with -o PageSize=%1 or another one of --list-options.</source>
-        <translation>Es ist kein Papierformat gewählt. Wählen Sie eines mit -o PageSize=%1 oder ein anderes aus --list-options.</translation>
-    </message>
-    <message>
         <source>%1 Printed before it: %2.</source>
         <translation>%1 Davor gedruckt: %2.</translation>
     </message>
@@ -33,6 +29,10 @@
     <message>
         <source>Canceled; the jobs already sent were canceled, too.</source>
         <translation>Abgebrochen; die gesendeten Aufträge wurden vom Drucker zurückgenommen.</translation>
+    </message>
+    <message>
+        <source>No page size is chosen. Choose one with -o %1=%2 or another one of --list-options.</source>
+        <translation>Es ist kein Papierformat gewählt. Wählen Sie eines mit -o %1=%2 oder ein anderes aus --list-options.</translation>
     </message>
 </context>
 <context>
@@ -344,6 +344,14 @@ Beispiele:
         <source>its answer is too large or malformed</source>
         <translation>seine Antwort ist zu groß oder fehlerhaft</translation>
     </message>
+    <message>
+        <source>this is not a printer&apos;s address</source>
+        <translation>dies ist keine Druckeradresse</translation>
+    </message>
+    <message>
+        <source>its certificate is not trusted</source>
+        <translation>seinem Zertifikat wird nicht vertraut</translation>
+    </message>
 </context>
 <context>
     <name>CustomChoice</name>
@@ -579,6 +587,14 @@ Beispiele:
     <message>
         <source>%1 copies cannot be printed. Choose a number from 1 to %2.</source>
         <translation>%1 Exemplare können nicht gedruckt werden. Wählen Sie eine Zahl von 1 bis %2.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not sent, because the printer cannot read a PDF, and this photo does not go to it as it is. Choose a borderless paper and fill it with a JPEG, or set up a queue for the printer in the printer settings.</source>
+        <translation>„%1“ wird nicht gesendet, weil der Drucker kein PDF lesen kann und dieses Foto nicht unverändert gesendet werden kann. Wählen Sie ein randloses Papier und füllen Sie es mit einem JPEG, oder richten Sie den Drucker in den Druckereinstellungen ein.</translation>
+    </message>
+    <message>
+        <source>%1 copies cannot be printed. The printer makes at most %2 at a time; choose fewer.</source>
+        <translation>%1 Exemplare können nicht gedruckt werden. Der Drucker macht höchstens %2 auf einmal; wählen Sie weniger.</translation>
     </message>
 </context>
 <context>
@@ -1141,6 +1157,34 @@ Beispiele:
     <message>
         <source>The printer &quot;%1&quot; on the network does not answer (%2). Switch it on and choose it again in a minute, or choose another printer.</source>
         <translation>Der Drucker „%1“ im Netzwerk antwortet nicht (%2). Schalten Sie ihn ein und wählen Sie ihn in einer Minute erneut, oder wählen Sie einen anderen Drucker.</translation>
+    </message>
+    <message>
+        <source>There is no printer at &quot;%1&quot; (%2). Check the address.</source>
+        <translation>Unter „%1“ gibt es keinen Drucker (%2). Prüfen Sie die Adresse.</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; cannot be reached (%2). Check its address, and that it is switched on.</source>
+        <translation>Der Drucker „%1“ ist nicht erreichbar (%2). Prüfen Sie seine Adresse und ob er eingeschaltet ist.</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; does not accept jobs (%2). Look at the printer, or choose another one.</source>
+        <translation>Der Drucker „%1“ nimmt keine Aufträge an (%2). Sehen Sie am Drucker nach oder wählen Sie einen anderen.</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; refused the request (%2). Check its settings.</source>
+        <translation>Der Drucker „%1“ hat die Anfrage abgelehnt (%2). Prüfen Sie seine Einstellungen.</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; did not answer in time (%2). Check that it is switched on, and try again.</source>
+        <translation>Der Drucker „%1“ hat nicht rechtzeitig geantwortet (%2). Prüfen Sie, ob er eingeschaltet ist, und versuchen Sie es noch einmal.</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; could not do what it was asked for (%2). Try again, or look at the printer.</source>
+        <translation>Der Drucker „%1“ konnte die Anfrage nicht ausführen (%2). Versuchen Sie es noch einmal oder sehen Sie am Drucker nach.</translation>
+    </message>
+    <message>
+        <source>no reason was given</source>
+        <translation>ohne Angabe von Gründen</translation>
     </message>
 </context>
 <context>

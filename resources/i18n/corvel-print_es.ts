@@ -15,10 +15,6 @@
 <context>
     <name>BatchRun</name>
     <message>
-        <source>No page size is chosen. Choose one with -o PageSize=%1 or another one of --list-options.</source>
-        <translation>No se ha elegido ningún tamaño de papel. Elija uno con -o PageSize=%1 u otro de --list-options.</translation>
-    </message>
-    <message>
         <source>%1 Printed before it: %2.</source>
         <translation>%1 Impreso antes: %2.</translation>
     </message>
@@ -33,6 +29,10 @@
     <message>
         <source>Canceled; the jobs already sent were canceled, too.</source>
         <translation>Cancelado; los trabajos enviados se han retirado de la impresora.</translation>
+    </message>
+    <message>
+        <source>No page size is chosen. Choose one with -o %1=%2 or another one of --list-options.</source>
+        <translation>No se ha elegido ningún tamaño de papel. Elija uno con -o %1=%2 u otro de --list-options.</translation>
     </message>
 </context>
 <context>
@@ -343,6 +343,14 @@ Ejemplos:
         <source>its answer is too large or malformed</source>
         <translation>su respuesta es demasiado grande o está mal formada</translation>
     </message>
+    <message>
+        <source>this is not a printer&apos;s address</source>
+        <translation>no es una dirección de impresora</translation>
+    </message>
+    <message>
+        <source>its certificate is not trusted</source>
+        <translation>su certificado no es de confianza</translation>
+    </message>
 </context>
 <context>
     <name>CustomChoice</name>
@@ -578,6 +586,14 @@ Ejemplos:
     <message>
         <source>%1 copies cannot be printed. Choose a number from 1 to %2.</source>
         <translation>No se pueden imprimir %1 copias. Elija un número de 1 a %2.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not sent, because the printer cannot read a PDF, and this photo does not go to it as it is. Choose a borderless paper and fill it with a JPEG, or set up a queue for the printer in the printer settings.</source>
+        <translation>«%1» no se envía, porque la impresora no puede leer PDF y esta foto no se puede enviar tal como está. Elija un papel sin bordes y llénelo con un JPEG, o configure la impresora en la configuración de impresoras.</translation>
+    </message>
+    <message>
+        <source>%1 copies cannot be printed. The printer makes at most %2 at a time; choose fewer.</source>
+        <translation>No se pueden imprimir %1 copias. La impresora hace como máximo %2 a la vez; elija menos.</translation>
     </message>
 </context>
 <context>
@@ -1140,6 +1156,34 @@ Ejemplos:
     <message>
         <source>The printer &quot;%1&quot; on the network does not answer (%2). Switch it on and choose it again in a minute, or choose another printer.</source>
         <translation>La impresora «%1» de la red no responde (%2). Enciéndala y vuelva a elegirla dentro de un minuto, o elija otra impresora.</translation>
+    </message>
+    <message>
+        <source>There is no printer at &quot;%1&quot; (%2). Check the address.</source>
+        <translation>No hay ninguna impresora en «%1» (%2). Compruebe la dirección.</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; cannot be reached (%2). Check its address, and that it is switched on.</source>
+        <translation>No se puede acceder a la impresora «%1» (%2). Compruebe su dirección y que esté encendida.</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; does not accept jobs (%2). Look at the printer, or choose another one.</source>
+        <translation>La impresora «%1» no acepta trabajos (%2). Compruebe la impresora o elija otra.</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; refused the request (%2). Check its settings.</source>
+        <translation>La impresora «%1» ha rechazado la solicitud (%2). Compruebe su configuración.</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; did not answer in time (%2). Check that it is switched on, and try again.</source>
+        <translation>La impresora «%1» no ha respondido a tiempo (%2). Compruebe que esté encendida e inténtelo de nuevo.</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; could not do what it was asked for (%2). Try again, or look at the printer.</source>
+        <translation>La impresora «%1» no ha podido realizar lo solicitado (%2). Inténtelo de nuevo o compruebe la impresora.</translation>
+    </message>
+    <message>
+        <source>no reason was given</source>
+        <translation>sin indicar el motivo</translation>
     </message>
 </context>
 <context>

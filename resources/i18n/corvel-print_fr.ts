@@ -15,10 +15,6 @@
 <context>
     <name>BatchRun</name>
     <message>
-        <source>No page size is chosen. Choose one with -o PageSize=%1 or another one of --list-options.</source>
-        <translation>Aucun format de papier n’est choisi. Choisissez-en un avec -o PageSize=%1 ou un autre de --list-options.</translation>
-    </message>
-    <message>
         <source>%1 Printed before it: %2.</source>
         <translation>%1 Imprimé auparavant&#x202f;: %2.</translation>
     </message>
@@ -33,6 +29,10 @@
     <message>
         <source>Canceled; the jobs already sent were canceled, too.</source>
         <translation>Annulé&#xa0;; les tâches envoyées ont été retirées de l’imprimante.</translation>
+    </message>
+    <message>
+        <source>No page size is chosen. Choose one with -o %1=%2 or another one of --list-options.</source>
+        <translation>Aucun format de papier n’est choisi. Choisissez-en un avec -o %1=%2 ou un autre de --list-options.</translation>
     </message>
 </context>
 <context>
@@ -344,6 +344,14 @@ Exemples&#x202f;:
         <source>its answer is too large or malformed</source>
         <translation>sa réponse est trop longue ou mal formée</translation>
     </message>
+    <message>
+        <source>this is not a printer&apos;s address</source>
+        <translation>ce n’est pas une adresse d’imprimante</translation>
+    </message>
+    <message>
+        <source>its certificate is not trusted</source>
+        <translation>son certificat n’est pas fiable</translation>
+    </message>
 </context>
 <context>
     <name>CustomChoice</name>
@@ -579,6 +587,14 @@ Exemples&#x202f;:
     <message>
         <source>%1 copies cannot be printed. Choose a number from 1 to %2.</source>
         <translation>Impossible d’imprimer en %1 copies. Choisissez un nombre de 1 à %2.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not sent, because the printer cannot read a PDF, and this photo does not go to it as it is. Choose a borderless paper and fill it with a JPEG, or set up a queue for the printer in the printer settings.</source>
+        <translation>« %1 » n’est pas envoyé, car l’imprimante ne sait pas lire le PDF et cette photo ne peut pas être envoyée telle quelle. Choisissez un papier sans marge et remplissez-le avec un JPEG, ou configurez l’imprimante dans les paramètres d’impression.</translation>
+    </message>
+    <message>
+        <source>%1 copies cannot be printed. The printer makes at most %2 at a time; choose fewer.</source>
+        <translation>Impossible d’imprimer %1 exemplaires. L’imprimante en fait au plus %2 à la fois ; choisissez-en moins.</translation>
     </message>
 </context>
 <context>
@@ -1141,6 +1157,34 @@ Exemples&#x202f;:
     <message>
         <source>The printer &quot;%1&quot; on the network does not answer (%2). Switch it on and choose it again in a minute, or choose another printer.</source>
         <translation>L’imprimante «&#x202f;%1&#x202f;» du réseau ne répond pas (%2). Allumez-la et choisissez-la de nouveau dans une minute, ou choisissez une autre imprimante.</translation>
+    </message>
+    <message>
+        <source>There is no printer at &quot;%1&quot; (%2). Check the address.</source>
+        <translation>Il n’y a pas d’imprimante à l’adresse « %1 » (%2). Vérifiez l’adresse.</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; cannot be reached (%2). Check its address, and that it is switched on.</source>
+        <translation>L’imprimante « %1 » est injoignable (%2). Vérifiez son adresse et qu’elle est allumée.</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; does not accept jobs (%2). Look at the printer, or choose another one.</source>
+        <translation>L’imprimante « %1 » n’accepte pas de travaux (%2). Vérifiez l’imprimante ou choisissez-en une autre.</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; refused the request (%2). Check its settings.</source>
+        <translation>L’imprimante « %1 » a refusé la demande (%2). Vérifiez ses réglages.</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; did not answer in time (%2). Check that it is switched on, and try again.</source>
+        <translation>L’imprimante « %1 » n’a pas répondu à temps (%2). Vérifiez qu’elle est allumée et réessayez.</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; could not do what it was asked for (%2). Try again, or look at the printer.</source>
+        <translation>L’imprimante « %1 » n’a pas pu exécuter la demande (%2). Réessayez ou vérifiez l’imprimante.</translation>
+    </message>
+    <message>
+        <source>no reason was given</source>
+        <translation>sans en donner la raison</translation>
     </message>
 </context>
 <context>

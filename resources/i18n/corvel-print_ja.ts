@@ -15,10 +15,6 @@
 <context>
     <name>BatchRun</name>
     <message>
-        <source>No page size is chosen. Choose one with -o PageSize=%1 or another one of --list-options.</source>
-        <translation>用紙サイズが選ばれていません。-o PageSize=%1 か、--list-options にあるほかのサイズを指定してください。</translation>
-    </message>
-    <message>
         <source>%1 Printed before it: %2.</source>
         <translation>%1 それまでに印刷したもの: %2。</translation>
     </message>
@@ -33,6 +29,10 @@
     <message>
         <source>Canceled; the jobs already sent were canceled, too.</source>
         <translation>中止しました。送信したジョブはプリンターから取り消しました。</translation>
+    </message>
+    <message>
+        <source>No page size is chosen. Choose one with -o %1=%2 or another one of --list-options.</source>
+        <translation>用紙サイズが選ばれていません。-o %1=%2 か、--list-options にあるほかのサイズを指定してください。</translation>
     </message>
 </context>
 <context>
@@ -342,6 +342,14 @@ Examples:
         <source>its answer is too large or malformed</source>
         <translation>応答が大きすぎるか、形式に誤りがあります</translation>
     </message>
+    <message>
+        <source>this is not a printer&apos;s address</source>
+        <translation>プリンターのアドレスではありません</translation>
+    </message>
+    <message>
+        <source>its certificate is not trusted</source>
+        <translation>証明書を信頼できません</translation>
+    </message>
 </context>
 <context>
     <name>CustomChoice</name>
@@ -577,6 +585,14 @@ Examples:
     <message>
         <source>%1 copies cannot be printed. Choose a number from 1 to %2.</source>
         <translation>%1 部は印刷できません。1 から %2 までの数を選んでください。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not sent, because the printer cannot read a PDF, and this photo does not go to it as it is. Choose a borderless paper and fill it with a JPEG, or set up a queue for the printer in the printer settings.</source>
+        <translation>プリンターがPDFを読み取れず、この写真をそのまま送ることもできないため、「%1」は送信されません。フチなしの用紙をJPEGで満たすか、プリンターの設定でプリンターを追加してください。</translation>
+    </message>
+    <message>
+        <source>%1 copies cannot be printed. The printer makes at most %2 at a time; choose fewer.</source>
+        <translation>%1 部は印刷できません。このプリンターでは一度に最大 %2 部です。部数を減らしてください。</translation>
     </message>
 </context>
 <context>
@@ -1139,6 +1155,34 @@ Examples:
     <message>
         <source>The printer &quot;%1&quot; on the network does not answer (%2). Switch it on and choose it again in a minute, or choose another printer.</source>
         <translation>ネットワーク上のプリンター「%1」が応答しません (%2)。電源を入れて 1 分後にもう一度選ぶか、別のプリンターを選んでください。</translation>
+    </message>
+    <message>
+        <source>There is no printer at &quot;%1&quot; (%2). Check the address.</source>
+        <translation>「%1」にプリンターはありません (%2)。アドレスを確認してください。</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; cannot be reached (%2). Check its address, and that it is switched on.</source>
+        <translation>プリンター「%1」に接続できません (%2)。アドレスと、電源が入っていることを確認してください。</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; does not accept jobs (%2). Look at the printer, or choose another one.</source>
+        <translation>プリンター「%1」はジョブを受け付けていません (%2)。プリンターを確認するか、別のプリンターを選んでください。</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; refused the request (%2). Check its settings.</source>
+        <translation>プリンター「%1」が要求を拒否しました (%2)。プリンターの設定を確認してください。</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; did not answer in time (%2). Check that it is switched on, and try again.</source>
+        <translation>プリンター「%1」が時間内に応答しませんでした (%2)。電源が入っていることを確認して、もう一度お試しください。</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; could not do what it was asked for (%2). Try again, or look at the printer.</source>
+        <translation>プリンター「%1」は要求を処理できませんでした (%2)。もう一度試すか、プリンターを確認してください。</translation>
+    </message>
+    <message>
+        <source>no reason was given</source>
+        <translation>理由は示されていません</translation>
     </message>
 </context>
 <context>

@@ -3,22 +3,9 @@
 
 #include "PrinterMessage.h"
 
-#include <array>
-#include <cstring>
 #include <vector>
 
 namespace testing_support {
-
-namespace {
-
-ssize_t append(void *bytes, ipp_uchar_t *data, size_t size)
-{
-    static_cast<QByteArray *>(bytes)->append(reinterpret_cast<const char *>(data),
-                                             static_cast<qsizetype>(size));
-    return static_cast<ssize_t>(size);
-}
-
-} // namespace
 
 PrinterMessage::PrinterMessage()
     : PrinterMessage(ippNew(), IPP_TAG_PRINTER)
@@ -101,15 +88,6 @@ PrinterMessage &PrinterMessage::collections(const char *name, const QList<Member
 printdialog::IppAttributes PrinterMessage::attributes() const
 {
     return printdialog::IppAttributes::ofPrinter(message_.get());
-}
-
-QByteArray PrinterMessage::bytes() const
-{
-    QByteArray bytes;
-    ippSetState(message_.get(), IPP_STATE_IDLE);
-    while (ippWriteIO(&bytes, append, 1, nullptr, message_.get()) != IPP_STATE_DATA) {
-    }
-    return bytes;
 }
 
 PrinterMessage::Members PrinterMessage::medium(int width, int length, int margin, const char *source,

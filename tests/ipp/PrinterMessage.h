@@ -33,8 +33,7 @@ public:
     PrinterMessage &remove(const char *name);
 
     printdialog::IppAttributes attributes() const;
-    /// As it is sent, with an operation's status of success.
-    QByteArray bytes() const;
+    std::shared_ptr<ipp_t> message() const { return message_; }
 
     /// A photo printer: sizes with and without margins, a custom range, sources, types, all usual options,
     /// two vendor's, and rules about them.

@@ -75,17 +75,22 @@ QString unfitReason()
 
 } // namespace
 
-CupsConnection::CupsConnection(std::chrono::milliseconds limit, int *cancel)
+CupsConnection::CupsConnection(std::chrono::milliseconds limit, int *cancel,
+                               const std::optional<PrinterAddress> &printer)
     : limit_(limit)
     , deadline_(SocketLimit::Clock::now() + limit)
     , cancel_(cancel)
+    , printer_(printer)
 {
     initializeCups();
     cupsSetPasswordCB2(noPassword, nullptr);
     // libcups caches the server's name per thread; reset it so that a socket that appears later is found.
     cupsSetServer(nullptr);
-    server_ = QFile::decodeName(cupsServer());
+    server_ = printer ? printer->host : QFile::decodeName(cupsServer());
+    port_ = printer ? printer->port : ippPort();
     encryption_ = cupsEncryption();
+    if (printer)
+        encryption_ = printer->isEncrypted ? HTTP_ENCRYPTION_ALWAYS : HTTP_ENCRYPTION_IF_REQUESTED;
 }
 
 CupsConnection::~CupsConnection()
@@ -112,7 +117,7 @@ bool CupsConnection::connect()
     const auto connectLimit = isLocal ? std::min<std::chrono::milliseconds>(left, loopbackLimit) : left;
     // An upgrade to encryption is a separate request, and its answer has limits, too.
     const bool isUpgrade = encryption_ == HTTP_ENCRYPTION_REQUIRED;
-    http_.reset(httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC,
+    http_.reset(httpConnect2(QFile::encodeName(server_).constData(), port_, nullptr, AF_UNSPEC,
                              isUpgrade ? HTTP_ENCRYPTION_IF_REQUESTED : encryption_, 1,
                              static_cast<int>(std::max(connectLimit, 1ms).count()), cancel_));
     if (!http_)
@@ -121,7 +126,32 @@ bool CupsConnection::connect()
     socketLimit_->allow(overheadLimit);
     if (!socketLimit_->isInPlace() || (isUpgrade && httpEncryption(http_.get(), encryption_) != 0))
         disconnect();
+    else if (printer_ && httpIsEncrypted(http_.get()) && !isTrusted()) {
+        disconnect();
+        end_ = End::Strange;
+    }
     return isOpen();
+}
+
+/// By the rules of CUPS (client.conf(5)): the first certificate of a printer is kept, and a later one must
+/// replace it lawfully.
+bool CupsConnection::isTrusted()
+{
+    cups_array_t *credentials = nullptr;
+    if (httpCopyCredentials(http_.get(), &credentials) != 0)
+        return false;
+    const QByteArray name = printer_->host.toUtf8();
+    const http_trust_t trust = httpCredentialsGetTrust(credentials, name.constData());
+    const bool isFine = trust == HTTP_TRUST_OK || trust == HTTP_TRUST_RENEWED;
+    if (isFine)
+        httpSaveCredentials(nullptr, credentials, name.constData());
+    httpFreeCredentials(credentials);
+    return isFine;
+}
+
+QByteArray CupsConnection::jobsUri() const
+{
+    return printer_ ? printer_->uri : QByteArray("ipp://localhost/");
 }
 
 void CupsConnection::extend()
@@ -152,7 +182,7 @@ void CupsConnection::heed(int *cancel)
 QString CupsConnection::unreachableReason() const
 {
     const QString address =
-        server_.startsWith(u'/') ? server_ : QStringLiteral("%1:%2").arg(server_).arg(ippPort());
+        server_.startsWith(u'/') ? server_ : QStringLiteral("%1:%2").arg(server_).arg(port_);
     return QCoreApplication::translate("CupsConnection", "nothing answers at %1").arg(address);
 }
 
@@ -177,6 +207,9 @@ Failure<QueueFault> CupsConnection::lastFailure(const QString &queue) const
         if (!hasSucceeded())
             return queueFailure(faultOf(status_), queue, words_);
         break;
+    case End::Strange:
+        return queueFailure(QueueFault::Refused, queue,
+                            QCoreApplication::translate("CupsConnection", "its certificate is not trusted"));
     case End::Nobody:
     case End::Unfit:
         break;

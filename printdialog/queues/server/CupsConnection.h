@@ -5,6 +5,7 @@
 
 #include "IppMessage.h"
 #include "PipeSignalBlock.h"
+#include "PrinterAddress.h"
 #include "QueueFault.h"
 #include "SocketLimit.h"
 
@@ -12,6 +13,7 @@
 
 #include <chrono>
 #include <memory>
+#include <optional>
 
 namespace printdialog {
 
@@ -20,7 +22,8 @@ struct HttpCloser
     void operator()(http_t *http) const { httpClose(http); }
 };
 
-/// A connection to the print server of this process (CUPS_SERVER, client.conf, the local socket). Unlike
+/// A connection to the print server of this process (CUPS_SERVER, client.conf, the local socket), or directly
+/// to a printer. Unlike
 /// libcups' own connection, it gives up when the server is silent, and it limits the size of an answer
 /// (IppInspection.h). All requests go through it: libcups' functions for complete requests (cupsDoRequest,
 /// cupsSendRequest, cupsGetFd) read without limits and reconnect past SocketLimit. Use it only on the thread
@@ -32,7 +35,9 @@ public:
     /// connecting and everything afterwards until extend() restarts it. It applies to a server that sends a
     /// byte now and then as well as to a silent one.
     /// @param cancel see heed()
-    explicit CupsConnection(std::chrono::milliseconds limit, int *cancel = nullptr);
+    /// @param printer connect to it instead; all requests then go to its resource, whichever they name
+    explicit CupsConnection(std::chrono::milliseconds limit, int *cancel = nullptr,
+                            const std::optional<PrinterAddress> &printer = std::nullopt);
     ~CupsConnection();
     Q_DISABLE_COPY_MOVE(CupsConnection)
 
@@ -49,6 +54,9 @@ public:
     /// Sends the request and reads the answer; null when there is no usable one. The answer may report a
     /// failure: see status().
     IppPointer answerTo(IppPointer request, const char *resource);
+
+    /// The address that requests about jobs name: the server's, or the printer's.
+    QByteArray jobsUri() const;
 
     // A request with a document:
 
@@ -81,12 +89,14 @@ private:
         Http,     ///< The server refused it at the HTTP level; see httpStatus_.
         Nobody,   ///< Nothing listens at the address.
         Broken,   ///< The connection broke.
+        Strange,  ///< The printer's certificate is not to be trusted.
         Unfit     ///< The answer is too large or malformed.
     };
 
     bool isOpen() const { return socketLimit_ != nullptr; }
     QString unreachableReason() const;
     bool connect();
+    bool isTrusted();
     void disconnect();
     /// Makes sure that the connection is ready for another request.
     bool prepare();
@@ -105,7 +115,9 @@ private:
     std::chrono::milliseconds limit_;
     SocketLimit::Clock::time_point deadline_;
     int *cancel_;
+    std::optional<PrinterAddress> printer_;
     QString server_;
+    int port_ = 0;
     http_encryption_t encryption_ = HTTP_ENCRYPTION_IF_REQUESTED;
     QByteArray authorization_;
     std::unique_ptr<http_t, HttpCloser> http_;

@@ -54,16 +54,17 @@ IppPointer CupsConnection::answerTo(IppPointer request, const char *resource)
 
 bool CupsConnection::begin(ipp_t *request, const QByteArray &resource, qint64 documentSize)
 {
+    const QByteArray &path = printer_ ? printer_->resource : resource;
     bool asksBefore = documentSize > 0;
     for (int attempt = 0; attempt < mostAttempts; ++attempt) {
         if (!prepare())
             break;
-        if (post(request, resource, documentSize, asksBefore) && documentSize == 0)
+        if (post(request, path, documentSize, asksBefore) && documentSize == 0)
             readHead(Head::Answer);
         if (httpStatus_ == HTTP_STATUS_EXPECTATION_FAILED && asksBefore) {
             asksBefore = false;
             isSpent_ = true;
-        } else if (!removesObstacle("POST", resource)) {
+        } else if (!removesObstacle("POST", path)) {
             break;
         }
     }
@@ -80,7 +81,7 @@ bool CupsConnection::prepare()
     if (!isOpen() || isSpent_ || httpGetFd(http_.get()) < 0 ||
         httpGetState(http_.get()) != HTTP_STATE_WAITING) {
         if (!connect()) {
-            fail(End::Nobody);
+            fail(end_ == End::Strange ? End::Strange : End::Nobody);
             return false;
         }
     }

@@ -3,6 +3,7 @@
 
 #include "QueueFault.h"
 
+#include "Destination.h"
 #include "PlainText.h"
 
 #include <QtCore/QCoreApplication>
@@ -80,6 +81,31 @@ QString sentence(QueueFault fault)
         "The print server could not serve the printer \"%1\" (%2). Try again, or check its log.");
 }
 
+/// About a printer that is asked directly; empty where the usual sentence holds.
+QString printerSentence(QueueFault fault)
+{
+    switch (fault) {
+    case QueueFault::NotFound:
+        return FaultText::tr("There is no printer at \"%1\" (%2). Check the address.");
+    case QueueFault::NoServer:
+        return FaultText::tr("The printer \"%1\" cannot be reached (%2). Check its address, and that it is "
+                             "switched on.");
+    case QueueFault::NotAccepting:
+        return FaultText::tr("The printer \"%1\" does not accept jobs (%2). Look at the printer, or choose "
+                             "another one.");
+    case QueueFault::Refused:
+        return FaultText::tr("The printer \"%1\" refused the request (%2). Check its settings.");
+    case QueueFault::TimedOut:
+        return FaultText::tr("The printer \"%1\" did not answer in time (%2). Check that it is switched on, "
+                             "and try again.");
+    case QueueFault::Failed:
+        return FaultText::tr("The printer \"%1\" could not do what it was asked for (%2). Try again, or look "
+                             "at the printer.");
+    default:
+        return {};
+    }
+}
+
 QString serverSentence(QueueFault fault)
 {
     switch (fault) {
@@ -103,10 +129,14 @@ Failure<QueueFault> queueFailure(QueueFault fault, const QString &queue, const Q
     while (reason.endsWith(u'.'))
         reason.chop(1);
     const QString detail = reason;
+    const bool isAddress = Destination(queue).isAddress();
     if (reason.isEmpty())
-        reason = ownReason(fault);
-    const QString text = queue.isEmpty() ? serverSentence(fault).arg(reason)
-                                         : sentence(fault).arg(plainText(queue, 128), reason);
+        reason = isAddress && fault == QueueFault::Failed ? FaultText::tr("no reason was given")
+                                                          : ownReason(fault);
+    const QString ofPrinter = isAddress ? printerSentence(fault) : QString();
+    const QString ofQueue = ofPrinter.isEmpty() ? sentence(fault) : ofPrinter;
+    const QString text =
+        queue.isEmpty() ? serverSentence(fault).arg(reason) : ofQueue.arg(plainText(queue, 128), reason);
     return {fault, text, detail};
 }
 

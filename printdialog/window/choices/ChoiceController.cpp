@@ -12,12 +12,6 @@
 
 namespace printdialog {
 
-namespace {
-
-const QString pageSizeOption = QStringLiteral("PageSize");
-
-} // namespace
-
 ChoiceController::ChoiceController(const ChoiceWidgets &widgets, QObject *parent)
     : QObject(parent)
     , widgets_(widgets)
@@ -53,7 +47,7 @@ void ChoiceController::choosePageSize(const QString &pageSize)
     if (!session_)
         return;
     steps_->endAct();
-    const Ruling ruling = session_->choose(pageSizeOption, pageSize);
+    const Ruling ruling = session_->choose(session_->options().pageSizeKey(), pageSize);
     if (ruling.verdict == Verdict::Accepted)
         endAct(widgets_.pageSize, false);
     else

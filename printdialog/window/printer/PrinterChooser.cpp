@@ -66,10 +66,13 @@ void PrinterChooser::search(const std::optional<Destination> &wanted)
     selection_.asksFor(wanted);
     QSet<QString> awaited;
     for (const std::optional<Destination> &each : {wanted, selection_.recalled()}) {
-        if (each && !each->isBuiltIn())
+        if (each && !each->isBuiltIn() && !each->isAddress())
             awaited.insert(each->queue);
     }
     finder_->start(awaited);
+    // No print server lists a printer that is asked directly.
+    if (wanted && wanted->isAddress())
+        updateQueue(Queue::at(*wanted));
 }
 
 void PrinterChooser::chooseBuiltIn()

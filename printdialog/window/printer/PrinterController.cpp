@@ -3,6 +3,7 @@
 
 #include "PrinterController.h"
 
+#include "IppOptions.h"
 #include "OptionsFetcher.h"
 #include "PpdDocument.h"
 #include "PrinterChooser.h"
@@ -143,8 +144,8 @@ void PrinterController::updateQueue(const Queue &queue)
     Q_EMIT queueUpdated();
     if (!chooser_->selection().hasOldOptions())
         return;
-    const bool hasPpd = session_ && session_->printer().hasPpd;
-    fetchOptions(hasPpd ? std::optional(session_->ppd()->checked()) : std::nullopt);
+    const PpdDocument *ppd = session_ ? session_->ppd() : nullptr;
+    fetchOptions(ppd ? std::optional(ppd->checked()) : std::nullopt);
 }
 
 void PrinterController::reportSearchFailure(const QString &text)
@@ -181,9 +182,11 @@ void PrinterController::remember()
 {
     if (!request_.remembers || request_.ppdFile || !session_)
         return;
-    const bool hasPpd = !queue_.isBuiltIn && session_->printer().hasPpd;
-    QueueCache::save(
-        {queue_, hasPpd ? session_->ppd()->data() : QByteArray(), chooser_->selection().isUserChoice()});
+    // Attributes are not kept, and nothing confirms an address before it is asked.
+    if (session_->ipp() || queue_.destination().isAddress())
+        return;
+    const PpdDocument *ppd = queue_.isBuiltIn ? nullptr : session_->ppd();
+    QueueCache::save({queue_, ppd ? ppd->data() : QByteArray(), chooser_->selection().isUserChoice()});
 }
 
 // Its options
@@ -205,13 +208,15 @@ void PrinterController::fetchOptions(const std::optional<CheckedPpd> &known)
 // A queue without a PPD can print, too: it only has nothing to choose.
 void PrinterController::useOptions(const FetchedOptions &options)
 {
-    const auto ppd =
-        session_ && session_->printer().hasPpd ? std::optional(session_->ppd()->data()) : std::nullopt;
-    if (session_ && ppd == (options.ppd ? std::optional(options.ppd->data()) : std::nullopt))
+    const bool hadPpd = session_ && session_->ppd();
+    const bool isSame = hadPpd && options.ppd ? session_->ppd()->data() == options.ppd->data()
+                                              : session_ && session_->printer().isRaw && !options.ppd &&
+                                                    !IppOptions::of(options.attributes);
+    if (isSame)
         confirm();
     else
         replaceSession(options.ppd ? openQueue(queue_, *options.ppd, request_.mode, options.attributes)
-                                   : openRawQueue(queue_, request_.mode));
+                                   : openWithoutPpd(queue_, options.attributes, request_.mode));
 }
 
 // The options remembered from an earlier run are still those of the print server.
