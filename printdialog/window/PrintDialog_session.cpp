@@ -88,6 +88,7 @@ void PrintDialog::showSession()
     choices_->setSession(session, printer_->builtInPreset());
     if (applyOptions())
         session->refreshPanels();
+    ui_->photos->setPlacedByPrinter(session->printer().isRaw);
     fillPageSizes();
     choices_->start();
     ui_->panels->setSession(session);

@@ -2400,6 +2400,10 @@ Beispiele:
         <source>Damaged: a part of the picture is missing or wrong.</source>
         <translation>Beschädigt: Ein Teil des Bildes fehlt oder ist falsch.</translation>
     </message>
+    <message>
+        <source>The printer places it on the page itself; the preview is only an example.</source>
+        <translation>Der Drucker setzt es selbst auf die Seite; die Vorschau ist nur ein Beispiel.</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::PhotoPrinter</name>
@@ -2479,6 +2483,10 @@ Beispiele:
     <message>
         <source>Turn the photo on the page by a quarter, clockwise</source>
         <translation>Das Foto auf der Seite um ein Viertel im Uhrzeigersinn drehen</translation>
+    </message>
+    <message>
+        <source>This printer places the photo on the page itself.</source>
+        <translation>Dieser Drucker setzt das Foto selbst auf die Seite.</translation>
     </message>
 </context>
 <context>

@@ -2399,6 +2399,10 @@ Ejemplos:
         <source>Damaged: a part of the picture is missing or wrong.</source>
         <translation>Dañada: falta una parte de la imagen o es errónea.</translation>
     </message>
+    <message>
+        <source>The printer places it on the page itself; the preview is only an example.</source>
+        <translation>La impresora la coloca ella misma en la página; la vista previa es solo un ejemplo.</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::PhotoPrinter</name>
@@ -2478,6 +2482,10 @@ Ejemplos:
     <message>
         <source>Turn the photo on the page by a quarter, clockwise</source>
         <translation>Girar la foto en la página un cuarto de vuelta, en sentido horario</translation>
+    </message>
+    <message>
+        <source>This printer places the photo on the page itself.</source>
+        <translation>Esta impresora coloca ella misma la foto en la página.</translation>
     </message>
 </context>
 <context>

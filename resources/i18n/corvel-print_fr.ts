@@ -590,11 +590,11 @@ Exemples&#x202f;:
     </message>
     <message>
         <source>&quot;%1&quot; is not sent, because the printer cannot read a PDF, and this photo does not go to it as it is. Choose a borderless paper and fill it with a JPEG, or set up a queue for the printer in the printer settings.</source>
-        <translation>« %1 » n’est pas envoyé, car l’imprimante ne sait pas lire le PDF et cette photo ne peut pas être envoyée telle quelle. Choisissez un papier sans marge et remplissez-le avec un JPEG, ou configurez l’imprimante dans les paramètres d’impression.</translation>
+        <translation>«&#x202f;%1&#x202f;» n’est pas envoyé, car l’imprimante ne sait pas lire le PDF et cette photo ne peut pas être envoyée telle quelle. Choisissez un papier sans marge et remplissez-le avec un JPEG, ou configurez l’imprimante dans les paramètres d’impression.</translation>
     </message>
     <message>
         <source>%1 copies cannot be printed. The printer makes at most %2 at a time; choose fewer.</source>
-        <translation>Impossible d’imprimer %1 exemplaires. L’imprimante en fait au plus %2 à la fois ; choisissez-en moins.</translation>
+        <translation>Impossible d’imprimer %1 exemplaires. L’imprimante en fait au plus %2 à la fois&#x202f;; choisissez-en moins.</translation>
     </message>
 </context>
 <context>
@@ -1160,27 +1160,27 @@ Exemples&#x202f;:
     </message>
     <message>
         <source>There is no printer at &quot;%1&quot; (%2). Check the address.</source>
-        <translation>Il n’y a pas d’imprimante à l’adresse « %1 » (%2). Vérifiez l’adresse.</translation>
+        <translation>Il n’y a pas d’imprimante à l’adresse «&#x202f;%1&#x202f;» (%2). Vérifiez l’adresse.</translation>
     </message>
     <message>
         <source>The printer &quot;%1&quot; cannot be reached (%2). Check its address, and that it is switched on.</source>
-        <translation>L’imprimante « %1 » est injoignable (%2). Vérifiez son adresse et qu’elle est allumée.</translation>
+        <translation>L’imprimante «&#x202f;%1&#x202f;» est injoignable (%2). Vérifiez son adresse et qu’elle est allumée.</translation>
     </message>
     <message>
         <source>The printer &quot;%1&quot; does not accept jobs (%2). Look at the printer, or choose another one.</source>
-        <translation>L’imprimante « %1 » n’accepte pas de travaux (%2). Vérifiez l’imprimante ou choisissez-en une autre.</translation>
+        <translation>L’imprimante «&#x202f;%1&#x202f;» n’accepte pas de travaux (%2). Vérifiez l’imprimante ou choisissez-en une autre.</translation>
     </message>
     <message>
         <source>The printer &quot;%1&quot; refused the request (%2). Check its settings.</source>
-        <translation>L’imprimante « %1 » a refusé la demande (%2). Vérifiez ses réglages.</translation>
+        <translation>L’imprimante «&#x202f;%1&#x202f;» a refusé la demande (%2). Vérifiez ses réglages.</translation>
     </message>
     <message>
         <source>The printer &quot;%1&quot; did not answer in time (%2). Check that it is switched on, and try again.</source>
-        <translation>L’imprimante « %1 » n’a pas répondu à temps (%2). Vérifiez qu’elle est allumée et réessayez.</translation>
+        <translation>L’imprimante «&#x202f;%1&#x202f;» n’a pas répondu à temps (%2). Vérifiez qu’elle est allumée et réessayez.</translation>
     </message>
     <message>
         <source>The printer &quot;%1&quot; could not do what it was asked for (%2). Try again, or look at the printer.</source>
-        <translation>L’imprimante « %1 » n’a pas pu exécuter la demande (%2). Réessayez ou vérifiez l’imprimante.</translation>
+        <translation>L’imprimante «&#x202f;%1&#x202f;» n’a pas pu exécuter la demande (%2). Réessayez ou vérifiez l’imprimante.</translation>
     </message>
     <message>
         <source>no reason was given</source>
@@ -2400,6 +2400,10 @@ Exemples&#x202f;:
         <source>Damaged: a part of the picture is missing or wrong.</source>
         <translation>Endommagée&#x202f;: une partie de l’image manque ou est fausse.</translation>
     </message>
+    <message>
+        <source>The printer places it on the page itself; the preview is only an example.</source>
+        <translation>L’imprimante la place elle-même sur la page ; l’aperçu n’est qu’un exemple.</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::PhotoPrinter</name>
@@ -2479,6 +2483,10 @@ Exemples&#x202f;:
     <message>
         <source>Turn the photo on the page by a quarter, clockwise</source>
         <translation>Tourner la photo d’un quart de tour sur la page, dans le sens horaire</translation>
+    </message>
+    <message>
+        <source>This printer places the photo on the page itself.</source>
+        <translation>Cette imprimante place elle-même la photo sur la page.</translation>
     </message>
 </context>
 <context>

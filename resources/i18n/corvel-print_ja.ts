@@ -2398,6 +2398,10 @@ Examples:
         <source>Damaged: a part of the picture is missing or wrong.</source>
         <translation>破損: 画像の一部が欠けているか、正しくありません。</translation>
     </message>
+    <message>
+        <source>The printer places it on the page itself; the preview is only an example.</source>
+        <translation>配置はプリンターが決めます。プレビューは一例です。</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::PhotoPrinter</name>
@@ -2476,6 +2480,10 @@ Examples:
     <message>
         <source>Turn the photo on the page by a quarter, clockwise</source>
         <translation>ページ上の写真を時計回りに 90 度回転します</translation>
+    </message>
+    <message>
+        <source>This printer places the photo on the page itself.</source>
+        <translation>このプリンターでは、写真の配置はプリンターが決めます。</translation>
     </message>
 </context>
 <context>

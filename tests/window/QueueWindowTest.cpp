@@ -166,9 +166,20 @@ private Q_SLOTS:
         choose(opened, u"raw"_s);
         QVERIFY(opened.message().contains(u"no PPD"_s));
         QCOMPARE(opened.find<QComboBox>(u"pageSize"_s)->count(), 1);
+        // Nothing suggests that a placement would be printed.
+        const auto isOff = [&opened](const QString &name) {
+            const auto *control = opened.find<QWidget>(name);
+            return !control->isEnabled() && control->toolTip().contains(u"places the photo"_s);
+        };
+        QVERIFY(isOff(u"scaling"_s) && isOff(u"turn"_s));
+        QVERIFY(opened.find<QLabel>(u"photoLabel"_s)->text().contains(u"only an example"_s));
         const RecordedJob job = cupsd_.job(print(opened));
         QVERIFY(job.document == setupForPrinter().photos.constFirst().content());
         QVERIFY(!job.options.contains("PageSize"));
+        QTest::keyClick(opened.find<QComboBox>(u"printer"_s), Qt::Key_Home);
+        QTRY_COMPARE(opened.dialog->printer(), u"built-in"_s);
+        QVERIFY(!isOff(u"scaling"_s) && !isOff(u"turn"_s));
+        QVERIFY(!opened.find<QLabel>(u"photoLabel"_s)->text().contains(u"only an example"_s));
     }
 
     void statusIsShownInWords()

@@ -99,6 +99,15 @@ void PhotoPane::setPage(const PageGeometry &page)
     showCaption();
 }
 
+void PhotoPane::setPlacedByPrinter(bool isPlaced)
+{
+    if (isPlaced == isPlacedByPrinter_)
+        return;
+    isPlacedByPrinter_ = isPlaced;
+    placement_->setPlacedByPrinter(isPlaced);
+    show();
+}
+
 void PhotoPane::addFiles(const QStringList &paths)
 {
     const auto open = [paths, self = QPointer<PhotoPane>(this)] {
@@ -227,8 +236,9 @@ void PhotoPane::show()
 {
     const PlacedPhoto shown = current_ < 0 ? PlacedPhoto() : photos_.at(current_);
     preview_->setPhoto(shown.photo);
-    preview_->setPlacement(shown.placement);
-    placement_->setPlacement(shown.placement);
+    const PlacementChoice placement = isPlacedByPrinter_ ? PlacementChoice() : shown.placement;
+    preview_->setPlacement(placement);
+    placement_->setPlacement(placement);
     placement_->setEnabled(current_ >= 0);
     remove_->setEnabled(current_ >= 0);
     QList<Photo> several; // a single photo needs no strip, and no thumbnail
@@ -251,7 +261,9 @@ void PhotoPane::showCaption()
             photos_.size() == 1 ? name : tr("%1 (%2 of %3)").arg(name).arg(current_ + 1).arg(photos_.size());
         if (photo.isChecked() && photo.damage())
             lines += tr("Damaged: a part of the picture is missing or wrong.");
-        if (const auto placement = preview_->placement())
+        if (isPlacedByPrinter_)
+            lines += tr("The printer places it on the page itself; the preview is only an example.");
+        else if (const auto placement = preview_->placement())
             lines += placementText(photo, *placement, photos_.at(current_).placement, page_);
     }
     caption_->setText(lines.join(u'\n'));

@@ -34,6 +34,9 @@ public:
     void setPhotos(const QList<Photo> &photos, const PlacementChoice &placement);
     const QList<PlacedPhoto> &photos() const { return photos_; }
     void setPage(const PageGeometry &page);
+    /// Whether the printer places the photos itself, whatever their placement is. The preview is then only an
+    /// example, and says so.
+    void setPlacedByPrinter(bool isPlaced);
 
     /// Opens the files and appends those that are photos.
     void addFiles(const QStringList &paths);
@@ -81,6 +84,7 @@ private:
     QList<PlacedPhoto> photos_;
     PlacementChoice initial_;
     PageGeometry page_;
+    bool isPlacedByPrinter_ = false;
     int current_ = -1; ///< -1 without photos
 };
 

@@ -35,8 +35,8 @@ PlacementBar::PlacementBar(QWidget *parent)
         scaling_->addItem(scalingText(scaling), static_cast<int>(scaling));
     turn_->setObjectName(QStringLiteral("turn"));
     turn_->setAutoDefault(false);
-    turn_->setToolTip(tr("Turn the photo on the page by a quarter, clockwise"));
-    turn_->setAccessibleDescription(turn_->toolTip());
+    turnHint_ = tr("Turn the photo on the page by a quarter, clockwise");
+    setPlacedByPrinter(false);
     auto *labelled = new QHBoxLayout;
     labelled->addWidget(label);
     labelled->addWidget(scaling_, 1);
@@ -51,6 +51,17 @@ PlacementBar::PlacementBar(QWidget *parent)
         choice_.turns = (choice_.turns + 1) % 4;
         Q_EMIT placementChanged(choice_);
     });
+}
+
+void PlacementBar::setPlacedByPrinter(bool isPlaced)
+{
+    const QString reason = isPlaced ? tr("This printer places the photo on the page itself.") : QString();
+    scaling_->setToolTip(reason);
+    turn_->setToolTip(isPlaced ? reason : turnHint_);
+    for (QWidget *control : {static_cast<QWidget *>(scaling_), static_cast<QWidget *>(turn_)}) {
+        control->setAccessibleDescription(control->toolTip());
+        control->setEnabled(!isPlaced);
+    }
 }
 
 void PlacementBar::setPlacement(const PlacementChoice &choice)

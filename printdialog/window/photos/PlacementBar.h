@@ -22,6 +22,9 @@ public:
 
     /// Shows the choice; no signal is emitted.
     void setPlacement(const PlacementChoice &choice);
+    /// Whether the printer places the photo itself: then nothing can be chosen here, and the controls say
+    /// why.
+    void setPlacedByPrinter(bool isPlaced);
 
 Q_SIGNALS:
     /// The user has chosen.
@@ -31,6 +34,7 @@ private:
     QComboBox *scaling_;
     QPushButton *turn_;
     PlacementChoice choice_;
+    QString turnHint_;
 };
 
 } // namespace printdialog
