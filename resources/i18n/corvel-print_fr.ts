@@ -2402,7 +2402,7 @@ Exemples&#x202f;:
     </message>
     <message>
         <source>The printer places it on the page itself; the preview is only an example.</source>
-        <translation>L’imprimante la place elle-même sur la page ; l’aperçu n’est qu’un exemple.</translation>
+        <translation>L’imprimante la place elle-même sur la page&#x202f;; l’aperçu n’est qu’un exemple.</translation>
     </message>
 </context>
 <context>

@@ -9,6 +9,7 @@
 #include "StubPrinter.h"
 #include "TestMain.h"
 
+#include <QtCore/QScopeGuard>
 #include <QtCore/QTemporaryDir>
 #include <QtGui/QImage>
 #include <QtTest/QTest>
@@ -41,9 +42,9 @@ class IppJobsTest : public QObject
     QString photo_ = folder_.filePath(u"upright.jpg"_s);
 
     /// Prints the photo with the choices; the failure's sentence, or nothing.
-    QString print(StubPrinter &printer, const QMap<QString, QString> &choices, int copies = 1)
+    QString print(const Destination &printer, const QMap<QString, QString> &choices, int copies = 1)
     {
-        const auto opened = queueNamed(printer.address(), 5s);
+        const auto opened = queueNamed(printer, 5s);
         if (!opened)
             return opened.failure().text;
         const auto session = openWithoutPpd(opened->queue, opened->attributes, PanelMode::Constraint);
@@ -116,14 +117,28 @@ private Q_SLOTS:
         auto [choices, format, attributes] =
             row<QMap<QString, QString>, QByteArray, QMap<QString, QString>>();
         StubPrinter printer(PrinterMessage::photoPrinter());
-        QCOMPARE(print(printer, choices, 3), QString());
+        QCOMPARE(print(printer.address(), choices, 3), QString());
         QCOMPARE(printer.jobs().size(), 1);
         const StubPrinter::Job job = printer.jobs().constFirst();
         attributes.insert(u"copies"_s, u"integer 3"_s);
         QCOMPARE(job.attributes, attributes);
         QCOMPARE(job.format, format);
+        QCOMPARE(job.resource, QByteArray("/ipp/print"));
         QCOMPARE(job.document == Photo::open(photo_)->content(), format == "image/jpeg");
         QVERIFY(job.document.startsWith(format == "image/jpeg" ? "\xff\xd8" : "%PDF"));
+    }
+
+    // The attributes say what a queue prints on, so it is no raw one.
+    void printsOnAQueueWithoutPpd()
+    {
+        StubPrinter server(PrinterMessage::photoPrinter());
+        qputenv("CUPS_SERVER", server.server());
+        const auto unset = qScopeGuard([] { qunsetenv("CUPS_SERVER"); });
+        QCOMPARE(print(u"photo"_s, {{u"print-quality"_s, u"5"_s}}), QString());
+        const StubPrinter::Job job = server.jobs().value(0);
+        QCOMPARE(job.resource, QByteArray("/printers/photo"));
+        QCOMPARE(job.attributes.value(u"print-quality"_s), u"enum high"_s);
+        QCOMPARE(job.attributes.value(u"media-col"_s), mediaCol(0, u"photographic-glossy"_s));
     }
 
     void refusesWhatThePrinterCannotPrint_data()
@@ -172,7 +187,7 @@ private Q_SLOTS:
         PrinterMessage message = PrinterMessage::photoPrinter();
         change(message);
         StubPrinter printer(message);
-        const QString text = print(printer, choices, copies);
+        const QString text = print(printer.address(), choices, copies);
         QVERIFY2(refusal.isEmpty() ? text.isEmpty() : text.contains(refusal), qPrintable(text));
         QCOMPARE(printer.jobs().isEmpty(), !refusal.isEmpty());
     }

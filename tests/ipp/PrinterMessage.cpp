@@ -119,7 +119,8 @@ PrinterMessage PrinterMessage::photoPrinter()
                           }});
         entry.numbers("media-left-margin", IPP_TAG_INTEGER, {318});
     };
-    printer.text("printer-make-and-model", IPP_TAG_TEXT, "Example Photo 100")
+    printer.text("printer-name", IPP_TAG_NAME, "photo")
+        .text("printer-make-and-model", IPP_TAG_TEXT, "Example Photo 100")
         .text("printer-info", IPP_TAG_TEXT, "Photo One")
         .keywords("media-supported", {"na_index-4x6_4x6in", "iso_a4_210x297mm"})
         .keywords("media-default", {"iso_a4_210x297mm"})

@@ -80,6 +80,15 @@ void StubPrinter::answer(http_t *http)
     http_state_t state = HTTP_STATE_WAITING;
     while ((state = httpReadRequest(http, resource.data(), resource.size())) == HTTP_STATE_WAITING) {
     }
+    while (state == HTTP_STATE_GET && httpUpdate(http) == HTTP_STATUS_CONTINUE) {
+    }
+    if (state == HTTP_STATE_GET) {
+        httpClearFields(http);
+        httpSetField(http, HTTP_FIELD_CONNECTION, "close");
+        httpSetLength(http, 0);
+        httpWriteResponse(http, HTTP_STATUS_NOT_FOUND);
+        httpFlushWrite(http);
+    }
     if (state != HTTP_STATE_POST)
         return;
     while (httpUpdate(http) == HTTP_STATUS_CONTINUE && httpGetState(http) == HTTP_STATE_POST) {
@@ -100,10 +109,7 @@ void StubPrinter::answer(http_t *http)
             break;
         document.append(bytes.data(), count);
     }
-    const auto answer =
-        QByteArray(resource.data()) == "/ipp/print" ? answerTo(request.get(), document) : nullptr;
-    if (!answer)
-        return;
+    const auto answer = answerTo(request.get(), resource.data(), document);
     httpClearFields(http);
     httpSetField(http, HTTP_FIELD_CONTENT_TYPE, "application/ipp");
     httpSetField(http, HTTP_FIELD_CONNECTION, "close");
@@ -115,7 +121,8 @@ void StubPrinter::answer(http_t *http)
     httpFlushWrite(http);
 }
 
-std::shared_ptr<ipp_t> StubPrinter::answerTo(ipp_t *request, const QByteArray &document)
+std::shared_ptr<ipp_t> StubPrinter::answerTo(ipp_t *request, const QByteArray &resource,
+                                             const QByteArray &document)
 {
     if (ippGetOperation(request) == IPP_OP_GET_PRINTER_ATTRIBUTES)
         return message_.message();
@@ -124,7 +131,7 @@ std::shared_ptr<ipp_t> StubPrinter::answerTo(ipp_t *request, const QByteArray &d
     if (ippGetOperation(request) == IPP_OP_PRINT_JOB) {
         const QMap<QString, QString> operation = spelled(request, IPP_TAG_OPERATION);
         const std::lock_guard lock(mutex_);
-        jobs_.append({spelled(request, IPP_TAG_JOB),
+        jobs_.append({spelled(request, IPP_TAG_JOB), resource,
                       operation.value(QStringLiteral("document-format")).section(u' ', 1).toLatin1(),
                       document});
     } else {

@@ -23,6 +23,7 @@ public:
     struct Job
     {
         QMap<QString, QString> attributes; ///< with their types: "enum high"
+        QByteArray resource;
         QByteArray format;
         QByteArray document;
     };
@@ -33,12 +34,14 @@ public:
 
     /// "ipp://localhost:port/ipp/print"
     QString address() const;
+    /// For CUPS_SERVER, as a print server that has no PPDs.
+    QByteArray server() const { return "localhost:" + QByteArray::number(port_); }
     QList<Job> jobs();
 
 private:
     void serve();
     void answer(http_t *http);
-    std::shared_ptr<ipp_t> answerTo(ipp_t *request, const QByteArray &document);
+    std::shared_ptr<ipp_t> answerTo(ipp_t *request, const QByteArray &resource, const QByteArray &document);
 
     PrinterMessage message_;
     int listener_ = -1;
