@@ -35,7 +35,8 @@ constexpr std::array optionRows = {
     OptionRow{"d,printer", "QUEUE",
               QT_TRANSLATE_NOOP("CommandLine",
                                 "a print queue, or \"built-in\" for the built-in printer; with a preset\n"
-                                "of it: QUEUE/PRESET. Otherwise your default queue, or else the\n"
+                                "of it: QUEUE/PRESET. Or a printer's address, ipp://HOST/ipp/print,\n"
+                                "which needs no print server. Otherwise your default queue, or else the\n"
                                 "built-in printer")},
     OptionRow{"ppd", "FILE",
               QT_TRANSLATE_NOOP("CommandLine", "the built-in printer, with this PPD instead of its own")},

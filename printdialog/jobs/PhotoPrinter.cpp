@@ -117,9 +117,12 @@ void PhotoPrinter::note(const SentJob &job, const JobStatus &status, Outcome &ou
     const QString id = QString::number(job.id);
     const QString detail = status.detail();
     if (!status.isOver()) {
-        outcome.waiting.append(
-            tr("%1 (job %2) is not printed yet: %3. The print server keeps it; \"cancel %2\" cancels it.")
-                .arg(job.photo, id, status.text()));
+        const QString sentence =
+            job_.destination.isAddress()
+                ? tr("%1 (job %2) is not printed yet: %3. The printer keeps it; cancel it there.")
+                : tr("%1 (job %2) is not printed yet: %3. The print server keeps it; \"cancel %2\" cancels "
+                     "it.");
+        outcome.waiting.append(sentence.arg(job.photo, id, status.text()));
     } else if (status.state == JobStatus::State::Aborted) {
         if (!outcome.failure)
             outcome.failure =

@@ -85,14 +85,6 @@
 <context>
     <name>CommandLine</name>
     <message>
-        <source>a print queue, or &quot;built-in&quot; for the built-in printer; with a preset
-of it: QUEUE/PRESET. Otherwise your default queue, or else the
-built-in printer</source>
-        <translation>eine Druckerwarteschlange oder „built-in“ für den eingebauten Drucker;
-mit einer Voreinstellung davon: QUEUE/VOREINSTELLUNG. Sonst Ihre
-Standardwarteschlange oder der eingebaute Drucker</translation>
-    </message>
-    <message>
         <source>the built-in printer, with this PPD instead of its own</source>
         <translation>der eingebaute Drucker, mit dieser PPD-Datei statt seiner eigenen</translation>
     </message>
@@ -306,6 +298,16 @@ Beispiele:
     <message>
         <source>&quot;%1&quot; is not an option. Give it as KEY=CHOICE.</source>
         <translation>„%1“ ist keine Option. Geben Sie sie als KEY=CHOICE an.</translation>
+    </message>
+    <message>
+        <source>a print queue, or &quot;built-in&quot; for the built-in printer; with a preset
+of it: QUEUE/PRESET. Or a printer&apos;s address, ipp://HOST/ipp/print,
+which needs no print server. Otherwise your default queue, or else the
+built-in printer</source>
+        <translation>eine Druckerwarteschlange oder „built-in“ für den eingebauten Drucker;
+mit einer Voreinstellung davon: QUEUE/VOREINSTELLUNG. Oder die Adresse
+eines Druckers, ipp://HOST/ipp/print, ohne Druckserver. Sonst Ihre
+Standardwarteschlange oder der eingebaute Drucker</translation>
     </message>
 </context>
 <context>
@@ -2446,6 +2448,10 @@ Beispiele:
     <message>
         <source>no reason given</source>
         <translation>ohne Angabe von Gründen</translation>
+    </message>
+    <message>
+        <source>%1 (job %2) is not printed yet: %3. The printer keeps it; cancel it there.</source>
+        <translation>%1 (Auftrag %2) ist noch nicht gedruckt: %3. Der Drucker behält ihn; nehmen Sie ihn dort zurück.</translation>
     </message>
 </context>
 <context>

@@ -85,14 +85,6 @@
 <context>
     <name>CommandLine</name>
     <message>
-        <source>a print queue, or &quot;built-in&quot; for the built-in printer; with a preset
-of it: QUEUE/PRESET. Otherwise your default queue, or else the
-built-in printer</source>
-        <translation>una cola de impresión, o «built-in» para la impresora integrada; con
-un preajuste suyo: QUEUE/PREAJUSTE. Si no, su cola predeterminada o,
-si no hay, la integrada</translation>
-    </message>
-    <message>
         <source>the built-in printer, with this PPD instead of its own</source>
         <translation>la impresora integrada, con este PPD en lugar del suyo</translation>
     </message>
@@ -305,6 +297,16 @@ Ejemplos:
     <message>
         <source>&quot;%1&quot; is not an option. Give it as KEY=CHOICE.</source>
         <translation>«%1» no es una opción. Indíquela como KEY=CHOICE.</translation>
+    </message>
+    <message>
+        <source>a print queue, or &quot;built-in&quot; for the built-in printer; with a preset
+of it: QUEUE/PRESET. Or a printer&apos;s address, ipp://HOST/ipp/print,
+which needs no print server. Otherwise your default queue, or else the
+built-in printer</source>
+        <translation>una cola de impresión, o «built-in» para la impresora integrada; con
+un preajuste suyo: QUEUE/PREAJUSTE. O la dirección de una impresora,
+ipp://HOST/ipp/print, sin servidor de impresión. Si no, su cola
+predeterminada o, si no hay, la integrada</translation>
     </message>
 </context>
 <context>
@@ -2445,6 +2447,10 @@ Ejemplos:
     <message>
         <source>no reason given</source>
         <translation>sin indicar el motivo</translation>
+    </message>
+    <message>
+        <source>%1 (job %2) is not printed yet: %3. The printer keeps it; cancel it there.</source>
+        <translation>%1 (trabajo %2) no está impreso todavía: %3. La impresora lo conserva; cancélelo en ella.</translation>
     </message>
 </context>
 <context>

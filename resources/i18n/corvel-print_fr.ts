@@ -85,14 +85,6 @@
 <context>
     <name>CommandLine</name>
     <message>
-        <source>a print queue, or &quot;built-in&quot; for the built-in printer; with a preset
-of it: QUEUE/PRESET. Otherwise your default queue, or else the
-built-in printer</source>
-        <translation>une file d’impression, ou «&#x202f;built-in&#x202f;» pour l’imprimante intégrée&#x202f;;
-avec un de ses préréglages&#x202f;: QUEUE/PRÉRÉGLAGE. Sinon votre file
-par défaut, ou à défaut l’imprimante intégrée</translation>
-    </message>
-    <message>
         <source>the built-in printer, with this PPD instead of its own</source>
         <translation>l’imprimante intégrée, avec ce PPD au lieu du sien</translation>
     </message>
@@ -306,6 +298,16 @@ Exemples&#x202f;:
     <message>
         <source>&quot;%1&quot; is not an option. Give it as KEY=CHOICE.</source>
         <translation>«&#xa0;%1&#xa0;» n’est pas une option. Indiquez-la sous la forme KEY=CHOICE.</translation>
+    </message>
+    <message>
+        <source>a print queue, or &quot;built-in&quot; for the built-in printer; with a preset
+of it: QUEUE/PRESET. Or a printer&apos;s address, ipp://HOST/ipp/print,
+which needs no print server. Otherwise your default queue, or else the
+built-in printer</source>
+        <translation>une file d’impression, ou « built-in » pour l’imprimante intégrée ;
+avec un de ses préréglages : QUEUE/PRÉRÉGLAGE. Ou l’adresse d’une
+imprimante, ipp://HOST/ipp/print, sans serveur d’impression. Sinon
+votre file par défaut, ou à défaut l’imprimante intégrée</translation>
     </message>
 </context>
 <context>
@@ -2446,6 +2448,10 @@ Exemples&#x202f;:
     <message>
         <source>no reason given</source>
         <translation>sans raison indiquée</translation>
+    </message>
+    <message>
+        <source>%1 (job %2) is not printed yet: %3. The printer keeps it; cancel it there.</source>
+        <translation>%1 (tâche %2) n’est pas encore imprimée : %3. L’imprimante la garde ; annulez-la sur l’imprimante.</translation>
     </message>
 </context>
 <context>

@@ -85,14 +85,6 @@
 <context>
     <name>CommandLine</name>
     <message>
-        <source>a print queue, or &quot;built-in&quot; for the built-in printer; with a preset
-of it: QUEUE/PRESET. Otherwise your default queue, or else the
-built-in printer</source>
-        <translation>印刷キュー。内蔵プリンターは &quot;built-in&quot;。プリセットを付けるには
-QUEUE/プリセット。省略すると既定のキュー、なければ
-内蔵プリンター</translation>
-    </message>
-    <message>
         <source>the built-in printer, with this PPD instead of its own</source>
         <translation>内蔵プリンターを、この PPD で使う</translation>
     </message>
@@ -305,6 +297,16 @@ Examples:
     <message>
         <source>&quot;%1&quot; is not an option. Give it as KEY=CHOICE.</source>
         <translation>「%1」はオプションではありません。KEY=CHOICE の形で指定してください。</translation>
+    </message>
+    <message>
+        <source>a print queue, or &quot;built-in&quot; for the built-in printer; with a preset
+of it: QUEUE/PRESET. Or a printer&apos;s address, ipp://HOST/ipp/print,
+which needs no print server. Otherwise your default queue, or else the
+built-in printer</source>
+        <translation>印刷キュー。内蔵プリンターは &quot;built-in&quot;。プリセットを付けるには
+QUEUE/プリセット。プリントサーバーを使わない場合はプリンターの
+アドレス ipp://HOST/ipp/print。省略すると既定のキュー、なければ
+内蔵プリンター</translation>
     </message>
 </context>
 <context>
@@ -2444,6 +2446,10 @@ Examples:
     <message>
         <source>no reason given</source>
         <translation>理由は不明</translation>
+    </message>
+    <message>
+        <source>%1 (job %2) is not printed yet: %3. The printer keeps it; cancel it there.</source>
+        <translation>%1（ジョブ %2）はまだ印刷されていません: %3。ジョブはプリンターに残ります。プリンターで取り消してください。</translation>
     </message>
 </context>
 <context>
