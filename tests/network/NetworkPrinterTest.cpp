@@ -130,7 +130,7 @@ private Q_SLOTS:
         QVERIFY(!again.dialog->isReady());
         again.dialog->searchPrinters();
         QVERIFY2(becomesReady(again), qPrintable(again.message()));
-        QVERIFY2(again.message().contains(u"no panels of its own"_s), qPrintable(again.message()));
+        QVERIFY(again.find<QComboBox>(u"MediaType"_s)); // the options are those of the cache
         forgetQueue();
         again.dialog->print();
         QTRY_VERIFY2_WITH_TIMEOUT(again.message().contains(u"Printed"_s), qPrintable(again.message()),
