@@ -7,6 +7,7 @@
 #include "PlainText.h"
 
 #include <QtCore/QCoreApplication>
+#include <QtCore/QDateTime>
 #include <QtCore/QLocale>
 #include <QtCore/QRegularExpression>
 
@@ -65,10 +66,21 @@ QString lengthText(double points)
                       : CustomText::tr("%1 in", "inches").arg(lengthNumber(points));
 }
 
+/// Invalid for anything else.
+QTime timeIn(const CustomParameter &parameter, const QString &value)
+{
+    if (parameter.kind != CustomParameter::Kind::Time)
+        return {};
+    const QTime time = QTime::fromString(value, QStringLiteral("H:m"));
+    return time.isValid() ? time : QTime::fromString(value, QStringLiteral("H:m:s"));
+}
+
 QString valueText(const CustomParameter &parameter, const QString &value)
 {
     if (parameter.kind == CustomParameter::Kind::Points)
         return lengthText(value.toDouble());
+    if (const QTime time = timeIn(parameter, value); time.isValid())
+        return QLocale().toString(time, time.second() == 0 ? QLocale::ShortFormat : QLocale::LongFormat);
     return parameter.isNumber() ? localNumber(value.toDouble(), realDecimals) : plainText(value);
 }
 
@@ -161,6 +173,12 @@ QString customChoice(const QList<CustomParameter> &parameters, const CustomValue
 
 std::optional<QString> customValue(const CustomParameter &parameter, const QString &value)
 {
+    if (parameter.kind == CustomParameter::Kind::Time) {
+        const QTime time = timeIn(parameter, value);
+        if (!time.isValid())
+            return std::nullopt;
+        return time.toString(time.second() == 0 ? QStringLiteral("HH:mm") : QStringLiteral("HH:mm:ss"));
+    }
     if (!parameter.isNumber()) {
         const qsizetype length = value.size();
         const bool isPasscode = parameter.kind == CustomParameter::Kind::Passcode;
@@ -190,6 +208,8 @@ QString allowedText(const CustomParameter &parameter)
     if (parameter.isNumber())
         return CustomText::tr("from %1 to %2")
             .arg(localNumber(parameter.minimum, realDecimals), localNumber(parameter.maximum, realDecimals));
+    if (parameter.kind == CustomParameter::Kind::Time)
+        return CustomText::tr("a time from %1 to %2").arg(QStringLiteral("00:00"), QStringLiteral("23:59"));
     const QString least = QString::number(static_cast<int>(parameter.minimum));
     const QString most = QString::number(static_cast<int>(parameter.maximum));
     if (parameter.kind == CustomParameter::Kind::Passcode)

@@ -49,6 +49,7 @@ struct CustomParameter
         Text,
         Passcode, ///< digits, secret
         Password, ///< a text, secret
+        Time,     ///< of day, "18:30" or "18:30:15"
     };
 
     QString name;

@@ -418,6 +418,10 @@ Standardwarteschlange oder der eingebaute Drucker</translation>
         <comment>inches</comment>
         <translation>Zoll</translation>
     </message>
+    <message>
+        <source>a time from %1 to %2</source>
+        <translation>eine Uhrzeit von %1 bis %2</translation>
+    </message>
 </context>
 <context>
     <name>IppOptions</name>
@@ -2132,6 +2136,171 @@ Standardwarteschlange oder der eingebaute Drucker</translation>
     <message>
         <source>Help</source>
         <translation>Hilfe</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::JobTemplate</name>
+    <message>
+        <source>Account</source>
+        <translation>Konto</translation>
+    </message>
+    <message>
+        <source>Account user</source>
+        <translation>Benutzer des Kontos</translation>
+    </message>
+    <message>
+        <source>Two-sided</source>
+        <translation>Beidseitig</translation>
+    </message>
+    <message>
+        <source>Collate</source>
+        <translation>Sortieren</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Aus</translation>
+    </message>
+    <message>
+        <source>Long edge</source>
+        <translation>Lange Kante</translation>
+    </message>
+    <message>
+        <source>Short edge</source>
+        <translation>Kurze Kante</translation>
+    </message>
+    <message>
+        <source>Page by page</source>
+        <translation>Seite für Seite</translation>
+    </message>
+    <message>
+        <source>Copy by copy</source>
+        <translation>Exemplar für Exemplar</translation>
+    </message>
+    <message>
+        <source>At once</source>
+        <translation>Sofort</translation>
+    </message>
+    <message>
+        <source>When released</source>
+        <translation>Nach Freigabe</translation>
+    </message>
+    <message>
+        <source>During the day</source>
+        <translation>Tagsüber</translation>
+    </message>
+    <message>
+        <source>In the evening</source>
+        <translation>Abends</translation>
+    </message>
+    <message>
+        <source>At night</source>
+        <translation>Nachts</translation>
+    </message>
+    <message>
+        <source>In the second shift</source>
+        <translation>In der zweiten Schicht</translation>
+    </message>
+    <message>
+        <source>In the third shift</source>
+        <translation>In der dritten Schicht</translation>
+    </message>
+    <message>
+        <source>At the weekend</source>
+        <translation>Am Wochenende</translation>
+    </message>
+    <message>
+        <source>When to print</source>
+        <translation>Druckzeitpunkt</translation>
+    </message>
+    <message>
+        <source>At</source>
+        <translation>Um</translation>
+    </message>
+    <message>
+        <source>Priority</source>
+        <translation>Priorität</translation>
+    </message>
+    <message>
+        <source>Low</source>
+        <translation>Niedrig</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>Normal</translation>
+    </message>
+    <message>
+        <source>High</source>
+        <translation>Hoch</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <comment>no banner page</comment>
+        <translation>Keine</translation>
+    </message>
+    <message>
+        <source>Standard</source>
+        <comment>a banner page</comment>
+        <translation>Standard</translation>
+    </message>
+    <message>
+        <source>Form</source>
+        <comment>a banner page</comment>
+        <translation>Formular</translation>
+    </message>
+    <message>
+        <source>Classified</source>
+        <comment>a banner page</comment>
+        <translation>Verschlusssache</translation>
+    </message>
+    <message>
+        <source>Confidential</source>
+        <comment>a banner page</comment>
+        <translation>Vertraulich</translation>
+    </message>
+    <message>
+        <source>Secret</source>
+        <comment>a banner page</comment>
+        <translation>Geheim</translation>
+    </message>
+    <message>
+        <source>Top secret</source>
+        <comment>a banner page</comment>
+        <translation>Streng geheim</translation>
+    </message>
+    <message>
+        <source>Unclassified</source>
+        <comment>a banner page</comment>
+        <translation>Nicht eingestuft</translation>
+    </message>
+    <message>
+        <source>Banner page before</source>
+        <translation>Trennseite davor</translation>
+    </message>
+    <message>
+        <source>Banner page after</source>
+        <translation>Trennseite danach</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <comment>no account</comment>
+        <translation>Keine</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>PIN</source>
+        <translation>PIN</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <comment>no PIN</comment>
+        <translation>Keine</translation>
+    </message>
+    <message>
+        <source>Job</source>
+        <translation>Auftrag</translation>
     </message>
 </context>
 <context>

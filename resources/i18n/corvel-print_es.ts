@@ -417,6 +417,10 @@ predeterminada o, si no hay, la integrada</translation>
         <comment>inches</comment>
         <translation>pulg.</translation>
     </message>
+    <message>
+        <source>a time from %1 to %2</source>
+        <translation>una hora de %1 a %2</translation>
+    </message>
 </context>
 <context>
     <name>IppOptions</name>
@@ -2131,6 +2135,171 @@ predeterminada o, si no hay, la integrada</translation>
     <message>
         <source>Help</source>
         <translation>Ayuda</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::JobTemplate</name>
+    <message>
+        <source>Account</source>
+        <translation>Cuenta</translation>
+    </message>
+    <message>
+        <source>Account user</source>
+        <translation>Usuario de la cuenta</translation>
+    </message>
+    <message>
+        <source>Two-sided</source>
+        <translation>Doble cara</translation>
+    </message>
+    <message>
+        <source>Collate</source>
+        <translation>Intercalar</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Desactivado</translation>
+    </message>
+    <message>
+        <source>Long edge</source>
+        <translation>Borde largo</translation>
+    </message>
+    <message>
+        <source>Short edge</source>
+        <translation>Borde corto</translation>
+    </message>
+    <message>
+        <source>Page by page</source>
+        <translation>Página por página</translation>
+    </message>
+    <message>
+        <source>Copy by copy</source>
+        <translation>Copia por copia</translation>
+    </message>
+    <message>
+        <source>At once</source>
+        <translation>De inmediato</translation>
+    </message>
+    <message>
+        <source>When released</source>
+        <translation>Al liberarlo</translation>
+    </message>
+    <message>
+        <source>During the day</source>
+        <translation>Durante el día</translation>
+    </message>
+    <message>
+        <source>In the evening</source>
+        <translation>Por la tarde</translation>
+    </message>
+    <message>
+        <source>At night</source>
+        <translation>Por la noche</translation>
+    </message>
+    <message>
+        <source>In the second shift</source>
+        <translation>En el segundo turno</translation>
+    </message>
+    <message>
+        <source>In the third shift</source>
+        <translation>En el tercer turno</translation>
+    </message>
+    <message>
+        <source>At the weekend</source>
+        <translation>El fin de semana</translation>
+    </message>
+    <message>
+        <source>When to print</source>
+        <translation>Cuándo imprimir</translation>
+    </message>
+    <message>
+        <source>At</source>
+        <translation>A las</translation>
+    </message>
+    <message>
+        <source>Priority</source>
+        <translation>Prioridad</translation>
+    </message>
+    <message>
+        <source>Low</source>
+        <translation>Baja</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>Normal</translation>
+    </message>
+    <message>
+        <source>High</source>
+        <translation>Alta</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <comment>no banner page</comment>
+        <translation>Ninguno</translation>
+    </message>
+    <message>
+        <source>Standard</source>
+        <comment>a banner page</comment>
+        <translation>Estándar</translation>
+    </message>
+    <message>
+        <source>Form</source>
+        <comment>a banner page</comment>
+        <translation>Formulario</translation>
+    </message>
+    <message>
+        <source>Classified</source>
+        <comment>a banner page</comment>
+        <translation>Clasificado</translation>
+    </message>
+    <message>
+        <source>Confidential</source>
+        <comment>a banner page</comment>
+        <translation>Confidencial</translation>
+    </message>
+    <message>
+        <source>Secret</source>
+        <comment>a banner page</comment>
+        <translation>Secreto</translation>
+    </message>
+    <message>
+        <source>Top secret</source>
+        <comment>a banner page</comment>
+        <translation>Alto secreto</translation>
+    </message>
+    <message>
+        <source>Unclassified</source>
+        <comment>a banner page</comment>
+        <translation>Sin clasificar</translation>
+    </message>
+    <message>
+        <source>Banner page before</source>
+        <translation>Página de portada antes</translation>
+    </message>
+    <message>
+        <source>Banner page after</source>
+        <translation>Página de portada después</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <comment>no account</comment>
+        <translation>Ninguno</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nombre</translation>
+    </message>
+    <message>
+        <source>PIN</source>
+        <translation>PIN</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <comment>no PIN</comment>
+        <translation>Ninguno</translation>
+    </message>
+    <message>
+        <source>Job</source>
+        <translation>Trabajo</translation>
     </message>
 </context>
 <context>

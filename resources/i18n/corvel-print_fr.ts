@@ -304,8 +304,8 @@ Exemples&#x202f;:
 of it: QUEUE/PRESET. Or a printer&apos;s address, ipp://HOST/ipp/print,
 which needs no print server. Otherwise your default queue, or else the
 built-in printer</source>
-        <translation>une file d’impression, ou « built-in » pour l’imprimante intégrée ;
-avec un de ses préréglages : QUEUE/PRÉRÉGLAGE. Ou l’adresse d’une
+        <translation>une file d’impression, ou «&#x202f;built-in&#x202f;» pour l’imprimante intégrée&#x202f;;
+avec un de ses préréglages&#x202f;: QUEUE/PRÉRÉGLAGE. Ou l’adresse d’une
 imprimante, ipp://HOST/ipp/print, sans serveur d’impression. Sinon
 votre file par défaut, ou à défaut l’imprimante intégrée</translation>
     </message>
@@ -417,6 +417,10 @@ votre file par défaut, ou à défaut l’imprimante intégrée</translation>
         <source>in</source>
         <comment>inches</comment>
         <translation>po</translation>
+    </message>
+    <message>
+        <source>a time from %1 to %2</source>
+        <translation>une heure de %1 à %2</translation>
     </message>
 </context>
 <context>
@@ -2135,6 +2139,171 @@ votre file par défaut, ou à défaut l’imprimante intégrée</translation>
     </message>
 </context>
 <context>
+    <name>printdialog::JobTemplate</name>
+    <message>
+        <source>Account</source>
+        <translation>Compte</translation>
+    </message>
+    <message>
+        <source>Account user</source>
+        <translation>Utilisateur du compte</translation>
+    </message>
+    <message>
+        <source>Two-sided</source>
+        <translation>Recto verso</translation>
+    </message>
+    <message>
+        <source>Collate</source>
+        <translation>Assembler</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Désactivé</translation>
+    </message>
+    <message>
+        <source>Long edge</source>
+        <translation>Bord long</translation>
+    </message>
+    <message>
+        <source>Short edge</source>
+        <translation>Bord court</translation>
+    </message>
+    <message>
+        <source>Page by page</source>
+        <translation>Page par page</translation>
+    </message>
+    <message>
+        <source>Copy by copy</source>
+        <translation>Copie par copie</translation>
+    </message>
+    <message>
+        <source>At once</source>
+        <translation>Immédiatement</translation>
+    </message>
+    <message>
+        <source>When released</source>
+        <translation>Une fois libérée</translation>
+    </message>
+    <message>
+        <source>During the day</source>
+        <translation>Pendant la journée</translation>
+    </message>
+    <message>
+        <source>In the evening</source>
+        <translation>En soirée</translation>
+    </message>
+    <message>
+        <source>At night</source>
+        <translation>La nuit</translation>
+    </message>
+    <message>
+        <source>In the second shift</source>
+        <translation>Pendant la deuxième équipe</translation>
+    </message>
+    <message>
+        <source>In the third shift</source>
+        <translation>Pendant la troisième équipe</translation>
+    </message>
+    <message>
+        <source>At the weekend</source>
+        <translation>Le week-end</translation>
+    </message>
+    <message>
+        <source>When to print</source>
+        <translation>Moment de l’impression</translation>
+    </message>
+    <message>
+        <source>At</source>
+        <translation>À</translation>
+    </message>
+    <message>
+        <source>Priority</source>
+        <translation>Priorité</translation>
+    </message>
+    <message>
+        <source>Low</source>
+        <translation>Basse</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>Normale</translation>
+    </message>
+    <message>
+        <source>High</source>
+        <translation>Élevée</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <comment>no banner page</comment>
+        <translation>Aucune</translation>
+    </message>
+    <message>
+        <source>Standard</source>
+        <comment>a banner page</comment>
+        <translation>Standard</translation>
+    </message>
+    <message>
+        <source>Form</source>
+        <comment>a banner page</comment>
+        <translation>Formulaire</translation>
+    </message>
+    <message>
+        <source>Classified</source>
+        <comment>a banner page</comment>
+        <translation>Classifié</translation>
+    </message>
+    <message>
+        <source>Confidential</source>
+        <comment>a banner page</comment>
+        <translation>Confidentiel</translation>
+    </message>
+    <message>
+        <source>Secret</source>
+        <comment>a banner page</comment>
+        <translation>Secret</translation>
+    </message>
+    <message>
+        <source>Top secret</source>
+        <comment>a banner page</comment>
+        <translation>Très secret</translation>
+    </message>
+    <message>
+        <source>Unclassified</source>
+        <comment>a banner page</comment>
+        <translation>Non classifié</translation>
+    </message>
+    <message>
+        <source>Banner page before</source>
+        <translation>Page de garde avant</translation>
+    </message>
+    <message>
+        <source>Banner page after</source>
+        <translation>Page de garde après</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <comment>no account</comment>
+        <translation>Aucune</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nom</translation>
+    </message>
+    <message>
+        <source>PIN</source>
+        <translation>Code PIN</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <comment>no PIN</comment>
+        <translation>Aucune</translation>
+    </message>
+    <message>
+        <source>Job</source>
+        <translation>Tâche</translation>
+    </message>
+</context>
+<context>
     <name>printdialog::MessageBar</name>
     <message>
         <source>Open Folder</source>
@@ -2451,7 +2620,7 @@ votre file par défaut, ou à défaut l’imprimante intégrée</translation>
     </message>
     <message>
         <source>%1 (job %2) is not printed yet: %3. The printer keeps it; cancel it there.</source>
-        <translation>%1 (tâche %2) n’est pas encore imprimée : %3. L’imprimante la garde ; annulez-la sur l’imprimante.</translation>
+        <translation>%1 (tâche %2) n’est pas encore imprimée&#x202f;: %3. L’imprimante la garde&#x202f;; annulez-la sur l’imprimante.</translation>
     </message>
 </context>
 <context>

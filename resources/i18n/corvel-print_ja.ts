@@ -416,6 +416,10 @@ QUEUE/プリセット。プリントサーバーを使わない場合はプリ�
         <comment>inches</comment>
         <translation>インチ</translation>
     </message>
+    <message>
+        <source>a time from %1 to %2</source>
+        <translation>%1～%2の時刻</translation>
+    </message>
 </context>
 <context>
     <name>IppOptions</name>
@@ -2130,6 +2134,171 @@ QUEUE/プリセット。プリントサーバーを使わない場合はプリ�
     <message>
         <source>Help</source>
         <translation>ヘルプ</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::JobTemplate</name>
+    <message>
+        <source>Account</source>
+        <translation>アカウント</translation>
+    </message>
+    <message>
+        <source>Account user</source>
+        <translation>アカウントのユーザー</translation>
+    </message>
+    <message>
+        <source>Two-sided</source>
+        <translation>両面</translation>
+    </message>
+    <message>
+        <source>Collate</source>
+        <translation>部単位の順序</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>オフ</translation>
+    </message>
+    <message>
+        <source>Long edge</source>
+        <translation>長辺とじ</translation>
+    </message>
+    <message>
+        <source>Short edge</source>
+        <translation>短辺とじ</translation>
+    </message>
+    <message>
+        <source>Page by page</source>
+        <translation>ページごと</translation>
+    </message>
+    <message>
+        <source>Copy by copy</source>
+        <translation>部ごと</translation>
+    </message>
+    <message>
+        <source>At once</source>
+        <translation>すぐに</translation>
+    </message>
+    <message>
+        <source>When released</source>
+        <translation>保留を解除したとき</translation>
+    </message>
+    <message>
+        <source>During the day</source>
+        <translation>日中</translation>
+    </message>
+    <message>
+        <source>In the evening</source>
+        <translation>夕方以降</translation>
+    </message>
+    <message>
+        <source>At night</source>
+        <translation>夜間</translation>
+    </message>
+    <message>
+        <source>In the second shift</source>
+        <translation>第2シフト</translation>
+    </message>
+    <message>
+        <source>In the third shift</source>
+        <translation>第3シフト</translation>
+    </message>
+    <message>
+        <source>At the weekend</source>
+        <translation>週末</translation>
+    </message>
+    <message>
+        <source>When to print</source>
+        <translation>印刷するとき</translation>
+    </message>
+    <message>
+        <source>At</source>
+        <translation>時刻</translation>
+    </message>
+    <message>
+        <source>Priority</source>
+        <translation>優先度</translation>
+    </message>
+    <message>
+        <source>Low</source>
+        <translation>低</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>標準</translation>
+    </message>
+    <message>
+        <source>High</source>
+        <translation>高品質</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <comment>no banner page</comment>
+        <translation>なし</translation>
+    </message>
+    <message>
+        <source>Standard</source>
+        <comment>a banner page</comment>
+        <translation>標準</translation>
+    </message>
+    <message>
+        <source>Form</source>
+        <comment>a banner page</comment>
+        <translation>フォーム</translation>
+    </message>
+    <message>
+        <source>Classified</source>
+        <comment>a banner page</comment>
+        <translation>機密扱い</translation>
+    </message>
+    <message>
+        <source>Confidential</source>
+        <comment>a banner page</comment>
+        <translation>社外秘</translation>
+    </message>
+    <message>
+        <source>Secret</source>
+        <comment>a banner page</comment>
+        <translation>秘</translation>
+    </message>
+    <message>
+        <source>Top secret</source>
+        <comment>a banner page</comment>
+        <translation>極秘</translation>
+    </message>
+    <message>
+        <source>Unclassified</source>
+        <comment>a banner page</comment>
+        <translation>機密指定なし</translation>
+    </message>
+    <message>
+        <source>Banner page before</source>
+        <translation>前のバナーページ</translation>
+    </message>
+    <message>
+        <source>Banner page after</source>
+        <translation>後のバナーページ</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <comment>no account</comment>
+        <translation>なし</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>名前</translation>
+    </message>
+    <message>
+        <source>PIN</source>
+        <translation>暗証番号</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <comment>no PIN</comment>
+        <translation>なし</translation>
+    </message>
+    <message>
+        <source>Job</source>
+        <translation>ジョブ</translation>
     </message>
 </context>
 <context>
