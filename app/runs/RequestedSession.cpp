@@ -5,6 +5,7 @@
 
 #include "AnnouncedPrinters.h"
 #include "Console.h"
+#include "JobTemplate.h"
 #include "PpdCheck.h"
 #include "PresetStore.h"
 #include "PrinterLister.h"
@@ -14,6 +15,8 @@
 #include "UserDestinations.h"
 
 #include <QtCore/QCoreApplication>
+
+#include <algorithm>
 
 using namespace std::chrono_literals;
 
@@ -161,10 +164,13 @@ Result<RequestedSession, std::monostate> openRequestedSession(const CommandLine 
         requested.leftOut += failure->text;
     }
     const PrinterDescription &printer = requested.session->printer();
-    if (printer.isRaw && !commandLine.options.isEmpty())
+    const auto foreign = std::ranges::find_if(commandLine.options, [](const RequestedChoice &choice) {
+        return !JobTemplate::isJobOption(choice.key);
+    });
+    if (printer.isRaw && foreign != commandLine.options.cend())
         return refusal(SessionText::tr("The printer \"%1\" has no PPD file and so no option %2. Leave it "
                                        "out, or set the printer up with its driver.")
-                           .arg(printer.destination.id(), commandLine.options.constFirst().key));
+                           .arg(printer.destination.id(), foreign->key));
     if (const QString failure =
             makeFirstChoices(requested, destinationOf(commandLine).value_or(Destination()));
         !failure.isEmpty())

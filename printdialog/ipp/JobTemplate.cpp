@@ -14,13 +14,13 @@ using namespace job_options;
 
 namespace {
 
-constexpr int longestName = 255; // bytes in IPP
+constexpr int longestValue = 255; // bytes in IPP
 
 /// For keywords without a text here: "second-shift" reads "second shift".
 QString readable(const QString &keyword)
 {
-    constexpr qsizetype shownText = 200;
-    return plainText(QString(keyword).replace(u'-', u' '), shownText);
+    constexpr qsizetype longestShown = 200;
+    return plainText(QString(keyword).replace(u'-', u' '), longestShown);
 }
 
 /// IPP leaves a job's time to the server's own keywords; CUPS takes a time of day as well.
@@ -175,7 +175,7 @@ void JobTemplate::addAccount(const IppAttributes &printer, const QString &attrib
     const QString preset = printer.text(attribute + QLatin1String("-default")).value_or(noValue);
     add(attribute, {text,
                     {{noValue, tr("None", "no account")}},
-                    {{QStringLiteral("name"), tr("Name"), CustomParameter::Kind::Text, 1, longestName}},
+                    {{QStringLiteral("name"), tr("Name"), CustomParameter::Kind::Text, 1, longestValue}},
                     choicesOf({{attribute, preset}}).value(attribute)});
 }
 
@@ -193,7 +193,7 @@ void JobTemplate::addPassword(const IppAttributes &printer)
                    {{noValue, tr("None", "no PIN")}},
                    {{QStringLiteral("pin"), tr("PIN"),
                      isText ? CustomParameter::Kind::Password : CustomParameter::Kind::Passcode, 1,
-                     static_cast<double>(std::min(longest, longestName))}},
+                     static_cast<double>(std::min(longest, longestValue))}},
                    noValue});
 }
 

@@ -5,6 +5,7 @@
 
 #include "CupsConnection.h"
 #include "JobFollowing.h"
+#include "JobTemplate.h"
 #include "OptionsFetcher.h"
 #include "PlainText.h"
 #include "QueueRecord.h"
@@ -27,7 +28,8 @@ constexpr qsizetype keywordLimit = 255; // bytes in IPP's keywords
 constexpr qsizetype valueLimit = 255;   // bytes in IPP's names
 constexpr qsizetype titleLimit = 120;
 constexpr int copiesLimit = 9999;
-constexpr auto printerLimit = 10s; // for a printer on the network to answer
+constexpr auto printerLimit = 10s;                             // for a printer on the network to answer
+const QString passwordOption = QStringLiteral("job-password"); // not one of the job's own attributes
 
 struct Text
 {
@@ -52,6 +54,11 @@ bool isKeyword(const QString &text)
 /// "Edge=false".
 void addOption(ipp_t *request, const QByteArray &keyword, const QByteArray &value)
 {
+    // Two names, which libcups separates.
+    if (keyword == "job-sheets") {
+        cupsEncodeOption(request, IPP_TAG_JOB, keyword.constData(), value.constData());
+        return;
+    }
     const IppPointer probe(ippNew());
     ipp_attribute_t *known = cupsEncodeOption(probe.get(), IPP_TAG_JOB, keyword.constData(), "x");
     if (known && ippGetValueTag(known) != IPP_TAG_NAME)
@@ -106,13 +113,23 @@ private:
                      plainText(document.name, titleLimit).toUtf8().constData());
         ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_MIMETYPE, "document-format", nullptr,
                      document.mimeType.constData());
-        ippAddInteger(request.get(), IPP_TAG_JOB, IPP_TAG_INTEGER, "copies", job.copies);
-        if (job.ipp) {
-            attributesFor(job, document).addToJob(request.get());
-            return request;
+        if (const QByteArray password = job.secrets.value(passwordOption).toUtf8(); !password.isEmpty()) {
+            ippAddOctetString(request.get(), IPP_TAG_OPERATION, "job-password", password.constData(),
+                              static_cast<int>(password.size()));
+            ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "job-password-encryption",
+                         nullptr, "none");
         }
-        for (auto option = job.options.cbegin(); option != job.options.cend(); ++option)
-            addOption(request.get(), option.key().toUtf8(), option.value().toUtf8());
+        ippAddInteger(request.get(), IPP_TAG_JOB, IPP_TAG_INTEGER, "copies", job.copies);
+        const IppAttributes attributes = job.ipp ? attributesFor(job, document) : IppAttributes();
+        attributes.addToJob(request.get());
+        for (const auto &options : {job.options, job.secrets}) {
+            for (auto option = options.cbegin(); option != options.cend(); ++option) {
+                // Those of a printer without a PPD are its attributes; what is left are options of the job.
+                const bool isAttribute = job.ipp && !JobTemplate::isJobOption(option.key());
+                if (option.key() != passwordOption && !isAttribute && !attributes.contains(option.key()))
+                    addOption(request.get(), option.key().toUtf8(), option.value().toUtf8());
+            }
+        }
         return request;
     }
 

@@ -26,6 +26,7 @@ struct PrintJob
     OutputFolder folder; ///< Only for the built-in printer.
     PageGeometry page;
     QMap<QString, QString> options; ///< Option keyword to choice keyword, both the PPD's; not "copies".
+    QMap<QString, QString> secrets; ///< Like `options`, and only sent: never shown, stored or logged.
     QMap<QString, QString> summary; ///< Shown to people: label to text.
     int copies = 1;                 ///< From 1 to mostCopies.
     /// The PPD that the options were chosen from: nothing is sent to a queue whose PPD has changed since.

@@ -94,6 +94,14 @@ void ChosenOptions::keep(const QStringList &keys)
         noteChosen(key);
 }
 
+void ChosenOptions::include(const QStringList &keys)
+{
+    for (const QString &key : keys) {
+        if (const auto choice = canonical(key))
+            choices_.insert(key, *choice);
+    }
+}
+
 void ChosenOptions::forget(const QStringList &keys)
 {
     for (const QString &key : keys)

@@ -65,6 +65,8 @@ public:
     /// Counts these options as chosen, whether their choices have changed or not: they are printed with even
     /// if the print server has another default.
     void keep(const QStringList &keys);
+    /// Notes options that the source has only now, without a signal.
+    void include(const QStringList &keys);
     /// Drops these options from chosenKeys(), since their panel is lost. Their choices stay.
     void forget(const QStringList &keys);
 

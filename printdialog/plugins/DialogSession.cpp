@@ -6,15 +6,30 @@
 #include "ActionGuard.h"
 #include "CallbackObject.h"
 #include "GuardedPanel.h"
+#include "JobTemplate.h"
+#include "JoinedOptions.h"
 #include "OptionPage.h"
+#include "PpdDocument.h"
 
 #include <utility>
 
 namespace printdialog {
 
+namespace {
+
+SessionOptions joined(SessionOptions options)
+{
+    auto job = JobTemplate::besides(*options.source, options.attributes);
+    options.source = std::make_unique<JoinedOptions>(std::move(options.source), std::move(job));
+    return options;
+}
+
+} // namespace
+
 DialogSession::DialogSession(const PrinterDescription &printer, SessionOptions options, PanelMode mode)
     : printer_(printer)
-    , options_(std::move(options))
+    , options_(joined(std::move(options)))
+    , joined_(static_cast<JoinedOptions &>(*options_.source))
     , mode_(mode)
     , chosen_(*options_.source, mode)
     , sessionPrinter_(printer, options_.ppd)
@@ -82,6 +97,20 @@ void DialogSession::restore(const QList<GuardedPanel *> &panels)
 }
 
 Ruling DialogSession::choose(const QString &key, const QString &choice)
+{
+    const QMap<QString, QString> spelled = spelledHere({{key, choice}});
+    if (spelled.isEmpty())
+        return chooseOne(key, choice);
+    Ruling ruling;
+    for (auto entry = spelled.cbegin(); entry != spelled.cend(); ++entry) {
+        ruling = chooseOne(entry.key(), *entry);
+        if (ruling.verdict != Verdict::Accepted)
+            break;
+    }
+    return ruling;
+}
+
+Ruling DialogSession::chooseOne(const QString &key, const QString &choice)
 {
     const bool isSecretChoice = isCustomChoice(choice) && isSecret(options_.source->customParameters(key));
     const Ruling ruling = isSecretChoice ? keepSecret(key, choice) : chosen_.weigh(key, choice);
@@ -194,6 +223,9 @@ QStringList DialogSession::jobKeys() const
         if (!panel || panel->missing().isEmpty())
             keys += key;
     }
+    const QStringList alone = keys;
+    for (const QString &key : alone)
+        keys += JobTemplate::sentTogether(key);
     keys.removeDuplicates();
     return keys;
 }
@@ -221,8 +253,10 @@ Result<JobOptions, Verdict> DialogSession::jobOptions()
         const std::optional<QString> choice = options_.source->markedChoice(key);
         const QList<CustomParameter> parameters = options_.source->customParameters(key);
         if (choice && *choice == QLatin1String("Custom") && isSecret(parameters)) {
-            if (secrets_.contains(key))
-                job.secrets.insert(key, customChoice(parameters, secrets_.value(key)));
+            const CustomValues values = secrets_.value(key);
+            if (!values.isEmpty())
+                job.secrets.insert(key, JobTemplate::isJobOption(key) ? values.first()
+                                                                      : customChoice(parameters, values));
             else
                 job.missing += tr("The option \"%1\" lacks what has to be entered for it.")
                                    .arg(options_.source->optionText(key));
@@ -230,6 +264,7 @@ Result<JobOptions, Verdict> DialogSession::jobOptions()
             job.options.insert(key, *choice);
         }
     }
+    job.options = JobTemplate::sent(job.options);
     return job;
 }
 

@@ -20,6 +20,7 @@ namespace printdialog {
 
 class GuardedPanel;
 class IppOptions;
+class JoinedOptions;
 class OptionPage;
 class PpdDocument;
 using GuardedPanels = std::vector<std::unique_ptr<GuardedPanel>>;
@@ -36,7 +37,9 @@ struct SessionOptions
 /// The options sent with a job.
 struct JobOptions
 {
-    QMap<QString, QString> options; ///< option keyword to choice keyword, both the PPD's
+    /// Option keyword to choice keyword, both the printer's; options of the job as JobTemplate::sent() spells
+    /// them.
+    QMap<QString, QString> options;
     /// Custom choices with secret values, such as a PIN, which are only sent: never stored, shown or logged.
     QMap<QString, QString> secrets;
     QStringList dropped; ///< a sentence for each recorded choice that the PPD does not have
@@ -61,6 +64,11 @@ public:
     const IppAttributes &attributes() const { return options_.attributes; }
     /// Null for a printer that does not describe itself by its attributes.
     const IppOptions *ipp() const { return options_.ipp; }
+    /// Call when they are known after the session was opened. The job's options get what is supported now;
+    /// choices stay as far as they still exist, and no change is signalled.
+    void setAttributes(const IppAttributes &attributes);
+    /// The options of the job, whatever the printer (see JobTemplate); the others are the printer's.
+    const QStringList &jobOptionKeys() const;
     PanelMode mode() const { return mode_; }
 
     /// Loads the panels that the PPD requests, and restores them; then the dialog's own page for the options
@@ -79,8 +87,8 @@ public:
 
     /// Makes a choice as the user would: through the panel that shows the option, or else directly. Secret
     /// values in a custom choice are kept apart from the choices.
-    /// `choice` may be any text that stands for one of the option's choices. A refused choice changes
-    /// nothing.
+    /// `choice` may be any text that stands for one of the option's choices, also as JobTemplate::sent()
+    /// spells it. A refused choice changes nothing.
     Ruling choose(const QString &key, const QString &choice);
 
     /// How options are treated that a set of saved choices does not name.
@@ -89,8 +97,9 @@ public:
         Default, ///< they get the PPD's default, as when CUPS prints with the set
     };
 
-    /// Makes saved choices, as far as the PPD still has them and allows them together. Returns a ruling for
-    /// each one left out. The panels show the choices.
+    /// Makes saved choices, as far as the printer still has them and allows them together. Returns a ruling
+    /// for each one left out. Options of the job that are not known yet are left out without one. The panels
+    /// show the choices.
     QList<Ruling> restoreChoices(const QMap<QString, QString> &choices, Unnamed unnamed = Unnamed::Kept);
 
     /// Makes choices together even if they conflict, through the panels that support them; the panels show
@@ -142,6 +151,8 @@ private:
     QList<GuardedPanel *> reportChanges(const QString &askedKey, const GuardedPanel *asker);
     Ruling keepSecret(const QString &key, const QString &choice);
     static void restore(const QList<GuardedPanel *> &panels);
+    Ruling chooseOne(const QString &key, const QString &choice);
+    QMap<QString, QString> spelledHere(const QMap<QString, QString> &choices) const;
     Ruling chooseThroughPanel(GuardedPanel &panel, const Ruling &offered);
     Ruling chooseDirectly(const Ruling &offered);
     QStringList jobKeys() const;
@@ -149,6 +160,7 @@ private:
 
     PrinterDescription printer_;
     SessionOptions options_;
+    JoinedOptions &joined_; ///< is options_.source
     PanelMode mode_;
     ChosenOptions chosen_;
     SessionPrinter sessionPrinter_;

@@ -4,6 +4,8 @@
 #include "DialogSession.h"
 
 #include "GuardedPanel.h"
+#include "JobTemplate.h"
+#include "JoinedOptions.h"
 
 #include <algorithm>
 #include <utility>
@@ -20,8 +22,37 @@ void DialogSession::chooseTogether(const QMap<QString, QString> &choices)
         panel->restore();
 }
 
-QList<Ruling> DialogSession::restoreChoices(const QMap<QString, QString> &choices, Unnamed unnamed)
+/// With the job's options in the spelling that they have here.
+QMap<QString, QString> DialogSession::spelledHere(const QMap<QString, QString> &choices) const
 {
+    QMap<QString, QString> spelled;
+    for (auto entry = choices.cbegin(); entry != choices.cend(); ++entry) {
+        const QMap<QString, QString> each = JobTemplate::choicesOf({{entry.key(), *entry}});
+        const bool isKnown =
+            std::ranges::all_of(each.keys(), [this](const QString &key) { return joined_.hasOption(key); });
+        if (isKnown)
+            spelled.insert(each);
+        else if (!options_.attributes.isEmpty() || !JobTemplate::isJobOption(entry.key()))
+            spelled.insert(entry.key(), *entry);
+    }
+    return spelled;
+}
+
+void DialogSession::setAttributes(const IppAttributes &attributes)
+{
+    options_.attributes = attributes;
+    joined_.setJob(JobTemplate::besides(joined_, attributes));
+    chosen_.include(joined_.jobOptions());
+}
+
+const QStringList &DialogSession::jobOptionKeys() const
+{
+    return joined_.jobOptions();
+}
+
+QList<Ruling> DialogSession::restoreChoices(const QMap<QString, QString> &saved, Unnamed unnamed)
+{
+    const QMap<QString, QString> choices = spelledHere(saved);
     savePanels();
     QMap<QString, QString> base = chosen_.choices();
     QMap<QString, QString> made;

@@ -83,14 +83,14 @@ SessionResult openWithoutPpd(const Queue &queue, const IppAttributes &attributes
 {
     auto options = IppOptions::of(attributes);
     if (!options)
-        return openRawQueue(queue, mode);
+        return openRawQueue(queue, mode, attributes);
     auto source = std::make_unique<IppOptions>(*std::move(options));
     IppOptions *borrowed = source.get();
-    return std::make_unique<DialogSession>(describe(queue),
-                                           SessionOptions{std::move(source), nullptr, {}, borrowed}, mode);
+    return std::make_unique<DialogSession>(
+        describe(queue), SessionOptions{std::move(source), nullptr, attributes, borrowed}, mode);
 }
 
-SessionResult openRawQueue(const Queue &queue, PanelMode mode)
+SessionResult openRawQueue(const Queue &queue, PanelMode mode, const IppAttributes &attributes)
 {
     auto ppd = openTrusted(standIn(), queue.id());
     if (!ppd)
@@ -98,7 +98,8 @@ SessionResult openRawQueue(const Queue &queue, PanelMode mode)
     PrinterDescription printer = describe(queue);
     printer.isRaw = true;
     return std::make_unique<DialogSession>(
-        printer, SessionOptions{std::make_unique<PpdDocument>(*std::move(ppd)), nullptr, {}, nullptr}, mode);
+        printer, SessionOptions{std::make_unique<PpdDocument>(*std::move(ppd)), nullptr, attributes, nullptr},
+        mode);
 }
 
 } // namespace printdialog

@@ -24,8 +24,8 @@ SessionResult openQueue(const Queue &queue, const CheckedPpd &ppd, PanelMode mod
 /// not say what it can print on, opens it as a raw queue.
 SessionResult openWithoutPpd(const Queue &queue, const IppAttributes &attributes, PanelMode mode);
 
-/// Opens a session for a queue without a PPD. It has no options and no panels, and one page size, which
-/// stands for the one set at the printer.
-SessionResult openRawQueue(const Queue &queue, PanelMode mode);
+/// Opens a session for a queue without a PPD. It has no options but those of the job, no panels, and one page
+/// size, which stands for the one set at the printer.
+SessionResult openRawQueue(const Queue &queue, PanelMode mode, const IppAttributes &attributes = {});
 
 } // namespace printdialog

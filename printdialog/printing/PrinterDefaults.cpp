@@ -6,6 +6,7 @@
 #include "DialogSession.h"
 #include "JobChoices.h"
 #include "JobDefaults.h"
+#include "JobTemplate.h"
 #include "PpdDocument.h"
 #include "PresetStore.h"
 #include "StoredChoices.h"
@@ -68,6 +69,8 @@ QMap<QString, QString> choicesOfLp(const DialogSession &session, const QMap<QStr
     QMap<QString, QString> job;
     const QMap<QString, QString> ofServer = jobDefaults(session.attributes());
     for (auto option = ofServer.cbegin(); option != ofServer.cend(); ++option) {
+        if (session.jobOptionKeys().contains(option.key()))
+            continue; // has this default already
         if (!options.key(option.key()).isEmpty() || isMappedByCups(option.key()))
             job.insert(option.key(), *option);
     }
@@ -90,7 +93,7 @@ QMap<QString, QString> choicesOfLp(const DialogSession &session, const QMap<QStr
         else if (!isMappedByCups(option.key()))
             choices.insert(option.key(), *option);
     }
-    return choices;
+    return JobTemplate::choicesOf(choices);
 }
 
 QMap<QString, QString> printerDefaults(const DialogSession &session)

@@ -34,8 +34,10 @@ Result<SessionJob, SessionJobFault> jobOf(DialogSession &session, int copies)
     if (printer.isAnnounced)
         job.announcedUri = printer.deviceUri;
     job.ppd = QByteArray();
-    if (!printer.isRaw)
-        job.options = options->options;
+    job.options = options->options;
+    job.secrets = options->secrets;
+    if (printer.isRaw)
+        job.options.remove(source.pageSizeKey()); // of a page that stands for the one set at the printer
     if (const PpdDocument *ppd = session.ppd()) {
         job.ppd = ppd->data();
         job.directTypes = typesPassedThrough(*ppd);

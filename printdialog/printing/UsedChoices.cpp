@@ -4,6 +4,7 @@
 #include "UsedChoices.h"
 
 #include "ChoiceExplanation.h"
+#include "JobTemplate.h"
 #include "PlainText.h"
 #include "PresetStore.h"
 #include "PrintJob.h"
@@ -26,8 +27,11 @@ UsedChoices useChoices(DialogSession &session, QMap<QString, QString> choices, D
     else if (!text.isNull())
         used.leftOut += QCoreApplication::translate("UsedChoices", "\"%1\" is not a number of copies.")
                             .arg(plainText(text, longestNumber));
-    const bool changesNothing = choices.isEmpty() && unnamed == DialogSession::Unnamed::Kept;
-    if (changesNothing || session.printer().isRaw)
+    if (session.printer().isRaw)
+        choices.removeIf([&session](const auto &choice) {
+            return choice.key() == session.options().pageSizeKey() || !JobTemplate::isJobOption(choice.key());
+        });
+    if (choices.isEmpty() && unnamed == DialogSession::Unnamed::Kept)
         return used;
     const auto rulings = session.restoreChoices(choices, unnamed);
     for (const Ruling &ruling : rulings)

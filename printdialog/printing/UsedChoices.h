@@ -22,7 +22,7 @@ struct UsedChoices
 };
 
 /// Makes saved choices (including "copies", see StoredChoices.h) in a session whose panels are loaded. For a
-/// printer without a PPD, only the copies apply.
+/// printer without a PPD, only the copies and the options of the job apply.
 UsedChoices useChoices(DialogSession &session, QMap<QString, QString> choices,
                        DialogSession::Unnamed unnamed = DialogSession::Unnamed::Kept);
 
