@@ -27,6 +27,7 @@ namespace printdialog {
 class CheckedPpd;
 class ChoiceController;
 class DialogSession;
+class IppAttributes;
 class PrinterController;
 class PrintingController;
 
@@ -99,6 +100,7 @@ private:
     void showFolder(bool isBuiltIn);
     void closeSession();
     void showSession();
+    void useAttributes(const IppAttributes &attributes);
     void showReplacement(const QMap<QString, QString> &choices);
     void showPanelFailure(const QString &sentence);
     bool applyOptions();

@@ -27,6 +27,7 @@ void PrintDialog::followPrinter()
     connect(printer_.get(), &PrinterController::sessionClosing, this, &PrintDialog::closeSession);
     connect(printer_.get(), &PrinterController::sessionOpened, this, &PrintDialog::showSession);
     connect(printer_.get(), &PrinterController::sessionReplaced, this, &PrintDialog::showReplacement);
+    connect(printer_.get(), &PrinterController::attributesArrived, this, &PrintDialog::useAttributes);
     connect(printer_.get(), &PrinterController::confirmed, this, [this](const QString &doubt) {
         if (ui_->message->text() == doubt)
             ui_->message->clear(); // the print server is back
@@ -105,6 +106,17 @@ void PrintDialog::showSession()
         ui_->message->show(MessageBar::Kind::Information,
                            tr("This printer has no panels of its own; it prints with its defaults."));
     updateButtons();
+}
+
+/// An untouched dialog shows what it would have opened with, had it known the attributes.
+void PrintDialog::useAttributes(const IppAttributes &attributes)
+{
+    if (!choices_->useAttributes(attributes))
+        return;
+    if (applyOptions())
+        printer_->session()->refreshPanels();
+    showPageSize();
+    choices_->start();
 }
 
 void PrintDialog::showReplacement(const QMap<QString, QString> &choices)

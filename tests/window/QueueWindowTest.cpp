@@ -50,6 +50,25 @@ private Q_SLOTS:
         QVERIFY(hasOption(print(opened), "Red=9"));
     }
 
+    // An untouched dialog then shows them; what the user has begun with stays.
+    void serversDefaultsArriveLate()
+    {
+        remember(u"photo"_s);
+        QVERIFY(cupsd_.run(u"lpadmin"_s, {u"-p"_s, u"photo"_s, u"-o"_s, u"Green-default=3"_s}));
+        for (const bool isTouched : {false, true}) {
+            const OpenedDialog opened(setupForPrinter());
+            QCOMPARE(opened.fieldTexts({81, 82}), u"0 0"_s);
+            if (isTouched)
+                opened.type(81, u"9"_s);
+            opened.dialog->searchPrinters();
+            QTRY_VERIFY(opened.dialog->isReady());
+            QCOMPARE(opened.fieldTexts({81, 82}), isTouched ? u"9 0"_s : u"0 3"_s);
+            opened.undo();
+            QCOMPARE(opened.fieldTexts({81, 82}), isTouched ? u"0 0"_s : u"0 3"_s);
+        }
+        QVERIFY(cupsd_.deleteQueue(u"photo"_s));
+    }
+
     void rememberedPrivately()
     {
         remember(u"photo"_s);

@@ -42,6 +42,11 @@ void ChoiceController::start()
     steps_->start();
 }
 
+bool ChoiceController::useAttributes(const IppAttributes &attributes)
+{
+    return presets_->useAttributes(attributes);
+}
+
 void ChoiceController::choosePageSize(const QString &pageSize)
 {
     if (!session_)

@@ -13,6 +13,7 @@ namespace printdialog {
 
 class ChoiceSteps;
 class DialogSession;
+class IppAttributes;
 class MessageBar;
 class PanelTabs;
 class PresetBar;
@@ -45,6 +46,9 @@ public:
     void setSession(DialogSession *session, const QString &builtInPreset = {});
     /// Call when the session is in the state that the dialog opens with.
     void start();
+    /// Hands over attributes of the printer that arrived later than the session. True: nothing was chosen
+    /// before, and other choices are made to begin with; call start() then.
+    bool useAttributes(const IppAttributes &attributes);
 
     /// Applies the user's choice of a page size.
     void choosePageSize(const QString &pageSize);

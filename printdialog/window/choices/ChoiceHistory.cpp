@@ -65,6 +65,14 @@ void ChoiceHistory::Baseline::start(const State &from)
     differing.clear();
 }
 
+void ChoiceHistory::Baseline::include(const State &added)
+{
+    for (auto choice = added.cbegin(); choice != added.cend(); ++choice) {
+        if (!state.contains(choice.key()))
+            state.insert(choice.key(), *choice);
+    }
+}
+
 void ChoiceHistory::Baseline::compare(const QString &key, const QString &choice)
 {
     if (state.value(key) == choice)
@@ -88,6 +96,12 @@ void ChoiceHistory::start(const State &state)
     opening_.start(state);
     ++act_;
     Q_EMIT changed();
+}
+
+void ChoiceHistory::include(const State &state)
+{
+    opening_.include(state);
+    mark_.include(state);
 }
 
 void ChoiceHistory::change(const ChoiceChange &change)

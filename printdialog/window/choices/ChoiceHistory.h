@@ -32,6 +32,8 @@ public:
 
     /// Restarts the history with the state that the dialog opens with.
     void start(const State &state);
+    /// Adds options that the printer has only now, with the choice that each begins with.
+    void include(const State &state);
     /// Records a changed choice as a part of the step that the next note() makes.
     void change(const ChoiceChange &change);
     bool hasChanges() const { return !pending_.isEmpty(); }
@@ -75,6 +77,7 @@ private:
         QSet<QString> differing;
 
         void start(const State &from);
+        void include(const State &added);
         void compare(const QString &key, const QString &choice);
     };
 

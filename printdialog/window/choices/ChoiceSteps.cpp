@@ -82,6 +82,11 @@ void ChoiceSteps::start()
     history_->start(state());
 }
 
+void ChoiceSteps::include()
+{
+    history_->include(state());
+}
+
 void ChoiceSteps::setCopies(int copies)
 {
     const QSignalBlocker blocker(widgets_.copies);

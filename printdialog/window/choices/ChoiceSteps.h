@@ -37,6 +37,9 @@ public:
     /// Call when the session is in the state that the dialog opens with.
     void start();
 
+    /// Call when the session has got further options.
+    void include();
+
     int copies() const { return copies_; }
     /// Sets the number of copies without making a step.
     void setCopies(int copies);

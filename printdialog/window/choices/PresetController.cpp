@@ -4,7 +4,9 @@
 #include "PresetController.h"
 
 #include "ChoiceSteps.h"
+#include "CustomChoice.h"
 #include "DialogSession.h"
+#include "JobTemplate.h"
 #include "MessageBar.h"
 #include "PresetBar.h"
 #include "PresetName.h"
@@ -45,9 +47,41 @@ void PresetController::setSession(DialogSession *session, const QString &builtIn
     const QString queue = session->printer().destination.queue;
     store_ = std::make_unique<PresetStore>(PresetStore::of(queue, session->printer().isBuiltIn));
     load();
-    if (openWith(session->printer().isBuiltIn ? builtInPreset : session->printer().destination.instance))
-        return;
-    openWithLastChoices();
+    preset_ = session->printer().isBuiltIn ? builtInPreset : session->printer().destination.instance;
+    open();
+}
+
+void PresetController::open()
+{
+    if (!openWith(preset_))
+        openWithLastChoices();
+}
+
+bool PresetController::useAttributes(const IppAttributes &attributes)
+{
+    const QMap<QString, QString> before = openingChoices();
+    session_->setAttributes(attributes);
+    steps_->include();
+    if (steps_->canRevert() || openingChoices() == before)
+        return false;
+    open();
+    return true;
+}
+
+/// What open() chooses, as far as the printer has it.
+QMap<QString, QString> PresetController::openingChoices() const
+{
+    const auto presets = store_->presets();
+    const Preset *preset = presets ? PresetStore::findInstance(*presets, preset_) : nullptr;
+    QMap<QString, QString> choices =
+        preset ? choicesOfLp(*session_, preset->options) : printerDefaults(*session_);
+    if (!preset)
+        choices.insert(QueueSettings::load(session_->printer().destination.queue));
+    choices = JobTemplate::choicesOf(choices);
+    choices.removeIf([this](const auto &choice) {
+        return choice.key() != QLatin1String(copiesOption) && !session_->options().hasOption(choice.key());
+    });
+    return choices;
 }
 
 void PresetController::update()
@@ -87,12 +121,16 @@ void PresetController::openWithLastChoices()
 QString PresetController::keep(const QMap<QString, QString> &options)
 {
     steps_->note(); // includes the replacements of dropped choices
-    const auto failure = QueueSettings::save(session_->printer().destination.queue, withCopies(options));
+    QMap<QString, QString> kept = withCopies(options);
+    kept.remove(QStringLiteral("job-hold-until")); // the next job is not held without anybody's choice
+    const auto failure = QueueSettings::save(session_->printer().destination.queue, kept);
     return failure ? failure->text : QString();
 }
 
 QMap<QString, QString> PresetController::withCopies(QMap<QString, QString> options) const
 {
+    options.removeIf(
+        [this](const auto &choice) { return isSecret(session_->options().customParameters(choice.key())); });
     options.insert(QLatin1String(copiesOption), QString::number(steps_->copies()));
     return options;
 }

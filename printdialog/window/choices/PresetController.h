@@ -16,6 +16,7 @@ namespace printdialog {
 
 class ChoiceSteps;
 class DialogSession;
+class IppAttributes;
 class MessageBar;
 class PresetBar;
 class PresetStore;
@@ -35,10 +36,13 @@ public:
     /// The session must outlive this object or the next call; null: none.
     /// @param builtInPreset the built-in printer's preset, which its id does not name
     void setSession(DialogSession *session, const QString &builtInPreset);
+    /// See ChoiceController::useAttributes.
+    bool useAttributes(const IppAttributes &attributes);
     /// Call when a step was made or undone.
     void update();
 
-    /// Saves the choices for the next time with this printer. Returns a sentence when that fails.
+    /// Saves the choices for the next time with this printer, but not for how long the job is held. Returns a
+    /// sentence when that fails.
     QString keep(const QMap<QString, QString> &options);
 
 Q_SIGNALS:
@@ -50,6 +54,8 @@ Q_SIGNALS:
 private:
     void makeActions();
     void load();
+    void open();
+    QMap<QString, QString> openingChoices() const;
     bool openWith(const QString &instance);
     void openWithLastChoices();
     void use(const QString &name);
@@ -72,6 +78,7 @@ private:
     QAction *revert_ = nullptr;
     DialogSession *session_ = nullptr;
     std::unique_ptr<PresetStore> store_;
+    QString preset_; ///< the one to open with; empty: none
 };
 
 } // namespace printdialog

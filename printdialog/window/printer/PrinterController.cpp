@@ -213,16 +213,18 @@ void PrinterController::useOptions(const FetchedOptions &options)
                                               : session_ && session_->printer().isRaw && !options.ppd &&
                                                     !IppOptions::of(options.attributes);
     if (isSame)
-        confirm();
+        confirm(options.attributes);
     else
         replaceSession(options.ppd ? openQueue(queue_, *options.ppd, request_.mode, options.attributes)
                                    : openWithoutPpd(queue_, options.attributes, request_.mode));
 }
 
 // The options remembered from an earlier run are still those of the print server.
-void PrinterController::confirm()
+void PrinterController::confirm(const IppAttributes &attributes)
 {
     chooser_->selection().confirmOptions();
+    if (!attributes.isEmpty())
+        Q_EMIT attributesArrived(attributes);
     Q_EMIT confirmed(std::exchange(whyNotReady_, QString()));
     remember();
     Q_EMIT readinessChanged();

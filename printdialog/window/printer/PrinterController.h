@@ -78,6 +78,8 @@ Q_SIGNALS:
     void sessionOpened();
     /// The printer's options have changed: these choices were made from those before, without its defaults.
     void sessionReplaced(const QMap<QString, QString> &choices);
+    /// The session shown does not have these attributes of the printer yet.
+    void attributesArrived(const printdialog::IppAttributes &attributes);
     /// The print server has confirmed the printer. @param doubt what whyNotReady() was
     void confirmed(const QString &doubt);
     /// The printer cannot be used: whyNotReady().
@@ -100,7 +102,7 @@ private:
     void fetchOptions(const std::optional<CheckedPpd> &known = std::nullopt);
     void useOptions(const FetchedOptions &options);
     void use(SessionResult session);
-    void confirm();
+    void confirm(const IppAttributes &attributes);
     void setSession(std::unique_ptr<DialogSession> session);
     void replaceSession(SessionResult session);
     void closeSession(const QString &reason);
