@@ -1211,7 +1211,7 @@ QUEUE/プリセット。プリントサーバーを使わない場合はプリ�
     </message>
     <message>
         <source>Of the printer&apos;s defaults is left out: %1</source>
-        <translation>プリンタの既定値のうち次は使われません: %1</translation>
+        <translation>プリンターの既定値のうち次は使われません: %1</translation>
     </message>
 </context>
 <context>
@@ -2730,7 +2730,7 @@ QUEUE/プリセット。プリントサーバーを使わない場合はプリ�
     </message>
     <message>
         <source>Printer Defaults</source>
-        <translation>プリンタの既定値</translation>
+        <translation>プリンターの既定値</translation>
     </message>
 </context>
 <context>
@@ -2759,7 +2759,7 @@ QUEUE/プリセット。プリントサーバーを使わない場合はプリ�
     </message>
     <message>
         <source>Of the printer&apos;s defaults, some are left out:</source>
-        <translation>プリンタの既定値のうち、次のものは適用されませんでした:</translation>
+        <translation>プリンターの既定値のうち、次のものは適用されませんでした:</translation>
     </message>
 </context>
 <context>

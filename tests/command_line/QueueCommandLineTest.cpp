@@ -91,6 +91,22 @@ private Q_SLOTS:
         QCOMPARE(runProgram({u"--list-printers"_s, u"--json"_s}).json().array().size(), 6);
     }
 
+    // A queue without a PPD has them, too.
+    void optionsOfTheJob()
+    {
+        const ProgramRun run =
+            runProgram({u"--printer"_s, u"raw"_s, u"--batch"_s, u"--wait"_s, u"0"_s, u"-o"_s,
+                        u"job-hold-until=indefinite"_s, u"-o"_s, u"job-sheets=none,form"_s, samplePhoto});
+        QVERIFY2(run.status == 0 && run.err.isEmpty(), run.err.constData());
+        QVERIFY(cupsd_.activeJobs().contains("raw-"));
+        QVERIFY(cupsd_.run(u"cancel"_s, {u"-a"_s}));
+        const QJsonArray options =
+            runProgram({u"--printer"_s, u"raw"_s, u"--list-options"_s, u"--json"_s}).json().array();
+        QVERIFY(std::ranges::any_of(options, [](const QJsonValue &option) {
+            return option[u"keyword"_s] == u"job-priority"_s && option[u"choice"_s] == u"50"_s;
+        }));
+    }
+
     void refusesQueues_data()
     {
         const auto add = rows<QString, QString, QString>();
