@@ -65,7 +65,7 @@ public:
     /// Null for a printer that does not describe itself by its attributes.
     const IppOptions *ipp() const { return options_.ipp; }
     /// Call when they are known after the session was opened. The job's options get what is supported now;
-    /// choices stay as far as they still exist, and no change is signalled.
+    /// choices stay as far as they still exist, and no change of a choice is signalled.
     void setAttributes(const IppAttributes &attributes);
     /// The options of the job, whatever the printer (see JobTemplate); the others are the printer's.
     const QStringList &jobOptionKeys() const;
@@ -135,6 +135,8 @@ public:
 Q_SIGNALS:
     /// A page was added to panels(), as the last one.
     void pageAdded();
+    /// jobOptionKeys() may be others now, or have other choices.
+    void jobOptionsChanged();
     /// A panel has been lost, or could not read the job's choices: a sentence for people. May be emitted
     /// during any call of the session and during an event of the panel.
     void panelFailed(const QString &sentence);

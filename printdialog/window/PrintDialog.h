@@ -103,7 +103,8 @@ private:
     void useAttributes(const IppAttributes &attributes);
     void showReplacement(const QMap<QString, QString> &choices);
     void showPanelFailure(const QString &sentence);
-    bool applyOptions();
+    enum class Requested { All, OfJob };
+    bool applyOptions(Requested which = Requested::All);
 
     // The page
     void fillPageSizes();

@@ -3,10 +3,13 @@
 
 #include "ChoiceController.h"
 #include "DialogSession.h"
+#include "JobTemplate.h"
 #include "PrintDialog.h"
 #include "PrinterController.h"
 #include "PrintingController.h"
 #include "ui_PrintDialog.h"
+
+#include <algorithm>
 
 namespace printdialog {
 
@@ -111,12 +114,18 @@ void PrintDialog::showSession()
 /// An untouched dialog shows what it would have opened with, had it known the attributes.
 void PrintDialog::useAttributes(const IppAttributes &attributes)
 {
-    if (!choices_->useAttributes(attributes))
+    const bool areAwaited = printer_->session()->attributes().isEmpty() && !printer_->wasChosenHere() &&
+                            std::ranges::any_of(setup_.options, [](const auto &option) {
+                                return JobTemplate::isJobOption(option.first);
+                            });
+    const bool opensAnew = choices_->useAttributes(attributes, areAwaited);
+    if (!opensAnew && !areAwaited)
         return;
-    if (applyOptions())
+    if (applyOptions(opensAnew ? Requested::All : Requested::OfJob))
         printer_->session()->refreshPanels();
     showPageSize();
-    choices_->start();
+    if (opensAnew)
+        choices_->start();
 }
 
 void PrintDialog::showReplacement(const QMap<QString, QString> &choices)
@@ -144,14 +153,19 @@ void PrintDialog::showPanelFailure(const QString &sentence)
 }
 
 // The requested options apply until the user chooses another printer, which has its own choices.
-bool PrintDialog::applyOptions()
+bool PrintDialog::applyOptions(Requested which)
 {
     if (printer_->wasChosenHere())
         return false;
-    if (setup_.copies)
+    DialogSession &session = *printer_->session();
+    if (setup_.copies && which == Requested::All)
         ui_->copies->setValue(*setup_.copies);
+    // Those of a queue's job wait for its attributes.
+    const bool isAwaiting = !session.printer().isBuiltIn && session.attributes().isEmpty();
     for (const auto &[key, choice] : std::as_const(setup_.options)) {
-        const Ruling ruling = printer_->session()->choose(key, choice);
+        if (JobTemplate::isJobOption(key) ? isAwaiting : which == Requested::OfJob)
+            continue;
+        const Ruling ruling = session.choose(key, choice);
         if (ruling.verdict != Verdict::Accepted)
             ui_->message->show(MessageBar::Kind::Warning, ruling.text);
     }

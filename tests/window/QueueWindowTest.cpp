@@ -69,6 +69,28 @@ private Q_SLOTS:
         QVERIFY(cupsd_.deleteQueue(u"photo"_s));
     }
 
+    // A requested option of the job waits for them, and is then in force from the beginning.
+    void requestedJobOptionWaits()
+    {
+        remember(u"photo"_s);
+        PrintDialogSetup setup = setupForPrinter();
+        setup.printer = u"photo"_s;
+        setup.options = {{u"Green"_s, u"4"_s}, {u"job-hold-until"_s, u"indefinite"_s}};
+        const OpenedDialog opened(setup);
+        QCOMPARE(opened.message(), QString());
+        opened.dialog->searchPrinters();
+        QTRY_VERIFY(opened.dialog->isReady());
+        QCOMPARE(opened.fieldText(82), u"4"_s);
+        opened.undo();
+        opened.dialog->print();
+        QTRY_VERIFY(cupsd_.activeJobs().contains("photo-"));
+        QVERIFY(cupsd_.run(u"cancel"_s, {u"-a"_s}));
+        // The next one is not held.
+        const OpenedDialog next(setupForPrinter());
+        choose(next, u"photo"_s);
+        QVERIFY(hasOption(print(next), "Green=4"));
+    }
+
     void rememberedPrivately()
     {
         remember(u"photo"_s);

@@ -42,9 +42,9 @@ void ChoiceController::start()
     steps_->start();
 }
 
-bool ChoiceController::useAttributes(const IppAttributes &attributes)
+bool ChoiceController::useAttributes(const IppAttributes &attributes, bool opensAnew)
 {
-    return presets_->useAttributes(attributes);
+    return presets_->useAttributes(attributes, opensAnew);
 }
 
 void ChoiceController::choosePageSize(const QString &pageSize)

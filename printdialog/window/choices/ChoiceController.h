@@ -48,7 +48,8 @@ public:
     void start();
     /// Hands over attributes of the printer that arrived later than the session. True: nothing was chosen
     /// before, and other choices are made to begin with; call start() then.
-    bool useAttributes(const IppAttributes &attributes);
+    /// @param opensAnew also when the attributes change nothing in these choices
+    bool useAttributes(const IppAttributes &attributes, bool opensAnew);
 
     /// Applies the user's choice of a page size.
     void choosePageSize(const QString &pageSize);

@@ -57,12 +57,12 @@ void PresetController::open()
         openWithLastChoices();
 }
 
-bool PresetController::useAttributes(const IppAttributes &attributes)
+bool PresetController::useAttributes(const IppAttributes &attributes, bool opensAnew)
 {
     const QMap<QString, QString> before = openingChoices();
     session_->setAttributes(attributes);
     steps_->include();
-    if (steps_->canRevert() || openingChoices() == before)
+    if (steps_->canRevert() || (!opensAnew && openingChoices() == before))
         return false;
     open();
     return true;
@@ -129,8 +129,9 @@ QString PresetController::keep(const QMap<QString, QString> &options)
 
 QMap<QString, QString> PresetController::withCopies(QMap<QString, QString> options) const
 {
-    options.removeIf(
-        [this](const auto &choice) { return isSecret(session_->options().customParameters(choice.key())); });
+    options.removeIf([this](const auto &choice) {
+        return isCustomChoice(*choice) && isSecret(session_->options().customParameters(choice.key()));
+    });
     options.insert(QLatin1String(copiesOption), QString::number(steps_->copies()));
     return options;
 }

@@ -37,7 +37,7 @@ public:
     /// @param builtInPreset the built-in printer's preset, which its id does not name
     void setSession(DialogSession *session, const QString &builtInPreset);
     /// See ChoiceController::useAttributes.
-    bool useAttributes(const IppAttributes &attributes);
+    bool useAttributes(const IppAttributes &attributes, bool opensAnew);
     /// Call when a step was made or undone.
     void update();
 
