@@ -86,7 +86,7 @@ private:
     };
 
     void add(const QString &key, const Option &option);
-    /// An option with the supported keywords that have a text here, or with all of them.
+    /// An option with the supported keywords that have a text here, if there are several.
     void addKeywords(const IppAttributes &printer, const QString &attribute, const QString &text);
     void addHold(const IppAttributes &printer);
     void addPriority(const IppAttributes &printer);

@@ -194,6 +194,11 @@ private Q_SLOTS:
         QCOMPARE(opened.fieldText(81), u"0"_s);
         use(opened, u"mine"_s);
         QCOMPARE(opened.fieldText(81), u"6"_s);
+        use(opened, PresetBar::defaultsName());
+        QCOMPARE(opened.fieldText(81), u"0"_s);
+        auto *menu = opened.find<QMenu>(u"presetMenu"_s);
+        for (const Action action : {Save, Rename, Remove})
+            QVERIFY(!menu->actions().at(action)->isEnabled());
         QVERIFY(!QFile::exists(PresetStore::userFile()));
     }
 
