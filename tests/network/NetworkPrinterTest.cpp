@@ -178,6 +178,32 @@ private Q_SLOTS:
         QCOMPARE(refused(u"Avahi does not answer"_s), QByteArray());
     }
 
+    // By its address no print server is involved, and its own names reach it.
+    void withoutAPrintServer_data()
+    {
+        QTest::addColumn<QString>("scheme");
+        QTest::newRow("plain") << u"ipp"_s;
+        QTest::newRow("encrypted") << u"ipps"_s;
+    }
+
+    void withoutAPrintServer()
+    {
+        QFETCH(QString, scheme);
+        const Frozen server("CUPSD_PID");
+        const int job = printer_.jobs();
+        const ProgramRun run = runProgram({u"--batch"_s, upright_, u"-n"_s, u"2"_s, u"-o"_s,
+                                           u"media=na_index-4x6_4x6in.borderless"_s, u"-o"_s,
+                                           u"media-type=stationery"_s, u"-o"_s, u"print-quality=5"_s,
+                                           u"--printer"_s, scheme + u"://localhost:8631/ipp/print"_s});
+        QVERIFY2(run.status == 0, run.err.constData());
+        QVERIFY(printer_.document(job) == contentOf(upright_));
+        const QByteArray all = printer_.attributes(job).join('\n');
+        for (const char *part :
+             {"IPP_COPIES=2\n", "x-dimension=10160 y-dimension=15240", "media-bottom-margin=0",
+              "media-type=stationery", "IPP_PRINT_QUALITY=high\n"})
+            QVERIFY2(all.contains(part), all.constData());
+    }
+
     // One that hangs is given up; it may have made the server keep a queue without a PPD.
     void printerThatDoesNotAnswer()
     {
