@@ -51,7 +51,8 @@ OpenedPrinter orSentence(SessionResult session)
 Result<OpenedQueue, QueueFault> queueOrAnnounced(const Destination &destination)
 {
     auto opened = queueNamed(destination, queuePatience);
-    if (opened || opened.failure().reason != QueueFault::NotFound || !isPrintServerHere())
+    if (opened || opened.failure().reason != QueueFault::NotFound || destination.isAddress() ||
+        !isPrintServerHere())
         return opened;
     PrinterLister lister(printerListProgram());
     const AnnouncedList network = lookForAnnounced(lister, networkPatience, destination.queue);

@@ -176,6 +176,10 @@ private Q_SLOTS:
         QCOMPARE(refused(u"("_s), QByteArray());
         const Frozen avahi("AVAHI_PID");
         QCOMPARE(refused(u"Avahi does not answer"_s), QByteArray());
+        // Nobody announces an address.
+        QCOMPARE(wrongInRefusal(runProgram(batch + QStringList{u"ipp://me@localhost/"_s}), 1,
+                                {u"not a printer's address"_s}),
+                 QByteArray());
     }
 
     // By its address no print server is involved, and its own names reach it.
