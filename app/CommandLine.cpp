@@ -49,6 +49,9 @@ constexpr std::array optionRows = {
     OptionRow{
         "n,copies", "NUMBER",
         QT_TRANSLATE_NOOP("CommandLine", "how many copies of each photo; otherwise the preset's, or 1")},
+    OptionRow{
+        "title", "TEXT",
+        QT_TRANSLATE_NOOP("CommandLine", "the job's title at a print queue; otherwise the photo's name")},
     OptionRow{"scaling", "fit|fill|actual",
               QT_TRANSLATE_NOOP("CommandLine",
                                 "the whole photo on the page (fit, the default), the page filled\n"
@@ -247,6 +250,14 @@ Fault readCrop(const QCommandLineParser &parser, PlacementChoice &placement)
     return std::nullopt;
 }
 
+Fault readTitle(const QCommandLineParser &parser, CommandLine &line)
+{
+    Fault found = readValue(parser, "title", line.title);
+    if (!found && line.title && (line.ppd || line.asksForBuiltInPrinter()))
+        return fault(UsageFault::Combination, CommandLine::noTitleText());
+    return found;
+}
+
 Fault readChoices(const QCommandLineParser &parser, QList<RequestedChoice> &choices)
 {
     const QStringList values = parser.values(QStringLiteral("option"));
@@ -344,14 +355,20 @@ Result<CommandLine, UsageFault> CommandLine::parse(const QStringList &arguments)
     for (const Fault &found :
          {readPhotos(parser.positionalArguments(), line.photos), readCopies(parser, line.copies),
           readValue(parser, "printer", line.printer), readValue(parser, "ppd", line.ppd),
-          readValue(parser, "output", line.output), readValue(parser, "screenshot", line.screenshot),
-          readServer(parser, line.server), readWait(parser, line.wait), readMode(parser, line.mode),
+          readValue(parser, "output", line.output), readTitle(parser, line),
+          readValue(parser, "screenshot", line.screenshot), readServer(parser, line.server),
+          readWait(parser, line.wait), readMode(parser, line.mode),
           readScaling(parser, line.placement.scaling), readCrop(parser, line.placement),
           readChoices(parser, line.options), contradiction(line)}) {
         if (found)
             return *found;
     }
     return line;
+}
+
+QString CommandLine::noTitleText()
+{
+    return Text::tr("--title is for print queues; the built-in printer names its files after the photos.");
 }
 
 QString CommandLine::helpText()

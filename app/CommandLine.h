@@ -48,6 +48,7 @@ struct CommandLine
     std::optional<QString> ppd;         ///< a file, for the built-in printer
     PanelMode mode = PanelMode::Constraint;
     QList<RequestedChoice> options; ///< in the order given
+    std::optional<QString> title;   ///< of the job at a queue
     std::optional<int> copies;      ///< of each photo, from 1 to mostCopies
     PlacementChoice placement;      ///< of each photo on its page
     std::optional<QString> output;  ///< the folder of the built-in printer's files
@@ -72,6 +73,9 @@ struct CommandLine
 
     /// The text of --help; ends with a line feed.
     static QString helpText();
+
+    /// Why there is no title for the built-in printer.
+    static QString noTitleText();
 
     /// Whether the printer is the built-in one by name.
     bool asksForBuiltInPrinter() const;

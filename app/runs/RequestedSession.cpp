@@ -177,7 +177,12 @@ Result<RequestedSession, std::monostate> openRequestedSession(const CommandLine 
         !failure.isEmpty())
         return refusal(failure);
     requested.copies = commandLine.copies.value_or(requested.copies);
-    for (const RequestedChoice &choice : commandLine.options) {
+    if (commandLine.title && printer.isBuiltIn)
+        return refusal(CommandLine::noTitleText());
+    QList<RequestedChoice> choices = commandLine.options;
+    if (commandLine.title)
+        choices.append({JobTemplate::titleKey(), QStringLiteral("Custom.") + *commandLine.title});
+    for (const RequestedChoice &choice : std::as_const(choices)) {
         // SessionText that is only the beginning of a number is let through while somebody types; here
         // nothing follows it.
         const Ruling ruling = requested.session->choose(choice.key, choice.choice);

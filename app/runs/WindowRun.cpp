@@ -4,6 +4,7 @@
 #include "WindowRun.h"
 
 #include "Console.h"
+#include "JobTemplate.h"
 #include "PresetStore.h"
 #include "WindowPlacement.h"
 
@@ -27,6 +28,8 @@ PrintDialogSetup windowSetup(const CommandLine &commandLine)
     setup.ppdFile = commandLine.ppd;
     for (const RequestedChoice &option : commandLine.options)
         setup.options.append({option.key, option.choice});
+    if (commandLine.title)
+        setup.options.append({JobTemplate::titleKey(), QStringLiteral("Custom.") + *commandLine.title});
     setup.copies = commandLine.copies;
     setup.placement = commandLine.placement;
     setup.outputFolder = commandLine.outputFolder();

@@ -46,7 +46,7 @@ _corvel_print()
             COMPREPLY=($(compgen -W "fit fill actual" -- "$cur"))
             return
             ;;
-        --crop | -n | --copies)
+        --crop | -n | --copies | --title)
             return
             ;;
         --ppd)

@@ -30,6 +30,7 @@ complete -c corvel-print -s d -l printer -x -a 'built-in (corvel-print --list-pr
 complete -c corvel-print -l ppd -r -d 'The built-in printer, with this PPD instead of its own'
 complete -c corvel-print -l mode -x -a 'constraint settings' -d 'When a conflicting choice is refused'
 complete -c corvel-print -s n -l copies -x -d 'How many copies of each photo'
+complete -c corvel-print -l title -x -d 'The title of the job'
 complete -c corvel-print -l scaling -x -a 'fit fill actual' -d 'How large the photo is on the page'
 complete -c corvel-print -l crop -x -d 'Which part of a cropped photo is kept'
 complete -c corvel-print -s o -l option -x -a '(__corvel_print_choices)' -d 'Choose for an option of the printer'

@@ -36,6 +36,7 @@ bool isCups(const IppAttributes &printer)
 
 JobTemplate::JobTemplate(const IppAttributes &printer, const QStringList &without)
 {
+    addTitle();
     addHold(printer);
     addPriority(printer);
     addSheets(printer);
@@ -97,6 +98,16 @@ void JobTemplate::addKeywords(const IppAttributes &printer, const QString &attri
     if (!isListed)
         option.preset = option.choices.constFirst().keyword;
     add(attribute, option);
+}
+
+/// Every job has a title.
+void JobTemplate::addTitle()
+{
+    constexpr int longestTitle = 120;
+    add(title, {tr("Title"),
+                {{noValue, tr("The photo's name")}},
+                {{QStringLiteral("title"), tr("Title"), CustomParameter::Kind::Text, 1, longestTitle}},
+                noValue});
 }
 
 void JobTemplate::addHold(const IppAttributes &printer)

@@ -32,6 +32,8 @@ public:
     /// names of its own, such as Duplex. Null while the attributes are not known.
     static std::unique_ptr<JobTemplate> besides(const OptionSource &printer, const IppAttributes &attributes);
 
+    /// The option whose custom text is the job's title; "None": the photo's name.
+    static QString titleKey();
     /// Whether some printer has it as a job option, in either spelling.
     static bool isJobOption(const QString &key);
     /// The choices as lp(1) and the print server spell them: "job-priority=37", a time in UTC, both banner
@@ -88,6 +90,7 @@ private:
     void add(const QString &key, const Option &option);
     /// An option with the supported keywords that have a text here, if there are several.
     void addKeywords(const IppAttributes &printer, const QString &attribute, const QString &text);
+    void addTitle();
     void addHold(const IppAttributes &printer);
     void addPriority(const IppAttributes &printer);
     void addSheets(const IppAttributes &printer);

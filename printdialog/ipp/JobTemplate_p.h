@@ -8,6 +8,7 @@
 
 namespace printdialog::job_options {
 
+inline const QString title = QStringLiteral("job-name");
 inline const QString hold = QStringLiteral("job-hold-until");
 inline const QString priority = QStringLiteral("job-priority");
 inline const QString sheets = QStringLiteral("job-sheets"); // as sent
@@ -19,7 +20,7 @@ inline const QString sides = QStringLiteral("sides");
 inline const QString collation = QStringLiteral("multiple-document-handling");
 
 inline const QString noSheet = QStringLiteral("none");
-inline const QString noValue = QStringLiteral("None"); // of an account or a password
+inline const QString noValue = QStringLiteral("None"); // of a title, an account or a password
 inline const QStringList namedPriorities = {QStringLiteral("1"), QStringLiteral("50"), QStringLiteral("100")};
 
 } // namespace printdialog::job_options

@@ -17,7 +17,7 @@ using namespace job_options;
 namespace {
 
 /// Options whose values are sent without the word Custom.
-const QStringList valueOptions = {hold, priority, account, accountUser};
+const QStringList valueOptions = {title, hold, priority, account, accountUser};
 
 const QLatin1String valuePrefix("Custom.");
 
@@ -57,6 +57,11 @@ QString choiceOf(const QString &key, const QString &value)
 }
 
 } // namespace
+
+QString JobTemplate::titleKey()
+{
+    return title;
+}
 
 bool JobTemplate::isJobOption(const QString &key)
 {

@@ -108,7 +108,7 @@ private:
     {
         IppPointer request = ippRequest(IPP_OP_PRINT_JOB, record_.uri);
         ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "job-name", nullptr,
-                     plainText(document.name, titleLimit).toUtf8().constData());
+                     plainText(job.options.value(JobTemplate::titleKey(), document.name), titleLimit).toUtf8().constData());
         ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "document-name", nullptr,
                      plainText(document.name, titleLimit).toUtf8().constData());
         ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_MIMETYPE, "document-format", nullptr,
@@ -126,7 +126,8 @@ private:
             for (auto option = options.cbegin(); option != options.cend(); ++option) {
                 // Those of a printer without a PPD are its attributes; what is left are options of the job.
                 const bool isAttribute = job.ipp && !JobTemplate::isJobOption(option.key());
-                if (option.key() != passwordOption && !isAttribute && !attributes.contains(option.key()))
+                const bool isAlone = option.key() == passwordOption || option.key() == JobTemplate::titleKey();
+                if (!isAlone && !isAttribute && !attributes.contains(option.key()))
                     addOption(request.get(), option.key().toUtf8(), option.value().toUtf8());
             }
         }

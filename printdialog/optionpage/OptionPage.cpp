@@ -51,6 +51,7 @@ void OptionPage::setKeys(const QStringList &keys)
         if (keys.contains(key))
             keys_ += key;
     }
+    shown_ = QSet<QString>(keys_.cbegin(), keys_.cend());
     if (view_)
         view_->setKeys(keys_);
 }
@@ -103,7 +104,7 @@ void OptionPage::choose(const QString &key, const QString &choice, QWidget *cont
 bool OptionPage::markChoiceForPPDOptionKeyFromSender(const std::optional<QString> &choice,
                                                      const std::optional<QString> &key, QWidget * /*sender*/)
 {
-    if (!choice || !key || !keys_.contains(*key))
+    if (!choice || !key || !shows(*key))
         return false;
     const bool isMade = !session_.rule || session_.rule(*key, *choice);
     if (isMade)
@@ -115,7 +116,7 @@ bool OptionPage::markChoiceForPPDOptionKeyFromSender(const std::optional<QString
 void OptionPage::PPDOptionKeyValueDidChangePpdChoice(const std::optional<QString> &key,
                                                      const std::optional<QString> &choice)
 {
-    if (!key || !choice || !keys_.contains(*key))
+    if (!key || !choice || !shows(*key))
         return;
     choices_.insert(*key, *choice);
     show(*key);

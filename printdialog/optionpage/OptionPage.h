@@ -12,6 +12,7 @@
 #include <QtCore/QMap>
 #include <QtCore/QObject>
 #include <QtCore/QPointer>
+#include <QtCore/QSet>
 
 #include <functional>
 
@@ -46,8 +47,9 @@ public:
                const QString &name, const QString &kind);
     ~OptionPage() override;
 
-    /// The options that the page shows; in any order.
+    /// The options that the page shows; in any order. Call it again when the choices of one are others.
     void setKeys(const QStringList &keys);
+    bool shows(const QString &key) const { return shown_.contains(key); }
 
     const OptionSource &source() const { return source_; }
     const Session &session() const { return session_; }
@@ -80,6 +82,7 @@ private:
     QString name_;
     QString kind_;
     QStringList keys_;
+    QSet<QString> shown_;            // the same
     QMap<QString, QString> choices_; // option keyword to choice keyword
     QPointer<OptionPageView> view_;
 };

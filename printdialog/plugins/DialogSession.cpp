@@ -37,9 +37,11 @@ DialogSession::DialogSession(const PrinterDescription &printer, SessionOptions o
     connect(&chosen_, &ChosenOptions::changed, this,
             [this](const ChoiceChange &change) { changedKeys_ += change.key; });
     if (mode == PanelMode::Constraint) {
-        callback_ = std::make_shared<ConstrainingCallbackObject>(
-            options_.ppd, sessionPrinter_, chosen_.ticket(),
-            [this](const QString &key, const QString &choice) { return rule(key, choice, false); });
+        callback_ =
+            std::make_shared<ConstrainingCallbackObject>(options_.ppd, sessionPrinter_, chosen_.ticket(),
+                                                         [this](const QString &key, const QString &choice) {
+                                                             return rule(key, choice, panelOf_.value(key));
+                                                         });
     } else {
         callback_ = std::make_shared<CallbackObject>(options_.ppd, sessionPrinter_, chosen_.ticket());
     }
@@ -59,13 +61,12 @@ QStringList DialogSession::restoreFailures() const
 // Choices
 
 // Called by a panel in constraint-handling mode.
-bool DialogSession::rule(const QString &key, const QString &choice, bool isOwnPage)
+bool DialogSession::rule(const QString &key, const QString &choice, const GuardedPanel *asker)
 {
     const Ruling ruling = chosen_.choose(key, choice, pdekit::actingControl());
     begunKeys_.removeOne(key);
     if (ruling.verdict == Verdict::Incomplete)
         begunKeys_.append(key);
-    const GuardedPanel *asker = isOwnPage ? ownPanel_ : panelOf_.value(key);
     restore(reportChanges(key, asker)); // a panel that is told may ask, too
     lastRuling_ = ruling;
     return ruling.letsThrough();
@@ -99,8 +100,12 @@ void DialogSession::restore(const QList<GuardedPanel *> &panels)
 Ruling DialogSession::choose(const QString &key, const QString &choice)
 {
     const QMap<QString, QString> spelled = spelledHere({{key, choice}});
-    if (spelled.isEmpty())
-        return chooseOne(key, choice);
+    if (spelled.isEmpty()) {
+        // A secret of the job, which is sent without the word Custom.
+        const bool isBare = JobTemplate::isJobOption(key) && isSecret(options_.source->customParameters(key)) &&
+                            !isCustomChoice(choice) && !options_.source->choice(key, choice);
+        return chooseOne(key, isBare ? QStringLiteral("Custom.") + choice : choice);
+    }
     Ruling ruling;
     for (auto entry = spelled.cbegin(); entry != spelled.cend(); ++entry) {
         ruling = chooseOne(entry.key(), *entry);
@@ -217,6 +222,9 @@ QStringList DialogSession::jobKeys() const
         if (panel->missing().isEmpty())
             keys += panel->keys();
     }
+    // The server has its own defaults for the job's options, which it applies by itself.
+    const QStringList &ofJob = jobOptionKeys();
+    keys.removeIf([&ofJob](const QString &key) { return ofJob.contains(key); });
     const QStringList chosen = chosen_.chosenKeys();
     for (const QString &key : chosen) {
         const GuardedPanel *panel = panelFor(key);

@@ -16,6 +16,8 @@
 #include <QtCore/QMap>
 #include <QtCore/QObject>
 
+#include <array>
+
 namespace printdialog {
 
 class GuardedPanel;
@@ -71,7 +73,7 @@ public:
     const QStringList &jobOptionKeys() const;
     PanelMode mode() const { return mode_; }
 
-    /// Loads the panels that the PPD requests, and restores them; then the dialog's own page for the options
+    /// Loads the panels that the PPD requests, and restores them; then the dialog's own pages for the options
     /// that none of them shows, if there are any. The session can print without them. Returns nothing on
     /// success or when the PPD requests none.
     std::optional<Failure<PluginFault>> loadPanels();
@@ -79,7 +81,7 @@ public:
     /// The panel that shows the option; null when none does.
     GuardedPanel *panelFor(const QString &key) const;
     /// Whether it is a page of the dialog itself.
-    bool isOwnPage(const GuardedPanel &panel) const { return &panel == ownPanel_; }
+    bool isOwnPage(const GuardedPanel &panel) const;
     /// Call when a panel's view was made and shown: it may then know better which options it does not show.
     void noteShown(GuardedPanel &panel);
     /// A sentence for each panel that could not read the job's choices.
@@ -133,8 +135,8 @@ public:
     const Ruling &jobRefusal() const { return jobRefusal_; }
 
 Q_SIGNALS:
-    /// A page was added to panels(), as the last one.
-    void pageAdded();
+    /// A page was added to panels(), at that index.
+    void pageAdded(qsizetype index);
     /// jobOptionKeys() may be others now, or have other choices.
     void jobOptionsChanged();
     /// A panel has been lost, or could not read the job's choices: a sentence for people. May be emitted
@@ -142,13 +144,21 @@ Q_SIGNALS:
     void panelFailed(const QString &sentence);
 
 private:
+    /// A page of the dialog itself; null before it has an option.
+    struct OwnPage
+    {
+        OptionPage *page = nullptr;
+        GuardedPanel *panel = nullptr; ///< the same page
+    };
+
     std::optional<Failure<PluginFault>> loadPluginPanels();
-    GuardedPanel *addPanel(pdekit::PanelPointer made);
-    void updateOwnPage();
-    QStringList keysForOwnPage() const;
+    GuardedPanel *addPanel(pdekit::PanelPointer made, qsizetype index);
+    void updateOwnPages();
+    void updateOwnPage(OwnPage &own, const QStringList &keys);
+    QStringList keysForOwnPages() const;
     QList<GuardedPanel *> panelsWith(const QString &key) const;
 
-    bool rule(const QString &key, const QString &choice, bool isOwnPage);
+    bool rule(const QString &key, const QString &choice, const GuardedPanel *asker);
     void savePanels();
     QList<GuardedPanel *> reportChanges(const QString &askedKey, const GuardedPanel *asker);
     Ruling keepSecret(const QString &key, const QString &choice);
@@ -170,8 +180,7 @@ private:
     std::optional<pdekit::Bundle> bundle_; ///< the panels' bundle
     GuardedPanels panels_; ///< after the members that panels refer to, so that panels are destroyed first
     QHash<QString, GuardedPanel *> panelOf_; ///< the plug-in's panel, by option
-    OptionPage *ownPage_ = nullptr;          ///< null before it has an option
-    GuardedPanel *ownPanel_ = nullptr;       ///< the same as a panel
+    std::array<OwnPage, 2> ownPages_;        ///< for the options of the printer, and of the job
     QHash<QString, CustomValues> secrets_;   ///< by option
     Ruling lastRuling_;
     Ruling jobRefusal_;

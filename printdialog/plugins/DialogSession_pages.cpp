@@ -13,6 +13,21 @@ namespace printdialog {
 
 namespace {
 
+// In DialogSession::ownPages_.
+constexpr std::size_t printerPage = 0;
+constexpr std::size_t jobPage = 1;
+
+/// Printers name these options themselves, but people look for them among those of every job.
+const QStringList &jobOptionsOfPrinters()
+{
+    static const QStringList keys = {
+        QStringLiteral("Duplex"),   QStringLiteral("JCLDuplex"),
+        QStringLiteral("EFDuplex"), QStringLiteral("KD03Duplex"),
+        QStringLiteral("ARDuplex"), QStringLiteral("Collate"),
+        QStringLiteral("sides"),    QStringLiteral("multiple-document-handling")};
+    return keys;
+}
+
 /// "Tray 4: Not Installed"
 QString equipmentText(const OptionSource &source, const QList<OptionChoice> &equipment)
 {
@@ -28,7 +43,7 @@ QString equipmentText(const OptionSource &source, const QList<OptionChoice> &equ
 std::optional<Failure<PluginFault>> DialogSession::loadPanels()
 {
     auto failure = loadPluginPanels();
-    updateOwnPage();
+    updateOwnPages();
     return failure;
 }
 
@@ -46,7 +61,7 @@ std::optional<Failure<PluginFault>> DialogSession::loadPluginPanels()
         return panels.failure();
     bundle_ = plugin->bundle;
     for (pdekit::PanelPointer &made : *panels) {
-        GuardedPanel *panel = addPanel(std::move(made));
+        GuardedPanel *panel = addPanel(std::move(made), std::ssize(panels_));
         const QStringList keys = panel->keys();
         for (const QString &key : keys)
             panelOf_.insert(key, panel);
@@ -54,10 +69,11 @@ std::optional<Failure<PluginFault>> DialogSession::loadPluginPanels()
     return std::nullopt;
 }
 
-GuardedPanel *DialogSession::addPanel(pdekit::PanelPointer made)
+GuardedPanel *DialogSession::addPanel(pdekit::PanelPointer made, qsizetype index)
 {
-    panels_.push_back(std::make_unique<GuardedPanel>(std::move(made)));
-    GuardedPanel *panel = panels_.back().get();
+    const auto place =
+        panels_.insert(panels_.begin() + index, std::make_unique<GuardedPanel>(std::move(made)));
+    GuardedPanel *panel = place->get();
     connect(panel, &GuardedPanel::lost, this, [this, panel] {
         chosen_.forget(panel->keys());
         Q_EMIT panelFailed(panel->loss());
@@ -68,10 +84,10 @@ GuardedPanel *DialogSession::addPanel(pdekit::PanelPointer made)
     return panel;
 }
 
-// The dialog's own page
+// The dialog's own pages
 
 /// The options that can be chosen and that no panel shows.
-QStringList DialogSession::keysForOwnPage() const
+QStringList DialogSession::keysForOwnPages() const
 {
     const OptionSource &source = *options_.source;
     QStringList hidden = {source.pageSizeKey(), QStringLiteral("PageRegion")};
@@ -91,20 +107,36 @@ QStringList DialogSession::keysForOwnPage() const
     return keys;
 }
 
-void DialogSession::updateOwnPage()
+void DialogSession::updateOwnPages()
 {
-    const QStringList keys = !printer_.isRaw ? keysForOwnPage() : QStringList();
-    if (!ownPage_ && keys.isEmpty())
-        return;
-    if (ownPage_) {
-        ownPage_->setKeys(keys);
-        ownPanel_->reopen();
+    QStringList ofPrinter = keysForOwnPages();
+    const QStringList job = jobOptionKeys() + jobOptionsOfPrinters();
+    QStringList ofJob;
+    for (const QString &key : std::as_const(ofPrinter)) {
+        if (job.contains(key))
+            ofJob += key;
+    }
+    ofPrinter.removeIf([&ofJob](const QString &key) { return ofJob.contains(key); });
+    updateOwnPage(ownPages_[printerPage], ofPrinter);
+    updateOwnPage(ownPages_[jobPage], ofJob);
+}
+
+void DialogSession::updateOwnPage(OwnPage &own, const QStringList &keys)
+{
+    const bool isJob = &own == &ownPages_[jobPage];
+    if (own.page) {
+        if (isJob || own.panel->keys() != keys)
+            own.page->setKeys(keys);
+        own.panel->reopen();
         return;
     }
+    if (keys.isEmpty())
+        return;
+    const bool isAlone = panelOf_.isEmpty();
     OptionPage::Session session;
     if (mode_ == PanelMode::Constraint)
-        session.rule = [this](const QString &key, const QString &choice) {
-            return rule(key, choice, true);
+        session.rule = [this, &own](const QString &key, const QString &choice) {
+            return rule(key, choice, own.panel);
         };
     session.equipmentRefusal = [this](const QString &key, const QString &choice) {
         return equipmentText(*options_.source, chosen_.equipmentAgainst(key, choice));
@@ -112,19 +144,28 @@ void DialogSession::updateOwnPage()
     session.keepSecret = [this](const QString &key, const CustomValues &values) {
         secrets_.insert(key, values);
     };
-    auto page = std::make_unique<OptionPage>(*options_.source, callback_, session,
-                                             panels_.empty() ? tr("Options") : tr("More Options"),
-                                             QStringLiteral("options"));
-    ownPage_ = page.get();
-    ownPage_->setKeys(keys);
-    ownPanel_ = addPanel(std::move(page));
-    Q_EMIT pageAdded();
+    const QString ofPrinter = isAlone ? tr("Options") : tr("More Options");
+    auto page =
+        std::make_unique<OptionPage>(*options_.source, callback_, session, isJob ? tr("Job") : ofPrinter,
+                                     isJob ? QStringLiteral("job") : QStringLiteral("options"));
+    own.page = page.get();
+    own.page->setKeys(keys);
+    // What is left over by a plug-in's panels comes last; a printer without them begins with its options.
+    const OwnPage &other = ownPages_[isJob ? printerPage : jobPage];
+    const qsizetype index = std::ssize(panels_) - (other.page && isJob != isAlone ? 1 : 0);
+    own.panel = addPanel(std::move(page), index);
+    Q_EMIT pageAdded(index);
+}
+
+bool DialogSession::isOwnPage(const GuardedPanel &panel) const
+{
+    return std::ranges::any_of(ownPages_, [&panel](const OwnPage &own) { return own.panel == &panel; });
 }
 
 void DialogSession::noteShown(GuardedPanel &panel)
 {
-    if (&panel != ownPanel_ && panel.updateRetiredKeys())
-        updateOwnPage();
+    if (!isOwnPage(panel) && panel.updateRetiredKeys())
+        updateOwnPages();
 }
 
 GuardedPanel *DialogSession::panelFor(const QString &key) const
@@ -137,8 +178,10 @@ GuardedPanel *DialogSession::panelFor(const QString &key) const
 QList<GuardedPanel *> DialogSession::panelsWith(const QString &key) const
 {
     QList<GuardedPanel *> panels;
-    if (ownPanel_ && !ownPanel_->isLost() && ownPanel_->keys().contains(key))
-        panels += ownPanel_;
+    for (const OwnPage &own : ownPages_) {
+        if (own.page && !own.panel->isLost() && own.page->shows(key))
+            panels += own.panel;
+    }
     if (GuardedPanel *panel = panelOf_.value(key); panel && !panel->isLost())
         panels += panel;
     return panels;

@@ -43,6 +43,7 @@ void DialogSession::setAttributes(const IppAttributes &attributes)
     options_.attributes = attributes;
     joined_.setJob(JobTemplate::besides(joined_, attributes));
     chosen_.include(joined_.jobOptions());
+    updateOwnPages();
     Q_EMIT jobOptionsChanged();
 }
 

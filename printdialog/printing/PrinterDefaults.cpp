@@ -67,7 +67,9 @@ QMap<QString, QString> choicesOfLp(const DialogSession &session, const QMap<QStr
 {
     const CaselessOptions options(session.options());
     QMap<QString, QString> job;
-    const QMap<QString, QString> ofServer = jobDefaults(session.attributes());
+    // The options of a printer without a PPD have these defaults already.
+    const QMap<QString, QString> ofServer =
+        session.ipp() ? QMap<QString, QString>() : jobDefaults(session.attributes());
     for (auto option = ofServer.cbegin(); option != ofServer.cend(); ++option) {
         if (session.jobOptionKeys().contains(option.key()))
             continue; // has this default already

@@ -309,6 +309,14 @@ mit einer Voreinstellung davon: QUEUE/VOREINSTELLUNG. Oder die Adresse
 eines Druckers, ipp://HOST/ipp/print, ohne Druckserver. Sonst Ihre
 Standardwarteschlange oder der eingebaute Drucker</translation>
     </message>
+    <message>
+        <source>the job&apos;s title at a print queue; otherwise the photo&apos;s name</source>
+        <translation>der Titel des Auftrags in einer Warteschlange; sonst der Name des Fotos</translation>
+    </message>
+    <message>
+        <source>--title is for print queues; the built-in printer names its files after the photos.</source>
+        <translation>--title ist für Warteschlangen; der eingebaute Drucker benennt seine Dateien nach den Fotos.</translation>
+    </message>
 </context>
 <context>
     <name>Console</name>
@@ -2100,6 +2108,10 @@ Standardwarteschlange oder der eingebaute Drucker</translation>
         <source>More Options</source>
         <translation>Weitere Optionen</translation>
     </message>
+    <message>
+        <source>Job</source>
+        <translation>Auftrag</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::FileName</name>
@@ -2301,6 +2313,14 @@ Standardwarteschlange oder der eingebaute Drucker</translation>
     <message>
         <source>Job</source>
         <translation>Auftrag</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Titel</translation>
+    </message>
+    <message>
+        <source>The photo&apos;s name</source>
+        <translation>Der Name des Fotos</translation>
     </message>
 </context>
 <context>

@@ -308,6 +308,14 @@ un preajuste suyo: QUEUE/PREAJUSTE. O la dirección de una impresora,
 ipp://HOST/ipp/print, sin servidor de impresión. Si no, su cola
 predeterminada o, si no hay, la integrada</translation>
     </message>
+    <message>
+        <source>the job&apos;s title at a print queue; otherwise the photo&apos;s name</source>
+        <translation>el título del trabajo en una cola de impresión; si no, el nombre de la foto</translation>
+    </message>
+    <message>
+        <source>--title is for print queues; the built-in printer names its files after the photos.</source>
+        <translation>--title es para colas de impresión; la impresora integrada nombra sus archivos según las fotos.</translation>
+    </message>
 </context>
 <context>
     <name>Console</name>
@@ -2099,6 +2107,10 @@ predeterminada o, si no hay, la integrada</translation>
         <source>More Options</source>
         <translation>Más opciones</translation>
     </message>
+    <message>
+        <source>Job</source>
+        <translation>Trabajo</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::FileName</name>
@@ -2300,6 +2312,14 @@ predeterminada o, si no hay, la integrada</translation>
     <message>
         <source>Job</source>
         <translation>Trabajo</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Título</translation>
+    </message>
+    <message>
+        <source>The photo&apos;s name</source>
+        <translation>El nombre de la foto</translation>
     </message>
 </context>
 <context>

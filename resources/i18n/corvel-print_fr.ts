@@ -309,6 +309,14 @@ avec un de ses préréglages&#x202f;: QUEUE/PRÉRÉGLAGE. Ou l’adresse d’une
 imprimante, ipp://HOST/ipp/print, sans serveur d’impression. Sinon
 votre file par défaut, ou à défaut l’imprimante intégrée</translation>
     </message>
+    <message>
+        <source>the job&apos;s title at a print queue; otherwise the photo&apos;s name</source>
+        <translation>le titre de la tâche dans une file d’attente ; sinon le nom de la photo</translation>
+    </message>
+    <message>
+        <source>--title is for print queues; the built-in printer names its files after the photos.</source>
+        <translation>--title est pour les files d’attente ; l’imprimante intégrée nomme ses fichiers d’après les photos.</translation>
+    </message>
 </context>
 <context>
     <name>Console</name>
@@ -2100,6 +2108,10 @@ votre file par défaut, ou à défaut l’imprimante intégrée</translation>
         <source>More Options</source>
         <translation>Plus d’options</translation>
     </message>
+    <message>
+        <source>Job</source>
+        <translation>Tâche</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::FileName</name>
@@ -2301,6 +2313,14 @@ votre file par défaut, ou à défaut l’imprimante intégrée</translation>
     <message>
         <source>Job</source>
         <translation>Tâche</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Titre</translation>
+    </message>
+    <message>
+        <source>The photo&apos;s name</source>
+        <translation>Le nom de la photo</translation>
     </message>
 </context>
 <context>

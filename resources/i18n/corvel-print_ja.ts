@@ -308,6 +308,14 @@ QUEUE/プリセット。プリントサーバーを使わない場合はプリ�
 アドレス ipp://HOST/ipp/print。省略すると既定のキュー、なければ
 内蔵プリンター</translation>
     </message>
+    <message>
+        <source>the job&apos;s title at a print queue; otherwise the photo&apos;s name</source>
+        <translation>印刷キューでのジョブのタイトル。指定しなければ写真の名前</translation>
+    </message>
+    <message>
+        <source>--title is for print queues; the built-in printer names its files after the photos.</source>
+        <translation>--title は印刷キュー用です。内蔵プリンターはファイルに写真の名前を付けます。</translation>
+    </message>
 </context>
 <context>
     <name>Console</name>
@@ -2098,6 +2106,10 @@ QUEUE/プリセット。プリントサーバーを使わない場合はプリ�
         <source>More Options</source>
         <translation>その他の項目</translation>
     </message>
+    <message>
+        <source>Job</source>
+        <translation>ジョブ</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::FileName</name>
@@ -2299,6 +2311,14 @@ QUEUE/プリセット。プリントサーバーを使わない場合はプリ�
     <message>
         <source>Job</source>
         <translation>ジョブ</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>タイトル</translation>
+    </message>
+    <message>
+        <source>The photo&apos;s name</source>
+        <translation>写真の名前</translation>
     </message>
 </context>
 <context>

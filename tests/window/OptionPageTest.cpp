@@ -82,7 +82,7 @@ private Q_SLOTS:
             texts += QString(label->text()).remove(u'&');
         }
         QCOMPARE(found, (QStringList{u"Paper Handling"_s, u"Quality"_s, u"Finishing"_s}));
-        for (const QString &label : {u"Paper Source"_s, u"Two-Sided"_s})
+        for (const QString &label : {u"Paper Source"_s, u"Toner Density"_s})
             QVERIFY2(texts.contains(label), qPrintable(label));
         QVERIFY(opened.find<QCheckBox>(u"TonerSave"_s) && opened.find<QComboBox>(u"Resolution"_s));
         QCOMPARE(opened.dialog->findChildren<QCheckBox *>(u"Finish"_s).size(), 3); // none: no box checked
@@ -133,6 +133,7 @@ private Q_SLOTS:
         QVERIFY(!tray->isEnabled() && items->item(1)->isEnabled());
         QCOMPARE(tray->text(), u"Tray 2 (Tray 2: Not Installed)"_s);
         choose(opened, u"MediaType"_s, u"Transparency"_s);
+        opened.dialog->showPage(1); // with what every job can have
         choose(opened, u"Duplex"_s, u"Long"_s);
         if (mode_ == PanelMode::Settings) {
             opened.dialog->print();

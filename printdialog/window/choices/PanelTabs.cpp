@@ -52,8 +52,8 @@ void PanelTabs::setSession(DialogSession *session)
     makePages();
     if (!session)
         return;
-    connect(session, &DialogSession::pageAdded, this, [this] {
-        addPage(*session_->panels().back());
+    connect(session, &DialogSession::pageAdded, this, [this](qsizetype index) {
+        addPage(*session_->panels().at(static_cast<std::size_t>(index)), index);
         markTabs();
     });
     showPage(currentIndex());
@@ -70,21 +70,23 @@ void PanelTabs::makePages()
     if (!session_)
         return;
     for (const auto &panel : session_->panels())
-        addPage(*panel);
+        addPage(*panel, pages_.size());
     addTab(summary_, tr("Summary"));
     markTabs();
     setCurrentIndex(0);
 }
 
-void PanelTabs::addPage(GuardedPanel &panel)
+void PanelTabs::addPage(GuardedPanel &panel, qsizetype index)
 {
     auto *holder = new QWidget;
     auto *layout = new QVBoxLayout(holder);
     layout->setContentsMargins(pageMargin, pageMargin, pageMargin, pageMargin);
     // A tab's text is read like a button's, so an ampersand in a name is escaped.
     const QString name = panel.name().isEmpty() ? tr("Options") : panel.name();
-    insertTab(static_cast<int>(pages_.size()), holder, QString(name).replace(u'&', QStringLiteral("&&")));
-    pages_.append({&panel, holder});
+    pages_.insert(index, {&panel, holder});
+    if (index <= shown_)
+        ++shown_;
+    insertTab(static_cast<int>(index), holder, QString(name).replace(u'&', QStringLiteral("&&")));
     panelOf_.insert(holder, &panel);
     // Queued: the current event may be one of the view's.
     connect(

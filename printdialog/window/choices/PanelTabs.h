@@ -71,7 +71,7 @@ private:
 
     GuardedPanel *panelOn(int page) const;
     void makePages();
-    void addPage(GuardedPanel &panel);
+    void addPage(GuardedPanel &panel, qsizetype index);
     void markTabs();
     void markView(QWidget &view);
     void showPage(int page);

@@ -129,6 +129,7 @@ QString PresetController::keep(const QMap<QString, QString> &options)
 
 QMap<QString, QString> PresetController::withCopies(QMap<QString, QString> options) const
 {
+    options.remove(JobTemplate::titleKey()); // the next job is of other photos
     options.removeIf([this](const auto &choice) {
         return isCustomChoice(*choice) && isSecret(session_->options().customParameters(choice.key()));
     });
