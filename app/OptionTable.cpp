@@ -3,6 +3,7 @@
 
 #include "OptionTable.h"
 
+#include "ChoiceMarker.h"
 #include "DialogSession.h"
 #include "GuardedPanel.h"
 #include "NumericChoices.h"
@@ -11,6 +12,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 
 namespace printdialog {
 
@@ -32,6 +34,16 @@ QJsonValue orNull(const std::optional<QString> &text)
     return text ? QJsonValue(*text) : QJsonValue(QJsonValue::Null);
 }
 
+/// Width and height in millimeters, with two decimals.
+QJsonArray millimeters(const QSizeF &points)
+{
+    constexpr double perPoint = 25.4 / 72;
+    QJsonArray sides;
+    for (const double side : {points.width(), points.height()})
+        sides.append(std::round(side * perPoint * 100) / 100);
+    return sides;
+}
+
 QString orDash(const std::optional<QString> &text)
 {
     return text.value_or(QStringLiteral("-"));
@@ -46,20 +58,24 @@ OptionTable::OptionTable(const DialogSession &session)
     for (const QString &key : source.options()) {
         const auto panel = panels.constFind(key);
         rows_.append({key, source.optionText(key), session.chosen(key), source.defaultChoice(key),
-                      panel == panels.cend() ? std::nullopt : std::optional(*panel), source.choices(key)});
+                      panel == panels.cend() ? std::nullopt : std::optional(*panel), source.choices(key),
+                      ChoiceMarker::customAllowed(source, key),
+                      key == source.pageSizeKey() ? source.customPageRange() : std::nullopt});
     }
 }
 
-QString OptionTable::shortened(const QList<Choice> &choices)
+QString OptionTable::shortened(const Row &row)
 {
     QStringList keywords;
-    for (const Choice &choice : choices)
+    for (const Choice &choice : row.choices)
         keywords.append(choice.keyword);
     const QString range = NumericChoices(keywords).range();
     if (!range.isEmpty()) {
         keywords.removeIf([](const QString &keyword) { return decimalText(keyword) == DecimalText::Number; });
         keywords.append(range);
     }
+    if (!row.custom.isEmpty())
+        keywords.append(row.custom);
     return keywords.join(QLatin1String(", "));
 }
 
@@ -68,7 +84,7 @@ QStringList OptionTable::lines() const
     using Cells = std::array<QString, 5>;
     QList<Cells> table = {{tr("Option"), tr("Text"), tr("Choice"), tr("Panel"), tr("Choices")}};
     for (const Row &row : rows_)
-        table.append({row.keyword, row.text, orDash(row.choice), orDash(row.panel), shortened(row.choices)});
+        table.append({row.keyword, row.text, orDash(row.choice), orDash(row.panel), shortened(row)});
 
     std::array<qsizetype, 5> widths = {};
     for (const Cells &cells : table) {
@@ -94,14 +110,19 @@ QJsonArray OptionTable::json() const
             choices.append(QJsonObject{{QStringLiteral("keyword"), choice.keyword},
                                        {QStringLiteral("text"), choice.text}});
         }
-        array.append(QJsonObject{
+        QJsonObject object{
             {QStringLiteral("keyword"), row.keyword},
             {QStringLiteral("text"), row.text},
             {QStringLiteral("choice"), orNull(row.choice)},
             {QStringLiteral("default"), orNull(row.defaultChoice)},
             {QStringLiteral("panel"), orNull(row.panel)},
             {QStringLiteral("choices"), choices},
-        });
+        };
+        if (row.pageRange)
+            object.insert(QStringLiteral("customMillimeters"),
+                          QJsonObject{{QStringLiteral("smallest"), millimeters(row.pageRange->smallest)},
+                                      {QStringLiteral("largest"), millimeters(row.pageRange->largest)}});
+        array.append(object);
     }
     return array;
 }

@@ -34,9 +34,11 @@ private:
         std::optional<QString> defaultChoice;
         std::optional<QString> panel; ///< the name of the panel that handles it
         QList<Choice> choices;
+        QString custom;                           ///< the spelling and range of its custom choices
+        std::optional<CustomPageRange> pageRange; ///< of the page size
     };
 
-    static QString shortened(const QList<Choice> &choices);
+    static QString shortened(const Row &row);
 
     QList<Row> rows_;
 };

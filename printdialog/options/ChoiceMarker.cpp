@@ -8,6 +8,7 @@
 #include "PlainText.h"
 
 #include <QtCore/QCoreApplication>
+#include <QtCore/QLocale>
 
 #include <algorithm>
 
@@ -29,23 +30,32 @@ QString quoted(const QString &keyword, const QString &text)
     return text == keyword ? Text::tr("\"%1\"").arg(keyword) : Text::tr("\"%1\" (%2)").arg(keyword, text);
 }
 
-/// Such as "Custom.VALUE (from 1 to 99)".
-QString customAllowed(const QList<CustomParameter> &parameters)
-{
-    if (parameters.size() == 1)
-        return Text::tr("Custom.VALUE (%1)").arg(allowedText(parameters.constFirst()));
-    QStringList each;
-    for (const CustomParameter &parameter : parameters)
-        each += Text::tr("%1=VALUE (%2)").arg(parameter.name, allowedText(parameter));
-    return u'{' + each.join(u' ') + u'}';
-}
-
 } // namespace
 
 ChoiceMarker::ChoiceMarker(OptionSource &source)
     : source_(source)
     , constraints_(source)
 {
+}
+
+QString ChoiceMarker::customAllowed(const OptionSource &source, const QString &key)
+{
+    const auto range = key == source.pageSizeKey() ? source.customPageRange() : std::nullopt;
+    if (range) {
+        const bool isMetric = QLocale().measurementSystem() == QLocale::MetricSystem;
+        return Text::tr("Custom.WIDTHxHEIGHT%1 (from %2 to %3)")
+            .arg(isMetric ? QStringLiteral("mm") : QStringLiteral("in"), pageSizeText(range->smallest),
+                 pageSizeText(range->largest));
+    }
+    const QList<CustomParameter> parameters = source.customParameters(key);
+    if (parameters.isEmpty())
+        return {};
+    if (parameters.size() == 1)
+        return Text::tr("Custom.VALUE (%1)").arg(allowedText(parameters.constFirst()));
+    QStringList each;
+    for (const CustomParameter &parameter : parameters)
+        each += Text::tr("%1=VALUE (%2)").arg(parameter.name, allowedText(parameter));
+    return u'{' + each.join(u' ') + u'}';
 }
 
 Ruling ChoiceMarker::check(const QString &key, const QString &choice) const
@@ -222,9 +232,8 @@ QString ChoiceMarker::allowed(const QString &key) const
     listed = listed.first(std::min(listed.size(), mostListed));
     if (!range.isEmpty())
         listed += range;
-    const QList<CustomParameter> parameters = source_.customParameters(key);
-    if (!parameters.isEmpty())
-        listed += customAllowed(parameters);
+    if (const QString custom = customAllowed(source_, key); !custom.isEmpty())
+        listed += custom;
     const QString list = listed.join(QStringLiteral(", "));
     return more > 0 ? Text::tr("%1 and %2 more").arg(list, QString::number(more)) : list;
 }

@@ -87,6 +87,9 @@ public:
         return constraints_.againstEquipment(key, choice);
     }
 
+    /// The spelling and range of the option's custom choices, for people; empty when it has none.
+    static QString customAllowed(const OptionSource &source, const QString &key);
+
     /// The choice's keyword in the source's spelling, or nothing when the option does not have it.
     std::optional<QString> canonicalChoice(const QString &key, const QString &choice) const;
 

@@ -161,9 +161,11 @@ std::optional<CustomPageRange> PpdDocument::customPageRange() const
         return std::nullopt;
     const CustomPageRange range{sizeOf(std::to_array(record_->custom_min)),
                                 sizeOf(std::to_array(record_->custom_max))};
+    constexpr double longest = 1e5; // points, 35 m
     const bool isUsable = range.smallest.width() >= 1 && range.smallest.height() >= 1 &&
                           range.largest.width() >= range.smallest.width() &&
-                          range.largest.height() >= range.smallest.height();
+                          range.largest.height() >= range.smallest.height() &&
+                          range.largest.width() <= longest && range.largest.height() <= longest;
     return isUsable ? std::optional(range) : std::nullopt;
 }
 

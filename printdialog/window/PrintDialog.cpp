@@ -70,6 +70,10 @@ PrintDialog::PrintDialog(const PrintDialogSetup &setup, QWidget *parent)
     ui_->printer->setStaying(
         [this] { return pageStays() ? std::optional(printer_->queue().id()) : std::nullopt; });
     connect(ui_->pageSize, &QComboBox::activated, this, &PrintDialog::choosePageSize);
+    connect(ui_->customPage, &CustomPageFields::sizeTyped, this, &PrintDialog::chooseTypedSize);
+    connect(ui_->customPage, &CustomPageFields::refused, choices_, &ChoiceController::refuse);
+    for (QLineEdit *field : ui_->customPage->fields())
+        choices_->watchField(field);
     connect(ui_->browse, &QPushButton::clicked, this, &PrintDialog::browseFolder);
     connect(ui_->panels, &PanelTabs::panelFailed, this,
             [this](const QString &text) { ui_->message->show(MessageBar::Kind::Error, text); });

@@ -18,6 +18,8 @@
 #include <memory>
 #include <optional>
 
+class QLineEdit;
+
 namespace Ui {
 class PrintDialog;
 }
@@ -109,6 +111,7 @@ private:
     // The page
     void fillPageSizes();
     void choosePageSize(int index);
+    void chooseTypedSize(const QSizeF &points, QLineEdit *field);
     void showPageSize();
 
     // The buttons
@@ -127,6 +130,7 @@ private:
     std::unique_ptr<PrinterController> printer_;
     ChoiceController *choices_ = nullptr;
     PrintingController *printing_ = nullptr;
+    int listedSizes_ = 0; ///< the items of the paper-size list before those for a custom size
 };
 
 } // namespace printdialog

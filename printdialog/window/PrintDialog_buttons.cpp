@@ -30,7 +30,8 @@ void PrintDialog::updateButtons()
 
 void PrintDialog::print()
 {
-    if (!isReady() || printing_->isBusy() || ui_->photos->photos().isEmpty() || pageStays())
+    if (!isReady() || printing_->isBusy() || ui_->photos->photos().isEmpty() || pageStays() ||
+        !ui_->customPage->finish())
         return;
     if (!printing_->print(ui_->copies->value(), ui_->folder->text(), printer_->queue()))
         return;
@@ -86,6 +87,8 @@ void PrintDialog::closeEvent(QCloseEvent *event)
 
 void PrintDialog::saveSettings()
 {
+    if (!ui_->customPage->finish())
+        return;
     const auto options = printer_->session()->jobOptions();
     if (!options) {
         choices_->explainJob();

@@ -13,6 +13,12 @@
 
 namespace printdialog {
 
+namespace {
+
+const QString customItem = QStringLiteral("Custom"); // is not a choice itself
+
+} // namespace
+
 // The printer
 
 void PrintDialog::followPrinter()
@@ -75,6 +81,7 @@ void PrintDialog::closeSession()
     ui_->panels->setSession(nullptr);
     printing_->setSession(nullptr);
     ui_->pageSize->clear();
+    ui_->customPage->hide();
 }
 
 void PrintDialog::showSession()
@@ -176,25 +183,63 @@ bool PrintDialog::applyOptions(Requested which)
 
 void PrintDialog::fillPageSizes()
 {
+    const OptionSource &options = printer_->session()->options();
     ui_->pageSize->clear();
-    for (const PageSize &size : printer_->session()->options().pageSizes())
+    for (const PageSize &size : options.pageSizes())
         ui_->pageSize->addItem(size.text, size.keyword);
+    listedSizes_ = ui_->pageSize->count();
+    if (options.customPageRange())
+        ui_->pageSize->addItem(tr("Custom…", "a paper size to type"), customItem);
+    ui_->customPage->setRange(options.customPageRange());
     showPageSize();
 }
 
 void PrintDialog::choosePageSize(int index)
 {
-    choices_->choosePageSize(ui_->pageSize->itemData(index).toString());
-    if (printer_->session())
-        showPageSize();
+    if (!printer_->session())
+        return;
+    const DialogSession &session = *printer_->session();
+    const QString key = session.options().pageSizeKey();
+    QString keyword = ui_->pageSize->itemData(index).toString();
+    const bool begins = keyword == customItem;
+    if (begins) {
+        // From the size chosen so far, which may be a custom one already.
+        const QString before = session.chosen(key).value_or(QString());
+        const auto size = session.options().pageSize(before);
+        keyword = ui_->pageSize->findData(before) >= listedSizes_
+                      ? before
+                      : customPageKeyword(ui_->customPage->nearest(size ? size->points : QSizeF()));
+    }
+    choices_->choosePageSize(keyword, ui_->pageSize);
+    showPageSize();
+    if (begins && session.chosen(key) == keyword)
+        ui_->customPage->begin();
+}
+
+void PrintDialog::chooseTypedSize(const QSizeF &points, QLineEdit *field)
+{
+    const QString keyword = customPageKeyword(points);
+    const DialogSession *session = printer_->session();
+    if (session && session->chosen(session->options().pageSizeKey()) != keyword)
+        choices_->choosePageSize(keyword, field);
 }
 
 void PrintDialog::showPageSize()
 {
     const OptionSource &options = printer_->session()->options();
     const QString chosen = printer_->session()->chosen(options.pageSizeKey()).value_or(QString());
-    ui_->pageSize->setCurrentIndex(ui_->pageSize->findData(chosen));
-    if (const auto size = options.pageSize(chosen))
+    const auto size = options.pageSize(chosen);
+    // A custom size is listed, before the item for another one, while it is chosen.
+    while (ui_->pageSize->count() > listedSizes_ + 1)
+        ui_->pageSize->removeItem(listedSizes_);
+    const bool isCustom = size && ui_->pageSize->findData(size->keyword) < 0;
+    if (isCustom) {
+        ui_->pageSize->insertItem(listedSizes_, size->text, size->keyword);
+        ui_->customPage->showSize(size->points);
+    }
+    ui_->customPage->setVisible(isCustom);
+    ui_->pageSize->setCurrentIndex(ui_->pageSize->findData(size ? size->keyword : chosen));
+    if (size)
         ui_->photos->setPage({size->points, size->imageable});
 }
 

@@ -81,6 +81,10 @@
         <source>%1=VALUE (%2)</source>
         <translation>%1=WERT (%2)</translation>
     </message>
+    <message>
+        <source>Custom.WIDTHxHEIGHT%1 (from %2 to %3)</source>
+        <translation>Custom.BREITExHÖHE%1 (von %2 bis %3)</translation>
+    </message>
 </context>
 <context>
     <name>CommandLine</name>
@@ -2085,6 +2089,42 @@ Standardwarteschlange oder der eingebaute Drucker</translation>
     </message>
 </context>
 <context>
+    <name>printdialog::CustomPageFields</name>
+    <message>
+        <source>Width:</source>
+        <translation>Breite:</translation>
+    </message>
+    <message>
+        <source>Height:</source>
+        <translation>Höhe:</translation>
+    </message>
+    <message>
+        <source>%1 to %2</source>
+        <comment>the smallest and the largest size</comment>
+        <translation>%1 bis %2</translation>
+    </message>
+    <message>
+        <source>The width can be %1.</source>
+        <comment>from one length to another</comment>
+        <translation>Die Breite ist %1 wählbar.</translation>
+    </message>
+    <message>
+        <source>The height can be %1.</source>
+        <comment>from one length to another</comment>
+        <translation>Die Höhe ist %1 wählbar.</translation>
+    </message>
+    <message>
+        <source>Width (%1)</source>
+        <comment>and its unit</comment>
+        <translation>Breite (%1)</translation>
+    </message>
+    <message>
+        <source>Height (%1)</source>
+        <comment>and its unit</comment>
+        <translation>Höhe (%1)</translation>
+    </message>
+</context>
+<context>
     <name>printdialog::DialogSession</name>
     <message>
         <source>The option &quot;%1&quot; lacks what has to be entered for it.</source>
@@ -2928,6 +2968,11 @@ Standardwarteschlange oder der eingebaute Drucker</translation>
     <message>
         <source>Close Anyway</source>
         <translation>Trotzdem schließen</translation>
+    </message>
+    <message>
+        <source>Custom…</source>
+        <comment>a paper size to type</comment>
+        <translation>Eigene Größe …</translation>
     </message>
 </context>
 <context>

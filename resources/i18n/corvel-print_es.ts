@@ -81,6 +81,10 @@
         <source>%1=VALUE (%2)</source>
         <translation>%1=VALOR (%2)</translation>
     </message>
+    <message>
+        <source>Custom.WIDTHxHEIGHT%1 (from %2 to %3)</source>
+        <translation>Custom.ANCHOxALTO%1 (de %2 a %3)</translation>
+    </message>
 </context>
 <context>
     <name>CommandLine</name>
@@ -2084,6 +2088,42 @@ predeterminada o, si no hay, la integrada</translation>
     </message>
 </context>
 <context>
+    <name>printdialog::CustomPageFields</name>
+    <message>
+        <source>Width:</source>
+        <translation>Ancho:</translation>
+    </message>
+    <message>
+        <source>Height:</source>
+        <translation>Alto:</translation>
+    </message>
+    <message>
+        <source>%1 to %2</source>
+        <comment>the smallest and the largest size</comment>
+        <translation>%1 a %2</translation>
+    </message>
+    <message>
+        <source>The width can be %1.</source>
+        <comment>from one length to another</comment>
+        <translation>El ancho puede ir %1.</translation>
+    </message>
+    <message>
+        <source>The height can be %1.</source>
+        <comment>from one length to another</comment>
+        <translation>El alto puede ir %1.</translation>
+    </message>
+    <message>
+        <source>Width (%1)</source>
+        <comment>and its unit</comment>
+        <translation>Ancho (%1)</translation>
+    </message>
+    <message>
+        <source>Height (%1)</source>
+        <comment>and its unit</comment>
+        <translation>Alto (%1)</translation>
+    </message>
+</context>
+<context>
     <name>printdialog::DialogSession</name>
     <message>
         <source>The option &quot;%1&quot; lacks what has to be entered for it.</source>
@@ -2927,6 +2967,11 @@ predeterminada o, si no hay, la integrada</translation>
     <message>
         <source>Close Anyway</source>
         <translation>Cerrar de todos modos</translation>
+    </message>
+    <message>
+        <source>Custom…</source>
+        <comment>a paper size to type</comment>
+        <translation>Personalizado…</translation>
     </message>
 </context>
 <context>

@@ -81,6 +81,10 @@
         <source>%1=VALUE (%2)</source>
         <translation>%1=VALEUR (%2)</translation>
     </message>
+    <message>
+        <source>Custom.WIDTHxHEIGHT%1 (from %2 to %3)</source>
+        <translation>Custom.LARGEURxHAUTEUR%1 (de %2 à %3)</translation>
+    </message>
 </context>
 <context>
     <name>CommandLine</name>
@@ -311,11 +315,11 @@ votre file par défaut, ou à défaut l’imprimante intégrée</translation>
     </message>
     <message>
         <source>the job&apos;s title at a print queue; otherwise the photo&apos;s name</source>
-        <translation>le titre de la tâche dans une file d’attente ; sinon le nom de la photo</translation>
+        <translation>le titre de la tâche dans une file d’attente&#x202f;; sinon le nom de la photo</translation>
     </message>
     <message>
         <source>--title is for print queues; the built-in printer names its files after the photos.</source>
-        <translation>--title est pour les files d’attente ; l’imprimante intégrée nomme ses fichiers d’après les photos.</translation>
+        <translation>--title est pour les files d’attente&#x202f;; l’imprimante intégrée nomme ses fichiers d’après les photos.</translation>
     </message>
 </context>
 <context>
@@ -2085,6 +2089,42 @@ votre file par défaut, ou à défaut l’imprimante intégrée</translation>
     </message>
 </context>
 <context>
+    <name>printdialog::CustomPageFields</name>
+    <message>
+        <source>Width:</source>
+        <translation>Largeur&#x202f;:</translation>
+    </message>
+    <message>
+        <source>Height:</source>
+        <translation>Hauteur&#x202f;:</translation>
+    </message>
+    <message>
+        <source>%1 to %2</source>
+        <comment>the smallest and the largest size</comment>
+        <translation>%1 à %2</translation>
+    </message>
+    <message>
+        <source>The width can be %1.</source>
+        <comment>from one length to another</comment>
+        <translation>La largeur peut aller %1.</translation>
+    </message>
+    <message>
+        <source>The height can be %1.</source>
+        <comment>from one length to another</comment>
+        <translation>La hauteur peut aller %1.</translation>
+    </message>
+    <message>
+        <source>Width (%1)</source>
+        <comment>and its unit</comment>
+        <translation>Largeur (%1)</translation>
+    </message>
+    <message>
+        <source>Height (%1)</source>
+        <comment>and its unit</comment>
+        <translation>Hauteur (%1)</translation>
+    </message>
+</context>
+<context>
     <name>printdialog::DialogSession</name>
     <message>
         <source>The option &quot;%1&quot; lacks what has to be entered for it.</source>
@@ -2928,6 +2968,11 @@ votre file par défaut, ou à défaut l’imprimante intégrée</translation>
     <message>
         <source>Close Anyway</source>
         <translation>Fermer quand même</translation>
+    </message>
+    <message>
+        <source>Custom…</source>
+        <comment>a paper size to type</comment>
+        <translation>Personnalisé…</translation>
     </message>
 </context>
 <context>

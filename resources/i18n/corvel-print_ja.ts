@@ -81,6 +81,10 @@
         <source>%1=VALUE (%2)</source>
         <translation>%1=値（%2）</translation>
     </message>
+    <message>
+        <source>Custom.WIDTHxHEIGHT%1 (from %2 to %3)</source>
+        <translation>Custom.幅x高さ%1（%2～%3）</translation>
+    </message>
 </context>
 <context>
     <name>CommandLine</name>
@@ -2083,6 +2087,42 @@ QUEUE/プリセット。プリントサーバーを使わない場合はプリ�
     </message>
 </context>
 <context>
+    <name>printdialog::CustomPageFields</name>
+    <message>
+        <source>Width:</source>
+        <translation>幅:</translation>
+    </message>
+    <message>
+        <source>Height:</source>
+        <translation>高さ:</translation>
+    </message>
+    <message>
+        <source>%1 to %2</source>
+        <comment>the smallest and the largest size</comment>
+        <translation>%1～%2</translation>
+    </message>
+    <message>
+        <source>The width can be %1.</source>
+        <comment>from one length to another</comment>
+        <translation>幅の範囲は%1です。</translation>
+    </message>
+    <message>
+        <source>The height can be %1.</source>
+        <comment>from one length to another</comment>
+        <translation>高さの範囲は%1です。</translation>
+    </message>
+    <message>
+        <source>Width (%1)</source>
+        <comment>and its unit</comment>
+        <translation>幅（%1）</translation>
+    </message>
+    <message>
+        <source>Height (%1)</source>
+        <comment>and its unit</comment>
+        <translation>高さ（%1）</translation>
+    </message>
+</context>
+<context>
     <name>printdialog::DialogSession</name>
     <message>
         <source>The option &quot;%1&quot; lacks what has to be entered for it.</source>
@@ -2924,6 +2964,11 @@ QUEUE/プリセット。プリントサーバーを使わない場合はプリ�
     <message>
         <source>Close Anyway</source>
         <translation>それでも閉じる</translation>
+    </message>
+    <message>
+        <source>Custom…</source>
+        <comment>a paper size to type</comment>
+        <translation>カスタム…</translation>
     </message>
 </context>
 <context>

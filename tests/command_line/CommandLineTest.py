@@ -3,6 +3,7 @@
 """What corvel-print prints and lists, without a print server."""
 
 import json
+import os
 import pathlib
 import re
 import shutil
@@ -145,6 +146,22 @@ class CommandLineTest(ProgramTest):
         self.assertEqual((text.status, text.out.count("\n")), (0, len(options) + 1))
         self.assertIn("-25 to 25\n", text.out)
         self.assertIn("  Standard, Fine\n", text.out)
+
+    def test_prints_on_custom_paper(self):
+        laser = "--ppd", os.environ["CORVEL_LASER_PPD"]
+        sizes = listed_options(*laser)["PageSize"]["customMillimeters"]
+        self.assertEqual(sizes, {"smallest": [70.56, 105.83], "largest": [215.9, 423.33]})
+        self.assertIn("Custom.WIDTHxHEIGHTmm (from 70.6 × 105.8 mm to 215.9 × 423.3 mm)\n",
+                      run(*laser, "--list-options").out)
+        self.assertNotIn("customMillimeters", listed_options()["PageSize"])
+        for spelled in "100x150mm", "10x15cm", "283.4646x425.1969":
+            self.assertEqual(listed_options(*laser, "-o", f"PageSize=Custom.{spelled}")["PageSize"]["choice"],
+                             "Custom.100x150mm")
+        for spelled in "10x150mm", "100x150furlong", "nanx150mm":
+            done = run(*laser, "--list-options", "-o", f"PageSize=Custom.{spelled}")
+            self.assertEqual(done.status, 1)
+            self.assertIn(f'no choice "Custom.{spelled}"', done.err)
+            self.assertIn("Custom.WIDTHxHEIGHTmm (from 70.6 × 105.8 mm to 215.9 × 423.3 mm).", done.err)
 
     def test_shows_the_summary(self):
         arguments = "-o", "Red=7", "--scaling", "fill", "--summary"

@@ -141,6 +141,25 @@ private Q_SLOTS:
         QVERIFY2(cupsd_.activeJobs().isEmpty(), cupsd_.activeJobs().constData());
     }
 
+    // In the spelling that CUPS reads, through the filters of an office printer.
+    void customPage()
+    {
+        QByteArray ppd = contentOf(QStringLiteral(CORVEL_LASER_PPD));
+        ppd.replace("*cupsFilter: \"application/vnd.cups-pdf 0 -\"\n", {})
+            .replace("*cupsFilter: \"image/jpeg 0 -\"\n*cupsFilter: \"application/pdf 0 -\"\n", {});
+        QVERIFY(!ppd.contains("*cupsFilter:") && cupsd_.addQueue(u"office"_s, ppd));
+        const ProgramRun run = runProgram({u"--printer"_s, u"office"_s, u"--batch"_s, u"-o"_s,
+                                           u"PageSize=Custom.3.937inx15cm"_s, samplePhoto});
+        QCOMPARE(run.status, 1); // two units
+        const ProgramRun sent = runProgram(
+            {u"--printer"_s, u"office"_s, u"--batch"_s, u"-o"_s, u"PageSize=Custom.10x15cm"_s, samplePhoto});
+        QVERIFY2(sent.status == 0, sent.err.constData());
+        QVERIFY(cupsd_.waitForJob(jobIn(sent)));
+        const RecordedJob job = cupsd_.job(jobIn(sent));
+        QVERIFY2(optionsIn(job).contains("PageSize=Custom.100x150mm"), job.options.constData());
+        QVERIFY(job.document.startsWith("%!PS") && job.document.contains("*CustomPageSize True\n283.46"));
+    }
+
     void sendsWhatTheDryRunShows_data()
     {
         const auto add = rows<QString, QString, QStringList, QString>();

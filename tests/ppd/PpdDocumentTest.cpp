@@ -390,6 +390,32 @@ private Q_SLOTS:
         QCOMPARE(document.markedChoice(u"PageSize"_s), u"w288h432"_s); // the default cannot be printed on
     }
 
+    void customPageRange_data()
+    {
+        addRows<QByteArray, bool>({
+            {"usable", "1 points 100 500", true},
+            {"upside down", "1 points 500 100", false},
+            {"nothing is the smallest", "1 points 0 500", false},
+            {"negative", "1 points -9 500", false},
+            {"not a number", "1 points nan nan", false},
+            {"endless", "1 points 100 1e39", false},
+        });
+    }
+
+    void customPageRange()
+    {
+        const auto [width, isUsable] = row<QByteArray, bool>();
+        const PpdDocument document =
+            opened(header + option("PageSize", {"A5"}) + "*PaperDimension A5: \"420 595\"\n" +
+                   "*CustomPageSize True: \"pop\"\n*ParamCustomPageSize Width: " + width +
+                   "\n*ParamCustomPageSize Height: 2 points 100 500\n"
+                   "*ParamCustomPageSize WidthOffset: 3 points 0 0\n"
+                   "*ParamCustomPageSize HeightOffset: 4 points 0 0\n"
+                   "*ParamCustomPageSize Orientation: 5 int 0 0\n");
+        QCOMPARE(document.customPageRange().has_value(), isUsable);
+        QCOMPARE(document.pageSize(u"Custom.300x400"_s).has_value(), isUsable);
+    }
+
     // libcups opens these, and there has to be a page to print on.
     void assumesPageSizes_data()
     {

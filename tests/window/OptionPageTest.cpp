@@ -1,12 +1,14 @@
 // SPDX-FileCopyrightText: Corvel print dialog authors
 // SPDX-License-Identifier: Apache-2.0
 
+#include "CustomChoice.h"
 #include "OpenedDialog.h"
 #include "QueueSettings.h"
 #include "Rows.h"
 #include "TestMain.h"
 
 #include <QtCore/QDirIterator>
+#include <QtCore/QRegularExpression>
 #include <QtGui/QStandardItemModel>
 #include <QtWidgets/QCheckBox>
 #include <QtWidgets/QScrollArea>
@@ -175,6 +177,76 @@ private Q_SLOTS:
                  QString(shown).replace(u"A. B"_s, u"A, B"_s).replace(u',', u'.'));
         QVERIFY(opened.prints());
         QCOMPARE(opened.printed(option), printed);
+    }
+
+    void customPage_data()
+    {
+        // The field, its text, what is printed from the A4 that it begins with, what is said at the field.
+        const QString sizeSaid = u"The height can be from 105.8 mm to 423.3 mm."_s;
+        addRows<QString, QString, QString, QString>({
+            {"a decimal point", u"pageWidth"_s, u"100.5"_s, u"Custom.100.5x297mm"_s, u""_s},
+            {"a decimal comma", u"pageHeight"_s, u"150,25"_s, u"Custom.209.9x150.25mm"_s, u""_s},
+            {"the end of the range", u"pageHeight"_s, u"423.3"_s, u"Custom.209.9x423.3mm"_s, u""_s},
+            {"too large", u"pageHeight"_s, u"424"_s, u"Custom.209.9x297mm"_s, sizeSaid},
+            {"too small", u"pageHeight"_s, u"1"_s, u"Custom.209.9x297mm"_s, sizeSaid},
+            {"not a number", u"pageHeight"_s, u"nan"_s, u"Custom.209.9x297mm"_s, sizeSaid},
+            {"nothing", u"pageHeight"_s, u""_s, u"Custom.209.9x297mm"_s, u""_s},
+        });
+    }
+
+    void customPage()
+    {
+        const auto [name, typed, printed, said] = row<QString, QString, QString, QString>();
+        const OpenedDialog opened = open();
+        QVERIFY(!opened.isSeen(name));
+        const auto *sizes = opened.chooseLast(u"pageSize"_s);
+        auto *edit = opened.find<QLineEdit>(name);
+        QCOMPARE(QApplication::focusWidget(), opened.find<QWidget>(u"pageWidth"_s));
+        QVERIFY(edit->isVisible() && edit->accessibleDescription().startsWith(u"from "_s));
+        type(edit, typed);
+        if (typed.isEmpty())
+            QTest::keyClick(edit, Qt::Key_Delete);
+        QTest::keyClick(edit, Qt::Key_Return);
+        QVERIFY(!opened.hasPrinted());
+        QCOMPARE(opened.message(), said);
+        QCOMPARE(sizes->count(), 7); // five sizes, the custom one, and the item for another one
+        const auto points = customPagePoints(printed);
+        QCOMPARE(sizes->currentText(), pageSizeText(*points));
+        QVERIFY(summaryOf(opened).contains(u"Paper size: "_s + pageSizeText(*points)));
+        QVERIFY(opened.prints());
+        QCOMPARE(opened.printed(u"PageSize"_s), printed);
+        QFile pdf(opened.folder.filePath(u"out/sample.pdf"_s));
+        QVERIFY(pdf.open(QIODevice::ReadOnly));
+        const auto box = QRegularExpression(u"/MediaBox ?\\[ ?0 0 ([0-9.]+) ([0-9.]+)"_s)
+                             .match(QString::fromLatin1(pdf.readAll()));
+        QVERIFY(qAbs(box.captured(1).toDouble() - points->width()) < 1 &&
+                qAbs(box.captured(2).toDouble() - points->height()) < 1);
+    }
+
+    // Also when it comes from elsewhere than the fields, in any unit; and no longer than it is chosen.
+    void customPageIsListedWhileChosen()
+    {
+        const OpenedDialog opened = open({{u"PageSize"_s, u"Custom.4.2x6in"_s}});
+        auto *sizes = opened.find<QComboBox>(u"pageSize"_s);
+        auto *width = opened.find<QLineEdit>(u"pageWidth"_s);
+        const QString first = pageSizeText({302.4, 432});
+        QCOMPARE(sizes->currentText(), first);
+        for (const QString &digits : {u"10"_s, u"100"_s, u"1"_s, u"120"_s}) // one act
+            type(width, digits);
+        QCOMPARE(sizes->currentText(), u"120 × 152.4 mm"_s);
+        width->setFocus();
+        opened.undo();
+        QCOMPARE(sizes->currentText(), first);
+        QCOMPARE(width->text(), u"106.7"_s); // shown rounded, kept exactly
+        sizes->setFocus();
+        QTest::keyClick(sizes, Qt::Key_Home);
+        QVERIFY(!width->isVisible() && sizes->findText(first) < 0);
+        QCOMPARE(sizes->count(), 6);
+        opened.undo();
+        QCOMPARE(sizes->currentText(), first);
+        opened.click(u"save"_s);
+        QVERIFY2(opened.message().contains(u"saved"_s), qPrintable(opened.message()));
+        QCOMPARE(open().find<QComboBox>(u"pageSize"_s)->currentText(), first);
     }
 
     // A PIN is sent and nowhere else.

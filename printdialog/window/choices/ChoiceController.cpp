@@ -47,16 +47,29 @@ bool ChoiceController::useAttributes(const IppAttributes &attributes, bool opens
     return presets_->useAttributes(attributes, opensAnew);
 }
 
-void ChoiceController::choosePageSize(const QString &pageSize)
+void ChoiceController::choosePageSize(const QString &pageSize, QWidget *control)
 {
     if (!session_)
         return;
-    steps_->endAct();
+    if (control == widgets_.pageSize)
+        steps_->endAct();
     const Ruling ruling = session_->choose(session_->options().pageSizeKey(), pageSize);
     if (ruling.verdict == Verdict::Accepted)
-        endAct(widgets_.pageSize, false);
+        steps_->noteAct(control);
     else
-        refusals_->explain(ruling, widgets_.pageSize);
+        refusals_->explain(ruling, control);
+}
+
+void ChoiceController::refuse(const QString &text, QWidget *control)
+{
+    if (session_)
+        refusals_->explain({Verdict::UnknownChoice, session_->options().pageSizeKey(), {}, text, {}, {}},
+                           control);
+}
+
+void ChoiceController::watchField(QWidget *field)
+{
+    steps_->watchField(field);
 }
 
 void ChoiceController::explainJob()

@@ -51,8 +51,12 @@ public:
     /// @param opensAnew also when the attributes change nothing in these choices
     bool useAttributes(const IppAttributes &attributes, bool opensAnew);
 
-    /// Applies the user's choice of a page size.
-    void choosePageSize(const QString &pageSize);
+    /// Applies the user's choice of a page size, made with the control.
+    void choosePageSize(const QString &pageSize, QWidget *control);
+    /// Shows beside the control why what was typed there cannot be chosen.
+    void refuse(const QString &text, QWidget *control);
+    /// See ControlWatcher::watchField.
+    void watchField(QWidget *field);
     /// Shows why the session's job cannot be made, and offers a remedy.
     void explainJob();
 

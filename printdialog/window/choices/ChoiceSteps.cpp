@@ -43,7 +43,7 @@ ChoiceSteps::ChoiceSteps(const Widgets &widgets, QObject *parent)
         if (auto *page = qobject_cast<OptionPageView *>(view))
             connect(page, &OptionPageView::rowMade, watcher_, &ControlWatcher::watchView);
     });
-    connect(watcher_, &ControlWatcher::acted, this, &ChoiceSteps::noteAct);
+    connect(watcher_, &ControlWatcher::acted, this, &ChoiceSteps::finishAct);
     connect(watcher_, &ControlWatcher::typingFinished, this, [this] {
         if (session_)
             session_->finishTyping();
@@ -106,7 +106,17 @@ void ChoiceSteps::endAct()
     watcher_->endAct();
 }
 
-void ChoiceSteps::noteAct(QWidget *control, bool continues)
+void ChoiceSteps::watchField(QWidget *field)
+{
+    watcher_->watchField(field);
+}
+
+void ChoiceSteps::noteAct(QWidget *control)
+{
+    watcher_->note(control);
+}
+
+void ChoiceSteps::finishAct(QWidget *control, bool continues)
 {
     if (!session_)
         return;

@@ -44,6 +44,9 @@ public:
     /// Sets the number of copies without making a step.
     void setCopies(int copies);
 
+    /// Watches a field outside the panels. Call noteAct() when the user has made a choice with it.
+    void watchField(QWidget *field);
+    void noteAct(QWidget *control);
     /// The next change begins a new act.
     void endAct();
     /// Ends the act: the changes since the last one become a step. False when nothing has changed.
@@ -66,7 +69,7 @@ Q_SIGNALS:
 private:
     ChoiceHistory::State state() const;
     void make(const ChoiceHistory::State &state);
-    void noteAct(QWidget *control, bool continues);
+    void finishAct(QWidget *control, bool continues);
     void noteCopies(int copies);
     void updateButtons();
 
