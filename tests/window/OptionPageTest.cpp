@@ -231,13 +231,16 @@ private Q_SLOTS:
         auto *width = opened.find<QLineEdit>(u"pageWidth"_s);
         const QString first = pageSizeText({302.4, 432});
         QCOMPARE(sizes->currentText(), first);
+        type(opened.find<QLineEdit>(u"pageHeight"_s), u"200"_s);
+        QCOMPARE(sizes->currentData(), u"Custom.106.68x200mm"_s); // the width is shown rounded, kept exactly
+        opened.undo();
         for (const QString &digits : {u"10"_s, u"100"_s, u"1"_s, u"120"_s}) // one act
             type(width, digits);
         QCOMPARE(sizes->currentText(), u"120 × 152.4 mm"_s);
         width->setFocus();
         opened.undo();
         QCOMPARE(sizes->currentText(), first);
-        QCOMPARE(width->text(), u"106.7"_s); // shown rounded, kept exactly
+        QCOMPARE(width->text(), u"106.7"_s);
         sizes->setFocus();
         QTest::keyClick(sizes, Qt::Key_Home);
         QVERIFY(!width->isVisible() && sizes->findText(first) < 0);
