@@ -10,6 +10,7 @@
 #include "QuietFeedback.h"
 #include "ScreenshotRun.h"
 #include "SystemLog.h"
+#include "TerminalLogin.h"
 #include "WindowRun.h"
 
 #include <QtCore/QFile>
@@ -160,6 +161,7 @@ int runWithoutWindow(const CommandLine &commandLine)
 {
     pdekit::Feedback::install(std::make_shared<QuietFeedback>());
     QuietDecoding::enable();
+    askLoginsOnTerminal();
     Console console;
     const int status = commandLine.batch || commandLine.dryRun ? BatchRun(commandLine, console).run()
                        : commandLine.listPrinters              ? listPrinters(commandLine, console)

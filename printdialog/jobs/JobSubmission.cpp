@@ -74,22 +74,37 @@ class JobInMaking
 {
 public:
     JobInMaking(CupsConnection &connection, const JobSubmission::Progress &sent, int *cancel,
-                const QueueRecord &record)
+                const QueueRecord &record, const QByteArrayList &authInfo)
         : connection_(connection)
         , sent_(sent)
         , cancel_(cancel)
         , record_(record)
+        , authInfo_(authInfo)
         , resource_(QUrl::fromEncoded(record.uri).path(QUrl::FullyEncoded).toLatin1())
     {
     }
 
     Result<int, QueueFault> send(const PrintJob &job, const JobDocument &document)
     {
-        constexpr qint64 step = 65536;
         const IppPointer request = printJob(job, document);
+        for (;;) {
+            auto id = sendOnce(job, document, request.get());
+            // The server may look for a login only when it has the document, which it has dropped then.
+            if (id || !connection_.wantsLogin())
+                return id;
+            connection_.heed(cancel_);
+            if (!connection_.logIn(resource_))
+                return connection_.lastFailure(job.destination.id());
+        }
+    }
+
+private:
+    Result<int, QueueFault> sendOnce(const PrintJob &job, const JobDocument &document, ipp_t *request)
+    {
+        constexpr qint64 step = 65536;
         const qint64 total = document.data.size();
         connection_.extend();
-        bool isTaken = connection_.begin(request.get(), resource_, total);
+        bool isTaken = connection_.begin(request, resource_, total);
         for (qint64 sent = 0; isTaken && sent < total;) {
             const qint64 size = std::min(step, total - sent);
             connection_.extend();
@@ -103,7 +118,6 @@ public:
         return receiveAnswer(job.destination.id());
     }
 
-private:
     IppPointer printJob(const PrintJob &job, const JobDocument &document) const
     {
         IppPointer request = ippRequest(IPP_OP_PRINT_JOB, record_.uri);
@@ -120,6 +134,13 @@ private:
                          nullptr, "none");
         }
         ippAddInteger(request.get(), IPP_TAG_JOB, IPP_TAG_INTEGER, "copies", job.copies);
+        if (!authInfo_.isEmpty()) {
+            QList<const char *> values;
+            for (const QByteArray &value : authInfo_)
+                values += value.constData();
+            ippAddStrings(request.get(), IPP_TAG_JOB, IPP_TAG_TEXT, "auth-info",
+                          static_cast<int>(values.size()), nullptr, values.constData());
+        }
         const IppAttributes attributes = job.ipp ? attributesFor(job, document) : IppAttributes();
         attributes.addToJob(request.get());
         for (const auto &options : {job.options, job.secrets}) {
@@ -160,6 +181,7 @@ private:
     const JobSubmission::Progress &sent_;
     int *cancel_;
     QueueRecord record_;
+    QByteArrayList authInfo_;
     QByteArray resource_;
 };
 
@@ -224,6 +246,8 @@ Result<int, QueueFault> JobSubmission::send(const PrintJob &job, const JobDocume
     if (!connection_)
         connection_ =
             std::make_unique<CupsConnection>(patience_, nullptr, PrinterAddress::of(job.destination.queue));
+    connection_->actFor(job.destination.id());
+    Logins::ofRun().forgive();
     connection_->heed(cancel_);
     connection_->extend(patience_);
     auto record = queueRecord(*connection_, job.destination);
@@ -235,7 +259,40 @@ Result<int, QueueFault> JobSubmission::send(const PrintJob &job, const JobDocume
         return queueFailure(QueueFault::NotAccepting, job.destination.id(), record->stateMessage);
     if (const auto failure = job.ppd ? comparePpd(*job.ppd, *record) : std::nullopt)
         return *failure;
-    return JobInMaking(*connection_, sent_, cancel_, *record).send(job, document);
+    const auto authInfo = authInfoFor(*record);
+    if (!authInfo)
+        return authInfo.failure();
+    return JobInMaking(*connection_, sent_, cancel_, *record, *authInfo).send(job, document);
+}
+
+/// The printer's own name and password, which the print server hands on; empty when it wants none.
+Result<QByteArrayList, QueueFault> JobSubmission::authInfoFor(const QueueRecord &record)
+{
+    const QStringList &wanted = record.authInfoRequired;
+    const QString id = record.destination.id();
+    if (!wanted.contains(QLatin1String("username")) && !wanted.contains(QLatin1String("password")))
+        return QByteArrayList();
+    if (!connection_->isPrivate())
+        return queueFailure(QueueFault::Refused, id,
+                            Text::tr("it wants a password, which would cross the network unencrypted"));
+    const LoginQuestion question{id, connection_->server(), QString::fromUtf8(cupsUser())};
+    const auto login =
+        Logins::ofRun().login(connection_->server() + u' ' + id, question, std::nullopt, cancel_);
+    if (connection_->isCanceled())
+        return queueFailure(QueueFault::Canceled, id);
+    if (!login)
+        return queueFailure(QueueFault::Refused, id, Logins::ofRun().whyNot());
+    connection_->extend(patience_);
+    // Windows' "DOMAIN\user".
+    const QString domain = login->user.contains(u'\\') ? login->user.section(u'\\', 0, 0) : QString();
+    QByteArrayList values;
+    for (const QString &each : wanted)
+        values += (each == QLatin1String("password")          ? login->password
+                   : each == QLatin1String("domain")          ? domain
+                   : wanted.contains(QLatin1String("domain")) ? login->user.section(u'\\', -1)
+                                                              : login->user)
+                      .toUtf8();
+    return values;
 }
 
 Result<QueueRecord, QueueFault> JobSubmission::makeAgain(const PrintJob &job)

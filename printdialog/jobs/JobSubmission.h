@@ -7,6 +7,8 @@
 #include "PrintJob.h"
 #include "QueueFault.h"
 
+#include <QtCore/QByteArrayList>
+
 #include <chrono>
 #include <functional>
 #include <memory>
@@ -61,6 +63,7 @@ private:
     };
 
     Result<QueueRecord, QueueFault> makeAgain(const PrintJob &job);
+    Result<QByteArrayList, QueueFault> authInfoFor(const QueueRecord &record);
     std::optional<Failure<QueueFault>> comparePpd(const QByteArray &ppd, const QueueRecord &record);
 
     Progress sent_;

@@ -151,6 +151,10 @@ OptionsFetcher::OptionsFetcher(QObject *parent, std::chrono::milliseconds limit,
     limit_.setSingleShot(true);
     limit_.setInterval(limit);
     connect(&limit_, &QTimer::timeout, this, [this] {
+        if (Logins::ofRun().isAsking()) {
+            limit_.start();
+            return;
+        }
         const auto passed = limit_.intervalAsDuration();
         take(announcedUri_.isEmpty()
                  ? queueFailure(QueueFault::TimedOut, destination_.id(), limitReason(passed))
@@ -200,6 +204,7 @@ void OptionsFetcher::start(const Destination &destination, const std::optional<C
                   check = check_](BoundedWorker &self) {
         const auto outcome = [&]() -> Result<FetchedOptions, QueueFault> {
             CupsConnection connection(limit, self.cancelFlag(), PrinterAddress::of(destination.queue));
+            connection.actFor(destination.id());
             const auto found = findQueue(connection, destination, announcedUri, limit);
             if (!found)
                 return found.failure();

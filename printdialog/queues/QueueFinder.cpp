@@ -4,6 +4,7 @@
 #include "QueueFinder.h"
 
 #include "BoundedWorker.h"
+#include "Logins.h"
 #include "QueueList.h"
 
 #include <QtCore/QHash>
@@ -38,8 +39,12 @@ QueueFinder::QueueFinder(QObject *parent, std::chrono::milliseconds interval)
 {
     firstLook_.setSingleShot(true);
     firstLook_.setInterval(firstLookLimit);
-    connect(&firstLook_, &QTimer::timeout, this,
-            [this] { reportFailure(queueFailure(QueueFault::TimedOut, {}).text, false); });
+    connect(&firstLook_, &QTimer::timeout, this, [this] {
+        if (Logins::ofRun().isAsking())
+            firstLook_.start();
+        else
+            reportFailure(queueFailure(QueueFault::TimedOut, {}).text, false);
+    });
 }
 
 QueueFinder::~QueueFinder()

@@ -240,6 +240,7 @@ Result<OpenedQueue, QueueFault> openHere(const Destination &destination, std::ch
                                          const QString &announcedUri, int *cancel)
 {
     CupsConnection connection(limit, cancel, PrinterAddress::of(destination.queue));
+    connection.actFor(destination.id());
     if (!announcedUri.isEmpty()) {
         const auto made = temporaryQueue(connection, destination, announcedUri, limit);
         if (!made)

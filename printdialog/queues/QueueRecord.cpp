@@ -53,7 +53,8 @@ Result<QueueRecord, QueueFault> queueRecord(CupsConnection &connection, const De
     record.uri = printer ? printer->uri : QByteArray(uri.data());
     static constexpr std::array wanted = {
         "printer-uri-supported", "printer-is-accepting-jobs",  "printer-state",   "printer-state-message",
-        "printer-state-reasons", "printer-config-change-time", "printer-up-time", "printer-type"};
+        "printer-state-reasons", "printer-config-change-time", "printer-up-time", "printer-type",
+        "auth-info-required"};
     IppPointer request = ippRequest(IPP_OP_GET_PRINTER_ATTRIBUTES, record.uri);
     ippAddStrings(request.get(), IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes",
                   static_cast<int>(wanted.size()), nullptr, wanted.data());
@@ -71,6 +72,7 @@ Result<QueueRecord, QueueFault> queueRecord(CupsConnection &connection, const De
     ipp_attribute_t *accepts = ippFindAttribute(answer.get(), "printer-is-accepting-jobs", IPP_TAG_BOOLEAN);
     record.acceptsJobs = !accepts || ippGetBoolean(accepts, 0) != 0;
     record.unchangedSince = unchangedSince(answer.get());
+    record.authInfoRequired = textsOf(answer.get(), "auth-info-required");
     return record;
 }
 

@@ -28,6 +28,9 @@ struct QueueRecord
     /// only when a further change could not have the same time, and never for a class, whose PPD is a
     /// member's.
     std::optional<int> unchangedSince;
+    /// What the printer behind the queue wants of each job: "username", "password" and "domain", in the order
+    /// in which it wants them; or "none", or "negotiate".
+    QStringList authInfoRequired;
 };
 
 /// Requests a queue's record from the server. A name that no queue can have is NotFound. Failures: NotFound,

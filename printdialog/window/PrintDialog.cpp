@@ -8,6 +8,7 @@
 #include "EscapeGuard.h"
 #include "GuardedPanel.h"
 #include "HelpWindow.h"
+#include "LoginPrompt.h"
 #include "PlainText.h"
 #include "PrinterController.h"
 #include "PrintingController.h"
@@ -51,6 +52,8 @@ PrintDialog::PrintDialog(const PrintDialogSetup &setup, QWidget *parent)
         buttons->addWidget(button);
     ui_->settingsSide->setReadableWidth(narrowestSettings, widestSettings);
     new EscapeGuard(this);
+    new LoginPrompt(this);
+    connect(ui_->printer, &QComboBox::activated, this, [] { Logins::ofRun().forgive(); });
     ui_->panels->setReservedKeys(ChoiceRefusals::offerTexts());
     for (const auto &[key, step] : {std::pair(QKeySequence(Qt::CTRL | Qt::Key_Tab), 1),
                                     std::pair(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Tab), -1)})

@@ -366,6 +366,14 @@ Standardwarteschlange oder der eingebaute Drucker</translation>
         <source>its certificate is not trusted</source>
         <translation>seinem Zertifikat wird nicht vertraut</translation>
     </message>
+    <message>
+        <source>it wants a password, which would cross the network unencrypted</source>
+        <translation>verlangt wird ein Passwort, das unverschlüsselt durch das Netz ginge</translation>
+    </message>
+    <message>
+        <source>it has refused the name or the password %1 times</source>
+        <translation>Benutzername oder Passwort wurden %1-mal abgelehnt</translation>
+    </message>
 </context>
 <context>
     <name>CustomChoice</name>
@@ -614,6 +622,10 @@ Standardwarteschlange oder der eingebaute Drucker</translation>
         <source>%1 copies cannot be printed. The printer makes at most %2 at a time; choose fewer.</source>
         <translation>%1 Exemplare können nicht gedruckt werden. Der Drucker macht höchstens %2 auf einmal; wählen Sie weniger.</translation>
     </message>
+    <message>
+        <source>it wants a password, which would cross the network unencrypted</source>
+        <translation>verlangt wird ein Passwort, das unverschlüsselt durch das Netz ginge</translation>
+    </message>
 </context>
 <context>
     <name>JobSummary</name>
@@ -655,6 +667,56 @@ Standardwarteschlange oder der eingebaute Drucker</translation>
     <message>
         <source>default</source>
         <translation>Standard</translation>
+    </message>
+</context>
+<context>
+    <name>LoginDialog</name>
+    <message>
+        <source>Log In</source>
+        <translation>Anmelden</translation>
+    </message>
+    <message>
+        <source>The print server %1 wants a user name and a password.</source>
+        <translation>Der Druckserver %1 verlangt Benutzername und Passwort.</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; on %2 wants a user name and a password.</source>
+        <translation>Der Drucker „%1“ auf %2 verlangt Benutzername und Passwort.</translation>
+    </message>
+    <message>
+        <source>The user name or the password was not accepted.</source>
+        <translation>Benutzername oder Passwort wurden nicht angenommen.</translation>
+    </message>
+    <message>
+        <source>They are kept until the program ends.</source>
+        <translation>Sie gelten, bis das Programm endet.</translation>
+    </message>
+    <message>
+        <source>&amp;Log In</source>
+        <translation>&amp;Anmelden</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>&amp;User name:</source>
+        <translation>&amp;Benutzername:</translation>
+    </message>
+    <message>
+        <source>&amp;Password:</source>
+        <translation>&amp;Passwort:</translation>
+    </message>
+</context>
+<context>
+    <name>Logins</name>
+    <message>
+        <source>it wants a user name and a password, and none were entered</source>
+        <translation>verlangt werden Benutzername und Passwort, und es wurden keine eingegeben</translation>
+    </message>
+    <message>
+        <source>it wants a user name and a password</source>
+        <translation>verlangt werden Benutzername und Passwort</translation>
     </message>
 </context>
 <context>
@@ -1960,6 +2022,33 @@ Standardwarteschlange oder der eingebaute Drucker</translation>
     <message>
         <source>its options did not arrive within %1 s</source>
         <translation>seine Optionen kamen nicht innerhalb von %1 s an</translation>
+    </message>
+</context>
+<context>
+    <name>TerminalLogin</name>
+    <message>
+        <source>The user name or the password was not accepted.</source>
+        <translation>Benutzername oder Passwort wurden nicht angenommen.</translation>
+    </message>
+    <message>
+        <source>The print server %1 wants a user name and a password.</source>
+        <translation>Der Druckserver %1 verlangt Benutzername und Passwort.</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; on %2 wants a user name and a password.</source>
+        <translation>Der Drucker „%1“ auf %2 verlangt Benutzername und Passwort.</translation>
+    </message>
+    <message>
+        <source>User name [%1]: </source>
+        <translation>Benutzername [%1]: </translation>
+    </message>
+    <message>
+        <source>Password: </source>
+        <translation>Passwort: </translation>
+    </message>
+    <message>
+        <source>it wants a user name and a password, and there is no terminal to ask on</source>
+        <translation>verlangt werden Benutzername und Passwort, und es gibt kein Terminal, um danach zu fragen</translation>
     </message>
 </context>
 <context>

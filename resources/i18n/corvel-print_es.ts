@@ -365,6 +365,14 @@ predeterminada o, si no hay, la integrada</translation>
         <source>its certificate is not trusted</source>
         <translation>su certificado no es de confianza</translation>
     </message>
+    <message>
+        <source>it wants a password, which would cross the network unencrypted</source>
+        <translation>pide una contraseña, que cruzaría la red sin cifrar</translation>
+    </message>
+    <message>
+        <source>it has refused the name or the password %1 times</source>
+        <translation>ha rechazado el nombre o la contraseña %1 veces</translation>
+    </message>
 </context>
 <context>
     <name>CustomChoice</name>
@@ -613,6 +621,10 @@ predeterminada o, si no hay, la integrada</translation>
         <source>%1 copies cannot be printed. The printer makes at most %2 at a time; choose fewer.</source>
         <translation>No se pueden imprimir %1 copias. La impresora hace como máximo %2 a la vez; elija menos.</translation>
     </message>
+    <message>
+        <source>it wants a password, which would cross the network unencrypted</source>
+        <translation>pide una contraseña, que cruzaría la red sin cifrar</translation>
+    </message>
 </context>
 <context>
     <name>JobSummary</name>
@@ -654,6 +666,56 @@ predeterminada o, si no hay, la integrada</translation>
     <message>
         <source>default</source>
         <translation>predeterminada</translation>
+    </message>
+</context>
+<context>
+    <name>LoginDialog</name>
+    <message>
+        <source>Log In</source>
+        <translation>Iniciar sesión</translation>
+    </message>
+    <message>
+        <source>The print server %1 wants a user name and a password.</source>
+        <translation>El servidor de impresión %1 pide un nombre de usuario y una contraseña.</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; on %2 wants a user name and a password.</source>
+        <translation>La impresora «%1» en %2 pide un nombre de usuario y una contraseña.</translation>
+    </message>
+    <message>
+        <source>The user name or the password was not accepted.</source>
+        <translation>No se ha aceptado el nombre de usuario o la contraseña.</translation>
+    </message>
+    <message>
+        <source>They are kept until the program ends.</source>
+        <translation>Se conservan hasta que termina el programa.</translation>
+    </message>
+    <message>
+        <source>&amp;Log In</source>
+        <translation>&amp;Iniciar sesión</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>&amp;User name:</source>
+        <translation>Nombre de &amp;usuario:</translation>
+    </message>
+    <message>
+        <source>&amp;Password:</source>
+        <translation>&amp;Contraseña:</translation>
+    </message>
+</context>
+<context>
+    <name>Logins</name>
+    <message>
+        <source>it wants a user name and a password, and none were entered</source>
+        <translation>pide un nombre de usuario y una contraseña, y no se ha introducido ninguno</translation>
+    </message>
+    <message>
+        <source>it wants a user name and a password</source>
+        <translation>pide un nombre de usuario y una contraseña</translation>
     </message>
 </context>
 <context>
@@ -1959,6 +2021,33 @@ predeterminada o, si no hay, la integrada</translation>
     <message>
         <source>its options did not arrive within %1 s</source>
         <translation>sus opciones no llegaron en %1 s</translation>
+    </message>
+</context>
+<context>
+    <name>TerminalLogin</name>
+    <message>
+        <source>The user name or the password was not accepted.</source>
+        <translation>No se ha aceptado el nombre de usuario o la contraseña.</translation>
+    </message>
+    <message>
+        <source>The print server %1 wants a user name and a password.</source>
+        <translation>El servidor de impresión %1 pide un nombre de usuario y una contraseña.</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; on %2 wants a user name and a password.</source>
+        <translation>La impresora «%1» en %2 pide un nombre de usuario y una contraseña.</translation>
+    </message>
+    <message>
+        <source>User name [%1]: </source>
+        <translation>Nombre de usuario [%1]: </translation>
+    </message>
+    <message>
+        <source>Password: </source>
+        <translation>Contraseña: </translation>
+    </message>
+    <message>
+        <source>it wants a user name and a password, and there is no terminal to ask on</source>
+        <translation>pide un nombre de usuario y una contraseña, y no hay una terminal donde preguntarlos</translation>
     </message>
 </context>
 <context>

@@ -366,6 +366,14 @@ votre file par défaut, ou à défaut l’imprimante intégrée</translation>
         <source>its certificate is not trusted</source>
         <translation>son certificat n’est pas fiable</translation>
     </message>
+    <message>
+        <source>it wants a password, which would cross the network unencrypted</source>
+        <translation>un mot de passe est demandé, qui traverserait le réseau sans chiffrement</translation>
+    </message>
+    <message>
+        <source>it has refused the name or the password %1 times</source>
+        <translation>le nom ou le mot de passe a été refusé %1 fois</translation>
+    </message>
 </context>
 <context>
     <name>CustomChoice</name>
@@ -614,6 +622,10 @@ votre file par défaut, ou à défaut l’imprimante intégrée</translation>
         <source>%1 copies cannot be printed. The printer makes at most %2 at a time; choose fewer.</source>
         <translation>Impossible d’imprimer %1 exemplaires. L’imprimante en fait au plus %2 à la fois&#x202f;; choisissez-en moins.</translation>
     </message>
+    <message>
+        <source>it wants a password, which would cross the network unencrypted</source>
+        <translation>un mot de passe est demandé, qui traverserait le réseau sans chiffrement</translation>
+    </message>
 </context>
 <context>
     <name>JobSummary</name>
@@ -655,6 +667,56 @@ votre file par défaut, ou à défaut l’imprimante intégrée</translation>
     <message>
         <source>default</source>
         <translation>par défaut</translation>
+    </message>
+</context>
+<context>
+    <name>LoginDialog</name>
+    <message>
+        <source>Log In</source>
+        <translation>Connexion</translation>
+    </message>
+    <message>
+        <source>The print server %1 wants a user name and a password.</source>
+        <translation>Le serveur d’impression %1 demande un nom d’utilisateur et un mot de passe.</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; on %2 wants a user name and a password.</source>
+        <translation>L’imprimante «&#xa0;%1&#xa0;» sur %2 demande un nom d’utilisateur et un mot de passe.</translation>
+    </message>
+    <message>
+        <source>The user name or the password was not accepted.</source>
+        <translation>Le nom d’utilisateur ou le mot de passe n’a pas été accepté.</translation>
+    </message>
+    <message>
+        <source>They are kept until the program ends.</source>
+        <translation>Ils sont gardés jusqu’à la fin du programme.</translation>
+    </message>
+    <message>
+        <source>&amp;Log In</source>
+        <translation>Se &amp;connecter</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>&amp;User name:</source>
+        <translation>&amp;Nom d’utilisateur&#x202f;:</translation>
+    </message>
+    <message>
+        <source>&amp;Password:</source>
+        <translation>&amp;Mot de passe&#x202f;:</translation>
+    </message>
+</context>
+<context>
+    <name>Logins</name>
+    <message>
+        <source>it wants a user name and a password, and none were entered</source>
+        <translation>un nom d’utilisateur et un mot de passe sont demandés, et rien n’a été saisi</translation>
+    </message>
+    <message>
+        <source>it wants a user name and a password</source>
+        <translation>un nom d’utilisateur et un mot de passe sont demandés</translation>
     </message>
 </context>
 <context>
@@ -1960,6 +2022,33 @@ votre file par défaut, ou à défaut l’imprimante intégrée</translation>
     <message>
         <source>its options did not arrive within %1 s</source>
         <translation>ses options ne sont pas arrivées en %1 s</translation>
+    </message>
+</context>
+<context>
+    <name>TerminalLogin</name>
+    <message>
+        <source>The user name or the password was not accepted.</source>
+        <translation>Le nom d’utilisateur ou le mot de passe n’a pas été accepté.</translation>
+    </message>
+    <message>
+        <source>The print server %1 wants a user name and a password.</source>
+        <translation>Le serveur d’impression %1 demande un nom d’utilisateur et un mot de passe.</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; on %2 wants a user name and a password.</source>
+        <translation>L’imprimante «&#xa0;%1&#xa0;» sur %2 demande un nom d’utilisateur et un mot de passe.</translation>
+    </message>
+    <message>
+        <source>User name [%1]: </source>
+        <translation>Nom d’utilisateur [%1]&#x202f;: </translation>
+    </message>
+    <message>
+        <source>Password: </source>
+        <translation>Mot de passe&#x202f;: </translation>
+    </message>
+    <message>
+        <source>it wants a user name and a password, and there is no terminal to ask on</source>
+        <translation>un nom d’utilisateur et un mot de passe sont demandés, et il n’y a pas de terminal pour les saisir</translation>
     </message>
 </context>
 <context>

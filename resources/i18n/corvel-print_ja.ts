@@ -364,6 +364,14 @@ QUEUE/プリセット。プリントサーバーを使わない場合はプリ�
         <source>its certificate is not trusted</source>
         <translation>証明書を信頼できません</translation>
     </message>
+    <message>
+        <source>it wants a password, which would cross the network unencrypted</source>
+        <translation>パスワードが必要ですが、暗号化されずにネットワークを通ることになります</translation>
+    </message>
+    <message>
+        <source>it has refused the name or the password %1 times</source>
+        <translation>ユーザー名またはパスワードが %1 回拒否されました</translation>
+    </message>
 </context>
 <context>
     <name>CustomChoice</name>
@@ -612,6 +620,10 @@ QUEUE/プリセット。プリントサーバーを使わない場合はプリ�
         <source>%1 copies cannot be printed. The printer makes at most %2 at a time; choose fewer.</source>
         <translation>%1 部は印刷できません。このプリンターでは一度に最大 %2 部です。部数を減らしてください。</translation>
     </message>
+    <message>
+        <source>it wants a password, which would cross the network unencrypted</source>
+        <translation>パスワードが必要ですが、暗号化されずにネットワークを通ることになります</translation>
+    </message>
 </context>
 <context>
     <name>JobSummary</name>
@@ -653,6 +665,56 @@ QUEUE/プリセット。プリントサーバーを使わない場合はプリ�
     <message>
         <source>default</source>
         <translation>既定</translation>
+    </message>
+</context>
+<context>
+    <name>LoginDialog</name>
+    <message>
+        <source>Log In</source>
+        <translation>ログイン</translation>
+    </message>
+    <message>
+        <source>The print server %1 wants a user name and a password.</source>
+        <translation>プリントサーバー %1 はユーザー名とパスワードを必要とします。</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; on %2 wants a user name and a password.</source>
+        <translation>%2 のプリンター「%1」はユーザー名とパスワードを必要とします。</translation>
+    </message>
+    <message>
+        <source>The user name or the password was not accepted.</source>
+        <translation>ユーザー名またはパスワードが受け入れられませんでした。</translation>
+    </message>
+    <message>
+        <source>They are kept until the program ends.</source>
+        <translation>プログラムの終了まで保持されます。</translation>
+    </message>
+    <message>
+        <source>&amp;Log In</source>
+        <translation>ログイン(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>&amp;User name:</source>
+        <translation>ユーザー名(&amp;U):</translation>
+    </message>
+    <message>
+        <source>&amp;Password:</source>
+        <translation>パスワード(&amp;P):</translation>
+    </message>
+</context>
+<context>
+    <name>Logins</name>
+    <message>
+        <source>it wants a user name and a password, and none were entered</source>
+        <translation>ユーザー名とパスワードが必要ですが、入力されませんでした</translation>
+    </message>
+    <message>
+        <source>it wants a user name and a password</source>
+        <translation>ユーザー名とパスワードが必要です</translation>
     </message>
 </context>
 <context>
@@ -1958,6 +2020,33 @@ QUEUE/プリセット。プリントサーバーを使わない場合はプリ�
     <message>
         <source>its options did not arrive within %1 s</source>
         <translation>%1 秒以内にオプションが届きませんでした</translation>
+    </message>
+</context>
+<context>
+    <name>TerminalLogin</name>
+    <message>
+        <source>The user name or the password was not accepted.</source>
+        <translation>ユーザー名またはパスワードが受け入れられませんでした。</translation>
+    </message>
+    <message>
+        <source>The print server %1 wants a user name and a password.</source>
+        <translation>プリントサーバー %1 はユーザー名とパスワードを必要とします。</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; on %2 wants a user name and a password.</source>
+        <translation>%2 のプリンター「%1」はユーザー名とパスワードを必要とします。</translation>
+    </message>
+    <message>
+        <source>User name [%1]: </source>
+        <translation>ユーザー名 [%1]: </translation>
+    </message>
+    <message>
+        <source>Password: </source>
+        <translation>パスワード: </translation>
+    </message>
+    <message>
+        <source>it wants a user name and a password, and there is no terminal to ask on</source>
+        <translation>ユーザー名とパスワードが必要ですが、入力するための端末がありません</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include "JobSubmission.h"
+#include "Logins.h"
 #include "OptionsFetcher.h"
 #include "PrivateCupsd.h"
 #include "QueueFinder.h"
@@ -304,6 +305,30 @@ private Q_SLOTS:
                    option.first.startsWith(u"document-"_s);
         });
         QCOMPARE(arrived, options);
+    }
+
+    // The print server hands it to the backend.
+    void printersLoginGoesWithTheJob()
+    {
+        const QStringList wants = {u"-o"_s, u"auth-info-required=username,password"_s};
+        QVERIFY(cupsd_.addQueue(u"locked"_s, testing_support::smallPpd(), wants));
+        int asked = 0;
+        Logins::ofRun().setAsk([&](const LoginQuestion &question, const int *) -> std::optional<Login> {
+            ++asked;
+            return question.printer == u"locked"_s ? std::optional<Login>({u"max"_s, u"geh eim"_s})
+                                                   : std::nullopt;
+        });
+        const auto done = qScopeGuard([] { Logins::ofRun().setAsk({}); });
+        for (const QString &queue : {u"locked"_s, u"locked"_s, u"photo"_s}) {
+            const auto id = submit(queue, {"bytes", "image/jpeg", u"x"_s});
+            QVERIFY2(id, id ? "" : qPrintable(id.failure().text));
+            QVERIFY(cupsd_.waitForJob(*id));
+            const QByteArray environment = cupsd_.job(*id).environment;
+            QCOMPARE(environment.contains("\nAUTH_USERNAME=max\n"), queue == u"locked"_s);
+            QCOMPARE(environment.contains("\nAUTH_PASSWORD=geh eim\n"), queue == u"locked"_s);
+            QVERIFY(!cupsd_.job(*id).options.contains("geh"));
+        }
+        QCOMPARE(asked, 1);
     }
 
     void failedSubmissionLeavesNothing_data()

@@ -4,6 +4,7 @@
 #include "CupsConnection.h"
 #include "JobFollowing.h"
 #include "JobSubmission.h"
+#include "Logins.h"
 #include "OptionsFetcher.h"
 #include "PlainText.h"
 #include "PrivateCupsd.h"
@@ -314,6 +315,71 @@ private Q_SLOTS:
         finder.stop();
         QVERIFY(timeHere() - start < 1s);
         QCOMPARE(found, 10000);
+    }
+
+    void loginsAreAskedFor_data()
+    {
+        // What a person enters, one after the other; whether all requests want it or only the one for the
+        // job, which the server refuses when it has the document; the outcome.
+        addRows<QStringList, bool, QString>({
+            {"right", {u"geheim"_s}, true, QString()},
+            {"after the document", {u"geheim"_s}, false, QString()},
+            {"wrong before", {u"x"_s, u""_s, u"geheim"_s}, false, QString()},
+            {"wrong three times",
+             {u"a"_s, u"b"_s, u"c"_s},
+             true,
+             u"refused the name or the password 3 times"_s},
+            {"canceled", {}, true, u"none were entered"_s},
+        });
+    }
+
+    void loginsAreAskedFor()
+    {
+        const auto [passwords, isForAll, said] = row<QStringList, bool, QString>();
+        const StubServer server(StubServer::Manner::Locked,
+                                isForAll ? StubServer::Requests::All : StubServer::Requests::Jobs);
+        QList<LoginQuestion> asked;
+        Logins::ofRun().setAsk([&, left = passwords](const LoginQuestion &question,
+                                                     const int *) mutable -> std::optional<Login> {
+            asked += question;
+            std::this_thread::sleep_for(400ms); // longer than a server may take
+            return left.isEmpty() ? std::nullopt : std::optional<Login>({u"max"_s, left.takeFirst()});
+        });
+        const auto done = qScopeGuard([] { Logins::ofRun().setAsk({}); });
+        const auto id = submit({}, nullptr, 300ms);
+        QVERIFY2(id || !said.isEmpty(), id ? "" : qPrintable(id.failure().text));
+        QCOMPARE(asked.size(), std::max<qsizetype>(1, passwords.size()));
+        QCOMPARE(asked.constFirst().printer, u"photo"_s);
+        for (int i = 0; i < asked.size(); ++i)
+            QCOMPARE(asked.at(i).isRefused, i > 0);
+        if (!said.isEmpty()) {
+            QVERIFY(!id);
+            QCOMPARE(id.failure().reason, QueueFault::Refused);
+            QVERIFY2(id.failure().text.contains(said), qPrintable(id.failure().text));
+            QVERIFY(!id.failure().text.contains(u"geheim"_s));
+            QVERIFY(listQueues(300ms).failure().reason == QueueFault::Refused);
+            QCOMPARE(asked.size(), std::max<qsizetype>(1, passwords.size())); // not again until the next act
+            return;
+        }
+        QCOMPARE(*id, 7);
+        // Known from now on in this run.
+        QVERIFY(submit({}, nullptr, 300ms));
+        QCOMPARE(asked.size(), passwords.size());
+    }
+
+    // Nobody has to wait for a question that is given up.
+    void loginIsGivenUp()
+    {
+        const StubServer server(StubServer::Manner::Locked);
+        int cancel = 0;
+        Logins::ofRun().setAsk([&](const LoginQuestion &, const int *flag) -> std::optional<Login> {
+            std::atomic_ref(cancel).store(1);
+            return flag == &cancel ? std::nullopt : std::optional<Login>({u"max"_s, u"geheim"_s});
+        });
+        const auto done = qScopeGuard([] { Logins::ofRun().setAsk({}); });
+        const auto id = submit({}, &cancel);
+        QVERIFY(!id);
+        QCOMPARE(id.failure().reason, QueueFault::Canceled);
     }
 
     void finderNeverBlocks()

@@ -145,6 +145,18 @@ void StubServer::answer(int client)
         if (!isWhole(bytes))
             continue;
         const bool isFile = bytes.startsWith("GET ");
+        if (manner_ == Manner::Locked && !unlocks(client, bytes)) {
+            bytes.clear();
+            continue;
+        }
+        if (manner_ == Manner::Locked) {
+            put(client, isPrintJob(bytes)
+                            ? whole(successfulHead + '\x02' +
+                                    attribute(0x21, "job-id", QByteArray("\0\0\0\7", 4)) + endOfAttributes)
+                            : whole(successfulHead + endOfAttributes));
+            bytes.clear();
+            continue;
+        }
         if (requests_ == Requests::All || (requests_ == Requests::Files && isFile) ||
             (requests_ == Requests::Jobs && isPrintJob(bytes)) ||
             (requests_ == Requests::Attributes && isForAttributes(bytes))) {
@@ -155,6 +167,25 @@ void StubServer::answer(int client)
                            : whole(successfulHead + endOfAttributes));
         bytes.clear();
     }
+}
+
+/// Otherwise refuses the request.
+bool StubServer::unlocks(int client, const QByteArray &request)
+{
+    const QByteArray field = "Authorization: ";
+    const qsizetype at = request.indexOf(field);
+    const qsizetype from = at + field.size();
+    const QByteArray given = at < 0 ? QByteArray() : request.mid(from, request.indexOf('\r', from) - from);
+    const bool isRightRequest = requests_ == Requests::All || isPrintJob(request);
+    {
+        const std::lock_guard lock(mutex_);
+        authorizations_ += given;
+    }
+    if (!isRightRequest || given == "Basic " + QByteArray("max:geheim").toBase64())
+        return true;
+    put(client, "HTTP/1.1 401 Unauthorized\r\nWWW-Authenticate: Basic realm=\"CUPS\"\r\n"
+                "Content-Length: 0\r\n\r\n");
+    return false;
 }
 
 void StubServer::misbehave(int client)
@@ -172,6 +203,7 @@ void StubServer::misbehave(int client)
     constexpr qint64 mebibyte = qint64(1024) * 1024;
     switch (manner_) {
     case Manner::Silent:
+    case Manner::Locked:
         break;
     case Manner::Trickling:
         while (put(client, "H"))

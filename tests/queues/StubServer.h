@@ -4,11 +4,13 @@
 #pragma once
 
 #include <QtCore/QByteArray>
+#include <QtCore/QByteArrayList>
 #include <QtCore/QList>
 #include <QtCore/QTemporaryDir>
 
 #include <atomic>
 #include <functional>
+#include <mutex>
 #include <thread>
 
 namespace testing_support {
@@ -38,6 +40,7 @@ public:
         ManyReasons,  ///< A printer in 40,000 sorts of trouble.
         ManyQueues,   ///< 10,000 of them, "0%20" to "9999%20".
         JobBelowZero, ///< Gives every job the number -1.
+        Locked,       ///< Wants the login "max:geheim" (Basic), after it has read the whole request.
         OddNames      ///< Has the queues "good", "go\tod", "a/b" and one with a name that is not UTF-8.
     };
     /// Which requests are answered in this manner; the others with success, as if every queue were known.
@@ -49,10 +52,17 @@ public:
 
     /// How many connections it has had.
     int connections() const { return connections_; }
+    /// The values of the Authorization fields of all requests so far.
+    QByteArrayList authorizations() const
+    {
+        const std::lock_guard lock(mutex_);
+        return authorizations_;
+    }
 
 private:
     void serve();
     void answer(int client);
+    bool unlocks(int client, const QByteArray &request);
     void misbehave(int client);
     /// Until everything is sent, or the client has closed.
     bool put(int client, const QByteArray &bytes) const;
@@ -65,6 +75,8 @@ private:
     int listener_ = -1;
     std::atomic<bool> ends_ = false;
     std::atomic<int> connections_ = 0;
+    mutable std::mutex mutex_;
+    QByteArrayList authorizations_;
     QList<int> held_; // silent connections, closed at the end; the thread's own
     std::thread thread_;
 };

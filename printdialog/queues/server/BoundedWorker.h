@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "Logins.h"
+
 #include <QtCore/QObject>
 
 #include <chrono>
@@ -53,7 +55,8 @@ private:
     bool ended_ = false;
 };
 
-/// Runs `call` on a separate thread. Returns its value, or nothing when the limit passes first. The call then
+/// Runs `call` on a separate thread. Returns its value, or nothing when the limit passes first, which waits
+/// while a person is asked for a login: not for a thread that has to show the question. The call then
 /// continues, with its cancel flag raised and its value unused, so it must own everything that it uses.
 template <class Value>
 std::optional<Value> callWithin(std::chrono::milliseconds limit, std::function<Value(int *cancel)> call)
@@ -61,8 +64,10 @@ std::optional<Value> callWithin(std::chrono::milliseconds limit, std::function<V
     auto worker = std::make_shared<BoundedWorker>();
     auto value = std::make_shared<std::optional<Value>>();
     worker->run([value, call](BoundedWorker &self) { value->emplace(call(self.cancelFlag())); });
-    if (worker->endsWithin(limit))
-        return std::move(*value);
+    do {
+        if (worker->endsWithin(limit))
+            return std::move(*value);
+    } while (Logins::ofRun().isAsking());
     worker->release({});
     return std::nullopt;
 }

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include "CupsConnection.h"
+#include "CupsConnection_p.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QFile>
@@ -32,11 +33,6 @@ void initializeCups()
         if (before.sa_handler != SIG_DFL)
             sigaction(SIGPIPE, &before, nullptr);
     });
-}
-
-const char *noPassword(const char *, http_t *, const char *, const char *, void *)
-{
-    return nullptr;
 }
 
 QueueFault faultOf(ipp_status_t status)
@@ -83,7 +79,7 @@ CupsConnection::CupsConnection(std::chrono::milliseconds limit, int *cancel,
     , printer_(printer)
 {
     initializeCups();
-    cupsSetPasswordCB2(noPassword, nullptr);
+    cupsSetPasswordCB2(noPassword, nullptr); // not libcups' own, which reads from the terminal
     // libcups caches the server's name per thread; reset it so that a socket that appears later is found.
     cupsSetServer(nullptr);
     server_ = printer ? printer->host : QFile::decodeName(cupsServer());
@@ -199,6 +195,8 @@ Failure<QueueFault> CupsConnection::lastFailure(const QString &queue) const
     }
     switch (end_) {
     case End::Http:
+        if (httpStatus_ == HTTP_STATUS_UNAUTHORIZED && !whyNoLogin_.isEmpty())
+            return queueFailure(QueueFault::Refused, queue, whyNoLogin_);
         return queueFailure(faultOf(httpStatus_), queue, QString::fromUtf8(httpStatus(httpStatus_)));
     case End::Broken:
         return queueFailure(QueueFault::Failed, queue,

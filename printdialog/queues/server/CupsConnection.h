@@ -4,6 +4,7 @@
 #pragma once
 
 #include "IppMessage.h"
+#include "Logins.h"
 #include "PipeSignalBlock.h"
 #include "PrinterAddress.h"
 #include "QueueFault.h"
@@ -27,7 +28,8 @@ struct HttpCloser
 /// libcups' own connection, it gives up when the server is silent, and it limits the size of an answer
 /// (IppInspection.h). All requests go through it: libcups' functions for complete requests (cupsDoRequest,
 /// cupsSendRequest, cupsGetFd) read without limits and reconnect past SocketLimit. Use it only on the thread
-/// that made it. It never asks for a password: a request that needs one is refused.
+/// that made it. Where a server wants a name and a password (HTTP 401), it asks for them (Logins) while the
+/// time limit rests.
 class CupsConnection
 {
 public:
@@ -65,6 +67,17 @@ public:
     /// Sends a part of the document. False: the server accepts no more of it; its answer may say why.
     bool write(const char *data, size_t size);
     IppPointer answer();
+    /// Whether the document was sent, and then refused for want of a login. If so, logIn() gets one; when it
+    /// has succeeded, the request and its document may be sent again.
+    bool wantsLogin() const { return end_ == End::Http && httpStatus_ == HTTP_STATUS_UNAUTHORIZED; }
+    bool logIn(const QByteArray &resource);
+
+    /// The printer that a login is asked for, by its id; the server itself when there is none.
+    void actFor(const QString &printer) { actsFor_ = printer; }
+    QString server() const { return server_; }
+    /// Whether nobody else can read what is sent: it is encrypted, or does not leave the computer. False
+    /// before the first request.
+    bool isPrivate() const;
 
     /// Fetches a file. `bytes` is set only when the status is HTTP_STATUS_OK. HTTP_STATUS_ERROR: see
     /// lastFailure().
@@ -104,6 +117,10 @@ private:
     /// Whether the request may succeed when it is sent again over a new connection: a server closes idle
     /// connections, and may require encryption or authentication.
     bool removesObstacle(const char *method, const QByteArray &resource);
+    bool authenticate(const char *method, const QByteArray &resource);
+    /// libcups' callback for passwords.
+    static const char *askLogin(const char *, http_t *, const char *, const char *, void *connection);
+    bool takeLogin();
     /// Waits for the head of the final answer, or for the next one, which may only be "100 Continue".
     enum class Head { Answer, Next };
     void readHead(Head head);
@@ -120,6 +137,11 @@ private:
     int port_ = 0;
     http_encryption_t encryption_ = HTTP_ENCRYPTION_IF_REQUESTED;
     QByteArray authorization_;
+    QString actsFor_;
+    std::optional<Login> login_; ///< given to the server, and not accepted so far
+    QByteArray password_;        ///< of the login, while libcups reads it
+    int logins_ = 0;             ///< given since one was accepted
+    QString whyNoLogin_;         ///< for people
     std::unique_ptr<http_t, HttpCloser> http_;
     std::unique_ptr<SocketLimit> socketLimit_; ///< destroyed before the socket that it watches is closed
 

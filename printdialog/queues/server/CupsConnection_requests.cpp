@@ -17,8 +17,8 @@ constexpr int continueLimit = 1000; // ms
 /// How long to wait for the end of an answer's framing after its last byte.
 constexpr int restLimit = 100; // ms
 constexpr qint64 restBytesLimit = 65536;
-/// Without a password, more attempts cannot succeed.
-constexpr int mostAttempts = 3;
+/// More than logins, upgrades and broken connections can need.
+constexpr int mostAttempts = 8;
 
 /// Feeds the bytes of an answer to libcups through the inspection.
 struct InspectedBody
@@ -132,11 +132,7 @@ bool CupsConnection::removesObstacle(const char *method, const QByteArray &resou
         encryption_ = HTTP_ENCRYPTION_REQUIRED;
         return true;
     }
-    if (httpStatus_ != HTTP_STATUS_UNAUTHORIZED ||
-        cupsDoAuthentication(http_.get(), method, resource.constData()))
-        return false;
-    authorization_ = httpGetAuthString(http_.get());
-    return true;
+    return httpStatus_ == HTTP_STATUS_UNAUTHORIZED && authenticate(method, resource);
 }
 
 // Its answer
@@ -155,6 +151,10 @@ void CupsConnection::readHead(Head head)
            httpGetState(http_.get()) != HTTP_STATE_WAITING);
     if (httpStatus_ == HTTP_STATUS_ERROR)
         fail(End::Broken);
+    if (httpStatus_ == HTTP_STATUS_OK) {
+        login_.reset();
+        logins_ = 0;
+    }
 }
 
 IppPointer CupsConnection::answer()
