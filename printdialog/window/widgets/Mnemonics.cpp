@@ -175,7 +175,9 @@ void Mnemonics::markAllIn(QWidget &view)
     QStringList texts;
     for (QWidget *widget : view.findChildren<QWidget *>()) {
         const auto text = textOf(widget);
-        if (!text || text->isEmpty() || !isUseful(widget))
+        const bool isSymbol =
+            text && std::ranges::none_of(*text, [](QChar c) { return c.isLetterOrNumber(); });
+        if (!text || isSymbol || !isUseful(widget))
             continue;
         widgets.append(widget);
         texts.append(*text);
