@@ -153,6 +153,8 @@ int listOptions(const CommandLine &commandLine, Console &console)
         return fail(console, job.failure().text);
     if (job && !job->missing.isEmpty())
         return fail(console, Console::oneLine(job->missing));
+    for (const QString &note : session.options().notes())
+        console.complain(note);
     const OptionTable table(session);
     if (commandLine.json)
         console.writeJson(table.json());

@@ -110,7 +110,7 @@ void PrintDialog::showSession()
     else if (session->printer().isRaw && message().isEmpty())
         ui_->message->show(
             MessageBar::Kind::Information,
-            tr("This printer has no PPD file and so no options: it gets the photo's file as it is, "
+            tr("This printer has no PPD file and so no options of its own: it gets the photo's file as it is, "
                "and places it on the page itself."));
     else if (session->panels().empty() && message().isEmpty())
         ui_->message->show(MessageBar::Kind::Information,

@@ -3031,10 +3031,6 @@ Standardwarteschlange oder der eingebaute Drucker</translation>
         <translation>Die Einstellungen für „%1“ wurden gespeichert.</translation>
     </message>
     <message>
-        <source>This printer has no PPD file and so no options: it gets the photo&apos;s file as it is, and places it on the page itself.</source>
-        <translation>Dieser Drucker hat keine PPD-Datei und deshalb keine Optionen: Er bekommt die Fotodatei unverändert und setzt sie selbst auf das Blatt.</translation>
-    </message>
-    <message>
         <source>The options of &quot;%1&quot; have changed. Your choices were kept as far as the printer still has them; look at them before you print.</source>
         <translation>Die Optionen von „%1“ haben sich geändert. Ihre Auswahl blieb erhalten, soweit der Drucker sie noch kennt; sehen Sie sie durch, bevor Sie drucken.</translation>
     </message>
@@ -3062,6 +3058,10 @@ Standardwarteschlange oder der eingebaute Drucker</translation>
         <source>Custom…</source>
         <comment>a paper size to type</comment>
         <translation>Eigene Größe …</translation>
+    </message>
+    <message>
+        <source>This printer has no PPD file and so no options of its own: it gets the photo&apos;s file as it is, and places it on the page itself.</source>
+        <translation>Dieser Drucker hat keine PPD-Datei und deshalb keine eigenen Optionen: Er bekommt die Fotodatei unverändert und setzt sie selbst auf das Blatt.</translation>
     </message>
 </context>
 <context>

@@ -3030,10 +3030,6 @@ predeterminada o, si no hay, la integrada</translation>
         <translation>Se han guardado los ajustes de «%1».</translation>
     </message>
     <message>
-        <source>This printer has no PPD file and so no options: it gets the photo&apos;s file as it is, and places it on the page itself.</source>
-        <translation>Esta impresora no tiene archivo PPD y por tanto ninguna opción: recibe el archivo de la foto tal cual y lo coloca ella misma en la página.</translation>
-    </message>
-    <message>
         <source>The options of &quot;%1&quot; have changed. Your choices were kept as far as the printer still has them; look at them before you print.</source>
         <translation>Las opciones de «%1» han cambiado. Sus elecciones se han conservado en la medida en que la impresora aún las tiene; revíselas antes de imprimir.</translation>
     </message>
@@ -3061,6 +3057,10 @@ predeterminada o, si no hay, la integrada</translation>
         <source>Custom…</source>
         <comment>a paper size to type</comment>
         <translation>Personalizado…</translation>
+    </message>
+    <message>
+        <source>This printer has no PPD file and so no options of its own: it gets the photo&apos;s file as it is, and places it on the page itself.</source>
+        <translation>Esta impresora no tiene archivo PPD y por tanto ninguna opción propia: recibe el archivo de la foto tal cual y lo coloca ella misma en la página.</translation>
     </message>
 </context>
 <context>

@@ -3031,10 +3031,6 @@ votre file par défaut, ou à défaut l’imprimante intégrée</translation>
         <translation>Les réglages de «&#x202f;%1&#x202f;» ont été enregistrés.</translation>
     </message>
     <message>
-        <source>This printer has no PPD file and so no options: it gets the photo&apos;s file as it is, and places it on the page itself.</source>
-        <translation>Cette imprimante n’a pas de fichier PPD, donc pas d’options&#xa0;: elle reçoit le fichier de la photo tel quel et le place elle-même sur la page.</translation>
-    </message>
-    <message>
         <source>The options of &quot;%1&quot; have changed. Your choices were kept as far as the printer still has them; look at them before you print.</source>
         <translation>Les options de «&#xa0;%1&#xa0;» ont changé. Vos choix ont été conservés dans la mesure où l’imprimante les a encore&#xa0;; vérifiez-les avant d’imprimer.</translation>
     </message>
@@ -3062,6 +3058,10 @@ votre file par défaut, ou à défaut l’imprimante intégrée</translation>
         <source>Custom…</source>
         <comment>a paper size to type</comment>
         <translation>Personnalisé…</translation>
+    </message>
+    <message>
+        <source>This printer has no PPD file and so no options of its own: it gets the photo&apos;s file as it is, and places it on the page itself.</source>
+        <translation>Cette imprimante n’a pas de fichier PPD, donc pas d’options propres : elle reçoit le fichier de la photo tel quel et le place elle-même sur la page.</translation>
     </message>
 </context>
 <context>

@@ -3027,10 +3027,6 @@ QUEUE/プリセット。プリントサーバーを使わない場合はプリ�
         <translation>「%1」の設定を保存しました。</translation>
     </message>
     <message>
-        <source>This printer has no PPD file and so no options: it gets the photo&apos;s file as it is, and places it on the page itself.</source>
-        <translation>このプリンターには PPD ファイルがないため、オプションはありません。写真のファイルがそのまま送られ、配置はプリンターが行います。</translation>
-    </message>
-    <message>
         <source>The options of &quot;%1&quot; have changed. Your choices were kept as far as the printer still has them; look at them before you print.</source>
         <translation>「%1」のオプションが変わりました。プリンターにまだある選択はそのまま残しました。印刷する前に確認してください。</translation>
     </message>
@@ -3058,6 +3054,10 @@ QUEUE/プリセット。プリントサーバーを使わない場合はプリ�
         <source>Custom…</source>
         <comment>a paper size to type</comment>
         <translation>カスタム…</translation>
+    </message>
+    <message>
+        <source>This printer has no PPD file and so no options of its own: it gets the photo&apos;s file as it is, and places it on the page itself.</source>
+        <translation>このプリンターには PPD ファイルがないため、プリンター固有のオプションはありません。写真のファイルがそのまま送られ、配置はプリンターが行います。</translation>
     </message>
 </context>
 <context>

@@ -3,7 +3,7 @@
 
 #include "CustomChoice.h"
 #include "OpenedDialog.h"
-#include "QueueSettings.h"
+#include "PresetStore.h"
 #include "Rows.h"
 #include "TestMain.h"
 
@@ -11,6 +11,7 @@
 #include <QtCore/QRegularExpression>
 #include <QtGui/QStandardItemModel>
 #include <QtWidgets/QCheckBox>
+#include <QtWidgets/QMenu>
 #include <QtWidgets/QScrollArea>
 #include <QtWidgets/QTabWidget>
 #include <QtWidgets/QToolButton>
@@ -310,6 +311,16 @@ private Q_SLOTS:
         QCOMPARE(found->currentText(), u"First"_s);
         search->clear();
         QVERIFY(opened.isSeen(u"Resolution"_s));
+        // A preset's line in CUPS' file has a limit: what is not named in it is the default.
+        choose(opened, u"Many778"_s, u"Second"_s);
+        PresetStore store = PresetStore::builtIn();
+        opened.find<QMenu>(u"presetMenu"_s)->actions().at(1)->trigger(); // save as
+        type(opened.find<QLineEdit>(u"presetName"_s), u"long"_s);
+        opened.press(Qt::Key_Return);
+        const auto presets = store.presets();
+        QVERIFY(presets && presets->size() == 1);
+        QCOMPARE(presets->constFirst().options.value(u"Many778"_s), u"B"_s);
+        QVERIFY(!presets->constFirst().options.contains(u"Many777"_s));
     }
 };
 

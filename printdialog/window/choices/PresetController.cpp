@@ -245,13 +245,29 @@ std::optional<QMap<QString, QString>> PresetController::kept()
     return withCopies(job->options);
 }
 
+/// What a printer with hundreds of options does by default need not be named: a preset's line has a limit. A
+/// default that the server sets itself stays.
+QMap<QString, QString> PresetController::withoutDefaults(QMap<QString, QString> choices) const
+{
+    choices.removeIf([this](const auto &choice) {
+        const GuardedPanel *panel = session_->panelFor(choice.key());
+        return panel && session_->isOwnPage(*panel) &&
+               session_->options().defaultChoice(choice.key()) == *choice &&
+               !session_->attributes().contains(choice.key() + QLatin1String("-default"));
+    });
+    return choices;
+}
+
 void PresetController::add(const QString &typed)
 {
     const QString name = PresetName::cleaned(typed);
     const auto choices = kept();
     if (!choices)
         return;
-    if (const auto failure = store_->add(name, *choices)) {
+    auto failure = store_->add(name, *choices);
+    if (failure && failure->reason == SettingsFault::TooLong)
+        failure = store_->add(name, withoutDefaults(*choices));
+    if (failure) {
         bar_->showError(failure->text);
         return;
     }
@@ -265,7 +281,10 @@ void PresetController::replace(const QString &name)
     const auto choices = kept();
     if (!choices)
         return;
-    if (const auto failure = store_->update(name, *choices))
+    auto failure = store_->update(name, *choices);
+    if (failure && failure->reason == SettingsFault::TooLong)
+        failure = store_->update(name, withoutDefaults(*choices));
+    if (failure)
         bar_->showError(failure->text);
     else
         mark(name);

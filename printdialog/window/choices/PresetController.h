@@ -66,6 +66,7 @@ private:
     void rename(const QString &name, const QString &typed);
     void remove(const QString &name);
     std::optional<QMap<QString, QString>> kept();
+    QMap<QString, QString> withoutDefaults(QMap<QString, QString> choices) const;
     QMap<QString, QString> withCopies(QMap<QString, QString> options) const;
     void mark(const QString &name);
     void sayLeftOut(const QStringList &lines);
