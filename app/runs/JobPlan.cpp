@@ -3,6 +3,7 @@
 
 #include "JobPlan.h"
 
+#include "JobTemplate.h"
 #include "PrintedNames.h"
 #include "PrinterAddress.h"
 #include "QueueList.h"
@@ -33,8 +34,16 @@ Result<JobPlan, PhotoPrinter::Fault> JobPlan::make(const PlacedPhoto &placed, co
     const auto printer = PrinterAddress::of(job.destination.queue);
     plan.server_ = printer ? printer->server() : printServerAddress();
     plan.isUntouched_ = document->data == photo.content();
-    if (job.ipp)
-        plan.job_.options = attributesFor(job, *document).spelled();
+    if (job.ipp) {
+        QMap<QString, QString> options = attributesFor(job, *document).spelled();
+        for (auto option = job.options.cbegin(); option != job.options.cend(); ++option) {
+            if (JobTemplate::isJobOption(option.key()) && !options.contains(option.key()))
+                options.insert(option.key(), option.value());
+        }
+        plan.job_.options = options;
+    }
+    if (const QString title = plan.job_.options.take(JobTemplate::titleKey()); !title.isEmpty())
+        plan.document_.name = title;
     return plan;
 }
 
@@ -60,6 +69,8 @@ QStringList JobPlan::lines() const
     add(tr("Copies"), QString::number(job_.copies));
     for (auto option = job_.options.cbegin(); option != job_.options.cend(); ++option)
         add(tr("Option"), QStringLiteral("%1=%2").arg(option.key(), option.value()));
+    for (auto option = job_.secrets.cbegin(); option != job_.secrets.cend(); ++option)
+        add(tr("Option"), tr("%1 (not shown)", "the option of a password").arg(option.key()));
     return lines;
 }
 

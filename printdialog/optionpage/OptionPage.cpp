@@ -46,11 +46,7 @@ OptionPage::~OptionPage()
 
 void OptionPage::setKeys(const QStringList &keys)
 {
-    keys_.clear();
-    for (const QString &key : source_.options()) {
-        if (keys.contains(key))
-            keys_ += key;
-    }
+    keys_ = keys;
     shown_ = QSet<QString>(keys_.cbegin(), keys_.cend());
     if (view_)
         view_->setKeys(keys_);

@@ -21,7 +21,7 @@ namespace printdialog {
 class OptionPageView;
 
 /// The dialog's own page of options, made from the options' source: a panel like a plug-in's, so that its
-/// choices take the same road. It shows its options in the source's order and groups.
+/// choices take the same road.
 ///
 /// Borrows the source. Main thread only; the view needs a QApplication.
 class OptionPage : public QObject, public pdekit::PrintDialogPanel, public pdekit::ChoiceReceiver
@@ -47,8 +47,11 @@ public:
                const QString &name, const QString &kind);
     ~OptionPage() override;
 
-    /// The options that the page shows; in any order. Call it again when the choices of one are others.
+    /// The options that the page shows, in this order. Call it again when the choices of one are others.
     void setKeys(const QStringList &keys);
+    /// Whether the options stand under the headings of their groups; otherwise in one list.
+    void setGrouped(bool isGrouped) { isGrouped_ = isGrouped; }
+    bool isGrouped() const { return isGrouped_; }
     bool shows(const QString &key) const { return shown_.contains(key); }
 
     const OptionSource &source() const { return source_; }
@@ -82,6 +85,7 @@ private:
     QString name_;
     QString kind_;
     QStringList keys_;
+    bool isGrouped_ = true;
     QSet<QString> shown_;            // the same
     QMap<QString, QString> choices_; // option keyword to choice keyword
     QPointer<OptionPageView> view_;

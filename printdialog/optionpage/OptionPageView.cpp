@@ -54,6 +54,8 @@ OptionPageView::OptionPageView(OptionPage &page)
     connect(search_, &QLineEdit::textChanged, this, &OptionPageView::search);
     idle_.setInterval(0);
     connect(&idle_, &QTimer::timeout, this, [this] { makeRows(idleMilliseconds); });
+    if (!page.isGrouped())
+        return;
     const QList<OptionGroup> groups = page.source().groups();
     for (const OptionGroup &group : groups) {
         for (const QString &key : group.options)

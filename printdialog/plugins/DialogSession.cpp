@@ -102,8 +102,9 @@ Ruling DialogSession::choose(const QString &key, const QString &choice)
     const QMap<QString, QString> spelled = spelledHere({{key, choice}});
     if (spelled.isEmpty()) {
         // A secret of the job, which is sent without the word Custom.
-        const bool isBare = JobTemplate::isJobOption(key) && isSecret(options_.source->customParameters(key)) &&
-                            !isCustomChoice(choice) && !options_.source->choice(key, choice);
+        const bool isBare = JobTemplate::isJobOption(key) &&
+                            isSecret(options_.source->customParameters(key)) && !isCustomChoice(choice) &&
+                            !options_.source->choice(key, choice);
         return chooseOne(key, isBare ? QStringLiteral("Custom.") + choice : choice);
     }
     Ruling ruling;

@@ -4,6 +4,7 @@
 #include "DialogSession.h"
 
 #include "GuardedPanel.h"
+#include "JobTemplate.h"
 #include "OptionPage.h"
 #include "PpdDocument.h"
 
@@ -110,12 +111,9 @@ QStringList DialogSession::keysForOwnPages() const
 void DialogSession::updateOwnPages()
 {
     QStringList ofPrinter = keysForOwnPages();
-    const QStringList job = jobOptionKeys() + jobOptionsOfPrinters();
-    QStringList ofJob;
-    for (const QString &key : std::as_const(ofPrinter)) {
-        if (job.contains(key))
-            ofJob += key;
-    }
+    QStringList ofJob = QStringList(JobTemplate::titleKey()) + jobOptionsOfPrinters() + jobOptionKeys();
+    ofJob.removeDuplicates();
+    ofJob.removeIf([&ofPrinter](const QString &key) { return !ofPrinter.contains(key); });
     ofPrinter.removeIf([&ofJob](const QString &key) { return ofJob.contains(key); });
     updateOwnPage(ownPages_[printerPage], ofPrinter);
     updateOwnPage(ownPages_[jobPage], ofJob);
@@ -148,6 +146,7 @@ void DialogSession::updateOwnPage(OwnPage &own, const QStringList &keys)
     auto page =
         std::make_unique<OptionPage>(*options_.source, callback_, session, isJob ? tr("Job") : ofPrinter,
                                      isJob ? QStringLiteral("job") : QStringLiteral("options"));
+    page->setGrouped(!isJob);
     own.page = page.get();
     own.page->setKeys(keys);
     // What is left over by a plug-in's panels comes last; a printer without them begins with its options.

@@ -583,6 +583,11 @@ Standardwarteschlange oder der eingebaute Drucker</translation>
         <source>Option</source>
         <translation>Option</translation>
     </message>
+    <message>
+        <source>%1 (not shown)</source>
+        <comment>the option of a password</comment>
+        <translation>%1 (nicht angezeigt)</translation>
+    </message>
 </context>
 <context>
     <name>JobSubmission</name>

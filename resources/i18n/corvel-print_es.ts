@@ -582,6 +582,11 @@ predeterminada o, si no hay, la integrada</translation>
         <source>Option</source>
         <translation>Opción</translation>
     </message>
+    <message>
+        <source>%1 (not shown)</source>
+        <comment>the option of a password</comment>
+        <translation>%1 (no se muestra)</translation>
+    </message>
 </context>
 <context>
     <name>JobSubmission</name>

@@ -583,6 +583,11 @@ votre file par défaut, ou à défaut l’imprimante intégrée</translation>
         <source>Option</source>
         <translation>Option</translation>
     </message>
+    <message>
+        <source>%1 (not shown)</source>
+        <comment>the option of a password</comment>
+        <translation>%1 (non affiché)</translation>
+    </message>
 </context>
 <context>
     <name>JobSubmission</name>
@@ -3061,7 +3066,7 @@ votre file par défaut, ou à défaut l’imprimante intégrée</translation>
     </message>
     <message>
         <source>This printer has no PPD file and so no options of its own: it gets the photo&apos;s file as it is, and places it on the page itself.</source>
-        <translation>Cette imprimante n’a pas de fichier PPD, donc pas d’options propres : elle reçoit le fichier de la photo tel quel et le place elle-même sur la page.</translation>
+        <translation>Cette imprimante n’a pas de fichier PPD, donc pas d’options propres&#xa0;: elle reçoit le fichier de la photo tel quel et le place elle-même sur la page.</translation>
     </message>
 </context>
 <context>

@@ -581,6 +581,11 @@ QUEUE/プリセット。プリントサーバーを使わない場合はプリ�
         <source>Option</source>
         <translation>オプション</translation>
     </message>
+    <message>
+        <source>%1 (not shown)</source>
+        <comment>the option of a password</comment>
+        <translation>%1（非表示）</translation>
+    </message>
 </context>
 <context>
     <name>JobSubmission</name>

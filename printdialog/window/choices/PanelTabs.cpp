@@ -90,7 +90,8 @@ void PanelTabs::addPage(GuardedPanel &panel, qsizetype index)
     panelOf_.insert(holder, &panel);
     // Queued: the current event may be one of the view's.
     connect(
-        &panel, &GuardedPanel::lost, holder, [this, lost = &panel] { closePage(lost); }, Qt::QueuedConnection);
+        &panel, &GuardedPanel::lost, holder, [this, lost = &panel] { closePage(lost); },
+        Qt::QueuedConnection);
 }
 
 void PanelTabs::markTabs()
@@ -157,7 +158,10 @@ QString PanelTabs::kindSuffix(int page) const
 
 QSize PanelTabs::sizeHint() const
 {
-    return QTabWidget::sizeHint().expandedTo({tabBar()->sizeHint().width(), 0});
+    // High enough for the pages of most printers, so that the window need not grow when their options arrive.
+    constexpr int usualLines = 17;
+    return QTabWidget::sizeHint().expandedTo(
+        {tabBar()->sizeHint().width(), usualLines * fontMetrics().lineSpacing()});
 }
 
 void PanelTabs::showPage(int index)

@@ -27,7 +27,9 @@ void PrinterStatus::show(const Queue &queue)
     for (QString &line : lines)
         line = plainText(line, shownTextLimit);
     setText(lines.join(u'\n'));
-    setVisible(!queue.isBuiltIn);
+    // Nobody asks a printer that is known by its address only for its state.
+    const bool isKnown = queue.state != Queue::State::Unknown || !queue.destination().isAddress();
+    setVisible(!queue.isBuiltIn && isKnown);
 }
 
 void PrinterStatus::showUnconfirmed()
