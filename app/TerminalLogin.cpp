@@ -56,8 +56,9 @@ public:
             ::write(file_, bytes.constData(), static_cast<size_t>(bytes.size()));
     }
 
-    /// The line that is typed; nothing for Ctrl+C, Ctrl+D, the terminal's end, or when the flag is raised.
-    std::optional<QString> readLine(bool echoes, const int *cancel) const
+    /// Shows the question, and returns the line that is typed; nothing for Ctrl+C, Ctrl+D, the terminal's
+    /// end, or when the flag is raised.
+    std::optional<QString> readLine(const QString &question, bool echoes, const int *cancel) const
     {
         // No signals: Ctrl+C cancels the question, and must not leave a terminal that does not echo.
         termios now = before_;
@@ -65,6 +66,7 @@ public:
         now.c_cc[VMIN] = 1;
         now.c_cc[VTIME] = 0;
         tcsetattr(file_, TCSAFLUSH, &now);
+        write(question); // only now, so that no answer to it is shown or dropped
         QByteArray line;
         const auto end = [this](std::optional<QString> result) {
             write(QStringLiteral("\n"));
@@ -118,12 +120,9 @@ std::optional<Login> ask(const LoginQuestion &question, const int *cancel)
                         : LoginText::tr("The printer \"%1\" on %2 wants a user name and a password.")
                               .arg(plainText(question.printer), server)) +
                    u'\n');
-    terminal.write(LoginText::tr("User name [%1]: ").arg(plainText(question.user)));
-    const auto user = terminal.readLine(true, cancel);
-    if (!user)
-        return std::nullopt;
-    terminal.write(LoginText::tr("Password: "));
-    const auto password = terminal.readLine(false, cancel);
+    const auto user =
+        terminal.readLine(LoginText::tr("User name [%1]: ").arg(plainText(question.user)), true, cancel);
+    const auto password = user ? terminal.readLine(LoginText::tr("Password: "), false, cancel) : std::nullopt;
     if (!password)
         return std::nullopt;
     return Login{user->isEmpty() ? question.user : *user, *password};

@@ -9,6 +9,7 @@ import os
 import pty
 import re
 import select
+import socket
 import subprocess
 import sys
 import threading
@@ -60,21 +61,23 @@ class LockedServer(http.server.BaseHTTPRequestHandler):
 class TerminalLoginTest(ProgramTest):
     def setUp(self):
         super().setUp()
-        server = http.server.ThreadingHTTPServer(("127.0.0.1", 0), LockedServer)
+        server = http.server.ThreadingHTTPServer(("", 0), LockedServer)
         threading.Thread(target=server.serve_forever, daemon=True).start()
         self.addCleanup(server.server_close)
         self.addCleanup(server.shutdown)
-        self.command = [PROGRAM, "--server", f"127.0.0.1:{server.server_port}", "--list-printers"]
+        self.port = server.server_port
+        self.command = self.asking("127.0.0.1")
+
+    def asking(self, host):
+        return [PROGRAM, "--server", f"{host}:{self.port}", "--list-printers"]
 
     def on_terminal(self, answers):
         """Standard output and error are no part of the terminal. Returns the status, them, and what the terminal shows."""
-        out, end = os.pipe()
-        child, terminal = pty.fork()
-        if child == 0:
-            os.dup2(end, 1)
-            os.dup2(end, 2)
-            os.execv(PROGRAM, self.command)
-        os.close(end)
+        terminal, end = pty.openpty()
+        program = subprocess.Popen(["setsid", "--ctty", "--wait", *self.command], stdin=end,
+                                   stdout=subprocess.PIPE, stderr=subprocess.STDOUT)
+        self.addCleanup(program.stdout.close)
+        self.addCleanup(program.kill)
         shown = b""
         for question, answer in answers:
             while question not in shown:
@@ -83,13 +86,13 @@ class TerminalLoginTest(ProgramTest):
             before, _, shown = shown.partition(question)
             self.transcript += before + question
             os.write(terminal, answer)
-        written = b""
-        while part := os.read(out, 1000):
-            written += part
-        os.close(out)
-        self.transcript += shown + os.read(terminal, 1000)
+        written, _ = program.communicate(timeout=20)
+        self.transcript += shown
+        while select.select([terminal], [], [], 0)[0]:
+            self.transcript += os.read(terminal, 1000)
+        os.close(end)
         os.close(terminal)
-        return os.waitstatus_to_exitcode(os.waitpid(child, 0)[1]), written.decode()
+        return program.returncode, written.decode()
 
     transcript = b""
 
@@ -110,6 +113,17 @@ class TerminalLoginTest(ProgramTest):
         status, written = self.on_terminal([(b"]: ", b"max\n"), (b"Password: ", b"\x03")])
         self.assertEqual((status, written.count("\n")), (1, 1))
         self.assertIn("wants a user name and a password, and none were entered", written)
+
+    def test_sends_no_password_in_the_clear(self):
+        with socket.socket(socket.AF_INET, socket.SOCK_DGRAM) as probe:
+            try:
+                probe.connect(("192.0.2.1", 9))  # sends nothing
+            except OSError:
+                self.skipTest("this computer has no network")
+            self.command = self.asking(probe.getsockname()[0])
+        status, written = self.on_terminal([])
+        self.assertEqual((status, written.count("\n"), self.transcript), (1, 1, b""))
+        self.assertIn("which would cross the network unencrypted", written)
 
     def test_says_that_there_is_no_terminal(self):
         done = subprocess.run(self.command, capture_output=True, text=True, start_new_session=True)
