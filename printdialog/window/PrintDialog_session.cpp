@@ -7,6 +7,7 @@
 #include "PrintDialog.h"
 #include "PrinterController.h"
 #include "PrintingController.h"
+#include "ReadyMedia.h"
 #include "ui_PrintDialog.h"
 
 #include <algorithm>
@@ -184,9 +185,14 @@ bool PrintDialog::applyOptions(Requested which)
 void PrintDialog::fillPageSizes()
 {
     const OptionSource &options = printer_->session()->options();
+    // A print server's queue with a PPD does not know what is loaded.
+    const ReadyMedia loaded(printer_->session()->ppd() ? IppAttributes() : printer_->session()->attributes());
     ui_->pageSize->clear();
-    for (const PageSize &size : options.pageSizes())
-        ui_->pageSize->addItem(size.text, size.keyword);
+    for (const PageSize &size : options.pageSizes()) {
+        const bool isMissing = loaded.isKnown() && !loaded.has(size.points);
+        ui_->pageSize->addItem(isMissing ? tr("%1 (not loaded)", "a paper size").arg(size.text) : size.text,
+                               size.keyword);
+    }
     listedSizes_ = ui_->pageSize->count();
     if (options.customPageRange())
         ui_->pageSize->addItem(tr("Custom…", "a paper size to type"), customItem);

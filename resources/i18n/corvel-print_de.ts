@@ -3068,6 +3068,11 @@ Standardwarteschlange oder der eingebaute Drucker</translation>
         <source>This printer has no PPD file and so no options of its own: it gets the photo&apos;s file as it is, and places it on the page itself.</source>
         <translation>Dieser Drucker hat keine PPD-Datei und deshalb keine eigenen Optionen: Er bekommt die Fotodatei unverändert und setzt sie selbst auf das Blatt.</translation>
     </message>
+    <message>
+        <source>%1 (not loaded)</source>
+        <comment>a paper size</comment>
+        <translation>%1 (nicht eingelegt)</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::PrintProgress</name>

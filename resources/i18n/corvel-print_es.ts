@@ -3067,6 +3067,11 @@ predeterminada o, si no hay, la integrada</translation>
         <source>This printer has no PPD file and so no options of its own: it gets the photo&apos;s file as it is, and places it on the page itself.</source>
         <translation>Esta impresora no tiene archivo PPD y por tanto ninguna opción propia: recibe el archivo de la foto tal cual y lo coloca ella misma en la página.</translation>
     </message>
+    <message>
+        <source>%1 (not loaded)</source>
+        <comment>a paper size</comment>
+        <translation>%1 (no cargado)</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::PrintProgress</name>

@@ -3068,6 +3068,11 @@ votre file par défaut, ou à défaut l’imprimante intégrée</translation>
         <source>This printer has no PPD file and so no options of its own: it gets the photo&apos;s file as it is, and places it on the page itself.</source>
         <translation>Cette imprimante n’a pas de fichier PPD, donc pas d’options propres&#xa0;: elle reçoit le fichier de la photo tel quel et le place elle-même sur la page.</translation>
     </message>
+    <message>
+        <source>%1 (not loaded)</source>
+        <comment>a paper size</comment>
+        <translation>%1 (non chargé)</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::PrintProgress</name>

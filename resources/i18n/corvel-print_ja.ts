@@ -3064,6 +3064,11 @@ QUEUE/プリセット。プリントサーバーを使わない場合はプリ�
         <source>This printer has no PPD file and so no options of its own: it gets the photo&apos;s file as it is, and places it on the page itself.</source>
         <translation>このプリンターには PPD ファイルがないため、プリンター固有のオプションはありません。写真のファイルがそのまま送られ、配置はプリンターが行います。</translation>
     </message>
+    <message>
+        <source>%1 (not loaded)</source>
+        <comment>a paper size</comment>
+        <translation>%1（未装着）</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::PrintProgress</name>

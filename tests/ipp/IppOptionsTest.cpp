@@ -4,6 +4,7 @@
 #include "IppOptions.h"
 #include "ChoiceMarker.h"
 #include "PrinterMessage.h"
+#include "ReadyMedia.h"
 #include "Rows.h"
 #include "TestMain.h"
 
@@ -61,6 +62,8 @@ private Q_SLOTS:
     void offersWhatThePrinterHas_data();
     void offersWhatThePrinterHas();
     void knowsThePaper();
+    void knowsWhatIsLoaded_data();
+    void knowsWhatIsLoaded();
     void readsPaperNamesWithoutADatabase();
     void weighsThePrintersRules_data();
     void weighsThePrintersRules();
@@ -118,6 +121,50 @@ void IppOptionsTest::knowsThePaper()
     QCOMPARE(
         ChoiceMarker(const_cast<IppOptions &>(*options)).canonicalChoice(u"media"_s, u"Custom.10x15cm"_s),
         u"Custom.100x150mm"_s);
+}
+
+void IppOptionsTest::knowsWhatIsLoaded_data()
+{
+    // What the printer says; a size in points; whether that is loaded: nothing when it says nothing.
+    const auto add = rows<Change, QSizeF, std::optional<bool>>();
+    const QSizeF a4(595, 842); // as PPDs round it
+    const auto names = [](const QByteArrayList &values) {
+        return [values](PrinterMessage &printer) {
+            printer.keywords("media-ready", values);
+        };
+    };
+    const auto media = [](const QList<PrinterMessage::Members> &all) {
+        return [all](PrinterMessage &printer) {
+            printer.keywords("media-ready", {"na_letter_8.5x11in"}).collections("media-col-ready", all);
+        };
+    };
+    const auto roll = [](PrinterMessage &entry) {
+        entry.collections(
+            "media-size", {[](PrinterMessage &size) {
+                size.numbers("x-dimension", IPP_TAG_INTEGER, {21000}).range("y-dimension", 10000, 100000);
+            }});
+    };
+    add(
+        "nothing said", [](PrinterMessage &) {}, a4, std::nullopt);
+    add("nothing known", names({"unknown", "choice"}), a4, std::nullopt);
+    add("by name", names({"na_index-4x6_4x6in", "iso_a4_210x297mm"}), a4, true);
+    add("turned", names({"iso_a4_210x297mm"}), a4.transposed(), true);
+    add("another", names({"na_index-4x6_4x6in"}), a4, false);
+    add("a millimeter more", names({"custom_a_211x297mm"}), a4, false);
+    add("by dimensions", media({PrinterMessage::medium(21000, 29700, 300)}), a4, true);
+    add("dimensions before names", media({PrinterMessage::medium(21000, 29700, 300)}), {612, 792}, false);
+    add("from a roll", media({roll}), a4, true);
+    add("too wide for the roll", media({roll}), {842, 1191}, false);
+}
+
+void IppOptionsTest::knowsWhatIsLoaded()
+{
+    const auto [change, size, isLoaded] = row<Change, QSizeF, std::optional<bool>>();
+    PrinterMessage printer;
+    change(printer);
+    const ReadyMedia ready(printer.attributes());
+    QCOMPARE(ready.isKnown(), isLoaded.has_value());
+    QCOMPARE(ready.has(size), isLoaded.value_or(false));
 }
 
 void IppOptionsTest::readsPaperNamesWithoutADatabase()

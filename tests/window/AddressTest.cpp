@@ -52,6 +52,23 @@ private Q_SLOTS:
                  qPrintable(media));
     }
 
+    // It can be chosen all the same.
+    void paperThatIsNotLoadedIsMarked()
+    {
+        StubPrinter printer(PrinterMessage::photoPrinter().keywords("media-ready", {"na_index-4x6_4x6in"}));
+        const OpenedDialog opened(setupForPrinter(PanelMode::Constraint, printer.address()));
+        opened.dialog->searchPrinters();
+        QTRY_VERIFY2(opened.dialog->isReady(), qPrintable(opened.dialog->whyNotReady()));
+        auto *size = opened.find<QComboBox>(u"pageSize"_s);
+        QVERIFY(size->findText(u"4 × 6 in (10 × 15 cm), borderless"_s) >= 0);
+        const int a4 = size->findText(u"A4 (not loaded)"_s);
+        QVERIFY2(a4 >= 0, qPrintable(size->itemText(0) + size->itemText(1) + size->itemText(2)));
+        size->setFocus();
+        QTest::keyClick(size, Qt::Key_A);
+        QCOMPARE(size->currentIndex(), a4);
+        QVERIFY(opened.message().isEmpty() && opened.dialog->isReady());
+    }
+
     // CUPS would misread its name in its own file.
     void presetsAreTheProgramsOwn()
     {
