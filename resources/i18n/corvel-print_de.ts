@@ -3139,6 +3139,17 @@ Standardwarteschlange oder der eingebaute Drucker</translation>
     </message>
 </context>
 <context>
+    <name>printdialog::PrinterSearch</name>
+    <message>
+        <source>Printer</source>
+        <translation>Drucker</translation>
+    </message>
+    <message>
+        <source>Type a part of its name, place or model to find it</source>
+        <translation>Zum Suchen einen Teil des Namens, Ortes oder Modells eintippen</translation>
+    </message>
+</context>
+<context>
     <name>printdialog::PrinterStatus</name>
     <message>
         <source>One of %1; its options are those of the first.</source>

@@ -3138,6 +3138,17 @@ predeterminada o, si no hay, la integrada</translation>
     </message>
 </context>
 <context>
+    <name>printdialog::PrinterSearch</name>
+    <message>
+        <source>Printer</source>
+        <translation>Impresora</translation>
+    </message>
+    <message>
+        <source>Type a part of its name, place or model to find it</source>
+        <translation>Para encontrarla, escriba parte de su nombre, lugar o modelo</translation>
+    </message>
+</context>
+<context>
     <name>printdialog::PrinterStatus</name>
     <message>
         <source>One of %1; its options are those of the first.</source>

@@ -3139,6 +3139,17 @@ votre file par défaut, ou à défaut l’imprimante intégrée</translation>
     </message>
 </context>
 <context>
+    <name>printdialog::PrinterSearch</name>
+    <message>
+        <source>Printer</source>
+        <translation>Imprimante</translation>
+    </message>
+    <message>
+        <source>Type a part of its name, place or model to find it</source>
+        <translation>Pour la trouver, saisir une partie de son nom, de son lieu ou de son modèle</translation>
+    </message>
+</context>
+<context>
     <name>printdialog::PrinterStatus</name>
     <message>
         <source>One of %1; its options are those of the first.</source>

@@ -3135,6 +3135,17 @@ QUEUE/プリセット。プリントサーバーを使わない場合はプリ�
     </message>
 </context>
 <context>
+    <name>printdialog::PrinterSearch</name>
+    <message>
+        <source>Printer</source>
+        <translation>プリンター</translation>
+    </message>
+    <message>
+        <source>Type a part of its name, place or model to find it</source>
+        <translation>名前、場所、機種の一部を入力すると検索できます</translation>
+    </message>
+</context>
+<context>
     <name>printdialog::PrinterStatus</name>
     <message>
         <source>One of %1; its options are those of the first.</source>

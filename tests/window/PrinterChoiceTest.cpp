@@ -1,8 +1,13 @@
 // SPDX-FileCopyrightText: Corvel print dialog authors
 // SPDX-License-Identifier: Apache-2.0
 
+#include "PrinterChooser.h"
 #include "QueueTest.h"
+#include "Rows.h"
 #include "TestMain.h"
+
+#include <QtWidgets/QAbstractItemView>
+#include <QtWidgets/QCompleter>
 
 using namespace testing_support;
 
@@ -96,6 +101,51 @@ private:
         QTRY_VERIFY(chooser->count() > 1);
         QTest::keyClick(chooser, printer == u"built-in"_s ? Qt::Key_Home : Qt::Key_End);
         QVERIFY(showsReady(opened, printer));
+    }
+
+    // Among many printers, by any part of its words; what is typed is never a printer itself.
+    void manyAreSearched_data()
+    {
+        addRows<QString, QString>({
+            {"name", u"queue17"_s, u"queue17"_s},
+            {"place", u"room 5"_s, u"queue5"_s},
+            {"model", u"MODEL 9"_s, u"queue9"_s},
+            {"none", u"no such"_s, u"built-in"_s},
+            {"nothing", u" "_s, u"built-in"_s},
+        });
+    }
+
+    void manyAreSearched()
+    {
+        const auto [typed, found] = row<QString, QString>();
+        const OpenedDialog opened;
+        auto *printers = opened.find<PrinterChooser>(u"printer"_s);
+        for (int i = 1; i < 20; ++i) {
+            QCOMPARE(printers->isEditable(), i > 12);
+            Queue queue;
+            queue.name = u"queue%1"_s.arg(i);
+            queue.location = u"Room %1"_s.arg(i);
+            queue.makeAndModel = u"Model %1"_s.arg(i);
+            printers->recall(queue, PrinterSelection::State::Open);
+        }
+        printers->setCurrentIndex(0);
+        QLineEdit *field = printers->lineEdit();
+        QVERIFY(!field->accessibleName().isEmpty() && !field->accessibleDescription().isEmpty());
+        printers->setFocus();
+        field->selectAll();
+        QTest::keyClicks(field, typed);
+        QCOMPARE(printers->completer()->popup()->isVisible(), found != u"built-in"_s);
+        const QString before = printers->current().id();
+        QCOMPARE(before, u"built-in"_s); // not before it is chosen
+        QTest::keyClick(field, Qt::Key_Return);
+        QCOMPARE(printers->current().id(), found);
+        QCOMPARE(printers->currentText(), printers->itemText(printers->currentIndex()));
+        QCOMPARE(printers->count(), 20);
+        QVERIFY(!opened.hasPrinted());
+        field->selectAll();
+        QTest::keyClicks(field, u"x"_s);
+        opened.find<QWidget>(u"copies"_s)->setFocus();
+        QCOMPARE(printers->currentText(), printers->itemText(printers->currentIndex()));
     }
 };
 

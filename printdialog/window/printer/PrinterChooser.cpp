@@ -6,10 +6,20 @@
 #include "PresetName.h"
 #include "PresetStore.h"
 #include "PrinterFinder.h"
+#include "PrinterSearch.h"
+
+#include <QtWidgets/QLineEdit>
 
 namespace printdialog {
 
 namespace {
+
+constexpr int mostWithoutSearch = 12; // printers that a list shows at a glance
+
+QString wordsOf(const Queue &queue, const QString &label)
+{
+    return QStringList{label, queue.name, queue.info, queue.location, queue.makeAndModel}.join(u' ');
+}
 
 QString label(const Queue &queue)
 {
@@ -50,6 +60,8 @@ void PrinterChooser::await(const QString &id)
 {
     selection_.awaits();
     setPlaceholderText(id);
+    if (isEditable())
+        lineEdit()->setPlaceholderText(id);
     setCurrentIndex(-1);
 }
 
@@ -110,12 +122,16 @@ void PrinterChooser::add(const Queue &queue)
 {
     indexes_.insert(queue.id(), count());
     addItem(label(queue), QVariant::fromValue(queue));
+    setItemData(count() - 1, wordsOf(queue, label(queue)), PrinterSearch::wordsRole);
+    if (count() > mostWithoutSearch && !isEditable())
+        new PrinterSearch(this);
 }
 
 void PrinterChooser::update(int index, const Queue &queue)
 {
     setItemText(index, label(queue));
     setItemData(index, QVariant::fromValue(queue));
+    setItemData(index, wordsOf(queue, label(queue)), PrinterSearch::wordsRole);
 }
 
 void PrinterChooser::choose(int index)
