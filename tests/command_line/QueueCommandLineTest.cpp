@@ -105,6 +105,18 @@ private Q_SLOTS:
         QVERIFY(std::ranges::any_of(options, [](const QJsonValue &option) {
             return option[u"keyword"_s] == u"job-priority"_s && option[u"choice"_s] == u"50"_s;
         }));
+        // Its title, in the plan and at the server.
+        const QString title = u"Für Oma, \"10 x 15\""_s;
+        for (const QString &queue : {u"raw"_s, u"photo"_s}) {
+            const QStringList wanted = {u"--printer"_s, queue, u"--title"_s, title, samplePhoto};
+            const QJsonValue plan =
+                runProgram(wanted + QStringList{u"--dry-run"_s, u"--json"_s}).json().array().at(0);
+            QCOMPARE(plan[u"title"_s], title);
+            QVERIFY(!plan[u"options"_s].toObject().contains(u"job-name"_s));
+            const ProgramRun titled = runProgram(wanted + QStringList{u"--batch"_s});
+            QVERIFY2(titled.status == 0, titled.err.constData());
+            QCOMPARE(cupsd_.job(jobIn(titled)).title, title.toUtf8());
+        }
     }
 
     void refusesQueues_data()
