@@ -23,10 +23,11 @@ namespace {
 
 constexpr qsizetype fewOptions = 20; // without a field to search them
 constexpr int firstRows = 24;        // fill the largest view that is common
-constexpr int idleMilliseconds = 6;
+constexpr int idleMilliseconds = 15; // each time, all that is there is laid out
 constexpr int widestLabelPart = 45; // percent of the view's usual width
 constexpr int usualCharacters = 60;
 constexpr int seenRows = 9;
+constexpr qsizetype mostRowsInSection = 30;
 
 } // namespace
 
@@ -99,13 +100,14 @@ void OptionPageView::makeRows(int milliseconds)
 
 void OptionPageView::makeRow(const QString &key)
 {
-    const QString heading = headingOf_.value(key);
-    if (sections_.isEmpty() || sections_.constLast().heading->text() != heading)
-        addHeading(heading);
+    const QString group = headingOf_.value(key);
+    if (sections_.isEmpty() || sections_.constLast().group != group ||
+        sections_.constLast().rows.size() >= mostRowsInSection)
+        addSection(group);
     auto *row = new OptionRow(page_, key, nextTag_);
     nextTag_ += row->controls();
     row->setLabelWidth(labelWidth_);
-    column_->insertWidget(column_->count() - 1, row);
+    sections_.constLast().box->layout()->addWidget(row);
     rows_.insert(key, row);
     sections_.last().rows += row;
     if (const QString text = search_->text().trimmed(); !text.isEmpty())
@@ -117,18 +119,25 @@ void OptionPageView::makeRow(const QString &key)
     Q_EMIT rowMade(row);
 }
 
-void OptionPageView::addHeading(const QString &text)
+void OptionPageView::addSection(const QString &group)
 {
-    auto *heading = new QLabel(text, list_);
+    auto *box = new QWidget(list_);
+    auto *rows = new QVBoxLayout(box);
+    rows->setContentsMargins(0, 0, 0, 0);
+    column_->insertWidget(column_->count() - 1, box);
+    const bool continues = !sections_.isEmpty() && sections_.constLast().group == group;
+    sections_.append(Section{box, group, nullptr, {}});
+    if (continues || group.isEmpty())
+        return;
+    auto *heading = new QLabel(group, box);
     heading->setTextFormat(Qt::PlainText);
-    heading->setWordWrap(true);
     QFont font = heading->font();
     font.setPointSizeF(font.pointSizeF() * 1.1);
     font.setBold(true);
     heading->setFont(font);
     heading->setProperty("isHeading", true);
-    column_->insertWidget(column_->count() - 1, heading);
-    sections_.append(Section{heading, {}});
+    rows->addWidget(heading);
+    sections_.last().heading = heading;
 }
 
 /// Rows that are made later would otherwise come last in the window.
@@ -186,12 +195,16 @@ void OptionPageView::search()
 void OptionPageView::updateHeadings()
 {
     bool isEmpty = true;
+    const bool isOnly = isComplete() && std::ranges::all_of(sections_, [this](const Section &section) {
+                            return section.group == sections_.constFirst().group;
+                        });
     for (const Section &section : std::as_const(sections_)) {
         const bool hasRows =
             std::ranges::any_of(section.rows, [](const OptionRow *row) { return !row->isHidden(); });
         isEmpty = isEmpty && !hasRows;
-        const bool isOnly = sections_.size() == 1 && isComplete();
-        section.heading->setVisible(hasRows && !isOnly && !section.heading->text().isEmpty());
+        section.box->setVisible(hasRows);
+        if (section.heading)
+            section.heading->setVisible(hasRows && !isOnly);
     }
     nothing_->setVisible(isEmpty && isComplete());
 }

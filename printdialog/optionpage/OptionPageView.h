@@ -46,7 +46,7 @@ protected:
 private:
     void makeRows(int milliseconds);
     void makeRow(const QString &key);
-    void addHeading(const QString &text);
+    void addSection(const QString &group);
     void linkTabOrder(QWidget *row);
     int widestLabel() const;
     void search();
@@ -64,9 +64,12 @@ private:
     QVBoxLayout *column_ = nullptr;
     QLabel *nothing_;
     QHash<QString, OptionRow *> rows_;
+    /// Some rows that follow each other, laid out on their own: adding one costs the same on every page.
     struct Section
     {
-        QLabel *heading;
+        QWidget *box;
+        QString group;
+        QLabel *heading; // null where the group began earlier
         QList<OptionRow *> rows;
     };
     QList<Section> sections_;

@@ -27,7 +27,6 @@ OptionRow::OptionRow(OptionPage &page, const QString &key, int tag)
     auto *row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
     label_->setTextFormat(Qt::PlainText);
-    label_->setWordWrap(true);
     if (!editor_->isLabelled()) {
         label_->setText(page.source().optionText(key));
         label_->setBuddy(editor_->buddy());
@@ -76,6 +75,8 @@ void OptionRow::showChoice()
 void OptionRow::setLabelWidth(int width)
 {
     label_->setFixedWidth(width);
+    // Only where it is needed: a height that depends on the width makes laying out slow.
+    label_->setWordWrap(label_->sizeHint().width() > width);
     // In line with the first control's text.
     label_->setMinimumHeight(editor_->buddy() ? editor_->buddy()->sizeHint().height() : 0);
 }
