@@ -243,13 +243,13 @@ private Q_SLOTS:
             QTRY_VERIFY(indexOf(opened, u"raw"_s) > 0);
             const qint64 listed = timer.elapsed();
             qInfo("queues listed after %lld ms", static_cast<long long>(listed));
-            QVERIFY(listed < 200);
-            QTest::qWait(1000); // the lister is running by now
+            QVERIFY(listed < 2000); // a call that waits takes 25 s
+            QTest::qWait(1000);     // the lister is running by now
             QCOMPARE(opened.message(), QString());
             QCOMPARE(indexOf(opened, photoQueue), -1);
             timer.start();
         }
-        QVERIFY(timer.elapsed() < 200); // nothing has waited for the lister
+        QVERIFY(timer.elapsed() < 2000); // nothing has waited for the lister
         const OpenedDialog opened(setup(u"nowhere"_s));
         opened.dialog->searchPrinters();
         QTRY_VERIFY(opened.message().contains(u"Avahi does not answer"_s));
