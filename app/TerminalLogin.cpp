@@ -40,14 +40,16 @@ public:
     }
     ~Terminal()
     {
-        if (file_ < 0)
-            return;
-        tcsetattr(file_, TCSAFLUSH, &before_);
-        close(file_);
+        if (hasChanged_)
+            tcsetattr(file_, TCSAFLUSH, &before_);
+        if (file_ >= 0)
+            close(file_);
     }
     Q_DISABLE_COPY_MOVE(Terminal)
 
-    bool isOpen() const { return file_ >= 0; }
+    /// Whether somebody can be asked there. A program in the background that changed the terminal would be
+    /// stopped.
+    bool isUsable() const { return file_ >= 0 && tcgetpgrp(file_) == getpgrp(); }
 
     void write(const QString &text) const
     {
@@ -58,13 +60,14 @@ public:
 
     /// Shows the question, and returns the line that is typed; nothing for Ctrl+C, Ctrl+D, the terminal's
     /// end, or when the flag is raised.
-    std::optional<QString> readLine(const QString &question, bool echoes, const int *cancel) const
+    std::optional<QString> readLine(const QString &question, bool echoes, const int *cancel)
     {
         // No signals: Ctrl+C cancels the question, and must not leave a terminal that does not echo.
         termios now = before_;
         now.c_lflag &= ~static_cast<tcflag_t>(ECHO | ISIG | ICANON);
         now.c_cc[VMIN] = 1;
         now.c_cc[VTIME] = 0;
+        hasChanged_ = true;
         tcsetattr(file_, TCSAFLUSH, &now);
         write(question); // only now, so that no answer to it is shown or dropped
         QByteArray line;
@@ -104,13 +107,14 @@ public:
 
 private:
     int file_;
+    bool hasChanged_ = false;
     termios before_ = {};
 };
 
 std::optional<Login> ask(const LoginQuestion &question, const int *cancel)
 {
-    const Terminal terminal;
-    if (!terminal.isOpen())
+    Terminal terminal;
+    if (!terminal.isUsable())
         return std::nullopt;
     const QString server = plainText(question.server);
     if (question.isRefused)
@@ -132,7 +136,7 @@ std::optional<Login> ask(const LoginQuestion &question, const int *cancel)
 
 void askLoginsOnTerminal()
 {
-    if (Terminal().isOpen())
+    if (Terminal().isUsable())
         Logins::ofRun().setAsk(ask);
     else
         Logins::ofRun().setAsk(

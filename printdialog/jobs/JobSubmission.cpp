@@ -122,7 +122,9 @@ private:
     {
         IppPointer request = ippRequest(IPP_OP_PRINT_JOB, record_.uri);
         ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "job-name", nullptr,
-                     plainText(job.options.value(JobTemplate::titleKey(), document.name), titleLimit).toUtf8().constData());
+                     plainText(job.options.value(JobTemplate::titleKey(), document.name), titleLimit)
+                         .toUtf8()
+                         .constData());
         ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "document-name", nullptr,
                      plainText(document.name, titleLimit).toUtf8().constData());
         ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_MIMETYPE, "document-format", nullptr,
@@ -147,7 +149,8 @@ private:
             for (auto option = options.cbegin(); option != options.cend(); ++option) {
                 // Those of a printer without a PPD are its attributes; what is left are options of the job.
                 const bool isAttribute = job.ipp && !JobTemplate::isJobOption(option.key());
-                const bool isAlone = option.key() == passwordOption || option.key() == JobTemplate::titleKey();
+                const bool isAlone =
+                    option.key() == passwordOption || option.key() == JobTemplate::titleKey();
                 if (!isAlone && !isAttribute && !attributes.contains(option.key()))
                     addOption(request.get(), option.key().toUtf8(), option.value().toUtf8());
             }
@@ -189,7 +192,8 @@ private:
 
 std::optional<Failure<QueueFault>> whyUnfit(const PrintJob &job, const JobDocument &document)
 {
-    const QMap<QString, QString> &options = job.options;
+    QMap<QString, QString> options = job.options;
+    options.insert(job.secrets);
     for (auto option = options.cbegin(); option != options.cend(); ++option) {
         const QString keyword = plainText(option.key(), 80);
         if (!isKeyword(option.key()) || option.key() == QLatin1String("copies"))
@@ -200,8 +204,11 @@ std::optional<Failure<QueueFault>> whyUnfit(const PrintJob &job, const JobDocume
             return refusal(Text::tr("The option \"%1\" is not sent, because its value has a line break or "
                                     "another control character in it. Choose another value.")
                                .arg(keyword));
-        // CUPS would read it, and everything after it, as a collection.
-        if (option.value().startsWith(u'{'))
+        // CUPS would read it, and everything after it, as a collection. One with a single pair of braces ends
+        // where it should: a custom choice of several values.
+        const QString &value = option.value();
+        const bool isCollection = value.startsWith(u'{') && option.key() != JobTemplate::titleKey();
+        if (isCollection && !(value.endsWith(u'}') && value.count(u'{') == 1 && value.count(u'}') == 1))
             return refusal(Text::tr("The option \"%1\" is not sent, because CUPS misreads a value that "
                                     "begins with a brace. Choose another value.")
                                .arg(keyword));

@@ -33,10 +33,12 @@ QString forButton(QString text)
 }
 
 /// These mean that none of the others is chosen.
-bool isNone(const QString &keyword)
+bool isNone(const QString &key, const QString &keyword)
 {
-    return keyword == QLatin1String("None") || keyword == QLatin1String("none") ||
-           keyword == QLatin1String("Off") || keyword == QLatin1String("False");
+    constexpr QLatin1String ippNone("3"); // RFC 8011, 5.2.6
+    return (key == QLatin1String("finishings") && keyword == ippNone) || keyword == QLatin1String("None") ||
+           keyword == QLatin1String("none") || keyword == QLatin1String("Off") ||
+           keyword == QLatin1String("False");
 }
 
 } // namespace
@@ -79,7 +81,7 @@ void ChoiceEditor::makeCheckBox()
         const QString reason = page_.session().equipmentRefusal(key_, choice);
         if (reason.isEmpty())
             continue;
-        check_->setEnabled(false);
+        excluded_ = choice;
         check_->setText(tr("%1 (%2)", "an option or choice, and why it is not available")
                             .arg(check_->text(), forButton(reason)));
     }
@@ -128,13 +130,13 @@ void ChoiceEditor::makeMany()
 {
     const QList<Choice> choices = page_.source().choices(key_);
     for (const Choice &choice : choices) {
-        if (isNone(choice.keyword))
+        if (isNone(key_, choice.keyword))
             continue; // as no box is checked
         auto *box = new QCheckBox(forButton(choice.text), row_);
         box->setProperty("choice", choice.keyword);
         const QString reason = page_.session().equipmentRefusal(key_, choice.keyword);
         if (!reason.isEmpty()) {
-            box->setEnabled(false);
+            box->setProperty("isExcluded", true);
             box->setText(tr("%1 (%2)", "an option or choice, and why it is not available")
                              .arg(box->text(), forButton(reason)));
         }
@@ -167,8 +169,8 @@ void ChoiceEditor::chooseMany(QCheckBox *box)
     }
     if (keywords.isEmpty()) {
         const QList<Choice> choices = page_.source().choices(key_);
-        const auto none =
-            std::ranges::find_if(choices, [](const Choice &choice) { return isNone(choice.keyword); });
+        const auto none = std::ranges::find_if(
+            choices, [this](const Choice &choice) { return isNone(key_, choice.keyword); });
         // Without such a choice one of the others always applies: the job could not say that none does.
         keywords += none == choices.cend() ? box->property("choice").toString() : none->keyword;
     }
@@ -177,8 +179,11 @@ void ChoiceEditor::chooseMany(QCheckBox *box)
 
 void ChoiceEditor::showChoice(const std::optional<QString> &choice)
 {
-    if (check_)
+    if (check_) {
         pdekit::setState(check_, choice == QLatin1String("True") ? 1 : 0);
+        // What the equipment rules out can be taken back where it is a default.
+        check_->setEnabled(excluded_.isEmpty() || choice == excluded_);
+    }
     if (!many_.isEmpty())
         showMany(choice.value_or(QString()));
     if (!list_)
@@ -195,8 +200,11 @@ void ChoiceEditor::showChoice(const std::optional<QString> &choice)
 void ChoiceEditor::showMany(const QString &choice)
 {
     const QStringList keywords = choice.split(u',');
-    for (QCheckBox *box : std::as_const(many_))
-        pdekit::setState(box, keywords.contains(box->property("choice").toString()) ? 1 : 0);
+    for (QCheckBox *box : std::as_const(many_)) {
+        const bool isChosen = keywords.contains(box->property("choice").toString());
+        pdekit::setState(box, isChosen ? 1 : 0);
+        box->setEnabled(isChosen || !box->property("isExcluded").toBool());
+    }
 }
 
 } // namespace printdialog

@@ -54,6 +54,7 @@ private:
     int controls_ = 0;
     QWidget *buddy_ = nullptr;
     QCheckBox *check_ = nullptr;
+    QString excluded_; // the choice that the equipment rules out
     QComboBox *list_ = nullptr;
     CustomFields *custom_ = nullptr;
     QList<QCheckBox *> many_;

@@ -3,9 +3,11 @@
 
 #include "CustomFields.h"
 
+#include "Feedback.h"
 #include "OptionPage.h"
 #include "TextFieldEvents.h"
 
+#include <QtGui/QFocusEvent>
 #include <QtWidgets/QGridLayout>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
@@ -50,6 +52,7 @@ CustomFields::CustomFields(OptionPage &page, const QString &key, QWidget *parent
         grid->addWidget(range, row, 2);
         fields_ += field;
         shown_ += QString();
+        field->installEventFilter(this);
         auto *events = pdekit::TextFieldEvents::attach(field);
         connect(events, &pdekit::TextFieldEvents::textDidChange, this, [this, field] { apply(field); });
         connect(events, &pdekit::TextFieldEvents::textDidEndEditing, this,
@@ -105,8 +108,11 @@ std::optional<CustomValues> CustomFields::typed() const
 void CustomFields::apply(QLineEdit *field)
 {
     const auto values = typed();
-    if (!values)
+    if (!values) {
+        if (isSecret(parameters_))
+            page_.session().keepSecret(key_, {}); // of what was typed before
         return;
+    }
     if (isSecret(parameters_)) {
         page_.session().keepSecret(key_, *values);
         page_.choose(key_, QStringLiteral("Custom"), field);
@@ -130,12 +136,29 @@ void CustomFields::applyAtEnd(QLineEdit *field)
         Q_EMIT abandoned();
         return;
     }
-    if (!isSecret(parameters_)) {
-        const CustomValues refused = {{parameters_.at(index).name, field->text().trimmed()}};
-        if (page_.session().rule && parameters_.size() == 1)
-            page_.choose(key_, customChoice(parameters_, refused), field); // which says what is allowed
-    }
+    // The range stands beside the field; a refused choice is explained as well.
+    const CustomValues refused = {{parameters_.at(index).name, field->text().trimmed()}};
+    if (page_.session().rule && parameters_.size() == 1 && !isSecret(parameters_))
+        page_.choose(key_, customChoice(parameters_, refused), field);
+    else
+        pdekit::Feedback::current().beep();
     field->setText(shown_.at(index));
+    if (isSecret(parameters_))
+        Q_EMIT abandoned();
+}
+
+/// A field that is left as empty as it was is no edit.
+bool CustomFields::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::FocusOut &&
+        static_cast<QFocusEvent *>(event)->reason() != Qt::ActiveWindowFocusReason &&
+        static_cast<QFocusEvent *>(event)->reason() != Qt::PopupFocusReason) {
+        const auto *field = qobject_cast<QLineEdit *>(watched);
+        const qsizetype index = fields_.indexOf(field);
+        if (index >= 0 && field->text().isEmpty() && shown_.at(index).isEmpty())
+            QMetaObject::invokeMethod(this, &CustomFields::abandoned, Qt::QueuedConnection);
+    }
+    return QWidget::eventFilter(watched, event);
 }
 
 } // namespace printdialog

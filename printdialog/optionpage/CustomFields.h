@@ -34,6 +34,9 @@ Q_SIGNALS:
     /// The fields were left empty.
     void abandoned();
 
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
 private:
     std::optional<CustomValues> typed() const;
     void apply(QLineEdit *field);

@@ -38,7 +38,7 @@ public:
         std::function<bool(const QString &key, const QString &choice)> rule;
         /// Why the printer's installed equipment rules out a choice; empty when it does not.
         std::function<QString(const QString &key, const QString &choice)> equipmentRefusal;
-        /// Keeps the secret values of a custom choice for the job.
+        /// Keeps the secret values of a custom choice for the job; none: forgets them.
         std::function<void(const QString &key, const CustomValues &values)> keepSecret;
     };
 

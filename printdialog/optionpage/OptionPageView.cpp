@@ -24,7 +24,7 @@ namespace {
 constexpr qsizetype fewOptions = 20; // without a field to search them
 constexpr int firstRows = 24;        // fill the largest view that is common
 constexpr int idleMilliseconds = 15; // each time, all that is there is laid out
-constexpr int widestLabelPart = 45; // percent of the view's usual width
+constexpr int widestLabelPart = 45;  // percent of the view's usual width
 constexpr int usualCharacters = 60;
 constexpr int seenRows = 9;
 constexpr qsizetype mostRowsInSection = 30;

@@ -140,7 +140,10 @@ void DialogSession::updateOwnPage(OwnPage &own, const QStringList &keys)
         return equipmentText(*options_.source, chosen_.equipmentAgainst(key, choice));
     };
     session.keepSecret = [this](const QString &key, const CustomValues &values) {
-        secrets_.insert(key, values);
+        if (values.isEmpty())
+            secrets_.remove(key);
+        else
+            secrets_.insert(key, values);
     };
     const QString ofPrinter = isAlone ? tr("Options") : tr("More Options");
     auto page =

@@ -133,7 +133,7 @@ private Q_SLOTS:
                                              {u"Finish"_s, u"\u0085"_s},
                                              {u"Finish"_s, u"\u2028"_s},
                                              {u"Finish"_s, QString(128, u'\u00e4')},
-                                             {u"Finish"_s, u"{a=b}"_s},
+                                             {u"Finish"_s, u"{a={b}}"_s},
                                              {u"Fin\nish"_s, u"Matte"_s},
                                              {u"Finish Stray"_s, u"1"_s},
                                              {u"Finish=1"_s, u"1"_s},

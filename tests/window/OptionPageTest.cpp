@@ -253,6 +253,17 @@ private Q_SLOTS:
         QCOMPARE(open().find<QComboBox>(u"pageSize"_s)->currentText(), first);
     }
 
+    // What is left empty is no choice.
+    void customChoiceIsGivenUp()
+    {
+        const OpenedDialog opened = open();
+        auto *list = opened.find<QComboBox>(u"Banner"_s);
+        choose(opened, u"Banner"_s, u"Custom"_s);
+        QVERIFY(field(opened, u"Banner"_s)->hasFocus());
+        opened.find<QWidget>(u"copies"_s)->setFocus();
+        QTRY_COMPARE(list->currentText(), u"None"_s);
+    }
+
     // A PIN is sent and nowhere else.
     void secretsStaySecret()
     {
@@ -272,10 +283,15 @@ private Q_SLOTS:
                 QVERIFY(file.open(QIODevice::ReadOnly) && !file.readAll().contains(pin.toLatin1()));
             }
         }
-        // Too short a one does not count.
-        type(edit, u"12"_s);
+        // Too short a one does not count, nor does what was typed before it.
+        edit->setFocus();
+        for (int i = 0; i < 4; ++i)
+            QTest::keyClick(edit, Qt::Key_Backspace);
         opened.find<QWidget>(u"copies"_s)->setFocus();
         QVERIFY(edit->text().isEmpty());
+        QTRY_VERIFY(opened.find<QWidget>(u"print"_s)->isEnabled());
+        opened.dialog->print();
+        QVERIFY2(opened.message().contains(u"\"Locked Print\" lacks"_s), qPrintable(opened.message()));
     }
 
     // A thousand options are shown at once, found by their texts, and chosen from like ten.

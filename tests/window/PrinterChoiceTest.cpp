@@ -92,17 +92,6 @@ private Q_SLOTS:
         QVERIFY(cupsd_.deleteQueue(u"nowhere"_s));
     }
 
-private:
-    // As a user does: the list has the queue when it was found.
-    static void choose(const OpenedDialog &opened, const QString &printer)
-    {
-        auto *chooser = opened.find<QComboBox>(u"printer"_s);
-        chooser->setFocus();
-        QTRY_VERIFY(chooser->count() > 1);
-        QTest::keyClick(chooser, printer == u"built-in"_s ? Qt::Key_Home : Qt::Key_End);
-        QVERIFY(showsReady(opened, printer));
-    }
-
     // Among many printers, by any part of its words; what is typed is never a printer itself.
     void manyAreSearched_data()
     {
@@ -134,10 +123,11 @@ private:
         printers->setFocus();
         field->selectAll();
         QTest::keyClicks(field, typed);
-        QCOMPARE(printers->completer()->popup()->isVisible(), found != u"built-in"_s);
+        if (!typed.trimmed().isEmpty())
+            QCOMPARE(printers->completer()->popup()->isVisible(), found != u"built-in"_s);
         const QString before = printers->current().id();
         QCOMPARE(before, u"built-in"_s); // not before it is chosen
-        QTest::keyClick(field, Qt::Key_Return);
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
         QCOMPARE(printers->current().id(), found);
         QCOMPARE(printers->currentText(), printers->itemText(printers->currentIndex()));
         QCOMPARE(printers->count(), 20);
@@ -146,6 +136,17 @@ private:
         QTest::keyClicks(field, u"x"_s);
         opened.find<QWidget>(u"copies"_s)->setFocus();
         QCOMPARE(printers->currentText(), printers->itemText(printers->currentIndex()));
+    }
+
+private:
+    // As a user does: the list has the queue when it was found.
+    static void choose(const OpenedDialog &opened, const QString &printer)
+    {
+        auto *chooser = opened.find<QComboBox>(u"printer"_s);
+        chooser->setFocus();
+        QTRY_VERIFY(chooser->count() > 1);
+        QTest::keyClick(chooser, printer == u"built-in"_s ? Qt::Key_Home : Qt::Key_End);
+        QVERIFY(showsReady(opened, printer));
     }
 };
 

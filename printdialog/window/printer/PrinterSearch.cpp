@@ -46,6 +46,8 @@ PrinterSearch::PrinterSearch(QComboBox *list)
     field->setAccessibleName(tr("Printer"));
     field->setAccessibleDescription(tr("Type a part of its name, place or model to find it"));
     field->setToolTip(field->accessibleDescription());
+    // The list has the focus, and hands the keys on to its field.
+    list->installEventFilter(this);
     field->installEventFilter(this);
 }
 
