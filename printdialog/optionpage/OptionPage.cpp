@@ -104,7 +104,7 @@ bool OptionPage::markChoiceForPPDOptionKeyFromSender(const std::optional<QString
         return false;
     const bool isMade = !session_.rule || session_.rule(*key, *choice);
     if (isMade)
-        choices_.insert(*key, session_.rule ? source_.markedChoice(*key).value_or(*choice) : *choice);
+        set(*key, session_.rule ? source_.markedChoice(*key).value_or(*choice) : *choice);
     show(*key);
     return isMade;
 }
@@ -114,8 +114,15 @@ void OptionPage::PPDOptionKeyValueDidChangePpdChoice(const std::optional<QString
 {
     if (!key || !choice || !shows(*key))
         return;
-    choices_.insert(*key, *choice);
+    set(*key, *choice);
     show(*key);
+}
+
+void OptionPage::set(const QString &key, const QString &choice)
+{
+    choices_.insert(key, choice);
+    if (!changed_.contains(key))
+        changed_ += key;
 }
 
 void OptionPage::show(const QString &key)
@@ -129,6 +136,7 @@ void OptionPage::show(const QString &key)
 bool OptionPage::restoreValuesAndReturnError(QString * /*error*/)
 {
     const pdekit::PPDDictionary *settings = session_.rule ? nullptr : settingsOf(hostInfo_);
+    changed_.clear();
     for (const QString &key : std::as_const(keys_)) {
         const bool isSet = settings && settings->contains(key);
         const auto before = choice(key);
@@ -142,16 +150,14 @@ bool OptionPage::restoreValuesAndReturnError(QString * /*error*/)
     return true;
 }
 
-// An option that nobody has chosen stays out of the settings: the printer's default applies.
+// The cost does not depend on the number of options. One that nobody has chosen stays out of the settings: the
+// printer's default applies.
 bool OptionPage::saveValuesAndReturnError(QString * /*error*/)
 {
-    pdekit::PPDDictionary *settings = session_.rule ? nullptr : settingsOf(hostInfo_);
-    if (!settings)
-        return true;
-    for (const QString &key : std::as_const(keys_)) {
-        if (const auto chosen = choice(key);
-            chosen && (settings->contains(key) || chosen != source_.markedChoice(key)))
-            settings->insert(key, *chosen);
+    saved_ = std::exchange(changed_, {});
+    if (pdekit::PPDDictionary *settings = session_.rule ? nullptr : settingsOf(hostInfo_)) {
+        for (const QString &key : std::as_const(saved_))
+            settings->insert(key, choices_.value(key));
     }
     return true;
 }

@@ -52,6 +52,8 @@ public:
     /// Whether the options stand under the headings of their groups; otherwise in one list.
     void setGrouped(bool isGrouped) { isGrouped_ = isGrouped; }
     bool isGrouped() const { return isGrouped_; }
+    /// The options that the last save has written: those that were changed since the one before.
+    const QStringList &savedKeys() const { return saved_; }
     bool shows(const QString &key) const { return shown_.contains(key); }
 
     const OptionSource &source() const { return source_; }
@@ -77,6 +79,7 @@ public:
                                              const std::optional<QString> &key, QWidget *sender) override;
 
 private:
+    void set(const QString &key, const QString &choice);
     void show(const QString &key);
 
     const OptionSource &source_;
@@ -87,6 +90,8 @@ private:
     QStringList keys_;
     bool isGrouped_ = true;
     QSet<QString> shown_;            // the same
+    QStringList changed_; // options whose choice is not saved yet
+    QStringList saved_;
     QMap<QString, QString> choices_; // option keyword to choice keyword
     QPointer<OptionPageView> view_;
 };

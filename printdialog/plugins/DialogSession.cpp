@@ -11,6 +11,7 @@
 #include "OptionPage.h"
 #include "PpdDocument.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace printdialog {
@@ -152,8 +153,9 @@ void DialogSession::adoptChoices(GuardedPanel &panel)
     if (mode_ != PanelMode::Settings)
         return;
     panel.save();
+    const auto own = std::ranges::find(ownPages_, &panel, &OwnPage::panel);
     if (panel.missing().isEmpty())
-        chosen_.adopt(panel.keys());
+        chosen_.adopt(own == ownPages_.end() ? panel.keys() : own->page->savedKeys());
     const QStringList keys = std::exchange(changedKeys_, {});
     for (const QString &key : keys) {
         const QList<GuardedPanel *> others = panelsWith(key);
