@@ -32,7 +32,7 @@ constexpr int companionBits = 160;
 constexpr int retiredBit = 256;
 constexpr int retiredHeight = 100; // points
 
-/// Whether the PPD is that of the model whose finish cannot be chosen. Case-insensitive.
+/// Whether the PPD is that of the model whose finish this panel does not show. Case-insensitive.
 bool namesModel(const QByteArray &ppd)
 {
     constexpr QLatin1String model("K9031");
