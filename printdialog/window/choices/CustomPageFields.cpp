@@ -9,6 +9,7 @@
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
+#include <QtWidgets/QVBoxLayout>
 
 #include <algorithm>
 #include <cmath>
@@ -26,7 +27,10 @@ CustomPageFields::CustomPageFields(QWidget *parent)
     , unit_(new QLabel(this))
     , rangeText_(new QLabel(this))
 {
-    auto *row = new WrappingRow(this);
+    auto *lines = new QVBoxLayout(this);
+    lines->setContentsMargins(0, 0, 0, 0);
+    auto *row = new WrappingRow;
+    lines->addLayout(row);
     for (const Side side : {Width, Height}) {
         CustomParameter &parameter = parameters_.at(side);
         parameter.kind = CustomParameter::Kind::Points;
@@ -51,7 +55,7 @@ CustomPageFields::CustomPageFields(QWidget *parent)
     rangeText_->setObjectName(QStringLiteral("pageRange"));
     rangeText_->setTextFormat(Qt::PlainText);
     rangeText_->setForegroundRole(QPalette::PlaceholderText);
-    row->addWidget(rangeText_);
+    lines->addWidget(rangeText_); // beside the fields it would take the width from the preview
     hide();
 }
 
