@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include "OpenedDialog.h"
+#include "StubPrinter.h"
 
 #include <QtCore/QDir>
 
@@ -24,9 +25,10 @@ QPalette darkPalette()
 }
 
 bool picture(const QDir &folder, const QString &name,
-             const std::function<void(const OpenedDialog &)> &prepare)
+             const std::function<void(const OpenedDialog &)> &prepare,
+             const PrintDialogSetup &setup = setupFor(PanelMode::Constraint))
 {
-    const OpenedDialog opened;
+    const OpenedDialog opened(setup);
     opened.find<QLineEdit>(u"folder"_s)->setText(u"/home/ada/Prints"_s);
     prepare(opened);
     if (!QTest::qWaitFor([&opened] { return opened.dialog->isPreviewReady(); }))
@@ -36,6 +38,30 @@ bool picture(const QDir &folder, const QString &name,
     QCoreApplication::processEvents(); // what it shows has changed the layout
     const QImage image = opened.dialog->grab().toImage().convertToFormat(QImage::Format_RGB888);
     return image.save(folder.filePath(name + u".png"_s), "PNG", 0);
+}
+
+PrintDialogSetup laser()
+{
+    PrintDialogSetup setup = setupFor(PanelMode::Constraint);
+    setup.ppdFile = QStringLiteral(CORVEL_LASER_PPD);
+    return setup;
+}
+
+void choose(const OpenedDialog &opened, const QString &name, const QString &text)
+{
+    auto *list = opened.find<QComboBox>(name);
+    list->setCurrentIndex(list->findText(text));
+    Q_EMIT list->activated(list->currentIndex());
+}
+
+/// The stub's port is another one each time.
+void nameAddress(const OpenedDialog &opened)
+{
+    opened.dialog->searchPrinters();
+    if (!QTest::qWaitFor([&opened] { return opened.dialog->isReady(); }))
+        std::fprintf(stderr, "%s\n", qPrintable(opened.dialog->whyNotReady()));
+    auto *printers = opened.find<QComboBox>(u"printer"_s);
+    printers->setItemText(printers->currentIndex(), u"ipp://photo.local/ipp/print"_s);
 }
 
 } // namespace
@@ -66,6 +92,34 @@ int main(int argc, char *argv[])
             Q_EMIT box->activated(index);
         }
     });
+    isDone &= picture(
+        folder, u"dialog-laser"_s,
+        [](const OpenedDialog &opened) {
+            choose(opened, u"ColorMode"_s, u"Black and White"_s);
+            opened.dialog->resize(900, 620);
+        },
+        laser());
+    isDone &= picture(
+        folder, u"dialog-custom-size"_s,
+        [](const OpenedDialog &opened) {
+            opened.chooseLast(u"pageSize"_s);
+            for (const auto &[name, text] :
+                 {std::pair(u"pageWidth"_s, u"200"_s), {u"pageHeight"_s, u"150"_s}}) {
+                auto *field = opened.find<QLineEdit>(name);
+                field->selectAll();
+                QTest::keyClicks(field, text);
+            }
+            opened.dialog->resize(900, 620);
+        },
+        laser());
+    const StubPrinter printer(PrinterMessage::photoPrinter());
+    isDone &= picture(
+        folder, u"dialog-driverless"_s,
+        [](const OpenedDialog &opened) {
+            nameAddress(opened);
+            opened.dialog->resize(900, 620);
+        },
+        setupForPrinter(PanelMode::Constraint, printer.address()));
     QApplication::setPalette(darkPalette());
     isDone &= picture(folder, u"dialog-dark"_s, page(1));
     if (!isDone)
