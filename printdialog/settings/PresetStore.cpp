@@ -233,7 +233,7 @@ Destination PresetStore::destination(const Destination &typed)
 {
     if (typed.instance.isEmpty())
         return typed;
-    const auto presets = PresetStore(typed.queue).presets();
+    const auto presets = of(typed.queue, typed.isBuiltIn()).presets();
     const Preset *found = presets ? findInstance(*presets, typed.instance) : nullptr;
     return found ? Destination(typed.queue, found->instance) : typed;
 }

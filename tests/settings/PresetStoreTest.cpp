@@ -200,6 +200,7 @@ private Q_SLOTS:
         PresetStore builtIn = PresetStore::builtIn();
         QVERIFY(!builtIn.add(name, red));
         QCOMPARE(namesOf(builtIn), QStringList{name});
+        QCOMPARE(PresetStore::destination(u"built-in/"_s + name).id(), u"built-in/"_s + instance);
     }
 
     void mappedNamesDoNotCollide()
