@@ -23,6 +23,17 @@ QString readable(const QString &keyword)
     return plainText(QString(keyword).replace(u'-', u' '), longestShown);
 }
 
+/// Attributes of a job, and what PPDs call the same.
+const QList<std::pair<QString, QStringList>> &sameOptions()
+{
+    static const QList<std::pair<QString, QStringList>> same = {
+        {sides,
+         {QStringLiteral("Duplex"), QStringLiteral("JCLDuplex"), QStringLiteral("EFDuplex"),
+          QStringLiteral("EFDuplexing"), QStringLiteral("KD03Duplex"), QStringLiteral("ARDuplex")}},
+        {collation, {QStringLiteral("Collate")}}};
+    return same;
+}
+
 /// IPP leaves a job's time to the server's own keywords; CUPS takes a time of day as well.
 bool isCups(const IppAttributes &printer)
 {
@@ -55,17 +66,20 @@ std::unique_ptr<JobTemplate> JobTemplate::besides(const OptionSource &printer,
 {
     if (attributes.isEmpty())
         return nullptr;
-    const QHash<QString, QStringList> sameOptions = {
-        {sides,
-         {QStringLiteral("Duplex"), QStringLiteral("JCLDuplex"), QStringLiteral("EFDuplex"),
-          QStringLiteral("EFDuplexing"), QStringLiteral("ARDuplex"), QStringLiteral("KD03Duplex")}},
-        {collation, {QStringLiteral("Collate")}}};
     QStringList without;
-    for (auto same = sameOptions.cbegin(); same != sameOptions.cend(); ++same) {
-        if (std::ranges::any_of(*same, [&printer](const QString &key) { return printer.hasOption(key); }))
-            without += same.key();
+    for (const auto &[attribute, keys] : sameOptions()) {
+        if (std::ranges::any_of(keys, [&printer](const QString &key) { return printer.hasOption(key); }))
+            without += attribute;
     }
     return std::make_unique<JobTemplate>(attributes, without);
+}
+
+QStringList JobTemplate::namedByPrinters()
+{
+    QStringList keys;
+    for (const auto &[attribute, names] : sameOptions())
+        keys += names;
+    return keys + QStringList{sides, collation};
 }
 
 void JobTemplate::add(const QString &key, const Option &option)

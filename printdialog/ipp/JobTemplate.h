@@ -32,6 +32,8 @@ public:
     /// names of its own, such as Duplex. Null while the attributes are not known.
     static std::unique_ptr<JobTemplate> besides(const OptionSource &printer, const IppAttributes &attributes);
 
+    /// Options that printers name themselves, but that people look for among those of every job.
+    static QStringList namedByPrinters();
     /// The option whose custom text is the job's title; "None": the photo's name.
     static QString titleKey();
     /// Whether some printer has it as a job option, in either spelling.

@@ -18,17 +18,6 @@ namespace {
 constexpr std::size_t printerPage = 0;
 constexpr std::size_t jobPage = 1;
 
-/// Printers name these options themselves, but people look for them among those of every job.
-const QStringList &jobOptionsOfPrinters()
-{
-    static const QStringList keys = {
-        QStringLiteral("Duplex"),   QStringLiteral("JCLDuplex"),
-        QStringLiteral("EFDuplex"), QStringLiteral("KD03Duplex"),
-        QStringLiteral("ARDuplex"), QStringLiteral("Collate"),
-        QStringLiteral("sides"),    QStringLiteral("multiple-document-handling")};
-    return keys;
-}
-
 /// "Tray 4: Not Installed"
 QString equipmentText(const OptionSource &source, const QList<OptionChoice> &equipment)
 {
@@ -111,7 +100,8 @@ QStringList DialogSession::keysForOwnPages() const
 void DialogSession::updateOwnPages()
 {
     QStringList ofPrinter = keysForOwnPages();
-    QStringList ofJob = QStringList(JobTemplate::titleKey()) + jobOptionsOfPrinters() + jobOptionKeys();
+    QStringList ofJob =
+        QStringList(JobTemplate::titleKey()) + JobTemplate::namedByPrinters() + jobOptionKeys();
     ofJob.removeDuplicates();
     ofJob.removeIf([&ofPrinter](const QString &key) { return !ofPrinter.contains(key); });
     ofPrinter.removeIf([&ofJob](const QString &key) { return ofJob.contains(key); });

@@ -444,6 +444,19 @@ Standardwarteschlange oder der eingebaute Drucker</translation>
     </message>
 </context>
 <context>
+    <name>DialogSession</name>
+    <message>
+        <source>%1: %2</source>
+        <comment>a part of the printer and its state</comment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <comment>between the parts of a list</comment>
+        <translation>, </translation>
+    </message>
+</context>
+<context>
     <name>IppOptions</name>
     <message>
         <source>Yes</source>
@@ -2223,16 +2236,6 @@ Standardwarteschlange oder der eingebaute Drucker</translation>
     <message>
         <source>The option &quot;%1&quot; lacks what has to be entered for it.</source>
         <translation>Für die Option „%1“ fehlt die Eingabe.</translation>
-    </message>
-    <message>
-        <source>%1: %2</source>
-        <comment>a part of the printer and its state</comment>
-        <translation>%1: %2</translation>
-    </message>
-    <message>
-        <source>, </source>
-        <comment>between the parts of a list</comment>
-        <translation>, </translation>
     </message>
     <message>
         <source>Options</source>

@@ -443,6 +443,19 @@ predeterminada o, si no hay, la integrada</translation>
     </message>
 </context>
 <context>
+    <name>DialogSession</name>
+    <message>
+        <source>%1: %2</source>
+        <comment>a part of the printer and its state</comment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <comment>between the parts of a list</comment>
+        <translation>, </translation>
+    </message>
+</context>
+<context>
     <name>IppOptions</name>
     <message>
         <source>Yes</source>
@@ -2222,16 +2235,6 @@ predeterminada o, si no hay, la integrada</translation>
     <message>
         <source>The option &quot;%1&quot; lacks what has to be entered for it.</source>
         <translation>Falta lo que hay que introducir para la opción «%1».</translation>
-    </message>
-    <message>
-        <source>%1: %2</source>
-        <comment>a part of the printer and its state</comment>
-        <translation>%1: %2</translation>
-    </message>
-    <message>
-        <source>, </source>
-        <comment>between the parts of a list</comment>
-        <translation>, </translation>
     </message>
     <message>
         <source>Options</source>

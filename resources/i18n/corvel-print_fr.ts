@@ -444,6 +444,19 @@ votre file par défaut, ou à défaut l’imprimante intégrée</translation>
     </message>
 </context>
 <context>
+    <name>DialogSession</name>
+    <message>
+        <source>%1: %2</source>
+        <comment>a part of the printer and its state</comment>
+        <translation>%1 : %2</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <comment>between the parts of a list</comment>
+        <translation>, </translation>
+    </message>
+</context>
+<context>
     <name>IppOptions</name>
     <message>
         <source>Yes</source>
@@ -2223,16 +2236,6 @@ votre file par défaut, ou à défaut l’imprimante intégrée</translation>
     <message>
         <source>The option &quot;%1&quot; lacks what has to be entered for it.</source>
         <translation>Il manque la saisie pour l’option «&#x202f;%1&#x202f;».</translation>
-    </message>
-    <message>
-        <source>%1: %2</source>
-        <comment>a part of the printer and its state</comment>
-        <translation>%1&#x202f;: %2</translation>
-    </message>
-    <message>
-        <source>, </source>
-        <comment>between the parts of a list</comment>
-        <translation>, </translation>
     </message>
     <message>
         <source>Options</source>

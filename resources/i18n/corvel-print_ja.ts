@@ -442,6 +442,19 @@ QUEUE/プリセット。プリントサーバーを使わない場合はプリ�
     </message>
 </context>
 <context>
+    <name>DialogSession</name>
+    <message>
+        <source>%1: %2</source>
+        <comment>a part of the printer and its state</comment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <comment>between the parts of a list</comment>
+        <translation>、</translation>
+    </message>
+</context>
+<context>
     <name>IppOptions</name>
     <message>
         <source>Yes</source>
@@ -2221,16 +2234,6 @@ QUEUE/プリセット。プリントサーバーを使わない場合はプリ�
     <message>
         <source>The option &quot;%1&quot; lacks what has to be entered for it.</source>
         <translation>項目「%1」に必要な入力がありません。</translation>
-    </message>
-    <message>
-        <source>%1: %2</source>
-        <comment>a part of the printer and its state</comment>
-        <translation>%1：%2</translation>
-    </message>
-    <message>
-        <source>, </source>
-        <comment>between the parts of a list</comment>
-        <translation>、</translation>
     </message>
     <message>
         <source>Options</source>
