@@ -16,7 +16,7 @@ JoinedOptions::JoinedOptions(std::unique_ptr<OptionSource> printer, std::unique_
 
 JoinedOptions::~JoinedOptions() = default;
 
-void JoinedOptions::setJob(std::unique_ptr<OptionSource> job)
+void JoinedOptions::setJob(std::unique_ptr<OptionSource> job, const QStringList &chosen)
 {
     const auto before = std::exchange(job_, std::move(job));
     keys_ = printer_->options();
@@ -27,7 +27,7 @@ void JoinedOptions::setJob(std::unique_ptr<OptionSource> job)
         if (printer_->hasOption(key))
             continue;
         jobKeys_ += key;
-        const auto marked = before ? before->markedChoice(key) : std::nullopt;
+        const auto marked = before && chosen.contains(key) ? before->markedChoice(key) : std::nullopt;
         if (marked && (job_->choice(key, *marked) || !job_->customParameters(key).isEmpty()))
             job_->mark(key, *marked);
     }

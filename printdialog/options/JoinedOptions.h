@@ -18,8 +18,9 @@ public:
                            std::unique_ptr<OptionSource> job = nullptr);
     ~JoinedOptions() override;
 
-    /// Replaces the job's options; the choices that the new ones have, too, stay marked.
-    void setJob(std::unique_ptr<OptionSource> job);
+    /// Replaces the job's options. The choices of the options in `chosen` stay marked if the new ones have
+    /// them, too; the others become the new defaults.
+    void setJob(std::unique_ptr<OptionSource> job, const QStringList &chosen = {});
     /// The options that are the job's.
     const QStringList &jobOptions() const { return jobKeys_; }
 

@@ -41,7 +41,7 @@ QMap<QString, QString> DialogSession::spelledHere(const QMap<QString, QString> &
 void DialogSession::setAttributes(const IppAttributes &attributes)
 {
     options_.attributes = attributes;
-    joined_.setJob(JobTemplate::besides(joined_, attributes));
+    joined_.setJob(JobTemplate::besides(joined_, attributes), chosen_.chosenKeys());
     chosen_.include(joined_.jobOptions());
     updateOwnPages();
     Q_EMIT jobOptionsChanged();

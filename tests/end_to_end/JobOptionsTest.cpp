@@ -123,12 +123,18 @@ private Q_SLOTS:
     // What is not chosen is the server's default, and not sent.
     void serversDefaultIsShown()
     {
+        const Session before = openedQueue(u"photo"_s);
+        QVERIFY(before->choose(u"job-hold-until"_s, u"evening"_s).letsThrough());
         QVERIFY(cupsd_.run(u"lpadmin"_s, {u"-p"_s, u"photo"_s, u"-o"_s, u"job-sheets-default=none,standard"_s,
                                           u"-o"_s, u"job-priority-default=70"_s}));
         const Session session = openedQueue(u"photo"_s);
         QCOMPARE(session->chosen(u"job-sheets-end"_s), u"standard"_s);
         QCOMPARE(session->chosen(u"job-priority"_s), u"Custom.70"_s);
         QCOMPARE(jobOf(*session, 1)->job.options.keys(), QStringList{u"PageSize"_s});
+        // An open window follows it where the user has chosen nothing.
+        before->setAttributes(queueNamed(u"photo"_s, 5s)->attributes);
+        QCOMPARE(before->chosen(u"job-priority"_s), u"Custom.70"_s);
+        QCOMPARE(before->chosen(u"job-hold-until"_s), u"evening"_s);
         // The other page is not lost.
         QVERIFY(session->choose(u"job-sheets-start"_s, u"form"_s).letsThrough());
         QCOMPARE(jobOf(*session, 1)->job.options.value(u"job-sheets"_s), u"form,standard"_s);
