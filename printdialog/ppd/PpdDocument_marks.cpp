@@ -138,7 +138,8 @@ QStringList PpdDocument::coupledOptions(const QString &key) const
 
 QList<CustomParameter> PpdDocument::customParameters(const QString &key) const
 {
-    if (key == pageOption || !hasOption(key))
+    // Among several choices, libcups has no place for the values of a custom one.
+    if (key == pageOption || !hasOption(key) || kind(key) == OptionKind::PickMany)
         return {};
     ppd_coption_t *custom = ppdFindCustomOption(record_.get(), key.toLatin1().constData());
     QList<CustomParameter> parameters;

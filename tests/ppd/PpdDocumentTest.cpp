@@ -357,7 +357,8 @@ private Q_SLOTS:
             header + pageSizes() + "*OpenGroup: Photo/Photo\n" +
             option("Overcoat", {"Glossy/Gl\xe4nzend", "Matte/\x01"}, "Lamination").replace("\x01", "<01>") +
             option("Lacking", {"Nope/n", "Yes"}).replace("*Lacking Nope/n: \"\"\n", "") +
-            option("Many", {"a", "b", "c"}).replace("PickOne", "PickMany") + "*CloseGroup: Photo\n");
+            option("Many", {"a", "b", "c"}).replace("PickOne", "PickMany") + "*CloseGroup: Photo\n" +
+            "*CustomMany True: \"pop\"\n*ParamCustomMany Value/Value: 1 int 1 9\n");
         QCOMPARE(document.options(), QStringList({u"PageSize"_s, u"Overcoat"_s, u"Lacking"_s, u"Many"_s}));
         QCOMPARE(document.optionText(u"Overcoat"_s), u"Lamination"_s);
         QCOMPARE(document.choice(u"Overcoat"_s, u"Glossy"_s)->text, u"Glänzend"_s);
@@ -367,6 +368,8 @@ private Q_SLOTS:
         QCOMPARE(document.markedChoice(u"Overcoat"_s), u"Glossy"_s);
         QCOMPARE(document.defaultChoice(u"Overcoat"_s), u"Glossy"_s);
         QVERIFY(!document.defaultChoice(u"Lacking"_s) && !document.markedChoice(u"Nope"_s));
+        QCOMPARE(document.choices(u"Many"_s).size(), 3);
+        QVERIFY(document.customParameters(u"Many"_s).isEmpty());
         QVERIFY(document.requestedBundles().isEmpty());
     }
 
