@@ -141,6 +141,7 @@ void PrintDialog::showReplacement(const QMap<QString, QString> &choices)
     const int copies = ui_->copies->value();
     showSession();
     printer_->session()->restoreChoices(choices, DialogSession::Unnamed::Default);
+    applyOptions(Requested::OfJob); // the options before had none of them
     ui_->copies->setValue(copies);
     fillPageSizes();
     choices_->start();

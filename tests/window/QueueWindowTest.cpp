@@ -130,7 +130,10 @@ private Q_SLOTS:
     {
         remember(u"photo"_s);
         QVERIFY(cupsd_.addQueue(u"photo"_s, reduced_));
-        const OpenedDialog opened(setupForPrinter());
+        PrintDialogSetup setup = setupForPrinter();
+        setup.printer = u"photo"_s;
+        setup.options = {{u"job-hold-until"_s, u"indefinite"_s}};
+        const OpenedDialog opened(setup);
         opened.type(81, u"9"_s);
         opened.type(82, u"8"_s);
         opened.find<QSpinBox>(u"copies"_s)->setValue(3);
@@ -139,6 +142,10 @@ private Q_SLOTS:
         QVERIFY2(opened.message().contains(u"have changed"_s), qPrintable(opened.message()));
         QCOMPARE(opened.fieldTexts({81, 82}), u"0 8"_s);
         QCOMPARE(opened.find<QSpinBox>(u"copies"_s)->value(), 3);
+        // What was requested of the job could not be chosen before.
+        opened.dialog->print();
+        QTRY_VERIFY(cupsd_.activeJobs().contains("photo-"));
+        QVERIFY(cupsd_.run(u"cancel"_s, {u"-a"_s}));
     }
 
     void rememberedQueueThatIsGone()
