@@ -8,6 +8,8 @@
 #include "OptionPage.h"
 #include "PpdDocument.h"
 
+#include <QtCore/QCoreApplication>
+
 #include <algorithm>
 
 namespace printdialog {
@@ -18,14 +20,19 @@ namespace {
 constexpr std::size_t printerPage = 0;
 constexpr std::size_t jobPage = 1;
 
+struct PagesText
+{
+    Q_DECLARE_TR_FUNCTIONS(printdialog::DialogSession)
+};
+
 /// "Tray 4: Not Installed"
 QString equipmentText(const OptionSource &source, const QList<OptionChoice> &equipment)
 {
     QStringList texts;
     for (const OptionChoice &each : equipment)
-        texts += DialogSession::tr("%1: %2", "a part of the printer and its state")
+        texts += PagesText::tr("%1: %2", "a part of the printer and its state")
                      .arg(source.optionText(each.option), choiceText(source, each));
-    return texts.join(DialogSession::tr(", ", "between the parts of a list"));
+    return texts.join(PagesText::tr(", ", "between the parts of a list"));
 }
 
 } // namespace

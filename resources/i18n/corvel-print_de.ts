@@ -444,19 +444,6 @@ Standardwarteschlange oder der eingebaute Drucker</translation>
     </message>
 </context>
 <context>
-    <name>DialogSession</name>
-    <message>
-        <source>%1: %2</source>
-        <comment>a part of the printer and its state</comment>
-        <translation>%1: %2</translation>
-    </message>
-    <message>
-        <source>, </source>
-        <comment>between the parts of a list</comment>
-        <translation>, </translation>
-    </message>
-</context>
-<context>
     <name>IppOptions</name>
     <message>
         <source>Yes</source>
@@ -2248,6 +2235,16 @@ Standardwarteschlange oder der eingebaute Drucker</translation>
     <message>
         <source>Job</source>
         <translation>Auftrag</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>a part of the printer and its state</comment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <comment>between the parts of a list</comment>
+        <translation>, </translation>
     </message>
 </context>
 <context>

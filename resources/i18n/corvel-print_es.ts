@@ -443,19 +443,6 @@ predeterminada o, si no hay, la integrada</translation>
     </message>
 </context>
 <context>
-    <name>DialogSession</name>
-    <message>
-        <source>%1: %2</source>
-        <comment>a part of the printer and its state</comment>
-        <translation>%1: %2</translation>
-    </message>
-    <message>
-        <source>, </source>
-        <comment>between the parts of a list</comment>
-        <translation>, </translation>
-    </message>
-</context>
-<context>
     <name>IppOptions</name>
     <message>
         <source>Yes</source>
@@ -2247,6 +2234,16 @@ predeterminada o, si no hay, la integrada</translation>
     <message>
         <source>Job</source>
         <translation>Trabajo</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>a part of the printer and its state</comment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <comment>between the parts of a list</comment>
+        <translation>, </translation>
     </message>
 </context>
 <context>

@@ -444,19 +444,6 @@ votre file par défaut, ou à défaut l’imprimante intégrée</translation>
     </message>
 </context>
 <context>
-    <name>DialogSession</name>
-    <message>
-        <source>%1: %2</source>
-        <comment>a part of the printer and its state</comment>
-        <translation>%1&#xa0;: %2</translation>
-    </message>
-    <message>
-        <source>, </source>
-        <comment>between the parts of a list</comment>
-        <translation>, </translation>
-    </message>
-</context>
-<context>
     <name>IppOptions</name>
     <message>
         <source>Yes</source>
@@ -2248,6 +2235,16 @@ votre file par défaut, ou à défaut l’imprimante intégrée</translation>
     <message>
         <source>Job</source>
         <translation>Tâche</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>a part of the printer and its state</comment>
+        <translation>%1 : %2</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <comment>between the parts of a list</comment>
+        <translation>, </translation>
     </message>
 </context>
 <context>

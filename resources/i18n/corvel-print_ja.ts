@@ -442,19 +442,6 @@ QUEUE/プリセット。プリントサーバーを使わない場合はプリ�
     </message>
 </context>
 <context>
-    <name>DialogSession</name>
-    <message>
-        <source>%1: %2</source>
-        <comment>a part of the printer and its state</comment>
-        <translation>%1: %2</translation>
-    </message>
-    <message>
-        <source>, </source>
-        <comment>between the parts of a list</comment>
-        <translation>、</translation>
-    </message>
-</context>
-<context>
     <name>IppOptions</name>
     <message>
         <source>Yes</source>
@@ -2246,6 +2233,16 @@ QUEUE/プリセット。プリントサーバーを使わない場合はプリ�
     <message>
         <source>Job</source>
         <translation>ジョブ</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>a part of the printer and its state</comment>
+        <translation>%1：%2</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <comment>between the parts of a list</comment>
+        <translation>、</translation>
     </message>
 </context>
 <context>

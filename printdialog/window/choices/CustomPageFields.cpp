@@ -38,6 +38,7 @@ CustomPageFields::CustomPageFields(QWidget *parent)
         auto *field = new QLineEdit(this);
         fields_.at(side) = field;
         label->setBuddy(field);
+        label->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
         field->setObjectName(side == Width ? QStringLiteral("pageWidth") : QStringLiteral("pageHeight"));
         field->setFixedWidth(field->fontMetrics().averageCharWidth() * fieldCharacters +
                              field->sizeHint().height());
@@ -46,6 +47,7 @@ CustomPageFields::CustomPageFields(QWidget *parent)
         labelled->addWidget(field);
         if (side == Height)
             labelled->addWidget(unit_);
+        labelled->addStretch(1);
         row->addItem(labelled);
         auto *events = pdekit::TextFieldEvents::attach(field);
         connect(events, &pdekit::TextFieldEvents::textDidChange, this, [this, side] { apply(side); });
