@@ -4,6 +4,7 @@
 #include "BenchTable.h"
 #include "Benches.h"
 #include "GuardedPanel.h"
+#include "PpdDocument.h"
 #include "PrintDialog.h"
 #include "SessionOpening.h"
 #include "SystemLog.h"

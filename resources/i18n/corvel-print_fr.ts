@@ -2239,7 +2239,7 @@ votre file par défaut, ou à défaut l’imprimante intégrée</translation>
     <message>
         <source>%1: %2</source>
         <comment>a part of the printer and its state</comment>
-        <translation>%1 : %2</translation>
+        <translation>%1&#x202f;: %2</translation>
     </message>
     <message>
         <source>, </source>
