@@ -22,6 +22,9 @@ void benchJobs();
 /// A keystroke, and restoring with the summary, with PPDs of different sizes.
 void benchPanels();
 
+/// The dialog's own page of options: turning to it, and a choice on it, with few and with many options.
+void benchOptionPage();
+
 /// Launching the backend, beside a bare posix_spawn of the same.
 void benchRunner();
 

@@ -27,6 +27,7 @@ namespace {
 /// Qt's dialog, then its printer's properties with the page of the PPD's options.
 int openQts()
 {
+    printTime();
     QPrinter printer;
     QPrintDialog dialog(&printer);
     QTimer watch;
@@ -73,9 +74,12 @@ bool copyWithOneForm(const QString &folder)
     return true;
 }
 
-/// Milliseconds from before the process is made to its first paint; 0 when it failed. The program
-/// reports the time of the paint.
-double opening(const QStringList &command, const QProcessEnvironment &environment)
+/// What is counted: all from before the process is made, or from the dialog's construction.
+enum class Since { Process, Construction };
+
+/// Milliseconds to its first paint; 0 when it failed. The program reports the times of the construction, if
+/// it is a peer, and of the paint.
+double opening(const QStringList &command, const QProcessEnvironment &environment, Since since)
 {
     QProcess child;
     child.setProcessEnvironment(environment);
@@ -83,25 +87,33 @@ double opening(const QStringList &command, const QProcessEnvironment &environmen
     child.start(command.constFirst(), command.mid(1));
     if (!child.waitForFinished(20000))
         return 0.0;
-    const double end = child.readAllStandardOutput().trimmed().toDouble();
-    return child.exitCode() == 0 && end > 0.0 ? end - begin : 0.0;
+    const QByteArrayList times = child.readAllStandardOutput().trimmed().split('\n');
+    const double end = times.constLast().toDouble();
+    if (child.exitCode() != 0 || end == 0.0)
+        return 0.0;
+    return end - (since == Since::Construction ? times.constFirst().toDouble() : begin);
 }
 
-/// Our program, with the queue or the built-in printer.
-QStringList ours(const QString &queue = {})
+/// Our program; see there.
+QStringList ours(const QStringList &arguments = {})
 {
-    const QStringList program = {QStringLiteral(CORVEL_BENCH_OURS)};
-    return queue.isEmpty() ? program : program + QStringList(queue);
+    return QStringList(QStringLiteral(CORVEL_BENCH_OURS)) + arguments;
+}
+
+QStringList qts()
+{
+    return {QApplication::applicationFilePath(), QStringLiteral("--child"), QStringLiteral("qt")};
 }
 
 /// The medians of each command's openings, which took turns; 0 for one that failed.
-std::vector<double> compare(const QList<QPair<QStringList, QProcessEnvironment>> &programs)
+std::vector<double> compare(const QList<QPair<QStringList, QProcessEnvironment>> &programs,
+                            Since since = Since::Process)
 {
     std::vector<std::vector<double>> times(static_cast<std::size_t>(programs.size()));
     for (int run = -1; run < benchRuns; ++run) { // the first one warms up
         for (std::size_t i = 0; i < times.size(); ++i) {
             const auto &[command, environment] = programs.at(static_cast<qsizetype>(i));
-            const double time = opening(command, environment);
+            const double time = opening(command, environment, since);
             if (run >= 0)
                 times[i].push_back(time);
         }
@@ -152,21 +164,54 @@ private:
     QString name_;
 };
 
-void benchBesideGtk()
+/// An office printer, whose options each dialog shows on pages of its own; no plug-in takes part.
+void benchOptionPages(testing_support::PrivateCupsd &server,
+                      const std::optional<QProcessEnvironment> &onDisplay)
 {
-#ifdef CORVEL_BENCH_GTK
-    const QString what = QStringLiteral("process start to a queue's painted options, on an X display");
-    const VirtualDisplay display;
-    if (display.name().isEmpty()) {
-        printNote(QStringLiteral("%1: not measured, there is no Xvfb").arg(what));
+    const QString queue = QStringLiteral("laser");
+    const QString what = QStringLiteral("construction to an office printer's painted options");
+    QFile ppd(QStringLiteral(CORVEL_LASER_PPD));
+    if (!ppd.open(QIODevice::ReadOnly) || !server.addQueue(queue, ppd.readAll()) ||
+        !server.run(QStringLiteral("lpadmin"), {QStringLiteral("-d"), queue})) {
+        printNote(QStringLiteral("%1: not measured, there is no queue").arg(what));
         return;
+    }
+    const QStringList mine = ours({queue, QStringLiteral("InputSlot")});
+    const auto here = QProcessEnvironment::systemEnvironment();
+    const std::vector<double> times = compare({{mine, here}, {qts(), here}}, Since::Construction);
+    printComparison(what, times[0], QStringLiteral("QPrintDialog"), times[1], 0.7);
+#ifdef CORVEL_BENCH_GTK
+    if (!onDisplay)
+        return;
+    const std::vector<double> onX =
+        compare({{mine, *onDisplay},
+                 {qts(), *onDisplay},
+                 {{QStringLiteral(CORVEL_BENCH_GTK), queue, QStringLiteral("Advanced")}, *onDisplay}},
+                Since::Construction);
+    printComparison(what + QStringLiteral(", X"), onX[0], QStringLiteral("QPrintDialog"), onX[1], 0.7);
+    printComparison(what + QStringLiteral(", X"), onX[0], QStringLiteral("GTK"), onX[2], 0.7);
+#endif
+}
+
+std::optional<QProcessEnvironment> environmentOn(const VirtualDisplay &display)
+{
+    if (display.name().isEmpty()) {
+        printNote(QStringLiteral("on an X display: not measured, there is no Xvfb"));
+        return std::nullopt;
     }
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(QStringLiteral("DISPLAY"), display.name());
     environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("xcb"));
     environment.insert(QStringLiteral("GDK_BACKEND"), QStringLiteral("x11"));
+    return environment;
+}
+
+void benchBesideGtk(const QProcessEnvironment &environment)
+{
+#ifdef CORVEL_BENCH_GTK
+    const QString what = QStringLiteral("process start to a queue's painted options, on an X display");
     const std::vector<double> times =
-        compare({{ours(QStringLiteral("photo")), environment},
+        compare({{ours({QStringLiteral("photo")}), environment},
                  {{QStringLiteral(CORVEL_BENCH_GTK), QStringLiteral("photo")}, environment}});
     printComparison(what, times[0], QStringLiteral("GTK"), times[1], 1.0);
 #endif
@@ -202,13 +247,16 @@ void benchOpening()
     }
     server.run(QStringLiteral("lpadmin"), {QStringLiteral("-d"), QStringLiteral("photo")});
     const QProcessEnvironment withServer = QProcessEnvironment::systemEnvironment();
-    const std::vector<double> times = compare(
-        {{ours(QStringLiteral("photo")), withServer},
-         {{QApplication::applicationFilePath(), QStringLiteral("--child"), QStringLiteral("qt")}, withServer},
-         {{QStringLiteral(CORVEL_BENCH_PLAIN)}, withServer}});
+    const std::vector<double> times = compare({{ours({QStringLiteral("photo")}), withServer},
+                                               {qts(), withServer},
+                                               {{QStringLiteral(CORVEL_BENCH_PLAIN)}, withServer}});
     const QString queues = QStringLiteral("process start to a queue's painted options");
     printComparison(queues, times[0], QStringLiteral("QPrintDialog"), times[1], 0.7);
     printComparison(queues, times[0], QStringLiteral("20 sliders"), times[2], 1.6);
-    benchBesideGtk();
+    const VirtualDisplay display;
+    const auto onDisplay = environmentOn(display);
+    if (onDisplay)
+        benchBesideGtk(*onDisplay);
+    benchOptionPages(server, onDisplay);
 #endif
 }

@@ -1,8 +1,9 @@
 // SPDX-FileCopyrightText: Corvel print dialog authors
 // SPDX-License-Identifier: Apache-2.0
 //
-// Our dialog, linked with what the program is linked with: prints the monotonic time at which a panel is
-// first painted, and ends. Its argument is the queue; without one it opens the built-in printer.
+// Our dialog, linked with what the program is linked with: prints the monotonic time at which it is
+// constructed, and that at which a panel is first painted, and ends. Its arguments are the queue, without
+// which it opens the built-in printer, and the name of a widget that is waited for in place of a panel.
 
 #include "PaintWatch.h"
 #include "PrintDialog.h"
@@ -15,8 +16,8 @@ using namespace printdialog;
 
 namespace {
 
-/// Our dialog, with the built-in printer or with a queue, until a panel is painted.
-int open(const std::optional<QString> &queue)
+/// Our dialog, with the built-in printer or with a queue, until the widget is painted.
+int open(const std::optional<QString> &queue, const QString &widget)
 {
     PrintDialogSetup setup;
     const auto photo = Photo::open(QStringLiteral(CORVEL_SAMPLE_PHOTO));
@@ -25,8 +26,9 @@ int open(const std::optional<QString> &queue)
     setup.photos = {*photo};
     setup.printer = queue;
     setup.remembers = false;
+    printTime();
     PrintDialog dialog(setup);
-    new PaintWatch(QStringLiteral("PDEView"));
+    new PaintWatch(widget);
     if (queue)
         dialog.searchPrinters();
     return dialog.exec();
@@ -37,8 +39,9 @@ int open(const std::optional<QString> &queue)
 int main(int argc, char *argv[])
 {
     const std::optional<QString> queue = argc > 1 ? std::optional(QFile::decodeName(argv[1])) : std::nullopt;
+    const QString widget = argc > 2 ? QFile::decodeName(argv[2]) : QStringLiteral("PDEView");
     argc = 1;
     const QApplication application(argc, argv);
     QTimer::singleShot(15000, qApp, [] { _exit(1); });
-    return open(queue);
+    return open(queue, widget);
 }
