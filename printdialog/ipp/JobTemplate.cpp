@@ -64,8 +64,6 @@ JobTemplate::JobTemplate(const IppAttributes &printer, const QStringList &withou
 std::unique_ptr<JobTemplate> JobTemplate::besides(const OptionSource &printer,
                                                   const IppAttributes &attributes)
 {
-    if (attributes.isEmpty())
-        return nullptr;
     QStringList without;
     for (const auto &[attribute, keys] : sameOptions()) {
         if (std::ranges::any_of(keys, [&printer](const QString &key) { return printer.hasOption(key); }))

@@ -29,7 +29,7 @@ public:
     /// @param without options that the printer has by other names
     explicit JobTemplate(const IppAttributes &printer, const QStringList &without = {});
     /// The job's options besides those of a printer with these attributes, without those that a PPD has by
-    /// names of its own, such as Duplex. Null while the attributes are not known.
+    /// names of its own, such as Duplex. Only the title while the attributes are not known.
     static std::unique_ptr<JobTemplate> besides(const OptionSource &printer, const IppAttributes &attributes);
 
     /// Options that printers name themselves, but that people look for among those of every job.

@@ -18,9 +18,9 @@ namespace printdialog {
 
 namespace {
 
-SessionOptions joined(SessionOptions options)
+SessionOptions joined(SessionOptions options, bool isBuiltIn)
 {
-    auto job = JobTemplate::besides(*options.source, options.attributes);
+    auto job = isBuiltIn ? nullptr : JobTemplate::besides(*options.source, options.attributes);
     options.source = std::make_unique<JoinedOptions>(std::move(options.source), std::move(job));
     return options;
 }
@@ -29,7 +29,7 @@ SessionOptions joined(SessionOptions options)
 
 DialogSession::DialogSession(const PrinterDescription &printer, SessionOptions options, PanelMode mode)
     : printer_(printer)
-    , options_(joined(std::move(options)))
+    , options_(joined(std::move(options), printer.isBuiltIn))
     , joined_(static_cast<JoinedOptions &>(*options_.source))
     , mode_(mode)
     , chosen_(*options_.source, mode)

@@ -103,7 +103,7 @@ private:
     void closeSession();
     void showSession();
     void useAttributes(const IppAttributes &attributes);
-    void showReplacement(const QMap<QString, QString> &choices);
+    void showReplacement(const QMap<QString, QString> &choices, bool hadAttributes);
     void showPanelFailure(const QString &sentence);
     enum class Requested { All, OfJob };
     bool applyOptions(Requested which = Requested::All);

@@ -18,6 +18,12 @@ namespace {
 
 const QString customItem = QStringLiteral("Custom"); // is not a choice itself
 
+/// Every queue's job has a title; whether it has the other options is in the printer's attributes.
+bool isInAttributes(const QString &key)
+{
+    return JobTemplate::isJobOption(key) && key != JobTemplate::titleKey();
+}
+
 } // namespace
 
 // The printer
@@ -41,6 +47,8 @@ void PrintDialog::followPrinter()
     connect(printer_.get(), &PrinterController::confirmed, this, [this](const QString &doubt) {
         if (ui_->message->text() == doubt)
             ui_->message->clear(); // the print server is back
+        if (printer_->session()->attributes().isEmpty())
+            applyOptions(Requested::OfJob); // which says what the printer does not have
     });
     connect(printer_.get(), &PrinterController::unusable, this, &PrintDialog::showUnusable);
     connect(printer_.get(), &PrinterController::readinessChanged, this, &PrintDialog::updateButtons);
@@ -124,7 +132,7 @@ void PrintDialog::useAttributes(const IppAttributes &attributes)
 {
     const bool areAwaited = printer_->session()->attributes().isEmpty() && !printer_->wasChosenHere() &&
                             std::ranges::any_of(setup_.options, [](const auto &option) {
-                                return JobTemplate::isJobOption(option.first);
+                                return isInAttributes(option.first);
                             });
     const bool opensAnew = choices_->useAttributes(attributes, areAwaited);
     if (!opensAnew && !areAwaited)
@@ -136,12 +144,13 @@ void PrintDialog::useAttributes(const IppAttributes &attributes)
         choices_->start();
 }
 
-void PrintDialog::showReplacement(const QMap<QString, QString> &choices)
+void PrintDialog::showReplacement(const QMap<QString, QString> &choices, bool hadAttributes)
 {
     const int copies = ui_->copies->value();
     showSession();
     printer_->session()->restoreChoices(choices, DialogSession::Unnamed::Default);
-    applyOptions(Requested::OfJob); // the options before had none of them
+    if (!hadAttributes)
+        applyOptions(Requested::OfJob); // which could not be chosen before
     ui_->copies->setValue(copies);
     fillPageSizes();
     choices_->start();
@@ -170,9 +179,9 @@ bool PrintDialog::applyOptions(Requested which)
     if (setup_.copies && which == Requested::All)
         ui_->copies->setValue(*setup_.copies);
     // Those of a queue's job wait for its attributes.
-    const bool isAwaiting = !session.printer().isBuiltIn && session.attributes().isEmpty();
+    const bool isAwaiting = printer_->hasOldOptions() && session.attributes().isEmpty();
     for (const auto &[key, choice] : std::as_const(setup_.options)) {
-        if (JobTemplate::isJobOption(key) ? isAwaiting : which == Requested::OfJob)
+        if (isInAttributes(key) ? isAwaiting : which == Requested::OfJob)
             continue;
         const Ruling ruling = session.choose(key, choice);
         if (ruling.verdict != Verdict::Accepted)

@@ -142,6 +142,19 @@ private Q_SLOTS:
                                           u"job-priority-default"_s}));
     }
 
+    // Every queue's job has a title; the rest is not known without the attributes, and refused.
+    void withoutAttributes()
+    {
+        const auto opened = queueNamed(u"photo"_s, 5s);
+        QVERIFY(opened);
+        const Session session =
+            *openQueue(opened->queue, *checkPpd(opened->ppd, u"photo"_s), PanelMode::Constraint);
+        QCOMPARE(session->choose(u"job-name"_s, u"Custom.Beach"_s).verdict, Verdict::Accepted);
+        QVERIFY(session->choose(u"job-hold-until"_s, u"evening"_s).text.contains(u"job-hold-until"_s));
+        session->setAttributes(opened->attributes);
+        QCOMPARE(jobOf(*session, 1)->job.options.value(u"job-name"_s), u"Beach"_s);
+    }
+
     void refused_data()
     {
         const auto add = rows<QString, QString, QString>();
@@ -197,7 +210,7 @@ private Q_SLOTS:
         QVERIFY(opened);
         const auto ppd = checkPpd(opened->ppd, u"photo"_s);
         const Session session = *openQueue(opened->queue, *ppd, PanelMode::Constraint);
-        QVERIFY(session->jobOptionKeys().isEmpty());
+        QCOMPARE(session->jobOptionKeys(), QStringList{u"job-name"_s});
         const QMap<QString, QString> wanted = {{u"job-priority"_s, u"37"_s},
                                                {u"job-sheets"_s, u"form,none"_s}};
         QCOMPARE(useChoices(*session, wanted).leftOut, QStringList());

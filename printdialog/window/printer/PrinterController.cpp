@@ -89,6 +89,11 @@ bool PrinterController::wasChosenHere() const
     return chooser_->selection().state() == PrinterSelection::State::Chosen;
 }
 
+bool PrinterController::hasOldOptions() const
+{
+    return chooser_->selection().hasOldOptions();
+}
+
 // Which printer is shown
 
 void PrinterController::openFirst()
@@ -246,12 +251,13 @@ void PrinterController::replaceSession(SessionResult session)
         return;
     }
     const auto kept = session_ ? std::optional(ownChoices(*session_)) : std::nullopt;
+    const bool hadAttributes = session_ && !session_->attributes().isEmpty();
     chooser_->selection().confirmOptions();
     if (kept) {
         Q_EMIT sessionClosing();
         session_ = *std::move(session);
         whyNotReady_.clear();
-        Q_EMIT sessionReplaced(*kept);
+        Q_EMIT sessionReplaced(*kept, hadAttributes);
     } else {
         setSession(*std::move(session));
     }

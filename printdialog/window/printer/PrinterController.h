@@ -55,6 +55,8 @@ public:
     /// Whether the user has chosen the printer in this window. What the window was opened with does not hold
     /// for it then.
     bool wasChosenHere() const;
+    /// Whether the options shown are those of an earlier run; the printer's attributes may still come.
+    bool hasOldOptions() const;
     /// The preset with which the built-in printer was asked for; mostly empty.
     QString builtInPreset() const { return wasChosenHere() ? QString() : builtInPreset_; }
 
@@ -77,7 +79,8 @@ Q_SIGNALS:
     /// There is another session, whose panels are not loaded yet.
     void sessionOpened();
     /// The printer's options have changed: these choices were made from those before, without its defaults.
-    void sessionReplaced(const QMap<QString, QString> &choices);
+    /// @param hadAttributes whether the job's options were among those before
+    void sessionReplaced(const QMap<QString, QString> &choices, bool hadAttributes);
     /// The session shown does not have these attributes of the printer yet.
     void attributesArrived(const printdialog::IppAttributes &attributes);
     /// The print server has confirmed the printer. @param doubt what whyNotReady() was
