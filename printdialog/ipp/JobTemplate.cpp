@@ -34,7 +34,8 @@ const QList<std::pair<QString, QStringList>> &sameOptions()
     return same;
 }
 
-/// IPP leaves a job's time to the server's own keywords; CUPS takes a time of day as well.
+/// IPP leaves a job's time to the server's own keywords, and has one banner page; CUPS takes a time of day as
+/// well, and a banner page at each end.
 bool isCups(const IppAttributes &printer)
 {
     constexpr int firstOfCups = 0x4001;
@@ -183,6 +184,12 @@ void JobTemplate::addSheets(const IppAttributes &printer)
     if (option.choices.size() < 2)
         return;
     const QStringList preset = printer.texts(sheets + QLatin1String("-default"));
+    if (!isCups(printer)) {
+        option.text = tr("Banner page");
+        option.preset = supported.contains(preset.value(0)) ? preset.at(0) : noSheet;
+        add(sheets, option);
+        return;
+    }
     const QStringList keys = sentTogether(bothSheets.constFirst());
     for (qsizetype i = 0; i < keys.size(); ++i) {
         option.text = i == 0 ? tr("Banner page before") : tr("Banner page after");

@@ -19,7 +19,8 @@ namespace printdialog {
 /// its print server supports. A job that makes no choice gets the server's default, which is marked first.
 ///
 /// The options are named like the job's attributes, except for the banner pages before and after the job,
-/// which are two options here and one attribute there. A custom choice is spelled "Custom.VALUE"; a time is
+/// which are two options here and one attribute there; a printer that is not a CUPS server has one banner
+/// page, and the option is named like the attribute. A custom choice is spelled "Custom.VALUE"; a time is
 /// local. See sent() for the spelling in which choices are sent and stored.
 class JobTemplate final : public OptionSource
 {
@@ -45,6 +46,9 @@ public:
     /// The choices that sent() spells so; ones that are spelled otherwise are unchanged. A password is left
     /// out: it is never stored.
     static QMap<QString, QString> choicesOf(const QMap<QString, QString> &sent);
+    /// The same for a printer with one banner page: the one that is not "none" in "job-sheets". Two different
+    /// ones stay a list, which such a printer does not have.
+    static QMap<QString, QString> withOneSheet(QMap<QString, QString> choices);
     /// The options that are sent together with this one, which is among them.
     static QStringList sentTogether(const QString &key);
 

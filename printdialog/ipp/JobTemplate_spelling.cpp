@@ -96,6 +96,21 @@ QMap<QString, QString> JobTemplate::sent(QMap<QString, QString> choices)
     return choices;
 }
 
+QMap<QString, QString> JobTemplate::withOneSheet(QMap<QString, QString> choices)
+{
+    QStringList pages;
+    bool isChosen = false;
+    for (const QString &key : QStringList(sheets) + bothSheets) {
+        isChosen = isChosen || choices.contains(key);
+        pages += choices.take(key).split(u',', Qt::SkipEmptyParts);
+    }
+    pages.removeAll(noSheet);
+    pages.removeDuplicates();
+    if (isChosen)
+        choices.insert(sheets, pages.isEmpty() ? noSheet : pages.join(u','));
+    return choices;
+}
+
 QMap<QString, QString> JobTemplate::choicesOf(const QMap<QString, QString> &sent)
 {
     QMap<QString, QString> choices;

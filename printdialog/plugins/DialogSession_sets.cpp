@@ -23,8 +23,10 @@ void DialogSession::chooseTogether(const QMap<QString, QString> &choices)
 }
 
 /// With the job's options in the spelling that they have here.
-QMap<QString, QString> DialogSession::spelledHere(const QMap<QString, QString> &choices) const
+QMap<QString, QString> DialogSession::spelledHere(const QMap<QString, QString> &saved) const
 {
+    const QMap<QString, QString> choices =
+        joined_.hasOption(QStringLiteral("job-sheets")) ? JobTemplate::withOneSheet(saved) : saved;
     QMap<QString, QString> spelled;
     for (auto entry = choices.cbegin(); entry != choices.cend(); ++entry) {
         const QMap<QString, QString> each = JobTemplate::choicesOf({{entry.key(), *entry}});

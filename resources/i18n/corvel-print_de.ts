@@ -2419,6 +2419,10 @@ Standardwarteschlange oder der eingebaute Drucker</translation>
         <translation>Nicht eingestuft</translation>
     </message>
     <message>
+        <source>Banner page</source>
+        <translation>Trennseite</translation>
+    </message>
+    <message>
         <source>Banner page before</source>
         <translation>Trennseite davor</translation>
     </message>

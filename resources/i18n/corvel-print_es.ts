@@ -2418,6 +2418,10 @@ predeterminada o, si no hay, la integrada</translation>
         <translation>Sin clasificar</translation>
     </message>
     <message>
+        <source>Banner page</source>
+        <translation>Página de portada</translation>
+    </message>
+    <message>
         <source>Banner page before</source>
         <translation>Página de portada antes</translation>
     </message>

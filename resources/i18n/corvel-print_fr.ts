@@ -2419,6 +2419,10 @@ votre file par défaut, ou à défaut l’imprimante intégrée</translation>
         <translation>Non classifié</translation>
     </message>
     <message>
+        <source>Banner page</source>
+        <translation>Page de garde</translation>
+    </message>
+    <message>
         <source>Banner page before</source>
         <translation>Page de garde avant</translation>
     </message>

@@ -2417,6 +2417,10 @@ QUEUE/プリセット。プリントサーバーを使わない場合はプリ�
         <translation>機密指定なし</translation>
     </message>
     <message>
+        <source>Banner page</source>
+        <translation>バナーページ</translation>
+    </message>
+    <message>
         <source>Banner page before</source>
         <translation>前のバナーページ</translation>
     </message>

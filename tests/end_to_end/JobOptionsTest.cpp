@@ -155,6 +155,23 @@ private Q_SLOTS:
         QCOMPARE(jobOf(*session, 1)->job.options.value(u"job-name"_s), u"Beach"_s);
     }
 
+    // Only a CUPS server prints one at each end.
+    void oneBannerPage()
+    {
+        const auto opened = queueNamed(u"photo"_s, 5s);
+        QVERIFY(opened);
+        IppAttributes attributes = opened->attributes;
+        attributes.remove(u"operations-supported"_s);
+        const Session session =
+            *openQueue(opened->queue, *checkPpd(opened->ppd, u"photo"_s), PanelMode::Constraint, attributes);
+        QVERIFY(!session->choose(u"job-sheets"_s, u"standard,secret"_s).letsThrough());
+        for (const QString &typed : {u"standard"_s, u"none,standard"_s, u"standard,standard"_s}) {
+            QVERIFY(session->choose(u"job-sheets"_s, u"none"_s).letsThrough());
+            QVERIFY(session->choose(u"job-sheets"_s, typed).letsThrough());
+            QCOMPARE(jobOf(*session, 1)->job.options.value(u"job-sheets"_s), u"standard"_s);
+        }
+    }
+
     void refused_data()
     {
         const auto add = rows<QString, QString, QString>();
