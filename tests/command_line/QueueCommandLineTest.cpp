@@ -16,6 +16,8 @@
 #include <QtGui/QImage>
 #include <QtTest/QTest>
 
+#include <cups/cups.h>
+
 #include <algorithm>
 #include <csignal>
 
@@ -170,6 +172,32 @@ private Q_SLOTS:
         const RecordedJob job = cupsd_.job(jobIn(sent));
         QVERIFY2(optionsIn(job).contains("PageSize=Custom.100x150mm"), job.options.constData());
         QVERIFY(job.document.startsWith("%!PS") && job.document.contains("*CustomPageSize True\n283.46"));
+    }
+
+    // As a filter reads them with libcups: several choices, values with spaces and quotes, and a PIN, which
+    // the dry run does not show.
+    void oddChoicesArrive()
+    {
+        QVERIFY(cupsd_.addQueue(u"laser"_s, contentOf(QStringLiteral(CORVEL_LASER_PPD))));
+        const QMap<QByteArray, QByteArray> choices = {{"Finish", "Staple,Fold"},
+                                                      {"Sharp", "Custom.2.5"},
+                                                      {"Banner", "Custom.\"A, B\" = C\\D"},
+                                                      {"Stamp", "{Label='Für uns' Angle=15}"},
+                                                      {"JobCode", "Custom.4711"}};
+        QStringList wanted = {u"--printer"_s, u"laser"_s, samplePhoto};
+        for (auto choice = choices.cbegin(); choice != choices.cend(); ++choice)
+            wanted << u"-o"_s << QString::fromUtf8(choice.key() + '=' + *choice);
+        const ProgramRun plan = runProgram(wanted + QStringList{u"--dry-run"_s});
+        QVERIFY(plan.out.contains("Option: JobCode (not shown)") && !plan.out.contains("4711"));
+        const ProgramRun sent = runProgram(wanted + QStringList{u"--batch"_s});
+        QVERIFY2(sent.status == 0 && cupsd_.waitForJob(jobIn(sent)), sent.err.constData());
+        cups_option_t *options = nullptr;
+        const int count = cupsParseOptions(cupsd_.job(jobIn(sent)).options.constData(), 0, &options);
+        for (auto choice = choices.cbegin(); choice != choices.cend(); ++choice)
+            QCOMPARE(QByteArray(cupsGetOption(choice.key().constData(), count, options)), *choice);
+        QCOMPARE(QByteArray(cupsGetOption("Resolution", count, options)),
+                 QByteArray("600dpi")); // behind them
+        cupsFreeOptions(count, options);
     }
 
     void sendsWhatTheDryRunShows_data()
