@@ -64,7 +64,7 @@ struct PpdInspection
 /// whose keyword is not printable ASCII or is too long) with a note, so that a queue with an odd PPD stays
 /// usable, and closes what never closes. A PPD without page sizes gets A4 and Letter, the usual one of the
 /// locale as the default. `name` is the PPD's name for people: a file or a queue. Reentrant. Rules: Adobe's
-/// PPD specification 4.3 as far as libcups follows it.
+/// PPD 4.3 as far as libcups follows it.
 Result<PpdInspection, PpdFault> inspectPpd(const QByteArray &data, const QString &name);
 
 } // namespace printdialog
