@@ -8,9 +8,9 @@
 
 #include <cstdint>
 
-/// The panel of the print quality and the surface finish. For the K9031 it retires the controls of the finish,
-/// which the dialog then shows on its own page of options (RetiredOptions); the panel still saves what is
-/// chosen there.
+/// The panel of the print quality and the surface finish. For the K9031 it retires the controls of the
+/// finish, which the dialog then shows on its own page of options (RetiredOptions); the panel still saves
+/// what is chosen there.
 ///
 /// Its bound values (Quality, Overcoat, MatteValue, qual, isMatte) follow the controls through the form's
 /// bindings.

@@ -150,8 +150,8 @@ bool OptionPage::restoreValuesAndReturnError(QString * /*error*/)
     return true;
 }
 
-// The cost does not depend on the number of options. One that nobody has chosen stays out of the settings: the
-// printer's default applies.
+// The cost does not depend on the number of options. One that nobody has chosen stays out of the settings:
+// the printer's default applies.
 bool OptionPage::saveValuesAndReturnError(QString * /*error*/)
 {
     saved_ = std::exchange(changed_, {});

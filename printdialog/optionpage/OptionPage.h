@@ -89,7 +89,7 @@ private:
     QString kind_;
     QStringList keys_;
     bool isGrouped_ = true;
-    QSet<QString> shown_;            // the same
+    QSet<QString> shown_; // the same
     QStringList changed_; // options whose choice is not saved yet
     QStringList saved_;
     QMap<QString, QString> choices_; // option keyword to choice keyword

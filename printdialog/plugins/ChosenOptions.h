@@ -30,9 +30,9 @@ struct ChoiceChange
 /// The choices for the next job of one session, one for each of the printer's options. All code that shows,
 /// stores, undoes or prints choices reads them here and is notified of each change.
 ///
-/// In constraint mode, the choices are the PPD's marks, and each one is checked before it is made. In
+/// In constraint mode, the choices are the source's marks, and each one is checked before it is made. In
 /// settings mode, they are those of the job ticket, which panels write when they are saved (adopt()), and
-/// else the PPD's marks; conflicts are checked when the job is made (markTicket()).
+/// else the source's marks; conflicts are checked when the job is made (markTicket()).
 ///
 /// The cost of a choice does not depend on the number of options. Borrows the options' source, which must
 /// outlive it and must not be moved. Main thread only.
@@ -58,7 +58,7 @@ public:
     /// Makes a choice, in the ruling's spelling, unless it is refused. A refusal changes nothing and is
     /// signalled together with `sender`, the control that the user acted on; null for a program's choice.
     Ruling choose(const QString &key, const QString &choice, QWidget *sender = nullptr);
-    /// Makes choices even if they conflict. Skips those that the PPD does not have.
+    /// Makes choices even if they conflict. Skips those that the printer does not have.
     void chooseTogether(const QMap<QString, QString> &choices);
     /// Adopts what a panel has saved for these options in the ticket.
     void adopt(const QStringList &keys);
@@ -81,7 +81,7 @@ public:
         return marker_.equipmentAgainst(key, choice);
     }
 
-    /// Marks the ticket's choices in the PPD. A choice that the PPD does not have is replaced by the option's
+    /// Marks the ticket's choices. A choice that the printer does not have is replaced by the option's
     /// default, in the ticket as well. Returns a ruling for each replaced choice.
     QList<Ruling> markTicket();
     /// Two choices that conflict; the ruling's key is the option that was chosen later.
@@ -101,7 +101,7 @@ private:
     PanelMode mode_;
     ChoiceMarker marker_;
     SessionTicket ticket_;
-    QMap<QString, QString> choices_; // the PPD's marks and the ticket's choices, as last signalled
+    QMap<QString, QString> choices_; // the source's marks and the ticket's choices, as last signalled
     QHash<QString, quint64> chosenAt_;
     quint64 acts_ = 0;
 };

@@ -44,7 +44,7 @@ struct JobOptions
     QMap<QString, QString> options;
     /// Custom choices with secret values, such as a PIN, which are only sent: never stored, shown or logged.
     QMap<QString, QString> secrets;
-    QStringList dropped; ///< a sentence for each recorded choice that the PPD does not have
+    QStringList dropped; ///< a sentence for each recorded choice that the printer does not have
     /// a sentence for each page that has not handed over its choices, which `options` then lacks
     QStringList missing;
 };
@@ -128,8 +128,8 @@ public:
 
     /// Ends any typing, saves the panels, and checks against the PPD: the choice of every option that a panel
     /// supports, the page size, and all others that were chosen. Fails when choices conflict, or when the PPD
-    /// does not have the page size. A recorded choice that the PPD does not have is dropped; its replacement
-    /// is recorded, and the panels show it.
+    /// does not have the page size. A recorded choice that the printer does not have is dropped; its
+    /// replacement is recorded, and the panels show it.
     Result<JobOptions, Verdict> jobOptions();
     /// Why jobOptions() failed the last time. Its key is the latest chosen of the options that conflict.
     const Ruling &jobRefusal() const { return jobRefusal_; }

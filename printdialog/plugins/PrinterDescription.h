@@ -23,7 +23,7 @@ struct PrinterDescription
 
 /// Who owns the choices: the dialog or its panels.
 enum class PanelMode {
-    Constraint, ///< the dialog owns the PPD's marks and rules on each choice
+    Constraint, ///< the dialog owns the marks and rules on each choice
     Settings,   ///< the panels keep their choices in the job ticket, and the dialog checks it before printing
 };
 

@@ -117,10 +117,9 @@ void PrintDialog::showSession()
                                                                      : MessageBar::Kind::Error,
                            noPanels->text);
     else if (session->printer().isRaw && message().isEmpty())
-        ui_->message->show(
-            MessageBar::Kind::Information,
-            tr("This printer has no PPD file and so no options of its own: it gets the photo's file as it is, "
-               "and places it on the page itself."));
+        ui_->message->show(MessageBar::Kind::Information, tr("This printer has no PPD file and so no options "
+                                                             "of its own: it gets the photo's file as it is, "
+                                                             "and places it on the page itself."));
     else if (session->panels().empty() && message().isEmpty())
         ui_->message->show(MessageBar::Kind::Information,
                            tr("This printer has no panels of its own; it prints with its defaults."));
@@ -130,10 +129,9 @@ void PrintDialog::showSession()
 /// An untouched dialog shows what it would have opened with, had it known the attributes.
 void PrintDialog::useAttributes(const IppAttributes &attributes)
 {
-    const bool areAwaited = printer_->session()->attributes().isEmpty() && !printer_->wasChosenHere() &&
-                            std::ranges::any_of(setup_.options, [](const auto &option) {
-                                return isInAttributes(option.first);
-                            });
+    const bool areAwaited =
+        printer_->session()->attributes().isEmpty() && !printer_->wasChosenHere() &&
+        std::ranges::any_of(setup_.options, [](const auto &option) { return isInAttributes(option.first); });
     const bool opensAnew = choices_->useAttributes(attributes, areAwaited);
     if (!opensAnew && !areAwaited)
         return;

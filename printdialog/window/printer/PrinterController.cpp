@@ -210,7 +210,7 @@ void PrinterController::fetchOptions(const std::optional<CheckedPpd> &known)
     fetcher_->fetch(queue_.destination(), known, queue_.isAnnounced ? queue_.deviceUri : QString());
 }
 
-// A queue without a PPD can print, too: it only has nothing to choose.
+// A queue without a PPD can print, too: by its attributes, or else with the options of the job alone.
 void PrinterController::useOptions(const FetchedOptions &options)
 {
     const bool hadPpd = session_ && session_->ppd();
