@@ -83,7 +83,7 @@ void CustomFields::begin()
     for (qsizetype i = 0; i < fields_.size(); ++i) {
         const CustomParameter &parameter = parameters_.at(i);
         if (parameter.isNumber() && fields_.at(i)->text().isEmpty())
-            fields_.at(i)->setText(typedText(parameter, QString::number(parameter.minimum)));
+            fields_.at(i)->setText(typedText(parameter, QString::number(parameter.minimum, 'f', 4)));
     }
     if (!fields_.isEmpty()) {
         fields_.constFirst()->setFocus(Qt::OtherFocusReason);

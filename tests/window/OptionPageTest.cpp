@@ -253,6 +253,31 @@ private Q_SLOTS:
         QCOMPARE(open().find<QComboBox>(u"pageSize"_s)->currentText(), first);
     }
 
+    // What a plug-in's panel handles and does not show for this model: chosen on the dialog's page it is
+    // saved by both, and the panel's own defaults reach the page.
+    void retiredOptionsAreOnThePage()
+    {
+        PrintDialogSetup setup = setupFor(mode_);
+        setup.ppdFile.reset(); // the model without a choice of the finish in its panel
+        const OpenedDialog opened(setup);
+        opened.dialog->showPage(2);
+        QVERIFY(!opened.isSeen(u"matte"_s));
+        opened.click(u"fine"_s); // which a matte finish needs
+        opened.dialog->showPage(3);
+        choose(opened, u"Overcoat"_s, u"Matte"_s);
+        choose(opened, u"MatteValue"_s, u"5"_s);
+        QVERIFY(opened.prints());
+        QCOMPARE(opened.printed(u"Overcoat MatteValue"_s), u"Matte 5"_s);
+        opened.undo();
+        QCOMPARE(opened.find<QComboBox>(u"MatteValue"_s)->currentText(), u"4"_s); // one key less
+        opened.dialog->showPage(2);
+        QTest::mouseClick(opened.control(16), Qt::LeftButton); // the panel's defaults
+        opened.dialog->showPage(3);
+        QCOMPARE(opened.find<QComboBox>(u"Overcoat"_s)->currentText(), u"Glossy"_s);
+        opened.undo();
+        QCOMPARE(opened.find<QComboBox>(u"Overcoat"_s)->currentText(), u"Matte"_s);
+    }
+
     // What is left empty is no choice.
     void customChoiceIsGivenUp()
     {
