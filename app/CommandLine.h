@@ -74,7 +74,7 @@ struct CommandLine
     /// The text of --help; ends with a line feed.
     static QString helpText();
 
-    /// Why there is no title for the built-in printer.
+    /// A sentence: only jobs of print queues have a title.
     static QString noTitleText();
 
     /// Whether the printer is the built-in one by name.
