@@ -7,6 +7,7 @@
 #include "CustomChoice.h"
 #include "IppAttributes.h"
 #include "OptionSource.h"
+#include "PictureAdjustment.h"
 #include "PluginLoader.h"
 #include "PrintDialogPlugin.h"
 #include "PrinterDescription.h"
@@ -125,6 +126,13 @@ public:
 
     /// The panels' entries, label and text, ordered by panel and then by the panel's options.
     QList<QPair<QString, QString>> summary();
+
+    /// What the panels' choices do to the picture; nothing when no panel says.
+    std::optional<PictureAdjustment> adjustment();
+    /// The print's resolution, in dots to the inch.
+    double dotsPerInch() const;
+    /// The ICC profile of the paper that the printer names for the chosen options; empty when there is none.
+    QByteArray paperProfile() const;
 
     /// Ends any typing, saves the panels, and checks against the PPD: the choice of every option that a panel
     /// supports, the page size, and all others that were chosen. Fails when choices conflict, or when the PPD

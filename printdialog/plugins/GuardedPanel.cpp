@@ -175,6 +175,16 @@ void GuardedPanel::receiveChoice(const QString &key, const QString &choice)
     });
 }
 
+std::optional<pdekit::Adjustment> GuardedPanel::adjustment()
+{
+    std::optional<pdekit::Adjustment> adjustment;
+    call([&] {
+        if (auto *source = qobject_cast<pdekit::AdjustmentSource *>(objectOf(*panel_)))
+            adjustment = source->adjustment();
+    });
+    return adjustment;
+}
+
 // Events of its view
 
 bool GuardedPanel::owns(const QObject *receiver) const

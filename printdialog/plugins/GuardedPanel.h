@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "Adjustment.h"
 #include "PrintDialogPlugin.h"
 
 #include <QtCore/QObject>
@@ -52,6 +53,9 @@ public:
     /// Whether the panel accepts a program's choices (pdekit::ChoiceReceiver).
     bool receivesChoices() const;
     void receiveChoice(const QString &key, const QString &choice);
+
+    /// What its choices do to the picture (pdekit::AdjustmentSource); nothing when the panel does not say.
+    std::optional<pdekit::Adjustment> adjustment();
 
     bool isLost() const { return !thrown_.isEmpty(); }
     /// A sentence about the loss; empty while the panel works.

@@ -1,0 +1,58 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include "ColorLookup.h"
+#include "PictureAdjustment.h"
+
+#include <QtGui/QImage>
+
+namespace printdialog {
+
+/// The scale of a picture of a print.
+struct PictureScale
+{
+    double pixelsPerInch = 300; ///< of the picture, on the paper
+    double dotsPerInch = 300;   ///< of the print
+
+    bool operator==(const PictureScale &) const = default;
+};
+
+/// The tones of a picture that an adjustment clips: those of a color component that would go beyond black or
+/// white and was not there before.
+struct ClippedTones
+{
+    /// Of the picture's size: transparent where nothing is clipped. Premultiplied.
+    QImage overlay;
+    qint64 pixels = 0; ///< how many are clipped
+};
+
+/// Applies an adjustment to a picture of a print, at the speed of a slider that is dragged. Keeps what it has
+/// worked out as long as nothing it depends on has changed. One thread at a time.
+class PictureAdjuster
+{
+public:
+    void setAdjustment(const PictureAdjustment &adjustment);
+    const PictureAdjustment &adjustment() const { return adjustment_; }
+    void setScale(const PictureScale &scale);
+    /// The conversion for the screen; null for none.
+    void setLookup(std::shared_ptr<const ColorLookup> lookup);
+
+    /// The picture (RGB32) adjusted and converted; the picture itself when there is nothing to do. Of the
+    /// same size; valid until the next call.
+    QImage adjusted(const QImage &picture);
+    /// The picture without the adjustment, converted.
+    QImage unadjusted(const QImage &picture) const;
+    /// What the colors of the adjustment clip in this part of the picture.
+    ClippedTones clippedTones(const QImage &picture, const QRect &part) const;
+    /// Whether there is a sharpening that is too fine to be shown at this scale.
+    bool hidesSharpening() const;
+
+private:
+    PictureAdjustment adjustment_;
+    PictureScale scale_;
+    std::shared_ptr<const ColorLookup> lookup_;
+};
+
+} // namespace printdialog
