@@ -3,24 +3,21 @@
 
 #include "Photo.h"
 
+#include "ContentReader.h"
 #include "ExifData.h"
 #include "HeifPicture.h"
 #include "JpegDamage.h"
 #include "PhotoFormat.h"
 #include "PictureEnd.h"
 #include "PlainText.h"
-#include "PngPicture.h"
 #include "PngPixels.h"
 #include "QuietDecoding.h"
 #include "TiffDamage.h"
 #include "WebpChunks.h"
 
-#include <QtCore/QBuffer>
 #include <QtCore/QFileInfo>
 #include <QtCore/QLocale>
-#include <QtCore/QMutex>
 #include <QtCore/QtEndian>
-#include <QtGui/QImageReader>
 
 #include <algorithm>
 #include <atomic>
@@ -32,18 +29,6 @@ namespace {
 constexpr qint64 headSize = 4096;
 constexpr int maximumRasterSide = 32767; ///< In pixels; the limit of QPainter.
 
-/// Lets the image reader allocate the memory for this photo. The limit is global and other threads may be
-/// decoding, so it only ever grows, up to what maximumPixels needs.
-void allowDecoding(const QSize &size)
-{
-    constexpr qint64 bytesPerPixel = 8;
-    static QMutex mutex;
-    const QMutexLocker locker(&mutex);
-    const auto mebibytes = static_cast<int>((qint64(size.width()) * size.height() * bytesPerPixel >> 20) + 1);
-    if (const int limit = QImageReader::allocationLimit(); limit != 0 && limit < mebibytes)
-        QImageReader::setAllocationLimit(mebibytes);
-}
-
 /// The size of a GIF's logical screen (GIF89a, 18); empty when the file is cut off before it.
 QSize gifCanvas(QByteArrayView gif)
 {
@@ -51,29 +36,6 @@ QSize gifCanvas(QByteArrayView gif)
         return {};
     return {qFromLittleEndian<quint16>(gif.data() + 6), qFromLittleEndian<quint16>(gif.data() + 8)};
 }
-
-/// A reader of a photo's content that does not detect the format again and does not apply the orientation.
-class ContentReader
-{
-public:
-    ContentReader(const QByteArray &content, const QByteArray &format)
-        : content_(content)
-        , buffer_(&content_)
-    {
-        buffer_.open(QIODevice::ReadOnly);
-        reader_.setAutoDetectImageFormat(false);
-        reader_.setFormat(format);
-        reader_.setDevice(&buffer_);
-        reader_.setAutoTransform(false);
-    }
-
-    QImageReader *operator->() { return &reader_; }
-
-private:
-    QByteArray content_;
-    QBuffer buffer_;
-    QImageReader reader_;
-};
 
 } // namespace
 
@@ -261,7 +223,7 @@ std::optional<QString> Photo::findDamage() const
     // WebP has no checksums, and any bytes decode to some picture. But a damaged one hardly ever needs
     // exactly as many bytes as there are, whereas an intact file cannot be decoded with fewer. Printing finds
     // further damage.
-    allowDecoding(storedSize_);
+    ContentReader::allow(storedSize_);
     ContentReader reader(shortenedWebp(content_), format_);
     if (reader->read().isNull())
         return std::nullopt;
@@ -300,62 +262,6 @@ Failure<PhotoFault> Photo::memoryFailure() const
         PhotoFault::TooLarge,
         tr("There is not enough memory for \"%1\". Scale it down in a photo program.").arg(plainText(path_)),
         {}};
-}
-
-/// Decodes, scaled down while reading where the format can do that and the bound is not empty.
-QImage Photo::decodedWithin(const QSize &storedBound, QString &error) const
-{
-    const QuietDecoding quiet;
-    QImage image;
-    if (PhotoFormat::isHeif(format_)) {
-        auto picture = HeifPicture::decode(content_);
-        if (picture)
-            image = *std::move(picture);
-        else
-            error = picture.failure().detail;
-    } else if (png_) {
-        image = decodedPng(content_, *png_, storedBound, error);
-    } else {
-        allowDecoding(storedSize_);
-        ContentReader reader(content_, format_);
-        if (!storedBound.isEmpty())
-            reader->setScaledSize(storedBound);
-        image = reader->read();
-        error = reader->errorString();
-    }
-    // All other code relies on the size in the file's header.
-    if (!image.isNull() && image.size() != storedSize_ && image.size() != storedBound) {
-        error = QStringLiteral("the pixels are %1 x %2").arg(image.width()).arg(image.height());
-        return {};
-    }
-    return image;
-}
-
-Result<QImage, PhotoFault> Photo::decoded() const
-{
-    QString error;
-    QImage image = decodedWithin({}, error);
-    if (!image.isNull())
-        return image;
-    // Qt does not report the reason, so try to allocate its largest format.
-    if (QImage(storedSize_, QImage::Format_RGBA64).isNull())
-        return memoryFailure();
-    return broken(error);
-}
-
-QImage Photo::preview(const QSize &bound) const
-{
-    const QSize seen = orientedSize();
-    if (seen.isEmpty() || bound.isEmpty())
-        return {};
-    QSize scaled;
-    if (seen.width() > bound.width() || seen.height() > bound.height())
-        scaled = orientation_.seenSize(seen.scaled(bound, Qt::KeepAspectRatio).expandedTo(QSize(1, 1)));
-    QString error;
-    QImage image = decodedWithin(scaled, error);
-    if (!scaled.isEmpty() && !image.isNull() && image.size() != scaled)
-        image = image.scaled(scaled, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-    return orientation_.applied(profile_.toScreen(image));
 }
 
 } // namespace printdialog
