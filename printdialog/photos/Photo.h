@@ -75,6 +75,11 @@ public:
     /// The upright photo in sRGB, scaled down to the bound (in pixels) but never enlarged; a null image when
     /// it cannot be decoded. Takes a fraction of a second, so call it on a worker thread.
     QImage preview(const QSize &bound) const;
+    /// The same in the colors that are printed, those of pixelProfile(), so that adjustments can be worked
+    /// out as for the printer. RGB32, composed on white. Colors other than RGB are converted to sRGB.
+    QImage pixels(const QSize &bound) const;
+    /// The ICC profile of pixels(); empty for sRGB.
+    QByteArray pixelProfile() const;
 
     /// The failure for content that turns out to be damaged; the detail is for the log.
     Failure<PhotoFault> broken(const QString &detail) const;
@@ -90,6 +95,8 @@ private:
     std::optional<Failure<PhotoFault>> checkPixels() const;
     std::optional<QString> findDamage() const;
     QImage decodedWithin(const QSize &storedBound, QString &error) const;
+    QImage scaledWithin(const QSize &bound) const;
+    QImage inPixelColors(const QImage &image) const;
     Failure<PhotoFault> truncated() const;
 
     QString path_;

@@ -9,6 +9,8 @@
 #include "PngPicture.h"
 #include "QuietDecoding.h"
 
+#include <QtGui/QPainter>
+
 namespace printdialog {
 
 /// Decodes, scaled down while reading where the format can do that and the bound is not empty.
@@ -52,7 +54,8 @@ Result<QImage, PhotoFault> Photo::decoded() const
     return broken(error);
 }
 
-QImage Photo::preview(const QSize &bound) const
+/// Stored pixels in the stored direction, scaled down to the upright bound.
+QImage Photo::scaledWithin(const QSize &bound) const
 {
     const QSize seen = orientedSize();
     if (seen.isEmpty() || bound.isEmpty())
@@ -64,7 +67,36 @@ QImage Photo::preview(const QSize &bound) const
     QImage image = decodedWithin(scaled, error);
     if (!scaled.isEmpty() && !image.isNull() && image.size() != scaled)
         image = image.scaled(scaled, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-    return orientation_.applied(profile_.toScreen(image));
+    return image;
+}
+
+QImage Photo::preview(const QSize &bound) const
+{
+    return orientation_.applied(profile_.toScreen(scaledWithin(bound)));
+}
+
+QImage Photo::pixels(const QSize &bound) const
+{
+    return orientation_.applied(inPixelColors(scaledWithin(bound)));
+}
+
+QByteArray Photo::pixelProfile() const
+{
+    return profile_.components() == 3 && !profile_.isSrgb() ? profile_.icc() : QByteArray();
+}
+
+/// In the colors of pixels(), composed on white as it is printed.
+QImage Photo::inPixelColors(const QImage &image) const
+{
+    const QImage colored = profile_.components() == 3 ? image : profile_.toScreen(image);
+    if (!colored.hasAlphaChannel())
+        return colored.convertToFormat(QImage::Format_RGB32);
+    QImage paper(colored.size(), QImage::Format_RGB32);
+    if (paper.isNull())
+        return paper;
+    paper.fill(Qt::white);
+    QPainter(&paper).drawImage(QPoint(0, 0), colored);
+    return paper;
 }
 
 } // namespace printdialog
