@@ -13,12 +13,23 @@
 #include <QtCore/QByteArray>
 #include <QtCore/QCoreApplication>
 #include <QtCore/QDateTime>
+#include <QtCore/QRectF>
 #include <QtCore/QSize>
 #include <QtGui/QImage>
 
+#include <atomic>
 #include <memory>
 
 namespace printdialog {
+
+struct ScaledPart;
+
+/// A part of a photo's pixels.
+struct PhotoPart
+{
+    QImage image;
+    QRectF area; ///< exactly what it shows, in the unit square of the upright photo
+};
 
 /// A photo that can be printed: its file's content and metadata. A value; copies share the content. Several
 /// threads may use it, each with its own copy.
@@ -78,7 +89,14 @@ public:
     /// The same in the colors that are printed, those of pixelProfile(), so that adjustments can be worked
     /// out as for the printer. RGB32, composed on white. Colors other than RGB are converted to sRGB.
     QImage pixels(const QSize &bound) const;
-    /// The ICC profile of pixels(); empty for sRGB.
+    /// The part (in the unit square of the upright photo) of pixels(), were they scaled to `whole` pixels;
+    /// never enlarged, and nothing beside the photo. A null image when it cannot be decoded, when the part is
+    /// empty, or when it is given up meanwhile (not found out at once, and only for JPEG and PNG; may be
+    /// null). Takes up to the time of decoding the whole photo, so call it on a worker thread. A JPEG or PNG
+    /// is not held in memory as a whole, unless it is progressive or interlaced; other formats are.
+    PhotoPart part(const QRectF &part, const QSize &whole,
+                   const std::atomic<bool> *isGivenUp = nullptr) const;
+    /// The ICC profile of pixels() and part(); empty for sRGB.
     QByteArray pixelProfile() const;
 
     /// The failure for content that turns out to be damaged; the detail is for the log.
@@ -96,6 +114,7 @@ private:
     std::optional<QString> findDamage() const;
     QImage decodedWithin(const QSize &storedBound, QString &error) const;
     QImage scaledWithin(const QSize &bound) const;
+    QImage decodedPart(const ScaledPart &stored, const std::atomic<bool> *isGivenUp) const;
     QImage inPixelColors(const QImage &image) const;
     Failure<PhotoFault> truncated() const;
 

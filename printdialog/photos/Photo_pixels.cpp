@@ -5,13 +5,47 @@
 
 #include "ContentReader.h"
 #include "HeifPicture.h"
+#include "JpegPart.h"
 #include "PhotoFormat.h"
 #include "PngPicture.h"
 #include "QuietDecoding.h"
 
 #include <QtGui/QPainter>
 
+#include <algorithm>
+#include <cmath>
+
 namespace printdialog {
+namespace {
+
+/// Composed on white, as it is printed; null when memory is short.
+QImage onPaper(const QImage &image)
+{
+    if (!image.hasAlphaChannel())
+        return image;
+    QImage paper(image.size(), QImage::Format_RGB32);
+    if (paper.isNull())
+        return paper;
+    paper.fill(Qt::white);
+    QPainter(&paper).drawImage(QPoint(0, 0), image);
+    return paper;
+}
+
+/// The pixels that a part of the unit square covers, also partly; at least one.
+QRect pixelsOf(const QRectF &part, const QSize &size)
+{
+    constexpr double rounding = 1e-6; // which must not add a pixel
+    const auto along = [](double from, double to, int length) {
+        const int first = std::clamp(static_cast<int>(std::floor(from * length + rounding)), 0, length - 1);
+        const int last = static_cast<int>(std::ceil(to * length - rounding)) - 1;
+        return std::pair(first, std::clamp(last, first, length - 1));
+    };
+    const auto [left, right] = along(part.left(), part.right(), size.width());
+    const auto [top, bottom] = along(part.top(), part.bottom(), size.height());
+    return {QPoint(left, top), QPoint(right, bottom)};
+}
+
+} // namespace
 
 /// Decodes, scaled down while reading where the format can do that and the bound is not empty.
 QImage Photo::decodedWithin(const QSize &storedBound, QString &error) const
@@ -85,18 +119,48 @@ QByteArray Photo::pixelProfile() const
     return profile_.components() == 3 && !profile_.isSrgb() ? profile_.icc() : QByteArray();
 }
 
-/// In the colors of pixels(), composed on white as it is printed.
+PhotoPart Photo::part(const QRectF &part, const QSize &whole, const std::atomic<bool> *isGivenUp) const
+{
+    const QSize size = whole.boundedTo(orientedSize());
+    const QRectF shown = part & QRectF(0, 0, 1, 1);
+    if (size.isEmpty() || shown.isEmpty())
+        return {};
+    const QRect seen = pixelsOf(shown, size);
+    const QRectF area(double(seen.x()) / size.width(), double(seen.y()) / size.height(),
+                      double(seen.width()) / size.width(), double(seen.height()) / size.height());
+    const QSize storedWhole = orientation_.seenSize(size);
+    const QRect stored = pixelsOf(orientation_.transform().inverted().mapRect(area), storedWhole);
+    return {orientation_.applied(inPixelColors(decodedPart({storedWhole, stored}, isGivenUp))), area};
+}
+
+/// The direction is that of the stored pixels.
+QImage Photo::decodedPart(const ScaledPart &stored, const std::atomic<bool> *isGivenUp) const
+{
+    const QuietDecoding quiet;
+    QString error;
+    if (jpeg_)
+        return decodedJpegPart(content_, storedSize_, stored, isGivenUp);
+    if (png_)
+        return decodedPngPart(content_, *png_, stored, error, isGivenUp);
+    const QImage picture = decodedWithin({}, error);
+    const bool isGrey =
+        picture.format() == QImage::Format_Grayscale8 || picture.format() == QImage::Format_Grayscale16;
+    AreaScaler scaler(storedSize_, stored, isGrey ? 1 : 3);
+    const QImage needed = onPaper(picture.copy(scaler.needed()))
+                              .convertToFormat(isGrey ? QImage::Format_Grayscale8 : QImage::Format_RGB888);
+    if (needed.isNull() || scaler.image().isNull())
+        return {};
+    for (int y = 0; y < needed.height(); ++y)
+        scaler.addRow(needed.constScanLine(y));
+    return scaler.image();
+}
+
+/// In the colors of pixels().
 QImage Photo::inPixelColors(const QImage &image) const
 {
-    const QImage colored = profile_.components() == 3 ? image : profile_.toScreen(image);
-    if (!colored.hasAlphaChannel())
-        return colored.convertToFormat(QImage::Format_RGB32);
-    QImage paper(colored.size(), QImage::Format_RGB32);
-    if (paper.isNull())
-        return paper;
-    paper.fill(Qt::white);
-    QPainter(&paper).drawImage(QPoint(0, 0), colored);
-    return paper;
+    const QImage opaque = onPaper(image);
+    return (profile_.components() == 3 ? opaque : profile_.toScreen(opaque))
+        .convertToFormat(QImage::Format_RGB32);
 }
 
 } // namespace printdialog

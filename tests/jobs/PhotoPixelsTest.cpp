@@ -12,6 +12,8 @@
 
 #include <lcms2.h>
 
+#include <cmath>
+
 using namespace printdialog;
 using namespace Qt::StringLiterals;
 
@@ -29,6 +31,23 @@ QByteArray linearGreyProfile()
     cmsCloseProfile(profile);
     cmsFreeToneCurve(curve);
     return icc;
+}
+
+/// Of the color components; large when the sizes differ.
+double meanDifference(const QImage &one, const QImage &other)
+{
+    if (one.size() != other.size() || one.isNull())
+        return 255;
+    double sum = 0;
+    for (int y = 0; y < one.height(); ++y) {
+        for (int x = 0; x < one.width(); ++x) {
+            const QRgb a = one.pixel(x, y);
+            const QRgb b = other.pixel(x, y);
+            sum +=
+                std::abs(qRed(a) - qRed(b)) + std::abs(qGreen(a) - qGreen(b)) + std::abs(qBlue(a) - qBlue(b));
+        }
+    }
+    return sum / (3.0 * one.width() * one.height());
 }
 
 } // namespace
@@ -102,6 +121,92 @@ private Q_SLOTS:
                 QVERIFY2(qAbs(shown - 188) <= 1, qPrintable(QString::number(shown)));
             }
         }
+    }
+
+    void parts_data()
+    {
+        const auto add = rows<QByteArray>();
+        const QImage picture = samples::grain(QSize(403, 287));
+        const QImage grey = picture.convertToFormat(QImage::Format_Grayscale8);
+        const QByteArray jpeg = samples::encoded(picture, "jpeg");
+        for (int orientation = 1; orientation <= 8; ++orientation)
+            add(qPrintable(u"JPEG, orientation %1"_s.arg(orientation)),
+                samples::withOrientation(jpeg, orientation));
+        add("progressive JPEG with a profile",
+            samples::withProfile(samples::encoded(picture, "jpeg", true), samples::swappedProfile()));
+        add("grey JPEG with a profile",
+            samples::withProfile(samples::encoded(grey, "jpeg"), linearGreyProfile()));
+        add("CMYK", samples::redCmykJpeg());
+        add("PNG", samples::encoded(picture, "png"));
+        add("grey PNG", samples::encoded(grey, "png"));
+        add("BMP", samples::encoded(picture, "bmp"));
+    }
+
+    /// Parts of a photo are what the scaled photo shows there.
+    void parts()
+    {
+        const auto [content] = row<QByteArray>();
+        const Photo photo = photoOf(content);
+        const QRectF unit(0, 0, 1, 1);
+        for (const double scale : {2.0, 1.0, 0.63, 0.29, 0.1, 0.001}) {
+            const QSize whole = (QSizeF(photo.orientedSize()) * scale).toSize().expandedTo(QSize(1, 1));
+            const QImage scaled = photo.pixels(whole);
+            for (const QRectF &part :
+                 {unit, QRectF(0.31, 0.47, 0.35, 0.29), QRectF(-0.5, -0.5, 0.6, 0.8), QRectF(0.8, 0.77, 9, 9),
+                  QRectF(0.6, 0.3, 1e-9, 1e-9), QRectF(0.2, 0, 0.01, 1)}) {
+                const PhotoPart found = photo.part(part, scaled.size());
+                const QTransform toPixels = QTransform::fromScale(scaled.width(), scaled.height());
+                const QRectF pixels = toPixels.mapRect(found.area);
+                const QRectF wanted = toPixels.mapRect(part & unit);
+                QVERIFY(pixels.adjusted(-1e-6, -1e-6, 1e-6, 1e-6).contains(wanted));
+                QVERIFY(wanted.adjusted(-1, -1, 1, 1).contains(pixels));
+                QCOMPARE(found.image.format(), QImage::Format_RGB32);
+                const double difference = meanDifference(found.image, scaled.copy(pixels.toRect()));
+                // Decoders scale in steps of their own.
+                QVERIFY2(difference <= (scale < 1 ? 2 : 0),
+                         qPrintable(u"%1 at %2"_s.arg(difference).arg(scale)));
+            }
+        }
+        QVERIFY(photo.part(QRectF(1.01, 0, 1, 1), photo.orientedSize()).image.isNull());
+    }
+
+    void partsOfLargePhotosNeedLittleMemory_data()
+    {
+        const auto add = rows<QByteArray>();
+        QImage picture(QSize(8000, 6000), QImage::Format_Grayscale8);
+        picture.fill(Qt::white);
+        add("JPEG", samples::encoded(picture, "jpeg"));
+        add("PNG", samples::encoded(picture, "png"));
+    }
+
+    void partsOfLargePhotosNeedLittleMemory()
+    {
+#ifdef __SANITIZE_ADDRESS__
+        QSKIP("AddressSanitizer's own memory leaves no room for a limit.");
+#endif
+        const auto [content] = row<QByteArray>();
+        const Photo photo = photoOf(content);
+        PhotoPart part;
+        QImage whole;
+        {
+            const samples::MemoryLimit limit(16 << 20);
+            part = photo.part(QRectF(0.5, 0.5, 0.1, 0.1), photo.orientedSize());
+            whole = photo.pixels(photo.orientedSize());
+        }
+        QCOMPARE(part.image.size(), QSize(800, 600));
+        QVERIFY(whole.isNull());
+    }
+
+    void partIsGivenUp()
+    {
+        const QImage picture = samples::grain(QSize(300, 200));
+        const std::atomic<bool> isGivenUp = true;
+        for (const char *format : {"jpeg", "png"}) {
+            const Photo photo = photoOf(samples::encoded(picture, format));
+            QVERIFY(photo.part(QRectF(0, 0, 1, 1), picture.size(), &isGivenUp).image.isNull());
+        }
+        const Photo undecodable = photoOf(samples::undecodableJpeg());
+        QVERIFY(undecodable.part(QRectF(0, 0, 1, 1), picture.size()).image.isNull());
     }
 };
 

@@ -11,6 +11,7 @@
 #include <QtGui/QImageWriter>
 #include <QtGui/QPainter>
 
+#include <sys/resource.h>
 #include <unistd.h>
 #include <zlib.h>
 
@@ -200,6 +201,25 @@ OrdinaryRights::~OrdinaryRights()
 {
     if (seteuid(getuid()) != 0)
         qFatal("cannot take the rights back");
+}
+
+MemoryLimit::MemoryLimit(quint64 bytes)
+{
+    const quint64 pages = load(u"/proc/self/statm"_s).split(' ').constFirst().toULongLong();
+    rlimit limit = {};
+    getrlimit(RLIMIT_AS, &limit);
+    before_ = limit.rlim_cur;
+    limit.rlim_cur = pages * quint64(sysconf(_SC_PAGESIZE)) + bytes;
+    if (pages == 0 || setrlimit(RLIMIT_AS, &limit) != 0)
+        qFatal("cannot limit the memory");
+}
+
+MemoryLimit::~MemoryLimit()
+{
+    rlimit limit = {};
+    getrlimit(RLIMIT_AS, &limit);
+    limit.rlim_cur = before_;
+    setrlimit(RLIMIT_AS, &limit);
 }
 
 } // namespace samples

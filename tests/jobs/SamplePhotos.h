@@ -73,4 +73,15 @@ public:
     ~OrdinaryRights();
 };
 
+/// While it lives, the process gets no more memory than it has and that many bytes.
+class MemoryLimit
+{
+public:
+    explicit MemoryLimit(quint64 bytes);
+    ~MemoryLimit();
+
+private:
+    quint64 before_ = 0;
+};
+
 } // namespace samples

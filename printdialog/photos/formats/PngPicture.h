@@ -3,11 +3,14 @@
 
 #pragma once
 
+#include "AreaScaler.h"
 #include "PngHeader.h"
 
 #include <QtCore/QByteArrayView>
 #include <QtCore/QSize>
 #include <QtGui/QImage>
+
+#include <atomic>
 
 namespace printdialog {
 
@@ -16,5 +19,9 @@ namespace printdialog {
 /// the picture's size (see PngPixels). A null image when memory is short or the pixels are damaged; `error`
 /// then says why.
 QImage decodedPng(QByteArrayView png, const PngHeader &header, const QSize &bound, QString &error);
+
+/// The same of a part. A null image also when it is given up (may be null).
+QImage decodedPngPart(QByteArrayView png, const PngHeader &header, const ScaledPart &wanted, QString &error,
+                      const std::atomic<bool> *isGivenUp = nullptr);
 
 } // namespace printdialog
