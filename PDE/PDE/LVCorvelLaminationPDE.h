@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "Adjustment.h"
 #include "RKTPPRBasePDEcorvel.h"
 #include "RetiredOptions.h"
 
@@ -14,10 +15,12 @@
 ///
 /// Its bound values (Quality, Overcoat, MatteValue, qual, isMatte) follow the controls through the form's
 /// bindings.
-class LVCorvelLaminationPDE : public RKTPPRBasePDEcorvel, public pdekit::RetiredOptions
+class LVCorvelLaminationPDE : public RKTPPRBasePDEcorvel,
+                              public pdekit::RetiredOptions,
+                              public pdekit::AdjustmentSource
 {
     Q_OBJECT
-    Q_INTERFACES(pdekit::RetiredOptions)
+    Q_INTERFACES(pdekit::RetiredOptions pdekit::AdjustmentSource)
     Q_PROPERTY(QString MatteValue READ matteValue WRITE setMatteValue)
     Q_PROPERTY(QString Quality READ quality WRITE setQuality)
     Q_PROPERTY(QString Overcoat READ overcoat WRITE setOvercoat)
@@ -39,6 +42,10 @@ public:
     int tagForStringValue(const Text &value) const override;
     /// Inverted: a checked box disables the option controls.
     int enablerState(QWidget *enabler) const override;
+
+    /// The matte finish, from a fifth of the most matte surface at the lowest matte level to all of it at the
+    /// highest. What is set on the printer itself is not known: then there is only a remark.
+    pdekit::Adjustment adjustment() override;
 
     /// A change of "Overcoat" is also a change of "isMatte".
     void willChangeValueForKey(const QString &key) override;

@@ -14,6 +14,8 @@ namespace {
 
 constexpr std::int32_t largestQual = 25;
 
+constexpr double leastMatte = 0.2;
+
 const QString overcoatKey = QStringLiteral("Overcoat");
 const QString isMatteKey = QStringLiteral("isMatte");
 const QString qualKey = QStringLiteral("qual");
@@ -107,4 +109,18 @@ void LVCorvelLaminationPDE::setValueForBoundControlWithKey(const QString &value,
          QStringLiteral(
              "I tried to make the change you requested but the printing system rejected my efforts. Sorry."),
          QStringLiteral("Bummer!")});
+}
+
+// The look of the print
+
+pdekit::Adjustment LVCorvelLaminationPDE::adjustment()
+{
+    pdekit::Adjustment adjustment;
+    if (isOn(QStringLiteral("UsePrinterPanel"))) {
+        adjustment.remark = pdeBundle_->localizedString(QStringLiteral("corvelFinishOfPrinterPanel"));
+    } else if (presentChoice(overcoatKey) == QStringLiteral("Matte")) {
+        const double level = presentNumber(QStringLiteral("MatteValue"), -largestQual, largestQual);
+        adjustment.matte = leastMatte + (1 - leastMatte) * (level + largestQual) / (2 * largestQual);
+    }
+    return adjustment;
 }

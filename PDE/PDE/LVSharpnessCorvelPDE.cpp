@@ -35,6 +35,9 @@ constexpr std::array<SharpnessCell, 4> sharpnessCells = {{
 /// 81).
 constexpr int intensityBit = 2;
 
+constexpr double largestRadius = 3; // dots
+constexpr double largestIntensity = 3;
+
 bool isIntensity(const QWidget *control)
 {
     return (pdekit::tag(control) & intensityBit) != 0;
@@ -150,4 +153,15 @@ void LVSharpnessCorvelPDE::controlTextDidEndEditing(QWidget *object)
     const double typed = pdekit::leadingDouble(pdekit::stringValue(object).value_or(QString()));
     pdekit::setStringValue(object, withTwoDecimals(singlePrecision(typed)));
     changePrinterSetting(object);
+}
+
+pdekit::Adjustment LVSharpnessCorvelPDE::adjustment()
+{
+    pdekit::Adjustment adjustment;
+    if (isOn(QStringLiteral("SharpnessEnabled"))) {
+        adjustment.sharpeningRadius = presentNumber(QStringLiteral("SharpnessRadius"), 0, largestRadius);
+        adjustment.sharpeningAmount =
+            presentNumber(QStringLiteral("SharpnessIntensity"), 0, largestIntensity);
+    }
+    return adjustment;
 }

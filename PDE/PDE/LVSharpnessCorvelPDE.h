@@ -3,13 +3,15 @@
 
 #pragma once
 
+#include "Adjustment.h"
 #include "RKTPPRBasePDEcorvel.h"
 
 /// The panel of the printer's sharpening: the radius, a whole number, and the intensity, a number with two
 /// decimals.
-class LVSharpnessCorvelPDE : public RKTPPRBasePDEcorvel
+class LVSharpnessCorvelPDE : public RKTPPRBasePDEcorvel, public pdekit::AdjustmentSource
 {
     Q_OBJECT
+    Q_INTERFACES(pdekit::AdjustmentSource)
 
 public:
     Text nibName() override;
@@ -25,4 +27,7 @@ public:
     Text newChoiceForSender(QWidget *sender) override;
     /// Rewrites the intensity with two decimals, and offers it again.
     void controlTextDidEndEditing(QWidget *object) override;
+
+    /// The sharpening by the chosen radius and intensity, while it is on.
+    pdekit::Adjustment adjustment() override;
 };

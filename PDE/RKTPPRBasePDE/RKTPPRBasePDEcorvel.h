@@ -168,6 +168,13 @@ protected:
     /// The keyword of the choice marked in the PPD.
     Text markedChoice(const QString &key) const;
     Text recordedChoice(const Text &key) const;
+    /// The recorded choice, or else the marked one.
+    Text presentChoice(const QString &key) const;
+    /// Whether the present choice is "True".
+    bool isOn(const QString &key) const;
+    /// The recorded choice as a number, limited to the range. What is recorded while a number is typed, such
+    /// as "-", may not be one: then the marked choice counts, and 0 when that is not a number either.
+    double presentNumber(const QString &key, double least, double greatest) const;
     /// The choice of a radio group's selected cell, or that for the tag of any other control.
     Text cellChoice(QWidget *sender) const;
     /// Selects the cell for the choice.

@@ -15,6 +15,9 @@
 #include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QWidget>
 
+#include <algorithm>
+#include <cmath>
+
 namespace {
 
 const QString loneMinus = QStringLiteral("-");
@@ -160,4 +163,26 @@ RKTPPRBasePDEcorvel::Text RKTPPRBasePDEcorvel::recordedChoice(const Text &key) c
         return std::nullopt;
     const auto entry = choiceDict_->constFind(*key);
     return entry == choiceDict_->cend() ? std::nullopt : Text(*entry);
+}
+
+RKTPPRBasePDEcorvel::Text RKTPPRBasePDEcorvel::presentChoice(const QString &key) const
+{
+    const Text recorded = recordedChoice(key);
+    return recorded ? recorded : markedChoice(key);
+}
+
+bool RKTPPRBasePDEcorvel::isOn(const QString &key) const
+{
+    return presentChoice(key).value_or(QString()).compare(QLatin1String("True"), Qt::CaseInsensitive) == 0;
+}
+
+double RKTPPRBasePDEcorvel::presentNumber(const QString &key, double least, double greatest) const
+{
+    for (const Text &choice : {recordedChoice(key), markedChoice(key)}) {
+        bool isNumber = false;
+        const double number = choice.value_or(QString()).toDouble(&isNumber);
+        if (isNumber && std::isfinite(number)) // "nan" and "inf" count as numbers for Qt
+            return std::clamp(number, least, greatest);
+    }
+    return 0;
 }

@@ -2974,6 +2974,91 @@ predeterminada o, si no hay, la integrada</translation>
     </message>
 </context>
 <context>
+    <name>printdialog::PreviewBar</name>
+    <message>
+        <source>Show the page smaller</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>How large the page is shown</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show the page larger</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Compare</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hold to see the photo without the printer&apos;s adjustments (%1)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Split</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show the photo without the printer&apos;s adjustments left of a divider that can be dragged</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mark the tones that the adjustments clip to black or white</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Soft proof</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show the colors as the printer&apos;s paper has them</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Zoom out</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Zoom in</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <comment>a zoom</comment>
+        <translation type="unfinished">%1 %2 % {1 ?}</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Clipped: %1 %</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Clipped</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Preview is approximate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>sharpness shows at 100 %</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> · </source>
+        <comment>between two short notes</comment>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>printdialog::PreviewWidget</name>
     <message>
         <source>Preview of %1</source>
@@ -3002,6 +3087,14 @@ predeterminada o, si no hay, la integrada</translation>
     <message>
         <source>Drag the photo, or press the arrow keys, to move it; Home puts it in the middle.</source>
         <translation>Arrastre la foto o use las flechas para moverla; Inicio la pone en el centro.</translation>
+    </message>
+    <message>
+        <source>Drag it, or press the arrow keys, to see another part; 0 shows the entire page.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Left of the divider, the photo is shown without the adjustments. Drag the divider, or press Ctrl and an arrow key, to move it.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>

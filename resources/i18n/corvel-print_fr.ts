@@ -2975,6 +2975,91 @@ votre file par défaut, ou à défaut l’imprimante intégrée</translation>
     </message>
 </context>
 <context>
+    <name>printdialog::PreviewBar</name>
+    <message>
+        <source>Show the page smaller</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>How large the page is shown</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show the page larger</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Compare</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hold to see the photo without the printer&apos;s adjustments (%1)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Split</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show the photo without the printer&apos;s adjustments left of a divider that can be dragged</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mark the tones that the adjustments clip to black or white</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Soft proof</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show the colors as the printer&apos;s paper has them</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Zoom out</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Zoom in</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <comment>a zoom</comment>
+        <translation type="unfinished">%1 %2 % {1 ?}</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Clipped: %1 %</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Clipped</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Preview is approximate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>sharpness shows at 100 %</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> · </source>
+        <comment>between two short notes</comment>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>printdialog::PreviewWidget</name>
     <message>
         <source>Preview of %1</source>
@@ -3003,6 +3088,14 @@ votre file par défaut, ou à défaut l’imprimante intégrée</translation>
     <message>
         <source>Drag the photo, or press the arrow keys, to move it; Home puts it in the middle.</source>
         <translation>Faites glisser la photo ou utilisez les flèches pour la déplacer&#x202f;; Début la remet au milieu.</translation>
+    </message>
+    <message>
+        <source>Drag it, or press the arrow keys, to see another part; 0 shows the entire page.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Left of the divider, the photo is shown without the adjustments. Drag the divider, or press Ctrl and an arrow key, to move it.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>

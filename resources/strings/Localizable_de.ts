@@ -172,6 +172,11 @@
         <translation>Wert für die Schärfeintensität</translation>
     </message>
     <message>
+        <source>corvelFinishOfPrinterPanel</source>
+        <translatorcomment>Below the preview of the print.</translatorcomment>
+        <translation>Die Oberfläche wird glänzend gezeigt: Es gelten die Einstellungen am Drucker.</translation>
+    </message>
+    <message>
         <source>pdekitRange</source>
         <translatorcomment>The range of a number, from its least (%1) to its greatest (%2).</translatorcomment>
         <translation>%1 bis %2</translation>

@@ -172,6 +172,11 @@
         <translation>Sharpness intensity value</translation>
     </message>
     <message>
+        <source>corvelFinishOfPrinterPanel</source>
+        <translatorcomment>Below the preview of the print.</translatorcomment>
+        <translation>The finish is shown glossy: the settings on the printer’s own panel apply.</translation>
+    </message>
+    <message>
         <source>pdekitRange</source>
         <translatorcomment>The range of a number, from its least (%1) to its greatest (%2).</translatorcomment>
         <translation>%1 to %2</translation>

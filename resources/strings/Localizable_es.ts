@@ -172,6 +172,11 @@
         <translation>Valor de la intensidad de nitidez</translation>
     </message>
     <message>
+        <source>corvelFinishOfPrinterPanel</source>
+        <translatorcomment>Below the preview of the print.</translatorcomment>
+        <translation>El acabado se muestra brillante: se aplican los ajustes del panel de la impresora.</translation>
+    </message>
+    <message>
         <source>pdekitRange</source>
         <translatorcomment>The range of a number, from its least (%1) to its greatest (%2).</translatorcomment>
         <translation>%1 a %2</translation>

@@ -172,6 +172,11 @@
         <translation>Valeur de l’intensité de netteté</translation>
     </message>
     <message>
+        <source>corvelFinishOfPrinterPanel</source>
+        <translatorcomment>Below the preview of the print.</translatorcomment>
+        <translation>La finition est affichée brillante : les réglages du panneau de l’imprimante s’appliquent.</translation>
+    </message>
+    <message>
         <source>pdekitRange</source>
         <translatorcomment>The range of a number, from its least (%1) to its greatest (%2).</translatorcomment>
         <translation>%1 à %2</translation>

@@ -172,6 +172,11 @@
         <translation>シャープネスの強さの値</translation>
     </message>
     <message>
+        <source>corvelFinishOfPrinterPanel</source>
+        <translatorcomment>Below the preview of the print.</translatorcomment>
+        <translation>仕上げは光沢として表示されます。印刷にはプリンター本体の設定が使われます。</translation>
+    </message>
+    <message>
         <source>pdekitRange</source>
         <translatorcomment>The range of a number, from its least (%1) to its greatest (%2).</translatorcomment>
         <translation>%1～%2</translation>
