@@ -4,8 +4,31 @@
 #include "DialogSession.h"
 
 #include "GuardedPanel.h"
+#include "JobDefaults.h"
+#include "PpdDocument.h"
+
+#include <QtCore/QRegularExpression>
+
+#include <algorithm>
 
 namespace printdialog {
+
+namespace {
+
+/// In dots to the inch, the lower one of two. What cannot be read, or no photo printer has, is taken for the
+/// usual one. @param text "300dpi" or "300x600dpi"
+int resolutionIn(const QString &text)
+{
+    static const QRegularExpression pattern(QStringLiteral("\\A([0-9]{1,5})(?:x([0-9]{1,5}))?dpi\\z"),
+                                            QRegularExpression::CaseInsensitiveOption);
+    constexpr int usual = 300;
+    const QRegularExpressionMatch match = pattern.match(text);
+    const int across = match.captured(1).toInt();
+    const int lower = match.hasCaptured(2) ? std::min(across, match.captured(2).toInt()) : across;
+    return lower >= 72 && lower <= 4800 ? lower : usual;
+}
+
+} // namespace
 
 std::optional<PictureAdjustment> DialogSession::adjustment()
 {
@@ -21,7 +44,16 @@ std::optional<PictureAdjustment> DialogSession::adjustment()
 
 double DialogSession::dotsPerInch() const
 {
-    return 300;
+    for (const char *key : {"Resolution", "JCLResolution", "SetResolution", "printer-resolution"}) {
+        if (const auto choice = chosen(QString::fromLatin1(key)))
+            return resolutionIn(*choice);
+    }
+    // A PPD without a choice of resolutions may say what the only one is.
+    const auto fixed = options_.ppd ? options_.ppd->attributes("DefaultResolution") : QList<PpdAttribute>();
+    if (!fixed.isEmpty())
+        return resolutionIn(fixed.constFirst().value);
+    const auto own = options_.attributes.values(QStringLiteral("printer-resolution-default"));
+    return resolutionIn(own.isEmpty() ? QString() : optionText(own.constFirst()).value_or(QString()));
 }
 
 QByteArray DialogSession::paperProfile() const

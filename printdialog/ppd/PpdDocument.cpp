@@ -75,14 +75,21 @@ OptionKind PpdDocument::kind(const QString &key) const
 QStringList PpdDocument::requestedBundles() const
 {
     QStringList names;
-    for (const ppd_attr_t *attribute = ppdFindAttr(record_.get(), "APDialogExtension", nullptr); attribute;
-         attribute = ppdFindNextAttr(record_.get(), "APDialogExtension", nullptr)) {
-        const QString path = QString::fromUtf8(attribute->value);
-        const QString name = path.sliced(path.lastIndexOf(u'/') + 1);
+    for (const PpdAttribute &attribute : attributes("APDialogExtension")) {
+        const QString name = attribute.value.sliced(attribute.value.lastIndexOf(u'/') + 1);
         if (isPlainFileName(name) && !names.contains(name))
             names += name;
     }
     return names;
+}
+
+QList<PpdAttribute> PpdDocument::attributes(const char *keyword) const
+{
+    QList<PpdAttribute> all;
+    for (const ppd_attr_t *attribute = ppdFindAttr(record_.get(), keyword, nullptr); attribute;
+         attribute = ppdFindNextAttr(record_.get(), keyword, nullptr))
+        all.append({QString::fromUtf8(attribute->spec), QString::fromUtf8(attribute->value)});
+    return all;
 }
 
 } // namespace printdialog

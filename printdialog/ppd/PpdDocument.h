@@ -19,6 +19,13 @@ struct ppd_option_s;
 
 namespace printdialog {
 
+/// A line of a PPD that is not an option, such as "*cupsICCProfile RGB.Glossy.: "photo.icc"".
+struct PpdAttribute
+{
+    QString qualifier; ///< the words between the keyword and the value: "RGB.Glossy."; mostly empty
+    QString value;     ///< Untrusted.
+};
+
 /// Owns one opened PPD and the choices marked in it. Move-only; one thread at a time. A PPD is untrusted: it
 /// is opened only after a check, and nothing that it names is ever run or opened.
 ///
@@ -76,6 +83,8 @@ public:
     /// plain file names, never paths: only the last component is used, since the PPD may come from another
     /// machine.
     QStringList requestedBundles() const;
+    /// All that have this keyword, in the PPD's order.
+    QList<PpdAttribute> attributes(const char *keyword) const;
 
 private:
     struct Option;
