@@ -4,11 +4,19 @@
 #pragma once
 
 #include "ColorLookup.h"
+#include "ColorTables.h"
+#include "MatteSurface.h"
 #include "PictureAdjustment.h"
+#include "UnsharpMask.h"
 
 #include <QtGui/QImage>
 
+#include <array>
+#include <optional>
+
 namespace printdialog {
+
+class BandThreads;
 
 /// The scale of a picture of a print.
 struct PictureScale
@@ -23,7 +31,8 @@ struct PictureScale
 /// white and was not there before.
 struct ClippedTones
 {
-    /// Of the picture's size: transparent where nothing is clipped. Premultiplied.
+    /// Of the picture's size: transparent where nothing is clipped. Premultiplied. A component beyond white
+    /// is shown in reds, one beyond black in blues, in squares of two tones, which stand out from any other.
     QImage overlay;
     qint64 pixels = 0; ///< how many are clipped
 };
@@ -33,6 +42,11 @@ struct ClippedTones
 class PictureAdjuster
 {
 public:
+    PictureAdjuster();
+    ~PictureAdjuster();
+    PictureAdjuster(const PictureAdjuster &) = delete;
+    PictureAdjuster &operator=(const PictureAdjuster &) = delete;
+
     void setAdjustment(const PictureAdjustment &adjustment);
     const PictureAdjustment &adjustment() const { return adjustment_; }
     void setScale(const PictureScale &scale);
@@ -40,7 +54,8 @@ public:
     void setLookup(std::shared_ptr<const ColorLookup> lookup);
 
     /// The picture (RGB32) adjusted and converted; the picture itself when there is nothing to do. Of the
-    /// same size; valid until the next call.
+    /// same size; valid until the next call. Allocates nothing while the size stays, provided that the caller
+    /// no longer holds the last result.
     QImage adjusted(const QImage &picture);
     /// The picture without the adjustment, converted.
     QImage unadjusted(const QImage &picture) const;
@@ -50,9 +65,24 @@ public:
     bool hidesSharpening() const;
 
 private:
+    void updateMasks();
+    /// From one picture into another, with all that is done between two masks: the colors before the first
+    /// one, surface and lookup after the last one.
+    void sweep(const QImage &from, const UnsharpMask *mask, bool isFirst, bool isLast, QImage &to);
+    void readRow(const QImage &from, int row, QRgb *to) const;
+
     PictureAdjustment adjustment_;
     PictureScale scale_;
     std::shared_ptr<const ColorLookup> lookup_;
+
+    std::vector<ColorTables> colors_;
+    std::vector<UnsharpMask> masks_; ///< those that can be seen at this scale
+    std::optional<MatteSurface> surface_;
+    std::unique_ptr<BandThreads> threads_;
+    std::array<UnsharpMask::Scratch, 2> scratch_; ///< of each thread
+    QImage result_;
+    QImage between_;      ///< two masks
+    qint64 resultOf_ = 0; ///< the cache key of the picture that result_ was made from; 0 for none
 };
 
 } // namespace printdialog

@@ -2978,85 +2978,85 @@ Standardwarteschlange oder der eingebaute Drucker</translation>
     <name>printdialog::PreviewBar</name>
     <message>
         <source>Show the page smaller</source>
-        <translation type="unfinished"></translation>
+        <translation>Seite kleiner zeigen</translation>
     </message>
     <message>
         <source>Fit</source>
-        <translation type="unfinished"></translation>
+        <translation>Einpassen</translation>
     </message>
     <message>
         <source>How large the page is shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie groß die Seite gezeigt wird</translation>
     </message>
     <message>
         <source>Show the page larger</source>
-        <translation type="unfinished"></translation>
+        <translation>Seite größer zeigen</translation>
     </message>
     <message>
         <source>Compare</source>
-        <translation type="unfinished"></translation>
+        <translation>Vergleich</translation>
     </message>
     <message>
         <source>Hold to see the photo without the printer&apos;s adjustments (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Gedrückt halten, um das Foto ohne die Anpassungen des Druckers zu sehen (%1)</translation>
     </message>
     <message>
         <source>Split</source>
-        <translation type="unfinished"></translation>
+        <translation>Teilen</translation>
     </message>
     <message>
         <source>Show the photo without the printer&apos;s adjustments left of a divider that can be dragged</source>
-        <translation type="unfinished"></translation>
+        <translation>Links von einer verschiebbaren Trennlinie das Foto ohne die Anpassungen des Druckers zeigen</translation>
     </message>
     <message>
         <source>Mark the tones that the adjustments clip to black or white</source>
-        <translation type="unfinished"></translation>
+        <translation>Tonwerte markieren, die durch die Anpassungen zu reinem Schwarz oder Weiß werden</translation>
     </message>
     <message>
         <source>Soft proof</source>
-        <translation type="unfinished"></translation>
+        <translation>Softproof</translation>
     </message>
     <message>
         <source>Show the colors as the printer&apos;s paper has them</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Farben so zeigen, wie das Papier des Druckers sie wiedergibt</translation>
     </message>
     <message>
         <source>Zoom out</source>
-        <translation type="unfinished"></translation>
+        <translation>Verkleinern</translation>
     </message>
     <message>
         <source>Zoom in</source>
-        <translation type="unfinished"></translation>
+        <translation>Vergrößern</translation>
     </message>
     <message>
         <source>%1 %</source>
         <comment>a zoom</comment>
-        <translation type="unfinished">%1 %2 % {1 ?}</translation>
+        <translation>%1 %</translation>
     </message>
     <message>
         <source>Zoom</source>
-        <translation type="unfinished"></translation>
+        <translation>Zoom</translation>
     </message>
     <message>
         <source>Clipped: %1 %</source>
-        <translation type="unfinished"></translation>
+        <translation>Beschnitten: %1 %</translation>
     </message>
     <message>
         <source>Clipped</source>
-        <translation type="unfinished"></translation>
+        <translation>Beschnitten</translation>
     </message>
     <message>
         <source>Preview is approximate</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorschau ist nur annähernd</translation>
     </message>
     <message>
         <source>sharpness shows at 100 %</source>
-        <translation type="unfinished"></translation>
+        <translation>die Schärfe zeigt sich bei 100 %</translation>
     </message>
     <message>
         <source> · </source>
         <comment>between two short notes</comment>
-        <translation type="unfinished"></translation>
+        <translation> · </translation>
     </message>
 </context>
 <context>
@@ -3091,11 +3091,11 @@ Standardwarteschlange oder der eingebaute Drucker</translation>
     </message>
     <message>
         <source>Drag it, or press the arrow keys, to see another part; 0 shows the entire page.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ziehen oder Pfeiltasten drücken, um einen anderen Teil zu sehen; 0 zeigt die ganze Seite.</translation>
     </message>
     <message>
         <source>Left of the divider, the photo is shown without the adjustments. Drag the divider, or press Ctrl and an arrow key, to move it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Links der Trennlinie ist das Foto ohne die Anpassungen zu sehen. Die Trennlinie lässt sich ziehen, oder mit Strg und einer Pfeiltaste verschieben.</translation>
     </message>
 </context>
 <context>

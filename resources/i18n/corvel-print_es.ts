@@ -2977,85 +2977,85 @@ predeterminada o, si no hay, la integrada</translation>
     <name>printdialog::PreviewBar</name>
     <message>
         <source>Show the page smaller</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar la página más pequeña</translation>
     </message>
     <message>
         <source>Fit</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajustar</translation>
     </message>
     <message>
         <source>How large the page is shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Tamaño con que se muestra la página</translation>
     </message>
     <message>
         <source>Show the page larger</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar la página más grande</translation>
     </message>
     <message>
         <source>Compare</source>
-        <translation type="unfinished"></translation>
+        <translation>Comparar</translation>
     </message>
     <message>
         <source>Hold to see the photo without the printer&apos;s adjustments (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Mantener pulsado para ver la foto sin los ajustes de la impresora (%1)</translation>
     </message>
     <message>
         <source>Split</source>
-        <translation type="unfinished"></translation>
+        <translation>Dividir</translation>
     </message>
     <message>
         <source>Show the photo without the printer&apos;s adjustments left of a divider that can be dragged</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar la foto sin los ajustes de la impresora a la izquierda de un divisor que se puede arrastrar</translation>
     </message>
     <message>
         <source>Mark the tones that the adjustments clip to black or white</source>
-        <translation type="unfinished"></translation>
+        <translation>Marcar los tonos que los ajustes recortan a negro o blanco</translation>
     </message>
     <message>
         <source>Soft proof</source>
-        <translation type="unfinished"></translation>
+        <translation>Prueba en pantalla</translation>
     </message>
     <message>
         <source>Show the colors as the printer&apos;s paper has them</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar los colores como los reproduce el papel de la impresora</translation>
     </message>
     <message>
         <source>Zoom out</source>
-        <translation type="unfinished"></translation>
+        <translation>Reducir</translation>
     </message>
     <message>
         <source>Zoom in</source>
-        <translation type="unfinished"></translation>
+        <translation>Ampliar</translation>
     </message>
     <message>
         <source>%1 %</source>
         <comment>a zoom</comment>
-        <translation type="unfinished">%1 %2 % {1 ?}</translation>
+        <translation>%1 %</translation>
     </message>
     <message>
         <source>Zoom</source>
-        <translation type="unfinished"></translation>
+        <translation>Zoom</translation>
     </message>
     <message>
         <source>Clipped: %1 %</source>
-        <translation type="unfinished"></translation>
+        <translation>Recortado: %1 %</translation>
     </message>
     <message>
         <source>Clipped</source>
-        <translation type="unfinished"></translation>
+        <translation>Recortado</translation>
     </message>
     <message>
         <source>Preview is approximate</source>
-        <translation type="unfinished"></translation>
+        <translation>La vista previa es aproximada</translation>
     </message>
     <message>
         <source>sharpness shows at 100 %</source>
-        <translation type="unfinished"></translation>
+        <translation>la nitidez se ve al 100 %</translation>
     </message>
     <message>
         <source> · </source>
         <comment>between two short notes</comment>
-        <translation type="unfinished"></translation>
+        <translation> · </translation>
     </message>
 </context>
 <context>
@@ -3090,11 +3090,11 @@ predeterminada o, si no hay, la integrada</translation>
     </message>
     <message>
         <source>Drag it, or press the arrow keys, to see another part; 0 shows the entire page.</source>
-        <translation type="unfinished"></translation>
+        <translation>Arrastrar, o pulsar las teclas de flecha, para ver otra parte; 0 muestra toda la página.</translation>
     </message>
     <message>
         <source>Left of the divider, the photo is shown without the adjustments. Drag the divider, or press Ctrl and an arrow key, to move it.</source>
-        <translation type="unfinished"></translation>
+        <translation>A la izquierda del divisor, la foto se muestra sin los ajustes. Arrastrar el divisor, o pulsar Ctrl y una tecla de flecha, para moverlo.</translation>
     </message>
 </context>
 <context>

@@ -2978,85 +2978,85 @@ votre file par défaut, ou à défaut l’imprimante intégrée</translation>
     <name>printdialog::PreviewBar</name>
     <message>
         <source>Show the page smaller</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher la page en plus petit</translation>
     </message>
     <message>
         <source>Fit</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajuster</translation>
     </message>
     <message>
         <source>How large the page is shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Taille d’affichage de la page</translation>
     </message>
     <message>
         <source>Show the page larger</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher la page en plus grand</translation>
     </message>
     <message>
         <source>Compare</source>
-        <translation type="unfinished"></translation>
+        <translation>Comparer</translation>
     </message>
     <message>
         <source>Hold to see the photo without the printer&apos;s adjustments (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Maintenir enfoncé pour voir la photo sans les réglages de l’imprimante (%1)</translation>
     </message>
     <message>
         <source>Split</source>
-        <translation type="unfinished"></translation>
+        <translation>Diviser</translation>
     </message>
     <message>
         <source>Show the photo without the printer&apos;s adjustments left of a divider that can be dragged</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher la photo sans les réglages de l’imprimante à gauche d’un séparateur que l’on peut déplacer</translation>
     </message>
     <message>
         <source>Mark the tones that the adjustments clip to black or white</source>
-        <translation type="unfinished"></translation>
+        <translation>Marquer les tons que les réglages écrêtent au noir ou au blanc</translation>
     </message>
     <message>
         <source>Soft proof</source>
-        <translation type="unfinished"></translation>
+        <translation>Épreuve écran</translation>
     </message>
     <message>
         <source>Show the colors as the printer&apos;s paper has them</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher les couleurs telles que le papier de l’imprimante les rend</translation>
     </message>
     <message>
         <source>Zoom out</source>
-        <translation type="unfinished"></translation>
+        <translation>Zoom arrière</translation>
     </message>
     <message>
         <source>Zoom in</source>
-        <translation type="unfinished"></translation>
+        <translation>Zoom avant</translation>
     </message>
     <message>
         <source>%1 %</source>
         <comment>a zoom</comment>
-        <translation type="unfinished">%1 %2 % {1 ?}</translation>
+        <translation>%1 %</translation>
     </message>
     <message>
         <source>Zoom</source>
-        <translation type="unfinished"></translation>
+        <translation>Zoom</translation>
     </message>
     <message>
         <source>Clipped: %1 %</source>
-        <translation type="unfinished"></translation>
+        <translation>Écrêté&#x202f;: %1 %</translation>
     </message>
     <message>
         <source>Clipped</source>
-        <translation type="unfinished"></translation>
+        <translation>Écrêté</translation>
     </message>
     <message>
         <source>Preview is approximate</source>
-        <translation type="unfinished"></translation>
+        <translation>L’aperçu est approximatif</translation>
     </message>
     <message>
         <source>sharpness shows at 100 %</source>
-        <translation type="unfinished"></translation>
+        <translation>la netteté se voit à 100 %</translation>
     </message>
     <message>
         <source> · </source>
         <comment>between two short notes</comment>
-        <translation type="unfinished"></translation>
+        <translation> · </translation>
     </message>
 </context>
 <context>
@@ -3091,11 +3091,11 @@ votre file par défaut, ou à défaut l’imprimante intégrée</translation>
     </message>
     <message>
         <source>Drag it, or press the arrow keys, to see another part; 0 shows the entire page.</source>
-        <translation type="unfinished"></translation>
+        <translation>Faire glisser ou appuyer sur les touches fléchées pour voir une autre partie&#x202f;; 0 affiche la page entière.</translation>
     </message>
     <message>
         <source>Left of the divider, the photo is shown without the adjustments. Drag the divider, or press Ctrl and an arrow key, to move it.</source>
-        <translation type="unfinished"></translation>
+        <translation>À gauche du séparateur, la photo est affichée sans les réglages. Faire glisser le séparateur, ou appuyer sur Ctrl et une touche fléchée, pour le déplacer.</translation>
     </message>
 </context>
 <context>

@@ -2974,85 +2974,85 @@ QUEUE/プリセット。プリントサーバーを使わない場合はプリ�
     <name>printdialog::PreviewBar</name>
     <message>
         <source>Show the page smaller</source>
-        <translation type="unfinished"></translation>
+        <translation>ページを縮小して表示</translation>
     </message>
     <message>
         <source>Fit</source>
-        <translation type="unfinished"></translation>
+        <translation>全体</translation>
     </message>
     <message>
         <source>How large the page is shown</source>
-        <translation type="unfinished"></translation>
+        <translation>ページの表示サイズ</translation>
     </message>
     <message>
         <source>Show the page larger</source>
-        <translation type="unfinished"></translation>
+        <translation>ページを拡大して表示</translation>
     </message>
     <message>
         <source>Compare</source>
-        <translation type="unfinished"></translation>
+        <translation>比較</translation>
     </message>
     <message>
         <source>Hold to see the photo without the printer&apos;s adjustments (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>押している間、プリンターの調整なしの写真を表示 (%1)</translation>
     </message>
     <message>
         <source>Split</source>
-        <translation type="unfinished"></translation>
+        <translation>分割</translation>
     </message>
     <message>
         <source>Show the photo without the printer&apos;s adjustments left of a divider that can be dragged</source>
-        <translation type="unfinished"></translation>
+        <translation>ドラッグできる境界線の左側に、プリンターの調整なしの写真を表示</translation>
     </message>
     <message>
         <source>Mark the tones that the adjustments clip to black or white</source>
-        <translation type="unfinished"></translation>
+        <translation>調整によって黒つぶれ・白とびする部分に印を付ける</translation>
     </message>
     <message>
         <source>Soft proof</source>
-        <translation type="unfinished"></translation>
+        <translation>ソフトプルーフ</translation>
     </message>
     <message>
         <source>Show the colors as the printer&apos;s paper has them</source>
-        <translation type="unfinished"></translation>
+        <translation>プリンターの用紙での色合いを表示</translation>
     </message>
     <message>
         <source>Zoom out</source>
-        <translation type="unfinished"></translation>
+        <translation>縮小</translation>
     </message>
     <message>
         <source>Zoom in</source>
-        <translation type="unfinished"></translation>
+        <translation>拡大</translation>
     </message>
     <message>
         <source>%1 %</source>
         <comment>a zoom</comment>
-        <translation type="unfinished">%1 %2 % {1 ?}</translation>
+        <translation>%1%</translation>
     </message>
     <message>
         <source>Zoom</source>
-        <translation type="unfinished"></translation>
+        <translation>ズーム</translation>
     </message>
     <message>
         <source>Clipped: %1 %</source>
-        <translation type="unfinished"></translation>
+        <translation>階調の飽和: %1%</translation>
     </message>
     <message>
         <source>Clipped</source>
-        <translation type="unfinished"></translation>
+        <translation>階調の飽和</translation>
     </message>
     <message>
         <source>Preview is approximate</source>
-        <translation type="unfinished"></translation>
+        <translation>プレビューはおおよそのものです</translation>
     </message>
     <message>
         <source>sharpness shows at 100 %</source>
-        <translation type="unfinished"></translation>
+        <translation>シャープネスは100%表示で確認できます</translation>
     </message>
     <message>
         <source> · </source>
         <comment>between two short notes</comment>
-        <translation type="unfinished"></translation>
+        <translation> · </translation>
     </message>
 </context>
 <context>
@@ -3087,11 +3087,11 @@ QUEUE/プリセット。プリントサーバーを使わない場合はプリ�
     </message>
     <message>
         <source>Drag it, or press the arrow keys, to see another part; 0 shows the entire page.</source>
-        <translation type="unfinished"></translation>
+        <translation>ドラッグするか矢印キーを押すと別の部分が見えます。0でページ全体を表示します。</translation>
     </message>
     <message>
         <source>Left of the divider, the photo is shown without the adjustments. Drag the divider, or press Ctrl and an arrow key, to move it.</source>
-        <translation type="unfinished"></translation>
+        <translation>境界線の左側は調整なしの写真です。境界線はドラッグするか、Ctrlと矢印キーで動かせます。</translation>
     </message>
 </context>
 <context>
