@@ -6,12 +6,15 @@
 #include <QtCore/QByteArray>
 #include <QtGui/QRgb>
 
+#include <array>
+#include <cstdint>
 #include <memory>
+#include <vector>
 
 namespace printdialog {
 
-/// The way from a photo's RGB values to the screen's, as one table. A value that is shared; threads may use
-/// it together.
+/// The way from a photo's RGB values to the screen's, as one table, read by tetrahedral interpolation. A
+/// value that is shared; threads may use it together.
 class ColorLookup
 {
 public:
@@ -31,6 +34,14 @@ public:
 
     /// Converts `count` pixels; `from` and `to` may be the same. The result is opaque.
     void apply(const QRgb *from, QRgb *to, int count) const;
+
+private:
+    /// Blue, green, red and alpha, as in memory.
+    using Node = std::array<std::int16_t, 4>;
+
+    ColorLookup() = default;
+
+    std::vector<Node> nodes_; ///< by red, then green, then blue
 };
 
 } // namespace printdialog
