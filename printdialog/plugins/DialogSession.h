@@ -192,8 +192,10 @@ private:
     QHash<QString, CustomValues> secrets_;   ///< by option
     Ruling lastRuling_;
     Ruling jobRefusal_;
-    QStringList changedKeys_; ///< options whose panels are not notified yet
-    QStringList begunKeys_;   ///< options whose number is incomplete and not marked
+    QStringList changedKeys_;          ///< options whose panels are not notified yet
+    QStringList begunKeys_;            ///< options whose number is incomplete and not marked
+    mutable QString paperProfileName_; ///< of the file that was read last
+    mutable QByteArray paperProfile_;
 };
 
 } // namespace printdialog

@@ -6,6 +6,8 @@
 #include "GuardedPanel.h"
 #include "JobDefaults.h"
 #include "PpdDocument.h"
+#include "PpdProfiles.h"
+#include "ProfileFolders.h"
 
 #include <QtCore/QRegularExpression>
 
@@ -58,7 +60,14 @@ double DialogSession::dotsPerInch() const
 
 QByteArray DialogSession::paperProfile() const
 {
-    return {};
+    const QString name = options_.ppd
+                             ? profileNamed(*options_.ppd, [this](const QString &key) { return chosen(key); })
+                             : QString();
+    if (name != paperProfileName_) {
+        paperProfileName_ = name;
+        paperProfile_ = ProfileFolders::find(name);
+    }
+    return paperProfile_;
 }
 
 } // namespace printdialog
