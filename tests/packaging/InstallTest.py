@@ -89,13 +89,14 @@ class InstallTest(CommandTest):  # in the order of the names
         self.output_of(CMAKE, "--build", build)
         self.output_of(CMAKE, "--install", build)
         printer = "--ppd", f"{source}/Postcard.ppd"
-        self.assertIn("Border      Border      None      Postcard Border",
+        self.assertIn("Border      Border      None      Border and Tone",
                       corvel_print(*printer, "--list-options")[1])
         for mode in "constraint", "settings":
-            batch = (*printer, "--mode", mode, "-o", "Border=Deckle", "--batch", "--output", FOLDER, PHOTO, "--summary")
+            batch = (*printer, "--mode", mode, "-o", "Border=Deckle", "-o", "Tone=Sepia", "--batch", "--output", FOLDER,
+                     PHOTO, "--summary")
             status, output = corvel_print(*batch)
             self.assertEqual(status, 0, output)
-            self.assertIn("\nBorder: Deckle edge\n", output)
+            self.assertIn("\nBorder: Deckle edge\nTone: Sepia\n", output)
             self.assertEqual(corvel_print(*batch, "-o", "PageSize=Square")[0], 1)
 
     # Neither the installed files nor the built example.

@@ -40,7 +40,7 @@ bool answer(bool isDone, QString *error)
 
 } // namespace
 
-/// The panel of one pop-up, which notes what the dialog calls.
+/// The panel of two pop-ups, which notes what the dialog calls.
 class RecordingPanel : public pdekit::OptionPanel
 {
     Q_OBJECT
@@ -128,8 +128,10 @@ public:
         const QString option = qEnvironmentVariable("CORVEL_TEST_OPTION", QStringLiteral("Border"));
         panels.push_back(std::make_unique<RecordingPanel>(
             *bundle_, hostInfo,
-            pdekit::OptionPanel::Page{
-                option, QStringLiteral("border"), QStringLiteral("border"), {{1, option}}}));
+            pdekit::OptionPanel::Page{option,
+                                      QStringLiteral("border"),
+                                      QStringLiteral("border"),
+                                      {{1, option}, {2, QStringLiteral("Tone")}}}));
         return panels;
     }
 

@@ -71,7 +71,7 @@ private Q_SLOTS:
         }
         QTRY_VERIFY(opened->hasPrinted());
         // What no panel has ever shown is on the dialog's own page.
-        QCOMPARE(opened->options().size(), hasPage ? 1 : 2);
+        QCOMPARE(opened->options().size(), hasPage ? 1 : 3);
     }
 
     void saysWhatIsMissing_data()
@@ -201,7 +201,7 @@ private Q_SLOTS:
         chooseDeckle(*opened);
         const QJsonObject after = printed();
         if (mode_ == PanelMode::Constraint)
-            QCOMPARE(after.keys(), QStringList({u"InputSlot"_s, u"PageSize"_s}));
+            QCOMPARE(after.keys(), QStringList({u"InputSlot"_s, u"PageSize"_s, u"Tone"_s}));
         opened->undo();
         QCOMPARE(printed(), before);
         opened->redo();
