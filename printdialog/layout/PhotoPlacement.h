@@ -72,6 +72,8 @@ struct PhotoPlacement
     PlacementChoice moved(const PlacementChoice &choice, const QPointF &distance) const;
     /// The fraction of the photo, 0 to 1, that is not printed on the page.
     double cutOff(const PageGeometry &page) const;
+
+    bool operator==(const PhotoPlacement &) const = default;
 };
 
 } // namespace printdialog

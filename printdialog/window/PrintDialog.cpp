@@ -9,6 +9,7 @@
 #include "GuardedPanel.h"
 #include "HelpWindow.h"
 #include "LoginPrompt.h"
+#include "PictureController.h"
 #include "PlainText.h"
 #include "PrinterController.h"
 #include "PrintingController.h"
@@ -62,6 +63,7 @@ PrintDialog::PrintDialog(const PrintDialogSetup &setup, QWidget *parent)
     choices_ = new ChoiceController(
         {this, ui_->panels, ui_->pageSize, ui_->copies, ui_->presetBar, ui_->undo, ui_->redo, ui_->message},
         this);
+    picture_ = new PictureController(ui_->photos, this);
     printing_ = new PrintingController({ui_->photos, ui_->progress, ui_->message}, choices_, this);
     connect(printing_, &PrintingController::stateChanged, this, &PrintDialog::updateButtons);
     connect(printing_, &PrintingController::printRequested, this, &PrintDialog::print);

@@ -30,6 +30,7 @@ class CheckedPpd;
 class ChoiceController;
 class DialogSession;
 class IppAttributes;
+class PictureController;
 class PrinterController;
 class PrintingController;
 
@@ -129,6 +130,7 @@ private:
     std::unique_ptr<Ui::PrintDialog> ui_;
     std::unique_ptr<PrinterController> printer_;
     ChoiceController *choices_ = nullptr;
+    PictureController *picture_ = nullptr;
     PrintingController *printing_ = nullptr;
     int listedSizes_ = 0; ///< the items of the paper-size list before those for a custom size
 };

@@ -4,6 +4,7 @@
 #include "ChoiceController.h"
 #include "DialogSession.h"
 #include "JobTemplate.h"
+#include "PictureController.h"
 #include "PrintDialog.h"
 #include "PrinterController.h"
 #include "PrintingController.h"
@@ -87,6 +88,7 @@ void PrintDialog::showFolder(bool isBuiltIn)
 void PrintDialog::closeSession()
 {
     choices_->setSession(nullptr);
+    picture_->setSession(nullptr);
     ui_->panels->setSession(nullptr);
     printing_->setSession(nullptr);
     ui_->pageSize->clear();
@@ -112,6 +114,7 @@ void PrintDialog::showSession()
     fillPageSizes();
     choices_->start();
     ui_->panels->setSession(session);
+    picture_->setSession(session);
     if (noPanels)
         ui_->message->show(noPanels->reason == PluginFault::NotFound ? MessageBar::Kind::Information
                                                                      : MessageBar::Kind::Error,

@@ -3039,11 +3039,11 @@ Standardwarteschlange oder der eingebaute Drucker</translation>
     </message>
     <message>
         <source>Clipped: %1 %</source>
-        <translation>Beschnitten: %1 %</translation>
+        <translation>Clipping: %1 %</translation>
     </message>
     <message>
         <source>Clipped</source>
-        <translation>Beschnitten</translation>
+        <translation>Clipping</translation>
     </message>
     <message>
         <source>Preview is approximate</source>

@@ -9,6 +9,7 @@
 #include "PlacementBar.h"
 #include "PlacementText.h"
 #include "PlainText.h"
+#include "PreviewBar.h"
 #include "PreviewWidget.h"
 #include "WrappingRow.h"
 
@@ -34,6 +35,7 @@ constexpr QSize smallestPreview(120, 100);
 PhotoPane::PhotoPane(QWidget *parent)
     : QWidget(parent)
     , preview_(new PreviewWidget(this))
+    , bar_(new PreviewBar(preview_, this))
     , placement_(new PlacementBar(this))
     , caption_(new QLabel(this))
     , add_(new QPushButton(tr("A&dd…"), this))
@@ -65,12 +67,14 @@ PhotoPane::PhotoPane(QWidget *parent)
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins({});
     layout->addWidget(preview_, 1);
+    layout->addWidget(bar_);
     layout->addWidget(placement_);
     layout->addLayout(row);
     layout->addWidget(strip_);
     setAcceptDrops(true);
 
     connect(preview_, &PreviewWidget::placementChanged, this, &PhotoPane::place);
+    connect(bar_, &PreviewBar::proofingChanged, this, &PhotoPane::showColors);
     connect(placement_, &PlacementBar::placementChanged, this, &PhotoPane::place);
     connect(strip_, &PhotoStrip::picked, this, &PhotoPane::setCurrent);
     connect(strip_, &PhotoStrip::removalWanted, this, &PhotoPane::removePhoto);
@@ -106,6 +110,22 @@ void PhotoPane::setPlacedByPrinter(bool isPlaced)
     isPlacedByPrinter_ = isPlaced;
     placement_->setPlacedByPrinter(isPlaced);
     show();
+}
+
+void PhotoPane::setPrinterPicture(const PrinterPicture &picture)
+{
+    preview_->setDotsPerInch(picture.dotsPerInch);
+    preview_->setAdjustment(picture.adjustment.value_or(PictureAdjustment()));
+    bar_->setAdjustable(picture.adjustment.has_value());
+    bar_->setRemarks(picture.adjustment ? picture.adjustment->remarks() : QStringList());
+    bar_->setProofable(!picture.paperProfile.isEmpty());
+    paperProfile_ = picture.paperProfile;
+    showColors();
+}
+
+void PhotoPane::showColors()
+{
+    preview_->setProfiles({}, bar_->isProofing() ? paperProfile_ : QByteArray());
 }
 
 void PhotoPane::addFiles(const QStringList &paths)

@@ -4,11 +4,14 @@
 #pragma once
 
 #include "PhotoPlacement.h"
+#include "PictureAdjustment.h"
 #include "PlacedPhoto.h"
 
 #include <QtCore/QList>
 #include <QtCore/QStringList>
 #include <QtWidgets/QWidget>
+
+#include <optional>
 
 class QLabel;
 class QMimeData;
@@ -18,7 +21,17 @@ namespace printdialog {
 
 class PhotoStrip;
 class PlacementBar;
+class PreviewBar;
 class PreviewWidget;
+
+/// What a printer does to every photo.
+struct PrinterPicture
+{
+    /// By its own options; nothing when it does not say.
+    std::optional<PictureAdjustment> adjustment = {};
+    double dotsPerInch = 300;
+    QByteArray paperProfile = {}; ///< the ICC profile of its paper; empty when it names none
+};
 
 /// The photos of a job: the current one on its page with its placement, and all of them as a strip. Photos
 /// are added by a button or dropped from another program. They are opened, and then checked for damage, on a
@@ -37,6 +50,7 @@ public:
     /// Whether the printer places the photos itself, whatever their placement is. The preview is then only an
     /// example, and says so.
     void setPlacedByPrinter(bool isPlaced);
+    void setPrinterPicture(const PrinterPicture &picture);
 
     /// Opens the files and appends those that are photos.
     void addFiles(const QStringList &paths);
@@ -74,8 +88,10 @@ private:
     void check(const Photo &photo);
     void show();
     void showCaption();
+    void showColors();
 
     PreviewWidget *preview_;
+    PreviewBar *bar_;
     PlacementBar *placement_;
     QLabel *caption_;
     QPushButton *add_;
@@ -84,6 +100,7 @@ private:
     QList<PlacedPhoto> photos_;
     PlacementChoice initial_;
     PageGeometry page_;
+    QByteArray paperProfile_;
     bool isPlacedByPrinter_ = false;
     int current_ = -1; ///< -1 without photos
 };

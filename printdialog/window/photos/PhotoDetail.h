@@ -1,0 +1,59 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include "PagePainter.h"
+#include "Photo.h"
+
+#include <QtCore/QObject>
+
+namespace printdialog {
+
+/// A photo's pixels for the preview, in the photo's own colors (Photo::pixels): the entire photo about as
+/// large as it is seen and, when it is seen larger than memory allows, the seen part of it. Decoded on worker
+/// threads.
+class PhotoDetail : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit PhotoDetail(QObject *parent = nullptr);
+
+    /// Decodes a photo that differs from the previous one. False: it is the same.
+    bool setPhoto(const Photo &photo);
+    const Photo &photo() const { return photo_; }
+    /// Whether the photo is decoded, or has turned out to be unreadable.
+    bool isReady() const { return !pixels_.whole.isNull() || isUnreadable_; }
+    bool isUnreadable() const { return isUnreadable_; }
+    const PagePhoto &pixels() const { return pixels_; }
+
+    /// The photo is seen with this many pixels (upright), and this part of its unit square. Decodes what is
+    /// missing for that.
+    void want(const QSize &whole, const QRectF &seen);
+    /// Whether what is wanted is there.
+    bool isComplete() const { return isReady() && !isPartUnderWay_ && detail_ <= decodedDetail_; }
+
+Q_SIGNALS:
+    /// pixels() are others, or the photo is unreadable.
+    void changed();
+
+private:
+    void decode(int detail);
+    void show(quint64 number, int detail, const QImage &image);
+    void decodePart();
+    void showPart(quint64 number, const QSize &whole, const PhotoPart &part);
+
+    Photo photo_;
+    PagePhoto pixels_;
+    bool isUnreadable_ = false;
+    int detail_ = 0;        ///< pixels of the photo's longer side that are asked for
+    int decodedDetail_ = 0; ///< those of the last answer
+    QSize wholeWanted_;     ///< for which a part is wanted; empty when none is
+    QRectF partWanted_;
+    QSize partWhole_; ///< for which pixels_.part was decoded
+    bool isPartUnderWay_ = false;
+    quint64 number_ = 0; ///< identifies the current photo; results for another one are dropped
+};
+
+} // namespace printdialog
