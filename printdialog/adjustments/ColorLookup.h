@@ -36,7 +36,7 @@ public:
     void apply(const QRgb *from, QRgb *to, int count) const;
 
 private:
-    /// Blue, green, red and alpha, as in memory.
+    /// The light of blue, green and red; the last one is not used.
     using Node = std::array<std::int16_t, 4>;
 
     ColorLookup() = default;

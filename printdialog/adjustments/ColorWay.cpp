@@ -8,6 +8,7 @@
 #include <lcms2.h>
 
 #include <algorithm>
+#include <cstdint>
 
 namespace printdialog {
 namespace {
@@ -65,39 +66,60 @@ bool isSrgb(const QByteArray &icc)
     return icc.isEmpty() || (icc.size() <= largestProfile && ColorProfile::fromIcc(icc).isSrgb());
 }
 
-Transform transformFor(const ColorLookup::Way &way)
+Transform transformOf(const Profile &from, cmsUInt32Number fromFormat, const Profile &to,
+                      cmsUInt32Number toFormat, cmsUInt32Number more = 0)
 {
-    constexpr cmsUInt32Number intent = INTENT_RELATIVE_COLORIMETRIC;
     // Each color is converted only once: working out a quicker way would take longer.
-    constexpr cmsUInt32Number flags =
-        cmsFLAGS_BLACKPOINTCOMPENSATION | cmsFLAGS_NOOPTIMIZE | cmsFLAGS_NOCACHE;
-    const Profile photo = opened(way.photo);
-    const Profile screen = opened(way.screen);
-    if (!isPhotos(photo) || !isScreens(screen))
-        return {};
-    if (way.proof.isEmpty())
-        return Transform(
-            cmsCreateTransform(photo.get(), TYPE_RGB_16, screen.get(), TYPE_RGB_16, intent, flags));
-    const Profile proof = opened(way.proof);
-    if (!isPapers(proof))
-        return {};
-    return Transform(cmsCreateProofingTransform(photo.get(), TYPE_RGB_16, screen.get(), TYPE_RGB_16,
-                                                proof.get(), intent, intent, flags | cmsFLAGS_SOFTPROOFING));
+    return Transform(cmsCreateTransform(from.get(), fromFormat, to.get(), toFormat,
+                                        INTENT_RELATIVE_COLORIMETRIC,
+                                        cmsFLAGS_NOOPTIMIZE | cmsFLAGS_NOCACHE | more));
+}
+
+bool convert(const Transform &transform, const void *from, void *to, std::size_t count)
+{
+    if (transform)
+        cmsDoTransform(transform.get(), from, to, static_cast<cmsUInt32Number>(count));
+    return transform != nullptr;
+}
+
+/// Numbers without a limit would pass the paper as if it could show all colors, so there they have 16 bits.
+cmsUInt32Number paperFormat(const Profile &paper)
+{
+    switch (cmsGetColorSpace(paper.get())) {
+    case cmsSigGrayData:
+        return TYPE_GRAY_16;
+    case cmsSigCmykData:
+        return TYPE_CMYK_16;
+    default:
+        return TYPE_RGB_16;
+    }
 }
 
 } // namespace
 
-std::vector<WideColor> converted(const ColorLookup::Way &way, const std::vector<WideColor> &colors)
+std::vector<WideColor> converted(const ColorLookup::Way &way, std::vector<WideColor> colors)
 {
     if (way.proof.isEmpty() && (way.photo == way.screen || (isSrgb(way.photo) && isSrgb(way.screen))))
         return {};
-    const Transform transform = transformFor(way);
-    if (!transform)
+    const Profile photo = opened(way.photo);
+    const Profile screen = opened(way.screen);
+    if (!isPhotos(photo) || !isScreens(screen))
         return {};
-    std::vector<WideColor> result(colors.size());
-    cmsDoTransform(transform.get(), colors.data(), result.data(),
-                   static_cast<cmsUInt32Number>(colors.size()));
-    return result;
+    constexpr cmsUInt32Number compensated = cmsFLAGS_BLACKPOINTCOMPENSATION;
+    bool isDone = false;
+    if (way.proof.isEmpty()) {
+        isDone = convert(transformOf(photo, TYPE_RGB_FLT, screen, TYPE_RGB_FLT, compensated), colors.data(),
+                         colors.data(), colors.size());
+    } else if (const Profile paper = opened(way.proof); isPapers(paper)) {
+        const cmsUInt32Number format = paperFormat(paper);
+        std::vector<std::uint16_t> inks(colors.size() * T_CHANNELS(format));
+        // The screen shows the paper's black as light as it is.
+        isDone = convert(transformOf(photo, TYPE_RGB_FLT, paper, format, compensated), colors.data(),
+                         inks.data(), colors.size()) &&
+                 convert(transformOf(paper, format, screen, TYPE_RGB_FLT), inks.data(), colors.data(),
+                         colors.size());
+    }
+    return isDone ? colors : std::vector<WideColor>();
 }
 
 } // namespace printdialog
