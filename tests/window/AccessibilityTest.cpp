@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include "OpenedDialog.h"
+#include "PrivateDesktop.h"
 
 #include <QtCore/QEventLoop>
-#include <QtCore/QProcess>
 #include <QtDBus/QDBusArgument>
 #include <QtDBus/QDBusConnection>
 #include <QtDBus/QDBusMessage>
@@ -18,50 +18,6 @@ namespace {
 
 constexpr uint alertRole = 2; // ATSPI_ROLE_ALERT
 const QString accessible = u"org.a11y.atspi.Accessible"_s;
-
-/// What a screen reader has: a display, a session bus, and on it the accessibility bus.
-class Desktop
-{
-public:
-    /// Empty, or what is missing.
-    QString start()
-    {
-        const QString display =
-            firstLineOf(display_, u"Xvfb"_s, {u"-displayfd"_s, u"1"_s, u"-nolisten"_s, u"tcp"_s});
-        if (display.isEmpty())
-            return u"Xvfb is missing; apt-get install xvfb."_s;
-        const QString session =
-            firstLineOf(session_, u"dbus-daemon"_s, {u"--session"_s, u"--nofork"_s, u"--print-address=1"_s});
-        if (session.isEmpty())
-            return u"dbus-daemon is missing; apt-get install dbus."_s;
-        qputenv("DISPLAY", ":" + display.toLatin1());
-        qputenv("DBUS_SESSION_BUS_ADDRESS", session.toLatin1());
-        qputenv("QT_QPA_PLATFORM", "xcb");
-        qputenv("QT_LINUX_ACCESSIBILITY_ALWAYS_ON", "1");
-        qunsetenv("AT_SPI_BUS_ADDRESS");
-        return {};
-    }
-    ~Desktop()
-    {
-        for (QProcess *process : {&session_, &display_}) {
-            process->terminate();
-            process->waitForFinished(3000);
-        }
-    }
-
-private:
-    static QString firstLineOf(QProcess &process, const QString &program, const QStringList &arguments)
-    {
-        process.start(program, arguments, QIODevice::ReadOnly);
-        while (process.state() != QProcess::NotRunning && !process.canReadLine() &&
-               process.waitForReadyRead(10000))
-            ;
-        return QString::fromLatin1(process.readLine()).trimmed();
-    }
-
-    QProcess display_;
-    QProcess session_;
-};
 
 /// An object on the accessibility bus.
 struct Object
@@ -222,8 +178,10 @@ QVariant AccessibilityTest::ask(const Object &object, const QString &interface, 
 
 int main(int argc, char *argv[])
 {
-    Desktop desktop;
+    PrivateDesktop desktop;
     const QString missing = desktop.start();
+    qputenv("QT_LINUX_ACCESSIBILITY_ALWAYS_ON", "1");
+    qunsetenv("AT_SPI_BUS_ADDRESS");
     QApplication application(argc, argv);
     AccessibilityTest test(missing);
     return QTest::qExec(&test, argc, argv);
