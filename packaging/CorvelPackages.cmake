@@ -52,7 +52,7 @@ set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS ${CMAKE_LIBRARY_OUTPUT_DIRECTORY})
 set(CPACK_DEBIAN_PROGRAM_PACKAGE_DEPENDS "${library} (= ${PROJECT_VERSION})")
 set(CPACK_DEBIAN_PROGRAM_PACKAGE_RECOMMENDS "libheif1, qt6-image-formats-plugins, qt6-translations-l10n, qt6-wayland")
-set(CPACK_DEBIAN_PROGRAM_PACKAGE_SUGGESTS "avahi-daemon, cups")
+set(CPACK_DEBIAN_PROGRAM_PACKAGE_SUGGESTS "avahi-daemon, colord, cups")
 set(CPACK_DEBIAN_PROGRAM_PACKAGE_SECTION graphics)
 set(CPACK_DEBIAN_PROGRAM_DESCRIPTION "photo-print dialog for dye-sublimation printers
 Prints photos from a window that shows each one on its page, or at once from

@@ -1,6 +1,7 @@
 # SPDX-FileCopyrightText: Corvel print dialog authors
 # SPDX-License-Identifier: Apache-2.0
-"""HardeningTest.py PROGRAM PPD_CHECK PRINTER_LIST KIT MODULE IS_FORTIFIED: what was built, as binutils see it."""
+"""HardeningTest.py PROGRAM PPD_CHECK PRINTER_LIST SCREEN_PROFILE KIT MODULE IS_FORTIFIED: what was built, as
+binutils see it."""
 
 import re
 import sys
@@ -8,7 +9,7 @@ import unittest
 
 from commands import CommandTest
 
-PROGRAM, PPD_CHECK, PRINTER_LIST, KIT, MODULE, IS_FORTIFIED = sys.argv[1:]
+PROGRAM, PPD_CHECK, PRINTER_LIST, SCREEN_PROFILE, KIT, MODULE, IS_FORTIFIED = sys.argv[1:]
 
 
 class HardeningTest(CommandTest):
@@ -18,12 +19,13 @@ class HardeningTest(CommandTest):
         return sorted(re.sub(r" [A-Za-z]( [0-9a-f]+){1,2} ?$", "", line) for line in symbols.splitlines())
 
     def test_is_hardened(self):
-        for file, is_program in ((PROGRAM, True), (PPD_CHECK, True), (PRINTER_LIST, True), (KIT, False), (MODULE, False)):
+        programs = PROGRAM, PPD_CHECK, PRINTER_LIST, SCREEN_PROFILE
+        for file in *programs, KIT, MODULE:
             with self.subTest(file):
                 headers = self.output_of("readelf", "-hdlW", file)
                 self.assert_all_in(("BIND_NOW", "GNU_RELRO", " DYN ("), headers)
                 self.assertNotIn("TEXTREL", headers)
-                self.assertEqual(" PIE" in headers, is_program)
+                self.assertEqual(" PIE" in headers, file in programs)
                 self.assertNotRegex(headers, "GNU_STACK.*RWE")
                 imports = self.output_of("nm", "-D", "--undefined-only", file)
                 self.assertIn("__stack_chk_fail", imports)
@@ -31,7 +33,7 @@ class HardeningTest(CommandTest):
                     self.assertIn("_chk@GLIBC", imports)
 
     # A hung bus blocks whoever is connected to it.
-    def test_only_the_lister_knows_d_bus(self):
+    def test_the_dialog_does_not_know_d_bus(self):
         for file in PROGRAM, PPD_CHECK, KIT, MODULE:
             self.assertNotRegex(self.output_of("readelf", "-dW", file), "NEEDED.*DBus")
 
