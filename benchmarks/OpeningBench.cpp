@@ -4,6 +4,7 @@
 #include "BenchTable.h"
 #include "Benches.h"
 #include "PaintWatch.h"
+#include "VirtualDisplay.h"
 
 #include <QtCore/QDirIterator>
 #include <QtCore/QFile>
@@ -136,34 +137,6 @@ void printComparison(const QString &what, double ours, const QString &peerName, 
 }
 
 #ifdef CORVEL_BENCH_HAS_CUPSD
-/// A private X server, for the peer that has no offscreen platform.
-class VirtualDisplay
-{
-public:
-    VirtualDisplay()
-    {
-        server_.start(QStringLiteral("Xvfb"),
-                      {QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-screen"),
-                       QStringLiteral("0"), QStringLiteral("1600x1200x24"), QStringLiteral("-nolisten"),
-                       QStringLiteral("tcp")});
-        if (server_.waitForReadyRead(10000))
-            name_ = QLatin1Char(':') + QString::fromLatin1(server_.readLine().trimmed());
-    }
-    ~VirtualDisplay()
-    {
-        server_.terminate();
-        server_.waitForFinished();
-    }
-    Q_DISABLE_COPY_MOVE(VirtualDisplay)
-
-    /// Empty when there is none.
-    QString name() const { return name_; }
-
-private:
-    QProcess server_;
-    QString name_;
-};
-
 /// An office printer, whose options each dialog shows on pages of its own; no plug-in takes part.
 void benchOptionPages(testing_support::PrivateCupsd &server,
                       const std::optional<QProcessEnvironment> &onDisplay)
@@ -191,19 +164,6 @@ void benchOptionPages(testing_support::PrivateCupsd &server,
     printComparison(what + QStringLiteral(", X"), onX[0], QStringLiteral("QPrintDialog"), onX[1], 0.7);
     printComparison(what + QStringLiteral(", X"), onX[0], QStringLiteral("GTK"), onX[2], 0.7);
 #endif
-}
-
-std::optional<QProcessEnvironment> environmentOn(const VirtualDisplay &display)
-{
-    if (display.name().isEmpty()) {
-        printNote(QStringLiteral("on an X display: not measured, there is no Xvfb"));
-        return std::nullopt;
-    }
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(QStringLiteral("DISPLAY"), display.name());
-    environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("xcb"));
-    environment.insert(QStringLiteral("GDK_BACKEND"), QStringLiteral("x11"));
-    return environment;
 }
 
 void benchBesideGtk(const QProcessEnvironment &environment)
@@ -254,9 +214,11 @@ void benchOpening()
     printComparison(queues, times[0], QStringLiteral("QPrintDialog"), times[1], 0.7);
     printComparison(queues, times[0], QStringLiteral("20 sliders"), times[2], 1.6);
     const VirtualDisplay display;
-    const auto onDisplay = environmentOn(display);
+    const auto onDisplay = display.environment();
     if (onDisplay)
         benchBesideGtk(*onDisplay);
+    else
+        printNote(QStringLiteral("on an X display: not measured, there is no Xvfb"));
     benchOptionPages(server, onDisplay);
 #endif
 }
