@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include <QtCore/QString>
+#include <QtCore/QStringList>
 
 /// Process start to painted dialog, ours beside Qt's and GTK's with a PPD's options; each run in a new
 /// process.
@@ -24,6 +24,12 @@ void benchPanels();
 
 /// The dialog's own page of options: turning to it, and a choice on it, with few and with many options.
 void benchOptionPage();
+
+/// A step of a slider to the painted preview, with all adjustments, beside what others take for the pixels
+/// alone.
+void benchPreview();
+/// What such a process does: opens the window with a photo, and prints what it measures.
+int runPreviewChild(const QStringList &arguments);
 
 /// Launching the backend, beside a bare posix_spawn of the same.
 void benchRunner();

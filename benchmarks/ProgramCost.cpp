@@ -15,6 +15,14 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+double peakMemory(pid_t id)
+{
+    QFile file(QStringLiteral("/proc/%1/status").arg(id));
+    const QByteArray text = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    const QByteArray rest = text.mid(text.indexOf("VmHWM:") + 6);
+    return rest.left(rest.indexOf("kB")).trimmed().toDouble() / 1024;
+}
+
 namespace {
 
 /// 0 when there is no such program.
@@ -36,14 +44,6 @@ pid_t start(const QStringList &command)
     const int error = posix_spawnp(&id, arguments.front(), &actions, nullptr, arguments.data(), environ);
     posix_spawn_file_actions_destroy(&actions);
     return error == 0 ? id : 0;
-}
-
-double peakMemory(pid_t id)
-{
-    QFile file(QStringLiteral("/proc/%1/status").arg(id));
-    const QByteArray text = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    const QByteArray rest = text.mid(text.indexOf("VmHWM:") + 6);
-    return rest.left(rest.indexOf("kB")).trimmed().toDouble() / 1024;
 }
 
 /// Read when the program is about to end: what the system reports afterwards counts in the memory of the

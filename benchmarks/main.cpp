@@ -23,14 +23,19 @@ int main(int argc, char *argv[])
     QApplication application(argc, argv);
     const QStringList arguments = QApplication::arguments();
     if (arguments.value(1) == QLatin1String("--child"))
-        return arguments.value(2) == QLatin1String("queues") ? runQueueChild(arguments.value(3).toInt())
-                                                             : runOpeningChild();
+        return arguments.value(2) == QLatin1String("queues")    ? runQueueChild(arguments.value(3).toInt())
+               : arguments.value(2) == QLatin1String("preview") ? runPreviewChild(arguments.mid(3))
+                                                                : runOpeningChild();
 
     // With names of parts only those: corvel-bench queues jobs
-    const std::pair<const char *, void (*)()> parts[] = {
-        {"opening", benchOpening}, {"queues", benchQueues},         {"jobs", benchJobs},
-        {"panels", benchPanels},   {"optionpage", benchOptionPage}, {"runner", benchRunner},
-        {"pdf", benchPdf}};
+    const std::pair<const char *, void (*)()> parts[] = {{"opening", benchOpening},
+                                                         {"queues", benchQueues},
+                                                         {"jobs", benchJobs},
+                                                         {"panels", benchPanels},
+                                                         {"optionpage", benchOptionPage},
+                                                         {"preview", benchPreview},
+                                                         {"runner", benchRunner},
+                                                         {"pdf", benchPdf}};
     printHeader();
     for (const auto &[name, bench] : parts) {
         if (arguments.size() < 2 || arguments.contains(QLatin1String(name)))

@@ -16,7 +16,7 @@ corvel_test_packages=(
     at-spi2-core dbus xvfb avahi-daemon cups-ipp-utils iproute2
 )
 
-corvel_bench_packages=(img2pdf imagemagick libgtk-3-dev xvfb)
+corvel_bench_packages=(img2pdf imagemagick libgtk-3-dev libvips-dev xvfb)
 corvel_fuzz_packages=(clang libclang-rt-dev llvm qt6-image-formats-plugins)
 
 # corvel_install PACKAGE...: installs those that are missing; takes a few milliseconds when none is.
