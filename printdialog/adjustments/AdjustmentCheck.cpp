@@ -121,7 +121,7 @@ double CheckedAdjustment::checkedMatte(double given)
     }
     const double limited = std::clamp(given, 0.0, 1.0);
     if (limited != given)
-        faults += u"matte is %1, so it is limited to %2"_s.arg(given).arg(limited);
+        faults += u"matte is not from 0 to 1, so it is limited"_s;
     return limited;
 }
 

@@ -16,6 +16,7 @@
 #include <QtCore/QHash>
 #include <QtCore/QMap>
 #include <QtCore/QObject>
+#include <QtCore/QSet>
 
 #include <array>
 
@@ -192,6 +193,7 @@ private:
     QHash<QString, CustomValues> secrets_;   ///< by option
     Ruling lastRuling_;
     Ruling jobRefusal_;
+    QSet<QString> loggedProblems_;     ///< of the panels' adjustments
     QStringList changedKeys_;          ///< options whose panels are not notified yet
     QStringList begunKeys_;            ///< options whose number is incomplete and not marked
     mutable QString paperProfileName_; ///< of the file that was read last

@@ -8,6 +8,7 @@
 #include "PpdDocument.h"
 #include "PpdProfiles.h"
 #include "ProfileFolders.h"
+#include "SystemLog.h"
 
 #include <QtCore/QRegularExpression>
 
@@ -41,7 +42,15 @@ std::optional<PictureAdjustment> DialogSession::adjustment()
     }
     if (adjustments.isEmpty())
         return std::nullopt;
-    return PictureAdjustment::of(adjustments);
+    QStringList problems;
+    const PictureAdjustment joined = PictureAdjustment::of(adjustments, &problems);
+    // Not again for each step of a slider.
+    for (const QString &problem : std::as_const(problems)) {
+        if (!loggedProblems_.contains(problem))
+            pdekit::systemLog(problem);
+        loggedProblems_.insert(problem);
+    }
+    return joined;
 }
 
 double DialogSession::dotsPerInch() const

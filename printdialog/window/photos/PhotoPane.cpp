@@ -11,11 +11,13 @@
 #include "PlainText.h"
 #include "PreviewBar.h"
 #include "PreviewWidget.h"
+#include "ScreenProfiles.h"
 #include "WrappingRow.h"
 
 #include <QtCore/QFileInfo>
 #include <QtCore/QPointer>
 #include <QtGui/QDragEnterEvent>
+#include <QtGui/QWindow>
 #include <QtWidgets/QFileDialog>
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QLabel>
@@ -41,6 +43,7 @@ PhotoPane::PhotoPane(QWidget *parent)
     , add_(new QPushButton(tr("A&dd…"), this))
     , remove_(new QPushButton(tr("Re&move"), this))
     , strip_(new PhotoStrip(this))
+    , screens_(new ScreenProfiles(screenProfileProgram(), this))
 {
     preview_->setMinimumSize(smallestPreview);
     preview_->setObjectName(QStringLiteral("preview"));
@@ -75,6 +78,7 @@ PhotoPane::PhotoPane(QWidget *parent)
 
     connect(preview_, &PreviewWidget::placementChanged, this, &PhotoPane::place);
     connect(bar_, &PreviewBar::proofingChanged, this, &PhotoPane::showColors);
+    connect(screens_, &ScreenProfiles::changed, this, &PhotoPane::followScreen);
     connect(placement_, &PlacementBar::placementChanged, this, &PhotoPane::place);
     connect(strip_, &PhotoStrip::picked, this, &PhotoPane::setCurrent);
     connect(strip_, &PhotoStrip::removalWanted, this, &PhotoPane::removePhoto);
@@ -125,7 +129,22 @@ void PhotoPane::setPrinterPicture(const PrinterPicture &picture)
 
 void PhotoPane::showColors()
 {
-    preview_->setProfiles({}, bar_->isProofing() ? paperProfile_ : QByteArray());
+    preview_->setProfiles(screenProfile_, bar_->isProofing() ? paperProfile_ : QByteArray());
+}
+
+void PhotoPane::followScreen()
+{
+    screenProfile_ = screens_->profileOf(screen());
+    showColors();
+}
+
+// The window has a screen once it is shown, and may be moved to another one.
+void PhotoPane::showEvent(QShowEvent *event)
+{
+    QWidget::showEvent(event);
+    if (const QWindow *shown = window()->windowHandle())
+        connect(shown, &QWindow::screenChanged, this, &PhotoPane::followScreen, Qt::UniqueConnection);
+    followScreen();
 }
 
 void PhotoPane::addFiles(const QStringList &paths)

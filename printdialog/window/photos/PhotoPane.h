@@ -23,6 +23,7 @@ class PhotoStrip;
 class PlacementBar;
 class PreviewBar;
 class PreviewWidget;
+class ScreenProfiles;
 
 /// What a printer does to every photo.
 struct PrinterPicture
@@ -80,6 +81,7 @@ Q_SIGNALS:
     void failed(const QString &sentences);
 
 protected:
+    void showEvent(QShowEvent *event) override;
     void dragEnterEvent(QDragEnterEvent *event) override;
     void dropEvent(QDropEvent *event) override;
 
@@ -89,6 +91,7 @@ private:
     void show();
     void showCaption();
     void showColors();
+    void followScreen();
 
     PreviewWidget *preview_;
     PreviewBar *bar_;
@@ -100,6 +103,8 @@ private:
     QList<PlacedPhoto> photos_;
     PlacementChoice initial_;
     PageGeometry page_;
+    ScreenProfiles *screens_;
+    QByteArray screenProfile_; ///< of the screen that shows the window
     QByteArray paperProfile_;
     bool isPlacedByPrinter_ = false;
     int current_ = -1; ///< -1 without photos
