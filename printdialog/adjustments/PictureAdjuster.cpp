@@ -149,14 +149,11 @@ QImage PictureAdjuster::adjusted(const QImage &picture)
     QImage from = rgb32(picture);
     const std::size_t sweeps = std::max<std::size_t>(1, masks_.size());
     for (std::size_t i = 0; i < sweeps; ++i) {
-        // Two masks need two pictures, in turn, so that the last one is the result.
-        QImage &to = (sweeps - i) % 2 == 1 ? result_ : between_;
-        makeLike(picture, to);
-        sweep(from, masks_.empty() ? nullptr : &masks_[i], i == 0, i + 1 == sweeps, to);
-        from = i + 1 == sweeps ? QImage() : to;
+        makeLike(picture, result_);
+        sweep(from, masks_.empty() ? nullptr : &masks_[i], i == 0, i + 1 == sweeps, result_);
+        if (i + 1 < sweeps)
+            from = result_; // which makes the next one a new picture
     }
-    if (sweeps == 1)
-        between_ = {};
     resultOf_ = picture.cacheKey();
     return result_;
 }

@@ -54,8 +54,8 @@ public:
     void setLookup(std::shared_ptr<const ColorLookup> lookup);
 
     /// The picture (RGB32) adjusted and converted; the picture itself when there is nothing to do. Of the
-    /// same size; valid until the next call. Allocates nothing while the size stays, provided that the caller
-    /// no longer holds the last result.
+    /// same size; valid until the next call. Allocates nothing while the size stays, with one sharpening at
+    /// most, provided that the caller no longer holds the last result.
     QImage adjusted(const QImage &picture);
     /// The picture without the adjustment, converted.
     QImage unadjusted(const QImage &picture) const;
@@ -81,7 +81,6 @@ private:
     std::unique_ptr<BandThreads> threads_;
     std::array<UnsharpMask::Scratch, 2> scratch_; ///< of each thread
     QImage result_;
-    QImage between_;      ///< two masks
     qint64 resultOf_ = 0; ///< the cache key of the picture that result_ was made from; 0 for none
 };
 
