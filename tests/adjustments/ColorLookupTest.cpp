@@ -201,7 +201,7 @@ private Q_SLOTS:
     {
         QRandomGenerator random(11);
         const QByteArray sound[] = {cmyk().first(4000), cmyk(), rgb(QColorSpace::AdobeRgb)};
-        for (int run = 0; run < 60; ++run) {
+        for (int run = 0; run < 30; ++run) {
             QByteArray icc = sound[run % 3];
             for (int i = 0; i < 6; ++i)
                 icc[random.bounded(128, int(std::min<qsizetype>(icc.size(), 700)))] =
