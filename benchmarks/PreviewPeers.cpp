@@ -40,16 +40,23 @@ double medianOf(const std::function<void()> &work)
     return median(times);
 }
 
+/// An RGB profile whose green has this place in the chromaticity diagram.
+Profile profileWith(double gamma, double greenX, double greenY)
+{
+    const cmsCIExyY white{0.3127, 0.3290, 1};
+    const cmsCIExyYTRIPLE primaries{{0.64, 0.33, 1}, {greenX, greenY, 1}, {0.15, 0.06, 1}};
+    cmsToneCurve *curve = cmsBuildGamma(nullptr, gamma);
+    const std::array<cmsToneCurve *, 3> curves{curve, curve, curve};
+    Profile profile(cmsCreateRGBProfile(&white, &primaries, curves.data()));
+    cmsFreeToneCurve(curve);
+    return profile;
+}
+
 /// From sRGB to a space of a higher gamma, as a link.
 Profile deviceLink()
 {
     const Profile srgb(cmsCreate_sRGBProfile());
-    const cmsCIExyY white{0.3127, 0.3290, 1};
-    const cmsCIExyYTRIPLE primaries{{0.64, 0.33, 1}, {0.21, 0.71, 1}, {0.15, 0.06, 1}};
-    cmsToneCurve *curve = cmsBuildGamma(nullptr, 2.4);
-    const std::array<cmsToneCurve *, 3> curves{curve, curve, curve};
-    const Profile other(cmsCreateRGBProfile(&white, &primaries, curves.data()));
-    cmsFreeToneCurve(curve);
+    const Profile other = profileWith(2.4, 0.21, 0.71);
     const cmsUInt32Number flags = cmsFLAGS_GRIDPOINTS(33) | cmsFLAGS_FORCE_CLUT | noCache;
     const Transform transform(cmsCreateTransform(srgb.get(), TYPE_RGB_8, other.get(), TYPE_RGB_8,
                                                  INTENT_RELATIVE_COLORIMETRIC, flags));
@@ -58,6 +65,16 @@ Profile deviceLink()
 }
 
 } // namespace
+
+QByteArray benchProfile(double gamma, double greenX, double greenY)
+{
+    const Profile profile = profileWith(gamma, greenX, greenY);
+    cmsUInt32Number size = 0;
+    cmsSaveProfileToMem(profile.get(), nullptr, &size);
+    QByteArray bytes(size, '\0');
+    cmsSaveProfileToMem(profile.get(), bytes.data(), &size);
+    return bytes;
+}
 
 double lcmsMilliseconds(const QSize &size)
 {

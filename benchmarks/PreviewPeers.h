@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <QtCore/QByteArray>
 #include <QtCore/QSize>
 
 #include <optional>
@@ -14,3 +15,6 @@ double lcmsMilliseconds(const QSize &size);
 /// The same for libvips with curves, a matrix and an unsharp mask of radius 3, on all cores; nothing where it
 /// is not installed.
 std::optional<double> vipsMilliseconds(const QSize &size);
+
+/// An RGB profile with this gamma and this green in the chromaticity diagram, as ICC bytes.
+QByteArray benchProfile(double gamma, double greenX, double greenY);

@@ -4,6 +4,7 @@
 #include "BenchTable.h"
 #include "Benches.h"
 #include "PreviewConversion.h"
+#include "PreviewPeers.h"
 #include "PreviewWidget.h"
 #include "PrintDialog.h"
 #include "SystemLog.h"
@@ -25,18 +26,15 @@ namespace {
 constexpr int sliderSteps = 201;
 constexpr int quickValues = 100;
 
-/// The names of the window's actions or buttons that switch it on.
-QStringList switchesOf(PreviewConversion conversion)
+/// Has the preview convert its colors, as for a wide screen and a paper with a small gamut.
+void convert(PreviewWidget &preview, PreviewConversion conversion)
 {
-    switch (conversion) {
-    case PreviewConversion::None:
-        return {};
-    case PreviewConversion::ScreenProfile:
-        return {QStringLiteral("screenProfile")};
-    case PreviewConversion::ScreenProfileAndProof:
-        return {QStringLiteral("screenProfile"), QStringLiteral("softProof")};
-    }
-    return {};
+    const bool isOn = conversion != PreviewConversion::None;
+    const bool isProof = conversion == PreviewConversion::ScreenProfileAndProof;
+    preview.setProfiles(isOn ? benchProfile(2.4, 0.21, 0.71) : QByteArray(),
+                        isProof ? benchProfile(1.8, 0.29, 0.55) : QByteArray());
+    while (!preview.isComplete())
+        QCoreApplication::processEvents();
 }
 
 /// Ends the process with a sentence for the table.
@@ -232,12 +230,7 @@ int runPreviewChild(const QStringList &arguments)
         giveUp(dialog.message());
     QSlider *slider = colorSlider(dialog);
     showAtSize(*preview, paints);
-    const QStringList switches = switchesOf(static_cast<PreviewConversion>(arguments.value(1).toInt()));
-    for (const QString &name : switches) {
-        auto *control = dialog.findChild<QObject *>(name);
-        if (!control || !control->setProperty("checked", true))
-            giveUp(QStringLiteral("the window has no control named %1").arg(name));
-    }
+    convert(*preview, static_cast<PreviewConversion>(arguments.value(1).toInt()));
     measureOutside(*slider, *preview);
     paints.settle(100);
     measureSteps(*slider, paints);
