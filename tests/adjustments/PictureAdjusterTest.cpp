@@ -199,6 +199,11 @@ private Q_SLOTS:
             const int off = difference(adjusted(image, {colors}), expected);
             QVERIFY2(off <= 1, qPrintable(QStringLiteral("%1 with seed %2").arg(off).arg(seed)));
         }
+        // Moderate colors have enough bits that hardly any byte is off.
+        const QImage image = picture({40, 31});
+        const QImage expected =
+            mapped(image, [](int, int, QRgb pixel) { return colorsOf(brighter(), pixel); });
+        QVERIFY(differences(adjusted(image, {brighter()}), expected) <= image.sizeInBytes() / 100);
     }
 
     void identityKeepsEachByte()
