@@ -36,3 +36,6 @@ void benchRunner();
 
 /// Photos of three sizes to PDF, beside img2pdf and ImageMagick, with the memory that it takes.
 void benchPdf();
+
+/// What adjusting the preview's picture takes, beside lcms2's own table.
+void benchAdjustments();

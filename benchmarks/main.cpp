@@ -34,6 +34,7 @@ int main(int argc, char *argv[])
                                                          {"panels", benchPanels},
                                                          {"optionpage", benchOptionPage},
                                                          {"preview", benchPreview},
+                                                         {"adjust", benchAdjustments},
                                                          {"runner", benchRunner},
                                                          {"pdf", benchPdf}};
     printHeader();
