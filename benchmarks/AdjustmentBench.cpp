@@ -92,11 +92,12 @@ void benchAdjustments()
     {
         QSize size;
         double mostForColors;
-        double mostForMask;
+        double mostForMask; ///< of the radius that is seen at most, 3 dots
+        double largestRadius;
         double mostForLookup;
-    } sizes[] = {{{900, 600}, 0.5, 3.5, 2.7},
-                 {{1800, 1200}, 2.0, 12.0, 9.0}}; // the second one on a fine screen
-    for (const auto &[size, mostForColors, mostForMask, mostForLookup] : sizes) {
+    } sizes[] = {{{900, 600}, 0.5, 3.5, 3.0, 2.7},
+                 {{1800, 1200}, 2.0, 12.0, 6.0, 9.0}}; // the second one on a fine screen
+    for (const auto &[size, mostForColors, mostForMask, largestRadius, mostForLookup] : sizes) {
         const QImage image = picture(size).convertToFormat(QImage::Format_RGB32);
         const auto what = [&area = size](const QString &step) {
             return QStringLiteral("preview of %1 x %2 pixels, %3")
@@ -112,7 +113,7 @@ void benchAdjustments()
                       {},
                       {},
                       {},
-                      mostForMask});
+                      radius <= largestRadius ? std::optional(mostForMask) : std::nullopt});
         printRow({what(QStringLiteral("photo's profile to the screen's")),
                   timeOf(image, {}, lookup),
                   QStringLiteral("lcms2, 33^3"),
