@@ -8,8 +8,6 @@
 #include <QtCore/QFile>
 #include <QtCore/QFileInfo>
 
-#include <fcntl.h>
-#include <sys/stat.h>
 #include <unistd.h>
 
 #include <climits>
@@ -37,16 +35,8 @@ QString shortened(QString text, qsizetype bytes)
 PrintedNames::PrintedNames(const OutputFolder &folder)
     : folder_(folder)
     , longestName_(longestNameIn(folder.path))
+    , photos_(folder.photos)
 {
-    for (const QString &photo : folder.photos) {
-        const QByteArray path = QFile::encodeName(photo);
-        // A symbolic link to a photo is protected as well.
-        for (const int flags : {0, AT_SYMLINK_NOFOLLOW}) {
-            struct stat status = {};
-            if (::fstatat(AT_FDCWD, path.constData(), &status, flags) == 0)
-                photos_.insert({status.st_dev, status.st_ino});
-        }
-    }
 }
 
 QString PrintedNames::nameFor(const QString &photoPath) const
@@ -64,18 +54,14 @@ QString PrintedNames::nameFor(const QString &photoPath) const
     return name;
 }
 
-/// A name that cannot be examined counts as free: writing to it then reports the reason.
 bool PrintedNames::isFree(const QString &name) const
 {
     if (taken_.contains(name))
         return false;
     for (const QLatin1String suffix : {pageSuffix, ticketSuffix}) {
-        const QByteArray path = QFile::encodeName(folder_.path + QLatin1Char('/') + name + suffix);
-        struct stat status = {};
-        if (::lstat(path.constData(), &status) != 0)
-            continue;
-        // Any other link is replaced itself; its target is not.
-        if (!folder_.isOverwritten || photos_.contains({status.st_dev, status.st_ino}))
+        const auto earlier = photos_.at(folder_.path + QLatin1Char('/') + name + suffix);
+        if (earlier == KeptFiles::Earlier::Kept ||
+            (earlier == KeptFiles::Earlier::Other && !folder_.isOverwritten))
             return false;
     }
     return true;

@@ -3,11 +3,11 @@
 
 #pragma once
 
+#include "KeptFiles.h"
+
 #include <QtCore/QSet>
 #include <QtCore/QString>
 #include <QtCore/QStringList>
-
-#include <utility>
 
 namespace printdialog {
 
@@ -39,13 +39,11 @@ public:
     void markTaken(const QString &name) { taken_.insert(name); }
 
 private:
-    using FileIdentity = std::pair<quint64, quint64>; ///< device and inode
-
     bool isFree(const QString &name) const;
 
     OutputFolder folder_;
     qsizetype longestName_; ///< In bytes, without suffix.
-    QSet<FileIdentity> photos_;
+    KeptFiles photos_;
     QSet<QString> taken_;
 };
 
