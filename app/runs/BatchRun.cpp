@@ -9,7 +9,6 @@
 #include "PhotoList.h"
 #include "PrintedNames.h"
 #include "RequestedSession.h"
-#include "SessionJob.h"
 #include "SummaryLines.h"
 
 #include <QtCore/QJsonArray>
@@ -30,26 +29,14 @@ int BatchRun::run()
     const auto requested = openRequestedSession(commandLine_);
     if (!requested)
         return fail(requested.failure().text);
-    for (const QString &sentence : requested->leftOut)
-        console_.complain(sentence);
+    auto job = jobOfRequested(*requested, console_);
+    if (!job)
+        return fail(job.failure().text);
     DialogSession &session = *requested->session;
-    auto made = jobOf(session, requested->copies);
-    if (!made && made.failure().reason == SessionJobFault::NoPaper)
-        return fail(
-            tr("No page size is chosen. Choose one with -o %1=%2 or another one of "
-               "--list-options.")
-                .arg(session.options().pageSizeKey(), session.options().pageSizes().constFirst().keyword));
-    if (!made)
-        return fail(made.failure().text);
-    if (!made->missing.isEmpty())
-        return fail(Console::oneLine(made->missing));
-    for (const QString &remark : made->remarks)
-        console_.complain(remark);
     if (commandLine_.summary)
         console_.writeLines(summaryLines(jobSummary(session, requested->copies, {commandLine_.placement})));
-    made->job.folder = {commandLine_.outputFolder(), commandLine_.overwrite, commandLine_.photos};
-    return commandLine_.dryRun ? showPlan(*photos, made->job, session.printer().uri)
-                               : printAll(*photos, made->job);
+    job->folder = {commandLine_.outputFolder(), commandLine_.overwrite, commandLine_.photos};
+    return commandLine_.dryRun ? showPlan(*photos, *job, session.printer().uri) : printAll(*photos, *job);
 }
 
 int BatchRun::showPlan(PhotoList &photos, const PrintJob &job, const QString &uri)

@@ -10,6 +10,7 @@
 #include "PresetStore.h"
 #include "PrinterLister.h"
 #include "QueueList.h"
+#include "SessionJob.h"
 #include "SessionOpening.h"
 #include "UsedChoices.h"
 #include "UserDestinations.h"
@@ -191,6 +192,26 @@ Result<RequestedSession, std::monostate> openRequestedSession(const CommandLine 
     }
     requested.leftOut += requested.session->restoreFailures();
     return requested;
+}
+
+Result<PrintJob, std::monostate> jobOfRequested(const RequestedSession &requested, Console &console)
+{
+    for (const QString &sentence : requested.leftOut)
+        console.complain(sentence);
+    DialogSession &session = *requested.session;
+    auto made = jobOf(session, requested.copies);
+    if (!made && made.failure().reason == SessionJobFault::NoPaper)
+        return refusal(
+            SessionText::tr("No page size is chosen. Choose one with -o %1=%2 or another one of "
+                            "--list-options.")
+                .arg(session.options().pageSizeKey(), session.options().pageSizes().constFirst().keyword));
+    if (!made)
+        return refusal(made.failure().text);
+    if (!made->missing.isEmpty())
+        return refusal(Console::oneLine(made->missing));
+    for (const QString &remark : made->remarks)
+        console.complain(remark);
+    return made->job;
 }
 
 } // namespace printdialog

@@ -5,11 +5,14 @@
 
 #include "CommandLine.h"
 #include "DialogSession.h"
+#include "PrintJob.h"
 
 #include <memory>
 #include <variant>
 
 namespace printdialog {
+
+class Console;
 
 /// A session with the choices of the command line.
 struct RequestedSession
@@ -31,5 +34,9 @@ struct RequestedSession
 /// failure, and so is any option that is refused. A failure is a sentence: its reasons come from too many
 /// parts (the print server, the PPD, the plug-in, a choice) for one useful enumeration.
 Result<RequestedSession, std::monostate> openRequestedSession(const CommandLine &commandLine);
+
+/// The job of its choices, which are checked together. Complains about what is left out. Any choice that
+/// conflicts or is missing is a failure, since nobody can be asked: a sentence.
+Result<PrintJob, std::monostate> jobOfRequested(const RequestedSession &requested, Console &console);
 
 } // namespace printdialog

@@ -30,10 +30,6 @@
         <source>Canceled; the jobs already sent were canceled, too.</source>
         <translation>Abgebrochen; die gesendeten Aufträge wurden vom Drucker zurückgenommen.</translation>
     </message>
-    <message>
-        <source>No page size is chosen. Choose one with -o %1=%2 or another one of --list-options.</source>
-        <translation>Es ist kein Papierformat gewählt. Wählen Sie eines mit -o %1=%2 oder ein anderes aus --list-options.</translation>
-    </message>
 </context>
 <context>
     <name>ChoiceMarker</name>
@@ -1293,6 +1289,10 @@ Standardwarteschlange oder der eingebaute Drucker</translation>
     <message>
         <source>Of the printer&apos;s defaults is left out: %1</source>
         <translation>Vom Standard des Druckers bleibt weg: %1</translation>
+    </message>
+    <message>
+        <source>No page size is chosen. Choose one with -o %1=%2 or another one of --list-options.</source>
+        <translation>Es ist kein Papierformat gewählt. Wählen Sie eines mit -o %1=%2 oder ein anderes aus --list-options.</translation>
     </message>
 </context>
 <context>

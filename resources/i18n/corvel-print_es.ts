@@ -30,10 +30,6 @@
         <source>Canceled; the jobs already sent were canceled, too.</source>
         <translation>Cancelado; los trabajos enviados se han retirado de la impresora.</translation>
     </message>
-    <message>
-        <source>No page size is chosen. Choose one with -o %1=%2 or another one of --list-options.</source>
-        <translation>No se ha elegido ningún tamaño de papel. Elija uno con -o %1=%2 u otro de --list-options.</translation>
-    </message>
 </context>
 <context>
     <name>ChoiceMarker</name>
@@ -1292,6 +1288,10 @@ predeterminada o, si no hay, la integrada</translation>
     <message>
         <source>Of the printer&apos;s defaults is left out: %1</source>
         <translation>De los valores predeterminados de la impresora se omite: %1</translation>
+    </message>
+    <message>
+        <source>No page size is chosen. Choose one with -o %1=%2 or another one of --list-options.</source>
+        <translation>No se ha elegido ningún tamaño de papel. Elija uno con -o %1=%2 u otro de --list-options.</translation>
     </message>
 </context>
 <context>

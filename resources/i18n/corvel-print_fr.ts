@@ -30,10 +30,6 @@
         <source>Canceled; the jobs already sent were canceled, too.</source>
         <translation>Annulé&#xa0;; les tâches envoyées ont été retirées de l’imprimante.</translation>
     </message>
-    <message>
-        <source>No page size is chosen. Choose one with -o %1=%2 or another one of --list-options.</source>
-        <translation>Aucun format de papier n’est choisi. Choisissez-en un avec -o %1=%2 ou un autre de --list-options.</translation>
-    </message>
 </context>
 <context>
     <name>ChoiceMarker</name>
@@ -1293,6 +1289,10 @@ votre file par défaut, ou à défaut l’imprimante intégrée</translation>
     <message>
         <source>Of the printer&apos;s defaults is left out: %1</source>
         <translation>Des valeurs par défaut de l’imprimante est laissé de côté&#x202f;: %1</translation>
+    </message>
+    <message>
+        <source>No page size is chosen. Choose one with -o %1=%2 or another one of --list-options.</source>
+        <translation>Aucun format de papier n’est choisi. Choisissez-en un avec -o %1=%2 ou un autre de --list-options.</translation>
     </message>
 </context>
 <context>

@@ -30,10 +30,6 @@
         <source>Canceled; the jobs already sent were canceled, too.</source>
         <translation>中止しました。送信したジョブはプリンターから取り消しました。</translation>
     </message>
-    <message>
-        <source>No page size is chosen. Choose one with -o %1=%2 or another one of --list-options.</source>
-        <translation>用紙サイズが選ばれていません。-o %1=%2 か、--list-options にあるほかのサイズを指定してください。</translation>
-    </message>
 </context>
 <context>
     <name>ChoiceMarker</name>
@@ -1291,6 +1287,10 @@ QUEUE/プリセット。プリントサーバーを使わない場合はプリ�
     <message>
         <source>Of the printer&apos;s defaults is left out: %1</source>
         <translation>プリンターの既定値のうち次は使われません: %1</translation>
+    </message>
+    <message>
+        <source>No page size is chosen. Choose one with -o %1=%2 or another one of --list-options.</source>
+        <translation>用紙サイズが選ばれていません。-o %1=%2 か、--list-options にあるほかのサイズを指定してください。</translation>
     </message>
 </context>
 <context>
