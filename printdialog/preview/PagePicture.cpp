@@ -5,6 +5,7 @@
 
 #include "PagePainter.h"
 
+#include <QtGui/QColorSpace>
 #include <QtGui/QPainter>
 
 namespace printdialog {
@@ -38,6 +39,12 @@ QImage pagePicture(const PagePictureRequest &request, int longestSide)
     picture.fill(Qt::white);
     QPainter canvas(&picture);
     painter.paint(canvas, view, {});
+    canvas.end();
+    constexpr double inchesPerMeter = 1 / 0.0254;
+    const int dotsPerMeter = qRound(view.pixelsPerInch() * inchesPerMeter);
+    picture.setDotsPerMeterX(dotsPerMeter);
+    picture.setDotsPerMeterY(dotsPerMeter);
+    picture.setColorSpace(QColorSpace::SRgb);
     return picture;
 }
 

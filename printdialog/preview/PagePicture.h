@@ -23,8 +23,8 @@ struct PagePictureRequest
     QByteArray paperProfile;  ///< the ICC profile of the paper whose colors are shown; empty for none
 };
 
-/// The entire page as the window's preview shows it, in sRGB, on white. A null image when the photo cannot be
-/// decoded, or the page is not usable. Takes a fraction of a second.
+/// The entire page as the window's preview shows it, in sRGB, on white, with its size on paper. A null image
+/// when the photo cannot be decoded, or the page is not usable. Takes a fraction of a second.
 /// @param longestSide of the picture, in pixels
 QImage pagePicture(const PagePictureRequest &request, int longestSide);
 
