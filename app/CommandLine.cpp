@@ -68,7 +68,8 @@ constexpr std::array optionRows = {
     OptionRow{"overwrite", nullptr,
               QT_TRANSLATE_NOOP("CommandLine",
                                 "--batch replaces files that the built-in printer has left before,\n"
-                                "instead of numbering the new ones; a photo is never replaced")},
+                                "instead of numbering the new ones, and --preview earlier pictures;\n"
+                                "a photo is never replaced")},
     OptionRow{"batch", nullptr,
               QT_TRANSLATE_NOOP("CommandLine",
                                 "no window: apply the options, print, exit; what the window has\n"
@@ -96,6 +97,10 @@ constexpr std::array optionRows = {
                                 "show the job in words: the paper, the copies, the placement and\n"
                                 "what the panels say; with --batch as well as printing")},
     OptionRow{"json", nullptr, QT_TRANSLATE_NOOP("CommandLine", "lists, summary and --dry-run as JSON")},
+    OptionRow{"preview", "FILE.png",
+              QT_TRANSLATE_NOOP("CommandLine",
+                                "save a picture of the page as the window shows it, 1200 pixels on its\n"
+                                "longer side, and exit; of further photos in FILE-2.png, FILE-3.png, ...")},
     OptionRow{"screenshot", "DIR",
               QT_TRANSLATE_NOOP("CommandLine", "save a picture of the dialog with each panel in DIR, exit")},
     OptionRow{"h,help", nullptr, QT_TRANSLATE_NOOP("CommandLine", "show this help")},
@@ -192,6 +197,18 @@ Fault readCopies(const QCommandLineParser &parser, std::optional<int> &copies)
     return std::nullopt;
 }
 
+Fault readPreview(const QCommandLineParser &parser, std::optional<QString> &preview)
+{
+    if (Fault found = readValue(parser, "preview", preview); found || !preview)
+        return found;
+    static const QRegularExpression picture(QStringLiteral("[^/]\\.png\\z"),
+                                            QRegularExpression::CaseInsensitiveOption);
+    if (preview->contains(picture))
+        return std::nullopt;
+    return fault(UsageFault::Value,
+                 Text::tr("\"%1\" is not the name of a picture. Give one that ends in .png.").arg(*preview));
+}
+
 /// File managers pass URLs. But a file may also have such a name.
 Fault readPhotos(const QStringList &arguments, QStringList &photos)
 {
@@ -284,6 +301,8 @@ QStringList tasksOf(const CommandLine &line)
         tasks.append(QStringLiteral("--list-options"));
     if (line.screenshot)
         tasks.append(QStringLiteral("--screenshot"));
+    if (line.preview)
+        tasks.append(QStringLiteral("--preview"));
     if (line.dryRun && !line.batch)
         tasks.append(QStringLiteral("--dry-run"));
     if (line.summary && !line.batch && !line.dryRun)
@@ -307,12 +326,15 @@ Fault contradiction(const CommandLine &line)
         return fault(UsageFault::Missing, Text::tr("--batch needs a photo to print."));
     if (line.dryRun && line.photos.isEmpty())
         return fault(UsageFault::Missing, Text::tr("--dry-run needs a photo."));
-    if (line.json && !line.dryRun && (line.batch || line.screenshot || tasks.isEmpty())) {
+    if (line.preview && line.photos.isEmpty())
+        return fault(UsageFault::Missing, Text::tr("--preview needs a photo."));
+    if (line.json && !line.dryRun && (line.batch || line.screenshot || line.preview || tasks.isEmpty())) {
         return fault(UsageFault::Combination,
                      Text::tr("--json is for --list-printers, --list-options, --summary and --dry-run."));
     }
-    if (line.overwrite && !line.batch && !line.dryRun)
-        return fault(UsageFault::Combination, Text::tr("--overwrite is for --batch and --dry-run."));
+    if (line.overwrite && !line.batch && !line.dryRun && !line.preview)
+        return fault(UsageFault::Combination,
+                     Text::tr("--overwrite is for --batch, --dry-run and --preview."));
     if (line.wait && !line.batch)
         return fault(UsageFault::Combination, Text::tr("--wait is for --batch."));
     if (!line.checks && !line.batch && !line.dryRun)
@@ -356,8 +378,8 @@ Result<CommandLine, UsageFault> CommandLine::parse(const QStringList &arguments)
          {readPhotos(parser.positionalArguments(), line.photos), readCopies(parser, line.copies),
           readValue(parser, "printer", line.printer), readValue(parser, "ppd", line.ppd),
           readValue(parser, "output", line.output), readTitle(parser, line),
-          readValue(parser, "screenshot", line.screenshot), readServer(parser, line.server),
-          readWait(parser, line.wait), readMode(parser, line.mode),
+          readValue(parser, "screenshot", line.screenshot), readPreview(parser, line.preview),
+          readServer(parser, line.server), readWait(parser, line.wait), readMode(parser, line.mode),
           readScaling(parser, line.placement.scaling), readCrop(parser, line.placement),
           readChoices(parser, line.options), contradiction(line)}) {
         if (found)

@@ -39,8 +39,9 @@ struct RequestedChoice
     QString choice; ///< any text that may stand for a choice, not checked yet
 };
 
-/// The program's task. A plain value. At most one of batch, listPrinters, listOptions and screenshot is set;
-/// summary and dryRun are each set alone or together with batch. Without any of them, the window is shown.
+/// The program's task. A plain value. At most one of batch, preview, listPrinters, listOptions and screenshot
+/// is set; summary and dryRun are each set alone or together with batch. Without any of them, the window is
+/// shown.
 struct CommandLine
 {
     QStringList photos;                 ///< paths; file URLs are converted
@@ -52,7 +53,7 @@ struct CommandLine
     std::optional<int> copies;      ///< of each photo, from 1 to mostCopies
     PlacementChoice placement;      ///< of each photo on its page
     std::optional<QString> output;  ///< the folder of the built-in printer's files
-    bool overwrite = false;         ///< the built-in printer replaces files of an earlier run
+    bool overwrite = false;         ///< files of an earlier run are replaced
     bool batch = false;
     bool dryRun = false;
     bool checks = true;            ///< whether damaged photos are left out
@@ -64,6 +65,7 @@ struct CommandLine
     bool summary = false;
     bool json = false;
     std::optional<QString> screenshot; ///< the folder for the pictures
+    std::optional<QString> preview;    ///< the file for the first photo's page; ends in .png
     bool help = false;
     bool version = false;
 
@@ -83,7 +85,10 @@ struct CommandLine
     /// window, "Prints" in the user's pictures folder.
     QString outputFolder() const;
     /// Whether the task shows no widget, on a screen or in a picture.
-    bool runsWithoutWindow() const { return batch || dryRun || listPrinters || listOptions || summary; }
+    bool runsWithoutWindow() const
+    {
+        return batch || dryRun || preview || listPrinters || listOptions || summary;
+    }
 };
 
 } // namespace printdialog

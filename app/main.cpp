@@ -6,6 +6,7 @@
 #include "CommandLine.h"
 #include "Console.h"
 #include "Listings.h"
+#include "PreviewRun.h"
 #include "QuietDecoding.h"
 #include "QuietFeedback.h"
 #include "ScreenshotRun.h"
@@ -164,6 +165,7 @@ int runWithoutWindow(const CommandLine &commandLine)
     askLoginsOnTerminal();
     Console console;
     const int status = commandLine.batch || commandLine.dryRun ? BatchRun(commandLine, console).run()
+                       : commandLine.preview                   ? savePreviews(commandLine, console)
                        : commandLine.listPrinters              ? listPrinters(commandLine, console)
                        : commandLine.listOptions               ? listOptions(commandLine, console)
                                                                : showSummary(commandLine, console);

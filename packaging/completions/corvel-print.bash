@@ -53,6 +53,10 @@ _corvel_print()
             _filedir '@(ppd|PPD)'
             return
             ;;
+        --preview)
+            _filedir '@(png|PNG)'
+            return
+            ;;
         --output | --screenshot)
             _filedir -d
             return

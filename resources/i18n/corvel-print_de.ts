@@ -219,16 +219,6 @@ folder; with a window, Prints in your Pictures folder)</source>
 Ordner; mit Fenster unter Prints in Ihrem Bilderordner)</translation>
     </message>
     <message>
-        <source>--batch replaces files that the built-in printer has left before,
-instead of numbering the new ones; a photo is never replaced</source>
-        <translation>--batch ersetzt frühere Dateien des eingebauten Druckers, statt
-die neuen zu nummerieren; ein Foto wird nie ersetzt</translation>
-    </message>
-    <message>
-        <source>--overwrite is for --batch and --dry-run.</source>
-        <translation>--overwrite ist für --batch und --dry-run.</translation>
-    </message>
-    <message>
         <source>how many copies of each photo; otherwise the preset&apos;s, or 1</source>
         <translation>wie oft jedes Foto gedruckt wird; sonst wie in der Voreinstellung, oder 1</translation>
     </message>
@@ -316,6 +306,32 @@ Standardwarteschlange oder der eingebaute Drucker</translation>
     <message>
         <source>--title is for print queues; the built-in printer names its files after the photos.</source>
         <translation>--title ist für Warteschlangen; der eingebaute Drucker benennt seine Dateien nach den Fotos.</translation>
+    </message>
+    <message>
+        <source>--batch replaces files that the built-in printer has left before,
+instead of numbering the new ones, and --preview earlier pictures;
+a photo is never replaced</source>
+        <translation>--batch ersetzt frühere Dateien des eingebauten Druckers, statt
+die neuen zu nummerieren, und --preview frühere Bilder;
+ein Foto wird nie ersetzt</translation>
+    </message>
+    <message>
+        <source>save a picture of the page as the window shows it, 1200 pixels on its
+longer side, and exit; of further photos in FILE-2.png, FILE-3.png, ...</source>
+        <translation>ein Bild der Seite speichern, wie das Fenster sie zeigt, 1200 Pixel an
+der längeren Seite, und beenden; weitere Fotos in FILE-2.png, FILE-3.png, ...</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not the name of a picture. Give one that ends in .png.</source>
+        <translation>„%1“ ist kein Name für ein Bild. Geben Sie einen an, der auf .png endet.</translation>
+    </message>
+    <message>
+        <source>--preview needs a photo.</source>
+        <translation>--preview braucht ein Foto.</translation>
+    </message>
+    <message>
+        <source>--overwrite is for --batch, --dry-run and --preview.</source>
+        <translation>--overwrite ist für --batch, --dry-run und --preview.</translation>
     </message>
 </context>
 <context>
@@ -1085,6 +1101,25 @@ Standardwarteschlange oder der eingebaute Drucker</translation>
     <message>
         <source>The PPD seems to be cut off in line %1.</source>
         <translation>Die PPD-Datei scheint in Zeile %1 abgeschnitten zu sein.</translation>
+    </message>
+</context>
+<context>
+    <name>PreviewRun</name>
+    <message>
+        <source>&quot;%1&quot; is already there. Choose another name, or replace it with --overwrite.</source>
+        <translation>„%1“ ist schon da. Wählen Sie einen anderen Namen, oder ersetzen Sie es mit --overwrite.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is one of the photos, which are never replaced. Choose another name.</source>
+        <translation>„%1“ ist eines der Fotos, und die werden nie ersetzt. Wählen Sie einen anderen Namen.</translation>
+    </message>
+    <message>
+        <source>The name &quot;%1&quot; is too long. Choose a shorter one.</source>
+        <translation>Der Name „%1“ ist zu lang. Wählen Sie einen kürzeren.</translation>
+    </message>
+    <message>
+        <source>Preview of %1: %2</source>
+        <translation>Vorschau von %1: %2</translation>
     </message>
 </context>
 <context>

@@ -219,16 +219,6 @@ folder; with a window, Prints in your Pictures folder)</source>
 actual; con ventana, en Prints de su carpeta de imágenes)</translation>
     </message>
     <message>
-        <source>--batch replaces files that the built-in printer has left before,
-instead of numbering the new ones; a photo is never replaced</source>
-        <translation>--batch reemplaza los archivos que la impresora integrada dejó antes
-en lugar de numerar los nuevos; una foto nunca se reemplaza</translation>
-    </message>
-    <message>
-        <source>--overwrite is for --batch and --dry-run.</source>
-        <translation>--overwrite es para --batch y --dry-run.</translation>
-    </message>
-    <message>
         <source>how many copies of each photo; otherwise the preset&apos;s, or 1</source>
         <translation>cuántas copias de cada foto; si no, las del preajuste, o 1</translation>
     </message>
@@ -315,6 +305,32 @@ predeterminada o, si no hay, la integrada</translation>
     <message>
         <source>--title is for print queues; the built-in printer names its files after the photos.</source>
         <translation>--title es para colas de impresión; la impresora integrada nombra sus archivos según las fotos.</translation>
+    </message>
+    <message>
+        <source>--batch replaces files that the built-in printer has left before,
+instead of numbering the new ones, and --preview earlier pictures;
+a photo is never replaced</source>
+        <translation>--batch reemplaza los archivos que la impresora integrada dejó antes
+en lugar de numerar los nuevos, y --preview las imágenes anteriores;
+una foto nunca se reemplaza</translation>
+    </message>
+    <message>
+        <source>save a picture of the page as the window shows it, 1200 pixels on its
+longer side, and exit; of further photos in FILE-2.png, FILE-3.png, ...</source>
+        <translation>guardar una imagen de la página como la muestra la ventana, de 1200 píxeles
+en su lado mayor, y salir; las demás fotos en FILE-2.png, FILE-3.png, ...</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not the name of a picture. Give one that ends in .png.</source>
+        <translation>«%1» no es un nombre de imagen. Indique uno que termine en .png.</translation>
+    </message>
+    <message>
+        <source>--preview needs a photo.</source>
+        <translation>--preview necesita una foto.</translation>
+    </message>
+    <message>
+        <source>--overwrite is for --batch, --dry-run and --preview.</source>
+        <translation>--overwrite es para --batch, --dry-run y --preview.</translation>
     </message>
 </context>
 <context>
@@ -1084,6 +1100,25 @@ predeterminada o, si no hay, la integrada</translation>
     <message>
         <source>The PPD seems to be cut off in line %1.</source>
         <translation>El PPD parece estar cortado en la línea %1.</translation>
+    </message>
+</context>
+<context>
+    <name>PreviewRun</name>
+    <message>
+        <source>&quot;%1&quot; is already there. Choose another name, or replace it with --overwrite.</source>
+        <translation>«%1» ya existe. Elija otro nombre o reemplácelo con --overwrite.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is one of the photos, which are never replaced. Choose another name.</source>
+        <translation>«%1» es una de las fotos, que nunca se reemplazan. Elija otro nombre.</translation>
+    </message>
+    <message>
+        <source>The name &quot;%1&quot; is too long. Choose a shorter one.</source>
+        <translation>El nombre «%1» es demasiado largo. Elija uno más corto.</translation>
+    </message>
+    <message>
+        <source>Preview of %1: %2</source>
+        <translation>Vista previa de %1: %2</translation>
     </message>
 </context>
 <context>

@@ -219,16 +219,6 @@ folder; with a window, Prints in your Pictures folder)</source>
 courant&#x202f;; avec une fenêtre, Prints dans votre dossier Images)</translation>
     </message>
     <message>
-        <source>--batch replaces files that the built-in printer has left before,
-instead of numbering the new ones; a photo is never replaced</source>
-        <translation>--batch remplace les fichiers déjà laissés par l’imprimante intégrée
-au lieu de numéroter les nouveaux&#x202f;; une photo n’est jamais remplacée</translation>
-    </message>
-    <message>
-        <source>--overwrite is for --batch and --dry-run.</source>
-        <translation>--overwrite va avec --batch et --dry-run.</translation>
-    </message>
-    <message>
         <source>how many copies of each photo; otherwise the preset&apos;s, or 1</source>
         <translation>nombre d’exemplaires de chaque photo&#x202f;; sinon celui du préréglage, ou 1</translation>
     </message>
@@ -316,6 +306,33 @@ votre file par défaut, ou à défaut l’imprimante intégrée</translation>
     <message>
         <source>--title is for print queues; the built-in printer names its files after the photos.</source>
         <translation>--title est pour les files d’attente&#x202f;; l’imprimante intégrée nomme ses fichiers d’après les photos.</translation>
+    </message>
+    <message>
+        <source>--batch replaces files that the built-in printer has left before,
+instead of numbering the new ones, and --preview earlier pictures;
+a photo is never replaced</source>
+        <translation>--batch remplace les fichiers déjà laissés par l’imprimante intégrée
+au lieu de numéroter les nouveaux, et --preview les images déjà là&#x202f;;
+une photo n’est jamais remplacée</translation>
+    </message>
+    <message>
+        <source>save a picture of the page as the window shows it, 1200 pixels on its
+longer side, and exit; of further photos in FILE-2.png, FILE-3.png, ...</source>
+        <translation>enregistrer une image de la page telle que la fenêtre la montre, 1200 pixels
+sur le grand côté, et quitter&#x202f;; les photos suivantes dans FILE-2.png,
+FILE-3.png, ...</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not the name of a picture. Give one that ends in .png.</source>
+        <translation>«&#x202f;%1&#x202f;» n’est pas un nom d’image. Indiquez-en un qui se termine par .png.</translation>
+    </message>
+    <message>
+        <source>--preview needs a photo.</source>
+        <translation>--preview a besoin d’une photo.</translation>
+    </message>
+    <message>
+        <source>--overwrite is for --batch, --dry-run and --preview.</source>
+        <translation>--overwrite va avec --batch, --dry-run et --preview.</translation>
     </message>
 </context>
 <context>
@@ -1085,6 +1102,25 @@ votre file par défaut, ou à défaut l’imprimante intégrée</translation>
     <message>
         <source>The PPD seems to be cut off in line %1.</source>
         <translation>Le PPD semble être coupé à la ligne %1.</translation>
+    </message>
+</context>
+<context>
+    <name>PreviewRun</name>
+    <message>
+        <source>&quot;%1&quot; is already there. Choose another name, or replace it with --overwrite.</source>
+        <translation>«&#x202f;%1&#x202f;» existe déjà. Choisissez un autre nom, ou remplacez-le avec --overwrite.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is one of the photos, which are never replaced. Choose another name.</source>
+        <translation>«&#x202f;%1&#x202f;» est l’une des photos, qui ne sont jamais remplacées. Choisissez un autre nom.</translation>
+    </message>
+    <message>
+        <source>The name &quot;%1&quot; is too long. Choose a shorter one.</source>
+        <translation>Le nom «&#x202f;%1&#x202f;» est trop long. Choisissez-en un plus court.</translation>
+    </message>
+    <message>
+        <source>Preview of %1: %2</source>
+        <translation>Aperçu de %1&#x202f;: %2</translation>
     </message>
 </context>
 <context>

@@ -219,16 +219,6 @@ folder; with a window, Prints in your Pictures folder)</source>
 ウィンドウでは画像フォルダーの Prints)</translation>
     </message>
     <message>
-        <source>--batch replaces files that the built-in printer has left before,
-instead of numbering the new ones; a photo is never replaced</source>
-        <translation>--batch で、内蔵プリンターが以前に保存したファイルを番号を付けずに
-置き換えます (写真が置き換えられることはありません)</translation>
-    </message>
-    <message>
-        <source>--overwrite is for --batch and --dry-run.</source>
-        <translation>--overwrite は --batch と --dry-run 用です。</translation>
-    </message>
-    <message>
         <source>how many copies of each photo; otherwise the preset&apos;s, or 1</source>
         <translation>各写真の部数 (省略するとプリセットの部数、または 1)</translation>
     </message>
@@ -315,6 +305,32 @@ QUEUE/プリセット。プリントサーバーを使わない場合はプリ�
     <message>
         <source>--title is for print queues; the built-in printer names its files after the photos.</source>
         <translation>--title は印刷キュー用です。内蔵プリンターはファイルに写真の名前を付けます。</translation>
+    </message>
+    <message>
+        <source>--batch replaces files that the built-in printer has left before,
+instead of numbering the new ones, and --preview earlier pictures;
+a photo is never replaced</source>
+        <translation>--batch で、内蔵プリンターが以前に保存したファイルを番号を付けずに
+置き換え、--preview で以前の画像を置き換えます
+(写真が置き換えられることはありません)</translation>
+    </message>
+    <message>
+        <source>save a picture of the page as the window shows it, 1200 pixels on its
+longer side, and exit; of further photos in FILE-2.png, FILE-3.png, ...</source>
+        <translation>ウィンドウに表示されるとおりのページの画像 (長辺 1200 ピクセル) を
+保存して終了する。2 枚目以降の写真は FILE-2.png、FILE-3.png ... に保存</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not the name of a picture. Give one that ends in .png.</source>
+        <translation>「%1」は画像の名前ではありません。.png で終わる名前を指定してください。</translation>
+    </message>
+    <message>
+        <source>--preview needs a photo.</source>
+        <translation>--preview には写真が必要です。</translation>
+    </message>
+    <message>
+        <source>--overwrite is for --batch, --dry-run and --preview.</source>
+        <translation>--overwrite は --batch、--dry-run、--preview 用です。</translation>
     </message>
 </context>
 <context>
@@ -1083,6 +1099,25 @@ QUEUE/プリセット。プリントサーバーを使わない場合はプリ�
     <message>
         <source>The PPD seems to be cut off in line %1.</source>
         <translation>PPD は %1 行目で途切れているようです。</translation>
+    </message>
+</context>
+<context>
+    <name>PreviewRun</name>
+    <message>
+        <source>&quot;%1&quot; is already there. Choose another name, or replace it with --overwrite.</source>
+        <translation>「%1」はすでにあります。別の名前を指定するか、--overwrite で置き換えてください。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is one of the photos, which are never replaced. Choose another name.</source>
+        <translation>「%1」は写真のひとつであり、写真が置き換えられることはありません。別の名前を指定してください。</translation>
+    </message>
+    <message>
+        <source>The name &quot;%1&quot; is too long. Choose a shorter one.</source>
+        <translation>名前「%1」が長すぎます。もっと短い名前を指定してください。</translation>
+    </message>
+    <message>
+        <source>Preview of %1: %2</source>
+        <translation>%1 のプレビュー: %2</translation>
     </message>
 </context>
 <context>

@@ -192,12 +192,43 @@ class CommandLineTest(ProgramTest):
         run("--ppd", SIBLING_PPD, "--screenshot", folder, PHOTO, LANG="es_ES.UTF-8", LC_ALL="")
         self.assertEqual(top_left(folder / "coloradjust.png"), top_left(folder / "matte.png"))
 
+    def test_saves_pictures_of_pages(self):
+        first = self.out / "page.png"
+
+        def preview(*arguments):
+            return run("--preview", first, *arguments)
+
+        self.assert_refused(preview("-o", "Red=99", PHOTO), 1, '"Red"')
+        self.assertFalse(self.out.exists())
+        bad = self.stored("bad.jpg", b"no photo"), self.stored("damaged.png", damaged_png())
+        done = preview(PHOTO, bad[0], PHOTO, bad[1], PHOTO)
+        self.assertEqual((done.status, done.out.count("\n"), done.err.count("\n")), (1, 3, 2))
+        for line, photo in zip(done.err.splitlines(), bad):
+            self.assertIn(photo.name, line)
+        self.assertEqual(self.names(), ["page-3.png", "page-5.png", "page.png"])
+        plain = first.read_bytes()
+        self.assertEqual((self.out / "page-5.png").read_bytes(), plain)
+        self.assert_refused(preview("-o", "Red=9", PHOTO), 1, "page.png", "--overwrite")
+        self.assertEqual(first.read_bytes(), plain)
+        self.assert_quiet(preview("--overwrite", "-o", "Red=9", PHOTO))
+        self.assertNotEqual(first.read_bytes(), plain)
+        # Also when only a later name is taken.
+        first.unlink()
+        self.assert_refused(preview(PHOTO, PHOTO, PHOTO), 1, "page-3.png")
+        self.assertFalse(first.exists())
+        # A photo that has the picture's name, and one that has it as a second name.
+        photo = self.stored("photo.jpg", JPEG)
+        first.hardlink_to(photo)
+        for named in first, photo:
+            self.assert_refused(preview("--overwrite", named), 1, "page.png", "photos")
+        self.assertEqual(photo.read_bytes(), JPEG)
+
     def test_help_and_version_go_to_standard_output(self):
         done = run("--help")
         self.assertEqual(done.status, 0)
         for part in ("--printer QUEUE", "--ppd FILE", "--mode constraint|settings", "-o, --option KEY=CHOICE",
                      "--output DIR", "--batch", "--list-printers", "--list-options", "--summary", "--json",
-                     "--screenshot DIR", "--version"):
+                     "--preview FILE.png", "--screenshot DIR", "--version"):
             self.assertIn(part, done.out)
         self.assertTrue(run("--version").out.startswith("corvel-print "))
 

@@ -282,6 +282,28 @@ private Q_SLOTS:
         }
     }
 
+    // A printer without a PPD places the photo itself.
+    void previews()
+    {
+        const auto pictureOf = [this](const QString &queue, const QStringList &options) {
+            const QString file = home_.filePath(u"page.png"_s);
+            const ProgramRun run = runProgram(options + QStringList{u"--printer"_s, queue, u"--preview"_s,
+                                                                    file, u"--overwrite"_s, uprightPhoto()});
+            if (run.status == 0 && run.err.isEmpty())
+                return contentOf(file);
+            qWarning("%s", run.err.constData());
+            return QByteArray();
+        };
+        const QStringList filled = {u"--scaling"_s,    u"fill"_s, u"-o"_s,
+                                    u"PageSize=5x7"_s, u"-o"_s,   u"Red=9"_s};
+        const QByteArray picture = pictureOf(u"photo"_s, filled);
+        QVERIFY(!picture.isEmpty() && picture != pictureOf(u"photo"_s, {}));
+        QCOMPARE(picture, pictureOf(u"built-in"_s, filled));
+        const QByteArray raw = pictureOf(u"raw"_s, {});
+        QVERIFY(!raw.isEmpty());
+        QCOMPARE(pictureOf(u"raw"_s, {u"--scaling"_s, u"actual"_s, u"--crop"_s, u"0,0"_s}), raw);
+    }
+
     void dryRunOfTheBuiltInPrinter()
     {
         const QStringList arguments = {u"--printer"_s,           u"built-in"_s, u"--output"_s,

@@ -46,6 +46,12 @@ USAGE = (
     (["--server", ":631", PHOTO], '":631"'),
     (["--server", "host:99999", PHOTO], "host:99999"),
     (["--server", "host/ipp print", PHOTO], "HOST:PORT"),
+    (["--preview", "a.jpg", PHOTO], '"a.jpg"'),
+    (["--preview", "prints/.png", PHOTO], '"prints/.png"'),
+    (["--preview", "a.png"], "--preview"),
+    (["--preview", "a.png", "--json", PHOTO], "--json"),
+    *((["--preview", "a.png", *other, PHOTO], "exclude") for other in (
+        ["--batch"], ["--list-options"], ["--screenshot", "d"], ["--dry-run"], ["--summary"])),
     (["--json", "--summary", "--batch", PHOTO], "--json"))
 CHOICES = (  # options, words, modes
     (["Red=99"], ['"Red"', '"99"', "-25 to 25"], MODES),
