@@ -6,6 +6,14 @@
 #include "Lanes.h"
 
 #include <cmath>
+#include <cstring>
+
+// Processors have wider vectors than those that every one of them has.
+#if defined(__x86_64__) && defined(__linux__)
+#define CORVEL_VECTOR_CLONES __attribute__((target_clones("avx2", "default")))
+#else
+#define CORVEL_VECTOR_CLONES
+#endif
 
 namespace printdialog {
 namespace {
@@ -42,25 +50,34 @@ Ints sharpened(Ints pixels, Floats difference)
     return result(16) | result(8) | result(0) | static_cast<int>(0xff000000);
 }
 
-/// The weighted means of what `before(t)` and `after(t)` point to, t places from the middle.
-template <class Before, class After>
-void blur(const std::vector<float> &weights, const Before &before, const After &after, float *to,
-          std::size_t count)
+/// The weighted means of numbers and of those that lie 1, 2, ... places to both sides of them: the row `to`
+/// gets weights[0] * before[0] + weights[t] * (before[t] + after[t]). Half of a preview's time is spent here,
+/// so there is a version for processors with wider vectors; its results are the same.
+/// @param count of the numbers, in steps
+CORVEL_VECTOR_CLONES void blur(const std::vector<float> &weights, const std::vector<const float *> &before,
+                               const std::vector<const float *> &after, float *to, std::size_t count)
 {
+    using Wide = float __attribute__((vector_size(32)));
+    constexpr std::size_t lanesOfWide = sizeof(Wide) / sizeof(float);
+    constexpr std::size_t parts = step / lanesOfWide;
+    const std::size_t places = weights.size();
     for (std::size_t x = 0; x < count; x += step) {
-        Floats sums[step / 4];
-        for (std::size_t i = 0; i < std::size(sums); ++i)
-            sums[i] = lanes::loaded<Floats>(before(0) + x + 4 * i) * weights[0];
-        for (std::size_t t = 1; t < weights.size(); ++t) {
-            const float *left = before(t) + x;
-            const float *right = after(t) + x;
-            const float weight = weights[t];
-            for (std::size_t i = 0; i < std::size(sums); ++i)
-                sums[i] +=
-                    (lanes::loaded<Floats>(left + 4 * i) + lanes::loaded<Floats>(right + 4 * i)) * weight;
+        Wide sums[parts];
+        for (std::size_t i = 0; i < parts; ++i) {
+            std::memcpy(&sums[i], before[0] + x + lanesOfWide * i, sizeof(Wide));
+            sums[i] *= weights[0];
         }
-        for (std::size_t i = 0; i < std::size(sums); ++i)
-            lanes::store(sums[i], to + x + 4 * i);
+        for (std::size_t t = 1; t < places; ++t) {
+            for (std::size_t i = 0; i < parts; ++i) {
+                Wide left;
+                Wide right;
+                std::memcpy(&left, before[t] + x + lanesOfWide * i, sizeof(Wide));
+                std::memcpy(&right, after[t] + x + lanesOfWide * i, sizeof(Wide));
+                sums[i] += (left + right) * weights[t];
+            }
+        }
+        for (std::size_t i = 0; i < parts; ++i)
+            std::memcpy(to + x + lanesOfWide * i, &sums[i], sizeof(Wide));
     }
 }
 
@@ -107,28 +124,26 @@ void UnsharpMask::apply(QSize size, int begin, int end, const Reader &reader, QR
             std::copy_n(scratch.pixels.data(), width, to + (row - begin) * stride);
     };
 
+    std::vector<const float *> before(half + 1);
+    std::vector<const float *> after(half + 1);
     const int rows = reach();
     for (int row = std::max(0, begin - rows); row < std::min(begin + rows, size.height()); ++row)
         read(row);
     for (int row = begin; row < end; ++row) {
         if (row + rows < size.height())
             read(row + rows);
-        const auto above = [&](std::size_t t) {
-            return luminance(row - static_cast<int>(t));
-        };
-        const auto below = [&](std::size_t t) {
-            return luminance(row + static_cast<int>(t));
-        };
-        blur(weights_, above, below, columns, length);
+        for (std::size_t t = 0; t <= half; ++t) {
+            before[t] = luminance(row - static_cast<int>(t));
+            after[t] = luminance(row + static_cast<int>(t));
+        }
+        blur(weights_, before, after, columns, length);
         std::fill_n(columns - half, half, columns[0]);
         std::fill_n(columns + width, half, columns[width - 1]);
-        const auto left = [&](std::size_t t) {
-            return columns - t;
-        };
-        const auto right = [&](std::size_t t) {
-            return columns + t;
-        };
-        blur(weights_, left, right, mean, length);
+        for (std::size_t t = 0; t <= half; ++t) {
+            before[t] = columns - t;
+            after[t] = columns + t;
+        }
+        blur(weights_, before, after, mean, length);
         QRgb *const pixels = to + (row - begin) * stride;
         const float *const here = luminance(row);
         lanes::forEachFour(pixels, pixels, size.width(), [&](const QRgb *four, QRgb *results, int x) {
