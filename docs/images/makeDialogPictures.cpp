@@ -35,7 +35,7 @@ bool picture(const QDir &folder, const QString &name,
         return false;
     if (opened.find<QLineEdit>(u"folder"_s)->hasFocus())
         opened.find<QComboBox>(u"printer"_s)->setFocus();
-    QCoreApplication::processEvents(); // what it shows has changed the layout
+    QTest::qWait(200); // what it shows has changed the layout, and more detail arrives
     const QImage image = opened.dialog->grab().toImage().convertToFormat(QImage::Format_RGB888);
     return image.save(folder.filePath(name + u".png"_s), "PNG", 0);
 }
@@ -80,6 +80,21 @@ int main(int argc, char *argv[])
         };
     };
     bool isDone = picture(folder, u"dialog"_s, page(0));
+    const auto adjusted = [](const QString &button) {
+        return [button](const OpenedDialog &opened) {
+            opened.slider(4)->setValue(12);
+            opened.slider(5)->setValue(18);
+            opened.slider(6)->setValue(14);
+            opened.click(button);
+        };
+    };
+    isDone &= picture(folder, u"dialog-compare"_s, adjusted(u"divide"_s));
+    isDone &= picture(folder, u"dialog-clipped"_s, adjusted(u"clipped"_s));
+    isDone &= picture(folder, u"dialog-dots"_s, [](const OpenedDialog &opened) {
+        opened.dialog->showPage(1);
+        opened.slider(1)->setValue(3);
+        opened.press(Qt::Key_1, Qt::ControlModifier);
+    });
     isDone &= picture(folder, u"dialog-refusal"_s, [](const OpenedDialog &opened) {
         opened.dialog->showPage(2);
         opened.click(u"matte"_s);

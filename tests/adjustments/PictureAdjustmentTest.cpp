@@ -143,8 +143,8 @@ private Q_SLOTS:
             {"no amount", sharpened(1.0, Unit::Dots, 0.0), {}, {}},
             {"no radius", sharpened(0.0, Unit::Dots, 1.0), {}, {}},
             {"matte, not a number", matte(notANumber), {}, u"matte is not"_s},
-            {"matte, negative", matte(-0.5), {}, u"matte is -0.5"_s},
-            {"matte, too much", matte(1.5), {.matte = 1.0}, u"matte is 1.5"_s},
+            {"matte, negative", matte(-0.5), {}, u"matte is not from 0 to 1"_s},
+            {"matte, too much", matte(1.5), {.matte = 1.0}, u"matte is not from 0 to 1"_s},
         });
     }
     /// A fault is logged once for the adjustment, by what is wrong, and the others are left as they are.
