@@ -47,6 +47,12 @@ int PagePhoto::detailFor(const QSize &seen)
     return detail;
 }
 
+bool PagePhoto::needsPart(const QSize &seen, const QSize &stored)
+{
+    return std::min(std::max(seen.width(), seen.height()), std::max(stored.width(), stored.height())) >
+           mostDetail;
+}
+
 QRectF PagePainter::seenPhoto(const PageView &view)
 {
     return view.placement ? photoToRoom(view).mapRect(unitSquare) & roomOf(view) : QRectF();

@@ -24,6 +24,8 @@ struct PagePhoto
     /// @param seen the size in pixels that the entire photo is shown with
     static int detailFor(const QSize &seen);
     static constexpr int mostDetail = 3200;
+    /// Whether the photo, of the stored size, has more detail to show than `whole` has at most.
+    static bool needsPart(const QSize &seen, const QSize &stored);
 
     bool isSameAs(const PagePhoto &other) const
     {

@@ -28,6 +28,11 @@ QImage pagePicture(const PagePictureRequest &request, int longestSide)
     pixels.whole = photo.pixels({detail, detail});
     if (pixels.whole.isNull())
         return {};
+    if (const QSize whole = PagePainter::photoPixels(view); PagePhoto::needsPart(whole, photo.storedSize())) {
+        const PhotoPart part = photo.part(PagePainter::seenPart(view), whole);
+        pixels.part = part.image;
+        pixels.partCovers = part.area;
+    }
     PagePainter painter;
     painter.setPhoto(pixels);
     painter.adjuster().setAdjustment(request.adjustment);

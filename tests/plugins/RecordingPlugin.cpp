@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: Corvel print dialog authors
 // SPDX-License-Identifier: Apache-2.0
 
+#include "Adjustment.h"
 #include "Bundle.h"
 #include "OptionPanel.h"
 #include "PlatformException.h"
@@ -9,6 +10,7 @@
 #include <QtCore/QEvent>
 #include <QtCore/QFile>
 
+#include <limits>
 #include <stdexcept>
 
 namespace {
@@ -41,9 +43,10 @@ bool answer(bool isDone, QString *error)
 } // namespace
 
 /// The panel of two pop-ups, which notes what the dialog calls.
-class RecordingPanel : public pdekit::OptionPanel
+class RecordingPanel : public pdekit::OptionPanel, public pdekit::AdjustmentSource
 {
     Q_OBJECT
+    Q_INTERFACES(pdekit::AdjustmentSource)
 
 public:
     using pdekit::OptionPanel::OptionPanel;
@@ -97,6 +100,20 @@ public:
     {
         note(sender ? QStringLiteral("act") : QStringLiteral("choice"));
         return OptionPanel::markChoiceForPPDOptionKeyFromSender(choice, key, sender);
+    }
+    /// When it fails: all that an adjustment must not be.
+    pdekit::Adjustment adjustment() override
+    {
+        constexpr double infinity = std::numeric_limits<double>::infinity();
+        pdekit::Adjustment adjustment;
+        if (qEnvironmentVariable("CORVEL_TEST_FAULT").startsWith(QLatin1String("adjustment")) &&
+            !note(QStringLiteral("adjustment"))) {
+            adjustment.curves[0] = {0, std::numeric_limits<double>::quiet_NaN()};
+            adjustment.matrix[1][1] = infinity;
+            adjustment.sharpeningRadius = infinity;
+            adjustment.sharpeningAmount = 1;
+        }
+        return adjustment;
     }
 
 protected:

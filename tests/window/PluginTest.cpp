@@ -6,6 +6,8 @@
 #include "TestMain.h"
 
 #include "MessageBar.h"
+#include "PreviewWidget.h"
+#include "SystemLog.h"
 
 #include <QtCore/QFile>
 #include <QtTest/QTest>
@@ -48,6 +50,7 @@ private Q_SLOTS:
         add("the user's choice", u"act:platform"_s, u"\"Border\""_s);
         add("help", u"help:int"_s, u"\"Border\""_s);
         add("its summary", u"summary:std"_s, u"\"Border\""_s);
+        add("what it looks like", u"adjustment:std"_s, u"no paper feed."_s);
     }
 
     void losesOnlyItsPage()
@@ -55,6 +58,7 @@ private Q_SLOTS:
         const auto [fault, word] = row<QString, QString>();
         qputenv("CORVEL_TEST_FAULT", fault.toUtf8());
         const auto opened = open();
+        QCoreApplication::processEvents();
         const auto *pages = opened->find<QTabWidget>(u"panels"_s);
         const bool hasPage = pages->tabText(0).contains(u"Border"_s);
         if (hasPage && opened->control(1) && opened->control(1)->isVisible())
@@ -106,6 +110,28 @@ private Q_SLOTS:
         button(*other, u"Print Without Them"_s)->click();
         QTRY_VERIFY(other->hasPrinted());
         QCOMPARE(other->options().keys(), QStringList{u"PageSize"_s});
+    }
+
+    void impossibleAdjustmentIsIgnored()
+    {
+        const auto good = open();
+        auto *unchanged = good->find<PreviewWidget>(u"preview"_s);
+        QTRY_VERIFY(unchanged->isComplete());
+        qputenv("CORVEL_TEST_FAULT", "adjustment:false");
+        QStringList log;
+        const auto sink = pdekit::setSystemLogSink([&log](const QString &line) { log += line; });
+        const auto opened = open();
+        pdekit::setSystemLogSink([&log](const QString &line) { log += line; }); // as open() has its own
+        auto *preview = opened->find<PreviewWidget>(u"preview"_s);
+        QTRY_VERIFY(preview->isComplete());
+        chooseDeckle(*opened);
+        QTRY_VERIFY(log.size() == 1 && log.constFirst().contains(u"not a finite number"_s));
+        chooseDeckle(*opened);
+        QTest::keyClick(opened->control(1), Qt::Key_Home);
+        QCoreApplication::processEvents();
+        pdekit::setSystemLogSink(sink);
+        QCOMPARE(log.size(), 1);
+        QCOMPARE(preview->grab().toImage(), unchanged->grab().toImage());
     }
 
     void saysWhatCouldNotBeRestored()

@@ -24,6 +24,11 @@ PhotoDetail::PhotoDetail(QObject *parent)
 {
 }
 
+PhotoDetail::~PhotoDetail()
+{
+    dropPart();
+}
+
 bool PhotoDetail::setPhoto(const Photo &photo)
 {
     const bool isSame = photo.path() == photo_.path() && photo.modified() == photo_.modified();
@@ -33,8 +38,8 @@ bool PhotoDetail::setPhoto(const Photo &photo)
     pixels_ = {};
     isUnreadable_ = false;
     detail_ = decodedDetail_ = 0;
-    wholeWanted_ = partWhole_ = {};
-    isPartUnderWay_ = false;
+    dropPart();
+    partUnderWay_.reset();
     ++number_;
     if (!photo.storedSize().isEmpty())
         decode(PagePhoto::detailFor({}));
@@ -77,8 +82,8 @@ void PhotoDetail::want(const QSize &whole, const QRectF &seen)
         std::min(std::max(stored.width(), stored.height()), std::max(whole.width(), whole.height()));
     if (const int detail = PagePhoto::detailFor({useful, useful}); detail > detail_)
         decode(detail);
-    if (useful <= PagePhoto::mostDetail) {
-        wholeWanted_ = partWhole_ = {};
+    if (!PagePhoto::needsPart(whole, stored)) {
+        dropPart();
         if (!pixels_.part.isNull()) {
             pixels_.part = {};
             Q_EMIT changed();
@@ -89,45 +94,57 @@ void PhotoDetail::want(const QSize &whole, const QRectF &seen)
         return;
     wholeWanted_ = whole;
     partWanted_ = seen;
-    if (!isPartUnderWay_)
+    if (!partUnderWay_)
         decodePart();
+    else if (partUnderWay_->whole != whole || !partUnderWay_->covers.contains(seen))
+        *partUnderWay_->isGivenUp = true; // and this one is next
+}
+
+/// No part is wanted any more.
+void PhotoDetail::dropPart()
+{
+    wholeWanted_ = partWhole_ = {};
+    if (partUnderWay_)
+        *partUnderWay_->isGivenUp = true;
 }
 
 /// One at a time: while the user pans, only the latest part is decoded next.
 void PhotoDetail::decodePart()
 {
-    isPartUnderWay_ = true;
     const QSizeF more(partWanted_.width() * around, partWanted_.height() * around);
-    const QRectF wanted =
+    const QRectF covers =
         partWanted_.adjusted(-more.width(), -more.height(), more.width(), more.height()) & QRectF(0, 0, 1, 1);
+    partUnderWay_ = {wholeWanted_, covers, std::make_shared<std::atomic<bool>>(false)};
     startPhotoTask(
-        [photo = photo_, number = number_, whole = wholeWanted_, wanted, self = QPointer<PhotoDetail>(this)] {
-            const PhotoPart part = photo.part(wanted, whole);
-            QMetaObject::invokeMethod(qApp, [self, number, whole, part] {
+        [photo = photo_, number = number_, asked = *partUnderWay_, self = QPointer<PhotoDetail>(this)] {
+            const PhotoPart part = photo.part(asked.covers, asked.whole, asked.isGivenUp.get());
+            QMetaObject::invokeMethod(qApp, [self, number, asked, part] {
                 if (self)
-                    self->showPart(number, whole, part);
+                    self->showPart(number, asked, part);
             });
         },
         ShownPhoto);
 }
 
-void PhotoDetail::showPart(quint64 number, const QSize &whole, const PhotoPart &part)
+void PhotoDetail::showPart(quint64 number, const WantedPart &asked, const PhotoPart &part)
 {
     if (number != number_)
         return;
-    isPartUnderWay_ = false;
+    partUnderWay_.reset();
     if (wholeWanted_.isEmpty())
         return;
-    if (part.image.isNull()) {
-        wholeWanted_ = {}; // what is there stays
-        return;
+    const bool isWanted = asked.whole == wholeWanted_ && asked.covers.contains(partWanted_);
+    if (!part.image.isNull()) {
+        pixels_.part = part.image;
+        pixels_.partCovers = part.area;
+        partWhole_ = asked.whole;
     }
-    pixels_.part = part.image;
-    pixels_.partCovers = part.area;
-    partWhole_ = whole;
-    if (whole != wholeWanted_ || !part.area.contains(partWanted_))
+    if (!isWanted)
         decodePart();
-    Q_EMIT changed();
+    else if (part.image.isNull())
+        wholeWanted_ = {}; // it cannot be decoded: what is there stays
+    if (!part.image.isNull())
+        Q_EMIT changed();
 }
 
 } // namespace printdialog

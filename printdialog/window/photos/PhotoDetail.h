@@ -8,6 +8,10 @@
 
 #include <QtCore/QObject>
 
+#include <atomic>
+#include <memory>
+#include <optional>
+
 namespace printdialog {
 
 /// A photo's pixels for the preview, in the photo's own colors (Photo::pixels): the entire photo about as
@@ -19,6 +23,7 @@ class PhotoDetail : public QObject
 
 public:
     explicit PhotoDetail(QObject *parent = nullptr);
+    ~PhotoDetail() override;
 
     /// Decodes a photo that differs from the previous one. False: it is the same.
     bool setPhoto(const Photo &photo);
@@ -32,17 +37,25 @@ public:
     /// missing for that.
     void want(const QSize &whole, const QRectF &seen);
     /// Whether what is wanted is there.
-    bool isComplete() const { return isReady() && !isPartUnderWay_ && detail_ <= decodedDetail_; }
+    bool isComplete() const { return isReady() && !partUnderWay_ && detail_ <= decodedDetail_; }
 
 Q_SIGNALS:
     /// pixels() are others, or the photo is unreadable.
     void changed();
 
 private:
+    struct WantedPart
+    {
+        QSize whole;
+        QRectF covers;
+        std::shared_ptr<std::atomic<bool>> isGivenUp;
+    };
+
     void decode(int detail);
     void show(quint64 number, int detail, const QImage &image);
     void decodePart();
-    void showPart(quint64 number, const QSize &whole, const PhotoPart &part);
+    void showPart(quint64 number, const WantedPart &asked, const PhotoPart &part);
+    void dropPart();
 
     Photo photo_;
     PagePhoto pixels_;
@@ -52,7 +65,7 @@ private:
     QSize wholeWanted_;     ///< for which a part is wanted; empty when none is
     QRectF partWanted_;
     QSize partWhole_; ///< for which pixels_.part was decoded
-    bool isPartUnderWay_ = false;
+    std::optional<WantedPart> partUnderWay_;
     quint64 number_ = 0; ///< identifies the current photo; results for another one are dropped
 };
 

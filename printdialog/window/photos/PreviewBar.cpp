@@ -161,10 +161,16 @@ void PreviewBar::showView()
     smaller_->setEnabled(zoom.has_value());
     const PageView view = preview_->view();
     larger_->setEnabled(view.placement && zoom.value_or(view.zoomOfPage()) < PreviewWidget::mostZoom);
-    // A share too small for one decimal is still one.
+    const auto shareText = [](double percent) {
+        return tr("Clipped: %1 %").arg(QLocale().toString(percent, 'f', 1));
+    };
+    // As wide as it may get, so that the row stays as it is while a slider is dragged.
+    const bool isMarked = clipped_->isChecked();
+    clipped_->setText(isMarked ? shareText(100) : tr("Clipped"));
+    clipped_->setMinimumWidth(isMarked ? clipped_->sizeHint().width() : 0);
     const double share = preview_->clippedShare() * 100;
-    const QString percent = QLocale().toString(share > 0 ? std::max(share, 0.1) : 0, 'f', 1);
-    clipped_->setText(clipped_->isChecked() ? tr("Clipped: %1 %").arg(percent) : tr("Clipped"));
+    if (isMarked)
+        clipped_->setText(shareText(share > 0 ? std::max(share, 0.1) : 0)); // too small a share is one, too
     showNote();
 }
 
