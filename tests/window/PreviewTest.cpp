@@ -82,6 +82,7 @@ private Q_SLOTS:
     void clippedTones();
     void zooming();
     void sharpnessInDetail();
+    void detailOfLargePhotos();
 };
 
 /// A dialog whose preview is complete.
@@ -352,6 +353,40 @@ void PreviewTest::sharpnessInDetail()
     QVERIFY(contrastOf(1, 0.5) > none);
     QVERIFY(contrastOf(1, 1) > contrastOf(1, 0.5));
     QVERIFY(contrastOf(3, 1) > none);
+}
+
+// Lines as thin as a pixel, in a photo that is too large to be kept as a whole.
+void PreviewTest::detailOfLargePhotos()
+{
+    if (mode_ == PanelMode::Settings)
+        return; // the same
+    QImage lines(6000, 4000, QImage::Format_Grayscale8);
+    for (int y = 0; y < lines.height(); ++y) {
+        for (int x = 0; x < lines.width(); ++x)
+            lines.scanLine(y)[x] = x % 2 == 0 ? 0 : 255;
+    }
+    const QString path = photos_.filePath(u"lines.png"_s);
+    samples::store(path, samples::encoded(lines, "png"));
+    PreviewWidget preview;
+    preview.resize(400, 300);
+    preview.setPage({QSizeF(288, 192), QRectF(0, 0, 288, 192)});
+    preview.setDotsPerInch(1500); // a pixel for each dot
+    preview.setPhoto(*Photo::open(path));
+    preview.show();
+    const auto contrast = [&preview] {
+        const QImage shown = preview.grab().toImage();
+        return std::abs(qGray(shown.pixel(200, 150)) - qGray(shown.pixel(201, 150)));
+    };
+    QTRY_VERIFY(preview.isComplete());
+    QVERIFY(contrast() < 60);
+    preview.zoomTo(PreviewWidget::dotForDot);
+    QTRY_COMPARE(contrast(), 255);
+    for (int i = 0; i < 50; ++i)
+        QTest::keyClick(&preview, Qt::Key_Right);
+    QTRY_COMPARE(contrast(), 255);
+    QVERIFY(PagePainter::seenPart(preview.view()).right() > 0.999);
+    preview.zoomTo(std::nullopt);
+    QTRY_VERIFY(preview.isComplete() && contrast() < 60);
 }
 
 CORVEL_WIDGETS_TEST(PreviewTest)

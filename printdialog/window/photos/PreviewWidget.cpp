@@ -95,7 +95,7 @@ void PreviewWidget::setAdjustment(const PictureAdjustment &adjustment)
 void PreviewWidget::setDotsPerInch(double dots)
 {
     if (std::exchange(dotsPerInch_, dots) != dots)
-        show(view());
+        setView(view());
 }
 
 void PreviewWidget::setProfiles(const QByteArray &screen, const QByteArray &paper)

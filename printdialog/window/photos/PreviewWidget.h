@@ -84,7 +84,7 @@ protected:
 private:
     enum class Drag { None, Photo, View, Divider };
 
-    void show(const PageView &view);
+    void setView(const PageView &view);
     void noteSeen();
     void updatePhoto();
     void updateLookup();

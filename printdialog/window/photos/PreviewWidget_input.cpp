@@ -26,7 +26,7 @@ constexpr double least = 1e-6;     ///< by which two zooms differ
 
 // Zooming
 
-void PreviewWidget::show(const PageView &view)
+void PreviewWidget::setView(const PageView &view)
 {
     zoom_ = view.zoom;
     center_ = view.center;
@@ -38,14 +38,14 @@ void PreviewWidget::show(const PageView &view)
 void PreviewWidget::zoomTo(std::optional<double> zoom)
 {
     const PageView seen = view();
-    show(zoom ? seen.zoomed(*zoom, rect().toRectF().center()) : seen.whole());
+    setView(zoom ? seen.zoomed(*zoom, rect().toRectF().center()) : seen.whole());
 }
 
 void PreviewWidget::zoomBy(double factor, const QPointF &kept)
 {
     const PageView seen = view();
     const double from = seen.zoom.value_or(seen.zoomOfPage());
-    show(seen.zoomed(std::min(from * factor, std::max(mostZoom, from)), kept));
+    setView(seen.zoomed(std::min(from * factor, std::max(mostZoom, from)), kept));
 }
 
 /// Nothing: there is none, or it is the entire page.
@@ -118,7 +118,7 @@ void PreviewWidget::resizeEvent(QResizeEvent *event)
 
 void PreviewWidget::panBy(const QPointF &widgetDistance)
 {
-    show(view().panned(widgetDistance));
+    setView(view().panned(widgetDistance));
 }
 
 // The divider
