@@ -5,8 +5,7 @@
 
 #include "BenchPicture.h"
 #include "BenchTable.h"
-
-#include <lcms2.h>
+#include "LcmsObjects.h"
 
 #include <array>
 #include <cmath>
@@ -18,16 +17,8 @@
 
 namespace {
 
-struct ProfileCloser
-{
-    void operator()(void *profile) const { cmsCloseProfile(profile); }
-};
-struct TransformDeleter
-{
-    void operator()(void *transform) const { cmsDeleteTransform(transform); }
-};
-using Profile = std::unique_ptr<void, ProfileCloser>;
-using Transform = std::unique_ptr<void, TransformDeleter>;
+using printdialog::lcms::Profile;
+using printdialog::lcms::Transform;
 
 constexpr cmsUInt32Number noCache = cmsFLAGS_NOCACHE;
 

@@ -4,8 +4,7 @@
 #include "ColorWay.h"
 
 #include "ColorProfile.h"
-
-#include <lcms2.h>
+#include "LcmsObjects.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -13,18 +12,10 @@
 namespace printdialog {
 namespace {
 
-struct ProfileCloser
-{
-    void operator()(void *profile) const { cmsCloseProfile(profile); }
-};
-struct TransformDeleter
-{
-    void operator()(void *transform) const { cmsDeleteTransform(transform); }
-};
-using Profile = std::unique_ptr<void, ProfileCloser>;
-using Transform = std::unique_ptr<void, TransformDeleter>;
+using lcms::Profile;
+using lcms::Transform;
 
-constexpr qsizetype largestProfile = 4 << 20; // bytes
+constexpr qsizetype largestProfile = 16 << 20; // bytes, as for photos
 
 Profile opened(const QByteArray &icc)
 {

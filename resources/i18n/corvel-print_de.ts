@@ -3082,7 +3082,7 @@ der längeren Seite, und beenden; weitere Fotos in FILE-2.png, FILE-3.png, ...</
     </message>
     <message>
         <source>Preview is approximate</source>
-        <translation>Vorschau ist nur annähernd</translation>
+        <translation>Vorschau ist nur ungefähr</translation>
     </message>
     <message>
         <source>sharpness shows at 100 %</source>

@@ -181,7 +181,7 @@ private Q_SLOTS:
             {"the screen's own", {adobe, adobe, {}}},
             {"no profile at all", {QByteArray(5000, 'x'), {}, {}}},
             {"cut off", {adobe.first(200), {}, {}}},
-            {"too large", {adobe + QByteArray(5 << 20, '\0'), {}, {}}},
+            {"too large", {adobe + QByteArray(17 << 20, '\0'), {}, {}}},
             {"grey photo", {grey(cmsSigInputClass), {}, {}}},
             {"photo with inks", {cmyk(), {}, {}}},
             {"grey screen", {{}, grey(cmsSigDisplayClass), {}}},

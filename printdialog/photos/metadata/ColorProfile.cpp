@@ -3,25 +3,15 @@
 
 #include "ColorProfile.h"
 
+#include "LcmsObjects.h"
+
 #include <QtGui/QColorSpace>
-
-#include <lcms2.h>
-
-#include <memory>
 
 namespace printdialog {
 namespace {
 
-struct ProfileCloser
-{
-    void operator()(void *profile) const { cmsCloseProfile(profile); }
-};
-struct TransformDeleter
-{
-    void operator()(void *transform) const { cmsDeleteTransform(transform); }
-};
-using Profile = std::unique_ptr<void, ProfileCloser>;
-using Transform = std::unique_ptr<void, TransformDeleter>;
+using lcms::Profile;
+using lcms::Transform;
 
 constexpr qsizetype largestProfile = 16 << 20; // bytes; the largest printer profiles have a few megabytes
 
