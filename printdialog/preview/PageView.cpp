@@ -82,8 +82,6 @@ QSize PageView::sizeWithin(int longestSide) const
 
 PageView PageView::zoomed(double newZoom, const QPointF &kept) const
 {
-    if (newZoom <= zoomOfPage())
-        return whole();
     PageView view = *this;
     const QPointF onPage = toRoom().inverted().map(kept);
     view.zoom = newZoom;

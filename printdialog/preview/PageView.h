@@ -40,8 +40,8 @@ struct PageView
     /// @param longestSide in pixels
     QSize sizeWithin(int longestSide) const;
 
-    /// The view at another zoom that keeps what is seen at this point of the picture where it is; the entire
-    /// page when that is not smaller.
+    /// The view at another zoom that keeps what is seen at this point of the picture where it is. A page that
+    /// is smaller than the picture then is in its middle.
     PageView zoomed(double newZoom, const QPointF &kept) const;
     /// The view after what is seen was moved by this distance in the picture, as far as there is more to see.
     PageView panned(const QPointF &distance) const;

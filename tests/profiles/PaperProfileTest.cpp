@@ -41,11 +41,11 @@ private Q_SLOTS:
               u"two/color/icc/matte.icc"_s, u"two/color/icc/maker/photo/below.icc"_s,
               u"one/color/icc/a/b/c/deep.icc"_s, u"cups/profiles/cups.icc"_s, u"two/color/icc/both.icc"_s,
               u"outside.icc"_s, u"one/color/outside.icc"_s, u"one/color/icc/.hidden.icc"_s})
-            QVERIFY(store(path(name), profile(gamma += 0.1)));
-        QVERIFY(store(path(u"one/color/icc/paper.icc"_s), profile(gamma, cmsSigOutputClass)) &&
-                store(path(u"one/color/icc/camera.icc"_s), profile(gamma, cmsSigInputClass)) &&
-                store(path(u"one/color/icc/text.icc"_s), "text") &&
-                store(path(u"one/color/icc/huge.icc"_s), profile(gamma) + QByteArray(4 << 20, '\0')) &&
+            QVERIFY(storeBelow(path(name), profile(gamma += 0.1)));
+        QVERIFY(storeBelow(path(u"one/color/icc/paper.icc"_s), profile(gamma, cmsSigOutputClass)) &&
+                storeBelow(path(u"one/color/icc/camera.icc"_s), profile(gamma, cmsSigInputClass)) &&
+                storeBelow(path(u"one/color/icc/text.icc"_s), "text") &&
+                storeBelow(path(u"one/color/icc/huge.icc"_s), profile(gamma) + QByteArray(4 << 20, '\0')) &&
                 QDir().mkpath(path(u"one/color/icc/folder.icc"_s)));
         for (const QString &name : {u"one/color/icc/pipe.icc"_s, u"one/color/icc/both.icc"_s})
             QCOMPARE(::mkfifo(qPrintable(path(name)), 0600), 0);
@@ -121,7 +121,7 @@ private Q_SLOTS:
     {
         const QString file = path(u"one/color/icc/once.icc"_s);
         const QByteArray bytes = profile(3);
-        QVERIFY(store(file, bytes));
+        QVERIFY(storeBelow(file, bytes));
         const auto session = opened(line("RGB.Glossy.", "once.icc"));
         QCOMPARE(session->paperProfile(), bytes);
         QVERIFY(QFile::remove(file));

@@ -15,10 +15,12 @@
 namespace testing_support {
 
 /// An RGB profile, which is different for each gamma.
-inline QByteArray profile(double gamma, cmsProfileClassSignature device = cmsSigDisplayClass)
+/// @param green its place in the chromaticity diagram; lower ones have fewer colors
+inline QByteArray profile(double gamma, cmsProfileClassSignature device = cmsSigDisplayClass,
+                          double green = 0.6)
 {
     const cmsCIExyY white = {0.3127, 0.3290, 1};
-    const cmsCIExyYTRIPLE primaries = {{0.64, 0.33, 1}, {0.3, 0.6, 1}, {0.15, 0.06, 1}};
+    const cmsCIExyYTRIPLE primaries = {{0.64, 0.33, 1}, {0.3, green, 1}, {0.15, 0.06, 1}};
     const std::unique_ptr<cmsToneCurve, decltype(&cmsFreeToneCurve)> curve(cmsBuildGamma(nullptr, gamma),
                                                                            cmsFreeToneCurve);
     cmsToneCurve *curves[] = {curve.get(), curve.get(), curve.get()};
@@ -33,7 +35,7 @@ inline QByteArray profile(double gamma, cmsProfileClassSignature device = cmsSig
 }
 
 /// Writes a file and the folders above it.
-inline bool store(const QString &path, const QByteArray &bytes)
+inline bool storeBelow(const QString &path, const QByteArray &bytes)
 {
     QFile file(path);
     return QDir().mkpath(QFileInfo(path).path()) && file.open(QFile::WriteOnly) &&

@@ -211,7 +211,7 @@ private Q_SLOTS:
     void asksTheColorManager()
     {
         const QByteArray bytes = profile(2);
-        QVERIFY(store(colord_.files.constFirst(), bytes));
+        QVERIFY(storeBelow(colord_.files.constFirst(), bytes));
         ScreenProfiles profiles;
         const QSignalSpy changed(&profiles, &ScreenProfiles::changed);
         QCOMPARE(profiles.profileOf(left_), QByteArray()); // of which it does not know
@@ -259,7 +259,8 @@ private Q_SLOTS:
         const auto [isClosed] = row<bool>();
         const QString pidFile = folder_.filePath(u"pid"_s);
         const QString program = folder_.filePath(u"program"_s);
-        QVERIFY(store(program, "#!/bin/sh\necho $$ >'" + QFile::encodeName(pidFile) + "'\nexec sleep 60\n"));
+        QVERIFY(
+            storeBelow(program, "#!/bin/sh\necho $$ >'" + QFile::encodeName(pidFile) + "'\nexec sleep 60\n"));
         QVERIFY(QFile::setPermissions(program, QFile::ReadOwner | QFile::ExeOwner));
         const auto remove = qScopeGuard([&] { QFile::remove(program) && QFile::remove(pidFile); });
         auto profiles = std::make_unique<ScreenProfiles>(program);

@@ -6,6 +6,7 @@
 #include "PreviewWidget.h"
 #include "Rows.h"
 #include "SamplePhotos.h"
+#include "SampleProfiles.h"
 #include "TestMain.h"
 
 #include <QtGui/QWheelEvent>
@@ -83,6 +84,8 @@ private Q_SLOTS:
     void zooming();
     void sharpnessInDetail();
     void detailOfLargePhotos();
+    void colorsOfPhotoAndScreen();
+    void softProof();
 };
 
 /// A dialog whose preview is complete.
@@ -321,6 +324,11 @@ void PreviewTest::zooming()
     QVERIFY(*preview.zoom() > 1.1 && *preview.zoom() < 1.3);
     const QPointF moved = preview.pageToWidget().map(onPage) - pointer;
     QVERIFY2(moved.manhattanLength() < 2, qPrintable(QString::number(moved.manhattanLength())));
+    QNativeGestureEvent pinch(Qt::ZoomNativeGesture, QPointingDevice::primaryPointingDevice(), 2, pointer,
+                              pointer, preview.mapToGlobal(pointer), 0.25, {});
+    const double before = *preview.zoom();
+    QCoreApplication::sendEvent(&preview, &pinch);
+    QCOMPARE(*preview.zoom(), before * 1.25);
     preview.setFocus();
     QTest::keyClick(&preview, Qt::Key_0);
     QVERIFY(!preview.zoom());
@@ -387,6 +395,67 @@ void PreviewTest::detailOfLargePhotos()
     QVERIFY(PagePainter::seenPart(preview.view()).right() > 0.999);
     preview.zoomTo(std::nullopt);
     QTRY_VERIFY(preview.isComplete() && contrast() < 60);
+}
+
+// The printer gets the photo's own values, so these are adjusted, and converted then.
+void PreviewTest::colorsOfPhotoAndScreen()
+{
+    if (mode_ == PanelMode::Settings)
+        return; // the same
+    QImage red(60, 40, QImage::Format_RGB32);
+    red.fill(QColor(200, 40, 40));
+    const QByteArray jpeg = samples::encoded(red, "jpeg");
+    samples::store(photos_.filePath(u"swapped.jpg"_s), samples::withProfile(jpeg, samples::swappedProfile()));
+    samples::store(photos_.filePath(u"plain.jpg"_s), jpeg);
+    pdekit::Adjustment half;
+    half.matrix[0][0] = 0.5;
+    const auto adjustment = PictureAdjustment::of({half});
+
+    PreviewWidget preview;
+    preview.resize(300, 240);
+    preview.setPage({QSizeF(300, 200), QRectF(0, 0, 300, 200)});
+    const auto shows = [&preview](const QString &photo, const QColor &color) {
+        preview.setPhoto(*Photo::open(photo));
+        if (!QTest::qWaitFor([&preview] { return preview.isComplete(); }))
+            return false;
+        const QColor shown(preview.grab().toImage().pixel(150, 120));
+        constexpr int most = 4; // for the JPEG and the table
+        return std::abs(shown.red() - color.red()) <= most &&
+               std::abs(shown.green() - color.green()) <= most &&
+               std::abs(shown.blue() - color.blue()) <= most;
+    };
+    QVERIFY(shows(photos_.filePath(u"swapped.jpg"_s), QColor(40, 200, 40)));
+    QVERIFY(shows(photos_.filePath(u"plain.jpg"_s), QColor(200, 40, 40)));
+    preview.setAdjustment(adjustment);
+    QVERIFY(shows(photos_.filePath(u"plain.jpg"_s), QColor(100, 40, 40)));
+    QVERIFY(shows(photos_.filePath(u"swapped.jpg"_s), QColor(40, 100, 40)));
+    preview.setProfiles(samples::swappedProfile(), {}); // the screen's
+    QVERIFY(shows(photos_.filePath(u"plain.jpg"_s), QColor(40, 100, 40)));
+    QVERIFY(shows(photos_.filePath(u"swapped.jpg"_s), QColor(100, 40, 40)));
+}
+
+void PreviewTest::softProof()
+{
+    {
+        const OpenedPreview opened(setup());
+        QVERIFY(!opened.isSeen(u"proof"_s)); // this printer names no paper
+    }
+    QFile model(QStringLiteral(CORVEL_SIBLING_PPD));
+    QVERIFY(model.open(QIODevice::ReadOnly));
+    const QString ppd = config_->filePath(u"paper.ppd"_s);
+    QVERIFY(storeBelow(ppd, model.readAll() + "*cupsICCProfile ..: \"/elsewhere/paper.icc\"\n"));
+    QVERIFY(storeBelow(config_->filePath(u"color/icc/paper.icc"_s), profile(1.2, cmsSigOutputClass, 0.45)));
+    qputenv("XDG_DATA_DIRS", QFile::encodeName(config_->path()));
+    PrintDialogSetup named = setup();
+    named.ppdFile = ppd;
+    const OpenedPreview opened(named);
+    const QImage before = opened.photo();
+    QVERIFY(opened.isSeen(u"proof"_s));
+    opened.click(u"proof"_s);
+    QVERIFY(opened.photo() != before);
+    opened.click(u"proof"_s);
+    QCOMPARE(opened.photo(), before);
+    qunsetenv("XDG_DATA_DIRS");
 }
 
 CORVEL_WIDGETS_TEST(PreviewTest)

@@ -45,7 +45,8 @@ void PreviewWidget::zoomBy(double factor, const QPointF &kept)
 {
     const PageView seen = view();
     const double from = seen.zoom.value_or(seen.zoomOfPage());
-    setView(seen.zoomed(std::min(from * factor, std::max(mostZoom, from)), kept));
+    const double to = std::min(from * factor, std::max(mostZoom, from));
+    setView(to > seen.zoomOfPage() ? seen.zoomed(to, kept) : seen.whole());
 }
 
 /// Nothing: there is none, or it is the entire page.
@@ -107,13 +108,6 @@ bool PreviewWidget::pinched(QEvent *event)
 bool PreviewWidget::event(QEvent *event)
 {
     return (placement() && pinched(event)) || QWidget::event(event);
-}
-
-void PreviewWidget::resizeEvent(QResizeEvent *event)
-{
-    QWidget::resizeEvent(event);
-    if (zoom_ && *zoom_ <= view().zoomOfPage())
-        zoomTo(std::nullopt);
 }
 
 void PreviewWidget::panBy(const QPointF &widgetDistance)
