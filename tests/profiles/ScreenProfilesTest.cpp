@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include "ScreenProfiles.h"
+#include "PhotoPane.h"
+#include "PreviewWidget.h"
 #include "PrivateDesktop.h"
 #include "Rows.h"
 #include "SampleProfiles.h"
@@ -14,10 +16,10 @@
 #include <QtDBus/QDBusObjectPath>
 #include <QtDBus/QDBusVariant>
 #include <QtDBus/QDBusVirtualObject>
-#include <QtGui/QGuiApplication>
 #include <QtGui/QScreen>
 #include <QtTest/QSignalSpy>
 #include <QtTest/QTest>
+#include <QtWidgets/QApplication>
 
 #include <algorithm>
 #include <array>
@@ -225,6 +227,31 @@ private Q_SLOTS:
         QCOMPARE(profiles.profileOf(right_), other);
     }
 
+    // A window, also one that is moved to another screen.
+    void photosHaveTheColorsOfTheirScreen()
+    {
+        constexpr int tone = 128;
+        constexpr int linear = 55; // what the screen needs for it, whose values are proportional to light
+        QImage grey(60, 40, QImage::Format_RGB32);
+        grey.fill(qRgb(tone, tone, tone));
+        const QString path = folder_.filePath(u"grey.png"_s);
+        QVERIFY(grey.save(path));
+        display_->set("_ICC_PROFILE", profile(1));
+        PhotoPane pane;
+        pane.setPage({QSizeF(300, 200), QRectF(0, 0, 300, 200)});
+        pane.setPhotos({*Photo::open(path)}, {});
+        pane.setGeometry({left_->geometry().topLeft(), QSize(300, 280)});
+        pane.setVisible(true);
+        auto *preview = pane.findChild<PreviewWidget *>();
+        const auto shown = [&] {
+            const QPoint middle = preview->pageToWidget().map(QPointF(150, 100)).toPoint();
+            return qGreen(preview->grab({middle, QSize(1, 1)}).toImage().pixel(0, 0));
+        };
+        QTRY_VERIFY2(std::abs(shown() - linear) <= 2, qPrintable(QString::number(shown())));
+        pane.move(right_->geometry().topLeft());
+        QTRY_COMPARE(shown(), tone);
+    }
+
     void programFindsTheProfile_data()
     {
         // What is changed; whether the first profile is found.
@@ -302,7 +329,7 @@ int main(int argc, char *argv[])
         qputenv("QT_SCALE_FACTOR", "2");
         XDisplay().split();
     }
-    QGuiApplication application(argc, argv);
+    QApplication application(argc, argv);
     ScreenProfilesTest test(missing);
     return QTest::qExec(&test, argc, argv);
 }
