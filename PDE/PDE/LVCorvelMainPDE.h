@@ -33,6 +33,7 @@ public:
     /// in this order. The luma weights are those of Rec. ITU-R BT.709, applied to the values as they are
     /// encoded. So the balance leaves the luma alone, and three equal numbers change nothing. A slider's
     /// opposite number takes back what the number does, as long as nothing is clipped; up to 5, no slider
-    /// alone clips a gray from 10 to 245.
+    /// alone clips a gray from 10 to 245. How much a slider does at most was chosen by eye within these
+    /// limits.
     pdekit::Adjustment adjustment() override;
 };

@@ -38,7 +38,7 @@ struct Adjustment
     Matrix matrix = unchangedColors;
     /// 3. An unsharp mask on the luminance: what differs from its mean in the surroundings is amplified. The
     /// mean is weighted by a Gaussian function; the radius is its standard deviation.
-    double sharpeningRadius = 0; ///< from 0 (unchanged) to 5 millimeters
+    double sharpeningRadius = 0; ///< from 0 (unchanged) to 5 millimeters, or 60 dots
     Unit sharpeningUnit = Unit::Dots;
     double sharpeningAmount = 0; ///< the added part of the difference, from 0 (unchanged) to 10
     /// 4. The surface, from 0 (gloss) to 1 (the most matte one).
@@ -47,7 +47,7 @@ struct Adjustment
     /// A localized sentence about what the preview cannot show; empty when there is nothing to say.
     QString remark = {};
 
-    /// Whether the picture stays as it is, to the last bit.
+    /// Whether nothing is set: the picture stays as it is, to the last bit.
     bool isIdentity() const
     {
         const bool hasCurves =

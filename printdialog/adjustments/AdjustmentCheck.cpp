@@ -53,7 +53,7 @@ Adjustment::Curve CheckedAdjustment::checkedCurve(const Adjustment::Curve &curve
         return straightCurve();
     QString fault;
     if (curve.size() != Adjustment::curvePoints)
-        fault = u"has %1 points, not %2"_s.arg(curve.size()).arg(Adjustment::curvePoints);
+        fault = u"does not have %1 points"_s.arg(Adjustment::curvePoints);
     else if (!std::all_of(curve.begin(), curve.end(), isFinite))
         fault = u"has a point that is not a finite number"_s;
     else if (!std::is_sorted(curve.begin(), curve.end()))

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <system_error>
 
 namespace printdialog {
 
@@ -27,8 +28,13 @@ void BandThreads::run(int rows, int bands, const Work &work)
         work(0, rows, 0);
         return;
     }
-    if (!other_.joinable())
-        other_ = std::thread([this] { wait(); });
+    try {
+        if (!other_.joinable())
+            other_ = std::thread([this] { wait(); });
+    } catch (const std::system_error &) {
+        work(0, rows, 0); // there are too many threads already
+        return;
+    }
     std::unique_lock lock(mutex_);
     work_ = &work;
     rows_ = rows;

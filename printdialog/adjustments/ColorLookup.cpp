@@ -26,7 +26,7 @@ constexpr std::uint32_t greenStep = nodes;
 constexpr std::uint32_t blueStep = 1;
 constexpr std::uint32_t acrossStep = redStep + greenStep + blueStep;
 
-/// XA_ value's cell, and its place in it.
+/// A value's cell, and its place in it.
 struct Place
 {
     std::uint32_t cell;
@@ -43,7 +43,7 @@ constexpr std::array<Place, 256> places = [] {
     return result;
 }();
 
-/// XA_ cell is cut into six tetrahedra along its diagonal. The way from its darkest to its lightest corner
+/// A cell is cut into six tetrahedra along its diagonal. The way from its darkest to its lightest corner
 /// leads along the component with the largest part first, and with the smallest one last. These are the
 /// second and the third corner, by whether red is at least green, green at least blue, and red at least blue.
 struct Corners
@@ -113,10 +113,19 @@ const std::array<std::uint8_t, fullLight + 1> &levels()
 
 std::shared_ptr<const ColorLookup> ColorLookup::make(const Way &way)
 {
-    std::vector<WideColor> colors = converted(way, grid());
+    std::vector<WideColor> colors;
+    // A profile that is not usable counts as none; the others stay.
+    for (const Way &each :
+         {way, Way{way.photo, {}, way.proof}, Way{way.photo, way.screen, {}}, Way{way.photo, {}, {}}}) {
+        if (needsNoConversion(each))
+            return nullptr;
+        colors = converted(each, grid());
+        if (!colors.empty())
+            break;
+    }
     if (colors.empty())
         return nullptr;
-    // XA_ profile's numbers are rounded, which must not give the greys a tint.
+    // A profile's numbers are rounded, which must not give the greys a tint.
     for (std::size_t i = 0; i < colors.size(); i += acrossStep) {
         const auto [least, most] = std::minmax_element(colors[i].begin(), colors[i].end());
         constexpr float rounding = 0.0005F; // an eighth of a level

@@ -28,8 +28,8 @@ public:
         bool operator==(const Way &) const = default;
     };
 
-    /// Makes the table, which takes some 30 ms; null when nothing has to be converted, or a profile is not
-    /// usable for this.
+    /// Makes the table, which takes some 30 ms; null when nothing has to be converted. A screen's profile
+    /// that is not usable counts as sRGB, and a paper's as none.
     static std::shared_ptr<const ColorLookup> make(const Way &way);
 
     /// Converts `count` pixels; `from` and `to` may be the same. The result is opaque.

@@ -88,10 +88,13 @@ cmsUInt32Number paperFormat(const Profile &paper)
 
 } // namespace
 
+bool needsNoConversion(const ColorLookup::Way &way)
+{
+    return way.proof.isEmpty() && (way.photo == way.screen || (isSrgb(way.photo) && isSrgb(way.screen)));
+}
+
 std::vector<WideColor> converted(const ColorLookup::Way &way, std::vector<WideColor> colors)
 {
-    if (way.proof.isEmpty() && (way.photo == way.screen || (isSrgb(way.photo) && isSrgb(way.screen))))
-        return {};
     const Profile photo = opened(way.photo);
     const Profile screen = opened(way.screen);
     if (!isPhotos(photo) || !isScreens(screen))

@@ -11,7 +11,8 @@ namespace printdialog {
 
 /// What a matte surface does to the colors. It is rough: it scatters a constant share of the light that falls
 /// on the paper, where gloss reflects it in one direction, away from the viewer. Black becomes lighter and
-/// the contrast lower, white stays: result = value + (255 - value) * 0.12 * matte.
+/// the contrast lower, white stays: result = value + (255 - value) * 0.12 * matte. The 12 %
+/// were chosen by eye; the blacks of matte photo papers lie about there.
 class MatteSurface
 {
 public:

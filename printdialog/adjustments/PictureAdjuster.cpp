@@ -123,6 +123,7 @@ void PictureAdjuster::setLookup(std::shared_ptr<const ColorLookup> lookup)
         return;
     lookup_ = std::move(lookup);
     resultOf_ = 0;
+    plainOf_ = 0;
 }
 
 void PictureAdjuster::updateMasks()
@@ -150,6 +151,8 @@ QImage PictureAdjuster::adjusted(const QImage &picture)
     const std::size_t sweeps = std::max<std::size_t>(1, masks_.size());
     for (std::size_t i = 0; i < sweeps; ++i) {
         makeLike(picture, result_);
+        if (result_.isNull())
+            return picture; // memory is short
         sweep(from, masks_.empty() ? nullptr : &masks_[i], i == 0, i + 1 == sweeps, result_);
         if (i + 1 < sweeps)
             from = result_; // which makes the next one a new picture
@@ -200,19 +203,23 @@ void PictureAdjuster::sweep(const QImage &from, const UnsharpMask *mask, bool is
     });
 }
 
-QImage PictureAdjuster::unadjusted(const QImage &picture) const
+QImage PictureAdjuster::unadjusted(const QImage &picture)
 {
     if (picture.isNull() || !lookup_)
         return picture;
+    if (plainOf_ == picture.cacheKey())
+        return plain_;
     const QImage from = rgb32(picture);
-    QImage result;
-    makeLike(picture, result);
-    const Target target(result);
+    makeLike(picture, plain_);
+    if (plain_.isNull())
+        return picture;
+    const Target target(plain_);
     threads_->run(from.height(), bandsFor(from, lookupCost), [&](int begin, int end, int /*thread*/) {
         for (int row = begin; row < end; ++row)
             lookup_->apply(rowOf(from, row), target.row(row), from.width());
     });
-    return result;
+    plainOf_ = picture.cacheKey();
+    return plain_;
 }
 
 ClippedTones PictureAdjuster::clippedTones(const QImage &picture, const QRect &part) const
@@ -221,6 +228,8 @@ ClippedTones PictureAdjuster::clippedTones(const QImage &picture, const QRect &p
     if (picture.isNull())
         return clipped;
     clipped.overlay = QImage(picture.size(), QImage::Format_ARGB32_Premultiplied);
+    if (clipped.overlay.isNull())
+        return clipped;
     clipped.overlay.setDevicePixelRatio(picture.devicePixelRatio());
     clipped.overlay.fill(Qt::transparent);
     const QRect inside = part & picture.rect();

@@ -58,7 +58,7 @@ public:
     /// most, provided that the caller no longer holds the last result.
     QImage adjusted(const QImage &picture);
     /// The picture without the adjustment, converted.
-    QImage unadjusted(const QImage &picture) const;
+    QImage unadjusted(const QImage &picture);
     /// What the colors of the adjustment clip in this part of the picture.
     ClippedTones clippedTones(const QImage &picture, const QRect &part) const;
     /// Whether there is a sharpening that is too fine to be shown at this scale.
@@ -82,6 +82,8 @@ private:
     std::array<UnsharpMask::Scratch, 2> scratch_; ///< of each thread
     QImage result_;
     qint64 resultOf_ = 0; ///< the cache key of the picture that result_ was made from; 0 for none
+    QImage plain_;        ///< the latest picture that was only converted
+    qint64 plainOf_ = 0;
 };
 
 } // namespace printdialog

@@ -41,7 +41,6 @@ public:
     static PictureAdjustment of(const QList<pdekit::Adjustment> &adjustments,
                                 QStringList *problems = nullptr);
 
-    bool isIdentity() const { return colors_.empty() && sharpenings_.empty() && matte_ == 0; }
     const std::vector<ColorStage> &colors() const { return colors_; }
     const std::vector<Sharpening> &sharpenings() const { return sharpenings_; }
     double matte() const { return matte_; }

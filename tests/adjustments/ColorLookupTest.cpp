@@ -186,14 +186,31 @@ private Q_SLOTS:
             {"photo with inks", {cmyk(), {}, {}}},
             {"grey screen", {{}, grey(cmsSigDisplayClass), {}}},
             {"paper as a screen", {{}, cmyk(), {}}},
-            {"camera as paper", {adobe, {}, grey(cmsSigInputClass)}},
-            {"paper, damaged", {adobe, {}, cmyk().first(1000)}},
+            {"camera as paper", {{}, {}, grey(cmsSigInputClass)}},
+            {"paper, damaged", {{}, {}, cmyk().first(1000)}},
         });
     }
     void nothingToConvert()
     {
         const auto [way] = row<ColorLookup::Way>();
         QVERIFY(!ColorLookup::make(way));
+    }
+
+    // The photo's own profile is applied nonetheless.
+    void unusableProfilesCountAsNone()
+    {
+        const QByteArray adobe = rgb(QColorSpace::AdobeRgb);
+        const auto shown = [](const ColorLookup::Way &way) {
+            QRgb pixel = qRgb(40, 200, 90);
+            if (const auto lookup = ColorLookup::make(way))
+                lookup->apply(&pixel, &pixel, 1);
+            return pixel;
+        };
+        const QRgb onSrgb = shown({adobe, {}, {}});
+        QVERIFY(onSrgb != qRgb(40, 200, 90));
+        QCOMPARE(shown({adobe, cmyk(), {}}), onSrgb);
+        QCOMPARE(shown({adobe, {}, cmyk().first(1000)}), onSrgb);
+        QCOMPARE(shown({adobe, grey(cmsSigDisplayClass), grey(cmsSigInputClass)}), onSrgb);
     }
 
     /// Whatever is in it: no crash, with the sanitizers no fault, either.

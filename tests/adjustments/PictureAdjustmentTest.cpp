@@ -111,7 +111,7 @@ private Q_SLOTS:
         Adjustment::Curve falling = straight();
         falling[100] = 0.1;
         addRows<Adjustment, Kept, QString>({
-            {"curve, short", red({0.0, 1.0}), {}, u"red has 2 points, not 256"_s},
+            {"curve, short", red({0.0, 1.0}), {}, u"red does not have 256 points"_s},
             {"curve, not a number", red(holed), {}, u"red has a point that is not"_s},
             {"curve, infinite",
              red(curve([](double value) { return value < 1.0 ? value : infinity; })),
@@ -154,7 +154,6 @@ private Q_SLOTS:
         QStringList problems;
         const PictureAdjustment checked = PictureAdjustment::of({adjustment}, &problems);
         QCOMPARE(keptOf(checked), expected);
-        QCOMPARE(checked.isIdentity(), expected == Kept());
         QCOMPARE(problems.size(), problem.isEmpty() ? 0 : 1);
         QVERIFY2(problems.join(u""_s).contains(problem), qPrintable(problems.join(u""_s)));
         QCOMPARE(PictureAdjustment::of({adjustment}), checked);

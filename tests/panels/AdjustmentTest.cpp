@@ -195,6 +195,11 @@ private Q_SLOTS:
         QVERIFY(!asked.with(text("Red=12 Gamma=1")).isIdentity());
         QVERIFY(asked.with(text("AdjustmentsEnabled=False")).isIdentity());
         asked.with(text("AdjustmentsEnabled=True"));
+        // The balance comes last, so weak colors do not weaken it: gray gets all of the red.
+        const Adjustment::Matrix balanced = asked.with(text("Red=25 Green=0 Blue=0 Saturation=-25")).matrix;
+        const double red = balanced[0][0] + balanced[0][1] + balanced[0][2];
+        QVERIFY2(std::abs(red - (1 + 25 * 0.008 * (1 - 0.2126))) < 1e-9, qPrintable(QString::number(red)));
+        asked.with(text("Red=0 Saturation=0"));
         const QStringList options = text("Brightness Contrast Gamma Saturation Red Green Blue").split(u' ');
         for (int corner = 0; corner < 1 << 7; ++corner) {
             QString choices;
