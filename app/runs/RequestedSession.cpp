@@ -184,7 +184,7 @@ Result<RequestedSession, std::monostate> openRequestedSession(const CommandLine 
     if (commandLine.title)
         choices.append({JobTemplate::titleKey(), QStringLiteral("Custom.") + *commandLine.title});
     for (const RequestedChoice &choice : std::as_const(choices)) {
-        // SessionText that is only the beginning of a number is let through while somebody types; here
+        // Text that is only the beginning of a number is let through while somebody types; here
         // nothing follows it.
         const Ruling ruling = requested.session->choose(choice.key, choice.choice);
         if (ruling.verdict != Verdict::Accepted)

@@ -77,17 +77,29 @@ QRectF PagePainter::seenPart(const PageView &view)
     return isInvertible ? toPhoto.mapRect(roomOf(view)) & unitSquare : QRectF();
 }
 
+void PagePainter::setPhoto(const PagePhoto &photo)
+{
+    photo_ = photo;
+    if (photo.whole.isNull()) {
+        source_ = {};
+        sourcePhoto_ = {};
+    }
+}
+
 void PagePainter::paint(QPainter &painter, const PageView &view, const Look &look)
 {
     const QTransform toRoom = view.toRoom();
     const QRectF sheet = toRoom.mapRect(sheetOf(view));
     const QRectF printed = toRoom.mapRect(view.page.printed());
     painter.setRenderHint(QPainter::Antialiasing);
-    // The shadow falls downwards on the screen, however the page is turned.
-    for (int i = 4; i > 0; --i)
+    // The shadow falls downwards on the screen, however the page is turned. Where the sheet is all there is
+    // to see, it has none: a part of a pixel may be left over at the edges.
+    const bool isAlone = sheet.adjusted(-1, -1, 1, 1).contains(roomOf(view));
+    for (int i = isAlone ? 0 : 4; i > 0; --i)
         painter.fillRect(sheet.adjusted(-i, -i, i, i + 2), QColor(0, 0, 0, 18));
     painter.fillRect(sheet, Qt::white); // paper is white in every theme
-    clippedShare_ = 0;
+    if (!look.marksClipped || photo_.whole.isNull())
+        clippedShare_ = 0;
     if (view.placement && !photo_.whole.isNull())
         paintPhoto(painter, view, look);
     if (printed != sheet) {
@@ -169,6 +181,30 @@ void PagePainter::markClipped(QPainter &painter, const PageView &view, const QRe
     painter.restore();
 }
 
+/// Draws what is seen of the whole photo into its unit square. QPainter scales well down to one half; below
+/// that it skips pixels, and edges shimmer.
+/// @param wanted the size of the whole photo in pixels
+void PagePainter::drawWhole(QPainter &painter, const QSize &wanted, const QRectF &seen) const
+{
+    constexpr double wellScaled = 0.6;
+    const QImage &whole = photo_.whole;
+    if (wanted.width() > whole.width() * wellScaled) {
+        painter.drawImage(unitSquare, whole);
+        return;
+    }
+    const QTransform toPixels = QTransform::fromScale(whole.width(), whole.height());
+    constexpr int border = 4;           // that scaling mixes in
+    constexpr double mostlySeen = 0.25; // then all of it, so that it looks the same wherever it ends
+    QRect part = whole.rect();
+    if (seen.width() * seen.height() < mostlySeen)
+        part &= toPixels.mapRect(seen).toAlignedRect().adjusted(-border, -border, border, border);
+    const QSize size(std::max(1, qRound(double(part.width()) * wanted.width() / whole.width())),
+                     std::max(1, qRound(double(part.height()) * wanted.height() / whole.height())));
+    const QImage scaled = (part == whole.rect() ? whole : whole.copy(part))
+                              .scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    painter.drawImage(toPixels.inverted().mapRect(QRectF(part)), scaled);
+}
+
 /// Scales what is seen to device pixels, once until another part is seen.
 void PagePainter::updateSource(const PageView &view)
 {
@@ -189,24 +225,9 @@ void PagePainter::updateSource(const PageView &view)
     QPainter painter(&source_);
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
     painter.setTransform(toSource);
-    painter.drawImage(unitSquare, scaledDown(photoPixels(view)));
+    drawWhole(painter, photoPixels(view), seenPart(view));
     if (!photo_.part.isNull())
         painter.drawImage(photo_.partCovers, photo_.part);
-}
-
-/// QPainter scales well down to one half; below that it skips pixels, and edges shimmer.
-const QImage &PagePainter::scaledDown(const QSize &wanted)
-{
-    constexpr double wellScaled = 0.6;
-    if (wanted.width() > photo_.whole.width() * wellScaled) {
-        scaled_ = {};
-        return photo_.whole;
-    }
-    if (scaled_.size() != wanted || scaledFrom_ != photo_.whole.cacheKey()) {
-        scaled_ = photo_.whole.scaled(wanted, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-        scaledFrom_ = photo_.whole.cacheKey();
-    }
-    return scaled_;
 }
 
 } // namespace printdialog

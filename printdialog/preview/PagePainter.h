@@ -54,7 +54,7 @@ public:
         bool marksClipped = false; ///< whether an overlay marks the tones that the adjustments clip
     };
 
-    void setPhoto(const PagePhoto &photo) { photo_ = photo; }
+    void setPhoto(const PagePhoto &photo);
     /// Whether there is no photo to paint.
     bool isEmpty() const { return photo_.whole.isNull(); }
     PictureAdjuster &adjuster() { return adjuster_; }
@@ -78,7 +78,7 @@ private:
     void paintLayer(QPainter &painter, const PageView &view, const QImage &layer, const QRectF &within) const;
     void markClipped(QPainter &painter, const PageView &view, const QRectF &within);
     void updateSource(const PageView &view);
-    const QImage &scaledDown(const QSize &wanted);
+    void drawWhole(QPainter &painter, const QSize &wanted, const QRectF &seen) const;
 
     PagePhoto photo_;
     PictureAdjuster adjuster_;
@@ -86,8 +86,6 @@ private:
     QPoint sourceCorner_; ///< of its top left pixel in the picture of the page
     PageView sourceView_; ///< what source_ was made for
     PagePhoto sourcePhoto_;
-    QImage scaled_;         ///< the whole photo at the size on the screen; null when that is not much smaller
-    qint64 scaledFrom_ = 0; ///< the cache key of what scaled_ was made from
     double clippedShare_ = 0;
 };
 

@@ -36,7 +36,7 @@ QImage pagePicture(const PagePictureRequest &request, int longestSide)
     PagePainter painter;
     painter.setPhoto(pixels);
     painter.adjuster().setAdjustment(request.adjustment);
-    painter.adjuster().setLookup(ColorLookup::make({photo.pixelProfile(), {}, request.paperProfile}));
+    painter.adjuster().setLookup(ColorLookup::make({photo.pixelProfile(), {}, {}}));
 
     QImage picture(size, QImage::Format_RGB32);
     if (picture.isNull())

@@ -20,7 +20,6 @@ struct PagePictureRequest
     PageGeometry page;
     PictureAdjustment adjustment;
     double dotsPerInch = 300; ///< of the print
-    QByteArray paperProfile;  ///< the ICC profile of the paper whose colors are shown; empty for none
 };
 
 /// The entire page as the window's preview shows it, in sRGB, on white, with its size on paper. A null image
