@@ -250,6 +250,9 @@ private Q_SLOTS:
         QTRY_VERIFY2(std::abs(shown() - linear) <= 2, qPrintable(QString::number(shown())));
         pane.move(right_->geometry().topLeft());
         QTRY_COMPARE(shown(), tone);
+        preview->setDotsPerInch(144); // a pixel of the screen, not of the desktop, for each dot
+        preview->zoomTo(PreviewWidget::dotForDot);
+        QCOMPARE(PagePainter::photoPixels(preview->view()), QSize(600, 400));
     }
 
     void programFindsTheProfile_data()

@@ -205,7 +205,7 @@ void PreviewTest::comparing()
     opened.control(red)->setFocus();
     QTest::keyPress(opened.control(red), Qt::Key_F9);
     QCOMPARE(opened.photo(), before);
-    QTest::keyRelease(opened.control(red), Qt::Key_F9);
+    QTest::keyRelease(opened.control(red), Qt::Key_F9, Qt::ControlModifier); // pressed meanwhile
     QCOMPARE(opened.photo(), after);
     QTest::mousePress(opened.button(u"compare"_s), Qt::LeftButton);
     QCOMPARE(opened.photo(), before);
@@ -236,6 +236,11 @@ void PreviewTest::dividing()
     for (int i = 0; i < 30; ++i)
         QTest::keyClick(opened.preview, Qt::Key_Left, Qt::ControlModifier);
     QVERIFY(sameAs(before, 15) && sameAs(after, 25));
+    opened.slider(contrast)->setValue(25);
+    opened.click(u"clipped"_s); // which marks nothing that is not adjusted
+    QVERIFY(sameAs(before, 15) && !sameAs(after, 25));
+    opened.click(u"clipped"_s);
+    opened.slider(contrast)->setValue(0);
     opened.click(u"divide"_s);
     QCOMPARE(opened.photo(), after);
 }
@@ -376,7 +381,7 @@ void PreviewTest::detailOfLargePhotos()
     const QString path = photos_.filePath(u"lines.png"_s);
     samples::store(path, samples::encoded(lines, "png"));
     PreviewWidget preview;
-    preview.resize(400, 300);
+    preview.resize(401, 301); // whose middle lies between two pixels
     preview.setPage({QSizeF(288, 192), QRectF(0, 0, 288, 192)});
     preview.setDotsPerInch(1500); // a pixel for each dot
     preview.setPhoto(*Photo::open(path));
@@ -432,6 +437,14 @@ void PreviewTest::colorsOfPhotoAndScreen()
     preview.setProfiles(samples::swappedProfile(), {}); // the screen's
     QVERIFY(shows(photos_.filePath(u"plain.jpg"_s), QColor(40, 100, 40)));
     QVERIFY(shows(photos_.filePath(u"swapped.jpg"_s), QColor(100, 40, 40)));
+
+    // What is cut off is dimmed.
+    preview.setPlacement({Scaling::Fill, 0, {0.5, 0.5}});
+    preview.setPage({QSizeF(200, 200), QRectF(0, 0, 200, 200)});
+    const QColor around = preview.palette().color(QPalette::Window);
+    const QPoint cut = preview.pageToWidget().map(QPointF(-10, 100)).toPoint();
+    const QColor dim(preview.grab().toImage().pixel(cut));
+    QVERIFY(dim.blue() > 60 && dim.blue() < around.blue() - 20);
 }
 
 void PreviewTest::softProof()

@@ -40,6 +40,7 @@ bool PhotoDetail::setPhoto(const Photo &photo)
     detail_ = decodedDetail_ = 0;
     dropPart();
     partUnderWay_.reset();
+    failedWhole_ = {};
     ++number_;
     if (!photo.storedSize().isEmpty())
         decode(PagePhoto::detailFor({}));
@@ -90,6 +91,8 @@ void PhotoDetail::want(const QSize &whole, const QRectF &seen)
         }
         return;
     }
+    if (whole == failedWhole_)
+        return; // it cannot be decoded: what is there stays
     if (partWhole_ == whole && pixels_.partCovers.contains(seen))
         return;
     wholeWanted_ = whole;
@@ -142,7 +145,7 @@ void PhotoDetail::showPart(quint64 number, const WantedPart &asked, const PhotoP
     if (!isWanted)
         decodePart();
     else if (part.image.isNull())
-        wholeWanted_ = {}; // it cannot be decoded: what is there stays
+        failedWhole_ = wholeWanted_;
     if (!part.image.isNull())
         Q_EMIT changed();
 }

@@ -64,7 +64,8 @@ private:
     int decodedDetail_ = 0; ///< those of the last answer
     QSize wholeWanted_;     ///< for which a part is wanted; empty when none is
     QRectF partWanted_;
-    QSize partWhole_; ///< for which pixels_.part was decoded
+    QSize failedWhole_; ///< for which a part could not be decoded
+    QSize partWhole_;   ///< for which pixels_.part was decoded
     std::optional<WantedPart> partUnderWay_;
     quint64 number_ = 0; ///< identifies the current photo; results for another one are dropped
 };

@@ -11,7 +11,9 @@
 #include <QtCore/QLocale>
 #include <QtGui/QAction>
 #include <QtGui/QKeyEvent>
+#include <QtGui/QResizeEvent>
 #include <QtGui/QShortcut>
+#include <QtWidgets/QApplication>
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QMenu>
@@ -72,11 +74,11 @@ PreviewBar::PreviewBar(PreviewWidget *preview, QWidget *parent)
 
     connect(smaller_, &QToolButton::clicked, preview_, &PreviewWidget::zoomOut);
     connect(larger_, &QToolButton::clicked, preview_, &PreviewWidget::zoomIn);
-    connect(compare_, &QToolButton::pressed, this, [this] { preview_->setCompared(true); });
-    connect(compare_, &QToolButton::released, this, [this] { preview_->setCompared(false); });
-    connect(divide_, &QToolButton::toggled, preview_, &PreviewWidget::setDivided);
-    connect(clipped_, &QToolButton::toggled, this, [this](bool isOn) {
-        preview_->setMarksClipped(isOn);
+    connect(compare_, &QToolButton::pressed, this, [this] { setCompared(true); });
+    connect(compare_, &QToolButton::released, this, [this] { setCompared(false); });
+    connect(divide_, &QToolButton::toggled, this, &PreviewBar::useSwitches);
+    connect(clipped_, &QToolButton::toggled, this, [this] {
+        useSwitches();
         showView();
     });
     connect(proof_, &QToolButton::toggled, this, &PreviewBar::proofingChanged);
@@ -107,7 +109,6 @@ void PreviewBar::addZoomMenu()
                 [this, zoom] { preview_->zoomTo(zoom); });
     zoom_->setMenu(menu);
     zoom_->setPopupMode(QToolButton::InstantPopup);
-    zoom_->setAccessibleName(tr("Zoom"));
 }
 
 void PreviewBar::addKeys()
@@ -128,24 +129,28 @@ void PreviewBar::setAdjustable(bool isAdjustable)
     isAdjustable_ = isAdjustable;
     for (QToolButton *button : {compare_, divide_, clipped_})
         button->setVisible(isAdjustable);
-    if (!isAdjustable) {
-        divide_->setChecked(false);
-        clipped_->setChecked(false);
-        preview_->setCompared(false);
-    }
+    if (!isAdjustable)
+        setCompared(false);
+    useSwitches();
     showNote();
 }
 
 void PreviewBar::setProofable(bool isProofable)
 {
+    isProofable_ = isProofable;
     proof_->setVisible(isProofable);
-    if (!isProofable)
-        proof_->setChecked(false);
+}
+
+// What a printer does not have stays switched on for the next one.
+void PreviewBar::useSwitches()
+{
+    preview_->setDivided(isAdjustable_ && divide_->isChecked());
+    preview_->setMarksClipped(isAdjustable_ && clipped_->isChecked());
 }
 
 bool PreviewBar::isProofing() const
 {
-    return proof_->isChecked();
+    return isProofable_ && proof_->isChecked();
 }
 
 void PreviewBar::setRemarks(const QStringList &remarks)
@@ -158,6 +163,7 @@ void PreviewBar::showView()
 {
     const auto zoom = preview_->zoom();
     zoom_->setText(zoom ? tr("%1 %", "a zoom").arg(std::round(*zoom * 100)) : tr("Fit"));
+    zoom_->setAccessibleName(tr("Zoom: %1").arg(zoom_->text()));
     smaller_->setEnabled(zoom.has_value());
     const PageView view = preview_->view();
     larger_->setEnabled(view.placement && zoom.value_or(view.zoomOfPage()) < PreviewWidget::mostZoom);
@@ -179,7 +185,9 @@ void PreviewBar::showNote()
     QStringList notes;
     if (isAdjustable_) {
         notes += tr("Preview is approximate");
-        if (preview_->hidesSharpening())
+        const PageView view = preview_->view();
+        const bool isSmall = view.zoom.value_or(view.zoomOfPage()) < PreviewWidget::dotForDot;
+        if (isSmall && preview_->hidesSharpening())
             notes += tr("sharpness shows at 100 %");
     }
     QStringList lines = {notes.join(tr(" \u00b7 ", "between two short notes"))};
@@ -188,22 +196,46 @@ void PreviewBar::showNote()
     lines.removeAll(QString());
     note_->setText(lines.join(u'\n'));
     note_->setVisible(!lines.isEmpty());
+    // It keeps its lines, so that nothing moves while a slider is dragged.
+    const int height = lines.isEmpty() ? 0 : note_->heightForWidth(width());
+    if (lines.isEmpty() || height > note_->minimumHeight())
+        note_->setMinimumHeight(height);
+}
+
+void PreviewBar::resizeEvent(QResizeEvent *event)
+{
+    QWidget::resizeEvent(event);
+    if (event->oldSize().width() == width())
+        return;
+    note_->setMinimumHeight(0);
+    showNote();
+}
+
+void PreviewBar::setCompared(bool isCompared)
+{
+    preview_->setCompared(isCompared);
+    // A menu or a list that opens meanwhile gets the key's release.
+    if (isCompared)
+        qApp->installEventFilter(this);
+    else
+        qApp->removeEventFilter(this);
 }
 
 // The key is held wherever the focus is: what does not use it passes it on to the window.
 bool PreviewBar::eventFilter(QObject *watched, QEvent *event)
 {
     const bool isPress = event->type() == QEvent::KeyPress;
-    if ((isPress || event->type() == QEvent::KeyRelease) && isAdjustable_) {
+    if (isPress || event->type() == QEvent::KeyRelease) {
         const auto *key = static_cast<QKeyEvent *>(event);
-        if (key->key() == compareKey && key->modifiers() == Qt::NoModifier) {
+        const bool begins = isPress && isAdjustable_ && key->modifiers() == Qt::NoModifier;
+        if (key->key() == compareKey && (begins || !isPress)) {
             if (!key->isAutoRepeat())
-                preview_->setCompared(isPress);
+                setCompared(isPress);
             return true;
         }
     }
-    if (event->type() == QEvent::WindowDeactivate && !compare_->isDown())
-        preview_->setCompared(false); // the release goes elsewhere
+    if (event->type() == QEvent::WindowDeactivate && watched == window() && !compare_->isDown())
+        setCompared(false); // the release goes to another program
     return QWidget::eventFilter(watched, event);
 }
 

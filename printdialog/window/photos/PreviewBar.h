@@ -37,11 +37,14 @@ Q_SIGNALS:
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
     void showEvent(QShowEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
 
 private:
     QToolButton *addButton(const char *name, const QString &text, const QString &hint);
     void addZoomMenu();
     void addKeys();
+    void setCompared(bool isCompared);
+    void useSwitches();
     void showView();
     void showNote();
 
@@ -56,6 +59,7 @@ private:
     QLabel *note_;
     QStringList remarks_;
     bool isAdjustable_ = false;
+    bool isProofable_ = false;
 };
 
 } // namespace printdialog

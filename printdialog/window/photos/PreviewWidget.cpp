@@ -53,6 +53,8 @@ void PreviewWidget::setPhoto(const Photo &photo)
     if (detail_.setPhoto(photo)) {
         drag_ = Drag::None;
         painter_.setPhoto({});
+        if (photo.storedSize().isEmpty())
+            zoom_.reset();
         updateLookup();
         update();
     }
@@ -63,6 +65,8 @@ void PreviewWidget::setPhoto(const Photo &photo)
 void PreviewWidget::updatePhoto()
 {
     const bool wasEmpty = painter_.isEmpty();
+    if (lookupOf_.photo != way_.photo && !detail_.isUnreadable())
+        return; // the table for this photo's colors is on its way
     painter_.setPhoto(detail_.pixels());
     update();
     if (wasEmpty && isReady())
@@ -72,6 +76,7 @@ void PreviewWidget::updatePhoto()
 void PreviewWidget::setPage(const PageGeometry &page)
 {
     page_ = page;
+    limitZoom();
     describe();
     update();
     Q_EMIT viewChanged();
@@ -80,6 +85,7 @@ void PreviewWidget::setPage(const PageGeometry &page)
 void PreviewWidget::setPlacement(const PlacementChoice &choice)
 {
     choice_ = choice;
+    limitZoom();
     describe();
     update();
 }
@@ -94,8 +100,10 @@ void PreviewWidget::setAdjustment(const PictureAdjustment &adjustment)
 
 void PreviewWidget::setDotsPerInch(double dots)
 {
-    if (std::exchange(dotsPerInch_, dots) != dots)
-        setView(view());
+    if (std::exchange(dotsPerInch_, dots) == dots)
+        return;
+    setView(view());
+    limitZoom();
 }
 
 void PreviewWidget::setProfiles(const QByteArray &screen, const QByteArray &paper)
@@ -105,13 +113,19 @@ void PreviewWidget::setProfiles(const QByteArray &screen, const QByteArray &pape
     updateLookup();
 }
 
-/// Makes the table for the screen's colors on a worker thread. The previous one stays until it is there.
+/// Makes the table for the screen's colors on a worker thread. The previous one stays until it is there, and
+/// a photo with a profile of its own waits for it.
 void PreviewWidget::updateLookup()
 {
     const ColorLookup::Way way = {detail_.photo().pixelProfile(), screenProfile_, paperProfile_};
     if (way == way_)
         return;
     way_ = way;
+    if (way == ColorLookup::Way()) {
+        lookupOf_ = way;
+        painter_.adjuster().setLookup(nullptr);
+        return update();
+    }
     ++lookupsUnderWay_;
     startPhotoTask(
         [way, self = QPointer<PreviewWidget>(this)] {
@@ -122,6 +136,7 @@ void PreviewWidget::updateLookup()
                 --self->lookupsUnderWay_;
                 if (way != self->way_)
                     return;
+                self->lookupOf_ = way;
                 self->painter_.adjuster().setLookup(lookup);
                 self->updatePhoto();
                 if (self->isReady())
@@ -200,12 +215,12 @@ void PreviewWidget::describe()
         sentences += cutOff < 0.001 ? tr("The whole photo is printed.")
                                     : tr("%1 % of the photo is cut off.").arg(std::ceil(cutOff * 100));
     const QString hint =
-        zoom_         ? tr("Drag it, or press the arrow keys, to see another part; 0 shows the entire page.")
+        zoom_ && place ? tr("Drag it, or press the arrow keys, to see another part; 0 shows the entire page.")
         : isMovable() ? tr("Drag the photo, or press the arrow keys, to move it; Home puts it in the middle.")
                       : QString();
     if (!hint.isEmpty())
         sentences += hint;
-    if (isDivided_)
+    if (isDivided_ && place)
         sentences +=
             tr("Left of the divider, the photo is shown without the adjustments. Drag the divider, or "
                "press Ctrl and an arrow key, to move it.");

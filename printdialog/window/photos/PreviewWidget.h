@@ -74,6 +74,7 @@ Q_SIGNALS:
 protected:
     bool event(QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
@@ -84,6 +85,7 @@ private:
     enum class Drag { None, Photo, View, Divider };
 
     void setView(const PageView &view);
+    void limitZoom();
     void noteSeen();
     void updatePhoto();
     void updateLookup();
@@ -115,9 +117,11 @@ private:
     bool hidSharpening_ = false;
     QByteArray screenProfile_;
     QByteArray paperProfile_;
-    ColorLookup::Way way_; ///< of the lookup in use, or of the one that is being made
+    ColorLookup::Way way_;      ///< that is wanted
+    ColorLookup::Way lookupOf_; ///< of the table in use
     int lookupsUnderWay_ = 0;
     QPointF lastPosition_;
+    PlacementChoice choiceAtPress_;
     Drag drag_ = Drag::None;
 };
 

@@ -30,6 +30,8 @@ void PreviewWidget::setView(const PageView &view)
 {
     zoom_ = view.zoom;
     center_ = view.center;
+    if (drag_ == Drag::Photo || drag_ == Drag::View)
+        drag_ = zoom_ ? Drag::View : Drag::None; // what is dragged goes on being what is seen
     describe();
     update();
     Q_EMIT viewChanged();
@@ -38,6 +40,8 @@ void PreviewWidget::setView(const PageView &view)
 void PreviewWidget::zoomTo(std::optional<double> zoom)
 {
     const PageView seen = view();
+    if (!seen.placement)
+        return;
     setView(zoom ? seen.zoomed(*zoom, rect().toRectF().center()) : seen.whole());
 }
 
@@ -100,6 +104,10 @@ bool PreviewWidget::pinched(QEvent *event)
         static_cast<QPinchGesture *>(static_cast<QGestureEvent *>(event)->gesture(Qt::PinchGesture));
     if (!pinch)
         return false;
+    if (pinch->state() == Qt::GestureStarted && drag_ == Drag::Photo) {
+        drag_ = Drag::None; // the first finger was no mouse
+        change(choiceAtPress_);
+    }
     if (pinch->changeFlags() & QPinchGesture::ScaleFactorChanged)
         zoomBy(pinch->scaleFactor(), mapFromGlobal(pinch->centerPoint()));
     return true;
@@ -108,6 +116,20 @@ bool PreviewWidget::pinched(QEvent *event)
 bool PreviewWidget::event(QEvent *event)
 {
     return (placement() && pinched(event)) || QWidget::event(event);
+}
+
+/// The page may have become smaller, or the room for it larger: less than the entire page is never meant, but
+/// for the dots of the print.
+void PreviewWidget::limitZoom()
+{
+    if (zoom_ && *zoom_ < dotForDot && *zoom_ <= view().zoomOfPage())
+        zoomTo(std::nullopt);
+}
+
+void PreviewWidget::resizeEvent(QResizeEvent *event)
+{
+    QWidget::resizeEvent(event);
+    limitZoom();
 }
 
 void PreviewWidget::panBy(const QPointF &widgetDistance)
@@ -185,6 +207,7 @@ void PreviewWidget::mousePressEvent(QMouseEvent *event)
             : isMovable()                     ? Drag::Photo
                                               : Drag::None;
     lastPosition_ = event->position();
+    choiceAtPress_ = choice_;
     if (drag_ == Drag::None)
         return QWidget::mousePressEvent(event);
     updateCursor(event->position());
@@ -206,6 +229,8 @@ void PreviewWidget::mouseMoveEvent(QMouseEvent *event)
         break;
     }
     const QRectF photo = PagePainter::seenPhoto(view());
+    if (photo.isEmpty())
+        return;
     moveDivider((event->position().x() - photo.left()) / photo.width());
 }
 
@@ -249,7 +274,7 @@ void PreviewWidget::keyPressEvent(QKeyEvent *event)
     case Qt::Key_2:
         return zoomTo(mostZoom);
     case Qt::Key_Home:
-        if (isMovable()) {
+        if (isMovable() && !zoom_) {
             PlacementChoice middle = choice_;
             middle.crop = PlacementChoice().crop;
             return change(middle);
