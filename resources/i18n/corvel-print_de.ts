@@ -3037,7 +3037,7 @@ der längeren Seite, und beenden; weitere Fotos in FILE-2.png, FILE-3.png, ...</
     </message>
     <message>
         <source>Split</source>
-        <translation>Teilen</translation>
+        <translation>Geteilt</translation>
     </message>
     <message>
         <source>Show the photo without the printer&apos;s adjustments left of a divider that can be dragged</source>
@@ -3069,10 +3069,6 @@ der längeren Seite, und beenden; weitere Fotos in FILE-2.png, FILE-3.png, ...</
         <translation>%1 %</translation>
     </message>
     <message>
-        <source>Zoom</source>
-        <translation>Zoom</translation>
-    </message>
-    <message>
         <source>Clipped: %1 %</source>
         <translation>Clipping: %1 %</translation>
     </message>
@@ -3092,6 +3088,10 @@ der längeren Seite, und beenden; weitere Fotos in FILE-2.png, FILE-3.png, ...</
         <source> · </source>
         <comment>between two short notes</comment>
         <translation> · </translation>
+    </message>
+    <message>
+        <source>Zoom: %1</source>
+        <translation>Zoom: %1</translation>
     </message>
 </context>
 <context>
@@ -3130,7 +3130,7 @@ der längeren Seite, und beenden; weitere Fotos in FILE-2.png, FILE-3.png, ...</
     </message>
     <message>
         <source>Left of the divider, the photo is shown without the adjustments. Drag the divider, or press Ctrl and an arrow key, to move it.</source>
-        <translation>Links der Trennlinie ist das Foto ohne die Anpassungen zu sehen. Die Trennlinie lässt sich ziehen, oder mit Strg und einer Pfeiltaste verschieben.</translation>
+        <translation>Links der Trennlinie ist das Foto ohne die Anpassungen zu sehen. Die Trennlinie lässt sich ziehen oder mit Strg und einer Pfeiltaste verschieben.</translation>
     </message>
 </context>
 <context>

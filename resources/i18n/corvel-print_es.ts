@@ -3016,7 +3016,7 @@ en su lado mayor, y salir; las demás fotos en FILE-2.png, FILE-3.png, ...</tran
     </message>
     <message>
         <source>Fit</source>
-        <translation>Ajustar</translation>
+        <translation>Página completa</translation>
     </message>
     <message>
         <source>How large the page is shown</source>
@@ -3068,10 +3068,6 @@ en su lado mayor, y salir; las demás fotos en FILE-2.png, FILE-3.png, ...</tran
         <translation>%1 %</translation>
     </message>
     <message>
-        <source>Zoom</source>
-        <translation>Zoom</translation>
-    </message>
-    <message>
         <source>Clipped: %1 %</source>
         <translation>Recortado: %1 %</translation>
     </message>
@@ -3091,6 +3087,10 @@ en su lado mayor, y salir; las demás fotos en FILE-2.png, FILE-3.png, ...</tran
         <source> · </source>
         <comment>between two short notes</comment>
         <translation> · </translation>
+    </message>
+    <message>
+        <source>Zoom: %1</source>
+        <translation>Zoom: %1</translation>
     </message>
 </context>
 <context>

@@ -3067,15 +3067,11 @@ FILE-3.png, ...</translation>
     <message>
         <source>%1 %</source>
         <comment>a zoom</comment>
-        <translation>%1 %</translation>
-    </message>
-    <message>
-        <source>Zoom</source>
-        <translation>Zoom</translation>
+        <translation>%1&#x202f;%</translation>
     </message>
     <message>
         <source>Clipped: %1 %</source>
-        <translation>Écrêté&#x202f;: %1 %</translation>
+        <translation>Écrêté&#x202f;: %1&#x202f;%</translation>
     </message>
     <message>
         <source>Clipped</source>
@@ -3087,12 +3083,16 @@ FILE-3.png, ...</translation>
     </message>
     <message>
         <source>sharpness shows at 100 %</source>
-        <translation>la netteté se voit à 100 %</translation>
+        <translation>la netteté se voit à 100&#x202f;%</translation>
     </message>
     <message>
         <source> · </source>
         <comment>between two short notes</comment>
         <translation> · </translation>
+    </message>
+    <message>
+        <source>Zoom: %1</source>
+        <translation>Zoom : %1</translation>
     </message>
 </context>
 <context>

@@ -3065,20 +3065,16 @@ longer side, and exit; of further photos in FILE-2.png, FILE-3.png, ...</source>
         <translation>%1%</translation>
     </message>
     <message>
-        <source>Zoom</source>
-        <translation>ズーム</translation>
-    </message>
-    <message>
         <source>Clipped: %1 %</source>
-        <translation>階調の飽和: %1%</translation>
+        <translation>白とび・黒つぶれ: %1%</translation>
     </message>
     <message>
         <source>Clipped</source>
-        <translation>階調の飽和</translation>
+        <translation>白とび・黒つぶれ</translation>
     </message>
     <message>
         <source>Preview is approximate</source>
-        <translation>プレビューはおおよそのものです</translation>
+        <translation>プレビューは目安です</translation>
     </message>
     <message>
         <source>sharpness shows at 100 %</source>
@@ -3088,6 +3084,10 @@ longer side, and exit; of further photos in FILE-2.png, FILE-3.png, ...</source>
         <source> · </source>
         <comment>between two short notes</comment>
         <translation> · </translation>
+    </message>
+    <message>
+        <source>Zoom: %1</source>
+        <translation>ズーム: %1</translation>
     </message>
 </context>
 <context>
