@@ -230,11 +230,16 @@ int runPreviewChild(const QStringList &arguments)
         giveUp(dialog.message());
     QSlider *slider = colorSlider(dialog);
     showAtSize(*preview, paints);
-    convert(*preview, static_cast<PreviewConversion>(arguments.value(1).toInt()));
+    const auto conversion = static_cast<PreviewConversion>(arguments.value(1).toInt());
+    convert(*preview, conversion);
     measureOutside(*slider, *preview);
     paints.settle(100);
     measureSteps(*slider, paints);
     report("peak", peakMemory(getpid()));
+    const QImage converted = preview->grab().toImage();
+    convert(*preview, PreviewConversion::None);
+    if (conversion != PreviewConversion::None && preview->grab().toImage() == converted)
+        giveUp(QStringLiteral("the colors were not converted"));
     report("changes", showsChange(*slider, *preview, paints));
     std::fflush(stdout);
     pdekit::setSystemLogSink(log);

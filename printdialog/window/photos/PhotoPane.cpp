@@ -25,6 +25,7 @@
 #include <QtWidgets/QVBoxLayout>
 
 #include <algorithm>
+#include <utility>
 
 namespace printdialog {
 
@@ -123,8 +124,8 @@ void PhotoPane::setPrinterPicture(const PrinterPicture &picture)
     bar_->setAdjustable(picture.adjustment.has_value());
     bar_->setRemarks(picture.adjustment ? picture.adjustment->remarks() : QStringList());
     bar_->setProofable(!picture.paperProfile.isEmpty());
-    paperProfile_ = picture.paperProfile;
-    showColors();
+    if (std::exchange(paperProfile_, picture.paperProfile) != picture.paperProfile)
+        showColors();
 }
 
 void PhotoPane::showColors()
