@@ -86,6 +86,7 @@ private Q_SLOTS:
     void detailOfLargePhotos();
     void colorsOfPhotoAndScreen();
     void softProof();
+    void zoomingKeepsTheCrop();
 };
 
 /// A dialog whose preview is complete.
@@ -469,6 +470,49 @@ void PreviewTest::softProof()
     opened.click(u"proof"_s);
     QCOMPARE(opened.photo(), before);
     qunsetenv("XDG_DATA_DIRS");
+}
+
+// The first finger of a pinch, or the button that is held, is no wish to move the photo on its page.
+void PreviewTest::zoomingKeepsTheCrop()
+{
+    PrintDialogSetup square = setup();
+    samples::store(photos_.filePath(u"square.png"_s),
+                   samples::encoded(tones().copy(0, 0, 1000, 1000), "png"));
+    square.photos = {*Photo::open(photos_.filePath(u"square.png"_s))};
+    square.placement = {Scaling::Fill, 0, {0.4, 0.5}};
+    const OpenedPreview opened(square);
+    PreviewWidget &preview = *opened.preview;
+    const auto isKept = [&] {
+        const auto *pane = opened.dialog->findChild<PhotoPane *>();
+        return pane->photos().constFirst().placement == square.placement;
+    };
+    const QPoint middle = preview.rect().center();
+    const std::unique_ptr<QPointingDevice> screen(QTest::createTouchDevice());
+    constexpr QPoint apart(20, 20);
+    constexpr QPoint step(6, 6);
+    QTest::touchEvent(&preview, screen.get()).press(0, middle - apart, &preview);
+    QTest::touchEvent(&preview, screen.get()).stationary(0).press(1, middle + apart, &preview);
+    for (int i = 1; i <= 10; ++i) {
+        QTest::touchEvent(&preview, screen.get())
+            .move(0, middle - apart - i * step, &preview)
+            .move(1, middle + apart + i * step, &preview);
+        QCoreApplication::processEvents();
+    }
+    QTest::touchEvent(&preview, screen.get())
+        .release(0, middle - apart - 10 * step, &preview)
+        .release(1, middle + apart + 10 * step, &preview);
+    QVERIFY(preview.zoom() && isKept());
+    QTest::keyClick(&preview, Qt::Key_Home);
+    QVERIFY(isKept());
+
+    preview.zoomTo(std::nullopt);
+    QTest::mousePress(&preview, Qt::LeftButton, {}, middle);
+    QWheelEvent wheel(middle, preview.mapToGlobal(middle), {}, QPoint(0, 480), Qt::LeftButton, {},
+                      Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(&preview, &wheel);
+    QTest::mouseMove(&preview, middle + QPoint(-30, 0));
+    QTest::mouseRelease(&preview, Qt::LeftButton, {}, middle + QPoint(-30, 0));
+    QVERIFY(preview.zoom() && isKept());
 }
 
 CORVEL_WIDGETS_TEST(PreviewTest)
