@@ -106,6 +106,8 @@ public:
     {
         constexpr double infinity = std::numeric_limits<double>::infinity();
         pdekit::Adjustment adjustment;
+        if (qEnvironmentVariableIsSet("CORVEL_TEST_LOOK"))
+            adjustment.matrix = {}; // all black
         if (qEnvironmentVariable("CORVEL_TEST_FAULT").startsWith(QLatin1String("adjustment")) &&
             !note(QStringLiteral("adjustment"))) {
             adjustment.curves[0] = {0, std::numeric_limits<double>::quiet_NaN()};

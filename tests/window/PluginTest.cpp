@@ -35,7 +35,7 @@ private Q_SLOTS:
     {
         WindowTest::init();
         qputenv("CORVEL_TEST_CALLS", QFile::encodeName(config_->filePath(u"calls"_s)));
-        for (const char *name : {"CORVEL_TEST_FAULT", "CORVEL_TEST_OPTION"})
+        for (const char *name : {"CORVEL_TEST_FAULT", "CORVEL_TEST_OPTION", "CORVEL_TEST_LOOK"})
             qunsetenv(name);
     }
 
@@ -132,6 +132,21 @@ private Q_SLOTS:
         pdekit::setSystemLogSink(sink);
         QCOMPARE(log.size(), 1);
         QCOMPARE(preview->grab().toImage(), unchanged->grab().toImage());
+    }
+
+    void lostPageLosesItsLook()
+    {
+        qputenv("CORVEL_TEST_LOOK", "1");
+        qputenv("CORVEL_TEST_FAULT", "help:int");
+        const auto opened = open();
+        auto *preview = opened->find<PreviewWidget>(u"preview"_s);
+        const auto isBlack = [preview] {
+            const QPoint middle = PagePainter::seenPhoto(preview->view()).center().toPoint();
+            return preview->grab().toImage().pixel(middle + QPoint(0, -20)) == qRgb(0, 0, 0);
+        };
+        QTRY_VERIFY(preview->isComplete() && isBlack());
+        QTest::keyClick(opened->dialog.get(), Qt::Key_F1);
+        QTRY_VERIFY(!isBlack());
     }
 
     void saysWhatCouldNotBeRestored()
