@@ -28,15 +28,10 @@ int main(int argc, char *argv[])
                                                                 : runOpeningChild();
 
     // With names of parts only those: corvel-bench queues jobs
-    const std::pair<const char *, void (*)()> parts[] = {{"opening", benchOpening},
-                                                         {"queues", benchQueues},
-                                                         {"jobs", benchJobs},
-                                                         {"panels", benchPanels},
-                                                         {"optionpage", benchOptionPage},
-                                                         {"preview", benchPreview},
-                                                         {"adjust", benchAdjustments},
-                                                         {"runner", benchRunner},
-                                                         {"pdf", benchPdf}};
+    const std::pair<const char *, void (*)()> parts[] = {
+        {"opening", benchOpening},    {"queues", benchQueues},         {"jobs", benchJobs},
+        {"panels", benchPanels},      {"optionpage", benchOptionPage}, {"preview", benchPreview},
+        {"adjust", benchAdjustments}, {"runner", benchRunner},         {"pdf", benchPdf}};
     printHeader();
     for (const auto &[name, bench] : parts) {
         if (arguments.size() < 2 || arguments.contains(QLatin1String(name)))
