@@ -401,6 +401,13 @@ void PreviewTest::detailOfLargePhotos()
     QVERIFY(PagePainter::seenPart(preview.view()).right() > 0.999);
     preview.zoomTo(std::nullopt);
     QTRY_VERIFY(preview.isComplete() && contrast() < 60);
+    // A part that is wanted again, after it was given up and before it is over.
+    for (const auto zoom : {std::optional(PreviewWidget::dotForDot), std::optional<double>(),
+                            std::optional(PreviewWidget::dotForDot)}) {
+        preview.zoomTo(zoom);
+        (void)preview.grab();
+    }
+    QTRY_COMPARE(contrast(), 255);
 }
 
 // The printer gets the photo's own values, so these are adjusted, and converted then.

@@ -142,10 +142,10 @@ void PhotoDetail::showPart(quint64 number, const WantedPart &asked, const PhotoP
         pixels_.partCovers = part.area;
         partWhole_ = asked.whole;
     }
-    if (!isWanted)
-        decodePart();
-    else if (part.image.isNull())
+    if (isWanted && part.image.isNull() && !*asked.isGivenUp)
         failedWhole_ = wholeWanted_;
+    else if (!isWanted || part.image.isNull())
+        decodePart(); // what was given up may be wanted again
     if (!part.image.isNull())
         Q_EMIT changed();
 }

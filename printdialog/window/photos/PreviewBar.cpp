@@ -22,6 +22,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace printdialog {
 
@@ -83,7 +84,7 @@ PreviewBar::PreviewBar(PreviewWidget *preview, QWidget *parent)
     });
     connect(proof_, &QToolButton::toggled, this, &PreviewBar::proofingChanged);
     connect(preview_, &PreviewWidget::viewChanged, this, &PreviewBar::showView);
-    setAdjustable(false);
+    showAdjustable();
     setProofable(false);
     showView();
 }
@@ -124,12 +125,18 @@ void PreviewBar::addKeys()
     add(Qt::CTRL | Qt::Key_2, [this] { preview_->zoomTo(PreviewWidget::mostZoom); });
 }
 
+// Asked at each step of a slider, so nothing is done again.
 void PreviewBar::setAdjustable(bool isAdjustable)
 {
-    isAdjustable_ = isAdjustable;
+    if (std::exchange(isAdjustable_, isAdjustable) != isAdjustable)
+        showAdjustable();
+}
+
+void PreviewBar::showAdjustable()
+{
     for (QToolButton *button : {compare_, divide_, clipped_})
-        button->setVisible(isAdjustable);
-    if (!isAdjustable)
+        button->setVisible(isAdjustable_);
+    if (!isAdjustable_)
         setCompared(false);
     useSwitches();
     showNote();
@@ -155,8 +162,8 @@ bool PreviewBar::isProofing() const
 
 void PreviewBar::setRemarks(const QStringList &remarks)
 {
-    remarks_ = remarks;
-    showNote();
+    if (std::exchange(remarks_, remarks) != remarks)
+        showNote();
 }
 
 void PreviewBar::showView()

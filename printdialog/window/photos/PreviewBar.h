@@ -44,6 +44,7 @@ private:
     void addZoomMenu();
     void addKeys();
     void setCompared(bool isCompared);
+    void showAdjustable();
     void useSwitches();
     void showView();
     void showNote();

@@ -168,20 +168,23 @@ bool PreviewWidget::hidesSharpening() const
 
 void PreviewWidget::setCompared(bool isCompared)
 {
-    isCompared_ = isCompared;
+    if (std::exchange(isCompared_, isCompared) == isCompared)
+        return;
     update();
 }
 
 void PreviewWidget::setDivided(bool isDivided)
 {
-    isDivided_ = isDivided;
+    if (std::exchange(isDivided_, isDivided) == isDivided)
+        return;
     describe();
     update();
 }
 
 void PreviewWidget::setMarksClipped(bool marks)
 {
-    look_.marksClipped = marks;
+    if (std::exchange(look_.marksClipped, marks) == marks)
+        return;
     update();
 }
 
