@@ -146,7 +146,7 @@ void benchOptionPages(testing_support::PrivateCupsd &server,
     QFile ppd(QStringLiteral(CORVEL_LASER_PPD));
     if (!ppd.open(QIODevice::ReadOnly) || !server.addQueue(queue, ppd.readAll()) ||
         !server.run(QStringLiteral("lpadmin"), {QStringLiteral("-d"), queue})) {
-        printNote(QStringLiteral("%1: not measured, there is no queue").arg(what));
+        printNote(QStringLiteral("%1: not measured, because no queue was found").arg(what));
         return;
     }
     const QStringList mine = ours({queue, QStringLiteral("InputSlot")});

@@ -16,7 +16,7 @@ public:
     ~VirtualDisplay();
     Q_DISABLE_COPY_MOVE(VirtualDisplay)
 
-    /// This process's, with the display for Qt and GTK; nothing when there is no server.
+    /// This process's environment with the display for Qt and GTK added; nothing without a server.
     std::optional<QProcessEnvironment> environment() const;
 
 private:

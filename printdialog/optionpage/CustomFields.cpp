@@ -147,7 +147,7 @@ void CustomFields::applyAtEnd(QLineEdit *field)
         Q_EMIT abandoned();
 }
 
-/// A field that is left as empty as it was is no edit.
+/// Leaving an empty field empty is not an edit.
 bool CustomFields::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() == QEvent::FocusOut &&

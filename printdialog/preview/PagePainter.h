@@ -36,7 +36,7 @@ struct PagePhoto
 
 /// Paints a page as it will be printed, for the window and for files: the paper, the photo with the printer's
 /// adjustments, and dimmed what is cut off of it. Keeps one picture of what is seen of the photo, in device
-/// pixels, and adjusts that anew for each painting. One thread at a time.
+/// pixels, and adjusts it for each painting. One thread at a time.
 class PagePainter
 {
 public:
@@ -55,7 +55,7 @@ public:
     };
 
     void setPhoto(const PagePhoto &photo);
-    /// Whether there is no photo to paint.
+    /// Whether the photo has no pixels yet.
     bool isEmpty() const { return photo_.whole.isNull(); }
     PictureAdjuster &adjuster() { return adjuster_; }
     const PictureAdjuster &adjuster() const { return adjuster_; }

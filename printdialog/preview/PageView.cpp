@@ -29,7 +29,7 @@ QRectF PageView::shown() const
     return sheet.adjusted(-across, -along, across, along);
 }
 
-/// Logical pixels to a point when everything is seen; 0 when there is no room.
+/// Logical pixels to a point when everything is seen; 0 without room.
 double PageView::fittingScale() const
 {
     const QSizeF seen = isTurned() ? shown().size().transposed() : shown().size();

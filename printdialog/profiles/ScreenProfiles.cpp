@@ -87,7 +87,7 @@ void ScreenProfiles::note(const QString &screen, const QString &path)
         Q_EMIT changed();
 }
 
-/// The X server counts its screens anew, and one of a name may be another one.
+/// The X server has renumbered its screens, and a name may stand for another one.
 void ScreenProfiles::forget()
 {
     query_.reset();

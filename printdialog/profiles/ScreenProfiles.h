@@ -19,7 +19,7 @@ namespace printdialog {
 class ScreenProfileQuery;
 
 /// Where the program stands that asks the color manager for a screen's profile: the color manager is reached
-/// by a system bus, which blocks whoever talks to it for good when it hangs. Needs a QCoreApplication.
+/// by a system bus, and a bus that hangs blocks its caller forever. Needs a QCoreApplication.
 QString screenProfileProgram();
 
 /// The ICC profiles of the screens: the X server's, or else the color manager's. Main thread only.

@@ -278,7 +278,7 @@ private Q_SLOTS:
         QCOMPARE(opened.find<QComboBox>(u"Overcoat"_s)->currentText(), u"Matte"_s);
     }
 
-    // What is left empty is no choice.
+    // An empty field is not a choice.
     void customChoiceIsGivenUp()
     {
         const OpenedDialog opened = open();

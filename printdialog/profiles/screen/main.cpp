@@ -3,7 +3,7 @@
 //
 // corvel-screen-profile SCREEN: writes the path of the screen's ICC profile to its standard output, as the
 // system's color manager (colord) knows it; nothing when there is none. A separate program, since a system
-// bus that hangs blocks whoever talks to it.
+// bus that hangs blocks its caller.
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QFile>
@@ -70,7 +70,7 @@ QString profileOf(const QString &screen)
 
 int main(int argc, char *argv[])
 {
-    alarm(10); // seconds; whoever waits for it has given up by then
+    alarm(10); // seconds; the caller has given up by then
     const QCoreApplication application(argc, argv);
     const QStringList arguments = QCoreApplication::arguments();
     if (arguments.size() != 2) {

@@ -17,8 +17,8 @@ class ChildProcess;
 
 namespace printdialog {
 
-/// Where the program stands that lists the printers on the network: a system bus that hangs blocks whoever
-/// talks to it for good, and a process can be given up. Needs a QCoreApplication.
+/// Where the program stands that lists the printers on the network: a system bus that hangs blocks its
+/// caller forever, and a process can be given up. Needs a QCoreApplication.
 QString printerListProgram();
 
 /// A running corvel-printer-list. Main thread only. It ends with this object, and by itself when this process

@@ -3,7 +3,7 @@
 //
 // corvel-printer-list: writes a line of JSON to its standard output for each printer that announces itself on
 // the network, comes, changes or goes, until its standard input is closed (see Announcement.h). A separate
-// program, since a system bus that hangs blocks whoever talks to it.
+// program, since a system bus that hangs blocks its caller.
 
 #include "ServiceBrowser.h"
 
