@@ -6,7 +6,6 @@
 #include "Console.h"
 #include "JobPlan.h"
 #include "JobSummary.h"
-#include "PhotoList.h"
 #include "PrintedNames.h"
 #include "RequestedSession.h"
 #include "SummaryLines.h"
@@ -23,9 +22,9 @@ BatchRun::BatchRun(const CommandLine &commandLine, Console &console)
 
 int BatchRun::run()
 {
-    auto photos = PhotoList::open(commandLine_.photos);
-    if (!photos)
-        return fail(photos.failure().text);
+    const auto opened = openPhotos();
+    if (!opened)
+        return fail(opened.failure().text);
     const auto requested = openRequestedSession(commandLine_);
     if (!requested)
         return fail(requested.failure().text);
@@ -36,19 +35,34 @@ int BatchRun::run()
     if (commandLine_.summary)
         console_.writeLines(summaryLines(jobSummary(session, requested->copies, {commandLine_.placement})));
     job->folder = {commandLine_.outputFolder(), commandLine_.overwrite, commandLine_.photos};
-    return commandLine_.dryRun ? showPlan(*photos, *job, session.printer().uri) : printAll(*photos, *job);
+    const Arrangement arrangement = job->isRaw() ? opened->unplaced() : *opened;
+    return commandLine_.dryRun ? showPlan(arrangement, *job, session.printer().uri)
+                               : printAll(arrangement, *job);
 }
 
-int BatchRun::showPlan(PhotoList &photos, const PrintJob &job, const QString &uri)
+/// Fails with the first photo that cannot be printed.
+Result<Arrangement, PhotoFault> BatchRun::openPhotos() const
 {
+    Arrangement arrangement;
+    for (const QString &path : commandLine_.photos) {
+        auto photo = Photo::open(path);
+        if (!photo)
+            return photo.failure();
+        arrangement.photos += PlacedPhoto{*std::move(photo), commandLine_.placement, !commandLine_.checks};
+    }
+    return arrangement;
+}
+
+int BatchRun::showPlan(const Arrangement &arrangement, const PrintJob &job, const QString &uri)
+{
+    const SheetPlan sheets = arrangement.plan(job.page);
+    if (sheets.failure())
+        return fail(sheets.failure()->text);
     PrintedNames names(job.folder);
     QJsonArray array;
     QStringList lines;
-    for (qsizetype i = 0; i < photos.size(); ++i) {
-        auto photo = photos.take(i);
-        if (!photo)
-            return fail(photo.failure().text);
-        const auto plan = JobPlan::make(placed(*std::move(photo)), job, uri, names);
+    for (const LaidSheet &laid : sheets.sheets()) {
+        const auto plan = JobPlan::make(arrangement.sheet(laid), job, uri, names);
         if (!plan && plan.failure().reason.isPhotoFault) {
             skipped(plan.failure().text);
             continue;
@@ -67,24 +81,17 @@ int BatchRun::showPlan(PhotoList &photos, const PrintJob &job, const QString &ur
     return endOf(exitDone);
 }
 
-PlacedPhoto BatchRun::placed(Photo photo) const
+int BatchRun::printAll(const Arrangement &arrangement, const PrintJob &job)
 {
-    return {std::move(photo), commandLine_.placement, !commandLine_.checks};
-}
-
-int BatchRun::printAll(PhotoList &photos, const PrintJob &job)
-{
+    const SheetPlan plan = arrangement.plan(job.page);
+    if (plan.failure())
+        return fail(plan.failure()->text);
     FollowLimits limits;
     if (commandLine_.wait)
         limits.total = *commandLine_.wait;
     PrintRun run(job, *this, {interrupt_.flag(), nullptr, interrupt_.flag()}, limits);
-    const PrintOutcome outcome =
-        run.print(photos.size(), [&](qsizetype index) -> Result<PlacedPhoto, PhotoFault> {
-            auto photo = photos.take(index);
-            if (!photo)
-                return photo.failure();
-            return placed(*std::move(photo));
-        });
+    const PrintOutcome outcome = run.print(
+        plan.sheets().size(), [&](qsizetype index) { return arrangement.sheet(plan.sheets().at(index)); });
     progress_.clear();
     return conclude(outcome, !job.destination.isBuiltIn());
 }
@@ -108,7 +115,7 @@ int BatchRun::conclude(const PrintOutcome &outcome, bool isQueue)
 
 // Progress
 
-void BatchRun::sending(qsizetype /*photo*/, const QString &name, qint64 sent, qint64 total)
+void BatchRun::sending(qsizetype /*sheet*/, const QString &name, qint64 sent, qint64 total)
 {
     if (total == 0)
         progress_.show(name);
@@ -130,7 +137,7 @@ void BatchRun::skipped(const QString &sentence)
     hasSkipped_ = true;
 }
 
-void BatchRun::following(qsizetype /*photo*/, const QString &name, const QString &state)
+void BatchRun::following(qsizetype /*sheet*/, const QString &name, const QString &state)
 {
     progress_.show(tr("%1: %2").arg(name, state));
 }

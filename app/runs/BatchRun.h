@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "Arrangement.h"
 #include "CommandLine.h"
 #include "InterruptFlag.h"
 #include "PrintRun.h"
@@ -13,10 +14,9 @@
 namespace printdialog {
 
 class Console;
-class PhotoList;
 
 /// Prints without a window. The photos, the printer and each choice are checked before anything is printed.
-/// Main thread; blocks until the last photo is printed, or a queue's jobs were followed up to the command
+/// Main thread; blocks until the last sheet is printed, or a queue's jobs were followed up to the command
 /// line's limit. When interrupted, it cancels the jobs it has sent and fails.
 class BatchRun : private PrintRunListener
 {
@@ -26,20 +26,20 @@ public:
     /// Borrows both.
     BatchRun(const CommandLine &commandLine, Console &console);
 
-    /// Prints, and writes a line for each printed photo. Complains about each damaged photo, which is left
+    /// Prints, and writes a line for each printed sheet. Complains about each damaged photo, which is left
     /// out, and about the first other failure. A dry run shows instead what would be sent.
     int run();
 
 private:
-    void sending(qsizetype photo, const QString &name, qint64 sent, qint64 total) override;
+    void sending(qsizetype sheet, const QString &name, qint64 sent, qint64 total) override;
     void printed(const QString &sentence) override;
     void skipped(const QString &sentence) override;
-    void following(qsizetype photo, const QString &name, const QString &state) override;
+    void following(qsizetype sheet, const QString &name, const QString &state) override;
 
-    int showPlan(PhotoList &photos, const PrintJob &job, const QString &uri);
-    int printAll(PhotoList &photos, const PrintJob &job);
+    int showPlan(const Arrangement &arrangement, const PrintJob &job, const QString &uri);
+    int printAll(const Arrangement &arrangement, const PrintJob &job);
     int conclude(const PrintOutcome &outcome, bool isQueue);
-    PlacedPhoto placed(Photo photo) const;
+    Result<Arrangement, PhotoFault> openPhotos() const;
     int endOf(int status) const;
     int fail(const QString &sentence);
 

@@ -4,6 +4,7 @@
 #include "JobPlan.h"
 
 #include "JobTemplate.h"
+#include "PhotoCheck.h"
 #include "PrintedNames.h"
 #include "PrinterAddress.h"
 #include "QueueList.h"
@@ -13,27 +14,26 @@
 
 namespace printdialog {
 
-Result<JobPlan, PhotoPrinter::Fault> JobPlan::make(const PlacedPhoto &placed, const PrintJob &job,
+Result<JobPlan, SheetPrinter::Fault> JobPlan::make(const PrintSheet &sheet, const PrintJob &job,
                                                    const QString &uri, PrintedNames &names)
 {
-    const Photo &photo = placed.photo;
-    JobPlan plan(photo.path(), job, uri);
+    JobPlan plan(sheet, job, uri);
+    plan.job_.copies *= sheet.copies;
     if (job.destination.isBuiltIn()) {
-        if (const auto damage = placed.isAccepted ? std::nullopt : photo.damage())
-            return Failure<PhotoPrinter::Fault>{{std::nullopt, true}, damage->text, damage->detail};
-        const QString name = names.nameFor(photo.path());
+        if (const auto damage = PhotoCheck(sheet.photosToCheck()).wait())
+            return Failure<SheetPrinter::Fault>{{std::nullopt, true}, damage->text, damage->detail};
+        const QString name = names.nameFor(sheet.photos.constFirst().photo.path());
         names.markTaken(name);
         for (const QLatin1String suffix : {PrintedNames::pageSuffix, PrintedNames::ticketSuffix})
             plan.files_.append(QDir(names.folder().path).absoluteFilePath(name + suffix));
         return plan;
     }
-    const auto document = PhotoPrinter::documentOf(placed, job);
+    const auto document = SheetPrinter::documentOf(sheet, job);
     if (!document)
         return document.failure();
     plan.document_ = *document;
     const auto printer = PrinterAddress::of(job.destination.queue);
     plan.server_ = printer ? printer->server() : printServerAddress();
-    plan.isUntouched_ = document->data == photo.content();
     if (job.ipp) {
         QMap<QString, QString> options = attributesFor(job, *document).spelled();
         for (auto option = job.options.cbegin(); option != job.options.cend(); ++option) {
@@ -54,7 +54,8 @@ QStringList JobPlan::lines() const
         lines.append(QStringLiteral("%1: %2").arg(label, value));
     };
     add(tr("Printer"), job_.destination.id());
-    add(tr("Photo"), photo_);
+    for (const SheetPhoto &laid : sheet_.photos)
+        add(tr("Photo"), laid.photo.path());
     if (job_.destination.isBuiltIn()) {
         for (const QString &file : files_)
             add(tr("File"), file);
@@ -62,7 +63,7 @@ QStringList JobPlan::lines() const
         add(tr("Server"), server_);
         add(tr("Address"), uri_);
         const QString format = QString::fromLatin1(document_.mimeType);
-        add(tr("Format"), isUntouched_ ? tr("%1, the file as it is").arg(format) : format);
+        add(tr("Format"), document_.isUntouched ? tr("%1, the file as it is").arg(format) : format);
         add(tr("Bytes"), QString::number(document_.data.size()));
         add(tr("Title"), document_.name);
     }
@@ -80,7 +81,7 @@ QJsonObject JobPlan::json() const
     for (auto option = job_.options.cbegin(); option != job_.options.cend(); ++option)
         options.insert(option.key(), option.value());
     QJsonObject object = {{QStringLiteral("queue"), job_.destination.id()},
-                          {QStringLiteral("document"), photo_},
+                          {QStringLiteral("document"), sheet_.photos.constFirst().photo.path()},
                           {QStringLiteral("copies"), job_.copies},
                           {QStringLiteral("options"), options}};
     if (job_.destination.isBuiltIn()) {
@@ -91,7 +92,7 @@ QJsonObject JobPlan::json() const
     object.insert(QStringLiteral("uri"), uri_);
     object.insert(QStringLiteral("format"), QString::fromLatin1(document_.mimeType));
     object.insert(QStringLiteral("bytes"), document_.data.size());
-    object.insert(QStringLiteral("untouched"), isUntouched_);
+    object.insert(QStringLiteral("untouched"), document_.isUntouched);
     object.insert(QStringLiteral("title"), document_.name);
     return object;
 }

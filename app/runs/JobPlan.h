@@ -3,14 +3,14 @@
 
 #pragma once
 
-#include "PhotoPrinter.h"
+#include "SheetPrinter.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QJsonObject>
 
 namespace printdialog {
 
-/// A dry run of one photo: what printing it would send to a queue, or write as files. A snapshot.
+/// A dry run of one sheet: what printing it would send to a queue, or write as files. A snapshot.
 class JobPlan
 {
     Q_DECLARE_TR_FUNCTIONS(JobPlan)
@@ -18,7 +18,7 @@ class JobPlan
 public:
     /// Makes the document without sending it. `uri` is the queue's own address; `names` chooses the names of
     /// the built-in printer's files.
-    static Result<JobPlan, PhotoPrinter::Fault> make(const PlacedPhoto &placed, const PrintJob &job,
+    static Result<JobPlan, SheetPrinter::Fault> make(const PrintSheet &sheet, const PrintJob &job,
                                                      const QString &uri, PrintedNames &names);
 
     /// One line per entry: "label: value".
@@ -28,20 +28,19 @@ public:
     QJsonObject json() const;
 
 private:
-    JobPlan(const QString &photo, const PrintJob &job, const QString &uri)
-        : photo_(photo)
+    JobPlan(const PrintSheet &sheet, const PrintJob &job, const QString &uri)
+        : sheet_(sheet)
         , job_(job)
         , uri_(uri)
     {
     }
 
-    QString photo_; ///< its path
+    PrintSheet sheet_;
     PrintJob job_;
     QString uri_;
     JobDocument document_; ///< only for a queue
     QString server_;
     QStringList files_;
-    bool isUntouched_ = false;
 };
 
 } // namespace printdialog

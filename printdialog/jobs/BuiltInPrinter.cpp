@@ -8,6 +8,7 @@
 #include "PhotoCheck.h"
 
 #include <QtCore/QFileInfo>
+#include <QtCore/QJsonArray>
 #include <QtCore/QJsonDocument>
 #include <QtCore/QJsonObject>
 
@@ -22,15 +23,24 @@ QJsonObject jsonOf(const QMap<QString, QString> &texts)
     return object;
 }
 
-QByteArray ticketOf(const Photo &photo, const PrintJob &job)
+QByteArray ticketOf(const PrintSheet &sheet, const PrintJob &job)
 {
-    const QJsonObject ticket{
+    const auto pathOf = [](const SheetPhoto &laid) {
+        return QFileInfo(laid.photo.path()).absoluteFilePath();
+    };
+    QJsonObject ticket{
         {QStringLiteral("printer"), job.destination.id()},
-        {QStringLiteral("document"), QFileInfo(photo.path()).absoluteFilePath()},
+        {QStringLiteral("document"), pathOf(sheet.photos.constFirst())},
         {QStringLiteral("options"), jsonOf(job.options)},
         {QStringLiteral("summary"), jsonOf(job.summary)},
-        {QStringLiteral("copies"), job.copies},
+        {QStringLiteral("copies"), job.copies * sheet.copies},
     };
+    if (sheet.photos.size() > 1) {
+        QJsonArray paths;
+        for (const SheetPhoto &laid : sheet.photos)
+            paths.append(pathOf(laid));
+        ticket.insert(QStringLiteral("photos"), paths);
+    }
     return QJsonDocument(ticket).toJson(QJsonDocument::Indented);
 }
 
@@ -47,7 +57,7 @@ Failure<OutputFault> outputFailureOf(const Failure<PdfFault> &failure)
 namespace {
 
 /// `name` is the common name of both files, without suffix.
-Result<PrintedFiles, OutputFault> printAs(const QString &name, const PlacedPhoto &placed, const PrintJob &job,
+Result<PrintedFiles, OutputFault> printAs(const QString &name, const PrintSheet &sheet, const PrintJob &job,
                                           const OutputFolder &folder)
 {
     auto files = AtomicFiles::open(folder.path);
@@ -61,17 +71,18 @@ Result<PrintedFiles, OutputFault> printAs(const QString &name, const PlacedPhoto
     if (!ticket)
         return ticket.failure();
 
-    std::optional<PhotoCheck> check;
-    if (!placed.isAccepted)
-        check.emplace(placed.photo);
-    const auto written = PdfWriter::write(placed.photo, job.page, **pdf, placed.placement);
+    PhotoCheck check(sheet.photosToCheck());
+    PdfWriter writer(**pdf);
+    auto unwritten = writer.add(sheet, job.page, job.offset);
+    if (!unwritten)
+        unwritten = writer.finish();
     if (auto failure = files->writeFailure())
         return *failure;
-    if (const auto damage = check ? check->wait() : std::nullopt)
+    if (const auto damage = check.wait())
         return Failure<OutputFault>{OutputFault::PhotoUnusable, damage->text, damage->detail};
-    if (!written)
-        return outputFailureOf(written.failure());
-    (*ticket)->write(ticketOf(placed.photo, job));
+    if (unwritten)
+        return outputFailureOf(*unwritten);
+    (*ticket)->write(ticketOf(sheet, job));
 
     const auto paths =
         files->commit(folder.isOverwritten ? AtomicFiles::Earlier::Replaced : AtomicFiles::Earlier::Kept);
@@ -82,13 +93,13 @@ Result<PrintedFiles, OutputFault> printAs(const QString &name, const PlacedPhoto
 
 } // namespace
 
-Result<PrintedFiles, OutputFault> BuiltInPrinter::print(const PlacedPhoto &placed, const PrintJob &job,
+Result<PrintedFiles, OutputFault> BuiltInPrinter::print(const PrintSheet &sheet, const PrintJob &job,
                                                         PrintedNames &names)
 {
     constexpr int mostTries = 100;
     for (int tries = 1;; ++tries) {
-        const QString name = names.nameFor(placed.photo.path());
-        auto files = printAs(name, placed, job, names.folder());
+        const QString name = names.nameFor(sheet.photos.constFirst().photo.path());
+        auto files = printAs(name, sheet, job, names.folder());
         const bool isTaken = !files && files.failure().reason == OutputFault::NameTaken;
         if (files || (isTaken && !names.folder().isOverwritten))
             names.markTaken(name);

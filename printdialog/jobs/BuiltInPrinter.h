@@ -4,8 +4,8 @@
 #pragma once
 
 #include "OutputFault.h"
-#include "PlacedPhoto.h"
 #include "PrintJob.h"
+#include "PrintSheet.h"
 #include "PrintedNames.h"
 #include "Result.h"
 
@@ -29,9 +29,10 @@ public:
     /// chooses a free name, which is marked as taken when the job has succeeded. The ticket holds the number
     /// of copies; the PDF has one page. May run on any thread, one call at a time per `names`.
     ///
-    /// The ticket is a JSON object, UTF-8 and indented: "printer", "document" (the photo's absolute path),
-    /// "options" and "summary" (objects of texts), "copies" (a number).
-    static Result<PrintedFiles, OutputFault> print(const PlacedPhoto &placed, const PrintJob &job,
+    /// The ticket is a JSON object, UTF-8 and indented: "printer", "document" (the first photo's absolute
+    /// path), "photos" (the paths of all of them, where there are several), "options" and "summary" (objects
+    /// of texts), "copies" (a number).
+    static Result<PrintedFiles, OutputFault> print(const PrintSheet &sheet, const PrintJob &job,
                                                    PrintedNames &names);
 };
 

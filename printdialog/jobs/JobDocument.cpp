@@ -46,7 +46,7 @@ bool isSame(const QRectF &area, const QRectF &sheet)
 
 } // namespace
 
-bool canGoUntouched(const Photo &photo, const PageGeometry &page, const PlacementChoice &choice)
+bool canGoUntouched(const Photo &photo, const PageGeometry &page, const PhotoPlacement &placement)
 {
     const QRectF sheet(QPointF(), page.size);
     if (!photo.jpegHeader() || !photo.isEmbeddable() || photo.orientation().value() != 1 ||
@@ -55,30 +55,33 @@ bool canGoUntouched(const Photo &photo, const PageGeometry &page, const Placemen
     constexpr int cmyk = 4;
     if (photo.jpegHeader()->components == cmyk || !(photo.profile().isEmpty() || photo.profile().isSrgb()))
         return false;
-    const QTransform toPage =
-        PhotoPlacement::place(photo.orientedSize(), photo.printedResolution(), page, choice).toPage();
+    const QTransform toPage = placement.toPage();
     const bool isStraight = qFuzzyIsNull(toPage.m12()) && qFuzzyIsNull(toPage.m21());
     return isStraight && toPage.m11() > 0 && toPage.m22() > 0 &&
            isSame(toPage.mapRect(QRectF(0, 0, 1, 1)), sheet);
 }
 
-Result<JobDocument, PdfFault> jobDocument(const PlacedPhoto &placed, const PrintJob &job)
+Result<JobDocument, PdfFault> jobDocument(const PrintSheet &sheet, const PrintJob &job)
 {
-    const Photo &photo = placed.photo;
     JobDocument document;
-    document.name = photo.fileName();
-    const QByteArray type = mimeTypeOf(photo);
-    if (job.isRaw() || (job.directTypes.contains(type) && !isLeftUnscaled(job) &&
-                        canGoUntouched(photo, job.page, placed.placement))) {
+    document.name = sheet.name;
+    const SheetPhoto &first = sheet.photos.constFirst();
+    const QByteArray type = mimeTypeOf(first.photo);
+    if (job.isRaw() || (sheet.isPlain() && job.offset.isNull() && job.directTypes.contains(type) &&
+                        !isLeftUnscaled(job) && canGoUntouched(first.photo, job.page, first.placement))) {
         document.mimeType = type;
-        document.data = photo.content();
+        document.data = first.photo.content();
+        document.isUntouched = true;
         return document;
     }
     QBuffer buffer(&document.data);
     buffer.open(QIODevice::WriteOnly);
-    const auto page = PdfWriter::write(photo, job.page, buffer, placed.placement);
-    if (!page)
-        return page.failure();
+    PdfWriter writer(buffer);
+    auto failure = writer.add(sheet, job.page, job.offset);
+    if (!failure)
+        failure = writer.finish();
+    if (failure)
+        return *failure;
     document.mimeType = pdfType;
     return document;
 }

@@ -4,17 +4,18 @@
 #pragma once
 
 #include "PdfWriter.h"
-#include "PlacedPhoto.h"
 #include "PrintJob.h"
+#include "PrintSheet.h"
 
 namespace printdialog {
 
-/// The document sent to a queue for one photo.
+/// The document sent to a queue for one sheet.
 struct JobDocument
 {
-    QByteArray data;     ///< Sent byte for byte.
-    QByteArray mimeType; ///< For example "image/jpeg"; the server chooses its filters by it.
-    QString name;        ///< The photo's file name: the job's title, and the document's name at the server.
+    QByteArray data;          ///< Sent byte for byte.
+    QByteArray mimeType;      ///< For example "image/jpeg"; the server chooses its filters by it.
+    QString name;             ///< The sheet's: the job's title, and the document's name at the server.
+    bool isUntouched = false; ///< Whether it is a photo's own file.
 };
 
 /// Whether the photo's own file, sent unchanged, prints as the placement says, however the printer places a
@@ -24,11 +25,12 @@ struct JobDocument
 /// - its pixels are stored upright, since not every printer honours the Exif orientation,
 /// - the whole sheet can be printed on, and
 /// - the placement has no turn and covers the sheet to within 1/300 inch on each side.
-bool canGoUntouched(const Photo &photo, const PageGeometry &page, const PlacementChoice &choice);
+bool canGoUntouched(const Photo &photo, const PageGeometry &page, const PhotoPlacement &placement);
 
-/// Makes the document for a photo. It is the unchanged file when the queue passes that type to its printer as
-/// it is and canGoUntouched(), or when the queue is a raw one; else a PDF of the page.
-Result<JobDocument, PdfFault> jobDocument(const PlacedPhoto &placed, const PrintJob &job);
+/// Makes the document for a sheet. It is the unchanged file of a photo that is alone on it when the queue
+/// passes that type to its printer as it is and canGoUntouched(), or when the queue is a raw one; else a PDF
+/// of the page.
+Result<JobDocument, PdfFault> jobDocument(const PrintSheet &sheet, const PrintJob &job);
 
 /// Whether the printer is known not to take documents of the type.
 bool lacksFormat(const PrintJob &job, const QByteArray &mimeType);

@@ -16,15 +16,19 @@
 
 namespace printdialog {
 
-/// The most copies of each photo in a job.
+/// The most copies that a user asks for.
 inline constexpr int mostCopies = 999;
+/// The most copies of a sheet in a job: what print servers take by default (MaxCopies, cupsd.conf).
+inline constexpr int mostJobCopies = 9999;
 
-/// A job's settings, without its photos (PlacedPhoto).
+/// A job's settings, without what is printed (PrintSheet).
 struct PrintJob
 {
     Destination destination;
     OutputFolder folder; ///< Only for the built-in printer.
     PageGeometry page;
+    /// In points: how far everything on the page is moved, since the printer prints that far beside it.
+    QPointF offset = {};
     QMap<QString, QString> options; ///< Option keyword to choice keyword, both the PPD's; not "copies".
     QMap<QString, QString> secrets; ///< Like `options`, and only sent: never shown, stored or logged.
     QMap<QString, QString> summary; ///< Shown to people: label to text.

@@ -9,9 +9,7 @@
 namespace printdialog {
 namespace {
 
-constexpr double pointsPerInch = 72;
 constexpr double shortestMove = 0.01; // points; smaller moves are rounding errors
-
 double scaleToFit(const QSizeF &photo, const QSizeF &area)
 {
     return std::min(area.width() / photo.width(), area.height() / photo.height());
@@ -57,31 +55,104 @@ double moved(double position, double distance, double slack)
     return std::abs(slack) < shortestMove ? position : std::clamp(position + distance / slack, 0.0, 1.0);
 }
 
+int turnsOfPhoto(const QSizeF &photo, const QSizeF &area, Scaling scaling, PhotoFrame::Turn turn)
+{
+    if (turn == PhotoFrame::Turn::ToSuit)
+        return gainsByTurn(photo, area, scaling) ? 1 : 0;
+    return turn == PhotoFrame::Turn::Always ? 1 : 0;
+}
+
+/// The print's size beside an upright photo: a wide photo gets a wide print.
+QSizeF sizeFor(const QSizeF &photo, const PrintSize &size)
+{
+    const bool isOther = (photo.width() > photo.height()) != (size.points.width() > size.points.height());
+    return isOther && !size.keepsOrientation && photo.width() != photo.height() ? size.points.transposed()
+                                                                                : size.points;
+}
+
+/// Whether the print lies on its side in the frame: only when it has no room otherwise.
+int turnsOfPrint(const QSizeF &size, const PhotoFrame &frame)
+{
+    if (frame.turn != PhotoFrame::Turn::ToSuit)
+        return frame.turn == PhotoFrame::Turn::Always ? 1 : 0;
+    const auto overlap = [&frame](const QSizeF &print) {
+        return print.boundedTo(frame.area.size() + QSizeF(layoutTolerance, layoutTolerance));
+    };
+    const QSizeF upright = overlap(size);
+    const QSizeF turned = overlap(size.transposed());
+    const double gain = turned.width() * turned.height() - upright.width() * upright.height();
+    return gain > layoutTolerance * (size.width() + size.height()) ? 1 : 0;
+}
+
+/// The room inside a border; a point's width of it when the border leaves nothing.
+QRectF within(const QRectF &room, double border)
+{
+    const double most = std::max(0.0, (std::min(room.width(), room.height()) - 1) / 2);
+    const double width = std::min(border, most);
+    return room.adjusted(width, width, -width, -width);
+}
+
+QRectF inTheMiddle(const QRectF &area, const QSizeF &size)
+{
+    QRectF rect(QPointF(), size);
+    rect.moveCenter(area.center());
+    return rect;
+}
+
 } // namespace
 
-PhotoPlacement PhotoPlacement::place(const QSize &seenSize, double pixelsPerInch, const PageGeometry &page,
+PhotoPlacement PhotoPlacement::place(const QSize &seenSize, double pixelsPerInch, const PhotoFrame &frame,
                                      const PlacementChoice &choice)
 {
     PhotoPlacement placement;
-    placement.area = choice.scaling == Scaling::Fill ? page.imageable : page.printed();
-    const QSizeF area = placement.area.size();
+    placement.border = choice.border;
     QSizeF photo = QSizeF(seenSize) * (pointsPerInch / pixelsPerInch);
-    placement.pageTurns = gainsByTurn(photo, area, choice.scaling) ? 1 : 0;
+    QRectF room = frame.area;     // for the print with its border
+    QRectF covered = frame.bleed; // by a photo that fills it
+    if (choice.size) {
+        const QSizeF size = sizeFor(photo, *choice.size);
+        placement.pageTurns = turnsOfPrint(size, frame);
+        room = inTheMiddle(frame.area, placement.pageTurns != 0 ? size.transposed() : size);
+        covered = room;
+    }
+    const double width = choice.border.width;
+    const QRectF inner = within(room, width);
+    const bool isFilled = choice.scaling == Scaling::Fill;
+    placement.area = choice.border.isThere() ? inner : isFilled ? covered : room;
+    placement.clip = choice.border.isThere() ? inner : covered;
+
+    const QSizeF area = placement.area.size();
+    if (!choice.size)
+        placement.pageTurns = turnsOfPhoto(photo, area, choice.scaling, frame.turn);
     placement.quarterTurns = (placement.pageTurns + choice.turns) % 4;
     if (placement.quarterTurns % 2 != 0)
         photo.transpose();
     if (choice.scaling == Scaling::Fit)
         photo *= scaleToFit(photo, area);
-    else if (choice.scaling == Scaling::Fill)
+    else if (isFilled)
         photo *= scaleToFill(photo, area);
+    photo *= choice.scale;
     placement.target.setSize(photo);
     const QPointF middle(0.5, 0.5);
-    const QPointF crop =
-        choice.scaling == Scaling::Fit ? middle : turned(choice.crop, placement.quarterTurns);
+    const QPointF crop = choice.isCentered() ? middle : turned(choice.crop, placement.quarterTurns);
     const QPointF slack = placement.slack();
     placement.target.moveTopLeft(placement.area.topLeft() +
                                  QPointF(slack.x() * crop.x(), slack.y() * crop.y()));
+
+    // A print of a size of its own is cut out along its size, any other along what is seen of it.
+    const QRectF seen = placement.target & placement.clip;
+    const QRectF framed = isFilled ? covered : seen.adjusted(-width, -width, width, width);
+    placement.outline = choice.size ? room : choice.border.isThere() ? framed : seen;
     return placement;
+}
+
+bool PhotoPlacement::fits(const QSizeF &size, const QSizeF &area)
+{
+    const auto hasRoom = [&area](const QSizeF &print) {
+        return print.width() <= area.width() + layoutTolerance &&
+               print.height() <= area.height() + layoutTolerance;
+    };
+    return hasRoom(size) || hasRoom(size.transposed());
 }
 
 QTransform PhotoPlacement::toPage(ExifOrientation orientation) const
@@ -101,7 +172,7 @@ QPointF PhotoPlacement::slack() const
 PlacementChoice PhotoPlacement::moved(const PlacementChoice &choice, const QPointF &distance) const
 {
     PlacementChoice result = choice;
-    if (choice.scaling == Scaling::Fit)
+    if (choice.isCentered())
         return result;
     const QPointF room = slack();
     QPointF crop = turned(choice.crop, quarterTurns);
@@ -113,7 +184,7 @@ PlacementChoice PhotoPlacement::moved(const PlacementChoice &choice, const QPoin
 
 double PhotoPlacement::cutOff(const PageGeometry &page) const
 {
-    const QRectF kept = target & page.printed();
+    const QRectF kept = seen(page);
     const double whole = target.width() * target.height();
     return std::max(0.0, 1 - kept.width() * kept.height() / whole);
 }

@@ -3,8 +3,11 @@
 
 #include "PdfWriter.h"
 
-#include "PdfFile.h"
+#include "CaptionOutline.h"
 #include "PlainText.h"
+
+#include <QtCore/QMap>
+#include <QtGui/QColor>
 
 #include <cmath>
 #include <initializer_list>
@@ -31,33 +34,99 @@ QByteArray numbers(std::initializer_list<double> values)
     return text;
 }
 
-/// The page's content stream: the image's unit square in the photo's place, clipped to the imageable area. In
-/// a PDF, y runs up from the bottom of the page and of the image.
-QByteArray drawing(const Photo &photo, const PageGeometry &page, const PlacementChoice &choice)
+QByteArray rectangle(const QRectF &rect, double pageHeight)
 {
-    const PhotoPlacement placement =
-        PhotoPlacement::place(photo.orientedSize(), photo.printedResolution(), page, choice);
-    const QTransform matrix = QTransform(1, 0, 0, -1, 0, 1) * placement.toPage(photo.orientation()) *
-                              QTransform(1, 0, 0, -1, 0, page.size.height());
-    const QRectF &area = page.imageable;
-    return "q\n" + numbers({area.left(), page.size.height() - area.bottom(), area.width(), area.height()}) +
-           "re W n\n" +
-           numbers({matrix.m11(), matrix.m12(), matrix.m21(), matrix.m22(), matrix.dx(), matrix.dy()}) +
-           "cm\n/Photo Do\nQ\n";
+    return numbers({rect.left(), pageHeight - rect.bottom(), rect.width(), rect.height()}) + "re ";
 }
 
-/// The document's information dictionary. The photo's date makes repeated runs give the same bytes.
-QByteArray information(const Photo &photo)
+/// The photo in its place: the image's unit square, clipped. In a PDF, y runs up from the bottom of the page
+/// and of the image.
+QByteArray drawing(const SheetPhoto &laid, const QByteArray &name, double pageHeight)
 {
-    return "<< /Title " + PdfFile::string(plainText(photo.fileName())) +
-           " /Creator (corvel-print) /Producer (corvel-print) /CreationDate (D:" +
-           photo.modified().toUTC().toString(QStringLiteral("yyyyMMddHHmmss")).toLatin1() + "Z) >>";
+    const PhotoPlacement &placement = laid.placement;
+    const QTransform matrix = QTransform(1, 0, 0, -1, 0, 1) * placement.toPage(laid.photo.orientation()) *
+                              QTransform(1, 0, 0, -1, 0, pageHeight);
+    QByteArray content;
+    if (placement.border.isThere()) {
+        const QColor color(placement.border.color);
+        content += numbers({color.redF(), color.greenF(), color.blueF()}) + "rg\n" +
+                   rectangle(placement.outline, pageHeight) + "f\n";
+    }
+    return content + "q\n" + rectangle(placement.clip, pageHeight) + "W n\n" +
+           numbers({matrix.m11(), matrix.m12(), matrix.m21(), matrix.m22(), matrix.dx(), matrix.dy()}) +
+           "cm\n/" + name + " Do\nQ\n";
+}
+
+QByteArray captionDrawing(const SheetPhoto &laid, double pageHeight)
+{
+    const QPainterPath outline = captionOutline(laid.caption, laid.captionArea);
+    if (outline.isEmpty())
+        return {};
+    QByteArray content = "0 g\n";
+    for (int i = 0; i < outline.elementCount(); ++i) {
+        const QPainterPath::Element point = outline.elementAt(i);
+        content += numbers({point.x, pageHeight - point.y});
+        if (point.isMoveTo())
+            content += "m\n";
+        else if (point.isLineTo())
+            content += "l\n";
+        else if (i + 2 < outline.elementCount()) {
+            for (const int next : {i + 1, i + 2})
+                content += numbers({outline.elementAt(next).x, pageHeight - outline.elementAt(next).y});
+            content += "c\n";
+            i += 2;
+        }
+    }
+    return content + "f\n";
+}
+
+QByteArray cutMarkDrawing(const QList<QLineF> &marks, double pageHeight)
+{
+    QByteArray content = "0 G 0.25 w\n";
+    for (const QLineF &mark : marks)
+        content += numbers({mark.x1(), pageHeight - mark.y1()}) + "m " +
+                   numbers({mark.x2(), pageHeight - mark.y2()}) + "l S\n";
+    return marks.isEmpty() ? QByteArray() : content;
+}
+
+QString keyOf(const Photo &photo)
+{
+    return photo.path() + u'\n' + QString::number(photo.modified().toMSecsSinceEpoch());
 }
 
 } // namespace
 
-Result<PdfWriter::Embedding, PdfFault> PdfWriter::write(const Photo &photo, const PageGeometry &page,
-                                                        QIODevice &device, const PlacementChoice &choice)
+PdfWriter::PdfWriter(QIODevice &device)
+    : device_(device)
+    , file_(device)
+    , catalog_(file_.reserve())
+    , pages_(file_.reserve())
+{
+}
+
+Failure<PdfFault> PdfWriter::writeFailure() const
+{
+    return {PdfFault::WriteFailed,
+            tr("The PDF of \"%1\" could not be written: %2. Check the disk that it goes to.")
+                .arg(plainText(title_), device_.errorString()),
+            {}};
+}
+
+Result<PdfWriter::Image, PdfFault> PdfWriter::imageOf(const Photo &photo)
+{
+    const auto known = images_.constFind(keyOf(photo));
+    if (known != images_.constEnd())
+        return *known;
+    const auto image = PdfImage::of(photo);
+    if (!image)
+        return Failure<PdfFault>{PdfFault::PhotoUnusable, image.failure().text, image.failure().detail};
+    const auto number = image->write(file_);
+    if (!number)
+        return Failure<PdfFault>{PdfFault::PhotoUnusable, number.failure().text, number.failure().detail};
+    return *images_.insert(keyOf(photo), {*number, image->embedding()});
+}
+
+PdfWriter::Failed PdfWriter::add(const PrintSheet &sheet, const PageGeometry &page, const QPointF &offset)
 {
     if (!isUsable(page))
         return Failure<PdfFault>{
@@ -66,36 +135,69 @@ Result<PdfWriter::Embedding, PdfFault> PdfWriter::write(const Photo &photo, cons
                 .arg(page.size.width())
                 .arg(page.size.height()),
             {}};
-    const auto image = PdfImage::of(photo);
-    if (!image)
-        return Failure<PdfFault>{PdfFault::PhotoUnusable, image.failure().text, image.failure().detail};
+    if (pageNumbers_.isEmpty()) {
+        title_ = sheet.name;
+        created_ = sheet.photos.constFirst().photo.modified();
+    }
+    const double height = page.size.height();
+    QByteArray content = "q\n" + rectangle(page.imageable, height) + "W n\n";
+    if (!offset.isNull())
+        content += numbers({1, 0, 0, 1, offset.x(), -offset.y()}) + "cm\n";
+    QMap<QByteArray, int> used; // the images' names and numbers
+    for (const SheetPhoto &laid : sheet.photos) {
+        const auto image = imageOf(laid.photo);
+        if (!image)
+            return image.failure();
+        const QByteArray name = "Photo" + QByteArray::number(image->number);
+        used.insert(name, image->number);
+        content += drawing(laid, name, height) + captionDrawing(laid, height);
+    }
+    content += cutMarkDrawing(sheet.cutMarks, height) + "Q\n";
 
-    PdfFile file(device);
-    const int catalog = file.reserve();
-    const int pages = file.reserve();
-    const int onlyPage = file.reserve();
-    const int content = file.reserve();
-    const int facts = file.reserve();
-    const auto picture = image->write(file);
-    if (!picture)
-        return Failure<PdfFault>{PdfFault::PhotoUnusable, picture.failure().text, picture.failure().detail};
-    file.beginStream(content, {});
-    file.writeData(drawing(photo, page, choice));
-    file.endStream();
-    file.writeObject(onlyPage, "<< /Type /Page /Parent " + PdfFile::reference(pages) + " /MediaBox [0 0 " +
-                                   numbers({page.size.width(), page.size.height()}) + "] /Contents " +
-                                   PdfFile::reference(content) + " /Resources << /XObject << /Photo " +
-                                   PdfFile::reference(*picture) + " >> >> >>");
-    file.writeObject(pages, "<< /Type /Pages /Kids [" + PdfFile::reference(onlyPage) + "] /Count 1 >>");
-    file.writeObject(catalog, "<< /Type /Catalog /Pages " + PdfFile::reference(pages) + " >>");
-    file.writeObject(facts, information(photo));
-    if (!file.finish(catalog, facts))
-        return Failure<PdfFault>{
-            PdfFault::WriteFailed,
-            tr("The PDF of \"%1\" could not be written: %2. Check the disk that it goes to.")
-                .arg(plainText(photo.path()), device.errorString()),
-            {}};
-    return image->embedding();
+    const int stream = file_.reserve();
+    file_.beginStream(stream, {});
+    file_.writeData(content);
+    file_.endStream();
+    QByteArray images;
+    for (auto image = used.cbegin(); image != used.cend(); ++image)
+        images += '/' + image.key() + ' ' + PdfFile::reference(image.value()) + ' ';
+    pageNumbers_ += file_.reserve();
+    file_.writeObject(pageNumbers_.constLast(),
+                      "<< /Type /Page /Parent " + PdfFile::reference(pages_) + " /MediaBox [0 0 " +
+                          numbers({page.size.width(), height}) + "] /Contents " + PdfFile::reference(stream) +
+                          " /Resources << /XObject << " + images + ">> >> >>");
+    return file_.hasFailed() ? Failed(writeFailure()) : std::nullopt;
+}
+
+PdfWriter::Failed PdfWriter::finish()
+{
+    QByteArray kids;
+    for (const int number : std::as_const(pageNumbers_))
+        kids += PdfFile::reference(number) + ' ';
+    file_.writeObject(pages_, "<< /Type /Pages /Kids [" + kids + "] /Count " +
+                                  QByteArray::number(pageNumbers_.size()) + " >>");
+    file_.writeObject(catalog_, "<< /Type /Catalog /Pages " + PdfFile::reference(pages_) + " >>");
+    // The photo's date makes repeated runs give the same bytes.
+    const int facts = file_.reserve();
+    file_.writeObject(facts, "<< /Title " + PdfFile::string(plainText(title_)) +
+                                 " /Creator (corvel-print) /Producer (corvel-print) /CreationDate (D:" +
+                                 created_.toUTC().toString(QStringLiteral("yyyyMMddHHmmss")).toLatin1() +
+                                 "Z) >>");
+    return file_.finish(catalog_, facts) ? std::nullopt : Failed(writeFailure());
+}
+
+Result<PdfWriter::Embedding, PdfFault> PdfWriter::write(const Photo &photo, const PageGeometry &page,
+                                                        QIODevice &device, const PlacementChoice &choice)
+{
+    PdfWriter writer(device);
+    // Without an area to print on, there is no place for the photo, and the page is refused.
+    const PrintSheet sheet =
+        isUsable(page) ? PrintSheet::of(photo, page, choice) : PrintSheet{photo.fileName(), {{photo}}};
+    if (const Failed failure = writer.add(sheet, page))
+        return *failure;
+    if (const Failed failure = writer.finish())
+        return *failure;
+    return writer.images_.cbegin()->embedding;
 }
 
 } // namespace printdialog

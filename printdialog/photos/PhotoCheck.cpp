@@ -3,17 +3,21 @@
 
 #include "PhotoCheck.h"
 
+#include <algorithm>
 #include <system_error>
 
 namespace printdialog {
 
-PhotoCheck::PhotoCheck(const Photo &photo)
-    : photo_(photo)
+PhotoCheck::PhotoCheck(const QList<Photo> &photos)
+    : photos_(photos)
 {
-    if (photo.isChecked())
+    if (std::ranges::all_of(photos, &Photo::isChecked))
         return;
     try {
-        thread_ = std::thread([photo] { (void)photo.damage(); });
+        thread_ = std::thread([photos] {
+            for (const Photo &photo : photos)
+                (void)photo.damage();
+        });
     } catch (const std::system_error &) {
         // No thread could be started; wait() does the work.
     }
@@ -29,7 +33,11 @@ std::optional<Failure<PhotoFault>> PhotoCheck::wait()
 {
     if (thread_.joinable())
         thread_.join();
-    return photo_.damage();
+    for (const Photo &photo : std::as_const(photos_)) {
+        if (auto damage = photo.damage())
+            return damage;
+    }
+    return std::nullopt;
 }
 
 } // namespace printdialog

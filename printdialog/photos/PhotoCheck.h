@@ -5,26 +5,29 @@
 
 #include "Photo.h"
 
+#include <QtCore/QList>
+
 #include <thread>
 
 namespace printdialog {
 
-/// Checks a photo's pixels for damage on a separate thread, while the caller works with the photo.
+/// Checks photos' pixels for damage, one after the other on a separate thread, while the caller works with
+/// them.
 class PhotoCheck
 {
 public:
-    /// Starts the check, unless the photo is already checked.
-    explicit PhotoCheck(const Photo &photo);
+    /// Starts the check, unless all photos are already checked.
+    explicit PhotoCheck(const QList<Photo> &photos);
     /// Waits for the check to end.
     ~PhotoCheck();
     PhotoCheck(const PhotoCheck &) = delete;
     PhotoCheck &operator=(const PhotoCheck &) = delete;
 
-    /// Waits for the check to end and returns the damage; nothing when the photo is intact.
+    /// Waits for the check to end and returns the first damage; nothing when the photos are intact.
     std::optional<Failure<PhotoFault>> wait();
 
 private:
-    Photo photo_;
+    QList<Photo> photos_;
     std::thread thread_;
 };
 

@@ -10,7 +10,6 @@ namespace printdialog {
 
 namespace {
 
-constexpr double pointsPerInch = 72;
 /// How far beyond the sheet the photo is shown on either side, at most, as a share of the longer side.
 constexpr double shownCutOff = 0.15;
 

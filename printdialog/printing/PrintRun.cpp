@@ -16,7 +16,7 @@ namespace printdialog {
 
 namespace {
 
-constexpr unsigned mostChecks = 4; // at a time: each holds its photo's file in memory
+constexpr unsigned mostChecks = 4; // at a time: each holds a photo's file in memory
 
 } // namespace
 
@@ -36,32 +36,27 @@ bool PrintRun::isRaised(int *flag)
     return flag && std::atomic_ref(*flag).load() != 0;
 }
 
-PrintOutcome PrintRun::print(qsizetype count, const PhotoSource &photos)
+PrintOutcome PrintRun::print(qsizetype count, const SheetSource &sheets)
 {
     outcome_.total = static_cast<int>(count);
-    // The check of a photo takes longest, so the next ones are checked on the other cores while this one
+    // The check of the photos takes longest, so the next ones are checked on the other cores while this one
     // prints.
     struct Ahead
     {
-        decltype(photos(0)) placed;
+        PrintSheet sheet;
         std::unique_ptr<PhotoCheck> check;
     };
     std::deque<Ahead> ahead;
     const qsizetype most = 1 + std::clamp(std::thread::hardware_concurrency(), 1U, mostChecks);
     for (index_ = 0; index_ < count && !isRaised(flags_.cancel); ++index_) {
         while (std::ssize(ahead) < most && index_ + std::ssize(ahead) < count) {
-            Ahead next{photos(index_ + std::ssize(ahead)), nullptr};
-            if (next.placed && !next.placed->isAccepted)
-                next.check = std::make_unique<PhotoCheck>(next.placed->photo);
+            Ahead next{sheets(index_ + std::ssize(ahead)), nullptr};
+            next.check = std::make_unique<PhotoCheck>(next.sheet.photosToCheck());
             ahead.push_back(std::move(next));
         }
         const Ahead current = std::move(ahead.front());
         ahead.pop_front();
-        if (!current.placed) {
-            outcome_.failure = current.placed.failure().text;
-            break;
-        }
-        if (!printOne(*current.placed))
+        if (!printOne(current.sheet))
             break;
     }
     const bool isFine = outcome_.failure.isEmpty() && !isRaised(flags_.cancel);
@@ -74,12 +69,12 @@ PrintOutcome PrintRun::print(qsizetype count, const PhotoSource &photos)
     return outcome_;
 }
 
-/// False: stop; do not print the next photo.
-bool PrintRun::printOne(const PlacedPhoto &placed)
+/// False: stop; do not print the next sheet.
+bool PrintRun::printOne(const PrintSheet &sheet)
 {
-    name_ = placed.photo.fileName();
+    name_ = sheet.name;
     listener_.sending(index_, name_, 0, 0);
-    const auto printed = printer_.print(placed);
+    const auto printed = printer_.print(sheet);
     if (!printed && isRaised(flags_.cancel))
         return false;
     if (!printed && printed.failure().reason.isPhotoFault) {
@@ -104,10 +99,10 @@ bool PrintRun::printOne(const PlacedPhoto &placed)
 void PrintRun::follow()
 {
     const QStringList names = outcome_.names;
-    const auto news = [&](int photo, const QString &state) {
-        listener_.following(photo, names.value(photo), state);
+    const auto news = [&](int sheet, const QString &state) {
+        listener_.following(sheet, names.value(sheet), state);
     };
-    const PhotoPrinter::Outcome followed = printer_.follow(limits_, news, flags_.leave);
+    const SheetPrinter::Outcome followed = printer_.follow(limits_, news, flags_.leave);
     outcome_.isFollowed = true;
     outcome_.printed = followed.printed;
     outcome_.jobs = followed.ids;

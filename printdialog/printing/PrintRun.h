@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "PhotoPrinter.h"
+#include "SheetPrinter.h"
 
 #include <QtCore/QStringList>
 
@@ -14,14 +14,14 @@ namespace printdialog {
 /// The outcome of one run.
 struct PrintOutcome
 {
-    QStringList printed;      ///< A sentence for each photo that was printed, or only sent (see isFollowed).
-    QStringList names;        ///< The names of these photos' files, in the same order.
+    QStringList printed;      ///< A sentence for each sheet that was printed, or only sent (see isFollowed).
+    QStringList names;        ///< The names of these sheets, in the same order.
     QList<int> jobs;          ///< The ids of the jobs that `printed` names; none from the built-in printer.
-    QStringList skipped;      ///< A sentence for each photo that cannot be printed; the others were.
-    QStringList waiting;      ///< A sentence for each photo whose job waits at the print server.
+    QStringList skipped;      ///< A sentence for each sheet that cannot be printed; the others were.
+    QStringList waiting;      ///< A sentence for each sheet whose job waits at the print server.
     QString failure;          ///< Why the rest was not printed; empty when nothing stopped the run.
-    int total = 0;            ///< The number of photos to print.
-    int done = 0;             ///< The number of photos printed, also in a run that was stopped.
+    int total = 0;            ///< The number of sheets to print.
+    int done = 0;             ///< The number of sheets printed, also in a run that was stopped.
     bool wasStopped = false;  ///< Stopped by the user, without any failure.
     bool isFollowed = false;  ///< The jobs were followed to their end.
     bool hasDamaged = false;  ///< Nothing was printed: a photo is damaged and was not accepted.
@@ -42,24 +42,24 @@ class PrintRunListener
 {
 public:
     virtual ~PrintRunListener() = default;
-    /// The photo of that index is being written or sent; `sent` and `total` are in bytes, and total is 0 when
+    /// The sheet of that index is being written or sent; `sent` and `total` are in bytes, and total is 0 when
     /// it is unknown.
-    virtual void sending(qsizetype photo, const QString &name, qint64 sent, qint64 total) = 0;
-    /// A photo was printed, or sent to the print server: one sentence.
+    virtual void sending(qsizetype sheet, const QString &name, qint64 sent, qint64 total) = 0;
+    /// A sheet was printed, or sent to the print server: one sentence.
     virtual void printed(const QString &sentence) = 0;
-    /// A photo cannot be printed and is left out: one sentence.
+    /// A sheet cannot be printed and is left out: one sentence.
     virtual void skipped(const QString &sentence) = 0;
-    /// The state of a photo's job, in words; `sentPhoto` is the photo's index among those that were sent.
-    virtual void following(qsizetype sentPhoto, const QString &name, const QString &state) = 0;
+    /// The state of a sheet's job, in words; `sentSheet` is the sheet's index among those that were sent.
+    virtual void following(qsizetype sentSheet, const QString &name, const QString &state) = 0;
 };
 
-/// Prints photos one after the other, and follows a queue's jobs to their end. The window and the command
+/// Prints sheets one after the other, and follows a queue's jobs to their end. The window and the command
 /// line both print through it. Blocking.
 class PrintRun
 {
 public:
-    /// Returns the photo of the index; called shortly before it is printed.
-    using PhotoSource = std::function<Result<PlacedPhoto, PhotoFault>(qsizetype index)>;
+    /// Returns the sheet of the index; called shortly before it is printed.
+    using SheetSource = std::function<PrintSheet(qsizetype index)>;
 
     /// @param listener outlives the run
     PrintRun(const PrintJob &job, PrintRunListener &listener, const PrintRunFlags &flags = {},
@@ -67,12 +67,12 @@ public:
     Q_DISABLE_COPY_MOVE(PrintRun)
 
     /// Call at most once. Jobs are not followed when FollowLimits::total is 0.
-    PrintOutcome print(qsizetype count, const PhotoSource &photos);
+    PrintOutcome print(qsizetype count, const SheetSource &sheets);
 
 private:
     static bool isRaised(int *flag);
 
-    bool printOne(const PlacedPhoto &placed);
+    bool printOne(const PrintSheet &sheet);
     void follow();
     void cancelJobs();
 
@@ -80,9 +80,9 @@ private:
     PrintRunFlags flags_;
     FollowLimits limits_;
     PrintOutcome outcome_;
-    qsizetype index_ = 0;  ///< of the photo being sent
-    QString name_;         ///< that photo's file name
-    PhotoPrinter printer_; ///< last, since its callbacks use the members above
+    qsizetype index_ = 0;  ///< of the sheet being sent
+    QString name_;         ///< that sheet's name
+    SheetPrinter printer_; ///< last, since its callbacks use the members above
 };
 
 } // namespace printdialog

@@ -78,16 +78,21 @@ private:
     Say say_;
 };
 
-PrintOutcome printed(const QList<PlacedPhoto> &photos, PrintRun &run)
+PrintOutcome printed(const Arrangement &arrangement, const SheetPlan &plan, PrintRun &run)
 {
     PrintOutcome outcome;
+    if (plan.failure()) {
+        outcome.failure = plan.failure()->text;
+        return outcome;
+    }
     // Checked before anything is printed, so that the user can decide about all photos; mostly known already.
-    outcome.hasDamaged = std::any_of(photos.begin(), photos.end(), [](const PlacedPhoto &placed) {
+    outcome.hasDamaged = std::ranges::any_of(arrangement.photos, [](const PlacedPhoto &placed) {
         return !placed.isAccepted && placed.photo.damage();
     });
     if (outcome.hasDamaged)
         return outcome;
-    return run.print(photos.size(), [&photos](qsizetype index) { return photos.at(index); });
+    return run.print(plan.sheets().size(),
+                     [&](qsizetype index) { return arrangement.sheet(plan.sheets().at(index)); });
 }
 
 } // namespace
@@ -132,19 +137,21 @@ void PrintWorker::giveUp()
     cancel();
 }
 
-void PrintWorker::print(const QList<PlacedPhoto> &photos, const PrintJob &job)
+void PrintWorker::print(const Arrangement &arrangement, const PrintJob &job)
 {
     auto outcome = std::make_shared<PrintOutcome>();
     flags_ = std::make_shared<Flags>();
     // The destructor waits for the thread, so the thread may use this object.
-    thread_.reset(QThread::create([this, flags = flags_, photos, job, outcome] {
-        const auto say = [this](const QString &text, qint64 done, qint64 total) {
-            Q_EMIT progress(text, done, total);
-        };
-        Progress listener(photos.size(), job.destination, flags->sent, flags->following, say);
-        PrintRun run(job, listener, {&flags->cancel, &flags->keep, &flags->leave});
-        *outcome = printed(photos, run);
-    }));
+    thread_.reset(QThread::create(
+        [this, flags = flags_, wanted = job.isRaw() ? arrangement.unplaced() : arrangement, job, outcome] {
+            const SheetPlan plan = wanted.plan(job.page);
+            const auto say = [this](const QString &text, qint64 done, qint64 total) {
+                Q_EMIT progress(text, done, total);
+            };
+            Progress listener(plan.sheets().size(), job.destination, flags->sent, flags->following, say);
+            PrintRun run(job, listener, {&flags->cancel, &flags->keep, &flags->leave});
+            *outcome = printed(wanted, plan, run);
+        }));
     connect(thread_.get(), &QThread::finished, this, [this, outcome] {
         thread_.release()->deleteLater();
         flags_.reset();

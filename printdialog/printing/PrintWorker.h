@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "Arrangement.h"
 #include "PrintRun.h"
 
 #include <QtCore/QObject>
@@ -10,8 +11,8 @@
 
 namespace printdialog {
 
-/// Prints photos on a separate thread and follows a queue's jobs to their end. Signals are emitted on this
-/// object's thread.
+/// Prints an arrangement on a separate thread and follows a queue's jobs to their end. Signals are emitted on
+/// this object's thread.
 class PrintWorker : public QObject
 {
     Q_OBJECT
@@ -24,11 +25,10 @@ public:
     bool isBusy() const { return thread_ != nullptr; }
     /// Whether everything was sent to the print server or written to the folder.
     bool isFollowing() const;
-    /// The number of photos sent or written.
+    /// The number of sheets sent or written.
     int sent() const;
-    /// Prints the photos, each with its placement, one after the other with the job's settings. Not while
-    /// busy.
-    void print(const QList<PlacedPhoto> &photos, const PrintJob &job);
+    /// Prints the sheets one after the other with the job's settings. Not while busy.
+    void print(const Arrangement &arrangement, const PrintJob &job);
     /// Sends nothing more, and cancels the jobs that are not over.
     void cancel();
     /// Sends nothing more, cancels the job being sent, and stops following. Jobs already sent continue to

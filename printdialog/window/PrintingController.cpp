@@ -61,7 +61,7 @@ bool PrintingController::print(int copies, const QString &folder, const Queue &q
     job_.announcedUri = queue.isAnnounced ? queue.deviceUri : QString();
     remarks_ = made->remarks;
     widgets_.progress->show(tr("Printing…"));
-    worker_->print(widgets_.photos->photos(), job_);
+    worker_->print(widgets_.photos->arrangement(), job_);
     Q_EMIT stateChanged();
     return true;
 }

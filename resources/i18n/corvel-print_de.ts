@@ -2140,6 +2140,14 @@ der längeren Seite, und beenden; weitere Fotos in FILE-2.png, FILE-3.png, ...</
     </message>
 </context>
 <context>
+    <name>printdialog::Arrangement</name>
+    <message>
+        <source>%1 and %2 more</source>
+        <comment>the name of a sheet with several photos</comment>
+        <translation>%1 und %2 weitere</translation>
+    </message>
+</context>
+<context>
     <name>printdialog::ChoiceCallout</name>
     <message>
         <source>Dismiss (Esc)</source>
@@ -2497,6 +2505,26 @@ der längeren Seite, und beenden; weitere Fotos in FILE-2.png, FILE-3.png, ...</
     </message>
 </context>
 <context>
+    <name>printdialog::KnownPrintSize</name>
+    <message>
+        <source>Square</source>
+        <translation>Quadrat</translation>
+    </message>
+    <message>
+        <source>Passport</source>
+        <translation>Passbild</translation>
+    </message>
+    <message>
+        <source>Wallet</source>
+        <translation>Brieftasche</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>a print size: its name and its sides</comment>
+        <translation>%1 (%2)</translation>
+    </message>
+</context>
+<context>
     <name>printdialog::MessageBar</name>
     <message>
         <source>Open Folder</source>
@@ -2767,53 +2795,6 @@ der längeren Seite, und beenden; weitere Fotos in FILE-2.png, FILE-3.png, ...</
     <message>
         <source>The printer places it on the page itself; the preview is only an example.</source>
         <translation>Der Drucker setzt es selbst auf die Seite; die Vorschau ist nur ein Beispiel.</translation>
-    </message>
-</context>
-<context>
-    <name>printdialog::PhotoPrinter</name>
-    <message>
-        <source>Printed %1: %2</source>
-        <translation>%1 gedruckt: %2</translation>
-    </message>
-    <message>
-        <source>Sent %1 to %2 as job %3</source>
-        <translation>%1 als Auftrag %3 an %2 gesendet</translation>
-    </message>
-    <message>
-        <source>The printer &quot;%1&quot; could not print %2 (job %3): %4. Look at the printer and print again.</source>
-        <translation>Der Drucker „%1“ konnte %2 (Auftrag %3) nicht drucken: %4. Sehen Sie nach dem Drucker und drucken Sie noch einmal.</translation>
-    </message>
-    <message>
-        <source>it gave no reason</source>
-        <translation>ohne Angabe von Gründen</translation>
-    </message>
-    <message>
-        <source>The job %3 for %2 on the printer &quot;%1&quot; was canceled (%4).</source>
-        <translation>Der Auftrag %3 für %2 auf dem Drucker „%1“ wurde abgebrochen (%4).</translation>
-    </message>
-    <message>
-        <source>Printed %1 on %2 (job %3)</source>
-        <translation>%1 auf %2 gedruckt (Auftrag %3)</translation>
-    </message>
-    <message>
-        <source>The job %1 for %2 could not be canceled: %3</source>
-        <translation>Der Auftrag %1 für %2 konnte nicht abgebrochen werden: %3</translation>
-    </message>
-    <message>
-        <source>The outcome of %1 (job %2) is unknown: %3</source>
-        <translation>Das Ergebnis von %1 (Auftrag %2) ist nicht bekannt: %3</translation>
-    </message>
-    <message>
-        <source>%1 (job %2) is not printed yet: %3. The print server keeps it; &quot;cancel %2&quot; cancels it.</source>
-        <translation>%1 (Auftrag %2) ist noch nicht gedruckt: %3. Der Druckserver behält ihn; „cancel %2“ nimmt ihn zurück.</translation>
-    </message>
-    <message>
-        <source>no reason given</source>
-        <translation>ohne Angabe von Gründen</translation>
-    </message>
-    <message>
-        <source>%1 (job %2) is not printed yet: %3. The printer keeps it; cancel it there.</source>
-        <translation>%1 (Auftrag %2) ist noch nicht gedruckt: %3. Der Drucker behält ihn; nehmen Sie ihn dort zurück.</translation>
     </message>
 </context>
 <context>
@@ -3384,6 +3365,84 @@ der längeren Seite, und beenden; weitere Fotos in FILE-2.png, FILE-3.png, ...</
     <message>
         <source>it is not a file</source>
         <translation>es ist keine Datei</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::SheetPlan</name>
+    <message>
+        <source>More than %1 prints are too many for one job. Print the photos in several parts.</source>
+        <translation>Mehr als %1 Abzüge sind zu viel für einen Auftrag. Drucken Sie die Fotos in mehreren Teilen.</translation>
+    </message>
+    <message>
+        <source>As many prints of a size as fit need that size. Choose a print size.</source>
+        <translation>Für so viele Abzüge einer Größe, wie Platz haben, fehlt die Größe. Wählen Sie eine Bildgröße.</translation>
+    </message>
+    <message>
+        <source>So many photos with these gaps leave no room for themselves on the paper&apos;s printable area of %1. Choose fewer, a smaller gap or a larger paper.</source>
+        <translation>Für so viele Fotos mit diesen Abständen reicht der bedruckbare Bereich von %1 nicht. Wählen Sie weniger Fotos, einen kleineren Abstand oder ein größeres Papier.</translation>
+    </message>
+    <message>
+        <source>A print of %1 has no room on the paper&apos;s printable area of %2. Choose a smaller size or a larger paper.</source>
+        <translation>Ein Abzug von %1 hat im bedruckbaren Bereich von %2 keinen Platz. Wählen Sie eine kleinere Größe oder ein größeres Papier.</translation>
+    </message>
+    <message>
+        <source>A print of %1 has no room in its place of %2 on the sheet. Choose a smaller size, or fewer rows and columns.</source>
+        <translation>Ein Abzug von %1 hat an seinem Platz von %2 auf dem Blatt keinen Raum. Wählen Sie eine kleinere Größe oder weniger Zeilen und Spalten.</translation>
+    </message>
+    <message>
+        <source>A border of %1 leaves nothing of a print of %2. Choose a narrower one.</source>
+        <translation>Ein Rand von %1 lässt von einem Abzug von %2 nichts übrig. Wählen Sie einen schmaleren.</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::SheetPrinter</name>
+    <message>
+        <source>Printed %1: %2</source>
+        <translation>%1 gedruckt: %2</translation>
+    </message>
+    <message>
+        <source>Sent %1 to %2 as job %3</source>
+        <translation>%1 als Auftrag %3 an %2 gesendet</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; could not print %2 (job %3): %4. Look at the printer and print again.</source>
+        <translation>Der Drucker „%1“ konnte %2 (Auftrag %3) nicht drucken: %4. Sehen Sie nach dem Drucker und drucken Sie noch einmal.</translation>
+    </message>
+    <message>
+        <source>it gave no reason</source>
+        <translation>ohne Angabe von Gründen</translation>
+    </message>
+    <message>
+        <source>The job %3 for %2 on the printer &quot;%1&quot; was canceled (%4).</source>
+        <translation>Der Auftrag %3 für %2 auf dem Drucker „%1“ wurde abgebrochen (%4).</translation>
+    </message>
+    <message>
+        <source>Printed %1 on %2 (job %3)</source>
+        <translation>%1 auf %2 gedruckt (Auftrag %3)</translation>
+    </message>
+    <message>
+        <source>The job %1 for %2 could not be canceled: %3</source>
+        <translation>Der Auftrag %1 für %2 konnte nicht abgebrochen werden: %3</translation>
+    </message>
+    <message>
+        <source>The outcome of %1 (job %2) is unknown: %3</source>
+        <translation>Das Ergebnis von %1 (Auftrag %2) ist nicht bekannt: %3</translation>
+    </message>
+    <message>
+        <source>%1 (job %2) is not printed yet: %3. The print server keeps it; &quot;cancel %2&quot; cancels it.</source>
+        <translation>%1 (Auftrag %2) ist noch nicht gedruckt: %3. Der Druckserver behält ihn; „cancel %2“ nimmt ihn zurück.</translation>
+    </message>
+    <message>
+        <source>no reason given</source>
+        <translation>ohne Angabe von Gründen</translation>
+    </message>
+    <message>
+        <source>%1 (job %2) is not printed yet: %3. The printer keeps it; cancel it there.</source>
+        <translation>%1 (Auftrag %2) ist noch nicht gedruckt: %3. Der Drucker behält ihn; nehmen Sie ihn dort zurück.</translation>
+    </message>
+    <message>
+        <source>%1 copies of %2 are more than the %3 that a job can have. Print it in several parts.</source>
+        <translation>%1 Exemplare von %2 sind mehr als die %3, die ein Auftrag haben kann. Drucken Sie sie in mehreren Teilen.</translation>
     </message>
 </context>
 <context>

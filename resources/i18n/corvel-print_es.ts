@@ -2139,6 +2139,14 @@ en su lado mayor, y salir; las demás fotos en FILE-2.png, FILE-3.png, ...</tran
     </message>
 </context>
 <context>
+    <name>printdialog::Arrangement</name>
+    <message>
+        <source>%1 and %2 more</source>
+        <comment>the name of a sheet with several photos</comment>
+        <translation>%1 y %2 más</translation>
+    </message>
+</context>
+<context>
     <name>printdialog::ChoiceCallout</name>
     <message>
         <source>Dismiss (Esc)</source>
@@ -2496,6 +2504,26 @@ en su lado mayor, y salir; las demás fotos en FILE-2.png, FILE-3.png, ...</tran
     </message>
 </context>
 <context>
+    <name>printdialog::KnownPrintSize</name>
+    <message>
+        <source>Square</source>
+        <translation>Cuadrado</translation>
+    </message>
+    <message>
+        <source>Passport</source>
+        <translation>Pasaporte</translation>
+    </message>
+    <message>
+        <source>Wallet</source>
+        <translation>Cartera</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>a print size: its name and its sides</comment>
+        <translation>%1 (%2)</translation>
+    </message>
+</context>
+<context>
     <name>printdialog::MessageBar</name>
     <message>
         <source>Open Folder</source>
@@ -2766,53 +2794,6 @@ en su lado mayor, y salir; las demás fotos en FILE-2.png, FILE-3.png, ...</tran
     <message>
         <source>The printer places it on the page itself; the preview is only an example.</source>
         <translation>La impresora la coloca ella misma en la página; la vista previa es solo un ejemplo.</translation>
-    </message>
-</context>
-<context>
-    <name>printdialog::PhotoPrinter</name>
-    <message>
-        <source>Printed %1: %2</source>
-        <translation>%1 impresa: %2</translation>
-    </message>
-    <message>
-        <source>Sent %1 to %2 as job %3</source>
-        <translation>%1 enviada a %2 como trabajo %3</translation>
-    </message>
-    <message>
-        <source>The printer &quot;%1&quot; could not print %2 (job %3): %4. Look at the printer and print again.</source>
-        <translation>La impresora «%1» no ha podido imprimir %2 (trabajo %3): %4. Revise la impresora e imprima de nuevo.</translation>
-    </message>
-    <message>
-        <source>it gave no reason</source>
-        <translation>sin indicar el motivo</translation>
-    </message>
-    <message>
-        <source>The job %3 for %2 on the printer &quot;%1&quot; was canceled (%4).</source>
-        <translation>El trabajo %3 para %2 en la impresora «%1» se ha cancelado (%4).</translation>
-    </message>
-    <message>
-        <source>Printed %1 on %2 (job %3)</source>
-        <translation>Se ha impreso %1 en %2 (trabajo %3)</translation>
-    </message>
-    <message>
-        <source>The job %1 for %2 could not be canceled: %3</source>
-        <translation>El trabajo %1 para %2 no se ha podido cancelar: %3</translation>
-    </message>
-    <message>
-        <source>The outcome of %1 (job %2) is unknown: %3</source>
-        <translation>No se conoce el resultado de %1 (trabajo %2): %3</translation>
-    </message>
-    <message>
-        <source>%1 (job %2) is not printed yet: %3. The print server keeps it; &quot;cancel %2&quot; cancels it.</source>
-        <translation>%1 (trabajo %2) no está impreso todavía: %3. El servidor de impresión lo conserva; «cancel %2» lo retira.</translation>
-    </message>
-    <message>
-        <source>no reason given</source>
-        <translation>sin indicar el motivo</translation>
-    </message>
-    <message>
-        <source>%1 (job %2) is not printed yet: %3. The printer keeps it; cancel it there.</source>
-        <translation>%1 (trabajo %2) no está impreso todavía: %3. La impresora lo conserva; cancélelo en ella.</translation>
     </message>
 </context>
 <context>
@@ -3383,6 +3364,84 @@ en su lado mayor, y salir; las demás fotos en FILE-2.png, FILE-3.png, ...</tran
     <message>
         <source>it is not a file</source>
         <translation>no es un archivo</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::SheetPlan</name>
+    <message>
+        <source>More than %1 prints are too many for one job. Print the photos in several parts.</source>
+        <translation>Más de %1 copias son demasiadas para un solo trabajo. Imprima las fotos en varias partes.</translation>
+    </message>
+    <message>
+        <source>As many prints of a size as fit need that size. Choose a print size.</source>
+        <translation>Para colocar todas las copias de un tamaño que quepan hace falta ese tamaño. Elija un tamaño de copia.</translation>
+    </message>
+    <message>
+        <source>So many photos with these gaps leave no room for themselves on the paper&apos;s printable area of %1. Choose fewer, a smaller gap or a larger paper.</source>
+        <translation>El área imprimible de %1 no basta para tantas fotos con esos espacios. Elija menos fotos, un espacio menor o un papel mayor.</translation>
+    </message>
+    <message>
+        <source>A print of %1 has no room on the paper&apos;s printable area of %2. Choose a smaller size or a larger paper.</source>
+        <translation>Una copia de %1 no cabe en el área imprimible de %2. Elija un tamaño menor o un papel mayor.</translation>
+    </message>
+    <message>
+        <source>A print of %1 has no room in its place of %2 on the sheet. Choose a smaller size, or fewer rows and columns.</source>
+        <translation>Una copia de %1 no cabe en su lugar de %2 en la hoja. Elija un tamaño menor o menos filas y columnas.</translation>
+    </message>
+    <message>
+        <source>A border of %1 leaves nothing of a print of %2. Choose a narrower one.</source>
+        <translation>Un borde de %1 no deja nada de una copia de %2. Elija uno más estrecho.</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::SheetPrinter</name>
+    <message>
+        <source>Printed %1: %2</source>
+        <translation>%1 impresa: %2</translation>
+    </message>
+    <message>
+        <source>Sent %1 to %2 as job %3</source>
+        <translation>%1 enviada a %2 como trabajo %3</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; could not print %2 (job %3): %4. Look at the printer and print again.</source>
+        <translation>La impresora «%1» no ha podido imprimir %2 (trabajo %3): %4. Revise la impresora e imprima de nuevo.</translation>
+    </message>
+    <message>
+        <source>it gave no reason</source>
+        <translation>sin indicar el motivo</translation>
+    </message>
+    <message>
+        <source>The job %3 for %2 on the printer &quot;%1&quot; was canceled (%4).</source>
+        <translation>El trabajo %3 para %2 en la impresora «%1» se ha cancelado (%4).</translation>
+    </message>
+    <message>
+        <source>Printed %1 on %2 (job %3)</source>
+        <translation>Se ha impreso %1 en %2 (trabajo %3)</translation>
+    </message>
+    <message>
+        <source>The job %1 for %2 could not be canceled: %3</source>
+        <translation>El trabajo %1 para %2 no se ha podido cancelar: %3</translation>
+    </message>
+    <message>
+        <source>The outcome of %1 (job %2) is unknown: %3</source>
+        <translation>No se conoce el resultado de %1 (trabajo %2): %3</translation>
+    </message>
+    <message>
+        <source>%1 (job %2) is not printed yet: %3. The print server keeps it; &quot;cancel %2&quot; cancels it.</source>
+        <translation>%1 (trabajo %2) no está impreso todavía: %3. El servidor de impresión lo conserva; «cancel %2» lo retira.</translation>
+    </message>
+    <message>
+        <source>no reason given</source>
+        <translation>sin indicar el motivo</translation>
+    </message>
+    <message>
+        <source>%1 (job %2) is not printed yet: %3. The printer keeps it; cancel it there.</source>
+        <translation>%1 (trabajo %2) no está impreso todavía: %3. La impresora lo conserva; cancélelo en ella.</translation>
+    </message>
+    <message>
+        <source>%1 copies of %2 are more than the %3 that a job can have. Print it in several parts.</source>
+        <translation>%1 copias de %2 son más que las %3 que puede tener un trabajo. Imprímalas en varias partes.</translation>
     </message>
 </context>
 <context>

@@ -2141,6 +2141,14 @@ FILE-3.png, ...</translation>
     </message>
 </context>
 <context>
+    <name>printdialog::Arrangement</name>
+    <message>
+        <source>%1 and %2 more</source>
+        <comment>the name of a sheet with several photos</comment>
+        <translation>%1 et %2 autres</translation>
+    </message>
+</context>
+<context>
     <name>printdialog::ChoiceCallout</name>
     <message>
         <source>Dismiss (Esc)</source>
@@ -2498,6 +2506,26 @@ FILE-3.png, ...</translation>
     </message>
 </context>
 <context>
+    <name>printdialog::KnownPrintSize</name>
+    <message>
+        <source>Square</source>
+        <translation>Carré</translation>
+    </message>
+    <message>
+        <source>Passport</source>
+        <translation>Identité</translation>
+    </message>
+    <message>
+        <source>Wallet</source>
+        <translation>Portefeuille</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>a print size: its name and its sides</comment>
+        <translation>%1 (%2)</translation>
+    </message>
+</context>
+<context>
     <name>printdialog::MessageBar</name>
     <message>
         <source>Open Folder</source>
@@ -2768,53 +2796,6 @@ FILE-3.png, ...</translation>
     <message>
         <source>The printer places it on the page itself; the preview is only an example.</source>
         <translation>L’imprimante la place elle-même sur la page&#x202f;; l’aperçu n’est qu’un exemple.</translation>
-    </message>
-</context>
-<context>
-    <name>printdialog::PhotoPrinter</name>
-    <message>
-        <source>Printed %1: %2</source>
-        <translation>%1 imprimée&#x202f;: %2</translation>
-    </message>
-    <message>
-        <source>Sent %1 to %2 as job %3</source>
-        <translation>%1 envoyée à %2 (travail %3)</translation>
-    </message>
-    <message>
-        <source>The printer &quot;%1&quot; could not print %2 (job %3): %4. Look at the printer and print again.</source>
-        <translation>L’imprimante «&#xa0;%1&#xa0;» n’a pas pu imprimer %2 (tâche %3)&#xa0;: %4. Vérifiez l’imprimante et relancez l’impression.</translation>
-    </message>
-    <message>
-        <source>it gave no reason</source>
-        <translation>sans en donner la raison</translation>
-    </message>
-    <message>
-        <source>The job %3 for %2 on the printer &quot;%1&quot; was canceled (%4).</source>
-        <translation>La tâche %3 pour %2 sur l’imprimante «&#xa0;%1&#xa0;» a été annulée (%4).</translation>
-    </message>
-    <message>
-        <source>Printed %1 on %2 (job %3)</source>
-        <translation>%1 imprimée sur %2 (tâche %3)</translation>
-    </message>
-    <message>
-        <source>The job %1 for %2 could not be canceled: %3</source>
-        <translation>La tâche %1 pour %2 n’a pas pu être annulée&#xa0;: %3</translation>
-    </message>
-    <message>
-        <source>The outcome of %1 (job %2) is unknown: %3</source>
-        <translation>Le résultat de %1 (tâche %2) est inconnu&#xa0;: %3</translation>
-    </message>
-    <message>
-        <source>%1 (job %2) is not printed yet: %3. The print server keeps it; &quot;cancel %2&quot; cancels it.</source>
-        <translation>%1 (tâche %2) n’est pas encore imprimée&#xa0;: %3. Le serveur d’impression la garde&#xa0;; «&#xa0;cancel %2&#xa0;» la retire.</translation>
-    </message>
-    <message>
-        <source>no reason given</source>
-        <translation>sans raison indiquée</translation>
-    </message>
-    <message>
-        <source>%1 (job %2) is not printed yet: %3. The printer keeps it; cancel it there.</source>
-        <translation>%1 (tâche %2) n’est pas encore imprimée&#x202f;: %3. L’imprimante la garde&#x202f;; annulez-la sur l’imprimante.</translation>
     </message>
 </context>
 <context>
@@ -3092,7 +3073,7 @@ FILE-3.png, ...</translation>
     </message>
     <message>
         <source>Zoom: %1</source>
-        <translation>Zoom : %1</translation>
+        <translation>Zoom&#x202f;: %1</translation>
     </message>
 </context>
 <context>
@@ -3385,6 +3366,84 @@ FILE-3.png, ...</translation>
     <message>
         <source>it is not a file</source>
         <translation>ce n’est pas un fichier</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::SheetPlan</name>
+    <message>
+        <source>More than %1 prints are too many for one job. Print the photos in several parts.</source>
+        <translation>Plus de %1 tirages, c’est trop pour un seul travail. Imprimez les photos en plusieurs fois.</translation>
+    </message>
+    <message>
+        <source>As many prints of a size as fit need that size. Choose a print size.</source>
+        <translation>Pour placer autant de tirages d’un format que possible, il faut ce format. Choisissez un format de tirage.</translation>
+    </message>
+    <message>
+        <source>So many photos with these gaps leave no room for themselves on the paper&apos;s printable area of %1. Choose fewer, a smaller gap or a larger paper.</source>
+        <translation>La zone imprimable de %1 ne suffit pas pour autant de photos avec ces espaces. Choisissez moins de photos, un espace plus petit ou un papier plus grand.</translation>
+    </message>
+    <message>
+        <source>A print of %1 has no room on the paper&apos;s printable area of %2. Choose a smaller size or a larger paper.</source>
+        <translation>Un tirage de %1 ne tient pas dans la zone imprimable de %2. Choisissez un format plus petit ou un papier plus grand.</translation>
+    </message>
+    <message>
+        <source>A print of %1 has no room in its place of %2 on the sheet. Choose a smaller size, or fewer rows and columns.</source>
+        <translation>Un tirage de %1 ne tient pas dans son emplacement de %2 sur la feuille. Choisissez un format plus petit, ou moins de lignes et de colonnes.</translation>
+    </message>
+    <message>
+        <source>A border of %1 leaves nothing of a print of %2. Choose a narrower one.</source>
+        <translation>Une bordure de %1 ne laisse rien d’un tirage de %2. Choisissez-en une plus étroite.</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::SheetPrinter</name>
+    <message>
+        <source>Printed %1: %2</source>
+        <translation>%1 imprimée&#x202f;: %2</translation>
+    </message>
+    <message>
+        <source>Sent %1 to %2 as job %3</source>
+        <translation>%1 envoyée à %2 (travail %3)</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; could not print %2 (job %3): %4. Look at the printer and print again.</source>
+        <translation>L’imprimante «&#xa0;%1&#xa0;» n’a pas pu imprimer %2 (tâche %3)&#xa0;: %4. Vérifiez l’imprimante et relancez l’impression.</translation>
+    </message>
+    <message>
+        <source>it gave no reason</source>
+        <translation>sans en donner la raison</translation>
+    </message>
+    <message>
+        <source>The job %3 for %2 on the printer &quot;%1&quot; was canceled (%4).</source>
+        <translation>La tâche %3 pour %2 sur l’imprimante «&#xa0;%1&#xa0;» a été annulée (%4).</translation>
+    </message>
+    <message>
+        <source>Printed %1 on %2 (job %3)</source>
+        <translation>%1 imprimée sur %2 (tâche %3)</translation>
+    </message>
+    <message>
+        <source>The job %1 for %2 could not be canceled: %3</source>
+        <translation>La tâche %1 pour %2 n’a pas pu être annulée&#xa0;: %3</translation>
+    </message>
+    <message>
+        <source>The outcome of %1 (job %2) is unknown: %3</source>
+        <translation>Le résultat de %1 (tâche %2) est inconnu&#xa0;: %3</translation>
+    </message>
+    <message>
+        <source>%1 (job %2) is not printed yet: %3. The print server keeps it; &quot;cancel %2&quot; cancels it.</source>
+        <translation>%1 (tâche %2) n’est pas encore imprimée&#xa0;: %3. Le serveur d’impression la garde&#xa0;; «&#xa0;cancel %2&#xa0;» la retire.</translation>
+    </message>
+    <message>
+        <source>no reason given</source>
+        <translation>sans raison indiquée</translation>
+    </message>
+    <message>
+        <source>%1 (job %2) is not printed yet: %3. The printer keeps it; cancel it there.</source>
+        <translation>%1 (tâche %2) n’est pas encore imprimée&#x202f;: %3. L’imprimante la garde&#x202f;; annulez-la sur l’imprimante.</translation>
+    </message>
+    <message>
+        <source>%1 copies of %2 are more than the %3 that a job can have. Print it in several parts.</source>
+        <translation>%1 exemplaires de %2, c’est plus que les %3 qu’un travail peut avoir. Imprimez-les en plusieurs fois.</translation>
     </message>
 </context>
 <context>

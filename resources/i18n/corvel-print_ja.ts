@@ -2138,6 +2138,14 @@ longer side, and exit; of further photos in FILE-2.png, FILE-3.png, ...</source>
     </message>
 </context>
 <context>
+    <name>printdialog::Arrangement</name>
+    <message>
+        <source>%1 and %2 more</source>
+        <comment>the name of a sheet with several photos</comment>
+        <translation>%1 ほか %2 枚</translation>
+    </message>
+</context>
+<context>
     <name>printdialog::ChoiceCallout</name>
     <message>
         <source>Dismiss (Esc)</source>
@@ -2495,6 +2503,26 @@ longer side, and exit; of further photos in FILE-2.png, FILE-3.png, ...</source>
     </message>
 </context>
 <context>
+    <name>printdialog::KnownPrintSize</name>
+    <message>
+        <source>Square</source>
+        <translation>正方形</translation>
+    </message>
+    <message>
+        <source>Passport</source>
+        <translation>証明写真</translation>
+    </message>
+    <message>
+        <source>Wallet</source>
+        <translation>ウォレット</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>a print size: its name and its sides</comment>
+        <translation>%1 (%2)</translation>
+    </message>
+</context>
+<context>
     <name>printdialog::MessageBar</name>
     <message>
         <source>Open Folder</source>
@@ -2765,53 +2793,6 @@ longer side, and exit; of further photos in FILE-2.png, FILE-3.png, ...</source>
     <message>
         <source>The printer places it on the page itself; the preview is only an example.</source>
         <translation>配置はプリンターが決めます。プレビューは一例です。</translation>
-    </message>
-</context>
-<context>
-    <name>printdialog::PhotoPrinter</name>
-    <message>
-        <source>Printed %1: %2</source>
-        <translation>%1 を印刷しました: %2</translation>
-    </message>
-    <message>
-        <source>Sent %1 to %2 as job %3</source>
-        <translation>%1 を %2 に送りました (ジョブ %3)</translation>
-    </message>
-    <message>
-        <source>The printer &quot;%1&quot; could not print %2 (job %3): %4. Look at the printer and print again.</source>
-        <translation>プリンター「%1」は %2（ジョブ %3）を印刷できませんでした: %4。プリンターを確認して、もう一度印刷してください。</translation>
-    </message>
-    <message>
-        <source>it gave no reason</source>
-        <translation>理由は示されていません</translation>
-    </message>
-    <message>
-        <source>The job %3 for %2 on the printer &quot;%1&quot; was canceled (%4).</source>
-        <translation>プリンター「%1」の %2 のジョブ %3 は取り消されました（%4）。</translation>
-    </message>
-    <message>
-        <source>Printed %1 on %2 (job %3)</source>
-        <translation>%1 を %2 で印刷しました（ジョブ %3）</translation>
-    </message>
-    <message>
-        <source>The job %1 for %2 could not be canceled: %3</source>
-        <translation>%2 のジョブ %1 を取り消せませんでした: %3</translation>
-    </message>
-    <message>
-        <source>The outcome of %1 (job %2) is unknown: %3</source>
-        <translation>%1（ジョブ %2）の結果は分かりません: %3</translation>
-    </message>
-    <message>
-        <source>%1 (job %2) is not printed yet: %3. The print server keeps it; &quot;cancel %2&quot; cancels it.</source>
-        <translation>%1（ジョブ %2）はまだ印刷されていません: %3。ジョブはプリントサーバーに残ります。「cancel %2」で取り消せます。</translation>
-    </message>
-    <message>
-        <source>no reason given</source>
-        <translation>理由は不明</translation>
-    </message>
-    <message>
-        <source>%1 (job %2) is not printed yet: %3. The printer keeps it; cancel it there.</source>
-        <translation>%1（ジョブ %2）はまだ印刷されていません: %3。ジョブはプリンターに残ります。プリンターで取り消してください。</translation>
     </message>
 </context>
 <context>
@@ -3380,6 +3361,84 @@ longer side, and exit; of further photos in FILE-2.png, FILE-3.png, ...</source>
     <message>
         <source>it is not a file</source>
         <translation>ファイルではありません</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::SheetPlan</name>
+    <message>
+        <source>More than %1 prints are too many for one job. Print the photos in several parts.</source>
+        <translation>%1 枚を超えるプリントは 1 つのジョブには多すぎます。何回かに分けて印刷してください。</translation>
+    </message>
+    <message>
+        <source>As many prints of a size as fit need that size. Choose a print size.</source>
+        <translation>入るだけ並べるには、プリントの大きさが必要です。プリントサイズを選んでください。</translation>
+    </message>
+    <message>
+        <source>So many photos with these gaps leave no room for themselves on the paper&apos;s printable area of %1. Choose fewer, a smaller gap or a larger paper.</source>
+        <translation>印刷可能領域 %1 には、この間隔でこれだけの写真は入りません。写真を減らすか、間隔を狭くするか、大きな用紙を選んでください。</translation>
+    </message>
+    <message>
+        <source>A print of %1 has no room on the paper&apos;s printable area of %2. Choose a smaller size or a larger paper.</source>
+        <translation>%1 のプリントは、印刷可能領域 %2 に入りません。小さいサイズか大きな用紙を選んでください。</translation>
+    </message>
+    <message>
+        <source>A print of %1 has no room in its place of %2 on the sheet. Choose a smaller size, or fewer rows and columns.</source>
+        <translation>%1 のプリントは、シート上の枠 %2 に入りません。小さいサイズを選ぶか、行と列を減らしてください。</translation>
+    </message>
+    <message>
+        <source>A border of %1 leaves nothing of a print of %2. Choose a narrower one.</source>
+        <translation>%1 の縁では、%2 のプリントに何も残りません。もっと細い縁を選んでください。</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::SheetPrinter</name>
+    <message>
+        <source>Printed %1: %2</source>
+        <translation>%1 を印刷しました: %2</translation>
+    </message>
+    <message>
+        <source>Sent %1 to %2 as job %3</source>
+        <translation>%1 を %2 に送りました (ジョブ %3)</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; could not print %2 (job %3): %4. Look at the printer and print again.</source>
+        <translation>プリンター「%1」は %2（ジョブ %3）を印刷できませんでした: %4。プリンターを確認して、もう一度印刷してください。</translation>
+    </message>
+    <message>
+        <source>it gave no reason</source>
+        <translation>理由は示されていません</translation>
+    </message>
+    <message>
+        <source>The job %3 for %2 on the printer &quot;%1&quot; was canceled (%4).</source>
+        <translation>プリンター「%1」の %2 のジョブ %3 は取り消されました（%4）。</translation>
+    </message>
+    <message>
+        <source>Printed %1 on %2 (job %3)</source>
+        <translation>%1 を %2 で印刷しました（ジョブ %3）</translation>
+    </message>
+    <message>
+        <source>The job %1 for %2 could not be canceled: %3</source>
+        <translation>%2 のジョブ %1 を取り消せませんでした: %3</translation>
+    </message>
+    <message>
+        <source>The outcome of %1 (job %2) is unknown: %3</source>
+        <translation>%1（ジョブ %2）の結果は分かりません: %3</translation>
+    </message>
+    <message>
+        <source>%1 (job %2) is not printed yet: %3. The print server keeps it; &quot;cancel %2&quot; cancels it.</source>
+        <translation>%1（ジョブ %2）はまだ印刷されていません: %3。ジョブはプリントサーバーに残ります。「cancel %2」で取り消せます。</translation>
+    </message>
+    <message>
+        <source>no reason given</source>
+        <translation>理由は不明</translation>
+    </message>
+    <message>
+        <source>%1 (job %2) is not printed yet: %3. The printer keeps it; cancel it there.</source>
+        <translation>%1（ジョブ %2）はまだ印刷されていません: %3。ジョブはプリンターに残ります。プリンターで取り消してください。</translation>
+    </message>
+    <message>
+        <source>%1 copies of %2 are more than the %3 that a job can have. Print it in several parts.</source>
+        <translation>%2 の %1 部は、1 つのジョブの上限 %3 部を超えています。何回かに分けて印刷してください。</translation>
     </message>
 </context>
 <context>

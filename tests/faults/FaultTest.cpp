@@ -51,9 +51,10 @@ Result<PrintedFiles, OutputFault> print(const QString &folder, bool overwrites)
     PrintJob job;
     job.page = {QSizeF(288, 432), QRectF(0, 0, 288, 432)};
     PrintedNames names({folder, overwrites});
-    PlacedPhoto placed{*Photo::open(QStringLiteral(CORVEL_SAMPLE_PHOTO))};
-    placed.isAccepted = true; // checks run on threads that a forked process does not have
-    return BuiltInPrinter::print(placed, job, names);
+    constexpr bool isAccepted = true; // checks run on threads that a forked process does not have
+    const PrintSheet sheet =
+        PrintSheet::of(*Photo::open(QStringLiteral(CORVEL_SAMPLE_PHOTO)), job.page, {}, isAccepted);
+    return BuiltInPrinter::print(sheet, job, names);
 }
 
 /// Of this process, in KiB.

@@ -1,11 +1,11 @@
 // SPDX-FileCopyrightText: Corvel print dialog authors
 // SPDX-License-Identifier: Apache-2.0
 
-#include "PhotoPrinter.h"
 #include "QueueList.h"
 #include "Rows.h"
 #include "SessionJob.h"
 #include "SessionOpening.h"
+#include "SheetPrinter.h"
 #include "StubPrinter.h"
 #include "TestMain.h"
 
@@ -57,8 +57,9 @@ class IppJobsTest : public QObject
         const auto job = jobOf(**session, copies);
         if (!job)
             return job.failure().text;
-        PhotoPrinter printing(job->job);
-        const auto sent = printing.print({*Photo::open(photo_), {Scaling::Fill, 0, {0.5, 0.5}}, false});
+        SheetPrinter printing(job->job);
+        const auto sent =
+            printing.print(PrintSheet::of(*Photo::open(photo_), job->job.page, {Scaling::Fill}));
         if (!sent)
             return sent.failure().text;
         const auto outcome = printing.follow(

@@ -86,7 +86,8 @@ private Q_SLOTS:
             QDir(folder_->path()).mkdir(source);
             samples::store(pathOf(source + u"/photo.jpg"_s), jpeg);
             const auto photo = Photo::open(pathOf(source + u"/photo.jpg"_s));
-            const auto files = BuiltInPrinter::print({*photo}, usualJob(), names);
+            const auto files =
+                BuiltInPrinter::print(PrintSheet::of(*photo, usualJob().page, {}), usualJob(), names);
             QVERIFY2(files, files ? "" : qPrintable(files.failure().text));
             const QString name = source == u"a" ? u"photo"_s : u"photo-2"_s;
             QCOMPARE(files->pdf, output + u'/' + name + u".pdf"_s);
@@ -138,7 +139,8 @@ private Q_SLOTS:
         const auto before = contentOf(folder_->path());
 
         PrintedNames names(folder);
-        const auto files = BuiltInPrinter::print({*Photo::open(pathOf(u"photo.jpg"_s))}, usualJob(), names);
+        const auto files = BuiltInPrinter::print(
+            PrintSheet::of(*Photo::open(pathOf(u"photo.jpg"_s)), usualJob().page, {}), usualJob(), names);
         QVERIFY2(files, files ? "" : qPrintable(files.failure().text));
         QCOMPARE(files->pdf, pathOf(name + u".pdf"_s));
         QCOMPARE(files->ticket, pathOf(name + u".ticket.json"_s));
@@ -223,7 +225,7 @@ private Q_SLOTS:
                 QFile::setPermissions(pathOf(u"locked"_s), QFile::Permissions(0x5555));
                 rights.emplace();
             }
-            return BuiltInPrinter::print({*photo}, job, names);
+            return BuiltInPrinter::print(PrintSheet::of(*photo, job.page, {}), job, names);
         }();
         QVERIFY(!files);
         QCOMPARE(files.failure().reason, fault);

@@ -53,7 +53,7 @@ void PrintDialogTest::damagedPhoto()
     const QString folder = config_->filePath(u"unseen"_s);
     PrintJob job;
     job.folder.path = folder;
-    worker.print({{setup.photos.at(0)}, {*Photo::open(damaged.fileName())}}, job);
+    worker.print({{{setup.photos.at(0)}, {*Photo::open(damaged.fileName())}}}, job);
     QVERIFY(finished.wait());
     QVERIFY(finished.at(0).at(0).value<PrintOutcome>().hasDamaged);
     QVERIFY(!QFile::exists(folder));

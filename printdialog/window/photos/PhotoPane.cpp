@@ -92,12 +92,12 @@ PhotoPane::PhotoPane(QWidget *parent)
 void PhotoPane::setPhotos(const QList<Photo> &photos, const PlacementChoice &placement)
 {
     initial_ = placement;
-    photos_.clear();
+    arrangement_.photos.clear();
     for (const Photo &photo : photos) {
-        photos_.append({photo, placement});
+        arrangement_.photos.append({photo, placement});
         check(photo);
     }
-    current_ = photos_.isEmpty() ? -1 : 0;
+    current_ = arrangement_.photos.isEmpty() ? -1 : 0;
     show();
 }
 
@@ -165,10 +165,10 @@ void PhotoPane::addFiles(const QStringList &paths)
                 return;
             // Before the message that follows, since the photos are what the user sees of it.
             const PlacementChoice placement =
-                self->current_ < 0 ? self->initial_ : self->photos_.at(self->current_).placement;
-            const auto first = static_cast<int>(self->photos_.size());
+                self->current_ < 0 ? self->initial_ : self->arrangement_.photos.at(self->current_).placement;
+            const auto first = static_cast<int>(self->arrangement_.photos.size());
             for (const Photo &photo : opened) {
-                self->photos_.append({photo, {placement.scaling, 0, PlacementChoice().crop}});
+                self->arrangement_.photos.append({photo, {placement.scaling, 0, PlacementChoice().crop}});
                 self->check(photo);
             }
             if (!opened.isEmpty())
@@ -199,8 +199,8 @@ void PhotoPane::check(const Photo &photo)
 QList<int> PhotoPane::damagedPhotos() const
 {
     QList<int> damaged;
-    for (int i = 0; i < static_cast<int>(photos_.size()); ++i) {
-        const PlacedPhoto &placed = photos_.at(i);
+    for (int i = 0; i < static_cast<int>(arrangement_.photos.size()); ++i) {
+        const PlacedPhoto &placed = arrangement_.photos.at(i);
         if (!placed.isAccepted && placed.photo.isChecked() && placed.photo.damage())
             damaged.append(i);
     }
@@ -211,15 +211,15 @@ void PhotoPane::acceptDamagedPhotos()
 {
     const QList<int> damaged = damagedPhotos();
     for (const int index : damaged)
-        photos_[index].isAccepted = true;
+        arrangement_.photos[index].isAccepted = true;
 }
 
 void PhotoPane::removePhoto(int index)
 {
-    if (index < 0 || index >= photos_.size())
+    if (index < 0 || index >= arrangement_.photos.size())
         return;
-    photos_.removeAt(index);
-    if (current_ > index || current_ == photos_.size())
+    arrangement_.photos.removeAt(index);
+    if (current_ > index || current_ == arrangement_.photos.size())
         --current_;
     show();
     Q_EMIT photosChanged();
@@ -227,9 +227,9 @@ void PhotoPane::removePhoto(int index)
 
 void PhotoPane::movePhoto(int from, int to)
 {
-    if (from == to || std::min(from, to) < 0 || std::max(from, to) >= photos_.size())
+    if (from == to || std::min(from, to) < 0 || std::max(from, to) >= arrangement_.photos.size())
         return;
-    photos_.move(from, to);
+    arrangement_.photos.move(from, to);
     current_ = to;
     show();
     Q_EMIT photosChanged();
@@ -244,9 +244,9 @@ void PhotoPane::setCurrent(int index)
 
 void PhotoPane::place(const PlacementChoice &choice)
 {
-    if (current_ < 0 || photos_.at(current_).placement == choice)
+    if (current_ < 0 || arrangement_.photos.at(current_).placement == choice)
         return;
-    photos_[current_].placement = choice;
+    arrangement_.photos[current_].placement = choice;
     preview_->setPlacement(choice);
     placement_->setPlacement(choice);
     showCaption();
@@ -255,7 +255,7 @@ void PhotoPane::place(const PlacementChoice &choice)
 
 bool PhotoPane::isReady() const
 {
-    return photos_.isEmpty() || (preview_->isReady() && strip_->isReady());
+    return arrangement_.photos.isEmpty() || (preview_->isReady() && strip_->isReady());
 }
 
 // Inside a scroll area, requests only the minimum height: the preview shrinks before anything scrolls.
@@ -266,7 +266,8 @@ int PhotoPane::heightForWidth(int width) const
 
 void PhotoPane::browse()
 {
-    const QString folder = current_ < 0 ? QString() : QFileInfo(photos_.at(current_).photo.path()).path();
+    const QString folder =
+        current_ < 0 ? QString() : QFileInfo(arrangement_.photos.at(current_).photo.path()).path();
     const QStringList paths = QFileDialog::getOpenFileNames(this, tr("Add Photos"), folder);
     if (!paths.isEmpty())
         addFiles(paths);
@@ -274,7 +275,7 @@ void PhotoPane::browse()
 
 void PhotoPane::show()
 {
-    const PlacedPhoto shown = current_ < 0 ? PlacedPhoto() : photos_.at(current_);
+    const PlacedPhoto shown = current_ < 0 ? PlacedPhoto() : arrangement_.photos.at(current_);
     preview_->setPhoto(shown.photo);
     const PlacementChoice placement = isPlacedByPrinter_ ? PlacementChoice() : shown.placement;
     preview_->setPlacement(placement);
@@ -282,8 +283,8 @@ void PhotoPane::show()
     placement_->setEnabled(current_ >= 0);
     remove_->setEnabled(current_ >= 0);
     QList<Photo> several; // a single photo needs no strip, and no thumbnail
-    for (const PlacedPhoto &placed : std::as_const(photos_)) {
-        if (photos_.size() > 1)
+    for (const PlacedPhoto &placed : std::as_const(arrangement_.photos)) {
+        if (arrangement_.photos.size() > 1)
             several.append(placed.photo);
     }
     strip_->setPhotos(several, several.isEmpty() ? -1 : current_);
@@ -295,16 +296,17 @@ void PhotoPane::showCaption()
 {
     QStringList lines;
     if (current_ >= 0) {
-        const Photo &photo = photos_.at(current_).photo;
+        const Photo &photo = arrangement_.photos.at(current_).photo;
         const QString name = plainText(photo.fileName(), shownTextLimit);
-        lines +=
-            photos_.size() == 1 ? name : tr("%1 (%2 of %3)").arg(name).arg(current_ + 1).arg(photos_.size());
+        lines += arrangement_.photos.size() == 1
+                     ? name
+                     : tr("%1 (%2 of %3)").arg(name).arg(current_ + 1).arg(arrangement_.photos.size());
         if (photo.isChecked() && photo.damage())
             lines += tr("Damaged: a part of the picture is missing or wrong.");
         if (isPlacedByPrinter_)
             lines += tr("The printer places it on the page itself; the preview is only an example.");
         else if (const auto placement = preview_->placement())
-            lines += placementText(photo, *placement, photos_.at(current_).placement, page_);
+            lines += placementText(photo, *placement, arrangement_.photos.at(current_).placement, page_);
     }
     caption_->setText(lines.join(u'\n'));
 }

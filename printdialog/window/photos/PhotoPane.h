@@ -3,9 +3,9 @@
 
 #pragma once
 
+#include "Arrangement.h"
 #include "PhotoPlacement.h"
 #include "PictureAdjustment.h"
-#include "PlacedPhoto.h"
 
 #include <QtCore/QList>
 #include <QtCore/QStringList>
@@ -46,7 +46,8 @@ public:
 
     /// Sets the initial photos, all with the same placement; later ones are placed like the current one.
     void setPhotos(const QList<Photo> &photos, const PlacementChoice &placement);
-    const QList<PlacedPhoto> &photos() const { return photos_; }
+    const QList<PlacedPhoto> &photos() const { return arrangement_.photos; }
+    const Arrangement &arrangement() const { return arrangement_; }
     void setPage(const PageGeometry &page);
     /// Whether the printer places the photos itself, whatever their placement is. The preview is then only an
     /// example, and says so.
@@ -100,7 +101,7 @@ private:
     QPushButton *add_;
     QPushButton *remove_;
     PhotoStrip *strip_;
-    QList<PlacedPhoto> photos_;
+    Arrangement arrangement_;
     PlacementChoice initial_;
     PageGeometry page_;
     ScreenProfiles *screens_;

@@ -14,7 +14,6 @@ namespace printdialog {
 
 namespace {
 
-constexpr double pointsPerInch = 72;
 constexpr double centimetresPerInch = 2.54;
 
 struct Text

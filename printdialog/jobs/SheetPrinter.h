@@ -5,8 +5,8 @@
 
 #include "JobFollowing.h"
 #include "JobSubmission.h"
-#include "PlacedPhoto.h"
 #include "PrintJob.h"
+#include "PrintSheet.h"
 #include "PrintedNames.h"
 
 #include <QtCore/QCoreApplication>
@@ -17,32 +17,32 @@
 
 namespace printdialog {
 
-/// Prints photos one after the other, on a queue or the built-in printer, which gives each photo's files
-/// different names. The jobs of a queue can be followed to their end, or canceled. Blocking, for a worker
+/// Prints sheets one after the other, on a queue, each as a job of its own, or the built-in printer, which gives each
+/// sheet's files different names. The jobs of a queue can be followed to their end, or canceled. Blocking, for a worker
 /// thread or the command line; one thread at a time.
-class PhotoPrinter
+class SheetPrinter
 {
-    Q_DECLARE_TR_FUNCTIONS(printdialog::PhotoPrinter)
+    Q_DECLARE_TR_FUNCTIONS(printdialog::SheetPrinter)
 
 public:
-    /// Why a photo was not printed; the failure's text is a sentence for people. The reasons come from too
+    /// Why a sheet was not printed; the failure's text is a sentence for people. The reasons come from too
     /// many parts for one useful enumeration.
     struct Fault
     {
         std::optional<QueueFault> queue; ///< The queue's reason, if it is one.
-        /// The photo is damaged or needs too much memory; other photos may still print.
+        /// One of its photos is damaged or needs too much memory; other sheets may still print.
         bool isPhotoFault = false;
     };
 
     /// @param sent, cancel see JobSubmission
-    explicit PhotoPrinter(const PrintJob &job, const JobSubmission::Progress &sent = {},
+    explicit SheetPrinter(const PrintJob &job, const JobSubmission::Progress &sent = {},
                           int *cancel = nullptr);
 
-    /// Sends the photo to the queue, or writes its files. Returns a sentence for people.
-    Result<QString, Fault> print(const PlacedPhoto &placed);
+    /// Sends the sheet to the queue, or writes its files. Returns a sentence for people.
+    Result<QString, Fault> print(const PrintSheet &sheet);
 
     /// The document that print() sends to a queue.
-    static Result<JobDocument, Fault> documentOf(const PlacedPhoto &placed, const PrintJob &job);
+    static Result<JobDocument, Fault> documentOf(const PrintSheet &sheet, const PrintJob &job);
 
     /// The ids of the jobs sent to the queue; empty for the built-in printer.
     QList<int> sentJobs() const;
@@ -58,9 +58,9 @@ public:
 
     /// Follows one job after the other. The limit for waiting counts from the first job's start, since all of
     /// them wait for the same printer.
-    /// @param news called with the photo's index among those that were sent, and its job's state in words
+    /// @param news called with the sheet's index among those that were sent, and its job's state in words
     /// @param cancel non-zero: stop following; may be null
-    Outcome follow(const FollowLimits &limits, const std::function<void(int photo, const QString &)> &news,
+    Outcome follow(const FollowLimits &limits, const std::function<void(int sheet, const QString &)> &news,
                    int *cancel);
 
     /// Cancels the jobs that are not over. Returns a sentence for each one that could not be canceled.
@@ -70,11 +70,11 @@ public:
 private:
     struct SentJob
     {
-        QString photo; ///< The name of its file.
+        QString sheet; ///< Its name.
         int id;
     };
 
-    Result<QString, Fault> send(const PlacedPhoto &placed);
+    Result<QString, Fault> send(const PrintSheet &sheet);
     void note(const SentJob &job, const JobStatus &status, Outcome &outcome) const;
 
     PrintJob job_;

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Corvel print dialog authors
 // SPDX-License-Identifier: Apache-2.0
 
-#include "PhotoPrinter.h"
+#include "SheetPrinter.h"
 
 #include "BuiltInPrinter.h"
 #include "CupsConnection.h"
@@ -16,57 +16,63 @@ namespace printdialog {
 
 namespace {
 
-Failure<PhotoPrinter::Fault> failureOf(const Failure<QueueFault> &failure)
+Failure<SheetPrinter::Fault> failureOf(const Failure<QueueFault> &failure)
 {
     return {{failure.reason, false}, failure.text, failure.detail};
 }
 
 /// For OutputFault or PdfFault.
 template <class Reason>
-Failure<PhotoPrinter::Fault> failureOf(const Failure<Reason> &failure)
+Failure<SheetPrinter::Fault> failureOf(const Failure<Reason> &failure)
 {
     return {{std::nullopt, failure.reason == Reason::PhotoUnusable}, failure.text, failure.detail};
 }
 
 } // namespace
 
-PhotoPrinter::PhotoPrinter(const PrintJob &job, const JobSubmission::Progress &sent, int *cancel)
+SheetPrinter::SheetPrinter(const PrintJob &job, const JobSubmission::Progress &sent, int *cancel)
     : job_(job)
     , submission_(sent, cancel)
     , names_(job.folder)
 {
 }
 
-Result<QString, PhotoPrinter::Fault> PhotoPrinter::print(const PlacedPhoto &placed)
+Result<QString, SheetPrinter::Fault> SheetPrinter::print(const PrintSheet &sheet)
 {
     if (!job_.destination.isBuiltIn())
-        return send(placed);
-    const auto files = BuiltInPrinter::print(placed, job_, names_);
+        return send(sheet);
+    const auto files = BuiltInPrinter::print(sheet, job_, names_);
     if (!files)
         return failureOf(files.failure());
-    return tr("Printed %1: %2").arg(placed.photo.fileName(), files->pdf);
+    return tr("Printed %1: %2").arg(sheet.name, files->pdf);
 }
 
-Result<QString, PhotoPrinter::Fault> PhotoPrinter::send(const PlacedPhoto &placed)
+Result<QString, SheetPrinter::Fault> SheetPrinter::send(const PrintSheet &sheet)
 {
-    const auto document = documentOf(placed, job_);
+    const auto document = documentOf(sheet, job_);
     if (!document)
         return document.failure();
-    const auto id = submission_.send(job_, *document);
+    PrintJob job = job_;
+    job.copies *= sheet.copies;
+    if (job.copies > mostJobCopies)
+        return Failure<Fault>{{},
+                              tr("%1 copies of %2 are more than the %3 that a job can have. Print it in several parts.")
+                                  .arg(QString::number(job.copies), document->name,
+                                       QString::number(mostJobCopies)),
+                              {}};
+    const auto id = submission_.send(job, *document);
     if (!id)
         return failureOf(id.failure());
     sent_.append({document->name, *id});
     return tr("Sent %1 to %2 as job %3").arg(document->name, job_.destination.id(), QString::number(*id));
 }
 
-Result<JobDocument, PhotoPrinter::Fault> PhotoPrinter::documentOf(const PlacedPhoto &placed,
+Result<JobDocument, SheetPrinter::Fault> SheetPrinter::documentOf(const PrintSheet &sheet,
                                                                   const PrintJob &job)
 {
-    std::optional<PhotoCheck> check;
-    if (!placed.isAccepted)
-        check.emplace(placed.photo);
-    auto document = jobDocument(placed, job);
-    if (const auto damage = check ? check->wait() : std::nullopt)
+    PhotoCheck check(sheet.photosToCheck());
+    auto document = jobDocument(sheet, job);
+    if (const auto damage = check.wait())
         return Failure<Fault>{{std::nullopt, true}, damage->text, damage->detail};
     if (!document)
         return failureOf(document.failure());
@@ -75,7 +81,7 @@ Result<JobDocument, PhotoPrinter::Fault> PhotoPrinter::documentOf(const PlacedPh
     return *std::move(document);
 }
 
-QList<int> PhotoPrinter::sentJobs() const
+QList<int> SheetPrinter::sentJobs() const
 {
     QList<int> ids;
     for (const SentJob &job : sent_)
@@ -83,7 +89,7 @@ QList<int> PhotoPrinter::sentJobs() const
     return ids;
 }
 
-PhotoPrinter::Outcome PhotoPrinter::follow(const FollowLimits &limits,
+SheetPrinter::Outcome SheetPrinter::follow(const FollowLimits &limits,
                                            const std::function<void(int, const QString &)> &news, int *cancel)
 {
     using Clock = std::chrono::steady_clock;
@@ -101,7 +107,7 @@ PhotoPrinter::Outcome PhotoPrinter::follow(const FollowLimits &limits,
             return outcome;
         if (!status) {
             outcome.failure = tr("The outcome of %1 (job %2) is unknown: %3")
-                                  .arg(job.photo, QString::number(job.id), status.failure().text);
+                                  .arg(job.sheet, QString::number(job.id), status.failure().text);
             return outcome;
         }
         note(job, *status, outcome);
@@ -111,7 +117,7 @@ PhotoPrinter::Outcome PhotoPrinter::follow(const FollowLimits &limits,
     return outcome;
 }
 
-void PhotoPrinter::note(const SentJob &job, const JobStatus &status, Outcome &outcome) const
+void SheetPrinter::note(const SentJob &job, const JobStatus &status, Outcome &outcome) const
 {
     const QString queue = job_.destination.id();
     const QString id = QString::number(job.id);
@@ -122,24 +128,24 @@ void PhotoPrinter::note(const SentJob &job, const JobStatus &status, Outcome &ou
                 ? tr("%1 (job %2) is not printed yet: %3. The printer keeps it; cancel it there.")
                 : tr("%1 (job %2) is not printed yet: %3. The print server keeps it; \"cancel %2\" cancels "
                      "it.");
-        outcome.waiting.append(sentence.arg(job.photo, id, status.text()));
+        outcome.waiting.append(sentence.arg(job.sheet, id, status.text()));
     } else if (status.state == JobStatus::State::Aborted) {
         if (!outcome.failure)
             outcome.failure =
                 tr("The printer \"%1\" could not print %2 (job %3): %4. Look at the printer and print again.")
-                    .arg(queue, job.photo, id, detail.isEmpty() ? tr("it gave no reason") : detail);
+                    .arg(queue, job.sheet, id, detail.isEmpty() ? tr("it gave no reason") : detail);
     } else if (status.state == JobStatus::State::Canceled) {
         if (!outcome.failure)
             outcome.failure =
                 tr("The job %3 for %2 on the printer \"%1\" was canceled (%4).")
-                    .arg(queue, job.photo, id, detail.isEmpty() ? tr("no reason given") : detail);
+                    .arg(queue, job.sheet, id, detail.isEmpty() ? tr("no reason given") : detail);
     } else {
         outcome.ids.append(job.id);
-        outcome.printed.append(tr("Printed %1 on %2 (job %3)").arg(job.photo, queue, id));
+        outcome.printed.append(tr("Printed %1 on %2 (job %3)").arg(job.sheet, queue, id));
     }
 }
 
-QStringList PhotoPrinter::cancelJobs(int &over)
+QStringList SheetPrinter::cancelJobs(int &over)
 {
     constexpr auto patience = 5s;
     over = 0;
@@ -151,7 +157,7 @@ QStringList PhotoPrinter::cancelJobs(int &over)
         const auto canceled = cancelJob(connection, job_.destination.id(), job.id);
         if (!canceled)
             failures.append(tr("The job %1 for %2 could not be canceled: %3")
-                                .arg(QString::number(job.id), job.photo, canceled.failure().text));
+                                .arg(QString::number(job.id), job.sheet, canceled.failure().text));
         else if (!*canceled)
             ++over;
     }

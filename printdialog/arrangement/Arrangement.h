@@ -1,0 +1,35 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include "PlacedPhoto.h"
+#include "PrintSheet.h"
+#include "SheetPlan.h"
+
+#include <QtCore/QCoreApplication>
+#include <QtCore/QList>
+
+namespace printdialog {
+
+/// What is to be printed: the photos in their order, each as it is wanted, and how they share sheets. A
+/// value.
+struct Arrangement
+{
+    Q_DECLARE_TR_FUNCTIONS(printdialog::Arrangement)
+
+public:
+    QList<PlacedPhoto> photos;
+    SheetLayout layout = {};
+
+    /// Which photo lies where. The page's printed area is not empty.
+    SheetPlan plan(const PageGeometry &page) const;
+    /// A sheet of the plan, which was made from this arrangement.
+    PrintSheet sheet(const LaidSheet &laid) const;
+    /// As a printer gets it that takes only files as they are: each photo alone, without a placement.
+    Arrangement unplaced() const;
+    /// The lines below a photo on a sheet with captions.
+    static QStringList captionOf(const Photo &photo, Caption caption);
+};
+
+} // namespace printdialog
