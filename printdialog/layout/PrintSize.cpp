@@ -46,7 +46,8 @@ const Unit &shortestUnit(std::initializer_list<double> lengths)
             count += numberText(length / unit.points).size();
         return count;
     };
-    return *std::ranges::min_element(units, {}, digits);
+    const std::span written = std::span(units).first(units.size() - 1); // no one writes points
+    return *std::ranges::min_element(written, {}, digits);
 }
 
 constexpr PrintSize metric(double width, double height, bool keepsOrientation = false)
