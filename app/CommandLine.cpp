@@ -13,6 +13,7 @@
 #include <QtCore/QStandardPaths>
 #include <QtCore/QUrl>
 
+#include <algorithm>
 #include <array>
 
 namespace printdialog {
@@ -61,6 +62,23 @@ constexpr std::array optionRows = {
               QT_TRANSLATE_NOOP("CommandLine",
                                 "which part of a cropped photo is kept, in per cent from its left\n"
                                 "and from its top (otherwise 50,50, the middle)")},
+    OptionRow{"size", "SIZE",
+              QT_TRANSLATE_NOOP("CommandLine",
+                                "the size of each print, such as 9x13cm, 35x45mm, 4x6in, or by name:\n"
+                                "square, passport, wallet; otherwise the whole page")},
+    OptionRow{"scale", "PERCENT",
+              QT_TRANSLATE_NOOP("CommandLine", "the photo larger or smaller than by its scaling, 1 to 1000")},
+    OptionRow{
+        "border", "WIDTH[,COLOR]",
+        QT_TRANSLATE_NOOP("CommandLine", "a border around each photo, within its size: 3mm, or 3mm,black")},
+    OptionRow{"layout", "LAYOUT",
+              QT_TRANSLATE_NOOP("CommandLine",
+                                "several photos on a sheet: ROWSxCOLUMNS (2x3); fit, as many of the size\n"
+                                "as fit; contact or contact:ROWSxCOLUMNS, a contact sheet; strips or\n"
+                                "strips:NUMBER, two strips of 2 to 4 photos. With \",repeat\" each photo\n"
+                                "fills its sheet; also \",gap=2mm\" and \",marks\" for cut marks")},
+    OptionRow{"caption", "none|name|date|both",
+              QT_TRANSLATE_NOOP("CommandLine", "what stands below each photo of a layout")},
     OptionRow{"output", "DIR",
               QT_TRANSLATE_NOOP("CommandLine",
                                 "where the built-in printer leaves its files (otherwise the current\n"
@@ -225,23 +243,48 @@ Fault readPhotos(const QStringList &arguments, QStringList &photos)
     return std::nullopt;
 }
 
-Fault readScaling(const QCommandLineParser &parser, Scaling &scaling)
+/// A value in its text form; `complaint` is a sentence about the text %1.
+template <class Value, class Read>
+Fault readText(const QCommandLineParser &parser, const char *name, std::optional<Value> &value, Read read,
+               const QString &complaint)
 {
-    std::optional<QString> name;
-    if (Fault found = readValue(parser, "scaling", name); found || !name)
+    std::optional<QString> text;
+    if (Fault found = readValue(parser, name, text); found || !text)
         return found;
-    if (*name == QLatin1String("fill"))
-        scaling = Scaling::Fill;
-    else if (*name == QLatin1String("actual"))
-        scaling = Scaling::ActualSize;
-    else if (*name != QLatin1String("fit"))
-        return fault(UsageFault::Value,
-                     Text::tr("There is no scaling \"%1\". Choose fit, fill or actual.").arg(*name));
+    value = read(*text);
+    return value ? std::nullopt : Fault(fault(UsageFault::Value, complaint.arg(*text)));
+}
+
+Fault readSheets(const QCommandLineParser &parser, RequestedStyle &style)
+{
+    const Fault faults[] = {
+        readText(parser, "scaling", style.scaling, scalingFromWord,
+                 Text::tr("There is no scaling \"%1\". Choose fit, fill or actual.")),
+        readText(
+            parser, "size", style.size, PrintSize::fromText,
+            Text::tr("\"%1\" is not a print size. Give one such as 10x15cm, 4x6in or passport, with sides "
+                     "from 5 mm to 2 m.")),
+        readText(parser, "scale", style.scale, PlacementChoice::scaleFromText,
+                 Text::tr("\"%1\" is not a scale. Give a number from 1 to 1000, in per cent.")),
+        readText(
+            parser, "border", style.border, PhotoBorder::fromText,
+            Text::tr("\"%1\" is not a border. Give a width from 0 to 100 mm, and a color if it is not to be "
+                     "white: 3mm,black.")),
+        readText(
+            parser, "layout", style.layout, SheetLayout::fromText,
+            Text::tr("\"%1\" is not a layout. Give rows and columns from 1 to 20 (2x3), fit, contact, or "
+                     "strips:2 to strips:4.")),
+        readText(parser, "caption", style.caption, captionFromText,
+                 Text::tr("There is no caption \"%1\". Choose none, name, date or both."))};
+    for (const Fault &found : faults) {
+        if (found)
+            return found;
+    }
     return std::nullopt;
 }
 
-/// Call after readScaling().
-Fault readCrop(const QCommandLineParser &parser, PlacementChoice &placement)
+/// Call after readSheets().
+Fault readCrop(const QCommandLineParser &parser, RequestedStyle &style)
 {
     std::optional<QString> value;
     if (Fault found = readValue(parser, "crop", value); found || !value)
@@ -259,11 +302,11 @@ Fault readCrop(const QCommandLineParser &parser, PlacementChoice &placement)
             UsageFault::Value,
             Text::tr("\"%1\" is not a crop. Give two numbers from 0 to 100, such as 50,0.").arg(*value));
     }
-    if (placement.scaling == Scaling::Fit) {
+    if (style.scaling.value_or(Scaling::Fit) == Scaling::Fit && style.scale.value_or(1) == 1) {
         return fault(UsageFault::Combination,
                      Text::tr("--crop is for --scaling fill or actual; with fit nothing is cropped."));
     }
-    placement.crop = QPointF(left, top) / 100;
+    style.crop = QPointF(left, top) / 100;
     return std::nullopt;
 }
 
@@ -328,6 +371,17 @@ Fault contradiction(const CommandLine &line)
         return fault(UsageFault::Missing, Text::tr("--dry-run needs a photo."));
     if (line.preview && line.photos.isEmpty())
         return fault(UsageFault::Missing, Text::tr("--preview needs a photo."));
+    const qsizetype lists = std::ranges::count_if(line.photos, PrintList::isListName);
+    if (lists > 0 && (line.photos.size() > 1 || line.style != RequestedStyle()))
+        return fault(
+            UsageFault::Combination,
+            Text::tr(
+                "A print list says itself which photos are printed and how. Give it without other photos, "
+                "and without %1.")
+                .arg(QLatin1String("--scaling, --crop, --size, --scale, --border, --layout, --caption")));
+    if (line.photos.count(QLatin1String("-")) > 1)
+        return fault(UsageFault::Combination,
+                     Text::tr("\"-\" reads one photo from the standard input. Give it once."));
     if (line.json && !line.dryRun && (line.batch || line.screenshot || line.preview || tasks.isEmpty())) {
         return fault(UsageFault::Combination,
                      Text::tr("--json is for --list-printers, --list-options, --summary and --dry-run."));
@@ -380,12 +434,33 @@ Result<CommandLine, UsageFault> CommandLine::parse(const QStringList &arguments)
           readValue(parser, "output", line.output), readTitle(parser, line),
           readValue(parser, "screenshot", line.screenshot), readPreview(parser, line.preview),
           readServer(parser, line.server), readWait(parser, line.wait), readMode(parser, line.mode),
-          readScaling(parser, line.placement.scaling), readCrop(parser, line.placement),
-          readChoices(parser, line.options), contradiction(line)}) {
+          readSheets(parser, line.style), readCrop(parser, line.style), readChoices(parser, line.options),
+          contradiction(line)}) {
         if (found)
             return *found;
     }
     return line;
+}
+
+ArrangementStyle RequestedStyle::over(const ArrangementStyle &style) const
+{
+    ArrangementStyle result = style;
+    PlacementChoice &placement = result.placement;
+    placement.scaling = scaling.value_or(placement.scaling);
+    placement.crop = crop.value_or(placement.crop);
+    placement.size = size ? size : placement.size;
+    placement.scale = scale.value_or(placement.scale);
+    placement.border = border.value_or(placement.border);
+    result.layout = layout.value_or(result.layout);
+    result.layout.caption = caption.value_or(result.layout.caption);
+    return result;
+}
+
+bool CommandLine::drawsText() const
+{
+    // A list or a preset may ask for captions, which is known only when they are read.
+    return (batch || dryRun || preview) && (hasPrintList() || (printer && !printer->instance.isEmpty()) ||
+                                            style.over({}).layout.caption != Caption::None);
 }
 
 QString CommandLine::noTitleText()

@@ -3,9 +3,10 @@
 
 #pragma once
 
+#include "ArrangementStyle.h"
 #include "Destination.h"
-#include "PhotoPlacement.h"
 #include "PrintJob.h"
+#include "PrintList.h"
 #include "PrinterDescription.h"
 #include "Result.h"
 
@@ -39,21 +40,38 @@ struct RequestedChoice
     QString choice; ///< any text that may stand for a choice, not checked yet
 };
 
+/// What the command line says of the photos' arrangement; the rest is the preset's, or usual.
+struct RequestedStyle
+{
+    std::optional<Scaling> scaling = std::nullopt;
+    std::optional<QPointF> crop = std::nullopt; ///< see PlacementChoice
+    std::optional<PrintSize> size = std::nullopt;
+    std::optional<double> scale = std::nullopt;
+    std::optional<PhotoBorder> border = std::nullopt;
+    std::optional<SheetLayout> layout = std::nullopt;
+    std::optional<Caption> caption = std::nullopt;
+
+    bool operator==(const RequestedStyle &) const = default;
+    /// The style with what is requested in place of its own.
+    ArrangementStyle over(const ArrangementStyle &style) const;
+};
+
 /// The program's task. A plain value. At most one of batch, preview, listPrinters, listOptions and screenshot
 /// is set; summary and dryRun are each set alone or together with batch. Without any of them, the window is
 /// shown.
 struct CommandLine
 {
-    QStringList photos;                 ///< paths; file URLs are converted
+    /// Paths; file URLs are converted, and "-" stands for the standard input. Or a single print list.
+    QStringList photos;
     std::optional<Destination> printer; ///< its instance is a preset's name, or the preset's instance in CUPS
     std::optional<QString> ppd;         ///< a file, for the built-in printer
     PanelMode mode = PanelMode::Constraint;
     QList<RequestedChoice> options; ///< in the order given
     std::optional<QString> title;   ///< of the job at a queue
     std::optional<int> copies;      ///< of each photo, from 1 to mostCopies
-    PlacementChoice placement;      ///< of each photo on its page
-    std::optional<QString> output;  ///< the folder of the built-in printer's files
-    bool overwrite = false;         ///< files of an earlier run are replaced
+    RequestedStyle style;
+    std::optional<QString> output; ///< the folder of the built-in printer's files
+    bool overwrite = false;        ///< files of an earlier run are replaced
     bool batch = false;
     bool dryRun = false;
     bool checks = true;            ///< whether damaged photos are left out
@@ -75,6 +93,11 @@ struct CommandLine
 
     /// The text of --help; ends with a line feed.
     static QString helpText();
+
+    /// Whether the photos are those of a print list.
+    bool hasPrintList() const { return photos.size() == 1 && PrintList::isListName(photos.constFirst()); }
+    /// Whether texts are drawn, for which fonts are needed.
+    bool drawsText() const;
 
     /// A sentence: only jobs of print queues have a title.
     static QString noTitleText();

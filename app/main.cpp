@@ -10,6 +10,7 @@
 #include "QuietDecoding.h"
 #include "QuietFeedback.h"
 #include "ScreenshotRun.h"
+#include "StandardInput.h"
 #include "SystemLog.h"
 #include "TerminalLogin.h"
 #include "WindowRun.h"
@@ -138,7 +139,7 @@ bool choosePlatform(const CommandLine &commandLine)
     // The panels' widgets are not shown: this platform does not load the system's fonts, which would take a
     // quarter of the run's time.
     if (commandLine.runsWithoutWindow())
-        return qputenv("QT_QPA_PLATFORM", "minimal");
+        return qputenv("QT_QPA_PLATFORM", commandLine.drawsText() ? "offscreen" : "minimal");
     // Pictures of the dialog then look the same with and without a display.
     if (commandLine.screenshot)
         return qputenv("QT_QPA_PLATFORM", "offscreen");
@@ -187,7 +188,7 @@ int main(int argc, char *argv[])
     qInstallMessageHandler(logQtMessage);
     QCoreApplication::setApplicationName(QStringLiteral("corvel-print"));
     QCoreApplication::setApplicationVersion(QStringLiteral(CORVEL_PRINT_VERSION));
-    const auto commandLine = CommandLine::parse(arguments);
+    auto commandLine = CommandLine::parse(arguments);
     if (!commandLine || commandLine->help || commandLine->version)
         return runWithoutApplication(arguments, argc, argv);
 
@@ -197,6 +198,12 @@ int main(int argc, char *argv[])
         return failWithoutDisplay(argc, argv);
     GuardedApplication application(argc, argv);
     loadTranslations(application);
+    StandardInput input;
+    if (const auto failure = input.replaceIn(commandLine->photos)) {
+        Console console;
+        console.complain(*failure);
+        return console.finish(exitFailed);
+    }
     if (commandLine->runsWithoutWindow())
         return runWithoutWindow(*commandLine);
     return commandLine->screenshot ? runScreenshot(*commandLine, application)

@@ -7,6 +7,7 @@
 #include "JobPlan.h"
 #include "JobSummary.h"
 #include "PrintedNames.h"
+#include "RequestedArrangement.h"
 #include "RequestedSession.h"
 #include "SummaryLines.h"
 
@@ -22,7 +23,7 @@ BatchRun::BatchRun(const CommandLine &commandLine, Console &console)
 
 int BatchRun::run()
 {
-    const auto opened = openPhotos();
+    auto opened = requestedArrangement(commandLine_);
     if (!opened)
         return fail(opened.failure().text);
     const auto requested = openRequestedSession(commandLine_);
@@ -32,25 +33,14 @@ int BatchRun::run()
     if (!job)
         return fail(job.failure().text);
     DialogSession &session = *requested->session;
+    useStyle(commandLine_, requested->style, *opened);
     if (commandLine_.summary)
-        console_.writeLines(summaryLines(jobSummary(session, requested->copies, {commandLine_.placement})));
-    job->folder = {commandLine_.outputFolder(), commandLine_.overwrite, commandLine_.photos};
+        console_.writeLines(
+            summaryLines(jobSummary(session, requested->copies, opened->placements(), opened->layout)));
+    job->folder = {commandLine_.outputFolder(), commandLine_.overwrite, opened->paths()};
     const Arrangement arrangement = job->isRaw() ? opened->unplaced() : *opened;
     return commandLine_.dryRun ? showPlan(arrangement, *job, session.printer().uri)
                                : printAll(arrangement, *job);
-}
-
-/// Fails with the first photo that cannot be printed.
-Result<Arrangement, PhotoFault> BatchRun::openPhotos() const
-{
-    Arrangement arrangement;
-    for (const QString &path : commandLine_.photos) {
-        auto photo = Photo::open(path);
-        if (!photo)
-            return photo.failure();
-        arrangement.photos += PlacedPhoto{*std::move(photo), commandLine_.placement, !commandLine_.checks};
-    }
-    return arrangement;
 }
 
 int BatchRun::showPlan(const Arrangement &arrangement, const PrintJob &job, const QString &uri)
@@ -61,8 +51,10 @@ int BatchRun::showPlan(const Arrangement &arrangement, const PrintJob &job, cons
     PrintedNames names(job.folder);
     QJsonArray array;
     QStringList lines;
-    for (const LaidSheet &laid : sheets.sheets()) {
-        const auto plan = JobPlan::make(arrangement.sheet(laid), job, uri, names);
+    const qsizetype count = sheets.sheets().size();
+    for (qsizetype i = 0; i < count; ++i) {
+        const PrintSheet sheet = arrangement.sheet(sheets.sheets().at(i));
+        const auto plan = JobPlan::make(sheet, job, uri, names, {i + 1, count});
         if (!plan && plan.failure().reason.isPhotoFault) {
             skipped(plan.failure().text);
             continue;

@@ -39,7 +39,6 @@ private:
     int showPlan(const Arrangement &arrangement, const PrintJob &job, const QString &uri);
     int printAll(const Arrangement &arrangement, const PrintJob &job);
     int conclude(const PrintOutcome &outcome, bool isQueue);
-    Result<Arrangement, PhotoFault> openPhotos() const;
     int endOf(int status) const;
     int fail(const QString &sentence);
 

@@ -10,14 +10,27 @@
 #include "QueueList.h"
 
 #include <QtCore/QDir>
-#include <QtCore/QJsonArray>
+
+#include <cmath>
 
 namespace printdialog {
 
-Result<JobPlan, SheetPrinter::Fault> JobPlan::make(const PrintSheet &sheet, const PrintJob &job,
-                                                   const QString &uri, PrintedNames &names)
+namespace {
+
+QString placeText(const PhotoPlacement &placement, const PageGeometry &page)
 {
-    JobPlan plan(sheet, job, uri);
+    const QRectF print = placement.outline & page.printed();
+    return JobPlan::tr("%1, %2 from the left, %3 from the top")
+        .arg(localSizeText(print.size()), localLengthText(print.left()), localLengthText(print.top()));
+}
+
+} // namespace
+
+Result<JobPlan, SheetPrinter::Fault> JobPlan::make(const PrintSheet &sheet, const PrintJob &job,
+                                                   const QString &uri, PrintedNames &names,
+                                                   const Number &number)
+{
+    JobPlan plan(sheet, job, uri, number);
     plan.job_.copies *= sheet.copies;
     if (job.destination.isBuiltIn()) {
         if (const auto damage = PhotoCheck(sheet.photosToCheck()).wait())
@@ -47,6 +60,29 @@ Result<JobPlan, SheetPrinter::Fault> JobPlan::make(const PrintSheet &sheet, cons
     return plan;
 }
 
+QJsonArray JobPlan::photosJson() const
+{
+    constexpr double precision = 100;
+    const auto millimeters = [](double points) {
+        return std::round(points / pointsPerMillimeter * precision) / precision;
+    };
+    QJsonArray photos;
+    for (const SheetPhoto &laid : sheet_.photos) {
+        const PhotoPlacement &placement = laid.placement;
+        const QRectF print = placement.outline & job_.page.printed();
+        photos +=
+            QJsonObject{{QStringLiteral("file"), laid.photo.path()},
+                        {QStringLiteral("left"), millimeters(print.left())},
+                        {QStringLiteral("top"), millimeters(print.top())},
+                        {QStringLiteral("width"), millimeters(print.width())},
+                        {QStringLiteral("height"), millimeters(print.height())},
+                        {QStringLiteral("turns"), placement.quarterTurns},
+                        {QStringLiteral("pixelsPerInch"), std::round(laid.pixelsPerInch())},
+                        {QStringLiteral("cutOff"), std::round(placement.cutOff(job_.page) * 1000) / 1000}};
+    }
+    return photos;
+}
+
 QStringList JobPlan::lines() const
 {
     QStringList lines;
@@ -54,8 +90,13 @@ QStringList JobPlan::lines() const
         lines.append(QStringLiteral("%1: %2").arg(label, value));
     };
     add(tr("Printer"), job_.destination.id());
-    for (const SheetPhoto &laid : sheet_.photos)
+    if (number_.of > 1)
+        add(tr("Sheet"), tr("%1 of %2").arg(number_.sheet).arg(number_.of));
+    for (const SheetPhoto &laid : sheet_.photos) {
         add(tr("Photo"), laid.photo.path());
+        if (!job_.isRaw())
+            add(tr("Place"), placeText(laid.placement, job_.page));
+    }
     if (job_.destination.isBuiltIn()) {
         for (const QString &file : files_)
             add(tr("File"), file);
@@ -82,8 +123,12 @@ QJsonObject JobPlan::json() const
         options.insert(option.key(), option.value());
     QJsonObject object = {{QStringLiteral("queue"), job_.destination.id()},
                           {QStringLiteral("document"), sheet_.photos.constFirst().photo.path()},
+                          {QStringLiteral("sheet"), number_.sheet},
+                          {QStringLiteral("sheets"), number_.of},
                           {QStringLiteral("copies"), job_.copies},
                           {QStringLiteral("options"), options}};
+    if (!job_.isRaw())
+        object.insert(QStringLiteral("photos"), photosJson());
     if (job_.destination.isBuiltIn()) {
         object.insert(QStringLiteral("files"), QJsonArray::fromStringList(files_));
         return object;

@@ -172,7 +172,8 @@ int showSummary(const CommandLine &commandLine, Console &console)
     const auto job = session.jobOptions();
     if (!job || !job->missing.isEmpty())
         return fail(console, job ? Console::oneLine(job->missing) : job.failure().text);
-    const SummaryEntries entries = jobSummary(session, opened->copies, {commandLine.placement});
+    const ArrangementStyle style = commandLine.style.over(opened->style);
+    const SummaryEntries entries = jobSummary(session, opened->copies, {style.placement}, style.layout);
     if (!commandLine.json) {
         console.writeLines(summaryLines(entries));
         return exitDone;

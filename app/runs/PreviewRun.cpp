@@ -115,7 +115,8 @@ int savePreviews(const CommandLine &commandLine, Console &console)
 
     DialogSession &session = *requested->session;
     PagePictureRequest request;
-    request.placement = session.printer().isRaw ? PlacementChoice() : commandLine.placement;
+    request.placement =
+        session.printer().isRaw ? PlacementChoice() : commandLine.style.over(requested->style).placement;
     request.page = job->page;
     request.adjustment = session.adjustment().value_or(PictureAdjustment());
     request.dotsPerInch = session.dotsPerInch();

@@ -100,6 +100,7 @@ std::optional<Destination> destinationOf(const CommandLine &commandLine)
 void take(RequestedSession &requested, const UsedChoices &used, const QString &introduction)
 {
     requested.copies = used.copies.value_or(1);
+    requested.style = used.style.value_or(ArrangementStyle());
     QStringList sentences;
     for (const QString &sentence : used.leftOut)
         sentences += introduction.arg(sentence);
@@ -159,7 +160,7 @@ Result<RequestedSession, std::monostate> openRequestedSession(const CommandLine 
     auto opened = openRequestedPrinter(commandLine);
     if (!opened)
         return opened.failure();
-    RequestedSession requested{*std::move(opened), 1, {}};
+    RequestedSession requested{*std::move(opened)};
     if (const auto failure = requested.session->loadPanels()) {
         if (failure->reason != PluginFault::NotFound)
             return refusal(failure->text);

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "ArrangementStyle.h"
 #include "CommandLine.h"
 #include "DialogSession.h"
 #include "PrintJob.h"
@@ -18,9 +19,10 @@ class Console;
 struct RequestedSession
 {
     std::unique_ptr<DialogSession> session;
-    int copies = 1;      ///< as requested, or else the preset's
-    QStringList leftOut; ///< a line about choices of the preset, and one about panels, that there are not
-                         ///< here, and one for each panel that could not read the job's choices
+    int copies = 1;              ///< as requested, or else the preset's
+    ArrangementStyle style = {}; ///< the preset's
+    QStringList leftOut = {};    ///< a line about choices of the preset, and one about panels, that there are
+                              ///< not here, and one for each panel that could not read the job's choices
 };
 
 /// Opens the printer of the command line: the built-in one by name or with --ppd, the named queue, else the

@@ -31,7 +31,7 @@ PrintDialogSetup windowSetup(const CommandLine &commandLine)
     if (commandLine.title)
         setup.options.append({JobTemplate::titleKey(), QStringLiteral("Custom.") + *commandLine.title});
     setup.copies = commandLine.copies;
-    setup.placement = commandLine.placement;
+    setup.placement = commandLine.style.over({}).placement;
     setup.outputFolder = commandLine.outputFolder();
     return setup;
 }

@@ -46,7 +46,19 @@ _corvel_print()
             COMPREPLY=($(compgen -W "fit fill actual" -- "$cur"))
             return
             ;;
-        --crop | -n | --copies | --title)
+        --size)
+            COMPREPLY=($(compgen -W "9x13cm 10x15cm 13x18cm 15x20cm 4x6in 5x7in 8x10in square passport wallet" -- "$cur"))
+            return
+            ;;
+        --layout)
+            COMPREPLY=($(compgen -W "single 1x2 2x2 3x3 fit contact strips" -- "$cur"))
+            return
+            ;;
+        --caption)
+            COMPREPLY=($(compgen -W "none name date both" -- "$cur"))
+            return
+            ;;
+        --crop | --scale | --border | -n | --copies | --title)
             return
             ;;
         --ppd)

@@ -5,6 +5,7 @@
 
 #include "PlainText.h"
 
+#include <QtCore/QFileInfo>
 #include <QtCore/QLocale>
 
 namespace printdialog {
@@ -37,6 +38,29 @@ PrintSheet Arrangement::sheet(const LaidSheet &laid) const
         sheet.name = tr("%1 and %2 more", "the name of a sheet with several photos")
                          .arg(sheet.name, QString::number(others));
     return sheet;
+}
+
+void Arrangement::setStyle(const ArrangementStyle &style)
+{
+    layout = style.layout;
+    for (PlacedPhoto &placed : photos)
+        placed.placement = style.placement;
+}
+
+QStringList Arrangement::paths() const
+{
+    QStringList paths;
+    for (const PlacedPhoto &placed : photos)
+        paths += QFileInfo(placed.photo.path()).absoluteFilePath();
+    return paths;
+}
+
+QList<PlacementChoice> Arrangement::placements() const
+{
+    QList<PlacementChoice> placements;
+    for (const PlacedPhoto &placed : photos)
+        placements += placed.placement;
+    return placements;
 }
 
 Arrangement Arrangement::unplaced() const

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "ArrangementStyle.h"
 #include "PlacedPhoto.h"
 #include "PrintSheet.h"
 #include "SheetPlan.h"
@@ -26,6 +27,12 @@ public:
     SheetPlan plan(const PageGeometry &page) const;
     /// A sheet of the plan, which was made from this arrangement.
     PrintSheet sheet(const LaidSheet &laid) const;
+    /// Arranges all photos in the style, each in the middle of its place unless the style names another crop.
+    void setStyle(const ArrangementStyle &style);
+    /// The absolute paths of the photos, in their order.
+    QStringList paths() const;
+    /// The placements of the photos, in their order.
+    QList<PlacementChoice> placements() const;
     /// As a printer gets it that takes only files as they are: each photo alone, without a placement.
     Arrangement unplaced() const;
     /// The lines below a photo on a sheet with captions.

@@ -19,6 +19,10 @@ enum class Scaling {
     ActualSize, ///< The size given by its resolution; parts that do not fit are cut off.
 };
 
+/// "fit", "fill" or "actual", for scripts and files.
+QString scalingWord(Scaling scaling);
+std::optional<Scaling> scalingFromWord(const QString &word);
+
 /// A border of one color around a photo, within the size that it is printed with.
 struct PhotoBorder
 {
@@ -55,6 +59,14 @@ struct PlacementChoice
 
     static constexpr double leastScale = 0.01;
     static constexpr double mostScale = 10;
+
+    /// Everything but the crop, as words separated by spaces: "fill size=10x15cm scale=120 turns=1
+    /// border=3mm,#000000"; what is usual is left out.
+    QString toText() const;
+    /// Nothing for any other text, and for values beyond the limits.
+    static std::optional<PlacementChoice> fromText(const QString &text);
+    /// A number in per cent; nothing for any other text, and beyond the limits.
+    static std::optional<double> scaleFromText(const QString &text);
 
     /// Whether the photo is where it is whatever its crop says.
     bool isCentered() const { return scaling == Scaling::Fit && scale == 1; }

@@ -22,6 +22,15 @@ struct SheetPhoto
     bool isAccepted = false;  ///< Whether it is printed even though it is damaged.
     QStringList caption = {}; ///< Its lines; mostly none.
     QRectF captionArea = {};  ///< Where they stand, in points.
+
+    /// How many pixels of the photo lie on an inch of the paper.
+    double pixelsPerInch() const
+    {
+        const QSizeF target = placement.target.size();
+        const QSize seen = photo.orientedSize();
+        return std::min(seen.width(), seen.height()) * pointsPerInch /
+               std::min(target.width(), target.height());
+    }
 };
 
 /// One sheet of a job, with everything that lies on it. A value.

@@ -130,7 +130,7 @@ SheetLayout SheetLayout::usual(Kind kind)
         layout.columns = 4;
         layout.caption = Caption::FileName;
     }
-    layout.isRepeated = kind == Kind::Strips;
+    layout.isRepeated = kind == Kind::Strips || kind == Kind::ManyOfSize;
     layout.hasCutMarks = kind == Kind::ManyOfSize || kind == Kind::Strips;
     return layout;
 }

@@ -3,7 +3,8 @@
 
 #pragma once
 
-#include "PhotoPlacement.h"
+#include "PlacementChoice.h"
+#include "SheetLayout.h"
 
 #include <QtCore/QList>
 #include <QtCore/QPair>
@@ -16,11 +17,10 @@ class DialogSession;
 /// Pairs of label and text.
 using SummaryEntries = QList<QPair<QString, QString>>;
 
-/// The scaling's name for people.
-QString scalingText(Scaling scaling);
-
-/// The job in words: the paper, the copies, the photos' placement, then the panels' entries. The placement is
-/// left out without photos, or for a printer that places them itself.
-SummaryEntries jobSummary(DialogSession &session, int copies, const QList<PlacementChoice> &placements);
+/// The job in words: the paper, the copies, the photos' placement and layout, then the panels' entries. The
+/// placement is left out without photos, or for a printer that places them itself; the layout where each
+/// photo has a sheet.
+SummaryEntries jobSummary(DialogSession &session, int copies, const QList<PlacementChoice> &placements,
+                          const SheetLayout &layout);
 
 } // namespace printdialog

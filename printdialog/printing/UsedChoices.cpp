@@ -19,6 +19,7 @@ UsedChoices useChoices(DialogSession &session, QMap<QString, QString> choices, D
 {
     constexpr qsizetype longestNumber = 40;
     UsedChoices used;
+    used.style = ArrangementStyle::takeFrom(choices);
     const QString text = choices.take(QLatin1String(copiesOption));
     bool isNumber = false;
     const int copies = text.toInt(&isNumber);

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "ArrangementStyle.h"
 #include "DialogSession.h"
 
 #include <QtCore/QMap>
@@ -17,12 +18,13 @@ struct Preset;
 /// The result of making saved choices: those of a preset, or of the last time.
 struct UsedChoices
 {
-    std::optional<int> copies; ///< From 1 to mostCopies; nothing when the choices do not name it.
-    QStringList leftOut;       ///< A sentence for each choice that cannot be made here.
+    std::optional<int> copies;             ///< From 1 to mostCopies; nothing when the choices do not name it.
+    std::optional<ArrangementStyle> style; ///< Nothing when the choices do not name it.
+    QStringList leftOut;                   ///< A sentence for each choice that cannot be made here.
 };
 
-/// Makes saved choices (including "copies", see StoredChoices.h) in a session whose panels are loaded. For a
-/// printer without a PPD, only the copies and the options of the job apply.
+/// Makes saved choices (including "copies", see StoredChoices.h, and the arrangement's style) in a session
+/// whose panels are loaded. For a printer without a PPD, only the copies and the options of the job apply.
 UsedChoices useChoices(DialogSession &session, QMap<QString, QString> choices,
                        DialogSession::Unnamed unnamed = DialogSession::Unnamed::Kept);
 

@@ -188,10 +188,9 @@ bool PrintDialog::isPreviewReady() const
 
 SummaryEntries PrintDialog::summary() const
 {
-    QList<PlacementChoice> placements;
-    for (const PlacedPhoto &placed : ui_->photos->photos())
-        placements.append(placed.placement);
-    return jobSummary(*printer_->session(), ui_->copies->value(), placements);
+    const Arrangement &arrangement = ui_->photos->arrangement();
+    return jobSummary(*printer_->session(), ui_->copies->value(), arrangement.placements(),
+                      arrangement.layout);
 }
 
 void PrintDialog::showPhoto()

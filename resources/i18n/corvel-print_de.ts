@@ -13,6 +13,81 @@
     </message>
 </context>
 <context>
+    <name>ArrangementText</name>
+    <message>
+        <source>fitted</source>
+        <comment>a photo into its print size</comment>
+        <translation>eingepasst</translation>
+    </message>
+    <message>
+        <source>Fit on the page</source>
+        <translation>In die Seite einpassen</translation>
+    </message>
+    <message>
+        <source>filled</source>
+        <comment>a print size by its photo</comment>
+        <translation>gefüllt</translation>
+    </message>
+    <message>
+        <source>Fill the page</source>
+        <translation>Seite füllen</translation>
+    </message>
+    <message>
+        <source>actual size</source>
+        <comment>of a photo within its print size</comment>
+        <translation>Originalgröße</translation>
+    </message>
+    <message>
+        <source>Actual size</source>
+        <translation>Tatsächliche Größe</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <comment>a scale</comment>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>border %1</source>
+        <translation>Rand %1</translation>
+    </message>
+    <message>
+        <source>%1, turned by %2°</source>
+        <translation>%1, um %2° gedreht</translation>
+    </message>
+    <message>
+        <source>Differs by photo</source>
+        <translation>Je nach Foto verschieden</translation>
+    </message>
+    <message>
+        <source>One photo on each sheet</source>
+        <translation>Ein Foto auf jedem Blatt</translation>
+    </message>
+    <message>
+        <source>%1 rows, %2 columns</source>
+        <translation>%1 Zeilen, %2 Spalten</translation>
+    </message>
+    <message>
+        <source>As many as fit</source>
+        <translation>So viele wie möglich</translation>
+    </message>
+    <message>
+        <source>Contact sheet, %1 rows, %2 columns</source>
+        <translation>Kontaktabzug, %1 Zeilen, %2 Spalten</translation>
+    </message>
+    <message>
+        <source>Two strips of %1 photos</source>
+        <translation>Zwei Streifen mit %1 Fotos</translation>
+    </message>
+    <message>
+        <source>the same photo repeated</source>
+        <translation>dasselbe Foto wiederholt</translation>
+    </message>
+    <message>
+        <source>the next photos following</source>
+        <translation>die nächsten Fotos folgend</translation>
+    </message>
+</context>
+<context>
     <name>BatchRun</name>
     <message>
         <source>%1 Printed before it: %2.</source>
@@ -333,6 +408,62 @@ der längeren Seite, und beenden; weitere Fotos in FILE-2.png, FILE-3.png, ...</
         <source>--overwrite is for --batch, --dry-run and --preview.</source>
         <translation>--overwrite ist für --batch, --dry-run und --preview.</translation>
     </message>
+    <message>
+        <source>the size of each print, such as 9x13cm, 35x45mm, 4x6in, or by name:
+square, passport, wallet; otherwise the whole page</source>
+        <translation>die Größe jedes Abzugs, etwa 9x13cm, 35x45mm, 4x6in, oder mit Namen:
+square, passport, wallet; sonst die ganze Seite</translation>
+    </message>
+    <message>
+        <source>the photo larger or smaller than by its scaling, 1 to 1000</source>
+        <translation>das Foto größer oder kleiner als durch seine Skalierung, 1 bis 1000</translation>
+    </message>
+    <message>
+        <source>a border around each photo, within its size: 3mm, or 3mm,black</source>
+        <translation>ein Rand um jedes Foto, innerhalb seiner Größe: 3mm oder 3mm,black</translation>
+    </message>
+    <message>
+        <source>several photos on a sheet: ROWSxCOLUMNS (2x3); fit, as many of the size
+as fit; contact or contact:ROWSxCOLUMNS, a contact sheet; strips or
+strips:NUMBER, two strips of 2 to 4 photos. With &quot;,repeat&quot; each photo
+fills its sheet; also &quot;,gap=2mm&quot; and &quot;,marks&quot; for cut marks</source>
+        <translation>mehrere Fotos auf einem Blatt: ZEILENxSPALTEN (2x3); fit, so viele der Größe
+wie möglich; contact oder contact:ZEILENxSPALTEN, ein Kontaktabzug; strips
+oder strips:ZAHL, zwei Streifen mit 2 bis 4 Fotos. Mit „,repeat“ füllt jedes
+Foto sein Blatt; auch „,gap=2mm“ und „,marks“ für Schnittmarken</translation>
+    </message>
+    <message>
+        <source>what stands below each photo of a layout</source>
+        <translation>was unter jedem Foto eines Layouts steht</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a print size. Give one such as 10x15cm, 4x6in or passport, with sides from 5 mm to 2 m.</source>
+        <translation>„%1“ ist keine Abzugsgröße. Geben Sie etwa 10x15cm, 4x6in oder passport an, mit Seiten von 5 mm bis 2 m.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a scale. Give a number from 1 to 1000, in per cent.</source>
+        <translation>„%1“ ist kein Maßstab. Geben Sie eine Zahl von 1 bis 1000 an, in Prozent.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a border. Give a width from 0 to 100 mm, and a color if it is not to be white: 3mm,black.</source>
+        <translation>„%1“ ist kein Rand. Geben Sie eine Breite von 0 bis 100 mm an, und eine Farbe, wenn er nicht weiß sein soll: 3mm,black.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a layout. Give rows and columns from 1 to 20 (2x3), fit, contact, or strips:2 to strips:4.</source>
+        <translation>„%1“ ist kein Layout. Geben Sie Zeilen und Spalten von 1 bis 20 an (2x3), fit, contact oder strips:2 bis strips:4.</translation>
+    </message>
+    <message>
+        <source>There is no caption &quot;%1&quot;. Choose none, name, date or both.</source>
+        <translation>Es gibt keine Bildunterschrift „%1“. Wählen Sie none, name, date oder both.</translation>
+    </message>
+    <message>
+        <source>A print list says itself which photos are printed and how. Give it without other photos, and without %1.</source>
+        <translation>Eine Druckliste sagt selbst, welche Fotos wie gedruckt werden. Geben Sie sie ohne andere Fotos und ohne %1 an.</translation>
+    </message>
+    <message>
+        <source>&quot;-&quot; reads one photo from the standard input. Give it once.</source>
+        <translation>„-“ liest ein Foto von der Standardeingabe. Geben Sie es nur einmal an.</translation>
+    </message>
 </context>
 <context>
     <name>Console</name>
@@ -600,6 +731,22 @@ der längeren Seite, und beenden; weitere Fotos in FILE-2.png, FILE-3.png, ...</
         <comment>the option of a password</comment>
         <translation>%1 (nicht angezeigt)</translation>
     </message>
+    <message>
+        <source>%1, %2 from the left, %3 from the top</source>
+        <translation>%1, %2 von links, %3 von oben</translation>
+    </message>
+    <message>
+        <source>Sheet</source>
+        <translation>Blatt</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 von %2</translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <translation>Platz</translation>
+    </message>
 </context>
 <context>
     <name>JobSubmission</name>
@@ -647,14 +794,6 @@ der längeren Seite, und beenden; weitere Fotos in FILE-2.png, FILE-3.png, ...</
 <context>
     <name>JobSummary</name>
     <message>
-        <source>Differs by photo</source>
-        <translation>Je nach Foto verschieden</translation>
-    </message>
-    <message>
-        <source>%1, turned by %2°</source>
-        <translation>%1, um %2° gedreht</translation>
-    </message>
-    <message>
         <source>Paper size</source>
         <translation>Papierformat</translation>
     </message>
@@ -667,16 +806,8 @@ der längeren Seite, und beenden; weitere Fotos in FILE-2.png, FILE-3.png, ...</
         <translation>Platzierung</translation>
     </message>
     <message>
-        <source>Fit on the page</source>
-        <translation>In die Seite einpassen</translation>
-    </message>
-    <message>
-        <source>Fill the page</source>
-        <translation>Seite füllen</translation>
-    </message>
-    <message>
-        <source>Actual size</source>
-        <translation>Tatsächliche Größe</translation>
+        <source>Layout</source>
+        <translation>Layout</translation>
     </message>
 </context>
 <context>
@@ -1353,6 +1484,29 @@ der längeren Seite, und beenden; weitere Fotos in FILE-2.png, FILE-3.png, ...</
     <message>
         <source>As set at the printer</source>
         <translation>Wie am Drucker eingestellt</translation>
+    </message>
+</context>
+<context>
+    <name>StandardInput</name>
+    <message>
+        <source>&quot;-&quot; reads a photo from the standard input, which is the keyboard. Redirect it: corvel-print - &lt; photo.jpg</source>
+        <translation>„-“ liest ein Foto von der Standardeingabe, und die ist die Tastatur. Leiten Sie sie um: corvel-print - &lt; foto.jpg</translation>
+    </message>
+    <message>
+        <source>The standard input cannot be kept in &quot;%1&quot;: %2. Free some space there.</source>
+        <translation>Die Standardeingabe kann nicht in „%1“ abgelegt werden: %2. Schaffen Sie dort Platz.</translation>
+    </message>
+    <message>
+        <source>The standard input could not be read: %1.</source>
+        <translation>Die Standardeingabe konnte nicht gelesen werden: %1.</translation>
+    </message>
+    <message>
+        <source>The standard input is empty. Redirect a photo to it.</source>
+        <translation>Die Standardeingabe ist leer. Leiten Sie ein Foto dorthin um.</translation>
+    </message>
+    <message>
+        <source>The photo on the standard input is too large: a photo may have %1.</source>
+        <translation>Das Foto auf der Standardeingabe ist zu groß: Ein Foto darf %1 haben.</translation>
     </message>
 </context>
 <context>
@@ -3185,6 +3339,37 @@ der längeren Seite, und beenden; weitere Fotos in FILE-2.png, FILE-3.png, ...</
         <source>%1 (not loaded)</source>
         <comment>a paper size</comment>
         <translation>%1 (nicht eingelegt)</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::PrintList</name>
+    <message>
+        <source>&quot;%1&quot; is not a print list. Save it again in the print window.</source>
+        <translation>„%1“ ist keine Druckliste. Speichern Sie sie im Druckfenster neu.</translation>
+    </message>
+    <message>
+        <source>The print list &quot;%1&quot; cannot be used: &quot;%2&quot; cannot be %3. Correct it, or save the list again in the print window.</source>
+        <translation>Die Druckliste „%1“ kann nicht verwendet werden: „%2“ kann nicht %3 sein. Berichtigen Sie das, oder speichern Sie die Liste im Druckfenster neu.</translation>
+    </message>
+    <message>
+        <source>The print list &quot;%1&quot; could not be read: %2.</source>
+        <translation>Die Druckliste „%1“ konnte nicht gelesen werden: %2.</translation>
+    </message>
+    <message>
+        <source>it is not a file</source>
+        <translation>es ist keine Datei</translation>
+    </message>
+    <message>
+        <source>it is too large</source>
+        <translation>sie ist zu groß</translation>
+    </message>
+    <message>
+        <source>The print list &quot;%1&quot; is from a later version of this program. Update the program, or save the list again with this one.</source>
+        <translation>Die Druckliste „%1“ stammt von einer neueren Version dieses Programms. Aktualisieren Sie es, oder speichern Sie die Liste mit diesem neu.</translation>
+    </message>
+    <message>
+        <source>The print list &quot;%1&quot; could not be saved: %2. Choose another folder.</source>
+        <translation>Die Druckliste „%1“ konnte nicht gespeichert werden: %2. Wählen Sie einen anderen Ordner.</translation>
     </message>
 </context>
 <context>

@@ -13,6 +13,81 @@
     </message>
 </context>
 <context>
+    <name>ArrangementText</name>
+    <message>
+        <source>fitted</source>
+        <comment>a photo into its print size</comment>
+        <translation>ajustada</translation>
+    </message>
+    <message>
+        <source>Fit on the page</source>
+        <translation>Ajustar a la página</translation>
+    </message>
+    <message>
+        <source>filled</source>
+        <comment>a print size by its photo</comment>
+        <translation>rellena</translation>
+    </message>
+    <message>
+        <source>Fill the page</source>
+        <translation>Llenar la página</translation>
+    </message>
+    <message>
+        <source>actual size</source>
+        <comment>of a photo within its print size</comment>
+        <translation>tamaño real</translation>
+    </message>
+    <message>
+        <source>Actual size</source>
+        <translation>Tamaño real</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <comment>a scale</comment>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>border %1</source>
+        <translation>borde %1</translation>
+    </message>
+    <message>
+        <source>%1, turned by %2°</source>
+        <translation>%1, girada %2°</translation>
+    </message>
+    <message>
+        <source>Differs by photo</source>
+        <translation>Difiere según la foto</translation>
+    </message>
+    <message>
+        <source>One photo on each sheet</source>
+        <translation>Una foto en cada hoja</translation>
+    </message>
+    <message>
+        <source>%1 rows, %2 columns</source>
+        <translation>%1 filas, %2 columnas</translation>
+    </message>
+    <message>
+        <source>As many as fit</source>
+        <translation>Todas las que quepan</translation>
+    </message>
+    <message>
+        <source>Contact sheet, %1 rows, %2 columns</source>
+        <translation>Hoja de contactos, %1 filas, %2 columnas</translation>
+    </message>
+    <message>
+        <source>Two strips of %1 photos</source>
+        <translation>Dos tiras de %1 fotos</translation>
+    </message>
+    <message>
+        <source>the same photo repeated</source>
+        <translation>la misma foto repetida</translation>
+    </message>
+    <message>
+        <source>the next photos following</source>
+        <translation>las fotos siguientes</translation>
+    </message>
+</context>
+<context>
     <name>BatchRun</name>
     <message>
         <source>%1 Printed before it: %2.</source>
@@ -332,6 +407,62 @@ en su lado mayor, y salir; las demás fotos en FILE-2.png, FILE-3.png, ...</tran
         <source>--overwrite is for --batch, --dry-run and --preview.</source>
         <translation>--overwrite es para --batch, --dry-run y --preview.</translation>
     </message>
+    <message>
+        <source>the size of each print, such as 9x13cm, 35x45mm, 4x6in, or by name:
+square, passport, wallet; otherwise the whole page</source>
+        <translation>el tamaño de cada copia, como 9x13cm, 35x45mm, 4x6in, o por su nombre:
+square, passport, wallet; si no, toda la página</translation>
+    </message>
+    <message>
+        <source>the photo larger or smaller than by its scaling, 1 to 1000</source>
+        <translation>la foto mayor o menor que por su escala, de 1 a 1000</translation>
+    </message>
+    <message>
+        <source>a border around each photo, within its size: 3mm, or 3mm,black</source>
+        <translation>un borde alrededor de cada foto, dentro de su tamaño: 3mm o 3mm,black</translation>
+    </message>
+    <message>
+        <source>several photos on a sheet: ROWSxCOLUMNS (2x3); fit, as many of the size
+as fit; contact or contact:ROWSxCOLUMNS, a contact sheet; strips or
+strips:NUMBER, two strips of 2 to 4 photos. With &quot;,repeat&quot; each photo
+fills its sheet; also &quot;,gap=2mm&quot; and &quot;,marks&quot; for cut marks</source>
+        <translation>varias fotos por hoja: FILASxCOLUMNAS (2x3); fit, todas las de ese tamaño que
+quepan; contact o contact:FILASxCOLUMNAS, una hoja de contactos; strips o
+strips:NÚMERO, dos tiras de 2 a 4 fotos. Con «,repeat» cada foto llena su
+hoja; también «,gap=2mm», y «,marks» para las marcas de corte</translation>
+    </message>
+    <message>
+        <source>what stands below each photo of a layout</source>
+        <translation>lo que figura debajo de cada foto de una disposición</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a print size. Give one such as 10x15cm, 4x6in or passport, with sides from 5 mm to 2 m.</source>
+        <translation>«%1» no es un tamaño de copia. Indique, por ejemplo, 10x15cm, 4x6in o passport, con lados de 5 mm a 2 m.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a scale. Give a number from 1 to 1000, in per cent.</source>
+        <translation>«%1» no es una escala. Indique un número de 1 a 1000, en tanto por ciento.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a border. Give a width from 0 to 100 mm, and a color if it is not to be white: 3mm,black.</source>
+        <translation>«%1» no es un borde. Indique un ancho de 0 a 100 mm y un color si no ha de ser blanco: 3mm,black.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a layout. Give rows and columns from 1 to 20 (2x3), fit, contact, or strips:2 to strips:4.</source>
+        <translation>«%1» no es una disposición. Indique filas y columnas de 1 a 20 (2x3), fit, contact o de strips:2 a strips:4.</translation>
+    </message>
+    <message>
+        <source>There is no caption &quot;%1&quot;. Choose none, name, date or both.</source>
+        <translation>No existe el pie de foto «%1». Elija none, name, date o both.</translation>
+    </message>
+    <message>
+        <source>A print list says itself which photos are printed and how. Give it without other photos, and without %1.</source>
+        <translation>Una lista de impresión dice ella misma qué fotos se imprimen y cómo. Indíquela sin otras fotos y sin %1.</translation>
+    </message>
+    <message>
+        <source>&quot;-&quot; reads one photo from the standard input. Give it once.</source>
+        <translation>«-» lee una foto de la entrada estándar. Indíquelo una sola vez.</translation>
+    </message>
 </context>
 <context>
     <name>Console</name>
@@ -599,6 +730,22 @@ en su lado mayor, y salir; las demás fotos en FILE-2.png, FILE-3.png, ...</tran
         <comment>the option of a password</comment>
         <translation>%1 (no se muestra)</translation>
     </message>
+    <message>
+        <source>%1, %2 from the left, %3 from the top</source>
+        <translation>%1, a %2 de la izquierda, a %3 de arriba</translation>
+    </message>
+    <message>
+        <source>Sheet</source>
+        <translation>Hoja</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 de %2</translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <translation>Lugar</translation>
+    </message>
 </context>
 <context>
     <name>JobSubmission</name>
@@ -646,14 +793,6 @@ en su lado mayor, y salir; las demás fotos en FILE-2.png, FILE-3.png, ...</tran
 <context>
     <name>JobSummary</name>
     <message>
-        <source>Differs by photo</source>
-        <translation>Difiere según la foto</translation>
-    </message>
-    <message>
-        <source>%1, turned by %2°</source>
-        <translation>%1, girada %2°</translation>
-    </message>
-    <message>
         <source>Paper size</source>
         <translation>Tamaño de papel</translation>
     </message>
@@ -666,16 +805,8 @@ en su lado mayor, y salir; las demás fotos en FILE-2.png, FILE-3.png, ...</tran
         <translation>Colocación</translation>
     </message>
     <message>
-        <source>Fit on the page</source>
-        <translation>Ajustar a la página</translation>
-    </message>
-    <message>
-        <source>Fill the page</source>
-        <translation>Llenar la página</translation>
-    </message>
-    <message>
-        <source>Actual size</source>
-        <translation>Tamaño real</translation>
+        <source>Layout</source>
+        <translation>Disposición</translation>
     </message>
 </context>
 <context>
@@ -1352,6 +1483,29 @@ en su lado mayor, y salir; las demás fotos en FILE-2.png, FILE-3.png, ...</tran
     <message>
         <source>As set at the printer</source>
         <translation>Según lo ajustado en la impresora</translation>
+    </message>
+</context>
+<context>
+    <name>StandardInput</name>
+    <message>
+        <source>&quot;-&quot; reads a photo from the standard input, which is the keyboard. Redirect it: corvel-print - &lt; photo.jpg</source>
+        <translation>«-» lee una foto de la entrada estándar, que es el teclado. Rediríjala: corvel-print - &lt; foto.jpg</translation>
+    </message>
+    <message>
+        <source>The standard input cannot be kept in &quot;%1&quot;: %2. Free some space there.</source>
+        <translation>La entrada estándar no se puede guardar en «%1»: %2. Libere espacio allí.</translation>
+    </message>
+    <message>
+        <source>The standard input could not be read: %1.</source>
+        <translation>No se pudo leer la entrada estándar: %1.</translation>
+    </message>
+    <message>
+        <source>The standard input is empty. Redirect a photo to it.</source>
+        <translation>La entrada estándar está vacía. Redirija una foto hacia ella.</translation>
+    </message>
+    <message>
+        <source>The photo on the standard input is too large: a photo may have %1.</source>
+        <translation>La foto de la entrada estándar es demasiado grande: una foto puede tener %1.</translation>
     </message>
 </context>
 <context>
@@ -3184,6 +3338,37 @@ en su lado mayor, y salir; las demás fotos en FILE-2.png, FILE-3.png, ...</tran
         <source>%1 (not loaded)</source>
         <comment>a paper size</comment>
         <translation>%1 (no cargado)</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::PrintList</name>
+    <message>
+        <source>&quot;%1&quot; is not a print list. Save it again in the print window.</source>
+        <translation>«%1» no es una lista de impresión. Guárdela de nuevo en la ventana de impresión.</translation>
+    </message>
+    <message>
+        <source>The print list &quot;%1&quot; cannot be used: &quot;%2&quot; cannot be %3. Correct it, or save the list again in the print window.</source>
+        <translation>La lista de impresión «%1» no se puede usar: «%2» no puede ser %3. Corríjala, o guárdela de nuevo en la ventana de impresión.</translation>
+    </message>
+    <message>
+        <source>The print list &quot;%1&quot; could not be read: %2.</source>
+        <translation>No se pudo leer la lista de impresión «%1»: %2.</translation>
+    </message>
+    <message>
+        <source>it is not a file</source>
+        <translation>no es un archivo</translation>
+    </message>
+    <message>
+        <source>it is too large</source>
+        <translation>es demasiado grande</translation>
+    </message>
+    <message>
+        <source>The print list &quot;%1&quot; is from a later version of this program. Update the program, or save the list again with this one.</source>
+        <translation>La lista de impresión «%1» es de una versión posterior de este programa. Actualícelo, o guarde la lista de nuevo con este.</translation>
+    </message>
+    <message>
+        <source>The print list &quot;%1&quot; could not be saved: %2. Choose another folder.</source>
+        <translation>No se pudo guardar la lista de impresión «%1»: %2. Elija otra carpeta.</translation>
     </message>
 </context>
 <context>

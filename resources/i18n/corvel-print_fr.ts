@@ -13,6 +13,81 @@
     </message>
 </context>
 <context>
+    <name>ArrangementText</name>
+    <message>
+        <source>fitted</source>
+        <comment>a photo into its print size</comment>
+        <translation>ajustée</translation>
+    </message>
+    <message>
+        <source>Fit on the page</source>
+        <translation>Ajuster à la page</translation>
+    </message>
+    <message>
+        <source>filled</source>
+        <comment>a print size by its photo</comment>
+        <translation>remplie</translation>
+    </message>
+    <message>
+        <source>Fill the page</source>
+        <translation>Remplir la page</translation>
+    </message>
+    <message>
+        <source>actual size</source>
+        <comment>of a photo within its print size</comment>
+        <translation>taille réelle</translation>
+    </message>
+    <message>
+        <source>Actual size</source>
+        <translation>Taille réelle</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <comment>a scale</comment>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>border %1</source>
+        <translation>bordure %1</translation>
+    </message>
+    <message>
+        <source>%1, turned by %2°</source>
+        <translation>%1, tournée de %2°</translation>
+    </message>
+    <message>
+        <source>Differs by photo</source>
+        <translation>Diffère selon la photo</translation>
+    </message>
+    <message>
+        <source>One photo on each sheet</source>
+        <translation>Une photo par feuille</translation>
+    </message>
+    <message>
+        <source>%1 rows, %2 columns</source>
+        <translation>%1 lignes, %2 colonnes</translation>
+    </message>
+    <message>
+        <source>As many as fit</source>
+        <translation>Autant que possible</translation>
+    </message>
+    <message>
+        <source>Contact sheet, %1 rows, %2 columns</source>
+        <translation>Planche-contact, %1 lignes, %2 colonnes</translation>
+    </message>
+    <message>
+        <source>Two strips of %1 photos</source>
+        <translation>Deux bandes de %1 photos</translation>
+    </message>
+    <message>
+        <source>the same photo repeated</source>
+        <translation>la même photo répétée</translation>
+    </message>
+    <message>
+        <source>the next photos following</source>
+        <translation>les photos suivantes</translation>
+    </message>
+</context>
+<context>
     <name>BatchRun</name>
     <message>
         <source>%1 Printed before it: %2.</source>
@@ -334,6 +409,62 @@ FILE-3.png, ...</translation>
         <source>--overwrite is for --batch, --dry-run and --preview.</source>
         <translation>--overwrite va avec --batch, --dry-run et --preview.</translation>
     </message>
+    <message>
+        <source>the size of each print, such as 9x13cm, 35x45mm, 4x6in, or by name:
+square, passport, wallet; otherwise the whole page</source>
+        <translation>le format de chaque tirage, par exemple 9x13cm, 35x45mm, 4x6in, ou un nom :
+square, passport, wallet ; sinon toute la page</translation>
+    </message>
+    <message>
+        <source>the photo larger or smaller than by its scaling, 1 to 1000</source>
+        <translation>la photo plus grande ou plus petite que par sa mise à l’échelle, 1 à 1000</translation>
+    </message>
+    <message>
+        <source>a border around each photo, within its size: 3mm, or 3mm,black</source>
+        <translation>une bordure autour de chaque photo, dans son format : 3mm, ou 3mm,black</translation>
+    </message>
+    <message>
+        <source>several photos on a sheet: ROWSxCOLUMNS (2x3); fit, as many of the size
+as fit; contact or contact:ROWSxCOLUMNS, a contact sheet; strips or
+strips:NUMBER, two strips of 2 to 4 photos. With &quot;,repeat&quot; each photo
+fills its sheet; also &quot;,gap=2mm&quot; and &quot;,marks&quot; for cut marks</source>
+        <translation>plusieurs photos par feuille : LIGNESxCOLONNES (2x3) ; fit, autant de ce
+format que possible ; contact ou contact:LIGNESxCOLONNES, une planche-contact ;
+strips ou strips:NOMBRE, deux bandes de 2 à 4 photos. Avec « ,repeat », chaque
+photo remplit sa feuille ; aussi « ,gap=2mm », et « ,marks » pour les traits de coupe</translation>
+    </message>
+    <message>
+        <source>what stands below each photo of a layout</source>
+        <translation>ce qui figure sous chaque photo d’une disposition</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a print size. Give one such as 10x15cm, 4x6in or passport, with sides from 5 mm to 2 m.</source>
+        <translation>« %1 » n’est pas un format de tirage. Indiquez par exemple 10x15cm, 4x6in ou passport, avec des côtés de 5 mm à 2 m.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a scale. Give a number from 1 to 1000, in per cent.</source>
+        <translation>« %1 » n’est pas une échelle. Indiquez un nombre de 1 à 1000, en pour cent.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a border. Give a width from 0 to 100 mm, and a color if it is not to be white: 3mm,black.</source>
+        <translation>« %1 » n’est pas une bordure. Indiquez une largeur de 0 à 100 mm, et une couleur si elle n’est pas blanche : 3mm,black.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a layout. Give rows and columns from 1 to 20 (2x3), fit, contact, or strips:2 to strips:4.</source>
+        <translation>« %1 » n’est pas une disposition. Indiquez des lignes et des colonnes de 1 à 20 (2x3), fit, contact, ou strips:2 à strips:4.</translation>
+    </message>
+    <message>
+        <source>There is no caption &quot;%1&quot;. Choose none, name, date or both.</source>
+        <translation>Il n’y a pas de légende « %1 ». Choisissez none, name, date ou both.</translation>
+    </message>
+    <message>
+        <source>A print list says itself which photos are printed and how. Give it without other photos, and without %1.</source>
+        <translation>Une liste d’impression dit elle-même quelles photos sont imprimées et comment. Indiquez-la sans autres photos, et sans %1.</translation>
+    </message>
+    <message>
+        <source>&quot;-&quot; reads one photo from the standard input. Give it once.</source>
+        <translation>« - » lit une photo sur l’entrée standard. Indiquez-le une seule fois.</translation>
+    </message>
 </context>
 <context>
     <name>Console</name>
@@ -601,6 +732,22 @@ FILE-3.png, ...</translation>
         <comment>the option of a password</comment>
         <translation>%1 (non affiché)</translation>
     </message>
+    <message>
+        <source>%1, %2 from the left, %3 from the top</source>
+        <translation>%1, à %2 de la gauche, à %3 du haut</translation>
+    </message>
+    <message>
+        <source>Sheet</source>
+        <translation>Feuille</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 sur %2</translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <translation>Emplacement</translation>
+    </message>
 </context>
 <context>
     <name>JobSubmission</name>
@@ -648,14 +795,6 @@ FILE-3.png, ...</translation>
 <context>
     <name>JobSummary</name>
     <message>
-        <source>Differs by photo</source>
-        <translation>Diffère selon la photo</translation>
-    </message>
-    <message>
-        <source>%1, turned by %2°</source>
-        <translation>%1, tournée de %2°</translation>
-    </message>
-    <message>
         <source>Paper size</source>
         <translation>Format du papier</translation>
     </message>
@@ -668,16 +807,8 @@ FILE-3.png, ...</translation>
         <translation>Placement</translation>
     </message>
     <message>
-        <source>Fit on the page</source>
-        <translation>Ajuster à la page</translation>
-    </message>
-    <message>
-        <source>Fill the page</source>
-        <translation>Remplir la page</translation>
-    </message>
-    <message>
-        <source>Actual size</source>
-        <translation>Taille réelle</translation>
+        <source>Layout</source>
+        <translation>Disposition</translation>
     </message>
 </context>
 <context>
@@ -1354,6 +1485,29 @@ FILE-3.png, ...</translation>
     <message>
         <source>As set at the printer</source>
         <translation>Selon le réglage de l’imprimante</translation>
+    </message>
+</context>
+<context>
+    <name>StandardInput</name>
+    <message>
+        <source>&quot;-&quot; reads a photo from the standard input, which is the keyboard. Redirect it: corvel-print - &lt; photo.jpg</source>
+        <translation>« - » lit une photo sur l’entrée standard, qui est le clavier. Redirigez-la : corvel-print - &lt; photo.jpg</translation>
+    </message>
+    <message>
+        <source>The standard input cannot be kept in &quot;%1&quot;: %2. Free some space there.</source>
+        <translation>L’entrée standard ne peut pas être conservée dans « %1 » : %2. Libérez-y de la place.</translation>
+    </message>
+    <message>
+        <source>The standard input could not be read: %1.</source>
+        <translation>L’entrée standard n’a pas pu être lue : %1.</translation>
+    </message>
+    <message>
+        <source>The standard input is empty. Redirect a photo to it.</source>
+        <translation>L’entrée standard est vide. Redirigez-y une photo.</translation>
+    </message>
+    <message>
+        <source>The photo on the standard input is too large: a photo may have %1.</source>
+        <translation>La photo sur l’entrée standard est trop grande : une photo peut avoir %1.</translation>
     </message>
 </context>
 <context>
@@ -3186,6 +3340,37 @@ FILE-3.png, ...</translation>
         <source>%1 (not loaded)</source>
         <comment>a paper size</comment>
         <translation>%1 (non chargé)</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::PrintList</name>
+    <message>
+        <source>&quot;%1&quot; is not a print list. Save it again in the print window.</source>
+        <translation>« %1 » n’est pas une liste d’impression. Enregistrez-la de nouveau dans la fenêtre d’impression.</translation>
+    </message>
+    <message>
+        <source>The print list &quot;%1&quot; cannot be used: &quot;%2&quot; cannot be %3. Correct it, or save the list again in the print window.</source>
+        <translation>La liste d’impression « %1 » est inutilisable : « %2 » ne peut pas valoir %3. Corrigez-la, ou enregistrez-la de nouveau dans la fenêtre d’impression.</translation>
+    </message>
+    <message>
+        <source>The print list &quot;%1&quot; could not be read: %2.</source>
+        <translation>La liste d’impression « %1 » n’a pas pu être lue : %2.</translation>
+    </message>
+    <message>
+        <source>it is not a file</source>
+        <translation>ce n’est pas un fichier</translation>
+    </message>
+    <message>
+        <source>it is too large</source>
+        <translation>elle est trop grande</translation>
+    </message>
+    <message>
+        <source>The print list &quot;%1&quot; is from a later version of this program. Update the program, or save the list again with this one.</source>
+        <translation>La liste d’impression « %1 » vient d’une version plus récente de ce programme. Mettez-le à jour, ou enregistrez de nouveau la liste avec celui-ci.</translation>
+    </message>
+    <message>
+        <source>The print list &quot;%1&quot; could not be saved: %2. Choose another folder.</source>
+        <translation>La liste d’impression « %1 » n’a pas pu être enregistrée : %2. Choisissez un autre dossier.</translation>
     </message>
 </context>
 <context>

@@ -13,6 +13,81 @@
     </message>
 </context>
 <context>
+    <name>ArrangementText</name>
+    <message>
+        <source>fitted</source>
+        <comment>a photo into its print size</comment>
+        <translation>全体を収める</translation>
+    </message>
+    <message>
+        <source>Fit on the page</source>
+        <translation>ページに収める</translation>
+    </message>
+    <message>
+        <source>filled</source>
+        <comment>a print size by its photo</comment>
+        <translation>埋める</translation>
+    </message>
+    <message>
+        <source>Fill the page</source>
+        <translation>ページいっぱい</translation>
+    </message>
+    <message>
+        <source>actual size</source>
+        <comment>of a photo within its print size</comment>
+        <translation>実サイズ</translation>
+    </message>
+    <message>
+        <source>Actual size</source>
+        <translation>実際の大きさ</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <comment>a scale</comment>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>border %1</source>
+        <translation>縁 %1</translation>
+    </message>
+    <message>
+        <source>%1, turned by %2°</source>
+        <translation>%1、%2° 回転</translation>
+    </message>
+    <message>
+        <source>Differs by photo</source>
+        <translation>写真によって異なります</translation>
+    </message>
+    <message>
+        <source>One photo on each sheet</source>
+        <translation>1 シートに 1 枚</translation>
+    </message>
+    <message>
+        <source>%1 rows, %2 columns</source>
+        <translation>%1 行 %2 列</translation>
+    </message>
+    <message>
+        <source>As many as fit</source>
+        <translation>入るだけ</translation>
+    </message>
+    <message>
+        <source>Contact sheet, %1 rows, %2 columns</source>
+        <translation>コンタクトシート、%1 行 %2 列</translation>
+    </message>
+    <message>
+        <source>Two strips of %1 photos</source>
+        <translation>%1 枚ずつの帯 2 本</translation>
+    </message>
+    <message>
+        <source>the same photo repeated</source>
+        <translation>同じ写真の繰り返し</translation>
+    </message>
+    <message>
+        <source>the next photos following</source>
+        <translation>次の写真を続ける</translation>
+    </message>
+</context>
+<context>
     <name>BatchRun</name>
     <message>
         <source>%1 Printed before it: %2.</source>
@@ -332,6 +407,62 @@ longer side, and exit; of further photos in FILE-2.png, FILE-3.png, ...</source>
         <source>--overwrite is for --batch, --dry-run and --preview.</source>
         <translation>--overwrite は --batch、--dry-run、--preview 用です。</translation>
     </message>
+    <message>
+        <source>the size of each print, such as 9x13cm, 35x45mm, 4x6in, or by name:
+square, passport, wallet; otherwise the whole page</source>
+        <translation>各プリントの大きさ (9x13cm、35x45mm、4x6in など)、または名前:
+square、passport、wallet。指定しなければページ全体</translation>
+    </message>
+    <message>
+        <source>the photo larger or smaller than by its scaling, 1 to 1000</source>
+        <translation>拡大縮小の方法よりも写真を大きく、または小さく (1 から 1000)</translation>
+    </message>
+    <message>
+        <source>a border around each photo, within its size: 3mm, or 3mm,black</source>
+        <translation>各写真の縁 (プリントの大きさの内側): 3mm、または 3mm,black</translation>
+    </message>
+    <message>
+        <source>several photos on a sheet: ROWSxCOLUMNS (2x3); fit, as many of the size
+as fit; contact or contact:ROWSxCOLUMNS, a contact sheet; strips or
+strips:NUMBER, two strips of 2 to 4 photos. With &quot;,repeat&quot; each photo
+fills its sheet; also &quot;,gap=2mm&quot; and &quot;,marks&quot; for cut marks</source>
+        <translation>1 シートに複数の写真: 行x列 (2x3)。fit はその大きさで入るだけ。contact または
+contact:行x列 はコンタクトシート。strips または strips:数 は 2 から 4 枚の帯を
+2 本。「,repeat」を付けると各写真がシートを埋めます。「,gap=2mm」や、トンボの
+「,marks」も付けられます</translation>
+    </message>
+    <message>
+        <source>what stands below each photo of a layout</source>
+        <translation>レイアウトの各写真の下に入れる文字</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a print size. Give one such as 10x15cm, 4x6in or passport, with sides from 5 mm to 2 m.</source>
+        <translation>「%1」はプリントサイズではありません。10x15cm、4x6in、passport のように、辺が 5 mm から 2 m の大きさを指定してください。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a scale. Give a number from 1 to 1000, in per cent.</source>
+        <translation>「%1」は倍率ではありません。1 から 1000 までの数をパーセントで指定してください。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a border. Give a width from 0 to 100 mm, and a color if it is not to be white: 3mm,black.</source>
+        <translation>「%1」は縁ではありません。0 から 100 mm の幅と、白でない場合は色を指定してください: 3mm,black</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a layout. Give rows and columns from 1 to 20 (2x3), fit, contact, or strips:2 to strips:4.</source>
+        <translation>「%1」はレイアウトではありません。1 から 20 までの行と列 (2x3)、fit、contact、strips:2 から strips:4 のいずれかを指定してください。</translation>
+    </message>
+    <message>
+        <source>There is no caption &quot;%1&quot;. Choose none, name, date or both.</source>
+        <translation>説明文「%1」はありません。none、name、date、both から選んでください。</translation>
+    </message>
+    <message>
+        <source>A print list says itself which photos are printed and how. Give it without other photos, and without %1.</source>
+        <translation>印刷リストには、どの写真をどう印刷するかが書かれています。他の写真や %1 なしで指定してください。</translation>
+    </message>
+    <message>
+        <source>&quot;-&quot; reads one photo from the standard input. Give it once.</source>
+        <translation>「-」は標準入力から写真を 1 枚読みます。1 回だけ指定してください。</translation>
+    </message>
 </context>
 <context>
     <name>Console</name>
@@ -598,6 +729,22 @@ longer side, and exit; of further photos in FILE-2.png, FILE-3.png, ...</source>
         <comment>the option of a password</comment>
         <translation>%1（非表示）</translation>
     </message>
+    <message>
+        <source>%1, %2 from the left, %3 from the top</source>
+        <translation>%1、左から %2、上から %3</translation>
+    </message>
+    <message>
+        <source>Sheet</source>
+        <translation>シート</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 / %2</translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <translation>位置</translation>
+    </message>
 </context>
 <context>
     <name>JobSubmission</name>
@@ -645,14 +792,6 @@ longer side, and exit; of further photos in FILE-2.png, FILE-3.png, ...</source>
 <context>
     <name>JobSummary</name>
     <message>
-        <source>Differs by photo</source>
-        <translation>写真によって異なります</translation>
-    </message>
-    <message>
-        <source>%1, turned by %2°</source>
-        <translation>%1、%2° 回転</translation>
-    </message>
-    <message>
         <source>Paper size</source>
         <translation>用紙サイズ</translation>
     </message>
@@ -665,16 +804,8 @@ longer side, and exit; of further photos in FILE-2.png, FILE-3.png, ...</source>
         <translation>配置</translation>
     </message>
     <message>
-        <source>Fit on the page</source>
-        <translation>ページに収める</translation>
-    </message>
-    <message>
-        <source>Fill the page</source>
-        <translation>ページいっぱい</translation>
-    </message>
-    <message>
-        <source>Actual size</source>
-        <translation>実際の大きさ</translation>
+        <source>Layout</source>
+        <translation>レイアウト</translation>
     </message>
 </context>
 <context>
@@ -1351,6 +1482,29 @@ longer side, and exit; of further photos in FILE-2.png, FILE-3.png, ...</source>
     <message>
         <source>As set at the printer</source>
         <translation>プリンターの設定どおり</translation>
+    </message>
+</context>
+<context>
+    <name>StandardInput</name>
+    <message>
+        <source>&quot;-&quot; reads a photo from the standard input, which is the keyboard. Redirect it: corvel-print - &lt; photo.jpg</source>
+        <translation>「-」は標準入力から写真を読みますが、標準入力はキーボードです。リダイレクトしてください: corvel-print - &lt; photo.jpg</translation>
+    </message>
+    <message>
+        <source>The standard input cannot be kept in &quot;%1&quot;: %2. Free some space there.</source>
+        <translation>標準入力を「%1」に保存できません: %2。そこに空きを作ってください。</translation>
+    </message>
+    <message>
+        <source>The standard input could not be read: %1.</source>
+        <translation>標準入力を読めませんでした: %1。</translation>
+    </message>
+    <message>
+        <source>The standard input is empty. Redirect a photo to it.</source>
+        <translation>標準入力が空です。写真をリダイレクトしてください。</translation>
+    </message>
+    <message>
+        <source>The photo on the standard input is too large: a photo may have %1.</source>
+        <translation>標準入力の写真が大きすぎます。写真の上限は %1 です。</translation>
     </message>
 </context>
 <context>
@@ -3181,6 +3335,37 @@ longer side, and exit; of further photos in FILE-2.png, FILE-3.png, ...</source>
         <source>%1 (not loaded)</source>
         <comment>a paper size</comment>
         <translation>%1（未装着）</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::PrintList</name>
+    <message>
+        <source>&quot;%1&quot; is not a print list. Save it again in the print window.</source>
+        <translation>「%1」は印刷リストではありません。印刷ウインドウで保存し直してください。</translation>
+    </message>
+    <message>
+        <source>The print list &quot;%1&quot; cannot be used: &quot;%2&quot; cannot be %3. Correct it, or save the list again in the print window.</source>
+        <translation>印刷リスト「%1」は使えません:「%2」に %3 は指定できません。直すか、印刷ウインドウで保存し直してください。</translation>
+    </message>
+    <message>
+        <source>The print list &quot;%1&quot; could not be read: %2.</source>
+        <translation>印刷リスト「%1」を読めませんでした: %2。</translation>
+    </message>
+    <message>
+        <source>it is not a file</source>
+        <translation>ファイルではありません</translation>
+    </message>
+    <message>
+        <source>it is too large</source>
+        <translation>大きすぎます</translation>
+    </message>
+    <message>
+        <source>The print list &quot;%1&quot; is from a later version of this program. Update the program, or save the list again with this one.</source>
+        <translation>印刷リスト「%1」は新しいバージョンのプログラムのものです。プログラムを更新するか、このプログラムで保存し直してください。</translation>
+    </message>
+    <message>
+        <source>The print list &quot;%1&quot; could not be saved: %2. Choose another folder.</source>
+        <translation>印刷リスト「%1」を保存できませんでした: %2。別のフォルダーを選んでください。</translation>
     </message>
 </context>
 <context>

@@ -141,8 +141,9 @@ private Q_SLOTS:
         add("the next ones follow", u"2x2"_s, {1, 1, 1, 1, 1}, fit, u"0123 4"_s);
         add("copies follow", u"2x2"_s, {3, 2}, fit, u"0001 1"_s);
         add("each fills its sheet", u"2x2,repeat"_s, {1, 2}, fit, u"0000 1111*2"_s);
-        add("as many as fit", u"fit"_s, {9}, sized(u"passport"_s), u"00000000 0"_s);
-        add("as many as fit, repeated", u"fit,repeat"_s, {1}, sized(u"passport"_s), u"00000000"_s);
+        add("as many as fit, one after the other", u"fit,follow"_s, {9}, sized(u"passport"_s),
+            u"00000000 0"_s);
+        add("as many as fit", u"fit"_s, {1}, sized(u"passport"_s), u"00000000"_s);
         add("both strips alike", u"strips:2"_s, {1, 1, 1}, fit, u"0101 22"_s);
         add("strips that follow", u"strips:2,follow"_s, {1, 1, 1}, fit, u"012"_s);
         add("no copies count as one", u"single"_s, {0}, fit, u"0"_s);

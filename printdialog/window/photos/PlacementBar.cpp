@@ -3,7 +3,7 @@
 
 #include "PlacementBar.h"
 
-#include "JobSummary.h"
+#include "ArrangementText.h"
 #include "WrappingRow.h"
 
 #include <QtWidgets/QComboBox>

@@ -1,0 +1,93 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "ArrangementText.h"
+
+#include <QtCore/QCoreApplication>
+#include <QtCore/QLocale>
+#include <QtCore/QStringList>
+
+#include <algorithm>
+
+namespace printdialog {
+
+namespace {
+
+struct Text
+{
+    Q_DECLARE_TR_FUNCTIONS(ArrangementText)
+};
+
+const QString separator = QStringLiteral(", ");
+
+bool areAlike(const PlacementChoice &one, PlacementChoice other)
+{
+    other.crop = one.crop;
+    return one == other;
+}
+
+} // namespace
+
+QString scalingText(Scaling scaling, bool hasSize)
+{
+    switch (scaling) {
+    case Scaling::Fit:
+        return hasSize ? Text::tr("fitted", "a photo into its print size") : Text::tr("Fit on the page");
+    case Scaling::Fill:
+        return hasSize ? Text::tr("filled", "a print size by its photo") : Text::tr("Fill the page");
+    case Scaling::ActualSize:
+        break;
+    }
+    return hasSize ? Text::tr("actual size", "of a photo within its print size") : Text::tr("Actual size");
+}
+
+QString placementText(const PlacementChoice &choice)
+{
+    constexpr int quarter = 90;
+    QStringList parts;
+    if (choice.size)
+        parts += choice.size->localText();
+    parts += scalingText(choice.scaling, choice.size.has_value());
+    if (choice.scale != 1)
+        parts += Text::tr("%1 %", "a scale").arg(QLocale().toString(choice.scale * 100, 'g', 4));
+    if (choice.border.isThere())
+        parts += Text::tr("border %1").arg(localLengthText(choice.border.width));
+    const QString text = parts.join(separator);
+    return choice.turns == 0 ? text : Text::tr("%1, turned by %2°").arg(text).arg(choice.turns * quarter);
+}
+
+QString placementText(const QList<PlacementChoice> &placements)
+{
+    const PlacementChoice &first = placements.constFirst();
+    const bool isOne = std::ranges::all_of(
+        placements, [&first](const PlacementChoice &each) { return areAlike(each, first); });
+    return isOne ? placementText(first) : Text::tr("Differs by photo");
+}
+
+QString layoutText(const SheetLayout &layout)
+{
+    QStringList parts;
+    switch (layout.kind) {
+    case SheetLayout::Kind::Single:
+        parts += Text::tr("One photo on each sheet");
+        break;
+    case SheetLayout::Kind::Grid:
+        parts += Text::tr("%1 rows, %2 columns").arg(layout.rows).arg(layout.columns);
+        break;
+    case SheetLayout::Kind::ManyOfSize:
+        parts += Text::tr("As many as fit");
+        break;
+    case SheetLayout::Kind::Contact:
+        parts += Text::tr("Contact sheet, %1 rows, %2 columns").arg(layout.rows).arg(layout.columns);
+        break;
+    case SheetLayout::Kind::Strips:
+        parts += Text::tr("Two strips of %1 photos").arg(layout.stripPhotos);
+        break;
+    }
+    if (layout.isRepeated != SheetLayout::usual(layout.kind).isRepeated)
+        parts +=
+            layout.isRepeated ? Text::tr("the same photo repeated") : Text::tr("the next photos following");
+    return parts.join(separator);
+}
+
+} // namespace printdialog
