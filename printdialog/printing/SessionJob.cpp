@@ -7,6 +7,7 @@
 #include "IppOptions.h"
 #include "PpdDocument.h"
 #include "PpdFilters.h"
+#include "PrintPositions.h"
 
 #include <QtCore/QCoreApplication>
 
@@ -28,6 +29,9 @@ Result<SessionJob, SessionJobFault> jobOf(DialogSession &session, int copies)
     PrintJob job;
     job.destination = printer.destination;
     job.page = {size->points, size->imageable};
+    constexpr double tenthsPerMillimeter = 10;
+    job.offset = QPointF(PrintPositions::load(printer.destination.queue, size->keyword)) /
+                 tenthsPerMillimeter * pointsPerMillimeter;
     for (const auto &[option, choice] : session.summary())
         job.summary.insert(option, choice);
     job.copies = copies;

@@ -75,6 +75,7 @@ PrintDialog::PrintDialog(const PrintDialogSetup &setup, QWidget *parent)
     ui_->printer->setStaying(
         [this] { return pageStays() ? std::optional(printer_->queue().id()) : std::nullopt; });
     connect(ui_->pageSize, &QComboBox::activated, this, &PrintDialog::choosePageSize);
+    connect(ui_->position, &QToolButton::clicked, this, &PrintDialog::showPosition);
     connect(ui_->customPage, &CustomPageFields::sizeTyped, this, &PrintDialog::chooseTypedSize);
     connect(ui_->customPage, &CustomPageFields::refused, choices_, &ChoiceController::refuse);
     for (QLineEdit *field : ui_->customPage->fields())

@@ -31,6 +31,7 @@ class ChoiceController;
 class DialogSession;
 class IppAttributes;
 class PictureController;
+class PrintPositionWindow;
 class PrinterController;
 class PrintingController;
 
@@ -114,6 +115,8 @@ private:
     void choosePageSize(int index);
     void chooseTypedSize(const QSizeF &points, QLineEdit *field);
     void showPageSize();
+    void showPosition();
+    void updatePosition();
 
     // The buttons
     bool pageStays();
@@ -132,6 +135,7 @@ private:
     ChoiceController *choices_ = nullptr;
     PictureController *picture_ = nullptr;
     PrintingController *printing_ = nullptr;
+    PrintPositionWindow *position_ = nullptr; ///< null before it is first opened
     int listedSizes_ = 0; ///< the items of the paper-size list before those for a custom size
 };
 

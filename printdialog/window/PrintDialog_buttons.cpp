@@ -26,6 +26,7 @@ void PrintDialog::updateButtons()
     const QString end = printing_->hasPrinted() ? tr("Close") : tr("Cancel");
     ui_->cancel->setText(printing_->isBusy() ? tr("Stop") : end);
     ui_->cancel->setEnabled(!printing_->isStopping());
+    updatePosition();
 }
 
 void PrintDialog::print()

@@ -9,12 +9,15 @@
 #include "OutcomeText.h"
 #include "PhotoPane.h"
 #include "PlainText.h"
+#include "PositionTestPage.h"
 #include "PrintProgress.h"
 #include "PrintWorker.h"
 #include "Queue.h"
 #include "SessionJob.h"
 
+#include <QtCore/QDir>
 #include <QtCore/QFileInfo>
+#include <QtCore/QTemporaryDir>
 
 #include <utility>
 
@@ -32,6 +35,8 @@ PrintingController::PrintingController(const Widgets &widgets, ChoiceController 
             widgets_.progress->show(text, done, total);
     });
 }
+
+PrintingController::~PrintingController() = default;
 
 void PrintingController::setSession(DialogSession *session)
 {
@@ -53,17 +58,41 @@ bool PrintingController::print(int copies, const QString &folder, const Queue &q
     const std::optional<SessionJob> made = makeJob(copies);
     if (!made)
         return false;
+    start(widgets_.photos->arrangement(), *made, folder, queue);
+    return true;
+}
+
+void PrintingController::start(const Arrangement &arrangement, const SessionJob &made, const QString &folder,
+                               const Queue &queue)
+{
     widgets_.message->clear();
-    if (!made->remarks.isEmpty())
-        widgets_.message->show(MessageBar::Kind::Warning, made->remarks.join(u'\n'));
-    job_ = made->job;
+    if (!made.remarks.isEmpty())
+        widgets_.message->show(MessageBar::Kind::Warning, made.remarks.join(u'\n'));
+    job_ = made.job;
     job_.folder = {folder};
     job_.announcedUri = queue.isAnnounced ? queue.deviceUri : QString();
-    remarks_ = made->remarks;
+    remarks_ = made.remarks;
     widgets_.progress->show(tr("Printing…"));
-    worker_->print(widgets_.photos->arrangement(), job_);
+    worker_->print(arrangement, job_);
     Q_EMIT stateChanged();
-    return true;
+}
+
+void PrintingController::printTestPage(const QString &folder, const Queue &queue)
+{
+    const std::optional<SessionJob> made = makeJob(1);
+    if (!made)
+        return;
+    testPage_ = std::make_unique<QTemporaryDir>();
+    const QString path = testPage_->filePath(tr("Print position", "a file's name") + QLatin1String(".png"));
+    const bool isSaved = testPage_->isValid() && positionTestPage(made->job.page).save(path);
+    const auto photo = Photo::open(path);
+    if (!isSaved || !photo) {
+        widgets_.message->show(
+            MessageBar::Kind::Error,
+            tr("The test page could not be made in \"%1\". Free some space there.").arg(QDir::tempPath()));
+        return;
+    }
+    start({{{*photo, {Scaling::Fill}, true}}}, *made, folder, queue);
 }
 
 /// Also saves the choices for the next time. When no job can be made, the user sees why.

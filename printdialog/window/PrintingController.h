@@ -8,7 +8,10 @@
 #include <QtCore/QObject>
 #include <QtCore/QStringList>
 
+#include <memory>
 #include <optional>
+
+class QTemporaryDir;
 
 namespace printdialog {
 
@@ -18,6 +21,7 @@ class MessageBar;
 class PhotoPane;
 class PrintProgress;
 class PrintWorker;
+struct Arrangement;
 struct Queue;
 struct PrintOutcome;
 struct SessionJob;
@@ -37,6 +41,7 @@ public:
     };
 
     PrintingController(const Widgets &widgets, ChoiceController *choices, QObject *parent);
+    ~PrintingController() override;
 
     /// Prints the choices of this session, which must outlive this or the next call; null: none.
     void setSession(DialogSession *session);
@@ -46,6 +51,8 @@ public:
     /// @param folder where the built-in printer leaves its files
     /// @param queue the session's, as it is known by now: a printer on the network may have another address
     bool print(int copies, const QString &folder, const Queue &queue);
+    /// Prints the test page for the print position with the session's choices, in one copy. Not while busy.
+    void printTestPage(const QString &folder, const Queue &queue);
     bool isBusy() const;
     /// Whether the user wants the run stopped that is under way.
     bool isStopping() const { return isStopping_; }
@@ -75,12 +82,15 @@ private:
     void askAboutDamage();
     void askAboutMissing(const QStringList &missing);
     std::optional<SessionJob> makeJob(int copies);
+    void start(const Arrangement &arrangement, const SessionJob &made, const QString &folder,
+               const Queue &queue);
     void showOutcome(const PrintOutcome &outcome);
     QString whatContinues() const;
 
     Widgets widgets_;
     ChoiceController *choices_;
     PrintWorker *worker_;
+    std::unique_ptr<QTemporaryDir> testPage_; ///< holds its picture
     DialogSession *session_ = nullptr;
     PrintJob job_;                ///< of what is being printed, or was
     QStringList remarks_;         ///< what was left out of it

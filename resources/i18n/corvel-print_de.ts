@@ -995,6 +995,13 @@ Foto sein Blatt; auch „,gap=2mm“ und „,marks“ für Schnittmarken</transl
     </message>
 </context>
 <context>
+    <name>PositionTestPage</name>
+    <message>
+        <source>The vertical line is %1 mm from the left edge, and the horizontal one %1 mm from the top edge, if the printer prints in its place. Measure both, and type what you measured.</source>
+        <translation>Die senkrechte Linie ist %1 mm vom linken, die waagrechte %1 mm vom oberen Rand entfernt, wenn der Drucker an der richtigen Stelle druckt. Messen Sie beide, und geben Sie ein, was Sie gemessen haben.</translation>
+    </message>
+</context>
+<context>
     <name>PpdCheck</name>
     <message>
         <source>&quot;%1&quot; cannot be run: %2</source>
@@ -1302,6 +1309,14 @@ Foto sein Blatt; auch „,gap=2mm“ und „,marks“ für Schnittmarken</transl
     <message>
         <source>Pr&amp;eset:</source>
         <translation>&amp;Voreinstellung:</translation>
+    </message>
+    <message>
+        <source>Where the printer prints on this paper, with a test page</source>
+        <translation>Wo der Drucker auf diesem Papier druckt, mit einer Testseite</translation>
+    </message>
+    <message>
+        <source>Print position</source>
+        <translation>Drucklage</translation>
     </message>
 </context>
 <context>
@@ -3373,6 +3388,49 @@ Foto sein Blatt; auch „,gap=2mm“ und „,marks“ für Schnittmarken</transl
     </message>
 </context>
 <context>
+    <name>printdialog::PrintPositionWindow</name>
+    <message>
+        <source>Print &amp;Test Page</source>
+        <translation>&amp;Testseite drucken</translation>
+    </message>
+    <message>
+        <source>&amp;Correct</source>
+        <translation>&amp;Korrigieren</translation>
+    </message>
+    <message>
+        <source>Print Position</source>
+        <translation>Drucklage</translation>
+    </message>
+    <message>
+        <source>To the &amp;right:</source>
+        <translation>Nach &amp;rechts:</translation>
+    </message>
+    <message>
+        <source>&amp;Down:</source>
+        <translation>Nach &amp;unten:</translation>
+    </message>
+    <message>
+        <source>From the &amp;left edge:</source>
+        <translation>Vom &amp;linken Rand:</translation>
+    </message>
+    <message>
+        <source>From the to&amp;p edge:</source>
+        <translation>Vom &amp;oberen Rand:</translation>
+    </message>
+    <message>
+        <source>The test page has a line %1 mm from the left edge and one %1 mm from the top edge. Print it, and measure them:</source>
+        <translation>Die Testseite hat eine Linie %1 mm vom linken und eine %1 mm vom oberen Rand. Drucken Sie sie, und messen Sie nach:</translation>
+    </message>
+    <message>
+        <source> mm</source>
+        <translation> mm</translation>
+    </message>
+    <message>
+        <source>Everything printed on &quot;%1&quot; with the paper size &quot;%2&quot; is moved:</source>
+        <translation>Alles, was auf „%1“ mit der Papiergröße „%2“ gedruckt wird, wird verschoben:</translation>
+    </message>
+</context>
+<context>
     <name>printdialog::PrintProgress</name>
     <message>
         <source>Printing</source>
@@ -3523,6 +3581,15 @@ Foto sein Blatt; auch „,gap=2mm“ und „,marks“ für Schnittmarken</transl
     <message>
         <source>When this window is closed, the print server continues printing the %1 of %2 photos that it has. The rest is not printed.</source>
         <translation>Wird dieses Fenster geschlossen, druckt der Druckserver die %1 von %2 Fotos, die er hat, weiter. Der Rest wird nicht gedruckt.</translation>
+    </message>
+    <message>
+        <source>Print position</source>
+        <comment>a file&apos;s name</comment>
+        <translation>Drucklage</translation>
+    </message>
+    <message>
+        <source>The test page could not be made in &quot;%1&quot;. Free some space there.</source>
+        <translation>Die Testseite konnte nicht in „%1“ erstellt werden. Schaffen Sie dort Platz.</translation>
     </message>
 </context>
 <context>

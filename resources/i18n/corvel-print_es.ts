@@ -994,6 +994,13 @@ hoja; también «,gap=2mm», y «,marks» para las marcas de corte</translation>
     </message>
 </context>
 <context>
+    <name>PositionTestPage</name>
+    <message>
+        <source>The vertical line is %1 mm from the left edge, and the horizontal one %1 mm from the top edge, if the printer prints in its place. Measure both, and type what you measured.</source>
+        <translation>La línea vertical está a %1 mm del borde izquierdo y la horizontal a %1 mm del borde superior, si la impresora imprime en su sitio. Mida ambas y escriba lo que ha medido.</translation>
+    </message>
+</context>
+<context>
     <name>PpdCheck</name>
     <message>
         <source>&quot;%1&quot; cannot be run: %2</source>
@@ -1301,6 +1308,14 @@ hoja; también «,gap=2mm», y «,marks» para las marcas de corte</translation>
     <message>
         <source>Pr&amp;eset:</source>
         <translation>Prea&amp;juste:</translation>
+    </message>
+    <message>
+        <source>Where the printer prints on this paper, with a test page</source>
+        <translation>Dónde imprime la impresora en este papel, con una página de prueba</translation>
+    </message>
+    <message>
+        <source>Print position</source>
+        <translation>Posición de impresión</translation>
     </message>
 </context>
 <context>
@@ -3372,6 +3387,49 @@ hoja; también «,gap=2mm», y «,marks» para las marcas de corte</translation>
     </message>
 </context>
 <context>
+    <name>printdialog::PrintPositionWindow</name>
+    <message>
+        <source>Print &amp;Test Page</source>
+        <translation>Imprimir página de &amp;prueba</translation>
+    </message>
+    <message>
+        <source>&amp;Correct</source>
+        <translation>&amp;Corregir</translation>
+    </message>
+    <message>
+        <source>Print Position</source>
+        <translation>Posición de impresión</translation>
+    </message>
+    <message>
+        <source>To the &amp;right:</source>
+        <translation>A la de&amp;recha:</translation>
+    </message>
+    <message>
+        <source>&amp;Down:</source>
+        <translation>Hacia a&amp;bajo:</translation>
+    </message>
+    <message>
+        <source>From the &amp;left edge:</source>
+        <translation>Desde el borde &amp;izquierdo:</translation>
+    </message>
+    <message>
+        <source>From the to&amp;p edge:</source>
+        <translation>Desde el borde &amp;superior:</translation>
+    </message>
+    <message>
+        <source>The test page has a line %1 mm from the left edge and one %1 mm from the top edge. Print it, and measure them:</source>
+        <translation>La página de prueba tiene una línea a %1 mm del borde izquierdo y otra a %1 mm del borde superior. Imprímala y mídalas:</translation>
+    </message>
+    <message>
+        <source> mm</source>
+        <translation> mm</translation>
+    </message>
+    <message>
+        <source>Everything printed on &quot;%1&quot; with the paper size &quot;%2&quot; is moved:</source>
+        <translation>Todo lo que se imprime en «%1» con el tamaño de papel «%2» se desplaza:</translation>
+    </message>
+</context>
+<context>
     <name>printdialog::PrintProgress</name>
     <message>
         <source>Printing</source>
@@ -3522,6 +3580,15 @@ hoja; también «,gap=2mm», y «,marks» para las marcas de corte</translation>
     <message>
         <source>When this window is closed, the print server continues printing the %1 of %2 photos that it has. The rest is not printed.</source>
         <translation>Si se cierra esta ventana, el servidor de impresión sigue imprimiendo las %1 de %2 fotos que tiene. El resto no se imprime.</translation>
+    </message>
+    <message>
+        <source>Print position</source>
+        <comment>a file&apos;s name</comment>
+        <translation>Posición de impresión</translation>
+    </message>
+    <message>
+        <source>The test page could not be made in &quot;%1&quot;. Free some space there.</source>
+        <translation>No se pudo crear la página de prueba en «%1». Libere espacio allí.</translation>
     </message>
 </context>
 <context>

@@ -412,8 +412,8 @@ FILE-3.png, ...</translation>
     <message>
         <source>the size of each print, such as 9x13cm, 35x45mm, 4x6in, or by name:
 square, passport, wallet; otherwise the whole page</source>
-        <translation>le format de chaque tirage, par exemple 9x13cm, 35x45mm, 4x6in, ou un nom :
-square, passport, wallet ; sinon toute la page</translation>
+        <translation>le format de chaque tirage, par exemple 9x13cm, 35x45mm, 4x6in, ou un nom&#x202f;:
+square, passport, wallet&#x202f;; sinon toute la page</translation>
     </message>
     <message>
         <source>the photo larger or smaller than by its scaling, 1 to 1000</source>
@@ -421,17 +421,17 @@ square, passport, wallet ; sinon toute la page</translation>
     </message>
     <message>
         <source>a border around each photo, within its size: 3mm, or 3mm,black</source>
-        <translation>une bordure autour de chaque photo, dans son format : 3mm, ou 3mm,black</translation>
+        <translation>une bordure autour de chaque photo, dans son format&#x202f;: 3mm, ou 3mm,black</translation>
     </message>
     <message>
         <source>several photos on a sheet: ROWSxCOLUMNS (2x3); fit, as many of the size
 as fit; contact or contact:ROWSxCOLUMNS, a contact sheet; strips or
 strips:NUMBER, two strips of 2 to 4 photos. With &quot;,repeat&quot; each photo
 fills its sheet; also &quot;,gap=2mm&quot; and &quot;,marks&quot; for cut marks</source>
-        <translation>plusieurs photos par feuille : LIGNESxCOLONNES (2x3) ; fit, autant de ce
-format que possible ; contact ou contact:LIGNESxCOLONNES, une planche-contact ;
-strips ou strips:NOMBRE, deux bandes de 2 à 4 photos. Avec « ,repeat », chaque
-photo remplit sa feuille ; aussi « ,gap=2mm », et « ,marks » pour les traits de coupe</translation>
+        <translation>plusieurs photos par feuille&#x202f;: LIGNESxCOLONNES (2x3)&#x202f;; fit, autant de ce
+format que possible&#x202f;; contact ou contact:LIGNESxCOLONNES, une planche-contact&#x202f;;
+strips ou strips:NOMBRE, deux bandes de 2 à 4 photos. Avec «&#x202f;,repeat&#x202f;», chaque
+photo remplit sa feuille&#x202f;; aussi «&#x202f;,gap=2mm&#x202f;», et «&#x202f;,marks&#x202f;» pour les traits de coupe</translation>
     </message>
     <message>
         <source>what stands below each photo of a layout</source>
@@ -439,23 +439,23 @@ photo remplit sa feuille ; aussi « ,gap=2mm », et « ,marks » pour 
     </message>
     <message>
         <source>&quot;%1&quot; is not a print size. Give one such as 10x15cm, 4x6in or passport, with sides from 5 mm to 2 m.</source>
-        <translation>« %1 » n’est pas un format de tirage. Indiquez par exemple 10x15cm, 4x6in ou passport, avec des côtés de 5 mm à 2 m.</translation>
+        <translation>«&#x202f;%1&#x202f;» n’est pas un format de tirage. Indiquez par exemple 10x15cm, 4x6in ou passport, avec des côtés de 5 mm à 2 m.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is not a scale. Give a number from 1 to 1000, in per cent.</source>
-        <translation>« %1 » n’est pas une échelle. Indiquez un nombre de 1 à 1000, en pour cent.</translation>
+        <translation>«&#x202f;%1&#x202f;» n’est pas une échelle. Indiquez un nombre de 1 à 1000, en pour cent.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is not a border. Give a width from 0 to 100 mm, and a color if it is not to be white: 3mm,black.</source>
-        <translation>« %1 » n’est pas une bordure. Indiquez une largeur de 0 à 100 mm, et une couleur si elle n’est pas blanche : 3mm,black.</translation>
+        <translation>«&#x202f;%1&#x202f;» n’est pas une bordure. Indiquez une largeur de 0 à 100 mm, et une couleur si elle n’est pas blanche&#x202f;: 3mm,black.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is not a layout. Give rows and columns from 1 to 20 (2x3), fit, contact, or strips:2 to strips:4.</source>
-        <translation>« %1 » n’est pas une disposition. Indiquez des lignes et des colonnes de 1 à 20 (2x3), fit, contact, ou strips:2 à strips:4.</translation>
+        <translation>«&#x202f;%1&#x202f;» n’est pas une disposition. Indiquez des lignes et des colonnes de 1 à 20 (2x3), fit, contact, ou strips:2 à strips:4.</translation>
     </message>
     <message>
         <source>There is no caption &quot;%1&quot;. Choose none, name, date or both.</source>
-        <translation>Il n’y a pas de légende « %1 ». Choisissez none, name, date ou both.</translation>
+        <translation>Il n’y a pas de légende «&#x202f;%1&#x202f;». Choisissez none, name, date ou both.</translation>
     </message>
     <message>
         <source>A print list says itself which photos are printed and how. Give it without other photos, and without %1.</source>
@@ -463,7 +463,7 @@ photo remplit sa feuille ; aussi « ,gap=2mm », et « ,marks » pour 
     </message>
     <message>
         <source>&quot;-&quot; reads one photo from the standard input. Give it once.</source>
-        <translation>« - » lit une photo sur l’entrée standard. Indiquez-le une seule fois.</translation>
+        <translation>«&#x202f;-&#x202f;» lit une photo sur l’entrée standard. Indiquez-le une seule fois.</translation>
     </message>
 </context>
 <context>
@@ -996,6 +996,13 @@ photo remplit sa feuille ; aussi « ,gap=2mm », et « ,marks » pour 
     </message>
 </context>
 <context>
+    <name>PositionTestPage</name>
+    <message>
+        <source>The vertical line is %1 mm from the left edge, and the horizontal one %1 mm from the top edge, if the printer prints in its place. Measure both, and type what you measured.</source>
+        <translation>La ligne verticale est à %1 mm du bord gauche, et l’horizontale à %1 mm du bord supérieur, si l’imprimante imprime au bon endroit. Mesurez les deux, et saisissez ce que vous avez mesuré.</translation>
+    </message>
+</context>
+<context>
     <name>PpdCheck</name>
     <message>
         <source>&quot;%1&quot; cannot be run: %2</source>
@@ -1304,6 +1311,14 @@ photo remplit sa feuille ; aussi « ,gap=2mm », et « ,marks » pour 
         <source>Pr&amp;eset:</source>
         <translation>Prérég&amp;lage&#x202f;:</translation>
     </message>
+    <message>
+        <source>Where the printer prints on this paper, with a test page</source>
+        <translation>Où l’imprimante imprime sur ce papier, avec une page de test</translation>
+    </message>
+    <message>
+        <source>Print position</source>
+        <translation>Position d’impression</translation>
+    </message>
 </context>
 <context>
     <name>Queue</name>
@@ -1491,15 +1506,15 @@ photo remplit sa feuille ; aussi « ,gap=2mm », et « ,marks » pour 
     <name>StandardInput</name>
     <message>
         <source>&quot;-&quot; reads a photo from the standard input, which is the keyboard. Redirect it: corvel-print - &lt; photo.jpg</source>
-        <translation>« - » lit une photo sur l’entrée standard, qui est le clavier. Redirigez-la : corvel-print - &lt; photo.jpg</translation>
+        <translation>«&#x202f;-&#x202f;» lit une photo sur l’entrée standard, qui est le clavier. Redirigez-la&#x202f;: corvel-print - &lt; photo.jpg</translation>
     </message>
     <message>
         <source>The standard input cannot be kept in &quot;%1&quot;: %2. Free some space there.</source>
-        <translation>L’entrée standard ne peut pas être conservée dans « %1 » : %2. Libérez-y de la place.</translation>
+        <translation>L’entrée standard ne peut pas être conservée dans «&#x202f;%1&#x202f;»&#x202f;: %2. Libérez-y de la place.</translation>
     </message>
     <message>
         <source>The standard input could not be read: %1.</source>
-        <translation>L’entrée standard n’a pas pu être lue : %1.</translation>
+        <translation>L’entrée standard n’a pas pu être lue&#x202f;: %1.</translation>
     </message>
     <message>
         <source>The standard input is empty. Redirect a photo to it.</source>
@@ -1507,7 +1522,7 @@ photo remplit sa feuille ; aussi « ,gap=2mm », et « ,marks » pour 
     </message>
     <message>
         <source>The photo on the standard input is too large: a photo may have %1.</source>
-        <translation>La photo sur l’entrée standard est trop grande : une photo peut avoir %1.</translation>
+        <translation>La photo sur l’entrée standard est trop grande&#x202f;: une photo peut avoir %1.</translation>
     </message>
 </context>
 <context>
@@ -3346,15 +3361,15 @@ photo remplit sa feuille ; aussi « ,gap=2mm », et « ,marks » pour 
     <name>printdialog::PrintList</name>
     <message>
         <source>&quot;%1&quot; is not a print list. Save it again in the print window.</source>
-        <translation>« %1 » n’est pas une liste d’impression. Enregistrez-la de nouveau dans la fenêtre d’impression.</translation>
+        <translation>«&#x202f;%1&#x202f;» n’est pas une liste d’impression. Enregistrez-la de nouveau dans la fenêtre d’impression.</translation>
     </message>
     <message>
         <source>The print list &quot;%1&quot; cannot be used: &quot;%2&quot; cannot be %3. Correct it, or save the list again in the print window.</source>
-        <translation>La liste d’impression « %1 » est inutilisable : « %2 » ne peut pas valoir %3. Corrigez-la, ou enregistrez-la de nouveau dans la fenêtre d’impression.</translation>
+        <translation>La liste d’impression «&#x202f;%1&#x202f;» est inutilisable&#x202f;: «&#x202f;%2&#x202f;» ne peut pas valoir %3. Corrigez-la, ou enregistrez-la de nouveau dans la fenêtre d’impression.</translation>
     </message>
     <message>
         <source>The print list &quot;%1&quot; could not be read: %2.</source>
-        <translation>La liste d’impression « %1 » n’a pas pu être lue : %2.</translation>
+        <translation>La liste d’impression «&#x202f;%1&#x202f;» n’a pas pu être lue&#x202f;: %2.</translation>
     </message>
     <message>
         <source>it is not a file</source>
@@ -3366,11 +3381,54 @@ photo remplit sa feuille ; aussi « ,gap=2mm », et « ,marks » pour 
     </message>
     <message>
         <source>The print list &quot;%1&quot; is from a later version of this program. Update the program, or save the list again with this one.</source>
-        <translation>La liste d’impression « %1 » vient d’une version plus récente de ce programme. Mettez-le à jour, ou enregistrez de nouveau la liste avec celui-ci.</translation>
+        <translation>La liste d’impression «&#x202f;%1&#x202f;» vient d’une version plus récente de ce programme. Mettez-le à jour, ou enregistrez de nouveau la liste avec celui-ci.</translation>
     </message>
     <message>
         <source>The print list &quot;%1&quot; could not be saved: %2. Choose another folder.</source>
-        <translation>La liste d’impression « %1 » n’a pas pu être enregistrée : %2. Choisissez un autre dossier.</translation>
+        <translation>La liste d’impression «&#x202f;%1&#x202f;» n’a pas pu être enregistrée&#x202f;: %2. Choisissez un autre dossier.</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::PrintPositionWindow</name>
+    <message>
+        <source>Print &amp;Test Page</source>
+        <translation>Imprimer une page de &amp;test</translation>
+    </message>
+    <message>
+        <source>&amp;Correct</source>
+        <translation>&amp;Corriger</translation>
+    </message>
+    <message>
+        <source>Print Position</source>
+        <translation>Position d’impression</translation>
+    </message>
+    <message>
+        <source>To the &amp;right:</source>
+        <translation>Vers la d&amp;roite&#x202f;:</translation>
+    </message>
+    <message>
+        <source>&amp;Down:</source>
+        <translation>Vers le &amp;bas&#x202f;:</translation>
+    </message>
+    <message>
+        <source>From the &amp;left edge:</source>
+        <translation>Du bord &amp;gauche&#x202f;:</translation>
+    </message>
+    <message>
+        <source>From the to&amp;p edge:</source>
+        <translation>Du bord &amp;supérieur&#x202f;:</translation>
+    </message>
+    <message>
+        <source>The test page has a line %1 mm from the left edge and one %1 mm from the top edge. Print it, and measure them:</source>
+        <translation>La page de test a une ligne à %1 mm du bord gauche et une à %1 mm du bord supérieur. Imprimez-la, et mesurez-les&#x202f;:</translation>
+    </message>
+    <message>
+        <source> mm</source>
+        <translation> mm</translation>
+    </message>
+    <message>
+        <source>Everything printed on &quot;%1&quot; with the paper size &quot;%2&quot; is moved:</source>
+        <translation>Tout ce qui est imprimé sur «&#x202f;%1&#x202f;» avec le format de papier «&#x202f;%2&#x202f;» est déplacé&#x202f;:</translation>
     </message>
 </context>
 <context>
@@ -3524,6 +3582,15 @@ photo remplit sa feuille ; aussi « ,gap=2mm », et « ,marks » pour 
     <message>
         <source>When this window is closed, the print server continues printing the %1 of %2 photos that it has. The rest is not printed.</source>
         <translation>Si cette fenêtre est fermée, le serveur d’impression continue d’imprimer les %1 photos sur %2 qu’il a reçues. Le reste n’est pas imprimé.</translation>
+    </message>
+    <message>
+        <source>Print position</source>
+        <comment>a file&apos;s name</comment>
+        <translation>Position d’impression</translation>
+    </message>
+    <message>
+        <source>The test page could not be made in &quot;%1&quot;. Free some space there.</source>
+        <translation>La page de test n’a pas pu être créée dans «&#x202f;%1&#x202f;». Libérez-y de la place.</translation>
     </message>
 </context>
 <context>

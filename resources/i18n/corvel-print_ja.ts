@@ -993,6 +993,13 @@ contact:行x列 はコンタクトシート。strips または strips:数 は 2 
     </message>
 </context>
 <context>
+    <name>PositionTestPage</name>
+    <message>
+        <source>The vertical line is %1 mm from the left edge, and the horizontal one %1 mm from the top edge, if the printer prints in its place. Measure both, and type what you measured.</source>
+        <translation>プリンターが正しい位置に印刷していれば、縦線は左端から %1 mm、横線は上端から %1 mm です。両方を測り、測った値を入力してください。</translation>
+    </message>
+</context>
+<context>
     <name>PpdCheck</name>
     <message>
         <source>&quot;%1&quot; cannot be run: %2</source>
@@ -1300,6 +1307,14 @@ contact:行x列 はコンタクトシート。strips または strips:数 は 2 
     <message>
         <source>Pr&amp;eset:</source>
         <translation>プリセット(&amp;E):</translation>
+    </message>
+    <message>
+        <source>Where the printer prints on this paper, with a test page</source>
+        <translation>この用紙のどこに印刷されるか (テストページ付き)</translation>
+    </message>
+    <message>
+        <source>Print position</source>
+        <translation>印刷位置</translation>
     </message>
 </context>
 <context>
@@ -3369,6 +3384,49 @@ contact:行x列 はコンタクトシート。strips または strips:数 は 2 
     </message>
 </context>
 <context>
+    <name>printdialog::PrintPositionWindow</name>
+    <message>
+        <source>Print &amp;Test Page</source>
+        <translation>テストページを印刷(&amp;T)</translation>
+    </message>
+    <message>
+        <source>&amp;Correct</source>
+        <translation>補正(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Print Position</source>
+        <translation>印刷位置</translation>
+    </message>
+    <message>
+        <source>To the &amp;right:</source>
+        <translation>右へ(&amp;R):</translation>
+    </message>
+    <message>
+        <source>&amp;Down:</source>
+        <translation>下へ(&amp;D):</translation>
+    </message>
+    <message>
+        <source>From the &amp;left edge:</source>
+        <translation>左端から(&amp;L):</translation>
+    </message>
+    <message>
+        <source>From the to&amp;p edge:</source>
+        <translation>上端から(&amp;P):</translation>
+    </message>
+    <message>
+        <source>The test page has a line %1 mm from the left edge and one %1 mm from the top edge. Print it, and measure them:</source>
+        <translation>テストページには、左端から %1 mm と上端から %1 mm に線があります。印刷して、測ってください:</translation>
+    </message>
+    <message>
+        <source> mm</source>
+        <translation> mm</translation>
+    </message>
+    <message>
+        <source>Everything printed on &quot;%1&quot; with the paper size &quot;%2&quot; is moved:</source>
+        <translation>「%1」で用紙サイズ「%2」に印刷するものをすべてずらします:</translation>
+    </message>
+</context>
+<context>
     <name>printdialog::PrintProgress</name>
     <message>
         <source>Printing</source>
@@ -3519,6 +3577,15 @@ contact:行x列 はコンタクトシート。strips または strips:数 は 2 
     <message>
         <source>When this window is closed, the print server continues printing the %1 of %2 photos that it has. The rest is not printed.</source>
         <translation>このウィンドウを閉じても、プリントサーバーは %2 枚中、受け取った %1 枚の印刷を続けます。残りは印刷されません。</translation>
+    </message>
+    <message>
+        <source>Print position</source>
+        <comment>a file&apos;s name</comment>
+        <translation>印刷位置</translation>
+    </message>
+    <message>
+        <source>The test page could not be made in &quot;%1&quot;. Free some space there.</source>
+        <translation>「%1」にテストページを作れませんでした。そこに空きを作ってください。</translation>
     </message>
 </context>
 <context>
