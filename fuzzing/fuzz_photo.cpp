@@ -22,8 +22,9 @@ constexpr qint64 mostPixels = 40'000; // larger ones decode slowly and show no m
 void place(const Photo &photo)
 {
     const PageGeometry page = {{288, 432}, {6, 12, 274, 408}};
-    const QByteArray content = photo.content();
-    const auto selector = static_cast<unsigned char>(content.back());
+    const auto content = photo.content();
+    fuzzing::require(static_cast<bool>(content), "what was opened can be read");
+    const auto selector = static_cast<unsigned char>(content->back());
     PlacementChoice choice;
     choice.scaling = std::array{Scaling::Fit, Scaling::Fill, Scaling::ActualSize}.at(selector % 3);
     choice.turns = selector / 3 % 4;

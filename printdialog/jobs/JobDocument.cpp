@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <utility>
 
 namespace printdialog {
 
@@ -69,8 +70,12 @@ Result<JobDocument, PdfFault> jobDocument(const PrintSheet &sheet, const PrintJo
     const QByteArray type = mimeTypeOf(first.photo);
     if (job.isRaw() || (sheet.isPlain() && job.offset.isNull() && job.directTypes.contains(type) &&
                         !isLeftUnscaled(job) && canGoUntouched(first.photo, job.page, first.placement))) {
+        auto content = first.photo.content();
+        if (!content)
+            return Failure<PdfFault>{PdfFault::PhotoUnusable, content.failure().text,
+                                     content.failure().detail};
         document.mimeType = type;
-        document.data = first.photo.content();
+        document.data = *std::move(content);
         document.isUntouched = true;
         return document;
     }

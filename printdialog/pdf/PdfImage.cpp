@@ -72,7 +72,10 @@ Result<PdfImage, PhotoFault> PdfImage::of(const Photo &photo)
             return image;
         image.embedding_ = Embedding::OriginalPng;
         // Otherwise decode with libpng, which may still make a picture of them.
-        if (!photo.pngHeader()->hasAllPixels())
+        const auto content = photo.content();
+        if (!content)
+            return content.failure();
+        if (!photo.pngHeader()->hasAllPixels(*content))
             image.embedding_ = Embedding::Pixels;
         return image;
     }
@@ -90,37 +93,40 @@ Result<PdfImage, PhotoFault> PdfImage::of(const Photo &photo)
 Result<int, PhotoFault> PdfImage::write(PdfFile &file) const
 {
     const int number = file.reserve();
+    if (!pixels_.isNull()) {
+        writePixels(file, number);
+        return number;
+    }
+    const auto content = photo_.content();
+    if (!content)
+        return content.failure();
     switch (embedding_) {
     case Embedding::OriginalJpeg:
-        writeJpeg(file, number);
+        writeJpeg(file, number, *content);
         break;
     case Embedding::OriginalPng:
-        writePng(file, number);
+        writePng(file, number, *content);
         break;
     case Embedding::Pixels:
-        if (pixels_.isNull()) {
-            if (const auto failure = writeDecodedPng(file, number))
-                return *failure;
-            break;
-        }
-        writePixels(file, number);
+        if (const auto failure = writeDecodedPng(file, number, *content))
+            return *failure;
         break;
     }
     return number;
 }
 
-void PdfImage::writeJpeg(PdfFile &file, int number) const
+void PdfImage::writeJpeg(PdfFile &file, int number, const QByteArray &content) const
 {
     const JpegHeader &header = *photo_.jpegHeader();
     const QByteArray space = colorSpace(file, photo_.profile(), header.components);
     // PDF readers ignore Adobe's marker for inverted inks, so /Decode says it.
     const QByteArray inverted = header.isInverted ? " /Decode [1 0 1 0 1 0 1 0]" : "";
     file.beginStream(number, entriesOf(header.size, space, 8) + inverted + " /Filter /DCTDecode");
-    file.writeData(photo_.content());
+    file.writeData(content);
     file.endStream();
 }
 
-void PdfImage::writePng(PdfFile &file, int number) const
+void PdfImage::writePng(PdfFile &file, int number, const QByteArray &content) const
 {
     const PngHeader &header = *photo_.pngHeader();
     const int bits = header.bitsPerSample;
@@ -130,12 +136,14 @@ void PdfImage::writePng(PdfFile &file, int number) const
                 header.palette.toHex() + ">]";
     file.beginStream(number,
                      entriesOf(header.size, space, bits) + predicted(header.size, header.components, bits));
-    for (const QByteArrayView part : header.data)
+    const QList<QByteArrayView> parts = PngHeader::pixelParts(content);
+    for (const QByteArrayView part : parts)
         file.writeData(part);
     file.endStream();
 }
 
-std::optional<Failure<PhotoFault>> PdfImage::writeDecodedPng(PdfFile &file, int number) const
+std::optional<Failure<PhotoFault>> PdfImage::writeDecodedPng(PdfFile &file, int number,
+                                                             const QByteArray &content) const
 {
     const int components = photo_.pngHeader()->decodedComponents;
     const QSize size = photo_.storedSize();
@@ -144,7 +152,6 @@ std::optional<Failure<PhotoFault>> PdfImage::writeDecodedPng(PdfFile &file, int 
     DeflatedRows rows(static_cast<std::size_t>(size.width()) * static_cast<std::size_t>(components),
                       static_cast<std::size_t>(components),
                       [&file](QByteArrayView bytes) { file.writeData(bytes); });
-    const QByteArray content = photo_.content();
     PngPixels pixels(content);
     for (int y = 0; y < size.height() && !file.hasFailed(); ++y) {
         const unsigned char *row = pixels.nextRow();

@@ -27,8 +27,9 @@ public:
     static Result<PdfImage, PhotoFault> of(const Photo &photo);
 
     Embedding embedding() const { return embedding_; }
-    /// Writes the image, and the profile as a separate object. Returns the image's object number. Fails, with
-    /// the image partly written, when a PNG's pixels are incomplete.
+    /// Writes the image, and the profile as a separate object. Returns the image's object number. Fails when
+    /// the photo's file can no longer be read and, with the image partly written, when a PNG's pixels are
+    /// incomplete.
     Result<int, PhotoFault> write(PdfFile &file) const;
 
 private:
@@ -37,9 +38,10 @@ private:
     {
     }
 
-    void writeJpeg(PdfFile &file, int number) const;
-    void writePng(PdfFile &file, int number) const;
-    std::optional<Failure<PhotoFault>> writeDecodedPng(PdfFile &file, int number) const;
+    void writeJpeg(PdfFile &file, int number, const QByteArray &content) const;
+    void writePng(PdfFile &file, int number, const QByteArray &content) const;
+    std::optional<Failure<PhotoFault>> writeDecodedPng(PdfFile &file, int number,
+                                                       const QByteArray &content) const;
     void writePixels(PdfFile &file, int number) const;
 
     Photo photo_;

@@ -22,11 +22,14 @@
 #include <algorithm>
 #include <atomic>
 #include <mutex>
+#include <new>
 
 namespace printdialog {
 namespace {
 
 constexpr qint64 headSize = 4096;
+/// Of a JPEG file, in bytes: enough for the headers that cameras write.
+constexpr qint64 jpegHeadersSize = 128 << 10;
 constexpr int maximumRasterSide = 32767; ///< In pixels; the limit of QPainter.
 
 /// The size of a GIF's logical screen (GIF89a, 18); empty when the file is cut off before it.
@@ -42,7 +45,7 @@ QSize gifCanvas(QByteArrayView gif)
 /// The result of checking the pixels, shared by copies of a photo.
 struct Photo::Verdict
 {
-    std::once_flag once;
+    std::mutex mutex; ///< Held while checking.
     std::atomic<bool> isThere = false;
     std::optional<QString> damage;
 };
@@ -56,8 +59,8 @@ Result<Photo, PhotoFault> Photo::open(const QString &path)
     Photo photo;
     photo.path_ = path;
     photo.verdict_ = std::make_shared<Verdict>();
-    photo.modified_ = file->modified();
-    const PhotoFormat format = PhotoFormat::of(file->head(headSize));
+    photo.content_ = std::make_shared<PhotoContent>(path, file->identity());
+    const PhotoFormat format = PhotoFormat::of(file->part(0, headSize));
     if (!format.isReadable())
         return format.failure(path);
     photo.format_ = format.name();
@@ -68,19 +71,56 @@ Result<Photo, PhotoFault> Photo::open(const QString &path)
                 .arg(plainText(path), QLocale().formattedDataSize(file->size()),
                      QLocale().formattedDataSize(maximumFileSize)),
             {}};
-
-    auto content = file->content();
-    if (!content)
-        return content.failure();
-    photo.content_ = *std::move(content);
-    if (auto failure = photo.format_ == "jpeg"  ? photo.inspectJpeg()
-                       : photo.format_ == "png" ? photo.inspectPng()
-                       : format.isHeif()        ? photo.inspectHeif()
-                                                : photo.inspectOther())
+    if (auto failure = photo.inspect(*file))
         return *failure;
     if (auto failure = photo.checkPixels())
         return *failure;
     return photo;
+}
+
+std::optional<Failure<PhotoFault>> Photo::inspect(const PhotoFile &file)
+{
+    if (format_ == "jpeg") {
+        constexpr qint64 markerSize = 2;
+        if (auto header = JpegHeader::ofEnds(file.part(0, jpegHeadersSize),
+                                             file.part(file.size() - markerSize, markerSize)))
+            return inspectJpeg(*std::move(header));
+    }
+    const auto content = bytes();
+    if (!content)
+        return content.failure();
+    return format_ == "jpeg"              ? inspectJpeg(JpegHeader::read(**content))
+           : format_ == "png"             ? inspectPng(**content)
+           : PhotoFormat::isHeif(format_) ? inspectHeif(**content)
+                                          : inspectOther(**content);
+}
+
+Result<PhotoContent::Bytes, PhotoFault> Photo::bytes() const
+{
+    try {
+        auto content = content_ ? content_->read() : std::make_shared<const QByteArray>();
+        // Whoever wants to can write to a file and set its time back. The rows of another PNG might be
+        // shorter.
+        if (content && png_ && !(*content)->startsWith(png_->beginning))
+            return PhotoFile::changed(path_);
+        return content;
+    } catch (const std::bad_alloc &) {
+        return memoryFailure();
+    }
+}
+
+Result<QByteArray, PhotoFault> Photo::content() const
+{
+    const auto content = bytes();
+    if (!content)
+        return content.failure();
+    return **content;
+}
+
+QDateTime Photo::modified() const
+{
+    constexpr qint64 nanoseconds = 1'000'000'000;
+    return QDateTime::fromSecsSinceEpoch(identity().modified / nanoseconds, Qt::UTC);
 }
 
 QString Photo::fileName() const
@@ -88,10 +128,8 @@ QString Photo::fileName() const
     return QFileInfo(path_).fileName();
 }
 
-std::optional<Failure<PhotoFault>> Photo::inspectJpeg()
+std::optional<Failure<PhotoFault>> Photo::inspectJpeg(JpegHeader header)
 {
-    jpeg_ = std::make_shared<const JpegHeader>(JpegHeader::read(content_));
-    const JpegHeader &header = *jpeg_;
     if (header.state == JpegHeader::State::Truncated)
         return truncated();
     if (header.state == JpegHeader::State::Broken)
@@ -109,12 +147,14 @@ std::optional<Failure<PhotoFault>> Photo::inspectJpeg()
     if (ColorProfile profile = ColorProfile::fromIcc(header.iccProfile);
         profile.components() == header.components)
         profile_ = std::move(profile);
+    header.iccProfile.clear(); // one copy is enough, and profile_ shares it with other photos
+    jpeg_ = std::make_shared<const JpegHeader>(std::move(header));
     return std::nullopt;
 }
 
-std::optional<Failure<PhotoFault>> Photo::inspectPng()
+std::optional<Failure<PhotoFault>> Photo::inspectPng(const QByteArray &content)
 {
-    png_ = std::make_shared<const PngHeader>(PngHeader::read(content_));
+    png_ = std::make_shared<const PngHeader>(PngHeader::read(content));
     const PngHeader &header = *png_;
     if (header.state == PngHeader::State::Broken)
         return broken(QStringLiteral("a PNG checksum does not match"));
@@ -143,12 +183,12 @@ std::optional<Failure<PhotoFault>> Photo::inspectPng()
 }
 
 /// libheif applies all turns while decoding, so a repeated Exif orientation is ignored.
-std::optional<Failure<PhotoFault>> Photo::inspectHeif()
+std::optional<Failure<PhotoFault>> Photo::inspectHeif(const QByteArray &content)
 {
-    if (!hasPictureEnd(format_, content_))
+    if (!hasPictureEnd(format_, content))
         return truncated();
     const QuietDecoding quiet;
-    const auto header = HeifPicture::read(content_);
+    const auto header = HeifPicture::read(content);
     if (!header)
         return broken(header.failure().detail);
     storedSize_ = header->size;
@@ -156,12 +196,12 @@ std::optional<Failure<PhotoFault>> Photo::inspectHeif()
     return std::nullopt;
 }
 
-std::optional<Failure<PhotoFault>> Photo::inspectOther()
+std::optional<Failure<PhotoFault>> Photo::inspectOther(const QByteArray &content)
 {
-    if (!hasPictureEnd(format_, content_))
+    if (!hasPictureEnd(format_, content))
         return truncated();
     const QuietDecoding quiet;
-    ContentReader reader(content_, format_);
+    ContentReader reader(content, format_);
     storedSize_ = reader->size();
     if (format_ == "bmp" && storedSize_.height() < 0) // a negative height: rows are stored top-down
         storedSize_.setHeight(-std::max(storedSize_.height(), -INT_MAX));
@@ -171,15 +211,15 @@ std::optional<Failure<PhotoFault>> Photo::inspectOther()
     if (format_ == "gif") {
         // Qt reports the size of the frame, but decodes the canvas, which may be far larger. A canvas side of
         // 0 means that of the frame.
-        const QSize canvas = gifCanvas(content_);
+        const QSize canvas = gifCanvas(content);
         if ((canvas.width() > 0 && canvas.width() != storedSize_.width()) ||
             (canvas.height() > 0 && canvas.height() != storedSize_.height()))
             return broken(QStringLiteral("the canvas and the frame differ in size"));
     } else if (format_ == "webp") {
-        orientation_ = ExifData::fromTiff(webpChunk(content_, "EXIF")).orientation;
-        profile_ = ColorProfile::fromIcc(webpChunk(content_, "ICCP").toByteArray());
+        orientation_ = ExifData::fromTiff(webpChunk(content, "EXIF")).orientation;
+        profile_ = ColorProfile::fromIcc(webpChunk(content, "ICCP").toByteArray());
     } else if (format_ == "tiff") {
-        const ExifData data = ExifData::fromTiff(content_);
+        const ExifData data = ExifData::fromTiff(content);
         if (data.isReduced)
             return PhotoFormat::ofCamera().failure(path_);
         resolution_ = data.resolution;
@@ -214,17 +254,17 @@ bool Photo::isChecked() const
     return (format_ != "jpeg" && format_ != "webp" && format_ != "tiff") || verdict_->isThere;
 }
 
-std::optional<QString> Photo::findDamage() const
+std::optional<QString> Photo::findDamage(const QByteArray &content) const
 {
     if (format_ == "jpeg")
-        return jpegDamage(content_);
+        return jpegDamage(content);
     if (format_ == "tiff")
-        return tiffDamage(content_);
+        return tiffDamage(content);
     // WebP has no checksums, and any bytes decode to some picture. But a damaged one hardly ever needs
     // exactly as many bytes as there are, whereas an intact file cannot be decoded with fewer. Printing finds
     // further damage.
     ContentReader::allow(storedSize_);
-    ContentReader reader(shortenedWebp(content_), format_);
+    ContentReader reader(shortenedWebp(content), format_);
     if (reader->read().isNull())
         return std::nullopt;
     return QStringLiteral("the WebP picture ends before its data do");
@@ -233,10 +273,14 @@ std::optional<QString> Photo::findDamage() const
 std::optional<Failure<PhotoFault>> Photo::damage() const
 {
     if (!isChecked()) {
-        std::call_once(verdict_->once, [this] {
-            verdict_->damage = findDamage();
+        const std::lock_guard lock(verdict_->mutex);
+        if (!verdict_->isThere) {
+            const auto content = bytes();
+            if (!content)
+                return content.failure();
+            verdict_->damage = findDamage(**content);
             verdict_->isThere = true;
-        });
+        }
     }
     if (!verdict_ || !verdict_->damage)
         return std::nullopt;

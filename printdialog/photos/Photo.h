@@ -6,6 +6,7 @@
 #include "ColorProfile.h"
 #include "ExifOrientation.h"
 #include "JpegHeader.h"
+#include "PhotoContent.h"
 #include "PhotoFile.h"
 #include "PngHeader.h"
 #include "Result.h"
@@ -31,7 +32,8 @@ struct PhotoPart
     QRectF area; ///< exactly what it shows, in the unit square of the upright photo
 };
 
-/// A photo that can be printed: its file's content and metadata. A value; copies share the content. Several
+/// A photo that can be printed: its file and what the file's headers say. Its content is read when it is
+/// needed, and only if the file is still the one that was opened. A value; copies share the content. Several
 /// threads may use it, each with its own copy.
 class Photo
 {
@@ -46,16 +48,22 @@ public:
     /// A null photo.
     Photo() = default;
 
-    /// Reads the file and its headers, and checks that a JPEG, PNG, HEIF, AVIF, BMP, GIF or WebP file is
-    /// complete. Nothing is decoded, and of a file that is not a picture only the first bytes are read. The
-    /// format (see PhotoFormat) is detected by content, not by name. Any PhotoFault can result.
+    /// Reads the file's headers, and checks that a JPEG, PNG, HEIF, AVIF, BMP, GIF or WebP file is complete.
+    /// Nothing is decoded. Of a file that is not a picture only the first bytes are read, of most JPEG files
+    /// only the first and the last ones; others are read completely. The format (see PhotoFormat) is detected
+    /// by content, not by name. Any PhotoFault can result.
     static Result<Photo, PhotoFault> open(const QString &path);
 
     QString path() const { return path_; } ///< As given to open().
     QString fileName() const;
     QByteArray format() const { return format_; } ///< "jpeg", "png", "heif", "avif", ...
-    QByteArray content() const { return content_; }
-    QDateTime modified() const { return modified_; }
+    /// The file's bytes, see PhotoContent. Faults: Changed, TooLarge when memory is short, and those of
+    /// PhotoFile::open(). So do decoded() and damage() fail; the functions without a fault return a null
+    /// image.
+    Result<QByteArray, PhotoFault> content() const;
+    /// Which file it is, and in which state, as it was opened.
+    FileIdentity identity() const { return content_ ? content_->identity() : FileIdentity(); }
+    QDateTime modified() const; ///< In whole seconds, UTC.
     QSize storedSize() const { return storedSize_; } ///< In pixels.
     ExifOrientation orientation() const { return orientation_; }
     QSize orientedSize() const { return orientation_.seenSize(storedSize_); } ///< In pixels, as seen.
@@ -74,8 +82,8 @@ public:
 
     /// Whether the pixels are damaged although the headers are intact. The first call checks all pixels of a
     /// JPEG (see jpegDamage), WebP or TIFF file (see tiffDamage), and copies share the result. A PNG's
-    /// checksums are checked when it is opened. In other formats, damage is found only by decoding. Fault:
-    /// Damaged.
+    /// checksums are checked when it is opened. In other formats, damage is found only by decoding. Faults:
+    /// Damaged, and those of content(), which are not kept.
     std::optional<Failure<PhotoFault>> damage() const;
     /// Whether damage() returns at once.
     bool isChecked() const;
@@ -106,13 +114,15 @@ public:
 private:
     struct Verdict;
 
-    std::optional<Failure<PhotoFault>> inspectJpeg();
-    std::optional<Failure<PhotoFault>> inspectPng();
-    std::optional<Failure<PhotoFault>> inspectHeif();
-    std::optional<Failure<PhotoFault>> inspectOther();
+    Result<PhotoContent::Bytes, PhotoFault> bytes() const;
+    std::optional<Failure<PhotoFault>> inspect(const PhotoFile &file);
+    std::optional<Failure<PhotoFault>> inspectJpeg(JpegHeader header);
+    std::optional<Failure<PhotoFault>> inspectPng(const QByteArray &content);
+    std::optional<Failure<PhotoFault>> inspectHeif(const QByteArray &content);
+    std::optional<Failure<PhotoFault>> inspectOther(const QByteArray &content);
     std::optional<Failure<PhotoFault>> checkPixels() const;
-    std::optional<QString> findDamage() const;
-    QImage decodedWithin(const QSize &storedBound, QString &error) const;
+    std::optional<QString> findDamage(const QByteArray &content) const;
+    QImage decodedWithin(const QByteArray &content, const QSize &storedBound, QString &error) const;
     QImage scaledWithin(const QSize &bound) const;
     QImage decodedPart(const ScaledPart &stored, const std::atomic<bool> *isGivenUp) const;
     QImage inPixelColors(const QImage &image) const;
@@ -120,8 +130,7 @@ private:
 
     QString path_;
     QByteArray format_;
-    QByteArray content_;
-    QDateTime modified_;
+    std::shared_ptr<PhotoContent> content_; ///< Null for a null photo.
     QSize storedSize_;
     ExifOrientation orientation_;
     std::optional<double> resolution_;

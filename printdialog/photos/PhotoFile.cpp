@@ -11,6 +11,7 @@
 #include <fcntl.h>
 #include <sys/stat.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <optional>
 
@@ -54,13 +55,13 @@ std::optional<Failure<PhotoFault>> kindFailure(mode_t mode, const QString &path)
     return Failure<PhotoFault>{PhotoFault::NotReadable, text.arg(plainText(path)), {}};
 }
 
-/// Reads until the buffer is full or the file ends. Returns the number of bytes, or -1.
-qint64 readFully(int descriptor, QByteArray &buffer)
+/// Reads from the offset on until the buffer is full or the file ends. Returns the number of bytes, or -1.
+qint64 readFully(int descriptor, QByteArray &buffer, qint64 offset)
 {
     qint64 done = 0;
     while (done < buffer.size()) {
-        const ssize_t count =
-            ::pread(descriptor, buffer.data() + done, static_cast<std::size_t>(buffer.size() - done), done);
+        const ssize_t count = ::pread(descriptor, buffer.data() + done,
+                                      static_cast<std::size_t>(buffer.size() - done), offset + done);
         if (count < 0 && errno == EINTR)
             continue;
         if (count < 0)
@@ -70,6 +71,13 @@ qint64 readFully(int descriptor, QByteArray &buffer)
         done += count;
     }
     return done;
+}
+
+FileIdentity identityOf(const struct stat &status)
+{
+    constexpr qint64 nanoseconds = 1'000'000'000;
+    return {status.st_dev, status.st_ino, status.st_size,
+            status.st_mtim.tv_sec * nanoseconds + status.st_mtim.tv_nsec};
 }
 
 } // namespace
@@ -95,26 +103,34 @@ Result<PhotoFile, PhotoFault> PhotoFile::open(const QString &path)
             PhotoFault::Empty,
             tr("\"%1\" is empty. Copy the photo again from where it came from.").arg(plainText(path)),
             {}};
-    file.size_ = status.st_size;
-    file.modified_ = QDateTime::fromSecsSinceEpoch(status.st_mtim.tv_sec, Qt::UTC);
+    file.identity_ = identityOf(status);
     return file;
 }
 
-QByteArray PhotoFile::head(qint64 bytes) const
+QByteArray PhotoFile::part(qint64 offset, qint64 size) const
 {
-    QByteArray buffer(qMin(bytes, size_), Qt::Uninitialized);
-    buffer.resize(qMax(qint64(0), readFully(descriptor_.number(), buffer)));
+    QByteArray buffer(std::clamp(this->size() - offset, qint64(0), size), Qt::Uninitialized);
+    buffer.resize(qMax(qint64(0), readFully(descriptor_.number(), buffer, offset)));
     return buffer;
 }
 
 Result<QByteArray, PhotoFault> PhotoFile::content() const
 {
-    QByteArray buffer(size_, Qt::Uninitialized);
-    const qint64 count = readFully(descriptor_.number(), buffer);
-    if (count < 0)
+    QByteArray buffer(size(), Qt::Uninitialized);
+    const qint64 count = readFully(descriptor_.number(), buffer, 0);
+    struct stat status = {};
+    if (count < 0 || ::fstat(descriptor_.number(), &status) != 0)
         return systemFailure(errno, path_);
-    buffer.resize(count);
+    if (count != size() || identityOf(status) != identity_)
+        return changed(path_);
     return buffer;
+}
+
+Failure<PhotoFault> PhotoFile::changed(const QString &path)
+{
+    return {PhotoFault::Changed,
+            tr("\"%1\" has changed since it was opened. Add it again.").arg(plainText(path)),
+            {}};
 }
 
 } // namespace printdialog

@@ -4,11 +4,12 @@
 #pragma once
 
 #include "FileDescriptor.h"
+#include "FileIdentity.h"
 #include "Result.h"
 
 #include <QtCore/QByteArray>
 #include <QtCore/QCoreApplication>
-#include <QtCore/QDateTime>
+#include <QtCore/QString>
 
 namespace printdialog {
 
@@ -23,6 +24,7 @@ enum class PhotoFault {
     Truncated,    ///< The end of the picture is missing.
     Broken,       ///< The content contradicts its own format.
     Damaged,      ///< The headers are intact, but the pixels are corrupted.
+    Changed,      ///< The file is not the one that was opened, or was written to since.
 };
 
 /// An open file that may hold a photo. Only a regular file is opened, so that no pipe or device can block.
@@ -34,13 +36,19 @@ public:
     /// Opens the file without reading it. Faults: NotFound, NotReadable, Empty.
     static Result<PhotoFile, PhotoFault> open(const QString &path);
 
-    qint64 size() const { return size_; } ///< In bytes, when it was opened.
-    QDateTime modified() const { return modified_; }
-    /// The first bytes of the file, at most that many.
-    QByteArray head(qint64 bytes) const;
-    /// The complete current content. It is copied and not mapped, since the process would be killed if
-    /// another program truncated a mapped file. Fault: NotReadable.
+    /// Of the file when it was opened.
+    const FileIdentity &identity() const { return identity_; }
+    qint64 size() const { return identity_.size; } ///< In bytes, when it was opened.
+    /// The bytes from an offset on: at most that many, and none behind the end. None when they cannot be
+    /// read.
+    QByteArray part(qint64 offset, qint64 size) const;
+    /// The complete content. It is copied and not mapped, since the process would be killed if another
+    /// program truncated a mapped file. Faults: NotReadable, and Changed when it was written to since it was
+    /// opened.
     Result<QByteArray, PhotoFault> content() const;
+
+    /// The failure for a file that is not what it was.
+    static Failure<PhotoFault> changed(const QString &path);
 
 private:
     PhotoFile(const QString &path, pdekit::FileDescriptor descriptor)
@@ -51,8 +59,7 @@ private:
 
     QString path_;
     pdekit::FileDescriptor descriptor_;
-    qint64 size_ = 0;
-    QDateTime modified_;
+    FileIdentity identity_;
 };
 
 } // namespace printdialog

@@ -48,21 +48,21 @@ QRect pixelsOf(const QRectF &part, const QSize &size)
 } // namespace
 
 /// Decodes, scaled down while reading where the format can do that and the bound is not empty.
-QImage Photo::decodedWithin(const QSize &storedBound, QString &error) const
+QImage Photo::decodedWithin(const QByteArray &content, const QSize &storedBound, QString &error) const
 {
     const QuietDecoding quiet;
     QImage image;
     if (PhotoFormat::isHeif(format_)) {
-        auto picture = HeifPicture::decode(content_);
+        auto picture = HeifPicture::decode(content);
         if (picture)
             image = *std::move(picture);
         else
             error = picture.failure().detail;
     } else if (png_) {
-        image = decodedPng(content_, *png_, storedBound, error);
+        image = decodedPng(content, *png_, storedBound, error);
     } else {
         ContentReader::allow(storedSize_);
-        ContentReader reader(content_, format_);
+        ContentReader reader(content, format_);
         if (!storedBound.isEmpty())
             reader->setScaledSize(storedBound);
         image = reader->read();
@@ -78,8 +78,11 @@ QImage Photo::decodedWithin(const QSize &storedBound, QString &error) const
 
 Result<QImage, PhotoFault> Photo::decoded() const
 {
+    const auto content = bytes();
+    if (!content)
+        return content.failure();
     QString error;
-    QImage image = decodedWithin({}, error);
+    QImage image = decodedWithin(**content, {}, error);
     if (!image.isNull())
         return image;
     // Qt does not report the reason, so try to allocate its largest format.
@@ -97,8 +100,11 @@ QImage Photo::scaledWithin(const QSize &bound) const
     QSize scaled;
     if (seen.width() > bound.width() || seen.height() > bound.height())
         scaled = orientation_.seenSize(seen.scaled(bound, Qt::KeepAspectRatio).expandedTo(QSize(1, 1)));
+    const auto content = bytes();
+    if (!content)
+        return {};
     QString error;
-    QImage image = decodedWithin(scaled, error);
+    QImage image = decodedWithin(**content, scaled, error);
     if (!scaled.isEmpty() && !image.isNull() && image.size() != scaled)
         image = image.scaled(scaled, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
     return image;
@@ -136,13 +142,16 @@ PhotoPart Photo::part(const QRectF &part, const QSize &whole, const std::atomic<
 /// The direction is that of the stored pixels.
 QImage Photo::decodedPart(const ScaledPart &stored, const std::atomic<bool> *isGivenUp) const
 {
+    const auto content = bytes();
+    if (!content)
+        return {};
     const QuietDecoding quiet;
     QString error;
     if (jpeg_)
-        return decodedJpegPart(content_, storedSize_, stored, isGivenUp);
+        return decodedJpegPart(**content, storedSize_, stored, isGivenUp);
     if (png_)
-        return decodedPngPart(content_, *png_, stored, error, isGivenUp);
-    const QImage picture = decodedWithin({}, error);
+        return decodedPngPart(**content, *png_, stored, error, isGivenUp);
+    const QImage picture = decodedWithin(**content, {}, error);
     const bool isGrey =
         picture.format() == QImage::Format_Grayscale8 || picture.format() == QImage::Format_Grayscale16;
     AreaScaler scaler(storedSize_, stored, isGrey ? 1 : 3);

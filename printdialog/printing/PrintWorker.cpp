@@ -87,7 +87,8 @@ PrintOutcome printed(const Arrangement &arrangement, const SheetPlan &plan, Prin
     }
     // Checked before anything is printed, so that the user can decide about all photos; mostly known already.
     outcome.hasDamaged = std::ranges::any_of(arrangement.photos, [](const PlacedPhoto &placed) {
-        return !placed.isAccepted && placed.photo.damage();
+        const auto damage = placed.isAccepted ? std::nullopt : placed.photo.damage();
+        return damage && damage->reason == PhotoFault::Damaged; // what cannot be read is left out later
     });
     if (outcome.hasDamaged)
         return outcome;

@@ -2911,6 +2911,10 @@ Foto sein Blatt; auch „,gap=2mm“ und „,marks“ für Schnittmarken</transl
         <source>&quot;%1&quot; is empty. Copy the photo again from where it came from.</source>
         <translation>„%1“ ist leer. Kopieren Sie das Foto erneut von der Quelle.</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; has changed since it was opened. Add it again.</source>
+        <translation>„%1“ hat sich geändert, seit es geöffnet wurde. Fügen Sie es erneut hinzu.</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::PhotoFormat</name>

@@ -2910,6 +2910,10 @@ hoja; también «,gap=2mm», y «,marks» para las marcas de corte</translation>
         <source>&quot;%1&quot; is empty. Copy the photo again from where it came from.</source>
         <translation>«%1» está vacía. Copie de nuevo la foto desde su origen.</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; has changed since it was opened. Add it again.</source>
+        <translation>«%1» ha cambiado desde que se abrió. Añádala de nuevo.</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::PhotoFormat</name>

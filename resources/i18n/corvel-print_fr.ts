@@ -2912,6 +2912,10 @@ photo remplit sa feuille&#x202f;; aussi «&#x202f;,gap=2mm&#x202f;», et «&#x20
         <source>&quot;%1&quot; is empty. Copy the photo again from where it came from.</source>
         <translation>«&#x202f;%1&#x202f;» est vide. Copiez de nouveau la photo depuis sa source.</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; has changed since it was opened. Add it again.</source>
+        <translation>«&#x202f;%1&#x202f;» a changé depuis son ouverture. Ajoutez-la de nouveau.</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::PhotoFormat</name>

@@ -2909,6 +2909,10 @@ contact:行x列 はコンタクトシート。strips または strips:数 は 2 
         <source>&quot;%1&quot; is empty. Copy the photo again from where it came from.</source>
         <translation>「%1」は空です。元の場所から写真をもう一度コピーしてください。</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; has changed since it was opened. Add it again.</source>
+        <translation>「%1」は開いた後に変更されました。もう一度追加してください。</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::PhotoFormat</name>

@@ -125,7 +125,7 @@ private Q_SLOTS:
         QCOMPARE(job.attributes, attributes);
         QCOMPARE(job.format, format);
         QCOMPARE(job.resource, QByteArray("/ipp/print"));
-        QCOMPARE(job.document == Photo::open(photo_)->content(), format == "image/jpeg");
+        QCOMPARE(job.document == *Photo::open(photo_)->content(), format == "image/jpeg");
         QVERIFY(job.document.startsWith(format == "image/jpeg" ? "\xff\xd8" : "%PDF"));
     }
 

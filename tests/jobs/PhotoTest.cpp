@@ -220,7 +220,7 @@ private Q_SLOTS:
         QVERIFY2(photo, photo ? "" : qPrintable(photo.failure().text));
         QCOMPARE(photo->format(), "jpeg");
         QCOMPARE(photo->isEmbeddable(), isEmbeddable);
-        QVERIFY(photo->content() == content);
+        QVERIFY(*photo->content() == content);
     }
 
     /// Each byte of the headers replaced by values that make lengths, counts and offsets extreme.

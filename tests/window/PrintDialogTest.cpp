@@ -70,6 +70,21 @@ void PrintDialogTest::damagedPhoto()
     QTRY_VERIFY(opened.message().startsWith(u"Printed 2 photos"_s));
 }
 
+void PrintDialogTest::changedPhotoIsLeftOut()
+{
+    const QString path = config_->filePath(u"other.jpg"_s);
+    QVERIFY(QFile::copy(QStringLiteral(CORVEL_SAMPLE_PHOTO), path));
+    PrintDialogSetup setup = setupFor(mode_);
+    setup.photos.prepend(*Photo::open(path));
+    QVERIFY(QFile::resize(path, QFileInfo(path).size() + 1));
+    const OpenedDialog opened(setup);
+    QVERIFY(opened.prints());
+    QTRY_VERIFY2(opened.message().startsWith(u"Printed 1 of 2 photos."_s), qPrintable(opened.message()));
+    QVERIFY2(opened.message().contains(u"other.jpg\" has changed since it was opened. Add it again."_s),
+             qPrintable(opened.message()));
+    QVERIFY(!QFile::exists(opened.folder.filePath(u"out/other.pdf"_s)));
+}
+
 void PrintDialogTest::printsByKeyFromAnywhere()
 {
     for (const QString &name : {u"printer"_s, u"pageSize"_s, u"copies"_s, u"folder"_s, u"redSlider"_s}) {

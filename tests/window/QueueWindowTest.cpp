@@ -222,7 +222,7 @@ private Q_SLOTS:
         QVERIFY(isOff(u"scaling"_s) && isOff(u"turn"_s));
         QVERIFY(opened.find<QLabel>(u"photoLabel"_s)->text().contains(u"only an example"_s));
         const RecordedJob job = cupsd_.job(print(opened));
-        QVERIFY(job.document == setupForPrinter().photos.constFirst().content());
+        QVERIFY(job.document == *setupForPrinter().photos.constFirst().content());
         QVERIFY(!job.options.contains("PageSize"));
         QTest::keyClick(opened.find<QComboBox>(u"printer"_s), Qt::Key_Home);
         QTRY_COMPARE(opened.dialog->printer(), u"built-in"_s);

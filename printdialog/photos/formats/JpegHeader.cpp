@@ -40,8 +40,10 @@ bool isFrame(int marker)
 class JpegReader
 {
 public:
-    explicit JpegReader(QByteArrayView bytes)
+    /// `last` are the last ones of the file that `bytes` begins with.
+    JpegReader(QByteArrayView bytes, QByteArrayView last)
         : bytes_(bytes)
+        , last_(last)
     {
     }
 
@@ -176,7 +178,7 @@ private:
     /// Skips the compressed data from behind the first scan's header to the end of the picture.
     State findEnd()
     {
-        if (bytes_.endsWith("\xff\xd9"))
+        if (last_.endsWith("\xff\xd9"))
             return State::Complete;
         while (position_ + 1 < bytes_.size()) {
             const void *found = std::memchr(bytes_.data() + position_, 0xff,
@@ -200,6 +202,7 @@ private:
     }
 
     QByteArrayView bytes_;
+    QByteArrayView last_;
     qsizetype position_ = 0;
     JpegHeader header_;
     std::map<int, QByteArrayView> profileParts_;
@@ -215,7 +218,13 @@ private:
 
 JpegHeader JpegHeader::read(QByteArrayView bytes)
 {
-    return JpegReader(bytes).read();
+    return JpegReader(bytes, bytes).read();
+}
+
+std::optional<JpegHeader> JpegHeader::ofEnds(QByteArrayView first, QByteArrayView last)
+{
+    JpegHeader header = JpegReader(first, last).read();
+    return header.state == State::Truncated ? std::nullopt : std::optional(std::move(header));
 }
 
 } // namespace printdialog

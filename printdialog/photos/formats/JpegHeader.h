@@ -40,6 +40,9 @@ struct JpegHeader
     /// Reads untrusted bytes, which begin with a JPEG signature. Data after the end of a complete picture (a
     /// second picture, a film, padding) are ignored.
     static JpegHeader read(QByteArrayView bytes);
+    /// The same from a file's first and last bytes (2 at least); nothing when they do not suffice, so that
+    /// all have to be read.
+    static std::optional<JpegHeader> ofEnds(QByteArrayView first, QByteArrayView last);
 };
 
 } // namespace printdialog

@@ -53,10 +53,49 @@ QByteArray inflated(QByteArrayView bytes, qsizetype limit)
     return status == Z_STREAM_END && result.size() <= limit ? result : QByteArray();
 }
 
+/// Goes through the chunks of a file.
+class PngChunks
+{
+public:
+    explicit PngChunks(QByteArrayView bytes)
+        : bytes_(bytes)
+    {
+    }
+
+    /// Goes on to the next chunk, first to the first one. False: there are no more complete ones.
+    bool next()
+    {
+        constexpr qsizetype frameSize = 12; // length, type and checksum
+        if (position_ + frameSize > bytes_.size())
+            return false;
+        const auto length = qsizetype(wordAt(bytes_, position_));
+        if (length > bytes_.size() - position_ - frameSize)
+            return false;
+        typeAndContent_ = bytes_.sliced(position_ + 4, 4 + length);
+        position_ += frameSize + length;
+        return true;
+    }
+    QByteArrayView type() const { return typeAndContent_.first(4); }
+    QByteArrayView content() const { return typeAndContent_.sliced(4); }
+    bool isIntact() const { return wordAt(bytes_, position_ - 4) == checksum(typeAndContent_); }
+
+private:
+    static constexpr qsizetype signatureSize = 8;
+
+    QByteArrayView bytes_;
+    QByteArrayView typeAndContent_;
+    qsizetype position_ = signatureSize;
+};
+
 class PngReader
 {
 public:
-    explicit PngReader(QByteArrayView bytes) { header_.state = readChunks(bytes); }
+    explicit PngReader(QByteArrayView bytes)
+    {
+        constexpr qsizetype imageHeaderEnd = 33; // of the signature and the first chunk
+        header_.beginning = bytes.first(qMin(imageHeaderEnd, bytes.size())).toByteArray();
+        header_.state = readChunks(bytes);
+    }
 
     PngHeader header()
     {
@@ -68,7 +107,7 @@ public:
         const bool hasAlpha = isTransparent_ || type_ == GreyAlpha || type_ == Rgba;
         header_.decodedChannels = header_.decodedComponents + (hasAlpha ? 1 : 0);
         header_.isEmbeddable = header_.isValid && (type_ == Grey || type_ == Rgb || hasPalette) &&
-                               !isTransparent_ && !header_.isInterlaced && !header_.data.isEmpty();
+                               !isTransparent_ && !header_.isInterlaced && hasPixels_;
         if (header_.isValid && hasPalette) {
             const qsizetype colors = qsizetype(1) << header_.bitsPerSample;
             header_.palette = header_.palette.leftJustified(colors * 3, '\0', true);
@@ -88,24 +127,16 @@ private:
 
     State readChunks(QByteArrayView bytes)
     {
-        constexpr qsizetype signatureSize = 8;
-        constexpr qsizetype frameSize = 12; // length, type and checksum
         auto found = State::Whole;
-        for (qsizetype position = signatureSize; position + frameSize <= bytes.size();) {
-            const auto length = qsizetype(wordAt(bytes, position));
-            if (length > bytes.size() - position - frameSize)
-                return State::Truncated;
-            const QByteArrayView typeAndData = bytes.sliced(position + 4, 4 + length);
-            const QByteArrayView type = typeAndData.first(4);
-            position += frameSize + length;
-            if (wordAt(bytes, position - 4) != checksum(typeAndData)) {
-                if (type != "IDAT")
+        for (PngChunks chunks(bytes); chunks.next();) {
+            if (!chunks.isIntact()) {
+                if (chunks.type() != "IDAT")
                     return State::Broken;
                 found = State::DamagedPixels;
             }
-            if (type == "IEND")
+            if (chunks.type() == "IEND")
                 return found;
-            readChunk(type, typeAndData.sliced(4));
+            readChunk(chunks.type(), chunks.content());
         }
         return State::Truncated;
     }
@@ -136,7 +167,7 @@ private:
         else if (type == "PLTE" && content.size() % 3 == 0 && content.size() <= 768)
             header_.palette = content.toByteArray();
         else if (type == "IDAT")
-            header_.data.append(content);
+            hasPixels_ = true;
         else if (type == "tRNS")
             isTransparent_ = true;
         else if (type == "pHYs" && content.size() >= 9)
@@ -212,6 +243,7 @@ private:
     double gamma_ = 0;
     int type_ = -1;
     bool hasUsualMethods_ = false; // of compression and filtering: only one of each is defined
+    bool hasPixels_ = false;
     bool isTransparent_ = false;
     bool isSrgb_ = false;
 };
@@ -223,7 +255,17 @@ PngHeader PngHeader::read(QByteArrayView bytes)
     return PngReader(bytes).header();
 }
 
-bool PngHeader::hasAllPixels() const
+QList<QByteArrayView> PngHeader::pixelParts(QByteArrayView bytes)
+{
+    QList<QByteArrayView> parts;
+    for (PngChunks chunks(bytes); chunks.next() && chunks.type() != "IEND";) {
+        if (chunks.type() == "IDAT")
+            parts.append(chunks.content());
+    }
+    return parts;
+}
+
+bool PngHeader::hasAllPixels(QByteArrayView bytes) const
 {
     constexpr Bytef lastFilter = 4;
     const qint64 rowSize = (qint64(size.width()) * components * bitsPerSample + 7) / 8 + 1;
@@ -234,7 +276,8 @@ bool PngHeader::hasAllPixels() const
     std::vector<Bytef> buffer(std::size_t(256) << 10);
     qint64 done = 0;
     int status = Z_OK;
-    for (const QByteArrayView part : data) {
+    const QList<QByteArrayView> parts = pixelParts(bytes);
+    for (const QByteArrayView part : parts) {
         stream.next_in = reinterpret_cast<Bytef *>(const_cast<char *>(part.data()));
         stream.avail_in = static_cast<uInt>(part.size());
         do {

@@ -27,6 +27,7 @@ struct PngHeader
     };
 
     State state = State::Truncated;
+    QByteArray beginning;  ///< The file's first bytes, with all that says how large the pixels are.
     QSize size;            ///< In pixels, as stored.
     int bitsPerSample = 0; ///< 1, 2, 4, 8 or 16.
     int components = 0;    ///< Stored color components: 1 (grey, or a palette index) or 3.
@@ -36,8 +37,7 @@ struct PngHeader
     int decodedChannels = 0;
     /// Red, green, blue of each possible index, black where the file has none; empty without a palette.
     QByteArray palette;
-    QList<QByteArrayView> data; ///< The parts of the compressed pixels; they refer to the file's bytes.
-    ColorProfile profile;       ///< From iCCP, or else gAMA and cHRM; none for sRGB.
+    ColorProfile profile; ///< From iCCP, or else gAMA and cHRM; none for sRGB.
     ExifOrientation orientation;
     std::optional<double> resolution; ///< In pixels per inch.
     /// Whether the format defines this kind of pixels.
@@ -46,11 +46,14 @@ struct PngHeader
     /// Whether a PDF can embed the compressed pixels unchanged: opaque and not interlaced.
     bool isEmbeddable = false;
 
-    /// Reads untrusted bytes, which begin with a PNG signature and outlive the result. Unreadable chunks
-    /// count as missing. Damage found here never reaches libpng, which would report it on standard error.
+    /// Reads untrusted bytes, which begin with a PNG signature. Unreadable chunks count as missing. Damage
+    /// found here never reaches libpng, which would report it on standard error.
     static PngHeader read(QByteArrayView bytes);
-    /// Whether the compressed pixels are complete, without surplus. Decompresses them without keeping them.
-    bool hasAllPixels() const;
+    /// The parts of the compressed pixels of the same bytes, which outlive them.
+    static QList<QByteArrayView> pixelParts(QByteArrayView bytes);
+    /// Whether the compressed pixels of the same bytes are complete, without surplus. Decompresses them
+    /// without keeping them.
+    bool hasAllPixels(QByteArrayView bytes) const;
 };
 
 } // namespace printdialog

@@ -7,6 +7,10 @@
 
 #include <QtGui/QColorSpace>
 
+#include <algorithm>
+#include <deque>
+#include <mutex>
+
 namespace printdialog {
 namespace {
 
@@ -47,12 +51,25 @@ int componentsOf(cmsHPROFILE profile)
 
 } // namespace
 
+/// Thousands of photos mostly have one of a few profiles, which need not be in memory for each of them.
 ColorProfile ColorProfile::fromIcc(const QByteArray &icc)
 {
+    constexpr std::size_t most = 8;
+    static std::mutex mutex;
+    static std::deque<ColorProfile> recent;
+    const std::lock_guard lock(mutex);
+    const auto known = std::find_if(recent.cbegin(), recent.cend(),
+                                    [&icc](const ColorProfile &profile) { return profile.icc_ == icc; });
+    if (known != recent.cend() && !icc.isEmpty())
+        return *known;
     const Profile profile = opened(icc);
     ColorProfile result;
-    if (profile && (result.components_ = componentsOf(profile.get())) > 0)
-        result.icc_ = icc;
+    if (!profile || (result.components_ = componentsOf(profile.get())) == 0)
+        return {};
+    result.icc_ = icc;
+    recent.push_back(result);
+    if (recent.size() > most)
+        recent.pop_front();
     return result;
 }
 

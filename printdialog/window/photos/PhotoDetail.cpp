@@ -31,7 +31,7 @@ PhotoDetail::~PhotoDetail()
 
 bool PhotoDetail::setPhoto(const Photo &photo)
 {
-    const bool isSame = photo.path() == photo_.path() && photo.modified() == photo_.modified();
+    const bool isSame = photo.path() == photo_.path() && photo.identity() == photo_.identity();
     photo_ = photo;
     if (isSame)
         return false;
