@@ -47,6 +47,8 @@ void place(const Photo &photo)
                          "a PDF that was written is whole");
     const QImage preview = photo.preview({64, 48});
     fuzzing::require(preview.width() <= 64 && preview.height() <= 48, "a preview stays within its bound");
+    const QImage thumbnail = photo.thumbnail({32, 24});
+    fuzzing::require(thumbnail.width() <= 32 && thumbnail.height() <= 24, "so does a thumbnail");
     const QImage part = photo.part({0.25, 0.5, 0.5, 0.25}, {16 + selector, 48}).image;
     fuzzing::require(part.width() <= 16 + selector && part.height() <= 48, "a part is not larger than all");
 }

@@ -143,6 +143,7 @@ std::optional<Failure<PhotoFault>> Photo::inspectJpeg(JpegHeader header)
     storedSize_ = header.size;
     orientation_ = header.orientation;
     resolution_ = header.resolution;
+    taken_ = header.taken;
     // Decoders convert CMYK to RGB, so a profile must have as many components as the file's colors.
     if (ColorProfile profile = ColorProfile::fromIcc(header.iccProfile);
         profile.components() == header.components)
@@ -178,6 +179,7 @@ std::optional<Failure<PhotoFault>> Photo::inspectPng(const QByteArray &content)
             {}};
     orientation_ = header.orientation;
     resolution_ = header.resolution;
+    taken_ = header.taken;
     profile_ = header.profile;
     return std::nullopt;
 }
@@ -216,13 +218,16 @@ std::optional<Failure<PhotoFault>> Photo::inspectOther(const QByteArray &content
             (canvas.height() > 0 && canvas.height() != storedSize_.height()))
             return broken(QStringLiteral("the canvas and the frame differ in size"));
     } else if (format_ == "webp") {
-        orientation_ = ExifData::fromTiff(webpChunk(content, "EXIF")).orientation;
+        const ExifData data = ExifData::fromTiff(webpChunk(content, "EXIF"));
+        orientation_ = data.orientation;
+        taken_ = data.taken;
         profile_ = ColorProfile::fromIcc(webpChunk(content, "ICCP").toByteArray());
     } else if (format_ == "tiff") {
         const ExifData data = ExifData::fromTiff(content);
         if (data.isReduced)
             return PhotoFormat::ofCamera().failure(path_);
         resolution_ = data.resolution;
+        taken_ = data.taken;
         profile_ = ColorProfile::fromIcc(data.iccProfile);
     }
     return std::nullopt;

@@ -64,6 +64,9 @@ public:
     /// Which file it is, and in which state, as it was opened.
     FileIdentity identity() const { return content_ ? content_->identity() : FileIdentity(); }
     QDateTime modified() const; ///< In whole seconds, UTC.
+    /// When it was taken, by the camera's clock: a local time of an unknown zone. Nothing when the file, a
+    /// JPEG, PNG, TIFF or WebP, does not say.
+    std::optional<QDateTime> taken() const { return taken_; }
     QSize storedSize() const { return storedSize_; } ///< In pixels.
     ExifOrientation orientation() const { return orientation_; }
     QSize orientedSize() const { return orientation_.seenSize(storedSize_); } ///< In pixels, as seen.
@@ -94,6 +97,9 @@ public:
     /// The upright photo in sRGB, scaled down to the bound (in pixels) but never enlarged; a null image when
     /// it cannot be decoded. Takes a fraction of a second, so call it on a worker thread.
     QImage preview(const QSize &bound) const;
+    /// The same, and faster where the file holds a small copy of the picture that is large enough for the
+    /// bound and of the same shape: cameras also write ones with black bars, or cut.
+    QImage thumbnail(const QSize &bound) const;
     /// The same in the colors that are printed, those of pixelProfile(), so that adjustments can be worked
     /// out as for the printer. RGB32, composed on white. Colors other than RGB are converted to sRGB.
     QImage pixels(const QSize &bound) const;
@@ -126,6 +132,7 @@ private:
     QImage scaledWithin(const QSize &bound) const;
     QImage decodedPart(const ScaledPart &stored, const std::atomic<bool> *isGivenUp) const;
     QImage inPixelColors(const QImage &image) const;
+    QImage embeddedThumbnail(const QSize &bound) const;
     Failure<PhotoFault> truncated() const;
 
     QString path_;
@@ -134,6 +141,7 @@ private:
     QSize storedSize_;
     ExifOrientation orientation_;
     std::optional<double> resolution_;
+    std::optional<QDateTime> taken_;
     ColorProfile profile_;
     std::shared_ptr<const JpegHeader> jpeg_;
     std::shared_ptr<const PngHeader> png_;

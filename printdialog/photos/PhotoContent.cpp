@@ -72,4 +72,12 @@ Result<PhotoContent::Bytes, PhotoFault> PhotoContent::read()
     return bytes;
 }
 
+Result<QByteArray, PhotoFault> PhotoContent::read(qint64 offset, qint64 size) const
+{
+    const auto file = open();
+    if (!file)
+        return file.failure();
+    return file->part(offset, size);
+}
+
 } // namespace printdialog

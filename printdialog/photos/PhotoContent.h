@@ -36,6 +36,8 @@ public:
     /// The complete content. Faults: Changed when the path now leads to another file or the file was written
     /// to, and those of PhotoFile::open().
     Result<Bytes, PhotoFault> read();
+    /// A part of the content, not kept: at most `size` bytes from `offset` on. The same faults.
+    Result<QByteArray, PhotoFault> read(qint64 offset, qint64 size) const;
 
 private:
     Result<PhotoFile, PhotoFault> open() const;

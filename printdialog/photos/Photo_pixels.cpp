@@ -115,6 +115,38 @@ QImage Photo::preview(const QSize &bound) const
     return orientation_.applied(profile_.toScreen(scaledWithin(bound)));
 }
 
+QImage Photo::thumbnail(const QSize &bound) const
+{
+    const QImage embedded = embeddedThumbnail(bound);
+    return embedded.isNull() ? preview(bound) : embedded;
+}
+
+/// A null image when there is none that will do.
+QImage Photo::embeddedThumbnail(const QSize &bound) const
+{
+    constexpr int longestSide = 2048;
+    constexpr double largestDifference = 0.01; // from rounding to whole pixels
+    if (!jpeg_ || !jpeg_->thumbnail || bound.isEmpty())
+        return {};
+    const auto jpeg = content_->read(jpeg_->thumbnail->offset, jpeg_->thumbnail->size);
+    if (!jpeg)
+        return {};
+    ContentReader reader(*jpeg, format_);
+    const QSize size = reader->size();
+    const QSize wanted = storedSize_.scaled(orientation_.seenSize(bound), Qt::KeepAspectRatio)
+                             .expandedTo(QSize(1, 1))
+                             .boundedTo(storedSize_);
+    if (size.width() < wanted.width() || size.height() < wanted.height() ||
+        std::max(size.width(), size.height()) > longestSide)
+        return {};
+    const double stretch =
+        double(size.width()) * storedSize_.height() / (double(size.height()) * storedSize_.width());
+    if (std::abs(stretch - 1) > largestDifference)
+        return {};
+    const QImage image = reader->read().scaled(wanted, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    return orientation_.applied(profile_.toScreen(image));
+}
+
 QImage Photo::pixels(const QSize &bound) const
 {
     return orientation_.applied(inPixelColors(scaledWithin(bound)));

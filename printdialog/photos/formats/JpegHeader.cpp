@@ -3,8 +3,6 @@
 
 #include "JpegHeader.h"
 
-#include "ExifData.h"
-
 #include <cstring>
 #include <map>
 
@@ -134,6 +132,10 @@ private:
             const ExifData data = ExifData::fromTiff(content.sliced(exif.size()));
             header_.orientation = data.orientation;
             header_.resolution = data.resolution ? data.resolution : header_.resolution;
+            header_.taken = data.taken;
+            header_.thumbnail = data.thumbnail;
+            if (header_.thumbnail)
+                header_.thumbnail->offset += content.data() + exif.size() - bytes_.data();
         } else if (marker == App2 && content.size() > icc.size() + 2 && content.startsWith(icc)) {
             profileParts_.emplace(static_cast<quint8>(content[icc.size()]), content.sliced(icc.size() + 2));
             profileCount_ = static_cast<quint8>(content[icc.size() + 1]);

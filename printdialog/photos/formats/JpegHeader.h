@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "ExifOrientation.h"
+#include "ExifData.h"
 
 #include <QtCore/QByteArray>
 #include <QtCore/QByteArrayView>
@@ -28,6 +28,9 @@ struct JpegHeader
     ExifOrientation orientation;
     std::optional<double> resolution; ///< In pixels per inch, from Exif or else JFIF; see ExifData.
     QByteArray iccProfile;            ///< Unchecked; empty when there is none.
+    std::optional<QDateTime> taken;   ///< See ExifData.
+    /// Where the file has a small JPEG of the picture; see ExifData.
+    std::optional<ExifData::Range> thumbnail;
     /// Whether the values of a CMYK picture are inverted, as Adobe's programs store them.
     bool isInverted = false;
     /// Whether every PDF reader shows these bytes correctly: grey, color or CMYK of 8 bits, sequential or

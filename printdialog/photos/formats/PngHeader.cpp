@@ -173,7 +173,7 @@ private:
         else if (type == "pHYs" && content.size() >= 9)
             readResolution(content);
         else if (type == "eXIf")
-            header_.orientation = ExifData::fromTiff(content).orientation;
+            readExif(content);
         else if (type == "sRGB")
             isSrgb_ = true;
         else if (type == "gAMA" && content.size() >= 4)
@@ -194,6 +194,13 @@ private:
         type_ = static_cast<quint8>(content[9]);
         hasUsualMethods_ = content[10] == 0 && content[11] == 0;
         header_.isInterlaced = content[12] != 0;
+    }
+
+    void readExif(QByteArrayView content)
+    {
+        const ExifData data = ExifData::fromTiff(content);
+        header_.orientation = data.orientation;
+        header_.taken = data.taken;
     }
 
     void readResolution(QByteArrayView content)

@@ -8,6 +8,7 @@
 
 #include <QtCore/QByteArray>
 #include <QtCore/QByteArrayView>
+#include <QtCore/QDateTime>
 #include <QtCore/QList>
 #include <QtCore/QSize>
 
@@ -39,6 +40,7 @@ struct PngHeader
     QByteArray palette;
     ColorProfile profile; ///< From iCCP, or else gAMA and cHRM; none for sRGB.
     ExifOrientation orientation;
+    std::optional<QDateTime> taken;   ///< See ExifData.
     std::optional<double> resolution; ///< In pixels per inch.
     /// Whether the format defines this kind of pixels.
     bool isValid = false;

@@ -10,15 +10,22 @@
 namespace printdialog {
 namespace {
 
-enum Tag : quint32 {
+enum class ExifTag : quint32 {
     NewSubfileType = 0x00fe,
+    Compression = 0x0103,
     Orientation = 0x0112,
     XResolution = 0x011a,
     YResolution = 0x011b,
     ResolutionUnit = 0x0128,
+    DateTime = 0x0132,
+    JpegInterchangeFormat = 0x0201,
+    JpegInterchangeFormatLength = 0x0202,
+    ExifDirectory = 0x8769,
     InterColorProfile = 0x8773,
+    DateTimeOriginal = 0x9003,
 };
 
+constexpr quint32 typeAscii = 2;
 constexpr quint32 typeShort = 3;
 constexpr quint32 typeLong = 4;
 constexpr quint32 typeRational = 5;
@@ -31,6 +38,7 @@ struct Entry
     const TiffNumbers &numbers;
     qsizetype offset;
 
+    ExifTag tag() const { return ExifTag(numbers.at(offset, 2)); }
     quint32 type() const { return numbers.at(offset + 2, 2); }
     quint32 count() const { return numbers.at(offset + 4, 4); }
     qsizetype valueOffset() const { return numbers.at(offset + 8, 4); }
@@ -51,7 +59,67 @@ struct Entry
     {
         return type() == typeUndefined ? numbers.bytes(valueOffset(), count()) : QByteArray();
     }
+    /// "2026:11:26 12:45:00" and a null byte. Cameras whose clock is not set write zeros or spaces.
+    std::optional<QDateTime> time() const
+    {
+        constexpr quint32 length = 20;
+        if (type() != typeAscii || count() != length)
+            return std::nullopt;
+        const QByteArray text = numbers.bytes(valueOffset(), length - 1);
+        const QDateTime time =
+            QDateTime::fromString(QString::fromLatin1(text), QStringLiteral("yyyy:MM:dd HH:mm:ss"));
+        return time.isValid() ? std::optional(time) : std::nullopt;
+    }
 };
+
+/// The entries of one directory.
+class EntryList
+{
+public:
+    EntryList(const TiffNumbers &numbers, qsizetype offset)
+        : numbers_(numbers)
+        , offset_(offset)
+        , count_(offset == 0 ? 0 : static_cast<qsizetype>(numbers.at(offset, 2)))
+    {
+    }
+
+    qsizetype count() const { return count_; }
+    Entry at(qsizetype index) const { return {numbers_, offset_ + 2 + index * entrySize}; }
+    qsizetype next() const { return numbers_.at(offset_ + 2 + count_ * entrySize, 4); }
+
+private:
+    const TiffNumbers &numbers_;
+    qsizetype offset_;
+    qsizetype count_;
+};
+
+std::optional<QDateTime> originalTime(const EntryList &exif)
+{
+    for (qsizetype i = 0; i < exif.count(); ++i) {
+        if (exif.at(i).tag() == ExifTag::DateTimeOriginal)
+            return exif.at(i).time();
+    }
+    return std::nullopt;
+}
+
+std::optional<ExifData::Range> thumbnailOf(const EntryList &directory, qsizetype size)
+{
+    constexpr int jpeg = 6;
+    ExifData::Range range;
+    bool isJpeg = false;
+    for (qsizetype i = 0; i < directory.count(); ++i) {
+        const Entry entry = directory.at(i);
+        if (entry.tag() == ExifTag::Compression)
+            isJpeg = entry.shortNumber() == jpeg;
+        else if (entry.tag() == ExifTag::JpegInterchangeFormat)
+            range.offset = entry.longNumber();
+        else if (entry.tag() == ExifTag::JpegInterchangeFormatLength)
+            range.size = entry.longNumber();
+    }
+    if (!isJpeg || range.offset == 0 || range.size == 0 || range.size > size - range.offset)
+        return std::nullopt;
+    return range;
+}
 
 } // namespace
 
@@ -67,33 +135,42 @@ ExifData ExifData::fromTiff(QByteArrayView tiff)
     double horizontal = 0;
     double vertical = 0;
     int unit = inch;
-    const qsizetype directory = numbers.at(4, 4);
-    const auto count = static_cast<qsizetype>(numbers.at(directory, 2));
-    for (qsizetype i = 0; i < count; ++i) {
-        const Entry entry{numbers, directory + 2 + i * entrySize};
-        switch (numbers.at(entry.offset, 2)) {
-        case NewSubfileType:
+    std::optional<QDateTime> original;
+    const EntryList first(numbers, numbers.at(4, 4));
+    for (qsizetype i = 0; i < first.count(); ++i) {
+        const Entry entry = first.at(i);
+        switch (entry.tag()) {
+        case ExifTag::NewSubfileType:
             data.isReduced = (entry.longNumber() & 1) != 0;
             break;
-        case Orientation:
+        case ExifTag::Orientation:
             data.orientation = ExifOrientation::fromValue(entry.shortNumber());
             break;
-        case XResolution:
+        case ExifTag::XResolution:
             horizontal = entry.rational();
             break;
-        case YResolution:
+        case ExifTag::YResolution:
             vertical = entry.rational();
             break;
-        case ResolutionUnit:
+        case ExifTag::ResolutionUnit:
             unit = entry.shortNumber();
             break;
-        case InterColorProfile:
+        case ExifTag::DateTime:
+            data.taken = entry.time();
+            break;
+        case ExifTag::ExifDirectory:
+            original = originalTime({numbers, entry.longNumber()});
+            break;
+        case ExifTag::InterColorProfile:
             data.iccProfile = entry.bytes();
             break;
         default:
             break;
         }
     }
+    if (original)
+        data.taken = original;
+    data.thumbnail = thumbnailOf({numbers, first.next()}, tiff.size());
     const double perInch = unit == centimetre ? centimetresPerInch : 1;
     if (unit == inch || unit == centimetre)
         data.resolution = plausibleResolution(horizontal * perInch, vertical * perInch);
