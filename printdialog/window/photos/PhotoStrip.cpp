@@ -9,6 +9,7 @@
 
 #include <QtCore/QPointer>
 #include <QtCore/QSignalBlocker>
+#include <QtCore/QThreadPool>
 #include <QtGui/QDropEvent>
 #include <QtGui/QKeyEvent>
 #include <QtWidgets/QScrollBar>
@@ -24,13 +25,52 @@ constexpr QSize thumbnailSize(72, 54);
 constexpr int photoPadding = 6;
 constexpr qsizetype nameLimit = 60;
 
-/// The key of a photo's thumbnail. Includes the time, since a file may be replaced under the same name.
-QString keyOf(const Photo &photo)
-{
-    return photo.path() + u'\n' + QString::number(photo.modified().toMSecsSinceEpoch());
-}
+constexpr int thumbnailsKept = 12 << 20; // bytes
+constexpr int margin = 4;                // photos on each side of those that are seen
 
 } // namespace
+
+/// A photo whose thumbnail is made when the view asks for it.
+class PhotoStrip::Item : public QListWidgetItem
+{
+public:
+    Item(const Photo &photo, PhotoStrip *strip)
+        : QListWidgetItem(strip)
+        , strip_(strip)
+        , photo_(photo)
+    {
+        setToolTip(pdekit::plainToolTip(name()));
+        setSizeHint(strip->gridSize()); // without a thumbnail, an item would have no size
+        setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsDragEnabled);
+    }
+
+    const Photo &photo() const { return photo_; }
+    bool shows(const Photo &photo) const
+    {
+        return photo.identity() == photo_.identity() && photo.path() == photo_.path();
+    }
+
+    QVariant data(int role) const override
+    {
+        if (role == Qt::AccessibleTextRole)
+            return PhotoStrip::tr("%1, photo %2 of %3")
+                .arg(name())
+                .arg(strip_->row(this) + 1)
+                .arg(strip_->count());
+        if (role != Qt::DecorationRole)
+            return QListWidgetItem::data(role);
+        if (const QPixmap *known = strip_->thumbnails_.object(photo_.identity()))
+            return QIcon(*known);
+        strip_->want(strip_->row(this));
+        return {};
+    }
+
+private:
+    QString name() const { return plainText(photo_.fileName(), nameLimit); }
+
+    PhotoStrip *strip_;
+    Photo photo_;
+};
 
 PhotoStrip::PhotoStrip(QWidget *parent)
     : QListWidget(parent)
@@ -48,6 +88,7 @@ PhotoStrip::PhotoStrip(QWidget *parent)
     setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    thumbnails_.setMaxCost(thumbnailsKept);
     setAccessibleDescription(tr("Delete removes a photo; Alt with an arrow key moves it."));
     connect(this, &QListWidget::currentRowChanged, this, [this](int row) {
         if (row >= 0)
@@ -59,62 +100,91 @@ void PhotoStrip::setPhotos(const QList<Photo> &photos, int current)
 {
     setAccessibleName(tr("%n photo(s) of this job", nullptr, static_cast<int>(photos.size())));
     const QSignalBlocker blocker(this);
-    bool isShown = count() == photos.size();
-    for (int row = 0; isShown && row < count(); ++row)
-        isShown = item(row)->data(Qt::UserRole).toString() == keyOf(photos.at(row));
-    if (isShown) // the view may be in the middle of changing the current item
-        return setCurrentRow(current);
-    clear();
-    QHash<QString, QPixmap> kept;
-    for (const Photo &photo : photos) {
-        if (const auto known = thumbnails_.constFind(keyOf(photo)); known != thumbnails_.constEnd())
-            kept.insert(known.key(), known.value());
+    int same = 0;
+    while (same < qMin(count(), static_cast<int>(photos.size())) && itemAt(same)->shows(photos.at(same)))
+        ++same;
+    if (same < count()) {
+        clear();
+        wanted_.clear();
+        same = 0;
     }
-    thumbnails_ = kept;
-    for (qsizetype i = 0; i < photos.size(); ++i)
-        addPhoto(photos.at(i), static_cast<int>(i) + 1, static_cast<int>(photos.size()));
-    setCurrentRow(current);
+    for (; same < static_cast<int>(photos.size()); ++same)
+        new Item(photos.at(same), this);
+    setCurrentRow(current); // also in the middle of changing the current item
 }
 
-void PhotoStrip::addPhoto(const Photo &photo, int number, int count)
+PhotoStrip::Item *PhotoStrip::itemAt(int row) const
 {
-    const QString name = plainText(photo.fileName(), nameLimit);
-    auto *item = new QListWidgetItem(this);
-    item->setData(Qt::UserRole, keyOf(photo));
-    item->setData(Qt::AccessibleTextRole, tr("%1, photo %2 of %3").arg(name).arg(number).arg(count));
-    item->setToolTip(pdekit::plainToolTip(name));
-    item->setSizeHint(gridSize()); // without a thumbnail, an item would have no size
-    item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsDragEnabled);
-    if (const auto known = thumbnails_.constFind(keyOf(photo)); known != thumbnails_.constEnd())
-        item->setIcon(QIcon(known.value()));
-    else
-        makeThumbnail(photo);
+    return static_cast<Item *>(item(row));
+}
+
+bool PhotoStrip::isReady() const
+{
+    bool isReady = true;
+    for (int row = 0; row < count(); ++row) {
+        if (visualItemRect(item(row)).intersects(viewport()->rect()))
+            isReady = !item(row)->data(Qt::DecorationRole).isNull() && isReady;
+    }
+    return isReady;
+}
+
+bool PhotoStrip::isNearlySeen(const Item &item) const
+{
+    const int around = margin * gridSize().width();
+    return visualItemRect(&item).intersects(viewport()->rect().adjusted(-around, -around, around, around));
+}
+
+/// Called while painting, so the work begins later: first with this photo, and with its neighbours at the
+/// end.
+void PhotoStrip::want(int row)
+{
+    if (underWay_.contains(itemAt(row)->photo().identity()))
+        return;
+    if (wanted_.isEmpty())
+        QMetaObject::invokeMethod(this, &PhotoStrip::makeThumbnails, Qt::QueuedConnection);
+    wanted_.removeOne(row);
+    wanted_.append(row);
+    for (int next = qMax(0, row - margin); next <= qMin(row + margin, count() - 1); ++next) {
+        if (!wanted_.contains(next))
+            wanted_.prepend(next);
+    }
+}
+
+/// Only as many as there are threads are under way, so that what comes into view waits for nothing that is
+/// out of it again.
+void PhotoStrip::makeThumbnails()
+{
+    const int most = photoThreads().maxThreadCount();
+    while (!wanted_.isEmpty() && underWay_.size() < most) {
+        const Item *item = itemAt(wanted_.takeLast());
+        if (item && isNearlySeen(*item) && !thumbnails_.contains(item->photo().identity()) &&
+            !underWay_.contains(item->photo().identity()))
+            makeThumbnail(item->photo());
+    }
 }
 
 void PhotoStrip::makeThumbnail(const Photo &photo)
 {
-    const QString key = keyOf(photo);
-    thumbnails_.insert(key, QPixmap());
-    ++pending_;
+    underWay_.insert(photo.identity());
     const double ratio = devicePixelRatioF();
-    const auto make = [photo, key, ratio, self = QPointer<PhotoStrip>(this)] {
-        QImage image = photo.preview((QSizeF(thumbnailSize) * ratio).toSize());
+    const auto make = [photo, ratio, self = QPointer<PhotoStrip>(this)] {
+        QImage image = photo.thumbnail((QSizeF(thumbnailSize) * ratio).toSize());
         image.setDevicePixelRatio(ratio);
-        QMetaObject::invokeMethod(qApp, [self, key, image] {
-            if (!self)
-                return;
-            --self->pending_;
-            if (!self->thumbnails_.contains(key))
-                return;
-            const QPixmap pixmap = QPixmap::fromImage(image);
-            self->thumbnails_.insert(key, pixmap);
-            for (int row = 0; row < self->count(); ++row) {
-                if (self->item(row)->data(Qt::UserRole).toString() == key)
-                    self->item(row)->setIcon(QIcon(pixmap));
-            }
+        QMetaObject::invokeMethod(qApp, [self, identity = photo.identity(), image] {
+            if (self)
+                self->showThumbnail(identity, image);
         });
     };
     startPhotoTask(make, ThumbnailPhoto);
+}
+
+void PhotoStrip::showThumbnail(const FileIdentity &identity, const QImage &image)
+{
+    underWay_.remove(identity);
+    thumbnails_.insert(identity, new QPixmap(QPixmap::fromImage(image)),
+                       static_cast<qsizetype>(image.sizeInBytes()) + 1);
+    viewport()->update();
+    makeThumbnails();
 }
 
 QSize PhotoStrip::sizeHint() const

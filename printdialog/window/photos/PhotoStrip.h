@@ -5,7 +5,10 @@
 
 #include "Photo.h"
 
+#include <QtCore/QCache>
 #include <QtCore/QList>
+#include <QtCore/QSet>
+#include <QtGui/QPixmap>
 #include <QtWidgets/QListWidget>
 
 namespace printdialog {
@@ -21,11 +24,11 @@ class PhotoStrip : public QListWidget
 public:
     explicit PhotoStrip(QWidget *parent = nullptr);
 
-    /// Thumbnails arrive later, from worker threads.
+    /// Thumbnails arrive later, from worker threads: those of photos that are seen, or nearly, and no others.
     void setPhotos(const QList<Photo> &photos, int current);
 
-    /// Whether all thumbnails are made.
-    bool isReady() const { return pending_ == 0; }
+    /// Whether the thumbnails of all photos that are seen are made.
+    bool isReady() const;
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
@@ -42,12 +45,19 @@ protected:
     void dragMoveEvent(QDragMoveEvent *event) override;
 
 private:
-    void addPhoto(const Photo &photo, int number, int count);
+    class Item;
+
+    Item *itemAt(int row) const;
+    bool isNearlySeen(const Item &item) const;
+    void want(int row);
+    void makeThumbnails();
     void makeThumbnail(const Photo &photo);
+    void showThumbnail(const FileIdentity &identity, const QImage &image);
     bool isOwnDrag(const QDropEvent &event) const;
 
-    QHash<QString, QPixmap> thumbnails_; ///< by path and time; null while one is being made
-    int pending_ = 0;
+    QCache<FileIdentity, QPixmap> thumbnails_; ///< those used last; null where a photo has none
+    QList<int> wanted_;                        ///< rows; the last one is made first
+    QSet<FileIdentity> underWay_;
 };
 
 } // namespace printdialog
