@@ -15,6 +15,7 @@
 #include <QtWidgets/QApplication>
 
 #include <chrono>
+#include <utility>
 
 namespace printdialog {
 
@@ -96,6 +97,12 @@ int runScreenshot(const CommandLine &commandLine, QApplication &application)
         return static_cast<int>(exitFailed);
     };
     auto setup = windowSetup(commandLine);
+    for (const QString &path : std::exchange(setup.furtherPaths, {})) {
+        if (const auto photo = Photo::open(path))
+            setup.photos.append(*photo);
+        else
+            setup.photoFailures.append(photo.failure().text);
+    }
     if (!setup.photoFailures.isEmpty())
         return endWith(Console::oneLine(setup.photoFailures));
     // Problems that the dialog only shows in its window (a refused choice, a missing plug-in) are failures

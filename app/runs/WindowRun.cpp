@@ -16,8 +16,9 @@ namespace printdialog {
 PrintDialogSetup windowSetup(const CommandLine &commandLine)
 {
     PrintDialogSetup setup;
-    for (const QString &path : commandLine.photos) {
-        if (const auto photo = Photo::open(path))
+    setup.furtherPaths = commandLine.photos;
+    while (setup.photos.isEmpty() && !setup.furtherPaths.isEmpty()) {
+        if (const auto photo = Photo::open(setup.furtherPaths.takeFirst()))
             setup.photos.append(*photo);
         else
             setup.photoFailures.append(photo.failure().text);

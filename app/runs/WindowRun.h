@@ -10,7 +10,8 @@ class QApplication;
 
 namespace printdialog {
 
-/// The setup of a window for the command line; its photos are opened if possible.
+/// The setup of a window for the command line. Its photos are opened up to the first one that can be; the
+/// window opens the others.
 PrintDialogSetup windowSetup(const CommandLine &commandLine);
 
 /// Shows the dialog until the user closes it. Returns the exit status.

@@ -100,8 +100,13 @@ PrintDialog::PrintDialog(const PrintDialogSetup &setup, QWidget *parent)
     connect(ui_->photos, &PhotoPane::photosChanged, ui_->panels, &PanelTabs::updateSummary);
     connect(ui_->photos, &PhotoPane::photosChanged, this, &PrintDialog::showPhoto);
     connect(ui_->photos, &PhotoPane::failed, this,
-            [this](const QString &text) { ui_->message->show(MessageBar::Kind::Error, text); });
-    ui_->photos->setPhotos(setup.photos, setup.placement);
+            [this](PhotoOpener::Use use, const QStringList &sentences) {
+                const bool isInitial = use == PhotoOpener::Use::Initial;
+                if (isInitial)
+                    setup_.photoFailures += sentences;
+                showPhotoFailures(isInitial ? setup_.photoFailures : sentences);
+            });
+    ui_->photos->setPhotos(setup.photos, setup.placement, setup.furtherPaths);
     showPhoto();
     followPrinter();
     printer_->start(ui_->printer);
@@ -201,6 +206,19 @@ void PrintDialog::showPhoto()
                        ? tr("Print Photo")
                        : tr("Print %1").arg(plainText(photos.at(ui_->photos->current()).photo.fileName())));
     updateButtons();
+}
+
+void PrintDialog::showPhotoFailures(const QStringList &sentences)
+{
+    MessageBar::Message message;
+    message.kind = MessageBar::Kind::Error;
+    message.text = PhotoPane::failureText(sentences);
+    const QString all = sentences.join(u'\n');
+    message.details = all == message.text ? QString() : all;
+    if (ui_->message->isAsking())
+        ui_->message->append(message.text);
+    else
+        ui_->message->show(message);
 }
 
 void PrintDialog::browseFolder()

@@ -39,6 +39,7 @@ class PrintingController;
 struct PrintDialogSetup
 {
     QList<Photo> photos;
+    QStringList furtherPaths;  ///< files of further photos, opened while the window is there
     QStringList photoFailures; ///< a sentence for each photo that could not be opened
     PanelMode mode = PanelMode::Constraint;
     std::optional<Destination> printer;     ///< the default one when empty
@@ -126,6 +127,7 @@ private:
 
     SummaryEntries summary() const;
     void showPhoto();
+    void showPhotoFailures(const QStringList &sentences);
     void browseFolder();
     void showHelp();
 

@@ -16,6 +16,8 @@ namespace printdialog {
 void PrintDialog::updateButtons()
 {
     QString reason = printer_->whyNotReady();
+    if (reason.isEmpty() && ui_->photos->isOpening())
+        reason = tr("Photos are still being opened.");
     if (reason.isEmpty() && ui_->photos->photos().isEmpty())
         reason = tr("There is no photo to print.");
     if (reason.isEmpty() && printing_->isBusy())
@@ -31,8 +33,8 @@ void PrintDialog::updateButtons()
 
 void PrintDialog::print()
 {
-    if (!isReady() || printing_->isBusy() || ui_->photos->photos().isEmpty() || pageStays() ||
-        !ui_->customPage->finish())
+    if (!isReady() || printing_->isBusy() || ui_->photos->isOpening() || ui_->photos->photos().isEmpty() ||
+        pageStays() || !ui_->customPage->finish())
         return;
     if (!printing_->print(ui_->copies->value(), ui_->folder->text(), printer_->queue()))
         return;

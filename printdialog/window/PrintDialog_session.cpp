@@ -59,7 +59,7 @@ void PrintDialog::clearMessage()
 {
     ui_->message->clear();
     if (!setup_.photoFailures.isEmpty() && !printer_->wasChosenHere())
-        ui_->message->show(MessageBar::Kind::Error, setup_.photoFailures.join(u'\n'));
+        showPhotoFailures(setup_.photoFailures);
 }
 
 void PrintDialog::showUnusable()

@@ -2969,6 +2969,13 @@ Foto sein Blatt; auch „,gap=2mm“ und „,marks“ für Schnittmarken</transl
         <source>The printer places it on the page itself; the preview is only an example.</source>
         <translation>Der Drucker setzt es selbst auf die Seite; die Vorschau ist nur ein Beispiel.</translation>
     </message>
+    <message numerus="yes">
+        <source>%n more file(s) cannot be printed.</source>
+        <translation>
+            <numerusform>%n weitere Datei lässt sich nicht drucken.</numerusform>
+            <numerusform>%n weitere Dateien lassen sich nicht drucken.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>printdialog::PhotoStrip</name>
@@ -3358,6 +3365,10 @@ Foto sein Blatt; auch „,gap=2mm“ und „,marks“ für Schnittmarken</transl
         <source>%1 (not loaded)</source>
         <comment>a paper size</comment>
         <translation>%1 (nicht eingelegt)</translation>
+    </message>
+    <message>
+        <source>Photos are still being opened.</source>
+        <translation>Es werden noch Fotos geöffnet.</translation>
     </message>
 </context>
 <context>

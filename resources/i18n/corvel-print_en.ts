@@ -12,6 +12,16 @@
     </message>
 </context>
 <context>
+    <name>printdialog::PhotoPane</name>
+    <message numerus="yes">
+        <source>%n more file(s) cannot be printed.</source>
+        <translation>
+            <numerusform>%n more file cannot be printed.</numerusform>
+            <numerusform>%n more files cannot be printed.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>printdialog::PhotoStrip</name>
     <message numerus="yes">
         <source>%n photo(s) of this job</source>

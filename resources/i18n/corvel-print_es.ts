@@ -2968,6 +2968,13 @@ hoja; también «,gap=2mm», y «,marks» para las marcas de corte</translation>
         <source>The printer places it on the page itself; the preview is only an example.</source>
         <translation>La impresora la coloca ella misma en la página; la vista previa es solo un ejemplo.</translation>
     </message>
+    <message numerus="yes">
+        <source>%n more file(s) cannot be printed.</source>
+        <translation>
+            <numerusform>No se puede imprimir %n archivo más.</numerusform>
+            <numerusform>No se pueden imprimir %n archivos más.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>printdialog::PhotoStrip</name>
@@ -3357,6 +3364,10 @@ hoja; también «,gap=2mm», y «,marks» para las marcas de corte</translation>
         <source>%1 (not loaded)</source>
         <comment>a paper size</comment>
         <translation>%1 (no cargado)</translation>
+    </message>
+    <message>
+        <source>Photos are still being opened.</source>
+        <translation>Aún se están abriendo fotos.</translation>
     </message>
 </context>
 <context>

@@ -2970,6 +2970,13 @@ photo remplit sa feuille&#x202f;; aussi «&#x202f;,gap=2mm&#x202f;», et «&#x20
         <source>The printer places it on the page itself; the preview is only an example.</source>
         <translation>L’imprimante la place elle-même sur la page&#x202f;; l’aperçu n’est qu’un exemple.</translation>
     </message>
+    <message numerus="yes">
+        <source>%n more file(s) cannot be printed.</source>
+        <translation>
+            <numerusform>%n autre fichier ne peut pas être imprimé.</numerusform>
+            <numerusform>%n autres fichiers ne peuvent pas être imprimés.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>printdialog::PhotoStrip</name>
@@ -3359,6 +3366,10 @@ photo remplit sa feuille&#x202f;; aussi «&#x202f;,gap=2mm&#x202f;», et «&#x20
         <source>%1 (not loaded)</source>
         <comment>a paper size</comment>
         <translation>%1 (non chargé)</translation>
+    </message>
+    <message>
+        <source>Photos are still being opened.</source>
+        <translation>Des photos sont encore en cours d’ouverture.</translation>
     </message>
 </context>
 <context>

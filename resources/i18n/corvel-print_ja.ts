@@ -2967,6 +2967,12 @@ contact:行x列 はコンタクトシート。strips または strips:数 は 2 
         <source>The printer places it on the page itself; the preview is only an example.</source>
         <translation>配置はプリンターが決めます。プレビューは一例です。</translation>
     </message>
+    <message numerus="yes">
+        <source>%n more file(s) cannot be printed.</source>
+        <translation>
+            <numerusform>ほかに %n 個のファイルを印刷できません。</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>printdialog::PhotoStrip</name>
@@ -3354,6 +3360,10 @@ contact:行x列 はコンタクトシート。strips または strips:数 は 2 
         <source>%1 (not loaded)</source>
         <comment>a paper size</comment>
         <translation>%1（未装着）</translation>
+    </message>
+    <message>
+        <source>Photos are still being opened.</source>
+        <translation>写真をまだ開いています。</translation>
     </message>
 </context>
 <context>

@@ -111,6 +111,7 @@ private Q_SLOTS:
     void photosGiveWay();
     void placementByControls();
     void strip();
+    void manyPhotos();
     void droppedFiles();
 };
 
@@ -364,6 +365,54 @@ void PhotoPaneTest::strip()
     QCOMPARE(QTextDocumentFragment::fromHtml(strip->item(1)->toolTip()).toPlainText(), u"<img src=x>.jpg"_s);
 }
 
+// They come in their order and in few steps, and only those that are seen get a thumbnail.
+void PhotoPaneTest::manyPhotos()
+{
+    constexpr int count = 300;
+    const Photo first = photoOf(u"0.jpg"_s, QSize(30, 20));
+    QStringList names = {u"0.jpg"_s};
+    QStringList further;
+    for (int i = 1; i < count; ++i) {
+        names += u"%1.jpg"_s.arg(i);
+        QVERIFY(QFile::exists(pathOf(names.last())) || QFile::copy(first.path(), pathOf(names.last())));
+        further += pathOf(names.last());
+    }
+    for (int i = 0; i < 5; ++i)
+        further.insert(i * 50, pathOf(u"none%1.jpg"_s.arg(i)));
+    const auto pane = std::make_unique<PhotoPane>();
+    pane->resize(500, 600);
+    pane->setPage(bordered);
+    int steps = 0;
+    QStringList failures;
+    connect(pane.get(), &PhotoPane::photosChanged, pane.get(), [&steps] { ++steps; });
+    connect(pane.get(), &PhotoPane::failed, pane.get(),
+            [&failures](PhotoOpener::Use, const QStringList &sentences) { failures += sentences; });
+    pane->setPhotos({first}, {Scaling::Fill, 1, {0.1, 0.2}}, further);
+    QVERIFY(pane->isOpening());
+    pane->QWidget::show();
+    QTRY_VERIFY(!pane->isOpening());
+    QVERIFY2(steps < count / 10, qPrintable(QString::number(steps)));
+    QCOMPARE(namesIn(*pane), names);
+    QCOMPARE(pane->photos().constLast().placement, (PlacementChoice{Scaling::Fill, 1, {0.1, 0.2}}));
+    QCOMPARE(pane->current(), 0);
+    QCOMPARE(failures.size(), 5);
+    const QStringList lines = PhotoPane::failureText(failures).split(u'\n');
+    QCOMPARE(lines.size(), 4);
+    QVERIFY(lines[0].contains(u"none0.jpg"_s) && lines[2].contains(u"none2.jpg"_s));
+    QVERIFY2(lines[3].startsWith(u"2 more"_s), qPrintable(lines[3]));
+
+    auto *strip = pane->findChild<PhotoStrip *>();
+    const auto made = [strip](int row) {
+        return !strip->item(row)->icon().isNull();
+    };
+    QTRY_VERIFY(pane->isReady() && made(0));
+    QVERIFY(!made(150) && !made(count - 1));
+    strip->setFocus();
+    QTest::keyClick(strip, Qt::Key_End);
+    QTRY_VERIFY(pane->isReady() && made(count - 1));
+    QVERIFY(!made(150));
+}
+
 void PhotoPaneTest::droppedFiles()
 {
     PhotoPane pane;
@@ -374,7 +423,9 @@ void PhotoPaneTest::droppedFiles()
     QCOMPARE(::rename(QFile::encodeName(pathOf(u"source.jpg"_s)).constData(), odd.constData()), 0);
     samples::store(pathOf(u"text.txt"_s), "Dear all,");
     QString failures;
-    connect(&pane, &PhotoPane::failed, &pane, [&failures](const QString &text) { failures = text; });
+    connect(&pane, &PhotoPane::failed, &pane, [&failures](PhotoOpener::Use, const QStringList &sentences) {
+        failures = sentences.join(u'\n');
+    });
     drop(pane, {QUrl(u"https://example.org/b.jpg"_s)});
     drop(pane, {QUrl::fromLocalFile(pathOf(u"text.txt"_s)),
                 QUrl::fromEncoded("file://" + odd.toPercentEncoding("/"))});

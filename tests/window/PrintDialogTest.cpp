@@ -4,9 +4,13 @@
 #include "PrintDialogTest.h"
 #include "TestMain.h"
 
+#include "PhotoThreads.h"
 #include "PrintWorker.h"
 
 #include <QtCore/QDir>
+#include <QtCore/QScopeGuard>
+#include <QtCore/QSemaphore>
+#include <QtCore/QThreadPool>
 #include <QtTest/QSignalSpy>
 #include <QtWidgets/QAbstractItemView>
 
@@ -83,6 +87,30 @@ void PrintDialogTest::changedPhotoIsLeftOut()
     QVERIFY2(opened.message().contains(u"other.jpg\" has changed since it was opened. Add it again."_s),
              qPrintable(opened.message()));
     QVERIFY(!QFile::exists(opened.folder.filePath(u"out/other.pdf"_s)));
+}
+
+void PrintDialogTest::printsAllPhotosOrNone()
+{
+    QSemaphore opening;
+    const int threads = photoThreads().maxThreadCount();
+    const auto release = qScopeGuard([&] {
+        opening.release(threads);
+        photoThreads().waitForDone();
+    });
+    for (int i = 0; i < threads; ++i)
+        startPhotoTask([&opening] { opening.acquire(); }, ShownPhoto);
+    PrintDialogSetup setup = setupFor(mode_);
+    setup.furtherPaths = {QStringLiteral(CORVEL_SAMPLE_PHOTO), config_->filePath(u"none.jpg"_s)};
+    const OpenedDialog opened(setup);
+    auto *print = opened.find<QPushButton>(u"print"_s);
+    QVERIFY(!print->isEnabled() && print->toolTip().contains(u"opened"_s));
+    opened.press(Qt::Key_P, Qt::ControlModifier);
+    QVERIFY(!opened.isSeen(u"progress"_s));
+    opening.release(threads);
+    QTRY_VERIFY(print->isEnabled());
+    QVERIFY2(opened.message().contains(u"none.jpg"_s), qPrintable(opened.message()));
+    QVERIFY(opened.prints());
+    QTRY_VERIFY2(opened.message().startsWith(u"Printed 2 photos"_s), qPrintable(opened.message()));
 }
 
 void PrintDialogTest::printsByKeyFromAnywhere()

@@ -15,6 +15,7 @@ private Q_SLOTS:
     void printsWhatTheUserChose();
     void damagedPhoto();
     void changedPhotoIsLeftOut();
+    void printsAllPhotosOrNone();
     void printsByKeyFromAnywhere();
     void pagesTurnFromAnywhere();
     void openingOptionsAreShown();

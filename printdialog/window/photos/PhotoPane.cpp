@@ -44,6 +44,7 @@ PhotoPane::PhotoPane(QWidget *parent)
     , add_(new QPushButton(tr("A&dd…"), this))
     , remove_(new QPushButton(tr("Re&move"), this))
     , strip_(new PhotoStrip(this))
+    , opener_(new PhotoOpener(this))
     , screens_(new ScreenProfiles(screenProfileProgram(), this))
 {
     preview_->setMinimumSize(smallestPreview);
@@ -84,12 +85,20 @@ PhotoPane::PhotoPane(QWidget *parent)
     connect(strip_, &PhotoStrip::picked, this, &PhotoPane::setCurrent);
     connect(strip_, &PhotoStrip::removalWanted, this, &PhotoPane::removePhoto);
     connect(strip_, &PhotoStrip::moveWanted, this, &PhotoPane::movePhoto);
+    connect(opener_, &PhotoOpener::opened, this, &PhotoPane::append);
+    // After the photos, since these are what the user sees first.
+    connect(opener_, &PhotoOpener::finished, this, [this](PhotoOpener::Use use, const QStringList &failures) {
+        Q_EMIT photosChanged();
+        if (!failures.isEmpty())
+            Q_EMIT failed(use, failures);
+    });
     connect(add_, &QPushButton::clicked, this, &PhotoPane::browse);
     connect(remove_, &QPushButton::clicked, this, [this] { removePhoto(current_); });
     show();
 }
 
-void PhotoPane::setPhotos(const QList<Photo> &photos, const PlacementChoice &placement)
+void PhotoPane::setPhotos(const QList<Photo> &photos, const PlacementChoice &placement,
+                          const QStringList &furtherPaths)
 {
     initial_ = placement;
     arrangement_.photos.clear();
@@ -99,6 +108,7 @@ void PhotoPane::setPhotos(const QList<Photo> &photos, const PlacementChoice &pla
     }
     current_ = arrangement_.photos.isEmpty() ? -1 : 0;
     show();
+    opener_->open(furtherPaths, PhotoOpener::Use::Initial);
 }
 
 void PhotoPane::setPage(const PageGeometry &page)
@@ -150,34 +160,31 @@ void PhotoPane::showEvent(QShowEvent *event)
 
 void PhotoPane::addFiles(const QStringList &paths)
 {
-    const auto open = [paths, self = QPointer<PhotoPane>(this)] {
-        QList<Photo> opened;
-        QStringList failures;
-        for (const QString &path : paths) {
-            const auto photo = Photo::open(path);
-            if (photo)
-                opened.append(*photo);
-            else
-                failures.append(photo.failure().text);
-        }
-        QMetaObject::invokeMethod(qApp, [self, opened, failures] {
-            if (!self)
-                return;
-            // Before the message that follows, since the photos are what the user sees of it.
-            const PlacementChoice placement =
-                self->current_ < 0 ? self->initial_ : self->arrangement_.photos.at(self->current_).placement;
-            const auto first = static_cast<int>(self->arrangement_.photos.size());
-            for (const Photo &photo : opened) {
-                self->arrangement_.photos.append({photo, {placement.scaling, 0, PlacementChoice().crop}});
-                self->check(photo);
-            }
-            if (!opened.isEmpty())
-                self->setCurrent(first);
-            if (!failures.isEmpty())
-                Q_EMIT self->failed(failures.join(u'\n'));
-        });
-    };
-    startPhotoTask(open, ShownPhoto);
+    opener_->open(paths, PhotoOpener::Use::Added);
+}
+
+void PhotoPane::append(const PhotoOpener::Batch &batch)
+{
+    const PlacementChoice &like = current_ < 0 ? initial_ : arrangement_.photos.at(current_).placement;
+    const PlacementChoice placement = batch.use == PhotoOpener::Use::Initial
+                                          ? initial_
+                                          : PlacementChoice{like.scaling, 0, PlacementChoice().crop};
+    const auto first = static_cast<int>(arrangement_.photos.size());
+    for (const Photo &photo : batch.photos) {
+        arrangement_.photos.append({photo, placement});
+        check(photo);
+    }
+    const bool showsIt = current_ < 0 || (batch.use == PhotoOpener::Use::Added && batch.isFirst);
+    setCurrent(showsIt ? first : current_);
+}
+
+QString PhotoPane::failureText(const QStringList &sentences)
+{
+    constexpr int most = 3;
+    QStringList lines = sentences.first(qMin<qsizetype>(most, sentences.size()));
+    if (const auto others = static_cast<int>(sentences.size() - lines.size()); others > 0)
+        lines += tr("%n more file(s) cannot be printed.", nullptr, others);
+    return lines.join(u'\n');
 }
 
 void PhotoPane::check(const Photo &photo)
@@ -255,7 +262,7 @@ void PhotoPane::place(const PlacementChoice &choice)
 
 bool PhotoPane::isReady() const
 {
-    return arrangement_.photos.isEmpty() || (preview_->isReady() && strip_->isReady());
+    return !isOpening() && (arrangement_.photos.isEmpty() || (preview_->isReady() && strip_->isReady()));
 }
 
 // Inside a scroll area, requests only the minimum height: the preview shrinks before anything scrolls.

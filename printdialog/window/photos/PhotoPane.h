@@ -4,6 +4,7 @@
 #pragma once
 
 #include "Arrangement.h"
+#include "PhotoOpener.h"
 #include "PhotoPlacement.h"
 #include "PictureAdjustment.h"
 
@@ -45,7 +46,13 @@ public:
     explicit PhotoPane(QWidget *parent = nullptr);
 
     /// Sets the initial photos, all with the same placement; later ones are placed like the current one.
-    void setPhotos(const QList<Photo> &photos, const PlacementChoice &placement);
+    /// Further initial photos are opened, and appended.
+    void setPhotos(const QList<Photo> &photos, const PlacementChoice &placement,
+                   const QStringList &furtherPaths = {});
+    /// Whether files are still being opened.
+    bool isOpening() const { return opener_->isBusy(); }
+    /// The sentences about files that cannot be printed, or the first ones and the number of the others.
+    static QString failureText(const QStringList &sentences);
     const QList<PlacedPhoto> &photos() const { return arrangement_.photos; }
     const Arrangement &arrangement() const { return arrangement_; }
     void setPage(const PageGeometry &page);
@@ -74,12 +81,12 @@ public:
     int heightForWidth(int width) const override;
 
 Q_SIGNALS:
-    /// Photos were added, removed or moved, or another one is current.
+    /// Photos were added, removed or moved, or another one is current, or the last file was opened.
     void photosChanged();
     /// A photo's placement has changed.
     void placementChanged();
-    /// Some of the files to be added cannot be printed: a sentence for each.
-    void failed(const QString &sentences);
+    /// Some of the files to be opened cannot be printed: a sentence for each.
+    void failed(printdialog::PhotoOpener::Use use, const QStringList &sentences);
 
 protected:
     void showEvent(QShowEvent *event) override;
@@ -88,6 +95,7 @@ protected:
 
 private:
     void browse();
+    void append(const PhotoOpener::Batch &batch);
     void check(const Photo &photo);
     void show();
     void showCaption();
@@ -101,6 +109,7 @@ private:
     QPushButton *add_;
     QPushButton *remove_;
     PhotoStrip *strip_;
+    PhotoOpener *opener_;
     Arrangement arrangement_;
     PlacementChoice initial_;
     PageGeometry page_;
