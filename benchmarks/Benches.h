@@ -37,5 +37,8 @@ void benchRunner();
 /// Photos of three sizes to PDF, beside img2pdf and ImageMagick, with the memory that it takes.
 void benchPdf();
 
+/// The window with a thousand photos: until it can be used, and the memory that it takes.
+void benchPhotos();
+
 /// What adjusting the preview's picture takes, beside lcms2's own table.
 void benchAdjustments();

@@ -31,7 +31,8 @@ int main(int argc, char *argv[])
     const std::pair<const char *, void (*)()> parts[] = {
         {"opening", benchOpening},    {"queues", benchQueues},         {"jobs", benchJobs},
         {"panels", benchPanels},      {"optionpage", benchOptionPage}, {"preview", benchPreview},
-        {"adjust", benchAdjustments}, {"runner", benchRunner},         {"pdf", benchPdf}};
+        {"adjust", benchAdjustments}, {"runner", benchRunner},         {"pdf", benchPdf},
+        {"photos", benchPhotos}};
     printHeader();
     for (const auto &[name, bench] : parts) {
         if (arguments.size() < 2 || arguments.contains(QLatin1String(name)))

@@ -3,9 +3,11 @@
 //
 // Our dialog, linked with what the program is linked with: prints the monotonic time at which it is
 // constructed, and that at which a panel is first painted, and ends. Its arguments are the queue, without
-// which it opens the built-in printer, and the name of a widget that is waited for in place of a panel.
+// which it opens the built-in printer, and the name of a widget that is waited for in place of a panel. With
+// --photos and a folder, it opens the folder's photos; see runPhotos().
 
 #include "PaintWatch.h"
+#include "PhotosRun.h"
 #include "PrintDialog.h"
 
 #include <QtCore/QFile>
@@ -42,6 +44,8 @@ int main(int argc, char *argv[])
     const QString widget = argc > 2 ? QFile::decodeName(argv[2]) : QStringLiteral("PDEView");
     argc = 1;
     const QApplication application(argc, argv);
+    if (queue == QStringLiteral("--photos"))
+        return runPhotos(widget);
     QTimer::singleShot(15000, qApp, [] { _exit(1); });
     return open(queue, widget);
 }
