@@ -44,6 +44,12 @@ public:
     {
     }
 
+    /// A photo is being checked before the run.
+    void checking(qsizetype photo, qsizetype count, const QString &name) const
+    {
+        const QString text = PrintWorker::tr("Checking %1").arg(name);
+        say_(count == 1 ? text : PrintWorker::tr("%1 of %2: %3").arg(photo + 1).arg(count).arg(text), 0, 0);
+    }
     void sending(qsizetype photo, const QString &name, qint64 sent, qint64 total) override
     {
         const qint64 share = destination_.isBuiltIn() ? photoShare : sendingShare;
@@ -78,18 +84,32 @@ private:
     Say say_;
 };
 
-PrintOutcome printed(const Arrangement &arrangement, const SheetPlan &plan, PrintRun &run)
+/// Whether a photo is damaged that is not accepted. Mostly known already; but a thousand photos take minutes.
+bool isAnyDamaged(const QList<PlacedPhoto> &photos, const Progress &progress, int &cancel)
+{
+    for (qsizetype i = 0; i < photos.size() && std::atomic_ref(cancel).load() == 0; ++i) {
+        const PlacedPhoto &placed = photos.at(i);
+        if (placed.isAccepted)
+            continue;
+        if (!placed.photo.isChecked())
+            progress.checking(i, photos.size(), placed.photo.fileName());
+        const auto damage = placed.photo.damage();
+        if (damage && damage->reason == PhotoFault::Damaged)
+            return true; // others cannot be read, and are left out later
+    }
+    return false;
+}
+
+PrintOutcome printed(const Arrangement &arrangement, const SheetPlan &plan, PrintRun &run,
+                     const Progress &progress, int &cancel)
 {
     PrintOutcome outcome;
     if (plan.failure()) {
         outcome.failure = plan.failure()->text;
         return outcome;
     }
-    // Checked before anything is printed, so that the user can decide about all photos; mostly known already.
-    outcome.hasDamaged = std::ranges::any_of(arrangement.photos, [](const PlacedPhoto &placed) {
-        const auto damage = placed.isAccepted ? std::nullopt : placed.photo.damage();
-        return damage && damage->reason == PhotoFault::Damaged; // what cannot be read is left out later
-    });
+    // Before anything is printed, so that the user can decide about all photos.
+    outcome.hasDamaged = isAnyDamaged(arrangement.photos, progress, cancel);
     if (outcome.hasDamaged)
         return outcome;
     return run.print(plan.sheets().size(),
@@ -151,7 +171,7 @@ void PrintWorker::print(const Arrangement &arrangement, const PrintJob &job)
             };
             Progress listener(plan.sheets().size(), job.destination, flags->sent, flags->following, say);
             PrintRun run(job, listener, {&flags->cancel, &flags->keep, &flags->leave});
-            *outcome = printed(wanted, plan, run);
+            *outcome = printed(wanted, plan, run, listener, flags->cancel);
         }));
     connect(thread_.get(), &QThread::finished, this, [this, outcome] {
         thread_.release()->deleteLater();

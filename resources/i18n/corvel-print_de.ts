@@ -3470,6 +3470,10 @@ Foto sein Blatt; auch „,gap=2mm“ und „,marks“ für Schnittmarken</transl
         <source>%1 of %2: %3</source>
         <translation>%1 von %2: %3</translation>
     </message>
+    <message>
+        <source>Checking %1</source>
+        <translation>%1 wird geprüft</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::PrinterChooser</name>

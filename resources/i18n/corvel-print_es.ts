@@ -3469,6 +3469,10 @@ hoja; también «,gap=2mm», y «,marks» para las marcas de corte</translation>
         <source>%1 of %2: %3</source>
         <translation>%1 de %2: %3</translation>
     </message>
+    <message>
+        <source>Checking %1</source>
+        <translation>Comprobando %1</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::PrinterChooser</name>

@@ -3471,6 +3471,10 @@ photo remplit sa feuille&#x202f;; aussi «&#x202f;,gap=2mm&#x202f;», et «&#x20
         <source>%1 of %2: %3</source>
         <translation>%1 sur %2&#xa0;: %3</translation>
     </message>
+    <message>
+        <source>Checking %1</source>
+        <translation>Vérification de&#xa0;%1</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::PrinterChooser</name>

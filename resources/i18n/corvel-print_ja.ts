@@ -3465,6 +3465,10 @@ contact:行x列 はコンタクトシート。strips または strips:数 は 2 
         <source>%1 of %2: %3</source>
         <translation>%2 枚中 %1 枚目: %3</translation>
     </message>
+    <message>
+        <source>Checking %1</source>
+        <translation>%1 を確認しています</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::PrinterChooser</name>

@@ -74,6 +74,27 @@ void PrintDialogTest::damagedPhoto()
     QTRY_VERIFY(opened.message().startsWith(u"Printed 2 photos"_s));
 }
 
+void PrintDialogTest::stopsWhilePhotosAreChecked()
+{
+    Arrangement many;
+    for (int i = 0; i < 500; ++i)
+        many.photos.append({*Photo::open(QStringLiteral(CORVEL_SAMPLE_PHOTO))});
+    PrintJob job;
+    job.folder.path = config_->filePath(u"unseen"_s);
+    job.page = {QSizeF(300, 300), QRectF(0, 0, 300, 300)};
+    PrintWorker worker;
+    QSignalSpy finished(&worker, &PrintWorker::finished);
+    QSignalSpy progress(&worker, &PrintWorker::progress);
+    worker.print(many, job);
+    QVERIFY(progress.wait());
+    worker.cancel();
+    QVERIFY(finished.wait());
+    QCOMPARE(progress.at(0).at(0).toString(), u"1 of 500: Checking sample.jpg"_s);
+    QVERIFY(finished.at(0).at(0).value<PrintOutcome>().wasStopped);
+    QVERIFY(!many.photos.constLast().photo.isChecked());
+    QVERIFY(!QFile::exists(job.folder.path));
+}
+
 void PrintDialogTest::changedPhotoIsLeftOut()
 {
     const QString path = config_->filePath(u"other.jpg"_s);

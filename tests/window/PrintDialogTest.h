@@ -14,6 +14,7 @@ private Q_SLOTS:
     void initTestCase_data() { addModes(); }
     void printsWhatTheUserChose();
     void damagedPhoto();
+    void stopsWhilePhotosAreChecked();
     void changedPhotoIsLeftOut();
     void printsAllPhotosOrNone();
     void printsByKeyFromAnywhere();
