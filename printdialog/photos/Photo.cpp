@@ -195,6 +195,7 @@ std::optional<Failure<PhotoFault>> Photo::inspectHeif(const QByteArray &content)
         return broken(header.failure().detail);
     storedSize_ = header->size;
     profile_ = header->profile;
+    taken_ = header->taken;
     return std::nullopt;
 }
 

@@ -65,7 +65,7 @@ public:
     FileIdentity identity() const { return content_ ? content_->identity() : FileIdentity(); }
     QDateTime modified() const; ///< In whole seconds, UTC.
     /// When it was taken, by the camera's clock: a local time of an unknown zone. Nothing when the file, a
-    /// JPEG, PNG, TIFF or WebP, does not say.
+    /// JPEG, PNG, HEIF, AVIF, TIFF or WebP, does not say.
     std::optional<QDateTime> taken() const { return taken_; }
     QSize storedSize() const { return storedSize_; } ///< In pixels.
     ExifOrientation orientation() const { return orientation_; }

@@ -35,6 +35,14 @@ heif_error append(heif_context * /*context*/, const void *data, size_t size, voi
     return {heif_error_Ok, heif_suberror_Unspecified, ""};
 }
 
+/// With an orientation and a date.
+QByteArray exifOf(int orientation)
+{
+    return QByteArray("II*\0\x08\0\0\0\x02\0\x12\x01\x03\0\x01\0\0\0", 18) + static_cast<char>(orientation) +
+           QByteArray("\0\0\0\x32\x01\x02\0\x14\0\0\0\x26\0\0\0\0\0\0\0", 19) +
+           QByteArray("2024:02:29 08:15:59", 20);
+}
+
 /// The picture turned by the file's own properties, and by an Exif block that says the same; empty without
 /// an encoder for it.
 QByteArray encoded(const QImage &picture, heif_compression_format format, int orientation,
@@ -60,7 +68,7 @@ QByteArray encoded(const QImage &picture, heif_compression_format format, int or
         heif_encoder_set_lossy_quality(encoder, 90);
         heif_image_handle *handle = nullptr;
         heif_context_encode_image(context, image, encoder, options, &handle);
-        const QByteArray exif = samples::withOrientation(QByteArray(20, '\0'), orientation).sliced(20 + 10);
+        const QByteArray exif = exifOf(orientation);
         heif_context_add_exif_metadata(context, handle, exif.constData(), int(exif.size()));
         heif_writer writer{1, append};
         heif_context_write(context, &writer, &bytes);
@@ -108,6 +116,7 @@ private Q_SLOTS:
         QVERIFY2(photo, photo ? "" : qPrintable(photo.failure().text + photo.failure().detail));
         QCOMPARE(photo->format(), format == heif_compression_AV1 ? "avif" : "heif");
         QCOMPARE(photo->orientedSize(), orientation >= 5 ? QSize(64, 128) : QSize(128, 64));
+        QCOMPARE(photo->taken(), QDateTime({2024, 2, 29}, {8, 15, 59}));
         const auto decoded = photo->decoded();
         QVERIFY(decoded);
         const QString &corners = samples::seenCorners[std::size_t(orientation)];

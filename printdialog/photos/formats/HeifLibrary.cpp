@@ -34,6 +34,9 @@ std::optional<HeifLibrary> loaded()
     resolve(heif.rawProfile, "heif_image_handle_get_raw_color_profile");
     resolve(heif.nclxProfile, "heif_image_handle_get_nclx_color_profile");
     resolve(heif.nclxProfileFree, "heif_nclx_color_profile_free");
+    resolve(heif.metadataIds, "heif_image_handle_get_list_of_metadata_block_IDs");
+    resolve(heif.metadataSize, "heif_image_handle_get_metadata_size");
+    resolve(heif.metadata, "heif_image_handle_get_metadata");
     resolve(heif.optionsAlloc, "heif_decoding_options_alloc");
     resolve(heif.optionsFree, "heif_decoding_options_free");
     resolve(heif.decodeImage, "heif_decode_image");

@@ -29,6 +29,9 @@ struct HeifLibrary
     decltype(&heif_image_handle_get_raw_color_profile) rawProfile;
     decltype(&heif_image_handle_get_nclx_color_profile) nclxProfile;
     decltype(&heif_nclx_color_profile_free) nclxProfileFree;
+    decltype(&heif_image_handle_get_list_of_metadata_block_IDs) metadataIds;
+    decltype(&heif_image_handle_get_metadata_size) metadataSize;
+    decltype(&heif_image_handle_get_metadata) metadata;
     decltype(&heif_decoding_options_alloc) optionsAlloc;
     decltype(&heif_decoding_options_free) optionsFree;
     decltype(&heif_decode_image) decodeImage;

@@ -3,8 +3,10 @@
 
 #include "HeifPicture.h"
 
+#include "ExifData.h"
 #include "HeifLibrary.h"
 
+#include <QtCore/QtEndian>
 #include <QtGui/QColorSpace>
 
 #include <cstring>
@@ -59,6 +61,23 @@ public:
         if (size > largest || heif_.rawProfile(handle_.get(), icc.data()).code != heif_error_Ok)
             return {};
         return ColorProfile::fromIcc(icc);
+    }
+
+    /// The Exif block begins with the position of its TIFF structure behind that number.
+    ExifData exif() const
+    {
+        constexpr std::size_t largest = std::size_t(1) << 20;
+        constexpr qint64 numberSize = sizeof(quint32);
+        heif_item_id id = 0;
+        if (heif_.metadataIds(handle_.get(), "Exif", &id, 1) != 1)
+            return {};
+        const std::size_t size = heif_.metadataSize(handle_.get(), id);
+        QByteArray block(static_cast<qsizetype>(qMin(size, largest)), Qt::Uninitialized);
+        if (size > largest || qint64(size) < numberSize ||
+            heif_.metadata(handle_.get(), id, block.data()).code != heif_error_Ok)
+            return {};
+        const qint64 begin = numberSize + qFromBigEndian<quint32>(block.constData());
+        return begin < block.size() ? ExifData::fromTiff(QByteArrayView(block).sliced(begin)) : ExifData();
     }
 
     Result<QImage, std::monostate> decoded() const
@@ -129,7 +148,7 @@ Result<HeifPicture, std::monostate> HeifPicture::read(const QByteArray &content)
         return failure(picture.error());
     if (picture.size().isEmpty())
         return failure(QStringLiteral("the picture has no size"));
-    return HeifPicture{picture.size(), picture.profile()};
+    return HeifPicture{picture.size(), picture.profile(), picture.exif().taken};
 }
 
 Result<QImage, std::monostate> HeifPicture::decode(const QByteArray &content)

@@ -7,9 +7,11 @@
 #include "Result.h"
 
 #include <QtCore/QByteArray>
+#include <QtCore/QDateTime>
 #include <QtCore/QSize>
 #include <QtGui/QImage>
 
+#include <optional>
 #include <variant>
 
 namespace printdialog {
@@ -21,6 +23,7 @@ struct HeifPicture
     QSize size; ///< In pixels, upright.
     /// The file's ICC profile, or one made from its color primaries; none for sRGB.
     ColorProfile profile;
+    std::optional<QDateTime> taken; ///< See ExifData.
 
     /// Reads the headers without decoding.
     static Result<HeifPicture, std::monostate> read(const QByteArray &content);
