@@ -32,26 +32,6 @@ struct FollowingText
     Q_DECLARE_TR_FUNCTIONS(JobFollowing)
 };
 
-JobStatus::State stateOf(int jobState)
-{
-    switch (jobState) {
-    case IPP_JSTATE_HELD:
-        return JobStatus::State::Held;
-    case IPP_JSTATE_PROCESSING:
-        return JobStatus::State::Processing;
-    case IPP_JSTATE_STOPPED:
-        return JobStatus::State::Stopped;
-    case IPP_JSTATE_CANCELED:
-        return JobStatus::State::Canceled;
-    case IPP_JSTATE_ABORTED:
-        return JobStatus::State::Aborted;
-    case IPP_JSTATE_COMPLETED:
-        return JobStatus::State::Completed;
-    default:
-        return JobStatus::State::Pending;
-    }
-}
-
 Result<JobStatus, QueueFault> jobStatus(CupsConnection &connection, const QString &queue, int id)
 {
     static constexpr std::array wanted = {"job-state", "job-state-reasons", "job-printer-state-message",
@@ -69,28 +49,12 @@ Result<JobStatus, QueueFault> jobStatus(CupsConnection &connection, const QStrin
     if (!answer || !connection.hasSucceeded())
         return connection.lastFailure(queue);
     ipp_attribute_t *state = ippFindAttribute(answer.get(), "job-state", IPP_TAG_ENUM);
-    status.state = stateOf(state ? ippGetInteger(state, 0) : 0);
+    status.state = jobStateOf(state ? ippGetInteger(state, 0) : 0);
     status.reasons =
         textsOf(answer.get(), "job-state-reasons") + textsOf(answer.get(), "job-printer-state-reasons");
     status.message =
         plainText(textsOf(answer.get(), "job-printer-state-message").value(0).simplified(), shownTextLimit);
     return status;
-}
-
-/// Adds the printer's reasons and message: for a job that has not begun, the server reports neither that the
-/// printer is stopped nor why.
-void addPrintersWords(CupsConnection &connection, const QString &queue, JobStatus &status)
-{
-    const auto record = queueRecord(connection, queue);
-    if (!record || !record->isStopped)
-        return;
-    if (!status.reasons.contains(printerStopped))
-        status.reasons.prepend(printerStopped);
-    QStringList reasons = record->stateReasons;
-    reasons.removeAll(QStringLiteral("paused"));
-    status.reasons += reasons;
-    if (status.message.isEmpty())
-        status.message = plainText(record->stateMessage.simplified(), shownTextLimit);
 }
 
 class Following
@@ -182,8 +146,10 @@ private:
     {
         connection_.extend(patience());
         auto status = jobStatus(connection_, queue_, id_);
-        if (status && !status->isOver() && status->state != JobStatus::State::Processing)
-            addPrintersWords(connection_, queue_, *status);
+        if (status && !status->isOver() && status->state != JobStatus::State::Processing) {
+            if (const auto record = queueRecord(connection_, queue_))
+                addPrintersWords(*record, *status);
+        }
         return status;
     }
 
@@ -239,6 +205,39 @@ QString JobStatus::text() const
         break;
     }
     return FollowingText::tr("printed");
+}
+
+JobStatus::State jobStateOf(int jobState)
+{
+    switch (jobState) {
+    case IPP_JSTATE_HELD:
+        return JobStatus::State::Held;
+    case IPP_JSTATE_PROCESSING:
+        return JobStatus::State::Processing;
+    case IPP_JSTATE_STOPPED:
+        return JobStatus::State::Stopped;
+    case IPP_JSTATE_CANCELED:
+        return JobStatus::State::Canceled;
+    case IPP_JSTATE_ABORTED:
+        return JobStatus::State::Aborted;
+    case IPP_JSTATE_COMPLETED:
+        return JobStatus::State::Completed;
+    default:
+        return JobStatus::State::Pending;
+    }
+}
+
+void addPrintersWords(const QueueRecord &record, JobStatus &status)
+{
+    if (!record.isStopped)
+        return;
+    if (!status.reasons.contains(printerStopped))
+        status.reasons.prepend(printerStopped);
+    QStringList reasons = record.stateReasons;
+    reasons.removeAll(QStringLiteral("paused"));
+    status.reasons += reasons;
+    if (status.message.isEmpty())
+        status.message = plainText(record.stateMessage.simplified(), shownTextLimit);
 }
 
 Result<JobStatus, QueueFault> followJob(CupsConnection &connection, const QString &queue, int id,

@@ -14,6 +14,7 @@
 namespace printdialog {
 
 class CupsConnection;
+struct QueueRecord;
 
 /// The server's report on a job. All texts are plain text.
 struct JobStatus
@@ -46,6 +47,13 @@ struct JobStatus
 
     friend bool operator==(const JobStatus &, const JobStatus &) = default;
 };
+
+/// The state for a value of "job-state".
+JobStatus::State jobStateOf(int jobState);
+
+/// Adds the reasons and message of a stopped printer: for a job that has not begun, the server reports
+/// neither that the printer is stopped nor why.
+void addPrintersWords(const QueueRecord &record, JobStatus &status);
 
 /// How long a job is followed.
 struct FollowLimits

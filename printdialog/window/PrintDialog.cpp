@@ -8,6 +8,7 @@
 #include "EscapeGuard.h"
 #include "GuardedPanel.h"
 #include "HelpWindow.h"
+#include "JobsWindow.h"
 #include "LoginPrompt.h"
 #include "PictureController.h"
 #include "PlainText.h"
@@ -90,6 +91,8 @@ PrintDialog::PrintDialog(const PrintDialogSetup &setup, QWidget *parent)
     connect(new QShortcut(QKeySequence::HelpContents, this), &QShortcut::activated, this,
             &PrintDialog::showHelp);
     connect(new QShortcut(QKeySequence::Print, this), &QShortcut::activated, this, &PrintDialog::print);
+    connect(ui_->jobs, &QToolButton::clicked, this, &PrintDialog::showJobs);
+    connect(printing_, &PrintingController::jobsRequested, this, &PrintDialog::showJobs);
     connect(ui_->save, &QPushButton::clicked, this, &PrintDialog::saveSettings);
     connect(ui_->cancel, &QPushButton::clicked, this, &PrintDialog::cancelOrStop);
     connect(ui_->print, &QPushButton::clicked, this, &PrintDialog::print);
@@ -235,6 +238,11 @@ void PrintDialog::showHelp()
     if (panel && !panel->shouldShowHelp())
         return;
     HelpWindow::showFor(this);
+}
+
+void PrintDialog::showJobs()
+{
+    JobsWindow::showFor(this, printer_->queue().destination());
 }
 
 } // namespace printdialog

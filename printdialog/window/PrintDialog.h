@@ -130,6 +130,7 @@ private:
     void showPhotoFailures(const QStringList &sentences);
     void browseFolder();
     void showHelp();
+    void showJobs();
 
     PrintDialogSetup setup_;
     std::unique_ptr<Ui::PrintDialog> ui_;

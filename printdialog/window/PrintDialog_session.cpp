@@ -78,6 +78,7 @@ void PrintDialog::showFolder(bool isBuiltIn)
     ui_->folderLabel->setVisible(isBuiltIn);
     ui_->folder->setVisible(isBuiltIn);
     ui_->browse->setVisible(isBuiltIn);
+    ui_->jobs->setVisible(!isBuiltIn);
 }
 
 // Its session

@@ -175,6 +175,10 @@ void PrintingController::showOutcome(const PrintOutcome &outcome)
     message.details = text.details();
     if (job_.destination.isBuiltIn() && outcome.done > 0)
         message.folder = QFileInfo(job_.folder.path).absoluteFilePath();
+    if (!outcome.waiting.isEmpty())
+        message.actions.append({tr("Jobs…"), [this] {
+                                    Q_EMIT jobsRequested();
+                                }});
     widgets_.message->show(message);
     if (outcome.hasOtherPpd)
         Q_EMIT ppdChanged(job_.destination, outcome.failure);

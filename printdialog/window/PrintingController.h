@@ -73,6 +73,8 @@ Q_SIGNALS:
     void printRequested();
     /// The user wants the window closed, and has been told what that means.
     void closeRequested();
+    /// The user wants to see the jobs on the print server.
+    void jobsRequested();
     /// A question is answered without anything to follow.
     void dismissed();
     /// Nothing is printed, since the print server has another PPD than the session: one sentence.

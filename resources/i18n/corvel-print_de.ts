@@ -910,6 +910,49 @@ Foto sein Blatt; auch „,gap=2mm“ und „,marks“ für Schnittmarken</transl
     </message>
 </context>
 <context>
+    <name>OwnJob</name>
+    <message>
+        <source>Untitled</source>
+        <translation>Ohne Titel</translation>
+    </message>
+    <message>
+        <source>it gave no reason</source>
+        <translation>ohne Angabe von Gründen</translation>
+    </message>
+    <message>
+        <source>The print server refused to list your jobs (%1). Ask its administrator.</source>
+        <translation>Der Druckserver hat es abgelehnt, Ihre Aufträge aufzulisten (%1). Fragen Sie seinen Administrator.</translation>
+    </message>
+    <message>
+        <source>The print server could not list your jobs (%1). Try again, or check its log.</source>
+        <translation>Der Druckserver konnte Ihre Aufträge nicht auflisten (%1). Versuchen Sie es noch einmal, oder sehen Sie in sein Protokoll.</translation>
+    </message>
+    <message>
+        <source>Job %1 (%2) could not be canceled: %3</source>
+        <translation>Auftrag %1 (%2) konnte nicht abgebrochen werden: %3</translation>
+    </message>
+    <message>
+        <source>Job %1 (%2) could not be held: %3</source>
+        <translation>Auftrag %1 (%2) konnte nicht angehalten werden: %3</translation>
+    </message>
+    <message>
+        <source>Job %1 (%2) could not be released: %3</source>
+        <translation>Auftrag %1 (%2) konnte nicht freigegeben werden: %3</translation>
+    </message>
+    <message>
+        <source>Job %1 (%2) could not be printed again: %3</source>
+        <translation>Auftrag %1 (%2) konnte nicht noch einmal gedruckt werden: %3</translation>
+    </message>
+    <message>
+        <source>Job %1 (%2) cannot be printed again, because the print server has not kept its document. Open the photo in this program and print it from there.</source>
+        <translation>Auftrag %1 (%2) kann nicht noch einmal gedruckt werden, da der Druckserver sein Dokument nicht behalten hat. Öffnen Sie das Foto in diesem Programm und drucken Sie es von dort.</translation>
+    </message>
+    <message>
+        <source>Job %1 (%2) has moved on meanwhile. Look at its state.</source>
+        <translation>Auftrag %1 (%2) ist inzwischen weiter. Sehen Sie sich seinen Zustand an.</translation>
+    </message>
+</context>
+<context>
     <name>PlacementText</name>
     <message>
         <source>%1 × %2 in</source>
@@ -1317,6 +1360,14 @@ Foto sein Blatt; auch „,gap=2mm“ und „,marks“ für Schnittmarken</transl
     <message>
         <source>Print position</source>
         <translation>Drucklage</translation>
+    </message>
+    <message>
+        <source>Jobs…</source>
+        <translation>Aufträge…</translation>
+    </message>
+    <message>
+        <source>Your jobs on the print server: cancel, hold or print them again</source>
+        <translation>Ihre Aufträge auf dem Druckserver: abbrechen, anhalten oder noch einmal drucken</translation>
     </message>
 </context>
 <context>
@@ -2674,6 +2725,93 @@ Foto sein Blatt; auch „,gap=2mm“ und „,marks“ für Schnittmarken</transl
     </message>
 </context>
 <context>
+    <name>printdialog::JobsModel</name>
+    <message>
+        <source>Job</source>
+        <translation>Auftrag</translation>
+    </message>
+    <message>
+        <source>Printer</source>
+        <translation>Drucker</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Zustand</translation>
+    </message>
+    <message>
+        <source>Since</source>
+        <comment>the time at which a job got into its state</comment>
+        <translation>Seit</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::JobsWindow</name>
+    <message>
+        <source>Select a job that is not over.</source>
+        <translation>Wählen Sie einen Auftrag, der nicht beendet ist.</translation>
+    </message>
+    <message>
+        <source>Select a job that has not begun to print.</source>
+        <translation>Wählen Sie einen Auftrag, dessen Druck noch nicht begonnen hat.</translation>
+    </message>
+    <message>
+        <source>Select a job that is held.</source>
+        <translation>Wählen Sie einen angehaltenen Auftrag.</translation>
+    </message>
+    <message>
+        <source>Select a job that is over.</source>
+        <translation>Wählen Sie einen beendeten Auftrag.</translation>
+    </message>
+    <message>
+        <source>Jobs</source>
+        <translation>Aufträge</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel Jobs</source>
+        <translation>Aufträge &amp;abbrechen</translation>
+    </message>
+    <message>
+        <source>&amp;Hold</source>
+        <translation>An&amp;halten</translation>
+    </message>
+    <message>
+        <source>&amp;Release</source>
+        <translation>&amp;Freigeben</translation>
+    </message>
+    <message>
+        <source>&amp;Print Again</source>
+        <translation>Noch einmal &amp;drucken</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>The print server is being asked for your jobs.</source>
+        <translation>Der Druckserver wird nach Ihren Aufträgen gefragt.</translation>
+    </message>
+    <message>
+        <source>Your jobs are not known.</source>
+        <translation>Ihre Aufträge sind nicht bekannt.</translation>
+    </message>
+    <message>
+        <source>Your jobs as the print server last reported them</source>
+        <translation>Ihre Aufträge, wie sie der Druckserver zuletzt gemeldet hat</translation>
+    </message>
+    <message>
+        <source>You have no jobs on the print server.</source>
+        <translation>Sie haben keine Aufträge auf dem Druckserver.</translation>
+    </message>
+    <message>
+        <source>Your jobs on the print server: %1 not over, %2 over</source>
+        <translation>Ihre Aufträge auf dem Druckserver: %1 nicht beendet, %2 beendet</translation>
+    </message>
+</context>
+<context>
     <name>printdialog::KnownPrintSize</name>
     <message>
         <source>Square</source>
@@ -2818,6 +2956,13 @@ Foto sein Blatt; auch „,gap=2mm“ und „,marks“ für Schnittmarken</transl
     <message>
         <source>&quot;%1&quot; is larger than a file may be here. Raise the limit (ulimit -f), or choose another folder.</source>
         <translation>„%1“ ist größer, als eine Datei hier sein darf. Erhöhen Sie die Grenze (ulimit -f) oder wählen Sie einen anderen Ordner.</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::OwnJobs</name>
+    <message>
+        <source>%1 of %2 jobs were left as they are. The first one: %3</source>
+        <translation>%1 von %2 Aufträgen blieben, wie sie sind. Der erste: %3</translation>
     </message>
 </context>
 <context>
@@ -3609,6 +3754,10 @@ Foto sein Blatt; auch „,gap=2mm“ und „,marks“ für Schnittmarken</transl
     <message>
         <source>The test page could not be made in &quot;%1&quot;. Free some space there.</source>
         <translation>Die Testseite konnte nicht in „%1“ erstellt werden. Schaffen Sie dort Platz.</translation>
+    </message>
+    <message>
+        <source>Jobs…</source>
+        <translation>Aufträge…</translation>
     </message>
 </context>
 <context>

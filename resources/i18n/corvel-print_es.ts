@@ -909,6 +909,49 @@ hoja; también «,gap=2mm», y «,marks» para las marcas de corte</translation>
     </message>
 </context>
 <context>
+    <name>OwnJob</name>
+    <message>
+        <source>Untitled</source>
+        <translation>Sin título</translation>
+    </message>
+    <message>
+        <source>it gave no reason</source>
+        <translation>sin indicar el motivo</translation>
+    </message>
+    <message>
+        <source>The print server refused to list your jobs (%1). Ask its administrator.</source>
+        <translation>El servidor de impresión se ha negado a mostrar sus trabajos (%1). Consulte a su administrador.</translation>
+    </message>
+    <message>
+        <source>The print server could not list your jobs (%1). Try again, or check its log.</source>
+        <translation>El servidor de impresión no ha podido mostrar sus trabajos (%1). Inténtelo de nuevo o consulte su registro.</translation>
+    </message>
+    <message>
+        <source>Job %1 (%2) could not be canceled: %3</source>
+        <translation>El trabajo %1 (%2) no se ha podido cancelar: %3</translation>
+    </message>
+    <message>
+        <source>Job %1 (%2) could not be held: %3</source>
+        <translation>El trabajo %1 (%2) no se ha podido retener: %3</translation>
+    </message>
+    <message>
+        <source>Job %1 (%2) could not be released: %3</source>
+        <translation>El trabajo %1 (%2) no se ha podido liberar: %3</translation>
+    </message>
+    <message>
+        <source>Job %1 (%2) could not be printed again: %3</source>
+        <translation>El trabajo %1 (%2) no se ha podido volver a imprimir: %3</translation>
+    </message>
+    <message>
+        <source>Job %1 (%2) cannot be printed again, because the print server has not kept its document. Open the photo in this program and print it from there.</source>
+        <translation>El trabajo %1 (%2) no se puede volver a imprimir, porque el servidor de impresión no ha conservado su documento. Abra la foto en este programa e imprímala desde él.</translation>
+    </message>
+    <message>
+        <source>Job %1 (%2) has moved on meanwhile. Look at its state.</source>
+        <translation>El trabajo %1 (%2) ha avanzado entretanto. Mire su estado.</translation>
+    </message>
+</context>
+<context>
     <name>PlacementText</name>
     <message>
         <source>%1 × %2 in</source>
@@ -1316,6 +1359,14 @@ hoja; también «,gap=2mm», y «,marks» para las marcas de corte</translation>
     <message>
         <source>Print position</source>
         <translation>Posición de impresión</translation>
+    </message>
+    <message>
+        <source>Jobs…</source>
+        <translation>Trabajos…</translation>
+    </message>
+    <message>
+        <source>Your jobs on the print server: cancel, hold or print them again</source>
+        <translation>Sus trabajos en el servidor de impresión: cancelarlos, retenerlos o volver a imprimirlos</translation>
     </message>
 </context>
 <context>
@@ -2673,6 +2724,93 @@ hoja; también «,gap=2mm», y «,marks» para las marcas de corte</translation>
     </message>
 </context>
 <context>
+    <name>printdialog::JobsModel</name>
+    <message>
+        <source>Job</source>
+        <translation>Trabajo</translation>
+    </message>
+    <message>
+        <source>Printer</source>
+        <translation>Impresora</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Estado</translation>
+    </message>
+    <message>
+        <source>Since</source>
+        <comment>the time at which a job got into its state</comment>
+        <translation>Desde</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::JobsWindow</name>
+    <message>
+        <source>Select a job that is not over.</source>
+        <translation>Seleccione un trabajo que no haya terminado.</translation>
+    </message>
+    <message>
+        <source>Select a job that has not begun to print.</source>
+        <translation>Seleccione un trabajo que no haya empezado a imprimirse.</translation>
+    </message>
+    <message>
+        <source>Select a job that is held.</source>
+        <translation>Seleccione un trabajo retenido.</translation>
+    </message>
+    <message>
+        <source>Select a job that is over.</source>
+        <translation>Seleccione un trabajo terminado.</translation>
+    </message>
+    <message>
+        <source>Jobs</source>
+        <translation>Trabajos</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel Jobs</source>
+        <translation>&amp;Cancelar trabajos</translation>
+    </message>
+    <message>
+        <source>&amp;Hold</source>
+        <translation>&amp;Retener</translation>
+    </message>
+    <message>
+        <source>&amp;Release</source>
+        <translation>&amp;Liberar</translation>
+    </message>
+    <message>
+        <source>&amp;Print Again</source>
+        <translation>&amp;Volver a imprimir</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Cerrar</translation>
+    </message>
+    <message>
+        <source>The print server is being asked for your jobs.</source>
+        <translation>Se está consultando al servidor de impresión por sus trabajos.</translation>
+    </message>
+    <message>
+        <source>Your jobs are not known.</source>
+        <translation>No se conocen sus trabajos.</translation>
+    </message>
+    <message>
+        <source>Your jobs as the print server last reported them</source>
+        <translation>Sus trabajos, tal como los notificó por última vez el servidor de impresión</translation>
+    </message>
+    <message>
+        <source>You have no jobs on the print server.</source>
+        <translation>No tiene trabajos en el servidor de impresión.</translation>
+    </message>
+    <message>
+        <source>Your jobs on the print server: %1 not over, %2 over</source>
+        <translation>Sus trabajos en el servidor de impresión: %1 sin terminar, %2 terminados</translation>
+    </message>
+</context>
+<context>
     <name>printdialog::KnownPrintSize</name>
     <message>
         <source>Square</source>
@@ -2817,6 +2955,13 @@ hoja; también «,gap=2mm», y «,marks» para las marcas de corte</translation>
     <message>
         <source>&quot;%1&quot; is larger than a file may be here. Raise the limit (ulimit -f), or choose another folder.</source>
         <translation>«%1» es más grande de lo que puede ser un archivo aquí. Aumente el límite (ulimit -f) o elija otra carpeta.</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::OwnJobs</name>
+    <message>
+        <source>%1 of %2 jobs were left as they are. The first one: %3</source>
+        <translation>%1 de %2 trabajos han quedado como estaban. El primero: %3</translation>
     </message>
 </context>
 <context>
@@ -3608,6 +3753,10 @@ hoja; también «,gap=2mm», y «,marks» para las marcas de corte</translation>
     <message>
         <source>The test page could not be made in &quot;%1&quot;. Free some space there.</source>
         <translation>No se pudo crear la página de prueba en «%1». Libere espacio allí.</translation>
+    </message>
+    <message>
+        <source>Jobs…</source>
+        <translation>Trabajos…</translation>
     </message>
 </context>
 <context>

@@ -911,6 +911,49 @@ photo remplit sa feuille&#x202f;; aussi «&#x202f;,gap=2mm&#x202f;», et «&#x20
     </message>
 </context>
 <context>
+    <name>OwnJob</name>
+    <message>
+        <source>Untitled</source>
+        <translation>Sans titre</translation>
+    </message>
+    <message>
+        <source>it gave no reason</source>
+        <translation>sans en donner la raison</translation>
+    </message>
+    <message>
+        <source>The print server refused to list your jobs (%1). Ask its administrator.</source>
+        <translation>Le serveur d’impression a refusé d’énumérer vos tâches (%1). Adressez-vous à son administrateur.</translation>
+    </message>
+    <message>
+        <source>The print server could not list your jobs (%1). Try again, or check its log.</source>
+        <translation>Le serveur d’impression n’a pas pu énumérer vos tâches (%1). Réessayez ou consultez son journal.</translation>
+    </message>
+    <message>
+        <source>Job %1 (%2) could not be canceled: %3</source>
+        <translation>La tâche %1 (%2) n’a pas pu être annulée : %3</translation>
+    </message>
+    <message>
+        <source>Job %1 (%2) could not be held: %3</source>
+        <translation>La tâche %1 (%2) n’a pas pu être retenue : %3</translation>
+    </message>
+    <message>
+        <source>Job %1 (%2) could not be released: %3</source>
+        <translation>La tâche %1 (%2) n’a pas pu être libérée : %3</translation>
+    </message>
+    <message>
+        <source>Job %1 (%2) could not be printed again: %3</source>
+        <translation>La tâche %1 (%2) n’a pas pu être réimprimée : %3</translation>
+    </message>
+    <message>
+        <source>Job %1 (%2) cannot be printed again, because the print server has not kept its document. Open the photo in this program and print it from there.</source>
+        <translation>La tâche %1 (%2) ne peut pas être réimprimée, car le serveur d’impression n’a pas gardé son document. Ouvrez la photo dans ce programme et imprimez-la de là.</translation>
+    </message>
+    <message>
+        <source>Job %1 (%2) has moved on meanwhile. Look at its state.</source>
+        <translation>La tâche %1 (%2) a avancé entre-temps. Regardez son état.</translation>
+    </message>
+</context>
+<context>
     <name>PlacementText</name>
     <message>
         <source>%1 × %2 in</source>
@@ -1318,6 +1361,14 @@ photo remplit sa feuille&#x202f;; aussi «&#x202f;,gap=2mm&#x202f;», et «&#x20
     <message>
         <source>Print position</source>
         <translation>Position d’impression</translation>
+    </message>
+    <message>
+        <source>Jobs…</source>
+        <translation>Tâches…</translation>
+    </message>
+    <message>
+        <source>Your jobs on the print server: cancel, hold or print them again</source>
+        <translation>Vos tâches sur le serveur d’impression : les annuler, les retenir ou les réimprimer</translation>
     </message>
 </context>
 <context>
@@ -2675,6 +2726,93 @@ photo remplit sa feuille&#x202f;; aussi «&#x202f;,gap=2mm&#x202f;», et «&#x20
     </message>
 </context>
 <context>
+    <name>printdialog::JobsModel</name>
+    <message>
+        <source>Job</source>
+        <translation>Tâche</translation>
+    </message>
+    <message>
+        <source>Printer</source>
+        <translation>Imprimante</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>État</translation>
+    </message>
+    <message>
+        <source>Since</source>
+        <comment>the time at which a job got into its state</comment>
+        <translation>Depuis</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1 : %2</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::JobsWindow</name>
+    <message>
+        <source>Select a job that is not over.</source>
+        <translation>Sélectionnez une tâche qui n’est pas terminée.</translation>
+    </message>
+    <message>
+        <source>Select a job that has not begun to print.</source>
+        <translation>Sélectionnez une tâche dont l’impression n’a pas commencé.</translation>
+    </message>
+    <message>
+        <source>Select a job that is held.</source>
+        <translation>Sélectionnez une tâche retenue.</translation>
+    </message>
+    <message>
+        <source>Select a job that is over.</source>
+        <translation>Sélectionnez une tâche terminée.</translation>
+    </message>
+    <message>
+        <source>Jobs</source>
+        <translation>Tâches</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel Jobs</source>
+        <translation>&amp;Annuler les tâches</translation>
+    </message>
+    <message>
+        <source>&amp;Hold</source>
+        <translation>&amp;Retenir</translation>
+    </message>
+    <message>
+        <source>&amp;Release</source>
+        <translation>&amp;Libérer</translation>
+    </message>
+    <message>
+        <source>&amp;Print Again</source>
+        <translation>Ré&amp;imprimer</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>The print server is being asked for your jobs.</source>
+        <translation>Le serveur d’impression est interrogé sur vos tâches.</translation>
+    </message>
+    <message>
+        <source>Your jobs are not known.</source>
+        <translation>Vos tâches ne sont pas connues.</translation>
+    </message>
+    <message>
+        <source>Your jobs as the print server last reported them</source>
+        <translation>Vos tâches, telles que le serveur d’impression les a signalées en dernier</translation>
+    </message>
+    <message>
+        <source>You have no jobs on the print server.</source>
+        <translation>Vous n’avez aucune tâche sur le serveur d’impression.</translation>
+    </message>
+    <message>
+        <source>Your jobs on the print server: %1 not over, %2 over</source>
+        <translation>Vos tâches sur le serveur d’impression : %1 en attente ou en cours, %2 terminées</translation>
+    </message>
+</context>
+<context>
     <name>printdialog::KnownPrintSize</name>
     <message>
         <source>Square</source>
@@ -2819,6 +2957,13 @@ photo remplit sa feuille&#x202f;; aussi «&#x202f;,gap=2mm&#x202f;», et «&#x20
     <message>
         <source>&quot;%1&quot; is larger than a file may be here. Raise the limit (ulimit -f), or choose another folder.</source>
         <translation>«&#x202f;%1&#x202f;» est plus grand que ne peut l’être un fichier ici. Relevez la limite (ulimit -f), ou choisissez un autre dossier.</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::OwnJobs</name>
+    <message>
+        <source>%1 of %2 jobs were left as they are. The first one: %3</source>
+        <translation>%1 tâches sur %2 sont restées telles quelles. La première : %3</translation>
     </message>
 </context>
 <context>
@@ -3610,6 +3755,10 @@ photo remplit sa feuille&#x202f;; aussi «&#x202f;,gap=2mm&#x202f;», et «&#x20
     <message>
         <source>The test page could not be made in &quot;%1&quot;. Free some space there.</source>
         <translation>La page de test n’a pas pu être créée dans «&#x202f;%1&#x202f;». Libérez-y de la place.</translation>
+    </message>
+    <message>
+        <source>Jobs…</source>
+        <translation>Tâches…</translation>
     </message>
 </context>
 <context>

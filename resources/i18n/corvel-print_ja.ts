@@ -908,6 +908,49 @@ contact:行x列 はコンタクトシート。strips または strips:数 は 2 
     </message>
 </context>
 <context>
+    <name>OwnJob</name>
+    <message>
+        <source>Untitled</source>
+        <translation>無題</translation>
+    </message>
+    <message>
+        <source>it gave no reason</source>
+        <translation>理由は示されていません</translation>
+    </message>
+    <message>
+        <source>The print server refused to list your jobs (%1). Ask its administrator.</source>
+        <translation>プリントサーバーがジョブの一覧を拒否しました（%1）。管理者に問い合わせてください。</translation>
+    </message>
+    <message>
+        <source>The print server could not list your jobs (%1). Try again, or check its log.</source>
+        <translation>プリントサーバーはジョブを一覧にできませんでした（%1）。もう一度試すか、ログを確認してください。</translation>
+    </message>
+    <message>
+        <source>Job %1 (%2) could not be canceled: %3</source>
+        <translation>ジョブ %1（%2）を取り消せませんでした: %3</translation>
+    </message>
+    <message>
+        <source>Job %1 (%2) could not be held: %3</source>
+        <translation>ジョブ %1（%2）を保留にできませんでした: %3</translation>
+    </message>
+    <message>
+        <source>Job %1 (%2) could not be released: %3</source>
+        <translation>ジョブ %1（%2）の保留を解除できませんでした: %3</translation>
+    </message>
+    <message>
+        <source>Job %1 (%2) could not be printed again: %3</source>
+        <translation>ジョブ %1（%2）を再印刷できませんでした: %3</translation>
+    </message>
+    <message>
+        <source>Job %1 (%2) cannot be printed again, because the print server has not kept its document. Open the photo in this program and print it from there.</source>
+        <translation>ジョブ %1（%2）は再印刷できません。プリントサーバーに文書が残っていないためです。このプログラムで写真を開いて印刷してください。</translation>
+    </message>
+    <message>
+        <source>Job %1 (%2) has moved on meanwhile. Look at its state.</source>
+        <translation>ジョブ %1（%2）の状態が変わっています。状態を確認してください。</translation>
+    </message>
+</context>
+<context>
     <name>PlacementText</name>
     <message>
         <source>%1 × %2 in</source>
@@ -1315,6 +1358,14 @@ contact:行x列 はコンタクトシート。strips または strips:数 は 2 
     <message>
         <source>Print position</source>
         <translation>印刷位置</translation>
+    </message>
+    <message>
+        <source>Jobs…</source>
+        <translation>ジョブ…</translation>
+    </message>
+    <message>
+        <source>Your jobs on the print server: cancel, hold or print them again</source>
+        <translation>プリントサーバーにある自分のジョブの取り消し、保留、再印刷</translation>
     </message>
 </context>
 <context>
@@ -2672,6 +2723,93 @@ contact:行x列 はコンタクトシート。strips または strips:数 は 2 
     </message>
 </context>
 <context>
+    <name>printdialog::JobsModel</name>
+    <message>
+        <source>Job</source>
+        <translation>ジョブ</translation>
+    </message>
+    <message>
+        <source>Printer</source>
+        <translation>プリンター</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>状態</translation>
+    </message>
+    <message>
+        <source>Since</source>
+        <comment>the time at which a job got into its state</comment>
+        <translation>時刻</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::JobsWindow</name>
+    <message>
+        <source>Select a job that is not over.</source>
+        <translation>終わっていないジョブを選んでください。</translation>
+    </message>
+    <message>
+        <source>Select a job that has not begun to print.</source>
+        <translation>まだ印刷が始まっていないジョブを選んでください。</translation>
+    </message>
+    <message>
+        <source>Select a job that is held.</source>
+        <translation>保留中のジョブを選んでください。</translation>
+    </message>
+    <message>
+        <source>Select a job that is over.</source>
+        <translation>終わったジョブを選んでください。</translation>
+    </message>
+    <message>
+        <source>Jobs</source>
+        <translation>ジョブ</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel Jobs</source>
+        <translation>ジョブを取り消す(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Hold</source>
+        <translation>保留にする(&amp;H)</translation>
+    </message>
+    <message>
+        <source>&amp;Release</source>
+        <translation>保留を解除(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Print Again</source>
+        <translation>再印刷(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>閉じる</translation>
+    </message>
+    <message>
+        <source>The print server is being asked for your jobs.</source>
+        <translation>プリントサーバーにジョブを問い合わせています。</translation>
+    </message>
+    <message>
+        <source>Your jobs are not known.</source>
+        <translation>ジョブは不明です。</translation>
+    </message>
+    <message>
+        <source>Your jobs as the print server last reported them</source>
+        <translation>プリントサーバーが最後に知らせたジョブ</translation>
+    </message>
+    <message>
+        <source>You have no jobs on the print server.</source>
+        <translation>プリントサーバーにジョブはありません。</translation>
+    </message>
+    <message>
+        <source>Your jobs on the print server: %1 not over, %2 over</source>
+        <translation>プリントサーバーにあるジョブ: 未完了 %1、終了 %2</translation>
+    </message>
+</context>
+<context>
     <name>printdialog::KnownPrintSize</name>
     <message>
         <source>Square</source>
@@ -2816,6 +2954,13 @@ contact:行x列 はコンタクトシート。strips または strips:数 は 2 
     <message>
         <source>&quot;%1&quot; is larger than a file may be here. Raise the limit (ulimit -f), or choose another folder.</source>
         <translation>「%1」はここで許されるファイルの大きさを超えています。制限を上げるか (ulimit -f)、別のフォルダーを選んでください。</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::OwnJobs</name>
+    <message>
+        <source>%1 of %2 jobs were left as they are. The first one: %3</source>
+        <translation>%2 件中 %1 件のジョブはそのままです。最初の 1 件: %3</translation>
     </message>
 </context>
 <context>
@@ -3604,6 +3749,10 @@ contact:行x列 はコンタクトシート。strips または strips:数 は 2 
     <message>
         <source>The test page could not be made in &quot;%1&quot;. Free some space there.</source>
         <translation>「%1」にテストページを作れませんでした。そこに空きを作ってください。</translation>
+    </message>
+    <message>
+        <source>Jobs…</source>
+        <translation>ジョブ…</translation>
     </message>
 </context>
 <context>
