@@ -115,7 +115,7 @@ private:
             if (connection_.isCanceled())
                 return queueFailure(QueueFault::Canceled, job.destination.id());
         }
-        return receiveAnswer(job.destination.id());
+        return receiveAnswer(job.destination.id(), isTaken);
     }
 
     IppPointer printJob(const PrintJob &job, const JobDocument &document) const
@@ -160,17 +160,23 @@ private:
 
     /// Waits for the answer even when the job is given up: the server may have the complete job by now, and
     /// its id is needed to cancel it. A server that stopped reading the document says why.
-    Result<int, QueueFault> receiveAnswer(const QString &queue)
+    /// @param isSent whether it has been given the whole document, and may make a job of it without an answer
+    Result<int, QueueFault> receiveAnswer(const QString &queue, bool isSent)
     {
         connection_.heed(nullptr);
         connection_.extend();
         const IppPointer answer = connection_.answer();
-        if (!answer || !connection_.hasSucceeded())
-            return connection_.lastFailure(queue);
+        if (!answer || !connection_.hasSucceeded()) {
+            const auto failure = connection_.lastFailure(queue);
+            const bool isUnanswered =
+                failure.reason == QueueFault::TimedOut || (!answer && connection_.isBroken());
+            return isSent && isUnanswered ? queueFailure(QueueFault::Unknown, queue, failure.detail)
+                                          : failure;
+        }
         ipp_attribute_t *attribute = ippFindAttribute(answer.get(), "job-id", IPP_TAG_INTEGER);
         const int id = attribute ? ippGetInteger(attribute, 0) : 0;
         if (id <= 0)
-            return queueFailure(QueueFault::Failed, queue,
+            return queueFailure(QueueFault::Unknown, queue,
                                 Text::tr("it accepted the job without giving it a number"));
         if (cancel_ && std::atomic_ref(*cancel_).load() != 0) {
             connection_.extend();

@@ -1499,6 +1499,14 @@ Foto sein Blatt; auch „,gap=2mm“ und „,marks“ für Schnittmarken</transl
         <source>no reason was given</source>
         <translation>ohne Angabe von Gründen</translation>
     </message>
+    <message>
+        <source>no answer came</source>
+        <translation>es kam keine Antwort</translation>
+    </message>
+    <message>
+        <source>It is not known whether the printer &quot;%1&quot; has got the job (%2). Look at its jobs before you print again.</source>
+        <translation>Ob der Drucker „%1“ den Auftrag bekommen hat, ist nicht bekannt (%2). Sehen Sie nach seinen Aufträgen, bevor Sie noch einmal drucken.</translation>
+    </message>
 </context>
 <context>
     <name>RequestedSession</name>

@@ -1498,6 +1498,14 @@ hoja; también «,gap=2mm», y «,marks» para las marcas de corte</translation>
         <source>no reason was given</source>
         <translation>sin indicar el motivo</translation>
     </message>
+    <message>
+        <source>no answer came</source>
+        <translation>no hubo respuesta</translation>
+    </message>
+    <message>
+        <source>It is not known whether the printer &quot;%1&quot; has got the job (%2). Look at its jobs before you print again.</source>
+        <translation>No se sabe si la impresora «%1» ha recibido el trabajo (%2). Mire sus trabajos antes de volver a imprimir.</translation>
+    </message>
 </context>
 <context>
     <name>RequestedSession</name>

@@ -930,19 +930,19 @@ photo remplit sa feuille&#x202f;; aussi «&#x202f;,gap=2mm&#x202f;», et «&#x20
     </message>
     <message>
         <source>Job %1 (%2) could not be canceled: %3</source>
-        <translation>La tâche %1 (%2) n’a pas pu être annulée : %3</translation>
+        <translation>La tâche %1 (%2) n’a pas pu être annulée&#x202f;: %3</translation>
     </message>
     <message>
         <source>Job %1 (%2) could not be held: %3</source>
-        <translation>La tâche %1 (%2) n’a pas pu être retenue : %3</translation>
+        <translation>La tâche %1 (%2) n’a pas pu être retenue&#x202f;: %3</translation>
     </message>
     <message>
         <source>Job %1 (%2) could not be released: %3</source>
-        <translation>La tâche %1 (%2) n’a pas pu être libérée : %3</translation>
+        <translation>La tâche %1 (%2) n’a pas pu être libérée&#x202f;: %3</translation>
     </message>
     <message>
         <source>Job %1 (%2) could not be printed again: %3</source>
-        <translation>La tâche %1 (%2) n’a pas pu être réimprimée : %3</translation>
+        <translation>La tâche %1 (%2) n’a pas pu être réimprimée&#x202f;: %3</translation>
     </message>
     <message>
         <source>Job %1 (%2) cannot be printed again, because the print server has not kept its document. Open the photo in this program and print it from there.</source>
@@ -1368,7 +1368,7 @@ photo remplit sa feuille&#x202f;; aussi «&#x202f;,gap=2mm&#x202f;», et «&#x20
     </message>
     <message>
         <source>Your jobs on the print server: cancel, hold or print them again</source>
-        <translation>Vos tâches sur le serveur d’impression : les annuler, les retenir ou les réimprimer</translation>
+        <translation>Vos tâches sur le serveur d’impression&#x202f;: les annuler, les retenir ou les réimprimer</translation>
     </message>
 </context>
 <context>
@@ -1499,6 +1499,14 @@ photo remplit sa feuille&#x202f;; aussi «&#x202f;,gap=2mm&#x202f;», et «&#x20
     <message>
         <source>no reason was given</source>
         <translation>sans en donner la raison</translation>
+    </message>
+    <message>
+        <source>no answer came</source>
+        <translation>aucune réponse n’est venue</translation>
+    </message>
+    <message>
+        <source>It is not known whether the printer &quot;%1&quot; has got the job (%2). Look at its jobs before you print again.</source>
+        <translation>On ne sait pas si l’imprimante «&#x202f;%1&#x202f;» a reçu la tâche (%2). Regardez ses tâches avant de réimprimer.</translation>
     </message>
 </context>
 <context>
@@ -2746,7 +2754,7 @@ photo remplit sa feuille&#x202f;; aussi «&#x202f;,gap=2mm&#x202f;», et «&#x20
     </message>
     <message>
         <source>%1: %2</source>
-        <translation>%1 : %2</translation>
+        <translation>%1&#xa0;: %2</translation>
     </message>
 </context>
 <context>
@@ -2809,7 +2817,7 @@ photo remplit sa feuille&#x202f;; aussi «&#x202f;,gap=2mm&#x202f;», et «&#x20
     </message>
     <message>
         <source>Your jobs on the print server: %1 not over, %2 over</source>
-        <translation>Vos tâches sur le serveur d’impression : %1 en attente ou en cours, %2 terminées</translation>
+        <translation>Vos tâches sur le serveur d’impression&#x202f;: %1 en attente ou en cours, %2 terminées</translation>
     </message>
 </context>
 <context>
@@ -2963,7 +2971,7 @@ photo remplit sa feuille&#x202f;; aussi «&#x202f;,gap=2mm&#x202f;», et «&#x20
     <name>printdialog::OwnJobs</name>
     <message>
         <source>%1 of %2 jobs were left as they are. The first one: %3</source>
-        <translation>%1 tâches sur %2 sont restées telles quelles. La première : %3</translation>
+        <translation>%1 tâches sur %2 sont restées telles quelles. La première&#x202f;: %3</translation>
     </message>
 </context>
 <context>

@@ -1497,6 +1497,14 @@ contact:行x列 はコンタクトシート。strips または strips:数 は 2 
         <source>no reason was given</source>
         <translation>理由は示されていません</translation>
     </message>
+    <message>
+        <source>no answer came</source>
+        <translation>応答がありません</translation>
+    </message>
+    <message>
+        <source>It is not known whether the printer &quot;%1&quot; has got the job (%2). Look at its jobs before you print again.</source>
+        <translation>プリンター「%1」がジョブを受け取ったかどうか不明です（%2）。もう一度印刷する前に、そのジョブを確認してください。</translation>
+    </message>
 </context>
 <context>
     <name>RequestedSession</name>

@@ -268,7 +268,15 @@ private Q_SLOTS:
             const StubServer server(StubServer::Manner::JobBelowZero, StubServer::Requests::Jobs);
             const auto job = submit();
             QVERIFY(!job);
+            QCOMPARE(job.failure().reason, QueueFault::Unknown);
             QVERIFY2(job.failure().text.contains(u"number"_s), qPrintable(job.failure().text));
+        }
+        {
+            // Whether it has made a job of what it was sent, nobody knows.
+            const StubServer server(StubServer::Manner::Trickling, StubServer::Requests::Jobs);
+            const auto job = submit({}, nullptr, 300ms);
+            QVERIFY(!job);
+            QCOMPARE(job.failure().reason, QueueFault::Unknown);
         }
         {
             // Cleaned, "go\tod" would be another queue.

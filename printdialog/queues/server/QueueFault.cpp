@@ -37,6 +37,8 @@ QString ownReason(QueueFault fault)
         return FaultText::tr("its PPD file is a new one");
     case QueueFault::Absent:
         return FaultText::tr("time limit reached");
+    case QueueFault::Unknown:
+        return FaultText::tr("no answer came");
     case QueueFault::Canceled:
         return FaultText::tr("nothing is printed");
     case QueueFault::Failed:
@@ -72,6 +74,10 @@ QString sentence(QueueFault fault)
         return FaultText::tr(
             "The printer \"%1\" on the network does not answer (%2). Switch it on and choose it "
             "again in a minute, or choose another printer.");
+    case QueueFault::Unknown:
+        return FaultText::tr(
+            "It is not known whether the printer \"%1\" has got the job (%2). Look at its jobs "
+            "before you print again.");
     case QueueFault::Canceled:
         return FaultText::tr("The job for the printer \"%1\" was canceled (%2).");
     case QueueFault::Failed:

@@ -17,6 +17,7 @@ enum class QueueFault {
     TimedOut,     ///< The server was silent or slow for too long.
     Changed,      ///< The queue's PPD has changed since the options were chosen.
     Absent,       ///< The printer announces itself on the network, and does not answer.
+    Unknown,      ///< The job was sent; the server may have it, or not.
     Canceled,     ///< Canceled by the caller.
     Failed        ///< Anything else; the server's own words say what.
 };
