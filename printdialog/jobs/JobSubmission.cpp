@@ -169,7 +169,7 @@ private:
         if (!answer || !connection_.hasSucceeded()) {
             const auto failure = connection_.lastFailure(queue);
             const bool isUnanswered =
-                failure.reason == QueueFault::TimedOut || (!answer && connection_.isBroken());
+                failure.reason == QueueFault::TimedOut || (!answer && connection_.isUnanswered());
             return isSent && isUnanswered ? queueFailure(QueueFault::Unknown, queue, failure.detail)
                                           : failure;
         }

@@ -89,6 +89,9 @@ public:
     bool hasSucceeded() const { return status_ <= IPP_STATUS_OK_CONFLICTING; }
     /// Whether the last request failed because the connection broke.
     bool isBroken() const { return end_ == End::Broken; }
+    /// Whether the last request was sent, and no usable answer came: the server may have done what it was
+    /// asked for. Reaching the time limit is a failure of its own.
+    bool isUnanswered() const { return end_ == End::Broken || end_ == End::Unfit; }
     /// The failure of the last request, or else that the server's answer was not usable.
     Failure<QueueFault> lastFailure(const QString &queue) const;
 
