@@ -55,15 +55,15 @@ Result<QString, SheetPrinter::Fault> SheetPrinter::send(const PrintSheet &sheet)
     PrintJob job = job_;
     job.copies *= sheet.copies;
     if (job.copies > mostJobCopies)
-        return Failure<Fault>{{},
-                              tr("%1 copies of %2 are more than the %3 that a job can have. Print it in several parts.")
-                                  .arg(QString::number(job.copies), document->name,
-                                       QString::number(mostJobCopies)),
-                              {}};
+        return Failure<Fault>{
+            {},
+            tr("%1 copies of %2 are more than the %3 that a job can have. Print it in several parts.")
+                .arg(QString::number(job.copies), document->name, QString::number(mostJobCopies)),
+            {}};
     const auto id = submission_.send(job, *document);
     if (!id)
         return failureOf(id.failure());
-    sent_.append({document->name, *id});
+    sent_.append({document->name, *id, std::nullopt});
     return tr("Sent %1 to %2 as job %3").arg(document->name, job_.destination.id(), QString::number(*id));
 }
 
@@ -89,35 +89,52 @@ QList<int> SheetPrinter::sentJobs() const
     return ids;
 }
 
+SheetPrinter::Outcome SheetPrinter::outcome() const
+{
+    Outcome outcome;
+    for (const SentJob &job : sent_) {
+        const QString id = QString::number(job.id);
+        outcome.jobs += job.end.value_or(JobEnd{
+            JobEnd::Fate::Unknown, tr("The outcome of %1 (job %2) is unknown.").arg(job.sheet, id), job.id});
+        const JobEnd::Fate fate = outcome.jobs.constLast().fate;
+        if (!outcome.failure && (fate == JobEnd::Fate::NotPrinted || fate == JobEnd::Fate::Unknown))
+            outcome.failure = outcome.jobs.constLast().sentence;
+    }
+    return outcome;
+}
+
 SheetPrinter::Outcome SheetPrinter::follow(const FollowLimits &limits,
                                            const std::function<void(int, const QString &)> &news, int *cancel)
 {
     using Clock = std::chrono::steady_clock;
-    Outcome outcome;
     FollowLimits left = limits;
     const auto end = Clock::now() + limits.total;
     for (int i = 0; i < static_cast<int>(sent_.size()); ++i) {
-        const SentJob &job = sent_.at(i);
+        SentJob &job = sent_[i];
+        if (job.end)
+            continue;
         left.total = std::max(FollowLimits::Time(),
                               std::chrono::duration_cast<FollowLimits::Time>(end - Clock::now()));
         const auto status = followJob(
             submission_.connection(), job_.destination.id(), job.id, left,
             [&](const JobStatus &now) { news(i, now.text()); }, cancel);
         if (cancel && std::atomic_ref(*cancel).load() != 0)
-            return outcome;
+            break;
         if (!status) {
-            outcome.failure = tr("The outcome of %1 (job %2) is unknown: %3")
-                                  .arg(job.sheet, QString::number(job.id), status.failure().text);
-            return outcome;
+            job.end = {JobEnd::Fate::Unknown,
+                       tr("The outcome of %1 (job %2) is unknown: %3")
+                           .arg(job.sheet, QString::number(job.id), status.failure().text),
+                       job.id};
+            break;
         }
-        note(job, *status, outcome);
+        job.end = endOf(job, *status);
         if (!status->isOver())
             left.waiting = {};
     }
-    return outcome;
+    return outcome();
 }
 
-void SheetPrinter::note(const SentJob &job, const JobStatus &status, Outcome &outcome) const
+SheetPrinter::JobEnd SheetPrinter::endOf(const SentJob &job, const JobStatus &status) const
 {
     const QString queue = job_.destination.id();
     const QString id = QString::number(job.id);
@@ -128,40 +145,85 @@ void SheetPrinter::note(const SentJob &job, const JobStatus &status, Outcome &ou
                 ? tr("%1 (job %2) is not printed yet: %3. The printer keeps it; cancel it there.")
                 : tr("%1 (job %2) is not printed yet: %3. The print server keeps it; \"cancel %2\" cancels "
                      "it.");
-        outcome.waiting.append(sentence.arg(job.sheet, id, status.text()));
-    } else if (status.state == JobStatus::State::Aborted) {
-        if (!outcome.failure)
-            outcome.failure =
-                tr("The printer \"%1\" could not print %2 (job %3): %4. Look at the printer and print again.")
-                    .arg(queue, job.sheet, id, detail.isEmpty() ? tr("it gave no reason") : detail);
-    } else if (status.state == JobStatus::State::Canceled) {
-        if (!outcome.failure)
-            outcome.failure =
-                tr("The job %3 for %2 on the printer \"%1\" was canceled (%4).")
-                    .arg(queue, job.sheet, id, detail.isEmpty() ? tr("no reason given") : detail);
-    } else {
-        outcome.ids.append(job.id);
-        outcome.printed.append(tr("Printed %1 on %2 (job %3)").arg(job.sheet, queue, id));
+        return {JobEnd::Fate::Waiting, sentence.arg(job.sheet, id, status.text()), job.id};
     }
+    if (status.state == JobStatus::State::Aborted)
+        return {JobEnd::Fate::NotPrinted,
+                tr("The printer \"%1\" could not print %2 (job %3): %4. Look at the printer and print again.")
+                    .arg(queue, job.sheet, id, detail.isEmpty() ? tr("it gave no reason") : detail),
+                job.id};
+    if (status.state == JobStatus::State::Canceled)
+        return {JobEnd::Fate::NotPrinted,
+                tr("The job %3 for %2 on the printer \"%1\" was canceled (%4).")
+                    .arg(queue, job.sheet, id, detail.isEmpty() ? tr("no reason given") : detail),
+                job.id};
+    return {JobEnd::Fate::Printed, tr("Printed %1 on %2 (job %3)").arg(job.sheet, queue, id), job.id};
 }
 
-QStringList SheetPrinter::cancelJobs(int &over)
+/// Asks for the job's state once, and keeps its end when it is over.
+std::optional<JobStatus> SheetPrinter::look(SentJob &job)
+{
+    FollowLimits once;
+    once.total = {};
+    const auto status = followJob(submission_.connection(), job_.destination.id(), job.id, once);
+    if (status && status->isOver())
+        job.end = endOf(job, *status);
+    return status ? std::optional(*status) : std::nullopt;
+}
+
+std::optional<Failure<QueueFault>> SheetPrinter::cancel(SentJob &job)
 {
     constexpr auto patience = 5s;
-    over = 0;
-    QStringList failures;
-    for (const SentJob &job : std::as_const(sent_)) {
-        CupsConnection &connection = submission_.connection();
-        connection.heed(nullptr);
-        connection.extend(patience);
-        const auto canceled = cancelJob(connection, job_.destination.id(), job.id);
-        if (!canceled)
-            failures.append(tr("The job %1 for %2 could not be canceled: %3")
-                                .arg(QString::number(job.id), job.sheet, canceled.failure().text));
-        else if (!*canceled)
-            ++over;
+    CupsConnection &connection = submission_.connection();
+    connection.heed(nullptr);
+    connection.extend(patience);
+    const QString id = QString::number(job.id);
+    const auto canceled = cancelJob(connection, job_.destination.id(), job.id);
+    if (!canceled) {
+        Failure<QueueFault> failure = canceled.failure();
+        failure.text = tr("The job %1 for %2 could not be canceled: %3").arg(id, job.sheet, failure.text);
+        job.end = {JobEnd::Fate::Waiting, failure.text, job.id};
+        return failure;
     }
-    return failures;
+    if (*canceled)
+        job.end = {JobEnd::Fate::Canceled, tr("%1 (job %2) was canceled.").arg(job.sheet, id), job.id};
+    else
+        look(job);
+    return std::nullopt;
+}
+
+SheetPrinter::Outcome SheetPrinter::cancelJobs(Canceling which)
+{
+    qsizetype first = 0;
+    bool isReachable = true;
+    if (which == Canceling::AllButCurrent) {
+        for (bool isOver = true; isReachable && isOver && first < sent_.size(); ++first) {
+            isReachable = sent_.at(first).end || look(sent_[first]);
+            isOver = sent_.at(first).end.has_value();
+        }
+    }
+    QStringList failures;
+    // The last one first, so that no other begins to print meanwhile.
+    for (qsizetype i = sent_.size() - 1; isReachable && i >= first; --i) {
+        SentJob &job = sent_[i];
+        if (job.end && job.end->fate != JobEnd::Fate::Waiting)
+            continue;
+        if (which == Canceling::AllButCurrent) {
+            const auto status = look(job);
+            isReachable = status.has_value();
+            if (!status || status->isOver() || status->state == JobStatus::State::Processing ||
+                status->state == JobStatus::State::Stopped)
+                continue;
+        }
+        if (const auto failure = cancel(job)) {
+            failures.prepend(failure->text);
+            isReachable = failure->reason != QueueFault::NoServer &&
+                          failure->reason != QueueFault::TimedOut && !submission_.connection().isBroken();
+        }
+    }
+    Outcome result = outcome();
+    result.failure = failures.isEmpty() ? std::nullopt : std::optional(failures.join(u' '));
+    return result;
 }
 
 } // namespace printdialog

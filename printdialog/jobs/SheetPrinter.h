@@ -17,9 +17,9 @@
 
 namespace printdialog {
 
-/// Prints sheets one after the other, on a queue, each as a job of its own, or the built-in printer, which gives each
-/// sheet's files different names. The jobs of a queue can be followed to their end, or canceled. Blocking, for a worker
-/// thread or the command line; one thread at a time.
+/// Prints sheets one after the other, on a queue, each as a job of its own, or the built-in printer, which
+/// gives each sheet's files different names. The jobs of a queue can be followed to their end, or canceled.
+/// Blocking, for a worker thread or the command line; one thread at a time.
 class SheetPrinter
 {
     Q_DECLARE_TR_FUNCTIONS(printdialog::SheetPrinter)
@@ -47,12 +47,26 @@ public:
     /// The ids of the jobs sent to the queue; empty for the built-in printer.
     QList<int> sentJobs() const;
 
+    /// What has become of a job that was sent to the queue.
+    struct JobEnd
+    {
+        enum class Fate {
+            Printed,    ///< Completed, as the server reports.
+            Waiting,    ///< The server keeps it, and may still print it.
+            NotPrinted, ///< Over without being printed.
+            Canceled,   ///< By cancelJobs().
+            Unknown     ///< The server does not say.
+        };
+
+        Fate fate = Fate::Unknown;
+        QString sentence; ///< For people, with the reason.
+        int id = 0;
+    };
+
     /// The outcome of the jobs sent to the queue.
     struct Outcome
     {
-        QStringList printed; ///< A sentence for each job that the server reports as completed.
-        QList<int> ids;      ///< The ids of those jobs.
-        QStringList waiting; ///< A sentence with the reason for each job that waits; the server keeps it.
+        QList<JobEnd> jobs;             ///< In the order in which they were sent.
         std::optional<QString> failure; ///< Why a job was not printed; a sentence about the first one.
     };
 
@@ -63,19 +77,29 @@ public:
     Outcome follow(const FollowLimits &limits, const std::function<void(int sheet, const QString &)> &news,
                    int *cancel);
 
-    /// Cancels the jobs that are not over. Returns a sentence for each one that could not be canceled.
-    /// @param over set to the number of jobs that were already over
-    QStringList cancelJobs(int &over);
+    enum class Canceling {
+        All,
+        AllButCurrent ///< The first that is not over stays, and what has begun to print.
+    };
+
+    /// Cancels the jobs that are not over, the last one first. The failure is about those that could not be
+    /// canceled, a sentence for each; a server that does not answer is not asked again. Those that stay can
+    /// be followed.
+    Outcome cancelJobs(Canceling which);
 
 private:
     struct SentJob
     {
         QString sheet; ///< Its name.
         int id;
+        std::optional<JobEnd> end; ///< Once it is known.
     };
 
     Result<QString, Fault> send(const PrintSheet &sheet);
-    void note(const SentJob &job, const JobStatus &status, Outcome &outcome) const;
+    JobEnd endOf(const SentJob &job, const JobStatus &status) const;
+    Outcome outcome() const;
+    std::optional<JobStatus> look(SentJob &job);
+    std::optional<Failure<QueueFault>> cancel(SentJob &job);
 
     PrintJob job_;
     JobSubmission submission_;

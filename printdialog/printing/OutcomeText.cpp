@@ -13,23 +13,22 @@ QString OutcomeText::summary() const
     QStringList lines;
     if (outcome_.wasStopped && outcome_.total == 1)
         lines += outcome_.done == 1 ? outcome_.printed.join(u'\n') : tr("Printing was stopped.");
-    else if (outcome_.wasStopped)
-        lines += tr("Printing was stopped: printed %1 of %2 photos.").arg(outcome_.done).arg(outcome_.total);
     else if (outcome_.total == 1)
-        lines += outcome_.printed + outcome_.waiting;
+        lines += outcome_.printed + outcome_.waiting + outcome_.skipped;
     else
-        lines += counted();
-    if (outcome_.skipped.size() == 1)
-        lines += outcome_.skipped;
-    else if (!outcome_.skipped.isEmpty())
-        lines += tr("%1 photos cannot be printed.").arg(outcome_.skipped.size());
+        lines += (counted() + u' ' + others()).trimmed();
     lines += outcome_.failure;
+    if (outcome_.total > 1 && outcome_.failure.isEmpty() &&
+        outcome_.waiting.size() + outcome_.skipped.size() == 1)
+        lines += outcome_.waiting + outcome_.skipped;
     lines.removeAll(QString());
     return lines.join(u'\n');
 }
 
 QString OutcomeText::counted() const
 {
+    if (outcome_.wasStopped)
+        return tr("Printing was stopped: printed %1 of %2 photos.").arg(outcome_.done).arg(outcome_.total);
     if (outcome_.done == outcome_.total)
         return allPrinted();
     if (!job_.destination.isBuiltIn() && !outcome_.isFollowed)
@@ -37,13 +36,23 @@ QString OutcomeText::counted() const
                                           : tr("Sent %1 of %2 photos to %3, which continues printing.")
                                                 .arg(QString::number(outcome_.printed.size()),
                                                      QString::number(outcome_.total), job_.destination.id());
-    QString text = tr("Printed %1 of %2 photos.").arg(outcome_.done).arg(outcome_.total);
-    if (outcome_.waiting.size() == 1)
-        text += u'\n' + outcome_.waiting.constFirst();
-    else if (!outcome_.waiting.isEmpty())
-        text +=
-            u'\n' + tr("Not printed yet: %1; the print server keeps the jobs.").arg(outcome_.waiting.size());
-    return text;
+    return tr("Printed %1 of %2 photos.").arg(outcome_.done).arg(outcome_.total);
+}
+
+/// How many are not among the printed ones, each for its reason.
+QString OutcomeText::others() const
+{
+    QStringList parts;
+    const auto add = [&parts](const QString &text, qsizetype count) {
+        if (count > 0)
+            parts += text.arg(count);
+    };
+    // After a stop, it is what is left.
+    add(tr("Not printed: %1."), outcome_.wasStopped ? 0 : outcome_.unprinted.size());
+    add(tr("Perhaps printed: %1."), outcome_.unknown.size());
+    add(tr("Waiting at the printer: %1."), outcome_.waiting.size());
+    add(tr("Cannot be printed: %1."), outcome_.skipped.size());
+    return parts.join(u' ');
 }
 
 QString OutcomeText::allPrinted() const
@@ -63,10 +72,12 @@ QString OutcomeText::allPrinted() const
 
 QString OutcomeText::details() const
 {
-    // When the run was stopped, photos that were only sent are not printed, so they are not listed.
-    const bool isTold =
-        outcome_.total == 1 || (outcome_.wasStopped && !outcome_.isFollowed && !job_.destination.isBuiltIn());
-    return isTold ? QString() : (outcome_.printed + outcome_.waiting + outcome_.skipped).join(u'\n');
+    if (outcome_.total == 1)
+        return {};
+    QStringList lines;
+    for (const UnprintedSheet &sheet : outcome_.unprinted)
+        lines += sheet.sentence;
+    return (lines + outcome_.unknown + outcome_.waiting + outcome_.skipped + outcome_.printed).join(u'\n');
 }
 
 } // namespace printdialog

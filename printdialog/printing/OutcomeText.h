@@ -9,8 +9,8 @@
 
 namespace printdialog {
 
-/// The report on a run: the photo's sentence when there is one photo, else how many were printed, with the
-/// sentences as details.
+/// The report on a run: the photo's sentence when there is one photo, else how many were printed and how many
+/// were not, with the sentences as details.
 class OutcomeText
 {
     Q_DECLARE_TR_FUNCTIONS(printdialog::OutcomeText)
@@ -24,12 +24,13 @@ public:
 
     /// A few lines, whatever the number of photos.
     QString summary() const;
-    /// A line for each photo; empty when the summary says everything.
+    /// A line for each photo, those first that were not printed; empty when the summary says everything.
     QString details() const;
 
 private:
     QString counted() const;
     QString allPrinted() const;
+    QString others() const;
 
     const PrintOutcome &outcome_;
     const PrintJob &job_;

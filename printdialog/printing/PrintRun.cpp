@@ -48,7 +48,7 @@ PrintOutcome PrintRun::print(qsizetype count, const SheetSource &sheets)
     };
     std::deque<Ahead> ahead;
     const qsizetype most = 1 + std::clamp(std::thread::hardware_concurrency(), 1U, mostChecks);
-    for (index_ = 0; index_ < count && !isRaised(flags_.cancel); ++index_) {
+    for (index_ = 0; index_ < count && !isRaised(flags_.cancel) && !isRaised(flags_.finish); ++index_) {
         while (std::ssize(ahead) < most && index_ + std::ssize(ahead) < count) {
             Ahead next{sheets(index_ + std::ssize(ahead)), nullptr};
             next.check = std::make_unique<PhotoCheck>(next.sheet.photosToCheck());
@@ -59,14 +59,32 @@ PrintOutcome PrintRun::print(qsizetype count, const SheetSource &sheets)
         if (!printOne(current.sheet))
             break;
     }
-    const bool isFine = outcome_.failure.isEmpty() && !isRaised(flags_.cancel);
-    if (isFine && !printer_.sentJobs().isEmpty() && limits_.total > FollowLimits::Time::zero())
-        follow();
+    noteUnsent();
+    const bool hasJobs = !printer_.sentJobs().isEmpty();
+    const bool isFollowed = hasJobs && limits_.total > FollowLimits::Time::zero();
+    if (isFollowed && whyUnsent_.isEmpty() && !isRaised(flags_.cancel))
+        follow(flags_.leave);
+    if (isFollowed && isRaised(flags_.finish) && !isRaised(flags_.cancel)) {
+        cancelJobs(SheetPrinter::Canceling::AllButCurrent);
+        follow(flags_.cancel);
+    }
+    if (isRaised(flags_.finish))
+        outcome_.wasStopped = outcome_.failure.isEmpty() && !outcome_.unprinted.isEmpty();
     // Files of the built-in printer cannot be taken back, which needs no message when all are written.
-    const bool isOver = index_ == count && printer_.sentJobs().isEmpty();
-    if (isRaised(flags_.cancel) && !isRaised(flags_.keep) && !isOver)
-        cancelJobs();
+    if (isRaised(flags_.cancel) && !isRaised(flags_.keep) && (hasJobs || index_ < count)) {
+        cancelJobs(SheetPrinter::Canceling::All);
+        outcome_.wasStopped = outcome_.failure.isEmpty();
+    }
     return outcome_;
+}
+
+/// The sheets from the one on at which the sending has ended. What has become of that one may be known.
+void PrintRun::noteUnsent()
+{
+    whyUnsent_ = outcome_.failure;
+    outcome_.unknown = unanswered_;
+    for (qsizetype index = index_ + unanswered_.size(); index < outcome_.total; ++index)
+        outcome_.unprinted.append({index, index == index_ ? whyUnsent_ : QString()});
 }
 
 /// False: stop; do not print the next sheet.
@@ -75,6 +93,11 @@ bool PrintRun::printOne(const PrintSheet &sheet)
     name_ = sheet.name;
     listener_.sending(index_, name_, 0, 0);
     const auto printed = printer_.print(sheet);
+    if (!printed && printed.failure().reason.queue == QueueFault::Unknown) {
+        outcome_.failure = printed.failure().text;
+        unanswered_.append(outcome_.failure);
+        return false;
+    }
     if (!printed && isRaised(flags_.cancel))
         return false;
     if (!printed && printed.failure().reason.isPhotoFault) {
@@ -90,34 +113,62 @@ bool PrintRun::printOne(const PrintSheet &sheet)
     outcome_.jobs = printer_.sentJobs();
     if (outcome_.jobs.isEmpty())
         ++outcome_.done;
+    else
+        sent_.append(index_);
     outcome_.names.append(name_);
     outcome_.printed.append(*printed);
     listener_.printed(outcome_.printed.constLast());
     return true;
 }
 
-void PrintRun::follow()
+void PrintRun::follow(int *leave)
 {
-    const QStringList names = outcome_.names;
     const auto news = [&](int sheet, const QString &state) {
-        listener_.following(sheet, names.value(sheet), state);
+        listener_.following(sheet, outcome_.names.value(sheet), state);
     };
-    const SheetPrinter::Outcome followed = printer_.follow(limits_, news, flags_.leave);
-    outcome_.isFollowed = true;
-    outcome_.printed = followed.printed;
-    outcome_.jobs = followed.ids;
-    outcome_.done = static_cast<int>(followed.printed.size());
-    outcome_.waiting = followed.waiting;
-    outcome_.failure = followed.failure.value_or(QString());
+    note(printer_.follow(limits_, news, leave));
 }
 
-void PrintRun::cancelJobs()
+void PrintRun::cancelJobs(SheetPrinter::Canceling which)
 {
-    int over = 0;
-    const QStringList failures = printer_.cancelJobs(over);
-    outcome_.done = std::max(outcome_.done, over);
-    outcome_.wasStopped = failures.isEmpty();
-    outcome_.failure = failures.join(u' ');
+    const SheetPrinter::Outcome canceled = printer_.cancelJobs(which);
+    if (!sent_.isEmpty())
+        note(canceled);
+    outcome_.failure = canceled.failure.value_or(QString());
+}
+
+/// What is known of the jobs takes the place of what was noted when they were sent.
+void PrintRun::note(const SheetPrinter::Outcome &found)
+{
+    using Fate = SheetPrinter::JobEnd::Fate;
+    outcome_.isFollowed = true;
+    outcome_.failure = whyUnsent_.isEmpty() ? found.failure.value_or(QString()) : whyUnsent_;
+    outcome_.printed.clear();
+    outcome_.jobs.clear();
+    outcome_.waiting.clear();
+    outcome_.unknown = unanswered_;
+    erase_if(outcome_.unprinted, [this](const UnprintedSheet &sheet) { return sent_.contains(sheet.index); });
+    for (qsizetype i = 0; i < found.jobs.size(); ++i) {
+        const SheetPrinter::JobEnd &job = found.jobs.at(i);
+        switch (job.fate) {
+        case Fate::Printed:
+            outcome_.printed.append(job.sentence);
+            outcome_.jobs.append(job.id);
+            break;
+        case Fate::Waiting:
+            outcome_.waiting.append(job.sentence);
+            break;
+        case Fate::NotPrinted:
+        case Fate::Canceled:
+            outcome_.unprinted.append({sent_.at(i), job.sentence});
+            break;
+        case Fate::Unknown:
+            outcome_.unknown.append(job.sentence);
+            break;
+        }
+    }
+    std::ranges::sort(outcome_.unprinted, {}, &UnprintedSheet::index);
+    outcome_.done = static_cast<int>(outcome_.printed.size());
 }
 
 } // namespace printdialog

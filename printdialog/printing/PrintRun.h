@@ -11,21 +11,31 @@
 
 namespace printdialog {
 
-/// The outcome of one run.
+/// A sheet that was not printed, and that no job at the print server holds either.
+struct UnprintedSheet
+{
+    qsizetype index = 0; ///< among the run's sheets
+    QString sentence;    ///< Why; empty for a sheet that the run did not get to.
+};
+
+/// The outcome of one run. Each sheet is in exactly one of `printed`, `skipped`, `waiting`, `unknown` and
+/// `unprinted`.
 struct PrintOutcome
 {
-    QStringList printed;      ///< A sentence for each sheet that was printed, or only sent (see isFollowed).
-    QStringList names;        ///< The names of these sheets, in the same order.
-    QList<int> jobs;          ///< The ids of the jobs that `printed` names; none from the built-in printer.
-    QStringList skipped;      ///< A sentence for each sheet that cannot be printed; the others were.
-    QStringList waiting;      ///< A sentence for each sheet whose job waits at the print server.
-    QString failure;          ///< Why the rest was not printed; empty when nothing stopped the run.
-    int total = 0;            ///< The number of sheets to print.
-    int done = 0;             ///< The number of sheets printed, also in a run that was stopped.
-    bool wasStopped = false;  ///< Stopped by the user, without any failure.
-    bool isFollowed = false;  ///< The jobs were followed to their end.
-    bool hasDamaged = false;  ///< Nothing was printed: a photo is damaged and was not accepted.
-    bool hasOtherPpd = false; ///< The queue's PPD has changed since the options were chosen.
+    QStringList printed; ///< A sentence for each sheet that was printed, or only sent (see isFollowed).
+    QStringList names;   ///< The names of the sheets that were printed or sent.
+    QList<int> jobs;     ///< The ids of the jobs that `printed` names; none from the built-in printer.
+    QStringList skipped; ///< A sentence for each sheet that cannot be printed; the others were.
+    QStringList waiting; ///< A sentence for each sheet whose job waits at the print server.
+    QStringList unknown; ///< A sentence for each sheet that may be printed, or not: the server does not say.
+    QList<UnprintedSheet> unprinted; ///< In the order of the sheets.
+    QString failure;                 ///< Why the rest was not printed; empty when nothing stopped the run.
+    int total = 0;                   ///< The number of sheets to print.
+    int done = 0;                    ///< The number of sheets printed, also in a run that was stopped.
+    bool wasStopped = false;         ///< Stopped by the user, without any failure.
+    bool isFollowed = false;         ///< The jobs were followed to their end.
+    bool hasDamaged = false;         ///< Nothing was printed: a photo is damaged and was not accepted.
+    bool hasOtherPpd = false;        ///< The queue's PPD has changed since the options were chosen.
 };
 
 /// Flags that stop a run. They are raised by another thread or a signal handler. They are plain ints, since
@@ -35,6 +45,9 @@ struct PrintRunFlags
     int *cancel = nullptr; ///< Send nothing more, and cancel the jobs that are not over.
     int *keep = nullptr;   ///< With `cancel`: do not cancel jobs that were sent.
     int *leave = nullptr;  ///< Stop following.
+    /// With `leave`: send nothing more after the sheet being sent, cancel the jobs behind the one that is
+    /// being printed, and follow that one to its end.
+    int *finish = nullptr;
 };
 
 /// Receives the progress of a run, on the run's thread.
@@ -73,16 +86,22 @@ private:
     static bool isRaised(int *flag);
 
     bool printOne(const PrintSheet &sheet);
-    void follow();
-    void cancelJobs();
+    /// @param leave non-zero: stop
+    void follow(int *leave);
+    void cancelJobs(SheetPrinter::Canceling which);
+    void note(const SheetPrinter::Outcome &found);
+    void noteUnsent();
 
     PrintRunListener &listener_;
     PrintRunFlags flags_;
     FollowLimits limits_;
     PrintOutcome outcome_;
-    qsizetype index_ = 0;  ///< of the sheet being sent
-    QString name_;         ///< that sheet's name
-    SheetPrinter printer_; ///< last, since its callbacks use the members above
+    qsizetype index_ = 0;    ///< of the sheet being sent
+    QList<qsizetype> sent_;  ///< the sheets whose jobs were sent
+    QString whyUnsent_;      ///< why the run did not get to all sheets; empty without a failure
+    QStringList unanswered_; ///< a sentence when the server did not say whether it has got the last one
+    QString name_;           ///< that sheet's name
+    SheetPrinter printer_;   ///< last, since its callbacks use the members above
 };
 
 } // namespace printdialog

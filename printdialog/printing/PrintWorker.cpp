@@ -6,6 +6,8 @@
 #include <algorithm>
 #include <atomic>
 #include <functional>
+#include <numeric>
+#include <optional>
 
 namespace printdialog {
 
@@ -18,8 +20,10 @@ struct PrintWorker::Flags
     int cancel = 0; ///< send nothing more
     int keep = 0;   ///< with cancel: do not cancel jobs that were sent
     int leave = 0;  ///< stop following
+    int finish = 0; ///< with leave: print nothing after the current sheet
     int following = 0;
     std::atomic<int> sent = 0;
+    std::atomic<int> total = 0;
 };
 
 namespace {
@@ -100,10 +104,13 @@ bool isAnyDamaged(const QList<PlacedPhoto> &photos, const Progress &progress, in
     return false;
 }
 
-PrintOutcome printed(const Arrangement &arrangement, const SheetPlan &plan, PrintRun &run,
-                     const Progress &progress, int &cancel)
+PrintOutcome printed(const Arrangement &arrangement, const SheetPlan &plan, const QList<qsizetype> &indexes,
+                     PrintRun &run, const Progress &progress, int &cancel)
 {
     PrintOutcome outcome;
+    const auto sheetAt = [&](qsizetype index) {
+        return arrangement.sheet(plan.sheets().at(index));
+    };
     if (plan.failure()) {
         outcome.failure = plan.failure()->text;
         return outcome;
@@ -112,8 +119,13 @@ PrintOutcome printed(const Arrangement &arrangement, const SheetPlan &plan, Prin
     outcome.hasDamaged = isAnyDamaged(arrangement.photos, progress, cancel);
     if (outcome.hasDamaged)
         return outcome;
-    return run.print(plan.sheets().size(),
-                     [&](qsizetype index) { return arrangement.sheet(plan.sheets().at(index)); });
+    outcome = run.print(indexes.size(), [&](qsizetype sheet) { return sheetAt(indexes.at(sheet)); });
+    for (UnprintedSheet &sheet : outcome.unprinted) {
+        sheet.index = indexes.at(sheet.index);
+        if (sheet.sentence.isEmpty())
+            sheet.sentence = PrintWorker::tr("%1 was not printed.").arg(sheetAt(sheet.index).name);
+    }
+    return outcome;
 }
 
 } // namespace
@@ -142,11 +154,24 @@ int PrintWorker::sent() const
     return flags_ ? flags_->sent.load() : 0;
 }
 
+int PrintWorker::total() const
+{
+    return flags_ ? flags_->total.load() : 0;
+}
+
 void PrintWorker::cancel()
 {
     if (!flags_)
         return;
     Flags::raise(flags_->cancel);
+    Flags::raise(flags_->leave);
+}
+
+void PrintWorker::finish()
+{
+    if (!flags_)
+        return;
+    Flags::raise(flags_->finish); // before the thread sees that it is to stop following
     Flags::raise(flags_->leave);
 }
 
@@ -158,20 +183,26 @@ void PrintWorker::giveUp()
     cancel();
 }
 
-void PrintWorker::print(const Arrangement &arrangement, const PrintJob &job)
+void PrintWorker::print(const Arrangement &arrangement, const PrintJob &job,
+                        const std::optional<QList<qsizetype>> &only)
 {
     auto outcome = std::make_shared<PrintOutcome>();
     flags_ = std::make_shared<Flags>();
     // The destructor waits for the thread, so the thread may use this object.
-    thread_.reset(QThread::create(
-        [this, flags = flags_, wanted = job.isRaw() ? arrangement.unplaced() : arrangement, job, outcome] {
+    thread_.reset(
+        QThread::create([this, flags = flags_, wanted = job.isRaw() ? arrangement.unplaced() : arrangement,
+                         job, only, outcome] {
             const SheetPlan plan = wanted.plan(job.page);
             const auto say = [this](const QString &text, qint64 done, qint64 total) {
                 Q_EMIT progress(text, done, total);
             };
-            Progress listener(plan.sheets().size(), job.destination, flags->sent, flags->following, say);
-            PrintRun run(job, listener, {&flags->cancel, &flags->keep, &flags->leave});
-            *outcome = printed(wanted, plan, run, listener, flags->cancel);
+            QList<qsizetype> indexes = only.value_or(QList<qsizetype>(plan.sheets().size()));
+            if (!only)
+                std::iota(indexes.begin(), indexes.end(), 0);
+            flags->total = static_cast<int>(indexes.size());
+            Progress listener(indexes.size(), job.destination, flags->sent, flags->following, say);
+            PrintRun run(job, listener, {&flags->cancel, &flags->keep, &flags->leave, &flags->finish});
+            *outcome = printed(wanted, plan, indexes, run, listener, flags->cancel);
         }));
     connect(thread_.get(), &QThread::finished, this, [this, outcome] {
         thread_.release()->deleteLater();

@@ -27,8 +27,14 @@ public:
     bool isFollowing() const;
     /// The number of sheets sent or written.
     int sent() const;
+    /// The number of sheets of the run; 0 when it is not known yet.
+    int total() const;
     /// Prints the sheets one after the other with the job's settings. Not while busy.
-    void print(const Arrangement &arrangement, const PrintJob &job);
+    /// @param only the indexes of the sheets to print, among those of the arrangement; nothing: all
+    void print(const Arrangement &arrangement, const PrintJob &job,
+               const std::optional<QList<qsizetype>> &only = std::nullopt);
+    /// Prints the sheet to its end that is being printed, and nothing after it.
+    void finish();
     /// Sends nothing more, and cancels the jobs that are not over.
     void cancel();
     /// Sends nothing more, cancels the job being sent, and stops following. Jobs already sent continue to

@@ -44,7 +44,7 @@ void PrintDialog::print()
 void PrintDialog::cancelOrStop()
 {
     if (printing_->isBusy())
-        printing_->stop();
+        printing_->askHowToStop();
     else
         closeUnlessPageStays();
 }

@@ -19,6 +19,7 @@
 #include <QtCore/QFileInfo>
 #include <QtCore/QTemporaryDir>
 
+#include <algorithm>
 #include <utility>
 
 namespace printdialog {
@@ -31,7 +32,7 @@ PrintingController::PrintingController(const Widgets &widgets, ChoiceController 
 {
     connect(worker_, &PrintWorker::finished, this, &PrintingController::showOutcome);
     connect(worker_, &PrintWorker::progress, this, [this](const QString &text, qint64 done, qint64 total) {
-        if (!isStopping_)
+        if (stopping_ == Stopping::No)
             widgets_.progress->show(text, done, total);
     });
 }
@@ -58,11 +59,11 @@ bool PrintingController::print(int copies, const QString &folder, const Queue &q
     const std::optional<SessionJob> made = makeJob(copies);
     if (!made)
         return false;
-    start(widgets_.photos->arrangement(), *made, folder, queue);
+    begin(widgets_.photos->arrangement(), *made, folder, queue);
     return true;
 }
 
-void PrintingController::start(const Arrangement &arrangement, const SessionJob &made, const QString &folder,
+void PrintingController::begin(const Arrangement &arrangement, const SessionJob &made, const QString &folder,
                                const Queue &queue)
 {
     widgets_.message->clear();
@@ -72,9 +73,8 @@ void PrintingController::start(const Arrangement &arrangement, const SessionJob 
     job_.folder = {folder};
     job_.announcedUri = queue.isAnnounced ? queue.deviceUri : QString();
     remarks_ = made.remarks;
-    widgets_.progress->show(tr("Printing…"));
-    worker_->print(arrangement, job_);
-    Q_EMIT stateChanged();
+    arrangement_ = arrangement;
+    start(std::nullopt);
 }
 
 void PrintingController::printTestPage(const QString &folder, const Queue &queue)
@@ -92,7 +92,23 @@ void PrintingController::printTestPage(const QString &folder, const Queue &queue
             tr("The test page could not be made in \"%1\". Free some space there.").arg(QDir::tempPath()));
         return;
     }
-    start({{{*photo, {Scaling::Fill}, true}}}, *made, folder, queue);
+    begin({{{*photo, {Scaling::Fill}, true}}}, *made, folder, queue);
+}
+
+void PrintingController::start(const std::optional<QList<qsizetype>> &only)
+{
+    widgets_.progress->show(tr("Printing…"));
+    worker_->print(arrangement_, job_, only);
+    Q_EMIT stateChanged();
+}
+
+/// With the choices of the run that did not print them, whatever has been chosen since.
+void PrintingController::printRest(const QList<qsizetype> &rest)
+{
+    if (isBusy())
+        return;
+    widgets_.message->clear();
+    start(rest);
 }
 
 /// Also saves the choices for the next time. When no job can be made, the user sees why.
@@ -159,7 +175,7 @@ void PrintingController::showOutcome(const PrintOutcome &outcome)
 {
     widgets_.progress->hide();
     hasPrinted_ = hasPrinted_ || !outcome.hasDamaged;
-    isStopping_ = false;
+    stopping_ = Stopping::No;
     Q_EMIT stateChanged();
     if (outcome.hasDamaged)
         return askAboutDamage();
@@ -175,7 +191,16 @@ void PrintingController::showOutcome(const PrintOutcome &outcome)
     message.details = text.details();
     if (job_.destination.isBuiltIn() && outcome.done > 0)
         message.folder = QFileInfo(job_.folder.path).absoluteFilePath();
-    if (!outcome.waiting.isEmpty())
+    // The rest of one is all of it. With another PPD, the run's choices are not the printer's any more.
+    if (!outcome.unprinted.isEmpty() && outcome.total > 1 && !outcome.hasOtherPpd) {
+        QList<qsizetype> rest;
+        for (const UnprintedSheet &sheet : outcome.unprinted)
+            rest.append(sheet.index);
+        message.actions.append({tr("Print the Rest"), [this, rest] {
+                                    printRest(rest);
+                                }});
+    }
+    if (!outcome.waiting.isEmpty() || !outcome.unknown.isEmpty())
         message.actions.append({tr("Jobs…"), [this] {
                                     Q_EMIT jobsRequested();
                                 }});
@@ -186,13 +211,36 @@ void PrintingController::showOutcome(const PrintOutcome &outcome)
 
 // The end: of printing, and of the window
 
-void PrintingController::stop()
+void PrintingController::stop(Stopping how)
 {
     widgets_.message->clear();
-    isStopping_ = true;
-    widgets_.progress->show(tr("Stopping…"));
-    worker_->cancel();
+    stopping_ = how;
+    if (how == Stopping::AtOnce) {
+        widgets_.progress->show(tr("Stopping…"));
+        worker_->cancel();
+    } else {
+        widgets_.progress->show(tr("Stopping after this photo…"));
+        worker_->finish();
+    }
     Q_EMIT stateChanged();
+}
+
+void PrintingController::askHowToStop()
+{
+    asksToClose_ = false;
+    QList<MessageBar::Action> answers;
+    const bool hasOthers = worker_->total() != 1;
+    if (hasOthers && stopping_ == Stopping::No)
+        answers.append({tr("Stop After This Photo"), [this] {
+                            stop(Stopping::AfterSheet);
+                        }});
+    answers.append({hasOthers ? tr("Stop at Once") : tr("Stop Printing"), [this] {
+                        stop(Stopping::AtOnce);
+                    }});
+    answers.append({tr("Continue"), [this] {
+                        Q_EMIT dismissed();
+                    }});
+    widgets_.message->ask(tr("Stop printing? Photos not printed yet are canceled."), answers);
 }
 
 // Users press Escape to dismiss a question, too.
@@ -201,16 +249,8 @@ void PrintingController::askToStop()
     if (widgets_.message->isAsking()) {
         widgets_.message->clear();
         Q_EMIT dismissed();
-    } else if (!isStopping_) {
-        asksToClose_ = false;
-        widgets_.message->ask(tr("Stop printing? Photos not printed yet are canceled."),
-                              {{tr("Stop Printing"),
-                                [this] {
-                                    stop();
-                                }},
-                               {tr("Continue"), [this] {
-                                    Q_EMIT dismissed();
-                                }}});
+    } else if (!isStopping()) {
+        askHowToStop();
     }
 }
 
@@ -238,7 +278,7 @@ QString PrintingController::whatContinues() const
 {
     if (worker_->isFollowing())
         return tr("The print server continues printing when this window is closed.");
-    const auto count = static_cast<int>(widgets_.photos->photos().size());
+    const int count = std::max(worker_->total(), 1);
     if (job_.destination.isBuiltIn())
         return tr("Printed so far: %1 of %2 photos. The rest is not printed when this window is closed.")
             .arg(worker_->sent())

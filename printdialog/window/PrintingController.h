@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "Arrangement.h"
 #include "PrintJob.h"
 
 #include <QtCore/QObject>
@@ -54,13 +55,14 @@ public:
     /// Prints the test page for the print position with the session's choices, in one copy. Not while busy.
     void printTestPage(const QString &folder, const Queue &queue);
     bool isBusy() const;
-    /// Whether the user wants the run stopped that is under way.
-    bool isStopping() const { return isStopping_; }
+    /// Whether the run under way is being stopped, and nothing more can be done about it.
+    bool isStopping() const { return stopping_ == Stopping::AtOnce; }
     /// Whether there was a run, whatever became of it.
     bool hasPrinted() const { return hasPrinted_; }
 
-    void stop();
-    /// Escape while it prints: asks whether to stop, or dismisses a question.
+    /// Asks how to stop: after the current sheet, or at once.
+    void askHowToStop();
+    /// Escape while it prints: asks the same, or dismisses a question.
     void askToStop();
     /// Whether the window may close now. While it prints, the user is asked first; asking to close again is
     /// an answer, too, and gives up the run.
@@ -81,10 +83,15 @@ Q_SIGNALS:
     void ppdChanged(const printdialog::Destination &destination, const QString &reason);
 
 private:
+    enum class Stopping { No, AfterSheet, AtOnce };
+
+    void start(const std::optional<QList<qsizetype>> &only);
+    void printRest(const QList<qsizetype> &rest);
+    void stop(Stopping how);
     void askAboutDamage();
     void askAboutMissing(const QStringList &missing);
     std::optional<SessionJob> makeJob(int copies);
-    void start(const Arrangement &arrangement, const SessionJob &made, const QString &folder,
+    void begin(const Arrangement &arrangement, const SessionJob &made, const QString &folder,
                const Queue &queue);
     void showOutcome(const PrintOutcome &outcome);
     QString whatContinues() const;
@@ -95,11 +102,12 @@ private:
     std::unique_ptr<QTemporaryDir> testPage_; ///< holds its picture
     DialogSession *session_ = nullptr;
     PrintJob job_;                ///< of what is being printed, or was
+    Arrangement arrangement_;     ///< what is being printed, or was
     QStringList remarks_;         ///< what was left out of it
     QStringList acceptedMissing_; ///< what is missing of the job, and the user prints without
     QString notKept_;             ///< why the choices are not kept for the next time; mostly empty
     bool hasPrinted_ = false;
-    bool isStopping_ = false;
+    Stopping stopping_ = Stopping::No;
     bool asksToClose_ = false; ///< the question in the message bar is whether to close the window
 };
 

@@ -2915,16 +2915,24 @@ Foto sein Blatt; auch „,gap=2mm“ und „,marks“ für Schnittmarken</transl
         <translation>%1 von %2 Fotos gedruckt.</translation>
     </message>
     <message>
-        <source>Not printed yet: %1; the print server keeps the jobs.</source>
-        <translation>Noch nicht gedruckt: %1; der Druckserver behält die Aufträge.</translation>
-    </message>
-    <message>
-        <source>%1 photos cannot be printed.</source>
-        <translation>%1 Fotos lassen sich nicht drucken.</translation>
-    </message>
-    <message>
         <source>Sent %1 of %2 photos to %3, which continues printing.</source>
         <translation>%1 von %2 Fotos an %3 gesendet; der Druck geht dort weiter.</translation>
+    </message>
+    <message>
+        <source>Not printed: %1.</source>
+        <translation>Nicht gedruckt: %1.</translation>
+    </message>
+    <message>
+        <source>Perhaps printed: %1.</source>
+        <translation>Vielleicht gedruckt: %1.</translation>
+    </message>
+    <message>
+        <source>Waiting at the printer: %1.</source>
+        <translation>Beim Drucker wartend: %1.</translation>
+    </message>
+    <message>
+        <source>Cannot be printed: %1.</source>
+        <translation>Nicht druckbar: %1.</translation>
     </message>
 </context>
 <context>
@@ -3627,6 +3635,10 @@ Foto sein Blatt; auch „,gap=2mm“ und „,marks“ für Schnittmarken</transl
         <source>Checking %1</source>
         <translation>%1 wird geprüft</translation>
     </message>
+    <message>
+        <source>%1 was not printed.</source>
+        <translation>%1 wurde nicht gedruckt.</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::PrinterChooser</name>
@@ -3767,6 +3779,22 @@ Foto sein Blatt; auch „,gap=2mm“ und „,marks“ für Schnittmarken</transl
         <source>Jobs…</source>
         <translation>Aufträge…</translation>
     </message>
+    <message>
+        <source>Print the Rest</source>
+        <translation>Rest drucken</translation>
+    </message>
+    <message>
+        <source>Stopping after this photo…</source>
+        <translation>Nach diesem Foto wird gestoppt …</translation>
+    </message>
+    <message>
+        <source>Stop After This Photo</source>
+        <translation>Nach diesem Foto stoppen</translation>
+    </message>
+    <message>
+        <source>Stop at Once</source>
+        <translation>Sofort stoppen</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::SettingsFile</name>
@@ -3871,6 +3899,14 @@ Foto sein Blatt; auch „,gap=2mm“ und „,marks“ für Schnittmarken</transl
     <message>
         <source>%1 copies of %2 are more than the %3 that a job can have. Print it in several parts.</source>
         <translation>%1 Exemplare von %2 sind mehr als die %3, die ein Auftrag haben kann. Drucken Sie sie in mehreren Teilen.</translation>
+    </message>
+    <message>
+        <source>The outcome of %1 (job %2) is unknown.</source>
+        <translation>Was aus %1 (Auftrag %2) geworden ist, ist nicht bekannt.</translation>
+    </message>
+    <message>
+        <source>%1 (job %2) was canceled.</source>
+        <translation>%1 (Auftrag %2) wurde abgebrochen.</translation>
     </message>
 </context>
 <context>

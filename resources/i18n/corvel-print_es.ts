@@ -2914,16 +2914,24 @@ hoja; también «,gap=2mm», y «,marks» para las marcas de corte</translation>
         <translation>%1 de %2 fotos impresas.</translation>
     </message>
     <message>
-        <source>Not printed yet: %1; the print server keeps the jobs.</source>
-        <translation>Sin imprimir todavía: %1; el servidor de impresión conserva los trabajos.</translation>
-    </message>
-    <message>
-        <source>%1 photos cannot be printed.</source>
-        <translation>No se pueden imprimir %1 fotos.</translation>
-    </message>
-    <message>
         <source>Sent %1 of %2 photos to %3, which continues printing.</source>
         <translation>Enviadas %1 de %2 fotos a %3, que sigue imprimiendo.</translation>
+    </message>
+    <message>
+        <source>Not printed: %1.</source>
+        <translation>Sin imprimir: %1.</translation>
+    </message>
+    <message>
+        <source>Perhaps printed: %1.</source>
+        <translation>Quizá impresas: %1.</translation>
+    </message>
+    <message>
+        <source>Waiting at the printer: %1.</source>
+        <translation>En espera en la impresora: %1.</translation>
+    </message>
+    <message>
+        <source>Cannot be printed: %1.</source>
+        <translation>No se pueden imprimir: %1.</translation>
     </message>
 </context>
 <context>
@@ -3626,6 +3634,10 @@ hoja; también «,gap=2mm», y «,marks» para las marcas de corte</translation>
         <source>Checking %1</source>
         <translation>Comprobando %1</translation>
     </message>
+    <message>
+        <source>%1 was not printed.</source>
+        <translation>%1 no se ha impreso.</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::PrinterChooser</name>
@@ -3766,6 +3778,22 @@ hoja; también «,gap=2mm», y «,marks» para las marcas de corte</translation>
         <source>Jobs…</source>
         <translation>Trabajos…</translation>
     </message>
+    <message>
+        <source>Print the Rest</source>
+        <translation>Imprimir el resto</translation>
+    </message>
+    <message>
+        <source>Stopping after this photo…</source>
+        <translation>Deteniendo tras esta foto…</translation>
+    </message>
+    <message>
+        <source>Stop After This Photo</source>
+        <translation>Detener tras esta foto</translation>
+    </message>
+    <message>
+        <source>Stop at Once</source>
+        <translation>Detener ya</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::SettingsFile</name>
@@ -3870,6 +3898,14 @@ hoja; también «,gap=2mm», y «,marks» para las marcas de corte</translation>
     <message>
         <source>%1 copies of %2 are more than the %3 that a job can have. Print it in several parts.</source>
         <translation>%1 copias de %2 son más que las %3 que puede tener un trabajo. Imprímalas en varias partes.</translation>
+    </message>
+    <message>
+        <source>The outcome of %1 (job %2) is unknown.</source>
+        <translation>No se sabe qué ha sido de %1 (trabajo %2).</translation>
+    </message>
+    <message>
+        <source>%1 (job %2) was canceled.</source>
+        <translation>%1 (trabajo %2) se ha cancelado.</translation>
     </message>
 </context>
 <context>

@@ -2916,16 +2916,24 @@ photo remplit sa feuille&#x202f;; aussi «&#x202f;,gap=2mm&#x202f;», et «&#x20
         <translation>%1 photos imprimées sur %2.</translation>
     </message>
     <message>
-        <source>Not printed yet: %1; the print server keeps the jobs.</source>
-        <translation>Pas encore imprimées&#xa0;: %1&#xa0;; le serveur d’impression garde les tâches.</translation>
-    </message>
-    <message>
-        <source>%1 photos cannot be printed.</source>
-        <translation>%1 photos ne peuvent pas être imprimées.</translation>
-    </message>
-    <message>
         <source>Sent %1 of %2 photos to %3, which continues printing.</source>
         <translation>%1 photos sur %2 envoyées à %3, qui continue d’imprimer.</translation>
+    </message>
+    <message>
+        <source>Not printed: %1.</source>
+        <translation>Non imprimées : %1.</translation>
+    </message>
+    <message>
+        <source>Perhaps printed: %1.</source>
+        <translation>Peut-être imprimées : %1.</translation>
+    </message>
+    <message>
+        <source>Waiting at the printer: %1.</source>
+        <translation>En attente à l’imprimante : %1.</translation>
+    </message>
+    <message>
+        <source>Cannot be printed: %1.</source>
+        <translation>Impossibles à imprimer : %1.</translation>
     </message>
 </context>
 <context>
@@ -3628,6 +3636,10 @@ photo remplit sa feuille&#x202f;; aussi «&#x202f;,gap=2mm&#x202f;», et «&#x20
         <source>Checking %1</source>
         <translation>Vérification de&#xa0;%1</translation>
     </message>
+    <message>
+        <source>%1 was not printed.</source>
+        <translation>%1 n’a pas été imprimée.</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::PrinterChooser</name>
@@ -3768,6 +3780,22 @@ photo remplit sa feuille&#x202f;; aussi «&#x202f;,gap=2mm&#x202f;», et «&#x20
         <source>Jobs…</source>
         <translation>Tâches…</translation>
     </message>
+    <message>
+        <source>Print the Rest</source>
+        <translation>Imprimer le reste</translation>
+    </message>
+    <message>
+        <source>Stopping after this photo…</source>
+        <translation>Arrêt après cette photo…</translation>
+    </message>
+    <message>
+        <source>Stop After This Photo</source>
+        <translation>Arrêter après cette photo</translation>
+    </message>
+    <message>
+        <source>Stop at Once</source>
+        <translation>Arrêter tout de suite</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::SettingsFile</name>
@@ -3872,6 +3900,14 @@ photo remplit sa feuille&#x202f;; aussi «&#x202f;,gap=2mm&#x202f;», et «&#x20
     <message>
         <source>%1 copies of %2 are more than the %3 that a job can have. Print it in several parts.</source>
         <translation>%1 exemplaires de %2, c’est plus que les %3 qu’un travail peut avoir. Imprimez-les en plusieurs fois.</translation>
+    </message>
+    <message>
+        <source>The outcome of %1 (job %2) is unknown.</source>
+        <translation>Le résultat de %1 (tâche %2) est inconnu.</translation>
+    </message>
+    <message>
+        <source>%1 (job %2) was canceled.</source>
+        <translation>%1 (tâche %2) a été annulée.</translation>
     </message>
 </context>
 <context>

@@ -2913,16 +2913,24 @@ contact:行x列 はコンタクトシート。strips または strips:数 は 2 
         <translation>%2 枚中 %1 枚の写真を印刷しました。</translation>
     </message>
     <message>
-        <source>Not printed yet: %1; the print server keeps the jobs.</source>
-        <translation>まだ印刷されていない写真: %1 枚。ジョブはプリントサーバーに残ります。</translation>
-    </message>
-    <message>
-        <source>%1 photos cannot be printed.</source>
-        <translation>%1 枚の写真は印刷できません。</translation>
-    </message>
-    <message>
         <source>Sent %1 of %2 photos to %3, which continues printing.</source>
         <translation>%2 枚中 %1 枚の写真を %3 に送りました。印刷は続きます。</translation>
+    </message>
+    <message>
+        <source>Not printed: %1.</source>
+        <translation>印刷されていない写真: %1 枚。</translation>
+    </message>
+    <message>
+        <source>Perhaps printed: %1.</source>
+        <translation>印刷されたかどうか不明な写真: %1 枚。</translation>
+    </message>
+    <message>
+        <source>Waiting at the printer: %1.</source>
+        <translation>プリンターで待っている写真: %1 枚。</translation>
+    </message>
+    <message>
+        <source>Cannot be printed: %1.</source>
+        <translation>印刷できない写真: %1 枚。</translation>
     </message>
 </context>
 <context>
@@ -3622,6 +3630,10 @@ contact:行x列 はコンタクトシート。strips または strips:数 は 2 
         <source>Checking %1</source>
         <translation>%1 を確認しています</translation>
     </message>
+    <message>
+        <source>%1 was not printed.</source>
+        <translation>%1 は印刷されていません。</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::PrinterChooser</name>
@@ -3762,6 +3774,22 @@ contact:行x列 はコンタクトシート。strips または strips:数 は 2 
         <source>Jobs…</source>
         <translation>ジョブ…</translation>
     </message>
+    <message>
+        <source>Print the Rest</source>
+        <translation>残りを印刷</translation>
+    </message>
+    <message>
+        <source>Stopping after this photo…</source>
+        <translation>この写真のあとで中止します…</translation>
+    </message>
+    <message>
+        <source>Stop After This Photo</source>
+        <translation>この写真のあとで中止</translation>
+    </message>
+    <message>
+        <source>Stop at Once</source>
+        <translation>すぐに中止</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::SettingsFile</name>
@@ -3866,6 +3894,14 @@ contact:行x列 はコンタクトシート。strips または strips:数 は 2 
     <message>
         <source>%1 copies of %2 are more than the %3 that a job can have. Print it in several parts.</source>
         <translation>%2 の %1 部は、1 つのジョブの上限 %3 部を超えています。何回かに分けて印刷してください。</translation>
+    </message>
+    <message>
+        <source>The outcome of %1 (job %2) is unknown.</source>
+        <translation>%1（ジョブ %2）の結果は不明です。</translation>
+    </message>
+    <message>
+        <source>%1 (job %2) was canceled.</source>
+        <translation>%1（ジョブ %2）を取り消しました。</translation>
     </message>
 </context>
 <context>

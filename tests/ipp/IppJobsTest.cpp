@@ -64,7 +64,8 @@ class IppJobsTest : public QObject
             return sent.failure().text;
         const auto outcome = printing.follow(
             {}, [](int, const QString &) {}, nullptr);
-        return outcome.failure.value_or(outcome.printed.isEmpty() ? u"not printed"_s : QString());
+        const bool isPrinted = outcome.jobs.constFirst().fate == SheetPrinter::JobEnd::Fate::Printed;
+        return outcome.failure.value_or(isPrinted ? QString() : u"not printed"_s);
     }
 
 private Q_SLOTS:

@@ -258,6 +258,7 @@ private Q_SLOTS:
         QTRY_VERIFY(cupsd_.activeJobs().contains("odd-"));
         QVERIFY(opened.isSeen(u"progress"_s));
         opened.click(u"cancel"_s);
+        opened.click(u"messageAction"_s);
         QTRY_VERIFY(opened.message().contains(u"stopped"_s));
         QTRY_COMPARE(cupsd_.activeJobs(), QByteArray());
         QVERIFY(!opened.isSeen(u"progress"_s));
@@ -293,17 +294,54 @@ private Q_SLOTS:
         for (const auto *button : opened.dialog->findChildren<QPushButton *>())
             QVERIFY(button->text() != u"Open Folder"_s || !button->isVisible());
 
-        const int second = match.captured(2).toInt() + 2;
-        QVERIFY(cupsd_.setBackendScript("[ $1 -lt " + QByteArray::number(second) +
-                                        " ] && exit 0; trap 'exit 0' TERM; sleep 20 & wait"));
-        opened.dialog->print();
+        // Stopped at once, the photo in the printer is not printed; stopped after it, it is.
         const auto *text = opened.find<QWidget>(u"progressText"_s);
-        QTRY_VERIFY_WITH_TIMEOUT(text->accessibleName().startsWith(u"2 of 3"_s) &&
-                                     text->accessibleName().contains(u"printing"_s),
-                                 15000);
-        opened.click(u"cancel"_s);
-        QTRY_COMPARE(opened.message(), u"Printing was stopped: printed 1 of 3 photos."_s);
-        QTRY_COMPARE(cupsd_.activeJobs(), QByteArray());
+        int last = match.captured(2).toInt();
+        for (const bool isAtOnce : {true, false}) {
+            const QByteArray second = QByteArray::number(last + 2);
+            QVERIFY(cupsd_.setBackendScript("[ $1 -lt " + second +
+                                            " ] && exit 0; trap 'exit 0' TERM; sleep " +
+                                            (isAtOnce ? "20" : "3") + " & wait"));
+            opened.dialog->print();
+            QTRY_VERIFY_WITH_TIMEOUT(text->accessibleName().startsWith(u"2 of 3"_s) &&
+                                         text->accessibleName().contains(u"printing"_s),
+                                     15000);
+            opened.click(u"cancel"_s);
+            opened.click(isAtOnce ? u"messageAction2"_s : u"messageAction"_s);
+            QVERIFY(opened.find<QPushButton>(u"cancel"_s)->isEnabled() != isAtOnce);
+            QTRY_COMPARE_WITH_TIMEOUT(
+                opened.message(), u"Printing was stopped: printed %1 of 3 photos."_s.arg(isAtOnce ? 1 : 2),
+                10000);
+            QTRY_COMPARE(cupsd_.activeJobs(), QByteArray());
+            QVERIFY(cupsd_.setBackendScript("exit 0"));
+            opened.click(u"messageAction"_s);
+            last += isAtOnce ? 5 : 4;
+            QTRY_COMPARE_WITH_TIMEOUT(
+                opened.message(),
+                isAtOnce ? u"Printed 2 photos on odd (jobs %1 to %2)"_s.arg(last - 1).arg(last)
+                         : u"Printed sample.jpg on odd (job %1)"_s.arg(last),
+                10000);
+        }
+    }
+
+    // One of three: which, and why, and then that one alone.
+    void failedJobIsTheRest()
+    {
+        PrintDialogSetup three = setupForPrinter();
+        three.photos = QList<Photo>(3, three.photos.constFirst());
+        const OpenedDialog opened(three);
+        choose(opened, u"odd"_s);
+        QVERIFY(cupsd_.setBackendScript("[ -e \"$TMPDIR/once\" ] && exit 0; [ $(($1 % 3)) -ne 0 ] && exit 0; "
+                                        ": > \"$TMPDIR/once\"; echo 'ERROR: Ribbon torn' >&2; exit 1"));
+        opened.dialog->print();
+        QTRY_VERIFY_WITH_TIMEOUT(
+            opened.message().startsWith(
+                u"Printed 2 of 3 photos. Not printed: 1.\nThe printer \"odd\" could not"_s),
+            15000);
+        QVERIFY(opened.message().contains(u"Ribbon torn"_s));
+        QVERIFY(opened.find<QWidget>(u"messageDetailText"_s)->accessibleName().startsWith(u"The printer"_s));
+        opened.click(u"messageAction"_s);
+        QTRY_VERIFY_WITH_TIMEOUT(opened.message().startsWith(u"Printed sample.jpg on odd (job "_s), 10000);
     }
 
 private:
