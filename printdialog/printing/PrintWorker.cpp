@@ -3,8 +3,11 @@
 
 #include "PrintWorker.h"
 
+#include "RemainingTime.h"
+
 #include <algorithm>
 #include <atomic>
+#include <chrono>
 #include <functional>
 #include <numeric>
 #include <optional>
@@ -61,6 +64,8 @@ public:
                                  ? PrintWorker::tr("Writing %1").arg(name)
                                  : PrintWorker::tr("Sending %1 to %2").arg(name, destination_.id());
         const bool isUnknown = count_ == 1 && total == 0;
+        if (destination_.isBuiltIn())
+            noteDone(photo, count_ - photo);
         say_(counted(photo, text), photo * share + (total > 0 ? sent * share / total : 0),
              isUnknown ? 0 : count_ * photoShare);
     }
@@ -69,16 +74,30 @@ public:
     void following(qsizetype photo, const QString &name, const QString &state) override
     {
         std::atomic_ref(following_).store(1);
+        noteDone(photo, sent_ - photo);
         const qint64 done = count_ * sendingShare + photo * (photoShare - sendingShare);
         say_(counted(photo, PrintWorker::tr("%1: %2").arg(name, state)), done,
              count_ == 1 ? 0 : count_ * photoShare);
     }
 
 private:
-    /// The text, preceded by the photo's number within the run.
+    void noteDone(qsizetype done, qsizetype left)
+    {
+        using namespace std::chrono;
+        time_.note(duration_cast<milliseconds>(steady_clock::now() - start_), static_cast<int>(done));
+        remaining_ = time_.forSheets(static_cast<int>(left));
+    }
+
+    /// The text, preceded by the photo's number within the run and the time that the rest takes.
     QString counted(qsizetype photo, const QString &text) const
     {
-        return count_ == 1 ? text : PrintWorker::tr("%1 of %2: %3").arg(photo + 1).arg(count_).arg(text);
+        if (count_ == 1)
+            return text;
+        const QString number = QString::number(photo + 1);
+        const QString count = QString::number(count_);
+        return remaining_ ? PrintWorker::tr("%1 of %2, %3: %4")
+                                .arg(number, count, RemainingTime::text(*remaining_), text)
+                          : PrintWorker::tr("%1 of %2: %3").arg(number, count, text);
     }
 
     qsizetype count_;
@@ -86,6 +105,9 @@ private:
     std::atomic<int> &sent_;
     int &following_;
     Say say_;
+    std::chrono::steady_clock::time_point start_ = std::chrono::steady_clock::now();
+    RemainingTime time_;
+    std::optional<RemainingTime::Time> remaining_;
 };
 
 /// Whether a photo is damaged that is not accepted. Mostly known already; but a thousand photos take minutes.

@@ -1509,6 +1509,27 @@ Foto sein Blatt; auch „,gap=2mm“ und „,marks“ für Schnittmarken</transl
     </message>
 </context>
 <context>
+    <name>RemainingTime</name>
+    <message>
+        <source>less than a minute</source>
+        <translation>weniger als eine Minute</translation>
+    </message>
+    <message numerus="yes">
+        <source>about %n minute(s)</source>
+        <translation>
+            <numerusform>etwa %n Minute</numerusform>
+            <numerusform>etwa %n Minuten</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>about %n hour(s)</source>
+        <translation>
+            <numerusform>etwa %n Stunde</numerusform>
+            <numerusform>etwa %n Stunden</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>RequestedSession</name>
     <message>
         <source>Of the preset &quot;%1&quot; is left out: %2</source>
@@ -3638,6 +3659,10 @@ Foto sein Blatt; auch „,gap=2mm“ und „,marks“ für Schnittmarken</transl
     <message>
         <source>%1 was not printed.</source>
         <translation>%1 wurde nicht gedruckt.</translation>
+    </message>
+    <message>
+        <source>%1 of %2, %3: %4</source>
+        <translation>%1 von %2, %3: %4</translation>
     </message>
 </context>
 <context>

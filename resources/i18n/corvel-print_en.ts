@@ -12,6 +12,23 @@
     </message>
 </context>
 <context>
+    <name>RemainingTime</name>
+    <message numerus="yes">
+        <source>about %n minute(s)</source>
+        <translation>
+            <numerusform>about %n minute</numerusform>
+            <numerusform>about %n minutes</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>about %n hour(s)</source>
+        <translation>
+            <numerusform>about %n hour</numerusform>
+            <numerusform>about %n hours</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>printdialog::PhotoPane</name>
     <message numerus="yes">
         <source>%n more file(s) cannot be printed.</source>

@@ -1508,6 +1508,27 @@ hoja; también «,gap=2mm», y «,marks» para las marcas de corte</translation>
     </message>
 </context>
 <context>
+    <name>RemainingTime</name>
+    <message>
+        <source>less than a minute</source>
+        <translation>menos de un minuto</translation>
+    </message>
+    <message numerus="yes">
+        <source>about %n minute(s)</source>
+        <translation>
+            <numerusform>alrededor de %n minuto</numerusform>
+            <numerusform>alrededor de %n minutos</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>about %n hour(s)</source>
+        <translation>
+            <numerusform>alrededor de %n hora</numerusform>
+            <numerusform>alrededor de %n horas</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>RequestedSession</name>
     <message>
         <source>Of the preset &quot;%1&quot; is left out: %2</source>
@@ -3637,6 +3658,10 @@ hoja; también «,gap=2mm», y «,marks» para las marcas de corte</translation>
     <message>
         <source>%1 was not printed.</source>
         <translation>%1 no se ha impreso.</translation>
+    </message>
+    <message>
+        <source>%1 of %2, %3: %4</source>
+        <translation>%1 de %2, %3: %4</translation>
     </message>
 </context>
 <context>

@@ -1510,6 +1510,27 @@ photo remplit sa feuille&#x202f;; aussi «&#x202f;,gap=2mm&#x202f;», et «&#x20
     </message>
 </context>
 <context>
+    <name>RemainingTime</name>
+    <message>
+        <source>less than a minute</source>
+        <translation>moins d’une minute</translation>
+    </message>
+    <message numerus="yes">
+        <source>about %n minute(s)</source>
+        <translation>
+            <numerusform>environ %n minute</numerusform>
+            <numerusform>environ %n minutes</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>about %n hour(s)</source>
+        <translation>
+            <numerusform>environ %n heure</numerusform>
+            <numerusform>environ %n heures</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>RequestedSession</name>
     <message>
         <source>Of the preset &quot;%1&quot; is left out: %2</source>
@@ -2921,19 +2942,19 @@ photo remplit sa feuille&#x202f;; aussi «&#x202f;,gap=2mm&#x202f;», et «&#x20
     </message>
     <message>
         <source>Not printed: %1.</source>
-        <translation>Non imprimées : %1.</translation>
+        <translation>Non imprimées&#x202f;: %1.</translation>
     </message>
     <message>
         <source>Perhaps printed: %1.</source>
-        <translation>Peut-être imprimées : %1.</translation>
+        <translation>Peut-être imprimées&#x202f;: %1.</translation>
     </message>
     <message>
         <source>Waiting at the printer: %1.</source>
-        <translation>En attente à l’imprimante : %1.</translation>
+        <translation>En attente à l’imprimante&#x202f;: %1.</translation>
     </message>
     <message>
         <source>Cannot be printed: %1.</source>
-        <translation>Impossibles à imprimer : %1.</translation>
+        <translation>Impossibles à imprimer&#x202f;: %1.</translation>
     </message>
 </context>
 <context>
@@ -3639,6 +3660,10 @@ photo remplit sa feuille&#x202f;; aussi «&#x202f;,gap=2mm&#x202f;», et «&#x20
     <message>
         <source>%1 was not printed.</source>
         <translation>%1 n’a pas été imprimée.</translation>
+    </message>
+    <message>
+        <source>%1 of %2, %3: %4</source>
+        <translation>%1 sur %2, %3&#x202f;: %4</translation>
     </message>
 </context>
 <context>

@@ -1507,6 +1507,25 @@ contact:行x列 はコンタクトシート。strips または strips:数 は 2 
     </message>
 </context>
 <context>
+    <name>RemainingTime</name>
+    <message>
+        <source>less than a minute</source>
+        <translation>1 分以内</translation>
+    </message>
+    <message numerus="yes">
+        <source>about %n minute(s)</source>
+        <translation>
+            <numerusform>約 %n 分</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>about %n hour(s)</source>
+        <translation>
+            <numerusform>約 %n 時間</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>RequestedSession</name>
     <message>
         <source>Of the preset &quot;%1&quot; is left out: %2</source>
@@ -3633,6 +3652,10 @@ contact:行x列 はコンタクトシート。strips または strips:数 は 2 
     <message>
         <source>%1 was not printed.</source>
         <translation>%1 は印刷されていません。</translation>
+    </message>
+    <message>
+        <source>%1 of %2, %3: %4</source>
+        <translation>%1/%2 枚目、%3: %4</translation>
     </message>
 </context>
 <context>

@@ -3,6 +3,7 @@
 
 #include "PrintRun.h"
 #include "PrivateCupsd.h"
+#include "RemainingTime.h"
 #include "Rows.h"
 #include "StubServer.h"
 #include "TestMain.h"
@@ -133,6 +134,34 @@ private Q_SLOTS:
         const PrintOutcome outcome = run.print(3, sheetOf);
         QVERIFY2(outcome.failure.startsWith(u"It is not known"_s), qPrintable(outcome.failure));
         QCOMPARE(wordsOf(outcome), u"1 unknown, rest: 1 2"_s);
+    }
+
+    void remainingTime_data()
+    {
+        using Moments = QList<std::pair<int, int>>; // seconds and sheets that are done by then
+        const auto add = rows<Moments, int, QString>();
+        add("nothing yet", {}, 9, QString());
+        add("one sheet says nothing", {{30, 1}}, 9, QString());
+        add("the first is slow", {{60, 1}, {65, 2}}, 8, u"less than a minute"_s);
+        add("the first and another are slow", {{60, 1}, {70, 2}, {80, 3}, {140, 4}, {150, 5}}, 24,
+            u"about 4 minutes"_s);
+        add("noticed together", {{60, 10}}, 100, u"about 10 minutes"_s);
+        add("a minute", {{30, 1}, {60, 2}}, 2, u"about 1 minute"_s);
+        add("rounded", {{10, 1}, {20, 2}}, 140, u"about 25 minutes"_s);
+        add("hours", {{30, 1}, {60, 2}}, 250, u"about 2 hours"_s);
+    }
+
+    void remainingTime()
+    {
+        const auto [moments, left, text] = row<QList<std::pair<int, int>>, int, QString>();
+        RemainingTime time;
+        for (const auto &[seconds, done] : moments)
+            time.note(std::chrono::seconds(seconds), done);
+        const auto remaining = time.forSheets(left);
+        QString said = remaining ? RemainingTime::text(*remaining) : QString();
+        // The program's English is in its catalog.
+        said.replace(u"(s)"_s, said.contains(u" 1 "_s) ? QString() : u"s"_s);
+        QCOMPARE(said, text);
     }
 
 private:
