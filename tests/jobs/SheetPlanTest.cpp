@@ -25,8 +25,8 @@ namespace {
 constexpr double mm = pointsPerMillimeter;
 
 /// 10 x 15 cm to the edges, 20 x 30 cm with margins of 5 mm.
-const PageGeometry small{QSizeF(100, 150) * mm, QRectF(0, 0, 100 * mm, 150 * mm)};
-const PageGeometry large{QSizeF(200, 300) * mm, QRectF(5 * mm, 5 * mm, 190 * mm, 290 * mm)};
+const PageGeometry smallPage{QSizeF(100, 150) * mm, QRectF(0, 0, 100 * mm, 150 * mm)};
+const PageGeometry largePage{QSizeF(200, 300) * mm, QRectF(5 * mm, 5 * mm, 190 * mm, 290 * mm)};
 
 SheetLayout layoutOf(const QString &text)
 {
@@ -155,7 +155,7 @@ private Q_SLOTS:
         QList<LayoutItem> items;
         for (const int count : copies)
             items += item(QSize(2000, 3000), choice, count);
-        const SheetPlan plan = SheetPlan::make(items, layoutOf(text), small);
+        const SheetPlan plan = SheetPlan::make(items, layoutOf(text), smallPage);
         QVERIFY2(!plan.failure(), plan.failure() ? qPrintable(plan.failure()->text) : "");
         QCOMPARE(itemsOf(plan), expected);
         QCOMPARE(plan.sheetWith(items.size()), -1);
@@ -166,30 +166,31 @@ private Q_SLOTS:
         const auto add = rows<PageGeometry, QString, LayoutItem, QString, int>();
         const QSize wide(3000, 2000);
         const QSize tall(2000, 3000);
-        add("a wide print in the middle of the page", large, u"single"_s, item(wide, sized(u"10x15cm"_s)),
+        add("a wide print in the middle of the page", largePage, u"single"_s, item(wide, sized(u"10x15cm"_s)),
             u"25,100,150,100"_s, 0);
-        add("a wide print that has room only on its side", small, u"single"_s, item(wide, sized(u"9x13cm"_s)),
-            u"5,10,90,130"_s, 1);
-        add("passports stay upright", small, u"single"_s, item(wide, sized(u"passport"_s)), u"33,53,35,45"_s,
-            0);
-        add("the first place of a grid", small, u"2x2,gap=4mm"_s, item(tall, {Scaling::Fill}), u"0,0,48,73"_s,
-            0);
-        add("a wide photo is turned into an upright place", small, u"2x2,gap=4mm"_s,
+        add("a wide print that has room only on its side", smallPage, u"single"_s,
+            item(wide, sized(u"9x13cm"_s)), u"5,10,90,130"_s, 1);
+        add("passports stay upright", smallPage, u"single"_s, item(wide, sized(u"passport"_s)),
+            u"33,53,35,45"_s, 0);
+        add("the first place of a grid", smallPage, u"2x2,gap=4mm"_s, item(tall, {Scaling::Fill}),
+            u"0,0,48,73"_s, 0);
+        add("a wide photo is turned into an upright place", smallPage, u"2x2,gap=4mm"_s,
             item(wide, {Scaling::Fill}), u"0,0,48,73"_s, 1);
-        add("a print within its place", large, u"2x2,gap=10mm"_s, item(tall, sized(u"5x7cm"_s)),
+        add("a print within its place", largePage, u"2x2,gap=10mm"_s, item(tall, sized(u"5x7cm"_s)),
             u"25,40,50,70"_s, 0);
-        add("contact sheets turn nothing", small, u"contact:2x2,gap=4mm"_s, item(wide), u"0,18,48,32"_s, 0);
+        add("contact sheets turn nothing", smallPage, u"contact:2x2,gap=4mm"_s, item(wide), u"0,18,48,32"_s,
+            0);
         add("a strip is read along the longer side",
             PageGeometry{QSizeF(150, 100) * mm, QRectF(0, 0, 150 * mm, 100 * mm)}, u"strips:3,gap=2mm"_s,
             item(wide, {Scaling::Fill}), u"101,2,47,46"_s, 1);
         PlacementChoice bordered = sized(u"10x10cm"_s, Scaling::Fit);
         bordered.border.width = 10 * mm;
-        add("a border is within the size", large, u"single"_s, item(QSize(100, 100), bordered),
+        add("a border is within the size", largePage, u"single"_s, item(QSize(100, 100), bordered),
             u"50,100,100,100"_s, 0);
         PlacementChoice half = sized(u"10x10cm"_s, Scaling::Fit);
         half.scale = 0.5;
-        add("a size does not change with its photo's scale", large, u"single"_s, item(QSize(100, 100), half),
-            u"50,100,100,100"_s, 0);
+        add("a size does not change with its photo's scale", largePage, u"single"_s,
+            item(QSize(100, 100), half), u"50,100,100,100"_s, 0);
     }
 
     void printsLieWhereTheyShould()
@@ -227,8 +228,8 @@ private Q_SLOTS:
             u"13 × 18 cm"_s);
         add("larger than its place", u"2x2"_s, item(tall, sized(u"9x13cm"_s)), Kind::SizeTooLarge,
             u"9 × 13 cm"_s);
-        add("many of a size that is too large", u"fit"_s, item(tall, sized(u"13x18cm"_s)), Kind::SizeTooLarge,
-            u"13 × 18 cm"_s);
+        add("many of a size that is too largePage", u"fit"_s, item(tall, sized(u"13x18cm"_s)),
+            Kind::SizeTooLarge, u"13 × 18 cm"_s);
         add("many of no size", u"fit"_s, item(tall), Kind::SizeMissing, {});
         PlacementChoice bordered = sized(u"passport"_s);
         bordered.border.width = 17.5 * mm;
@@ -242,7 +243,7 @@ private Q_SLOTS:
     {
         const auto [text, wanted, kind, named] = row<QString, LayoutItem, LayoutFault::Kind, QString>();
         const SheetPlan plan =
-            SheetPlan::make({item(QSize(10, 10), sized(u"2x2cm"_s)), wanted}, layoutOf(text), small);
+            SheetPlan::make({item(QSize(10, 10), sized(u"2x2cm"_s)), wanted}, layoutOf(text), smallPage);
         QVERIFY(plan.failure());
         QCOMPARE(plan.failure()->reason.kind, kind);
         if (kind != LayoutFault::Kind::PlacesTooSmall)
@@ -266,13 +267,14 @@ private Q_SLOTS:
     void cutMarksAreBesideThePrints()
     {
         const auto [text, choice, least] = row<QString, PlacementChoice, int>();
-        const SheetPlan plan = SheetPlan::make({item(QSize(2000, 3000), choice, 12)}, layoutOf(text), large);
+        const SheetPlan plan =
+            SheetPlan::make({item(QSize(2000, 3000), choice, 12)}, layoutOf(text), largePage);
         QVERIFY(!plan.failure());
         const LaidSheet &sheet = plan.sheets().constFirst();
         QVERIFY2(sheet.cutMarks.size() >= least, qPrintable(QString::number(sheet.cutMarks.size())));
         for (const QLineF &mark : sheet.cutMarks) {
             const QRectF line = QRectF(mark.p1(), mark.p2()).normalized().adjusted(-0.1, -0.1, 0.1, 0.1);
-            QVERIFY(large.printed().adjusted(-1, -1, 1, 1).contains(line));
+            QVERIFY(largePage.printed().adjusted(-1, -1, 1, 1).contains(line));
             for (const LaidPhoto &photo : sheet.photos)
                 QVERIFY(!line.intersects(photo.placement.outline));
         }
@@ -286,7 +288,7 @@ private Q_SLOTS:
         const Photo photo = *Photo::open(folder.filePath(u"a.jpg"_s));
         PlacementChoice choice = sized(u"5x7cm"_s);
         choice.border = {2 * mm, qRgb(0, 0, 0)};
-        const PageGeometry page = large;
+        const PageGeometry page = largePage;
         const SheetPlan plan =
             SheetPlan::make({item(photo.orientedSize(), choice, 3)}, layoutOf(u"3x2,gap=8mm,marks"_s), page);
         PrintSheet sheet{u"a"_s};
