@@ -92,11 +92,15 @@ public:
             // The server may look for a login only when it has the document, which it has dropped then.
             if (id || !connection_.wantsLogin())
                 return id;
+            mayExist_ = false;
             connection_.heed(cancel_);
             if (!connection_.logIn(resource_))
                 return connection_.lastFailure(job.destination.id());
         }
     }
+
+    /// Whether the server may have made a job that is not returned.
+    bool mayExist() const { return mayExist_; }
 
 private:
     Result<int, QueueFault> sendOnce(const PrintJob &job, const JobDocument &document, ipp_t *request)
@@ -104,9 +108,11 @@ private:
         constexpr qint64 step = 65536;
         const qint64 total = document.data.size();
         connection_.extend();
+        mayExist_ = total == 0;
         bool isTaken = connection_.begin(request, resource_, total);
         for (qint64 sent = 0; isTaken && sent < total;) {
             const qint64 size = std::min(step, total - sent);
+            mayExist_ = sent + size == total;
             connection_.extend();
             isTaken = connection_.write(document.data.constData() + sent, static_cast<size_t>(size));
             sent += size;
@@ -166,6 +172,8 @@ private:
         connection_.heed(nullptr);
         connection_.extend();
         const IppPointer answer = connection_.answer();
+        if (answer && !connection_.hasSucceeded())
+            mayExist_ = false;
         if (!answer || !connection_.hasSucceeded()) {
             const auto failure = connection_.lastFailure(queue);
             const bool isUnanswered =
@@ -180,7 +188,8 @@ private:
                                 Text::tr("it accepted the job without giving it a number"));
         if (cancel_ && std::atomic_ref(*cancel_).load() != 0) {
             connection_.extend();
-            [[maybe_unused]] const auto canceled = cancelJob(connection_, queue, id);
+            const auto canceled = cancelJob(connection_, queue, id);
+            mayExist_ = !canceled || !*canceled;
             return queueFailure(QueueFault::Canceled, queue);
         }
         return id;
@@ -192,6 +201,7 @@ private:
     QueueRecord record_;
     QByteArrayList authInfo_;
     QByteArray resource_;
+    bool mayExist_ = false;
 };
 
 } // namespace
@@ -254,6 +264,7 @@ JobSubmission::~JobSubmission() = default;
 
 Result<int, QueueFault> JobSubmission::send(const PrintJob &job, const JobDocument &document)
 {
+    mayHaveMadeJob_ = false;
     if (const auto failure = whyUnfit(job, document))
         return *failure;
     if (!connection_)
@@ -275,7 +286,12 @@ Result<int, QueueFault> JobSubmission::send(const PrintJob &job, const JobDocume
     const auto authInfo = authInfoFor(*record);
     if (!authInfo)
         return authInfo.failure();
-    return JobInMaking(*connection_, sent_, cancel_, *record, *authInfo).send(job, document);
+    if (beginning_ && !beginning_())
+        return queueFailure(QueueFault::Canceled, job.destination.id());
+    JobInMaking making(*connection_, sent_, cancel_, *record, *authInfo);
+    auto id = making.send(job, document);
+    mayHaveMadeJob_ = !id && making.mayExist();
+    return id;
 }
 
 /// The printer's own name and password, which the print server hands on; empty when it wants none.

@@ -48,6 +48,15 @@ public:
     /// refused before anything is sent (see whyUnfit), and names are cleaned. Failures: all but NoPpd.
     Result<int, QueueFault> send(const PrintJob &job, const JobDocument &document);
 
+    /// Called right before the job is made, when nothing stands in its way any more; false: make no job,
+    /// which is the failure Canceled. May be empty.
+    using Beginning = std::function<bool()>;
+    void onBeginning(const Beginning &beginning) { beginning_ = beginning; }
+
+    /// After a failed send(): whether the server may have the job nevertheless, since it had the complete
+    /// document and its answer is not known.
+    bool mayHaveMadeJob() const { return mayHaveMadeJob_; }
+
     /// For further requests about the jobs, once one was sent.
     CupsConnection &connection() { return *connection_; }
 
@@ -67,6 +76,8 @@ private:
     std::optional<Failure<QueueFault>> comparePpd(const QByteArray &ppd, const QueueRecord &record);
 
     Progress sent_;
+    Beginning beginning_;
+    bool mayHaveMadeJob_ = false;
     int *cancel_;
     std::chrono::milliseconds patience_;
     std::unique_ptr<CupsConnection> connection_; ///< null before the first job

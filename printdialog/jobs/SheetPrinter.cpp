@@ -37,10 +37,18 @@ SheetPrinter::SheetPrinter(const PrintJob &job, const JobSubmission::Progress &s
 {
 }
 
+void SheetPrinter::onBeginning(const JobSubmission::Beginning &beginning)
+{
+    beginning_ = beginning;
+    submission_.onBeginning(beginning);
+}
+
 Result<QString, SheetPrinter::Fault> SheetPrinter::print(const PrintSheet &sheet)
 {
     if (!job_.destination.isBuiltIn())
         return send(sheet);
+    if (beginning_ && !beginning_())
+        return failureOf(queueFailure(QueueFault::Canceled, job_.destination.id()));
     const auto files = BuiltInPrinter::print(sheet, job_, names_);
     if (!files)
         return failureOf(files.failure());
@@ -61,8 +69,11 @@ Result<QString, SheetPrinter::Fault> SheetPrinter::send(const PrintSheet &sheet)
                 .arg(QString::number(job.copies), document->name, QString::number(mostJobCopies)),
             {}};
     const auto id = submission_.send(job, *document);
-    if (!id)
-        return failureOf(id.failure());
+    if (!id) {
+        auto failure = failureOf(id.failure());
+        failure.reason.mayBePrinted = submission_.mayHaveMadeJob();
+        return failure;
+    }
     sent_.append({document->name, *id, std::nullopt});
     return tr("Sent %1 to %2 as job %3").arg(document->name, job_.destination.id(), QString::number(*id));
 }

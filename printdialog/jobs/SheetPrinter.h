@@ -32,11 +32,16 @@ public:
         std::optional<QueueFault> queue; ///< The queue's reason, if it is one.
         /// One of its photos is damaged or needs too much memory; other sheets may still print.
         bool isPhotoFault = false;
+        /// The queue may have the job nevertheless, see JobSubmission::mayHaveMadeJob().
+        bool mayBePrinted = false;
     };
 
     /// @param sent, cancel see JobSubmission
     explicit SheetPrinter(const PrintJob &job, const JobSubmission::Progress &sent = {},
                           int *cancel = nullptr);
+
+    /// See JobSubmission::onBeginning(); with the built-in printer, called before the sheet's files are made.
+    void onBeginning(const JobSubmission::Beginning &beginning);
 
     /// Sends the sheet to the queue, or writes its files. Returns a sentence for people.
     Result<QString, Fault> print(const PrintSheet &sheet);
@@ -103,6 +108,7 @@ private:
 
     PrintJob job_;
     JobSubmission submission_;
+    JobSubmission::Beginning beginning_;
     PrintedNames names_;
     QList<SentJob> sent_;
 };
