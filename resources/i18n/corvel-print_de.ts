@@ -3022,6 +3022,49 @@ Foto sein Blatt; auch „,gap=2mm“ und „,marks“ für Schnittmarken</transl
     </message>
 </context>
 <context>
+    <name>printdialog::PatientPrinter</name>
+    <message>
+        <source>%1 waits. It is printed when that is over: %2</source>
+        <translation>%1 wartet und wird gedruckt, sobald dies vorbei ist: %2</translation>
+    </message>
+    <message>
+        <source>%1 (job %2) waits. It was sent, and is not sent again: %3</source>
+        <translation>%1 (Auftrag %2) wartet. Der Auftrag ist gesendet und wird nicht noch einmal gesendet: %3</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; could not print %2 (job %3): %4. Look at the printer and print again.</source>
+        <translation>Der Drucker „%1“ konnte %2 (Auftrag %3) nicht drucken: %4. Sehen Sie nach dem Drucker und drucken Sie noch einmal.</translation>
+    </message>
+    <message>
+        <source>it gave no reason</source>
+        <translation>ohne Angabe von Gründen</translation>
+    </message>
+    <message>
+        <source>The job %3 for %2 on the printer &quot;%1&quot; was canceled (%4).</source>
+        <translation>Der Auftrag %3 für %2 auf dem Drucker „%1“ wurde abgebrochen (%4).</translation>
+    </message>
+    <message>
+        <source>no reason given</source>
+        <translation>ohne Angabe von Gründen</translation>
+    </message>
+    <message>
+        <source>The print server does not know its job %1 any more.</source>
+        <translation>Der Druckserver kennt den Auftrag %1 dazu nicht mehr.</translation>
+    </message>
+    <message>
+        <source>Printed %1 on %2 (job %3)</source>
+        <translation>%1 auf %2 gedruckt (Auftrag %3)</translation>
+    </message>
+    <message>
+        <source>%1 (job %2) waits: %3. It is printed when that is over.</source>
+        <translation>%1 (Auftrag %2) wartet: %3. Gedruckt wird, sobald das vorbei ist.</translation>
+    </message>
+    <message>
+        <source>Printing %1 continues.</source>
+        <translation>Der Druck von %1 geht weiter.</translation>
+    </message>
+</context>
+<context>
     <name>printdialog::PdfWriter</name>
     <message>
         <source>The page of %1 x %2 points cannot be printed on. Choose another page size.</source>

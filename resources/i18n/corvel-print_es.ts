@@ -3021,6 +3021,49 @@ hoja; también «,gap=2mm», y «,marks» para las marcas de corte</translation>
     </message>
 </context>
 <context>
+    <name>printdialog::PatientPrinter</name>
+    <message>
+        <source>%1 waits. It is printed when that is over: %2</source>
+        <translation>%1 espera y se imprimirá cuando esto termine: %2</translation>
+    </message>
+    <message>
+        <source>%1 (job %2) waits. It was sent, and is not sent again: %3</source>
+        <translation>%1 (trabajo %2) espera. El trabajo se envió y no se vuelve a enviar: %3</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; could not print %2 (job %3): %4. Look at the printer and print again.</source>
+        <translation>La impresora «%1» no ha podido imprimir %2 (trabajo %3): %4. Revise la impresora e imprima de nuevo.</translation>
+    </message>
+    <message>
+        <source>it gave no reason</source>
+        <translation>sin indicar el motivo</translation>
+    </message>
+    <message>
+        <source>The job %3 for %2 on the printer &quot;%1&quot; was canceled (%4).</source>
+        <translation>El trabajo %3 para %2 en la impresora «%1» se ha cancelado (%4).</translation>
+    </message>
+    <message>
+        <source>no reason given</source>
+        <translation>sin indicar el motivo</translation>
+    </message>
+    <message>
+        <source>The print server does not know its job %1 any more.</source>
+        <translation>El servidor de impresión ya no conoce su trabajo %1.</translation>
+    </message>
+    <message>
+        <source>Printed %1 on %2 (job %3)</source>
+        <translation>Se ha impreso %1 en %2 (trabajo %3)</translation>
+    </message>
+    <message>
+        <source>%1 (job %2) waits: %3. It is printed when that is over.</source>
+        <translation>%1 (trabajo %2) espera: %3. Se imprimirá cuando eso termine.</translation>
+    </message>
+    <message>
+        <source>Printing %1 continues.</source>
+        <translation>Continúa la impresión de %1.</translation>
+    </message>
+</context>
+<context>
     <name>printdialog::PdfWriter</name>
     <message>
         <source>The page of %1 x %2 points cannot be printed on. Choose another page size.</source>

@@ -3023,6 +3023,49 @@ photo remplit sa feuille&#x202f;; aussi «&#x202f;,gap=2mm&#x202f;», et «&#x20
     </message>
 </context>
 <context>
+    <name>printdialog::PatientPrinter</name>
+    <message>
+        <source>%1 waits. It is printed when that is over: %2</source>
+        <translation>%1 attend et sera imprimée quand ceci sera terminé : %2</translation>
+    </message>
+    <message>
+        <source>%1 (job %2) waits. It was sent, and is not sent again: %3</source>
+        <translation>%1 (tâche %2) attend. La tâche a été envoyée et ne le sera pas une seconde fois : %3</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; could not print %2 (job %3): %4. Look at the printer and print again.</source>
+        <translation>L’imprimante « %1 » n’a pas pu imprimer %2 (tâche %3) : %4. Vérifiez l’imprimante et relancez l’impression.</translation>
+    </message>
+    <message>
+        <source>it gave no reason</source>
+        <translation>sans en donner la raison</translation>
+    </message>
+    <message>
+        <source>The job %3 for %2 on the printer &quot;%1&quot; was canceled (%4).</source>
+        <translation>La tâche %3 pour %2 sur l’imprimante « %1 » a été annulée (%4).</translation>
+    </message>
+    <message>
+        <source>no reason given</source>
+        <translation>sans raison indiquée</translation>
+    </message>
+    <message>
+        <source>The print server does not know its job %1 any more.</source>
+        <translation>Le serveur d’impression ne connaît plus sa tâche %1.</translation>
+    </message>
+    <message>
+        <source>Printed %1 on %2 (job %3)</source>
+        <translation>%1 imprimée sur %2 (tâche %3)</translation>
+    </message>
+    <message>
+        <source>%1 (job %2) waits: %3. It is printed when that is over.</source>
+        <translation>%1 (tâche %2) attend : %3. L’impression aura lieu quand ce sera terminé.</translation>
+    </message>
+    <message>
+        <source>Printing %1 continues.</source>
+        <translation>L’impression de %1 continue.</translation>
+    </message>
+</context>
+<context>
     <name>printdialog::PdfWriter</name>
     <message>
         <source>The page of %1 x %2 points cannot be printed on. Choose another page size.</source>

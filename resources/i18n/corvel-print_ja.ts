@@ -3018,6 +3018,49 @@ contact:行x列 はコンタクトシート。strips または strips:数 は 2 
     </message>
 </context>
 <context>
+    <name>printdialog::PatientPrinter</name>
+    <message>
+        <source>%1 waits. It is printed when that is over: %2</source>
+        <translation>%1 は待っています。次のことが解決すると印刷されます: %2</translation>
+    </message>
+    <message>
+        <source>%1 (job %2) waits. It was sent, and is not sent again: %3</source>
+        <translation>%1（ジョブ %2）は待っています。送信済みのため、再送はしません: %3</translation>
+    </message>
+    <message>
+        <source>The printer &quot;%1&quot; could not print %2 (job %3): %4. Look at the printer and print again.</source>
+        <translation>プリンター「%1」は %2（ジョブ %3）を印刷できませんでした: %4。プリンターを確認して、もう一度印刷してください。</translation>
+    </message>
+    <message>
+        <source>it gave no reason</source>
+        <translation>理由は示されていません</translation>
+    </message>
+    <message>
+        <source>The job %3 for %2 on the printer &quot;%1&quot; was canceled (%4).</source>
+        <translation>プリンター「%1」の %2 のジョブ %3 は取り消されました（%4）。</translation>
+    </message>
+    <message>
+        <source>no reason given</source>
+        <translation>理由は不明</translation>
+    </message>
+    <message>
+        <source>The print server does not know its job %1 any more.</source>
+        <translation>プリントサーバーにはそのジョブ %1 の記録がもうありません。</translation>
+    </message>
+    <message>
+        <source>Printed %1 on %2 (job %3)</source>
+        <translation>%1 を %2 で印刷しました（ジョブ %3）</translation>
+    </message>
+    <message>
+        <source>%1 (job %2) waits: %3. It is printed when that is over.</source>
+        <translation>%1（ジョブ %2）は待っています: %3。解決すると印刷されます。</translation>
+    </message>
+    <message>
+        <source>Printing %1 continues.</source>
+        <translation>%1 の印刷を続けます。</translation>
+    </message>
+</context>
+<context>
     <name>printdialog::PdfWriter</name>
     <message>
         <source>The page of %1 x %2 points cannot be printed on. Choose another page size.</source>
