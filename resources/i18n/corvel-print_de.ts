@@ -2547,6 +2547,32 @@ Foto sein Blatt; auch „,gap=2mm“ und „,marks“ für Schnittmarken</transl
     </message>
 </context>
 <context>
+    <name>printdialog::FolderPrinter</name>
+    <message>
+        <source>The folder &quot;%1&quot; does not answer. Look after its disk or its network connection; printing continues when it answers.</source>
+        <translation>Der Ordner „%1“ antwortet nicht. Sehen Sie nach seinem Datenträger oder seiner Netzwerkverbindung; gedruckt wird weiter, wenn er antwortet.</translation>
+    </message>
+    <message>
+        <source>The folder &quot;%1&quot; answers again.</source>
+        <translation>Der Ordner „%1“ antwortet wieder.</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::FolderWatch</name>
+    <message>
+        <source>The folder &quot;%1&quot; is not there any more: it was deleted, renamed or unmounted. Put it back; what arrives in it then is printed.</source>
+        <translation>Der Ordner „%1“ ist nicht mehr da: Er wurde gelöscht, umbenannt oder ausgehängt. Stellen Sie ihn wieder her; was dann in ihm ankommt, wird gedruckt.</translation>
+    </message>
+    <message>
+        <source>You may not read the folder &quot;%1&quot; any more. Change its permissions; what has arrived in it is printed then.</source>
+        <translation>Sie dürfen den Ordner „%1“ nicht mehr lesen. Ändern Sie seine Zugriffsrechte; was in ihm angekommen ist, wird dann gedruckt.</translation>
+    </message>
+    <message>
+        <source>The folder &quot;%1&quot; cannot be read: %2. Look after its disk or its network connection; what has arrived in it is printed when it answers again.</source>
+        <translation>Der Ordner „%1“ kann nicht gelesen werden: %2. Sehen Sie nach seinem Datenträger oder seiner Netzwerkverbindung; was in ihm angekommen ist, wird gedruckt, sobald er wieder antwortet.</translation>
+    </message>
+</context>
+<context>
     <name>printdialog::GuardedPanel</name>
     <message>
         <source>its plug-in gives no reason</source>
@@ -3990,6 +4016,64 @@ Foto sein Blatt; auch „,gap=2mm“ und „,marks“ für Schnittmarken</transl
     <message>
         <source>Summary of the job</source>
         <translation>Zusammenfassung des Auftrags</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::WatchLoop</name>
+    <message>
+        <source>The folder &quot;%1&quot; is there again.</source>
+        <translation>Der Ordner „%1“ ist wieder da.</translation>
+    </message>
+    <message>
+        <source>Photos that arrive in &quot;%1&quot; are printed on %2 and moved to &quot;%3&quot;.</source>
+        <translation>Fotos, die in „%1“ ankommen, werden auf %2 gedruckt und nach „%3“ verschoben.</translation>
+    </message>
+    <message>
+        <source>Photos that arrive in &quot;%1&quot; are printed on %2.</source>
+        <translation>Fotos, die in „%1“ ankommen, werden auf %2 gedruckt.</translation>
+    </message>
+    <message>
+        <source>The files that are there already are left alone: %1. With --existing, they are printed.</source>
+        <translation>Dateien, die schon da sind und unberührt bleiben: %1. Mit --existing werden sie gedruckt.</translation>
+    </message>
+    <message>
+        <source>The program was ended while it was being sent.</source>
+        <translation>Das Programm wurde beendet, während es gesendet wurde.</translation>
+    </message>
+    <message>
+        <source>It was sent to another print server, %1, as job %2.</source>
+        <translation>Es wurde an einen anderen Druckserver gesendet, %1, als Auftrag %2.</translation>
+    </message>
+    <message>
+        <source>It is unclear whether &quot;%1&quot; was printed. %2 It is not printed again by itself; if it has to be, set its time (&quot;touch&quot;) or copy it into the folder again.</source>
+        <translation>Es ist unklar, ob „%1“ gedruckt wurde. %2 Es wird nicht von selbst noch einmal gedruckt; wenn es nötig ist, setzen Sie seine Zeit („touch“) oder kopieren Sie es noch einmal in den Ordner.</translation>
+    </message>
+    <message>
+        <source>%1 It stays in the folder, and is not tried again.</source>
+        <translation>%1 Die Datei bleibt im Ordner und wird nicht noch einmal versucht.</translation>
+    </message>
+    <message>
+        <source>%1 It is now &quot;%2&quot;.</source>
+        <translation>%1 Die Datei ist jetzt „%2“.</translation>
+    </message>
+    <message>
+        <source>Printed photos stay in the folder, because they cannot be moved. %1</source>
+        <translation>Gedruckte Fotos bleiben im Ordner, weil sie nicht verschoben werden können. %1</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::WatchRecord</name>
+    <message>
+        <source>Another program watches the folder &quot;%1&quot; already. End it first, or choose another folder.</source>
+        <translation>Ein anderes Programm überwacht den Ordner „%1“ schon. Beenden Sie es zuerst, oder wählen Sie einen anderen Ordner.</translation>
+    </message>
+    <message>
+        <source>The record of what was printed, &quot;%1&quot;, cannot be read: %2. Make it readable for you.</source>
+        <translation>Die Aufzeichnung des Gedruckten, „%1“, kann nicht gelesen werden: %2. Machen Sie sie für sich lesbar.</translation>
+    </message>
+    <message>
+        <source>The record of what was printed, &quot;%1&quot;, cannot be written: %2. Nothing is printed without it; make room for it, or make it writable for you.</source>
+        <translation>Die Aufzeichnung des Gedruckten, „%1“, kann nicht geschrieben werden: %2. Ohne sie wird nichts gedruckt; schaffen Sie Platz, oder machen Sie sie für sich beschreibbar.</translation>
     </message>
 </context>
 </TS>

@@ -2546,6 +2546,32 @@ hoja; también «,gap=2mm», y «,marks» para las marcas de corte</translation>
     </message>
 </context>
 <context>
+    <name>printdialog::FolderPrinter</name>
+    <message>
+        <source>The folder &quot;%1&quot; does not answer. Look after its disk or its network connection; printing continues when it answers.</source>
+        <translation>La carpeta «%1» no responde. Compruebe su disco o su conexión de red; la impresión continúa cuando responda.</translation>
+    </message>
+    <message>
+        <source>The folder &quot;%1&quot; answers again.</source>
+        <translation>La carpeta «%1» vuelve a responder.</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::FolderWatch</name>
+    <message>
+        <source>The folder &quot;%1&quot; is not there any more: it was deleted, renamed or unmounted. Put it back; what arrives in it then is printed.</source>
+        <translation>La carpeta «%1» ya no está: se eliminó, se renombró o se desmontó. Vuelva a ponerla; lo que llegue entonces se imprime.</translation>
+    </message>
+    <message>
+        <source>You may not read the folder &quot;%1&quot; any more. Change its permissions; what has arrived in it is printed then.</source>
+        <translation>Ya no tiene permiso para leer la carpeta «%1». Cambie sus permisos; lo que haya llegado se imprime entonces.</translation>
+    </message>
+    <message>
+        <source>The folder &quot;%1&quot; cannot be read: %2. Look after its disk or its network connection; what has arrived in it is printed when it answers again.</source>
+        <translation>No se puede leer la carpeta «%1»: %2. Compruebe su disco o su conexión de red; lo que haya llegado se imprime cuando vuelva a responder.</translation>
+    </message>
+</context>
+<context>
     <name>printdialog::GuardedPanel</name>
     <message>
         <source>its plug-in gives no reason</source>
@@ -3989,6 +4015,64 @@ hoja; también «,gap=2mm», y «,marks» para las marcas de corte</translation>
     <message>
         <source>Summary of the job</source>
         <translation>Resumen del trabajo</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::WatchLoop</name>
+    <message>
+        <source>The folder &quot;%1&quot; is there again.</source>
+        <translation>La carpeta «%1» vuelve a estar.</translation>
+    </message>
+    <message>
+        <source>Photos that arrive in &quot;%1&quot; are printed on %2 and moved to &quot;%3&quot;.</source>
+        <translation>Las fotos que lleguen a «%1» se imprimen en %2 y se mueven a «%3».</translation>
+    </message>
+    <message>
+        <source>Photos that arrive in &quot;%1&quot; are printed on %2.</source>
+        <translation>Las fotos que lleguen a «%1» se imprimen en %2.</translation>
+    </message>
+    <message>
+        <source>The files that are there already are left alone: %1. With --existing, they are printed.</source>
+        <translation>Archivos que ya estaban y se dejan como están: %1. Con --existing se imprimen.</translation>
+    </message>
+    <message>
+        <source>The program was ended while it was being sent.</source>
+        <translation>El programa terminó mientras se enviaba.</translation>
+    </message>
+    <message>
+        <source>It was sent to another print server, %1, as job %2.</source>
+        <translation>Se envió a otro servidor de impresión, %1, como trabajo %2.</translation>
+    </message>
+    <message>
+        <source>It is unclear whether &quot;%1&quot; was printed. %2 It is not printed again by itself; if it has to be, set its time (&quot;touch&quot;) or copy it into the folder again.</source>
+        <translation>No está claro si «%1» se imprimió. %2 No se vuelve a imprimir por sí sola; si hace falta, cambie su fecha («touch») o cópiela otra vez en la carpeta.</translation>
+    </message>
+    <message>
+        <source>%1 It stays in the folder, and is not tried again.</source>
+        <translation>%1 El archivo se queda en la carpeta y no se vuelve a intentar.</translation>
+    </message>
+    <message>
+        <source>%1 It is now &quot;%2&quot;.</source>
+        <translation>%1 El archivo es ahora «%2».</translation>
+    </message>
+    <message>
+        <source>Printed photos stay in the folder, because they cannot be moved. %1</source>
+        <translation>Las fotos impresas se quedan en la carpeta porque no se pueden mover. %1</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::WatchRecord</name>
+    <message>
+        <source>Another program watches the folder &quot;%1&quot; already. End it first, or choose another folder.</source>
+        <translation>Otro programa ya vigila la carpeta «%1». Termínelo primero o elija otra carpeta.</translation>
+    </message>
+    <message>
+        <source>The record of what was printed, &quot;%1&quot;, cannot be read: %2. Make it readable for you.</source>
+        <translation>No se puede leer el registro de lo impreso, «%1»: %2. Hágalo legible para usted.</translation>
+    </message>
+    <message>
+        <source>The record of what was printed, &quot;%1&quot;, cannot be written: %2. Nothing is printed without it; make room for it, or make it writable for you.</source>
+        <translation>No se puede escribir el registro de lo impreso, «%1»: %2. Sin él no se imprime nada; libere espacio o permita escribir en él.</translation>
     </message>
 </context>
 </TS>

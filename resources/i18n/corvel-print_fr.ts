@@ -2548,6 +2548,32 @@ photo remplit sa feuille&#x202f;; aussi «&#x202f;,gap=2mm&#x202f;», et «&#x20
     </message>
 </context>
 <context>
+    <name>printdialog::FolderPrinter</name>
+    <message>
+        <source>The folder &quot;%1&quot; does not answer. Look after its disk or its network connection; printing continues when it answers.</source>
+        <translation>Le dossier «&#x202f;%1&#x202f;» ne répond pas. Vérifiez son disque ou sa connexion réseau&#x202f;; l’impression continue quand il répond.</translation>
+    </message>
+    <message>
+        <source>The folder &quot;%1&quot; answers again.</source>
+        <translation>Le dossier «&#x202f;%1&#x202f;» répond de nouveau.</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::FolderWatch</name>
+    <message>
+        <source>The folder &quot;%1&quot; is not there any more: it was deleted, renamed or unmounted. Put it back; what arrives in it then is printed.</source>
+        <translation>Le dossier «&#x202f;%1&#x202f;» n’est plus là&#x202f;: il a été supprimé, renommé ou démonté. Remettez-le en place&#x202f;; ce qui y arrive alors est imprimé.</translation>
+    </message>
+    <message>
+        <source>You may not read the folder &quot;%1&quot; any more. Change its permissions; what has arrived in it is printed then.</source>
+        <translation>Vous n’avez plus le droit de lire le dossier «&#x202f;%1&#x202f;». Modifiez ses droits d’accès&#x202f;; ce qui y est arrivé est alors imprimé.</translation>
+    </message>
+    <message>
+        <source>The folder &quot;%1&quot; cannot be read: %2. Look after its disk or its network connection; what has arrived in it is printed when it answers again.</source>
+        <translation>Le dossier «&#x202f;%1&#x202f;» ne peut pas être lu&#x202f;: %2. Vérifiez son disque ou sa connexion réseau&#x202f;; ce qui y est arrivé est imprimé quand il répond de nouveau.</translation>
+    </message>
+</context>
+<context>
     <name>printdialog::GuardedPanel</name>
     <message>
         <source>its plug-in gives no reason</source>
@@ -3034,7 +3060,7 @@ photo remplit sa feuille&#x202f;; aussi «&#x202f;,gap=2mm&#x202f;», et «&#x20
     </message>
     <message>
         <source>The printer &quot;%1&quot; could not print %2 (job %3): %4. Look at the printer and print again.</source>
-        <translation>L’imprimante « %1 » n’a pas pu imprimer %2 (tâche %3) : %4. Vérifiez l’imprimante et relancez l’impression.</translation>
+        <translation>L’imprimante «&#xa0;%1&#xa0;» n’a pas pu imprimer %2 (tâche %3)&#xa0;: %4. Vérifiez l’imprimante et relancez l’impression.</translation>
     </message>
     <message>
         <source>it gave no reason</source>
@@ -3042,7 +3068,7 @@ photo remplit sa feuille&#x202f;; aussi «&#x202f;,gap=2mm&#x202f;», et «&#x20
     </message>
     <message>
         <source>The job %3 for %2 on the printer &quot;%1&quot; was canceled (%4).</source>
-        <translation>La tâche %3 pour %2 sur l’imprimante « %1 » a été annulée (%4).</translation>
+        <translation>La tâche %3 pour %2 sur l’imprimante «&#xa0;%1&#xa0;» a été annulée (%4).</translation>
     </message>
     <message>
         <source>no reason given</source>
@@ -3991,6 +4017,64 @@ photo remplit sa feuille&#x202f;; aussi «&#x202f;,gap=2mm&#x202f;», et «&#x20
     <message>
         <source>Summary of the job</source>
         <translation>Récapitulatif du travail</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::WatchLoop</name>
+    <message>
+        <source>The folder &quot;%1&quot; is there again.</source>
+        <translation>Le dossier «&#x202f;%1&#x202f;» est de nouveau là.</translation>
+    </message>
+    <message>
+        <source>Photos that arrive in &quot;%1&quot; are printed on %2 and moved to &quot;%3&quot;.</source>
+        <translation>Les photos qui arrivent dans «&#x202f;%1&#x202f;» sont imprimées sur %2 et déplacées vers «&#x202f;%3&#x202f;».</translation>
+    </message>
+    <message>
+        <source>Photos that arrive in &quot;%1&quot; are printed on %2.</source>
+        <translation>Les photos qui arrivent dans «&#x202f;%1&#x202f;» sont imprimées sur %2.</translation>
+    </message>
+    <message>
+        <source>The files that are there already are left alone: %1. With --existing, they are printed.</source>
+        <translation>Fichiers déjà présents, laissés tels quels&#x202f;: %1. Avec --existing, ils sont imprimés.</translation>
+    </message>
+    <message>
+        <source>The program was ended while it was being sent.</source>
+        <translation>Le programme a été arrêté pendant son envoi.</translation>
+    </message>
+    <message>
+        <source>It was sent to another print server, %1, as job %2.</source>
+        <translation>Elle a été envoyée à un autre serveur d’impression, %1, comme tâche %2.</translation>
+    </message>
+    <message>
+        <source>It is unclear whether &quot;%1&quot; was printed. %2 It is not printed again by itself; if it has to be, set its time (&quot;touch&quot;) or copy it into the folder again.</source>
+        <translation>Il n’est pas certain que «&#x202f;%1&#x202f;» ait été imprimée. %2 Elle n’est pas réimprimée d’elle-même&#x202f;; s’il le faut, changez sa date («&#x202f;touch&#x202f;») ou copiez-la de nouveau dans le dossier.</translation>
+    </message>
+    <message>
+        <source>%1 It stays in the folder, and is not tried again.</source>
+        <translation>%1 Le fichier reste dans le dossier et n’est pas réessayé.</translation>
+    </message>
+    <message>
+        <source>%1 It is now &quot;%2&quot;.</source>
+        <translation>%1 Le fichier est maintenant «&#x202f;%2&#x202f;».</translation>
+    </message>
+    <message>
+        <source>Printed photos stay in the folder, because they cannot be moved. %1</source>
+        <translation>Les photos imprimées restent dans le dossier, car elles ne peuvent pas être déplacées. %1</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::WatchRecord</name>
+    <message>
+        <source>Another program watches the folder &quot;%1&quot; already. End it first, or choose another folder.</source>
+        <translation>Un autre programme surveille déjà le dossier «&#x202f;%1&#x202f;». Arrêtez-le d’abord ou choisissez un autre dossier.</translation>
+    </message>
+    <message>
+        <source>The record of what was printed, &quot;%1&quot;, cannot be read: %2. Make it readable for you.</source>
+        <translation>Le journal de ce qui a été imprimé, «&#x202f;%1&#x202f;», ne peut pas être lu&#x202f;: %2. Rendez-le lisible pour vous.</translation>
+    </message>
+    <message>
+        <source>The record of what was printed, &quot;%1&quot;, cannot be written: %2. Nothing is printed without it; make room for it, or make it writable for you.</source>
+        <translation>Le journal de ce qui a été imprimé, «&#x202f;%1&#x202f;», ne peut pas être écrit&#x202f;: %2. Rien n’est imprimé sans lui&#x202f;; libérez de la place ou rendez-le accessible en écriture.</translation>
     </message>
 </context>
 </TS>

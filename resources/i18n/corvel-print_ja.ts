@@ -2543,6 +2543,32 @@ contact:行x列 はコンタクトシート。strips または strips:数 は 2 
     </message>
 </context>
 <context>
+    <name>printdialog::FolderPrinter</name>
+    <message>
+        <source>The folder &quot;%1&quot; does not answer. Look after its disk or its network connection; printing continues when it answers.</source>
+        <translation>フォルダー「%1」が応答しません。そのディスクまたはネットワーク接続を確認してください。応答すると印刷を続けます。</translation>
+    </message>
+    <message>
+        <source>The folder &quot;%1&quot; answers again.</source>
+        <translation>フォルダー「%1」が再び応答しました。</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::FolderWatch</name>
+    <message>
+        <source>The folder &quot;%1&quot; is not there any more: it was deleted, renamed or unmounted. Put it back; what arrives in it then is printed.</source>
+        <translation>フォルダー「%1」がなくなりました。削除されたか、名前が変わったか、マウントが解除されました。元に戻してください。その後に届いた写真は印刷されます。</translation>
+    </message>
+    <message>
+        <source>You may not read the folder &quot;%1&quot; any more. Change its permissions; what has arrived in it is printed then.</source>
+        <translation>フォルダー「%1」を読む権限がなくなりました。アクセス権を変更してください。届いている写真はその後に印刷されます。</translation>
+    </message>
+    <message>
+        <source>The folder &quot;%1&quot; cannot be read: %2. Look after its disk or its network connection; what has arrived in it is printed when it answers again.</source>
+        <translation>フォルダー「%1」を読めません: %2。そのディスクまたはネットワーク接続を確認してください。届いている写真は、再び応答すると印刷されます。</translation>
+    </message>
+</context>
+<context>
     <name>printdialog::GuardedPanel</name>
     <message>
         <source>its plug-in gives no reason</source>
@@ -3983,6 +4009,64 @@ contact:行x列 はコンタクトシート。strips または strips:数 は 2 
     <message>
         <source>Summary of the job</source>
         <translation>印刷ジョブの設定一覧</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::WatchLoop</name>
+    <message>
+        <source>The folder &quot;%1&quot; is there again.</source>
+        <translation>フォルダー「%1」が戻りました。</translation>
+    </message>
+    <message>
+        <source>Photos that arrive in &quot;%1&quot; are printed on %2 and moved to &quot;%3&quot;.</source>
+        <translation>「%1」に届いた写真は %2 で印刷され、「%3」に移されます。</translation>
+    </message>
+    <message>
+        <source>Photos that arrive in &quot;%1&quot; are printed on %2.</source>
+        <translation>「%1」に届いた写真は %2 で印刷されます。</translation>
+    </message>
+    <message>
+        <source>The files that are there already are left alone: %1. With --existing, they are printed.</source>
+        <translation>すでにあるファイルはそのまま残します: %1 個。--existing を付けると印刷します。</translation>
+    </message>
+    <message>
+        <source>The program was ended while it was being sent.</source>
+        <translation>送信中にプログラムが終了しました。</translation>
+    </message>
+    <message>
+        <source>It was sent to another print server, %1, as job %2.</source>
+        <translation>別のプリントサーバー %1 にジョブ %2 として送信されました。</translation>
+    </message>
+    <message>
+        <source>It is unclear whether &quot;%1&quot; was printed. %2 It is not printed again by itself; if it has to be, set its time (&quot;touch&quot;) or copy it into the folder again.</source>
+        <translation>「%1」が印刷されたかどうか分かりません。%2 自動では再印刷しません。必要であれば、更新日時を変える (「touch」) か、もう一度フォルダーにコピーしてください。</translation>
+    </message>
+    <message>
+        <source>%1 It stays in the folder, and is not tried again.</source>
+        <translation>%1 ファイルはフォルダーに残り、再試行はされません。</translation>
+    </message>
+    <message>
+        <source>%1 It is now &quot;%2&quot;.</source>
+        <translation>%1 ファイルは「%2」に移しました。</translation>
+    </message>
+    <message>
+        <source>Printed photos stay in the folder, because they cannot be moved. %1</source>
+        <translation>印刷済みの写真を移せないため、フォルダーに残します。%1</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::WatchRecord</name>
+    <message>
+        <source>Another program watches the folder &quot;%1&quot; already. End it first, or choose another folder.</source>
+        <translation>別のプログラムがすでにフォルダー「%1」を監視しています。先にそれを終了するか、別のフォルダーを選んでください。</translation>
+    </message>
+    <message>
+        <source>The record of what was printed, &quot;%1&quot;, cannot be read: %2. Make it readable for you.</source>
+        <translation>印刷の記録「%1」を読めません: %2。読み取れるようにしてください。</translation>
+    </message>
+    <message>
+        <source>The record of what was printed, &quot;%1&quot;, cannot be written: %2. Nothing is printed without it; make room for it, or make it writable for you.</source>
+        <translation>印刷の記録「%1」を書き込めません: %2。記録なしでは何も印刷しません。空き容量を作るか、書き込めるようにしてください。</translation>
     </message>
 </context>
 </TS>

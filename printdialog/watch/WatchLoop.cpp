@@ -1,0 +1,330 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "WatchLoop.h"
+
+#include "FileMove.h"
+#include "FileName.h"
+#include "PlainText.h"
+#include "QueueList.h"
+
+#include <QtCore/QDir>
+#include <QtCore/QFile>
+#include <QtCore/QFileInfo>
+#include <QtCore/QScopeGuard>
+
+#include <cerrno>
+#include <fcntl.h>
+#include <sys/stat.h>
+
+using namespace std::chrono_literals;
+
+namespace printdialog {
+
+namespace {
+
+using End = PatientOutcome::End;
+using State = PhotoRecord::State;
+
+constexpr auto lateMoves = 20s; // between tries to move photos that could not be moved
+
+QString shownName(const FolderFile &file)
+{
+    return plainText(QFile::decodeName(file.name), shownTextLimit);
+}
+
+/// Marks the time in which a dead mount may block.
+auto busy(WatchControl &control)
+{
+    const auto now = std::chrono::steady_clock::now().time_since_epoch();
+    control.busySince = std::chrono::duration_cast<std::chrono::milliseconds>(now).count();
+    return qScopeGuard([&control] { control.busySince = 0; });
+}
+
+/// Whether the file's own permissions keep it from being read, and not its disk.
+bool isForbidden(const QByteArray &path)
+{
+    const pdekit::FileDescriptor file(::open(path.constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY));
+    return file.isOpen() || errno == EACCES || errno == EPERM;
+}
+
+} // namespace
+
+WatchLoop::WatchLoop(const WatchOrder &order, const WatchNews &news, WatchControl &control)
+    : order_(order)
+    , news_(news)
+    , control_(control)
+    , watch_(
+          order.folder,
+          [this](const PhotoIdentity &photo) { return record_ && record_->find(photo) != nullptr; },
+          order.pace)
+    , printer_(order.job, news.complain, control.stop)
+{
+}
+
+QString WatchLoop::run()
+{
+    if (const QString failure = begin(); !failure.isEmpty())
+        return failure;
+    QString trouble = watch_.trouble();
+    while (!isStopped()) {
+        std::optional<FolderFile> file;
+        {
+            moveLate();
+            const auto mark = busy(control_);
+            file = watch_.next(control_.wake, lateMoves);
+        }
+        if (watch_.trouble() != trouble) {
+            trouble = watch_.trouble();
+            if (trouble.isEmpty())
+                news_.say(
+                    tr("The folder \"%1\" is there again.").arg(plainText(order_.folder, shownTextLimit)));
+            else
+                news_.complain(trouble);
+        }
+        if (!file || isStopped())
+            continue;
+        if (const QString failure = finish(*file, printOne(*file)); !failure.isEmpty())
+            return failure;
+    }
+    return {};
+}
+
+/// Takes up the record where the last run has left it. @return why that is not possible
+QString WatchLoop::begin()
+{
+    std::optional<QList<FolderFile>> files;
+    {
+        const auto mark = busy(control_);
+        auto record = WatchRecord::open(order_.folder);
+        if (!record)
+            return record.failure().text;
+        record_.emplace(*std::move(record));
+        files = watch_.begin();
+        if (!files)
+            return watch_.trouble();
+    }
+    const bool isFirst = record_->isNew();
+    const auto left =
+        isFirst && !order_.printsExisting ? std::optional(PhotoRecord{.state = State::Left}) : std::nullopt;
+    if (const auto failure = record_->compact(*files, left))
+        return failure->text;
+    news_.say(order_.printed
+                  ? tr("Photos that arrive in \"%1\" are printed on %2 and moved to \"%3\".")
+                        .arg(plainText(order_.folder, shownTextLimit), order_.job.destination.id(),
+                             plainText(*order_.printed, shownTextLimit))
+                  : tr("Photos that arrive in \"%1\" are printed on %2.")
+                        .arg(plainText(order_.folder, shownTextLimit), order_.job.destination.id()));
+    if (left && !files->isEmpty())
+        news_.say(
+            tr("The files that are there already are left alone: %1. With --existing, they are printed.")
+                .arg(files->size()));
+    for (const FolderFile &file : std::as_const(*files)) {
+        if (!isStopped())
+            resume(file);
+    }
+    return {};
+}
+
+/// Ends what an earlier run has begun with the file.
+void WatchLoop::resume(const FolderFile &file)
+{
+    const PhotoRecord *found = record_->find(file.identity);
+    if (!found)
+        return;
+    const PhotoRecord known = *found;
+    switch (known.state) {
+    case State::Left:
+        if (order_.printsExisting)
+            record_->forget(file.identity);
+        break;
+    case State::Began:
+        finish(file, {End::Unclear, tr("The program was ended while it was being sent.")});
+        break;
+    case State::Sent:
+        if (known.server == printServerAddress() || Destination(known.printer).isAddress())
+            finish(file, printer_.resume(shownName(file), known.printer, known.job));
+        else
+            finish(file, {End::Unclear, tr("It was sent to another print server, %1, as job %2.")
+                                            .arg(known.server, QString::number(known.job))});
+        break;
+    case State::Printed:
+        movePrinted(file);
+        break;
+    case State::Aside:
+        moveAside(file, known.reason);
+        break;
+    }
+}
+
+PatientOutcome WatchLoop::printOne(const FolderFile &file)
+{
+    const QString name = QFile::decodeName(file.name);
+    if (isForeignName(name))
+        return {End::Unfit, foreignNameText(name)};
+    std::optional<Result<Photo, PhotoFault>> photo;
+    {
+        const auto mark = busy(control_);
+        photo = Photo::open(path(file.name));
+        if (!isThere(file))
+            return {End::Vanished, {}};
+        const bool isRead = *photo || photo->failure().reason != PhotoFault::NotReadable;
+        if (!isRead && !isForbidden(watch_.pathOf(file.name))) {
+            watch_.postpone(file); // its disk does not answer, for example
+            return {End::Vanished, {}};
+        }
+    }
+    if (!*photo)
+        return {End::Unfit, photo->failure().text};
+    const Arrangement wanted{{PlacedPhoto{**photo, order_.style.placement}}, order_.style.layout};
+    const Arrangement arranged = order_.job.isRaw() ? wanted.unplaced() : wanted;
+    const SheetPlan plan = arranged.plan(order_.job.page);
+    if (plan.failure())
+        return {End::Unfit, plan.failure()->text};
+    const QString shown = shownName(file);
+    const PatientPrinter::Steps steps = {
+        .begin =
+            [&] {
+                const auto failure = record_->add(file.identity, {.state = State::Began, .name = shown});
+                return failure ? failure->text : QString();
+            },
+        .withdraw = [&] { record_->forget(file.identity); },
+        .sent =
+            [&](int job) {
+                if (const auto failure = record_->add(file.identity, {.state = State::Sent,
+                                                                      .name = shown,
+                                                                      .job = job,
+                                                                      .printer = order_.job.destination.id(),
+                                                                      .server = printServerAddress()}))
+                    complainOnce(failure->text);
+            },
+        .isThere =
+            [&] {
+                const auto mark = busy(control_);
+                return isThere(file);
+            },
+    };
+    return printer_.print(arranged.sheet(plan.sheets().constFirst()), steps);
+}
+
+QString WatchLoop::finish(const FolderFile &file, const PatientOutcome &outcome)
+{
+    switch (outcome.end) {
+    case End::Printed:
+        if (const auto failure = record_->add(
+                file.identity, {.state = State::Printed, .name = shownName(file), .job = outcome.job}))
+            complainOnce(failure->text);
+        news_.say(outcome.text);
+        movePrinted(file);
+        break;
+    case End::Unfit:
+        unfit(file, outcome.text);
+        break;
+    case End::Failed:
+        setAside(file, outcome.text);
+        break;
+    case End::Unclear:
+        news_.complain(
+            tr("It is unclear whether \"%1\" was printed. %2 It is not printed again by itself; if it "
+               "has to be, set its time (\"touch\") or copy it into the folder again.")
+                .arg(shownName(file), outcome.text));
+        break;
+    case End::OtherPrinter:
+        return outcome.text;
+    case End::Vanished:
+    case End::Stopped:
+        break;
+    }
+    return {};
+}
+
+/// A program that writes a photo in several steps may only have begun: it gets a second chance.
+void WatchLoop::unfit(const FolderFile &file, const QString &reason)
+{
+    if (!postponed_.contains(file.identity)) {
+        postponed_.insert(file.identity);
+        watch_.postpone(file);
+    } else {
+        postponed_.remove(file.identity);
+        setAside(file, reason);
+    }
+}
+
+void WatchLoop::setAside(const FolderFile &file, const QString &reason)
+{
+    if (const auto failure =
+            record_->add(file.identity, {.state = State::Aside, .name = shownName(file), .reason = reason}))
+        complainOnce(failure->text);
+    const QString moved = moveAside(file, reason);
+    news_.complain(moved.isEmpty()
+                       ? tr("%1 It stays in the folder, and is not tried again.").arg(reason)
+                       : tr("%1 It is now \"%2\".").arg(reason, plainText(moved, shownTextLimit)));
+}
+
+/// @return its new path; empty when it stays, since the folder may not be written, for example
+QString WatchLoop::moveAside(const FolderFile &file, const QString &reason)
+{
+    const auto mark = busy(control_);
+    const QByteArray folder = watch_.pathOf(unprintableFolder);
+    if (!isThere(file) || (::mkdir(folder.constData(), 0777) != 0 && errno != EEXIST))
+        return {};
+    const auto moved = moveInto(watch_.pathOf(file.name), QFile::decodeName(folder));
+    if (!moved)
+        return {};
+    QFile text(QFile::decodeName(*moved + ".reason.txt"));
+    if (text.open(QIODevice::WriteOnly | QIODevice::NewOnly))
+        text.write(reason.toUtf8() + '\n');
+    record_->forget(file.identity);
+    return QFile::decodeName(*moved);
+}
+
+void WatchLoop::movePrinted(const FolderFile &file)
+{
+    const auto mark = busy(control_);
+    if (!order_.printed || !isThere(file))
+        return;
+    const auto moved = moveInto(watch_.pathOf(file.name), *order_.printed);
+    if (moved) {
+        record_->forget(file.identity);
+        return;
+    }
+    unmoved_.append(file);
+    complainOnce(
+        tr("Printed photos stay in the folder, because they cannot be moved. %1").arg(moved.failure().text));
+}
+
+void WatchLoop::moveLate()
+{
+    const auto now = std::chrono::steady_clock::now();
+    if (now < nextMoves_)
+        return;
+    nextMoves_ = now + lateMoves;
+    for (const FolderFile &file : std::exchange(unmoved_, {}))
+        movePrinted(file);
+}
+
+/// Whether it is still the same photo.
+bool WatchLoop::isThere(const FolderFile &file) const
+{
+    const auto now = watch_.find(file.name);
+    return now && now->identity == file.identity;
+}
+
+bool WatchLoop::isStopped() const
+{
+    return std::atomic_ref(control_.stop.leave).load() != 0;
+}
+
+QString WatchLoop::path(const QByteArray &name) const
+{
+    return QFile::decodeName(watch_.pathOf(name));
+}
+
+void WatchLoop::complainOnce(const QString &sentence)
+{
+    if (sentence == std::exchange(complaint_, sentence))
+        return;
+    news_.complain(sentence);
+}
+
+} // namespace printdialog
