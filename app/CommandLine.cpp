@@ -39,6 +39,8 @@ constexpr std::array optionRows = {
                                 "of it: QUEUE/PRESET. Or a printer's address, ipp://HOST/ipp/print,\n"
                                 "which needs no print server. Otherwise your default queue, or else the\n"
                                 "built-in printer")},
+    OptionRow{"preset", "NAME",
+              QT_TRANSLATE_NOOP("CommandLine", "a preset of the printer, also of your default printer")},
     OptionRow{"ppd", "FILE",
               QT_TRANSLATE_NOOP("CommandLine", "the built-in printer, with this PPD instead of its own")},
     OptionRow{"mode", "constraint|settings",
@@ -332,6 +334,28 @@ Fault readChoices(const QCommandLineParser &parser, QList<RequestedChoice> &choi
     return std::nullopt;
 }
 
+/// Call after the printer and the PPD were read: the built-in printer's PPD needs a printer's name to have a
+/// preset.
+Fault readPreset(const QCommandLineParser &parser, CommandLine &line)
+{
+    if (Fault found = readValue(parser, "preset", line.preset); found || !line.preset)
+        return found;
+    if (line.printer && !line.printer->instance.isEmpty())
+        return fault(UsageFault::Combination,
+                     Text::tr("--preset names the preset \"%1\", and --printer the preset \"%2\". Name one.")
+                         .arg(*line.preset, line.printer->instance));
+    if (line.printer && line.printer->isAddress())
+        return fault(UsageFault::Combination,
+                     Text::tr("--preset is for print queues and the built-in printer, and \"%1\" is a "
+                              "printer's address. Use -o in its place.")
+                         .arg(line.printer->queue));
+    if (line.ppd && !line.printer)
+        line.printer = Destination::builtIn();
+    if (line.printer)
+        line.printer->instance = *line.preset;
+    return std::nullopt;
+}
+
 /// The requested tasks, as they are written on the command line.
 QStringList tasksOf(const CommandLine &line)
 {
@@ -391,6 +415,10 @@ Fault contradiction(const CommandLine &line)
                      Text::tr("--overwrite is for --batch, --dry-run and --preview."));
     if (line.wait && !line.batch)
         return fault(UsageFault::Combination, Text::tr("--wait is for --batch."));
+    if (line.preset && !line.printer && !line.runsWithoutWindow() && !line.screenshot)
+        return fault(UsageFault::Missing,
+                     Text::tr("--preset needs --printer where a window opens: it opens with the printer used "
+                              "last, which may have no such preset."));
     if (!line.checks && !line.batch && !line.dryRun)
         return fault(UsageFault::Combination, Text::tr("--no-check is for --batch and --dry-run."));
     return std::nullopt;
@@ -431,7 +459,7 @@ Result<CommandLine, UsageFault> CommandLine::parse(const QStringList &arguments)
     for (const Fault &found :
          {readPhotos(parser.positionalArguments(), line.photos), readCopies(parser, line.copies),
           readValue(parser, "printer", line.printer), readValue(parser, "ppd", line.ppd),
-          readValue(parser, "output", line.output), readTitle(parser, line),
+          readPreset(parser, line), readValue(parser, "output", line.output), readTitle(parser, line),
           readValue(parser, "screenshot", line.screenshot), readPreview(parser, line.preview),
           readServer(parser, line.server), readWait(parser, line.wait), readMode(parser, line.mode),
           readSheets(parser, line.style), readCrop(parser, line.style), readChoices(parser, line.options),

@@ -64,6 +64,7 @@ struct CommandLine
     /// Paths; file URLs are converted, and "-" stands for the standard input. Or a single print list.
     QStringList photos;
     std::optional<Destination> printer; ///< its instance is a preset's name, or the preset's instance in CUPS
+    std::optional<QString> preset;      ///< of the printer; also the instance of `printer`, if that is set
     std::optional<QString> ppd;         ///< a file, for the built-in printer
     PanelMode mode = PanelMode::Constraint;
     QList<RequestedChoice> options; ///< in the order given

@@ -88,12 +88,21 @@ OpenedPrinter openDefaultQueue(const Destination &destination, PanelMode mode)
             .arg(session.failure().text));
 }
 
+/// A default printer with the preset that is requested, if one is.
+Destination withPreset(Destination printer, const CommandLine &commandLine)
+{
+    if (commandLine.preset)
+        printer.instance = *commandLine.preset;
+    return printer;
+}
+
 /// The printer requested by name or as the user's default.
 std::optional<Destination> destinationOf(const CommandLine &commandLine)
 {
     if (commandLine.printer || commandLine.ppd)
         return commandLine.printer;
-    return UserDestinations::read().defaultPrinter;
+    const auto chosen = UserDestinations::read().defaultPrinter;
+    return chosen ? std::optional(withPreset(*chosen, commandLine)) : std::nullopt;
 }
 
 /// Notes the copies, and what is left out in one line. @param introduction with a place for the sentences
@@ -140,7 +149,7 @@ OpenedPrinter openRequestedPrinter(const CommandLine &commandLine)
     if (const std::optional<Destination> chosen = destinationOf(commandLine)) {
         if (chosen->isBuiltIn())
             return orSentence(openBuiltInPrinter(std::nullopt, commandLine.mode));
-        return openDefaultQueue(*chosen, commandLine.mode);
+        return openDefaultQueue(PresetStore::destination(*chosen), commandLine.mode);
     }
     const auto queues = listQueues(defaultPatience);
     if (!queues && (commandLine.server || !isWithoutPrintServer(queues.failure())))
@@ -149,7 +158,7 @@ OpenedPrinter openRequestedPrinter(const CommandLine &commandLine)
                             "\"--printer built-in\" prints into files.")
                 .arg(queues.failure().text));
     if (const std::optional<Destination> found = queues ? defaultQueue(*queues) : std::nullopt)
-        return openDefaultQueue(*found, commandLine.mode);
+        return openDefaultQueue(PresetStore::destination(withPreset(*found, commandLine)), commandLine.mode);
     return orSentence(openBuiltInPrinter(std::nullopt, commandLine.mode));
 }
 
@@ -175,7 +184,7 @@ Result<RequestedSession, std::monostate> openRequestedSession(const CommandLine 
                                        "out, or set the printer up with its driver.")
                            .arg(printer.destination.id(), foreign->key));
     if (const QString failure =
-            makeFirstChoices(requested, destinationOf(commandLine).value_or(Destination()));
+            makeFirstChoices(requested, destinationOf(commandLine).value_or(withPreset({}, commandLine)));
         !failure.isEmpty())
         return refusal(failure);
     requested.copies = commandLine.copies.value_or(requested.copies);

@@ -27,6 +27,7 @@ function __corvel_print_choices
 end
 
 complete -c corvel-print -s d -l printer -x -a 'built-in (corvel-print --list-printers 2>/dev/null | cut -f1,2)' -d 'A print queue, or the built-in printer'
+complete -c corvel-print -l preset -x -d 'A preset of the printer'
 complete -c corvel-print -l ppd -r -d 'The built-in printer, with this PPD instead of its own'
 complete -c corvel-print -l mode -x -a 'constraint settings' -d 'When a conflicting choice is refused'
 complete -c corvel-print -s n -l copies -x -d 'How many copies of each photo'

@@ -464,6 +464,22 @@ Foto sein Blatt; auch „,gap=2mm“ und „,marks“ für Schnittmarken</transl
         <source>&quot;-&quot; reads one photo from the standard input. Give it once.</source>
         <translation>„-“ liest ein Foto von der Standardeingabe. Geben Sie es nur einmal an.</translation>
     </message>
+    <message>
+        <source>a preset of the printer, also of your default printer</source>
+        <translation>eine Voreinstellung des Druckers, auch Ihres Standarddruckers</translation>
+    </message>
+    <message>
+        <source>--preset names the preset &quot;%1&quot;, and --printer the preset &quot;%2&quot;. Name one.</source>
+        <translation>--preset nennt die Voreinstellung „%1“ und --printer die Voreinstellung „%2“. Nennen Sie nur eine.</translation>
+    </message>
+    <message>
+        <source>--preset is for print queues and the built-in printer, and &quot;%1&quot; is a printer&apos;s address. Use -o in its place.</source>
+        <translation>--preset ist für Warteschlangen und den eingebauten Drucker, und „%1“ ist die Adresse eines Druckers. Verwenden Sie stattdessen -o.</translation>
+    </message>
+    <message>
+        <source>--preset needs --printer where a window opens: it opens with the printer used last, which may have no such preset.</source>
+        <translation>--preset braucht --printer, wenn ein Fenster aufgeht: Es öffnet sich mit dem zuletzt benutzten Drucker, der diese Voreinstellung vielleicht nicht hat.</translation>
+    </message>
 </context>
 <context>
     <name>Console</name>

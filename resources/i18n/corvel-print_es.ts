@@ -463,6 +463,22 @@ hoja; también «,gap=2mm», y «,marks» para las marcas de corte</translation>
         <source>&quot;-&quot; reads one photo from the standard input. Give it once.</source>
         <translation>«-» lee una foto de la entrada estándar. Indíquelo una sola vez.</translation>
     </message>
+    <message>
+        <source>a preset of the printer, also of your default printer</source>
+        <translation>un preajuste de la impresora, también de su impresora predeterminada</translation>
+    </message>
+    <message>
+        <source>--preset names the preset &quot;%1&quot;, and --printer the preset &quot;%2&quot;. Name one.</source>
+        <translation>--preset nombra el preajuste «%1», y --printer el preajuste «%2». Nombre solo uno.</translation>
+    </message>
+    <message>
+        <source>--preset is for print queues and the built-in printer, and &quot;%1&quot; is a printer&apos;s address. Use -o in its place.</source>
+        <translation>--preset es para colas de impresión y la impresora integrada, y «%1» es la dirección de una impresora. Use -o en su lugar.</translation>
+    </message>
+    <message>
+        <source>--preset needs --printer where a window opens: it opens with the printer used last, which may have no such preset.</source>
+        <translation>--preset necesita --printer cuando se abre una ventana: se abre con la última impresora usada, que quizá no tenga ese preajuste.</translation>
+    </message>
 </context>
 <context>
     <name>Console</name>

@@ -465,6 +465,22 @@ photo remplit sa feuille&#x202f;; aussi «&#x202f;,gap=2mm&#x202f;», et «&#x20
         <source>&quot;-&quot; reads one photo from the standard input. Give it once.</source>
         <translation>«&#x202f;-&#x202f;» lit une photo sur l’entrée standard. Indiquez-le une seule fois.</translation>
     </message>
+    <message>
+        <source>a preset of the printer, also of your default printer</source>
+        <translation>un préréglage de l’imprimante, aussi de votre imprimante par défaut</translation>
+    </message>
+    <message>
+        <source>--preset names the preset &quot;%1&quot;, and --printer the preset &quot;%2&quot;. Name one.</source>
+        <translation>--preset nomme le préréglage «&#x202f;%1&#x202f;» et --printer le préréglage «&#x202f;%2&#x202f;». N’en nommez qu’un.</translation>
+    </message>
+    <message>
+        <source>--preset is for print queues and the built-in printer, and &quot;%1&quot; is a printer&apos;s address. Use -o in its place.</source>
+        <translation>--preset va avec les files d’attente et l’imprimante intégrée, et «&#x202f;%1&#x202f;» est l’adresse d’une imprimante. Utilisez plutôt -o.</translation>
+    </message>
+    <message>
+        <source>--preset needs --printer where a window opens: it opens with the printer used last, which may have no such preset.</source>
+        <translation>--preset a besoin de --printer quand une fenêtre s’ouvre&#x202f;: elle s’ouvre avec la dernière imprimante utilisée, qui n’a peut-être pas ce préréglage.</translation>
+    </message>
 </context>
 <context>
     <name>Console</name>
@@ -3052,11 +3068,11 @@ photo remplit sa feuille&#x202f;; aussi «&#x202f;,gap=2mm&#x202f;», et «&#x20
     <name>printdialog::PatientPrinter</name>
     <message>
         <source>%1 waits. It is printed when that is over: %2</source>
-        <translation>%1 attend et sera imprimée quand ceci sera terminé : %2</translation>
+        <translation>%1 attend et sera imprimée quand ceci sera terminé&#x202f;: %2</translation>
     </message>
     <message>
         <source>%1 (job %2) waits. It was sent, and is not sent again: %3</source>
-        <translation>%1 (tâche %2) attend. La tâche a été envoyée et ne le sera pas une seconde fois : %3</translation>
+        <translation>%1 (tâche %2) attend. La tâche a été envoyée et ne le sera pas une seconde fois&#x202f;: %3</translation>
     </message>
     <message>
         <source>The printer &quot;%1&quot; could not print %2 (job %3): %4. Look at the printer and print again.</source>
@@ -3084,7 +3100,7 @@ photo remplit sa feuille&#x202f;; aussi «&#x202f;,gap=2mm&#x202f;», et «&#x20
     </message>
     <message>
         <source>%1 (job %2) waits: %3. It is printed when that is over.</source>
-        <translation>%1 (tâche %2) attend : %3. L’impression aura lieu quand ce sera terminé.</translation>
+        <translation>%1 (tâche %2) attend&#x202f;: %3. L’impression aura lieu quand ce sera terminé.</translation>
     </message>
     <message>
         <source>Printing %1 continues.</source>

@@ -463,6 +463,22 @@ contact:行x列 はコンタクトシート。strips または strips:数 は 2 
         <source>&quot;-&quot; reads one photo from the standard input. Give it once.</source>
         <translation>「-」は標準入力から写真を 1 枚読みます。1 回だけ指定してください。</translation>
     </message>
+    <message>
+        <source>a preset of the printer, also of your default printer</source>
+        <translation>プリンターのプリセット。既定のプリンターのものも指定できる</translation>
+    </message>
+    <message>
+        <source>--preset names the preset &quot;%1&quot;, and --printer the preset &quot;%2&quot;. Name one.</source>
+        <translation>--preset はプリセット「%1」を、--printer はプリセット「%2」を指定しています。どちらか一方だけを指定してください。</translation>
+    </message>
+    <message>
+        <source>--preset is for print queues and the built-in printer, and &quot;%1&quot; is a printer&apos;s address. Use -o in its place.</source>
+        <translation>--preset は印刷キューと内蔵プリンター用ですが、「%1」はプリンターのアドレスです。代わりに -o を使ってください。</translation>
+    </message>
+    <message>
+        <source>--preset needs --printer where a window opens: it opens with the printer used last, which may have no such preset.</source>
+        <translation>ウィンドウを開くときは --preset に --printer が必要です。ウィンドウは最後に使ったプリンターで開き、そのプリンターにはこのプリセットがないかもしれません。</translation>
+    </message>
 </context>
 <context>
     <name>Console</name>

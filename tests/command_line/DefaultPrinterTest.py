@@ -9,7 +9,7 @@ import sys
 import threading
 import unittest
 
-from program import PHOTO, ProgramTest, run
+from program import PHOTO, PPD, ProgramTest, run
 
 ABSENT = "/nonexistent/cups.sock"
 PRINT = "--batch", "--output", "out", PHOTO
@@ -76,7 +76,11 @@ class DefaultPrinterTest(ProgramTest):
         presets.parent.mkdir(parents=True)
         presets.write_text("Dest built-in/10%20%2F%2015 Red=7 copies=3\n")
         name = "built-in/10 / 15"
-        for done in (self.run_at_home("--summary", LPDEST=name), self.run_at_home("--summary", "--printer", name)):
+        for done in (self.run_at_home("--summary", LPDEST=name), self.run_at_home("--summary", "--printer", name),
+                     self.run_at_home("--summary", "--printer", "built-in", "--preset", "10 / 15"),
+                     self.run_at_home("--summary", "--ppd", PPD, "--preset", "10 / 15"),
+                     self.run_at_home("--summary", "--preset", "10 / 15", LPDEST="built-in"),
+                     self.run_at_home("--summary", "--preset", "10 / 15", CUPS_SERVER=ABSENT)):
             self.assertEqual(done.err, "")
             self.assertIn("\nRed: 7\n", done.out)
             self.assertIn("\nCopies: 3\n", done.out)

@@ -57,6 +57,9 @@ USAGE = (
     (["--preview", "a.png", "--json", PHOTO], "--json"),
     *((["--preview", "a.png", *other, PHOTO], "exclude") for other in (
         ["--batch"], ["--list-options"], ["--screenshot", "d"], ["--dry-run"], ["--summary"])),
+    (["--batch", "--printer", "queue/one", "--preset", "two", PHOTO], '"two"'),
+    (["--batch", "--printer", "ipp://h/ipp/print", "--preset", "one", PHOTO], "ipp://h/ipp/print"),
+    (["--preset", "one", PHOTO], "--printer"),
     (["--json", "--summary", "--batch", PHOTO], "--json"))
 CHOICES = (  # options, words, modes
     (["Red=99"], ['"Red"', '"99"', "-25 to 25"], MODES),
