@@ -94,6 +94,18 @@ constexpr std::array optionRows = {
               QT_TRANSLATE_NOOP("CommandLine",
                                 "no window: apply the options, print, exit; what the window has\n"
                                 "saved is not used, so that a script gets the same each time")},
+    OptionRow{"watch", "FOLDER",
+              QT_TRANSLATE_NOOP("CommandLine",
+                                "no window: print each photo that arrives in the folder, once, until the\n"
+                                "program is ended (SIGTERM, Ctrl+C). It waits for a printer or a print\n"
+                                "server that is away. The photos that are there at first are left alone;\n"
+                                "those that cannot be printed go to the folder \"unprintable\" in it")},
+    OptionRow{"printed", "FOLDER",
+              QT_TRANSLATE_NOOP("CommandLine",
+                                "where --watch moves photos once they are printed; otherwise they stay\n"
+                                "where they are, and the program remembers them")},
+    OptionRow{"existing", nullptr,
+              QT_TRANSLATE_NOOP("CommandLine", "--watch also prints the photos that are there at first")},
     OptionRow{"dry-run", nullptr,
               QT_TRANSLATE_NOOP("CommandLine", "show exactly what --batch would send, and send nothing")},
     OptionRow{"no-check", nullptr,
@@ -356,12 +368,28 @@ Fault readPreset(const QCommandLineParser &parser, CommandLine &line)
     return std::nullopt;
 }
 
+Fault contradictionOfWatch(const CommandLine &line)
+{
+    if (!line.watch && (line.printed || line.existing))
+        return fault(UsageFault::Combination,
+                     Text::tr("%1 is for --watch.")
+                         .arg(line.printed ? QLatin1String("--printed") : QLatin1String("--existing")));
+    if (line.watch && !line.photos.isEmpty())
+        return fault(UsageFault::Combination,
+                     Text::tr("--watch prints the photos of its folder, and \"%1\" is named, too. Leave one "
+                              "of them out.")
+                         .arg(line.photos.constFirst()));
+    return std::nullopt;
+}
+
 /// The requested tasks, as they are written on the command line.
 QStringList tasksOf(const CommandLine &line)
 {
     QStringList tasks;
     if (line.batch)
         tasks.append(QStringLiteral("--batch"));
+    if (line.watch)
+        tasks.append(QStringLiteral("--watch"));
     if (line.listPrinters)
         tasks.append(QStringLiteral("--list-printers"));
     if (line.listOptions)
@@ -406,7 +434,8 @@ Fault contradiction(const CommandLine &line)
     if (line.photos.count(QLatin1String("-")) > 1)
         return fault(UsageFault::Combination,
                      Text::tr("\"-\" reads one photo from the standard input. Give it once."));
-    if (line.json && !line.dryRun && (line.batch || line.screenshot || line.preview || tasks.isEmpty())) {
+    if (line.json && !line.dryRun &&
+        (line.batch || line.watch || line.screenshot || line.preview || tasks.isEmpty())) {
         return fault(UsageFault::Combination,
                      Text::tr("--json is for --list-printers, --list-options, --summary and --dry-run."));
     }
@@ -445,6 +474,7 @@ Result<CommandLine, UsageFault> CommandLine::parse(const QStringList &arguments)
     CommandLine line;
     line.batch = parser.isSet(QStringLiteral("batch"));
     line.overwrite = parser.isSet(QStringLiteral("overwrite"));
+    line.existing = parser.isSet(QStringLiteral("existing"));
     line.dryRun = parser.isSet(QStringLiteral("dry-run"));
     line.checks = !parser.isSet(QStringLiteral("no-check"));
     line.listPrinters = parser.isSet(QStringLiteral("list-printers"));
@@ -459,11 +489,12 @@ Result<CommandLine, UsageFault> CommandLine::parse(const QStringList &arguments)
     for (const Fault &found :
          {readPhotos(parser.positionalArguments(), line.photos), readCopies(parser, line.copies),
           readValue(parser, "printer", line.printer), readValue(parser, "ppd", line.ppd),
-          readPreset(parser, line), readValue(parser, "output", line.output), readTitle(parser, line),
-          readValue(parser, "screenshot", line.screenshot), readPreview(parser, line.preview),
-          readServer(parser, line.server), readWait(parser, line.wait), readMode(parser, line.mode),
-          readSheets(parser, line.style), readCrop(parser, line.style), readChoices(parser, line.options),
-          contradiction(line)}) {
+          readPreset(parser, line), readValue(parser, "watch", line.watch),
+          readValue(parser, "printed", line.printed), readValue(parser, "output", line.output),
+          readTitle(parser, line), readValue(parser, "screenshot", line.screenshot),
+          readPreview(parser, line.preview), readServer(parser, line.server), readWait(parser, line.wait),
+          readMode(parser, line.mode), readSheets(parser, line.style), readCrop(parser, line.style),
+          readChoices(parser, line.options), contradiction(line), contradictionOfWatch(line)}) {
         if (found)
             return *found;
     }

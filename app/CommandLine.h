@@ -56,9 +56,9 @@ struct RequestedStyle
     ArrangementStyle over(const ArrangementStyle &style) const;
 };
 
-/// The program's task. A plain value. At most one of batch, preview, listPrinters, listOptions and screenshot
-/// is set; summary and dryRun are each set alone or together with batch. Without any of them, the window is
-/// shown.
+/// The program's task. A plain value. At most one of batch, watch, preview, listPrinters, listOptions and
+/// screenshot is set; summary and dryRun are each set alone or together with batch. Without any of them, the
+/// window is shown.
 struct CommandLine
 {
     /// Paths; file URLs are converted, and "-" stands for the standard input. Or a single print list.
@@ -74,6 +74,9 @@ struct CommandLine
     std::optional<QString> output; ///< the folder of the built-in printer's files
     bool overwrite = false;        ///< files of an earlier run are replaced
     bool batch = false;
+    std::optional<QString> watch;   ///< the folder whose new photos are printed
+    std::optional<QString> printed; ///< where they are moved then
+    bool existing = false;          ///< also those that are there at first
     bool dryRun = false;
     bool checks = true;            ///< whether damaged photos are left out
     std::optional<QString> server; ///< "host", "host:port" or a socket's path, fit for CUPS_SERVER
@@ -111,7 +114,7 @@ struct CommandLine
     /// Whether the task shows no widget, on a screen or in a picture.
     bool runsWithoutWindow() const
     {
-        return batch || dryRun || preview || listPrinters || listOptions || summary;
+        return batch || watch || dryRun || preview || listPrinters || listOptions || summary;
     }
 };
 

@@ -13,6 +13,7 @@
 #include "StandardInput.h"
 #include "SystemLog.h"
 #include "TerminalLogin.h"
+#include "WatchRun.h"
 #include "WindowRun.h"
 
 #include <QtCore/QFile>
@@ -166,6 +167,7 @@ int runWithoutWindow(const CommandLine &commandLine)
     askLoginsOnTerminal();
     Console console;
     const int status = commandLine.batch || commandLine.dryRun ? BatchRun(commandLine, console).run()
+                       : commandLine.watch                     ? WatchRun(commandLine, console).run()
                        : commandLine.preview                   ? savePreviews(commandLine, console)
                        : commandLine.listPrinters              ? listPrinters(commandLine, console)
                        : commandLine.listOptions               ? listOptions(commandLine, console)

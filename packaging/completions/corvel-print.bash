@@ -69,7 +69,7 @@ _corvel_print()
             _filedir '@(png|PNG)'
             return
             ;;
-        --output | --screenshot)
+        --output | --screenshot | --watch | --printed)
             _filedir -d
             return
             ;;

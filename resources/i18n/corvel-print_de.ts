@@ -480,6 +480,35 @@ Foto sein Blatt; auch „,gap=2mm“ und „,marks“ für Schnittmarken</transl
         <source>--preset needs --printer where a window opens: it opens with the printer used last, which may have no such preset.</source>
         <translation>--preset braucht --printer, wenn ein Fenster aufgeht: Es öffnet sich mit dem zuletzt benutzten Drucker, der diese Voreinstellung vielleicht nicht hat.</translation>
     </message>
+    <message>
+        <source>no window: print each photo that arrives in the folder, once, until the
+program is ended (SIGTERM, Ctrl+C). It waits for a printer or a print
+server that is away. The photos that are there at first are left alone;
+those that cannot be printed go to the folder &quot;unprintable&quot; in it</source>
+        <translation>ohne Fenster: jedes Foto, das in dem Ordner ankommt, einmal drucken, bis
+das Programm beendet wird (SIGTERM, Strg+C). Auf einen Drucker oder
+Druckserver, der nicht da ist, wird gewartet. Fotos, die anfangs schon da
+sind, bleiben unberührt; nicht druckbare kommen in dessen Unterordner
+&quot;unprintable&quot;</translation>
+    </message>
+    <message>
+        <source>where --watch moves photos once they are printed; otherwise they stay
+where they are, and the program remembers them</source>
+        <translation>wohin --watch gedruckte Fotos verschiebt; sonst bleiben sie, wo sie sind,
+und das Programm merkt sie sich</translation>
+    </message>
+    <message>
+        <source>--watch also prints the photos that are there at first</source>
+        <translation>--watch druckt auch die Fotos, die anfangs schon da sind</translation>
+    </message>
+    <message>
+        <source>%1 is for --watch.</source>
+        <translation>%1 ist für --watch.</translation>
+    </message>
+    <message>
+        <source>--watch prints the photos of its folder, and &quot;%1&quot; is named, too. Leave one of them out.</source>
+        <translation>--watch druckt die Fotos seines Ordners, und „%1“ ist auch genannt. Lassen Sie eines davon weg.</translation>
+    </message>
 </context>
 <context>
     <name>Console</name>
@@ -4090,6 +4119,29 @@ Foto sein Blatt; auch „,gap=2mm“ und „,marks“ für Schnittmarken</transl
     <message>
         <source>The record of what was printed, &quot;%1&quot;, cannot be written: %2. Nothing is printed without it; make room for it, or make it writable for you.</source>
         <translation>Die Aufzeichnung des Gedruckten, „%1“, kann nicht geschrieben werden: %2. Ohne sie wird nichts gedruckt; schaffen Sie Platz, oder machen Sie sie für sich beschreibbar.</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::WatchRun</name>
+    <message>
+        <source>The folder &quot;%1&quot; of %2 does not exist. Make it, or choose another one.</source>
+        <translation>Den Ordner „%1“ von %2 gibt es nicht. Legen Sie ihn an, oder wählen Sie einen anderen.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a folder, and %2 needs one. Choose a folder.</source>
+        <translation>„%1“ ist kein Ordner, und %2 braucht einen. Wählen Sie einen Ordner.</translation>
+    </message>
+    <message>
+        <source>You may not read the folder &quot;%1&quot; of %2. Change its permissions, or choose another one.</source>
+        <translation>Sie dürfen den Ordner „%1“ von %2 nicht lesen. Ändern Sie seine Zugriffsrechte, oder wählen Sie einen anderen.</translation>
+    </message>
+    <message>
+        <source>--printed and --watch name the same folder, &quot;%1&quot;. Choose another one for the printed photos.</source>
+        <translation>--printed und --watch nennen denselben Ordner, „%1“. Wählen Sie einen anderen für die gedruckten Fotos.</translation>
+    </message>
+    <message>
+        <source>The built-in printer would leave its files in the watched folder, &quot;%1&quot;. Choose another one with --output.</source>
+        <translation>Der eingebaute Drucker würde seine Dateien im überwachten Ordner „%1“ ablegen. Wählen Sie mit --output einen anderen.</translation>
     </message>
 </context>
 </TS>

@@ -479,6 +479,35 @@ hoja; también «,gap=2mm», y «,marks» para las marcas de corte</translation>
         <source>--preset needs --printer where a window opens: it opens with the printer used last, which may have no such preset.</source>
         <translation>--preset necesita --printer cuando se abre una ventana: se abre con la última impresora usada, que quizá no tenga ese preajuste.</translation>
     </message>
+    <message>
+        <source>no window: print each photo that arrives in the folder, once, until the
+program is ended (SIGTERM, Ctrl+C). It waits for a printer or a print
+server that is away. The photos that are there at first are left alone;
+those that cannot be printed go to the folder &quot;unprintable&quot; in it</source>
+        <translation>sin ventana: imprimir una vez cada foto que llegue a la carpeta, hasta que
+se termine el programa (SIGTERM, Ctrl+C). Espera a una impresora o un
+servidor de impresión que no esté. Las fotos que ya estén al principio se
+dejan como están; las que no se pueden imprimir van a la carpeta
+&quot;unprintable&quot; dentro de ella</translation>
+    </message>
+    <message>
+        <source>where --watch moves photos once they are printed; otherwise they stay
+where they are, and the program remembers them</source>
+        <translation>adónde mueve --watch las fotos una vez impresas; si no, se quedan donde
+están y el programa las recuerda</translation>
+    </message>
+    <message>
+        <source>--watch also prints the photos that are there at first</source>
+        <translation>--watch imprime también las fotos que ya estén al principio</translation>
+    </message>
+    <message>
+        <source>%1 is for --watch.</source>
+        <translation>%1 es para --watch.</translation>
+    </message>
+    <message>
+        <source>--watch prints the photos of its folder, and &quot;%1&quot; is named, too. Leave one of them out.</source>
+        <translation>--watch imprime las fotos de su carpeta, y también se nombra «%1». Omita uno de los dos.</translation>
+    </message>
 </context>
 <context>
     <name>Console</name>
@@ -4089,6 +4118,29 @@ hoja; también «,gap=2mm», y «,marks» para las marcas de corte</translation>
     <message>
         <source>The record of what was printed, &quot;%1&quot;, cannot be written: %2. Nothing is printed without it; make room for it, or make it writable for you.</source>
         <translation>No se puede escribir el registro de lo impreso, «%1»: %2. Sin él no se imprime nada; libere espacio o permita escribir en él.</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::WatchRun</name>
+    <message>
+        <source>The folder &quot;%1&quot; of %2 does not exist. Make it, or choose another one.</source>
+        <translation>La carpeta «%1» de %2 no existe. Créela o elija otra.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a folder, and %2 needs one. Choose a folder.</source>
+        <translation>«%1» no es una carpeta, y %2 necesita una. Elija una carpeta.</translation>
+    </message>
+    <message>
+        <source>You may not read the folder &quot;%1&quot; of %2. Change its permissions, or choose another one.</source>
+        <translation>No tiene permiso para leer la carpeta «%1» de %2. Cambie sus permisos o elija otra.</translation>
+    </message>
+    <message>
+        <source>--printed and --watch name the same folder, &quot;%1&quot;. Choose another one for the printed photos.</source>
+        <translation>--printed y --watch nombran la misma carpeta, «%1». Elija otra para las fotos impresas.</translation>
+    </message>
+    <message>
+        <source>The built-in printer would leave its files in the watched folder, &quot;%1&quot;. Choose another one with --output.</source>
+        <translation>La impresora integrada dejaría sus archivos en la carpeta vigilada, «%1». Elija otra con --output.</translation>
     </message>
 </context>
 </TS>

@@ -481,6 +481,34 @@ photo remplit sa feuille&#x202f;; aussi «&#x202f;,gap=2mm&#x202f;», et «&#x20
         <source>--preset needs --printer where a window opens: it opens with the printer used last, which may have no such preset.</source>
         <translation>--preset a besoin de --printer quand une fenêtre s’ouvre&#x202f;: elle s’ouvre avec la dernière imprimante utilisée, qui n’a peut-être pas ce préréglage.</translation>
     </message>
+    <message>
+        <source>no window: print each photo that arrives in the folder, once, until the
+program is ended (SIGTERM, Ctrl+C). It waits for a printer or a print
+server that is away. The photos that are there at first are left alone;
+those that cannot be printed go to the folder &quot;unprintable&quot; in it</source>
+        <translation>sans fenêtre&#x202f;: imprimer une fois chaque photo qui arrive dans le dossier,
+jusqu’à la fin du programme (SIGTERM, Ctrl+C). Il attend une imprimante ou
+un serveur d’impression absent. Les photos présentes au début restent telles
+quelles&#x202f;; celles qui ne s’impriment pas vont dans son dossier &quot;unprintable&quot;</translation>
+    </message>
+    <message>
+        <source>where --watch moves photos once they are printed; otherwise they stay
+where they are, and the program remembers them</source>
+        <translation>où --watch déplace les photos une fois imprimées&#x202f;; sinon elles restent où
+elles sont, et le programme les retient</translation>
+    </message>
+    <message>
+        <source>--watch also prints the photos that are there at first</source>
+        <translation>--watch imprime aussi les photos présentes au début</translation>
+    </message>
+    <message>
+        <source>%1 is for --watch.</source>
+        <translation>%1 va avec --watch.</translation>
+    </message>
+    <message>
+        <source>--watch prints the photos of its folder, and &quot;%1&quot; is named, too. Leave one of them out.</source>
+        <translation>--watch imprime les photos de son dossier, et «&#x202f;%1&#x202f;» est aussi nommé. Omettez l’un des deux.</translation>
+    </message>
 </context>
 <context>
     <name>Console</name>
@@ -4091,6 +4119,29 @@ photo remplit sa feuille&#x202f;; aussi «&#x202f;,gap=2mm&#x202f;», et «&#x20
     <message>
         <source>The record of what was printed, &quot;%1&quot;, cannot be written: %2. Nothing is printed without it; make room for it, or make it writable for you.</source>
         <translation>Le journal de ce qui a été imprimé, «&#x202f;%1&#x202f;», ne peut pas être écrit&#x202f;: %2. Rien n’est imprimé sans lui&#x202f;; libérez de la place ou rendez-le accessible en écriture.</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::WatchRun</name>
+    <message>
+        <source>The folder &quot;%1&quot; of %2 does not exist. Make it, or choose another one.</source>
+        <translation>Le dossier «&#x202f;%1&#x202f;» de %2 n’existe pas. Créez-le ou choisissez-en un autre.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a folder, and %2 needs one. Choose a folder.</source>
+        <translation>«&#x202f;%1&#x202f;» n’est pas un dossier, et %2 en a besoin. Choisissez un dossier.</translation>
+    </message>
+    <message>
+        <source>You may not read the folder &quot;%1&quot; of %2. Change its permissions, or choose another one.</source>
+        <translation>Vous n’avez pas le droit de lire le dossier «&#x202f;%1&#x202f;» de %2. Modifiez ses droits d’accès ou choisissez-en un autre.</translation>
+    </message>
+    <message>
+        <source>--printed and --watch name the same folder, &quot;%1&quot;. Choose another one for the printed photos.</source>
+        <translation>--printed et --watch nomment le même dossier, «&#x202f;%1&#x202f;». Choisissez-en un autre pour les photos imprimées.</translation>
+    </message>
+    <message>
+        <source>The built-in printer would leave its files in the watched folder, &quot;%1&quot;. Choose another one with --output.</source>
+        <translation>L’imprimante intégrée laisserait ses fichiers dans le dossier surveillé, «&#x202f;%1&#x202f;». Choisissez-en un autre avec --output.</translation>
     </message>
 </context>
 </TS>

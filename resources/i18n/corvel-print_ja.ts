@@ -479,6 +479,34 @@ contact:行x列 はコンタクトシート。strips または strips:数 は 2 
         <source>--preset needs --printer where a window opens: it opens with the printer used last, which may have no such preset.</source>
         <translation>ウィンドウを開くときは --preset に --printer が必要です。ウィンドウは最後に使ったプリンターで開き、そのプリンターにはこのプリセットがないかもしれません。</translation>
     </message>
+    <message>
+        <source>no window: print each photo that arrives in the folder, once, until the
+program is ended (SIGTERM, Ctrl+C). It waits for a printer or a print
+server that is away. The photos that are there at first are left alone;
+those that cannot be printed go to the folder &quot;unprintable&quot; in it</source>
+        <translation>ウィンドウなしで、フォルダーに届いた写真を、プログラムが終わる
+(SIGTERM、Ctrl+C) まで 1 回ずつ印刷する。プリンターやプリントサーバーが
+使えない間は待つ。最初からある写真はそのまま残す。印刷できない写真は、
+その中のフォルダー &quot;unprintable&quot; に移す</translation>
+    </message>
+    <message>
+        <source>where --watch moves photos once they are printed; otherwise they stay
+where they are, and the program remembers them</source>
+        <translation>--watch が印刷済みの写真を移す場所。指定しなければ元の場所に残り、
+プログラムが記憶する</translation>
+    </message>
+    <message>
+        <source>--watch also prints the photos that are there at first</source>
+        <translation>--watch で、最初からある写真も印刷する</translation>
+    </message>
+    <message>
+        <source>%1 is for --watch.</source>
+        <translation>%1 は --watch 用です。</translation>
+    </message>
+    <message>
+        <source>--watch prints the photos of its folder, and &quot;%1&quot; is named, too. Leave one of them out.</source>
+        <translation>--watch はフォルダーの写真を印刷しますが、「%1」も指定されています。どちらかを省いてください。</translation>
+    </message>
 </context>
 <context>
     <name>Console</name>
@@ -4083,6 +4111,29 @@ contact:行x列 はコンタクトシート。strips または strips:数 は 2 
     <message>
         <source>The record of what was printed, &quot;%1&quot;, cannot be written: %2. Nothing is printed without it; make room for it, or make it writable for you.</source>
         <translation>印刷の記録「%1」を書き込めません: %2。記録なしでは何も印刷しません。空き容量を作るか、書き込めるようにしてください。</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::WatchRun</name>
+    <message>
+        <source>The folder &quot;%1&quot; of %2 does not exist. Make it, or choose another one.</source>
+        <translation>%2 のフォルダー「%1」はありません。作るか、別のフォルダーを選んでください。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a folder, and %2 needs one. Choose a folder.</source>
+        <translation>「%1」はフォルダーではありません。%2 にはフォルダーが必要です。フォルダーを選んでください。</translation>
+    </message>
+    <message>
+        <source>You may not read the folder &quot;%1&quot; of %2. Change its permissions, or choose another one.</source>
+        <translation>%2 のフォルダー「%1」を読む権限がありません。アクセス権を変更するか、別のフォルダーを選んでください。</translation>
+    </message>
+    <message>
+        <source>--printed and --watch name the same folder, &quot;%1&quot;. Choose another one for the printed photos.</source>
+        <translation>--printed と --watch が同じフォルダー「%1」を指定しています。印刷済みの写真には別のフォルダーを選んでください。</translation>
+    </message>
+    <message>
+        <source>The built-in printer would leave its files in the watched folder, &quot;%1&quot;. Choose another one with --output.</source>
+        <translation>内蔵プリンターのファイルが、監視しているフォルダー「%1」に作られてしまいます。--output で別のフォルダーを選んでください。</translation>
     </message>
 </context>
 </TS>

@@ -57,6 +57,11 @@ USAGE = (
     (["--preview", "a.png", "--json", PHOTO], "--json"),
     *((["--preview", "a.png", *other, PHOTO], "exclude") for other in (
         ["--batch"], ["--list-options"], ["--screenshot", "d"], ["--dry-run"], ["--summary"])),
+    *((["--watch", "d", *other], word) for other, word in (
+        ([PHOTO], PHOTO), (["--batch"], "exclude"), (["--dry-run"], "exclude"), (["--summary"], "exclude"),
+        (["--json"], "--json"), (["--wait", "5"], "--wait"), (["--overwrite"], "--overwrite"))),
+    (["--printed", "d", PHOTO], "--watch"),
+    (["--batch", "--existing", PHOTO], "--watch"),
     (["--batch", "--printer", "queue/one", "--preset", "two", PHOTO], '"two"'),
     (["--batch", "--printer", "ipp://h/ipp/print", "--preset", "one", PHOTO], "ipp://h/ipp/print"),
     (["--preset", "one", PHOTO], "--printer"),
@@ -104,6 +109,20 @@ class RefusalsTest(ProgramTest):
             with self.subTest(arguments):
                 self.refuses(run(*arguments, folder=self.folder), 2, word, "corvel-print --help")
                 self.assertEqual(list(self.folder.iterdir()), [])
+
+    def test_watched_folder(self):
+        for name in "new", "done":
+            (self.folder / name).mkdir()
+        (self.folder / "link").symlink_to("new")
+        (self.folder / "file").touch()
+        before = sorted(self.folder.rglob("*"))
+        for arguments, *words in (
+                (["absent"], '"', "absent", "--watch", "does not exist"), (["file"], "file", "not a folder"),
+                (["new", "--printed", "absent"], "absent", "--printed"), (["new", "--printed", "link"], "same folder"),
+                (["new", "--output", "link"], "--output"), (["new", "-o", "Red=99"], "Red")):
+            with self.subTest(arguments):
+                self.refuses(run("--printer", "built-in", "--watch", *arguments, folder=self.folder), 1, *words)
+                self.assertEqual(sorted(self.folder.rglob("*")), before)
 
     def test_choice(self):
         for options, words, modes in CHOICES:
