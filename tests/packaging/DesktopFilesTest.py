@@ -1,8 +1,11 @@
 # SPDX-FileCopyrightText: Corvel print dialog authors
 # SPDX-License-Identifier: Apache-2.0
-"""The files by which desktops and software centres know the program."""
+"""The files by which desktops, software centres and systemd know the program."""
 
 import configparser
+import pathlib
+import shutil
+import tempfile
 import unittest
 import xml.etree.ElementTree as ElementTree
 from collections import Counter
@@ -48,6 +51,20 @@ class DesktopFilesTest(CommandTest):
             self.assertGreater(counts[name, None], 0)
             for language in LANGUAGES:
                 self.assertEqual(counts[name, language], counts[name, None], (name, language))
+
+    # It is started with the folder's path in one piece, whatever characters that has.
+    @unittest.skipUnless(shutil.which("systemd-analyze"), "There is no systemd.")
+    def test_unit_is_valid(self):
+        with tempfile.TemporaryDirectory() as folder:
+            unit = pathlib.Path(SOURCE, "packaging/corvel-print-watch@.service").read_text(encoding="utf-8")
+            self.assertIn("\nExecStart=corvel-print --watch %f ", unit)
+            name = self.output_of("systemd-escape", "--path", "--template=corvel-print-watch@.service",
+                                  "/home/me/My Photos-new").strip()
+            # The program is not installed here.
+            pathlib.Path(folder, name).write_text(unit.replace("ExecStart=corvel-print", "ExecStart=/bin/true"),
+                                                  encoding="utf-8")
+            self.assertEqual(self.output_of("systemd-analyze", "--user", "--man=no", "verify", f"{folder}/{name}",
+                                            XDG_RUNTIME_DIR=folder), "")
 
 
 unittest.main()

@@ -65,6 +65,7 @@ class InstallTest(CommandTest):  # in the order of the names
                      "man/man1/corvel-print.1.gz", "bash-completion/completions/corvel-print",
                      "ppd/corvel-print/Corvel9045.ppd"):
             self.assertTrue((PREFIX / DATADIR / file).exists(), file)
+        self.assertTrue((PREFIX / "lib/systemd/user/corvel-print-watch@.service").exists())
         for program in "corvel-printer-list", "corvel-screen-profile":
             self.assertTrue((PREFIX / LIBDIR / "corvel-print" / program).exists(), program)
         # Authors of plug-ins get the headers that they need; the others may change.
