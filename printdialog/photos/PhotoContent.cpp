@@ -9,6 +9,8 @@
 namespace printdialog {
 namespace {
 
+constexpr qsizetype mostKept = qsizetype(32) << 20; // bytes
+
 /// Keeps the contents used last in memory, as many as fit.
 class RecentContents
 {
@@ -21,11 +23,11 @@ public:
             std::rotate(known, known + 1, kept_.end());
             return;
         }
-        if (bytes->size() > PhotoContent::mostKept)
+        if (bytes->size() > mostKept)
             return;
         kept_.push_back(bytes);
         size_ += bytes->size();
-        while (size_ > PhotoContent::mostKept || kept_.size() > most) {
+        while (size_ > mostKept || kept_.size() > most) {
             size_ -= kept_.front()->size();
             kept_.pop_front();
         }

@@ -16,14 +16,12 @@
 namespace printdialog {
 
 /// The bytes of an opened photo's file, read whenever they are needed: a job may have thousands of photos.
-/// They are shared by all who use them at the same time, and those used last stay in memory, up to mostKept
-/// bytes of all photos. Any thread.
+/// They are shared by all who use them at the same time. Of all photos, those used last stay in memory, up to
+/// 32 MiB; a larger file is read each time. Any thread.
 class PhotoContent
 {
 public:
     using Bytes = std::shared_ptr<const QByteArray>;
-
-    static constexpr qsizetype mostKept = qsizetype(64) << 20; ///< In bytes.
 
     PhotoContent(const QString &path, const FileIdentity &identity)
         : path_(path)

@@ -127,7 +127,7 @@ private Q_SLOTS:
             QCOMPARE(failure.reason, PhotoFault::Changed);
     }
 
-    /// Of most JPEG files, only the ends are read to open them; of the contents used last, 64 MiB are kept.
+    /// Of most JPEG files, only the ends are read to open them; of the contents used last, 32 MiB are kept.
     void manyPhotosFitIntoMemory()
     {
 #ifdef __SANITIZE_ADDRESS__
@@ -148,7 +148,7 @@ private Q_SLOTS:
                  qPrintable(QString::number(residentMemory() - before)));
         for (const Photo &photo : std::as_const(photos))
             QVERIFY(photo.content()->endsWith(padding));
-        QVERIFY2(residentMemory() - before < 84 * mebibyte,
+        QVERIFY2(residentMemory() - before < 52 * mebibyte,
                  qPrintable(QString::number(residentMemory() - before)));
         // Whoever needs it at the same time, or soon after, has the same bytes.
         QCOMPARE(static_cast<const void *>(Photo(photos.constLast()).content()->constData()),
