@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "BuiltInDocument.h"
 #include "OutputFault.h"
 #include "PrintJob.h"
 #include "PrintSheet.h"
@@ -13,13 +14,6 @@
 
 namespace printdialog {
 
-/// The files that a job has written; absolute paths.
-struct PrintedFiles
-{
-    QString pdf;
-    QString ticket;
-};
-
 /// The printer without a device: for photo.jpg it writes photo.pdf, the page, and photo.ticket.json, the job.
 class BuiltInPrinter
 {
@@ -28,10 +22,6 @@ public:
     /// accepted. A missing folder is created, with its parents, and removed again when the job fails. `names`
     /// chooses a free name, which is marked as taken when the job has succeeded. The ticket holds the number
     /// of copies; the PDF has one page. May run on any thread, one call at a time per `names`.
-    ///
-    /// The ticket is a JSON object, UTF-8 and indented: "printer", "document" (the first photo's absolute
-    /// path), "photos" (the paths of all of them, where there are several), "options" and "summary" (objects
-    /// of texts), "copies" (a number).
     static Result<PrintedFiles, OutputFault> print(const PrintSheet &sheet, const PrintJob &job,
                                                    PrintedNames &names);
 };

@@ -5,6 +5,7 @@
 
 #include "PlainText.h"
 
+#include <QtCore/QCoreApplication>
 #include <QtCore/QFile>
 #include <QtCore/QFileInfo>
 
@@ -14,6 +15,11 @@
 
 namespace printdialog {
 namespace {
+
+struct NameText
+{
+    Q_DECLARE_TR_FUNCTIONS(PrintedNames)
+};
 
 /// A folder that does not exist yet most likely allows the usual length.
 qsizetype longestNameIn(const QString &folder)
@@ -52,6 +58,34 @@ QString PrintedNames::nameFor(const QString &photoPath) const
         name = shortened(base, longestName_ - ending.size()) + ending;
     }
     return name;
+}
+
+std::optional<QString> PrintedNames::whyUnfit() const
+{
+    const QString name = folder_.document.value_or(QString());
+    const QString shown = plainText(name, shownTextLimit);
+    if (shown.trimmed().isEmpty())
+        return NameText::tr("The PDF has no name. Type one, or choose one PDF for each photo.");
+    if (name.contains(u'/'))
+        return NameText::tr(
+                   "The PDF cannot be named \"%1\", because of the slash. Leave it out, or choose another "
+                   "folder.")
+            .arg(shown);
+    if (name.startsWith(u'.') || hasControls(name))
+        return NameText::tr(
+                   "The PDF cannot be named \"%1\": nobody would see it, or read all of its name. Leave out "
+                   "the dot at its beginning, and characters that are not seen.")
+            .arg(shown);
+    if (QFile::encodeName(name).size() > longestName_)
+        return NameText::tr("The name \"%1\" is too long for a PDF in this folder. Choose a shorter one.")
+            .arg(shown);
+    return std::nullopt;
+}
+
+bool PrintedNames::isDocumentThere() const
+{
+    const QString path = folder_.path + QLatin1Char('/') + folder_.document.value_or(QString());
+    return QFileInfo::exists(path + pageSuffix) || QFileInfo::exists(path + ticketSuffix);
 }
 
 bool PrintedNames::isFree(const QString &name) const

@@ -9,6 +9,8 @@
 #include <QtCore/QString>
 #include <QtCore/QStringList>
 
+#include <optional>
+
 namespace printdialog {
 
 /// Where the built-in printer writes its files.
@@ -17,6 +19,8 @@ struct OutputFolder
     QString path;
     bool isOverwritten = false; ///< Whether files of an earlier run are replaced.
     QStringList photos = {};    ///< Files that are never replaced.
+    /// The name of one PDF with all sheets, without suffix; nothing: a PDF for each sheet.
+    std::optional<QString> document = std::nullopt;
 };
 
 /// The names of the files that one run writes to a folder. Each photo has two, its page and its ticket, whose
@@ -35,6 +39,10 @@ public:
     /// characters and leading dots, or "photo" when nothing is left. If one of the two files exists,
     /// `photo-2`, `photo-3` and so on. A long name is shortened to what the folder allows.
     QString nameFor(const QString &photoPath) const;
+    /// Why the folder's document cannot have its name, in one or two sentences; nothing when it can.
+    std::optional<QString> whyUnfit() const;
+    /// Whether the folder's document would replace files, which it may.
+    bool isDocumentThere() const;
     /// Marks the name as used, by this run's files or by another program.
     void markTaken(const QString &name) { taken_.insert(name); }
 

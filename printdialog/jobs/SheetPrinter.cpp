@@ -3,12 +3,14 @@
 
 #include "SheetPrinter.h"
 
+#include "BuiltInDocument.h"
 #include "BuiltInPrinter.h"
 #include "CupsConnection.h"
 #include "PhotoCheck.h"
 
 #include <algorithm>
 #include <atomic>
+#include <utility>
 
 using namespace std::chrono_literals;
 
@@ -43,16 +45,47 @@ void SheetPrinter::onBeginning(const JobSubmission::Beginning &beginning)
     submission_.onBeginning(beginning);
 }
 
+SheetPrinter::~SheetPrinter() = default;
+
 Result<QString, SheetPrinter::Fault> SheetPrinter::print(const PrintSheet &sheet)
 {
     if (!job_.destination.isBuiltIn())
         return send(sheet);
     if (beginning_ && !beginning_())
         return failureOf(queueFailure(QueueFault::Canceled, job_.destination.id()));
+    if (job_.folder.document)
+        return addPage(sheet);
     const auto files = BuiltInPrinter::print(sheet, job_, names_);
     if (!files)
         return failureOf(files.failure());
     return tr("Printed %1: %2").arg(sheet.name, files->pdf);
+}
+
+Result<QString, SheetPrinter::Fault> SheetPrinter::addPage(const PrintSheet &sheet)
+{
+    // A damaged photo leaves the other pages alone; what fails later spoils them.
+    if (const auto damage = PhotoCheck(sheet.photosToCheck()).wait())
+        return Failure<Fault>{{std::nullopt, true}, damage->text, damage->detail};
+    if (!document_) {
+        documentName_ = names_.nameFor(*job_.folder.document + PrintedNames::pageSuffix);
+        auto opened = BuiltInDocument::open(documentName_, job_);
+        if (!opened)
+            return failureOf(opened.failure());
+        document_ = *std::move(opened);
+    }
+    if (const auto failure = document_->add(sheet))
+        return Failure<Fault>{{}, failure->text, failure->detail};
+    return tr("Printed %1: page %2 of %3")
+        .arg(sheet.name, QString::number(++pages_), documentName_ + PrintedNames::pageSuffix);
+}
+
+Result<QString, SheetPrinter::Fault> SheetPrinter::finishDocument()
+{
+    const auto document = std::exchange(document_, nullptr);
+    const auto files = document->finish();
+    if (!files)
+        return failureOf(files.failure());
+    return files->pdf;
 }
 
 Result<QString, SheetPrinter::Fault> SheetPrinter::send(const PrintSheet &sheet)

@@ -13,9 +13,12 @@
 #include <QtCore/QList>
 #include <QtCore/QStringList>
 
+#include <memory>
 #include <optional>
 
 namespace printdialog {
+
+class BuiltInDocument;
 
 /// Prints sheets one after the other, on a queue, each as a job of its own, or the built-in printer, which
 /// gives each sheet's files different names. The jobs of a queue can be followed to their end, or canceled.
@@ -40,11 +43,20 @@ public:
     explicit SheetPrinter(const PrintJob &job, const JobSubmission::Progress &sent = {},
                           int *cancel = nullptr);
 
+    ~SheetPrinter();
+    Q_DISABLE_COPY_MOVE(SheetPrinter)
+
     /// See JobSubmission::onBeginning(); with the built-in printer, called before the sheet's files are made.
     void onBeginning(const JobSubmission::Beginning &beginning);
 
-    /// Sends the sheet to the queue, or writes its files. Returns a sentence for people.
+    /// Sends the sheet to the queue, or writes its files, or adds a page to the one document of all sheets,
+    /// which is not there before finishDocument(). Returns a sentence for people.
     Result<QString, Fault> print(const PrintSheet &sheet);
+
+    /// Whether pages wait for finishDocument(); without it, they are dropped with this object.
+    bool hasDocument() const { return document_ != nullptr; }
+    /// Puts the document into its folder. Returns its path.
+    Result<QString, Fault> finishDocument();
 
     /// The document that print() sends to a queue.
     static Result<JobDocument, Fault> documentOf(const PrintSheet &sheet, const PrintJob &job);
@@ -100,6 +112,7 @@ private:
         std::optional<JobEnd> end; ///< Once it is known.
     };
 
+    Result<QString, Fault> addPage(const PrintSheet &sheet);
     Result<QString, Fault> send(const PrintSheet &sheet);
     JobEnd endOf(const SentJob &job, const JobStatus &status) const;
     Outcome outcome() const;
@@ -111,6 +124,9 @@ private:
     JobSubmission::Beginning beginning_;
     PrintedNames names_;
     QList<SentJob> sent_;
+    std::unique_ptr<BuiltInDocument> document_;
+    QString documentName_; ///< without suffix
+    int pages_ = 0;
 };
 
 } // namespace printdialog

@@ -57,6 +57,9 @@ QString OutcomeText::others() const
 
 QString OutcomeText::allPrinted() const
 {
+    if (!outcome_.document.isEmpty())
+        return tr("Printed %1 photos in one PDF: %2")
+            .arg(QString::number(outcome_.total), QDir::toNativeSeparators(outcome_.document));
     if (job_.destination.isBuiltIn())
         return tr("Printed %1 photos in the folder %2")
             .arg(QString::number(outcome_.total),

@@ -60,6 +60,8 @@ PrintOutcome PrintRun::print(qsizetype count, const SheetSource &sheets)
             break;
     }
     noteUnsent();
+    if (printer_.hasDocument())
+        finishDocument();
     const bool hasJobs = !printer_.sentJobs().isEmpty();
     const bool isFollowed = hasJobs && limits_.total > FollowLimits::Time::zero();
     if (isFollowed && whyUnsent_.isEmpty() && !isRaised(flags_.cancel))
@@ -71,7 +73,7 @@ PrintOutcome PrintRun::print(qsizetype count, const SheetSource &sheets)
     if (isRaised(flags_.finish))
         outcome_.wasStopped = outcome_.failure.isEmpty() && !outcome_.unprinted.isEmpty();
     // Files of the built-in printer cannot be taken back, which needs no message when all are written.
-    if (isRaised(flags_.cancel) && !isRaised(flags_.keep) && (hasJobs || index_ < count)) {
+    if (isRaised(flags_.cancel) && !isRaised(flags_.keep) && (hasJobs || !outcome_.unprinted.isEmpty())) {
         cancelJobs(SheetPrinter::Canceling::All);
         outcome_.wasStopped = outcome_.failure.isEmpty();
     }
@@ -85,6 +87,27 @@ void PrintRun::noteUnsent()
     outcome_.unknown = unanswered_;
     for (qsizetype index = index_ + unanswered_.size(); index < outcome_.total; ++index)
         outcome_.unprinted.append({index, index == index_ ? whyUnsent_ : QString()});
+}
+
+/// All of its pages are printed, or none.
+void PrintRun::finishDocument()
+{
+    if (outcome_.failure.isEmpty() && !isRaised(flags_.cancel) && !isRaised(flags_.finish)) {
+        const auto path = printer_.finishDocument();
+        if (path) {
+            outcome_.document = *path;
+            outcome_.done = static_cast<int>(outcome_.printed.size());
+            for (const QString &sentence : std::as_const(outcome_.printed))
+                listener_.printed(sentence);
+            return;
+        }
+        outcome_.failure = path.failure().text;
+    }
+    outcome_.printed.clear();
+    outcome_.names.clear();
+    for (const qsizetype index : std::as_const(pages_))
+        outcome_.unprinted.append({index, QString()});
+    std::ranges::sort(outcome_.unprinted, {}, &UnprintedSheet::index);
 }
 
 /// False: stop; do not print the next sheet.
@@ -110,13 +133,17 @@ bool PrintRun::printOne(const PrintSheet &sheet)
         outcome_.hasOtherPpd = printed.failure().reason.queue == QueueFault::Changed;
         return false;
     }
+    outcome_.names.append(name_);
+    outcome_.printed.append(*printed);
     outcome_.jobs = printer_.sentJobs();
+    if (printer_.hasDocument()) {
+        pages_.append(index_);
+        return true;
+    }
     if (outcome_.jobs.isEmpty())
         ++outcome_.done;
     else
         sent_.append(index_);
-    outcome_.names.append(name_);
-    outcome_.printed.append(*printed);
     listener_.printed(outcome_.printed.constLast());
     return true;
 }

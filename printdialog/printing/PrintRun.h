@@ -29,6 +29,7 @@ struct PrintOutcome
     QStringList waiting; ///< A sentence for each sheet whose job waits at the print server.
     QStringList unknown; ///< A sentence for each sheet that may be printed, or not: the server does not say.
     QList<UnprintedSheet> unprinted; ///< In the order of the sheets.
+    QString document;                ///< The path of the one PDF of all sheets; mostly empty.
     QString failure;                 ///< Why the rest was not printed; empty when nothing stopped the run.
     int total = 0;                   ///< The number of sheets to print.
     int done = 0;                    ///< The number of sheets printed, also in a run that was stopped.
@@ -91,12 +92,14 @@ private:
     void cancelJobs(SheetPrinter::Canceling which);
     void note(const SheetPrinter::Outcome &found);
     void noteUnsent();
+    void finishDocument();
 
     PrintRunListener &listener_;
     PrintRunFlags flags_;
     FollowLimits limits_;
     PrintOutcome outcome_;
     qsizetype index_ = 0;    ///< of the sheet being sent
+    QList<qsizetype> pages_; ///< the sheets of the one document, before it is finished
     QList<qsizetype> sent_;  ///< the sheets whose jobs were sent
     QString whyUnsent_;      ///< why the run did not get to all sheets; empty without a failure
     QStringList unanswered_; ///< a sentence when the server did not say whether it has got the last one

@@ -81,6 +81,7 @@ PrintDialog::PrintDialog(const PrintDialogSetup &setup, QWidget *parent)
     connect(ui_->customPage, &CustomPageFields::refused, choices_, &ChoiceController::refuse);
     for (QLineEdit *field : ui_->customPage->fields())
         choices_->watchField(field);
+    connect(ui_->documents, &QComboBox::currentIndexChanged, this, [this] { showFolder(true); });
     connect(ui_->browse, &QPushButton::clicked, this, &PrintDialog::browseFolder);
     connect(ui_->panels, &PanelTabs::panelFailed, this,
             [this](const QString &text) { ui_->message->show(MessageBar::Kind::Error, text); });
@@ -230,6 +231,20 @@ void PrintDialog::browseFolder()
         QFileDialog::getExistingDirectory(this, tr("Folder for Printed Files"), ui_->folder->text());
     if (!folder.isEmpty())
         ui_->folder->setText(QDir::toNativeSeparators(folder));
+}
+
+OutputFolder PrintDialog::outputFolder() const
+{
+    OutputFolder folder{ui_->folder->text()};
+    if (ui_->documents->currentIndex() == 0)
+        return folder;
+    QString name = ui_->documentName->text().trimmed();
+    if (name.endsWith(PrintedNames::pageSuffix, Qt::CaseInsensitive))
+        name.chop(PrintedNames::pageSuffix.size());
+    folder.document = name;
+    for (const PlacedPhoto &placed : ui_->photos->photos())
+        folder.photos += placed.photo.path();
+    return folder;
 }
 
 void PrintDialog::showHelp()

@@ -129,6 +129,7 @@ private:
     void showPhoto();
     void showPhotoFailures(const QStringList &sentences);
     void browseFolder();
+    OutputFolder outputFolder() const;
     void showHelp();
     void showJobs();
 

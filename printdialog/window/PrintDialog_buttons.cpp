@@ -36,7 +36,7 @@ void PrintDialog::print()
     if (!isReady() || printing_->isBusy() || ui_->photos->isOpening() || ui_->photos->photos().isEmpty() ||
         pageStays() || !ui_->customPage->finish())
         return;
-    if (!printing_->print(ui_->copies->value(), ui_->folder->text(), printer_->queue()))
+    if (!printing_->print(ui_->copies->value(), outputFolder(), printer_->queue()))
         return;
     printer_->notePrinted();
 }

@@ -78,6 +78,8 @@ void PrintDialog::showFolder(bool isBuiltIn)
     ui_->folderLabel->setVisible(isBuiltIn);
     ui_->folder->setVisible(isBuiltIn);
     ui_->browse->setVisible(isBuiltIn);
+    ui_->documents->setVisible(isBuiltIn);
+    ui_->documentName->setVisible(isBuiltIn && ui_->documents->currentIndex() > 0);
     ui_->jobs->setVisible(!isBuiltIn);
 }
 

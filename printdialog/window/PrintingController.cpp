@@ -50,8 +50,11 @@ bool PrintingController::isBusy() const
     return worker_->isBusy();
 }
 
-bool PrintingController::print(int copies, const QString &folder, const Queue &queue)
+bool PrintingController::print(int copies, const OutputFolder &wanted, const Queue &queue)
 {
+    OutputFolder folder = wanted;
+    if (queue.isBuiltIn && !settleName(folder))
+        return false;
     if (!widgets_.photos->damagedPhotos().isEmpty()) {
         askAboutDamage();
         return false;
@@ -63,14 +66,14 @@ bool PrintingController::print(int copies, const QString &folder, const Queue &q
     return true;
 }
 
-void PrintingController::begin(const Arrangement &arrangement, const SessionJob &made, const QString &folder,
-                               const Queue &queue)
+void PrintingController::begin(const Arrangement &arrangement, const SessionJob &made,
+                               const OutputFolder &folder, const Queue &queue)
 {
     widgets_.message->clear();
     if (!made.remarks.isEmpty())
         widgets_.message->show(MessageBar::Kind::Warning, made.remarks.join(u'\n'));
     job_ = made.job;
-    job_.folder = {folder};
+    job_.folder = folder;
     job_.announcedUri = queue.isAnnounced ? queue.deviceUri : QString();
     remarks_ = made.remarks;
     arrangement_ = arrangement;
@@ -92,7 +95,7 @@ void PrintingController::printTestPage(const QString &folder, const Queue &queue
             tr("The test page could not be made in \"%1\". Free some space there.").arg(QDir::tempPath()));
         return;
     }
-    begin({{{*photo, {Scaling::Fill}, true}}}, *made, folder, queue);
+    begin({{{*photo, {Scaling::Fill}, true}}}, *made, {folder}, queue);
 }
 
 void PrintingController::start(const std::optional<QList<qsizetype>> &only)
@@ -109,6 +112,40 @@ void PrintingController::printRest(const QList<qsizetype> &rest)
         return;
     widgets_.message->clear();
     start(rest);
+}
+
+/// Whether the one PDF of all photos can have its name. If not, the user sees why, or is asked.
+bool PrintingController::settleName(OutputFolder &folder)
+{
+    const auto answer = std::exchange(nameAnswer_, std::nullopt);
+    if (!folder.document)
+        return true;
+    const PrintedNames names(folder);
+    if (const auto why = names.whyUnfit()) {
+        widgets_.message->show(MessageBar::Kind::Warning, *why);
+        return false;
+    }
+    if (!names.isDocumentThere())
+        return true;
+    const QString path = QDir(folder.path).filePath(*folder.document + PrintedNames::pageSuffix);
+    if (answer && answer->path == path) {
+        folder.isOverwritten = answer->isReplaced;
+        return true;
+    }
+    const auto print = [this, path](bool isReplaced) {
+        return [this, path, isReplaced] {
+            nameAnswer_ = {path, isReplaced};
+            Q_EMIT printRequested();
+        };
+    };
+    widgets_.message->show(
+        {MessageBar::Kind::Warning,
+         tr("\"%1\" is already there. Keep it, and give the new PDF a number, or replace it?")
+             .arg(plainText(QDir::toNativeSeparators(path), shownTextLimit)),
+         {},
+         {},
+         {{tr("Keep Both"), print(false)}, {tr("Replace"), print(true)}}});
+    return false;
 }
 
 /// Also saves the choices for the next time. When no job can be made, the user sees why.
@@ -229,7 +266,8 @@ void PrintingController::askHowToStop()
 {
     asksToClose_ = false;
     QList<MessageBar::Action> answers;
-    const bool hasOthers = worker_->total() != 1;
+    // The pages of one PDF are printed together, or not at all.
+    const bool hasOthers = worker_->total() != 1 && !job_.folder.document;
     if (hasOthers && stopping_ == Stopping::No)
         answers.append({tr("Stop After This Photo"), [this] {
                             stop(Stopping::AfterSheet);

@@ -51,7 +51,7 @@ public:
     /// True: printing is under way. Not while busy.
     /// @param folder where the built-in printer leaves its files
     /// @param queue the session's, as it is known by now: a printer on the network may have another address
-    bool print(int copies, const QString &folder, const Queue &queue);
+    bool print(int copies, const OutputFolder &folder, const Queue &queue);
     /// Prints the test page for the print position with the session's choices, in one copy. Not while busy.
     void printTestPage(const QString &folder, const Queue &queue);
     bool isBusy() const;
@@ -88,10 +88,11 @@ private:
     void start(const std::optional<QList<qsizetype>> &only);
     void printRest(const QList<qsizetype> &rest);
     void stop(Stopping how);
+    bool settleName(OutputFolder &folder);
     void askAboutDamage();
     void askAboutMissing(const QStringList &missing);
     std::optional<SessionJob> makeJob(int copies);
-    void begin(const Arrangement &arrangement, const SessionJob &made, const QString &folder,
+    void begin(const Arrangement &arrangement, const SessionJob &made, const OutputFolder &folder,
                const Queue &queue);
     void showOutcome(const PrintOutcome &outcome);
     QString whatContinues() const;
@@ -105,7 +106,14 @@ private:
     Arrangement arrangement_;     ///< what is being printed, or was
     QStringList remarks_;         ///< what was left out of it
     QStringList acceptedMissing_; ///< what is missing of the job, and the user prints without
-    QString notKept_;             ///< why the choices are not kept for the next time; mostly empty
+    /// What is to be done about the files that are there already, of a PDF by its path.
+    struct NameAnswer
+    {
+        QString path;
+        bool isReplaced;
+    };
+    std::optional<NameAnswer> nameAnswer_;
+    QString notKept_; ///< why the choices are not kept for the next time; mostly empty
     bool hasPrinted_ = false;
     Stopping stopping_ = Stopping::No;
     bool asksToClose_ = false; ///< the question in the message bar is whether to close the window

@@ -1414,6 +1414,45 @@ und das Programm merkt sie sich</translation>
         <source>Your jobs on the print server: cancel, hold or print them again</source>
         <translation>Ihre Aufträge auf dem Druckserver: abbrechen, anhalten oder noch einmal drucken</translation>
     </message>
+    <message>
+        <source>PDF files</source>
+        <translation>PDF-Dateien</translation>
+    </message>
+    <message>
+        <source>One PDF for each photo</source>
+        <translation>Ein PDF für jedes Foto</translation>
+    </message>
+    <message>
+        <source>One PDF of all</source>
+        <translation>Ein PDF für alle</translation>
+    </message>
+    <message>
+        <source>Name of the PDF</source>
+        <translation>Name des PDFs</translation>
+    </message>
+    <message>
+        <source>Photos</source>
+        <translation>Fotos</translation>
+    </message>
+</context>
+<context>
+    <name>PrintedNames</name>
+    <message>
+        <source>The PDF has no name. Type one, or choose one PDF for each photo.</source>
+        <translation>Das PDF hat keinen Namen. Geben Sie einen ein, oder wählen Sie ein PDF für jedes Foto.</translation>
+    </message>
+    <message>
+        <source>The PDF cannot be named &quot;%1&quot;, because of the slash. Leave it out, or choose another folder.</source>
+        <translation>Das PDF kann wegen des Schrägstrichs nicht „%1“ heißen. Lassen Sie ihn weg, oder wählen Sie einen anderen Ordner.</translation>
+    </message>
+    <message>
+        <source>The PDF cannot be named &quot;%1&quot;: nobody would see it, or read all of its name. Leave out the dot at its beginning, and characters that are not seen.</source>
+        <translation>Das PDF kann nicht „%1“ heißen: Niemand sähe es oder könnte seinen ganzen Namen lesen. Lassen Sie den Punkt am Anfang und unsichtbare Zeichen weg.</translation>
+    </message>
+    <message>
+        <source>The name &quot;%1&quot; is too long for a PDF in this folder. Choose a shorter one.</source>
+        <translation>Der Name „%1“ ist für ein PDF in diesem Ordner zu lang. Wählen Sie einen kürzeren.</translation>
+    </message>
 </context>
 <context>
     <name>Queue</name>
@@ -3026,6 +3065,10 @@ und das Programm merkt sie sich</translation>
         <source>Cannot be printed: %1.</source>
         <translation>Nicht druckbar: %1.</translation>
     </message>
+    <message>
+        <source>Printed %1 photos in one PDF: %2</source>
+        <translation>%1 Fotos in ein PDF gedruckt: %2</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::OutputFault</name>
@@ -3934,6 +3977,18 @@ und das Programm merkt sie sich</translation>
         <source>Stop at Once</source>
         <translation>Sofort stoppen</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; is already there. Keep it, and give the new PDF a number, or replace it?</source>
+        <translation>„%1“ gibt es schon. Behalten und dem neuen PDF eine Nummer geben, oder ersetzen?</translation>
+    </message>
+    <message>
+        <source>Keep Both</source>
+        <translation>Beide behalten</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Ersetzen</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::SettingsFile</name>
@@ -4046,6 +4101,10 @@ und das Programm merkt sie sich</translation>
     <message>
         <source>%1 (job %2) was canceled.</source>
         <translation>%1 (Auftrag %2) wurde abgebrochen.</translation>
+    </message>
+    <message>
+        <source>Printed %1: page %2 of %3</source>
+        <translation>%1 gedruckt: Seite %2 von %3</translation>
     </message>
 </context>
 <context>

@@ -1413,6 +1413,45 @@ están y el programa las recuerda</translation>
         <source>Your jobs on the print server: cancel, hold or print them again</source>
         <translation>Sus trabajos en el servidor de impresión: cancelarlos, retenerlos o volver a imprimirlos</translation>
     </message>
+    <message>
+        <source>PDF files</source>
+        <translation>Archivos PDF</translation>
+    </message>
+    <message>
+        <source>One PDF for each photo</source>
+        <translation>Un PDF para cada foto</translation>
+    </message>
+    <message>
+        <source>One PDF of all</source>
+        <translation>Un solo PDF</translation>
+    </message>
+    <message>
+        <source>Name of the PDF</source>
+        <translation>Nombre del PDF</translation>
+    </message>
+    <message>
+        <source>Photos</source>
+        <translation>Fotos</translation>
+    </message>
+</context>
+<context>
+    <name>PrintedNames</name>
+    <message>
+        <source>The PDF has no name. Type one, or choose one PDF for each photo.</source>
+        <translation>El PDF no tiene nombre. Escriba uno o elija un PDF para cada foto.</translation>
+    </message>
+    <message>
+        <source>The PDF cannot be named &quot;%1&quot;, because of the slash. Leave it out, or choose another folder.</source>
+        <translation>El PDF no puede llamarse «%1» a causa de la barra. Quítela o elija otra carpeta.</translation>
+    </message>
+    <message>
+        <source>The PDF cannot be named &quot;%1&quot;: nobody would see it, or read all of its name. Leave out the dot at its beginning, and characters that are not seen.</source>
+        <translation>El PDF no puede llamarse «%1»: nadie lo vería o podría leer su nombre completo. Quite el punto inicial y los caracteres invisibles.</translation>
+    </message>
+    <message>
+        <source>The name &quot;%1&quot; is too long for a PDF in this folder. Choose a shorter one.</source>
+        <translation>El nombre «%1» es demasiado largo para un PDF en esta carpeta. Elija uno más corto.</translation>
+    </message>
 </context>
 <context>
     <name>Queue</name>
@@ -3025,6 +3064,10 @@ están y el programa las recuerda</translation>
         <source>Cannot be printed: %1.</source>
         <translation>No se pueden imprimir: %1.</translation>
     </message>
+    <message>
+        <source>Printed %1 photos in one PDF: %2</source>
+        <translation>%1 fotos impresas en un PDF: %2</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::OutputFault</name>
@@ -3933,6 +3976,18 @@ están y el programa las recuerda</translation>
         <source>Stop at Once</source>
         <translation>Detener ya</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; is already there. Keep it, and give the new PDF a number, or replace it?</source>
+        <translation>«%1» ya existe. ¿Conservarlo y numerar el PDF nuevo, o sustituirlo?</translation>
+    </message>
+    <message>
+        <source>Keep Both</source>
+        <translation>Conservar ambos</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Sustituir</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::SettingsFile</name>
@@ -4045,6 +4100,10 @@ están y el programa las recuerda</translation>
     <message>
         <source>%1 (job %2) was canceled.</source>
         <translation>%1 (trabajo %2) se ha cancelado.</translation>
+    </message>
+    <message>
+        <source>Printed %1: page %2 of %3</source>
+        <translation>%1 impresa: página %2 de %3</translation>
     </message>
 </context>
 <context>

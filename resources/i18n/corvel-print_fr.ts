@@ -1414,6 +1414,45 @@ elles sont, et le programme les retient</translation>
         <source>Your jobs on the print server: cancel, hold or print them again</source>
         <translation>Vos tâches sur le serveur d’impression&#x202f;: les annuler, les retenir ou les réimprimer</translation>
     </message>
+    <message>
+        <source>PDF files</source>
+        <translation>Fichiers PDF</translation>
+    </message>
+    <message>
+        <source>One PDF for each photo</source>
+        <translation>Un PDF par photo</translation>
+    </message>
+    <message>
+        <source>One PDF of all</source>
+        <translation>Un seul PDF</translation>
+    </message>
+    <message>
+        <source>Name of the PDF</source>
+        <translation>Nom du PDF</translation>
+    </message>
+    <message>
+        <source>Photos</source>
+        <translation>Photos</translation>
+    </message>
+</context>
+<context>
+    <name>PrintedNames</name>
+    <message>
+        <source>The PDF has no name. Type one, or choose one PDF for each photo.</source>
+        <translation>Le PDF n’a pas de nom. Saisissez-en un, ou choisissez un PDF par photo.</translation>
+    </message>
+    <message>
+        <source>The PDF cannot be named &quot;%1&quot;, because of the slash. Leave it out, or choose another folder.</source>
+        <translation>Le PDF ne peut pas s’appeler «&#x202f;%1&#x202f;» à cause de la barre oblique. Retirez-la, ou choisissez un autre dossier.</translation>
+    </message>
+    <message>
+        <source>The PDF cannot be named &quot;%1&quot;: nobody would see it, or read all of its name. Leave out the dot at its beginning, and characters that are not seen.</source>
+        <translation>Le PDF ne peut pas s’appeler «&#x202f;%1&#x202f;»&#x202f;: personne ne le verrait ou ne pourrait lire son nom en entier. Retirez le point au début et les caractères invisibles.</translation>
+    </message>
+    <message>
+        <source>The name &quot;%1&quot; is too long for a PDF in this folder. Choose a shorter one.</source>
+        <translation>Le nom «&#x202f;%1&#x202f;» est trop long pour un PDF dans ce dossier. Choisissez-en un plus court.</translation>
+    </message>
 </context>
 <context>
     <name>Queue</name>
@@ -3026,6 +3065,10 @@ elles sont, et le programme les retient</translation>
         <source>Cannot be printed: %1.</source>
         <translation>Impossibles à imprimer&#x202f;: %1.</translation>
     </message>
+    <message>
+        <source>Printed %1 photos in one PDF: %2</source>
+        <translation>%1 photos imprimées dans un PDF&#x202f;: %2</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::OutputFault</name>
@@ -3934,6 +3977,18 @@ elles sont, et le programme les retient</translation>
         <source>Stop at Once</source>
         <translation>Arrêter tout de suite</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; is already there. Keep it, and give the new PDF a number, or replace it?</source>
+        <translation>«&#x202f;%1&#x202f;» existe déjà. Le garder et numéroter le nouveau PDF, ou le remplacer&#x202f;?</translation>
+    </message>
+    <message>
+        <source>Keep Both</source>
+        <translation>Garder les deux</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Remplacer</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::SettingsFile</name>
@@ -4046,6 +4101,10 @@ elles sont, et le programme les retient</translation>
     <message>
         <source>%1 (job %2) was canceled.</source>
         <translation>%1 (tâche %2) a été annulée.</translation>
+    </message>
+    <message>
+        <source>Printed %1: page %2 of %3</source>
+        <translation>%1 imprimée&#x202f;: page %2 de %3</translation>
     </message>
 </context>
 <context>

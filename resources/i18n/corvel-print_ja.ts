@@ -1411,6 +1411,45 @@ where they are, and the program remembers them</source>
         <source>Your jobs on the print server: cancel, hold or print them again</source>
         <translation>プリントサーバーにある自分のジョブの取り消し、保留、再印刷</translation>
     </message>
+    <message>
+        <source>PDF files</source>
+        <translation>PDF ファイル</translation>
+    </message>
+    <message>
+        <source>One PDF for each photo</source>
+        <translation>写真ごとに 1 つの PDF</translation>
+    </message>
+    <message>
+        <source>One PDF of all</source>
+        <translation>まとめて 1 つの PDF</translation>
+    </message>
+    <message>
+        <source>Name of the PDF</source>
+        <translation>PDF の名前</translation>
+    </message>
+    <message>
+        <source>Photos</source>
+        <translation>写真</translation>
+    </message>
+</context>
+<context>
+    <name>PrintedNames</name>
+    <message>
+        <source>The PDF has no name. Type one, or choose one PDF for each photo.</source>
+        <translation>PDF に名前がありません。名前を入力するか、写真ごとの PDF を選んでください。</translation>
+    </message>
+    <message>
+        <source>The PDF cannot be named &quot;%1&quot;, because of the slash. Leave it out, or choose another folder.</source>
+        <translation>スラッシュがあるため、PDF に「%1」という名前は付けられません。スラッシュを除くか、別のフォルダーを選んでください。</translation>
+    </message>
+    <message>
+        <source>The PDF cannot be named &quot;%1&quot;: nobody would see it, or read all of its name. Leave out the dot at its beginning, and characters that are not seen.</source>
+        <translation>PDF に「%1」という名前は付けられません。見えないファイルになるか、名前をすべて読めません。先頭のドットと見えない文字を除いてください。</translation>
+    </message>
+    <message>
+        <source>The name &quot;%1&quot; is too long for a PDF in this folder. Choose a shorter one.</source>
+        <translation>「%1」という名前は、このフォルダーの PDF には長すぎます。短い名前を選んでください。</translation>
+    </message>
 </context>
 <context>
     <name>Queue</name>
@@ -3021,6 +3060,10 @@ where they are, and the program remembers them</source>
         <source>Cannot be printed: %1.</source>
         <translation>印刷できない写真: %1 枚。</translation>
     </message>
+    <message>
+        <source>Printed %1 photos in one PDF: %2</source>
+        <translation>%1 枚の写真を 1 つの PDF に印刷しました: %2</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::OutputFault</name>
@@ -3926,6 +3969,18 @@ where they are, and the program remembers them</source>
         <source>Stop at Once</source>
         <translation>すぐに中止</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; is already there. Keep it, and give the new PDF a number, or replace it?</source>
+        <translation>「%1」はすでにあります。残して新しい PDF に番号を付けますか、それとも置き換えますか？</translation>
+    </message>
+    <message>
+        <source>Keep Both</source>
+        <translation>両方残す</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>置き換える</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::SettingsFile</name>
@@ -4038,6 +4093,10 @@ where they are, and the program remembers them</source>
     <message>
         <source>%1 (job %2) was canceled.</source>
         <translation>%1（ジョブ %2）を取り消しました。</translation>
+    </message>
+    <message>
+        <source>Printed %1: page %2 of %3</source>
+        <translation>%1 を印刷しました: %3 の %2 ページ</translation>
     </message>
 </context>
 <context>

@@ -165,6 +165,59 @@ private Q_SLOTS:
         QVERIFY(opened.dialog->isHidden());
     }
 
+    void oneDocumentOfAll()
+    {
+        const OpenedDialog opened(setup());
+        auto *name = opened.find<QLineEdit>(u"documentName"_s);
+        QVERIFY(!name->isVisible());
+        opened.chooseLast(u"documents"_s);
+        QVERIFY(name->isVisible());
+        const auto prints = [&opened] {
+            opened.dialog->print();
+            return QTest::qWaitFor([&opened] { return isIdle(opened); });
+        };
+        for (const auto &[bad, why] : {std::pair(u" "_s, u"no name"_s),
+                                       {u"a/b"_s, u"slash"_s},
+                                       {u".pdf"_s, u"no name"_s},
+                                       {u".album"_s, u"dot"_s},
+                                       {QString(300, u'x'), u"too long"_s}}) {
+            name->setText(bad);
+            QVERIFY(prints());
+            QVERIFY2(opened.message().contains(why), qPrintable(opened.message()));
+        }
+        // Stopped, it leaves nothing; then all of it is the rest.
+        name->setText(u"album.pdf"_s);
+        opened.dialog->print();
+        opened.click(u"cancel"_s);
+        opened.press(Qt::Key_Return);
+        QTRY_VERIFY(isIdle(opened));
+        QCOMPARE(opened.message(), u"Printing was stopped: printed 0 of 16 photos."_s);
+        QCOMPARE(printed(opened), QStringList());
+        opened.click(u"messageAction"_s);
+        QTRY_VERIFY(isIdle(opened));
+        const QDir out(opened.folder.filePath(u"out"_s));
+        QCOMPARE(opened.message(), u"Printed 16 photos in one PDF: "_s + out.filePath(u"album.pdf"_s));
+        QCOMPARE(out.entryList(QDir::Files), (QStringList{u"album.pdf"_s, u"album.ticket.json"_s}));
+        QFile pdf(out.filePath(u"album.pdf"_s));
+        QVERIFY(pdf.open(QIODevice::ReadOnly));
+        QCOMPARE(pdf.readAll().count("/Type /Page "), count);
+        QFile ticket(out.filePath(u"album.ticket.json"_s));
+        QVERIFY(ticket.open(QIODevice::ReadOnly));
+        QCOMPARE(ticket.readAll().count("/photo"), count + 1); // the document, and each sheet
+        // What is there is asked about.
+        for (const auto &[answer, there] :
+             {std::pair(u"messageAction"_s, QStringList{u"album-2.pdf"_s, u"album.pdf"_s}),
+              {u"messageAction2"_s, QStringList{u"album-2.pdf"_s, u"album.pdf"_s}}}) {
+            QVERIFY(prints());
+            QVERIFY2(opened.message().contains(u"already there"_s), qPrintable(opened.message()));
+            const QDateTime before = QFileInfo(pdf).lastModified();
+            opened.click(answer);
+            QTRY_VERIFY(isIdle(opened));
+            QCOMPARE(printed(opened), there);
+            QCOMPARE(QFileInfo(pdf).lastModified() == before, answer == u"messageAction"_s);
+        }
+    }
+
     // It says what becomes of the photos, and goes when that is confirmed, or when it is closed once more.
     void closing()
     {
