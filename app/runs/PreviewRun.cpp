@@ -8,6 +8,7 @@
 #include "FileName.h"
 #include "KeptFiles.h"
 #include "PagePicture.h"
+#include "RequestedArrangement.h"
 #include "RequestedSession.h"
 
 #include <QtCore/QCoreApplication>
@@ -53,16 +54,31 @@ QString obstacle(const QString &path, const KeptFiles &photos, bool overwrites)
     return earlier == KeptFiles::Earlier::Other && !overwrites ? alreadyThere(path) : QString();
 }
 
-Result<QImage, PhotoFault> pageOf(const QString &photoPath, PagePictureRequest request)
+/// The file of each sheet. A photo with a sheet of its own has the number that it has on the command line,
+/// whatever becomes of the others.
+QStringList pathsOf(const SheetPlan &plan, const OpenedArrangement &opened, const QString &first)
 {
-    auto photo = Photo::open(photoPath);
-    if (!photo)
-        return photo.failure();
-    request.photo = *std::move(photo);
+    const bool isSingle = opened.arrangement.layout.kind == SheetLayout::Kind::Single;
+    const qsizetype count = isSingle ? opened.count : plan.sheets().size();
+    const QStringList all = picturePaths(first, count);
+    if (!isSingle)
+        return all;
+    QStringList paths;
+    for (const LaidSheet &sheet : plan.sheets())
+        paths += all.at(opened.numbers.at(sheet.photos.constFirst().item));
+    return paths;
+}
+
+Result<QImage, PhotoFault> pictureOf(const PagePictureRequest &request)
+{
     const QImage picture = pagePicture(request, longestSide);
-    if (picture.isNull())
-        return request.photo.damage().value_or(request.photo.broken(QStringLiteral("no pixels")));
-    return picture;
+    if (!picture.isNull())
+        return picture;
+    for (const SheetPhoto &laid : request.sheet.photos) {
+        if (auto damage = laid.photo.damage())
+            return *damage;
+    }
+    return request.sheet.photos.constFirst().photo.broken(QStringLiteral("no pixels"));
 }
 
 /// Returns a sentence on failure; empty on success.
@@ -100,37 +116,44 @@ int savePreviews(const CommandLine &commandLine, Console &console)
         console.complain(sentence);
         return exitFailed;
     };
-    const QStringList paths = picturePaths(*commandLine.preview, commandLine.photos.size());
-    const KeptFiles photos(commandLine.photos);
-    for (const QString &path : paths) {
-        if (const QString why = obstacle(path, photos, commandLine.overwrite); !why.isEmpty())
-            return fail(why);
-    }
+    auto opened = openedArrangement(commandLine);
+    if (!opened)
+        return fail(opened.failure().text);
     const auto requested = openRequestedSession(commandLine);
     if (!requested)
         return fail(requested.failure().text);
     const auto job = jobOfRequested(*requested, console);
     if (!job)
         return fail(job.failure().text);
-
     DialogSession &session = *requested->session;
-    PagePictureRequest request;
-    request.placement =
-        session.printer().isRaw ? PlacementChoice() : commandLine.style.over(requested->style).placement;
-    request.page = job->page;
-    request.adjustment = session.adjustment().value_or(PictureAdjustment());
-    request.dotsPerInch = session.dotsPerInch();
+    useStyle(commandLine, requested->style, opened->arrangement);
+    if (session.printer().isRaw)
+        opened->arrangement = opened->arrangement.unplaced();
+    const SheetPlan plan = opened->arrangement.plan(job->page);
+    if (plan.failure())
+        return fail(plan.failure()->text);
+    const QStringList paths = pathsOf(plan, *opened, *commandLine.preview);
+    const KeptFiles photos(opened->arrangement.paths() + commandLine.photos);
+    for (const QString &path : paths) {
+        if (const QString why = obstacle(path, photos, commandLine.overwrite); !why.isEmpty())
+            return fail(why);
+    }
+
     int status = exitDone;
+    for (const Failure<PhotoFault> &failure : std::as_const(opened->failures))
+        status = fail(failure.text);
     for (qsizetype i = 0; i < paths.size(); ++i) {
-        const QString &photo = commandLine.photos.at(i);
-        const auto picture = pageOf(photo, request);
+        const PagePictureRequest request = {opened->arrangement.sheet(plan.sheets().at(i)), job->page,
+                                            session.adjustment().value_or(PictureAdjustment()),
+                                            session.dotsPerInch()};
+        const auto picture = pictureOf(request);
         if (!picture) {
             status = fail(picture.failure().text);
             continue;
         }
         if (const QString why = save(*picture, paths.at(i), commandLine.overwrite); !why.isEmpty())
             return fail(why);
-        console.writeLine(PreviewText::tr("Preview of %1: %2").arg(QFileInfo(photo).fileName(), paths.at(i)));
+        console.writeLine(PreviewText::tr("Preview of %1: %2").arg(request.sheet.name, paths.at(i)));
     }
     return status;
 }

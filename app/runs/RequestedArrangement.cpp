@@ -33,7 +33,7 @@ Failure<std::monostate> sentence(const QString &text, const QString &detail)
 
 } // namespace
 
-Result<Arrangement, std::monostate> requestedArrangement(const CommandLine &commandLine)
+Result<OpenedArrangement, std::monostate> openedArrangement(const CommandLine &commandLine)
 {
     PrintList list;
     if (commandLine.hasPrintList()) {
@@ -47,15 +47,29 @@ Result<Arrangement, std::monostate> requestedArrangement(const CommandLine &comm
         for (const QString &path : commandLine.photos)
             list.photos += PrintList::Entry{path, wanted.placement};
     }
-    Arrangement arrangement{{}, list.layout};
+    OpenedArrangement opened{{{}, list.layout}, {}, list.photos.size(), {}};
     PhotoOpener opener;
-    for (const PrintList::Entry &entry : std::as_const(list.photos)) {
+    for (qsizetype i = 0; i < list.photos.size(); ++i) {
+        const PrintList::Entry &entry = list.photos.at(i);
         const auto photo = opener.open(entry.path);
-        if (!photo)
-            return sentence(photo.failure().text, photo.failure().detail);
-        arrangement.photos += PlacedPhoto{*photo, entry.placement, !commandLine.checks, entry.copies};
+        if (!photo) {
+            opened.failures += photo.failure();
+            continue;
+        }
+        opened.arrangement.photos += PlacedPhoto{*photo, entry.placement, !commandLine.checks, entry.copies};
+        opened.numbers += i;
     }
-    return arrangement;
+    return opened;
+}
+
+Result<Arrangement, std::monostate> requestedArrangement(const CommandLine &commandLine)
+{
+    auto opened = openedArrangement(commandLine);
+    if (!opened)
+        return opened.failure();
+    if (!opened->failures.isEmpty())
+        return sentence(opened->failures.constFirst().text, opened->failures.constFirst().detail);
+    return std::move(opened->arrangement);
 }
 
 void useStyle(const CommandLine &commandLine, const ArrangementStyle &style, Arrangement &arrangement)

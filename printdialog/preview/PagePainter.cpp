@@ -3,18 +3,20 @@
 
 #include "PagePainter.h"
 
+#include "CaptionOutline.h"
+
 #include <QtGui/QPainter>
-#include <QtGui/QPainterPath>
+#include <QtGui/QRegion>
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace printdialog {
 
 namespace {
 
 constexpr double dimmed = 0.3;
-constexpr QRectF unitSquare(0, 0, 1, 1);
 
 QRectF sheetOf(const PageView &view)
 {
@@ -26,64 +28,78 @@ QRectF roomOf(const PageView &view)
     return {QPointF(0, 0), view.room};
 }
 
-QTransform photoToRoom(const PageView &view)
+/// What of the current photo is shown: all of it, since what is cut off is dimmed.
+QRectF currentExtent(const PageView &view)
 {
-    return view.placement->toPage() * view.toRoom();
+    return view.placement ? view.placement->target : QRectF();
 }
 
-QTransform photoToPixels(const PageView &view)
+/// An area of the page in whole device pixels, so that each edge is sharp and within half a pixel of its
+/// place.
+QRect wholePixels(const PageView &view, const QRectF &area)
 {
-    return view.placement->toPage() * view.toPixels();
+    const QRectF exact = view.toPixels().mapRect(area);
+    const QPoint first(qRound(exact.left()), qRound(exact.top()));
+    const QPoint end(qRound(exact.right()), qRound(exact.bottom()));
+    return {first, QSize(end.x() - first.x(), end.y() - first.y())};
 }
 
 } // namespace
 
-int PagePhoto::detailFor(const QSize &seen)
-{
-    constexpr int first = 800; // enough for the window as it opens
-    int detail = first;
-    while (detail < std::max(seen.width(), seen.height()) && detail < mostDetail)
-        detail *= 2;
-    return detail;
-}
-
-bool PagePhoto::needsPart(const QSize &seen, const QSize &stored)
-{
-    return std::min(std::max(seen.width(), seen.height()), std::max(stored.width(), stored.height())) >
-           mostDetail;
-}
-
 QRectF PagePainter::seenPhoto(const PageView &view)
 {
-    return view.placement ? photoToRoom(view).mapRect(unitSquare) & roomOf(view) : QRectF();
+    if (!view.placement)
+        return {};
+    const QRectF extent = view.isShared ? view.placement->seen(view.page) : view.placement->target;
+    return view.toRoom().mapRect(extent) & roomOf(view);
 }
 
 QSize PagePainter::photoPixels(const PageView &view)
 {
-    if (!view.placement)
-        return {};
-    const QTransform transform = photoToPixels(view);
-    const QSizeF size(std::hypot(transform.m11(), transform.m12()),
-                      std::hypot(transform.m21(), transform.m22()));
-    return size.toSize().expandedTo(QSize(1, 1));
+    return view.placement ? printdialog::photoPixels(view, *view.placement) : QSize();
 }
 
 QRectF PagePainter::seenPart(const PageView &view)
 {
-    if (!view.placement)
-        return {};
-    bool isInvertible = false;
-    const QTransform toPhoto = photoToRoom(view).inverted(&isInvertible);
-    return isInvertible ? toPhoto.mapRect(roomOf(view)) & unitSquare : QRectF();
+    return view.placement ? printdialog::seenPart(view, *view.placement, currentExtent(view)) : QRectF();
 }
 
-void PagePainter::setPhoto(const PagePhoto &photo)
+void PagePainter::setSheet(const PrintSheet &sheet, qsizetype current)
 {
-    photo_ = photo;
-    if (photo.whole.isNull()) {
-        source_ = {};
-        sourcePhoto_ = {};
+    prints_.resize(static_cast<std::size_t>(sheet.photos.size()));
+    for (std::size_t i = 0; i < prints_.size(); ++i) {
+        const SheetPhoto &laid = sheet.photos.at(static_cast<qsizetype>(i));
+        Print &print = prints_[i];
+        print.placement = laid.placement;
+        if (print.caption == laid.caption && print.captionArea == laid.captionArea)
+            continue;
+        print.caption = laid.caption;
+        print.captionArea = laid.captionArea;
+        print.captionOutline = captionOutline(laid.caption, laid.captionArea);
     }
+    current_ = current;
+    cutMarks_ = sheet.cutMarks;
+}
+
+void PagePainter::setPhoto(qsizetype index, const PagePhoto &photo)
+{
+    Print &print = prints_.at(static_cast<std::size_t>(index));
+    print.photo = photo;
+    if (photo.whole.isNull()) {
+        print.picture = {};
+        print.shown = {};
+    }
+}
+
+bool PagePainter::isEmpty() const
+{
+    return current_ < 0 || prints_.at(static_cast<std::size_t>(current_)).photo.whole.isNull();
+}
+
+void PagePainter::setAdjustment(const PictureAdjustment &adjustment)
+{
+    adjuster_.setAdjustment(adjustment);
+    ++state_;
 }
 
 void PagePainter::paint(QPainter &painter, const PageView &view, const Look &look)
@@ -98,136 +114,156 @@ void PagePainter::paint(QPainter &painter, const PageView &view, const Look &loo
     for (int i = isAlone ? 0 : 4; i > 0; --i)
         painter.fillRect(sheet.adjusted(-i, -i, i, i + 2), QColor(0, 0, 0, 18));
     painter.fillRect(sheet, Qt::white); // paper is white in every theme
-    if (!look.marksClipped || photo_.whole.isNull())
-        clippedShare_ = 0;
-    if (view.placement && !photo_.whole.isNull())
-        paintPhoto(painter, view, look);
-    if (printed != sheet) {
+    clippedShare_ = look.marksClipped && !isEmpty() ? clippedShare_ : 0;
+    if (!view.page.printed().isEmpty() && !prints_.empty()) {
+        updatePictures(view);
+        painter.save();
+        painter.scale(1 / view.ratio, 1 / view.ratio);
+        if (!look.showsCutOff)
+            drawCutOff(painter, view, look);
+        for (Print &print : prints_)
+            drawPrint(painter, view, look, print);
+        if (look.showsCutOff)
+            drawCutOff(painter, view, look);
+        painter.restore();
+        drawMarks(painter, view);
+    }
+    if (look.outlinesArea && printed != sheet) {
         painter.setPen(QPen(QColor(120, 120, 120, 160), 0, Qt::DashLine));
         painter.drawRect(printed);
     }
-    if (view.placement && !photo_.whole.isNull() && !sheet.contains(toRoom.mapRect(view.placement->target))) {
+    if (view.placement && !view.isShared && !isEmpty() &&
+        !sheet.contains(toRoom.mapRect(view.placement->target))) {
         painter.setPen(QPen(QColor(90, 90, 90), 1));
         painter.drawRect(sheet);
     }
 }
 
-void PagePainter::paintPhoto(QPainter &painter, const PageView &view, const Look &look)
+void PagePainter::updatePictures(const PageView &view)
 {
-    updateSource(view);
-    if (source_.isNull())
+    const PictureScale scale = {view.pixelsPerInch(), view.dotsPerInch};
+    if (scale != scale_)
+        ++state_;
+    scale_ = scale;
+    adjuster_.setScale(scale);
+    ScaledPhotos scaled;
+    for (std::size_t i = 0; i < prints_.size(); ++i) {
+        Print &print = prints_[i];
+        const QRectF extent =
+            std::cmp_equal(i, current_) ? currentExtent(view) : print.placement.seen(view.page);
+        if (!print.photo.whole.isNull())
+            print.picture.update(view, print.placement, extent, print.photo, scaled);
+    }
+}
+
+/// The print's picture, adjusted or not, in the colors shown. Prints that share a sheet keep theirs, since
+/// the adjuster keeps only the last one.
+QImage PagePainter::layerOf(Print &print, bool isAdjusted)
+{
+    const QImage &picture = print.picture.image();
+    if (!isAdjusted || prints_.size() == 1) {
+        adjuster_.setLookup(print.photo.lookup);
+        return isAdjusted ? adjuster_.adjusted(picture) : adjuster_.unadjusted(picture);
+    }
+    if (print.shown.isNull() || print.shownOf != picture.cacheKey() || print.shownState != state_ ||
+        print.shownLookup != print.photo.lookup) {
+        print.shown = {}; // so that its memory is used again
+        adjuster_.setLookup(print.photo.lookup);
+        print.shown = adjuster_.adjusted(picture);
+        print.shownOf = picture.cacheKey();
+        print.shownState = state_;
+        print.shownLookup = print.photo.lookup;
+    }
+    return print.shown;
+}
+
+void PagePainter::drawPrint(QPainter &painter, const PageView &view, const Look &look, Print &print)
+{
+    const QRect printed = wholePixels(view, view.page.printed());
+    const QRect photo = wholePixels(view, print.placement.seen(view.page));
+    if (print.placement.border.isThere())
+        painter.fillRect(wholePixels(view, print.placement.outline) & printed,
+                         QColor(print.placement.border.color));
+    if (!print.picture.image().isNull())
+        return drawPhoto(painter, view, look, print, photo);
+    constexpr QColor coming(238, 238, 238);
+    if (prints_.size() > 1 && print.photo.whole.isNull())
+        painter.fillRect(photo, coming);
+}
+
+/// Dims what is cut off of the current photo, on the paper and around it.
+void PagePainter::drawCutOff(QPainter &painter, const PageView &view, const Look &look)
+{
+    if (isEmpty() || !view.placement)
         return;
-    adjuster_.setScale({view.pixelsPerInch(), view.dotsPerInch});
-    const QRectF seen = seenPhoto(view);
-    QRectF unadjusted = look.side == Side::Unadjusted ? seen : QRectF();
-    QRectF adjusted = look.side == Side::Unadjusted ? QRectF() : seen;
-    if (look.side == Side::Divided) {
+    const QRegion cutOff =
+        QRegion(wholePixels(view, currentExtent(view))) - wholePixels(view, view.placement->seen(view.page));
+    if (cutOff.isEmpty())
+        return;
+    Look plain = look;
+    plain.marksClipped = false;
+    painter.setOpacity(dimmed);
+    drawPhoto(painter, view, plain, prints_.at(static_cast<std::size_t>(current_)), cutOff);
+    painter.setOpacity(1);
+}
+
+/// In device pixels.
+void PagePainter::drawPhoto(QPainter &painter, const PageView &view, const Look &look, Print &print,
+                            const QRegion &region)
+{
+    if (print.picture.image().isNull())
+        return;
+    const bool isCurrent = !isEmpty() && &print == &prints_.at(static_cast<std::size_t>(current_));
+    const QRect all(print.picture.corner(), print.picture.image().size());
+    QRect unadjusted = look.side == Side::Unadjusted ? all : QRect();
+    QRect adjusted = look.side == Side::Unadjusted ? QRect() : all;
+    if (look.side == Side::Divided && isCurrent) {
+        const QRectF seen = seenPhoto(view);
         // On a whole pixel, so that the two sides do not mix.
-        const double across =
-            std::round((seen.left() + look.divider * seen.width()) * view.ratio) / view.ratio;
-        unadjusted = QRectF(seen.topLeft(), QPointF(across, seen.bottom()));
-        adjusted = QRectF(QPointF(across, seen.top()), seen.bottomRight());
+        const int across = qRound((seen.left() + look.divider * seen.width()) * view.ratio);
+        unadjusted.setRect(all.left(), all.top(), across - all.left(), all.height());
+        adjusted.setLeft(across);
     }
-    if (!unadjusted.isEmpty())
-        paintLayer(painter, view, adjuster_.unadjusted(source_), unadjusted);
-    if (adjusted.isEmpty())
-        return;
-    paintLayer(painter, view, adjuster_.adjusted(source_), adjusted);
-    if (look.marksClipped)
-        markClipped(painter, view, adjusted);
-}
-
-/// Paints the printed part as it is, and dims what is cut off, on the paper and around it.
-void PagePainter::paintLayer(QPainter &painter, const PageView &view, const QImage &layer,
-                             const QRectF &within) const
-{
-    const QRectF printed = view.toRoom().mapRect(view.page.printed());
-    const auto draw = [&] {
-        painter.scale(1 / view.ratio, 1 / view.ratio);
-        painter.drawImage(sourceCorner_, layer);
+    const auto draw = [&](const QRect &within, bool isAdjusted) {
+        const QRegion shown = region & within;
+        if (shown.isEmpty())
+            return;
+        painter.setClipRegion(shown);
+        painter.drawImage(print.picture.corner(), layerOf(print, isAdjusted));
     };
-    if (!printed.contains(within)) {
-        QPainterPath around;
-        around.addRect(within | printed);
-        around.addRect(printed);
-        painter.save();
-        painter.setClipRect(within);
-        painter.setClipPath(around, Qt::IntersectClip);
-        painter.setOpacity(dimmed);
-        draw();
-        painter.restore();
-    }
-    painter.save();
-    painter.setClipRect(within & printed);
-    draw();
-    painter.restore();
+    draw(unadjusted, false);
+    draw(adjusted, true);
+    if (look.marksClipped && isCurrent)
+        markClipped(painter, print, region.boundingRect() & adjusted);
+    painter.setClipping(false);
 }
 
-void PagePainter::markClipped(QPainter &painter, const PageView &view, const QRectF &within)
+void PagePainter::markClipped(QPainter &painter, Print &print, const QRect &within)
 {
-    const QRectF printed = view.toRoom().mapRect(view.page.printed()) & within;
-    const QRect pixels = QRectF(printed.topLeft() * view.ratio, printed.size() * view.ratio).toAlignedRect();
-    const QRect part = pixels.translated(-sourceCorner_) & source_.rect();
+    const QRect part = within.translated(-print.picture.corner()) & print.picture.image().rect();
     if (part.isEmpty())
         return;
-    const ClippedTones clipped = adjuster_.clippedTones(source_, part);
+    const ClippedTones clipped = adjuster_.clippedTones(print.picture.image(), part);
     clippedShare_ = static_cast<double>(clipped.pixels) / (qint64(part.width()) * part.height());
     if (clipped.pixels == 0)
         return;
+    painter.setClipRect(within);
+    painter.drawImage(print.picture.corner(), clipped.overlay);
+}
+
+/// Captions and cut marks, as in the PDF.
+void PagePainter::drawMarks(QPainter &painter, const PageView &view) const
+{
+    constexpr double lineWidth = 0.25; // points
     painter.save();
-    painter.setClipRect(printed);
-    painter.scale(1 / view.ratio, 1 / view.ratio);
-    painter.drawImage(sourceCorner_, clipped.overlay);
+    painter.setTransform(view.toRoom(), true);
+    for (const Print &print : prints_)
+        painter.fillPath(print.captionOutline, Qt::black);
+    // A line is at least as wide as a pixel, so that it is seen.
+    const double pixel = pointsPerInch / view.pixelsPerInch();
+    painter.setPen(QPen(Qt::black, std::max(lineWidth, pixel), Qt::SolidLine, Qt::FlatCap));
+    painter.drawLines(cutMarks_);
     painter.restore();
-}
-
-/// Draws what is seen of the whole photo into its unit square. QPainter scales well down to one half; below
-/// that it skips pixels, and edges shimmer.
-/// @param wanted the size of the whole photo in pixels
-void PagePainter::drawWhole(QPainter &painter, const QSize &wanted, const QRectF &seen) const
-{
-    constexpr double wellScaled = 0.6;
-    const QImage &whole = photo_.whole;
-    if (wanted.width() > whole.width() * wellScaled) {
-        painter.drawImage(unitSquare, whole);
-        return;
-    }
-    const QTransform toPixels = QTransform::fromScale(whole.width(), whole.height());
-    constexpr int border = 4;           // that scaling mixes in
-    constexpr double mostlySeen = 0.25; // then all of it, so that it looks the same wherever it ends
-    QRect part = whole.rect();
-    if (seen.width() * seen.height() < mostlySeen)
-        part &= toPixels.mapRect(seen).toAlignedRect().adjusted(-border, -border, border, border);
-    const QSize size(std::max(1, qRound(double(part.width()) * wanted.width() / whole.width())),
-                     std::max(1, qRound(double(part.height()) * wanted.height() / whole.height())));
-    const QImage scaled = (part == whole.rect() ? whole : whole.copy(part))
-                              .scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-    painter.drawImage(toPixels.inverted().mapRect(QRectF(part)), scaled);
-}
-
-/// Scales what is seen to device pixels, once until another part is seen.
-void PagePainter::updateSource(const PageView &view)
-{
-    if (!source_.isNull() && sourceView_ == view && sourcePhoto_.isSameAs(photo_))
-        return;
-    const QRectF seen = seenPhoto(view);
-    const QRect pixels = QRectF(seen.topLeft() * view.ratio, seen.size() * view.ratio).toAlignedRect();
-    sourceView_ = view;
-    sourcePhoto_ = photo_;
-    sourceCorner_ = pixels.topLeft();
-    if (source_.size() != pixels.size())
-        source_ = pixels.isEmpty() ? QImage() : QImage(pixels.size(), QImage::Format_RGB32);
-    if (source_.isNull())
-        return;
-    source_.fill(Qt::white); // which is what a transparent photo gets in print
-    const QTransform toSource =
-        photoToPixels(view) * QTransform::fromTranslate(-sourceCorner_.x(), -sourceCorner_.y());
-    QPainter painter(&source_);
-    painter.setRenderHint(QPainter::SmoothPixmapTransform);
-    painter.setTransform(toSource);
-    drawWhole(painter, photoPixels(view), seenPart(view));
-    if (!photo_.part.isNull())
-        painter.drawImage(photo_.partCovers, photo_.part);
 }
 
 } // namespace printdialog

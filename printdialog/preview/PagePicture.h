@@ -3,10 +3,8 @@
 
 #pragma once
 
-#include "ColorLookup.h"
-#include "Photo.h"
-#include "PhotoPlacement.h"
 #include "PictureAdjustment.h"
+#include "PrintSheet.h"
 
 #include <QtGui/QImage>
 
@@ -15,15 +13,16 @@ namespace printdialog {
 /// What a page is a picture of.
 struct PagePictureRequest
 {
-    Photo photo;
-    PlacementChoice placement;
-    PageGeometry page;
+    PrintSheet sheet;
+    PageGeometry page; ///< for which the sheet was laid out
     PictureAdjustment adjustment;
     double dotsPerInch = 300; ///< of the print
 };
 
 /// The entire page as the window's preview shows it, in sRGB, on white, with its size on paper. A null image
-/// when the photo cannot be decoded, or the page is not usable. Takes a fraction of a second.
+/// when a photo cannot be decoded, or the page is not usable. Takes a fraction of a second, and memory for a
+/// few pixels of each photo for each one that it has in the picture. Captions need a QGuiApplication with
+/// fonts.
 /// @param longestSide of the picture, in pixels
 QImage pagePicture(const PagePictureRequest &request, int longestSide);
 

@@ -20,7 +20,7 @@ constexpr double shownCutOff = 0.15;
 QRectF PageView::shown() const
 {
     const QRectF sheet(QPointF(0, 0), page.size);
-    if (!placement)
+    if (!placement || isShared)
         return sheet;
     const double most = std::max(sheet.width(), sheet.height()) * shownCutOff;
     const double across = std::clamp((placement->target.width() - sheet.width()) / 2, 0.0, most);

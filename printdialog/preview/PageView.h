@@ -18,16 +18,18 @@ namespace printdialog {
 struct PageView
 {
     PageGeometry page;
-    std::optional<PhotoPlacement> placement; ///< of the photo; nothing without one
-    QSizeF room;                             ///< the picture's size
-    double margin = 0;                       ///< kept free around the entire page
-    double ratio = 1;                        ///< device pixels to a logical one
-    double dotsPerInch = 300;                ///< of the print
+    std::optional<PhotoPlacement> placement; ///< of the current photo; nothing without one
+    bool isShared = false;      ///< whether the page has several photos, and is shown as the paper lies
+    QSizeF room;                ///< the picture's size
+    double margin = 0;          ///< kept free around the entire page
+    double ratio = 1;           ///< device pixels to a logical one
+    double dotsPerInch = 300;   ///< of the print
     std::optional<double> zoom; ///< device pixels to a dot of the print; nothing: the entire page
     QPointF center; ///< the point of the page, in points, that is in the picture's middle when zoomed
 
-    /// Maps the page in points to the picture. A photo that lies on its side on the page is shown upright,
-    /// and the page is turned instead. What is cut off around the page is part of the picture, within limits.
+    /// Maps the page in points to the picture. A photo that lies on its side on a page of its own is shown
+    /// upright, and the page is turned instead. What is cut off around that page is part of the picture,
+    /// within limits.
     QTransform toRoom() const;
     /// Maps the page to the picture's device pixels.
     QTransform toPixels() const { return toRoom() * QTransform::fromScale(ratio, ratio); }
@@ -52,7 +54,7 @@ struct PageView
 
 private:
     QRectF shown() const;
-    bool isTurned() const { return placement && placement->pageTurns != 0; }
+    bool isTurned() const { return placement && !isShared && placement->pageTurns != 0; }
     double fittingScale() const;
     double scale() const;
     PageView limited() const;

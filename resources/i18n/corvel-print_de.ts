@@ -3632,6 +3632,18 @@ und das Programm merkt sie sich</translation>
         <source>Left of the divider, the photo is shown without the adjustments. Drag the divider, or press Ctrl and an arrow key, to move it.</source>
         <translation>Links der Trennlinie ist das Foto ohne die Anpassungen zu sehen. Die Trennlinie lässt sich ziehen oder mit Strg und einer Pfeiltaste verschieben.</translation>
     </message>
+    <message>
+        <source>Sheet %1 of %2.</source>
+        <translation>Blatt %1 von %2.</translation>
+    </message>
+    <message>
+        <source>Photo %1 of %2 on the sheet.</source>
+        <translation>Foto %1 von %2 auf dem Blatt.</translation>
+    </message>
+    <message>
+        <source>Click on a photo to change how it is printed.</source>
+        <translation>Klicken Sie auf ein Foto, um zu ändern, wie es gedruckt wird.</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::PrintDialog</name>
@@ -4015,6 +4027,21 @@ und das Programm merkt sie sich</translation>
     <message>
         <source>it is not a file</source>
         <translation>es ist keine Datei</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::SheetBar</name>
+    <message>
+        <source>Previous sheet</source>
+        <translation>Voriges Blatt</translation>
+    </message>
+    <message>
+        <source>Next sheet</source>
+        <translation>Nächstes Blatt</translation>
+    </message>
+    <message>
+        <source>Sheet %1 of %2</source>
+        <translation>Blatt %1 von %2</translation>
     </message>
 </context>
 <context>

@@ -3631,6 +3631,18 @@ están y el programa las recuerda</translation>
         <source>Left of the divider, the photo is shown without the adjustments. Drag the divider, or press Ctrl and an arrow key, to move it.</source>
         <translation>A la izquierda del divisor, la foto se muestra sin los ajustes. Arrastrar el divisor, o pulsar Ctrl y una tecla de flecha, para moverlo.</translation>
     </message>
+    <message>
+        <source>Sheet %1 of %2.</source>
+        <translation>Hoja %1 de %2.</translation>
+    </message>
+    <message>
+        <source>Photo %1 of %2 on the sheet.</source>
+        <translation>Foto %1 de %2 de la hoja.</translation>
+    </message>
+    <message>
+        <source>Click on a photo to change how it is printed.</source>
+        <translation>Haga clic en una foto para cambiar cómo se imprime.</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::PrintDialog</name>
@@ -4014,6 +4026,21 @@ están y el programa las recuerda</translation>
     <message>
         <source>it is not a file</source>
         <translation>no es un archivo</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::SheetBar</name>
+    <message>
+        <source>Previous sheet</source>
+        <translation>Hoja anterior</translation>
+    </message>
+    <message>
+        <source>Next sheet</source>
+        <translation>Hoja siguiente</translation>
+    </message>
+    <message>
+        <source>Sheet %1 of %2</source>
+        <translation>Hoja %1 de %2</translation>
     </message>
 </context>
 <context>

@@ -3632,6 +3632,18 @@ elles sont, et le programme les retient</translation>
         <source>Left of the divider, the photo is shown without the adjustments. Drag the divider, or press Ctrl and an arrow key, to move it.</source>
         <translation>À gauche du séparateur, la photo est affichée sans les réglages. Faire glisser le séparateur, ou appuyer sur Ctrl et une touche fléchée, pour le déplacer.</translation>
     </message>
+    <message>
+        <source>Sheet %1 of %2.</source>
+        <translation>Feuille %1 sur %2.</translation>
+    </message>
+    <message>
+        <source>Photo %1 of %2 on the sheet.</source>
+        <translation>Photo %1 sur %2 de la feuille.</translation>
+    </message>
+    <message>
+        <source>Click on a photo to change how it is printed.</source>
+        <translation>Cliquez sur une photo pour modifier la façon dont elle est imprimée.</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::PrintDialog</name>
@@ -4015,6 +4027,21 @@ elles sont, et le programme les retient</translation>
     <message>
         <source>it is not a file</source>
         <translation>ce n’est pas un fichier</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::SheetBar</name>
+    <message>
+        <source>Previous sheet</source>
+        <translation>Feuille précédente</translation>
+    </message>
+    <message>
+        <source>Next sheet</source>
+        <translation>Feuille suivante</translation>
+    </message>
+    <message>
+        <source>Sheet %1 of %2</source>
+        <translation>Feuille %1 sur %2</translation>
     </message>
 </context>
 <context>

@@ -3624,6 +3624,18 @@ where they are, and the program remembers them</source>
         <source>Left of the divider, the photo is shown without the adjustments. Drag the divider, or press Ctrl and an arrow key, to move it.</source>
         <translation>境界線の左側は調整なしの写真です。境界線はドラッグするか、Ctrlと矢印キーで動かせます。</translation>
     </message>
+    <message>
+        <source>Sheet %1 of %2.</source>
+        <translation>シート %1 / %2。</translation>
+    </message>
+    <message>
+        <source>Photo %1 of %2 on the sheet.</source>
+        <translation>シート上の写真 %1 / %2。</translation>
+    </message>
+    <message>
+        <source>Click on a photo to change how it is printed.</source>
+        <translation>写真をクリックすると、その印刷方法を変更できます。</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::PrintDialog</name>
@@ -4007,6 +4019,21 @@ where they are, and the program remembers them</source>
     <message>
         <source>it is not a file</source>
         <translation>ファイルではありません</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::SheetBar</name>
+    <message>
+        <source>Previous sheet</source>
+        <translation>前のシート</translation>
+    </message>
+    <message>
+        <source>Next sheet</source>
+        <translation>次のシート</translation>
+    </message>
+    <message>
+        <source>Sheet %1 of %2</source>
+        <translation>シート %1 / %2</translation>
     </message>
 </context>
 <context>

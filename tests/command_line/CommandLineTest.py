@@ -224,6 +224,18 @@ class CommandLineTest(ProgramTest):
             self.assert_refused(preview("--overwrite", named), 1, "page.png", "photos")
         self.assertEqual(photo.read_bytes(), JPEG)
 
+    def test_saves_pictures_of_sheets(self):
+        first = self.out / "sheet.png"
+        done = run("--preview", first, "--layout", "2x2,caption=name", PHOTO, PHOTO, PHOTO, PHOTO, PHOTO)
+        self.assert_quiet(done)
+        self.assertEqual(self.names(), ["sheet-2.png", "sheet.png"])
+        self.assertIn(" 3 more", done.out.splitlines()[0])
+        captioned = first.read_bytes()
+        self.assert_quiet(run("--overwrite", "--preview", first, "--layout", "2x2,caption=date", *[PHOTO] * 4))
+        self.assertNotEqual(first.read_bytes(), captioned)
+        self.assert_refused(run("--overwrite", "--preview", first, "--layout", "2x2", "--size", "9x13cm", PHOTO),
+                            1, "13 cm")
+
     def test_help_and_version_go_to_standard_output(self):
         done = run("--help")
         self.assertEqual(done.status, 0)

@@ -149,8 +149,7 @@ void PhotoPaneTest::previewIsWhatIsPrinted()
     PreviewWidget preview;
     preview.resize(1100, 1000);
     preview.setPage(page);
-    preview.setPlacement(choice);
-    preview.setPhoto(photo);
+    preview.setSheet(PrintSheet::of(photo, page, choice), 0, choice);
     QTRY_VERIFY(preview.isReady());
     const QImage shown = preview.grab().toImage();
     const QTransform toWidget = preview.pageToWidget();
@@ -196,8 +195,9 @@ void PhotoPaneTest::moreDetailWhenLarger()
     }
     samples::store(pathOf(u"lines.png"_s), samples::encoded(lines, "png"));
     PreviewWidget preview;
-    preview.setPage({QSizeF(300, 200), QRectF(0, 0, 300, 200)});
-    preview.setPhoto(*Photo::open(pathOf(u"lines.png"_s)));
+    const PageGeometry page{QSizeF(300, 200), QRectF(0, 0, 300, 200)};
+    preview.setPage(page);
+    preview.setSheet(PrintSheet::of(*Photo::open(pathOf(u"lines.png"_s)), page, {}), 0);
     const auto contrast = [&preview] {
         const QImage shown = preview.grab().toImage();
         const QPoint middle = shown.rect().center();

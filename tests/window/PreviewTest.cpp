@@ -225,9 +225,10 @@ void PreviewTest::colorsOfPhotoAndScreen()
 
     PreviewWidget preview;
     preview.resize(300, 240);
-    preview.setPage({QSizeF(300, 200), QRectF(0, 0, 300, 200)});
-    const auto shows = [&preview](const QString &photo, const QColor &color) {
-        preview.setPhoto(*Photo::open(photo));
+    const PageGeometry page{QSizeF(300, 200), QRectF(0, 0, 300, 200)};
+    preview.setPage(page);
+    const auto shows = [&](const QString &photo, const QColor &color) {
+        preview.setSheet(PrintSheet::of(*Photo::open(photo), page, {}), 0);
         if (!QTest::qWaitFor([&preview] { return preview.isComplete(); }))
             return false;
         const QColor shown(preview.grab().toImage().pixel(150, 120));
@@ -246,8 +247,10 @@ void PreviewTest::colorsOfPhotoAndScreen()
     QVERIFY(shows(photos_.filePath(u"swapped.jpg"_s), QColor(100, 40, 40)));
 
     // What is cut off is dimmed.
-    preview.setPlacement({Scaling::Fill, 0, {0.5, 0.5}});
-    preview.setPage({QSizeF(200, 200), QRectF(0, 0, 200, 200)});
+    const PageGeometry square{QSizeF(200, 200), QRectF(0, 0, 200, 200)};
+    preview.setPage(square);
+    preview.setSheet(
+        PrintSheet::of(*Photo::open(photos_.filePath(u"swapped.jpg"_s)), square, {Scaling::Fill}), 0);
     const QColor around = preview.palette().color(QPalette::Window);
     const QPoint cut = preview.pageToWidget().map(QPointF(-10, 100)).toPoint();
     const QColor dim(preview.grab().toImage().pixel(cut));

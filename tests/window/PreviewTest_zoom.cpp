@@ -126,9 +126,10 @@ void PreviewTest::detailOfLargePhotos()
     samples::store(path, samples::encoded(lines, "png"));
     PreviewWidget preview;
     preview.resize(401, 301); // whose middle lies between two pixels
-    preview.setPage({QSizeF(288, 192), QRectF(0, 0, 288, 192)});
+    const PageGeometry page{QSizeF(288, 192), QRectF(0, 0, 288, 192)};
+    preview.setPage(page);
     preview.setDotsPerInch(1500); // a pixel for each dot
-    preview.setPhoto(*Photo::open(path));
+    preview.setSheet(PrintSheet::of(*Photo::open(path), page, {}), 0);
     preview.show();
     const auto contrast = [&preview] {
         const QImage shown = preview.grab().toImage();

@@ -3,8 +3,6 @@
 
 #include "PhotoDetail.h"
 
-#include "PhotoThreads.h"
-
 #include <QtCore/QCoreApplication>
 #include <QtCore/QPointer>
 
@@ -26,10 +24,12 @@ PhotoDetail::PhotoDetail(QObject *parent)
 
 PhotoDetail::~PhotoDetail()
 {
+    if (isGone_)
+        *isGone_ = true;
     dropPart();
 }
 
-bool PhotoDetail::setPhoto(const Photo &photo)
+bool PhotoDetail::setPhoto(const Photo &photo, int detail)
 {
     const bool isSame = photo.path() == photo_.path() && photo.identity() == photo_.identity();
     photo_ = photo;
@@ -42,8 +42,12 @@ bool PhotoDetail::setPhoto(const Photo &photo)
     partUnderWay_.reset();
     failedWhole_ = {};
     ++number_;
+    if (isGone_)
+        *isGone_ = true;
+    isGone_ = std::make_shared<std::atomic<bool>>(false);
+    least_ = detail;
     if (!photo.storedSize().isEmpty())
-        decode(PagePhoto::detailFor({}));
+        decode(detail);
     return true;
 }
 
@@ -51,19 +55,21 @@ void PhotoDetail::decode(int detail)
 {
     detail_ = detail;
     startPhotoTask(
-        [photo = photo_, number = number_, detail, self = QPointer<PhotoDetail>(this)] {
+        [photo = photo_, number = number_, detail, isGone = isGone_, self = QPointer<PhotoDetail>(this)] {
+            if (*isGone)
+                return; // the user has gone on before its turn came
             const QImage image = photo.pixels({detail, detail});
             QMetaObject::invokeMethod(qApp, [self, number, detail, image] {
                 if (self)
                     self->show(number, detail, image);
             });
         },
-        ShownPhoto);
+        priority_);
 }
 
 void PhotoDetail::show(quint64 number, int detail, const QImage &image)
 {
-    if (number != number_ || detail < detail_)
+    if (number != number_ || detail != detail_)
         return;
     decodedDetail_ = detail;
     if (image.isNull() && !pixels_.whole.isNull())
@@ -81,7 +87,7 @@ void PhotoDetail::want(const QSize &whole, const QRectF &seen)
     const QSize stored = photo_.storedSize();
     const int useful =
         std::min(std::max(stored.width(), stored.height()), std::max(whole.width(), whole.height()));
-    if (const int detail = PagePhoto::detailFor({useful, useful}); detail > detail_)
+    if (const int detail = PagePhoto::detailFor({useful, useful}, least_); detail > detail_)
         decode(detail);
     if (!PagePhoto::needsPart(whole, stored)) {
         dropPart();
@@ -101,6 +107,16 @@ void PhotoDetail::want(const QSize &whole, const QRectF &seen)
         decodePart();
     else if (partUnderWay_->whole != whole || !partUnderWay_->covers.contains(seen))
         *partUnderWay_->isGivenUp = true; // and this one is next
+}
+
+void PhotoDetail::rest()
+{
+    if (!isReady() || isUnreadable_)
+        return;
+    dropPart();
+    pixels_.part = {};
+    if (detail_ > std::max(least_, PagePhoto::usualDetail))
+        decode(least_);
 }
 
 /// No part is wanted any more.
@@ -126,7 +142,7 @@ void PhotoDetail::decodePart()
                     self->showPart(number, asked, part);
             });
         },
-        ShownPhoto);
+        priority_);
 }
 
 void PhotoDetail::showPart(quint64 number, const WantedPart &asked, const PhotoPart &part)

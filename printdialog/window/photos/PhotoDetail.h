@@ -3,8 +3,9 @@
 
 #pragma once
 
-#include "PagePainter.h"
+#include "PagePhoto.h"
 #include "Photo.h"
+#include "PhotoThreads.h"
 
 #include <QtCore/QObject>
 
@@ -26,7 +27,10 @@ public:
     ~PhotoDetail() override;
 
     /// Decodes a photo that differs from the previous one. False: it is the same.
-    bool setPhoto(const Photo &photo);
+    /// @param detail how many pixels its longer side gets first
+    bool setPhoto(const Photo &photo, int detail = PagePhoto::usualDetail);
+    /// Of what is decoded from now on.
+    void setPriority(PhotoPriority priority) { priority_ = priority; }
     const Photo &photo() const { return photo_; }
     /// Whether the photo is decoded, or has turned out to be unreadable.
     bool isReady() const { return !pixels_.whole.isNull() || isUnreadable_; }
@@ -36,6 +40,8 @@ public:
     /// The photo is seen with this many pixels (upright), and this part of its unit square. Decodes what is
     /// missing for that.
     void want(const QSize &whole, const QRectF &seen);
+    /// The photo is not seen. Gives the memory for much detail back.
+    void rest();
     /// Whether what is wanted is there.
     bool isComplete() const { return isReady() && !partUnderWay_ && detail_ <= decodedDetail_; }
 
@@ -59,6 +65,8 @@ private:
 
     Photo photo_;
     PagePhoto pixels_;
+    PhotoPriority priority_ = ShownPhoto;
+    int least_ = PagePhoto::usualDetail; ///< pixels of the longer side that it has at least
     bool isUnreadable_ = false;
     int detail_ = 0;        ///< pixels of the photo's longer side that are asked for
     int decodedDetail_ = 0; ///< those of the last answer
@@ -68,6 +76,7 @@ private:
     QSize partWhole_;   ///< for which pixels_.part was decoded
     std::optional<WantedPart> partUnderWay_;
     quint64 number_ = 0; ///< identifies the current photo; results for another one are dropped
+    std::shared_ptr<std::atomic<bool>> isGone_; ///< whether the current photo is no longer asked for
 };
 
 } // namespace printdialog

@@ -79,6 +79,13 @@ PhotoPane::PhotoPane(QWidget *parent)
     setAcceptDrops(true);
 
     connect(preview_, &PreviewWidget::placementChanged, this, &PhotoPane::place);
+    connect(preview_, &PreviewWidget::photoPicked, this, [this](qsizetype index) {
+        setCurrent(static_cast<int>(sheets_.at(sheet_).photos.at(index).item));
+    });
+    connect(preview_, &PreviewWidget::sheetWanted, this, [this](int number) {
+        sheet_ = number;
+        setCurrent(static_cast<int>(sheets_.at(number).photos.constFirst().item));
+    });
     connect(bar_, &PreviewBar::proofingChanged, this, &PhotoPane::showColors);
     connect(screens_, &ScreenProfiles::changed, this, &PhotoPane::followScreen);
     connect(placement_, &PlacementBar::placementChanged, this, &PhotoPane::place);
@@ -115,6 +122,7 @@ void PhotoPane::setPage(const PageGeometry &page)
 {
     page_ = page;
     preview_->setPage(page);
+    showSheet();
     showCaption();
 }
 
@@ -254,7 +262,7 @@ void PhotoPane::place(const PlacementChoice &choice)
     if (current_ < 0 || arrangement_.photos.at(current_).placement == choice)
         return;
     arrangement_.photos[current_].placement = choice;
-    preview_->setPlacement(choice);
+    showSheet();
     placement_->setPlacement(choice);
     showCaption();
     Q_EMIT placementChanged();
@@ -283,9 +291,8 @@ void PhotoPane::browse()
 void PhotoPane::show()
 {
     const PlacedPhoto shown = current_ < 0 ? PlacedPhoto() : arrangement_.photos.at(current_);
-    preview_->setPhoto(shown.photo);
     const PlacementChoice placement = isPlacedByPrinter_ ? PlacementChoice() : shown.placement;
-    preview_->setPlacement(placement);
+    showSheet();
     placement_->setPlacement(placement);
     placement_->setEnabled(current_ >= 0);
     remove_->setEnabled(current_ >= 0);
@@ -297,6 +304,30 @@ void PhotoPane::show()
     strip_->setPhotos(several, several.isEmpty() ? -1 : current_);
     strip_->setVisible(!several.isEmpty());
     showCaption();
+}
+
+/// The sheet with the current photo: the one that is shown, if it is on it.
+void PhotoPane::showSheet()
+{
+    if (current_ < 0 || page_.printed().isEmpty()) {
+        const Photo photo = current_ < 0 ? Photo() : arrangement_.photos.at(current_).photo;
+        sheets_.clear();
+        preview_->setSheetNumber(0, 0);
+        return current_ < 0 ? preview_->setSheet({}, -1)
+                            : preview_->setSheet({photo.fileName(), {{photo}}}, 0);
+    }
+    const Arrangement shown = isPlacedByPrinter_ ? arrangement_.unplaced() : arrangement_;
+    const SheetPlan plan = shown.plan(page_);
+    sheets_ = plan.sheets();
+    const auto placeOn = [this](const LaidSheet &sheet) {
+        const auto laid = std::ranges::find(sheet.photos, qsizetype(current_), &LaidPhoto::item);
+        return laid == sheet.photos.end() ? -1 : laid - sheet.photos.begin();
+    };
+    if (sheet_ >= sheets_.size() || placeOn(sheets_.at(sheet_)) < 0)
+        sheet_ = std::max<qsizetype>(0, plan.sheetWith(current_));
+    preview_->setSheetNumber(static_cast<int>(sheet_), static_cast<int>(sheets_.size()));
+    preview_->setSheet(shown.sheet(sheets_.at(sheet_)), placeOn(sheets_.at(sheet_)),
+                       shown.photos.at(current_).placement);
 }
 
 void PhotoPane::showCaption()

@@ -98,6 +98,7 @@ private:
     void append(const PhotoOpener::Batch &batch);
     void check(const Photo &photo);
     void show();
+    void showSheet();
     void showCaption();
     void showColors();
     void followScreen();
@@ -117,7 +118,9 @@ private:
     QByteArray screenProfile_; ///< of the screen that shows the window
     QByteArray paperProfile_;
     bool isPlacedByPrinter_ = false;
-    int current_ = -1; ///< -1 without photos
+    int current_ = -1;        ///< -1 without photos
+    qsizetype sheet_ = 0;     ///< the one that is shown
+    QList<LaidSheet> sheets_; ///< of the plan that is shown
 };
 
 } // namespace printdialog

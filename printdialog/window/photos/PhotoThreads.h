@@ -10,7 +10,7 @@ class QThreadPool;
 namespace printdialog {
 
 /// The priority of a photo; higher ones come first.
-enum PhotoPriority { CheckedPhoto = -1, ThumbnailPhoto = 0, ShownPhoto = 1 };
+enum PhotoPriority { CheckedPhoto = -1, ThumbnailPhoto = 0, NeighborPhoto = 1, ShownPhoto = 2 };
 
 /// The thread pool on which the window opens, decodes and checks photos. It is separate from the global pool,
 /// on which Qt paints and scales: there Qt would wait until every photo is decoded. Tasks that have not begun

@@ -5,6 +5,7 @@
 
 #include "PlainText.h"
 #include "PreviewWidget.h"
+#include "SheetBar.h"
 #include "WrappingRow.h"
 
 #include <QtCore/QEvent>
@@ -65,6 +66,7 @@ PreviewBar::PreviewBar(PreviewWidget *preview, QWidget *parent)
     for (QToolButton *button : {smaller_, zoom_, larger_})
         zoom->addWidget(button);
     row->addItem(zoom);
+    row->addWidget(new SheetBar(preview_, this));
     row->addItem(new QSpacerItem(0, 0, QSizePolicy::Expanding));
     for (QToolButton *button : {compare_, divide_, clipped_, proof_})
         row->addWidget(button);

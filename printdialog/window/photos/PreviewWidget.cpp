@@ -3,11 +3,6 @@
 
 #include "PreviewWidget.h"
 
-#include "PhotoThreads.h"
-#include "PlainText.h"
-
-#include <QtCore/QCoreApplication>
-#include <QtCore/QPointer>
 #include <QtGui/QPainter>
 #include <QtWidgets/QAccessibleWidget>
 #include <QtWidgets/QStyle>
@@ -42,35 +37,81 @@ PreviewWidget::PreviewWidget(QWidget *parent)
     setMouseTracking(true);
     setAttribute(Qt::WA_OpaquePaintEvent);
     grabGesture(Qt::PinchGesture);
-    connect(&detail_, &PhotoDetail::changed, this, &PreviewWidget::updatePhoto);
+    connect(&detail_, &SheetDetail::changed, this, &PreviewWidget::updatePhotos);
+    connect(&colors_, &ScreenColors::changed, this, &PreviewWidget::updateColors);
     describe();
 }
 
 // What is shown
 
-void PreviewWidget::setPhoto(const Photo &photo)
+void PreviewWidget::setSheet(const PrintSheet &sheet, qsizetype current, const PlacementChoice &choice)
 {
-    if (detail_.setPhoto(photo)) {
+    const QString before = photo().path();
+    sheet_ = sheet;
+    current_ = current;
+    choice_ = choice;
+    QList<QByteArray> profiles;
+    for (const SheetPhoto &laid : sheet.photos)
+        profiles += laid.photo.pixelProfile();
+    painter_.setSheet(sheet, current);
+    detail_.setSheet(sheet, current, view());
+    colors_.setPhotoProfiles(profiles);
+    if (photo().path() != before && drag_ == Drag::Photo)
         drag_ = Drag::None;
-        painter_.setPhoto({});
-        if (photo.storedSize().isEmpty())
-            zoom_.reset();
-        updateLookup();
-        update();
-    }
+    if (sheet.photos.isEmpty())
+        zoom_.reset();
+    wasReady_ = isReady();
+    updateColors();
+    limitZoom();
     describe();
+    update();
     Q_EMIT viewChanged();
 }
 
-void PreviewWidget::updatePhoto()
+void PreviewWidget::setSheetNumber(int number, int count)
 {
-    const bool wasEmpty = painter_.isEmpty();
-    if (lookupOf_.photo != way_.photo && !detail_.isUnreadable())
-        return; // the table for this photo's colors is on its way
-    painter_.setPhoto(detail_.pixels());
+    if (std::exchange(sheetNumber_, number) == number && sheetCount_ == count)
+        return;
+    sheetCount_ = count;
+    describe();
+    Q_EMIT sheetNumberChanged();
+}
+
+void PreviewWidget::turnSheets(int count)
+{
+    const int wanted = std::clamp(sheetNumber_ + count, 0, std::max(0, sheetCount_ - 1));
+    if (wanted != sheetNumber_)
+        Q_EMIT sheetWanted(wanted);
+}
+
+/// The current photo; a null one without photos.
+const Photo &PreviewWidget::photo() const
+{
+    static const Photo none;
+    return current_ < 0 ? none : sheet_.photos.at(current_).photo;
+}
+
+/// Those with this path have other pixels.
+void PreviewWidget::updatePhotos(const QString &path)
+{
+    for (qsizetype i = 0; i < sheet_.photos.size(); ++i) {
+        const Photo &shown = sheet_.photos.at(i).photo;
+        if (!path.isNull() && shown.path() != path)
+            continue;
+        // A photo waits for the table of its colors.
+        const auto lookup = colors_.lookupFor(shown.pixelProfile());
+        PagePhoto pixels = lookup ? detail_.at(i).pixels() : PagePhoto();
+        pixels.lookup = lookup.value_or(nullptr);
+        painter_.setPhoto(i, pixels);
+    }
     update();
-    if (wasEmpty && isReady())
+    if (!std::exchange(wasReady_, isReady()) && wasReady_)
         Q_EMIT ready();
+}
+
+void PreviewWidget::updateColors()
+{
+    updatePhotos({});
 }
 
 void PreviewWidget::setPage(const PageGeometry &page)
@@ -82,20 +123,12 @@ void PreviewWidget::setPage(const PageGeometry &page)
     Q_EMIT viewChanged();
 }
 
-void PreviewWidget::setPlacement(const PlacementChoice &choice)
-{
-    choice_ = choice;
-    limitZoom();
-    describe();
-    update();
-}
-
 void PreviewWidget::setAdjustment(const PictureAdjustment &adjustment)
 {
-    if (adjustment == painter_.adjuster().adjustment())
+    if (adjustment == painter_.adjustment())
         return;
-    painter_.adjuster().setAdjustment(adjustment);
-    update(PagePainter::seenPhoto(view()).toAlignedRect());
+    painter_.setAdjustment(adjustment);
+    update(isShared() ? rect() : PagePainter::seenPhoto(view()).toAlignedRect());
 }
 
 void PreviewWidget::setDotsPerInch(double dots)
@@ -108,62 +141,35 @@ void PreviewWidget::setDotsPerInch(double dots)
 
 void PreviewWidget::setProfiles(const QByteArray &screen, const QByteArray &paper)
 {
-    screenProfile_ = screen;
-    paperProfile_ = paper;
-    updateLookup();
-}
-
-/// Makes the table for the screen's colors on a worker thread. The previous one stays until it is there, and
-/// a photo with a profile of its own waits for it.
-void PreviewWidget::updateLookup()
-{
-    const ColorLookup::Way way = {detail_.photo().pixelProfile(), screenProfile_, paperProfile_};
-    if (way == way_)
-        return;
-    way_ = way;
-    if (way == ColorLookup::Way()) {
-        lookupOf_ = way;
-        painter_.adjuster().setLookup(nullptr);
-        return update();
-    }
-    ++lookupsUnderWay_;
-    startPhotoTask(
-        [way, self = QPointer<PreviewWidget>(this)] {
-            const auto lookup = ColorLookup::make(way);
-            QMetaObject::invokeMethod(qApp, [self, way, lookup] {
-                if (!self)
-                    return;
-                --self->lookupsUnderWay_;
-                if (way != self->way_)
-                    return;
-                self->lookupOf_ = way;
-                self->painter_.adjuster().setLookup(lookup);
-                self->updatePhoto();
-                if (self->isReady())
-                    Q_EMIT self->ready();
-            });
-        },
-        ShownPhoto);
+    colors_.setProfiles(screen, paper);
 }
 
 std::optional<PhotoPlacement> PreviewWidget::placement() const
 {
-    const Photo &photo = detail_.photo();
-    if (page_.printed().isEmpty() || photo.storedSize().isEmpty())
+    if (page_.printed().isEmpty() || photo().storedSize().isEmpty())
         return std::nullopt;
-    return PhotoPlacement::place(photo.orientedSize(), photo.printedResolution(), page_, choice_);
+    const PhotoPlacement &placement = sheet_.photos.at(current_).placement;
+    return placement.target.isEmpty() ? std::nullopt : std::optional(placement);
 }
 
 PageView PreviewWidget::view() const
 {
-    const PageView view = {page_,        placement(), size(), paperMargin, devicePixelRatioF(),
-                           dotsPerInch_, zoom_,       center_};
+    PageView view;
+    view.page = page_;
+    view.placement = placement();
+    view.isShared = isShared();
+    view.room = size();
+    view.margin = paperMargin;
+    view.ratio = devicePixelRatioF();
+    view.dotsPerInch = dotsPerInch_;
+    view.zoom = zoom_;
+    view.center = center_;
     return view.panned({0, 0}); // no farther than there is something to see
 }
 
 bool PreviewWidget::hidesSharpening() const
 {
-    return painter_.adjuster().hidesSharpening();
+    return painter_.hidesSharpening();
 }
 
 void PreviewWidget::setCompared(bool isCompared)
@@ -198,40 +204,6 @@ QSize PreviewWidget::minimumSizeHint() const
     return {200, 200};
 }
 
-QString PreviewWidget::text() const
-{
-    if (detail_.photo().storedSize().isEmpty())
-        return tr("No photo. Drop photos here, or press Add.");
-    return detail_.isUnreadable() ? tr("This photo cannot be shown") : QString();
-}
-
-/// Updates the texts for screen readers.
-void PreviewWidget::describe()
-{
-    const Photo &photo = detail_.photo();
-    setAccessibleName(photo.storedSize().isEmpty() ? tr("Preview of the page")
-                                                   : tr("Preview of %1").arg(plainText(photo.fileName())));
-    const auto place = placement();
-    const double cutOff = place ? place->cutOff(page_) : 0;
-    QStringList sentences;
-    if (place)
-        sentences += cutOff < 0.001 ? tr("The whole photo is printed.")
-                                    : tr("%1 % of the photo is cut off.").arg(std::ceil(cutOff * 100));
-    const QString hint =
-        zoom_ && place ? tr("Drag it, or press the arrow keys, to see another part; 0 shows the entire page.")
-        : isMovable() ? tr("Drag the photo, or press the arrow keys, to move it; Home puts it in the middle.")
-                      : QString();
-    if (!hint.isEmpty())
-        sentences += hint;
-    if (isDivided_ && place)
-        sentences +=
-            tr("Left of the divider, the photo is shown without the adjustments. Drag the divider, or "
-               "press Ctrl and an arrow key, to move it.");
-    setAccessibleDescription(sentences.join(u' '));
-    setToolTip(hint);
-    updateCursor(mapFromGlobal(QCursor::pos()));
-}
-
 // Painting
 
 void PreviewWidget::paintEvent(QPaintEvent * /*event*/)
@@ -242,23 +214,13 @@ void PreviewWidget::paintEvent(QPaintEvent * /*event*/)
     if (!page_.size.isEmpty()) {
         using Side = PagePainter::Side;
         look_.side = isCompared_ ? Side::Unadjusted : isDivided_ ? Side::Divided : Side::Adjusted;
+        look_.showsCutOff = drag_ == Drag::Photo;
         painter_.paint(painter, seen, look_);
-        detail_.want(PagePainter::photoPixels(seen), PagePainter::seenPart(seen));
+        detail_.want(sheet_, seen);
+        paintFrame(painter, seen);
     }
-    if (const auto divider = isCompared_ ? std::nullopt : dividerAt()) {
-        const QRectF photo = PagePainter::seenPhoto(seen);
-        for (const auto &[color, width] : {std::pair(Qt::black, 3), std::pair(Qt::white, 1)}) {
-            painter.setPen(QPen(color, width));
-            painter.drawLine(QPointF(*divider, photo.top()), QPointF(*divider, photo.bottom()));
-        }
-    }
-    if (const QString words = text(); !words.isEmpty()) {
-        painter.setPen(page_.size.isEmpty() ? palette().color(QPalette::WindowText) : QColor(Qt::darkGray));
-        const QRectF paper =
-            page_.size.isEmpty() ? rect() : seen.toRoom().mapRect(QRectF(QPointF(0, 0), page_.size)) & rect();
-        painter.drawText(paper.adjusted(paperMargin, paperMargin, -paperMargin, -paperMargin),
-                         Qt::AlignCenter | Qt::TextWordWrap, words);
-    }
+    paintDivider(painter, seen);
+    paintText(painter, seen);
     if (hasFocus()) {
         QStyleOptionFocusRect option;
         option.initFrom(this);
@@ -266,6 +228,44 @@ void PreviewWidget::paintEvent(QPaintEvent * /*event*/)
         style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, this);
     }
     noteSeen();
+}
+
+/// Around the current one of several photos.
+void PreviewWidget::paintFrame(QPainter &painter, const PageView &seen) const
+{
+    if (!isShared() || !seen.placement)
+        return;
+    constexpr double width = 2;
+    const QRectF print = seen.toRoom().mapRect(seen.placement->outline & page_.printed());
+    painter.setBrush(Qt::NoBrush);
+    painter.setPen(QPen(palette().color(QPalette::Highlight), width));
+    painter.drawRect(print.adjusted(-width, -width, width, width));
+}
+
+void PreviewWidget::paintDivider(QPainter &painter, const PageView &seen) const
+{
+    const auto divider = isCompared_ ? std::nullopt : dividerAt();
+    if (!divider)
+        return;
+    const QRectF photo = PagePainter::seenPhoto(seen);
+    for (const auto &[color, width] : {std::pair(Qt::black, 3), std::pair(Qt::white, 1)}) {
+        painter.setPen(QPen(color, width));
+        painter.drawLine(QPointF(*divider, photo.top()), QPointF(*divider, photo.bottom()));
+    }
+}
+
+void PreviewWidget::paintText(QPainter &painter, const PageView &seen) const
+{
+    const QString words = text();
+    if (words.isEmpty())
+        return;
+    painter.setPen(page_.size.isEmpty() ? palette().color(QPalette::WindowText) : QColor(Qt::darkGray));
+    const QRectF place =
+        isShared() && seen.placement ? seen.placement->outline : QRectF(QPointF(0, 0), page_.size);
+    const QRectF paper = page_.size.isEmpty() ? rect() : seen.toRoom().mapRect(place) & rect();
+    const int margin = isShared() ? 0 : paperMargin;
+    painter.drawText(paper.adjusted(margin, margin, -margin, -margin), Qt::AlignCenter | Qt::TextWordWrap,
+                     words);
 }
 
 /// What is only known after painting.

@@ -4,15 +4,17 @@
 #pragma once
 
 #include "PagePainter.h"
-#include "PhotoDetail.h"
+#include "ScreenColors.h"
+#include "SheetDetail.h"
 
 #include <QtWidgets/QWidget>
 
 namespace printdialog {
 
-/// The page as it will be printed: the paper with the photo placed as in the PDF and with the printer's
-/// adjustments; the cut-off parts are dimmed. The user moves the photo with the mouse or the arrow keys. When
-/// it is zoomed to the dots of the print, these move what is seen instead.
+/// A sheet as it will be printed: the paper with its photos placed as in the PDF and with the printer's
+/// adjustments. One of them is the current one: its cut-off parts are dimmed, and among several it has a
+/// frame. The user moves it in its place with the mouse or the arrow keys, and picks another one by a click.
+/// When the page is zoomed to the dots of the print, mouse and keys move what is seen instead.
 class PreviewWidget : public QWidget
 {
     Q_OBJECT
@@ -23,20 +25,26 @@ public:
 
     explicit PreviewWidget(QWidget *parent = nullptr);
 
-    /// The photo is decoded again only when it differs from the previous one.
-    void setPhoto(const Photo &photo);
+    /// Shows the sheet, which was laid out for the page. Photos are decoded only when they were not on the
+    /// previous one. Without a page, the sheet's photos are decoded already.
+    /// @param current the index of the current photo; -1 without photos
+    /// @param choice how the current photo is wanted in its place
+    void setSheet(const PrintSheet &sheet, qsizetype current, const PlacementChoice &choice = {});
+    /// Which of the job's sheets it is, from 0 on.
+    void setSheetNumber(int number, int count);
+    int sheetNumber() const { return sheetNumber_; }
+    int sheetCount() const { return sheetCount_; }
     void setPage(const PageGeometry &page);
-    void setPlacement(const PlacementChoice &choice);
-    /// What the printer's own options do to the photo.
+    /// What the printer's own options do to the photos.
     void setAdjustment(const PictureAdjustment &adjustment);
     void setDotsPerInch(double dots);
     /// The ICC profiles of the screen and of a paper whose colors are shown; empty for sRGB and for none.
     void setProfiles(const QByteArray &screen, const QByteArray &paper);
 
-    /// The photo's placement; nothing without a photo or a page.
+    /// The current photo's placement; nothing without a photo or a page.
     std::optional<PhotoPlacement> placement() const;
-    /// Whether the photo is decoded and its colors are converted, or it has turned out to be unreadable.
-    bool isReady() const { return detail_.isReady() && lookupsUnderWay_ == 0; }
+    /// Whether the photos are decoded and their colors are converted, or have turned out to be unreadable.
+    bool isReady() const { return detail_.isReady() && colors_.isReady(); }
     /// Whether it is ready with all the detail that is seen.
     bool isComplete() const { return isReady() && detail_.isComplete(); }
     PageView view() const;
@@ -60,14 +68,22 @@ public:
     double clippedShare() const { return clippedShare_; }
     /// Whether a sharpening is too fine to be seen at this zoom.
     bool hidesSharpening() const;
+    /// Asks for another sheet, that many farther.
+    void turnSheets(int count);
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
 Q_SIGNALS:
     void ready();
-    /// The user has moved the photo.
+    /// The user has moved the photo. The sheet stays as it is until it is set.
     void placementChanged(const printdialog::PlacementChoice &choice);
+    /// The user has clicked on another photo of the sheet.
+    void photoPicked(qsizetype index);
+    /// The user asks for another sheet of the job; there is one with this number.
+    void sheetWanted(int number);
+    /// It shows another one of the job's sheets, or there are more or fewer.
+    void sheetNumberChanged();
     /// The zoom, the clipped share or what is hidden may be others.
     void viewChanged();
 
@@ -87,8 +103,14 @@ private:
     void setView(const PageView &view);
     void limitZoom();
     void noteSeen();
-    void updatePhoto();
-    void updateLookup();
+    void updatePhotos(const QString &path);
+    void updateColors();
+    const Photo &photo() const;
+    bool isShared() const { return sheet_.photos.size() > 1; }
+    void paintFrame(QPainter &painter, const PageView &seen) const;
+    void paintDivider(QPainter &painter, const PageView &seen) const;
+    void paintText(QPainter &painter, const PageView &seen) const;
+    std::optional<qsizetype> photoAt(const QPointF &position) const;
     bool pinched(QEvent *event);
     void zoomBy(double factor, const QPointF &kept);
     std::optional<double> nextZoom(bool larger) const;
@@ -103,11 +125,17 @@ private:
     void describe();
     QString text() const;
 
-    PhotoDetail detail_;
+    SheetDetail detail_;
+    ScreenColors colors_;
     PagePainter painter_;
     PagePainter::Look look_;
-    PageGeometry page_;
+    PrintSheet sheet_ = {};
+    qsizetype current_ = -1;
     PlacementChoice choice_;
+    int sheetNumber_ = 0;
+    int sheetCount_ = 0;
+    PageGeometry page_;
+    bool wasReady_ = true;
     double dotsPerInch_ = 300;
     std::optional<double> zoom_;
     QPointF center_; ///< see PageView
@@ -115,12 +143,9 @@ private:
     bool isCompared_ = false;
     double clippedShare_ = 0; ///< as painted last
     bool hidSharpening_ = false;
-    QByteArray screenProfile_;
-    QByteArray paperProfile_;
-    ColorLookup::Way way_;      ///< that is wanted
-    ColorLookup::Way lookupOf_; ///< of the table in use
-    int lookupsUnderWay_ = 0;
+    QPointF pressPosition_;
     QPointF lastPosition_;
+    std::optional<qsizetype> pressed_; ///< another photo on which the mouse was pressed
     PlacementChoice choiceAtPress_;
     Drag drag_ = Drag::None;
 };

@@ -6,11 +6,13 @@
 #include <QtGui/QMouseEvent>
 #include <QtGui/QNativeGestureEvent>
 #include <QtGui/QWheelEvent>
+#include <QtWidgets/QApplication>
 #include <QtWidgets/QPinchGesture>
 
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <utility>
 
 namespace printdialog {
 
@@ -104,6 +106,7 @@ bool PreviewWidget::pinched(QEvent *event)
         static_cast<QPinchGesture *>(static_cast<QGestureEvent *>(event)->gesture(Qt::PinchGesture));
     if (!pinch)
         return false;
+    pressed_.reset();
     if (pinch->state() == Qt::GestureStarted && drag_ == Drag::Photo) {
         drag_ = Drag::None; // the first finger was no mouse
         change(choiceAtPress_);
@@ -143,7 +146,7 @@ void PreviewWidget::panBy(const QPointF &widgetDistance)
 std::optional<double> PreviewWidget::dividerAt() const
 {
     const QRectF photo = PagePainter::seenPhoto(view());
-    if (!isDivided_ || photo.isEmpty() || !detail_.isReady() || detail_.isUnreadable())
+    if (!isDivided_ || photo.isEmpty() || painter_.isEmpty())
         return std::nullopt;
     return photo.left() + look_.divider * photo.width();
 }
@@ -166,7 +169,7 @@ bool PreviewWidget::isMovable() const
 {
     constexpr double leastRoom = 0.5; // points
     const auto place = placement();
-    return place && choice_.scaling != Scaling::Fit &&
+    return place && !choice_.isCentered() &&
            std::max(std::abs(place->slack().x()), std::abs(place->slack().y())) > leastRoom;
 }
 
@@ -181,10 +184,22 @@ void PreviewWidget::moveBy(const QPointF &widgetDistance)
 
 void PreviewWidget::change(const PlacementChoice &choice)
 {
-    if (choice == choice_)
-        return;
-    setPlacement(choice);
-    Q_EMIT placementChanged(choice);
+    if (choice != choice_)
+        Q_EMIT placementChanged(choice);
+}
+
+/// The index of the photo whose print is there; the current one's before others that overlap it.
+std::optional<qsizetype> PreviewWidget::photoAt(const QPointF &position) const
+{
+    if (page_.printed().isEmpty())
+        return std::nullopt;
+    const QPointF point = pageToWidget().inverted().map(position);
+    std::optional<qsizetype> found;
+    for (qsizetype i = 0; i < sheet_.photos.size(); ++i) {
+        if (sheet_.photos.at(i).placement.outline.contains(point) && found != current_)
+            found = i;
+    }
+    return found;
 }
 
 // The mouse and the keys
@@ -206,7 +221,13 @@ void PreviewWidget::mousePressEvent(QMouseEvent *event)
             : zoom_                           ? Drag::View
             : isMovable()                     ? Drag::Photo
                                               : Drag::None;
-    lastPosition_ = event->position();
+    pressed_ = event->button() == Qt::LeftButton && drag_ != Drag::Divider ? photoAt(event->position())
+                                                                           : std::nullopt;
+    if (pressed_ == current_)
+        pressed_.reset();
+    if (pressed_ && drag_ == Drag::Photo)
+        drag_ = Drag::None; // not of the photo that is pressed
+    pressPosition_ = lastPosition_ = event->position();
     choiceAtPress_ = choice_;
     if (drag_ == Drag::None)
         return QWidget::mousePressEvent(event);
@@ -236,8 +257,15 @@ void PreviewWidget::mouseMoveEvent(QMouseEvent *event)
 
 void PreviewWidget::mouseReleaseEvent(QMouseEvent *event)
 {
-    drag_ = Drag::None;
+    const bool wasMoved = std::exchange(drag_, Drag::None) == Drag::Photo;
     updateCursor(event->position());
+    const auto picked = std::exchange(pressed_, std::nullopt);
+    const bool isClick =
+        (event->position() - pressPosition_).manhattanLength() < QApplication::startDragDistance();
+    if (picked && isClick && photoAt(event->position()) == picked)
+        Q_EMIT photoPicked(*picked);
+    if (wasMoved)
+        update(); // its neighbors are seen again
     QWidget::mouseReleaseEvent(event);
 }
 
@@ -255,6 +283,9 @@ void PreviewWidget::keyPressEvent(QKeyEvent *event)
     const bool isArrow = direction != directions.end();
     if (isArrow && isDivided_ && modifiers & Qt::ControlModifier)
         return moveDivider(look_.divider + direction->second.x() * dividerStep);
+    if (modifiers == Qt::NoModifier && sheetCount_ > 1 &&
+        (event->key() == Qt::Key_PageUp || event->key() == Qt::Key_PageDown))
+        return turnSheets(event->key() == Qt::Key_PageUp ? -1 : 1);
     if (modifiers & ~Qt::ShiftModifier || !placement())
         return QWidget::keyPressEvent(event);
     if (isArrow && zoom_)
