@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include "Arrangement.h"
+#include "PlacementText.h"
 #include "PreviewBar.h"
 #include "PreviewWidget.h"
 #include "Rows.h"
@@ -283,6 +284,18 @@ private Q_SLOTS:
             QTest::keyClick(shown.preview, away.y() > 0 ? Qt::Key_Up : Qt::Key_Down);
         QVERIFY(shown.preview->rect().adjusted(20, 20, -20, -20).contains(shown.middleOf(14)));
         QTRY_VERIFY(shown.settle() && contrast(14) > 200);
+    }
+
+    // The print's size, where it has one, and not that of the photo, of which it shows a part.
+    void textOfASizedPrint()
+    {
+        const Photo photo = photoOf(u"red.jpg"_s, QColor(200, 40, 40), QSize(900, 400));
+        PlacementChoice choice{Scaling::Fill};
+        choice.size = PrintSize::fromText(u"9x6cm"_s);
+        const auto placement = PhotoPlacement::place(photo.orientedSize(), 300, wideSheet, choice);
+        QString text = placementText(photo, placement, choice, wideSheet);
+        text.replace(QChar(QChar::Nbsp), u' ');
+        QCOMPARE(text, u"9.0 × 6.0 cm · 169 pixels per inch · 34 % cut off"_s);
     }
 };
 

@@ -28,7 +28,9 @@ QString placementText(const Photo &photo, const PhotoPlacement &placement, const
 {
     const QLocale locale;
     const bool usesInches = locale.measurementSystem() == QLocale::ImperialUSSystem;
-    QSizeF size = placement.target.size() / pointsPerInch * (usesInches ? 1 : centimetresPerInch);
+    // A print with a size of its own, or else the photo, of which a part may be cut off.
+    const QSizeF points = choice.size ? placement.outline.size() : placement.target.size();
+    QSizeF size = points / pointsPerInch * (usesInches ? 1 : centimetresPerInch);
     if (placement.pageTurns != 0) // the page is shown on its side
         size.transpose();
     const QString width = locale.toString(size.width(), 'f', usesInches ? 2 : 1);
