@@ -3593,6 +3593,14 @@ und das Programm merkt sie sich</translation>
         <source>Zoom: %1</source>
         <translation>Zoom: %1</translation>
     </message>
+    <message>
+        <source>Ruler</source>
+        <translation>Lineal</translation>
+    </message>
+    <message>
+        <source>Measure the sheet along its edges</source>
+        <translation>Das Blatt an seinen Rändern messen</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::PreviewWidget</name>
@@ -3631,6 +3639,15 @@ und das Programm merkt sie sich</translation>
     <message>
         <source>Left of the divider, the photo is shown without the adjustments. Drag the divider, or press Ctrl and an arrow key, to move it.</source>
         <translation>Links der Trennlinie ist das Foto ohne die Anpassungen zu sehen. Die Trennlinie lässt sich ziehen oder mit Strg und einer Pfeiltaste verschieben.</translation>
+    </message>
+    <message>
+        <source>Prints %1 beyond the edges of the paper</source>
+        <comment>borderless</comment>
+        <translation>Druckt %1 über die Ränder des Papiers hinaus</translation>
+    </message>
+    <message>
+        <source>The print is %1, %2 from the left edge of the sheet and %3 from its top.</source>
+        <translation>Der Abzug ist %1 groß und liegt %2 vom linken und %3 vom oberen Rand des Blatts.</translation>
     </message>
     <message>
         <source>Sheet %1 of %2.</source>

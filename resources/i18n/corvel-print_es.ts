@@ -3592,6 +3592,14 @@ están y el programa las recuerda</translation>
         <source>Zoom: %1</source>
         <translation>Zoom: %1</translation>
     </message>
+    <message>
+        <source>Ruler</source>
+        <translation>Regla</translation>
+    </message>
+    <message>
+        <source>Measure the sheet along its edges</source>
+        <translation>Medir la hoja a lo largo de sus bordes</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::PreviewWidget</name>
@@ -3630,6 +3638,15 @@ están y el programa las recuerda</translation>
     <message>
         <source>Left of the divider, the photo is shown without the adjustments. Drag the divider, or press Ctrl and an arrow key, to move it.</source>
         <translation>A la izquierda del divisor, la foto se muestra sin los ajustes. Arrastrar el divisor, o pulsar Ctrl y una tecla de flecha, para moverlo.</translation>
+    </message>
+    <message>
+        <source>Prints %1 beyond the edges of the paper</source>
+        <comment>borderless</comment>
+        <translation>Imprime %1 más allá de los bordes del papel</translation>
+    </message>
+    <message>
+        <source>The print is %1, %2 from the left edge of the sheet and %3 from its top.</source>
+        <translation>La copia mide %1 y está a %2 del borde izquierdo de la hoja y a %3 del superior.</translation>
     </message>
     <message>
         <source>Sheet %1 of %2.</source>

@@ -3593,6 +3593,14 @@ elles sont, et le programme les retient</translation>
         <source>Zoom: %1</source>
         <translation>Zoom&#x202f;: %1</translation>
     </message>
+    <message>
+        <source>Ruler</source>
+        <translation>Règle</translation>
+    </message>
+    <message>
+        <source>Measure the sheet along its edges</source>
+        <translation>Mesurer la feuille le long de ses bords</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::PreviewWidget</name>
@@ -3631,6 +3639,15 @@ elles sont, et le programme les retient</translation>
     <message>
         <source>Left of the divider, the photo is shown without the adjustments. Drag the divider, or press Ctrl and an arrow key, to move it.</source>
         <translation>À gauche du séparateur, la photo est affichée sans les réglages. Faire glisser le séparateur, ou appuyer sur Ctrl et une touche fléchée, pour le déplacer.</translation>
+    </message>
+    <message>
+        <source>Prints %1 beyond the edges of the paper</source>
+        <comment>borderless</comment>
+        <translation>Imprime %1 au-delà des bords du papier</translation>
+    </message>
+    <message>
+        <source>The print is %1, %2 from the left edge of the sheet and %3 from its top.</source>
+        <translation>Le tirage mesure %1 et se trouve à %2 du bord gauche de la feuille et à %3 de son bord supérieur.</translation>
     </message>
     <message>
         <source>Sheet %1 of %2.</source>

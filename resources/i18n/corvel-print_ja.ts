@@ -3585,6 +3585,14 @@ where they are, and the program remembers them</source>
         <source>Zoom: %1</source>
         <translation>ズーム: %1</translation>
     </message>
+    <message>
+        <source>Ruler</source>
+        <translation>ルーラー</translation>
+    </message>
+    <message>
+        <source>Measure the sheet along its edges</source>
+        <translation>用紙の端に沿って寸法を表示します</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::PreviewWidget</name>
@@ -3623,6 +3631,15 @@ where they are, and the program remembers them</source>
     <message>
         <source>Left of the divider, the photo is shown without the adjustments. Drag the divider, or press Ctrl and an arrow key, to move it.</source>
         <translation>境界線の左側は調整なしの写真です。境界線はドラッグするか、Ctrlと矢印キーで動かせます。</translation>
+    </message>
+    <message>
+        <source>Prints %1 beyond the edges of the paper</source>
+        <comment>borderless</comment>
+        <translation>用紙の端から %1 外側まで印刷します</translation>
+    </message>
+    <message>
+        <source>The print is %1, %2 from the left edge of the sheet and %3 from its top.</source>
+        <translation>プリントの大きさは %1、用紙の左端から %2、上端から %3 の位置です。</translation>
     </message>
     <message>
         <source>Sheet %1 of %2.</source>

@@ -297,6 +297,48 @@ private Q_SLOTS:
         text.replace(QChar(QChar::Nbsp), u' ');
         QCOMPARE(text, u"9.0 × 6.0 cm · 169 pixels per inch · 34 % cut off"_s);
     }
+
+    void rulerAndBleed()
+    {
+        const PageGeometry borderless{QSizeF(288, 432), QRectF(-6, -6, 300, 444)};
+        PlacementChoice choice{Scaling::Fill};
+        choice.size = PrintSize{QSizeF(144, 216)};
+        ShownArrangement shown(
+            arrangementOf({photoOf(u"red.jpg"_s, QColor(200, 40, 40))}, u"single"_s, choice), borderless);
+        QVERIFY(shown.settle());
+        auto *note = shown.bar->findChild<QLabel *>(u"previewNote"_s);
+        QVERIFY2(note->text().contains(u"2.12 mm"_s), qPrintable(note->text()));
+        const QRectF before = shown.preview->pageToWidget().mapRect(QRectF(QPointF(), borderless.size));
+        QTest::mouseClick(shown.bar->findChild<QToolButton *>(u"ruler"_s), Qt::LeftButton);
+        QVERIFY(shown.settle());
+        // The rulers stand beside the sheet, and their marks at the print's edges, at every zoom.
+        const auto marked = [&shown](const QPointF &onPage, bool isAbove) {
+            const QPoint at = shown.preview->pageToWidget().map(onPage).toPoint();
+            const QImage seen = shown.preview->grab().toImage();
+            const QColor highlight = shown.palette().color(QPalette::Highlight);
+            const QRectF sheet = shown.preview->pageToWidget().mapRect(QRectF(QPointF(), shown.paper.size));
+            for (int away = 4; away < 20; ++away) {
+                const int edge = std::max(static_cast<int>(isAbove ? sheet.top() : sheet.left()), 20);
+                const QPoint point = isAbove ? QPoint(at.x(), edge - away) : QPoint(edge - away, at.y());
+                for (const QPoint beside : {QPoint(0, 0), QPoint(1, 1), QPoint(-1, -1)}) {
+                    if (seen.rect().contains(point + beside) &&
+                        isNear(QColor(seen.pixel(point + beside)), highlight))
+                        return true;
+                }
+            }
+            return false;
+        };
+        const QRectF print = shown.laid.at(0).photos.at(0).placement.outline;
+        QVERIFY(shown.preview->pageToWidget().mapRect(QRectF(QPointF(), borderless.size)).width() <
+                before.width());
+        QVERIFY(marked(print.topLeft(), true) && marked(print.topLeft(), false));
+        QVERIFY(marked(print.bottomRight(), true) && marked(print.bottomRight(), false));
+        QVERIFY(!marked(print.center(), true) && !marked(QPointF(10, 10), true));
+        QVERIFY2(shown.preview->accessibleDescription().contains(u"The print is"_s),
+                 qPrintable(shown.preview->accessibleDescription()));
+        shown.preview->zoomTo(0.4); // the sheet's top is not seen
+        QVERIFY(marked(print.topLeft(), true) && marked(print.topLeft(), false));
+    }
 };
 
 CORVEL_WIDGETS_TEST(SheetPreviewTest)

@@ -47,11 +47,12 @@ PreviewBar::PreviewBar(PreviewWidget *preview, QWidget *parent)
                            "dragged")))
     , clipped_(addButton("clipped", {}, tr("Mark the tones that the adjustments clip to black or white")))
     , proof_(addButton("proof", tr("Soft proof"), tr("Show the colors as the printer's paper has them")))
+    , ruler_(addButton("ruler", tr("Ruler"), tr("Measure the sheet along its edges")))
     , note_(new QLabel(this))
 {
     smaller_->setAccessibleName(tr("Zoom out"));
     larger_->setAccessibleName(tr("Zoom in"));
-    for (QToolButton *button : {divide_, clipped_, proof_})
+    for (QToolButton *button : {divide_, clipped_, proof_, ruler_})
         button->setCheckable(true);
     note_->setObjectName(QStringLiteral("previewNote"));
     note_->setTextFormat(Qt::PlainText);
@@ -68,7 +69,7 @@ PreviewBar::PreviewBar(PreviewWidget *preview, QWidget *parent)
     row->addItem(zoom);
     row->addWidget(new SheetBar(preview_, this));
     row->addItem(new QSpacerItem(0, 0, QSizePolicy::Expanding));
-    for (QToolButton *button : {compare_, divide_, clipped_, proof_})
+    for (QToolButton *button : {compare_, divide_, clipped_, proof_, ruler_})
         row->addWidget(button);
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins({});
@@ -85,6 +86,7 @@ PreviewBar::PreviewBar(PreviewWidget *preview, QWidget *parent)
         showView();
     });
     connect(proof_, &QToolButton::toggled, this, &PreviewBar::proofingChanged);
+    connect(ruler_, &QToolButton::toggled, preview_, &PreviewWidget::setRuled);
     connect(preview_, &PreviewWidget::viewChanged, this, &PreviewBar::showView);
     showAdjustable();
     setProofable(false);
@@ -200,6 +202,7 @@ void PreviewBar::showNote()
             notes += tr("sharpness shows at 100 %");
     }
     QStringList lines = {notes.join(tr(" \u00b7 ", "between two short notes"))};
+    lines += preview_->bleedText();
     for (const QString &remark : std::as_const(remarks_))
         lines += plainText(remark, shownTextLimit);
     lines.removeAll(QString());

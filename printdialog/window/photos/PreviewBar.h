@@ -57,6 +57,7 @@ private:
     QToolButton *divide_;
     QToolButton *clipped_;
     QToolButton *proof_;
+    QToolButton *ruler_;
     QLabel *note_;
     QStringList remarks_;
     bool isAdjustable_ = false;

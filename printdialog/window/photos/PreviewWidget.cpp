@@ -3,6 +3,8 @@
 
 #include "PreviewWidget.h"
 
+#include "SheetRuler.h"
+
 #include <QtGui/QPainter>
 #include <QtWidgets/QAccessibleWidget>
 #include <QtWidgets/QStyle>
@@ -159,7 +161,7 @@ PageView PreviewWidget::view() const
     view.placement = placement();
     view.isShared = isShared();
     view.room = size();
-    view.margin = paperMargin;
+    view.margin = paperMargin + (isRuled_ ? rulerWidth(font()) : 0);
     view.ratio = devicePixelRatioF();
     view.dotsPerInch = dotsPerInch_;
     view.zoom = zoom_;
@@ -194,6 +196,16 @@ void PreviewWidget::setMarksClipped(bool marks)
     update();
 }
 
+void PreviewWidget::setRuled(bool isRuled)
+{
+    if (std::exchange(isRuled_, isRuled) == isRuled)
+        return;
+    limitZoom();
+    describe();
+    update();
+    Q_EMIT viewChanged();
+}
+
 QSize PreviewWidget::sizeHint() const
 {
     return {360, 380};
@@ -217,9 +229,12 @@ void PreviewWidget::paintEvent(QPaintEvent * /*event*/)
         look_.showsCutOff = drag_ == Drag::Photo;
         painter_.paint(painter, seen, look_);
         detail_.want(sheet_, seen);
+        paintBleed(painter, seen);
         paintFrame(painter, seen);
     }
     paintDivider(painter, seen);
+    if (isRuled_ && !page_.size.isEmpty())
+        paintRulers(painter, seen, seen.placement ? seen.placement->outline : QRectF(), palette());
     paintText(painter, seen);
     if (hasFocus()) {
         QStyleOptionFocusRect option;

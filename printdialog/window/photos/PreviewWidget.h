@@ -68,6 +68,10 @@ public:
     double clippedShare() const { return clippedShare_; }
     /// Whether a sharpening is too fine to be seen at this zoom.
     bool hidesSharpening() const;
+    /// Shows rulers along the sheet's edges.
+    void setRuled(bool isRuled);
+    /// How far beyond the sheet's edges is printed, for people; empty when nothing is.
+    QString bleedText() const;
     /// Asks for another sheet, that many farther.
     void turnSheets(int count);
 
@@ -111,6 +115,7 @@ private:
     void paintDivider(QPainter &painter, const PageView &seen) const;
     void paintText(QPainter &painter, const PageView &seen) const;
     std::optional<qsizetype> photoAt(const QPointF &position) const;
+    QString rulerText() const;
     bool pinched(QEvent *event);
     void zoomBy(double factor, const QPointF &kept);
     std::optional<double> nextZoom(bool larger) const;
@@ -135,6 +140,7 @@ private:
     int sheetNumber_ = 0;
     int sheetCount_ = 0;
     PageGeometry page_;
+    bool isRuled_ = false;
     bool wasReady_ = true;
     double dotsPerInch_ = 300;
     std::optional<double> zoom_;

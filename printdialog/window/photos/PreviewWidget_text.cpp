@@ -4,6 +4,8 @@
 #include "PreviewWidget.h"
 
 #include "PlainText.h"
+#include "PrintSize.h"
+#include "SheetRuler.h"
 
 #include <cmath>
 
@@ -16,6 +18,29 @@ QString PreviewWidget::text() const
     if (photo().storedSize().isEmpty())
         return tr("No photo. Drop photos here, or press Add.");
     return detail_.at(current_).isUnreadable() ? tr("This photo cannot be shown") : QString();
+}
+
+QString PreviewWidget::bleedText() const
+{
+    const QString width = bleedWidthText(page_);
+    return width.isEmpty() ? QString()
+                           : tr("Prints %1 beyond the edges of the paper", "borderless").arg(width);
+}
+
+/// What the ruler shows, in words.
+QString PreviewWidget::rulerText() const
+{
+    const PageView seen = view();
+    if (!isRuled_ || !seen.placement)
+        return {};
+    const double perPoint = seen.pixelsPerInch() / seen.ratio / pointsPerInch;
+    const QTransform toRoom = seen.toRoom();
+    const QRectF print = toRoom.mapRect(seen.placement->outline);
+    const QPointF corner =
+        (print.topLeft() - toRoom.mapRect(QRectF(QPointF(), page_.size)).topLeft()) / perPoint;
+    return tr("The print is %1, %2 from the left edge of the sheet and %3 from its top.")
+        .arg(localSizeText(print.size() / perPoint), localLengthText(corner.x()),
+             localLengthText(corner.y()));
 }
 
 /// Updates the texts for screen readers.
@@ -45,6 +70,8 @@ void PreviewWidget::describe()
         sentences +=
             tr("Left of the divider, the photo is shown without the adjustments. Drag the divider, or "
                "press Ctrl and an arrow key, to move it.");
+    sentences += {rulerText(), bleedText()};
+    sentences.removeAll(QString());
     setAccessibleDescription(sentences.join(u' '));
     setToolTip(hint);
     updateCursor(mapFromGlobal(QCursor::pos()));
