@@ -77,7 +77,8 @@ QStringList Arrangement::captionOf(const Photo &photo, Caption caption)
     if (caption == Caption::FileName || caption == Caption::Both)
         lines += plainText(photo.fileName());
     if (caption == Caption::Date || caption == Caption::Both)
-        lines += QLocale().toString(photo.modified().toLocalTime().date(), QLocale::ShortFormat);
+        lines += QLocale().toString(photo.taken().value_or(photo.modified().toLocalTime()).date(),
+                                    QLocale::ShortFormat);
     return lines;
 }
 
