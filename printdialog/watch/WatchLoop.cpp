@@ -2,20 +2,16 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include "WatchLoop.h"
+#include "WatchLoop_p.h"
 
-#include "FileMove.h"
 #include "FileName.h"
 #include "PlainText.h"
 #include "QueueList.h"
 
-#include <QtCore/QDir>
 #include <QtCore/QFile>
-#include <QtCore/QFileInfo>
-#include <QtCore/QScopeGuard>
 
 #include <cerrno>
 #include <fcntl.h>
-#include <sys/stat.h>
 
 using namespace std::chrono_literals;
 
@@ -25,21 +21,6 @@ namespace {
 
 using End = PatientOutcome::End;
 using State = PhotoRecord::State;
-
-constexpr auto lateMoves = 20s; // between tries to move photos that could not be moved
-
-QString shownName(const FolderFile &file)
-{
-    return plainText(QFile::decodeName(file.name), shownTextLimit);
-}
-
-/// Marks the time in which a dead mount may block.
-auto busy(WatchControl &control)
-{
-    const auto now = std::chrono::steady_clock::now().time_since_epoch();
-    control.busySince = std::chrono::duration_cast<std::chrono::milliseconds>(now).count();
-    return qScopeGuard([&control] { control.busySince = 0; });
-}
 
 /// Whether the file's own permissions keep it from being read, and not its disk.
 bool isForbidden(const QByteArray &path)
@@ -236,71 +217,6 @@ QString WatchLoop::finish(const FolderFile &file, const PatientOutcome &outcome)
         break;
     }
     return {};
-}
-
-/// A program that writes a photo in several steps may only have begun: it gets a second chance.
-void WatchLoop::unfit(const FolderFile &file, const QString &reason)
-{
-    if (!postponed_.contains(file.identity)) {
-        postponed_.insert(file.identity);
-        watch_.postpone(file);
-    } else {
-        postponed_.remove(file.identity);
-        setAside(file, reason);
-    }
-}
-
-void WatchLoop::setAside(const FolderFile &file, const QString &reason)
-{
-    if (const auto failure =
-            record_->add(file.identity, {.state = State::Aside, .name = shownName(file), .reason = reason}))
-        complainOnce(failure->text);
-    const QString moved = moveAside(file, reason);
-    news_.complain(moved.isEmpty()
-                       ? tr("%1 It stays in the folder, and is not tried again.").arg(reason)
-                       : tr("%1 It is now \"%2\".").arg(reason, plainText(moved, shownTextLimit)));
-}
-
-/// @return its new path; empty when it stays, since the folder may not be written, for example
-QString WatchLoop::moveAside(const FolderFile &file, const QString &reason)
-{
-    const auto mark = busy(control_);
-    const QByteArray folder = watch_.pathOf(unprintableFolder);
-    if (!isThere(file) || (::mkdir(folder.constData(), 0777) != 0 && errno != EEXIST))
-        return {};
-    const auto moved = moveInto(watch_.pathOf(file.name), QFile::decodeName(folder));
-    if (!moved)
-        return {};
-    QFile text(QFile::decodeName(*moved + ".reason.txt"));
-    if (text.open(QIODevice::WriteOnly | QIODevice::NewOnly))
-        text.write(reason.toUtf8() + '\n');
-    record_->forget(file.identity);
-    return QFile::decodeName(*moved);
-}
-
-void WatchLoop::movePrinted(const FolderFile &file)
-{
-    const auto mark = busy(control_);
-    if (!order_.printed || !isThere(file))
-        return;
-    const auto moved = moveInto(watch_.pathOf(file.name), *order_.printed);
-    if (moved) {
-        record_->forget(file.identity);
-        return;
-    }
-    unmoved_.append(file);
-    complainOnce(
-        tr("Printed photos stay in the folder, because they cannot be moved. %1").arg(moved.failure().text));
-}
-
-void WatchLoop::moveLate()
-{
-    const auto now = std::chrono::steady_clock::now();
-    if (now < nextMoves_)
-        return;
-    nextMoves_ = now + lateMoves;
-    for (const FolderFile &file : std::exchange(unmoved_, {}))
-        movePrinted(file);
 }
 
 /// Whether it is still the same photo.
