@@ -139,6 +139,20 @@ private Q_SLOTS:
         add("choice", u"photo"_s, u"Red=99"_s, u"-25 to 25"_s);
     }
 
+    void presetOfTheDefaultPrinter()
+    {
+        QVERIFY(QDir(home_.path()).mkpath(u".cups"_s) &&
+                store(home_.filePath(u".cups/lpoptions"_s), "Dest photo/My%20own Red=7\n"));
+        QVERIFY(cupsd_.run(u"lpadmin"_s, {u"-d"_s, u"photo"_s}));
+        const QStringList wanted = {u"--preset"_s, u"My own"_s, u"--dry-run"_s, u"--json"_s, samplePhoto};
+        for (const QString &own : {u"photo"_s, QString()}) { // the user's, the server's
+            const ProgramRun run = runProgram(wanted, {{u"LPDEST"_s, own}}, home_.path());
+            QVERIFY2(run.status == 0, run.err.constData());
+            QCOMPARE(run.json().array().at(0)[u"options"_s][u"Red"_s], u"7"_s);
+        }
+        QVERIFY(QFile::remove(home_.filePath(u".cups/lpoptions"_s)));
+    }
+
     void refusesQueues()
     {
         const auto [queue, option, word] = row<QString, QString, QString>();

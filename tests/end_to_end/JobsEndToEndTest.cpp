@@ -160,6 +160,46 @@ private Q_SLOTS:
         QVERIFY(again && !*again);
     }
 
+    // Whoever must not send it twice has to know.
+    void jobThatMayExist_data()
+    {
+        const auto add = rows<bool, bool, QByteArray, bool>();
+        add("the queue rejects it", true, true, QByteArray("bytes"), false);
+        add("its owner forbids it", false, false, QByteArray("bytes"), false);
+        add("given up half way", false, true, muchData(), false);
+        add("the answer is lost", false, true, QByteArray("bytes"), true);
+    }
+
+    void jobThatMayExist()
+    {
+        const auto [isRejected, isAllowed, bytes, mayExist] = row<bool, bool, QByteArray, bool>();
+        const auto before = submit(u"photo"_s);
+        QVERIFY(before && cupsd_.waitForJob(*before));
+        QVERIFY(cupsd_.run(isRejected ? u"cupsreject"_s : u"cupsaccept"_s, {u"photo"_s}));
+        int cancel = 0;
+        int begun = 0;
+        const auto sent = [&](qint64 done, qint64 total) {
+            if (done == total)
+                cupsd_.freeze();
+            else if (done > total / 2)
+                std::atomic_ref(cancel).store(1);
+        };
+        JobSubmission submission(sent, &cancel, 500ms);
+        submission.onBeginning([&] {
+            ++begun;
+            return isAllowed;
+        });
+        const auto id = submission.send(jobFor(u"photo"_s), document(bytes));
+        cupsd_.thaw();
+        QVERIFY(!id);
+        QCOMPARE(begun, isRejected ? 0 : 1);
+        QCOMPARE(submission.mayHaveMadeJob(), mayExist);
+        QVERIFY(cupsd_.run(u"cupsaccept"_s, {u"photo"_s}));
+        const auto after = submit(u"photo"_s);
+        QVERIFY(after);
+        QCOMPARE(*after, *before + (mayExist ? 2 : 1));
+    }
+
     // As a backend tells them to its server.
     void suppliesAndReasons()
     {

@@ -170,7 +170,10 @@ private Q_SLOTS:
     {
         WatchedFolder folder;
         QVERIFY(folder.watch.begin());
-        for (int i = 0; i < 9000; ++i) // different ones each time, since the kernel joins equal ones
+        QFile limit(u"/proc/sys/fs/inotify/max_queued_events"_s);
+        QVERIFY(limit.open(QIODevice::ReadOnly));
+        const int most = limit.readAll().trimmed().toInt();
+        for (int i = 0; i <= most; ++i) // different ones each time, since the kernel joins equal ones
             QVERIFY(folder.write(i % 2 == 0 ? u".even"_s : u".odd"_s));
         QVERIFY(folder.write(u"photo"_s));
         QCOMPARE(folder.arrivals(), "photo");

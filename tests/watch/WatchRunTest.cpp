@@ -35,8 +35,9 @@ private Q_SLOTS:
         QVERIFY(QFile::setPermissions(place_.path(), QFile::Permissions(0x7777)));
         // A line for each job. A job that the scheduler runs again, since it was stopped meanwhile, has the
         // same number.
-        QVERIFY(cupsd_.setBackendScript("printf '%s %s\\n' \"$1\" \"$3\" >> " + place_.path().toUtf8() +
-                                        "/jobs; sleep 0.05"));
+        QVERIFY(cupsd_.setBackendScript("case \"$3\" in torn*) echo 'ERROR: Ribbon torn' >&2; exit 1;; esac\n"
+                                        "printf '%s %s\\n' \"$1\" \"$3\" >> " +
+                                        place_.path().toUtf8() + "/jobs; sleep 0.05"));
         QVERIFY(cupsd_.addQueue(u"photo"_s, smallPpd(), {u"-v"_s, u"scripted:/"_s}));
         QImage picture(60, 90, QImage::Format_RGB32);
         picture.fill(Qt::darkGreen);
@@ -75,6 +76,25 @@ private Q_SLOTS:
                      complaints.count("2.jpg waits") == 1 &&
                      complaints.count("Printing 2.jpg continues") == 1,
                  complaints.constData());
+        end(*program);
+    }
+
+    // Its job fails, or somebody cancels it, even before the program is started again.
+    void setsAsideWhatFails()
+    {
+        auto program = start();
+        QTRY_COMPARE(starts(), 1);
+        QVERIFY(arrive(u"torn.jpg"_s));
+        QTRY_VERIFY(
+            contentOf(place_.filePath(u"new/unprintable/torn.jpg.reason.txt"_s)).contains("Ribbon torn"));
+        QVERIFY(cupsd_.run(u"cupsdisable"_s, {u"photo"_s}) && arrive(u"1.jpg"_s));
+        QTRY_VERIFY(contentOf(place_.filePath(u"err"_s)).contains("waits"));
+        program->kill();
+        QVERIFY(program->waitForFinished());
+        QVERIFY(cupsd_.run(u"cancel"_s, {u"-a"_s}) && cupsd_.run(u"cupsenable"_s, {u"photo"_s}));
+        program = start();
+        QTRY_VERIFY(QFile::exists(place_.filePath(u"new/unprintable/1.jpg"_s)));
+        QCOMPARE(jobsOf(u"1.jpg"_s), 0);
         end(*program);
     }
 
