@@ -118,7 +118,8 @@ private:
             sent += size;
             if (isTaken && sent_)
                 sent_(sent, total);
-            if (connection_.isCanceled())
+            // Once the server has all of it, its answer has to be waited for.
+            if (connection_.isCanceled() && sent < total)
                 return queueFailure(QueueFault::Canceled, job.destination.id());
         }
         return receiveAnswer(job.destination.id(), isTaken);

@@ -167,6 +167,7 @@ private Q_SLOTS:
         add("the queue rejects it", true, true, QByteArray("bytes"), false);
         add("its owner forbids it", false, false, QByteArray("bytes"), false);
         add("given up half way", false, true, muchData(), false);
+        add("given up at its end", false, true, QByteArray("canceled"), false); // canceled by its number
         add("the answer is lost", false, true, QByteArray("bytes"), true);
     }
 
@@ -175,11 +176,12 @@ private Q_SLOTS:
         const auto [isRejected, isAllowed, bytes, mayExist] = row<bool, bool, QByteArray, bool>();
         const auto before = submit(u"photo"_s);
         QVERIFY(before && cupsd_.waitForJob(*before));
+        QVERIFY(cupsd_.run(bytes == "canceled" ? u"cupsdisable"_s : u"cupsenable"_s, {u"photo"_s}));
         QVERIFY(cupsd_.run(isRejected ? u"cupsreject"_s : u"cupsaccept"_s, {u"photo"_s}));
         int cancel = 0;
         int begun = 0;
         const auto sent = [&](qint64 done, qint64 total) {
-            if (done == total)
+            if (done == total && bytes != "canceled")
                 cupsd_.freeze();
             else if (done > total / 2)
                 std::atomic_ref(cancel).store(1);
@@ -194,10 +196,12 @@ private Q_SLOTS:
         QVERIFY(!id);
         QCOMPARE(begun, isRejected ? 0 : 1);
         QCOMPARE(submission.mayHaveMadeJob(), mayExist);
-        QVERIFY(cupsd_.run(u"cupsaccept"_s, {u"photo"_s}));
+        QVERIFY(cupsd_.activeJobs().isEmpty() || mayExist);
+        QVERIFY(cupsd_.run(u"cupsaccept"_s, {u"photo"_s}) && cupsd_.run(u"cupsenable"_s, {u"photo"_s}));
         const auto after = submit(u"photo"_s);
         QVERIFY(after);
-        QCOMPARE(*after, *before + (mayExist ? 2 : 1));
+        const bool isMade = mayExist || bytes == "canceled";
+        QCOMPARE(*after, *before + (isMade ? 2 : 1));
     }
 
     // As a backend tells them to its server.
