@@ -4,6 +4,8 @@
 #include "PatientPrinter.h"
 
 #include "CupsConnection.h"
+#include "JobTemplate.h"
+#include "PlainText.h"
 
 #include <algorithm>
 #include <array>
@@ -59,15 +61,18 @@ PatientOutcome PatientPrinter::print(const PrintSheet &sheet, const Steps &steps
     const QString &name = sheet.name;
     for (pause_ = firstPause;;) {
         QString objection;
-        bool hasBegun = false;
+        std::optional<BegunJob> begun;
         // A new connection for each one: hours may lie between two.
         SheetPrinter printer(job_, {}, &stop_.cancel);
         printer.onBeginning([&] {
             if (isStopped())
                 return false;
-            objection = steps.begin();
-            hasBegun = objection.isEmpty();
-            return hasBegun;
+            BegunJob job{job_.destination.id(), job_.options.value(JobTemplate::titleKey(), name), lastJob_,
+                         QDateTime::currentSecsSinceEpoch()};
+            objection = steps.begin(job);
+            if (objection.isEmpty())
+                begun = job;
+            return begun.has_value();
         });
         const auto printed = printer.print(sheet);
         if (printed) {
@@ -79,9 +84,9 @@ PatientOutcome PatientPrinter::print(const PrintSheet &sheet, const Steps &steps
             return follow(name, job_.destination.id(), sent.constFirst(), false);
         }
         const SheetPrinter::Fault fault = printed.failure().reason;
-        if (hasBegun && fault.mayBePrinted)
-            return {End::Unclear, printed.failure().text};
-        if (hasBegun)
+        if (begun && fault.mayBePrinted)
+            return resume(name, *begun, steps.sent);
+        if (begun)
             steps.withdraw();
         if (isStopped())
             return {End::Stopped, {}};
@@ -105,8 +110,55 @@ PatientOutcome PatientPrinter::resume(const QString &name, const QString &printe
     return follow(name, printer, job, true);
 }
 
+PatientOutcome PatientPrinter::resume(const QString &name, const BegunJob &begun,
+                                      const std::function<void(int job)> &sent)
+{
+    for (pause_ = firstPause;;) {
+        CupsConnection connection(patience.silent, &stop_.leave,
+                                  PrinterAddress::of(Destination(begun.printer).queue));
+        connection.actFor(begun.printer);
+        const auto jobs = ownJobs(connection, begun.printer);
+        if (isStopped())
+            return {End::Stopped, {}};
+        if (jobs) {
+            const auto job = found(begun, *jobs);
+            if (!job)
+                return {End::Unclear,
+                        tr("It was being sent, and the print server has no job that must be its.")};
+            sent(*job);
+            return follow(name, begun.printer, *job, true);
+        }
+        waits(tr("%1 waits. It was being sent, and only the print server knows whether it is printed: %2")
+                  .arg(name, jobs.failure().text));
+        if (!pause())
+            return {End::Stopped, {}};
+    }
+}
+
+/// Jobs are made one at a time: the only one of the title since then is the right one. The title of all jobs
+/// says nothing of the first one, which may be mistaken for an earlier run's.
+std::optional<int> PatientPrinter::found(const BegunJob &begun, const QList<OwnJob> &jobs) const
+{
+    const auto shown = [](const QString &title) {
+        return plainText(title, shownTextLimit).simplified();
+    };
+    std::optional<int> only;
+    for (const OwnJob &job : jobs) {
+        if (job.id <= begun.after || job.printer != Destination(begun.printer).queue ||
+            job.title != shown(begun.title) || !job.since.isValid() ||
+            job.since.toSecsSinceEpoch() < begun.since)
+            continue;
+        if (only)
+            return std::nullopt;
+        only = job.id;
+    }
+    const bool isForAll = job_.options.contains(JobTemplate::titleKey());
+    return isForAll && begun.after == 0 ? std::nullopt : only;
+}
+
 PatientOutcome PatientPrinter::follow(const QString &name, const QString &printer, int job, bool isResumed)
 {
+    lastJob_ = std::max(lastJob_, job);
     const QString id = QString::number(job);
     CupsConnection connection(patience.silent, nullptr, PrinterAddress::of(Destination(printer).queue));
     connection.actFor(printer);

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "OwnJob.h"
 #include "SheetPrinter.h"
 
 #include <QtCore/QCoreApplication>
@@ -36,6 +37,15 @@ struct PatientOutcome
     int job = 0; ///< 0 when there is none
 };
 
+/// What tells a job that may have been made from others.
+struct BegunJob
+{
+    QString printer;  ///< the id of its destination
+    QString title;    ///< of the job; others may have the same one
+    int after = 0;    ///< the number of an earlier job; 0: none is known
+    qint64 since = 0; ///< when it was begun, in seconds since 1970
+};
+
 /// Prints one sheet at a time and waits until its job has come to its end, however long that takes: while the
 /// printer needs paper, the queue rejects jobs or the print server is away. Nothing is sent twice: what was
 /// sent is followed, also when the server was started again. Blocking; on the thread that made it.
@@ -48,7 +58,7 @@ public:
     struct Steps
     {
         /// The job is about to be made. Returns why it must not be, a sentence, or an empty string.
-        std::function<QString()> begin;
+        std::function<QString(const BegunJob &)> begin;
         /// The job was not made after all.
         std::function<void()> withdraw;
         /// The queue has the job.
@@ -69,12 +79,18 @@ public:
     /// @param name the sheet's
     /// @param printer the id of its destination
     PatientOutcome resume(const QString &name, const QString &printer, int job);
+    /// Looks for a job that may have been made by an earlier run, and waits for it. Unclear when the server
+    /// has none that it must be.
+    /// @param sent the job was found
+    PatientOutcome resume(const QString &name, const BegunJob &begun,
+                          const std::function<void(int job)> &sent);
 
 private:
     PatientOutcome follow(const QString &name, const QString &printer, int job, bool isResumed);
     void note(const QString &name, int job, const JobStatus &status);
     void waits(const QString &sentence);
     void goesOn(const QString &name);
+    std::optional<int> found(const BegunJob &begun, const QList<OwnJob> &jobs) const;
     bool isStopped() const;
     /// @return false: stopped
     bool pause();
@@ -82,6 +98,7 @@ private:
     PrintJob job_;
     News news_;
     PatientStop &stop_;
+    int lastJob_ = 0; ///< its number; 0: there was none
     bool isWaiting_ = false;
     std::chrono::milliseconds pause_ = {};
 };

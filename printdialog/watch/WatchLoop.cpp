@@ -114,20 +114,25 @@ void WatchLoop::resume(const FolderFile &file)
     if (!found)
         return;
     const PhotoRecord known = *found;
+    const bool isAsked = known.server == printServerAddress() || Destination(known.printer).isAddress();
+    const QString otherServer = tr("It was sent to another print server, %1.").arg(known.server);
     switch (known.state) {
     case State::Left:
         if (order_.printsExisting)
             record_->forget(file.identity);
         break;
     case State::Began:
-        finish(file, {End::Unclear, tr("The program was ended while it was being sent.")});
+        if (Destination(known.printer).isBuiltIn() || known.printer.isEmpty())
+            finish(file, {End::Unclear, tr("The program was ended while it was being sent.")});
+        else if (!isAsked)
+            finish(file, {End::Unclear, otherServer});
+        else
+            finish(file, printer_.resume(shownName(file), {known.printer, known.title, known.job, known.when},
+                                         [&](int job) { noteSent(file, known.printer, job); }));
         break;
     case State::Sent:
-        if (known.server == printServerAddress() || Destination(known.printer).isAddress())
-            finish(file, printer_.resume(shownName(file), known.printer, known.job));
-        else
-            finish(file, {End::Unclear, tr("It was sent to another print server, %1, as job %2.")
-                                            .arg(known.server, QString::number(known.job))});
+        finish(file, isAsked ? printer_.resume(shownName(file), known.printer, known.job)
+                             : PatientOutcome{End::Unclear, otherServer});
         break;
     case State::Printed:
         movePrinted(file);
@@ -165,20 +170,17 @@ PatientOutcome WatchLoop::printOne(const FolderFile &file)
     const QString shown = shownName(file);
     const PatientPrinter::Steps steps = {
         .begin =
-            [&] {
-                const auto failure = record_->add(file.identity, {.state = State::Began, .name = shown});
+            [&](const BegunJob &begun) {
+                const auto failure = record_->add(file.identity, {.state = State::Began,
+                                                                  .name = shown,
+                                                                  .job = begun.after,
+                                                                  .printer = begun.printer,
+                                                                  .server = printServerAddress(),
+                                                                  .title = begun.title});
                 return failure ? failure->text : QString();
             },
         .withdraw = [&] { record_->forget(file.identity); },
-        .sent =
-            [&](int job) {
-                if (const auto failure = record_->add(file.identity, {.state = State::Sent,
-                                                                      .name = shown,
-                                                                      .job = job,
-                                                                      .printer = order_.job.destination.id(),
-                                                                      .server = printServerAddress()}))
-                    complainOnce(failure->text);
-            },
+        .sent = [&](int job) { noteSent(file, order_.job.destination.id(), job); },
         .isThere =
             [&] {
                 const auto mark = busy(control_);
@@ -186,6 +188,16 @@ PatientOutcome WatchLoop::printOne(const FolderFile &file)
             },
     };
     return printer_.print(arranged.sheet(plan.sheets().constFirst()), steps);
+}
+
+void WatchLoop::noteSent(const FolderFile &file, const QString &printer, int job)
+{
+    if (const auto failure = record_->add(file.identity, {.state = State::Sent,
+                                                          .name = shownName(file),
+                                                          .job = job,
+                                                          .printer = printer,
+                                                          .server = printServerAddress()}))
+        complainOnce(failure->text);
 }
 
 QString WatchLoop::finish(const FolderFile &file, const PatientOutcome &outcome)

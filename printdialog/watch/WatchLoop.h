@@ -68,6 +68,7 @@ private:
     QString begin();
     void resume(const FolderFile &file);
     PatientOutcome printOne(const FolderFile &file);
+    void noteSent(const FolderFile &file, const QString &printer, int job);
     /// @return why it cannot go on, or an empty string
     QString finish(const FolderFile &file, const PatientOutcome &outcome);
     void unfit(const FolderFile &file, const QString &reason);

@@ -46,6 +46,7 @@ const QString onlyNameKey = QStringLiteral("onlyName"); // in place of the inode
 const QString jobKey = QStringLiteral("job");
 const QString printerKey = QStringLiteral("printer");
 const QString serverKey = QStringLiteral("server");
+const QString titleKey = QStringLiteral("title");
 const QString reasonKey = QStringLiteral("reason");
 const QString whenKey = QStringLiteral("when");
 
@@ -83,8 +84,10 @@ QByteArray lineOf(const PhotoIdentity &photo, QLatin1String state, const PhotoRe
         object.insert(onlyNameKey, QString::fromLatin1(photo.name.toPercentEncoding()));
     if (record.job != 0)
         object.insert(jobKey, record.job);
-    for (const auto &[key, text] :
-         {std::pair(printerKey, record.printer), {serverKey, record.server}, {reasonKey, record.reason}}) {
+    for (const auto &[key, text] : {std::pair(printerKey, record.printer),
+                                    {serverKey, record.server},
+                                    {titleKey, record.title},
+                                    {reasonKey, record.reason}}) {
         if (!text.isEmpty())
             object.insert(key, text);
     }
@@ -167,10 +170,10 @@ void WatchRecord::read(const QByteArray &content)
         if (state == forgottenName)
             photos_.remove(photo);
         else if (known != stateNames.end())
-            photos_.insert(photo,
-                           {known->first, object.value(nameKey).toString(), object.value(jobKey).toInt(),
-                            object.value(printerKey).toString(), object.value(serverKey).toString(),
-                            object.value(reasonKey).toString(), object.value(whenKey).toInteger()});
+            photos_.insert(photo, {known->first, object.value(nameKey).toString(),
+                                   object.value(jobKey).toInt(), object.value(printerKey).toString(),
+                                   object.value(serverKey).toString(), object.value(titleKey).toString(),
+                                   object.value(reasonKey).toString(), object.value(whenKey).toInteger()});
     }
 }
 

@@ -34,10 +34,12 @@ struct PhotoRecord
     };
 
     State state = State::Left;
-    QString name = {};    ///< the file's, for people
-    int job = 0;          ///< with Sent and Printed; 0 from the built-in printer
-    QString printer = {}; ///< with Sent: its Destination::id()
-    QString server = {};  ///< with Sent: the print server's name or address
+    QString name = {}; ///< the file's, for people
+    /// With Sent and Printed; 0 from the built-in printer. With Began: that of an earlier job, or 0.
+    int job = 0;
+    QString printer = {}; ///< with Began and Sent: its Destination::id()
+    QString server = {};  ///< with Began and Sent: the print server's name or address
+    QString title = {};   ///< with Began: the job's
     QString reason = {};  ///< with Aside: why, a sentence for people
     qint64 when = 0;      ///< in seconds since 1970; set by WatchRecord
 };

@@ -3177,6 +3177,14 @@ und das Programm merkt sie sich</translation>
         <source>Printing %1 continues.</source>
         <translation>Der Druck von %1 geht weiter.</translation>
     </message>
+    <message>
+        <source>It was being sent, and the print server has no job that must be its.</source>
+        <translation>Es wurde gerade gesendet, und der Druckserver hat keinen Auftrag, der seiner sein muss.</translation>
+    </message>
+    <message>
+        <source>%1 waits. It was being sent, and only the print server knows whether it is printed: %2</source>
+        <translation>%1 wartet. Es wurde gerade gesendet, und nur der Druckserver weiß, ob es gedruckt wird: %2</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::PdfWriter</name>
@@ -4189,10 +4197,6 @@ und das Programm merkt sie sich</translation>
         <translation>Das Programm wurde beendet, während es gesendet wurde.</translation>
     </message>
     <message>
-        <source>It was sent to another print server, %1, as job %2.</source>
-        <translation>Es wurde an einen anderen Druckserver gesendet, %1, als Auftrag %2.</translation>
-    </message>
-    <message>
         <source>It is unclear whether &quot;%1&quot; was printed. %2 It is not printed again by itself; if it has to be, set its time (&quot;touch&quot;) or copy it into the folder again.</source>
         <translation>Es ist unklar, ob „%1“ gedruckt wurde. %2 Es wird nicht von selbst noch einmal gedruckt; wenn es nötig ist, setzen Sie seine Zeit („touch“) oder kopieren Sie es noch einmal in den Ordner.</translation>
     </message>
@@ -4207,6 +4211,10 @@ und das Programm merkt sie sich</translation>
     <message>
         <source>Printed photos stay in the folder, because they cannot be moved. %1</source>
         <translation>Gedruckte Fotos bleiben im Ordner, weil sie nicht verschoben werden können. %1</translation>
+    </message>
+    <message>
+        <source>It was sent to another print server, %1.</source>
+        <translation>Es wurde an einen anderen Druckserver gesendet, %1.</translation>
     </message>
 </context>
 <context>

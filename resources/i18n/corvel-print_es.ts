@@ -3176,6 +3176,14 @@ están y el programa las recuerda</translation>
         <source>Printing %1 continues.</source>
         <translation>Continúa la impresión de %1.</translation>
     </message>
+    <message>
+        <source>It was being sent, and the print server has no job that must be its.</source>
+        <translation>Se estaba enviando, y el servidor de impresión no tiene ningún trabajo que deba ser el suyo.</translation>
+    </message>
+    <message>
+        <source>%1 waits. It was being sent, and only the print server knows whether it is printed: %2</source>
+        <translation>%1 espera. Se estaba enviando, y solo el servidor de impresión sabe si se imprime: %2</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::PdfWriter</name>
@@ -4188,10 +4196,6 @@ están y el programa las recuerda</translation>
         <translation>El programa terminó mientras se enviaba.</translation>
     </message>
     <message>
-        <source>It was sent to another print server, %1, as job %2.</source>
-        <translation>Se envió a otro servidor de impresión, %1, como trabajo %2.</translation>
-    </message>
-    <message>
         <source>It is unclear whether &quot;%1&quot; was printed. %2 It is not printed again by itself; if it has to be, set its time (&quot;touch&quot;) or copy it into the folder again.</source>
         <translation>No está claro si «%1» se imprimió. %2 No se vuelve a imprimir por sí sola; si hace falta, cambie su fecha («touch») o cópiela otra vez en la carpeta.</translation>
     </message>
@@ -4206,6 +4210,10 @@ están y el programa las recuerda</translation>
     <message>
         <source>Printed photos stay in the folder, because they cannot be moved. %1</source>
         <translation>Las fotos impresas se quedan en la carpeta porque no se pueden mover. %1</translation>
+    </message>
+    <message>
+        <source>It was sent to another print server, %1.</source>
+        <translation>Se envió a otro servidor de impresión, %1.</translation>
     </message>
 </context>
 <context>

@@ -3177,6 +3177,14 @@ elles sont, et le programme les retient</translation>
         <source>Printing %1 continues.</source>
         <translation>L’impression de %1 continue.</translation>
     </message>
+    <message>
+        <source>It was being sent, and the print server has no job that must be its.</source>
+        <translation>Elle était en cours d’envoi, et aucune tâche du serveur d’impression n’est forcément la sienne.</translation>
+    </message>
+    <message>
+        <source>%1 waits. It was being sent, and only the print server knows whether it is printed: %2</source>
+        <translation>%1 attend. L’envoi était en cours, et seul le serveur d’impression sait si l’impression a lieu&#x202f;: %2</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::PdfWriter</name>
@@ -4189,10 +4197,6 @@ elles sont, et le programme les retient</translation>
         <translation>Le programme a été arrêté pendant son envoi.</translation>
     </message>
     <message>
-        <source>It was sent to another print server, %1, as job %2.</source>
-        <translation>Elle a été envoyée à un autre serveur d’impression, %1, comme tâche %2.</translation>
-    </message>
-    <message>
         <source>It is unclear whether &quot;%1&quot; was printed. %2 It is not printed again by itself; if it has to be, set its time (&quot;touch&quot;) or copy it into the folder again.</source>
         <translation>Il n’est pas certain que «&#x202f;%1&#x202f;» ait été imprimée. %2 Elle n’est pas réimprimée d’elle-même&#x202f;; s’il le faut, changez sa date («&#x202f;touch&#x202f;») ou copiez-la de nouveau dans le dossier.</translation>
     </message>
@@ -4207,6 +4211,10 @@ elles sont, et le programme les retient</translation>
     <message>
         <source>Printed photos stay in the folder, because they cannot be moved. %1</source>
         <translation>Les photos imprimées restent dans le dossier, car elles ne peuvent pas être déplacées. %1</translation>
+    </message>
+    <message>
+        <source>It was sent to another print server, %1.</source>
+        <translation>Elle a été envoyée à un autre serveur d’impression, %1.</translation>
     </message>
 </context>
 <context>

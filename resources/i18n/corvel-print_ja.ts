@@ -3172,6 +3172,14 @@ where they are, and the program remembers them</source>
         <source>Printing %1 continues.</source>
         <translation>%1 の印刷を続けます。</translation>
     </message>
+    <message>
+        <source>It was being sent, and the print server has no job that must be its.</source>
+        <translation>送信中でしたが、プリントサーバーにはこの写真のものと言えるジョブがありません。</translation>
+    </message>
+    <message>
+        <source>%1 waits. It was being sent, and only the print server knows whether it is printed: %2</source>
+        <translation>%1 は待っています。送信中だったため、印刷されたかどうかはプリントサーバーにしか分かりません: %2</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::PdfWriter</name>
@@ -4181,10 +4189,6 @@ where they are, and the program remembers them</source>
         <translation>送信中にプログラムが終了しました。</translation>
     </message>
     <message>
-        <source>It was sent to another print server, %1, as job %2.</source>
-        <translation>別のプリントサーバー %1 にジョブ %2 として送信されました。</translation>
-    </message>
-    <message>
         <source>It is unclear whether &quot;%1&quot; was printed. %2 It is not printed again by itself; if it has to be, set its time (&quot;touch&quot;) or copy it into the folder again.</source>
         <translation>「%1」が印刷されたかどうか分かりません。%2 自動では再印刷しません。必要であれば、更新日時を変える (「touch」) か、もう一度フォルダーにコピーしてください。</translation>
     </message>
@@ -4199,6 +4203,10 @@ where they are, and the program remembers them</source>
     <message>
         <source>Printed photos stay in the folder, because they cannot be moved. %1</source>
         <translation>印刷済みの写真を移せないため、フォルダーに残します。%1</translation>
+    </message>
+    <message>
+        <source>It was sent to another print server, %1.</source>
+        <translation>別のプリントサーバー %1 に送信されました。</translation>
     </message>
 </context>
 <context>

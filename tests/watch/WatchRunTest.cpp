@@ -3,6 +3,7 @@
 
 #include "PrivateCupsd.h"
 #include "ProgramRun.h"
+#include "Rows.h"
 #include "TestMain.h"
 
 #include <QtCore/QDir>
@@ -96,6 +97,38 @@ private Q_SLOTS:
         QTRY_VERIFY(QFile::exists(place_.filePath(u"new/unprintable/1.jpg"_s)));
         QCOMPARE(jobsOf(u"1.jpg"_s), 0);
         end(*program);
+    }
+
+    // Killed between the server's answer and the record of it.
+    void findsTheJobThatWasBegun_data()
+    {
+        const auto add = rows<bool, QByteArray>();
+        add("the server has it", true, QByteArray("Printed 1.jpg"));
+        add("the server has forgotten it", false, QByteArray("unclear whether \"1.jpg\" was printed"));
+    }
+
+    void findsTheJobThatWasBegun()
+    {
+        const auto [isKept, words] = row<bool, QByteArray>();
+        QVERIFY(cupsd_.run(u"cupsdisable"_s, {u"photo"_s}));
+        auto program = start();
+        QTRY_COMPARE(starts(), 1);
+        QVERIFY(arrive(u"1.jpg"_s));
+        QTRY_VERIFY(contentOf(place_.filePath(u"err"_s)).contains("waits"));
+        program->kill();
+        QVERIFY(program->waitForFinished());
+        QByteArray content = contentOf(record());
+        content.truncate(content.lastIndexOf('{'));
+        QVERIFY(content.contains("\"began\"") && !content.contains("\"sent\"") && store(record(), content));
+        if (!isKept)
+            QVERIFY(cupsd_.run(u"cancel"_s, {u"-a"_s, u"-x"_s}));
+        QVERIFY(cupsd_.run(u"cupsenable"_s, {u"photo"_s}));
+        program = start();
+        QTRY_VERIFY(
+            (contentOf(place_.filePath(u"out"_s)) + contentOf(place_.filePath(u"err"_s))).contains(words));
+        end(*program);
+        QCOMPARE(jobsOf(u"1.jpg"_s), isKept ? 1 : 0);
+        QCOMPARE(QFile::exists(place_.filePath(u"done/1.jpg"_s)), isKept);
     }
 
     // Each photo is printed exactly once, or it is reported that this is unclear, and none is lost.
@@ -197,13 +230,17 @@ private:
                (!std::exchange(isMoved_, !isMoved_) || QFile::rename(place_.filePath(name), path));
     }
 
+    QString record() const
+    {
+        const QDir records(place_.filePath(u"state/corvel-print/watch"_s));
+        return records.filePath(records.entryList({u"*.jsonl"_s}).value(0));
+    }
+
     /// Waits until that many lines more are in the record, or for a second.
     void awaitRecord(int lines)
     {
-        const QString records = place_.filePath(u"state/corvel-print/watch"_s);
-        const auto count = [&records] {
-            const QStringList files = QDir(records).entryList({u"*.jsonl"_s});
-            return files.isEmpty() ? 0 : contentOf(records + u'/' + files.constFirst()).count('\n');
+        const auto count = [this] {
+            return contentOf(record()).count('\n');
         };
         QElapsedTimer timer;
         timer.start();
