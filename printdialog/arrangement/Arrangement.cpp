@@ -7,6 +7,7 @@
 
 #include <QtCore/QFileInfo>
 #include <QtCore/QLocale>
+#include <QtCore/QSet>
 
 namespace printdialog {
 
@@ -32,8 +33,10 @@ PrintSheet Arrangement::sheet(const LaidSheet &laid) const
             sheet.photos.last().caption = captionOf(placed.photo, layout.caption);
     }
     sheet.name = sheet.photos.constFirst().photo.fileName();
-    const qsizetype others = std::ranges::count_if(
-        laid.photos, [&laid](const LaidPhoto &photo) { return photo.item != laid.photos.constFirst().item; });
+    QSet<qsizetype> items;
+    for (const LaidPhoto &photo : laid.photos)
+        items.insert(photo.item);
+    const qsizetype others = items.size() - 1;
     if (others > 0)
         sheet.name = tr("%1 and %2 more", "the name of a sheet with several photos")
                          .arg(sheet.name, QString::number(others));
