@@ -1,0 +1,313 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "ArrangementModel.h"
+
+#include <QtCore/QCollator>
+#include <QtCore/QLocale>
+
+#include <algorithm>
+#include <numeric>
+#include <utility>
+
+namespace printdialog {
+
+namespace {
+
+bool isSame(const PlacedPhoto &one, const PlacedPhoto &other)
+{
+    return one.photo.path() == other.photo.path() && one.placement == other.placement &&
+           one.copies == other.copies;
+}
+
+QList<int> allIndexes(int count)
+{
+    QList<int> indexes(count);
+    std::iota(indexes.begin(), indexes.end(), 0);
+    return indexes;
+}
+
+} // namespace
+
+const PlacedPhoto *ArrangementModel::currentPhoto() const
+{
+    return state_.current < 0 ? nullptr : &photos().at(state_.current);
+}
+
+void ArrangementModel::start(const Arrangement &arrangement)
+{
+    opened_ = arrangement.photos;
+    state_ = {arrangement, {}, -1, opened_.size()};
+    selectSome();
+    kept_ = arrangement;
+    givenPlaces_.clear();
+    notePlaces(0);
+    Q_EMIT photosChanged();
+}
+
+void ArrangementModel::append(const QList<Photo> &photos, const PlacementChoice &placement)
+{
+    const int first = count();
+    for (const Photo &photo : photos)
+        opened_.append({photo, placement});
+    appendOpened();
+    kept_.photos += opened_.last(photos.size());
+    notePlaces(first);
+    Q_EMIT photosChanged();
+}
+
+void ArrangementModel::restore(const State &state)
+{
+    state_ = state;
+    appendOpened();
+    Q_EMIT photosChanged();
+}
+
+void ArrangementModel::appendOpened()
+{
+    state_.arrangement.photos += opened_.sliced(state_.opened);
+    state_.opened = opened_.size();
+    selectSome();
+}
+
+/// There is a current photo as long as there are photos.
+void ArrangementModel::selectSome()
+{
+    if (state_.current < 0 && count() > 0) {
+        state_.current = 0;
+        state_.selection = {0};
+    }
+}
+
+// One pass beside the kept arrangement; a photo that only went away is no loss.
+bool ArrangementModel::hasUnkeptWork() const
+{
+    const QList<PlacedPhoto> &kept = kept_.photos;
+    if (count() < 2)
+        return false;
+    if (arrangement().layout != kept_.layout)
+        return true;
+    if (std::ranges::equal(photos(), kept, isSame))
+        return false;
+    QHash<QString, qsizetype> places;
+    for (qsizetype i = 0; i < kept.size(); ++i)
+        places.insert(kept.at(i).photo.path(), i);
+    int added = 0;
+    qsizetype last = -1;
+    for (const PlacedPhoto &placed : photos()) {
+        const qsizetype place = places.value(placed.photo.path(), -1);
+        if (place < 0) {
+            if (++added > 1)
+                return true;
+        } else if (place < last || !isSame(placed, kept.at(place))) {
+            return true;
+        } else {
+            last = place;
+        }
+    }
+    return false;
+}
+
+void ArrangementModel::select(const QList<int> &indexes, int current)
+{
+    QList<int> sorted = indexes;
+    std::ranges::sort(sorted);
+    if (sorted == state_.selection && current == state_.current)
+        return;
+    state_.selection = sorted;
+    state_.current = current;
+    Q_EMIT selectionChanged();
+}
+
+void ArrangementModel::selectAll()
+{
+    if (count() > 0)
+        select(allIndexes(count()), state_.current);
+}
+
+void ArrangementModel::add(const QList<Photo> &photos, const PlacementChoice &placement, bool isFirst)
+{
+    if (photos.isEmpty())
+        return;
+    const State before = state_;
+    PlacedPhoto placed;
+    placed.placement = currentPhoto() ? currentPhoto()->placement : placement;
+    placed.placement.turns = 0;
+    placed.placement.crop = PlacementChoice().crop;
+    const int first = count();
+    for (const Photo &photo : photos) {
+        placed.photo = photo;
+        state_.arrangement.photos.append(placed);
+    }
+    notePlaces(first);
+    if (isFirst || state_.current < 0) {
+        state_.selection = {first};
+        state_.current = first;
+    }
+    Q_EMIT changed(before);
+    Q_EMIT photosChanged();
+}
+
+void ArrangementModel::remove(const QList<int> &indexes)
+{
+    if (indexes.isEmpty())
+        return;
+    const State before = state_;
+    QList<PlacedPhoto> left;
+    left.reserve(count());
+    for (int i = 0; i < count(); ++i) {
+        if (!std::ranges::binary_search(indexes, i))
+            left.append(photos().at(i));
+    }
+    int next = indexes.constFirst();                          // the first photo behind those that go
+    if (!std::ranges::binary_search(indexes, before.current)) // it stays
+        next = before.current -
+               static_cast<int>(std::ranges::lower_bound(indexes, before.current) - indexes.begin());
+    state_.arrangement.photos = left;
+    state_.current = std::min(next, count() - 1);
+    state_.selection = state_.current < 0 ? QList<int>() : QList<int>{state_.current};
+    Q_EMIT changed(before);
+    Q_EMIT photosChanged();
+}
+
+void ArrangementModel::moveSelected(int before)
+{
+    QList<int> order;
+    order.reserve(count());
+    const auto take = [this, &order](int from, int to, bool areSelected) {
+        for (int i = from; i < to; ++i) {
+            if (std::ranges::binary_search(state_.selection, i) == areSelected)
+                order.append(i);
+        }
+    };
+    take(0, before, false);
+    take(0, count(), true);
+    take(before, count(), false);
+    reorder(order);
+}
+
+void ArrangementModel::stepSelected(int direction)
+{
+    QList<int> order = allIndexes(count());
+    const auto isSelected = [this, &order](int place) {
+        return std::ranges::binary_search(state_.selection, order.at(place));
+    };
+    // The photo in front makes room first; those at the very end stay.
+    const int last = count() - 1;
+    for (int i = 1; i <= last; ++i) {
+        const int place = direction < 0 ? i : last - i;
+        if (isSelected(place) && !isSelected(place + direction))
+            order.swapItemsAt(place, place + direction);
+    }
+    reorder(order);
+}
+
+void ArrangementModel::sort(Order order)
+{
+    QList<int> indexes = allIndexes(count());
+    if (order == Order::Name) {
+        // The C locale knows no numbers.
+        QCollator collator(QLocale().language() == QLocale::C ? QLocale(QLocale::English) : QLocale());
+        collator.setNumericMode(true);
+        collator.setCaseSensitivity(Qt::CaseInsensitive);
+        QList<QString> names;
+        for (const PlacedPhoto &placed : photos())
+            names += placed.photo.fileName();
+        std::ranges::stable_sort(indexes, [&](int one, int other) {
+            return collator.compare(names.at(one), names.at(other)) < 0;
+        });
+    } else if (order == Order::Date) {
+        // What has no date of its own comes by the date of its file.
+        std::ranges::stable_sort(indexes, {}, [this](int i) {
+            const Photo &photo = photos().at(i).photo;
+            return photo.taken().value_or(photo.modified());
+        });
+    } else {
+        std::ranges::stable_sort(indexes, {},
+                                 [this](int i) { return givenPlaces_.value(photos().at(i).photo.path()); });
+    }
+    reorder(indexes);
+}
+
+/// Puts the photos into the order of their present indexes; the same ones stay selected.
+void ArrangementModel::reorder(const QList<int> &order)
+{
+    if (std::ranges::is_sorted(order))
+        return;
+    const State before = state_;
+    state_.selection.clear();
+    for (int i = 0; i < count(); ++i) {
+        const int from = order.at(i);
+        state_.arrangement.photos[i] = before.arrangement.photos.at(from);
+        if (std::ranges::binary_search(before.selection, from))
+            state_.selection.append(i);
+        if (from == before.current)
+            state_.current = i;
+    }
+    Q_EMIT changed(before);
+    Q_EMIT photosChanged();
+}
+
+void ArrangementModel::change(const QList<int> &indexes, const Edit &edit)
+{
+    const State before = state_;
+    bool isChanged = false;
+    for (const int index : indexes) {
+        PlacedPhoto placed = photos().at(index);
+        edit(placed);
+        if (isSame(placed, photos().at(index)))
+            continue;
+        state_.arrangement.photos[index] = placed;
+        isChanged = true;
+    }
+    if (!isChanged)
+        return;
+    Q_EMIT changed(before);
+    Q_EMIT placementChanged();
+}
+
+void ArrangementModel::editCurrent(const Edit &edit)
+{
+    if (state_.current >= 0)
+        change({state_.current}, edit);
+}
+
+void ArrangementModel::applyToAll()
+{
+    if (!currentPhoto())
+        return;
+    const PlacedPhoto like = *currentPhoto();
+    change(allIndexes(count()), [&like](PlacedPhoto &placed) {
+        const QPointF crop = placed.placement.crop;
+        placed.placement = like.placement;
+        placed.placement.crop = crop;
+        placed.copies = like.copies;
+    });
+}
+
+void ArrangementModel::setLayout(const SheetLayout &layout)
+{
+    if (layout == state_.arrangement.layout)
+        return;
+    const State before = state_;
+    state_.arrangement.layout = layout;
+    Q_EMIT changed(before);
+    Q_EMIT placementChanged();
+}
+
+void ArrangementModel::accept(const QList<int> &indexes)
+{
+    for (const int index : indexes)
+        state_.arrangement.photos[index].isAccepted = true;
+}
+
+void ArrangementModel::notePlaces(qsizetype from)
+{
+    for (qsizetype i = from; i < photos().size(); ++i) {
+        const QString path = photos().at(i).photo.path();
+        if (!givenPlaces_.contains(path))
+            givenPlaces_.insert(path, static_cast<int>(givenPlaces_.size()));
+    }
+}
+
+} // namespace printdialog

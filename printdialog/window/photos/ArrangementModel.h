@@ -1,0 +1,114 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include "Arrangement.h"
+
+#include <QtCore/QHash>
+#include <QtCore/QList>
+#include <QtCore/QObject>
+
+#include <functional>
+
+namespace printdialog {
+
+/// What is to be printed from the window, and which of its photos are selected. The only owner of both. It
+/// does what the user wants done with the selected photos, and reports each change with the state before it,
+/// so that the change can be taken back.
+class ArrangementModel : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// A value; copies share the photos.
+    struct State
+    {
+        Arrangement arrangement = {};
+        QList<int> selection = {}; ///< Indexes, ascending; with the current one.
+        int current = -1;          ///< The photo that is shown; -1 without photos.
+        qsizetype opened = 0;      ///< How many photos had been there from the beginning by then.
+    };
+
+    enum class Order {
+        Name,  ///< "2.jpg" before "10.jpg".
+        Date,  ///< The oldest first.
+        Given, ///< As the files were added.
+    };
+
+    /// Changes one photo's placement or copies.
+    using Edit = std::function<void(PlacedPhoto &)>;
+
+    using QObject::QObject;
+
+    const State &state() const { return state_; }
+    const Arrangement &arrangement() const { return state_.arrangement; }
+    const QList<PlacedPhoto> &photos() const { return state_.arrangement.photos; }
+    int count() const { return static_cast<int>(photos().size()); }
+    int current() const { return state_.current; }
+    const QList<int> &selection() const { return state_.selection; }
+    /// Null without photos. Valid until the next change.
+    const PlacedPhoto *currentPhoto() const;
+
+    /// Begins with the arrangement, its first photo selected.
+    void start(const Arrangement &arrangement);
+    /// Appends photos that the arrangement should have begun with, had they been opened by then.
+    void append(const QList<Photo> &photos, const PlacementChoice &placement);
+    /// Returns to a state that was reported, or that a change led to; what was opened since is appended.
+    void restore(const State &state);
+    /// Whether the user would lose work with the arrangement: several photos whose order, placements or
+    /// copies were changed, or that were added, since it began or was kept.
+    bool hasUnkeptWork() const;
+    /// The arrangement is printed or saved.
+    void keep(const Arrangement &arrangement) { kept_ = arrangement; }
+
+    /// Selects these photos; `current` is among them unless they are none.
+    void select(const QList<int> &indexes, int current);
+    void setCurrent(int index) { select({index}, index); }
+    void selectAll();
+
+    // Each of the following is one change, or none when everything is as wanted already.
+
+    /// Appends the photos, placed like the current one, or like `placement` when there is none. Unless more
+    /// are added to others, the first of them is then the current one.
+    void add(const QList<Photo> &photos, const PlacementChoice &placement, bool isFirst = true);
+    void remove(const QList<int> &indexes);
+    void removeSelected() { remove(state_.selection); }
+    /// Moves the selected photos before the one with this index, or to the end; their order stays.
+    void moveSelected(int before);
+    /// Moves each selected photo one place toward the beginning (-1) or the end (1).
+    void stepSelected(int direction);
+    void sort(Order order);
+    void editSelected(const Edit &edit) { change(state_.selection, edit); }
+    void editCurrent(const Edit &edit);
+    /// Gives all photos the placement and the copies of the current one; each keeps its own crop.
+    void applyToAll();
+    void setLayout(const SheetLayout &layout);
+
+    /// Accepts that these photos are printed even though they are damaged. Nothing that is taken back.
+    void accept(const QList<int> &indexes);
+
+Q_SIGNALS:
+    /// A change was made that can be taken back.
+    void changed(const printdialog::ArrangementModel::State &before);
+    /// Photos were added, removed or moved; the selection may be another one as well.
+    void photosChanged();
+    /// Others are selected, or another one is current.
+    void selectionChanged();
+    /// Placements or copies of photos, or the layout, are others.
+    void placementChanged();
+
+private:
+    void change(const QList<int> &indexes, const Edit &edit);
+    void reorder(const QList<int> &order);
+    void appendOpened();
+    void selectSome();
+    void notePlaces(qsizetype from);
+
+    State state_;
+    QList<PlacedPhoto> opened_; ///< Those from the beginning, as they were then.
+    Arrangement kept_;
+    QHash<QString, int> givenPlaces_; ///< By path, in the order in which the files were added.
+};
+
+} // namespace printdialog
