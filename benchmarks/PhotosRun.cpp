@@ -4,7 +4,7 @@
 #include "PhotosRun.h"
 
 #include "PhotoPane.h"
-#include "PhotoStrip.h"
+#include "PhotoTable.h"
 #include "PreviewWidget.h"
 #include "PrintDialog.h"
 
@@ -47,7 +47,7 @@ public:
         : QObject(dialog)
         , pane_(dialog->findChild<PhotoPane *>())
         , preview_(dialog->findChild<PreviewWidget *>())
-        , strip_(dialog->findChild<PhotoStrip *>())
+        , table_(dialog->findChild<PhotoTable *>())
     {
         dialog->installEventFilter(this);
         timer_.setTimerType(Qt::PreciseTimer);
@@ -69,7 +69,7 @@ private:
         if (usable_ > 0)
             held_ = std::max(held_, static_cast<double>(turn_.nsecsElapsed()) / 1e6);
         turn_.start();
-        QScrollBar *bar = strip_->horizontalScrollBar();
+        QScrollBar *bar = table_->verticalScrollBar();
         if (painted_ > 0 && usable_ == 0.0 && preview_->isReady() && bar->maximum() > 0)
             usable_ = now();
         if (usable_ > 0 && opened_ == 0.0 && !pane_->isOpening())
@@ -85,7 +85,7 @@ private:
 
     PhotoPane *pane_;
     PreviewWidget *preview_;
-    PhotoStrip *strip_;
+    PhotoTable *table_;
     QTimer timer_;
     QElapsedTimer turn_;
     double painted_ = 0.0;

@@ -61,9 +61,9 @@ PrintDialog::PrintDialog(const PrintDialogSetup &setup, QWidget *parent)
                                     std::pair(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Tab), -1)})
         connect(new QShortcut(key, this), &QShortcut::activated, ui_->panels,
                 [this, pages = step] { ui_->panels->turnPages(pages); });
-    choices_ = new ChoiceController(
-        {this, ui_->panels, ui_->pageSize, ui_->copies, ui_->presetBar, ui_->undo, ui_->redo, ui_->message},
-        this);
+    choices_ = new ChoiceController({this, ui_->panels, ui_->pageSize, ui_->copies, ui_->photos->model(),
+                                     ui_->presetBar, ui_->undo, ui_->redo, ui_->message},
+                                    this);
     picture_ = new PictureController(ui_->photos, this);
     printing_ = new PrintingController({ui_->photos, ui_->progress, ui_->message}, choices_, this);
     connect(printing_, &PrintingController::stateChanged, this, &PrintDialog::updateButtons);
@@ -80,6 +80,11 @@ PrintDialog::PrintDialog(const PrintDialogSetup &setup, QWidget *parent)
     connect(ui_->customPage, &CustomPageFields::sizeTyped, this, &PrintDialog::chooseTypedSize);
     connect(ui_->customPage, &CustomPageFields::refused, choices_, &ChoiceController::refuse);
     for (QLineEdit *field : ui_->customPage->fields())
+        choices_->watchField(field);
+    connect(ui_->photos, &PhotoPane::actBegins, choices_, &ChoiceController::beginAct);
+    connect(ui_->photos, &PhotoPane::acted, choices_, &ChoiceController::noteAct);
+    connect(ui_->photos, &PhotoPane::refused, choices_, &ChoiceController::refuse);
+    for (QWidget *field : ui_->photos->fields())
         choices_->watchField(field);
     connect(ui_->documents, &QComboBox::currentIndexChanged, this, [this] { showFolder(true); });
     connect(ui_->browse, &QPushButton::clicked, this, &PrintDialog::browseFolder);
@@ -103,6 +108,7 @@ PrintDialog::PrintDialog(const PrintDialogSetup &setup, QWidget *parent)
     connect(ui_->photos, &PhotoPane::placementChanged, ui_->panels, &PanelTabs::updateSummary);
     connect(ui_->photos, &PhotoPane::photosChanged, ui_->panels, &PanelTabs::updateSummary);
     connect(ui_->photos, &PhotoPane::photosChanged, this, &PrintDialog::showPhoto);
+    connect(ui_->photos, &PhotoPane::planChanged, this, &PrintDialog::updateButtons);
     connect(ui_->photos, &PhotoPane::failed, this,
             [this](PhotoOpener::Use use, const QStringList &sentences) {
                 const bool isInitial = use == PhotoOpener::Use::Initial;

@@ -20,6 +20,8 @@ void PrintDialog::updateButtons()
         reason = tr("Photos are still being opened.");
     if (reason.isEmpty() && ui_->photos->photos().isEmpty())
         reason = tr("There is no photo to print.");
+    if (reason.isEmpty())
+        reason = ui_->photos->whyNotPrintable();
     if (reason.isEmpty() && printing_->isBusy())
         reason = tr("Printing is under way.");
     ui_->print->setEnabled(reason.isEmpty());
@@ -34,7 +36,8 @@ void PrintDialog::updateButtons()
 void PrintDialog::print()
 {
     if (!isReady() || printing_->isBusy() || ui_->photos->isOpening() || ui_->photos->photos().isEmpty() ||
-        pageStays() || !ui_->customPage->finish())
+        pageStays() || !ui_->customPage->finish() || !ui_->photos->finishTyping() ||
+        !ui_->photos->whyNotPrintable().isEmpty())
         return;
     if (!printing_->print(ui_->copies->value(), outputFolder(), printer_->queue()))
         return;

@@ -511,6 +511,13 @@ und das Programm merkt sie sich</translation>
     </message>
 </context>
 <context>
+    <name>CommonValue</name>
+    <message>
+        <source>Several</source>
+        <translation>Verschiedene</translation>
+    </message>
+</context>
+<context>
     <name>Console</name>
     <message>
         <source>Standard output could not be written to: %1. Send it to another place.</source>
@@ -2971,6 +2978,85 @@ und das Programm merkt sie sich</translation>
     </message>
 </context>
 <context>
+    <name>printdialog::LayoutBar</name>
+    <message>
+        <source>Repeat each photo</source>
+        <translation>Jedes Foto wiederholen</translation>
+    </message>
+    <message>
+        <source>Cut marks</source>
+        <translation>Schnittmarken</translation>
+    </message>
+    <message>
+        <source>One photo per sheet</source>
+        <translation>Ein Foto pro Blatt</translation>
+    </message>
+    <message>
+        <source>Rows and columns</source>
+        <translation>Zeilen und Spalten</translation>
+    </message>
+    <message>
+        <source>As many as fit</source>
+        <translation>So viele wie passen</translation>
+    </message>
+    <message>
+        <source>Contact sheet</source>
+        <translation>Kontaktabzug</translation>
+    </message>
+    <message>
+        <source>Two strips</source>
+        <translation>Zwei Streifen</translation>
+    </message>
+    <message>
+        <source>Columns</source>
+        <translation>Spalten</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <comment>a caption</comment>
+        <translation>Keine</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <comment>a caption</comment>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <comment>a caption</comment>
+        <translation>Datum</translation>
+    </message>
+    <message>
+        <source>Name and date</source>
+        <comment>a caption</comment>
+        <translation>Name und Datum</translation>
+    </message>
+    <message>
+        <source>A photo fills its sheet, or the second strip repeats the first, instead of the next ones following</source>
+        <translation>Ein Foto füllt sein Blatt, oder der zweite Streifen wiederholt den ersten, statt dass die nächsten folgen</translation>
+    </message>
+    <message>
+        <source>Layout:</source>
+        <translation>Aufteilung:</translation>
+    </message>
+    <message>
+        <source>Rows × columns:</source>
+        <translation>Zeilen × Spalten:</translation>
+    </message>
+    <message>
+        <source>Photos per strip:</source>
+        <translation>Fotos pro Streifen:</translation>
+    </message>
+    <message>
+        <source>Captions:</source>
+        <translation>Beschriftung:</translation>
+    </message>
+    <message>
+        <source>Gap:</source>
+        <translation>Abstand:</translation>
+    </message>
+</context>
+<context>
     <name>printdialog::MessageBar</name>
     <message>
         <source>Open Folder</source>
@@ -2979,6 +3065,13 @@ und das Programm merkt sie sich</translation>
     <message>
         <source>Details</source>
         <translation>Details</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::MixedSpinBox</name>
+    <message>
+        <source>several</source>
+        <translation>mehrere</translation>
     </message>
 </context>
 <context>
@@ -3297,10 +3390,6 @@ und das Programm merkt sie sich</translation>
         <translation>Fotos zu diesem Auftrag hinzufügen; sie lassen sich auch auf das Fenster ziehen</translation>
     </message>
     <message>
-        <source>Take the photo that is shown out of this job; its file stays</source>
-        <translation>Das gezeigte Foto aus diesem Auftrag nehmen; seine Datei bleibt</translation>
-    </message>
-    <message>
         <source>Add Photos</source>
         <translation>Fotos hinzufügen</translation>
     </message>
@@ -3323,16 +3412,68 @@ und das Programm merkt sie sich</translation>
             <numerusform>%n weitere Dateien lassen sich nicht drucken.</numerusform>
         </translation>
     </message>
-</context>
-<context>
-    <name>printdialog::PhotoStrip</name>
     <message>
-        <source>Delete removes a photo; Alt with an arrow key moves it.</source>
-        <translation>Entf nimmt ein Foto heraus; Alt mit einer Pfeiltaste verschiebt es.</translation>
+        <source>Sheets: %1</source>
+        <translation>Blätter: %1</translation>
     </message>
     <message>
-        <source>%1, photo %2 of %3</source>
-        <translation>%1, Foto %2 von %3</translation>
+        <source>Height of the table of photos</source>
+        <translation>Höhe der Fototabelle</translation>
+    </message>
+    <message>
+        <source>Drag to see more or fewer photos</source>
+        <translation>Ziehen, um mehr oder weniger Fotos zu sehen</translation>
+    </message>
+    <message>
+        <source>Take the selected photos out of this job; their files stay</source>
+        <translation>Die ausgewählten Fotos aus diesem Auftrag nehmen; ihre Dateien bleiben</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Entfernen</translation>
+    </message>
+    <message>
+        <source>Turn</source>
+        <translation>Drehen</translation>
+    </message>
+    <message>
+        <source>Copies…</source>
+        <comment>of the selected photos</comment>
+        <translation>Kopien …</translation>
+    </message>
+    <message>
+        <source>Sort by</source>
+        <translation>Sortieren nach</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <comment>an order of photos</comment>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <comment>an order of photos</comment>
+        <translation>Datum</translation>
+    </message>
+    <message>
+        <source>As added</source>
+        <comment>an order of photos</comment>
+        <translation>Wie hinzugefügt</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Alle auswählen</translation>
+    </message>
+    <message>
+        <source>Apply to All</source>
+        <translation>Auf alle anwenden</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::PhotoTable</name>
+    <message>
+        <source>Delete removes the selected photos; Alt with an arrow key moves them.</source>
+        <translation>Entf entfernt die ausgewählten Fotos; Alt mit einer Pfeiltaste verschiebt sie.</translation>
     </message>
     <message numerus="yes">
         <source>%n photo(s) of this job</source>
@@ -3340,6 +3481,34 @@ und das Programm merkt sie sich</translation>
             <numerusform>%n Foto dieses Auftrags</numerusform>
             <numerusform>%n Fotos dieses Auftrags</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::PhotoTableModel</name>
+    <message>
+        <source>%1: %2</source>
+        <comment>a photo&apos;s number and name</comment>
+        <translation>%1: %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n copies</source>
+        <translation>
+            <numerusform>%n Kopie</numerusform>
+            <numerusform>%n Kopien</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>whole page</source>
+        <translation>ganze Seite</translation>
+    </message>
+    <message>
+        <source>damaged</source>
+        <translation>beschädigt</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <comment>between the parts of a list</comment>
+        <translation>, </translation>
     </message>
 </context>
 <context>
@@ -3363,6 +3532,14 @@ und das Programm merkt sie sich</translation>
     <message>
         <source>This printer places the photo on the page itself.</source>
         <translation>Dieser Drucker setzt das Foto selbst auf die Seite.</translation>
+    </message>
+    <message>
+        <source>More</source>
+        <translation>Mehr</translation>
+    </message>
+    <message>
+        <source>Size, border and copies of the photos, and how they share sheets</source>
+        <translation>Größe, Rand und Anzahl der Fotos, und wie sie sich Blätter teilen</translation>
     </message>
 </context>
 <context>
@@ -3668,6 +3845,55 @@ und das Programm merkt sie sich</translation>
     <message>
         <source>Click on a photo to change how it is printed.</source>
         <translation>Klicken Sie auf ein Foto, um zu ändern, wie es gedruckt wird.</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::PrintBar</name>
+    <message>
+        <source>Apply to All</source>
+        <translation>Auf alle anwenden</translation>
+    </message>
+    <message>
+        <source> %</source>
+        <comment>after a number</comment>
+        <translation> %</translation>
+    </message>
+    <message>
+        <source>Color of the border</source>
+        <translation>Farbe des Rands</translation>
+    </message>
+    <message>
+        <source>How often each of the selected photos is printed; Copies counts the whole job</source>
+        <translation>Wie oft jedes der ausgewählten Fotos gedruckt wird; „Kopien“ zählt den ganzen Auftrag</translation>
+    </message>
+    <message>
+        <source>Give all photos the placement, size, border and number of prints of the one that is shown</source>
+        <translation>Allen Fotos Platzierung, Größe, Rand und Anzahl des gezeigten geben</translation>
+    </message>
+    <message>
+        <source>Print size:</source>
+        <translation>Bildgröße:</translation>
+    </message>
+    <message>
+        <source>Scale:</source>
+        <translation>Skalierung:</translation>
+    </message>
+    <message>
+        <source>Border:</source>
+        <translation>Rand:</translation>
+    </message>
+    <message>
+        <source>Prints of each:</source>
+        <translation>Abzüge von jedem:</translation>
+    </message>
+    <message>
+        <source>Whole page</source>
+        <translation>Ganze Seite</translation>
+    </message>
+    <message>
+        <source>Custom…</source>
+        <comment>a print&apos;s size to type</comment>
+        <translation>Eigene …</translation>
     </message>
 </context>
 <context>

@@ -39,12 +39,22 @@
     </message>
 </context>
 <context>
-    <name>printdialog::PhotoStrip</name>
+    <name>printdialog::PhotoTable</name>
     <message numerus="yes">
         <source>%n photo(s) of this job</source>
         <translation>
             <numerusform>%n photo of this job</numerusform>
             <numerusform>%n photos of this job</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::PhotoTableModel</name>
+    <message numerus="yes">
+        <source>%n copies</source>
+        <translation>
+            <numerusform>%n copy</numerusform>
+            <numerusform>%n copies</numerusform>
         </translation>
     </message>
 </context>

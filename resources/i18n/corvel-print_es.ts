@@ -510,6 +510,13 @@ están y el programa las recuerda</translation>
     </message>
 </context>
 <context>
+    <name>CommonValue</name>
+    <message>
+        <source>Several</source>
+        <translation>Varios</translation>
+    </message>
+</context>
+<context>
     <name>Console</name>
     <message>
         <source>Standard output could not be written to: %1. Send it to another place.</source>
@@ -2970,6 +2977,85 @@ están y el programa las recuerda</translation>
     </message>
 </context>
 <context>
+    <name>printdialog::LayoutBar</name>
+    <message>
+        <source>Repeat each photo</source>
+        <translation>Repetir cada foto</translation>
+    </message>
+    <message>
+        <source>Cut marks</source>
+        <translation>Marcas de corte</translation>
+    </message>
+    <message>
+        <source>One photo per sheet</source>
+        <translation>Una foto por hoja</translation>
+    </message>
+    <message>
+        <source>Rows and columns</source>
+        <translation>Filas y columnas</translation>
+    </message>
+    <message>
+        <source>As many as fit</source>
+        <translation>Tantas como quepan</translation>
+    </message>
+    <message>
+        <source>Contact sheet</source>
+        <translation>Hoja de contactos</translation>
+    </message>
+    <message>
+        <source>Two strips</source>
+        <translation>Dos tiras</translation>
+    </message>
+    <message>
+        <source>Columns</source>
+        <translation>Columnas</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <comment>a caption</comment>
+        <translation>Ninguna</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <comment>a caption</comment>
+        <translation>Nombre</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <comment>a caption</comment>
+        <translation>Fecha</translation>
+    </message>
+    <message>
+        <source>Name and date</source>
+        <comment>a caption</comment>
+        <translation>Nombre y fecha</translation>
+    </message>
+    <message>
+        <source>A photo fills its sheet, or the second strip repeats the first, instead of the next ones following</source>
+        <translation>Una foto llena su hoja, o la segunda tira repite la primera, en lugar de seguir las siguientes</translation>
+    </message>
+    <message>
+        <source>Layout:</source>
+        <translation>Distribución:</translation>
+    </message>
+    <message>
+        <source>Rows × columns:</source>
+        <translation>Filas × columnas:</translation>
+    </message>
+    <message>
+        <source>Photos per strip:</source>
+        <translation>Fotos por tira:</translation>
+    </message>
+    <message>
+        <source>Captions:</source>
+        <translation>Leyendas:</translation>
+    </message>
+    <message>
+        <source>Gap:</source>
+        <translation>Separación:</translation>
+    </message>
+</context>
+<context>
     <name>printdialog::MessageBar</name>
     <message>
         <source>Open Folder</source>
@@ -2978,6 +3064,13 @@ están y el programa las recuerda</translation>
     <message>
         <source>Details</source>
         <translation>Detalles</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::MixedSpinBox</name>
+    <message>
+        <source>several</source>
+        <translation>varios</translation>
     </message>
 </context>
 <context>
@@ -3296,10 +3389,6 @@ están y el programa las recuerda</translation>
         <translation>Añadir fotos a este trabajo; también se pueden soltar en la ventana</translation>
     </message>
     <message>
-        <source>Take the photo that is shown out of this job; its file stays</source>
-        <translation>Sacar de este trabajo la foto que se muestra; su archivo se conserva</translation>
-    </message>
-    <message>
         <source>Add Photos</source>
         <translation>Añadir fotos</translation>
     </message>
@@ -3322,16 +3411,68 @@ están y el programa las recuerda</translation>
             <numerusform>No se pueden imprimir %n archivos más.</numerusform>
         </translation>
     </message>
-</context>
-<context>
-    <name>printdialog::PhotoStrip</name>
     <message>
-        <source>Delete removes a photo; Alt with an arrow key moves it.</source>
-        <translation>Supr quita una foto; Alt con una flecha la mueve.</translation>
+        <source>Sheets: %1</source>
+        <translation>Hojas: %1</translation>
     </message>
     <message>
-        <source>%1, photo %2 of %3</source>
-        <translation>%1, foto %2 de %3</translation>
+        <source>Height of the table of photos</source>
+        <translation>Altura de la tabla de fotos</translation>
+    </message>
+    <message>
+        <source>Drag to see more or fewer photos</source>
+        <translation>Arrastre para ver más o menos fotos</translation>
+    </message>
+    <message>
+        <source>Take the selected photos out of this job; their files stay</source>
+        <translation>Quitar de este trabajo las fotos seleccionadas; sus archivos se conservan</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Quitar</translation>
+    </message>
+    <message>
+        <source>Turn</source>
+        <translation>Girar</translation>
+    </message>
+    <message>
+        <source>Copies…</source>
+        <comment>of the selected photos</comment>
+        <translation>Copias…</translation>
+    </message>
+    <message>
+        <source>Sort by</source>
+        <translation>Ordenar por</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <comment>an order of photos</comment>
+        <translation>Nombre</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <comment>an order of photos</comment>
+        <translation>Fecha</translation>
+    </message>
+    <message>
+        <source>As added</source>
+        <comment>an order of photos</comment>
+        <translation>Orden de adición</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Seleccionar todo</translation>
+    </message>
+    <message>
+        <source>Apply to All</source>
+        <translation>Aplicar a todas</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::PhotoTable</name>
+    <message>
+        <source>Delete removes the selected photos; Alt with an arrow key moves them.</source>
+        <translation>Supr quita las fotos seleccionadas; Alt con una tecla de flecha las mueve.</translation>
     </message>
     <message numerus="yes">
         <source>%n photo(s) of this job</source>
@@ -3339,6 +3480,34 @@ están y el programa las recuerda</translation>
             <numerusform>%n foto de este trabajo</numerusform>
             <numerusform>%n fotos de este trabajo</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::PhotoTableModel</name>
+    <message>
+        <source>%1: %2</source>
+        <comment>a photo&apos;s number and name</comment>
+        <translation>%1: %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n copies</source>
+        <translation>
+            <numerusform>%n copia</numerusform>
+            <numerusform>%n copias</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>whole page</source>
+        <translation>página completa</translation>
+    </message>
+    <message>
+        <source>damaged</source>
+        <translation>dañada</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <comment>between the parts of a list</comment>
+        <translation>, </translation>
     </message>
 </context>
 <context>
@@ -3362,6 +3531,14 @@ están y el programa las recuerda</translation>
     <message>
         <source>This printer places the photo on the page itself.</source>
         <translation>Esta impresora coloca ella misma la foto en la página.</translation>
+    </message>
+    <message>
+        <source>More</source>
+        <translation>Más</translation>
+    </message>
+    <message>
+        <source>Size, border and copies of the photos, and how they share sheets</source>
+        <translation>Tamaño, borde y número de las fotos, y cómo comparten las hojas</translation>
     </message>
 </context>
 <context>
@@ -3667,6 +3844,55 @@ están y el programa las recuerda</translation>
     <message>
         <source>Click on a photo to change how it is printed.</source>
         <translation>Haga clic en una foto para cambiar cómo se imprime.</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::PrintBar</name>
+    <message>
+        <source>Apply to All</source>
+        <translation>Aplicar a todas</translation>
+    </message>
+    <message>
+        <source> %</source>
+        <comment>after a number</comment>
+        <translation> %</translation>
+    </message>
+    <message>
+        <source>Color of the border</source>
+        <translation>Color del borde</translation>
+    </message>
+    <message>
+        <source>How often each of the selected photos is printed; Copies counts the whole job</source>
+        <translation>Cuántas veces se imprime cada una de las fotos seleccionadas; «Copias» cuenta el trabajo completo</translation>
+    </message>
+    <message>
+        <source>Give all photos the placement, size, border and number of prints of the one that is shown</source>
+        <translation>Dar a todas las fotos la colocación, el tamaño, el borde y el número de impresiones de la que se muestra</translation>
+    </message>
+    <message>
+        <source>Print size:</source>
+        <translation>Tamaño de la foto:</translation>
+    </message>
+    <message>
+        <source>Scale:</source>
+        <translation>Escala:</translation>
+    </message>
+    <message>
+        <source>Border:</source>
+        <translation>Borde:</translation>
+    </message>
+    <message>
+        <source>Prints of each:</source>
+        <translation>Impresiones de cada una:</translation>
+    </message>
+    <message>
+        <source>Whole page</source>
+        <translation>Página completa</translation>
+    </message>
+    <message>
+        <source>Custom…</source>
+        <comment>a print&apos;s size to type</comment>
+        <translation>Personalizado…</translation>
     </message>
 </context>
 <context>

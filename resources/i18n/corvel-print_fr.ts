@@ -511,6 +511,13 @@ elles sont, et le programme les retient</translation>
     </message>
 </context>
 <context>
+    <name>CommonValue</name>
+    <message>
+        <source>Several</source>
+        <translation>Différents</translation>
+    </message>
+</context>
+<context>
     <name>Console</name>
     <message>
         <source>Standard output could not be written to: %1. Send it to another place.</source>
@@ -2971,6 +2978,85 @@ elles sont, et le programme les retient</translation>
     </message>
 </context>
 <context>
+    <name>printdialog::LayoutBar</name>
+    <message>
+        <source>Repeat each photo</source>
+        <translation>Répéter chaque photo</translation>
+    </message>
+    <message>
+        <source>Cut marks</source>
+        <translation>Traits de coupe</translation>
+    </message>
+    <message>
+        <source>One photo per sheet</source>
+        <translation>Une photo par feuille</translation>
+    </message>
+    <message>
+        <source>Rows and columns</source>
+        <translation>Lignes et colonnes</translation>
+    </message>
+    <message>
+        <source>As many as fit</source>
+        <translation>Autant que possible</translation>
+    </message>
+    <message>
+        <source>Contact sheet</source>
+        <translation>Planche contact</translation>
+    </message>
+    <message>
+        <source>Two strips</source>
+        <translation>Deux bandes</translation>
+    </message>
+    <message>
+        <source>Columns</source>
+        <translation>Colonnes</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <comment>a caption</comment>
+        <translation>Aucune</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <comment>a caption</comment>
+        <translation>Nom</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <comment>a caption</comment>
+        <translation>Date</translation>
+    </message>
+    <message>
+        <source>Name and date</source>
+        <comment>a caption</comment>
+        <translation>Nom et date</translation>
+    </message>
+    <message>
+        <source>A photo fills its sheet, or the second strip repeats the first, instead of the next ones following</source>
+        <translation>Une photo remplit sa feuille, ou la seconde bande répète la première, au lieu que les suivantes se succèdent</translation>
+    </message>
+    <message>
+        <source>Layout:</source>
+        <translation>Mise en page&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Rows × columns:</source>
+        <translation>Lignes × colonnes&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Photos per strip:</source>
+        <translation>Photos par bande&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Captions:</source>
+        <translation>Légendes&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Gap:</source>
+        <translation>Écart&#xa0;:</translation>
+    </message>
+</context>
+<context>
     <name>printdialog::MessageBar</name>
     <message>
         <source>Open Folder</source>
@@ -2979,6 +3065,13 @@ elles sont, et le programme les retient</translation>
     <message>
         <source>Details</source>
         <translation>Détails</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::MixedSpinBox</name>
+    <message>
+        <source>several</source>
+        <translation>plusieurs</translation>
     </message>
 </context>
 <context>
@@ -3297,10 +3390,6 @@ elles sont, et le programme les retient</translation>
         <translation>Ajouter des photos à ce travail&#x202f;; on peut aussi les déposer sur la fenêtre</translation>
     </message>
     <message>
-        <source>Take the photo that is shown out of this job; its file stays</source>
-        <translation>Retirer de ce travail la photo affichée&#x202f;; son fichier reste</translation>
-    </message>
-    <message>
         <source>Add Photos</source>
         <translation>Ajouter des photos</translation>
     </message>
@@ -3323,16 +3412,68 @@ elles sont, et le programme les retient</translation>
             <numerusform>%n autres fichiers ne peuvent pas être imprimés.</numerusform>
         </translation>
     </message>
-</context>
-<context>
-    <name>printdialog::PhotoStrip</name>
     <message>
-        <source>Delete removes a photo; Alt with an arrow key moves it.</source>
-        <translation>Suppr enlève une photo&#x202f;; Alt avec une flèche la déplace.</translation>
+        <source>Sheets: %1</source>
+        <translation>Feuilles&#xa0;: %1</translation>
     </message>
     <message>
-        <source>%1, photo %2 of %3</source>
-        <translation>%1, photo %2 sur %3</translation>
+        <source>Height of the table of photos</source>
+        <translation>Hauteur du tableau de photos</translation>
+    </message>
+    <message>
+        <source>Drag to see more or fewer photos</source>
+        <translation>Faites glisser pour voir plus ou moins de photos</translation>
+    </message>
+    <message>
+        <source>Take the selected photos out of this job; their files stay</source>
+        <translation>Retirer de ce travail les photos sélectionnées&#xa0;; leurs fichiers restent</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Enlever</translation>
+    </message>
+    <message>
+        <source>Turn</source>
+        <translation>Pivoter</translation>
+    </message>
+    <message>
+        <source>Copies…</source>
+        <comment>of the selected photos</comment>
+        <translation>Copies…</translation>
+    </message>
+    <message>
+        <source>Sort by</source>
+        <translation>Trier par</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <comment>an order of photos</comment>
+        <translation>Nom</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <comment>an order of photos</comment>
+        <translation>Date</translation>
+    </message>
+    <message>
+        <source>As added</source>
+        <comment>an order of photos</comment>
+        <translation>Ordre d’ajout</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Tout sélectionner</translation>
+    </message>
+    <message>
+        <source>Apply to All</source>
+        <translation>Appliquer à toutes</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::PhotoTable</name>
+    <message>
+        <source>Delete removes the selected photos; Alt with an arrow key moves them.</source>
+        <translation>Suppr retire les photos sélectionnées&#xa0;; Alt avec une touche fléchée les déplace.</translation>
     </message>
     <message numerus="yes">
         <source>%n photo(s) of this job</source>
@@ -3340,6 +3481,34 @@ elles sont, et le programme les retient</translation>
             <numerusform>%n photo de ce travail</numerusform>
             <numerusform>%n photos de ce travail</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::PhotoTableModel</name>
+    <message>
+        <source>%1: %2</source>
+        <comment>a photo&apos;s number and name</comment>
+        <translation>%1&#xa0;: %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n copies</source>
+        <translation>
+            <numerusform>%n copie</numerusform>
+            <numerusform>%n copies</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>whole page</source>
+        <translation>page entière</translation>
+    </message>
+    <message>
+        <source>damaged</source>
+        <translation>endommagée</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <comment>between the parts of a list</comment>
+        <translation>, </translation>
     </message>
 </context>
 <context>
@@ -3363,6 +3532,14 @@ elles sont, et le programme les retient</translation>
     <message>
         <source>This printer places the photo on the page itself.</source>
         <translation>Cette imprimante place elle-même la photo sur la page.</translation>
+    </message>
+    <message>
+        <source>More</source>
+        <translation>Plus</translation>
+    </message>
+    <message>
+        <source>Size, border and copies of the photos, and how they share sheets</source>
+        <translation>Taille, bordure et nombre des photos, et leur répartition sur les feuilles</translation>
     </message>
 </context>
 <context>
@@ -3668,6 +3845,55 @@ elles sont, et le programme les retient</translation>
     <message>
         <source>Click on a photo to change how it is printed.</source>
         <translation>Cliquez sur une photo pour modifier la façon dont elle est imprimée.</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::PrintBar</name>
+    <message>
+        <source>Apply to All</source>
+        <translation>Appliquer à toutes</translation>
+    </message>
+    <message>
+        <source> %</source>
+        <comment>after a number</comment>
+        <translation> %</translation>
+    </message>
+    <message>
+        <source>Color of the border</source>
+        <translation>Couleur de la bordure</translation>
+    </message>
+    <message>
+        <source>How often each of the selected photos is printed; Copies counts the whole job</source>
+        <translation>Nombre de tirages de chacune des photos sélectionnées&#xa0;; «&#xa0;Copies&#xa0;» compte le travail entier</translation>
+    </message>
+    <message>
+        <source>Give all photos the placement, size, border and number of prints of the one that is shown</source>
+        <translation>Donner à toutes les photos la disposition, la taille, la bordure et le nombre de tirages de celle qui est affichée</translation>
+    </message>
+    <message>
+        <source>Print size:</source>
+        <translation>Format du tirage&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Scale:</source>
+        <translation>Échelle&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Border:</source>
+        <translation>Bordure&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Prints of each:</source>
+        <translation>Tirages de chacune&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Whole page</source>
+        <translation>Page entière</translation>
+    </message>
+    <message>
+        <source>Custom…</source>
+        <comment>a print&apos;s size to type</comment>
+        <translation>Personnalisé…</translation>
     </message>
 </context>
 <context>

@@ -509,6 +509,13 @@ where they are, and the program remembers them</source>
     </message>
 </context>
 <context>
+    <name>CommonValue</name>
+    <message>
+        <source>Several</source>
+        <translation>複数の値</translation>
+    </message>
+</context>
+<context>
     <name>Console</name>
     <message>
         <source>Standard output could not be written to: %1. Send it to another place.</source>
@@ -2966,6 +2973,85 @@ where they are, and the program remembers them</source>
     </message>
 </context>
 <context>
+    <name>printdialog::LayoutBar</name>
+    <message>
+        <source>Repeat each photo</source>
+        <translation>同じ写真を繰り返す</translation>
+    </message>
+    <message>
+        <source>Cut marks</source>
+        <translation>裁断用の目印</translation>
+    </message>
+    <message>
+        <source>One photo per sheet</source>
+        <translation>1枚に写真1点</translation>
+    </message>
+    <message>
+        <source>Rows and columns</source>
+        <translation>行と列</translation>
+    </message>
+    <message>
+        <source>As many as fit</source>
+        <translation>入るだけ並べる</translation>
+    </message>
+    <message>
+        <source>Contact sheet</source>
+        <translation>コンタクトシート</translation>
+    </message>
+    <message>
+        <source>Two strips</source>
+        <translation>2本の帯</translation>
+    </message>
+    <message>
+        <source>Columns</source>
+        <translation>列</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <comment>a caption</comment>
+        <translation>なし</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <comment>a caption</comment>
+        <translation>名前</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <comment>a caption</comment>
+        <translation>日付</translation>
+    </message>
+    <message>
+        <source>Name and date</source>
+        <comment>a caption</comment>
+        <translation>名前と日付</translation>
+    </message>
+    <message>
+        <source>A photo fills its sheet, or the second strip repeats the first, instead of the next ones following</source>
+        <translation>次の写真を続けずに、同じ写真で用紙や2本目の帯を埋めます</translation>
+    </message>
+    <message>
+        <source>Layout:</source>
+        <translation>レイアウト:</translation>
+    </message>
+    <message>
+        <source>Rows × columns:</source>
+        <translation>行 × 列:</translation>
+    </message>
+    <message>
+        <source>Photos per strip:</source>
+        <translation>帯ごとの写真:</translation>
+    </message>
+    <message>
+        <source>Captions:</source>
+        <translation>キャプション:</translation>
+    </message>
+    <message>
+        <source>Gap:</source>
+        <translation>間隔:</translation>
+    </message>
+</context>
+<context>
     <name>printdialog::MessageBar</name>
     <message>
         <source>Open Folder</source>
@@ -2974,6 +3060,13 @@ where they are, and the program remembers them</source>
     <message>
         <source>Details</source>
         <translation>詳細</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::MixedSpinBox</name>
+    <message>
+        <source>several</source>
+        <translation>複数</translation>
     </message>
 </context>
 <context>
@@ -3292,10 +3385,6 @@ where they are, and the program remembers them</source>
         <translation>このジョブに写真を追加します。ウィンドウにドロップすることもできます</translation>
     </message>
     <message>
-        <source>Take the photo that is shown out of this job; its file stays</source>
-        <translation>表示中の写真をこのジョブから外します。ファイルは残ります</translation>
-    </message>
-    <message>
         <source>Add Photos</source>
         <translation>写真を追加</translation>
     </message>
@@ -3317,22 +3406,101 @@ where they are, and the program remembers them</source>
             <numerusform>ほかに %n 個のファイルを印刷できません。</numerusform>
         </translation>
     </message>
-</context>
-<context>
-    <name>printdialog::PhotoStrip</name>
     <message>
-        <source>Delete removes a photo; Alt with an arrow key moves it.</source>
-        <translation>Delete キーで写真を外し、Alt と矢印キーで移動します。</translation>
+        <source>Sheets: %1</source>
+        <translation>用紙の枚数: %1</translation>
     </message>
     <message>
-        <source>%1, photo %2 of %3</source>
-        <translation>%1、写真 %2／%3</translation>
+        <source>Height of the table of photos</source>
+        <translation>写真一覧の高さ</translation>
+    </message>
+    <message>
+        <source>Drag to see more or fewer photos</source>
+        <translation>ドラッグすると、見える写真の数が変わります</translation>
+    </message>
+    <message>
+        <source>Take the selected photos out of this job; their files stay</source>
+        <translation>選択した写真をこのジョブから外します。ファイルは残ります</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>取り除く</translation>
+    </message>
+    <message>
+        <source>Turn</source>
+        <translation>回転</translation>
+    </message>
+    <message>
+        <source>Copies…</source>
+        <comment>of the selected photos</comment>
+        <translation>部数…</translation>
+    </message>
+    <message>
+        <source>Sort by</source>
+        <translation>並べ替え</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <comment>an order of photos</comment>
+        <translation>名前</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <comment>an order of photos</comment>
+        <translation>日付</translation>
+    </message>
+    <message>
+        <source>As added</source>
+        <comment>an order of photos</comment>
+        <translation>追加した順</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>すべて選択</translation>
+    </message>
+    <message>
+        <source>Apply to All</source>
+        <translation>すべてに適用</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::PhotoTable</name>
+    <message>
+        <source>Delete removes the selected photos; Alt with an arrow key moves them.</source>
+        <translation>Deleteキーで選択した写真を外し、Altキーと矢印キーで移動します。</translation>
     </message>
     <message numerus="yes">
         <source>%n photo(s) of this job</source>
         <translation>
             <numerusform>このジョブの写真 %n 枚</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::PhotoTableModel</name>
+    <message>
+        <source>%1: %2</source>
+        <comment>a photo&apos;s number and name</comment>
+        <translation>%1: %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n copies</source>
+        <translation>
+            <numerusform>%n 部</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>whole page</source>
+        <translation>ページ全体</translation>
+    </message>
+    <message>
+        <source>damaged</source>
+        <translation>破損</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <comment>between the parts of a list</comment>
+        <translation>、</translation>
     </message>
 </context>
 <context>
@@ -3356,6 +3524,14 @@ where they are, and the program remembers them</source>
     <message>
         <source>This printer places the photo on the page itself.</source>
         <translation>このプリンターでは、写真の配置はプリンターが決めます。</translation>
+    </message>
+    <message>
+        <source>More</source>
+        <translation>その他</translation>
+    </message>
+    <message>
+        <source>Size, border and copies of the photos, and how they share sheets</source>
+        <translation>写真のサイズ、縁、部数と、用紙への並べ方</translation>
     </message>
 </context>
 <context>
@@ -3660,6 +3836,55 @@ where they are, and the program remembers them</source>
     <message>
         <source>Click on a photo to change how it is printed.</source>
         <translation>写真をクリックすると、その印刷方法を変更できます。</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::PrintBar</name>
+    <message>
+        <source>Apply to All</source>
+        <translation>すべてに適用</translation>
+    </message>
+    <message>
+        <source> %</source>
+        <comment>after a number</comment>
+        <translation> %</translation>
+    </message>
+    <message>
+        <source>Color of the border</source>
+        <translation>縁の色</translation>
+    </message>
+    <message>
+        <source>How often each of the selected photos is printed; Copies counts the whole job</source>
+        <translation>選択した写真をそれぞれ何枚印刷するか。「部数」はジョブ全体の部数です</translation>
+    </message>
+    <message>
+        <source>Give all photos the placement, size, border and number of prints of the one that is shown</source>
+        <translation>表示中の写真の配置、サイズ、縁、枚数をすべての写真に適用します</translation>
+    </message>
+    <message>
+        <source>Print size:</source>
+        <translation>プリントサイズ:</translation>
+    </message>
+    <message>
+        <source>Scale:</source>
+        <translation>倍率:</translation>
+    </message>
+    <message>
+        <source>Border:</source>
+        <translation>縁:</translation>
+    </message>
+    <message>
+        <source>Prints of each:</source>
+        <translation>各写真の枚数:</translation>
+    </message>
+    <message>
+        <source>Whole page</source>
+        <translation>ページ全体</translation>
+    </message>
+    <message>
+        <source>Custom…</source>
+        <comment>a print&apos;s size to type</comment>
+        <translation>カスタム…</translation>
     </message>
 </context>
 <context>

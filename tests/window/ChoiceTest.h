@@ -24,6 +24,7 @@ private Q_SLOTS:
     void conflictOfTheJobIsSettled();
     void undoAndRedo();
     void oneActIsOneStep();
+    void photosStepsOutliveThePrinter();
     void undoOfChoicesThatAllowEachOtherOnlyTogether();
     void revertIsAStep();
     void numberLeftUnfinished_data();

@@ -103,6 +103,25 @@ void ChoiceTest::oneActIsOneStep()
     QCOMPARE(made, QStringList{u"1"_s});
 }
 
+// Another printer has other choices, but the photos are the same.
+void ChoiceTest::photosStepsOutliveThePrinter()
+{
+    QList<int> shown;
+    ChoiceHistory history([](const ChoiceHistory::State &) { QFAIL("a choice of the last printer"); },
+                          [&shown](const ArrangementModel::State &state) { shown += state.current; });
+    history.start({{u"Red"_s, u"0"_s}});
+    for (const int i : {1, 2}) {
+        history.changePhotos({{}, {}, i - 1}, {{}, {}, i});
+        history.change({u"Red"_s, QString::number(i - 1), QString::number(i)});
+        history.note(false);
+    }
+    history.start({});
+    while (history.canUndo())
+        history.undo();
+    history.redo();
+    QCOMPARE(shown, (QList<int>{1, 0, 1}));
+}
+
 // No single choice leads from one state to the other.
 void ChoiceTest::undoOfChoicesThatAllowEachOtherOnlyTogether()
 {

@@ -3,8 +3,9 @@
 
 #include "PhotoPane.h"
 #include "PdfWriter.h"
-#include "PhotoStrip.h"
+#include "PhotoTable.h"
 #include "PhotoThreads.h"
+#include "PhotoThumbnails.h"
 #include "PreviewWidget.h"
 #include "Rows.h"
 #include "SamplePhotos.h"
@@ -110,7 +111,7 @@ private Q_SLOTS:
     void paintsWhilePhotosAreDecoded();
     void photosGiveWay();
     void placementByControls();
-    void strip();
+    void table();
     void manyPhotos();
     void droppedFiles();
 };
@@ -335,34 +336,38 @@ void PhotoPaneTest::placementByControls()
     QCOMPARE(preview->placement()->quarterTurns, 2);
 }
 
-void PhotoPaneTest::strip()
+void PhotoPaneTest::table()
 {
     const auto pane = shown({photoOf(u"a.jpg"_s), photoOf(u"b.jpg"_s), photoOf(u"c.jpg"_s)});
-    auto *strip = pane->findChild<PhotoStrip *>();
-    QVERIFY(strip->isVisible());
-    QTRY_VERIFY(!strip->item(2)->icon().isNull());
-    QTest::mouseClick(strip->viewport(), Qt::LeftButton, {}, strip->visualItemRect(strip->item(1)).center());
+    auto *table = pane->findChild<PhotoTable *>();
+    QVERIFY(table->isVisible());
+    QTRY_VERIFY(table->isReady());
+    const auto cell = [table](int row) {
+        return table->model()->index(row, 0);
+    };
+    QTest::mouseClick(table->viewport(), Qt::LeftButton, {}, table->visualRect(cell(1)).center());
     QCOMPARE(pane->current(), 1);
-    strip->setFocus();
-    QTest::keyClick(strip, Qt::Key_Right);
+    table->setFocus();
+    QTest::keyClick(table, Qt::Key_Right);
     QCOMPARE(pane->current(), 2);
-    QTest::keyClick(strip, Qt::Key_Left, Qt::AltModifier);
+    QTest::keyClick(table, Qt::Key_Left, Qt::AltModifier);
     QCOMPARE(namesIn(*pane), (QStringList{u"a.jpg"_s, u"c.jpg"_s, u"b.jpg"_s}));
     QCOMPARE(pane->current(), 1);
-    QCOMPARE(strip->currentItem()->data(Qt::AccessibleTextRole).toString(), u"c.jpg, photo 2 of 3"_s);
-    QTest::keyClick(strip, Qt::Key_Delete);
+    QCOMPARE(table->currentIndex().data(Qt::AccessibleTextRole).toString(), u"2: c.jpg"_s);
+    QTest::keyClick(table, Qt::Key_Delete);
     QCOMPARE(namesIn(*pane), (QStringList{u"a.jpg"_s, u"b.jpg"_s}));
     QCOMPARE(pane->current(), 1);
     auto *remove = pane->findChild<QPushButton *>(u"removePhoto"_s);
     QTest::mouseClick(remove, Qt::LeftButton);
-    QVERIFY(!strip->isVisible());
+    QVERIFY(!table->isVisible());
     QTest::mouseClick(remove, Qt::LeftButton);
     QVERIFY(pane->photos().isEmpty() && !remove->isEnabled());
     QVERIFY(QFile::exists(pathOf(u"a.jpg"_s)));
     // A file's name is not markup.
     pane->setPhotos({photoOf(u"a & b.jpg"_s), photoOf(u"<img src=x>.jpg"_s)}, {});
-    QCOMPARE(strip->item(0)->toolTip(), u"a & b.jpg"_s);
-    QCOMPARE(QTextDocumentFragment::fromHtml(strip->item(1)->toolTip()).toPlainText(), u"<img src=x>.jpg"_s);
+    QCOMPARE(cell(0).data(Qt::ToolTipRole).toString(), u"1: a & b.jpg"_s);
+    QCOMPARE(QTextDocumentFragment::fromHtml(cell(1).data(Qt::ToolTipRole).toString()).toPlainText(),
+             u"2: <img src=x>.jpg"_s);
 }
 
 // They come in their order and in few steps, and only those that are seen get a thumbnail.
@@ -401,14 +406,14 @@ void PhotoPaneTest::manyPhotos()
     QVERIFY(lines[0].contains(u"none0.jpg"_s) && lines[2].contains(u"none2.jpg"_s));
     QVERIFY2(lines[3].startsWith(u"2 more"_s), qPrintable(lines[3]));
 
-    auto *strip = pane->findChild<PhotoStrip *>();
-    const auto made = [strip](int row) {
-        return !strip->item(row)->icon().isNull();
+    auto *table = pane->findChild<PhotoTable *>();
+    const auto made = [table, &pane](int row) {
+        return table->thumbnails().has(pane->photos().at(row).photo);
     };
     QTRY_VERIFY(pane->isReady() && made(0));
     QVERIFY(!made(150) && !made(count - 1));
-    strip->setFocus();
-    QTest::keyClick(strip, Qt::Key_End);
+    table->setFocus();
+    QTest::keyClick(table, Qt::Key_End);
     QTRY_VERIFY(pane->isReady() && made(count - 1));
     QVERIFY(!made(150));
 }

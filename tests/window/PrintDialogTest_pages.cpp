@@ -73,9 +73,10 @@ void PrintDialogTest::summaryFollowsTheJob()
     QCOMPARE(summaryOf(opened), expected);
     const auto *sizes = opened.chooseLast(u"pageSize"_s);
     QVERIFY(summaryOf(opened).constFirst().endsWith(sizes->currentText()) && summaryOf(opened) != expected);
-    for (int i = 0; i < 3; ++i) // the page, the copies, Red
+    for (int i = 0; i < 5; ++i) // the page, the scaling, the turn, the copies, Red
         opened.undo();
     expected[1] = u"Copies: 1"_s;
+    expected[2] = u"Placement: Fit on the page"_s;
     expected[7] = u"Red: 0"_s;
     QCOMPARE(summaryOf(opened), expected);
 }
@@ -139,9 +140,10 @@ void PrintDialogTest::tabOrderAndNames()
     const QStringList before = {
         u"printer"_s, u"presets"_s,   u"managePresets"_s, u"pageSize"_s, u"position"_s,
         u"copies"_s,  u"documents"_s, u"folder"_s,        u"browse"_s,   u"qt_tabwidget_tabbar"_s};
-    const QStringList after = {u"help"_s,  u"save"_s,    u"cancel"_s,  u"print"_s,    u"preview"_s,
-                               u"zoom"_s,  u"zoomIn"_s,  u"compare"_s, u"divide"_s,   u"clipped"_s,
-                               u"ruler"_s, u"scaling"_s, u"turn"_s,    u"addPhoto"_s, u"removePhoto"_s};
+    const QStringList after = {u"help"_s,    u"save"_s,    u"cancel"_s,   u"print"_s,
+                               u"preview"_s, u"zoom"_s,    u"zoomIn"_s,   u"compare"_s,
+                               u"divide"_s,  u"clipped"_s, u"ruler"_s,    u"scaling"_s,
+                               u"turn"_s,    u"more"_s,    u"addPhoto"_s, u"removePhoto"_s};
     QStringList color;
     for (int tag = 1; tag <= 7; ++tag)
         color << QString::number(tag) << QString::number(tag + 80);

@@ -16,8 +16,8 @@ ChoiceController::ChoiceController(const ChoiceWidgets &widgets, QObject *parent
     : QObject(parent)
     , widgets_(widgets)
     , refusals_(new ChoiceRefusals(widgets.window, widgets.panels, widgets.message, this))
-    , steps_(
-          new ChoiceSteps({widgets.window, widgets.panels, widgets.copies, widgets.undo, widgets.redo}, this))
+    , steps_(new ChoiceSteps(
+          {widgets.window, widgets.panels, widgets.copies, widgets.photos, widgets.undo, widgets.redo}, this))
     , presets_(new PresetController(widgets.presets, widgets.message, steps_, this))
 {
     connect(refusals_, &ChoiceRefusals::offerAccepted, steps_, [this] { steps_->note(); });
@@ -70,6 +70,16 @@ void ChoiceController::refuse(const QString &text, QWidget *control)
 void ChoiceController::watchField(QWidget *field)
 {
     steps_->watchField(field);
+}
+
+void ChoiceController::beginAct()
+{
+    steps_->endAct();
+}
+
+void ChoiceController::noteAct(QWidget *control)
+{
+    steps_->noteAct(control);
 }
 
 void ChoiceController::explainJob()

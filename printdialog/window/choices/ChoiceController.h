@@ -11,6 +11,7 @@ class QToolButton;
 
 namespace printdialog {
 
+class ArrangementModel;
 class ChoiceSteps;
 class DialogSession;
 class IppAttributes;
@@ -26,6 +27,7 @@ struct ChoiceWidgets
     PanelTabs *panels;
     QComboBox *pageSize;
     QSpinBox *copies;
+    ArrangementModel *photos;
     PresetBar *presets;
     QToolButton *undo;
     QToolButton *redo;
@@ -57,6 +59,10 @@ public:
     void refuse(const QString &text, QWidget *control);
     /// See ControlWatcher::watchField.
     void watchField(QWidget *field);
+    /// What follows is another act, even by the same control.
+    void beginAct();
+    /// The user has done something with the photos, by the control.
+    void noteAct(QWidget *control);
     /// Shows why the session's job cannot be made, and offers a remedy.
     void explainJob();
 

@@ -18,27 +18,33 @@ constexpr int mostSteps = 500;
 class ChoiceHistory::Step : public QUndoCommand
 {
 public:
-    Step(ChoiceHistory &history, Changes changes, int act)
+    Step(ChoiceHistory &history, Changes changes, std::optional<PhotosChange> photos, int act)
         : history_(history)
         , changes_(std::move(changes))
+        , photos_(std::move(photos))
         , act_(act)
     {
     }
 
     int id() const override { return act_; }
-    void undo() override { history_.make(sides(&Change::before)); }
+    const std::optional<PhotosChange> &photos() const { return photos_; }
+    void undo() override { history_.make(sides(&Change::before), photos_ ? &photos_->before : nullptr); }
     void redo() override
     {
         // QUndoStack::push() calls redo(), but the change is already made by then.
         if (std::exchange(isDone_, true))
-            history_.make(sides(&Change::after));
+            history_.make(sides(&Change::after), photos_ ? &photos_->after : nullptr);
     }
     bool mergeWith(const QUndoCommand *next) override
     {
-        const Changes &more = static_cast<const Step *>(next)->changes_;
-        for (auto change = more.cbegin(); change != more.cend(); ++change)
+        const auto *more = static_cast<const Step *>(next);
+        for (auto change = more->changes_.cbegin(); change != more->changes_.cend(); ++change)
             merge(changes_, change.key(), *change);
-        setObsolete(changes_.isEmpty());
+        if (photos_ && more->photos_)
+            photos_->after = more->photos_->after;
+        else if (more->photos_)
+            photos_ = more->photos_;
+        setObsolete(changes_.isEmpty() && !photos_);
         return true;
     }
 
@@ -55,6 +61,7 @@ private:
 
     ChoiceHistory &history_;
     Changes changes_;
+    std::optional<PhotosChange> photos_;
     int act_;
     bool isDone_ = false;
 };
@@ -81,9 +88,10 @@ void ChoiceHistory::Baseline::compare(const QString &key, const QString &choice)
         differing.insert(key);
 }
 
-ChoiceHistory::ChoiceHistory(Maker maker, QObject *parent)
+ChoiceHistory::ChoiceHistory(Maker maker, PhotosMaker photosMaker, QObject *parent)
     : QObject(parent)
     , maker_(std::move(maker))
+    , photosMaker_(std::move(photosMaker))
     , steps_(new QUndoStack(this))
 {
     steps_->setUndoLimit(mostSteps);
@@ -91,9 +99,16 @@ ChoiceHistory::ChoiceHistory(Maker maker, QObject *parent)
 
 void ChoiceHistory::start(const State &state)
 {
+    QList<PhotosChange> kept;
+    for (int i = 0; i < steps_->index(); ++i) {
+        if (const auto &photos = static_cast<const Step *>(steps_->command(i))->photos())
+            kept.append(*photos);
+    }
     steps_->clear();
     pending_.clear();
     opening_.start(state);
+    for (const PhotosChange &photos : std::as_const(kept))
+        push({}, photos, ++act_);
     ++act_;
     Q_EMIT changed();
 }
@@ -112,6 +127,12 @@ void ChoiceHistory::change(const ChoiceChange &change)
         merge(pending_, change.key, {change.before.value_or(QString()), change.after.value_or(QString())});
 }
 
+void ChoiceHistory::changePhotos(const ArrangementModel::State &before, const ArrangementModel::State &after)
+{
+    if (!isMaking_)
+        pendingPhotos_ = PhotosChange{pendingPhotos_ ? pendingPhotos_->before : before, after};
+}
+
 void ChoiceHistory::merge(Changes &changes, const QString &key, const Change &change)
 {
     const QString before = changes.value(key, change).before;
@@ -125,10 +146,15 @@ void ChoiceHistory::note(bool continues)
 {
     if (!continues)
         ++act_;
-    if (pending_.isEmpty())
+    if (!hasChanges())
         return;
-    steps_->push(new Step(*this, std::exchange(pending_, {}), act_));
+    push(std::exchange(pending_, {}), std::exchange(pendingPhotos_, {}), act_);
     Q_EMIT changed();
+}
+
+void ChoiceHistory::push(const Changes &changes, const std::optional<PhotosChange> &photos, int act)
+{
+    steps_->push(new Step(*this, changes, photos, act));
 }
 
 bool ChoiceHistory::canUndo() const
@@ -170,10 +196,13 @@ void ChoiceHistory::revert()
     note(false);
 }
 
-void ChoiceHistory::make(const State &state)
+void ChoiceHistory::make(const State &state, const ArrangementModel::State *photos)
 {
     isMaking_ = true;
-    maker_(state);
+    if (photos)
+        photosMaker_(*photos);
+    if (!photos || !state.isEmpty())
+        maker_(state);
     isMaking_ = false;
 }
 

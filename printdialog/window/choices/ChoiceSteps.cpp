@@ -35,7 +35,8 @@ ChoiceSteps::ChoiceSteps(const Widgets &widgets, QObject *parent)
     : QObject(parent)
     , widgets_(widgets)
     , watcher_(new ControlWatcher(this))
-    , history_(new ChoiceHistory([this](const ChoiceHistory::State &state) { make(state); }, this))
+    , history_(new ChoiceHistory([this](const ChoiceHistory::State &state) { make(state); },
+                                 [this](const ArrangementModel::State &state) { makePhotos(state); }, this))
     , copies_(widgets.copies->value())
 {
     connect(widgets.panels, &PanelTabs::viewMade, watcher_, [this](QWidget *view) {
@@ -53,6 +54,12 @@ ChoiceSteps::ChoiceSteps(const Widgets &widgets, QObject *parent)
         noteCopies(copies);
         watcher_->note(widgets_.copies);
     });
+    connect(widgets.photos, &ArrangementModel::changed, history_,
+            [this](const ArrangementModel::State &before) {
+                history_->changePhotos(before, widgets_.photos->state());
+            });
+    // What is done with the same control is another act when it is done to others.
+    connect(widgets.photos, &ArrangementModel::selectionChanged, watcher_, &ControlWatcher::endAct);
     const QKeySequence undoKey(Qt::CTRL | Qt::Key_Z);
     const QKeySequence redoKey(Qt::CTRL | Qt::SHIFT | Qt::Key_Z);
     prepareTool(widgets.undo, QStringLiteral("edit-undo"), QStringLiteral("\u21b6"), tr("Undo"), undoKey);
@@ -118,9 +125,7 @@ void ChoiceSteps::noteAct(QWidget *control)
 
 void ChoiceSteps::finishAct(QWidget *control, bool continues)
 {
-    if (!session_)
-        return;
-    if (GuardedPanel *panel = widgets_.panels->panelOf(control))
+    if (GuardedPanel *panel = session_ ? widgets_.panels->panelOf(control) : nullptr)
         session_->adoptChoices(*panel);
     Q_EMIT acted(control, continues);
 }
@@ -165,10 +170,17 @@ void ChoiceSteps::make(const ChoiceHistory::State &state)
     session_->chooseTogether(state);
 }
 
+void ChoiceSteps::makePhotos(const ArrangementModel::State &state)
+{
+    Q_EMIT aboutToMake();
+    watcher_->endAct();
+    widgets_.photos->restore(state);
+}
+
 void ChoiceSteps::updateButtons()
 {
-    widgets_.undo->setEnabled(session_ && history_->canUndo());
-    widgets_.redo->setEnabled(session_ && history_->canRedo());
+    widgets_.undo->setEnabled(history_->canUndo());
+    widgets_.redo->setEnabled(history_->canRedo());
 }
 
 } // namespace printdialog

@@ -10,12 +10,13 @@ class QToolButton;
 
 namespace printdialog {
 
+class ArrangementModel;
 class ControlWatcher;
 class DialogSession;
 class PanelTabs;
 
-/// Makes every act of the user a step that can be undone. It follows the session's choices and the number of
-/// copies, and detects when an act is over.
+/// Makes every act of the user a step that can be undone. It follows the session's choices, the number of
+/// copies and the photos, and detects when an act is over.
 class ChoiceSteps : public QObject
 {
     Q_OBJECT
@@ -26,6 +27,7 @@ public:
         QWidget *window;
         PanelTabs *panels;
         QSpinBox *copies;
+        ArrangementModel *photos;
         QToolButton *undo;
         QToolButton *redo;
     };
@@ -44,7 +46,8 @@ public:
     /// Sets the number of copies without making a step.
     void setCopies(int copies);
 
-    /// Watches a field outside the panels. Call noteAct() when the user has made a choice with it.
+    /// Watches a field outside the panels. Call noteAct() when the user has made a choice with it, or has
+    /// done something with the photos.
     void watchField(QWidget *field);
     void noteAct(QWidget *control);
     /// The next change begins a new act.
@@ -69,6 +72,7 @@ Q_SIGNALS:
 private:
     ChoiceHistory::State state() const;
     void make(const ChoiceHistory::State &state);
+    void makePhotos(const ArrangementModel::State &state);
     void finishAct(QWidget *control, bool continues);
     void noteCopies(int copies);
     void updateButtons();

@@ -23,10 +23,9 @@ bool isLeft(const QEvent *event)
     return reason != Qt::PopupFocusReason && reason != Qt::ActiveWindowFocusReason;
 }
 
-bool canContinue(const QWidget *control)
+bool isField(const QWidget *control)
 {
-    return pdekit::isTextField(control) || pdekit::isSlider(control) ||
-           qobject_cast<const QAbstractSpinBox *>(control);
+    return pdekit::isTextField(control) || qobject_cast<const QAbstractSpinBox *>(control);
 }
 
 bool isUndoOrRedo(const QEvent *event)
@@ -63,6 +62,18 @@ void ControlWatcher::watchControl(QWidget *control)
 void ControlWatcher::watchField(QWidget *field)
 {
     field->installEventFilter(this);
+    if (!isField(field))
+        canvases_.insert(field);
+}
+
+bool ControlWatcher::canContinue(QWidget *control) const
+{
+    return isField(control) || isDragged(control);
+}
+
+bool ControlWatcher::isDragged(QWidget *control) const
+{
+    return pdekit::isSlider(control) || canvases_.contains(control);
 }
 
 void ControlWatcher::note(QWidget *control)
@@ -80,7 +91,7 @@ bool ControlWatcher::eventFilter(QObject *watched, QEvent *event)
             endAct();
         break;
     case QEvent::MouseButtonPress:
-        if (watched == last_ && pdekit::isSlider(last_))
+        if (watched == last_ && isDragged(last_))
             endAct();
         break;
     case QEvent::ShortcutOverride:

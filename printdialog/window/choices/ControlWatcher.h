@@ -5,6 +5,7 @@
 
 #include <QtCore/QObject>
 #include <QtCore/QPointer>
+#include <QtCore/QSet>
 
 class QWidget;
 
@@ -22,8 +23,8 @@ public:
     /// Watches the tagged controls in the view, as long as they live. Call it once per view, after its panel
     /// has made it, so that the panel receives the controls' events first.
     void watchView(QWidget *view);
-    /// Watches one field for the end of the user's act. As in every watched text field, undo and redo are the
-    /// dialog's, not the field's own.
+    /// Watches one field, or a widget that something is dragged on, for the end of the user's act. As in
+    /// every watched text field, undo and redo are the dialog's, not the field's own.
     void watchField(QWidget *field);
     /// Records that the user has acted on the control.
     void note(QWidget *control);
@@ -42,8 +43,11 @@ protected:
 
 private:
     void watchControl(QWidget *control);
+    bool canContinue(QWidget *control) const;
+    bool isDragged(QWidget *control) const;
 
     QPointer<QWidget> last_;
+    QSet<QWidget *> canvases_; ///< The watched widgets that are neither fields nor sliders.
 };
 
 } // namespace printdialog

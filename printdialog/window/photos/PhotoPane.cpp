@@ -4,117 +4,76 @@
 #include "PhotoPane.h"
 
 #include "DroppedFiles.h"
-#include "PhotoStrip.h"
+#include "HeightGrip.h"
+#include "LayoutBar.h"
+#include "PhotoTable.h"
 #include "PhotoThreads.h"
 #include "PlacementBar.h"
 #include "PlacementText.h"
 #include "PlainText.h"
 #include "PreviewBar.h"
 #include "PreviewWidget.h"
+#include "PrintBar.h"
 #include "ScreenProfiles.h"
-#include "WrappingRow.h"
 
 #include <QtCore/QFileInfo>
+#include <QtCore/QLocale>
 #include <QtCore/QPointer>
 #include <QtGui/QDragEnterEvent>
 #include <QtGui/QWindow>
 #include <QtWidgets/QFileDialog>
-#include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QLabel>
+#include <QtWidgets/QLayout>
 #include <QtWidgets/QPushButton>
-#include <QtWidgets/QVBoxLayout>
 
 #include <algorithm>
 #include <utility>
 
 namespace printdialog {
 
-namespace {
-
-constexpr QSize smallestPreview(120, 100);
-
-} // namespace
-
 PhotoPane::PhotoPane(QWidget *parent)
     : QWidget(parent)
+    , model_(new ArrangementModel(this))
     , preview_(new PreviewWidget(this))
     , bar_(new PreviewBar(preview_, this))
     , placement_(new PlacementBar(this))
+    , more_(new QWidget(this))
+    , print_(new PrintBar(more_))
+    , layout_(new LayoutBar(more_))
+    , planNote_(new QLabel(this))
     , caption_(new QLabel(this))
     , add_(new QPushButton(tr("A&dd…"), this))
     , remove_(new QPushButton(tr("Re&move"), this))
-    , strip_(new PhotoStrip(this))
+    , table_(new PhotoTable(model_, this))
+    , grip_(new HeightGrip(table_, this))
     , opener_(new PhotoOpener(this))
     , screens_(new ScreenProfiles(screenProfileProgram(), this))
 {
-    preview_->setMinimumSize(smallestPreview);
-    preview_->setObjectName(QStringLiteral("preview"));
-    strip_->setObjectName(QStringLiteral("strip"));
-    caption_->setObjectName(QStringLiteral("photoLabel"));
-    caption_->setTextFormat(Qt::PlainText);
-    caption_->setWordWrap(true);
-    add_->setObjectName(QStringLiteral("addPhoto"));
-    add_->setAutoDefault(false);
-    add_->setToolTip(tr("Add photos to this job; they can be dropped on the window as well"));
-    remove_->setObjectName(QStringLiteral("removePhoto"));
-    remove_->setAutoDefault(false);
-    remove_->setToolTip(tr("Take the photo that is shown out of this job; its file stays"));
-    for (QPushButton *button : {add_, remove_})
-        button->setAccessibleDescription(button->toolTip());
-
-    caption_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
-    auto *row = new WrappingRow;
-    row->addWidget(caption_);
-    auto *buttons = new QHBoxLayout;
-    buttons->addWidget(add_);
-    buttons->addWidget(remove_);
-    row->addItem(buttons);
-    auto *layout = new QVBoxLayout(this);
-    layout->setContentsMargins({});
-    layout->addWidget(preview_, 1);
-    layout->addWidget(bar_);
-    layout->addWidget(placement_);
-    layout->addLayout(row);
-    layout->addWidget(strip_);
+    nameWidgets();
+    layOut();
+    connectControls();
+    connectTable();
     setAcceptDrops(true);
-
-    connect(preview_, &PreviewWidget::placementChanged, this, &PhotoPane::place);
-    connect(preview_, &PreviewWidget::photoPicked, this, [this](qsizetype index) {
-        setCurrent(static_cast<int>(sheets_.at(sheet_).photos.at(index).item));
-    });
-    connect(preview_, &PreviewWidget::sheetWanted, this, [this](int number) {
-        sheet_ = number;
-        setCurrent(static_cast<int>(sheets_.at(number).photos.constFirst().item));
-    });
-    connect(bar_, &PreviewBar::proofingChanged, this, &PhotoPane::showColors);
-    connect(screens_, &ScreenProfiles::changed, this, &PhotoPane::followScreen);
-    connect(placement_, &PlacementBar::placementChanged, this, &PhotoPane::place);
-    connect(strip_, &PhotoStrip::picked, this, &PhotoPane::setCurrent);
-    connect(strip_, &PhotoStrip::removalWanted, this, &PhotoPane::removePhoto);
-    connect(strip_, &PhotoStrip::moveWanted, this, &PhotoPane::movePhoto);
-    connect(opener_, &PhotoOpener::opened, this, &PhotoPane::append);
-    // After the photos, since these are what the user sees first.
-    connect(opener_, &PhotoOpener::finished, this, [this](PhotoOpener::Use use, const QStringList &failures) {
-        Q_EMIT photosChanged();
-        if (!failures.isEmpty())
-            Q_EMIT failed(use, failures);
-    });
-    connect(add_, &QPushButton::clicked, this, &PhotoPane::browse);
-    connect(remove_, &QPushButton::clicked, this, [this] { removePhoto(current_); });
     show();
+}
+
+/// Makes a change, which is one act of the user's.
+void PhotoPane::act(QWidget *control, const std::function<void()> &change)
+{
+    change();
+    Q_EMIT acted(control);
 }
 
 void PhotoPane::setPhotos(const QList<Photo> &photos, const PlacementChoice &placement,
                           const QStringList &furtherPaths)
 {
     initial_ = placement;
-    arrangement_.photos.clear();
+    Arrangement arrangement;
     for (const Photo &photo : photos) {
-        arrangement_.photos.append({photo, placement});
+        arrangement.photos.append({photo, placement});
         check(photo);
     }
-    current_ = arrangement_.photos.isEmpty() ? -1 : 0;
-    show();
+    model_->start(arrangement);
     opener_->open(furtherPaths, PhotoOpener::Use::Initial);
 }
 
@@ -122,6 +81,7 @@ void PhotoPane::setPage(const PageGeometry &page)
 {
     page_ = page;
     preview_->setPage(page);
+    updatePlan();
     showSheet();
     showCaption();
 }
@@ -132,6 +92,8 @@ void PhotoPane::setPlacedByPrinter(bool isPlaced)
         return;
     isPlacedByPrinter_ = isPlaced;
     placement_->setPlacedByPrinter(isPlaced);
+    print_->setPlacedByPrinter(isPlaced);
+    layout_->setEnabled(!isPlaced);
     show();
 }
 
@@ -173,17 +135,13 @@ void PhotoPane::addFiles(const QStringList &paths)
 
 void PhotoPane::append(const PhotoOpener::Batch &batch)
 {
-    const PlacementChoice &like = current_ < 0 ? initial_ : arrangement_.photos.at(current_).placement;
-    const PlacementChoice placement = batch.use == PhotoOpener::Use::Initial
-                                          ? initial_
-                                          : PlacementChoice{like.scaling, 0, PlacementChoice().crop};
-    const auto first = static_cast<int>(arrangement_.photos.size());
-    for (const Photo &photo : batch.photos) {
-        arrangement_.photos.append({photo, placement});
+    for (const Photo &photo : batch.photos)
         check(photo);
-    }
-    const bool showsIt = current_ < 0 || (batch.use == PhotoOpener::Use::Added && batch.isFirst);
-    setCurrent(showsIt ? first : current_);
+    if (batch.use == PhotoOpener::Use::Initial)
+        return model_->append(batch.photos, initial_);
+    if (batch.isFirst)
+        Q_EMIT actBegins();
+    act(add_, [&] { model_->add(batch.photos, initial_, batch.isFirst); });
 }
 
 QString PhotoPane::failureText(const QStringList &sentences)
@@ -204,8 +162,10 @@ void PhotoPane::check(const Photo &photo)
             if (!photo.damage())
                 return;
             QMetaObject::invokeMethod(qApp, [self] {
-                if (self)
-                    self->showCaption();
+                if (!self)
+                    return;
+                self->showCaption();
+                self->table_->viewport()->update();
             });
         },
         CheckedPhoto);
@@ -214,8 +174,8 @@ void PhotoPane::check(const Photo &photo)
 QList<int> PhotoPane::damagedPhotos() const
 {
     QList<int> damaged;
-    for (int i = 0; i < static_cast<int>(arrangement_.photos.size()); ++i) {
-        const PlacedPhoto &placed = arrangement_.photos.at(i);
+    for (int i = 0; i < model_->count(); ++i) {
+        const PlacedPhoto &placed = photos().at(i);
         if (!placed.isAccepted && placed.photo.isChecked() && placed.photo.damage())
             damaged.append(i);
     }
@@ -224,53 +184,34 @@ QList<int> PhotoPane::damagedPhotos() const
 
 void PhotoPane::acceptDamagedPhotos()
 {
-    const QList<int> damaged = damagedPhotos();
-    for (const int index : damaged)
-        arrangement_.photos[index].isAccepted = true;
-}
-
-void PhotoPane::removePhoto(int index)
-{
-    if (index < 0 || index >= arrangement_.photos.size())
-        return;
-    arrangement_.photos.removeAt(index);
-    if (current_ > index || current_ == arrangement_.photos.size())
-        --current_;
-    show();
-    Q_EMIT photosChanged();
-}
-
-void PhotoPane::movePhoto(int from, int to)
-{
-    if (from == to || std::min(from, to) < 0 || std::max(from, to) >= arrangement_.photos.size())
-        return;
-    arrangement_.photos.move(from, to);
-    current_ = to;
-    show();
-    Q_EMIT photosChanged();
-}
-
-void PhotoPane::setCurrent(int index)
-{
-    current_ = index;
-    show();
-    Q_EMIT photosChanged();
+    model_->accept(damagedPhotos());
 }
 
 void PhotoPane::place(const PlacementChoice &choice)
 {
-    if (current_ < 0 || arrangement_.photos.at(current_).placement == choice)
-        return;
-    arrangement_.photos[current_].placement = choice;
-    showSheet();
-    placement_->setPlacement(choice);
-    showCaption();
-    Q_EMIT placementChanged();
+    act(preview_, [this, &choice] {
+        model_->editCurrent([&choice](PlacedPhoto &photo) { photo.placement = choice; });
+    });
+}
+
+QString PhotoPane::whyNotPrintable() const
+{
+    return plan_.failure() ? plan_.failure()->text : QString();
+}
+
+bool PhotoPane::finishTyping()
+{
+    return print_->finish();
+}
+
+QList<QWidget *> PhotoPane::fields() const
+{
+    return QList<QWidget *>{preview_, add_} + print_->fields() + layout_->fields();
 }
 
 bool PhotoPane::isReady() const
 {
-    return !isOpening() && (arrangement_.photos.isEmpty() || (preview_->isReady() && strip_->isReady()));
+    return !isOpening() && (photos().isEmpty() || (preview_->isReady() && table_->isReady()));
 }
 
 // Inside a scroll area, requests only the minimum height: the preview shrinks before anything scrolls.
@@ -281,8 +222,8 @@ int PhotoPane::heightForWidth(int width) const
 
 void PhotoPane::browse()
 {
-    const QString folder =
-        current_ < 0 ? QString() : QFileInfo(arrangement_.photos.at(current_).photo.path()).path();
+    const PlacedPhoto *current = model_->currentPhoto();
+    const QString folder = current ? QFileInfo(current->photo.path()).path() : QString();
     const QStringList paths = QFileDialog::getOpenFileNames(this, tr("Add Photos"), folder);
     if (!paths.isEmpty())
         addFiles(paths);
@@ -290,61 +231,81 @@ void PhotoPane::browse()
 
 void PhotoPane::show()
 {
-    const PlacedPhoto shown = current_ < 0 ? PlacedPhoto() : arrangement_.photos.at(current_);
-    const PlacementChoice placement = isPlacedByPrinter_ ? PlacementChoice() : shown.placement;
+    updatePlan();
     showSheet();
-    placement_->setPlacement(placement);
-    placement_->setEnabled(current_ >= 0);
-    remove_->setEnabled(current_ >= 0);
-    QList<Photo> several; // a single photo needs no strip, and no thumbnail
-    for (const PlacedPhoto &placed : std::as_const(arrangement_.photos)) {
-        if (arrangement_.photos.size() > 1)
-            several.append(placed.photo);
-    }
-    strip_->setPhotos(several, several.isEmpty() ? -1 : current_);
-    strip_->setVisible(!several.isEmpty());
+    showControls();
     showCaption();
 }
 
 /// The sheet with the current photo: the one that is shown, if it is on it.
 void PhotoPane::showSheet()
 {
-    if (current_ < 0 || page_.printed().isEmpty()) {
-        const Photo photo = current_ < 0 ? Photo() : arrangement_.photos.at(current_).photo;
-        sheets_.clear();
+    const PlacedPhoto *current = model_->currentPhoto();
+    if (!current || plan_.sheets().isEmpty()) {
         preview_->setSheetNumber(0, 0);
-        return current_ < 0 ? preview_->setSheet({}, -1)
-                            : preview_->setSheet({photo.fileName(), {{photo}}}, 0);
+        return current ? preview_->setSheet({current->photo.fileName(), {{current->photo}}}, 0)
+                       : preview_->setSheet({}, -1);
     }
-    const Arrangement shown = isPlacedByPrinter_ ? arrangement_.unplaced() : arrangement_;
-    const SheetPlan plan = shown.plan(page_);
-    sheets_ = plan.sheets();
+    const QList<LaidSheet> &sheets = plan_.sheets();
     const auto placeOn = [this](const LaidSheet &sheet) {
-        const auto laid = std::ranges::find(sheet.photos, qsizetype(current_), &LaidPhoto::item);
+        const auto laid = std::ranges::find(sheet.photos, qsizetype(model_->current()), &LaidPhoto::item);
         return laid == sheet.photos.end() ? -1 : laid - sheet.photos.begin();
     };
-    if (sheet_ >= sheets_.size() || placeOn(sheets_.at(sheet_)) < 0)
-        sheet_ = std::max<qsizetype>(0, plan.sheetWith(current_));
-    preview_->setSheetNumber(static_cast<int>(sheet_), static_cast<int>(sheets_.size()));
-    preview_->setSheet(shown.sheet(sheets_.at(sheet_)), placeOn(sheets_.at(sheet_)),
-                       shown.photos.at(current_).placement);
+    if (sheet_ >= sheets.size() || placeOn(sheets.at(sheet_)) < 0)
+        sheet_ = std::max<qsizetype>(0, plan_.sheetWith(model_->current()));
+    preview_->setSheetNumber(static_cast<int>(sheet_), static_cast<int>(sheets.size()));
+    preview_->setSheet(arrangement().sheet(sheets.at(sheet_)), placeOn(sheets.at(sheet_)),
+                       isPlacedByPrinter_ ? PlacementChoice() : current->placement);
+}
+
+void PhotoPane::pickSheet(int number)
+{
+    sheet_ = number;
+    const auto item = static_cast<int>(plan_.sheets().at(number).photos.constFirst().item);
+    item == current() ? show() : setCurrent(item); // it may be on several sheets
+}
+
+void PhotoPane::showControls()
+{
+    placement_->showPhotos(*model_);
+    print_->showPhotos(*model_);
+    layout_->showLayout(arrangement().layout);
+    const bool hasPhotos = model_->count() > 0;
+    for (QWidget *control : std::initializer_list<QWidget *>{placement_, more_, remove_})
+        control->setEnabled(hasPhotos);
+    // A single photo needs no table, and no thumbnail.
+    table_->setVisible(model_->count() > 1);
+    grip_->setVisible(model_->count() > 1);
+}
+
+void PhotoPane::updatePlan()
+{
+    const Arrangement planned = isPlacedByPrinter_ ? arrangement().unplaced() : arrangement();
+    plan_ = page_.printed().isEmpty() || planned.photos.isEmpty() ? SheetPlan() : planned.plan(page_);
+    const bool isUsual = arrangement().layout == SheetLayout() && model_->count() <= 1;
+    QString note = whyNotPrintable();
+    if (note.isEmpty() && !isUsual && !isPlacedByPrinter_)
+        note = tr("Sheets: %1").arg(QLocale().toString(plan_.paperCount()));
+    planNote_->setText(note);
+    planNote_->setVisible(!note.isEmpty());
+    Q_EMIT planChanged();
 }
 
 void PhotoPane::showCaption()
 {
     QStringList lines;
-    if (current_ >= 0) {
-        const Photo &photo = arrangement_.photos.at(current_).photo;
+    if (const PlacedPhoto *current = model_->currentPhoto()) {
+        const Photo &photo = current->photo;
         const QString name = plainText(photo.fileName(), shownTextLimit);
-        lines += arrangement_.photos.size() == 1
+        lines += model_->count() == 1
                      ? name
-                     : tr("%1 (%2 of %3)").arg(name).arg(current_ + 1).arg(arrangement_.photos.size());
+                     : tr("%1 (%2 of %3)").arg(name).arg(model_->current() + 1).arg(model_->count());
         if (photo.isChecked() && photo.damage())
             lines += tr("Damaged: a part of the picture is missing or wrong.");
         if (isPlacedByPrinter_)
             lines += tr("The printer places it on the page itself; the preview is only an example.");
         else if (const auto placement = preview_->placement())
-            lines += placementText(photo, *placement, arrangement_.photos.at(current_).placement, page_);
+            lines += placementText(photo, *placement, current->placement, page_);
     }
     caption_->setText(lines.join(u'\n'));
 }

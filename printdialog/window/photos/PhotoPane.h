@@ -3,27 +3,31 @@
 
 #pragma once
 
-#include "Arrangement.h"
+#include "ArrangementModel.h"
 #include "PhotoOpener.h"
-#include "PhotoPlacement.h"
 #include "PictureAdjustment.h"
+#include "SheetPlan.h"
 
 #include <QtCore/QList>
 #include <QtCore/QStringList>
 #include <QtWidgets/QWidget>
 
+#include <functional>
 #include <optional>
 
 class QLabel;
-class QMimeData;
+class QLineEdit;
 class QPushButton;
 
 namespace printdialog {
 
-class PhotoStrip;
+class HeightGrip;
+class LayoutBar;
+class PhotoTable;
 class PlacementBar;
 class PreviewBar;
 class PreviewWidget;
+class PrintBar;
 class ScreenProfiles;
 
 /// What a printer does to every photo.
@@ -35,9 +39,9 @@ struct PrinterPicture
     QByteArray paperProfile = {}; ///< the ICC profile of its paper; empty when it names none
 };
 
-/// The photos of a job: the current one on its page with its placement, and all of them as a strip. Photos
-/// are added by a button or dropped from another program. They are opened, and then checked for damage, on a
-/// worker thread.
+/// The photos of a job: the current one on its page with its placement, and all of them as a table. What the
+/// user does here is done with the selected photos of the model. Photos are added by a button or dropped from
+/// another program. They are opened, and then checked for damage, on a worker thread.
 class PhotoPane : public QWidget
 {
     Q_OBJECT
@@ -53,8 +57,9 @@ public:
     bool isOpening() const { return opener_->isBusy(); }
     /// The sentences about files that cannot be printed, or the first ones and the number of the others.
     static QString failureText(const QStringList &sentences);
-    const QList<PlacedPhoto> &photos() const { return arrangement_.photos; }
-    const Arrangement &arrangement() const { return arrangement_; }
+    const QList<PlacedPhoto> &photos() const { return model_->photos(); }
+    const Arrangement &arrangement() const { return model_->arrangement(); }
+    ArrangementModel *model() const { return model_; }
     void setPage(const PageGeometry &page);
     /// Whether the printer places the photos itself, whatever their placement is. The preview is then only an
     /// example, and says so.
@@ -63,10 +68,8 @@ public:
 
     /// Opens the files and appends those that are photos.
     void addFiles(const QStringList &paths);
-    void removePhoto(int index);
-    void movePhoto(int from, int to);
-    void setCurrent(int index);
-    int current() const { return current_; }
+    void setCurrent(int index) { model_->setCurrent(index); }
+    int current() const { return model_->current(); }
     /// Replaces the placement of the current photo.
     void place(const PlacementChoice &choice);
 
@@ -75,7 +78,16 @@ public:
     /// Accepts the damaged photos: they are printed as they are.
     void acceptDamagedPhotos();
 
-    /// Whether everything is decoded for the preview and the strip.
+    /// Which photo lies on which sheet; without sheets as long as there is no page.
+    const SheetPlan &plan() const { return plan_; }
+    /// Why the photos cannot be printed as they are wanted: a sentence; empty when they can.
+    QString whyNotPrintable() const;
+    /// Ends what is being typed. False when it is not possible; refused() then says so.
+    bool finishTyping();
+    /// Widgets in which more than one event belongs to an act of the user's.
+    QList<QWidget *> fields() const;
+
+    /// Whether everything in sight is decoded for the preview and the table.
     bool isReady() const;
 
     int heightForWidth(int width) const override;
@@ -83,8 +95,16 @@ public:
 Q_SIGNALS:
     /// Photos were added, removed or moved, or another one is current, or the last file was opened.
     void photosChanged();
-    /// A photo's placement has changed.
+    /// A photo's placement has changed, or how the photos share sheets.
     void placementChanged();
+    /// The sheets are others, or whyNotPrintable() is.
+    void planChanged();
+    /// The user begins something of which more may follow.
+    void actBegins();
+    /// The user has done something with the photos, by the control.
+    void acted(QWidget *control);
+    /// A text that cannot be used was typed into the field: a sentence for people.
+    void refused(const QString &text, QLineEdit *field);
     /// Some of the files to be opened cannot be printed: a sentence for each.
     void failed(printdialog::PhotoOpener::Use use, const QStringList &sentences);
 
@@ -94,33 +114,46 @@ protected:
     void dropEvent(QDropEvent *event) override;
 
 private:
+    void nameWidgets();
+    void layOut();
+    void connectControls();
+    void connectTable();
+    void act(QWidget *control, const std::function<void()> &change);
     void browse();
     void append(const PhotoOpener::Batch &batch);
     void check(const Photo &photo);
     void show();
     void showSheet();
+    void pickSheet(int number);
+    void showControls();
     void showCaption();
+    void updatePlan();
+    void showMenu(const QPoint &globalPosition);
     void showColors();
     void followScreen();
 
+    ArrangementModel *model_;
     PreviewWidget *preview_;
     PreviewBar *bar_;
     PlacementBar *placement_;
+    QWidget *more_; ///< the controls that are shown on demand
+    PrintBar *print_;
+    LayoutBar *layout_;
+    QLabel *planNote_;
     QLabel *caption_;
     QPushButton *add_;
     QPushButton *remove_;
-    PhotoStrip *strip_;
+    PhotoTable *table_;
+    HeightGrip *grip_;
     PhotoOpener *opener_;
-    Arrangement arrangement_;
     PlacementChoice initial_;
     PageGeometry page_;
+    SheetPlan plan_;
+    qsizetype sheet_ = 0; ///< the one that is shown
     ScreenProfiles *screens_;
     QByteArray screenProfile_; ///< of the screen that shows the window
     QByteArray paperProfile_;
     bool isPlacedByPrinter_ = false;
-    int current_ = -1;        ///< -1 without photos
-    qsizetype sheet_ = 0;     ///< the one that is shown
-    QList<LaidSheet> sheets_; ///< of the plan that is shown
 };
 
 } // namespace printdialog

@@ -4,12 +4,14 @@
 #include "PlacementBar.h"
 
 #include "ArrangementText.h"
+#include "CommonValue.h"
 #include "WrappingRow.h"
 
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QPushButton>
+#include <QtWidgets/QToolButton>
 
 namespace printdialog {
 
@@ -19,10 +21,16 @@ constexpr int shortestScaling = 8; // characters of the placement that a narrow 
 
 } // namespace
 
+void turnPhoto(PlacedPhoto &photo)
+{
+    photo.placement.turns = (photo.placement.turns + 1) % 4;
+}
+
 PlacementBar::PlacementBar(QWidget *parent)
     : QWidget(parent)
     , scaling_(new QComboBox(this))
     , turn_(new QPushButton(tr("&Turn"), this))
+    , more_(new QToolButton(this))
 {
     auto *label = new QLabel(tr("P&lacement:"), this);
     label->setBuddy(scaling_);
@@ -31,11 +39,20 @@ PlacementBar::PlacementBar(QWidget *parent)
     scaling_->setAccessibleName(tr("Placement of the photo"));
     scaling_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     scaling_->setMinimumContentsLength(shortestScaling);
+    scaling_->setPlaceholderText(severalText());
     for (const Scaling scaling : {Scaling::Fit, Scaling::Fill, Scaling::ActualSize})
         scaling_->addItem(scalingText(scaling), static_cast<int>(scaling));
     turn_->setObjectName(QStringLiteral("turn"));
     turn_->setAutoDefault(false);
     turnHint_ = tr("Turn the photo on the page by a quarter, clockwise");
+    more_->setObjectName(QStringLiteral("more"));
+    more_->setText(tr("More"));
+    more_->setCheckable(true);
+    more_->setArrowType(Qt::DownArrow);
+    more_->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    more_->setFocusPolicy(Qt::TabFocus);
+    more_->setToolTip(tr("Size, border and copies of the photos, and how they share sheets"));
+    more_->setAccessibleDescription(more_->toolTip());
     setPlacedByPrinter(false);
     auto *labelled = new QHBoxLayout;
     labelled->addWidget(label);
@@ -43,13 +60,15 @@ PlacementBar::PlacementBar(QWidget *parent)
     auto *layout = new WrappingRow(this);
     layout->addItem(labelled);
     layout->addWidget(turn_);
+    layout->addWidget(more_);
     connect(scaling_, &QComboBox::activated, this, [this](int index) {
-        choice_.scaling = static_cast<Scaling>(scaling_->itemData(index).toInt());
-        Q_EMIT placementChanged(choice_);
+        const auto scaling = static_cast<Scaling>(scaling_->itemData(index).toInt());
+        Q_EMIT edited([scaling](PlacedPhoto &photo) { photo.placement.scaling = scaling; }, scaling_);
     });
-    connect(turn_, &QPushButton::clicked, this, [this] {
-        choice_.turns = (choice_.turns + 1) % 4;
-        Q_EMIT placementChanged(choice_);
+    connect(turn_, &QPushButton::clicked, this, [this] { Q_EMIT edited(turnPhoto, turn_); });
+    connect(more_, &QToolButton::toggled, this, [this](bool areWanted) {
+        more_->setArrowType(areWanted ? Qt::UpArrow : Qt::DownArrow);
+        Q_EMIT moreWanted(areWanted);
     });
 }
 
@@ -64,10 +83,16 @@ void PlacementBar::setPlacedByPrinter(bool isPlaced)
     }
 }
 
-void PlacementBar::setPlacement(const PlacementChoice &choice)
+void PlacementBar::showMore()
 {
-    choice_ = choice;
-    scaling_->setCurrentIndex(scaling_->findData(static_cast<int>(choice.scaling)));
+    more_->setChecked(true);
+}
+
+void PlacementBar::showPhotos(const ArrangementModel &photos)
+{
+    const auto scaling =
+        commonValue(photos, [](const PlacedPhoto &photo) { return photo.placement.scaling; });
+    scaling_->setCurrentIndex(scaling ? scaling_->findData(static_cast<int>(*scaling)) : -1);
 }
 
 } // namespace printdialog

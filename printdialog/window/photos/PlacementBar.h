@@ -3,16 +3,21 @@
 
 #pragma once
 
-#include "PhotoPlacement.h"
+#include "ArrangementModel.h"
 
 #include <QtWidgets/QWidget>
 
 class QComboBox;
 class QPushButton;
+class QToolButton;
 
 namespace printdialog {
 
-/// The controls for the current photo's placement on its page: its scaling, and a manual turn.
+/// Turns the photo by a quarter.
+void turnPhoto(PlacedPhoto &photo);
+
+/// The first controls for the selected photos: how they are scaled, and a turn by hand; and the button that
+/// opens the others.
 class PlacementBar : public QWidget
 {
     Q_OBJECT
@@ -20,20 +25,24 @@ class PlacementBar : public QWidget
 public:
     explicit PlacementBar(QWidget *parent = nullptr);
 
-    /// Shows the choice; no signal is emitted.
-    void setPlacement(const PlacementChoice &choice);
-    /// Whether the printer places the photo itself: then nothing can be chosen here, and the controls say
+    /// Shows what the selected photos have in common; no signal is emitted.
+    void showPhotos(const ArrangementModel &photos);
+    /// Whether the printer places the photos itself: then nothing can be chosen here, and the controls say
     /// why.
     void setPlacedByPrinter(bool isPlaced);
+    /// Asks for the other controls.
+    void showMore();
 
 Q_SIGNALS:
-    /// The user has chosen.
-    void placementChanged(const printdialog::PlacementChoice &choice);
+    /// The user has chosen something for the selected photos.
+    void edited(const printdialog::ArrangementModel::Edit &edit, QWidget *control);
+    /// Whether the other controls are wanted.
+    void moreWanted(bool areWanted);
 
 private:
     QComboBox *scaling_;
     QPushButton *turn_;
-    PlacementChoice choice_;
+    QToolButton *more_;
     QString turnHint_;
 };
 
