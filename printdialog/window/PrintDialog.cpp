@@ -71,6 +71,7 @@ PrintDialog::PrintDialog(const PrintDialogSetup &setup, QWidget *parent)
     connect(printing_, &PrintingController::closeRequested, this, [this] { QDialog::reject(); });
     connect(printing_, &PrintingController::dismissed, ui_->cancel,
             [this] { ui_->cancel->setFocus(Qt::OtherFocusReason); });
+    connect(printing_, &PrintingController::printed, ui_->photos->model(), &ArrangementModel::keep);
     connect(printing_, &PrintingController::ppdChanged, printer_.get(), &PrinterController::renewOptions);
     ui_->folder->setText(QDir::toNativeSeparators(QDir(setup.outputFolder).absolutePath()));
     ui_->printer->setStaying(

@@ -122,6 +122,7 @@ private:
     // The buttons
     bool pageStays();
     void closeUnlessPageStays();
+    void closeUnlessWorkIsLost();
     void cancelOrStop();
     void updateButtons();
 
@@ -140,7 +141,8 @@ private:
     PictureController *picture_ = nullptr;
     PrintingController *printing_ = nullptr;
     PrintPositionWindow *position_ = nullptr; ///< null before it is first opened
-    int listedSizes_ = 0; ///< the items of the paper-size list before those for a custom size
+    bool asksToLose_ = false; ///< the question in the message bar is whether to lose the photos' arrangement
+    int listedSizes_ = 0;     ///< the items of the paper-size list before those for a custom size
 };
 
 } // namespace printdialog

@@ -66,10 +66,27 @@ void PrintDialog::closeUnlessPageStays()
 {
     const QString reason = ui_->panels->whyPageStays();
     if (reason.isEmpty())
-        QDialog::reject();
+        closeUnlessWorkIsLost();
     else
         ui_->message->showWithAction(MessageBar::Kind::Warning, reason, tr("Close Anyway"),
                                      [this] { QDialog::reject(); });
+}
+
+/// Asks before the arrangement of several photos is lost; closing again is an answer, too.
+void PrintDialog::closeUnlessWorkIsLost()
+{
+    const bool isAnswered = asksToLose_ && ui_->message->isAsking();
+    asksToLose_ = !isAnswered && ui_->photos->model()->hasUnkeptWork();
+    if (!asksToLose_)
+        return QDialog::reject();
+    ui_->message->ask(tr("The photos were arranged and not printed. Close the window all the same?"),
+                      {{tr("Close Without Printing"),
+                        [this] {
+                            QDialog::reject();
+                        }},
+                       {tr("Keep Open"), [this] {
+                            ui_->cancel->setFocus(Qt::OtherFocusReason);
+                        }}});
 }
 
 void PrintDialog::reject()

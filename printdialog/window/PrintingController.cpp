@@ -62,6 +62,7 @@ bool PrintingController::print(int copies, const OutputFolder &wanted, const Que
     const std::optional<SessionJob> made = makeJob(copies);
     if (!made)
         return false;
+    testPage_.reset();
     begin(widgets_.photos->arrangement(), *made, folder, queue);
     return true;
 }
@@ -216,6 +217,8 @@ void PrintingController::showOutcome(const PrintOutcome &outcome)
     Q_EMIT stateChanged();
     if (outcome.hasDamaged)
         return askAboutDamage();
+    if (!testPage_ && outcome.failure.isEmpty() && outcome.unprinted.isEmpty() && !outcome.wasStopped)
+        Q_EMIT printed(arrangement_);
     const OutcomeText text(outcome, job_);
     MessageBar::Message message;
     if (!outcome.failure.isEmpty() || !outcome.skipped.isEmpty())

@@ -71,6 +71,8 @@ public:
 Q_SIGNALS:
     /// What the functions above answer has changed.
     void stateChanged();
+    /// A run is over, and everything of it is printed or with the print server.
+    void printed(const printdialog::Arrangement &arrangement);
     /// The user wants to print in spite of what was asked.
     void printRequested();
     /// The user wants the window closed, and has been told what that means.
@@ -100,10 +102,10 @@ private:
     Widgets widgets_;
     ChoiceController *choices_;
     PrintWorker *worker_;
-    std::unique_ptr<QTemporaryDir> testPage_; ///< holds its picture
+    std::unique_ptr<QTemporaryDir> testPage_; ///< holds its picture; null when photos were printed last
     DialogSession *session_ = nullptr;
-    PrintJob job_;                ///< of what is being printed, or was
     Arrangement arrangement_;     ///< what is being printed, or was
+    PrintJob job_;                ///< of what is being printed, or was
     QStringList remarks_;         ///< what was left out of it
     QStringList acceptedMissing_; ///< what is missing of the job, and the user prints without
     /// What is to be done about the files that are there already, of a PDF by its path.

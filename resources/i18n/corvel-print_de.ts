@@ -3972,6 +3972,18 @@ und das Programm merkt sie sich</translation>
         <source>Photos are still being opened.</source>
         <translation>Es werden noch Fotos geöffnet.</translation>
     </message>
+    <message>
+        <source>The photos were arranged and not printed. Close the window all the same?</source>
+        <translation>Die Fotos wurden angeordnet und nicht gedruckt. Das Fenster trotzdem schließen?</translation>
+    </message>
+    <message>
+        <source>Close Without Printing</source>
+        <translation>Ohne Drucken schließen</translation>
+    </message>
+    <message>
+        <source>Keep Open</source>
+        <translation>Offen lassen</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::PrintList</name>

@@ -3971,6 +3971,18 @@ están y el programa las recuerda</translation>
         <source>Photos are still being opened.</source>
         <translation>Aún se están abriendo fotos.</translation>
     </message>
+    <message>
+        <source>The photos were arranged and not printed. Close the window all the same?</source>
+        <translation>Las fotos se han dispuesto y no se han impreso. ¿Cerrar la ventana de todos modos?</translation>
+    </message>
+    <message>
+        <source>Close Without Printing</source>
+        <translation>Cerrar sin imprimir</translation>
+    </message>
+    <message>
+        <source>Keep Open</source>
+        <translation>Dejar abierta</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::PrintList</name>

@@ -3972,6 +3972,18 @@ elles sont, et le programme les retient</translation>
         <source>Photos are still being opened.</source>
         <translation>Des photos sont encore en cours d’ouverture.</translation>
     </message>
+    <message>
+        <source>The photos were arranged and not printed. Close the window all the same?</source>
+        <translation>Les photos ont été disposées mais pas imprimées. Fermer la fenêtre quand même&#xa0;?</translation>
+    </message>
+    <message>
+        <source>Close Without Printing</source>
+        <translation>Fermer sans imprimer</translation>
+    </message>
+    <message>
+        <source>Keep Open</source>
+        <translation>Laisser ouverte</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::PrintList</name>

@@ -3963,6 +3963,18 @@ where they are, and the program remembers them</source>
         <source>Photos are still being opened.</source>
         <translation>写真をまだ開いています。</translation>
     </message>
+    <message>
+        <source>The photos were arranged and not printed. Close the window all the same?</source>
+        <translation>写真の並べ方を変えましたが、まだ印刷していません。それでもウィンドウを閉じますか?</translation>
+    </message>
+    <message>
+        <source>Close Without Printing</source>
+        <translation>印刷せずに閉じる</translation>
+    </message>
+    <message>
+        <source>Keep Open</source>
+        <translation>開いたままにする</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::PrintList</name>

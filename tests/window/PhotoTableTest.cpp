@@ -338,6 +338,44 @@ private Q_SLOTS:
         QCOMPARE(opened.pane->photos().at(0).placement.size->toText(), u"5x7cm"_s);
     }
 
+    void closeAsksOnce_data()
+    {
+        using Act = std::function<void(const PhotoDialog &)>;
+        const auto add = [](const char *name, bool asks, const Act &act) {
+            QTest::newRow(name) << asks << act;
+        };
+        QTest::addColumn<bool>("asks");
+        QTest::addColumn<Act>("act");
+        add("nothing was done", false, [](const PhotoDialog &) {});
+        add("a photo was removed", false, [](const PhotoDialog &opened) { opened.press(Qt::Key_Delete); });
+        add("turned", true, [](const PhotoDialog &opened) { opened.click(u"turn"_s); });
+        add("turned and taken back", false, [](const PhotoDialog &opened) {
+            opened.click(u"turn"_s);
+            opened.undo();
+        });
+        add("moved", true, [](const PhotoDialog &opened) { opened.press(Qt::Key_Right, Qt::AltModifier); });
+        add("laid out and printed", false, [](const PhotoDialog &opened) {
+            opened.click(u"turn"_s);
+            opened.click(u"print"_s);
+            QTRY_VERIFY(opened.message().contains(u"rinted"_s));
+        });
+    }
+
+    void closeAsksOnce()
+    {
+        QFETCH(bool, asks);
+        QFETCH(std::function<void(const PhotoDialog &)>, act);
+        const PhotoDialog opened(letters(u"a b c"_s));
+        act(opened);
+        opened.dialog->close();
+        QCOMPARE(opened.dialog->isVisible(), asks);
+        if (!asks)
+            return;
+        QVERIFY(opened.find<MessageBar>(u"message"_s)->isAsking());
+        opened.dialog->close();
+        QVERIFY(!opened.dialog->isVisible());
+    }
+
     // Sanity, not speed: nothing may take a time that grows with the square of the number.
     void aThousandPhotos()
     {
