@@ -10,9 +10,6 @@
 
 #include <QtCore/QFile>
 
-#include <cerrno>
-#include <fcntl.h>
-
 using namespace std::chrono_literals;
 
 namespace printdialog {
@@ -21,13 +18,6 @@ namespace {
 
 using End = PatientOutcome::End;
 using State = PhotoRecord::State;
-
-/// Whether the file's own permissions keep it from being read, and not its disk.
-bool isForbidden(const QByteArray &path)
-{
-    const pdekit::FileDescriptor file(::open(path.constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY));
-    return file.isOpen() || errno == EACCES || errno == EPERM;
-}
 
 } // namespace
 
@@ -154,11 +144,6 @@ PatientOutcome WatchLoop::printOne(const FolderFile &file)
         photo = Photo::open(path(file.name));
         if (!isThere(file))
             return {End::Vanished, {}};
-        const bool isRead = *photo || photo->failure().reason != PhotoFault::NotReadable;
-        if (!isRead && !isForbidden(watch_.pathOf(file.name))) {
-            watch_.postpone(file); // its disk does not answer, for example
-            return {End::Vanished, {}};
-        }
     }
     if (!*photo)
         return {End::Unfit, photo->failure().text};
@@ -225,6 +210,8 @@ QString WatchLoop::finish(const FolderFile &file, const PatientOutcome &outcome)
     case End::OtherPrinter:
         return outcome.text;
     case End::Vanished:
+        watch_.postpone(file); // its disk may only not have answered
+        break;
     case End::Stopped:
         break;
     }

@@ -10,18 +10,30 @@
 #include <QtCore/QFile>
 
 #include <cerrno>
+#include <fcntl.h>
 #include <sys/stat.h>
 
 namespace printdialog {
 
 namespace {
 using State = PhotoRecord::State;
+
+/// Sets errno.
+bool canBeRead(const QByteArray &path)
+{
+    const pdekit::FileDescriptor file(::open(path.constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY));
+    char byte = 0;
+    return file.isOpen() && ::read(file.number(), &byte, 1) >= 0;
+}
 } // namespace
 
-/// A program that writes a photo in several steps may only have begun: it gets a second chance.
+/// A program that writes a photo in several steps may only have begun: it gets a second chance. A file whose
+/// disk does not answer gets as many as it needs.
 void WatchLoop::unfit(const FolderFile &file, const QString &reason)
 {
-    if (!postponed_.contains(file.identity)) {
+    const auto mark = busy(control_);
+    const bool isReadable = isThere(file) && (canBeRead(watch_.pathOf(file.name)) || errno == EACCES);
+    if (!isReadable || !postponed_.contains(file.identity)) {
         postponed_.insert(file.identity);
         watch_.postpone(file);
     } else {

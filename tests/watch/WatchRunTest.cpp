@@ -68,13 +68,18 @@ private Q_SLOTS:
         QVERIFY(cupsd_.run(u"cupsreject"_s, {u"photo"_s}) && cupsd_.run(u"cupsenable"_s, {u"photo"_s}));
         QTRY_COMPARE(jobsOf(u"1.jpg"_s), 1);
         QTRY_VERIFY(contentOf(place_.filePath(u"err"_s)).contains("2.jpg waits"));
+        QFile changed(place_.filePath(u"new/2.jpg"_s)); // another photo from now on
+        QVERIFY(changed.open(QIODevice::ReadWrite) &&
+                changed.setFileTime(QDateTime::currentDateTime().addDays(-1), QFile::FileModificationTime));
+        changed.close();
+        QTRY_COMPARE(contentOf(place_.filePath(u"err"_s)).count("2.jpg waits"), 2);
         QVERIFY(cupsd_.run(u"cupsaccept"_s, {u"photo"_s}));
         QTRY_COMPARE(QDir(place_.filePath(u"done"_s)).entryList(QDir::Files).size(), 2);
         QCOMPARE(jobsOf(u"1.jpg"_s), 1);
         QCOMPARE(jobsOf(u"2.jpg"_s), 1);
         const QByteArray complaints = contentOf(place_.filePath(u"err"_s));
         QVERIFY2(complaints.count("1.jpg (job") == 1 && complaints.count("Printing 1.jpg continues") == 1 &&
-                     complaints.count("2.jpg waits") == 1 &&
+                     complaints.count("2.jpg waits") == 2 &&
                      complaints.count("Printing 2.jpg continues") == 1,
                  complaints.constData());
         end(*program);
@@ -102,18 +107,19 @@ private Q_SLOTS:
     // Killed between the server's answer and the record of it.
     void findsTheJobThatWasBegun_data()
     {
-        const auto add = rows<bool, QByteArray>();
-        add("the server has it", true, QByteArray("Printed 1.jpg"));
-        add("the server has forgotten it", false, QByteArray("unclear whether \"1.jpg\" was printed"));
+        const auto add = rows<bool, QString, QByteArray>();
+        add("the server has it", true, u"kept.jpg"_s, QByteArray("Printed kept.jpg"));
+        add("the server has forgotten it", false, u"gone.jpg"_s,
+            QByteArray("unclear whether \"gone.jpg\" was printed"));
     }
 
     void findsTheJobThatWasBegun()
     {
-        const auto [isKept, words] = row<bool, QByteArray>();
+        const auto [isKept, photo, words] = row<bool, QString, QByteArray>();
         QVERIFY(cupsd_.run(u"cupsdisable"_s, {u"photo"_s}));
         auto program = start();
         QTRY_COMPARE(starts(), 1);
-        QVERIFY(arrive(u"1.jpg"_s));
+        QVERIFY(arrive(photo));
         QTRY_VERIFY(contentOf(place_.filePath(u"err"_s)).contains("waits"));
         program->kill();
         QVERIFY(program->waitForFinished());
@@ -127,8 +133,8 @@ private Q_SLOTS:
         QTRY_VERIFY(
             (contentOf(place_.filePath(u"out"_s)) + contentOf(place_.filePath(u"err"_s))).contains(words));
         end(*program);
-        QCOMPARE(jobsOf(u"1.jpg"_s), isKept ? 1 : 0);
-        QCOMPARE(QFile::exists(place_.filePath(u"done/1.jpg"_s)), isKept);
+        QCOMPARE(jobsOf(photo), isKept ? 1 : 0);
+        QCOMPARE(QFile::exists(place_.filePath(u"done/"_s + photo)), isKept);
     }
 
     // Each photo is printed exactly once, or it is reported that this is unclear, and none is lost.
