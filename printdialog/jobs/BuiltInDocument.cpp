@@ -44,19 +44,20 @@ Failure<OutputFault> outputFailureOf(const Failure<PdfFault> &failure)
 
 } // namespace
 
-BuiltInDocument::BuiltInDocument(AtomicFiles files, const PrintJob &job)
+BuiltInDocument::BuiltInDocument(AtomicFiles files, const PrintJob &job, const OutputFolder &folder)
     : files_(std::move(files))
     , job_(job)
+    , folder_(folder)
 {
 }
 
-Result<std::unique_ptr<BuiltInDocument>, OutputFault> BuiltInDocument::open(const QString &name,
-                                                                            const PrintJob &job)
+Result<std::unique_ptr<BuiltInDocument>, OutputFault>
+BuiltInDocument::open(const QString &name, const PrintJob &job, const OutputFolder &folder)
 {
-    auto files = AtomicFiles::open(job.folder.path);
+    auto files = AtomicFiles::open(folder.path);
     if (!files)
         return files.failure();
-    auto document = std::unique_ptr<BuiltInDocument>(new BuiltInDocument(*std::move(files), job));
+    auto document = std::unique_ptr<BuiltInDocument>(new BuiltInDocument(*std::move(files), job, folder));
     auto pdf = document->files_.add(name + PrintedNames::pageSuffix);
     if (!pdf)
         return pdf.failure();
@@ -90,8 +91,8 @@ Result<PrintedFiles, OutputFault> BuiltInDocument::finish()
     if (unwritten)
         return outputFailureOf(*unwritten);
     ticketDevice_->write(ticket());
-    const auto paths = files_.commit(job_.folder.isOverwritten ? AtomicFiles::Earlier::Replaced
-                                                               : AtomicFiles::Earlier::Kept);
+    const auto paths =
+        files_.commit(folder_.isOverwritten ? AtomicFiles::Earlier::Replaced : AtomicFiles::Earlier::Kept);
     if (!paths)
         return paths.failure();
     return PrintedFiles{paths->at(0), paths->at(1)};

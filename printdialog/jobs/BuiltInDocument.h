@@ -38,8 +38,8 @@ public:
     /// Creates both files, so that an unusable folder or name is detected before the work. A missing folder
     /// is created, with its parents, and removed again unless the document is finished.
     /// @param name the common name of both files, without suffix
-    static Result<std::unique_ptr<BuiltInDocument>, OutputFault> open(const QString &name,
-                                                                      const PrintJob &job);
+    static Result<std::unique_ptr<BuiltInDocument>, OutputFault>
+    open(const QString &name, const PrintJob &job, const OutputFolder &folder);
     Q_DISABLE_COPY_MOVE(BuiltInDocument)
 
     /// Adds a page. A damaged photo that is not accepted is a failure; any failure spoils the document.
@@ -48,12 +48,13 @@ public:
     Result<PrintedFiles, OutputFault> finish();
 
 private:
-    BuiltInDocument(AtomicFiles files, const PrintJob &job);
+    BuiltInDocument(AtomicFiles files, const PrintJob &job, const OutputFolder &folder);
 
     QByteArray ticket() const;
 
     AtomicFiles files_;
     PrintJob job_;
+    OutputFolder folder_;
     QIODevice *ticketDevice_ = nullptr; ///< of files_
     std::unique_ptr<PdfWriter> writer_;
     QJsonArray sheets_;

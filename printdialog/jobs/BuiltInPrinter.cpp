@@ -10,9 +10,10 @@ namespace printdialog {
 namespace {
 
 /// `name` is the common name of both files, without suffix.
-Result<PrintedFiles, OutputFault> printAs(const QString &name, const PrintSheet &sheet, const PrintJob &job)
+Result<PrintedFiles, OutputFault> printAs(const QString &name, const PrintSheet &sheet, const PrintJob &job,
+                                          const OutputFolder &folder)
 {
-    auto document = BuiltInDocument::open(name, job);
+    auto document = BuiltInDocument::open(name, job, folder);
     if (!document)
         return document.failure();
     if (const auto failure = (*document)->add(sheet))
@@ -28,7 +29,7 @@ Result<PrintedFiles, OutputFault> BuiltInPrinter::print(const PrintSheet &sheet,
     constexpr int mostTries = 100;
     for (int tries = 1;; ++tries) {
         const QString name = names.nameFor(sheet.photos.constFirst().photo.path());
-        auto files = printAs(name, sheet, job);
+        auto files = printAs(name, sheet, job, names.folder());
         const bool isTaken = !files && files.failure().reason == OutputFault::NameTaken;
         if (files || (isTaken && !names.folder().isOverwritten))
             names.markTaken(name);

@@ -68,7 +68,7 @@ Result<QString, SheetPrinter::Fault> SheetPrinter::addPage(const PrintSheet &she
         return Failure<Fault>{{std::nullopt, true}, damage->text, damage->detail};
     if (!document_) {
         documentName_ = names_.nameFor(*job_.folder.document + PrintedNames::pageSuffix);
-        auto opened = BuiltInDocument::open(documentName_, job_);
+        auto opened = BuiltInDocument::open(documentName_, job_, names_.folder());
         if (!opened)
             return failureOf(opened.failure());
         document_ = *std::move(opened);
