@@ -145,7 +145,7 @@ private Q_SLOTS:
         add("the first is slow", {{60, 1}, {65, 2}}, 8, u"less than a minute"_s);
         add("the first and another are slow", {{60, 1}, {70, 2}, {80, 3}, {140, 4}, {150, 5}}, 24,
             u"about 4 minutes"_s);
-        add("noticed together", {{60, 10}}, 100, u"about 10 minutes"_s);
+        add("noticed together", {{60, 1}, {60, 2}, {60, 3}, {60, 10}}, 100, u"about 10 minutes"_s);
         add("a minute", {{30, 1}, {60, 2}}, 2, u"about 1 minute"_s);
         add("rounded", {{10, 1}, {20, 2}}, 140, u"about 25 minutes"_s);
         add("hours", {{30, 1}, {60, 2}}, 250, u"about 2 hours"_s);
