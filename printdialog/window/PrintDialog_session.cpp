@@ -80,7 +80,7 @@ void PrintDialog::showFolder(bool isBuiltIn)
     ui_->browse->setVisible(isBuiltIn);
     ui_->documents->setVisible(isBuiltIn);
     ui_->documentName->setVisible(isBuiltIn && ui_->documents->currentIndex() > 0);
-    ui_->jobs->setVisible(!isBuiltIn);
+    ui_->statusRow->setVisible(!isBuiltIn);
 }
 
 // Its session

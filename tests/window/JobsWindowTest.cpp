@@ -141,6 +141,8 @@ private Q_SLOTS:
     {
         const OpenedDialog builtIn(setupFor(PanelMode::Constraint));
         QVERIFY(!builtIn.isSeen(u"jobs"_s));
+        QCOMPARE(inWindow(builtIn.find<QWidget>(u"printer"_s)).right(),
+                 inWindow(builtIn.find<QWidget>(u"browse"_s)).right());
     }
 
     // A run that ends with waiting jobs leads to them; they are not printed once more.
