@@ -13,10 +13,34 @@
 
 namespace printdialog {
 
+namespace {
+
+/// The list's photos, as far as they can be opened.
+void openList(const QString &path, PrintDialogSetup &setup)
+{
+    const auto list = PrintList::load(path);
+    if (!list) {
+        setup.photoFailures += list.failure().text;
+        return;
+    }
+    setup.arrangement = Arrangement{{}, list->layout};
+    for (const PrintList::Entry &entry : list->photos) {
+        if (const auto photo = Photo::open(entry.path))
+            setup.arrangement->photos += PlacedPhoto{*photo, entry.placement, false, entry.copies};
+        else
+            setup.photoFailures.append(photo.failure().text);
+    }
+}
+
+} // namespace
+
 PrintDialogSetup windowSetup(const CommandLine &commandLine)
 {
     PrintDialogSetup setup;
-    setup.furtherPaths = commandLine.photos;
+    if (commandLine.hasPrintList())
+        openList(commandLine.photos.constFirst(), setup);
+    else
+        setup.furtherPaths = commandLine.photos;
     while (setup.photos.isEmpty() && !setup.furtherPaths.isEmpty()) {
         if (const auto photo = Photo::open(setup.furtherPaths.takeFirst()))
             setup.photos.append(*photo);
@@ -32,7 +56,8 @@ PrintDialogSetup windowSetup(const CommandLine &commandLine)
     if (commandLine.title)
         setup.options.append({JobTemplate::titleKey(), QStringLiteral("Custom.") + *commandLine.title});
     setup.copies = commandLine.copies;
-    setup.placement = commandLine.style.over({}).placement;
+    if (commandLine.style != RequestedStyle())
+        setup.style = commandLine.style.over({});
     setup.outputFolder = commandLine.outputFolder();
     return setup;
 }
@@ -41,7 +66,9 @@ int runWindow(const CommandLine &commandLine, QApplication & /*application*/)
 {
     Console console;
     const PrintDialogSetup setup = windowSetup(commandLine);
-    if (setup.photos.isEmpty() && !setup.photoFailures.isEmpty()) {
+    const bool hasPhotos =
+        !setup.photos.isEmpty() || (setup.arrangement && !setup.arrangement->photos.isEmpty());
+    if (!hasPhotos && !setup.photoFailures.isEmpty()) {
         console.complain(Console::oneLine(setup.photoFailures));
         return exitFailed;
     }

@@ -117,7 +117,10 @@ PrintDialog::PrintDialog(const PrintDialogSetup &setup, QWidget *parent)
                     setup_.photoFailures += sentences;
                 showPhotoFailures(isInitial ? setup_.photoFailures : sentences);
             });
-    ui_->photos->setPhotos(setup.photos, setup.placement, setup.furtherPaths);
+    if (setup.arrangement)
+        ui_->photos->setArrangement(*setup.arrangement);
+    else
+        ui_->photos->setPhotos(setup.photos, setup.style.value_or(ArrangementStyle()), setup.furtherPaths);
     showPhoto();
     followPrinter();
     printer_->start(ui_->printer);

@@ -3,9 +3,9 @@
 
 #pragma once
 
+#include "Arrangement.h"
 #include "JobSummary.h"
 #include "Photo.h"
-#include "PhotoPlacement.h"
 #include "PrintJob.h"
 #include "PrinterDescription.h"
 #include "Queue.h"
@@ -47,8 +47,9 @@ struct PrintDialogSetup
     QList<QPair<QString, QString>> options; ///< initial choices, in order
     std::optional<int> copies;              ///< initial number
     QString outputFolder;                   ///< where the built-in printer leaves its files
-    bool remembers = true;     ///< open with the printer used last, and remember the one used now
-    PlacementChoice placement; ///< initial placement of each photo
+    bool remembers = true;                 ///< open with the printer used last, and remember the one used now
+    std::optional<ArrangementStyle> style; ///< initial arrangement; that of the printer's last use when empty
+    std::optional<Arrangement> arrangement; ///< the initial photos of a print list, in place of `photos`
 };
 
 /// The print dialog: the photo on its page, the printer, and the panels of the printer's plug-in. It works at

@@ -179,6 +179,8 @@ bool PrintDialog::applyOptions(Requested which)
     DialogSession &session = *printer_->session();
     if (setup_.copies && which == Requested::All)
         ui_->copies->setValue(*setup_.copies);
+    if (setup_.style && which == Requested::All && ui_->photos->model()->isAsOpened())
+        ui_->photos->model()->open(*setup_.style);
     // Those of a queue's job wait for its attributes.
     const bool isAwaiting = printer_->hasOldOptions() && session.attributes().isEmpty();
     for (const auto &[key, choice] : std::as_const(setup_.options)) {

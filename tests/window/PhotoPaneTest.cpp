@@ -77,7 +77,7 @@ private:
         auto pane = std::make_unique<PhotoPane>();
         pane->resize(500, 600);
         pane->setPage(page);
-        pane->setPhotos(photos, placement);
+        pane->setPhotos(photos, {placement});
         pane->QWidget::show();
         return QTest::qWaitForWindowExposed(pane.get()) ? std::move(pane) : nullptr;
     }
@@ -265,7 +265,7 @@ void PhotoPaneTest::paperIsWhiteInDarkThemes()
     pane.setPalette(dark);
     pane.resize(500, 600);
     pane.setPage(bordered);
-    pane.setPhotos({photoOf(u"photo.jpg"_s)}, {Scaling::ActualSize, 0, {0.5, 0.5}});
+    pane.setPhotos({photoOf(u"photo.jpg"_s)}, {{Scaling::ActualSize}});
     pane.QWidget::show();
     auto *preview = pane.findChild<PreviewWidget *>();
     QTRY_VERIFY(preview->isReady());
@@ -392,7 +392,7 @@ void PhotoPaneTest::manyPhotos()
     connect(pane.get(), &PhotoPane::photosChanged, pane.get(), [&steps] { ++steps; });
     connect(pane.get(), &PhotoPane::failed, pane.get(),
             [&failures](PhotoOpener::Use, const QStringList &sentences) { failures += sentences; });
-    pane->setPhotos({first}, {Scaling::Fill, 1, {0.1, 0.2}}, further);
+    pane->setPhotos({first}, {{Scaling::Fill, 1, {0.1, 0.2}}}, further);
     QVERIFY(pane->isOpening());
     pane->QWidget::show();
     QTRY_VERIFY(!pane->isOpening());
@@ -421,7 +421,7 @@ void PhotoPaneTest::manyPhotos()
 void PhotoPaneTest::droppedFiles()
 {
     PhotoPane pane;
-    pane.setPhotos({photoOf(u"a.jpg"_s)}, {Scaling::Fill, 0, {0.5, 0.5}});
+    pane.setPhotos({photoOf(u"a.jpg"_s)}, {{Scaling::Fill}});
     pane.place({Scaling::ActualSize, 1, {0, 0}});
     const QByteArray odd = QFile::encodeName(folder_.path()) + "/caf\xc3\xa9 %41.jpg";
     photoOf(u"source.jpg"_s);

@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: Corvel print dialog authors
 // SPDX-License-Identifier: Apache-2.0
 
+#include "ArrangementModel.h"
+#include "PhotoPane.h"
 #include "PresetBar.h"
 #include "PresetStore.h"
 #include "QueueTest.h"
@@ -15,7 +17,8 @@ namespace {
 enum Action { Save, SaveAs, Rename, Remove };
 
 /// The options that a backend was started with, without what lp and the scheduler add to every job, in one
-/// letter case: lp turns True and False into truth values.
+/// letter case: lp turns True and False into truth values. It also sends how the dialog arranges photos,
+/// which printers ignore.
 QStringList optionsOf(const RecordedJob &job)
 {
     QStringList options;
@@ -28,7 +31,7 @@ QStringList optionsOf(const RecordedJob &job)
         const bool isOfLp =
             QStringList{u"finishings=3"_s, u"number-up=1"_s, u"print-color-mode=color"_s}.contains(option);
         if (isOfLp || option.startsWith(u"job-"_s) || option.contains(u"time-at-"_s) ||
-            option.startsWith(u"document-"_s))
+            option.startsWith(u"document-"_s) || option.startsWith(u"corvel-"_s))
             continue;
         options += option.toLower();
     }
@@ -179,6 +182,47 @@ private Q_SLOTS:
         opened->dialog->saveSettings();
         use(*opened, u"warm"_s);
         QCOMPARE(opened->message(), QString()); // of the settings that were saved
+    }
+
+    void theyHoldTheArrangement()
+    {
+        PlacementChoice placement{Scaling::Fill};
+        placement.size = PrintSize::fromText(u"passport"_s);
+        placement.border = *PhotoBorder::fromText(u"1mm,#204080"_s);
+        const ArrangementStyle passports{placement, *SheetLayout::fromText(u"fit,gap=2mm"_s)};
+        const auto model = [](const OpenedDialog &opened) {
+            return opened.find<PhotoPane>(u"photos"_s)->model();
+        };
+        const auto isModified = [](const OpenedDialog &opened) {
+            return opened.find<QMenu>(u"presetMenu"_s)->actions().at(Save)->isEnabled();
+        };
+        {
+            const auto opened = openQueue();
+            model(*opened)->setStyle(passports);
+            act(*opened, SaveAs);
+            name(*opened, u"pass photos 証明"_s);
+            QCOMPARE(error(*opened), QString());
+            QVERIFY(!isModified(*opened));
+            opened->click(u"turn"_s);
+            const ArrangementStyle turned = model(*opened)->style();
+            QVERIFY(turned != passports && isModified(*opened));
+            use(*opened, u"pass photos 証明"_s);
+            QVERIFY(model(*opened)->style() == passports && !isModified(*opened));
+            opened->undo();
+            QVERIFY(model(*opened)->style() == turned);
+            opened->redo();
+            QVERIFY(print(*opened) > 0);
+        }
+        // What was used last comes back with the printer, but not over what the user has arranged or asked
+        // for.
+        const auto again = openQueue();
+        QVERIFY(model(*again)->style() == passports && model(*again)->isAsOpened());
+        PrintDialogSetup asked = setupForPrinter(mode_, u"photo"_s);
+        asked.style = ArrangementStyle{{Scaling::Fill}};
+        const OpenedDialog other(asked);
+        other.dialog->searchPrinters();
+        QVERIFY(showsReady(other, u"photo"_s));
+        QVERIFY(model(other)->style() == *asked.style);
     }
 
     void builtInPrinterHasPresets()

@@ -161,12 +161,12 @@ void PreviewTest::zoomingKeepsTheCrop()
     samples::store(photos_.filePath(u"square.png"_s),
                    samples::encoded(tones().copy(0, 0, 1000, 1000), "png"));
     square.photos = {*Photo::open(photos_.filePath(u"square.png"_s))};
-    square.placement = {Scaling::Fill, 0, {0.4, 0.5}};
+    square.style = ArrangementStyle{{Scaling::Fill, 0, {0.4, 0.5}}};
     const OpenedPreview opened(square);
     PreviewWidget &preview = *opened.preview;
     const auto isKept = [&] {
         const auto *pane = opened.dialog->findChild<PhotoPane *>();
-        return pane->photos().constFirst().placement == square.placement;
+        return pane->photos().constFirst().placement == square.style->placement;
     };
     const QPoint middle = preview.rect().center();
     const std::unique_ptr<QPointingDevice> screen(QTest::createTouchDevice());

@@ -18,7 +18,7 @@ ChoiceController::ChoiceController(const ChoiceWidgets &widgets, QObject *parent
     , refusals_(new ChoiceRefusals(widgets.window, widgets.panels, widgets.message, this))
     , steps_(new ChoiceSteps(
           {widgets.window, widgets.panels, widgets.copies, widgets.photos, widgets.undo, widgets.redo}, this))
-    , presets_(new PresetController(widgets.presets, widgets.message, steps_, this))
+    , presets_(new PresetController(widgets.presets, widgets.message, steps_, widgets.photos, this))
 {
     connect(refusals_, &ChoiceRefusals::offerAccepted, steps_, [this] { steps_->note(); });
     connect(steps_, &ChoiceSteps::acted, this, &ChoiceController::endAct);

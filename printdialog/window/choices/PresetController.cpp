@@ -3,6 +3,7 @@
 
 #include "PresetController.h"
 
+#include "ArrangementModel.h"
 #include "ChoiceSteps.h"
 #include "CustomChoice.h"
 #include "DialogSession.h"
@@ -23,13 +24,16 @@
 
 namespace printdialog {
 
-PresetController::PresetController(PresetBar *bar, MessageBar *message, ChoiceSteps *steps, QObject *parent)
+PresetController::PresetController(PresetBar *bar, MessageBar *message, ChoiceSteps *steps,
+                                   ArrangementModel *photos, QObject *parent)
     : QObject(parent)
     , bar_(bar)
     , message_(message)
     , steps_(steps)
+    , photos_(photos)
 {
     makeActions();
+    connect(photos_, &ArrangementModel::placementChanged, this, &PresetController::update);
     update();
 }
 
@@ -88,7 +92,7 @@ void PresetController::update()
 {
     revert_->setEnabled(steps_->canRevert());
     if (const QString preset = bar_->current(); !preset.isEmpty())
-        bar_->setCurrent(preset, steps_->differsFromPreset());
+        bar_->setCurrent(preset, differsFromPreset());
 }
 
 /// Whether the preset exists and is now in use. Shows a message when a requested one is missing.
@@ -114,6 +118,9 @@ void PresetController::openWithLastChoices()
     const UsedChoices usedLast = useChoices(*session_, last);
     const UsedChoices used = useChoices(*session_, defaults);
     steps_->setCopies(usedLast.copies.value_or(used.copies.value_or(1)));
+    // What the user has done with the photos stays, whatever the printer.
+    if (usedLast.style && photos_->isAsOpened())
+        photos_->open(*usedLast.style);
     sayLeftOut(leftOutLines(tr("Of the choices used last, some are left out:"), usedLast.leftOut) +
                leftOutOfDefaults(used.leftOut));
 }
@@ -134,6 +141,8 @@ QMap<QString, QString> PresetController::withCopies(QMap<QString, QString> optio
         return isCustomChoice(*choice) && isSecret(session_->options().customParameters(choice.key()));
     });
     options.insert(QLatin1String(copiesOption), QString::number(steps_->copies()));
+    if (!session_->printer().isRaw)
+        photos_->style().insertInto(options);
     return options;
 }
 
@@ -162,7 +171,7 @@ void PresetController::load()
     }
     const QString current = bar_->current();
     bar_->setNames(names);
-    bar_->setCurrent(current, steps_->differsFromPreset());
+    bar_->setCurrent(current, differsFromPreset());
     if (!presets)
         bar_->showError(presets.failure().text);
 }
@@ -170,7 +179,16 @@ void PresetController::load()
 void PresetController::mark(const QString &name)
 {
     steps_->markPreset();
+    const auto presets = store_->presets();
+    const Preset *preset = presets ? PresetStore::find(*presets, name) : nullptr;
+    QMap<QString, QString> options = preset ? preset->options : QMap<QString, QString>();
+    markedStyle_ = ArrangementStyle::takeFrom(options);
     bar_->setCurrent(name, false);
+}
+
+bool PresetController::differsFromPreset() const
+{
+    return steps_->differsFromPreset() || (markedStyle_ && photos_->style() != *markedStyle_);
 }
 
 void PresetController::use(const QString &name)
@@ -202,6 +220,8 @@ QStringList PresetController::restore(const QString &name)
 QStringList PresetController::take(const UsedChoices &used, const QString &name)
 {
     steps_->setCopies(used.copies.value_or(1));
+    if (used.style)
+        photos_->setStyle(*used.style);
     steps_->note();
     mark(name);
     return used.leftOut;
@@ -299,7 +319,7 @@ void PresetController::rename(const QString &name, const QString &typed)
     }
     bar_->endEditing();
     load();
-    bar_->setCurrent(newName, steps_->differsFromPreset());
+    bar_->setCurrent(newName, differsFromPreset());
 }
 
 void PresetController::remove(const QString &name)

@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "ArrangementStyle.h"
+
 #include <QtCore/QMap>
 #include <QtCore/QObject>
 #include <QtCore/QString>
@@ -14,6 +16,7 @@ class QAction;
 
 namespace printdialog {
 
+class ArrangementModel;
 class ChoiceSteps;
 class DialogSession;
 class IppAttributes;
@@ -22,13 +25,15 @@ class PresetBar;
 class PresetStore;
 struct UsedChoices;
 
-/// Loads choices from a printer's presets and from the last time, and saves them there.
+/// Loads choices, and how photos are arranged, from a printer's presets and from the last time, and saves
+/// them there.
 class PresetController : public QObject
 {
     Q_OBJECT
 
 public:
-    PresetController(PresetBar *bar, MessageBar *message, ChoiceSteps *steps, QObject *parent);
+    PresetController(PresetBar *bar, MessageBar *message, ChoiceSteps *steps, ArrangementModel *photos,
+                     QObject *parent);
     ~PresetController() override;
 
     /// Makes the choices of the preset that the printer's id names, or else those last used with the
@@ -69,6 +74,7 @@ private:
     QMap<QString, QString> withoutDefaults(QMap<QString, QString> choices) const;
     QMap<QString, QString> withCopies(QMap<QString, QString> options) const;
     void mark(const QString &name);
+    bool differsFromPreset() const;
     void sayLeftOut(const QStringList &lines);
     static QStringList leftOutLines(const QString &introduction, const QStringList &sentences);
     static QStringList leftOutOfDefaults(const QStringList &sentences);
@@ -76,6 +82,8 @@ private:
     PresetBar *bar_;
     MessageBar *message_;
     ChoiceSteps *steps_;
+    ArrangementModel *photos_;
+    std::optional<ArrangementStyle> markedStyle_; ///< of the preset in use; nothing when it has none
     QAction *revert_ = nullptr;
     DialogSession *session_ = nullptr;
     std::unique_ptr<PresetStore> store_;

@@ -45,11 +45,11 @@ void ArrangementModel::start(const Arrangement &arrangement)
     Q_EMIT photosChanged();
 }
 
-void ArrangementModel::append(const QList<Photo> &photos, const PlacementChoice &placement)
+void ArrangementModel::append(const QList<Photo> &photos)
 {
     const int first = count();
     for (const Photo &photo : photos)
-        opened_.append({photo, placement});
+        opened_.append({photo, opening_.placement});
     appendOpened();
     kept_.photos += opened_.last(photos.size());
     notePlaces(first);
@@ -125,13 +125,13 @@ void ArrangementModel::selectAll()
         select(allIndexes(count()), state_.current);
 }
 
-void ArrangementModel::add(const QList<Photo> &photos, const PlacementChoice &placement, bool isFirst)
+void ArrangementModel::add(const QList<Photo> &photos, bool isFirst)
 {
     if (photos.isEmpty())
         return;
     const State before = state_;
     PlacedPhoto placed;
-    placed.placement = currentPhoto() ? currentPhoto()->placement : placement;
+    placed.placement = currentPhoto() ? currentPhoto()->placement : opening_.placement;
     placed.placement.turns = 0;
     placed.placement.crop = PlacementChoice().crop;
     const int first = count();
@@ -293,6 +293,45 @@ void ArrangementModel::setLayout(const SheetLayout &layout)
     state_.arrangement.layout = layout;
     Q_EMIT changed(before);
     Q_EMIT placementChanged();
+}
+
+ArrangementStyle ArrangementModel::style() const
+{
+    ArrangementStyle style{currentPhoto() ? currentPhoto()->placement : opening_.placement,
+                           arrangement().layout};
+    style.placement.crop = PlacementChoice().crop;
+    return style;
+}
+
+void ArrangementModel::setStyle(const ArrangementStyle &style)
+{
+    const State before = state_;
+    state_.arrangement.setStyle(style);
+    if (photos().isEmpty())
+        opening_ = style;
+    if (std::ranges::equal(photos(), before.arrangement.photos, isSame) &&
+        style.layout == before.arrangement.layout)
+        return;
+    Q_EMIT changed(before);
+    Q_EMIT placementChanged();
+}
+
+void ArrangementModel::open(const ArrangementStyle &style)
+{
+    opening_ = style;
+    for (PlacedPhoto &placed : opened_)
+        placed.placement = style.placement;
+    state_.arrangement.setStyle(style);
+    kept_ = state_.arrangement;
+    Q_EMIT placementChanged();
+}
+
+bool ArrangementModel::isAsOpened() const
+{
+    return arrangement().layout == opening_.layout &&
+           std::ranges::all_of(photos(), [this](const PlacedPhoto &placed) {
+               return placed.placement == opening_.placement && placed.copies == 1;
+           });
 }
 
 void ArrangementModel::accept(const QList<int> &indexes)

@@ -50,10 +50,20 @@ public:
     /// Null without photos. Valid until the next change.
     const PlacedPhoto *currentPhoto() const;
 
+    /// The current photo's placement, without its crop, and the layout: what a preset holds.
+    ArrangementStyle style() const;
+    /// Arranges all photos in the style, which is one change.
+    void setStyle(const ArrangementStyle &style);
+    /// Arranges all photos, and those that are opened later, in the style to begin with: nothing that is
+    /// taken back.
+    void open(const ArrangementStyle &style);
+    /// Whether everything still is as it was opened.
+    bool isAsOpened() const;
+
     /// Begins with the arrangement, its first photo selected.
     void start(const Arrangement &arrangement);
     /// Appends photos that the arrangement should have begun with, had they been opened by then.
-    void append(const QList<Photo> &photos, const PlacementChoice &placement);
+    void append(const QList<Photo> &photos);
     /// Returns to a state that was reported, or that a change led to; what was opened since is appended.
     void restore(const State &state);
     /// Whether the user would lose work with the arrangement: several photos whose order, placements or
@@ -71,7 +81,7 @@ public:
 
     /// Appends the photos, placed like the current one, or like `placement` when there is none. Unless more
     /// are added to others, the first of them is then the current one.
-    void add(const QList<Photo> &photos, const PlacementChoice &placement, bool isFirst = true);
+    void add(const QList<Photo> &photos, bool isFirst = true);
     void remove(const QList<int> &indexes);
     void removeSelected() { remove(state_.selection); }
     /// Moves the selected photos before the one with this index, or to the end; their order stays.
@@ -108,6 +118,7 @@ private:
     State state_;
     QList<PlacedPhoto> opened_; ///< Those from the beginning, as they were then.
     Arrangement kept_;
+    ArrangementStyle opening_;
     QHash<QString, int> givenPlaces_; ///< By path, in the order in which the files were added.
 };
 

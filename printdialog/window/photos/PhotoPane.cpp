@@ -64,17 +64,22 @@ void PhotoPane::act(QWidget *control, const std::function<void()> &change)
     Q_EMIT acted(control);
 }
 
-void PhotoPane::setPhotos(const QList<Photo> &photos, const PlacementChoice &placement,
+void PhotoPane::setPhotos(const QList<Photo> &photos, const ArrangementStyle &style,
                           const QStringList &furtherPaths)
 {
-    initial_ = placement;
     Arrangement arrangement;
-    for (const Photo &photo : photos) {
-        arrangement.photos.append({photo, placement});
-        check(photo);
-    }
-    model_->start(arrangement);
+    for (const Photo &photo : photos)
+        arrangement.photos.append({photo});
+    setArrangement(arrangement);
+    model_->open(style);
     opener_->open(furtherPaths, PhotoOpener::Use::Initial);
+}
+
+void PhotoPane::setArrangement(const Arrangement &arrangement)
+{
+    for (const PlacedPhoto &placed : arrangement.photos)
+        check(placed.photo);
+    model_->start(arrangement);
 }
 
 void PhotoPane::setPage(const PageGeometry &page)
@@ -138,10 +143,10 @@ void PhotoPane::append(const PhotoOpener::Batch &batch)
     for (const Photo &photo : batch.photos)
         check(photo);
     if (batch.use == PhotoOpener::Use::Initial)
-        return model_->append(batch.photos, initial_);
+        return model_->append(batch.photos);
     if (batch.isFirst)
         Q_EMIT actBegins();
-    act(add_, [&] { model_->add(batch.photos, initial_, batch.isFirst); });
+    act(add_, [&] { model_->add(batch.photos, batch.isFirst); });
 }
 
 QString PhotoPane::failureText(const QStringList &sentences)

@@ -51,12 +51,14 @@ public:
 
     /// Sets the initial photos, all with the same placement; later ones are placed like the current one.
     /// Further initial photos are opened, and appended.
-    void setPhotos(const QList<Photo> &photos, const PlacementChoice &placement,
+    void setPhotos(const QList<Photo> &photos, const ArrangementStyle &style,
                    const QStringList &furtherPaths = {});
     /// Whether files are still being opened.
     bool isOpening() const { return opener_->isBusy(); }
     /// The sentences about files that cannot be printed, or the first ones and the number of the others.
     static QString failureText(const QStringList &sentences);
+    /// Sets the initial photos, each as it is wanted.
+    void setArrangement(const Arrangement &arrangement);
     const QList<PlacedPhoto> &photos() const { return model_->photos(); }
     const Arrangement &arrangement() const { return model_->arrangement(); }
     ArrangementModel *model() const { return model_; }
@@ -146,7 +148,6 @@ private:
     PhotoTable *table_;
     HeightGrip *grip_;
     PhotoOpener *opener_;
-    PlacementChoice initial_;
     PageGeometry page_;
     SheetPlan plan_;
     qsizetype sheet_ = 0; ///< the one that is shown
