@@ -127,20 +127,10 @@ Result<WatchOrder, std::monostate> WatchRun::order() const
         return refusal(job.failure().text);
     order.job = *std::move(job);
     order.job.folder = {QDir(commandLine_.outputFolder()).absolutePath(), false, {}};
-    if (order.job.destination.isBuiltIn() && isSameFolder(order.folder, order.job.folder.path))
-        return refusal(tr("The built-in printer would leave its files in the watched folder, \"%1\". Choose "
-                          "another one with --output.")
-                           .arg(order.folder));
     order.printsExisting = commandLine_.existing;
-    order.style = commandLine_.style.over(requested->style);
-    // The next photo may be hours away: each one fills sheets of its own.
-    if (order.style.layout.kind != SheetLayout::Kind::Contact)
-        order.style.layout.isRepeated = true;
-    // What fits for no photo is better reported now.
-    const SheetPlan plan = SheetPlan::make({LayoutItem{QSize(1500, 1000), 300, order.style.placement}},
-                                           order.style.layout, order.job.page);
-    if (plan.failure())
-        return refusal(plan.failure()->text);
+    order.setStyle(commandLine_.style.over(requested->style));
+    if (const auto why = order.whyImpossible())
+        return refusal(*why);
     return order;
 }
 

@@ -3,9 +3,9 @@
 
 #pragma once
 
-#include "Arrangement.h"
 #include "FolderWatch.h"
 #include "PatientPrinter.h"
+#include "WatchOrder.h"
 #include "WatchRecord.h"
 
 #include <QtCore/QCoreApplication>
@@ -16,17 +16,6 @@
 #include <optional>
 
 namespace printdialog {
-
-/// Which folder's photos are printed, and how.
-struct WatchOrder
-{
-    QString folder;                 ///< exists
-    std::optional<QString> printed; ///< where photos are moved once they are printed; exists
-    bool printsExisting = false;    ///< also those that are there when the folder is first watched
-    PrintJob job;                   ///< of each photo
-    ArrangementStyle style;         ///< of each photo, which is alone with its sheet
-    WatchPace pace;
-};
 
 /// What another thread does to a watch, and sees of it.
 struct WatchControl

@@ -6,6 +6,7 @@
 #include "ChoiceController.h"
 #include "DialogSession.h"
 #include "EscapeGuard.h"
+#include "FolderController.h"
 #include "GuardedPanel.h"
 #include "HelpWindow.h"
 #include "JobsWindow.h"
@@ -15,6 +16,7 @@
 #include "PrinterController.h"
 #include "PrintingController.h"
 #include "TouchWatch.h"
+#include "WatchBar.h"
 #include "WrappingRow.h"
 #include "ui_PrintDialog.h"
 
@@ -66,6 +68,8 @@ PrintDialog::PrintDialog(const PrintDialogSetup &setup, QWidget *parent)
                                     this);
     picture_ = new PictureController(ui_->photos, this);
     printing_ = new PrintingController({ui_->photos, ui_->progress, ui_->message}, choices_, this);
+    folder_ = new FolderController({ui_->photos, ui_->photos->watchBar(), ui_->message}, choices_, this);
+    connect(ui_->photos->watchBar(), &WatchBar::switched, this, &PrintDialog::watchFolder);
     connect(printing_, &PrintingController::stateChanged, this, &PrintDialog::updateButtons);
     connect(printing_, &PrintingController::printRequested, this, &PrintDialog::print);
     connect(printing_, &PrintingController::closeRequested, this, [this] { QDialog::reject(); });
@@ -233,6 +237,16 @@ void PrintDialog::showPhotoFailures(const QStringList &sentences)
         ui_->message->append(message.text);
     else
         ui_->message->show(message);
+}
+
+void PrintDialog::watchFolder(bool isWanted)
+{
+    if (!isWanted)
+        folder_->stop();
+    else if (isReady() && !pageStays() && ui_->customPage->finish())
+        folder_->start(ui_->copies->value(), ui_->folder->text(), printer_->queue());
+    else
+        ui_->photos->watchBar()->setWatching(false);
 }
 
 void PrintDialog::browseFolder()

@@ -28,6 +28,7 @@ namespace printdialog {
 
 class CheckedPpd;
 class ChoiceController;
+class FolderController;
 class DialogSession;
 class IppAttributes;
 class PictureController;
@@ -129,6 +130,7 @@ private:
 
     SummaryEntries summary() const;
     void showPhoto();
+    void watchFolder(bool isWanted);
     void showPhotoFailures(const QStringList &sentences);
     void browseFolder();
     OutputFolder outputFolder() const;
@@ -141,6 +143,7 @@ private:
     ChoiceController *choices_ = nullptr;
     PictureController *picture_ = nullptr;
     PrintingController *printing_ = nullptr;
+    FolderController *folder_ = nullptr;
     PrintPositionWindow *position_ = nullptr; ///< null before it is first opened
     bool asksToLose_ = false; ///< the question in the message bar is whether to lose the photos' arrangement
     int listedSizes_ = 0;     ///< the items of the paper-size list before those for a custom size

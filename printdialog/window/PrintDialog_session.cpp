@@ -3,6 +3,7 @@
 
 #include "ChoiceController.h"
 #include "DialogSession.h"
+#include "FolderController.h"
 #include "JobTemplate.h"
 #include "PictureController.h"
 #include "PrintDialog.h"
@@ -91,6 +92,7 @@ void PrintDialog::closeSession()
     picture_->setSession(nullptr);
     ui_->panels->setSession(nullptr);
     printing_->setSession(nullptr);
+    folder_->setSession(nullptr);
     ui_->pageSize->clear();
     ui_->customPage->hide();
 }
@@ -106,6 +108,7 @@ void PrintDialog::showSession()
     // Queued: the failure occurs in the middle of an operation that shows its own messages.
     connect(session, &DialogSession::panelFailed, this, &PrintDialog::showPanelFailure, Qt::QueuedConnection);
     printing_->setSession(session);
+    folder_->setSession(session);
     const auto noPanels = session->loadPanels();
     choices_->setSession(session, printer_->builtInPreset());
     if (applyOptions())

@@ -2638,6 +2638,17 @@ und das Programm merkt sie sich</translation>
     </message>
 </context>
 <context>
+    <name>printdialog::FolderController</name>
+    <message>
+        <source>The last photos of the folder are still being printed. Try again in a moment.</source>
+        <translation>Die letzten Fotos des Ordners werden noch gedruckt. Versuchen Sie es gleich noch einmal.</translation>
+    </message>
+    <message>
+        <source>Waiting for new photos.</source>
+        <translation>Es wird auf neue Fotos gewartet.</translation>
+    </message>
+</context>
+<context>
     <name>printdialog::FolderPrinter</name>
     <message>
         <source>The folder &quot;%1&quot; does not answer. Look after its disk or its network connection; printing continues when it answers.</source>
@@ -4413,6 +4424,30 @@ und das Programm merkt sie sich</translation>
     </message>
 </context>
 <context>
+    <name>printdialog::WatchBar</name>
+    <message>
+        <source>Print new photos of this folder:</source>
+        <translation>Neue Fotos dieses Ordners drucken:</translation>
+    </message>
+    <message>
+        <source>Photos that arrive in the folder are printed as they come, each once and with the present choices, until this is switched off or the window is closed</source>
+        <translation>Fotos, die im Ordner ankommen, werden gleich gedruckt, jedes einmal und mit den jetzigen Einstellungen, bis dies ausgeschaltet oder das Fenster geschlossen wird</translation>
+    </message>
+    <message>
+        <source>Folder for new photos</source>
+        <translation>Ordner für neue Fotos</translation>
+    </message>
+    <message>
+        <source>Choose…</source>
+        <comment>a folder</comment>
+        <translation>Wählen…</translation>
+    </message>
+    <message>
+        <source>Folder for New Photos</source>
+        <translation>Ordner für neue Fotos</translation>
+    </message>
+</context>
+<context>
     <name>printdialog::WatchLoop</name>
     <message>
         <source>The folder &quot;%1&quot; is there again.</source>
@@ -4456,6 +4491,13 @@ und das Programm merkt sie sich</translation>
     </message>
 </context>
 <context>
+    <name>printdialog::WatchOrder</name>
+    <message>
+        <source>The built-in printer would leave its files in the watched folder, &quot;%1&quot;. Choose another folder for them.</source>
+        <translation>Der eingebaute Drucker würde seine Dateien im überwachten Ordner „%1“ ablegen. Wählen Sie für sie einen anderen Ordner.</translation>
+    </message>
+</context>
+<context>
     <name>printdialog::WatchRecord</name>
     <message>
         <source>Another program watches the folder &quot;%1&quot; already. End it first, or choose another folder.</source>
@@ -4487,10 +4529,6 @@ und das Programm merkt sie sich</translation>
     <message>
         <source>--printed and --watch name the same folder, &quot;%1&quot;. Choose another one for the printed photos.</source>
         <translation>--printed und --watch nennen denselben Ordner, „%1“. Wählen Sie einen anderen für die gedruckten Fotos.</translation>
-    </message>
-    <message>
-        <source>The built-in printer would leave its files in the watched folder, &quot;%1&quot;. Choose another one with --output.</source>
-        <translation>Der eingebaute Drucker würde seine Dateien im überwachten Ordner „%1“ ablegen. Wählen Sie mit --output einen anderen.</translation>
     </message>
 </context>
 </TS>

@@ -2637,6 +2637,17 @@ están y el programa las recuerda</translation>
     </message>
 </context>
 <context>
+    <name>printdialog::FolderController</name>
+    <message>
+        <source>The last photos of the folder are still being printed. Try again in a moment.</source>
+        <translation>Aún se están imprimiendo las últimas fotos de la carpeta. Inténtelo de nuevo dentro de un momento.</translation>
+    </message>
+    <message>
+        <source>Waiting for new photos.</source>
+        <translation>Esperando fotos nuevas.</translation>
+    </message>
+</context>
+<context>
     <name>printdialog::FolderPrinter</name>
     <message>
         <source>The folder &quot;%1&quot; does not answer. Look after its disk or its network connection; printing continues when it answers.</source>
@@ -4412,6 +4423,30 @@ están y el programa las recuerda</translation>
     </message>
 </context>
 <context>
+    <name>printdialog::WatchBar</name>
+    <message>
+        <source>Print new photos of this folder:</source>
+        <translation>Imprimir las fotos nuevas de esta carpeta:</translation>
+    </message>
+    <message>
+        <source>Photos that arrive in the folder are printed as they come, each once and with the present choices, until this is switched off or the window is closed</source>
+        <translation>Las fotos que llegan a la carpeta se imprimen enseguida, cada una una vez y con las opciones actuales, hasta que esto se desactive o se cierre la ventana</translation>
+    </message>
+    <message>
+        <source>Folder for new photos</source>
+        <translation>Carpeta de las fotos nuevas</translation>
+    </message>
+    <message>
+        <source>Choose…</source>
+        <comment>a folder</comment>
+        <translation>Elegir…</translation>
+    </message>
+    <message>
+        <source>Folder for New Photos</source>
+        <translation>Carpeta de las fotos nuevas</translation>
+    </message>
+</context>
+<context>
     <name>printdialog::WatchLoop</name>
     <message>
         <source>The folder &quot;%1&quot; is there again.</source>
@@ -4455,6 +4490,13 @@ están y el programa las recuerda</translation>
     </message>
 </context>
 <context>
+    <name>printdialog::WatchOrder</name>
+    <message>
+        <source>The built-in printer would leave its files in the watched folder, &quot;%1&quot;. Choose another folder for them.</source>
+        <translation>La impresora integrada dejaría sus archivos en la carpeta vigilada, «%1». Elija otra carpeta para ellos.</translation>
+    </message>
+</context>
+<context>
     <name>printdialog::WatchRecord</name>
     <message>
         <source>Another program watches the folder &quot;%1&quot; already. End it first, or choose another folder.</source>
@@ -4486,10 +4528,6 @@ están y el programa las recuerda</translation>
     <message>
         <source>--printed and --watch name the same folder, &quot;%1&quot;. Choose another one for the printed photos.</source>
         <translation>--printed y --watch nombran la misma carpeta, «%1». Elija otra para las fotos impresas.</translation>
-    </message>
-    <message>
-        <source>The built-in printer would leave its files in the watched folder, &quot;%1&quot;. Choose another one with --output.</source>
-        <translation>La impresora integrada dejaría sus archivos en la carpeta vigilada, «%1». Elija otra con --output.</translation>
     </message>
 </context>
 </TS>

@@ -2638,6 +2638,17 @@ elles sont, et le programme les retient</translation>
     </message>
 </context>
 <context>
+    <name>printdialog::FolderController</name>
+    <message>
+        <source>The last photos of the folder are still being printed. Try again in a moment.</source>
+        <translation>Les dernières photos du dossier sont encore en cours d’impression. Réessayez dans un instant.</translation>
+    </message>
+    <message>
+        <source>Waiting for new photos.</source>
+        <translation>En attente de nouvelles photos.</translation>
+    </message>
+</context>
+<context>
     <name>printdialog::FolderPrinter</name>
     <message>
         <source>The folder &quot;%1&quot; does not answer. Look after its disk or its network connection; printing continues when it answers.</source>
@@ -4413,6 +4424,30 @@ elles sont, et le programme les retient</translation>
     </message>
 </context>
 <context>
+    <name>printdialog::WatchBar</name>
+    <message>
+        <source>Print new photos of this folder:</source>
+        <translation>Imprimer les nouvelles photos de ce dossier :</translation>
+    </message>
+    <message>
+        <source>Photos that arrive in the folder are printed as they come, each once and with the present choices, until this is switched off or the window is closed</source>
+        <translation>Les photos qui arrivent dans le dossier sont imprimées aussitôt, chacune une fois et avec les choix actuels, jusqu’à ce que ce soit désactivé ou que la fenêtre soit fermée</translation>
+    </message>
+    <message>
+        <source>Folder for new photos</source>
+        <translation>Dossier des nouvelles photos</translation>
+    </message>
+    <message>
+        <source>Choose…</source>
+        <comment>a folder</comment>
+        <translation>Choisir…</translation>
+    </message>
+    <message>
+        <source>Folder for New Photos</source>
+        <translation>Dossier des nouvelles photos</translation>
+    </message>
+</context>
+<context>
     <name>printdialog::WatchLoop</name>
     <message>
         <source>The folder &quot;%1&quot; is there again.</source>
@@ -4456,6 +4491,13 @@ elles sont, et le programme les retient</translation>
     </message>
 </context>
 <context>
+    <name>printdialog::WatchOrder</name>
+    <message>
+        <source>The built-in printer would leave its files in the watched folder, &quot;%1&quot;. Choose another folder for them.</source>
+        <translation>L’imprimante intégrée laisserait ses fichiers dans le dossier surveillé, « %1 ». Choisissez-leur un autre dossier.</translation>
+    </message>
+</context>
+<context>
     <name>printdialog::WatchRecord</name>
     <message>
         <source>Another program watches the folder &quot;%1&quot; already. End it first, or choose another folder.</source>
@@ -4487,10 +4529,6 @@ elles sont, et le programme les retient</translation>
     <message>
         <source>--printed and --watch name the same folder, &quot;%1&quot;. Choose another one for the printed photos.</source>
         <translation>--printed et --watch nomment le même dossier, «&#x202f;%1&#x202f;». Choisissez-en un autre pour les photos imprimées.</translation>
-    </message>
-    <message>
-        <source>The built-in printer would leave its files in the watched folder, &quot;%1&quot;. Choose another one with --output.</source>
-        <translation>L’imprimante intégrée laisserait ses fichiers dans le dossier surveillé, «&#x202f;%1&#x202f;». Choisissez-en un autre avec --output.</translation>
     </message>
 </context>
 </TS>

@@ -2633,6 +2633,17 @@ where they are, and the program remembers them</source>
     </message>
 </context>
 <context>
+    <name>printdialog::FolderController</name>
+    <message>
+        <source>The last photos of the folder are still being printed. Try again in a moment.</source>
+        <translation>フォルダーの最後の写真をまだ印刷しています。少し待ってからもう一度お試しください。</translation>
+    </message>
+    <message>
+        <source>Waiting for new photos.</source>
+        <translation>新しい写真を待っています。</translation>
+    </message>
+</context>
+<context>
     <name>printdialog::FolderPrinter</name>
     <message>
         <source>The folder &quot;%1&quot; does not answer. Look after its disk or its network connection; printing continues when it answers.</source>
@@ -4404,6 +4415,30 @@ where they are, and the program remembers them</source>
     </message>
 </context>
 <context>
+    <name>printdialog::WatchBar</name>
+    <message>
+        <source>Print new photos of this folder:</source>
+        <translation>このフォルダーの新しい写真を印刷:</translation>
+    </message>
+    <message>
+        <source>Photos that arrive in the folder are printed as they come, each once and with the present choices, until this is switched off or the window is closed</source>
+        <translation>フォルダーに届いた写真を、現在の設定で 1 回ずつすぐに印刷します。オフにするか、ウインドウを閉じるまで続きます</translation>
+    </message>
+    <message>
+        <source>Folder for new photos</source>
+        <translation>新しい写真のフォルダー</translation>
+    </message>
+    <message>
+        <source>Choose…</source>
+        <comment>a folder</comment>
+        <translation>選択…</translation>
+    </message>
+    <message>
+        <source>Folder for New Photos</source>
+        <translation>新しい写真のフォルダー</translation>
+    </message>
+</context>
+<context>
     <name>printdialog::WatchLoop</name>
     <message>
         <source>The folder &quot;%1&quot; is there again.</source>
@@ -4447,6 +4482,13 @@ where they are, and the program remembers them</source>
     </message>
 </context>
 <context>
+    <name>printdialog::WatchOrder</name>
+    <message>
+        <source>The built-in printer would leave its files in the watched folder, &quot;%1&quot;. Choose another folder for them.</source>
+        <translation>内蔵プリンターのファイルが、監視中のフォルダー「%1」に置かれてしまいます。別のフォルダーを選んでください。</translation>
+    </message>
+</context>
+<context>
     <name>printdialog::WatchRecord</name>
     <message>
         <source>Another program watches the folder &quot;%1&quot; already. End it first, or choose another folder.</source>
@@ -4478,10 +4520,6 @@ where they are, and the program remembers them</source>
     <message>
         <source>--printed and --watch name the same folder, &quot;%1&quot;. Choose another one for the printed photos.</source>
         <translation>--printed と --watch が同じフォルダー「%1」を指定しています。印刷済みの写真には別のフォルダーを選んでください。</translation>
-    </message>
-    <message>
-        <source>The built-in printer would leave its files in the watched folder, &quot;%1&quot;. Choose another one with --output.</source>
-        <translation>内蔵プリンターのファイルが、監視しているフォルダー「%1」に作られてしまいます。--output で別のフォルダーを選んでください。</translation>
     </message>
 </context>
 </TS>

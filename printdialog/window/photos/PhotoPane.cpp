@@ -15,6 +15,7 @@
 #include "PreviewWidget.h"
 #include "PrintBar.h"
 #include "ScreenProfiles.h"
+#include "WatchBar.h"
 
 #include <QtCore/QFileInfo>
 #include <QtCore/QLocale>
@@ -40,6 +41,7 @@ PhotoPane::PhotoPane(QWidget *parent)
     , more_(new QWidget(this))
     , print_(new PrintBar(more_))
     , layout_(new LayoutBar(more_))
+    , watch_(new WatchBar(more_))
     , planNote_(new QLabel(this))
     , caption_(new QLabel(this))
     , add_(new QPushButton(tr("A&dd…"), this))
@@ -298,6 +300,8 @@ void PhotoPane::updatePlan()
 
 void PhotoPane::showCaption()
 {
+    if (const PlacedPhoto *placed = model_->currentPhoto())
+        watch_->offer(QFileInfo(placed->photo.path()).absolutePath());
     QStringList lines;
     if (const PlacedPhoto *current = model_->currentPhoto()) {
         const Photo &photo = current->photo;

@@ -29,6 +29,7 @@ class PreviewBar;
 class PreviewWidget;
 class PrintBar;
 class ScreenProfiles;
+class WatchBar;
 
 /// What a printer does to every photo.
 struct PrinterPicture
@@ -62,6 +63,7 @@ public:
     const QList<PlacedPhoto> &photos() const { return model_->photos(); }
     const Arrangement &arrangement() const { return model_->arrangement(); }
     ArrangementModel *model() const { return model_; }
+    WatchBar *watchBar() const { return watch_; }
     void setPage(const PageGeometry &page);
     /// Whether the printer places the photos itself, whatever their placement is. The preview is then only an
     /// example, and says so.
@@ -141,6 +143,7 @@ private:
     QWidget *more_; ///< the controls that are shown on demand
     PrintBar *print_;
     LayoutBar *layout_;
+    WatchBar *watch_;
     QLabel *planNote_;
     QLabel *caption_;
     QPushButton *add_;

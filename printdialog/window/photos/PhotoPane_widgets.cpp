@@ -10,6 +10,7 @@
 #include "PreviewWidget.h"
 #include "PrintBar.h"
 #include "ScreenProfiles.h"
+#include "WatchBar.h"
 #include "WrappingRow.h"
 
 #include <QtWidgets/QHBoxLayout>
@@ -58,6 +59,7 @@ void PhotoPane::layOut()
     moreLayout->setContentsMargins({});
     moreLayout->addWidget(print_);
     moreLayout->addWidget(layout_);
+    moreLayout->addWidget(watch_);
     more_->hide();
     auto *row = new WrappingRow;
     row->addWidget(caption_);
