@@ -114,6 +114,10 @@ PrintDialog::PrintDialog(const PrintDialogSetup &setup, QWidget *parent)
     connect(ui_->photos, &PhotoPane::photosChanged, ui_->panels, &PanelTabs::updateSummary);
     connect(ui_->photos, &PhotoPane::photosChanged, this, &PrintDialog::showPhoto);
     connect(ui_->photos, &PhotoPane::planChanged, this, &PrintDialog::updateButtons);
+    connect(ui_->photos, &PhotoPane::listSaved, this, [this](const QString &path) {
+        ui_->message->show(MessageBar::Kind::Information,
+                           tr("The photos are saved as \"%1\".").arg(plainText(path, shownTextLimit)));
+    });
     connect(ui_->photos, &PhotoPane::failed, this,
             [this](PhotoOpener::Use use, const QStringList &sentences) {
                 const bool isInitial = use == PhotoOpener::Use::Initial;

@@ -84,6 +84,10 @@ void PrintDialog::closeUnlessWorkIsLost()
                         [this] {
                             QDialog::reject();
                         }},
+                       {tr("Save List…"),
+                        [this] {
+                            ui_->photos->saveList();
+                        }},
                        {tr("Keep Open"), [this] {
                             ui_->cancel->setFocus(Qt::OtherFocusReason);
                         }}});

@@ -3479,6 +3479,32 @@ und das Programm merkt sie sich</translation>
         <source>Apply to All</source>
         <translation>Auf alle anwenden</translation>
     </message>
+    <message>
+        <source>Print lists</source>
+        <translation>Drucklisten</translation>
+    </message>
+    <message>
+        <source>Open a Print List</source>
+        <translation>Druckliste öffnen</translation>
+    </message>
+    <message>
+        <source>The print list &quot;%1&quot; has no photos.</source>
+        <translation>Die Druckliste „%1“ enthält keine Fotos.</translation>
+    </message>
+    <message>
+        <source>Save the Photos as a Print List</source>
+        <translation>Fotos als Druckliste speichern</translation>
+    </message>
+    <message>
+        <source>Open List…</source>
+        <comment>of photos</comment>
+        <translation>Liste öffnen …</translation>
+    </message>
+    <message>
+        <source>Save List…</source>
+        <comment>of photos</comment>
+        <translation>Liste speichern …</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::PhotoTable</name>
@@ -3994,6 +4020,14 @@ und das Programm merkt sie sich</translation>
     <message>
         <source>Keep Open</source>
         <translation>Offen lassen</translation>
+    </message>
+    <message>
+        <source>The photos are saved as &quot;%1&quot;.</source>
+        <translation>Die Fotos sind als „%1“ gespeichert.</translation>
+    </message>
+    <message>
+        <source>Save List…</source>
+        <translation>Liste speichern …</translation>
     </message>
 </context>
 <context>

@@ -3478,6 +3478,32 @@ están y el programa las recuerda</translation>
         <source>Apply to All</source>
         <translation>Aplicar a todas</translation>
     </message>
+    <message>
+        <source>Print lists</source>
+        <translation>Listas de impresión</translation>
+    </message>
+    <message>
+        <source>Open a Print List</source>
+        <translation>Abrir una lista de impresión</translation>
+    </message>
+    <message>
+        <source>The print list &quot;%1&quot; has no photos.</source>
+        <translation>La lista de impresión «%1» no contiene fotos.</translation>
+    </message>
+    <message>
+        <source>Save the Photos as a Print List</source>
+        <translation>Guardar las fotos como lista de impresión</translation>
+    </message>
+    <message>
+        <source>Open List…</source>
+        <comment>of photos</comment>
+        <translation>Abrir lista…</translation>
+    </message>
+    <message>
+        <source>Save List…</source>
+        <comment>of photos</comment>
+        <translation>Guardar lista…</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::PhotoTable</name>
@@ -3993,6 +4019,14 @@ están y el programa las recuerda</translation>
     <message>
         <source>Keep Open</source>
         <translation>Dejar abierta</translation>
+    </message>
+    <message>
+        <source>The photos are saved as &quot;%1&quot;.</source>
+        <translation>Las fotos se han guardado como «%1».</translation>
+    </message>
+    <message>
+        <source>Save List…</source>
+        <translation>Guardar lista…</translation>
     </message>
 </context>
 <context>

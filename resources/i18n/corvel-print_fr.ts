@@ -3479,6 +3479,32 @@ elles sont, et le programme les retient</translation>
         <source>Apply to All</source>
         <translation>Appliquer à toutes</translation>
     </message>
+    <message>
+        <source>Print lists</source>
+        <translation>Listes d’impression</translation>
+    </message>
+    <message>
+        <source>Open a Print List</source>
+        <translation>Ouvrir une liste d’impression</translation>
+    </message>
+    <message>
+        <source>The print list &quot;%1&quot; has no photos.</source>
+        <translation>La liste d’impression «&#xa0;%1&#xa0;» ne contient aucune photo.</translation>
+    </message>
+    <message>
+        <source>Save the Photos as a Print List</source>
+        <translation>Enregistrer les photos comme liste d’impression</translation>
+    </message>
+    <message>
+        <source>Open List…</source>
+        <comment>of photos</comment>
+        <translation>Ouvrir une liste…</translation>
+    </message>
+    <message>
+        <source>Save List…</source>
+        <comment>of photos</comment>
+        <translation>Enregistrer la liste…</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::PhotoTable</name>
@@ -3994,6 +4020,14 @@ elles sont, et le programme les retient</translation>
     <message>
         <source>Keep Open</source>
         <translation>Laisser ouverte</translation>
+    </message>
+    <message>
+        <source>The photos are saved as &quot;%1&quot;.</source>
+        <translation>Les photos sont enregistrées sous «&#xa0;%1&#xa0;».</translation>
+    </message>
+    <message>
+        <source>Save List…</source>
+        <translation>Enregistrer la liste…</translation>
     </message>
 </context>
 <context>

@@ -3473,6 +3473,32 @@ where they are, and the program remembers them</source>
         <source>Apply to All</source>
         <translation>すべてに適用</translation>
     </message>
+    <message>
+        <source>Print lists</source>
+        <translation>印刷リスト</translation>
+    </message>
+    <message>
+        <source>Open a Print List</source>
+        <translation>印刷リストを開く</translation>
+    </message>
+    <message>
+        <source>The print list &quot;%1&quot; has no photos.</source>
+        <translation>印刷リスト「%1」には写真がありません。</translation>
+    </message>
+    <message>
+        <source>Save the Photos as a Print List</source>
+        <translation>写真を印刷リストとして保存</translation>
+    </message>
+    <message>
+        <source>Open List…</source>
+        <comment>of photos</comment>
+        <translation>リストを開く…</translation>
+    </message>
+    <message>
+        <source>Save List…</source>
+        <comment>of photos</comment>
+        <translation>リストを保存…</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::PhotoTable</name>
@@ -3985,6 +4011,14 @@ where they are, and the program remembers them</source>
     <message>
         <source>Keep Open</source>
         <translation>開いたままにする</translation>
+    </message>
+    <message>
+        <source>The photos are saved as &quot;%1&quot;.</source>
+        <translation>写真を「%1」として保存しました。</translation>
+    </message>
+    <message>
+        <source>Save List…</source>
+        <translation>リストを保存…</translation>
     </message>
 </context>
 <context>

@@ -12,7 +12,9 @@
 
 #include <QtCore/QElapsedTimer>
 #include <QtCore/QMimeData>
+#include <QtCore/QUrl>
 #include <QtGui/QDropEvent>
+#include <QtWidgets/QFileDialog>
 #include <QtWidgets/QMenu>
 #include <QtWidgets/QToolButton>
 
@@ -374,6 +376,53 @@ private Q_SLOTS:
         QVERIFY(opened.find<MessageBar>(u"message"_s)->isAsking());
         opened.dialog->close();
         QVERIFY(!opened.dialog->isVisible());
+    }
+
+    // With its layout, in its order, as one step; then nothing is lost by closing.
+    void listComesBack()
+    {
+        const PhotoDialog opened(letters(u"a b c"_s));
+        opened.click(u"turn"_s);
+        QTest::keyClick(opened.copies, Qt::Key_Up);
+        QTest::keyClick(opened.find<QComboBox>(u"layoutKind"_s), Qt::Key_Down);
+        const QString path = opened.folder.filePath(u"photos.json"_s);
+        opened.dialog->close();
+        const QList<QPushButton *> answers =
+            opened.find<MessageBar>(u"message"_s)->findChildren<QPushButton *>();
+        const auto save = std::ranges::find(answers, u"Save List…"_s, &QPushButton::text);
+        QVERIFY(save != answers.end());
+        (*save)->click();
+        auto *dialog = opened.dialog->findChild<QFileDialog *>();
+        QVERIFY(dialog->isVisible());
+        dialog->selectFile(path);
+        QTest::keyClick(dialog, Qt::Key_Return);
+        QTRY_VERIFY(opened.message().contains(u"photos.json"_s));
+        QVERIFY(!opened.pane->model()->hasUnkeptWork());
+
+        const Arrangement saved = opened.pane->arrangement();
+        QVERIFY(QFile::remove(saved.photos.at(1).photo.path()));
+        const PhotoDialog other(letters(u"d"_s));
+        const auto dropList = [&other, &path] {
+            QMimeData data;
+            data.setUrls({QUrl::fromLocalFile(path)});
+            QDragEnterEvent enter({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, {});
+            QApplication::sendEvent(other.pane, &enter);
+            QDropEvent drop({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, {});
+            QApplication::sendEvent(other.pane, &drop);
+        };
+        dropList();
+        QTRY_COMPARE(other.names(), u"a c"_s);
+        QCOMPARE(other.pane->arrangement().layout, saved.layout);
+        QCOMPARE(other.pane->photos().at(0).placement, saved.photos.at(0).placement);
+        QCOMPARE(other.allCopies(), (QList<int>{2, 1}));
+        QTRY_VERIFY(other.message().contains(u"b.jpg"_s));
+        QVERIFY(!other.pane->model()->hasUnkeptWork());
+        other.undo();
+        QCOMPARE(other.names(), u"d"_s);
+        samples::store(path, "[]");
+        dropList();
+        QTRY_VERIFY(other.message().contains(u"photos.json"_s));
+        QCOMPARE(other.names(), u"d"_s);
     }
 
     // Sanity, not speed: nothing may take a time that grows with the square of the number.

@@ -148,6 +148,26 @@ void ArrangementModel::add(const QList<Photo> &photos, bool isFirst)
     Q_EMIT photosChanged();
 }
 
+void ArrangementModel::replace(const Arrangement &arrangement)
+{
+    const State before = std::exchange(state_, {arrangement, {}, -1, state_.opened});
+    selectSome();
+    notePlaces(0);
+    Q_EMIT changed(before);
+    Q_EMIT photosChanged();
+}
+
+void ArrangementModel::follow(const QList<PlacedPhoto> &photos)
+{
+    const State before = state_;
+    const int first = count();
+    state_.arrangement.photos += photos;
+    selectSome();
+    notePlaces(first);
+    Q_EMIT changed(before);
+    Q_EMIT photosChanged();
+}
+
 void ArrangementModel::remove(const QList<int> &indexes)
 {
     if (indexes.isEmpty())

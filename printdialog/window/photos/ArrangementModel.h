@@ -82,6 +82,9 @@ public:
     /// Appends the photos, placed like the current one, or like `placement` when there is none. Unless more
     /// are added to others, the first of them is then the current one.
     void add(const QList<Photo> &photos, bool isFirst = true);
+    /// The photos, as they are placed, take the place of all, or follow them.
+    void replace(const Arrangement &arrangement);
+    void follow(const QList<PlacedPhoto> &photos);
     void remove(const QList<int> &indexes);
     void removeSelected() { remove(state_.selection); }
     /// Moves the selected photos before the one with this index, or to the end; their order stays.

@@ -18,8 +18,9 @@ class PhotoOpener : public QObject
     Q_OBJECT
 
 public:
-    /// What the files are for: photos that the window was opened with, or that the user adds.
-    enum class Use { Initial, Added };
+    /// What the files are for: photos that the window was opened with, that the user adds, or of a print
+    /// list.
+    enum class Use { Initial, Added, List };
 
     /// A part of the photos of one call of open().
     struct Batch

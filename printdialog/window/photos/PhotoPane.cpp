@@ -137,7 +137,10 @@ void PhotoPane::showEvent(QShowEvent *event)
 
 void PhotoPane::addFiles(const QStringList &paths)
 {
-    opener_->open(paths, PhotoOpener::Use::Added);
+    QStringList photos;
+    for (const QString &path : paths)
+        PrintList::isListName(path) ? openList(path) : photos.append(path);
+    opener_->open(photos, PhotoOpener::Use::Added);
 }
 
 void PhotoPane::append(const PhotoOpener::Batch &batch)
@@ -146,6 +149,8 @@ void PhotoPane::append(const PhotoOpener::Batch &batch)
         check(photo);
     if (batch.use == PhotoOpener::Use::Initial)
         return model_->append(batch.photos);
+    if (batch.use == PhotoOpener::Use::List)
+        return appendOfList(batch);
     if (batch.isFirst)
         Q_EMIT actBegins();
     act(add_, [&] { model_->add(batch.photos, batch.isFirst); });

@@ -6,6 +6,7 @@
 #include "ArrangementModel.h"
 #include "PhotoOpener.h"
 #include "PictureAdjustment.h"
+#include "PrintList.h"
 #include "SheetPlan.h"
 
 #include <QtCore/QList>
@@ -70,8 +71,11 @@ public:
     void setPlacedByPrinter(bool isPlaced);
     void setPrinterPicture(const PrinterPicture &picture);
 
-    /// Opens the files and appends those that are photos.
+    /// Opens the files and appends those that are photos. A print list takes the place of all photos instead.
     void addFiles(const QStringList &paths);
+    void openList(const QString &path);
+    /// Asks for a file, and saves the photos there as a print list.
+    void saveList();
     void setCurrent(int index) { model_->setCurrent(index); }
     int current() const { return model_->current(); }
     /// Replaces the placement of the current photo.
@@ -109,6 +113,8 @@ Q_SIGNALS:
     void acted(QWidget *control);
     /// A text that cannot be used was typed into the field: a sentence for people.
     void refused(const QString &text, QLineEdit *field);
+    /// The photos are saved as a print list.
+    void listSaved(const QString &path);
     /// Some of the files to be opened cannot be printed: a sentence for each.
     void failed(printdialog::PhotoOpener::Use use, const QStringList &sentences);
 
@@ -125,6 +131,9 @@ private:
     void act(QWidget *control, const std::function<void()> &change);
     void browse();
     void append(const PhotoOpener::Batch &batch);
+    void appendOfList(const PhotoOpener::Batch &batch);
+    void browseList();
+    void saveListTo(const QString &path);
     void check(const Photo &photo);
     void show();
     void showSheet();
@@ -151,6 +160,7 @@ private:
     PhotoTable *table_;
     HeightGrip *grip_;
     PhotoOpener *opener_;
+    QList<PrintList> lists_; ///< whose photos are being opened; those of the first one are under way
     PageGeometry page_;
     SheetPlan plan_;
     qsizetype sheet_ = 0; ///< the one that is shown

@@ -102,6 +102,10 @@ void PhotoPane::connectControls()
     connect(opener_, &PhotoOpener::opened, this, &PhotoPane::append);
     // After the photos, since these are what the user sees first.
     connect(opener_, &PhotoOpener::finished, this, [this](PhotoOpener::Use use, const QStringList &failures) {
+        if (use == PhotoOpener::Use::List) {
+            lists_.removeFirst();
+            model_->keep(arrangement());
+        }
         Q_EMIT photosChanged();
         if (!failures.isEmpty())
             Q_EMIT failed(use, failures);
@@ -160,6 +164,10 @@ void PhotoPane::showMenu(const QPoint &globalPosition)
     add(menu, tr("Select All"), [this] { model_->selectAll(); });
     menu->actions().constLast()->setShortcut(QKeySequence::SelectAll);
     add(menu, tr("Apply to All"), [this] { model_->applyToAll(); });
+    menu->addSeparator();
+    connect(menu->addAction(tr("Open List…", "of photos")), &QAction::triggered, this,
+            &PhotoPane::browseList);
+    connect(menu->addAction(tr("Save List…", "of photos")), &QAction::triggered, this, &PhotoPane::saveList);
     menu->popup(globalPosition);
 }
 
