@@ -4461,7 +4461,7 @@ elles sont, et le programme les retient</translation>
     <name>printdialog::WatchBar</name>
     <message>
         <source>Print new photos of this folder:</source>
-        <translation>Imprimer les nouvelles photos de ce dossier :</translation>
+        <translation>Imprimer les nouvelles photos de ce dossier&#x202f;:</translation>
     </message>
     <message>
         <source>Photos that arrive in the folder are printed as they come, each once and with the present choices, until this is switched off or the window is closed</source>
@@ -4528,7 +4528,7 @@ elles sont, et le programme les retient</translation>
     <name>printdialog::WatchOrder</name>
     <message>
         <source>The built-in printer would leave its files in the watched folder, &quot;%1&quot;. Choose another folder for them.</source>
-        <translation>L’imprimante intégrée laisserait ses fichiers dans le dossier surveillé, « %1 ». Choisissez-leur un autre dossier.</translation>
+        <translation>L’imprimante intégrée laisserait ses fichiers dans le dossier surveillé, «&#x202f;%1&#x202f;». Choisissez-leur un autre dossier.</translation>
     </message>
 </context>
 <context>

@@ -234,6 +234,45 @@ private Q_SLOTS:
         QVERIFY(opened.find<QPushButton>(u"print"_s)->isEnabled());
     }
 
+    void draggingThePhotoIsOneStep()
+    {
+        const PhotoDialog opened(letters(u"a b"_s));
+        opened.click(u"turn"_s);
+        QTest::keyClick(opened.scaling, Qt::Key_End);
+        auto *preview = opened.find<QWidget>(u"preview"_s);
+        const auto drag = [&opened, preview](int distance) {
+            const QPoint middle = preview->rect().center();
+            QTest::mousePress(preview, Qt::LeftButton, {}, middle);
+            for (int i = 1; i <= 3; ++i)
+                QTest::mouseMove(preview, middle + QPoint(i * distance, i * distance));
+            QTest::mouseRelease(preview, Qt::LeftButton, {}, middle);
+            return opened.pane->photos().at(0).placement.crop;
+        };
+        const QPointF first = drag(3);
+        QVERIFY(first != PlacementChoice().crop);
+        QVERIFY(drag(5) != first);
+        opened.undo();
+        QCOMPARE(opened.pane->photos().at(0).placement.crop, first);
+        opened.undo();
+        QCOMPARE(opened.pane->photos().at(0).placement.crop, PlacementChoice().crop);
+        QCOMPARE(opened.pane->photos().at(0).placement.scaling, Scaling::ActualSize);
+    }
+
+    // Photos of the command line may come while the first ones are worked on.
+    void photosOpenedLaterStay()
+    {
+        const PhotoDialog opened(letters(u"a b c"_s));
+        const QList<PlacedPhoto> late = {opened.pane->photos().at(2)};
+        opened.press(Qt::Key_Delete);
+        opened.pane->model()->append({late.constFirst().photo}, {});
+        QCOMPARE(opened.names(), u"b c c"_s);
+        opened.undo();
+        QCOMPARE(opened.names(), u"a b c c"_s);
+        opened.redo();
+        QCOMPARE(opened.names(), u"b c c"_s);
+        QVERIFY(!opened.pane->model()->hasUnkeptWork());
+    }
+
     void moves_data()
     {
         addRows<QList<int>, Qt::Key, QString, QList<int>>({
