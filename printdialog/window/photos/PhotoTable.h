@@ -65,14 +65,15 @@ private:
     int placeAt(const QPoint &position) const;
     void showDrop(int before);
 
-    ArrangementModel *photos_;
-    PhotoTableModel *rows_;
-    PhotoThumbnails *thumbnails_;
-    int wantedHeight_ = 0;        ///< 0: as few rows as suit the number of photos
+    // First, since the children's constructors send events already.
     int eventDepth_ = 0;          ///< an event may cause others
     bool isSelectionNew_ = false; ///< the user has selected, and it is not reported yet
     bool isShowing_ = false;
-    int dropBefore_ = -1; ///< where dragged photos would go; -1: nowhere
+    int dropBefore_ = -1;  ///< where dragged photos would go; -1: nowhere
+    int wantedHeight_ = 0; ///< 0: as few rows as suit the number of photos
+    ArrangementModel *photos_;
+    PhotoTableModel *rows_;
+    PhotoThumbnails *thumbnails_;
 };
 
 } // namespace printdialog
