@@ -531,7 +531,8 @@ QString CommandLine::helpText()
 {
     constexpr int column = 28;
     QString help = Text::tr("Usage: corvel-print [options] PHOTO...\n"
-                            "Prints photos on a photo printer: from a window, or at once with --batch.\n\n"
+                            "Prints photos on a photo printer: from a window, or at once with --batch.\n"
+                            "PHOTO can be - for the standard input, or a print list, LIST.json.\n\n"
                             "Options:\n");
     for (const OptionRow &row : optionRows) {
         QString left = QLatin1String("  ") + syntaxOf(row);
@@ -545,15 +546,16 @@ QString CommandLine::helpText()
             left.clear();
         }
     }
-    help += Text::tr(
-        "\nExit status:\n"
-        "  0  printed, or done what was asked for\n"
-        "  1  refused or failed; one line on standard error says what and why. A photo with\n"
-        "     damaged pixels is left out, with a line of its own, and the others are printed\n"
-        "  2  wrong usage\n"
-        "\nExamples:\n"
-        "  corvel-print --printer built-in holiday.jpg\n"
-        "  corvel-print --batch -o Red=12 -o Quality=Fine -o Overcoat=Matte --output prints *.jpg\n");
+    help +=
+        Text::tr("\nExit status:\n"
+                 "  0  printed, or done what was asked for\n"
+                 "  1  refused or failed; one line on standard error says what and why. A photo with\n"
+                 "     damaged pixels is left out, with a line of its own, and the others are printed\n"
+                 "  2  wrong usage\n"
+                 "\nExamples:\n"
+                 "  corvel-print --printer built-in holiday.jpg\n"
+                 "  corvel-print --batch -o Red=12 -o Quality=Fine -o Overcoat=Matte --output prints *.jpg\n"
+                 "  corvel-print --batch --size passport --scaling fill --layout fit portrait.jpg\n");
     return help;
 }
 

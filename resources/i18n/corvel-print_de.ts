@@ -226,11 +226,13 @@ was die Seiten sagen; mit --batch zusätzlich zum Drucken</translation>
     <message>
         <source>Usage: corvel-print [options] PHOTO...
 Prints photos on a photo printer: from a window, or at once with --batch.
+PHOTO can be - for the standard input, or a print list, LIST.json.
 
 Options:
 </source>
         <translation>Aufruf: corvel-print [Optionen] FOTO...
 Druckt Fotos auf einem Fotodrucker: aus einem Fenster, oder mit --batch sofort.
+Als FOTO gilt auch - für die Standardeingabe, oder eine Druckliste, LISTE.json.
 
 Optionen:
 </translation>
@@ -318,6 +320,7 @@ Exit status:
 Examples:
   corvel-print --printer built-in holiday.jpg
   corvel-print --batch -o Red=12 -o Quality=Fine -o Overcoat=Matte --output prints *.jpg
+  corvel-print --batch --size passport --scaling fill --layout fit portrait.jpg
 </source>
         <translation>
 Rückgabewert:
@@ -330,6 +333,7 @@ Rückgabewert:
 Beispiele:
   corvel-print --printer built-in urlaub.jpg
   corvel-print --batch -o Red=12 -o Quality=Fine -o Overcoat=Matte --output abzuege *.jpg
+  corvel-print --batch --size passport --scaling fill --layout fit portraet.jpg
 </translation>
     </message>
     <message>

@@ -226,11 +226,13 @@ dicen los paneles; con --batch, además de imprimir</translation>
     <message>
         <source>Usage: corvel-print [options] PHOTO...
 Prints photos on a photo printer: from a window, or at once with --batch.
+PHOTO can be - for the standard input, or a print list, LIST.json.
 
 Options:
 </source>
         <translation>Uso: corvel-print [opciones] FOTO...
 Imprime fotos en una impresora fotográfica: desde una ventana, o al momento con --batch.
+FOTO puede ser - para la entrada estándar, o una lista de impresión, LISTA.json.
 
 Opciones:
 </translation>
@@ -318,6 +320,7 @@ Exit status:
 Examples:
   corvel-print --printer built-in holiday.jpg
   corvel-print --batch -o Red=12 -o Quality=Fine -o Overcoat=Matte --output prints *.jpg
+  corvel-print --batch --size passport --scaling fill --layout fit portrait.jpg
 </source>
         <translation>
 Estado de salida:
@@ -329,6 +332,7 @@ Estado de salida:
 Ejemplos:
   corvel-print --printer built-in vacaciones.jpg
   corvel-print --batch -o Red=12 -o Quality=Fine -o Overcoat=Matte --output copias *.jpg
+  corvel-print --batch --size passport --scaling fill --layout fit retrato.jpg
 </translation>
     </message>
     <message>

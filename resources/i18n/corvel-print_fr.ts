@@ -226,11 +226,13 @@ disent les onglets&#x202f;; avec --batch, en plus de l’impression</translation
     <message>
         <source>Usage: corvel-print [options] PHOTO...
 Prints photos on a photo printer: from a window, or at once with --batch.
+PHOTO can be - for the standard input, or a print list, LIST.json.
 
 Options:
 </source>
         <translation>Utilisation&#x202f;: corvel-print [options] PHOTO...
 Imprime des photos sur une imprimante photo&#x202f;: depuis une fenêtre, ou aussitôt avec --batch.
+PHOTO peut être - pour l’entrée standard, ou une liste d’impression, LISTE.json.
 
 Options&#x202f;:
 </translation>
@@ -318,6 +320,7 @@ Exit status:
 Examples:
   corvel-print --printer built-in holiday.jpg
   corvel-print --batch -o Red=12 -o Quality=Fine -o Overcoat=Matte --output prints *.jpg
+  corvel-print --batch --size passport --scaling fill --layout fit portrait.jpg
 </source>
         <translation>
 Code de retour&#x202f;:
@@ -330,6 +333,7 @@ Code de retour&#x202f;:
 Exemples&#x202f;:
   corvel-print --printer built-in vacances.jpg
   corvel-print --batch -o Red=12 -o Quality=Fine -o Overcoat=Matte --output tirages *.jpg
+  corvel-print --batch --size passport --scaling fill --layout fit portrait.jpg
 </translation>
     </message>
     <message>

@@ -226,11 +226,13 @@ what the panels say; with --batch as well as printing</source>
     <message>
         <source>Usage: corvel-print [options] PHOTO...
 Prints photos on a photo printer: from a window, or at once with --batch.
+PHOTO can be - for the standard input, or a print list, LIST.json.
 
 Options:
 </source>
         <translation>使い方: corvel-print [オプション] 写真...
 フォトプリンターで写真を印刷します (ウィンドウから、または --batch ですぐに)。
+写真には、標準入力を表す - や、印刷リスト LIST.json も指定できます。
 
 オプション:
 </translation>
@@ -318,6 +320,7 @@ Exit status:
 Examples:
   corvel-print --printer built-in holiday.jpg
   corvel-print --batch -o Red=12 -o Quality=Fine -o Overcoat=Matte --output prints *.jpg
+  corvel-print --batch --size passport --scaling fill --layout fit portrait.jpg
 </source>
         <translation>
 終了ステータス:
@@ -329,6 +332,7 @@ Examples:
 例:
   corvel-print --printer built-in holiday.jpg
   corvel-print --batch -o Red=12 -o Quality=Fine -o Overcoat=Matte --output prints *.jpg
+  corvel-print --batch --size passport --scaling fill --layout fit portrait.jpg
 </translation>
     </message>
     <message>
