@@ -68,7 +68,7 @@
     </message>
     <message>
         <source>As many as fit</source>
-        <translation>So viele wie möglich</translation>
+        <translation>So viele wie passen</translation>
     </message>
     <message>
         <source>Contact sheet, %1 rows, %2 columns</source>

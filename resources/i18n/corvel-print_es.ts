@@ -68,7 +68,7 @@
     </message>
     <message>
         <source>As many as fit</source>
-        <translation>Todas las que quepan</translation>
+        <translation>Tantas como quepan</translation>
     </message>
     <message>
         <source>Contact sheet, %1 rows, %2 columns</source>

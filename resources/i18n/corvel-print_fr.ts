@@ -72,7 +72,7 @@
     </message>
     <message>
         <source>Contact sheet, %1 rows, %2 columns</source>
-        <translation>Planche-contact, %1 lignes, %2 colonnes</translation>
+        <translation>Planche contact, %1 lignes, %2 colonnes</translation>
     </message>
     <message>
         <source>Two strips of %1 photos</source>
