@@ -3454,7 +3454,7 @@ und das Programm merkt sie sich</translation>
     <message>
         <source>Copies…</source>
         <comment>of the selected photos</comment>
-        <translation>Kopien …</translation>
+        <translation>Exemplare …</translation>
     </message>
     <message>
         <source>Sort by</source>
@@ -3534,8 +3534,8 @@ und das Programm merkt sie sich</translation>
     <message numerus="yes">
         <source>%n copies</source>
         <translation>
-            <numerusform>%n Kopie</numerusform>
-            <numerusform>%n Kopien</numerusform>
+            <numerusform>%n Exemplar</numerusform>
+            <numerusform>%n Exemplare</numerusform>
         </translation>
     </message>
     <message>
@@ -3905,7 +3905,7 @@ und das Programm merkt sie sich</translation>
     </message>
     <message>
         <source>How often each of the selected photos is printed; Copies counts the whole job</source>
-        <translation>Wie oft jedes der ausgewählten Fotos gedruckt wird; „Kopien“ zählt den ganzen Auftrag</translation>
+        <translation>Wie oft jedes der ausgewählten Fotos gedruckt wird; „Exemplare“ zählt den ganzen Auftrag</translation>
     </message>
     <message>
         <source>Give all photos the placement, size, border and number of prints of the one that is shown</source>

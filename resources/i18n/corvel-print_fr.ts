@@ -3449,7 +3449,7 @@ elles sont, et le programme les retient</translation>
     </message>
     <message>
         <source>Turn</source>
-        <translation>Pivoter</translation>
+        <translation>Tourner</translation>
     </message>
     <message>
         <source>Copies…</source>

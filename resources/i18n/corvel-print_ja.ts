@@ -3007,7 +3007,7 @@ where they are, and the program remembers them</source>
     </message>
     <message>
         <source>As many as fit</source>
-        <translation>入るだけ並べる</translation>
+        <translation>入るだけ</translation>
     </message>
     <message>
         <source>Contact sheet</source>
