@@ -264,7 +264,7 @@ private Q_SLOTS:
         const PhotoDialog opened(letters(u"a b c"_s));
         const QList<PlacedPhoto> late = {opened.pane->photos().at(2)};
         opened.press(Qt::Key_Delete);
-        opened.pane->model()->append({late.constFirst().photo}, {});
+        opened.pane->model()->append({late.constFirst().photo});
         QCOMPARE(opened.names(), u"b c c"_s);
         opened.undo();
         QCOMPARE(opened.names(), u"a b c c"_s);
