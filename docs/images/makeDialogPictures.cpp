@@ -1,10 +1,14 @@
 // SPDX-FileCopyrightText: Corvel print dialog authors
 // SPDX-License-Identifier: Apache-2.0
 
+#include "ArrangementModel.h"
 #include "OpenedDialog.h"
+#include "PhotoPane.h"
 #include "StubPrinter.h"
 
 #include <QtCore/QDir>
+#include <QtGui/QImageReader>
+#include <QtGui/QPainter>
 
 #include <cstdio>
 #include <functional>
@@ -30,6 +34,7 @@ bool picture(const QDir &folder, const QString &name,
 {
     const OpenedDialog opened(setup);
     opened.find<QLineEdit>(u"folder"_s)->setText(u"/home/ada/Prints"_s);
+    opened.find<QPushButton>(u"watchedFolder"_s)->setText(u"/home/ada/Photos"_s);
     prepare(opened);
     if (!QTest::qWaitFor([&opened] { return opened.dialog->isPreviewReady(); }))
         return false;
@@ -52,6 +57,35 @@ void choose(const OpenedDialog &opened, const QString &name, const QString &text
     auto *list = opened.find<QComboBox>(name);
     list->setCurrentIndex(list->findText(text));
     Q_EMIT list->activated(list->currentIndex());
+}
+
+/// The sample photo in as many tints, as files in the folder.
+QList<Photo> tintedPhotos(const QDir &folder, int count)
+{
+    QImageReader reader(QStringLiteral(CORVEL_SAMPLE_PHOTO));
+    reader.setAutoTransform(true);
+    const QImage sample = reader.read();
+    QList<Photo> photos;
+    for (int i = 0; i < count; ++i) {
+        QImage photo = sample.copy(0, 0, sample.width(), sample.height() * 2 / 3).scaledToWidth(1200);
+        QPainter painter(&photo);
+        painter.setCompositionMode(QPainter::CompositionMode_SoftLight);
+        painter.fillRect(photo.rect(), QColor::fromHsv(i * 360 / count, 200, 220));
+        painter.end();
+        const QString path = folder.filePath(u"Lake %1.jpg"_s.arg(i + 1, 2, 10, QLatin1Char('0')));
+        photo.save(path, "JPEG", 92);
+        photos += *Photo::open(path);
+    }
+    return photos;
+}
+
+/// A window with several photos in a style, and its controls for that open.
+PrintDialogSetup arranged(const QList<Photo> &photos, const PlacementChoice &placement, const QString &layout)
+{
+    PrintDialogSetup setup = setupFor(PanelMode::Constraint);
+    setup.photos = photos;
+    setup.style = ArrangementStyle{placement, *SheetLayout::fromText(layout)};
+    return setup;
 }
 
 /// The stub's port is another one each time.
@@ -135,6 +169,25 @@ int main(int argc, char *argv[])
             opened.dialog->resize(900, 620);
         },
         setupForPrinter(PanelMode::Constraint, printer.address()));
+    const QTemporaryDir files;
+    const QList<Photo> photos = tintedPhotos(QDir(files.path()), 24);
+    PlacementChoice passport{Scaling::Fill};
+    passport.size = PrintSize::fromText(u"passport"_s);
+    const auto more = [](const OpenedDialog &opened) {
+        opened.dialog->resize(1000, 760);
+        opened.click(u"more"_s);
+    };
+    isDone &= picture(folder, u"dialog-passport"_s, more, arranged(photos.first(1), passport, u"fit"_s));
+    isDone &= picture(folder, u"dialog-contact"_s, more, arranged(photos, {}, u"contact:5x3,caption=name"_s));
+    isDone &=
+        picture(folder, u"dialog-strips"_s, more, arranged(photos.first(3), {Scaling::Fill}, u"strips:3"_s));
+    isDone &= picture(
+        folder, u"dialog-photos"_s,
+        [](const OpenedDialog &opened) {
+            opened.dialog->resize(1000, 760);
+            opened.find<PhotoPane>(u"photos"_s)->model()->select({1, 2, 3, 5, 6}, 3);
+        },
+        arranged(photos, {Scaling::Fill}, u"2x2"_s));
     QApplication::setPalette(darkPalette());
     isDone &= picture(folder, u"dialog-dark"_s, page(1));
     if (!isDone)

@@ -119,7 +119,7 @@ class RefusalsTest(ProgramTest):
         for arguments, *words in (
                 (["absent"], '"', "absent", "--watch", "does not exist"), (["file"], "file", "not a folder"),
                 (["new", "--printed", "absent"], "absent", "--printed"), (["new", "--printed", "link"], "same folder"),
-                (["new", "--output", "link"], "--output"), (["new", "-o", "Red=99"], "Red")):
+                (["new", "--output", "link"], "watched folder"), (["new", "-o", "Red=99"], "Red")):
             with self.subTest(arguments):
                 self.refuses(run("--printer", "built-in", "--watch", *arguments, folder=self.folder), 1, *words)
                 self.assertEqual(sorted(self.folder.rglob("*")), before)

@@ -138,7 +138,7 @@ void LayoutBar::showLayout(const SheetLayout &layout)
     marks_->setChecked(layout.hasCutMarks);
     rows_->parentWidget()->setVisible(kind == Kind::Grid || kind == Kind::Contact);
     stripPhotos_->parentWidget()->setVisible(kind == Kind::Strips);
-    caption_->parentWidget()->setVisible(kind != Kind::ManyOfSize);
+    caption_->parentWidget()->setVisible(kind != Kind::ManyOfSize && kind != Kind::Strips);
     repeats_->setVisible(kind == Kind::Grid || kind == Kind::ManyOfSize || kind == Kind::Strips);
     gap_->parentWidget()->setVisible(kind != Kind::Single);
     marks_->setVisible(kind != Kind::Contact);
