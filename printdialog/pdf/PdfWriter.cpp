@@ -89,11 +89,6 @@ QByteArray cutMarkDrawing(const QList<QLineF> &marks, double pageHeight)
     return marks.isEmpty() ? QByteArray() : content;
 }
 
-QString keyOf(const Photo &photo)
-{
-    return photo.path() + u'\n' + QString::number(photo.modified().toMSecsSinceEpoch());
-}
-
 } // namespace
 
 PdfWriter::PdfWriter(QIODevice &device)
@@ -114,7 +109,7 @@ Failure<PdfFault> PdfWriter::writeFailure() const
 
 Result<PdfWriter::Image, PdfFault> PdfWriter::imageOf(const Photo &photo)
 {
-    const auto known = images_.constFind(keyOf(photo));
+    const auto known = images_.constFind(photo.identity());
     if (known != images_.constEnd())
         return *known;
     const auto image = PdfImage::of(photo);
@@ -123,7 +118,7 @@ Result<PdfWriter::Image, PdfFault> PdfWriter::imageOf(const Photo &photo)
     const auto number = image->write(file_);
     if (!number)
         return Failure<PdfFault>{PdfFault::PhotoUnusable, number.failure().text, number.failure().detail};
-    return *images_.insert(keyOf(photo), {*number, image->embedding()});
+    return *images_.insert(photo.identity(), {*number, image->embedding()});
 }
 
 PdfWriter::Failed PdfWriter::add(const PrintSheet &sheet, const PageGeometry &page, const QPointF &offset)

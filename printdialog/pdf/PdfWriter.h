@@ -63,8 +63,8 @@ private:
     int catalog_;
     int pages_;
     QList<int> pageNumbers_;
-    QHash<QString, Image> images_; ///< by the photo's path and time
-    QString title_;                ///< the first sheet's name
+    QHash<FileIdentity, Image> images_;
+    QString title_; ///< the first sheet's name
     QDateTime created_;
 };
 
