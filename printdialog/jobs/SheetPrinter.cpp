@@ -63,7 +63,7 @@ Result<QString, SheetPrinter::Fault> SheetPrinter::print(const PrintSheet &sheet
 
 Result<QString, SheetPrinter::Fault> SheetPrinter::addPage(const PrintSheet &sheet)
 {
-    // A damaged photo leaves the other pages alone; what fails later spoils them.
+    // A damaged photo leaves the other pages alone, and so does one that has changed or gone meanwhile.
     if (const auto damage = PhotoCheck(sheet.photosToCheck()).wait())
         return Failure<Fault>{{std::nullopt, true}, damage->text, damage->detail};
     if (!document_) {
@@ -73,8 +73,11 @@ Result<QString, SheetPrinter::Fault> SheetPrinter::addPage(const PrintSheet &she
             return failureOf(opened.failure());
         document_ = *std::move(opened);
     }
-    if (const auto failure = document_->add(sheet))
-        return Failure<Fault>{{}, failure->text, failure->detail};
+    if (const auto failure = document_->add(sheet)) {
+        if (pages_ == 0)
+            document_.reset();
+        return failureOf(*failure);
+    }
     return tr("Printed %1: page %2 of %3")
         .arg(sheet.name, QString::number(++pages_), documentName_ + PrintedNames::pageSuffix);
 }

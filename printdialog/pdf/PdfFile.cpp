@@ -50,7 +50,8 @@ bool PdfFile::finish(int catalog, int information)
     const QByteArray count = QByteArray::number(qsizetype(offsets_.size()) + 1);
     QByteArray table = "xref\n0 " + count + "\n0000000000 65535 f \n";
     for (const qint64 offset : offsets_)
-        table += QByteArray::number(offset).rightJustified(10, '0') + " 00000 n \n";
+        table += QByteArray::number(offset).rightJustified(10, '0') +
+                 (offset > 0 ? " 00000 n \n" : " 65535 f \n"); // reserved and not written
     table += "trailer\n<< /Size " + count + " /Root " + reference(catalog) + " /Info " +
              reference(information) + " >>\nstartxref\n" + QByteArray::number(begin) + "\n%%EOF\n";
     write(table);

@@ -155,9 +155,12 @@ std::optional<Failure<PhotoFault>> PdfImage::writeDecodedPng(PdfFile &file, int 
     PngPixels pixels(content);
     for (int y = 0; y < size.height() && !file.hasFailed(); ++y) {
         const unsigned char *row = pixels.nextRow();
-        if (!row)
-            return pixels.isShortOfMemory() ? photo_.memoryFailure() : photo_.broken(pixels.error());
-        rows.addRow(row);
+        if (row) {
+            rows.addRow(row);
+            continue;
+        }
+        file.endStream();
+        return pixels.isShortOfMemory() ? photo_.memoryFailure() : photo_.broken(pixels.error());
     }
     rows.finish();
     file.endStream();

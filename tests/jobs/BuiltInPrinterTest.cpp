@@ -4,6 +4,7 @@
 #include "BuiltInPrinter.h"
 #include "Rows.h"
 #include "SamplePhotos.h"
+#include "SheetPrinter.h"
 #include "TestMain.h"
 
 #include <QtCore/QDirIterator>
@@ -232,6 +233,56 @@ private Q_SLOTS:
         QVERIFY2(files.failure().text.contains(named), qPrintable(files.failure().text));
         QCOMPARE(contentOf(folder_->path()), before);
         QCOMPARE(names.nameFor(u"photo.jpg"_s), u"photo"_s);
+    }
+
+    void unusablePhotosLeaveTheDocumentAlone_data()
+    {
+        // Photos: whole, gone before they are printed, or a PNG with too few rows.
+        const auto add = rows<QString, int>();
+        add("none", u"www"_s, 3);
+        add("the first one is gone", u"gww"_s, 2);
+        add("one is gone", u"wgw"_s, 2);
+        add("the last one is gone", u"wwg"_s, 2);
+        add("one lacks rows", u"wrw"_s, 2);
+        add("all are gone", u"gg"_s, 0);
+    }
+
+    void unusablePhotosLeaveTheDocumentAlone()
+    {
+        const auto [photos, pages] = row<QString, int>();
+        const QByteArray jpeg = samples::encoded(samples::quarters(QSize(30, 20)), "jpeg");
+        PrintJob job = usualJob();
+        job.destination = Destination::builtIn();
+        job.folder = {pathOf(u"out"_s)};
+        job.folder.document = u"all"_s;
+        SheetPrinter printer(job);
+        for (const QChar kind : photos) {
+            const QString path = pathOf(u"photo"_s);
+            samples::store(
+                path, kind == u'r' ? samples::pngOf(samples::pngHeader({2, 2}, 2), QByteArray(7, 0)) : jpeg);
+            const auto photo = Photo::open(path);
+            QVERIFY(photo);
+            if (kind == u'g')
+                QFile::remove(path);
+            const auto printed = printer.print(PrintSheet::of(*photo, job.page, {}, true));
+            QCOMPARE(bool(printed), kind == u'w');
+            QVERIFY(printed || printed.failure().reason.isPhotoFault);
+        }
+        QCOMPARE(printer.hasDocument(), pages > 0);
+        QCOMPARE(QFile::exists(job.folder.path), pages > 0);
+        if (pages == 0)
+            return;
+        const auto document = printer.finishDocument();
+        QVERIFY(document);
+        const QByteArray pdf = samples::load(*document);
+        QCOMPARE(pdf.count("/Type /Page /"), pages);
+        QCOMPARE(pdf.count(" 0 obj\n"), pdf.count("\nendobj\n"));
+        const QByteArrayList table = pdf.sliced(pdf.lastIndexOf("xref\n0 ")).split('\n');
+        for (qsizetype i = 3; !table.at(i).startsWith("trailer"); ++i) {
+            const QByteArray object = QByteArray::number(i - 2) + " 0 obj\n";
+            QVERIFY(table.at(i).endsWith("f ") ||
+                    pdf.sliced(table.at(i).first(10).toLongLong()).startsWith(object));
+        }
     }
 };
 
