@@ -56,7 +56,7 @@ int BatchRun::showPlan(const Arrangement &arrangement, const PrintJob &job, cons
         const PrintSheet sheet = arrangement.sheet(sheets.sheets().at(i));
         const auto plan = JobPlan::make(sheet, job, uri, names, {i + 1, count});
         if (!plan && plan.failure().reason.isPhotoFault) {
-            skipped(plan.failure().text);
+            skipped(PrintRun::leftOutText(sheet, plan.failure().text));
             continue;
         }
         if (!plan)

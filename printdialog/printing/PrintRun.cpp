@@ -36,6 +36,14 @@ bool PrintRun::isRaised(int *flag)
     return flag && std::atomic_ref(*flag).load() != 0;
 }
 
+QString PrintRun::leftOutText(const PrintSheet &sheet, const QString &why)
+{
+    const QString &first = sheet.photos.constFirst().photo.path();
+    const bool isAlone = std::ranges::all_of(
+        sheet.photos, [&first](const SheetPhoto &laid) { return laid.photo.path() == first; });
+    return isAlone ? why : tr("%1 The sheet with %2 is not printed.").arg(why, sheet.name);
+}
+
 PrintOutcome PrintRun::print(qsizetype count, const SheetSource &sheets)
 {
     outcome_.total = static_cast<int>(count);
@@ -124,8 +132,8 @@ bool PrintRun::printOne(const PrintSheet &sheet)
     if (!printed && isRaised(flags_.cancel))
         return false;
     if (!printed && printed.failure().reason.isPhotoFault) {
-        outcome_.skipped.append(printed.failure().text);
-        listener_.skipped(printed.failure().text);
+        outcome_.skipped.append(leftOutText(sheet, printed.failure().text));
+        listener_.skipped(outcome_.skipped.constLast());
         return true;
     }
     if (!printed) {

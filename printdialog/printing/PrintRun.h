@@ -5,6 +5,7 @@
 
 #include "SheetPrinter.h"
 
+#include <QtCore/QCoreApplication>
 #include <QtCore/QStringList>
 
 #include <functional>
@@ -71,6 +72,8 @@ public:
 /// line both print through it. Blocking.
 class PrintRun
 {
+    Q_DECLARE_TR_FUNCTIONS(printdialog::PrintRun)
+
 public:
     /// Returns the sheet of the index; called shortly before it is printed.
     using SheetSource = std::function<PrintSheet(qsizetype index)>;
@@ -82,6 +85,11 @@ public:
 
     /// Call at most once. Jobs are not followed when FollowLimits::total is 0.
     PrintOutcome print(qsizetype count, const SheetSource &sheets);
+
+    /// What is said of a sheet that is left out: which photo is to blame, and that the sheet's other photos
+    /// are not printed either.
+    /// @param why a sentence about the photo
+    static QString leftOutText(const PrintSheet &sheet, const QString &why);
 
 private:
     static bool isRaised(int *flag);

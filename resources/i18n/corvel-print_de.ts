@@ -4116,6 +4116,13 @@ und das Programm merkt sie sich</translation>
     </message>
 </context>
 <context>
+    <name>printdialog::PrintRun</name>
+    <message>
+        <source>%1 The sheet with %2 is not printed.</source>
+        <translation>%1 Das Blatt mit %2 wird nicht gedruckt.</translation>
+    </message>
+</context>
+<context>
     <name>printdialog::PrintWorker</name>
     <message>
         <source>Writing %1</source>

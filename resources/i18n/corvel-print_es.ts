@@ -4115,6 +4115,13 @@ están y el programa las recuerda</translation>
     </message>
 </context>
 <context>
+    <name>printdialog::PrintRun</name>
+    <message>
+        <source>%1 The sheet with %2 is not printed.</source>
+        <translation>%1 La hoja con %2 no se imprime.</translation>
+    </message>
+</context>
+<context>
     <name>printdialog::PrintWorker</name>
     <message>
         <source>Writing %1</source>

@@ -4116,6 +4116,13 @@ elles sont, et le programme les retient</translation>
     </message>
 </context>
 <context>
+    <name>printdialog::PrintRun</name>
+    <message>
+        <source>%1 The sheet with %2 is not printed.</source>
+        <translation>%1 La feuille avec %2 n’est pas imprimée.</translation>
+    </message>
+</context>
+<context>
     <name>printdialog::PrintWorker</name>
     <message>
         <source>Writing %1</source>

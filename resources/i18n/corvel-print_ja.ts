@@ -4107,6 +4107,13 @@ where they are, and the program remembers them</source>
     </message>
 </context>
 <context>
+    <name>printdialog::PrintRun</name>
+    <message>
+        <source>%1 The sheet with %2 is not printed.</source>
+        <translation>%1 %2 のシートは印刷されません。</translation>
+    </message>
+</context>
+<context>
     <name>printdialog::PrintWorker</name>
     <message>
         <source>Writing %1</source>
