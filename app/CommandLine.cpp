@@ -85,6 +85,10 @@ constexpr std::array optionRows = {
               QT_TRANSLATE_NOOP("CommandLine",
                                 "where the built-in printer leaves its files (otherwise the current\n"
                                 "folder; with a window, Prints in your Pictures folder)")},
+    OptionRow{"one-pdf", "NAME",
+              QT_TRANSLATE_NOOP("CommandLine",
+                                "--batch: the built-in printer makes one PDF of all sheets, NAME.pdf,\n"
+                                "instead of one for each sheet")},
     OptionRow{"overwrite", nullptr,
               QT_TRANSLATE_NOOP("CommandLine",
                                 "--batch replaces files that the built-in printer has left before,\n"
@@ -239,6 +243,17 @@ Fault readPreview(const QCommandLineParser &parser, std::optional<QString> &prev
         return std::nullopt;
     return fault(UsageFault::Value,
                  Text::tr("\"%1\" is not the name of a picture. Give one that ends in .png.").arg(*preview));
+}
+
+/// The name of the one PDF may be given with its suffix.
+Fault readOutput(const QCommandLineParser &parser, CommandLine &line)
+{
+    Fault found = readValue(parser, "output", line.output);
+    if (!found)
+        found = readValue(parser, "one-pdf", line.onePdf);
+    if (line.onePdf && line.onePdf->endsWith(PrintedNames::pageSuffix, Qt::CaseInsensitive))
+        line.onePdf->chop(PrintedNames::pageSuffix.size());
+    return found;
 }
 
 /// File managers pass URLs. But a file may also have such a name.
@@ -442,6 +457,8 @@ Fault contradiction(const CommandLine &line)
     if (line.overwrite && !line.batch && !line.dryRun && !line.preview)
         return fault(UsageFault::Combination,
                      Text::tr("--overwrite is for --batch, --dry-run and --preview."));
+    if (line.onePdf && !line.batch && !line.dryRun)
+        return fault(UsageFault::Combination, Text::tr("--one-pdf is for --batch and --dry-run."));
     if (line.wait && !line.batch)
         return fault(UsageFault::Combination, Text::tr("--wait is for --batch."));
     if (line.preset && !line.printer && !line.runsWithoutWindow() && !line.screenshot)
@@ -490,11 +507,11 @@ Result<CommandLine, UsageFault> CommandLine::parse(const QStringList &arguments)
          {readPhotos(parser.positionalArguments(), line.photos), readCopies(parser, line.copies),
           readValue(parser, "printer", line.printer), readValue(parser, "ppd", line.ppd),
           readPreset(parser, line), readValue(parser, "watch", line.watch),
-          readValue(parser, "printed", line.printed), readValue(parser, "output", line.output),
-          readTitle(parser, line), readValue(parser, "screenshot", line.screenshot),
-          readPreview(parser, line.preview), readServer(parser, line.server), readWait(parser, line.wait),
-          readMode(parser, line.mode), readSheets(parser, line.style), readCrop(parser, line.style),
-          readChoices(parser, line.options), contradiction(line), contradictionOfWatch(line)}) {
+          readValue(parser, "printed", line.printed), readOutput(parser, line), readTitle(parser, line),
+          readValue(parser, "screenshot", line.screenshot), readPreview(parser, line.preview),
+          readServer(parser, line.server), readWait(parser, line.wait), readMode(parser, line.mode),
+          readSheets(parser, line.style), readCrop(parser, line.style), readChoices(parser, line.options),
+          contradiction(line), contradictionOfWatch(line)}) {
         if (found)
             return *found;
     }

@@ -72,6 +72,7 @@ struct CommandLine
     std::optional<int> copies;      ///< of each photo, from 1 to mostCopies
     RequestedStyle style;
     std::optional<QString> output; ///< the folder of the built-in printer's files
+    std::optional<QString> onePdf; ///< the name of one PDF of all sheets, without suffix
     bool overwrite = false;        ///< files of an earlier run are replaced
     bool batch = false;
     std::optional<QString> watch;   ///< the folder whose new photos are printed

@@ -37,10 +37,23 @@ int BatchRun::run()
     if (commandLine_.summary)
         console_.writeLines(
             summaryLines(jobSummary(session, requested->copies, opened->placements(), opened->layout)));
-    job->folder = {commandLine_.outputFolder(), commandLine_.overwrite, opened->paths()};
+    job->folder = {commandLine_.outputFolder(), commandLine_.overwrite, opened->paths(), commandLine_.onePdf};
+    if (const auto unfit = whyNotOnePdf(*job))
+        return fail(*unfit);
     const Arrangement arrangement = job->isRaw() ? opened->unplaced() : *opened;
     return commandLine_.dryRun ? showPlan(arrangement, *job, session.printer().uri)
                                : printAll(arrangement, *job);
+}
+
+std::optional<QString> BatchRun::whyNotOnePdf(const PrintJob &job)
+{
+    if (!job.folder.document)
+        return std::nullopt;
+    if (!job.destination.isBuiltIn())
+        return tr("--one-pdf is for the built-in printer, and this is \"%1\". Leave it out, or name the "
+                  "built-in printer.")
+            .arg(job.destination.id());
+    return PrintedNames(job.folder).whyUnfit();
 }
 
 int BatchRun::showPlan(const Arrangement &arrangement, const PrintJob &job, const QString &uri)

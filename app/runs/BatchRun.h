@@ -36,6 +36,8 @@ private:
     void skipped(const QString &sentence) override;
     void following(qsizetype sheet, const QString &name, const QString &state) override;
 
+    /// A sentence; nothing when one PDF of all sheets can be made, or is not wanted.
+    static std::optional<QString> whyNotOnePdf(const PrintJob &job);
     int showPlan(const Arrangement &arrangement, const PrintJob &job, const QString &uri);
     int printAll(const Arrangement &arrangement, const PrintJob &job);
     int conclude(const PrintOutcome &outcome, bool isQueue);

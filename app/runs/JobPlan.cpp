@@ -35,8 +35,11 @@ Result<JobPlan, SheetPrinter::Fault> JobPlan::make(const PrintSheet &sheet, cons
     if (job.destination.isBuiltIn()) {
         if (const auto damage = PhotoCheck(sheet.photosToCheck()).wait())
             return Failure<SheetPrinter::Fault>{{std::nullopt, true}, damage->text, damage->detail};
-        const QString name = names.nameFor(sheet.photos.constFirst().photo.path());
-        names.markTaken(name);
+        const auto &document = job.folder.document;
+        const QString name = names.nameFor(document ? *document + PrintedNames::pageSuffix
+                                                    : sheet.photos.constFirst().photo.path());
+        if (!document)
+            names.markTaken(name);
         for (const QLatin1String suffix : {PrintedNames::pageSuffix, PrintedNames::ticketSuffix})
             plan.files_.append(QDir(names.folder().path).absoluteFilePath(name + suffix));
         return plan;

@@ -58,7 +58,7 @@ _corvel_print()
             COMPREPLY=($(compgen -W "none name date both" -- "$cur"))
             return
             ;;
-        --crop | --scale | --border | -n | --copies | --title | --preset)
+        --crop | --scale | --border | -n | --copies | --title | --preset | --one-pdf)
             return
             ;;
         --ppd)

@@ -105,6 +105,10 @@
         <source>Canceled; the jobs already sent were canceled, too.</source>
         <translation>Abgebrochen; die gesendeten Aufträge wurden vom Drucker zurückgenommen.</translation>
     </message>
+    <message>
+        <source>--one-pdf is for the built-in printer, and this is &quot;%1&quot;. Leave it out, or name the built-in printer.</source>
+        <translation>--one-pdf gilt für den eingebauten Drucker, und dies ist „%1“. Lassen Sie es weg, oder nennen Sie den eingebauten Drucker.</translation>
+    </message>
 </context>
 <context>
     <name>ChoiceMarker</name>
@@ -512,6 +516,16 @@ und das Programm merkt sie sich</translation>
     <message>
         <source>--watch prints the photos of its folder, and &quot;%1&quot; is named, too. Leave one of them out.</source>
         <translation>--watch druckt die Fotos seines Ordners, und „%1“ ist auch genannt. Lassen Sie eines davon weg.</translation>
+    </message>
+    <message>
+        <source>--batch: the built-in printer makes one PDF of all sheets, NAME.pdf,
+instead of one for each sheet</source>
+        <translation>--batch: Der eingebaute Drucker macht ein PDF aus allen Blättern, NAME.pdf,
+statt eines für jedes Blatt</translation>
+    </message>
+    <message>
+        <source>--one-pdf is for --batch and --dry-run.</source>
+        <translation>--one-pdf gehört zu --batch und --dry-run.</translation>
     </message>
 </context>
 <context>

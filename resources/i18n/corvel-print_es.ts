@@ -105,6 +105,10 @@
         <source>Canceled; the jobs already sent were canceled, too.</source>
         <translation>Cancelado; los trabajos enviados se han retirado de la impresora.</translation>
     </message>
+    <message>
+        <source>--one-pdf is for the built-in printer, and this is &quot;%1&quot;. Leave it out, or name the built-in printer.</source>
+        <translation>--one-pdf es para la impresora integrada, y esta es «%1». Quítelo o indique la impresora integrada.</translation>
+    </message>
 </context>
 <context>
     <name>ChoiceMarker</name>
@@ -511,6 +515,16 @@ están y el programa las recuerda</translation>
     <message>
         <source>--watch prints the photos of its folder, and &quot;%1&quot; is named, too. Leave one of them out.</source>
         <translation>--watch imprime las fotos de su carpeta, y también se nombra «%1». Omita uno de los dos.</translation>
+    </message>
+    <message>
+        <source>--batch: the built-in printer makes one PDF of all sheets, NAME.pdf,
+instead of one for each sheet</source>
+        <translation>--batch: la impresora integrada hace un solo PDF de todas las hojas, NAME.pdf,
+en lugar de uno por hoja</translation>
+    </message>
+    <message>
+        <source>--one-pdf is for --batch and --dry-run.</source>
+        <translation>--one-pdf es para --batch y --dry-run.</translation>
     </message>
 </context>
 <context>

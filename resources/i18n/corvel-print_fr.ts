@@ -105,6 +105,10 @@
         <source>Canceled; the jobs already sent were canceled, too.</source>
         <translation>Annulé&#xa0;; les tâches envoyées ont été retirées de l’imprimante.</translation>
     </message>
+    <message>
+        <source>--one-pdf is for the built-in printer, and this is &quot;%1&quot;. Leave it out, or name the built-in printer.</source>
+        <translation>--one-pdf concerne l’imprimante intégrée, et celle-ci est «&#x202f;%1&#x202f;». Retirez-le, ou indiquez l’imprimante intégrée.</translation>
+    </message>
 </context>
 <context>
     <name>ChoiceMarker</name>
@@ -512,6 +516,16 @@ elles sont, et le programme les retient</translation>
     <message>
         <source>--watch prints the photos of its folder, and &quot;%1&quot; is named, too. Leave one of them out.</source>
         <translation>--watch imprime les photos de son dossier, et «&#x202f;%1&#x202f;» est aussi nommé. Omettez l’un des deux.</translation>
+    </message>
+    <message>
+        <source>--batch: the built-in printer makes one PDF of all sheets, NAME.pdf,
+instead of one for each sheet</source>
+        <translation>--batch&#x202f;: l’imprimante intégrée fait un seul PDF de toutes les feuilles,
+NAME.pdf, au lieu d’un par feuille</translation>
+    </message>
+    <message>
+        <source>--one-pdf is for --batch and --dry-run.</source>
+        <translation>--one-pdf va avec --batch et --dry-run.</translation>
     </message>
 </context>
 <context>

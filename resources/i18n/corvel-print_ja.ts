@@ -105,6 +105,10 @@
         <source>Canceled; the jobs already sent were canceled, too.</source>
         <translation>中止しました。送信したジョブはプリンターから取り消しました。</translation>
     </message>
+    <message>
+        <source>--one-pdf is for the built-in printer, and this is &quot;%1&quot;. Leave it out, or name the built-in printer.</source>
+        <translation>--one-pdf は内蔵プリンター用ですが、これは「%1」です。取り除くか、内蔵プリンターを指定してください。</translation>
+    </message>
 </context>
 <context>
     <name>ChoiceMarker</name>
@@ -510,6 +514,16 @@ where they are, and the program remembers them</source>
     <message>
         <source>--watch prints the photos of its folder, and &quot;%1&quot; is named, too. Leave one of them out.</source>
         <translation>--watch はフォルダーの写真を印刷しますが、「%1」も指定されています。どちらかを省いてください。</translation>
+    </message>
+    <message>
+        <source>--batch: the built-in printer makes one PDF of all sheets, NAME.pdf,
+instead of one for each sheet</source>
+        <translation>--batch: 内蔵プリンターが、シートごとではなく、すべてのシートを 1 つの PDF
+（NAME.pdf）にまとめる</translation>
+    </message>
+    <message>
+        <source>--one-pdf is for --batch and --dry-run.</source>
+        <translation>--one-pdf は --batch と --dry-run で使います。</translation>
     </message>
 </context>
 <context>

@@ -48,6 +48,7 @@ USAGE = (
     (["--batch", "file:///tmp/a.jpg%00b"], "a.jpg%00b"),
     (["--overwrite", PHOTO], "--overwrite"),
     (["--no-check", PHOTO], "--no-check"),
+    (["--one-pdf", "all", PHOTO], "--one-pdf"),
     (["--server", ":631", PHOTO], '":631"'),
     (["--server", "host:99999", PHOTO], "host:99999"),
     (["--server", "host/ipp print", PHOTO], "HOST:PORT"),

@@ -76,6 +76,19 @@ class SheetsTest(ProgramTest):
         content = (self.out / "ein Bild 写真.pdf").read_bytes()
         self.assertGreater(content.count(b" c\n"), 200)
 
+    def test_prints_one_pdf(self):
+        for name, left in ("all", "all"), ("all.pdf", "all-2"):
+            options = "--printer", "built-in", "--layout", "1x2", "--one-pdf", name
+            planned = self.plan(*options[2:], "--output", self.out, PHOTO, PHOTO, PHOTO)
+            files = [str(self.out / f"{left}.{suffix}") for suffix in ("pdf", "ticket.json")]
+            self.assertEqual([sheet["files"] for sheet in planned], [files] * 2)
+            done = self.print(*options, PHOTO, PHOTO, PHOTO)
+            self.assertEqual((done.status, done.err, done.out.count(f"of {left}.pdf\n")), (0, "", 2))
+            self.assertIn(b"/Count 2 ", (self.out / f"{left}.pdf").read_bytes())
+        self.assertEqual(self.names(), ["all-2.pdf", "all-2.ticket.json", "all.pdf", "all.ticket.json"])
+        for name, words in ("a/b", "slash"), (".pdf", "no name"), ("n" * 300, "too long"):
+            self.assert_refused(self.print(*options[:-1], name, PHOTO), 1, words)
+
     def test_prints_a_list(self):
         self.stored("a.jpg", open(PHOTO, "rb").read())
         saved = self.stored("list.json", json.dumps(
