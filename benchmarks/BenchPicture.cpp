@@ -3,6 +3,9 @@
 
 #include "BenchPicture.h"
 
+#include <QtCore/QBuffer>
+#include <QtGui/QImageWriter>
+
 QImage picture(const QSize &size)
 {
     QImage image(size, QImage::Format_RGB32);
@@ -17,4 +20,24 @@ QImage picture(const QSize &size)
         }
     }
     return image;
+}
+
+QByteArray jpegOfAtMost(qsizetype bytes, const QSize &size)
+{
+    const QImage image = picture(size);
+    QByteArray largest;
+    for (int low = 40, high = 95; low <= high;) {
+        const int quality = (low + high) / 2;
+        QByteArray jpeg;
+        QBuffer buffer(&jpeg);
+        QImageWriter writer(&buffer, "jpeg");
+        writer.setQuality(quality);
+        if (!writer.write(image))
+            break;
+        const bool isTooLarge = jpeg.size() > bytes;
+        (isTooLarge ? high : low) = isTooLarge ? quality - 1 : quality + 1;
+        if (!isTooLarge)
+            largest = jpeg;
+    }
+    return largest;
 }

@@ -40,5 +40,8 @@ void benchPdf();
 /// The window with a thousand photos: until it can be used, and the memory that it takes.
 void benchPhotos();
 
+/// Hundreds of photos on sheets in one PDF, beside img2pdf and CUPS's own filter.
+void benchSheets();
+
 /// What adjusting the preview's picture takes, beside lcms2's own table.
 void benchAdjustments();

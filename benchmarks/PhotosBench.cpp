@@ -5,11 +5,9 @@
 #include "BenchTable.h"
 #include "Benches.h"
 
-#include <QtCore/QBuffer>
 #include <QtCore/QFile>
 #include <QtCore/QProcess>
 #include <QtCore/QTemporaryDir>
-#include <QtGui/QImageWriter>
 
 #include <unistd.h>
 
@@ -19,26 +17,9 @@ constexpr int photoCount = 1000;
 constexpr int fileCount = 300; // the others are further names of these, to spare the disk
 constexpr qsizetype photoSize = 8 << 20;
 
-/// Of 24 megapixels and about that many bytes.
-QByteArray largeJpeg()
-{
-    const QImage image = picture(QSize(6000, 4000));
-    QByteArray largest;
-    for (int quality = 40; quality <= 95; quality += 5) {
-        QByteArray jpeg;
-        QBuffer buffer(&jpeg);
-        QImageWriter writer(&buffer, "jpeg");
-        writer.setQuality(quality);
-        if (!writer.write(image) || (!largest.isEmpty() && jpeg.size() > photoSize))
-            break;
-        largest = jpeg;
-    }
-    return largest;
-}
-
 bool makePhotos(const QTemporaryDir &folder)
 {
-    const QByteArray jpeg = largeJpeg();
+    const QByteArray jpeg = jpegOfAtMost(photoSize, QSize(6000, 4000));
     for (int i = 0; i < photoCount; ++i) {
         const QByteArray path =
             QFile::encodeName(folder.filePath(QStringLiteral("%1.jpg").arg(i, 4, 10, QLatin1Char('0'))));
