@@ -178,12 +178,6 @@ oder vor dem Drucken alles zusammen prüfen (settings)</translation>
         <translation>Auswahl für eine Option des Druckers; mehrfach, der Reihe nach</translation>
     </message>
     <message>
-        <source>no window: apply the options, print, exit; what the window has
-saved is not used, so that a script gets the same each time</source>
-        <translation>ohne Fenster: Optionen anwenden, drucken, beenden; was im Fenster
-gespeichert wurde, gilt nicht, damit Skripte stets Gleiches tun</translation>
-    </message>
-    <message>
         <source>list the printers, one per line: name, description, state,
 &quot;default&quot;; separated by tabs</source>
         <translation>Drucker auflisten, einer je Zeile: Name, Beschreibung, Zustand,
@@ -526,6 +520,14 @@ statt eines für jedes Blatt</translation>
     <message>
         <source>--one-pdf is for --batch and --dry-run.</source>
         <translation>--one-pdf gehört zu --batch und --dry-run.</translation>
+    </message>
+    <message>
+        <source>no window: apply the options, print, exit; of what the window has
+saved only the print position is used, so that a script gets the same
+each time</source>
+        <translation>kein Fenster: Optionen anwenden, drucken, beenden; von dem, was das
+Fenster gespeichert hat, wird nur die Drucklage verwendet, damit ein
+Skript jedes Mal dasselbe erhält</translation>
     </message>
 </context>
 <context>

@@ -178,12 +178,6 @@ o comprobarlos todos juntos antes de imprimir (settings)</translation>
         <translation>valor de una opción de la impresora; repetible, en orden</translation>
     </message>
     <message>
-        <source>no window: apply the options, print, exit; what the window has
-saved is not used, so that a script gets the same each time</source>
-        <translation>sin ventana: aplicar las opciones, imprimir y salir; no se usa lo
-guardado en la ventana, para que un guion dé siempre lo mismo</translation>
-    </message>
-    <message>
         <source>list the printers, one per line: name, description, state,
 &quot;default&quot;; separated by tabs</source>
         <translation>listar las impresoras, una por línea: nombre, descripción, estado,
@@ -525,6 +519,14 @@ en lugar de uno por hoja</translation>
     <message>
         <source>--one-pdf is for --batch and --dry-run.</source>
         <translation>--one-pdf es para --batch y --dry-run.</translation>
+    </message>
+    <message>
+        <source>no window: apply the options, print, exit; of what the window has
+saved only the print position is used, so that a script gets the same
+each time</source>
+        <translation>sin ventana: aplicar las opciones, imprimir y salir; de lo que la ventana
+ha guardado solo se usa la posición de impresión, para que un script
+obtenga siempre lo mismo</translation>
     </message>
 </context>
 <context>

@@ -178,12 +178,6 @@ ou vérifier tous les choix avant d’imprimer (settings)</translation>
         <translation>choix pour une option de l’imprimante&#x202f;; répétable, dans l’ordre</translation>
     </message>
     <message>
-        <source>no window: apply the options, print, exit; what the window has
-saved is not used, so that a script gets the same each time</source>
-        <translation>sans fenêtre&#x202f;: appliquer les options, imprimer, quitter&#x202f;; ce que la
-fenêtre a enregistré ne compte pas&#x202f;: un script est reproductible</translation>
-    </message>
-    <message>
         <source>list the printers, one per line: name, description, state,
 &quot;default&quot;; separated by tabs</source>
         <translation>lister les imprimantes, une par ligne&#x202f;: nom, description, état,
@@ -526,6 +520,14 @@ NAME.pdf, au lieu d’un par feuille</translation>
     <message>
         <source>--one-pdf is for --batch and --dry-run.</source>
         <translation>--one-pdf va avec --batch et --dry-run.</translation>
+    </message>
+    <message>
+        <source>no window: apply the options, print, exit; of what the window has
+saved only the print position is used, so that a script gets the same
+each time</source>
+        <translation>sans fenêtre : appliquer les options, imprimer, quitter ; de ce que la
+fenêtre a enregistré, seule la position d’impression est utilisée, pour
+qu’un script obtienne chaque fois la même chose</translation>
     </message>
 </context>
 <context>

@@ -178,12 +178,6 @@ or check all choices together before printing (settings)</source>
         <translation>プリンターのオプションを選ぶ。繰り返し可、順に適用</translation>
     </message>
     <message>
-        <source>no window: apply the options, print, exit; what the window has
-saved is not used, so that a script gets the same each time</source>
-        <translation>ウィンドウなし: オプションを適用し、印刷して終了する。
-スクリプトの結果が変わらないよう、ウィンドウで保存した設定は使わない</translation>
-    </message>
-    <message>
         <source>list the printers, one per line: name, description, state,
 &quot;default&quot;; separated by tabs</source>
         <translation>プリンターを 1 行に 1 台ずつ表示する: 名前、説明、状態、
@@ -524,6 +518,13 @@ instead of one for each sheet</source>
     <message>
         <source>--one-pdf is for --batch and --dry-run.</source>
         <translation>--one-pdf は --batch と --dry-run で使います。</translation>
+    </message>
+    <message>
+        <source>no window: apply the options, print, exit; of what the window has
+saved only the print position is used, so that a script gets the same
+each time</source>
+        <translation>ウインドウなし: オプションを適用して印刷し、終了します。ウインドウで保存した
+もののうち使うのは印刷位置だけなので、スクリプトの結果は毎回同じです</translation>
     </message>
 </context>
 <context>

@@ -1,0 +1,40 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include "CommandLine.h"
+
+#include <QtCore/QCommandLineParser>
+#include <QtCore/QCoreApplication>
+
+#include <optional>
+
+// The parts of CommandLine.
+
+namespace printdialog {
+
+inline QString latin1(const char *text)
+{
+    return QString::fromLatin1(text);
+}
+
+struct CommandLineText
+{
+    Q_DECLARE_TR_FUNCTIONS(CommandLine)
+};
+
+/// Why a command line is wrong; nothing while it is right.
+using UsageFailure = std::optional<Failure<UsageFault>>;
+
+inline Failure<UsageFault> usageFault(UsageFault reason, const QString &text)
+{
+    return {reason, text, {}};
+}
+
+/// Every option with its value's name.
+void addCommandLineOptions(QCommandLineParser &parser);
+/// Options that do not go together, and what is missing.
+UsageFailure commandLineContradiction(const CommandLine &line);
+
+} // namespace printdialog
