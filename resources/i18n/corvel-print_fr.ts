@@ -525,7 +525,7 @@ NAME.pdf, au lieu d’un par feuille</translation>
         <source>no window: apply the options, print, exit; of what the window has
 saved only the print position is used, so that a script gets the same
 each time</source>
-        <translation>sans fenêtre : appliquer les options, imprimer, quitter ; de ce que la
+        <translation>sans fenêtre&#x202f;: appliquer les options, imprimer, quitter&#x202f;; de ce que la
 fenêtre a enregistré, seule la position d’impression est utilisée, pour
 qu’un script obtienne chaque fois la même chose</translation>
     </message>
