@@ -102,6 +102,31 @@ private Q_SLOTS:
         QCOMPARE(opened.dialog->size(), size);
     }
 
+    void photosNeedNoScrollingToTheSide_data()
+    {
+        addRows<QString>({{"English", u"en"_s},
+                          {"German", u"de"_s},
+                          {"French", u"fr"_s},
+                          {"Spanish", u"es"_s},
+                          {"Japanese", u"ja"_s}});
+    }
+
+    void photosNeedNoScrollingToTheSide()
+    {
+        QTranslator translator;
+        const auto [language] = row<QString>();
+        QVERIFY(speak(translator, language));
+        const OpenedDialog opened;
+        opened.dialog->resize(1024, 600);
+        opened.click(u"more"_s);
+        auto *kind = opened.find<QComboBox>(u"layoutKind"_s);
+        for (int i = 0; i < kind->count(); ++i) {
+            QCoreApplication::processEvents();
+            QCOMPARE(opened.find<QScrollArea>(u"photoSide"_s)->horizontalScrollBar()->maximum(), 0);
+            QTest::keyClick(kind, Qt::Key_Down);
+        }
+    }
+
     void wheelChangesNothing()
     {
         const OpenedDialog opened;

@@ -5,12 +5,12 @@
 
 #include "ElidingButton.h"
 #include "PlainText.h"
+#include "WrappingRow.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QSignalBlocker>
 #include <QtWidgets/QCheckBox>
 #include <QtWidgets/QFileDialog>
-#include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QVBoxLayout>
 
@@ -34,9 +34,9 @@ WatchBar::WatchBar(QWidget *parent)
     news_->setTextFormat(Qt::PlainText);
     news_->setWordWrap(true);
     news_->hide();
-    auto *row = new QHBoxLayout;
+    auto *row = new WrappingRow;
     row->addWidget(switch_);
-    row->addWidget(choose_, 1);
+    row->addWidget(choose_);
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins({});
     layout->addLayout(row);
