@@ -33,7 +33,9 @@ PresetController::PresetController(PresetBar *bar, MessageBar *message, ChoiceSt
     , photos_(photos)
 {
     makeActions();
-    connect(photos_, &ArrangementModel::placementChanged, this, &PresetController::update);
+    // A preset holds the current photo's placement.
+    for (const auto change : {&ArrangementModel::placementChanged, &ArrangementModel::selectionChanged})
+        connect(photos_, change, this, &PresetController::update);
     update();
 }
 
