@@ -52,6 +52,8 @@ private Q_SLOTS:
         QVERIFY(ticket.open(QIODevice::ReadOnly) && ticket.readAll().contains("\"Red\": \"0\""));
         QVERIFY(!isPrinted(u"old"_s)); // was there before
 
+        opened.click(u"removePhoto"_s); // it can be switched off, and on, without a photo as well
+        QVERIFY(!opened.find<QWidget>(u"turn"_s)->isEnabled());
         toggle->setFocus();
         opened.press(Qt::Key_Space);
         QVERIFY(!toggle->isChecked() && !news->isVisible());

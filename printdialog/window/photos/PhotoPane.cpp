@@ -282,9 +282,9 @@ void PhotoPane::showControls()
     placement_->showPhotos(*model_);
     print_->showPhotos(*model_);
     layout_->showLayout(arrangement().layout);
-    const bool hasPhotos = model_->count() > 0;
-    for (QWidget *control : std::initializer_list<QWidget *>{placement_, more_, remove_})
-        control->setEnabled(hasPhotos);
+    // Sheets can be chosen, and a folder be watched, without a photo.
+    print_->setEnabled(model_->count() > 0);
+    remove_->setEnabled(model_->count() > 0);
     // A single photo needs no table, and no thumbnail.
     table_->setVisible(model_->count() > 1);
     grip_->setVisible(model_->count() > 1);

@@ -74,13 +74,20 @@ PlacementBar::PlacementBar(QWidget *parent)
 
 void PlacementBar::setPlacedByPrinter(bool isPlaced)
 {
+    isPlacedByPrinter_ = isPlaced;
     const QString reason = isPlaced ? tr("This printer places the photo on the page itself.") : QString();
     scaling_->setToolTip(reason);
     turn_->setToolTip(isPlaced ? reason : turnHint_);
     for (QWidget *control : {static_cast<QWidget *>(scaling_), static_cast<QWidget *>(turn_)}) {
         control->setAccessibleDescription(control->toolTip());
-        control->setEnabled(!isPlaced);
     }
+    enable();
+}
+
+void PlacementBar::enable()
+{
+    for (QWidget *control : {static_cast<QWidget *>(scaling_), static_cast<QWidget *>(turn_)})
+        control->setEnabled(hasPhotos_ && !isPlacedByPrinter_);
 }
 
 void PlacementBar::showMore()
@@ -90,6 +97,8 @@ void PlacementBar::showMore()
 
 void PlacementBar::showPhotos(const ArrangementModel &photos)
 {
+    hasPhotos_ = photos.count() > 0;
+    enable();
     const auto scaling =
         commonValue(photos, [](const PlacedPhoto &photo) { return photo.placement.scaling; });
     scaling_->setCurrentIndex(scaling ? scaling_->findData(static_cast<int>(*scaling)) : -1);

@@ -40,10 +40,14 @@ Q_SIGNALS:
     void moreWanted(bool areWanted);
 
 private:
+    void enable();
+
     QComboBox *scaling_;
     QPushButton *turn_;
     QToolButton *more_;
     QString turnHint_;
+    bool hasPhotos_ = false;
+    bool isPlacedByPrinter_ = false;
 };
 
 } // namespace printdialog
