@@ -111,11 +111,17 @@ void PrintDialog::updatePosition()
     const DialogSession *session = printer_->session();
     const bool isPossible = session && !session->printer().isRaw;
     ui_->position->setEnabled(isPossible);
-    if (!position_ || !isPossible)
+    if (!position_)
         return;
+    position_->setWhyNoTest(printing_->isBusy() ? tr("Printing is under way.") : printer_->whyNotReady());
+    if (!session)
+        return;
+    if (!isPossible) { // another printer is shown than the one that it is about
+        position_->close();
+        return;
+    }
     const QString paper = session->chosen(session->options().pageSizeKey()).value_or(QString());
     position_->setPaper(session->printer().destination.queue, paper, ui_->pageSize->currentText());
-    position_->setWhyNoTest(printing_->isBusy() ? tr("Printing is under way.") : printer_->whyNotReady());
 }
 
 } // namespace printdialog

@@ -211,7 +211,11 @@ private Q_SLOTS:
     void queueWithoutPpd()
     {
         const OpenedDialog opened(setupForPrinter());
+        opened.click(u"position"_s);
+        const QWidget *position = opened.find<QWidget>(u"moveRight"_s)->window();
+        QVERIFY(position->isVisible());
         choose(opened, u"raw"_s);
+        QVERIFY(!position->isVisible()); // it cannot be moved there
         QVERIFY(opened.message().contains(u"no PPD"_s));
         QCOMPARE(opened.find<QComboBox>(u"pageSize"_s)->count(), 1);
         // Nothing suggests that a placement would be printed.
