@@ -14,6 +14,7 @@
 #include <QtCore/QMimeData>
 #include <QtCore/QUrl>
 #include <QtGui/QDropEvent>
+#include <QtWidgets/QAbstractItemView>
 #include <QtWidgets/QFileDialog>
 #include <QtWidgets/QMenu>
 #include <QtWidgets/QToolButton>
@@ -342,6 +343,9 @@ private Q_SLOTS:
         QTest::keyClick(kind, Qt::Key_Down); // two rows and two columns
         QCOMPARE(note->text(), u"Sheets: 2"_s);
         QTest::keyClick(opened.find<QWidget>(u"layoutRows"_s), Qt::Key_Down);
+        QCOMPARE(note->text(), u"Sheets: 3"_s);
+        kind->showPopup(); // the kind that is there already keeps its numbers
+        QTest::keyClick(kind->view(), Qt::Key_Return);
         QCOMPARE(note->text(), u"Sheets: 3"_s);
         QTest::keyClick(kind, Qt::Key_Down); // as many of a size as fit, and there is no size
         QVERIFY(note->text().contains(u"size"_s) && !print->isEnabled());

@@ -98,7 +98,9 @@ void LayoutBar::connectControls()
         Q_EMIT layoutChosen(layout, control);
     };
     connect(kind_, &QComboBox::activated, this, [this] {
-        Q_EMIT layoutChosen(SheetLayout::usual(static_cast<Kind>(kind_->currentData().toInt())), kind_);
+        const auto kind = static_cast<Kind>(kind_->currentData().toInt());
+        if (kind != layout_.kind) // the same one keeps its numbers
+            Q_EMIT layoutChosen(SheetLayout::usual(kind), kind_);
     });
     const auto connectNumber = [&](MixedSpinBox *box, int SheetLayout::*number) {
         connect(box, &MixedSpinBox::entered, this, [this, choose, box, number] {
