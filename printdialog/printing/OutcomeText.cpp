@@ -28,15 +28,22 @@ QString OutcomeText::summary() const
 QString OutcomeText::counted() const
 {
     if (outcome_.wasStopped)
-        return tr("Printing was stopped: printed %1 of %2 photos.").arg(outcome_.done).arg(outcome_.total);
+        return (areShared_ ? tr("Printing was stopped: printed %1 of %2 sheets.")
+                           : tr("Printing was stopped: printed %1 of %2 photos."))
+            .arg(outcome_.done)
+            .arg(outcome_.total);
     if (outcome_.done == outcome_.total)
         return allPrinted();
     if (!job_.destination.isBuiltIn() && !outcome_.isFollowed)
-        return outcome_.printed.isEmpty() ? QString()
-                                          : tr("Sent %1 of %2 photos to %3, which continues printing.")
-                                                .arg(QString::number(outcome_.printed.size()),
-                                                     QString::number(outcome_.total), job_.destination.id());
-    return tr("Printed %1 of %2 photos.").arg(outcome_.done).arg(outcome_.total);
+        return outcome_.printed.isEmpty()
+                   ? QString()
+                   : (areShared_ ? tr("Sent %1 of %2 sheets to %3, which continues printing.")
+                                 : tr("Sent %1 of %2 photos to %3, which continues printing."))
+                         .arg(QString::number(outcome_.printed.size()), QString::number(outcome_.total),
+                              job_.destination.id());
+    return (areShared_ ? tr("Printed %1 of %2 sheets.") : tr("Printed %1 of %2 photos."))
+        .arg(outcome_.done)
+        .arg(outcome_.total);
 }
 
 /// How many are not among the printed ones, each for its reason.
@@ -58,19 +65,22 @@ QString OutcomeText::others() const
 QString OutcomeText::allPrinted() const
 {
     if (!outcome_.document.isEmpty())
-        return tr("Printed %1 photos in one PDF: %2")
+        return (areShared_ ? tr("Printed %1 sheets in one PDF: %2") : tr("Printed %1 photos in one PDF: %2"))
             .arg(QString::number(outcome_.total), QDir::toNativeSeparators(outcome_.document));
     if (job_.destination.isBuiltIn())
-        return tr("Printed %1 photos in the folder %2")
+        return (areShared_ ? tr("Printed %1 sheets in the folder %2")
+                           : tr("Printed %1 photos in the folder %2"))
             .arg(QString::number(outcome_.total),
                  QDir::toNativeSeparators(QFileInfo(job_.folder.path).absoluteFilePath()));
     // Other users' jobs may have ids in between.
     const QList<int> &jobs = outcome_.jobs;
     if (jobs.size() == outcome_.total && jobs.constLast() - jobs.constFirst() == outcome_.total - 1)
-        return tr("Printed %1 photos on %2 (jobs %3 to %4)")
+        return (areShared_ ? tr("Printed %1 sheets on %2 (jobs %3 to %4)")
+                           : tr("Printed %1 photos on %2 (jobs %3 to %4)"))
             .arg(QString::number(outcome_.total), job_.destination.id(), QString::number(jobs.constFirst()),
                  QString::number(jobs.constLast()));
-    return tr("Printed %1 photos on %2").arg(QString::number(outcome_.total), job_.destination.id());
+    return (areShared_ ? tr("Printed %1 sheets on %2") : tr("Printed %1 photos on %2"))
+        .arg(QString::number(outcome_.total), job_.destination.id());
 }
 
 QString OutcomeText::details() const

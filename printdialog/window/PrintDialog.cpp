@@ -113,6 +113,7 @@ PrintDialog::PrintDialog(const PrintDialogSetup &setup, QWidget *parent)
     connect(ui_->photos, &PhotoPane::placementChanged, ui_->panels, &PanelTabs::updateSummary);
     connect(ui_->photos, &PhotoPane::photosChanged, ui_->panels, &PanelTabs::updateSummary);
     connect(ui_->photos, &PhotoPane::photosChanged, this, &PrintDialog::showPhoto);
+    connect(ui_->photos, &PhotoPane::placementChanged, this, &PrintDialog::nameDocuments);
     connect(ui_->photos, &PhotoPane::planChanged, this, &PrintDialog::updateButtons);
     connect(ui_->photos, &PhotoPane::listSaved, this, [this](const QString &path) {
         ui_->message->show(MessageBar::Kind::Information,
@@ -227,7 +228,15 @@ void PrintDialog::showPhoto()
     setWindowTitle(photos.isEmpty()
                        ? tr("Print Photo")
                        : tr("Print %1").arg(plainText(photos.at(ui_->photos->current()).photo.fileName())));
+    nameDocuments();
     updateButtons();
+}
+
+/// The choice between one PDF and several names what each of these has.
+void PrintDialog::nameDocuments()
+{
+    const bool isShared = ui_->photos->arrangement().layout.kind != SheetLayout::Kind::Single;
+    ui_->documents->setItemText(0, isShared ? tr("One PDF for each sheet") : tr("One PDF for each photo"));
 }
 
 void PrintDialog::showPhotoFailures(const QStringList &sentences)

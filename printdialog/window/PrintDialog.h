@@ -131,6 +131,7 @@ private:
     SummaryEntries summary() const;
     void showPhoto();
     void watchFolder(bool isWanted);
+    void nameDocuments();
     void showPhotoFailures(const QStringList &sentences);
     void browseFolder();
     OutputFolder outputFolder() const;

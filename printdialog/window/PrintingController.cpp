@@ -219,7 +219,7 @@ void PrintingController::showOutcome(const PrintOutcome &outcome)
         return askAboutDamage();
     if (!testPage_ && outcome.failure.isEmpty() && outcome.unprinted.isEmpty() && !outcome.wasStopped)
         Q_EMIT printed(arrangement_);
-    const OutcomeText text(outcome, job_);
+    const OutcomeText text(outcome, job_, arrangement_.layout);
     MessageBar::Message message;
     if (!outcome.failure.isEmpty() || !outcome.skipped.isEmpty())
         message.kind = MessageBar::Kind::Error;
@@ -259,10 +259,17 @@ void PrintingController::stop(Stopping how)
         widgets_.progress->show(tr("Stopping…"));
         worker_->cancel();
     } else {
-        widgets_.progress->show(tr("Stopping after this photo…"));
+        widgets_.progress->show(areSheetsShared() ? tr("Stopping after this sheet…")
+                                                  : tr("Stopping after this photo…"));
         worker_->finish();
     }
     Q_EMIT stateChanged();
+}
+
+/// Whether sheets are counted, and not photos.
+bool PrintingController::areSheetsShared() const
+{
+    return arrangement_.layout.kind != SheetLayout::Kind::Single;
 }
 
 void PrintingController::askHowToStop()
@@ -272,16 +279,17 @@ void PrintingController::askHowToStop()
     // The pages of one PDF are printed together, or not at all.
     const bool hasOthers = worker_->total() != 1 && !job_.folder.document;
     if (hasOthers && stopping_ == Stopping::No)
-        answers.append({tr("Stop After This Photo"), [this] {
-                            stop(Stopping::AfterSheet);
-                        }});
+        answers.append(
+            {areSheetsShared() ? tr("Stop After This Sheet") : tr("Stop After This Photo"), [this] {
+                 stop(Stopping::AfterSheet);
+             }});
     answers.append({hasOthers ? tr("Stop at Once") : tr("Stop Printing"), [this] {
                         stop(Stopping::AtOnce);
                     }});
     answers.append({tr("Continue"), [this] {
                         Q_EMIT dismissed();
                     }});
-    widgets_.message->ask(tr("Stop printing? Photos not printed yet are canceled."), answers);
+    widgets_.message->ask(tr("Stop printing? What is not printed yet is canceled."), answers);
 }
 
 // Users press Escape to dismiss a question, too.
@@ -321,12 +329,16 @@ QString PrintingController::whatContinues() const
         return tr("The print server continues printing when this window is closed.");
     const int count = std::max(worker_->total(), 1);
     if (job_.destination.isBuiltIn())
-        return tr("Printed so far: %1 of %2 photos. The rest is not printed when this window is closed.")
+        return (areSheetsShared() ? tr("Printed so far: %1 of %2 sheets. The rest is not printed when this "
+                                       "window is closed.")
+                                  : tr("Printed so far: %1 of %2 photos. The rest is not printed when this "
+                                       "window is closed."))
             .arg(worker_->sent())
             .arg(count);
-    return tr("When this window is closed, the print server continues printing the %1 of %2 photos that it "
-              "has. "
-              "The rest is not printed.")
+    return (areSheetsShared() ? tr("When this window is closed, the print server continues printing the %1 "
+                                   "of %2 sheets that it has. The rest is not printed.")
+                              : tr("When this window is closed, the print server continues printing the %1 "
+                                   "of %2 photos that it has. The rest is not printed."))
         .arg(worker_->sent())
         .arg(count);
 }

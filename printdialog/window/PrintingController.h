@@ -97,6 +97,7 @@ private:
     void begin(const Arrangement &arrangement, const SessionJob &made, const OutputFolder &folder,
                const Queue &queue);
     void showOutcome(const PrintOutcome &outcome);
+    bool areSheetsShared() const;
     QString whatContinues() const;
 
     Widgets widgets_;

@@ -1446,10 +1446,6 @@ Skript jedes Mal dasselbe erhält</translation>
         <translation>PDF-Dateien</translation>
     </message>
     <message>
-        <source>One PDF for each photo</source>
-        <translation>Ein PDF für jedes Foto</translation>
-    </message>
-    <message>
         <source>One PDF of all</source>
         <translation>Ein PDF für alle</translation>
     </message>
@@ -3193,6 +3189,34 @@ Skript jedes Mal dasselbe erhält</translation>
         <source>Printed %1 photos in one PDF: %2</source>
         <translation>%1 Fotos in ein PDF gedruckt: %2</translation>
     </message>
+    <message>
+        <source>Printing was stopped: printed %1 of %2 sheets.</source>
+        <translation>Das Drucken wurde gestoppt: %1 von %2 Blättern gedruckt.</translation>
+    </message>
+    <message>
+        <source>Sent %1 of %2 sheets to %3, which continues printing.</source>
+        <translation>%1 von %2 Blättern an %3 gesendet; der Druck geht dort weiter.</translation>
+    </message>
+    <message>
+        <source>Printed %1 of %2 sheets.</source>
+        <translation>%1 von %2 Blättern gedruckt.</translation>
+    </message>
+    <message>
+        <source>Printed %1 sheets in one PDF: %2</source>
+        <translation>%1 Blätter in ein PDF gedruckt: %2</translation>
+    </message>
+    <message>
+        <source>Printed %1 sheets in the folder %2</source>
+        <translation>%1 Blätter im Ordner %2 gedruckt</translation>
+    </message>
+    <message>
+        <source>Printed %1 sheets on %2 (jobs %3 to %4)</source>
+        <translation>%1 Blätter auf %2 gedruckt (Aufträge %3 bis %4)</translation>
+    </message>
+    <message>
+        <source>Printed %1 sheets on %2</source>
+        <translation>%1 Blätter auf %2 gedruckt</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::OutputFault</name>
@@ -4049,6 +4073,14 @@ Skript jedes Mal dasselbe erhält</translation>
         <source>Save List…</source>
         <translation>Liste speichern …</translation>
     </message>
+    <message>
+        <source>One PDF for each sheet</source>
+        <translation>Ein PDF für jedes Blatt</translation>
+    </message>
+    <message>
+        <source>One PDF for each photo</source>
+        <translation>Ein PDF für jedes Foto</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::PrintList</name>
@@ -4280,10 +4312,6 @@ Skript jedes Mal dasselbe erhält</translation>
         <translation>Bisher gedruckt: %1 von %2 Fotos. Der Rest wird nicht gedruckt, wenn dieses Fenster geschlossen wird.</translation>
     </message>
     <message>
-        <source>Stop printing? Photos not printed yet are canceled.</source>
-        <translation>Drucken stoppen? Was noch nicht gedruckt ist, wird zurückgenommen.</translation>
-    </message>
-    <message>
         <source>Continue</source>
         <translation>Weiterdrucken</translation>
     </message>
@@ -4335,6 +4363,26 @@ Skript jedes Mal dasselbe erhält</translation>
     <message>
         <source>Replace</source>
         <translation>Ersetzen</translation>
+    </message>
+    <message>
+        <source>Stopping after this sheet…</source>
+        <translation>Nach diesem Blatt wird gestoppt …</translation>
+    </message>
+    <message>
+        <source>Stop After This Sheet</source>
+        <translation>Nach diesem Blatt stoppen</translation>
+    </message>
+    <message>
+        <source>Stop printing? What is not printed yet is canceled.</source>
+        <translation>Drucken stoppen? Was noch nicht gedruckt ist, wird zurückgenommen.</translation>
+    </message>
+    <message>
+        <source>Printed so far: %1 of %2 sheets. The rest is not printed when this window is closed.</source>
+        <translation>Bisher gedruckt: %1 von %2 Blättern. Der Rest wird nicht gedruckt, wenn dieses Fenster geschlossen wird.</translation>
+    </message>
+    <message>
+        <source>When this window is closed, the print server continues printing the %1 of %2 sheets that it has. The rest is not printed.</source>
+        <translation>Wird dieses Fenster geschlossen, druckt der Druckserver die %1 von %2 Blättern, die er hat, weiter. Der Rest wird nicht gedruckt.</translation>
     </message>
 </context>
 <context>

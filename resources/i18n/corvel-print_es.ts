@@ -1445,10 +1445,6 @@ obtenga siempre lo mismo</translation>
         <translation>Archivos PDF</translation>
     </message>
     <message>
-        <source>One PDF for each photo</source>
-        <translation>Un PDF para cada foto</translation>
-    </message>
-    <message>
         <source>One PDF of all</source>
         <translation>Un solo PDF</translation>
     </message>
@@ -3192,6 +3188,34 @@ obtenga siempre lo mismo</translation>
         <source>Printed %1 photos in one PDF: %2</source>
         <translation>%1 fotos impresas en un PDF: %2</translation>
     </message>
+    <message>
+        <source>Printing was stopped: printed %1 of %2 sheets.</source>
+        <translation>Se ha detenido la impresión: %1 de %2 hojas impresas.</translation>
+    </message>
+    <message>
+        <source>Sent %1 of %2 sheets to %3, which continues printing.</source>
+        <translation>Enviadas %1 de %2 hojas a %3, que sigue imprimiendo.</translation>
+    </message>
+    <message>
+        <source>Printed %1 of %2 sheets.</source>
+        <translation>%1 de %2 hojas impresas.</translation>
+    </message>
+    <message>
+        <source>Printed %1 sheets in one PDF: %2</source>
+        <translation>%1 hojas impresas en un PDF: %2</translation>
+    </message>
+    <message>
+        <source>Printed %1 sheets in the folder %2</source>
+        <translation>%1 hojas impresas en la carpeta %2</translation>
+    </message>
+    <message>
+        <source>Printed %1 sheets on %2 (jobs %3 to %4)</source>
+        <translation>%1 hojas impresas en %2 (trabajos %3 a %4)</translation>
+    </message>
+    <message>
+        <source>Printed %1 sheets on %2</source>
+        <translation>%1 hojas impresas en %2</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::OutputFault</name>
@@ -4048,6 +4072,14 @@ obtenga siempre lo mismo</translation>
         <source>Save List…</source>
         <translation>Guardar lista…</translation>
     </message>
+    <message>
+        <source>One PDF for each sheet</source>
+        <translation>Un PDF para cada hoja</translation>
+    </message>
+    <message>
+        <source>One PDF for each photo</source>
+        <translation>Un PDF para cada foto</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::PrintList</name>
@@ -4279,10 +4311,6 @@ obtenga siempre lo mismo</translation>
         <translation>Impresas hasta ahora: %1 de %2 fotos. El resto no se imprime si se cierra esta ventana.</translation>
     </message>
     <message>
-        <source>Stop printing? Photos not printed yet are canceled.</source>
-        <translation>¿Detener la impresión? Lo que aún no esté impreso se retira.</translation>
-    </message>
-    <message>
         <source>Continue</source>
         <translation>Continuar</translation>
     </message>
@@ -4334,6 +4362,26 @@ obtenga siempre lo mismo</translation>
     <message>
         <source>Replace</source>
         <translation>Sustituir</translation>
+    </message>
+    <message>
+        <source>Stopping after this sheet…</source>
+        <translation>Deteniendo tras esta hoja…</translation>
+    </message>
+    <message>
+        <source>Stop After This Sheet</source>
+        <translation>Detener tras esta hoja</translation>
+    </message>
+    <message>
+        <source>Stop printing? What is not printed yet is canceled.</source>
+        <translation>¿Detener la impresión? Lo que aún no esté impreso se retira.</translation>
+    </message>
+    <message>
+        <source>Printed so far: %1 of %2 sheets. The rest is not printed when this window is closed.</source>
+        <translation>Impresas hasta ahora: %1 de %2 hojas. El resto no se imprime si se cierra esta ventana.</translation>
+    </message>
+    <message>
+        <source>When this window is closed, the print server continues printing the %1 of %2 sheets that it has. The rest is not printed.</source>
+        <translation>Si se cierra esta ventana, el servidor de impresión sigue imprimiendo las %1 de %2 hojas que tiene. El resto no se imprime.</translation>
     </message>
 </context>
 <context>

@@ -1446,10 +1446,6 @@ qu’un script obtienne chaque fois la même chose</translation>
         <translation>Fichiers PDF</translation>
     </message>
     <message>
-        <source>One PDF for each photo</source>
-        <translation>Un PDF par photo</translation>
-    </message>
-    <message>
         <source>One PDF of all</source>
         <translation>Un seul PDF</translation>
     </message>
@@ -3193,6 +3189,34 @@ qu’un script obtienne chaque fois la même chose</translation>
         <source>Printed %1 photos in one PDF: %2</source>
         <translation>%1 photos imprimées dans un PDF&#x202f;: %2</translation>
     </message>
+    <message>
+        <source>Printing was stopped: printed %1 of %2 sheets.</source>
+        <translation>L’impression a été arrêtée&#xa0;: %1 feuilles imprimées sur %2.</translation>
+    </message>
+    <message>
+        <source>Sent %1 of %2 sheets to %3, which continues printing.</source>
+        <translation>%1 feuilles sur %2 envoyées à %3, qui continue d’imprimer.</translation>
+    </message>
+    <message>
+        <source>Printed %1 of %2 sheets.</source>
+        <translation>%1 feuilles imprimées sur %2.</translation>
+    </message>
+    <message>
+        <source>Printed %1 sheets in one PDF: %2</source>
+        <translation>%1 feuilles imprimées dans un PDF&#x202f;: %2</translation>
+    </message>
+    <message>
+        <source>Printed %1 sheets in the folder %2</source>
+        <translation>%1 feuilles imprimées dans le dossier %2</translation>
+    </message>
+    <message>
+        <source>Printed %1 sheets on %2 (jobs %3 to %4)</source>
+        <translation>%1 feuilles imprimées sur %2 (tâches %3 à %4)</translation>
+    </message>
+    <message>
+        <source>Printed %1 sheets on %2</source>
+        <translation>%1 feuilles imprimées sur %2</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::OutputFault</name>
@@ -4049,6 +4073,14 @@ qu’un script obtienne chaque fois la même chose</translation>
         <source>Save List…</source>
         <translation>Enregistrer la liste…</translation>
     </message>
+    <message>
+        <source>One PDF for each sheet</source>
+        <translation>Un PDF par feuille</translation>
+    </message>
+    <message>
+        <source>One PDF for each photo</source>
+        <translation>Un PDF par photo</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::PrintList</name>
@@ -4280,10 +4312,6 @@ qu’un script obtienne chaque fois la même chose</translation>
         <translation>Photos imprimées jusqu’ici&#xa0;: %1 sur %2. Le reste n’est pas imprimé si cette fenêtre est fermée.</translation>
     </message>
     <message>
-        <source>Stop printing? Photos not printed yet are canceled.</source>
-        <translation>Arrêter l’impression&#x202f;? Ce qui n’est pas encore imprimé est retiré.</translation>
-    </message>
-    <message>
         <source>Continue</source>
         <translation>Continuer</translation>
     </message>
@@ -4335,6 +4363,26 @@ qu’un script obtienne chaque fois la même chose</translation>
     <message>
         <source>Replace</source>
         <translation>Remplacer</translation>
+    </message>
+    <message>
+        <source>Stopping after this sheet…</source>
+        <translation>Arrêt après cette feuille…</translation>
+    </message>
+    <message>
+        <source>Stop After This Sheet</source>
+        <translation>Arrêter après cette feuille</translation>
+    </message>
+    <message>
+        <source>Stop printing? What is not printed yet is canceled.</source>
+        <translation>Arrêter l’impression&#x202f;? Ce qui n’est pas encore imprimé est retiré.</translation>
+    </message>
+    <message>
+        <source>Printed so far: %1 of %2 sheets. The rest is not printed when this window is closed.</source>
+        <translation>Feuilles imprimées jusqu’ici&#xa0;: %1 sur %2. Le reste n’est pas imprimé si cette fenêtre est fermée.</translation>
+    </message>
+    <message>
+        <source>When this window is closed, the print server continues printing the %1 of %2 sheets that it has. The rest is not printed.</source>
+        <translation>Si cette fenêtre est fermée, le serveur d’impression continue d’imprimer les %1 feuilles sur %2 qu’il a reçues. Le reste n’est pas imprimé.</translation>
     </message>
 </context>
 <context>

@@ -1442,10 +1442,6 @@ each time</source>
         <translation>PDF ファイル</translation>
     </message>
     <message>
-        <source>One PDF for each photo</source>
-        <translation>写真ごとに 1 つの PDF</translation>
-    </message>
-    <message>
         <source>One PDF of all</source>
         <translation>まとめて 1 つの PDF</translation>
     </message>
@@ -3187,6 +3183,34 @@ each time</source>
         <source>Printed %1 photos in one PDF: %2</source>
         <translation>%1 枚の写真を 1 つの PDF に印刷しました: %2</translation>
     </message>
+    <message>
+        <source>Printing was stopped: printed %1 of %2 sheets.</source>
+        <translation>印刷を中止しました: %2 シート中 %1 シートを印刷しました。</translation>
+    </message>
+    <message>
+        <source>Sent %1 of %2 sheets to %3, which continues printing.</source>
+        <translation>%2 シート中 %1 シートを %3 に送りました。印刷は続きます。</translation>
+    </message>
+    <message>
+        <source>Printed %1 of %2 sheets.</source>
+        <translation>%2 シート中 %1 シートを印刷しました。</translation>
+    </message>
+    <message>
+        <source>Printed %1 sheets in one PDF: %2</source>
+        <translation>%1 シートを 1 つの PDF に印刷しました: %2</translation>
+    </message>
+    <message>
+        <source>Printed %1 sheets in the folder %2</source>
+        <translation>%1 シートをフォルダー %2 に印刷しました</translation>
+    </message>
+    <message>
+        <source>Printed %1 sheets on %2 (jobs %3 to %4)</source>
+        <translation>%1 シートを %2 で印刷しました（ジョブ %3～%4）</translation>
+    </message>
+    <message>
+        <source>Printed %1 sheets on %2</source>
+        <translation>%1 シートを %2 で印刷しました</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::OutputFault</name>
@@ -4039,6 +4063,14 @@ each time</source>
         <source>Save List…</source>
         <translation>リストを保存…</translation>
     </message>
+    <message>
+        <source>One PDF for each sheet</source>
+        <translation>シートごとに 1 つの PDF</translation>
+    </message>
+    <message>
+        <source>One PDF for each photo</source>
+        <translation>写真ごとに 1 つの PDF</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::PrintList</name>
@@ -4270,10 +4302,6 @@ each time</source>
         <translation>これまでに %2 枚中 %1 枚の写真を印刷しました。このウィンドウを閉じると、残りは印刷されません。</translation>
     </message>
     <message>
-        <source>Stop printing? Photos not printed yet are canceled.</source>
-        <translation>印刷を中止しますか？まだ印刷されていない写真は取り消されます。</translation>
-    </message>
-    <message>
         <source>Continue</source>
         <translation>続ける</translation>
     </message>
@@ -4325,6 +4353,26 @@ each time</source>
     <message>
         <source>Replace</source>
         <translation>置き換える</translation>
+    </message>
+    <message>
+        <source>Stopping after this sheet…</source>
+        <translation>このシートのあとで中止します…</translation>
+    </message>
+    <message>
+        <source>Stop After This Sheet</source>
+        <translation>このシートのあとで中止</translation>
+    </message>
+    <message>
+        <source>Stop printing? What is not printed yet is canceled.</source>
+        <translation>印刷を中止しますか？まだ印刷されていないものは取り消されます。</translation>
+    </message>
+    <message>
+        <source>Printed so far: %1 of %2 sheets. The rest is not printed when this window is closed.</source>
+        <translation>これまでに %2 シート中 %1 シートを印刷しました。このウィンドウを閉じると、残りは印刷されません。</translation>
+    </message>
+    <message>
+        <source>When this window is closed, the print server continues printing the %1 of %2 sheets that it has. The rest is not printed.</source>
+        <translation>このウィンドウを閉じても、プリントサーバーは %2 シート中、受け取った %1 シートの印刷を続けます。残りは印刷されません。</translation>
     </message>
 </context>
 <context>

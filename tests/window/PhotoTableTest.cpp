@@ -362,6 +362,12 @@ private Q_SLOTS:
         for (int i = 0; i < 5; ++i)
             opened.undo();
         QCOMPARE(note->text(), u"Sheets: 5"_s);
+        const auto *documents = opened.find<QComboBox>(u"documents"_s);
+        QCOMPARE(documents->itemText(0), u"One PDF for each photo"_s);
+        QTest::keyClick(kind, Qt::Key_Down);
+        QCOMPARE(documents->itemText(0), u"One PDF for each sheet"_s);
+        opened.click(u"print"_s);
+        QTRY_VERIFY2(opened.message().startsWith(u"Printed 2 sheets in "_s), qPrintable(opened.message()));
     }
 
     void typedSize()
