@@ -258,8 +258,11 @@ void PrintDialog::watchFolder(bool isWanted)
         folder_->stop();
     else if (isReady() && !pageStays() && ui_->customPage->finish())
         folder_->start(ui_->copies->value(), ui_->folder->text(), printer_->queue());
-    else
+    else {
         ui_->photos->watchBar()->setWatching(false);
+        if (!isReady() && !printer_->whyNotReady().isEmpty())
+            ui_->message->show(MessageBar::Kind::Warning, printer_->whyNotReady());
+    }
 }
 
 void PrintDialog::browseFolder()
