@@ -259,6 +259,22 @@ private Q_SLOTS:
         QCOMPARE(opened.pane->photos().at(0).placement.scaling, Scaling::ActualSize);
     }
 
+    // What was taken back looks like what is there, also when another printer has brought its style since.
+    void undoKeepsTheStyleToBeginWith()
+    {
+        const PhotoDialog opened(letters(u"a b"_s));
+        const ArrangementStyle passports{{Scaling::Fill}, *SheetLayout::fromText(u"2x2"_s)};
+        opened.press(Qt::Key_Delete);
+        opened.pane->model()->open(passports);
+        opened.undo();
+        QCOMPARE(opened.names(), u"a b"_s);
+        QVERIFY(opened.pane->model()->isAsOpened() && opened.pane->model()->style() == passports);
+        opened.click(u"turn"_s);
+        opened.pane->model()->setStyle({});
+        opened.undo();
+        QCOMPARE(opened.pane->arrangement().layout, passports.layout);
+    }
+
     // Photos of the command line may come while the first ones are worked on.
     void photosOpenedLaterStay()
     {
@@ -405,6 +421,12 @@ private Q_SLOTS:
             opened.undo();
         });
         add("moved", true, [](const PhotoDialog &opened) { opened.press(Qt::Key_Right, Qt::AltModifier); });
+        add("moved, and another printer has its own style", true, [](const PhotoDialog &opened) {
+            opened.press(Qt::Key_Right, Qt::AltModifier);
+            opened.pane->model()->open({{Scaling::Fill}});
+        });
+        add("another printer has its own style", false,
+            [](const PhotoDialog &opened) { opened.pane->model()->open({{Scaling::Fill}}); });
         add("laid out and printed", false, [](const PhotoDialog &opened) {
             opened.click(u"turn"_s);
             opened.click(u"print"_s);

@@ -206,6 +206,12 @@ private Q_SLOTS:
             opened->click(u"turn"_s);
             const ArrangementStyle turned = model(*opened)->style();
             QVERIFY(turned != passports && isModified(*opened));
+            model(*opened)->add({model(*opened)->currentPhoto()->photo}); // upright again
+            model(*opened)->setCurrent(0);
+            QVERIFY(isModified(*opened));
+            model(*opened)->setCurrent(1);
+            QVERIFY(!isModified(*opened));
+            model(*opened)->remove({1});
             use(*opened, u"pass photos 証明"_s);
             QVERIFY(model(*opened)->style() == passports && !isModified(*opened));
             opened->undo();
@@ -223,6 +229,12 @@ private Q_SLOTS:
         other.dialog->searchPrinters();
         QVERIFY(showsReady(other, u"photo"_s));
         QVERIFY(model(other)->style() == *asked.style);
+        PrintDialogSetup listed = setupForPrinter(mode_, u"photo"_s);
+        listed.arrangement = Arrangement{{{listed.photos.constFirst()}}};
+        const OpenedDialog list(listed);
+        list.dialog->searchPrinters();
+        QVERIFY(showsReady(list, u"photo"_s));
+        QVERIFY(model(list)->style() == ArrangementStyle());
     }
 
     void builtInPrinterHasPresets()

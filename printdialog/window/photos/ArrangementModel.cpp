@@ -37,7 +37,7 @@ const PlacedPhoto *ArrangementModel::currentPhoto() const
 void ArrangementModel::start(const Arrangement &arrangement)
 {
     opened_ = arrangement.photos;
-    state_ = {arrangement, {}, -1, opened_.size()};
+    state_ = {arrangement, {}, -1, opened_.size(), true, state_.opening, state_.openings};
     selectSome();
     kept_ = arrangement;
     givenPlaces_.clear();
@@ -49,7 +49,7 @@ void ArrangementModel::append(const QList<Photo> &photos)
 {
     const int first = count();
     for (const Photo &photo : photos)
-        opened_.append({photo, opening_.placement});
+        opened_.append({photo, state_.opening.placement});
     appendOpened();
     kept_.photos += opened_.last(photos.size());
     notePlaces(first);
@@ -58,7 +58,13 @@ void ArrangementModel::append(const QList<Photo> &photos)
 
 void ArrangementModel::restore(const State &state)
 {
-    state_ = state;
+    const State last = std::exchange(state_, state);
+    if (state.openings != last.openings) {
+        if (isAsOpened(state))
+            state_.arrangement.setStyle(last.opening);
+        state_.opening = last.opening;
+        state_.openings = last.openings;
+    }
     appendOpened();
     Q_EMIT photosChanged();
 }
@@ -131,7 +137,7 @@ void ArrangementModel::add(const QList<Photo> &photos, bool isFirst)
         return;
     const State before = state_;
     PlacedPhoto placed;
-    placed.placement = currentPhoto() ? currentPhoto()->placement : opening_.placement;
+    placed.placement = currentPhoto() ? currentPhoto()->placement : state_.opening.placement;
     placed.placement.turns = 0;
     placed.placement.crop = PlacementChoice().crop;
     const int first = count();
@@ -150,7 +156,8 @@ void ArrangementModel::add(const QList<Photo> &photos, bool isFirst)
 
 void ArrangementModel::replace(const Arrangement &arrangement)
 {
-    const State before = std::exchange(state_, {arrangement, {}, -1, state_.opened});
+    const State before =
+        std::exchange(state_, {arrangement, {}, -1, state_.opened, true, state_.opening, state_.openings});
     selectSome();
     notePlaces(0);
     Q_EMIT changed(before);
@@ -317,7 +324,7 @@ void ArrangementModel::setLayout(const SheetLayout &layout)
 
 ArrangementStyle ArrangementModel::style() const
 {
-    ArrangementStyle style{currentPhoto() ? currentPhoto()->placement : opening_.placement,
+    ArrangementStyle style{currentPhoto() ? currentPhoto()->placement : state_.opening.placement,
                            arrangement().layout};
     style.placement.crop = PlacementChoice().crop;
     return style;
@@ -328,7 +335,7 @@ void ArrangementModel::setStyle(const ArrangementStyle &style)
     const State before = state_;
     state_.arrangement.setStyle(style);
     if (photos().isEmpty())
-        opening_ = style;
+        state_.opening = style;
     if (std::ranges::equal(photos(), before.arrangement.photos, isSame) &&
         style.layout == before.arrangement.layout)
         return;
@@ -338,19 +345,21 @@ void ArrangementModel::setStyle(const ArrangementStyle &style)
 
 void ArrangementModel::open(const ArrangementStyle &style)
 {
-    opening_ = style;
+    state_.opening = style;
     for (PlacedPhoto &placed : opened_)
         placed.placement = style.placement;
+    ++state_.openings;
+    state_.isOfList = false;
     state_.arrangement.setStyle(style);
-    kept_ = state_.arrangement;
+    kept_.setStyle(style); // the order, and what was added, stay unkept
     Q_EMIT placementChanged();
 }
 
-bool ArrangementModel::isAsOpened() const
+bool ArrangementModel::isAsOpened(const State &state)
 {
-    return arrangement().layout == opening_.layout &&
-           std::ranges::all_of(photos(), [this](const PlacedPhoto &placed) {
-               return placed.placement == opening_.placement && placed.copies == 1;
+    return !state.isOfList && state.arrangement.layout == state.opening.layout &&
+           std::ranges::all_of(state.arrangement.photos, [&state](const PlacedPhoto &placed) {
+               return placed.placement == state.opening.placement && placed.copies == 1;
            });
 }
 

@@ -25,9 +25,12 @@ public:
     struct State
     {
         Arrangement arrangement = {};
-        QList<int> selection = {}; ///< Indexes, ascending; with the current one.
-        int current = -1;          ///< The photo that is shown; -1 without photos.
-        qsizetype opened = 0;      ///< How many photos had been there from the beginning by then.
+        QList<int> selection = {};     ///< Indexes, ascending; with the current one.
+        int current = -1;              ///< The photo that is shown; -1 without photos.
+        qsizetype opened = 0;          ///< How many photos had been there from the beginning by then.
+        bool isOfList = false;         ///< Each photo came as it is wanted.
+        ArrangementStyle opening = {}; ///< The style to begin with.
+        int openings = 0;              ///< How many of them there had been by then.
     };
 
     enum class Order {
@@ -57,14 +60,15 @@ public:
     /// Arranges all photos, and those that are opened later, in the style to begin with: nothing that is
     /// taken back.
     void open(const ArrangementStyle &style);
-    /// Whether everything still is as it was opened.
-    bool isAsOpened() const;
+    /// Whether everything still has the style to begin with, and did not come with one of its own.
+    bool isAsOpened() const { return isAsOpened(state_); }
 
     /// Begins with the arrangement, its first photo selected.
     void start(const Arrangement &arrangement);
     /// Appends photos that the arrangement should have begun with, had they been opened by then.
     void append(const QList<Photo> &photos);
-    /// Returns to a state that was reported, or that a change led to; what was opened since is appended.
+    /// Returns to a state that was reported, or that a change led to; what was opened since is appended, and
+    /// what is as it was opened has the present style to begin with.
     void restore(const State &state);
     /// Whether the user would lose work with the arrangement: several photos whose order, placements or
     /// copies were changed, or that were added, since it began or was kept.
@@ -112,6 +116,7 @@ Q_SIGNALS:
     void placementChanged();
 
 private:
+    static bool isAsOpened(const State &state);
     void change(const QList<int> &indexes, const Edit &edit);
     void reorder(const QList<int> &order);
     void appendOpened();
@@ -121,7 +126,6 @@ private:
     State state_;
     QList<PlacedPhoto> opened_; ///< Those from the beginning, as they were then.
     Arrangement kept_;
-    ArrangementStyle opening_;
     QHash<QString, int> givenPlaces_; ///< By path, in the order in which the files were added.
 };
 
