@@ -427,6 +427,15 @@ private Q_SLOTS:
         });
         add("another printer has its own style", false,
             [](const PhotoDialog &opened) { opened.pane->model()->open({{Scaling::Fill}}); });
+        add("turned, and none of a list's photos is there", true, [](const PhotoDialog &opened) {
+            opened.click(u"turn"_s);
+            const QString path = opened.folder.filePath(u"lost.json"_s);
+            PrintList list;
+            list.photos += PrintList::Entry{opened.folder.filePath(u"lost.jpg"_s)};
+            QVERIFY(!list.save(path));
+            opened.pane->openList(path);
+            QTRY_VERIFY(opened.message().contains(u"lost.jpg"_s));
+        });
         add("laid out and printed", false, [](const PhotoDialog &opened) {
             opened.click(u"turn"_s);
             opened.click(u"print"_s);

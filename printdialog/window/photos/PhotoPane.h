@@ -160,7 +160,8 @@ private:
     PhotoTable *table_;
     HeightGrip *grip_;
     PhotoOpener *opener_;
-    QList<PrintList> lists_; ///< whose photos are being opened; those of the first one are under way
+    QList<PrintList> lists_;     ///< whose photos are being opened; those of the first one are under way
+    bool hasListPhotos_ = false; ///< of the first one
     PageGeometry page_;
     SheetPlan plan_;
     qsizetype sheet_ = 0; ///< the one that is shown

@@ -58,6 +58,7 @@ void PhotoPane::appendOfList(const PhotoOpener::Batch &batch)
         const PrintList::Entry entry = list.photos.takeFirst();
         placed.append({photo, entry.placement, false, entry.copies});
     }
+    hasListPhotos_ = true;
     if (batch.isFirst)
         Q_EMIT actBegins();
     act(add_, [&] { batch.isFirst ? model_->replace({placed, list.layout}) : model_->follow(placed); });

@@ -20,6 +20,8 @@
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QVBoxLayout>
 
+#include <utility>
+
 namespace printdialog {
 
 namespace {
@@ -104,7 +106,8 @@ void PhotoPane::connectControls()
     connect(opener_, &PhotoOpener::finished, this, [this](PhotoOpener::Use use, const QStringList &failures) {
         if (use == PhotoOpener::Use::List) {
             lists_.removeFirst();
-            model_->keep(arrangement());
+            if (std::exchange(hasListPhotos_, false))
+                model_->keep(arrangement());
         }
         Q_EMIT photosChanged();
         if (!failures.isEmpty())
