@@ -24,7 +24,7 @@ constexpr qsizetype photoSize = 2'000'000; // bytes
 QByteArray numbered(const QByteArray &jpeg, int number)
 {
     constexpr qsizetype markerSize = 2;
-    return QByteArray(jpeg).insert(markerSize, QByteArrayView("\xff\xfe\0\6", 4).toByteArray() +
+    return QByteArray(jpeg).insert(markerSize, QByteArrayLiteral("\xff\xfe\0\6") +
                                                    QByteArray::number(number).rightJustified(4, '0'));
 }
 
@@ -128,10 +128,10 @@ void benchSheets()
     const QString what =
         QStringLiteral("%1 JPEGs of 2 MB on %2 sheets in one PDF").arg(photoCount).arg(sheetCount);
     const QTemporaryDir folder;
-    const QByteArray jpeg = jpegOfAtMost(photoSize, QSize(3000, 2000));
+    const QByteArray jpeg = jpegOfAtMost(photoSize, QSize(3600, 2400));
     const QStringList photos = makePhotos(folder, jpeg);
-    if (photos.isEmpty())
-        return printNote(what + QStringLiteral(": not measured, they could not be written"));
+    if (jpeg.isEmpty() || photos.isEmpty())
+        return printNote(what + QStringLiteral(": not measured, they could not be made"));
     const QList<QStringList> steps = peerSteps(photos, folder);
     const QString pdf = folder.filePath(QStringLiteral("ours.pdf"));
     ProgramCost peer;
