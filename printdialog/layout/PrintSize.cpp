@@ -19,6 +19,9 @@ struct Unit
     double points;
 };
 
+/// Far more than any length or size needs: the time to find out that a text is none grows with its square.
+constexpr qsizetype longestSizeText = 100;
+
 constexpr std::array units = {Unit{"mm", pointsPerMillimeter}, Unit{"cm", 10 * pointsPerMillimeter},
                               Unit{"in", pointsPerInch}, Unit{"pt", 1}};
 
@@ -78,6 +81,8 @@ const std::array knownSizes = {
 
 std::optional<double> lengthFromText(const QString &text)
 {
+    if (text.size() > longestSizeText)
+        return std::nullopt;
     static const QRegularExpression length(
         QStringLiteral("\\A\\s*([+-]?[0-9]*\\.?[0-9]+)\\s*([A-Za-z]{2})\\s*\\z"));
     const QRegularExpressionMatch match = length.match(text);
@@ -121,6 +126,8 @@ QString localSizeText(const QSizeF &points)
 
 std::optional<PrintSize> PrintSize::fromText(const QString &text)
 {
+    if (text.size() > longestSizeText)
+        return std::nullopt;
     const QString name = text.trimmed();
     const auto known = std::ranges::find_if(knownSizes, [&name](const KnownPrintSize &size) {
         return name.compare(QLatin1String(size.id), Qt::CaseInsensitive) == 0;

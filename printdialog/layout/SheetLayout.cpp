@@ -137,6 +137,9 @@ SheetLayout SheetLayout::usual(Kind kind)
 
 std::optional<SheetLayout> SheetLayout::fromText(const QString &text)
 {
+    constexpr qsizetype longest = 1000; // millions of words would take much memory
+    if (text.size() > longest)
+        return std::nullopt;
     const QStringList words = text.split(u',');
     auto layout = kindFromWord(words.constFirst());
     for (qsizetype i = 1; layout && i < words.size(); ++i) {

@@ -22,6 +22,8 @@ BAD_LISTS = (
     ({"turns": 4}, '"turns"'),
     ({"crop": [50]}, '"crop" cannot be [50]'),
     ({"size": "0x0cm"}, '"size"'),
+    ({"size": "1" * 1000000}, '"size"'),
+    ({"border": "1" * 1000000}, '"border"'),
     ({"scale": -1}, '"scale"'),
     ({"border": "thick"}, '"border"'),
     ({"file": ""}, '"file"'),
