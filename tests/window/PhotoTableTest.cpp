@@ -288,6 +288,19 @@ private Q_SLOTS:
         opened.redo();
         QCOMPARE(opened.names(), u"b c c"_s);
         QVERIFY(!opened.pane->model()->hasUnkeptWork());
+        // What was done with all photos was done with those that were still to come.
+        QTest::keyClicks(opened.scaling, u"Fill"_s);
+        opened.click(u"applyToAll"_s);
+        opened.pane->model()->append({late.constFirst().photo});
+        QCOMPARE(opened.names(), u"b c c c"_s);
+        const auto filled = [&opened] {
+            return std::ranges::count(opened.pane->arrangement().placements(), Scaling::Fill,
+                                      &PlacementChoice::scaling);
+        };
+        QCOMPARE(filled(), 4);
+        opened.undo();
+        QCOMPARE(opened.names(), u"b c c c"_s);
+        QCOMPARE(filled(), 1);
     }
 
     void moves_data()

@@ -60,8 +60,10 @@ void ArrangementModel::restore(const State &state)
 {
     const State last = std::exchange(state_, state);
     if (state.openings != last.openings) {
-        if (isAsOpened(state))
+        if (isAsOpened(state)) {
             state_.arrangement.setStyle(last.opening);
+            state_.coming = last.opening.placement;
+        }
         state_.opening = last.opening;
         state_.openings = last.openings;
     }
@@ -71,7 +73,10 @@ void ArrangementModel::restore(const State &state)
 
 void ArrangementModel::appendOpened()
 {
-    state_.arrangement.photos += opened_.sliced(state_.opened);
+    for (PlacedPhoto placed : opened_.sliced(state_.opened)) {
+        placed.placement = state_.coming;
+        state_.arrangement.photos.append(placed);
+    }
     state_.opened = opened_.size();
     selectSome();
 }
@@ -275,7 +280,8 @@ void ArrangementModel::reorder(const QList<int> &order)
     Q_EMIT photosChanged();
 }
 
-void ArrangementModel::change(const QList<int> &indexes, const Edit &edit)
+void ArrangementModel::change(const QList<int> &indexes, const Edit &edit,
+                              const std::optional<PlacementChoice> &coming)
 {
     const State before = state_;
     bool isChanged = false;
@@ -287,6 +293,8 @@ void ArrangementModel::change(const QList<int> &indexes, const Edit &edit)
         state_.arrangement.photos[index] = placed;
         isChanged = true;
     }
+    if (coming)
+        state_.coming = *coming;
     if (!isChanged)
         return;
     Q_EMIT changed(before);
@@ -304,12 +312,15 @@ void ArrangementModel::applyToAll()
     if (!currentPhoto())
         return;
     const PlacedPhoto like = *currentPhoto();
-    change(allIndexes(count()), [&like](PlacedPhoto &placed) {
-        const QPointF crop = placed.placement.crop;
-        placed.placement = like.placement;
-        placed.placement.crop = crop;
-        placed.copies = like.copies;
-    });
+    change(
+        allIndexes(count()),
+        [&like](PlacedPhoto &placed) {
+            const QPointF crop = placed.placement.crop;
+            placed.placement = like.placement;
+            placed.placement.crop = crop;
+            placed.copies = like.copies;
+        },
+        style().placement);
 }
 
 void ArrangementModel::setLayout(const SheetLayout &layout)
@@ -334,6 +345,7 @@ void ArrangementModel::setStyle(const ArrangementStyle &style)
 {
     const State before = state_;
     state_.arrangement.setStyle(style);
+    state_.coming = style.placement;
     if (photos().isEmpty())
         state_.opening = style;
     if (std::ranges::equal(photos(), before.arrangement.photos, isSame) &&
@@ -346,6 +358,7 @@ void ArrangementModel::setStyle(const ArrangementStyle &style)
 void ArrangementModel::open(const ArrangementStyle &style)
 {
     state_.opening = style;
+    state_.coming = style.placement;
     for (PlacedPhoto &placed : opened_)
         placed.placement = style.placement;
     ++state_.openings;

@@ -10,6 +10,7 @@
 #include <QtCore/QObject>
 
 #include <functional>
+#include <optional>
 
 namespace printdialog {
 
@@ -31,6 +32,7 @@ public:
         bool isOfList = false;         ///< Each photo came as it is wanted.
         ArrangementStyle opening = {}; ///< The style to begin with.
         int openings = 0;              ///< How many of them there had been by then.
+        PlacementChoice coming = {};   ///< Of the photos that are still being opened.
     };
 
     enum class Order {
@@ -65,7 +67,8 @@ public:
 
     /// Begins with the arrangement, its first photo selected.
     void start(const Arrangement &arrangement);
-    /// Appends photos that the arrangement should have begun with, had they been opened by then.
+    /// Appends photos that the arrangement should have begun with, had they been opened by then: what was
+    /// done with all photos is done with them, too.
     void append(const QList<Photo> &photos);
     /// Returns to a state that was reported, or that a change led to; what was opened since is appended, and
     /// what is as it was opened has the present style to begin with.
@@ -117,7 +120,8 @@ Q_SIGNALS:
 
 private:
     static bool isAsOpened(const State &state);
-    void change(const QList<int> &indexes, const Edit &edit);
+    void change(const QList<int> &indexes, const Edit &edit,
+                const std::optional<PlacementChoice> &coming = std::nullopt);
     void reorder(const QList<int> &order);
     void appendOpened();
     void selectSome();
