@@ -121,7 +121,8 @@ void PrintDialog::updatePosition()
         return;
     }
     const QString paper = session->chosen(session->options().pageSizeKey()).value_or(QString());
-    position_->setPaper(session->printer().destination.queue, paper, ui_->pageSize->currentText());
+    position_->setPaper(session->printer().destination.queue, session->printer().text, paper,
+                        ui_->pageSize->currentText());
 }
 
 } // namespace printdialog

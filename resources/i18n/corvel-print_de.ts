@@ -4153,7 +4153,11 @@ Skript jedes Mal dasselbe erhält</translation>
     </message>
     <message>
         <source>Everything printed on &quot;%1&quot; with the paper size &quot;%2&quot; is moved:</source>
-        <translation>Alles, was auf „%1“ mit der Papiergröße „%2“ gedruckt wird, wird verschoben:</translation>
+        <translation>Alles, was auf „%1“ mit dem Papierformat „%2“ gedruckt wird, wird verschoben:</translation>
+    </message>
+    <message>
+        <source>Prints can be moved by %1 mm at most. Check which paper is loaded, and the paper size, then print the test page again.</source>
+        <translation>Gedrucktes kann um höchstens %1 mm verschoben werden. Prüfen Sie, welches Papier eingelegt ist, und das Papierformat, und drucken Sie die Testseite noch einmal.</translation>
     </message>
 </context>
 <context>

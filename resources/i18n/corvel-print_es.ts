@@ -4154,6 +4154,10 @@ obtenga siempre lo mismo</translation>
         <source>Everything printed on &quot;%1&quot; with the paper size &quot;%2&quot; is moved:</source>
         <translation>Todo lo que se imprime en «%1» con el tamaño de papel «%2» se desplaza:</translation>
     </message>
+    <message>
+        <source>Prints can be moved by %1 mm at most. Check which paper is loaded, and the paper size, then print the test page again.</source>
+        <translation>La impresión se puede desplazar %1 mm como máximo. Compruebe qué papel está cargado y el tamaño del papel, y vuelva a imprimir la página de prueba.</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::PrintProgress</name>

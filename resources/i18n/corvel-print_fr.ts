@@ -4155,6 +4155,10 @@ qu’un script obtienne chaque fois la même chose</translation>
         <source>Everything printed on &quot;%1&quot; with the paper size &quot;%2&quot; is moved:</source>
         <translation>Tout ce qui est imprimé sur «&#x202f;%1&#x202f;» avec le format de papier «&#x202f;%2&#x202f;» est déplacé&#x202f;:</translation>
     </message>
+    <message>
+        <source>Prints can be moved by %1 mm at most. Check which paper is loaded, and the paper size, then print the test page again.</source>
+        <translation>L’impression peut être déplacée de %1 mm au plus. Vérifiez quel papier est chargé, ainsi que le format du papier, puis imprimez de nouveau la page de test.</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::PrintProgress</name>

@@ -4145,6 +4145,10 @@ each time</source>
         <source>Everything printed on &quot;%1&quot; with the paper size &quot;%2&quot; is moved:</source>
         <translation>「%1」で用紙サイズ「%2」に印刷するものをすべてずらします:</translation>
     </message>
+    <message>
+        <source>Prints can be moved by %1 mm at most. Check which paper is loaded, and the paper size, then print the test page again.</source>
+        <translation>印刷位置をずらせるのは %1 mm までです。入っている用紙と用紙サイズを確認し、テストページをもう一度印刷してください。</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::PrintProgress</name>

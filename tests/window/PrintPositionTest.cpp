@@ -11,6 +11,7 @@
 #include <QtWidgets/QProgressBar>
 #include <QtWidgets/QToolButton>
 
+#include <algorithm>
 #include <cmath>
 
 using namespace testing_support;
@@ -67,6 +68,12 @@ private Q_SLOTS:
         const OpenedDialog opened;
         QWidget *window = windowOf(opened);
         QVERIFY(window && window->isVisible());
+        const auto says = [window](const QString &text) {
+            return std::ranges::any_of(window->findChildren<QLabel *>(), [&text](const QLabel *label) {
+                return label->isVisible() && label->text().contains(text);
+            });
+        };
+        QVERIFY(says(opened.find<QComboBox>(u"printer"_s)->currentText()));
         const auto printed = [&](int number) {
             QTest::mouseClick(window->findChild<QPushButton *>(u"printTestPage"_s), Qt::LeftButton);
             const QString name = number == 1 ? u"Print position.pdf"_s : u"Print position-2.pdf"_s;
@@ -88,6 +95,14 @@ private Q_SLOTS:
         const QPointF after = printed(2);
         QVERIFY2(std::abs(after.x() - 20.7) < 0.1 && std::abs(after.y() - 19.6) < 0.1,
                  qPrintable(u"%1 %2"_s.arg(after.x()).arg(after.y())));
+        // Return corrects, too, and what is farther than a printer can be wrong is refused.
+        for (const auto &[measured, moved] : {std::pair(u"20.6"_s, 0.1), {u"35"_s, 0.1}}) {
+            type(window, u"fromLeft"_s, measured);
+            QTest::keyClick(window->findChild<QDoubleSpinBox *>(u"fromLeft"_s), Qt::Key_Return);
+            QVERIFY(window->isVisible());
+            QCOMPARE(window->findChild<QDoubleSpinBox *>(u"moveRight"_s)->value(), moved);
+        }
+        QVERIFY(says(u"10 mm at most"_s));
     }
 
     void itIsKeptForThePaper()

@@ -12,8 +12,12 @@
 #include <QtWidgets/QDoubleSpinBox>
 #include <QtWidgets/QFormLayout>
 #include <QtWidgets/QLabel>
+#include <QtWidgets/QLineEdit>
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QVBoxLayout>
+
+#include <algorithm>
+#include <cstdlib>
 
 namespace printdialog {
 
@@ -52,6 +56,7 @@ PrintPositionWindow::PrintPositionWindow(QWidget *parent)
         button->setAutoDefault(false);
     auto *buttons = new QDialogButtonBox(QDialogButtonBox::Close, this);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    buttons->button(QDialogButtonBox::Close)->setAutoDefault(false); // Return must not drop what was measured
 
     auto *moves = new QFormLayout;
     moves->addRow(tr("To the &right:"), right_);
@@ -76,6 +81,9 @@ PrintPositionWindow::PrintPositionWindow(QWidget *parent)
 
     for (QDoubleSpinBox *field : {right_, down_})
         connect(field, &QDoubleSpinBox::valueChanged, this, &PrintPositionWindow::apply);
+    for (const QDoubleSpinBox *field : {fromLeft_, fromTop_})
+        connect(field->findChild<QLineEdit *>(), &QLineEdit::returnPressed, this,
+                &PrintPositionWindow::correct);
     connect(test_, &QPushButton::clicked, this, &PrintPositionWindow::testPageWanted);
     connect(correct_, &QPushButton::clicked, this, &PrintPositionWindow::correct);
 }
@@ -92,15 +100,16 @@ QDoubleSpinBox *PrintPositionWindow::addField(const char *name, double least, do
     return field;
 }
 
-void PrintPositionWindow::setPaper(const QString &printer, const QString &paper, const QString &paperText)
+void PrintPositionWindow::setPaper(const QString &printer, const QString &printerText, const QString &paper,
+                                   const QString &paperText)
 {
     if (printer == printer_ && paper == paper_)
         return;
     printer_ = printer;
     paper_ = paper;
     heading_->setText(tr("Everything printed on \"%1\" with the paper size \"%2\" is moved:")
-                          .arg(plainText(printer, shownTextLimit), plainText(paperText, shownTextLimit)));
-    failure_->hide();
+                          .arg(plainText(printerText, shownTextLimit), plainText(paperText, shownTextLimit)));
+    showFailure({});
     showPosition(PrintPositions::load(printer, paper));
 }
 
@@ -123,8 +132,13 @@ void PrintPositionWindow::apply()
     const QPoint tenths(qRound(right_->value() * tenthsPerMillimeter),
                         qRound(down_->value() * tenthsPerMillimeter));
     const auto failure = PrintPositions::save(printer_, paper_, tenths);
-    failure_->setText(failure ? failure->text : QString());
-    failure_->setVisible(failure.has_value());
+    showFailure(failure ? failure->text : QString());
+}
+
+void PrintPositionWindow::showFailure(const QString &sentence)
+{
+    failure_->setText(sentence);
+    failure_->setVisible(!sentence.isEmpty());
 }
 
 /// A line that is too far to the left was printed too far to the left.
@@ -132,6 +146,10 @@ void PrintPositionWindow::correct()
 {
     const QPoint tenths(qRound((right_->value() + positionLine - fromLeft_->value()) * tenthsPerMillimeter),
                         qRound((down_->value() + positionLine - fromTop_->value()) * tenthsPerMillimeter));
+    if (std::max(std::abs(tenths.x()), std::abs(tenths.y())) > PrintPositions::farthest)
+        return showFailure(tr("Prints can be moved by %1 mm at most. Check which paper is loaded, and the "
+                              "paper size, then print the test page again.")
+                               .arg(locale().toString(PrintPositions::farthest / tenthsPerMillimeter)));
     showPosition(tenths);
     apply();
     for (QDoubleSpinBox *field : {fromLeft_, fromTop_})

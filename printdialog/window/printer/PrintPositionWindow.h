@@ -23,8 +23,9 @@ public:
     explicit PrintPositionWindow(QWidget *parent);
 
     /// Shows the position of this printer and paper.
-    /// @param paper the choice keyword of the paper size; `paperText` is its name for people
-    void setPaper(const QString &printer, const QString &paper, const QString &paperText);
+    /// @param paper the choice keyword of the paper size; `printerText` and `paperText` are names for people
+    void setPaper(const QString &printer, const QString &printerText, const QString &paper,
+                  const QString &paperText);
     /// Why no test page can be printed now; empty when it can.
     void setWhyNoTest(const QString &reason);
 
@@ -35,6 +36,7 @@ private:
     QDoubleSpinBox *addField(const char *name, double least, double most, double value);
     void apply();
     void correct();
+    void showFailure(const QString &sentence);
     void showPosition(const QPoint &tenths);
 
     QString printer_;
