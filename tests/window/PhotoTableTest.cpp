@@ -397,6 +397,10 @@ private Q_SLOTS:
         QCOMPARE(documents->itemText(0), u"One PDF for each sheet"_s);
         opened.click(u"print"_s);
         QTRY_VERIFY2(opened.message().startsWith(u"Printed 2 sheets in "_s), qPrintable(opened.message()));
+        opened.pane->model()->selectAll();
+        opened.click(u"removePhoto"_s);
+        QVERIFY(!note->isVisible());
+        QCOMPARE(opened.scaling->currentText(), u"Fit on the page"_s);
     }
 
     void typedSize()

@@ -294,7 +294,8 @@ void PhotoPane::updatePlan()
 {
     const Arrangement planned = isPlacedByPrinter_ ? arrangement().unplaced() : arrangement();
     plan_ = page_.printed().isEmpty() || planned.photos.isEmpty() ? SheetPlan() : planned.plan(page_);
-    const bool isUsual = arrangement().layout == SheetLayout() && model_->count() <= 1;
+    const bool isUsual =
+        planned.photos.isEmpty() || (arrangement().layout == SheetLayout() && model_->count() == 1);
     QString note = whyNotPrintable();
     if (note.isEmpty() && !isUsual && !isPlacedByPrinter_)
         note = tr("Sheets: %1").arg(QLocale().toString(plan_.paperCount()));

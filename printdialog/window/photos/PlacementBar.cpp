@@ -99,6 +99,8 @@ void PlacementBar::showPhotos(const ArrangementModel &photos)
 {
     hasPhotos_ = photos.count() > 0;
     enable();
+    if (!hasPhotos_)
+        return;
     const auto scaling =
         commonValue(photos, [](const PlacedPhoto &photo) { return photo.placement.scaling; });
     scaling_->setCurrentIndex(scaling ? scaling_->findData(static_cast<int>(*scaling)) : -1);
