@@ -52,7 +52,8 @@ SheetPlace placeOf(const QRectF &area, const PageGeometry &page, Caption caption
 /// Rows and columns of equal areas; empty when the gaps leave no room.
 QList<QRectF> gridOf(const QRectF &whole, int rows, int columns, double gap)
 {
-    constexpr double smallest = 5 * pointsPerMillimeter;
+    // A print of the shortest side may have lost a rounding error on its way here.
+    constexpr double smallest = PrintSize::shortestSide - layoutTolerance;
     const QSizeF size((whole.width() - gap * (columns - 1)) / columns,
                       (whole.height() - gap * (rows - 1)) / rows);
     QList<QRectF> areas;

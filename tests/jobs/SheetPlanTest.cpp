@@ -146,6 +146,8 @@ private Q_SLOTS:
         add("as many as fit", u"fit"_s, {1}, sized(u"passport"_s), u"00000000"_s);
         add("both strips alike", u"strips:2"_s, {1, 1, 1}, fit, u"0101 22"_s);
         add("strips that follow", u"strips:2,follow"_s, {1, 1, 1}, fit, u"012"_s);
+        add("as many as fit but for rounding errors", u"fit,gap=0mm"_s, {1}, sized(u"3.3334x5cm"_s),
+            u"000000000"_s);
         add("no copies count as one", u"single"_s, {0}, fit, u"0"_s);
     }
 
@@ -178,6 +180,8 @@ private Q_SLOTS:
             item(wide, {Scaling::Fill}), u"0,0,48,73"_s, 1);
         add("a print within its place", largePage, u"2x2,gap=10mm"_s, item(tall, sized(u"5x7cm"_s)),
             u"25,40,50,70"_s, 0);
+        add("as many of the smallest size as fit", smallPage, u"fit,gap=0mm,nomarks"_s,
+            item(QSize(100, 100), sized(u"5x5mm"_s)), u"0,0,5,5"_s, 0);
         add("contact sheets turn nothing", smallPage, u"contact:2x2,gap=4mm"_s, item(wide), u"0,18,48,32"_s,
             0);
         add("a strip is read along the longer side",
@@ -209,6 +213,24 @@ private Q_SLOTS:
             QCOMPARE(millimeters(placement.target), u"75,125,50,50"_s);
     }
 
+    void captionsLieBelowTheirPhotos_data()
+    {
+        const auto add = rows<QString, QString>();
+        add("a line", u"2x2,gap=4mm,caption=name"_s, u"0,68,48,5"_s);
+        add("two lines", u"2x2,gap=4mm,caption=both"_s, u"0,63,48,10"_s);
+        add("half of a low place", u"20x1,gap=0mm,caption=both"_s, u"0,4,100,4"_s);
+    }
+
+    void captionsLieBelowTheirPhotos()
+    {
+        const auto [text, caption] = row<QString, QString>();
+        const SheetPlan plan =
+            SheetPlan::make({item(QSize(100, 100), {Scaling::Fill})}, layoutOf(text), smallPage);
+        const LaidPhoto &photo = plan.sheets().constFirst().photos.constFirst();
+        QCOMPARE(millimeters(photo.caption), caption);
+        QVERIFY(qAbs(photo.placement.outline.bottom() - photo.caption.top()) < layoutTolerance);
+    }
+
     void borderlessPlacesReachBeyondTheSheet()
     {
         const PageGeometry page{QSizeF(100, 150) * mm, QRectF(-2 * mm, -3 * mm, 104 * mm, 156 * mm)};
@@ -235,6 +257,7 @@ private Q_SLOTS:
         bordered.border.width = 17.5 * mm;
         add("nothing but border", u"single"_s, item(tall, bordered), Kind::BorderTooWide, u"17"_s);
         add("no room", u"20x20,gap=20mm"_s, item(tall), Kind::PlacesTooSmall, {});
+        add("no room for rows", u"20x1,gap=6mm"_s, item(tall), Kind::PlacesTooSmall, {});
         add("strips without room", u"strips:4,gap=30mm"_s, item(tall), Kind::PlacesTooSmall, {});
         add("too many", u"2x2"_s, item(tall, {}, 100'001), Kind::TooMany, {});
     }
