@@ -23,6 +23,10 @@ const QString formatName = QStringLiteral("corvel-print-list");
 constexpr int version = 1;
 constexpr double perCent = 100;
 
+const QString photosKey = QStringLiteral("photos");
+const QStringList listKeys = {QStringLiteral("format"), QStringLiteral("version"), QStringLiteral("layout"),
+                              photosKey};
+
 using Fault = PrintListFault;
 
 Failure<Fault> notAList(const QString &path, const QString &detail)
@@ -128,6 +132,14 @@ QJsonObject jsonOf(const PrintList::Entry &entry, const QDir &folder)
     return object;
 }
 
+/// The list's own folder, which relative paths count from: a link to the list may be anywhere.
+QDir folderOf(const QString &path)
+{
+    const QFileInfo info(path);
+    const QString linked = info.isSymLink() ? info.canonicalFilePath() : QString();
+    return linked.isEmpty() ? info.absoluteDir() : QFileInfo(linked).absoluteDir();
+}
+
 Failure<Fault> notReadable(const QString &path, const QString &reason)
 {
     return {Fault::NotReadable,
@@ -168,25 +180,33 @@ Result<PrintList, PrintListFault> PrintList::load(const QString &path)
         return notAList(path, error.errorString());
     if (object.value(QLatin1String("format")).toString() != formatName)
         return notAList(path, QStringLiteral("another format"));
-    if (const auto number = wholeNumber(object.value(QLatin1String("version")), 1, INT_MAX);
-        !number || *number > version)
+    const QJsonValue written = object.value(QLatin1String("version"));
+    const auto number = wholeNumber(written, 1, INT_MAX);
+    if (!number)
+        return badValue(path, QStringLiteral("version"), written);
+    if (*number > version)
         return Failure<Fault>{
             Fault::NotAList,
             tr("The print list \"%1\" is from a later version of this program. Update the program, or save "
                "the list again with this one.")
                 .arg(plainText(path)),
             {}};
+    for (auto value = object.begin(); value != object.end(); ++value) {
+        if (!listKeys.contains(value.key()))
+            return badValue(path, value.key(), value.value());
+    }
 
     PrintList list;
     const QJsonValue layout = object.value(QLatin1String("layout"));
     if (!layout.isUndefined() && !take(SheetLayout::fromText(layout.toString()), list.layout))
         return badValue(path, QStringLiteral("layout"), layout);
-    const QJsonArray photos = object.value(QLatin1String("photos")).toArray();
+    const QJsonArray photos = object.value(photosKey).toArray();
     if (photos.isEmpty() || photos.size() > mostEntries)
-        return badValue(path, QStringLiteral("photos"),
-                        object.value(QLatin1String("photos")).isArray() ? QJsonArray() : QJsonValue());
-    const QDir folder = info.absoluteDir();
+        return badValue(path, photosKey, object.value(photosKey));
+    const QDir folder = folderOf(path);
     for (const QJsonValue &photo : photos) {
+        if (!photo.isObject())
+            return badValue(path, photosKey, photo);
         const QJsonObject values = photo.toObject();
         Entry entry;
         for (auto value = values.begin(); value != values.end(); ++value) {
@@ -203,14 +223,14 @@ Result<PrintList, PrintListFault> PrintList::load(const QString &path)
 
 std::optional<Failure<PrintListFault>> PrintList::save(const QString &path) const
 {
-    const QDir folder = QFileInfo(path).absoluteDir();
+    const QDir folder = folderOf(path);
     QJsonArray entries;
     for (const Entry &entry : photos)
         entries += jsonOf(entry, folder);
     const QJsonObject object{{QStringLiteral("format"), formatName},
                              {QStringLiteral("version"), version},
                              {QStringLiteral("layout"), layout.toText()},
-                             {QStringLiteral("photos"), entries}};
+                             {photosKey, entries}};
     QSaveFile file(path);
     const bool isWritten = file.open(QIODevice::WriteOnly) && file.write(QJsonDocument(object).toJson()) >= 0;
     if (isWritten && file.commit())

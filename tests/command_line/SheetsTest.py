@@ -14,7 +14,11 @@ BAD_LISTS = (
     ("{", "is not a print list"),
     ('{"format": "other", "version": 1}', "is not a print list"),
     ('{"format": "corvel-print-list", "version": 2, "photos": []}', "later version"),
+    ('{"format": "corvel-print-list", "photos": []}', '"version" cannot be null'),
     ({"photos": []}, '"photos" cannot be []'),
+    ({"photos": ["a.jpg"]}, '"photos" cannot be "a.jpg"'),
+    ({"photos": "a.jpg"}, '"photos" cannot be "a.jpg"'),
+    ({"Layout": "2x2"}, '"Layout" cannot be "2x2"'),
     ({"layout": "9"}, '"layout" cannot be "9"'),
     ({"layout": 9}, '"layout" cannot be 9'),
     ({"copies": 0}, '"copies" cannot be 0'),
@@ -33,7 +37,7 @@ BAD_LISTS = (
 def print_list(values):
     if isinstance(values, str):
         return values
-    top = {key: values[key] for key in ("photos", "layout") if key in values}
+    top = {key: values[key] for key in ("photos", "layout", "Layout") if key in values}
     photo = {"file": PHOTO} | {key: values[key] for key in values if key not in top}
     return json.dumps({"format": "corvel-print-list", "version": 1, "photos": [photo]} | top)
 
@@ -97,9 +101,12 @@ class SheetsTest(ProgramTest):
             {"format": "corvel-print-list", "version": 1, "layout": "2x2,gap=0mm",
              "photos": [{"file": "a.jpg", "copies": 2, "scaling": "fill", "crop": [0, 100]},
                         {"file": PHOTO, "size": "passport", "turns": 1, "scale": 50, "border": "1mm,black"}]}).encode())
-        sheet, = self.plan(saved)
-        self.assertEqual([photo["file"] for photo in sheet["photos"]],
-                         [str(self.folder / "a.jpg")] * 2 + [PHOTO])
+        (self.folder / "links").mkdir()
+        (self.folder / "links/list.json").symlink_to(saved)
+        for path in saved, self.folder / "links/list.json":
+            sheet, = self.plan(path)
+            self.assertEqual([photo["file"] for photo in sheet["photos"]],
+                             [str(self.folder / "a.jpg")] * 2 + [PHOTO])
         self.assertEqual(self.places(sheet)[2], (8, 92, 35, 45))
         self.assertEqual(self.print("--printer", "built-in", saved).err, "")
         self.assertEqual(self.names(), ["a.pdf", "a.ticket.json"])
