@@ -44,6 +44,8 @@ Result<JobPlan, SheetPrinter::Fault> JobPlan::make(const PrintSheet &sheet, cons
             plan.files_.append(QDir(names.folder().path).absoluteFilePath(name + suffix));
         return plan;
     }
+    if (const auto failure = SheetPrinter::whyTooMany(sheet, job))
+        return *failure;
     const auto document = SheetPrinter::documentOf(sheet, job);
     if (!document)
         return document.failure();

@@ -93,17 +93,13 @@ Result<QString, SheetPrinter::Fault> SheetPrinter::finishDocument()
 
 Result<QString, SheetPrinter::Fault> SheetPrinter::send(const PrintSheet &sheet)
 {
+    if (const auto failure = whyTooMany(sheet, job_))
+        return *failure;
     const auto document = documentOf(sheet, job_);
     if (!document)
         return document.failure();
     PrintJob job = job_;
     job.copies *= sheet.copies;
-    if (job.copies > mostJobCopies)
-        return Failure<Fault>{
-            {},
-            tr("%1 copies of %2 are more than the %3 that a job can have. Print it in several parts.")
-                .arg(QString::number(job.copies), document->name, QString::number(mostJobCopies)),
-            {}};
     const auto id = submission_.send(job, *document);
     if (!id) {
         auto failure = failureOf(id.failure());
@@ -112,6 +108,19 @@ Result<QString, SheetPrinter::Fault> SheetPrinter::send(const PrintSheet &sheet)
     }
     sent_.append({document->name, *id, std::nullopt});
     return tr("Sent %1 to %2 as job %3").arg(document->name, job_.destination.id(), QString::number(*id));
+}
+
+std::optional<Failure<SheetPrinter::Fault>> SheetPrinter::whyTooMany(const PrintSheet &sheet,
+                                                                     const PrintJob &job)
+{
+    const int copies = job.copies * sheet.copies;
+    if (job.destination.isBuiltIn() || copies <= mostJobCopies)
+        return std::nullopt;
+    return Failure<Fault>{
+        {},
+        tr("%1 copies of %2 are more than the %3 that a job can have. Print it in several parts.")
+            .arg(QString::number(copies), sheet.name, QString::number(mostJobCopies)),
+        {}};
 }
 
 Result<JobDocument, SheetPrinter::Fault> SheetPrinter::documentOf(const PrintSheet &sheet,

@@ -58,6 +58,8 @@ public:
     /// Puts the document into its folder. Returns its path.
     Result<QString, Fault> finishDocument();
 
+    /// Whether the sheet's copies and the job's are more together than a queue's job can have.
+    static std::optional<Failure<Fault>> whyTooMany(const PrintSheet &sheet, const PrintJob &job);
     /// The document that print() sends to a queue.
     static Result<JobDocument, Fault> documentOf(const PrintSheet &sheet, const PrintJob &job);
 

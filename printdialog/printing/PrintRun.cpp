@@ -22,7 +22,8 @@ constexpr unsigned mostChecks = 4; // at a time: each holds a photo's file in me
 
 PrintRun::PrintRun(const PrintJob &job, PrintRunListener &listener, const PrintRunFlags &flags,
                    const FollowLimits &limits)
-    : listener_(listener)
+    : job_(job)
+    , listener_(listener)
     , flags_(flags)
     , limits_(limits)
     , printer_(
@@ -47,6 +48,11 @@ QString PrintRun::leftOutText(const PrintSheet &sheet, const QString &why)
 PrintOutcome PrintRun::print(qsizetype count, const SheetSource &sheets)
 {
     outcome_.total = static_cast<int>(count);
+    // Before anything is printed, since the user has to divide the job.
+    for (qsizetype i = 0; i < count && outcome_.failure.isEmpty(); ++i) {
+        if (const auto failure = SheetPrinter::whyTooMany(sheets(i), job_))
+            outcome_.failure = failure->text;
+    }
     // The check of the photos takes longest, so the next ones are checked on the other cores while this one
     // prints.
     struct Ahead
@@ -56,7 +62,9 @@ PrintOutcome PrintRun::print(qsizetype count, const SheetSource &sheets)
     };
     std::deque<Ahead> ahead;
     const qsizetype most = 1 + std::clamp(std::thread::hardware_concurrency(), 1U, mostChecks);
-    for (index_ = 0; index_ < count && !isRaised(flags_.cancel) && !isRaised(flags_.finish); ++index_) {
+    for (index_ = 0;
+         index_ < count && outcome_.failure.isEmpty() && !isRaised(flags_.cancel) && !isRaised(flags_.finish);
+         ++index_) {
         while (std::ssize(ahead) < most && index_ + std::ssize(ahead) < count) {
             Ahead next{sheets(index_ + std::ssize(ahead)), nullptr};
             next.check = std::make_unique<PhotoCheck>(next.sheet.photosToCheck());

@@ -75,7 +75,7 @@ class PrintRun
     Q_DECLARE_TR_FUNCTIONS(printdialog::PrintRun)
 
 public:
-    /// Returns the sheet of the index; called shortly before it is printed.
+    /// Returns the sheet of the index; called before the run and shortly before the sheet is printed.
     using SheetSource = std::function<PrintSheet(qsizetype index)>;
 
     /// @param listener outlives the run
@@ -102,6 +102,7 @@ private:
     void noteUnsent();
     void finishDocument();
 
+    PrintJob job_;
     PrintRunListener &listener_;
     PrintRunFlags flags_;
     FollowLimits limits_;

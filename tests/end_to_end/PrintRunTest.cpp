@@ -136,6 +136,22 @@ private Q_SLOTS:
         QCOMPARE(wordsOf(outcome), u"1 unknown, rest: 1 2"_s);
     }
 
+    // Nothing is sent before the copies of all sheets are known to be possible.
+    void tooManyCopies()
+    {
+        Listener listener(0, false, {});
+        PrintJob many = job();
+        many.copies = 11;
+        PrintRun run(many, listener);
+        const PrintOutcome outcome = run.print(3, [](qsizetype index) {
+            PrintSheet sheet = sheetOf(index);
+            sheet.copies = index == 1 ? 910 : 1;
+            return sheet;
+        });
+        QVERIFY2(outcome.failure.startsWith(u"10010 copies of sheet 2 "_s), qPrintable(outcome.failure));
+        QCOMPARE(wordsOf(outcome), u"rest: 0 1 2"_s);
+    }
+
     void remainingTime_data()
     {
         using Moments = QList<std::pair<int, int>>; // seconds and sheets that are done by then
