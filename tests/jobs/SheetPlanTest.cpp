@@ -148,6 +148,7 @@ private Q_SLOTS:
         add("strips that follow", u"strips:2,follow"_s, {1, 1, 1}, fit, u"012"_s);
         add("as many as fit but for rounding errors", u"fit,gap=0mm"_s, {1}, sized(u"3.3334x5cm"_s),
             u"000000000"_s);
+        add("copies of a sheet are one print", u"single"_s, {100'001}, fit, u"0*100001"_s);
         add("no copies count as one", u"single"_s, {0}, fit, u"0"_s);
     }
 
@@ -161,6 +162,15 @@ private Q_SLOTS:
         QVERIFY2(!plan.failure(), plan.failure() ? qPrintable(plan.failure()->text) : "");
         QCOMPARE(itemsOf(plan), expected);
         QCOMPARE(plan.sheetWith(items.size()), -1);
+    }
+
+    void anotherSizeBeginsAnotherSheet()
+    {
+        const QSize tall(2000, 3000);
+        const SheetPlan plan =
+            SheetPlan::make({item(tall, sized(u"passport"_s), 3), item(tall, sized(u"5x7cm"_s))},
+                            layoutOf(u"fit,follow"_s), smallPage);
+        QCOMPARE(itemsOf(plan), u"000 1"_s);
     }
 
     void printsLieWhereTheyShould_data()
@@ -218,6 +228,7 @@ private Q_SLOTS:
         const auto add = rows<QString, QString>();
         add("a line", u"2x2,gap=4mm,caption=name"_s, u"0,68,48,5"_s);
         add("two lines", u"2x2,gap=4mm,caption=both"_s, u"0,63,48,10"_s);
+        add("none where a print has its size", u"fit,caption=name"_s, u"0,0,0,0"_s);
         add("half of a low place", u"20x1,gap=0mm,caption=both"_s, u"0,4,100,4"_s);
     }
 
@@ -228,7 +239,8 @@ private Q_SLOTS:
             SheetPlan::make({item(QSize(100, 100), {Scaling::Fill})}, layoutOf(text), smallPage);
         const LaidPhoto &photo = plan.sheets().constFirst().photos.constFirst();
         QCOMPARE(millimeters(photo.caption), caption);
-        QVERIFY(qAbs(photo.placement.outline.bottom() - photo.caption.top()) < layoutTolerance);
+        if (!photo.caption.isEmpty())
+            QVERIFY(qAbs(photo.placement.outline.bottom() - photo.caption.top()) < layoutTolerance);
     }
 
     void borderlessPlacesReachBeyondTheSheet()
@@ -239,6 +251,11 @@ private Q_SLOTS:
         const auto &photos = plan.sheets().constFirst().photos;
         QCOMPARE(millimeters(photos.at(0).placement.clip), u"-2,-3,52,78"_s);
         QCOMPARE(millimeters(photos.at(3).placement.clip), u"50,75,52,78"_s);
+        PlacementChoice bordered{Scaling::Fill};
+        bordered.border.width = 5 * mm;
+        const auto placement = PhotoPlacement::place(QSize(100, 100), 300, page, bordered);
+        QCOMPARE(millimeters(placement.outline), u"-2,-3,104,156"_s);
+        QCOMPARE(millimeters(placement.clip), u"5,5,90,140"_s);
     }
 
     void faultsAreFound_data()
@@ -256,6 +273,9 @@ private Q_SLOTS:
         PlacementChoice bordered = sized(u"passport"_s);
         bordered.border.width = 17.5 * mm;
         add("nothing but border", u"single"_s, item(tall, bordered), Kind::BorderTooWide, u"17"_s);
+        bordered = sized(u"passport"_s, Scaling::Fit);
+        bordered.border.width = 30 * mm;
+        add("more border than print", u"single"_s, item(tall, bordered), Kind::BorderTooWide, u"30"_s);
         add("no room", u"20x20,gap=20mm"_s, item(tall), Kind::PlacesTooSmall, {});
         add("no room for rows", u"20x1,gap=6mm"_s, item(tall), Kind::PlacesTooSmall, {});
         add("strips without room", u"strips:4,gap=30mm"_s, item(tall), Kind::PlacesTooSmall, {});
@@ -303,6 +323,33 @@ private Q_SLOTS:
         }
     }
 
+    void photosOfOneNameAreDifferent()
+    {
+        const QTemporaryDir folder;
+        QList<QByteArray> jpegs;
+        PrintSheet sheet{u"sheet"_s};
+        for (const QString &name : {u"a"_s, u"b"_s}) {
+            QVERIFY(QDir(folder.path()).mkdir(name));
+            const QString path = folder.filePath(name + u"/p.jpg"_s);
+            jpegs += samples::encoded(samples::quarters(QSize(30 + 10 * int(jpegs.size()), 20)), "jpeg");
+            samples::store(path, jpegs.constLast());
+            QFile file(path);
+            QVERIFY(file.open(QIODevice::ReadWrite) &&
+                    file.setFileTime(QDateTime::fromSecsSinceEpoch(1'700'000'000),
+                                     QFileDevice::FileModificationTime));
+            sheet.photos += PrintSheet::of(*Photo::open(path), smallPage, {}).photos;
+        }
+        QBuffer pdf;
+        pdf.open(QIODevice::WriteOnly);
+        PdfWriter writer(pdf);
+        QVERIFY(!writer.add(sheet, smallPage));
+        sheet.name = u"another"_s;
+        QVERIFY(!writer.add(sheet, smallPage) && !writer.finish());
+        for (const QByteArray &jpeg : std::as_const(jpegs))
+            QCOMPARE(pdf.data().count(jpeg), 1);
+        QVERIFY(pdf.data().contains("/Title " + PdfFile::string(u"sheet"_s)));
+    }
+
     void thePdfHasEverythingInItsPlace()
     {
         const QTemporaryDir folder;
@@ -310,7 +357,7 @@ private Q_SLOTS:
         samples::store(folder.filePath(u"a.jpg"_s), jpeg);
         const Photo photo = *Photo::open(folder.filePath(u"a.jpg"_s));
         PlacementChoice choice = sized(u"5x7cm"_s);
-        choice.border = {2 * mm, qRgb(0, 0, 0)};
+        choice.border = {2 * mm, qRgb(0, 0, 90)};
         const PageGeometry page = largePage;
         const SheetPlan plan =
             SheetPlan::make({item(photo.orientedSize(), choice, 3)}, layoutOf(u"3x2,gap=8mm,marks"_s), page);
@@ -345,11 +392,12 @@ private Q_SLOTS:
                     return pixels.pixelColor(static_cast<int>(x), static_cast<int>(y));
                 };
                 const double middle = outline.center().y() + 20;
-                // Black border from its outer edge to the photo, white paper beside it: each within half a
-                // dot.
+                // Dark blue border from its outer edge to the photo, white paper beside it: each within half
+                // a dot.
                 for (const double edge : {outline.left(), outline.right()}) {
                     const double inwards = edge < outline.center().x() ? 1 : -1;
                     QVERIFY(at(edge + inwards, middle).lightness() < 60);
+                    QVERIFY(at(edge + inwards, middle).blue() > at(edge + inwards, middle).red() + 60);
                     QVERIFY(at(edge - inwards, middle).lightness() > 200);
                 }
                 for (const double edge : {inner.left(), inner.right()}) {
