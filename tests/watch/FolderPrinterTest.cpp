@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include "FolderPrinter.h"
+#include "QueueList.h"
+#include "Rows.h"
 #include "TestMain.h"
 
 #include <QtCore/QDir>
@@ -111,23 +113,54 @@ private Q_SLOTS:
         QTRY_COMPARE(complaints.size(), 2);
     }
 
+    // Nothing was made of it: another run prints it.
+    void takesBackWhatHasNotBegun()
+    {
+        QVERIFY(QDir(place_->path()).rmdir(u"out"_s) && QFile(at(u"out"_s)).open(QIODevice::WriteOnly));
+        {
+            FolderPrinter printer;
+            QSignalSpy complaints(&printer, &FolderPrinter::complained);
+            start(printer);
+            QVERIFY(arrive(u"1.jpg"_s));
+            QTRY_COMPARE(complaints.size(), 1);
+        }
+        QVERIFY(QFile::remove(at(u"out"_s)));
+        FolderPrinter printer;
+        start(printer);
+        QTRY_COMPARE(printed(), u"1.pdf"_s);
+    }
+
+    void reportsWhatIsUnclear_data()
+    {
+        using enum PhotoRecord::State;
+        const auto add = rows<PhotoRecord, QString>();
+        add("no printer", {.state = Began}, u"was ended while"_s);
+        add("files", {.state = Began, .printer = Destination::builtIn().id(), .server = printServerAddress()},
+            u"was ended while"_s);
+        for (const auto state : {Began, Sent})
+            add(state == Began ? "begun on another server" : "sent to another server",
+                {.state = state, .job = 7, .printer = u"photo"_s, .server = u"other.example"_s},
+                u"other.example"_s);
+    }
+
     // Its files may have been made: it is not printed again before somebody says so.
     void reportsWhatIsUnclear()
     {
+        const auto [known, words] = row<PhotoRecord, QString>();
         QVERIFY(arrive(u"1.jpg"_s));
         struct stat status = {};
         QCOMPARE(::stat(qPrintable(at(u"new/1.jpg"_s)), &status), 0);
         {
             auto record = WatchRecord::open(order_.folder);
             QVERIFY(record && !record->compact({}));
-            QVERIFY(
-                !record->add(PhotoIdentity::of(status, "1.jpg", {}), {.state = PhotoRecord::State::Began}));
+            QVERIFY(!record->add(PhotoIdentity::of(status, "1.jpg", {}), known));
         }
         FolderPrinter printer;
         QSignalSpy complaints(&printer, &FolderPrinter::complained);
         start(printer);
         QTRY_COMPARE(complaints.size(), 1);
         QVERIFY(complaints.at(0).at(0).toString().contains(u"unclear whether \"1.jpg\" was printed"_s));
+        QVERIFY(complaints.at(0).at(0).toString().contains(words));
         QVERIFY(arrive(u"2.jpg"_s));
         QTRY_COMPARE(printed(), u"2.pdf"_s);
         QCOMPARE(::utimes(qPrintable(at(u"new/1.jpg"_s)), nullptr), 0);
