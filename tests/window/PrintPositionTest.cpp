@@ -124,6 +124,15 @@ private Q_SLOTS:
         QTest::keyClick(papers, papers->currentIndex() == 0 ? Qt::Key_Down : Qt::Key_Up);
     }
 
+    void eachPaperHasItsOwn()
+    {
+        PrintPositions::save(u"one"_s, u"a6"_s, {1, 2});
+        PrintPositions::save(u"one"_s, u"a5"_s, {3, 4});
+        PrintPositions::save(u"one"_s, u"a5"_s, {});
+        QCOMPARE(PrintPositions::load(u"one"_s, u"a6"_s), QPoint(1, 2));
+        QCOMPARE(PrintPositions::load(u"one"_s, u"a5"_s), QPoint());
+    }
+
     void badFilesCountAsNone()
     {
         PrintPositions::save(u"one"_s, u"a6"_s, {400, -3});
