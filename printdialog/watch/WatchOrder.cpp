@@ -12,6 +12,7 @@ namespace printdialog {
 void WatchOrder::setStyle(const ArrangementStyle &wanted)
 {
     style = wanted;
+    style.placement.turns = 0; // of the photo that was shown
     if (style.layout.kind != SheetLayout::Kind::Contact)
         style.layout.isRepeated = true;
 }
