@@ -51,6 +51,26 @@ private:
     std::function<void()> happen_;
 };
 
+/// Lets the event happen when the second sheet begins.
+class SecondSheetListener : public Listener
+{
+public:
+    explicit SecondSheetListener(const std::function<void()> &happen)
+        : Listener(-1, false, {})
+        , happen_(happen)
+    {
+    }
+
+    void sending(qsizetype sheet, const QString & /*name*/, qint64 /*sent*/, qint64 /*total*/) override
+    {
+        if (sheet == 1)
+            happen_();
+    }
+
+private:
+    std::function<void()> happen_;
+};
+
 } // namespace
 
 /// What a run of several sheets says was printed and was not, with a real print server.
@@ -59,7 +79,7 @@ class PrintRunTest : public QObject
     Q_OBJECT
 
     /// What happens at a sheet of the run.
-    enum class Event { Nothing, StopAtOnce, StopAfterSheet, ServerEnds };
+    enum class Event { Nothing, StopAtOnce, StopAfterSheet, ServerEnds, NameIsTaken };
 
 private Q_SLOTS:
     void initTestCase()
@@ -136,10 +156,65 @@ private Q_SLOTS:
         QCOMPARE(wordsOf(outcome), u"1 unknown, rest: 1 2"_s);
     }
 
+    void copiesOfSheetsMultiplyTheJobs()
+    {
+        QVERIFY(cupsd_.addQueue(u"odd"_s, {}, {u"-v"_s, u"scripted:/"_s}));
+        QVERIFY(cupsd_.setBackendScript("test \"$4\" = 6"));
+        Listener listener(-1, false, {});
+        PrintJob thrice = job();
+        thrice.copies = 3;
+        PrintRun run(thrice, listener);
+        const PrintOutcome outcome = run.print(1, [](qsizetype index) {
+            PrintSheet sheet = sheetOf(index);
+            sheet.copies = 2;
+            return sheet;
+        });
+        QCOMPARE(wordsOf(outcome), u"1 printed, rest:"_s);
+    }
+
+    // All pages of one PDF are printed, or none.
+    void oneDocument_data()
+    {
+        const auto add = rows<Event, QString>();
+        add("all", Event::Nothing, u"rest:"_s);
+        add("stopped at once", Event::StopAtOnce, u"rest: 0 1 2"_s);
+        add("stopped after the sheet", Event::StopAfterSheet, u"rest: 0 1 2"_s);
+        add("another program takes its name", Event::NameIsTaken, u"rest: 0 1 2"_s);
+    }
+
+    void oneDocument()
+    {
+        const auto [event, rest] = row<Event, QString>();
+        const QTemporaryDir folder;
+        const QString path = folder.filePath(u"album.pdf"_s);
+        int cancel = 0;
+        int finish = 0;
+        SecondSheetListener listener([&, event = event] {
+            cancel = event == Event::StopAtOnce ? 1 : 0;
+            finish = event == Event::StopAfterSheet ? 1 : 0;
+            if (event == Event::NameIsTaken)
+                QVERIFY(QFile(path).open(QIODevice::WriteOnly));
+        });
+        PrintJob document = job();
+        document.destination = Destination::builtIn();
+        document.page = page;
+        document.folder = {folder.path(), false, {}, u"album"_s};
+        PrintRun run(document, listener, {&cancel, nullptr, nullptr, &finish});
+        const PrintOutcome outcome = run.print(3, sheetOf);
+        QCOMPARE(wordsOf(outcome), rest);
+        const bool isDone = event == Event::Nothing;
+        QCOMPARE(outcome.document, isDone ? path : QString());
+        QCOMPARE(outcome.done, isDone ? 3 : 0);
+        QCOMPARE(outcome.names.size(), isDone ? 3 : 0);
+        QCOMPARE(outcome.failure.isEmpty(), event != Event::NameIsTaken);
+        QCOMPARE(outcome.wasStopped, event == Event::StopAtOnce || event == Event::StopAfterSheet);
+        QCOMPARE(QFileInfo(path).size() > 0, isDone);
+    }
+
     // Nothing is sent before the copies of all sheets are known to be possible.
     void tooManyCopies()
     {
-        Listener listener(0, false, {});
+        Listener listener(-1, false, {});
         PrintJob many = job();
         many.copies = 11;
         PrintRun run(many, listener);
