@@ -479,7 +479,11 @@ private Q_SLOTS:
     void listComesBack()
     {
         const PhotoDialog opened(letters(u"a b c"_s));
-        opened.click(u"turn"_s);
+        opened.pane->model()->editSelected([](PlacedPhoto &placed) {
+            placed.placement = {Scaling::Fill, 3,
+                                {0.25, 0.75},  PrintSize::fromText(u"5x7cm"_s),
+                                1.25,          *PhotoBorder::fromText(u"2mm,#204080"_s)};
+        });
         QTest::keyClick(opened.copies, Qt::Key_Up);
         QTest::keyClick(opened.find<QComboBox>(u"layoutKind"_s), Qt::Key_Down);
         const QString path = opened.folder.filePath(u"photos.json"_s);
@@ -497,6 +501,11 @@ private Q_SLOTS:
         QVERIFY(!opened.pane->model()->hasUnkeptWork());
 
         const Arrangement saved = opened.pane->arrangement();
+        // A list is moved together with the photos that are in its folder.
+        const QString beside = QFileInfo(saved.photos.at(0).photo.path()).path() + u"/beside.json"_s;
+        QVERIFY(!PrintList::of(saved).save(beside));
+        const QByteArray written = samples::load(beside);
+        QVERIFY(written.contains("\"a.jpg\"") && !written.contains(QFileInfo(beside).path().toUtf8()));
         QVERIFY(QFile::remove(saved.photos.at(1).photo.path()));
         const PhotoDialog other(letters(u"d"_s));
         const auto dropList = [&other, &path] {
