@@ -21,8 +21,9 @@ struct RequestedSession
     std::unique_ptr<DialogSession> session;
     int copies = 1;              ///< as requested, or else the preset's
     ArrangementStyle style = {}; ///< the preset's
-    QStringList leftOut = {};    ///< a line about choices of the preset, and one about panels, that there are
-                              ///< not here, and one for each panel that could not read the job's choices
+    /// A line about choices of the preset, and one about panels, that are missing here, and one for each
+    /// panel that could not read the job's choices.
+    QStringList leftOut = {};
 };
 
 /// Opens the printer of the command line: the built-in one by name or with --ppd, the named queue, else the

@@ -42,9 +42,9 @@ public:
     open(const QString &name, const PrintJob &job, const OutputFolder &folder);
     Q_DISABLE_COPY_MOVE(BuiltInDocument)
 
-    /// Adds a page. A damaged photo that is not accepted is a failure. When its photos were checked before, a
-    /// sheet with an unusable one is no page, and others can still be added; any other failure spoils the
-    /// document.
+    /// Adds a page. A damaged photo that is not accepted is a failure. A sheet
+    /// whose photos were checked before and turn out to be unusable gets no page, and other sheets can still
+    /// be added. Any other failure spoils the document.
     std::optional<Failure<OutputFault>> add(const PrintSheet &sheet);
     /// Call at most once, with at least one page.
     Result<PrintedFiles, OutputFault> finish();

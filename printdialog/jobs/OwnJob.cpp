@@ -3,12 +3,12 @@
 
 #include "OwnJob.h"
 
+#include "AnswerAttributes.h"
 #include "CupsConnection.h"
 #include "PlainText.h"
 #include "QueueRecord.h"
 
 #include <QtCore/QCoreApplication>
-#include <QtCore/QHash>
 #include <QtCore/QUrl>
 
 #include <algorithm>
@@ -27,36 +27,8 @@ struct JobText
     Q_DECLARE_TR_FUNCTIONS(OwnJob)
 };
 
-/// One job's attributes out of an answer about many, where ippFindAttribute() finds only the first job's.
-class JobAttributes
-{
-public:
-    void add(ipp_attribute_t *attribute) { attributes_.insert(ippGetName(attribute), attribute); }
-    bool isEmpty() const { return attributes_.isEmpty(); }
-
-    QStringList texts(const char *name) const
-    {
-        QStringList texts;
-        ipp_attribute_t *attribute = attributes_.value(name);
-        for (int i = 0; attribute && i < std::min(ippGetCount(attribute), mostValues); ++i)
-            texts.append(plainText(QString::fromUtf8(ippGetString(attribute, i, nullptr)).simplified(),
-                                   shownTextLimit));
-        return texts;
-    }
-    QString text(const char *name) const { return texts(name).value(0); }
-    int number(const char *name) const
-    {
-        ipp_attribute_t *attribute = attributes_.value(name);
-        const ipp_tag_t tag = attribute ? ippGetValueTag(attribute) : IPP_TAG_ZERO;
-        return tag == IPP_TAG_INTEGER || tag == IPP_TAG_ENUM ? ippGetInteger(attribute, 0) : 0;
-    }
-
-private:
-    QHash<QByteArray, ipp_attribute_t *> attributes_;
-};
-
 /// When the job got into its state. A server counts from a time of its own, and says what it has counted to.
-QDateTime sinceOf(const JobAttributes &attributes, const JobStatus &status)
+QDateTime sinceOf(const AnswerAttributes &attributes, const JobStatus &status)
 {
     const char *name = status.isOver()                                ? "time-at-completed"
                        : status.state == JobStatus::State::Processing ? "time-at-processing"
@@ -69,7 +41,7 @@ QDateTime sinceOf(const JobAttributes &attributes, const JobStatus &status)
     return QDateTime::fromSecsSinceEpoch(std::abs(behind) < sameClock ? time : time + behind);
 }
 
-OwnJob jobOf(const JobAttributes &attributes, const Destination &destination)
+OwnJob jobOf(const AnswerAttributes &attributes, const Destination &destination)
 {
     OwnJob job;
     job.id = attributes.number("job-id");
@@ -90,7 +62,7 @@ OwnJob jobOf(const JobAttributes &attributes, const Destination &destination)
 QList<OwnJob> jobsIn(ipp_t *answer, const Destination &destination)
 {
     QList<OwnJob> jobs;
-    JobAttributes attributes;
+    AnswerAttributes attributes;
     const auto take = [&] {
         const OwnJob job = jobOf(std::exchange(attributes, {}), destination);
         if (job.id > 0)

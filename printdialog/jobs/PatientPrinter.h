@@ -27,7 +27,7 @@ struct PatientOutcome
         Unfit,       ///< The photo cannot be printed; the text says why.
         Failed,      ///< Its job was canceled, or the printer could not print it.
         Unclear,     ///< It may have been printed.
-        Vanished,    ///< It was not printed, and is no longer there.
+        Vanished,    ///< It was not printed, and its file is gone.
         Stopped,     ///< A flag was raised. A job that was sent is still the queue's.
         OtherPrinter ///< Nothing can be printed: the queue's PPD has changed since the options were chosen.
     };

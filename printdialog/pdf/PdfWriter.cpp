@@ -185,7 +185,7 @@ Result<PdfWriter::Embedding, PdfFault> PdfWriter::write(const Photo &photo, cons
                                                         QIODevice &device, const PlacementChoice &choice)
 {
     PdfWriter writer(device);
-    // Without an area to print on, there is no place for the photo, and the page is refused.
+    // A photo cannot be placed on a page without a printable area; add() refuses such a page.
     const PrintSheet sheet =
         isUsable(page) ? PrintSheet::of(photo, page, choice) : PrintSheet{photo.fileName(), {{photo}}};
     if (const Failed failure = writer.add(sheet, page))

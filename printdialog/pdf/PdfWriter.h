@@ -37,8 +37,9 @@ public:
     explicit PdfWriter(QIODevice &device);
     Q_DISABLE_COPY_MOVE(PdfWriter)
 
-    /// Adds a page with the sheet. Everything outside the page's imageable area is clipped. Without a usable
-    /// photo there is no page, and others can still be added; any other failure spoils the document.
+    /// Adds a page with the sheet. Everything outside the page's imageable area is clipped. A sheet with
+    /// an unusable photo gets no page, and other sheets can still be added. Any other failure spoils the
+    /// document.
     /// @param offset in points: everything is moved by it, so that it is in its place on the paper of a
     /// printer that prints beside it
     Failed add(const PrintSheet &sheet, const PageGeometry &page, const QPointF &offset = {});

@@ -3,6 +3,7 @@
 
 #include "QueueList.h"
 
+#include "AnswerAttributes.h"
 #include "BoundedWorker.h"
 #include "CupsConnection.h"
 #include "OptionsFetcher.h"
@@ -11,7 +12,6 @@
 #include "TemporaryQueue.h"
 #include "UserDestinations.h"
 
-#include <QtCore/QHash>
 #include <QtCore/QSet>
 
 #include <algorithm>
@@ -20,54 +20,6 @@
 namespace printdialog {
 
 namespace {
-
-/// The attributes of one queue in an answer about many.
-class QueueAttributes
-{
-public:
-    void add(ipp_attribute_t *attribute) { attributes_.insert(ippGetName(attribute), attribute); }
-
-    QStringList texts(const char *name) const
-    {
-        QStringList texts;
-        ipp_attribute_t *attribute = attributes_.value(name);
-        for (int i = 0; attribute && i < std::min(ippGetCount(attribute), mostValues); ++i)
-            texts.append(plainText(QString::fromUtf8(ippGetString(attribute, i, nullptr)).simplified(),
-                                   shownTextLimit));
-        return texts;
-    }
-    QString text(const char *name) const { return texts(name).value(0); }
-    /// The names of queues, unchanged. A name that needs cleaning is left out: the server would not recognize
-    /// it, or take it for another queue's.
-    QStringList names(const char *attributeName) const
-    {
-        QStringList names;
-        ipp_attribute_t *attribute = attributes_.value(attributeName);
-        for (int i = 0; attribute && i < std::min(ippGetCount(attribute), mostValues); ++i) {
-            const QByteArray bytes(ippGetString(attribute, i, nullptr));
-            const QString name = QString::fromUtf8(bytes);
-            if (isQueueName(name) && name.toUtf8() == bytes)
-                names.append(name);
-        }
-        return names;
-    }
-
-    /// The value of an integer or enumeration; `otherwise` when there is none.
-    int number(const char *name, int otherwise, int index = 0) const
-    {
-        ipp_attribute_t *attribute = attributes_.value(name);
-        return attribute && index < ippGetCount(attribute) ? ippGetInteger(attribute, index) : otherwise;
-    }
-    bool flag(const char *name, bool otherwise) const
-    {
-        ipp_attribute_t *attribute = attributes_.value(name);
-        return attribute && ippGetValueTag(attribute) == IPP_TAG_BOOLEAN ? ippGetBoolean(attribute, 0) != 0
-                                                                         : otherwise;
-    }
-
-private:
-    QHash<QByteArray, ipp_attribute_t *> attributes_;
-};
 
 constexpr int usualPort = 631;
 /// Further queues are left out: nobody finds a printer among so many.
@@ -96,7 +48,7 @@ Queue::State stateOf(int printerState)
 }
 
 /// Levels beyond 0 to 100 stand for "unknown" and the like (RFC 3805).
-QList<Supply> suppliesOf(const QueueAttributes &attributes)
+QList<Supply> suppliesOf(const AnswerAttributes &attributes)
 {
     constexpr int defaultLowLevel = 10;
     constexpr qsizetype most = 16;
@@ -120,7 +72,7 @@ QList<Supply> suppliesOf(const QueueAttributes &attributes)
     return supplies;
 }
 
-Queue queueOf(const QueueAttributes &attributes)
+Queue queueOf(const AnswerAttributes &attributes)
 {
     Queue queue;
     queue.name = attributes.names("printer-name").value(0);
@@ -147,7 +99,7 @@ QList<Queue> queuesIn(ipp_t *answer)
 {
     QList<Queue> queues;
     QSet<QString> names;
-    QueueAttributes attributes;
+    AnswerAttributes attributes;
     const auto take = [&] {
         const Queue queue = queueOf(std::exchange(attributes, {}));
         // A queue named like the built-in printer could not be requested by name.

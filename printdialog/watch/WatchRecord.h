@@ -74,7 +74,7 @@ public:
     const PhotoRecord *find(const PhotoIdentity &photo) const;
 
     std::optional<Failure<RecordFault>> add(const PhotoIdentity &photo, PhotoRecord record);
-    /// The photo was not printed after all, or is no longer in the folder: when it arrives again, it is new.
+    /// The photo was not printed after all, or has left the folder: when it arrives again, it is new.
     std::optional<Failure<RecordFault>> forget(const PhotoIdentity &photo);
 
 private:

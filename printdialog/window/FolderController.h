@@ -35,7 +35,7 @@ public:
 
     /// Another printer ends it. The session must outlive this or the next call; null: none.
     void setSession(DialogSession *session);
-    /// Starts with the session's choices, unless there is no job: the window says why.
+    /// Starts with the session's choices. When they make no job, the window says why.
     /// @param output where the built-in printer leaves its files
     void start(int copies, const QString &output, const Queue &queue);
     void stop();

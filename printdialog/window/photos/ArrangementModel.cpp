@@ -90,7 +90,7 @@ void ArrangementModel::selectSome()
     }
 }
 
-// One pass beside the kept arrangement; a photo that only went away is no loss.
+// One pass beside the kept arrangement; a photo that was only removed does not count.
 bool ArrangementModel::hasUnkeptWork() const
 {
     const QList<PlacedPhoto> &kept = kept_.photos;

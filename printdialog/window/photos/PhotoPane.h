@@ -86,7 +86,7 @@ public:
     /// Accepts the damaged photos: they are printed as they are.
     void acceptDamagedPhotos();
 
-    /// Which photo lies on which sheet; without sheets as long as there is no page.
+    /// Which photo lies on which sheet; without sheets until a page is set.
     const SheetPlan &plan() const { return plan_; }
     /// Why the photos cannot be printed as they are wanted: a sentence; empty when they can.
     QString whyNotPrintable() const;
