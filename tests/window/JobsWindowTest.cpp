@@ -38,7 +38,10 @@ private Q_SLOTS:
         const Opened opened;
         QTRY_COMPARE(opened.states(), u"other: held|a photo.jpg: held"_s);
         QCOMPARE(opened.cell(waiting, 1), u"odd"_s);
-        QCOMPARE(opened.cell(waiting, 3), QLocale().toString(QTime::currentTime(), QLocale::ShortFormat));
+        // The C locale's times have seconds, and the list takes some to come.
+        const QTime since = QLocale().toTime(opened.cell(waiting, 3), QLocale::ShortFormat);
+        QVERIFY2(since.isValid() && since.secsTo(QTime::currentTime()) < 60,
+                 qPrintable(opened.cell(waiting, 3)));
         for (const auto &name : {u"cancelJobs"_s, u"holdJobs"_s, u"releaseJobs"_s, u"printJobsAgain"_s})
             QVERIFY(!opened.button(name)->isEnabled() && !opened.button(name)->toolTip().isEmpty());
 
