@@ -1,0 +1,72 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include <QtCore/QList>
+#include <QtCore/QString>
+
+#include <optional>
+
+namespace printdialog {
+
+/// Pages by their numbers, from 1 on, as people write them: "1-3,7,12-". A value; the default has none.
+class PageRanges
+{
+public:
+    /// Of one range; the last page is at least the first.
+    struct Range
+    {
+        int first;
+        int last; ///< largestNumber: to the end.
+
+        bool operator==(const Range &) const = default;
+    };
+
+    static constexpr int largestNumber = 1'000'000;
+    static constexpr qsizetype mostRanges = 1000;
+
+    /// Ranges in any order, with spaces, and "–" for "-"; a number left out is the first or the last page.
+    /// Nothing for any other text, for the number 0 and for "3-1".
+    static std::optional<PageRanges> fromText(const QString &text);
+    /// The ranges, which may overlap and touch. Nothing when one of them is impossible.
+    static std::optional<PageRanges> of(const QList<Range> &ranges);
+
+    /// Ascending, and apart from each other (RFC 8011, 5.2.7).
+    const QList<Range> &ranges() const { return ranges_; }
+    /// Such as "1-3,7,12-"; read by fromText() and by lp(1).
+    QString toText() const;
+    bool contains(int number) const;
+    bool isEmpty() const { return ranges_.isEmpty(); }
+
+    bool operator==(const PageRanges &) const = default;
+
+private:
+    QList<Range> ranges_;
+};
+
+/// Which pages of a document are printed, and in which order. A value; the default is all of them.
+struct PageChoice
+{
+    enum class Which {
+        All,
+        Current,  ///< The one that is shown.
+        Selected, ///< What is selected in the program that prints; only it knows that.
+        Ranges,
+    };
+    enum class Set { All, Odd, Even };
+
+    Which which = Which::All;
+    PageRanges ranges = {};  ///< With Which::Ranges.
+    Set set = Set::All;      ///< Only pages with such numbers.
+    bool isReversed = false; ///< The last one first.
+
+    /// The pages of a document of `count` pages in the order in which they are printed, from 0 on. Those of
+    /// ranges beyond its end are left out.
+    /// @param current from 0 on
+    QList<int> pages(int count, int current) const;
+
+    bool operator==(const PageChoice &) const = default;
+};
+
+} // namespace printdialog
