@@ -339,12 +339,20 @@ private Q_SLOTS:
         QVERIFY(!ppd && ppd.failure().reason == PpdFault::NotTried);
     }
 
+    void sandboxLeavesNoWayOut_data()
+    {
+        QTest::addColumn<QString>("with");
+        for (const char *with : {"opening", "output"})
+            QTest::newRow(with) << QString::fromLatin1(with);
+    }
+
     void sandboxLeavesNoWayOut()
     {
+        QFETCH(QString, with);
         const QTemporaryDir folder;
         QProcess probe;
         probe.setStandardInputFile(u"/dev/zero"_s);
-        probe.start(QStringLiteral(SANDBOX_PROBE), {folder.filePath(u"written"_s)});
+        probe.start(QStringLiteral(SANDBOX_PROBE), {folder.filePath(u"written"_s), with});
         QVERIFY(probe.waitForFinished());
         QCOMPARE(probe.exitStatus(), QProcess::NormalExit);
         QCOMPARE(probe.exitCode(), 0);

@@ -1,24 +1,38 @@
 // SPDX-FileCopyrightText: Corvel print dialog authors
 // SPDX-License-Identifier: Apache-2.0
 //
-// Enters the sandbox and tries what is forbidden in it. Exit status: 0 when nothing of it works and reading
-// does; else the number of the first thing that went wrong.
+// sandboxProbe FILE WITH: enters the sandbox with "opening" or with "output", the right to write to descriptor 3,
+// and tries what is forbidden in it. Exit status: 0 when nothing of it works and what is allowed does; else the
+// number of the first thing that went wrong.
 
 #include "Sandbox.h"
 
 #include <csignal>
 #include <cstdlib>
 #include <fcntl.h>
+#include <string_view>
+#include <sys/mman.h>
 #include <sys/resource.h>
 #include <sys/socket.h>
 #include <unistd.h>
 
 int main(int argc, char *argv[])
 {
-    if (argc != 2 || !printdialog::enterSandbox())
+    if (argc != 3)
+        _exit(1);
+    constexpr int output = 3;
+    const bool canOpen = std::string_view(argv[2]) == "opening";
+    printdialog::SandboxRights rights = {.memory = std::uint64_t(1) << 30, .processorTime = 5};
+    rights.canOpenFiles = canOpen;
+    if (!canOpen) {
+        rights.writable = {output};
+        rights.largestOutput = 2;
+    }
+    if (dup2(memfd_create("output", 0), output) != output || !printdialog::enterSandbox(rights))
         _exit(1);
     char byte = 0;
-    if (open("/dev/null", O_RDONLY) < 0 || read(STDIN_FILENO, &byte, 1) != 1)
+    if (canOpen != (open("/dev/null", O_RDONLY) >= 0) || canOpen != (access("/", F_OK) == 0) ||
+        read(STDIN_FILENO, &byte, 1) != 1 || canOpen != (write(output, "12", 2) != 2))
         _exit(2);
     // cppcheck-suppress leakReturnValNotUsed
     if (open(argv[1], O_WRONLY | O_CREAT, 0600) >= 0 || open(argv[1], O_RDWR | O_CREAT, 0600) >= 0 ||
@@ -35,6 +49,9 @@ int main(int argc, char *argv[])
     if (unlink(argv[1]) == 0 || kill(getppid(), 0) == 0 || tgkill(getppid(), getppid(), 0) == 0 ||
         fcntl(STDIN_FILENO, F_SETOWN, getppid()) == 0 || tgkill(getpid(), gettid(), 0) != 0)
         _exit(7);
+    std::signal(SIGXFSZ, SIG_IGN);
+    if (write(output, &byte, 1) >= 0)
+        _exit(10);
     rlimit limit = {};
     limit.rlim_cur = limit.rlim_max = RLIM_INFINITY;
     if (setrlimit(RLIMIT_AS, &limit) == 0)

@@ -19,7 +19,10 @@ int main()
     std::setlocale(LC_ALL, "");
     cupsLangDefault();
     cupsServer();
-    if (!printdialog::enterSandbox())
+    constexpr std::uint64_t memory = std::uint64_t(1) << 30; // a PPD at the limits takes less than a third
+    constexpr unsigned processorTime = 5;
+    // The C library opens files with character sets.
+    if (!printdialog::enterSandbox({.memory = memory, .processorTime = processorTime, .canOpenFiles = true}))
         _exit(2);
     printdialog::tryPpd(STDIN_FILENO);
     _exit(0); // skips exit handlers, which the sandbox would not allow to run
