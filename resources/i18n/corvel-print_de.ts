@@ -2647,6 +2647,89 @@ Skript jedes Mal dasselbe erhält</translation>
     </message>
 </context>
 <context>
+    <name>printdialog::Document</name>
+    <message>
+        <source>There is no document &quot;%1&quot;. Check its name and folder.</source>
+        <translation>Es gibt kein Dokument „%1“. Prüfen Sie Namen und Ordner.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has no pages. Save it again in the program that it comes from.</source>
+        <translation>„%1“ hat keine Seiten. Speichern Sie das Dokument noch einmal in dem Programm, aus dem es stammt.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a PDF document. Save it as PDF in the program that it comes from.</source>
+        <translation>„%1“ ist kein PDF-Dokument. Speichern Sie es in dem Programm, aus dem es stammt, als PDF.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is protected by a password. Enter the password.</source>
+        <translation>„%1“ ist durch ein Kennwort geschützt. Geben Sie das Kennwort ein.</translation>
+    </message>
+    <message>
+        <source>The password does not open &quot;%1&quot;. Check it and enter it again.</source>
+        <translation>Das Kennwort öffnet „%1“ nicht. Prüfen Sie es und geben Sie es noch einmal ein.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; takes too much time or memory to read. Print it in parts, or save it again in the program that it comes from.</source>
+        <translation>„%1“ zu lesen kostet zu viel Zeit oder Speicher. Drucken Sie das Dokument in Teilen, oder speichern Sie es noch einmal in dem Programm, aus dem es stammt.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has changed since it was opened. Add it again.</source>
+        <translation>„%1“ wurde seit dem Öffnen verändert. Fügen Sie das Dokument noch einmal hinzu.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is damaged and cannot be repaired. Get it again from where it came from.</source>
+        <translation>„%1“ ist beschädigt und lässt sich nicht reparieren. Holen Sie das Dokument noch einmal von dort, wo es herkam.</translation>
+    </message>
+    <message>
+        <source>You may not read &quot;%1&quot;. Ask its owner for the permission to read it.</source>
+        <translation>Sie dürfen „%1“ nicht lesen. Bitten Sie den Besitzer um das Recht dazu.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; could not be read: %2. Check the disk that it is on.</source>
+        <translation>„%1“ konnte nicht gelesen werden: %2. Prüfen Sie den Datenträger.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a folder. Choose a document inside it.</source>
+        <translation>„%1“ ist ein Ordner. Wählen Sie ein Dokument darin.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a file but a device, a pipe or a socket. Choose a document.</source>
+        <translation>„%1“ ist keine Datei, sondern ein Gerät, eine Pipe oder ein Socket. Wählen Sie ein Dokument.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is too large: %2, where a document may have %3. Save it in parts.</source>
+        <translation>„%1“ ist zu groß: %2, wo ein Dokument %3 haben darf. Speichern Sie es in Teilen.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has more than %L2 pages. Save it in parts.</source>
+        <translation>„%1“ hat mehr als %L2 Seiten. Speichern Sie das Dokument in Teilen.</translation>
+    </message>
+    <message>
+        <source>Page %L1 of &quot;%2&quot; takes too much time or memory to show. It can be printed all the same.</source>
+        <translation>Seite %L1 von „%2“ zu zeigen kostet zu viel Zeit oder Speicher. Sie kann trotzdem gedruckt werden.</translation>
+    </message>
+    <message>
+        <source>Page %L1 of &quot;%2&quot; cannot be shown, since it is damaged. Look at it closely when it is printed.</source>
+        <translation>Seite %L1 von „%2“ kann nicht gezeigt werden, da sie beschädigt ist. Sehen Sie sie sich nach dem Druck genau an.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not used, since it could not be read safely: %2. Install corvel-print again.</source>
+        <translation>„%1“ wird nicht verwendet, da es nicht sicher gelesen werden konnte: %2. Installieren Sie corvel-print neu.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be run: %2</source>
+        <translation>„%1“ lässt sich nicht starten: %2</translation>
+    </message>
+    <message>
+        <source>the system offers no sandbox</source>
+        <translation>das System bietet keine abgeschottete Umgebung</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; ends with status %2</source>
+        <translation>„%1“ endet mit Status %2</translation>
+    </message>
+</context>
+<context>
     <name>printdialog::FileName</name>
     <message>
         <source>&quot;%1&quot; cannot be used: its name is not encoded in UTF-8. Rename it.</source>

@@ -2646,6 +2646,89 @@ obtenga siempre lo mismo</translation>
     </message>
 </context>
 <context>
+    <name>printdialog::Document</name>
+    <message>
+        <source>There is no document &quot;%1&quot;. Check its name and folder.</source>
+        <translation>No existe ningún documento «%1». Compruebe el nombre y la carpeta.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has no pages. Save it again in the program that it comes from.</source>
+        <translation>«%1» no tiene páginas. Guárdelo de nuevo en el programa del que procede.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a PDF document. Save it as PDF in the program that it comes from.</source>
+        <translation>«%1» no es un documento PDF. Guárdelo como PDF en el programa del que procede.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is protected by a password. Enter the password.</source>
+        <translation>«%1» está protegido con una contraseña. Introduzca la contraseña.</translation>
+    </message>
+    <message>
+        <source>The password does not open &quot;%1&quot;. Check it and enter it again.</source>
+        <translation>La contraseña no abre «%1». Compruébela e introdúzcala de nuevo.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; takes too much time or memory to read. Print it in parts, or save it again in the program that it comes from.</source>
+        <translation>Leer «%1» requiere demasiado tiempo o memoria. Imprímalo por partes o guárdelo de nuevo en el programa del que procede.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has changed since it was opened. Add it again.</source>
+        <translation>«%1» ha cambiado desde que se abrió. Añádalo de nuevo.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is damaged and cannot be repaired. Get it again from where it came from.</source>
+        <translation>«%1» está dañado y no se puede reparar. Obténgalo de nuevo de donde procede.</translation>
+    </message>
+    <message>
+        <source>You may not read &quot;%1&quot;. Ask its owner for the permission to read it.</source>
+        <translation>No tiene permiso para leer «%1». Pídaselo a su propietario.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; could not be read: %2. Check the disk that it is on.</source>
+        <translation>No se ha podido leer «%1»: %2. Compruebe el disco en el que está.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a folder. Choose a document inside it.</source>
+        <translation>«%1» es una carpeta. Elija un documento que esté en ella.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a file but a device, a pipe or a socket. Choose a document.</source>
+        <translation>«%1» no es un archivo, sino un dispositivo, una tubería o un socket. Elija un documento.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is too large: %2, where a document may have %3. Save it in parts.</source>
+        <translation>«%1» es demasiado grande: %2, y un documento puede tener %3. Guárdelo por partes.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has more than %L2 pages. Save it in parts.</source>
+        <translation>«%1» tiene más de %L2 páginas. Guárdelo por partes.</translation>
+    </message>
+    <message>
+        <source>Page %L1 of &quot;%2&quot; takes too much time or memory to show. It can be printed all the same.</source>
+        <translation>Mostrar la página %L1 de «%2» requiere demasiado tiempo o memoria. Aun así se puede imprimir.</translation>
+    </message>
+    <message>
+        <source>Page %L1 of &quot;%2&quot; cannot be shown, since it is damaged. Look at it closely when it is printed.</source>
+        <translation>La página %L1 de «%2» no se puede mostrar porque está dañada. Revísela bien una vez impresa.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not used, since it could not be read safely: %2. Install corvel-print again.</source>
+        <translation>«%1» no se usa porque no se ha podido leer de forma segura: %2. Instale corvel-print de nuevo.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be run: %2</source>
+        <translation>no se puede ejecutar «%1»: %2</translation>
+    </message>
+    <message>
+        <source>the system offers no sandbox</source>
+        <translation>el sistema no ofrece un entorno aislado</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; ends with status %2</source>
+        <translation>«%1» termina con el código %2</translation>
+    </message>
+</context>
+<context>
     <name>printdialog::FileName</name>
     <message>
         <source>&quot;%1&quot; cannot be used: its name is not encoded in UTF-8. Rename it.</source>

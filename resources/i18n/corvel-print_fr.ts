@@ -2647,6 +2647,89 @@ qu’un script obtienne chaque fois la même chose</translation>
     </message>
 </context>
 <context>
+    <name>printdialog::Document</name>
+    <message>
+        <source>There is no document &quot;%1&quot;. Check its name and folder.</source>
+        <translation>Il n’existe pas de document « %1 ». Vérifiez son nom et son dossier.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has no pages. Save it again in the program that it comes from.</source>
+        <translation>« %1 » n’a aucune page. Enregistrez-le à nouveau dans le programme dont il provient.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a PDF document. Save it as PDF in the program that it comes from.</source>
+        <translation>« %1 » n’est pas un document PDF. Enregistrez-le en PDF dans le programme dont il provient.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is protected by a password. Enter the password.</source>
+        <translation>« %1 » est protégé par un mot de passe. Saisissez le mot de passe.</translation>
+    </message>
+    <message>
+        <source>The password does not open &quot;%1&quot;. Check it and enter it again.</source>
+        <translation>Le mot de passe n’ouvre pas « %1 ». Vérifiez-le et saisissez-le à nouveau.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; takes too much time or memory to read. Print it in parts, or save it again in the program that it comes from.</source>
+        <translation>La lecture de « %1 » demande trop de temps ou de mémoire. Imprimez-le par parties ou enregistrez-le à nouveau dans le programme dont il provient.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has changed since it was opened. Add it again.</source>
+        <translation>« %1 » a été modifié depuis son ouverture. Ajoutez-le à nouveau.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is damaged and cannot be repaired. Get it again from where it came from.</source>
+        <translation>« %1 » est endommagé et ne peut pas être réparé. Récupérez-le à nouveau à sa source.</translation>
+    </message>
+    <message>
+        <source>You may not read &quot;%1&quot;. Ask its owner for the permission to read it.</source>
+        <translation>Vous n’avez pas le droit de lire « %1 ». Demandez-en l’autorisation à son propriétaire.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; could not be read: %2. Check the disk that it is on.</source>
+        <translation>« %1 » n’a pas pu être lu : %2. Vérifiez le disque où il se trouve.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a folder. Choose a document inside it.</source>
+        <translation>« %1 » est un dossier. Choisissez un document qu’il contient.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a file but a device, a pipe or a socket. Choose a document.</source>
+        <translation>« %1 » n’est pas un fichier mais un périphérique, un tube ou un socket. Choisissez un document.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is too large: %2, where a document may have %3. Save it in parts.</source>
+        <translation>« %1 » est trop volumineux : %2, alors qu’un document peut faire %3. Enregistrez-le en plusieurs parties.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has more than %L2 pages. Save it in parts.</source>
+        <translation>« %1 » a plus de %L2 pages. Enregistrez-le en plusieurs parties.</translation>
+    </message>
+    <message>
+        <source>Page %L1 of &quot;%2&quot; takes too much time or memory to show. It can be printed all the same.</source>
+        <translation>L’affichage de la page %L1 de « %2 » demande trop de temps ou de mémoire. Elle peut être imprimée malgré tout.</translation>
+    </message>
+    <message>
+        <source>Page %L1 of &quot;%2&quot; cannot be shown, since it is damaged. Look at it closely when it is printed.</source>
+        <translation>La page %L1 de « %2 » ne peut pas être affichée, car elle est endommagée. Examinez-la bien une fois imprimée.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not used, since it could not be read safely: %2. Install corvel-print again.</source>
+        <translation>« %1 » n’est pas utilisé, car il n’a pas pu être lu sans risque : %2. Réinstallez corvel-print.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be run: %2</source>
+        <translation>impossible de lancer « %1 » : %2</translation>
+    </message>
+    <message>
+        <source>the system offers no sandbox</source>
+        <translation>le système n’offre pas d’environnement isolé</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; ends with status %2</source>
+        <translation>« %1 » se termine avec le code %2</translation>
+    </message>
+</context>
+<context>
     <name>printdialog::FileName</name>
     <message>
         <source>&quot;%1&quot; cannot be used: its name is not encoded in UTF-8. Rename it.</source>

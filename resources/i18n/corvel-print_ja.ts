@@ -2641,6 +2641,89 @@ each time</source>
     </message>
 </context>
 <context>
+    <name>printdialog::Document</name>
+    <message>
+        <source>There is no document &quot;%1&quot;. Check its name and folder.</source>
+        <translation>文書「%1」はありません。名前とフォルダーを確認してください。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has no pages. Save it again in the program that it comes from.</source>
+        <translation>「%1」にはページがありません。作成元のプログラムで保存し直してください。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a PDF document. Save it as PDF in the program that it comes from.</source>
+        <translation>「%1」は PDF 文書ではありません。作成元のプログラムで PDF として保存してください。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is protected by a password. Enter the password.</source>
+        <translation>「%1」はパスワードで保護されています。パスワードを入力してください。</translation>
+    </message>
+    <message>
+        <source>The password does not open &quot;%1&quot;. Check it and enter it again.</source>
+        <translation>このパスワードでは「%1」を開けません。確認して入力し直してください。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; takes too much time or memory to read. Print it in parts, or save it again in the program that it comes from.</source>
+        <translation>「%1」の読み込みには時間またはメモリがかかりすぎます。分けて印刷するか、作成元のプログラムで保存し直してください。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has changed since it was opened. Add it again.</source>
+        <translation>「%1」は開いた後に変更されました。もう一度追加してください。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is damaged and cannot be repaired. Get it again from where it came from.</source>
+        <translation>「%1」は壊れていて修復できません。入手元からもう一度取得してください。</translation>
+    </message>
+    <message>
+        <source>You may not read &quot;%1&quot;. Ask its owner for the permission to read it.</source>
+        <translation>「%1」を読み取る権限がありません。所有者に権限を求めてください。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; could not be read: %2. Check the disk that it is on.</source>
+        <translation>「%1」を読み取れませんでした: %2。保存先のディスクを確認してください。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a folder. Choose a document inside it.</source>
+        <translation>「%1」はフォルダーです。その中の文書を選んでください。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a file but a device, a pipe or a socket. Choose a document.</source>
+        <translation>「%1」はファイルではなく、デバイス、パイプ、またはソケットです。文書を選んでください。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is too large: %2, where a document may have %3. Save it in parts.</source>
+        <translation>「%1」は大きすぎます: %2 です。文書の上限は %3 です。分けて保存してください。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has more than %L2 pages. Save it in parts.</source>
+        <translation>「%1」のページ数は %L2 を超えています。分けて保存してください。</translation>
+    </message>
+    <message>
+        <source>Page %L1 of &quot;%2&quot; takes too much time or memory to show. It can be printed all the same.</source>
+        <translation>「%2」の %L1 ページの表示には時間またはメモリがかかりすぎます。印刷はできます。</translation>
+    </message>
+    <message>
+        <source>Page %L1 of &quot;%2&quot; cannot be shown, since it is damaged. Look at it closely when it is printed.</source>
+        <translation>「%2」の %L1 ページは壊れているため表示できません。印刷されたページをよく確認してください。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not used, since it could not be read safely: %2. Install corvel-print again.</source>
+        <translation>「%1」は安全に読み取れなかったため使用しません: %2。corvel-print をインストールし直してください。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be run: %2</source>
+        <translation>「%1」を実行できません: %2</translation>
+    </message>
+    <message>
+        <source>the system offers no sandbox</source>
+        <translation>システムに隔離環境がありません</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; ends with status %2</source>
+        <translation>「%1」がステータス %2 で終了しました</translation>
+    </message>
+</context>
+<context>
     <name>printdialog::FileName</name>
     <message>
         <source>&quot;%1&quot; cannot be used: its name is not encoded in UTF-8. Rename it.</source>

@@ -1,0 +1,63 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "OptionalContent.h"
+
+namespace printdialog {
+
+namespace {
+
+/// The groups of an array, in the other document.
+void copyGroups(QPDFObjectHandle from, QPDFObjectHandle to, QPDF &other)
+{
+    if (!from.isArray())
+        return;
+    for (QPDFObjectHandle group : from.getArrayAsVector()) {
+        if (group.isIndirect() && group.isDictionary())
+            to.appendItem(other.copyForeignObject(group));
+    }
+}
+
+QPDFObjectHandle arrayIn(QPDFObjectHandle dictionary, const std::string &key)
+{
+    if (!dictionary.getKey(key).isArray())
+        dictionary.replaceKey(key, QPDFObjectHandle::newArray());
+    return dictionary.getKey(key);
+}
+
+} // namespace
+
+void addOptionalContent(QPDF &from, QPDF &to)
+{
+    QPDFObjectHandle source = from.getRoot().getKey("/OCProperties");
+    if (!source.isDictionary() || !source.getKey("/OCGs").isArray())
+        return;
+    QPDFObjectHandle root = to.getRoot();
+    if (!root.hasKey("/OCProperties"))
+        root.replaceKey("/OCProperties",
+                        QPDFObjectHandle::parse("<< /OCGs [] /D << /ON [] /OFF [] /AS [] >> >>"));
+    QPDFObjectHandle made = root.getKey("/OCProperties");
+    QPDFObjectHandle configuration = source.getKey("/D");
+    QPDFObjectHandle madeConfiguration = made.getKey("/D");
+    copyGroups(source.getKey("/OCGs"), made.getKey("/OCGs"), to);
+    if (!configuration.isDictionary())
+        return;
+    // Where all are off at first, that is said of each of them.
+    const bool areOff = configuration.getKey("/BaseState").isNameAndEquals("/OFF");
+    copyGroups(areOff ? source.getKey("/OCGs") : configuration.getKey("/OFF"),
+               arrayIn(madeConfiguration, "/OFF"), to);
+    copyGroups(configuration.getKey("/ON"), arrayIn(madeConfiguration, "/ON"), to);
+    if (!configuration.getKey("/AS").isArray())
+        return;
+    for (QPDFObjectHandle usage : configuration.getKey("/AS").getArrayAsVector()) {
+        if (!usage.isDictionary() || !usage.getKey("/Event").isNameAndEquals("/Print"))
+            continue;
+        QPDFObjectHandle copied = QPDFObjectHandle::parse("<< /Event /Print /OCGs [] >>");
+        copyGroups(usage.getKey("/OCGs"), copied.getKey("/OCGs"), to);
+        if (usage.getKey("/Category").isArray())
+            copied.replaceKey("/Category", QPDFObjectHandle::parse("[ /Print ]"));
+        madeConfiguration.getKey("/AS").appendItem(copied);
+    }
+}
+
+} // namespace printdialog
