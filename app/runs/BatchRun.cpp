@@ -64,12 +64,11 @@ int BatchRun::showPlan(const Arrangement &arrangement, const PrintJob &job, cons
     PrintedNames names(job.folder);
     QJsonArray array;
     QStringList lines;
-    const qsizetype count = sheets.sheets().size();
-    for (qsizetype i = 0; i < count; ++i) {
-        const PrintSheet sheet = arrangement.sheet(sheets.sheets().at(i));
-        const auto plan = JobPlan::make(sheet, job, uri, names, {i + 1, count});
+    for (const Arrangement::SheetRange &range : arrangement.jobs(sheets)) {
+        const JobSheets printed = arrangement.jobSheets(sheets, range);
+        const auto plan = JobPlan::make(printed, job, uri, names, {range.first + 1, sheets.sheets().size()});
         if (!plan && plan.failure().reason.isPhotoFault) {
-            skipped(PrintRun::leftOutText(sheet, plan.failure().text));
+            skipped(PrintRun::leftOutText(printed, plan.failure().text));
             continue;
         }
         if (!plan)
@@ -95,8 +94,9 @@ int BatchRun::printAll(const Arrangement &arrangement, const PrintJob &job)
     if (commandLine_.wait)
         limits.total = *commandLine_.wait;
     PrintRun run(job, *this, {interrupt_.flag(), nullptr, interrupt_.flag()}, limits);
-    const PrintOutcome outcome = run.print(
-        plan.sheets().size(), [&](qsizetype index) { return arrangement.sheet(plan.sheets().at(index)); });
+    const QList<Arrangement::SheetRange> jobs = arrangement.jobs(plan);
+    const PrintOutcome outcome =
+        run.print(jobs.size(), [&](qsizetype index) { return arrangement.jobSheets(plan, jobs.at(index)); });
     progress_.clear();
     return conclude(outcome, !job.destination.isBuiltIn());
 }

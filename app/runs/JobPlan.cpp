@@ -12,6 +12,7 @@
 #include <QtCore/QDir>
 
 #include <cmath>
+#include <utility>
 
 namespace printdialog {
 
@@ -26,27 +27,27 @@ QString placeText(const PhotoPlacement &placement, const PageGeometry &page)
 
 } // namespace
 
-Result<JobPlan, SheetPrinter::Fault> JobPlan::make(const PrintSheet &sheet, const PrintJob &job,
+Result<JobPlan, SheetPrinter::Fault> JobPlan::make(const JobSheets &sheets, const PrintJob &job,
                                                    const QString &uri, PrintedNames &names,
                                                    const Number &number)
 {
-    JobPlan plan(sheet, job, uri, number);
-    plan.job_.copies *= sheet.copies;
+    JobPlan plan(sheets, job, uri, number);
+    plan.job_.copies *= sheets.copies;
     if (job.destination.isBuiltIn()) {
-        if (const auto damage = PhotoCheck(sheet.photosToCheck()).wait())
+        if (const auto damage = PhotoCheck(sheets.photosToCheck()).wait())
             return Failure<SheetPrinter::Fault>{{std::nullopt, true}, damage->text, damage->detail};
         const auto &document = job.folder.document;
-        const QString name = names.nameFor(document ? *document + PrintedNames::pageSuffix
-                                                    : sheet.photos.constFirst().photo.path());
+        const QString name =
+            names.nameFor(document ? *document + PrintedNames::pageSuffix : sheets.firstPhoto().path());
         if (!document)
             names.markTaken(name);
         for (const QLatin1String suffix : {PrintedNames::pageSuffix, PrintedNames::ticketSuffix})
             plan.files_.append(QDir(names.folder().path).absoluteFilePath(name + suffix));
         return plan;
     }
-    if (const auto failure = SheetPrinter::whyTooMany(sheet, job))
+    if (const auto failure = SheetPrinter::whyTooMany(sheets, job))
         return *failure;
-    const auto document = SheetPrinter::documentOf(sheet, job);
+    const auto document = SheetPrinter::documentOf(sheets, job);
     if (!document)
         return document.failure();
     plan.document_ = *document;
@@ -72,20 +73,60 @@ QJsonArray JobPlan::photosJson() const
         return std::round(points / pointsPerMillimeter * precision) / precision;
     };
     QJsonArray photos;
-    for (const SheetPhoto &laid : sheet_.photos) {
-        const PhotoPlacement &placement = laid.placement;
-        const QRectF print = placement.outline & job_.page.printed();
-        photos +=
-            QJsonObject{{QStringLiteral("file"), laid.photo.path()},
-                        {QStringLiteral("left"), millimeters(print.left())},
-                        {QStringLiteral("top"), millimeters(print.top())},
-                        {QStringLiteral("width"), millimeters(print.width())},
-                        {QStringLiteral("height"), millimeters(print.height())},
-                        {QStringLiteral("turns"), placement.quarterTurns},
-                        {QStringLiteral("pixelsPerInch"), std::round(laid.pixelsPerInch())},
-                        {QStringLiteral("cutOff"), std::round(placement.cutOff(job_.page) * 1000) / 1000}};
+    for (qsizetype sheet = 0; sheet < sheets_.sheets.size(); ++sheet) {
+        for (const SheetPhoto &laid : sheets_.sheets.at(sheet).photos) {
+            const PhotoPlacement &placement = laid.placement;
+            const QRectF print = placement.outline & job_.page.printed();
+            QJsonObject photo{
+                {QStringLiteral("file"), laid.photo.path()},
+                {QStringLiteral("left"), millimeters(print.left())},
+                {QStringLiteral("top"), millimeters(print.top())},
+                {QStringLiteral("width"), millimeters(print.width())},
+                {QStringLiteral("height"), millimeters(print.height())},
+                {QStringLiteral("turns"), placement.quarterTurns},
+                {QStringLiteral("cutOff"), std::round(placement.cutOff(job_.page) * 1000) / 1000}};
+            if (laid.photo.document()) {
+                photo.insert(QStringLiteral("page"), laid.photo.page() + 1);
+                photo.insert(QStringLiteral("sheet"), number_.sheet + sheet);
+            } else {
+                photo.insert(QStringLiteral("pixelsPerInch"), std::round(laid.pixelsPerInch()));
+            }
+            photos += photo;
+        }
     }
     return photos;
+}
+
+QStringList JobPlan::photoLines() const
+{
+    QStringList lines;
+    QList<PageRanges::Range> pages; // of the document that the last lines are about
+    const auto endPages = [&] {
+        if (const auto ranges = PageRanges::of(std::exchange(pages, {})))
+            lines += tr("Pages: %1").arg(ranges->toText());
+    };
+    const Document *last = nullptr;
+    for (const PrintSheet &sheet : sheets_.sheets) {
+        for (const SheetPhoto &laid : sheet.photos) {
+            const Document *document = laid.photo.document();
+            if (document && last && last->identity() == document->identity()) {
+                pages += PageRanges::Range{laid.photo.page() + 1, laid.photo.page() + 1};
+                continue;
+            }
+            endPages();
+            last = document;
+            if (document) {
+                lines += tr("Document: %1").arg(laid.photo.path());
+                pages += PageRanges::Range{laid.photo.page() + 1, laid.photo.page() + 1};
+                continue;
+            }
+            lines += QStringLiteral("%1: %2").arg(tr("Photo"), laid.photo.path());
+            if (!job_.isRaw())
+                lines += QStringLiteral("%1: %2").arg(tr("Place"), placeText(laid.placement, job_.page));
+        }
+    }
+    endPages();
+    return lines;
 }
 
 QStringList JobPlan::lines() const
@@ -95,13 +136,13 @@ QStringList JobPlan::lines() const
         lines.append(QStringLiteral("%1: %2").arg(label, value));
     };
     add(tr("Printer"), job_.destination.id());
-    if (number_.of > 1)
+    const qsizetype count = sheets_.sheets.size();
+    if (count > 1)
+        add(tr("Sheets"),
+            tr("%1 to %2 of %3").arg(number_.sheet).arg(number_.sheet + count - 1).arg(number_.of));
+    else if (number_.of > 1)
         add(tr("Sheet"), tr("%1 of %2").arg(number_.sheet).arg(number_.of));
-    for (const SheetPhoto &laid : sheet_.photos) {
-        add(tr("Photo"), laid.photo.path());
-        if (!job_.isRaw())
-            add(tr("Place"), placeText(laid.placement, job_.page));
-    }
+    lines += photoLines();
     if (job_.destination.isBuiltIn()) {
         for (const QString &file : files_)
             add(tr("File"), file);
@@ -127,7 +168,7 @@ QJsonObject JobPlan::json() const
     for (auto option = job_.options.cbegin(); option != job_.options.cend(); ++option)
         options.insert(option.key(), option.value());
     QJsonObject object = {{QStringLiteral("queue"), job_.destination.id()},
-                          {QStringLiteral("document"), sheet_.photos.constFirst().photo.path()},
+                          {QStringLiteral("document"), sheets_.firstPhoto().path()},
                           {QStringLiteral("sheet"), number_.sheet},
                           {QStringLiteral("sheets"), number_.of},
                           {QStringLiteral("copies"), job_.copies},

@@ -17,7 +17,7 @@ class JobPlan
     Q_DECLARE_TR_FUNCTIONS(JobPlan)
 
 public:
-    /// Which sheet of how many.
+    /// Which sheet of how many; the first of several.
     struct Number
     {
         qsizetype sheet; ///< from 1
@@ -26,7 +26,7 @@ public:
 
     /// Makes the document without sending it. `uri` is the queue's own address; `names` chooses the names of
     /// the built-in printer's files.
-    static Result<JobPlan, SheetPrinter::Fault> make(const PrintSheet &sheet, const PrintJob &job,
+    static Result<JobPlan, SheetPrinter::Fault> make(const JobSheets &sheets, const PrintJob &job,
                                                      const QString &uri, PrintedNames &names,
                                                      const Number &number);
 
@@ -34,14 +34,15 @@ public:
     QStringList lines() const;
     /// An object with "queue", "server", "uri", "document", "format", "bytes", "untouched", "title", "copies"
     /// and "options"; for the built-in printer "queue", "files", "document", "copies" and "options". For both
-    /// "sheet" and "sheets" (its number, and how many there are) and "photos", an array of objects with
-    /// "file", the print's "left", "top", "width" and "height" on the page in millimeters, "turns" (quarter
-    /// turns clockwise), "pixelsPerInch" and "cutOff" (the share that is not printed).
+    /// "sheet" and "sheets" (the first one's number, and how many there are) and "photos", an array of
+    /// objects with "file", for a page of a document "page" and "sheet", the print's "left", "top", "width"
+    /// and "height" on the page in millimeters, "turns" (quarter turns clockwise), "pixelsPerInch" and
+    /// "cutOff" (the share that is not printed).
     QJsonObject json() const;
 
 private:
-    JobPlan(const PrintSheet &sheet, const PrintJob &job, const QString &uri, const Number &number)
-        : sheet_(sheet)
+    JobPlan(const JobSheets &sheets, const PrintJob &job, const QString &uri, const Number &number)
+        : sheets_(sheets)
         , number_(number)
         , job_(job)
         , uri_(uri)
@@ -49,8 +50,9 @@ private:
     }
 
     QJsonArray photosJson() const;
+    QStringList photoLines() const;
 
-    PrintSheet sheet_;
+    JobSheets sheets_;
     Number number_;
     PrintJob job_;
     QString uri_;

@@ -9,16 +9,71 @@
 #include <QtCore/QLocale>
 #include <QtCore/QSet>
 
+#include <algorithm>
+
 namespace printdialog {
 
 SheetPlan Arrangement::plan(const PageGeometry &page) const
 {
     QList<LayoutItem> items;
+    QList<qsizetype> indexes;
+    const auto add = [&](PageChoice::Which which) {
+        for (qsizetype i = 0; i < photos.size(); ++i) {
+            const PlacedPhoto &placed = photos.at(i);
+            if (placed.photo.document() && which != PageChoice::Which::All &&
+                !pages.contains(placed.photo.page() + 1))
+                continue;
+            items += LayoutItem::of(placed.photo, placed.placement, placed.copies);
+            indexes += i;
+        }
+    };
     items.reserve(photos.size());
-    for (const PlacedPhoto &placed : photos)
-        items += LayoutItem{placed.photo.orientedSize(), placed.photo.printedResolution(), placed.placement,
-                            placed.copies};
-    return SheetPlan::make(items, layout, page);
+    add(PageChoice::Which::Ranges);
+    std::optional<Failure<LayoutFault>> failure;
+    if (items.isEmpty() && !photos.isEmpty()) {
+        failure = {{LayoutFault::Kind::NoPages, 0},
+                   tr("None of the %1 pages is among those to be printed. Choose other pages.")
+                       .arg(QLocale().toString(photos.size())),
+                   {}};
+        add(PageChoice::Which::All);
+    }
+    SheetPlan plan = SheetPlan::make(items, layout, page);
+    plan.renumber(indexes, failure);
+    if (pages.isReversed)
+        plan.reverse();
+    return plan;
+}
+
+QList<Arrangement::SheetRange> Arrangement::jobs(const SheetPlan &plan) const
+{
+    QList<SheetRange> jobs;
+    bool wasOfPages = false;
+    for (qsizetype i = 0; i < plan.sheets().size(); ++i) {
+        const LaidSheet &sheet = plan.sheets().at(i);
+        const bool isOfPages = std::ranges::any_of(
+            sheet.photos, [this](const LaidPhoto &laid) { return photos.at(laid.item).photo.document(); });
+        if (isOfPages && wasOfPages && plan.sheets().at(i - 1).copies == sheet.copies)
+            ++jobs.last().count;
+        else
+            jobs += SheetRange{i, 1};
+        wasOfPages = isOfPages;
+    }
+    return jobs;
+}
+
+JobSheets Arrangement::jobSheets(const SheetPlan &plan, const SheetRange &range) const
+{
+    JobSheets job;
+    for (const LaidSheet &laid : plan.sheets().mid(range.first, range.count))
+        job.sheets += sheet(laid);
+    job.name = job.sheets.constFirst().name;
+    job.copies = job.sheets.constFirst().copies;
+    return job;
+}
+
+qsizetype Arrangement::pageCount() const
+{
+    return std::ranges::count_if(photos, [](const PlacedPhoto &placed) { return placed.photo.document(); });
 }
 
 PrintSheet Arrangement::sheet(const LaidSheet &laid) const
@@ -33,10 +88,17 @@ PrintSheet Arrangement::sheet(const LaidSheet &laid) const
             sheet.photos.last().caption = captionOf(placed.photo, layout.caption);
     }
     sheet.name = sheet.photos.constFirst().photo.fileName();
+    // The pages of a document count once.
     QSet<qsizetype> items;
-    for (const LaidPhoto &photo : laid.photos)
-        items.insert(photo.item);
-    const qsizetype others = items.size() - 1;
+    QSet<FileIdentity> documents;
+    for (const LaidPhoto &photo : laid.photos) {
+        const Photo &laidPhoto = photos.at(photo.item).photo;
+        if (laidPhoto.document())
+            documents.insert(laidPhoto.identity());
+        else
+            items.insert(photo.item);
+    }
+    const qsizetype others = items.size() + documents.size() - 1;
     if (others > 0)
         sheet.name = tr("%1 and %2 more", "the name of a sheet with several photos")
                          .arg(sheet.name, QString::number(others));
@@ -68,7 +130,7 @@ QList<PlacementChoice> Arrangement::placements() const
 
 Arrangement Arrangement::unplaced() const
 {
-    Arrangement plain{photos, {}};
+    Arrangement plain{photos, {}, pages};
     for (PlacedPhoto &placed : plain.photos)
         placed.placement = {};
     return plain;

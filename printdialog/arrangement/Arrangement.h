@@ -4,6 +4,7 @@
 #pragma once
 
 #include "ArrangementStyle.h"
+#include "PageChoice.h"
 #include "PlacedPhoto.h"
 #include "PrintSheet.h"
 #include "SheetPlan.h"
@@ -13,8 +14,8 @@
 
 namespace printdialog {
 
-/// What is to be printed: the photos in their order, each as it is wanted, and how they share sheets. A
-/// value.
+/// What is to be printed: photos and pages of documents in their order, each as it is wanted, which of the
+/// pages, and how they share sheets. A value.
 struct Arrangement
 {
     Q_DECLARE_TR_FUNCTIONS(printdialog::Arrangement)
@@ -22,11 +23,24 @@ struct Arrangement
 public:
     QList<PlacedPhoto> photos;
     SheetLayout layout = {};
+    PageChoice pages = {};
 
     /// Which photo lies where. The page's printed area is not empty.
     SheetPlan plan(const PageGeometry &page) const;
     /// A sheet of the plan, which was made from this arrangement.
     PrintSheet sheet(const LaidSheet &laid) const;
+    /// Consecutive sheets of a plan that one job prints.
+    struct SheetRange
+    {
+        qsizetype first;
+        qsizetype count;
+    };
+    /// The jobs of the plan, which was made from this arrangement, in their order: each photo's sheet is one,
+    /// and so are consecutive sheets with pages of documents that are printed equally often.
+    QList<SheetRange> jobs(const SheetPlan &plan) const;
+    JobSheets jobSheets(const SheetPlan &plan, const SheetRange &range) const;
+    /// The number of pages of documents, printed or not.
+    qsizetype pageCount() const;
     /// Arranges all photos in the style, each in the middle of its place unless the style names another crop.
     void setStyle(const ArrangementStyle &style);
     /// The absolute paths of the photos, in their order.

@@ -83,6 +83,12 @@ QString layoutText(const SheetLayout &layout)
     case SheetLayout::Kind::Strips:
         parts += Text::tr("Two strips of %1 photos").arg(layout.stripPhotos);
         break;
+    case SheetLayout::Kind::Pages:
+        parts += Text::tr("%1 pages on each side").arg(layout.pagesPerSheet);
+        break;
+    case SheetLayout::Kind::Booklet:
+        parts += Text::tr("Booklet");
+        break;
     }
     if (layout.isRepeated != SheetLayout::usual(layout.kind).isRepeated)
         parts +=

@@ -90,20 +90,11 @@ bool PageRanges::contains(int number) const
         ranges_, [number](const Range &range) { return range.first <= number && number <= range.last; });
 }
 
-QList<int> PageChoice::pages(int count, int current) const
+bool PageChoice::contains(int number) const
 {
-    QList<int> pages;
-    for (int page = 0; page < count; ++page) {
-        const int number = page + 1;
-        const bool isOfSet = set == Set::All || (set == Set::Odd) == (number % 2 != 0);
-        const bool isWanted = which == Which::All || (which == Which::Current && page == current) ||
-                              (which == Which::Ranges && ranges.contains(number));
-        if (isOfSet && isWanted)
-            pages += page;
-    }
-    if (isReversed)
-        std::ranges::reverse(pages);
-    return pages;
+    if (set != Set::All && (set == Set::Odd) != (number % 2 != 0))
+        return false;
+    return which == Which::All || which == Which::Selected || ranges.contains(number);
 }
 
 } // namespace printdialog

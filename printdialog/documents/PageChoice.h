@@ -45,26 +45,25 @@ private:
     QList<Range> ranges_;
 };
 
-/// Which pages of a document are printed, and in which order. A value; the default is all of them.
+/// Which pages of the documents are printed, and in which order. A value; the default is all of them. It
+/// holds for each document of a job by its own numbers.
 struct PageChoice
 {
     enum class Which {
         All,
-        Current,  ///< The one that is shown.
+        Current,  ///< The one that was shown when it was chosen; its number is the ranges'.
         Selected, ///< What is selected in the program that prints; only it knows that.
         Ranges,
     };
     enum class Set { All, Odd, Even };
 
     Which which = Which::All;
-    PageRanges ranges = {};  ///< With Which::Ranges.
+    PageRanges ranges = {};  ///< With Which::Ranges and Which::Current.
     Set set = Set::All;      ///< Only pages with such numbers.
-    bool isReversed = false; ///< The last one first.
+    bool isReversed = false; ///< The last sheet is printed first.
 
-    /// The pages of a document of `count` pages in the order in which they are printed, from 0 on. Those of
-    /// ranges beyond its end are left out.
-    /// @param current from 0 on
-    QList<int> pages(int count, int current) const;
+    /// Whether the page of this number, from 1 on, is printed. What only the program knows, counts as all.
+    bool contains(int number) const;
 
     bool operator==(const PageChoice &) const = default;
 };

@@ -52,7 +52,7 @@ BuiltInDocument::BuiltInDocument(AtomicFiles files, const PrintJob &job, const O
 }
 
 Result<std::unique_ptr<BuiltInDocument>, OutputFault>
-BuiltInDocument::open(const QString &name, const PrintJob &job, const OutputFolder &folder)
+BuiltInDocument::open(const QString &name, const PrintJob &job, const OutputFolder &folder, bool hasPages)
 {
     auto files = AtomicFiles::open(folder.path);
     if (!files)
@@ -65,7 +65,7 @@ BuiltInDocument::open(const QString &name, const PrintJob &job, const OutputFold
     if (!ticket)
         return ticket.failure();
     document->ticketDevice_ = *ticket;
-    document->writer_ = std::make_unique<PdfWriter>(**pdf);
+    document->writer_ = std::make_unique<SheetPdf>(**pdf, hasPages);
     return document;
 }
 

@@ -5,10 +5,10 @@
 
 #include "AtomicFiles.h"
 #include "OutputFault.h"
-#include "PdfWriter.h"
 #include "PrintJob.h"
 #include "PrintSheet.h"
 #include "Result.h"
+#include "SheetPdf.h"
 
 #include <QtCore/QJsonArray>
 #include <QtCore/QString>
@@ -38,8 +38,9 @@ public:
     /// Creates both files, so that an unusable folder or name is detected before the work. A missing folder
     /// is created, with its parents, and removed again unless the document is finished.
     /// @param name the common name of both files, without suffix
+    /// @param hasPages whether pages of documents will lie on the sheets
     static Result<std::unique_ptr<BuiltInDocument>, OutputFault>
-    open(const QString &name, const PrintJob &job, const OutputFolder &folder);
+    open(const QString &name, const PrintJob &job, const OutputFolder &folder, bool hasPages = false);
     Q_DISABLE_COPY_MOVE(BuiltInDocument)
 
     /// Adds a page. A damaged photo that is not accepted is a failure. A sheet
@@ -58,7 +59,7 @@ private:
     PrintJob job_;
     OutputFolder folder_;
     QIODevice *ticketDevice_ = nullptr; ///< of files_
-    std::unique_ptr<PdfWriter> writer_;
+    std::unique_ptr<SheetPdf> writer_;
     QJsonArray sheets_;
 };
 

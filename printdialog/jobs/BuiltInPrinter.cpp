@@ -10,26 +10,28 @@ namespace printdialog {
 namespace {
 
 /// `name` is the common name of both files, without suffix.
-Result<PrintedFiles, OutputFault> printAs(const QString &name, const PrintSheet &sheet, const PrintJob &job,
+Result<PrintedFiles, OutputFault> printAs(const QString &name, const JobSheets &sheets, const PrintJob &job,
                                           const OutputFolder &folder)
 {
-    auto document = BuiltInDocument::open(name, job, folder);
+    auto document = BuiltInDocument::open(name, job, folder, sheets.hasPages());
     if (!document)
         return document.failure();
-    if (const auto failure = (*document)->add(sheet))
-        return *failure;
+    for (const PrintSheet &sheet : sheets.sheets) {
+        if (const auto failure = (*document)->add(sheet))
+            return *failure;
+    }
     return (*document)->finish();
 }
 
 } // namespace
 
-Result<PrintedFiles, OutputFault> BuiltInPrinter::print(const PrintSheet &sheet, const PrintJob &job,
+Result<PrintedFiles, OutputFault> BuiltInPrinter::print(const JobSheets &sheets, const PrintJob &job,
                                                         PrintedNames &names)
 {
     constexpr int mostTries = 100;
     for (int tries = 1;; ++tries) {
-        const QString name = names.nameFor(sheet.photos.constFirst().photo.path());
-        auto files = printAs(name, sheet, job, names.folder());
+        const QString name = names.nameFor(sheets.firstPhoto().path());
+        auto files = printAs(name, sheets, job, names.folder());
         const bool isTaken = !files && files.failure().reason == OutputFault::NameTaken;
         if (files || (isTaken && !names.folder().isOverwritten))
             names.markTaken(name);

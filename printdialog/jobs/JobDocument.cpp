@@ -4,6 +4,7 @@
 #include "JobDocument.h"
 
 #include "PhotoPlacement.h"
+#include "SheetPdf.h"
 
 #include <QtCore/QBuffer>
 
@@ -62,30 +63,50 @@ bool canGoUntouched(const Photo &photo, const PageGeometry &page, const PhotoPla
            isSame(toPage.mapRect(QRectF(0, 0, 1, 1)), sheet);
 }
 
-Result<JobDocument, PdfFault> jobDocument(const PrintSheet &sheet, const PrintJob &job)
+bool isWholeDocument(const JobSheets &sheets, const PrintJob &job)
+{
+    const Document *document = sheets.firstPhoto().document();
+    if (!document || !job.offset.isNull() || sheets.sheets.size() != document->pageCount())
+        return false;
+    int page = 0;
+    return std::ranges::all_of(sheets.sheets, [&](const PrintSheet &sheet) {
+        const SheetPhoto &laid = sheet.photos.constFirst();
+        return sheet.isPlain() && laid.photo.identity() == document->identity() &&
+               laid.photo.page() == page++ &&
+               (job.isRaw() || (laid.placement.quarterTurns == 0 &&
+                                isSame(laid.placement.target, QRectF(QPointF(), job.page.size))));
+    });
+}
+
+Result<JobDocument, PdfFault> jobDocument(const JobSheets &sheets, const PrintJob &job)
 {
     JobDocument document;
-    document.name = sheet.name;
+    document.name = sheets.name;
+    const PrintSheet &sheet = sheets.sheets.constFirst();
     const SheetPhoto &first = sheet.photos.constFirst();
+    const bool isWhole = isWholeDocument(sheets, job);
     const QByteArray type = mimeTypeOf(first.photo);
-    if (job.isRaw() || (sheet.isPlain() && job.offset.isNull() && job.directTypes.contains(type) &&
-                        !isLeftUnscaled(job) && canGoUntouched(first.photo, job.page, first.placement))) {
+    if (isWhole ||
+        (!sheets.hasPages() &&
+         (job.isRaw() || (sheet.isPlain() && job.offset.isNull() && job.directTypes.contains(type) &&
+                          !isLeftUnscaled(job) && canGoUntouched(first.photo, job.page, first.placement))))) {
         auto content = first.photo.content();
         if (!content)
             return Failure<PdfFault>{PdfFault::PhotoUnusable, content.failure().text,
                                      content.failure().detail};
-        document.mimeType = type;
+        document.mimeType = isWhole ? pdfType : type;
         document.data = *std::move(content);
         document.isUntouched = true;
         return document;
     }
     QBuffer buffer(&document.data);
     buffer.open(QIODevice::WriteOnly);
-    PdfWriter writer(buffer);
-    auto failure = writer.add(sheet, job.page, job.offset);
-    if (!failure)
-        failure = writer.finish();
-    if (failure)
+    SheetPdf pdf(buffer, sheets.hasPages());
+    for (const PrintSheet &each : sheets.sheets) {
+        if (const auto failure = pdf.add(each, job.page, job.offset))
+            return *failure;
+    }
+    if (const auto failure = pdf.finish())
         return *failure;
     document.mimeType = pdfType;
     return document;

@@ -9,13 +9,13 @@
 
 namespace printdialog {
 
-/// The document sent to a queue for one sheet.
+/// The document sent to a queue for the sheets of one job.
 struct JobDocument
 {
     QByteArray data;          ///< Sent byte for byte.
     QByteArray mimeType;      ///< For example "image/jpeg"; the server chooses its filters by it.
-    QString name;             ///< The sheet's: the job's title, and the document's name at the server.
-    bool isUntouched = false; ///< Whether it is a photo's own file.
+    QString name;             ///< The job's title, and the document's name at the server.
+    bool isUntouched = false; ///< Whether it is a photo's own file, or a document as it was opened.
 };
 
 /// Whether the photo's own file, sent unchanged, prints as the placement says, however the printer places a
@@ -27,10 +27,14 @@ struct JobDocument
 /// - the placement has no turn and covers the sheet to within 1/300 inch on each side.
 bool canGoUntouched(const Photo &photo, const PageGeometry &page, const PhotoPlacement &placement);
 
-/// Makes the document for a sheet. It is the unchanged file of a photo that is alone on it when the queue
-/// passes that type to its printer as it is and canGoUntouched(), or when the queue is a raw one; else a PDF
-/// of the page.
-Result<JobDocument, PdfFault> jobDocument(const PrintSheet &sheet, const PrintJob &job);
+/// Whether the sheets are all pages of one document in their order, each upright and in its own size on a
+/// sheet of that size, so that the document prints as it is.
+bool isWholeDocument(const JobSheets &sheets, const PrintJob &job);
+
+/// Makes the document for a job's sheets. It is the unchanged file of a photo that is alone on its sheet when
+/// the queue passes that type to its printer as it is and canGoUntouched(); a document when
+/// isWholeDocument(); either when the queue is a raw one; else a PDF of the sheets.
+Result<JobDocument, PdfFault> jobDocument(const JobSheets &sheets, const PrintJob &job);
 
 /// Whether the printer is known not to take documents of the type.
 bool lacksFormat(const PrintJob &job, const QByteArray &mimeType);

@@ -47,39 +47,42 @@ void SheetPrinter::onBeginning(const JobSubmission::Beginning &beginning)
 
 SheetPrinter::~SheetPrinter() = default;
 
-Result<QString, SheetPrinter::Fault> SheetPrinter::print(const PrintSheet &sheet)
+Result<QString, SheetPrinter::Fault> SheetPrinter::print(const JobSheets &sheets)
 {
     if (!job_.destination.isBuiltIn())
-        return send(sheet);
+        return send(sheets);
     if (beginning_ && !beginning_())
         return failureOf(queueFailure(QueueFault::Canceled, job_.destination.id()));
     if (job_.folder.document)
-        return addPage(sheet);
-    const auto files = BuiltInPrinter::print(sheet, job_, names_);
+        return addPages(sheets);
+    const auto files = BuiltInPrinter::print(sheets, job_, names_);
     if (!files)
         return failureOf(files.failure());
-    return tr("Printed %1: %2").arg(sheet.name, files->pdf);
+    return tr("Printed %1: %2").arg(sheets.name, files->pdf);
 }
 
-Result<QString, SheetPrinter::Fault> SheetPrinter::addPage(const PrintSheet &sheet)
+Result<QString, SheetPrinter::Fault> SheetPrinter::addPages(const JobSheets &sheets)
 {
     // A damaged photo leaves the other pages alone, and so does one that has changed or gone meanwhile.
-    if (const auto damage = PhotoCheck(sheet.photosToCheck()).wait())
+    if (const auto damage = PhotoCheck(sheets.photosToCheck()).wait())
         return Failure<Fault>{{std::nullopt, true}, damage->text, damage->detail};
     if (!document_) {
         documentName_ = names_.nameFor(*job_.folder.document + PrintedNames::pageSuffix);
-        auto opened = BuiltInDocument::open(documentName_, job_, names_.folder());
+        auto opened = BuiltInDocument::open(documentName_, job_, names_.folder(), hasPages_);
         if (!opened)
             return failureOf(opened.failure());
         document_ = *std::move(opened);
     }
-    if (const auto failure = document_->add(sheet)) {
-        if (pages_ == 0)
-            document_.reset();
-        return failureOf(*failure);
+    for (const PrintSheet &sheet : sheets.sheets) {
+        if (const auto failure = document_->add(sheet)) {
+            if (pages_ == 0)
+                document_.reset();
+            return failureOf(*failure);
+        }
+        ++pages_;
     }
     return tr("Printed %1: page %2 of %3")
-        .arg(sheet.name, QString::number(++pages_), documentName_ + PrintedNames::pageSuffix);
+        .arg(sheets.name, QString::number(pages_), documentName_ + PrintedNames::pageSuffix);
 }
 
 Result<QString, SheetPrinter::Fault> SheetPrinter::finishDocument()
@@ -91,15 +94,15 @@ Result<QString, SheetPrinter::Fault> SheetPrinter::finishDocument()
     return files->pdf;
 }
 
-Result<QString, SheetPrinter::Fault> SheetPrinter::send(const PrintSheet &sheet)
+Result<QString, SheetPrinter::Fault> SheetPrinter::send(const JobSheets &sheets)
 {
-    if (const auto failure = whyTooMany(sheet, job_))
+    if (const auto failure = whyTooMany(sheets, job_))
         return *failure;
-    const auto document = documentOf(sheet, job_);
+    const auto document = documentOf(sheets, job_);
     if (!document)
         return document.failure();
     PrintJob job = job_;
-    job.copies *= sheet.copies;
+    job.copies *= sheets.copies;
     const auto id = submission_.send(job, *document);
     if (!id) {
         auto failure = failureOf(id.failure());
@@ -110,24 +113,24 @@ Result<QString, SheetPrinter::Fault> SheetPrinter::send(const PrintSheet &sheet)
     return tr("Sent %1 to %2 as job %3").arg(document->name, job_.destination.id(), QString::number(*id));
 }
 
-std::optional<Failure<SheetPrinter::Fault>> SheetPrinter::whyTooMany(const PrintSheet &sheet,
+std::optional<Failure<SheetPrinter::Fault>> SheetPrinter::whyTooMany(const JobSheets &sheets,
                                                                      const PrintJob &job)
 {
-    const int copies = job.copies * sheet.copies;
+    const int copies = job.copies * sheets.copies;
     if (job.destination.isBuiltIn() || copies <= mostJobCopies)
         return std::nullopt;
     return Failure<Fault>{
         {},
         tr("%1 copies of %2 are more than the %3 that a job can have. Print it in several parts.")
-            .arg(QString::number(copies), sheet.name, QString::number(mostJobCopies)),
+            .arg(QString::number(copies), sheets.name, QString::number(mostJobCopies)),
         {}};
 }
 
-Result<JobDocument, SheetPrinter::Fault> SheetPrinter::documentOf(const PrintSheet &sheet,
+Result<JobDocument, SheetPrinter::Fault> SheetPrinter::documentOf(const JobSheets &sheets,
                                                                   const PrintJob &job)
 {
-    PhotoCheck check(sheet.photosToCheck());
-    auto document = jobDocument(sheet, job);
+    PhotoCheck check(sheets.photosToCheck());
+    auto document = jobDocument(sheets, job);
     if (const auto damage = check.wait())
         return Failure<Fault>{{std::nullopt, true}, damage->text, damage->detail};
     if (!document)

@@ -20,9 +20,9 @@ namespace printdialog {
 
 class BuiltInDocument;
 
-/// Prints sheets one after the other, on a queue, each as a job of its own, or the built-in printer, which
-/// gives each sheet's files different names. The jobs of a queue can be followed to their end, or canceled.
-/// Blocking, for a worker thread or the command line; one thread at a time.
+/// Prints one job's sheets after the other's, on a queue, or the built-in printer, which gives each job's
+/// files different names. The jobs of a queue can be followed to their end, or canceled. Blocking, for a
+/// worker thread or the command line; one thread at a time.
 class SheetPrinter
 {
     Q_DECLARE_TR_FUNCTIONS(printdialog::SheetPrinter)
@@ -49,19 +49,21 @@ public:
     /// See JobSubmission::onBeginning(); with the built-in printer, called before the sheet's files are made.
     void onBeginning(const JobSubmission::Beginning &beginning);
 
-    /// Sends the sheet to the queue, or writes its files, or adds a page to the one document of all sheets,
-    /// which is not there before finishDocument(). Returns a sentence for people.
-    Result<QString, Fault> print(const PrintSheet &sheet);
+    /// Sends the sheets to the queue as one job, or writes their files, or adds pages to the one document of
+    /// all sheets, which is not there before finishDocument(). Returns a sentence for people.
+    Result<QString, Fault> print(const JobSheets &sheets);
 
     /// Whether pages wait for finishDocument(); without it, they are dropped with this object.
     bool hasDocument() const { return document_ != nullptr; }
     /// Puts the document into its folder. Returns its path.
     Result<QString, Fault> finishDocument();
 
-    /// Whether the sheet's copies and the job's are more together than a queue's job can have.
-    static std::optional<Failure<Fault>> whyTooMany(const PrintSheet &sheet, const PrintJob &job);
+    /// Call before the first print(): pages of documents lie on the sheets.
+    void expectPages() { hasPages_ = true; }
+    /// Whether the sheets' copies and the job's are more together than a queue's job can have.
+    static std::optional<Failure<Fault>> whyTooMany(const JobSheets &sheets, const PrintJob &job);
     /// The document that print() sends to a queue.
-    static Result<JobDocument, Fault> documentOf(const PrintSheet &sheet, const PrintJob &job);
+    static Result<JobDocument, Fault> documentOf(const JobSheets &sheets, const PrintJob &job);
 
     /// The ids of the jobs sent to the queue; empty for the built-in printer.
     QList<int> sentJobs() const;
@@ -114,8 +116,8 @@ private:
         std::optional<JobEnd> end; ///< Once it is known.
     };
 
-    Result<QString, Fault> addPage(const PrintSheet &sheet);
-    Result<QString, Fault> send(const PrintSheet &sheet);
+    Result<QString, Fault> addPages(const JobSheets &sheets);
+    Result<QString, Fault> send(const JobSheets &sheets);
     JobEnd endOf(const SentJob &job, const JobStatus &status) const;
     Outcome outcome() const;
     std::optional<JobStatus> look(SentJob &job);
@@ -129,6 +131,7 @@ private:
     std::unique_ptr<BuiltInDocument> document_;
     QString documentName_; ///< without suffix
     int pages_ = 0;
+    bool hasPages_ = false; ///< of documents
 };
 
 } // namespace printdialog

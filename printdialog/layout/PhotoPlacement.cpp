@@ -101,12 +101,12 @@ QRectF inTheMiddle(const QRectF &area, const QSizeF &size)
 
 } // namespace
 
-PhotoPlacement PhotoPlacement::place(const QSize &seenSize, double pixelsPerInch, const PhotoFrame &frame,
+PhotoPlacement PhotoPlacement::place(const QSizeF &seenSize, double pixelsPerInch, const PhotoFrame &frame,
                                      const PlacementChoice &choice)
 {
     PhotoPlacement placement;
     placement.border = choice.border;
-    QSizeF photo = QSizeF(seenSize) * (pointsPerInch / pixelsPerInch);
+    QSizeF photo = seenSize * (pointsPerInch / pixelsPerInch);
     QRectF room = frame.area;     // for the print with its border
     QRectF covered = frame.bleed; // by a photo that fills it
     if (choice.size) {

@@ -66,10 +66,10 @@ struct PhotoPlacement
     /// Computes the placement. `seenSize` is the size of the upright photo in pixels; neither it nor the
     /// frame's areas are empty. The photo is placed in the middle of the frame when it has a size of its own,
     /// which may be larger than the frame (see fits).
-    static PhotoPlacement place(const QSize &seenSize, double pixelsPerInch, const PhotoFrame &frame,
+    static PhotoPlacement place(const QSizeF &seenSize, double pixelsPerInch, const PhotoFrame &frame,
                                 const PlacementChoice &choice);
     /// On the whole page.
-    static PhotoPlacement place(const QSize &seenSize, double pixelsPerInch, const PageGeometry &page,
+    static PhotoPlacement place(const QSizeF &seenSize, double pixelsPerInch, const PageGeometry &page,
                                 const PlacementChoice &choice)
     {
         return place(seenSize, pixelsPerInch, PhotoFrame::of(page), choice);

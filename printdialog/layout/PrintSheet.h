@@ -42,33 +42,36 @@ struct PrintSheet
     QList<QLineF> cutMarks = {};   ///< In points.
     int copies = 1;                ///< The job's own copies multiply them.
 
-    /// One photo on a page of its own.
+    /// One photo, or a page of a document, on a sheet of its own.
     static PrintSheet of(const Photo &photo, const PageGeometry &page, const PlacementChoice &choice,
-                         bool isAccepted = false)
-    {
-        return {photo.fileName(),
-                {{photo, PhotoPlacement::place(photo.orientedSize(), photo.printedResolution(), page, choice),
-                  isAccepted}}};
-    }
+                         bool isAccepted = false);
     /// The photos that are printed only when they are not damaged; each once.
-    QList<Photo> photosToCheck() const
+    QList<Photo> photosToCheck() const;
+    /// Whether it is only a photo or a page, with nothing drawn beside it.
+    bool isPlain() const;
+    /// Whether a page of a document lies on it.
+    bool hasPages() const;
+};
+
+/// What one job prints: the sheet of a photo, or all consecutive sheets with pages of documents. A value.
+struct JobSheets
+{
+    QString name; ///< For people, and the job's title.
+    QList<PrintSheet> sheets;
+    int copies = 1; ///< Of all of them; the job's own copies multiply them.
+
+    JobSheets() = default;
+    JobSheets(const PrintSheet &sheet)
+        : name(sheet.name)
+        , sheets({sheet})
+        , copies(sheet.copies)
     {
-        QList<Photo> checked;
-        for (const SheetPhoto &laid : photos) {
-            const auto isSame = [&laid](const Photo &photo) {
-                return photo.path() == laid.photo.path();
-            };
-            if (!laid.isAccepted && std::ranges::none_of(checked, isSame))
-                checked += laid.photo;
-        }
-        return checked;
     }
-    /// Whether it is only a photo, with nothing drawn beside it.
-    bool isPlain() const
-    {
-        return photos.size() == 1 && cutMarks.isEmpty() && photos.constFirst().caption.isEmpty() &&
-               !photos.constFirst().placement.border.isThere();
-    }
+
+    const Photo &firstPhoto() const { return sheets.constFirst().photos.constFirst().photo; }
+    bool hasPages() const { return std::ranges::any_of(sheets, &PrintSheet::hasPages); }
+    /// The photos that are printed only when they are not damaged; each once.
+    QList<Photo> photosToCheck() const;
 };
 
 } // namespace printdialog

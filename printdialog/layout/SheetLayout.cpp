@@ -33,7 +33,7 @@ std::optional<SheetLayout> kindFromWord(const QString &word)
     using Kind = SheetLayout::Kind;
     static const QRegularExpression kind(
         QStringLiteral("\\A(?:(single)|(fit)|(?:(contact)(?::(?=[0-9]))?)?(?:([0-9]{1,2})x([0-9]{1,2}))?"
-                       "|(strips)(?::([0-9]))?)\\z"));
+                       "|(strips)(?::([0-9]))?|pages:([0-9]{1,2})|(booklet))\\z"));
     const QRegularExpressionMatch match = kind.match(word);
     if (!match.hasMatch() || word.isEmpty())
         return std::nullopt;
@@ -46,6 +46,13 @@ std::optional<SheetLayout> kindFromWord(const QString &word)
         layout.stripPhotos = match.hasCaptured(7) ? match.captured(7).toInt() : layout.stripPhotos;
         return layout;
     }
+    if (match.hasCaptured(8)) {
+        SheetLayout layout = SheetLayout::usual(Kind::Pages);
+        layout.pagesPerSheet = match.captured(8).toInt();
+        return layout;
+    }
+    if (match.hasCaptured(9))
+        return SheetLayout::usual(Kind::Booklet);
     SheetLayout layout = SheetLayout::usual(match.hasCaptured(3) ? Kind::Contact : Kind::Grid);
     if (match.hasCaptured(4)) {
         layout.rows = match.captured(4).toInt();
@@ -61,8 +68,10 @@ bool isPossible(const SheetLayout &layout)
     };
     return isCount(layout.rows) && isCount(layout.columns) &&
            layout.stripPhotos >= SheetLayout::leastStripPhotos &&
-           layout.stripPhotos <= SheetLayout::mostStripPhotos && layout.gap >= 0 &&
-           layout.gap <= SheetLayout::widestGap;
+           layout.stripPhotos <= SheetLayout::mostStripPhotos &&
+           std::ranges::find(SheetLayout::pagesPerSheetChoices, layout.pagesPerSheet) !=
+               SheetLayout::pagesPerSheetChoices.end() &&
+           layout.gap >= 0 && layout.gap <= SheetLayout::widestGap;
 }
 
 bool readWord(const QString &word, SheetLayout &layout)
@@ -103,6 +112,10 @@ QString wordOf(const SheetLayout &layout)
         return QStringLiteral("contact:") + grid;
     case Kind::Strips:
         return QStringLiteral("strips:%1").arg(layout.stripPhotos);
+    case Kind::Pages:
+        return QStringLiteral("pages:%1").arg(layout.pagesPerSheet);
+    case Kind::Booklet:
+        return QStringLiteral("booklet");
     }
     return QStringLiteral("single");
 }
@@ -130,6 +143,8 @@ SheetLayout SheetLayout::usual(Kind kind)
         layout.columns = 4;
         layout.caption = Caption::FileName;
     }
+    if (kind == Kind::Pages || kind == Kind::Booklet)
+        layout.gap = 0; // pages have margins of their own
     layout.isRepeated = kind == Kind::Strips || kind == Kind::ManyOfSize;
     layout.hasCutMarks = kind == Kind::ManyOfSize || kind == Kind::Strips;
     return layout;

@@ -7,6 +7,7 @@
 
 #include <QtCore/QString>
 
+#include <array>
 #include <optional>
 
 namespace printdialog {
@@ -27,17 +28,21 @@ struct SheetLayout
         ManyOfSize, ///< As many of the photos' print size as fit.
         Contact,    ///< A grid of small upright pictures with captions.
         Strips,     ///< Two strips of photos one below the other, to be cut apart.
+        Pages,      ///< Several pages of a document in reading order.
+        Booklet,    ///< Two pages on each side, in the order in which the folded sheets are read.
     };
 
     static constexpr int mostRows = 20;
     static constexpr int leastStripPhotos = 2;
     static constexpr int mostStripPhotos = 4;
+    static constexpr std::array pagesPerSheetChoices = {2, 4, 6, 9, 16};
     static constexpr double widestGap = 50 * pointsPerMillimeter;
 
     Kind kind = Kind::Single;
     int rows = 2;                         ///< Of Grid and Contact, from 1 to mostRows.
     int columns = 2;                      ///< The same.
     int stripPhotos = mostStripPhotos;    ///< In each strip.
+    int pagesPerSheet = 2;                ///< Of Pages, one of pagesPerSheetChoices.
     double gap = 3 * pointsPerMillimeter; ///< Between the places, in points, from 0 to widestGap.
     /// Whether each photo fills a sheet, or the second strip repeats the first, instead of the next photos
     /// following.
@@ -48,8 +53,8 @@ struct SheetLayout
     /// The kind's usual layout, which the user begins with.
     static SheetLayout usual(Kind kind);
     /// Words separated by commas, the kind first: "single", "2x3" (rows and columns), "fit", "contact",
-    /// "contact:6x4", "strips", "strips:3"; then any of "repeat" or "follow", "marks" or "nomarks",
-    /// "gap=2mm", "caption=name". Nothing for any other text, and for values beyond the limits.
+    /// "contact:6x4", "strips", "strips:3", "pages:4", "booklet"; then any of "repeat" or "follow", "marks"
+    /// or "nomarks", "gap=2mm", "caption=name". Nothing for any other text, and for values beyond the limits.
     static std::optional<SheetLayout> fromText(const QString &text);
     /// The text that fromText() reads as this layout; what is usual for the kind is left out.
     QString toText() const;

@@ -3,6 +3,7 @@
 
 #include "SheetPlan.h"
 
+#include "PagePlaces.h"
 #include "SheetPlaces.h"
 
 #include <algorithm>
@@ -22,6 +23,10 @@ qsizetype expectedPlaces(const SheetLayout &layout)
         return qsizetype(layout.rows) * layout.columns;
     case Kind::Strips:
         return qsizetype(2) * layout.stripPhotos;
+    case Kind::Pages:
+        return layout.pagesPerSheet;
+    case Kind::Booklet:
+        return 2;
     case Kind::Single:
     case Kind::ManyOfSize:
         break;
@@ -46,6 +51,15 @@ public:
 
     void make()
     {
+        if (layout_.kind == Kind::Booklet)
+            makeBooklet();
+        else
+            fillSheets();
+    }
+
+private:
+    void fillSheets()
+    {
         qsizetype prints = 0;
         for (qsizetype i = 0; i < items_.size() && prints <= mostPrints; ++i) {
             usePlacesFor(i);
@@ -53,9 +67,7 @@ public:
             const int copies = std::max(1, items_.at(i).copies);
             prints += fillsSheets ? places_.size() : copies;
             if (prints > mostPrints)
-                fail(LayoutFault::Kind::TooMany, i,
-                     tr("More than %1 prints are too many for one job. Print the photos in several parts.")
-                         .arg(mostPrints));
+                failAsTooMany(i);
             else if (fillsSheets)
                 fillSheet(i, copies);
             else
@@ -65,7 +77,26 @@ public:
         finishSheet();
     }
 
-private:
+    void makeBooklet()
+    {
+        QList<qsizetype> pages;
+        for (qsizetype i = 0; i < items_.size(); ++i) {
+            if (pages.size() + items_.at(i).copies > mostPrints)
+                return failAsTooMany(i);
+            pages.insert(pages.size(), std::max(1, items_.at(i).copies), i);
+        }
+        if (pages.isEmpty())
+            return;
+        usePlacesFor(0);
+        const QList<qsizetype> order = bookletOrder(pages.size());
+        for (qsizetype place = 0; place < order.size(); ++place) {
+            if (order.at(place) >= 0)
+                put(pages.at(order.at(place)), places_.at(std::min(place % 2, places_.size() - 1)));
+            if (place % 2 != 0)
+                finishSheet();
+        }
+    }
+
     bool isFilledByOne() const { return layout_.isRepeated && layout_.kind != Kind::Strips; }
 
     void fail(LayoutFault::Kind kind, qsizetype item, const QString &text)
@@ -74,15 +105,35 @@ private:
             plan_.failure_ = Failure<LayoutFault>{{kind, item}, text, {}};
     }
 
-    /// The places depend on the item only when as many of its size as fit are wanted.
+    void failAsTooMany(qsizetype item)
+    {
+        fail(LayoutFault::Kind::TooMany, item,
+             tr("More than %1 prints are too many for one job. Print the photos in several parts.")
+                 .arg(mostPrints));
+    }
+
+    QList<SheetPlace> placesWith(qsizetype item, const std::optional<PrintSize> &size) const
+    {
+        QList<SheetPlace> places;
+        if (layout_.kind == Kind::Pages)
+            places = pagePlaces(layout_.pagesPerSheet, layout_.gap, page_, items_.at(item).seenSize);
+        else if (layout_.kind == Kind::Booklet)
+            places = bookletPlaces(page_);
+        return places.isEmpty() ? sheetPlaces(layout_, page_, size) : places;
+    }
+
+    /// The places depend on the item only when as many of its size as fit are wanted, and on a sheet's first
+    /// page.
     void usePlacesFor(qsizetype item)
     {
+        if (layout_.kind == Kind::Pages && used_ == 0)
+            places_.clear();
         const auto size = layout_.kind == Kind::ManyOfSize ? items_.at(item).placement.size : std::nullopt;
         if (!places_.isEmpty() && size == placesFor_)
             return;
         finishSheet();
         placesFor_ = size;
-        places_ = sheetPlaces(layout_, page_, size);
+        places_ = placesWith(item, size);
         if (layout_.kind == Kind::ManyOfSize && !size)
             fail(LayoutFault::Kind::SizeMissing, item,
                  tr("As many prints of a size as fit need that size. Choose a print size."));
@@ -116,9 +167,12 @@ private:
     void put(qsizetype item, const SheetPlace &place)
     {
         const LayoutItem &wanted = items_.at(item);
+        PageFrame framed = {place.frame, wanted.placement};
+        if (wanted.isPage && layout_.kind == Kind::Single)
+            framed = PageFrame::of(wanted.points(), wanted.placement, page_);
         const auto placement =
-            PhotoPlacement::place(wanted.seenSize, wanted.pixelsPerInch, place.frame, wanted.placement);
-        check(item, place.frame, placement);
+            PhotoPlacement::place(wanted.seenSize, wanted.pixelsPerInch, framed.frame, framed.placement);
+        check(item, framed.frame, placement);
         sheet_.photos += LaidPhoto{item, placement, place.caption};
     }
 
@@ -189,11 +243,35 @@ private:
     qsizetype used_ = 0; ///< places of it
 };
 
+LayoutItem LayoutItem::of(const Photo &photo, const PlacementChoice &placement, int copies)
+{
+    if (const Document *document = photo.document())
+        return {document->pageSize(photo.page()), pointsPerInch, placement, copies, true};
+    return {QSizeF(photo.orientedSize()), photo.printedResolution(), placement, copies};
+}
+
 SheetPlan SheetPlan::make(const QList<LayoutItem> &items, const SheetLayout &layout, const PageGeometry &page)
 {
     SheetPlan plan;
     Maker(plan, items, layout, page).make();
     return plan;
+}
+
+void SheetPlan::reverse()
+{
+    std::ranges::reverse(sheets_);
+}
+
+void SheetPlan::renumber(const QList<qsizetype> &items, const std::optional<Failure<LayoutFault>> &failure)
+{
+    for (LaidSheet &sheet : sheets_) {
+        for (LaidPhoto &photo : sheet.photos)
+            photo.item = items.at(photo.item);
+    }
+    if (failure)
+        failure_ = failure;
+    else if (failure_)
+        failure_->reason.item = items.at(failure_->reason.item);
 }
 
 qsizetype SheetPlan::sheetWith(qsizetype item) const

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "Photo.h"
 #include "PhotoPlacement.h"
 #include "Result.h"
 #include "SheetLayout.h"
@@ -15,13 +16,18 @@
 
 namespace printdialog {
 
-/// A photo to be laid out: its size, and how it is wanted.
+/// A photo or a page of a document to be laid out: its size, and how it is wanted.
 struct LayoutItem
 {
-    QSize seenSize; ///< Of the upright photo, in pixels; not empty.
+    QSizeF seenSize; ///< Of the upright photo, in pixels; not empty.
     double pixelsPerInch = 300;
     PlacementChoice placement = {};
     int copies = 1;
+    bool isPage = false; ///< Of a document, with margins of its own.
+
+    static LayoutItem of(const Photo &photo, const PlacementChoice &placement, int copies = 1);
+    /// In its actual size.
+    QSizeF points() const { return seenSize * (pointsPerInch / pixelsPerInch); }
 };
 
 /// A photo in its place on a sheet.
@@ -53,6 +59,7 @@ struct LayoutFault
         BorderTooWide,  ///< The border leaves nothing of the print.
         PlacesTooSmall, ///< The rows, columns and gaps leave no room for photos.
         TooMany,        ///< More prints than one job can have.
+        NoPages,        ///< None of the pages is wanted.
     };
 
     Kind kind;
@@ -72,6 +79,11 @@ public:
     /// sheets are as near to it as possible, for the preview. The page's printed area is not empty.
     static SheetPlan make(const QList<LayoutItem> &items, const SheetLayout &layout,
                           const PageGeometry &page);
+
+    /// The sheets in the other order.
+    void reverse();
+    /// Gives each photo the index that stands for its own; makes it a failure when one is given.
+    void renumber(const QList<qsizetype> &items, const std::optional<Failure<LayoutFault>> &failure);
 
     const QList<LaidSheet> &sheets() const { return sheets_; }
     const std::optional<Failure<LayoutFault>> &failure() const { return failure_; }

@@ -39,6 +39,24 @@ QByteArray rectangle(const QRectF &rect, double pageHeight)
     return numbers({rect.left(), pageHeight - rect.bottom(), rect.width(), rect.height()}) + "re ";
 }
 
+QByteArray borderDrawing(const PhotoPlacement &placement, double pageHeight)
+{
+    if (!placement.border.isThere())
+        return {};
+    const QColor color(placement.border.color);
+    return numbers({color.redF(), color.greenF(), color.blueF()}) + "rg\n" +
+           rectangle(placement.outline, pageHeight) + "f\n";
+}
+
+/// The border of a page of a document, and the paper that the page is laid on.
+QByteArray pageDrawing(const PhotoPlacement &placement, double pageHeight)
+{
+    const QByteArray border = borderDrawing(placement, pageHeight);
+    return border.isEmpty()
+               ? border
+               : border + "1 g\n" + rectangle(placement.target & placement.clip, pageHeight) + "f\n";
+}
+
 /// The photo in its place: the image's unit square, clipped. In a PDF, y runs up from the bottom of the page
 /// and of the image.
 QByteArray drawing(const SheetPhoto &laid, const QByteArray &name, double pageHeight)
@@ -46,13 +64,7 @@ QByteArray drawing(const SheetPhoto &laid, const QByteArray &name, double pageHe
     const PhotoPlacement &placement = laid.placement;
     const QTransform matrix = QTransform(1, 0, 0, -1, 0, 1) * placement.toPage(laid.photo.orientation()) *
                               QTransform(1, 0, 0, -1, 0, pageHeight);
-    QByteArray content;
-    if (placement.border.isThere()) {
-        const QColor color(placement.border.color);
-        content += numbers({color.redF(), color.greenF(), color.blueF()}) + "rg\n" +
-                   rectangle(placement.outline, pageHeight) + "f\n";
-    }
-    return content + "q\n" + rectangle(placement.clip, pageHeight) + "W n\n" +
+    return borderDrawing(placement, pageHeight) + "q\n" + rectangle(placement.clip, pageHeight) + "W n\n" +
            numbers({matrix.m11(), matrix.m12(), matrix.m21(), matrix.m22(), matrix.dx(), matrix.dy()}) +
            "cm\n/" + name + " Do\nQ\n";
 }
@@ -140,6 +152,10 @@ PdfWriter::Failed PdfWriter::add(const PrintSheet &sheet, const PageGeometry &pa
         content += numbers({1, 0, 0, 1, offset.x(), -offset.y()}) + "cm\n";
     QMap<QByteArray, int> used; // the images' names and numbers
     for (const SheetPhoto &laid : sheet.photos) {
+        if (laid.photo.document()) {
+            content += pageDrawing(laid.placement, height) + captionDrawing(laid, height);
+            continue;
+        }
         const auto image = imageOf(laid.photo);
         if (!image)
             return image.failure();

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "ColorProfile.h"
+#include "Document.h"
 #include "ExifOrientation.h"
 #include "JpegHeader.h"
 #include "PhotoContent.h"
@@ -32,9 +33,24 @@ struct PhotoPart
     QRectF area; ///< exactly what it shows, in the unit square of the upright photo
 };
 
+/// Which picture it is: a file in a state, or a page of one.
+struct PictureKey
+{
+    FileIdentity file;
+    int page = -1; ///< From 0 on; -1 for a photo.
+
+    bool operator==(const PictureKey &) const = default;
+};
+
+inline std::size_t qHash(const PictureKey &key, std::size_t seed = 0)
+{
+    return qHashMulti(seed, key.file, key.page);
+}
+
 /// A photo that can be printed: its file and what the file's headers say. Its content is read when it is
-/// needed, and only if the file is still the one that was opened. A value; copies share the content. Several
-/// threads may use it, each with its own copy.
+/// needed, and only if the file is still the one that was opened. A page of a document is one, too: with a
+/// size and pixels, and without headers. A value; copies share the content. Several threads may use it, each
+/// with its own copy.
 class Photo
 {
     Q_DECLARE_TR_FUNCTIONS(printdialog::Photo)
@@ -44,6 +60,7 @@ public:
     static constexpr qint64 maximumPixels = 400'000'000;
     /// In pixels per inch, for a photo whose file has no resolution: that of most photo printers.
     static constexpr double assumedResolution = 300;
+    static constexpr double pageResolution = 600; ///< In pixels per inch, of a page of a document.
 
     /// A null photo.
     Photo() = default;
@@ -53,16 +70,30 @@ public:
     /// only the first and the last ones; others are read completely. The format (see PhotoFormat) is detected
     /// by content, not by name. Any PhotoFault can result.
     static Result<Photo, PhotoFault> open(const QString &path);
+    /// A page of a document, from 0 on. Its pixels are those of pageResolution.
+    static Photo ofPage(const Document &document, int page);
+    /// All pages of a document, or a photo.
+    /// @param password of the document; mostly none
+    static Result<QList<Photo>, PhotoFault> openAll(const QString &path, const QString &password = {});
+
+    /// The document that it is a page of; null for a photo.
+    const Document *document() const { return document_.isNull() ? nullptr : &document_; }
+    int page() const { return page_; } ///< From 0 on; -1 for a photo.
 
     QString path() const { return path_; } ///< As given to open().
     QString fileName() const;
+    QString name() const;                         ///< For people: the file's name, with a page's number.
     QByteArray format() const { return format_; } ///< "jpeg", "png", "heif", "avif", ...
-    /// The file's bytes, see PhotoContent. Faults: Changed, TooLarge when memory is short, and those of
-    /// PhotoFile::open(). So do decoded() and damage() fail; the functions without a fault return a null
-    /// image.
+    /// The file's bytes, of a page its document's, see PhotoContent. Faults: Changed, TooLarge when memory is
+    /// short, and those of PhotoFile::open(). So do decoded() and damage() fail; the functions without a
+    /// fault return a null image.
     Result<QByteArray, PhotoFault> content() const;
     /// Which file it is, and in which state, as it was opened.
-    FileIdentity identity() const { return content_ ? content_->identity() : FileIdentity(); }
+    FileIdentity identity() const
+    {
+        return document() ? document_.identity() : content_ ? content_->identity() : FileIdentity();
+    }
+    PictureKey key() const { return {identity(), page_}; }
     QDateTime modified() const; ///< In whole seconds, UTC.
     /// When it was taken, by the camera's clock: a local time of an unknown zone. Nothing when the file, a
     /// JPEG, PNG, HEIF, AVIF, TIFF or WebP, does not say.
@@ -120,6 +151,9 @@ public:
 private:
     struct Verdict;
 
+    Result<PhotoContent::Bytes, PhotoFault> documentBytes() const;
+    QImage rendered(const QSize &whole, const QRectF &part, const std::atomic<bool> *isGivenUp) const;
+    QSize sizeWithin(const QSize &bound) const;
     Result<PhotoContent::Bytes, PhotoFault> bytes() const;
     std::optional<Failure<PhotoFault>> inspect(const PhotoFile &file);
     std::optional<Failure<PhotoFault>> inspectJpeg(JpegHeader header);
@@ -136,6 +170,8 @@ private:
     Failure<PhotoFault> truncated() const;
 
     QString path_;
+    Document document_; ///< Null for a photo.
+    int page_ = -1;
     QByteArray format_;
     std::shared_ptr<PhotoContent> content_; ///< Null for a null photo.
     QSize storedSize_;

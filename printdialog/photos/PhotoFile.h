@@ -15,16 +15,17 @@ namespace printdialog {
 
 /// Why a photo cannot be printed.
 enum class PhotoFault {
-    NotFound,     ///< No such file.
-    NotReadable,  ///< A folder, a pipe, a device, or a file without permission or with a read error.
-    Empty,        ///< A file without content.
-    TooLarge,     ///< More bytes or pixels than a photo may have.
-    NeedsPackage, ///< The format needs a package that is not installed.
-    UnknownType,  ///< The content is not a printable picture, whatever the file's name says.
-    Truncated,    ///< The end of the picture is missing.
-    Broken,       ///< The content contradicts its own format.
-    Damaged,      ///< The headers are intact, but the pixels are corrupted.
-    Changed,      ///< The file is not the one that was opened, or was written to since.
+    NotFound,      ///< No such file.
+    NotReadable,   ///< A folder, a pipe, a device, or a file without permission or with a read error.
+    Empty,         ///< A file without content.
+    TooLarge,      ///< More bytes or pixels than a photo may have.
+    NeedsPackage,  ///< The format needs a package that is not installed.
+    UnknownType,   ///< The content is not a printable picture, whatever the file's name says.
+    Truncated,     ///< The end of the picture is missing.
+    Broken,        ///< The content contradicts its own format.
+    Damaged,       ///< The headers are intact, but the pixels are corrupted.
+    NeedsPassword, ///< A document that is encrypted, and the password was wrong if there was one.
+    Changed,       ///< The file is not the one that was opened, or was written to since.
 };
 
 /// An open file that may hold a photo. Only a regular file is opened, so that no pipe or device can block.

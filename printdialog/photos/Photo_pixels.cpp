@@ -6,6 +6,7 @@
 #include "ContentReader.h"
 #include "HeifPicture.h"
 #include "JpegPart.h"
+#include "PageRendering.h"
 #include "PhotoFormat.h"
 #include "PngPicture.h"
 #include "QuietDecoding.h"
@@ -76,8 +77,17 @@ QImage Photo::decodedWithin(const QByteArray &content, const QSize &storedBound,
     return image;
 }
 
+/// Of a page; a null image when that fails.
+QImage Photo::rendered(const QSize &whole, const QRectF &part, const std::atomic<bool> *isGivenUp) const
+{
+    auto image = renderPage(document_, page_, whole, part, isGivenUp);
+    return image ? *std::move(image) : QImage();
+}
+
 Result<QImage, PhotoFault> Photo::decoded() const
 {
+    if (document())
+        return broken(QStringLiteral("a page of a document has no pixels of its own"));
     const auto content = bytes();
     if (!content)
         return content.failure();
@@ -91,15 +101,26 @@ Result<QImage, PhotoFault> Photo::decoded() const
     return broken(error);
 }
 
+/// Scaled down to the bound, or as it is.
+QSize Photo::sizeWithin(const QSize &bound) const
+{
+    const QSize seen = orientedSize();
+    return seen.width() > bound.width() || seen.height() > bound.height()
+               ? seen.scaled(bound, Qt::KeepAspectRatio).expandedTo(QSize(1, 1))
+               : seen;
+}
+
 /// Stored pixels in the stored direction, scaled down to the upright bound.
 QImage Photo::scaledWithin(const QSize &bound) const
 {
     const QSize seen = orientedSize();
     if (seen.isEmpty() || bound.isEmpty())
         return {};
+    if (document())
+        return rendered(sizeWithin(bound), QRectF(0, 0, 1, 1), nullptr);
     QSize scaled;
-    if (seen.width() > bound.width() || seen.height() > bound.height())
-        scaled = orientation_.seenSize(seen.scaled(bound, Qt::KeepAspectRatio).expandedTo(QSize(1, 1)));
+    if (const QSize wanted = sizeWithin(bound); wanted != seen)
+        scaled = orientation_.seenSize(wanted);
     const auto content = bytes();
     if (!content)
         return {};
@@ -166,6 +187,8 @@ PhotoPart Photo::part(const QRectF &part, const QSize &whole, const std::atomic<
     const QRect seen = pixelsOf(shown, size);
     const QRectF area(double(seen.x()) / size.width(), double(seen.y()) / size.height(),
                       double(seen.width()) / size.width(), double(seen.height()) / size.height());
+    if (document())
+        return {rendered(size, area, isGivenUp), area};
     const QSize storedWhole = orientation_.seenSize(size);
     const QRect stored = pixelsOf(orientation_.transform().inverted().mapRect(area), storedWhole);
     return {orientation_.applied(inPixelColors(decodedPart({storedWhole, stored}, isGivenUp))), area};

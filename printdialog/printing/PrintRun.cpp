@@ -37,27 +37,32 @@ bool PrintRun::isRaised(int *flag)
     return flag && std::atomic_ref(*flag).load() != 0;
 }
 
-QString PrintRun::leftOutText(const PrintSheet &sheet, const QString &why)
+QString PrintRun::leftOutText(const JobSheets &sheets, const QString &why)
 {
-    const QString &first = sheet.photos.constFirst().photo.path();
-    const bool isAlone = std::ranges::all_of(
-        sheet.photos, [&first](const SheetPhoto &laid) { return laid.photo.path() == first; });
-    return isAlone ? why : tr("%1 The sheet with %2 is not printed.").arg(why, sheet.name);
+    const QString first = sheets.firstPhoto().path();
+    const bool isAlone = std::ranges::all_of(sheets.sheets, [&first](const PrintSheet &sheet) {
+        return std::ranges::all_of(sheet.photos,
+                                   [&first](const SheetPhoto &laid) { return laid.photo.path() == first; });
+    });
+    return isAlone ? why : tr("%1 The sheet with %2 is not printed.").arg(why, sheets.name);
 }
 
-PrintOutcome PrintRun::print(qsizetype count, const SheetSource &sheets)
+PrintOutcome PrintRun::print(qsizetype count, const JobSource &jobs)
 {
     outcome_.total = static_cast<int>(count);
     // Before anything is printed, since the user has to divide the job.
     for (qsizetype i = 0; i < count && outcome_.failure.isEmpty(); ++i) {
-        if (const auto failure = SheetPrinter::whyTooMany(sheets(i), job_))
+        const JobSheets sheets = jobs(i);
+        if (const auto failure = SheetPrinter::whyTooMany(sheets, job_))
             outcome_.failure = failure->text;
+        if (sheets.hasPages())
+            printer_.expectPages();
     }
     // The check of the photos takes longest, so the next ones are checked on the other cores while this one
     // prints.
     struct Ahead
     {
-        PrintSheet sheet;
+        JobSheets sheets;
         std::unique_ptr<PhotoCheck> check;
     };
     std::deque<Ahead> ahead;
@@ -66,13 +71,13 @@ PrintOutcome PrintRun::print(qsizetype count, const SheetSource &sheets)
          index_ < count && outcome_.failure.isEmpty() && !isRaised(flags_.cancel) && !isRaised(flags_.finish);
          ++index_) {
         while (std::ssize(ahead) < most && index_ + std::ssize(ahead) < count) {
-            Ahead next{sheets(index_ + std::ssize(ahead)), nullptr};
-            next.check = std::make_unique<PhotoCheck>(next.sheet.photosToCheck());
+            Ahead next{jobs(index_ + std::ssize(ahead)), nullptr};
+            next.check = std::make_unique<PhotoCheck>(next.sheets.photosToCheck());
             ahead.push_back(std::move(next));
         }
         const Ahead current = std::move(ahead.front());
         ahead.pop_front();
-        if (!printOne(current.sheet))
+        if (!printOne(current.sheets))
             break;
     }
     noteUnsent();
@@ -127,11 +132,11 @@ void PrintRun::finishDocument()
 }
 
 /// False: stop; do not print the next sheet.
-bool PrintRun::printOne(const PrintSheet &sheet)
+bool PrintRun::printOne(const JobSheets &sheets)
 {
-    name_ = sheet.name;
+    name_ = sheets.name;
     listener_.sending(index_, name_, 0, 0);
-    const auto printed = printer_.print(sheet);
+    const auto printed = printer_.print(sheets);
     if (!printed && printed.failure().reason.queue == QueueFault::Unknown) {
         outcome_.failure = printed.failure().text;
         unanswered_.append(outcome_.failure);
@@ -140,7 +145,7 @@ bool PrintRun::printOne(const PrintSheet &sheet)
     if (!printed && isRaised(flags_.cancel))
         return false;
     if (!printed && printed.failure().reason.isPhotoFault) {
-        outcome_.skipped.append(leftOutText(sheet, printed.failure().text));
+        outcome_.skipped.append(leftOutText(sheets, printed.failure().text));
         listener_.skipped(outcome_.skipped.constLast());
         return true;
     }

@@ -75,8 +75,8 @@ class PrintRun
     Q_DECLARE_TR_FUNCTIONS(printdialog::PrintRun)
 
 public:
-    /// Returns the sheet of the index; called before the run and shortly before the sheet is printed.
-    using SheetSource = std::function<PrintSheet(qsizetype index)>;
+    /// Returns the sheets of the job of the index; called before the run and shortly before they are printed.
+    using JobSource = std::function<JobSheets(qsizetype index)>;
 
     /// @param listener outlives the run
     PrintRun(const PrintJob &job, PrintRunListener &listener, const PrintRunFlags &flags = {},
@@ -84,17 +84,17 @@ public:
     Q_DISABLE_COPY_MOVE(PrintRun)
 
     /// Call at most once. Jobs are not followed when FollowLimits::total is 0.
-    PrintOutcome print(qsizetype count, const SheetSource &sheets);
+    PrintOutcome print(qsizetype count, const JobSource &jobs);
 
     /// What is said of a sheet that is left out: which photo is to blame, and that the sheet's other photos
     /// are not printed either.
     /// @param why a sentence about the photo
-    static QString leftOutText(const PrintSheet &sheet, const QString &why);
+    static QString leftOutText(const JobSheets &sheets, const QString &why);
 
 private:
     static bool isRaised(int *flag);
 
-    bool printOne(const PrintSheet &sheet);
+    bool printOne(const JobSheets &sheets);
     /// @param leave non-zero: stop
     void follow(int *leave);
     void cancelJobs(SheetPrinter::Canceling which);

@@ -130,8 +130,9 @@ PrintOutcome printed(const Arrangement &arrangement, const SheetPlan &plan, cons
                      PrintRun &run, const Progress &progress, int &cancel)
 {
     PrintOutcome outcome;
-    const auto sheetAt = [&](qsizetype index) {
-        return arrangement.sheet(plan.sheets().at(index));
+    const QList<Arrangement::SheetRange> jobs = arrangement.jobs(plan);
+    const auto jobAt = [&](qsizetype index) {
+        return arrangement.jobSheets(plan, jobs.at(index));
     };
     if (plan.failure()) {
         outcome.failure = plan.failure()->text;
@@ -141,11 +142,11 @@ PrintOutcome printed(const Arrangement &arrangement, const SheetPlan &plan, cons
     outcome.hasDamaged = isAnyDamaged(arrangement.photos, progress, cancel);
     if (outcome.hasDamaged)
         return outcome;
-    outcome = run.print(indexes.size(), [&](qsizetype sheet) { return sheetAt(indexes.at(sheet)); });
+    outcome = run.print(indexes.size(), [&](qsizetype job) { return jobAt(indexes.at(job)); });
     for (UnprintedSheet &sheet : outcome.unprinted) {
         sheet.index = indexes.at(sheet.index);
         if (sheet.sentence.isEmpty())
-            sheet.sentence = PrintWorker::tr("%1 was not printed.").arg(sheetAt(sheet.index).name);
+            sheet.sentence = PrintWorker::tr("%1 was not printed.").arg(jobAt(sheet.index).name);
     }
     return outcome;
 }
@@ -218,7 +219,7 @@ void PrintWorker::print(const Arrangement &arrangement, const PrintJob &job,
             const auto say = [this](const QString &text, qint64 done, qint64 total) {
                 Q_EMIT progress(text, done, total);
             };
-            QList<qsizetype> indexes = only.value_or(QList<qsizetype>(plan.sheets().size()));
+            QList<qsizetype> indexes = only.value_or(QList<qsizetype>(wanted.jobs(plan).size()));
             if (!only)
                 std::iota(indexes.begin(), indexes.end(), 0);
             flags->total = static_cast<int>(indexes.size());

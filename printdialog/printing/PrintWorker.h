@@ -30,7 +30,7 @@ public:
     /// The number of sheets of the run; 0 when it is not known yet.
     int total() const;
     /// Prints the sheets one after the other with the job's settings. Not while busy.
-    /// @param only the indexes of the sheets to print, among those of the arrangement; nothing: all
+    /// @param only the indexes of the jobs to print, among those of the arrangement; nothing: all
     void print(const Arrangement &arrangement, const PrintJob &job,
                const std::optional<QList<qsizetype>> &only = std::nullopt);
     /// Prints the sheet to its end that is being printed, and nothing after it.

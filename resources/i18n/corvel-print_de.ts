@@ -86,6 +86,14 @@
         <source>the next photos following</source>
         <translation>die nächsten Fotos folgend</translation>
     </message>
+    <message>
+        <source>%1 pages on each side</source>
+        <translation>%1 Seiten auf jeder Blattseite</translation>
+    </message>
+    <message>
+        <source>Booklet</source>
+        <translation>Broschüre</translation>
+    </message>
 </context>
 <context>
     <name>BatchRun</name>
@@ -818,6 +826,22 @@ Skript jedes Mal dasselbe erhält</translation>
     <message>
         <source>Place</source>
         <translation>Platz</translation>
+    </message>
+    <message>
+        <source>Pages: %1</source>
+        <translation>Seiten: %1</translation>
+    </message>
+    <message>
+        <source>Document: %1</source>
+        <translation>Dokument: %1</translation>
+    </message>
+    <message>
+        <source>Sheets</source>
+        <translation>Blätter</translation>
+    </message>
+    <message>
+        <source>%1 to %2 of %3</source>
+        <translation>%1 bis %2 von %3</translation>
     </message>
 </context>
 <context>
@@ -2502,6 +2526,10 @@ Skript jedes Mal dasselbe erhält</translation>
         <comment>the name of a sheet with several photos</comment>
         <translation>%1 und %2 weitere</translation>
     </message>
+    <message>
+        <source>None of the %1 pages is among those to be printed. Choose other pages.</source>
+        <translation>Keine der %1 Seiten ist unter denen, die gedruckt werden sollen. Wählen Sie andere Seiten.</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::ChoiceCallout</name>
@@ -3461,6 +3489,11 @@ Skript jedes Mal dasselbe erhält</translation>
     <message>
         <source>&quot;%1&quot; is damaged and cannot be shown. Copy it again, or save it again in a photo program.</source>
         <translation>„%1“ ist beschädigt und kann nicht angezeigt werden. Kopieren Sie es erneut oder speichern Sie es in einem Fotoprogramm neu.</translation>
+    </message>
+    <message>
+        <source>%1, page %2</source>
+        <comment>a page of a document</comment>
+        <translation>%1, Seite %2</translation>
     </message>
 </context>
 <context>
@@ -4512,6 +4545,17 @@ Skript jedes Mal dasselbe erhält</translation>
     <message>
         <source>Sheet %1 of %2</source>
         <translation>Blatt %1 von %2</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::SheetPdf</name>
+    <message>
+        <source>There is not enough memory to print &quot;%1&quot;. Print it in several parts.</source>
+        <translation>Der Speicher reicht nicht, um „%1“ zu drucken. Drucken Sie es in mehreren Teilen.</translation>
+    </message>
+    <message>
+        <source>The PDF of &quot;%1&quot; could not be written: %2. Check the disk that it goes to.</source>
+        <translation>Die PDF-Datei von „%1“ konnte nicht geschrieben werden: %2. Prüfen Sie den Zieldatenträger.</translation>
     </message>
 </context>
 <context>

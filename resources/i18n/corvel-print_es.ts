@@ -86,6 +86,14 @@
         <source>the next photos following</source>
         <translation>las fotos siguientes</translation>
     </message>
+    <message>
+        <source>%1 pages on each side</source>
+        <translation>%1 páginas en cada cara</translation>
+    </message>
+    <message>
+        <source>Booklet</source>
+        <translation>Folleto</translation>
+    </message>
 </context>
 <context>
     <name>BatchRun</name>
@@ -817,6 +825,22 @@ obtenga siempre lo mismo</translation>
     <message>
         <source>Place</source>
         <translation>Lugar</translation>
+    </message>
+    <message>
+        <source>Pages: %1</source>
+        <translation>Páginas: %1</translation>
+    </message>
+    <message>
+        <source>Document: %1</source>
+        <translation>Documento: %1</translation>
+    </message>
+    <message>
+        <source>Sheets</source>
+        <translation>Hojas</translation>
+    </message>
+    <message>
+        <source>%1 to %2 of %3</source>
+        <translation>%1 a %2 de %3</translation>
     </message>
 </context>
 <context>
@@ -2501,6 +2525,10 @@ obtenga siempre lo mismo</translation>
         <comment>the name of a sheet with several photos</comment>
         <translation>%1 y %2 más</translation>
     </message>
+    <message>
+        <source>None of the %1 pages is among those to be printed. Choose other pages.</source>
+        <translation>Ninguna de las %1 páginas está entre las que se van a imprimir. Elija otras páginas.</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::ChoiceCallout</name>
@@ -3460,6 +3488,11 @@ obtenga siempre lo mismo</translation>
     <message>
         <source>&quot;%1&quot; is damaged and cannot be shown. Copy it again, or save it again in a photo program.</source>
         <translation>«%1» está dañada y no se puede mostrar. Cópiela de nuevo o guárdela otra vez en un programa de fotografía.</translation>
+    </message>
+    <message>
+        <source>%1, page %2</source>
+        <comment>a page of a document</comment>
+        <translation>%1, página %2</translation>
     </message>
 </context>
 <context>
@@ -4511,6 +4544,17 @@ obtenga siempre lo mismo</translation>
     <message>
         <source>Sheet %1 of %2</source>
         <translation>Hoja %1 de %2</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::SheetPdf</name>
+    <message>
+        <source>There is not enough memory to print &quot;%1&quot;. Print it in several parts.</source>
+        <translation>No hay memoria suficiente para imprimir «%1». Imprímalo en varias partes.</translation>
+    </message>
+    <message>
+        <source>The PDF of &quot;%1&quot; could not be written: %2. Check the disk that it goes to.</source>
+        <translation>No se ha podido escribir el PDF de «%1»: %2. Compruebe el disco de destino.</translation>
     </message>
 </context>
 <context>

@@ -86,6 +86,14 @@
         <source>the next photos following</source>
         <translation>les photos suivantes</translation>
     </message>
+    <message>
+        <source>%1 pages on each side</source>
+        <translation>%1 pages sur chaque face</translation>
+    </message>
+    <message>
+        <source>Booklet</source>
+        <translation>Livret</translation>
+    </message>
 </context>
 <context>
     <name>BatchRun</name>
@@ -818,6 +826,22 @@ qu’un script obtienne chaque fois la même chose</translation>
     <message>
         <source>Place</source>
         <translation>Emplacement</translation>
+    </message>
+    <message>
+        <source>Pages: %1</source>
+        <translation>Pages : %1</translation>
+    </message>
+    <message>
+        <source>Document: %1</source>
+        <translation>Document : %1</translation>
+    </message>
+    <message>
+        <source>Sheets</source>
+        <translation>Feuilles</translation>
+    </message>
+    <message>
+        <source>%1 to %2 of %3</source>
+        <translation>%1 à %2 sur %3</translation>
     </message>
 </context>
 <context>
@@ -2502,6 +2526,10 @@ qu’un script obtienne chaque fois la même chose</translation>
         <comment>the name of a sheet with several photos</comment>
         <translation>%1 et %2 autres</translation>
     </message>
+    <message>
+        <source>None of the %1 pages is among those to be printed. Choose other pages.</source>
+        <translation>Aucune des %1 pages ne fait partie de celles à imprimer. Choisissez d’autres pages.</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::ChoiceCallout</name>
@@ -2650,75 +2678,75 @@ qu’un script obtienne chaque fois la même chose</translation>
     <name>printdialog::Document</name>
     <message>
         <source>There is no document &quot;%1&quot;. Check its name and folder.</source>
-        <translation>Il n’existe pas de document « %1 ». Vérifiez son nom et son dossier.</translation>
+        <translation>Il n’existe pas de document «&#x202f;%1&#x202f;». Vérifiez son nom et son dossier.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; has no pages. Save it again in the program that it comes from.</source>
-        <translation>« %1 » n’a aucune page. Enregistrez-le à nouveau dans le programme dont il provient.</translation>
+        <translation>«&#x202f;%1&#x202f;» n’a aucune page. Enregistrez-le à nouveau dans le programme dont il provient.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is not a PDF document. Save it as PDF in the program that it comes from.</source>
-        <translation>« %1 » n’est pas un document PDF. Enregistrez-le en PDF dans le programme dont il provient.</translation>
+        <translation>«&#x202f;%1&#x202f;» n’est pas un document PDF. Enregistrez-le en PDF dans le programme dont il provient.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is protected by a password. Enter the password.</source>
-        <translation>« %1 » est protégé par un mot de passe. Saisissez le mot de passe.</translation>
+        <translation>«&#x202f;%1&#x202f;» est protégé par un mot de passe. Saisissez le mot de passe.</translation>
     </message>
     <message>
         <source>The password does not open &quot;%1&quot;. Check it and enter it again.</source>
-        <translation>Le mot de passe n’ouvre pas « %1 ». Vérifiez-le et saisissez-le à nouveau.</translation>
+        <translation>Le mot de passe n’ouvre pas «&#x202f;%1&#x202f;». Vérifiez-le et saisissez-le à nouveau.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; takes too much time or memory to read. Print it in parts, or save it again in the program that it comes from.</source>
-        <translation>La lecture de « %1 » demande trop de temps ou de mémoire. Imprimez-le par parties ou enregistrez-le à nouveau dans le programme dont il provient.</translation>
+        <translation>La lecture de «&#x202f;%1&#x202f;» demande trop de temps ou de mémoire. Imprimez-le par parties ou enregistrez-le à nouveau dans le programme dont il provient.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; has changed since it was opened. Add it again.</source>
-        <translation>« %1 » a été modifié depuis son ouverture. Ajoutez-le à nouveau.</translation>
+        <translation>«&#x202f;%1&#x202f;» a été modifié depuis son ouverture. Ajoutez-le à nouveau.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is damaged and cannot be repaired. Get it again from where it came from.</source>
-        <translation>« %1 » est endommagé et ne peut pas être réparé. Récupérez-le à nouveau à sa source.</translation>
+        <translation>«&#x202f;%1&#x202f;» est endommagé et ne peut pas être réparé. Récupérez-le à nouveau à sa source.</translation>
     </message>
     <message>
         <source>You may not read &quot;%1&quot;. Ask its owner for the permission to read it.</source>
-        <translation>Vous n’avez pas le droit de lire « %1 ». Demandez-en l’autorisation à son propriétaire.</translation>
+        <translation>Vous n’avez pas le droit de lire «&#x202f;%1&#x202f;». Demandez-en l’autorisation à son propriétaire.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; could not be read: %2. Check the disk that it is on.</source>
-        <translation>« %1 » n’a pas pu être lu : %2. Vérifiez le disque où il se trouve.</translation>
+        <translation>«&#x202f;%1&#x202f;» n’a pas pu être lu&#x202f;: %2. Vérifiez le disque où il se trouve.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is a folder. Choose a document inside it.</source>
-        <translation>« %1 » est un dossier. Choisissez un document qu’il contient.</translation>
+        <translation>«&#x202f;%1&#x202f;» est un dossier. Choisissez un document qu’il contient.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is not a file but a device, a pipe or a socket. Choose a document.</source>
-        <translation>« %1 » n’est pas un fichier mais un périphérique, un tube ou un socket. Choisissez un document.</translation>
+        <translation>«&#x202f;%1&#x202f;» n’est pas un fichier mais un périphérique, un tube ou un socket. Choisissez un document.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is too large: %2, where a document may have %3. Save it in parts.</source>
-        <translation>« %1 » est trop volumineux : %2, alors qu’un document peut faire %3. Enregistrez-le en plusieurs parties.</translation>
+        <translation>«&#x202f;%1&#x202f;» est trop volumineux&#x202f;: %2, alors qu’un document peut faire %3. Enregistrez-le en plusieurs parties.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; has more than %L2 pages. Save it in parts.</source>
-        <translation>« %1 » a plus de %L2 pages. Enregistrez-le en plusieurs parties.</translation>
+        <translation>«&#x202f;%1&#x202f;» a plus de %L2 pages. Enregistrez-le en plusieurs parties.</translation>
     </message>
     <message>
         <source>Page %L1 of &quot;%2&quot; takes too much time or memory to show. It can be printed all the same.</source>
-        <translation>L’affichage de la page %L1 de « %2 » demande trop de temps ou de mémoire. Elle peut être imprimée malgré tout.</translation>
+        <translation>L’affichage de la page %L1 de «&#x202f;%2&#x202f;» demande trop de temps ou de mémoire. Elle peut être imprimée malgré tout.</translation>
     </message>
     <message>
         <source>Page %L1 of &quot;%2&quot; cannot be shown, since it is damaged. Look at it closely when it is printed.</source>
-        <translation>La page %L1 de « %2 » ne peut pas être affichée, car elle est endommagée. Examinez-la bien une fois imprimée.</translation>
+        <translation>La page %L1 de «&#x202f;%2&#x202f;» ne peut pas être affichée, car elle est endommagée. Examinez-la bien une fois imprimée.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is not used, since it could not be read safely: %2. Install corvel-print again.</source>
-        <translation>« %1 » n’est pas utilisé, car il n’a pas pu être lu sans risque : %2. Réinstallez corvel-print.</translation>
+        <translation>«&#x202f;%1&#x202f;» n’est pas utilisé, car il n’a pas pu être lu sans risque&#x202f;: %2. Réinstallez corvel-print.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be run: %2</source>
-        <translation>impossible de lancer « %1 » : %2</translation>
+        <translation>impossible de lancer «&#x202f;%1&#x202f;»&#x202f;: %2</translation>
     </message>
     <message>
         <source>the system offers no sandbox</source>
@@ -2726,7 +2754,7 @@ qu’un script obtienne chaque fois la même chose</translation>
     </message>
     <message>
         <source>&quot;%1&quot; ends with status %2</source>
-        <translation>« %1 » se termine avec le code %2</translation>
+        <translation>«&#x202f;%1&#x202f;» se termine avec le code %2</translation>
     </message>
 </context>
 <context>
@@ -3461,6 +3489,11 @@ qu’un script obtienne chaque fois la même chose</translation>
     <message>
         <source>&quot;%1&quot; is damaged and cannot be shown. Copy it again, or save it again in a photo program.</source>
         <translation>«&#x202f;%1&#x202f;» est endommagée et ne peut pas être affichée. Copiez-la de nouveau ou enregistrez-la de nouveau dans un logiciel de retouche.</translation>
+    </message>
+    <message>
+        <source>%1, page %2</source>
+        <comment>a page of a document</comment>
+        <translation>%1, page %2</translation>
     </message>
 </context>
 <context>
@@ -4512,6 +4545,17 @@ qu’un script obtienne chaque fois la même chose</translation>
     <message>
         <source>Sheet %1 of %2</source>
         <translation>Feuille %1 sur %2</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::SheetPdf</name>
+    <message>
+        <source>There is not enough memory to print &quot;%1&quot;. Print it in several parts.</source>
+        <translation>Il n’y a pas assez de mémoire pour imprimer « %1 ». Imprimez-le en plusieurs parties.</translation>
+    </message>
+    <message>
+        <source>The PDF of &quot;%1&quot; could not be written: %2. Check the disk that it goes to.</source>
+        <translation>Le PDF de «&#x202f;%1&#x202f;» n’a pas pu être écrit&#x202f;: %2. Vérifiez le disque de destination.</translation>
     </message>
 </context>
 <context>

@@ -86,6 +86,14 @@
         <source>the next photos following</source>
         <translation>次の写真を続ける</translation>
     </message>
+    <message>
+        <source>%1 pages on each side</source>
+        <translation>各面に %1 ページ</translation>
+    </message>
+    <message>
+        <source>Booklet</source>
+        <translation>小冊子</translation>
+    </message>
 </context>
 <context>
     <name>BatchRun</name>
@@ -814,6 +822,22 @@ each time</source>
     <message>
         <source>Place</source>
         <translation>位置</translation>
+    </message>
+    <message>
+        <source>Pages: %1</source>
+        <translation>ページ: %1</translation>
+    </message>
+    <message>
+        <source>Document: %1</source>
+        <translation>文書: %1</translation>
+    </message>
+    <message>
+        <source>Sheets</source>
+        <translation>シート</translation>
+    </message>
+    <message>
+        <source>%1 to %2 of %3</source>
+        <translation>%1～%2 / %3</translation>
     </message>
 </context>
 <context>
@@ -2496,6 +2520,10 @@ each time</source>
         <comment>the name of a sheet with several photos</comment>
         <translation>%1 ほか %2 枚</translation>
     </message>
+    <message>
+        <source>None of the %1 pages is among those to be printed. Choose other pages.</source>
+        <translation>%1 ページのどれも印刷対象に含まれていません。別のページを選んでください。</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::ChoiceCallout</name>
@@ -3455,6 +3483,11 @@ each time</source>
     <message>
         <source>&quot;%1&quot; is damaged and cannot be shown. Copy it again, or save it again in a photo program.</source>
         <translation>「%1」は壊れていて表示できません。もう一度コピーするか、写真ソフトで保存し直してください。</translation>
+    </message>
+    <message>
+        <source>%1, page %2</source>
+        <comment>a page of a document</comment>
+        <translation>%1、%2 ページ</translation>
     </message>
 </context>
 <context>
@@ -4502,6 +4535,17 @@ each time</source>
     <message>
         <source>Sheet %1 of %2</source>
         <translation>シート %1 / %2</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::SheetPdf</name>
+    <message>
+        <source>There is not enough memory to print &quot;%1&quot;. Print it in several parts.</source>
+        <translation>「%1」を印刷するためのメモリが足りません。いくつかに分けて印刷してください。</translation>
+    </message>
+    <message>
+        <source>The PDF of &quot;%1&quot; could not be written: %2. Check the disk that it goes to.</source>
+        <translation>「%1」の PDF を書き込めませんでした: %2。書き込み先のディスクを確認してください。</translation>
     </message>
 </context>
 <context>

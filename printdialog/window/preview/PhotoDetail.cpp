@@ -31,7 +31,7 @@ PhotoDetail::~PhotoDetail()
 
 bool PhotoDetail::setPhoto(const Photo &photo, int detail)
 {
-    const bool isSame = photo.path() == photo_.path() && photo.identity() == photo_.identity();
+    const bool isSame = photo.path() == photo_.path() && photo.key() == photo_.key();
     photo_ = photo;
     if (isSame)
         return false;

@@ -38,13 +38,13 @@ void PhotoThumbnails::setSize(const QSize &size)
 
 QPixmap PhotoThumbnails::of(const Photo &photo)
 {
-    const FileIdentity key = photo.identity();
+    const PictureKey key = photo.key();
     if (const QPixmap *picture = pictures_.object(key))
         return *picture;
     if (underWay_.contains(key))
         return {};
     // Asked for again, it is in sight again.
-    wanted_.removeIf([&photo](const Photo &wanted) { return wanted.identity() == photo.identity(); });
+    wanted_.removeIf([&photo](const Photo &wanted) { return wanted.key() == photo.key(); });
     wanted_.append(photo);
     if (wanted_.size() > mostWanted)
         wanted_.removeFirst();
@@ -56,7 +56,7 @@ void PhotoThumbnails::startNext()
 {
     while (!wanted_.isEmpty() && underWay_.size() < photoThreads().maxThreadCount()) {
         const Photo photo = wanted_.takeLast();
-        const FileIdentity key = photo.identity();
+        const PictureKey key = photo.key();
         underWay_.insert(key);
         const auto make = [photo, key, size = size_, self = QPointer<PhotoThumbnails>(this)] {
             const QImage image = photo.thumbnail(size);
@@ -69,7 +69,7 @@ void PhotoThumbnails::startNext()
     }
 }
 
-void PhotoThumbnails::keep(const FileIdentity &key, const QSize &size, const QImage &image)
+void PhotoThumbnails::keep(const PictureKey &key, const QSize &size, const QImage &image)
 {
     if (size == size_ && underWay_.remove(key)) {
         const qsizetype cost = std::max<qsizetype>(image.sizeInBytes(), 1);

@@ -27,7 +27,7 @@ public:
     /// decoded.
     QPixmap of(const Photo &photo);
     /// Whether it is made, and kept.
-    bool has(const Photo &photo) const { return pictures_.contains(photo.identity()); }
+    bool has(const Photo &photo) const { return pictures_.contains(photo.key()); }
     /// Whether everything that was asked for is there.
     bool isReady() const { return underWay_.isEmpty() && wanted_.isEmpty(); }
 
@@ -37,12 +37,12 @@ Q_SIGNALS:
 
 private:
     void startNext();
-    void keep(const FileIdentity &key, const QSize &size, const QImage &image);
+    void keep(const PictureKey &key, const QSize &size, const QImage &image);
 
     QSize size_;
-    QCache<FileIdentity, QPixmap> pictures_;
+    QCache<PictureKey, QPixmap> pictures_;
     QList<Photo> wanted_; ///< The last one comes first.
-    QSet<FileIdentity> underWay_;
+    QSet<PictureKey> underWay_;
 };
 
 } // namespace printdialog
