@@ -68,6 +68,7 @@ JobSheets Arrangement::jobSheets(const SheetPlan &plan, const SheetRange &range)
         job.sheets += sheet(laid);
     job.name = job.sheets.constFirst().name;
     job.copies = job.sheets.constFirst().copies;
+    job.isReversed = pages.isReversed;
     return job;
 }
 

@@ -73,6 +73,21 @@ std::unique_ptr<JobTemplate> JobTemplate::besides(const OptionSource &printer,
     return std::make_unique<JobTemplate>(attributes, without);
 }
 
+bool JobTemplate::isTwoSided(const QMap<QString, QString> &choices)
+{
+    const auto isBoth = [&choices](const QString &option) {
+        static const QStringList beginnings = {QStringLiteral("two-sided"), QStringLiteral("Duplex"),
+                                               QStringLiteral("LongEdge"),  QStringLiteral("ShortEdge"),
+                                               QStringLiteral("Top"),       QStringLiteral("Bottom"),
+                                               QStringLiteral("True")};
+        const QString choice = choices.value(option);
+        return std::ranges::any_of(
+            beginnings, [&choice](const QString &beginning) { return choice.startsWith(beginning); });
+    };
+    const auto &[attribute, names] = sameOptions().constFirst();
+    return isBoth(attribute) || std::ranges::any_of(names, isBoth);
+}
+
 QStringList JobTemplate::namedByPrinters()
 {
     QStringList keys;

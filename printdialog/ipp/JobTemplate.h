@@ -49,6 +49,8 @@ public:
     /// The same for a printer with one banner page: the one that is not "none" in "job-sheets". Two different
     /// ones stay a list, which such a printer does not have.
     static QMap<QString, QString> withOneSheet(QMap<QString, QString> choices);
+    /// Whether these choices, of a PPD or of a job, print on both sides of the paper.
+    static bool isTwoSided(const QMap<QString, QString> &choices);
     /// The options that are sent together with this one, which is among them.
     static QStringList sentTogether(const QString &key);
 

@@ -47,6 +47,8 @@ public:
     /// whose photos were checked before and turn out to be unusable gets no page, and other sheets can still
     /// be added. Any other failure spoils the document.
     std::optional<Failure<OutputFault>> add(const PrintSheet &sheet);
+    /// Adds a page with nothing on it, to a document with pages of documents.
+    void addEmptySide() { writer_->addEmptySide(job_.page); }
     /// Call at most once, with at least one page.
     Result<PrintedFiles, OutputFault> finish();
 

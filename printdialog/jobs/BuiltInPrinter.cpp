@@ -4,6 +4,7 @@
 #include "BuiltInPrinter.h"
 
 #include "BuiltInDocument.h"
+#include "JobDocument.h"
 
 namespace printdialog {
 
@@ -16,8 +17,10 @@ Result<PrintedFiles, OutputFault> printAs(const QString &name, const JobSheets &
     auto document = BuiltInDocument::open(name, job, folder, sheets.hasPages());
     if (!document)
         return document.failure();
-    for (const PrintSheet &sheet : sheets.sheets) {
-        if (const auto failure = (*document)->add(sheet))
+    for (const PrintSheet *side : sidesOf(sheets, job)) {
+        if (!side)
+            (*document)->addEmptySide();
+        else if (const auto failure = (*document)->add(*side))
             return *failure;
     }
     return (*document)->finish();

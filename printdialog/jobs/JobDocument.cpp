@@ -3,6 +3,7 @@
 
 #include "JobDocument.h"
 
+#include "JobTemplate.h"
 #include "PhotoPlacement.h"
 #include "SheetPdf.h"
 
@@ -19,6 +20,7 @@ namespace {
 
 const QByteArray pdfType = "application/pdf";
 const QString scalingName = QStringLiteral("print-scaling");
+const QString sidesName = QStringLiteral("sides");
 const QString unscaled = QStringLiteral("none");
 
 /// Whether the user wants the printer to print a photo by its resolution.
@@ -78,6 +80,23 @@ bool isWholeDocument(const JobSheets &sheets, const PrintJob &job)
     });
 }
 
+QList<const PrintSheet *> sidesOf(const JobSheets &sheets, const PrintJob &job)
+{
+    QList<const PrintSheet *> sides;
+    for (const PrintSheet &sheet : sheets.sheets)
+        sides += &sheet;
+    QMap<QString, QString> choices = job.options;
+    if (job.ipp)
+        choices.insert(sidesName, job.ipp->attributes.text(sidesName).value_or(QString()));
+    if (!sheets.isReversed || !JobTemplate::isTwoSided(choices) || sides.size() < 2)
+        return sides;
+    if (sides.size() % 2 != 0)
+        sides.prepend(nullptr); // the back of the last page
+    for (qsizetype i = 0; i + 1 < sides.size(); i += 2)
+        std::swap(sides[i], sides[i + 1]);
+    return sides;
+}
+
 Result<JobDocument, PdfFault> jobDocument(const JobSheets &sheets, const PrintJob &job)
 {
     JobDocument document;
@@ -102,8 +121,10 @@ Result<JobDocument, PdfFault> jobDocument(const JobSheets &sheets, const PrintJo
     QBuffer buffer(&document.data);
     buffer.open(QIODevice::WriteOnly);
     SheetPdf pdf(buffer, sheets.hasPages());
-    for (const PrintSheet &each : sheets.sheets) {
-        if (const auto failure = pdf.add(each, job.page, job.offset))
+    for (const PrintSheet *side : sidesOf(sheets, job)) {
+        if (!side)
+            pdf.addEmptySide(job.page);
+        else if (const auto failure = pdf.add(*side, job.page, job.offset))
             return *failure;
     }
     if (const auto failure = pdf.finish())

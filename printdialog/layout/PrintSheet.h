@@ -59,6 +59,7 @@ struct JobSheets
     QString name; ///< For people, and the job's title.
     QList<PrintSheet> sheets;
     int copies = 1; ///< Of all of them; the job's own copies multiply them.
+    bool isReversed = false; ///< They are in the other order: the last one comes first.
 
     JobSheets() = default;
     JobSheets(const PrintSheet &sheet)

@@ -829,11 +829,11 @@ qu’un script obtienne chaque fois la même chose</translation>
     </message>
     <message>
         <source>Pages: %1</source>
-        <translation>Pages : %1</translation>
+        <translation>Pages&#x202f;: %1</translation>
     </message>
     <message>
         <source>Document: %1</source>
-        <translation>Document : %1</translation>
+        <translation>Document&#x202f;: %1</translation>
     </message>
     <message>
         <source>Sheets</source>
@@ -4551,7 +4551,7 @@ qu’un script obtienne chaque fois la même chose</translation>
     <name>printdialog::SheetPdf</name>
     <message>
         <source>There is not enough memory to print &quot;%1&quot;. Print it in several parts.</source>
-        <translation>Il n’y a pas assez de mémoire pour imprimer « %1 ». Imprimez-le en plusieurs parties.</translation>
+        <translation>Il n’y a pas assez de mémoire pour imprimer «&#x202f;%1&#x202f;». Imprimez-le en plusieurs parties.</translation>
     </message>
     <message>
         <source>The PDF of &quot;%1&quot; could not be written: %2. Check the disk that it goes to.</source>
