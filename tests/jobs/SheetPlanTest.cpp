@@ -84,13 +84,14 @@ private Q_SLOTS:
         for (const QString &text :
              {u"single"_s, u"2x3"_s, u"20x1"_s, u"fit"_s, u"contact:6x4"_s, u"strips:3"_s,
               u"2x2,repeat,marks,gap=0mm"_s, u"strips:2,follow,nomarks,gap=2mm"_s,
-              u"contact:5x4,gap=0.5in,caption=both"_s, u"single,caption=date"_s})
+              u"contact:5x4,gap=0.5in,caption=both"_s, u"single,caption=date"_s, u"pages:16"_s, u"booklet"_s})
             add(qPrintable(text), text, text);
         add("the usual contact sheet", u"contact"_s, u"contact:5x4"_s);
         add("the usual strips", u"strips"_s, u"strips:4"_s);
-        for (const QString &text : {u""_s, u"0x2"_s, u"21x2"_s, u"2x"_s, u"strips:1"_s, u"strips:5"_s,
-                                    u"contact:"_s, u"2x2,gap=-1mm"_s, u"2x2,gap=nan"_s, u"2x2,gap=51mm"_s,
-                                    u"2x2,,"_s, u"2x2,caption=all"_s, u"single:2x2"_s, u"2x2\n"_s})
+        for (const QString &text :
+             {u""_s, u"0x2"_s, u"21x2"_s, u"2x"_s, u"strips:1"_s, u"strips:5"_s, u"contact:"_s,
+              u"2x2,gap=-1mm"_s, u"2x2,gap=nan"_s, u"2x2,gap=51mm"_s, u"pages:3"_s, u"pages:"_s, u"2x2,,"_s,
+              u"2x2,caption=all"_s, u"single:2x2"_s, u"2x2\n"_s})
             add(qPrintable(u"refused: '%1'"_s.arg(text)), text, QString());
     }
 
