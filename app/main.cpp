@@ -1,12 +1,13 @@
 // SPDX-FileCopyrightText: Corvel print dialog authors
 // SPDX-License-Identifier: Apache-2.0
 
-#include "ActionGuard.h"
 #include "BatchRun.h"
 #include "CommandLine.h"
 #include "Console.h"
+#include "GuardedApplication.h"
 #include "Listings.h"
 #include "PreviewRun.h"
+#include "ProgramTexts.h"
 #include "QuietDecoding.h"
 #include "QuietFeedback.h"
 #include "ScreenshotRun.h"
@@ -17,7 +18,6 @@
 #include "WindowRun.h"
 
 #include <QtCore/QFile>
-#include <QtCore/QLibraryInfo>
 #include <QtCore/QTranslator>
 #include <QtWidgets/QApplication>
 
@@ -27,51 +27,6 @@
 using namespace printdialog;
 
 namespace {
-
-/// Catches exceptions of panels' event handlers: in Qt's event loop they would end the program.
-class GuardedApplication final : public QApplication
-{
-public:
-    using QApplication::QApplication;
-
-    bool notify(QObject *receiver, QEvent *event) override
-    {
-        try {
-            return QApplication::notify(receiver, event);
-        } catch (...) {
-            if (!pdekit::handleFailure(receiver))
-                throw;
-            return true;
-        }
-    }
-};
-
-/// Loads the program's texts in the first of the user's languages that it has. The texts in the source are
-/// the English ones, except for plural forms.
-/// @return the language's code; empty when there are none
-QString loadOwnTexts(QTranslator &translator)
-{
-    const QStringList languages = QLocale().uiLanguages() << QStringLiteral("en");
-    for (const QString &language : languages) {
-        const QString code = language.section(u'-', 0, 0);
-        if (translator.load(QStringLiteral(":/corvel-print/i18n/corvel-print_%1.qm").arg(code)))
-            return code;
-    }
-    return {};
-}
-
-/// Installs the program's texts in the user's language, and Qt's own (file dialogs, buttons) in the same
-/// language, if present.
-void loadTranslations(QCoreApplication &application)
-{
-    auto *own = new QTranslator(&application);
-    const QString code = loadOwnTexts(*own);
-    QCoreApplication::installTranslator(own);
-    auto *qts = new QTranslator(&application);
-    if (qts->load(QStringLiteral("qtbase_%1.qm").arg(code),
-                  QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
-        QCoreApplication::installTranslator(qts);
-}
 
 /// The message that Qt has no platform to draw on. It is needed before a translation can be installed.
 QString withoutPlatform()
