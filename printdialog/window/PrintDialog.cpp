@@ -131,6 +131,8 @@ PrintDialog::PrintDialog(const PrintDialogSetup &setup, QWidget *parent)
     else
         ui_->photos->setPhotos(setup.photos, setup.style.value_or(ArrangementStyle()), setup.furtherPaths);
     showPhoto();
+    if (setup.program)
+        showProgram();
     followPrinter();
     printer_->start(ui_->printer);
     if (message().isEmpty())
@@ -225,9 +227,11 @@ SummaryEntries PrintDialog::summary() const
 void PrintDialog::showPhoto()
 {
     const QList<PlacedPhoto> &photos = ui_->photos->photos();
-    setWindowTitle(photos.isEmpty()
-                       ? tr("Print Photo")
-                       : tr("Print %1").arg(plainText(photos.at(ui_->photos->current()).photo.fileName())));
+    if (!setup_.program)
+        setWindowTitle(
+            photos.isEmpty()
+                ? tr("Print Photo")
+                : tr("Print %1").arg(plainText(photos.at(ui_->photos->current()).photo.fileName())));
     nameDocuments();
     updateButtons();
 }

@@ -8,6 +8,7 @@
 #include "Photo.h"
 #include "PrintJob.h"
 #include "PrinterDescription.h"
+#include "ProgramDocument.h"
 #include "Queue.h"
 #include "QueueFault.h"
 
@@ -51,6 +52,8 @@ struct PrintDialogSetup
     bool remembers = true;                 ///< open with the printer used last, and remember the one used now
     std::optional<ArrangementStyle> style; ///< initial arrangement; that of the printer's last use when empty
     std::optional<Arrangement> arrangement; ///< the initial photos of a print list, in place of `photos`
+    /// There are no photos: what is chosen becomes the job of a program's document.
+    std::optional<ProgramDocument> program = std::nullopt;
 };
 
 /// The print dialog: the photo on its page, the printer, and the panels of the printer's plug-in. It works at
@@ -90,11 +93,20 @@ public:
     /// Whether the photo's preview is complete.
     bool isPreviewReady() const;
 
+    /// Closes the window and what belongs to it at once, without a question: the program for whose document
+    /// it is has gone.
+    void abandon();
+
 public Q_SLOTS:
     void print();
     void saveSettings();
     /// Closes the window; while it prints, it first asks whether to stop.
     void reject() override;
+
+Q_SIGNALS:
+    /// In place of printing a program's document: how it is to be printed, and the session with the choices.
+    /// The window is about to be closed.
+    void prepared(const printdialog::PrintJob &job, const printdialog::DialogSession &session);
 
 protected:
     void closeEvent(QCloseEvent *event) override;
@@ -112,6 +124,10 @@ private:
     void showPanelFailure(const QString &sentence);
     enum class Requested { All, OfJob };
     bool applyOptions(Requested which = Requested::All);
+
+    // A program's document
+    void showProgram();
+    void prepare();
 
     // The page
     void fillPageSizes();

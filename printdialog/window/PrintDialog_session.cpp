@@ -79,7 +79,7 @@ void PrintDialog::showFolder(bool isBuiltIn)
     ui_->folderLabel->setVisible(isBuiltIn);
     ui_->folder->setVisible(isBuiltIn);
     ui_->browse->setVisible(isBuiltIn);
-    ui_->documents->setVisible(isBuiltIn);
+    ui_->documents->setVisible(isBuiltIn && !setup_.program);
     ui_->documentName->setVisible(isBuiltIn && ui_->documents->currentIndex() > 0);
     ui_->statusRow->setVisible(!isBuiltIn);
 }
@@ -186,13 +186,21 @@ bool PrintDialog::applyOptions(Requested which)
         ui_->photos->model()->open(*setup_.style);
     // Those of a queue's job wait for its attributes.
     const bool isAwaiting = printer_->hasOldOptions() && session.attributes().isEmpty();
+    QStringList sentences;
+    if (setup_.program && setup_.program->choices) {
+        const ProgramChoices asked = setup_.program->choices(session.options());
+        setup_.options = asked.options;
+        sentences = setup_.program->remarks + (isAwaiting ? QStringList() : asked.remarks);
+    }
     for (const auto &[key, choice] : std::as_const(setup_.options)) {
         if (isInAttributes(key) ? isAwaiting : which == Requested::OfJob)
             continue;
         const Ruling ruling = session.choose(key, choice);
         if (ruling.verdict != Verdict::Accepted)
-            ui_->message->show(MessageBar::Kind::Warning, ruling.text);
+            sentences += ruling.text;
     }
+    if (!sentences.isEmpty())
+        ui_->message->show(MessageBar::Kind::Warning, sentences.join(u'\n'));
     return !setup_.options.isEmpty();
 }
 

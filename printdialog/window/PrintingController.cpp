@@ -67,6 +67,20 @@ bool PrintingController::print(int copies, const OutputFolder &wanted, const Que
     return true;
 }
 
+std::optional<PrintJob> PrintingController::prepare(int copies, const OutputFolder &wanted,
+                                                    const Queue &queue)
+{
+    OutputFolder folder = wanted;
+    if (queue.isBuiltIn && !settleName(folder))
+        return std::nullopt;
+    std::optional<SessionJob> made = makeJob(copies);
+    if (!made)
+        return std::nullopt;
+    made->job.folder = folder;
+    made->job.announcedUri = queue.isAnnounced ? queue.deviceUri : QString();
+    return made->job;
+}
+
 void PrintingController::begin(const Arrangement &arrangement, const SessionJob &made,
                                const OutputFolder &folder, const Queue &queue)
 {

@@ -52,6 +52,9 @@ public:
     /// @param folder where the built-in printer leaves its files
     /// @param queue the session's, as it is known by now: a printer on the network may have another address
     bool print(int copies, const OutputFolder &folder, const Queue &queue);
+    /// The job that print() would print a document with, for a program that brings the document afterwards;
+    /// nothing when something has to be asked first, or there is no job. Keeps the choices for the next time.
+    std::optional<PrintJob> prepare(int copies, const OutputFolder &folder, const Queue &queue);
     /// Prints the test page for the print position with the session's choices, in one copy. Not while busy.
     void printTestPage(const QString &folder, const Queue &queue);
     bool isBusy() const;

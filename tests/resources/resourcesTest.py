@@ -94,7 +94,7 @@ class TranslationsTest(unittest.TestCase):
             plural = ["-pluralonly"] if language == "en" else []
             lupdate = subprocess.run(
                 [os.environ["CORVEL_LUPDATE"], *plural, "-silent", "-no-obsolete", "-locations", "none",
-                 "printdialog", "app", "pdekit", "-ts", copy], cwd=SOURCE, stderr=subprocess.PIPE, check=True)
+                 "printdialog", "app", "portal", "pdekit", "-ts", copy], cwd=SOURCE, stderr=subprocess.PIPE, check=True)
             # It complains about a text whose context it cannot determine: the program would not find the translation.
             self.assertEqual(lupdate.stderr, b"")
             self.assertEqual(keys_of(read_ts(copy)), keys_of(read_ts(program_file(language))))

@@ -84,6 +84,14 @@ void PhotoPane::setArrangement(const Arrangement &arrangement)
     model_->start(arrangement);
 }
 
+void PhotoPane::awaitPages(const QString &text)
+{
+    setAcceptDrops(false);
+    preview_->setEmptyText(text);
+    for (QWidget *widget : QList<QWidget *>{bar_, placement_, more_, caption_, add_, remove_})
+        widget->hide();
+}
+
 void PhotoPane::setPage(const PageGeometry &page)
 {
     page_ = page;

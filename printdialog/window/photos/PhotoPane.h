@@ -61,6 +61,8 @@ public:
     static QString failureText(const QStringList &sentences);
     /// Sets the initial photos, each as it is wanted.
     void setArrangement(const Arrangement &arrangement);
+    /// Shows the empty page with a text, where there are no photos and none can be added.
+    void awaitPages(const QString &text);
     const QList<PlacedPhoto> &photos() const { return model_->photos(); }
     const Arrangement &arrangement() const { return model_->arrangement(); }
     ArrangementModel *model() const { return model_; }

@@ -79,6 +79,12 @@ void PreviewWidget::setSheetNumber(int number, int count)
     Q_EMIT sheetNumberChanged();
 }
 
+void PreviewWidget::setEmptyText(const QString &text)
+{
+    emptyText_ = text;
+    update();
+}
+
 void PreviewWidget::turnSheets(int count)
 {
     const int wanted = std::clamp(sheetNumber_ + count, 0, std::max(0, sheetCount_ - 1));

@@ -32,6 +32,8 @@ public:
     void setSheet(const PrintSheet &sheet, qsizetype current, const PlacementChoice &choice = {});
     /// Which of the job's sheets it is, from 0 on.
     void setSheetNumber(int number, int count);
+    /// What stands on the page while there is no photo, in place of the usual hint.
+    void setEmptyText(const QString &text);
     int sheetNumber() const { return sheetNumber_; }
     int sheetCount() const { return sheetCount_; }
     void setPage(const PageGeometry &page);
@@ -139,6 +141,7 @@ private:
     PlacementChoice choice_;
     int sheetNumber_ = 0;
     int sheetCount_ = 0;
+    QString emptyText_; ///< mostly empty
     PageGeometry page_;
     bool isRuled_ = false;
     bool wasReady_ = true;

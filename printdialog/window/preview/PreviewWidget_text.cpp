@@ -16,7 +16,7 @@ namespace printdialog {
 QString PreviewWidget::text() const
 {
     if (photo().storedSize().isEmpty())
-        return tr("No photo. Drop photos here, or press Add.");
+        return emptyText_.isEmpty() ? tr("No photo. Drop photos here, or press Add.") : emptyText_;
     return detail_.at(current_).isUnreadable() ? tr("This photo cannot be shown") : QString();
 }
 

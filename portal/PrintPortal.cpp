@@ -1,0 +1,306 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "PrintPortal.h"
+
+#include "DialogSession.h"
+#include "DocumentRun.h"
+#include "ParentWindow.h"
+#include "PlainText.h"
+#include "PortalAnswer.h"
+#include "PortalCall.h"
+#include "PortalChoices.h"
+#include "PortalSettings.h"
+#include "PresetStore.h"
+#include "PrintAdaptor.h"
+#include "PrintDialog.h"
+#include "ProgramName.h"
+#include "SystemLog.h"
+#include "UserNotice.h"
+
+#include <QtCore/QFile>
+#include <QtCore/QPointer>
+#include <QtCore/QStandardPaths>
+#include <QtCore/QThread>
+#include <QtDBus/QDBusConnectionInterface>
+
+#include <algorithm>
+#include <fcntl.h>
+
+namespace printdialog {
+
+namespace {
+
+const QString objectPath = QStringLiteral("/org/freedesktop/portal/desktop");
+const QString tokenKey = QStringLiteral("token");
+
+/// Deletes the window once no loop of its own runs, as that of a file dialog which is about to end.
+void deleteAfterLoops(PrintDialog *dialog)
+{
+    constexpr int interval = 20; // milliseconds
+    if (QThread::currentThread()->loopLevel() <= 1)
+        dialog->deleteLater();
+    else
+        QTimer::singleShot(interval, dialog, [dialog] { deleteAfterLoops(dialog); });
+}
+
+/// The document's title: that of the call, or of the one before it, where the former says nothing.
+QString titleOf(const QString &title, const QString &earlier, const QString &program)
+{
+    return documentName(program, title) == documentName(program, {}) ? earlier : title;
+}
+
+} // namespace
+
+PrintPortal::PrintPortal(const QDBusConnection &bus, const Settings &settings, QObject *parent)
+    : QObject(parent)
+    , bus_(bus)
+    , settings_(settings)
+    , notice_(new UserNotice(bus, this))
+{
+    new PrintAdaptor(this);
+    idle_.setSingleShot(true);
+    connect(&idle_, &QTimer::timeout, this, &PrintPortal::update);
+    connect(notice_, &UserNotice::over, this, &PrintPortal::update);
+}
+
+PrintPortal::~PrintPortal()
+{
+    end();
+    qDeleteAll(std::exchange(runs_, {}));
+    qDeleteAll(std::exchange(calls_, {}));
+}
+
+QString PrintPortal::busName()
+{
+    return QStringLiteral("org.freedesktop.impl.portal.desktop.corvel");
+}
+
+QString PrintPortal::start()
+{
+    QDBusConnectionInterface *names = bus_.interface();
+    if (!bus_.isConnected() || !names)
+        return QStringLiteral("There is no session bus: %1").arg(bus_.lastError().message());
+    if (!bus_.registerObject(objectPath, this, QDBusConnection::ExportAdaptors))
+        return QStringLiteral("The object %1 cannot be offered on the bus.").arg(objectPath);
+    connect(names, &QDBusConnectionInterface::serviceUnregistered, this, [this](const QString &name) {
+        if (name == busName())
+            end(); // another one has taken it
+    });
+    bus_.connect({}, QStringLiteral("/org/freedesktop/DBus/Local"),
+                 QStringLiteral("org.freedesktop.DBus.Local"), QStringLiteral("Disconnected"), this,
+                 SLOT(end()));
+    const auto queueing = settings_.replaces ? QDBusConnectionInterface::ReplaceExistingService
+                                             : QDBusConnectionInterface::DontQueueService;
+    const auto reply =
+        names->registerService(busName(), queueing, QDBusConnectionInterface::AllowReplacement);
+    if (reply.value() != QDBusConnectionInterface::ServiceRegistered)
+        return QStringLiteral("The name %1 is taken.").arg(busName());
+    update();
+    return {};
+}
+
+// Calls
+
+PortalCall *PrintPortal::begin(const PortalRequest &request)
+{
+    auto *call = new PortalCall(bus_, request.handle, request.message, this);
+    calls_ += call;
+    update();
+    if (isEnding_ || !call->isOpen() || calls_.size() > mostCalls) {
+        refuse(call, QStringLiteral("A print request cannot be served: %1")
+                         .arg(isEnding_         ? QStringLiteral("this service is ending")
+                              : !call->isOpen() ? QStringLiteral("its handle is in use or no path")
+                                                : QStringLiteral("too many are open")));
+        return nullptr;
+    }
+    connect(call, &PortalCall::closed, this, [this, call] { close(call); });
+    return call;
+}
+
+void PrintPortal::refuse(PortalCall *call, const QString &reason)
+{
+    pdekit::systemLog(reason);
+    call->answer(PortalResponse::Failed);
+    close(call);
+}
+
+void PrintPortal::close(PortalCall *call)
+{
+    if (calls_.removeOne(call))
+        call->deleteLater();
+    update();
+}
+
+void PrintPortal::preparePrint(const PortalRequest &request, const QVariantMap &settings,
+                               const QVariantMap &pageSetup)
+{
+    PortalCall *call = begin(request);
+    if (!call)
+        return;
+    const QVariant offered = request.options.value(QStringLiteral("supported_output_file_formats"));
+    const auto format = portalFormat(offered.isValid() ? std::optional(offered.toStringList()) : std::nullopt,
+                                     QFile::exists(settings_.intake.ghostscript));
+    if (!format)
+        return refuse(call, QStringLiteral("The program \"%1\" offers no format that can be printed.")
+                                .arg(plainText(request.program, shownTextLimit)));
+    const auto asked = PortalSettings::read(settings, pageSetup);
+    PrintDialog *dialog = openDialog(call, request, asked);
+    connect(dialog, &PrintDialog::prepared, call,
+            [this, call, request, asked, format](const PrintJob &job, const DialogSession &session) {
+                const PageChoice pages = asked.pages();
+                PortalAnswer answer = portalAnswer(asked, job, session.options(), pages, PagesBy::Program);
+                answer.settings.insert(portal_keys::fileFormat, *format);
+                const quint32 token = prepared_.add(request.program, {job, pages, request.title});
+                call->answer(PortalResponse::Done, {{QStringLiteral("settings"), answer.settings},
+                                                    {QStringLiteral("page-setup"), answer.pageSetup},
+                                                    {tokenKey, token}});
+            });
+}
+
+void PrintPortal::print(const PortalRequest &request, int document)
+{
+    PortalCall *call = begin(request);
+    if (!call)
+        return;
+    std::optional<PreparedJob> prepared;
+    if (const quint32 token = request.options.value(tokenKey).toUInt(); token != 0) {
+        auto taken = prepared_.take(token, request.program);
+        if (!taken)
+            return refuse(call, taken.failure().detail);
+        prepared = *std::move(taken);
+    }
+    constexpr int lowest = 3;
+    pdekit::FileDescriptor source(fcntl(document, F_DUPFD_CLOEXEC, lowest));
+    const QString program = programName(request.program);
+    const QString name =
+        documentName(program, titleOf(request.title, prepared ? prepared->title : QString(), program));
+    auto *intake = new DocumentIntake(std::move(source), name, settings_.intake, call);
+    connect(intake, &DocumentIntake::taken, call,
+            [this, call, request, prepared, intake] { finish(call, request, prepared, intake->result()); });
+}
+
+/// The document is here, or cannot be: the caller may close its file.
+void PrintPortal::finish(PortalCall *call, const PortalRequest &request,
+                         const std::optional<PreparedJob> &prepared, TakenDocument taken)
+{
+    if (!calls_.contains(call))
+        return; // closed meanwhile
+    const QString program = programName(request.program);
+    const QString name =
+        documentName(program, titleOf(request.title, prepared ? prepared->title : QString(), program));
+    if (!taken) {
+        notice_->show(tr("%1 was not printed").arg(name), taken.failure().text);
+        call->answer(PortalResponse::Failed);
+        return close(call);
+    }
+    if (prepared) {
+        call->answer(PortalResponse::Done);
+        run(prepared->job, *std::move(taken), name);
+        return close(call);
+    }
+    const auto content = std::make_shared<pdekit::FileDescriptor>(*std::move(taken));
+    PrintDialog *dialog = openDialog(call, request, PortalSettings());
+    connect(dialog, &PrintDialog::prepared, call, [this, call, content, name](const PrintJob &job) {
+        call->answer(PortalResponse::Done);
+        run(job, std::move(*content), name);
+    });
+}
+
+// The dialog
+
+PrintDialog *PrintPortal::openDialog(PortalCall *call, const PortalRequest &request,
+                                     const PortalSettings &settings)
+{
+    const auto isSet = [&request](const char *option, bool otherwise) {
+        return request.options.value(QLatin1String(option), otherwise).toBool();
+    };
+    const QString program = programName(request.program);
+    PrintDialogSetup setup;
+    setup.program =
+        ProgramDocument{program,
+                        documentName(program, request.title),
+                        buttonText(request.options.value(QStringLiteral("accept_label")).toString()),
+                        isSet("has_current_page", false),
+                        isSet("has_selected_pages", false),
+                        settings.remarks(),
+                        [settings](const OptionSource &source) {
+                            return portalChoices(settings, source);
+                        }};
+    if (const auto printer = settings.printer())
+        setup.printer = PresetStore::destination(*printer);
+    setup.copies = settings.copies();
+    setup.outputFolder =
+        QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation) + QLatin1String("/Prints");
+    auto *dialog = new PrintDialog(setup);
+    dialogs_ += dialog;
+    dialog->setWindowModality(isSet("modal", true) ? Qt::WindowModal : Qt::NonModal);
+    connect(call, &PortalCall::closed, dialog, &PrintDialog::abandon);
+    connect(call, &QObject::destroyed, dialog, &PrintDialog::abandon);
+    // Behind what answers the call when the dialog was accepted.
+    connect(dialog, &QDialog::finished, this, [this, call = QPointer(call), dialog] {
+        if (!dialogs_.removeOne(dialog))
+            return;
+        deleteAfterLoops(dialog);
+        if (!call)
+            return update();
+        call->answer(PortalResponse::Canceled);
+        close(call);
+    });
+    dialog->searchPrinters();
+    dialog->restorePlacement({});
+    setParentWindow(dialog, request.parentWindow);
+    dialog->show();
+    dialog->raise();
+    dialog->activateWindow();
+    return dialog;
+}
+
+// Printing, and the end
+
+void PrintPortal::run(const PrintJob &job, pdekit::FileDescriptor content, const QString &name)
+{
+    auto *started = new DocumentRun(job, std::move(content), name, this);
+    runs_ += started;
+    connect(started, &DocumentRun::finished, this, [this, started, name](const QString &trouble) {
+        runs_.removeOne(started);
+        started->deleteLater();
+        if (!trouble.isEmpty())
+            notice_->show(tr("%1 was not printed").arg(name), trouble);
+        update();
+    });
+    update();
+}
+
+void PrintPortal::end()
+{
+    if (std::exchange(isEnding_, true))
+        return;
+    const QList<PrintDialog *> dialogs = dialogs_;
+    for (PrintDialog *dialog : dialogs)
+        dialog->abandon();
+    for (DocumentRun *run : std::as_const(runs_))
+        run->leave();
+    const QList<PortalCall *> calls = calls_;
+    for (PortalCall *call : calls)
+        close(call);
+    update();
+}
+
+void PrintPortal::update()
+{
+    using namespace std::chrono;
+    idle_.stop();
+    const bool isBusy = !calls_.isEmpty() || !dialogs_.isEmpty() || !runs_.isEmpty() || notice_->isBusy();
+    const auto now = steady_clock::now();
+    idleSince_ = isBusy ? std::nullopt : std::optional(idleSince_.value_or(now));
+    if (isBusy)
+        return;
+    const auto end = std::max(*idleSince_ + settings_.idleTime, prepared_.end().value_or(now));
+    if (isEnding_ || now >= end)
+        QMetaObject::invokeMethod(this, &PrintPortal::over, Qt::QueuedConnection);
+    else
+        idle_.start(duration_cast<milliseconds>(end - now) + 1ms);
+}
+
+} // namespace printdialog

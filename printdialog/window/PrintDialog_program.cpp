@@ -1,0 +1,52 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "DialogSession.h"
+#include "PrintDialog.h"
+#include "PrintJob.h"
+#include "PrinterController.h"
+#include "PrintingController.h"
+#include "ui_PrintDialog.h"
+
+// The document of a program that brings its pages afterwards.
+
+namespace printdialog {
+
+void PrintDialog::showProgram()
+{
+    const ProgramDocument &program = *setup_.program;
+    const QString label = program.acceptLabel.isEmpty() ? ui_->print->text() : program.acceptLabel;
+    ui_->print->setText(label);
+    ui_->documents->setCurrentIndex(ui_->documents->count() - 1); // one PDF, which has the document's name
+    ui_->documents->hide();
+    ui_->documentName->setText(program.name);
+    const QString button = QString(label).remove(u'&');
+    ui_->photos->awaitPages(
+        program.program.isEmpty()
+            ? tr("The program brings the pages after you press \"%1\".").arg(button)
+            : tr("%1 brings the pages after you press \"%2\".").arg(program.program, button));
+    setWindowTitle(tr("Print %1").arg(program.name));
+}
+
+/// In the place of printing: the program gets what was chosen.
+void PrintDialog::prepare()
+{
+    if (!isReady() || pageStays() || !ui_->customPage->finish())
+        return;
+    const auto job = printing_->prepare(ui_->copies->value(), outputFolder(), printer_->queue());
+    if (!job)
+        return;
+    printer_->notePrinted();
+    Q_EMIT prepared(*job, *printer_->session());
+    accept();
+}
+
+void PrintDialog::abandon()
+{
+    const QList<QDialog *> others = findChildren<QDialog *>();
+    for (QDialog *other : others)
+        other->reject();
+    done(Rejected);
+}
+
+} // namespace printdialog

@@ -1,0 +1,278 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "PrintPortal.h"
+#include "OpenedDialog.h"
+#include "PrivateBus.h"
+#include "PrivateCupsd.h"
+#include "SystemLog.h"
+#include "TestMain.h"
+
+#include <QtCore/QStandardPaths>
+#include <QtDBus/QDBusObjectPath>
+#include <QtDBus/QDBusPendingCall>
+#include <QtDBus/QDBusPendingReply>
+#include <QtDBus/QDBusUnixFileDescriptor>
+#include <QtTest/QSignalSpy>
+
+using namespace testing_support;
+using namespace std::chrono_literals;
+
+namespace {
+
+const QString objectPath = u"/org/freedesktop/portal/desktop"_s;
+const QByteArray sentPdf = "%PDF-1.4\n1 0 obj<</Type/Catalog/Pages 2 0 R>>endobj\n";
+
+QList<PrintDialog *> dialogs()
+{
+    QList<PrintDialog *> found;
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    for (QWidget *window : windows) {
+        auto *dialog = qobject_cast<PrintDialog *>(window);
+        if (dialog && dialog->isVisible())
+            found += dialog;
+    }
+    return found;
+}
+
+} // namespace
+
+/// The portal on a bus of its own, called as its front end does.
+class PrintPortalTest : public WindowTest
+{
+    Q_OBJECT
+
+private:
+    using Reply = QDBusPendingReply<uint, QVariantMap>;
+
+    std::unique_ptr<PrivateBus> daemon_;
+    QString address_;
+    QDBusConnection frontEnd_{QString()};
+    std::unique_ptr<PrintPortal> portal_;
+    std::unique_ptr<QTemporaryDir> home_;
+    QStringList log_;
+    int calls_ = 0;
+
+    static QString nameOf(int call) { return objectPath + u"/request/1_1/t%1"_s.arg(call); }
+
+    Reply call(const QString &method, const QVariantList &arguments)
+    {
+        QDBusMessage message = QDBusMessage::createMethodCall(PrintPortal::busName(), objectPath,
+                                                              u"org.freedesktop.impl.portal.Print"_s, method);
+        message.setArguments(QVariantList{QVariant::fromValue(QDBusObjectPath(nameOf(++calls_)))} +
+                             arguments);
+        return frontEnd_.asyncCall(message);
+    }
+    Reply prepare(const QVariantMap &settings = {}, const QString &program = u"org.example.Viewer"_s,
+                  const QVariantMap &options = {})
+    {
+        return call(u"PreparePrint"_s, {program, u""_s, u"Letter"_s, settings, QVariantMap(), options});
+    }
+    Reply print(uint token, const QString &program = u"org.example.Viewer"_s,
+                const QByteArray &content = sentPdf)
+    {
+        QFile file(home_->filePath(u"document"_s));
+        if (!file.open(QIODevice::ReadWrite | QIODevice::Truncate) || file.write(content) != content.size() ||
+            !file.flush())
+            qFatal("no document");
+        return call(u"Print"_s,
+                    {program, u""_s, u"Print"_s, QVariant::fromValue(QDBusUnixFileDescriptor(file.handle())),
+                     QVariantMap{{u"token"_s, token}}});
+    }
+    Reply closeCall(int number)
+    {
+        return frontEnd_.asyncCall(QDBusMessage::createMethodCall(
+            PrintPortal::busName(), nameOf(number), u"org.freedesktop.impl.portal.Request"_s, u"Close"_s));
+    }
+    static bool isAnswered(const Reply &reply, uint response)
+    {
+        return QTest::qWaitFor([&reply] { return reply.isFinished(); }, 10000) && !reply.isError() &&
+               reply.argumentAt<0>() == response;
+    }
+    static PrintDialog *onlyDialog()
+    {
+        const bool isThere =
+            QTest::qWaitFor([] { return dialogs().size() == 1 && dialogs().at(0)->isReady(); });
+        return isThere ? dialogs().at(0) : nullptr;
+    }
+    static QPushButton *button(PrintDialog *dialog) { return dialog->findChild<QPushButton *>(u"print"_s); }
+    static QVariantMap settingsIn(const Reply &reply)
+    {
+        return qdbus_cast<QVariantMap>(reply.argumentAt<1>().value(u"settings"_s));
+    }
+    static uint tokenIn(const Reply &reply) { return reply.argumentAt<1>().value(u"token"_s).toUInt(); }
+
+    void open(PrintPortal::Settings settings = {})
+    {
+        settings.intake.quiet = 500ms;
+        portal_ =
+            std::make_unique<PrintPortal>(QDBusConnection::connectToBus(address_, u"back end"_s), settings);
+        QCOMPARE(portal_->start(), QString());
+    }
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        daemon_ = std::make_unique<PrivateBus>();
+        address_ = daemon_->start();
+        if (address_.isEmpty())
+            QSKIP("dbus-daemon is missing; apt-get install dbus.");
+        frontEnd_ = QDBusConnection::connectToBus(address_, u"front end"_s);
+        QVERIFY(frontEnd_.isConnected());
+    }
+    void cleanupTestCase() { QDBusConnection::disconnectFromBus(u"front end"_s); }
+
+    void init()
+    {
+        WindowTest::init();
+        home_ = std::make_unique<QTemporaryDir>();
+        qputenv("HOME", QFile::encodeName(home_->path()));
+        log_.clear();
+        pdekit::setSystemLogSink([this](const QString &line) { log_ += line; });
+        calls_ = 0;
+        open();
+    }
+    void cleanup()
+    {
+        portal_.reset();
+        QTRY_VERIFY(dialogs().isEmpty());
+        QDBusConnection::disconnectFromBus(u"back end"_s);
+        pdekit::setSystemLogSink([](const QString &) {});
+    }
+
+    void aDocumentIsPreparedAndPrinted()
+    {
+        const Reply prepared = prepare({{u"n-copies"_s, u"2"_s}, {u"x-key"_s, u"kept"_s}},
+                                       u"org.example.Viewer"_s, {{u"accept_label"_s, u"_Send & go"_s}});
+        PrintDialog *dialog = onlyDialog();
+        QVERIFY(dialog);
+        QCOMPARE(dialog->windowModality(), Qt::WindowModal);
+        QVERIFY2(dialog->windowTitle().contains(u"org.example.Viewer: Letter"_s),
+                 qPrintable(dialog->windowTitle()));
+        QCOMPARE(button(dialog)->text(), u"&Send && go"_s);
+        for (const char *name : {"addPhoto", "removePhoto", "photoTable", "documents", "more"})
+            QVERIFY2(!dialog->findChild<QWidget *>(QLatin1String(name))->isVisible(), name);
+        QCOMPARE(dialog->findChild<QSpinBox *>(u"copies"_s)->value(), 2);
+        QTest::keyClick(button(dialog), Qt::Key_Space);
+        QVERIFY(isAnswered(prepared, 0));
+        QCOMPARE(settingsIn(prepared).value(u"n-copies"_s).toString(), u"1"_s);
+        QCOMPARE(settingsIn(prepared).value(u"x-key"_s).toString(), u"kept"_s);
+        QCOMPARE(settingsIn(prepared).value(u"output-file-format"_s).toString(), u"pdf"_s);
+        QVERIFY(tokenIn(prepared) != 0);
+        QTRY_VERIFY(dialogs().isEmpty());
+
+        const Reply foreign = print(tokenIn(prepared), u"org.example.Other"_s);
+        QVERIFY(isAnswered(foreign, 2));
+        const Reply printed = print(tokenIn(prepared));
+        QVERIFY(isAnswered(printed, 0));
+        const QString folder =
+            QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation) + u"/Prints"_s;
+        const auto written = [&folder] {
+            return QDir(folder).entryList({u"*.pdf"_s}, QDir::Files);
+        };
+        QTRY_COMPARE(written().size(), 1);
+        QFile document(folder + u'/' + written().at(0));
+        QVERIFY(document.open(QIODevice::ReadOnly));
+        QCOMPARE(document.readAll(), sentPdf);
+        const Reply again = print(tokenIn(prepared));
+        QVERIFY(isAnswered(again, 2));
+        QCOMPARE(log_.filter(u"token"_s).size(), 2);
+    }
+
+    void theUserCancelsAndTheCallerCloses()
+    {
+        const Reply canceled = prepare();
+        PrintDialog *dialog = onlyDialog();
+        QVERIFY(dialog);
+        QTest::keyClick(dialog, Qt::Key_Escape);
+        QVERIFY(isAnswered(canceled, 1));
+        QTRY_VERIFY(dialogs().isEmpty());
+
+        const Reply closed = prepare();
+        QVERIFY(onlyDialog());
+        // Nobody else can close it.
+        auto stranger = QDBusConnection::connectToBus(address_, u"stranger"_s);
+        stranger.call(QDBusMessage::createMethodCall(PrintPortal::busName(), nameOf(calls_),
+                                                     u"org.freedesktop.impl.portal.Request"_s, u"Close"_s),
+                      QDBus::BlockWithGui);
+        QVERIFY(!closed.isFinished());
+        QDBusConnection::disconnectFromBus(u"stranger"_s);
+        closeCall(calls_);
+        QVERIFY(isAnswered(closed, 1));
+        QTRY_VERIFY(dialogs().isEmpty());
+    }
+
+    void twoAreAnsweredInTheOtherOrder()
+    {
+        const Reply first = prepare({{u"n-copies"_s, u"2"_s}});
+        PrintDialog *one = onlyDialog();
+        QVERIFY(one);
+        const Reply second = prepare({{u"n-copies"_s, u"3"_s}}, u"org.example.Other"_s);
+        QTRY_COMPARE(dialogs().size(), 2);
+        PrintDialog *other = dialogs().at(dialogs().at(0) == one ? 1 : 0);
+        QTRY_VERIFY(other->isReady());
+        QTest::keyClick(button(other), Qt::Key_Space);
+        QVERIFY(isAnswered(second, 0));
+        QVERIFY(!first.isFinished());
+        QTest::keyClick(button(one), Qt::Key_Space);
+        QVERIFY(isAnswered(first, 0));
+        QVERIFY(tokenIn(first) != tokenIn(second));
+    }
+
+    void aFinishedDocumentIsShownFirst()
+    {
+        const Reply printed = print(0);
+        PrintDialog *dialog = onlyDialog();
+        QVERIFY(dialog);
+        QVERIFY(!printed.isFinished());
+        QTest::keyClick(button(dialog), Qt::Key_Space);
+        QVERIFY(isAnswered(printed, 0));
+    }
+
+    void whatCannotBeServedIsAnsweredAsFailed()
+    {
+        const Reply unreadable = print(0, u"org.example.Viewer"_s, "Dear all,");
+        QVERIFY(isAnswered(unreadable, 2));
+        QTRY_VERIFY(QApplication::activeWindow() || !QApplication::topLevelWidgets().isEmpty());
+        auto *notice = [] {
+            QWidget *found = nullptr;
+            [[maybe_unused]] const bool isThere = QTest::qWaitFor([&found] {
+                const QWidgetList windows = QApplication::topLevelWidgets();
+                for (QWidget *window : windows)
+                    found = window->objectName() == u"notice"_s ? window : found;
+                return found && found->isVisible();
+            });
+            return found;
+        }();
+        QVERIFY(notice); // there is no notification service
+        notice->close();
+        const Reply vector = prepare({}, u"org.example.Viewer"_s,
+                                     {{u"supported_output_file_formats"_s, QStringList{u"svg"_s}}});
+        QVERIFY(isAnswered(vector, 2));
+        const Reply open = prepare();
+        QVERIFY(onlyDialog());
+        --calls_; // the same handle
+        QVERIFY(isAnswered(prepare(), 2));
+        QVERIFY(!open.isFinished());
+    }
+
+    void itEndsWhenItIsIdle()
+    {
+        portal_.reset();
+        QDBusConnection::disconnectFromBus(u"back end"_s);
+        PrintPortal::Settings settings;
+        settings.idleTime = 50ms;
+        open(settings);
+        QSignalSpy over(portal_.get(), &PrintPortal::over);
+        const Reply canceled = prepare();
+        PrintDialog *dialog = onlyDialog();
+        QVERIFY(dialog);
+        QTest::qWait(200);
+        QCOMPARE(over.size(), 0);
+        QTest::keyClick(dialog, Qt::Key_Escape);
+        QTRY_COMPARE(over.size(), 1);
+    }
+};
+
+CORVEL_WIDGETS_TEST(PrintPortalTest)
+#include "PrintPortalTest.moc"
