@@ -254,6 +254,22 @@ UsageFailure readPreset(const QCommandLineParser &parser, CommandLine &line)
     return std::nullopt;
 }
 
+/// Each of the two options stands alone.
+UsageFailure readPortal(const QCommandLineParser &parser, std::optional<PortalUse> &portal)
+{
+    for (const PortalUse use : {PortalUse::Start, PortalUse::Stop}) {
+        const QString name = portalOption(use);
+        if (!parser.isSet(name))
+            continue;
+        if (parser.optionNames().size() > 1 || !parser.positionalArguments().isEmpty())
+            return usageFault(
+                UsageFault::Combination,
+                CommandLineText::tr("--%1 stands alone, without photos and other options.").arg(name));
+        portal = use;
+    }
+    return std::nullopt;
+}
+
 } // namespace
 
 Result<CommandLine, UsageFault> CommandLine::parse(const QStringList &arguments)
@@ -286,7 +302,7 @@ Result<CommandLine, UsageFault> CommandLine::parse(const QStringList &arguments)
           readValue(parser, "screenshot", line.screenshot), readPreview(parser, line.preview),
           readServer(parser, line.server), readWait(parser, line.wait), readMode(parser, line.mode),
           readSheets(parser, line.style), readCrop(parser, line.style), readChoices(parser, line.options),
-          commandLineContradiction(line)}) {
+          readPortal(parser, line.portal), commandLineContradiction(line)}) {
         if (found)
             return *found;
     }

@@ -56,6 +56,9 @@ struct RequestedStyle
     ArrangementStyle over(const ArrangementStyle &style) const;
 };
 
+/// Whether other programs are to print with this dialog.
+enum class PortalUse { Start, Stop };
+
 /// The program's task. A plain value. At most one of batch, watch, preview, listPrinters, listOptions and
 /// screenshot is set; summary and dryRun are each set alone or together with batch. Without any of them, the
 /// window is shown.
@@ -89,6 +92,8 @@ struct CommandLine
     bool json = false;
     std::optional<QString> screenshot; ///< the folder for the pictures
     std::optional<QString> preview;    ///< the file for the first photo's page; ends in .png
+    /// Set alone.
+    std::optional<PortalUse> portal;
     bool help = false;
     bool version = false;
 

@@ -124,6 +124,13 @@ constexpr std::array optionRows = {
                                 "longer side, and exit; of further photos in FILE-2.png, FILE-3.png, ...")},
     OptionRow{"screenshot", "DIR",
               QT_TRANSLATE_NOOP("CommandLine", "save a picture of the dialog with each panel in DIR, exit")},
+    OptionRow{"use-for-all-programs", nullptr,
+              QT_TRANSLATE_NOOP("CommandLine",
+                                "have the programs that print through the desktop's portal use this\n"
+                                "dialog: sets one key of your portals.conf, and says in which file.\n"
+                                "Needs the package corvel-print-portal")},
+    OptionRow{"stop-using-for-all-programs", nullptr,
+              QT_TRANSLATE_NOOP("CommandLine", "remove that key again")},
     OptionRow{"h,help", nullptr, QT_TRANSLATE_NOOP("CommandLine", "show this help")},
     OptionRow{"v,version", nullptr, QT_TRANSLATE_NOOP("CommandLine", "show the version")},
 };

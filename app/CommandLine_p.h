@@ -32,6 +32,13 @@ inline Failure<UsageFault> usageFault(UsageFault reason, const QString &text)
     return {reason, text, {}};
 }
 
+/// The option's name, without its dashes.
+inline QString portalOption(PortalUse use)
+{
+    return use == PortalUse::Start ? QStringLiteral("use-for-all-programs")
+                                   : QStringLiteral("stop-using-for-all-programs");
+}
+
 /// Every option with its value's name.
 void addCommandLineOptions(QCommandLineParser &parser);
 /// Options that do not go together, and what is missing.

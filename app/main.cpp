@@ -6,6 +6,7 @@
 #include "Console.h"
 #include "GuardedApplication.h"
 #include "Listings.h"
+#include "PortalSwitch.h"
 #include "PreviewRun.h"
 #include "ProgramTexts.h"
 #include "QuietDecoding.h"
@@ -77,6 +78,8 @@ int runWithoutApplication(const QStringList &arguments, int &argc, char **argv)
                              .arg(commandLine.failure().text));
         return exitWrongUsage;
     }
+    if (commandLine->portal)
+        return console.finish(switchPortal(*commandLine->portal, console));
     if (commandLine->help)
         console.writeLines(CommandLine::helpText().chopped(1).split(u'\n'));
     else
@@ -146,7 +149,7 @@ int main(int argc, char *argv[])
     QCoreApplication::setApplicationName(QStringLiteral("corvel-print"));
     QCoreApplication::setApplicationVersion(QStringLiteral(CORVEL_PRINT_VERSION));
     auto commandLine = CommandLine::parse(arguments);
-    if (!commandLine || commandLine->help || commandLine->version)
+    if (!commandLine || commandLine->help || commandLine->version || commandLine->portal)
         return runWithoutApplication(arguments, argc, argv);
 
     if (commandLine->server)

@@ -537,6 +537,22 @@ each time</source>
 Fenster gespeichert hat, wird nur die Drucklage verwendet, damit ein
 Skript jedes Mal dasselbe erhält</translation>
     </message>
+    <message>
+        <source>--%1 stands alone, without photos and other options.</source>
+        <translation>--%1 steht allein, ohne Fotos und andere Optionen.</translation>
+    </message>
+    <message>
+        <source>have the programs that print through the desktop&apos;s portal use this
+dialog: sets one key of your portals.conf, and says in which file.
+Needs the package corvel-print-portal</source>
+        <translation>Programme, die über das Portal des Desktops drucken, diesen Dialog benutzen
+lassen: setzt einen Schlüssel Ihrer portals.conf und sagt, in welcher Datei.
+Braucht das Paket corvel-print-portal</translation>
+    </message>
+    <message>
+        <source>remove that key again</source>
+        <translation>diesen Schlüssel wieder entfernen</translation>
+    </message>
 </context>
 <context>
     <name>CommonValue</name>
@@ -1182,6 +1198,81 @@ Skript jedes Mal dasselbe erhält</translation>
         <source>%1 &quot;%2&quot;</source>
         <comment>an option and its choice</comment>
         <translation>%1 „%2“</translation>
+    </message>
+</context>
+<context>
+    <name>PortalSwitch</name>
+    <message>
+        <source>Other programs reach this dialog through %1, which is not installed. Get it with the package %1.</source>
+        <translation>Andere Programme erreichen diesen Dialog über %1, das nicht installiert ist. Sie erhalten es mit dem Paket %1.</translation>
+    </message>
+    <message>
+        <source>%1 %2 does not let each user choose: the installed package decides for everybody. Programs use this dialog while %3 is installed; install or remove it.</source>
+        <translation>Mit %1 %2 kann nicht jeder Benutzer selbst wählen: Das installierte Paket entscheidet für alle. Programme benutzen diesen Dialog, solange %3 installiert ist; installieren oder entfernen Sie es.</translation>
+    </message>
+    <message>
+        <source>The part of this program that other programs print with is not installed. Get it with the package %1.</source>
+        <translation>Der Teil dieses Programms, mit dem andere Programme drucken, ist nicht installiert. Sie erhalten ihn mit dem Paket %1.</translation>
+    </message>
+    <message>
+        <source>It is not known which desktop this is: XDG_CURRENT_DESKTOP is not set. Run it in a terminal of your desktop.</source>
+        <translation>Der Desktop ist nicht bekannt: XDG_CURRENT_DESKTOP ist nicht gesetzt. Rufen Sie es in einem Terminal Ihres Desktops auf.</translation>
+    </message>
+    <message>
+        <source>The file %1 is ignored by %2, because of its line %3. Correct that line or remove the file.</source>
+        <translation>Die Datei %1 wird von %2 wegen ihrer Zeile %3 nicht beachtet. Berichtigen Sie die Zeile oder entfernen Sie die Datei.</translation>
+    </message>
+    <message>
+        <source>The file %1 was changed just now. Try again.</source>
+        <translation>Die Datei %1 wurde gerade eben geändert. Versuchen Sie es noch einmal.</translation>
+    </message>
+    <message>
+        <source>It takes effect when you log in the next time, or at once with: %1</source>
+        <translation>Es wirkt bei der nächsten Anmeldung, oder sofort mit: %1</translation>
+    </message>
+    <message>
+        <source>The version of %1 cannot be found out. Before 1.17 it does not read this file, and the installed package decides.</source>
+        <translation>Die Version von %1 lässt sich nicht feststellen. Vor 1.17 liest es diese Datei nicht, und das installierte Paket entscheidet.</translation>
+    </message>
+    <message>
+        <source>Already so: %1 has &quot;%2&quot;.</source>
+        <translation>Das ist schon so: %1 enthält „%2“.</translation>
+    </message>
+    <message>
+        <source>%1 has &quot;%2&quot; now.</source>
+        <translation>%1 enthält jetzt „%2“.</translation>
+    </message>
+    <message>
+        <source>Made %1, a copy of %3, with &quot;%2&quot;.</source>
+        <translation>%1 wurde angelegt, eine Kopie von %3 mit „%2“.</translation>
+    </message>
+    <message>
+        <source>Made %1, with &quot;%2&quot;.</source>
+        <translation>%1 wurde angelegt, mit „%2“.</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be removed: %2.</source>
+        <translation>Die Datei %1 kann nicht entfernt werden: %2.</translation>
+    </message>
+    <message>
+        <source>Removed %1, which held nothing else of its own.</source>
+        <translation>%1 wurde entfernt; sonst stand nichts Eigenes darin.</translation>
+    </message>
+    <message>
+        <source>%1 does not name this dialog any more.</source>
+        <translation>%1 nennt diesen Dialog nicht mehr.</translation>
+    </message>
+    <message>
+        <source>The file %1 of the system has &quot;%2&quot;, for all its users. Only an administrator can change it.</source>
+        <translation>Die Datei %1 des Systems enthält „%2“, für alle seine Benutzer. Nur ein Administrator kann sie ändern.</translation>
+    </message>
+    <message>
+        <source>Already so: %1 does not name this dialog.</source>
+        <translation>Das ist schon so: %1 nennt diesen Dialog nicht.</translation>
+    </message>
+    <message>
+        <source>Already so: no file names this dialog.</source>
+        <translation>Das ist schon so: Keine Datei nennt diesen Dialog.</translation>
     </message>
 </context>
 <context>

@@ -536,6 +536,22 @@ each time</source>
 ha guardado solo se usa la posición de impresión, para que un script
 obtenga siempre lo mismo</translation>
     </message>
+    <message>
+        <source>--%1 stands alone, without photos and other options.</source>
+        <translation>--%1 va sola, sin fotos ni otras opciones.</translation>
+    </message>
+    <message>
+        <source>have the programs that print through the desktop&apos;s portal use this
+dialog: sets one key of your portals.conf, and says in which file.
+Needs the package corvel-print-portal</source>
+        <translation>hacer que los programas que imprimen por el portal del escritorio usen este
+diálogo: pone una clave en su portals.conf y dice en qué archivo.
+Requiere el paquete corvel-print-portal</translation>
+    </message>
+    <message>
+        <source>remove that key again</source>
+        <translation>quitar de nuevo esa clave</translation>
+    </message>
 </context>
 <context>
     <name>CommonValue</name>
@@ -1181,6 +1197,81 @@ obtenga siempre lo mismo</translation>
         <source>%1 &quot;%2&quot;</source>
         <comment>an option and its choice</comment>
         <translation>%1 «%2»</translation>
+    </message>
+</context>
+<context>
+    <name>PortalSwitch</name>
+    <message>
+        <source>Other programs reach this dialog through %1, which is not installed. Get it with the package %1.</source>
+        <translation>Los demás programas llegan a este diálogo por %1, que no está instalado. Lo trae el paquete %1.</translation>
+    </message>
+    <message>
+        <source>%1 %2 does not let each user choose: the installed package decides for everybody. Programs use this dialog while %3 is installed; install or remove it.</source>
+        <translation>%1 %2 no deja elegir a cada usuario: el paquete instalado decide por todos. Los programas usan este diálogo mientras %3 esté instalado; instálelo o quítelo.</translation>
+    </message>
+    <message>
+        <source>The part of this program that other programs print with is not installed. Get it with the package %1.</source>
+        <translation>La parte de este programa con la que imprimen los demás no está instalada. La trae el paquete %1.</translation>
+    </message>
+    <message>
+        <source>It is not known which desktop this is: XDG_CURRENT_DESKTOP is not set. Run it in a terminal of your desktop.</source>
+        <translation>No se sabe qué escritorio es: XDG_CURRENT_DESKTOP no está definida. Ejecútelo en un terminal de su escritorio.</translation>
+    </message>
+    <message>
+        <source>The file %1 is ignored by %2, because of its line %3. Correct that line or remove the file.</source>
+        <translation>%2 no tiene en cuenta el archivo %1 por su línea %3. Corrija esa línea o quite el archivo.</translation>
+    </message>
+    <message>
+        <source>The file %1 was changed just now. Try again.</source>
+        <translation>El archivo %1 acaba de cambiar. Inténtelo de nuevo.</translation>
+    </message>
+    <message>
+        <source>It takes effect when you log in the next time, or at once with: %1</source>
+        <translation>Tiene efecto al iniciar la próxima sesión, o ahora mismo con: %1</translation>
+    </message>
+    <message>
+        <source>The version of %1 cannot be found out. Before 1.17 it does not read this file, and the installed package decides.</source>
+        <translation>No se puede averiguar la versión de %1. Antes de la 1.17 no lee este archivo, y decide el paquete instalado.</translation>
+    </message>
+    <message>
+        <source>Already so: %1 has &quot;%2&quot;.</source>
+        <translation>Ya es así: %1 tiene «%2».</translation>
+    </message>
+    <message>
+        <source>%1 has &quot;%2&quot; now.</source>
+        <translation>%1 tiene ahora «%2».</translation>
+    </message>
+    <message>
+        <source>Made %1, a copy of %3, with &quot;%2&quot;.</source>
+        <translation>Se ha creado %1, una copia de %3 con «%2».</translation>
+    </message>
+    <message>
+        <source>Made %1, with &quot;%2&quot;.</source>
+        <translation>Se ha creado %1, con «%2».</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be removed: %2.</source>
+        <translation>No se puede quitar el archivo %1: %2.</translation>
+    </message>
+    <message>
+        <source>Removed %1, which held nothing else of its own.</source>
+        <translation>Se ha quitado %1, que no tenía nada más propio.</translation>
+    </message>
+    <message>
+        <source>%1 does not name this dialog any more.</source>
+        <translation>%1 ya no nombra este diálogo.</translation>
+    </message>
+    <message>
+        <source>The file %1 of the system has &quot;%2&quot;, for all its users. Only an administrator can change it.</source>
+        <translation>El archivo %1 del sistema tiene «%2», para todos sus usuarios. Solo un administrador puede cambiarlo.</translation>
+    </message>
+    <message>
+        <source>Already so: %1 does not name this dialog.</source>
+        <translation>Ya es así: %1 no nombra este diálogo.</translation>
+    </message>
+    <message>
+        <source>Already so: no file names this dialog.</source>
+        <translation>Ya es así: ningún archivo nombra este diálogo.</translation>
     </message>
 </context>
 <context>

@@ -537,6 +537,23 @@ each time</source>
 fenêtre a enregistré, seule la position d’impression est utilisée, pour
 qu’un script obtienne chaque fois la même chose</translation>
     </message>
+    <message>
+        <source>--%1 stands alone, without photos and other options.</source>
+        <translation>--%1 s’emploie seul, sans photos ni autres options.</translation>
+    </message>
+    <message>
+        <source>have the programs that print through the desktop&apos;s portal use this
+dialog: sets one key of your portals.conf, and says in which file.
+Needs the package corvel-print-portal</source>
+        <translation>faire utiliser cette boîte de dialogue aux programmes qui impriment par le
+portail du bureau&#x202f;: définit une clé de votre portals.conf, et dit dans
+quel fichier.
+Nécessite le paquet corvel-print-portal</translation>
+    </message>
+    <message>
+        <source>remove that key again</source>
+        <translation>retirer cette clé</translation>
+    </message>
 </context>
 <context>
     <name>CommonValue</name>
@@ -1182,6 +1199,81 @@ qu’un script obtienne chaque fois la même chose</translation>
         <source>%1 &quot;%2&quot;</source>
         <comment>an option and its choice</comment>
         <translation>%1 « %2 »</translation>
+    </message>
+</context>
+<context>
+    <name>PortalSwitch</name>
+    <message>
+        <source>Other programs reach this dialog through %1, which is not installed. Get it with the package %1.</source>
+        <translation>Les autres programmes atteignent cette boîte de dialogue par %1, qui n’est pas installé. Le paquet %1 le fournit.</translation>
+    </message>
+    <message>
+        <source>%1 %2 does not let each user choose: the installed package decides for everybody. Programs use this dialog while %3 is installed; install or remove it.</source>
+        <translation>%1 %2 ne laisse pas le choix à chaque utilisateur&#x202f;: le paquet installé décide pour tous. Les programmes utilisent cette boîte de dialogue tant que %3 est installé&#x202f;; installez-le ou retirez-le.</translation>
+    </message>
+    <message>
+        <source>The part of this program that other programs print with is not installed. Get it with the package %1.</source>
+        <translation>La partie de ce programme avec laquelle les autres impriment n’est pas installée. Le paquet %1 la fournit.</translation>
+    </message>
+    <message>
+        <source>It is not known which desktop this is: XDG_CURRENT_DESKTOP is not set. Run it in a terminal of your desktop.</source>
+        <translation>Le bureau n’est pas connu&#x202f;: XDG_CURRENT_DESKTOP n’est pas définie. Lancez-le dans un terminal de votre bureau.</translation>
+    </message>
+    <message>
+        <source>The file %1 is ignored by %2, because of its line %3. Correct that line or remove the file.</source>
+        <translation>Le fichier %1 est ignoré par %2 à cause de sa ligne %3. Corrigez cette ligne ou retirez le fichier.</translation>
+    </message>
+    <message>
+        <source>The file %1 was changed just now. Try again.</source>
+        <translation>Le fichier %1 vient d’être modifié. Réessayez.</translation>
+    </message>
+    <message>
+        <source>It takes effect when you log in the next time, or at once with: %1</source>
+        <translation>Prend effet à la prochaine ouverture de session, ou aussitôt avec&#x202f;: %1</translation>
+    </message>
+    <message>
+        <source>The version of %1 cannot be found out. Before 1.17 it does not read this file, and the installed package decides.</source>
+        <translation>La version de %1 est introuvable. Avant 1.17, il ne lit pas ce fichier, et le paquet installé décide.</translation>
+    </message>
+    <message>
+        <source>Already so: %1 has &quot;%2&quot;.</source>
+        <translation>C’est déjà le cas&#x202f;: %1 contient «&#x202f;%2&#x202f;».</translation>
+    </message>
+    <message>
+        <source>%1 has &quot;%2&quot; now.</source>
+        <translation>%1 contient maintenant «&#x202f;%2&#x202f;».</translation>
+    </message>
+    <message>
+        <source>Made %1, a copy of %3, with &quot;%2&quot;.</source>
+        <translation>%1 a été créé, une copie de %3 avec «&#x202f;%2&#x202f;».</translation>
+    </message>
+    <message>
+        <source>Made %1, with &quot;%2&quot;.</source>
+        <translation>%1 a été créé, avec «&#x202f;%2&#x202f;».</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be removed: %2.</source>
+        <translation>Le fichier %1 ne peut pas être retiré&#x202f;: %2.</translation>
+    </message>
+    <message>
+        <source>Removed %1, which held nothing else of its own.</source>
+        <translation>%1 a été retiré&#x202f;; il ne contenait rien d’autre en propre.</translation>
+    </message>
+    <message>
+        <source>%1 does not name this dialog any more.</source>
+        <translation>%1 ne nomme plus cette boîte de dialogue.</translation>
+    </message>
+    <message>
+        <source>The file %1 of the system has &quot;%2&quot;, for all its users. Only an administrator can change it.</source>
+        <translation>Le fichier %1 du système contient «&#x202f;%2&#x202f;», pour tous ses utilisateurs. Seul un administrateur peut le modifier.</translation>
+    </message>
+    <message>
+        <source>Already so: %1 does not name this dialog.</source>
+        <translation>C’est déjà le cas&#x202f;: %1 ne nomme pas cette boîte de dialogue.</translation>
+    </message>
+    <message>
+        <source>Already so: no file names this dialog.</source>
+        <translation>C’est déjà le cas&#x202f;: aucun fichier ne nomme cette boîte de dialogue.</translation>
     </message>
 </context>
 <context>

@@ -534,6 +534,22 @@ each time</source>
         <translation>ウインドウなし: オプションを適用して印刷し、終了します。ウインドウで保存した
 もののうち使うのは印刷位置だけなので、スクリプトの結果は毎回同じです</translation>
     </message>
+    <message>
+        <source>--%1 stands alone, without photos and other options.</source>
+        <translation>--%1 は単独で指定します。写真やほかのオプションは指定できません。</translation>
+    </message>
+    <message>
+        <source>have the programs that print through the desktop&apos;s portal use this
+dialog: sets one key of your portals.conf, and says in which file.
+Needs the package corvel-print-portal</source>
+        <translation>デスクトップのポータル経由で印刷するプログラムに、このダイアログを使わせる。
+portals.conf のキーを 1 つ設定し、どのファイルかを表示する。
+パッケージ corvel-print-portal が必要</translation>
+    </message>
+    <message>
+        <source>remove that key again</source>
+        <translation>そのキーを取り除く</translation>
+    </message>
 </context>
 <context>
     <name>CommonValue</name>
@@ -1178,6 +1194,81 @@ each time</source>
         <source>%1 &quot;%2&quot;</source>
         <comment>an option and its choice</comment>
         <translation>%1「%2」</translation>
+    </message>
+</context>
+<context>
+    <name>PortalSwitch</name>
+    <message>
+        <source>Other programs reach this dialog through %1, which is not installed. Get it with the package %1.</source>
+        <translation>ほかのプログラムは %1 を通じてこのダイアログを使いますが、インストールされていません。パッケージ %1 で入手できます。</translation>
+    </message>
+    <message>
+        <source>%1 %2 does not let each user choose: the installed package decides for everybody. Programs use this dialog while %3 is installed; install or remove it.</source>
+        <translation>%1 %2 ではユーザーごとに選べず、インストールされたパッケージが全員について決めます。%3 がインストールされている間、プログラムはこのダイアログを使います。インストールするか、削除してください。</translation>
+    </message>
+    <message>
+        <source>The part of this program that other programs print with is not installed. Get it with the package %1.</source>
+        <translation>ほかのプログラムが印刷に使う部分がインストールされていません。パッケージ %1 で入手できます。</translation>
+    </message>
+    <message>
+        <source>It is not known which desktop this is: XDG_CURRENT_DESKTOP is not set. Run it in a terminal of your desktop.</source>
+        <translation>どのデスクトップか分かりません。XDG_CURRENT_DESKTOP が設定されていません。デスクトップの端末で実行してください。</translation>
+    </message>
+    <message>
+        <source>The file %1 is ignored by %2, because of its line %3. Correct that line or remove the file.</source>
+        <translation>ファイル %1 は、%3 行目のために %2 に無視されます。その行を直すか、ファイルを削除してください。</translation>
+    </message>
+    <message>
+        <source>The file %1 was changed just now. Try again.</source>
+        <translation>ファイル %1 はたった今変更されました。もう一度試してください。</translation>
+    </message>
+    <message>
+        <source>It takes effect when you log in the next time, or at once with: %1</source>
+        <translation>次回のログイン時に有効になります。すぐに有効にするには: %1</translation>
+    </message>
+    <message>
+        <source>The version of %1 cannot be found out. Before 1.17 it does not read this file, and the installed package decides.</source>
+        <translation>%1 のバージョンが分かりません。1.17 より前のものはこのファイルを読まず、インストールされたパッケージが決めます。</translation>
+    </message>
+    <message>
+        <source>Already so: %1 has &quot;%2&quot;.</source>
+        <translation>すでにそうなっています: %1 に「%2」があります。</translation>
+    </message>
+    <message>
+        <source>%1 has &quot;%2&quot; now.</source>
+        <translation>%1 に「%2」が入りました。</translation>
+    </message>
+    <message>
+        <source>Made %1, a copy of %3, with &quot;%2&quot;.</source>
+        <translation>%3 のコピーに「%2」を加えて、%1 を作成しました。</translation>
+    </message>
+    <message>
+        <source>Made %1, with &quot;%2&quot;.</source>
+        <translation>「%2」を入れて %1 を作成しました。</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be removed: %2.</source>
+        <translation>ファイル %1 を削除できません: %2。</translation>
+    </message>
+    <message>
+        <source>Removed %1, which held nothing else of its own.</source>
+        <translation>ほかに独自の内容がないため、%1 を削除しました。</translation>
+    </message>
+    <message>
+        <source>%1 does not name this dialog any more.</source>
+        <translation>%1 からこのダイアログの指定がなくなりました。</translation>
+    </message>
+    <message>
+        <source>The file %1 of the system has &quot;%2&quot;, for all its users. Only an administrator can change it.</source>
+        <translation>システムのファイル %1 に、全ユーザー向けに「%2」があります。変更できるのは管理者だけです。</translation>
+    </message>
+    <message>
+        <source>Already so: %1 does not name this dialog.</source>
+        <translation>すでにそうなっています: %1 にこのダイアログの指定はありません。</translation>
+    </message>
+    <message>
+        <source>Already so: no file names this dialog.</source>
+        <translation>すでにそうなっています: どのファイルにもこのダイアログの指定はありません。</translation>
     </message>
 </context>
 <context>
