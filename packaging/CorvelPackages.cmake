@@ -1,15 +1,15 @@
 # SPDX-FileCopyrightText: Corvel print dialog authors
 # SPDX-License-Identifier: Apache-2.0
 
-# Debian packages: cpack -G DEB. One for the program with its plug-in, one for the library that other plug-ins use as
-# well, one for those who build them.
+# Debian packages: cpack -G DEB. One for the program with its plug-in, one that has other programs print with it, one for
+# the library that other plug-ins use as well, one for those who build them.
 set(library libpdekit${PROJECT_VERSION_MAJOR})
-set(packages corvel-print ${library} libpdekit-dev)
+set(packages corvel-print corvel-print-portal ${library} libpdekit-dev)
 
 # What only a Debian package has.
 corvel_compress(${CMAKE_CURRENT_SOURCE_DIR}/debian/changelog ${CMAKE_CURRENT_BINARY_DIR}/changelog.gz)
 add_custom_target(corvel_changelog ALL DEPENDS ${CMAKE_CURRENT_BINARY_DIR}/changelog.gz)
-foreach(component IN ITEMS program library development)
+foreach(component IN ITEMS program portal library development)
     list(POP_FRONT packages package)
     install(FILES debian/copyright ${CMAKE_CURRENT_BINARY_DIR}/changelog.gz
         DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/${package} COMPONENT ${component}_debian EXCLUDE_FROM_ALL)
@@ -61,6 +61,18 @@ color adjustments, sharpness, print quality and surface finish.
 
 It prints through CUPS, or without any printer into a PDF file with a job
 ticket beside it.")
+
+# A package of its own: before xdg-desktop-portal 1.17, what is installed decides for all users.
+set(CPACK_DEBIAN_PORTAL_PACKAGE_DEPENDS "corvel-print (= ${PROJECT_VERSION}), ${library} (= ${PROJECT_VERSION})")
+set(CPACK_DEBIAN_PORTAL_PACKAGE_RECOMMENDS "xdg-desktop-portal")
+set(CPACK_DEBIAN_PORTAL_PACKAGE_SUGGESTS "ghostscript")
+set(CPACK_DEBIAN_PORTAL_PACKAGE_SECTION graphics)
+set(CPACK_DEBIAN_PORTAL_DESCRIPTION "print portal that shows a photo-print dialog
+Programs that print through xdg-desktop-portal, such as those from Flatpak,
+show the print dialog corvel-print in place of the desktop's own.
+
+With xdg-desktop-portal before 1.17 that holds for all users; from then on
+each user chooses it with corvel-print --use-for-all-programs.")
 
 set(CPACK_DEBIAN_LIBRARY_PACKAGE_SECTION libs)
 set(CPACK_DEBIAN_LIBRARY_PACKAGE_GENERATE_SHLIBS ON)

@@ -88,6 +88,10 @@ grep -q '"Red": "7"' "$root/tmp/check/sample.ticket.json" || fail "the option di
 [ "$(head -c 5 "$root/tmp/check/sample.pdf")" = %PDF- ] || fail "sample.pdf is not a PDF file."
 inside corvel-print --printer built-in --list-options | grep 'Color Adjustments' >/dev/null || fail "the plug-in was not found."
 step "prints"
+service=/usr/share/dbus-1/services/org.freedesktop.impl.portal.desktop.corvel.service
+program=$(inside sed -n 's/^Exec="\(.*\)"$/\1/p' "$service")
+inside test -x "$program" || fail "the session bus cannot start \"$program\"."
+inside test -e /usr/share/xdg-desktop-portal/portals/corvel.portal || fail "the portal does not know the dialog."
 inside apt-get purge -y -qq -o Dpkg::Use-Pty=0 corvel-print 'libpdekit*' >/dev/null
 left=$(names)
 [ -z "$left" ] || fail "left behind after removal: $left"

@@ -52,19 +52,35 @@ class DesktopFilesTest(CommandTest):
             for language in LANGUAGES:
                 self.assertEqual(counts[name, language], counts[name, None], (name, language))
 
-    # It is started with the folder's path in one piece, whatever characters that has.
+    # The watching one is started with the folder's path in one piece, whatever characters that has.
     @unittest.skipUnless(shutil.which("systemd-analyze"), "There is no systemd.")
-    def test_unit_is_valid(self):
-        with tempfile.TemporaryDirectory() as folder:
-            unit = pathlib.Path(SOURCE, "packaging/corvel-print-watch@.service").read_text(encoding="utf-8")
-            self.assertIn("\nExecStart=corvel-print --watch %f ", unit)
-            name = self.output_of("systemd-escape", "--path", "--template=corvel-print-watch@.service",
-                                  "/home/me/My Photos-new").strip()
-            # The program is not installed here.
-            pathlib.Path(folder, name).write_text(unit.replace("ExecStart=corvel-print", "ExecStart=/bin/true"),
-                                                  encoding="utf-8")
-            self.assertEqual(self.output_of("systemd-analyze", "--user", "--man=no", "verify", f"{folder}/{name}",
-                                            XDG_RUNTIME_DIR=folder), "")
+    def test_units_are_valid(self):
+        def unit(name):
+            return pathlib.Path(SOURCE, "packaging", name).read_text(encoding="utf-8")
+
+        watching = unit("corvel-print-watch@.service")
+        self.assertIn("\nExecStart=corvel-print --watch %f ", watching)
+        name = self.output_of("systemd-escape", "--path", "--template=corvel-print-watch@.service",
+                              "/home/me/My Photos-new").strip()
+        # The programs are not installed here.
+        for name, text in ((name, watching.replace("ExecStart=corvel-print", "ExecStart=/bin/true")),
+                           ("corvel-print-portal.service",
+                            unit("corvel-print-portal.service.in").replace("@CORVEL_PORTAL_PROGRAM@", "/bin/true"))):
+            with tempfile.TemporaryDirectory() as folder:
+                path = pathlib.Path(folder, name)
+                path.write_text(text, encoding="utf-8")
+                self.assertEqual(self.output_of("systemd-analyze", "--user", "--man=no", "verify", path,
+                                                XDG_RUNTIME_DIR=folder), "")
+
+    # The portal's front end finds the program by the name that the session bus starts it for.
+    def test_portal_agrees_with_its_service(self):
+        portal, service = configparser.RawConfigParser(), configparser.RawConfigParser()
+        portal.read(f"{SOURCE}/packaging/corvel.portal")
+        name = portal["portal"]["DBusName"]
+        service.read(f"{SOURCE}/packaging/{name}.service.in")
+        self.assertEqual(service["D-BUS Service"]["Name"], name)
+        unit = pathlib.Path(SOURCE, "packaging", service["D-BUS Service"]["SystemdService"] + ".in")
+        self.assertIn(f"\nBusName={name}\n", unit.read_text(encoding="utf-8"))
 
 
 unittest.main()

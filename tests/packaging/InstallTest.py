@@ -1,18 +1,19 @@
 # SPDX-FileCopyrightText: Corvel print dialog authors
 # SPDX-License-Identifier: Apache-2.0
-"""InstallTest.py CMAKE COMPILER BUILD BINDIR LIBDIR DATADIR PHOTO IS_SANITIZED: the program as it is installed, away from
-where it was built."""
+"""InstallTest.py CMAKE COMPILER BUILD BINDIR LIBDIR LIBEXECDIR DATADIR PHOTO IS_SANITIZED: the program as it is
+installed, away from where it was built."""
 
 import json
 import os
 import pathlib
+import re
 import sys
 import tempfile
 import unittest
 
 from commands import SOURCE, CommandTest, content, run
 
-CMAKE, COMPILER, BUILD, BINDIR, LIBDIR, DATADIR, PHOTO, IS_SANITIZED = sys.argv[1:]
+CMAKE, COMPILER, BUILD, BINDIR, LIBDIR, LIBEXECDIR, DATADIR, PHOTO, IS_SANITIZED = sys.argv[1:]
 PLACE = tempfile.TemporaryDirectory()
 FOLDER = pathlib.Path(PLACE.name)
 PREFIX = FOLDER / "in stalled"
@@ -66,6 +67,11 @@ class InstallTest(CommandTest):  # in the order of the names
                      "ppd/corvel-print/Corvel9045.ppd"):
             self.assertTrue((PREFIX / DATADIR / file).exists(), file)
         self.assertTrue((PREFIX / "lib/systemd/user/corvel-print-watch@.service").exists())
+        self.assertTrue((PREFIX / DATADIR / "xdg-desktop-portal/portals/corvel.portal").exists())
+        started = [re.search("^Exec(?:Start)?=(.*)$", (PREFIX / file).read_text(), re.MULTILINE)[1]
+                   for file in (f"{DATADIR}/dbus-1/services/org.freedesktop.impl.portal.desktop.corvel.service",
+                                "lib/systemd/user/corvel-print-portal.service")]
+        self.assertEqual(started, [f'"{PREFIX}/{LIBEXECDIR}/corvel-print-portal"'] * 2)
         for program in "corvel-printer-list", "corvel-screen-profile":
             self.assertTrue((PREFIX / LIBDIR / "corvel-print" / program).exists(), program)
         # Authors of plug-ins get the headers that they need; the others may change.
