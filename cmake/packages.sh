@@ -14,7 +14,7 @@ corvel_build_packages=(
 corvel_test_packages=(
     cups cups-client cups-filters poppler-utils appstream desktop-file-utils bash-completion groff-base
     at-spi2-core dbus xvfb avahi-daemon cups-ipp-utils iproute2 qpdf
-    xdg-desktop-portal gir1.2-gtk-3.0 python3-gi python3-gi-cairo ghostscript
+    xdg-desktop-portal gir1.2-gtk-3.0 python3-gi python3-gi-cairo ghostscript xdotool openbox
 )
 
 corvel_bench_packages=(img2pdf imagemagick libgtk-3-dev libvips-dev xvfb)
