@@ -4,6 +4,7 @@
 #include "JobPlan.h"
 
 #include "JobTemplate.h"
+#include "PageChoice.h"
 #include "PhotoCheck.h"
 #include "PrintedNames.h"
 #include "PrinterAddress.h"
