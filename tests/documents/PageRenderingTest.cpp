@@ -21,8 +21,6 @@ QRgb at(const QImage &image, double x, double y)
     return image.pixel(int(x * image.width()), int(y * image.height()));
 }
 
-constexpr QRgb red = qRgb(255, 0, 0);
-constexpr QRgb blue = qRgb(0, 0, 255);
 constexpr QRgb white = qRgb(255, 255, 255);
 
 QByteArray form(const QByteArray &content, const QByteArray &forms)

@@ -7,6 +7,7 @@
 
 #include <QtCore/QByteArray>
 #include <QtCore/QStringList>
+#include <QtGui/QRgb>
 
 /// In the place of a reason, where there is no failure.
 inline constexpr auto fine = printdialog::DocumentFault(-1);
@@ -33,8 +34,9 @@ struct Page
 /// Pages, with further objects; those are numbered from 10 on. Fewer than four pages.
 QByteArray withPages(const QList<Page> &pages, const QByteArrayList &further = {},
                      const QByteArray &catalog = {});
-/// Two red squares of 20 points: at the lower left corner of a box that begins at (x, y), and to the right of
-/// it a blue one.
+inline constexpr QRgb red = qRgb(255, 0, 0);
+inline constexpr QRgb blue = qRgb(0, 0, 255);
+/// A red square of 20 points with its lower left corner at (x, y), and a blue one to the right of it.
 QByteArray marks(int x = 0, int y = 0);
 /// Text on as many pages, in one font.
 QByteArray text(int pages);
