@@ -59,6 +59,8 @@ Result<QByteArray, DocumentFault> composeDocument(const QList<ComposedSheet> &sh
         }
         request.sheets.push_back(std::move(planned));
     }
+    if (!pagesRequestOf(toBytes(request))) // such as a sheet without a size
+        return DocumentTexts::of(DocumentFault::Broken, sources.names.value(0, title));
     auto result = runPages(request, sources.descriptors, sources.names, sources.size);
     for (const Document &document : std::as_const(sources.documents)) {
         if (const auto content = document.content(); !content)

@@ -67,10 +67,10 @@ std::optional<Failure<DocumentFault>> failureOf(const PagesAnswer &answer, const
 
 QString documentHelper(const char *name)
 {
-    const QString folder = !otherFolder().isEmpty()
-                               ? otherFolder()
-                               : QCoreApplication::applicationDirPath() +
-                                     QLatin1String("/" CORVEL_DOCUMENT_HELPERS_FROM_PROGRAM);
+    // Asked once, since several threads may be the first to ask.
+    static const QString installed =
+        QCoreApplication::applicationDirPath() + QLatin1String("/" CORVEL_DOCUMENT_HELPERS_FROM_PROGRAM);
+    const QString &folder = otherFolder().isEmpty() ? installed : otherFolder();
     return QDir::cleanPath(folder + u'/' + QLatin1String(name));
 }
 

@@ -44,15 +44,19 @@ int start(const QByteArray &program, const std::vector<int> &descriptors, pid_t 
     posix_spawn_file_actions_init(&actionList);
     const std::unique_ptr<posix_spawn_file_actions_t, ActionsDeleter> actions(&actionList);
     constexpr int firstFree = STDERR_FILENO + 1;
-    // Copies above all the child's own numbers, so that none overwrites another.
+    // From above all the child's own numbers, so that none overwrites another.
     const int end = firstFree + std::max(0, static_cast<int>(descriptors.size()) - 1);
     std::vector<FileDescriptor> copies;
     int number = STDIN_FILENO;
     for (const int descriptor : descriptors) {
-        copies.emplace_back(::fcntl(descriptor, F_DUPFD_CLOEXEC, end));
-        if (!copies.back().isOpen())
-            return errno;
-        posix_spawn_file_actions_adddup2(actions.get(), copies.back().number(), number);
+        int source = descriptor;
+        if (source < end) {
+            copies.emplace_back(::fcntl(source, F_DUPFD_CLOEXEC, end));
+            source = copies.back().number();
+            if (source < 0)
+                return errno;
+        }
+        posix_spawn_file_actions_adddup2(actions.get(), source, number);
         number = std::max(number + 1, firstFree);
     }
     posix_spawn_file_actions_addopen(actions.get(), STDOUT_FILENO, "/dev/null", O_WRONLY, 0);

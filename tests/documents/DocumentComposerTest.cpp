@@ -291,6 +291,25 @@ private Q_SLOTS:
         QCOMPARE(text.count("(Page 7, line 3 "), 1);
     }
 
+    /// All pages have one list of pictures, as some programs write it.
+    void takesNoPicturesOfOtherPages()
+    {
+        const QByteArray page = plain + " /Resources 10 0 R";
+        const auto picture = [](const QByteArray &color) {
+            return stream(color + " rg 0 0 100 100 re f",
+                          "/Type /XObject /Subtype /Form /BBox [0 0 100 100]");
+        };
+        const Document document = inMemory(
+            withPages({{"/A Do", page}, {"/B Do", page}},
+                      {"<< /XObject << /A 11 0 R /B 12 0 R >> >>", picture("0 1 0"), picture("0 0 1")}));
+        for (const auto &sheets : {asItIs(document), inPairs(document)}) {
+            const QByteArray all = readable(composed(sheets));
+            QVERIFY(all.contains("0 1 0 rg") && all.contains("0 0 1 rg"));
+        }
+        const QByteArray one = readable(composed({asItIs(document).constLast()}));
+        QVERIFY(!one.contains("0 1 0 rg") && one.contains("0 0 1 rg"));
+    }
+
     void isTheSameEachTime()
     {
         const Document document = inMemory(withPages({{marks(), plain}, {marks(9, 9), plain}}));
@@ -309,7 +328,8 @@ private Q_SLOTS:
         QCOMPARE(reasonOf(missing), DocumentFault::Broken);
         QVERIFY(missing.failure().text.contains(u"document"));
         const QTransform endless(qInf(), 0, 0, 1, 0, 0);
-        QVERIFY(!composeDocument({{{300, 200}, {placed(good, 0, endless)}}}, {}));
+        QCOMPARE(reasonOf(composeDocument({{{300, 200}, {placed(good, 0, endless)}}}, {})),
+                 DocumentFault::Broken);
         QVERIFY(!composeDocument({}, {}));
     }
 };

@@ -12,6 +12,7 @@
 #include <charconv>
 #include <cmath>
 #include <deque>
+#include <set>
 #include <stdexcept>
 
 namespace printdialog {
@@ -100,6 +101,7 @@ public:
 
     void write(Pipeline &output)
     {
+        dropUnused();
         // The pages that stay as they are come first, since they keep their annotations.
         std::vector<QPDFObjectHandle> pages(request_.sheets.size());
         for (std::size_t i = 0; i < pages.size(); ++i) {
@@ -132,6 +134,23 @@ private:
             throw std::out_of_range("no such page");
         current_ = page.document;
         return sources_[page.document];
+    }
+
+    void dropUnused()
+    {
+        std::vector<std::set<std::uint32_t>> used(sources_.size());
+        for (const PlannedSheet &sheet : request_.sheets) {
+            for (const PlannedPage &page : sheet.pages) {
+                source(page);
+                used[page.document].insert(page.page);
+            }
+        }
+        for (std::size_t i = 0; i < used.size(); ++i) {
+            for (const std::uint32_t page : used[i]) {
+                if (used[i].size() < sources_[i].pageCount())
+                    sources_[i].dropUnused(page);
+            }
+        }
     }
 
     QPDFObjectHandle composed(const PlannedSheet &sheet)

@@ -71,6 +71,17 @@ QPDFObjectHandle PageSource::printedAnnotations(QPDFPageObjectHelper page)
     return printed;
 }
 
+void PageSource::dropUnused(std::uint32_t number)
+{
+    QPDFPageObjectHelper page(pages_.at(number));
+    QPDFObjectHandle resources = page.getAttribute("/Resources", false);
+    if (!resources.isDictionary())
+        return;
+    QPDFObjectHandle pictures = resources.getKey("/XObject");
+    if (pictures.isDictionary() && pictures.getKeys().size() > 1)
+        page.removeUnreferencedResources();
+}
+
 QPDFObjectHandle PageSource::asPage(std::uint32_t number)
 {
     QPDFPageObjectHelper page(pages_.at(number));

@@ -23,6 +23,9 @@ public:
     std::size_t pageCount() const { return pages_.size(); }
     SeenBox seen(std::uint32_t page) const { return SeenBox::of(pages_.at(page)); }
 
+    /// Takes from a page what it does not show, when it may have that in common with pages that are not
+    /// printed: some programs give all pages one list of all pictures.
+    void dropUnused(std::uint32_t page);
     /// A page of its own size, with nothing but what is printed of it: no actions, no form fields, no files.
     QPDFObjectHandle asPage(std::uint32_t page);
     /// From then on no page has annotations; those that are printed are part of the pages.
