@@ -9,12 +9,15 @@
 #include "PrivateCupsd.h"
 #include "Rows.h"
 #include "SamplePhotos.h"
+#include "SheetPdf.h"
 #include "TestMain.h"
 
 #include <QtCore/QBuffer>
 #include <QtCore/QProcess>
 #include <QtCore/QTemporaryDir>
+#include <QtGui/QPageSize>
 #include <QtGui/QPainter>
+#include <QtGui/QPdfWriter>
 #include <QtTest/QTest>
 
 #include <algorithm>
@@ -131,8 +134,12 @@ QImage shown(const PrintSheet &sheet, const PageGeometry &page)
     view.center = QRectF(QPointF(), page.size).center();
     PagePainter painter;
     painter.setSheet(sheet, -1);
-    for (qsizetype i = 0; i < sheet.photos.size(); ++i)
-        painter.setPhoto(i, {sheet.photos.at(i).photo.pixels({800, 800}), {}, {}});
+    for (qsizetype i = 0; i < sheet.photos.size(); ++i) {
+        // The edge of a page may lie between two of its pixels.
+        const Photo &photo = sheet.photos.at(i).photo;
+        const int detail = photo.document() ? PagePhoto::mostDetail : PagePhoto::usualDetail;
+        painter.setPhoto(i, {photo.pixels({detail, detail}), {}, {}});
+    }
     QImage picture(view.room.toSize(), QImage::Format_RGB32);
     picture.fill(Qt::white);
     QPainter canvas(&picture);
@@ -170,6 +177,34 @@ private:
         return all;
     }
 
+    /// A tall photo between two tall pages and a wide one, each of one color.
+    Arrangement mixed(const QString &layout, const PlacementChoice &choice)
+    {
+        Arrangement all;
+        const QString path = folder_.filePath(u"pages.pdf"_s);
+        {
+            QPdfWriter writer(path);
+            writer.setPageMargins({});
+            writer.setResolution(72);
+            QPainter painter;
+            for (const auto &[size, color] : {std::pair(QSizeF(100, 140), qRgb(170, 20, 20)),
+                                              {QSizeF(100, 140), qRgb(10, 110, 40)},
+                                              {QSizeF(150, 110), qRgb(90, 20, 120)}}) {
+                writer.setPageSize(QPageSize(size, QPageSize::Millimeter, {}, QPageSize::ExactMatch));
+                painter.isActive() ? void(writer.newPage()) : void(painter.begin(&writer));
+                painter.fillRect(QRectF(0, 0, 2000, 2000), QColor(color));
+            }
+        }
+        const auto pages = Photo::openAll(path);
+        if (!pages)
+            qFatal("%s", qPrintable(pages.failure().text));
+        for (const Photo &page : *pages)
+            all.photos += PlacedPhoto{page, choice};
+        all.photos.insert(1, {photoOf(u"tall.jpg"_s, QSize(400, 640), qRgb(20, 20, 150)), choice});
+        all.layout = *SheetLayout::fromText(layout);
+        return all;
+    }
+
     /// The PDF's only page. Unlike pdftoppm, this program covers a part of a dot in part, so that edges are
     /// where they are.
     QImage printed(const QByteArray &pdf)
@@ -188,6 +223,10 @@ private Q_SLOTS:
     void previewIsWhatIsPrinted_data()
     {
         const auto add = rows<QString, PlacementChoice, PageGeometry>();
+        const auto addPages = [&add](const char *name, const QString &layout, const PlacementChoice &choice,
+                                     const PageGeometry &page) {
+            add(name, u"pages "_s + layout, choice, page);
+        };
         const auto sized = [](const QString &size, Scaling scaling, double border = 0, QRgb color = 0) {
             PlacementChoice choice{scaling};
             choice.size = PrintSize::fromText(size);
@@ -209,18 +248,27 @@ private Q_SLOTS:
         add("upright strips", u"strips:3"_s, fill, bordered);
         add("lying strips", u"strips:4"_s, fill, lying);
         add("borderless grid", u"2x2,gap=0mm"_s, fill, borderless);
+        addPages("a page, fitted", u"single"_s, fit, bordered);
+        addPages("a page, turned", u"single"_s, PlacementChoice{Scaling::Fit, 1}, bordered);
+        addPages("a page in its size", u"single"_s, PlacementChoice{Scaling::ActualSize}, bordered);
+        addPages("a page with a border", u"single"_s,
+                 sized(u"7x10cm"_s, Scaling::Fill, 3 * mm, qRgb(255, 240, 180)), bordered);
+        addPages("two pages and a photo between them", u"pages:4,gap=4mm"_s, fit, bordered);
+        addPages("the same with captions", u"2x2,caption=name"_s, fit, bordered);
+        addPages("a booklet", u"booklet"_s, fit, bordered);
     }
 
     void previewIsWhatIsPrinted()
     {
         const auto [layout, choice, page] = row<QString, PlacementChoice, PageGeometry>();
-        const Arrangement all = arrangement(layout, choice);
+        const QStringList words = layout.split(u' ');
+        const Arrangement all = words.size() > 1 ? mixed(words.at(1), choice) : arrangement(layout, choice);
         const SheetPlan plan = all.plan(page);
         QVERIFY2(!plan.failure(), plan.failure() ? qPrintable(plan.failure()->text) : "");
         PrintSheet sheet = all.sheet(plan.sheets().constFirst());
         QBuffer pdf;
         pdf.open(QIODevice::WriteOnly);
-        PdfWriter writer(pdf);
+        SheetPdf writer(pdf, sheet.hasPages());
         QVERIFY(!writer.add(sheet, page) && !writer.finish());
         const QImage paper = printed(pdf.data());
         QVERIFY(std::abs(paper.width() - shown(sheet, page).width()) <= 1);
