@@ -26,7 +26,7 @@ using pdekit::FileDescriptor;
 
 constexpr int slice = 50; // milliseconds until it is seen that it is canceled
 constexpr std::size_t blockSize = 1 << 17;
-constexpr qsizetype headSize = 1024; // a PDF begins within it (PDF 1.7, appendix H.3.4.1)
+constexpr qsizetype headSize = 1000; // bytes
 
 /// Reads a descriptor that may block, and whose flags belong to the program as well.
 class Source
@@ -96,7 +96,7 @@ Format formatOf(const QByteArray &head)
 {
     if (head.startsWith("%!"))
         return Format::PostScript;
-    return head.contains("%PDF-") ? Format::Pdf : Format::Unknown;
+    return Document::isDocument(head) ? Format::Pdf : Format::Unknown;
 }
 
 bool writeAll(int descriptor, const char *bytes, std::size_t size)
@@ -147,6 +147,15 @@ bool seal(const FileDescriptor &file)
            fcntl(file.number(), F_ADD_SEALS, F_SEAL_WRITE | F_SEAL_SHRINK | F_SEAL_GROW | F_SEAL_SEAL) == 0;
 }
 
+Arrival arrival(TakenDocument taken, const QString &name)
+{
+    if (!taken)
+        return taken.failure();
+    FileDescriptor copy(fcntl(taken->number(), F_DUPFD_CLOEXEC, 0));
+    auto document = Document::open(std::move(copy), name);
+    return ArrivedDocument{*std::move(taken), std::move(document)};
+}
+
 FileDescriptor makeFile()
 {
     return FileDescriptor(memfd_create("document", MFD_CLOEXEC | MFD_ALLOW_SEALING));
@@ -179,7 +188,7 @@ TakenDocument takeDocument(FileDescriptor source, const QString &name, const Int
 struct DocumentIntake::State
 {
     std::atomic<bool> isCanceled = false;
-    std::optional<TakenDocument> result;
+    std::optional<Arrival> result;
 };
 
 DocumentIntake::DocumentIntake(FileDescriptor source, const QString &name, const IntakeLimits &limits,
@@ -189,7 +198,7 @@ DocumentIntake::DocumentIntake(FileDescriptor source, const QString &name, const
 {
     auto *thread = QThread::create(
         [state = state_, held = std::make_shared<FileDescriptor>(std::move(source)), name, limits] {
-            state->result = takeDocument(std::move(*held), name, limits, &state->isCanceled);
+            state->result = arrival(takeDocument(std::move(*held), name, limits, &state->isCanceled), name);
         });
     connect(thread, &QThread::finished, thread, &QObject::deleteLater);
     connect(thread, &QThread::finished, this, &DocumentIntake::taken);
@@ -201,7 +210,7 @@ DocumentIntake::~DocumentIntake()
     state_->isCanceled = true;
 }
 
-TakenDocument DocumentIntake::result()
+Arrival DocumentIntake::result()
 {
     return *std::exchange(state_->result, std::nullopt);
 }

@@ -47,7 +47,15 @@ using TakenDocument = Result<pdekit::FileDescriptor, IntakeFault>;
 TakenDocument takeDocument(pdekit::FileDescriptor source, const QString &name,
                            const IntakeLimits &limits = {}, const std::atomic<bool> *isCanceled = nullptr);
 
-/// Takes a document on a thread of its own.
+/// A program's document that has arrived.
+struct ArrivedDocument
+{
+    pdekit::FileDescriptor content; ///< Sealed.
+    Result<Document, DocumentFault> document;
+};
+using Arrival = Result<ArrivedDocument, IntakeFault>;
+
+/// Takes a document, and reads its pages, on a thread of its own.
 class DocumentIntake : public QObject
 {
     Q_OBJECT
@@ -59,7 +67,7 @@ public:
     ~DocumentIntake() override;
 
     /// The document, once; after taken().
-    TakenDocument result();
+    Arrival result();
 
 Q_SIGNALS:
     void taken();

@@ -135,7 +135,7 @@ QString send(const PrintJob &job, const JobDocument &document, int *cancel, int 
 
 DocumentRun::DocumentRun(const PrintJob &job, pdekit::FileDescriptor content, const QString &name,
                          QObject *parent)
-    : QObject(parent)
+    : PortalRun(parent)
     , state_(std::make_shared<State>())
 {
     thread_ = QThread::create(
@@ -153,7 +153,7 @@ DocumentRun::DocumentRun(const PrintJob &job, pdekit::FileDescriptor content, co
 DocumentRun::~DocumentRun()
 {
     State::raise(state_->cancel);
-    leave();
+    State::raise(state_->leave);
     thread_->wait();
 }
 

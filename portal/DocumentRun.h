@@ -4,9 +4,8 @@
 #pragma once
 
 #include "FileDescriptor.h"
+#include "PortalRun.h"
 #include "PrintJob.h"
-
-#include <QtCore/QObject>
 
 #include <memory>
 
@@ -14,8 +13,8 @@ class QThread;
 
 namespace printdialog {
 
-/// Prints a program's document as it is, on a thread of its own, and follows its job to the end.
-class DocumentRun : public QObject
+/// Prints a document that cannot be read here as it is: the print server or the printer may know better.
+class DocumentRun : public PortalRun
 {
     Q_OBJECT
 
@@ -23,15 +22,9 @@ public:
     /// @param content a sealed file with a PDF
     /// @param name the document's, for people and as the job's title
     DocumentRun(const PrintJob &job, pdekit::FileDescriptor content, const QString &name, QObject *parent);
-    /// Stops following. The job being sent is canceled.
     ~DocumentRun() override;
 
-    /// Stops following; what is being sent is sent to its end.
-    void leave();
-
-Q_SIGNALS:
-    /// @param trouble sentences for people about what is not printed; empty when everything is
-    void finished(const QString &trouble);
+    void leave() override;
 
 private:
     struct State;

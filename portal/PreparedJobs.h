@@ -3,8 +3,7 @@
 
 #pragma once
 
-#include "PageChoice.h"
-#include "PrintJob.h"
+#include "ProgramDocument.h"
 #include "Result.h"
 
 #include <chrono>
@@ -17,8 +16,7 @@ namespace printdialog {
 /// A job that waits for its document.
 struct PreparedJob
 {
-    PrintJob job;
-    PageChoice pages = {};
+    PreparedPrint print;
     QString title = {}; ///< The document's, as the program gave it then.
 };
 

@@ -4,17 +4,18 @@
 #include "PrintPortal.h"
 
 #include "DialogSession.h"
-#include "DocumentRun.h"
 #include "ParentWindow.h"
 #include "PlainText.h"
 #include "PortalAnswer.h"
 #include "PortalCall.h"
 #include "PortalChoices.h"
+#include "PortalRun.h"
 #include "PortalSettings.h"
 #include "PresetStore.h"
 #include "PrintAdaptor.h"
 #include "PrintDialog.h"
 #include "ProgramName.h"
+#include "ProgramStyle.h"
 #include "SystemLog.h"
 #include "UserNotice.h"
 
@@ -25,14 +26,12 @@
 #include <QtDBus/QDBusConnectionInterface>
 
 #include <algorithm>
-#include <fcntl.h>
 
 namespace printdialog {
 
 namespace {
 
 const QString objectPath = QStringLiteral("/org/freedesktop/portal/desktop");
-const QString tokenKey = QStringLiteral("token");
 
 /// Deletes the window once no loop of its own runs, as that of a file dialog which is about to end.
 void deleteAfterLoops(PrintDialog *dialog)
@@ -42,12 +41,6 @@ void deleteAfterLoops(PrintDialog *dialog)
         dialog->deleteLater();
     else
         QTimer::singleShot(interval, dialog, [dialog] { deleteAfterLoops(dialog); });
-}
-
-/// The document's title: that of the call, or of the one before it, where the former says nothing.
-QString titleOf(const QString &title, const QString &earlier, const QString &program)
-{
-    return documentName(program, title) == documentName(program, {}) ? earlier : title;
 }
 
 } // namespace
@@ -147,86 +140,45 @@ void PrintPortal::preparePrint(const PortalRequest &request, const QVariantMap &
     const auto asked = PortalSettings::read(settings, pageSetup);
     PrintDialog *dialog = openDialog(call, request, asked);
     connect(dialog, &PrintDialog::prepared, call,
-            [this, call, request, asked, format](const PrintJob &job, const DialogSession &session) {
-                const PageChoice pages = asked.pages();
-                PortalAnswer answer = portalAnswer(asked, job, session.options(), pages, PagesBy::Program);
+            [this, call, request, asked, format](const PreparedPrint &print, const DialogSession &session) {
+                PreparedPrint waiting = print;
+                const PagesBy by = arrangedBy(asked, print);
+                if (by == PagesBy::Program)
+                    waiting.arrangement.pages.isReversed = false;
+                PortalAnswer answer =
+                    portalAnswer(asked, print.job, session.options(), print.arrangement.pages, by);
                 answer.settings.insert(portal_keys::fileFormat, *format);
-                const quint32 token = prepared_.add(request.program, {job, pages, request.title});
+                const quint32 token = prepared_.add(request.program, {waiting, request.title});
                 call->answer(PortalResponse::Done, {{QStringLiteral("settings"), answer.settings},
                                                     {QStringLiteral("page-setup"), answer.pageSetup},
-                                                    {tokenKey, token}});
+                                                    {QStringLiteral("token"), token}});
             });
-}
-
-void PrintPortal::print(const PortalRequest &request, int document)
-{
-    PortalCall *call = begin(request);
-    if (!call)
-        return;
-    std::optional<PreparedJob> prepared;
-    if (const quint32 token = request.options.value(tokenKey).toUInt(); token != 0) {
-        auto taken = prepared_.take(token, request.program);
-        if (!taken)
-            return refuse(call, taken.failure().detail);
-        prepared = *std::move(taken);
-    }
-    constexpr int lowest = 3;
-    pdekit::FileDescriptor source(fcntl(document, F_DUPFD_CLOEXEC, lowest));
-    const QString program = programName(request.program);
-    const QString name =
-        documentName(program, titleOf(request.title, prepared ? prepared->title : QString(), program));
-    auto *intake = new DocumentIntake(std::move(source), name, settings_.intake, call);
-    connect(intake, &DocumentIntake::taken, call,
-            [this, call, request, prepared, intake] { finish(call, request, prepared, intake->result()); });
-}
-
-/// The document is here, or cannot be: the caller may close its file.
-void PrintPortal::finish(PortalCall *call, const PortalRequest &request,
-                         const std::optional<PreparedJob> &prepared, TakenDocument taken)
-{
-    if (!calls_.contains(call))
-        return; // closed meanwhile
-    const QString program = programName(request.program);
-    const QString name =
-        documentName(program, titleOf(request.title, prepared ? prepared->title : QString(), program));
-    if (!taken) {
-        notice_->show(tr("%1 was not printed").arg(name), taken.failure().text);
-        call->answer(PortalResponse::Failed);
-        return close(call);
-    }
-    if (prepared) {
-        call->answer(PortalResponse::Done);
-        run(prepared->job, *std::move(taken), name);
-        return close(call);
-    }
-    const auto content = std::make_shared<pdekit::FileDescriptor>(*std::move(taken));
-    PrintDialog *dialog = openDialog(call, request, PortalSettings());
-    connect(dialog, &PrintDialog::prepared, call, [this, call, content, name](const PrintJob &job) {
-        call->answer(PortalResponse::Done);
-        run(job, std::move(*content), name);
-    });
 }
 
 // The dialog
 
 PrintDialog *PrintPortal::openDialog(PortalCall *call, const PortalRequest &request,
-                                     const PortalSettings &settings)
+                                     const PortalSettings &settings, const std::optional<Arrangement> &pages)
 {
     const auto isSet = [&request](const char *option, bool otherwise) {
         return request.options.value(QLatin1String(option), otherwise).toBool();
     };
     const QString program = programName(request.program);
     PrintDialogSetup setup;
-    setup.program =
-        ProgramDocument{program,
-                        documentName(program, request.title),
-                        buttonText(request.options.value(QStringLiteral("accept_label")).toString()),
-                        isSet("has_current_page", false),
-                        isSet("has_selected_pages", false),
-                        settings.remarks(),
-                        [settings](const OptionSource &source) {
-                            return portalChoices(settings, source);
-                        }};
+    setup.program = ProgramDocument{
+        .program = program,
+        .name = documentName(program, request.title),
+        .acceptLabel = buttonText(request.options.value(QStringLiteral("accept_label")).toString()),
+        .hasCurrentPage = isSet("has_current_page", false),
+        .hasSelection = isSet("has_selected_pages", false),
+        .pages = settings.pages(),
+        .remarks = settings.remarks(),
+        .choices = [settings](const OptionSource &source) {
+            return portalChoices(settings, source);
+        }};
+    setup.program->pages.isReversed = settings.isReversed();
+    setup.style = programStyle(settings);
+    setup.arrangement = pages;
     if (const auto printer = settings.printer())
         setup.printer = PresetStore::destination(*printer);
     setup.copies = settings.copies();
@@ -256,21 +208,7 @@ PrintDialog *PrintPortal::openDialog(PortalCall *call, const PortalRequest &requ
     return dialog;
 }
 
-// Printing, and the end
-
-void PrintPortal::run(const PrintJob &job, pdekit::FileDescriptor content, const QString &name)
-{
-    auto *started = new DocumentRun(job, std::move(content), name, this);
-    runs_ += started;
-    connect(started, &DocumentRun::finished, this, [this, started, name](const QString &trouble) {
-        runs_.removeOne(started);
-        started->deleteLater();
-        if (!trouble.isEmpty())
-            notice_->show(tr("%1 was not printed").arg(name), trouble);
-        update();
-    });
-    update();
-}
+// The end
 
 void PrintPortal::end()
 {
@@ -279,7 +217,7 @@ void PrintPortal::end()
     const QList<PrintDialog *> dialogs = dialogs_;
     for (PrintDialog *dialog : dialogs)
         dialog->abandon();
-    for (DocumentRun *run : std::as_const(runs_))
+    for (PortalRun *run : std::as_const(runs_))
         run->leave();
     const QList<PortalCall *> calls = calls_;
     for (PortalCall *call : calls)

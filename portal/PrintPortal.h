@@ -16,8 +16,8 @@
 
 namespace printdialog {
 
-class DocumentRun;
 class PortalCall;
+class PortalRun;
 class PortalSettings;
 class PrintDialog;
 class UserNotice;
@@ -76,10 +76,11 @@ Q_SIGNALS:
 private:
     PortalCall *begin(const PortalRequest &request);
     void refuse(PortalCall *call, const QString &reason);
-    PrintDialog *openDialog(PortalCall *call, const PortalRequest &request, const PortalSettings &settings);
+    PrintDialog *openDialog(PortalCall *call, const PortalRequest &request, const PortalSettings &settings,
+                            const std::optional<Arrangement> &pages = std::nullopt);
     void finish(PortalCall *call, const PortalRequest &request, const std::optional<PreparedJob> &prepared,
-                TakenDocument taken);
-    void run(const PrintJob &job, pdekit::FileDescriptor content, const QString &name);
+                Arrival arrival);
+    void run(PortalRun *run, const QString &name);
     void close(PortalCall *call);
     void update();
 
@@ -91,7 +92,7 @@ private:
     std::optional<std::chrono::steady_clock::time_point> idleSince_; ///< nothing while there is work
     QList<PortalCall *> calls_;
     QList<PrintDialog *> dialogs_;
-    QList<DocumentRun *> runs_;
+    QList<PortalRun *> runs_;
     bool isEnding_ = false;
 };
 

@@ -52,7 +52,7 @@ struct PrintDialogSetup
     bool remembers = true;                 ///< open with the printer used last, and remember the one used now
     std::optional<ArrangementStyle> style; ///< initial arrangement; that of the printer's last use when empty
     std::optional<Arrangement> arrangement; ///< the initial photos of a print list, in place of `photos`
-    /// There are no photos: what is chosen becomes the job of a program's document.
+    /// What is chosen becomes the job of a program's document, and is not printed from here.
     std::optional<ProgramDocument> program = std::nullopt;
 };
 
@@ -106,7 +106,7 @@ public Q_SLOTS:
 Q_SIGNALS:
     /// In place of printing a program's document: how it is to be printed, and the session with the choices.
     /// The window is about to be closed.
-    void prepared(const printdialog::PrintJob &job, const printdialog::DialogSession &session);
+    void prepared(const printdialog::PreparedPrint &print, const printdialog::DialogSession &session);
 
 protected:
     void closeEvent(QCloseEvent *event) override;
@@ -126,6 +126,7 @@ private:
     bool applyOptions(Requested which = Requested::All);
 
     // A program's document
+    bool awaitsPages() const;
     void showProgram();
     void prepare();
 

@@ -18,7 +18,7 @@ void PrintDialog::updateButtons()
     QString reason = printer_->whyNotReady();
     if (reason.isEmpty() && ui_->photos->isOpening())
         reason = tr("Photos are still being opened.");
-    if (reason.isEmpty() && ui_->photos->photos().isEmpty() && !setup_.program)
+    if (reason.isEmpty() && ui_->photos->photos().isEmpty() && !awaitsPages())
         reason = tr("There is no photo to print.");
     if (reason.isEmpty())
         reason = ui_->photos->whyNotPrintable();
@@ -35,12 +35,13 @@ void PrintDialog::updateButtons()
 
 void PrintDialog::print()
 {
-    if (setup_.program)
-        return prepare();
-    if (!isReady() || printing_->isBusy() || ui_->photos->isOpening() || ui_->photos->photos().isEmpty() ||
-        pageStays() || !ui_->customPage->finish() || !ui_->photos->finishTyping() ||
+    const bool hasPages = awaitsPages() || !ui_->photos->photos().isEmpty();
+    if (!isReady() || printing_->isBusy() || ui_->photos->isOpening() || !hasPages || pageStays() ||
+        !ui_->customPage->finish() || !ui_->photos->finishTyping() ||
         !ui_->photos->whyNotPrintable().isEmpty())
         return;
+    if (setup_.program)
+        return prepare();
     if (!printing_->print(ui_->copies->value(), outputFolder(), printer_->queue()))
         return;
     printer_->notePrinted();

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: Corvel print dialog authors
 // SPDX-License-Identifier: Apache-2.0
 
+#include "ChoiceController.h"
 #include "DialogSession.h"
 #include "PrintDialog.h"
 #include "PrintJob.h"
@@ -12,32 +13,42 @@
 
 namespace printdialog {
 
+/// Whether the program brings the pages afterwards.
+bool PrintDialog::awaitsPages() const
+{
+    return setup_.program && (!setup_.arrangement || setup_.arrangement->photos.isEmpty());
+}
+
 void PrintDialog::showProgram()
 {
     const ProgramDocument &program = *setup_.program;
+    choices_->keepOnlyOptions();
     const QString label = program.acceptLabel.isEmpty() ? ui_->print->text() : program.acceptLabel;
     ui_->print->setText(label);
     ui_->documents->setCurrentIndex(ui_->documents->count() - 1); // one PDF, which has the document's name
     ui_->documents->hide();
     ui_->documentName->setText(program.name);
+    setWindowTitle(tr("Print %1").arg(program.name));
+    if (!awaitsPages())
+        return;
     const QString button = QString(label).remove(u'&');
     ui_->photos->awaitPages(
         program.program.isEmpty()
             ? tr("The program brings the pages after you press \"%1\".").arg(button)
             : tr("%1 brings the pages after you press \"%2\".").arg(program.program, button));
-    setWindowTitle(tr("Print %1").arg(program.name));
 }
 
 /// In the place of printing: the program gets what was chosen.
 void PrintDialog::prepare()
 {
-    if (!isReady() || pageStays() || !ui_->customPage->finish())
-        return;
     const auto job = printing_->prepare(ui_->copies->value(), outputFolder(), printer_->queue());
     if (!job)
         return;
     printer_->notePrinted();
-    Q_EMIT prepared(*job, *printer_->session());
+    PreparedPrint made{*job, ui_->photos->arrangement(), ui_->photos->model()->style().placement};
+    if (awaitsPages())
+        made.arrangement.pages = setup_.program->pages;
+    Q_EMIT prepared(made, *printer_->session());
     accept();
 }
 

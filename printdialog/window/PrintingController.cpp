@@ -73,6 +73,10 @@ std::optional<PrintJob> PrintingController::prepare(int copies, const OutputFold
     OutputFolder folder = wanted;
     if (queue.isBuiltIn && !settleName(folder))
         return std::nullopt;
+    if (!widgets_.photos->damagedPhotos().isEmpty()) {
+        askAboutDamage();
+        return std::nullopt;
+    }
     std::optional<SessionJob> made = makeJob(copies);
     if (!made)
         return std::nullopt;

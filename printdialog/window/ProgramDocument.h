@@ -3,6 +3,9 @@
 
 #pragma once
 
+#include "Arrangement.h"
+#include "PrintJob.h"
+
 #include <QtCore/QList>
 #include <QtCore/QPair>
 #include <QtCore/QString>
@@ -21,8 +24,8 @@ struct ProgramChoices
     QStringList remarks;                    ///< A sentence for each that the printer does not have.
 };
 
-/// The document of a program that brings its pages only after it knows how they are printed. All texts are
-/// plain text.
+/// The document of a program. It brings the pages only after it knows how they are printed, unless they are
+/// in the window already. All texts are plain text.
 struct ProgramDocument
 {
     QString program;     ///< The program's name; may be empty.
@@ -30,9 +33,18 @@ struct ProgramDocument
     QString acceptLabel; ///< For the button in the place of "Print", with "&"; mostly empty.
     bool hasCurrentPage = false;
     bool hasSelection = false;
+    PageChoice pages = {};    ///< Which pages it wants.
     QStringList remarks = {}; ///< Sentences to be shown when the window opens.
     /// Called for the printer that the window opens with, and again when more of it is known.
     std::function<ProgramChoices(const OptionSource &)> choices = {};
+};
+
+/// How a program's document is to be printed.
+struct PreparedPrint
+{
+    PrintJob job;
+    Arrangement arrangement;        ///< Without pages where the program is still to bring them.
+    PlacementChoice placement = {}; ///< Of the pages to come.
 };
 
 } // namespace printdialog

@@ -24,9 +24,9 @@ private:
 
     static PreparedJob jobFor(const QString &queue)
     {
-        PrintJob job;
-        job.destination = Destination(queue);
-        return {job};
+        PreparedPrint print;
+        print.job.destination = Destination(queue);
+        return {print};
     }
     std::optional<TokenFault> faultOf(quint32 token, const QString &program)
     {
@@ -49,7 +49,7 @@ private Q_SLOTS:
         QCOMPARE(faultOf(token, u""_s), TokenFault::Foreign);
         const auto taken = jobs_.take(token, u"org.a"_s);
         QVERIFY(taken);
-        QCOMPARE(taken->job.destination.queue, u"laser"_s);
+        QCOMPARE(taken->print.job.destination.queue, u"laser"_s);
         QCOMPARE(faultOf(token, u"org.a"_s), TokenFault::Unknown);
         QCOMPARE(faultOf(0, u"org.a"_s), TokenFault::Unknown);
     }

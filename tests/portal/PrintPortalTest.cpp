@@ -3,6 +3,7 @@
 
 #include "PrintPortal.h"
 #include "OpenedDialog.h"
+#include "PdfSamples.h"
 #include "PrivateBus.h"
 #include "PrivateCupsd.h"
 #include "SystemLog.h"
@@ -21,7 +22,18 @@ using namespace std::chrono_literals;
 namespace {
 
 const QString objectPath = u"/org/freedesktop/portal/desktop"_s;
-const QByteArray sentPdf = "%PDF-1.4\n1 0 obj<</Type/Catalog/Pages 2 0 R>>endobj\n";
+/// Two pages of A4.
+QByteArray letterPdf()
+{
+    const pdf_samples::Page page{pdf_samples::marks(), "/MediaBox [0 0 595 842]"};
+    return pdf_samples::withPages({page, page});
+}
+
+QByteArray fileContent(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
 
 QList<PrintDialog *> dialogs()
 {
@@ -36,6 +48,36 @@ QList<PrintDialog *> dialogs()
 }
 
 } // namespace
+
+/// A desktop's notifications, which read markup.
+class Notifications : public QObject
+{
+    Q_OBJECT
+    Q_CLASSINFO("D-Bus Interface", "org.freedesktop.Notifications")
+
+public:
+    explicit Notifications(const QString &address)
+        : bus_(QDBusConnection::connectToBus(address, u"notifications"_s))
+    {
+        bus_.registerObject(u"/org/freedesktop/Notifications"_s, this, QDBusConnection::ExportAllSlots);
+        bus_.registerService(u"org.freedesktop.Notifications"_s);
+    }
+    ~Notifications() override { QDBusConnection::disconnectFromBus(u"notifications"_s); }
+
+    QStringList shown; ///< summary and body
+
+public Q_SLOTS:
+    QStringList GetCapabilities() { return {u"body"_s, u"body-markup"_s}; }
+    uint Notify(const QString &, uint, const QString &, const QString &summary, const QString &body,
+                const QStringList &, const QVariantMap &, int)
+    {
+        shown += summary + u'\n' + body;
+        return 1;
+    }
+
+private:
+    QDBusConnection bus_;
+};
 
 /// The portal on a bus of its own, called as its front end does.
 class PrintPortalTest : public WindowTest
@@ -69,7 +111,7 @@ private:
         return call(u"PreparePrint"_s, {program, u""_s, u"Letter"_s, settings, QVariantMap(), options});
     }
     Reply print(uint token, const QString &program = u"org.example.Viewer"_s,
-                const QByteArray &content = sentPdf)
+                const QByteArray &content = letterPdf())
     {
         QFile file(home_->filePath(u"document"_s));
         if (!file.open(QIODevice::ReadWrite | QIODevice::Truncate) || file.write(content) != content.size() ||
@@ -171,12 +213,57 @@ private Q_SLOTS:
             return QDir(folder).entryList({u"*.pdf"_s}, QDir::Files);
         };
         QTRY_COMPARE(written().size(), 1);
-        QFile document(folder + u'/' + written().at(0));
-        QVERIFY(document.open(QIODevice::ReadOnly));
-        QCOMPARE(document.readAll(), sentPdf);
+        const auto document = Document::open(folder + u'/' + written().at(0));
+        QVERIFY(document);
+        QCOMPARE(document->pageCount(), 2);
         const Reply again = print(tokenIn(prepared));
         QVERIFY(isAnswered(again, 2));
         QCOMPARE(log_.filter(u"token"_s).size(), 2);
+    }
+
+    /// What the queue gets is the program's document as it is, and what was chosen here.
+    void aQueueGetsTheDocument()
+    {
+        PrivateCupsd cupsd;
+        const QString trouble = cupsd.start();
+        QVERIFY2(trouble.isEmpty(), qPrintable(trouble));
+        QVERIFY(cupsd.addQueue(u"laser"_s, fileContent(QStringLiteral(CORVEL_LASER_PPD))));
+        QVERIFY(cupsd.addQueue(u"odd"_s, fileContent(QStringLiteral(CORVEL_LASER_PPD)))); // which goes away
+        const Reply prepared = prepare({{u"printer"_s, u"laser"_s},
+                                        {u"n-copies"_s, u"3"_s},
+                                        {u"duplex"_s, u"vertical"_s},
+                                        {u"cups-TonerSave"_s, u"True"_s}});
+        PrintDialog *dialog = onlyDialog();
+        QVERIFY(dialog);
+        QCOMPARE(dialog->printer(), u"laser"_s);
+        QTest::keyClick(button(dialog), Qt::Key_Space);
+        QVERIFY(isAnswered(prepared, 0));
+        QCOMPARE(settingsIn(prepared).value(u"printer"_s).toString(), u"laser"_s);
+        QCOMPARE(settingsIn(prepared).value(u"cups-TonerSave"_s).toString(), u"True"_s);
+        QVERIFY(isAnswered(print(tokenIn(prepared)), 0));
+        QVERIFY(cupsd.waitForJob(1));
+        const RecordedJob job = cupsd.job(1);
+        QCOMPARE(job.title, "org.example.Viewer: Letter");
+        QCOMPARE(job.copies, "3");
+        QCOMPARE(job.document, letterPdf());
+        QVERIFY2(job.options.contains("Duplex=DuplexTumble") && job.options.contains("TonerSave"),
+                 job.options.constData());
+
+        // A failure is reported to the user, since the program does not hear of it.
+        Notifications notifications(address_);
+        const Reply other = prepare({{u"printer"_s, u"odd"_s}, {u"number-up"_s, u"2"_s}});
+        dialog = onlyDialog();
+        QVERIFY(dialog);
+        QCOMPARE(dialog->printer(), u"odd"_s);
+        QTest::keyClick(button(dialog), Qt::Key_Space);
+        QVERIFY(isAnswered(other, 0));
+        QCOMPARE(settingsIn(other).value(u"number-up"_s).toString(), u"1"_s);
+        QVERIFY(cupsd.deleteQueue(u"odd"_s));
+        QVERIFY(isAnswered(print(tokenIn(other)), 0));
+        QTRY_COMPARE(notifications.shown.size(), 1);
+        QVERIFY2(notifications.shown.at(0).contains(u"org.example.Viewer: Letter"_s) &&
+                     notifications.shown.at(0).contains(u"&quot;odd&quot;"_s),
+                 qPrintable(notifications.shown.at(0)));
     }
 
     void theUserCancelsAndTheCallerCloses()

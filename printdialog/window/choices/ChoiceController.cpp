@@ -93,6 +93,11 @@ QString ChoiceController::keep(const QMap<QString, QString> &options)
     return presets_->keep(options);
 }
 
+void ChoiceController::keepOnlyOptions()
+{
+    presets_->keepOnlyOptions();
+}
+
 void ChoiceController::endAct(QWidget *control, bool continues)
 {
     refusals_->endAct(control, steps_->note(continues));

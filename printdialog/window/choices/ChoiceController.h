@@ -68,6 +68,8 @@ public:
 
     /// Saves the choices for the next time with this printer. Returns a sentence when that fails.
     QString keep(const QMap<QString, QString> &options);
+    /// From now on, the copies and the arrangement that are kept stay what they were.
+    void keepOnlyOptions();
 
     /// The explanation shown beside a control; empty when there is none.
     QString explanation() const { return refusals_->text(); }

@@ -132,7 +132,18 @@ QString PresetController::keep(const QMap<QString, QString> &options)
     steps_->note(); // includes the replacements of dropped choices
     QMap<QString, QString> kept = withCopies(options);
     kept.remove(QStringLiteral("job-hold-until")); // the next job is not held without anybody's choice
-    const auto failure = QueueSettings::save(session_->printer().destination.queue, kept);
+    const QString queue = session_->printer().destination.queue;
+    if (keepsOnlyOptions_) {
+        QMap<QString, QString> last = QueueSettings::load(queue);
+        const auto style = ArrangementStyle::takeFrom(last);
+        [[maybe_unused]] const auto present = ArrangementStyle::takeFrom(kept);
+        if (style)
+            style->insertInto(kept);
+        kept.remove(QLatin1String(copiesOption));
+        if (last.contains(QLatin1String(copiesOption)))
+            kept.insert(QLatin1String(copiesOption), last.value(QLatin1String(copiesOption)));
+    }
+    const auto failure = QueueSettings::save(queue, kept);
     return failure ? failure->text : QString();
 }
 

@@ -49,6 +49,8 @@ public:
     /// Saves the choices for the next time with this printer, but not for how long the job is held. Returns a
     /// sentence when that fails.
     QString keep(const QMap<QString, QString> &options);
+    /// See ChoiceController::keepOnlyOptions.
+    void keepOnlyOptions() { keepsOnlyOptions_ = true; }
 
 Q_SIGNALS:
     /// The user has selected a preset.
@@ -87,6 +89,7 @@ private:
     QAction *revert_ = nullptr;
     DialogSession *session_ = nullptr;
     std::unique_ptr<PresetStore> store_;
+    bool keepsOnlyOptions_ = false;
     QString preset_; ///< the one to open with; empty: none
 };
 
