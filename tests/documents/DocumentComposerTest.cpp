@@ -7,6 +7,7 @@
 #include "Rows.h"
 #include "TestMain.h"
 
+#include <QtCore/QDateTime>
 #include <QtCore/QProcess>
 #include <QtCore/QTemporaryDir>
 #include <QtGui/QImage>
@@ -264,7 +265,7 @@ private Q_SLOTS:
             const Document document =
                 inMemory(withPages({{content, plain + " /Resources << /Properties << /L 10 0 R >> >>"}},
                                    {"<< /Type /OCG /Name (layer) >>"},
-                                   "/OCProperties << /OCGs [10 0 R] /D << " +
+                                   "/OCProperties << /OCGs [2 0 R 10 0 R] /D << " +
                                        QByteArray(isOn ? "/ON" : "/OFF") + " [10 0 R] >> >>"));
             for (const auto &sheets : {asItIs(document), inPairs(document)})
                 QCOMPARE(!inkOf(printed(composed(sheets)), qRgb(0, 255, 0)).isNull(), isOn);
@@ -316,6 +317,8 @@ private Q_SLOTS:
         const QList<ComposedSheet> sheets =
             inPairs(document) + QList<ComposedSheet>{{{300, 200}}} + asItIs(document);
         const QByteArray pdf = composed(sheets);
+        const qint64 second = QDateTime::currentSecsSinceEpoch();
+        QTRY_VERIFY(QDateTime::currentSecsSinceEpoch() != second); // what the time leaves behind
         QCOMPARE(composed(sheets), pdf);
         QCOMPARE(readable(pdf).count("/MediaBox"), 4); // the empty side is one
         outputOf(u"qpdf"_s, {u"--check"_s}, pdf);

@@ -13,7 +13,7 @@ void copyGroups(QPDFObjectHandle from, QPDFObjectHandle to, QPDF &other)
     if (!from.isArray())
         return;
     for (QPDFObjectHandle group : from.getArrayAsVector()) {
-        if (group.isIndirect() && group.isDictionary())
+        if (group.isIndirect() && group.isDictionaryOfType("/OCG"))
             to.appendItem(other.copyForeignObject(group));
     }
 }

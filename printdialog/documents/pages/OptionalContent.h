@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include <qpdf/QPDF.hh>
+#include "Libqpdf.h"
 
 namespace printdialog {
 

@@ -3,8 +3,7 @@
 
 #pragma once
 
-#include <qpdf/QPDF.hh>
-#include <qpdf/QPDFPageObjectHelper.hh>
+#include "Libqpdf.h"
 
 #include <memory>
 #include <span>
