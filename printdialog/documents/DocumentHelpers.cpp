@@ -137,7 +137,7 @@ Result<PagesResult, DocumentFault> runPages(const PagesRequest &request, const s
     std::vector<int> descriptors = {question.number(), reply.number(), result.output.number()};
     descriptors.insert(descriptors.end(), documents.begin(), documents.end());
 
-    constexpr qint64 perSecond = qint64(16) << 20;
+    constexpr qint64 perSecond = qint64(8) << 20;
     const HelperEnd end =
         runHelper(QFile::encodeName(program), descriptors, 20s + std::chrono::seconds(size / perSecond));
     if (const auto fault = faultOf(end))

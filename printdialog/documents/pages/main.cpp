@@ -77,7 +77,7 @@ SandboxRights rightsFor(std::uint64_t read)
     constexpr std::uint64_t memory = std::uint64_t(512) << 20;
     constexpr std::uint64_t largestOutput = (std::uint64_t(2) << 30) - 1; // what a byte array holds
     constexpr unsigned processorTime = 10;
-    constexpr std::uint64_t perSecond = std::uint64_t(32) << 20;
+    constexpr std::uint64_t perSecond = std::uint64_t(16) << 20; // packing what is not takes longest
     return {.memory = memory + 3 * read,
             .processorTime = processorTime + static_cast<unsigned>(read / perSecond),
             .writable = {PagesDescriptors::answer, PagesDescriptors::output},
