@@ -3,22 +3,24 @@
 
 #include "PortalCall.h"
 
+#include "RequestObjects.h"
+
 #include <QtDBus/QDBusServiceWatcher>
 
 #include <utility>
 
 namespace printdialog {
 
-PortalCall::PortalCall(const QDBusConnection &bus, const QString &handle, const QDBusMessage &message,
-                       QObject *parent)
+PortalCall::PortalCall(const QDBusConnection &bus, RequestObjects &requests, const QString &handle,
+                       const QDBusMessage &message, QObject *parent)
     : QObject(parent)
     , bus_(bus)
+    , requests_(requests)
     , handle_(handle)
     , message_(message)
 {
     message_.setDelayedReply(true);
-    new RequestAdaptor(this);
-    isOpen_ = bus_.registerObject(handle_, this, QDBusConnection::ExportAdaptors);
+    isOpen_ = requests_.add(handle_, this);
     // The front end's end is that of its callers.
     auto *watcher =
         new QDBusServiceWatcher(message.service(), bus_, QDBusServiceWatcher::WatchForUnregistration, this);
@@ -36,7 +38,7 @@ void PortalCall::answer(PortalResponse response, const QVariantMap &results)
         return;
     bus_.send(message_.createReply({static_cast<uint>(response), QVariant::fromValue(results)}));
     if (std::exchange(isOpen_, false))
-        bus_.unregisterObject(handle_);
+        requests_.remove(handle_);
 }
 
 void PortalCall::close(const QString &caller)

@@ -4,11 +4,12 @@
 #pragma once
 
 #include <QtCore/QObject>
-#include <QtDBus/QDBusAbstractAdaptor>
 #include <QtDBus/QDBusConnection>
 #include <QtDBus/QDBusMessage>
 
 namespace printdialog {
+
+class RequestObjects;
 
 /// How a call of the portal's front end ended.
 enum class PortalResponse : uint { Done = 0, Canceled = 1, Failed = 2 };
@@ -19,52 +20,32 @@ class PortalCall : public QObject
     Q_OBJECT
 
 public:
-    /// The call is answered by this object, and not by its method.
-    PortalCall(const QDBusConnection &bus, const QString &handle, const QDBusMessage &message,
-               QObject *parent);
+    /// The call is answered by this object, and not by its method. The requests outlive it.
+    PortalCall(const QDBusConnection &bus, RequestObjects &requests, const QString &handle,
+               const QDBusMessage &message, QObject *parent);
     /// Answers Failed unless it is answered.
     ~PortalCall() override;
 
-    /// Whether it can be closed. It cannot when the handle is another open call's, or no path.
+    /// Whether it can be closed. It cannot when the handle is another open call's, or no handle.
     bool isOpen() const { return isOpen_; }
     /// At most once has an effect.
     void answer(PortalResponse response, const QVariantMap &results = {});
+    /// The caller closes it; others on the bus cannot.
+    void close(const QString &caller);
 
 Q_SIGNALS:
     /// The caller wants no answer any more, or is gone. The call is answered Canceled already.
     void closed();
 
 private:
-    friend class RequestAdaptor;
-
-    void close(const QString &caller);
     void end();
 
     QDBusConnection bus_;
+    RequestObjects &requests_;
     QString handle_;
     QDBusMessage message_;
     bool isOpen_ = false;
     bool isAnswered_ = false;
-};
-
-class RequestAdaptor : public QDBusAbstractAdaptor
-{
-    Q_OBJECT
-    Q_CLASSINFO("D-Bus Interface", "org.freedesktop.impl.portal.Request")
-
-public:
-    explicit RequestAdaptor(PortalCall *call)
-        : QDBusAbstractAdaptor(call)
-        , call_(call)
-    {
-    }
-
-public Q_SLOTS:
-    // NOLINTNEXTLINE(readability-identifier-naming): the interface's name
-    void Close(const QDBusMessage &message) { call_->close(message.service()); }
-
-private:
-    PortalCall *call_;
 };
 
 } // namespace printdialog

@@ -175,8 +175,7 @@ private:
         if (const auto size = pageSizeFor(page, source_))
             made_.options.append({source_.pageSizeKey(), *size});
         else
-            made_.remarks += PortalChoicesText::tr("The program's paper size %1 is not one of this printer.")
-                                 .arg(sizeText(page));
+            missing_.prepend(sizeText(page));
     }
 
     void choose(const SettingOption &row)
@@ -188,7 +187,7 @@ private:
         if (const auto choice = row.choiceFor(source_, value))
             made_.options.append({*key, *choice});
         else if (!row.usual.contains(value))
-            miss(row.label.isEmpty() ? row.setting : StandardLabels::option(row.label), value);
+            miss(row.label.isEmpty() ? row.setting : StandardLabels::option(row.label), row.textOf(value));
     }
 
     void chooseResolution()

@@ -16,6 +16,7 @@
 #include "PrintDialog.h"
 #include "ProgramName.h"
 #include "ProgramStyle.h"
+#include "RequestObjects.h"
 #include "SystemLog.h"
 #include "UserNotice.h"
 
@@ -49,8 +50,12 @@ PrintPortal::PrintPortal(const QDBusConnection &bus, const Settings &settings, Q
     : QObject(parent)
     , bus_(bus)
     , settings_(settings)
+    , requests_(new RequestObjects(this))
     , notice_(new UserNotice(bus, this))
 {
+    // Else the methods are missing in what the bus is told about the object.
+    qRegisterMetaType<QDBusObjectPath>();
+    qRegisterMetaType<QDBusUnixFileDescriptor>();
     new PrintAdaptor(this);
     idle_.setSingleShot(true);
     connect(&idle_, &QTimer::timeout, this, &PrintPortal::update);
@@ -74,7 +79,8 @@ QString PrintPortal::start()
     QDBusConnectionInterface *names = bus_.interface();
     if (!bus_.isConnected() || !names)
         return QStringLiteral("There is no session bus: %1").arg(bus_.lastError().message());
-    if (!bus_.registerObject(objectPath, this, QDBusConnection::ExportAdaptors))
+    if (!bus_.registerObject(objectPath, this, QDBusConnection::ExportAdaptors) ||
+        !bus_.registerVirtualObject(RequestObjects::path(), requests_, QDBusConnection::SubPath))
         return QStringLiteral("The object %1 cannot be offered on the bus.").arg(objectPath);
     connect(names, &QDBusConnectionInterface::serviceUnregistered, this, [this](const QString &name) {
         if (name == busName())
@@ -97,13 +103,13 @@ QString PrintPortal::start()
 
 PortalCall *PrintPortal::begin(const PortalRequest &request)
 {
-    auto *call = new PortalCall(bus_, request.handle, request.message, this);
+    auto *call = new PortalCall(bus_, *requests_, request.handle, request.message, this);
     calls_ += call;
     update();
     if (isEnding_ || !call->isOpen() || calls_.size() > mostCalls) {
         refuse(call, QStringLiteral("A print request cannot be served: %1")
                          .arg(isEnding_         ? QStringLiteral("this service is ending")
-                              : !call->isOpen() ? QStringLiteral("its handle is in use or no path")
+                              : !call->isOpen() ? QStringLiteral("its handle is in use or none")
                                                 : QStringLiteral("too many are open")));
         return nullptr;
     }

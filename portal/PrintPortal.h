@@ -18,6 +18,7 @@ namespace printdialog {
 
 class PortalCall;
 class PortalRun;
+class RequestObjects;
 class PortalSettings;
 class PrintDialog;
 class UserNotice;
@@ -87,6 +88,7 @@ private:
     QDBusConnection bus_;
     Settings settings_;
     PreparedJobs prepared_;
+    RequestObjects *requests_;
     UserNotice *notice_;
     QTimer idle_;
     std::optional<std::chrono::steady_clock::time_point> idleSince_; ///< nothing while there is work

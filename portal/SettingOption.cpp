@@ -89,6 +89,14 @@ std::optional<QString> SettingOption::choiceFor(const OptionSource &source, cons
     return std::nullopt;
 }
 
+QString SettingOption::textOf(const QString &value) const
+{
+    const auto known = std::ranges::find(values, value, &Value::setting);
+    const QString text =
+        StandardLabels::choice(label, known == values.cend() ? value : known->keywords.constFirst());
+    return text.isEmpty() ? value : text;
+}
+
 std::optional<QString> SettingOption::valueOf(const QString &choice) const
 {
     if (values.empty())

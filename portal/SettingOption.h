@@ -35,6 +35,8 @@ struct SettingOption
     std::optional<QString> optionOf(const OptionSource &source) const;
     /// The choice for the setting's value; nothing when the printer has none.
     std::optional<QString> choiceFor(const OptionSource &source, const QString &value) const;
+    /// The setting's value for people; the value itself where there are no words for it.
+    QString textOf(const QString &value) const;
     /// The setting's value for a choice; nothing when programs have no word for it.
     std::optional<QString> valueOf(const QString &choice) const;
 };

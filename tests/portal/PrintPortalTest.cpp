@@ -6,10 +6,13 @@
 #include "PdfSamples.h"
 #include "PrivateBus.h"
 #include "PrivateCupsd.h"
+#include "QueueSettings.h"
+#include "Rows.h"
 #include "SystemLog.h"
 #include "TestMain.h"
 
 #include <QtCore/QStandardPaths>
+#include <QtDBus/QDBusConnectionInterface>
 #include <QtDBus/QDBusObjectPath>
 #include <QtDBus/QDBusPendingCall>
 #include <QtDBus/QDBusPendingReply>
@@ -144,6 +147,28 @@ private:
     }
     static uint tokenIn(const Reply &reply) { return reply.argumentAt<1>().value(u"token"_s).toUInt(); }
 
+    /// By the built-in printer.
+    static QStringList printedFiles()
+    {
+        const QDir folder(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation) + u"/Prints"_s);
+        QStringList paths;
+        for (const QString &name : folder.entryList({u"*.pdf"_s}, QDir::Files))
+            paths += folder.filePath(name);
+        return paths;
+    }
+    /// There is no notification service.
+    static void closeNotice()
+    {
+        QWidget *notice = nullptr;
+        QVERIFY(QTest::qWaitFor([&notice] {
+            const QWidgetList windows = QApplication::topLevelWidgets();
+            for (QWidget *window : windows)
+                notice = window->objectName() == u"notice"_s && window->isVisible() ? window : notice;
+            return notice != nullptr;
+        }));
+        notice->close();
+    }
+
     void open(PrintPortal::Settings settings = {})
     {
         settings.intake.quiet = 500ms;
@@ -207,13 +232,8 @@ private Q_SLOTS:
         QVERIFY(isAnswered(foreign, 2));
         const Reply printed = print(tokenIn(prepared));
         QVERIFY(isAnswered(printed, 0));
-        const QString folder =
-            QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation) + u"/Prints"_s;
-        const auto written = [&folder] {
-            return QDir(folder).entryList({u"*.pdf"_s}, QDir::Files);
-        };
-        QTRY_COMPARE(written().size(), 1);
-        const auto document = Document::open(folder + u'/' + written().at(0));
+        QTRY_COMPARE(printedFiles().size(), 1);
+        const auto document = Document::open(printedFiles().at(0));
         QVERIFY(document);
         QCOMPARE(document->pageCount(), 2);
         const Reply again = print(tokenIn(prepared));
@@ -320,19 +340,7 @@ private Q_SLOTS:
     {
         const Reply unreadable = print(0, u"org.example.Viewer"_s, "Dear all,");
         QVERIFY(isAnswered(unreadable, 2));
-        QTRY_VERIFY(QApplication::activeWindow() || !QApplication::topLevelWidgets().isEmpty());
-        auto *notice = [] {
-            QWidget *found = nullptr;
-            [[maybe_unused]] const bool isThere = QTest::qWaitFor([&found] {
-                const QWidgetList windows = QApplication::topLevelWidgets();
-                for (QWidget *window : windows)
-                    found = window->objectName() == u"notice"_s ? window : found;
-                return found && found->isVisible();
-            });
-            return found;
-        }();
-        QVERIFY(notice); // there is no notification service
-        notice->close();
+        closeNotice();
         const Reply vector = prepare({}, u"org.example.Viewer"_s,
                                      {{u"supported_output_file_formats"_s, QStringList{u"svg"_s}}});
         QVERIFY(isAnswered(vector, 2));
@@ -341,6 +349,63 @@ private Q_SLOTS:
         --calls_; // the same handle
         QVERIFY(isAnswered(prepare(), 2));
         QVERIFY(!open.isFinished());
+    }
+
+    /// Several pages on a sheet are the dialog's work, or the program's: never both.
+    void pagesAreArrangedOnce_data()
+    {
+        using Row = std::tuple<const char *, QVariantMap, QVariantMap, int>;
+        const auto upTo = [](const QString &order) {
+            QVariantMap settings = {{u"number-up"_s, u"2"_s}, {u"reverse"_s, u"true"_s}};
+            if (!order.isEmpty())
+                settings.insert(u"number-up-layout"_s, order);
+            return settings;
+        };
+        addRows<QVariantMap, QVariantMap, int>({
+            Row{"by the dialog", upTo({}), {{u"number-up"_s, u"1"_s}, {u"reverse"_s, u"false"_s}}, 1},
+            Row{"in reading order", upTo(u"lrtb"_s), {{u"number-up"_s, u"1"_s}}, 1},
+            Row{"in an order of the program's",
+                upTo(u"tblr"_s),
+                {{u"number-up"_s, u"2"_s}, {u"reverse"_s, u"true"_s}},
+                2},
+            Row{"scaled", {{u"scale"_s, u"50"_s}}, {{u"scale"_s, u"100"_s}}, 2},
+        });
+    }
+    void pagesAreArrangedOnce()
+    {
+        const auto [settings, answered, sides] = row<QVariantMap, QVariantMap, int>();
+        const Reply prepared = prepare(settings);
+        PrintDialog *dialog = onlyDialog();
+        QVERIFY(dialog);
+        QTest::keyClick(button(dialog), Qt::Key_Space);
+        QVERIFY(isAnswered(prepared, 0));
+        for (auto entry = answered.cbegin(); entry != answered.cend(); ++entry)
+            QCOMPARE(settingsIn(prepared).value(entry.key()), *entry);
+        QVERIFY(isAnswered(print(tokenIn(prepared)), 0));
+        QTRY_COMPARE(printedFiles().size(), 1);
+        const auto document = Document::open(printedFiles().at(0));
+        QVERIFY(document);
+        QCOMPARE(document->pageCount(), sides);
+        // What photos are arranged like stays what it was.
+        QVERIFY(!QueueSettings::load(Destination::builtIn().queue).contains(u"corvel-layout"_s));
+    }
+
+    void aBlockedDocumentIsGivenUpWithItsCall()
+    {
+        auto pipe = pdekit::Pipe::make();
+        const Reply blocked =
+            call(u"Print"_s,
+                 {u"org.example.Viewer"_s, u""_s, u"Print"_s,
+                  QVariant::fromValue(QDBusUnixFileDescriptor(pipe->reading.number())), QVariantMap()});
+        closeCall(calls_);
+        QVERIFY(isAnswered(blocked, 1));
+        const Reply stuck =
+            call(u"Print"_s,
+                 {u"org.example.Viewer"_s, u""_s, u"Print"_s,
+                  QVariant::fromValue(QDBusUnixFileDescriptor(pipe->reading.number())), QVariantMap()});
+        QVERIFY(isAnswered(stuck, 2));
+        QTRY_COMPARE(log_.filter(u"stopped sending"_s).size(), 1);
+        closeNotice();
     }
 
     void itEndsWhenItIsIdle()
@@ -354,10 +419,55 @@ private Q_SLOTS:
         const Reply canceled = prepare();
         PrintDialog *dialog = onlyDialog();
         QVERIFY(dialog);
-        QTest::qWait(200);
+        QTest::qWait(150); // longer than the idle time
         QCOMPARE(over.size(), 0);
         QTest::keyClick(dialog, Qt::Key_Escape);
         QTRY_COMPARE(over.size(), 1);
+        const Reply prepared = prepare();
+        dialog = onlyDialog();
+        QVERIFY(dialog);
+        QTest::keyClick(button(dialog), Qt::Key_Space);
+        QVERIFY(isAnswered(prepared, 0));
+        QTest::qWait(150);
+        QCOMPARE(over.size(), 1); // its document may still come
+    }
+
+    /// As the bus starts it.
+    void theProgramServesAndEnds()
+    {
+        portal_.reset();
+        QDBusConnection::disconnectFromBus(u"back end"_s);
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(u"DBUS_SESSION_BUS_ADDRESS"_s, address_);
+        const auto start = [&environment](QProcess &process, const QStringList &arguments) {
+            process.setProcessEnvironment(environment);
+            process.start(QStringLiteral(CORVEL_PORTAL_PROGRAM), arguments);
+        };
+        const auto isServed = [this] {
+            return frontEnd_.interface()->isServiceRegistered(PrintPortal::busName()).value();
+        };
+        QProcess first;
+        start(first, {});
+        QTRY_VERIFY(isServed());
+        const QDBusPendingReply<QString> description = frontEnd_.asyncCall(QDBusMessage::createMethodCall(
+            PrintPortal::busName(), objectPath, u"org.freedesktop.DBus.Introspectable"_s, u"Introspect"_s));
+        QTRY_VERIFY(description.isFinished());
+        QVERIFY2(description.value().contains(u"PreparePrint"_s), qPrintable(description.value()));
+        const Reply closed = prepare();
+        closeCall(calls_);
+        QVERIFY(isAnswered(closed, 1));
+
+        QProcess second;
+        start(second, {});
+        QVERIFY(second.waitForFinished());
+        QCOMPARE(second.exitCode(), 1);
+        QProcess third;
+        start(third, {u"--replace"_s, u"--idle-time"_s, u"0"_s});
+        QTRY_COMPARE(first.state(), QProcess::NotRunning);
+        QCOMPARE(first.exitCode(), 0);
+        QTRY_COMPARE(third.state(), QProcess::NotRunning);
+        QCOMPARE(third.exitCode(), 0);
+        QVERIFY(!isServed());
     }
 };
 
