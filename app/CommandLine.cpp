@@ -167,13 +167,38 @@ UsageFailure readSheets(const QCommandLineParser &parser, RequestedStyle &style)
                      "white: 3mm,black.")),
         readText(parser, "layout", style.layout, SheetLayout::fromText,
                  CommandLineText::tr(
-                     "\"%1\" is not a layout. Give rows and columns from 1 to 20 (2x3), fit, contact, or "
-                     "strips:2 to strips:4.")),
+                     "\"%1\" is not a layout. Give rows and columns from 1 to 20 (2x3), fit, contact, "
+                     "strips:2 to strips:4, pages:2, 4, 6, 9 or 16, or booklet.")),
         readText(parser, "caption", style.caption, captionFromText,
                  CommandLineText::tr("There is no caption \"%1\". Choose none, name, date or both."))};
     for (const UsageFailure &found : faults) {
         if (found)
             return found;
+    }
+    return std::nullopt;
+}
+
+UsageFailure readPages(const QCommandLineParser &parser, PageChoice &pages)
+{
+    std::optional<PageRanges> ranges;
+    std::optional<PageChoice::Set> set;
+    const bool areAll = parser.value(QStringLiteral("pages")) == QLatin1String("all");
+    pages.isReversed = parser.isSet(QStringLiteral("reverse"));
+    for (const UsageFailure &found :
+         {areAll
+              ? UsageFailure()
+              : readText(parser, "pages", ranges, PageRanges::fromText,
+                         CommandLineText::tr("\"%1\" does not say which pages. Give page numbers from 1 on "
+                                             "and ranges, such as 1-3,7,12-.")),
+          readText(parser, "page-set", set, pageSetFromWord,
+                   CommandLineText::tr("There is no set of pages \"%1\". Choose all, odd or even."))}) {
+        if (found)
+            return found;
+    }
+    pages.set = set.value_or(pages.set);
+    if (ranges) {
+        pages.which = PageChoice::Which::Ranges;
+        pages.ranges = *ranges;
     }
     return std::nullopt;
 }
@@ -301,8 +326,8 @@ Result<CommandLine, UsageFault> CommandLine::parse(const QStringList &arguments)
           readValue(parser, "printed", line.printed), readOutput(parser, line), readTitle(parser, line),
           readValue(parser, "screenshot", line.screenshot), readPreview(parser, line.preview),
           readServer(parser, line.server), readWait(parser, line.wait), readMode(parser, line.mode),
-          readSheets(parser, line.style), readCrop(parser, line.style), readChoices(parser, line.options),
-          readPortal(parser, line.portal), commandLineContradiction(line)}) {
+          readSheets(parser, line.style), readPages(parser, line.pages), readCrop(parser, line.style),
+          readChoices(parser, line.options), readPortal(parser, line.portal), commandLineContradiction(line)}) {
         if (found)
             return *found;
     }

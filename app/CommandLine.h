@@ -5,6 +5,7 @@
 
 #include "ArrangementStyle.h"
 #include "Destination.h"
+#include "PageChoice.h"
 #include "PrintJob.h"
 #include "PrintList.h"
 #include "PrinterDescription.h"
@@ -64,7 +65,8 @@ enum class PortalUse { Start, Stop };
 /// window is shown.
 struct CommandLine
 {
-    /// Paths; file URLs are converted, and "-" stands for the standard input. Or a single print list.
+    /// Paths of photos and documents; file URLs are converted, and "-" stands for the standard input. Or a
+    /// single print list.
     QStringList photos;
     std::optional<Destination> printer; ///< its instance is a preset's name, or the preset's instance in CUPS
     std::optional<QString> preset;      ///< of the printer; also the instance of `printer`, if that is set
@@ -74,6 +76,7 @@ struct CommandLine
     std::optional<QString> title;   ///< of the job at a queue
     std::optional<int> copies;      ///< of each photo, from 1 to mostCopies
     RequestedStyle style;
+    PageChoice pages;              ///< of documents
     std::optional<QString> output; ///< the folder of the built-in printer's files
     std::optional<QString> onePdf; ///< the name of one PDF of all sheets, without suffix
     bool overwrite = false;        ///< files of an earlier run are replaced

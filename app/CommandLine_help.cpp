@@ -62,7 +62,15 @@ constexpr std::array optionRows = {
                                 "several photos on a sheet: ROWSxCOLUMNS (2x3); fit, as many of the size\n"
                                 "as fit; contact or contact:ROWSxCOLUMNS, a contact sheet; strips or\n"
                                 "strips:NUMBER, two strips of 2 to 4 photos. With \",repeat\" each photo\n"
-                                "fills its sheet; also \",gap=2mm\" and \",marks\" for cut marks")},
+                                "fills its sheet; also \",gap=2mm\" and \",marks\" for cut marks. Of a\n"
+                                "document: pages:2, 4, 6, 9 or 16 on each sheet, or booklet")},
+    OptionRow{"pages", "RANGES|all",
+              QT_TRANSLATE_NOOP("CommandLine",
+                                "which pages of documents: 1-3,7,12- (12- is page 12 to the last one);\n"
+                                "otherwise all")},
+    OptionRow{"page-set", "all|odd|even",
+              QT_TRANSLATE_NOOP("CommandLine", "only pages with odd or with even numbers")},
+    OptionRow{"reverse", nullptr, QT_TRANSLATE_NOOP("CommandLine", "print the last sheet first")},
     OptionRow{"caption", "none|name|date|both",
               QT_TRANSLATE_NOOP("CommandLine", "what stands below each photo of a layout")},
     OptionRow{"output", "DIR",
@@ -156,9 +164,9 @@ QString CommandLine::helpText()
 {
     constexpr int column = 28;
     QString help =
-        CommandLineText::tr("Usage: corvel-print [options] PHOTO...\n"
-                            "Prints photos on a photo printer: from a window, or at once with --batch.\n"
-                            "PHOTO can be - for the standard input, or a print list, LIST.json.\n\n"
+        CommandLineText::tr("Usage: corvel-print [options] FILE...\n"
+                            "Prints photos and PDF documents: from a window, or at once with --batch.\n"
+                            "FILE can be - for the standard input, or a print list, LIST.json.\n\n"
                             "Options:\n");
     for (const OptionRow &row : optionRows) {
         QString left = QLatin1String("  ") + syntaxOf(row);
@@ -181,7 +189,8 @@ QString CommandLine::helpText()
         "\nExamples:\n"
         "  corvel-print --printer built-in holiday.jpg\n"
         "  corvel-print --batch -o Red=12 -o Quality=Fine -o Overcoat=Matte --output prints *.jpg\n"
-        "  corvel-print --batch --size passport --scaling fill --layout fit portrait.jpg\n");
+        "  corvel-print --batch --size passport --scaling fill --layout fit portrait.jpg\n"
+        "  corvel-print --batch --pages 2-9 --layout booklet -o Duplex=DuplexTumble report.pdf\n");
     return help;
 }
 

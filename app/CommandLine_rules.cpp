@@ -65,23 +65,24 @@ UsageFailure commandLineContradiction(const CommandLine &line)
                           CommandLineText::tr("%1 and %2 exclude each other.").arg(tasks.at(0), tasks.at(1)));
     }
     if (line.batch && line.photos.isEmpty())
-        return usageFault(UsageFault::Missing, CommandLineText::tr("--batch needs a photo to print."));
+        return usageFault(UsageFault::Missing, CommandLineText::tr("--batch needs a file to print."));
     if (line.dryRun && line.photos.isEmpty())
-        return usageFault(UsageFault::Missing, CommandLineText::tr("--dry-run needs a photo."));
+        return usageFault(UsageFault::Missing, CommandLineText::tr("--dry-run needs a file."));
     if (line.preview && line.photos.isEmpty())
-        return usageFault(UsageFault::Missing, CommandLineText::tr("--preview needs a photo."));
+        return usageFault(UsageFault::Missing, CommandLineText::tr("--preview needs a file."));
     const qsizetype lists = std::ranges::count_if(line.photos, PrintList::isListName);
-    if (lists > 0 && (line.photos.size() > 1 || line.style != RequestedStyle()))
+    if (lists > 0 && (line.photos.size() > 1 || line.style != RequestedStyle() || line.pages != PageChoice()))
         return usageFault(
             UsageFault::Combination,
             CommandLineText::tr(
-                "A print list says itself which photos are printed and how. Give it without other photos, "
-                "and without %1.")
-                .arg(QLatin1String("--scaling, --crop, --size, --scale, --border, --layout, --caption")));
+                "A print list says itself which files are printed and how. Give it without other files, and "
+                "without %1.")
+                .arg(QLatin1String(
+                    "--scaling, --crop, --size, --scale, --border, --layout, --caption, --pages, "
+                    "--page-set, --reverse")));
     if (line.photos.count(QLatin1String("-")) > 1)
-        return usageFault(
-            UsageFault::Combination,
-            CommandLineText::tr("\"-\" reads one photo from the standard input. Give it once."));
+        return usageFault(UsageFault::Combination,
+                          CommandLineText::tr("\"-\" reads one file from the standard input. Give it once."));
     if (line.json && !line.dryRun &&
         (line.batch || line.watch || line.screenshot || line.preview || tasks.isEmpty())) {
         return usageFault(

@@ -20,9 +20,8 @@ std::optional<QString> StandardInput::replaceIn(QStringList &photos)
     if (dash < 0)
         return std::nullopt;
     if (::isatty(STDIN_FILENO) == 1)
-        return tr("\"-\" reads a photo from the standard input, which is the keyboard. Redirect it: "
-                  "corvel-print - < "
-                  "photo.jpg");
+        return tr("\"-\" reads a file from the standard input, which is the keyboard. Redirect it: "
+                  "corvel-print - < photo.jpg");
     folder_.emplace(QDir::tempPath() + QLatin1String("/corvel-print-XXXXXX"));
     if (!folder_->isValid())
         return tr("The standard input cannot be kept in \"%1\": %2. Free some space there.")
@@ -51,10 +50,10 @@ std::optional<QString> StandardInput::spool(const QString &path)
             return tr("The standard input could not be read: %1.").arg(qt_error_string(errno));
         if (count == 0)
             return total > 0 ? std::nullopt
-                             : std::optional(tr("The standard input is empty. Redirect a photo to it."));
+                             : std::optional(tr("The standard input is empty. Redirect a file to it."));
         total += count;
         if (total > Photo::maximumFileSize)
-            return tr("The photo on the standard input is too large: a photo may have %1.")
+            return tr("The file on the standard input is too large: it may have %1.")
                 .arg(QLocale().formattedDataSize(Photo::maximumFileSize));
         if (file.write(block.constData(), count) != count)
             return writeFailure();

@@ -12,8 +12,8 @@
 
 namespace printdialog {
 
-/// The photo that another program writes to the standard input, kept in a private file until this object is
-/// gone.
+/// The photo or document that another program writes to the standard input, kept in a private file until this
+/// object is gone.
 class StandardInput
 {
     Q_DECLARE_TR_FUNCTIONS(StandardInput)

@@ -136,11 +136,28 @@ std::optional<Login> ask(const LoginQuestion &question, const int *cancel)
 
 void askLoginsOnTerminal()
 {
-    if (Terminal().isUsable())
+    if (canAskOnTerminal())
         Logins::ofRun().setAsk(ask);
     else
         Logins::ofRun().setAsk(
             {}, LoginText::tr("it wants a user name and a password, and there is no terminal to ask on"));
+}
+
+bool canAskOnTerminal()
+{
+    return Terminal().isUsable();
+}
+
+std::optional<QString> askPasswordOnTerminal(const QString &document, bool isRefused)
+{
+    Terminal terminal;
+    if (!terminal.isUsable())
+        return std::nullopt;
+    const QString name = plainText(document, shownTextLimit);
+    terminal.write((isRefused ? LoginText::tr("The password does not open \"%1\".").arg(name)
+                              : LoginText::tr("\"%1\" is protected by a password.").arg(name)) +
+                   u'\n');
+    return terminal.readLine(LoginText::tr("Password: "), false, nullptr);
 }
 
 } // namespace printdialog

@@ -3,6 +3,7 @@
 
 #include "BatchRun.h"
 
+#include "ArrangementText.h"
 #include "Console.h"
 #include "JobPlan.h"
 #include "JobSummary.h"
@@ -34,9 +35,11 @@ int BatchRun::run()
         return fail(job.failure().text);
     DialogSession &session = *requested->session;
     useStyle(commandLine_, requested->style, *opened);
+    if (const QString beyond = pagesBeyondText(*opened); !beyond.isEmpty())
+        console_.complain(beyond);
     if (commandLine_.summary)
-        console_.writeLines(
-            summaryLines(jobSummary(session, requested->copies, opened->placements(), opened->layout)));
+        console_.writeLines(summaryLines(
+            jobSummary(session, requested->copies, opened->placements(), opened->layout, opened->pages)));
     job->folder = {commandLine_.outputFolder(), commandLine_.overwrite, opened->paths(), commandLine_.onePdf};
     if (const auto unfit = whyNotOnePdf(*job))
         return fail(*unfit);

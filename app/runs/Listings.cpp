@@ -173,7 +173,8 @@ int showSummary(const CommandLine &commandLine, Console &console)
     if (!job || !job->missing.isEmpty())
         return fail(console, job ? Console::oneLine(job->missing) : job.failure().text);
     const ArrangementStyle style = commandLine.style.over(opened->style);
-    const SummaryEntries entries = jobSummary(session, opened->copies, {style.placement}, style.layout);
+    const SummaryEntries entries =
+        jobSummary(session, opened->copies, {style.placement}, style.layout, commandLine.pages);
     if (!commandLine.json) {
         console.writeLines(summaryLines(entries));
         return exitDone;

@@ -3,28 +3,45 @@
 
 #include "RequestedArrangement.h"
 
+#include "FileOpener.h"
+#include "PlainText.h"
+#include "TerminalLogin.h"
+
+#include <QtCore/QCoreApplication>
+#include <QtCore/QFileInfo>
+
 namespace printdialog {
 
 namespace {
 
-/// Photos that are there several times are opened once.
-class PhotoOpener
+struct Text
 {
-public:
-    Result<Photo, PhotoFault> open(const QString &path)
-    {
-        const auto known = photos_.constFind(path);
-        if (known != photos_.constEnd())
-            return *known;
-        auto photo = Photo::open(path);
-        if (photo)
-            photos_.insert(path, *photo);
-        return photo;
-    }
-
-private:
-    QHash<QString, Photo> photos_;
+    Q_DECLARE_TR_FUNCTIONS(RequestedArrangement)
 };
+
+/// Asks on the terminal for the password of a document that has one.
+Result<QList<PlacedPhoto>, PhotoFault> openAsking(FileOpener &opener, const PrintList::Entry &entry)
+{
+    auto opened = opener.open(entry);
+    if (!opened && opened.failure().reason == PhotoFault::NeedsPassword && !canAskOnTerminal())
+        return Failure<PhotoFault>{
+            PhotoFault::NeedsPassword,
+            Text::tr(
+                "\"%1\" is protected by a password, and there is no terminal to ask for it on. Start the "
+                "program in a terminal, or in its window.")
+                .arg(plainText(QFileInfo(entry.path).fileName(), shownTextLimit)),
+            {}};
+    bool isRefused = false;
+    while (!opened && opened.failure().reason == PhotoFault::NeedsPassword) {
+        const auto password = askPasswordOnTerminal(QFileInfo(entry.path).fileName(), isRefused);
+        if (!password)
+            return opened;
+        isRefused = true;
+        opener.unlock(entry.path, *password);
+        opened = opener.open(entry);
+    }
+    return opened;
+}
 
 Failure<std::monostate> sentence(const QString &text, const QString &detail)
 {
@@ -44,20 +61,24 @@ Result<OpenedArrangement, std::monostate> openedArrangement(const CommandLine &c
     } else {
         const ArrangementStyle wanted = commandLine.style.over({});
         list.layout = wanted.layout;
+        list.pages = commandLine.pages;
         for (const QString &path : commandLine.photos)
             list.photos += PrintList::Entry{path, wanted.placement};
     }
-    OpenedArrangement opened{{{}, list.layout}, {}, list.photos.size(), {}};
-    PhotoOpener opener;
-    for (qsizetype i = 0; i < list.photos.size(); ++i) {
-        const PrintList::Entry &entry = list.photos.at(i);
-        const auto photo = opener.open(entry.path);
-        if (!photo) {
-            opened.failures += photo.failure();
+    OpenedArrangement opened{{{}, list.layout, list.pages}, {}, 0, {}};
+    FileOpener opener;
+    for (const PrintList::Entry &entry : std::as_const(list.photos)) {
+        const auto photos = openAsking(opener, entry);
+        if (!photos) {
+            opened.failures += photos.failure();
+            ++opened.count;
             continue;
         }
-        opened.arrangement.photos += PlacedPhoto{*photo, entry.placement, !commandLine.checks, entry.copies};
-        opened.numbers += i;
+        for (PlacedPhoto placed : *photos) {
+            placed.isAccepted = !commandLine.checks;
+            opened.arrangement.photos += placed;
+            opened.numbers += opened.count++;
+        }
     }
     return opened;
 }
@@ -69,6 +90,11 @@ Result<Arrangement, std::monostate> requestedArrangement(const CommandLine &comm
         return opened.failure();
     if (!opened->failures.isEmpty())
         return sentence(opened->failures.constFirst().text, opened->failures.constFirst().detail);
+    PageChoice asked = commandLine.pages;
+    asked.isReversed = false; // which photos can be as well
+    if (asked != PageChoice() && opened->arrangement.pageCount() == 0)
+        return sentence(
+            Text::tr("--pages and --page-set are for documents, and there is none. Leave them out."), {});
     return std::move(opened->arrangement);
 }
 

@@ -98,10 +98,10 @@ int runScreenshot(const CommandLine &commandLine, QApplication &application)
     };
     auto setup = windowSetup(commandLine);
     for (const QString &path : std::exchange(setup.furtherPaths, {})) {
-        if (const auto photo = Photo::open(path))
-            setup.photos.append(*photo);
+        if (const auto photos = Photo::openAll(path))
+            setup.photos += *photos;
         else
-            setup.photoFailures.append(photo.failure().text);
+            setup.photoFailures.append(photos.failure().text);
     }
     if (!setup.photoFailures.isEmpty())
         return endWith(Console::oneLine(setup.photoFailures));

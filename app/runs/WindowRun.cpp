@@ -4,6 +4,7 @@
 #include "WindowRun.h"
 
 #include "Console.h"
+#include "FileOpener.h"
 #include "JobTemplate.h"
 #include "PresetStore.h"
 #include "WindowPlacement.h"
@@ -23,13 +24,33 @@ void openList(const QString &path, PrintDialogSetup &setup)
         setup.photoFailures += list.failure().text;
         return;
     }
-    setup.arrangement = Arrangement{{}, list->layout};
+    setup.arrangement = Arrangement{{}, list->layout, list->pages};
+    FileOpener opener;
     for (const PrintList::Entry &entry : list->photos) {
-        if (const auto photo = Photo::open(entry.path))
-            setup.arrangement->photos += PlacedPhoto{*photo, entry.placement, false, entry.copies};
-        else
-            setup.photoFailures.append(photo.failure().text);
+        if (const auto photos = opener.open(entry))
+            setup.arrangement->photos += *photos;
+        else if (photos.failure().reason == PhotoFault::NeedsPassword)
+            setup.lockedEntries += entry;
+        else if (!setup.photoFailures.contains(photos.failure().text))
+            setup.photoFailures.append(photos.failure().text);
     }
+}
+
+/// Opens files until there is something to show. A document that needs a password is left to the window,
+/// which asks for it.
+void openFirst(PrintDialogSetup &setup)
+{
+    QStringList locked;
+    while (setup.photos.isEmpty() && !setup.furtherPaths.isEmpty()) {
+        const QString path = setup.furtherPaths.takeFirst();
+        if (const auto photos = Photo::openAll(path))
+            setup.photos = *photos;
+        else if (photos.failure().reason == PhotoFault::NeedsPassword)
+            locked.append(path);
+        else
+            setup.photoFailures.append(photos.failure().text);
+    }
+    setup.furtherPaths = locked + setup.furtherPaths;
 }
 
 } // namespace
@@ -41,12 +62,8 @@ PrintDialogSetup windowSetup(const CommandLine &commandLine)
         openList(commandLine.photos.constFirst(), setup);
     else
         setup.furtherPaths = commandLine.photos;
-    while (setup.photos.isEmpty() && !setup.furtherPaths.isEmpty()) {
-        if (const auto photo = Photo::open(setup.furtherPaths.takeFirst()))
-            setup.photos.append(*photo);
-        else
-            setup.photoFailures.append(photo.failure().text);
-    }
+    openFirst(setup);
+    setup.pages = commandLine.pages;
     setup.mode = commandLine.mode;
     if (commandLine.printer)
         setup.printer = PresetStore::destination(*commandLine.printer);
@@ -66,8 +83,9 @@ int runWindow(const CommandLine &commandLine, QApplication & /*application*/)
 {
     Console console;
     const PrintDialogSetup setup = windowSetup(commandLine);
-    const bool hasPhotos =
-        !setup.photos.isEmpty() || (setup.arrangement && !setup.arrangement->photos.isEmpty());
+    const bool hasPhotos = !setup.photos.isEmpty() || !setup.furtherPaths.isEmpty() ||
+                           !setup.lockedEntries.isEmpty() ||
+                           (setup.arrangement && !setup.arrangement->photos.isEmpty());
     if (!hasPhotos && !setup.photoFailures.isEmpty()) {
         console.complain(Console::oneLine(setup.photoFailures));
         return exitFailed;

@@ -51,14 +51,19 @@ _corvel_print()
             return
             ;;
         --layout)
-            COMPREPLY=($(compgen -W "single 1x2 2x2 3x3 fit contact strips" -- "$cur"))
+            COMPREPLY=($(compgen -W "single 1x2 2x2 3x3 fit contact strips pages:2 pages:4 pages:6 pages:9 pages:16 booklet" -- "$cur"))
+            __ltrim_colon_completions "$cur"
+            return
+            ;;
+        --page-set)
+            COMPREPLY=($(compgen -W "all odd even" -- "$cur"))
             return
             ;;
         --caption)
             COMPREPLY=($(compgen -W "none name date both" -- "$cur"))
             return
             ;;
-        --crop | --scale | --border | -n | --copies | --title | --preset | --one-pdf)
+        --crop | --scale | --border | -n | --copies | --title | --preset | --one-pdf | --pages)
             return
             ;;
         --ppd)
@@ -88,6 +93,6 @@ _corvel_print()
     if [[ $cur == -* ]]; then
         COMPREPLY=($(compgen -W "$(_parse_help "$1")" -- "$cur"))
     else
-        _filedir '@(jp?(e)g|JP?(E)G|png|PNG|tif?(f)|TIF?(F)|webp|WEBP|hei[cf]|HEI[CF]|avif|AVIF|bmp|BMP|gif|GIF|p[bgp]m|P[BGP]M)'
+        _filedir '@(jp?(e)g|JP?(E)G|png|PNG|tif?(f)|TIF?(F)|webp|WEBP|hei[cf]|HEI[CF]|avif|AVIF|bmp|BMP|gif|GIF|p[bgp]m|P[BGP]M|pdf|PDF)'
     fi
 } && complete -F _corvel_print corvel-print

@@ -96,4 +96,47 @@ QString layoutText(const SheetLayout &layout)
     return parts.join(separator);
 }
 
+QString pagesText(const PageChoice &pages)
+{
+    QStringList parts;
+    if (pages.which == PageChoice::Which::Selected)
+        parts += Text::tr("Selection", "of a document");
+    else if (pages.which != PageChoice::Which::All)
+        parts += pages.ranges.isEmpty() ? Text::tr("Current page") : pages.ranges.toText();
+    if (pages.set != PageChoice::Set::All)
+        parts += pages.set == PageChoice::Set::Odd ? Text::tr("odd only", "pages")
+                                                   : Text::tr("even only", "pages");
+    if (pages.isReversed)
+        parts += Text::tr("last one first", "pages");
+    return parts.join(separator);
+}
+
+QString pagesBeyondText(const Arrangement &arrangement)
+{
+    if (arrangement.pages.which != PageChoice::Which::Ranges || arrangement.pages.ranges.isEmpty())
+        return {};
+    int last = 0; // of the longest document
+    for (const PlacedPhoto &placed : arrangement.photos) {
+        if (const Document *document = placed.photo.document())
+            last = std::max(last, document->pageCount());
+    }
+    const PageRanges::Range wanted = arrangement.pages.ranges.ranges().constLast();
+    const int end = wanted.last == PageRanges::largestNumber ? wanted.first : wanted.last;
+    const bool isSomeThere = arrangement.pages.ranges.ranges().constFirst().first <= last;
+    return isSomeThere && end > last
+               ? Text::tr("There are no pages after page %1.").arg(QLocale().toString(last))
+               : QString();
+}
+
+QString contentText(const Arrangement &arrangement)
+{
+    const auto pages = static_cast<int>(arrangement.pageCount());
+    const auto photos = static_cast<int>(arrangement.photos.size()) - pages;
+    const QString photosText = Text::tr("%n photo(s)", nullptr, photos);
+    const QString pagesText = Text::tr("%n page(s)", nullptr, pages);
+    return pages == 0    ? photosText
+           : photos == 0 ? pagesText
+                         : Text::tr("%1 and %2", "photos and pages").arg(photosText, pagesText);
+}
+
 } // namespace printdialog

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "Arrangement.h"
 #include "PlacementChoice.h"
 #include "SheetLayout.h"
 
@@ -19,5 +20,12 @@ QString placementText(const PlacementChoice &choice);
 QString placementText(const QList<PlacementChoice> &placements);
 /// A layout in words: "2 × 3 on each sheet", "Contact sheet, 5 × 4".
 QString layoutText(const SheetLayout &layout);
+/// A choice of pages in words: "1-3, 7, odd pages only, last one first"; empty for all.
+QString pagesText(const PageChoice &pages);
+/// A sentence about wanted pages that are behind the end of all documents, beside others; empty without
+/// such.
+QString pagesBeyondText(const Arrangement &arrangement);
+/// What is to be printed: "3 photos", "12 pages", "3 photos and 12 pages".
+QString contentText(const Arrangement &arrangement);
 
 } // namespace printdialog

@@ -24,8 +24,16 @@ constexpr int version = 1;
 constexpr double perCent = 100;
 
 const QString photosKey = QStringLiteral("photos");
-const QStringList listKeys = {QStringLiteral("format"), QStringLiteral("version"), QStringLiteral("layout"),
-                              photosKey};
+const QString pagesKey = QStringLiteral("pages");
+const QString setKey = QStringLiteral("pageSet");
+const QString reverseKey = QStringLiteral("reverse");
+const QStringList listKeys = {QStringLiteral("format"),
+                              QStringLiteral("version"),
+                              QStringLiteral("layout"),
+                              photosKey,
+                              pagesKey,
+                              setKey,
+                              reverseKey};
 
 using Fault = PrintListFault;
 
@@ -87,6 +95,12 @@ bool readValue(const QString &key, const QJsonValue &value, PrintList::Entry &en
         entry.path = value.toString();
         return !entry.path.isEmpty() && !entry.path.contains(QChar::Null);
     }
+    if (key == QLatin1String("page")) {
+        entry.page = wholeNumber(value, 1, Document::mostPages);
+        if (entry.page)
+            --*entry.page;
+        return entry.page.has_value();
+    }
     if (key == QLatin1String("copies"))
         return take(wholeNumber(value, 1, mostPhotoCopies), entry.copies);
     if (key == QLatin1String("scaling"))
@@ -116,6 +130,8 @@ QJsonObject jsonOf(const PrintList::Entry &entry, const QDir &folder)
     QJsonObject object{
         {QStringLiteral("file"), relative.startsWith(QLatin1String("../")) ? entry.path : relative},
         {QStringLiteral("scaling"), scalingWord(choice.scaling)}};
+    if (entry.page)
+        object.insert(QStringLiteral("page"), *entry.page + 1);
     if (entry.copies != 1)
         object.insert(QStringLiteral("copies"), entry.copies);
     if (choice.turns != usual.turns)
@@ -130,6 +146,35 @@ QJsonObject jsonOf(const PrintList::Entry &entry, const QDir &folder)
     if (choice.border.isThere())
         object.insert(QStringLiteral("border"), choice.border.toText());
     return object;
+}
+
+/// Reads the choice of pages. The key of a value that is not possible; empty: it is read.
+QString readPages(const QJsonObject &object, PageChoice &pages)
+{
+    const auto isThere = [&object](const QString &key) {
+        return object.contains(key);
+    };
+    if (isThere(pagesKey)) {
+        pages.which = PageChoice::Which::Ranges;
+        if (!take(PageRanges::fromText(object.value(pagesKey).toString()), pages.ranges))
+            return pagesKey;
+    }
+    if (isThere(setKey) && !take(pageSetFromWord(object.value(setKey).toString()), pages.set))
+        return setKey;
+    if (isThere(reverseKey) && !object.value(reverseKey).isBool())
+        return reverseKey;
+    pages.isReversed = object.value(reverseKey).toBool();
+    return {};
+}
+
+void insertPages(const PageChoice &pages, QJsonObject &object)
+{
+    if (!pages.ranges.isEmpty() && pages.which != PageChoice::Which::All)
+        object.insert(pagesKey, pages.ranges.toText());
+    if (pages.set != PageChoice::Set::All)
+        object.insert(setKey, pageSetWord(pages.set));
+    if (pages.isReversed)
+        object.insert(reverseKey, true);
 }
 
 /// The list's own folder, which relative paths count from: a link to the list may be anywhere.
@@ -151,10 +196,13 @@ Failure<Fault> notReadable(const QString &path, const QString &reason)
 
 PrintList PrintList::of(const Arrangement &arrangement)
 {
-    PrintList list{arrangement.layout};
-    for (const PlacedPhoto &placed : arrangement.photos)
+    PrintList list{arrangement.layout, {}, arrangement.pages};
+    for (const PlacedPhoto &placed : arrangement.photos) {
         list.photos +=
             Entry{QFileInfo(placed.photo.path()).absoluteFilePath(), placed.placement, placed.copies};
+        if (placed.photo.document())
+            list.photos.last().page = placed.photo.page();
+    }
     return list;
 }
 
@@ -200,6 +248,8 @@ Result<PrintList, PrintListFault> PrintList::load(const QString &path)
     const QJsonValue layout = object.value(QLatin1String("layout"));
     if (!layout.isUndefined() && !take(SheetLayout::fromText(layout.toString()), list.layout))
         return badValue(path, QStringLiteral("layout"), layout);
+    if (const QString key = readPages(object, list.pages); !key.isEmpty())
+        return badValue(path, key, object.value(key));
     const QJsonArray photos = object.value(photosKey).toArray();
     if (photos.isEmpty() || photos.size() > mostEntries)
         return badValue(path, photosKey, object.value(photosKey));
@@ -227,10 +277,11 @@ std::optional<Failure<PrintListFault>> PrintList::save(const QString &path) cons
     QJsonArray entries;
     for (const Entry &entry : photos)
         entries += jsonOf(entry, folder);
-    const QJsonObject object{{QStringLiteral("format"), formatName},
-                             {QStringLiteral("version"), version},
-                             {QStringLiteral("layout"), layout.toText()},
-                             {photosKey, entries}};
+    QJsonObject object{{QStringLiteral("format"), formatName},
+                       {QStringLiteral("version"), version},
+                       {QStringLiteral("layout"), layout.toText()},
+                       {photosKey, entries}};
+    insertPages(pages, object);
     QSaveFile file(path);
     const bool isWritten = file.open(QIODevice::WriteOnly) && file.write(QJsonDocument(object).toJson()) >= 0;
     if (isWritten && file.commit())

@@ -18,12 +18,13 @@ enum class PrintListFault {
     NotWritable,
 };
 
-/// A saved arrangement: which photos are printed and how, as a file. It holds the photos' names and not their
-/// content.
+/// A saved arrangement: which photos and pages are printed and how, as a file. It holds the names of files
+/// and not their content.
 ///
 /// The file is JSON in UTF-8: an object with "format": "corvel-print-list", "version": 1, "layout" (see
-/// SheetLayout::toText) and "photos", an array of objects with "file" and, where they differ from the usual,
-/// "copies", "scaling"
+/// SheetLayout::toText), where not all pages of documents are printed "pages" (see PageRanges), "pageSet"
+/// (see pageSetWord) and "reverse" (true or false), and "photos", an array of objects with "file", for a page
+/// of a document "page" (from 1 on) and, where they differ from the usual, "copies", "scaling"
 /// ("fit", "fill", "actual"), "turns" (0 to 3), "crop" (two numbers in per cent, see PlacementChoice), "size"
 /// (see PrintSize), "scale" (in per cent) and "border" (see PhotoBorder). A photo in the list's own folder,
 /// or below it, is named relative to it, so that both can be moved together.
@@ -37,6 +38,7 @@ public:
         QString path; ///< Absolute.
         PlacementChoice placement = {};
         int copies = 1;
+        std::optional<int> page = {}; ///< From 0 on; nothing: a photo, or all pages of a document.
     };
 
     static constexpr qint64 largestFile = 16 << 20; ///< In bytes.
@@ -44,6 +46,7 @@ public:
 
     SheetLayout layout = {};
     QList<Entry> photos = {};
+    PageChoice pages = {};
 
     static PrintList of(const Arrangement &arrangement);
 

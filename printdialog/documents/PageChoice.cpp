@@ -97,4 +97,20 @@ bool PageChoice::contains(int number) const
     return which == Which::All || which == Which::Selected || ranges.contains(number);
 }
 
+QString pageSetWord(PageChoice::Set set)
+{
+    return set == PageChoice::Set::All   ? QStringLiteral("all")
+           : set == PageChoice::Set::Odd ? QStringLiteral("odd")
+                                         : QStringLiteral("even");
+}
+
+std::optional<PageChoice::Set> pageSetFromWord(const QString &word)
+{
+    for (const auto set : {PageChoice::Set::All, PageChoice::Set::Odd, PageChoice::Set::Even}) {
+        if (word == pageSetWord(set))
+            return set;
+    }
+    return std::nullopt;
+}
+
 } // namespace printdialog

@@ -68,4 +68,8 @@ struct PageChoice
     bool operator==(const PageChoice &) const = default;
 };
 
+/// "all", "odd" or "even", for scripts and files.
+QString pageSetWord(PageChoice::Set set);
+std::optional<PageChoice::Set> pageSetFromWord(const QString &word);
+
 } // namespace printdialog

@@ -21,7 +21,7 @@ struct Text
 } // namespace
 
 SummaryEntries jobSummary(DialogSession &session, int copies, const QList<PlacementChoice> &placements,
-                          const SheetLayout &layout)
+                          const SheetLayout &layout, const PageChoice &pages)
 {
     SummaryEntries entries;
     const OptionSource &options = session.options();
@@ -32,6 +32,8 @@ SummaryEntries jobSummary(DialogSession &session, int copies, const QList<Placem
         entries.append({Text::tr("Placement"), placementText(placements)});
     if (!session.printer().isRaw && layout.kind != SheetLayout::Kind::Single)
         entries.append({Text::tr("Layout"), layoutText(layout)});
+    if (const QString text = pagesText(pages); !text.isEmpty())
+        entries.append({Text::tr("Pages"), text});
     return entries + session.summary();
 }
 

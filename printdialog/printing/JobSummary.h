@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "PageChoice.h"
 #include "PlacementChoice.h"
 #include "SheetLayout.h"
 
@@ -17,10 +18,10 @@ class DialogSession;
 /// Pairs of label and text.
 using SummaryEntries = QList<QPair<QString, QString>>;
 
-/// The job in words: the paper, the copies, the photos' placement and layout, then the panels' entries. The
-/// placement is left out without photos, or for a printer that places them itself; the layout where each
-/// photo has a sheet.
+/// The job in words: the paper, the copies, the photos' placement and layout, the choice of pages, then the
+/// panels' entries. The placement is left out without photos, or for a printer that places them itself; the
+/// layout where each photo has a sheet, the pages where all are printed.
 SummaryEntries jobSummary(DialogSession &session, int copies, const QList<PlacementChoice> &placements,
-                          const SheetLayout &layout);
+                          const SheetLayout &layout, const PageChoice &pages = {});
 
 } // namespace printdialog

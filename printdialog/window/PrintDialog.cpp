@@ -114,10 +114,11 @@ PrintDialog::PrintDialog(const PrintDialogSetup &setup, QWidget *parent)
     connect(ui_->photos, &PhotoPane::photosChanged, ui_->panels, &PanelTabs::updateSummary);
     connect(ui_->photos, &PhotoPane::photosChanged, this, &PrintDialog::showPhoto);
     connect(ui_->photos, &PhotoPane::placementChanged, this, &PrintDialog::nameDocuments);
+    connect(ui_->photos, &PhotoPane::bookletChosen, this, &PrintDialog::proposeBookletSides);
     connect(ui_->photos, &PhotoPane::planChanged, this, &PrintDialog::updateButtons);
     connect(ui_->photos, &PhotoPane::listSaved, this, [this](const QString &path) {
         ui_->message->show(MessageBar::Kind::Information,
-                           tr("The photos are saved as \"%1\".").arg(plainText(path, shownTextLimit)));
+                           tr("The list is saved as \"%1\".").arg(plainText(path, shownTextLimit)));
     });
     connect(ui_->photos, &PhotoPane::failed, this,
             [this](PhotoOpener::Use use, const QStringList &sentences) {
@@ -127,9 +128,10 @@ PrintDialog::PrintDialog(const PrintDialogSetup &setup, QWidget *parent)
                 showPhotoFailures(isInitial ? setup_.photoFailures : sentences);
             });
     if (setup.arrangement)
-        ui_->photos->setArrangement(*setup.arrangement);
+        ui_->photos->setArrangement(*setup.arrangement, setup.lockedEntries);
     else
-        ui_->photos->setPhotos(setup.photos, setup.style.value_or(ArrangementStyle()), setup.furtherPaths);
+        ui_->photos->setPhotos(setup.photos, setup.style.value_or(ArrangementStyle()), setup.furtherPaths,
+                               setup.program ? setup.program->pages : setup.pages);
     showPhoto();
     if (setup.program)
         showProgram();
@@ -221,7 +223,7 @@ SummaryEntries PrintDialog::summary() const
 {
     const Arrangement &arrangement = ui_->photos->arrangement();
     return jobSummary(*printer_->session(), ui_->copies->value(), arrangement.placements(),
-                      arrangement.layout);
+                      arrangement.layout, arrangement.pageCount() > 0 ? arrangement.pages : PageChoice());
 }
 
 void PrintDialog::showPhoto()
@@ -230,7 +232,7 @@ void PrintDialog::showPhoto()
     if (!setup_.program)
         setWindowTitle(
             photos.isEmpty()
-                ? tr("Print Photo")
+                ? tr("Print", "a title")
                 : tr("Print %1").arg(plainText(photos.at(ui_->photos->current()).photo.fileName())));
     nameDocuments();
     updateButtons();
@@ -240,7 +242,10 @@ void PrintDialog::showPhoto()
 void PrintDialog::nameDocuments()
 {
     const bool isShared = ui_->photos->arrangement().layout.kind != SheetLayout::Kind::Single;
-    ui_->documents->setItemText(0, isShared ? tr("One PDF for each sheet") : tr("One PDF for each photo"));
+    const bool hasPages = ui_->photos->arrangement().pageCount() > 0;
+    ui_->documents->setItemText(0, hasPages   ? tr("PDFs named after the files")
+                                   : isShared ? tr("One PDF for each sheet")
+                                              : tr("One PDF for each photo"));
 }
 
 void PrintDialog::showPhotoFailures(const QStringList &sentences)

@@ -7,6 +7,7 @@
 #include "JobSummary.h"
 #include "Photo.h"
 #include "PrintJob.h"
+#include "PrintList.h"
 #include "PrinterDescription.h"
 #include "ProgramDocument.h"
 #include "Queue.h"
@@ -42,6 +43,7 @@ struct PrintDialogSetup
 {
     QList<Photo> photos;
     QStringList furtherPaths;  ///< files of further photos, opened while the window is there
+    PageChoice pages = {};     ///< of documents among the photos
     QStringList photoFailures; ///< a sentence for each photo that could not be opened
     PanelMode mode = PanelMode::Constraint;
     std::optional<Destination> printer;     ///< the default one when empty
@@ -51,7 +53,8 @@ struct PrintDialogSetup
     QString outputFolder;                   ///< where the built-in printer leaves its files
     bool remembers = true;                 ///< open with the printer used last, and remember the one used now
     std::optional<ArrangementStyle> style; ///< initial arrangement; that of the printer's last use when empty
-    std::optional<Arrangement> arrangement; ///< the initial photos of a print list, in place of `photos`
+    std::optional<Arrangement> arrangement;     ///< the initial photos of a print list, in place of `photos`
+    QList<PrintList::Entry> lockedEntries = {}; ///< of the list, those whose documents need a password
     /// What is chosen becomes the job of a program's document, and is not printed from here.
     std::optional<ProgramDocument> program = std::nullopt;
 };
@@ -137,6 +140,8 @@ private:
     void showPageSize();
     void showPosition();
     void updatePosition();
+
+    void proposeBookletSides();
 
     // The buttons
     bool pageStays();

@@ -17,9 +17,9 @@ void PrintDialog::updateButtons()
 {
     QString reason = printer_->whyNotReady();
     if (reason.isEmpty() && ui_->photos->isOpening())
-        reason = tr("Photos are still being opened.");
+        reason = tr("Files are still being opened.");
     if (reason.isEmpty() && ui_->photos->photos().isEmpty() && !awaitsPages())
-        reason = tr("There is no photo to print.");
+        reason = tr("There is nothing to print.");
     if (reason.isEmpty())
         reason = ui_->photos->whyNotPrintable();
     if (reason.isEmpty() && printing_->isBusy())
@@ -82,7 +82,7 @@ void PrintDialog::closeUnlessWorkIsLost()
     asksToLose_ = !isAnswered && ui_->photos->model()->hasUnkeptWork();
     if (!asksToLose_)
         return QDialog::reject();
-    ui_->message->ask(tr("The photos were arranged and not printed. Close the window all the same?"),
+    ui_->message->ask(tr("The sheets were arranged and not printed. Close the window all the same?"),
                       {{tr("Close Without Printing"),
                         [this] {
                             QDialog::reject();

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: Corvel print dialog authors
 // SPDX-License-Identifier: Apache-2.0
 
+#include "BookletSides.h"
 #include "ChoiceController.h"
 #include "DialogSession.h"
 #include "PrintDialog.h"
@@ -88,6 +89,15 @@ void PrintDialog::showPageSize()
     if (size)
         ui_->photos->setPage({size->points, size->imageable});
     updatePosition();
+}
+
+/// A booklet is one step with the sides that it is printed on.
+void PrintDialog::proposeBookletSides()
+{
+    if (!printer_->session())
+        return;
+    if (const QString text = chooseBookletSides(*printer_->session()); !text.isEmpty())
+        ui_->message->show(MessageBar::Kind::Information, text);
 }
 
 /// The window for the print position follows the printer and the paper while it is open.

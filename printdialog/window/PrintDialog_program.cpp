@@ -36,6 +36,7 @@ void PrintDialog::showProgram()
         program.program.isEmpty()
             ? tr("The program brings the pages after you press \"%1\".").arg(button)
             : tr("%1 brings the pages after you press \"%2\".").arg(program.program, button));
+    ui_->photos->offerPages(program.hasCurrentPage, program.hasSelection);
 }
 
 /// In the place of printing: the program gets what was chosen.
@@ -45,10 +46,8 @@ void PrintDialog::prepare()
     if (!job)
         return;
     printer_->notePrinted();
-    PreparedPrint made{*job, ui_->photos->arrangement(), ui_->photos->model()->style().placement};
-    if (awaitsPages())
-        made.arrangement.pages = setup_.program->pages;
-    Q_EMIT prepared(made, *printer_->session());
+    Q_EMIT prepared({*job, ui_->photos->arrangement(), ui_->photos->model()->style().placement},
+                    *printer_->session());
     accept();
 }
 

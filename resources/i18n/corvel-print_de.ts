@@ -94,6 +94,53 @@
         <source>Booklet</source>
         <translation>Broschüre</translation>
     </message>
+    <message>
+        <source>Selection</source>
+        <comment>of a document</comment>
+        <translation>Auswahl</translation>
+    </message>
+    <message>
+        <source>Current page</source>
+        <translation>Aktuelle Seite</translation>
+    </message>
+    <message>
+        <source>odd only</source>
+        <comment>pages</comment>
+        <translation>nur ungerade</translation>
+    </message>
+    <message>
+        <source>even only</source>
+        <comment>pages</comment>
+        <translation>nur gerade</translation>
+    </message>
+    <message>
+        <source>last one first</source>
+        <comment>pages</comment>
+        <translation>letzte zuerst</translation>
+    </message>
+    <message>
+        <source>There are no pages after page %1.</source>
+        <translation>Nach Seite %1 kommen keine Seiten mehr.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n photo(s)</source>
+        <translation>
+            <numerusform>%n Foto</numerusform>
+            <numerusform>%n Fotos</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n page(s)</source>
+        <translation>
+            <numerusform>%n Seite</numerusform>
+            <numerusform>%n Seiten</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 and %2</source>
+        <comment>photos and pages</comment>
+        <translation>%1 und %2</translation>
+    </message>
 </context>
 <context>
     <name>BatchRun</name>
@@ -116,6 +163,21 @@
     <message>
         <source>--one-pdf is for the built-in printer, and this is &quot;%1&quot;. Leave it out, or name the built-in printer.</source>
         <translation>--one-pdf gilt für den eingebauten Drucker, und dies ist „%1“. Lassen Sie es weg, oder nennen Sie den eingebauten Drucker.</translation>
+    </message>
+</context>
+<context>
+    <name>BookletSides</name>
+    <message>
+        <source>A booklet is printed on both sides, turned on the short edge. This printer does not do that itself: print the odd sides first, then the even ones on their backs.</source>
+        <translation>Eine Broschüre wird beidseitig gedruckt, an der kurzen Kante gewendet. Dieser Drucker kann das nicht selbst: Drucken Sie erst die ungeraden Seiten der Blätter, dann die geraden auf deren Rückseiten.</translation>
+    </message>
+    <message>
+        <source>A booklet is printed on both sides, turned on the short edge. Another choice does not allow that: look at &quot;%1&quot;.</source>
+        <translation>Eine Broschüre wird beidseitig gedruckt, an der kurzen Kante gewendet. Eine andere Auswahl lässt das nicht zu: Sehen Sie sich „%1“ an.</translation>
+    </message>
+    <message>
+        <source>A booklet is printed on both sides, turned on the short edge: &quot;%1&quot; is set to that.</source>
+        <translation>Eine Broschüre wird beidseitig gedruckt, an der kurzen Kante gewendet: „%1“ ist so eingestellt.</translation>
     </message>
 </context>
 <context>
@@ -226,24 +288,6 @@ was die Seiten sagen; mit --batch zusätzlich zum Drucken</translation>
         <translation>%1 und %2 schließen einander aus.</translation>
     </message>
     <message>
-        <source>--batch needs a photo to print.</source>
-        <translation>--batch braucht ein Foto zum Drucken.</translation>
-    </message>
-    <message>
-        <source>Usage: corvel-print [options] PHOTO...
-Prints photos on a photo printer: from a window, or at once with --batch.
-PHOTO can be - for the standard input, or a print list, LIST.json.
-
-Options:
-</source>
-        <translation>Aufruf: corvel-print [Optionen] FOTO...
-Druckt Fotos auf einem Fotodrucker: aus einem Fenster, oder mit --batch sofort.
-Als FOTO gilt auch - für die Standardeingabe, oder eine Druckliste, LISTE.json.
-
-Optionen:
-</translation>
-    </message>
-    <message>
         <source>show exactly what --batch would send, and send nothing</source>
         <translation>genau zeigen, was --batch senden würde, und nichts senden</translation>
     </message>
@@ -264,10 +308,6 @@ So ein Auftrag bleibt beim Druckserver; das wird gemeldet, Status 0</translation
     <message>
         <source>lists, summary and --dry-run as JSON</source>
         <translation>Listen, Zusammenfassung und --dry-run als JSON</translation>
-    </message>
-    <message>
-        <source>--dry-run needs a photo.</source>
-        <translation>--dry-run braucht ein Foto.</translation>
     </message>
     <message>
         <source>--json is for --list-printers, --list-options, --summary and --dry-run.</source>
@@ -314,33 +354,6 @@ und drucken, was von ihnen übrig ist</translation>
     <message>
         <source>--no-check is for --batch and --dry-run.</source>
         <translation>--no-check gehört zu --batch und --dry-run.</translation>
-    </message>
-    <message>
-        <source>
-Exit status:
-  0  printed, or done what was asked for
-  1  refused or failed; one line on standard error says what and why. A photo with
-     damaged pixels is left out, with a line of its own, and the others are printed
-  2  wrong usage
-
-Examples:
-  corvel-print --printer built-in holiday.jpg
-  corvel-print --batch -o Red=12 -o Quality=Fine -o Overcoat=Matte --output prints *.jpg
-  corvel-print --batch --size passport --scaling fill --layout fit portrait.jpg
-</source>
-        <translation>
-Rückgabewert:
-  0  gedruckt oder das Verlangte getan
-  1  abgelehnt oder fehlgeschlagen; eine Zeile auf der Standardfehlerausgabe sagt, was
-     und warum. Ein Foto mit beschädigtem Bild wird mit einer eigenen Zeile ausgelassen,
-     die anderen werden gedruckt
-  2  falscher Aufruf
-
-Beispiele:
-  corvel-print --printer built-in urlaub.jpg
-  corvel-print --batch -o Red=12 -o Quality=Fine -o Overcoat=Matte --output abzuege *.jpg
-  corvel-print --batch --size passport --scaling fill --layout fit portraet.jpg
-</translation>
     </message>
     <message>
         <source>There is no mode &quot;%1&quot;. Choose constraint or settings.</source>
@@ -411,10 +424,6 @@ der längeren Seite, und beenden; weitere Fotos in FILE-2.png, FILE-3.png, ...</
         <translation>„%1“ ist kein Name für ein Bild. Geben Sie einen an, der auf .png endet.</translation>
     </message>
     <message>
-        <source>--preview needs a photo.</source>
-        <translation>--preview braucht ein Foto.</translation>
-    </message>
-    <message>
         <source>--overwrite is for --batch, --dry-run and --preview.</source>
         <translation>--overwrite ist für --batch, --dry-run und --preview.</translation>
     </message>
@@ -433,16 +442,6 @@ square, passport, wallet; sonst die ganze Seite</translation>
         <translation>ein Rand um jedes Foto, innerhalb seiner Größe: 3mm oder 3mm,black</translation>
     </message>
     <message>
-        <source>several photos on a sheet: ROWSxCOLUMNS (2x3); fit, as many of the size
-as fit; contact or contact:ROWSxCOLUMNS, a contact sheet; strips or
-strips:NUMBER, two strips of 2 to 4 photos. With &quot;,repeat&quot; each photo
-fills its sheet; also &quot;,gap=2mm&quot; and &quot;,marks&quot; for cut marks</source>
-        <translation>mehrere Fotos auf einem Blatt: ZEILENxSPALTEN (2x3); fit, so viele der Größe
-wie möglich; contact oder contact:ZEILENxSPALTEN, ein Kontaktabzug; strips
-oder strips:ZAHL, zwei Streifen mit 2 bis 4 Fotos. Mit „,repeat“ füllt jedes
-Foto sein Blatt; auch „,gap=2mm“ und „,marks“ für Schnittmarken</translation>
-    </message>
-    <message>
         <source>what stands below each photo of a layout</source>
         <translation>was unter jedem Foto eines Layouts steht</translation>
     </message>
@@ -459,20 +458,8 @@ Foto sein Blatt; auch „,gap=2mm“ und „,marks“ für Schnittmarken</transl
         <translation>„%1“ ist kein Rand. Geben Sie eine Breite von 0 bis 100 mm an, und eine Farbe, wenn er nicht weiß sein soll: 3mm,black.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is not a layout. Give rows and columns from 1 to 20 (2x3), fit, contact, or strips:2 to strips:4.</source>
-        <translation>„%1“ ist kein Layout. Geben Sie Zeilen und Spalten von 1 bis 20 an (2x3), fit, contact oder strips:2 bis strips:4.</translation>
-    </message>
-    <message>
         <source>There is no caption &quot;%1&quot;. Choose none, name, date or both.</source>
         <translation>Es gibt keine Bildunterschrift „%1“. Wählen Sie none, name, date oder both.</translation>
-    </message>
-    <message>
-        <source>A print list says itself which photos are printed and how. Give it without other photos, and without %1.</source>
-        <translation>Eine Druckliste sagt selbst, welche Fotos wie gedruckt werden. Geben Sie sie ohne andere Fotos und ohne %1 an.</translation>
-    </message>
-    <message>
-        <source>&quot;-&quot; reads one photo from the standard input. Give it once.</source>
-        <translation>„-“ liest ein Foto von der Standardeingabe. Geben Sie es nur einmal an.</translation>
     </message>
     <message>
         <source>a preset of the printer, also of your default printer</source>
@@ -552,6 +539,107 @@ Braucht das Paket corvel-print-portal</translation>
     <message>
         <source>remove that key again</source>
         <translation>diesen Schlüssel wieder entfernen</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a layout. Give rows and columns from 1 to 20 (2x3), fit, contact, strips:2 to strips:4, pages:2, 4, 6, 9 or 16, or booklet.</source>
+        <translation>„%1“ ist keine Anordnung. Geben Sie Zeilen und Spalten von 1 bis 20 (2x3), fit, contact, strips:2 bis strips:4, pages:2, 4, 6, 9 oder 16, oder booklet an.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; does not say which pages. Give page numbers from 1 on and ranges, such as 1-3,7,12-.</source>
+        <translation>„%1“ sagt nicht, welche Seiten. Geben Sie Seitenzahlen ab 1 und Bereiche an, etwa 1-3,7,12-.</translation>
+    </message>
+    <message>
+        <source>There is no set of pages &quot;%1&quot;. Choose all, odd or even.</source>
+        <translation>Es gibt keine Seitenauswahl „%1“. Wählen Sie all, odd oder even.</translation>
+    </message>
+    <message>
+        <source>several photos on a sheet: ROWSxCOLUMNS (2x3); fit, as many of the size
+as fit; contact or contact:ROWSxCOLUMNS, a contact sheet; strips or
+strips:NUMBER, two strips of 2 to 4 photos. With &quot;,repeat&quot; each photo
+fills its sheet; also &quot;,gap=2mm&quot; and &quot;,marks&quot; for cut marks. Of a
+document: pages:2, 4, 6, 9 or 16 on each sheet, or booklet</source>
+        <translation>mehrere Fotos auf einem Blatt: ZEILENxSPALTEN (2x3); fit, so viele der Größe
+wie möglich; contact oder contact:ZEILENxSPALTEN, ein Kontaktabzug; strips
+oder strips:ZAHL, zwei Streifen mit 2 bis 4 Fotos. Mit „,repeat“ füllt jedes
+Foto sein Blatt; auch „,gap=2mm“ und „,marks“ für Schnittmarken. Bei
+Dokumenten: pages:2, 4, 6, 9 oder 16 pro Blatt, oder booklet</translation>
+    </message>
+    <message>
+        <source>which pages of documents: 1-3,7,12- (12- is page 12 to the last one);
+otherwise all</source>
+        <translation>welche Seiten von Dokumenten: 1-3,7,12- (12- ist Seite 12 bis zur
+letzten); sonst alle</translation>
+    </message>
+    <message>
+        <source>only pages with odd or with even numbers</source>
+        <translation>nur Seiten mit ungeraden oder geraden Zahlen</translation>
+    </message>
+    <message>
+        <source>print the last sheet first</source>
+        <translation>das letzte Blatt zuerst drucken</translation>
+    </message>
+    <message>
+        <source>Usage: corvel-print [options] FILE...
+Prints photos and PDF documents: from a window, or at once with --batch.
+FILE can be - for the standard input, or a print list, LIST.json.
+
+Options:
+</source>
+        <translation>Aufruf: corvel-print [Optionen] FILE...
+Druckt Fotos und PDF-Dokumente: aus einem Fenster, oder mit --batch sofort.
+FILE kann - für die Standardeingabe sein, oder eine Druckliste, LIST.json.
+
+Optionen:
+</translation>
+    </message>
+    <message>
+        <source>
+Exit status:
+  0  printed, or done what was asked for
+  1  refused or failed; one line on standard error says what and why. A photo with
+     damaged pixels is left out, with a line of its own, and the others are printed
+  2  wrong usage
+
+Examples:
+  corvel-print --printer built-in holiday.jpg
+  corvel-print --batch -o Red=12 -o Quality=Fine -o Overcoat=Matte --output prints *.jpg
+  corvel-print --batch --size passport --scaling fill --layout fit portrait.jpg
+  corvel-print --batch --pages 2-9 --layout booklet -o Duplex=DuplexTumble report.pdf
+</source>
+        <translation>
+Rückgabewert:
+  0  gedruckt oder das Verlangte getan
+  1  abgelehnt oder fehlgeschlagen; eine Zeile auf der Standardfehlerausgabe sagt, was
+     und warum. Ein Foto mit beschädigtem Bild wird mit einer eigenen Zeile ausgelassen,
+     die anderen werden gedruckt
+  2  falscher Aufruf
+
+Beispiele:
+  corvel-print --printer built-in urlaub.jpg
+  corvel-print --batch -o Red=12 -o Quality=Fine -o Overcoat=Matte --output abzuege *.jpg
+  corvel-print --batch --size passport --scaling fill --layout fit portraet.jpg
+  corvel-print --batch --pages 2-9 --layout booklet -o Duplex=DuplexTumble report.pdf
+</translation>
+    </message>
+    <message>
+        <source>--batch needs a file to print.</source>
+        <translation>--batch braucht eine Datei zum Drucken.</translation>
+    </message>
+    <message>
+        <source>--dry-run needs a file.</source>
+        <translation>--dry-run braucht eine Datei.</translation>
+    </message>
+    <message>
+        <source>--preview needs a file.</source>
+        <translation>--preview braucht eine Datei.</translation>
+    </message>
+    <message>
+        <source>A print list says itself which files are printed and how. Give it without other files, and without %1.</source>
+        <translation>Eine Druckliste sagt selbst, welche Dateien wie gedruckt werden. Geben Sie sie ohne andere Dateien und ohne %1 an.</translation>
+    </message>
+    <message>
+        <source>&quot;-&quot; reads one file from the standard input. Give it once.</source>
+        <translation>„-“ liest eine Datei von der Standardeingabe. Geben Sie es einmal an.</translation>
     </message>
 </context>
 <context>
@@ -921,6 +1009,10 @@ Braucht das Paket corvel-print-portal</translation>
         <source>Layout</source>
         <translation>Layout</translation>
     </message>
+    <message>
+        <source>Pages</source>
+        <translation>Seiten</translation>
+    </message>
 </context>
 <context>
     <name>Listings</name>
@@ -1085,6 +1177,15 @@ Braucht das Paket corvel-print-portal</translation>
     <message>
         <source>%1 % cut off</source>
         <translation>%1 % abgeschnitten</translation>
+    </message>
+    <message>
+        <source>Page of %1</source>
+        <comment>and its size</comment>
+        <translation>Seite von %1</translation>
+    </message>
+    <message>
+        <source>printed at %1 %</source>
+        <translation>gedruckt mit %1 %</translation>
     </message>
 </context>
 <context>
@@ -1752,6 +1853,17 @@ Braucht das Paket corvel-print-portal</translation>
     </message>
 </context>
 <context>
+    <name>RequestedArrangement</name>
+    <message>
+        <source>&quot;%1&quot; is protected by a password, and there is no terminal to ask for it on. Start the program in a terminal, or in its window.</source>
+        <translation>„%1“ ist mit einem Kennwort geschützt, und es gibt kein Terminal, um danach zu fragen. Starten Sie das Programm in einem Terminal oder mit seinem Fenster.</translation>
+    </message>
+    <message>
+        <source>--pages and --page-set are for documents, and there is none. Leave them out.</source>
+        <translation>--pages und --page-set sind für Dokumente, und es ist keines da. Lassen Sie sie weg.</translation>
+    </message>
+</context>
+<context>
     <name>RequestedSession</name>
     <message>
         <source>Of the preset &quot;%1&quot; is left out: %2</source>
@@ -1806,10 +1918,6 @@ Braucht das Paket corvel-print-portal</translation>
 <context>
     <name>StandardInput</name>
     <message>
-        <source>&quot;-&quot; reads a photo from the standard input, which is the keyboard. Redirect it: corvel-print - &lt; photo.jpg</source>
-        <translation>„-“ liest ein Foto von der Standardeingabe, und die ist die Tastatur. Leiten Sie sie um: corvel-print - &lt; foto.jpg</translation>
-    </message>
-    <message>
         <source>The standard input cannot be kept in &quot;%1&quot;: %2. Free some space there.</source>
         <translation>Die Standardeingabe kann nicht in „%1“ abgelegt werden: %2. Schaffen Sie dort Platz.</translation>
     </message>
@@ -1818,12 +1926,16 @@ Braucht das Paket corvel-print-portal</translation>
         <translation>Die Standardeingabe konnte nicht gelesen werden: %1.</translation>
     </message>
     <message>
-        <source>The standard input is empty. Redirect a photo to it.</source>
-        <translation>Die Standardeingabe ist leer. Leiten Sie ein Foto dorthin um.</translation>
+        <source>&quot;-&quot; reads a file from the standard input, which is the keyboard. Redirect it: corvel-print - &lt; photo.jpg</source>
+        <translation>„-“ liest eine Datei von der Standardeingabe, und die ist die Tastatur. Leiten Sie sie um: corvel-print - &lt; foto.jpg</translation>
     </message>
     <message>
-        <source>The photo on the standard input is too large: a photo may have %1.</source>
-        <translation>Das Foto auf der Standardeingabe ist zu groß: Ein Foto darf %1 haben.</translation>
+        <source>The standard input is empty. Redirect a file to it.</source>
+        <translation>Die Standardeingabe ist leer. Leiten Sie eine Datei dorthin um.</translation>
+    </message>
+    <message>
+        <source>The file on the standard input is too large: it may have %1.</source>
+        <translation>Die Datei auf der Standardeingabe ist zu groß: Sie darf %1 haben.</translation>
     </message>
 </context>
 <context>
@@ -2561,6 +2673,14 @@ Braucht das Paket corvel-print-portal</translation>
         <source>it wants a user name and a password, and there is no terminal to ask on</source>
         <translation>verlangt werden Benutzername und Passwort, und es gibt kein Terminal, um danach zu fragen</translation>
     </message>
+    <message>
+        <source>The password does not open &quot;%1&quot;.</source>
+        <translation>Das Kennwort öffnet „%1“ nicht.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is protected by a password.</source>
+        <translation>„%1“ ist mit einem Kennwort geschützt.</translation>
+    </message>
 </context>
 <context>
     <name>UsedChoices</name>
@@ -2853,6 +2973,13 @@ Braucht das Paket corvel-print-portal</translation>
     <message>
         <source>&quot;%1&quot; cannot be used: its name is not encoded in UTF-8. Rename it.</source>
         <translation>„%1“ kann nicht benutzt werden: Der Name ist nicht in UTF-8 kodiert. Ändern Sie den Namen.</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::FileOpener</name>
+    <message>
+        <source>&quot;%1&quot; has no page %2. Correct the print list.</source>
+        <translation>„%1“ hat keine Seite %2. Berichtigen Sie die Druckliste.</translation>
     </message>
 </context>
 <context>
@@ -3284,6 +3411,25 @@ Braucht das Paket corvel-print-portal</translation>
         <source>Gap:</source>
         <translation>Abstand:</translation>
     </message>
+    <message>
+        <source>One photo or page per sheet</source>
+        <translation>Ein Foto oder eine Seite pro Blatt</translation>
+    </message>
+    <message>
+        <source>One page per sheet</source>
+        <translation>Eine Seite pro Blatt</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n page(s) per sheet</source>
+        <translation>
+            <numerusform>%n Seite pro Blatt</numerusform>
+            <numerusform>%n Seiten pro Blatt</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Booklet</source>
+        <translation>Broschüre</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::MessageBar</name>
@@ -3467,6 +3613,70 @@ Braucht das Paket corvel-print-portal</translation>
     </message>
 </context>
 <context>
+    <name>printdialog::PageBar</name>
+    <message>
+        <source>Reverse order</source>
+        <translation>Umgekehrt</translation>
+    </message>
+    <message>
+        <source>Page ranges</source>
+        <translation>Seitenbereiche</translation>
+    </message>
+    <message>
+        <source>Pages and ranges, separated by commas; 12- is page 12 to the last one</source>
+        <translation>Seiten und Bereiche, durch Kommas getrennt; 12- ist Seite 12 bis zur letzten</translation>
+    </message>
+    <message>
+        <source>Odd and even pages</source>
+        <translation>Gerade und ungerade Seiten</translation>
+    </message>
+    <message>
+        <source>Odd and even</source>
+        <translation>Gerade und ungerade</translation>
+    </message>
+    <message>
+        <source>Odd only</source>
+        <comment>pages</comment>
+        <translation>Nur ungerade</translation>
+    </message>
+    <message>
+        <source>Even only</source>
+        <comment>pages</comment>
+        <translation>Nur gerade</translation>
+    </message>
+    <message>
+        <source>Print the last sheet first</source>
+        <translation>Das letzte Blatt zuerst drucken</translation>
+    </message>
+    <message>
+        <source>Pages:</source>
+        <translation>Seiten:</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <comment>pages</comment>
+        <translation>Alle</translation>
+    </message>
+    <message>
+        <source>Current page</source>
+        <translation>Aktuelle Seite</translation>
+    </message>
+    <message>
+        <source>Selection</source>
+        <comment>pages</comment>
+        <translation>Auswahl</translation>
+    </message>
+    <message>
+        <source>Ranges</source>
+        <comment>of pages</comment>
+        <translation>Bereiche</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; does not say which pages. Type page numbers from 1 on and ranges, such as 1-3,7,12-.</source>
+        <translation>„%1“ sagt nicht, welche Seiten. Geben Sie Seitenzahlen ab 1 und Bereiche ein, etwa 1-3,7,12-.</translation>
+    </message>
+</context>
+<context>
     <name>printdialog::PanelTabs</name>
     <message>
         <source>Options</source>
@@ -3483,6 +3693,34 @@ Braucht das Paket corvel-print-portal</translation>
     <message>
         <source>The page &quot;%1&quot; cannot be left yet. Finish what it asks for.</source>
         <translation>Die Seite „%1“ kann noch nicht verlassen werden. Erledigen Sie zuerst, was sie verlangt.</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::PasswordPrompt</name>
+    <message>
+        <source>Password</source>
+        <translation>Kennwort</translation>
+    </message>
+    <message>
+        <source>The password does not open &quot;%1&quot;. Check it and enter it again.</source>
+        <translation>Das Kennwort öffnet „%1“ nicht. Prüfen Sie es und geben Sie es noch einmal ein.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is protected by a password.</source>
+        <translation>„%1“ ist mit einem Kennwort geschützt.</translation>
+    </message>
+    <message>
+        <source>&amp;Open</source>
+        <translation>Ö&amp;ffnen</translation>
+    </message>
+    <message>
+        <source>&amp;Leave Out</source>
+        <comment>a document</comment>
+        <translation>&amp;Weglassen</translation>
+    </message>
+    <message>
+        <source>&amp;Password:</source>
+        <translation>&amp;Passwort:</translation>
     </message>
 </context>
 <context>
@@ -3648,14 +3886,6 @@ Braucht das Paket corvel-print-portal</translation>
         <translation>En&amp;tfernen</translation>
     </message>
     <message>
-        <source>Add photos to this job; they can be dropped on the window as well</source>
-        <translation>Fotos zu diesem Auftrag hinzufügen; sie lassen sich auch auf das Fenster ziehen</translation>
-    </message>
-    <message>
-        <source>Add Photos</source>
-        <translation>Fotos hinzufügen</translation>
-    </message>
-    <message>
         <source>%1 (%2 of %3)</source>
         <translation>%1 (%2 von %3)</translation>
     </message>
@@ -3677,18 +3907,6 @@ Braucht das Paket corvel-print-portal</translation>
     <message>
         <source>Sheets: %1</source>
         <translation>Blätter: %1</translation>
-    </message>
-    <message>
-        <source>Height of the table of photos</source>
-        <translation>Höhe der Fototabelle</translation>
-    </message>
-    <message>
-        <source>Drag to see more or fewer photos</source>
-        <translation>Ziehen, um mehr oder weniger Fotos zu sehen</translation>
-    </message>
-    <message>
-        <source>Take the selected photos out of this job; their files stay</source>
-        <translation>Die ausgewählten Fotos aus diesem Auftrag nehmen; ihre Dateien bleiben</translation>
     </message>
     <message>
         <source>Remove</source>
@@ -3739,14 +3957,6 @@ Braucht das Paket corvel-print-portal</translation>
         <translation>Druckliste öffnen</translation>
     </message>
     <message>
-        <source>The print list &quot;%1&quot; has no photos.</source>
-        <translation>Die Druckliste „%1“ enthält keine Fotos.</translation>
-    </message>
-    <message>
-        <source>Save the Photos as a Print List</source>
-        <translation>Fotos als Druckliste speichern</translation>
-    </message>
-    <message>
         <source>Open List…</source>
         <comment>of photos</comment>
         <translation>Liste öffnen …</translation>
@@ -3756,6 +3966,62 @@ Braucht das Paket corvel-print-portal</translation>
         <comment>of photos</comment>
         <translation>Liste speichern …</translation>
     </message>
+    <message>
+        <source>Show Each Page</source>
+        <translation>Seiten zeigen</translation>
+    </message>
+    <message>
+        <source>Photos and documents</source>
+        <translation>Fotos und Dokumente</translation>
+    </message>
+    <message>
+        <source>PDF documents</source>
+        <translation>PDF-Dokumente</translation>
+    </message>
+    <message>
+        <source>Add Photos or Documents</source>
+        <translation>Fotos oder Dokumente hinzufügen</translation>
+    </message>
+    <message>
+        <source>This page is not printed.</source>
+        <translation>Diese Seite wird nicht gedruckt.</translation>
+    </message>
+    <message>
+        <source>The print list &quot;%1&quot; is empty.</source>
+        <translation>Die Druckliste „%1“ ist leer.</translation>
+    </message>
+    <message>
+        <source>Save a Print List</source>
+        <translation>Druckliste speichern</translation>
+    </message>
+    <message>
+        <source>Sides of sheets: %1</source>
+        <translation>Blattseiten: %1</translation>
+    </message>
+    <message>
+        <source>%1, page %2 of %3</source>
+        <translation>%1, Seite %2 von %3</translation>
+    </message>
+    <message>
+        <source>Height of the table</source>
+        <translation>Höhe der Tabelle</translation>
+    </message>
+    <message>
+        <source>Drag to see more or fewer pictures</source>
+        <translation>Ziehen, um mehr oder weniger Bilder zu sehen</translation>
+    </message>
+    <message>
+        <source>Add photos and PDF documents to this job; they can be dropped on the window as well</source>
+        <translation>Fotos und PDF-Dokumente zu diesem Auftrag hinzufügen; sie können auch ins Fenster gezogen werden</translation>
+    </message>
+    <message>
+        <source>Take what is selected out of this job; the files stay</source>
+        <translation>Das Ausgewählte aus diesem Auftrag nehmen; die Dateien bleiben</translation>
+    </message>
+    <message>
+        <source>Show the pages as a table, in which they are moved, removed and placed one by one; otherwise what is chosen holds for all of them</source>
+        <translation>Die Seiten als Tabelle zeigen, in der sie einzeln verschoben, entfernt und platziert werden; sonst gilt das Gewählte für alle</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::PhotoTable</name>
@@ -3763,12 +4029,10 @@ Braucht das Paket corvel-print-portal</translation>
         <source>Delete removes the selected photos; Alt with an arrow key moves them.</source>
         <translation>Entf entfernt die ausgewählten Fotos; Alt mit einer Pfeiltaste verschiebt sie.</translation>
     </message>
-    <message numerus="yes">
-        <source>%n photo(s) of this job</source>
-        <translation>
-            <numerusform>%n Foto dieses Auftrags</numerusform>
-            <numerusform>%n Fotos dieses Auftrags</numerusform>
-        </translation>
+    <message>
+        <source>%1 of this job</source>
+        <comment>such as: 3 photos and 12 pages</comment>
+        <translation>%1 dieses Auftrags</translation>
     </message>
 </context>
 <context>
@@ -3798,6 +4062,10 @@ Braucht das Paket corvel-print-portal</translation>
         <comment>between the parts of a list</comment>
         <translation>, </translation>
     </message>
+    <message>
+        <source>not printed</source>
+        <translation>nicht gedruckt</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::PlacementBar</name>
@@ -3810,14 +4078,6 @@ Braucht das Paket corvel-print-portal</translation>
         <translation>&amp;Platzierung:</translation>
     </message>
     <message>
-        <source>Placement of the photo</source>
-        <translation>Platzierung des Fotos</translation>
-    </message>
-    <message>
-        <source>Turn the photo on the page by a quarter, clockwise</source>
-        <translation>Das Foto auf der Seite um ein Viertel im Uhrzeigersinn drehen</translation>
-    </message>
-    <message>
         <source>This printer places the photo on the page itself.</source>
         <translation>Dieser Drucker setzt das Foto selbst auf die Seite.</translation>
     </message>
@@ -3828,6 +4088,14 @@ Braucht das Paket corvel-print-portal</translation>
     <message>
         <source>Size, border and copies of the photos, and how they share sheets</source>
         <translation>Größe, Rand und Anzahl der Fotos, und wie sie sich Blätter teilen</translation>
+    </message>
+    <message>
+        <source>Placement on the paper</source>
+        <translation>Platzierung auf dem Papier</translation>
+    </message>
+    <message>
+        <source>Turn the photo or page by a quarter, clockwise</source>
+        <translation>Das Foto oder die Seite um ein Viertel drehen, im Uhrzeigersinn</translation>
     </message>
 </context>
 <context>
@@ -4086,10 +4354,6 @@ Braucht das Paket corvel-print-portal</translation>
         <translation>Dieses Foto kann nicht angezeigt werden</translation>
     </message>
     <message>
-        <source>No photo. Drop photos here, or press Add.</source>
-        <translation>Kein Foto. Ziehen Sie Fotos hierher, oder drücken Sie Hinzufügen.</translation>
-    </message>
-    <message>
         <source>Preview of the page</source>
         <translation>Vorschau der Seite</translation>
     </message>
@@ -4133,6 +4397,34 @@ Braucht das Paket corvel-print-portal</translation>
     <message>
         <source>Click on a photo to change how it is printed.</source>
         <translation>Klicken Sie auf ein Foto, um zu ändern, wie es gedruckt wird.</translation>
+    </message>
+    <message>
+        <source>Nothing to print. Drop photos or PDF documents here, or press Add.</source>
+        <translation>Nichts zu drucken. Ziehen Sie Fotos oder PDF-Dokumente hierher, oder drücken Sie „Hinzufügen“.</translation>
+    </message>
+    <message>
+        <source>This page cannot be shown</source>
+        <translation>Diese Seite kann nicht gezeigt werden</translation>
+    </message>
+    <message>
+        <source>Page %1 of %2 on the sheet.</source>
+        <translation>Seite %1 von %2 auf dem Blatt.</translation>
+    </message>
+    <message>
+        <source>The whole page is printed.</source>
+        <translation>Die ganze Seite wird gedruckt.</translation>
+    </message>
+    <message>
+        <source>%1 % of the page is cut off.</source>
+        <translation>%1 % der Seite sind abgeschnitten.</translation>
+    </message>
+    <message>
+        <source>Drag the page, or press the arrow keys, to move it; Home puts it in the middle.</source>
+        <translation>Ziehen Sie die Seite oder drücken Sie die Pfeiltasten, um sie zu verschieben; Pos1 setzt sie in die Mitte.</translation>
+    </message>
+    <message>
+        <source>Click on a page to change how it is printed.</source>
+        <translation>Klicken Sie auf eine Seite, um zu ändern, wie sie gedruckt wird.</translation>
     </message>
 </context>
 <context>
@@ -4187,10 +4479,6 @@ Braucht das Paket corvel-print-portal</translation>
 <context>
     <name>printdialog::PrintDialog</name>
     <message>
-        <source>Print Photo</source>
-        <translation>Foto drucken</translation>
-    </message>
-    <message>
         <source>Print %1</source>
         <translation>%1 drucken</translation>
     </message>
@@ -4201,10 +4489,6 @@ Braucht das Paket corvel-print-portal</translation>
     <message>
         <source>This printer has no panels of its own; it prints with its defaults.</source>
         <translation>Dieser Drucker hat keine eigenen Einstellungsseiten; er druckt mit seinen Standardwerten.</translation>
-    </message>
-    <message>
-        <source>There is no photo to print.</source>
-        <translation>Es gibt kein Foto zu drucken.</translation>
     </message>
     <message>
         <source>Printing is under way.</source>
@@ -4257,24 +4541,12 @@ Braucht das Paket corvel-print-portal</translation>
         <translation>%1 (nicht eingelegt)</translation>
     </message>
     <message>
-        <source>Photos are still being opened.</source>
-        <translation>Es werden noch Fotos geöffnet.</translation>
-    </message>
-    <message>
-        <source>The photos were arranged and not printed. Close the window all the same?</source>
-        <translation>Die Fotos wurden angeordnet und nicht gedruckt. Das Fenster trotzdem schließen?</translation>
-    </message>
-    <message>
         <source>Close Without Printing</source>
         <translation>Ohne Drucken schließen</translation>
     </message>
     <message>
         <source>Keep Open</source>
         <translation>Offen lassen</translation>
-    </message>
-    <message>
-        <source>The photos are saved as &quot;%1&quot;.</source>
-        <translation>Die Fotos sind als „%1“ gespeichert.</translation>
     </message>
     <message>
         <source>Save List…</source>
@@ -4295,6 +4567,31 @@ Braucht das Paket corvel-print-portal</translation>
     <message>
         <source>%1 brings the pages after you press &quot;%2&quot;.</source>
         <translation>%1 liefert die Seiten, nachdem Sie auf „%2“ gedrückt haben.</translation>
+    </message>
+    <message>
+        <source>The list is saved as &quot;%1&quot;.</source>
+        <translation>Die Liste ist als „%1“ gespeichert.</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <comment>a title</comment>
+        <translation>Drucken</translation>
+    </message>
+    <message>
+        <source>PDFs named after the files</source>
+        <translation>PDFs mit den Namen der Dateien</translation>
+    </message>
+    <message>
+        <source>Files are still being opened.</source>
+        <translation>Dateien werden noch geöffnet.</translation>
+    </message>
+    <message>
+        <source>There is nothing to print.</source>
+        <translation>Es gibt nichts zu drucken.</translation>
+    </message>
+    <message>
+        <source>The sheets were arranged and not printed. Close the window all the same?</source>
+        <translation>Die Blätter wurden angeordnet und nicht gedruckt. Das Fenster trotzdem schließen?</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,23 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en" sourcelanguage="en">
 <context>
+    <name>ArrangementText</name>
+    <message numerus="yes">
+        <source>%n photo(s)</source>
+        <translation>
+            <numerusform>%n photo</numerusform>
+            <numerusform>%n photos</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n page(s)</source>
+        <translation>
+            <numerusform>%n page</numerusform>
+            <numerusform>%n pages</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>Console</name>
     <message numerus="yes">
         <source>And %n more.</source>
@@ -29,22 +46,22 @@
     </message>
 </context>
 <context>
+    <name>printdialog::LayoutBar</name>
+    <message numerus="yes">
+        <source>%n page(s) per sheet</source>
+        <translation>
+            <numerusform>%n page per sheet</numerusform>
+            <numerusform>%n pages per sheet</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>printdialog::PhotoPane</name>
     <message numerus="yes">
         <source>%n more file(s) cannot be printed.</source>
         <translation>
             <numerusform>%n more file cannot be printed.</numerusform>
             <numerusform>%n more files cannot be printed.</numerusform>
-        </translation>
-    </message>
-</context>
-<context>
-    <name>printdialog::PhotoTable</name>
-    <message numerus="yes">
-        <source>%n photo(s) of this job</source>
-        <translation>
-            <numerusform>%n photo of this job</numerusform>
-            <numerusform>%n photos of this job</numerusform>
         </translation>
     </message>
 </context>

@@ -94,6 +94,53 @@
         <source>Booklet</source>
         <translation>Folleto</translation>
     </message>
+    <message>
+        <source>Selection</source>
+        <comment>of a document</comment>
+        <translation>Selección</translation>
+    </message>
+    <message>
+        <source>Current page</source>
+        <translation>Página actual</translation>
+    </message>
+    <message>
+        <source>odd only</source>
+        <comment>pages</comment>
+        <translation>solo impares</translation>
+    </message>
+    <message>
+        <source>even only</source>
+        <comment>pages</comment>
+        <translation>solo pares</translation>
+    </message>
+    <message>
+        <source>last one first</source>
+        <comment>pages</comment>
+        <translation>la última primero</translation>
+    </message>
+    <message>
+        <source>There are no pages after page %1.</source>
+        <translation>No hay más páginas después de la página %1.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n photo(s)</source>
+        <translation>
+            <numerusform>%n foto</numerusform>
+            <numerusform>%n fotos</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n page(s)</source>
+        <translation>
+            <numerusform>%n página</numerusform>
+            <numerusform>%n páginas</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 and %2</source>
+        <comment>photos and pages</comment>
+        <translation>%1 y %2</translation>
+    </message>
 </context>
 <context>
     <name>BatchRun</name>
@@ -116,6 +163,21 @@
     <message>
         <source>--one-pdf is for the built-in printer, and this is &quot;%1&quot;. Leave it out, or name the built-in printer.</source>
         <translation>--one-pdf es para la impresora integrada, y esta es «%1». Quítelo o indique la impresora integrada.</translation>
+    </message>
+</context>
+<context>
+    <name>BookletSides</name>
+    <message>
+        <source>A booklet is printed on both sides, turned on the short edge. This printer does not do that itself: print the odd sides first, then the even ones on their backs.</source>
+        <translation>Un folleto se imprime por las dos caras, girado por el borde corto. Esta impresora no lo hace por sí misma: imprima primero las caras impares y después las pares en su dorso.</translation>
+    </message>
+    <message>
+        <source>A booklet is printed on both sides, turned on the short edge. Another choice does not allow that: look at &quot;%1&quot;.</source>
+        <translation>Un folleto se imprime por las dos caras, girado por el borde corto. Otra opción no lo permite: revise «%1».</translation>
+    </message>
+    <message>
+        <source>A booklet is printed on both sides, turned on the short edge: &quot;%1&quot; is set to that.</source>
+        <translation>Un folleto se imprime por las dos caras, girado por el borde corto: «%1» está ajustado así.</translation>
     </message>
 </context>
 <context>
@@ -226,24 +288,6 @@ dicen los paneles; con --batch, además de imprimir</translation>
         <translation>%1 y %2 se excluyen mutuamente.</translation>
     </message>
     <message>
-        <source>--batch needs a photo to print.</source>
-        <translation>--batch necesita una foto que imprimir.</translation>
-    </message>
-    <message>
-        <source>Usage: corvel-print [options] PHOTO...
-Prints photos on a photo printer: from a window, or at once with --batch.
-PHOTO can be - for the standard input, or a print list, LIST.json.
-
-Options:
-</source>
-        <translation>Uso: corvel-print [opciones] FOTO...
-Imprime fotos en una impresora fotográfica: desde una ventana, o al momento con --batch.
-FOTO puede ser - para la entrada estándar, o una lista de impresión, LISTA.json.
-
-Opciones:
-</translation>
-    </message>
-    <message>
         <source>show exactly what --batch would send, and send nothing</source>
         <translation>mostrar exactamente lo que enviaría --batch, sin enviar nada</translation>
     </message>
@@ -264,10 +308,6 @@ queda en el servidor de impresión, se avisa y el código de salida es 0</transl
     <message>
         <source>lists, summary and --dry-run as JSON</source>
         <translation>listas, resumen y --dry-run como JSON</translation>
-    </message>
-    <message>
-        <source>--dry-run needs a photo.</source>
-        <translation>--dry-run necesita una foto.</translation>
     </message>
     <message>
         <source>--json is for --list-printers, --list-options, --summary and --dry-run.</source>
@@ -314,32 +354,6 @@ e imprimen lo que queda de ellas</translation>
     <message>
         <source>--no-check is for --batch and --dry-run.</source>
         <translation>--no-check es para --batch y --dry-run.</translation>
-    </message>
-    <message>
-        <source>
-Exit status:
-  0  printed, or done what was asked for
-  1  refused or failed; one line on standard error says what and why. A photo with
-     damaged pixels is left out, with a line of its own, and the others are printed
-  2  wrong usage
-
-Examples:
-  corvel-print --printer built-in holiday.jpg
-  corvel-print --batch -o Red=12 -o Quality=Fine -o Overcoat=Matte --output prints *.jpg
-  corvel-print --batch --size passport --scaling fill --layout fit portrait.jpg
-</source>
-        <translation>
-Estado de salida:
-  0  impreso, o hecho lo que se pedía
-  1  rechazado o fallido; una línea en la salida de error dice qué y por qué. Una foto
-     con la imagen dañada se omite, con una línea propia, y las demás se imprimen
-  2  uso incorrecto
-
-Ejemplos:
-  corvel-print --printer built-in vacaciones.jpg
-  corvel-print --batch -o Red=12 -o Quality=Fine -o Overcoat=Matte --output copias *.jpg
-  corvel-print --batch --size passport --scaling fill --layout fit retrato.jpg
-</translation>
     </message>
     <message>
         <source>There is no mode &quot;%1&quot;. Choose constraint or settings.</source>
@@ -410,10 +424,6 @@ en su lado mayor, y salir; las demás fotos en FILE-2.png, FILE-3.png, ...</tran
         <translation>«%1» no es un nombre de imagen. Indique uno que termine en .png.</translation>
     </message>
     <message>
-        <source>--preview needs a photo.</source>
-        <translation>--preview necesita una foto.</translation>
-    </message>
-    <message>
         <source>--overwrite is for --batch, --dry-run and --preview.</source>
         <translation>--overwrite es para --batch, --dry-run y --preview.</translation>
     </message>
@@ -432,16 +442,6 @@ square, passport, wallet; si no, toda la página</translation>
         <translation>un borde alrededor de cada foto, dentro de su tamaño: 3mm o 3mm,black</translation>
     </message>
     <message>
-        <source>several photos on a sheet: ROWSxCOLUMNS (2x3); fit, as many of the size
-as fit; contact or contact:ROWSxCOLUMNS, a contact sheet; strips or
-strips:NUMBER, two strips of 2 to 4 photos. With &quot;,repeat&quot; each photo
-fills its sheet; also &quot;,gap=2mm&quot; and &quot;,marks&quot; for cut marks</source>
-        <translation>varias fotos por hoja: FILASxCOLUMNAS (2x3); fit, todas las de ese tamaño que
-quepan; contact o contact:FILASxCOLUMNAS, una hoja de contactos; strips o
-strips:NÚMERO, dos tiras de 2 a 4 fotos. Con «,repeat» cada foto llena su
-hoja; también «,gap=2mm», y «,marks» para las marcas de corte</translation>
-    </message>
-    <message>
         <source>what stands below each photo of a layout</source>
         <translation>lo que figura debajo de cada foto de una disposición</translation>
     </message>
@@ -458,20 +458,8 @@ hoja; también «,gap=2mm», y «,marks» para las marcas de corte</translation>
         <translation>«%1» no es un borde. Indique un ancho de 0 a 100 mm y un color si no ha de ser blanco: 3mm,black.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is not a layout. Give rows and columns from 1 to 20 (2x3), fit, contact, or strips:2 to strips:4.</source>
-        <translation>«%1» no es una disposición. Indique filas y columnas de 1 a 20 (2x3), fit, contact o de strips:2 a strips:4.</translation>
-    </message>
-    <message>
         <source>There is no caption &quot;%1&quot;. Choose none, name, date or both.</source>
         <translation>No existe el pie de foto «%1». Elija none, name, date o both.</translation>
-    </message>
-    <message>
-        <source>A print list says itself which photos are printed and how. Give it without other photos, and without %1.</source>
-        <translation>Una lista de impresión dice ella misma qué fotos se imprimen y cómo. Indíquela sin otras fotos y sin %1.</translation>
-    </message>
-    <message>
-        <source>&quot;-&quot; reads one photo from the standard input. Give it once.</source>
-        <translation>«-» lee una foto de la entrada estándar. Indíquelo una sola vez.</translation>
     </message>
     <message>
         <source>a preset of the printer, also of your default printer</source>
@@ -551,6 +539,106 @@ Requiere el paquete corvel-print-portal</translation>
     <message>
         <source>remove that key again</source>
         <translation>quitar de nuevo esa clave</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a layout. Give rows and columns from 1 to 20 (2x3), fit, contact, strips:2 to strips:4, pages:2, 4, 6, 9 or 16, or booklet.</source>
+        <translation>«%1» no es una disposición. Dé filas y columnas de 1 a 20 (2x3), fit, contact, strips:2 a strips:4, pages:2, 4, 6, 9 o 16, o booklet.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; does not say which pages. Give page numbers from 1 on and ranges, such as 1-3,7,12-.</source>
+        <translation>«%1» no indica qué páginas. Dé números de página a partir de 1 e intervalos, como 1-3,7,12-.</translation>
+    </message>
+    <message>
+        <source>There is no set of pages &quot;%1&quot;. Choose all, odd or even.</source>
+        <translation>No existe el conjunto de páginas «%1». Elija all, odd o even.</translation>
+    </message>
+    <message>
+        <source>several photos on a sheet: ROWSxCOLUMNS (2x3); fit, as many of the size
+as fit; contact or contact:ROWSxCOLUMNS, a contact sheet; strips or
+strips:NUMBER, two strips of 2 to 4 photos. With &quot;,repeat&quot; each photo
+fills its sheet; also &quot;,gap=2mm&quot; and &quot;,marks&quot; for cut marks. Of a
+document: pages:2, 4, 6, 9 or 16 on each sheet, or booklet</source>
+        <translation>varias fotos por hoja: FILASxCOLUMNAS (2x3); fit, todas las de ese tamaño que
+quepan; contact o contact:FILASxCOLUMNAS, una hoja de contactos; strips o
+strips:NÚMERO, dos tiras de 2 a 4 fotos. Con «,repeat» cada foto llena su
+hoja; también «,gap=2mm», y «,marks» para las marcas de corte. De un
+documento: pages:2, 4, 6, 9 o 16 por hoja, o booklet</translation>
+    </message>
+    <message>
+        <source>which pages of documents: 1-3,7,12- (12- is page 12 to the last one);
+otherwise all</source>
+        <translation>qué páginas de los documentos: 1-3,7,12- (12- es de la página 12 a la
+última); si no, todas</translation>
+    </message>
+    <message>
+        <source>only pages with odd or with even numbers</source>
+        <translation>solo páginas de número impar o par</translation>
+    </message>
+    <message>
+        <source>print the last sheet first</source>
+        <translation>imprimir primero la última hoja</translation>
+    </message>
+    <message>
+        <source>Usage: corvel-print [options] FILE...
+Prints photos and PDF documents: from a window, or at once with --batch.
+FILE can be - for the standard input, or a print list, LIST.json.
+
+Options:
+</source>
+        <translation>Uso: corvel-print [opciones] FILE...
+Imprime fotos y documentos PDF: desde una ventana, o de inmediato con --batch.
+FILE puede ser - para la entrada estándar, o una lista de impresión, LIST.json.
+
+Opciones:
+</translation>
+    </message>
+    <message>
+        <source>
+Exit status:
+  0  printed, or done what was asked for
+  1  refused or failed; one line on standard error says what and why. A photo with
+     damaged pixels is left out, with a line of its own, and the others are printed
+  2  wrong usage
+
+Examples:
+  corvel-print --printer built-in holiday.jpg
+  corvel-print --batch -o Red=12 -o Quality=Fine -o Overcoat=Matte --output prints *.jpg
+  corvel-print --batch --size passport --scaling fill --layout fit portrait.jpg
+  corvel-print --batch --pages 2-9 --layout booklet -o Duplex=DuplexTumble report.pdf
+</source>
+        <translation>
+Estado de salida:
+  0  impreso, o hecho lo que se pedía
+  1  rechazado o fallido; una línea en la salida de error dice qué y por qué. Una foto
+     con la imagen dañada se omite, con una línea propia, y las demás se imprimen
+  2  uso incorrecto
+
+Ejemplos:
+  corvel-print --printer built-in vacaciones.jpg
+  corvel-print --batch -o Red=12 -o Quality=Fine -o Overcoat=Matte --output copias *.jpg
+  corvel-print --batch --size passport --scaling fill --layout fit retrato.jpg
+  corvel-print --batch --pages 2-9 --layout booklet -o Duplex=DuplexTumble report.pdf
+</translation>
+    </message>
+    <message>
+        <source>--batch needs a file to print.</source>
+        <translation>--batch necesita un archivo que imprimir.</translation>
+    </message>
+    <message>
+        <source>--dry-run needs a file.</source>
+        <translation>--dry-run necesita un archivo.</translation>
+    </message>
+    <message>
+        <source>--preview needs a file.</source>
+        <translation>--preview necesita un archivo.</translation>
+    </message>
+    <message>
+        <source>A print list says itself which files are printed and how. Give it without other files, and without %1.</source>
+        <translation>Una lista de impresión dice por sí misma qué archivos se imprimen y cómo. Dela sin otros archivos y sin %1.</translation>
+    </message>
+    <message>
+        <source>&quot;-&quot; reads one file from the standard input. Give it once.</source>
+        <translation>«-» lee un archivo de la entrada estándar. Delo una sola vez.</translation>
     </message>
 </context>
 <context>
@@ -920,6 +1008,10 @@ Requiere el paquete corvel-print-portal</translation>
         <source>Layout</source>
         <translation>Disposición</translation>
     </message>
+    <message>
+        <source>Pages</source>
+        <translation>Páginas</translation>
+    </message>
 </context>
 <context>
     <name>Listings</name>
@@ -1084,6 +1176,15 @@ Requiere el paquete corvel-print-portal</translation>
     <message>
         <source>%1 % cut off</source>
         <translation>%1 % recortado</translation>
+    </message>
+    <message>
+        <source>Page of %1</source>
+        <comment>and its size</comment>
+        <translation>Página de %1</translation>
+    </message>
+    <message>
+        <source>printed at %1 %</source>
+        <translation>impresa al %1 %</translation>
     </message>
 </context>
 <context>
@@ -1751,6 +1852,17 @@ Requiere el paquete corvel-print-portal</translation>
     </message>
 </context>
 <context>
+    <name>RequestedArrangement</name>
+    <message>
+        <source>&quot;%1&quot; is protected by a password, and there is no terminal to ask for it on. Start the program in a terminal, or in its window.</source>
+        <translation>«%1» está protegido con una contraseña, y no hay terminal en la que pedirla. Inicie el programa en una terminal o con su ventana.</translation>
+    </message>
+    <message>
+        <source>--pages and --page-set are for documents, and there is none. Leave them out.</source>
+        <translation>--pages y --page-set son para documentos, y no hay ninguno. Omítalos.</translation>
+    </message>
+</context>
+<context>
     <name>RequestedSession</name>
     <message>
         <source>Of the preset &quot;%1&quot; is left out: %2</source>
@@ -1805,10 +1917,6 @@ Requiere el paquete corvel-print-portal</translation>
 <context>
     <name>StandardInput</name>
     <message>
-        <source>&quot;-&quot; reads a photo from the standard input, which is the keyboard. Redirect it: corvel-print - &lt; photo.jpg</source>
-        <translation>«-» lee una foto de la entrada estándar, que es el teclado. Rediríjala: corvel-print - &lt; foto.jpg</translation>
-    </message>
-    <message>
         <source>The standard input cannot be kept in &quot;%1&quot;: %2. Free some space there.</source>
         <translation>La entrada estándar no se puede guardar en «%1»: %2. Libere espacio allí.</translation>
     </message>
@@ -1817,12 +1925,16 @@ Requiere el paquete corvel-print-portal</translation>
         <translation>No se pudo leer la entrada estándar: %1.</translation>
     </message>
     <message>
-        <source>The standard input is empty. Redirect a photo to it.</source>
-        <translation>La entrada estándar está vacía. Redirija una foto hacia ella.</translation>
+        <source>&quot;-&quot; reads a file from the standard input, which is the keyboard. Redirect it: corvel-print - &lt; photo.jpg</source>
+        <translation>«-» lee un archivo de la entrada estándar, que es el teclado. Rediríjala: corvel-print - &lt; foto.jpg</translation>
     </message>
     <message>
-        <source>The photo on the standard input is too large: a photo may have %1.</source>
-        <translation>La foto de la entrada estándar es demasiado grande: una foto puede tener %1.</translation>
+        <source>The standard input is empty. Redirect a file to it.</source>
+        <translation>La entrada estándar está vacía. Redirija un archivo a ella.</translation>
+    </message>
+    <message>
+        <source>The file on the standard input is too large: it may have %1.</source>
+        <translation>El archivo de la entrada estándar es demasiado grande: puede tener %1.</translation>
     </message>
 </context>
 <context>
@@ -2560,6 +2672,14 @@ Requiere el paquete corvel-print-portal</translation>
         <source>it wants a user name and a password, and there is no terminal to ask on</source>
         <translation>pide un nombre de usuario y una contraseña, y no hay una terminal donde preguntarlos</translation>
     </message>
+    <message>
+        <source>The password does not open &quot;%1&quot;.</source>
+        <translation>La contraseña no abre «%1».</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is protected by a password.</source>
+        <translation>«%1» está protegido con una contraseña.</translation>
+    </message>
 </context>
 <context>
     <name>UsedChoices</name>
@@ -2852,6 +2972,13 @@ Requiere el paquete corvel-print-portal</translation>
     <message>
         <source>&quot;%1&quot; cannot be used: its name is not encoded in UTF-8. Rename it.</source>
         <translation>«%1» no se puede usar: su nombre no está codificado en UTF-8. Cámbiele el nombre.</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::FileOpener</name>
+    <message>
+        <source>&quot;%1&quot; has no page %2. Correct the print list.</source>
+        <translation>«%1» no tiene página %2. Corrija la lista de impresión.</translation>
     </message>
 </context>
 <context>
@@ -3283,6 +3410,25 @@ Requiere el paquete corvel-print-portal</translation>
         <source>Gap:</source>
         <translation>Separación:</translation>
     </message>
+    <message>
+        <source>One photo or page per sheet</source>
+        <translation>Una foto o página por hoja</translation>
+    </message>
+    <message>
+        <source>One page per sheet</source>
+        <translation>Una página por hoja</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n page(s) per sheet</source>
+        <translation>
+            <numerusform>%n página por hoja</numerusform>
+            <numerusform>%n páginas por hoja</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Booklet</source>
+        <translation>Folleto</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::MessageBar</name>
@@ -3466,6 +3612,70 @@ Requiere el paquete corvel-print-portal</translation>
     </message>
 </context>
 <context>
+    <name>printdialog::PageBar</name>
+    <message>
+        <source>Reverse order</source>
+        <translation>Orden inverso</translation>
+    </message>
+    <message>
+        <source>Page ranges</source>
+        <translation>Intervalos de páginas</translation>
+    </message>
+    <message>
+        <source>Pages and ranges, separated by commas; 12- is page 12 to the last one</source>
+        <translation>Páginas e intervalos, separados por comas; 12- es de la página 12 a la última</translation>
+    </message>
+    <message>
+        <source>Odd and even pages</source>
+        <translation>Páginas pares e impares</translation>
+    </message>
+    <message>
+        <source>Odd and even</source>
+        <translation>Pares e impares</translation>
+    </message>
+    <message>
+        <source>Odd only</source>
+        <comment>pages</comment>
+        <translation>Solo impares</translation>
+    </message>
+    <message>
+        <source>Even only</source>
+        <comment>pages</comment>
+        <translation>Solo pares</translation>
+    </message>
+    <message>
+        <source>Print the last sheet first</source>
+        <translation>Imprimir primero la última hoja</translation>
+    </message>
+    <message>
+        <source>Pages:</source>
+        <translation>Páginas:</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <comment>pages</comment>
+        <translation>Todas</translation>
+    </message>
+    <message>
+        <source>Current page</source>
+        <translation>Página actual</translation>
+    </message>
+    <message>
+        <source>Selection</source>
+        <comment>pages</comment>
+        <translation>Selección</translation>
+    </message>
+    <message>
+        <source>Ranges</source>
+        <comment>of pages</comment>
+        <translation>Intervalos</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; does not say which pages. Type page numbers from 1 on and ranges, such as 1-3,7,12-.</source>
+        <translation>«%1» no indica qué páginas. Escriba números de página a partir de 1 e intervalos, como 1-3,7,12-.</translation>
+    </message>
+</context>
+<context>
     <name>printdialog::PanelTabs</name>
     <message>
         <source>Options</source>
@@ -3482,6 +3692,34 @@ Requiere el paquete corvel-print-portal</translation>
     <message>
         <source>The page &quot;%1&quot; cannot be left yet. Finish what it asks for.</source>
         <translation>Todavía no se puede salir de la página «%1». Termine primero lo que pide.</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::PasswordPrompt</name>
+    <message>
+        <source>Password</source>
+        <translation>Contraseña</translation>
+    </message>
+    <message>
+        <source>The password does not open &quot;%1&quot;. Check it and enter it again.</source>
+        <translation>La contraseña no abre «%1». Compruébela e introdúzcala de nuevo.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is protected by a password.</source>
+        <translation>«%1» está protegido con una contraseña.</translation>
+    </message>
+    <message>
+        <source>&amp;Open</source>
+        <translation>&amp;Abrir</translation>
+    </message>
+    <message>
+        <source>&amp;Leave Out</source>
+        <comment>a document</comment>
+        <translation>&amp;Omitir</translation>
+    </message>
+    <message>
+        <source>&amp;Password:</source>
+        <translation>&amp;Contraseña:</translation>
     </message>
 </context>
 <context>
@@ -3647,14 +3885,6 @@ Requiere el paquete corvel-print-portal</translation>
         <translation>&amp;Quitar</translation>
     </message>
     <message>
-        <source>Add photos to this job; they can be dropped on the window as well</source>
-        <translation>Añadir fotos a este trabajo; también se pueden soltar en la ventana</translation>
-    </message>
-    <message>
-        <source>Add Photos</source>
-        <translation>Añadir fotos</translation>
-    </message>
-    <message>
         <source>%1 (%2 of %3)</source>
         <translation>%1 (%2 de %3)</translation>
     </message>
@@ -3676,18 +3906,6 @@ Requiere el paquete corvel-print-portal</translation>
     <message>
         <source>Sheets: %1</source>
         <translation>Hojas: %1</translation>
-    </message>
-    <message>
-        <source>Height of the table of photos</source>
-        <translation>Altura de la tabla de fotos</translation>
-    </message>
-    <message>
-        <source>Drag to see more or fewer photos</source>
-        <translation>Arrastre para ver más o menos fotos</translation>
-    </message>
-    <message>
-        <source>Take the selected photos out of this job; their files stay</source>
-        <translation>Quitar de este trabajo las fotos seleccionadas; sus archivos se conservan</translation>
     </message>
     <message>
         <source>Remove</source>
@@ -3738,14 +3956,6 @@ Requiere el paquete corvel-print-portal</translation>
         <translation>Abrir una lista de impresión</translation>
     </message>
     <message>
-        <source>The print list &quot;%1&quot; has no photos.</source>
-        <translation>La lista de impresión «%1» no contiene fotos.</translation>
-    </message>
-    <message>
-        <source>Save the Photos as a Print List</source>
-        <translation>Guardar las fotos como lista de impresión</translation>
-    </message>
-    <message>
         <source>Open List…</source>
         <comment>of photos</comment>
         <translation>Abrir lista…</translation>
@@ -3755,6 +3965,62 @@ Requiere el paquete corvel-print-portal</translation>
         <comment>of photos</comment>
         <translation>Guardar lista…</translation>
     </message>
+    <message>
+        <source>Show Each Page</source>
+        <translation>Mostrar páginas</translation>
+    </message>
+    <message>
+        <source>Photos and documents</source>
+        <translation>Fotos y documentos</translation>
+    </message>
+    <message>
+        <source>PDF documents</source>
+        <translation>Documentos PDF</translation>
+    </message>
+    <message>
+        <source>Add Photos or Documents</source>
+        <translation>Añadir fotos o documentos</translation>
+    </message>
+    <message>
+        <source>This page is not printed.</source>
+        <translation>Esta página no se imprime.</translation>
+    </message>
+    <message>
+        <source>The print list &quot;%1&quot; is empty.</source>
+        <translation>La lista de impresión «%1» está vacía.</translation>
+    </message>
+    <message>
+        <source>Save a Print List</source>
+        <translation>Guardar una lista de impresión</translation>
+    </message>
+    <message>
+        <source>Sides of sheets: %1</source>
+        <translation>Caras de hojas: %1</translation>
+    </message>
+    <message>
+        <source>%1, page %2 of %3</source>
+        <translation>%1, página %2 de %3</translation>
+    </message>
+    <message>
+        <source>Height of the table</source>
+        <translation>Altura de la tabla</translation>
+    </message>
+    <message>
+        <source>Drag to see more or fewer pictures</source>
+        <translation>Arrastre para ver más o menos imágenes</translation>
+    </message>
+    <message>
+        <source>Add photos and PDF documents to this job; they can be dropped on the window as well</source>
+        <translation>Añadir fotos y documentos PDF a este trabajo; también se pueden soltar en la ventana</translation>
+    </message>
+    <message>
+        <source>Take what is selected out of this job; the files stay</source>
+        <translation>Quitar lo seleccionado de este trabajo; los archivos permanecen</translation>
+    </message>
+    <message>
+        <source>Show the pages as a table, in which they are moved, removed and placed one by one; otherwise what is chosen holds for all of them</source>
+        <translation>Mostrar las páginas en una tabla, en la que se mueven, quitan y colocan una a una; si no, lo elegido vale para todas</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::PhotoTable</name>
@@ -3762,12 +4028,10 @@ Requiere el paquete corvel-print-portal</translation>
         <source>Delete removes the selected photos; Alt with an arrow key moves them.</source>
         <translation>Supr quita las fotos seleccionadas; Alt con una tecla de flecha las mueve.</translation>
     </message>
-    <message numerus="yes">
-        <source>%n photo(s) of this job</source>
-        <translation>
-            <numerusform>%n foto de este trabajo</numerusform>
-            <numerusform>%n fotos de este trabajo</numerusform>
-        </translation>
+    <message>
+        <source>%1 of this job</source>
+        <comment>such as: 3 photos and 12 pages</comment>
+        <translation>%1 de este trabajo</translation>
     </message>
 </context>
 <context>
@@ -3797,6 +4061,10 @@ Requiere el paquete corvel-print-portal</translation>
         <comment>between the parts of a list</comment>
         <translation>, </translation>
     </message>
+    <message>
+        <source>not printed</source>
+        <translation>no se imprime</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::PlacementBar</name>
@@ -3809,14 +4077,6 @@ Requiere el paquete corvel-print-portal</translation>
         <translation>Co&amp;locación:</translation>
     </message>
     <message>
-        <source>Placement of the photo</source>
-        <translation>Colocación de la foto</translation>
-    </message>
-    <message>
-        <source>Turn the photo on the page by a quarter, clockwise</source>
-        <translation>Girar la foto en la página un cuarto de vuelta, en sentido horario</translation>
-    </message>
-    <message>
         <source>This printer places the photo on the page itself.</source>
         <translation>Esta impresora coloca ella misma la foto en la página.</translation>
     </message>
@@ -3827,6 +4087,14 @@ Requiere el paquete corvel-print-portal</translation>
     <message>
         <source>Size, border and copies of the photos, and how they share sheets</source>
         <translation>Tamaño, borde y número de las fotos, y cómo comparten las hojas</translation>
+    </message>
+    <message>
+        <source>Placement on the paper</source>
+        <translation>Colocación en el papel</translation>
+    </message>
+    <message>
+        <source>Turn the photo or page by a quarter, clockwise</source>
+        <translation>Girar la foto o la página un cuarto, en sentido horario</translation>
     </message>
 </context>
 <context>
@@ -4085,10 +4353,6 @@ Requiere el paquete corvel-print-portal</translation>
         <translation>No se puede mostrar esta foto</translation>
     </message>
     <message>
-        <source>No photo. Drop photos here, or press Add.</source>
-        <translation>No hay fotos. Suelte fotos aquí o pulse Añadir.</translation>
-    </message>
-    <message>
         <source>Preview of the page</source>
         <translation>Vista previa de la página</translation>
     </message>
@@ -4132,6 +4396,34 @@ Requiere el paquete corvel-print-portal</translation>
     <message>
         <source>Click on a photo to change how it is printed.</source>
         <translation>Haga clic en una foto para cambiar cómo se imprime.</translation>
+    </message>
+    <message>
+        <source>Nothing to print. Drop photos or PDF documents here, or press Add.</source>
+        <translation>No hay nada que imprimir. Suelte aquí fotos o documentos PDF, o pulse Añadir.</translation>
+    </message>
+    <message>
+        <source>This page cannot be shown</source>
+        <translation>Esta página no se puede mostrar</translation>
+    </message>
+    <message>
+        <source>Page %1 of %2 on the sheet.</source>
+        <translation>Página %1 de %2 en la hoja.</translation>
+    </message>
+    <message>
+        <source>The whole page is printed.</source>
+        <translation>Se imprime la página entera.</translation>
+    </message>
+    <message>
+        <source>%1 % of the page is cut off.</source>
+        <translation>Se corta el %1 % de la página.</translation>
+    </message>
+    <message>
+        <source>Drag the page, or press the arrow keys, to move it; Home puts it in the middle.</source>
+        <translation>Arrastre la página o pulse las teclas de flecha para moverla; Inicio la pone en el centro.</translation>
+    </message>
+    <message>
+        <source>Click on a page to change how it is printed.</source>
+        <translation>Haga clic en una página para cambiar cómo se imprime.</translation>
     </message>
 </context>
 <context>
@@ -4186,10 +4478,6 @@ Requiere el paquete corvel-print-portal</translation>
 <context>
     <name>printdialog::PrintDialog</name>
     <message>
-        <source>Print Photo</source>
-        <translation>Imprimir foto</translation>
-    </message>
-    <message>
         <source>Print %1</source>
         <translation>Imprimir %1</translation>
     </message>
@@ -4200,10 +4488,6 @@ Requiere el paquete corvel-print-portal</translation>
     <message>
         <source>This printer has no panels of its own; it prints with its defaults.</source>
         <translation>Esta impresora no tiene paneles propios; imprime con sus valores predeterminados.</translation>
-    </message>
-    <message>
-        <source>There is no photo to print.</source>
-        <translation>No hay ninguna foto que imprimir.</translation>
     </message>
     <message>
         <source>Printing is under way.</source>
@@ -4256,24 +4540,12 @@ Requiere el paquete corvel-print-portal</translation>
         <translation>%1 (no cargado)</translation>
     </message>
     <message>
-        <source>Photos are still being opened.</source>
-        <translation>Aún se están abriendo fotos.</translation>
-    </message>
-    <message>
-        <source>The photos were arranged and not printed. Close the window all the same?</source>
-        <translation>Las fotos se han dispuesto y no se han impreso. ¿Cerrar la ventana de todos modos?</translation>
-    </message>
-    <message>
         <source>Close Without Printing</source>
         <translation>Cerrar sin imprimir</translation>
     </message>
     <message>
         <source>Keep Open</source>
         <translation>Dejar abierta</translation>
-    </message>
-    <message>
-        <source>The photos are saved as &quot;%1&quot;.</source>
-        <translation>Las fotos se han guardado como «%1».</translation>
     </message>
     <message>
         <source>Save List…</source>
@@ -4294,6 +4566,31 @@ Requiere el paquete corvel-print-portal</translation>
     <message>
         <source>%1 brings the pages after you press &quot;%2&quot;.</source>
         <translation>%1 entrega las páginas después de que pulse «%2».</translation>
+    </message>
+    <message>
+        <source>The list is saved as &quot;%1&quot;.</source>
+        <translation>La lista se ha guardado como «%1».</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <comment>a title</comment>
+        <translation>Imprimir</translation>
+    </message>
+    <message>
+        <source>PDFs named after the files</source>
+        <translation>PDF con el nombre de los archivos</translation>
+    </message>
+    <message>
+        <source>Files are still being opened.</source>
+        <translation>Todavía se están abriendo archivos.</translation>
+    </message>
+    <message>
+        <source>There is nothing to print.</source>
+        <translation>No hay nada que imprimir.</translation>
+    </message>
+    <message>
+        <source>The sheets were arranged and not printed. Close the window all the same?</source>
+        <translation>Las hojas se han dispuesto y no se han impreso. ¿Cerrar la ventana de todos modos?</translation>
     </message>
 </context>
 <context>

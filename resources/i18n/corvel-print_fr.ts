@@ -94,6 +94,53 @@
         <source>Booklet</source>
         <translation>Livret</translation>
     </message>
+    <message>
+        <source>Selection</source>
+        <comment>of a document</comment>
+        <translation>Sélection</translation>
+    </message>
+    <message>
+        <source>Current page</source>
+        <translation>Page affichée</translation>
+    </message>
+    <message>
+        <source>odd only</source>
+        <comment>pages</comment>
+        <translation>impaires seulement</translation>
+    </message>
+    <message>
+        <source>even only</source>
+        <comment>pages</comment>
+        <translation>paires seulement</translation>
+    </message>
+    <message>
+        <source>last one first</source>
+        <comment>pages</comment>
+        <translation>dernière en premier</translation>
+    </message>
+    <message>
+        <source>There are no pages after page %1.</source>
+        <translation>Il n’y a plus de page après la page %1.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n photo(s)</source>
+        <translation>
+            <numerusform>%n photo</numerusform>
+            <numerusform>%n photos</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n page(s)</source>
+        <translation>
+            <numerusform>%n page</numerusform>
+            <numerusform>%n pages</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 and %2</source>
+        <comment>photos and pages</comment>
+        <translation>%1 et %2</translation>
+    </message>
 </context>
 <context>
     <name>BatchRun</name>
@@ -116,6 +163,21 @@
     <message>
         <source>--one-pdf is for the built-in printer, and this is &quot;%1&quot;. Leave it out, or name the built-in printer.</source>
         <translation>--one-pdf concerne l’imprimante intégrée, et celle-ci est «&#x202f;%1&#x202f;». Retirez-le, ou indiquez l’imprimante intégrée.</translation>
+    </message>
+</context>
+<context>
+    <name>BookletSides</name>
+    <message>
+        <source>A booklet is printed on both sides, turned on the short edge. This printer does not do that itself: print the odd sides first, then the even ones on their backs.</source>
+        <translation>Un livret s’imprime recto verso, retourné sur le bord court. Cette imprimante ne le fait pas elle-même : imprimez d’abord les faces impaires, puis les paires à leur dos.</translation>
+    </message>
+    <message>
+        <source>A booklet is printed on both sides, turned on the short edge. Another choice does not allow that: look at &quot;%1&quot;.</source>
+        <translation>Un livret s’imprime recto verso, retourné sur le bord court. Un autre choix ne le permet pas : voyez « %1 ».</translation>
+    </message>
+    <message>
+        <source>A booklet is printed on both sides, turned on the short edge: &quot;%1&quot; is set to that.</source>
+        <translation>Un livret s’imprime recto verso, retourné sur le bord court : « %1 » est réglé ainsi.</translation>
     </message>
 </context>
 <context>
@@ -226,24 +288,6 @@ disent les onglets&#x202f;; avec --batch, en plus de l’impression</translation
         <translation>%1 et %2 s’excluent mutuellement.</translation>
     </message>
     <message>
-        <source>--batch needs a photo to print.</source>
-        <translation>--batch a besoin d’une photo à imprimer.</translation>
-    </message>
-    <message>
-        <source>Usage: corvel-print [options] PHOTO...
-Prints photos on a photo printer: from a window, or at once with --batch.
-PHOTO can be - for the standard input, or a print list, LIST.json.
-
-Options:
-</source>
-        <translation>Utilisation&#x202f;: corvel-print [options] PHOTO...
-Imprime des photos sur une imprimante photo&#x202f;: depuis une fenêtre, ou aussitôt avec --batch.
-PHOTO peut être - pour l’entrée standard, ou une liste d’impression, LISTE.json.
-
-Options&#x202f;:
-</translation>
-    </message>
-    <message>
         <source>show exactly what --batch would send, and send nothing</source>
         <translation>montrer exactement ce que --batch enverrait, sans rien envoyer</translation>
     </message>
@@ -264,10 +308,6 @@ alors au serveur d’impression, ce qui est signalé, avec le code 0</translatio
     <message>
         <source>lists, summary and --dry-run as JSON</source>
         <translation>listes, résumé et --dry-run en JSON</translation>
-    </message>
-    <message>
-        <source>--dry-run needs a photo.</source>
-        <translation>--dry-run a besoin d’une photo.</translation>
     </message>
     <message>
         <source>--json is for --list-printers, --list-options, --summary and --dry-run.</source>
@@ -314,33 +354,6 @@ photos et impriment ce qu’il en reste</translation>
     <message>
         <source>--no-check is for --batch and --dry-run.</source>
         <translation>--no-check va avec --batch et --dry-run.</translation>
-    </message>
-    <message>
-        <source>
-Exit status:
-  0  printed, or done what was asked for
-  1  refused or failed; one line on standard error says what and why. A photo with
-     damaged pixels is left out, with a line of its own, and the others are printed
-  2  wrong usage
-
-Examples:
-  corvel-print --printer built-in holiday.jpg
-  corvel-print --batch -o Red=12 -o Quality=Fine -o Overcoat=Matte --output prints *.jpg
-  corvel-print --batch --size passport --scaling fill --layout fit portrait.jpg
-</source>
-        <translation>
-Code de retour&#x202f;:
-  0  imprimé, ou tâche demandée accomplie
-  1  refusé ou échoué&#x202f;; une ligne sur l’erreur standard dit quoi et pourquoi. Une photo
-     dont l’image est endommagée est laissée de côté, avec sa propre ligne, et les autres
-     sont imprimées
-  2  mauvaise utilisation
-
-Exemples&#x202f;:
-  corvel-print --printer built-in vacances.jpg
-  corvel-print --batch -o Red=12 -o Quality=Fine -o Overcoat=Matte --output tirages *.jpg
-  corvel-print --batch --size passport --scaling fill --layout fit portrait.jpg
-</translation>
     </message>
     <message>
         <source>There is no mode &quot;%1&quot;. Choose constraint or settings.</source>
@@ -412,10 +425,6 @@ FILE-3.png, ...</translation>
         <translation>«&#x202f;%1&#x202f;» n’est pas un nom d’image. Indiquez-en un qui se termine par .png.</translation>
     </message>
     <message>
-        <source>--preview needs a photo.</source>
-        <translation>--preview a besoin d’une photo.</translation>
-    </message>
-    <message>
         <source>--overwrite is for --batch, --dry-run and --preview.</source>
         <translation>--overwrite va avec --batch, --dry-run et --preview.</translation>
     </message>
@@ -434,16 +443,6 @@ square, passport, wallet&#x202f;; sinon toute la page</translation>
         <translation>une bordure autour de chaque photo, dans son format&#x202f;: 3mm, ou 3mm,black</translation>
     </message>
     <message>
-        <source>several photos on a sheet: ROWSxCOLUMNS (2x3); fit, as many of the size
-as fit; contact or contact:ROWSxCOLUMNS, a contact sheet; strips or
-strips:NUMBER, two strips of 2 to 4 photos. With &quot;,repeat&quot; each photo
-fills its sheet; also &quot;,gap=2mm&quot; and &quot;,marks&quot; for cut marks</source>
-        <translation>plusieurs photos par feuille&#x202f;: LIGNESxCOLONNES (2x3)&#x202f;; fit, autant de ce
-format que possible&#x202f;; contact ou contact:LIGNESxCOLONNES, une planche-contact&#x202f;;
-strips ou strips:NOMBRE, deux bandes de 2 à 4 photos. Avec «&#x202f;,repeat&#x202f;», chaque
-photo remplit sa feuille&#x202f;; aussi «&#x202f;,gap=2mm&#x202f;», et «&#x202f;,marks&#x202f;» pour les traits de coupe</translation>
-    </message>
-    <message>
         <source>what stands below each photo of a layout</source>
         <translation>ce qui figure sous chaque photo d’une disposition</translation>
     </message>
@@ -460,20 +459,8 @@ photo remplit sa feuille&#x202f;; aussi «&#x202f;,gap=2mm&#x202f;», et «&#x20
         <translation>«&#x202f;%1&#x202f;» n’est pas une bordure. Indiquez une largeur de 0 à 100 mm, et une couleur si elle n’est pas blanche&#x202f;: 3mm,black.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is not a layout. Give rows and columns from 1 to 20 (2x3), fit, contact, or strips:2 to strips:4.</source>
-        <translation>«&#x202f;%1&#x202f;» n’est pas une disposition. Indiquez des lignes et des colonnes de 1 à 20 (2x3), fit, contact, ou strips:2 à strips:4.</translation>
-    </message>
-    <message>
         <source>There is no caption &quot;%1&quot;. Choose none, name, date or both.</source>
         <translation>Il n’y a pas de légende «&#x202f;%1&#x202f;». Choisissez none, name, date ou both.</translation>
-    </message>
-    <message>
-        <source>A print list says itself which photos are printed and how. Give it without other photos, and without %1.</source>
-        <translation>Une liste d’impression dit elle-même quelles photos sont imprimées et comment. Indiquez-la sans autres photos, et sans %1.</translation>
-    </message>
-    <message>
-        <source>&quot;-&quot; reads one photo from the standard input. Give it once.</source>
-        <translation>«&#x202f;-&#x202f;» lit une photo sur l’entrée standard. Indiquez-le une seule fois.</translation>
     </message>
     <message>
         <source>a preset of the printer, also of your default printer</source>
@@ -553,6 +540,107 @@ Nécessite le paquet corvel-print-portal</translation>
     <message>
         <source>remove that key again</source>
         <translation>retirer cette clé</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a layout. Give rows and columns from 1 to 20 (2x3), fit, contact, strips:2 to strips:4, pages:2, 4, 6, 9 or 16, or booklet.</source>
+        <translation>« %1 » n’est pas une disposition. Donnez des lignes et colonnes de 1 à 20 (2x3), fit, contact, strips:2 à strips:4, pages:2, 4, 6, 9 ou 16, ou booklet.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; does not say which pages. Give page numbers from 1 on and ranges, such as 1-3,7,12-.</source>
+        <translation>« %1 » ne dit pas quelles pages. Donnez des numéros de page à partir de 1 et des plages, comme 1-3,7,12-.</translation>
+    </message>
+    <message>
+        <source>There is no set of pages &quot;%1&quot;. Choose all, odd or even.</source>
+        <translation>Il n’y a pas de jeu de pages « %1 ». Choisissez all, odd ou even.</translation>
+    </message>
+    <message>
+        <source>several photos on a sheet: ROWSxCOLUMNS (2x3); fit, as many of the size
+as fit; contact or contact:ROWSxCOLUMNS, a contact sheet; strips or
+strips:NUMBER, two strips of 2 to 4 photos. With &quot;,repeat&quot; each photo
+fills its sheet; also &quot;,gap=2mm&quot; and &quot;,marks&quot; for cut marks. Of a
+document: pages:2, 4, 6, 9 or 16 on each sheet, or booklet</source>
+        <translation>plusieurs photos par feuille&#x202f;: LIGNESxCOLONNES (2x3)&#x202f;; fit, autant de ce
+format que possible&#x202f;; contact ou contact:LIGNESxCOLONNES, une planche-contact&#x202f;;
+strips ou strips:NOMBRE, deux bandes de 2 à 4 photos. Avec «&#x202f;,repeat&#x202f;», chaque
+photo remplit sa feuille&#x202f;; aussi «&#x202f;,gap=2mm&#x202f;», et «&#x202f;,marks&#x202f;» pour les traits de coupe. Pour un
+document : pages:2, 4, 6, 9 ou 16 par feuille, ou booklet</translation>
+    </message>
+    <message>
+        <source>which pages of documents: 1-3,7,12- (12- is page 12 to the last one);
+otherwise all</source>
+        <translation>quelles pages des documents : 1-3,7,12- (12- : de la page 12 à la
+dernière) ; sinon toutes</translation>
+    </message>
+    <message>
+        <source>only pages with odd or with even numbers</source>
+        <translation>seulement les pages de numéro impair ou pair</translation>
+    </message>
+    <message>
+        <source>print the last sheet first</source>
+        <translation>imprimer la dernière feuille en premier</translation>
+    </message>
+    <message>
+        <source>Usage: corvel-print [options] FILE...
+Prints photos and PDF documents: from a window, or at once with --batch.
+FILE can be - for the standard input, or a print list, LIST.json.
+
+Options:
+</source>
+        <translation>Utilisation : corvel-print [options] FILE...
+Imprime des photos et des documents PDF : dans une fenêtre, ou aussitôt avec --batch.
+FILE peut être - pour l’entrée standard, ou une liste d’impression, LIST.json.
+
+Options :
+</translation>
+    </message>
+    <message>
+        <source>
+Exit status:
+  0  printed, or done what was asked for
+  1  refused or failed; one line on standard error says what and why. A photo with
+     damaged pixels is left out, with a line of its own, and the others are printed
+  2  wrong usage
+
+Examples:
+  corvel-print --printer built-in holiday.jpg
+  corvel-print --batch -o Red=12 -o Quality=Fine -o Overcoat=Matte --output prints *.jpg
+  corvel-print --batch --size passport --scaling fill --layout fit portrait.jpg
+  corvel-print --batch --pages 2-9 --layout booklet -o Duplex=DuplexTumble report.pdf
+</source>
+        <translation>
+Code de retour&#x202f;:
+  0  imprimé, ou tâche demandée accomplie
+  1  refusé ou échoué&#x202f;; une ligne sur l’erreur standard dit quoi et pourquoi. Une photo
+     dont l’image est endommagée est laissée de côté, avec sa propre ligne, et les autres
+     sont imprimées
+  2  mauvaise utilisation
+
+Exemples&#x202f;:
+  corvel-print --printer built-in vacances.jpg
+  corvel-print --batch -o Red=12 -o Quality=Fine -o Overcoat=Matte --output tirages *.jpg
+  corvel-print --batch --size passport --scaling fill --layout fit portrait.jpg
+  corvel-print --batch --pages 2-9 --layout booklet -o Duplex=DuplexTumble report.pdf
+</translation>
+    </message>
+    <message>
+        <source>--batch needs a file to print.</source>
+        <translation>--batch exige un fichier à imprimer.</translation>
+    </message>
+    <message>
+        <source>--dry-run needs a file.</source>
+        <translation>--dry-run exige un fichier.</translation>
+    </message>
+    <message>
+        <source>--preview needs a file.</source>
+        <translation>--preview exige un fichier.</translation>
+    </message>
+    <message>
+        <source>A print list says itself which files are printed and how. Give it without other files, and without %1.</source>
+        <translation>Une liste d’impression dit elle-même quels fichiers sont imprimés et comment. Donnez-la sans autres fichiers et sans %1.</translation>
+    </message>
+    <message>
+        <source>&quot;-&quot; reads one file from the standard input. Give it once.</source>
+        <translation>« - » lit un fichier sur l’entrée standard. Donnez-le une seule fois.</translation>
     </message>
 </context>
 <context>
@@ -922,6 +1010,10 @@ Nécessite le paquet corvel-print-portal</translation>
         <source>Layout</source>
         <translation>Disposition</translation>
     </message>
+    <message>
+        <source>Pages</source>
+        <translation>Pages</translation>
+    </message>
 </context>
 <context>
     <name>Listings</name>
@@ -1086,6 +1178,15 @@ Nécessite le paquet corvel-print-portal</translation>
     <message>
         <source>%1 % cut off</source>
         <translation>%1 % rognés</translation>
+    </message>
+    <message>
+        <source>Page of %1</source>
+        <comment>and its size</comment>
+        <translation>Page de %1</translation>
+    </message>
+    <message>
+        <source>printed at %1 %</source>
+        <translation>imprimée à %1 %</translation>
     </message>
 </context>
 <context>
@@ -1753,6 +1854,17 @@ Nécessite le paquet corvel-print-portal</translation>
     </message>
 </context>
 <context>
+    <name>RequestedArrangement</name>
+    <message>
+        <source>&quot;%1&quot; is protected by a password, and there is no terminal to ask for it on. Start the program in a terminal, or in its window.</source>
+        <translation>« %1 » est protégé par un mot de passe, et il n’y a pas de terminal où le demander. Lancez le programme dans un terminal, ou avec sa fenêtre.</translation>
+    </message>
+    <message>
+        <source>--pages and --page-set are for documents, and there is none. Leave them out.</source>
+        <translation>--pages et --page-set sont pour les documents, et il n’y en a pas. Omettez-les.</translation>
+    </message>
+</context>
+<context>
     <name>RequestedSession</name>
     <message>
         <source>Of the preset &quot;%1&quot; is left out: %2</source>
@@ -1807,10 +1919,6 @@ Nécessite le paquet corvel-print-portal</translation>
 <context>
     <name>StandardInput</name>
     <message>
-        <source>&quot;-&quot; reads a photo from the standard input, which is the keyboard. Redirect it: corvel-print - &lt; photo.jpg</source>
-        <translation>«&#x202f;-&#x202f;» lit une photo sur l’entrée standard, qui est le clavier. Redirigez-la&#x202f;: corvel-print - &lt; photo.jpg</translation>
-    </message>
-    <message>
         <source>The standard input cannot be kept in &quot;%1&quot;: %2. Free some space there.</source>
         <translation>L’entrée standard ne peut pas être conservée dans «&#x202f;%1&#x202f;»&#x202f;: %2. Libérez-y de la place.</translation>
     </message>
@@ -1819,12 +1927,16 @@ Nécessite le paquet corvel-print-portal</translation>
         <translation>L’entrée standard n’a pas pu être lue&#x202f;: %1.</translation>
     </message>
     <message>
-        <source>The standard input is empty. Redirect a photo to it.</source>
-        <translation>L’entrée standard est vide. Redirigez-y une photo.</translation>
+        <source>&quot;-&quot; reads a file from the standard input, which is the keyboard. Redirect it: corvel-print - &lt; photo.jpg</source>
+        <translation>« - » lit un fichier sur l’entrée standard, qui est le clavier. Redirigez-la : corvel-print - &lt; photo.jpg</translation>
     </message>
     <message>
-        <source>The photo on the standard input is too large: a photo may have %1.</source>
-        <translation>La photo sur l’entrée standard est trop grande&#x202f;: une photo peut avoir %1.</translation>
+        <source>The standard input is empty. Redirect a file to it.</source>
+        <translation>L’entrée standard est vide. Redirigez-y un fichier.</translation>
+    </message>
+    <message>
+        <source>The file on the standard input is too large: it may have %1.</source>
+        <translation>Le fichier sur l’entrée standard est trop grand : il peut avoir %1.</translation>
     </message>
 </context>
 <context>
@@ -2562,6 +2674,14 @@ Nécessite le paquet corvel-print-portal</translation>
         <source>it wants a user name and a password, and there is no terminal to ask on</source>
         <translation>un nom d’utilisateur et un mot de passe sont demandés, et il n’y a pas de terminal pour les saisir</translation>
     </message>
+    <message>
+        <source>The password does not open &quot;%1&quot;.</source>
+        <translation>Le mot de passe n’ouvre pas « %1 ».</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is protected by a password.</source>
+        <translation>« %1 » est protégé par un mot de passe.</translation>
+    </message>
 </context>
 <context>
     <name>UsedChoices</name>
@@ -2854,6 +2974,13 @@ Nécessite le paquet corvel-print-portal</translation>
     <message>
         <source>&quot;%1&quot; cannot be used: its name is not encoded in UTF-8. Rename it.</source>
         <translation>«&#x202f;%1&#x202f;» ne peut pas être utilisé&#x202f;: son nom n’est pas codé en UTF-8. Renommez-le.</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::FileOpener</name>
+    <message>
+        <source>&quot;%1&quot; has no page %2. Correct the print list.</source>
+        <translation>« %1 » n’a pas de page %2. Corrigez la liste d’impression.</translation>
     </message>
 </context>
 <context>
@@ -3285,6 +3412,25 @@ Nécessite le paquet corvel-print-portal</translation>
         <source>Gap:</source>
         <translation>Écart&#xa0;:</translation>
     </message>
+    <message>
+        <source>One photo or page per sheet</source>
+        <translation>Une photo ou page par feuille</translation>
+    </message>
+    <message>
+        <source>One page per sheet</source>
+        <translation>Une page par feuille</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n page(s) per sheet</source>
+        <translation>
+            <numerusform>%n page par feuille</numerusform>
+            <numerusform>%n pages par feuille</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Booklet</source>
+        <translation>Livret</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::MessageBar</name>
@@ -3468,6 +3614,70 @@ Nécessite le paquet corvel-print-portal</translation>
     </message>
 </context>
 <context>
+    <name>printdialog::PageBar</name>
+    <message>
+        <source>Reverse order</source>
+        <translation>Ordre inverse</translation>
+    </message>
+    <message>
+        <source>Page ranges</source>
+        <translation>Plages de pages</translation>
+    </message>
+    <message>
+        <source>Pages and ranges, separated by commas; 12- is page 12 to the last one</source>
+        <translation>Pages et plages, séparées par des virgules ; 12- : de la page 12 à la dernière</translation>
+    </message>
+    <message>
+        <source>Odd and even pages</source>
+        <translation>Pages paires et impaires</translation>
+    </message>
+    <message>
+        <source>Odd and even</source>
+        <translation>Paires et impaires</translation>
+    </message>
+    <message>
+        <source>Odd only</source>
+        <comment>pages</comment>
+        <translation>Impaires seulement</translation>
+    </message>
+    <message>
+        <source>Even only</source>
+        <comment>pages</comment>
+        <translation>Paires seulement</translation>
+    </message>
+    <message>
+        <source>Print the last sheet first</source>
+        <translation>Imprimer la dernière feuille en premier</translation>
+    </message>
+    <message>
+        <source>Pages:</source>
+        <translation>Pages :</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <comment>pages</comment>
+        <translation>Toutes</translation>
+    </message>
+    <message>
+        <source>Current page</source>
+        <translation>Page affichée</translation>
+    </message>
+    <message>
+        <source>Selection</source>
+        <comment>pages</comment>
+        <translation>Sélection</translation>
+    </message>
+    <message>
+        <source>Ranges</source>
+        <comment>of pages</comment>
+        <translation>Plages</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; does not say which pages. Type page numbers from 1 on and ranges, such as 1-3,7,12-.</source>
+        <translation>« %1 » ne dit pas quelles pages. Saisissez des numéros de page à partir de 1 et des plages, comme 1-3,7,12-.</translation>
+    </message>
+</context>
+<context>
     <name>printdialog::PanelTabs</name>
     <message>
         <source>Options</source>
@@ -3484,6 +3694,34 @@ Nécessite le paquet corvel-print-portal</translation>
     <message>
         <source>The page &quot;%1&quot; cannot be left yet. Finish what it asks for.</source>
         <translation>La page «&#x202f;%1&#x202f;» ne peut pas encore être quittée. Terminez d’abord ce qu’elle demande.</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::PasswordPrompt</name>
+    <message>
+        <source>Password</source>
+        <translation>Mot de passe</translation>
+    </message>
+    <message>
+        <source>The password does not open &quot;%1&quot;. Check it and enter it again.</source>
+        <translation>Le mot de passe n’ouvre pas « %1 ». Vérifiez-le et saisissez-le de nouveau.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is protected by a password.</source>
+        <translation>« %1 » est protégé par un mot de passe.</translation>
+    </message>
+    <message>
+        <source>&amp;Open</source>
+        <translation>&amp;Ouvrir</translation>
+    </message>
+    <message>
+        <source>&amp;Leave Out</source>
+        <comment>a document</comment>
+        <translation>&amp;Ignorer</translation>
+    </message>
+    <message>
+        <source>&amp;Password:</source>
+        <translation>&amp;Mot de passe&#x202f;:</translation>
     </message>
 </context>
 <context>
@@ -3649,14 +3887,6 @@ Nécessite le paquet corvel-print-portal</translation>
         <translation>Enle&amp;ver</translation>
     </message>
     <message>
-        <source>Add photos to this job; they can be dropped on the window as well</source>
-        <translation>Ajouter des photos à ce travail&#x202f;; on peut aussi les déposer sur la fenêtre</translation>
-    </message>
-    <message>
-        <source>Add Photos</source>
-        <translation>Ajouter des photos</translation>
-    </message>
-    <message>
         <source>%1 (%2 of %3)</source>
         <translation>%1 (%2 sur %3)</translation>
     </message>
@@ -3678,18 +3908,6 @@ Nécessite le paquet corvel-print-portal</translation>
     <message>
         <source>Sheets: %1</source>
         <translation>Feuilles&#xa0;: %1</translation>
-    </message>
-    <message>
-        <source>Height of the table of photos</source>
-        <translation>Hauteur du tableau de photos</translation>
-    </message>
-    <message>
-        <source>Drag to see more or fewer photos</source>
-        <translation>Faites glisser pour voir plus ou moins de photos</translation>
-    </message>
-    <message>
-        <source>Take the selected photos out of this job; their files stay</source>
-        <translation>Retirer de ce travail les photos sélectionnées&#xa0;; leurs fichiers restent</translation>
     </message>
     <message>
         <source>Remove</source>
@@ -3740,14 +3958,6 @@ Nécessite le paquet corvel-print-portal</translation>
         <translation>Ouvrir une liste d’impression</translation>
     </message>
     <message>
-        <source>The print list &quot;%1&quot; has no photos.</source>
-        <translation>La liste d’impression «&#xa0;%1&#xa0;» ne contient aucune photo.</translation>
-    </message>
-    <message>
-        <source>Save the Photos as a Print List</source>
-        <translation>Enregistrer les photos comme liste d’impression</translation>
-    </message>
-    <message>
         <source>Open List…</source>
         <comment>of photos</comment>
         <translation>Ouvrir une liste…</translation>
@@ -3757,6 +3967,62 @@ Nécessite le paquet corvel-print-portal</translation>
         <comment>of photos</comment>
         <translation>Enregistrer la liste…</translation>
     </message>
+    <message>
+        <source>Show Each Page</source>
+        <translation>Afficher les pages</translation>
+    </message>
+    <message>
+        <source>Photos and documents</source>
+        <translation>Photos et documents</translation>
+    </message>
+    <message>
+        <source>PDF documents</source>
+        <translation>Documents PDF</translation>
+    </message>
+    <message>
+        <source>Add Photos or Documents</source>
+        <translation>Ajouter des photos ou des documents</translation>
+    </message>
+    <message>
+        <source>This page is not printed.</source>
+        <translation>Cette page n’est pas imprimée.</translation>
+    </message>
+    <message>
+        <source>The print list &quot;%1&quot; is empty.</source>
+        <translation>La liste d’impression « %1 » est vide.</translation>
+    </message>
+    <message>
+        <source>Save a Print List</source>
+        <translation>Enregistrer une liste d’impression</translation>
+    </message>
+    <message>
+        <source>Sides of sheets: %1</source>
+        <translation>Faces des feuilles : %1</translation>
+    </message>
+    <message>
+        <source>%1, page %2 of %3</source>
+        <translation>%1, page %2 sur %3</translation>
+    </message>
+    <message>
+        <source>Height of the table</source>
+        <translation>Hauteur du tableau</translation>
+    </message>
+    <message>
+        <source>Drag to see more or fewer pictures</source>
+        <translation>Faire glisser pour voir plus ou moins d’images</translation>
+    </message>
+    <message>
+        <source>Add photos and PDF documents to this job; they can be dropped on the window as well</source>
+        <translation>Ajouter des photos et des documents PDF à cette tâche ; on peut aussi les déposer sur la fenêtre</translation>
+    </message>
+    <message>
+        <source>Take what is selected out of this job; the files stay</source>
+        <translation>Retirer la sélection de cette tâche ; les fichiers restent</translation>
+    </message>
+    <message>
+        <source>Show the pages as a table, in which they are moved, removed and placed one by one; otherwise what is chosen holds for all of them</source>
+        <translation>Afficher les pages dans un tableau, où elles se déplacent, se retirent et se placent une à une ; sinon, ce qui est choisi vaut pour toutes</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::PhotoTable</name>
@@ -3764,12 +4030,10 @@ Nécessite le paquet corvel-print-portal</translation>
         <source>Delete removes the selected photos; Alt with an arrow key moves them.</source>
         <translation>Suppr retire les photos sélectionnées&#xa0;; Alt avec une touche fléchée les déplace.</translation>
     </message>
-    <message numerus="yes">
-        <source>%n photo(s) of this job</source>
-        <translation>
-            <numerusform>%n photo de ce travail</numerusform>
-            <numerusform>%n photos de ce travail</numerusform>
-        </translation>
+    <message>
+        <source>%1 of this job</source>
+        <comment>such as: 3 photos and 12 pages</comment>
+        <translation>%1 de cette tâche</translation>
     </message>
 </context>
 <context>
@@ -3799,6 +4063,10 @@ Nécessite le paquet corvel-print-portal</translation>
         <comment>between the parts of a list</comment>
         <translation>, </translation>
     </message>
+    <message>
+        <source>not printed</source>
+        <translation>non imprimée</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::PlacementBar</name>
@@ -3811,14 +4079,6 @@ Nécessite le paquet corvel-print-portal</translation>
         <translation>Place&amp;ment&#x202f;:</translation>
     </message>
     <message>
-        <source>Placement of the photo</source>
-        <translation>Placement de la photo</translation>
-    </message>
-    <message>
-        <source>Turn the photo on the page by a quarter, clockwise</source>
-        <translation>Tourner la photo d’un quart de tour sur la page, dans le sens horaire</translation>
-    </message>
-    <message>
         <source>This printer places the photo on the page itself.</source>
         <translation>Cette imprimante place elle-même la photo sur la page.</translation>
     </message>
@@ -3829,6 +4089,14 @@ Nécessite le paquet corvel-print-portal</translation>
     <message>
         <source>Size, border and copies of the photos, and how they share sheets</source>
         <translation>Taille, bordure et nombre des photos, et leur répartition sur les feuilles</translation>
+    </message>
+    <message>
+        <source>Placement on the paper</source>
+        <translation>Placement sur le papier</translation>
+    </message>
+    <message>
+        <source>Turn the photo or page by a quarter, clockwise</source>
+        <translation>Tourner la photo ou la page d’un quart, dans le sens horaire</translation>
     </message>
 </context>
 <context>
@@ -4087,10 +4355,6 @@ Nécessite le paquet corvel-print-portal</translation>
         <translation>Cette photo ne peut pas être affichée</translation>
     </message>
     <message>
-        <source>No photo. Drop photos here, or press Add.</source>
-        <translation>Aucune photo. Déposez des photos ici ou appuyez sur Ajouter.</translation>
-    </message>
-    <message>
         <source>Preview of the page</source>
         <translation>Aperçu de la page</translation>
     </message>
@@ -4134,6 +4398,34 @@ Nécessite le paquet corvel-print-portal</translation>
     <message>
         <source>Click on a photo to change how it is printed.</source>
         <translation>Cliquez sur une photo pour modifier la façon dont elle est imprimée.</translation>
+    </message>
+    <message>
+        <source>Nothing to print. Drop photos or PDF documents here, or press Add.</source>
+        <translation>Rien à imprimer. Déposez ici des photos ou des documents PDF, ou appuyez sur Ajouter.</translation>
+    </message>
+    <message>
+        <source>This page cannot be shown</source>
+        <translation>Cette page ne peut pas être affichée</translation>
+    </message>
+    <message>
+        <source>Page %1 of %2 on the sheet.</source>
+        <translation>Page %1 sur %2 de la feuille.</translation>
+    </message>
+    <message>
+        <source>The whole page is printed.</source>
+        <translation>La page entière est imprimée.</translation>
+    </message>
+    <message>
+        <source>%1 % of the page is cut off.</source>
+        <translation>%1 % de la page sont coupés.</translation>
+    </message>
+    <message>
+        <source>Drag the page, or press the arrow keys, to move it; Home puts it in the middle.</source>
+        <translation>Faites glisser la page, ou appuyez sur les flèches, pour la déplacer ; Origine la remet au milieu.</translation>
+    </message>
+    <message>
+        <source>Click on a page to change how it is printed.</source>
+        <translation>Cliquez sur une page pour changer son impression.</translation>
     </message>
 </context>
 <context>
@@ -4188,10 +4480,6 @@ Nécessite le paquet corvel-print-portal</translation>
 <context>
     <name>printdialog::PrintDialog</name>
     <message>
-        <source>Print Photo</source>
-        <translation>Imprimer une photo</translation>
-    </message>
-    <message>
         <source>Print %1</source>
         <translation>Imprimer %1</translation>
     </message>
@@ -4202,10 +4490,6 @@ Nécessite le paquet corvel-print-portal</translation>
     <message>
         <source>This printer has no panels of its own; it prints with its defaults.</source>
         <translation>Cette imprimante n’a pas d’onglets propres&#x202f;; elle imprime avec ses réglages par défaut.</translation>
-    </message>
-    <message>
-        <source>There is no photo to print.</source>
-        <translation>Il n’y a aucune photo à imprimer.</translation>
     </message>
     <message>
         <source>Printing is under way.</source>
@@ -4258,24 +4542,12 @@ Nécessite le paquet corvel-print-portal</translation>
         <translation>%1 (non chargé)</translation>
     </message>
     <message>
-        <source>Photos are still being opened.</source>
-        <translation>Des photos sont encore en cours d’ouverture.</translation>
-    </message>
-    <message>
-        <source>The photos were arranged and not printed. Close the window all the same?</source>
-        <translation>Les photos ont été disposées mais pas imprimées. Fermer la fenêtre quand même&#xa0;?</translation>
-    </message>
-    <message>
         <source>Close Without Printing</source>
         <translation>Fermer sans imprimer</translation>
     </message>
     <message>
         <source>Keep Open</source>
         <translation>Laisser ouverte</translation>
-    </message>
-    <message>
-        <source>The photos are saved as &quot;%1&quot;.</source>
-        <translation>Les photos sont enregistrées sous «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>Save List…</source>
@@ -4296,6 +4568,31 @@ Nécessite le paquet corvel-print-portal</translation>
     <message>
         <source>%1 brings the pages after you press &quot;%2&quot;.</source>
         <translation>%1 fournit les pages après que vous avez appuyé sur «&#xa0;%2&#xa0;».</translation>
+    </message>
+    <message>
+        <source>The list is saved as &quot;%1&quot;.</source>
+        <translation>La liste est enregistrée sous « %1 ».</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <comment>a title</comment>
+        <translation>Imprimer</translation>
+    </message>
+    <message>
+        <source>PDFs named after the files</source>
+        <translation>PDF portant le nom des fichiers</translation>
+    </message>
+    <message>
+        <source>Files are still being opened.</source>
+        <translation>Des fichiers sont encore en cours d’ouverture.</translation>
+    </message>
+    <message>
+        <source>There is nothing to print.</source>
+        <translation>Il n’y a rien à imprimer.</translation>
+    </message>
+    <message>
+        <source>The sheets were arranged and not printed. Close the window all the same?</source>
+        <translation>Les feuilles ont été disposées et ne sont pas imprimées. Fermer la fenêtre malgré tout ?</translation>
     </message>
 </context>
 <context>

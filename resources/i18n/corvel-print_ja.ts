@@ -94,6 +94,51 @@
         <source>Booklet</source>
         <translation>小冊子</translation>
     </message>
+    <message>
+        <source>Selection</source>
+        <comment>of a document</comment>
+        <translation>選択範囲</translation>
+    </message>
+    <message>
+        <source>Current page</source>
+        <translation>表示中のページ</translation>
+    </message>
+    <message>
+        <source>odd only</source>
+        <comment>pages</comment>
+        <translation>奇数のみ</translation>
+    </message>
+    <message>
+        <source>even only</source>
+        <comment>pages</comment>
+        <translation>偶数のみ</translation>
+    </message>
+    <message>
+        <source>last one first</source>
+        <comment>pages</comment>
+        <translation>最後のページから</translation>
+    </message>
+    <message>
+        <source>There are no pages after page %1.</source>
+        <translation>%1 ページより後のページはありません。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n photo(s)</source>
+        <translation>
+            <numerusform>写真 %n 枚</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n page(s)</source>
+        <translation>
+            <numerusform>%n ページ</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 and %2</source>
+        <comment>photos and pages</comment>
+        <translation>%1と%2</translation>
+    </message>
 </context>
 <context>
     <name>BatchRun</name>
@@ -116,6 +161,21 @@
     <message>
         <source>--one-pdf is for the built-in printer, and this is &quot;%1&quot;. Leave it out, or name the built-in printer.</source>
         <translation>--one-pdf は内蔵プリンター用ですが、これは「%1」です。取り除くか、内蔵プリンターを指定してください。</translation>
+    </message>
+</context>
+<context>
+    <name>BookletSides</name>
+    <message>
+        <source>A booklet is printed on both sides, turned on the short edge. This printer does not do that itself: print the odd sides first, then the even ones on their backs.</source>
+        <translation>小冊子は短辺とじで両面に印刷します。このプリンターは自動では両面に印刷できません。先に奇数の面を、次にその裏に偶数の面を印刷してください。</translation>
+    </message>
+    <message>
+        <source>A booklet is printed on both sides, turned on the short edge. Another choice does not allow that: look at &quot;%1&quot;.</source>
+        <translation>小冊子は短辺とじで両面に印刷します。ほかの選択のためにそうできません。「%1」を確認してください。</translation>
+    </message>
+    <message>
+        <source>A booklet is printed on both sides, turned on the short edge: &quot;%1&quot; is set to that.</source>
+        <translation>小冊子は短辺とじで両面に印刷します。「%1」をそのように設定しました。</translation>
     </message>
 </context>
 <context>
@@ -226,24 +286,6 @@ what the panels say; with --batch as well as printing</source>
         <translation>%1 と %2 は同時に指定できません。</translation>
     </message>
     <message>
-        <source>--batch needs a photo to print.</source>
-        <translation>--batch には印刷する写真が必要です。</translation>
-    </message>
-    <message>
-        <source>Usage: corvel-print [options] PHOTO...
-Prints photos on a photo printer: from a window, or at once with --batch.
-PHOTO can be - for the standard input, or a print list, LIST.json.
-
-Options:
-</source>
-        <translation>使い方: corvel-print [オプション] 写真...
-フォトプリンターで写真を印刷します (ウィンドウから、または --batch ですぐに)。
-写真には、標準入力を表す - や、印刷リスト LIST.json も指定できます。
-
-オプション:
-</translation>
-    </message>
-    <message>
         <source>show exactly what --batch would send, and send nothing</source>
         <translation>--batch が送る内容をそのまま表示し、何も送らない</translation>
     </message>
@@ -264,10 +306,6 @@ job stays with the print server, and that is told, with exit status 0</source>
     <message>
         <source>lists, summary and --dry-run as JSON</source>
         <translation>一覧、概要、--dry-run を JSON で出力する</translation>
-    </message>
-    <message>
-        <source>--dry-run needs a photo.</source>
-        <translation>--dry-run には写真が必要です。</translation>
     </message>
     <message>
         <source>--json is for --list-printers, --list-options, --summary and --dry-run.</source>
@@ -314,32 +352,6 @@ and print what is left of them</source>
     <message>
         <source>--no-check is for --batch and --dry-run.</source>
         <translation>--no-check は --batch と --dry-run で使います。</translation>
-    </message>
-    <message>
-        <source>
-Exit status:
-  0  printed, or done what was asked for
-  1  refused or failed; one line on standard error says what and why. A photo with
-     damaged pixels is left out, with a line of its own, and the others are printed
-  2  wrong usage
-
-Examples:
-  corvel-print --printer built-in holiday.jpg
-  corvel-print --batch -o Red=12 -o Quality=Fine -o Overcoat=Matte --output prints *.jpg
-  corvel-print --batch --size passport --scaling fill --layout fit portrait.jpg
-</source>
-        <translation>
-終了ステータス:
-  0  印刷した、または指示された処理を終えた
-  1  拒否または失敗 (何がなぜかを標準エラーに 1 行で出力)。画像が破損した写真は
-     1 行で知らせて飛ばし、ほかの写真を印刷する
-  2  使い方の誤り
-
-例:
-  corvel-print --printer built-in holiday.jpg
-  corvel-print --batch -o Red=12 -o Quality=Fine -o Overcoat=Matte --output prints *.jpg
-  corvel-print --batch --size passport --scaling fill --layout fit portrait.jpg
-</translation>
     </message>
     <message>
         <source>There is no mode &quot;%1&quot;. Choose constraint or settings.</source>
@@ -410,10 +422,6 @@ longer side, and exit; of further photos in FILE-2.png, FILE-3.png, ...</source>
         <translation>「%1」は画像の名前ではありません。.png で終わる名前を指定してください。</translation>
     </message>
     <message>
-        <source>--preview needs a photo.</source>
-        <translation>--preview には写真が必要です。</translation>
-    </message>
-    <message>
         <source>--overwrite is for --batch, --dry-run and --preview.</source>
         <translation>--overwrite は --batch、--dry-run、--preview 用です。</translation>
     </message>
@@ -432,16 +440,6 @@ square、passport、wallet。指定しなければページ全体</translation>
         <translation>各写真の縁 (プリントの大きさの内側): 3mm、または 3mm,black</translation>
     </message>
     <message>
-        <source>several photos on a sheet: ROWSxCOLUMNS (2x3); fit, as many of the size
-as fit; contact or contact:ROWSxCOLUMNS, a contact sheet; strips or
-strips:NUMBER, two strips of 2 to 4 photos. With &quot;,repeat&quot; each photo
-fills its sheet; also &quot;,gap=2mm&quot; and &quot;,marks&quot; for cut marks</source>
-        <translation>1 シートに複数の写真: 行x列 (2x3)。fit はその大きさで入るだけ。contact または
-contact:行x列 はコンタクトシート。strips または strips:数 は 2 から 4 枚の帯を
-2 本。「,repeat」を付けると各写真がシートを埋めます。「,gap=2mm」や、トンボの
-「,marks」も付けられます</translation>
-    </message>
-    <message>
         <source>what stands below each photo of a layout</source>
         <translation>レイアウトの各写真の下に入れる文字</translation>
     </message>
@@ -458,20 +456,8 @@ contact:行x列 はコンタクトシート。strips または strips:数 は 2 
         <translation>「%1」は縁ではありません。0 から 100 mm の幅と、白でない場合は色を指定してください: 3mm,black</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is not a layout. Give rows and columns from 1 to 20 (2x3), fit, contact, or strips:2 to strips:4.</source>
-        <translation>「%1」はレイアウトではありません。1 から 20 までの行と列 (2x3)、fit、contact、strips:2 から strips:4 のいずれかを指定してください。</translation>
-    </message>
-    <message>
         <source>There is no caption &quot;%1&quot;. Choose none, name, date or both.</source>
         <translation>説明文「%1」はありません。none、name、date、both から選んでください。</translation>
-    </message>
-    <message>
-        <source>A print list says itself which photos are printed and how. Give it without other photos, and without %1.</source>
-        <translation>印刷リストには、どの写真をどう印刷するかが書かれています。他の写真や %1 なしで指定してください。</translation>
-    </message>
-    <message>
-        <source>&quot;-&quot; reads one photo from the standard input. Give it once.</source>
-        <translation>「-」は標準入力から写真を 1 枚読みます。1 回だけ指定してください。</translation>
     </message>
     <message>
         <source>a preset of the printer, also of your default printer</source>
@@ -549,6 +535,106 @@ portals.conf のキーを 1 つ設定し、どのファイルかを表示する�
     <message>
         <source>remove that key again</source>
         <translation>そのキーを取り除く</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a layout. Give rows and columns from 1 to 20 (2x3), fit, contact, strips:2 to strips:4, pages:2, 4, 6, 9 or 16, or booklet.</source>
+        <translation>「%1」はレイアウトではありません。1～20 の行と列 (2x3)、fit、contact、strips:2～strips:4、pages:2、4、6、9、16、または booklet を指定してください。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; does not say which pages. Give page numbers from 1 on and ranges, such as 1-3,7,12-.</source>
+        <translation>「%1」ではどのページか分かりません。1-3,7,12- のように、1 以上のページ番号と範囲を指定してください。</translation>
+    </message>
+    <message>
+        <source>There is no set of pages &quot;%1&quot;. Choose all, odd or even.</source>
+        <translation>ページの種類「%1」はありません。all、odd、even から選んでください。</translation>
+    </message>
+    <message>
+        <source>several photos on a sheet: ROWSxCOLUMNS (2x3); fit, as many of the size
+as fit; contact or contact:ROWSxCOLUMNS, a contact sheet; strips or
+strips:NUMBER, two strips of 2 to 4 photos. With &quot;,repeat&quot; each photo
+fills its sheet; also &quot;,gap=2mm&quot; and &quot;,marks&quot; for cut marks. Of a
+document: pages:2, 4, 6, 9 or 16 on each sheet, or booklet</source>
+        <translation>1 シートに複数の写真: 行x列 (2x3)。fit はその大きさで入るだけ。contact または
+contact:行x列 はコンタクトシート。strips または strips:数 は 2 から 4 枚の帯を
+2 本。「,repeat」を付けると各写真がシートを埋めます。「,gap=2mm」や、トンボの
+「,marks」も付けられます。
+文書には pages:2、4、6、9、16 (1 枚あたりのページ数) または booklet</translation>
+    </message>
+    <message>
+        <source>which pages of documents: 1-3,7,12- (12- is page 12 to the last one);
+otherwise all</source>
+        <translation>文書のどのページか: 1-3,7,12- (12- は 12 ページから最後まで)。
+指定しなければすべて</translation>
+    </message>
+    <message>
+        <source>only pages with odd or with even numbers</source>
+        <translation>奇数または偶数のページだけ</translation>
+    </message>
+    <message>
+        <source>print the last sheet first</source>
+        <translation>最後のシートから印刷します</translation>
+    </message>
+    <message>
+        <source>Usage: corvel-print [options] FILE...
+Prints photos and PDF documents: from a window, or at once with --batch.
+FILE can be - for the standard input, or a print list, LIST.json.
+
+Options:
+</source>
+        <translation>使い方: corvel-print [オプション] FILE...
+写真と PDF 文書を印刷します。ウィンドウから、または --batch ですぐに印刷します。
+FILE には、標準入力を表す - や、印刷リスト LIST.json も指定できます。
+
+オプション:
+</translation>
+    </message>
+    <message>
+        <source>
+Exit status:
+  0  printed, or done what was asked for
+  1  refused or failed; one line on standard error says what and why. A photo with
+     damaged pixels is left out, with a line of its own, and the others are printed
+  2  wrong usage
+
+Examples:
+  corvel-print --printer built-in holiday.jpg
+  corvel-print --batch -o Red=12 -o Quality=Fine -o Overcoat=Matte --output prints *.jpg
+  corvel-print --batch --size passport --scaling fill --layout fit portrait.jpg
+  corvel-print --batch --pages 2-9 --layout booklet -o Duplex=DuplexTumble report.pdf
+</source>
+        <translation>
+終了ステータス:
+  0  印刷した、または指示された処理を終えた
+  1  拒否または失敗 (何がなぜかを標準エラーに 1 行で出力)。画像が破損した写真は
+     1 行で知らせて飛ばし、ほかの写真を印刷する
+  2  使い方の誤り
+
+例:
+  corvel-print --printer built-in holiday.jpg
+  corvel-print --batch -o Red=12 -o Quality=Fine -o Overcoat=Matte --output prints *.jpg
+  corvel-print --batch --size passport --scaling fill --layout fit portrait.jpg
+  corvel-print --batch --pages 2-9 --layout booklet -o Duplex=DuplexTumble report.pdf
+</translation>
+    </message>
+    <message>
+        <source>--batch needs a file to print.</source>
+        <translation>--batch には印刷するファイルが必要です。</translation>
+    </message>
+    <message>
+        <source>--dry-run needs a file.</source>
+        <translation>--dry-run にはファイルが必要です。</translation>
+    </message>
+    <message>
+        <source>--preview needs a file.</source>
+        <translation>--preview にはファイルが必要です。</translation>
+    </message>
+    <message>
+        <source>A print list says itself which files are printed and how. Give it without other files, and without %1.</source>
+        <translation>印刷リストは、どのファイルをどのように印刷するかを含みます。ほかのファイルや %1 なしで指定してください。</translation>
+    </message>
+    <message>
+        <source>&quot;-&quot; reads one file from the standard input. Give it once.</source>
+        <translation>「-」は標準入力からファイルを 1 つ読みます。1 回だけ指定してください。</translation>
     </message>
 </context>
 <context>
@@ -917,6 +1003,10 @@ portals.conf のキーを 1 つ設定し、どのファイルかを表示する�
         <source>Layout</source>
         <translation>レイアウト</translation>
     </message>
+    <message>
+        <source>Pages</source>
+        <translation>ページ</translation>
+    </message>
 </context>
 <context>
     <name>Listings</name>
@@ -1081,6 +1171,15 @@ portals.conf のキーを 1 つ設定し、どのファイルかを表示する�
     <message>
         <source>%1 % cut off</source>
         <translation>%1 % 切り取り</translation>
+    </message>
+    <message>
+        <source>Page of %1</source>
+        <comment>and its size</comment>
+        <translation>ページ %1</translation>
+    </message>
+    <message>
+        <source>printed at %1 %</source>
+        <translation>%1 % で印刷</translation>
     </message>
 </context>
 <context>
@@ -1746,6 +1845,17 @@ portals.conf のキーを 1 つ設定し、どのファイルかを表示する�
     </message>
 </context>
 <context>
+    <name>RequestedArrangement</name>
+    <message>
+        <source>&quot;%1&quot; is protected by a password, and there is no terminal to ask for it on. Start the program in a terminal, or in its window.</source>
+        <translation>「%1」はパスワードで保護されており、パスワードを尋ねる端末がありません。端末で、またはウィンドウで起動してください。</translation>
+    </message>
+    <message>
+        <source>--pages and --page-set are for documents, and there is none. Leave them out.</source>
+        <translation>--pages と --page-set は文書用ですが、文書がありません。指定しないでください。</translation>
+    </message>
+</context>
+<context>
     <name>RequestedSession</name>
     <message>
         <source>Of the preset &quot;%1&quot; is left out: %2</source>
@@ -1800,10 +1910,6 @@ portals.conf のキーを 1 つ設定し、どのファイルかを表示する�
 <context>
     <name>StandardInput</name>
     <message>
-        <source>&quot;-&quot; reads a photo from the standard input, which is the keyboard. Redirect it: corvel-print - &lt; photo.jpg</source>
-        <translation>「-」は標準入力から写真を読みますが、標準入力はキーボードです。リダイレクトしてください: corvel-print - &lt; photo.jpg</translation>
-    </message>
-    <message>
         <source>The standard input cannot be kept in &quot;%1&quot;: %2. Free some space there.</source>
         <translation>標準入力を「%1」に保存できません: %2。そこに空きを作ってください。</translation>
     </message>
@@ -1812,12 +1918,16 @@ portals.conf のキーを 1 つ設定し、どのファイルかを表示する�
         <translation>標準入力を読めませんでした: %1。</translation>
     </message>
     <message>
-        <source>The standard input is empty. Redirect a photo to it.</source>
-        <translation>標準入力が空です。写真をリダイレクトしてください。</translation>
+        <source>&quot;-&quot; reads a file from the standard input, which is the keyboard. Redirect it: corvel-print - &lt; photo.jpg</source>
+        <translation>「-」は標準入力からファイルを読みますが、標準入力がキーボードになっています。corvel-print - &lt; photo.jpg のようにリダイレクトしてください。</translation>
     </message>
     <message>
-        <source>The photo on the standard input is too large: a photo may have %1.</source>
-        <translation>標準入力の写真が大きすぎます。写真の上限は %1 です。</translation>
+        <source>The standard input is empty. Redirect a file to it.</source>
+        <translation>標準入力が空です。ファイルをリダイレクトしてください。</translation>
+    </message>
+    <message>
+        <source>The file on the standard input is too large: it may have %1.</source>
+        <translation>標準入力のファイルが大きすぎます。%1 までです。</translation>
     </message>
 </context>
 <context>
@@ -2555,6 +2665,14 @@ portals.conf のキーを 1 つ設定し、どのファイルかを表示する�
         <source>it wants a user name and a password, and there is no terminal to ask on</source>
         <translation>ユーザー名とパスワードが必要ですが、入力するための端末がありません</translation>
     </message>
+    <message>
+        <source>The password does not open &quot;%1&quot;.</source>
+        <translation>このパスワードでは「%1」を開けません。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is protected by a password.</source>
+        <translation>「%1」はパスワードで保護されています。</translation>
+    </message>
 </context>
 <context>
     <name>UsedChoices</name>
@@ -2847,6 +2965,13 @@ portals.conf のキーを 1 つ設定し、どのファイルかを表示する�
     <message>
         <source>&quot;%1&quot; cannot be used: its name is not encoded in UTF-8. Rename it.</source>
         <translation>「%1」は使用できません。名前が UTF-8 で符号化されていません。名前を変更してください。</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::FileOpener</name>
+    <message>
+        <source>&quot;%1&quot; has no page %2. Correct the print list.</source>
+        <translation>「%1」に %2 ページはありません。印刷リストを直してください。</translation>
     </message>
 </context>
 <context>
@@ -3278,6 +3403,24 @@ portals.conf のキーを 1 つ設定し、どのファイルかを表示する�
         <source>Gap:</source>
         <translation>間隔:</translation>
     </message>
+    <message>
+        <source>One photo or page per sheet</source>
+        <translation>1 枚に写真 1 枚または 1 ページ</translation>
+    </message>
+    <message>
+        <source>One page per sheet</source>
+        <translation>1 枚に 1 ページ</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n page(s) per sheet</source>
+        <translation>
+            <numerusform>1 枚に %n ページ</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Booklet</source>
+        <translation>小冊子</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::MessageBar</name>
@@ -3461,6 +3604,70 @@ portals.conf のキーを 1 つ設定し、どのファイルかを表示する�
     </message>
 </context>
 <context>
+    <name>printdialog::PageBar</name>
+    <message>
+        <source>Reverse order</source>
+        <translation>逆順</translation>
+    </message>
+    <message>
+        <source>Page ranges</source>
+        <translation>ページ範囲</translation>
+    </message>
+    <message>
+        <source>Pages and ranges, separated by commas; 12- is page 12 to the last one</source>
+        <translation>ページと範囲をコンマで区切ります。12- は 12 ページから最後までです</translation>
+    </message>
+    <message>
+        <source>Odd and even pages</source>
+        <translation>奇数ページと偶数ページ</translation>
+    </message>
+    <message>
+        <source>Odd and even</source>
+        <translation>奇数と偶数</translation>
+    </message>
+    <message>
+        <source>Odd only</source>
+        <comment>pages</comment>
+        <translation>奇数のみ</translation>
+    </message>
+    <message>
+        <source>Even only</source>
+        <comment>pages</comment>
+        <translation>偶数のみ</translation>
+    </message>
+    <message>
+        <source>Print the last sheet first</source>
+        <translation>最後のシートから印刷します</translation>
+    </message>
+    <message>
+        <source>Pages:</source>
+        <translation>ページ:</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <comment>pages</comment>
+        <translation>すべて</translation>
+    </message>
+    <message>
+        <source>Current page</source>
+        <translation>表示中のページ</translation>
+    </message>
+    <message>
+        <source>Selection</source>
+        <comment>pages</comment>
+        <translation>選択範囲</translation>
+    </message>
+    <message>
+        <source>Ranges</source>
+        <comment>of pages</comment>
+        <translation>範囲</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; does not say which pages. Type page numbers from 1 on and ranges, such as 1-3,7,12-.</source>
+        <translation>「%1」ではどのページか分かりません。1-3,7,12- のように、1 以上のページ番号と範囲を入力してください。</translation>
+    </message>
+</context>
+<context>
     <name>printdialog::PanelTabs</name>
     <message>
         <source>Options</source>
@@ -3477,6 +3684,34 @@ portals.conf のキーを 1 つ設定し、どのファイルかを表示する�
     <message>
         <source>The page &quot;%1&quot; cannot be left yet. Finish what it asks for.</source>
         <translation>ページ「%1」からはまだ移動できません。先にそのページが求める操作を済ませてください。</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::PasswordPrompt</name>
+    <message>
+        <source>Password</source>
+        <translation>パスワード</translation>
+    </message>
+    <message>
+        <source>The password does not open &quot;%1&quot;. Check it and enter it again.</source>
+        <translation>このパスワードでは「%1」を開けません。確かめて、もう一度入力してください。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is protected by a password.</source>
+        <translation>「%1」はパスワードで保護されています。</translation>
+    </message>
+    <message>
+        <source>&amp;Open</source>
+        <translation>開く(&amp;O)</translation>
+    </message>
+    <message>
+        <source>&amp;Leave Out</source>
+        <comment>a document</comment>
+        <translation>除外(&amp;L)</translation>
+    </message>
+    <message>
+        <source>&amp;Password:</source>
+        <translation>パスワード(&amp;P):</translation>
     </message>
 </context>
 <context>
@@ -3642,14 +3877,6 @@ portals.conf のキーを 1 つ設定し、どのファイルかを表示する�
         <translation>取り除く(&amp;M)</translation>
     </message>
     <message>
-        <source>Add photos to this job; they can be dropped on the window as well</source>
-        <translation>このジョブに写真を追加します。ウィンドウにドロップすることもできます</translation>
-    </message>
-    <message>
-        <source>Add Photos</source>
-        <translation>写真を追加</translation>
-    </message>
-    <message>
         <source>%1 (%2 of %3)</source>
         <translation>%1（%2／%3）</translation>
     </message>
@@ -3670,18 +3897,6 @@ portals.conf のキーを 1 つ設定し、どのファイルかを表示する�
     <message>
         <source>Sheets: %1</source>
         <translation>用紙の枚数: %1</translation>
-    </message>
-    <message>
-        <source>Height of the table of photos</source>
-        <translation>写真一覧の高さ</translation>
-    </message>
-    <message>
-        <source>Drag to see more or fewer photos</source>
-        <translation>ドラッグすると、見える写真の数が変わります</translation>
-    </message>
-    <message>
-        <source>Take the selected photos out of this job; their files stay</source>
-        <translation>選択した写真をこのジョブから外します。ファイルは残ります</translation>
     </message>
     <message>
         <source>Remove</source>
@@ -3732,14 +3947,6 @@ portals.conf のキーを 1 つ設定し、どのファイルかを表示する�
         <translation>印刷リストを開く</translation>
     </message>
     <message>
-        <source>The print list &quot;%1&quot; has no photos.</source>
-        <translation>印刷リスト「%1」には写真がありません。</translation>
-    </message>
-    <message>
-        <source>Save the Photos as a Print List</source>
-        <translation>写真を印刷リストとして保存</translation>
-    </message>
-    <message>
         <source>Open List…</source>
         <comment>of photos</comment>
         <translation>リストを開く…</translation>
@@ -3749,6 +3956,62 @@ portals.conf のキーを 1 つ設定し、どのファイルかを表示する�
         <comment>of photos</comment>
         <translation>リストを保存…</translation>
     </message>
+    <message>
+        <source>Show Each Page</source>
+        <translation>各ページを表示</translation>
+    </message>
+    <message>
+        <source>Photos and documents</source>
+        <translation>写真と文書</translation>
+    </message>
+    <message>
+        <source>PDF documents</source>
+        <translation>PDF 文書</translation>
+    </message>
+    <message>
+        <source>Add Photos or Documents</source>
+        <translation>写真や文書を追加</translation>
+    </message>
+    <message>
+        <source>This page is not printed.</source>
+        <translation>このページは印刷されません。</translation>
+    </message>
+    <message>
+        <source>The print list &quot;%1&quot; is empty.</source>
+        <translation>印刷リスト「%1」は空です。</translation>
+    </message>
+    <message>
+        <source>Save a Print List</source>
+        <translation>印刷リストを保存</translation>
+    </message>
+    <message>
+        <source>Sides of sheets: %1</source>
+        <translation>用紙の面数: %1</translation>
+    </message>
+    <message>
+        <source>%1, page %2 of %3</source>
+        <translation>%1、%2/%3 ページ</translation>
+    </message>
+    <message>
+        <source>Height of the table</source>
+        <translation>表の高さ</translation>
+    </message>
+    <message>
+        <source>Drag to see more or fewer pictures</source>
+        <translation>ドラッグすると、表示される画像の数が変わります</translation>
+    </message>
+    <message>
+        <source>Add photos and PDF documents to this job; they can be dropped on the window as well</source>
+        <translation>写真と PDF 文書をこのジョブに追加します。ウィンドウにドロップすることもできます</translation>
+    </message>
+    <message>
+        <source>Take what is selected out of this job; the files stay</source>
+        <translation>選択したものをこのジョブから外します。ファイルは残ります</translation>
+    </message>
+    <message>
+        <source>Show the pages as a table, in which they are moved, removed and placed one by one; otherwise what is chosen holds for all of them</source>
+        <translation>ページを表で示します。表では 1 ページずつ移動、除外、配置ができます。そうでなければ、選択はすべてのページに適用されます</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::PhotoTable</name>
@@ -3756,11 +4019,10 @@ portals.conf のキーを 1 つ設定し、どのファイルかを表示する�
         <source>Delete removes the selected photos; Alt with an arrow key moves them.</source>
         <translation>Deleteキーで選択した写真を外し、Altキーと矢印キーで移動します。</translation>
     </message>
-    <message numerus="yes">
-        <source>%n photo(s) of this job</source>
-        <translation>
-            <numerusform>このジョブの写真 %n 枚</numerusform>
-        </translation>
+    <message>
+        <source>%1 of this job</source>
+        <comment>such as: 3 photos and 12 pages</comment>
+        <translation>このジョブの%1</translation>
     </message>
 </context>
 <context>
@@ -3789,6 +4051,10 @@ portals.conf のキーを 1 つ設定し、どのファイルかを表示する�
         <comment>between the parts of a list</comment>
         <translation>、</translation>
     </message>
+    <message>
+        <source>not printed</source>
+        <translation>印刷しない</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::PlacementBar</name>
@@ -3801,14 +4067,6 @@ portals.conf のキーを 1 つ設定し、どのファイルかを表示する�
         <translation>配置(&amp;L):</translation>
     </message>
     <message>
-        <source>Placement of the photo</source>
-        <translation>写真の配置</translation>
-    </message>
-    <message>
-        <source>Turn the photo on the page by a quarter, clockwise</source>
-        <translation>ページ上の写真を時計回りに 90 度回転します</translation>
-    </message>
-    <message>
         <source>This printer places the photo on the page itself.</source>
         <translation>このプリンターでは、写真の配置はプリンターが決めます。</translation>
     </message>
@@ -3819,6 +4077,14 @@ portals.conf のキーを 1 つ設定し、どのファイルかを表示する�
     <message>
         <source>Size, border and copies of the photos, and how they share sheets</source>
         <translation>写真のサイズ、縁、部数と、用紙への並べ方</translation>
+    </message>
+    <message>
+        <source>Placement on the paper</source>
+        <translation>用紙上の配置</translation>
+    </message>
+    <message>
+        <source>Turn the photo or page by a quarter, clockwise</source>
+        <translation>写真やページを時計回りに 90° 回します</translation>
     </message>
 </context>
 <context>
@@ -4076,10 +4342,6 @@ portals.conf のキーを 1 つ設定し、どのファイルかを表示する�
         <translation>この写真は表示できません</translation>
     </message>
     <message>
-        <source>No photo. Drop photos here, or press Add.</source>
-        <translation>写真がありません。ここに写真をドロップするか、［追加］を押してください。</translation>
-    </message>
-    <message>
         <source>Preview of the page</source>
         <translation>ページのプレビュー</translation>
     </message>
@@ -4123,6 +4385,34 @@ portals.conf のキーを 1 つ設定し、どのファイルかを表示する�
     <message>
         <source>Click on a photo to change how it is printed.</source>
         <translation>写真をクリックすると、その印刷方法を変更できます。</translation>
+    </message>
+    <message>
+        <source>Nothing to print. Drop photos or PDF documents here, or press Add.</source>
+        <translation>印刷するものがありません。写真や PDF 文書をここにドロップするか、「追加」を押してください。</translation>
+    </message>
+    <message>
+        <source>This page cannot be shown</source>
+        <translation>このページは表示できません</translation>
+    </message>
+    <message>
+        <source>Page %1 of %2 on the sheet.</source>
+        <translation>シート上の %2 ページ中 %1 番目。</translation>
+    </message>
+    <message>
+        <source>The whole page is printed.</source>
+        <translation>ページ全体が印刷されます。</translation>
+    </message>
+    <message>
+        <source>%1 % of the page is cut off.</source>
+        <translation>ページの %1 % が切れます。</translation>
+    </message>
+    <message>
+        <source>Drag the page, or press the arrow keys, to move it; Home puts it in the middle.</source>
+        <translation>ページをドラッグするか矢印キーを押すと動かせます。Home で中央に戻ります。</translation>
+    </message>
+    <message>
+        <source>Click on a page to change how it is printed.</source>
+        <translation>ページをクリックすると、印刷のしかたを変えられます。</translation>
     </message>
 </context>
 <context>
@@ -4177,10 +4467,6 @@ portals.conf のキーを 1 つ設定し、どのファイルかを表示する�
 <context>
     <name>printdialog::PrintDialog</name>
     <message>
-        <source>Print Photo</source>
-        <translation>写真の印刷</translation>
-    </message>
-    <message>
         <source>Print %1</source>
         <translation>%1 の印刷</translation>
     </message>
@@ -4191,10 +4477,6 @@ portals.conf のキーを 1 つ設定し、どのファイルかを表示する�
     <message>
         <source>This printer has no panels of its own; it prints with its defaults.</source>
         <translation>このプリンターには専用の設定画面がありません。初期設定で印刷します。</translation>
-    </message>
-    <message>
-        <source>There is no photo to print.</source>
-        <translation>印刷する写真がありません。</translation>
     </message>
     <message>
         <source>Printing is under way.</source>
@@ -4247,24 +4529,12 @@ portals.conf のキーを 1 つ設定し、どのファイルかを表示する�
         <translation>%1（未装着）</translation>
     </message>
     <message>
-        <source>Photos are still being opened.</source>
-        <translation>写真をまだ開いています。</translation>
-    </message>
-    <message>
-        <source>The photos were arranged and not printed. Close the window all the same?</source>
-        <translation>写真の並べ方を変えましたが、まだ印刷していません。それでもウィンドウを閉じますか?</translation>
-    </message>
-    <message>
         <source>Close Without Printing</source>
         <translation>印刷せずに閉じる</translation>
     </message>
     <message>
         <source>Keep Open</source>
         <translation>開いたままにする</translation>
-    </message>
-    <message>
-        <source>The photos are saved as &quot;%1&quot;.</source>
-        <translation>写真を「%1」として保存しました。</translation>
     </message>
     <message>
         <source>Save List…</source>
@@ -4285,6 +4555,31 @@ portals.conf のキーを 1 つ設定し、どのファイルかを表示する�
     <message>
         <source>%1 brings the pages after you press &quot;%2&quot;.</source>
         <translation>「%2」を押すと、%1 がページを渡します。</translation>
+    </message>
+    <message>
+        <source>The list is saved as &quot;%1&quot;.</source>
+        <translation>リストを「%1」として保存しました。</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <comment>a title</comment>
+        <translation>印刷</translation>
+    </message>
+    <message>
+        <source>PDFs named after the files</source>
+        <translation>ファイル名を使った PDF</translation>
+    </message>
+    <message>
+        <source>Files are still being opened.</source>
+        <translation>ファイルを開いています。</translation>
+    </message>
+    <message>
+        <source>There is nothing to print.</source>
+        <translation>印刷するものがありません。</translation>
+    </message>
+    <message>
+        <source>The sheets were arranged and not printed. Close the window all the same?</source>
+        <translation>配置したシートはまだ印刷されていません。それでもウィンドウを閉じますか?</translation>
     </message>
 </context>
 <context>

@@ -25,6 +25,10 @@ BAD_LISTS = (
     ({"copies": 1.5}, '"copies" cannot be 1.5'),
     ({"turns": 4}, '"turns"'),
     ({"crop": [50]}, '"crop" cannot be [50]'),
+    ({"page": 0}, '"page" cannot be 0'),
+    ({"pages": "3-1"}, '"pages" cannot be "3-1"'),
+    ({"pageSet": "some"}, '"pageSet" cannot be "some"'),
+    ({"reverse": "yes"}, '"reverse" cannot be "yes"'),
     ({"size": "0x0cm"}, '"size"'),
     ({"size": "1" * 1000000}, '"size"'),
     ({"border": "1" * 1000000}, '"border"'),
@@ -37,7 +41,7 @@ BAD_LISTS = (
 def print_list(values):
     if isinstance(values, str):
         return values
-    top = {key: values[key] for key in ("photos", "layout", "Layout") if key in values}
+    top = {key: values[key] for key in ("photos", "layout", "Layout", "pages", "pageSet", "reverse") if key in values}
     photo = {"file": PHOTO} | {key: values[key] for key in values if key not in top}
     return json.dumps({"format": "corvel-print-list", "version": 1, "photos": [photo]} | top)
 
@@ -120,6 +124,8 @@ class SheetsTest(ProgramTest):
                 self.assertIn(words, done.err)
         for other in (["--size", "9x13cm"], [PHOTO]):
             self.assertEqual(self.print(*other, self.folder / "list.json").status, 2)
+        self.stored("list.json", print_list({"page": 1}).encode())
+        self.assertIn('sample.jpg" has no page 1', self.print("--printer", "built-in", self.folder / "list.json").err)
         self.stored("list.json", print_list({"file": "gone.jpg"}).encode())
         self.assertIn("gone.jpg", self.print("--printer", "built-in", self.folder / "list.json").err)
         self.assertFalse(self.out.exists())

@@ -16,7 +16,7 @@ import threading
 import unittest
 import unittest.mock
 
-from program import PROGRAM, ProgramTest
+from program import PROGRAM, ProgramTest, pdf
 
 SUCCESS = bytes.fromhex("0200000000000001") + b"\1G\0\x12attributes-charset\0\5utf-8" + \
     b"H\0\x1battributes-natural-language\0\2en\3"
@@ -124,6 +124,22 @@ class TerminalLoginTest(ProgramTest):
         status, written = self.on_terminal([])
         self.assertEqual((status, written.count("\n"), self.transcript), (1, 1, b""))
         self.assertIn("which would cross the network unencrypted", written)
+
+    def test_asks_for_a_documents_password(self):
+        plain, locked = self.stored("plain.pdf", pdf(2)), self.folder / "locked.pdf"
+        subprocess.run(["qpdf", "--encrypt", "secret", "owner", "256", "--", plain, locked], check=True)
+        self.command = [PROGRAM, "--batch", "--printer", "built-in", "--output", self.out, locked]
+        status, written = self.on_terminal([(b"Password: ", b"geheim\n"), (b"Password: ", b"secret\n")])
+        self.assertEqual((status, written.startswith("Printed locked.pdf")), (0, True), written)
+        for said in b'"locked.pdf" is protected', b'does not open "locked.pdf"':
+            self.assertIn(said, self.transcript)
+        for secret in b"geheim", b"secret":
+            self.assertNotIn(secret, self.transcript)
+        status, written = self.on_terminal([(b"Password: ", b"\x03")])
+        self.assertEqual((status, written.count("\n")), (1, 1))
+        done = subprocess.run(self.command, capture_output=True, text=True, start_new_session=True)
+        self.assertEqual((done.returncode, done.stderr.count("\n")), (1, 1))
+        self.assertIn("no terminal", done.stderr)
 
     def test_says_that_there_is_no_terminal(self):
         done = subprocess.run(self.command, capture_output=True, text=True, start_new_session=True)

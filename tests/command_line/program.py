@@ -32,6 +32,26 @@ def run(*arguments, folder=None, **environment):
     return finished([PROGRAM, *arguments], cwd=folder, env=surroundings | environment)
 
 
+def pdf(pages, size=(595, 842)):
+    """A PDF with the text "page 1." and so on."""
+    font = 3 + 2 * pages
+    objects = ["<< /Type /Catalog /Pages 2 0 R >>",
+               f"<< /Type /Pages /Kids [{' '.join(f'{3 + 2 * i} 0 R' for i in range(pages))}] /Count {pages} >>"]
+    for i in range(pages):
+        text = f"BT /F 40 Tf 50 300 Td (page {i + 1}.) Tj ET"
+        objects += [f"<< /Type /Page /Parent 2 0 R /MediaBox [0 0 {size[0]} {size[1]}] /Contents {4 + 2 * i} 0 R "
+                    f"/Resources << /Font << /F {font} 0 R >> >> >>",
+                    f"<< /Length {len(text)} >> stream\n{text}\nendstream"]
+    objects.append("<< /Type /Font /Subtype /Type1 /BaseFont /Helvetica >>")
+    content, places = b"%PDF-1.4\n", []
+    for number, text in enumerate(objects, 1):
+        places.append(len(content))
+        content += f"{number} 0 obj {text} endobj\n".encode()
+    table = "".join(f"{place:010} 00000 n \n" for place in places)
+    return content + (f"xref\n0 {font + 1}\n0000000000 65535 f \n{table}trailer << /Size {font + 1} /Root 1 0 R >>\n"
+                      f"startxref\n{len(content)}\n%%EOF\n").encode()
+
+
 def shell(command, *arguments):
     """A command of the shell, in which "$@" are the program and the arguments."""
     return finished(["/bin/sh", "-c", command, "sh", PROGRAM, *arguments])

@@ -5,6 +5,7 @@
 
 #include <QtCore/QCollator>
 #include <QtCore/QLocale>
+#include <QtCore/QSet>
 
 #include <algorithm>
 #include <numeric>
@@ -16,8 +17,8 @@ namespace {
 
 bool isSame(const PlacedPhoto &one, const PlacedPhoto &other)
 {
-    return one.photo.path() == other.photo.path() && one.placement == other.placement &&
-           one.copies == other.copies;
+    return one.photo.path() == other.photo.path() && one.photo.page() == other.photo.page() &&
+           one.placement == other.placement && one.copies == other.copies;
 }
 
 QList<int> allIndexes(int count)
@@ -90,23 +91,43 @@ void ArrangementModel::selectSome()
     }
 }
 
+bool ArrangementModel::isOneDocument() const
+{
+    const PlacedPhoto *first = currentPhoto();
+    return first && first->photo.document() &&
+           std::ranges::all_of(photos(), [first](const PlacedPhoto &placed) {
+               return placed.photo.document() && placed.photo.identity() == first->photo.identity();
+           });
+}
+
+/// Whether the pages of a document are in their order, and all alike: opening it again makes the same.
+bool ArrangementModel::isPlain() const
+{
+    int last = -1;
+    return std::ranges::all_of(photos(), [&](const PlacedPhoto &placed) {
+        const int before = std::exchange(last, placed.photo.page());
+        return before < last && placed.placement == currentPhoto()->placement &&
+               placed.copies == currentPhoto()->copies;
+    });
+}
+
 // One pass beside the kept arrangement; a photo that was only removed does not count.
 bool ArrangementModel::hasUnkeptWork() const
 {
     const QList<PlacedPhoto> &kept = kept_.photos;
-    if (count() < 2)
+    if (count() < 2 || (isOneDocument() && isPlain()))
         return false;
     if (arrangement().layout != kept_.layout)
         return true;
     if (std::ranges::equal(photos(), kept, isSame))
         return false;
-    QHash<QString, qsizetype> places;
+    QHash<Name, qsizetype> places;
     for (qsizetype i = 0; i < kept.size(); ++i)
-        places.insert(kept.at(i).photo.path(), i);
+        places.insert(nameOf(kept.at(i)), i);
     int added = 0;
     qsizetype last = -1;
     for (const PlacedPhoto &placed : photos()) {
-        const qsizetype place = places.value(placed.photo.path(), -1);
+        const qsizetype place = places.value(nameOf(placed), -1);
         if (place < 0) {
             if (++added > 1)
                 return true;
@@ -134,6 +155,25 @@ void ArrangementModel::selectAll()
 {
     if (count() > 0)
         select(allIndexes(count()), state_.current);
+}
+
+QList<int> ArrangementModel::scope() const
+{
+    if (!arePagesTogether_)
+        return state_.selection;
+    QSet<FileIdentity> documents;
+    for (const int index : state_.selection) {
+        if (photos().at(index).photo.document())
+            documents.insert(photos().at(index).photo.identity());
+    }
+    QList<int> indexes;
+    for (int i = 0; i < count(); ++i) {
+        const Photo &photo = photos().at(i).photo;
+        if (std::ranges::binary_search(state_.selection, i) ||
+            (photo.document() && documents.contains(photo.identity())))
+            indexes += i;
+    }
+    return indexes;
 }
 
 void ArrangementModel::add(const QList<Photo> &photos, bool isFirst)
@@ -246,7 +286,8 @@ void ArrangementModel::sort(Order order)
         for (const PlacedPhoto &placed : photos())
             names += placed.photo.fileName();
         std::ranges::stable_sort(indexes, [&](int one, int other) {
-            return collator.compare(names.at(one), names.at(other)) < 0;
+            const int result = collator.compare(names.at(one), names.at(other));
+            return result != 0 ? result < 0 : photos().at(one).photo.page() < photos().at(other).photo.page();
         });
     } else if (order == Order::Date) {
         // What has no date of its own comes by the date of its file.
@@ -256,7 +297,7 @@ void ArrangementModel::sort(Order order)
         });
     } else {
         std::ranges::stable_sort(indexes, {},
-                                 [this](int i) { return givenPlaces_.value(photos().at(i).photo.path()); });
+                                 [this](int i) { return givenPlaces_.value(nameOf(photos().at(i))); });
     }
     reorder(indexes);
 }
@@ -333,6 +374,29 @@ void ArrangementModel::setLayout(const SheetLayout &layout)
     Q_EMIT placementChanged();
 }
 
+void ArrangementModel::setPages(const PageChoice &pages)
+{
+    if (pages == arrangement().pages)
+        return;
+    const State before = state_;
+    state_.arrangement.pages = pages;
+    const auto isPrinted = [this](int index) {
+        const Photo &photo = photos().at(index).photo;
+        return !photo.document() || arrangement().pages.contains(photo.page() + 1);
+    };
+    for (int step = 0; step < count() && !isPrinted(state_.current); ++step) {
+        state_.current = (state_.current + 1) % count();
+        state_.selection = {state_.current};
+    }
+    if (state_.current == before.current)
+        state_.selection = before.selection;
+    Q_EMIT changed(before);
+    if (state_.current == before.current)
+        Q_EMIT placementChanged();
+    else
+        Q_EMIT photosChanged();
+}
+
 ArrangementStyle ArrangementModel::style() const
 {
     ArrangementStyle style{currentPhoto() ? currentPhoto()->placement : state_.opening.placement,
@@ -385,9 +449,9 @@ void ArrangementModel::accept(const QList<int> &indexes)
 void ArrangementModel::notePlaces(qsizetype from)
 {
     for (qsizetype i = from; i < photos().size(); ++i) {
-        const QString path = photos().at(i).photo.path();
-        if (!givenPlaces_.contains(path))
-            givenPlaces_.insert(path, static_cast<int>(givenPlaces_.size()));
+        const Name name = nameOf(photos().at(i));
+        if (!givenPlaces_.contains(name))
+            givenPlaces_.insert(name, static_cast<int>(givenPlaces_.size()));
     }
 }
 

@@ -52,6 +52,14 @@ public:
     int count() const { return static_cast<int>(photos().size()); }
     int current() const { return state_.current; }
     const QList<int> &selection() const { return state_.selection; }
+    /// Whether what is done with a page of a document is done with all of its pages, because nobody sees
+    /// which are selected.
+    void setPagesTogether(bool areTogether) { arePagesTogether_ = areTogether; }
+    /// What edits are made of: the selected photos, with the other pages of their documents where these are
+    /// together.
+    QList<int> scope() const;
+    /// Whether there is nothing but pages of one document.
+    bool isOneDocument() const;
     /// Null without photos. Valid until the next change.
     const PlacedPhoto *currentPhoto() const;
 
@@ -93,17 +101,19 @@ public:
     void replace(const Arrangement &arrangement);
     void follow(const QList<PlacedPhoto> &photos);
     void remove(const QList<int> &indexes);
-    void removeSelected() { remove(state_.selection); }
+    void removeSelected() { remove(scope()); }
     /// Moves the selected photos before the one with this index, or to the end; their order stays.
     void moveSelected(int before);
     /// Moves each selected photo one place toward the beginning (-1) or the end (1).
     void stepSelected(int direction);
     void sort(Order order);
-    void editSelected(const Edit &edit) { change(state_.selection, edit); }
+    void editSelected(const Edit &edit) { change(scope(), edit); }
     void editCurrent(const Edit &edit);
     /// Gives all photos the placement and the copies of the current one; each keeps its own crop.
     void applyToAll();
     void setLayout(const SheetLayout &layout);
+    /// When the current page is not among them, the next one that is becomes current.
+    void setPages(const PageChoice &pages);
 
     /// Accepts that these photos are printed even though they are damaged. Nothing that is taken back.
     void accept(const QList<int> &indexes);
@@ -115,11 +125,15 @@ Q_SIGNALS:
     void photosChanged();
     /// Others are selected, or another one is current.
     void selectionChanged();
-    /// Placements or copies of photos, or the layout, are others.
+    /// Placements or copies of photos, the layout, or the choice of pages are others.
     void placementChanged();
 
 private:
+    using Name = std::pair<QString, int>; ///< A file's path, and a page of it or -1.
+
+    static Name nameOf(const PlacedPhoto &placed) { return {placed.photo.path(), placed.photo.page()}; }
     static bool isAsOpened(const State &state);
+    bool isPlain() const;
     void change(const QList<int> &indexes, const Edit &edit,
                 const std::optional<PlacementChoice> &coming = std::nullopt);
     void reorder(const QList<int> &order);
@@ -130,7 +144,8 @@ private:
     State state_;
     QList<PlacedPhoto> opened_; ///< Those from the beginning, as they were then.
     Arrangement kept_;
-    QHash<QString, int> givenPlaces_; ///< By path, in the order in which the files were added.
+    bool arePagesTogether_ = false;
+    QHash<Name, int> givenPlaces_; ///< In the order in which the files were added.
 };
 
 } // namespace printdialog

@@ -11,15 +11,16 @@
 
 namespace printdialog {
 
-/// What all selected photos have in common; nothing when they differ, or when there is none.
+/// What all photos that an edit is made of have in common; nothing when they differ, or when there is none.
 template <class Read>
 auto commonValue(const ArrangementModel &photos, const Read &read)
     -> std::optional<std::decay_t<decltype(read(PlacedPhoto()))>>
 {
-    if (photos.selection().isEmpty())
+    const QList<int> scope = photos.scope();
+    if (scope.isEmpty())
         return std::nullopt;
-    const auto first = read(photos.photos().at(photos.selection().constFirst()));
-    for (const int index : photos.selection()) {
+    const auto first = read(photos.photos().at(scope.constFirst()));
+    for (const int index : scope) {
         if (read(photos.photos().at(index)) != first)
             return std::nullopt;
     }

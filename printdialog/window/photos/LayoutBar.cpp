@@ -20,6 +20,19 @@ constexpr int shortestKind = 10; // characters of the layout that a narrow windo
 
 using Kind = SheetLayout::Kind;
 
+bool isOfPages(const SheetLayout &layout)
+{
+    return layout.kind == Kind::Pages || layout.kind == Kind::Booklet;
+}
+
+/// Of layouts that differ only in what has controls of its own.
+QString kindText(const SheetLayout &layout)
+{
+    SheetLayout usual = SheetLayout::usual(layout.kind);
+    usual.pagesPerSheet = layout.pagesPerSheet;
+    return usual.toText();
+}
+
 /// Controls that are shown and hidden together with their label.
 QWidget *group(const QString &text, std::initializer_list<QWidget *> controls, QWidget *parent)
 {
@@ -47,11 +60,7 @@ LayoutBar::LayoutBar(QWidget *parent)
     kind_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     kind_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     kind_->setMinimumContentsLength(shortestKind);
-    kind_->addItem(tr("One photo per sheet"), static_cast<int>(Kind::Single));
-    kind_->addItem(tr("Rows and columns"), static_cast<int>(Kind::Grid));
-    kind_->addItem(tr("As many as fit"), static_cast<int>(Kind::ManyOfSize));
-    kind_->addItem(tr("Contact sheet"), static_cast<int>(Kind::Contact));
-    kind_->addItem(tr("Two strips"), static_cast<int>(Kind::Strips));
+    fillKinds();
     rows_->setObjectName(QStringLiteral("layoutRows"));
     columns_->setObjectName(QStringLiteral("layoutColumns"));
     columns_->setAccessibleName(tr("Columns"));
@@ -97,11 +106,7 @@ void LayoutBar::connectControls()
         change(layout);
         Q_EMIT layoutChosen(layout, control);
     };
-    connect(kind_, &QComboBox::activated, this, [this] {
-        const auto kind = static_cast<Kind>(kind_->currentData().toInt());
-        if (kind != layout_.kind) // the same one keeps its numbers
-            Q_EMIT layoutChosen(SheetLayout::usual(kind), kind_);
-    });
+    connect(kind_, &QComboBox::activated, this, &LayoutBar::chooseKind);
     const auto connectNumber = [&](MixedSpinBox *box, int SheetLayout::*number) {
         connect(box, &MixedSpinBox::entered, this, [this, choose, box, number] {
             choose(box, [&](SheetLayout &layout) { layout.*number = qRound(box->number()); });
@@ -126,11 +131,65 @@ void LayoutBar::connectControls()
     connectSwitch(marks_, &SheetLayout::hasCutMarks);
 }
 
+void LayoutBar::fillKinds()
+{
+    kind_->clear();
+    const auto add = [this](const QString &text, Kind kind) {
+        kind_->addItem(text, SheetLayout::usual(kind).toText());
+    };
+    add(!hasPages_   ? tr("One photo per sheet")
+        : hasPhotos_ ? tr("One photo or page per sheet")
+                     : tr("One page per sheet"),
+        Kind::Single);
+    if (hasPages_ || isOfPages(layout_)) {
+        SheetLayout pages = SheetLayout::usual(Kind::Pages);
+        for (const int count : SheetLayout::pagesPerSheetChoices) {
+            pages.pagesPerSheet = count;
+            kind_->addItem(tr("%n page(s) per sheet", nullptr, count), pages.toText());
+        }
+        add(tr("Booklet"), Kind::Booklet);
+    }
+    add(tr("Rows and columns"), Kind::Grid);
+    add(tr("As many as fit"), Kind::ManyOfSize);
+    add(tr("Contact sheet"), Kind::Contact);
+    add(tr("Two strips"), Kind::Strips);
+}
+
+/// The same kind keeps its numbers.
+void LayoutBar::chooseKind()
+{
+    const auto chosen = SheetLayout::fromText(kind_->currentData().toString());
+    if (!chosen || kindText(*chosen) == kindText(layout_))
+        return;
+    SheetLayout layout = chosen->kind == layout_.kind ? layout_ : *chosen;
+    layout.pagesPerSheet = chosen->pagesPerSheet;
+    Q_EMIT layoutChosen(layout, kind_);
+}
+
+void LayoutBar::setContent(bool hasPhotos, bool hasPages)
+{
+    if (hasPhotos == hasPhotos_ && hasPages == hasPages_)
+        return;
+    hasPhotos_ = hasPhotos;
+    hasPages_ = hasPages;
+    fillKinds();
+    showLayout(layout_);
+}
+
+void LayoutBar::setCompact(bool isCompact)
+{
+    isCompact_ = isCompact;
+    showLayout(layout_);
+}
+
 void LayoutBar::showLayout(const SheetLayout &layout)
 {
+    const bool isListed = kind_->findData(kindText(layout)) >= 0;
     layout_ = layout;
+    if (!isListed)
+        fillKinds();
     const Kind kind = layout.kind;
-    kind_->setCurrentIndex(kind_->findData(static_cast<int>(kind)));
+    kind_->setCurrentIndex(kind_->findData(kindText(layout)));
     rows_->show(layout.rows);
     columns_->show(layout.columns);
     stripPhotos_->show(layout.stripPhotos);
@@ -140,10 +199,11 @@ void LayoutBar::showLayout(const SheetLayout &layout)
     marks_->setChecked(layout.hasCutMarks);
     rows_->parentWidget()->setVisible(kind == Kind::Grid || kind == Kind::Contact);
     stripPhotos_->parentWidget()->setVisible(kind == Kind::Strips);
-    caption_->parentWidget()->setVisible(kind != Kind::ManyOfSize && kind != Kind::Strips);
+    caption_->parentWidget()->setVisible(!isCompact_ && kind != Kind::ManyOfSize && kind != Kind::Strips &&
+                                         kind != Kind::Booklet);
     repeats_->setVisible(kind == Kind::Grid || kind == Kind::ManyOfSize || kind == Kind::Strips);
-    gap_->parentWidget()->setVisible(kind != Kind::Single);
-    marks_->setVisible(kind != Kind::Contact);
+    gap_->parentWidget()->setVisible(!isCompact_ && kind != Kind::Single && kind != Kind::Booklet);
+    marks_->setVisible(!isCompact_ && kind != Kind::Contact && !isOfPages(layout));
 }
 
 QList<QWidget *> LayoutBar::fields() const

@@ -24,6 +24,11 @@ class LayoutBar : public QWidget
 public:
     explicit LayoutBar(QWidget *parent = nullptr);
 
+    /// What is there to be laid out: the layouts that suit it are offered first, and those of documents only
+    /// with pages.
+    void setContent(bool hasPhotos, bool hasPages);
+    /// Whether only the kind of layout is shown, and its numbers.
+    void setCompact(bool isCompact);
     /// Shows the layout; no signal is emitted.
     void showLayout(const SheetLayout &layout);
     /// Fields in which more than one event belongs to an act of the user's.
@@ -35,6 +40,8 @@ Q_SIGNALS:
 
 private:
     void connectControls();
+    void fillKinds();
+    void chooseKind();
 
     QComboBox *kind_;
     MixedSpinBox *rows_;
@@ -45,6 +52,9 @@ private:
     MixedSpinBox *gap_;
     QCheckBox *marks_;
     SheetLayout layout_;
+    bool hasPhotos_ = true;
+    bool hasPages_ = false;
+    bool isCompact_ = false;
 };
 
 } // namespace printdialog

@@ -23,34 +23,50 @@ PhotoOpener::PhotoOpener(QObject *parent)
 
 void PhotoOpener::open(const QStringList &paths, Use use)
 {
-    if (paths.isEmpty())
+    PrintList list;
+    for (const QString &path : paths)
+        list.photos += PrintList::Entry{path};
+    open(list, use);
+}
+
+void PhotoOpener::open(const PrintList &list, Use use)
+{
+    if (list.photos.isEmpty())
         return;
-    requests_.append({paths, use, 0, false, {}});
+    requests_.append({list, use});
     if (requests_.size() == 1)
         openNext();
 }
 
 /// As many as take about that time, and at least one.
-PhotoOpener::Answer PhotoOpener::openSome(const QStringList &paths, qsizetype next)
+PhotoOpener::Answer PhotoOpener::openSome(FileOpener &opener, const Entries &entries, const QString &password)
 {
     const QDeadlineTimer end(100ms);
-    Answer answer{{}, {}, next};
+    if (!password.isEmpty())
+        opener.unlock(entries.constFirst().path, password);
+    Answer answer;
+    qsizetype next = 0;
     do {
-        const auto photo = Photo::open(paths.at(answer.next++));
-        if (photo)
-            answer.photos.append(*photo);
-        else
-            answer.failures.append(photo.failure().text);
-    } while (answer.next < paths.size() && !end.hasExpired());
+        const PrintList::Entry &entry = entries.at(next++);
+        const auto photos = opener.open(entry);
+        if (photos)
+            answer.photos += *photos;
+        else if (photos.failure().reason == PhotoFault::NeedsPassword)
+            answer.locked += entry;
+        else if (!answer.failures.contains(photos.failure().text)) // of each page of a document
+            answer.failures += photos.failure().text;
+    } while (next < entries.size() && !end.hasExpired());
+    answer.left = entries.sliced(next);
     return answer;
 }
 
 void PhotoOpener::openNext()
 {
-    const Request &request = requests_.constFirst();
+    Request &request = requests_.first();
     startPhotoTask(
-        [paths = request.paths, next = request.next, self = QPointer<PhotoOpener>(this)] {
-            const Answer answer = openSome(paths, next);
+        [opener = request.opener, entries = request.list.photos,
+         password = std::exchange(request.password, {}), self = QPointer<PhotoOpener>(this)] {
+            const Answer answer = openSome(*opener, entries, password);
             QMetaObject::invokeMethod(qApp, [self, answer] {
                 if (self)
                     self->accept(answer);
@@ -62,20 +78,84 @@ void PhotoOpener::openNext()
 void PhotoOpener::accept(const Answer &answer)
 {
     Request &request = requests_.first();
-    request.next = answer.next;
-    request.failures += answer.failures;
+    request.list.photos = answer.left;
+    for (const QString &failure : answer.failures) {
+        if (!request.failures.contains(failure))
+            request.failures += failure;
+    }
+    request.locked = request.tried.isEmpty() ? request.locked + answer.locked
+                                             : answer.locked + request.locked; // and is asked about again
     const bool isFirst = !std::exchange(request.hasPhotos, request.hasPhotos || !answer.photos.isEmpty());
-    const Use use = request.use;
-    const bool isOver = request.next == request.paths.size();
-    const QStringList failures = request.failures;
+    const Request opened = request;
+    const bool isOver = answer.left.isEmpty();
     if (isOver)
         requests_.removeFirst();
     if (isBusy())
         openNext();
     if (!answer.photos.isEmpty())
-        Q_EMIT opened({answer.photos, use, isFirst});
+        Q_EMIT this->opened({answer.photos, opened.use, isFirst, opened.list.layout, opened.list.pages});
     if (isOver)
-        Q_EMIT finished(use, failures);
+        end(opened);
+}
+
+void PhotoOpener::end(const Request &request)
+{
+    if (request.locked.isEmpty()) {
+        Q_EMIT finished(request.use, request.failures);
+    } else {
+        const bool isRefused = request.locked.constFirst().path == request.tried;
+        waiting_.insert(isRefused ? (isAsking_ ? 1 : 0) : waiting_.size(), request);
+        Q_EMIT paused();
+    }
+    ask();
+}
+
+// Passwords
+
+void PhotoOpener::ask()
+{
+    if (waiting_.isEmpty() || isAsking_)
+        return;
+    isAsking_ = true;
+    const QString path = waiting_.constFirst().locked.constFirst().path;
+    Q_EMIT passwordWanted(path, path == waiting_.constFirst().tried);
+}
+
+/// The entries of the document that was asked about.
+PhotoOpener::Entries PhotoOpener::takeAsked()
+{
+    isAsking_ = false;
+    Entries &locked = waiting_.first().locked;
+    const QString path = locked.constFirst().path;
+    Entries asked;
+    for (const PrintList::Entry &entry : std::as_const(locked)) {
+        if (entry.path == path)
+            asked += entry;
+    }
+    locked.removeIf([&path](const PrintList::Entry &entry) { return entry.path == path; });
+    return asked;
+}
+
+void PhotoOpener::unlock(const QString &password)
+{
+    if (!isAsking_)
+        return;
+    const Entries asked = takeAsked();
+    Request request = waiting_.takeFirst();
+    request.list.photos = asked;
+    request.tried = asked.constFirst().path;
+    request.password = password;
+    requests_.append(request);
+    if (requests_.size() == 1)
+        openNext();
+}
+
+void PhotoOpener::leaveOut()
+{
+    if (!isAsking_)
+        return;
+    takeAsked();
+    end(waiting_.takeFirst());
 }
 
 } // namespace printdialog

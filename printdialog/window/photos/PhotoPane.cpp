@@ -6,6 +6,8 @@
 #include "DroppedFiles.h"
 #include "HeightGrip.h"
 #include "LayoutBar.h"
+#include "PageBar.h"
+#include "PasswordPrompt.h"
 #include "PhotoTable.h"
 #include "PhotoThreads.h"
 #include "PlacementBar.h"
@@ -38,12 +40,13 @@ PhotoPane::PhotoPane(QWidget *parent)
     , preview_(new PreviewWidget(this))
     , bar_(new PreviewBar(preview_, this))
     , placement_(new PlacementBar(this))
-    , more_(new QWidget(this))
-    , print_(new PrintBar(more_))
-    , layout_(new LayoutBar(more_))
-    , watch_(new WatchBar(more_))
+    , pages_(new PageBar(this))
+    , print_(new PrintBar(this))
+    , layout_(new LayoutBar(this))
+    , watch_(new WatchBar(this))
     , planNote_(new QLabel(this))
     , caption_(new QLabel(this))
+    , eachPage_(new QPushButton(tr("Show Each Page"), this))
     , add_(new QPushButton(tr("A&dd…"), this))
     , remove_(new QPushButton(tr("Re&move"), this))
     , table_(new PhotoTable(model_, this))
@@ -67,9 +70,10 @@ void PhotoPane::act(QWidget *control, const std::function<void()> &change)
 }
 
 void PhotoPane::setPhotos(const QList<Photo> &photos, const ArrangementStyle &style,
-                          const QStringList &furtherPaths)
+                          const QStringList &furtherPaths, const PageChoice &pages)
 {
     Arrangement arrangement;
+    arrangement.pages = pages;
     for (const Photo &photo : photos)
         arrangement.photos.append({photo});
     setArrangement(arrangement);
@@ -77,18 +81,19 @@ void PhotoPane::setPhotos(const QList<Photo> &photos, const ArrangementStyle &st
     opener_->open(furtherPaths, PhotoOpener::Use::Initial);
 }
 
-void PhotoPane::setArrangement(const Arrangement &arrangement)
+void PhotoPane::setArrangement(const Arrangement &arrangement, const QList<PrintList::Entry> &locked)
 {
     for (const PlacedPhoto &placed : arrangement.photos)
         check(placed.photo);
     model_->start(arrangement);
+    opener_->open({{}, locked}, PhotoOpener::Use::RestOfList);
 }
 
 void PhotoPane::awaitPages(const QString &text)
 {
     setAcceptDrops(false);
     preview_->setEmptyText(text);
-    for (QWidget *widget : QList<QWidget *>{bar_, placement_, more_, caption_, add_, remove_})
+    for (QWidget *widget : QList<QWidget *>{bar_, placement_, caption_, add_, remove_})
         widget->hide();
 }
 
@@ -153,15 +158,28 @@ void PhotoPane::addFiles(const QStringList &paths)
 
 void PhotoPane::append(const PhotoOpener::Batch &batch)
 {
-    for (const Photo &photo : batch.photos)
-        check(photo);
+    QList<Photo> photos;
+    photos.reserve(batch.photos.size());
+    for (const PlacedPhoto &placed : batch.photos) {
+        check(placed.photo);
+        photos += placed.photo;
+    }
     if (batch.use == PhotoOpener::Use::Initial)
-        return model_->append(batch.photos);
-    if (batch.use == PhotoOpener::Use::List)
+        return model_->append(photos);
+    if (batch.use != PhotoOpener::Use::Added)
         return appendOfList(batch);
     if (batch.isFirst)
         Q_EMIT actBegins();
-    act(add_, [&] { model_->add(batch.photos, batch.isFirst); });
+    act(add_, [&] { model_->add(photos, batch.isFirst); });
+}
+
+void PhotoPane::askPassword(const QString &path, bool isRefused)
+{
+    auto *prompt = new PasswordPrompt(path, isRefused, window());
+    connect(prompt, &QDialog::finished, opener_, [opener = opener_, prompt](int result) {
+        result == QDialog::Accepted ? opener->unlock(prompt->password()) : opener->leaveOut();
+    });
+    prompt->open();
 }
 
 QString PhotoPane::failureText(const QStringList &sentences)
@@ -221,12 +239,12 @@ QString PhotoPane::whyNotPrintable() const
 
 bool PhotoPane::finishTyping()
 {
-    return print_->finish();
+    return print_->finish() && pages_->finish();
 }
 
 QList<QWidget *> PhotoPane::fields() const
 {
-    return QList<QWidget *>{preview_, add_} + print_->fields() + layout_->fields();
+    return QList<QWidget *>{preview_, add_} + print_->fields() + layout_->fields() + pages_->fields();
 }
 
 bool PhotoPane::isReady() const
@@ -244,7 +262,10 @@ void PhotoPane::browse()
 {
     const PlacedPhoto *current = model_->currentPhoto();
     const QString folder = current ? QFileInfo(current->photo.path()).path() : QString();
-    const QStringList paths = QFileDialog::getOpenFileNames(this, tr("Add Photos"), folder);
+    const QString filters = tr("Photos and documents") + QLatin1String(" (*);;") + tr("PDF documents") +
+                            QLatin1String(" (*.pdf *.PDF)");
+    const QStringList paths =
+        QFileDialog::getOpenFileNames(this, tr("Add Photos or Documents"), folder, filters);
     if (!paths.isEmpty())
         addFiles(paths);
 }
@@ -267,6 +288,10 @@ void PhotoPane::showSheet()
                        : preview_->setSheet({}, -1);
     }
     const QList<LaidSheet> &sheets = plan_.sheets();
+    if (plan_.sheetWith(model_->current()) < 0) // a page that is not printed
+        return preview_->setSheet(
+            Arrangement{{*current}}.sheet(Arrangement{{*current}}.plan(page_).sheets().constFirst()), 0,
+            current->placement);
     const auto placeOn = [this](const LaidSheet &sheet) {
         const auto laid = std::ranges::find(sheet.photos, qsizetype(model_->current()), &LaidPhoto::item);
         return laid == sheet.photos.end() ? -1 : laid - sheet.photos.begin();
@@ -287,15 +312,15 @@ void PhotoPane::pickSheet(int number)
 
 void PhotoPane::showControls()
 {
+    model_->setPagesTogether(!isTableWanted());
     placement_->showPhotos(*model_);
     print_->showPhotos(*model_);
-    layout_->showLayout(arrangement().layout);
+    showPageControls();
     // Sheets can be chosen, and a folder be watched, without a photo.
     print_->setEnabled(model_->count() > 0);
     remove_->setEnabled(model_->count() > 0);
-    // A single photo needs no table, and no thumbnail.
-    table_->setVisible(model_->count() > 1);
-    grip_->setVisible(model_->count() > 1);
+    table_->setVisible(isTableWanted());
+    grip_->setVisible(isTableWanted());
 }
 
 void PhotoPane::updatePlan()
@@ -306,7 +331,7 @@ void PhotoPane::updatePlan()
         planned.photos.isEmpty() || (arrangement().layout == SheetLayout() && model_->count() == 1);
     QString note = whyNotPrintable();
     if (note.isEmpty() && !isUsual && !isPlacedByPrinter_)
-        note = tr("Sheets: %1").arg(QLocale().toString(plan_.paperCount()));
+        note = sheetsText(planned);
     planNote_->setText(note);
     planNote_->setVisible(!note.isEmpty());
     Q_EMIT planChanged();
@@ -319,10 +344,9 @@ void PhotoPane::showCaption()
     QStringList lines;
     if (const PlacedPhoto *current = model_->currentPhoto()) {
         const Photo &photo = current->photo;
-        const QString name = plainText(photo.fileName(), shownTextLimit);
-        lines += model_->count() == 1
-                     ? name
-                     : tr("%1 (%2 of %3)").arg(name).arg(model_->current() + 1).arg(model_->count());
+        lines += nameText();
+        if (photo.document() && !arrangement().pages.contains(photo.page() + 1))
+            lines += tr("This page is not printed.");
         if (photo.isChecked() && photo.damage())
             lines += tr("Damaged: a part of the picture is missing or wrong.");
         if (isPlacedByPrinter_)

@@ -24,6 +24,7 @@ namespace printdialog {
 
 class HeightGrip;
 class LayoutBar;
+class PageBar;
 class PhotoTable;
 class PlacementBar;
 class PreviewBar;
@@ -54,13 +55,17 @@ public:
     /// Sets the initial photos, all with the same placement; later ones are placed like the current one.
     /// Further initial photos are opened, and appended.
     void setPhotos(const QList<Photo> &photos, const ArrangementStyle &style,
-                   const QStringList &furtherPaths = {});
+                   const QStringList &furtherPaths = {}, const PageChoice &pages = {});
     /// Whether files are still being opened.
     bool isOpening() const { return opener_->isBusy(); }
     /// The sentences about files that cannot be printed, or the first ones and the number of the others.
     static QString failureText(const QStringList &sentences);
     /// Sets the initial photos, each as it is wanted.
-    void setArrangement(const Arrangement &arrangement);
+    /// @param locked those that need a password, which follow once it is given
+    void setArrangement(const Arrangement &arrangement, const QList<PrintList::Entry> &locked = {});
+    /// Offers the choice of pages and the layouts of documents without one: a program brings its pages
+    /// afterwards. See PageBar::setOffered().
+    void offerPages(bool hasCurrent, bool hasSelection);
     /// Shows the empty page with a text, where there are no photos and none can be added.
     void awaitPages(const QString &text);
     const QList<PlacedPhoto> &photos() const { return model_->photos(); }
@@ -105,8 +110,10 @@ public:
 Q_SIGNALS:
     /// Photos were added, removed or moved, or another one is current, or the last file was opened.
     void photosChanged();
-    /// A photo's placement has changed, or how the photos share sheets.
+    /// A photo's placement has changed, how the photos share sheets, or which pages are printed.
     void placementChanged();
+    /// The user has chosen the layout of a booklet; acted() follows.
+    void bookletChosen();
     /// The sheets are others, or whyNotPrintable() is.
     void planChanged();
     /// The user begins something of which more may follow.
@@ -134,6 +141,7 @@ private:
     void browse();
     void append(const PhotoOpener::Batch &batch);
     void appendOfList(const PhotoOpener::Batch &batch);
+    void askPassword(const QString &path, bool isRefused);
     void browseList();
     void saveListTo(const QString &path);
     void check(const Photo &photo);
@@ -141,6 +149,11 @@ private:
     void showSheet();
     void pickSheet(int number);
     void showControls();
+    void showPageControls();
+    void chooseLayout(const SheetLayout &layout);
+    bool isTableWanted() const;
+    QString sheetsText(const Arrangement &planned) const;
+    QString nameText() const;
     void showCaption();
     void updatePlan();
     void showMenu(const QPoint &globalPosition);
@@ -151,19 +164,19 @@ private:
     PreviewWidget *preview_;
     PreviewBar *bar_;
     PlacementBar *placement_;
-    QWidget *more_; ///< the controls that are shown on demand
+    PageBar *pages_;
     PrintBar *print_;
     LayoutBar *layout_;
     WatchBar *watch_;
     QLabel *planNote_;
     QLabel *caption_;
+    QPushButton *eachPage_; ///< shows the table of a document's pages
     QPushButton *add_;
     QPushButton *remove_;
     PhotoTable *table_;
     HeightGrip *grip_;
     PhotoOpener *opener_;
-    QList<PrintList> lists_;     ///< whose photos are being opened; those of the first one are under way
-    bool hasListPhotos_ = false; ///< of the first one
+    bool hasListPhotos_ = false; ///< of a list that is being opened
     PageGeometry page_;
     SheetPlan plan_;
     qsizetype sheet_ = 0; ///< the one that is shown
@@ -171,6 +184,8 @@ private:
     QByteArray screenProfile_; ///< of the screen that shows the window
     QByteArray paperProfile_;
     bool isPlacedByPrinter_ = false;
+    bool isMoreWanted_ = false;
+    bool arePagesOffered_ = false;
 };
 
 } // namespace printdialog

@@ -37,36 +37,29 @@ void PhotoPane::openList(const QString &path)
         return Q_EMIT failed(PhotoOpener::Use::List, {list.failure().text});
     if (list->photos.isEmpty()) {
         Q_EMIT failed(PhotoOpener::Use::List,
-                      {tr("The print list \"%1\" has no photos.").arg(QFileInfo(path).fileName())});
+                      {tr("The print list \"%1\" is empty.").arg(QFileInfo(path).fileName())});
         return;
     }
-    QStringList paths;
-    for (const PrintList::Entry &entry : list->photos)
-        paths += entry.path;
-    lists_.append(*list);
-    opener_->open(paths, PhotoOpener::Use::List);
+    opener_->open(*list, PhotoOpener::Use::List);
 }
 
-/// The photos come in the order of the list's; those that cannot be opened are missing.
+/// What cannot be opened is missing.
 void PhotoPane::appendOfList(const PhotoOpener::Batch &batch)
 {
-    PrintList &list = lists_.first();
-    QList<PlacedPhoto> placed;
-    for (const Photo &photo : batch.photos) {
-        while (list.photos.constFirst().path != photo.path())
-            list.photos.removeFirst();
-        const PrintList::Entry entry = list.photos.takeFirst();
-        placed.append({photo, entry.placement, false, entry.copies});
-    }
     hasListPhotos_ = true;
     if (batch.isFirst)
         Q_EMIT actBegins();
-    act(add_, [&] { batch.isFirst ? model_->replace({placed, list.layout}) : model_->follow(placed); });
+    act(add_, [&] {
+        if (batch.isFirst && batch.use == PhotoOpener::Use::List)
+            model_->replace({batch.photos, batch.layout, batch.pages});
+        else
+            model_->follow(batch.photos);
+    });
 }
 
 void PhotoPane::saveList()
 {
-    QFileDialog *dialog = listDialog(tr("Save the Photos as a Print List"), this);
+    QFileDialog *dialog = listDialog(tr("Save a Print List"), this);
     dialog->setAcceptMode(QFileDialog::AcceptSave);
     connect(dialog, &QFileDialog::fileSelected, this, &PhotoPane::saveListTo);
     dialog->show();

@@ -3,6 +3,7 @@
 
 #include "HeightGrip.h"
 #include "LayoutBar.h"
+#include "PageBar.h"
 #include "PhotoPane.h"
 #include "PhotoTable.h"
 #include "PlacementBar.h"
@@ -36,8 +37,8 @@ void PhotoPane::nameWidgets()
     preview_->setObjectName(QStringLiteral("preview"));
     table_->setObjectName(QStringLiteral("photoTable"));
     grip_->setObjectName(QStringLiteral("tableGrip"));
-    grip_->setAccessibleName(tr("Height of the table of photos"));
-    grip_->setToolTip(tr("Drag to see more or fewer photos"));
+    grip_->setAccessibleName(tr("Height of the table"));
+    grip_->setToolTip(tr("Drag to see more or fewer pictures"));
     for (QLabel *label : {planNote_, caption_}) {
         label->setTextFormat(Qt::PlainText);
         label->setWordWrap(true);
@@ -47,25 +48,27 @@ void PhotoPane::nameWidgets()
     caption_->setObjectName(QStringLiteral("photoLabel"));
     add_->setObjectName(QStringLiteral("addPhoto"));
     add_->setAutoDefault(false);
-    add_->setToolTip(tr("Add photos to this job; they can be dropped on the window as well"));
+    add_->setToolTip(
+        tr("Add photos and PDF documents to this job; they can be dropped on the window as well"));
     remove_->setObjectName(QStringLiteral("removePhoto"));
     remove_->setAutoDefault(false);
-    remove_->setToolTip(tr("Take the selected photos out of this job; their files stay"));
-    for (QPushButton *button : {add_, remove_})
+    remove_->setToolTip(tr("Take what is selected out of this job; the files stay"));
+    eachPage_->setObjectName(QStringLiteral("eachPage"));
+    eachPage_->setAutoDefault(false);
+    eachPage_->setCheckable(true);
+    eachPage_->setToolTip(
+        tr("Show the pages as a table, in which they are moved, removed and placed one by one; "
+           "otherwise what is chosen holds for all of them"));
+    for (QPushButton *button : {add_, remove_, eachPage_})
         button->setAccessibleDescription(button->toolTip());
 }
 
 void PhotoPane::layOut()
 {
-    auto *moreLayout = new QVBoxLayout(more_);
-    moreLayout->setContentsMargins({});
-    moreLayout->addWidget(print_);
-    moreLayout->addWidget(layout_);
-    moreLayout->addWidget(watch_);
-    more_->hide();
     auto *row = new WrappingRow;
     row->addWidget(caption_);
     auto *buttons = new QHBoxLayout;
+    buttons->addWidget(eachPage_);
     buttons->addWidget(add_);
     buttons->addWidget(remove_);
     row->addItem(buttons);
@@ -74,7 +77,10 @@ void PhotoPane::layOut()
     layout->addWidget(preview_, 1);
     layout->addWidget(bar_);
     layout->addWidget(placement_);
-    layout->addWidget(more_);
+    layout->addWidget(pages_);
+    layout->addWidget(print_);
+    layout->addWidget(layout_);
+    layout->addWidget(watch_);
     layout->addWidget(planNote_);
     layout->addLayout(row);
     layout->addWidget(grip_);
@@ -94,25 +100,33 @@ void PhotoPane::connectControls()
     connect(bar_, &PreviewBar::proofingChanged, this, &PhotoPane::showColors);
     connect(screens_, &ScreenProfiles::changed, this, &PhotoPane::followScreen);
     connect(placement_, &PlacementBar::edited, this, editSelected);
-    connect(placement_, &PlacementBar::moreWanted, more_, &QWidget::setVisible);
+    connect(placement_, &PlacementBar::moreWanted, this, [this](bool isWanted) {
+        isMoreWanted_ = isWanted;
+        showControls();
+    });
+    connect(pages_, &PageBar::pagesChosen, this, [this](const PageChoice &pages, QWidget *control) {
+        act(control, [this, &pages] { model_->setPages(pages); });
+    });
+    connect(pages_, &PageBar::refused, this, &PhotoPane::refused);
+    connect(eachPage_, &QPushButton::toggled, this, &PhotoPane::showControls);
     connect(print_, &PrintBar::edited, this, editSelected);
     connect(print_, &PrintBar::allWanted, this, [this] { act(print_, [this] { model_->applyToAll(); }); });
     connect(print_, &PrintBar::refused, this, &PhotoPane::refused);
     connect(layout_, &LayoutBar::layoutChosen, this, [this](const SheetLayout &layout, QWidget *control) {
-        act(control, [this, &layout] { model_->setLayout(layout); });
+        act(control, [this, &layout] { chooseLayout(layout); });
     });
     connect(opener_, &PhotoOpener::opened, this, &PhotoPane::append);
     // After the photos, since these are what the user sees first.
     connect(opener_, &PhotoOpener::finished, this, [this](PhotoOpener::Use use, const QStringList &failures) {
-        if (use == PhotoOpener::Use::List) {
-            lists_.removeFirst();
-            if (std::exchange(hasListPhotos_, false))
-                model_->keep(arrangement());
-        }
+        const bool isOfList = use == PhotoOpener::Use::List || use == PhotoOpener::Use::RestOfList;
+        if (isOfList && std::exchange(hasListPhotos_, false))
+            model_->keep(arrangement());
         Q_EMIT photosChanged();
         if (!failures.isEmpty())
             Q_EMIT failed(use, failures);
     });
+    connect(opener_, &PhotoOpener::paused, this, &PhotoPane::photosChanged);
+    connect(opener_, &PhotoOpener::passwordWanted, this, &PhotoPane::askPassword);
     connect(add_, &QPushButton::clicked, this, &PhotoPane::browse);
     connect(remove_, &QPushButton::clicked, this,
             [this] { act(remove_, [this] { model_->removeSelected(); }); });

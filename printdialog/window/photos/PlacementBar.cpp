@@ -36,7 +36,7 @@ PlacementBar::PlacementBar(QWidget *parent)
     label->setBuddy(scaling_);
     scaling_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     scaling_->setObjectName(QStringLiteral("scaling"));
-    scaling_->setAccessibleName(tr("Placement of the photo"));
+    scaling_->setAccessibleName(tr("Placement on the paper"));
     scaling_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     scaling_->setMinimumContentsLength(shortestScaling);
     scaling_->setPlaceholderText(severalText());
@@ -44,7 +44,7 @@ PlacementBar::PlacementBar(QWidget *parent)
         scaling_->addItem(scalingText(scaling), static_cast<int>(scaling));
     turn_->setObjectName(QStringLiteral("turn"));
     turn_->setAutoDefault(false);
-    turnHint_ = tr("Turn the photo on the page by a quarter, clockwise");
+    turnHint_ = tr("Turn the photo or page by a quarter, clockwise");
     more_->setObjectName(QStringLiteral("more"));
     more_->setText(tr("More"));
     more_->setCheckable(true);

@@ -21,10 +21,20 @@ struct Text
     Q_DECLARE_TR_FUNCTIONS(PlacementText)
 };
 
-} // namespace
+/// The size of the page itself, and how much larger it is printed.
+QStringList pageParts(const Document &document, int page, const PhotoPlacement &placement)
+{
+    constexpr double percent = 100;
+    const QSizeF size = document.pageSize(page);
+    const auto longer = [](const QSizeF &sides) {
+        return std::max(sides.width(), sides.height());
+    };
+    const double scale = longer(placement.target.size()) / longer(size);
+    return {Text::tr("Page of %1", "and its size").arg(localSizeText(size)),
+            Text::tr("printed at %1 %").arg(QLocale().toString(scale * percent, 'f', 0))};
+}
 
-QString placementText(const Photo &photo, const PhotoPlacement &placement, const PlacementChoice &choice,
-                      const PageGeometry &page)
+QStringList photoParts(const Photo &photo, const PhotoPlacement &placement, const PlacementChoice &choice)
 {
     const QLocale locale;
     const bool usesInches = locale.measurementSystem() == QLocale::ImperialUSSystem;
@@ -44,6 +54,16 @@ QString placementText(const Photo &photo, const PhotoPlacement &placement, const
     parts += choice.scaling == Scaling::ActualSize && !photo.resolution()
                  ? Text::tr("%1 pixels per inch (the file names none)").arg(perInch)
                  : Text::tr("%1 pixels per inch").arg(perInch);
+    return parts;
+}
+
+} // namespace
+
+QString placementText(const Photo &photo, const PhotoPlacement &placement, const PlacementChoice &choice,
+                      const PageGeometry &page)
+{
+    QStringList parts = photo.document() ? pageParts(*photo.document(), photo.page(), placement)
+                                         : photoParts(photo, placement, choice);
     if (const double cutOff = placement.cutOff(page); cutOff >= 0.001)
         parts += Text::tr("%1 % cut off").arg(std::ceil(cutOff * 100));
     for (QString &part : parts)

@@ -16,8 +16,11 @@ namespace printdialog {
 QString PreviewWidget::text() const
 {
     if (photo().storedSize().isEmpty())
-        return emptyText_.isEmpty() ? tr("No photo. Drop photos here, or press Add.") : emptyText_;
-    return detail_.at(current_).isUnreadable() ? tr("This photo cannot be shown") : QString();
+        return emptyText_.isEmpty() ? tr("Nothing to print. Drop photos or PDF documents here, or press Add.")
+                                    : emptyText_;
+    if (!detail_.at(current_).isUnreadable())
+        return {};
+    return photo().document() ? tr("This page cannot be shown") : tr("This photo cannot be shown");
 }
 
 QString PreviewWidget::bleedText() const
@@ -46,24 +49,32 @@ QString PreviewWidget::rulerText() const
 /// Updates the texts for screen readers.
 void PreviewWidget::describe()
 {
-    setAccessibleName(photo().storedSize().isEmpty()
-                          ? tr("Preview of the page")
-                          : tr("Preview of %1").arg(plainText(photo().fileName())));
+    setAccessibleName(photo().storedSize().isEmpty() ? tr("Preview of the page")
+                                                     : tr("Preview of %1").arg(plainText(photo().name())));
     const auto place = placement();
     const double cutOff = place ? place->cutOff(page_) : 0;
+    const bool isPage = photo().document();
     QStringList sentences;
     if (sheetCount_ > 1)
         sentences += tr("Sheet %1 of %2.").arg(sheetNumber_ + 1).arg(sheetCount_);
     if (isShared() && place)
-        sentences += tr("Photo %1 of %2 on the sheet.").arg(current_ + 1).arg(sheet_.photos.size());
-    if (place)
-        sentences += cutOff < 0.001 ? tr("The whole photo is printed.")
-                                    : tr("%1 % of the photo is cut off.").arg(std::ceil(cutOff * 100));
+        sentences += (isPage ? tr("Page %1 of %2 on the sheet.") : tr("Photo %1 of %2 on the sheet."))
+                         .arg(current_ + 1)
+                         .arg(sheet_.photos.size());
+    if (place && cutOff < 0.001)
+        sentences += isPage ? tr("The whole page is printed.") : tr("The whole photo is printed.");
+    else if (place)
+        sentences += (isPage ? tr("%1 % of the page is cut off.") : tr("%1 % of the photo is cut off."))
+                         .arg(std::ceil(cutOff * 100));
     const QString hint =
         zoom_ && place ? tr("Drag it, or press the arrow keys, to see another part; 0 shows the entire page.")
-        : isMovable() ? tr("Drag the photo, or press the arrow keys, to move it; Home puts it in the middle.")
-        : isShared()  ? tr("Click on a photo to change how it is printed.")
-                      : QString();
+        : isMovable()
+            ? (isPage
+                   ? tr("Drag the page, or press the arrow keys, to move it; Home puts it in the middle.")
+                   : tr("Drag the photo, or press the arrow keys, to move it; Home puts it in the middle."))
+        : isShared() ? (isPage ? tr("Click on a page to change how it is printed.")
+                               : tr("Click on a photo to change how it is printed."))
+                     : QString();
     if (!hint.isEmpty())
         sentences += hint;
     if (isDivided_ && place)

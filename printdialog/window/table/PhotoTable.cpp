@@ -4,6 +4,7 @@
 #include "PhotoTable.h"
 
 #include "ArrangementModel.h"
+#include "ArrangementText.h"
 #include "PhotoTableDelegate.h"
 #include "PhotoTableModel.h"
 #include "PhotoThumbnails.h"
@@ -42,7 +43,8 @@ PhotoTable::PhotoTable(ArrangementModel *photos, QWidget *parent)
     connect(thumbnails_, &PhotoThumbnails::made, viewport(), qOverload<>(&QWidget::update));
     connect(photos, &ArrangementModel::selectionChanged, this, &PhotoTable::showSelection);
     connect(photos, &ArrangementModel::photosChanged, this, [this] {
-        setAccessibleName(tr("%n photo(s) of this job", nullptr, photos_->count()));
+        setAccessibleName(
+            tr("%1 of this job", "such as: 3 photos and 12 pages").arg(contentText(photos_->arrangement())));
         updateGeometry();
         showSelection();
     });

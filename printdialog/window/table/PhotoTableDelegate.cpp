@@ -16,6 +16,8 @@ namespace printdialog {
 
 namespace {
 
+constexpr double leftOut = 0.4; // the opacity of a page that is not printed
+
 /// Two sheets of different sizes.
 void paintSizeMark(QPainter &painter, const QRect &rect)
 {
@@ -53,12 +55,13 @@ void PhotoTableDelegate::paint(QPainter *painter, const QStyleOptionViewItem &op
     const QRect inner = option.rect.adjusted(padding, padding, -padding, -padding / 2);
     const QRect picture(inner.topLeft(), QSize(inner.width(), pictureSize.height()));
     QPixmap pixmap = thumbnails_->of(placed->photo);
+    painter->save();
+    if (!rows->isPrinted(*placed))
+        painter->setOpacity(leftOut);
     if (!pixmap.isNull()) {
         pixmap.setDevicePixelRatio(painter->device()->devicePixelRatioF());
         style->drawItemPixmap(painter, picture, Qt::AlignCenter, pixmap);
     }
-
-    painter->save();
     const bool isSelected = option.state & QStyle::State_Selected;
     painter->setPen(option.palette.color(isSelected ? QPalette::HighlightedText : QPalette::Text));
     const QRect line(inner.left(), picture.bottom() + 1, inner.width(), option.fontMetrics.height());

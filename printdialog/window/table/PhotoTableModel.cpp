@@ -81,6 +81,11 @@ bool PhotoTableModel::isDamaged(const PlacedPhoto &photo)
     return photo.photo.isChecked() && photo.photo.damage();
 }
 
+bool PhotoTableModel::isPrinted(const PlacedPhoto &photo) const
+{
+    return !photo.photo.document() || photos_->arrangement().pages.contains(photo.photo.page() + 1);
+}
+
 int PhotoTableModel::rowCount(const QModelIndex &parent) const
 {
     return parent.isValid() ? 0 : photos_->count();
@@ -112,7 +117,7 @@ QVariant PhotoTableModel::data(const QModelIndex &index, int role) const
         return {};
     switch (role) {
     case Qt::DisplayRole: // what is found by typing the beginning of a name
-        return plainText(placed->photo.fileName(), nameLimit);
+        return plainText(placed->photo.name(), nameLimit);
     case Qt::ToolTipRole:
         return pdekit::plainToolTip(description(index.row(), *placed));
     case Qt::AccessibleTextRole:
@@ -125,13 +130,15 @@ QVariant PhotoTableModel::data(const QModelIndex &index, int role) const
 QString PhotoTableModel::description(int row, const PlacedPhoto &photo) const
 {
     QStringList parts{tr("%1: %2", "a photo's number and name")
-                          .arg(QString::number(row + 1), plainText(photo.photo.fileName(), nameLimit))};
+                          .arg(QString::number(row + 1), plainText(photo.photo.name(), nameLimit))};
     if (photo.copies > 1)
         parts += tr("%n copies", nullptr, photo.copies);
     if (hasOwnSize(photo))
         parts += photo.placement.size ? photo.placement.size->localText() : tr("whole page");
     if (isDamaged(photo))
         parts += tr("damaged");
+    if (!isPrinted(photo))
+        parts += tr("not printed");
     return parts.join(tr(", ", "between the parts of a list"));
 }
 

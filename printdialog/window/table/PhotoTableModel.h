@@ -29,6 +29,8 @@ public:
     bool isCurrent(const QModelIndex &index) const;
     /// Whether the photo is printed in another size than most.
     bool hasOwnSize(const PlacedPhoto &photo) const;
+    /// Whether it is not a page that the choice of pages leaves out.
+    bool isPrinted(const PlacedPhoto &photo) const;
     /// Whether the photo is known to be damaged.
     static bool isDamaged(const PlacedPhoto &photo);
 

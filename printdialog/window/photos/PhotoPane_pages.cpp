@@ -1,0 +1,89 @@
+// SPDX-FileCopyrightText: Corvel print dialog authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "PhotoPane.h"
+
+#include "ArrangementText.h"
+#include "LayoutBar.h"
+#include "PageBar.h"
+#include "PlainText.h"
+#include "PrintBar.h"
+#include "WatchBar.h"
+
+#include <QtCore/QLocale>
+#include <QtWidgets/QPushButton>
+
+// Pages of documents.
+
+namespace printdialog {
+
+void PhotoPane::offerPages(bool hasCurrent, bool hasSelection)
+{
+    arePagesOffered_ = true;
+    pages_->setOffered(hasCurrent, hasSelection);
+    pages_->setCurrentPage(0);
+    showControls();
+}
+
+void PhotoPane::showPageControls()
+{
+    const qsizetype pages = arrangement().pageCount();
+    const bool hasPages = pages > 1 || arePagesOffered_;
+    if (!arePagesOffered_) {
+        const PlacedPhoto *current = model_->currentPhoto();
+        const bool isPage = current && current->photo.document();
+        pages_->setOffered(isPage || arrangement().pages.which == PageChoice::Which::Current, false);
+        pages_->setCurrentPage(isPage ? current->photo.page() + 1 : 1);
+    }
+    pages_->setChoice(arrangement().pages);
+    pages_->setVisible(hasPages);
+    layout_->setContent(model_->count() > pages || !hasPages, hasPages);
+    layout_->setCompact(!isMoreWanted_);
+    layout_->showLayout(arrangement().layout);
+    layout_->setVisible(isMoreWanted_ || hasPages);
+    print_->setVisible(isMoreWanted_);
+    watch_->setVisible(isMoreWanted_);
+    eachPage_->setVisible(model_->isOneDocument() && pages > 1);
+}
+
+void PhotoPane::chooseLayout(const SheetLayout &layout)
+{
+    const bool isBooklet = layout.kind == SheetLayout::Kind::Booklet;
+    const bool begins = isBooklet && arrangement().layout.kind != layout.kind;
+    model_->setLayout(layout);
+    if (begins)
+        Q_EMIT bookletChosen();
+}
+
+/// A single photo needs no table, and no thumbnail. The pages of a document are turned in the preview.
+bool PhotoPane::isTableWanted() const
+{
+    return model_->count() > 1 && (!model_->isOneDocument() || eachPage_->isChecked());
+}
+
+QString PhotoPane::sheetsText(const Arrangement &planned) const
+{
+    const QString count = QLocale().toString(plan_.paperCount());
+    const QString beyond = pagesBeyondText(planned);
+    const QString sheets = planned.layout.kind == SheetLayout::Kind::Booklet
+                               ? tr("Sides of sheets: %1").arg(count)
+                               : tr("Sheets: %1").arg(count);
+    return beyond.isEmpty() ? sheets : sheets + QLatin1String(". ") + beyond;
+}
+
+/// Of the current photo, and which one of how many it is.
+QString PhotoPane::nameText() const
+{
+    const Photo &photo = model_->currentPhoto()->photo;
+    const QString name = plainText(photo.name(), shownTextLimit);
+    if (model_->count() == 1)
+        return name;
+    if (model_->isOneDocument() && photo.document()->pageCount() == model_->count())
+        return tr("%1, page %2 of %3")
+            .arg(plainText(photo.fileName(), shownTextLimit))
+            .arg(photo.page() + 1)
+            .arg(model_->count());
+    return tr("%1 (%2 of %3)").arg(name).arg(model_->current() + 1).arg(model_->count());
+}
+
+} // namespace printdialog
