@@ -9,6 +9,9 @@
 
 #include <QtCore/QTemporaryDir>
 
+#include <array>
+#include <thread>
+
 using namespace printdialog;
 using namespace pdf_samples;
 using namespace Qt::StringLiterals;
@@ -167,6 +170,37 @@ private Q_SLOTS:
             QVERIFY(image);
             QVERIFY2(at(*image, .75, .5) == color, kind.constData());
         }
+    }
+
+    /// A program that fills in a form may leave it to the viewer to show that.
+    void showsWhatIsFilledIn()
+    {
+        const Document document = opened(withPages(
+            {{"", "/MediaBox [0 0 200 100] /Annots [10 0 R]"}},
+            {"<< /Type /Annot /Subtype /Widget /FT /Tx /T (a) /V (HHHHHHHH) /DA (/F 40 Tf 1 0 0 rg) /F 4 "
+             "/Rect [0 0 200 100] >>",
+             "<< /Type /Font /Subtype /Type1 /BaseFont /Helvetica-Bold >>"},
+            "/AcroForm << /Fields [10 0 R] /NeedAppearances true /DR << /Font << /F 11 0 R >> >> >>"));
+        const auto image = renderPage(document, 0, {400, 200});
+        QVERIFY(image);
+        int inked = 0;
+        for (int x = 0; x < image->width(); ++x)
+            inked += image->pixel(x, image->height() / 2) == red;
+        QVERIFY2(inked > 40, qPrintable(QString::number(inked)));
+    }
+
+    void rendersOnSeveralThreads()
+    {
+        const Document document = opened(withPages({{marks(), "/MediaBox [0 0 200 100]"}}));
+        std::array<std::atomic<bool>, 6> areRight = {};
+        std::vector<std::jthread> threads;
+        for (auto &isRight : areRight)
+            threads.emplace_back([&isRight, document] {
+                const auto image = renderPage(document, 0, {200, 100});
+                isRight = image && image->pixel(10, 90) == red;
+            });
+        threads.clear();
+        QVERIFY(std::ranges::all_of(areRight, [](const auto &isRight) { return isRight.load(); }));
     }
 
     void survivesHostilePages_data()

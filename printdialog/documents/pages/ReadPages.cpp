@@ -34,17 +34,19 @@ std::string titleOf(QPDF &pdf)
     return information.getKey("/Title").getUTF8Value().substr(0, PagesLimits::longestText);
 }
 
-/// Makes the appearances of form fields that are left to the viewer.
-void makeAppearances(QPDF &pdf)
+/// Makes the appearances of form fields that are left to the viewer. Whether there are such.
+bool makeAppearances(QPDF &pdf)
 {
+    bool areMissing = false;
     try {
         QPDFAcroFormDocumentHelper fields(pdf);
-        if (fields.hasAcroForm())
-            fields.generateAppearancesIfNeeded();
+        areMissing = fields.getNeedAppearances();
+        fields.generateAppearancesIfNeeded();
     } catch (const std::runtime_error &) {
         // A broken form: the rest of the document can be printed all the same.
     } catch (const std::logic_error &) {
     }
+    return areMissing;
 }
 
 /// Makes a viewer show the annotations that are printed, and no others. Whether that changes the page.
@@ -61,7 +63,7 @@ bool showPrintedAnnotations(QPDFPageObjectHelper &page)
             annotation.getObjectHandle().replaceKey("/Subtype", QPDFObjectHandle::newName("/Stamp"));
             isChanged = true;
         }
-        if (isPrinted == isShown || kind == "/Link") // viewers show none of those
+        if (isPrinted == isShown || kind == "/Link" || kind == "/Popup") // viewers show none of those
             continue;
         const int right = isPrinted ? flags & ~an_no_view : flags | an_hidden;
         annotation.getObjectHandle().replaceKey("/F", QPDFObjectHandle::newInteger(right));
@@ -70,12 +72,13 @@ bool showPrintedAnnotations(QPDFPageObjectHelper &page)
     return isChanged;
 }
 
-void writeCopy(QPDF &pdf, Pipeline &output)
+void writeCopy(QPDF &pdf, bool hasMadeAppearances, Pipeline &output)
 {
     QPDFWriter writer(pdf);
     writer.setOutputPipeline(&output);
     writer.setPreserveEncryption(false);
-    writer.setStreamDataMode(qpdf_s_preserve);
+    if (!hasMadeAppearances) // libqpdf makes them while it packs streams
+        writer.setStreamDataMode(qpdf_s_preserve);
     writer.setStaticID(true);
     writer.write();
 }
@@ -93,7 +96,7 @@ PagesAnswer readPages(const PagesRequest &request, DocumentBytes document, Pipel
         return answer;
     }
     bool isCopied = request.wantsCopy || pdf->isEncrypted();
-    makeAppearances(*pdf);
+    const bool hasMadeAppearances = makeAppearances(*pdf);
     for (const QPDFObjectHandle &each : pages) {
         QPDFPageObjectHelper page(each);
         answer.pages.push_back(sizeOf(SeenBox::of(page)));
@@ -102,7 +105,7 @@ PagesAnswer readPages(const PagesRequest &request, DocumentBytes document, Pipel
     answer.title = titleOf(*pdf);
     answer.isCopied = isCopied || pdf->anyWarnings();
     if (answer.isCopied)
-        writeCopy(*pdf, output);
+        writeCopy(*pdf, hasMadeAppearances, output);
     answer.outcome = Outcome::Done;
     return answer;
 }
