@@ -70,7 +70,7 @@ private Q_SLOTS:
         const auto ofFile = takeDocument(std::move(file), u"x"_s);
         QVERIFY(ofFile);
         QVERIFY(contentOf(*ofFile) == large);
-        QVERIFY(::write(ofFile->number(), "x", 1) < 0); // sealed
+        QVERIFY(::pwrite(ofFile->number(), "x", 1, 0) < 0); // sealed
 
         auto pipe = pdekit::Pipe::make();
         QVERIFY(pipe);

@@ -271,6 +271,33 @@ private Q_SLOTS:
         QCOMPARE(qRound(answered[u"Height"_s].toDouble()), 297);
     }
 
+    /// In landscape, the page's top is the sheet's left edge.
+    void marginsAreThoseOfTheTurnedPage_data()
+    {
+        using Row = std::tuple<const char *, QString, QString>;
+        addRows<QString, QString>({
+            Row{"upright", u"portrait"_s, u"1 2 3 4"_s},
+            Row{"to the left", u"landscape"_s, u"4 1 2 3"_s},
+            Row{"upside down", u"reverse_portrait"_s, u"3 4 1 2"_s},
+            Row{"to the right", u"reverse_landscape"_s, u"2 3 4 1"_s},
+        });
+    }
+    void marginsAreThoseOfTheTurnedPage()
+    {
+        const auto [orientation, expected] = row<QString, QString>();
+        PageSetup setup = PageSetup::fromDictionary({{u"Orientation"_s, orientation}});
+        const auto points = [](double millimeters) {
+            return millimeters * pointsPerMillimeter;
+        };
+        setup.setPage({QSizeF(points(100), points(150)),
+                       QRectF(QPointF(points(1), points(2)), QPointF(points(97), points(146)))});
+        QStringList margins;
+        for (const double margin :
+             {setup.margins->left(), setup.margins->top(), setup.margins->right(), setup.margins->bottom()})
+            margins += QString::number(margin, 'f', 0);
+        QCOMPARE(margins.join(u' '), expected);
+    }
+
     void theFormatIsOneThatCanBePrinted()
     {
         QCOMPARE(portalFormat(std::nullopt, false), u"pdf"_s);
