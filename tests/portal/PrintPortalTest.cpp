@@ -469,6 +469,23 @@ private Q_SLOTS:
         QCOMPARE(third.exitCode(), 0);
         QVERIFY(!isServed());
     }
+
+    void theProgramEndsWithItsBus()
+    {
+        auto bus = std::make_unique<PrivateBus>();
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(u"DBUS_SESSION_BUS_ADDRESS"_s, bus->start());
+        QProcess program;
+        program.setProcessEnvironment(environment);
+        program.start(QStringLiteral(CORVEL_PORTAL_PROGRAM), {});
+        auto client =
+            QDBusConnection::connectToBus(environment.value(u"DBUS_SESSION_BUS_ADDRESS"_s), u"short"_s);
+        QTRY_VERIFY(client.interface()->isServiceRegistered(PrintPortal::busName()).value());
+        QDBusConnection::disconnectFromBus(u"short"_s);
+        bus.reset();
+        QTRY_COMPARE(program.state(), QProcess::NotRunning);
+        QCOMPARE(program.exitCode(), 0);
+    }
 };
 
 CORVEL_WIDGETS_TEST(PrintPortalTest)
