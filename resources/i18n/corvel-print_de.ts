@@ -771,6 +771,41 @@ Beispiele:
     </message>
 </context>
 <context>
+    <name>IntakeText</name>
+    <message>
+        <source>The program has stopped sending &quot;%1&quot;. Nothing was printed; print again.</source>
+        <translation>Das Programm sendet nichts mehr von „%1“. Gedruckt wurde nichts; drucken Sie noch einmal.</translation>
+    </message>
+    <message>
+        <source>The program sent nothing of &quot;%1&quot;, so nothing was printed.</source>
+        <translation>Das Programm hat von „%1“ nichts gesendet; gedruckt wurde deshalb nichts.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is too large to be printed: a document may have %2. Print fewer pages at a time.</source>
+        <translation>„%1“ ist zu groß zum Drucken: Ein Dokument darf %2 haben. Drucken Sie weniger Seiten auf einmal.</translation>
+    </message>
+    <message>
+        <source>The program sent &quot;%1&quot; in a format that cannot be printed: only PDF and PostScript can.</source>
+        <translation>Das Programm hat „%1“ in einem Format gesendet, das nicht gedruckt werden kann: Das geht nur mit PDF und PostScript.</translation>
+    </message>
+    <message>
+        <source>The program sent &quot;%1&quot; as PostScript, which needs Ghostscript. Install the package ghostscript and print again.</source>
+        <translation>Das Programm hat „%1“ als PostScript gesendet, wofür Ghostscript gebraucht wird. Installieren Sie das Paket ghostscript, und drucken Sie noch einmal.</translation>
+    </message>
+    <message>
+        <source>The program sent &quot;%1&quot; as PostScript that Ghostscript cannot convert, so nothing was printed.</source>
+        <translation>Das Programm hat „%1“ als PostScript gesendet, das Ghostscript nicht umwandeln kann; gedruckt wurde deshalb nichts.</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for &quot;%1&quot;. Close other programs and print again.</source>
+        <translation>Für „%1“ reicht der Speicher nicht. Schließen Sie andere Programme, und drucken Sie noch einmal.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be read from the program, so nothing was printed.</source>
+        <translation>„%1“ kann nicht vom Programm gelesen werden; gedruckt wurde deshalb nichts.</translation>
+    </message>
+</context>
+<context>
     <name>IppOptions</name>
     <message>
         <source>Yes</source>
@@ -1251,6 +1286,18 @@ Beispiele:
     </message>
 </context>
 <context>
+    <name>PortalChoices</name>
+    <message>
+        <source>This printer does not have what the program asks for: %1.</source>
+        <translation>Dieser Drucker hat nicht, was das Programm verlangt: %1.</translation>
+    </message>
+    <message>
+        <source>%1 &quot;%2&quot;</source>
+        <comment>an option and its choice</comment>
+        <translation>%1 „%2“</translation>
+    </message>
+</context>
+<context>
     <name>PortalSwitch</name>
     <message>
         <source>Other programs reach this dialog through %1, which is not installed. Get it with the package %1.</source>
@@ -1691,6 +1738,18 @@ Beispiele:
     <message>
         <source>The name &quot;%1&quot; is too long for a PDF in this folder. Choose a shorter one.</source>
         <translation>Der Name „%1“ ist für ein PDF in diesem Ordner zu lang. Wählen Sie einen kürzeren.</translation>
+    </message>
+</context>
+<context>
+    <name>ProgramName</name>
+    <message>
+        <source>Document</source>
+        <translation>Dokument</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>a program and its document</comment>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>
@@ -2694,6 +2753,21 @@ Beispiele:
     <message>
         <source>The window cannot be seen, because QT_QPA_PLATFORM asks for &quot;%1&quot;. Unset it, or print without a window (--batch).</source>
         <translation>Das Fenster ist nicht zu sehen, weil QT_QPA_PLATFORM „%1“ verlangt. Heben Sie das auf, oder drucken Sie ohne Fenster (--batch).</translation>
+    </message>
+</context>
+<context>
+    <name>corvel-print-portal</name>
+    <message>
+        <source>Shows the print dialog for programs that print through the desktop&apos;s portal. The desktop starts it when it is needed.</source>
+        <translation>Zeigt den Druckdialog für Programme, die über das Portal des Desktops drucken. Der Desktop startet es, wenn es gebraucht wird.</translation>
+    </message>
+    <message>
+        <source>Take over from one that is running.</source>
+        <translation>Löst eines ab, das schon läuft.</translation>
+    </message>
+    <message>
+        <source>Seconds without work until it ends.</source>
+        <translation>Sekunden ohne Arbeit bis zu seinem Ende.</translation>
     </message>
 </context>
 <context>
@@ -4099,6 +4173,21 @@ Beispiele:
     </message>
 </context>
 <context>
+    <name>printdialog::PortalSettings</name>
+    <message>
+        <source>The program&apos;s setting &quot;%1&quot; cannot be used: it is no plain text.</source>
+        <translation>Die Einstellung „%1“ des Programms ist nicht brauchbar: Sie ist kein einfacher Text.</translation>
+    </message>
+    <message>
+        <source>The program&apos;s setting &quot;%1&quot; cannot be used: it is &quot;%2&quot;.</source>
+        <translation>Die Einstellung „%1“ des Programms ist nicht brauchbar: Sie lautet „%2“.</translation>
+    </message>
+    <message>
+        <source>The program has more than %1 settings; the others are left out.</source>
+        <translation>Das Programm hat mehr als %1 Einstellungen; die übrigen sind weggelassen.</translation>
+    </message>
+</context>
+<context>
     <name>printdialog::PresetBar</name>
     <message>
         <source>Preset</source>
@@ -4623,6 +4712,13 @@ Beispiele:
     <message>
         <source>The print list &quot;%1&quot; could not be saved: %2. Choose another folder.</source>
         <translation>Die Druckliste „%1“ konnte nicht gespeichert werden: %2. Wählen Sie einen anderen Ordner.</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::PrintPortal</name>
+    <message>
+        <source>%1 was not printed</source>
+        <translation>%1 wurde nicht gedruckt</translation>
     </message>
 </context>
 <context>

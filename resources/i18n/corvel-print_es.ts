@@ -770,6 +770,41 @@ Ejemplos:
     </message>
 </context>
 <context>
+    <name>IntakeText</name>
+    <message>
+        <source>The program has stopped sending &quot;%1&quot;. Nothing was printed; print again.</source>
+        <translation>El programa ha dejado de enviar «%1». No se ha impreso nada; imprima otra vez.</translation>
+    </message>
+    <message>
+        <source>The program sent nothing of &quot;%1&quot;, so nothing was printed.</source>
+        <translation>El programa no ha enviado nada de «%1», así que no se ha impreso nada.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is too large to be printed: a document may have %2. Print fewer pages at a time.</source>
+        <translation>«%1» es demasiado grande para imprimirse: un documento puede tener %2. Imprima menos páginas cada vez.</translation>
+    </message>
+    <message>
+        <source>The program sent &quot;%1&quot; in a format that cannot be printed: only PDF and PostScript can.</source>
+        <translation>El programa ha enviado «%1» en un formato que no se puede imprimir: solo se pueden PDF y PostScript.</translation>
+    </message>
+    <message>
+        <source>The program sent &quot;%1&quot; as PostScript, which needs Ghostscript. Install the package ghostscript and print again.</source>
+        <translation>El programa ha enviado «%1» como PostScript, para lo que hace falta Ghostscript. Instale el paquete ghostscript e imprima otra vez.</translation>
+    </message>
+    <message>
+        <source>The program sent &quot;%1&quot; as PostScript that Ghostscript cannot convert, so nothing was printed.</source>
+        <translation>El programa ha enviado «%1» como PostScript que Ghostscript no puede convertir, así que no se ha impreso nada.</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for &quot;%1&quot;. Close other programs and print again.</source>
+        <translation>No hay memoria suficiente para «%1». Cierre otros programas e imprima otra vez.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be read from the program, so nothing was printed.</source>
+        <translation>«%1» no se puede leer del programa, así que no se ha impreso nada.</translation>
+    </message>
+</context>
+<context>
     <name>IppOptions</name>
     <message>
         <source>Yes</source>
@@ -1250,6 +1285,18 @@ Ejemplos:
     </message>
 </context>
 <context>
+    <name>PortalChoices</name>
+    <message>
+        <source>This printer does not have what the program asks for: %1.</source>
+        <translation>Esta impresora no tiene lo que pide el programa: %1.</translation>
+    </message>
+    <message>
+        <source>%1 &quot;%2&quot;</source>
+        <comment>an option and its choice</comment>
+        <translation>%1 «%2»</translation>
+    </message>
+</context>
+<context>
     <name>PortalSwitch</name>
     <message>
         <source>Other programs reach this dialog through %1, which is not installed. Get it with the package %1.</source>
@@ -1690,6 +1737,18 @@ Ejemplos:
     <message>
         <source>The name &quot;%1&quot; is too long for a PDF in this folder. Choose a shorter one.</source>
         <translation>El nombre «%1» es demasiado largo para un PDF en esta carpeta. Elija uno más corto.</translation>
+    </message>
+</context>
+<context>
+    <name>ProgramName</name>
+    <message>
+        <source>Document</source>
+        <translation>Documento</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>a program and its document</comment>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>
@@ -2693,6 +2752,21 @@ Ejemplos:
     <message>
         <source>The window cannot be seen, because QT_QPA_PLATFORM asks for &quot;%1&quot;. Unset it, or print without a window (--batch).</source>
         <translation>La ventana no se puede ver, porque QT_QPA_PLATFORM pide «%1». Quite esa variable o imprima sin ventana (--batch).</translation>
+    </message>
+</context>
+<context>
+    <name>corvel-print-portal</name>
+    <message>
+        <source>Shows the print dialog for programs that print through the desktop&apos;s portal. The desktop starts it when it is needed.</source>
+        <translation>Muestra el diálogo de impresión para los programas que imprimen a través del portal del escritorio. El escritorio lo inicia cuando hace falta.</translation>
+    </message>
+    <message>
+        <source>Take over from one that is running.</source>
+        <translation>Sustituye al que está en marcha.</translation>
+    </message>
+    <message>
+        <source>Seconds without work until it ends.</source>
+        <translation>Segundos sin trabajo hasta que termina.</translation>
     </message>
 </context>
 <context>
@@ -4098,6 +4172,21 @@ Ejemplos:
     </message>
 </context>
 <context>
+    <name>printdialog::PortalSettings</name>
+    <message>
+        <source>The program&apos;s setting &quot;%1&quot; cannot be used: it is no plain text.</source>
+        <translation>El ajuste «%1» del programa no se puede usar: no es texto sencillo.</translation>
+    </message>
+    <message>
+        <source>The program&apos;s setting &quot;%1&quot; cannot be used: it is &quot;%2&quot;.</source>
+        <translation>El ajuste «%1» del programa no se puede usar: es «%2».</translation>
+    </message>
+    <message>
+        <source>The program has more than %1 settings; the others are left out.</source>
+        <translation>El programa tiene más de %1 ajustes; los demás se omiten.</translation>
+    </message>
+</context>
+<context>
     <name>printdialog::PresetBar</name>
     <message>
         <source>Preset</source>
@@ -4622,6 +4711,13 @@ Ejemplos:
     <message>
         <source>The print list &quot;%1&quot; could not be saved: %2. Choose another folder.</source>
         <translation>No se pudo guardar la lista de impresión «%1»: %2. Elija otra carpeta.</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::PrintPortal</name>
+    <message>
+        <source>%1 was not printed</source>
+        <translation>%1 no se ha impreso</translation>
     </message>
 </context>
 <context>

@@ -772,6 +772,41 @@ Exemples&#x202f;:
     </message>
 </context>
 <context>
+    <name>IntakeText</name>
+    <message>
+        <source>The program has stopped sending &quot;%1&quot;. Nothing was printed; print again.</source>
+        <translation>Le programme n’envoie plus rien de « %1 ». Rien n’a été imprimé ; imprimez à nouveau.</translation>
+    </message>
+    <message>
+        <source>The program sent nothing of &quot;%1&quot;, so nothing was printed.</source>
+        <translation>Le programme n’a rien envoyé de « %1 » : rien n’a donc été imprimé.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is too large to be printed: a document may have %2. Print fewer pages at a time.</source>
+        <translation>« %1 » est trop volumineux pour être imprimé : un document peut avoir %2. Imprimez moins de pages à la fois.</translation>
+    </message>
+    <message>
+        <source>The program sent &quot;%1&quot; in a format that cannot be printed: only PDF and PostScript can.</source>
+        <translation>Le programme a envoyé « %1 » dans un format qui ne peut pas être imprimé : seuls PDF et PostScript le peuvent.</translation>
+    </message>
+    <message>
+        <source>The program sent &quot;%1&quot; as PostScript, which needs Ghostscript. Install the package ghostscript and print again.</source>
+        <translation>Le programme a envoyé « %1 » en PostScript, ce qui demande Ghostscript. Installez le paquet ghostscript, puis imprimez à nouveau.</translation>
+    </message>
+    <message>
+        <source>The program sent &quot;%1&quot; as PostScript that Ghostscript cannot convert, so nothing was printed.</source>
+        <translation>Le programme a envoyé « %1 » dans un PostScript que Ghostscript ne peut pas convertir : rien n’a donc été imprimé.</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for &quot;%1&quot;. Close other programs and print again.</source>
+        <translation>La mémoire ne suffit pas pour « %1 ». Fermez d’autres programmes, puis imprimez à nouveau.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be read from the program, so nothing was printed.</source>
+        <translation>« %1 » ne peut pas être lu depuis le programme : rien n’a donc été imprimé.</translation>
+    </message>
+</context>
+<context>
     <name>IppOptions</name>
     <message>
         <source>Yes</source>
@@ -1252,6 +1287,18 @@ Exemples&#x202f;:
     </message>
 </context>
 <context>
+    <name>PortalChoices</name>
+    <message>
+        <source>This printer does not have what the program asks for: %1.</source>
+        <translation>Cette imprimante n’a pas ce que le programme demande : %1.</translation>
+    </message>
+    <message>
+        <source>%1 &quot;%2&quot;</source>
+        <comment>an option and its choice</comment>
+        <translation>%1 « %2 »</translation>
+    </message>
+</context>
+<context>
     <name>PortalSwitch</name>
     <message>
         <source>Other programs reach this dialog through %1, which is not installed. Get it with the package %1.</source>
@@ -1692,6 +1739,18 @@ Exemples&#x202f;:
     <message>
         <source>The name &quot;%1&quot; is too long for a PDF in this folder. Choose a shorter one.</source>
         <translation>Le nom «&#x202f;%1&#x202f;» est trop long pour un PDF dans ce dossier. Choisissez-en un plus court.</translation>
+    </message>
+</context>
+<context>
+    <name>ProgramName</name>
+    <message>
+        <source>Document</source>
+        <translation>Document</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>a program and its document</comment>
+        <translation>%1 : %2</translation>
     </message>
 </context>
 <context>
@@ -2695,6 +2754,21 @@ Exemples&#x202f;:
     <message>
         <source>The window cannot be seen, because QT_QPA_PLATFORM asks for &quot;%1&quot;. Unset it, or print without a window (--batch).</source>
         <translation>La fenêtre ne peut pas être vue, car QT_QPA_PLATFORM demande «&#x202f;%1&#x202f;». Supprimez cette variable, ou imprimez sans fenêtre (--batch).</translation>
+    </message>
+</context>
+<context>
+    <name>corvel-print-portal</name>
+    <message>
+        <source>Shows the print dialog for programs that print through the desktop&apos;s portal. The desktop starts it when it is needed.</source>
+        <translation>Affiche le dialogue d’impression pour les programmes qui impriment par le portail du bureau. Le bureau le démarre au besoin.</translation>
+    </message>
+    <message>
+        <source>Take over from one that is running.</source>
+        <translation>Prend la place de celui qui est en cours.</translation>
+    </message>
+    <message>
+        <source>Seconds without work until it ends.</source>
+        <translation>Secondes sans travail avant qu’il se termine.</translation>
     </message>
 </context>
 <context>
@@ -4100,6 +4174,21 @@ Exemples&#x202f;:
     </message>
 </context>
 <context>
+    <name>printdialog::PortalSettings</name>
+    <message>
+        <source>The program&apos;s setting &quot;%1&quot; cannot be used: it is no plain text.</source>
+        <translation>Le réglage « %1 » du programme est inutilisable : ce n’est pas du texte simple.</translation>
+    </message>
+    <message>
+        <source>The program&apos;s setting &quot;%1&quot; cannot be used: it is &quot;%2&quot;.</source>
+        <translation>Le réglage « %1 » du programme est inutilisable : il vaut « %2 ».</translation>
+    </message>
+    <message>
+        <source>The program has more than %1 settings; the others are left out.</source>
+        <translation>Le programme a plus de %1 réglages ; les autres sont laissés de côté.</translation>
+    </message>
+</context>
+<context>
     <name>printdialog::PresetBar</name>
     <message>
         <source>Preset</source>
@@ -4624,6 +4713,13 @@ Exemples&#x202f;:
     <message>
         <source>The print list &quot;%1&quot; could not be saved: %2. Choose another folder.</source>
         <translation>La liste d’impression «&#x202f;%1&#x202f;» n’a pas pu être enregistrée&#x202f;: %2. Choisissez un autre dossier.</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::PrintPortal</name>
+    <message>
+        <source>%1 was not printed</source>
+        <translation>%1 n’a pas été imprimé</translation>
     </message>
 </context>
 <context>

@@ -765,6 +765,41 @@ Examples:
     </message>
 </context>
 <context>
+    <name>IntakeText</name>
+    <message>
+        <source>The program has stopped sending &quot;%1&quot;. Nothing was printed; print again.</source>
+        <translation>プログラムから「%1」が届かなくなりました。何も印刷されていません。もう一度印刷してください。</translation>
+    </message>
+    <message>
+        <source>The program sent nothing of &quot;%1&quot;, so nothing was printed.</source>
+        <translation>プログラムから「%1」の内容が届かなかったため、何も印刷されていません。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is too large to be printed: a document may have %2. Print fewer pages at a time.</source>
+        <translation>「%1」は大きすぎて印刷できません。文書の上限は %2 です。一度に印刷するページを減らしてください。</translation>
+    </message>
+    <message>
+        <source>The program sent &quot;%1&quot; in a format that cannot be printed: only PDF and PostScript can.</source>
+        <translation>プログラムから届いた「%1」は印刷できない形式です。印刷できるのは PDF と PostScript だけです。</translation>
+    </message>
+    <message>
+        <source>The program sent &quot;%1&quot; as PostScript, which needs Ghostscript. Install the package ghostscript and print again.</source>
+        <translation>プログラムから「%1」が PostScript で届きましたが、これには Ghostscript が必要です。パッケージ ghostscript をインストールして、もう一度印刷してください。</translation>
+    </message>
+    <message>
+        <source>The program sent &quot;%1&quot; as PostScript that Ghostscript cannot convert, so nothing was printed.</source>
+        <translation>プログラムから届いた「%1」の PostScript を Ghostscript で変換できないため、何も印刷されていません。</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for &quot;%1&quot;. Close other programs and print again.</source>
+        <translation>「%1」のためのメモリーが足りません。ほかのプログラムを閉じて、もう一度印刷してください。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be read from the program, so nothing was printed.</source>
+        <translation>プログラムから「%1」を読み取れないため、何も印刷されていません。</translation>
+    </message>
+</context>
+<context>
     <name>IppOptions</name>
     <message>
         <source>Yes</source>
@@ -1245,6 +1280,18 @@ Examples:
     </message>
 </context>
 <context>
+    <name>PortalChoices</name>
+    <message>
+        <source>This printer does not have what the program asks for: %1.</source>
+        <translation>このプリンターには、プログラムが求める次のものがありません: %1</translation>
+    </message>
+    <message>
+        <source>%1 &quot;%2&quot;</source>
+        <comment>an option and its choice</comment>
+        <translation>%1「%2」</translation>
+    </message>
+</context>
+<context>
     <name>PortalSwitch</name>
     <message>
         <source>Other programs reach this dialog through %1, which is not installed. Get it with the package %1.</source>
@@ -1685,6 +1732,18 @@ Examples:
     <message>
         <source>The name &quot;%1&quot; is too long for a PDF in this folder. Choose a shorter one.</source>
         <translation>「%1」という名前は、このフォルダーの PDF には長すぎます。短い名前を選んでください。</translation>
+    </message>
+</context>
+<context>
+    <name>ProgramName</name>
+    <message>
+        <source>Document</source>
+        <translation>文書</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>a program and its document</comment>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>
@@ -2686,6 +2745,21 @@ Examples:
     <message>
         <source>The window cannot be seen, because QT_QPA_PLATFORM asks for &quot;%1&quot;. Unset it, or print without a window (--batch).</source>
         <translation>QT_QPA_PLATFORM が「%1」を指定しているため、ウィンドウは表示されません。指定を外すか、ウィンドウなし (--batch) で印刷してください。</translation>
+    </message>
+</context>
+<context>
+    <name>corvel-print-portal</name>
+    <message>
+        <source>Shows the print dialog for programs that print through the desktop&apos;s portal. The desktop starts it when it is needed.</source>
+        <translation>デスクトップのポータルを通じて印刷するプログラムのために、印刷ダイアログを表示します。必要なときにデスクトップが起動します。</translation>
+    </message>
+    <message>
+        <source>Take over from one that is running.</source>
+        <translation>実行中のものと交代します。</translation>
+    </message>
+    <message>
+        <source>Seconds without work until it ends.</source>
+        <translation>作業がないときに終了するまでの秒数。</translation>
     </message>
 </context>
 <context>
@@ -4088,6 +4162,21 @@ Examples:
     </message>
 </context>
 <context>
+    <name>printdialog::PortalSettings</name>
+    <message>
+        <source>The program&apos;s setting &quot;%1&quot; cannot be used: it is no plain text.</source>
+        <translation>プログラムの設定「%1」は、単純なテキストではないため使えません。</translation>
+    </message>
+    <message>
+        <source>The program&apos;s setting &quot;%1&quot; cannot be used: it is &quot;%2&quot;.</source>
+        <translation>プログラムの設定「%1」は、値が「%2」のため使えません。</translation>
+    </message>
+    <message>
+        <source>The program has more than %1 settings; the others are left out.</source>
+        <translation>プログラムの設定が %1 件を超えています。残りは省かれます。</translation>
+    </message>
+</context>
+<context>
     <name>printdialog::PresetBar</name>
     <message>
         <source>Preset</source>
@@ -4611,6 +4700,13 @@ Examples:
     <message>
         <source>The print list &quot;%1&quot; could not be saved: %2. Choose another folder.</source>
         <translation>印刷リスト「%1」を保存できませんでした: %2。別のフォルダーを選んでください。</translation>
+    </message>
+</context>
+<context>
+    <name>printdialog::PrintPortal</name>
+    <message>
+        <source>%1 was not printed</source>
+        <translation>%1 は印刷されていません</translation>
     </message>
 </context>
 <context>
