@@ -9,7 +9,7 @@ corvel_build_packages=(
     qt6-base-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools qt6-translations-l10n
     qt6-base-private-dev libqt6opengl6-dev libgl-dev libopengl-dev libvulkan-dev
     libcups2-dev libseccomp-dev liblcms2-dev libheif-dev zlib1g-dev libjpeg-dev libpng-dev libglib2.0-dev
-    libxcb1-dev libxcb-randr0-dev qt6-pdf-dev libqpdf-dev fonts-dejavu-core gzip
+    libxcb1-dev libxcb-randr0-dev libwayland-dev wayland-protocols qt6-pdf-dev libqpdf-dev fonts-dejavu-core gzip
 )
 corvel_test_packages=(
     cups cups-client cups-filters poppler-utils appstream desktop-file-utils bash-completion groff-base

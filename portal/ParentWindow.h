@@ -9,9 +9,9 @@ class QWidget;
 
 namespace printdialog {
 
-/// Makes another program's window the parent of a window that is not shown yet, as far as the platform
-/// allows.
-/// @param identifier "x11:" and the window's number in hexadecimal digits; others are ignored
-void setParentWindow(QWidget *window, const QString &identifier);
+/// Shows a window with another program's window as its parent, as far as the platform allows.
+/// @param identifier "x11:" and the window's number in hexadecimal digits, or "wayland:" and the handle under
+/// which it is exported (xdg-foreign); without a parent for others
+void showWithParent(QWidget *window, const QString &identifier);
 
 } // namespace printdialog

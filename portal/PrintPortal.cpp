@@ -207,8 +207,7 @@ PrintDialog *PrintPortal::openDialog(PortalCall *call, const PortalRequest &requ
     });
     dialog->searchPrinters();
     dialog->restorePlacement({});
-    setParentWindow(dialog, request.parentWindow);
-    dialog->show();
+    showWithParent(dialog, request.parentWindow);
     dialog->raise();
     dialog->activateWindow();
     return dialog;

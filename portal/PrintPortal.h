@@ -29,7 +29,7 @@ struct PortalRequest
 {
     QString handle;       ///< The path of the object by which the call is closed.
     QString program;      ///< The program's id; may be empty.
-    QString parentWindow; ///< See setParentWindow().
+    QString parentWindow; ///< See showWithParent().
     QString title;
     QVariantMap options;
     QDBusMessage message; ///< The call.

@@ -775,35 +775,35 @@ Exemples&#x202f;:
     <name>IntakeText</name>
     <message>
         <source>The program has stopped sending &quot;%1&quot;. Nothing was printed; print again.</source>
-        <translation>Le programme n’envoie plus rien de « %1 ». Rien n’a été imprimé ; imprimez à nouveau.</translation>
+        <translation>Le programme n’envoie plus rien de «&#xa0;%1&#xa0;». Rien n’a été imprimé&#x202f;; imprimez à nouveau.</translation>
     </message>
     <message>
         <source>The program sent nothing of &quot;%1&quot;, so nothing was printed.</source>
-        <translation>Le programme n’a rien envoyé de « %1 » : rien n’a donc été imprimé.</translation>
+        <translation>Le programme n’a rien envoyé de «&#xa0;%1&#xa0;»&#xa0;: rien n’a donc été imprimé.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is too large to be printed: a document may have %2. Print fewer pages at a time.</source>
-        <translation>« %1 » est trop volumineux pour être imprimé : un document peut avoir %2. Imprimez moins de pages à la fois.</translation>
+        <translation>«&#xa0;%1&#xa0;» est trop volumineux pour être imprimé&#xa0;: un document peut avoir %2. Imprimez moins de pages à la fois.</translation>
     </message>
     <message>
         <source>The program sent &quot;%1&quot; in a format that cannot be printed: only PDF and PostScript can.</source>
-        <translation>Le programme a envoyé « %1 » dans un format qui ne peut pas être imprimé : seuls PDF et PostScript le peuvent.</translation>
+        <translation>Le programme a envoyé «&#xa0;%1&#xa0;» dans un format qui ne peut pas être imprimé&#xa0;: seuls PDF et PostScript le peuvent.</translation>
     </message>
     <message>
         <source>The program sent &quot;%1&quot; as PostScript, which needs Ghostscript. Install the package ghostscript and print again.</source>
-        <translation>Le programme a envoyé « %1 » en PostScript, ce qui demande Ghostscript. Installez le paquet ghostscript, puis imprimez à nouveau.</translation>
+        <translation>Le programme a envoyé «&#xa0;%1&#xa0;» en PostScript, ce qui demande Ghostscript. Installez le paquet ghostscript, puis imprimez à nouveau.</translation>
     </message>
     <message>
         <source>The program sent &quot;%1&quot; as PostScript that Ghostscript cannot convert, so nothing was printed.</source>
-        <translation>Le programme a envoyé « %1 » dans un PostScript que Ghostscript ne peut pas convertir : rien n’a donc été imprimé.</translation>
+        <translation>Le programme a envoyé «&#xa0;%1&#xa0;» dans un PostScript que Ghostscript ne peut pas convertir&#xa0;: rien n’a donc été imprimé.</translation>
     </message>
     <message>
         <source>There is not enough memory for &quot;%1&quot;. Close other programs and print again.</source>
-        <translation>La mémoire ne suffit pas pour « %1 ». Fermez d’autres programmes, puis imprimez à nouveau.</translation>
+        <translation>La mémoire ne suffit pas pour «&#xa0;%1&#xa0;». Fermez d’autres programmes, puis imprimez à nouveau.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be read from the program, so nothing was printed.</source>
-        <translation>« %1 » ne peut pas être lu depuis le programme : rien n’a donc été imprimé.</translation>
+        <translation>«&#xa0;%1&#xa0;» ne peut pas être lu depuis le programme&#xa0;: rien n’a donc été imprimé.</translation>
     </message>
 </context>
 <context>
@@ -1290,12 +1290,12 @@ Exemples&#x202f;:
     <name>PortalChoices</name>
     <message>
         <source>This printer does not have what the program asks for: %1.</source>
-        <translation>Cette imprimante n’a pas ce que le programme demande : %1.</translation>
+        <translation>Cette imprimante n’a pas ce que le programme demande&#xa0;: %1.</translation>
     </message>
     <message>
         <source>%1 &quot;%2&quot;</source>
         <comment>an option and its choice</comment>
-        <translation>%1 « %2 »</translation>
+        <translation>%1 «&#xa0;%2&#xa0;»</translation>
     </message>
 </context>
 <context>
@@ -1750,7 +1750,7 @@ Exemples&#x202f;:
     <message>
         <source>%1: %2</source>
         <comment>a program and its document</comment>
-        <translation>%1 : %2</translation>
+        <translation>%1&#xa0;: %2</translation>
     </message>
 </context>
 <context>
@@ -4177,15 +4177,15 @@ Exemples&#x202f;:
     <name>printdialog::PortalSettings</name>
     <message>
         <source>The program&apos;s setting &quot;%1&quot; cannot be used: it is no plain text.</source>
-        <translation>Le réglage « %1 » du programme est inutilisable : ce n’est pas du texte simple.</translation>
+        <translation>Le réglage «&#xa0;%1&#xa0;» du programme est inutilisable&#xa0;: ce n’est pas du texte simple.</translation>
     </message>
     <message>
         <source>The program&apos;s setting &quot;%1&quot; cannot be used: it is &quot;%2&quot;.</source>
-        <translation>Le réglage « %1 » du programme est inutilisable : il vaut « %2 ».</translation>
+        <translation>Le réglage «&#xa0;%1&#xa0;» du programme est inutilisable&#xa0;: il vaut «&#xa0;%2&#xa0;».</translation>
     </message>
     <message>
         <source>The program has more than %1 settings; the others are left out.</source>
-        <translation>Le programme a plus de %1 réglages ; les autres sont laissés de côté.</translation>
+        <translation>Le programme a plus de %1 réglages&#x202f;; les autres sont laissés de côté.</translation>
     </message>
 </context>
 <context>
