@@ -1,7 +1,7 @@
 # SPDX-FileCopyrightText: Corvel print dialog authors
 # SPDX-License-Identifier: Apache-2.0
-"""HardeningTest.py PROGRAM PPD_CHECK PDF_PAGES PDF_VIEW PRINTER_LIST SCREEN_PROFILE KIT MODULE IS_FORTIFIED: what was built,
-as binutils see it."""
+"""HardeningTest.py PROGRAM PORTAL PPD_CHECK PDF_PAGES PDF_VIEW PRINTER_LIST SCREEN_PROFILE KIT MODULE IS_FORTIFIED: what
+was built, as binutils see it."""
 
 import re
 import sys
@@ -9,7 +9,7 @@ import unittest
 
 from commands import CommandTest
 
-PROGRAM, PPD_CHECK, PDF_PAGES, PDF_VIEW, PRINTER_LIST, SCREEN_PROFILE, KIT, MODULE, IS_FORTIFIED = sys.argv[1:]
+PROGRAM, PORTAL, PPD_CHECK, PDF_PAGES, PDF_VIEW, PRINTER_LIST, SCREEN_PROFILE, KIT, MODULE, IS_FORTIFIED = sys.argv[1:]
 
 
 class HardeningTest(CommandTest):
@@ -19,7 +19,7 @@ class HardeningTest(CommandTest):
         return sorted(re.sub(r" [A-Za-z]( [0-9a-f]+){1,2} ?$", "", line) for line in symbols.splitlines())
 
     def test_is_hardened(self):
-        programs = PROGRAM, PPD_CHECK, PDF_PAGES, PDF_VIEW, PRINTER_LIST, SCREEN_PROFILE
+        programs = PROGRAM, PORTAL, PPD_CHECK, PDF_PAGES, PDF_VIEW, PRINTER_LIST, SCREEN_PROFILE
         for file in *programs, KIT, MODULE:
             with self.subTest(file):
                 headers = self.output_of("readelf", "-hdlW", file)
@@ -39,7 +39,8 @@ class HardeningTest(CommandTest):
 
     # A PDF from elsewhere is read by processes without rights only.
     def test_the_dialog_reads_no_pdf(self):
-        self.assertNotRegex(self.output_of("readelf", "-dW", PROGRAM), "NEEDED.*(Pdf|qpdf|seccomp)")
+        for file, readers in (PROGRAM, "Pdf|qpdf|seccomp"), (PORTAL, "Pdf|qpdf"):
+            self.assertNotRegex(self.output_of("readelf", "-dW", file), f"NEEDED.*({readers})")
 
     def test_the_module_exports_its_entry_and_the_record_functions(self):
         self.assertEqual(self.exports(MODULE), [

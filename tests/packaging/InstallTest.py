@@ -72,6 +72,8 @@ class InstallTest(CommandTest):  # in the order of the names
                    for file in (f"{DATADIR}/dbus-1/services/org.freedesktop.impl.portal.desktop.corvel.service",
                                 "lib/systemd/user/corvel-print-portal.service")]
         self.assertEqual(started, [f'"{PREFIX}/{LIBEXECDIR}/corvel-print-portal"'] * 2)
+        self.assertEqual(run(PREFIX / LIBEXECDIR / "corvel-print-portal", "--version"),
+                         (0, f"corvel-print-portal {version}\n"))
         for program in "corvel-printer-list", "corvel-screen-profile":
             self.assertTrue((PREFIX / LIBDIR / "corvel-print" / program).exists(), program)
         # Authors of plug-ins get the headers that they need; the others may change.

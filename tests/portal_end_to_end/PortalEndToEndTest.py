@@ -53,9 +53,7 @@ def rectangle(page):
 class Job:
     """What the printer got."""
 
-    def __init__(self, number):
-        folder = PRINTED / str(number)
-        until(folder.exists, f"job {number}")
+    def __init__(self, folder):
         self.title, self.options, self.copies = ((folder / name).read_text() for name in ("title", "options", "copies"))
         self.document = folder / "document"
         texts = self.output("pdftotext", self.document, "-").decode().split("\f")[:-1]
@@ -81,7 +79,7 @@ class Job:
 
 
 class PortalEndToEndTest(unittest.TestCase):
-    jobs, requests = itertools.count(1), itertools.count()
+    jobs, requests = set(), itertools.count()
 
     @classmethod
     def setUpClass(cls):
@@ -110,7 +108,12 @@ class PortalEndToEndTest(unittest.TestCase):
         return json.loads(line)
 
     def next_job(self):
-        return Job(next(self.jobs))
+        def new_jobs():
+            return {path for path in PRINTED.iterdir() if not path.name.startswith(".")} - self.jobs
+
+        (folder,) = until(new_jobs, f"a job\n{self.desktop.log()}")
+        self.jobs.add(folder)
+        return Job(folder)
 
     def assert_drawn_at(self, found, expected, lost=36 / RESOLUTION):
         """Half a dot may be lost."""
@@ -125,6 +128,7 @@ class PortalEndToEndTest(unittest.TestCase):
 
     def test_prints_what_the_program_draws(self):
         program, dialog = self.program("duplex=horizontal")
+        self.assertIn(self.desktop.parent_of(dialog), self.desktop.xdotool("search", "--name", "^A program$").split())
         self.desktop.press_until_gone(dialog, "Return")
         self.assertEqual(self.result(program)[0], "apply")
         job = self.next_job()
@@ -156,7 +160,7 @@ class PortalEndToEndTest(unittest.TestCase):
             with self.subTest(settings):
                 program, dialog = self.program(*settings)
                 self.desktop.press_until_gone(dialog, "Return")
-                self.result(program)
+                self.assertEqual(self.result(program)[0], "apply")
                 job = self.next_job()
                 self.assertEqual(([" ".join(re.findall("[0-9]", page)) for page in job.pages], job.copies),
                                  (pages, str(copies)))

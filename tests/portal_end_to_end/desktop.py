@@ -2,6 +2,7 @@
 # SPDX-License-Identifier: Apache-2.0
 """A desktop for a test: an X display with a window manager, a session bus with Debian's xdg-desktop-portal, and keys."""
 
+import ctypes
 import os
 import pathlib
 import shutil
@@ -10,6 +11,7 @@ import tempfile
 import time
 
 PORTAL = "/usr/libexec/xdg-desktop-portal"
+PACKAGING = pathlib.Path(__file__).parents[2] / "packaging"
 NAME = "org.freedesktop.impl.portal.desktop.corvel"
 
 
@@ -48,21 +50,36 @@ class Desktop:
         services = self.folder / "data/dbus-1/services"
         for folder in portals, services, self.folder / "run":
             folder.mkdir(mode=0o700, parents=True)
-        (portals / "corvel.portal").write_text(
-            f"[portal]\nDBusName={NAME}\nInterfaces=org.freedesktop.impl.portal.Print;\nUseIn=testing;\n")
-        (services / f"{NAME}.service").write_text(f'[D-BUS Service]\nName={NAME}\nExec="{back_end}"\n')
+        # As they are installed, beside another back end that this desktop is for as well.
+        shutil.copy(PACKAGING / "corvel.portal", portals)
+        (portals / "other.portal").write_text(
+            "[portal]\nDBusName=org.example.None\nInterfaces=org.freedesktop.impl.portal.Print;\nUseIn=lxqt;\n")
+        service = (PACKAGING / f"{NAME}.service.in").read_text().replace("@CORVEL_PORTAL_PROGRAM@", back_end)
+        (services / f"{NAME}.service").write_text(service)
         self.environment = os.environ | {
             "XDG_DATA_HOME": f"{self.folder}/data", "XDG_CONFIG_HOME": f"{self.folder}/config",
             "XDG_CACHE_HOME": f"{self.folder}/cache", "XDG_STATE_HOME": f"{self.folder}/state",
             "XDG_RUNTIME_DIR": f"{self.folder}/run", "XDG_DESKTOP_PORTAL_DIR": f"{portals}",
-            "XDG_CURRENT_DESKTOP": "Testing", "GDK_BACKEND": "x11", "QT_QPA_PLATFORM": "xcb",
+            "XDG_CURRENT_DESKTOP": "LXQt", "GDK_BACKEND": "x11", "QT_QPA_PLATFORM": "xcb",
             "GSETTINGS_BACKEND": "memory", "GIO_USE_VFS": "local", "NO_AT_BRIDGE": "1", "PDEKIT_LOG_STDERR": "1"}
-        self.environment["DISPLAY"] = ":" + self.first_line("Xvfb", "-displayfd", "1", "-screen", "0", "1600x1200x24",
-                                                           "-nolisten", "tcp")
+        self.open_display()
         self.child("openbox", "--sm-disable")
+        until(lambda: self.xdotool("get_desktop"), f"the window manager\n{self.log()}")
         self.environment["DBUS_SESSION_BUS_ADDRESS"] = self.first_line("dbus-daemon", "--session", "--nofork",
                                                                        "--nosyslog", "--print-address=1")
         os.environ["DBUS_SESSION_BUS_ADDRESS"] = self.environment["DBUS_SESSION_BUS_ADDRESS"]
+
+    def open_display(self):
+        """A server that ends can remove the socket of one that starts, which got its number. Then another is started."""
+        self.x = ctypes.CDLL("libX11.so.6")
+        self.x.XOpenDisplay.restype = ctypes.c_void_p
+        for _ in range(5):
+            self.environment["DISPLAY"] = ":" + self.first_line("Xvfb", "-displayfd", "1", "-screen", "0", "1600x1200x24",
+                                                               "-nolisten", "tcp")
+            self.display = ctypes.c_void_p(self.x.XOpenDisplay(self.environment["DISPLAY"].encode()))
+            if self.display:
+                return
+        raise Missing(f"Xvfb takes no connections: {self.log().splitlines()[-1:]}")
 
     def child(self, *command, environment=None, **how):
         with open(self.folder / "log", "ab") as log:
@@ -83,6 +100,8 @@ class Desktop:
         return (self.folder / "log").read_text(errors="replace")
 
     def end(self):
+        if getattr(self, "display", None):
+            self.x.XCloseDisplay(self.display)
         for child in reversed(self.children):
             child.terminate()
         for child in reversed(self.children):
@@ -108,6 +127,12 @@ class Desktop:
     def new_dialog(self, before=frozenset()):
         (dialog,) = until(lambda: self.dialogs() - set(before), f"a dialog\n{self.log()}")
         return dialog
+
+    def parent_of(self, window):
+        """The window that it stays in front of."""
+        parent = ctypes.c_ulong(0)
+        self.x.XGetTransientForHint(self.display, ctypes.c_ulong(int(window)), ctypes.byref(parent))
+        return str(parent.value)
 
     def press(self, dialog, *keys):
         """Presses the keys in the dialog, as a user does."""
