@@ -43,5 +43,8 @@ void benchPhotos();
 /// Hundreds of photos on sheets in one PDF, beside img2pdf and CUPS's own filter.
 void benchSheets();
 
+/// The print portal beside GTK's: from a program's call to the painted dialog.
+void benchPortal();
+
 /// What adjusting the preview's picture takes, beside lcms2's own table.
 void benchAdjustments();

@@ -32,7 +32,7 @@ int main(int argc, char *argv[])
         {"opening", benchOpening},    {"queues", benchQueues},         {"jobs", benchJobs},
         {"panels", benchPanels},      {"optionpage", benchOptionPage}, {"preview", benchPreview},
         {"adjust", benchAdjustments}, {"runner", benchRunner},         {"pdf", benchPdf},
-        {"photos", benchPhotos},      {"sheets", benchSheets}};
+        {"photos", benchPhotos},      {"sheets", benchSheets},         {"portal", benchPortal}};
     printHeader();
     for (const auto &[name, bench] : parts) {
         if (arguments.size() < 2 || arguments.contains(QLatin1String(name)))

@@ -17,7 +17,7 @@ corvel_test_packages=(
     xdg-desktop-portal gir1.2-gtk-3.0 python3-gi python3-gi-cairo ghostscript xdotool openbox
 )
 
-corvel_bench_packages=(img2pdf imagemagick libgtk-3-dev libvips-dev xvfb)
+corvel_bench_packages=(img2pdf imagemagick libgtk-3-dev libvips-dev xvfb xdg-desktop-portal-gtk)
 corvel_fuzz_packages=(clang libclang-rt-dev llvm qt6-image-formats-plugins)
 
 # corvel_install PACKAGE...: installs those that are missing; takes a few milliseconds when none is.
