@@ -196,8 +196,11 @@ private Q_SLOTS:
         std::vector<std::jthread> threads;
         for (auto &isRight : areRight)
             threads.emplace_back([&isRight, document] {
-                const auto image = renderPage(document, 0, {200, 100});
-                isRight = image && image->pixel(10, 90) == red;
+                isRight = true;
+                for (int i = 0; i < 8; ++i) {
+                    const auto image = renderPage(document, 0, {200, 100});
+                    isRight = isRight && image && image->pixel(10, 90) == red;
+                }
             });
         threads.clear();
         QVERIFY(std::ranges::all_of(areRight, [](const auto &isRight) { return isRight.load(); }));
