@@ -5,6 +5,7 @@
 
 #include "JobTemplate.h"
 #include "PageChoice.h"
+#include "PagePlaces.h"
 #include "PhotoCheck.h"
 #include "PrintedNames.h"
 #include "PrinterAddress.h"
@@ -85,7 +86,8 @@ QJsonArray JobPlan::photosJson() const
                 {QStringLiteral("width"), millimeters(print.width())},
                 {QStringLiteral("height"), millimeters(print.height())},
                 {QStringLiteral("turns"), placement.quarterTurns},
-                {QStringLiteral("cutOff"), std::round(placement.cutOff(job_.page) * 1000) / 1000}};
+                {QStringLiteral("cutOff"),
+                 std::round(cutOffShare(laid.photo.document(), placement, job_.page) * 1000) / 1000}};
             if (laid.photo.document()) {
                 photo.insert(QStringLiteral("page"), laid.photo.page() + 1);
                 photo.insert(QStringLiteral("sheet"), number_.sheet + sheet);

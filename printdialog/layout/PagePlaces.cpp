@@ -133,4 +133,9 @@ PageFrame PageFrame::of(const QSizeF &size, const PlacementChoice &wanted, const
     return result;
 }
 
+double cutOffShare(bool isPage, const PhotoPlacement &placement, const PageGeometry &page)
+{
+    return placement.cutOff(isPage ? PageGeometry{page.size, QRectF(QPointF(), page.size)} : page);
+}
+
 } // namespace printdialog

@@ -32,4 +32,8 @@ struct PageFrame
     static PageFrame of(const QSizeF &size, const PlacementChoice &wanted, const PageGeometry &page);
 };
 
+/// The share that is not printed, see PhotoPlacement::cutOff(). Of a page that is as large as its sheet, the
+/// margins that the printer does not reach are none of it: programs leave them free.
+double cutOffShare(bool isPage, const PhotoPlacement &placement, const PageGeometry &page);
+
 } // namespace printdialog

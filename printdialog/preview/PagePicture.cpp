@@ -39,9 +39,9 @@ bool decodePhotos(const PrintSheet &sheet, const PageView &view, PagePainter &pa
         QRectF seen;
         PagePhoto pixels = {};
     };
-    QHash<QString, Wanted> photos; // by their paths
+    QHash<PictureKey, Wanted> photos;
     for (const SheetPhoto &laid : sheet.photos) {
-        Wanted &wanted = photos[laid.photo.path()];
+        Wanted &wanted = photos[laid.photo.key()];
         wanted.size = wanted.size.expandedTo(photoPixels(view, laid.placement));
         wanted.seen |= seenPart(view, laid.placement,
                                 view.isShared ? laid.placement.seen(view.page) : laid.placement.target);
@@ -49,7 +49,7 @@ bool decodePhotos(const PrintSheet &sheet, const PageView &view, PagePainter &pa
     QHash<QByteArray, std::shared_ptr<const ColorLookup>> lookups; // by the photos' profiles
     for (qsizetype i = 0; i < sheet.photos.size(); ++i) {
         const Photo &photo = sheet.photos.at(i).photo;
-        Wanted &wanted = photos[photo.path()];
+        Wanted &wanted = photos[photo.key()];
         if (wanted.pixels.whole.isNull())
             wanted.pixels = pixelsOf(photo, wanted.size, wanted.seen,
                                      view.isShared ? PagePhoto::leastDetail : PagePhoto::usualDetail);

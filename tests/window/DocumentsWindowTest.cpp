@@ -220,6 +220,45 @@ private Q_SLOTS:
         QCOMPARE(printed->pageCount(), 1);
     }
 
+    void previewShowsEachPage()
+    {
+        const QTemporaryDir folder;
+        const QString path = folder.filePath(u"colors.pdf"_s);
+        samples::store(
+            path, pdf_samples::withPages({{"1 0 0 rg 0 0 200 100 re f"}, {"0 0 1 rg 0 0 200 100 re f"}}));
+        PrintDialogSetup setup = DocumentDialog::setupWith(1);
+        setup.photos = *Photo::openAll(path);
+        const DocumentDialog opened(setup);
+        opened.choose(u"layoutKind"_s, u"2"_s);
+        QTRY_VERIFY(opened.pane->isReady());
+        const QImage shown = opened.find<QWidget>(u"preview"_s)->grab().toImage();
+        const auto isSeen = [&shown](QRgb color) {
+            for (int y = 0; y < shown.height(); ++y) {
+                if (shown.pixel(shown.width() / 2, y) == color)
+                    return true;
+            }
+            return false;
+        };
+        QVERIFY(isSeen(pdf_samples::red));
+        QVERIFY(isSeen(pdf_samples::blue));
+    }
+
+    // Not cut off where programs leave margins free.
+    void captionOfAPage()
+    {
+        PrintDialogSetup setup = DocumentDialog::setupWith(6);
+        setup.ppdFile = QStringLiteral(CORVEL_LASER_PPD);
+        setup.pages.which = PageChoice::Which::Ranges;
+        setup.pages.ranges = *PageRanges::fromText(u"4-"_s);
+        const DocumentDialog opened(setup);
+        opened.choose(u"pageSize"_s, u"A4"_s);
+        QLocale::setDefault(QLocale(u"de_DE"_s));
+        opened.find<QAbstractButton>(u"nextSheet"_s)->click();
+        QLocale::setDefault(QLocale::c());
+        QCOMPARE(opened.caption().replace(QChar(QChar::Nbsp), u' '),
+                 u"report.pdf, page 5 of 6\nPage of 21,0 × 29,7 cm · printed at 100 %"_s);
+    }
+
     void asksForPasswords()
     {
         const QTemporaryDir folder;

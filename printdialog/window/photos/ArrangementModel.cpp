@@ -82,13 +82,29 @@ void ArrangementModel::appendOpened()
     selectSome();
 }
 
-/// There is a current photo as long as there are photos.
+/// There is a current photo as long as there are photos: at first one that is printed.
 void ArrangementModel::selectSome()
 {
-    if (state_.current < 0 && count() > 0) {
-        state_.current = 0;
-        state_.selection = {0};
+    if (state_.current >= 0 || count() == 0)
+        return;
+    state_.current = std::max(0, printedFrom(0));
+    state_.selection = {state_.current};
+}
+
+/// The first index from there on, or else from the beginning, whose photo is printed; -1 without one.
+int ArrangementModel::printedFrom(int index) const
+{
+    for (int step = 0; step < count(); ++step) {
+        const int candidate = (index + step) % count();
+        if (isPrinted(photos().at(candidate)))
+            return candidate;
     }
+    return -1;
+}
+
+bool ArrangementModel::isPrinted(const PlacedPhoto &placed) const
+{
+    return !placed.photo.document() || arrangement().pages.contains(placed.photo.page() + 1);
 }
 
 bool ArrangementModel::isOneDocument() const
@@ -380,16 +396,11 @@ void ArrangementModel::setPages(const PageChoice &pages)
         return;
     const State before = state_;
     state_.arrangement.pages = pages;
-    const auto isPrinted = [this](int index) {
-        const Photo &photo = photos().at(index).photo;
-        return !photo.document() || arrangement().pages.contains(photo.page() + 1);
-    };
-    for (int step = 0; step < count() && !isPrinted(state_.current); ++step) {
-        state_.current = (state_.current + 1) % count();
-        state_.selection = {state_.current};
+    const int shown = printedFrom(state_.current);
+    if (shown >= 0 && shown != state_.current) {
+        state_.current = shown;
+        state_.selection = {shown};
     }
-    if (state_.current == before.current)
-        state_.selection = before.selection;
     Q_EMIT changed(before);
     if (state_.current == before.current)
         Q_EMIT placementChanged();

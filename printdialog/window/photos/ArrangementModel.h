@@ -58,6 +58,8 @@ public:
     /// What edits are made of: the selected photos, with the other pages of their documents where these are
     /// together.
     QList<int> scope() const;
+    /// Whether it is not a page that the choice of pages leaves out.
+    bool isPrinted(const PlacedPhoto &placed) const;
     /// Whether there is nothing but pages of one document.
     bool isOneDocument() const;
     /// Null without photos. Valid until the next change.
@@ -134,6 +136,7 @@ private:
     static Name nameOf(const PlacedPhoto &placed) { return {placed.photo.path(), placed.photo.page()}; }
     static bool isAsOpened(const State &state);
     bool isPlain() const;
+    int printedFrom(int index) const;
     void change(const QList<int> &indexes, const Edit &edit,
                 const std::optional<PlacementChoice> &coming = std::nullopt);
     void reorder(const QList<int> &order);

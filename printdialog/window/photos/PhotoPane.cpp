@@ -345,7 +345,7 @@ void PhotoPane::showCaption()
     if (const PlacedPhoto *current = model_->currentPhoto()) {
         const Photo &photo = current->photo;
         lines += nameText();
-        if (photo.document() && !arrangement().pages.contains(photo.page() + 1))
+        if (!model_->isPrinted(*current))
             lines += tr("This page is not printed.");
         if (photo.isChecked() && photo.damage())
             lines += tr("Damaged: a part of the picture is missing or wrong.");

@@ -48,7 +48,7 @@ PreviewWidget::PreviewWidget(QWidget *parent)
 
 void PreviewWidget::setSheet(const PrintSheet &sheet, qsizetype current, const PlacementChoice &choice)
 {
-    const QString before = photo().path();
+    const PictureKey before = photo().key();
     sheet_ = sheet;
     current_ = current;
     choice_ = choice;
@@ -58,7 +58,7 @@ void PreviewWidget::setSheet(const PrintSheet &sheet, qsizetype current, const P
     painter_.setSheet(sheet, current);
     detail_.setSheet(sheet, current, view());
     colors_.setPhotoProfiles(profiles);
-    if (photo().path() != before && drag_ == Drag::Photo)
+    if (photo().key() != before && drag_ == Drag::Photo)
         drag_ = Drag::None;
     if (sheet.photos.isEmpty())
         zoom_.reset();
@@ -99,12 +99,12 @@ const Photo &PreviewWidget::photo() const
     return current_ < 0 ? none : sheet_.photos.at(current_).photo;
 }
 
-/// Those with this path have other pixels.
-void PreviewWidget::updatePhotos(const QString &path)
+/// Those of this key, or all, have other pixels.
+void PreviewWidget::updatePhotos(const std::optional<PictureKey> &key)
 {
     for (qsizetype i = 0; i < sheet_.photos.size(); ++i) {
         const Photo &shown = sheet_.photos.at(i).photo;
-        if (!path.isNull() && shown.path() != path)
+        if (key && shown.key() != *key)
             continue;
         // A photo waits for the table of its colors.
         const auto lookup = colors_.lookupFor(shown.pixelProfile());
@@ -119,7 +119,7 @@ void PreviewWidget::updatePhotos(const QString &path)
 
 void PreviewWidget::updateColors()
 {
-    updatePhotos({});
+    updatePhotos();
 }
 
 void PreviewWidget::setPage(const PageGeometry &page)

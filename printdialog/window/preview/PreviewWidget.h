@@ -109,7 +109,7 @@ private:
     void setView(const PageView &view);
     void limitZoom();
     void noteSeen();
-    void updatePhotos(const QString &path);
+    void updatePhotos(const std::optional<PictureKey> &key = std::nullopt);
     void updateColors();
     const Photo &photo() const;
     bool isShared() const { return sheet_.photos.size() > 1; }

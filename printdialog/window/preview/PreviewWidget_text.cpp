@@ -3,6 +3,7 @@
 
 #include "PreviewWidget.h"
 
+#include "PagePlaces.h"
 #include "PlainText.h"
 #include "PrintSize.h"
 #include "SheetRuler.h"
@@ -52,8 +53,8 @@ void PreviewWidget::describe()
     setAccessibleName(photo().storedSize().isEmpty() ? tr("Preview of the page")
                                                      : tr("Preview of %1").arg(plainText(photo().name())));
     const auto place = placement();
-    const double cutOff = place ? place->cutOff(page_) : 0;
     const bool isPage = photo().document();
+    const double cutOff = place ? cutOffShare(isPage, *place, page_) : 0;
     QStringList sentences;
     if (sheetCount_ > 1)
         sentences += tr("Sheet %1 of %2.").arg(sheetNumber_ + 1).arg(sheetCount_);

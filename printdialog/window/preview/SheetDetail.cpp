@@ -15,20 +15,20 @@ namespace printdialog {
 void SheetDetail::setSheet(const PrintSheet &sheet, qsizetype current, const PageView &view)
 {
     const bool isShared = sheet.photos.size() > 1;
-    QHash<QString, std::shared_ptr<PhotoDetail>> known;
+    QHash<PictureKey, std::shared_ptr<PhotoDetail>> known;
     for (const auto &detail : std::as_const(details_))
-        known.insert(detail->photo().path(), detail);
+        known.insert(detail->photo().key(), detail);
     details_.assign(static_cast<std::size_t>(sheet.photos.size()), nullptr);
-    QHash<QString, std::shared_ptr<PhotoDetail>> used;
+    QHash<PictureKey, std::shared_ptr<PhotoDetail>> used;
     const auto use = [&](qsizetype index) {
         const SheetPhoto &laid = sheet.photos.at(index);
-        std::shared_ptr<PhotoDetail> &detail = used[laid.photo.path()];
+        std::shared_ptr<PhotoDetail> &detail = used[laid.photo.key()];
         if (!detail) {
-            detail = known.value(laid.photo.path());
+            detail = known.value(laid.photo.key());
             if (!detail) {
                 detail = std::make_shared<PhotoDetail>();
                 connect(detail.get(), &PhotoDetail::changed, this,
-                        [this, path = laid.photo.path()] { Q_EMIT changed(path); });
+                        [this, key = laid.photo.key()] { Q_EMIT changed(key); });
             }
             detail->setPriority(index == current ? ShownPhoto : NeighborPhoto);
             const bool isPlaced = isShared && !laid.placement.target.isEmpty();

@@ -39,7 +39,7 @@ public:
 
 Q_SIGNALS:
     /// A photo's pixels are others, or it is unreadable.
-    void changed(const QString &path);
+    void changed(const printdialog::PictureKey &key);
 
 private:
     std::vector<std::shared_ptr<PhotoDetail>> details_; ///< by the sheet's indexes; shared by copies

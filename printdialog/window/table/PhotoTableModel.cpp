@@ -83,7 +83,7 @@ bool PhotoTableModel::isDamaged(const PlacedPhoto &photo)
 
 bool PhotoTableModel::isPrinted(const PlacedPhoto &photo) const
 {
-    return !photo.photo.document() || photos_->arrangement().pages.contains(photo.photo.page() + 1);
+    return photos_->isPrinted(photo);
 }
 
 int PhotoTableModel::rowCount(const QModelIndex &parent) const
