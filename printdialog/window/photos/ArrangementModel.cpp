@@ -5,7 +5,6 @@
 
 #include <QtCore/QCollator>
 #include <QtCore/QLocale>
-#include <QtCore/QSet>
 
 #include <algorithm>
 #include <numeric>
@@ -91,42 +90,6 @@ void ArrangementModel::selectSome()
     state_.selection = {state_.current};
 }
 
-/// The first index from there on, or else from the beginning, whose photo is printed; -1 without one.
-int ArrangementModel::printedFrom(int index) const
-{
-    for (int step = 0; step < count(); ++step) {
-        const int candidate = (index + step) % count();
-        if (isPrinted(photos().at(candidate)))
-            return candidate;
-    }
-    return -1;
-}
-
-bool ArrangementModel::isPrinted(const PlacedPhoto &placed) const
-{
-    return !placed.photo.document() || arrangement().pages.contains(placed.photo.page() + 1);
-}
-
-bool ArrangementModel::isOneDocument() const
-{
-    const PlacedPhoto *first = currentPhoto();
-    return first && first->photo.document() &&
-           std::ranges::all_of(photos(), [first](const PlacedPhoto &placed) {
-               return placed.photo.document() && placed.photo.identity() == first->photo.identity();
-           });
-}
-
-/// Whether the pages of a document are in their order, and all alike: opening it again makes the same.
-bool ArrangementModel::isPlain() const
-{
-    int last = -1;
-    return std::ranges::all_of(photos(), [&](const PlacedPhoto &placed) {
-        const int before = std::exchange(last, placed.photo.page());
-        return before < last && placed.placement == currentPhoto()->placement &&
-               placed.copies == currentPhoto()->copies;
-    });
-}
-
 // One pass beside the kept arrangement; a photo that was only removed does not count.
 bool ArrangementModel::hasUnkeptWork() const
 {
@@ -171,25 +134,6 @@ void ArrangementModel::selectAll()
 {
     if (count() > 0)
         select(allIndexes(count()), state_.current);
-}
-
-QList<int> ArrangementModel::scope() const
-{
-    if (!arePagesTogether_)
-        return state_.selection;
-    QSet<FileIdentity> documents;
-    for (const int index : state_.selection) {
-        if (photos().at(index).photo.document())
-            documents.insert(photos().at(index).photo.identity());
-    }
-    QList<int> indexes;
-    for (int i = 0; i < count(); ++i) {
-        const Photo &photo = photos().at(i).photo;
-        if (std::ranges::binary_search(state_.selection, i) ||
-            (photo.document() && documents.contains(photo.identity())))
-            indexes += i;
-    }
-    return indexes;
 }
 
 void ArrangementModel::add(const QList<Photo> &photos, bool isFirst)
@@ -388,24 +332,6 @@ void ArrangementModel::setLayout(const SheetLayout &layout)
     state_.arrangement.layout = layout;
     Q_EMIT changed(before);
     Q_EMIT placementChanged();
-}
-
-void ArrangementModel::setPages(const PageChoice &pages)
-{
-    if (pages == arrangement().pages)
-        return;
-    const State before = state_;
-    state_.arrangement.pages = pages;
-    const int shown = printedFrom(state_.current);
-    if (shown >= 0 && shown != state_.current) {
-        state_.current = shown;
-        state_.selection = {shown};
-    }
-    Q_EMIT changed(before);
-    if (state_.current == before.current)
-        Q_EMIT placementChanged();
-    else
-        Q_EMIT photosChanged();
 }
 
 ArrangementStyle ArrangementModel::style() const
