@@ -128,6 +128,7 @@ Result<WatchOrder, std::monostate> WatchRun::order() const
     order.job = *std::move(job);
     order.job.folder = {QDir(commandLine_.outputFolder()).absolutePath(), false, {}};
     order.printsExisting = commandLine_.existing;
+    order.pages = commandLine_.pages;
     order.setStyle(commandLine_.style.over(requested->style));
     if (const auto why = order.whyImpossible())
         return refusal(*why);

@@ -56,9 +56,9 @@ PatientPrinter::PatientPrinter(const PrintJob &job, const News &news, PatientSto
 {
 }
 
-PatientOutcome PatientPrinter::print(const PrintSheet &sheet, const Steps &steps)
+PatientOutcome PatientPrinter::print(const JobSheets &sheets, const Steps &steps)
 {
-    const QString &name = sheet.name;
+    const QString &name = sheets.name;
     for (pause_ = firstPause;;) {
         QString objection;
         std::optional<BegunJob> begun;
@@ -74,7 +74,7 @@ PatientOutcome PatientPrinter::print(const PrintSheet &sheet, const Steps &steps
                 begun = job;
             return begun.has_value();
         });
-        const auto printed = printer.print(sheet);
+        const auto printed = printer.print(sheets);
         if (printed) {
             goesOn(name);
             const QList<int> sent = printer.sentJobs();

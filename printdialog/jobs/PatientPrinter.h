@@ -72,7 +72,7 @@ public:
     /// @param stop outlives this object
     PatientPrinter(const PrintJob &job, const News &news, PatientStop &stop);
 
-    PatientOutcome print(const PrintSheet &sheet, const Steps &steps);
+    PatientOutcome print(const JobSheets &sheets, const Steps &steps);
 
     /// Waits for a job that was sent by an earlier run of the program. One that the server does not know any
     /// more is Unclear.

@@ -138,16 +138,18 @@ PatientOutcome WatchLoop::printOne(const FolderFile &file)
     const QString name = QFile::decodeName(file.name);
     if (isForeignName(name))
         return {End::Unfit, foreignNameText(name)};
-    std::optional<Result<Photo, PhotoFault>> photo;
+    std::optional<Result<QList<Photo>, PhotoFault>> photos;
     {
         const auto mark = busy(control_);
-        photo = Photo::open(path(file.name));
+        photos = Photo::openAll(path(file.name));
         if (!isThere(file))
             return {End::Vanished, {}};
     }
-    if (!*photo)
-        return {End::Unfit, photo->failure().text};
-    const Arrangement wanted{{PlacedPhoto{**photo, order_.style.placement}}, order_.style.layout};
+    if (!*photos)
+        return {End::Unfit, photos->failure().text};
+    Arrangement wanted{{}, order_.style.layout, order_.pages};
+    for (const Photo &photo : **photos)
+        wanted.photos += PlacedPhoto{photo, order_.style.placement};
     const Arrangement arranged = order_.job.isRaw() ? wanted.unplaced() : wanted;
     const SheetPlan plan = arranged.plan(order_.job.page);
     if (plan.failure())
@@ -172,7 +174,7 @@ PatientOutcome WatchLoop::printOne(const FolderFile &file)
                 return isThere(file);
             },
     };
-    return printer_.print(arranged.sheet(plan.sheets().constFirst()), steps);
+    return printer_.print(arranged.jobSheets(plan, {0, plan.sheets().size()}), steps);
 }
 
 void WatchLoop::noteSent(const FolderFile &file, const QString &printer, int job)

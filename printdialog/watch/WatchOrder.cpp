@@ -13,7 +13,10 @@ void WatchOrder::setStyle(const ArrangementStyle &wanted)
 {
     style = wanted;
     style.placement.turns = 0; // of the photo that was shown
-    if (style.layout.kind != SheetLayout::Kind::Contact)
+    using Kind = SheetLayout::Kind;
+    const bool isOfSeveral = style.layout.kind == Kind::Contact || style.layout.kind == Kind::Pages ||
+                             style.layout.kind == Kind::Booklet;
+    if (!isOfSeveral)
         style.layout.isRepeated = true;
 }
 

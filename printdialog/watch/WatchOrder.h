@@ -13,7 +13,7 @@
 
 namespace printdialog {
 
-/// Which folder's photos are printed, and how.
+/// Which folder's photos and documents are printed, and how.
 struct WatchOrder
 {
     Q_DECLARE_TR_FUNCTIONS(printdialog::WatchOrder)
@@ -24,6 +24,7 @@ public:
     bool printsExisting = false;    ///< also those that are there when the folder is first watched
     PrintJob job;                   ///< of each photo
     ArrangementStyle style;         ///< of each photo, which is alone with its sheet
+    PageChoice pages = {};          ///< of each document, whose pages are one job
     WatchPace pace;
 
     /// Takes a style over: the next photo may be hours away, so each one fills sheets of its own.

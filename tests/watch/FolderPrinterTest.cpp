@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include "FolderPrinter.h"
+#include "PdfSamples.h"
 #include "QueueList.h"
 #include "Rows.h"
 #include "TestMain.h"
@@ -70,6 +71,20 @@ private Q_SLOTS:
         start(printer);
         QTRY_COMPARE(printed(), u"1.pdf 2-2.pdf 2.pdf old.pdf"_s);
         QTRY_COMPARE(names(u"new"_s), QString());
+    }
+
+    // The pages of a document are one job.
+    void printsDocuments()
+    {
+        order_.pages = {PageChoice::Which::Ranges, *PageRanges::fromText(u"2-"_s)};
+        order_.setStyle({{}, SheetLayout::usual(SheetLayout::Kind::Pages)});
+        FolderPrinter printer;
+        start(printer);
+        QVERIFY(write(u"report.pdf"_s, pdf_samples::text(4)));
+        QTRY_COMPARE(printed(), u"report.pdf"_s);
+        const auto document = Document::open(at(u"out/report.pdf"_s));
+        QVERIFY(document);
+        QCOMPARE(document->pageCount(), 2);
     }
 
     void movesToAnotherDisk()
