@@ -12,15 +12,14 @@ PagesRun::PagesRun(const PrintJob &job, const Arrangement &arrangement, QObject 
     : PortalRun(parent)
     , worker_(new PrintWorker(this))
 {
-    connect(worker_, &PrintWorker::finished, this,
-            [this, job, layout = arrangement.layout](const PrintOutcome &outcome) {
-                const bool isWhole = outcome.failure.isEmpty() && outcome.unprinted.isEmpty() &&
-                                     outcome.skipped.isEmpty() && outcome.waiting.isEmpty() &&
-                                     outcome.unknown.isEmpty();
-                const OutcomeText text(outcome, job, layout);
-                Q_EMIT finished(isWhole ? QString()
-                                        : QStringList{text.summary(), text.details()}.join(u'\n').trimmed());
-            });
+    connect(worker_, &PrintWorker::finished, this, [this, job, arrangement](const PrintOutcome &outcome) {
+        const bool isWhole = outcome.failure.isEmpty() && outcome.unprinted.isEmpty() &&
+                             outcome.skipped.isEmpty() && outcome.waiting.isEmpty() &&
+                             outcome.unknown.isEmpty();
+        const OutcomeText text(outcome, job, arrangement);
+        Q_EMIT finished(isWhole ? QString()
+                                : QStringList{text.summary(), text.details()}.join(u'\n').trimmed());
+    });
     worker_->print(arrangement, job);
 }
 

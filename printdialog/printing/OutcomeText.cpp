@@ -25,23 +25,29 @@ QString OutcomeText::summary() const
     return lines.join(u'\n');
 }
 
+QString OutcomeText::say(const QString &photos, const QString &sheets, const QString &jobs) const
+{
+    return unit_ == Unit::Photos ? photos : unit_ == Unit::Sheets ? sheets : jobs;
+}
+
 QString OutcomeText::counted() const
 {
     if (outcome_.wasStopped)
-        return (areShared_ ? tr("Printing was stopped: printed %1 of %2 sheets.")
-                           : tr("Printing was stopped: printed %1 of %2 photos."))
+        return say(tr("Printing was stopped: printed %1 of %2 photos."),
+                   tr("Printing was stopped: printed %1 of %2 sheets."),
+                   tr("Printing was stopped: printed %1 of %2 jobs."))
             .arg(outcome_.done)
             .arg(outcome_.total);
     if (outcome_.done == outcome_.total)
         return allPrinted();
     if (!job_.destination.isBuiltIn() && !outcome_.isFollowed)
-        return outcome_.printed.isEmpty()
-                   ? QString()
-                   : (areShared_ ? tr("Sent %1 of %2 sheets to %3, which continues printing.")
-                                 : tr("Sent %1 of %2 photos to %3, which continues printing."))
-                         .arg(QString::number(outcome_.printed.size()), QString::number(outcome_.total),
-                              job_.destination.id());
-    return (areShared_ ? tr("Printed %1 of %2 sheets.") : tr("Printed %1 of %2 photos."))
+        return outcome_.printed.isEmpty() ? QString()
+                                          : say(tr("Sent %1 of %2 photos to %3, which continues printing."),
+                                                tr("Sent %1 of %2 sheets to %3, which continues printing."),
+                                                tr("Sent %1 of %2 jobs to %3, which continues printing."))
+                                                .arg(QString::number(outcome_.printed.size()),
+                                                     QString::number(outcome_.total), job_.destination.id());
+    return say(tr("Printed %1 of %2 photos."), tr("Printed %1 of %2 sheets."), tr("Printed %1 of %2 jobs."))
         .arg(outcome_.done)
         .arg(outcome_.total);
 }
@@ -65,21 +71,23 @@ QString OutcomeText::others() const
 QString OutcomeText::allPrinted() const
 {
     if (!outcome_.document.isEmpty())
-        return (areShared_ ? tr("Printed %1 sheets in one PDF: %2") : tr("Printed %1 photos in one PDF: %2"))
+        return say(tr("Printed %1 photos in one PDF: %2"), tr("Printed %1 sheets in one PDF: %2"),
+                   tr("Printed %1 jobs in one PDF: %2"))
             .arg(QString::number(outcome_.total), QDir::toNativeSeparators(outcome_.document));
     if (job_.destination.isBuiltIn())
-        return (areShared_ ? tr("Printed %1 sheets in the folder %2")
-                           : tr("Printed %1 photos in the folder %2"))
+        return say(tr("Printed %1 photos in the folder %2"), tr("Printed %1 sheets in the folder %2"),
+                   tr("Printed %1 jobs in the folder %2"))
             .arg(QString::number(outcome_.total),
                  QDir::toNativeSeparators(QFileInfo(job_.folder.path).absoluteFilePath()));
     // Other users' jobs may have ids in between.
     const QList<int> &jobs = outcome_.jobs;
     if (jobs.size() == outcome_.total && jobs.constLast() - jobs.constFirst() == outcome_.total - 1)
-        return (areShared_ ? tr("Printed %1 sheets on %2 (jobs %3 to %4)")
-                           : tr("Printed %1 photos on %2 (jobs %3 to %4)"))
+        return say(tr("Printed %1 photos on %2 (jobs %3 to %4)"),
+                   tr("Printed %1 sheets on %2 (jobs %3 to %4)"),
+                   tr("Printed %1 jobs on %2 (numbers %3 to %4)"))
             .arg(QString::number(outcome_.total), job_.destination.id(), QString::number(jobs.constFirst()),
                  QString::number(jobs.constLast()));
-    return (areShared_ ? tr("Printed %1 sheets on %2") : tr("Printed %1 photos on %2"))
+    return say(tr("Printed %1 photos on %2"), tr("Printed %1 sheets on %2"), tr("Printed %1 jobs on %2"))
         .arg(QString::number(outcome_.total), job_.destination.id());
 }
 

@@ -3,24 +3,27 @@
 
 #pragma once
 
+#include "Arrangement.h"
 #include "PrintRun.h"
-#include "SheetLayout.h"
 
 #include <QtCore/QCoreApplication>
 
 namespace printdialog {
 
 /// The report on a run: the sheet's sentence when there is one sheet, else how many were printed and how many
-/// were not, with the sentences as details. They are called photos where each has a sheet of its own.
+/// were not, with the sentences as details. They are called photos where each has a sheet of its own, and
+/// jobs where the pages of a document are one.
 class OutcomeText
 {
     Q_DECLARE_TR_FUNCTIONS(printdialog::OutcomeText)
 
 public:
-    OutcomeText(const PrintOutcome &outcome, const PrintJob &job, const SheetLayout &layout)
+    OutcomeText(const PrintOutcome &outcome, const PrintJob &job, const Arrangement &arrangement)
         : outcome_(outcome)
         , job_(job)
-        , areShared_(layout.kind != SheetLayout::Kind::Single)
+        , unit_(arrangement.pageCount() > 0                            ? Unit::Jobs
+                : arrangement.layout.kind != SheetLayout::Kind::Single ? Unit::Sheets
+                                                                       : Unit::Photos)
     {
     }
 
@@ -30,13 +33,16 @@ public:
     QString details() const;
 
 private:
+    enum class Unit { Photos, Sheets, Jobs };
+
+    QString say(const QString &photos, const QString &sheets, const QString &jobs) const;
     QString counted() const;
     QString allPrinted() const;
     QString others() const;
 
     const PrintOutcome &outcome_;
     const PrintJob &job_;
-    bool areShared_; ///< the sheets, by several photos
+    Unit unit_; ///< Of what is counted.
 };
 
 } // namespace printdialog

@@ -237,7 +237,7 @@ void PrintingController::showOutcome(const PrintOutcome &outcome)
         return askAboutDamage();
     if (!testPage_ && outcome.failure.isEmpty() && outcome.unprinted.isEmpty() && !outcome.wasStopped)
         Q_EMIT printed(arrangement_);
-    const OutcomeText text(outcome, job_, arrangement_.layout);
+    const OutcomeText text(outcome, job_, arrangement_);
     MessageBar::Message message;
     if (!outcome.failure.isEmpty() || !outcome.skipped.isEmpty())
         message.kind = MessageBar::Kind::Error;

@@ -3639,6 +3639,34 @@ Beispiele:
         <source>Printed %1 sheets on %2</source>
         <translation>%1 Blätter auf %2 gedruckt</translation>
     </message>
+    <message>
+        <source>Printing was stopped: printed %1 of %2 jobs.</source>
+        <translation>Das Drucken wurde angehalten: %1 von %2 Aufträgen gedruckt.</translation>
+    </message>
+    <message>
+        <source>Sent %1 of %2 jobs to %3, which continues printing.</source>
+        <translation>%1 von %2 Aufträgen an %3 gesendet; dort wird weiter gedruckt.</translation>
+    </message>
+    <message>
+        <source>Printed %1 of %2 jobs.</source>
+        <translation>%1 von %2 Aufträgen gedruckt.</translation>
+    </message>
+    <message>
+        <source>Printed %1 jobs in one PDF: %2</source>
+        <translation>%1 Aufträge in einem PDF gedruckt: %2</translation>
+    </message>
+    <message>
+        <source>Printed %1 jobs in the folder %2</source>
+        <translation>%1 Aufträge im Ordner %2 gedruckt</translation>
+    </message>
+    <message>
+        <source>Printed %1 jobs on %2 (numbers %3 to %4)</source>
+        <translation>%1 Aufträge auf %2 gedruckt (Nummern %3 bis %4)</translation>
+    </message>
+    <message>
+        <source>Printed %1 jobs on %2</source>
+        <translation>%1 Aufträge auf %2 gedruckt</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::OutputFault</name>

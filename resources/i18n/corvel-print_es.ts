@@ -3638,6 +3638,34 @@ Ejemplos:
         <source>Printed %1 sheets on %2</source>
         <translation>%1 hojas impresas en %2</translation>
     </message>
+    <message>
+        <source>Printing was stopped: printed %1 of %2 jobs.</source>
+        <translation>Se detuvo la impresión: %1 de %2 trabajos impresos.</translation>
+    </message>
+    <message>
+        <source>Sent %1 of %2 jobs to %3, which continues printing.</source>
+        <translation>%1 de %2 trabajos enviados a %3, que sigue imprimiendo.</translation>
+    </message>
+    <message>
+        <source>Printed %1 of %2 jobs.</source>
+        <translation>%1 de %2 trabajos impresos.</translation>
+    </message>
+    <message>
+        <source>Printed %1 jobs in one PDF: %2</source>
+        <translation>%1 trabajos impresos en un solo PDF: %2</translation>
+    </message>
+    <message>
+        <source>Printed %1 jobs in the folder %2</source>
+        <translation>%1 trabajos impresos en la carpeta %2</translation>
+    </message>
+    <message>
+        <source>Printed %1 jobs on %2 (numbers %3 to %4)</source>
+        <translation>%1 trabajos impresos en %2 (números %3 a %4)</translation>
+    </message>
+    <message>
+        <source>Printed %1 jobs on %2</source>
+        <translation>%1 trabajos impresos en %2</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::OutputFault</name>

@@ -3640,6 +3640,34 @@ Exemples&#x202f;:
         <source>Printed %1 sheets on %2</source>
         <translation>%1 feuilles imprimées sur %2</translation>
     </message>
+    <message>
+        <source>Printing was stopped: printed %1 of %2 jobs.</source>
+        <translation>L’impression a été arrêtée&#x202f;: %1 tâches sur %2 imprimées.</translation>
+    </message>
+    <message>
+        <source>Sent %1 of %2 jobs to %3, which continues printing.</source>
+        <translation>%1 tâches sur %2 envoyées à %3, qui continue d’imprimer.</translation>
+    </message>
+    <message>
+        <source>Printed %1 of %2 jobs.</source>
+        <translation>%1 tâches sur %2 imprimées.</translation>
+    </message>
+    <message>
+        <source>Printed %1 jobs in one PDF: %2</source>
+        <translation>%1 tâches imprimées dans un seul PDF&#x202f;: %2</translation>
+    </message>
+    <message>
+        <source>Printed %1 jobs in the folder %2</source>
+        <translation>%1 tâches imprimées dans le dossier %2</translation>
+    </message>
+    <message>
+        <source>Printed %1 jobs on %2 (numbers %3 to %4)</source>
+        <translation>%1 tâches imprimées sur %2 (numéros %3 à %4)</translation>
+    </message>
+    <message>
+        <source>Printed %1 jobs on %2</source>
+        <translation>%1 tâches imprimées sur %2</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::OutputFault</name>

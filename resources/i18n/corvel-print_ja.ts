@@ -3630,6 +3630,34 @@ Examples:
         <source>Printed %1 sheets on %2</source>
         <translation>%1 シートを %2 で印刷しました</translation>
     </message>
+    <message>
+        <source>Printing was stopped: printed %1 of %2 jobs.</source>
+        <translation>印刷を中止しました。%2 件のジョブのうち %1 件を印刷しました。</translation>
+    </message>
+    <message>
+        <source>Sent %1 of %2 jobs to %3, which continues printing.</source>
+        <translation>%2 件のジョブのうち %1 件を %3 に送りました。印刷は続きます。</translation>
+    </message>
+    <message>
+        <source>Printed %1 of %2 jobs.</source>
+        <translation>%2 件のジョブのうち %1 件を印刷しました。</translation>
+    </message>
+    <message>
+        <source>Printed %1 jobs in one PDF: %2</source>
+        <translation>%1 件のジョブを 1 つの PDF に印刷しました: %2</translation>
+    </message>
+    <message>
+        <source>Printed %1 jobs in the folder %2</source>
+        <translation>%1 件のジョブをフォルダー %2 に印刷しました</translation>
+    </message>
+    <message>
+        <source>Printed %1 jobs on %2 (numbers %3 to %4)</source>
+        <translation>%1 件のジョブを %2 で印刷しました (番号 %3～%4)</translation>
+    </message>
+    <message>
+        <source>Printed %1 jobs on %2</source>
+        <translation>%1 件のジョブを %2 で印刷しました</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::OutputFault</name>
