@@ -169,15 +169,15 @@
     <name>BookletSides</name>
     <message>
         <source>A booklet is printed on both sides, turned on the short edge. This printer does not do that itself: print the odd sides first, then the even ones on their backs.</source>
-        <translation>Un livret s’imprime recto verso, retourné sur le bord court. Cette imprimante ne le fait pas elle-même : imprimez d’abord les faces impaires, puis les paires à leur dos.</translation>
+        <translation>Un livret s’imprime recto verso, retourné sur le bord court. Cette imprimante ne le fait pas elle-même&#x202f;: imprimez d’abord les faces impaires, puis les paires à leur dos.</translation>
     </message>
     <message>
         <source>A booklet is printed on both sides, turned on the short edge. Another choice does not allow that: look at &quot;%1&quot;.</source>
-        <translation>Un livret s’imprime recto verso, retourné sur le bord court. Un autre choix ne le permet pas : voyez « %1 ».</translation>
+        <translation>Un livret s’imprime recto verso, retourné sur le bord court. Un autre choix ne le permet pas&#x202f;: voyez «&#x202f;%1&#x202f;».</translation>
     </message>
     <message>
         <source>A booklet is printed on both sides, turned on the short edge: &quot;%1&quot; is set to that.</source>
-        <translation>Un livret s’imprime recto verso, retourné sur le bord court : « %1 » est réglé ainsi.</translation>
+        <translation>Un livret s’imprime recto verso, retourné sur le bord court&#x202f;: «&#x202f;%1&#x202f;» est réglé ainsi.</translation>
     </message>
 </context>
 <context>
@@ -543,15 +543,15 @@ Nécessite le paquet corvel-print-portal</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is not a layout. Give rows and columns from 1 to 20 (2x3), fit, contact, strips:2 to strips:4, pages:2, 4, 6, 9 or 16, or booklet.</source>
-        <translation>« %1 » n’est pas une disposition. Donnez des lignes et colonnes de 1 à 20 (2x3), fit, contact, strips:2 à strips:4, pages:2, 4, 6, 9 ou 16, ou booklet.</translation>
+        <translation>«&#x202f;%1&#x202f;» n’est pas une disposition. Donnez des lignes et colonnes de 1 à 20 (2x3), fit, contact, strips:2 à strips:4, pages:2, 4, 6, 9 ou 16, ou booklet.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; does not say which pages. Give page numbers from 1 on and ranges, such as 1-3,7,12-.</source>
-        <translation>« %1 » ne dit pas quelles pages. Donnez des numéros de page à partir de 1 et des plages, comme 1-3,7,12-.</translation>
+        <translation>«&#x202f;%1&#x202f;» ne dit pas quelles pages. Donnez des numéros de page à partir de 1 et des plages, comme 1-3,7,12-.</translation>
     </message>
     <message>
         <source>There is no set of pages &quot;%1&quot;. Choose all, odd or even.</source>
-        <translation>Il n’y a pas de jeu de pages « %1 ». Choisissez all, odd ou even.</translation>
+        <translation>Il n’y a pas de jeu de pages «&#x202f;%1&#x202f;». Choisissez all, odd ou even.</translation>
     </message>
     <message>
         <source>several photos on a sheet: ROWSxCOLUMNS (2x3); fit, as many of the size
@@ -563,13 +563,13 @@ document: pages:2, 4, 6, 9 or 16 on each sheet, or booklet</source>
 format que possible&#x202f;; contact ou contact:LIGNESxCOLONNES, une planche-contact&#x202f;;
 strips ou strips:NOMBRE, deux bandes de 2 à 4 photos. Avec «&#x202f;,repeat&#x202f;», chaque
 photo remplit sa feuille&#x202f;; aussi «&#x202f;,gap=2mm&#x202f;», et «&#x202f;,marks&#x202f;» pour les traits de coupe. Pour un
-document : pages:2, 4, 6, 9 ou 16 par feuille, ou booklet</translation>
+document&#x202f;: pages:2, 4, 6, 9 ou 16 par feuille, ou booklet</translation>
     </message>
     <message>
         <source>which pages of documents: 1-3,7,12- (12- is page 12 to the last one);
 otherwise all</source>
-        <translation>quelles pages des documents : 1-3,7,12- (12- : de la page 12 à la
-dernière) ; sinon toutes</translation>
+        <translation>quelles pages des documents&#x202f;: 1-3,7,12- (12-&#x202f;: de la page 12 à la
+dernière)&#x202f;; sinon toutes</translation>
     </message>
     <message>
         <source>only pages with odd or with even numbers</source>
@@ -586,11 +586,11 @@ FILE can be - for the standard input, or a print list, LIST.json.
 
 Options:
 </source>
-        <translation>Utilisation : corvel-print [options] FILE...
-Imprime des photos et des documents PDF : dans une fenêtre, ou aussitôt avec --batch.
+        <translation>Utilisation&#x202f;: corvel-print [options] FILE...
+Imprime des photos et des documents PDF&#x202f;: dans une fenêtre, ou aussitôt avec --batch.
 FILE peut être - pour l’entrée standard, ou une liste d’impression, LIST.json.
 
-Options :
+Options&#x202f;:
 </translation>
     </message>
     <message>
@@ -640,7 +640,7 @@ Exemples&#x202f;:
     </message>
     <message>
         <source>&quot;-&quot; reads one file from the standard input. Give it once.</source>
-        <translation>« - » lit un fichier sur l’entrée standard. Donnez-le une seule fois.</translation>
+        <translation>«&#x202f;-&#x202f;» lit un fichier sur l’entrée standard. Donnez-le une seule fois.</translation>
     </message>
 </context>
 <context>
@@ -1916,7 +1916,7 @@ Exemples&#x202f;:
     <name>RequestedArrangement</name>
     <message>
         <source>&quot;%1&quot; is protected by a password, and there is no terminal to ask for it on. Start the program in a terminal, or in its window.</source>
-        <translation>« %1 » est protégé par un mot de passe, et il n’y a pas de terminal où le demander. Lancez le programme dans un terminal, ou avec sa fenêtre.</translation>
+        <translation>«&#x202f;%1&#x202f;» est protégé par un mot de passe, et il n’y a pas de terminal où le demander. Lancez le programme dans un terminal, ou avec sa fenêtre.</translation>
     </message>
     <message>
         <source>--pages and --page-set are for documents, and there is none. Leave them out.</source>
@@ -1987,7 +1987,7 @@ Exemples&#x202f;:
     </message>
     <message>
         <source>&quot;-&quot; reads a file from the standard input, which is the keyboard. Redirect it: corvel-print - &lt; photo.jpg</source>
-        <translation>« - » lit un fichier sur l’entrée standard, qui est le clavier. Redirigez-la : corvel-print - &lt; photo.jpg</translation>
+        <translation>«&#x202f;-&#x202f;» lit un fichier sur l’entrée standard, qui est le clavier. Redirigez-la&#x202f;: corvel-print - &lt; photo.jpg</translation>
     </message>
     <message>
         <source>The standard input is empty. Redirect a file to it.</source>
@@ -1995,7 +1995,7 @@ Exemples&#x202f;:
     </message>
     <message>
         <source>The file on the standard input is too large: it may have %1.</source>
-        <translation>Le fichier sur l’entrée standard est trop grand : il peut avoir %1.</translation>
+        <translation>Le fichier sur l’entrée standard est trop grand&#x202f;: il peut avoir %1.</translation>
     </message>
 </context>
 <context>
@@ -2735,11 +2735,11 @@ Exemples&#x202f;:
     </message>
     <message>
         <source>The password does not open &quot;%1&quot;.</source>
-        <translation>Le mot de passe n’ouvre pas « %1 ».</translation>
+        <translation>Le mot de passe n’ouvre pas «&#x202f;%1&#x202f;».</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is protected by a password.</source>
-        <translation>« %1 » est protégé par un mot de passe.</translation>
+        <translation>«&#x202f;%1&#x202f;» est protégé par un mot de passe.</translation>
     </message>
 </context>
 <context>
@@ -3054,7 +3054,7 @@ Exemples&#x202f;:
     <name>printdialog::FileOpener</name>
     <message>
         <source>&quot;%1&quot; has no page %2. Correct the print list.</source>
-        <translation>« %1 » n’a pas de page %2. Corrigez la liste d’impression.</translation>
+        <translation>«&#x202f;%1&#x202f;» n’a pas de page %2. Corrigez la liste d’impression.</translation>
     </message>
 </context>
 <context>
@@ -3727,7 +3727,7 @@ Exemples&#x202f;:
     </message>
     <message>
         <source>Pages and ranges, separated by commas; 12- is page 12 to the last one</source>
-        <translation>Pages et plages, séparées par des virgules ; 12- : de la page 12 à la dernière</translation>
+        <translation>Pages et plages, séparées par des virgules&#x202f;; 12-&#x202f;: de la page 12 à la dernière</translation>
     </message>
     <message>
         <source>Odd and even pages</source>
@@ -3753,7 +3753,7 @@ Exemples&#x202f;:
     </message>
     <message>
         <source>Pages:</source>
-        <translation>Pages :</translation>
+        <translation>Pages&#x202f;:</translation>
     </message>
     <message>
         <source>All</source>
@@ -3776,7 +3776,7 @@ Exemples&#x202f;:
     </message>
     <message>
         <source>&quot;%1&quot; does not say which pages. Type page numbers from 1 on and ranges, such as 1-3,7,12-.</source>
-        <translation>« %1 » ne dit pas quelles pages. Saisissez des numéros de page à partir de 1 et des plages, comme 1-3,7,12-.</translation>
+        <translation>«&#x202f;%1&#x202f;» ne dit pas quelles pages. Saisissez des numéros de page à partir de 1 et des plages, comme 1-3,7,12-.</translation>
     </message>
 </context>
 <context>
@@ -3806,11 +3806,11 @@ Exemples&#x202f;:
     </message>
     <message>
         <source>The password does not open &quot;%1&quot;. Check it and enter it again.</source>
-        <translation>Le mot de passe n’ouvre pas « %1 ». Vérifiez-le et saisissez-le de nouveau.</translation>
+        <translation>Le mot de passe n’ouvre pas «&#x202f;%1&#x202f;». Vérifiez-le et saisissez-le de nouveau.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is protected by a password.</source>
-        <translation>« %1 » est protégé par un mot de passe.</translation>
+        <translation>«&#x202f;%1&#x202f;» est protégé par un mot de passe.</translation>
     </message>
     <message>
         <source>&amp;Open</source>
@@ -4091,7 +4091,7 @@ Exemples&#x202f;:
     </message>
     <message>
         <source>The print list &quot;%1&quot; is empty.</source>
-        <translation>La liste d’impression « %1 » est vide.</translation>
+        <translation>La liste d’impression «&#x202f;%1&#x202f;» est vide.</translation>
     </message>
     <message>
         <source>Save a Print List</source>
@@ -4099,7 +4099,7 @@ Exemples&#x202f;:
     </message>
     <message>
         <source>Sides of sheets: %1</source>
-        <translation>Faces des feuilles : %1</translation>
+        <translation>Faces des feuilles&#x202f;: %1</translation>
     </message>
     <message>
         <source>%1, page %2 of %3</source>
@@ -4115,15 +4115,15 @@ Exemples&#x202f;:
     </message>
     <message>
         <source>Add photos and PDF documents to this job; they can be dropped on the window as well</source>
-        <translation>Ajouter des photos et des documents PDF à cette tâche ; on peut aussi les déposer sur la fenêtre</translation>
+        <translation>Ajouter des photos et des documents PDF à cette tâche&#x202f;; on peut aussi les déposer sur la fenêtre</translation>
     </message>
     <message>
         <source>Take what is selected out of this job; the files stay</source>
-        <translation>Retirer la sélection de cette tâche ; les fichiers restent</translation>
+        <translation>Retirer la sélection de cette tâche&#x202f;; les fichiers restent</translation>
     </message>
     <message>
         <source>Show the pages as a table, in which they are moved, removed and placed one by one; otherwise what is chosen holds for all of them</source>
-        <translation>Afficher les pages dans un tableau, où elles se déplacent, se retirent et se placent une à une ; sinon, ce qui est choisi vaut pour toutes</translation>
+        <translation>Afficher les pages dans un tableau, où elles se déplacent, se retirent et se placent une à une&#x202f;; sinon, ce qui est choisi vaut pour toutes</translation>
     </message>
 </context>
 <context>
@@ -4538,7 +4538,7 @@ Exemples&#x202f;:
     </message>
     <message>
         <source>Drag the page, or press the arrow keys, to move it; Home puts it in the middle.</source>
-        <translation>Faites glisser la page, ou appuyez sur les flèches, pour la déplacer ; Origine la remet au milieu.</translation>
+        <translation>Faites glisser la page, ou appuyez sur les flèches, pour la déplacer&#x202f;; Origine la remet au milieu.</translation>
     </message>
     <message>
         <source>Click on a page to change how it is printed.</source>
@@ -4688,7 +4688,7 @@ Exemples&#x202f;:
     </message>
     <message>
         <source>The list is saved as &quot;%1&quot;.</source>
-        <translation>La liste est enregistrée sous « %1 ».</translation>
+        <translation>La liste est enregistrée sous «&#x202f;%1&#x202f;».</translation>
     </message>
     <message>
         <source>Print</source>
@@ -4709,7 +4709,7 @@ Exemples&#x202f;:
     </message>
     <message>
         <source>The sheets were arranged and not printed. Close the window all the same?</source>
-        <translation>Les feuilles ont été disposées et ne sont pas imprimées. Fermer la fenêtre malgré tout ?</translation>
+        <translation>Les feuilles ont été disposées et ne sont pas imprimées. Fermer la fenêtre malgré tout&#x202f;?</translation>
     </message>
 </context>
 <context>
