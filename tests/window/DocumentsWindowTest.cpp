@@ -6,13 +6,18 @@
 #include "PdfSamples.h"
 #include "PhotoPane.h"
 #include "PhotoTable.h"
+#include "ProgramDocument.h"
 #include "Rows.h"
 #include "SamplePhotos.h"
 #include "TestMain.h"
 
 #include <QtCore/QProcess>
+#include <QtCore/QTranslator>
 #include <QtWidgets/QCheckBox>
 #include <QtWidgets/QDialog>
+#include <QtWidgets/QScrollArea>
+#include <QtWidgets/QScrollBar>
+#include <QtWidgets/QToolButton>
 
 namespace testing_support {
 
@@ -257,6 +262,61 @@ private Q_SLOTS:
         QLocale::setDefault(QLocale::c());
         QCOMPARE(opened.caption().replace(QChar(QChar::Nbsp), u' '),
                  u"report.pdf, page 5 of 6\nPage of 21,0 × 29,7 cm · printed at 100 %"_s);
+    }
+
+    // Also without a document, where only the program that prints has one.
+    void programBringsThePages()
+    {
+        PrintDialogSetup setup = setupFor(PanelMode::Constraint);
+        setup.photos.clear();
+        setup.program = ProgramDocument{u"Writer"_s, u"Letter"_s, {}, false, true};
+        setup.program->pages.set = PageChoice::Set::Odd;
+        const DocumentDialog opened(setup);
+        const auto *which = opened.find<QComboBox>(u"pages"_s);
+        QVERIFY(which->isVisible() && opened.isSeen(u"layoutKind"_s));
+        QVERIFY(which->findText(u"Selection"_s) >= 0 && which->findText(u"Current page"_s) < 0);
+        QCOMPARE(opened.find<QComboBox>(u"pageSet"_s)->currentText(), u"Odd only"_s);
+        opened.typeRanges(u"2-900"_s);
+        opened.choose(u"layoutKind"_s, u"4"_s);
+        std::optional<PreparedPrint> made;
+        connect(opened.dialog.get(), &PrintDialog::prepared, this,
+                [&made](const PreparedPrint &print, const DialogSession &) { made = print; });
+        opened.click(u"print"_s);
+        QVERIFY(made);
+        QCOMPARE(
+            made->arrangement.pages,
+            (PageChoice{PageChoice::Which::Ranges, *PageRanges::fromText(u"2-900"_s), PageChoice::Set::Odd}));
+        QCOMPARE(made->arrangement.layout.pagesPerSheet, 4);
+    }
+
+    void fitsNarrowWindows_data()
+    {
+        addRows<QString>({{"English", u"en"_s},
+                          {"German", u"de"_s},
+                          {"French", u"fr"_s},
+                          {"Spanish", u"es"_s},
+                          {"Japanese", u"ja"_s}});
+    }
+
+    void fitsNarrowWindows()
+    {
+        QTranslator translator;
+        const auto [language] = row<QString>();
+        QVERIFY(speak(translator, language));
+        const DocumentDialog opened;
+        opened.dialog->resize(1024, 600);
+        opened.chooseLast(u"pages"_s);
+        for (const bool isMore : {false, true}) {
+            auto *kind = opened.find<QComboBox>(u"layoutKind"_s);
+            for (int i = 0; i < kind->count(); ++i) {
+                QCoreApplication::processEvents();
+                const auto *side = opened.find<QScrollArea>(u"photoSide"_s);
+                QCOMPARE(side->horizontalScrollBar()->maximum(), 0);
+                QVERIFY(isMore || side->verticalScrollBar()->maximum() == 0);
+                QTest::keyClick(kind, Qt::Key_Down);
+            }
+            opened.click(u"more"_s);
+        }
     }
 
     void asksForPasswords()
