@@ -33,6 +33,13 @@ struct PageSetup
 
     /// The size and the margins of a printer's page; the orientation stays.
     void setPage(const PageGeometry &page);
+    /// Of the page as it is turned, in millimeters; empty when it is not given.
+    QSizeF turnedSize() const
+    {
+        const bool isUpright =
+            orientation == Orientation::Portrait || orientation == Orientation::ReversePortrait;
+        return isUpright ? millimeters : millimeters.transposed();
+    }
     /// How far the margins of a printer's page are from these, in millimeters; 0 when none are given.
     double distance(const PageGeometry &page) const;
 

@@ -14,6 +14,7 @@
 #include "PresetStore.h"
 #include "PrintAdaptor.h"
 #include "PrintDialog.h"
+#include "PrintSize.h"
 #include "ProgramName.h"
 #include "ProgramStyle.h"
 #include "RequestObjects.h"
@@ -177,6 +178,7 @@ PrintDialog *PrintPortal::openDialog(PortalCall *call, const PortalRequest &requ
         .acceptLabel = buttonText(request.options.value(QStringLiteral("accept_label")).toString()),
         .hasCurrentPage = isSet("has_current_page", false),
         .hasSelection = isSet("has_selected_pages", false),
+        .pageSize = settings.pageSetup().turnedSize() * pointsPerMillimeter,
         .pages = settings.pages(),
         .remarks = settings.remarks(),
         .choices = [settings](const OptionSource &source) {

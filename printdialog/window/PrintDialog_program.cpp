@@ -35,7 +35,8 @@ void PrintDialog::showProgram()
     ui_->photos->awaitPages(
         program.program.isEmpty()
             ? tr("The program brings the pages after you press \"%1\".").arg(button)
-            : tr("%1 brings the pages after you press \"%2\".").arg(program.program, button));
+            : tr("%1 brings the pages after you press \"%2\".").arg(program.program, button),
+        program.pageSize);
     ui_->photos->offerPages(program.hasCurrentPage, program.hasSelection);
 }
 

@@ -8,6 +8,7 @@
 
 #include <QtCore/QList>
 #include <QtCore/QPair>
+#include <QtCore/QSizeF>
 #include <QtCore/QString>
 #include <QtCore/QStringList>
 
@@ -33,6 +34,7 @@ struct ProgramDocument
     QString acceptLabel; ///< For the button in the place of "Print", with "&"; mostly empty.
     bool hasCurrentPage = false;
     bool hasSelection = false;
+    QSizeF pageSize = {};     ///< Of its pages, in points; empty: that of the paper.
     PageChoice pages = {};    ///< Which pages it wants.
     QStringList remarks = {}; ///< Sentences to be shown when the window opens.
     /// Called for the printer that the window opens with, and again when more of it is known.

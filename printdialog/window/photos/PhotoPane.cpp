@@ -85,12 +85,13 @@ void PhotoPane::setArrangement(const Arrangement &arrangement, const QList<Print
     opener_->open({{}, locked}, PhotoOpener::Use::RestOfList);
 }
 
-void PhotoPane::awaitPages(const QString &text)
+void PhotoPane::awaitPages(const QString &text, const QSizeF &size)
 {
     setAcceptDrops(false);
-    preview_->setEmptyText(text);
-    for (QWidget *widget : QList<QWidget *>{bar_, placement_, caption_, add_, remove_})
+    awaited_ = {text, size};
+    for (QWidget *widget : QList<QWidget *>{bar_, placement_, add_, remove_})
         widget->hide();
+    show();
 }
 
 void PhotoPane::setPage(const PageGeometry &page)
@@ -275,6 +276,8 @@ void PhotoPane::updatePlan()
         note = sheetsText(planned);
     planNote_->setText(note);
     planNote_->setVisible(!note.isEmpty());
+    if (awaited_)
+        showExpectedPages();
     Q_EMIT planChanged();
 }
 
@@ -283,6 +286,8 @@ void PhotoPane::showCaption()
     if (const PlacedPhoto *placed = model_->currentPhoto())
         watch_->offer(QFileInfo(placed->photo.path()).absolutePath());
     QStringList lines;
+    if (awaited_)
+        lines += awaited_->text;
     if (const PlacedPhoto *current = model_->currentPhoto()) {
         const Photo &photo = current->photo;
         lines += nameText();

@@ -66,8 +66,9 @@ public:
     /// Offers the choice of pages and the layouts of documents without one: a program brings its pages
     /// afterwards. See PageBar::setOffered().
     void offerPages(bool hasCurrent, bool hasSelection);
-    /// Shows the empty page with a text, where there are no photos and none can be added.
-    void awaitPages(const QString &text);
+    /// Shows where pages will lie that are still to come, and a text about that. No photos can be added.
+    /// @param size of the pages, in points; empty: that of the paper
+    void awaitPages(const QString &text, const QSizeF &size);
     const QList<PlacedPhoto> &photos() const { return model_->photos(); }
     const Arrangement &arrangement() const { return model_->arrangement(); }
     ArrangementModel *model() const { return model_; }
@@ -150,6 +151,7 @@ private:
     void pickSheet(int number);
     void showControls();
     void showPageControls();
+    void showExpectedPages();
     void chooseLayout(const SheetLayout &layout);
     bool isTableWanted() const;
     QString sheetsText(const Arrangement &planned) const;
@@ -186,6 +188,13 @@ private:
     bool isPlacedByPrinter_ = false;
     bool isMoreWanted_ = false;
     bool arePagesOffered_ = false;
+    /// Pages that are still to come.
+    struct AwaitedPages
+    {
+        QString text;
+        QSizeF size;
+    };
+    std::optional<AwaitedPages> awaited_;
 };
 
 } // namespace printdialog

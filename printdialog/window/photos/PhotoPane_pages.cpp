@@ -7,11 +7,14 @@
 #include "LayoutBar.h"
 #include "PageBar.h"
 #include "PlainText.h"
+#include "PreviewWidget.h"
 #include "PrintBar.h"
 #include "WatchBar.h"
 
 #include <QtCore/QLocale>
 #include <QtWidgets/QPushButton>
+
+#include <algorithm>
 
 // Pages of documents.
 
@@ -44,6 +47,23 @@ void PhotoPane::showPageControls()
     print_->setVisible(isMoreWanted_);
     watch_->setVisible(isMoreWanted_);
     eachPage_->setVisible(model_->isOneDocument() && pages > 1);
+}
+
+/// Those of the first side, as if there were enough of them.
+void PhotoPane::showExpectedPages()
+{
+    constexpr int enough = std::ranges::max(SheetLayout::pagesPerSheetChoices);
+    QList<PreviewWidget::ExpectedPage> pages;
+    if (model_->count() == 0 && !page_.printed().isEmpty()) {
+        const SheetLayout &layout = arrangement().layout;
+        const QSizeF size = awaited_->size.isEmpty() ? page_.size : awaited_->size;
+        const int count = layout.kind == SheetLayout::Kind::Booklet ? 4 : enough;
+        const LayoutItem page{size, pointsPerInch, model_->style().placement, 1, true};
+        const SheetPlan plan = SheetPlan::make(QList<LayoutItem>(count, page), layout, page_);
+        for (const LaidPhoto &laid : plan.sheets().constFirst().photos)
+            pages += PreviewWidget::ExpectedPage{laid.placement, static_cast<int>(laid.item) + 1};
+    }
+    preview_->setExpectedPages(pages);
 }
 
 void PhotoPane::chooseLayout(const SheetLayout &layout)

@@ -79,9 +79,10 @@ void PreviewWidget::setSheetNumber(int number, int count)
     Q_EMIT sheetNumberChanged();
 }
 
-void PreviewWidget::setEmptyText(const QString &text)
+void PreviewWidget::setExpectedPages(const QList<ExpectedPage> &pages)
 {
-    emptyText_ = text;
+    expected_ = pages;
+    describe();
     update();
 }
 
@@ -241,6 +242,8 @@ void PreviewWidget::paintEvent(QPaintEvent * /*event*/)
     paintDivider(painter, seen);
     if (isRuled_ && !page_.size.isEmpty())
         paintRulers(painter, seen, seen.placement ? seen.placement->outline : QRectF(), palette());
+    if (photo().storedSize().isEmpty() && !page_.size.isEmpty())
+        paintExpectedPages(painter, seen);
     paintText(painter, seen);
     if (hasFocus()) {
         QStyleOptionFocusRect option;
@@ -287,6 +290,31 @@ void PreviewWidget::paintText(QPainter &painter, const PageView &seen) const
     const int margin = isShared() ? 0 : paperMargin;
     painter.drawText(paper.adjusted(margin, margin, -margin, -margin), Qt::AlignCenter | Qt::TextWordWrap,
                      words);
+}
+
+/// Their outlines and numbers, which lie as the pages do.
+void PreviewWidget::paintExpectedPages(QPainter &painter, const PageView &seen) const
+{
+    constexpr double share = 0.3; // of the page's shorter side, for its number
+    constexpr int quarter = 90;
+    const QTransform toRoom = seen.toRoom();
+    for (const ExpectedPage &page : expected_) {
+        const QRectF outline = toRoom.mapRect(page.placement.target & page.placement.clip);
+        painter.setBrush(Qt::NoBrush);
+        painter.setPen(QPen(Qt::lightGray, 1));
+        painter.drawRect(outline);
+        QFont number = font();
+        number.setPixelSize(
+            std::max(1, static_cast<int>(share * std::min(outline.width(), outline.height()))));
+        painter.save();
+        painter.setFont(number);
+        painter.translate(outline.center());
+        painter.rotate(page.placement.quarterTurns * quarter);
+        const double reach = outline.width() + outline.height();
+        painter.drawText(QRectF(-reach, -reach, 2 * reach, 2 * reach), Qt::AlignCenter,
+                         locale().toString(page.number));
+        painter.restore();
+    }
 }
 
 /// What is only known after painting.

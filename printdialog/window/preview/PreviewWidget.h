@@ -32,8 +32,17 @@ public:
     void setSheet(const PrintSheet &sheet, qsizetype current, const PlacementChoice &choice = {});
     /// Which of the job's sheets it is, from 0 on.
     void setSheetNumber(int number, int count);
-    /// What stands on the page while there is no photo, in place of the usual hint.
-    void setEmptyText(const QString &text);
+    /// A page that is still to come.
+    struct ExpectedPage
+    {
+        PhotoPlacement placement;
+        int number; ///< From 1 on.
+
+        bool operator==(const ExpectedPage &) const = default;
+    };
+
+    /// Shows where pages will lie, as long as there is no photo, in place of the usual hint.
+    void setExpectedPages(const QList<ExpectedPage> &pages);
     int sheetNumber() const { return sheetNumber_; }
     int sheetCount() const { return sheetCount_; }
     void setPage(const PageGeometry &page);
@@ -115,6 +124,7 @@ private:
     bool isShared() const { return sheet_.photos.size() > 1; }
     void paintFrame(QPainter &painter, const PageView &seen) const;
     void paintDivider(QPainter &painter, const PageView &seen) const;
+    void paintExpectedPages(QPainter &painter, const PageView &seen) const;
     void paintText(QPainter &painter, const PageView &seen) const;
     std::optional<qsizetype> photoAt(const QPointF &position) const;
     QString rulerText() const;
@@ -141,7 +151,7 @@ private:
     PlacementChoice choice_;
     int sheetNumber_ = 0;
     int sheetCount_ = 0;
-    QString emptyText_; ///< mostly empty
+    QList<ExpectedPage> expected_;
     PageGeometry page_;
     bool isRuled_ = false;
     bool wasReady_ = true;

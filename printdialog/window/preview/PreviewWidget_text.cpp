@@ -17,8 +17,8 @@ namespace printdialog {
 QString PreviewWidget::text() const
 {
     if (photo().storedSize().isEmpty())
-        return emptyText_.isEmpty() ? tr("Nothing to print. Drop photos or PDF documents here, or press Add.")
-                                    : emptyText_;
+        return expected_.isEmpty() ? tr("Nothing to print. Drop photos or PDF documents here, or press Add.")
+                                   : QString();
     if (!detail_.at(current_).isUnreadable())
         return {};
     return photo().document() ? tr("This page cannot be shown") : tr("This photo cannot be shown");
