@@ -131,7 +131,7 @@ UsageFailure readPhotos(const QStringList &arguments, QStringList &photos)
         if (!path)
             return usageFault(
                 UsageFault::Value,
-                CommandLineText::tr("\"%1\" is not a file on this computer. Copy the photo here first.")
+                CommandLineText::tr("\"%1\" is not a file on this computer. Copy it here first.")
                     .arg(argument));
         photos.append(*path);
     }

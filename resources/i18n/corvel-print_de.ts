@@ -372,10 +372,6 @@ und drucken, was von ihnen übrig ist</translation>
         <translation>„%1“ Exemplare lassen sich nicht drucken. Geben Sie eine Zahl von 1 bis %2 an.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is not a file on this computer. Copy the photo here first.</source>
-        <translation>„%1“ ist keine Datei auf diesem Computer. Kopieren Sie das Foto zuerst hierher.</translation>
-    </message>
-    <message>
         <source>There is no scaling &quot;%1&quot;. Choose fit, fill or actual.</source>
         <translation>Es gibt keine Größenanpassung „%1“. Wählen Sie fit, fill oder actual.</translation>
     </message>
@@ -640,6 +636,10 @@ Beispiele:
     <message>
         <source>&quot;-&quot; reads one file from the standard input. Give it once.</source>
         <translation>„-“ liest eine Datei von der Standardeingabe. Geben Sie es einmal an.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a file on this computer. Copy it here first.</source>
+        <translation>„%1“ ist keine Datei auf diesem Rechner. Kopieren Sie sie zuerst hierher.</translation>
     </message>
 </context>
 <context>

@@ -372,10 +372,6 @@ e imprimen lo que queda de ellas</translation>
         <translation>No se pueden imprimir «%1» copias. Indique un número de 1 a %2.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is not a file on this computer. Copy the photo here first.</source>
-        <translation>«%1» no es un archivo de este equipo. Copie primero la foto aquí.</translation>
-    </message>
-    <message>
         <source>There is no scaling &quot;%1&quot;. Choose fit, fill or actual.</source>
         <translation>No existe la escala «%1». Elija fit, fill o actual.</translation>
     </message>
@@ -639,6 +635,10 @@ Ejemplos:
     <message>
         <source>&quot;-&quot; reads one file from the standard input. Give it once.</source>
         <translation>«-» lee un archivo de la entrada estándar. Delo una sola vez.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a file on this computer. Copy it here first.</source>
+        <translation>«%1» no es un archivo de este ordenador. Cópielo aquí primero.</translation>
     </message>
 </context>
 <context>

@@ -372,10 +372,6 @@ photos et impriment ce qu’il en reste</translation>
         <translation>«&#x202f;%1&#x202f;» exemplaires ne peuvent pas être imprimés. Indiquez un nombre de 1 à %2.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is not a file on this computer. Copy the photo here first.</source>
-        <translation>«&#x202f;%1&#x202f;» n’est pas un fichier de cet ordinateur. Copiez d’abord la photo ici.</translation>
-    </message>
-    <message>
         <source>There is no scaling &quot;%1&quot;. Choose fit, fill or actual.</source>
         <translation>La mise à l’échelle «&#xa0;%1&#xa0;» n’existe pas. Choisissez fit, fill ou actual.</translation>
     </message>
@@ -641,6 +637,10 @@ Exemples&#x202f;:
     <message>
         <source>&quot;-&quot; reads one file from the standard input. Give it once.</source>
         <translation>«&#x202f;-&#x202f;» lit un fichier sur l’entrée standard. Donnez-le une seule fois.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a file on this computer. Copy it here first.</source>
+        <translation>«&#x202f;%1&#x202f;» n’est pas un fichier de cet ordinateur. Copiez-le d’abord ici.</translation>
     </message>
 </context>
 <context>

@@ -370,10 +370,6 @@ and print what is left of them</source>
         <translation>「%1」部は印刷できません。1 から %2 までの数を指定してください。</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is not a file on this computer. Copy the photo here first.</source>
-        <translation>「%1」はこのコンピューターのファイルではありません。先に写真をコピーしてください。</translation>
-    </message>
-    <message>
         <source>There is no scaling &quot;%1&quot;. Choose fit, fill or actual.</source>
         <translation>「%1」という拡大縮小はありません。fit、fill、actual のいずれかを指定してください。</translation>
     </message>
@@ -635,6 +631,10 @@ Examples:
     <message>
         <source>&quot;-&quot; reads one file from the standard input. Give it once.</source>
         <translation>「-」は標準入力からファイルを 1 つ読みます。1 回だけ指定してください。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a file on this computer. Copy it here first.</source>
+        <translation>「%1」はこのコンピューターのファイルではありません。先にここへコピーしてください。</translation>
     </message>
 </context>
 <context>
