@@ -236,7 +236,8 @@ void PrintPortal::update()
 {
     using namespace std::chrono;
     idle_.stop();
-    const bool isBusy = !calls_.isEmpty() || !dialogs_.isEmpty() || !runs_.isEmpty() || notice_->isBusy();
+    const bool isBusy =
+        !calls_.isEmpty() || !dialogs_.isEmpty() || !runs_.isEmpty() || arriving_ > 0 || notice_->isBusy();
     const auto now = steady_clock::now();
     idleSince_ = isBusy ? std::nullopt : std::optional(idleSince_.value_or(now));
     if (isBusy)

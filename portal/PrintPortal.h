@@ -95,6 +95,7 @@ private:
     QList<PortalCall *> calls_;
     QList<PrintDialog *> dialogs_;
     QList<PortalRun *> runs_;
+    int arriving_ = 0; ///< documents on their way
     bool isEnding_ = false;
 };
 

@@ -10,6 +10,8 @@
 #include "ProgramName.h"
 #include "UserNotice.h"
 
+#include <QtCore/QPointer>
+
 #include <fcntl.h>
 
 // From a program's document to its job.
@@ -69,24 +71,42 @@ void PrintPortal::print(const PortalRequest &request, int document)
     const QString program = programName(request.program);
     const QString name =
         documentName(program, titleOf(request.title, prepared ? prepared->title : QString(), program));
-    auto *intake = new DocumentIntake(std::move(source), name, settings_.intake, call);
-    connect(intake, &DocumentIntake::taken, call,
-            [this, call, request, prepared, intake] { finish(call, request, prepared, intake->result()); });
+    // Programs end once they have handed over what the user has already sent to the printer: their end, which
+    // closes the call, does not take it back. A dialog that is still to come has to be seen by somebody.
+    QObject *owner = prepared ? static_cast<QObject *>(this) : call;
+    auto *intake = new DocumentIntake(std::move(source), name, settings_.intake, owner);
+    ++arriving_;
+    connect(intake, &QObject::destroyed, this, [this] {
+        --arriving_;
+        update();
+    });
+    connect(intake, &DocumentIntake::taken, owner, [this, call = QPointer(call), request, prepared, intake] {
+        intake->deleteLater();
+        finish(call, request, prepared, intake->result());
+    });
 }
 
 /// The document is here, or cannot be: the caller may close its file.
+/// @param call null, or closed, when its caller has gone
 void PrintPortal::finish(PortalCall *call, const PortalRequest &request,
                          const std::optional<PreparedJob> &prepared, Arrival arrival)
 {
     if (!calls_.contains(call))
-        return; // closed meanwhile
+        call = nullptr;
+    if (!call && !prepared)
+        return;
     const QString program = programName(request.program);
     const QString name =
         documentName(program, titleOf(request.title, prepared ? prepared->title : QString(), program));
+    const auto answer = [this, call](PortalResponse response) {
+        if (!call)
+            return;
+        call->answer(response);
+        close(call);
+    };
     const auto failed = [&](const QString &why) {
         notice_->show(tr("%1 was not printed").arg(name), why);
-        call->answer(PortalResponse::Failed);
-        close(call);
+        answer(PortalResponse::Failed);
     };
     if (!arrival)
         return failed(arrival.failure().text);
@@ -99,12 +119,11 @@ void PrintPortal::finish(PortalCall *call, const PortalRequest &request,
         run(new DocumentRun(job, std::move(*content), name, this), name);
     };
     if (prepared) {
-        call->answer(PortalResponse::Done);
         if (document)
             run(new PagesRun(print.job, filled(print, *document), this), name);
         else
             sendUnread(print.job);
-        return close(call);
+        return answer(PortalResponse::Done);
     }
     const bool isRead = bool(document);
     PrintDialog *dialog = openDialog(call, request, PortalSettings(),

@@ -408,6 +408,28 @@ private Q_SLOTS:
         closeNotice();
     }
 
+    /// Programs end as soon as they have handed over the document: the user has printed it by then.
+    void aPreparedDocumentIsPrintedWithoutItsProgram()
+    {
+        const Reply prepared = prepare();
+        PrintDialog *dialog = onlyDialog();
+        QVERIFY(dialog);
+        QTest::keyClick(button(dialog), Qt::Key_Space);
+        QVERIFY(isAnswered(prepared, 0));
+        auto pipe = pdekit::Pipe::make();
+        const Reply printed =
+            call(u"Print"_s, {u"org.example.Viewer"_s, u""_s, u"Print"_s,
+                              QVariant::fromValue(QDBusUnixFileDescriptor(pipe->reading.number())),
+                              QVariantMap{{u"token"_s, tokenIn(prepared)}}});
+        closeCall(calls_);
+        QVERIFY(isAnswered(printed, 1));
+        const QByteArray content = letterPdf();
+        QCOMPARE(::write(pipe->writing.number(), content.constData(), size_t(content.size())),
+                 content.size());
+        pipe->writing.close();
+        QTRY_COMPARE(printedFiles().size(), 1);
+    }
+
     void itEndsWhenItIsIdle()
     {
         portal_.reset();
