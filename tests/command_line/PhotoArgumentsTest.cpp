@@ -2,12 +2,14 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include "CommandLine.h"
+#include "PdfSamples.h"
 #include "ProgramRun.h"
 #include "Rows.h"
 #include "TestMain.h"
 #include "WindowRun.h"
 
 #include <QtCore/QDir>
+#include <QtCore/QProcess>
 #include <QtCore/QStandardPaths>
 #include <QtCore/QTemporaryDir>
 #include <QtTest/QTest>
@@ -62,6 +64,32 @@ private Q_SLOTS:
         // Without a good one there is nothing to show.
         const ProgramRun none = runProgram(bad, {{u"QT_QPA_PLATFORM"_s, u"offscreen"_s}});
         QCOMPARE(wrongInRefusal(none, 1, bad), QByteArray());
+    }
+
+    void lockedDocumentsAreLeftToTheWindow()
+    {
+        QVERIFY(store(pathOf(u"plain.pdf"_s), pdf_samples::text(2)));
+        const QString locked = pathOf(u"locked.pdf"_s);
+        QCOMPARE(QProcess::execute(u"qpdf"_s, {u"--encrypt"_s, u"secret"_s, u"owner"_s, u"256"_s, u"--"_s,
+                                               pathOf(u"plain.pdf"_s), locked}),
+                 0);
+        const auto setupOf = [](const QStringList &files) {
+            return windowSetup(*CommandLine::parse(QStringList{u"corvel-print"_s, u"--pages=2"_s} + files));
+        };
+        const PrintDialogSetup setup = setupOf({locked, pathOf(u"plain.pdf"_s), samplePhoto});
+        QCOMPARE(setup.photos.size(), 2);
+        QCOMPARE(setup.photoFailures, QStringList());
+        QCOMPARE(setup.furtherPaths, (QStringList{locked, samplePhoto}));
+        QVERIFY(setup.pages.contains(2) && !setup.pages.contains(1));
+        PrintList list;
+        list.photos = {{locked, {}, 3, 1}, {samplePhoto}};
+        QVERIFY(!list.save(pathOf(u"list.json"_s)));
+        const PrintDialogSetup listed =
+            windowSetup(*CommandLine::parse({u"corvel-print"_s, pathOf(u"list.json"_s)}));
+        QCOMPARE(listed.arrangement->photos.size(), 1);
+        QCOMPARE(listed.lockedEntries.size(), 1);
+        QCOMPARE(listed.lockedEntries.at(0).page, 1);
+        QCOMPARE(listed.lockedEntries.at(0).copies, 3);
     }
 
     // What a user of the window prints is not left in the folder that the desktop happens to start programs

@@ -36,14 +36,14 @@ private Q_SLOTS:
             {"actual size", samplePhoto, u"-o PageSize=8x10 --scaling actual --crop 20,90"_s},
             {"adjusted", samplePhoto, u"-o Quality=Fine -o Overcoat=Matte -o Red=10 -o Saturation=7"_s},
             {"sharpened, at 600 dpi", samplePhoto,
-             u"-o SharpnessEnabled=True -o SharpnessIntensity=2 --ppd "_s + pathOf(u"fine.ppd"_s)},
+             u"-o SharpnessEnabled=True -o SharpnessIntensity=2 --ppd "_s + pathOf(u"good.ppd"_s)},
             {"settings mode", samplePhoto,
              u"--mode settings -o Gamma=-9 -o Overcoat=Matte -o Quality=Fine"_s},
             {"colors of its own", pathOf(u"wide.jpg"_s), u"-o Contrast=5"_s},
             {"small, at its side", pathOf(u"small.png"_s), u"-o PageSize=6x8"_s},
         });
-        QByteArray fine = contentOf(QStringLiteral(CORVEL_PPD));
-        QVERIFY(store(pathOf(u"fine.ppd"_s), fine.replace("300x300dpi", "600x600dpi")));
+        QByteArray good = contentOf(QStringLiteral(CORVEL_PPD));
+        QVERIFY(store(pathOf(u"good.ppd"_s), good.replace("300x300dpi", "600x600dpi")));
         QImage wide = QImage(samplePhoto).scaled(1500, 700);
         wide.setColorSpace(QColorSpace::AdobeRgb);
         QVERIFY(wide.save(pathOf(u"wide.jpg"_s)));
