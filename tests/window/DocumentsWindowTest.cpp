@@ -13,11 +13,15 @@
 
 #include <QtCore/QProcess>
 #include <QtCore/QTranslator>
+#include <QtGui/QContextMenuEvent>
 #include <QtWidgets/QCheckBox>
 #include <QtWidgets/QDialog>
+#include <QtWidgets/QMenu>
 #include <QtWidgets/QScrollArea>
 #include <QtWidgets/QScrollBar>
 #include <QtWidgets/QToolButton>
+
+#include <fcntl.h>
 
 namespace testing_support {
 
@@ -287,6 +291,30 @@ private Q_SLOTS:
             made->arrangement.pages,
             (PageChoice{PageChoice::Which::Ranges, *PageRanges::fromText(u"2-900"_s), PageChoice::Set::Odd}));
         QCOMPARE(made->arrangement.layout.pagesPerSheet, 4);
+    }
+
+    // A list names files.
+    void listsNeedFiles_data() { addRows<bool>({{"a file", true}, {"a program's pages", false}}); }
+
+    void listsNeedFiles()
+    {
+        const auto [isFile] = row<bool>();
+        PrintDialogSetup setup = DocumentDialog::setupWith(2);
+        if (!isFile) {
+            const int file =
+                ::open(QFile::encodeName(setup.photos.at(0).path()).constData(), O_RDONLY | O_CLOEXEC);
+            const auto document = Document::open(pdekit::FileDescriptor(file), u"Letter"_s);
+            QVERIFY(document);
+            setup.photos = {Photo::ofPage(*document, 0), Photo::ofPage(*document, 1)};
+        }
+        const DocumentDialog opened(setup);
+        opened.click(u"eachPage"_s);
+        QContextMenuEvent event(QContextMenuEvent::Keyboard, {}, {});
+        QApplication::sendEvent(opened.pane->findChild<PhotoTable *>(), &event);
+        auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
+        QVERIFY(menu);
+        QCOMPARE(menu->actions().constLast()->isEnabled(), isFile);
+        menu->close();
     }
 
     void fitsNarrowWindows_data()

@@ -21,6 +21,7 @@
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QVBoxLayout>
 
+#include <algorithm>
 #include <utility>
 
 namespace printdialog {
@@ -184,7 +185,11 @@ void PhotoPane::showMenu(const QPoint &globalPosition)
     menu->addSeparator();
     connect(menu->addAction(tr("Open List…", "of photos")), &QAction::triggered, this,
             &PhotoPane::browseList);
-    connect(menu->addAction(tr("Save List…", "of photos")), &QAction::triggered, this, &PhotoPane::saveList);
+    QAction *save = menu->addAction(tr("Save List…", "of photos"));
+    connect(save, &QAction::triggered, this, &PhotoPane::saveList);
+    // A list names files, and what a program brings is none.
+    save->setEnabled(std::ranges::none_of(
+        photos(), [](const PlacedPhoto &placed) { return placed.photo.path().isEmpty(); }));
     menu->popup(globalPosition);
 }
 
