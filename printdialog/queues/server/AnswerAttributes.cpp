@@ -3,6 +3,7 @@
 
 #include "AnswerAttributes.h"
 
+#include "IppMessage.h"
 #include "PlainText.h"
 #include "QueueRecord.h"
 
