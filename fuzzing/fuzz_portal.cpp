@@ -10,9 +10,12 @@
 #include "PortalAnswer.h"
 #include "PortalChoices.h"
 #include "PortalSettings.h"
+#include "PpdCheck.h"
 #include "ProgramName.h"
 #include "SessionJob.h"
 #include "SessionOpening.h"
+
+#include <QtCore/QFile>
 
 using namespace printdialog;
 
@@ -40,7 +43,14 @@ struct Dictionaries
 DialogSession &laser()
 {
     static const auto session = [] {
-        auto opened = openBuiltInPrinter(QStringLiteral(CORVEL_LASER_PPD), PanelMode::Constraint);
+        QFile file(QStringLiteral(CORVEL_LASER_PPD));
+        fuzzing::require(file.open(QIODevice::ReadOnly), "the PPD can be read");
+        const QString name = QStringLiteral("laser");
+        const auto ppd = trustPpd(file.readAll(), name);
+        fuzzing::require(bool(ppd), "the PPD can be opened");
+        Queue queue;
+        queue.name = name;
+        auto opened = openQueue(queue, *ppd, PanelMode::Constraint);
         fuzzing::require(bool(opened), "the printer can be opened");
         return *std::move(opened);
     }();
