@@ -84,8 +84,8 @@ PortalAnswer portalAnswer(const PortalSettings &asked, const PrintJob &job, cons
     QVariantMap &settings = answer.settings;
     settings.insert(keys::printer, job.destination.id());
     settings.insert(keys::copies, QStringLiteral("1"));
+    settings.insert(keys::reverse, wordFor(arranged == PagesBy::Program && pages.isReversed));
     if (arranged == PagesBy::Dialog) {
-        settings.insert(keys::reverse, wordFor(false));
         settings.insert(keys::perSheet, QStringLiteral("1"));
         settings.insert(keys::scale, QStringLiteral("100"));
     }

@@ -148,6 +148,7 @@ std::optional<int> PortalSettings::copies() const
 PageChoice PortalSettings::pages() const
 {
     PageChoice choice;
+    choice.isReversed = text(keys::reverse) == QLatin1String("true");
     const QString which = text(keys::pages);
     if (which == QLatin1String("current"))
         choice.which = PageChoice::Which::Current;

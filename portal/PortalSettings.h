@@ -61,9 +61,7 @@ public:
 
     std::optional<QString> printer() const;
     std::optional<int> copies() const;
-    /// The reverse order is not part of it.
     PageChoice pages() const;
-    bool isReversed() const { return text(portal_keys::reverse) == QLatin1String("true"); }
     int pagesPerSheet() const;
     double scale() const;
 

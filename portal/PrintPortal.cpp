@@ -184,7 +184,6 @@ PrintDialog *PrintPortal::openDialog(PortalCall *call, const PortalRequest &requ
         .choices = [settings](const OptionSource &source) {
             return portalChoices(settings, source);
         }};
-    setup.program->pages.isReversed = settings.isReversed();
     setup.style = programStyle(settings);
     setup.arrangement = pages;
     if (const auto printer = settings.printer())

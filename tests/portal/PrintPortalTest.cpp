@@ -354,29 +354,37 @@ private Q_SLOTS:
     /// Several pages on a sheet are the dialog's work, or the program's: never both.
     void pagesAreArrangedOnce_data()
     {
-        using Row = std::tuple<const char *, QVariantMap, QVariantMap, int>;
+        using Row = std::tuple<const char *, QVariantMap, QString, QVariantMap, int>;
         const auto upTo = [](const QString &order) {
             QVariantMap settings = {{u"number-up"_s, u"2"_s}, {u"reverse"_s, u"true"_s}};
             if (!order.isEmpty())
                 settings.insert(u"number-up-layout"_s, order);
             return settings;
         };
-        addRows<QVariantMap, QVariantMap, int>({
-            Row{"by the dialog", upTo({}), {{u"number-up"_s, u"1"_s}, {u"reverse"_s, u"false"_s}}, 1},
-            Row{"in reading order", upTo(u"lrtb"_s), {{u"number-up"_s, u"1"_s}}, 1},
+        addRows<QVariantMap, QString, QVariantMap, int>({
+            Row{"by the dialog", upTo({}), u""_s, {{u"number-up"_s, u"1"_s}, {u"reverse"_s, u"false"_s}}, 1},
+            Row{"in reading order", upTo(u"lrtb"_s), u""_s, {{u"number-up"_s, u"1"_s}}, 1},
             Row{"in an order of the program's",
                 upTo(u"tblr"_s),
+                u""_s,
                 {{u"number-up"_s, u"2"_s}, {u"reverse"_s, u"true"_s}},
                 2},
-            Row{"scaled", {{u"scale"_s, u"50"_s}}, {{u"scale"_s, u"100"_s}}, 2},
+            Row{"in the other order, chosen here",
+                upTo(u"tblr"_s),
+                u"reversePages"_s,
+                {{u"number-up"_s, u"2"_s}, {u"reverse"_s, u"false"_s}},
+                2},
+            Row{"scaled", {{u"scale"_s, u"50"_s}}, u""_s, {{u"scale"_s, u"100"_s}}, 2},
         });
     }
     void pagesAreArrangedOnce()
     {
-        const auto [settings, answered, sides] = row<QVariantMap, QVariantMap, int>();
+        const auto [settings, switched, answered, sides] = row<QVariantMap, QString, QVariantMap, int>();
         const Reply prepared = prepare(settings);
         PrintDialog *dialog = onlyDialog();
         QVERIFY(dialog);
+        if (!switched.isEmpty())
+            QTest::keyClick(dialog->findChild<QWidget *>(switched), Qt::Key_Space);
         QTest::keyClick(button(dialog), Qt::Key_Space);
         QVERIFY(isAnswered(prepared, 0));
         for (auto entry = answered.cbegin(); entry != answered.cend(); ++entry)
@@ -468,6 +476,7 @@ private Q_SLOTS:
         const auto isServed = [this] {
             return frontEnd_.interface()->isServiceRegistered(PrintPortal::busName()).value();
         };
+        QTRY_VERIFY(!isServed());
         QProcess first;
         start(first, {});
         QTRY_VERIFY(isServed());
