@@ -8,7 +8,10 @@
 
 #include <QtCore/QDir>
 #include <QtGui/QImageReader>
+#include <QtGui/QPageSize>
 #include <QtGui/QPainter>
+#include <QtGui/QPdfWriter>
+#include <QtGui/QTextDocument>
 
 #include <cstdio>
 #include <functional>
@@ -77,6 +80,42 @@ QList<Photo> tintedPhotos(const QDir &folder, int count)
         photos += *Photo::open(path);
     }
     return photos;
+}
+
+/// An article as a browser prints it.
+QString article(const QDir &folder)
+{
+    QString text =
+        u"<h1>A darkroom on the kitchen table</h1><p><i>From an enlarger in the attic to prints that "
+        "last: what it takes, and what it does not.</i></p>"_s;
+    const QString photo = tintedPhotos(folder, 1).constFirst().path();
+    for (const QString &heading :
+         {u"Light"_s, u"Paper"_s, u"Water"_s, u"The first sheet"_s, u"Test strips"_s, u"Dodging"_s}) {
+        text += u"<h2>%1</h2><p><img src=\"%2\" width=\"470\"></p>"_s.arg(heading, photo);
+        for (int i = 0; i < 12; ++i)
+            text +=
+                u"<p>The lamp is the part that everybody has an opinion about. A small one will do: the "
+                "paper needs seconds, not a bright room, and what matters is that the light falls on all of "
+                "the sheet alike. Switch it on, wait until it is warm, and measure the corners.</p>"_s;
+    }
+    QTextDocument document;
+    document.setDefaultStyleSheet(u"h1 { color: #1f4e8c; }"_s);
+    document.setHtml(text);
+    const QString path = folder.filePath(u"Darkroom.pdf"_s);
+    QPdfWriter writer(path);
+    writer.setPageSize(QPageSize(QPageSize::A4));
+    document.print(&writer);
+    return path;
+}
+
+/// A window with a document on the laser printer.
+PrintDialogSetup withDocument(const QString &path, const QString &layout)
+{
+    PrintDialogSetup setup = setupFor(PanelMode::Constraint);
+    setup.ppdFile = QStringLiteral(CORVEL_LASER_PPD);
+    setup.photos = *Photo::openAll(path);
+    setup.style = ArrangementStyle{{}, *SheetLayout::fromText(layout)};
+    return setup;
 }
 
 /// A window with several photos in a style, and its controls for that open.
@@ -188,6 +227,15 @@ int main(int argc, char *argv[])
             opened.find<PhotoPane>(u"photos"_s)->model()->select({1, 2, 3, 5, 6}, 3);
         },
         arranged(photos, {Scaling::Fill}, u"2x2"_s));
+    const QString document = article(QDir(files.path()));
+    const auto chosen = [](const OpenedDialog &opened) {
+        opened.dialog->resize(1000, 700);
+        auto *model = opened.find<PhotoPane>(u"photos"_s)->model();
+        model->setPages({PageChoice::Which::Ranges, *PageRanges::fromText(u"2-5"_s)});
+        model->setCurrent(1);
+    };
+    isDone &= picture(folder, u"dialog-document"_s, chosen, withDocument(document, u"single"_s));
+    isDone &= picture(folder, u"dialog-pages"_s, chosen, withDocument(document, u"pages:2"_s));
     QApplication::setPalette(darkPalette());
     isDone &= picture(folder, u"dialog-dark"_s, page(1));
     if (!isDone)

@@ -53,6 +53,13 @@ bool PrintSheet::hasPages() const
     return std::ranges::any_of(photos, [](const SheetPhoto &laid) { return laid.photo.document(); });
 }
 
+bool PrintSheet::isReadTurned() const
+{
+    return photos.size() > 1 && std::ranges::all_of(photos, [](const SheetPhoto &laid) {
+               return laid.photo.document() && laid.placement.pageTurns == 1;
+           });
+}
+
 QList<Photo> JobSheets::photosToCheck() const
 {
     QList<Photo> checked;

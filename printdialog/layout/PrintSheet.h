@@ -51,6 +51,8 @@ struct PrintSheet
     bool isPlain() const;
     /// Whether a page of a document lies on it.
     bool hasPages() const;
+    /// Whether it has several pages, all on their side: it is turned to be read.
+    bool isReadTurned() const;
 };
 
 /// What one job prints: the sheet of a photo, or all consecutive sheets with pages of documents. A value.
@@ -58,7 +60,7 @@ struct JobSheets
 {
     QString name; ///< For people, and the job's title.
     QList<PrintSheet> sheets;
-    int copies = 1; ///< Of all of them; the job's own copies multiply them.
+    int copies = 1;          ///< Of all of them; the job's own copies multiply them.
     bool isReversed = false; ///< They are in the other order: the last one comes first.
 
     JobSheets() = default;

@@ -74,6 +74,7 @@ QImage pagePicture(const PagePictureRequest &request, int longestSide)
     PageView view;
     view.page = request.page;
     view.isShared = sheet.photos.size() > 1;
+    view.isReadTurned = sheet.isReadTurned();
     if (!view.isShared)
         view.placement = sheet.photos.constFirst().placement;
     view.dotsPerInch = request.dotsPerInch;

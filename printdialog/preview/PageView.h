@@ -20,6 +20,7 @@ struct PageView
     PageGeometry page;
     std::optional<PhotoPlacement> placement; ///< of the current photo; nothing without one
     bool isShared = false;      ///< whether the page has several photos, and is shown as the paper lies
+    bool isReadTurned = false;  ///< whether it is shown a quarter turn to the left all the same
     QSizeF room;                ///< the picture's size
     double margin = 0;          ///< kept free around the entire page
     double ratio = 1;           ///< device pixels to a logical one
@@ -54,7 +55,7 @@ struct PageView
 
 private:
     QRectF shown() const;
-    bool isTurned() const { return placement && !isShared && placement->pageTurns != 0; }
+    bool isTurned() const { return isReadTurned || (placement && !isShared && placement->pageTurns != 0); }
     double fittingScale() const;
     double scale() const;
     PageView limited() const;

@@ -167,6 +167,7 @@ PageView PreviewWidget::view() const
     view.page = page_;
     view.placement = placement();
     view.isShared = isShared();
+    view.isReadTurned = sheet_.isReadTurned() || areExpectedTurned();
     view.room = size();
     view.margin = paperMargin + (isRuled_ ? rulerWidth(font()) : 0);
     view.ratio = devicePixelRatioF();
@@ -292,6 +293,13 @@ void PreviewWidget::paintText(QPainter &painter, const PageView &seen) const
                      words);
 }
 
+bool PreviewWidget::areExpectedTurned() const
+{
+    return photo().storedSize().isEmpty() && !expected_.isEmpty() &&
+           std::ranges::all_of(expected_,
+                               [](const ExpectedPage &page) { return page.placement.pageTurns == 1; });
+}
+
 /// Their outlines and numbers, which lie as the pages do.
 void PreviewWidget::paintExpectedPages(QPainter &painter, const PageView &seen) const
 {
@@ -309,7 +317,7 @@ void PreviewWidget::paintExpectedPages(QPainter &painter, const PageView &seen) 
         painter.save();
         painter.setFont(number);
         painter.translate(outline.center());
-        painter.rotate(page.placement.quarterTurns * quarter);
+        painter.rotate((page.placement.quarterTurns - (seen.isReadTurned ? 1 : 0)) * quarter);
         const double reach = outline.width() + outline.height();
         painter.drawText(QRectF(-reach, -reach, 2 * reach, 2 * reach), Qt::AlignCenter,
                          locale().toString(page.number));

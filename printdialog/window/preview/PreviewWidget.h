@@ -124,6 +124,7 @@ private:
     bool isShared() const { return sheet_.photos.size() > 1; }
     void paintFrame(QPainter &painter, const PageView &seen) const;
     void paintDivider(QPainter &painter, const PageView &seen) const;
+    bool areExpectedTurned() const;
     void paintExpectedPages(QPainter &painter, const PageView &seen) const;
     void paintText(QPainter &painter, const PageView &seen) const;
     std::optional<qsizetype> photoAt(const QPointF &position) const;
