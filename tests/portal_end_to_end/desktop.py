@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: Corvel print dialog authors
 # SPDX-License-Identifier: Apache-2.0
-"""A desktop for a test: an X display with a window manager, a session bus with Debian's xdg-desktop-portal, and keys."""
+"""A desktop for a test: an X display with a window manager, a session bus with Debian's xdg-desktop-portal, keys."""
 
 import ctypes
 import os
@@ -15,8 +15,8 @@ PACKAGING = pathlib.Path(__file__).parents[2] / "packaging"
 NAME = "org.freedesktop.impl.portal.desktop.corvel"
 
 
-class Missing(Exception):
-    """What this machine has not got, or refuses."""
+class Refused(Exception):
+    """What this machine does not allow."""
 
 
 def until(condition, what, seconds=10):
@@ -36,7 +36,7 @@ class Desktop:
         """`back_end` is the program that serves the print portal; the bus starts it."""
         for program in PORTAL, "Xvfb", "openbox", "dbus-daemon", "xdotool", "pdftoppm":
             if not shutil.which(program):
-                raise Missing(f"{program} is missing (./test installs it)")
+                raise SystemExit(f"{program} is missing: ./test installs it")
         self.folder = pathlib.Path(tempfile.mkdtemp(prefix="portal-"))
         self.children = []
         try:
@@ -70,20 +70,21 @@ class Desktop:
         os.environ["DBUS_SESSION_BUS_ADDRESS"] = self.environment["DBUS_SESSION_BUS_ADDRESS"]
 
     def open_display(self):
-        """A server that ends can remove the socket of one that starts, which got its number. Then another is started."""
+        """A server that ends can remove the socket of one that has just got its number. Then another is started."""
         self.x = ctypes.CDLL("libX11.so.6")
         self.x.XOpenDisplay.restype = ctypes.c_void_p
         for _ in range(5):
-            self.environment["DISPLAY"] = ":" + self.first_line("Xvfb", "-displayfd", "1", "-screen", "0", "1600x1200x24",
-                                                               "-nolisten", "tcp")
+            self.environment["DISPLAY"] = ":" + self.first_line("Xvfb", "-displayfd", "1", "-screen", "0",
+                                                               "1600x1200x24", "-nolisten", "tcp")
             self.display = ctypes.c_void_p(self.x.XOpenDisplay(self.environment["DISPLAY"].encode()))
             if self.display:
                 return
-        raise Missing(f"Xvfb takes no connections: {self.log().splitlines()[-1:]}")
+        raise Refused(f"Xvfb takes no connections: {self.log().splitlines()[-1:]}")
 
     def child(self, *command, environment=None, **how):
         with open(self.folder / "log", "ab") as log:
-            child = subprocess.Popen(["setpriv", "--pdeathsig", "TERM", *command], env=self.environment | (environment or {}), stdin=subprocess.DEVNULL,
+            child = subprocess.Popen(["setpriv", "--pdeathsig", "TERM", *command],
+                                     env=self.environment | (environment or {}), stdin=subprocess.DEVNULL,
                                      **({"stdout": log, "stderr": log} | how))
         self.children.append(child)
         return child
@@ -93,7 +94,7 @@ class Desktop:
         line = child.stdout.readline().decode().strip()
         child.stdout.close()
         if not line:
-            raise Missing(f"{command[0]} does not start: {self.log().splitlines()[-1:]}")
+            raise Refused(f"{command[0]} does not start: {self.log().splitlines()[-1:]}")
         return line
 
     def log(self):

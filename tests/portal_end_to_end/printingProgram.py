@@ -1,7 +1,7 @@
 # SPDX-FileCopyrightText: Corvel print dialog authors
 # SPDX-License-Identifier: Apache-2.0
-"""A GTK program that prints two pages, each with a rectangle and its number: printingProgram.py [KEY=VALUE...], which are
-print settings. It says what became of it and with which settings, as JSON on a line."""
+"""A GTK program that prints two pages, each with a rectangle and its number: printingProgram.py [KEY=VALUE...], which
+are print settings. It says what became of it and with which settings, as JSON on a line."""
 
 import json
 import sys
