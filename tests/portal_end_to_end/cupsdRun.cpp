@@ -1,10 +1,9 @@
 // SPDX-FileCopyrightText: Corvel print dialog authors
 // SPDX-License-Identifier: Apache-2.0
 //
-// cupsdRun PPD COMMAND...: runs a command beside a private print server whose one queue, "laser", has the PPD.
-// Of each job that the server prints, its backend leaves the folder $CORVEL_PRINTED/ID. Ends with the
+// cupsdRun PPD COMMAND...: runs a command beside a private print server with one queue, which has the PPD and is named
+// after its file. Of each job that the server prints, its backend leaves the folder $CORVEL_PRINTED/ID. Ends with the
 // command's exit status; 77 without a print server.
-
 #include "PrivateCupsd.h"
 
 #include <QtCore/QCoreApplication>
@@ -24,12 +23,13 @@ int main(int argc, char *argv[])
         std::printf("SKIP: %s\n", qPrintable(failure));
         return 77;
     }
-    const QString queue = QStringLiteral("laser");
+    const QString queue = QFileInfo(ppd).completeBaseName().toLower();
     if (arguments.size() < 3 || !ppd.open(QIODevice::ReadOnly) || !server.addQueue(queue, ppd.readAll()) ||
         !server.run(QStringLiteral("lpadmin"), {QStringLiteral("-d"), queue})) {
         std::puts("The queue cannot be made.");
         return 1;
     }
-    qputenv("CORVEL_PRINTED", QFile::encodeName(QFileInfo(server.socketPath()).path() + QLatin1String("/out")));
+    qputenv("CORVEL_PRINTED",
+            QFile::encodeName(QFileInfo(server.socketPath()).path() + QLatin1String("/out")));
     return QProcess::execute(arguments.at(2), arguments.mid(3));
 }
