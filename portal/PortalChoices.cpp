@@ -71,12 +71,12 @@ bool isWanted(const PageSetup &page)
     return !page.ppdName.isEmpty() || !page.name.isEmpty() || !page.millimeters.isEmpty();
 }
 
-/// Of several sizes with these dimensions, the one with margins most like the program's; the marked one when
-/// it has none.
-std::optional<QString> sizeLike(const PageSetup &page, const OptionSource &source)
+/// Of several sizes with these dimensions, in points, the one with margins most like the program's; without
+/// them, and among equals, the preferred one.
+std::optional<QString> sizeLike(const QSizeF &wanted, const PageSetup &page, const OptionSource &source,
+                                const QString &preferred)
 {
-    const QSizeF wanted = page.millimeters * pointsPerMillimeter;
-    const QString marked = source.markedChoice(source.pageSizeKey()).value_or(QString());
+    constexpr double rounding = 0.1; // millimeters
     std::optional<QString> best;
     double least = std::numeric_limits<double>::max();
     for (const PageSize &size : source.pageSizes()) {
@@ -84,7 +84,7 @@ std::optional<QString> sizeLike(const PageSetup &page, const OptionSource &sourc
             std::abs(size.points.height() - wanted.height()) > sizeTolerance)
             continue;
         const double distance =
-            page.margins ? page.distance({size.points, size.imageable}) : (size.keyword == marked ? 0 : 1);
+            page.distance({size.points, size.imageable}) - (size.keyword == preferred ? rounding : 0);
         if (distance < least) {
             least = distance;
             best = size.keyword;
@@ -93,17 +93,22 @@ std::optional<QString> sizeLike(const PageSetup &page, const OptionSource &sourc
     return best;
 }
 
+/// A name is that of a sheet of paper, which a printer may have with and without margins.
 std::optional<QString> pageSizeFor(const PageSetup &page, const OptionSource &source)
 {
     for (const QString &name : {page.ppdName, page.name}) {
-        if (!name.isEmpty() && source.choice(source.pageSizeKey(), name))
-            return name;
+        const Choice *named = name.isEmpty() ? nullptr : source.choice(source.pageSizeKey(), name);
+        const auto size = named ? source.pageSize(named->keyword) : std::nullopt;
+        if (size)
+            return sizeLike(size->points, page, source, size->keyword).value_or(name);
     }
     if (page.millimeters.isEmpty())
         return std::nullopt;
-    if (const auto size = sizeLike(page, source))
+    const QSizeF wanted = page.millimeters * pointsPerMillimeter;
+    const QString marked = source.markedChoice(source.pageSizeKey()).value_or(QString());
+    if (const auto size = sizeLike(wanted, page, source, marked))
         return size;
-    const QString custom = customPageKeyword(page.millimeters * pointsPerMillimeter);
+    const QString custom = customPageKeyword(wanted);
     return source.pageSize(custom) ? std::optional(custom) : std::nullopt;
 }
 

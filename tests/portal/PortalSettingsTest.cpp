@@ -253,6 +253,32 @@ private Q_SLOTS:
                  answer.settings);
     }
 
+    void aSheetIsChosenByTheProgramsMargins_data()
+    {
+        using Row = std::tuple<const char *, QVariantMap, QString>;
+        const auto named = [](QVariantMap setup, const char *key, const QString &name) {
+            setup.insert(QLatin1String(key), name);
+            return setup;
+        };
+        addRows<QVariantMap, QString>({
+            Row{"none", page(101.6, 152.4, 0), u"4x6.Fullbleed"_s},
+            Row{"none, and the paper's name", named(page(101.6, 152.4, 0), "PPDName", u"4x6"_s),
+                u"4x6.Fullbleed"_s},
+            Row{"some", named(page(101.6, 152.4, 6), "Name", u"na_index-4x6_4x6in"_s), u"4x6"_s},
+            Row{"not given, but a name", {{u"PPDName"_s, u"5x7"_s}}, u"5x7"_s},
+            Row{"not given", page(101.6, 152.4), u"4x6.Fullbleed"_s},
+        });
+    }
+
+    void aSheetIsChosenByTheProgramsMargins()
+    {
+        const auto [setup, size] = row<QVariantMap, QString>();
+        const auto photo = openBuiltInPrinter(std::nullopt, PanelMode::Constraint);
+        QVERIFY(photo);
+        const auto made = portalChoices(PortalSettings::read({}, setup), (*photo)->options());
+        QCOMPARE(made.options.value(0).second, size);
+    }
+
     void theRealMarginsAreAnswered()
     {
         QVERIFY(laser_->choose(u"PageSize"_s, u"A4"_s).letsThrough());
