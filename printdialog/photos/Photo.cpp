@@ -23,7 +23,6 @@
 #include <atomic>
 #include <mutex>
 #include <new>
-#include <unistd.h>
 
 namespace printdialog {
 namespace {
@@ -31,7 +30,6 @@ namespace {
 constexpr qint64 headSize = 4096;
 /// Of a JPEG file, in bytes: enough for the headers that cameras write.
 constexpr qint64 jpegHeadersSize = 128 << 10;
-constexpr double pointsOfInch = 72;
 constexpr int maximumRasterSide = 32767; ///< In pixels; the limit of QPainter.
 
 /// The size of a GIF's logical screen (GIF89a, 18); empty when the file is cut off before it.
@@ -40,49 +38,6 @@ QSize gifCanvas(QByteArrayView gif)
     if (gif.size() < 10)
         return {};
     return {qFromLittleEndian<quint16>(gif.data() + 6), qFromLittleEndian<quint16>(gif.data() + 8)};
-}
-
-/// Nothing when it cannot be read.
-std::optional<QByteArray> contentOf(int descriptor)
-{
-    const off_t size = lseek(descriptor, 0, SEEK_END);
-    QByteArray bytes(std::max<off_t>(size, 0), Qt::Uninitialized);
-    qsizetype done = 0;
-    while (done < bytes.size()) {
-        const ssize_t count =
-            pread(descriptor, bytes.data() + done, static_cast<std::size_t>(bytes.size() - done), done);
-        if (count <= 0)
-            return std::nullopt;
-        done += count;
-    }
-    return bytes;
-}
-
-PhotoFault faultOf(DocumentFault fault)
-{
-    switch (fault) {
-    case DocumentFault::NotFound:
-        return PhotoFault::NotFound;
-    case DocumentFault::NotReadable:
-        return PhotoFault::NotReadable;
-    case DocumentFault::Empty:
-        return PhotoFault::Empty;
-    case DocumentFault::TooLarge:
-    case DocumentFault::TooCostly:
-        return PhotoFault::TooLarge;
-    case DocumentFault::NotADocument:
-        return PhotoFault::UnknownType;
-    case DocumentFault::NeedsPassword:
-    case DocumentFault::WrongPassword:
-        return PhotoFault::NeedsPassword;
-    case DocumentFault::Changed:
-        return PhotoFault::Changed;
-    case DocumentFault::Unavailable:
-        return PhotoFault::NeedsPackage;
-    case DocumentFault::Broken:
-        break;
-    }
-    return PhotoFault::Broken;
 }
 
 } // namespace
@@ -123,41 +78,6 @@ Result<Photo, PhotoFault> Photo::open(const QString &path)
     return photo;
 }
 
-Photo Photo::ofPage(const Document &document, int page)
-{
-    Photo photo;
-    photo.path_ = document.path();
-    photo.document_ = document;
-    photo.page_ = page;
-    photo.format_ = "pdf";
-    photo.resolution_ = pageResolution;
-    const QSizeF pixels = document.pageSize(page) * (pageResolution / pointsOfInch);
-    photo.storedSize_ = pixels.toSize().expandedTo(QSize(1, 1));
-    return photo;
-}
-
-Result<QList<Photo>, PhotoFault> Photo::openAll(const QString &path, const QString &password)
-{
-    const auto file = PhotoFile::open(path);
-    if (!file)
-        return file.failure();
-    if (!Document::isDocument(file->part(0, headSize))) {
-        auto photo = open(path);
-        if (!photo)
-            return photo.failure();
-        return QList<Photo>{*std::move(photo)};
-    }
-    const auto document = Document::open(path, password);
-    if (!document)
-        return Failure<PhotoFault>{faultOf(document.failure().reason), document.failure().text,
-                                   document.failure().detail};
-    QList<Photo> pages;
-    pages.reserve(document->pageCount());
-    for (int page = 0; page < document->pageCount(); ++page)
-        pages += ofPage(*document, page);
-    return pages;
-}
-
 std::optional<Failure<PhotoFault>> Photo::inspect(const PhotoFile &file)
 {
     if (format_ == "jpeg") {
@@ -175,24 +95,11 @@ std::optional<Failure<PhotoFault>> Photo::inspect(const PhotoFile &file)
                                           : inspectOther(**content);
 }
 
-/// Of the whole document, without a password.
-Result<PhotoContent::Bytes, PhotoFault> Photo::documentBytes() const
-{
-    const auto file = document_.content();
-    if (!file)
-        return Failure<PhotoFault>{faultOf(file.failure().reason), file.failure().text,
-                                   file.failure().detail};
-    auto bytes = contentOf(*file);
-    if (!bytes)
-        return PhotoFile::changed(path_);
-    return std::make_shared<const QByteArray>(*std::move(bytes));
-}
-
 Result<PhotoContent::Bytes, PhotoFault> Photo::bytes() const
 {
-    if (document())
-        return documentBytes();
     try {
+        if (document())
+            return documentBytes();
         auto content = content_ ? content_->read() : std::make_shared<const QByteArray>();
         // Whoever wants to can write to a file and set its time back. The rows of another PNG might be
         // shorter.
@@ -221,13 +128,6 @@ QDateTime Photo::modified() const
 QString Photo::fileName() const
 {
     return document() ? document_.name() : QFileInfo(path_).fileName();
-}
-
-QString Photo::name() const
-{
-    if (!document() || document_.pageCount() == 1)
-        return fileName();
-    return tr("%1, page %2", "a page of a document").arg(fileName(), QString::number(page_ + 1));
 }
 
 std::optional<Failure<PhotoFault>> Photo::inspectJpeg(JpegHeader header)
