@@ -4,6 +4,7 @@
 #include "BatchRun.h"
 #include "CommandLine.h"
 #include "Console.h"
+#include "DescriptorLimit.h"
 #include "GuardedApplication.h"
 #include "Listings.h"
 #include "PortalSwitch.h"
@@ -140,6 +141,7 @@ int main(int argc, char *argv[])
     Console::prepareStreams();
     std::signal(SIGCHLD,
                 SIG_DFL); // a parent may have set it to ignored; then no child's end would be reported
+    raiseDescriptorLimit();
     QStringList arguments;
     for (int i = 0; i < argc; ++i)
         arguments.append(QFile::decodeName(argv[i]));

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: Corvel print dialog authors
 // SPDX-License-Identifier: Apache-2.0
 
+#include "DescriptorLimit.h"
 #include "GuardedApplication.h"
 #include "PrintPortal.h"
 #include "ProgramTexts.h"
@@ -58,6 +59,7 @@ PrintPortal::Settings settingsOf(const QStringList &arguments)
 int main(int argc, char *argv[])
 {
     std::signal(SIGCHLD, SIG_DFL); // a parent may have set it to ignored
+    raiseDescriptorLimit();
     qInstallMessageHandler(logQtMessage);
     QCoreApplication::setApplicationName(QStringLiteral("corvel-print-portal"));
     QCoreApplication::setApplicationVersion(QStringLiteral(CORVEL_PRINT_VERSION));

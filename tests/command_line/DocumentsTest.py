@@ -4,6 +4,7 @@
 
 import json
 import re
+import resource
 import subprocess
 import sys
 import unittest
@@ -68,6 +69,15 @@ class DocumentsTest(ProgramTest):
         done = subprocess.run(command, input=pdf(3), capture_output=True, timeout=60)
         self.assertEqual((done.returncode, done.stderr), (0, b""))
         self.assertEqual(self.printed("standard-input"), [[2]])
+
+    def test_prints_more_documents_than_files_are_usually_open(self):
+        paths = [self.stored(f"{number}.pdf", pdf(1)) for number in range(40)]
+        hard = resource.getrlimit(resource.RLIMIT_NOFILE)[1]
+        command = [PROGRAM, "--batch", "--printer", "built-in", "--output", self.out, "--one-pdf", "all", *paths]
+        done = subprocess.run(command, capture_output=True, timeout=60,
+                              preexec_fn=lambda: resource.setrlimit(resource.RLIMIT_NOFILE, (40, hard)))
+        self.assertEqual((done.returncode, done.stderr), (0, b""))
+        self.assertEqual(self.printed("all"), [[1]] * 40)
 
     def test_prints_a_list(self):
         content = {"format": "corvel-print-list", "version": 1, "pages": "-6", "reverse": True,
