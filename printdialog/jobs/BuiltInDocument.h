@@ -47,8 +47,8 @@ public:
     /// whose photos were checked before and turn out to be unusable gets no page, and other sheets can still
     /// be added. Any other failure spoils the document.
     std::optional<Failure<OutputFault>> add(const PrintSheet &sheet);
-    /// Adds a page with nothing on it, to a document with pages of documents.
-    void addEmptySide() { writer_->addEmptySide(job_.page); }
+    /// See SheetPdf::putFrontsFirst().
+    void putFrontsFirst() { writer_->putFrontsFirst(); }
     /// Call at most once, with at least one page.
     Result<PrintedFiles, OutputFault> finish();
 

@@ -17,12 +17,12 @@ Result<PrintedFiles, OutputFault> printAs(const QString &name, const JobSheets &
     auto document = BuiltInDocument::open(name, job, folder, sheets.hasPages());
     if (!document)
         return document.failure();
-    for (const PrintSheet *side : sidesOf(sheets, job)) {
-        if (!side)
-            (*document)->addEmptySide();
-        else if (const auto failure = (*document)->add(*side))
+    for (const PrintSheet &sheet : sheets.sheets) {
+        if (const auto failure = (*document)->add(sheet))
             return *failure;
     }
+    if (hasBacksFirst(sheets, job))
+        (*document)->putFrontsFirst();
     return (*document)->finish();
 }
 

@@ -12,7 +12,6 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <utility>
 
 namespace printdialog {
 
@@ -80,21 +79,12 @@ bool isWholeDocument(const JobSheets &sheets, const PrintJob &job)
     });
 }
 
-QList<const PrintSheet *> sidesOf(const JobSheets &sheets, const PrintJob &job)
+bool hasBacksFirst(const JobSheets &sheets, const PrintJob &job)
 {
-    QList<const PrintSheet *> sides;
-    for (const PrintSheet &sheet : sheets.sheets)
-        sides += &sheet;
     QMap<QString, QString> choices = job.options;
     if (job.ipp)
         choices.insert(sidesName, job.ipp->attributes.text(sidesName).value_or(QString()));
-    if (!sheets.isReversed || !JobTemplate::isTwoSided(choices) || sides.size() < 2)
-        return sides;
-    if (sides.size() % 2 != 0)
-        sides.prepend(nullptr); // the back of the last page
-    for (qsizetype i = 0; i + 1 < sides.size(); i += 2)
-        std::swap(sides[i], sides[i + 1]);
-    return sides;
+    return sheets.isReversed && JobTemplate::isTwoSided(choices);
 }
 
 Result<JobDocument, PdfFault> jobDocument(const JobSheets &sheets, const PrintJob &job)
@@ -121,12 +111,12 @@ Result<JobDocument, PdfFault> jobDocument(const JobSheets &sheets, const PrintJo
     QBuffer buffer(&document.data);
     buffer.open(QIODevice::WriteOnly);
     SheetPdf pdf(buffer, sheets.hasPages());
-    for (const PrintSheet *side : sidesOf(sheets, job)) {
-        if (!side)
-            pdf.addEmptySide(job.page);
-        else if (const auto failure = pdf.add(*side, job.page, job.offset))
+    for (const PrintSheet &each : sheets.sheets) {
+        if (const auto failure = pdf.add(each, job.page, job.offset))
             return *failure;
     }
+    if (hasBacksFirst(sheets, job))
+        pdf.putFrontsFirst();
     if (const auto failure = pdf.finish())
         return *failure;
     document.mimeType = pdfType;

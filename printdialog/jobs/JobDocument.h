@@ -31,10 +31,8 @@ bool canGoUntouched(const Photo &photo, const PageGeometry &page, const PhotoPla
 /// sheet of that size, so that the document prints as it is.
 bool isWholeDocument(const JobSheets &sheets, const PrintJob &job);
 
-/// The sides that the job's paper gets, in the order in which they are sent; null for one that stays empty.
-/// Sheets in the other order that are printed on both sides keep their backs: the last one may have an empty
-/// one. Valid as long as the sheets.
-QList<const PrintSheet *> sidesOf(const JobSheets &sheets, const PrintJob &job);
+/// Whether backs come before their fronts: the sheets are in the other order, and printed on both sides.
+bool hasBacksFirst(const JobSheets &sheets, const PrintJob &job);
 
 /// Makes the document for a job's sheets. It is the unchanged file of a photo that is alone on its sheet when
 /// the queue passes that type to its printer as it is and canGoUntouched(); a document when

@@ -81,6 +81,7 @@ Result<QString, SheetPrinter::Fault> SheetPrinter::addPages(const JobSheets &she
         }
         ++pages_;
     }
+    hasBacksFirst_ = hasBacksFirst(sheets, job_);
     return tr("Printed %1: page %2 of %3")
         .arg(sheets.name, QString::number(pages_), documentName_ + PrintedNames::pageSuffix);
 }
@@ -88,6 +89,8 @@ Result<QString, SheetPrinter::Fault> SheetPrinter::addPages(const JobSheets &she
 Result<QString, SheetPrinter::Fault> SheetPrinter::finishDocument()
 {
     const auto document = std::exchange(document_, nullptr);
+    if (hasBacksFirst_)
+        document->putFrontsFirst();
     const auto files = document->finish();
     if (!files)
         return failureOf(files.failure());

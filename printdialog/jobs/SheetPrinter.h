@@ -131,7 +131,8 @@ private:
     std::unique_ptr<BuiltInDocument> document_;
     QString documentName_; ///< without suffix
     int pages_ = 0;
-    bool hasPages_ = false; ///< of documents
+    bool hasPages_ = false;      ///< of documents
+    bool hasBacksFirst_ = false; ///< of the one document
 };
 
 } // namespace printdialog

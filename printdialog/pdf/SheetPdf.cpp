@@ -86,9 +86,14 @@ SheetPdf::Failed SheetPdf::addComposed(const PrintSheet &sheet, const PageGeomet
     return std::nullopt;
 }
 
-void SheetPdf::addEmptySide(const PageGeometry &page)
+void SheetPdf::putFrontsFirst()
 {
-    sheets_ += ComposedSheet{page.size, {}};
+    if (sheets_.size() < 2)
+        return;
+    if (sheets_.size() % 2 != 0)
+        sheets_.prepend({sheets_.constFirst().size, {}});
+    for (qsizetype i = 0; i + 1 < sheets_.size(); i += 2)
+        sheets_.swapItemsAt(i, i + 1);
 }
 
 SheetPdf::Failed SheetPdf::finish()

@@ -29,8 +29,10 @@ public:
 
     /// See PdfWriter::add().
     Failed add(const PrintSheet &sheet, const PageGeometry &page, const QPointF &offset = {});
-    /// Adds a side with nothing on it.
-    void addEmptySide(const PageGeometry &page);
+    /// Once all are added: they are in the other order, the last one first, and two of them are the front and
+    /// the back of a paper. Puts each front before its back; the last one may have an empty back. Only with
+    /// pages of documents.
+    void putFrontsFirst();
     /// See PdfWriter::finish().
     Failed finish();
 

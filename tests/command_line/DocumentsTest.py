@@ -3,6 +3,7 @@
 """PDF documents, alone and beside photos, with the built-in printer."""
 
 import json
+import os
 import re
 import resource
 import subprocess
@@ -52,6 +53,20 @@ class DocumentsTest(ProgramTest):
                 (["--scale", "50", "--pages", "7"], [[7]])):
             with self.subTest(arguments):
                 done = self.print("--printer", "built-in", "--overwrite", *arguments, self.report)
+                self.assertEqual((done.status, done.err), (0, ""))
+                self.assertEqual([sorted(sheet) for sheet in self.printed()], sheets)
+
+    def test_keeps_backs_behind_their_fronts(self):
+        one, both = ["--one-pdf", "report"], ["-o", "Duplex=DuplexNoTumble"]
+        for arguments, sheets in (
+                ([*one, "-o", "Duplex=None"], [[3], [2], [1]]),
+                (both, [[3], [], [1], [2]]),
+                ([*one, *both], [[3], [], [1], [2]]),
+                ([*one, *both, PHOTO], [[2], [3], [], [1]]),
+                ([*both, "--layout", "booklet"], [[1], [2, 3]])):
+            with self.subTest(arguments):
+                done = self.print("--ppd", os.environ["CORVEL_LASER_PPD"], "--overwrite", "--reverse", "--pages", "1-3",
+                                  *arguments, self.report)
                 self.assertEqual((done.status, done.err), (0, ""))
                 self.assertEqual([sorted(sheet) for sheet in self.printed()], sheets)
 
