@@ -261,12 +261,13 @@ private Q_SLOTS:
     void printsTheLayersThatAreOn()
     {
         const QByteArray content = "/OC /L BDC 0 1 0 rg 100 0 50 50 re f EMC " + marks();
-        for (const bool isOn : {false, true}) {
-            const Document document =
-                inMemory(withPages({{content, plain + " /Resources << /Properties << /L 10 0 R >> >>"}},
-                                   {"<< /Type /OCG /Name (layer) >>"},
-                                   "/OCProperties << /OCGs [2 0 R 10 0 R] /D << " +
-                                       QByteArray(isOn ? "/ON" : "/OFF") + " [10 0 R] >> >>"));
+        for (const auto &[configuration, isOn] :
+             {std::pair("/OFF [10 0 R]", false), std::pair("/ON [10 0 R]", true),
+              std::pair("/BaseState /OFF", false), std::pair("/BaseState /OFF /ON [10 0 R]", true)}) {
+            const Document document = inMemory(withPages(
+                {{content, plain + " /Resources << /Properties << /L 10 0 R >> >>"}},
+                {"<< /Type /OCG /Name (layer) >>"},
+                "/OCProperties << /OCGs [2 0 R 10 0 R] /D << " + QByteArray(configuration) + " >> >>"));
             for (const auto &sheets : {asItIs(document), inPairs(document)})
                 QCOMPARE(!inkOf(printed(composed(sheets)), qRgb(0, 255, 0)).isNull(), isOn);
         }

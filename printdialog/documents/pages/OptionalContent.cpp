@@ -3,17 +3,25 @@
 
 #include "OptionalContent.h"
 
+#include <set>
+
 namespace printdialog {
 
 namespace {
 
-/// The groups of an array, in the other document.
-void copyGroups(QPDFObjectHandle from, QPDFObjectHandle to, QPDF &other)
+/// The groups of an array but for those of another, in the other document.
+void copyGroups(QPDFObjectHandle from, QPDFObjectHandle to, QPDF &other,
+                QPDFObjectHandle without = QPDFObjectHandle::newNull())
 {
     if (!from.isArray())
         return;
+    std::set<QPDFObjGen> excluded;
+    if (without.isArray()) {
+        for (const QPDFObjectHandle &group : without.getArrayAsVector())
+            excluded.insert(group.getObjGen());
+    }
     for (QPDFObjectHandle group : from.getArrayAsVector()) {
-        if (group.isIndirect() && group.isDictionaryOfType("/OCG"))
+        if (group.isIndirect() && group.isDictionaryOfType("/OCG") && !excluded.contains(group.getObjGen()))
             to.appendItem(other.copyForeignObject(group));
     }
 }
@@ -42,11 +50,14 @@ void addOptionalContent(QPDF &from, QPDF &to)
     copyGroups(source.getKey("/OCGs"), made.getKey("/OCGs"), to);
     if (!configuration.isDictionary())
         return;
-    // Where all are off at first, that is said of each of them.
-    const bool areOff = configuration.getKey("/BaseState").isNameAndEquals("/OFF");
-    copyGroups(areOff ? source.getKey("/OCGs") : configuration.getKey("/OFF"),
-               arrayIn(madeConfiguration, "/OFF"), to);
-    copyGroups(configuration.getKey("/ON"), arrayIn(madeConfiguration, "/ON"), to);
+    // Where all are off at first, that is said of each of them, except of those that are switched on: for a
+    // group in both arrays, off counts.
+    const QPDFObjectHandle on = configuration.getKey("/ON");
+    if (configuration.getKey("/BaseState").isNameAndEquals("/OFF"))
+        copyGroups(source.getKey("/OCGs"), arrayIn(madeConfiguration, "/OFF"), to, on);
+    else
+        copyGroups(configuration.getKey("/OFF"), arrayIn(madeConfiguration, "/OFF"), to);
+    copyGroups(on, arrayIn(madeConfiguration, "/ON"), to);
     if (!configuration.getKey("/AS").isArray())
         return;
     for (QPDFObjectHandle usage : configuration.getKey("/AS").getArrayAsVector()) {
