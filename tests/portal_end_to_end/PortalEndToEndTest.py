@@ -154,6 +154,7 @@ class PortalEndToEndTest(unittest.TestCase):
                 (("print-pages=ranges", "page-ranges=1"), ["2"], 1, 1),
                 (("page-set=odd",), ["1"], 1, 1),
                 (("reverse=true",), ["2", "1"], 1, 1),
+                (("reverse=true", "duplex=vertical"), ["1", "2"], 1, 1),  # the front comes first
                 (("number-up=2",), ["1 2"], 1, None),
                 (("scale=50",), ["1", "2"], 1, 0.5)):
             with self.subTest(settings):
