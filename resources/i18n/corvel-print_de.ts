@@ -3777,6 +3777,10 @@ Beispiele:
         <source>&quot;%1&quot; does not say which pages. Type page numbers from 1 on and ranges, such as 1-3,7,12-.</source>
         <translation>„%1“ sagt nicht, welche Seiten. Geben Sie Seitenzahlen ab 1 und Bereiche ein, etwa 1-3,7,12-.</translation>
     </message>
+    <message>
+        <source>Type which pages are printed, such as 1-3,7,12-, or choose All.</source>
+        <translation>Geben Sie ein, welche Seiten gedruckt werden, etwa 1-3,7,12-, oder wählen Sie „Alle“.</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::PanelTabs</name>

@@ -3776,6 +3776,10 @@ Ejemplos:
         <source>&quot;%1&quot; does not say which pages. Type page numbers from 1 on and ranges, such as 1-3,7,12-.</source>
         <translation>«%1» no indica qué páginas. Escriba números de página a partir de 1 e intervalos, como 1-3,7,12-.</translation>
     </message>
+    <message>
+        <source>Type which pages are printed, such as 1-3,7,12-, or choose All.</source>
+        <translation>Escriba qué páginas se imprimen, como 1-3,7,12-, o elija «Todas».</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::PanelTabs</name>

@@ -3778,6 +3778,10 @@ Exemples&#x202f;:
         <source>&quot;%1&quot; does not say which pages. Type page numbers from 1 on and ranges, such as 1-3,7,12-.</source>
         <translation>«&#x202f;%1&#x202f;» ne dit pas quelles pages. Saisissez des numéros de page à partir de 1 et des plages, comme 1-3,7,12-.</translation>
     </message>
+    <message>
+        <source>Type which pages are printed, such as 1-3,7,12-, or choose All.</source>
+        <translation>Saisissez les pages à imprimer, comme 1-3,7,12-, ou choisissez «&#x202f;Toutes&#x202f;».</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::PanelTabs</name>

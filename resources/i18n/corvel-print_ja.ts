@@ -3768,6 +3768,10 @@ Examples:
         <source>&quot;%1&quot; does not say which pages. Type page numbers from 1 on and ranges, such as 1-3,7,12-.</source>
         <translation>「%1」ではどのページか分かりません。1-3,7,12- のように、1 以上のページ番号と範囲を入力してください。</translation>
     </message>
+    <message>
+        <source>Type which pages are printed, such as 1-3,7,12-, or choose All.</source>
+        <translation>1-3,7,12- のように印刷するページを入力するか、「すべて」を選んでください。</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::PanelTabs</name>

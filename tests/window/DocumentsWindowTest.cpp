@@ -172,7 +172,7 @@ private Q_SLOTS:
         QCOMPARE(opened.sheets(), u"3 4 5 6"_s); // of "3-", while it is typed
         QTest::keyClick(field, Qt::Key_Tab);
         QVERIFY2(opened.message().contains(u"\"3-1\""_s), qPrintable(opened.message()));
-        QCOMPARE(field->text(), u"3-"_s);
+        QCOMPARE(field->text(), u"3-1"_s);
         field->selectAll();
         QTest::keyClicks(field, u"5-9"_s);
         QCOMPARE(opened.sheets(), u"5 6"_s);
@@ -181,6 +181,35 @@ private Q_SLOTS:
         QTest::keyClicks(field, u"70"_s);
         QVERIFY(!opened.find<QPushButton>(u"print"_s)->isEnabled());
         QVERIFY2(opened.note().contains(u"None of the 6 pages"_s), qPrintable(opened.note()));
+    }
+
+    // A click on Print also leaves the field.
+    void rangesThatCannotBePrinted_data()
+    {
+        addRows<QString, QString, QString>({{"wrong", u"2-3"_s, u"3-1"_s, u"\"3-1\""_s},
+                                            {"wrong at first", {}, u"x"_s, u"\"x\""_s},
+                                            {"emptied", u"2-3"_s, {}, u"Type which"_s},
+                                            {"empty", {}, {}, u"Type which"_s}});
+    }
+
+    void rangesThatCannotBePrinted()
+    {
+        const auto [before, typed, said] = row<QString, QString, QString>();
+        const DocumentDialog opened;
+        opened.typeRanges(before);
+        auto *field = opened.find<QLineEdit>(u"pageRanges"_s);
+        field->selectAll();
+        QTest::keyClick(field, Qt::Key_Backspace);
+        QTest::keyClicks(field, typed);
+        for (int i = 0; i < 2; ++i) {
+            opened.click(u"print"_s);
+            QCOMPARE(field->text(), typed);
+            QVERIFY2(opened.message().contains(said), qPrintable(opened.message()));
+            QVERIFY(opened.find<QPushButton>(u"print"_s)->isEnabled()); // nothing is under way
+        }
+        QTest::keyClick(opened.find<QComboBox>(u"pages"_s), Qt::Key_Home);
+        opened.click(u"print"_s);
+        QTRY_VERIFY(QFile::exists(opened.folder.filePath(u"out/report.pdf"_s)));
     }
 
     // Nobody sees which pages are selected before they are shown.

@@ -105,7 +105,7 @@ void PageBar::setOffered(bool hasCurrent, bool hasSelection)
 
 void PageBar::setChoice(const PageChoice &choice)
 {
-    if (choice.which != choice_.which)
+    if (choice.which != choice_.which || choice.ranges != choice_.ranges)
         isTyping_ = false;
     choice_ = choice;
     show();
@@ -149,9 +149,9 @@ void PageBar::chooseWhich()
 void PageBar::applyTyped()
 {
     const auto ranges = PageRanges::fromText(ranges_->text());
+    isTyping_ = !ranges;
     if (!ranges)
         return;
-    isTyping_ = false;
     PageChoice choice = choice_;
     choice.which = Which::Ranges;
     choice.ranges = *ranges;
@@ -159,29 +159,25 @@ void PageBar::applyTyped()
         choose(choice, ranges_);
 }
 
-/// A text that stands for no pages is replaced by the last one that did.
-bool PageBar::applyAtEnd()
+/// An empty field is not complained about before printing: the user may be about to choose something else.
+void PageBar::applyAtEnd()
 {
-    const QString text = ranges_->text().trimmed();
-    if (!ranges_->isVisibleTo(this) || text.isEmpty() || PageRanges::fromText(text)) {
-        if (text.isEmpty())
-            isTyping_ = false;
-        show();
-        return true;
-    }
-    if (isTyping_)
-        ranges_->clear();
-    show();
-    Q_EMIT refused(
-        tr("\"%1\" does not say which pages. Type page numbers from 1 on and ranges, such as 1-3,7,12-.")
-            .arg(text),
-        ranges_);
-    return false;
+    if (!ranges_->text().trimmed().isEmpty())
+        finish();
 }
 
+// The text stays: a click on Print also leaves the field, and must not print what the text did not say.
 bool PageBar::finish()
 {
-    return applyAtEnd();
+    const QString text = ranges_->text().trimmed();
+    if (!isTyping_ || !ranges_->isVisibleTo(window()))
+        return true;
+    Q_EMIT refused(text.isEmpty() ? tr("Type which pages are printed, such as 1-3,7,12-, or choose All.")
+                                  : tr("\"%1\" does not say which pages. Type page numbers from 1 on and "
+                                       "ranges, such as 1-3,7,12-.")
+                                        .arg(text),
+                   ranges_);
+    return false;
 }
 
 QList<QWidget *> PageBar::fields() const

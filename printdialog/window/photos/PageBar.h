@@ -29,7 +29,7 @@ public:
     /// The number of the page that is shown, from 1 on, which Current then stands for; 0: only the program
     /// that prints knows it.
     void setCurrentPage(int number) { currentPage_ = number; }
-    /// Ends what is being typed. False when it is not possible; refused() then says so.
+    /// Call before printing. False when the field's text stands for no pages; refused() then says so.
     bool finish();
     /// Fields in which more than one event belongs to an act of the user's.
     QList<QWidget *> fields() const;
@@ -37,14 +37,14 @@ public:
 Q_SIGNALS:
     /// The user has chosen.
     void pagesChosen(const printdialog::PageChoice &choice, QWidget *control);
-    /// The field was left with a text that stands for no pages: a sentence for people.
+    /// The field was left, or is to be printed, with a text that stands for no pages: a sentence for people.
     void refused(const QString &text, QLineEdit *field);
 
 private:
     void fill();
     void chooseWhich();
     void applyTyped();
-    bool applyAtEnd();
+    void applyAtEnd();
     void choose(const PageChoice &choice, QWidget *control);
     void show();
 
@@ -56,7 +56,7 @@ private:
     bool hasCurrent_ = true;
     bool hasSelection_ = false;
     int currentPage_ = 1;
-    bool isTyping_ = false; ///< Ranges are to be typed, and none has been typed yet.
+    bool isTyping_ = false; ///< Ranges are to be typed, and the field's text stands for none yet.
 };
 
 } // namespace printdialog
