@@ -37,11 +37,12 @@ public:
         QCoreApplication::processEvents();
     }
 
-    static PrintDialogSetup setupWith(int pages)
+    static PrintDialogSetup setupWith(int pages) { return setupWith(pages, u"report.pdf"_s); }
+    static PrintDialogSetup setupWith(int pages, const QString &name)
     {
         PrintDialogSetup setup = setupFor(PanelMode::Constraint);
         static QTemporaryDir folder;
-        const QString path = folder.filePath(u"report.pdf"_s);
+        const QString path = folder.filePath(name);
         samples::store(path, pdf_samples::text(pages));
         const auto opened = Photo::openAll(path);
         if (!opened)
@@ -212,6 +213,18 @@ private Q_SLOTS:
         QTRY_VERIFY(QFile::exists(opened.folder.filePath(u"out/report.pdf"_s)));
     }
 
+    // The controls stay where they are needed to print anything.
+    void onePageLeftOut()
+    {
+        PrintDialogSetup setup = DocumentDialog::setupWith(1);
+        setup.pages.set = PageChoice::Set::Even;
+        const DocumentDialog opened(setup);
+        QVERIFY(!opened.find<QPushButton>(u"print"_s)->isEnabled());
+        QVERIFY(opened.isSeen(u"pageSet"_s));
+        QTest::keyClick(opened.find<QComboBox>(u"pageSet"_s), Qt::Key_Home);
+        QVERIFY(opened.find<QPushButton>(u"print"_s)->isEnabled());
+    }
+
     // Nobody sees which pages are selected before they are shown.
     void whatIsDoneWithAPage()
     {
@@ -281,10 +294,10 @@ private Q_SLOTS:
         QVERIFY(isSeen(pdf_samples::blue));
     }
 
-    // Not cut off where programs leave margins free.
+    // Not cut off where programs leave margins free; files have any name.
     void captionOfAPage()
     {
-        PrintDialogSetup setup = DocumentDialog::setupWith(6);
+        PrintDialogSetup setup = DocumentDialog::setupWith(6, u"5%1 of %3.pdf"_s);
         setup.ppdFile = QStringLiteral(CORVEL_LASER_PPD);
         setup.pages.which = PageChoice::Which::Ranges;
         setup.pages.ranges = *PageRanges::fromText(u"4-"_s);
@@ -294,7 +307,7 @@ private Q_SLOTS:
         opened.find<QAbstractButton>(u"nextSheet"_s)->click();
         QLocale::setDefault(QLocale::c());
         QCOMPARE(opened.caption().replace(QChar(QChar::Nbsp), u' '),
-                 u"report.pdf, page 5 of 6\nPage of 21,0 × 29,7 cm · printed at 100 %"_s);
+                 u"5%1 of %3.pdf, page 5 of 6\nPage of 21,0 × 29,7 cm · printed at 100 %"_s);
     }
 
     // Also without a document, where only the program that prints has one.

@@ -31,7 +31,9 @@ void PhotoPane::offerPages(bool hasCurrent, bool hasSelection)
 void PhotoPane::showPageControls()
 {
     const qsizetype pages = arrangement().pageCount();
-    const bool hasPages = pages > 1 || arePagesOffered_;
+    // One page that is left out by a choice for more of them needs the controls, too.
+    const bool isChosen = pages > 0 && arrangement().pages != PageChoice();
+    const bool hasPages = pages > 1 || isChosen || arePagesOffered_;
     if (!arePagesOffered_) {
         const PlacedPhoto *current = model_->currentPhoto();
         const bool isPage = current && current->photo.document();
@@ -100,10 +102,10 @@ QString PhotoPane::nameText() const
         return name;
     if (model_->isOneDocument() && photo.document()->pageCount() == model_->count())
         return tr("%1, page %2 of %3")
-            .arg(plainText(photo.fileName(), shownTextLimit))
-            .arg(photo.page() + 1)
-            .arg(model_->count());
-    return tr("%1 (%2 of %3)").arg(name).arg(model_->current() + 1).arg(model_->count());
+            .arg(plainText(photo.fileName(), shownTextLimit), QString::number(photo.page() + 1),
+                 QString::number(model_->count()));
+    return tr("%1 (%2 of %3)")
+        .arg(name, QString::number(model_->current() + 1), QString::number(model_->count()));
 }
 
 } // namespace printdialog
