@@ -20,6 +20,7 @@
 #include <QtCore/QFileInfo>
 #include <QtCore/QLocale>
 #include <QtCore/QPointer>
+#include <QtGui/QScreen>
 #include <QtGui/QWindow>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QLayout>
