@@ -141,6 +141,8 @@ void PrintPortal::finish(PortalCall *call, const PortalRequest &request,
 void PrintPortal::run(PortalRun *started, const QString &name)
 {
     runs_ += started;
+    if (isEnding_)
+        started->leave();
     connect(started, &PortalRun::finished, this, [this, started, name](const QString &trouble) {
         runs_.removeOne(started);
         started->deleteLater();

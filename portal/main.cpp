@@ -8,9 +8,11 @@
 #include "SystemLog.h"
 
 #include <QtCore/QCommandLineParser>
+#include <QtCore/QSocketNotifier>
 #include <QtGui/QIcon>
 
 #include <csignal>
+#include <sys/eventfd.h>
 #include <unistd.h>
 
 using namespace printdialog;
@@ -54,6 +56,25 @@ PrintPortal::Settings settingsOf(const QStringList &arguments)
     return settings;
 }
 
+/// The first signal, which comes when the user logs out, lets what is being sent reach the printer; the second
+/// one ends the program at once.
+void endOnSignals(PrintPortal &portal)
+{
+    static const int event = eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK);
+    auto *notifier = new QSocketNotifier(event, QSocketNotifier::Read, &portal);
+    QObject::connect(notifier, &QSocketNotifier::activated, &portal, [notifier, &portal] {
+        notifier->setEnabled(false);
+        portal.end();
+    });
+    struct sigaction action = {};
+    action.sa_flags = SA_RESTART | static_cast<int>(SA_RESETHAND);
+    action.sa_handler = [](int) {
+        eventfd_write(event, 1);
+    };
+    sigaction(SIGTERM, &action, nullptr);
+    sigaction(SIGINT, &action, nullptr);
+}
+
 } // namespace
 
 int main(int argc, char *argv[])
@@ -70,6 +91,7 @@ int main(int argc, char *argv[])
     QGuiApplication::setDesktopFileName(QStringLiteral("org.corvel.print"));
     QGuiApplication::setWindowIcon(QIcon(QStringLiteral(":/corvel-print/icons/corvel-print.png")));
     PrintPortal portal(QDBusConnection::sessionBus(), settings);
+    endOnSignals(portal);
     if (const QString failure = portal.start(); !failure.isEmpty()) {
         pdekit::systemLog(failure);
         return exitFailed;

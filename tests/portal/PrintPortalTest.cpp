@@ -480,8 +480,11 @@ private Q_SLOTS:
         QProcess first;
         start(first, {});
         QTRY_VERIFY(isServed());
-        const QDBusPendingReply<QString> description = frontEnd_.asyncCall(QDBusMessage::createMethodCall(
-            PrintPortal::busName(), objectPath, u"org.freedesktop.DBus.Introspectable"_s, u"Introspect"_s));
+        const auto introspect = [this](const QString &path) {
+            return QDBusPendingReply<QString>(frontEnd_.asyncCall(QDBusMessage::createMethodCall(
+                PrintPortal::busName(), path, u"org.freedesktop.DBus.Introspectable"_s, u"Introspect"_s)));
+        };
+        const QDBusPendingReply<QString> description = introspect(objectPath);
         QTRY_VERIFY(description.isFinished());
         QVERIFY2(description.value().contains(u"PreparePrint"_s), qPrintable(description.value()));
         const Reply closed = prepare();
@@ -499,6 +502,18 @@ private Q_SLOTS:
         QTRY_COMPARE(third.state(), QProcess::NotRunning);
         QCOMPARE(third.exitCode(), 0);
         QVERIFY(!isServed());
+
+        QProcess last;
+        start(last, {});
+        QTRY_VERIFY(isServed());
+        const Reply open = prepare();
+        const QDBusPendingReply<QString> handle = introspect(nameOf(calls_)); // behind the call
+        QTRY_VERIFY(handle.isFinished() && handle.value().contains(u"Close"_s));
+        last.terminate(); // as the desktop does when the user logs out
+        QVERIFY(isAnswered(open, 1));
+        QTRY_COMPARE(last.state(), QProcess::NotRunning);
+        QCOMPARE(last.exitStatus(), QProcess::NormalExit);
+        QCOMPARE(last.exitCode(), 0);
     }
 
     void theProgramEndsWithItsBus()
