@@ -49,9 +49,9 @@ public:
     {
         if (!isUsable_)
             return Failure<IntakeFault>{IntakeFault::NotReadable, {}, {}};
-        if (const auto fault = isFile_ ? std::nullopt : wait())
-            return Failure<IntakeFault>{*fault, {}, {}};
         for (;;) {
+            if (const auto fault = isFile_ ? whyCanceled() : wait())
+                return Failure<IntakeFault>{*fault, {}, {}};
             const ssize_t count = isFile_ ? ::pread(descriptor_.number(), block, size, offset_)
                                           : ::read(descriptor_.number(), block, size);
             if (count < 0 && (errno == EINTR || errno == EAGAIN))
@@ -64,12 +64,17 @@ public:
     }
 
 private:
+    std::optional<IntakeFault> whyCanceled() const
+    {
+        return isCanceled_ && *isCanceled_ ? std::optional(IntakeFault::Canceled) : std::nullopt;
+    }
+
     std::optional<IntakeFault> wait() const
     {
         const auto end = std::chrono::steady_clock::now() + limits_.quiet;
         for (;;) {
-            if (isCanceled_ && *isCanceled_)
-                return IntakeFault::Canceled;
+            if (const auto canceled = whyCanceled())
+                return canceled;
             pollfd polled{descriptor_.number(), POLLIN, 0};
             const int ready = ::poll(&polled, 1, slice);
             if (ready > 0)
