@@ -13,6 +13,32 @@
 
 namespace printdialog {
 
+namespace {
+
+/// The first one's name, and how many photos and documents there are beside it.
+QString nameOf(const Arrangement &arrangement, const QList<LaidSheet> &sheets)
+{
+    QSet<qsizetype> items;
+    QSet<FileIdentity> documents;
+    for (const LaidSheet &sheet : sheets) {
+        for (const LaidPhoto &laid : sheet.photos) {
+            const Photo &photo = arrangement.photos.at(laid.item).photo;
+            if (photo.document())
+                documents.insert(photo.identity());
+            else
+                items.insert(laid.item);
+        }
+    }
+    const qsizetype first = sheets.constFirst().photos.constFirst().item;
+    const QString name = arrangement.photos.at(first).photo.fileName();
+    const qsizetype others = items.size() + documents.size() - 1;
+    return others > 0 ? Arrangement::tr("%1 and %2 more", "the name of a sheet with several photos")
+                            .arg(name, QString::number(others))
+                      : name;
+}
+
+} // namespace
+
 SheetPlan Arrangement::plan(const PageGeometry &page) const
 {
     QList<LayoutItem> items;
@@ -64,9 +90,10 @@ QList<Arrangement::SheetRange> Arrangement::jobs(const SheetPlan &plan) const
 JobSheets Arrangement::jobSheets(const SheetPlan &plan, const SheetRange &range) const
 {
     JobSheets job;
-    for (const LaidSheet &laid : plan.sheets().mid(range.first, range.count))
+    const QList<LaidSheet> sheets = plan.sheets().mid(range.first, range.count);
+    for (const LaidSheet &laid : sheets)
         job.sheets += sheet(laid);
-    job.name = job.sheets.constFirst().name;
+    job.name = nameOf(*this, sheets);
     job.copies = job.sheets.constFirst().copies;
     job.isReversed = pages.isReversed;
     return job;
@@ -88,21 +115,7 @@ PrintSheet Arrangement::sheet(const LaidSheet &laid) const
         if (!photo.caption.isEmpty())
             sheet.photos.last().caption = captionOf(placed.photo, layout.caption);
     }
-    sheet.name = sheet.photos.constFirst().photo.fileName();
-    // The pages of a document count once.
-    QSet<qsizetype> items;
-    QSet<FileIdentity> documents;
-    for (const LaidPhoto &photo : laid.photos) {
-        const Photo &laidPhoto = photos.at(photo.item).photo;
-        if (laidPhoto.document())
-            documents.insert(laidPhoto.identity());
-        else
-            items.insert(photo.item);
-    }
-    const qsizetype others = items.size() + documents.size() - 1;
-    if (others > 0)
-        sheet.name = tr("%1 and %2 more", "the name of a sheet with several photos")
-                         .arg(sheet.name, QString::number(others));
+    sheet.name = nameOf(*this, {laid});
     return sheet;
 }
 

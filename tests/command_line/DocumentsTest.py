@@ -79,6 +79,12 @@ class DocumentsTest(ProgramTest):
         self.assert_refused(self.print("--pages", "8-", self.report), 1, "None of the 7 pages")
         self.assert_refused(self.print("--pages", "1", PHOTO), 1, "--pages")
 
+    def test_names_all_documents_of_a_job(self):
+        other = self.stored("letter.pdf", pdf(2))
+        done = self.print("--printer", "built-in", self.report, other, PHOTO)
+        self.assertEqual((done.status, done.err), (0, ""))
+        self.assertIn("Printed report.pdf and 1 more:", done.out)
+
     def test_reads_the_standard_input(self):
         command = [PROGRAM, "--batch", "--printer", "built-in", "--output", self.out, "--pages", "2", "-"]
         done = subprocess.run(command, input=pdf(3), capture_output=True, timeout=60)
