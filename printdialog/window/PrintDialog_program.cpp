@@ -3,6 +3,7 @@
 
 #include "ChoiceController.h"
 #include "DialogSession.h"
+#include "ElidingButton.h"
 #include "PrintDialog.h"
 #include "PrintJob.h"
 #include "PrinterController.h"
@@ -31,7 +32,7 @@ void PrintDialog::showProgram()
     setWindowTitle(tr("Print %1").arg(program.name));
     if (!awaitsPages())
         return;
-    const QString button = QString(label).remove(u'&');
+    const QString button = withoutMnemonic(label);
     ui_->photos->awaitPages(
         program.program.isEmpty()
             ? tr("The program brings the pages after you press \"%1\".").arg(button)

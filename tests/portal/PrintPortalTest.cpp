@@ -217,6 +217,8 @@ private Q_SLOTS:
         QVERIFY2(dialog->windowTitle().contains(u"org.example.Viewer: Letter"_s),
                  qPrintable(dialog->windowTitle()));
         QCOMPARE(button(dialog)->text(), u"&Send && go"_s);
+        const QString caption = dialog->findChild<QLabel *>(u"photoLabel"_s)->text();
+        QVERIFY2(caption.contains(u"\"Send & go\""_s), qPrintable(caption));
         for (const char *name : {"addPhoto", "removePhoto", "photoTable", "documents", "more"})
             QVERIFY2(!dialog->findChild<QWidget *>(QLatin1String(name))->isVisible(), name);
         QCOMPARE(dialog->findChild<QSpinBox *>(u"copies"_s)->value(), 2);

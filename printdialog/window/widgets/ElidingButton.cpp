@@ -17,7 +17,8 @@ namespace {
 
 constexpr int leastCharacters = 16;
 
-/// The text without the ampersand that underlines a letter.
+} // namespace
+
 QString withoutMnemonic(const QString &text)
 {
     QString plain;
@@ -28,8 +29,6 @@ QString withoutMnemonic(const QString &text)
     }
     return plain;
 }
-
-} // namespace
 
 ElidingButton::ElidingButton(QWidget *parent)
     : ElidingButton(QString(), parent)

@@ -7,6 +7,9 @@
 
 namespace printdialog {
 
+/// A button's text without the ampersand that underlines a letter.
+QString withoutMnemonic(const QString &text);
+
 /// A button for text of any length, such as a PPD's. Text that does not fit is elided, and a tool tip shows
 /// all of it. The text never makes a window wider.
 class ElidingButton : public QPushButton
