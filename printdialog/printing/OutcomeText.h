@@ -21,10 +21,17 @@ public:
     OutcomeText(const PrintOutcome &outcome, const PrintJob &job, const Arrangement &arrangement)
         : outcome_(outcome)
         , job_(job)
-        , unit_(arrangement.pageCount() > 0                            ? Unit::Jobs
-                : arrangement.layout.kind != SheetLayout::Kind::Single ? Unit::Sheets
-                                                                       : Unit::Photos)
+        , unit_(unitOf(arrangement))
     {
+    }
+
+    /// What is counted.
+    enum class Unit { Photos, Sheets, Jobs };
+    static Unit unitOf(const Arrangement &arrangement)
+    {
+        return arrangement.pageCount() > 0                            ? Unit::Jobs
+               : arrangement.layout.kind != SheetLayout::Kind::Single ? Unit::Sheets
+                                                                      : Unit::Photos;
     }
 
     /// A few lines, whatever the number of sheets.
@@ -33,8 +40,6 @@ public:
     QString details() const;
 
 private:
-    enum class Unit { Photos, Sheets, Jobs };
-
     QString say(const QString &photos, const QString &sheets, const QString &jobs) const;
     QString counted() const;
     QString allPrinted() const;
@@ -42,7 +47,7 @@ private:
 
     const PrintOutcome &outcome_;
     const PrintJob &job_;
-    Unit unit_; ///< Of what is counted.
+    Unit unit_;
 };
 
 } // namespace printdialog

@@ -100,7 +100,7 @@ private:
     void begin(const Arrangement &arrangement, const SessionJob &made, const OutputFolder &folder,
                const Queue &queue);
     void showOutcome(const PrintOutcome &outcome);
-    bool areSheetsShared() const;
+    QString say(const QString &photos, const QString &sheets, const QString &jobs) const;
     QString whatContinues() const;
 
     Widgets widgets_;

@@ -5028,6 +5028,22 @@ Beispiele:
         <source>When this window is closed, the print server continues printing the %1 of %2 sheets that it has. The rest is not printed.</source>
         <translation>Wird dieses Fenster geschlossen, druckt der Druckserver die %1 von %2 Blättern, die er hat, weiter. Der Rest wird nicht gedruckt.</translation>
     </message>
+    <message>
+        <source>Stopping after this job…</source>
+        <translation>Nach diesem Auftrag wird gestoppt …</translation>
+    </message>
+    <message>
+        <source>Stop After This Job</source>
+        <translation>Nach diesem Auftrag stoppen</translation>
+    </message>
+    <message>
+        <source>Printed so far: %1 of %2 jobs. The rest is not printed when this window is closed.</source>
+        <translation>Bisher gedruckt: %1 von %2 Aufträgen. Der Rest wird nicht gedruckt, wenn dieses Fenster geschlossen wird.</translation>
+    </message>
+    <message>
+        <source>When this window is closed, the print server continues printing the %1 of %2 jobs that it has. The rest is not printed.</source>
+        <translation>Wird dieses Fenster geschlossen, druckt der Druckserver die %1 von %2 Aufträgen, die er hat, weiter. Der Rest wird nicht gedruckt.</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::SettingsFile</name>

@@ -5027,6 +5027,22 @@ Ejemplos:
         <source>When this window is closed, the print server continues printing the %1 of %2 sheets that it has. The rest is not printed.</source>
         <translation>Si se cierra esta ventana, el servidor de impresión sigue imprimiendo las %1 de %2 hojas que tiene. El resto no se imprime.</translation>
     </message>
+    <message>
+        <source>Stopping after this job…</source>
+        <translation>Deteniendo tras este trabajo…</translation>
+    </message>
+    <message>
+        <source>Stop After This Job</source>
+        <translation>Detener tras este trabajo</translation>
+    </message>
+    <message>
+        <source>Printed so far: %1 of %2 jobs. The rest is not printed when this window is closed.</source>
+        <translation>Trabajos impresos hasta ahora: %1 de %2. El resto no se imprime si se cierra esta ventana.</translation>
+    </message>
+    <message>
+        <source>When this window is closed, the print server continues printing the %1 of %2 jobs that it has. The rest is not printed.</source>
+        <translation>Si se cierra esta ventana, el servidor de impresión sigue imprimiendo los %1 de %2 trabajos que tiene. El resto no se imprime.</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::SettingsFile</name>

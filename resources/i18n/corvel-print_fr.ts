@@ -5029,6 +5029,22 @@ Exemples&#x202f;:
         <source>When this window is closed, the print server continues printing the %1 of %2 sheets that it has. The rest is not printed.</source>
         <translation>Si cette fenêtre est fermée, le serveur d’impression continue d’imprimer les %1 feuilles sur %2 qu’il a reçues. Le reste n’est pas imprimé.</translation>
     </message>
+    <message>
+        <source>Stopping after this job…</source>
+        <translation>Arrêt après cette tâche…</translation>
+    </message>
+    <message>
+        <source>Stop After This Job</source>
+        <translation>Arrêter après cette tâche</translation>
+    </message>
+    <message>
+        <source>Printed so far: %1 of %2 jobs. The rest is not printed when this window is closed.</source>
+        <translation>Tâches imprimées jusqu’ici : %1 sur %2. Le reste n’est pas imprimé si cette fenêtre est fermée.</translation>
+    </message>
+    <message>
+        <source>When this window is closed, the print server continues printing the %1 of %2 jobs that it has. The rest is not printed.</source>
+        <translation>Si cette fenêtre est fermée, le serveur d’impression continue d’imprimer les %1 tâches sur %2 qu’il a reçues. Le reste n’est pas imprimé.</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::SettingsFile</name>

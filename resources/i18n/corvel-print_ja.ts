@@ -5016,6 +5016,22 @@ Examples:
         <source>When this window is closed, the print server continues printing the %1 of %2 sheets that it has. The rest is not printed.</source>
         <translation>このウィンドウを閉じても、プリントサーバーは %2 シート中、受け取った %1 シートの印刷を続けます。残りは印刷されません。</translation>
     </message>
+    <message>
+        <source>Stopping after this job…</source>
+        <translation>このジョブのあとで中止します…</translation>
+    </message>
+    <message>
+        <source>Stop After This Job</source>
+        <translation>このジョブのあとで中止</translation>
+    </message>
+    <message>
+        <source>Printed so far: %1 of %2 jobs. The rest is not printed when this window is closed.</source>
+        <translation>これまでに %2 件中 %1 件のジョブを印刷しました。このウィンドウを閉じると、残りは印刷されません。</translation>
+    </message>
+    <message>
+        <source>When this window is closed, the print server continues printing the %1 of %2 jobs that it has. The rest is not printed.</source>
+        <translation>このウィンドウを閉じても、プリントサーバーは %2 件中、受け取った %1 件のジョブの印刷を続けます。残りは印刷されません。</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::SettingsFile</name>

@@ -271,6 +271,21 @@ private Q_SLOTS:
         QCOMPARE(printed->pageCount(), 1);
     }
 
+    // The pages of a document are one, so neither photos nor sheets are counted.
+    void jobsAreCounted()
+    {
+        PrintDialogSetup setup = DocumentDialog::setupWith(3);
+        setup.photos.prepend(*Photo::open(QStringLiteral(CORVEL_SAMPLE_PHOTO)));
+        const DocumentDialog opened(setup);
+        opened.dialog->print(); // which progresses only when events are handled
+        opened.find<QAbstractButton>(u"cancel"_s)->click();
+        QCOMPARE(opened.find<QPushButton>(u"messageAction"_s)->text(), u"Stop After This Job"_s);
+        opened.dialog->close();
+        QVERIFY2(opened.message().contains(u" jobs. The rest"_s), qPrintable(opened.message()));
+        opened.press(Qt::Key_Escape);
+        QTRY_VERIFY(opened.message().startsWith(u"Printed 2 jobs"_s));
+    }
+
     void previewShowsEachPage()
     {
         const QTemporaryDir folder;
