@@ -168,16 +168,16 @@
 <context>
     <name>BookletSides</name>
     <message>
-        <source>A booklet is printed on both sides, turned on the short edge. This printer does not do that itself: print the odd sides first, then the even ones on their backs.</source>
-        <translation>Eine Broschüre wird beidseitig gedruckt, an der kurzen Kante gewendet. Dieser Drucker kann das nicht selbst: Drucken Sie erst die ungeraden Seiten der Blätter, dann die geraden auf deren Rückseiten.</translation>
-    </message>
-    <message>
         <source>A booklet is printed on both sides, turned on the short edge. Another choice does not allow that: look at &quot;%1&quot;.</source>
         <translation>Eine Broschüre wird beidseitig gedruckt, an der kurzen Kante gewendet. Eine andere Auswahl lässt das nicht zu: Sehen Sie sich „%1“ an.</translation>
     </message>
     <message>
         <source>A booklet is printed on both sides, turned on the short edge: &quot;%1&quot; is set to that.</source>
         <translation>Eine Broschüre wird beidseitig gedruckt, an der kurzen Kante gewendet: „%1“ ist so eingestellt.</translation>
+    </message>
+    <message>
+        <source>A booklet is printed on both sides, turned on the short edge. This printer does not do that itself: make one PDF of it with the built-in printer, then print the odd pages of that PDF, and the even ones on their backs.</source>
+        <translation>Eine Broschüre wird beidseitig gedruckt, an der kurzen Kante gewendet. Dieser Drucker kann das nicht selbst: Machen Sie mit dem eingebauten Drucker eine PDF-Datei daraus, und drucken Sie deren ungerade Seiten, dann die geraden auf deren Rückseiten.</translation>
     </message>
 </context>
 <context>

@@ -168,16 +168,16 @@
 <context>
     <name>BookletSides</name>
     <message>
-        <source>A booklet is printed on both sides, turned on the short edge. This printer does not do that itself: print the odd sides first, then the even ones on their backs.</source>
-        <translation>Un folleto se imprime por las dos caras, girado por el borde corto. Esta impresora no lo hace por sí misma: imprima primero las caras impares y después las pares en su dorso.</translation>
-    </message>
-    <message>
         <source>A booklet is printed on both sides, turned on the short edge. Another choice does not allow that: look at &quot;%1&quot;.</source>
         <translation>Un folleto se imprime por las dos caras, girado por el borde corto. Otra opción no lo permite: revise «%1».</translation>
     </message>
     <message>
         <source>A booklet is printed on both sides, turned on the short edge: &quot;%1&quot; is set to that.</source>
         <translation>Un folleto se imprime por las dos caras, girado por el borde corto: «%1» está ajustado así.</translation>
+    </message>
+    <message>
+        <source>A booklet is printed on both sides, turned on the short edge. This printer does not do that itself: make one PDF of it with the built-in printer, then print the odd pages of that PDF, and the even ones on their backs.</source>
+        <translation>Un folleto se imprime por las dos caras, girado por el borde corto. Esta impresora no lo hace por sí misma: haga con él un PDF con la impresora integrada e imprima las páginas impares de ese PDF y después las pares en su dorso.</translation>
     </message>
 </context>
 <context>

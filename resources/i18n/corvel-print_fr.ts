@@ -168,16 +168,16 @@
 <context>
     <name>BookletSides</name>
     <message>
-        <source>A booklet is printed on both sides, turned on the short edge. This printer does not do that itself: print the odd sides first, then the even ones on their backs.</source>
-        <translation>Un livret s’imprime recto verso, retourné sur le bord court. Cette imprimante ne le fait pas elle-même&#x202f;: imprimez d’abord les faces impaires, puis les paires à leur dos.</translation>
-    </message>
-    <message>
         <source>A booklet is printed on both sides, turned on the short edge. Another choice does not allow that: look at &quot;%1&quot;.</source>
         <translation>Un livret s’imprime recto verso, retourné sur le bord court. Un autre choix ne le permet pas&#x202f;: voyez «&#x202f;%1&#x202f;».</translation>
     </message>
     <message>
         <source>A booklet is printed on both sides, turned on the short edge: &quot;%1&quot; is set to that.</source>
         <translation>Un livret s’imprime recto verso, retourné sur le bord court&#x202f;: «&#x202f;%1&#x202f;» est réglé ainsi.</translation>
+    </message>
+    <message>
+        <source>A booklet is printed on both sides, turned on the short edge. This printer does not do that itself: make one PDF of it with the built-in printer, then print the odd pages of that PDF, and the even ones on their backs.</source>
+        <translation>Un livret s’imprime recto verso, retourné sur le bord court. Cette imprimante ne le fait pas elle-même : faites-en un PDF avec l’imprimante intégrée, puis imprimez les pages impaires de ce PDF, et les paires à leur dos.</translation>
     </message>
 </context>
 <context>
@@ -5039,7 +5039,7 @@ Exemples&#x202f;:
     </message>
     <message>
         <source>Printed so far: %1 of %2 jobs. The rest is not printed when this window is closed.</source>
-        <translation>Tâches imprimées jusqu’ici : %1 sur %2. Le reste n’est pas imprimé si cette fenêtre est fermée.</translation>
+        <translation>Tâches imprimées jusqu’ici&#xa0;: %1 sur %2. Le reste n’est pas imprimé si cette fenêtre est fermée.</translation>
     </message>
     <message>
         <source>When this window is closed, the print server continues printing the %1 of %2 jobs that it has. The rest is not printed.</source>

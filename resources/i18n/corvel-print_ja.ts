@@ -166,16 +166,16 @@
 <context>
     <name>BookletSides</name>
     <message>
-        <source>A booklet is printed on both sides, turned on the short edge. This printer does not do that itself: print the odd sides first, then the even ones on their backs.</source>
-        <translation>小冊子は短辺とじで両面に印刷します。このプリンターは自動では両面に印刷できません。先に奇数の面を、次にその裏に偶数の面を印刷してください。</translation>
-    </message>
-    <message>
         <source>A booklet is printed on both sides, turned on the short edge. Another choice does not allow that: look at &quot;%1&quot;.</source>
         <translation>小冊子は短辺とじで両面に印刷します。ほかの選択のためにそうできません。「%1」を確認してください。</translation>
     </message>
     <message>
         <source>A booklet is printed on both sides, turned on the short edge: &quot;%1&quot; is set to that.</source>
         <translation>小冊子は短辺とじで両面に印刷します。「%1」をそのように設定しました。</translation>
+    </message>
+    <message>
+        <source>A booklet is printed on both sides, turned on the short edge. This printer does not do that itself: make one PDF of it with the built-in printer, then print the odd pages of that PDF, and the even ones on their backs.</source>
+        <translation>小冊子は短辺とじで両面に印刷します。このプリンターは自動では両面に印刷できません。内蔵プリンターで 1 つの PDF にし、その PDF の奇数ページを、次にその裏に偶数ページを印刷してください。</translation>
     </message>
 </context>
 <context>

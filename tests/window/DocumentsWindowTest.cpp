@@ -464,7 +464,7 @@ private Q_SLOTS:
     {
         addRows<QString, QString, QString>(
             {{"a printer with both sides", QStringLiteral(CORVEL_LASER_PPD), u"DuplexTumble"_s, u"is set"_s},
-             {"a printer without", QStringLiteral(CORVEL_SIBLING_PPD), {}, u"odd sides first"_s}});
+             {"a printer without", QStringLiteral(CORVEL_SIBLING_PPD), {}, u"odd pages of that PDF"_s}});
     }
 
     void bookletProposesBothSides()

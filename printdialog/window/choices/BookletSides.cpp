@@ -40,7 +40,8 @@ QString chooseBookletSides(DialogSession &session)
     if (!wanted)
         return Text::tr(
             "A booklet is printed on both sides, turned on the short edge. This printer does not do that "
-            "itself: print the odd sides first, then the even ones on their backs.");
+            "itself: make one PDF of it with the built-in printer, then print the odd pages of that PDF, and "
+            "the even ones on their backs.");
     const QString option = session.options().optionText(wanted->option);
     if (session.chosen(wanted->option) == wanted->choice)
         return {};
