@@ -57,10 +57,11 @@ SheetPlan Arrangement::plan(const PageGeometry &page) const
     add(PageChoice::Which::Ranges);
     std::optional<Failure<LayoutFault>> failure;
     if (items.isEmpty() && !photos.isEmpty()) {
-        failure = {{LayoutFault::Kind::NoPages, 0},
-                   tr("None of the %1 pages is among those to be printed. Choose other pages.")
-                       .arg(QLocale().toString(photos.size())),
-                   {}};
+        const QString text =
+            photos.size() == 1 ? tr("The only page is not among those to be printed. Choose other pages.")
+                               : tr("None of the %1 pages is among those to be printed. Choose other pages.")
+                                     .arg(QLocale().toString(photos.size()));
+        failure = {{LayoutFault::Kind::NoPages, 0}, text, {}};
         add(PageChoice::Which::All);
     }
     SheetPlan plan = SheetPlan::make(items, layout, page);

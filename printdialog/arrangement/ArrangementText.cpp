@@ -3,8 +3,11 @@
 
 #include "ArrangementText.h"
 
+#include "PlainText.h"
+
 #include <QtCore/QCoreApplication>
 #include <QtCore/QLocale>
+#include <QtCore/QSet>
 #include <QtCore/QStringList>
 
 #include <algorithm>
@@ -116,16 +119,29 @@ QString pagesBeyondText(const Arrangement &arrangement)
     if (arrangement.pages.which != PageChoice::Which::Ranges || arrangement.pages.ranges.isEmpty())
         return {};
     int last = 0; // of the longest document
+    QSet<FileIdentity> printed;
     for (const PlacedPhoto &placed : arrangement.photos) {
-        if (const Document *document = placed.photo.document())
-            last = std::max(last, document->pageCount());
+        const Document *document = placed.photo.document();
+        last = std::max(last, document ? document->pageCount() : 0);
+        if (document && arrangement.pages.contains(placed.photo.page() + 1))
+            printed.insert(placed.photo.identity());
     }
+    if (printed.isEmpty())
+        return {};
     const PageRanges::Range wanted = arrangement.pages.ranges.ranges().constLast();
     const int end = wanted.last == PageRanges::largestNumber ? wanted.first : wanted.last;
-    const bool isSomeThere = arrangement.pages.ranges.ranges().constFirst().first <= last;
-    return isSomeThere && end > last
-               ? Text::tr("There are no pages after page %1.").arg(QLocale().toString(last))
-               : QString();
+    QStringList sentences;
+    if (end > last)
+        sentences += Text::tr("There are no pages after page %1.").arg(QLocale().toString(last));
+    for (const PlacedPhoto &placed : arrangement.photos) {
+        if (!placed.photo.document() || printed.contains(placed.photo.identity()))
+            continue;
+        printed.insert(placed.photo.identity()); // is named once
+        sentences +=
+            Text::tr("No page of \"%1\" is printed.").arg(plainText(placed.photo.fileName(), shownTextLimit));
+    }
+    constexpr qsizetype most = 3; // lines of a narrow window
+    return sentences.first(qMin(most, sentences.size())).join(u' ');
 }
 
 QString contentText(const Arrangement &arrangement)

@@ -22,8 +22,8 @@ QString placementText(const QList<PlacementChoice> &placements);
 QString layoutText(const SheetLayout &layout);
 /// A choice of pages in words: "1-3, 7, odd pages only, last one first"; empty for all.
 QString pagesText(const PageChoice &pages);
-/// A sentence about wanted pages that are behind the end of all documents, beside others; empty without
-/// such.
+/// What is not printed beside the pages of the wanted ranges that are: those behind the end of all documents,
+/// and documents that end before the ranges begin. Empty without such.
 QString pagesBeyondText(const Arrangement &arrangement);
 /// What is to be printed: "3 photos", "12 pages", "3 photos and 12 pages".
 QString contentText(const Arrangement &arrangement);

@@ -141,6 +141,10 @@
         <comment>photos and pages</comment>
         <translation>%1 und %2</translation>
     </message>
+    <message>
+        <source>No page of &quot;%1&quot; is printed.</source>
+        <translation>Von „%1“ wird keine Seite gedruckt.</translation>
+    </message>
 </context>
 <context>
     <name>BatchRun</name>
@@ -2814,6 +2818,10 @@ Beispiele:
     <message>
         <source>None of the %1 pages is among those to be printed. Choose other pages.</source>
         <translation>Keine der %1 Seiten ist unter denen, die gedruckt werden sollen. Wählen Sie andere Seiten.</translation>
+    </message>
+    <message>
+        <source>The only page is not among those to be printed. Choose other pages.</source>
+        <translation>Die einzige Seite ist nicht unter denen, die gedruckt werden sollen. Wählen Sie andere Seiten.</translation>
     </message>
 </context>
 <context>

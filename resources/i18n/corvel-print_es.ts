@@ -141,6 +141,10 @@
         <comment>photos and pages</comment>
         <translation>%1 y %2</translation>
     </message>
+    <message>
+        <source>No page of &quot;%1&quot; is printed.</source>
+        <translation>No se imprime ninguna página de «%1».</translation>
+    </message>
 </context>
 <context>
     <name>BatchRun</name>
@@ -2813,6 +2817,10 @@ Ejemplos:
     <message>
         <source>None of the %1 pages is among those to be printed. Choose other pages.</source>
         <translation>Ninguna de las %1 páginas está entre las que se van a imprimir. Elija otras páginas.</translation>
+    </message>
+    <message>
+        <source>The only page is not among those to be printed. Choose other pages.</source>
+        <translation>La única página no está entre las que se van a imprimir. Elija otras páginas.</translation>
     </message>
 </context>
 <context>

@@ -141,6 +141,10 @@
         <comment>photos and pages</comment>
         <translation>%1 et %2</translation>
     </message>
+    <message>
+        <source>No page of &quot;%1&quot; is printed.</source>
+        <translation>Aucune page de « %1 » n’est imprimée.</translation>
+    </message>
 </context>
 <context>
     <name>BatchRun</name>
@@ -177,7 +181,7 @@
     </message>
     <message>
         <source>A booklet is printed on both sides, turned on the short edge. This printer does not do that itself: make one PDF of it with the built-in printer, then print the odd pages of that PDF, and the even ones on their backs.</source>
-        <translation>Un livret s’imprime recto verso, retourné sur le bord court. Cette imprimante ne le fait pas elle-même : faites-en un PDF avec l’imprimante intégrée, puis imprimez les pages impaires de ce PDF, et les paires à leur dos.</translation>
+        <translation>Un livret s’imprime recto verso, retourné sur le bord court. Cette imprimante ne le fait pas elle-même&#x202f;: faites-en un PDF avec l’imprimante intégrée, puis imprimez les pages impaires de ce PDF, et les paires à leur dos.</translation>
     </message>
 </context>
 <context>
@@ -2815,6 +2819,10 @@ Exemples&#x202f;:
     <message>
         <source>None of the %1 pages is among those to be printed. Choose other pages.</source>
         <translation>Aucune des %1 pages ne fait partie de celles à imprimer. Choisissez d’autres pages.</translation>
+    </message>
+    <message>
+        <source>The only page is not among those to be printed. Choose other pages.</source>
+        <translation>La seule page ne fait pas partie de celles à imprimer. Choisissez d’autres pages.</translation>
     </message>
 </context>
 <context>

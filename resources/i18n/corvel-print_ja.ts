@@ -139,6 +139,10 @@
         <comment>photos and pages</comment>
         <translation>%1と%2</translation>
     </message>
+    <message>
+        <source>No page of &quot;%1&quot; is printed.</source>
+        <translation>「%1」のページは 1 つも印刷されません。</translation>
+    </message>
 </context>
 <context>
     <name>BatchRun</name>
@@ -2806,6 +2810,10 @@ Examples:
     <message>
         <source>None of the %1 pages is among those to be printed. Choose other pages.</source>
         <translation>%1 ページのどれも印刷対象に含まれていません。別のページを選んでください。</translation>
+    </message>
+    <message>
+        <source>The only page is not among those to be printed. Choose other pages.</source>
+        <translation>唯一のページが印刷対象に含まれていません。別のページを選んでください。</translation>
     </message>
 </context>
 <context>

@@ -76,7 +76,10 @@ class DocumentsTest(ProgramTest):
             self.assertIn(line + "\n", done.out)
         done = run("--printer", "built-in", "--dry-run", "--pages", "6-90", self.report)
         self.assertEqual((done.status, done.err), (0, "corvel-print: There are no pages after page 7.\n"))
+        done = run("--printer", "built-in", "--dry-run", "--pages", "4-5", self.report, self.stored("two.pdf", pdf(2)))
+        self.assertEqual((done.status, done.err), (0, 'corvel-print: No page of "two.pdf" is printed.\n'))
         self.assert_refused(self.print("--pages", "8-", self.report), 1, "None of the 7 pages")
+        self.assert_refused(self.print("--pages", "2", self.stored("one.pdf", pdf(1))), 1, "The only page is not")
         self.assert_refused(self.print("--pages", "1", PHOTO), 1, "--pages")
 
     def test_names_all_documents_of_a_job(self):
