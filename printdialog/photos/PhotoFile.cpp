@@ -101,7 +101,7 @@ Result<PhotoFile, PhotoFault> PhotoFile::open(const QString &path)
     if (status.st_size == 0)
         return Failure<PhotoFault>{
             PhotoFault::Empty,
-            tr("\"%1\" is empty. Copy the photo again from where it came from.").arg(plainText(path)),
+            tr("\"%1\" is empty. Copy the file again from where it came from.").arg(plainText(path)),
             {}};
     file.identity_ = identityOf(status);
     return file;

@@ -180,8 +180,9 @@ Failure<PhotoFault> PhotoFormat::failure(const QString &path) const
                     .arg(name, text_, readableTexts()),
                 {}};
     return {PhotoFault::UnknownType,
-            tr("\"%1\" is not a photo of a known kind, whatever its name says. Save it as one of these: %2.")
-                .arg(name, readableTexts()),
+            tr("\"%1\" is not a photo or document of a known kind, whatever its name says. Save it as one of "
+               "these: %2.")
+                .arg(name, readableTexts() + QLatin1String(", PDF")),
             {}};
 }
 

@@ -3962,12 +3962,12 @@ Beispiele:
         <translation>„%1“ ist keine Datei, sondern ein Gerät, eine Pipe oder ein Socket. Wählen Sie ein Foto.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is empty. Copy the photo again from where it came from.</source>
-        <translation>„%1“ ist leer. Kopieren Sie das Foto erneut von der Quelle.</translation>
-    </message>
-    <message>
         <source>&quot;%1&quot; has changed since it was opened. Add it again.</source>
         <translation>„%1“ hat sich geändert, seit es geöffnet wurde. Fügen Sie es erneut hinzu.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is empty. Copy the file again from where it came from.</source>
+        <translation>„%1“ ist leer. Kopieren Sie die Datei erneut von der Quelle.</translation>
     </message>
 </context>
 <context>
@@ -3985,8 +3985,8 @@ Beispiele:
         <translation>„%1“ hat das Format %2, das nicht gedruckt werden kann. Speichern Sie es in einem von diesen: %3.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is not a photo of a known kind, whatever its name says. Save it as one of these: %2.</source>
-        <translation>„%1“ ist kein Foto einer bekannten Art, wie es auch heißt. Speichern Sie es in einem von diesen Formaten: %2.</translation>
+        <source>&quot;%1&quot; is not a photo or document of a known kind, whatever its name says. Save it as one of these: %2.</source>
+        <translation>„%1“ ist weder Foto noch Dokument einer bekannten Art, wie es auch heißt. Speichern Sie es in einem von diesen Formaten: %2.</translation>
     </message>
 </context>
 <context>

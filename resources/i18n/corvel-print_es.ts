@@ -3961,12 +3961,12 @@ Ejemplos:
         <translation>«%1» no es un archivo, sino un dispositivo, una tubería o un socket. Elija una foto.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is empty. Copy the photo again from where it came from.</source>
-        <translation>«%1» está vacía. Copie de nuevo la foto desde su origen.</translation>
-    </message>
-    <message>
         <source>&quot;%1&quot; has changed since it was opened. Add it again.</source>
         <translation>«%1» ha cambiado desde que se abrió. Añádala de nuevo.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is empty. Copy the file again from where it came from.</source>
+        <translation>«%1» está vacío. Copie de nuevo el archivo desde su origen.</translation>
     </message>
 </context>
 <context>
@@ -3984,8 +3984,8 @@ Ejemplos:
         <translation>«%1» está en el formato %2, que no se puede imprimir. Guárdelo en uno de estos: %3.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is not a photo of a known kind, whatever its name says. Save it as one of these: %2.</source>
-        <translation>«%1» no es una foto de un tipo conocido, sea cual sea su nombre. Guárdelo en uno de estos formatos: %2.</translation>
+        <source>&quot;%1&quot; is not a photo or document of a known kind, whatever its name says. Save it as one of these: %2.</source>
+        <translation>«%1» no es una foto ni un documento de un tipo conocido, sea cual sea su nombre. Guárdelo en uno de estos formatos: %2.</translation>
     </message>
 </context>
 <context>

@@ -143,7 +143,7 @@
     </message>
     <message>
         <source>No page of &quot;%1&quot; is printed.</source>
-        <translation>Aucune page de « %1 » n’est imprimée.</translation>
+        <translation>Aucune page de «&#x202f;%1&#x202f;» n’est imprimée.</translation>
     </message>
 </context>
 <context>
@@ -3963,12 +3963,12 @@ Exemples&#x202f;:
         <translation>«&#x202f;%1&#x202f;» n’est pas un fichier mais un périphérique, un tube ou un socket. Choisissez une photo.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is empty. Copy the photo again from where it came from.</source>
-        <translation>«&#x202f;%1&#x202f;» est vide. Copiez de nouveau la photo depuis sa source.</translation>
-    </message>
-    <message>
         <source>&quot;%1&quot; has changed since it was opened. Add it again.</source>
         <translation>«&#x202f;%1&#x202f;» a changé depuis son ouverture. Ajoutez-la de nouveau.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is empty. Copy the file again from where it came from.</source>
+        <translation>« %1 » est vide. Copiez de nouveau le fichier depuis sa source.</translation>
     </message>
 </context>
 <context>
@@ -3986,8 +3986,8 @@ Exemples&#x202f;:
         <translation>«&#x202f;%1&#x202f;» est au format %2, qui ne peut pas être imprimé. Enregistrez le fichier dans l’un de ceux-ci&#x202f;: %3.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is not a photo of a known kind, whatever its name says. Save it as one of these: %2.</source>
-        <translation>«&#x202f;%1&#x202f;» n’est pas une photo d’un type connu, quel que soit son nom. Enregistrez le fichier dans l’un de ces formats&#x202f;: %2.</translation>
+        <source>&quot;%1&quot; is not a photo or document of a known kind, whatever its name says. Save it as one of these: %2.</source>
+        <translation>« %1 » n’est ni une photo ni un document d’un type connu, quel que soit son nom. Enregistrez le fichier dans l’un de ces formats : %2.</translation>
     </message>
 </context>
 <context>

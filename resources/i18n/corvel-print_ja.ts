@@ -3953,12 +3953,12 @@ Examples:
         <translation>「%1」はファイルではなく、デバイス、パイプ、またはソケットです。写真を選んでください。</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is empty. Copy the photo again from where it came from.</source>
-        <translation>「%1」は空です。元の場所から写真をもう一度コピーしてください。</translation>
-    </message>
-    <message>
         <source>&quot;%1&quot; has changed since it was opened. Add it again.</source>
         <translation>「%1」は開いた後に変更されました。もう一度追加してください。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is empty. Copy the file again from where it came from.</source>
+        <translation>「%1」は空です。元の場所からファイルをもう一度コピーしてください。</translation>
     </message>
 </context>
 <context>
@@ -3976,8 +3976,8 @@ Examples:
         <translation>「%1」は %2 形式で、印刷できません。次のいずれかの形式で保存してください: %3。</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is not a photo of a known kind, whatever its name says. Save it as one of these: %2.</source>
-        <translation>「%1」は、名前にかかわらず、既知の種類の写真ではありません。次のいずれかの形式で保存してください: %2。</translation>
+        <source>&quot;%1&quot; is not a photo or document of a known kind, whatever its name says. Save it as one of these: %2.</source>
+        <translation>「%1」は、名前にかかわらず、既知の種類の写真でも文書でもありません。次のいずれかの形式で保存してください: %2。</translation>
     </message>
 </context>
 <context>

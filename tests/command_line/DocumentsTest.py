@@ -81,6 +81,7 @@ class DocumentsTest(ProgramTest):
         self.assert_refused(self.print("--pages", "8-", self.report), 1, "None of the 7 pages")
         self.assert_refused(self.print("--pages", "2", self.stored("one.pdf", pdf(1))), 1, "The only page is not")
         self.assert_refused(self.print("--pages", "1", PHOTO), 1, "--pages")
+        self.assert_refused(self.print(self.stored("text.pdf", b"text")), 1, "document of a known kind", "PDF.\n")
 
     def test_names_all_documents_of_a_job(self):
         other = self.stored("letter.pdf", pdf(2))
