@@ -121,7 +121,7 @@ private:
     {
         return QStringLiteral("org.freedesktop.impl.portal.desktop.") + backEnd;
     }
-    QString handle() const { return QStringLiteral("/request/%1").arg(calls_); }
+    QString handle() const { return portalPath + QStringLiteral("/request/bench/%1").arg(calls_); }
 
     /// All calls begin with the handle, the program's id, its window and the title.
     void call(const QString &backEnd, const QString &method, const QVariantList &arguments)
