@@ -3968,7 +3968,7 @@ Exemples&#x202f;:
     </message>
     <message>
         <source>&quot;%1&quot; is empty. Copy the file again from where it came from.</source>
-        <translation>« %1 » est vide. Copiez de nouveau le fichier depuis sa source.</translation>
+        <translation>«&#x202f;%1&#x202f;» est vide. Copiez de nouveau le fichier depuis sa source.</translation>
     </message>
 </context>
 <context>
@@ -3987,7 +3987,7 @@ Exemples&#x202f;:
     </message>
     <message>
         <source>&quot;%1&quot; is not a photo or document of a known kind, whatever its name says. Save it as one of these: %2.</source>
-        <translation>« %1 » n’est ni une photo ni un document d’un type connu, quel que soit son nom. Enregistrez le fichier dans l’un de ces formats : %2.</translation>
+        <translation>«&#x202f;%1&#x202f;» n’est ni une photo ni un document d’un type connu, quel que soit son nom. Enregistrez le fichier dans l’un de ces formats&#x202f;: %2.</translation>
     </message>
 </context>
 <context>
