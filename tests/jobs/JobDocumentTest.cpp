@@ -18,16 +18,19 @@ namespace {
 
 const PageGeometry sheet{{200, 100}, QRectF(0, 0, 200, 100)};
 
-/// A red, a green and a blue page.
-QByteArray colors(const QByteArray &size = "200 100")
+/// A red, a green and a blue page, each from its left edge to a little behind the middle of the paper.
+QByteArray colors(int width = 200)
 {
     QList<pdf_samples::Page> pages;
+    const QByteArray end = QByteArray::number(width / 2 + 2);
     for (const char *color : {"1 0 0", "0 1 0", "0 0 1"})
-        pages += {QByteArray(color) + " rg 0 0 400 100 re f", "/MediaBox [0 0 " + size + "]"};
+        pages += {color + QByteArray(" rg 0 0 ") + end + " 100 re f",
+                  "/MediaBox [0 0 " + QByteArray::number(width) + " 100]"};
     return pdf_samples::withPages(pages);
 }
 
-/// A letter for each page's color, "-" for an empty one; with ">" behind those whose left edge is empty.
+/// A letter for each page's color, "-" for an empty one; with ">" behind those that have been moved to the
+/// right.
 QString pagesOf(const QByteArray &pdf)
 {
     const auto document = Document::open(memoryWith(pdf), u"sent"_s);
@@ -42,7 +45,7 @@ QString pagesOf(const QByteArray &pdf)
                                               : u'-';
         };
         pages += letter(100);
-        if (letter(100) != letter(1))
+        if (letter(100) != u'-' && letter(1) == u'-' && letter(104) != u'-')
             pages += u'>';
     }
     return pages;
@@ -83,7 +86,7 @@ private Q_SLOTS:
             },
             u"r>g>b>"_s);
         add(
-            "turned", [](Asked &asked) { asked.arrangement.photos[0].placement.turns = 2; }, u"rgb"_s);
+            "turned", [](Asked &asked) { asked.arrangement.photos[0].placement.turns = 2; }, u"r>gb"_s);
         add(
             "on paper of another size",
             [](Asked &asked) {
@@ -116,7 +119,11 @@ private Q_SLOTS:
             },
             u"b-rg"_s);
         add(
-            "without a queue's options", [](Asked &asked) { asked.job.ppd = QByteArray(); },
+            "to a printer that takes files as they are",
+            [](Asked &asked) {
+                asked.job.ppd = QByteArray();
+                asked.job.page = {{300, 200}, QRectF(0, 0, 300, 200)};
+            },
             u"the document"_s);
     }
 
@@ -148,7 +155,7 @@ private Q_SLOTS:
     /// What is cut off is cut off where the page has been moved to.
     void movesWhatIsCutOff()
     {
-        const auto document = Document::open(memoryWith(colors("400 100")), u"wide"_s);
+        const auto document = Document::open(memoryWith(colors(400)), u"wide"_s);
         QVERIFY(document);
         Asked asked{{{PlacedPhoto{Photo::ofPage(*document, 0), {Scaling::Fill}}}}, {}};
         asked.job.page = sheet;
