@@ -6,6 +6,7 @@
 #include "PdfSamples.h"
 #include "PhotoPane.h"
 #include "PhotoTable.h"
+#include "PreviewWidget.h"
 #include "ProgramDocument.h"
 #include "Rows.h"
 #include "SamplePhotos.h"
@@ -348,6 +349,56 @@ private Q_SLOTS:
             made->arrangement.pages,
             (PageChoice{PageChoice::Which::Ranges, *PageRanges::fromText(u"2-900"_s), PageChoice::Set::Odd}));
         QCOMPARE(made->arrangement.layout.pagesPerSheet, 4);
+    }
+
+    // They lie where the pages will.
+    void outlinesOfPagesToCome_data()
+    {
+        addRows<QString, QSize, int>({{"of another size", u"One"_s, QSize(300, 300), 1},
+                                      {"two on a sheet", u"2"_s, QSize(595, 842), 2},
+                                      {"six wide ones", u"6"_s, QSize(842, 595), 6},
+                                      {"booklet", u"Booklet"_s, QSize(595, 842), 2}});
+    }
+
+    void outlinesOfPagesToCome()
+    {
+        const auto [layout, size, count] = row<QString, QSize, int>();
+        const QTemporaryDir folder;
+        const QString path = folder.filePath(u"page.pdf"_s);
+        const QString box = u"/MediaBox [0 0 %1 %2]"_s.arg(size.width()).arg(size.height());
+        samples::store(path, pdf_samples::withPages({{{}, box.toLatin1()}}));
+        PrintDialogSetup setup = setupFor(PanelMode::Constraint);
+        setup.ppdFile = QStringLiteral(CORVEL_LASER_PPD);
+        setup.photos = QList<Photo>(8, Photo::openAll(path)->constFirst());
+        const DocumentDialog brought(setup);
+        brought.choose(u"layoutKind"_s, layout);
+        // The first side of a booklet has its last page, and the first one.
+        const auto laid = brought.pane->plan().sheets().constFirst().photos;
+        QCOMPARE(laid.size(), count);
+
+        setup.photos.clear();
+        setup.program = ProgramDocument{u"Writer"_s, u"Letter"_s, {}};
+        setup.program->pageSize = size;
+        const DocumentDialog opened(setup);
+        opened.choose(u"layoutKind"_s, layout);
+        const auto *preview = opened.pane->findChild<PreviewWidget *>();
+        const QImage shown = opened.find<QWidget>(u"preview"_s)->grab().toImage();
+        const auto isLine = [&shown](const QPointF &place) { // of a pixel, which may lie between two
+            for (const QPoint step : {QPoint(0, 0), QPoint(1, 1), QPoint(-1, -1)}) {
+                if (qGray(shown.pixel(place.toPoint() + step)) < 0xf0)
+                    return true;
+            }
+            return false;
+        };
+        constexpr double share = 0.1; // of a side, far from the number and from other outlines
+        for (const LaidPhoto &each : laid) {
+            const QRectF outline =
+                preview->pageToWidget().mapRect(each.placement.target & each.placement.clip);
+            const QPointF inside(outline.width() * share, outline.height() * share);
+            QVERIFY(isLine({outline.left(), outline.top() + inside.y()}));
+            QVERIFY(isLine({outline.left() + inside.x(), outline.bottom()}));
+            QVERIFY(!isLine(outline.topLeft() + inside));
+        }
     }
 
     // A list names files.
