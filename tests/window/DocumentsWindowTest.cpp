@@ -351,6 +351,18 @@ private Q_SLOTS:
         QCOMPARE(made->arrangement.layout.pagesPerSheet, 4);
     }
 
+    // The program would not learn that nothing was printed.
+    void layoutThatPagesToComeCannotHave()
+    {
+        PrintDialogSetup setup = setupFor(PanelMode::Constraint);
+        setup.photos.clear();
+        setup.program = ProgramDocument{u"Writer"_s, u"Letter"_s, {}};
+        const DocumentDialog opened(setup);
+        opened.choose(u"layoutKind"_s, u"As many"_s);
+        QVERIFY2(opened.note().contains(u"need that size"_s), qPrintable(opened.note()));
+        QVERIFY(!opened.find<QPushButton>(u"print"_s)->isEnabled());
+    }
+
     // They lie where the pages will.
     void outlinesOfPagesToCome_data()
     {

@@ -189,7 +189,7 @@ void PhotoPane::place(const PlacementChoice &choice)
 
 QString PhotoPane::whyNotPrintable() const
 {
-    return plan_.failure() ? plan_.failure()->text : QString();
+    return plan_.failure() ? plan_.failure()->text : expectedFailure_;
 }
 
 bool PhotoPane::finishTyping()
@@ -270,6 +270,8 @@ void PhotoPane::updatePlan()
 {
     const Arrangement planned = isPlacedByPrinter_ ? arrangement().unplaced() : arrangement();
     plan_ = page_.printed().isEmpty() || planned.photos.isEmpty() ? SheetPlan() : planned.plan(page_);
+    if (awaited_)
+        showExpectedPages();
     const bool isUsual =
         planned.photos.isEmpty() || (arrangement().layout == SheetLayout() && model_->count() == 1);
     QString note = whyNotPrintable();
@@ -277,8 +279,6 @@ void PhotoPane::updatePlan()
         note = sheetsText(planned);
     planNote_->setText(note);
     planNote_->setVisible(!note.isEmpty());
-    if (awaited_)
-        showExpectedPages();
     Q_EMIT planChanged();
 }
 

@@ -195,6 +195,7 @@ private:
         QSizeF size;
     };
     std::optional<AwaitedPages> awaited_;
+    QString expectedFailure_; ///< Why the pages that a program will bring cannot be printed.
 };
 
 } // namespace printdialog

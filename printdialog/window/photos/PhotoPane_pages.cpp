@@ -51,9 +51,11 @@ void PhotoPane::showPageControls()
     eachPage_->setVisible(model_->isOneDocument() && pages > 1);
 }
 
-/// Those of the first side, as if there were enough of them.
+/// Those of the first side, as if there were enough of them. What is not possible with them is said before
+/// the program brings its own.
 void PhotoPane::showExpectedPages()
 {
+    expectedFailure_.clear();
     constexpr int enough = std::ranges::max(SheetLayout::pagesPerSheetChoices);
     QList<PreviewWidget::ExpectedPage> pages;
     if (model_->count() == 0 && !page_.printed().isEmpty()) {
@@ -62,6 +64,8 @@ void PhotoPane::showExpectedPages()
         const int count = layout.kind == SheetLayout::Kind::Booklet ? 4 : enough;
         const LayoutItem page{size, pointsPerInch, model_->style().placement, 1, true};
         const SheetPlan plan = SheetPlan::make(QList<LayoutItem>(count, page), layout, page_);
+        if (plan.failure())
+            expectedFailure_ = plan.failure()->text;
         for (const LaidPhoto &laid : plan.sheets().constFirst().photos)
             pages += PreviewWidget::ExpectedPage{laid.placement, static_cast<int>(laid.item) + 1};
     }
