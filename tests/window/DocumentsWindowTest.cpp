@@ -156,6 +156,7 @@ private Q_SLOTS:
         QCOMPARE(opened.sheets(), u"1 2 3 4 5 6"_s);
         act(opened);
         QCOMPARE(opened.sheets(), sheets);
+        QVERIFY2(!opened.caption().contains(u"not printed"_s), qPrintable(opened.caption()));
         opened.undo();
         QCOMPARE(opened.sheets(), u"1 2 3 4 5 6"_s);
         opened.redo();
@@ -183,6 +184,10 @@ private Q_SLOTS:
         QTest::keyClicks(field, u"70"_s);
         QVERIFY(!opened.find<QPushButton>(u"print"_s)->isEnabled());
         QVERIFY2(opened.note().contains(u"None of the 6 pages"_s), qPrintable(opened.note()));
+        field->selectAll();
+        QTest::keyClicks(field, u"x"_s);
+        opened.click(u"undo"_s);
+        QCOMPARE(PageRanges::fromText(field->text()), opened.pane->arrangement().pages.ranges);
     }
 
     // A click on Print also leaves the field.
@@ -253,6 +258,11 @@ private Q_SLOTS:
         for (int i = 0; i < 4; ++i)
             opened.undo();
         QCOMPARE(turned(), u"000000"_s);
+        QTest::keyClick(table, Qt::Key_Home);
+        QTest::keyClick(table, Qt::Key_Right, Qt::AltModifier);
+        QCOMPARE(opened.sheets(), u"2 1 3 4 5 6"_s);
+        opened.dialog->reject(); // this order would be lost
+        QVERIFY2(opened.message().contains(u"arranged and not printed"_s), qPrintable(opened.message()));
     }
 
     void mixed()
@@ -264,6 +274,9 @@ private Q_SLOTS:
                  u"1 photo(s) and 3 page(s) of this job"_s);
         opened.typeRanges(u"2"_s);
         QCOMPARE(opened.sheets(), u"0 2"_s);
+        opened.find<QAbstractButton>(u"nextSheet"_s)->click();
+        QVERIFY(opened.find<QComboBox>(u"pages"_s)->findText(u"Current page"_s) <
+                0); // which would leave out the photo
         opened.click(u"print"_s);
         QTRY_VERIFY(QFile::exists(opened.folder.filePath(u"out/report.pdf"_s)));
         QTRY_VERIFY(QFile::exists(opened.folder.filePath(u"out/sample.pdf"_s)));
@@ -488,10 +501,21 @@ private Q_SLOTS:
         QVERIFY2(says(dialog).contains(u"does not open"_s), qPrintable(says(dialog)));
         answer(dialog, u"secret"_s);
         QTRY_COMPARE(opened.sheets(), u"0 0 1 2"_s);
-        opened.pane->addFiles({setup.furtherPaths.at(0), folder.filePath(u"plain.pdf"_s)});
+        const QString other = folder.filePath(u"other.pdf"_s);
+        QVERIFY(QFile::copy(setup.furtherPaths.at(0), other));
+        opened.pane->addFiles({setup.furtherPaths.at(0), other, folder.filePath(u"plain.pdf"_s)});
         dialog = prompt(opened);
         QVERIFY(dialog);
         QTRY_COMPARE(opened.sheets(), u"0 0 1 2 1 2"_s);
+        answer(dialog, u"Secret"_s);
+        dialog = prompt(opened);
+        QVERIFY(dialog);
+        QVERIFY2(says(dialog).contains(u"does not open \"locked.pdf\""_s), qPrintable(says(dialog)));
+        QTest::keyClick(dialog, Qt::Key_Escape);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        dialog = prompt(opened);
+        QVERIFY(dialog);
+        QVERIFY2(says(dialog).contains(u"\"other.pdf\" is protected"_s), qPrintable(says(dialog)));
         QTest::keyClick(dialog, Qt::Key_Escape); // is left out
         QTRY_VERIFY(!opened.dialog->findChild<QDialog *>(u"documentPassword"_s));
         QVERIFY(opened.message().isEmpty());

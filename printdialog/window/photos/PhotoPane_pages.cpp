@@ -37,7 +37,9 @@ void PhotoPane::showPageControls()
     if (!arePagesOffered_) {
         const PlacedPhoto *current = model_->currentPhoto();
         const bool isPage = current && current->photo.document();
-        pages_->setOffered(isPage || arrangement().pages.which == PageChoice::Which::Current, false);
+        // A page's number holds for each document, and no number leaves out a photo.
+        const bool isAlone = isPage && model_->isOneDocument();
+        pages_->setOffered(isAlone || arrangement().pages.which == PageChoice::Which::Current, false);
         pages_->setCurrentPage(isPage ? current->photo.page() + 1 : 1);
     }
     pages_->setChoice(arrangement().pages);
