@@ -272,6 +272,8 @@ private Q_SLOTS:
         const DocumentDialog opened(setup);
         QCOMPARE(opened.pane->findChild<PhotoTable *>()->accessibleName(),
                  u"1 photo(s) and 3 page(s) of this job"_s);
+        QVERIFY(!opened.isSeen(u"eachPage"_s)); // the table is there anyway
+        QCOMPARE(opened.find<QComboBox>(u"documents"_s)->itemText(0), u"PDFs named after the files"_s);
         opened.typeRanges(u"2"_s);
         QCOMPARE(opened.sheets(), u"0 2"_s);
         opened.find<QAbstractButton>(u"nextSheet"_s)->click();
