@@ -131,6 +131,7 @@ Q_SIGNALS:
     void placementChanged();
 
 private:
+    QList<int> allIndexes() const;
     using Name = std::pair<QString, int>; ///< A file's path, and a page of it or -1.
 
     static Name nameOf(const PlacedPhoto &placed) { return {placed.photo.path(), placed.photo.page()}; }
