@@ -161,13 +161,16 @@ private Q_SLOTS:
             QVERIFY(renderPage(*document, document->pageCount() - 1, {40, 20}));
     }
 
-    void refusesWhatIsNoFile()
+    void refusesWhatIsNoFileOrTooLarge()
     {
         const QString pipe = folder_.filePath(u"pipe"_s);
         QCOMPARE(::mkfifo(qPrintable(pipe), 0600), 0);
-        for (const auto &[path, reason] : {std::pair(folder_.filePath(u"none"_s), DocumentFault::NotFound),
-                                           std::pair(folder_.path(), DocumentFault::NotReadable),
-                                           std::pair(pipe, DocumentFault::NotReadable)}) {
+        const QString large = written("%PDF-1.7\n", u"large.pdf"_s);
+        QVERIFY(QFile::resize(large, Document::largestFile + 1)); // without blocks on the disk
+        for (const auto &[path, reason] :
+             {std::pair(folder_.filePath(u"none"_s), DocumentFault::NotFound),
+              std::pair(folder_.path(), DocumentFault::NotReadable),
+              std::pair(pipe, DocumentFault::NotReadable), std::pair(large, DocumentFault::TooLarge)}) {
             const auto document = Document::open(path);
             QVERIFY(!document);
             QCOMPARE(document.failure().reason, reason);
