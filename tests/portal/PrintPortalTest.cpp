@@ -418,6 +418,21 @@ private Q_SLOTS:
         closeNotice();
     }
 
+    void onlySoManyAreServedAtOnce()
+    {
+        auto pipe = pdekit::Pipe::make();
+        QList<Reply> open;
+        for (qsizetype i = 0; i < PrintPortal::mostCalls; ++i)
+            open += call(u"Print"_s, {u"org.example.Viewer"_s, u""_s, u"Print"_s,
+                                      QVariant::fromValue(QDBusUnixFileDescriptor(pipe->reading.number())),
+                                      QVariantMap()});
+        QVERIFY(isAnswered(prepare(), 2));
+        for (int number = 1; number <= PrintPortal::mostCalls; ++number)
+            closeCall(number);
+        for (const Reply &reply : std::as_const(open))
+            QVERIFY(isAnswered(reply, 1));
+    }
+
     /// Programs end as soon as they have handed over the document: the user has printed it by then.
     void aPreparedDocumentIsPrintedWithoutItsProgram()
     {
