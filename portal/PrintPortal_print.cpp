@@ -147,7 +147,7 @@ void PrintPortal::run(PortalRun *started, const QString &name)
         runs_.removeOne(started);
         started->deleteLater();
         if (!trouble.isEmpty())
-            notice_->show(tr("%1 was not printed").arg(name), trouble);
+            notice_->show(tr("Problem with printing %1").arg(name), trouble);
         update();
     });
     update();

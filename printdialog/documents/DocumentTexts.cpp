@@ -93,7 +93,8 @@ Failure<DocumentFault> DocumentTexts::tooLarge(qint64 size, const QString &name)
 Failure<DocumentFault> DocumentTexts::tooManyPages(const QString &name)
 {
     return {DocumentFault::TooLarge,
-            tr("\"%1\" has more than %L2 pages. Save it in parts.").arg(shown(name)).arg(Document::mostPages),
+            tr("\"%1\" has more than %L2 pages. Save it in parts.")
+                .arg(shown(name), QLocale().toString(Document::mostPages)),
             {}};
 }
 

@@ -4760,6 +4760,10 @@ Beispiele:
         <source>%1 was not printed</source>
         <translation>%1 wurde nicht gedruckt</translation>
     </message>
+    <message>
+        <source>Problem with printing %1</source>
+        <translation>Problem beim Drucken von %1</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::PrintPositionWindow</name>

@@ -4759,6 +4759,10 @@ Ejemplos:
         <source>%1 was not printed</source>
         <translation>%1 no se ha impreso</translation>
     </message>
+    <message>
+        <source>Problem with printing %1</source>
+        <translation>Problema al imprimir %1</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::PrintPositionWindow</name>

@@ -4761,6 +4761,10 @@ Exemples&#x202f;:
         <source>%1 was not printed</source>
         <translation>%1 n’a pas été imprimé</translation>
     </message>
+    <message>
+        <source>Problem with printing %1</source>
+        <translation>Problème d’impression de %1</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::PrintPositionWindow</name>

@@ -4748,6 +4748,10 @@ Examples:
         <source>%1 was not printed</source>
         <translation>%1 は印刷されていません</translation>
     </message>
+    <message>
+        <source>Problem with printing %1</source>
+        <translation>%1 の印刷で問題が発生しました</translation>
+    </message>
 </context>
 <context>
     <name>printdialog::PrintPositionWindow</name>

@@ -4,7 +4,7 @@
 //
 // corvel-pdf-pages: reads the structure of PDFs and writes it with libqpdf, in a process without rights, so
 // that a hostile PDF ends this process at most. See PagesMessages.h for what it is asked. Exit status: 0, it
-// has answered; 2, no sandbox is available; 3, it was not asked properly. Run by PagesProgram.
+// has answered; 2, no sandbox is available; 3, it was not asked properly. Run by runPages().
 
 #include "PagesJobs.h"
 #include "Sandbox.h"
