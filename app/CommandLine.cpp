@@ -319,15 +319,26 @@ Result<CommandLine, UsageFault> CommandLine::parse(const QStringList &arguments)
     if (line.help || line.version)
         return line;
 
-    for (const UsageFailure &found :
-         {readPhotos(parser.positionalArguments(), line.photos), readCopies(parser, line.copies),
-          readValue(parser, "printer", line.printer), readValue(parser, "ppd", line.ppd),
-          readPreset(parser, line), readValue(parser, "watch", line.watch),
-          readValue(parser, "printed", line.printed), readOutput(parser, line), readTitle(parser, line),
-          readValue(parser, "screenshot", line.screenshot), readPreview(parser, line.preview),
-          readServer(parser, line.server), readWait(parser, line.wait), readMode(parser, line.mode),
-          readSheets(parser, line.style), readPages(parser, line.pages), readCrop(parser, line.style),
-          readChoices(parser, line.options), readPortal(parser, line.portal), commandLineContradiction(line)}) {
+    for (const UsageFailure &found : {readPhotos(parser.positionalArguments(), line.photos),
+                                      readCopies(parser, line.copies),
+                                      readValue(parser, "printer", line.printer),
+                                      readValue(parser, "ppd", line.ppd),
+                                      readPreset(parser, line),
+                                      readValue(parser, "watch", line.watch),
+                                      readValue(parser, "printed", line.printed),
+                                      readOutput(parser, line),
+                                      readTitle(parser, line),
+                                      readValue(parser, "screenshot", line.screenshot),
+                                      readPreview(parser, line.preview),
+                                      readServer(parser, line.server),
+                                      readWait(parser, line.wait),
+                                      readMode(parser, line.mode),
+                                      readSheets(parser, line.style),
+                                      readPages(parser, line.pages),
+                                      readCrop(parser, line.style),
+                                      readChoices(parser, line.options),
+                                      readPortal(parser, line.portal),
+                                      commandLineContradiction(line)}) {
         if (found)
             return *found;
     }

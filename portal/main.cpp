@@ -56,8 +56,8 @@ PrintPortal::Settings settingsOf(const QStringList &arguments)
     return settings;
 }
 
-/// The first signal, which comes when the user logs out, lets what is being sent reach the printer; the second
-/// one ends the program at once.
+/// The first signal, which comes when the user logs out, lets what is being sent reach the printer; the
+/// second one ends the program at once.
 void endOnSignals(PrintPortal &portal)
 {
     static const int event = eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK);

@@ -72,7 +72,7 @@ public:
     /// The content to read pages from: without a password and repaired. A descriptor for reading at any
     /// offset (pread, mmap), valid as long as any copy of this document. Fault: Changed.
     Result<int, DocumentFault> content() const;
-    /// The same for a reader that refuses content(): written anew from what can be read. Made when it is
+    /// The same for a reader that refuses content(): written again from what can be read. Made when it is
     /// asked for the first time, which blocks; content() returns it from then on.
     Result<int, DocumentFault> rewrittenContent() const;
 

@@ -4215,7 +4215,7 @@ Beispiele:
 <context>
     <name>printdialog::PortalSettings</name>
     <message>
-        <source>The program&apos;s setting &quot;%1&quot; cannot be used: it is no plain text.</source>
+        <source>The program&apos;s setting &quot;%1&quot; cannot be used: it is not plain text.</source>
         <translation>Die Einstellung „%1“ des Programms ist nicht brauchbar: Sie ist kein einfacher Text.</translation>
     </message>
     <message>

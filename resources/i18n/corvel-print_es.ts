@@ -4214,7 +4214,7 @@ Ejemplos:
 <context>
     <name>printdialog::PortalSettings</name>
     <message>
-        <source>The program&apos;s setting &quot;%1&quot; cannot be used: it is no plain text.</source>
+        <source>The program&apos;s setting &quot;%1&quot; cannot be used: it is not plain text.</source>
         <translation>El ajuste «%1» del programa no se puede usar: no es texto sencillo.</translation>
     </message>
     <message>

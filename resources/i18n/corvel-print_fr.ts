@@ -4216,7 +4216,7 @@ Exemples&#x202f;:
 <context>
     <name>printdialog::PortalSettings</name>
     <message>
-        <source>The program&apos;s setting &quot;%1&quot; cannot be used: it is no plain text.</source>
+        <source>The program&apos;s setting &quot;%1&quot; cannot be used: it is not plain text.</source>
         <translation>Le réglage «&#xa0;%1&#xa0;» du programme est inutilisable&#xa0;: ce n’est pas du texte simple.</translation>
     </message>
     <message>

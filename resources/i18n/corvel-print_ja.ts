@@ -4204,7 +4204,7 @@ Examples:
 <context>
     <name>printdialog::PortalSettings</name>
     <message>
-        <source>The program&apos;s setting &quot;%1&quot; cannot be used: it is no plain text.</source>
+        <source>The program&apos;s setting &quot;%1&quot; cannot be used: it is not plain text.</source>
         <translation>プログラムの設定「%1」は、単純なテキストではないため使えません。</translation>
     </message>
     <message>

@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: Corvel print dialog authors
 // SPDX-License-Identifier: Apache-2.0
 //
-// cupsdRun PPD COMMAND...: runs a command beside a private print server with one queue, which has the PPD and is named
-// after its file. Of each job that the server prints, its backend leaves the folder $CORVEL_PRINTED/ID. Ends with the
-// command's exit status; 77 without a print server.
+// cupsdRun PPD COMMAND...: runs a command beside a private print server with one queue, which has the PPD and
+// is named after its file. Of each job that the server prints, its backend leaves the folder
+// $CORVEL_PRINTED/ID. Ends with the command's exit status; 77 without a print server.
 #include "PrivateCupsd.h"
 
 #include <QtCore/QCoreApplication>

@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: Corvel print dialog authors
 // SPDX-License-Identifier: Apache-2.0
 //
-// sandboxProbe FILE WITH: enters the sandbox with "opening" or with "output", the right to write to descriptor 3,
-// and tries what is forbidden in it. Exit status: 0 when nothing of it works and what is allowed does; else the
-// number of the first thing that went wrong.
+// sandboxProbe FILE WITH: enters the sandbox with "opening" or with "output", the right to write to
+// descriptor 3, and tries what is forbidden in it. Exit status: 0 when nothing of it works and what is
+// allowed does; else the number of the first thing that went wrong.
 
 #include "Sandbox.h"
 
