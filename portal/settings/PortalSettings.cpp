@@ -88,7 +88,8 @@ PortalSettings PortalSettings::read(const QVariantMap &settings, const QVariantM
         const QString key = plainText(entry.key(), shownPortalText);
         const auto value = portalText(*entry);
         if (!isKey(entry.key()) || !value) {
-            read.remarks_ += tr("The program's setting \"%1\" cannot be used: it is not plain text.").arg(key);
+            read.remarks_ +=
+                tr("The program's setting \"%1\" cannot be used: it is not plain text.").arg(key);
             continue;
         }
         read.entries_.insert(entry.key(), *value);
