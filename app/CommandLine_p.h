@@ -41,6 +41,8 @@ inline QString portalOption(PortalUse use)
 
 /// Every option with its value's name.
 void addCommandLineOptions(QCommandLineParser &parser);
+/// What the options and arguments say, with commandLineContradiction().
+UsageFailure readCommandLineValues(const QCommandLineParser &parser, CommandLine &line);
 /// Options that do not go together, and what is missing.
 UsageFailure commandLineContradiction(const CommandLine &line);
 
