@@ -53,7 +53,7 @@ public:
     /// at most for seconds: for a worker, or the command line. The text of a failure is a sentence for
     /// people.
     static Result<Document, DocumentFault> open(const QString &path, const QString &password = {});
-    /// The same for content that is no file of the user's: a regular file or a memfd, open for reading, which
+    /// The same for content without a path of the user's: a regular file or a memfd, open for reading, which
     /// nobody else writes to.
     /// @param name for people, such as the file name that it would have
     static Result<Document, DocumentFault> open(pdekit::FileDescriptor content, const QString &name,

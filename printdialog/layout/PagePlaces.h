@@ -8,7 +8,7 @@
 namespace printdialog {
 
 /// The places of pages that share a side of a sheet, in the order in which they are read; all of them lie the
-/// same way, so that the sheet is turned once to be read. None when there is no room.
+/// same way, so that the sheet is turned once to be read. Empty without room for them.
 /// @param count one of SheetLayout::pagesPerSheetChoices
 /// @param shape the size of the first page, in any unit
 QList<SheetPlace> pagePlaces(int count, double gap, const PageGeometry &page, const QSizeF &shape);
